@@ -1,0 +1,50 @@
+# Language level, warnings, sanitizers and hardening, for every target of the project.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+# Optimised, with assertions: tests and sanitizers see what ships, and a fault still stops the run.
+set(CMAKE_CXX_FLAGS_DEV "-O2 -g1" CACHE STRING "Flags of the Dev build type")
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+endif()
+
+add_library(quillseal_options INTERFACE)
+target_compile_options(quillseal_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+
+if(QUILLSEAL_SANITIZERS)
+  add_compile_options(-fsanitize=${QUILLSEAL_SANITIZERS} -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${QUILLSEAL_SANITIZERS})
+  if(QUILLSEAL_SANITIZERS MATCHES "undefined")
+    add_compile_options(-fno-sanitize-recover=undefined)
+  endif()
+endif()
+
+if(CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT QUILLSEAL_SANITIZERS)
+  include(CheckPIESupported)
+  check_pie_supported()
+  add_compile_options(-fstack-protector-strong)
+  if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
+    add_compile_options(-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3)
+    add_link_options(-Wl,-z,relro,-z,now)
+    if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
+      add_compile_options(-fcf-protection)
+    endif()
+  endif()
+endif()
+
+# One test program from its sources, registered with CTest.
+#   quillseal_add_test(NAME SOURCES... [LIBRARIES...])
+function(quillseal_add_test name)
+  cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "SOURCES;LIBRARIES")
+  find_package(GTest REQUIRED)
+  add_executable(${name} ${ARG_SOURCES})
+  target_link_libraries(${name} PRIVATE quillseal_options ${ARG_LIBRARIES} GTest::gmock GTest::gtest_main)
+  add_test(NAME ${name} COMMAND ${name})
+endfunction()

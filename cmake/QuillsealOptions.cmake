@@ -7,7 +7,7 @@ set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
 # Optimised, with assertions: tests and sanitizers see what ships, and a fault still stops the run.
-set(CMAKE_CXX_FLAGS_DEV "-O2 -g1" CACHE STRING "Flags of the Dev build type")
+set(CMAKE_CXX_FLAGS_DEV "-O2 -g1")
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)

@@ -1,0 +1,296 @@
+#include "Quillseal/UnicodeText.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <new>
+#include <stdexcept>
+
+#include <unicode/brkiter.h>
+#include <unicode/bytestream.h>
+#include <unicode/casemap.h>
+#include <unicode/locid.h>
+#include <unicode/uchar.h>
+#include <unicode/unistr.h>
+#include <unicode/utext.h>
+#include <unicode/utf8.h>
+
+namespace quillseal::unicode {
+namespace {
+
+constexpr char32_t replacementCharacter = 0xFFFD;
+constexpr std::string_view replacementBytes = "\xEF\xBF\xBD";
+
+const std::uint8_t* bytesOf(std::string_view text) {
+  return reinterpret_cast<const std::uint8_t*>(text.data());
+}
+
+/// ICU reports only two faults here: no memory, and no data files.
+void require(UErrorCode status) {
+  if (status == U_MEMORY_ALLOCATION_ERROR) throw std::bad_alloc();
+  if (U_FAILURE(status)) throw std::runtime_error(u_errorName(status));
+}
+
+bool isAsciiAt(std::string_view text, std::size_t index) {
+  return static_cast<unsigned char>(text[index]) < 0x80;
+}
+
+bool isLineBreakPairAt(std::string_view text, std::size_t index) {
+  return text[index] == '\r' && index + 1 < text.size() && text[index + 1] == '\n';
+}
+
+UGraphemeClusterBreak breakClass(char32_t scalar) {
+  return static_cast<UGraphemeClusterBreak>(
+      u_getIntPropertyValue(static_cast<UChar32>(scalar), UCHAR_GRAPHEME_CLUSTER_BREAK));
+}
+
+/// Whether `after` can stand in one character with `before`, where `before` is that character's
+/// first scalar. REQUIRES: not CR before LF.
+bool mayJoin(char32_t before, char32_t after) {
+  if (before < 0x80 && after < 0x80) return false;
+  switch (breakClass(after)) {
+    case U_GCB_OTHER:
+    case U_GCB_CONTROL:
+    case U_GCB_CR:
+    case U_GCB_LF:
+      return breakClass(before) == U_GCB_PREPEND;
+    case U_GCB_L:
+    case U_GCB_LV:
+    case U_GCB_LVT:
+      return breakClass(before) == U_GCB_PREPEND || breakClass(before) == U_GCB_L;
+    default:
+      return true;
+  }
+}
+
+/// Whether there is a boundary between the two, whatever stands before them.
+bool areAlwaysApart(char32_t before, char32_t after) {
+  if (before == '\r' && after == '\n') return false;
+  // A joiner or a mark may carry on what began before it.
+  if (before >= 0x80) {
+    const UGraphemeClusterBreak kind = breakClass(before);
+    if (kind != U_GCB_OTHER && kind != U_GCB_LV && kind != U_GCB_LVT) return false;
+  }
+  return !mayJoin(before, after);
+}
+
+/// The length of the character that starts at `index` when its first scalar and the next one
+/// decide it, else 0.
+std::size_t plainLengthAt(std::string_view text, std::size_t index) {
+  if (isLineBreakPairAt(text, index)) return 2;
+  std::size_t end = index;
+  const char32_t scalar = nextScalar(text, end);
+  if (end == text.size()) return end - index;
+  return mayJoin(scalar, firstScalar(text.substr(end))) ? 0 : end - index;
+}
+
+struct CloseText {
+  void operator()(UText* text) const { utext_close(text); }
+};
+
+/// Opening an iterator reads ICU's data; cloning this one does not.
+const icu::BreakIterator& characterIteratorPrototype() {
+  static const std::unique_ptr<icu::BreakIterator> prototype = [] {
+    UErrorCode status = U_ZERO_ERROR;
+    std::unique_ptr<icu::BreakIterator> iterator(
+        icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
+    require(status);
+    return iterator;
+  }();
+  return *prototype;
+}
+
+}  // namespace
+
+bool isAscii(std::string_view text) noexcept {
+  unsigned char all = 0;
+  for (const char byte : text)
+    all = static_cast<unsigned char>(all | static_cast<unsigned char>(byte));
+  return all < 0x80;
+}
+
+char32_t nextScalar(std::string_view text, std::size_t& position) noexcept {
+  UChar32 scalar = 0;
+  U8_NEXT_OR_FFFD(bytesOf(text), position, text.size(), scalar);
+  return static_cast<char32_t>(scalar);
+}
+
+char32_t previousScalar(std::string_view text, std::size_t& position) noexcept {
+  // The macro counts in 32 bits, and no scalar is longer than four bytes.
+  const std::size_t windowStart = position - std::min<std::size_t>(position, U8_MAX_LENGTH);
+  auto index = static_cast<std::int32_t>(position - windowStart);
+  UChar32 scalar = 0;
+  U8_PREV_OR_FFFD(bytesOf(text) + windowStart, 0, index, scalar);
+  position = windowStart + static_cast<std::size_t>(index);
+  return static_cast<char32_t>(scalar);
+}
+
+char32_t firstScalar(std::string_view text) noexcept {
+  std::size_t position = 0;
+  return nextScalar(text, position);
+}
+
+void append(std::string& text, char32_t scalar) {
+  if (scalar < 0x80) {
+    text.push_back(static_cast<char>(scalar));
+    return;
+  }
+  std::uint8_t bytes[U8_MAX_LENGTH];
+  std::int32_t length = 0;
+  UBool failed = false;
+  U8_APPEND(bytes, length, U8_MAX_LENGTH, static_cast<UChar32>(scalar), failed);
+  if (failed) {
+    text += replacementBytes;
+  } else {
+    text.append(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(length));
+  }
+}
+
+std::string wellFormed(std::string_view text) {
+  std::string result;
+  result.reserve(text.size());
+  std::size_t position = 0;
+  while (position < text.size()) {
+    const std::size_t start = position;
+    const char32_t scalar = nextScalar(text, position);
+    // A genuine U+FFFD appends the same bytes as a replacement.
+    if (scalar == replacementCharacter) {
+      result += replacementBytes;
+    } else {
+      result += text.substr(start, position - start);
+    }
+  }
+  return result;
+}
+
+bool isWhitespaceOrNewline(char32_t scalar) noexcept {
+  if (scalar < 0x80) return scalar == ' ' || (scalar >= 0x09 && scalar <= 0x0D);
+  if (scalar == 0x85) return true;
+  constexpr std::uint32_t separators = U_GC_ZS_MASK | U_GC_ZL_MASK | U_GC_ZP_MASK;
+  return (U_GET_GC_MASK(static_cast<UChar32>(scalar)) & separators) != 0;
+}
+
+std::string_view trimmed(std::string_view text) noexcept {
+  std::size_t start = 0;
+  while (start < text.size()) {
+    std::size_t behind = start;
+    if (!isWhitespaceOrNewline(nextScalar(text, behind))) break;
+    start = behind;
+  }
+  std::size_t end = text.size();
+  while (end > start) {
+    std::size_t before = end;
+    if (!isWhitespaceOrNewline(previousScalar(text, before))) break;
+    end = before;
+  }
+  return text.substr(start, end - start);
+}
+
+std::string lowercased(std::string_view text) {
+  std::string result;
+  icu::StringByteSink<std::string> sink(&result, static_cast<std::int32_t>(text.size()));
+  UErrorCode status = U_ZERO_ERROR;
+  icu::CaseMap::utf8ToLower("", 0, {text.data(), static_cast<std::int32_t>(text.size())}, sink,
+                            nullptr, status);
+  require(status);
+  return result;
+}
+
+std::string uppercased(std::string_view text) {
+  std::string result;
+  icu::StringByteSink<std::string> sink(&result, static_cast<std::int32_t>(text.size()));
+  UErrorCode status = U_ZERO_ERROR;
+  icu::CaseMap::utf8ToUpper("", 0, {text.data(), static_cast<std::int32_t>(text.size())}, sink,
+                            nullptr, status);
+  require(status);
+  return result;
+}
+
+std::size_t characterCount(std::string_view text) {
+  std::size_t count = 0;
+  for (CharacterCursor cursor(text); !cursor.atEnd();) {
+    count += cursor.nextAsciiCharacters().size();
+    if (cursor.atEnd()) break;
+    static_cast<void>(cursor.next());
+    ++count;
+  }
+  return count;
+}
+
+std::string_view firstCharacters(std::string_view text, std::size_t count) {
+  CharacterCursor cursor(text);
+  while (count > 0 && !cursor.atEnd()) {
+    static_cast<void>(cursor.next());
+    --count;
+  }
+  return text.substr(0, cursor.position());
+}
+
+std::string replacingAll(std::string_view text, std::string_view from, std::string_view to) {
+  std::string result;
+  result.reserve(text.size());
+  std::size_t start = 0;
+  for (std::size_t found = text.find(from); found != std::string_view::npos;
+       found = text.find(from, start)) {
+    result += text.substr(start, found - start);
+    result += to;
+    start = found + from.size();
+  }
+  result += text.substr(start);
+  return result;
+}
+
+struct CharacterCursor::Tables {
+  std::unique_ptr<UText, CloseText> text;
+  std::unique_ptr<icu::BreakIterator> iterator{characterIteratorPrototype().clone()};
+};
+
+CharacterCursor::CharacterCursor(std::string_view text) : text_(text) {}
+
+CharacterCursor::~CharacterCursor() = default;
+
+std::string_view CharacterCursor::next() {
+  const std::size_t start = position_;
+  const std::size_t plain = start >= stretchEnd_ ? plainLengthAt(text_, start) : 0;
+  position_ = plain > 0 ? start + plain : nextTableBoundary();
+  return text_.substr(start, position_ - start);
+}
+
+std::string_view CharacterCursor::nextAsciiCharacters() {
+  if (position_ < stretchEnd_) return {};
+  const std::size_t start = position_;
+  std::size_t end = start;
+  while (end < text_.size() && isAsciiAt(text_, end) && text_[end] != '\r')
+    ++end;
+  // What follows may extend the last one.
+  if (end > start && end < text_.size() && !isAsciiAt(text_, end)) --end;
+  position_ = end;
+  return text_.substr(start, end - start);
+}
+
+std::size_t CharacterCursor::nextTableBoundary() {
+  if (position_ >= stretchEnd_) {
+    // The tables need not see beyond a boundary that two scalars alone decide.
+    std::size_t end = position_;
+    char32_t before = nextScalar(text_, end);
+    while (end < text_.size()) {
+      std::size_t behind = end;
+      const char32_t after = nextScalar(text_, behind);
+      if (areAlwaysApart(before, after)) break;
+      before = after;
+      end = behind;
+    }
+    if (!tables_) tables_ = std::make_unique<Tables>();
+    UErrorCode status = U_ZERO_ERROR;
+    tables_->text.reset(utext_openUTF8(tables_->text.release(), text_.data() + position_,
+                                       static_cast<std::int64_t>(end - position_), &status));
+    tables_->iterator->setText(tables_->text.get(), status);
+    require(status);
+    stretchStart_ = position_;
+    stretchEnd_ = end;
+  }
+  const std::int32_t boundary = tables_->iterator->next();
+  return boundary == icu::BreakIterator::DONE ? stretchEnd_
+                                              : stretchStart_ + static_cast<std::size_t>(boundary);
+}
+
+}  // namespace quillseal::unicode

@@ -1,0 +1,380 @@
+#include <algorithm>
+#include <memory>
+#include <random>
+
+#include <gtest/gtest.h>
+#include <unicode/brkiter.h>
+#include <unicode/normalizer2.h>
+#include <unicode/regex.h>
+#include <unicode/uchar.h>
+#include <unicode/unistr.h>
+
+#include "Quillseal/CryptoManager.h"
+#include "Quillseal/UnicodeText.h"
+#include "RandomText.h"
+
+namespace quillseal::CryptoManager {
+namespace {
+
+const std::string emptyDigest = "e3b0c44298fc1c149afbf4c8996fb92427ae41e4649b934ca495991b7852b855";
+
+std::string repeated(std::string_view text, int times) {
+  std::string result;
+  for (int i = 0; i < times; ++i)
+    result += text;
+  return result;
+}
+
+TEST(NormalizeText, MapsEachClassOfScalars) {
+  const std::pair<std::string, std::string> cases[] = {
+      {"", ""},
+      {"Hello,  world!\n", "Hello,world!"},
+      {"“Don’t” — wait…", "\"Don't\"-wait..."},
+      {"a<b>c", "abc"},
+      {"e\u0301", "\u00E9"},
+      {" \u200B\u200F\u00A0\u2028\u202A\u202E\u2060\u206F\uFEFF\u00AD\u034F\u0085\t", ""},
+      {"\u2012\u2013\u2014\u2015", "----"},
+      {"\u2018\u2019\u201A\u201B\u02BC", "'''''"},
+      {"\u201C\u201D\u201E\u201F", "\"\"\"\""},
+      {"\u2010\u2011\u2016\u2017\u2020\u2025", "\u2010\u2011\u2016\u2017\u2020\u2025"},
+      {"\u2064\u2065\u2066\u2069\u2070", "\u2070"},
+      {"STRASSE Straße", "STRASSEStraße"},
+      {std::string("a\0b", 3), std::string("a\0b", 3)},
+      {"e\u200D\u0301", "e\u0301"},  // not composed again once the joiner is gone
+  };
+  for (const auto& [text, expected] : cases)
+    EXPECT_EQ(normalizeText(text), expected) << testing::escaped(text);
+}
+
+/// The same table, scalar by scalar over UTF-16, without a fast path.
+std::string plainlyNormalized(const std::string& text) {
+  UErrorCode status = U_ZERO_ERROR;
+  const icu::UnicodeString nfc = icu::Normalizer2::getNFCInstance(status)->normalize(
+      icu::UnicodeString::fromUTF8(text), status);
+  const auto within = [](UChar32 c, UChar32 low, UChar32 high) { return low <= c && c <= high; };
+  std::string result;
+  for (std::int32_t i = 0; i < nfc.length(); i = nfc.moveIndex32(i, 1)) {
+    const UChar32 c = nfc.char32At(i);
+    if (within(c, 0x2012, 0x2015)) {
+      result += "-";
+    } else if (within(c, 0x2018, 0x201B) || c == 0x02BC) {
+      result += "'";
+    } else if (within(c, 0x201C, 0x201F)) {
+      result += "\"";
+    } else if (c == 0x2026) {
+      result += "...";
+    } else if (c != '<' && c != '>' && !within(c, 0x2060, 0x206F) && c != 0xAD && c != 0x34F &&
+               !within(c, 0x200B, 0x200F) && !within(c, 0x202A, 0x202E) && c != 0xFEFF &&
+               !within(c, 9, 13) && c != 0x85 && (U_GET_GC_MASK(c) & U_GC_Z_MASK) == 0) {
+      unicode::append(result, static_cast<char32_t>(c));
+    }
+  }
+  return result;
+}
+
+TEST(NormalizeText, AgreesWithThePlainPath) {
+  std::mt19937 random(41);
+  for (int round = 0; round < 20000; ++round) {
+    const std::string text = testing::randomText(random, 40);
+    ASSERT_EQ(normalizeText(text), plainlyNormalized(text)) << testing::escaped(text);
+  }
+}
+
+TEST(NormalizeText, OrdersLongRunsOfMarksAsIcuDoes) {
+  std::mt19937 random(42);
+  const std::u32string_view marks = U"\u0300\u0301\u0315\u0316\u0327\u0344\u05B0\u0F71\u0F73\u302A";
+  std::uniform_int_distribution<std::size_t> mark(0, marks.size() - 1);
+  for (int round = 0; round < 200; ++round) {
+    std::string text = "e";
+    for (int i = 0; i < 100; ++i)
+      unicode::append(text, marks[mark(random)]);
+    text += "o\u0308 end";
+    ASSERT_EQ(normalizeText(text), plainlyNormalized(text)) << testing::escaped(text);
+  }
+}
+
+TEST(NormalizeText, EndsOnAMillionMisorderedMarks) {
+  const std::string text =
+      "e" + repeated("\u0301", 500000) + repeated("\u0316", 500000);  // sorting by insertion hangs
+  const std::string normalized = normalizeText(text);
+  EXPECT_EQ(normalized.size(), text.size() - 1);
+  EXPECT_EQ(normalized.substr(0, 4), "\u00E9\u0316");
+}
+
+TEST(CountWords, CountsRunsAndIdeographs) {
+  const std::pair<std::string, int> cases[] = {
+      {"", 0},
+      {"  -- ,  ", 0},
+      {"Hello, world", 2},
+      {"3 e-mail x2 & —", 3},
+      {"我爱你", 3},
+      {"abc日本", 3},
+      {"日本abc", 3},
+      {"ひらがなカタ", 6},
+      {"한국어", 3},
+      {"\U00020000\uF900", 2},
+      {"葛\uFE00", 1},  // with a variation selector it is no ideograph word, but a letter
+      {"葛\uFE00葛", 2},
+      {"one\r\ntwo\u2003three\u00A0four", 4},
+      {"Ⅷ ½ ² ١", 4},
+      {"🛡️ 👍", 0},
+      {"a\u0301 \u0301b", 2},  // a blank with a mark is white space still
+      {"x\u0600 a", 1},        // U+0600 joins the blank into one character, which is no white space
+  };
+  for (const auto& [text, expected] : cases)
+    EXPECT_EQ(countWords(text), expected) << testing::escaped(text);
+}
+
+/// Word counting as one reads it, character by character by ICU.
+std::int64_t plainlyCounted(const std::string& text) {
+  UErrorCode status = U_ZERO_ERROR;
+  const std::unique_ptr<icu::BreakIterator> iterator(
+      icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
+  const auto wide = icu::UnicodeString::fromUTF8(text);
+  iterator->setText(wide);
+  std::int64_t words = 0;
+  std::vector<UChar32> pending;
+  const auto flush = [&] {
+    words += std::any_of(pending.begin(), pending.end(), [](UChar32 c) {
+      return u_isUAlphabetic(c) || u_getIntPropertyValue(c, UCHAR_NUMERIC_TYPE) != U_NT_NONE;
+    });
+    pending.clear();
+  };
+  std::int32_t start = 0;
+  for (std::int32_t end = iterator->next(); end != icu::BreakIterator::DONE;
+       start = end, end = iterator->next()) {
+    const UChar32 c = wide.char32At(start);
+    const bool cjk = (c >= 0x3040 && c <= 0x30FF) || (c >= 0x3400 && c <= 0x4DBF) ||
+                     (c >= 0x4E00 && c <= 0x9FFF) || (c >= 0xF900 && c <= 0xFAFF) ||
+                     (c >= 0xAC00 && c <= 0xD7AF) || (c >= 0x20000 && c <= 0x2FA1F);
+    if (cjk && wide.moveIndex32(start, 1) == end) {
+      flush();
+      ++words;
+    } else if (u_isUWhiteSpace(c)) {
+      flush();
+    } else {
+      pending.push_back(c);
+    }
+  }
+  flush();
+  return words;
+}
+
+TEST(CountWords, AgreesWithThePlainPath) {
+  std::mt19937 random(43);
+  for (int round = 0; round < 20000; ++round) {
+    const std::string text = testing::randomText(random, 40);
+    ASSERT_EQ(countWords(text), plainlyCounted(text)) << testing::escaped(text);
+  }
+}
+
+TEST(IsDistinctive, LooksForNumbersAndNames) {
+  const std::pair<std::string, bool> cases[] = {
+      {"pay 5 now", true},
+      {"half of it: ½", true},
+      {"五 is a number", true},
+      {"Meet John tomorrow", true},
+      {"John will come", false},
+      {"please read the FAQ", false},
+      {"see \"A\" here", false},
+      {"we met (“Ada”) there", true},
+      {"we met \"--\" there", false},
+      {"we met 'élan' there", false},
+      {"we met Élan there", true},
+      {"we met E\u0301lan there", true},
+      {"the ǅ digraph ǅa", false},  // titlecase letters are not uppercase
+      {"one\u2003Two", true},
+      {"One", false},
+      {"", false},
+      {"\n\n One\n", false},
+  };
+  for (const auto& [text, expected] : cases)
+    EXPECT_EQ(isDistinctive(text), expected) << testing::escaped(text);
+}
+
+TEST(SigningRefusal, WeighsLengthAndContent) {
+  const std::string nothingSpecific =
+      " words, but nothing specific in it. Add an amount, a date or a name — or write 20+ words.";
+  const std::pair<std::string, std::string> cases[] = {
+      {"", "Only 0 words. Write at least 10."},
+      {"word", "Only 1 words. Write at least 10."},
+      {repeated("Ada 5 ", 4) + "word", "Only 9 words. Write at least 10."},
+      {repeated("word ", 10), "10" + nothingSpecific},
+      {repeated("word ", 12), "12" + nothingSpecific},
+      {repeated("word ", 19), "19" + nothingSpecific},
+      {repeated("word ", 9) + "Friday 14 March", ""},
+      {repeated("word ", 20), ""},
+      {repeated("字", 20), ""},
+  };
+  for (const auto& [text, expected] : cases)
+    EXPECT_EQ(signingRefusal(text), expected) << text;
+}
+
+TEST(Digests, MatchPublishedVectors) {
+  EXPECT_EQ(sha256Hex(""), emptyDigest);
+  EXPECT_EQ(sha256Hex("abc"), "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad");
+  // FIPS 180-2, appendix B.3.
+  EXPECT_EQ(sha256Hex(std::string(1000000, 'a')),
+            "cdc76e5c9914fb9281a1c7e284d73e67f1809a48a497200e046d39ccc7112cd0");
+}
+
+CanonicalFields sampleFields() {
+  return {.textDigest = "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad",
+          .issued = "2025-01-02",
+          .scope = "Email Message (Apple Mail)",
+          .snapshotDigest = "",
+          .identity = "Ada Lovelace",
+          .signerKey = "3F2504E0-4F89-11D3-9A0C-0305E82C3301",
+          .expires = "2025-01-09",
+          .nonce = "AB00ff",
+          .commitment = "statement"};
+}
+
+TEST(CanonicalPayload, HasAFixedValue) {
+  // Checked by hand: the tag and the nine fields, each written with printf into sha256sum.
+  EXPECT_EQ(canonicalV3(sampleFields()),
+            "a56a0ceef450d926623a6766b335ecf61223f87a6c39b0554ef35e061ca785f7");
+}
+
+TEST(CanonicalPayload, FoldsWhatReadersWouldCallTheSame) {
+  const std::string reference = canonicalV3(sampleFields());
+  const auto with = [](auto field, std::string_view value) {
+    CanonicalFields fields = sampleFields();
+    fields.*field = value;
+    return canonicalV3(fields);
+  };
+  using F = CanonicalFields;
+  EXPECT_EQ(with(&F::issued, " 2025-01-02\n"), reference);
+  EXPECT_EQ(with(&F::scope, "  email message (apple mail)\n"), reference);
+  EXPECT_EQ(with(&F::snapshotDigest, emptyDigest), reference);
+  EXPECT_EQ(with(&F::identity, "ADA lovelace\u00A0"), reference);
+  EXPECT_EQ(with(&F::signerKey, "3f2504e0-4f89-11d3-9a0c-0305e82c3301"), reference);
+  EXPECT_EQ(with(&F::expires, "\t2025-01-09"), reference);
+  EXPECT_EQ(with(&F::nonce, " AB00ff "), reference);
+  for (const std::string_view other : {"", "contract", "STATEMENT ", "statements"})
+    EXPECT_EQ(with(&F::commitment, other), reference) << other;
+
+  EXPECT_NE(with(&F::nonce, "ab00FF"), reference);
+  EXPECT_NE(with(&F::commitment, " Approval "), reference);
+  EXPECT_EQ(with(&F::commitment, " Approval "), with(&F::commitment, "approval"));
+  EXPECT_NE(
+      with(&F::textDigest, "BA7816BF8F01CFEA414140DE5DAE2223B00361A396177A9CB410FF61F20015AD"),
+      reference);
+  EXPECT_NE(with(&F::identity, ""), reference);
+}
+
+TEST(Expiry, DependsOnTheWordCount) {
+  const std::pair<std::int64_t, std::int64_t> tiers[] = {
+      {0, 7}, {49, 7}, {50, 30}, {199, 30}, {200, 90}, {999, 90}, {1000, 365}};
+  for (const auto& [words, days] : tiers)
+    EXPECT_EQ(expiryDaysFor(words), days) << words;
+}
+
+TEST(Expiry, AddsDaysToStrictDatesOnly) {
+  const auto expires = [](std::string_view issued, std::int64_t words) {
+    return expiryDateFor({.issued = issued, .wordCount = words});
+  };
+  EXPECT_EQ(expires("2025-01-30", 10), "2025-02-06");
+  EXPECT_EQ(expires("2024-12-01", 1000), "2025-12-01");
+  EXPECT_EQ(expires("2024-02-23", 10), "2024-03-01");
+  EXPECT_EQ(expires("2024-02-29", 1000), "2025-02-28");
+  EXPECT_EQ(expires("9999-12-31", 10), "10000-01-07");
+  EXPECT_EQ(expires(" 2025-01-30\n", 10), "2025-02-06");
+  for (const std::string_view bad :
+       {"", "30/01/2025", "2025-02-29", "2025-13-01", "2025-00-10", "2025-1-30", "2025-01-30T00",
+        "2025-01-3０", "+025-01-30", "2025-01-32", "2025_01-30"})
+    EXPECT_EQ(expires(bad, 10), "") << bad;
+}
+
+TEST(RandomHex, HasTheRightShapeAndVaries) {
+  const std::string nonce = randomHex(16);
+  EXPECT_EQ(nonce.size(), 32U);
+  EXPECT_EQ(nonce.find_first_not_of("0123456789abcdef"), std::string::npos);
+  EXPECT_NE(nonce, randomHex(16));
+  EXPECT_EQ(randomHex(0), "");
+  EXPECT_DEATH(static_cast<void>(randomHex(-1)), "negative");
+}
+
+using Urls = std::vector<std::string>;
+
+TEST(ImageUrls, ReadsTheSourcesOfImages) {
+  const std::pair<std::string, Urls> cases[] = {
+      {"", {}},
+      {"<p>no image</p>", {}},
+      {"<IMG SRC=a.png>", {"a.png"}},
+      {"<img alt='x' src=\" b.png \">", {"b.png"}},
+      {"<img src=\"\"><img src='  '>", {}},
+      {"<img data-src=\"x\">", {"x"}},
+      {"<img datasrc=\"x\">", {}},
+      {"<img srcset=\"x\">", {}},
+      {"<image src=x><imgsrc=y>", {}},
+      {"<img\nsrc\t=\n'a'/><img src=a>", {"a", "a"}},
+      {"<img title=\"a>b\" src=x>", {}},  // the bracket ends the tag, quoted or not
+      {"<img src=\"a>b\">", {"a>b"}},
+      {"<img src=\"never closed >", {"\"never"}},
+      {"<img src='x\" y", {"'x\""}},
+      {"<img src=a&amp;b>", {"a&amp;b"}},
+      {"<img src=>", {}},
+      {"<img src=", {}},
+      {"<img src= src=b>", {"src=b"}},
+      {"<img <img src=a> src=b>", {"a"}},
+      {"<img ſrc=a>", {"a"}},
+      {"<img \u0301src=a>", {"a"}},  // a boundary looks past the mark to the blank
+  };
+  for (const auto& [html, expected] : cases)
+    EXPECT_EQ(imageURLs(html), expected) << html;
+  EXPECT_EQ(imageURLs(std::nullopt), Urls{});
+}
+
+Urls urlsByIcu(const std::string& html) {
+  UErrorCode status = U_ZERO_ERROR;
+  icu::RegexMatcher matcher(icu::UnicodeString::fromUTF8(
+                                R"re(<img\b[^>]*?\bsrc\s*=\s*(?:"([^"]*)"|'([^']*)'|([^\s>]+)))re"),
+                            UREGEX_CASE_INSENSITIVE, status);
+  const auto wide = icu::UnicodeString::fromUTF8(html);
+  matcher.reset(wide);
+  Urls urls;
+  while (matcher.find(status)) {
+    for (int group = 1; group <= 3; ++group) {
+      std::string text;
+      matcher.group(group, status).toUTF8String(text);
+      if (const auto url = unicode::trimmed(text); !url.empty()) {
+        urls.emplace_back(url);
+        break;
+      }
+    }
+  }
+  return urls;
+}
+
+TEST(ImageUrls, FindsWhatTheExpressionFinds) {
+  const std::string_view pieces[] = {
+      "<img", "<IMG", "<iMg ",  " src",   "SRC=", "ſrc",     "=", " ",      "\n", "\"", "'",   ">",
+      "a",    "-",    "\u0301", "\u200D", "<",    "src='b'", "/", "\u00A0", "é",  "_",  "rc=", "s"};
+  std::mt19937 random(44);
+  std::uniform_int_distribution<std::size_t> piece(0, std::size(pieces) - 1);
+  for (int round = 0; round < 30000; ++round) {
+    std::string html;
+    for (int i = 0; i < 14; ++i)
+      html += pieces[piece(random)];
+    ASSERT_EQ(imageURLs(html), urlsByIcu(html)) << testing::escaped(html);
+  }
+}
+
+TEST(ImageUrls, EndsOnAMegabyteOfUnclosedTags) {
+  EXPECT_EQ(imageURLs(repeated("<img ", 200000)), Urls{});
+  EXPECT_EQ(imageURLs(repeated("<img src ", 120000)), Urls{});
+  EXPECT_EQ(imageURLs(repeated("<img src=\"", 100000) + "x").size(), 50000U);
+  EXPECT_EQ(imageURLs(repeated("<img src='", 100001)).size(), 100001U / 2 + 1);
+}
+
+TEST(ImageManifestDigest, BindsOrderAndRepetition) {
+  EXPECT_EQ(imageManifestDigest({"a", " ", "b"}), sha256Hex("quillseal/images/v1\na\nb"));
+  EXPECT_EQ(imageManifestDigest({" a\n", "b"}), imageManifestDigest({"a", "b"}));
+  EXPECT_NE(imageManifestDigest({"b", "a"}), imageManifestDigest({"a", "b"}));
+  EXPECT_NE(imageManifestDigest({"a", "a"}), imageManifestDigest({"a"}));
+  EXPECT_EQ(imageManifestDigest({}), sha256Hex("quillseal/images/v1\n"));
+}
+
+}  // namespace
+}  // namespace quillseal::CryptoManager

@@ -1,0 +1,17 @@
+#include <cstdint>
+#include <cstdlib>
+
+#include "Quillseal/CryptoManager.h"
+#include "Quillseal/UnicodeText.h"
+
+/// The canonical form is stable once the text is well-formed, and holds nothing that it drops.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace quillseal;
+  const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+  static_cast<void>(CryptoManager::normalizeText(bytes));
+
+  const std::string normalized = CryptoManager::normalizeText(unicode::wellFormed(bytes));
+  if (normalized.find_first_of("<> \t\r\n") != std::string::npos) std::abort();
+  if (unicode::wellFormed(normalized) != normalized) std::abort();
+  return 0;
+}

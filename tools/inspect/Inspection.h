@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quillseal::inspect {
+
+/// What the agent would capture and when.
+struct Capture {
+  std::string_view text;
+  std::optional<std::string_view> html;
+  std::string_view issued;  ///< "yyyy-MM-dd"
+};
+
+/// Everything that a signature of a capture would bind or be decided by.
+struct Inspection {
+  std::string text;  ///< as the agent screens and digests it: without white space at its ends
+  std::int64_t words = 0;
+  std::string normalized;
+  std::size_t normalizedCharacters = 0;
+  std::string textDigest;
+  bool distinctive = false;
+  std::string signingRefusal;  ///< empty when length and content allow signing
+  std::vector<std::string> imageURLs;
+  std::string imageDigest;
+  std::string expires;  ///< empty when the issue date is no date
+};
+
+/// Computes what would be signed. `capture` must be well-formed UTF-8.
+[[nodiscard]] Inspection inspect(const Capture& capture);
+
+/// The inspection as text for a person to read, with a line feed at its end.
+[[nodiscard]] std::string readableReport(const Inspection& inspection);
+
+}  // namespace quillseal::inspect

@@ -1,0 +1,182 @@
+#include "Operations.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <optional>
+#include <stdexcept>
+
+#include "Quillseal/CryptoManager.h"
+#include "Quillseal/UnicodeText.h"
+
+namespace quillseal::inspect {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+struct RequestError : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+
+/// A request's keys, read with their types checked.
+class Request {
+ public:
+  explicit Request(const Json& object) : object_(object) {
+    if (!object.is_object()) throw RequestError("a request is a JSON object");
+  }
+
+  std::string string(const char* key) const {
+    const Json& value = required(key);
+    if (!value.is_string()) throw RequestError(quoted(key) + " must be a string");
+    return value.get<std::string>();
+  }
+
+  /// Nothing when the key is absent or null.
+  std::optional<std::string> optionalString(const char* key) const {
+    const auto found = object_.find(key);
+    if (found == object_.end() || found->is_null()) return std::nullopt;
+    return string(key);
+  }
+
+  std::int64_t integer(const char* key) const {
+    const Json& value = required(key);
+    if (!value.is_number_integer()) throw RequestError(quoted(key) + " must be an integer");
+    return value.get<std::int64_t>();
+  }
+
+ private:
+  static std::string quoted(const char* key) { return '"' + std::string(key) + '"'; }
+
+  const Json& required(const char* key) const {
+    const auto found = object_.find(key);
+    if (found == object_.end()) throw RequestError(quoted(key) + " is missing");
+    return *found;
+  }
+
+  const Json& object_;
+};
+
+Json inspectOperation(const Request& request) {
+  const std::string text = request.string("text");
+  const std::optional<std::string> html = request.optionalString("html");
+  const std::string issued = request.string("issued");
+  return toJson(inspect({.text = text, .html = html, .issued = issued}));
+}
+
+Json canonicalOperation(const Request& request) {
+  const std::string textDigest = request.string("text_digest");
+  const std::string issued = request.string("issued");
+  const std::string scope = request.string("scope");
+  const std::string snapshotDigest = request.string("snapshot_digest");
+  const std::string identity = request.string("identity");
+  const std::string signerKey = request.string("signer_key");
+  const std::string expires = request.string("expires");
+  const std::string nonce = request.string("nonce");
+  const std::string commitment = request.string("commitment");
+  return {{"payload_digest", CryptoManager::canonicalV3({.textDigest = textDigest,
+                                                         .issued = issued,
+                                                         .scope = scope,
+                                                         .snapshotDigest = snapshotDigest,
+                                                         .identity = identity,
+                                                         .signerKey = signerKey,
+                                                         .expires = expires,
+                                                         .nonce = nonce,
+                                                         .commitment = commitment})}};
+}
+
+Json expiryOperation(const Request& request) {
+  const std::string issued = request.string("issued");
+  const std::int64_t words = request.integer("word_count");
+  return {{"days", CryptoManager::expiryDaysFor(words)},
+          {"expires", CryptoManager::expiryDateFor({.issued = issued, .wordCount = words})}};
+}
+
+struct Operation {
+  std::string_view name;
+  Json (*perform)(const Request&);
+};
+
+constexpr std::array operations{
+    Operation{"canonical", canonicalOperation},
+    Operation{"expiry", expiryOperation},
+    Operation{"inspect", inspectOperation},
+};
+
+/// The four hexadecimal digits behind "\u" at `at`, or nothing.
+std::optional<unsigned> unicodeEscapeAt(std::string_view json, std::size_t at) {
+  if (json.substr(at, 2) != "\\u" || json.size() < at + 6) return std::nullopt;
+  unsigned value = 0;
+  for (const char digit : json.substr(at + 2, 4)) {
+    if (std::isxdigit(static_cast<unsigned char>(digit)) == 0) return std::nullopt;
+    value =
+        value * 16 + static_cast<unsigned>(digit <= '9' ? digit - '0' : (digit | 0x20) - 'a' + 10);
+  }
+  return value;
+}
+
+/// JSON texts of other programs may hold half of a surrogate pair; the parser would refuse the
+/// whole line for it.
+std::string withoutLoneSurrogates(std::string_view json) {
+  const auto isLeading = [](unsigned unit) { return unit >= 0xD800 && unit <= 0xDBFF; };
+  const auto isTrailing = [](unsigned unit) { return unit >= 0xDC00 && unit <= 0xDFFF; };
+  std::string result;
+  result.reserve(json.size());
+  std::size_t at = 0;
+  while (at < json.size()) {
+    std::size_t length = json[at] == '\\' ? 2 : 1;
+    if (const auto unit = unicodeEscapeAt(json, at)) {
+      length = 6;
+      const auto next = unicodeEscapeAt(json, at + 6);
+      if (isLeading(*unit) && next && isTrailing(*next)) {
+        length = 12;
+      } else if (isLeading(*unit) || isTrailing(*unit)) {
+        result += "\\uFFFD";
+        at += length;
+        continue;
+      }
+    }
+    result += json.substr(at, length);
+    at += length;
+  }
+  return result;
+}
+
+Json perform(std::string_view requestLine) {
+  const std::string line = withoutLoneSurrogates(unicode::wellFormed(requestLine));
+  const Json parsed = Json::parse(line);
+  const Request request(parsed);
+  const std::string name = request.string("op");
+  const auto* const operation =
+      std::find_if(operations.begin(), operations.end(),
+                   [&](const Operation& candidate) { return candidate.name == name; });
+  if (operation == operations.end()) throw RequestError("unknown operation \"" + name + '"');
+  return operation->perform(request);
+}
+
+}  // namespace
+
+Json toJson(const Inspection& inspection) {
+  return {{"words", inspection.words},
+          {"normalized", inspection.normalized},
+          {"normalized_characters", inspection.normalizedCharacters},
+          {"text_digest", inspection.textDigest},
+          {"distinctive", inspection.distinctive},
+          {"signing_refusal", inspection.signingRefusal},
+          {"image_urls", inspection.imageURLs},
+          {"image_digest", inspection.imageDigest},
+          {"expires", inspection.expires}};
+}
+
+std::string answer(std::string_view requestLine) {
+  Json result;
+  try {
+    result = perform(requestLine);
+  } catch (const nlohmann::json::exception&) {
+    result = {{"error", "the line is not one JSON value"}};
+  } catch (const RequestError& error) {
+    result = {{"error", error.what()}};
+  }
+  return result.dump();
+}
+
+}  // namespace quillseal::inspect

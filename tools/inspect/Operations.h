@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include <nlohmann/json.hpp>
+
+#include "Inspection.h"
+
+namespace quillseal::inspect {
+
+/// The inspection as one JSON object.
+[[nodiscard]] nlohmann::ordered_json toJson(const Inspection& inspection);
+
+/// Answers one request, a line of JSON with the key "op", with one line of JSON (without a line
+/// feed). A request that cannot be answered gets {"error": "..."}; nothing is thrown for it. Bytes
+/// that are no UTF-8 and lone surrogates in escapes count as U+FFFD.
+[[nodiscard]] std::string answer(std::string_view requestLine);
+
+}  // namespace quillseal::inspect

@@ -26,6 +26,10 @@ if(QUILLSEAL_SANITIZERS)
   endif()
 endif()
 
+if(QUILLSEAL_FUZZERS)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
 if(CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT QUILLSEAL_SANITIZERS)
   include(CheckPIESupported)
   check_pie_supported()

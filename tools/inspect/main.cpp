@@ -1,11 +1,11 @@
-#include <chrono>
-#include <cstring>
+#include <cerrno>
 #include <ctime>
 #include <fstream>
 #include <iostream>
 #include <iterator>
 #include <optional>
 #include <string>
+#include <system_error>
 
 #include <getopt.h>
 
@@ -56,7 +56,7 @@ std::string contentsOf(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
     // A folder opens and only then refuses to be read.
     if (file) bytes.assign(std::istreambuf_iterator<char>(file), {});
-    if (!file) throw Failure{unreadableInput, path + ": " + std::strerror(errno)};
+    if (!file) throw Failure{unreadableInput, path + ": " + std::generic_category().message(errno)};
   }
   return quillseal::unicode::wellFormed(bytes);
 }
@@ -82,6 +82,7 @@ std::optional<Options> parsed(int argc, char** argv) {
                                        {nullptr, 0, nullptr, 0}};
   Options options;
   int found = 0;
+  // NOLINTNEXTLINE(concurrency-mt-unsafe): there is one thread.
   while ((found = getopt_long(argc, argv, "", longOptions, nullptr)) != -1) {
     switch (found) {
       case json:

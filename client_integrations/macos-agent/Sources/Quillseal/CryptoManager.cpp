@@ -4,8 +4,6 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <new>
-#include <stdexcept>
 #include <utility>
 
 #include <unicode/bytestream.h>
@@ -14,6 +12,7 @@
 #include <unicode/unistr.h>
 
 #include "Quillseal/Digest.h"
+#include "Quillseal/IcuStatus.h"
 #include "Quillseal/UnicodeText.h"
 
 namespace quillseal::CryptoManager {
@@ -101,11 +100,6 @@ bool isUppercase(std::string_view character) {
 
 // Normalisation ---------------------------------------------------------------------------------
 
-void require(UErrorCode status) {
-  if (status == U_MEMORY_ALLOCATION_ERROR) throw std::bad_alloc();
-  if (U_FAILURE(status)) throw std::runtime_error(u_errorName(status));
-}
-
 /// Sorts long runs of combining marks into canonical order. ICU sorts them by insertion, which a
 /// crafted text of a hundred thousand marks turns into seconds; the order is the same either way,
 /// since canonical ordering is a stable sort by combining class (Unicode Standard, D109).
@@ -113,7 +107,7 @@ std::string withLongMarkRunsOrdered(std::string_view text) {
   constexpr std::size_t longRun = 64;
   UErrorCode status = U_ZERO_ERROR;
   const auto* nfd = icu::Normalizer2::getNFDInstance(status);
-  require(status);
+  requireSuccess(status);
 
   const auto isMark = [](char32_t scalar) {
     return scalar >= 0x300 &&
@@ -159,19 +153,20 @@ std::string withLongMarkRunsOrdered(std::string_view text) {
 std::string composed(std::string_view text) {
   UErrorCode status = U_ZERO_ERROR;
   const auto* nfc = icu::Normalizer2::getNFCInstance(status);
-  require(status);
+  requireSuccess(status);
   const std::string ordered = withLongMarkRunsOrdered(text);
   std::string result;
   icu::StringByteSink<std::string> sink(&result, static_cast<std::int32_t>(text.size()));
   nfc->normalizeUTF8(0, ordered, sink, nullptr, status);
-  require(status);
+  requireSuccess(status);
   return result;
 }
 
 constexpr std::array<bool, 128> asciiKept = [] {
   std::array<bool, 128> kept{};
   for (std::size_t c = 0; c < kept.size(); ++c)
-    kept[c] = asciiKinds[c] != AsciiKind::space && c != '<' && c != '>';
+    kept[c] = asciiKinds[c] != AsciiKind::space;
+  kept['<'] = kept['>'] = false;
   return kept;
 }();
 
@@ -568,7 +563,8 @@ std::string expiryDateFor(const ExpiryRequest& request) {
 
 std::string randomHex(std::int64_t byteCount) {
   if (byteCount < 0) {
-    std::fputs("randomHex: a negative byte count is a fault of the caller\n", stderr);
+    static_cast<void>(
+        std::fputs("randomHex: a negative byte count is a fault of the caller\n", stderr));
     std::abort();
   }
   std::vector<std::uint8_t> bytes(static_cast<std::size_t>(byteCount));

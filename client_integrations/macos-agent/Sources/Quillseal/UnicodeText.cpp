@@ -1,9 +1,8 @@
 #include "Quillseal/UnicodeText.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
-#include <new>
-#include <stdexcept>
 
 #include <unicode/brkiter.h>
 #include <unicode/bytestream.h>
@@ -14,6 +13,8 @@
 #include <unicode/utext.h>
 #include <unicode/utf8.h>
 
+#include "Quillseal/IcuStatus.h"
+
 namespace quillseal::unicode {
 namespace {
 
@@ -22,12 +23,6 @@ constexpr std::string_view replacementBytes = "\xEF\xBF\xBD";
 
 const std::uint8_t* bytesOf(std::string_view text) {
   return reinterpret_cast<const std::uint8_t*>(text.data());
-}
-
-/// ICU reports only two faults here: no memory, and no data files.
-void require(UErrorCode status) {
-  if (status == U_MEMORY_ALLOCATION_ERROR) throw std::bad_alloc();
-  if (U_FAILURE(status)) throw std::runtime_error(u_errorName(status));
 }
 
 bool isAsciiAt(std::string_view text, std::size_t index) {
@@ -93,7 +88,7 @@ const icu::BreakIterator& characterIteratorPrototype() {
     UErrorCode status = U_ZERO_ERROR;
     std::unique_ptr<icu::BreakIterator> iterator(
         icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
-    require(status);
+    requireSuccess(status);
     return iterator;
   }();
   return *prototype;
@@ -132,16 +127,13 @@ char32_t firstScalar(std::string_view text) noexcept {
 void append(std::string& text, char32_t scalar) {
   if (scalar < 0x80) {
     text.push_back(static_cast<char>(scalar));
-    return;
-  }
-  std::uint8_t bytes[U8_MAX_LENGTH];
-  std::int32_t length = 0;
-  UBool failed = false;
-  U8_APPEND(bytes, length, U8_MAX_LENGTH, static_cast<UChar32>(scalar), failed);
-  if (failed) {
-    text += replacementBytes;
+  } else if (U_IS_UNICODE_CHAR(scalar) || U_IS_UNICODE_NONCHAR(scalar)) {
+    std::array<std::uint8_t, U8_MAX_LENGTH> bytes{};
+    std::size_t length = 0;
+    U8_APPEND_UNSAFE(bytes, length, scalar);
+    text.append(reinterpret_cast<const char*>(bytes.data()), length);
   } else {
-    text.append(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(length));
+    text += replacementBytes;
   }
 }
 
@@ -191,7 +183,7 @@ std::string lowercased(std::string_view text) {
   UErrorCode status = U_ZERO_ERROR;
   icu::CaseMap::utf8ToLower("", 0, {text.data(), static_cast<std::int32_t>(text.size())}, sink,
                             nullptr, status);
-  require(status);
+  requireSuccess(status);
   return result;
 }
 
@@ -201,7 +193,7 @@ std::string uppercased(std::string_view text) {
   UErrorCode status = U_ZERO_ERROR;
   icu::CaseMap::utf8ToUpper("", 0, {text.data(), static_cast<std::int32_t>(text.size())}, sink,
                             nullptr, status);
-  require(status);
+  requireSuccess(status);
   return result;
 }
 
@@ -284,7 +276,7 @@ std::size_t CharacterCursor::nextTableBoundary() {
     tables_->text.reset(utext_openUTF8(tables_->text.release(), text_.data() + position_,
                                        static_cast<std::int64_t>(end - position_), &status));
     tables_->iterator->setText(tables_->text.get(), status);
-    require(status);
+    requireSuccess(status);
     stretchStart_ = position_;
     stretchEnd_ = end;
   }

@@ -164,8 +164,8 @@ std::string composed(std::string_view text) {
 
 constexpr std::array<bool, 128> asciiKept = [] {
   std::array<bool, 128> kept{};
-  for (std::size_t c = 0; c < kept.size(); ++c)
-    kept[c] = asciiKinds[c] != AsciiKind::space;
+  std::transform(asciiKinds.begin(), asciiKinds.end(), kept.begin(),
+                 [](AsciiKind kind) { return kind != AsciiKind::space; });
   kept['<'] = kept['>'] = false;
   return kept;
 }();

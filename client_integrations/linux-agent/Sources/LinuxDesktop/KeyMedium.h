@@ -1,0 +1,60 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "LinuxDesktop/KeyFailure.h"
+#include "LinuxDesktop/P256.h"
+#include "LinuxDesktop/SecretPrompt.h"
+
+namespace quillseal {
+
+/// A place that can hold the device key: the TPM, or an encrypted file. It asks nobody anything;
+/// `LinuxKeyStore` puts the questions and chooses the place. Nothing is cached: a device that came
+/// or went is noticed at the next call. Every function may block for as long as the device takes
+/// and may be called on any thread, one call at a time.
+class KeyMedium {
+ public:
+  KeyMedium() = default;
+  KeyMedium(const KeyMedium&) = delete;
+  KeyMedium& operator=(const KeyMedium&) = delete;
+  virtual ~KeyMedium() = default;
+
+  [[nodiscard]] virtual SecretKind secretKind() const noexcept = 0;
+
+  /// The place in the middle of a sentence: "the TPM of this computer".
+  [[nodiscard]] virtual std::string name() const = 0;
+
+  /// What the place is and which protection it gives, as sentences for the user.
+  [[nodiscard]] virtual std::string describe() const = 0;
+
+  /// Why no key can be made or used here now, and what would help, as sentences for the user;
+  /// nothing when the place is usable.
+  [[nodiscard]] virtual std::optional<std::string> obstacle() const = 0;
+
+  /// Whether a key is kept here, usable or not.
+  [[nodiscard]] virtual bool holdsKey() const noexcept = 0;
+
+  /// Makes a new key that `secret` opens. An earlier key is replaced only when everything else has
+  /// succeeded. Throws KeyFailure.
+  virtual void create(const SecretBytes& secret) = 0;
+
+  /// The public half; needs no secret. Throws KeyFailure.
+  [[nodiscard]] virtual p256::Point publicKey() const = 0;
+
+  /// Finds what would make `sign` fail whatever the secret, so that nobody is asked for one in
+  /// vain. Throws KeyFailure.
+  virtual void requireUsableKey() const = 0;
+
+  /// The signature (DER) over a finished digest; nothing when `secret` is wrong. Throws KeyFailure
+  /// on everything else.
+  [[nodiscard]] virtual std::optional<std::vector<std::uint8_t>> sign(
+      const p256::Digest& digest, const SecretBytes& secret) const = 0;
+
+  /// Deletes the key for good. Harmless when there is none.
+  virtual void remove() noexcept = 0;
+};
+
+}  // namespace quillseal

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <span>
+#include <string_view>
+
+namespace quillseal {
+
+/// Bytes that must not outlive their use: a PIN, a passphrase, a value derived from one. They are
+/// overwritten when the object ends or is assigned to, and cannot be copied by accident.
+class SecretBytes {
+ public:
+  SecretBytes() noexcept = default;
+  /// `size` zero bytes, to be filled in place.
+  explicit SecretBytes(std::size_t size);
+  /// A copy of `text`. Whoever owns `text` wipes it.
+  explicit SecretBytes(std::string_view text);
+  SecretBytes(SecretBytes&& other) noexcept;
+  SecretBytes& operator=(SecretBytes&& other) noexcept;
+  SecretBytes(const SecretBytes&) = delete;
+  SecretBytes& operator=(const SecretBytes&) = delete;
+  ~SecretBytes();
+
+  [[nodiscard]] std::size_t size() const noexcept { return size_; }
+  [[nodiscard]] bool empty() const noexcept { return size_ == 0; }
+  [[nodiscard]] std::span<unsigned char> bytes() noexcept { return {bytes_.get(), size_}; }
+  [[nodiscard]] std::span<const unsigned char> bytes() const noexcept {
+    return {bytes_.get(), size_};
+  }
+  [[nodiscard]] std::string_view text() const noexcept {
+    return {reinterpret_cast<const char*>(bytes_.get()), size_};
+  }
+
+  /// Keeps the first `size` bytes and wipes the others. REQUIRES: size <= this->size().
+  void shorten(std::size_t size) noexcept;
+
+ private:
+  void wipe() noexcept;
+
+  std::unique_ptr<unsigned char[]> bytes_;
+  std::size_t size_ = 0;
+};
+
+/// Overwrites memory in a way that no optimiser removes.
+void wipe(std::span<unsigned char> bytes) noexcept;
+
+}  // namespace quillseal

@@ -1,0 +1,74 @@
+#include "LinuxDesktop/SecretPrompt.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+namespace quillseal {
+
+namespace {
+
+struct Demands {
+  std::string_view name;
+  std::string_view rules;
+  std::string_view tooShort;
+  std::string_view tooUniform;
+  std::size_t minimumCharacters;
+  std::size_t minimumDistinctBytes;
+};
+
+// A TPM allows a handful of guesses in an hour, so six characters last; a key file can be tried
+// offline, slowed down by nothing but scrypt.
+constexpr Demands pinDemands{
+    .name = "PIN",
+    .rules = "At least 6 characters, digits or letters, and not all of them the same.",
+    .tooShort = "This PIN is too short: it needs at least 6 characters.",
+    .tooUniform = "This PIN repeats one character. Mix at least 2.",
+    .minimumCharacters = 6,
+    .minimumDistinctBytes = 2};
+constexpr Demands passphraseDemands{
+    .name = "passphrase",
+    .rules = "At least 12 characters. Four unrelated words are good; a word with a number is not.",
+    .tooShort = "This passphrase is too short: it needs at least 12 characters.",
+    .tooUniform = "This passphrase repeats a few characters. Mix at least 6.",
+    .minimumCharacters = 12,
+    .minimumDistinctBytes = 6};
+
+constexpr std::size_t maximumBytes = 1024;
+
+const Demands& demandsOn(SecretKind kind) {
+  return kind == SecretKind::pin ? pinDemands : passphraseDemands;
+}
+
+std::size_t scalarCount(std::string_view text) {
+  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) {
+    return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;
+  }));
+}
+
+std::size_t distinctBytes(std::string_view text) {
+  std::array<bool, 256> seen{};
+  for (const char c : text)
+    seen[static_cast<unsigned char>(c)] = true;
+  return static_cast<std::size_t>(std::count(seen.begin(), seen.end(), true));
+}
+
+}  // namespace
+
+std::string_view nameOf(SecretKind kind) noexcept {
+  return demandsOn(kind).name;
+}
+
+std::string_view rulesFor(SecretKind kind) noexcept {
+  return demandsOn(kind).rules;
+}
+
+std::string_view objectionTo(SecretKind kind, const SecretBytes& secret) noexcept {
+  const Demands& demands = demandsOn(kind);
+  if (scalarCount(secret.text()) < demands.minimumCharacters) return demands.tooShort;
+  if (distinctBytes(secret.text()) < demands.minimumDistinctBytes) return demands.tooUniform;
+  if (secret.size() > maximumBytes) return "This is too long: at most 1024 bytes.";
+  return {};
+}
+
+}  // namespace quillseal

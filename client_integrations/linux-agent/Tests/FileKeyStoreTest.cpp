@@ -1,0 +1,202 @@
+#include <array>
+#include <csignal>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "LinuxDesktop/FileKeyStore.h"
+#include "LinuxDesktop/KeyFailure.h"
+#include "LinuxDesktop/KeyFile.h"
+#include "TemporaryFolder.h"
+
+namespace quillseal {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+namespace fs = std::filesystem;
+
+constexpr ScryptCost cheap{.n = 16, .r = 8, .p = 1};
+constexpr p256::Digest digest{0x9f, 0x86, 0xd0, 0x81, 0x88, 0x4c, 0x7d, 0x65, 0x9a, 0x2f, 0xea,
+                              0xa0, 0xc5, 0x5a, 0xd0, 0x15, 0xa3, 0xbf, 0x4f, 0x1b, 0x2b, 0x0b,
+                              0x82, 0x2c, 0xd1, 0x5d, 0x6c, 0x15, 0xb0, 0xf0, 0x0a, 0x08};
+
+SecretBytes passphrase() {
+  return SecretBytes("correct horse battery");
+}
+
+class FileKeyStoreTest : public ::testing::Test {
+ protected:
+  std::string failureOf(const auto& action) {
+    try {
+      action();
+    } catch (const KeyFailure& failure) {
+      return failure.what();
+    }
+    return "(no failure)";
+  }
+  std::string signFailure() {
+    return failureOf([&] { static_cast<void>(store.sign(digest, passphrase())); });
+  }
+
+  testing::TemporaryFolder folder;
+  fs::path path = folder.path() / "data" / "quillseal" / "key.pem";
+  FileKeyStore store{{.path = path, .cost = cheap}};
+};
+
+TEST_F(FileKeyStoreTest, SignsSoThatThePublicKeyVerifies) {
+  EXPECT_FALSE(store.holdsKey());
+  store.create(passphrase());
+  ASSERT_TRUE(store.holdsKey());
+
+  const p256::Point publicKey = store.publicKey();
+  const auto signature = store.sign(digest, passphrase());
+  ASSERT_TRUE(signature);
+  EXPECT_TRUE(p256::verifies({.publicKey = publicKey, .digest = digest, .signature = *signature}));
+  p256::Digest other = digest;
+  other.back() ^= 1U;
+  EXPECT_FALSE(p256::verifies({.publicKey = publicKey, .digest = other, .signature = *signature}));
+}
+
+TEST_F(FileKeyStoreTest, OnlyThisUserMayRead) {
+  store.create(passphrase());
+  struct stat status {};
+  ASSERT_EQ(::stat(path.c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 07777U, 0600U);
+  ASSERT_EQ(::stat(path.parent_path().c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 07777U, 0700U);
+}
+
+TEST_F(FileKeyStoreTest, AnotherSecretOpensNothing) {
+  store.create(passphrase());
+  for (const std::string_view wrong : {"", "correct horse batterz", "correct horse battery "})
+    EXPECT_FALSE(store.sign(digest, SecretBytes(wrong))) << wrong;
+}
+
+TEST_F(FileKeyStoreTest, CreatingReplacesTheKey) {
+  store.create(passphrase());
+  const p256::Point first = store.publicKey();
+  store.create(SecretBytes("another passphrase"));
+  EXPECT_NE(store.publicKey(), first);
+  EXPECT_FALSE(store.sign(digest, passphrase()));
+  EXPECT_TRUE(store.sign(digest, SecretBytes("another passphrase")));
+}
+
+TEST_F(FileKeyStoreTest, DeletingTwiceIsHarmless) {
+  store.remove();
+  store.create(passphrase());
+  store.remove();
+  store.remove();
+  EXPECT_FALSE(store.holdsKey());
+  EXPECT_THAT(signFailure(), HasSubstr("is gone. Enrol this computer again"));
+}
+
+TEST_F(FileKeyStoreTest, EveryDamagedByteIsNoticed) {
+  store.create(passphrase());
+  const std::string whole = testing::contentsOf(path);
+  const std::size_t start = whole.find("SHA-256");
+  ASSERT_NE(start, std::string::npos);
+  for (std::size_t at = start; at < whole.size(); at += 7) {
+    std::string damaged = whole;
+    damaged[at] = damaged[at] == 'A' ? 'B' : 'A';
+    testing::overwrite(path, damaged);
+    EXPECT_THAT(signFailure(), HasSubstr("is damaged")) << at;
+  }
+  for (const std::size_t length : {std::size_t{0}, std::size_t{1}, whole.size() - 1}) {
+    testing::overwrite(path, std::string_view(whole).substr(0, length));
+    EXPECT_THAT(signFailure(), HasSubstr("is damaged")) << length;
+    EXPECT_TRUE(store.holdsKey());
+  }
+  testing::overwrite(path, std::string(100'000, 'x'));
+  EXPECT_THAT(signFailure(), HasSubstr("far too large"));
+
+  store.create(passphrase());
+  EXPECT_TRUE(store.sign(digest, passphrase()));
+}
+
+TEST_F(FileKeyStoreTest, AnExchangedPublicHalfIsNoticed) {
+  store.create(passphrase());
+  const fs::path otherPath = folder.path() / "data" / "quillseal" / "other.pem";
+  FileKeyStore other({.path = otherPath, .cost = cheap});
+  other.create(passphrase());
+
+  constexpr std::array<std::string_view, 2> labels{"PUBLIC KEY", "ENCRYPTED PRIVATE KEY"};
+  const auto own = keyfile::read(testing::contentsOf(path), labels);
+  const auto foreign = keyfile::read(testing::contentsOf(otherPath), labels);
+  ASSERT_TRUE(own && foreign);
+  testing::overwrite(path, keyfile::write("", std::array{foreign->front(), own->back()}));
+  EXPECT_THAT(signFailure(), HasSubstr("tampered with"));
+}
+
+TEST_F(FileKeyStoreTest, WhatSomebodyElsePutThereIsNotUsed) {
+  store.create(passphrase());
+  const fs::path elsewhere = folder.path() / "elsewhere.pem";
+  fs::rename(path, elsewhere);
+  fs::create_symlink(elsewhere, path);
+  EXPECT_THAT(signFailure(), HasSubstr("only a link"));
+  EXPECT_TRUE(store.holdsKey());
+  store.create(passphrase());
+  EXPECT_FALSE(fs::is_symlink(path));
+  EXPECT_TRUE(fs::exists(elsewhere));
+
+  ASSERT_EQ(::chmod(path.c_str(), 0644), 0);
+  EXPECT_THAT(signFailure(), HasSubstr("opened to other users"));
+
+  fs::remove(path);
+  ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
+  EXPECT_THAT(signFailure(), HasSubstr("is not a file"));
+
+  fs::remove_all(path.parent_path());
+  fs::create_directory(folder.path() / "real");
+  fs::create_directory_symlink(folder.path() / "real", path.parent_path());
+  EXPECT_THAT(failureOf([&] { store.create(passphrase()); }),
+              HasSubstr("no folder or only a link"));
+  EXPECT_TRUE(fs::is_empty(folder.path() / "real"));
+}
+
+// A full disk, as far as a process can have its own: the file may not grow beyond 100 bytes.
+TEST_F(FileKeyStoreTest, AFullDiskKeepsTheOldKey) {
+  store.create(passphrase());
+  const p256::Point before = store.publicKey();
+  rlimit usual{};
+  ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &usual), 0);
+  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+  rlimit small = usual;
+  small.rlim_cur = 100;
+  ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+  const std::string failure = failureOf([&] { store.create(passphrase()); });
+  ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &usual), 0);
+  std::signal(SIGXFSZ, handler);
+
+  EXPECT_THAT(failure, StartsWith("could not write"));
+  EXPECT_EQ(store.publicKey(), before);
+  EXPECT_TRUE(store.sign(digest, passphrase()));
+  EXPECT_EQ(std::distance(fs::directory_iterator(path.parent_path()), {}), 1);
+}
+
+TEST_F(FileKeyStoreTest, AFolderThatCannotBeMadeIsReported) {
+  testing::overwrite(folder.path() / "data", "a file where a folder should be");
+  EXPECT_THAT(failureOf([&] { store.create(passphrase()); }), HasSubstr("could not"));
+  EXPECT_FALSE(store.holdsKey());
+}
+
+TEST(UserDataFolder, FollowsTheBaseDirectoryRules) {
+  ::setenv("HOME", "/home/somebody", 1);
+  ::setenv("XDG_DATA_HOME", "/somewhere", 1);
+  EXPECT_EQ(userDataFolder(), "/somewhere/quillseal");
+  for (const char* unusable : {"", "relative/path"}) {
+    ::setenv("XDG_DATA_HOME", unusable, 1);
+    EXPECT_EQ(userDataFolder(), "/home/somebody/.local/share/quillseal") << unusable;
+  }
+  ::unsetenv("XDG_DATA_HOME");
+  EXPECT_EQ(userDataFolder(), "/home/somebody/.local/share/quillseal");
+}
+
+}  // namespace
+}  // namespace quillseal

@@ -1,0 +1,53 @@
+#include <string>
+#include <utility>
+
+#include <gtest/gtest.h>
+
+#include "LinuxDesktop/SecretPrompt.h"
+
+namespace quillseal {
+namespace {
+
+TEST(SecretPrompt, ObjectsToSecretsThatAreSoonGuessed) {
+  struct Row {
+    SecretKind kind;
+    std::string secret;
+    bool acceptable;
+  };
+  const Row rows[] = {
+      {SecretKind::pin, "", false},
+      {SecretKind::pin, "12345", false},
+      {SecretKind::pin, "123456", true},
+      {SecretKind::pin, "000000", false},
+      {SecretKind::pin, "000001", true},
+      // Five letters of two bytes each are five characters.
+      {SecretKind::pin, "äöüßé", false},
+      {SecretKind::pin, "äöüßéè", true},
+      {SecretKind::pin, std::string(1023, 'a') + "b", true},
+      {SecretKind::pin, std::string(1024, 'a') + "b", false},
+      {SecretKind::passphrase, "abcdefghijk", false},
+      {SecretKind::passphrase, "abcdefghijkl", true},
+      {SecretKind::passphrase, "abababababababab", false},
+      {SecretKind::passphrase, "correct horse battery staple", true},
+  };
+  for (const Row& row : rows)
+    EXPECT_EQ(objectionTo(row.kind, SecretBytes(row.secret)).empty(), row.acceptable) << row.secret;
+}
+
+TEST(SecretBytes, LeavesNothingBehind) {
+  SecretBytes secret("a passphrase");
+  const auto* bytes = secret.bytes().data();
+  secret.shorten(2);
+  EXPECT_EQ(secret.text(), "a ");
+  EXPECT_EQ(bytes[2], 0);
+  EXPECT_EQ(bytes[11], 0);
+
+  SecretBytes moved(std::move(secret));
+  EXPECT_EQ(moved.text(), "a ");
+  EXPECT_TRUE(secret.empty());  // NOLINT(bugprone-use-after-move,clang-analyzer-cplusplus.Move)
+  moved = SecretBytes("other");
+  EXPECT_EQ(moved.text(), "other");
+}
+
+}  // namespace
+}  // namespace quillseal

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <variant>
+
+namespace quillseal {
+
+/// A failure that a user can be told: `what()` is a sentence in UTF-8, shown as it stands. It may
+/// be empty when the platform gave no words; whoever shows it then supplies some.
+class Error : public std::runtime_error {
+ public:
+  struct Fields {
+    std::string domain;     ///< whose numbering `code` belongs to, for example "Quillseal"
+    std::int64_t code = 0;  ///< the platform's or the server's number
+    std::string description;
+  };
+
+  explicit Error(const Fields& fields)
+      : std::runtime_error(fields.description), domain_(fields.domain), code_(fields.code) {}
+
+  [[nodiscard]] const std::string& domain() const noexcept { return domain_; }
+  [[nodiscard]] std::int64_t code() const noexcept { return code_; }
+
+ private:
+  std::string domain_;
+  std::int64_t code_;
+};
+
+/// How an asynchronous request ended.
+template <typename T>
+using Outcome = std::variant<T, Error>;
+
+}  // namespace quillseal

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+#include "Desktop/Ticket.h"
+
+namespace quillseal::desktop {
+
+/// Virtual key codes of the ANSI layout, as Carbon's Events.h numbers them.
+enum class Key : std::uint16_t { a = 0, h = 4, c = 8, v = 9 };
+
+/// Modifiers, combined with `|`. The values are Core Graphics' event flags. `command` stands for
+/// the key that shortcuts of applications use: Control on Linux.
+enum class Modifiers : std::uint32_t {
+  none = 0,
+  control = 0x40000,
+  option = 0x80000,
+  command = 0x100000,
+};
+
+[[nodiscard]] constexpr Modifiers operator|(Modifiers a, Modifiers b) {
+  return static_cast<Modifiers>(static_cast<std::uint32_t>(a) | static_cast<std::uint32_t>(b));
+}
+[[nodiscard]] constexpr bool contains(Modifiers all, Modifiers one) {
+  return (static_cast<std::uint32_t>(all) & static_cast<std::uint32_t>(one)) != 0;
+}
+
+struct KeyPress {
+  Key key;
+  Modifiers modifiers = Modifiers::none;
+
+  friend bool operator==(const KeyPress&, const KeyPress&) = default;
+};
+
+/// Key presses sent to whichever application is in front. Main thread.
+class KeyEvents {
+ public:
+  virtual ~KeyEvents() = default;
+
+  /// Whether the user allows this program to send key presses, at this moment.
+  [[nodiscard]] virtual bool isTrusted() const = 0;
+
+  /// Lets the system show its own request for that permission. Does not wait for the answer.
+  virtual void askForTrust() = 0;
+
+  /// Presses and releases the key with exactly these modifiers, then calls `done`. The adapter sees
+  /// to it that modifiers which the user still holds (those of the hotkey) do not take part,
+  /// waiting for their release for 0.4 s at most; that every key it pressed is released again, on
+  /// every path; and that the front application has had time to learn of the last
+  /// `Pasteboard::write`. A press that the system does not let through is left out silently.
+  [[nodiscard]] virtual Ticket press(KeyPress press, std::function<void()> done) = 0;
+};
+
+}  // namespace quillseal::desktop

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace quillseal::desktop {
+
+/// What is put on the pasteboard: one thing in two flavours.
+struct PasteboardContent {
+  std::string plainText;  ///< UTF-8
+  std::string html;       ///< a whole document, UTF-8
+};
+
+/// The general clipboard. Main thread.
+///
+/// What is read was written by another program: bytes of any kind and size. Readers see the
+/// flavours that are offered at that moment; one that is offered but cannot be delivered counts as
+/// absent.
+class Pasteboard {
+ public:
+  virtual ~Pasteboard() = default;
+
+  /// Changes with every change of the clipboard's owner or content, whoever made it.
+  [[nodiscard]] virtual std::int64_t changeCount() const = 0;
+
+  /// Whether the one who copied marked it as a secret, as password managers do.
+  [[nodiscard]] virtual bool isConcealed() const = 0;
+
+  [[nodiscard]] virtual std::optional<std::string> plainText() const = 0;
+  [[nodiscard]] virtual std::optional<std::string> html() const = 0;
+  [[nodiscard]] virtual std::optional<std::string> rtf() const = 0;
+
+  /// Replaces the content by `content`, both flavours at once, and no other flavour. It stays until
+  /// replaced, also when the agent ends. On failure throws Error and offers none of `content`.
+  virtual void write(const PasteboardContent& content) = 0;
+};
+
+}  // namespace quillseal::desktop

@@ -1,0 +1,159 @@
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "Quillseal/Async.h"
+#include "VirtualLoop.h"
+
+namespace quillseal {
+namespace {
+
+using namespace std::chrono_literals;
+using testing::VirtualLoop;
+
+using Trace = std::vector<std::string>;
+
+/// Writes a line when it is destroyed.
+class Leaving {
+ public:
+  Leaving(Trace& trace, std::string name) : trace_(trace), name_(std::move(name)) {}
+  Leaving(const Leaving&) = delete;
+  Leaving& operator=(const Leaving&) = delete;
+  ~Leaving() { trace_.push_back("left " + name_); }
+
+ private:
+  Trace& trace_;
+  std::string name_;
+};
+
+Task<int> failAfter(VirtualLoop& loop, std::chrono::milliseconds delay) {
+  co_await sleep(loop, delay);
+  throw std::runtime_error("failed");
+}
+
+Task<std::string> describeFailure(VirtualLoop& loop) {
+  std::string description;
+  try {
+    co_await failAfter(loop, 5ms);
+  } catch (const std::runtime_error& error) {
+    description = error.what();
+  }
+  co_return description;
+}
+
+Task<> store(Task<std::string> task, std::string& result) {
+  result = co_await std::move(task);
+}
+
+TEST(Task, CarriesResultsAndExceptionsThroughAwaits) {
+  VirtualLoop loop;
+  TaskScope scope;
+  std::string result;
+  scope.start(store(describeFailure(loop), result));
+  EXPECT_FALSE(scope.isIdle());
+  loop.run();
+  EXPECT_EQ(result, "failed");
+  EXPECT_TRUE(scope.isIdle());
+  EXPECT_EQ(loop.elapsed(), 5ms);
+}
+
+Task<> countDown(VirtualLoop& loop, Trace& trace, std::string name) {
+  const Leaving leaving(trace, name);
+  for (int i = 2; i > 0; --i) {
+    trace.push_back(name + std::to_string(i));
+    co_await sleep(loop, 1s);
+  }
+}
+
+TEST(TaskScope, RunsTasksSideBySideAndLetsGoOfEachAtItsEnd) {
+  VirtualLoop loop;
+  Trace trace;
+  TaskScope scope;
+  scope.start(countDown(loop, trace, "a"));
+  scope.start(countDown(loop, trace, "b"));
+  loop.run();
+  EXPECT_EQ(trace, (Trace{"a2", "b2", "a1", "b1", "left a", "left b"}));
+}
+
+Task<> outer(VirtualLoop& loop, Trace& trace) {
+  const Leaving leaving(trace, "outer");
+  co_await countDown(loop, trace, "inner");
+  trace.emplace_back("never");
+}
+
+TEST(TaskScope, CancelsWhatStillRunsFromTheInsideOut) {
+  VirtualLoop loop;
+  Trace trace;
+  {
+    TaskScope scope;
+    scope.start(outer(loop, trace));
+  }
+  EXPECT_EQ(trace, (Trace{"inner2", "left inner", "left outer"}));
+  EXPECT_FALSE(loop.step()) << "the timer outlived its task";
+}
+
+Task<> awaitNumber(std::function<void(int)>& completion, Trace& trace) {
+  const int number = co_await completionOf<int>([&](std::function<void(int)> done) {
+    completion = std::move(done);
+    return desktop::Ticket([&trace] { trace.emplace_back("withdrawn"); });
+  });
+  trace.push_back(std::to_string(number));
+}
+
+TEST(CompletionOf, IgnoresCompletionsThatComeTwiceOrTooLate) {
+  Trace trace;
+  std::function<void(int)> completion;
+  {
+    TaskScope scope;
+    scope.start(awaitNumber(completion, trace));
+    completion(1);
+    completion(2);
+    scope.start(awaitNumber(completion, trace));
+  }
+  completion(3);
+  EXPECT_EQ(trace, (Trace{"withdrawn", "1", "withdrawn"}));
+}
+
+Task<> awaitAtOnce(Trace& trace) {
+  const std::string text =
+      co_await completionOf<std::string>([](std::function<void(std::string)> done) {
+        done("at once");
+        return desktop::Ticket();
+      });
+  trace.push_back(text);
+}
+
+TEST(CompletionOf, TakesACompletionThatComesWhileStarting) {
+  Trace trace;
+  TaskScope scope;
+  scope.start(awaitAtOnce(trace));
+  EXPECT_EQ(trace, (Trace{"at once"}));
+}
+
+Task<> offloadAndFail(VirtualLoop& loop, Trace& trace) {
+  const auto text = co_await offload(loop, [] { return std::make_unique<std::string>("worked"); });
+  trace.push_back(*text);
+  std::string failure;
+  try {
+    co_await offload(loop, [] { throw std::runtime_error("refused"); });
+  } catch (const std::runtime_error& error) {
+    failure = error.what();
+  }
+  trace.push_back(failure);
+}
+
+TEST(Offload, BringsResultsAndExceptionsBack) {
+  VirtualLoop loop;
+  Trace trace;
+  TaskScope scope;
+  scope.start(offloadAndFail(loop, trace));
+  EXPECT_TRUE(trace.empty());
+  loop.run();
+  EXPECT_EQ(trace, (Trace{"worked", "refused"}));
+}
+
+}  // namespace
+}  // namespace quillseal

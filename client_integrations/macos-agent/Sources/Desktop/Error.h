@@ -29,6 +29,13 @@ class Error : public std::runtime_error {
   std::int64_t code_;
 };
 
+/// The person called off what they were asked to agree to. Not a failure: nothing has changed, and
+/// there is nothing to tell them.
+class Cancelled : public Error {
+ public:
+  using Error::Error;
+};
+
 /// How an asynchronous request ended.
 template <typename T>
 using Outcome = std::variant<T, Error>;

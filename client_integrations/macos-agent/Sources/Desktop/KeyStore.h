@@ -46,9 +46,11 @@ class KeyStore {
   /// Whether this machine can hold such a key, now.
   [[nodiscard]] virtual bool isAvailable() const = 0;
 
-  /// Makes the key. REQUIRES: there is none. Throws Error with the platform's code, and its words
-  /// or an empty description. A store that cannot tie the key to the person's presence throws
-  /// "could not build access control".
+  /// Makes the key, in the place of an earlier one. A store whose keys have a PIN or a passphrase
+  /// asks for the new one first; when the person cancels, it throws Cancelled, and the earlier key
+  /// is still there. Otherwise throws Error with the platform's code, and its words or an empty
+  /// description. A store that cannot tie the key to the person's presence throws "could not build
+  /// access control".
   [[nodiscard]] virtual std::unique_ptr<DeviceKey> create() = 0;
 
   /// The key, or null when there is none. `prompt` is shown when it signs; without one the key is

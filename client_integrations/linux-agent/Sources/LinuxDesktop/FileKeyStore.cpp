@@ -21,6 +21,7 @@ namespace {
 constexpr std::string_view headline =
     "Quillseal signing key, private half encrypted with your passphrase.";
 constexpr std::array<std::string_view, 2> labels{"PUBLIC KEY", "ENCRYPTED PRIVATE KEY"};
+constexpr int saltSize = 16;
 
 /// Empties OpenSSL's error queue at the end of a scope, so that one operation's errors are not
 /// taken for another's.
@@ -82,9 +83,9 @@ StoredKey readKey(const PrivateFile& file) {
 
 openssl::EncryptedKey encrypt(EVP_PKEY* key, const SecretBytes& secret, const ScryptCost& cost) {
   openssl::KeyInfo plain(::EVP_PKEY2PKCS8(key));
-  // The salt and the initial vector are drawn by OpenSSL when none are given.
-  openssl::KeyCipher cipher(
-      ::PKCS5_pbe2_set_scrypt(::EVP_aes_256_cbc(), nullptr, 0, nullptr, cost.n, cost.r, cost.p));
+  // OpenSSL draws the salt and the initial vector when none are given.
+  openssl::KeyCipher cipher(::PKCS5_pbe2_set_scrypt(::EVP_aes_256_cbc(), nullptr, saltSize, nullptr,
+                                                    cost.n, cost.r, cost.p));
   if (!plain || !cipher) throw KeyFailure("the key could not be encrypted.");
   openssl::EncryptedKey encrypted(::PKCS8_set0_pbe(
       secret.text().data(), static_cast<int>(secret.size()), plain.get(), cipher.get()));

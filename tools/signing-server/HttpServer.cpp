@@ -1,0 +1,124 @@
+#include "HttpServer.h"
+
+#include <algorithm>
+#include <chrono>
+#include <exception>
+#include <string_view>
+#include <utility>
+
+#include <httplib.h>
+
+namespace quillseal::devserver {
+namespace {
+
+constexpr std::size_t largestBody = std::size_t{256} * 1024;
+constexpr std::chrono::seconds patience{10};
+
+/// On every answer. Scripts and styles are files of this server; nothing is inline, framed,
+/// submitted or fetched from elsewhere.
+const httplib::Headers& safetyHeaders() {
+  static const httplib::Headers headers{
+      {"Content-Security-Policy",
+       "default-src 'none'; script-src 'self'; style-src 'self'; img-src 'self'; connect-src "
+       "'self'; base-uri 'none'; form-action 'none'; frame-ancestors 'none'"},
+      {"X-Content-Type-Options", "nosniff"},
+      {"Referrer-Policy", "no-referrer"},
+      {"Cross-Origin-Opener-Policy", "same-origin"},
+      {"Cross-Origin-Resource-Policy", "same-origin"},
+      {"Cache-Control", "no-store"},
+  };
+  return headers;
+}
+
+Request requestOf(const httplib::Request& received) {
+  return {.method = received.method,
+          .path = received.path,
+          .contentType = received.get_header_value("Content-Type"),
+          .host = received.get_header_value("Host"),
+          .handoffId = received.has_param("h") ? received.get_param_value("h") : std::string(),
+          .body = received.body};
+}
+
+/// The library's own options let a second server take the same port and half of its requests.
+void setSocketOptions(socket_t socket) {
+  const int on = 1;
+  setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
+}
+
+/// A path as it may stand in a log: short, and without what would drive a terminal.
+std::string printable(std::string_view path) {
+  constexpr std::size_t longest = 100;
+  std::string text(path.substr(0, longest));
+  std::ranges::replace_if(
+      text, [](char c) { return c < ' ' || c > '~'; }, '?');
+  return text;
+}
+
+std::string reasonOf(std::exception_ptr failure) {
+  try {
+    std::rethrow_exception(std::move(failure));
+  } catch (const std::exception& error) {
+    return error.what();
+  } catch (...) {
+    return "an unknown exception";
+  }
+}
+
+}  // namespace
+
+class HttpServer::Listener : public httplib::Server {};
+
+HttpServer::HttpServer(Service& service, std::function<void(const std::string&)> log)
+    : listener_(std::make_unique<Listener>()) {
+  Listener& listener = *listener_;
+  const auto handle = [&service](const httplib::Request& received, httplib::Response& response) {
+    Reply reply = service.answer(requestOf(received));
+    response.status = reply.status;
+    response.set_content(std::move(reply.body), reply.contentType.c_str());
+  };
+  constexpr const char* everyPath = R"([\s\S]*)";
+  listener.Get(everyPath, handle).Post(everyPath, handle);
+  listener.set_socket_options(setSocketOptions);
+  listener.set_default_headers(safetyHeaders());
+  listener.set_payload_max_length(largestBody);
+  listener.set_read_timeout(patience).set_write_timeout(patience);
+  listener.set_exception_handler(
+      [log](const httplib::Request&, httplib::Response& response, std::exception_ptr failure) {
+        if (log) log("failed: " + reasonOf(std::move(failure)));
+        response.status = 500;
+        response.set_content(R"({"error":"The development server failed; its output says why."})",
+                             "application/json");
+      });
+  listener.set_error_handler([](const httplib::Request&, httplib::Response& response) {
+    if (response.body.empty()) {
+      response.set_content(R"({"error":"The request cannot be understood or is too large."})",
+                           "application/json");
+    }
+  });
+  if (log) {
+    listener.set_logger([log](const httplib::Request& received, const httplib::Response& response) {
+      log(received.method + " " + printable(received.path) + " " + std::to_string(response.status));
+    });
+  }
+}
+
+HttpServer::~HttpServer() = default;
+
+std::optional<int> HttpServer::bind(const Address& address) {
+  if (address.port == 0) {
+    const int port = listener_->bind_to_any_port(address.host);
+    return port > 0 ? std::optional(port) : std::nullopt;
+  }
+  return listener_->bind_to_port(address.host, address.port) ? std::optional(address.port)
+                                                             : std::nullopt;
+}
+
+void HttpServer::serve() {
+  listener_->listen_after_bind();
+}
+
+void HttpServer::stop() {
+  listener_->stop();
+}
+
+}  // namespace quillseal::devserver

@@ -1,0 +1,196 @@
+#include "Pages.h"
+
+#include <array>
+#include <charconv>
+#include <chrono>
+#include <iomanip>
+#include <sstream>
+#include <stdexcept>
+#include <utility>
+
+#include <kainjow/mustache.hpp>
+
+#include "Assets.h"
+#include "Quillseal/CryptoManager.h"
+
+namespace quillseal::devserver {
+namespace {
+
+using kainjow::mustache::data;
+using kainjow::mustache::mustache;
+
+constexpr std::int64_t handoffSeconds = std::int64_t{10} * 60;
+
+constexpr std::array<const char*, 12> monthNames{"January",   "February", "March",    "April",
+                                                 "May",       "June",     "July",     "August",
+                                                 "September", "October",  "November", "December"};
+
+std::string templateText(std::string_view name) {
+  const std::optional<std::string_view> text = asset(name);
+  if (!text) throw std::logic_error("no template " + std::string(name));
+  return std::string(*text);
+}
+
+std::string rendered(std::string_view name, data values) {
+  values.set("frame_top",
+             data{kainjow::mustache::partial{[] { return templateText("frame_top.mustache"); }}});
+  values.set("frame_end",
+             data{kainjow::mustache::partial{[] { return templateText("frame_end.mustache"); }}});
+  mustache page(templateText(name));
+  return page.render(values);
+}
+
+std::chrono::sys_seconds instant(std::int64_t seconds) {
+  return std::chrono::sys_seconds(std::chrono::seconds(seconds));
+}
+
+std::string isoDate(std::int64_t now) {
+  const std::chrono::year_month_day day(std::chrono::floor<std::chrono::days>(instant(now)));
+  std::ostringstream text;
+  text << std::setfill('0') << std::setw(4) << int{day.year()} << '-' << std::setw(2)
+       << unsigned{day.month()} << '-' << std::setw(2) << unsigned{day.day()};
+  return text.str();
+}
+
+/// "2025-01-30" as "30 January 2025". REQUIRES: an existing day.
+std::string longDate(const std::string& date) {
+  const auto number = [&](std::size_t from, std::size_t count) {
+    std::size_t value = 0;
+    std::from_chars(date.data() + from, date.data() + from + count, value);
+    return value;
+  };
+  return std::to_string(number(8, 2)) + ' ' + monthNames.at(number(5, 2) - 1) + ' ' +
+         date.substr(0, 4);
+}
+
+std::string utcTime(std::int64_t seconds) {
+  const auto time = instant(seconds);
+  const std::chrono::hh_mm_ss clock(time - std::chrono::floor<std::chrono::days>(time));
+  std::ostringstream text;
+  text << longDate(isoDate(seconds)) << ", " << std::setfill('0') << std::setw(2)
+       << clock.hours().count() << ':' << std::setw(2) << clock.minutes().count() << " UTC";
+  return text.str();
+}
+
+/// The signer's time zone and what it was ahead of UTC, such as "Asia/Kolkata (UTC+05:30)".
+std::string zone(const Signature& signature) {
+  const std::int64_t minutes = signature.utcOffsetMinutes;
+  const std::int64_t distance = minutes < 0 ? -minutes : minutes;
+  std::ostringstream text;
+  text << signature.timezone << " (UTC" << (minutes < 0 ? '-' : '+') << std::setfill('0')
+       << std::setw(2) << distance / 60 << ':' << std::setw(2) << distance % 60 << ')';
+  return text.str();
+}
+
+std::string canonicalDigest(const Signature& signature) {
+  return CryptoManager::canonicalV3({.textDigest = signature.textDigest,
+                                     .issued = signature.issued,
+                                     .scope = signature.scope,
+                                     .snapshotDigest = signature.snapshotDigest,
+                                     .identity = signature.identity,
+                                     .signerKey = signature.deviceId,
+                                     .expires = signature.expires,
+                                     .nonce = signature.nonce,
+                                     .commitment = signature.commitment});
+}
+
+struct Verdict {
+  std::string tone;  ///< a class of the style sheet
+  std::string text;
+};
+
+Verdict verdictOf(const Signature& signature, std::int64_t now) {
+  if (signature.kind == SignatureKind::demonstration) {
+    return {.tone = "caution", .text = "Demonstration only: this is not a signature"};
+  }
+  if (isoDate(now) > signature.expires) {
+    return {.tone = "caution", .text = "Expired on " + longDate(signature.expires)};
+  }
+  if (signature.kind == SignatureKind::browser) {
+    return {.tone = "neutral", .text = "Signed in the browser, without a device key"};
+  }
+  return {.tone = "good", .text = "Signature verified"};
+}
+
+}  // namespace
+
+std::int64_t secondsLeft(const Handoff& handoff, std::int64_t now) {
+  return handoff.createdAt + handoffSeconds - now;
+}
+
+std::string browserExpiry(std::string_view issued) {
+  return CryptoManager::expiryDateFor({.issued = issued, .wordCount = 0});
+}
+
+std::string verifyPage(const Signature& signature, std::int64_t now) {
+  const bool isDevice = signature.kind == SignatureKind::device;
+  const Verdict verdict = verdictOf(signature, now);
+  data values;
+  values.set("title", "Check a signature");
+  values.set("script", "verify.js");
+  values.set("tone", verdict.tone);
+  values.set("verdict", verdict.text);
+  values.set("is_device", isDevice);
+  values.set("is_demonstration", signature.kind == SignatureKind::demonstration);
+  values.set("is_browser", signature.kind == SignatureKind::browser);
+  values.set("signer",
+             signature.identity.empty() ? std::string("An anonymous human") : signature.identity);
+  values.set("is_anonymous", signature.identity.empty());
+  values.set("issued", longDate(signature.issued));
+  values.set("expires", longDate(signature.expires));
+  values.set("scope", signature.scope);
+  values.set("commitment", signature.commitment);
+  values.set("method", signature.method);
+  values.set("has_device", !signature.deviceId.empty());
+  values.set("device", signature.deviceId);
+  values.set("recorded", utcTime(signature.recordedAt));
+  values.set("has_zone", !signature.timezone.empty());
+  values.set("zone", zone(signature));
+  values.set("id", signature.id);
+  values.set("text_digest", signature.textDigest);
+  values.set("image_digest", signature.imageDigest);
+  values.set("nonce", signature.nonce);
+  values.set("canonical_digest", canonicalDigest(signature));
+  values.set("public_key", signature.publicKey);
+  values.set("device_signature", signature.deviceSignature);
+  return rendered("verify.mustache", std::move(values));
+}
+
+std::string handoffPage(const Handoff& handoff, std::int64_t now) {
+  switch (handoff.state) {
+    case HandoffState::complete:
+      return noticePage(
+          {.title = "Already signed", .text = "This text was signed. You can close this tab."});
+    case HandoffState::declined:
+      return noticePage(
+          {.title = "Declined", .text = "You declined this request. Nothing was signed."});
+    case HandoffState::open:
+      break;
+  }
+  const std::int64_t left = secondsLeft(handoff, now);
+  if (left <= 0) {
+    return noticePage({.title = "Expired",
+                       .text =
+                           "This request was not signed within ten minutes. Nothing was signed. "
+                           "Select your text and start again."});
+  }
+  data values;
+  values.set("title", "Sign this text?");
+  values.set("script", "handoff.js");
+  values.set("id", handoff.id);
+  values.set("text_digest", handoff.textDigest);
+  values.set("seconds_left", std::to_string(left));
+  values.set("scope", handoff.scope);
+  values.set("issued", longDate(handoff.issued));
+  values.set("expires", longDate(browserExpiry(handoff.issued)));
+  return rendered("handoff.mustache", std::move(values));
+}
+
+std::string noticePage(const Notice& notice) {
+  data values;
+  values.set("title", notice.title);
+  values.set("text", notice.text);
+  return rendered("notice.mustache", std::move(values));
+}
+
+}  // namespace quillseal::devserver

@@ -1,0 +1,342 @@
+#include "Service.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <stdexcept>
+#include <utility>
+
+#include <nlohmann/json.hpp>
+
+#include "Assets.h"
+#include "Messages.h"
+#include "Pages.h"
+#include "Quillseal/CryptoManager.h"
+#include "Quillseal/StrictJson.h"
+#include "SignatureCheck.h"
+
+namespace quillseal::devserver {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+constexpr int success = 200;
+constexpr int badRequest = 400;
+constexpr int unauthorized = 401;
+constexpr int forbidden = 403;
+constexpr int notFound = 404;
+constexpr int conflict = 409;
+constexpr int gone = 410;
+constexpr int unsupportedMediaType = 415;
+
+constexpr std::int64_t signatureIdBytes = 12;
+constexpr std::int64_t handoffIdBytes = 16;
+
+constexpr std::string_view verifyPrefix = "/verify/";
+constexpr std::string_view assetPrefix = "/assets/";
+
+struct Refusal : std::runtime_error {
+  Refusal(int httpStatus, const std::string& message)
+      : std::runtime_error(message), status(httpStatus) {}
+  int status;
+};
+
+Reply jsonReply(int status, const Json& object) {
+  return {.status = status, .contentType = "application/json", .body = object.dump()};
+}
+
+Reply errorReply(int status, const std::string& message) {
+  return jsonReply(status, {{"error", message}});
+}
+
+Reply htmlReply(int status, std::string page) {
+  return {.status = status, .contentType = "text/html; charset=utf-8", .body = std::move(page)};
+}
+
+std::string randomId(std::int64_t bytes) {
+  std::string id = CryptoManager::randomHex(bytes);
+  if (id.empty()) throw std::runtime_error("the random source failed");
+  return id;
+}
+
+std::string contentTypeOf(std::string_view name) {
+  if (name.ends_with(".css")) return "text/css; charset=utf-8";
+  if (name.ends_with(".js")) return "text/javascript; charset=utf-8";
+  return "image/svg+xml";
+}
+
+/// A page's template is no file for browsers.
+std::optional<std::string_view> publicAsset(std::string_view name) {
+  return name.ends_with(".mustache") ? std::nullopt : asset(name);
+}
+
+/// A host name or address with or without a port; whatever else a client may send as "Host" must
+/// not reach a URL.
+bool isHost(std::string_view text) {
+  constexpr std::string_view characters =
+      "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789.-:[]";
+  return !text.empty() && text.find_first_not_of(characters) == std::string_view::npos;
+}
+
+Signature signatureOf(const Attestation& attestation) {
+  Signature signature;
+  signature.textDigest = attestation.textDigest;
+  signature.imageDigest = attestation.imageDigest;
+  signature.issued = attestation.issued;
+  signature.scope = attestation.scope;
+  signature.method = attestation.method;
+  signature.deviceId = attestation.deviceId;
+  signature.expires = attestation.expires;
+  signature.commitment = attestation.commitment;
+  signature.nonce = attestation.nonce;
+  signature.timezone = attestation.timezone;
+  signature.utcOffsetMinutes = attestation.utcOffsetMinutes;
+  return signature;
+}
+
+/// What the handoff page's "Sign" stands for.
+Signature signatureOf(const Handoff& handoff) {
+  Signature signature;
+  signature.kind = SignatureKind::browser;
+  signature.textDigest = handoff.textDigest;
+  signature.snapshotDigest = handoff.snapshotDigest;
+  signature.imageDigest = handoff.imageDigest;
+  signature.issued = handoff.issued;
+  signature.scope = handoff.scope;
+  signature.method = "“Sign” pressed in the browser";
+  signature.expires = browserExpiry(handoff.issued);
+  signature.commitment = CryptoManager::commitmentTypes.front();
+  return signature;
+}
+
+bool isGenuine(const Signature& signature) {
+  const std::string digest = CryptoManager::canonicalV3({.textDigest = signature.textDigest,
+                                                         .issued = signature.issued,
+                                                         .scope = signature.scope,
+                                                         .snapshotDigest = signature.snapshotDigest,
+                                                         .identity = signature.identity,
+                                                         .signerKey = signature.deviceId,
+                                                         .expires = signature.expires,
+                                                         .nonce = signature.nonce,
+                                                         .commitment = signature.commitment});
+  return isSignedBy({.publicKey = decodedBase64(signature.publicKey).value_or(""),
+                     .digestHex = digest,
+                     .signature = decodedBase64(signature.deviceSignature).value_or("")});
+}
+
+/// What an endpoint works with.
+struct Call {
+  Registry& registry;
+  const ServiceOptions& options;
+  const Request& request;
+  const JsonObject& body;
+};
+
+std::string originOf(const Call& call) {
+  if (!call.options.origin.empty()) return call.options.origin;
+  if (!isHost(call.request.host)) throw Refusal(badRequest, "The Host header names no host.");
+  return "http://" + call.request.host;
+}
+
+Handoff knownHandoff(const Call& call) {
+  std::optional<Handoff> handoff = call.registry.handoff(call.body.string("handoff_id"));
+  if (!handoff) throw Refusal(notFound, "This signing request does not exist.");
+  return *std::move(handoff);
+}
+
+Json enrol(const Call& call) {
+  const Enrolment enrolment = readEnrolment(call.body);
+  const std::string& identity = call.options.identity;
+  call.registry.enrol(
+      {.deviceId = enrolment.deviceId, .publicKey = enrolment.publicKey, .identity = identity},
+      call.options.now());
+  Json answer{{"status", "registered"}, {"device_id", enrolment.deviceId}};
+  if (!identity.empty()) answer["identity"] = identity;
+  return answer;
+}
+
+/// Records it under a fresh identifier, which it returns.
+std::string recorded(const Call& call, Signature signature) {
+  signature.id = randomId(signatureIdBytes);
+  signature.recordedAt = call.options.now();
+  if (!call.registry.record(signature)) {
+    throw Refusal(conflict, "This nonce was used before. Sign again.");
+  }
+  return signature.id;
+}
+
+Json signNative(const Call& call) {
+  Signature signature = signatureOf(readAttestation(call.body));
+  const DeviceProof proof = readDeviceProof(call.body);
+  const std::optional<Device> device = call.registry.device(signature.deviceId);
+  // The agent enrols again when it reads these words.
+  if (!device) throw Refusal(notFound, "Device not registered");
+  signature.kind = SignatureKind::device;
+  signature.snapshotDigest = proof.snapshotDigest;
+  signature.deviceSignature = proof.signature;
+  signature.identity = device->identity;
+  signature.publicKey = device->publicKey;
+  if (!isGenuine(signature)) {
+    throw Refusal(forbidden, "The signature does not match this device's key and these fields.");
+  }
+  return {{"signature_id", recorded(call, std::move(signature))}};
+}
+
+Json signDemo(const Call& call) {
+  Signature signature = signatureOf(readAttestation(call.body));
+  signature.kind = SignatureKind::demonstration;
+  return {{"signature_id", recorded(call, std::move(signature))}, {"demo", true}};
+}
+
+Json createHandoff(const Call& call) {
+  const HandoffRequest request = readHandoffRequest(call.body);
+  const std::string id = randomId(handoffIdBytes);
+  const std::string url = originOf(call) + "/handoff?h=" + id;
+  Handoff handoff;
+  handoff.id = id;
+  handoff.textDigest = request.textDigest;
+  handoff.snapshotDigest = request.snapshotDigest;
+  handoff.imageDigest = request.imageDigest;
+  handoff.issued = request.issued;
+  handoff.scope = request.scope;
+  handoff.createdAt = call.options.now();
+  call.registry.open(handoff);
+  return {{"handoff_id", id}, {"url", url}};
+}
+
+Json pollHandoff(const Call& call) {
+  const Handoff handoff = knownHandoff(call);
+  if (handoff.state == HandoffState::complete) {
+    return {{"status", "complete"}, {"signature_id", handoff.signatureId}};
+  }
+  // An agent goes on polling at any other word, also at one for "declined"; it would wait for
+  // minutes for what will never come.
+  const bool isOver =
+      handoff.state == HandoffState::declined || secondsLeft(handoff, call.options.now()) <= 0;
+  return {{"status", isOver ? "expired" : "pending"}};
+}
+
+/// The handoff, open and in time.
+Handoff openHandoff(const Call& call) {
+  Handoff handoff = knownHandoff(call);
+  if (handoff.state == HandoffState::declined) {
+    throw Refusal(conflict, "This signing request was declined.");
+  }
+  if (secondsLeft(handoff, call.options.now()) <= 0) {
+    throw Refusal(gone, "This signing request has expired.");
+  }
+  return handoff;
+}
+
+Json signHandoff(const Call& call) {
+  const std::string textDigest = readTextDigest(call.body);
+  // A second click, or a repeated request whose answer was lost, finds its first signature.
+  if (const Handoff known = knownHandoff(call); known.state == HandoffState::complete) {
+    return {{"signature_id", known.signatureId}};
+  }
+  const Handoff handoff = openHandoff(call);
+  if (textDigest != handoff.textDigest) {
+    throw Refusal(forbidden, "This is not the text that was registered.");
+  }
+  Signature signature = signatureOf(handoff);
+  signature.id = randomId(signatureIdBytes);
+  signature.recordedAt = call.options.now();
+  if (!call.registry.complete(handoff.id, signature)) {
+    throw Refusal(conflict, "This signing request was just answered elsewhere.");
+  }
+  return {{"signature_id", signature.id}};
+}
+
+Json declineHandoff(const Call& call) {
+  const Handoff handoff = openHandoff(call);
+  if (!call.registry.decline(handoff.id)) {
+    throw Refusal(conflict, "This signing request was already signed.");
+  }
+  return {{"status", "declined"}};
+}
+
+enum class Caller : std::uint8_t {
+  agent,  ///< carries the API key
+  page,   ///< carries the identifier of a handoff, which nobody can guess
+};
+
+struct Endpoint {
+  std::string_view path;
+  Caller caller;
+  Json (*perform)(const Call&);
+};
+
+constexpr std::array endpoints{
+    Endpoint{"/api/register_native", Caller::agent, enrol},
+    Endpoint{"/api/sign_native", Caller::agent, signNative},
+    Endpoint{"/api/sign_demo", Caller::agent, signDemo},
+    Endpoint{"/api/handoff/create", Caller::agent, createHandoff},
+    Endpoint{"/api/handoff/poll", Caller::agent, pollHandoff},
+    Endpoint{"/handoff/sign", Caller::page, signHandoff},
+    Endpoint{"/handoff/decline", Caller::page, declineHandoff},
+};
+
+Reply answerPost(Registry& registry, const ServiceOptions& options, const Request& request) {
+  const auto* endpoint = std::ranges::find(endpoints, request.path, &Endpoint::path);
+  if (endpoint == endpoints.end()) throw Refusal(notFound, "There is no such endpoint.");
+  // A foreign page cannot send this type without the browser asking this server first.
+  if (!request.contentType.starts_with("application/json")) {
+    throw Refusal(unsupportedMediaType, "The Content-Type must be application/json.");
+  }
+  const JsonObject body = JsonObject::parse(request.body);
+  if (endpoint->caller == Caller::agent && !equalSecrets(body.string("api_key"), options.apiKey)) {
+    throw Refusal(unauthorized, "The API key is not the one of this server.");
+  }
+  return jsonReply(
+      success, endpoint->perform(
+                   {.registry = registry, .options = options, .request = request, .body = body}));
+}
+
+Reply answerGet(const Registry& registry, const ServiceOptions& options, const Request& request) {
+  const std::string_view path = request.path;
+  if (path == "/") {
+    return htmlReply(success, noticePage({.title = "The development server is running",
+                                          .text = "Set it as the server of Quillseal on this "
+                                                  "computer, with its API key, to try signing."}));
+  }
+  if (path.starts_with(verifyPrefix)) {
+    const auto signature = registry.signature(std::string(path.substr(verifyPrefix.size())));
+    if (signature) return htmlReply(success, verifyPage(*signature, options.now()));
+    return htmlReply(notFound,
+                     noticePage({.title = "No such signature",
+                                 .text = "This server knows no signature of this name. Treat the "
+                                         "text as unsigned, unless the link was damaged."}));
+  }
+  if (path == "/handoff") {
+    const auto handoff = registry.handoff(request.handoffId);
+    if (handoff) return htmlReply(success, handoffPage(*handoff, options.now()));
+    return htmlReply(notFound, noticePage({.title = "No such signing request",
+                                           .text = "Select your text and start again."}));
+  }
+  if (path.starts_with(assetPrefix)) {
+    const std::string_view name = path.substr(assetPrefix.size());
+    if (const auto content = publicAsset(name)) {
+      return {.contentType = contentTypeOf(name), .body = std::string(*content)};
+    }
+  }
+  return htmlReply(
+      notFound, noticePage({.title = "Nothing here", .text = "There is no page at this address."}));
+}
+
+}  // namespace
+
+Service::Service(Registry& registry, ServiceOptions options)
+    : registry_(registry), options_(std::move(options)) {}
+
+Reply Service::answer(const Request& request) {
+  try {
+    return request.method == "POST" ? answerPost(registry_, options_, request)
+                                    : answerGet(registry_, options_, request);
+  } catch (const Refusal& refusal) {
+    return errorReply(refusal.status, refusal.what());
+  } catch (const JsonError& error) {
+    return errorReply(badRequest, "The request body cannot be used. " + std::string(error.what()));
+  }
+}
+
+}  // namespace quillseal::devserver

@@ -1,0 +1,100 @@
+#include "SignatureCheck.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <memory>
+
+#include <openssl/core_names.h>
+#include <openssl/crypto.h>
+#include <openssl/ec.h>
+#include <openssl/evp.h>
+#include <openssl/params.h>
+
+namespace quillseal::devserver {
+namespace {
+
+constexpr std::size_t pointBytes = 65;
+constexpr std::size_t digestBytes = 32;
+
+template <auto release>
+struct Releaser {
+  template <typename T>
+  void operator()(T* object) const {
+    release(object);
+  }
+};
+
+using KeyContext = std::unique_ptr<EVP_PKEY_CTX, Releaser<EVP_PKEY_CTX_free>>;
+using Key = std::unique_ptr<EVP_PKEY, Releaser<EVP_PKEY_free>>;
+
+const unsigned char* bytesOf(std::string_view text) {
+  return reinterpret_cast<const unsigned char*>(text.data());
+}
+
+/// Null when `point` is no point of the curve.
+Key keyOf(std::string_view point) {
+  if (point.size() != pointBytes || point.front() != '\x04') return nullptr;
+  std::string group = "P-256";
+  std::string bytes(point);
+  const std::array parameters{
+      OSSL_PARAM_construct_utf8_string(OSSL_PKEY_PARAM_GROUP_NAME, group.data(), 0),
+      OSSL_PARAM_construct_octet_string(OSSL_PKEY_PARAM_PUB_KEY, bytes.data(), bytes.size()),
+      OSSL_PARAM_construct_end()};
+  const KeyContext building(EVP_PKEY_CTX_new_from_name(nullptr, "EC", nullptr));
+  EVP_PKEY* built = nullptr;
+  if (!building || EVP_PKEY_fromdata_init(building.get()) != 1 ||
+      EVP_PKEY_fromdata(building.get(), &built, EVP_PKEY_PUBLIC_KEY,
+                        const_cast<OSSL_PARAM*>(parameters.data())) != 1) {
+    return nullptr;
+  }
+  Key key(built);
+  const KeyContext checking(EVP_PKEY_CTX_new(key.get(), nullptr));
+  if (!checking || EVP_PKEY_public_check(checking.get()) != 1) return nullptr;
+  return key;
+}
+
+}  // namespace
+
+std::optional<std::string> decodedBase64(std::string_view text) {
+  constexpr std::string_view alphabet =
+      "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+  // EVP_DecodeBlock forgives white space and stray padding; a signature field has neither.
+  if (text.size() % 4 != 0) return std::nullopt;
+  const std::size_t padding = text.size() - std::min(text.size(), text.find_last_not_of('=') + 1);
+  if (padding > 2) return std::nullopt;
+  const std::string_view digits = text.substr(0, text.size() - padding);
+  if (digits.find_first_not_of(alphabet) != std::string_view::npos) return std::nullopt;
+  std::string bytes(text.size() / 4 * 3, '\0');
+  const int length = EVP_DecodeBlock(reinterpret_cast<unsigned char*>(bytes.data()), bytesOf(text),
+                                     static_cast<int>(text.size()));
+  if (length < 0) return std::nullopt;
+  bytes.resize(static_cast<std::size_t>(length) - padding);
+  return bytes;
+}
+
+bool isPublicKey(std::string_view point) {
+  return keyOf(point) != nullptr;
+}
+
+bool isSignedBy(const SignatureClaim& claim) {
+  const Key key = keyOf(claim.publicKey);
+  std::array<unsigned char, digestBytes> digest{};
+  std::size_t length = 0;
+  if (!key ||
+      OPENSSL_hexstr2buf_ex(digest.data(), digest.size(), &length,
+                            std::string(claim.digestHex).c_str(), '\0') != 1 ||
+      length != digest.size()) {
+    return false;
+  }
+  const KeyContext context(EVP_PKEY_CTX_new(key.get(), nullptr));
+  return context && EVP_PKEY_verify_init(context.get()) == 1 &&
+         EVP_PKEY_verify(context.get(), bytesOf(claim.signature), claim.signature.size(),
+                         digest.data(), digest.size()) == 1;
+}
+
+bool equalSecrets(std::string_view left, std::string_view right) {
+  return left.size() == right.size() && CRYPTO_memcmp(left.data(), right.data(), left.size()) == 0;
+}
+
+}  // namespace quillseal::devserver

@@ -1,0 +1,91 @@
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+
+#include "Registry.h"
+
+namespace quillseal::devserver {
+namespace {
+
+class RegistryTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    std::string pattern = ::testing::TempDir() + "/registry-XXXXXX";
+    ASSERT_NE(mkdtemp(pattern.data()), nullptr);
+    folder_ = pattern;
+  }
+  void TearDown() override { std::filesystem::remove_all(folder_); }
+
+  std::string path() const { return (folder_ / "registry.sqlite").string(); }
+
+ private:
+  std::filesystem::path folder_;
+};
+
+TEST_F(RegistryTest, KeepsEveryFieldAcrossRuns) {
+  Signature signature;
+  signature.id = "s1";
+  signature.kind = SignatureKind::demonstration;
+  signature.scope = std::string("a\0b 'quoted' 『』", 19);
+  signature.nonce = "n1";
+  signature.utcOffsetMinutes = -210;
+  signature.recordedAt = 5'000'000'000;
+  {
+    Registry registry(path());
+    registry.enrol({.deviceId = "d", .publicKey = "k", .identity = "Ada"}, 7);
+    ASSERT_TRUE(registry.record(signature));
+  }
+  Registry registry(path());
+  EXPECT_EQ(registry.device("d")->identity, "Ada");
+  EXPECT_FALSE(registry.device("D").has_value());
+  const auto kept = registry.signature("s1");
+  ASSERT_TRUE(kept.has_value());
+  EXPECT_EQ(kept->kind, signature.kind);
+  EXPECT_EQ(kept->scope, signature.scope);
+  EXPECT_EQ(kept->utcOffsetMinutes, signature.utcOffsetMinutes);
+  EXPECT_EQ(kept->recordedAt, signature.recordedAt);
+  signature.id = "s2";
+  EXPECT_FALSE(registry.record(signature)) << "the nonce is known from the first run";
+  EXPECT_FALSE(registry.signature("s2").has_value());
+}
+
+TEST_F(RegistryTest, AHandoffEndsOnce) {
+  Registry registry(path());
+  Handoff handoff;
+  handoff.id = "h";
+  registry.open(handoff);
+  Signature signature;
+  signature.id = "s";
+  EXPECT_TRUE(registry.complete("h", signature));
+  EXPECT_EQ(registry.handoff("h")->signatureId, "s");
+  signature.id = "t";
+  EXPECT_FALSE(registry.complete("h", signature));
+  EXPECT_FALSE(registry.signature("t").has_value());
+  EXPECT_FALSE(registry.decline("h"));
+  EXPECT_EQ(registry.handoff("h")->state, HandoffState::complete);
+}
+
+TEST_F(RegistryTest, LeavesAFileThatIsNotItsOwnAlone) {
+  const std::string text(4096, 'x');
+  std::ofstream(path()) << text;
+  EXPECT_THROW(Registry{path()}, RegistryError);
+  std::ifstream file(path());
+  EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), text);
+  EXPECT_THROW(Registry{path() + "/no/such/folder"}, RegistryError);
+}
+
+TEST_F(RegistryTest, RefusesTheFileOfAnotherVersion) {
+  sqlite3* database = nullptr;
+  ASSERT_EQ(sqlite3_open(path().c_str(), &database), SQLITE_OK);
+  sqlite3_exec(database, "PRAGMA user_version = 99", nullptr, nullptr, nullptr);
+  sqlite3_close(database);
+  EXPECT_THROW(Registry{path()}, RegistryError);
+}
+
+}  // namespace
+}  // namespace quillseal::devserver

@@ -1,0 +1,333 @@
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include "Quillseal/CryptoManager.h"
+#include "Service.h"
+#include "TestDevice.h"
+
+namespace quillseal::devserver {
+namespace {
+
+using nlohmann::json;
+using ::testing::HasSubstr;
+using ::testing::Not;
+using ::testing::StartsWith;
+
+constexpr const char* apiKey = "the right key";
+constexpr const char* deviceId = "0F4B3A52-7C1D-4E8A-9B60-5D2E1C7F8A90";
+constexpr std::int64_t start = 1767225600;  // 1 January 2026, 00:00 UTC
+
+class ServiceTest : public ::testing::Test {
+ protected:
+  struct Answer {
+    int status;
+    json body;
+  };
+
+  Service& service() {
+    if (!service_) {
+      service_.emplace(registry_, ServiceOptions{.apiKey = apiKey,
+                                                 .identity = identity_,
+                                                 .origin = origin_,
+                                                 .now = [this] { return now_; }});
+    }
+    return *service_;
+  }
+
+  Answer post(const std::string& path, const json& body) { return postText(path, body.dump()); }
+
+  Answer postText(const std::string& path, const std::string& body) {
+    const Reply reply = service().answer({.method = "POST",
+                                          .path = path,
+                                          .contentType = "application/json",
+                                          .host = host_,
+                                          .handoffId = "",
+                                          .body = body});
+    EXPECT_EQ(reply.contentType, "application/json");
+    return {reply.status, json::parse(reply.body)};
+  }
+
+  Reply get(const std::string& path, const std::string& handoffId = "") {
+    return service().answer({.method = "GET",
+                             .path = path,
+                             .contentType = "",
+                             .host = host_,
+                             .handoffId = handoffId,
+                             .body = ""});
+  }
+
+  std::string verifyPageOf(const Answer& answer) {
+    return get("/verify/" + answer.body.at("signature_id").get<std::string>()).body;
+  }
+
+  json enrolment() const {
+    return {{"device_id", deviceId}, {"public_key", device_.publicKey()}, {"api_key", apiKey}};
+  }
+
+  /// A demonstration request; `signedRequest` adds what a device's signature needs.
+  static json request() {
+    return {{"text_digest", CryptoManager::sha256Hex("text")},
+            {"issued", "2026-01-01"},
+            {"scope", "Email Message (Writer <b>)"},
+            {"image_digest", CryptoManager::sha256Hex("images")},
+            {"device_id", deviceId},
+            {"method", "Touch ID"},
+            {"expires", "2026-01-31"},
+            {"commitment", "statement"},
+            {"nonce", "00112233445566778899aabbccddeeff"},
+            {"timezone", "Asia/Kolkata"},
+            {"tz_offset", 330},
+            {"api_key", apiKey}};
+  }
+
+  json signedRequest(json fields, const std::string& identity) const {
+    fields["protocol"] = "v2";
+    fields["snapshot_digest"] = "";
+    const auto text = [&](const char* key) -> const std::string& {
+      return fields[key].get_ref<const std::string&>();
+    };
+    fields["enclave_signature"] =
+        device_.sign(CryptoManager::canonicalV3({.textDigest = text("text_digest"),
+                                                 .issued = text("issued"),
+                                                 .scope = text("scope"),
+                                                 .snapshotDigest = "",
+                                                 .identity = identity,
+                                                 .signerKey = text("device_id"),
+                                                 .expires = text("expires"),
+                                                 .nonce = text("nonce"),
+                                                 .commitment = text("commitment")}));
+    return fields;
+  }
+
+  Answer createHandoff() {
+    return post("/api/handoff/create", {{"text_digest", CryptoManager::sha256Hex("text")},
+                                        {"snapshot_digest", ""},
+                                        {"issued", "2026-01-01"},
+                                        {"scope", "Web Form (Browser)"},
+                                        {"image_digest", CryptoManager::sha256Hex("images")},
+                                        {"api_key", apiKey}});
+  }
+
+  std::string openHandoff() { return createHandoff().body.at("handoff_id"); }
+
+  json poll(const std::string& id) {
+    return post("/api/handoff/poll", {{"handoff_id", id}, {"api_key", apiKey}}).body;
+  }
+
+  Answer pressSign(const std::string& id, const std::string& text = "text") {
+    return post("/handoff/sign",
+                {{"handoff_id", id}, {"text_digest", CryptoManager::sha256Hex(text)}});
+  }
+
+  std::string identity_;
+  std::string origin_;
+  std::string host_ = "127.0.0.1:8427";
+  std::int64_t now_ = start;
+  TestDevice device_;
+
+ private:
+  Registry registry_{":memory:"};
+  std::optional<Service> service_;
+};
+
+TEST_F(ServiceTest, RecordsTheSignatureOfAnEnrolledDevice) {
+  identity_ = "Ada Lovelace";
+  const Answer enrolled = post("/api/register_native", enrolment());
+  EXPECT_EQ(enrolled.status, 200);
+  EXPECT_EQ(
+      enrolled.body,
+      json({{"status", "registered"}, {"device_id", deviceId}, {"identity", "Ada Lovelace"}}));
+  const Answer answer = post("/api/sign_native", signedRequest(request(), "ada lovelace"));
+  ASSERT_EQ(answer.status, 200) << answer.body;
+
+  const std::string page = verifyPageOf(answer);
+  for (const char* shown :
+       {"Ada Lovelace", "Signature verified", "1 January 2026", "31 January 2026", "statement",
+        "Email Message (Writer &lt;b&gt;)", deviceId, "Asia/Kolkata (UTC+05:30)"}) {
+    EXPECT_THAT(page, HasSubstr(shown));
+  }
+  now_ += std::int64_t{31} * 24 * 60 * 60;
+  EXPECT_THAT(verifyPageOf(answer), HasSubstr("Expired on 31 January 2026"));
+}
+
+TEST_F(ServiceTest, AnonymousEnrolmentAnswersNoIdentity) {
+  EXPECT_EQ(post("/api/register_native", enrolment()).body,
+            json({{"status", "registered"}, {"device_id", deviceId}}));
+}
+
+TEST_F(ServiceTest, RefusesWhatIsNotTheDevicesSignature) {
+  const json genuine = signedRequest(request(), "");
+  const Answer unknown = post("/api/sign_native", genuine);
+  EXPECT_EQ(unknown.status, 404);
+  EXPECT_EQ(unknown.body.at("error"), "Device not registered");
+
+  post("/api/register_native", enrolment());
+  // Every field that the signature binds, changed alone.
+  const json changes = {{"text_digest", CryptoManager::sha256Hex("other")},
+                        {"snapshot_digest", CryptoManager::sha256Hex("other")},
+                        {"issued", "2026-01-02"},
+                        {"scope", "Chat Message"},
+                        {"expires", "2026-02-01"},
+                        {"nonce", "ffeeddccbbaa99887766554433221100"},
+                        {"commitment", "approval"},
+                        {"enclave_signature", TestDevice().sign(CryptoManager::sha256Hex("x"))}};
+  for (const auto& [key, value] : changes.items()) {
+    json forged = genuine;
+    forged[key] = value;
+    EXPECT_EQ(post("/api/sign_native", forged).status, 403) << key;
+  }
+  EXPECT_EQ(post("/api/sign_native", signedRequest(request(), "Someone Else")).status, 403);
+  EXPECT_EQ(post("/api/sign_native", genuine).status, 200);
+  EXPECT_EQ(post("/api/sign_native", genuine).status, 409) << "the nonce was used";
+  EXPECT_EQ(post("/api/sign_demo", request()).status, 409) << "the nonce was used";
+
+  json replaced = enrolment();
+  replaced["public_key"] = TestDevice().publicKey();
+  post("/api/register_native", replaced);
+  json fresh = request();
+  fresh["nonce"] = "0123456789abcdef0123456789abcdef";
+  EXPECT_EQ(post("/api/sign_native", signedRequest(fresh, "")).status, 403) << "an old key";
+}
+
+TEST_F(ServiceTest, DemonstrationsAreShownAsSuch) {
+  const Answer answer = post("/api/sign_demo", request());
+  ASSERT_EQ(answer.status, 200) << answer.body;
+  EXPECT_EQ(answer.body.at("demo"), true);
+  EXPECT_THAT(verifyPageOf(answer), HasSubstr("Demonstration only: this is not a signature"));
+  EXPECT_THAT(verifyPageOf(answer), Not(HasSubstr("Signature verified")));
+}
+
+TEST_F(ServiceTest, RefusesAWrongApiKeyEverywhere) {
+  for (const char* path : {"/api/register_native", "/api/sign_native", "/api/sign_demo",
+                           "/api/handoff/create", "/api/handoff/poll"}) {
+    EXPECT_EQ(post(path, {{"api_key", "the wrong one"}}).status, 401) << path;
+    EXPECT_EQ(post(path, json::object()).status, 400) << path;
+  }
+}
+
+TEST_F(ServiceTest, NamesTheKeyAtFault) {
+  struct Case {
+    const char* key;
+    std::vector<json> values;
+  };
+  const std::string upperCaseDigest =
+      "E3B0C44298FC1C149AFBF4C8996FB92427AE41E4649B934CA495991B7852B855";
+  const std::vector<Case> cases{
+      {"text_digest", {nullptr, 5, "", "abc", CryptoManager::sha256Hex("") + "0", upperCaseDigest}},
+      {"image_digest", {nullptr, "", std::string(64, 'g')}},
+      {"snapshot_digest", {nullptr, "abc"}},
+      {"issued", {nullptr, "", "2026-02-30", "30/01/2026", " 2026-01-01"}},
+      {"expires", {nullptr, "", "2025-12-31", "2026-13-01"}},
+      {"scope", {nullptr, json::object(), std::string(1001, 'x')}},
+      {"method", {nullptr, json::array()}},
+      {"device_id",
+       {nullptr, "", "0F4B3A52-7C1D-4E8A-9B60-5D2E1C7F8A9",
+        "0F4B3A5207C1D-4E8A-9B60-5D2E1C7F8A90"}},
+      {"commitment", {nullptr, "", "contract", "Statement"}},
+      {"nonce",
+       {nullptr, "", "00112233445566778899aabbccddeef", std::string(129, '0'),
+        std::string(32, 'g')}},
+      {"timezone", {nullptr, "", "<script>"}},
+      {"tz_offset", {nullptr, "330", 330.0, 1081, -1081, 1e300}},
+      {"protocol", {nullptr, "v1"}},
+      {"enclave_signature", {nullptr, "", "====", "AAA", "AA A", "AAAA\n", std::string(200, 'A')}},
+  };
+  post("/api/register_native", enrolment());
+  for (const Case& each : cases) {
+    json missing = signedRequest(request(), "");
+    missing.erase(each.key);
+    EXPECT_EQ(post("/api/sign_native", missing).status, 400) << each.key;
+    for (const json& value : each.values) {
+      json body = signedRequest(request(), "");
+      body[each.key] = value;
+      const Answer answer = post("/api/sign_native", body);
+      EXPECT_EQ(answer.status, 400) << each.key << value;
+      EXPECT_THAT(answer.body.value("error", ""), HasSubstr("“" + std::string(each.key) + "”"));
+    }
+  }
+  // Points: too short, compressed, off the curve, at infinity.
+  for (const char* point :
+       {"BA==", "A2sX0fLhLEJH+Lzm5WOkQPJ3A32BLeszoPShOUXYmMKW",
+        "BAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAE=",
+        "AA=="}) {
+    json body = enrolment();
+    body["public_key"] = point;
+    EXPECT_EQ(post("/api/register_native", body).status, 400) << point;
+  }
+  for (const char* text : {"", "[]", "5", "{", "{}x", "{\"api_key\":\"\xff\"}"}) {
+    EXPECT_EQ(postText("/api/sign_demo", text).status, 400) << text;
+  }
+}
+
+TEST_F(ServiceTest, AHandoffIsSignedInTheBrowser) {
+  const std::string id = openHandoff();
+  EXPECT_EQ(poll(id), json({{"status", "pending"}}));
+  EXPECT_THAT(get("/handoff", id).body, HasSubstr("Sign this text?"));
+  EXPECT_EQ(pressSign(id, "another text").status, 403);
+  EXPECT_EQ(poll(id), json({{"status", "pending"}}));
+
+  const Answer answer = pressSign(id);
+  ASSERT_EQ(answer.status, 200) << answer.body;
+  const std::string signatureId = answer.body.at("signature_id");
+  EXPECT_EQ(pressSign(id).body.at("signature_id"), signatureId) << "a second click";
+  EXPECT_EQ(post("/handoff/decline", {{"handoff_id", id}}).status, 409);
+  now_ += 3600;
+  EXPECT_EQ(poll(id), json({{"status", "complete"}, {"signature_id", signatureId}}));
+  EXPECT_EQ(pressSign(id).body.at("signature_id"), signatureId) << "a repeated request";
+  EXPECT_THAT(verifyPageOf(answer), HasSubstr("Signed in the browser, without a device key"));
+  EXPECT_THAT(verifyPageOf(answer), HasSubstr("8 January 2026"));
+}
+
+TEST_F(ServiceTest, AHandoffEndsUnsigned) {
+  const std::string declined = openHandoff();
+  EXPECT_EQ(post("/handoff/decline", {{"handoff_id", declined}}).status, 200);
+  EXPECT_EQ(poll(declined).at("status"), "expired") << "so that the agent stops waiting";
+  EXPECT_EQ(pressSign(declined).status, 409);
+  EXPECT_THAT(get("/handoff", declined).body, HasSubstr("Declined"));
+
+  const std::string late = openHandoff();
+  now_ += 599;
+  EXPECT_EQ(poll(late).at("status"), "pending");
+  now_ += 1;
+  EXPECT_EQ(poll(late).at("status"), "expired");
+  EXPECT_EQ(pressSign(late).status, 410);
+  EXPECT_THAT(get("/handoff", late).body, HasSubstr("Expired"));
+
+  EXPECT_EQ(pressSign("unknown").status, 404);
+  EXPECT_EQ(get("/handoff", "unknown").status, 404);
+}
+
+TEST_F(ServiceTest, LinksLeadBackToWhereTheRequestCame) {
+  EXPECT_THAT(createHandoff().body.at("url").get<std::string>(),
+              StartsWith("http://127.0.0.1:8427/handoff?h="));
+  host_ = "evil/\"><script>";
+  EXPECT_EQ(createHandoff().status, 400);
+}
+
+TEST_F(ServiceTest, LinksLeadToTheProxyInFront) {
+  origin_ = "https://seal.example.org";
+  EXPECT_THAT(createHandoff().body.at("url").get<std::string>(),
+              StartsWith("https://seal.example.org/handoff?h="));
+}
+
+TEST_F(ServiceTest, OnlyJsonIsTakenAndTemplatesAreNotServed) {
+  const Reply reply = service().answer({.method = "POST",
+                                        .path = "/handoff/sign",
+                                        .contentType = "text/plain",
+                                        .host = host_,
+                                        .handoffId = "",
+                                        .body = "{}"});
+  EXPECT_EQ(reply.status, 415);
+  EXPECT_EQ(get("/assets/verify.js").status, 200);
+  EXPECT_EQ(get("/assets/verify.mustache").status, 404);
+  EXPECT_EQ(get("/assets/../main.cpp").status, 404);
+  EXPECT_EQ(get("/verify/'; DROP TABLE signatures; --").status, 404);
+}
+
+}  // namespace
+}  // namespace quillseal::devserver

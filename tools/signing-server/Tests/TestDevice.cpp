@@ -1,0 +1,62 @@
+#include "TestDevice.h"
+
+#include <stdexcept>
+
+#include <openssl/ec.h>
+#include <openssl/evp.h>
+
+namespace quillseal::devserver {
+namespace {
+
+void require(bool succeeded) {
+  if (!succeeded) throw std::runtime_error("OpenSSL failed");
+}
+
+std::string base64(std::string_view bytes) {
+  std::string text((bytes.size() + 2) / 3 * 4 + 1, '\0');
+  const int length = EVP_EncodeBlock(reinterpret_cast<unsigned char*>(text.data()),
+                                     reinterpret_cast<const unsigned char*>(bytes.data()),
+                                     static_cast<int>(bytes.size()));
+  text.resize(static_cast<std::size_t>(length));
+  return text;
+}
+
+}  // namespace
+
+struct TestDevice::Key {
+  EVP_PKEY* handle = EVP_EC_gen("P-256");
+  Key() { require(handle != nullptr); }
+  ~Key() { EVP_PKEY_free(handle); }
+  Key(const Key&) = delete;
+  Key& operator=(const Key&) = delete;
+};
+
+TestDevice::TestDevice() : key_(std::make_unique<Key>()) {}
+TestDevice::~TestDevice() = default;
+
+std::string TestDevice::publicKey() const {
+  unsigned char* encoded = nullptr;
+  const std::size_t length = EVP_PKEY_get1_encoded_public_key(key_->handle, &encoded);
+  require(length > 0);
+  const std::string point(reinterpret_cast<const char*>(encoded), length);
+  OPENSSL_free(encoded);
+  return base64(point);
+}
+
+std::string TestDevice::sign(std::string_view digestHex) const {
+  long length = 0;
+  unsigned char* digest = OPENSSL_hexstr2buf(std::string(digestHex).c_str(), &length);
+  require(digest != nullptr);
+  const std::unique_ptr<EVP_PKEY_CTX, decltype(&EVP_PKEY_CTX_free)> context(
+      EVP_PKEY_CTX_new(key_->handle, nullptr), &EVP_PKEY_CTX_free);
+  require(context && EVP_PKEY_sign_init(context.get()) == 1);
+  std::string signature(static_cast<std::size_t>(EVP_PKEY_get_size(key_->handle)), '\0');
+  std::size_t size = signature.size();
+  require(EVP_PKEY_sign(context.get(), reinterpret_cast<unsigned char*>(signature.data()), &size,
+                        digest, static_cast<std::size_t>(length)) == 1);
+  OPENSSL_free(digest);
+  signature.resize(size);
+  return base64(signature);
+}
+
+}  // namespace quillseal::devserver

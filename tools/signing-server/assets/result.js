@@ -1,0 +1,6 @@
+// Shows the outcome of a comparison; `tone` is a class of the style sheet.
+export function showResult(tone, message) {
+  const result = document.getElementById("result");
+  result.className = `result ${tone}`;
+  result.textContent = message;
+}

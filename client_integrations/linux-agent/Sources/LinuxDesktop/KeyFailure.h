@@ -1,14 +1,17 @@
 #pragma once
 
-#include <stdexcept>
+#include <string>
+
+#include "Desktop/Error.h"
 
 namespace quillseal {
 
-/// A key operation that failed. `what()` is a sentence or two for the user: what is wrong and what
-/// to do about it. Never holds a secret.
-class KeyFailure : public std::runtime_error {
+/// A key operation that failed: what is wrong and what to do about it, in sentences for the user.
+/// Never holds a secret.
+class KeyFailure : public Error {
  public:
-  using std::runtime_error::runtime_error;
+  explicit KeyFailure(const std::string& description)
+      : Error({.domain = "Quillseal.Key", .code = 0, .description = description}) {}
 };
 
 }  // namespace quillseal

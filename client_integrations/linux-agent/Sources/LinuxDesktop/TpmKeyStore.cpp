@@ -1,0 +1,425 @@
+#include "LinuxDesktop/TpmKeyStore.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <memory>
+#include <span>
+#include <string_view>
+#include <utility>
+
+#include <fcntl.h>
+#include <tss2/tss2_esys.h>
+#include <tss2/tss2_mu.h>
+#include <tss2/tss2_tctildr.h>
+#include <unistd.h>
+
+#include "LinuxDesktop/KeyFile.h"
+#include "LinuxDesktop/TpmFailure.h"
+#include "Quillseal/Digest.h"
+
+namespace quillseal {
+
+namespace {
+
+constexpr std::string_view headline =
+    "Quillseal signing key, wrapped by the TPM of this computer. Useless anywhere else.";
+constexpr std::array<std::string_view, 3> labels{"QUILLSEAL TPM PARENT", "QUILLSEAL TPM PUBLIC",
+                                                 "QUILLSEAL TPM PRIVATE"};
+constexpr std::string_view devicePrefix = "device:";
+
+bool isSimulator(std::string_view device) {
+  return !device.starts_with(devicePrefix);
+}
+
+[[noreturn]] void fail(const TpmFailure& failure) {
+  throw KeyFailure(failure.message);
+}
+
+void require(TSS2_RC code) {
+  if (code != TSS2_RC_SUCCESS) fail(tpmFailureOf(code));
+}
+
+struct EsysRelease {
+  void operator()(void* object) const noexcept { ::Esys_Free(object); }
+};
+template <typename Object>
+using Owned = std::unique_ptr<Object, EsysRelease>;
+
+/// Calls `action` with the address of a pointer and owns what is put there.
+template <typename Object>
+Owned<Object> received(auto&& action) {
+  Object* object = nullptr;
+  require(action(&object));
+  return Owned<Object>(object);
+}
+
+/// One connection to the TPM.
+class Tpm {
+ public:
+  explicit Tpm(const std::string& device) {
+    // The loader only says that something failed; the kernel says what.
+    if (!isSimulator(device)) {
+      const std::string path = device.substr(devicePrefix.size());
+      const int descriptor = ::open(path.c_str(), O_RDWR | O_CLOEXEC);
+      if (descriptor < 0) fail(tpmFailureOf(DeviceError{.device = path, .number = errno}));
+      ::close(descriptor);
+    }
+    TSS2_TCTI_CONTEXT* transport = nullptr;
+    if (::Tss2_TctiLdr_Initialize(device.c_str(), &transport) != TSS2_RC_SUCCESS)
+      throw KeyFailure("The TPM (" + device + ") cannot be reached.");
+    transport_.reset(transport);
+    ESYS_CONTEXT* context = nullptr;
+    require(::Esys_Initialize(&context, transport, nullptr));
+    context_.reset(context);
+  }
+
+  [[nodiscard]] ESYS_CONTEXT* get() const noexcept { return context_.get(); }
+
+  [[nodiscard]] UINT32 property(TPM2_PT which) const {
+    const auto data = capability(TPM2_CAP_TPM_PROPERTIES, which, 1);
+    const TPML_TAGGED_TPM_PROPERTY& list = data->data.tpmProperties;
+    return list.count > 0 && list.tpmProperty[0].property == which ? list.tpmProperty[0].value : 0;
+  }
+
+  [[nodiscard]] bool hasCurve(TPM2_ECC_CURVE curve) const {
+    const auto data = capability(TPM2_CAP_ECC_CURVES, curve, 1);
+    const TPML_ECC_CURVE& list = data->data.eccCurves;
+    return list.count > 0 && list.eccCurves[0] == curve;
+  }
+
+ private:
+  [[nodiscard]] Owned<TPMS_CAPABILITY_DATA> capability(TPM2_CAP kind, UINT32 first,
+                                                       UINT32 count) const {
+    return received<TPMS_CAPABILITY_DATA>([&](TPMS_CAPABILITY_DATA** data) {
+      return ::Esys_GetCapability(get(), ESYS_TR_NONE, ESYS_TR_NONE, ESYS_TR_NONE, kind, first,
+                                  count, nullptr, data);
+    });
+  }
+
+  struct TransportRelease {
+    void operator()(TSS2_TCTI_CONTEXT* transport) const noexcept {
+      ::Tss2_TctiLdr_Finalize(&transport);
+    }
+  };
+  struct ContextRelease {
+    void operator()(ESYS_CONTEXT* context) const noexcept { ::Esys_Finalize(&context); }
+  };
+  std::unique_ptr<TSS2_TCTI_CONTEXT, TransportRelease> transport_;
+  std::unique_ptr<ESYS_CONTEXT, ContextRelease> context_;
+};
+
+/// An object or a session inside the TPM, which has room for three or so: it is flushed at the end,
+/// since a simulator has no resource manager to do that.
+class Loaded {
+ public:
+  Loaded(const Tpm& tpm, ESYS_TR handle) noexcept : context_(tpm.get()), handle_(handle) {}
+  Loaded(Loaded&& other) noexcept
+      : context_(other.context_), handle_(std::exchange(other.handle_, ESYS_TR_NONE)) {}
+  Loaded(const Loaded&) = delete;
+  Loaded& operator=(const Loaded&) = delete;
+  Loaded& operator=(Loaded&&) = delete;
+  ~Loaded() {
+    if (handle_ != ESYS_TR_NONE) ::Esys_FlushContext(context_, handle_);
+  }
+  [[nodiscard]] ESYS_TR get() const noexcept { return handle_; }
+
+ private:
+  ESYS_CONTEXT* context_;
+  ESYS_TR handle_;
+};
+
+/// The value that the TPM compares: a digest, so that a PIN of any length fits. Trailing zero bytes
+/// mean nothing to a TPM (TPM 2.0 Library Part 1, 19.6.5) and are left out on both sides.
+class PinValue {
+ public:
+  explicit PinValue(const SecretBytes& pin) {
+    std::array<std::uint8_t, 32> digest = digest::sha256(pin.text());
+    std::copy(digest.begin(), digest.end(), value_.buffer);
+    wipe(digest);
+    value_.size = static_cast<UINT16>(digest.size());
+    while (value_.size > 0 && value_.buffer[value_.size - 1] == 0)
+      --value_.size;
+  }
+  PinValue(const PinValue&) = delete;
+  PinValue& operator=(const PinValue&) = delete;
+  ~PinValue() { wipe(value_.buffer); }
+  [[nodiscard]] const TPM2B_AUTH& get() const noexcept { return value_; }
+
+ private:
+  TPM2B_AUTH value_{};
+};
+
+// The storage root key that the TCG's provisioning guidance gives for ECC (TCG EK Credential
+// Profile 2.4, B.4.5 with the attributes of an SRK): always the same key until the TPM is cleared.
+TPM2B_PUBLIC parentTemplate() {
+  TPM2B_PUBLIC area{};
+  TPMT_PUBLIC& key = area.publicArea;
+  key.type = TPM2_ALG_ECC;
+  key.nameAlg = TPM2_ALG_SHA256;
+  key.objectAttributes = TPMA_OBJECT_RESTRICTED | TPMA_OBJECT_DECRYPT | TPMA_OBJECT_FIXEDTPM |
+                         TPMA_OBJECT_FIXEDPARENT | TPMA_OBJECT_SENSITIVEDATAORIGIN |
+                         TPMA_OBJECT_USERWITHAUTH | TPMA_OBJECT_NODA;
+  TPMS_ECC_PARMS& parameters = key.parameters.eccDetail;
+  parameters.symmetric.algorithm = TPM2_ALG_AES;
+  parameters.symmetric.keyBits.aes = 128;
+  parameters.symmetric.mode.aes = TPM2_ALG_CFB;
+  parameters.scheme.scheme = TPM2_ALG_NULL;
+  parameters.curveID = TPM2_ECC_NIST_P256;
+  parameters.kdf.scheme = TPM2_ALG_NULL;
+  key.unique.ecc.x.size = p256::coordinateSize;
+  key.unique.ecc.y.size = p256::coordinateSize;
+  return area;
+}
+
+// Without NODA: wrong PINs count towards the lockout.
+TPM2B_PUBLIC keyTemplate() {
+  TPM2B_PUBLIC area{};
+  TPMT_PUBLIC& key = area.publicArea;
+  key.type = TPM2_ALG_ECC;
+  key.nameAlg = TPM2_ALG_SHA256;
+  key.objectAttributes = TPMA_OBJECT_SIGN_ENCRYPT | TPMA_OBJECT_FIXEDTPM | TPMA_OBJECT_FIXEDPARENT |
+                         TPMA_OBJECT_SENSITIVEDATAORIGIN | TPMA_OBJECT_USERWITHAUTH;
+  TPMS_ECC_PARMS& parameters = key.parameters.eccDetail;
+  parameters.symmetric.algorithm = TPM2_ALG_NULL;
+  parameters.scheme.scheme = TPM2_ALG_ECDSA;
+  parameters.scheme.details.ecdsa.hashAlg = TPM2_ALG_SHA256;
+  parameters.curveID = TPM2_ECC_NIST_P256;
+  parameters.kdf.scheme = TPM2_ALG_NULL;
+  return area;
+}
+
+Loaded makeParent(const Tpm& tpm) {
+  const TPM2B_SENSITIVE_CREATE sensitive{};
+  const TPM2B_PUBLIC area = parentTemplate();
+  const TPM2B_DATA outside{};
+  const TPML_PCR_SELECTION registers{};
+  ESYS_TR handle = ESYS_TR_NONE;
+  require(::Esys_CreatePrimary(tpm.get(), ESYS_TR_RH_OWNER, ESYS_TR_PASSWORD, ESYS_TR_NONE,
+                               ESYS_TR_NONE, &sensitive, &area, &outside, &registers, &handle,
+                               nullptr, nullptr, nullptr, nullptr));
+  return {tpm, handle};
+}
+
+std::vector<std::uint8_t> nameOf(const Tpm& tpm, const Loaded& object) {
+  const auto name = received<TPM2B_NAME>(
+      [&](TPM2B_NAME** result) { return ::Esys_TR_GetName(tpm.get(), object.get(), result); });
+  return {name->name, name->name + name->size};
+}
+
+/// A session whose secret only the holder of the parent's private half can know, and which
+/// encrypts the first parameter of each command.
+Loaded startSession(const Tpm& tpm, const Loaded& parent) {
+  TPMT_SYM_DEF cipher{};
+  cipher.algorithm = TPM2_ALG_AES;
+  cipher.keyBits.aes = 128;
+  cipher.mode.aes = TPM2_ALG_CFB;
+  ESYS_TR handle = ESYS_TR_NONE;
+  require(::Esys_StartAuthSession(tpm.get(), parent.get(), ESYS_TR_NONE, ESYS_TR_NONE, ESYS_TR_NONE,
+                                  ESYS_TR_NONE, nullptr, TPM2_SE_HMAC, &cipher, TPM2_ALG_SHA256,
+                                  &handle));
+  Loaded session(tpm, handle);
+  constexpr TPMA_SESSION attributes = TPMA_SESSION_CONTINUESESSION | TPMA_SESSION_DECRYPT;
+  require(::Esys_TRSess_SetAttributes(tpm.get(), session.get(), attributes, 0xFF));
+  return session;
+}
+
+std::vector<std::uint8_t> marshalled(auto marshal, const auto& object) {
+  std::vector<std::uint8_t> bytes(sizeof object);
+  std::size_t length = 0;
+  require(marshal(&object, bytes.data(), bytes.size(), &length));
+  bytes.resize(length);
+  return bytes;
+}
+
+template <typename Object>
+bool unmarshal(auto function, const std::vector<std::uint8_t>& bytes, Object& object) {
+  std::size_t read = 0;
+  return function(bytes.data(), bytes.size(), &read, &object) == TSS2_RC_SUCCESS &&
+         read == bytes.size();
+}
+
+struct StoredKey {
+  std::vector<std::uint8_t> parentName;
+  TPM2B_PUBLIC publicArea{};
+  TPM2B_PRIVATE privateArea{};
+  p256::Point publicKey{};
+};
+
+StoredKey readKey(const PrivateFile& file) {
+  const std::string place = "“" + file.path().string() + "”";
+  const std::optional<std::string> contents = file.read();
+  if (!contents)
+    throw KeyFailure("the TPM key’s file " + place +
+                     " is gone. Enrol this computer again in Settings.");
+  const auto blocks = keyfile::read(*contents, labels);
+  StoredKey key;
+  std::optional<p256::Point> point;
+  if (blocks && unmarshal(::Tss2_MU_TPM2B_PUBLIC_Unmarshal, (*blocks)[1].bytes, key.publicArea) &&
+      unmarshal(::Tss2_MU_TPM2B_PRIVATE_Unmarshal, (*blocks)[2].bytes, key.privateArea) &&
+      key.publicArea.publicArea.type == TPM2_ALG_ECC) {
+    const TPMS_ECC_POINT& unique = key.publicArea.publicArea.unique.ecc;
+    point = p256::pointOf(
+        {.first = {unique.x.buffer, unique.x.size}, .second = {unique.y.buffer, unique.y.size}});
+  }
+  if (!point)
+    throw KeyFailure("the TPM key’s file " + place +
+                     " is damaged. Put it back from a backup, or enrol this computer again in "
+                     "Settings.");
+  key.parentName = (*blocks)[0].bytes;
+  key.publicKey = *point;
+  return key;
+}
+
+/// Everything that signing needs, in the order in which it must be taken down again.
+struct OpenedKey {
+  Tpm tpm;
+  Loaded parent;
+  Loaded session;
+  Loaded key;
+};
+
+Loaded load(const Tpm& tpm, const Loaded& parent, const Loaded& session, const StoredKey& stored) {
+  ESYS_TR handle = ESYS_TR_NONE;
+  require(::Esys_Load(tpm.get(), parent.get(), session.get(), ESYS_TR_NONE, ESYS_TR_NONE,
+                      &stored.privateArea, &stored.publicArea, &handle));
+  return {tpm, handle};
+}
+
+void requireNoLockout(const Tpm& tpm) {
+  if ((tpm.property(TPM2_PT_PERMANENT) & TPMA_PERMANENT_INLOCKOUT) == 0) return;
+  // One wrong attempt is forgiven after each such interval, and then the TPM listens again.
+  const UINT32 minutes = (tpm.property(TPM2_PT_LOCKOUT_INTERVAL) + 59) / 60;
+  std::string message = tpmFailureOf(TPM2_RC_LOCKOUT).message;
+  if (minutes > 0)
+    message += " It listens again in " + std::to_string(minutes) +
+               (minutes == 1 ? " minute at most." : " minutes at most.");
+  throw KeyFailure(message);
+}
+
+}  // namespace
+
+TpmKeyStore::TpmKeyStore(Options options)
+    : file_(std::move(options.path)), device_(std::move(options.device)) {}
+
+SecretKind TpmKeyStore::secretKind() const noexcept {
+  return SecretKind::pin;
+}
+
+std::string TpmKeyStore::name() const {
+  return isSimulator(device_) ? "a TPM simulator" : "the TPM of this computer";
+}
+
+std::string TpmKeyStore::describe() const {
+  if (isSimulator(device_))
+    return "The key is in a TPM simulator (" + device_ +
+           "), which is for trying things out: it protects nothing.";
+  return "The key is in the TPM of this computer and cannot leave it. A PIN is asked for at every "
+         "signature; the TPM locks itself after too many wrong ones.";
+}
+
+std::optional<std::string> TpmKeyStore::obstacle() const {
+  try {
+    const Tpm tpm(device_);
+    if ((tpm.property(TPM2_PT_STARTUP_CLEAR) & TPMA_STARTUP_CLEAR_SHENABLE) == 0)
+      return tpmFailureOf(TPM2_RC_HIERARCHY).message;
+    if ((tpm.property(TPM2_PT_PERMANENT) & TPMA_PERMANENT_OWNERAUTHSET) != 0)
+      return tpmFailureOf(TPM2_RC_BAD_AUTH).message;
+    if (!tpm.hasCurve(TPM2_ECC_NIST_P256)) return tpmFailureOf(TPM2_RC_CURVE).message;
+  } catch (const KeyFailure& failure) {
+    return failure.what();
+  }
+  return std::nullopt;
+}
+
+bool TpmKeyStore::holdsKey() const noexcept {
+  return file_.exists();
+}
+
+void TpmKeyStore::create(const SecretBytes& secret) {
+  const Tpm tpm(device_);
+  const Loaded parent = makeParent(tpm);
+  const Loaded session = startSession(tpm, parent);
+
+  const TPM2B_PUBLIC area = keyTemplate();
+  const TPM2B_DATA outside{};
+  const TPML_PCR_SELECTION registers{};
+  TPM2B_SENSITIVE_CREATE sensitive{};
+  sensitive.sensitive.userAuth = PinValue(secret).get();
+  TPM2B_PRIVATE* privateArea = nullptr;
+  TPM2B_PUBLIC* publicArea = nullptr;
+  const TSS2_RC code = ::Esys_Create(tpm.get(), parent.get(), session.get(), ESYS_TR_NONE,
+                                     ESYS_TR_NONE, &sensitive, &area, &outside, &registers,
+                                     &privateArea, &publicArea, nullptr, nullptr, nullptr);
+  wipe(sensitive.sensitive.userAuth.buffer);
+  const Owned<TPM2B_PRIVATE> ownedPrivate(privateArea);
+  const Owned<TPM2B_PUBLIC> ownedPublic(publicArea);
+  require(code);
+
+  const std::array<keyfile::Block, 3> blocks{
+      keyfile::Block{.label = labels[0], .bytes = nameOf(tpm, parent)},
+      keyfile::Block{.label = labels[1],
+                     .bytes = marshalled(::Tss2_MU_TPM2B_PUBLIC_Marshal, *publicArea)},
+      keyfile::Block{.label = labels[2],
+                     .bytes = marshalled(::Tss2_MU_TPM2B_PRIVATE_Marshal, *privateArea)}};
+  file_.replace(keyfile::write(headline, blocks));
+}
+
+p256::Point TpmKeyStore::publicKey() const {
+  return readKey(file_).publicKey;
+}
+
+void TpmKeyStore::requireUsableKey() const {
+  const StoredKey stored = readKey(file_);
+  const Tpm tpm(device_);
+  requireNoLockout(tpm);
+  const Loaded parent = makeParent(tpm);
+  if (nameOf(tpm, parent) != stored.parentName) fail(tpmFailureOf(TPM2_RC_INTEGRITY));
+  const Loaded session = startSession(tpm, parent);
+  const Loaded key = load(tpm, parent, session, stored);
+}
+
+std::optional<std::vector<std::uint8_t>> TpmKeyStore::sign(const p256::Digest& digest,
+                                                           const SecretBytes& secret) const {
+  const StoredKey stored = readKey(file_);
+  const Tpm tpm(device_);
+  const Loaded parent = makeParent(tpm);
+  if (nameOf(tpm, parent) != stored.parentName) fail(tpmFailureOf(TPM2_RC_INTEGRITY));
+  const Loaded session = startSession(tpm, parent);
+  const Loaded key = load(tpm, parent, session, stored);
+
+  TPM2B_DIGEST message{};
+  message.size = static_cast<UINT16>(digest.size());
+  std::copy(digest.begin(), digest.end(), message.buffer);
+  TPMT_SIG_SCHEME scheme{};
+  scheme.scheme = TPM2_ALG_ECDSA;
+  scheme.details.ecdsa.hashAlg = TPM2_ALG_SHA256;
+  // The digest was not computed by the TPM; the key is not restricted to digests that were.
+  TPMT_TK_HASHCHECK ticket{};
+  ticket.tag = TPM2_ST_HASHCHECK;
+  ticket.hierarchy = TPM2_RH_NULL;
+
+  require(::Esys_TR_SetAuth(tpm.get(), key.get(), &PinValue(secret).get()));
+  TPMT_SIGNATURE* answer = nullptr;
+  const TSS2_RC code = ::Esys_Sign(tpm.get(), key.get(), session.get(), ESYS_TR_NONE, ESYS_TR_NONE,
+                                   &message, &scheme, &ticket, &answer);
+  const Owned<TPMT_SIGNATURE> signature(answer);
+  // Overwrites the library's own copy of the PIN's digest.
+  const TPM2B_AUTH zeros{.size = sizeof zeros.buffer, .buffer = {}};
+  static_cast<void>(::Esys_TR_SetAuth(tpm.get(), key.get(), &zeros));
+  if (code != TSS2_RC_SUCCESS) {
+    const TpmFailure failure = tpmFailureOf(code);
+    if (failure.problem == TpmProblem::wrongSecret) return std::nullopt;
+    if (failure.problem == TpmProblem::lockedOut) requireNoLockout(tpm);
+    fail(failure);
+  }
+  const TPMS_SIGNATURE_ECDSA& parts = signature->signature.ecdsa;
+  return p256::derSignature({.first = {parts.signatureR.buffer, parts.signatureR.size},
+                             .second = {parts.signatureS.buffer, parts.signatureS.size}});
+}
+
+void TpmKeyStore::remove() noexcept {
+  file_.remove();
+}
+
+}  // namespace quillseal

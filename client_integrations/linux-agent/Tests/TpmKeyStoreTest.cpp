@@ -1,0 +1,134 @@
+#include <cstdlib>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "LinuxDesktop/KeyFailure.h"
+#include "LinuxDesktop/TpmKeyStore.h"
+#include "SoftwareTpm.h"
+#include "TemporaryFolder.h"
+
+namespace quillseal {
+namespace {
+
+using ::testing::HasSubstr;
+namespace fs = std::filesystem;
+
+constexpr p256::Digest digest{1, 2, 3, 4, 5};
+
+SecretBytes pin() {
+  return SecretBytes("271828");
+}
+
+class TpmKeyStoreTest : public ::testing::Test {
+ protected:
+  // The library would report every wrong PIN on standard error.
+  static void SetUpTestSuite() { ::setenv("TSS2_LOG", "all+none", 1); }
+
+  /// Another TPM in the place of this one: what a cleared one amounts to.
+  void clearTpm() {
+    tpm.reset();
+    fs::remove_all(state.path());
+    fs::create_directory(state.path());
+    tpm.emplace(state.path());
+  }
+
+  std::string failureOf(const auto& action) {
+    try {
+      action();
+    } catch (const KeyFailure& failure) {
+      return failure.what();
+    }
+    return "(no failure)";
+  }
+
+  testing::TemporaryFolder folder;
+  testing::TemporaryFolder state;
+  std::optional<testing::SoftwareTpm> tpm{std::in_place, state.path()};
+  fs::path path = folder.path() / "quillseal" / "key.tpm.pem";
+  TpmKeyStore store{{.path = path, .device = tpm->device()}};
+};
+
+TEST_F(TpmKeyStoreTest, SignsSoThatThePublicKeyVerifies) {
+  EXPECT_EQ(store.obstacle(), std::nullopt);
+  store.create(pin());
+  ASSERT_TRUE(store.holdsKey());
+  store.requireUsableKey();
+  // Enough of both to meet coordinates and integers with leading zero bytes now and then, and to
+  // fill the TPM if objects or sessions were left behind.
+  for (int round = 0; round < 10; ++round) {
+    const auto signature = store.sign(digest, pin());
+    ASSERT_TRUE(signature);
+    EXPECT_TRUE(p256::verifies(
+        {.publicKey = store.publicKey(), .digest = digest, .signature = *signature}));
+  }
+}
+
+TEST_F(TpmKeyStoreTest, SurvivesARestartOfTheTpm) {
+  store.create(pin());
+  const p256::Point publicKey = store.publicKey();
+  tpm.reset();
+  EXPECT_THAT(store.obstacle().value_or(""), HasSubstr("cannot be reached"));
+  EXPECT_TRUE(store.holdsKey());
+  tpm.emplace(state.path());
+  const auto signature = store.sign(digest, pin());
+  ASSERT_TRUE(signature);
+  EXPECT_TRUE(p256::verifies({.publicKey = publicKey, .digest = digest, .signature = *signature}));
+}
+
+TEST_F(TpmKeyStoreTest, LocksItselfAfterWrongPins) {
+  store.create(pin());
+  EXPECT_FALSE(store.sign(digest, SecretBytes("271829")));
+  EXPECT_TRUE(store.sign(digest, pin()));
+  std::string lockout;
+  for (int tries = 0; tries < 40 && lockout.empty(); ++tries) {
+    try {
+      EXPECT_FALSE(store.sign(digest, SecretBytes("000001")));
+    } catch (const KeyFailure& failure) {
+      lockout = failure.what();
+    }
+  }
+  EXPECT_THAT(lockout, HasSubstr("locked itself after too many wrong PINs"));
+  EXPECT_THAT(lockout, HasSubstr("minutes at most"));
+  // Not even the right one is listened to, and nobody is asked for it.
+  EXPECT_EQ(failureOf([&] { static_cast<void>(store.sign(digest, pin())); }), lockout);
+  EXPECT_EQ(failureOf([&] { store.requireUsableKey(); }), lockout);
+}
+
+TEST_F(TpmKeyStoreTest, AClearedTpmIsNamedAndANewKeyHeals) {
+  store.create(pin());
+  clearTpm();
+  EXPECT_TRUE(store.holdsKey());
+  for (const auto& action :
+       std::vector<std::function<void()>>{[&] { store.requireUsableKey(); },
+                                          [&] { static_cast<void>(store.sign(digest, pin())); }})
+    EXPECT_THAT(failureOf(action), HasSubstr("the TPM was cleared, or the key comes from another"));
+  store.create(pin());
+  EXPECT_TRUE(store.sign(digest, pin()));
+}
+
+TEST_F(TpmKeyStoreTest, ADamagedFileIsNamed) {
+  store.create(pin());
+  const std::string whole = testing::contentsOf(path);
+  testing::overwrite(path, whole.substr(0, whole.size() / 2));
+  EXPECT_THAT(failureOf([&] { store.requireUsableKey(); }), HasSubstr("is damaged"));
+  EXPECT_THAT(failureOf([&] { static_cast<void>(store.publicKey()); }), HasSubstr("is damaged"));
+  store.remove();
+  store.remove();
+  EXPECT_FALSE(store.holdsKey());
+  EXPECT_THAT(failureOf([&] { store.requireUsableKey(); }), HasSubstr("is gone"));
+}
+
+TEST_F(TpmKeyStoreTest, OnlyASimulatorIsCalledOne) {
+  EXPECT_THAT(store.describe(), HasSubstr("simulator"));
+  const TpmKeyStore real({.path = path, .device = "device:/nonexistent/tpmrm0"});
+  EXPECT_EQ(real.describe().find("simulator"), std::string::npos);
+  EXPECT_THAT(real.obstacle().value_or(""), HasSubstr("/nonexistent/tpmrm0 does not exist"));
+}
+
+}  // namespace
+}  // namespace quillseal

@@ -1,12 +1,14 @@
 #include <cstring>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <benchmark/benchmark.h>
 
 #include "Quillseal/CryptoManager.h"
 #include "Quillseal/Digest.h"
+#include "Quillseal/UnicodeText.h"
 
 namespace quillseal {
 namespace {
@@ -22,10 +24,8 @@ constexpr std::string_view mixed =
     "봅시다! ";
 
 std::string grown(std::string_view seed, std::size_t characters) {
+  const std::size_t seedCharacters = unicode::characterCount(seed);
   std::string text;
-  std::size_t seedCharacters = 0;
-  for (std::size_t i = 0; i < seed.size(); ++i)
-    if ((static_cast<unsigned char>(seed[i]) & 0xC0U) != 0x80U) ++seedCharacters;
   for (std::size_t have = 0; have < characters; have += seedCharacters)
     text += seed;
   return text;

@@ -4,7 +4,7 @@
 #include "Quillseal/CryptoManager.h"
 #include "Quillseal/UnicodeText.h"
 
-/// The canonical form is stable once the text is well-formed, and holds nothing that it drops.
+/// The canonical form of a well-formed text is well-formed and holds nothing that it drops.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace quillseal;
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);

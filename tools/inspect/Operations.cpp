@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <cstdint>
+#include <limits>
 #include <optional>
 #include <stdexcept>
 
@@ -13,6 +15,8 @@ namespace quillseal::inspect {
 namespace {
 
 using Json = nlohmann::ordered_json;
+/// Requests are looked up by key; an ordered object searches all its keys for each one it reads.
+using RequestJson = nlohmann::json;
 
 struct RequestError : std::runtime_error {
   using std::runtime_error::runtime_error;
@@ -21,12 +25,12 @@ struct RequestError : std::runtime_error {
 /// A request's keys, read with their types checked.
 class Request {
  public:
-  explicit Request(const Json& object) : object_(object) {
+  explicit Request(const RequestJson& object) : object_(object) {
     if (!object.is_object()) throw RequestError("a request is a JSON object");
   }
 
   std::string string(const char* key) const {
-    const Json& value = required(key);
+    const RequestJson& value = required(key);
     if (!value.is_string()) throw RequestError(quoted(key) + " must be a string");
     return value.get<std::string>();
   }
@@ -39,21 +43,24 @@ class Request {
   }
 
   std::int64_t integer(const char* key) const {
-    const Json& value = required(key);
-    if (!value.is_number_integer()) throw RequestError(quoted(key) + " must be an integer");
+    const RequestJson& value = required(key);
+    const bool fits = !value.is_number_unsigned() ||
+                      value.get<std::uint64_t>() <= std::numeric_limits<std::int64_t>::max();
+    if (!value.is_number_integer() || !fits)
+      throw RequestError(quoted(key) + " must be an integer");
     return value.get<std::int64_t>();
   }
 
  private:
   static std::string quoted(const char* key) { return '"' + std::string(key) + '"'; }
 
-  const Json& required(const char* key) const {
+  const RequestJson& required(const char* key) const {
     const auto found = object_.find(key);
     if (found == object_.end()) throw RequestError(quoted(key) + " is missing");
     return *found;
   }
 
-  const Json& object_;
+  const RequestJson& object_;
 };
 
 Json inspectOperation(const Request& request) {
@@ -143,7 +150,7 @@ std::string withoutLoneSurrogates(std::string_view json) {
 
 Json perform(std::string_view requestLine) {
   const std::string line = withoutLoneSurrogates(unicode::wellFormed(requestLine));
-  const Json parsed = Json::parse(line);
+  const RequestJson parsed = RequestJson::parse(line);
   const Request request(parsed);
   const std::string name = request.string("op");
   const auto* const operation =

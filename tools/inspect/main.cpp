@@ -1,8 +1,9 @@
+#include <array>
 #include <cerrno>
+#include <cstdio>
 #include <ctime>
-#include <fstream>
 #include <iostream>
-#include <iterator>
+#include <memory>
 #include <optional>
 #include <string>
 #include <system_error>
@@ -15,7 +16,7 @@
 
 namespace {
 
-constexpr int unreadableInput = 1;
+constexpr int cannotReadOrWrite = 1;
 constexpr int wrongUsage = 2;
 
 constexpr const char* usage = R"(usage: quillseal-inspect [OPTION]... [FILE]
@@ -31,7 +32,7 @@ FILE is the text in UTF-8; standard input when it is left out or "-".
   --help           print this help
   --version        print the version
 
-Exit status: 0, or 1 when a file cannot be read, or 2 for a wrong use.
+Exit status: 0, or 1 when a file cannot be read or the output not written, or 2 for a wrong use.
 Example: printf '%s' "I met Ada on 3 May." | quillseal-inspect
 )";
 
@@ -48,17 +49,35 @@ struct Failure {
   std::string message;
 };
 
+struct CloseFile {
+  void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
+};
+
+std::string lastError() {
+  return std::generic_category().message(errno);
+}
+
+/// All of a file, or of standard input for "-", as well-formed UTF-8.
 std::string contentsOf(const std::string& path) {
-  std::string bytes;
-  if (path == "-") {
-    bytes.assign(std::istreambuf_iterator<char>(std::cin), {});
-  } else {
-    std::ifstream file(path, std::ios::binary);
-    // A folder opens and only then refuses to be read.
-    if (file) bytes.assign(std::istreambuf_iterator<char>(file), {});
-    if (!file) throw Failure{unreadableInput, path + ": " + std::generic_category().message(errno)};
+  std::unique_ptr<std::FILE, CloseFile> opened;
+  std::FILE* file = stdin;
+  if (path != "-") {
+    opened.reset(std::fopen(path.c_str(), "rb"));
+    file = opened.get();
   }
+  const std::string name = path == "-" ? "standard input" : '"' + path + '"';
+  if (file == nullptr) throw Failure{cannotReadOrWrite, name + ": " + lastError()};
+
+  std::string bytes;
+  std::array<char, 65536> chunk{};
+  while (const std::size_t count = std::fread(chunk.data(), 1, chunk.size(), file))
+    bytes.append(chunk.data(), count);
+  if (std::ferror(file) != 0) throw Failure{cannotReadOrWrite, name + ": " + lastError()};
   return quillseal::unicode::wellFormed(bytes);
+}
+
+void requireWritten() {
+  if (!std::cout.flush()) throw Failure{cannotReadOrWrite, "standard output: " + lastError()};
 }
 
 std::string today() {
@@ -118,8 +137,11 @@ std::optional<Options> parsed(int argc, char** argv) {
 
 void answerRequests() {
   std::string line;
-  while (std::getline(std::cin, line))
-    std::cout << quillseal::inspect::answer(line) << std::endl;
+  while (std::getline(std::cin, line)) {
+    std::cout << quillseal::inspect::answer(line) << '\n';
+    requireWritten();
+  }
+  if (std::cin.bad()) throw Failure{cannotReadOrWrite, "standard input: " + lastError()};
 }
 
 void printInspection(const Options& options) {
@@ -142,18 +164,22 @@ int main(int argc, char** argv) {
   std::ios::sync_with_stdio(false);
   try {
     const std::optional<Options> options = parsed(argc, argv);
-    if (!options) return 0;
+    if (!options) {
+      requireWritten();
+      return 0;
+    }
     if (options->jsonl) {
       answerRequests();
     } else {
       printInspection(*options);
     }
+    requireWritten();
     return 0;
   } catch (const Failure& failure) {
     std::cerr << "quillseal-inspect: " << failure.message << '\n';
     return failure.status;
   } catch (const std::exception& error) {
     std::cerr << "quillseal-inspect: " << error.what() << '\n';
-    return unreadableInput;
+    return cannotReadOrWrite;
   }
 }

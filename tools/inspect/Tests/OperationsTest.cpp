@@ -73,11 +73,21 @@ TEST(Operations, ExplainsWhatIsWrongWithARequest) {
        "\"html\" must be a string"},
       {"{\"op\":\"expiry\",\"issued\":\"2025-01-01\",\"word_count\":1.5}",
        "\"word_count\" must be an integer"},
+      {R"({"op":"expiry","issued":"","word_count":9223372036854775808})",
+       "\"word_count\" must be an integer"},
       {std::string(100000, '['), "the line is not one JSON value"},
   };
   for (const BadRequest& bad : cases)
     EXPECT_EQ(Json::parse(answer(bad.line)), Json({{"error", bad.error}}))
         << bad.line.substr(0, 80);
+}
+
+TEST(Operations, ReadsARequestOfManyKeysInReasonableTime) {
+  std::string line = "{";
+  for (int i = 0; i < 100000; ++i)
+    line += "\"k" + std::to_string(i) + "\":1,";
+  EXPECT_EQ(Json::parse(answer(line + "\"op\":\"dance\"}")),
+            Json({{"error", "unknown operation \"dance\""}}));
 }
 
 TEST(Operations, ReplacesIllFormedTextOnce) {

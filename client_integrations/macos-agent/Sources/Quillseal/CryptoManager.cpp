@@ -156,7 +156,7 @@ std::string composed(std::string_view text) {
   requireSuccess(status);
   const std::string ordered = withLongMarkRunsOrdered(text);
   std::string result;
-  icu::StringByteSink<std::string> sink(&result, static_cast<std::int32_t>(text.size()));
+  icu::StringByteSink<std::string> sink(&result, icuLength(ordered.size()));
   nfc->normalizeUTF8(0, ordered, sink, nullptr, status);
   requireSuccess(status);
   return result;
@@ -423,7 +423,8 @@ std::optional<std::chrono::sys_days> parsedDate(std::string_view text) {
   const std::chrono::year_month_day date{std::chrono::year{number(0, 4)},
                                          std::chrono::month{static_cast<unsigned>(number(5, 2))},
                                          std::chrono::day{static_cast<unsigned>(number(8, 2))}};
-  if (!date.ok()) return std::nullopt;
+  // The calendar has no year 0; the library's proleptic one does.
+  if (!date.ok() || date.year() == std::chrono::year{0}) return std::nullopt;
   return std::chrono::sys_days{date};
 }
 

@@ -9,7 +9,7 @@
 /// the implementation.
 namespace quillseal::digest {
 
-/// SHA-256 (FIPS 180-4) of the bytes of `message`.
+/// SHA-256 (FIPS 180-4) of the bytes of `message`. Throws when the library cannot compute it.
 [[nodiscard]] std::array<std::uint8_t, 32> sha256(std::string_view message);
 
 /// Fills `bytes` from the system's cryptographically secure random source. False when it fails;

@@ -1,4 +1,5 @@
 #include <limits>
+#include <stdexcept>
 
 #include <openssl/rand.h>
 #include <openssl/sha.h>
@@ -9,8 +10,10 @@ namespace quillseal::digest {
 
 std::array<std::uint8_t, 32> sha256(std::string_view message) {
   std::array<std::uint8_t, 32> result{};
-  // The OpenSSL one-shot has no failure path for an in-memory message.
-  ::SHA256(reinterpret_cast<const unsigned char*>(message.data()), message.size(), result.data());
+  // Fails when no provider offers the algorithm, as a site-wide configuration can bring about.
+  if (::SHA256(reinterpret_cast<const unsigned char*>(message.data()), message.size(),
+               result.data()) == nullptr)
+    throw std::runtime_error("OpenSSL offers no SHA-256; see its configuration file");
   return result;
 }
 

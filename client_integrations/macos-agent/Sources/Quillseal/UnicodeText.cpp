@@ -179,20 +179,18 @@ std::string_view trimmed(std::string_view text) noexcept {
 
 std::string lowercased(std::string_view text) {
   std::string result;
-  icu::StringByteSink<std::string> sink(&result, static_cast<std::int32_t>(text.size()));
+  icu::StringByteSink<std::string> sink(&result, icuLength(text.size()));
   UErrorCode status = U_ZERO_ERROR;
-  icu::CaseMap::utf8ToLower("", 0, {text.data(), static_cast<std::int32_t>(text.size())}, sink,
-                            nullptr, status);
+  icu::CaseMap::utf8ToLower("", 0, {text.data(), icuLength(text.size())}, sink, nullptr, status);
   requireSuccess(status);
   return result;
 }
 
 std::string uppercased(std::string_view text) {
   std::string result;
-  icu::StringByteSink<std::string> sink(&result, static_cast<std::int32_t>(text.size()));
+  icu::StringByteSink<std::string> sink(&result, icuLength(text.size()));
   UErrorCode status = U_ZERO_ERROR;
-  icu::CaseMap::utf8ToUpper("", 0, {text.data(), static_cast<std::int32_t>(text.size())}, sink,
-                            nullptr, status);
+  icu::CaseMap::utf8ToUpper("", 0, {text.data(), icuLength(text.size())}, sink, nullptr, status);
   requireSuccess(status);
   return result;
 }
@@ -274,7 +272,7 @@ std::size_t CharacterCursor::nextTableBoundary() {
     if (!tables_) tables_ = std::make_unique<Tables>();
     UErrorCode status = U_ZERO_ERROR;
     tables_->text.reset(utext_openUTF8(tables_->text.release(), text_.data() + position_,
-                                       static_cast<std::int64_t>(end - position_), &status));
+                                       icuLength(end - position_), &status));
     tables_->iterator->setText(tables_->text.get(), status);
     requireSuccess(status);
     stretchStart_ = position_;

@@ -1,0 +1,172 @@
+#include "Quillseal/ServerClient.h"
+
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <utility>
+#include <variant>
+
+#include "Desktop/Error.h"
+#include "Quillseal/Async.h"
+#include "Quillseal/BuiltInServer.h"
+#include "Quillseal/CryptoManager.h"
+#include "Quillseal/StrictJson.h"
+#include "Quillseal/UnicodeText.h"
+
+namespace quillseal {
+namespace {
+
+constexpr std::chrono::seconds patience{60};
+constexpr const char* protocolVersion = "v2";
+constexpr const char* signingMethod = "Touch ID";
+
+/// NSCoderReadCorruptError of Foundation (FoundationErrors.h).
+constexpr std::int64_t unreadableAnswer = 4864;
+
+std::string settingOr(const desktop::Defaults& defaults, std::string_view key,
+                      std::string_view fallback) {
+  const std::string setting = defaults.string(key).value_or("");
+  const std::string_view trimmed = unicode::trimmed(setting);
+  return std::string(trimmed.empty() ? fallback : trimmed);
+}
+
+/// A UUID of version 4 (RFC 9562) in upper case.
+std::string randomUUID() {
+  constexpr std::int64_t uuidBytes = 16;
+  constexpr std::size_t versionDigit = 12;
+  constexpr std::size_t variantDigit = 16;
+  std::string digits = CryptoManager::randomHex(uuidBytes);
+  if (digits.empty()) {
+    throw Error({.domain = "Quillseal",
+                 .code = 0,
+                 .description = "The system's random source failed. Restart the computer and try "
+                                "again."});
+  }
+  digits[versionDigit] = '4';
+  digits[variantDigit] = "89ab"[static_cast<unsigned char>(digits[variantDigit]) % 4];
+  for (const std::size_t hyphen : {20U, 16U, 12U, 8U})
+    digits.insert(hyphen, 1, '-');
+  return unicode::uppercased(digits);
+}
+
+std::int64_t wholeMinutes(const desktop::TimeZone& zone) {
+  return zone.secondsFromGmt / 60;
+}
+
+std::optional<std::string> refusalIn(const std::string& body) {
+  try {
+    return wire::decoded<wire::ErrorResponse>(body).error;
+  } catch (const JsonError&) {
+    return std::nullopt;
+  }
+}
+
+template <typename Request>
+desktop::HttpPost postOf(std::string url, const Request& body) {
+  return {.url = std::move(url),
+          .headers = {{"Content-Type", "application/json"}},
+          .body = wire::encoded(body),
+          .timeout = patience};
+}
+
+template <typename Response>
+Response readAnswer(const desktop::HttpResponse& answer, const desktop::HttpTransport& http) {
+  if (answer.status < 200 || answer.status > 299) {
+    if (const std::optional<std::string> refusal = refusalIn(answer.body)) {
+      throw Error({.domain = "Quillseal", .code = answer.status, .description = *refusal});
+    }
+    throw http.error(desktop::transport::badServerResponse);
+  }
+  try {
+    return wire::decoded<Response>(answer.body);
+  } catch (const JsonError& error) {
+    throw Error({.domain = "NSCocoaErrorDomain",
+                 .code = unreadableAnswer,
+                 .description = "The server’s answer cannot be read. " + std::string(error.what()) +
+                                " Check the server address in the settings."});
+  }
+}
+
+}  // namespace
+
+std::string ServerClient::effectiveServerURL(const desktop::Defaults& defaults) {
+  return settingOr(defaults, "ServerURL", builtInServer::url());
+}
+
+std::string ServerClient::effectiveAPIKey(const desktop::Defaults& defaults) {
+  return settingOr(defaults, "APIKey", builtInServer::apiKey());
+}
+
+std::string ServerClient::hardwareUUID(const desktop::MachineIdentity& machine) {
+  if (std::optional<std::string> uuid = machine.platformUuid()) return *std::move(uuid);
+  return randomUUID();
+}
+
+template <typename Response, typename Request>
+Task<Response> ServerClient::post(std::string_view path, Request body) const {
+  const desktop::HttpPost request = postOf(effectiveServerURL() + std::string(path), body);
+  desktop::HttpTransport& http = services_.http;
+  const auto outcome = co_await completionOf<Outcome<desktop::HttpResponse>>(
+      [&http, &request](std::function<void(Outcome<desktop::HttpResponse>)> done) {
+        return http.send(request, std::move(done));
+      });
+  if (const Error* failure = std::get_if<Error>(&outcome)) throw Error(*failure);
+  co_return readAnswer<Response>(std::get<desktop::HttpResponse>(outcome), http);
+}
+
+Task<std::string> ServerClient::signContent(Content content) const {
+  const desktop::TimeZone zone = services_.wallClock.timeZone();
+  SignRequest request{.protocolVersion = protocolVersion,
+                      .textDigest = std::move(content.textDigest),
+                      .snapshotDigest = std::move(content.snapshotDigest),
+                      .issued = std::move(content.issued),
+                      .scope = std::move(content.scope),
+                      .method = signingMethod,
+                      .deviceId = hardwareUUID(),
+                      .imageDigest = std::move(content.imageDigest),
+                      .expires = std::move(content.expires),
+                      .commitment = std::move(content.commitment),
+                      .nonce = std::move(content.nonce),
+                      .timezone = zone.identifier,
+                      .timezoneOffset = wholeMinutes(zone),
+                      .apiKey = effectiveAPIKey(),
+                      .enclaveSignature = std::move(content.enclaveSignature)};
+  const auto response = co_await post<SignResponse>("/api/sign_native", std::move(request));
+  co_return response.signatureId;
+}
+
+Task<std::string> ServerClient::signDemo(DemoContent content) const {
+  const desktop::TimeZone zone = services_.wallClock.timeZone();
+  DemoSignRequest request{.textDigest = std::move(content.textDigest),
+                          .issued = std::move(content.issued),
+                          .scope = std::move(content.scope),
+                          .imageDigest = std::move(content.imageDigest),
+                          .deviceId = hardwareUUID(),
+                          .method = std::move(content.method),
+                          .expires = std::move(content.expires),
+                          .commitment = std::move(content.commitment),
+                          .nonce = std::move(content.nonce),
+                          .timezone = zone.identifier,
+                          .timezoneOffset = wholeMinutes(zone),
+                          .apiKey = effectiveAPIKey()};
+  const auto response = co_await post<DemoSignResponse>("/api/sign_demo", std::move(request));
+  co_return response.signatureId;
+}
+
+Task<ServerClient::EnrolResponse> ServerClient::enrol(EnrolRequest request) const {
+  return post<EnrolResponse>("/api/register_native", std::move(request));
+}
+
+Task<ServerClient::HandoffCreateResponse> ServerClient::createHandoff(
+    HandoffCreateRequest request) const {
+  return post<HandoffCreateResponse>("/api/handoff/create", std::move(request));
+}
+
+Task<ServerClient::HandoffPollResponse> ServerClient::pollHandoff(
+    HandoffPollRequest request) const {
+  return post<HandoffPollResponse>("/api/handoff/poll", std::move(request));
+}
+
+}  // namespace quillseal

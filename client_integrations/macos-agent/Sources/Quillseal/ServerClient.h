@@ -1,0 +1,101 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "Desktop/Defaults.h"
+#include "Desktop/HttpTransport.h"
+#include "Desktop/MachineIdentity.h"
+#include "Desktop/WallClock.h"
+#include "Quillseal/Task.h"
+#include "Quillseal/WireMessages.h"
+
+namespace quillseal {
+
+/// The agent's only way to the signing server. It keeps nothing: every call reads settings, machine
+/// and clock afresh. Main thread; the services outlive the client, and the client its tasks.
+///
+/// Every task throws Error: with domain "Quillseal", the HTTP status and the server's own words
+/// when the server refused; with the transport's domain when it could not be reached, answered
+/// neither success nor a refusal it explains, or when its URL is none; with domain
+/// "NSCocoaErrorDomain" when its answer cannot be read. Nothing is sent twice.
+class ServerClient {
+ public:
+  using EnrolRequest = wire::EnrolRequest;
+  using EnrolResponse = wire::EnrolResponse;
+  using SignRequest = wire::SignRequest;
+  using SignResponse = wire::SignResponse;
+  using DemoSignRequest = wire::DemoSignRequest;
+  using DemoSignResponse = wire::DemoSignResponse;
+  using HandoffCreateRequest = wire::HandoffCreateRequest;
+  using HandoffCreateResponse = wire::HandoffCreateResponse;
+  using HandoffPollRequest = wire::HandoffPollRequest;
+  using HandoffPollResponse = wire::HandoffPollResponse;
+  using ErrorResponse = wire::ErrorResponse;
+
+  struct Services {
+    desktop::Defaults& defaults;
+    desktop::HttpTransport& http;
+    desktop::MachineIdentity& machine;
+    desktop::WallClock& wallClock;
+  };
+
+  explicit ServerClient(Services services) : services_(services) {}
+
+  /// The origin of the server: the trimmed setting "ServerURL", or the built-in one when that is
+  /// blank. A slash at its end is kept.
+  [[nodiscard]] static std::string effectiveServerURL(const desktop::Defaults& defaults);
+
+  /// The key that authorises this build: the trimmed setting "APIKey", or the built-in one.
+  [[nodiscard]] static std::string effectiveAPIKey(const desktop::Defaults& defaults);
+
+  /// The machine's identifier, or where the platform has none a random one, another at each call.
+  [[nodiscard]] static std::string hardwareUUID(const desktop::MachineIdentity& machine);
+
+  [[nodiscard]] std::string effectiveServerURL() const {
+    return effectiveServerURL(services_.defaults);
+  }
+  [[nodiscard]] std::string effectiveAPIKey() const { return effectiveAPIKey(services_.defaults); }
+  [[nodiscard]] std::string hardwareUUID() const { return hardwareUUID(services_.machine); }
+
+  struct Content {
+    std::string textDigest;
+    std::string snapshotDigest;
+    std::string issued;
+    std::string scope;
+    std::string imageDigest;
+    std::string expires;
+    std::string commitment;
+    std::string nonce;
+    std::string enclaveSignature;
+  };
+
+  /// Registers a signature by the device key; gives its identifier.
+  [[nodiscard]] Task<std::string> signContent(Content content) const;
+
+  struct DemoContent {
+    std::string textDigest;
+    std::string issued;
+    std::string scope;
+    std::string imageDigest;
+    std::string method;  ///< how presence was proved
+    std::string expires;
+    std::string commitment;
+    std::string nonce;
+  };
+
+  /// Makes a demonstration record; gives its identifier.
+  [[nodiscard]] Task<std::string> signDemo(DemoContent content) const;
+
+  [[nodiscard]] Task<EnrolResponse> enrol(EnrolRequest request) const;
+  [[nodiscard]] Task<HandoffCreateResponse> createHandoff(HandoffCreateRequest request) const;
+  [[nodiscard]] Task<HandoffPollResponse> pollHandoff(HandoffPollRequest request) const;
+
+ private:
+  template <typename Response, typename Request>
+  Task<Response> post(std::string_view path, Request body) const;
+
+  Services services_;
+};
+
+}  // namespace quillseal

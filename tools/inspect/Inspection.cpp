@@ -6,6 +6,7 @@
 
 #include <unicode/uchar.h>
 
+#include "Quillseal/ConfirmationText.h"
 #include "Quillseal/CryptoManager.h"
 #include "Quillseal/UnicodeText.h"
 
@@ -52,6 +53,7 @@ Inspection inspect(const Capture& capture) {
   result.imageDigest = CryptoManager::imageManifestDigest(result.imageURLs);
   result.expires =
       CryptoManager::expiryDateFor({.issued = capture.issued, .wordCount = result.words});
+  result.promptSubject = promptSubject(result.text);
   return result;
 }
 
@@ -68,6 +70,7 @@ std::string readableReport(const Inspection& inspection) {
   report += line("Image digest", inspection.imageDigest);
   report += line("Expires", inspection.expires.empty() ? "never valid: the issue date is no date"
                                                        : inspection.expires);
+  report += line("Prompt", inspection.promptSubject);
   return report;
 }
 

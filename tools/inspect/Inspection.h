@@ -27,6 +27,7 @@ struct Inspection {
   std::vector<std::string> imageURLs;
   std::string imageDigest;
   std::string expires;  ///< empty when the issue date is no date
+  std::string promptSubject;
 };
 
 /// Computes what would be signed. `capture` must be well-formed UTF-8.

@@ -8,7 +8,11 @@
 #include <optional>
 #include <stdexcept>
 
+#include "Quillseal/BrowserScripts.h"
+#include "Quillseal/ConfirmationText.h"
 #include "Quillseal/CryptoManager.h"
+#include "Quillseal/SignedBlock.h"
+#include "Quillseal/SigningScope.h"
 #include "Quillseal/UnicodeText.h"
 
 namespace quillseal::inspect {
@@ -40,6 +44,12 @@ class Request {
     const auto found = object_.find(key);
     if (found == object_.end() || found->is_null()) return std::nullopt;
     return string(key);
+  }
+
+  bool boolean(const char* key) const {
+    const Json& value = required(key);
+    if (!value.is_boolean()) throw RequestError(quoted(key) + " must be true or false");
+    return value.get<bool>();
   }
 
   std::int64_t integer(const char* key) const {
@@ -98,15 +108,75 @@ Json expiryOperation(const Request& request) {
           {"expires", CryptoManager::expiryDateFor({.issued = issued, .wordCount = words})}};
 }
 
+Json scopeOperation(const Request& request) {
+  const std::string bundle = request.string("bundle");
+  const std::optional<std::string> name = request.optionalString("name");
+  const auto detected = SigningScope::detectAppScope({.name = name, .bundleIdentifier = bundle});
+  return {{"app", detected.app}, {"scope", detected.scope}};
+}
+
+Json composeOperation(const Request& request) {
+  const std::string base = request.string("base");
+  const std::string recipient = request.string("recipient");
+  return {{"scope", SigningScope::composeScope({.base = base, .recipient = recipient})}};
+}
+
+Json mediumOperation(const Request& request) {
+  return {{"index", SigningScope::defaultMediumIndex(request.string("scope"))}};
+}
+
+Json confirmOperation(const Request& request) {
+  const std::string text = request.string("text");
+  const std::string scope = request.string("scope");
+  const std::string issued = request.string("issued");
+  const std::string identity = request.string("identity");
+  return {{"informative", confirmationText({.text = text,
+                                            .scope = scope,
+                                            .issued = issued,
+                                            .identity = identity,
+                                            .isDemo = request.boolean("demo")})}};
+}
+
+Json blockOperation(const Request& request) {
+  const std::string signatureId = request.string("sig_id");
+  const std::string text = request.string("text");
+  const std::optional<std::string> html = request.optionalString("html");
+  const std::string issued = request.string("issued");
+  const std::string scope = request.string("scope");
+  const std::string server = request.string("server");
+  const SignedBlock::Fields fields{.signatureId = signatureId,
+                                   .text = text,
+                                   .html = html,
+                                   .issued = issued,
+                                   .scope = scope,
+                                   .server = server};
+  return {{"plain", SignedBlock::plainText(fields)}, {"html", SignedBlock::htmlDocument(fields)}};
+}
+
+Json orNull(const std::optional<std::string>& text) {
+  return text ? Json(*text) : Json(nullptr);
+}
+
+Json tabScriptOperation(const Request& request) {
+  const std::string bundle = request.string("bundle");
+  const std::string urlContains = request.string("url_contains");
+  const std::optional<std::string> tab = request.optionalString("tab");
+  return {{"current", orNull(BrowserScripts::currentTab(bundle))},
+          {"close", orNull(BrowserScripts::closeAndRestore(
+                        {.bundleIdentifier = bundle, .urlContains = urlContains, .tabId = tab}))}};
+}
+
 struct Operation {
   std::string_view name;
   Json (*perform)(const Request&);
 };
 
 constexpr std::array operations{
-    Operation{"canonical", canonicalOperation},
-    Operation{"expiry", expiryOperation},
-    Operation{"inspect", inspectOperation},
+    Operation{"block", blockOperation},          Operation{"canonical", canonicalOperation},
+    Operation{"compose", composeOperation},      Operation{"confirm", confirmOperation},
+    Operation{"expiry", expiryOperation},        Operation{"inspect", inspectOperation},
+    Operation{"medium", mediumOperation},        Operation{"scope", scopeOperation},
+    Operation{"tab_script", tabScriptOperation},
 };
 
 /// The four hexadecimal digits behind "\u" at `at`, or nothing.
@@ -171,7 +241,8 @@ Json toJson(const Inspection& inspection) {
           {"signing_refusal", inspection.signingRefusal},
           {"image_urls", inspection.imageURLs},
           {"image_digest", inspection.imageDigest},
-          {"expires", inspection.expires}};
+          {"expires", inspection.expires},
+          {"prompt_subject", inspection.promptSubject}};
 }
 
 std::string answer(std::string_view requestLine) {

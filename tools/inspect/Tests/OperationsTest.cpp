@@ -1,5 +1,6 @@
 #include <string>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "Operations.h"
@@ -27,6 +28,7 @@ TEST(Operations, InspectsTheTrimmedText) {
   EXPECT_EQ(result["signing_refusal"], "Only 6 words. Write at least 10.");
   EXPECT_EQ(result["image_urls"], Json({"b.png", "a.png"}));
   EXPECT_EQ(result["expires"], "2025-02-06");
+  EXPECT_EQ(result["prompt_subject"], "“We met “Ada” — on 3 May…” (6 words)");
 }
 
 TEST(Operations, TakesAbsentAndNullHtmlAlike) {
@@ -51,6 +53,39 @@ TEST(Operations, ComputesThePayloadDigest) {
                                 {"commitment", "Approval"}});
   EXPECT_EQ(result, Json({{"payload_digest",
                            "ab461b39fdd6b2bcb3323e891a960b39fae4bd8c3f545b8e58c5dfe3871bc54e"}}));
+}
+
+TEST(Operations, BuildsTheTextsOfTheSigningFlow) {
+  const std::pair<Json, Json> cases[] = {
+      {{{"op", "scope"}, {"bundle", "com.apple.mail"}, {"name", nullptr}},
+       {{"app", "Desktop App"}, {"scope", "Email Message (Desktop App)"}}},
+      {{{"op", "compose"}, {"base", "A"}, {"recipient", " B "}}, {{"scope", "A → B"}}},
+      {{{"op", "medium"}, {"scope", "Word"}}, {{"index", 6}}},
+      {{{"op", "tab_script"}, {"bundle", "none"}, {"url_contains", "x"}, {"tab", nullptr}},
+       {{"current", nullptr}, {"close", nullptr}}},
+  };
+  for (const auto& [request, result] : cases)
+    EXPECT_EQ(answered(request), result);
+
+  const Json confirm = answered({{"op", "confirm"},
+                                 {"text", "x"},
+                                 {"scope", "S"},
+                                 {"issued", "D"},
+                                 {"identity", "Ada"},
+                                 {"demo", false}});
+  EXPECT_THAT(confirm["informative"].get<std::string>(),
+              testing::HasSubstr("\n\nx\n\nContext: S\nDate: D\nSigning as: Ada\n\n"));
+
+  const Json block = answered({{"op", "block"},
+                               {"sig_id", "7"},
+                               {"text", "x"},
+                               {"html", "<i>x</i>"},
+                               {"issued", "2025-01-30"},
+                               {"scope", "S"},
+                               {"server", "https://s"}});
+  EXPECT_THAT(block["plain"].get<std::string>(),
+              testing::EndsWith("S · 30 January 2025\nCheck this signature → https://s/verify/7"));
+  EXPECT_THAT(block["html"].get<std::string>(), testing::HasSubstr("</span><i>x</i><span"));
 }
 
 struct BadRequest {

@@ -11,6 +11,7 @@
 #include <unicode/uchar.h>
 #include <unicode/unistr.h>
 
+#include "Quillseal/CalendarDate.h"
 #include "Quillseal/Digest.h"
 #include "Quillseal/IcuStatus.h"
 #include "Quillseal/UnicodeText.h"
@@ -407,27 +408,6 @@ bool holdsNameAfterFirstWord(std::string_view text) {
 
 // Dates and digests -----------------------------------------------------------------------------
 
-std::optional<std::chrono::sys_days> parsedDate(std::string_view text) {
-  constexpr std::string_view shape = "dddd-dd-dd";
-  if (text.size() != shape.size()) return std::nullopt;
-  for (std::size_t i = 0; i < shape.size(); ++i) {
-    const bool fits = shape[i] == 'd' ? text[i] >= '0' && text[i] <= '9' : text[i] == '-';
-    if (!fits) return std::nullopt;
-  }
-  const auto number = [&](std::size_t start, std::size_t length) {
-    int value = 0;
-    for (const char digit : text.substr(start, length))
-      value = value * 10 + (digit - '0');
-    return value;
-  };
-  const std::chrono::year_month_day date{std::chrono::year{number(0, 4)},
-                                         std::chrono::month{static_cast<unsigned>(number(5, 2))},
-                                         std::chrono::day{static_cast<unsigned>(number(8, 2))}};
-  // The calendar has no year 0; the library's proleptic one does.
-  if (!date.ok() || date.year() == std::chrono::year{0}) return std::nullopt;
-  return std::chrono::sys_days{date};
-}
-
 std::string formattedDate(std::chrono::sys_days days) {
   const std::chrono::year_month_day date{days};
   std::array<char, 32> buffer{};
@@ -559,7 +539,8 @@ std::int64_t expiryDaysFor(std::int64_t wordCount) {
 std::string expiryDateFor(const ExpiryRequest& request) {
   const auto issued = parsedDate(unicode::trimmed(request.issued));
   if (!issued) return {};
-  return formattedDate(*issued + std::chrono::days{expiryDaysFor(request.wordCount)});
+  return formattedDate(std::chrono::sys_days{*issued} +
+                       std::chrono::days{expiryDaysFor(request.wordCount)});
 }
 
 std::string randomHex(std::int64_t byteCount) {

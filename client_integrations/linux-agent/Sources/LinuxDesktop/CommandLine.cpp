@@ -1,0 +1,82 @@
+#include "LinuxDesktop/CommandLine.h"
+
+#include <algorithm>
+#include <array>
+
+namespace quillseal {
+namespace {
+
+struct Option {
+  std::string_view name;
+  std::string_view shortName;
+  Command command;
+};
+
+constexpr std::array kOptions = {
+    Option{"--background", "", Command::Background},
+    Option{"--help", "-h", Command::Help},
+    Option{"--quit", "", Command::Quit},
+    Option{"--settings", "", Command::Settings},
+    Option{"--sign", "", Command::Sign},
+    Option{"--version", "-V", Command::Version},
+};
+
+}  // namespace
+
+CommandLine parseCommandLine(std::span<const std::string_view> arguments) {
+  CommandLine result;
+  for (const std::string_view argument : arguments) {
+    const auto option = std::ranges::find_if(kOptions, [&](const Option& candidate) {
+      return argument == candidate.name ||
+             (!candidate.shortName.empty() && argument == candidate.shortName);
+    });
+    if (option == kOptions.end())
+      return {.command = Command::Wrong,
+              .problem = "'" + std::string(argument) + "' is not an option"};
+    if (result.command != Command::Start && result.command != option->command)
+      return {.command = Command::Wrong,
+              .problem = "'" + std::string(argument) + "' cannot be combined with another option"};
+    result.command = option->command;
+  }
+  return result;
+}
+
+std::string_view helpText() {
+  return R"(Usage: quillseal [OPTION]
+
+Signs the text that is selected in the application in front: press
+Ctrl+Alt+Super+H, or choose the menu item of the shield in the panel.
+
+Without an option the agent starts and stays in the foreground, with its log on
+standard error. There is one agent per session: when one runs already, its
+settings window is shown.
+
+  --sign        sign the selected text now; bind this to a shortcut of your
+                desktop where the built-in one does not work
+  --settings    show the settings window
+  --quit        end the agent
+  --background  start without a word, for the start of a session; the log goes
+                to the journal
+  -h, --help    show this help
+  -V, --version show the version
+
+--sign and --settings start the agent when none runs.
+Exit status: 0 done, 1 failed, 2 wrong arguments. Manual: man quillseal
+)";
+}
+
+std::string_view wireName(Command command) {
+  switch (command) {
+    case Command::Sign:
+      return "Sign";
+    case Command::Start:
+    case Command::Settings:
+      return "Settings";
+    case Command::Quit:
+      return "Quit";
+    default:
+      return {};
+  }
+}
+
+}  // namespace quillseal

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "Desktop/Log.h"
+
+namespace quillseal {
+
+/// Writes to the journal, or to syslog where no journal runs.
+class JournalLog : public desktop::Log {
+ public:
+  enum class Echo { none, standardError };
+
+  explicit JournalLog(Echo echo) : echo_(echo) {}
+
+  void write(std::string_view line) override;
+
+ private:
+  Echo echo_;
+};
+
+}  // namespace quillseal

@@ -1,0 +1,106 @@
+#include "LinuxDesktop/KeyChords.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+
+#include <xkbcommon/xkbcommon-keysyms.h>
+
+namespace quillseal {
+namespace {
+
+using desktop::contains;
+using desktop::Key;
+using desktop::KeyPress;
+using desktop::Modifiers;
+
+// Terminals whose desktop file lacks the category, or that come without one.
+constexpr std::array<std::string_view, 9> kTerminalClasses = {"alacritty",
+                                                              "com.mitchellh.ghostty",
+                                                              "kitty",
+                                                              "konsole",
+                                                              "org.wezfurlong.wezterm",
+                                                              "st-256color",
+                                                              "terminator",
+                                                              "urxvt",
+                                                              "xfce4-terminal"};
+
+// These keep the shortcuts of the first X terminals.
+constexpr std::array<std::string_view, 3> kInsertClasses = {"uxterm", "xterm", "urxvt"};
+
+Keysym symbolOf(Key key) {
+  switch (key) {
+    case Key::a:
+      return XKB_KEY_a;
+    case Key::c:
+      return XKB_KEY_c;
+    case Key::h:
+      return XKB_KEY_h;
+    case Key::v:
+      return XKB_KEY_v;
+  }
+  return XKB_KEY_NoSymbol;
+}
+
+bool isOneOf(std::string_view windowClass, const auto& classes) {
+  return std::ranges::any_of(classes, [&](std::string_view candidate) {
+    return std::ranges::equal(windowClass, candidate, {},
+                              [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  });
+}
+
+bool isTerminal(std::string_view categories, std::string_view windowClass) {
+  return categories.find("TerminalEmulator") != std::string_view::npos ||
+         isOneOf(windowClass, kTerminalClasses) || isOneOf(windowClass, kInsertClasses);
+}
+
+}  // namespace
+
+std::vector<Keysym> chordOf(KeyPress press) {
+  const bool control = contains(press.modifiers, Modifiers::control);
+  const bool command = contains(press.modifiers, Modifiers::command);
+  std::vector<Keysym> chord;
+  if (control || command) chord.push_back(XKB_KEY_Control_L);
+  if (contains(press.modifiers, Modifiers::option)) chord.push_back(XKB_KEY_Alt_L);
+  if (control && command) chord.push_back(XKB_KEY_Super_L);
+  chord.push_back(symbolOf(press.key));
+  return chord;
+}
+
+std::vector<Keysym> chordFor(KeyPress press, std::string_view categories,
+                             std::string_view windowClass) {
+  if (!isTerminal(categories, windowClass)) return chordOf(press);
+  const bool oldKeys = isOneOf(windowClass, kInsertClasses);
+  switch (press.key) {
+    case Key::c:
+      if (oldKeys) return {XKB_KEY_Control_L, XKB_KEY_Insert};
+      return {XKB_KEY_Control_L, XKB_KEY_Shift_L, XKB_KEY_c};
+    case Key::v:
+      if (oldKeys) return {XKB_KEY_Shift_L, XKB_KEY_Insert};
+      return {XKB_KEY_Control_L, XKB_KEY_Shift_L, XKB_KEY_v};
+    default:
+      return {};
+  }
+}
+
+std::string nameOf(KeyPress press) {
+  std::string name;
+  for (const Keysym symbol : chordOf(press)) {
+    switch (symbol) {
+      case XKB_KEY_Control_L:
+        name += "Ctrl+";
+        break;
+      case XKB_KEY_Alt_L:
+        name += "Alt+";
+        break;
+      case XKB_KEY_Super_L:
+        name += "Super+";
+        break;
+      default:
+        name += static_cast<char>('A' + (symbol - XKB_KEY_a));
+    }
+  }
+  return name;
+}
+
+}  // namespace quillseal

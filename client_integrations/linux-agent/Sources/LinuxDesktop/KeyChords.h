@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Desktop/KeyEvents.h"
+#include "LinuxDesktop/X11Keyboard.h"
+
+namespace quillseal {
+
+/// The keys of a Linux keyboard that stand for a key press of the agent: modifiers first.
+///
+/// Command is Control, as in the shortcuts of applications. Where Control is asked for beside it,
+/// Command is the key with the logo of the desktop (Super), since one key cannot be both.
+[[nodiscard]] std::vector<Keysym> chordOf(desktop::KeyPress press);
+
+/// The chord that copies, pastes or selects all in an application of this kind. In a terminal
+/// Ctrl+C would end the program that runs there, so Shift is added; a terminal has no key that
+/// selects all, and an empty chord means that nothing may be pressed.
+[[nodiscard]] std::vector<Keysym> chordFor(desktop::KeyPress press, std::string_view categories,
+                                           std::string_view windowClass);
+
+/// The combination in words: "Ctrl+Alt+Super+H".
+[[nodiscard]] std::string nameOf(desktop::KeyPress press);
+
+}  // namespace quillseal

@@ -1,0 +1,135 @@
+#include "LinuxDesktop/MessageDialog.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QStyle>
+#include <QWindow>
+#include <algorithm>
+#include <utility>
+
+#include "LinuxDesktop/QtText.h"
+
+namespace quillseal {
+namespace {
+
+constexpr int kTextWidth = 420;
+constexpr int kPictureSize = 48;
+constexpr double kTitleScale = 1.15;
+constexpr double kLargestShareOfScreen = 0.5;
+
+QPixmap pixmapOf(MessageDialog::Picture picture, const QStyle& style) {
+  switch (picture) {
+    case MessageDialog::Picture::warning:
+      return style.standardIcon(QStyle::SP_MessageBoxWarning).pixmap(kPictureSize);
+    case MessageDialog::Picture::information:
+      return style.standardIcon(QStyle::SP_MessageBoxInformation).pixmap(kPictureSize);
+    case MessageDialog::Picture::key:
+    case MessageDialog::Picture::product:
+      break;
+  }
+  return QIcon(QStringLiteral(":/icons/quillseal-48.png")).pixmap(kPictureSize);
+}
+
+QLabel* plainLabel(const std::string& text) {
+  auto* label = new QLabel;
+  label->setTextFormat(Qt::PlainText);
+  label->setWordWrap(true);
+  label->setText(toQString(text));
+  return label;
+}
+
+}  // namespace
+
+// Qt's parents own their children: whatever is added to a layout below goes with the dialog.
+MessageDialog::MessageDialog(const Look& look)
+    : rows_(new QVBoxLayout), buttons_(new QDialogButtonBox) {
+  setWindowTitle(QStringLiteral("Quillseal"));
+
+  auto* picture = new QLabel;
+  picture->setPixmap(pixmapOf(look.picture, *style()));
+
+  QLabel* title = plainLabel(look.title);
+  QFont bold = title->font();
+  bold.setBold(true);
+  bold.setPointSizeF(bold.pointSizeF() * kTitleScale);
+  title->setFont(bold);
+  title->setFixedWidth(kTextWidth);
+
+  auto* column = new QVBoxLayout;
+  column->addWidget(title);
+  if (!look.text.empty()) {
+    QLabel* text = plainLabel(look.text);
+    text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    text->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    auto* scroll = new QScrollArea;
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidget(text);
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const int wanted = text->heightForWidth(kTextWidth);
+    const int largest =
+        static_cast<int>(screen()->availableSize().height() * kLargestShareOfScreen);
+    scroll->setFixedSize(kTextWidth + (wanted > largest ? bar : 0), std::min(wanted, largest));
+    column->addWidget(scroll);
+  }
+  column->addLayout(rows_);
+  column->addStretch();
+
+  auto* upper = new QHBoxLayout;
+  upper->setSpacing(16);
+  upper->addWidget(picture, 0, Qt::AlignTop);
+  upper->addLayout(column);
+
+  auto* all = new QVBoxLayout(this);
+  all->setContentsMargins(18, 18, 18, 14);
+  all->setSpacing(14);
+  all->addLayout(upper);
+  all->addWidget(buttons_);
+  all->setSizeConstraint(QLayout::SetFixedSize);
+
+  connect(buttons_, &QDialogButtonBox::accepted, this, &QDialog::accept);
+  connect(buttons_, &QDialogButtonBox::rejected, this, &QDialog::reject);
+}
+
+QPushButton& MessageDialog::addButton(const std::string& label, QDialogButtonBox::ButtonRole role) {
+  QString text = toQString(label);
+  text.replace(QLatin1Char('&'), QLatin1String("&&"));
+  QPushButton* button = buttons_->addButton(text, role);
+  button->setDefault(role == QDialogButtonBox::AcceptRole);
+  button->setAutoDefault(true);
+  return *button;
+}
+
+desktop::Ticket MessageDialog::open(std::unique_ptr<MessageDialog> dialog,
+                                    const WindowManager& windows,
+                                    std::function<void(bool)> closed) {
+  const QPointer<MessageDialog> shown = dialog.release();  // deletes itself when it has ended
+  connect(shown, &QDialog::finished, shown, [shown, closed = std::move(closed)](int result) {
+    shown->deleteLater();
+    const std::function<void(bool)> call = closed;
+    call(result == QDialog::Accepted);
+  });
+  shown->setModal(true);
+  bringToFront(*shown, windows);
+  return desktop::Ticket([shown] {
+    if (shown.isNull()) return;
+    shown->disconnect();
+    shown->hide();
+    shown->deleteLater();
+  });
+}
+
+void bringToFront(QWidget& window, const WindowManager& windows) {
+  window.show();
+  window.raise();
+  window.activateWindow();
+  windows.activate(static_cast<xcb_window_t>(window.winId()));
+}
+
+}  // namespace quillseal

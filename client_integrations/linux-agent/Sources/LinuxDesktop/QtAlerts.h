@@ -1,0 +1,31 @@
+#pragma once
+
+#include <utility>
+
+#include "Desktop/Alerts.h"
+#include "LinuxDesktop/QtText.h"
+#include "LinuxDesktop/WindowManager.h"
+
+namespace quillseal {
+
+/// Alerts as dialogs of Qt, notifications through the session's notification service.
+class QtAlerts : public desktop::Alerts {
+ public:
+  QtAlerts(const WindowManager& windows, Words words)
+      : windows_(windows), words_(std::move(words)) {}
+
+  [[nodiscard]] desktop::Ticket show(const desktop::Alert& alert,
+                                     std::function<void()> dismissed) override;
+  [[nodiscard]] desktop::Ticket ask(const desktop::Question& question,
+                                    std::function<void(desktop::Answer)> answered) override;
+  [[nodiscard]] desktop::Ticket confirm(
+      const desktop::ConfirmationForm& form,
+      std::function<void(std::optional<desktop::ConfirmationEntry>)> answered) override;
+  void notify(const desktop::Notification& notification) override;
+
+ private:
+  const WindowManager& windows_;
+  Words words_;
+};
+
+}  // namespace quillseal

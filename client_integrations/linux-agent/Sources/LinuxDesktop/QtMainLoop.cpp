@@ -1,0 +1,59 @@
+#include "LinuxDesktop/QtMainLoop.h"
+
+#include <QTimer>
+#include <memory>
+#include <utility>
+
+namespace quillseal {
+namespace {
+
+// Workers wait for people (a PIN) and for the network more than for the processor.
+constexpr int kWorkers = 16;
+
+}  // namespace
+
+QtMainLoop::QtMainLoop() {
+  workers_.setMaxThreadCount(kWorkers);
+}
+
+QtMainLoop::~QtMainLoop() {
+  workers_.waitForDone();
+}
+
+void QtMainLoop::post(std::function<void()> work) {
+  QMetaObject::invokeMethod(&receiver_, std::move(work), Qt::QueuedConnection);
+}
+
+desktop::Ticket QtMainLoop::after(std::chrono::milliseconds delay, std::function<void()> work) {
+  auto timer = std::make_shared<std::unique_ptr<QTimer>>(std::make_unique<QTimer>());
+  (*timer)->setSingleShot(true);
+  (*timer)->setTimerType(Qt::PreciseTimer);
+  QObject::connect(timer->get(), &QTimer::timeout, &receiver_, [work = std::move(work)] {
+    // The call may drop the ticket, and with it the timer that holds this very function.
+    const std::function<void()> call = work;
+    call();
+  });
+  (*timer)->start(delay);
+  return desktop::Ticket([timer] {
+    (*timer)->stop();
+    timer->release()->deleteLater();
+  });
+}
+
+QtMainLoop::TimePoint QtMainLoop::now() const {
+  return std::chrono::steady_clock::now();
+}
+
+desktop::Ticket QtMainLoop::runBlocking(std::function<void()> work,
+                                        std::function<void()> finished) {
+  const auto wanted = std::make_shared<std::function<void()>>(std::move(finished));
+  workers_.start([this, work = std::move(work), wanted] {
+    work();
+    post([wanted] {
+      if (const std::function<void()> call = std::exchange(*wanted, nullptr)) call();
+    });
+  });
+  return desktop::Ticket([wanted] { *wanted = nullptr; });
+}
+
+}  // namespace quillseal

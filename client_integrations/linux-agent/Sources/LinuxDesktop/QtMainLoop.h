@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QObject>
+#include <QThreadPool>
+
+#include "Desktop/MainLoop.h"
+
+namespace quillseal {
+
+/// The main loop on Qt's event loop. REQUIRES: a QCoreApplication lives longer.
+class QtMainLoop : public desktop::MainLoop {
+ public:
+  QtMainLoop();
+  /// Waits for workers that still run.
+  ~QtMainLoop() override;
+
+  void post(std::function<void()> work) override;
+  [[nodiscard]] desktop::Ticket after(std::chrono::milliseconds delay,
+                                      std::function<void()> work) override;
+  [[nodiscard]] TimePoint now() const override;
+  [[nodiscard]] desktop::Ticket runBlocking(std::function<void()> work,
+                                            std::function<void()> finished) override;
+
+ private:
+  QObject receiver_;  // work posted to it goes with it
+  QThreadPool workers_;
+};
+
+}  // namespace quillseal

@@ -1,0 +1,80 @@
+#include "LinuxDesktop/QtPasteboard.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <array>
+#include <memory>
+
+#include "Desktop/Error.h"
+#include "LinuxDesktop/QtText.h"
+
+namespace quillseal {
+namespace {
+
+// The names under which X programs offer rich text.
+constexpr std::array kRtfFormats = {"text/rtf", "application/rtf", "text/richtext"};
+
+// Set by KDE's and KeePassXC's convention, and by that of macOS for programs that know both.
+constexpr auto kPasswordHint = "x-kde-passwordManagerHint";
+constexpr auto kConcealed = "org.nspasteboard.ConcealedType";
+
+const QMimeData* offered() {
+  return QGuiApplication::clipboard()->mimeData();
+}
+
+std::optional<std::string> present(std::string text) {
+  if (text.empty()) return std::nullopt;
+  return text;
+}
+
+}  // namespace
+
+QtPasteboard::QtPasteboard() {
+  QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &receiver_,
+                   [this] { ++changeCount_; });
+}
+
+bool QtPasteboard::isConcealed() const {
+  const QMimeData* data = offered();
+  if (data == nullptr) return false;
+  return data->hasFormat(QLatin1String(kConcealed)) ||
+         (data->hasFormat(QLatin1String(kPasswordHint)) &&
+          data->data(QLatin1String(kPasswordHint)) == "secret");
+}
+
+std::optional<std::string> QtPasteboard::plainText() const {
+  const QMimeData* data = offered();
+  if (data == nullptr || !data->hasText()) return std::nullopt;
+  return present(data->text().toStdString());
+}
+
+std::optional<std::string> QtPasteboard::html() const {
+  const QMimeData* data = offered();
+  if (data == nullptr || !data->hasHtml()) return std::nullopt;
+  return present(data->html().toStdString());
+}
+
+std::optional<std::string> QtPasteboard::rtf() const {
+  const QMimeData* data = offered();
+  if (data == nullptr) return std::nullopt;
+  for (const char* format : kRtfFormats)
+    if (data->hasFormat(QLatin1String(format)))
+      if (auto bytes = present(data->data(QLatin1String(format)).toStdString())) return bytes;
+  return std::nullopt;
+}
+
+void QtPasteboard::write(const desktop::PasteboardContent& content) {
+  auto data = std::make_unique<QMimeData>();
+  data->setText(toQString(content.plainText));
+  data->setHtml(toQString(content.html));
+  QClipboard* const clipboard = QGuiApplication::clipboard();
+  clipboard->setMimeData(data.release());  // the clipboard owns it from here
+  lastWrite_ = std::chrono::steady_clock::now();
+  if (!clipboard->ownsClipboard())
+    throw Error({.domain = "QtPasteboard",
+                 .code = 1,
+                 .description = "The clipboard could not be written: another program holds it."});
+}
+
+}  // namespace quillseal

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QObject>
+#include <chrono>
+
+#include "Desktop/Pasteboard.h"
+
+namespace quillseal {
+
+/// The clipboard through QClipboard, whose change signal covers every program of the X session.
+class QtPasteboard : public desktop::Pasteboard {
+ public:
+  QtPasteboard();
+
+  [[nodiscard]] std::int64_t changeCount() const override { return changeCount_; }
+  [[nodiscard]] bool isConcealed() const override;
+  [[nodiscard]] std::optional<std::string> plainText() const override;
+  [[nodiscard]] std::optional<std::string> html() const override;
+  [[nodiscard]] std::optional<std::string> rtf() const override;
+  void write(const desktop::PasteboardContent& content) override;
+
+  /// When `write` was last called; the epoch when it never was.
+  [[nodiscard]] std::chrono::steady_clock::time_point lastWrite() const { return lastWrite_; }
+
+ private:
+  QObject receiver_;
+  std::int64_t changeCount_ = 0;
+  std::chrono::steady_clock::time_point lastWrite_;
+};
+
+}  // namespace quillseal

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "Desktop/Program.h"
+#include "Desktop/Ticket.h"
+#include "LinuxDesktop/WindowManager.h"
+
+namespace quillseal {
+
+class QtProgram : public desktop::Program {
+ public:
+  explicit QtProgram(const WindowManager& windows) : windows_(windows) {}
+
+  void becomeAccessory() override;
+  /// Nothing: on X11 a window is activated, not a program, and every window of this one does so.
+  void activate() override {}
+  void showAbout() override;
+  void terminate() override;
+
+ private:
+  const WindowManager& windows_;
+  desktop::Ticket about_;
+};
+
+}  // namespace quillseal

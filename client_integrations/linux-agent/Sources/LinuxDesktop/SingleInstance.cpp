@@ -1,0 +1,76 @@
+#include "LinuxDesktop/SingleInstance.h"
+
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
+#include <QString>
+#include <array>
+#include <utility>
+
+namespace quillseal {
+namespace {
+
+constexpr auto kName = "com.quillseal.Agent";
+constexpr auto kPath = "/com/quillseal/Agent";
+constexpr int kAnswerMilliseconds = 5000;
+constexpr std::array kWireCommands = {Command::Sign, Command::Settings, Command::Quit};
+
+QString wire(Command command) {
+  const std::string_view name = wireName(command);
+  return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+}  // namespace
+
+// A virtual object needs no generated code for three methods without arguments.
+class SingleInstance::Receiver : public QDBusVirtualObject {
+ public:
+  std::function<void(Command)> handler;
+
+  [[nodiscard]] QString introspect(const QString& /*path*/) const override {
+    QString methods;
+    for (const Command command : kWireCommands)
+      methods += QStringLiteral("<method name=\"%1\"/>").arg(wire(command));
+    return QStringLiteral("<interface name=\"%1\">%2</interface>")
+        .arg(QLatin1String(kName), methods);
+  }
+
+  bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override {
+    for (const Command command : kWireCommands) {
+      if (message.interface() != QLatin1String(kName) || message.member() != wire(command))
+        continue;
+      connection.send(message.createReply());
+      if (handler) handler(command);
+      return true;
+    }
+    return false;
+  }
+};
+
+SingleInstance::SingleInstance() : receiver_(std::make_unique<Receiver>()) {}
+
+SingleInstance::~SingleInstance() {
+  QDBusConnection::sessionBus().unregisterObject(QLatin1String(kPath));
+}
+
+SingleInstance::Role SingleInstance::claim() {
+  QDBusConnection bus = QDBusConnection::sessionBus();
+  if (!bus.isConnected()) return Role::Alone;
+  // The object comes first: whoever finds the name must find it too.
+  bus.registerVirtualObject(QLatin1String(kPath), receiver_.get());
+  return bus.registerService(QLatin1String(kName)) ? Role::Agent : Role::Visitor;
+}
+
+void SingleInstance::onCommand(std::function<void(Command)> handler) {
+  receiver_->handler = std::move(handler);
+}
+
+bool SingleInstance::handOver(Command command) {
+  const QDBusMessage call = QDBusMessage::createMethodCall(
+      QLatin1String(kName), QLatin1String(kPath), QLatin1String(kName), wire(command));
+  return QDBusConnection::sessionBus().call(call, QDBus::Block, kAnswerMilliseconds).type() ==
+         QDBusMessage::ReplyMessage;
+}
+
+}  // namespace quillseal

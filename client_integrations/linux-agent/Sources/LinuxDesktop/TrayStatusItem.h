@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QMenu>
+#include <QSystemTrayIcon>
+#include <vector>
+
+#include "Desktop/StatusItem.h"
+#include "LinuxDesktop/QtText.h"
+
+namespace quillseal {
+
+/// The status item as an icon in the tray of the panel. It appears whenever a panel with a tray
+/// starts; some desktops have none.
+class TrayStatusItem : public desktop::StatusItem {
+ public:
+  explicit TrayStatusItem(Words words);
+
+  void show(const desktop::StatusMenu& menu) override;
+  void setItemTitle(std::size_t index, const std::string& title) override;
+
+ private:
+  Words words_;
+  QSystemTrayIcon icon_;
+  QMenu menu_;
+  std::vector<QAction*> actions_;  // owned by the menu
+};
+
+}  // namespace quillseal

@@ -1,0 +1,136 @@
+#include "LinuxDesktop/WindowManager.h"
+
+#include <QGuiApplication>
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <memory>
+#include <vector>
+
+#include <unistd.h>
+
+namespace quillseal {
+namespace {
+
+struct FreeDeleter {
+  void operator()(void* pointer) const { std::free(pointer); }
+};
+template <typename T>
+using Reply = std::unique_ptr<T, FreeDeleter>;
+
+constexpr std::uint32_t kLongestProperty = 1024;  // in units of four bytes
+constexpr std::uint32_t kSourcePager = 2;
+
+// WM_CLASS holds the instance and the class, each closed by a zero byte. The instance is not used:
+// some programs put a profile path there.
+std::string classOf(const std::string& property) {
+  const std::size_t end = property.find('\0');
+  if (end == std::string::npos) return {};
+  return property.c_str() + end + 1;
+}
+
+std::string executableOf(std::uint32_t process) {
+  std::error_code error;
+  const auto path =
+      std::filesystem::read_symlink("/proc/" + std::to_string(process) + "/exe", error);
+  return error ? std::string() : path.filename().string();
+}
+
+}  // namespace
+
+WindowManager::WindowManager() {
+  const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+  if (x11 == nullptr) return;
+  connection_ = x11->connection();
+  root_ = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data->root;
+}
+
+xcb_atom_t WindowManager::atom(const char* name) const {
+  const auto cookie =
+      xcb_intern_atom(connection_, 0, static_cast<std::uint16_t>(std::strlen(name)), name);
+  const Reply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(connection_, cookie, nullptr));
+  return reply == nullptr ? static_cast<xcb_atom_t>(XCB_ATOM_NONE) : reply->atom;
+}
+
+std::string WindowManager::property(xcb_window_t window, const char* name, xcb_atom_t type) const {
+  if (connection_ == nullptr || window == 0) return {};
+  const auto cookie =
+      xcb_get_property(connection_, 0, window, atom(name), type, 0, kLongestProperty);
+  const Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection_, cookie, nullptr));
+  if (reply == nullptr) return {};
+  return {static_cast<const char*>(xcb_get_property_value(reply.get())),
+          static_cast<std::size_t>(xcb_get_property_value_length(reply.get()))};
+}
+
+std::optional<std::uint32_t> WindowManager::number(xcb_window_t window, const char* name,
+                                                   xcb_atom_t type) const {
+  const std::string bytes = property(window, name, type);
+  std::uint32_t value = 0;
+  if (bytes.size() < sizeof value) return std::nullopt;
+  std::memcpy(&value, bytes.data(), sizeof value);
+  return value;
+}
+
+xcb_window_t WindowManager::activeWindow() const {
+  return number(root_, "_NET_ACTIVE_WINDOW", XCB_ATOM_WINDOW).value_or(0);
+}
+
+xcb_window_t WindowManager::topForeignWindow() const {
+  const auto own = static_cast<std::uint32_t>(getpid());
+  const xcb_window_t active = activeWindow();
+  if (active == 0 || processOf(active) != own) return active;
+  // From the bottom to the top.
+  const std::string bytes = property(root_, "_NET_CLIENT_LIST_STACKING", XCB_ATOM_WINDOW);
+  std::vector<xcb_window_t> stack(bytes.size() / sizeof(xcb_window_t));
+  std::memcpy(stack.data(), bytes.data(), stack.size() * sizeof(xcb_window_t));
+  const auto found = std::find_if(stack.rbegin(), stack.rend(),
+                                  [&](xcb_window_t window) { return processOf(window) != own; });
+  return found == stack.rend() ? 0 : *found;
+}
+
+std::uint32_t WindowManager::processOf(xcb_window_t window) const {
+  return number(window, "_NET_WM_PID", XCB_ATOM_CARDINAL).value_or(0);
+}
+
+WindowTraits WindowManager::traitsOf(xcb_window_t window) const {
+  WindowTraits traits;
+  traits.windowClass = classOf(property(window, "WM_CLASS", XCB_ATOM_STRING));
+  traits.gtkApplicationId = property(window, "_GTK_APPLICATION_ID", XCB_ATOM_ANY);
+  if (const std::uint32_t process = processOf(window); process != 0)
+    traits.executable = executableOf(process);
+  return traits;
+}
+
+bool WindowManager::exists(xcb_window_t window) const {
+  if (connection_ == nullptr || window == 0) return false;
+  const Reply<xcb_get_window_attributes_reply_t> reply(xcb_get_window_attributes_reply(
+      connection_, xcb_get_window_attributes(connection_, window), nullptr));
+  return reply != nullptr;
+}
+
+void WindowManager::activate(xcb_window_t window) const {
+  if (connection_ == nullptr || window == 0) return;
+  xcb_client_message_event_t message{};
+  message.response_type = XCB_CLIENT_MESSAGE;
+  message.format = 32;
+  message.window = window;
+  message.type = atom("_NET_ACTIVE_WINDOW");
+  message.data.data32[0] = kSourcePager;
+  message.data.data32[1] = XCB_CURRENT_TIME;
+  xcb_send_event(connection_, 0, root_,
+                 XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                 reinterpret_cast<const char*>(&message));
+  xcb_flush(connection_);
+}
+
+void WindowManager::releaseKeyboard() const {
+  if (connection_ == nullptr) return;
+  xcb_ungrab_keyboard(connection_, XCB_CURRENT_TIME);
+  // The answer to any request tells that the server has taken this one in, before a key pressed
+  // through another connection.
+  const Reply<xcb_get_input_focus_reply_t> reply(
+      xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
+}
+
+}  // namespace quillseal

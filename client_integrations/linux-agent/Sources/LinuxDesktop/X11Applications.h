@@ -1,0 +1,30 @@
+#pragma once
+
+#include "Desktop/Applications.h"
+#include "LinuxDesktop/WindowManager.h"
+
+namespace quillseal {
+
+/// Applications by the windows of the X session and the desktop files of the machine. An instance
+/// is a window; a bundle identifier, and a location, is the id of a desktop file.
+class X11Applications : public desktop::Applications {
+ public:
+  explicit X11Applications(const WindowManager& windows) : windows_(windows) {}
+
+  [[nodiscard]] std::optional<desktop::RunningApplication> frontmost() const override;
+  [[nodiscard]] bool isActive(const desktop::RunningApplication& application) const override;
+  void activate(const desktop::RunningApplication& application) override;
+  [[nodiscard]] std::optional<desktop::InstalledApplication> applicationAt(
+      const std::string& path) const override;
+  [[nodiscard]] std::optional<desktop::InstalledApplication> defaultApplicationFor(
+      const std::string& url) const override;
+  [[nodiscard]] desktop::Ticket open(const std::string& url,
+                                     const desktop::InstalledApplication& application,
+                                     std::function<void(std::optional<Error>)> done) override;
+  void open(const std::string& url) override;
+
+ private:
+  const WindowManager& windows_;
+};
+
+}  // namespace quillseal

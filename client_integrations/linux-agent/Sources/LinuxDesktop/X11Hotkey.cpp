@@ -1,0 +1,102 @@
+#include "LinuxDesktop/X11Hotkey.h"
+
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <cstdlib>
+#include <memory>
+#include <utility>
+
+#include <xcb/xcb.h>
+#include <xkbcommon/xkbcommon-keysyms.h>
+
+#include "Desktop/Error.h"
+#include "LinuxDesktop/KeyChords.h"
+
+namespace quillseal {
+namespace {
+
+// Kinds of XKEYBOARD events; they stand where other events have padding.
+constexpr std::uint8_t kNewKeyboardNotify = 0;
+constexpr std::uint8_t kMapNotify = 1;
+
+}  // namespace
+
+X11Hotkey::X11Hotkey(desktop::MainLoop& loop, X11Keyboard* keyboard, std::string obstacle)
+    : loop_(loop), keyboard_(keyboard), obstacle_(std::move(obstacle)) {
+  const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+  if (keyboard_ == nullptr || x11 == nullptr) return;
+  connection_ = x11->connection();
+  root_ = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data->root;
+}
+
+X11Hotkey::~X11Hotkey() {
+  QCoreApplication::instance()->removeNativeEventFilter(this);
+}
+
+void X11Hotkey::registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) {
+  if (connection_ == nullptr)
+    throw Error({.domain = "X11Hotkey", .code = 1, .description = obstacle_});
+  combination_ = combination;
+  pressed_ = std::move(pressed);
+  if (!grab())
+    throw Error(
+        {.domain = "X11Hotkey",
+         .code = 2,
+         .description = "Another program already uses " + nameOf(combination_) +
+                        ". Free it there and start Quillseal again, or bind the command "
+                        "“quillseal --sign” to another shortcut in the keyboard settings of "
+                        "your desktop. The menu item works in any case."});
+  QCoreApplication::instance()->installNativeEventFilter(this);
+}
+
+bool X11Hotkey::grab() {
+  if (key_ != 0) xcb_ungrab_key(connection_, key_, root_, XCB_MOD_MASK_ANY);
+  std::vector<Keysym> chord = chordOf(combination_);
+  key_ = keyboard_->keyFor(chord.back());
+  chord.pop_back();
+  unsigned modifiers = 0;
+  for (const Keysym modifier : chord)
+    modifiers |= keyboard_->modifierMaskOf(modifier);
+  const unsigned numLock = keyboard_->modifierMaskOf(XKB_KEY_Num_Lock);
+  const unsigned lock = XCB_MOD_MASK_LOCK;
+  bool granted = true;
+  for (const unsigned ignored : {0U, lock, numLock, lock | numLock}) {
+    const auto cookie =
+        xcb_grab_key_checked(connection_, 1, root_, static_cast<std::uint16_t>(modifiers | ignored),
+                             key_, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    if (xcb_generic_error_t* error = xcb_request_check(connection_, cookie)) {
+      std::free(error);
+      granted = false;
+    }
+  }
+  return granted;
+}
+
+bool X11Hotkey::nativeEventFilter(const QByteArray& /*eventType*/, void* message,
+                                  qintptr* /*result*/) {
+  const auto* event = static_cast<const xcb_generic_event_t*>(message);
+  const std::uint8_t type = event->response_type & 0x7FU;
+  if (type == XCB_KEY_PRESS || type == XCB_KEY_RELEASE) {
+    // Presses and releases have the same shape.
+    const auto* key = reinterpret_cast<const xcb_key_press_event_t*>(event);
+    if (key->detail != key_ || key->event != root_) return false;
+    if (type == XCB_KEY_RELEASE) {
+      down_ = false;
+      lastRelease_ = key->time;
+    } else {
+      // A held key repeats: as presses alone, or as releases and presses at the same instant.
+      const bool repeated = down_ || key->time == lastRelease_;
+      down_ = true;
+      if (!repeated) loop_.post(pressed_);
+    }
+    return true;
+  }
+  // The layout has changed, and with it perhaps the place of the key.
+  const bool newLayout = type == XCB_MAPPING_NOTIFY ||
+                         (type == keyboard_->xkbEventType() &&
+                          (event->pad0 == kNewKeyboardNotify || event->pad0 == kMapNotify));
+  if (newLayout) loop_.post([this] { static_cast<void>(grab()); });
+  return false;
+}
+
+}  // namespace quillseal

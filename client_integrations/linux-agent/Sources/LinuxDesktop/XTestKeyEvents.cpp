@@ -1,0 +1,84 @@
+#include "LinuxDesktop/XTestKeyEvents.h"
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+
+#include <xkbcommon/xkbcommon-keysyms.h>
+
+#include "LinuxDesktop/DesktopEntries.h"
+#include "LinuxDesktop/KeyChords.h"
+
+namespace quillseal {
+namespace {
+
+using std::chrono::milliseconds;
+
+constexpr milliseconds kReleasePatience{400};
+constexpr milliseconds kReleasePolling{8};
+// LibreOffice Writer pastes its own earlier copy when the key follows the clipboard more closely.
+constexpr milliseconds kClipboardPropagation{150};
+
+}  // namespace
+
+XTestKeyEvents::XTestKeyEvents(Services services) : services_(std::move(services)) {}
+
+bool XTestKeyEvents::isTrusted() const {
+  return services_.keyboard != nullptr;
+}
+
+void XTestKeyEvents::askForTrust() {
+  services_.explain();
+}
+
+// Waits in turns of the main loop: the clipboard and the hotkey are served meanwhile.
+desktop::Ticket XTestKeyEvents::press(desktop::KeyPress press, std::function<void()> done) {
+  struct Wait {
+    desktop::MainLoop::TimePoint earliest;
+    desktop::MainLoop::TimePoint latest;
+    desktop::Ticket timer;
+    std::function<void()> step;
+  };
+  if (!isTrusted()) {
+    done();
+    return {};
+  }
+  desktop::MainLoop& loop = services_.loop;
+  const auto wait = std::make_shared<Wait>();
+  wait->earliest = services_.lastWrite() + kClipboardPropagation;
+  wait->latest = std::max(loop.now() + kReleasePatience, wait->earliest);
+  // Only the ticket owns `wait`: dropped, it takes the timer with it.
+  const xcb_keycode_t hotkey = services_.keyboard->keyFor(XKB_KEY_h);
+  wait->step = [this, press, hotkey, done = std::move(done), weak = std::weak_ptr(wait)] {
+    const auto self = weak.lock();
+    const auto now = services_.loop.now();
+    const bool keysDown = !services_.keyboard->heldKeys(hotkey).empty();
+    if (now < self->earliest || (keysDown && now < self->latest)) {
+      self->timer = services_.loop.after(kReleasePolling, self->step);
+      return;
+    }
+    tap(press);
+    const std::function<void()> finished = done;
+    finished();
+  };
+  wait->timer = loop.after(milliseconds{0}, wait->step);
+  return desktop::Ticket([wait] { wait->timer = {}; });
+}
+
+void XTestKeyEvents::tap(desktop::KeyPress press) {
+  X11Keyboard& keyboard = *services_.keyboard;
+  const WindowTraits traits = services_.windows.traitsOf(services_.windows.activeWindow());
+  const auto entry = DesktopEntries::forWindow(traits);
+  const std::vector<Keysym> chord =
+      chordFor(press, entry ? entry->categories : std::string(), traits.windowClass);
+  std::vector<xcb_keycode_t> keys;
+  keys.reserve(chord.size());
+  for (const Keysym symbol : chord)
+    keys.push_back(keyboard.keyFor(symbol));
+  if (std::ranges::find(keys, 0) != keys.end()) return;
+  keyboard.release(keyboard.heldKeys(keyboard.keyFor(XKB_KEY_h)));
+  services_.windows.releaseKeyboard();
+  keyboard.tap(keys);
+}
+
+}  // namespace quillseal

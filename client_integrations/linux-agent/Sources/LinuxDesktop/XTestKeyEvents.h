@@ -1,0 +1,39 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <string>
+
+#include "Desktop/KeyEvents.h"
+#include "Desktop/MainLoop.h"
+#include "LinuxDesktop/WindowManager.h"
+#include "LinuxDesktop/X11Keyboard.h"
+
+namespace quillseal {
+
+/// Synthesised key presses by the XTEST extension.
+class XTestKeyEvents : public desktop::KeyEvents {
+ public:
+  struct Services {
+    desktop::MainLoop& loop;
+    const WindowManager& windows;
+    X11Keyboard* keyboard;  ///< null where keys cannot be pressed
+    /// When the clipboard was last written by this process.
+    std::function<std::chrono::steady_clock::time_point()> lastWrite;
+    /// Tells the person why keys cannot be pressed in this session.
+    std::function<void()> explain;
+  };
+
+  explicit XTestKeyEvents(Services services);
+
+  [[nodiscard]] bool isTrusted() const override;
+  void askForTrust() override;
+  [[nodiscard]] desktop::Ticket press(desktop::KeyPress press, std::function<void()> done) override;
+
+ private:
+  void tap(desktop::KeyPress press);
+
+  Services services_;
+};
+
+}  // namespace quillseal

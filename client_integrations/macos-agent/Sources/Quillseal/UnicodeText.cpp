@@ -215,6 +215,13 @@ std::string_view firstCharacters(std::string_view text, std::size_t count) {
   return text.substr(0, cursor.position());
 }
 
+bool isCertainBoundary(std::string_view text, std::size_t position) noexcept {
+  if (position == 0 || position == text.size()) return true;
+  std::size_t before = position;
+  const char32_t last = previousScalar(text, before);
+  return areAlwaysApart(last, firstScalar(text.substr(position)));
+}
+
 std::string replacingAll(std::string_view text, std::string_view from, std::string_view to) {
   std::string result;
   result.reserve(text.size());

@@ -53,6 +53,11 @@ void append(std::string& text, char32_t scalar);
 /// The first `count` characters, or all of `text` when it has fewer. The view points into `text`.
 [[nodiscard]] std::string_view firstCharacters(std::string_view text, std::size_t count);
 
+/// Whether a character ends and another one starts at byte `position`, as far as the scalars on its
+/// two sides decide it; false where it takes more of the text (or where there is no boundary).
+/// REQUIRES: `position` is not inside a scalar.
+[[nodiscard]] bool isCertainBoundary(std::string_view text, std::size_t position) noexcept;
+
 /// `text` with every occurrence of `from` (not empty) replaced by `to`, left to right.
 [[nodiscard]] std::string replacingAll(std::string_view text, std::string_view from,
                                        std::string_view to);

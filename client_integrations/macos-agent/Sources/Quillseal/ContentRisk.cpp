@@ -1,0 +1,316 @@
+#include "Quillseal/ContentRisk.h"
+
+#include <algorithm>
+#include <set>
+
+#include "Quillseal/ContentRules.h"
+#include "Quillseal/UnicodeText.h"
+
+namespace quillseal::ContentRisk {
+namespace {
+
+/// A quotation is at least this long, from the opening mark to the closing one.
+constexpr std::size_t shortestQuotation = 25;
+
+constexpr std::size_t reasonLimit = 3;
+
+/// The compiled rules in table order, and the reporting cue as the last pattern.
+struct Compiled {
+  screening::ScreeningEngine engine{patterns()};
+  std::vector<std::string_view> disabled;
+
+  Compiled() {
+    for (const screening::PatternProblem& problem : engine.problems())
+      if (problem.pattern < ContentRules::all.size())
+        disabled.push_back(ContentRules::all[problem.pattern].id);
+  }
+};
+
+const Compiled& compiled() {
+  static const Compiled instance;
+  return instance;
+}
+
+std::string_view screenedPart(std::string_view text) {
+  // No character is shorter than a byte.
+  if (text.size() <= maximumScreenedCharacters) return text;
+  return unicode::firstCharacters(text, maximumScreenedCharacters);
+}
+
+/// Removes the matches that start or end inside a character.
+void keepWholeCharacters(std::string_view text, std::vector<screening::PatternMatch>& matches) {
+  std::set<std::size_t> undecided;
+  for (const screening::PatternMatch& match : matches)
+    for (const std::size_t position : {match.start, match.end})
+      if (!unicode::isCertainBoundary(text, position)) undecided.insert(position);
+  if (undecided.empty()) return;
+
+  std::set<std::size_t> inside = undecided;
+  for (unicode::CharacterCursor cursor(text);
+       !cursor.atEnd() && cursor.position() <= *undecided.rbegin();
+       static_cast<void>(cursor.next()))
+    inside.erase(cursor.position());
+  std::erase_if(matches, [&](const screening::PatternMatch& match) {
+    return inside.contains(match.start) || inside.contains(match.end);
+  });
+}
+
+// ---- Quotations
+
+struct QuotePair {
+  char32_t opening;
+  char32_t closing;
+
+  [[nodiscard]] constexpr bool isSymmetric() const { return opening == closing; }
+};
+
+constexpr std::array<QuotePair, 4> quotePairs{{
+    {U'"', U'"'},
+    {U'\u201C', U'\u201D'},
+    {U'\u2018', U'\u2019'},
+    {U'\'', U'\''},
+}};
+
+/// A quotation mark that is a character by itself.
+struct QuoteMark {
+  char32_t scalar;
+  std::size_t character;
+  std::size_t startByte;
+  std::size_t endByte;
+  bool mayOpen;   ///< of a symmetric pair
+  bool mayClose;  ///< likewise
+};
+
+bool isQuote(char32_t scalar) {
+  return std::any_of(quotePairs.begin(), quotePairs.end(), [&](const QuotePair& pair) {
+    return scalar == pair.opening || scalar == pair.closing;
+  });
+}
+
+bool opensAfter(char32_t scalar) {
+  return unicode::isWhitespaceOrNewline(scalar) || scalar == U'(' || scalar == U'[';
+}
+
+bool closesBefore(char32_t scalar) {
+  return unicode::isWhitespaceOrNewline(scalar) ||
+         std::u32string_view(U".,;:!?)]").find(scalar) != std::u32string_view::npos;
+}
+
+std::vector<QuoteMark> quoteMarksOf(std::string_view text) {
+  std::vector<QuoteMark> marks;
+  std::size_t index = 0;
+  bool opens = true;
+  for (unicode::CharacterCursor cursor(text); !cursor.atEnd(); ++index) {
+    const std::size_t start = cursor.position();
+    const std::string_view character = cursor.next();
+    std::size_t length = 0;
+    const char32_t scalar = unicode::nextScalar(character, length);
+    if (length == character.size() && isQuote(scalar)) {
+      const std::size_t end = cursor.position();
+      const bool closes = cursor.atEnd() || closesBefore(unicode::firstScalar(text.substr(end)));
+      marks.push_back({.scalar = scalar,
+                       .character = index,
+                       .startByte = start,
+                       .endByte = end,
+                       .mayOpen = opens,
+                       .mayClose = closes});
+    }
+    opens = opensAfter(scalar);
+  }
+  return marks;
+}
+
+// ---- Texts
+
+std::string_view shortWhy(std::string_view why) {
+  for (const std::string_view separator : {", ", " — ", " -- "})
+    if (const std::size_t at = why.find(separator); at != std::string_view::npos)
+      return why.substr(0, at);
+  return why;
+}
+
+bool isIllegal(const Finding& finding) {
+  return std::find(illegalCategories.begin(), illegalCategories.end(), finding.category) !=
+         illegalCategories.end();
+}
+
+bool hasCategory(const Assessment& assessment, std::string_view category) {
+  return std::any_of(assessment.findings.begin(), assessment.findings.end(),
+                     [&](const Finding& finding) { return finding.category == category; });
+}
+
+std::vector<std::string_view> distinctCategories(const std::vector<Finding>& findings) {
+  std::vector<std::string_view> categories;
+  for (const Finding& finding : findings)
+    if (std::find(categories.begin(), categories.end(), finding.category) == categories.end())
+      categories.emplace_back(finding.category);
+  return categories;
+}
+
+/// The reasons, an empty line, and what to do.
+std::string reasonsThen(const Assessment& assessment, std::string_view advice) {
+  std::string text;
+  for (const std::string& line : reasons(assessment, reasonLimit))
+    text += line + '\n';
+  return (text += '\n') += advice;
+}
+
+}  // namespace
+
+void prepare() {
+  static_cast<void>(compiled());
+}
+
+Assessment evaluate(std::string_view text) {
+  return screen(text).assessment;
+}
+
+Screening screen(std::string_view text) {
+  Screening result;
+  if (text.empty()) return result;
+  const std::string_view screened = screenedPart(text);
+  std::vector<screening::PatternMatch> matches =
+      compiled().engine.firstMatches(screened, &result.steps);
+
+  std::vector<QuotedSpan> spans;
+  if (!matches.empty() && matches.back().pattern == ContentRules::all.size()) {
+    matches.pop_back();
+    if (!matches.empty()) spans = quotedSpans(screened);
+  }
+  keepWholeCharacters(screened, matches);
+
+  struct Found {
+    Finding finding;
+    Hit hit;
+  };
+  std::vector<Found> found;
+  for (const screening::PatternMatch& match : matches) {
+    const ContentRules::Rule& rule = ContentRules::all[match.pattern];
+    const bool isBlock = rule.severity == "block";
+    const bool isQuoted = std::any_of(spans.begin(), spans.end(), [&](const QuotedSpan& span) {
+      return span.startByte <= match.start && match.end <= span.endByte;
+    });
+    if (isQuoted && !isBlock) continue;
+    found.push_back({.finding = {.id = std::string(rule.id),
+                                 .category = std::string(rule.category),
+                                 .why = std::string(rule.why),
+                                 .points = isQuoted ? softenedPoints : rule.points,
+                                 .isBlocking = isBlock && !isQuoted},
+                     .hit = {.id = rule.id,
+                             .start = match.start,
+                             .end = match.end,
+                             .isEngineFailure = match.failed}});
+  }
+  std::stable_sort(found.begin(), found.end(), [](const Found& a, const Found& b) {
+    return a.finding.points > b.finding.points;
+  });
+
+  Assessment& assessment = result.assessment;
+  for (Found& one : found) {
+    assessment.score += one.finding.points;
+    assessment.isBlocked = assessment.isBlocked || one.finding.isBlocking;
+    assessment.findings.push_back(std::move(one.finding));
+    result.hits.push_back(one.hit);
+  }
+  assessment.isBlocked = assessment.isBlocked || assessment.score >= refusalScore;
+  assessment.shouldWarn = !assessment.isBlocked && assessment.score >= warningScore;
+  return result;
+}
+
+std::vector<screening::Pattern> patterns() {
+  std::vector<screening::Pattern> all;
+  for (const ContentRules::Rule& rule : ContentRules::all)
+    all.push_back({.expression = rule.pattern, .caseInsensitive = rule.caseInsensitive});
+  all.push_back({.expression = reportingCue, .caseInsensitive = true});
+  return all;
+}
+
+std::span<const std::string_view> disabledRules() {
+  return compiled().disabled;
+}
+
+std::vector<QuotedSpan> quotedSpans(std::string_view text) {
+  const std::vector<QuoteMark> marks = quoteMarksOf(text);
+  std::vector<QuotedSpan> spans;
+  for (const QuotePair& pair : quotePairs) {
+    // The next such mark that is accepted; whether any was seen at all.
+    const auto find = [&](std::size_t from, char32_t scalar, bool QuoteMark::*accepted) {
+      bool seen = false;
+      for (; from < marks.size(); ++from) {
+        if (marks[from].scalar != scalar) continue;
+        seen = true;
+        if (!pair.isSymmetric() || marks[from].*accepted) break;
+      }
+      return std::pair(from, seen);
+    };
+    for (std::size_t from = 0;;) {
+      const auto [opening, sawOpening] = find(from, pair.opening, &QuoteMark::mayOpen);
+      if (!sawOpening) break;
+      if (opening == marks.size()) return spans;
+      const auto [closing, sawClosing] = find(opening + 1, pair.closing, &QuoteMark::mayClose);
+      if (!sawClosing) break;
+      if (closing == marks.size()) return spans;
+      if (marks[closing].character - marks[opening].character >= shortestQuotation)
+        spans.push_back({.firstCharacter = marks[opening].character,
+                         .endCharacter = marks[closing].character + 1,
+                         .startByte = marks[opening].startByte,
+                         .endByte = marks[closing].endByte});
+      from = closing + 1;
+    }
+  }
+  return spans;
+}
+
+std::vector<std::string> reasons(const Assessment& assessment, std::size_t limit) {
+  std::vector<std::string> lines;
+  std::set<std::string_view> shown;
+  for (const Finding& finding : assessment.findings) {
+    if (lines.size() == limit) break;
+    if (!shown.insert(finding.category).second) continue;
+    lines.push_back("•  " + finding.category + " — " + std::string(shortWhy(finding.why)));
+  }
+  const std::size_t categories = distinctCategories(assessment.findings).size();
+  if (categories > lines.size())
+    lines.push_back("•  and " + std::to_string(categories - lines.size()) + " more");
+  return lines;
+}
+
+std::string refusalTitle(const Assessment& assessment) {
+  const auto& findings = assessment.findings;
+  if (std::any_of(findings.begin(), findings.end(), isIllegal)) return "Not signed";
+  if (hasCategory(assessment, "Generic approval"))
+    return "Not signed — generic approvals cannot be signed";
+  if (hasCategory(assessment, "Payment instruction"))
+    return "Not signed — payment instructions cannot be signed";
+  return "Not signed — this looks like a scam";
+}
+
+std::string explanation(const Assessment& assessment) {
+  std::vector<Finding> illegal;
+  std::copy_if(assessment.findings.begin(), assessment.findings.end(), std::back_inserter(illegal),
+               isIllegal);
+  if (!illegal.empty()) {
+    std::string list;
+    for (const std::string_view category : distinctCategories(illegal))
+      list += (list.empty() ? "" : ", ") + unicode::lowercased(category);
+    return "Quillseal will not sign this.\n\nIt matches content that is illegal in most countries "
+           "(" +
+           list +
+           ").\n\nIf you believe this is wrong, the rules are open — see content_rules.json.";
+  }
+  if (hasCategory(assessment, "Payment instruction"))
+    return reasonsThen(assessment,
+                       "A signature would make a forged copy far more convincing. Confirm payments "
+                       "in your finance system, not by signed message.");
+  if (hasCategory(assessment, "Generic approval"))
+    return reasonsThen(assessment,
+                       "Add specific details (e.g. document title, invoice number, or amount) to "
+                       "provide context before signing.");
+  return reasonsThen(assessment, "Reword these parts, or don’t sign it.");
+}
+
+std::string warning(const Assessment& assessment) {
+  return reasonsThen(assessment, "Signing says YOU wrote this.");
+}
+
+}  // namespace quillseal::ContentRisk

@@ -1,0 +1,149 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "Quillseal/CharacterClasses.h"
+#include "Quillseal/PatternSyntax.h"
+
+namespace quillseal::screening {
+
+/// What a match can begin with at some place of a pattern.
+struct Beginning {
+  std::vector<std::uint64_t> classes;  ///< of the first code point, 64 to a word
+  bool anything = false;               ///< may match without a code point: no restriction
+  bool atBoundary = false;             ///< only where \b holds
+
+  /// Whether a match may begin at `position`.
+  [[nodiscard]] bool allows(const ClassifiedText& text, std::size_t position) const {
+    if (atBoundary && !text.isWordBoundary(position)) return false;
+    const ClassId id = text.classAt(position);
+    return anything || (classes[id / 64] >> (id % 64) & 1) != 0;
+  }
+};
+
+/// A compiled pattern for `Matcher`. Immutable.
+class PatternProgram {
+ public:
+  PatternProgram(const Node& pattern, const CharacterClasses& classes);
+
+  /// What every match begins with.
+  [[nodiscard]] const Beginning& beginning() const { return beginnings_[entry_]; }
+
+  /// For each of the first code points of every match, the classes it can be of; ends early where
+  /// a match may end or the number of code points is not certain. At most `longest` elements.
+  [[nodiscard]] std::vector<std::vector<std::uint64_t>> leadingClasses(
+      std::size_t longest, const CharacterClasses& classes) const;
+
+  [[nodiscard]] std::size_t memoryUse() const;
+
+ private:
+  friend class Matcher;
+
+  enum class Operation : std::uint8_t {
+    Accept,
+    Set,
+    FoldedText,  ///< `length` letters from `first`
+    Choice,      ///< `length` targets from `first`, in order
+    GreedyLoop,  ///< `min` to `max` code points of `set`
+    LazyLoop,
+    Jump,
+    WordBoundary,
+    NoWordBoundary,
+    TextStart,
+    TextEnd,
+    AbsoluteEnd,
+    LookAhead,          ///< the next instruction to an Accept; then on at `first`
+    NegativeLookAhead,  ///< likewise
+    PrecededBy,
+    NotPrecededBy,
+  };
+
+  /// Continues with the next one unless it says otherwise.
+  struct Instruction {
+    Operation operation;
+    std::uint32_t set = 0;
+    std::uint32_t first = 0;
+    std::uint32_t length = 0;
+    std::uint32_t min = 0;
+    std::uint32_t max = 0;
+    std::uint32_t memo = 0;       ///< row in the memory of failures
+    std::uint32_t beginning = 0;  ///< of what follows a loop
+  };
+
+  struct Target {
+    std::uint32_t instruction;
+    std::uint32_t beginning;
+  };
+
+  class Compiler;
+
+  [[nodiscard]] bool contains(std::uint32_t set, ClassId id) const {
+    return (sets_[set * setWords_ + id / 64] >> (id % 64) & 1) != 0;
+  }
+
+  std::vector<Instruction> code_;
+  std::vector<Letter> letters_;
+  std::vector<Target> targets_;
+  std::vector<Beginning> beginnings_;
+  std::vector<std::uint64_t> sets_;
+  std::size_t setWords_ = 0;
+  std::uint32_t entry_ = 0;  ///< the beginning of the whole
+  std::uint32_t memoRows_ = 0;
+};
+
+/// Frames of abandoned alternatives, shared by the matchers of one screening.
+struct BacktrackFrame {
+  std::uint32_t instruction;
+  std::uint32_t position;
+  std::uint32_t rest;
+};
+using BacktrackStack = std::vector<BacktrackFrame>;
+
+/// Runs one program over one text. Tries alternatives in order and goes back on failure, as ICU
+/// does; once it has taken more steps than a text of this size should need, it remembers which
+/// (instruction, position) cannot lead to a match, so that no text takes more than linear time.
+class Matcher {
+ public:
+  /// All three must outlive the matcher.
+  Matcher(const PatternProgram& program, const CharacterClasses& classes,
+          const ClassifiedText& text)
+      : program_(&program), classes_(&classes), text_(&text) {}
+
+  /// Where the preferred match that starts at `start` ends, if there is one. Cheapest when called
+  /// with mostly ascending starts.
+  [[nodiscard]] std::optional<std::size_t> matchAt(std::size_t start, BacktrackStack& stack);
+
+  /// Steps taken so far.
+  [[nodiscard]] std::uint64_t steps() const { return steps_; }
+
+ private:
+  enum class Purpose : std::uint8_t { Match, LookAhead };
+  enum class Known : std::uint8_t { Nothing, Fails, Succeeds };
+  using Page = std::unique_ptr<std::uint64_t[]>;
+
+  std::optional<std::size_t> run(std::uint32_t instruction, std::size_t position, Purpose purpose,
+                                 BacktrackStack& stack);
+  [[nodiscard]] bool looksAhead(std::uint32_t instruction, std::size_t position,
+                                BacktrackStack& stack);
+  [[nodiscard]] std::optional<std::size_t> foldedTextEnd(
+      const PatternProgram::Instruction& instruction, std::size_t position) const;
+  [[nodiscard]] bool atTextEnd(std::size_t position) const;
+  [[nodiscard]] Known known(std::uint32_t row, std::size_t position) const;
+  void remember(std::uint32_t row, std::size_t position, Known what);
+  void forgetBefore(std::size_t position);
+
+  const PatternProgram* program_;
+  const CharacterClasses* classes_;
+  const ClassifiedText* text_;
+  std::uint64_t steps_ = 0;
+  bool remembering_ = false;
+  std::size_t firstPage_ = 0;
+  std::vector<Page> pages_;
+};
+
+}  // namespace quillseal::screening

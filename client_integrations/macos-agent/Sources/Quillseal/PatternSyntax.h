@@ -1,0 +1,78 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+/// The screening engine: regular expressions in ICU's syntax, many at once over one text, with
+/// exactly the matches of ICU's own engine and in linear time. docs/screening.md has the reasoning.
+namespace quillseal::screening {
+
+/// Code points as ascending, disjoint, non-adjacent inclusive ranges.
+using CodePointRanges = std::vector<std::pair<char32_t, char32_t>>;
+
+/// Where a pattern cannot be used: malformed, or a construct that the engine does not offer.
+class PatternError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// The distinct sets of code points of many patterns; a set is named by its index.
+class SetTable {
+ public:
+  std::size_t intern(CodePointRanges ranges);
+  [[nodiscard]] const CodePointRanges& operator[](std::size_t index) const { return sets_[index]; }
+  [[nodiscard]] std::size_t size() const { return sets_.size(); }
+
+ private:
+  std::vector<CodePointRanges> sets_;
+};
+
+/// No upper limit of a repetition.
+inline constexpr std::uint32_t unbounded = std::numeric_limits<std::uint32_t>::max();
+
+/// One node of a parsed pattern.
+struct Node {
+  enum class Kind : std::uint8_t {
+    Set,             ///< one code point of `set`
+    FoldedText,      ///< code points whose full case folding is `text`, ending with a code point
+    Sequence,        ///< `children` one after the other; none: the empty match
+    Alternatives,    ///< the first of `children` that leads to a match
+    Repetition,      ///< `children[0]`, `min` to `max` times, as often as possible unless `lazy`
+    WordBoundary,    ///< \b, or \B when `negative`
+    TextStart,       ///< ^ and \A
+    TextEnd,         ///< $: at the end, or before a line terminator at the end
+    AbsoluteEnd,     ///< \z
+    LookAhead,       ///< `children[0]` matches from here, or does not when `negative`
+    PrecedingInSet,  ///< the code point before is one of `set`, or there is none when `negative`
+  };
+
+  Kind kind = Kind::Sequence;
+  bool negative = false;
+  bool lazy = false;
+  std::size_t set = 0;
+  std::uint32_t min = 0;
+  std::uint32_t max = 0;
+  std::u32string text{};
+  std::vector<Node> children{};
+};
+
+/// Parses `pattern`, written in ICU's syntax, with the meaning ICU gives it without options or,
+/// when `caseInsensitive`, with UREGEX_CASE_INSENSITIVE. Captures group only. Throws PatternError.
+[[nodiscard]] Node parsePattern(std::string_view pattern, bool caseInsensitive, SetTable& sets);
+
+/// The code points of a set of ICU's own notation, such as `[\p{Nd}]`.
+[[nodiscard]] CodePointRanges codePointsOf(std::string_view unicodeSet);
+
+/// The code points of ICU's \w, \s and \d (uregex documentation, "Regular Expression
+/// Metacharacters").
+inline constexpr std::string_view wordSet = "[\\p{Alphabetic}\\p{M}\\p{Nd}\\p{Pc}\\u200c\\u200d]";
+inline constexpr std::string_view spaceSet = "[\\p{WhiteSpace}]";
+inline constexpr std::string_view digitSet = "[\\p{Nd}]";
+
+}  // namespace quillseal::screening

@@ -1,0 +1,549 @@
+#include "Quillseal/ScreeningEngine.h"
+
+#include <algorithm>
+#include <bit>
+#include <limits>
+#include <new>
+#include <optional>
+
+#include "Quillseal/CharacterClasses.h"
+#include "Quillseal/LiteralIndex.h"
+#include "Quillseal/PatternProgram.h"
+#include "Quillseal/PatternSyntax.h"
+#include "Quillseal/RequiredLiterals.h"
+#include "Quillseal/UnicodeText.h"
+
+namespace quillseal::screening {
+namespace {
+
+constexpr std::uint32_t none = std::numeric_limits<std::uint32_t>::max();
+
+/// How many of a match's first code points the leading-class search looks at.
+constexpr std::size_t longestLeading = 8;
+
+/// A pattern, or a part of one that is searched for by itself.
+struct Search {
+  PatternProgram program;
+  bool atTextStart = false;  ///< a match may start at 0 without any literal
+  bool anyMatch = false;     ///< whether there is a match is all that matters
+};
+
+/// One link of one chain, as the literal index reports it.
+struct LinkHit {
+  std::uint32_t chain = 0;
+  std::uint16_t link = 0;
+  std::uint16_t length = 0;  ///< letters of the literal
+  bool boundaryBefore = false;
+  bool boundaryAfter = false;
+};
+
+struct Chain {
+  std::uint32_t search = 0;
+  std::uint32_t lead = 0;
+  std::uint32_t firstReach = 0;  ///< index of its first link among all links
+  std::uint32_t links = 0;
+  std::uint32_t span = 0;  ///< steps at most, from the end of the first link to that of the last
+  std::vector<std::uint64_t> leadClasses;
+};
+
+/// How the matches of a pattern follow from its searches.
+struct Form {
+  std::vector<std::size_t> required{};   ///< searches that must all have a match
+  std::vector<std::size_t> forbidden{};  ///< searches that must have none
+  std::optional<std::size_t> main{};     ///< whose first match is the pattern's
+  bool fromTextStart = false;            ///< the match starts at 0 wherever the main one starts
+  bool usable = true;
+};
+
+bool isEverything(const Node& node, const SetTable& sets) {
+  return node.kind == Node::Kind::Set && sets[node.set] == CodePointRanges{{0, 0x10FFFF}};
+}
+
+bool isAnyText(const Node& node, const SetTable& sets) {
+  return node.kind == Node::Kind::Repetition && node.min == 0 && node.max == unbounded &&
+         isEverything(node.children.front(), sets);
+}
+
+/// `node` without its first `count` children.
+Node withoutFirst(const Node& node, std::size_t count) {
+  Node rest{.kind = Node::Kind::Sequence};
+  rest.children.assign(node.children.begin() + static_cast<std::ptrdiff_t>(count),
+                       node.children.end());
+  return rest;
+}
+
+}  // namespace
+
+// ---------------------------------------------------------------------------------------------
+// Tables
+
+class ScreeningEngine::Tables {
+ public:
+  explicit Tables(std::span<const Pattern> patterns) {
+    SetTable sets;
+    struct Part {
+      Node node;
+      bool anyMatch;
+    };
+    std::vector<Part> parts;
+    for (std::size_t i = 0; i < patterns.size(); ++i) {
+      forms.emplace_back();
+      try {
+        Node node = parsePattern(patterns[i].expression, patterns[i].caseInsensitive, sets);
+        const auto addPart = [&](Node part, bool anyMatch) {
+          parts.push_back({std::move(part), anyMatch});
+          return parts.size() - 1;
+        };
+        if (!takeLookAheads(node, sets, forms.back(), addPart))
+          forms.back().main = addPart(std::move(node), false);
+      } catch (const PatternError& error) {
+        forms.back() = {.usable = false};
+        problems.push_back({.pattern = i, .reason = error.what()});
+      }
+    }
+    std::vector<char32_t> alphabet;
+    for (const Part& part : parts)
+      collectAlphabet(part.node, sets, alphabet);
+    classes.emplace(sets, std::move(alphabet));
+    for (const Part& part : parts)
+      addSearch(part.node, part.anyMatch, sets);
+    index.finish(*classes);
+    leadingInitial.resize(leadingWords);
+    for (auto& masks : leadingMasks)
+      masks.resize(leadingWords);
+  }
+
+  std::optional<CharacterClasses> classes;
+  LiteralIndex index;
+  std::vector<LinkHit> hits;  ///< the values of `index`
+  std::vector<Chain> chains;
+  std::vector<std::uint32_t> reachDistances;  ///< of all links
+  std::vector<Search> searches;
+  std::vector<Form> forms;
+  std::vector<PatternProblem> problems;
+
+  // Searches without a required literal: a bit for each of their leading classes, all advanced at
+  // once by a shift (Baeza-Yates and Gonnet, "A new approach to text searching", 1992).
+  struct LeadingEnd {
+    std::uint32_t search;
+    std::uint32_t length;
+  };
+  std::size_t leadingWords = 0;
+  std::vector<std::uint64_t> leadingInitial;
+  std::vector<std::vector<std::uint64_t>> leadingMasks;  ///< by class
+  std::vector<std::uint64_t> leadingFinal;
+  std::vector<LeadingEnd> leadingEnds;    ///< by bit
+  std::vector<std::uint32_t> maybeEmpty;  ///< searches that may match without a code point
+
+ private:
+  // A look-ahead over [\s\S]* says that its body is found somewhere from here on. At the start of
+  // the text that is anywhere; and where it fails at the start it fails behind it.
+  template <typename AddPart>
+  static bool takeLookAheads(const Node& node, const SetTable& sets, Form& form, AddPart addPart) {
+    if (node.kind == Node::Kind::LookAhead) {
+      Node sequence{.kind = Node::Kind::Sequence};
+      sequence.children.push_back(node);
+      return takeLookAheads(sequence, sets, form, addPart);
+    }
+    if (node.kind != Node::Kind::Sequence || node.children.empty()) return false;
+    const auto& children = node.children;
+    const bool anchored = children.front().kind == Node::Kind::TextStart;
+    std::size_t next = anchored ? 1 : 0;
+    std::vector<const Node*> looks;
+    bool anyNegative = false;
+    for (; next < children.size() && children[next].kind == Node::Kind::LookAhead; ++next) {
+      const Node& body = children[next].children.front();
+      if (body.kind != Node::Kind::Sequence || body.children.size() < 2 ||
+          !isAnyText(body.children.front(), sets))
+        return false;
+      looks.push_back(&children[next]);
+      anyNegative = anyNegative || children[next].negative;
+    }
+    if (looks.empty()) return false;
+    const bool endsHere = next == children.size();
+    const bool searchesOn = !endsHere && anchored && isAnyText(children[next], sets) &&
+                            children[next].lazy && next + 1 < children.size();
+    if (!(endsHere && (anchored || !anyNegative)) && !searchesOn) return false;
+    for (const Node* look : looks)
+      (look->negative ? form.forbidden : form.required)
+          .push_back(addPart(withoutFirst(look->children.front(), 1), true));
+    if (searchesOn) form.main = addPart(withoutFirst(node, next + 1), false);
+    form.fromTextStart = true;
+    return true;
+  }
+
+  void addSearch(const Node& node, bool anyMatch, const SetTable& sets) {
+    const auto search = static_cast<std::uint32_t>(searches.size());
+    searches.push_back({.program = PatternProgram(node, *classes), .anyMatch = anyMatch});
+    const RequiredLiterals required = requiredLiterals(node, sets, *classes);
+    if (!required.suffice) {
+      addLeading(search);
+      return;
+    }
+    searches.back().atTextStart = required.atTextStart;
+    for (const LiteralChain& chain : required.chains)
+      addChain(search, chain);
+  }
+
+  void addChain(std::uint32_t search, const LiteralChain& chain) {
+    const auto number = static_cast<std::uint32_t>(chains.size());
+    Chain added{.search = search,
+                .lead = chain.lead,
+                .firstReach = static_cast<std::uint32_t>(reachDistances.size()),
+                .links = static_cast<std::uint32_t>(chain.links.size()),
+                .leadClasses = chain.leadClasses};
+    for (std::uint32_t i = 0; i < added.links; ++i) {
+      const LiteralLink& link = chain.links[i];
+      reachDistances.push_back(link.distance);
+      if (i > 0) added.span += link.distance;
+      for (const auto& literal : link.literals) {
+        index.add(literal, static_cast<std::uint32_t>(hits.size()));
+        hits.push_back({.chain = number,
+                        .link = static_cast<std::uint16_t>(i),
+                        .length = static_cast<std::uint16_t>(literal.size()),
+                        .boundaryBefore = link.boundaryBefore,
+                        .boundaryAfter = link.boundaryAfter});
+      }
+    }
+    chains.push_back(std::move(added));
+  }
+
+  void addLeading(std::uint32_t search) {
+    const PatternProgram& program = searches[search].program;
+    auto leading = program.leadingClasses(longestLeading, *classes);
+    if (leading.empty()) {
+      leading.push_back(program.beginning().classes);
+      if (program.beginning().anything) {
+        std::fill(leading.front().begin(), leading.front().end(), ~std::uint64_t{0});
+        maybeEmpty.push_back(search);
+      }
+    }
+    std::size_t bit = leadingEnds.size();
+    if (bit % 64 + leading.size() > 64) bit += 64 - bit % 64;
+    leadingEnds.resize(bit + leading.size());
+    leadingWords = (leadingEnds.size() + 63) / 64;
+    leadingInitial.resize(leadingWords);
+    leadingFinal.resize(leadingWords);
+    leadingMasks.resize(classes->count());
+    leadingInitial[bit / 64] |= std::uint64_t{1} << (bit % 64);
+    for (std::size_t i = 0; i < leading.size(); ++i, ++bit) {
+      for (std::size_t id = 0; id < classes->count(); ++id) {
+        if ((leading[i][id / 64] >> (id % 64) & 1) == 0) continue;
+        leadingMasks[id].resize(leadingWords);
+        leadingMasks[id][bit / 64] |= std::uint64_t{1} << (bit % 64);
+      }
+    }
+    --bit;
+    leadingFinal[bit / 64] |= std::uint64_t{1} << (bit % 64);
+    leadingEnds[bit] = {.search = search, .length = static_cast<std::uint32_t>(leading.size())};
+  }
+};
+
+// ---------------------------------------------------------------------------------------------
+// One screening
+
+class ScreeningEngine::Screening {
+ public:
+  Screening(const Tables& tables, std::string_view text)
+      : tables_(tables), text_(tables.classes->classify(text)) {
+    outcomes_.reserve(tables.searches.size());
+    for (const Search& search : tables.searches)
+      outcomes_.emplace_back(Matcher(search.program, *tables.classes, text_));
+    progress_.resize(tables.chains.size());
+    reached_.assign(tables.reachDistances.size(), never);
+  }
+
+  void run() {
+    for (std::uint32_t search = 0; search < tables_.searches.size(); ++search)
+      if (tables_.searches[search].atTextStart) tryAt(search, 0);
+    if (tables_.leadingWords > 0) {
+      pass<true>();
+    } else {
+      pass<false>();
+    }
+    // An empty match behind the last code point has no code point to be found by.
+    for (const std::uint32_t search : tables_.maybeEmpty)
+      tryAt(search, static_cast<std::uint32_t>(text_.size()));
+  }
+
+  [[nodiscard]] std::vector<PatternMatch> matches() const {
+    std::vector<PatternMatch> matches;
+    for (std::size_t pattern = 0; pattern < tables_.forms.size(); ++pattern) {
+      const Form& form = tables_.forms[pattern];
+      if (!form.usable) continue;
+      const auto isFound = [&](std::size_t search) { return outcomes_[search].start != none; };
+      if (!std::all_of(form.required.begin(), form.required.end(), isFound)) continue;
+      PatternMatch match{.pattern = pattern};
+      const auto failed = [&](std::size_t search) { return outcomes_[search].failed; };
+      const auto forbids = [&](std::size_t search) { return isFound(search) && !failed(search); };
+      if (std::any_of(form.forbidden.begin(), form.forbidden.end(), forbids)) continue;
+      match.failed = std::any_of(form.required.begin(), form.required.end(), failed) ||
+                     std::any_of(form.forbidden.begin(), form.forbidden.end(), failed);
+      if (form.main) {
+        const Outcome& outcome = outcomes_[*form.main];
+        if (outcome.start == none) continue;
+        match.start = form.fromTextStart ? 0 : outcome.start;
+        match.end = outcome.end;
+        match.failed = match.failed || outcome.failed;
+      }
+      matches.push_back(match);
+    }
+    return matches;
+  }
+
+  [[nodiscard]] std::uint64_t steps() const {
+    std::uint64_t steps = steps_ + text_.size();
+    for (const Outcome& outcome : outcomes_)
+      steps += outcome.matcher.steps();
+    return steps;
+  }
+
+  [[nodiscard]] std::size_t size() const { return text_.size(); }
+
+ private:
+  static constexpr std::int64_t never = std::numeric_limits<std::int64_t>::min() / 2;
+
+  struct Outcome {
+    explicit Outcome(Matcher theMatcher) : matcher(std::move(theMatcher)) {}
+    Matcher matcher;
+    std::uint32_t start = none;  ///< of the leftmost match so far
+    std::uint32_t end = 0;
+    bool failed = false;
+  };
+
+  /// A first link that waits for the rest of its chain.
+  struct Waiting {
+    std::uint32_t start = 0;
+    std::uint32_t step = 0;
+    std::uint32_t next = none;
+  };
+
+  struct Progress {
+    std::uint32_t first = none;  ///< of the waiting list
+    std::uint32_t last = none;
+    // Starts within [triedLow, triedHigh] have been tried.
+    std::uint32_t triedLow = none;
+    std::uint32_t triedHigh = 0;
+  };
+
+  template <bool withLeading>
+  void pass() {
+    const LiteralIndex& index = tables_.index;
+    std::vector<std::uint64_t> leading(tables_.leadingWords);
+    LiteralIndex::State state = LiteralIndex::root;
+    bool afterSpace = false;
+    const std::size_t size = text_.size();
+    for (std::size_t i = 0; i < size; ++i) {
+      const ClassId id = text_.classAt(i);
+      const bool isSpace = tables_.classes->isSpace(id);
+      step_ += isSpace && afterSpace ? 0U : 1U;
+      afterSpace = isSpace;
+      if constexpr (withLeading) advanceLeading(leading, id, i);
+      state = index.advance(state, id);
+      if (index.isHit(state)) {
+        for (const std::uint32_t value : index.values(state))
+          onHit(tables_.hits[value], i + 1);
+      }
+    }
+  }
+
+  void advanceLeading(std::vector<std::uint64_t>& state, ClassId id, std::size_t position) {
+    const std::vector<std::uint64_t>& masks = tables_.leadingMasks[id];
+    for (std::size_t word = 0; word < state.size(); ++word) {
+      state[word] = (state[word] << 1 | tables_.leadingInitial[word]) & masks[word];
+      for (std::uint64_t ends = state[word] & tables_.leadingFinal[word]; ends != 0;
+           ends &= ends - 1) {
+        const auto bit = word * 64 + static_cast<std::size_t>(std::countr_zero(ends));
+        const auto& end = tables_.leadingEnds[bit];
+        tryAt(end.search, static_cast<std::uint32_t>(position + 1 - end.length));
+      }
+    }
+  }
+
+  void onHit(const LinkHit& hit, std::size_t end) {
+    ++steps_;
+    if (hit.boundaryAfter && !text_.isWordBoundary(end)) return;
+    const Chain& chain = tables_.chains[hit.chain];
+    std::int64_t* reached = &reached_[chain.firstReach + hit.link];
+    if (hit.link > 0 && step_ - reached[-1] > tables_.reachDistances[chain.firstReach + hit.link])
+      return;
+    std::uint32_t start = 0;
+    if (hit.boundaryBefore || hit.link == 0) {
+      start = startOf(hit.length, end);
+      if (hit.boundaryBefore && !text_.isWordBoundary(start)) return;
+      if (hit.link == 0 && chain.lead == 0 && start >= outcomes_[chain.search].start) return;
+    }
+    *reached = step_;
+    if (hit.link == 0) {
+      if (chain.links == 1) {
+        tryBefore(hit.chain, start);
+      } else {
+        wait(hit.chain, start);
+      }
+    } else if (hit.link + 1U == chain.links) {
+      complete(hit.chain);
+    }
+  }
+
+  /// Where the literal of `letters` letters that ends at `end` starts.
+  [[nodiscard]] std::uint32_t startOf(std::size_t letters, std::size_t end) const {
+    std::size_t start = end;
+    for (std::size_t taken = 0; taken < letters && start > 0;)
+      taken += tables_.classes->folding(text_.classAt(--start)).size();
+    return static_cast<std::uint32_t>(start);
+  }
+
+  void wait(std::uint32_t chainNumber, std::uint32_t start) {
+    Progress& progress = progress_[chainNumber];
+    // Those that are too far behind for the rest of the chain.
+    while (progress.first != none &&
+           step_ - waiting_[progress.first].step > tables_.chains[chainNumber].span)
+      release(progress);
+    std::uint32_t slot = freeSlot_;
+    if (slot == none) {
+      slot = static_cast<std::uint32_t>(waiting_.size());
+      waiting_.emplace_back();
+    } else {
+      freeSlot_ = waiting_[slot].next;
+    }
+    waiting_[slot] = {.start = start, .step = static_cast<std::uint32_t>(step_)};
+    (progress.first == none ? progress.first : waiting_[progress.last].next) = slot;
+    progress.last = slot;
+  }
+
+  void release(Progress& progress) {
+    const std::uint32_t slot = progress.first;
+    progress.first = waiting_[slot].next;
+    waiting_[slot].next = freeSlot_;
+    freeSlot_ = slot;
+    ++steps_;
+  }
+
+  void complete(std::uint32_t chainNumber) {
+    Progress& progress = progress_[chainNumber];
+    while (progress.first != none) {
+      const Waiting waiting = waiting_[progress.first];
+      release(progress);
+      if (step_ - waiting.step <= tables_.chains[chainNumber].span)
+        tryBefore(chainNumber, waiting.start);
+    }
+  }
+
+  /// Tries all starts from which the first link at `literalStart` may be reached.
+  void tryBefore(std::uint32_t chainNumber, std::uint32_t literalStart) {
+    const Chain& chain = tables_.chains[chainNumber];
+    if (chain.lead == 0) {
+      tryAt(chain.search, literalStart);
+      return;
+    }
+    Progress& progress = progress_[chainNumber];
+    // An earlier walk has been further down, unless it set out from further up and ran out of
+    // steps; then this one goes all the way.
+    const bool mayStop = progress.triedLow != none &&
+                         (literalStart >= progress.triedHigh || chain.lead == unbounded);
+    const auto isLead = [&](std::uint32_t at) {
+      const ClassId id = text_.classAt(at);
+      return (chain.leadClasses[id / 64] >> (id % 64) & 1) != 0;
+    };
+    const auto isSpace = [&](std::uint32_t at) {
+      return tables_.classes->isSpace(text_.classAt(at));
+    };
+    std::uint32_t low = literalStart;
+    bool metEarlierWalk = false;
+    for (std::uint32_t walked = 0; low > 0 && isLead(low - 1) && !metEarlierWalk; ++steps_) {
+      const bool continuesRun = low < literalStart && isSpace(low) && isSpace(low - 1);
+      if (!continuesRun && walked++ == chain.lead) break;
+      --low;
+      metEarlierWalk = mayStop && low >= progress.triedLow && low <= progress.triedHigh;
+    }
+    for (std::uint32_t at = low; at <= literalStart; ++at)
+      tryAt(chain.search, at);
+    progress.triedLow = metEarlierWalk ? progress.triedLow : low;
+    progress.triedHigh = literalStart;
+  }
+
+  void tryAt(std::uint32_t search, std::uint32_t start) {
+    Outcome& outcome = outcomes_[search];
+    ++steps_;
+    if (start >= outcome.start) return;
+    if (!tables_.searches[search].program.beginning().allows(text_, start)) return;
+    try {
+      const auto end = outcome.matcher.matchAt(start, stack_);
+      if (!end) return;
+      outcome.start = start;
+      outcome.end = static_cast<std::uint32_t>(*end);
+    } catch (const std::bad_alloc&) {
+      stack_.clear();
+      outcome.start = start;
+      outcome.end = static_cast<std::uint32_t>(text_.size());
+      outcome.failed = true;
+    }
+    // Nothing lies before 0, so nothing more is tried.
+    if (tables_.searches[search].anyMatch) outcome.start = 0;
+  }
+
+  const Tables& tables_;
+  ClassifiedText text_;
+  std::vector<Outcome> outcomes_;
+  std::vector<Progress> progress_;
+  std::vector<std::int64_t> reached_;
+  std::vector<Waiting> waiting_;
+  std::uint32_t freeSlot_ = none;
+  BacktrackStack stack_;
+  std::int64_t step_ = 0;
+  std::uint64_t steps_ = 0;
+};
+
+// ---------------------------------------------------------------------------------------------
+
+ScreeningEngine::ScreeningEngine(std::span<const Pattern> patterns)
+    : tables_(std::make_unique<const Tables>(patterns)) {}
+
+ScreeningEngine::~ScreeningEngine() = default;
+
+const std::vector<PatternProblem>& ScreeningEngine::problems() const {
+  return tables_->problems;
+}
+
+std::vector<PatternMatch> ScreeningEngine::firstMatches(std::string_view text,
+                                                        std::uint64_t* steps) const {
+  Screening screening(*tables_, text);
+  screening.run();
+  if (steps != nullptr) *steps = screening.steps();
+  std::vector<PatternMatch> matches = screening.matches();
+  if (screening.size() == text.size()) return matches;
+
+  // From code points to bytes, in one pass.
+  std::vector<std::size_t*> positions;
+  for (PatternMatch& match : matches) {
+    positions.push_back(&match.start);
+    positions.push_back(&match.end);
+  }
+  std::sort(positions.begin(), positions.end(),
+            [](const std::size_t* a, const std::size_t* b) { return *a < *b; });
+  std::size_t codePoint = 0;
+  std::size_t byte = 0;
+  for (std::size_t* position : positions) {
+    for (; codePoint < *position; ++codePoint)
+      static_cast<void>(unicode::nextScalar(text, byte));
+    *position = byte;
+  }
+  return matches;
+}
+
+std::size_t ScreeningEngine::memoryUse() const {
+  const Tables& tables = *tables_;
+  std::size_t bytes = sizeof(tables) + tables.classes->memoryUse() + tables.index.memoryUse() +
+                      tables.hits.capacity() * sizeof(LinkHit) +
+                      tables.reachDistances.capacity() * sizeof(std::uint32_t) +
+                      tables.leadingMasks.capacity() *
+                          (sizeof(std::vector<std::uint64_t>) + tables.leadingWords * 8) +
+                      tables.forms.capacity() * sizeof(Form);
+  for (const Search& search : tables.searches)
+    bytes += search.program.memoryUse();
+  for (const Chain& chain : tables.chains)
+    bytes += sizeof(chain) + chain.leadClasses.capacity() * sizeof(std::uint64_t);
+  return bytes;
+}
+
+}  // namespace quillseal::screening

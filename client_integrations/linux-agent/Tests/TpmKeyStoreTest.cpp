@@ -54,7 +54,7 @@ class TpmKeyStoreTest : public ::testing::Test {
 };
 
 TEST_F(TpmKeyStoreTest, SignsSoThatThePublicKeyVerifies) {
-  EXPECT_EQ(store.obstacle(), std::nullopt);
+  EXPECT_EQ(store.obstacle(), "");
   store.create(pin());
   ASSERT_TRUE(store.holdsKey());
   store.requireUsableKey();
@@ -72,7 +72,7 @@ TEST_F(TpmKeyStoreTest, SurvivesARestartOfTheTpm) {
   store.create(pin());
   const p256::Point publicKey = store.publicKey();
   tpm.reset();
-  EXPECT_THAT(store.obstacle().value_or(""), HasSubstr("cannot be reached"));
+  EXPECT_THAT(store.obstacle(), HasSubstr("cannot be reached"));
   EXPECT_TRUE(store.holdsKey());
   tpm.emplace(state.path());
   const auto signature = store.sign(digest, pin());
@@ -127,7 +127,8 @@ TEST_F(TpmKeyStoreTest, OnlyASimulatorIsCalledOne) {
   EXPECT_THAT(store.describe(), HasSubstr("simulator"));
   const TpmKeyStore real({.path = path, .device = "device:/nonexistent/tpmrm0"});
   EXPECT_EQ(real.describe().find("simulator"), std::string::npos);
-  EXPECT_THAT(real.obstacle().value_or(""), HasSubstr("/nonexistent/tpmrm0 does not exist"));
+  EXPECT_THAT(real.obstacle(), HasSubstr("/nonexistent/tpmrm0 does not exist"));
+  EXPECT_EQ(real.evidentObstacle(), real.obstacle());
 }
 
 }  // namespace

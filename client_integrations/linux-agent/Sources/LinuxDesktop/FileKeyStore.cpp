@@ -112,8 +112,17 @@ std::string FileKeyStore::describe() const {
          "file and learns the passphrase can sign in your name.";
 }
 
-std::optional<std::string> FileKeyStore::obstacle() const {
-  return std::nullopt;
+std::string FileKeyStore::obstacle() const {
+  try {
+    file_.requireWritable();
+  } catch (const KeyFailure& failure) {
+    return failure.what();
+  }
+  return {};
+}
+
+std::string FileKeyStore::evidentObstacle() const {
+  return obstacle();
 }
 
 bool FileKeyStore::holdsKey() const noexcept {

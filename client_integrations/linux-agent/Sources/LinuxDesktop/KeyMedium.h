@@ -30,9 +30,12 @@ class KeyMedium {
   /// What the place is and which protection it gives, as sentences for the user.
   [[nodiscard]] virtual std::string describe() const = 0;
 
-  /// Why no key can be made or used here now, and what would help, as sentences for the user;
-  /// nothing when the place is usable.
-  [[nodiscard]] virtual std::optional<std::string> obstacle() const = 0;
+  /// Why no key can be made or used here now, and what would help, as sentences for the user; empty
+  /// when the place is usable.
+  [[nodiscard]] virtual std::string obstacle() const = 0;
+
+  /// As much of `obstacle` as can be found out at once, without waiting for a device.
+  [[nodiscard]] virtual std::string evidentObstacle() const = 0;
 
   /// Whether a key is kept here, usable or not.
   [[nodiscard]] virtual bool holdsKey() const noexcept = 0;

@@ -53,7 +53,14 @@ void createFolders(const std::filesystem::path& folder) {
   fail("create the folder", folder, errno);
 }
 
-constexpr int folderFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+// Negative, with errno set, when it does not exist or cannot be opened.
+int openFolder(const std::filesystem::path& folder) {
+  const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+  if (descriptor < 0 && (errno == ENOTDIR || errno == ELOOP))
+    throw KeyFailure(quoted(folder) +
+                     " is no folder or only a link. Move it away, then enrol again in Settings.");
+  return descriptor;
+}
 
 // The folder is opened once and everything inside is named relative to it, so that nobody can swap
 // it between a check and a use.
@@ -115,12 +122,9 @@ bool PrivateFile::exists() const noexcept {
 
 std::optional<std::string> PrivateFile::read() const {
   const std::filesystem::path folderPath = path_.parent_path();
-  const Descriptor folder(::open(folderPath.c_str(), folderFlags));
+  const Descriptor folder(openFolder(folderPath));
   if (!folder.valid()) {
     if (errno == ENOENT) return std::nullopt;
-    if (errno == ENOTDIR || errno == ELOOP)
-      throw KeyFailure(quoted(folderPath) +
-                       " is no folder or only a link. Move it away, then enrol again in Settings.");
     fail("open the folder", folderPath, errno);
   }
   checkFolder(folder, folderPath);
@@ -153,16 +157,20 @@ std::optional<std::string> PrivateFile::read() const {
   return readAll(file, path_);
 }
 
+void PrivateFile::requireWritable() const {
+  const std::filesystem::path folderPath = path_.parent_path();
+  createFolders(folderPath);
+  const Descriptor folder(openFolder(folderPath));
+  if (!folder.valid()) fail("open the folder", folderPath, errno);
+  checkFolder(folder, folderPath);
+  if (::faccessat(folder.get(), ".", W_OK | X_OK, 0) != 0) fail("write in", folderPath, errno);
+}
+
 void PrivateFile::replace(std::string_view contents) const {
   const std::filesystem::path folderPath = path_.parent_path();
   createFolders(folderPath);
-  const Descriptor folder(::open(folderPath.c_str(), folderFlags));
-  if (!folder.valid()) {
-    if (errno == ENOTDIR || errno == ELOOP)
-      throw KeyFailure(quoted(folderPath) +
-                       " is no folder or only a link. Move it away, then enrol again in Settings.");
-    fail("open the folder", folderPath, errno);
-  }
+  const Descriptor folder(openFolder(folderPath));
+  if (!folder.valid()) fail("open the folder", folderPath, errno);
   checkFolder(folder, folderPath);
 
   const std::string name = path_.filename().string();

@@ -28,6 +28,9 @@ class PrivateFile {
   /// cannot be trusted or read, or has more than 64 KiB.
   [[nodiscard]] std::optional<std::string> read() const;
 
+  /// Throws KeyFailure when `replace` could not work; creates the folders it needs.
+  void requireWritable() const;
+
   /// Puts `contents` in the place of whatever is there, creating folders as needed. On return they
   /// are on the disk; after a failure or a crash the earlier contents are still there, whole.
   /// Throws KeyFailure.

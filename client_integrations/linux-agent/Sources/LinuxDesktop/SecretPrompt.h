@@ -25,17 +25,18 @@ enum class SecretKind { pin, passphrase };
 /// Asks the person for the secret of the existing key.
 struct SecretRequest {
   SecretKind kind;
-  std::string reason;   ///< what the key is about to be used for: "Sign “…” as …"
-  std::string medium;   ///< where the key is, a whole sentence
-  std::string problem;  ///< why the question comes again; empty the first time
-  int attempt = 1;      ///< from 1 to `attempts`
+  std::string reason;       ///< what the key is about to be used for: "Sign “…” as …"
+  std::string destination;  ///< where the text is going; may be empty
+  std::string medium;       ///< where the key is, whole sentences
+  std::string problem;      ///< why the question comes again; empty the first time
+  int attempt = 1;          ///< from 1 to `attempts`
   int attempts = 1;
 };
 
 /// Asks the person to choose a secret for a new key.
 struct NewSecretRequest {
   SecretKind kind;
-  std::string medium;   ///< where the key will be, a whole sentence
+  std::string medium;   ///< where the key will be, whole sentences
   std::string notice;   ///< what else happens, such as a key that is replaced; may be empty
   std::string problem;  ///< why the question comes again; empty the first time
 };

@@ -318,7 +318,7 @@ std::string TpmKeyStore::describe() const {
          "signature; the TPM locks itself after too many wrong ones.";
 }
 
-std::optional<std::string> TpmKeyStore::obstacle() const {
+std::string TpmKeyStore::obstacle() const {
   try {
     const Tpm tpm(device_);
     if ((tpm.property(TPM2_PT_STARTUP_CLEAR) & TPMA_STARTUP_CLEAR_SHENABLE) == 0)
@@ -329,7 +329,14 @@ std::optional<std::string> TpmKeyStore::obstacle() const {
   } catch (const KeyFailure& failure) {
     return failure.what();
   }
-  return std::nullopt;
+  return {};
+}
+
+std::string TpmKeyStore::evidentObstacle() const {
+  if (isSimulator(device_)) return {};
+  const std::string path = device_.substr(devicePrefix.size());
+  if (::access(path.c_str(), R_OK | W_OK) == 0) return {};
+  return tpmFailureOf(DeviceError{.device = path, .number = errno}).message;
 }
 
 bool TpmKeyStore::holdsKey() const noexcept {

@@ -34,7 +34,8 @@ class TpmKeyStore final : public KeyMedium {
   [[nodiscard]] SecretKind secretKind() const noexcept override;
   [[nodiscard]] std::string name() const override;
   [[nodiscard]] std::string describe() const override;
-  [[nodiscard]] std::optional<std::string> obstacle() const override;
+  [[nodiscard]] std::string obstacle() const override;
+  [[nodiscard]] std::string evidentObstacle() const override;
   [[nodiscard]] bool holdsKey() const noexcept override;
   void create(const SecretBytes& secret) override;
   [[nodiscard]] p256::Point publicKey() const override;

@@ -1,0 +1,286 @@
+#include <deque>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "LinuxDesktop/FileKeyStore.h"
+#include "LinuxDesktop/KeyFailure.h"
+#include "LinuxDesktop/LinuxKeyStore.h"
+#include "TemporaryFolder.h"
+
+namespace quillseal {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+constexpr p256::Digest digest{7, 7, 7};
+constexpr auto cancel = std::nullopt;
+
+/// Answers from a list and keeps the questions. One that is not expected is cancelled.
+class ScriptedPrompt final : public SecretPrompt {
+ public:
+  std::optional<SecretBytes> ask(const SecretRequest& request) override {
+    asked.push_back(request);
+    return answer();
+  }
+  std::optional<SecretBytes> askForNew(const NewSecretRequest& request) override {
+    askedForNew.push_back(request);
+    return answer();
+  }
+
+  std::deque<std::optional<std::string>> answers;
+  std::vector<SecretRequest> asked;
+  std::vector<NewSecretRequest> askedForNew;
+
+ private:
+  std::optional<SecretBytes> answer() {
+    if (answers.empty()) return std::nullopt;
+    const std::optional<std::string> next = answers.front();
+    answers.pop_front();
+    return next ? std::optional<SecretBytes>(*next) : std::nullopt;
+  }
+};
+
+/// A TPM as its store shows it, kept in a file so that keys are real; comes, goes and breaks as the
+/// test says.
+class ScriptedTpm final : public KeyMedium {
+ public:
+  struct State {
+    std::string obstacle;
+    std::string defect;  ///< of the key
+    bool foreignSignatures = false;
+  };
+
+  ScriptedTpm(const std::filesystem::path& folder, State& state)
+      : file_({.path = folder / "tpm" / "key", .cost = {.n = 16, .r = 8, .p = 1}}),
+        other_({.path = folder / "tpm" / "other", .cost = {.n = 16, .r = 8, .p = 1}}),
+        state_(state) {}
+
+  SecretKind secretKind() const noexcept override { return SecretKind::pin; }
+  std::string name() const override { return "the TPM of this computer"; }
+  std::string describe() const override { return "The key is in the TPM."; }
+  std::string obstacle() const override { return state_.obstacle; }
+  std::string evidentObstacle() const override { return state_.obstacle; }
+  bool holdsKey() const noexcept override { return file_.holdsKey(); }
+  void create(const SecretBytes& secret) override { file_.create(secret); }
+  p256::Point publicKey() const override { return file_.publicKey(); }
+  void requireUsableKey() const override {
+    if (!state_.defect.empty()) throw KeyFailure(state_.defect);
+  }
+  std::optional<std::vector<std::uint8_t>> sign(const p256::Digest& message,
+                                                const SecretBytes& secret) const override {
+    if (!state_.foreignSignatures) return file_.sign(message, secret);
+    other_.create(secret);
+    return other_.sign(message, secret);
+  }
+  void remove() noexcept override { file_.remove(); }
+
+ private:
+  FileKeyStore file_;
+  mutable FileKeyStore other_;
+  State& state_;
+};
+
+class LinuxKeyStoreTest : public ::testing::Test {
+ protected:
+  LinuxKeyStoreTest() {
+    std::vector<std::unique_ptr<KeyMedium>> media;
+    media.push_back(std::make_unique<ScriptedTpm>(folder.path(), tpm));
+    media.push_back(std::make_unique<FileKeyStore>(FileKeyStore::Options{
+        .path = folder.path() / "file" / "key", .cost = {.n = 16, .r = 8, .p = 1}}));
+    store = std::make_unique<LinuxKeyStore>(std::move(media), prompt);
+  }
+
+  void createWith(const std::string& secret) {
+    prompt.answers.emplace_back(secret);
+    static_cast<void>(store->create());
+  }
+  std::vector<std::uint8_t> sign() {
+    return store->load(desktop::Prompt{.reason = "Sign “x” as y", .medium = "LinkedIn Post"})
+        ->sign(digest);
+  }
+  std::string failureOf(const auto& action) {
+    try {
+      action();
+    } catch (const Cancelled& cancelled) {
+      return std::string("cancelled: ") + cancelled.what();
+    } catch (const Error& failure) {
+      return failure.what();
+    }
+    return "(no failure)";
+  }
+  p256::Point publicKey() {
+    const auto bytes = store->load(std::nullopt)->publicKey();
+    p256::Point point{};
+    if (bytes && bytes->size() == point.size())
+      std::copy(bytes->begin(), bytes->end(), point.begin());
+    return point;
+  }
+
+  testing::TemporaryFolder folder;
+  ScriptedTpm::State tpm;
+  ScriptedPrompt prompt;
+  std::unique_ptr<LinuxKeyStore> store;
+};
+
+const std::string pin = "123457";
+const std::string passphrase = "a long passphrase";
+
+TEST_F(LinuxKeyStoreTest, SignsWithTheTpmWhereItIsUsable) {
+  EXPECT_TRUE(store->isAvailable());
+  EXPECT_EQ(store->load(std::nullopt), nullptr);
+  createWith(pin);
+  EXPECT_EQ(prompt.askedForNew.back().kind, SecretKind::pin);
+  EXPECT_EQ(prompt.askedForNew.back().notice, "");
+
+  prompt.answers = {pin};
+  const auto signature = sign();
+  EXPECT_TRUE(p256::verifies({.publicKey = publicKey(), .digest = digest, .signature = signature}));
+  EXPECT_EQ(prompt.asked.back().reason, "Sign “x” as y");
+  EXPECT_EQ(prompt.asked.back().destination, "LinkedIn Post");
+  EXPECT_EQ(prompt.asked.back().medium, "The key is in the TPM.");
+
+  store->remove();
+  store->remove();
+  EXPECT_EQ(store->load(std::nullopt), nullptr);
+}
+
+TEST_F(LinuxKeyStoreTest, WithoutATpmAKeyFileServesAndThePersonIsTold) {
+  tpm.obstacle = "there is no TPM.";
+  EXPECT_TRUE(store->isAvailable());
+  createWith(passphrase);
+  EXPECT_EQ(prompt.askedForNew.back().kind, SecretKind::passphrase);
+  EXPECT_EQ(prompt.askedForNew.back().notice, "There is no TPM.");
+  EXPECT_EQ(store->advice(), "There is no TPM.");
+  prompt.answers = {passphrase};
+  EXPECT_FALSE(sign().empty());
+}
+
+TEST_F(LinuxKeyStoreTest, NothingUsableIsUnavailable) {
+  tpm.obstacle = "there is no TPM.";
+  testing::overwrite(folder.path() / "file", "a file where the folder should be");
+  EXPECT_FALSE(store->isAvailable());
+  EXPECT_THAT(failureOf([&] { createWith(passphrase); }), HasSubstr("There is no TPM. “"));
+  EXPECT_THAT(prompt.askedForNew, IsEmpty());
+}
+
+TEST_F(LinuxKeyStoreTest, ThreeWrongTriesEndTheMatter) {
+  createWith(pin);
+  prompt.answers = {"wrong1", "wrong2", pin};
+  EXPECT_FALSE(sign().empty());
+  ASSERT_EQ(prompt.asked.size(), 3U);
+  EXPECT_EQ(prompt.asked[0].problem, "");
+  EXPECT_EQ(prompt.asked[2].problem, "This PIN is wrong.");
+  EXPECT_EQ(prompt.asked[2].attempt, 3);
+
+  prompt.asked.clear();
+  prompt.answers = {"wrong1", "wrong2", "wrong3", pin};
+  EXPECT_EQ(failureOf([&] { sign(); }), "the PIN was wrong three times.");
+  EXPECT_EQ(prompt.asked.size(), 3U);
+}
+
+TEST_F(LinuxKeyStoreTest, CancellingIsNoFailureAndCostsNothing) {
+  createWith(pin);
+  const p256::Point before = publicKey();
+  prompt.answers = {"wrong1", cancel};
+  EXPECT_EQ(failureOf([&] { sign(); }), "cancelled: no PIN was entered.");
+  prompt.answers = {cancel};
+  EXPECT_EQ(failureOf([&] { static_cast<void>(store->create()); }),
+            "cancelled: no PIN was chosen.");
+  EXPECT_EQ(publicKey(), before);
+  prompt.answers = {pin};
+  EXPECT_FALSE(sign().empty());
+}
+
+TEST_F(LinuxKeyStoreTest, AWeakSecretIsAskedForAgain) {
+  prompt.answers = {"1234", "111111", pin};
+  static_cast<void>(store->create());
+  ASSERT_EQ(prompt.askedForNew.size(), 3U);
+  EXPECT_THAT(prompt.askedForNew[1].problem, HasSubstr("too short"));
+  EXPECT_THAT(prompt.askedForNew[2].problem, HasSubstr("repeats"));
+}
+
+TEST_F(LinuxKeyStoreTest, AKeyThatCannotSignIsReportedBeforeAnybodyIsAsked) {
+  createWith(pin);
+  tpm.defect = "the TPM was cleared.";
+  EXPECT_EQ(failureOf([&] { sign(); }), "the TPM was cleared.");
+  EXPECT_THAT(prompt.asked, IsEmpty());
+  ASSERT_NE(store->load(std::nullopt), nullptr);
+
+  tpm.defect.clear();
+  tpm.foreignSignatures = true;
+  prompt.answers = {pin};
+  EXPECT_THAT(failureOf([&] { sign(); }), HasSubstr("does not match the key"));
+}
+
+// A key stays where it is until the person agrees to something else.
+TEST_F(LinuxKeyStoreTest, NoMediumTakesOverSilently) {
+  tpm.obstacle = "there is no TPM.";
+  createWith(passphrase);
+  const p256::Point inFile = publicKey();
+
+  tpm.obstacle.clear();
+  EXPECT_EQ(publicKey(), inFile);
+  EXPECT_EQ(store->secretKind(), SecretKind::passphrase);
+  prompt.answers = {cancel};
+  EXPECT_THAT(failureOf([&] { static_cast<void>(store->create()); }), HasSubstr("cancelled"));
+  EXPECT_EQ(prompt.askedForNew.back().notice,
+            "Your present key is in a key file. It will be replaced by a new one in the TPM of "
+            "this computer.");
+  EXPECT_EQ(publicKey(), inFile);
+
+  createWith(pin);
+  EXPECT_EQ(store->secretKind(), SecretKind::pin);
+  const p256::Point inTpm = publicKey();
+  EXPECT_NE(inTpm, inFile);
+  EXPECT_FALSE(std::filesystem::exists(folder.path() / "file" / "key"));
+
+  tpm.obstacle = tpm.defect = "the TPM is switched off.";
+  EXPECT_EQ(store->secretKind(), SecretKind::pin);
+  EXPECT_EQ(store->advice(), "The TPM is switched off.");
+  EXPECT_EQ(failureOf([&] { sign(); }), "the TPM is switched off.");
+  prompt.answers = {cancel};
+  EXPECT_THAT(failureOf([&] { static_cast<void>(store->create()); }), HasSubstr("cancelled"));
+  EXPECT_EQ(prompt.askedForNew.back().notice,
+            "The TPM is switched off. Your present key is in the TPM of this computer. It will be "
+            "replaced by a new one in a key file.");
+  tpm.obstacle.clear();
+  EXPECT_EQ(publicKey(), inTpm);
+}
+
+TEST_F(LinuxKeyStoreTest, ADamagedKeyStaysUntilItIsReplaced) {
+  tpm.obstacle = "there is no TPM.";
+  createWith(passphrase);
+  testing::overwrite(folder.path() / "file" / "key", "rubbish");
+  ASSERT_NE(store->load(std::nullopt), nullptr);
+  EXPECT_EQ(store->load(std::nullopt)->publicKey(), std::nullopt);
+  EXPECT_THAT(store->advice(), HasSubstr("is damaged"));
+  EXPECT_THAT(failureOf([&] { sign(); }), HasSubstr("is damaged"));
+  createWith(passphrase);
+  prompt.answers = {passphrase};
+  EXPECT_FALSE(sign().empty());
+}
+
+TEST(MakeKeyStore, TakesASimulatorOnlyByName) {
+  const testing::TemporaryFolder folder;
+  ScriptedPrompt prompt;
+  const auto make = [&](const std::string& tpm) {
+    return makeKeyStore({.folder = folder.path().string(), .tpm = tpm}, prompt);
+  };
+  EXPECT_EQ(make("none")->secretKind(), SecretKind::passphrase);
+  EXPECT_THAT(make("swtpm:path=/nowhere")->describe(),
+              HasSubstr("simulator (swtpm:path=/nowhere)"));
+  for (const char* unknown : {"tabrmd:", "/tmp/library.so", "swtpm", "device:/dev/tpm0"})
+    EXPECT_THROW(static_cast<void>(make(unknown)), KeyFailure) << unknown;
+}
+
+}  // namespace
+}  // namespace quillseal

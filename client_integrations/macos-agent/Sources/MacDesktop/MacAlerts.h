@@ -1,0 +1,54 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "Desktop/Alerts.h"
+#include "Desktop/Log.h"
+#include "Desktop/MainLoop.h"
+
+@class NSAlert;
+@class QSNotificationPresenter;
+
+namespace quillseal::mac {
+
+/// Alerts of AppKit and notifications of the user notification center. An alert is modal in a
+/// nested event loop, which goes on with the agent's other work; of several open alerts the newest
+/// is answered first.
+class MacAlerts final : public desktop::Alerts {
+ public:
+  struct Services {
+    desktop::MainLoop& loop;
+    desktop::Log& log;
+  };
+
+  /// Main thread. The services outlive this object, and this object the event loop.
+  explicit MacAlerts(Services services);
+  ~MacAlerts() override;
+  MacAlerts(const MacAlerts&) = delete;
+  MacAlerts& operator=(const MacAlerts&) = delete;
+
+  [[nodiscard]] desktop::Ticket show(const desktop::Alert& alert,
+                                     std::function<void()> dismissed) override;
+  [[nodiscard]] desktop::Ticket ask(const desktop::Question& question,
+                                    std::function<void(desktop::Answer)> answered) override;
+  [[nodiscard]] desktop::Ticket confirm(
+      const desktop::ConfirmationForm& form,
+      std::function<void(std::optional<desktop::ConfirmationEntry>)> answered) override;
+  void notify(const desktop::Notification& notification) override;
+
+ private:
+  struct OpenAlert;
+
+  /// Opens `alert` soon; `answered` learns whether the first button was pressed.
+  [[nodiscard]] desktop::Ticket open(NSAlert* alert, std::function<void(bool)> answered);
+  void run(const std::shared_ptr<OpenAlert>& open);
+  void stopWithdrawn();
+
+  Services services_;
+  std::vector<std::shared_ptr<OpenAlert>> open_;  ///< the newest last
+  QSNotificationPresenter* presenter_;            ///< the notification center does not keep it
+};
+
+}  // namespace quillseal::mac

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "Desktop/HttpTransport.h"
+#include "Desktop/MainLoop.h"
+
+@class NSURLSession;
+
+namespace quillseal::mac {
+
+/// The URL loading system. An answer of more than 8 MiB is `dataLengthExceedsMaximum`.
+class MacHttpTransport final : public desktop::HttpTransport {
+ public:
+  /// `loop` outlives this object and its requests.
+  explicit MacHttpTransport(desktop::MainLoop& loop);
+  ~MacHttpTransport() override;
+  MacHttpTransport(const MacHttpTransport&) = delete;
+  MacHttpTransport& operator=(const MacHttpTransport&) = delete;
+
+  [[nodiscard]] desktop::Ticket send(
+      const desktop::HttpPost& post,
+      std::function<void(Outcome<desktop::HttpResponse>)> done) override;
+  [[nodiscard]] Error error(desktop::transport::ErrorCode code) const override;
+
+ private:
+  desktop::MainLoop& loop_;
+  NSURLSession* session_;
+};
+
+}  // namespace quillseal::mac

@@ -1,0 +1,105 @@
+#import "MacDesktop/MacKeyEvents.h"
+
+#include <chrono>
+#include <memory>
+#include <string>
+#include <utility>
+
+#import <ApplicationServices/ApplicationServices.h>
+#import <Carbon/Carbon.h>
+#import <Foundation/Foundation.h>
+#import <IOKit/IOKitLib.h>
+
+#include "MacDesktop/CfHandle.h"
+#include "MacDesktop/Completion.h"
+
+namespace quillseal::mac {
+namespace {
+
+using std::chrono_literals::operator""ms;
+
+constexpr CGEventFlags modifierFlags = kCGEventFlagMaskCommand | kCGEventFlagMaskAlternate |
+                                       kCGEventFlagMaskControl | kCGEventFlagMaskShift;
+
+void post(desktop::KeyPress press) {
+  const CfHandle<CGEventSourceRef> source(::CGEventSourceCreate(kCGEventSourceStateHIDSystemState));
+  const auto key = static_cast<CGKeyCode>(press.key);
+  const CfHandle<CGEventRef> down(::CGEventCreateKeyboardEvent(source.get(), key, true));
+  const CfHandle<CGEventRef> up(::CGEventCreateKeyboardEvent(source.get(), key, false));
+  for (const CfHandle<CGEventRef>* event : {&down, &up}) {
+    if (!*event) continue;
+    ::CGEventSetFlags(event->get(), static_cast<CGEventFlags>(press.modifiers));
+    ::CGEventPost(kCGHIDEventTap, event->get());
+  }
+}
+
+/// While a password field has the keyboard, or a program forgot to give Secure Input back, the
+/// system swallows posted keys; the holder's process id is the one clue for the user.
+void logSecureInput(desktop::Log& log) {
+  if (!::IsSecureEventInputEnabled()) return;
+  std::string line = "[capture] secure input is on, key presses may not arrive";
+  const IoHandle root(::IORegistryGetRootEntry(kIOMainPortDefault));
+  const CfHandle<CFTypeRef> property(::IORegistryEntryCreateCFProperty(
+      root.get(), CFSTR("IOConsoleUsers"), kCFAllocatorDefault, 0));
+  id users = (__bridge id)property.get();
+  if ([users isKindOfClass:NSArray.class]) {
+    for (NSDictionary* user in users) {
+      id holder =
+          [user isKindOfClass:NSDictionary.class] ? user[@"kCGSSessionSecureInputPID"] : nil;
+      if (![holder isKindOfClass:NSNumber.class]) continue;
+      line += "; held by process " + std::to_string([holder intValue]);
+    }
+  }
+  log.write(line);
+}
+
+/// A press that waits for the user's fingers to leave the modifiers of the hotkey. The events carry
+/// their own flags, but some applications look at the keyboard itself.
+class WaitingPress : public std::enable_shared_from_this<WaitingPress> {
+ public:
+  WaitingPress(MacKeyEvents::Services services, desktop::KeyPress press, Completion<> completion)
+      : services_(services),
+        press_(press),
+        completion_(std::move(completion)),
+        deadline_(services.loop.now() + 400ms) {}
+
+  void run() {
+    if (!completion_.isPending()) return;
+    const CGEventFlags held =
+        ::CGEventSourceFlagsState(kCGEventSourceStateHIDSystemState) & modifierFlags;
+    if (held != 0 && services_.loop.now() < deadline_) {
+      timer_ = services_.loop.after(10ms, [self = shared_from_this()] { self->run(); });
+      return;
+    }
+    logSecureInput(services_.log);
+    post(press_);
+    completion_();
+  }
+
+  void cancel() { timer_ = {}; }
+
+ private:
+  MacKeyEvents::Services services_;
+  desktop::KeyPress press_;
+  Completion<> completion_;
+  desktop::MainLoop::TimePoint deadline_;
+  desktop::Ticket timer_;
+};
+
+}  // namespace
+
+bool MacKeyEvents::isTrusted() const { return ::AXIsProcessTrusted(); }
+
+void MacKeyEvents::askForTrust() {
+  NSDictionary* options = @{(__bridge NSString*)kAXTrustedCheckOptionPrompt : @YES};
+  ::AXIsProcessTrustedWithOptions((__bridge CFDictionaryRef)options);
+}
+
+desktop::Ticket MacKeyEvents::press(desktop::KeyPress press, std::function<void()> done) {
+  const Completion<> completion(std::move(done));
+  const auto waiting = std::make_shared<WaitingPress>(services_, press, completion);
+  services_.loop.post([waiting] { waiting->run(); });
+  return completion.ticket([waiting] { waiting->cancel(); });
+}
+
+}  // namespace quillseal::mac

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "Desktop/KeyStore.h"
+#include "Desktop/Log.h"
+
+namespace quillseal::mac {
+
+/// A key in the Secure Enclave that only the fingers enrolled at its creation can use. It is found
+/// in the data-protection keychain, for which the program needs a keychain access group.
+class MacKeyStore final : public desktop::KeyStore {
+ public:
+  /// Failures are logged with the status that the system gave. `log` outlives this object and its
+  /// keys.
+  explicit MacKeyStore(desktop::Log& log) : log_(log) {}
+
+  [[nodiscard]] bool isAvailable() const override;
+  [[nodiscard]] std::unique_ptr<desktop::DeviceKey> create() override;
+  [[nodiscard]] std::unique_ptr<desktop::DeviceKey> load(
+      std::optional<desktop::Prompt> prompt) const override;
+  void remove() noexcept override;
+
+ private:
+  desktop::Log& log_;
+};
+
+}  // namespace quillseal::mac

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <memory>
+
+#include "Desktop/MainLoop.h"
+
+namespace quillseal::mac {
+
+/// The main run loop. Posted work also runs while an alert is modal or a menu is open, including
+/// when the alert was itself opened by posted work.
+class MacMainLoop final : public desktop::MainLoop {
+ public:
+  /// Main thread.
+  MacMainLoop();
+  ~MacMainLoop() override;
+  MacMainLoop(const MacMainLoop&) = delete;
+  MacMainLoop& operator=(const MacMainLoop&) = delete;
+
+  void post(std::function<void()> work) override;
+  [[nodiscard]] desktop::Ticket after(std::chrono::milliseconds delay,
+                                      std::function<void()> work) override;
+  [[nodiscard]] TimePoint now() const override;
+  [[nodiscard]] desktop::Ticket runBlocking(std::function<void()> work,
+                                            std::function<void()> finished) override;
+
+ private:
+  class Queue;
+  std::shared_ptr<Queue> queue_;  ///< shared with timers and workers that end after the loop
+};
+
+}  // namespace quillseal::mac

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "Desktop/Pasteboard.h"
+
+namespace quillseal::mac {
+
+/// The general pasteboard.
+class MacPasteboard final : public desktop::Pasteboard {
+ public:
+  [[nodiscard]] std::int64_t changeCount() const override;
+  [[nodiscard]] bool isConcealed() const override;
+  [[nodiscard]] std::optional<std::string> plainText() const override;
+  [[nodiscard]] std::optional<std::string> html() const override;
+  [[nodiscard]] std::optional<std::string> rtf() const override;
+  void write(const desktop::PasteboardContent& content) override;
+};
+
+}  // namespace quillseal::mac

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "Desktop/MainLoop.h"
+#include "Desktop/Program.h"
+
+namespace quillseal::mac {
+
+/// NSApplication, as far as the agent has a say in it.
+class MacProgram final : public desktop::Program {
+ public:
+  /// `loop` outlives this object.
+  explicit MacProgram(desktop::MainLoop& loop) : loop_(loop) {}
+
+  void becomeAccessory() override;
+  void activate() override;
+  void showAbout() override;
+  void terminate() override;
+
+ private:
+  desktop::MainLoop& loop_;
+};
+
+/// Brings this program to the front, over another active application. Main thread.
+void activateProgram();
+
+}  // namespace quillseal::mac

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "Desktop/WallClock.h"
+
+namespace quillseal::mac {
+
+/// Date and time zone of the system settings.
+class MacWallClock final : public desktop::WallClock {
+ public:
+  [[nodiscard]] std::string today() const override;
+  [[nodiscard]] desktop::TimeZone timeZone() const override;
+};
+
+}  // namespace quillseal::mac

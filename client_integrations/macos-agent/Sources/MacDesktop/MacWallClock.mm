@@ -1,0 +1,31 @@
+#import "MacDesktop/MacWallClock.h"
+
+#import <Foundation/Foundation.h>
+
+#include "MacDesktop/MacText.h"
+
+namespace quillseal::mac {
+namespace {
+
+/// The process remembers the zone that it started in; a traveller's Mac changes it.
+NSTimeZone* currentTimeZone() {
+  [NSTimeZone resetSystemTimeZone];
+  return NSTimeZone.localTimeZone;
+}
+
+}  // namespace
+
+std::string MacWallClock::today() const {
+  NSDateFormatter* formatter = [[NSDateFormatter alloc] init];
+  formatter.locale = NSLocale.currentLocale;
+  formatter.timeZone = currentTimeZone();
+  formatter.dateFormat = @"yyyy-MM-dd";
+  return utf8([formatter stringFromDate:NSDate.date]);
+}
+
+desktop::TimeZone MacWallClock::timeZone() const {
+  NSTimeZone* zone = currentTimeZone();
+  return {.identifier = utf8(zone.name), .secondsFromGmt = static_cast<int>(zone.secondsFromGMT)};
+}
+
+}  // namespace quillseal::mac

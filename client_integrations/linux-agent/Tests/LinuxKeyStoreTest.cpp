@@ -65,6 +65,7 @@ class ScriptedTpm final : public KeyMedium {
         state_(state) {}
 
   SecretKind secretKind() const noexcept override { return SecretKind::pin; }
+  KeyPlace place() const noexcept override { return KeyPlace::tpm; }
   std::string name() const override { return "the TPM of this computer"; }
   std::string describe() const override { return "The key is in the TPM."; }
   std::string obstacle() const override { return state_.obstacle; }
@@ -229,7 +230,7 @@ TEST_F(LinuxKeyStoreTest, NoMediumTakesOverSilently) {
 
   tpm.obstacle.clear();
   EXPECT_EQ(publicKey(), inFile);
-  EXPECT_EQ(store->secretKind(), SecretKind::passphrase);
+  EXPECT_EQ(store->place(), KeyPlace::keyFile);
   prompt.answers = {cancel};
   EXPECT_THAT(failureOf([&] { static_cast<void>(store->create()); }), HasSubstr("cancelled"));
   EXPECT_EQ(prompt.askedForNew.back().notice,
@@ -238,13 +239,13 @@ TEST_F(LinuxKeyStoreTest, NoMediumTakesOverSilently) {
   EXPECT_EQ(publicKey(), inFile);
 
   createWith(pin);
-  EXPECT_EQ(store->secretKind(), SecretKind::pin);
+  EXPECT_EQ(store->place(), KeyPlace::tpm);
   const p256::Point inTpm = publicKey();
   EXPECT_NE(inTpm, inFile);
   EXPECT_FALSE(std::filesystem::exists(folder.path() / "file" / "key"));
 
   tpm.obstacle = tpm.defect = "the TPM is switched off.";
-  EXPECT_EQ(store->secretKind(), SecretKind::pin);
+  EXPECT_EQ(store->place(), KeyPlace::tpm);
   EXPECT_EQ(store->advice(), "The TPM is switched off.");
   EXPECT_EQ(failureOf([&] { sign(); }), "the TPM is switched off.");
   prompt.answers = {cancel};
@@ -275,7 +276,7 @@ TEST(MakeKeyStore, TakesASimulatorOnlyByName) {
   const auto make = [&](const std::string& tpm) {
     return makeKeyStore({.folder = folder.path().string(), .tpm = tpm}, prompt);
   };
-  EXPECT_EQ(make("none")->secretKind(), SecretKind::passphrase);
+  EXPECT_EQ(make("none")->place(), KeyPlace::keyFile);
   EXPECT_THAT(make("swtpm:path=/nowhere")->describe(),
               HasSubstr("simulator (swtpm:path=/nowhere)"));
   for (const char* unknown : {"tabrmd:", "/tmp/library.so", "swtpm", "device:/dev/tpm0"})

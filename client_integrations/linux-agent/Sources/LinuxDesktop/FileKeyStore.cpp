@@ -102,6 +102,10 @@ SecretKind FileKeyStore::secretKind() const noexcept {
   return SecretKind::passphrase;
 }
 
+KeyPlace FileKeyStore::place() const noexcept {
+  return KeyPlace::keyFile;
+}
+
 std::string FileKeyStore::name() const {
   return "a key file";
 }

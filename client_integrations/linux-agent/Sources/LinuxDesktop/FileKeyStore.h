@@ -31,6 +31,7 @@ class FileKeyStore final : public KeyMedium {
   explicit FileKeyStore(Options options);
 
   [[nodiscard]] SecretKind secretKind() const noexcept override;
+  [[nodiscard]] KeyPlace place() const noexcept override;
   [[nodiscard]] std::string name() const override;
   [[nodiscard]] std::string describe() const override;
   [[nodiscard]] std::string obstacle() const override;

@@ -11,6 +11,9 @@
 
 namespace quillseal {
 
+/// What kind of place a key is in.
+enum class KeyPlace { tpm, tpmSimulator, keyFile };
+
 /// A place that can hold the device key: the TPM, or an encrypted file. It asks nobody anything;
 /// `LinuxKeyStore` puts the questions and chooses the place. Nothing is cached: a device that came
 /// or went is noticed at the next call. Every function may block for as long as the device takes
@@ -23,6 +26,8 @@ class KeyMedium {
   virtual ~KeyMedium() = default;
 
   [[nodiscard]] virtual SecretKind secretKind() const noexcept = 0;
+
+  [[nodiscard]] virtual KeyPlace place() const noexcept = 0;
 
   /// The place in the middle of a sentence: "the TPM of this computer".
   [[nodiscard]] virtual std::string name() const = 0;

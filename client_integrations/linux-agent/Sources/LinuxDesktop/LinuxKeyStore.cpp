@@ -179,8 +179,8 @@ std::string LinuxKeyStore::advice() const {
   return media_.front()->holdsKey() ? std::string() : sentence(media_.front()->evidentObstacle());
 }
 
-SecretKind LinuxKeyStore::secretKind() const {
-  return evidentMedium().secretKind();
+KeyPlace LinuxKeyStore::place() const {
+  return evidentMedium().place();
 }
 
 std::string LinuxKeyStore::describe() const {

@@ -31,9 +31,9 @@ class LinuxKeyStore final : public desktop::KeyStore {
   void remove() noexcept override;
   [[nodiscard]] std::string advice() const override;
 
-  /// What opens the present key or, when there is none, the one that would be made. Does not wait
-  /// for a device, so that texts can be worded with it on the main thread.
-  [[nodiscard]] SecretKind secretKind() const;
+  /// Where the present key is or, when there is none, where one would be made. Does not wait for a
+  /// device, so that texts can be worded with it on the main thread.
+  [[nodiscard]] KeyPlace place() const;
 
   /// Where that key is, and which protection this gives, as sentences for settings and log. Does
   /// not wait for a device.

@@ -306,6 +306,10 @@ SecretKind TpmKeyStore::secretKind() const noexcept {
   return SecretKind::pin;
 }
 
+KeyPlace TpmKeyStore::place() const noexcept {
+  return isSimulator(device_) ? KeyPlace::tpmSimulator : KeyPlace::tpm;
+}
+
 std::string TpmKeyStore::name() const {
   return isSimulator(device_) ? "a TPM simulator" : "the TPM of this computer";
 }

@@ -32,6 +32,7 @@ class TpmKeyStore final : public KeyMedium {
   explicit TpmKeyStore(Options options);
 
   [[nodiscard]] SecretKind secretKind() const noexcept override;
+  [[nodiscard]] KeyPlace place() const noexcept override;
   [[nodiscard]] std::string name() const override;
   [[nodiscard]] std::string describe() const override;
   [[nodiscard]] std::string obstacle() const override;

@@ -1,0 +1,251 @@
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "LinuxDesktop/PlatformWording.h"
+
+namespace quillseal::PlatformWording {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+constexpr Circumstances withTpm = {.key = KeyPlace::tpm, .proof = Proof::pin};
+constexpr Circumstances withFile = {.key = KeyPlace::keyFile, .proof = Proof::passphrase};
+
+struct Row {
+  std::string_view text;
+  std::string_view tpm;
+  std::string_view keyFile = tpm;
+};
+
+constexpr Row speakingOfTheMachine[] = {
+    // Menu and settings.
+    {"Sign Selected Text (⌘⌥⌃H)", "Sign Selected Text (Ctrl+Alt+Super+H)"},
+    {"This key authorizes the app build. It is not proof of who you are — that comes from the "
+     "Secure Enclave key below.",
+     "This key authorizes the app build. It is not proof of who you are — that comes from the TPM "
+     "key below.",
+     "This key authorizes the app build. It is not proof of who you are — that comes from the "
+     "signing key below."},
+    {"This Mac", "This Computer"},
+    {"Enrolled — a signing key exists inside the Secure Enclave.",
+     "Enrolled — a signing key exists inside the TPM.",
+     "Enrolled — a signing key exists in a key file, encrypted with your passphrase."},
+    {"Not set up yet. This happens automatically the first time you press ⌘⌥⌃H — there is nothing "
+     "to do here.",
+     "Not set up yet. This happens automatically the first time you press Ctrl+Alt+Super+H — there "
+     "is nothing to do here."},
+    {"No verified identity is bound to this Mac. Signatures will be shown to readers as "
+     "\"anonymous human\" — proof that a person signed, but not who. That is not a basis for "
+     "trusting a payment request.",
+     "No verified identity is bound to this computer. Signatures will be shown to readers as "
+     "\"anonymous human\" — proof that a person signed, but not who. That is not a basis for "
+     "trusting a payment request."},
+    {"Re-enrol This Mac", "Re-enrol This Computer"},
+    {"Enrol This Mac", "Enrol This Computer"},
+    {"Re-enrolling creates a NEW key. Signatures already made remain verifiable, but this Mac must "
+     "be re-enrolled on the server.",
+     "Re-enrolling creates a NEW key. Signatures already made remain verifiable, but this computer "
+     "must be re-enrolled on the server."},
+
+    // Enrolment and the key's errors.
+    {"Could Not Set Up This Mac", "Could Not Set Up This Computer"},
+    {"Quillseal could not register this Mac with https://a.example.\n\n"
+     "Could not create the Secure Enclave signing key: the disk is full.",
+     "Quillseal could not register this computer with https://a.example.\n\n"
+     "Could not create the signing key: the disk is full."},
+    {"✅ This Mac Is Enrolled", "✅ This Computer Is Enrolled"},
+    {"A signing key was created inside the Secure Enclave. It cannot be copied off this Mac, and "
+     "every signature requires Touch ID.\n\n"
+     "No verified identity is bound to this Mac yet, so signatures will be reported as \"anonymous "
+     "human\" — proof that a person signed, but not who.",
+     "A signing key was created inside the TPM. It cannot be copied off this computer, and every "
+     "signature requires your PIN.\n\n"
+     "No verified identity is bound to this computer yet, so signatures will be reported as "
+     "\"anonymous human\" — proof that a person signed, but not who.",
+     "A signing key was created in a key file on this computer. Every signature requires your "
+     "passphrase: whoever copies the file and learns it can sign in your name.\n\n"
+     "No verified identity is bound to this computer yet, so signatures will be reported as "
+     "\"anonymous human\" — proof that a person signed, but not who."},
+    {"This Mac has no Secure Enclave, so content cannot be signed in a way that proves a person "
+     "authorized it.",
+     "This computer has no usable TPM and no place for a key file, so content cannot be signed in "
+     "a way that proves a person authorized it."},
+    {"Could not create the Secure Enclave signing key: unknown error",
+     "Could not create the signing key: unknown error"},
+    {"Secure Enclave signing failed: the PIN was wrong three times.",
+     "Signing with the TPM failed: the PIN was wrong three times.",
+     "Signing with the key file failed: the PIN was wrong three times."},
+    {"Secure Enclave signing failed: content hash is not a 64-char hex digest",
+     "Signing with the TPM failed: content hash is not a 64-char hex digest",
+     "Signing with the key file failed: content hash is not a 64-char hex digest"},
+    {"Secure Enclave signing failed: user cancelled or biometric failed",
+     "Signing with the TPM failed: it was cancelled, or the PIN was wrong.",
+     "Signing with the key file failed: it was cancelled, or the passphrase was wrong."},
+    {"No Secure Enclave signing key is enrolled. Enrol this Mac in Quillseal Settings.",
+     "No signing key is enrolled. Enrol this computer in Quillseal Settings."},
+    {"Could not export the Secure Enclave public key.",
+     "Could not export the public key of the key in the TPM.",
+     "Could not export the public key from the key file."},
+
+    // A run.
+    {"Secure Enclave Required", "Signing Key Required"},
+    {"Please type or highlight some text in Outlook (or any app) before pressing ⌘⌥⌃H.",
+     "Please type or highlight some text in Thunderbird (or any app) before pressing "
+     "Ctrl+Alt+Super+H."},
+    {"The signed content is on your clipboard.\n\nSwitch back to your message in Chromium, select "
+     "the text you signed, and press ⌘V.\n\nQuillseal cannot paste it for you here: the signing "
+     "page opened in the same browser, so it would land in the wrong tab.",
+     "The signed content is on your clipboard.\n\nSwitch back to your message in Chromium, select "
+     "the text you signed, and press Ctrl+V.\n\nQuillseal cannot paste it for you here: the "
+     "signing page opened in the same browser, so it would land in the wrong tab."},
+    {"Quillseal stopped waiting for the browser. If you did sign, the signature exists and is "
+     "valid — press ⌘⌥⌃H again to insert a fresh one, or copy the link from the browser tab.",
+     "Quillseal stopped waiting for the browser. If you did sign, the signature exists and is "
+     "valid — press Ctrl+Alt+Super+H again to insert a fresh one, or copy the link from the "
+     "browser "
+     "tab."},
+    {"The request timed out before it was signed. Nothing was signed. Select your text and press "
+     "⌘⌥⌃H again.",
+     "The request timed out before it was signed. Nothing was signed. Select your text and press "
+     "Ctrl+Alt+Super+H again."},
+    {"The medium and recipient are covered by your fingerprint, so this signature does not verify "
+     "cleanly if the text is moved elsewhere.",
+     "The medium and recipient are covered by your signature, so it does not verify cleanly if the "
+     "text is moved elsewhere."},
+    {"Sign with Touch ID", "Sign with PIN", "Sign with Passphrase"},
+};
+
+constexpr std::string_view speakingOfNoMachine[] = {
+    "Server: https://seal.example.com",
+    "Configure Server...",
+    "About Quill Seal",
+    "Quit Quill Seal",
+    "Quill Seal Server Settings",
+    "Server",
+    "Server Configuration (development build)",
+    "Server URL",
+    "Native API Key (from server log)",
+    "Enrolling…",
+    "Signatures are attributed to ada@example.com",
+    "Signatures will be attributed to ada@example.com.",
+    "Enrolment Failed",
+    "Quillseal Is Not Configured",
+    "This build has no server API key. Open Settings and enter the server URL and native API key, "
+    "or install a packaged build from your provider.",
+    "No Text Found",
+    "Not signed — too short",
+    "Only 9 words. Write at least 10.",
+    "12 words, but nothing specific in it. Add an amount, a date or a name — or write 20+ words.",
+    "Not signed",
+    "Not signed — generic approvals cannot be signed",
+    "Not signed — payment instructions cannot be signed",
+    "Not signed — this looks like a scam",
+    "•  Credential phishing — asks the reader to verify an account\n\nReword these parts, or don’t "
+    "sign it.",
+    "Sign this anyway?",
+    "Signing says YOU wrote this.",
+    "Sign Anyway",
+    "Cancel",
+    "OK",
+    "Signing Error",
+    "Authentication not available",
+    "Could not build the signing URL.",
+    "Still Waiting",
+    "Signing Request Expired",
+    "Signed — Paste It Into Your Message",
+    "✅ Signature Generated!",
+    "Signed content copied and injected.",
+    "Sign this content?",
+    "",
+};
+
+TEST(PlatformWording, EveryTextReadsAsIfWrittenForTheMachine) {
+  for (const Row& row : speakingOfTheMachine) {
+    EXPECT_EQ(adapted(row.text, withTpm), row.tpm);
+    EXPECT_EQ(adapted(row.text, withFile), row.keyFile);
+    for (const Circumstances& circumstances :
+         {withTpm, withFile, Circumstances{.key = KeyPlace::tpm, .proof = Proof::password}}) {
+      const std::string text = adapted(row.text, circumstances);
+      for (const char* word : {"Mac", "Enclave", "Touch ID", "⌘", "⌥", "⌃", "biometric", "{", "}"})
+        EXPECT_THAT(text, Not(HasSubstr(word)));
+      EXPECT_EQ(adapted(text, circumstances), text);
+    }
+  }
+  for (const std::string_view text : speakingOfNoMachine) {
+    EXPECT_EQ(adapted(text, withTpm), text);
+    EXPECT_EQ(adapted(text, withFile), text);
+  }
+}
+
+TEST(PlatformWording, NamesASimulator) {
+  EXPECT_EQ(adapted("Enrolled — a signing key exists inside the Secure Enclave.",
+                    withKeyIn(KeyPlace::tpmSimulator)),
+            "Enrolled — a signing key exists inside the TPM simulator.");
+}
+
+// What is about to be signed is shown as it is, even where it speaks as the agent does.
+TEST(PlatformWording, TheTextToBeSignedIsUntouched) {
+  const std::string opening =
+      "You are about to cryptographically authorize the following text with your ";
+  const std::string rest =
+      ".\n\nThis Mac\n\nCould Not Set Up This Mac\n\nSign with Touch ID and your fingerprint: "
+      "press ⌘V.\n\n, select the text you signed, and press ⌘V.\n\nContext: This Mac";
+  struct Case {
+    Circumstances circumstances;
+    std::string proof;
+    std::string button;
+  };
+  const Case cases[] = {
+      {withTpm, "PIN", "Sign with PIN"},
+      {withFile, "passphrase", "Sign with Passphrase"},
+      {{.key = KeyPlace::tpm, .proof = Proof::fingerprint}, "fingerprint", "Sign with Fingerprint"},
+      {{.key = KeyPlace::tpm, .proof = Proof::password}, "password", "Sign with Password"},
+  };
+  for (const Case& row : cases) {
+    const desktop::ConfirmationForm form = adapted(
+        desktop::ConfirmationForm{
+            .question = {.title = "Sign this content?",
+                         .body = opening + "fingerprint" + rest,
+                         .style = desktop::AlertStyle::informational,
+                         .confirm = "Sign with Touch ID",
+                         .cancel = "Cancel"},
+            .choices = {"This Mac"},
+            .selectedChoice = 0,
+            .fieldPlaceholder = "Recipient",
+            .note = "The medium and recipient are covered by your fingerprint, so this "
+                    "signature does not verify cleanly if the text is moved elsewhere."},
+        row.circumstances);
+    EXPECT_EQ(form.question.body, opening + row.proof + rest);
+    EXPECT_EQ(form.question.confirm, row.button);
+    EXPECT_EQ(form.choices.front(), "This Mac");
+    EXPECT_THAT(form.note, HasSubstr("your signature"));
+  }
+}
+
+TEST(PlatformWording, ReachesEveryPartOfAFormButWhatTheUserTyped) {
+  desktop::Form form;
+  form.sections = {
+      {.header = "This Mac",
+       .rows = {desktop::FormStatus{.symbol = "This Mac",
+                                    .symbolColour = desktop::TextColour::green,
+                                    .text = {.text = "Enrol This Mac"}},
+                desktop::FormText{.text = "Re-enrol This Mac"},
+                desktop::FormButton{.label = "Enrol This Mac", .enabled = true, .pressed = {}},
+                desktop::FormField{
+                    .label = "This Mac", .value = "This Mac", .masked = false, .changed = {}}}}};
+  const desktop::FormSection section = adapted(form, withTpm).sections.front();
+  EXPECT_EQ(section.header, "This Computer");
+  EXPECT_EQ(std::get<desktop::FormStatus>(section.rows[0]).text.text, "Enrol This Computer");
+  EXPECT_EQ(std::get<desktop::FormText>(section.rows[1]).text, "Re-enrol This Computer");
+  EXPECT_EQ(std::get<desktop::FormButton>(section.rows[2]).label, "Enrol This Computer");
+  EXPECT_EQ(std::get<desktop::FormField>(section.rows[3]).label, "This Computer");
+  EXPECT_EQ(std::get<desktop::FormField>(section.rows[3]).value, "This Mac");
+}
+
+}  // namespace
+}  // namespace quillseal::PlatformWording

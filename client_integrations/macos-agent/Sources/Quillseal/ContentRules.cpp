@@ -25,6 +25,8 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:verify|validate|confirm|authenticate|re-?confirm|re-?validate|re-?verify)\b[^.!?]{0,20}\byour\s+(?:\w+\s+){0,3}(?:accounts?|wallet|identity|profile|membership|ownership|mailbox|billing|credentials|log-?in|sign-?in|payment\s+(?:details|method|information)|personal\s+(?:details|information|data))\b|)"
      R"(\b(?:account|identity|wallet|mailbox|kyc)\s+(?:verification|validation|confirmation|authentication)\s+(?:is\s+|was\s+)?(?:required|needed|pending|process|failed|incomplete)|)"
      R"(\b(?:update|review)\b[^.!?]{0,15}\byour\s+(?:billing|payment|account|wallet)\s+(?:details|information|info|method|data|records)\b|)"
+     R"(\bupdate\s+(?:payment|billing)\s+(?:now|method|details|information)\b|)"
+     R"(\b(?:submit|provide|upload)\s+(?:your\s+)?(?:identification|identity\s+documents?|kyc)\b[^.!?]{0,60}\b(?:account|wallet|ledger|service|access|avoid|soon|below)\b|)"
      R"(\byour\s+(?:\w+\s+){0,2}(?:account|wallet|identity|mailbox)\b[^.!?]{0,25}\b(?:must|needs?\s+to|has\s+to|have\s+to|should|to)\s+be\s+(?:re-?)?(?:verified|validated|confirmed|authenticated|updated)\b|)"
      R"(\byour\s+(?:\w+\s+){0,2}(?:account|wallet|identity|mailbox)\s+(?:has\s+not|hasn['’]t|is\s+not|isn['’]t)(?:\s+yet)?\s+(?:been\s+)?(?:yet\s+)?(?:verified|validated|confirmed)\b|)"
      R"(\b(?:verifizieren|bestätigen|überprüfen|validieren|aktualisieren|legitimieren)\s+Sie[^.!?]{0,25}\bIhr(?:e[nmrs]?)?\s+(?:[\w-]+\s+){0,2}(?:[\w-]*konto|kontodaten|identität|(?:persönlichen\s+)?daten|angaben|[\w-]*karte|wallet|zugangsdaten|zahlungs\w+|informationen)\b|)"
@@ -40,54 +42,61 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"cred-suspended", "Credential phishing", "warn", 40,
      "says an account is blocked or about to be, to make the reader act before thinking",
-     R"(\b(?:account|wallet|mailbox|profile|membership|card|access|log-?in|service|services|subscription|domain|e-?mail)s?\b[^.!?]{0,30}\b(?:has|have|will|is|was|are|may|be|being|get|soon|temporarily|permanently)\b[^.!?]{0,15}\b(?:suspended|locked|blocked|restricted|limited|disabled|frozen|on\s+hold|placed\s+on\s+hold|under\s+review|flagged)\b|)"
-     R"(\b(?:account|wallet|mailbox|e-?mail|card|access|service)\s+(?:suspension|restriction|limitation|lock-?out|closure)\b|)"
-     R"(\b(?:suspended|locked|blocked|restricted|limited|disabled|froze|frozen|put\s+(?:a\s+)?hold\s+on)\b[^.!?]{0,15}\b(?:your|ur)\s+(?:\w+\s+){0,2}(?:account|wallet|mailbox|card|access|profile|service)\b|)"
-     R"(\b(?:suspension|restriction|limitation|blocking|locking|deactivation)s?\s+(?:of|on|to)\s+your\s+(?:\w+\s+){0,2}(?:account|wallet|mailbox|card|access|service)\b|)"
-     R"(\b(?:konto|karte|zugang|zugriff|account|wallet|postfach|paypal|onlinebanking|online-banking)\b[^.!?]{0,40}\b(?:gesperrt|eingeschränkt|blockiert|deaktiviert|ausgesetzt|suspendiert|eingefroren|stillgelegt)\b|)"
-     R"(\b(?:sperrung|einschränkung|aussetzung)\s+(?:Ihres|Ihrer|des)\s+(?:\w+\s+){0,2}(?:\w*konto\w*|karte|zugangs|zugriffs|accounts?)\b|)"
-     R"(\b(?:compte|carte|accès|ligne|messagerie)\b[^.!?]{0,40}\b(?:suspendue?s?|bloquée?s?|limitée?s?|restreinte?s?|désactivée?s?|résiliée?s?)\b|)"
-     R"(\b(?:cuenta|tarjeta|acceso|billetera|servicio)\b[^.!?]{0,40}\b(?:suspendid[oa]s?|bloquead[oa]s?|restringid[oa]s?|limitad[oa]s?|desactivad[oa]s?|inhabilitad[oa]s?)\b|)"
-     R"(\b(?:conta|cart[ãa]o|acesso|cadastro|aplicativo|dispositivo|cpf|cnh)\b[^.!?]{0,40}\b(?:suspens[oa]s?|bloquead[oa]s?|restrit[oa]s?|limitad[oa]s?|desativad[oa]s?|inativ[oa]s?|bloqueio|suspens[ãa]o)\b|)"
-     R"(\b(?:bloqueio|suspens[ãa]o|cancelamento)\s+(?:d[oae]s?|temporári[oa]|imediat[oa])\s+(?:\w+\s+){0,3}(?:conta|cart[ãa]o|acesso|cadastro|cpf|cnh|servi[çc]os?)\b|)"
-     R"(\b(?:account|rekening|pas|toegang|bankpas|betaalpas|wallet)\b[^.!?]{0,40}\b(?:geblokkeerd|opgeschort|beperkt|gedeactiveerd|bevroren|stopgezet)\b|)"
+     R"(\b(?:we(?:['’]ve|\s+have)?|been)\s+(?:temporarily\s+|now\s+)?(?:limited|restricted|suspended|locked|disabled|blocked)\s+(?:certain|some|access|features|your|the\s+account)\b|)"
+     R"(\b(?:bloqueamos|suspendemos|limitamos|hemos\s+(?:bloqueado|suspendido|limitado|restringido)|foi\s+(?:bloquead|suspens)[oa])\s+(?:\w+\s+){0,2}(?:conta|cuenta|acesso|acceso|cart[ãa]o|tarjeta)\b|)"
+     R"(\b(?:account|wallet|mailbox|profile|membership|debit\s+card|credit\s+card|bank\s+card|your\s+card|access|service|subscription|e-?mail)s?\s+(?:access\s+)?(?:has\s+been|have\s+been|will\s+be|will\s+soon\s+be|is|is\s+being|are|may\s+be|has|is\s+now|was|is\s+currently|will\s+get|could\s+be|might\s+be|be)\s+(?:\w+\s+){0,2}(?:suspended|locked|blocked|restricted|limited|disabled|frozen|on\s+hold|placed\s+on\s+hold|put\s+on\s+hold|under\s+review|flagged)\b|)"
+     R"(\b(?:account|wallet|mailbox|card|e-?mail|service)\s+(?:suspension|restriction|limitation|lock-?out|closure|suspended|locked|restricted|on\s+hold)\b|)"
+     R"(\b(?:suspended|locked|blocked|restricted|limited|disabled|froze|frozen|put\s+(?:a\s+)?hold\s+on|flagged)\b[^.!?]{0,15}\b(?:your|ur)\s+(?:[\w-]+\s+){0,2}(?:account|wallet|mailbox|card|access|profile|payment)\b|)"
+     R"(\b(?:suspension|restriction|limitation|blocking|locking|deactivation|interruption)s?\s+(?:of|on|to)\s+your\s+(?:[\w-]+\s+){0,2}(?:account|wallet|mailbox|card|access|services?)\b|)"
+     R"(\b(?:ihr|ihre|dein|deine|ihrem|ihren|das|ihres)\s+(?:[\w-]+\s+){0,2}(?:[\w-]*konto|[\w-]*karte|[\w-]*zugang|zugriff|account|wallet|postfach|profil|online-?banking|push-?tan)\b[^.!?]{0,40}\b(?:gesperrt|eingeschränkt|blockiert|deaktiviert|ausgesetzt|suspendiert|eingefroren|stillgelegt|limitiert)\b|)"
+     R"(\b(?:sperrung|einschränkung|aussetzung|deaktivierung)\s+(?:Ihres|Ihrer|des|deines)\s+(?:[\w-]+\s+){0,2}(?:[\w-]*kontos|[\w-]*karte|zugangs|zugriffs|accounts?)\b|)"
+     R"(\b(?:votre|vos|ton|le)\s+(?:\w+\s+){0,2}(?:compte|carte|accès|ligne|messagerie|espace)\b[^.!?]{0,40}\b(?:suspendue?s?|bloquée?s?|limitée?s?|restreinte?s?|désactivée?s?|résiliée?s?)\b|)"
+     R"(\b(?:su|tu|sus)\s+(?:\w+\s+){0,2}(?:cuenta|tarjeta|acceso|billetera|servicio|suscripci[óo]n)\b[^.!?]{0,40}\b(?:suspendid[oa]s?|bloquead[oa]s?|restringid[oa]s?|limitad[oa]s?|desactivad[oa]s?|inhabilitad[oa]s?)\b|)"
+     R"(\b(?:sua|seu|suas)\s+(?:[\w-]+\s+){0,2}(?:conta|cart[ãa]o|acesso|cadastro|aplicativo|dispositivo|cpf|cnh|assinatura)\b[^.!?]{0,40}\b(?:suspens[oa]s?|bloquead[oa]s?|restrit[oa]s?|limitad[oa]s?|desativad[oa]s?|inativ[oa]s?)\b|)"
+     R"(\b(?:bloqueio|suspens[ãa]o|cancelamento|bloqueo|cancelaci[óo]n)\s+(?:d[oae]s?|temporári[oa]|imediat[oa]|de\s+su|de\s+tu)\s+(?:\w+\s+){0,3}(?:conta|cart[ãa]o|acesso|cadastro|cpf|cnh|servi[çc]os?|cuenta|tarjeta)\b|)"
+     R"(\buw\s+(?:\w+\s+){0,2}(?:account|rekening|pas|toegang|bankpas|betaalpas|wallet)\b[^.!?]{0,40}\b(?:geblokkeerd|opgeschort|beperkt|gedeactiveerd|bevroren|stopgezet)\b|)"
      R"((?:账户|帳戶|账号|帳號|银行卡|信用卡)[^。！？.!?]{0,15}(?:冻结|凍結|停用|封锁|封鎖|暂停|暫停|异常|異常|受限)|)"
-     R"((?:アカウント|口座|カード|ご利用|サービス)[^。！？.!?]{0,25}(?:停止|制限|凍結|ロック|一時停止|無効)|)"
+     R"((?:アカウント|口座|カード|ご利用)[^。！？.!?]{0,25}(?:を停止|が停止|一時停止|利用停止|制限され|を制限|凍結|ロックされ|無効に)|)"
      R"((?:계정|계좌|카드)[^.!?。]{0,15}(?:정지|차단|제한|동결|잠금|잠겼|잠겨))",
      true},
     {"cred-confirm-password", "Credential phishing", "warn", 45,
      "asks the reader to confirm or hand over a password or PIN",
-     R"(\b(?:confirm|verify|validate|update|re-?enter|enter|provide|send|submit|supply|give|reply\s+with|tell|type\s+in|fill\s+in|share)\b[^.!?]{0,25}\b(?:your|ur)\s+(?:\w+\s+){0,3}(?:password|passcode|pin(?:\s+code|\s+number)?|security\s+code|log-?in\s+(?:details|credentials|information)|credentials|user\s?name\s+and\s+password)\b|)"
-     R"(\byour\s+(?:\w+\s+){0,2}password\s+(?:has\s+expired|expires|will\s+expire|is\s+about\s+to\s+expire|is\s+due\s+to\s+expire|is\s+expiring|expiration|must\s+be\s+(?:updated|confirmed|changed))|)"
-     R"(\b(?:keep|maintain|retain|use|same|current)\b[^.!?]{0,15}\b(?:my\s+|your\s+|the\s+)?(?:current|same|existing|old)\s+password\b|)"
+     R"(\b(?:confirm|verify|validate|re-?confirm|re-?validate|provide|submit|supply|reply\s+with|tell\s+us|send\s+(?:us|me)|give\s+(?:us|me))\b[^.!?]{0,20}\b(?:your|ur)\s+(?:\w+\s+){0,3}(?:password|passcode|pin(?:\s+code|\s+number)?|security\s+code|log-?in\s+(?:details|credentials|information)|credentials|user\s?name\s+and\s+password)\b|)"
+     R"(\byour\s+(?:\w+\s+){0,2}(?:e-?mail|mailbox|account|webmail|office\s?365|outlook|network|domain|server|microsoft|outlook|access)?\s?password\s+(?:has\s+expired|is\s+(?:set|about|due|going)\s+to\s+expire|is\s+expiring|will\s+expire\s+(?:today|tomorrow|in|soon|within)|expires\s+(?:today|tomorrow|in|soon|within)|must\s+be\s+(?:updated|confirmed|validated))\b|)"
+     R"(\b(?:keep|maintain|retain|keeping|continue\s+using)\b[^.!?]{0,12}\b(?:my\s+|your\s+|the\s+)?(?:current|same|existing|old)\s+password\b|)"
      R"(\bpassword\s+(?:expiration|expiry|validation)\s+(?:notice|notification|alert|warning|required)\b|)"
-     R"(\b(?:bestätigen|eingeben|geben|senden|teilen)\b[^.!?]{0,20}\b(?:Ihr(?:e[nm]?)?)\s+(?:\w+\s+){0,2}(?:passwor\w*|kennwort|pin|tan|zugangsdaten)\b|)"
-     R"(\bIhr\s+(?:\w+\s+){0,2}(?:passwort|kennwort)\s+(?:läuft|ist\s+abgelaufen|wird\s+ablaufen|muss)\b|)"
-     R"(\b(?:confirme[rz]|saisi(?:r|ssez)|entre[rz]|communique[rz]|envoye[rz])\b[^.!?]{0,20}\b(?:votre|vos)\s+(?:\w+\s+){0,2}(?:mot\s+de\s+passe|code\s+(?:secret|pin|confidentiel)|identifiants)\b|)"
-     R"(\b(?:confirm(?:ar|e|a)|ingres(?:ar|e|a)|introdu(?:cir|zca|ce)|envi(?:ar|e|a)|insir[ao]|inform(?:e|ar)|digit(?:e|ar))\b[^.!?]{0,20}\b(?:su|tu|sua|a)\s+(?:\w+\s+){0,2}(?:contraseña|clave|senha|pin)\b|)"
-     R"(\b(?:bevestig|voer|stuur|geef)\b[^.!?]{0,20}\buw\s+(?:\w+\s+){0,2}(?:wachtwoord|pincode|inloggegevens)\b|)"
+     R"(\b(?:bestätigen|senden|mitteilen|übermitteln)\s+(?:Sie\s+)?[^.!?]{0,15}\bIhr(?:e[nm]?)?\s+(?:[\w-]+\s+){0,2}(?:[\w-]*passwor\w*|kennwort|[\w-]*pin|tan|zugangsdaten)\b|)"
+     R"(\bIhr(?:e[nm]?)?\s+(?:[\w-]+\s+){0,2}(?:[\w-]*passwort|kennwort|[\w-]*pin|tan|zugangsdaten)\s+(?:zu\s+bestätigen|läuft|ist\s+abgelaufen|wird\s+ablaufen)\b|)"
+     R"(\b(?:confirme[rz]|communique[rz]|transmett(?:re|ez)|envoye[rz])\b[^.!?]{0,15}\b(?:votre|vos)\s+(?:\w+\s+){0,2}(?:mot\s+de\s+passe|code\s+(?:secret|pin|confidentiel)|identifiants)\b|)"
+     R"(\b(?:confirm(?:ar|e|a)|envi(?:ar|e|a)|inform(?:e|ar)|ingres(?:ar|e|a)|digite)\b[^.!?]{0,15}\b(?:su|tu|sua|a\s+sua)\s+(?:\w+\s+){0,2}(?:contraseña|clave|senha|pin)\b|)"
+     R"(\b(?:bevestig|stuur|geef)\b[^.!?]{0,15}\buw\s+(?:\w+\s+){0,2}(?:wachtwoord|pincode|inloggegevens)\b|)"
      R"((?:输入|輸入|提供|发送|發送|确认|確認)[^。！？.!?]{0,10}(?:密码|密碼|验证码|驗證碼)|)"
      R"((?:パスワード|暗証番号)[^。！？.!?]{0,12}(?:入力|送信|教えて|ご返信)[^。！？.!?]{0,6}(?:ください|下さい)|)"
      R"((?:비밀번호|인증번호)[^.!?。]{0,10}(?:입력|알려|보내)[^.!?。]{0,4}(?:하세요|주세요|주십시오|하십시오))",
      true},
     {"cred-click-verify", "Credential phishing", "warn", 30,
      "tells the reader to follow a link and verify, confirm or unlock something",
-     R"(\b(?:click|tap|press|follow|visit|open|use|go\s+to|log\s?in|sign\s?in|scan)\b[^.!?]{0,60}\b(?:to|and|in\s+order\s+to)\s+(?:\w+\s+){0,2}(?:verify|confirm|validate|authenticate|re-?activate|re-?validate|unlock|restore|secure|recover|update|resolve|regain|upgrade|sync|re-?confirm|avoid|prevent|release|claim)\b|)"
-     R"(\b(?:verify|confirm|validate|re-?activate|unlock|restore|secure|recover|authenticate|claim|upgrade|update)\b[^.!?]{0,60}\b(?:click(?:ing)?|tap(?:ping)?|follow(?:ing)?|visit(?:ing)?|us(?:e|ing)|through|via)\b[^.!?]{0,20}\b(?:here|below|(?:this|the|following|secure)\s+(?:\w+\s+){0,2}(?:link|button|page|portal))\b|)"
-     R"(^[^.!?]{0,20}\b(?:verify|confirm)\s+(?:now|here)\b|)"
-     R"(\b(?:verify|validate|confirm|unlock|restore|reactivate|secure)\s+(?:my|your)\s+(?:\w+\s+)?(?:account|wallet|identity|access|mailbox)\s+(?:now|here|below)\b|)"
-     R"(\b(?:verify|validate|confirm|unlock|restore|re-?activate|update|secure)\s+my\s+(?:\w+\s+)?(?:account|wallet|identity|access|mailbox|e-?mail|information|details|device|password)\b|)"
-     R"(\b(?:klicken|tippen|folgen|nutzen|verwenden|besuchen)\s+Sie[^.!?]{0,80}\b(?:um|zur|zum)\b[^.!?]{0,60}\b(?:bestätig\w+|verifizier\w+|überprüf\w+|aktualisier\w+|entsperr\w+|freischalt\w+|wiederherstell\w+|vermeiden)\b|)"
-     R"(\b(?:cliquez|cliquer|appuyez|accédez|connectez-vous)\b[^.!?]{0,60}\b(?:pour|afin)\b[^.!?]{0,30}\b(?:confirmer|vérifier|valider|activer|débloquer|régulariser|mettre\s+à\s+jour|éviter|récupérer)\b|)"
-     R"(\b(?:haga|haz|hacer|pulse|pulsa|acceda|accede)\s+(?:clic|click)?[^.!?]{0,50}\b(?:para|y)\b[^.!?]{0,20}\b(?:confirm\w+|verific\w+|valid\w+|activar|desbloque\w+|actuali\w+|evitar|recuperar|programar)\b|)"
-     R"(\b(?:clique|clicar|acesse|clicando|toque)\b[^.!?]{0,50}\b(?:para|e)\b[^.!?]{0,20}\b(?:confirm\w+|verific\w+|valid\w+|ativar|desbloque\w+|atuali\w+|regulariz\w+|evitar|resgat\w+|consult\w+|liberar|realizar|efetu\w+)\b|)"
-     R"(\b(?:klik|klikt|gebruik|volg|bezoek)\b[^.!?]{0,50}\b(?:om|en)\b[^.!?]{0,40}\b(?:bevestig\w+|verifi\w+|valid\w+|activ\w+|deblokk\w+|voorkomen|controleren|herstellen)\b|)"
+     R"(\b(?:click|tap|press|follow|visit|open|use|go\s+to|log\s?in|sign\s?in|scan)\b[^.!?]{0,50}\b(?:to|and|in\s+order\s+to)\s+(?:\w+\s+){0,2}(?:verify|confirm|validate|authenticate|re-?activate|re-?validate|unlock|restore|secure|recover|resolve|regain|sync|re-?confirm)\b|)"
+     R"(\b(?:click|tap|press|follow)\b[^.!?]{0,30}\b(?:below|here|link|button)\b[^.!?]{0,30}\bto\s+(?:\w+\s+){0,2}(?:update|upgrade|avoid|prevent|release|claim|redeem)\b|)"
+     R"(\b(?:verify|confirm|validate|re-?activate|unlock|restore|secure|recover|authenticate|claim|upgrade|update|reschedule|cancel)\b[^.!?]{0,50}\b(?:click(?:ing)?|tap(?:ping)?|follow(?:ing)?)\b[^.!?]{0,20}\b(?:here|below|(?:this|the|following|secure)\s+(?:\w+\s+){0,2}(?:link|button|page|portal))\b|)"
+     R"(\b(?:kindly|please|simply)\s+(?:verify|confirm|validate)\b[^.!?]{0,15}\b(?:below|here|now)\b|)"
+     R"(\b(?:verify|validate|confirm|unlock|restore|reactivate|secure|update)\s+(?:my|your)\s+(?:\w+\s+)?(?:account|wallet|identity|access|mailbox|device|information|details)\s+(?:now|here|below)\b|)"
+     R"(\b(?:verify|validate|confirm|unlock|restore|re-?activate|update|secure|synchroni[sz]e|check)\s+my\s+(?:\w+\s+)?(?:account|wallet|identity|access|mailbox|e-?mail|information|details|device|password|activity|ledger|trezor)\b|)"
+     R"(\b(?:klicken|tippen|folgen|nutzen|verwenden|besuchen)\s+Sie[^.!?]{0,80}\b(?:um|zur|zum)\b[^.!?]{0,60}\b(?:bestätig\w+|verifizier\w+|überprüf\w+|aktualisier\w+|entsperr\w+|freischalt\w+|wiederherstell\w+|vermeiden|beanspruch\w+|bezahlen|begleichen)\b|)"
+     R"(\b(?:jetzt|hier)\s+(?:bestätigen|verifizieren|aktualisieren|freischalten|entsperren|bezahlen|verlängern)\b|)"
+     R"(\b(?:konto|account|zugang|wallet|daten|identität|paket|sendung|lieferung|zahlung)s?daten?\s?(?:jetzt\s+|hier\s+)?(?:bestätigen|verifizieren|aktualisieren|freischalten)\b|)"
+     R"(\b(?:cliquez|cliquer|appuyez|accédez|connectez-vous)\b[^.!?]{0,60}\b(?:pour|afin)\b[^.!?]{0,30}\b(?:confirmer|vérifier|valider|activer|débloquer|régulariser|mettre\s+à\s+jour|éviter|récupérer|actualiser|renouveler|suivre|régler)\b|)"
+     R"(\b(?:haga|haz|hacer|pulse|pulsa|acceda|accede)(?:\s+clic|\s+click)?\b[^.!?]{0,50}\b(?:para|y)\b[^.!?]{0,20}\b(?:confirm\w+|verific\w+|valid\w+|activar|desbloque\w+|actuali\w+|evitar|recuperar|programar|renovar|pagar)\b|)"
+     R"(\b(?:clique|clicar|acesse|clicando|toque)\b[^.!?]{0,50}\b(?:para|e)\b[^.!?]{0,20}\b(?:confirm\w+|verific\w+|valid\w+|ativar|desbloque\w+|atuali\w+|regulariz\w+|evitar|resgat\w+|consult\w+|liberar|realizar|efetu\w+|visualizar|baixar|acompanhar)\b|)"
+     R"(\b(?:klik|klikt|gebruik|volg|bezoek)\b[^.!?]{0,50}\b(?:om|en)\b[^.!?]{0,40}\b(?:bevestig\w+|verifi\w+|valid\w+|activ\w+|deblokk\w+|voorkomen|controleren|herstellen|verlengen|betalen)\b|)"
      R"((?:点击|點擊|点此|登录|登入)[^。！？.!?]{0,25}(?:验证|驗證|确认|確認|激活|解锁|解鎖|更新|恢复|恢復)|)"
      R"((?:下記|こちら|リンク|URL)[^。！？.!?]{0,25}(?:クリック|アクセス|ログイン)[^。！？.!?]{0,30}(?:確認|認証|更新|解除|再開)|)"
      R"((?:링크|버튼|여기|아래)[^.!?。]{0,15}(?:클릭|눌러|접속)[^.!?。]{0,25}(?:확인|인증|해제|갱신|복구))",
      true},
     {"cred-unusual-signin", "Credential phishing", "warn", 30,
      "reports an unusual sign-in or transaction, the commonest pretext for stealing a password",
+     R"(\b(?:se\s+n[ãa]o\s+foi\s+voc[êe]|si\s+no\s+(?:has\s+sido|fuiste|fue)\s+(?:t[úu]|usted)|n[ãa]o\s+reconhe[çc]o\s+est[ea]|wenn\s+sie\s+das\s+nicht\s+waren|falls\s+sie\s+(?:das|dies)\s+nicht\s+waren|si\s+ce\s+n\'était\s+pas\s+vous|als\s+u\s+dit\s+niet\s+was)\b|)"
+     R"(\b(?:unusual|suspicious|abnormal)\s+traffic\b[^.!?]{0,20}\b(?:from|on)\s+your\b|)"
      R"(\b(?:unusual|suspicious|unauthori[sz]ed|unrecogni[sz]ed|unfamiliar|unknown|new|abnormal|irregular|fraudulent|unexpected)\b[^.!?]{0,15}\b(?:sign-?in|log-?in|log-?on|logon|access|activity|activities|attempts?|transactions?|device|connection|charge|purchase|withdrawal)\b[^.!?]{0,40}\b(?:your|ur|from|on|to|detected|noticed|was|were|has|have|attempt)\b|)"
      R"(\b(?:detected|noticed|identified|observed|recorded|flagged|found)\b[^.!?]{0,25}\b(?:unusual|suspicious|unauthori[sz]ed|unrecogni[sz]ed|unfamiliar|abnormal|irregular|fraudulent|strange|multiple\s+failed)\b[^.!?]{0,25}\b(?:sign-?in|log-?in|logon|access|activity|activities|attempts?|transactions?|movements?|behaviou?r|irregularit(?:y|ies))\b|)"
      R"(\b(?:someone|somebody|a\s+third\s+party|another\s+(?:device|person)|an\s+unknown\s+(?:device|person|user))\b[^.!?]{0,25}\b(?:tried|attempted|trying|has|have|just)\b[^.!?]{0,15}\b(?:log(?:ged)?\s?in|sign(?:ed)?\s?in|access(?:ed)?|reset)\b[^.!?]{0,25}\byour\b|)"
@@ -105,6 +114,9 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"cred-session-expire", "Credential phishing", "warn", 25,
      "says a session or access is about to end, to rush the reader to a sign-in page",
+     R"(\b(?:membership|subscription|plan|protection|renewal)\b[^.!?]{0,60}\b(?:set|scheduled|due)\s+(?:to|for)\s+(?:auto-?matic\s+|auto-?)?renew(?:al)?\b|)"
+     R"(\b(?:we\s+will|will\s+be|is\s+going\s+to\s+be)\s+(?:automatically\s+)?(?:debit(?:ed)?|charged?|deducted)\b[^.!?]{0,30}[$€£]\s?\d|)"
+     R"(\b(?:automatic|auto)\s+(?:charge|debit|renewal)\s+of\s+[$€£]?\s?\d|)"
      R"(\b(?:session|access|log-?in|link|token|certificate|authentication|security\s+(?:certificate|token)|2fa|mfa)\b[^.!?]{0,25}\b(?:has\s+expired|have\s+expired|is\s+expired|expired|will\s+expire|expires|is\s+expiring|is\s+about\s+to\s+expire|about\s+to\s+expire|due\s+to\s+expire|timed\s+out|expiring)\b[^.!?]{0,60}\b(?:sign|log|click|verify|renew|re-?authenticate|update|continue|confirm|restore|extend|within|in\s+\d+)\b|)"
      R"(\b(?:subscription|membership|licen[cs]e|plan|account|domain|mailbox|storage|protection|hosting|antivirus|package)\b[^.!?]{0,20}\b(?:has\s+expired|have\s+expired|has\s+ended|is\s+expired|will\s+expire|expires|is\s+expiring|is\s+about\s+to\s+expire|about\s+to\s+expire|due\s+to\s+expire|will\s+be\s+terminated|has\s+lapsed|could\s+not\s+be\s+renewed|was\s+not\s+renewed)\b|)"
      R"(\b(?:re-?new|renew|extend|update|reactivate)\b[^.!?]{0,15}\byour\s+(?:\w+\s+){0,3}(?:subscription|membership|licen[cs]e|protection|storage|plan|domain|hosting|access|session)\b|)"
@@ -176,15 +188,15 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"cred-deactivate", "Credential phishing", "warn", 25,
      "threatens to close or delete an account",
-     R"(\b(?:account|mailbox|wallet|e-?mail|profile|service|access|card|number|line|subscription|membership)\b[^.!?]{0,30}\b(?:will|is\s+going\s+to|shall|may|is\s+about\s+to|scheduled\s+to|would|to)\s+(?:soon\s+|then\s+|automatically\s+|permanently\s+|also\s+|otherwise\s+)?(?:be\s+)?(?:\w+ly\s+)?(?:closed|terminated|deactivated|deleted|removed|cancell?ed|discontinued|shut\s?down|disconnected|disabled|erased|lose\s+access)\b|)"
-     R"(\b(?:failure|fail|failing|refusal|unable)\s+to\b[^.!?]{0,60}\b(?:result\s+in|lead\s+to|cause|means?)\b[^.!?]{0,40}\b(?:closure|termination|deactivation|deletion|loss|suspension|interruption|cancell?ation|disconnection|restriction|permanent)\b|)"
-     R"(\b(?:request|requested|request\s+received|instruction)\b[^.!?]{0,20}\b(?:to|for)\s+(?:the\s+)?(?:terminate|close|delete|de-?activate|shut\s?down|deactivation|termination|deletion|closure|removal)\b[^.!?]{0,15}\b(?:your|of)\b[^.!?]{0,12}\b(?:account|mailbox|e-?mail|service|wallet)\b|)"
-     R"(\b(?:avoid|prevent)\b[^.!?]{0,20}\b(?:account\s+|service\s+|permanent\s+|immediate\s+|any\s+)?(?:closure|termination|deactivation|deletion|suspension|interruption|disruption|restriction|loss\s+of\s+(?:access|service|data)|losing\s+access|being\s+(?:closed|locked|suspended|deactivated|disabled))\b|)"
-     R"(\b(?:konto|account|zugang|postfach|abonnement|karte)\b[^.!?]{0,40}\b(?:gelöscht|geschlossen|gekündigt|deaktiviert|abgeschaltet|entfernt)\b[^.!?]{0,10}\b(?:wird|werden|würde)\b|)"
-     R"(\b(?:wird|werden)\b[^.!?]{0,30}\b(?:konto|account|zugang|postfach|karte)\b[^.!?]{0,30}\b(?:gelöscht|geschlossen|deaktiviert|abgeschaltet|gesperrt)\b|)"
-     R"(\b(?:compte|accès|carte|ligne)\s+(?:\w+\s+){0,2}sera\s+(?:\w+\s+){0,2}(?:ferm|supprim|désactiv|résili|clôtur)é|)"
-     R"(\b(?:cuenta|conta|acesso|acceso|servi[çc]io?)\b[^.!?]{0,20}\b(?:ser[áa]|podr[áa]\s+ser|poder[áa]\s+ser)\s+(?:\w+\s+){0,2}(?:cerrad|eliminad|cancelad|desactivad|encerrad|exclu[íi]d|desativad|deletad|interromp|suspens|bloquead)|)"
-     R"(\buw\s+(?:\w+\s+){0,2}(?:account|rekening|pas|mailbox)\s+wordt\s+(?:\w+\s+){0,2}(?:gesloten|verwijderd|beëindigd|geblokkeerd|gedeactiveerd)\b)",
+     R"(\b(?:account|mailbox|wallet|profile|e-?mail\s+address|your\s+(?:\w+\s+)?(?:service|access|card|number|line|subscription|membership))\b[^.!?]{0,15}\b(?:will|is\s+going\s+to|shall|is\s+about\s+to|is\s+scheduled\s+to|is\s+due\s+to|has\s+been\s+scheduled\s+to)\s+(?:soon\s+|then\s+|automatically\s+|permanently\s+|also\s+|otherwise\s+)?be\s+(?:\w+ly\s+)?(?:closed|terminated|deactivated|deleted|removed|cancell?ed|discontinued|shut\s?down|disconnected|disabled|erased|suspended)\b|)"
+     R"(\b(?:request|requested|instruction)\b[^.!?]{0,20}\b(?:to|for)\s+(?:the\s+)?(?:terminate|close|delete|de-?activate|shut\s?down|deactivation|termination|deletion|closure)\b[^.!?]{0,15}\b(?:your|of)\b[^.!?]{0,12}\b(?:account|mailbox|e-?mail|service|wallet)\b|)"
+     R"(\b(?:avoid|prevent)\b[^.!?]{0,20}\b(?:(?:account|service|permanent|access)\s+(?:closure|termination|deactivation|deletion|suspension|interruption|disruption|restrictions?|loss)|(?:closure|termination|deactivation|deletion|suspension|interruption|restriction|loss)\s+of\s+(?:your|the|this|access|service|data)|losing\s+access|being\s+(?:closed|locked|suspended|deactivated|disabled))\b|)"
+     R"(\b(?:you\s+(?:will|may|could)|your|permanently|risk\s+of)\s+(?:\w+\s+)?(?:lose|losing)\s+(?:access|your\s+(?:account|data|files|photos|wallet|funds|assets))\b|)"
+     R"(\b(?:konto|account|zugang|postfach|abonnement|karte|profil)\b[^.!?]{0,40}\b(?:gelöscht|geschlossen|gekündigt|deaktiviert|abgeschaltet|gesperrt)\s+(?:wird|werden|würde)\b|)"
+     R"(\b(?:wird|werden)\b[^.!?]{0,30}\b(?:konto|account|zugang|postfach|karte|profil)\b[^.!?]{0,30}\b(?:gelöscht|geschlossen|deaktiviert|abgeschaltet|gesperrt)\b|)"
+     R"(\b(?:compte|accès|carte|ligne)\s+(?:\w+\s+){0,2}sera\s+(?:\w+\s+){0,2}(?:ferm|supprim|désactiv|résili|clôtur|suspend|bloqu)|)"
+     R"(\b(?:cuenta|conta|acesso|acceso|servi[çc]io?|cadastro|benef[íi]cio)\b[^.!?]{0,20}\b(?:ser[áa]|podr[áa]\s+ser|poder[áa]\s+ser)\s+(?:\w+\s+){0,2}(?:cerrad|eliminad|cancelad|desactivad|encerrad|exclu[íi]d|desativad|deletad|interromp|suspens|suspend|bloquead)|)"
+     R"(\buw\s+(?:\w+\s+){0,2}(?:account|rekening|pas|mailbox)\s+wordt\s+(?:\w+\s+){0,2}(?:gesloten|verwijderd|beëindigd|geblokkeerd|gedeactiveerd|opgeschort)\b)",
      true},
 
     // ---- Child sexual abuse --------------------------------------------------------------------
@@ -367,36 +379,51 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"bec-update-payment", "Payment redirection", "warn", 50,
      "asks for stored payment or payee details to be changed",
-     R"(\b(?:update|change|amend|replace|revise|switch|modify|edit)\b[^.!?]{0,25}\b(?:your\s+records|our\s+(?:bank|payment|account|remittance|vendor|supplier)|my\s+(?:bank|payment|account|direct\s+deposit|payroll|salary)|the\s+(?:bank|banking|beneficiary|payee|vendor|supplier|remittance|account\s+on\s+file))\b[^.!?]{0,30}\b(?:details|information|info|account|records?|file|instructions|profile|bank|deposit|with)\b|)"
-     R"(\b(?:update|amend|change)\s+(?:the\s+|our\s+|my\s+)?(?:bank(?:ing)?|payment|payee|beneficiary|vendor|remittance|direct\s+deposit|payroll|ach|wire)\s+(?:account\s+|bank\s+)?(?:details|information|info|instructions|record|profile|account|file)\b|)"
+     R"(\b(?:update|change|amend|replace|revise|switch|modify|edit)\b[^.!?]{0,25}\b(?:our\s+(?:bank|payment|account|remittance|ach)|my\s+(?:bank|payment|account|direct\s+deposit|payroll|salary|pay\s?check)|the\s+(?:bank|banking|beneficiary|payee|remittance|account\s+on\s+file))\b[^.!?]{0,30}\b(?:details|information|info|account|records?|on\s+file|instructions|bank|deposit|with)\b|)"
+     R"(\b(?:update|amend|change)\s+(?:the\s+|our\s+|my\s+|your\s+)?(?:bank(?:ing)?|payment|payee|beneficiary|remittance|direct\s+deposit|payroll|ach|wire)\s+(?:account\s+|bank\s+)?(?:details|information|info|instructions|record|account|file)\b[^.!?]{0,60}\b(?:pay\w*|new|below|attached|invoices?|salary|deposit|effective|on\s+file|records?|before|change[ds]?|bank)\b|)"
      R"(\b(?:change|update|switch)\b[^.!?]{0,20}\bmy\s+(?:bank\s+(?:account|details|information)|direct\s+deposit|salary\s+account|payroll|pay\s?check|account\s+(?:details|on\s+file))\b|)"
-     R"(\b(?:use|note|save|find|adopt)\b[^.!?]{0,25}\b(?:the|our|my|these|this|following)\s+(?:new|updated|revised|amended|correct)\s+(?:\w+\s+){0,2}(?:account|details|instructions|information)\b[^.!?]{0,40}\b(?:payments?|remit\w*|invoices?|transfers?|deposits?|wires?|transactions?)\b|)"
-     R"(\b(?:ändern|aktualisieren|hinterlegen)\s+Sie[^.!?]{0,40}\b(?:bankverbindung|bankdaten|kontodaten|iban|gehaltskonto)\b|)"
-     R"(\b(?:mett(?:re|ez)\s+à\s+jour|modifie[rz]|remplace[rz])\b[^.!?]{0,30}\b(?:nos|mes|notre|mon)\s+(?:coordonnées\s+bancaires|rib|iban|compte)\b|)"
+     R"(\b(?:replace|change|update)\s+(?:the\s+|my\s+|our\s+)?(?:bank\s+)?account\s+(?:details\s+)?on\s+file\b|)"
+     R"(\b(?:update|change)\s+the\s+(?:beneficiary|payee)\b[^.!?]{0,60}\b(?:pay\w*|account|transfer|wire|run|supplier|vendor|details)\b|)"
+     R"(\b(?:salary|pay\s?check|payroll|direct\s+deposit|wages|my\s+pay)\b[^.!?]{0,40}\b(?:to|into|with)\s+(?:a\s+|my\s+|the\s+)?(?:new|different|another|other)\s+(?:\w+\s+){0,2}(?:account|bank)\b|)"
+     R"(\b(?:direct\s+deposit|payroll|salary)\b[^.!?]{0,60}\b(?:change|update|switch|new)\b[^.!?]{0,40}\b(?:before|effective|for|by|take\s+effect|in\s+time)\b[^.!?]{0,20}\b(?:pay|payroll|pay\s?day|current\s+pay|next|upcoming|friday|this\s+month)\b|)"
+     R"(\b(?:use|note|save|find|adopt|view)\b[^.!?]{0,25}\b(?:the|our|my|these|this|following|corrected)\s+(?:new\s+|updated\s+|revised\s+|amended\s+|correct\s+|corrected\s+)(?:\w+\s+){0,2}(?:account|details|instructions|information)\b[^.!?]{0,40}\b(?:payments?|remit\w*|invoices?|transfers?|deposits?|wires?|transactions?)\b|)"
+     R"(\b(?:please\s+|kindly\s+)(?:update|amend)\s+your\s+(?:records|files?|system|vendor\s+(?:file|record))\b[^.!?]{0,80}\b(?:bank|account|remit\w*|payments?|acknowledge|confirm)\b|)"
+     R"(\b(?:ändern|aktualisieren|hinterlegen|anpassen)\b[^.!?]{0,40}\b(?:bankverbindung|bankdaten|kontodaten|iban|gehaltskonto)\b|)"
+     R"(\b(?:bankverbindung|bankdaten|kontodaten|kontoverbindung|iban|gehaltskonto)\b[^.!?]{0,50}\b(?:gehalt\w*|lohn\w*|hinterleg\w+|aktualisier\w+|anpass\w+)\b|)"
+     R"(\b(?:mett(?:re|ez)\s+à\s+jour|modifie[rz]|remplace[rz]|changer)\b[^.!?]{0,30}\b(?:nos|mes|notre|mon|le)\s+(?:coordonnées\s+bancaires|rib|iban|compte)\b|)"
      R"(\b(?:actuali[cz]\w+|cambi\w+|atualiz\w+|alter\w+)\b[^.!?]{0,25}\b(?:mis?|nuestr[oa]s?|meus?|minha|noss[oa]s?)\s+(?:datos\s+bancarios|cuenta|dados\s+banc[áa]rios|conta)\b)",
      true},
     {"bec-redirect-payment", "Payment redirection", "warn", 50,
      "asks for payments to go to a different account than before",
-     R"(\b(?:send|make|direct|redirect|remit|route|re-?route|transfer|wire|pay|forward|deposit|process|issue)\b[^.!?]{0,30}\b(?:all\s+|any\s+|future\s+|outstanding\s+|upcoming\s+|further\s+|pending\s+|subsequent\s+|this\s+|the\s+)(?:\w+\s+){0,2}(?:payments?|invoices?|remittances?|transfers?|wires?|funds|deposits?|balances?)\b[^.!?]{0,40}\b(?:new|different|alternative|alternate|another|following|below|updated|attached|other|designated|subsidiary|nominated)\b[^.!?]{0,20}\b(?:account|bank|details|instructions|information|beneficiary|iban|coordinates)\b|)"
-     R"(\b(?:stop|hold|halt|suspend|do\s+not|don['’]t|cease|refrain\s+from|avoid)\b[^.!?]{0,15}\b(?:send|mak|remit|pay|transfer|process|us|wir)(?:e|ing|ting)?\b[^.!?]{0,40}\b(?:payments?|old|previous|usual|former|existing|current)\b[^.!?]{0,15}\b(?:account|bank|details)\b|)"
-     R"(\b(?:payments?|transfers?|funds|wires?|remittances?|invoices?)\b[^.!?]{0,25}\b(?:should|must|will|to|needs?\s+to|can)\s+(?:now\s+|only\s+|henceforth\s+|be\s+)*(?:be\s+)?(?:made|sent|paid|remitted|directed|deposited|credited|transferred|wired)\b[^.!?]{0,20}\b(?:to|into)\b[^.!?]{0,15}\b(?:new|different|alternative|another|following|below|updated|our\s+other|subsidiary)\b|)"
-     R"(\b(?:process|arrange|initiate|make|send|complete|issue|effect|execute|prioriti[sz]e|handle|set\s+up)\b[^.!?]{0,25}\b(?:a|an|the|this|that|my|our|same-day|domestic|international|urgent|outgoing|bank)\b[^.!?]{0,20}\b(?:fund|funds|wire|bank|ach|swift|money|payment|zelle|same-day|international)?\s?(?:transfer|wire|payment|deposit|remittance)\b[^.!?]{0,40}\b(?:to|into|using|with)\b[^.!?]{0,20}\b(?:bank|account|details|beneficiary|vendor|instructions|information)\b[^.!?]{0,15}\b(?:below|attached|following|provided|details|account|information|here)\b|)"
-     R"(\b(?:account|bank)\s+(?:details|information)\s+(?:below|attached|as\s+follows|provided)\b[^.!?]{0,60}\b(?:transfer|wire|payment|remit|pay)\b|)"
+     R"(\b(?:send|make|direct|redirect|remit|route|re-?route|transfer|wire|pay|forward|deposit|process|issue)\b[^.!?]{0,30}\b(?:all\s+|any\s+|future\s+|outstanding\s+|upcoming\s+|further\s+|pending\s+|subsequent\s+|this\s+|the\s+|open\s+|remaining\s+)(?:\w+\s+){0,3}(?:payments?|invoices?|remittances?|transfers?|wires?|funds|deposits?|balances?)\b[^.!?]{0,50}\b(?:new|different|alternative|alternate|another|following|below|updated|attached|other|designated|subsidiary|nominated|corrected|stated)\b[^.!?]{0,20}\b(?:account|bank|details|instructions|information|beneficiary|iban|coordinates|below)\b|)"
+     R"(\b(?:stop|hold|halt|suspend|do\s+not|don['’]t|cease|refrain\s+from|avoid|no\s+longer|discontinue|disregard|ignore)\b[^.!?]{0,20}\b(?:send|mak|remit|pay|transfer|process|us|wir|the|any|all|be\s+sent)(?:e|ing|ting)?\b[^.!?]{0,40}\b(?:payments?|old|previous|usual|former|earlier|existing|current)\b[^.!?]{0,25}\b(?:account|bank|details|instructions|until)\b|)"
+     R"(\b(?:payments?|transfers?|funds|wires?|remittances?|invoices?|balance|money|deposit)\b[^.!?]{0,25}\b(?:should|must|will|has|have|needs?|can|is)\s+(?:to\s+)?(?:now\s+|only\s+|henceforth\s+|no\s+longer\s+|be\s+)*(?:be\s+)?(?:go|made|sent|paid|remitted|directed|deposited|credited|transferred|wired)\b[^.!?]{0,20}\b(?:to|into)\b[^.!?]{0,20}\b(?:new|different|alternative|another|following|below|updated|our\s+other|subsidiary\w*|escrow|sister\s+company|trust\s+account|factoring|our\s+\w+\s+partner)\b|)"
+     R"(\b(?:pay|payment|transfer|wire|remit|send\s+it|paid)\b[^.!?]{0,30}\b(?:into|to|in)\b[^.!?]{0,12}\b(?:our|my|their|a|the|your)\s+(?:new|alternative|subsidiary['’]?s?|other|sister\s+company['’]?s?|corrected|second|foreign)\s+(?:\w+\s+)?(?:account|bank|company)\b|)"
+     R"(\b(?:process|arrange|initiate|make|send|complete|issue|effect|execute|prioriti[sz]e|handle|set\s+up)\b[^.!?]{0,25}\b(?:fund|funds|wire|bank|ach|swift|money|same-day|international|domestic|outgoing|urgent)?\s?(?:transfer|wire|payment|deposit|remittance)\b[^.!?]{0,40}\b(?:to|into|using|with)\b[^.!?]{0,20}\b(?:bank|account|beneficiary|vendor|payment)\s+(?:account\s+)?(?:details|information|instructions|coordinates)\b[^.!?]{0,15}\b(?:below|attached|following|provided|here|i|given|above)?|)"
+     R"(\b(?:bank|account|wire|payment|beneficiary)\s+(?:account\s+)?(?:details|information|coordinates|instructions)\s+(?:below|attached|as\s+follows|provided|are\s+below|are\s+attached|shortly|once|as\s+soon\s+as|when|right\s+away|after)\b[^.!?]{0,80}\b(?:transfer|wire|payment|remit|pay|confirm\w*|done|ready|available|hear)\b|)"
+     R"(\b(?:i['’]ll|i\s+will|i\s+can|will|let\s+me|shall|can)\s+(?:\w+\s+)?(?:send|forward|provide|give|email)\b[^.!?]{0,15}\b(?:you\s+)?(?:over\s+)?(?:the\s+|with\s+the\s+|you\s+the\s+)?(?:bank|account|wire|payment|beneficiary|payee|transfer|remittance)\s+(?:account\s+)?(?:details|information|info|instructions|coordinates)\b|)"
      R"(\b(?:künftig|zukünftig|ab\s+sofort)\w*\b[^.!?]{0,40}\b(?:zahlungen|überweis\w+|rechnungen)\b[^.!?]{0,40}\b(?:neue[ns]?|folgende[ns]?|andere[ns]?)\s+(?:konto|bankverbindung|iban)\b|)"
-     R"(\b(?:überweisen|zahlen)\s+Sie[^.!?]{0,50}\b(?:neue[ns]?|folgende[ns]?|andere[ns]?)\s+(?:konto|bankverbindung|iban)\b|)"
-     R"(\b(?:effectue[rz]|vire[rz]|verse[rz]|procéde[rz])\b[^.!?]{0,50}\b(?:nouveau|nouvelle|suivant|autre)\s+(?:compte|rib|iban)\b|)"
-     R"(\b(?:transfi[er]\w+|deposit\w+|envi\w+|realic\w+|fa[çc]a)\b[^.!?]{0,50}\b(?:nueva|siguiente|otra|nova|seguinte|outra)\s+(?:cuenta|conta)\b)",
+     R"(\b(?:überweisen|zahlen|leisten|begleichen)\b[^.!?]{0,70}\b(?:neue[ns]?|folgende[ns]?|andere[ns]?)\s+(?:konto|bankverbindung|iban)\b|)"
+     R"(\b(?:effectuer?z?|vire[rz]|verse[rz]|procéde[rz]|paiements?|virements?)\b[^.!?]{0,50}\b(?:nouveau|nouvelle|suivant|autre|ce)\s+(?:compte|rib|iban)\b|)"
+     R"(\b(?:transfi[er]\w+|deposit\w+|envi\w+|realic\w+|pagos?|fa[çc]a|pagamentos?)\b[^.!?]{0,50}\b(?:nueva|siguiente|otra|nova|seguinte|outra)\s+(?:cuenta|conta)\b|)"
+     R"((?:新しい口座|新口座|下記の口座|下記の新しい口座)[^。！？.!?]{0,20}(?:振|送金|支払|お願い)|)"
+     R"((?:下面|以下|新的?)[^。！？.!?]{0,6}(?:账户|帳戶|账号|帳號)[^。！？.!?]{0,15}(?:汇款|匯款|付款|打款|转账|轉帳)|)"
+     R"((?:汇款|匯款|付款|打款|款打|转账|轉帳)[^。！？.!?]{0,10}(?:下面|以下|新的)[^。！？.!?]{0,8}(?:账户|帳戶|账号|帳號)|)"
+     R"((?:새로운|아래의?|변경된)\s?(?:계좌)[^.!?。]{0,8}(?:로|으로)[^.!?。]{0,8}(?:송금|입금|이체))",
      true},
     {"bec-urgent-wire", "Payment redirection", "warn", 45,
      "presses for an urgent payment or transfer",
-     R"(\b(?:urgent|urgently|immediate|immediately|asap|a\.s\.a\.p|as\s+soon\s+as\s+possible|right\s+away|today|this\s+morning|this\s+afternoon|same[- ]day|quickly|promptly|priority|prioriti[sz]e|prioriti[sz]ing|expedite|before\s+(?:close|the\s+close|end|noon|cob|cut-?off)|end\s+of\s+day|eod|cob)\b[^.!?]{0,60}\b(?:wire|wires|fund\s+transfer|funds\s+transfer|bank\s+transfer|wire\s+transfer|ach|swift|domestic\s+transfer|international\s+transfer|outgoing\s+(?:payment|transfer)|vendor\s+payment|payment\s+(?:to|for)\s+(?:a|the|our|new)\s+(?:new\s+)?(?:vendor|supplier|contractor|consultant|attorney))\b|)"
-     R"(\b(?:wire|fund\s+transfer|funds\s+transfer|bank\s+transfer|wire\s+transfer|ach\s+payment|ach\s+transfer|outgoing\s+(?:payment|transfer)|vendor\s+payment|transfer\s+of\s+funds)\b[^.!?]{0,60}\b(?:urgent|urgently|immediately|asap|as\s+soon\s+as\s+possible|right\s+away|today|this\s+morning|this\s+afternoon|same[- ]day|quickly|priority|prioriti[sz]ed?|before\s+(?:close|the\s+close|end|noon|cob|cut-?off)|end\s+of\s+day|eod|cob|now)\b|)"
-     R"(\b(?:process|make|send|set\s+up|initiate|handle|arrange|complete|release|execute|need|prioriti[sz]e|take\s+care\s+of|effect)\w*\b[^.!?]{0,20}\b(?:a|an|the|this|out|processing)\b[^.!?]{0,15}\b(?:urgent\s+|same[- ]day\s+|immediate\s+|quick\s+|domestic\s+|international\s+|pending\s+|outstanding\s+)*(?:wire|fund\s+transfer|funds\s+transfer|wire\s+transfer|bank\s+transfer|transfer\s+of\s+funds|ach\s+transfer|zelle|swift\s+transfer)\b|)"
-     R"(\b(?:urgent|immediate|overdue|outstanding|pending|confidential)\b[^.!?]{0,10}\b(?:payment|transfer|wire|remittance|settlement)\b[^.!?]{0,40}\b(?:processed|made|sent|completed|settled|cleared|released|handled|request|need(?:s|ed)?\s+to)\b|)"
-     R"(\b(?:dringend\w*|sofort|umgehend|heute\s+noch|unverzüglich|eilig\w*|eil)\b[^.!?]{0,40}\b(?:überweis\w+|zahlung\w*|auslandsüberweisung|betrag)\b|)"
-     R"(\b(?:überweis\w+|auslandszahlung)\b[^.!?]{0,40}\b(?:dringend|sofort|umgehend|heute|unverzüglich)\b|)"
+     R"(\b(?:urgent|urgently|immediate|immediately|asap|a\.s\.a\.p|as\s+soon\s+as\s+possible|right\s+away|today|this\s+morning|this\s+afternoon|same[- ]day|promptly|prioriti[sz]e|prioriti[sz]ing|expedite|before\s+(?:close|the\s+close|end|the\s+end|noon|cob|cut-?off|the\s+cut-?off)|by\s+(?:close|the\s+end|\d+\s?pm)|end\s+of\s+day|eod|cob)\b[^.!?]{0,60}\b(?:wire|wires|wired|fund\s+transfer|funds\s+transfer|bank\s+transfer|wire\s+transfer|ach\s+payment|ach\s+transfer|by\s+ach|swift\s+copy|swift\s+transfer|faster\s+payment|domestic\s+transfer|international\s+transfer|zelle|outgoing\s+(?:payment|transfer)|vendor\s+payment|payment\s+(?:to|for)\s+(?:a|the|our|new)\s+(?:new\s+)?(?:vendor|supplier|contractor|consultant|attorney)|payment\s+(?:made|sent|out|done|processed))\b|)"
+     R"(\b(?:wire|fund\s+transfer|funds\s+transfer|bank\s+transfer|wire\s+transfer|ach\s+payment|ach\s+transfer|faster\s+payment|zelle\s+payment|outgoing\s+(?:payment|transfer)|vendor\s+payment|transfer\s+of\s+funds|payments?\s+(?:to|for)\s+(?:a|the|our|new|my)\s+(?:new\s+)?(?:vendor|supplier|contractor|consultant|attorney)|this\s+transfer)\b[^.!?]{0,60}\b(?:urgent|urgently|immediately|asap|as\s+soon\s+as\s+possible|right\s+away|today|this\s+morning|this\s+afternoon|same[- ]day|quickly|priority|prioriti[sz]ed?|before\s+(?:close|the\s+close|end|noon|cob|cut-?off|the\s+cut-?off)|end\s+of\s+day|eod|cob)\b|)"
+     R"(\b(?:process|make|send|set\s+up|initiate|handle|arrange|release|execute|prioriti[sz]e|take\s+care\s+of|effect|push\s+through|do|complete)\w*\b[^.!?]{0,12}\b(?:a|an|the|this|out|processing|two|another)\b[^.!?]{0,8}\b(?:urgent\s+|same[- ]day\s+|immediate\s+|quick\s+|domestic\s+|international\s+|pending\s+|outstanding\s+|outgoing\s+|new\s+)*(?:wire|fund\s+transfer|funds\s+transfer|wire\s+transfer|bank\s+transfer|transfer\s+of\s+funds|ach\s+transfer|ach\s+payment|zelle|zelle\s+payment|swift\s+transfer|faster\s+payment|domestic\s+transfer|international\s+transfer|outgoing\s+(?:payment|transfer|bank\s+transfer|wire))\b|)"
+     R"(\b(?:urgent|immediate|confidential|same[- ]day)\s+(?:\w+\s+)?(?:payment|transfer|wire|remittance)\b|)"
+     R"(\b(?:remit|transfer|wire|pay)\b[^.!?]{0,40}\b(?:today|immediately|asap|right\s+away|same[- ]day)\b[^.!?]{0,40}\b(?:by\s+(?:ach|wire|swift|bank\s+transfer)|swift|proof\s+of\s+payment|confirmation|slip|receipt)\b|)"
+     R"(\b(?:payment|transfer|invoice|balance|deposit)\b[^.!?]{0,30}\b(?:must|has\s+to|needs?\s+to|should|to)\s+(?:be\s+)?(?:go\s+out|sent|made|paid|settled|done|out|processed|completed|released|cleared)\b[^.!?]{0,15}\b(?:today|this\s+morning|this\s+afternoon|asap|before\s+(?:noon|close|the\s+close|end|cob)|by\s+(?:noon|close|the\s+end|\d+\s?pm)|immediately|right\s+away|within\s+the\s+hour)\b|)"
+     R"(\b(?:send|email|forward|let\s+me\s+have|give|get)\b[^.!?]{0,12}\b(?:me\s+|us\s+)?(?:the\s+|a\s+)?(?:swift\s+copy|proof\s+of\s+payment|payment\s+(?:confirmation|receipt|slip)|confirmation\s+(?:page|slip|of\s+(?:the\s+)?(?:payment|transfer|wire))|wire\s+confirmation|remittance\s+(?:slip|copy)|transfer\s+(?:slip|confirmation|receipt)|the\s+swift)\b|)"
+     R"(\b(?:dringend\w*|sofort|umgehend|heute\s+noch|unverzüglich|eilig\w*|eil)\b[^.!?]{0,40}\b(?:überweis\w+|auslandsüberweisung)\b|)"
+     R"(\b(?:überweis\w+|auslandszahlung)\b[^.!?]{0,40}\b(?:dringend|sofort|umgehend|heute\s+noch|unverzüglich)\b|)"
      R"(\b(?:virement|paiement|transfert)\b[^.!?]{0,30}\b(?:urgent\w*|immédiat\w*|aujourd['’]hui|dans\s+la\s+journée|rapidement|au\s+plus\s+vite)\b|)"
-     R"(\b(?:transferencia|pago|transfer[êe]ncia|pagamento|pix)\b[^.!?]{0,30}\b(?:urgente\w*|inmediat\w+|imediat\w+|hoy|hoje|cuanto\s+antes|o\s+quanto\s+antes)\b|)"
+     R"(\b(?:transferencia|transfer[êe]ncia|pix|pago|pagamento)\b[^.!?]{0,30}\b(?:urgente\w*|inmediat\w+|imediat\w+|cuanto\s+antes|o\s+quanto\s+antes)\b|)"
      R"(\b(?:spoed\w*|dringende?|vandaag\s+nog)\b[^.!?]{0,30}\b(?:overboeking|betaling|overmaken)\b|)"
      R"((?:紧急|緊急|马上|馬上|立即|尽快|盡快)[^。！？.!?]{0,10}(?:汇款|匯款|转账|轉帳|转帐|付款|打款)|)"
      R"((?:至急|緊急|本日中)[^。！？.!?]{0,15}(?:送金|振込|振り込み|支払)|)"
@@ -415,6 +442,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"bec-overdue", "Payment redirection", "warn", 20,
      "says a payment is overdue or a debt is open",
+     R"(\b(?:payment\s+(?:failed|declined|method\s+(?:isn['’]t|is\s+not|has|was)\s+(?:\w+\s+)?(?:working|expired|declined|rejected))|problem\s+with\s+your\s+(?:\w+\s+)?(?:payment|billing)|trouble\s+with\s+your\s+(?:\w+\s+)?(?:payment|billing)|attempted\s+to\s+charge)\b|)"
      R"(\b(?:invoice|payment|balance|bill|account|amount|fee|toll|fine|debt|fees|invoices|payments|subscription|tax|charge)s?\b[^.!?]{0,25}\b(?:is|are|was|were|remains?|still|now|being|has\s+been|have\s+been|has\s+become|seems|appears)\b[^.!?]{0,15}\b(?:overdue|past\s+due|outstanding|unpaid|delinquent|in\s+arrears|due\s+now|not\s+(?:yet\s+)?been\s+(?:paid|settled|received))\b|)"
      R"(\b(?:overdue|past\s+due|outstanding|unpaid|delinquent)\b[^.!?]{0,12}\b(?:invoices?|payments?|balances?|bills?|accounts?|amounts?|fees?|tolls?|fines?|debts?|tax(?:es)?|charges?|dues)\b|)"
      R"(\b(?:settle|pay|clear|remit|resolve)\b[^.!?]{0,20}\b(?:outstanding|overdue|unpaid|remaining|past[- ]due|open|pending)\b[^.!?]{0,12}\b(?:balance|amount|invoices?|bills?|payments?|fees?|charges?|debts?|tolls?)\b|)"
@@ -427,23 +455,37 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:openstaande?|onbetaalde|achterstallige)\b[^.!?]{0,12}\b(?:rekening\w*|factu\w+|bedrag|betaling\w*|boete\w*|schuld)\b)",
      true},
     {"bec-ceo-request", "Payment redirection", "warn", 35,
-     "a superior's request for a discreet task or favour, the opening of executive impersonation",
-     R"(\b(?:i|we)\s+(?:need|want|would\s+like|['’]d\s+like|require|am\s+counting\s+on)\b[^.!?]{0,15}\byou\s+to\b[^.!?]{0,30}\b(?:handle|take\s+care\s+of|complete|carry\s+out|run|do|process|assist|execute|get|perform)\b[^.!?]{0,25}\b(?:task|errand|assignment|transaction|payment|transfer|purchase|acquisition|something|wire|favou?r|request)\b|)"
-     R"(\b(?:handle|take\s+care\s+of|complete|carry\s+out|run|attend\s+to|assist\s+(?:me\s+)?(?:with|in|on)|help\s+(?:me\s+)?(?:with|out\s+with)|do|execute)\b[^.!?]{0,15}\b(?:a|an|this|some|one)\b[^.!?]{0,8}\b(?:quick\s+|urgent\s+|small\s+|important\s+|confidential\s+|personal\s+|discreet\s+|brief\s+|little\s+|sensitive\s+){1,3}(?:task|errand|assignment|project|matter|request|favou?r|something|transaction|purchase|payment)\b|)"
-     R"(\b(?:quick|urgent|confidential|personal|discreet|brief|time[- ]sensitive)\s+(?:task|errand|assignment|request|favou?r)\b|)"
-     R"(\b(?:send|give|text|drop|share|reply\s+with|forward|provide|need|confirm)\b[^.!?]{0,20}\b(?:me\s+)?(?:your|ur)\s+(?:\w+\s+){0,2}(?:cell\s?phone|mobile|cell|whats\s?app|personal|direct|phone|telephone|contact)(?:\s+phone)?(?:\s+contact)?\s?(?:number|no|line|#)?\b[^.!?]{0,60}\b(?:task|urgent|assist|need|handle|text|quick|request|immediately|asap|right\s+away|instructions|details|discuss)\b|)"
-     R"(\b(?:ceo|cfo|managing\s+director|chief\s+executive|president|chairman|director)\b[^.!?]{0,60}\b(?:asked\s+me|instructed|wants|requires|has\s+approved|approved|authori[sz]ed)\b[^.!?]{0,40}\b(?:payment|transfer|wire|you\s+to|invoice|gift)\b|)"
-     R"(\b(?:ich\s+brauche|ich\s+benötige|kannst\s+du|können\s+sie)\b[^.!?]{0,40}\b(?:dringende|vertrauliche|kurze|wichtige)\s+(?:aufgabe|zahlung|transaktion|überweisung|sache)\b|)"
-     R"(\b(?:j['’]ai\s+besoin|pouvez-vous|peux-tu)\b[^.!?]{0,50}\b(?:tâche|opération|transaction|mission)\s+(?:urgente?|confidentielle)\b|)"
-     R"(\b(?:necesito|preciso|puede[s]?|pode)\b[^.!?]{0,50}\b(?:tarea|tarefa|operaci[óo]n|opera[çc][ãa]o|gesti[óo]n|transacci[óo]n)\s+(?:urgente|confidencial|r[áa]pida)\b)",
+     "is a superior's request for a discreet task or payment, the opening of executive impersonation",
+     R"(\b(?:i|we)\s+(?:need|want|would\s+like|['’]d\s+like|require|am\s+counting\s+on)\b[^.!?]{0,8}\byou\s+to\b[^.!?]{0,30}\b(?:handle|take\s+care\s+of|complete|carry\s+out|run|do|process|execute|make|send|set\s+up|initiate|arrange|pay|purchase)\b[^.!?]{0,25}\b(?:task|errand|assignment|transaction|payments?|transfers?|purchase|wire|new\s+payee|gift\s+cards?|out\s+two|[$€£]\s?\d)\b|)"
+     R"(\b(?:handle|take\s+care\s+of|complete|carry\s+out|run|attend\s+to|assist\s+(?:me\s+)?(?:with|in|on)|help\s+(?:me\s+)?(?:with|out\s+with)|do|execute)\b[^.!?]{0,15}\b(?:a|an|this|some|one)\b[^.!?]{0,8}\b(?:quick\s+|urgent\s+|small\s+|confidential\s+|personal\s+|discreet\s+|brief\s+|little\s+|sensitive\s+){1,3}(?:task|errand|assignment|matter|favou?r|something|transaction|purchase|payment)\b|)"
+     R"(\b(?:urgent|confidential|personal|discreet|time[- ]sensitive|quick)\s+(?:task|errand|assignment)\b|)"
+     R"(\brun\s+an\s+errand\b[^.!?]{0,30}\b(?:for\s+me|quick\w*|today|now)\b|)"
+     R"(\b(?:can|could|would|will|kindly|please)\b[^.!?]{0,15}\b(?:you\s+)?(?:please\s+|kindly\s+)?(?:be\s+able\s+to\s+)?(?:prioriti[sz]e|process|make|initiate|arrange|set\s+up|do|push|execute|complete|send|get|handle|assist\s+(?:me\s+)?with)\b[^.!?]{0,20}\b(?:the\s+|a\s+|an\s+|this\s+|out\s+)?(?:wire|wire\s+transfer|fund\s+transfer|funds\s+transfer|bank\s+transfer|same[- ]day\s+payment|urgent\s+payment|payment\s+out|payment\s+to\s+(?:a|the)\s+vendor|ach|zelle|faster\s+payment|international\s+wire|international\s+transfer|domestic\s+transfer|outgoing\s+(?:payment|transfer)|transfer\s+to)\b|)"
+     R"(\b(?:what\s+is|what['’]s|tell\s+me|send\s+me|confirm|check|let\s+me\s+know)\b[^.!?]{0,15}\b(?:our\s+|the\s+)(?:current\s+|available\s+|company\s+|account\s+)*(?:account\s+)?balances?\b[^.!?]{0,30}\b(?:account|company|bank|today|now|right\s+away|can\s+we|whether|as\s+of|available|and)\b|)"
+     R"(\b(?:daily|transfer|wire|payment)\s+(?:transfer\s+|payment\s+|wire\s+)?limit\b[^.!?]{0,40}\b(?:company|account|transfers?|today|bank)\b|)"
+     R"(\b(?:what\s+(?:details|information)\s+do\s+you\s+need|which\s+details\s+do\s+you\s+need|let\s+me\s+know\s+what\s+(?:you|details|information))\b[^.!?]{0,30}\b(?:payment|transfer|wire|set\s+up|process|from\s+me|need)\b|)"
+     R"(\b(?:send|give|text|drop|share|reply\s+with|forward|provide|need|confirm)\b[^.!?]{0,20}\b(?:me\s+)?(?:your|ur)\s+(?:\w+\s+){0,2}(?:cell\s?phone|mobile|cell|whats\s?app|personal|phone|telephone)(?:\s+phone)?(?:\s+contact)?\s?(?:number|no|line|#)?\b[^.!?]{0,60}\b(?:task|urgent|assist|handle|text\s+you|quick|immediately|asap|right\s+away|instructions|errand)\b|)"
+     R"(\b(?:ceo|cfo|managing\s+director|chief\s+executive|president|chairman|director)\b[^.!?]{0,40}\b(?:asked\s+me|instructed|wants|requires|approved|authori[sz]ed)\b[^.!?]{0,40}\b(?:payment|transfer|wire|gift)\b|)"
+     R"(\b(?:w-?2s?|w-?2\s+forms?|p60s?|payslips|tax\s+statements)\b[^.!?]{0,30}\b(?:of|for)\s+(?:all|every|our)\b[^.!?]{0,20}\b(?:employees?|staff|personnel)\b|)"
+     R"(\b(?:aging|ageing)\s+report\b[^.!?]{0,80}\b(?:contact|e-?mail|customers?|outstanding)\b|)"
+     R"(\b(?:ich\s+brauche|ich\s+benötige|kannst\s+du|können\s+sie)\b[^.!?]{0,50}\b(?:dringende[nr]?|vertrauliche[nr]?|kurze[nr]?|wichtige[nr]?)\s+(?:aufgabe|zahlung|transaktion|überweisung|sache)\b|)"
+     R"(\b(?:j['’]ai\s+besoin|pouvez-vous|peux-tu|il\s+faut)\b[^.!?]{0,50}\b(?:tâche|opération|transaction|mission|virement)\s+(?:urgente?|confidentielle?|immédiat)\b|)"
+     R"(\b(?:necesito|preciso|puedes?|pode)\b[^.!?]{0,50}\b(?:tarea|tarefa|operaci[óo]n|opera[çc][ãa]o|gesti[óo]n|transacci[óo]n|transfer[êe]ncia|transferencia|pago|pagamento)\s+(?:urgente|confidencial|r[áa]pida|inmediat[oa])\b|)"
+     R"((?:开会|開會)[^。！？.!?]{0,15}(?:不方便|不能)[^。！？.!?]{0,6}(?:接电话|接電話|通话)|)"
+     R"((?:查一下|查询|告诉我|告訴我)[^。！？.!?]{0,10}(?:账户|帳戶|公司)[^。！？.!?]{0,6}(?:余额|餘額))",
      true},
     {"bec-confidential-pay", "Payment redirection", "warn", 45,
      "asks for a payment to be kept confidential",
-     R"(\b(?:confidential|confidentially|confidentiality|discreet|discreetly|discretion|strictly\s+between\s+us|between\s+(?:us|you\s+and\s+me)|keep\s+(?:this|it)\s+(?:quiet|private|secret|between\s+us)|private)\b[^.!?]{0,120}\b(?:payments?|transfers?|wires?|funds|acquisition|transaction|purchase|gift\s+cards?|invoices?|remittances?|deal)\b[^.!?]{0,60}\b(?:process|complete|made|send|handle|today|now|urgent|immediate\w*|until|announce\w*|discuss|mention|anyone|proceed|account|finali[sz]e\w*|execute)\b|)"
-     R"(\b(?:payments?|transfers?|wires?|acquisition|transaction|purchase|gift\s+cards?|request)\b[^.!?]{0,60}\b(?:keep|kept|remain|remains|treat|treated|stays?|handled|must\s+be|needs?\s+to\s+be)\b[^.!?]{0,20}\b(?:confidential|secret|private|discreet|discreetly|between\s+(?:us|you\s+and\s+me)|quiet|with\s+(?:utmost|the\s+utmost|strict)\s+(?:discretion|confidentiality)|confidentially)\b|)"
+     R"(\b(?:confidential|confidentially|confidentiality|discreet|discreetly|discretion|strictly\s+between\s+us|between\s+(?:us|you\s+and\s+me)|keep\s+(?:this|it)\s+(?:quiet|private|secret|between\s+us))\b[^.!?]{0,100}\b(?:payments?|transfers?|wires?|gift\s+cards?|remittances?|deal|down\s+payment|acquisition)\b[^.!?]{0,60}\b(?:process|complete|made|send|handle|today|now|urgent\w*|immediate\w*|until|announce\w*|mention|anyone|proceed|finali[sz]e\w*|execute|first|know|instructions)\b|)"
+     R"(\b(?:payments?|transfers?|wires?|acquisition|transaction|purchase|gift\s+cards?|deal)\b[^.!?]{0,60}\b(?:keep|kept|remain|remains|treat|treated|stays?|handled|must\s+be|needs?\s+to\s+be)\b[^.!?]{0,20}\b(?:confidential|secret|discreet|discreetly|between\s+(?:us|you\s+and\s+me)|quiet|with\s+(?:utmost|the\s+utmost|strict)\s+(?:discretion|confidentiality)|confidentially)\b[^.!?]{0,60}(?:\b(?:until|announce\w*|public\w*|payment|transfer|attorney|lawyer|today|anyone|office|us|instructions)\b|[.!?])|)"
+     R"(\bconfidential\s+(?:transaction|payment|transfer|assignment|acquisition|deal|purchase)\b|)"
+     R"(\b(?:nobody|no\s+one)\s+else\s+(?:should|must|may|is\s+to|needs\s+to)\s+(?:be\s+informed|know|hear)\b|)"
+     R"(\b(?:do\s+not|don['’]t)\s+(?:involve|inform)\s+(?:anyone|anybody)(?:\s+else)?\b|)"
+     R"(\bonly\s+you\s+and\s+(?:i|me)\b|)"
      R"(\b(?:vertraulich\w*|diskret\w*|verschwiegen\w*)\b[^.!?]{0,80}\b(?:zahlung\w*|überweisung\w*|transaktion\w*|übernahme|akquisition)\b|)"
-     R"(\b(?:zahlung|überweisung|transaktion|übernahme)\b[^.!?]{0,60}\b(?:vertraulich|diskret|geheim)\b|)"
+     R"(\b(?:zahlung|überweisung|transaktion|übernahme|sache)\b[^.!?]{0,60}\b(?:vertraulich|diskret|geheim)\b|)"
      R"(\b(?:confidentiel\w*|discrétion|discrètement)\b[^.!?]{0,80}\b(?:virement|paiement|transaction|acquisition|opération)\b|)"
+     R"(\b(?:virement|paiement|transaction|acquisition|opération)\b[^.!?]{0,40}\b(?:confidentiel\w*|discrétion|discrètement)\b|)"
      R"(\b(?:confidencial\w*|discreci[óo]n|sigilo\w*|discri[çc][ãa]o)\b[^.!?]{0,80}\b(?:transferencia|pago|transfer[êe]ncia|pagamento|transac\w+|adquisici[óo]n|aquisi[çc][ãa]o)\b)",
      true},
     {"bec-swift-iban", "Payment redirection", "warn", 30,
@@ -456,24 +498,29 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"bec-are-you-available", "Payment redirection", "warn", 20,
      "opens with a bare check that the reader is at hand",
-     R"(^[^.!?]{0,60}\bare\s+you\s+(?:\w+\s+)?(?:available|at\s+your\s+desk|in\s+the\s+office|free|around|busy|there|less\s+busy|at\s+work|online|on\s+seat|occupied)\b[^.!?]{0,25}(?:\?|\b(?:right\s+now|now|at\s+the\s+moment|today|this\s+morning|this\s+afternoon|currently|for)\b)|)"
-     R"(\bare\s+you\s+(?:\w+\s+)?(?:available|at\s+your\s+desk|free|less\s+busy|on\s+seat)\b[^.!?]{0,10}\b(?:now|at\s+the\s+moment|right\s+now|currently|to\s+assist|to\s+handle|to\s+help|to\s+run|to\s+process|to\s+make)\b|)"
-     R"(\b(?:let\s+me\s+know|get\s+back\s+to\s+me|reply|respond|email\s+me|text\s+me)\b[^.!?]{0,25}\b(?:if|when|as\s+soon\s+as|once)\s+you(?:\s+are|['’]re|\s+get|\s+have)\b[^.!?]{0,15}\b(?:available|free|at\s+your\s+desk|unoccupied|this|in\s+the\s+office|a\s+(?:minute|moment|sec))\b|)"
-     R"(\bdo\s+you\s+have\s+(?:a|a\s+few|some|any)\s+(?:spare\s+|free\s+|quick\s+)?(?:minutes?|moments?|time|seconds?|sec)\b[^.!?]{0,20}\b(?:now|today|right\s+now|for|to)\b|)"
-     R"(\b(?:sind\s+sie|bist\s+du)\s+(?:gerade\s+|jetzt\s+|heute\s+)?(?:verfügbar|im\s+büro|am\s+platz|erreichbar|frei)\b|)"
-     R"(\b(?:êtes-vous|es-tu|tu\s+es|vous\s+êtes)\s+(?:disponible|au\s+bureau|libre)\b|)"
-     R"(\b(?:est[áa]s?|voc[êe]\s+est[áa])\s+(?:disponible|dispon[íi]vel|en\s+la\s+oficina|no\s+escrit[óo]rio|libre|livre)\b|)"
-     R"(\bben\s+je\s+(?:beschikbaar|op\s+kantoor|vrij)\b)",
+     R"(\bare\s+you\s+(?:\w+\s+)?(?:available|at\s+your\s+desk|free|less\s+busy|on\s+seat|in\s+the\s+office|around)\b\s?(?:\?|(?:right\s+)?now\b|at\s+the\s+moment\b|today\b|currently\b|this\s+(?:morning|afternoon)\b|to\s+(?:assist|handle|help|run|process|make)\b)|)"
+     R"(\b(?:let\s+me\s+know|get\s+back\s+to\s+me|reply|respond|email\s+me|text\s+me)\b[^.!?]{0,12}\b(?:if|when|as\s+soon\s+as|once)\s+you(?:\s+are|['’]re)\b[^.!?]{0,10}\b(?:available|free|at\s+your\s+desk|ready|in\s+the\s+office)\b|)"
+     R"(\b(?:do\s+you\s+have|have\s+you\s+got|got)\s+(?:a|a\s+few|some|any)\s+(?:spare\s+|free\s+|quick\s+)?(?:minutes?|moments?|time|seconds?|sec)\b[^.!?]{0,12}(?:\?|\b(?:now|right\s+now|i\s+need)\b)|)"
+     R"(\b(?:did\s+you\s+(?:get|receive|see)\s+my|i['’]ve\s+been\s+trying\s+to\s+reach\s+you)\b[^.!?]{0,20}(?:e-?mail|message|text|\.|,)|)"
+     R"(\b(?:sind\s+sie|bist\s+du)\s+(?:gerade\s+|jetzt\s+|heute\s+)?(?:verfügbar|im\s+büro|am\s+platz|erreichbar)\b|)"
+     R"(\b(?:êtes-vous|es-tu|tu\s+es|vous\s+êtes)\s+(?:disponible|au\s+bureau)\b|)"
+     R"(\b(?:est[áa]s?|voc[êe]\s+est[áa])\s+(?:disponible|dispon[íi]vel|en\s+la\s+oficina|no\s+escrit[óo]rio)\b|)"
+     R"(\bben\s+je\s+(?:beschikbaar|op\s+kantoor)\b)",
      true},
     {"bec-favor", "Payment redirection", "warn", 20,
-     "asks for an unnamed favour",
-     R"(\b(?:need|ask|asking|do|want|request|have)\b[^.!?]{0,20}\b(?:a|an|one|some|your|me\s+a)\s+(?:\w+\s+){0,2}favou?r\b|)"
-     R"(\b(?:i|we)\s+(?:need|require|want|could\s+use)\b[^.!?]{0,10}\b(?:your|some)\s+(?:\w+\s+)?(?:help|assistance|urgent\s+attention|discretion)\b[^.!?]{0,40}\b(?:with|in|on|to|urgent\w*|right\s+away|confidential\w*|discreet\w*|today|now|asap)\b|)"
-     R"(\b(?:can|could|would|will)\s+you\s+(?:please\s+|kindly\s+)?(?:help|assist)\b[^.!?]{0,8}\b(?:me|us|out)\b[^.!?]{0,25}\b(?:with\s+something|urgent\w*|discreet\w*|quick\w*|confidential\w*|right\s+away|real\s+quick|errand|task|favou?r)\b|)"
-     R"(\b(?:need|want)\s+you\s+to\s+(?:do|handle|get|run|take\s+care\s+of)\s+(?:something|a\s+thing|this|it)\b[^.!?]{0,12}\b(?:for\s+me|urgent\w*|right\s+away|asap|now|discreet\w*)\b|)"
-     R"(\b(?:gefallen\s+(?:tun|bitten)|um\s+einen\s+gefallen|eine\s+bitte\s+an\s+(?:sie|dich))\b|)"
+     "asks for an unnamed favour or for urgent help",
+     R"(\b(?:need|ask|asking|want|request)\b[^.!?]{0,15}\b(?:a|an|one|some|your|me\s+a)\s+(?:\w+\s+){0,2}favou?r\s+(?:from\s+you|of\s+you)?\b|)"
+     R"(\b(?:do|doing)\s+me\s+(?:a|one)\s+(?:\w+\s+)?favou?r\b|)"
+     R"(\b(?:i|we)\s+(?:need|require|want|could\s+use|am\s+in\s+need\s+of|will\s+need)\b[^.!?]{0,10}\b(?:your|some)\s+(?:\w+\s+)?(?:help|assistance|attention|discretion)\b|)"
+     R"(\b(?:can|could|would|will)\s+you\s+(?:please\s+|kindly\s+|be\s+able\s+to\s+)*(?:help|assist)\b[^.!?]{0,8}\b(?:me|us|out)\b[^.!?]{0,25}\b(?:something|urgent\w*|discreet\w*|quick\w*|confidential\w*|right\s+away|real\s+quick|errand|task|favou?r|payment|transfer)\b|)"
+     R"(\b(?:need|want)\s+you\s+to\s+(?:do|handle|get|run|take\s+care\s+of)\s+(?:something|a\s+thing)\b|)"
+     R"(\bcan\s+i\s+trust\s+you\b|)"
+     R"(\bi(?:\s+am|['’]m)?\s+(?:counting|count|rely|relying|depend)\s+on\s+(?:your\s+discretion|you\s+for\s+this|you\s+to)\b|)"
+     R"(\b(?:gefallen\s+(?:tun|bitten)|um\s+einen\s+gefallen|ich\s+brauche\s+(?:dringend\s+)?(?:ihre|deine)\s+hilfe)\b|)"
      R"(\b(?:rends?|rendre|rendez)\b[^.!?]{0,10}\bun\s+(?:petit\s+)?service\b|)"
-     R"(\b(?:hazme|me\s+haces|haga|fa[çz]a|faz|preciso\s+de|necesito)\s+(?:un|um)\s+favor\b)",
+     R"(\b(?:j['’]ai\s+besoin\s+(?:de\s+votre\s+aide|que\s+vous))\b|)"
+     R"(\b(?:hazme|me\s+haces|haga|fa[çz]a|faz|preciso\s+de|necesito)\s+(?:un|um)\s+favor\b|)"
+     R"(\b(?:preciso\s+que\s+voc[êe]|necesito\s+que\s+(?:usted|hagas|haga|me))\b)",
      true},
 
     // ---- Gift card fraud -----------------------------------------------------------------------
@@ -483,9 +530,11 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"gift-card-buy", "Gift card fraud", "warn", 60,
      "talks the reader into buying gift cards for somebody else",
-     R"(\b(?:need|want|buy|buying|purchase|purchasing|pick(?:ing)?\s+up|get|getting|grab|procure|arrange|order|obtain|find|surprise|reward|appreciate|distribute|send|present)\b[^.!?]{0,60}\b(?:apple|i-?tunes|google\s+play|steam|amazon|e-?bay|visa|amex|american\s+express|vanilla|razer\s+gold|sephora|nike|walmart|target|best\s+buy|playstation|xbox|onevanilla|neosurf|paysafe(?:card)?|physical|e-?gift|several|some|different|few|few\s+pieces\s+of|pieces\s+of|quantities\s+of|a\s+number\s+of)\b[^.!?]{0,15}\b(?:gift\s?cards?|vouchers|cards?\s+worth|prepaid\s+cards?|cards?\s+of\s+\$?\d)\b|)"
-     R"(\b(?:gift\s?cards?)\b[^.!?]{0,50}\b(?:for|to)\s+(?:our\s+|some\s+|the\s+|my\s+|a\s+few\s+|all\s+|all\s+the\s+|few\s+)?(?:staff|employees?|clients?|team|colleagues?|veterans?|patients?|customers?|personnel|members\s+of\s+staff|hospice|niece|nephew|friend['’]?s?|associates?|prospects?|partners?|donation|diligent)\b|)"
-     R"(\b(?:buy|purchase|pick\s+up|get|grab)\b[^.!?]{0,30}\bgift\s?cards?\b[^.!?]{0,60}\b(?:for\s+me|on\s+my\s+behalf|from\s+(?:any|the\s+nearest|a)\s+(?:\w+\s+)?(?:store|shop)|nearest\s+store|at\s+the\s+store|right\s+away|asap|today|reimburs\w*|refund\s+you|pay\s+you\s+back|denomination)\b|)"
+     R"(\b(?:i\s+need|need\s+you|want\s+you|we\s+need|buy|buying|purchase|purchasing|pick(?:ing)?\s+(?:them\s+|some\s+)?up|get|getting|grab|procure|arrange|obtain|surprise|send|present)\b[^.!?]{0,60}\b(?:apple|i-?tunes|google\s+play|steam|amazon|e-?bay|visa|amex|american\s+express|vanilla|razer\s+gold|sephora|nike|walmart|target|best\s+buy|playstation|xbox|neosurf|paysafe(?:card)?|physical|e-?gift|several|different|pieces\s+of|quantities\s+of|a\s+number\s+of|some|few|\d+)\b[^.!?]{0,12}\b(?:gift\s?cards?|e-?gift\s+cards?|gift\s+vouchers?|(?:google\s+play|i-?tunes|steam|apple|amazon|razer\s+gold|vanilla)\s+(?:gift\s+)?cards?|prepaid\s+cards?|cards?\s+at\s+\$?\d|cards?\s+of\s+\$?\d|cards?\s+worth\s+\$?\d)\b[^.!?]{0,100}\b(?:for\s+(?:me|a|our|some|the|my|us|you)|today|now|asap|urgent\w*|reimburs\w*|refund|pay\s+you|client|customer|staff|team|employees?|surprise|partners?|store|how\s+soon|let\s+me\s+know|donat\w+|each|on\s+my\s+behalf)\b|)"
+     R"(\b(?:google\s+play|i-?tunes|steam|apple|razer\s+gold|vanilla)\s+(?:gift\s+)?cards?\b[^.!?]{0,40}\b(?:for\s+(?:a|our|my|some)\s+(?:client|customer|friend|partner|niece|nephew)|today|asap|each|worth|urgent\w*)\b|)"
+     R"(\bgift\s?cards?\b[^.!?]{0,40}\b(?:for|to)\s+(?:our\s+|some\s+|the\s+|my\s+|a\s+few\s+|all\s+|all\s+the\s+|few\s+|the\s+top\s+|our\s+top\s+)*(?:staff|employees?|clients?|team|colleagues?|veterans?|patients?|personnel|members\s+of\s+staff|hospice|niece|nephew|associates?|prospects?|partners?|diligent)\b|)"
+     R"(\b(?:surprise|reward|appreciate)\b[^.!?]{0,40}\b(?:staff|team|employees?|colleagues?|clients?)\b[^.!?]{0,40}\bgift\s?cards?\b|)"
+     R"(\b(?:buy|purchase|pick\s+up|get|grab)\b[^.!?]{0,30}\bgift\s?cards?\b[^.!?]{0,60}\b(?:for\s+me|on\s+my\s+behalf|from\s+(?:any|the\s+nearest|a)\s+(?:\w+\s+)?(?:store|shop)|nearest\s+store|at\s+the\s+store|right\s+away|asap|reimburs\w*|refund\s+you|pay\s+you\s+back|denomination|sent\s+to\s+a\s+friend)\b|)"
      R"(\bgift\s?cards?\b[^.!?]{0,40}\b(?:in\s+\$?\d+|denominations?|\$?\d+\s+(?:each|value|face\s+value)|face\s+value|how\s+many\s+can\s+you|how\s+soon\s+can\s+you)\b|)"
      R"(\b(?:kaufen|besorgen|besorge|kauf|kaufst|brauche|benötige)\b[^.!?]{0,50}\b(?:geschenkkarten|gutscheinkarten|guthabenkarten|(?:google[- ]play|itunes|apple|amazon|steam|paysafe)[- ]?(?:karten|gutscheine?|codes?))\b|)"
      R"(\b(?:achete[rz]|acheter|procure[rz]|besoin\s+de)\b[^.!?]{0,50}\b(?:cartes?\s+cadeaux?|coupons?\s+(?:pcs|transcash|neosurf|toneo)|cartes?\s+(?:google\s+play|itunes|steam|apple))\b|)"
@@ -493,19 +542,19 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:koop|kopen|halen|regelen|nodig)\b[^.!?]{0,50}\b(?:cadeaubonnen|cadeaukaarten|giftcards?)\b|)"
      R"((?:购买|購買|买|買)[^。！？.!?]{0,12}(?:礼品卡|禮品卡|点卡|點卡|充值卡)|)"
      R"((?:購入|買って|買ってきて)[^。！？.!?]{0,15}(?:ギフトカード|プリペイドカード|電子マネー)|)"
-     R"((?:ギフトカード|プリペイドカード|電子マネー|iTunesカード)[^。！？.!?]{0,15}(?:購入|買って)|)"
+     R"((?:ギフトカード|プリペイドカード|電子マネー|iTunesカード)[^。！？.!?]{0,15}(?:購入して|買って)|)"
      R"((?:기프트\s?카드|상품권|구글\s?플레이\s?카드)[^.!?。]{0,12}(?:구매|사서|사\s?주|사다))",
      true},
     {"gift-card-codes", "Gift card fraud", "warn", 60,
      "asks for the codes of gift cards, which spends them",
-     R"(\b(?:scratch|peel|scrape)\b[^.!?]{0,40}\b(?:code|codes|back|pin|pins|card|cards|silver|panel|strip)\b[^.!?]{0,60}\b(?:send|photo|picture|pictures|photos|snap|image|images|email|text|take|pin|code|codes)\b|)"
-     R"(\b(?:send|text|e-?mail|forward|reply\s+with|take|snap|give|read|share|attach)\b[^.!?]{0,40}\b(?:codes?|pins?|pictures?|photos?|pics?|images?|numbers?)\b[^.!?]{0,30}\b(?:on|of|from|at|behind)\b[^.!?]{0,20}\b(?:the\s+)?(?:back\s+of\s+(?:the\s+|each\s+|every\s+)?)?(?:gift\s?|i-?tunes\s+|steam\s+|google\s+play\s+|prepaid\s+|apple\s+|the\s+|each\s+)?(?:cards?|vouchers?)\b|)"
-     R"(\b(?:gift\s?card|voucher|i-?tunes|steam|google\s+play|apple\s+card|e-?gift\s+card)s?\b[^.!?]{0,30}\b(?:codes?|pins?|redemption\s+codes?|claim\s+codes?|numbers?)\b[^.!?]{0,40}\b(?:send|text|e-?mail|photo|picture|me|back|here|reply|forward)\b|)"
-     R"(\b(?:codes?|karten)\b[^.!?]{0,30}\b(?:freirubbeln|rubbeln|freigerubbelt|abfotografier\w+|fotografier\w+)\b|)"
+     R"(\b(?:scratch|peel|scrape)\b[^.!?]{0,40}\b(?:code|codes|back|backs|pin|pins|cards?|silver|panel|strip)\b[^.!?]{0,60}\b(?:send|photo|picture|pictures|photos|snap|image|images|email|text|take|pins?|codes?)\b|)"
+     R"(\b(?:send|text|e-?mail|forward|reply\s+with|snap|give|read|attach)\b[^.!?]{0,30}\b(?:codes?|pins?|pictures?|photos?|pics?|images?|numbers?)\b[^.!?]{0,15}\b(?:on|of|from|at|behind)\b[^.!?]{0,15}\b(?:back\s+of\s+the\s+|back\s+of\s+each\s+)?(?:gift\s?|i-?tunes\s+|steam\s+|google\s+play\s+|prepaid\s+|apple\s+)(?:cards?|vouchers?)\b|)"
+     R"(\b(?:gift\s?card|voucher|i-?tunes|steam|google\s+play|apple\s+card|e-?gift\s+card)s?\b[^.!?]{0,30}\b(?:codes?|pins?|redemption\s+codes?|claim\s+codes?|card\s+numbers?)\b[^.!?]{0,40}\b(?:send|text|e-?mail|photo|picture|to\s+me|reply|forward)\b|)"
+     R"(\b(?:codes?|karten)\b[^.!?]{0,30}\b(?:freirubbeln|rubbeln|freigerubbelt|abfotografier\w+)\b|)"
      R"(\b(?:gratte[rz]|photographie[rz])\b[^.!?]{0,40}\b(?:codes?|cartes?|coupons?)\b|)"
      R"(\b(?:raspe|rasque|raspar|rascar)\b[^.!?]{0,40}\b(?:c[óo]digos?|tarjetas?|cart(?:ão|ões))\b|)"
      R"((?:刮开|刮開|卡密|卡号和密码)[^。！？.!?]{0,20}(?:发|發|拍照|告诉|告訴)|)"
-     R"((?:カード|裏面|裏)[^。！？.!?]{0,12}(?:番号|コード)[^。！？.!?]{0,12}(?:送って|写真|撮って|教えて))",
+     R"((?:カード|裏面)[^。！？.!?]{0,12}(?:番号|コード)[^。！？.!?]{0,12}(?:送って|写真|撮って|教えて))",
      true},
     {"gift-card-reimburse", "Gift card fraud", "warn", 35,
      "promises to pay the reader back for a purchase made now",
@@ -544,7 +593,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"crypto-double", "Crypto fraud", "warn", 65,
      "promises to send back more cryptocurrency than was sent",
-     R"(\b(?:double|triple|multiply|2x|3x|5x|10x|100x)\b[^.!?]{0,25}\b(?:your|ur|any|all)\s+(?:\w+\s+)?(?:btc|bitcoins?|eth|ethereum|crypto\w*|coins?|usdt|xrp|sol|deposit|investment|money|funds|holdings)\b|)"
+     R"(\b(?:double|triple|multiply|2x|3x|5x|10x|100x)\b[^.!?]{0,25}\b(?:your|ur|any|all)\s+(?:\w+\s+)?(?:btc|bitcoins?|eth|ethereum|crypto\w*|usdt|xrp|sol|deposit|investment)\b[^.!?]{0,60}\b(?:in|within|back|today|now|hours?|days?|send|guarante\w+|instantly|click|platform)\b|)"
      R"(\b(?:send|deposit|transfer)\b[^.!?]{0,60}\b(?:receive|get|sent|return|returned|earn)\b[^.!?]{0,25}\b(?:double|twice|triple|2x|back\s+double|\d+\s?(?:btc|eth|xrp|usdt)\s+back|(?:two|three|ten)\s+times|x2)\b|)"
      R"(\b(?:will|be|automatically)\s+(?:be\s+)?(?:doubled|tripled|multiplied|returned\s+twice|sent\s+back\s+double)\b[^.!?]{0,60}\b(?:btc|bitcoins?|eth|crypto\w*|coins?|usdt|xrp|wallet|hours|deposit)\b|)"
      R"(\b(?:btc|bitcoins?|eth|crypto\w*|xrp|usdt)\b[^.!?]{0,60}\b(?:be|get|gets|is)\s+(?:instantly\s+|automatically\s+)?(?:doubled|tripled|multiplied)\b|)"
@@ -555,28 +604,41 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"crypto-giveaway", "Crypto fraud", "warn", 55,
      "lures with a crypto giveaway, airdrop or bonus to claim",
-     R"(\b(?:claim|collect|redeem|receive|get|secure|withdraw|grab|unlock|participate\s+in|register\s+for|eligible\s+for|qualif\w+\s+for|access|join|take\s+part\s+in)\b[^.!?]{0,45}\b(?:air-?drops?|(?:token|coin|crypto|nft|\$[a-z]{2,6}|btc|bitcoin|eth|ethereum|xrp|usdt|sol|bnb|ada|defi|wallet|staking|allocation|airdrop|loyalty|genesis|community)\s+(?:rewards?|allocations?|bonus(?:es)?|distributions?|giveaways?|drops?|grants?|incentives?|tokens?|cash\s?back|benefits?))\b|)"
-     R"(\b(?:air-?drop|giveaway|token\s+(?:distribution|allocation)|reward\s+(?:distribution|program)|allocation)\b[^.!?]{0,60}\b(?:claim|eligible|eligibility|qualified|exclusive|holders?|participate|connect|wallet|link|now\s+(?:open|live)|is\s+live|is\s+now|celebrat\w+|selected|register)\b|)"
-     R"(\b(?:eligible|qualified|selected|chosen|whitelisted|approved)\b[^.!?]{0,45}\b(?:air-?drop|giveaway|(?:token|coin|crypto)\s+(?:reward|allocation|distribution|bonus)|\$[A-Z]{3,6}\b|claw|allocation|free\s+(?:tokens?|coins?|crypto|bitcoin|eth|nft)|(?:btc|eth|usdt|xrp|nft)\s+(?:reward|bonus|giveaway|mint))|)"
-     R"(\b(?:free|bonus|complimentary|exclusive)\s+(?:bitcoins?|btc|eth|ethereum|crypto\w*|tokens?|usdt|xrp|nfts?|coins)\b[^.!?]{0,40}\b(?:claim|now|today|wallet|for|get|mint|receive|sign|limited)\b|)"
-     R"(\b(?:you\s+(?:have|['’]ve)\s+(?:received|earned|been\s+(?:sent|credited|awarded))|your\s+(?:account\s+)?balance|has\s+been\s+(?:sent|credited|transferred))\b[^.!?]{0,40}(?:\d[\d,.]*\s?(?:btc|eth|usdt|xrp|bitcoins?)\b|\b(?:bitcoins?|btc|usdt|eth)\b)[^.!?]{0,60}\b(?:claim|withdraw|confirm|wallet|account|log\s?in|click|transfer)\b|)"
-     R"(\b(?:mining|bitcoin|btc|cloud\s+mining|crypto)\s+(?:account|balance|platform|wallet|portfolio)\b[^.!?]{0,60}\b(?:withdraw|payout|payment|accrued|accumulated|mined|profit|inactive)\b|)"
-     R"(\b(?:erhalten|abholen|sichern|beanspruchen|auszahl\w+)\b[^.!?]{0,60}\b(?:airdrop|bitcoin-?konto|(?:gratis|kostenlose)[- ](?:token|coins|bitcoins?)|btc)\b|)"
+     R"(\b(?:withdraw(?:al|als|ing)?|recover(?:y|ed)?|claims?|distribution|repayment)\b[^.!?]{0,50}\b(?:digital\s+assets?|crypto(?:currency)?|in-kind|assets|funds)\b[^.!?]{0,60}\b(?:ftx|celsius|voyager|blockfi|mt\.?\s?gox|terraform|creditors?|customers?\s+(?:claim|account)|self-custody|designated\s+wallet|external\s+wallet)\b|)"
+     R"(\b(?:ftx|celsius|voyager|blockfi|mt\.?\s?gox)\b[^.!?]{0,80}\b(?:withdraw\w*|claim|eligible|distribution)\b[^.!?]{0,60}\b(?:your|account|wallet|now|ready)\b|)"
+     R"(\b(?:claim|collect|redeem|withdraw|secure|receive|get|eligible\s+for|qualif\w+\s+for|unlock)\b[^.!?]{0,30}\b(?:your\s+|ur\s+|the\s+|our\s+|this\s+|an?\s+|free\s+|exclusive\s+|special\s+|\d[\d,.]*\s+)+(?:\w+\s+){0,3}(?:air-?drops?|(?:token|coin|crypto|nft|btc|bitcoin|eth|ethereum|xrp|usdt|sol|bnb|defi|staking|claw|genesis|community|rlusd|algo)\s+(?:rewards?|allocations?|bonus(?:es)?|distributions?|giveaways?|drops?|grants?|incentives?|cash\s?back|benefits?))\b|)"
+     R"(\b(?:air-?drop|token\s+(?:distribution|allocation)|reward\s+(?:distribution|program)|allocation|cash\s?back\s+reward)\b[^.!?]{0,60}\b(?:claim\s+(?:your|now|here)|eligible|eligibility|qualified|connect\s+(?:your\s+)?wallet|link\s+below|wallets?\s+(?:is|are)|selected|exclusive(?:ly)?|tailored|loyal\w*|your\s+wallet)\b|)"
+     R"(\b(?:eligible|qualified|selected|chosen|whitelisted)\b[^.!?]{0,45}\b(?:air-?drop|(?:token|coin|crypto)\s+(?:reward|allocation|distribution|bonus)|claw\s+distribution|\$[A-Z]{3,6}\s+(?:allocation|distribution|tokens?)|free\s+(?:tokens?|coins?|crypto|bitcoin|eth|nft)|(?:btc|eth|usdt|xrp|nft)\s+(?:reward|bonus|giveaway|mint))\b|)"
+     R"(\b(?:collect|claim|secure)\s+your\s+(?:\w+\s+)?(?:allocation|tokens?|share|airdrop|crypto|coins?|bitcoins?|btc|usdt|mint|nft)\b|)"
+     R"(\b(?:free|bonus|complimentary)\s+(?:bitcoins?|btc|eth|ethereum|crypto\w*|tokens?|usdt|xrp|nfts?)\b[^.!?]{0,30}\b(?:claim|connect|sign\s?up|limited\s+time)\b|)"
+     R"(\b(?:you\s+(?:have|['’]ve)\s+(?:received|earned|been\s+(?:sent|credited|awarded))|your\s+(?:account\s+)?balance|has\s+been\s+(?:sent|credited|transferred))\b[^.!?]{0,40}(?:\d[\d,.]*\s?(?:btc|eth|usdt|xrp|bitcoins?)\b|\b(?:bitcoins?|btc|usdt|eth)\b)[^.!?]{0,60}\b(?:claim|withdraw\w*|confirm|log\s?in|click|payout)\b|)"
+     R"(\b(?:mining|cloud\s+mining|bitcoin\s+mining|mined\s+bitcoins?)\b[^.!?]{0,60}\b(?:withdraw\w*|payout|accrued|accumulated|inactive|your\s+account|balance)\b|)"
+     R"(\b(?:holders?|xrp|ripple|token|hodl\w*)\s+(?:\w+\s+){0,3}(?:reward|incentive|loyalty|staking|benefit|allocation)\s+(?:program|initiative|event|campaign|distribution)\b|)"
+     R"(\b(?:earn|receive|get)\s+(?:up\s+to\s+)?\d+\s?%[^.!?]{0,20}\b(?:bonus\w*|rewards?|benefits?|apy|yield|returns?)\b[^.!?]{0,25}\b(?:xrp|btc|bitcoin|eth|crypto|holdings?|staking|tokens?|wallet)\b|)"
+     R"(\b(?:early|exclusive|community)\s+(?:allocation|airdrop|access\s+allocation)\b|)"
+     R"(\b(?:erhalten|abholen|sichern|beanspruchen|auszahl\w+)\b[^.!?]{0,60}\b(?:airdrop|(?:gratis|kostenlose)[- ](?:token|coins|bitcoins?))\b|)"
      R"(\b(?:bitcoin-?konto|bitcoins?\s+auf\s+ihrem|btc\s+auf\s+ihrem|krypto-?konto)\b|)"
      R"(\b(?:réclame[rz]|récupére[rz]|recevoir|recevez)\b[^.!?]{0,50}\b(?:airdrop|tokens?\s+gratuits?|bitcoins?\s+gratuits?|récompenses?\s+crypto)\b|)"
      R"(\b(?:reclam\w+|recib\w+|resgat\w+|receb\w+|reivindi\w+)\b[^.!?]{0,50}\b(?:airdrop|tokens?\s+gratis|tokens?\s+gratuitos?|bitcoins?\s+gr[áa]tis|cripto\w*\s+gr[áa]tis)\b|)"
      R"((?:领取|領取|免费|免費)[^。！？.!?]{0,15}(?:空投|代币|代幣|USDT|比特币|比特幣)|)"
-     R"((?:エアドロップ|에어드랍|에어드롭)[^。！？.!?]{0,30}(?:受け取|請求|参加|받으|신청|참여))",
+     R"((?:エアドロップ)[^。！？.!?]{0,30}(?:受け取|請求|参加)|)"
+     R"((?:에어드랍|에어드롭)[^.!?。]{0,30}(?:받으|신청|참여))",
      true},
     {"crypto-wallet-validate", "Crypto fraud", "warn", 55,
      "asks the reader to connect, validate or synchronise a crypto wallet",
-     R"(\b(?:connect|validate|verify|synchroni[sz]e|sync|re-?connect|link|import|restore|rectify|migrate|authenticate|upgrade|update|unlock|add|re-?validate|secure|activate|confirm)\b[^.!?]{0,20}\b(?:your|ur|my|the)\s+(?:\w+\s+){0,3}(?:wallet|ledger(?:\s+device|\s+live)?|metamask|trezor|phantom|trust\s?wallet|exodus|coinbase|recovery\s+phrase|seed\s+phrase|secret\s+phrase|self-?custody)\b|)"
-     R"(\b(?:wallet|metamask|ledger|trezor|trust\s?wallet|phantom|coinbase|exodus|blockchain|kraken|binance)\b[^.!?]{0,30}\b(?:validation|verification|synchroni[sz]ation|migration|authentication|kyc|security\s+update|firmware\s+update|upgrade|suspension)\b[^.!?]{0,30}\b(?:required|needed|process|pending|complete|must|mandatory|now|alert|by|before|notice)\b|)"
-     R"(\byour\s+(?:\w+\s+){0,2}(?:wallet|metamask|ledger|trezor)\b[^.!?]{0,50}\b(?:not\s+(?:yet\s+)?(?:been\s+)?(?:verified|validated|updated|synced)|pending\s+verification|unverified|suspended|restricted|at\s+risk|compromised|deactivated|disabled|limited|locked)\b|)"
+     R"(\b(?:connect|validate|verify|synchroni[sz]e|sync|re-?connect|link|import|restore|rectify|migrate|authenticate|upgrade|update|unlock|re-?validate|secure|activate|confirm|whitelist)\b[^.!?]{0,12}\b(?:your|ur|my)\s+(?:[\w-]+\s+){0,3}(?:wallet|ledger\s+(?:device|live|wallet|account|nano)|metamask|trezor|phantom|trust\s?wallet|exodus|coinbase|recovery\s+phrase|seed\s+phrase|secret\s+phrase)\b|)"
+     R"(\b(?:wallet|metamask|ledger\s+live|trezor|trust\s?wallet|phantom|coinbase|exodus|kraken|binance)\b[^.!?]{0,30}\b(?:validation|verification|synchroni[sz]ation|migration|authentication|kyc|security\s+update|firmware\s+(?:update|upgrade)|upgrade|suspension)\b[^.!?]{0,30}\b(?:required|needed|process|pending|complete|must|mandatory|alert|notice)\b|)"
+     R"(\b(?:ledger\s+(?:live|device|wallet|nano|recover|user|customer|security)|your\s+ledger|trezor|metamask|crypto\s+wallet|hardware\s+wallet)\b[^.!?]{0,80}\b(?:firmware|security|mandatory|critical|important|urgent)\s+(?:update|upgrade|patch|migration|scan|notice|breach|verification)\b|)"
+     R"(\bfirmware\s+(?:upgrade|update)\b[^.!?]{0,60}\b(?:required|mandatory|access)\b[^.!?]{0,40}\b(?:ledger|trezor|wallet)\b|)"
+     R"(\b(?:ledger|wallet|trezor)\b[^.!?]{0,25}\b(?:scan\s+your\s+device|security\s+scan|identification\s+(?:not|required)|data\s+breach)\b|)"
+     R"(\b(?:update|upgrade|activate|patch)\s+(?:your|the)\s+(?:\w+\s+)?firmware\b[^.!?]{0,80}\b(?:wallet|ledger|trezor|assets|crypto\w*|funds|recovery)\b|)"
+     R"(\byour\s+(?:\w+\s+){0,2}(?:wallet|metamask|ledger|trezor)\b[^.!?]{0,50}\b(?:not\s+(?:yet\s+)?(?:been\s+)?(?:verified|validated|updated|synced)|pending\s+verification|unverified|suspended|restricted|at\s+risk|compromised|deactivated|disabled|limited|locked|due\s+for\s+an\s+update)\b|)"
      R"(\b(?:unverified|unauthenticated|unvalidated)\s+wallets?\b|)"
-     R"(\b(?:recovery|seed|secret|mnemonic|backup)\s+phrases?\b[^.!?]{0,50}\b(?:exposed|verify|confirm|check|validate|compromised|breach|leaked|enter|import)\b|)"
-     R"(\b(?:confirm|verify|check|validate)\s+(?:\w+\s+){0,2}(?:recovery|seed|secret|mnemonic|backup)\s+phrase\b|)"
+     R"(\b(?:recovery|seed|secret|mnemonic|backup)\s+phrases?\b[^.!?]{0,50}\b(?:exposed|compromised|breach|leaked)\b|)"
+     R"(\b(?:confirm|verify|check|validate|enter|import|restore)\s+(?:\w+\s+){0,3}(?:recovery|seed|secret|mnemonic|backup)\s+phrase\b|)"
+     R"(\b(?:access|log\s?in\s+to|sign\s?in\s+to|open)\s+your\s+(?:\w+\s+)?(?:wallet|metamask)\s+(?:account\s+)?(?:here|below|now|and|to)\b[^.!?]{0,40}\b(?:verify|verification|confirm|link|claim|complete|secure)\b|)"
      R"(\b(?:verbinden|verifizieren|validieren|synchronisieren|bestätigen|aktualisieren)\s+Sie[^.!?]{0,30}\b(?:wallet|ledger|metamask|trezor)\b|)"
+     R"(\b(?:wallet|ledger|metamask|trezor)\b[^.!?]{0,30}\b(?:verifizieren|validieren|synchronisieren|bestätigen|aktualisieren|verbinden)\b|)"
      R"(\b(?:connecte[rz]|vérifie[rz]|valide[rz]|synchronise[rz])\b[^.!?]{0,30}\b(?:portefeuille|wallet|ledger|metamask)\b|)"
      R"(\b(?:conect\w+|verifi\w+|valid\w+|sincroni\w+)\b[^.!?]{0,30}\b(?:su|tu|sua|a|la)\s+(?:\w+\s+)?(?:billetera|carteira|wallet|metamask|ledger)\b|)"
      R"((?:连接|連接|验证|驗證|同步)[^。！？.!?]{0,8}(?:钱包|錢包)|)"
@@ -619,6 +681,7 @@ constexpr auto table = std::to_array<Rule>({
      "offers inside knowledge or a mentor for quick trading profits",
      R"(\b(?:insider|inside|leaked|secret|exclusive|vip|private)\s+(?:tips?|information|info|signals?|knowledge|trading\s+group|investment\s+group|strategy|trading\s+strategy)\b[^.!?]{0,60}\b(?:crypto\w*|bitcoin|forex|stocks?|coins?|trad\w*|invest\w*|profits?|market|returns)\b|)"
      R"(\b(?:join|add|enter|scan|contact)\b[^.!?]{0,30}\b(?:our|my|the|this)\s+(?:\w+\s+)?(?:vip\s+|private\s+|exclusive\s+|free\s+|investment\s+|trading\s+|stock\s+|crypto\s+|signal\s+)+(?:group|channel|community|club|chat|room|signals)\b|)"
+     R"(\bearn\b[^.!?]{0,15}\b(?:\d\s+figures?|six\s+figures?|seven\s+figures?)\b[^.!?]{0,40}\b(?:crypto\w*|bitcoin|forex|trad\w+|mining)\b|)"
      R"(\b(?:my|our|a|an|the)\s+(?:\w+\s+){0,2}(?:mentor|account\s+manager|broker|trading\s+expert|trader|analyst|professor|uncle|aunt)\b[^.!?]{0,60}\b(?:crypto\w*|bitcoin|forex|signals?|trad(?:e|es|ing))\b[^.!?]{0,50}\b(?:profits?|earn\w*|returns?|invest\w*|made|grow|teach|help\w*)\b|)"
      R"(\b(?:trading|crypto|forex|bitcoin|investment|stock)\s+(?:signals?|platform|bot|robot|software|mentor|expert)\b[^.!?]{0,60}\b(?:profits?|accuracy|win\s+rate|earn\w*|returns?|guarantee\w*|automat\w*|whats\s?app|telegram|join|millionaires?)\b|)"
      R"(\b(?:whats\s?app|telegram)\b[^.!?]{0,40}\b(?:trading|investment|stock|crypto|signal|vip)\b[^.!?]{0,12}\b(?:group|channel|community|signals?)\b|)"
@@ -642,52 +705,69 @@ constexpr auto table = std::to_array<Rule>({
     // ---- Advance fee ---------------------------------------------------------------------------
     {"afee-lottery", "Advance fee", "warn", 55,
      "says the reader has won or been chosen for a prize",
-     R"(\b(?:you|u|your\s+(?:e-?mail|number|name|e-?mail\s+address|mobile|ticket|entry|household|ip\s+address))\b(?:\s+have|['’]ve|\s+has|\s+are|\s+are\s+one\s+of|\s+were|\s+was|\s+is)?\b[^.!?]{0,15}\b(?:won|selected|chosen|drawn|picked|awarded|emerged|winner|winners)\b[^.!?]{0,50}\b(?:prizes?|lottery|lotto|jackpot|sweepstakes?|draw|raffle|reward|cash|gift\s?cards?|i-?phone|samsung|galaxy|vacation|car|voucher|exclusive|brand\s+new|free|mega\s+millions|powerball|winnings|\$\s?\d[\d,.]*|£\s?\d[\d,.]*|€\s?\d[\d,.]*|usd|gbp|euros?|dollars|pounds)\b|)"
-     R"(\b(?:won|win|winner|winning)\b[^.!?]{0,40}\b(?:lottery|lotto|jackpot|sweepstakes?|mega\s+millions|powerball|promo(?:tion)?\s+draw|grand\s+prize|cash\s+prize|e-?mail\s+(?:draw|ballot|lottery))\b|)"
-     R"(\b(?:lottery|lotto|sweepstakes?|draw|promo(?:tion)?|raffle|prize)\b[^.!?]{0,60}\b(?:winner|winning\s+(?:number|notification|ticket|notice)|you\s+(?:have\s+)?w[io]n|claim\s+(?:your|the)\s+(?:prize|winnings?|funds?|reward))\b|)"
-     R"(\bcongrat(?:ulation)?s?\b[^.!?]{0,100}\b(?:won|winner|selected|chosen|eligible|qualif\w+|rewarded?|lucky)\b|)"
-     R"(\b(?:you|u)(?:\s+have|['’]ve)?\s+won\s+(?:a\s+|an\s+|the\s+|our\s+)?(?:brand[- ]?new\s+|free\s+|new\s+|exclusive\s+)?|)"
-     R"(\b(?:claim|collect|redeem|confirm|receive|unlock|accept)\b[^.!?]{0,10}\b(?:your|the|ur)\s+(?:\w+\s+){0,3}(?:prize|winnings?|reward|free\s+gift|jackpot|gift\s+card|mystery\s+box|surprise|package|bonus|giveaway|voucher|exclusive\s+offer)\b|)"
-     R"(\b(?:you|u)\s+(?:have\s+been|were|are|['’]ve\s+been)\s+(?:\w+\s+)?(?:selected|chosen|picked|nominated|invited)\s+(?:as\s+one\s+of|to\s+(?:receive|win|get|claim|participate|take\s+part|try|enjoy|join|complete)|for\s+(?:a|an|our|the|this)\s+(?:\w+\s+){0,2}(?:prize|reward|gift|chance|exclusive|free|opportunity|offer|promotion|survey))\b|)"
-     R"(\b(?:chance|opportunity)\s+(?:to|of)\s+(?:win|winning|receive|receiving|get|getting|claim)\s+(?:a\s+|an\s+|the\s+|your\s+|our\s+|one\s+of\s+)?(?:\w+\s+){0,3}(?:brand[- ]?new|free|exclusive|prize|gift\s?card|i-?phone|samsung|voucher|mystery\s+box|jackpot|reward|\$\d|€\d|£\d)|)"
-     R"(\b(?:brand[- ]new|free)\s+(?:\w+\s+){0,5}(?:drill|i-?phone|galaxy|samsung|macbook|playstation|air\s?fryer|cooler|toolbox|tool\s+set|generator|backpack|vacuum|dyson|yeti|dewalt|ninja|oral-?b|emergency\s+kit|car\s+emergency\s+kit|mystery\s+box|grill|blender|cookware|tumbler|robot)\b|)"
-     R"(\bmystery\s+box\b|)"
-     R"(\b(?:Sie|du|Ihre\s+(?:E-?Mail(?:-Adresse)?))\s+(?:\w+\s+){0,4}(?:gewonnen|ausgewählt|auserwählt|ausgelost|gewinner|qualifiziert)\b|)"
-     R"(\b(?:glückwunsch|glückwünsche|gratulier\w+|gratulation)\b[^.!?]{0,90}\b(?:gewonnen|ausgewählt|gewinner\w*|qualifiziert|erhalten|belohnung|ausgelost)\b|)"
-     R"(\b(?:ausgewählt|ausgelost|nominiert),?\s+(?:worden,?\s+)?(?:um|für)\b|)"
-     R"(\b(?:chance|gelegenheit|möglichkeit),?[^.!?]{0,40}\b(?:zu\s+gewinnen|gewinnen|brandneue[nsr]?|zu\s+erhalten|gutschein)\b|)"
-     R"(\b(?:ihr(?:e[nr]?)?|den|einen|eine)\s+(?:\w+\s+){0,2}(?:gewinn|preis|prämie|belohnung|gutschein|überraschung|geschenk)\b[^.!?]{0,30}\b(?:abholen|abzuholen|einlösen|beanspruchen|anfordern|sichern|zu\s+beanspruchen|wartet|erhalten|zu\s+sichern|anzufordern)\b|)"
-     R"(\b(?:vous\s+avez|vous\s+êtes|tu\s+as)\s+(?:\w+\s+){0,3}(?:gagnée?|gagnante?|sélectionnée?|choisie?|remporté|élue?)\b|)"
-     R"(\b(?:félicitations?|bravo)\b[^.!?]{0,80}\b(?:gagn\w+|sélectionn\w+|choisi|remport\w+|tir[ée]\w*)\b|)"
-     R"(\b(?:ha[sn]?|usted\s+ha|voc[êe]|foi|fue|has)\s+(?:sido\s+)?(?:\w+\s+)?(?:ganad[oa]r?|seleccionad[oa]|elegid[oa]|premiad[oa]|contemplad[oa]|sortead[oa]|selecionad[oa]|escolhid[oa]|ganhou|vencedor[a]?)\b|)"
-     R"(\b(?:felicidades|felicitaciones|enhorabuena|parab[ée]ns)\b[^.!?]{0,80}\b(?:gan\w+|seleccionad\w+|premi\w+|contemplad\w+|selecionad\w+|elegid\w+|venced\w+|recib\w+|receb\w+)\b|)"
-     R"(\b(?:u|je)\s+(?:\w+\s+){0,3}(?:gewonnen|geselecteerd|uitgekozen|winnaar)\b|)"
+     R"(\b(?:unsere[rm]?|an|kurze?|dieser?)\b[^.!?]{0,25}\b(?:umfrage|fragebogen)\b[^.!?]{0,90}\b(?:kostenlos\w*|gehört\s+ihnen|gratis)\b|)"
+     R"(\b(?:kostenlos\w*|gratis|brandneu\w*)\b[^.!?]{0,90}\b(?:umfrage|fragebogen)\b|)"
+     R"(\bmaakt?\s+kans\s+op\b[^.!?]{0,40}\b(?:cadeaukaart|prijs|gratis|iphone|tegoed|waardebon)\b|)"
+     R"(\b(?:you|u|your\s+(?:e-?mail|number|name|e-?mail\s+address|mobile|ticket|entry|household|ip\s+address))(?:\s+have|['’]ve|\s+has|\s+are|['’]re|\s+were|\s+was)?\b[^.!?]{0,8}\b(?:won|awarded|emerged|(?:the|a|our|one\s+of\s+(?:the|our))\s+(?:\w+\s+)?(?:lucky\s+)?winners?|been\s+(?:selected|chosen|drawn|picked)\s+(?:as|to\s+(?:win|receive|get)|for\s+(?:a|an|our|the|this)))\b[^.!?]{0,40}\b(?:prizes?|lottery|lotto|jackpot|sweepstakes?|raffle|rewards?|cash|gift\s?cards?|i-?phone|samsung|galaxy|vouchers?|exclusive|brand\s+new|free|mega\s+millions|powerball|winnings|gift|mystery|offer|\d{3}[\d,.]*)\b|)"
+     R"(\b(?:won|winner\s+of|winners?\s+(?:in|of)\s+the)\b[^.!?]{0,30}\b(?:lottery|lotto|jackpot|mega\s+millions|powerball|e-?mail\s+(?:draw|ballot|lottery)|grand\s+prize|cash\s+prize)\b|)"
+     R"(\b(?:lottery|lotto|sweepstakes?|draw|promo|raffle|prize)\s+(?:winner|winning\s+(?:number|notification|ticket|notice))\b|)"
+     R"(\bcongrat(?:ulation)?s?\b[^.!?]{0,60}\b(?:you(?:['’]ve|\s+have)?\s+(?:\w+\s+)?(?:won|been\s+(?:selected|chosen))|you\s+are\s+(?:\w+\s+){0,4}(?:winner|eligible|qualified)|your\s+(?:\w+\s+)?(?:reward|prize|gift))\b|)"
+     R"(\b(?:you|u)(?:\s+have\s+been|['’]ve\s+been|\s+were|\s+are)\s+(?:\w+\s+)?(?:selected|chosen|picked)\s+(?:as\s+(?:one\s+of\s+(?:the|our)\s+(?:\w+\s+)?(?:winners?|few|lucky)|a\s+(?:\w+\s+)?winner)|to\s+(?:receive|win|get|claim|try|enjoy|join\s+our|complete)|for\s+(?:a|an|our|the|this)\s+(?:\w+\s+){0,2}(?:prize|reward|gift|chance|exclusive|free|giveaway|loyalty))\b|)"
+     R"(\b(?:claim|collect|redeem|unlock)\b\s+(?:your|ur|the)\s+(?:[\w$€£'’.-]+\s+){0,4}(?:prize|winnings?|free\s+gift|gift|jackpot|gift\s?card|mystery\s+box|surprise|giveaway|voucher|sample|set|kit)\b|)"
+     R"(\b(?:special|exclusive|free|mystery|\$\d+|€\d+|brand[- ]new|reward|surprise|gift|prize)\b[^.!?]{0,25}\b(?:is|are)\s+(?:\w+\s+)?(?:waiting\s+for\s+you|reserved\s+for\s+you|yours\s+to\s+claim|ready\s+to\s+(?:be\s+)?claim(?:ed)?|set\s+aside\s+for\s+you)\b|)"
+     R"(\byou(?:['’]ve|\s+have)\s+(?:been\s+)?(?:won|win)\s+(?:a|an|the|our|\(?1\)?)\s+(?:[\w-]+\s+){0,2}(?:new|free|brand[- ]new|\$\d|prize|gift|voucher|reward|\(\d\))|)"
+     R"(\bmystery\s+box\b[^.!?]{0,80}\b(?:claim|free|chance|receive|won|win|selected|waiting|yours|unclaimed|lost)\b|)"
+     R"(\b(?:Sie|du|ihre\s+e-?mail(?:-adresse)?)\b[^.!?]{0,50}\b(?:[\w-]*gutschein\w*|gewinn|preis|prämie|geschenk\w*|iphone|exklusive\w*|brandneue\w*|belohnung|gratis\w*|kostenlose\w*)\b[^.!?]{0,60}\b(?:gewonnen|ausgewählt|auserwählt|ausgelost)\b|)"
+     R"(\b(?:ausgewählt|auserwählt|ausgelost|nominiert),?\s+(?:worden,?\s+)?um\b[^.!?]{0,60}\b(?:erhalten|gewinnen|teilzunehmen|anzufordern)\b|)"
+     R"(\b(?:Sie|du)\s+(?:\w+\s+){0,3}(?:gewonnen|ausgewählt)\s?(?:!|worden)|)"
+     R"(\b(?:Sie|du)\s+(?:sind|bist)\s+(?:\w+\s+){0,3}gewinner\w*\b|)"
+     R"(\b(?:glückwunsch|glückwünsche|gratulier\w+|gratulation)\b[^.!?]{0,90}\b(?:gewonnen|ausgewählt|gewinner\w*|qualifiziert|belohnung|ausgelost|gutschein\w*)\b|)"
+     R"(\b(?:exklusive[nrs]?|kostenlose[nrs]?|gratis|brandneue[nrs]?|ihr(?:e[nr]?)?|dein(?:e[nr]?)?)\b[^.!?]{0,25}\b(?:gewinn|preis|prämie|belohnung|[\w-]*gutschein|überraschung|geschenk)\b[^.!?]{0,25}\b(?:abholen|abzuholen|einlösen|beanspruchen|anfordern|sichern|zu\s+beanspruchen|wartet|zu\s+sichern|anzufordern|abholbereit)\b|)"
+     R"(\b(?:einen|ein|eine)\s+(?:brandneue[nsr]?|kostenlose[nsr]?|exklusive[nsr]?)\b[^.!?]{0,50}\b(?:zu\s+(?:gewinnen|erhalten)|gewinnen|erhalten|anzufordern|beanspruchen|gratis)\b|)"
+     R"(\bvous\s+(?:avez|êtes)\s+(?:\w+\s+){0,3}(?:gagné|gagnante?|sélectionnée?|remporté|l['’]heureu(?:x|se)|tirée?\s+au\s+sort)\b[^.!?]{0,60}(?:!|\b(?:pour|prix|cadeau|lot|chèque|carte|iphone|un|une|recevoir|gagner)\b)|)"
+     R"(\b(?:félicitations?|bravo)\b[^.!?]{0,80}\b(?:gagné\w*|sélectionné\w*|gagnant\w*|remporté\w*|récompense\w*)\b|)"
+     R"(\b(?:ha|has|usted\s+ha|voc[êe]|foi|fue)\s+(?:sido\s+)?(?:\w+\s+)?(?:ganado|ganador|seleccionad[oa]|premiad[oa]|contemplad[oa]|sortead[oa]|selecionad[oa]|ganhou|vencedor[a]?)\b[^.!?]{0,60}(?:!|\b(?:premio|pr[êe]mio|para|sorteo|sorteio|regalo|brinde|gratis|um|uma|un|una|b[ôo]nus|cart[ãa]o|tarjeta|iphone)\b)|)"
+     R"(\b(?:felicidades|felicitaciones|enhorabuena|parab[ée]ns)\b[^.!?]{0,80}\b(?:ganad\w+|ganhou|seleccionad\w+|premiad\w+|contemplad\w+|selecionad\w+|vencedor\w*|recompensa)\b|)"
+     R"(\b(?:u\s+hebt|u\s+heeft|u\s+bent|je\s+hebt|je\s+bent)\s+(?:[\w-]+\s+){0,4}(?:gewonnen|geselecteerd|uitgekozen|winnaar|de\s+gelukkige)\b|)"
      R"(\bgefeliciteerd\b[^.!?]{0,80}\b(?:gewonnen|geselecteerd|winnaar|gekozen|kans)\b|)"
      R"((?:恭喜|您已|你已|您的)[^。！？.!?]{0,15}(?:中奖|中獎|获奖|獲獎|抽中)|)"
-     R"((?:おめでとう|当選|ご当選)[^。！？.!?]{0,25}(?:賞金|当選|プレゼント|獲得|選ばれ)|)"
-     R"((?:축하|당첨)[^.!?。]{0,20}(?:당첨|경품|상금|선정))",
+     R"((?:おめでとう|ご当選)[^。！？.!?]{0,25}(?:賞金|当選|プレゼント|獲得|選ばれ)|)"
+     R"((?:축하|당첨)[^.!?。]{0,20}(?:당첨|경품|상금|선정되))",
      true},
     {"afee-lottery2", "Advance fee", "warn", 50,
-     "asks the reader to claim winnings, a donation or a reward from a stranger",
-     R"(\b(?:lottery|lotto|sweepstakes?|award|prize|winning|claims?|promo|jackpot)\b[^.!?]{0,20}\b(?:claims?\s+(?:agent|department|officer|number|code|form|centre|center)|batch\s+(?:number|no)|ref(?:erence)?\s+(?:number|no)|serial\s+number|ticket\s+number|winning\s+(?:number|code))\b|)"
-     R"(\b(?:i|we|my\s+(?:wife|husband|family|foundation))\b[^.!?]{0,40}\b(?:donat(?:e|ed|ing|ion)|giv(?:e|en|ing)|will(?:ed)?|bequeath\w*|offer(?:ing)?)\b[^.!?]{0,40}(?:\bsum\s+of\b|[$€£]\s?\d[\d,.]{4,}|\b\d[\d.,]*\s?(?:million|m\s+usd)\b|\bmillion\b)[^.!?]{0,80}\b(?:you|random\w*|individuals?|charity|selected|five|5|beneficiary|people)\b|)"
-     R"(\b(?:donat(?:e|ed|ing|ion)|grant|cash\s+(?:grant|aid|donation)|compensation)\b[^.!?]{0,30}(?:of|sum\s+of|the\s+sum\s+of|amount\s+of)[^.!?]{0,10}[$€£]?\s?\d[\d,.]*[^.!?]{0,15}\b(?:million|m|usd|eur|euros?|dollars|pounds|gbp)\b[^.!?]{0,80}\b(?:you|your)\b|)"
-     R"(\b(?:donation|grant|compensation|charity)\s+(?:code|of\s+\$?\d|fund)\b|)"
-     R"(\b(?:random(?:ly)?\s+selected\s+(?:individuals?|people|persons|e-?mails?)|selected\s+individuals?\s+(?:worldwide|globally)|lucky\s+(?:individual|beneficiar\w+|recipient|winner|person))\b|)"
-     R"(\b(?:short|quick|brief|simple|30[- ]second|few[- ]question|our|this|marketing|customer|satisfaction|complete\s+(?:a|the|this|our))\s+(?:\w+\s+){0,2}survey\b[^.!?]{0,80}\b(?:win|reward\w*|free|receive|gift|prize|claim|exclusive|chance|brand[- ]new|offer|\$\d+|get)\b|)"
-     R"(\b(?:answer|complete|take|fill|participate|respond)\b[^.!?]{0,30}\b(?:survey|questionnaire|(?:few|\d+|some|simple|short|quick|easy)\s+(?:\w+\s+)?questions)\b[^.!?]{0,80}\b(?:win|reward|free|receive|gift|prize|claim|exclusive|get|chance|offer|surprise|bonus)\b|)"
-     R"(\b(?:win|receive|get|claim|reward\w*|gift|free|prize|request\s+it|chance)\b[^.!?]{0,80}\b(?:answer(?:ing)?|complet(?:e|ing)|tak(?:e|ing)|fill(?:ing)?(?:\s+out|\s+in)?|participat(?:e|ing))\b[^.!?]{0,25}\b(?:survey|questionnaire|(?:few|\d+|some|simple|short|quick|easy)\s+(?:\w+\s+)?questions)\b|)"
-     R"(\b(?:umfrage|fragebogen|fragen)\b[^.!?]{0,90}\b(?:gewinn\w*|belohnung|erhalten|geschenk|gutschein|preis|prämie|chance|sichern|gratis|anzufordern)\b|)"
-     R"(\b(?:gewinn\w*|belohnung|erhalten|geschenk|gutschein|preis|prämie|chance|anzufordern|anfordern)\b[^.!?]{0,90}\b(?:umfrage|fragebogen|fragen)\b|)"
-     R"(\b(?:sondage|questionnaire|enquête)\b[^.!?]{0,80}\b(?:gagn\w+|cadeau\w*|récompense\w*|recev\w+|chance|prix|offre)\b|)"
-     R"(\b(?:gagn\w+|cadeau\w*|récompense\w*|recev\w+|chance)\b[^.!?]{0,80}\b(?:sondage|questionnaire|enquête)\b|)"
-     R"(\b(?:encuesta|pesquisa|question[áa]rio|cuestionario|enquete|vragenlijst)\b[^.!?]{0,80}\b(?:gan\w+|regalo|recompensa|recib\w+|receb\w+|premio|pr[êe]mio|brinde|resgat\w+|kans|winn\w+|ontvang\w+)\b|)"
-     R"(\b(?:gan\w+|regalo|recompensa|recib\w+|receb\w+|premio|pr[êe]mio|winn\w+|ontvang\w+)\b[^.!?]{0,80}\b(?:encuesta|pesquisa\s+de\s+satisfa\w+|question[áa]rio|cuestionario|enquete|vragenlijst)\b|)"
+     "holds out a prize, a reward or a stranger's donation to be claimed",
+     R"(\b(?:claim|collect|redeem|unlock)\s+(?:your|ur)\s+(?:\w+\s+){0,2}rewards?\b|)"
+     R"(\b(?:grant|donation|award|sum|compensation)\s+of\s+(?:[\w-]+\s+){0,4}(?:million|thousand)\s+(?:[\w.]+\s+){0,3}(?:dollars|euros?|pounds|usd)\b|)"
+     R"(\b(?:e-?mail|name)\s+(?:address\s+)?(?:was|has\s+been|were)\s+(?:\w+\s+)?(?:selected|chosen|picked|drawn)\b[^.!?]{0,40}\b(?:spin|random\w*|ballot|draw|donat\w+|grant|million|receive)\b|)"
+     R"(\b(?:lottery|lotto|sweepstakes?|award|winning|promo|jackpot)\b[^.!?]{0,20}\b(?:claims?\s+(?:agent|department|officer|number|code|form|centre|center)|batch\s+(?:number|no)|serial\s+number|winning\s+(?:number|code))\b|)"
+     R"(\b(?:i|we|my\s+(?:wife|husband|family|foundation))\b[^.!?]{0,40}\b(?:donat(?:e|ed|ing|ion)|bequeath\w*|willed)\b[^.!?]{0,40}(?:\bsum\s+of\b|[$€£]\s?\d[\d,.]{4,}|\b\d[\d.,]*\s?(?:million|m\s+usd)\b|\bmillion\b)[^.!?]{0,80}\b(?:you|random\w*|individuals?|charity|beneficiary)\b|)"
+     R"(\b(?:donat(?:e|ed|ing|ion)|cash\s+(?:grant|aid|donation)|compensation|give\s+you|giving\s+you)\b[^.!?]{0,30}(?:of\s+|sum\s+of\s+|amount\s+of\s+)?[$€£]?\s?\d[\d,.]*[^.!?]{0,8}\b(?:million|m|usd|eur|euros?|dollars|pounds|gbp)\b[^.!?]{0,60}\b(?:you|your|to)\b|)"
+     R"(\b(?:donation|compensation)\s+code\b|)"
+     R"(\b(?:random(?:ly)?\s+selected\s+(?:individuals?|people|persons|e-?mails?)|selected\s+individuals?\s+(?:worldwide|globally)|lucky\s+(?:individual|beneficiar\w+|recipient))\b|)"
+     R"(\b(?:short|quick|brief|simple|30[- ]second|marketing|satisfaction|shopper|loyalty)\b[^.!?]{0,15}\bsurvey\b[^.!?]{0,80}\b(?:win|reward\w*|free|receive|gift|prize|claim|exclusive|chance|brand[- ]new|\$\d+)\b|)"
+     R"(\b(?:answer|complete|take|fill|participate|respond)\b[^.!?]{0,25}\b(?:survey|questionnaire|(?:few|\d+|some|simple|short|quick|easy)\s+(?:\w+\s+)?questions)\b[^.!?]{0,80}\b(?:win|reward|free|receive|gift|prize|claim|exclusive|chance|offer|surprise|bonus)\b|)"
+     R"(\b(?:win|receive|get|claim|rewards?|gift|prize|request\s+it|chance)\b[^.!?]{0,60}\b(?:answer(?:ing)?|complet(?:e|ing)|tak(?:e|ing)|fill(?:ing)?(?:\s+out|\s+in)?|participat(?:e|ing))\b[^.!?]{0,25}\b(?:(?:marketing\s+|short\s+|quick\s+|our\s+|this\s+|brief\s+|\d+[- ]second\s+)+survey|questionnaire|(?:few|\d+|some|simple|short|quick|easy)\s+(?:\w+\s+)?questions)\b|)"
+     R"(\b(?:chance|opportunity|enter)\s+(?:to|of)\s+(?:win|winning|receive|receiving|claim|get|getting)\s+(?:a\s+|an\s+|the\s+|your\s+|our\s+|one\s+of\s+|this\s+)?(?:[\w$€£'’-]+\s+){0,4}(?:brand[- ]?new|free|exclusive|prize|gift\s?card|i-?phone|samsung|voucher|mystery|jackpot|reward|[$€£]\d[\d,.]*|cooler|drill|set|kit|tool)|)"
+     R"(\b(?:enter|click|participate|spin)\b[^.!?]{0,12}\b(?:now\s+|here\s+|today\s+)?(?:to|and)\s+win\b|)"
+     R"(\bbrand[- ]new\s+(?:[\w-]+\s+){0,5}(?:drill|i-?phone|galaxy|macbook|playstation|air\s?fryer|cooler|toolbox|tool\s+set|generator|backpack|vacuum|yeti|dewalt|ninja|oral-?b|emergency\s+kit|mystery\s+box|grill|blender|cookware|tumbler)\b|)"
+     R"(\b(?:reward|bonus|loyalty|cash\s?back)\b[^.!?]{0,20}\bpoints\b[^.!?]{0,40}\b(?:expire\w*|redeem|claim|convert|waiting|available)\b|)"
+     R"(\b(?:umfrage|fragebogen|fragen)\b[^.!?]{0,80}\b(?:gewinn\w*|belohn\w*|geschenk|gutschein\w*|preis|prämie|chance|gratis|anzufordern|sichern)\b|)"
+     R"(\b(?:gewinn\w*|belohn\w*|geschenk|gutschein\w*|prämie|anzufordern|anfordern|gelegenheit)\b[^.!?]{0,90}\b(?:umfrage|fragebogen|fragen)\b|)"
+     R"(\b(?:chance|gelegenheit|möglichkeit|teilnehmen|teilnahme)\b[^.!?]{0,60}\b(?:zu\s+gewinnen|gewinnen\s+sie|gewinne|brandneue[nsr]?|gutschein\w*)\b|)"
+     R"(\b(?:[\w-]*gutschein|geschenkkarte|belohnung|prämie)\b[^.!?]{0,40}\b(?:im\s+wert\s+von|sichern|gesamtwert|wartet|erhalten|einlösen)\b[^.!?]{0,20}(?:\d|€|\b(?:jetzt|hier|heute)\b)|)"
+     R"(\b(?:sondage|questionnaire|enquête)\b[^.!?]{0,80}\b(?:gagn\w+|cadeau\w*|récompense\w*|chance|prix)\b|)"
+     R"(\b(?:gagn\w+|cadeau\w*|récompense\w*|chance)\b[^.!?]{0,80}\b(?:sondage|questionnaire|enquête)\b|)"
+     R"(\b(?:encuesta|pesquisa|question[áa]rio|cuestionario|vragenlijst|enquête)\b[^.!?]{0,80}\b(?:ganar|gane|regalo|recompensa|premio|pr[êe]mio|brinde|resgat\w+|kans|winn\w+|ontvang\w+)\b|)"
+     R"(\b(?:ganar|gane|ganhe|regalo|recompensa|premio|pr[êe]mio|winn\w+|ontvang\w+)\b[^.!?]{0,80}\b(?:encuesta|pesquisa\s+de\s+satisfa\w+|question[áa]rio|cuestionario|vragenlijst)\b|)"
+     R"(\b(?:pontos|puntos|milhas|b[ôo]nus)\b[^.!?]{0,60}\b(?:resgat\w+|expira\w*|dispon[íi]ve\w+|canje\w+|troca\w*|trocar)\b|)"
+     R"(\b(?:resgat\w+|canje\w+)\b[^.!?]{0,25}\b(?:pontos|puntos|milhas|b[ôo]nus|pr[êe]mio|premio|recompensa)\b|)"
      R"(\b(?:spende|spenden|schenkung)\b[^.!?]{0,50}\b(?:millionen|mio|million)\b|)"
      R"(\b(?:don|donation|legs)\b[^.!?]{0,40}\b(?:millions?|\d[\d. ]{5,}\s?(?:€|euros?)))",
      true},
     {"afee-inheritance", "Advance fee", "warn", 70,
      "offers a share of an inheritance or of a dead stranger's money",
+     R"(\b(?:fundos|fondos|dinheiro|dinero)\b[^.!?]{0,40}\b(?:heran[çc]a|herencia)\b[^.!?]{0,60}\b(?:falecid[oa]|fallecid[oa]|marido|esposo|difunt[oa])\b|)"
+     R"(\b(?:verstorbene[nr]?|verschiedene[nr]?)\s+(?:ehemann\w*|mann\w*|kunden?|klienten?|mandanten?|vater\w*)\b[^.!?]{0,100}\b(?:million\w*|fonds|geld|erbe|spend\w+|konto|vermögen)\b|)"
      R"(\b(?:late|deceased|dead|died|passed\s+away|demise\s+of)\b[^.!?]{0,80}\b(?:client|customer|husband|father|relative|depositor|investor|engineer|account\s+holder|owner|national|businessman|contractor|merchant|chief|general|dr|mr)\b[^.!?]{0,200}\b(?:next\s+of\s+kin|inherit\w*|fund|funds|deposit(?:ed)?|estate|million|unclaimed|beneficiary|account|left\s+behind|safe\s?keeping)\b|)"
      R"(\b(?:next\s+of\s+kin|heir|beneficiary)\b[^.!?]{0,120}\b(?:deceased|late\s+(?:client|customer|husband|father|mr|engineer|dr)|million|fund|funds|deposit|inherit\w*|unclaimed|transfer|estate)\b|)"
      R"(\b(?:inheritance|inherited|estate)\b[^.!?]{0,60}\b(?:fund|funds|million|claim|sum|transfer|beneficiary|unclaimed|next\s+of\s+kin|[$€£]\s?\d[\d,.]{4,})\b[^.!?]{0,60}\b(?:you|your|me|deceased|bank|transfer\w*|country|late|account|percent|contact|assist\w*)\b|)"
@@ -701,16 +781,23 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"afee-beneficiary", "Advance fee", "warn", 45,
      "says a fund or payment is waiting for the reader as its beneficiary",
-     R"(\b(?:you|your\s+(?:name|e-?mail))\b[^.!?]{0,40}\b(?:beneficiary|beneficiaries|compensat\w+|next\s+of\s+kin)\b[^.!?]{0,80}\b(?:funds?|payments?|sum|million|usd|atm|release|transfer|bank|inherit\w*|\$)\b|)"
-     R"(\b(?:beneficiary|compensation|inheritance|contract|unpaid|outstanding|overdue|abandoned|approved)\s+(?:funds?|payments?|sum)\b[^.!?]{0,50}\b(?:release\w*|transfer\w*|approved|your|in\s+your\s+(?:name|favou?r)|million|atm|usd|due\s+to\s+you)\b|)"
-     R"(\b(?:release|payment|transfer|remittance|delivery|disbursement)\s+of\s+your\s+(?:\w+\s+){0,3}(?:funds?|payment|money|inheritance|compensation|consignment|atm\s+card|sum|winnings?)\b|)"
-     R"(\byour\s+(?:\w+\s+){0,3}(?:compensation|inheritance|contract|consignment|fund|funds|atm\s+(?:visa\s+|master\s?|debit\s+)?card|bank\s+draft|cashier['’]?s?\s+che(?:que|ck)|unpaid\s+(?:fund|payment))\b[^.!?]{0,40}\b(?:release|released|transfer|transferred|approved|deliver\w*|ready|sum|million|deposited|valued|worth)\b|)"
-     R"(\b(?:atm\s+(?:visa\s+|master\s?|debit\s+)?card|bank\s+draft|cashier['’]?s?\s+che(?:que|ck)|consignment\s+box|trunk\s+box)\b[^.!?]{0,60}\b(?:your\s+name|worth|loaded|sum|million|deliver\w*|valued|courier|diplomat\w*)\b|)"
-     R"(\b(?:proposal|proposition|transaction|deal|business)\b[^.!?]{0,80}\b(?:mutual(?:ly)?\s+benefi\w+|benefit\s+(?:of\s+)?(?:both|us)|(?:\d+|fifty|forty|thirty)\s?(?:%|percent)\b[^.!?]{0,30}\b(?:you|share|total))\b|)"
-     R"(\b(?:foreign\s+partner|trustworthy|trusted|reliable|honest|god[- ]fearing)\s+(?:and\s+\w+\s+)?(?:person|partner|individual|foreigner|someone)\b[^.!?]{0,80}\b(?:fund|funds|invest\w*|million|assist|transfer|entrust|business|money|charity|help\s+me|claim)\b|)"
-     R"(\b(?:full|your)\s+(?:legal\s+)?names?\b[^.!?]{0,60}\b(?:address|phone|telephone|mobile|nationality|country)\b[^.!?]{0,80}\b(?:occupation|age|sex|gender|marital\s+status|next\s+of\s+kin|passport|identification|country|nationality|id\s+card)\b|)"
-     R"(\b(?:begünstigte[rn]?)\b[^.!?]{0,60}\b(?:fonds|millionen|summe|überweis\w+|auszahlung|zahlung|entschädigung)\b|)"
-     R"(\bbénéficiaire\b[^.!?]{0,60}\b(?:fonds|millions?|somme|virement|indemnisation)\b|)"
+     R"(\b(?:confidential|mutually\s+beneficial|crave\s+your\s+indulgence)\b[^.!?]{0,60}\b(?:transaction|business|proposal)\b[^.!?]{0,40}(?:[.!]|\b(?:details|get\s+back|reply|contact)\b)|)"
+     R"(\b(?:sum|payment|funds?|transfer|zahlung|summe)\b[^.!?]{0,60}\b(?:united\s+nations|vereinten\s+nationen|generalsekretär)\b|)"
+     R"(\b(?:urgent|important|dringende|wichtige)\s+(?:\w+\s+)?(?:matter|angelegenheit|discussion|discuss[ãa]o)\b[^.!?]{0,40}\b(?:discuss|besprechen|with\s+you|mit\s+ihnen|share)\b|)"
+     R"(\b(?:you|your\s+(?:name|e-?mail))\b[^.!?]{0,30}\b(?:beneficiary|beneficiaries|next\s+of\s+kin|(?:to\s+be|be|been)\s+compensated)\b[^.!?]{0,60}\b(?:funds?|payments?|sum|million|usd|atm|release|inherit\w*|\$|donation)\b|)"
+     R"(\b(?:beneficiary|compensation|inheritance|unpaid|abandoned)\s+(?:funds?|payments?|sum)\b[^.!?]{0,50}\b(?:release\w*|transfer\w*|approved|your|in\s+your\s+(?:name|favou?r)|million|atm|usd|due\s+to\s+you)\b|)"
+     R"(\b(?:release|payment|transfer|remittance|delivery|disbursement)\s+of\s+your\s+(?:\w+\s+){0,3}(?:funds?|inheritance|compensation|consignment|atm\s+card|winnings?)\b|)"
+     R"(\byour\s+(?:\w+\s+){0,3}(?:compensation|inheritance|consignment|fund|funds|atm\s+(?:visa\s+|master\s?|debit\s+)?card|bank\s+draft|cashier['’]?s?\s+che(?:que|ck)|unpaid\s+(?:fund|payment))\b[^.!?]{0,40}\b(?:release|released|transferred|approved|deliver\w*|sum|million|valued|worth)\b|)"
+     R"(\b(?:atm\s+(?:visa\s+|master\s?|debit\s+)?card|bank\s+draft|cashier['’]?s?\s+che(?:que|ck)|consignment\s+box|trunk\s+box)\b[^.!?]{0,60}\b(?:your\s+name|worth|loaded|sum|million|valued|courier|diplomat\w*)\b|)"
+     R"(\b(?:proposal|proposition|transaction|deal|business|investment)\b[^.!?]{0,80}\b(?:mutual(?:ly)?\s+(?:benefi\w+|interest)|(?:benefit|beneficial\s+to|interest\s+to)\s+(?:of\s+)?(?:both|us)|(?:\d+|fifty|forty|thirty)\s?(?:%|percent)[^.!?]{0,30}\b(?:you|share|total))\b|)"
+     R"(\bmutual(?:ly)?\s+beneficial\b[^.!?]{0,40}\b(?:business|investment|proposal|transaction|opportunit\w+|deal|relationship)\b[^.!?]{0,60}\b(?:reply|receiv\w+|details|discuss\w*|contact|respon\w+|interest\w*|get\s+back)\b|)"
+     R"(\b(?:lucrative|profitable|handsome|huge|confidential|important|urgent)\s+(?:\w+\s+)?(?:business\s+(?:proposal|proposition|deal|transaction|offer)|deal|proposal|proposition|transaction)\b[^.!?]{0,60}\b(?:you|details|discuss|reply|contact|share|with\s+you|get\s+back|interest\w*|million)\b|)"
+     R"(\b(?:foreign\s+partner|god[- ]fearing|trustworthy|reputable|reliable)\s+(?:and\s+\w+\s+)?(?:person|partner|individual|foreigner|someone|fellow)\b[^.!?]{0,80}\b(?:fund|funds|million|entrust|charity|claim|orphanage|transfer|assist\s+me)\b|)"
+     R"(\b(?:names?\s+in\s+full|full\s+names?|your\s+names?)\b[^.!?]{0,40}\b(?:address|phone|telephone|mobile|nationality|country)\b[^.!?]{0,80}\b(?:occupation|age|sex|gender|marital\s+status|next\s+of\s+kin|passport|identification|nationality|id\s+card)\b|)"
+     R"(\b(?:i\s+have|there\s+is|i['’]ve\s+got)\b[^.!?]{0,12}\b(?:something|an\s+important|a\s+very\s+important|a\s+business|a\s+vital)\b[^.!?]{0,25}\b(?:disclose|discuss|tell|share|proposal|information|message)\b[^.!?]{0,10}\b(?:to|with|for)\s+you\b|)"
+     R"(\b(?:charity|orphanage|less\s+privileged|humanitarian)\s+(?:work|project|home|foundation|fund|organi[sz]ation)s?\b[^.!?]{0,60}\b(?:your\s+country|on\s+my\s+behalf|you\s+to|donat\w+|fund|sum|million|entrust|with\s+you)\b|)"
+     R"(\b(?:begünstigte[rn]?)\b[^.!?]{0,60}\b(?:fonds|millionen|summe|auszahlung|entschädigung)\b|)"
+     R"(\bbénéficiaire\b[^.!?]{0,60}\b(?:fonds|millions?|somme|indemnisation)\b|)"
      R"(\b(?:beneficiari[oa]|benefici[áa]ri[oa])\b[^.!?]{0,60}\b(?:fondos?|fundos?|millones|milh[õo]es|suma|compensaci[óo]n|indeniza[çc][ãa]o)\b)",
      true},
     {"afee-processing-fee", "Advance fee", "warn", 50,
@@ -743,7 +830,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:barrister|solicitor|attorney|advocate|lawyer|notary)\b[^.!?]{0,60}\b(?:late|deceased|client|estate|inherit\w*|next\s+of\s+kin|fund|funds|beneficiary|claim)\b[^.!?]{0,80}\b(?:million|died|next\s+of\s+kin|fund|funds|inherit\w*|transfer|same\s+(?:last\s+name|surname)|nationality|claim|contact|proposal|beneficiary)\b|)"
      R"(\b(?:i\s+am|i['’]m|my\s+name\s+is|this\s+is|am)\b[^.!?]{0,25}\b(?:barrister|barr\.?|esq|princess|prince|chief|alhaji|engr|rev(?:erend)?|mrs|miss|madam|sgt|sergeant|captain|general|dr|mr)\b[^.!?]{0,100}\b(?:bank|director|manager|auditor|account\s+officer|widow|wife|daughter|son|ministry|remittance|petroleum|foreign\s+operations?|union|minister|central\s+bank|united\s+nations|army|oil)\b[^.!?]{0,150}\b(?:fund|funds|million|transfer\w*|proposal|deposit\w*|charity|assist\w*|confidential\w*|business|inherit\w*|partner\w*|donat\w+|compensat\w+|payment)\b|)"
      R"(\b(?:director|manager|head|officer|auditor|accountant|chairman|staff|secretary)\b[^.!?]{0,30}\b(?:of|in|with|at|for)\b[^.!?]{0,30}\b(?:bank|audit|credit|foreign\s+(?:operations?|remittance|exchange)|auditing|remittance|ministry|petroleum|security\s+company|eco\s?bank|central\s+bank)\b[^.!?]{0,150}\b(?:abandoned|deceased|next\s+of\s+kin|million|dormant|unclaimed|transfer\s+(?:of\s+)?(?:the\s+|this\s+)?(?:fund|money|sum)|inherit\w*)\b|)"
-     R"(\b(?:nigeria|lagos|abidjan|ivory\s+coast|cote\s+d['’]ivoire|burkina\s+faso|benin\s+republic|republic\s+of\s+benin|togo|ghana|sierra\s+leone|zimbabwe|senegal|liberia|angola|congo|accra|ouagadougou|south\s+africa)\b[^.!?]{0,150}\b(?:fund|funds|million|transfer|inherit\w*|deposit\w*|beneficiary|security\s+company|late|business\s+proposal|asylum|war|refugee)\b|)"
+     R"(\b(?:nigeria|lagos|abidjan|ivory\s+coast|cote\s+d['’]ivoire|burkina\s+faso|benin\s+republic|republic\s+of\s+benin|togo|ghana|sierra\s+leone|zimbabwe|senegal|liberia|angola|congo|accra|ouagadougou|south\s+africa)\b[^.!?]{0,120}\b(?:inherit\w*|deposited|beneficiary|security\s+company|business\s+proposal|my\s+late|next\s+of\s+kin|consignment|foreign\s+partner)\b|)"
      R"(\b(?:rechtsanwalt|notar|anwalt)\b[^.!?]{0,80}\b(?:verstorben\w*|erbschaft|nachlass|erbe)\b[^.!?]{0,80}\b(?:millionen|mio|mandant\w*|angehörige\w*|klient\w*)\b|)"
      R"(\b(?:maître|notaire|avocat)\b[^.!?]{0,80}\b(?:défunt|succession|héritage|feu)\b[^.!?]{0,80}\b(?:millions?|fonds|bénéficiaire|client)\b|)"
      R"(\b(?:abogado|advogado|notario|not[áa]rio)\b[^.!?]{0,80}\b(?:fallecid[oa]|falecid[oa]|herencia|heran[çc]a)\b)",
@@ -755,13 +842,14 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:scam|fraud)\s+victims?\b[^.!?]{0,80}\b(?:compensat\w+|refund\w*|paid|payment|fund|funds)\b|)"
      R"(\b(?:vereinte\s+nationen|weltbank|iwf)\b[^.!?]{0,80}\b(?:entschädigung|auszahlung|fonds|millionen)\b|)"
      R"(\b(?:nations\s+unies|banque\s+mondiale|fmi)\b[^.!?]{0,80}\b(?:indemnis\w+|fonds|compensation|millions?)\b|)"
-     R"(\b(?:naciones\s+unidas|na[çc][õo]es\s+unidas|banco\s+mundial|fmi)\b[^.!?]{0,80}\b(?:compensaci[óo]n|indeniza\w+|fondos?|fundos?|millones|milh[õo]es)\b)",
+     R"(\b(?:naciones\s+unidas|na[çc][õo]es\s+unidas|banco\s+mundial|fmi)\b[^.!?]{0,80}\b(?:compensaci[óo]n|indeniza\w+|fondos?|fundos?|millones|milh[õo]es)\b|)"
+     R"(\bvereinten\s+nationen\b[^.!?]{0,100}\b(?:zahlung|entschädigung\w*|freigabe|dollar|fonds|million\w*)\b)",
      true},
 
     // ---- Impersonation -------------------------------------------------------------------------
     {"imp-irs", "Impersonation", "warn", 50,
      "poses as the tax office with a refund or a debt",
-     R"(\b(?:irs|internal\s+revenue\s+service|hmrc|hm\s+revenue|inland\s+revenue|ato|australian\s+taxation\s+office|cra|canada\s+revenue\s+agency|tax\s+(?:office|authority|department|authorities|bureau|administration)|gov\.uk|mygov|revenue\s+commissioners|service\s+canada)\b[^.!?]{0,100}\b(?:refund|rebate|eligible|owed?|owing|overpa\w+|penalt\w+|arrest|warrant|lawsuit|final\s+notice|unpaid|stimulus|outstanding|claim\s+your|submit|legal\s+action|audit|verify|irregularit\w+|entitled)\b|)"
+     R"(\b(?:irs|lrs|internal\s+revenue\s+service|hmrc|hm\s+revenue|inland\s+revenue|ato|australian\s+taxation\s+office|cra|canada\s+revenue\s+agency|tax\s+(?:office|authority|department|authorities|bureau|administration)|gov\.uk|mygov|revenue\s+commissioners|service\s+canada)\b[^.!?]{0,100}\b(?:refund|rebate|eligible|owed?|owing|overpa\w+|penalt\w+|arrest|warrant|lawsuit|final\s+notice|unpaid|stimulus|outstanding|claim\s+your|submit|legal\s+action|audit|verify|irregularit\w+|entitled)\b|)"
      R"(\b(?:tax|fiscal)\s+(?:refund|rebate|return|relief|overpayment|benefit)s?\b[^.!?]{0,60}\b(?:eligible|entitled|claim|click|submit|pending|of\s+[$€£]|approved|waiting|receive|notification|link|you\s+are\s+due|processed|due\s+to\s+you|application)\b|)"
      R"(\b(?:eligible|entitled|due|qualify|claim|receive|awaiting)\b[^.!?]{0,40}\b(?:tax|stimulus|council\s+tax|energy|cost\s+of\s+living)\s+(?:refund|rebate|payment|check|cheque|support|relief)\b|)"
      R"(\b(?:unpaid|outstanding|overdue|owe|back)\b[^.!?]{0,20}\btax(?:es)?\b[^.!?]{0,60}\b(?:arrest|warrant|lawsuit|legal\s+action|police|immediately|seiz\w+|penalt\w+|sheriff|jail)\b|)"
@@ -792,6 +880,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"imp-social-security", "Impersonation", "warn", 45,
      "says a social security or national insurance number is suspended or misused",
+     R"(\byour\s+(?:new\s+|updated\s+)?social\s+security\s+(?:statement|benefit\s+statement|letter)\b[^.!?]{0,60}\b(?:available|review|download|view|ready|access|streamlined|open)\b|)"
      R"(\b(?:social\s+security|ssn|ssa|social\s+insurance|national\s+insurance|medicare|aadhaa?r|nin)\s+(?:\w+\s+){0,3}(?:number|benefits?|account|card|administration|no)?\b[^.!?]{0,50}\b(?:suspend\w*|block\w*|compromis\w*|suspicious|fraud\w*|illegal\w*|terminat\w*|deactivat\w*|misus\w*|on\s+hold|legal\s+action|expire[sd]?|criminal|verify|warrant)\b|)"
      R"(\b(?:suspend\w*|compromis\w*|block\w*|misus\w*|suspicious\s+activit\w+|fraudulent\w*)\b[^.!?]{0,40}\b(?:your\s+|ur\s+)(?:social\s+security|ssn|social\s+insurance|national\s+insurance|medicare|aadhaa?r)\b|)"
      R"(\b(?:give|confirm|provide|verify|send|update|need|enter)\b[^.!?]{0,20}\b(?:your|ur|the\s+last\s+(?:four|4)(?:\s+digits)?\s+of\s+your)\s+(?:social\s+security|ssn|social\s+insurance|national\s+insurance|medicare)(?:\s+(?:number|no|card))?\b|)"
@@ -802,6 +891,8 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"imp-support", "Impersonation", "warn", 40,
      "poses as the technical support of a well-known company",
+     R"(\b(?:norton|mcafee|geek\s?squad|paypal|lifelock|totalav|microsoft|windows|quickbooks|best\s+buy|amazon|apple|netflix|premium|maxsecure)\b[^.!?]{0,80}\b(?:membership|subscription|renewal|protection\s+plan|auto-?renew\w*|order|renew)\b[^.!?]{0,100}(?:[$€£]\s?\d|\b(?:charged|debited|debit|help\s?line|help\s?desk|toll[- ]?free)\b)|)"
+     R"(\b(?:membership|subscription|renewal|plan)\b[^.!?]{0,60}\b(?:norton|mcafee|geek\s?squad|paypal|lifelock|totalav|microsoft|windows|quickbooks|maxsecure)\b[^.!?]{0,100}(?:[$€£]\s?\d|\b(?:charged|debited|debit|set\s+to\s+renew|scheduled)\b)|)"
      R"(\b(?:microsoft|windows|apple|google|amazon|paypal|netflix|facebook|meta|instagram|whats\s?app|coinbase|metamask|ledger|binance|norton|mcafee|geek\s?squad|icloud|outlook|office\s?365|yahoo|dhl|ups|fedex|usps|docusign|trust\s?wallet|blockchain|kraken|exodus|opensea|trezor|linkedin|spotify|webmail|e-?mail|mail|helpdesk|it)\b[^.!?]{0,5}\b(?:technical\s+|customer\s+|account\s+|security\s+|online\s+|wallet\s+|live\s+|e-?mail\s+|help\s+|it\s+|admin\s+)*(?:support|help\s?desk|service\s+desk|security|care|services?|administrator|admin|assistance|account|verification|protection|billing)(?:\s+team|\s+department|\s+center|\s+centre|\s+desk|\s+staff|\s+agent)\b|)"
      R"(\b(?:this\s+is|i\s+am|i['’]m|we\s+are|calling|writing)\b[^.!?]{0,15}\b(?:from|with)\b[^.!?]{0,15}\b(?:the\s+)?(?:it\s+(?:support|department|help\s?desk|team)|microsoft|windows|apple|amazon|help\s?desk|tech(?:nical)?\s+support|paypal|google|coinbase|your\s+internet\s+provider)\b[^.!?]{0,60}\b(?:support|account|computer|device|noticed|detected|virus|password|verify|migrat\w*|issue|problem|security)\b|)"
      R"(\b(?:it|system|mail|e-?mail|server|webmail|network|exchange|mailbox)\s+(?:help\s?desk|administrators?|admin|service\s+desk|support(?:\s+team)?)\b[^.!?]{0,100}\b(?:password|mailbox|verify|validate|upgrade|migrat\w+|quota|click|link|credential\w*|update\s+your|log\s?in|deactivat\w*|expire\w*)\b|)"
@@ -869,7 +960,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"imp-virus-detected", "Impersonation", "warn", 45,
      "claims that a virus was found on the reader's device",
-     R"(\b(?:your|ur|this)\s+(?:\w+\s+){0,2}(?:computer|pc|device|phone|i-?phone|mac|laptop|system|windows|android|browser|ip\s+address)\b[^.!?]{0,40}\b(?:infected|virus(?:es)?|malware|compromised|hacked|trojan|spyware|at\s+risk|unprotected|not\s+protected|no\s+longer\s+protected|vulnerable|blocked|damaged)\b|)"
+     R"(\b(?:your|ur|this)\s+(?:\w+\s+){0,2}(?:computer|pc|device|phone|i-?phone|mac|laptop|system|windows|android|browser|ip\s+address)\s+(?:is|has|may|might|was|could|appears|contains)\b[^.!?]{0,25}\b(?:infected|virus(?:es)?|malware|compromised|hacked|trojan|spyware|at\s+risk|unprotected|not\s+protected|no\s+longer\s+protected|vulnerable|blocked|damaged)\b|)"
      R"(\b(?:virus(?:es)?|malware|trojans?|spyware|threats?|infections?)\b[^.!?]{0,25}\b(?:detected|found|identified|discovered)\b[^.!?]{0,30}\b(?:on|in|your|device|computer|pc|system|phone|immediately|call|scan)\b|)"
      R"(\b(?:detected|found|identified|discovered)\b[^.!?]{0,25}\b(?:\d+|several|multiple|some|a|dangerous)\b[^.!?]{0,15}\b(?:virus(?:es)?|trojans?|spyware|malware|threats)\b[^.!?]{0,30}\b(?:on|in)\s+(?:your|this)\b|)"
      R"(\b(?:norton|mcafee|windows\s+defender|antivirus|avast|avg|kaspersky|totalav|bitdefender)\b[^.!?]{0,50}\b(?:expired|has\s+ended|protection|subscription|licen[cs]e|renew\w*)\b[^.!?]{0,60}\b(?:virus\w*|threats?|risk|infected|unprotected|vulnerable|hackers?|expos\w+|protect\w*|renew\w*)\b|)"
@@ -884,7 +975,7 @@ constexpr auto table = std::to_array<Rule>({
      "urges the reader to call a given number about a charge or an account",
      R"(\b(?:call|dial|phone|contact|reach|ring|text)\b[^.!?]{0,40}(?:\+?\d{1,3}[\s.-]?)?\(?\d{3,4}\)?[\s.-]{0,2}\d{3}[\s.-]{0,2}\d{3,4}\b[^.!?]{0,60}\b(?:cancel|refund|immediately|dispute|verify|support|unauthori[sz]ed|order|charge\w*|within|subscription|help|stop|avoid|report|account|claim|questions?|if)\b|)"
      R"(\b(?:cancel|refund|dispute|unauthori[sz]ed|not\s+(?:made|authori[sz]ed|placed)\s+by\s+you|did\s+not\s+(?:make|authori[sz]e|place)|didn['’]t\s+(?:make|authori[sz]e|place)|subscription|auto-?renew\w*|charged|virus|suspended|locked|to\s+claim)\b[^.!?]{0,100}\b(?:call|dial|phone|contact|ring|reach)\b[^.!?]{0,40}(?:\+?\d{1,3}[\s.-]?)?\(?\d{3,4}\)?[\s.-]{0,2}\d{3}[\s.-]{0,2}\d{3,4}\b|)"
-     R"(\b(?:toll[- ]?free|help\s?line|help\s?desk|customer\s+(?:care|support|service)|support\s+(?:team|number|line|desk)|billing\s+(?:department|team))\b[^.!?]{0,25}(?:\+?\d{1,3}[\s.-]?)?\(?\d{3}\)?[\s.-]{0,2}\d{3}[\s.-]{0,2}\d{4}\b|)"
+     R"(\b(?:toll[- ]?free|help\s?line|service\s+help\s?desk|customer\s+(?:care|support)|support\s+(?:number|line)|billing\s+department)\b[^.!?]{0,25}(?:\+?\d{1,3}[\s.-]?)?\(?\d{3}\)?[\s.-]{0,2}\d{3}[\s.-]{0,2}\d{4}\b|)"
      R"(\b(?:rufen\s+Sie|anrufen|telefonisch)\b[^.!?]{0,40}\+?\d[\d /.-]{7,18}[^.!?]{0,60}\b(?:stornier\w+|kündig\w+|sofort|umgehend|erstattung|widerruf\w*|sperr\w+)\b|)"
      R"(\b(?:appelez|contactez|composez)\b[^.!?]{0,40}\+?\d[\d .-]{7,18}[^.!?]{0,60}\b(?:annul\w+|immédiat\w+|rembours\w+|urgent\w*|opposition)\b|)"
      R"(\b(?:llame|llama|ligue|entre\s+em\s+contato)\b[^.!?]{0,40}\+?\d[\d .()-]{7,18}[^.!?]{0,60}\b(?:cancel\w+|inmediat\w+|imediat\w+|reembols\w+|bloque\w+|contest\w+|n[ãa]o\s+reconhe\w+)\b)",
@@ -945,10 +1036,10 @@ constexpr auto table = std::to_array<Rule>({
     {"urg-last-chance", "Pressure", "warn", 20,
      "speaks of a last chance or a final notice",
      R"(\b(?:last|final)\s+(?:chance|opportunity|warning|reminder|notice|call|attempt|notification|day|hours)\b|)"
-     R"(\b(?:don['’]t|do\s+not|never)\s+(?:miss|let)\b[^.!?]{0,15}\b(?:out|this|the|your|it|chance|opportunity)\b|)"
+     R"(\b(?:don['’]t|do\s+not)\s+(?:miss\s+(?:out|this|your|the\s+chance)|let\s+(?:this|it)\s+(?:\w+\s+)?(?:slip|pass|expire))\b|)"
      R"(\b(?:only|just)\s+(?:\d+|a\s+few|one|two|three|limited)\b[^.!?]{0,15}\b(?:left|remaining|spots?|places?|seats?|items?|pieces?|units?|available)\b|)"
      R"(\b(?:while|as)\s+(?:supplies|stocks?)\s+lasts?\b|)"
-     R"(\b(?:hurry|act\s+fast|be\s+quick|before\s+it['’]s\s+gone|once\s+in\s+a\s+lifetime|one[- ]time\s+(?:offer|opportunity|chance))\b|)"
+     R"(\b(?:hurry\s+up|be\s+quick|before\s+it['’]s\s+gone|once\s+in\s+a\s+lifetime|one[- ]time\s+(?:offer|opportunity|chance))\b|)"
      R"(\bletzte\s+(?:chance|warnung|mahnung|erinnerung|gelegenheit|möglichkeit|aufforderung)\b|)"
      R"(\b(?:verpassen|versäumen)\s+Sie\b[^.!?]{0,25}\b(?:nicht|keine)\b|)"
      R"(\b(?:beeilen\s+sie\s+sich|beeil\s+dich|schnell\s+sein|nur\s+noch\s+wenige)\b|)"
@@ -960,15 +1051,16 @@ constexpr auto table = std::to_array<Rule>({
      R"((?:最后机会|最後機會|最后通知|最後通知|最終通知|最終警告|最後の(?:チャンス|機会)|마지막\s?(?:기회|통보|경고|안내)|최종\s?(?:통보|경고)))",
      true},
     {"urg-do-not-tell", "Pressure", "warn", 55,
-     "tells the reader to keep a request from others",
-     R"(\b(?:do\s+not|don['’]t|never|without|refrain\s+from|avoid|must\s+not|cannot|should\s+not|shouldn['’]t|not\s+to)\b[^.!?]{0,12}\b(?:tell|telling|inform|informing|mention|mentioning|discuss|discussing|share|sharing|disclose|disclosing|speak|speaking|talk|talking|reveal|revealing)\b[^.!?]{0,25}\b(?:anyone|anybody|any\s?one|nobody|no\s+one|your\s+(?:family|wife|husband|spouse|parents|bank|colleagues|friends|manager|boss)|the\s+(?:bank|police|teller|others|team)|other\s+(?:staff|people|employees|colleagues)|a\s+soul)\b|)"
-     R"(\b(?:keep|keeping|kept)\s+(?:this|it|the\s+(?:matter|transaction|deal|information|whole\s+thing|purchase|gift|request|surprise)|everything)\s+(?:\w+\s+){0,3}(?:secret|to\s+yourself|between\s+(?:us|you\s+and\s+me|the\s+two\s+of\s+us)|top\s+secret|hush)\b|)"
-     R"(\b(?:tell|inform|mention\s+(?:it|this)\s+to|speak\s+to)\s+(?:no\s+one|nobody|no\s+body)\b|)"
-     R"(\b(?:strictly|just|only|solely)\s+between\s+(?:us|you\s+and\s+me|the\s+two\s+of\s+us)\b|)"
-     R"(\b(?:erzählen|sagen|sprechen|informieren)\s+Sie\b[^.!?]{0,25}\b(?:niemand\w*|keinem|mit\s+niemand\w*)\b|)"
-     R"(\b(?:sag|erzähl|sprich)\b[^.!?]{0,15}\b(?:niemand\w*|keinem)\b|)"
-     R"(\b(?:n['’]en\s+parlez|ne\s+(?:le\s+)?dites|ne\s+parlez|n['’]en\s+parle)\b[^.!?]{0,25}\b(?:personne|à\s+quiconque|aucun)\b|)"
-     R"(\b(?:no\s+(?:le\s+)?(?:diga|cuente|digas|cuentes|comente)|n[ãa]o\s+(?:conte|diga|fale|comente))\b[^.!?]{0,25}\b(?:nadie|ningu[ée]m)\b|)"
+     "tells the reader to keep a request from family, bank or colleagues",
+     R"(\b(?:do\s+not|don['’]t|never|without|must\s+not|cannot|should\s+not|shouldn['’]t)\b[^.!?]{0,12}\b(?:tell|telling|inform|informing|mention|discuss|discussing|share|disclose|speak|talk|reveal)\b[^.!?]{0,25}\b(?:your\s+(?:family|wife|husband|spouse|parents|bank|colleagues|friends|boss)|the\s+(?:bank|police|teller)|other\s+(?:staff|employees|colleagues)|anyone\s+(?:else\s+)?(?:in|at)\s+the\s+(?:office|company|bank))\b|)"
+     R"(\b(?:keep|keeping)\s+(?:this|it|the\s+(?:matter|transaction|deal|whole\s+thing|purchase|request)|everything)\s+(?:\w+\s+){0,3}(?:secret|between\s+(?:us|you\s+and\s+me|the\s+two\s+of\s+us)|top\s+secret|to\s+yourself)\b[^.!?]{0,40}(?:\b(?:until|as|because|surprise|transaction|payment|money|deal|transfer|now|fund|process\w*|conclu\w+)\b|[.!])|)"
+     R"(\b(?:strictly|only|solely)\s+between\s+(?:us|you\s+and\s+me|the\s+two\s+of\s+us)\b|)"
+     R"(\b(?:speak|tell|mention|say)\b[^.!?]{0,12}\b(?:of\s+)?(?:this\s+|it\s+)?to\s+(?:no\s+one|nobody|anyone\s+in\s+the\s+office)\b|)"
+     R"(\b(?:nobody|no\s+one)\s+(?:else\s+)?(?:should|must|may|can|needs\s+to|is\s+to)\s+(?:be\s+informed|know|find\s+out|hear)\b|)"
+     R"(\b(?:erzählen|sagen|sprechen|informieren)\s+Sie\b[^.!?]{0,25}\b(?:niemand\w*|keinem|ihrer\s+bank|ihrer\s+familie)\b|)"
+     R"(\b(?:sag|erzähl|sprich)\b[^.!?]{0,15}\b(?:niemand\w*|keinem)\b[^.!?]{0,25}\b(?:davon|darüber|etwas)\b|)"
+     R"(\b(?:n['’]en\s+parlez|ne\s+(?:le\s+)?dites|ne\s+parlez)\b[^.!?]{0,25}\b(?:personne|à\s+quiconque|votre\s+banque)\b|)"
+     R"(\b(?:no\s+(?:le\s+)?(?:diga|cuente|digas|cuentes|comente)|n[ãa]o\s+(?:conte|diga|fale|comente))\b[^.!?]{0,25}\b(?:nadie|ningu[ée]m|seu\s+banco|su\s+banco)\b|)"
      R"(\bvertel\b[^.!?]{0,20}\b(?:niemand|aan\s+niemand)\b)",
      true},
     {"urg-no-questions", "Pressure", "warn", 40,
@@ -994,17 +1086,19 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"urg-consequences", "Pressure", "warn", 30,
      "threatens a loss or legal steps if the reader does not comply",
-     R"(\b(?:failure|fail|failing|refusal|neglect|refus(?:e|ing)|unable)\b[^.!?]{0,10}\b(?:to|of)\b[^.!?]{0,60}\b(?:will|may|shall|could|would)\b[^.!?]{0,20}\b(?:result|lead|be|have|cause|face|lose|leave|force|incur|mean|trigger)\b|)"
-     R"(\b(?:legal|criminal|court|further|enforcement|collection|disciplinary)\s+(?:action|proceedings|consequences|measures|prosecution|steps)\b[^.!?]{0,40}\b(?:will|may|against\s+you|taken|if|initiated|avoid|be|unless|commence\w*|result)\b|)"
-     R"(\b(?:avoid|prevent|escape|stop)\b[^.!?]{0,15}\b(?:legal|penalt\w+|fines?|late\s+fees?|arrest|prosecution|disconnection|interruption|suspension|termination|service\s+interruption|additional\s+(?:fees|charges|penalties)|further\s+(?:fees|charges|action|penalties)|collections?|disruption|restrictions?|any\s+inconvenience|losing|loss|being|return|fees|consequences)\b|)"
-     R"(\bif\s+(?:you|we)\b[^.!?]{0,8}\b(?:do\s+not|don['’]t|fail\s+to|ignore|refuse|does\s+not|have\s+not|not)\b[^.!?]{0,60}\b(?:will\s+be|you\s+will|your|we\s+will|be\s+forced|shall\s+be|lose|legal|charged|deducted|closed|returned|permanently)\b[^.!?]{0,40}\b(?:closed|suspended|terminated|deleted|lost|blocked|locked|restricted|disabled|returned|deactivated|charged|cancelled|canceled|lose|legal|action|fee|arrest\w*|penalty|removed|court|destroyed|forfeit\w*|unable)\b|)"
-     R"(\b(?:you\s+will|you['’]ll|you\s+may|you\s+could)\s+(?:permanently\s+)?(?:lose|forfeit|be\s+(?:charged|fined|arrested|prosecuted|sued|locked\s+out|billed))\b|)"
-     R"(\b(?:andernfalls|ansonsten|sonst)\b[^.!?]{0,60}\b(?:gesperrt|gelöscht|geschlossen|gekündigt|inkasso|rechtliche|mahn\w+|gebühr\w*|zurückgesen\w+|zurückgeschickt|verlieren|eingeschränkt|strafe|deaktiviert|verfallen|verfällt)\b|)"
+     R"(\b(?:failure|fail|failing|refusal|neglect)\b[^.!?]{0,8}\bto\b[^.!?]{0,60}\b(?:will|may|shall|could)\b[^.!?]{0,8}\b(?:result\s+(?:in|to)|lead\s+to|be\s+(?:suspended|closed|considered|charged|terminated|deactivated|disconnected|reported)|cause\s+(?:your|the|an?)|force\s+us|leave\s+us|incur|trigger|mean)\b|)"
+     R"(\b(?:legal|criminal|court|enforcement|collection)\s+(?:action|proceedings|consequences|measures|prosecution|steps)\b[^.!?]{0,25}\b(?:will\s+be|against\s+you|taken|initiated|unless|commence\w*)\b|)"
+     R"(\b(?:avoid|prevent|escape)\b[^.!?]{0,15}\b(?:legal\s+action|penalt\w+|late\s+fees?|arrest|prosecution|additional\s+(?:fees|charges|penalties)|further\s+(?:fees|charges|action|penalties)|being\s+returned|(?:the\s+)?return\s+of\s+(?:your|the)\s+(?:parcel|package|item)|permanent\s+(?:loss|lock\w*|closure|deletion|suspension))\b|)"
+     R"(\bif\s+(?:you|we|no|payment|it|the)\b[^.!?]{0,8}\b(?:do\s+not|don['’]t|fail\s+to|ignore|refuse|does\s+not|have\s+not|is\s+not|are\s+not|action\s+is|not)\b[^.!?]{0,60}\b(?:will\s+be|you\s+will|shall\s+be|will|be\s+forced\s+to|may\s+be)\b[^.!?]{0,25}\b(?:closed|suspended|terminated|deleted|lost|blocked|locked|restricted|disabled|returned|deactivated|lose\s+(?:access|your)|legal|arrest\w*|penalt\w+|destroyed|forfeit\w*)\b|)"
+     R"(\byou\s+(?:will|['’]ll|may|could)\s+(?:permanently\s+)?(?:lose\s+(?:access|your|all)|forfeit|be\s+(?:fined|arrested|prosecuted|sued|locked\s+out))\b|)"
+     R"(\bunable\s+to\b[^.!?]{0,40}\band\s+will\s+be\b[^.!?]{0,20}\b(?:lost|deleted|suspended|locked|disabled|incompatible|inaccessible)\b|)"
+     R"(\b(?:andernfalls|ansonsten|sonst)\b[^.!?]{0,60}\b(?:gesperrt|gelöscht|geschlossen|inkasso|zurückgesen\w+|zurückgeschickt|eingeschränkt|deaktiviert|verfallen|verfällt)\b|)"
      R"(\b(?:rechtliche|gerichtliche)\s+(?:schritte|maßnahmen|folgen|konsequenzen)\b|)"
-     R"(\b(?:inkasso(?:verfahren|büro|unternehmen)|zwangsvollstreckung|pfändung)\b|)"
+     R"(\b(?:inkasso(?:verfahren|büro|unternehmen)|zwangsvollstreckung)\b|)"
+     R"(\b(?:einschränkungen|unterbrechung|sperrung|zusätzliche\s+(?:kosten|gebühren)|rücksendung|mahngebühren)\b[^.!?]{0,25}\b(?:zu\s+)?vermeiden\b|)"
      R"(\b(?:à\s+défaut|sinon|faute\s+de|sans\s+(?:réponse|régularisation|action)\s+de\s+votre\s+part)\b[^.!?]{0,60}\b(?:suspen\w+|ferm\w+|supprim\w+|poursuites?|pénalité\w*|majoration|bloqu\w+|résili\w+|désactiv\w+|retourné)\b|)"
-     R"(\b(?:de\s+lo\s+contrario|caso\s+contr[áa]rio|si\s+no|caso\s+n[ãa]o|a\s+falta\s+de|el\s+incumplimiento|o\s+n[ãa]o\s+pagamento|sob\s+pena|evitar|evite)\b[^.!?]{0,60}\b(?:suspen\w+|bloque\w+|cancel\w+|legales|judicia\w+|multas?|penhora|embargo|protesto|negativa\w+|devol\w+|perd\w+|penalidade\w*|restri\w+|serasa|spc|apreens\w+|d[íi]vida\s+ativa|encargos|juros)\b|)"
-     R"(\b(?:anders|indien\s+u\s+(?:niet|geen)|voorkom)\b[^.!?]{0,60}\b(?:geblokkeerd|deurwaarder|incasso\w*|boete|opgeschort|afgesloten|teruggestuurd|extra\s+kosten|blokkering|verhoging)\b|)"
+     R"(\b(?:de\s+lo\s+contrario|caso\s+contr[áa]rio|caso\s+n[ãa]o|a\s+falta\s+de|el\s+incumplimiento|o\s+n[ãa]o\s+pagamento|sob\s+pena|evitar|evite)\b[^.!?]{0,60}\b(?:suspen\w+|bloque\w+|cancel\w+|legales|judicia\w+|multas?|penhora|embargo|protesto|negativa\w+|devol\w+|penalidade\w*|restri\w+|serasa|spc|apreens\w+|d[íi]vida\s+ativa|encargos|juros)\b|)"
+     R"(\b(?:indien\s+u\s+(?:niet|geen)|voorkom)\b[^.!?]{0,60}\b(?:geblokkeerd|deurwaarder|incasso\w*|boete|opgeschort|afgesloten|teruggestuurd|extra\s+kosten|blokkering|verhoging)\b|)"
      R"((?:否则|否則|逾期)[^。！？.!?]{0,20}(?:冻结|凍結|法律|起诉|起訴|逮捕|停用|注销|罚款|罰款|关闭|關閉)|)"
      R"((?:ない場合|期限を過ぎ)[^。！？.!?]{0,25}(?:停止|法的|解約|失効|差し押さえ|制限|無効|没収)|)"
      R"((?:않을\s?경우|않으면|미납\s?시|불응\s?시)[^.!?。]{0,25}(?:정지|법적|압류|해지|고소|제한|삭제))",
@@ -1013,16 +1107,16 @@ constexpr auto table = std::to_array<Rule>({
     // ---- Extortion -----------------------------------------------------------------------------
     {"ext-webcam", "Extortion", "warn", 70,
      "claims to have filmed the reader through the webcam",
-     R"(\b(?:web\s?cam(?:era)?|camera|front\s+camera|your\s+screen|microphone)\b[^.!?]{0,120}\b(?:record\w*|video\w*|footage|filmed|captured|watch(?:ed|ing)|screenshots?)\b[^.!?]{0,120}\b(?:you|yourself)\b[^.!?]{0,80}\b(?:masturbat\w+|pleasur\w+|satisf\w+|porn\w*|adult|intimate|jerk\w*|sexual\w*|naked|nude|having\s+fun|wank\w*|onanis\w+|sites?|dirty|perver\w+|embarrass\w+|contacts|relieving)\b|)"
-     R"(\b(?:record\w*|video|footage|filmed|captured|screenshots?)\b[^.!?]{0,80}\b(?:you|yourself|your)\b[^.!?]{0,60}\b(?:masturbat\w+|pleasur\w+\s+yourself|satisfying\s+yourself|jerking|wanking|watching\s+(?:porn\w*|adult)|naked|onanis\w+|self[- ]satisf\w+|solo)\b|)"
-     R"(\b(?:masturbat\w+|pleasuring\s+yourself|satisfying\s+yourself|jerking\s+off|onanis\w+)\b[^.!?]{0,120}\b(?:video|footage|record\w*|web\s?cam|camera|contacts|send|publish|screen|clip)\b|)"
-     R"(\b(?:turned|switch(?:ed)?|activat\w+|access\w*|hijack\w+|took\s+control)\b[^.!?]{0,15}\b(?:on\s+|of\s+|to\s+)?your\s+(?:web\s?cam(?:era)?|camera|microphone)\b|)"
+     R"(\b(?:web\s?cam(?:era)?|camera|front\s+camera|your\s+screen|microphone)\b[^.!?]{0,120}\b(?:record\w*|video\w*|footage|filmed|captured|watch(?:ed|ing)|screenshots?)\b[^.!?]{0,120}\b(?:you|yourself)\b[^.!?]{0,80}\b(?:masturbat\w+|pleasur\w+\s+yourself|porn\w*|intimate|jerk\w*|sexual\w*|naked|nude|wank\w*|onanis\w+|dirty|perver\w+|relieving)\b|)"
+     R"(\b(?:record\w*|video|footage|filmed|captured|screenshots?)\b[^.!?]{0,80}\b(?:you|yourself)\b[^.!?]{0,60}\b(?:masturbat\w+|pleasuring\s+yourself|satisfying\s+yourself|jerking|wanking|watching\s+(?:porn\w*|adult)|onanis\w+|self[- ]satisf\w+)\b|)"
+     R"(\b(?:masturbat\w+|pleasuring\s+yourself|satisfying\s+yourself|jerking\s+off|onanis\w+)\b[^.!?]{0,120}\b(?:video|footage|record\w*|web\s?cam|camera|contacts|publish|screen|clip)\b|)"
+     R"(\b(?:turned\s+on|switched\s+on|activated|hijacked|accessed|took\s+control\s+of|gained\s+access\s+to|have\s+access\s+to|access\s+to)\s+your\s+(?:\w+\s+)?(?:web\s?cam(?:era)?|camera|microphone)\b|)"
      R"(\b(?:split|double)[- ]screen\s+(?:video|recording)\b|)"
-     R"(\b(?:web\s?cam|kamera)\b[^.!?]{0,100}\b(?:aufgenommen|gefilmt|aufgezeichnet|aufnahme\w*|video\w*|mitgeschnitten)\b[^.!?]{0,100}\b(?:masturb\w+|selbstbefried\w+|porno\w*|erwachsen\w+|intim\w*|befriedig\w+|kontakte\w*|nackt)\b|)"
+     R"(\b(?:web\s?cam|kamera)\b[^.!?]{0,100}\b(?:aufgenommen|gefilmt|aufgezeichnet|aufnahme\w*|mitgeschnitten)\b[^.!?]{0,100}\b(?:masturb\w+|selbstbefried\w+|porno\w*|intim\w*|befriedig\w+|nackt)\b|)"
      R"(\b(?:masturb\w+|selbstbefriedig\w+|selbst\s+befriedig\w+)\b[^.!?]{0,100}\b(?:video\w*|aufgenommen|gefilmt|kamera|web\s?cam|aufgezeichnet|kontakte\w*)\b|)"
      R"(\b(?:filmé|enregistré|vidéo|web\s?cam)\b[^.!?]{0,100}\b(?:masturb\w+|plaisir\s+solitaire|porno\w*|site\s+pour\s+adultes)\b|)"
      R"(\b(?:grabad[oa]|gravei|v[íi]deo|c[áa]mara|c[âa]mera|web\s?cam|filmad[oa])\b[^.!?]{0,100}\b(?:masturb\w+|porno\w*|sitios?\s+(?:para\s+)?adultos?|sites?\s+adultos?)\b|)"
-     R"(\b(?:masturbe\w+|gefilmd|opgenomen)\b[^.!?]{0,100}\b(?:web\s?cam|camera|video|porno\w*)\b)",
+     R"(\b(?:masturbe\w+|gefilmd|opgenomen)\b[^.!?]{0,100}\b(?:web\s?cam|camera|porno\w*)\b)",
      true},
     {"ext-pay-or-release", "Extortion", "warn", 75,
      "demands money to keep something from being published",
@@ -1067,7 +1161,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"ext-hacked-device", "Extortion", "warn", 50,
      "claims to have hacked the reader's device or account",
-     R"(\b(?:i|we|my\s+team|our\s+team|hackers?)\b(?:['’]ve|\s+have|\s+had|\s+am|\s+was)?[^.!?]{0,25}\b(?:hacked|infected|gained\s+(?:full\s+|complete\s+|unlimited\s+)?access|got\s+(?:full\s+|complete\s+)?access|obtained\s+(?:full\s+)?access|compromised|cracked|broke\s+into|full\s+access|complete\s+access|complete\s+control|full\s+control|installed\s+(?:a\s+|my\s+)?(?:\w+\s+)?(?:trojan|malware|virus|spyware|rat|software))\b[^.!?]{0,25}\b(?:to\s+|of\s+|on\s+|into\s+|your|all)\b[^.!?]{0,30}\b(?:devices?|computers?|accounts?|phones?|e-?mails?|system|operating\s+system|router|pc|network|laptop|gadgets?|browser|website|site|databases?|camera)\b|)"
+     R"(\b(?:i|we|my\s+team|our\s+team|hackers?)\b(?:['’]ve|\s+have|\s+had|\s+am|\s+was)?[^.!?]{0,25}\b(?:hacked|infected|gained\s+(?:full\s+|complete\s+|unlimited\s+)?access|got\s+(?:full\s+|complete\s+)?access|obtained\s+(?:full\s+)?access|compromised|cracked|broke\s+into|full\s+access|complete\s+access|complete\s+control|full\s+control|installed\s+(?:a\s+|my\s+)?(?:\w+\s+)?(?:trojan|malware|virus|spyware|rat|software))\b[^.!?]{0,12}\b(?:your|all\s+(?:of\s+)?your|all)\b[^.!?]{0,30}\b(?:devices?|computers?|accounts?|phones?|e-?mails?|system|operating\s+system|router|pc|network|laptop|gadgets?|browser|website|site|databases?|camera)\b|)"
      R"(\b(?:your\s+)(?:\w+\s+){0,2}(?:device|computer|account|operating\s+system|phone|pc|system|e-?mail|website|laptop)\b[^.!?]{0,20}\b(?:has\s+been|was|is|got|were|have\s+been)\s+(?:\w+\s+)?(?:hacked|infected|compromised|cracked|breached)\b[^.!?]{0,60}\b(?:by\s+(?:me|us)|my|i|trojan|malware|virus|we|full\s+access)\b|)"
      R"(\b(?:i\s+am|i['’]m|we\s+are|am)\s+(?:a\s+|an\s+|the\s+|professional\s+|group\s+of\s+|known\s+)*(?:hacker|hackers|programmer\s+who|cyber\s?criminal)\b|)"
      R"(\b(?:sent|sending|written|writing|mailed)\b[^.!?]{0,20}\bfrom\s+your\s+(?:own\s+)?(?:e-?mail\s+)?(?:account|address|device|mailbox)\b[^.!?]{0,60}\b(?:hack\w*|access|control|means|notice\w*|see|as\s+you)\b|)"
@@ -1081,19 +1175,20 @@ constexpr auto table = std::to_array<Rule>({
     // ---- Threats -------------------------------------------------------------------------------
     {"thr-violence", "Threats", "warn", 80,
      "threatens physical violence",
-     R"(\b(?:i|we)(?:['’]ll|\s+will|\s+am\s+going\s+to|['’]m\s+going\s+to|\s+are\s+going\s+to|['’]re\s+going\s+to|\s+gonna|['’]m\s+gonna|\s+swear\s+i(?:['’]ll|\s+will))\b[^.!?]{0,12}\b(?:kill|murder|shoot|stab|beat\s+(?:the|you|your)|hurt|strangle|burn|break\s+(?:your|ur)|smash\s+(?:your|ur)|slit|skin|destroy\s+you|hunt\s+you|bury|cut\s+(?:your|you)|hang\s+you|gut\s+you)\b[^.!?]{0,12}\b(?:you|your|ur|him|her|them|throat|legs?|neck|face|skull|head|alive)\b|)"
-     R"(\b(?:you|u)(?:['’]re|\s+are|\s+r|['’]ll|\s+will)\b[^.!?]{0,12}\b(?:dead\s+(?:man|meat|woman)|going\s+to\s+die|gonna\s+die|be\s+killed|be\s+dead|die\s+(?:for|slowly|screaming|tonight|tomorrow)|be\s+sorry\s+you\s+were\s+born|pay\s+(?:for\s+(?:this|it)\s+)?with\s+your\s+life)\b|)"
-     R"(\b(?:your\s+days\s+are\s+numbered|watch\s+your\s+back|i\s+hope\s+you\s+die|you\s+deserve\s+to\s+die|i['’]ll\s+make\s+you\s+(?:suffer|bleed)|put\s+a\s+bullet\s+in|bullet\s+(?:in|through|with)\s+your|hired\s+(?:someone|a\s+man|a\s+hitman|to\s+kill)|paid\s+(?:me\s+)?to\s+(?:kill|assassinate|terminate)\s+you|hit\s?man|assassin(?:ate)?)\b[^.!?]{0,40}\b(?:you|your|him|her|name|life|head|died?|suffer|kill)\b|)"
-     R"(\b(?:ich|wir)\s+(?:werde|werden|bring\w*|stech\w*|schlag\w*)\b[^.!?]{0,25}\b(?:umbringen|um\b[^.!?]{0,5}$|töten|abstechen|erschießen|tot\s?schlagen|umlegen|zusammenschlagen|fertig\s?machen)\b|)"
-     R"(\bich\s+bringe?\s+(?:dich|euch|sie|ihn)\s+um\b|)"
+     R"(\b(?:i|we)(?:['’]ll|\s+will|\s+am\s+going\s+to|['’]m\s+going\s+to|\s+are\s+going\s+to|['’]re\s+going\s+to|['’]m\s+gonna|\s+swear\s+i(?:['’]ll|\s+will))\b[^.!?]{0,12}\b(?:kill|murder|shoot|stab|beat\s+(?:the|you|your)|strangle|break\s+(?:your|ur)|smash\s+(?:your|ur)|slit|skin|hunt\s+you|bury|cut\s+(?:your|you)|hang\s+you|gut\s+you)\b[^.!?]{0,12}\b(?:you|your|ur|him|her|them|throat|legs?|neck|face|skull|alive)\b|)"
+     R"(\b(?:you|u)(?:['’]re|\s+are|\s+r|['’]ll|\s+will)\s+(?:a\s+|gonna\s+|going\s+to\s+)?(?:dead\s+(?:man|meat|woman)|be\s+killed|die\s+(?:for\s+this|slowly|screaming|tonight|tomorrow)|be\s+sorry\s+you\s+were\s+born|pay\s+(?:for\s+(?:this|it)\s+)?with\s+your\s+life)\b|)"
+     R"(\b(?:your\s+days\s+are\s+numbered|you\s+deserve\s+to\s+die|i['’]ll\s+make\s+you\s+(?:suffer|bleed)|i\s+hope\s+you\s+die|put\s+a\s+bullet\s+in\s+(?:you|your)|bullet\s+(?:in|through|with)\s+your\s+(?:head|name))\b|)"
+     R"(\b(?:hired|paid)\s+(?:someone\s+|a\s+man\s+|a\s+hitman\s+|me\s+|us\s+)?to\s+(?:kill|assassinate|terminate|eliminate)\s+you\b|)"
+     R"(\bcontract\b[^.!?]{0,20}\bto\s+(?:kill|assassinate|terminate|eliminate)\s+you\b|)"
+     R"(\bich\s+(?:werde|bringe?)\b[^.!?]{0,20}\b(?:dich|euch|sie|ihn)\s+(?:\w+\s+)?(?:umbringen|töten|abstechen|erschießen|totschlagen|umlegen|zusammenschlagen|um)\b|)"
      R"(\bje\s+vais\s+(?:te|vous|le|la)\s+(?:tuer|buter|crever|frapper|massacrer)\b|)"
-     R"(\b(?:te|lo|la|vou\s+te)\s+(?:voy\s+a\s+|vamos\s+a\s+)?(?:matar|matarei|mataremos|mato)\b|)"
-     R"((?:杀了你|殺了你|弄死你|砍死|要你的命|殺すぞ|殺してやる|ぶっ殺|죽여\s?버|죽일\s?거|죽이겠))",
+     R"(\b(?:te\s+voy\s+a\s+matar|vamos\s+a\s+matarte|voy\s+a\s+matarte|vou\s+te\s+matar|te\s+matarei|vamos\s+te\s+matar|te\s+vamos\s+a\s+matar)\b|)"
+     R"((?:杀了你|殺了你|弄死你|要你的命|殺すぞ|殺してやる|ぶっ殺|죽여\s?버릴|죽일\s?거|죽이겠))",
      true},
     {"thr-know-where", "Threats", "warn", 70,
      "warns that the sender knows where the reader lives or works",
      R"(\b(?:i|we)\s+(?:know|have\s+found|found|figured\s+out|['’]ve\s+found|have)\b[^.!?]{0,12}\b(?:exactly\s+)?(?:where\s+(?:you|u|your\s+(?:family|kids|children|wife|mother|parents))\b[^.!?]{0,8}\b(?:live|lives|work|works|sleep|park|go|stay|are|go\s+to\s+school|study)|your\s+(?:home\s+)?address\s+and)\b|)"
-     R"(\b(?:i|we)(?:['’]ll|\s+will|['’]m|\s+am|\s+are)\b[^.!?]{0,15}\b(?:come|coming|be|show\s+up|pay\s+you\s+a\s+visit|find|visit|waiting)\b[^.!?]{0,15}\b(?:to|at|outside|for|you\s+at)\s+(?:your|ur)\s+(?:house|home|door|place|work|office|school|address)\b|)"
+     R"(\b(?:i|we)(?:['’]ll|\s+will|['’]m|\s+am|\s+are)\b[^.!?]{0,15}\b(?:show(?:ing)?\s+up|pay(?:ing)?\s+you\s+a\s+visit|find(?:ing)?\s+you|hunt(?:ing)?\s+you\s+down|come\s+for\s+you|be\s+waiting)\b[^.!?]{0,15}\b(?:to|at|outside|for|you\s+at|in)\s+(?:your|ur)\s+(?:house|home|door|place|work|office|school|address)\b|)"
      R"(\b(?:i|we)\s+know\s+(?:your|what)\s+(?:car\s+you\s+drive|route|routine|school\s+your)\b|)"
      R"(\bich\s+weiß,?[^.!?]{0,8}\bwo\s+(?:du|sie|deine|ihre)\b[^.!?]{0,20}\b(?:wohn\w+|arbeit\w+|leb\w+|schläf\w+)\b|)"
      R"(\b(?:je\s+sais|on\s+sait)\s+où\s+(?:tu|vous)\b[^.!?]{0,10}\b(?:habit\w+|viv\w+|travaill\w+)\b|)"
@@ -1155,8 +1250,8 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"pii-password-literal", "Exposed secrets", "warn", 45,
      "writes out a password",
-     R"(\b(?:password|passwd|pwd|passphrase|pass\s?code|passwort|kennwort|mot\s+de\s+passe|contraseña|senha|wachtwoord)(?:\s+is|\s+ist|\s+est|\s+es|\s+é|)?\s?[:=]\s?["'“]?[^\s"'“”:=,;]{0,20}[0-9!@#$%^&*_+][^\s"'“”,;]{0,30}|)"
-     R"(\b(?:my|the|your|our|temporary|new|login|root|admin|wifi|wi-fi)\s+(?:\w+\s+)?(?:password|passwd|pwd|passphrase|passcode|pin)\s+(?:is|=|was\s+set\s+to|will\s+be|has\s+been\s+set\s+to):?\s?["'“]?[^\s"'“”:=,;.!?]{0,20}[0-9!@#$%^&*_+][^\s"'“”,;]{0,30}|)"
+     R"(\b(?:password|passwd|pwd|passphrase|pass\s?code|passwort|kennwort|mot\s+de\s+passe|contraseña|senha|wachtwoord)(?:\s+is|\s+ist|\s+est|\s+es|\s+é|)?[ \t]?[:=][ \t]?["'“]?(?:[^\s"'“”:=,;]{4,20}[0-9!@#$%^&*_+]|[^\s"'“”:=,;]{0,12}[0-9!@#$%^&*_+][^\s"'“”,;]{4,30})|)"
+     R"(\b(?:my|the|your|our|temporary|new|login|root|admin|wifi|wi-fi)\s+(?:\w+\s+)?(?:password|passwd|pwd|passphrase|passcode|pin)\s+(?:is|=|was\s+set\s+to|will\s+be|has\s+been\s+set\s+to):?\s?["'“]?(?:[^\s"'“”:=,;]{4,20}[0-9!@#$%^&*_+]|[^\s"'“”:=,;]{0,12}[0-9!@#$%^&*_+][^\s"'“”,;]{4,30})|)"
      R"(\b(?:pin|pin\s+code|pin\s+number)\b\s?(?:is|:|=)\s?\d{4,8}\b|)"
      R"((?:密码|密碼|パスワード|비밀번호)(?:是|为|為|は|는|:|：)\s?[A-Za-z0-9!@#$%^&*_+-]{4,30})",
      true},
@@ -1218,19 +1313,19 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"url-lookalike-tld", "Deceptive links", "warn", 35,
      "links to a domain ending that is cheap and much abused",
-     R"re(\bhttps?://(?:[a-z0-9-]{1,60}\.){1,5}(?:xyz|top|click|icu|cfd|sbs|tk|ml|ga|cf|gq|buzz|rest|work|zip|mov|cam|monster|quest|cyou|bond|lol|vip|win|bid|loan|club|live|shop|online|site|website|space|fun|store|support|info|biz|link|pw|cc|ru|su|cn|to|ws|help|today|world|life|digital|center|best|pro|rocks|ninja|date|review|stream|download|racing|party|trade|science|men|gdn|beauty|hair|skin|makeup|autos|boats|homes|motorcycles|yachts|quest|pics|mom|lat|wiki|ltd|run|one)(?:[/:?#\s>)"']|$))re",
+     R"re(\bhttps?://(?:[a-z0-9-]{1,60}\.){1,5}(?:xyz|top|click|icu|cfd|sbs|tk|ml|ga|cf|gq|buzz|rest|zip|mov|cam|monster|quest|cyou|bond|lol|vip|win|bid|loan|live|shop|online|site|website|space|fun|store|pw|beauty|hair|skin|makeup|autos|boats|homes|yachts|pics|mom|lat)(?:[/:?#\s>)"']|$))re",
      true},
     {"url-brand-subdomain", "Deceptive links", "warn", 45,
      "puts a well-known brand into a domain that is not the brand's",
-     R"(\b(?:[a-z0-9-]{1,40}\.){0,3}[a-z0-9-]{0,30}(?:paypal|apple|icloud|microsoft|office365|outlook|amazon|netflix|google|facebook|instagram|whatsapp|chase|wellsfargo|bankofamerica|citibank|hsbc|barclays|santander|coinbase|binance|metamask|ledger|trezor|trustwallet|blockchain|dhl|fedex|usps|royalmail|evri|correios|docusign|dropbox|sharepoint|onedrive|linkedin|ebay|walmart|costco|irs|hmrc|sparkasse|volksbank|postbank|commerzbank|itau|bradesco|nubank|mercadopago|mercadolivre|livelo|rabobank|abnamro)-[a-z0-9-]{2,40}\.(?:com|net|org|info|xyz|top|online|site|club|shop|live|support|icu|click|co|us|cc|me|io|app|dev|eu|link|website)\b|)"
-     R"(\bhttps?://(?:[a-z0-9-]{1,40}\.){0,2}(?:paypal|apple|icloud|microsoft|office365|outlook|amazon|netflix|google|facebook|instagram|whatsapp|chase|wellsfargo|bankofamerica|citibank|hsbc|barclays|santander|coinbase|binance|metamask|ledger|trezor|trustwallet|dhl|fedex|usps|royalmail|evri|correios|docusign|dropbox|linkedin|ebay|irs|hmrc|sparkasse|itau|bradesco|nubank|mercadopago|livelo|rabobank)\.(?:com|de|co\.uk|com\.br|net|org|gov)(?:\.|-)[a-z0-9-]{2,40}\.[a-z]{2,}|)"
-     R"(\b(?:secure|login|signin|verify|verification|account|update|support|service|security|auth|my|id|app|web|wallet)-?(?:paypal|apple|icloud|microsoft|office365|amazon|netflix|google|facebook|instagram|chase|wellsfargo|bankofamerica|citibank|hsbc|barclays|coinbase|binance|metamask|ledger|trezor|trustwallet|dhl|fedex|usps|royalmail|docusign|dropbox|linkedin|ebay|irs|hmrc|itau|bradesco|nubank)(?:-[a-z0-9-]{2,40})?\.(?:com|net|org|info|xyz|top|online|site|club|shop|live|support|icu|click|co|us|cc|me|io|app|dev|eu|link|website)\b)",
+     R"(\b(?:paypal|apple|icloud|microsoft|office365|outlook|amazon|netflix|google|facebook|instagram|whatsapp|chase|wellsfargo|bankofamerica|citibank|hsbc|barclays|santander|coinbase|binance|metamask|ledger|trezor|trustwallet|blockchain|dhl|fedex|usps|royalmail|evri|correios|docusign|dropbox|sharepoint|onedrive|linkedin|ebay|walmart|costco|irs|hmrc|sparkasse|volksbank|postbank|commerzbank|itau|bradesco|nubank|mercadopago|mercadolivre|livelo|rabobank|abnamro)-[a-z0-9-]{2,40}\.(?:com|net|org|info|xyz|top|online|site|club|shop|live|support|icu|click|co|us|cc|me|io|app|dev|eu|link|website)\b|)"
+     R"(https?://(?:www\.)?(?:paypal|apple|icloud|microsoft|office365|outlook|amazon|netflix|google|facebook|instagram|whatsapp|chase|wellsfargo|bankofamerica|citibank|hsbc|barclays|santander|coinbase|binance|metamask|ledger|trezor|trustwallet|dhl|fedex|usps|royalmail|evri|correios|docusign|dropbox|linkedin|ebay|irs|hmrc|sparkasse|itau|bradesco|nubank|mercadopago|livelo|rabobank)\.(?:com|de|net|org|gov|co\.uk|com\.br)(?:-[a-z0-9-]{2,40}|\.[a-z0-9-]{3,40})\.[a-z]{2,}|)"
+     R"(\b(?:secure|login|signin|verify|verification|account|update|support|service|security|auth|my|id|web|wallet)-?(?:paypal|apple|icloud|microsoft|office365|amazon|netflix|facebook|instagram|chase|wellsfargo|bankofamerica|citibank|hsbc|barclays|coinbase|binance|metamask|ledger|trezor|trustwallet|dhl|fedex|usps|royalmail|docusign|dropbox|linkedin|ebay|irs|hmrc|itau|bradesco|nubank)(?:-[a-z0-9-]{2,40})?\.(?:com|net|org|info|xyz|top|online|site|club|shop|live|support|icu|click|co|us|cc|me|io|app|dev|eu|link|website)\b)",
      true},
     {"url-credential-in-url", "Deceptive links", "warn", 40,
      "contains a link that carries a user name, a password or a recipient's address",
      R"(\bhttps?://[^\s/:@]{1,60}:[^\s/@]{1,60}@[^\s/]{3,}|)"
-     R"(\bhttps?://[^\s?#]{3,200}[?&#/](?:[^\s?#&=]{0,40}[&=])?(?:e?mail|user(?:name)?|login|account|uid|id|e)=[\w.+-]{1,60}(?:@|%40)[\w-]{1,60}\.[\w.-]{2,40}|)"
-     R"(\bhttps?://[^\s?#]{3,200}[?&](?:[^\s#]{0,100}&)?(?:password|passwd|pwd|token|access_token|session(?:id)?|api_?key|secret)=[^\s&#]{4,})",
+     R"(\bhttps?://[^\s?#]{3,200}#(?:[\w=&/-]{0,20}[=/])?[\w.+-]{1,60}(?:@|%40)[\w-]{1,60}\.[a-z]{2,10}|)"
+     R"(\bhttps?://[^\s?#]{3,200}[?&](?:[^\s#]{0,100}&)?(?:password|passwd|pwd)=[^\s&#]{4,})",
      true},
     {"url-data-uri", "Deceptive links", "warn", 45,
      "contains a data: link, which carries a whole page inside itself",
@@ -1321,18 +1416,18 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"job-work-from-home", "Job & goods fraud", "warn", 30,
      "promises easy money for work from home",
-     R"(\b(?:work(?:ing)?|job|earn|income|business|money|position|opportunity)\b[^.!?]{0,25}\b(?:from|at)\s+home\b[^.!?]{0,80}\b(?:earn|\$\s?\d|income|per\s+(?:hour|day|week|month)|weekly|daily|easy|extra|apply|flexible|money|start|guaranteed|free|part[- ]time|no\s+experience|paid)\b|)"
-     R"(\b(?:earn|make|making|earning|income\s+of|salary|paid|pay|get\s+paid)\b[^.!?]{0,25}[$€£]\s?\d[\d,.]*k?\b[^.!?]{0,25}\b(?:per|a|an|every|each|/)\b\s?(?:hour|day|week|month|daily)\b[^.!?]{0,80}\b(?:home|online|part[- ]time|remote\w*|spare\s+time|flexible|no\s+experience|phone|internet|easy|tasks?)\b|)"
-     R"(\b(?:home|online|part[- ]time|remote\w*|spare\s+time|flexible|tasks?|from\s+anywhere)\b[^.!?]{0,80}\b(?:earn|make|salary|paid|pay|get\s+paid|income)\b[^.!?]{0,25}[$€£]\s?\d[\d,.]*k?\b[^.!?]{0,25}\b(?:per|a|an|every|each|/|daily|weekly)\b|)"
-     R"(\b(?:extra|additional|passive|second|steady|residual|unlimited|easy)\s+(?:income|money|cash)\b[^.!?]{0,60}\b(?:home|online|part[- ]time|internet|computer|spare|work|system|opportunity|month|week|start)\b|)"
-     R"(\b(?:be\s+your\s+own\s+boss|financial\s+(?:freedom|independence)|quit\s+your\s+(?:day\s+)?job|fire\s+your\s+boss|home[- ]based\s+business|make\s+money\s+(?:online|fast|from\s+home))\b|)"
+     R"(\b(?:work(?:ing)?|jobs?|earn|income|business|position)\b[^.!?]{0,25}\b(?:from|at)\s+home\b[^.!?]{0,80}\b(?:earn|\$\s?\d|income|per\s+(?:hour|day|week|month)|weekly|daily|easy|extra|money|guaranteed|no\s+experience)\b|)"
+     R"(\b(?:earn|make|making|earning|income\s+of|salary|get\s+paid)\b[^.!?]{0,25}[$€£]\s?\d[\d,.]*k?[^.!?]{0,15}\b(?:per|a|an|every|each)\b\s+(?:hour|day|week|month)\b[^.!?]{0,80}\b(?:home|online|part[- ]time|remote\w*|spare\s+time|flexible|no\s+experience|phone|internet|easy|tasks?)\b|)"
+     R"(\b(?:home|online|part[- ]time|remote\w*|spare\s+time|flexible|tasks?|from\s+anywhere)\b[^.!?]{0,80}\b(?:earn|make|salary|get\s+paid|income)\b[^.!?]{0,25}[$€£]\s?\d[\d,.]*k?[^.!?]{0,15}\b(?:per|a|an|every|each|daily|weekly)\b|)"
+     R"(\b(?:extra|additional|passive|second|residual|unlimited|easy)\s+(?:income|money|cash)\b[^.!?]{0,60}\b(?:home|online|part[- ]time|internet|spare\s+time|system|opportunity|month|week|start)\b|)"
+     R"(\b(?:be\s+your\s+own\s+boss|quit\s+your\s+(?:day\s+)?job|fire\s+your\s+boss|home[- ]based\s+business|make\s+money\s+(?:online|fast|from\s+home))\b|)"
      R"(\b(?:like|liking|subscribe|rate|rating|review|optimi[sz]\w+|simple\s+(?:online\s+)?tasks)\b[^.!?]{0,40}\b(?:youtube|videos|hotels?|products|apps?|merchants?|google\s+maps?)\b[^.!?]{0,60}\b(?:earn|paid|commission|\$|daily|per|income|salary)\b|)"
-     R"(\b(?:von\s+zu\s+hause|von\s+zuhause|home\s?office|nebenjob|nebenverdienst|heimarbeit)\b[^.!?]{0,60}\b(?:verdien\w+|euro|€|einkommen|geld|täglich|pro\s+(?:tag|woche|stunde)|monat\w*)\b|)"
-     R"(\b(?:travail|travaille[rz]?|emploi|revenus?)\b[^.!?]{0,20}\b(?:à\s+domicile|depuis\s+(?:chez\s+vous|votre\s+domicile)|en\s+ligne|complémentaire)\b[^.!?]{0,60}\b(?:gagn\w+|€|euros?|par\s+(?:jour|mois|semaine)|facile)\b|)"
-     R"(\b(?:trabaj\w+|trabalh\w+|ingresos?|renda|gan\w+)\b[^.!?]{0,20}\b(?:desde\s+casa|em\s+casa|de\s+casa|en\s+l[íi]nea|online|extra)\b[^.!?]{0,60}\b(?:gan\w+|\$|€|r\$|por\s+(?:d[íi]a|semana|mes|hora)|diari\w+|f[áa]cil)\b|)"
-     R"((?:兼职|兼職|在家工作|刷单|刷單|日结|日結|居家赚钱|点赞)[^。！？.!?]{0,25}(?:元|赚|賺|收入|工资|薪|佣金)|)"
-     R"((?:在宅|副業|スマホだけ|簡単な作業)[^。！？.!?]{0,25}(?:万円|稼|収入|日給|報酬)|)"
-     R"((?:재택|부업|알바|단순\s?작업)[^.!?。]{0,25}(?:만원|수익|수입|일당|벌))",
+     R"(\b(?:von\s+zu\s+hause|von\s+zuhause|nebenjob|nebenverdienst|heimarbeit)\b[^.!?]{0,60}\b(?:verdien\w+|einkommen|täglich|pro\s+(?:tag|woche|stunde)|geld\s+verdienen)\b|)"
+     R"(\b(?:travail|travaille[rz]?|emploi|revenus?)\b[^.!?]{0,20}\b(?:à\s+domicile|depuis\s+(?:chez\s+vous|votre\s+domicile)|complémentaires?)\b[^.!?]{0,60}\b(?:gagn\w+|€|euros?|par\s+(?:jour|mois|semaine)|facile)\b|)"
+     R"(\b(?:trabaj\w+|trabalh\w+|ingresos?|renda|gan\w+)\b[^.!?]{0,20}\b(?:desde\s+casa|em\s+casa|de\s+casa|en\s+l[íi]nea|online|extra)\b[^.!?]{0,60}\b(?:gan\w+|por\s+(?:d[íi]a|semana|mes|hora)|diari\w+|f[áa]cil)\b|)"
+     R"((?:兼职|兼職|在家工作|刷单|刷單|居家赚钱|点赞)[^。！？.!?]{0,25}(?:元|赚|賺|收入|工资|薪|佣金)|)"
+     R"((?:在宅|副業|スマホだけ|簡単な作業)[^。！？.!?]{0,25}(?:万円|稼げ|収入|日給|報酬)|)"
+     R"((?:재택|부업|알바|단순\s?작업)[^.!?。]{0,25}(?:만원|수익|수입|일당))",
      true},
     {"job-mystery-shopper", "Job & goods fraud", "warn", 45,
      "recruits mystery shoppers or car-advert drivers",
@@ -1425,18 +1520,20 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"spam-viagra", "Bulk mail", "warn", 45,
      "advertises potency drugs",
-     R"(\b(?:viagra|cialis|levitra|kamagra|sildenafil|tadalafil|vardenafil)\b[^.!?]{0,60}\b(?:buy|order|cheap\w*|price\w*|online|\$\s?\d|discount\w*|free|generic|pills?|tablets?|shop|shipping|prescription|save|sale|deliver\w*|best|natural|alternative|super|soft|per|mg)\b|)"
-     R"(\b(?:buy|order|cheap\w*|online|discount\w*|free|generic|get|sale|herbal|natural|brand)\b[^.!?]{0,40}\b(?:viagra|cialis|levitra|kamagra|sildenafil|tadalafil|vardenafil)\b|)"
-     R"(\bv[i1!|l]agra\b|)"
-     R"(\bv[1!|l@]agra\b|)"
-     R"(\bc[i1!|l][a@]l[i1!|l]s\b[^.!?]{0,40}\b(?:buy|order|cheap|price|online|pills?|\$|mg)\b|)"
-     R"((?:伟哥|威而钢|威而鋼|壮阳|壯陽|비아그라|バイアグラ))",
+     R"(\b(?:viagra|cialis|levitra|kamagra|sildenafil|tadalafil|vardenafil)\b[^.!?]{0,40}\b(?:buy|order|cheap\w*|price\w*|online|\$\s?\d|discount\w*|free|generic|shipping|save|sale|super|soft|mg)\b|)"
+     R"(\b(?:buy|order|cheap\w*|online|discount\w*|free|generic|herbal)\b[^.!?]{0,30}\b(?:viagra|cialis|levitra|kamagra|sildenafil|tadalafil|vardenafil)\b|)"
+     R"(\bv[1!|l]agra\b|)"
+     R"(\bv[1!|il][@4]gra\b|)"
+     R"(\bc[1!|l][a@]l[1!|l]s\b|)"
+     R"((?:伟哥|威而钢|威而鋼|壮阳药|壯陽藥|비아그라|バイアグラ))",
      true},
     {"spam-casino", "Bulk mail", "warn", 35,
      "advertises online gambling",
      R"(\b(?:online|live|internet|virtual|crypto|mobile|best|top|new|our|vegas)\b[^.!?]{0,20}\b(?:casinos?|slots?|poker|roulette|betting|sportsbook|gambling)\b[^.!?]{0,60}\b(?:bonus\w*|free|win|play|deposit|\$|€|£|jackpot\w*|sign\s?up|join|spins?|odds|register|welcome)\b|)"
      R"(\b(?:casinos?|slots?|poker|roulette|betting|sportsbook|jackpots?)\b[^.!?]{0,40}\b(?:bonus\w*|free\s+spins?|no\s+deposit|welcome\s+(?:offer|pack\w*|bonus)|sign\s?up|deposit|payouts?|vip|chips|match\w*|play\s+now)\b|)"
-     R"(\b(?:free|bonus)\s+spins?\b|)"
+     R"(\b(?:free|bonus|gratis)\s?-?spins?\b|)"
+     R"(\b(?:bonus|welcome\s+(?:pack|package|offer)|willkommens(?:paket|bonus))\b[^.!?]{0,30}\b\d{2,4}\s?(?:fs|free\s+spins|freispiele|spins)\b|)"
+     R"(\b(?:höchsten?\s+auszahlungs(?:quoten?|rate)|highest\s+pay(?:out|ing)|live\s+dealers?|big\s+wins|spinnin\w*\s+those\s+reels|keine\s+einzahlung)\b|)"
      R"(\b(?:\d{2,3}%\s+(?:\w+\s+)?(?:deposit\s+|welcome\s+|match\s+)?bonus|no[- ]deposit\s+bonus|welcome\s+bonus|deposit\s+bonus|match\s+bonus)\b|)"
      R"(\b(?:play|bet|wager|gamble)\b[^.!?]{0,20}\b(?:now|today|online|here|and\s+win|to\s+win)\b[^.!?]{0,30}\b(?:casino|jackpot|win|bonus|slots?|real\s+money|spins?)\b|)"
      R"(\b(?:online-?casino|spielautomaten|freispiele|willkommensbonus|einzahlungsbonus|giros\s+gratis|tours\s+gratuits|rodadas\s+gr[áa]tis|tiradas\s+gratis|gratis\s+spins|casa\s+de\s+apuestas|apostas\s+online|tigrinho)\b|)"
@@ -1457,10 +1554,8 @@ constexpr auto table = std::to_array<Rule>({
      false},
     {"spam-exclaim", "Bulk mail", "warn", 15,
      "shouts with strings of exclamation marks",
-     R"(!{3,}|)"
-     R"((?:![ \n]?){3}!|)"
-     R"([！]{3,}|)"
-     R"(!{2}[^!?.\n]{1,80}!{2})",
+     R"(!!!|)"
+     R"(！！！)",
      true},
     {"spam-100-free", "Bulk mail", "warn", 25,
      "advertises something as free of charge and of obligation",
@@ -1472,7 +1567,8 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:100\s?%\s+gratuit|totalement\s+gratuit|entièrement\s+gratuit|sans\s+engagement|gratuit\s+et\s+sans)\b|)"
      R"(\b(?:100\s?%\s+(?:gratis|gratuit[oa])|totalmente\s+(?:gratis|gratuit[oa])|completamente\s+gratis|sin\s+compromiso|sem\s+compromisso|consulta\s+gratuita|gr[áa]tis\s+agora|sem\s+custo|frete\s+gr[áa]tis)\b|)"
      R"(\b(?:100\s?%\s+gratis|helemaal\s+gratis|volledig\s+gratis|geheel\s+gratis|vrijblijvend)\b|)"
-     R"((?:免费领取|免費領取|完全免费|完全免費|完全無料|登録無料|무료\s?(?:체험|증정|나눔)))",
+     R"((?:免费领取|免費領取|完全免费|完全免費|完全無料|登録無料|무료\s?(?:체험|증정|나눔))|)"
+     R"(\b(?:erhalten\s+sie|sichern\s+sie\s+sich|hol\s+dir|get|receive|claim)\b[^.!?]{0,15}[$€£]?\s?\d[\d.,]*\s?[$€£]?[^.!?]{0,8}\b(?:gratis|kostenlos|free|bonus)\b)",
      true},
 
     // ---- Abuse ---------------------------------------------------------------------------------
@@ -1488,7 +1584,7 @@ constexpr auto table = std::to_array<Rule>({
      "calls people inferior by birth",
      R"(\b(?:inferior|lesser|subhuman|sub-human|degenerate|mongrel|filthy|mud|master|superior)\s+(?:race|races|species|people|breed|blood|beings?|humans?)\b[^.!?]{0,60}\b(?:are|is|should|must|will|they|we|our|jews?|blacks?|muslims?|them|white|immigrants?)\b|)"
      R"(\b(?:are|is|they['’]re)\s+(?:all\s+|just\s+|nothing\s+but\s+|like\s+|no\s+better\s+than\s+|genetically\s+|intellectually\s+|biologically\s+)+(?:inferior|sub-?humans?|animals|apes|monkeys|savages|insects|dogs|pigs|a\s+disease|a\s+cancer|vermin|cockroaches)\b|)"
-     R"(\b(?:race\s+war|white\s+(?:power|genocide|supremacy\s+is)|great\s+replacement|racial\s+purity|racially\s+pure|ethnic\s+cleansing\s+is|gas\s+the|heil\s+hitler|sieg\s+heil|14\s?/\s?88|blood\s+and\s+soil|untermensch\w*)\b|)"
+     R"(\b(?:white\s+(?:power|genocide|supremacy\s+is)|great\s+replacement|racial\s+purity|racially\s+pure|ethnic\s+cleansing\s+is|gas\s+the|heil\s+hitler|sieg\s+heil|14\s?/\s?88|blood\s+and\s+soil|untermensch\w*)\b|)"
      R"(\b(?:minderwertige\s+rasse|herrenrasse|race\s+inférieure|sous-hommes?|raza\s+inferior|ra[çc]a\s+inferior)\b)",
      true},
     {"abuse-doxx", "Abuse", "warn", 55,
@@ -1661,8 +1757,10 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b\d{2,4}\s?(?:pills?|tabs|tablets|capsules)\b[^.!?\n]{0,10}[$€£]\s?\d)",
      true},
     {"sa-drug-ed-caps", "Bulk mail", "warn", 34,
-     "writes the name of a potency drug in broken letters",
-     R"(\b(?:v[\W_]{0,2}i[\W_]{0,2}a[\W_]{0,2}g[\W_]{0,2}r[\W_]{0,2}a|c[\W_]{0,2}i[\W_]{0,2}a[\W_]{0,2}l[\W_]{0,2}i[\W_]{0,2}s|l[\W_]{0,2}e[\W_]{0,2}v[\W_]{0,2}i[\W_]{0,2}t[\W_]{0,2}r[\W_]{0,2}a)\b)",
+     "writes the name of a potency drug letter by letter",
+     R"(\bv[\W_]{1,3}i[\W_]{1,3}a[\W_]{1,3}g[\W_]{1,3}r[\W_]{1,3}a\b|)"
+     R"(\bc[\W_]{1,3}i[\W_]{1,3}a[\W_]{1,3}l[\W_]{1,3}i[\W_]{1,3}s\b|)"
+     R"(\bl[\W_]{1,3}e[\W_]{1,3}v[\W_]{1,3}i[\W_]{1,3}t[\W_]{1,3}r[\W_]{1,3}a\b)",
      true},
     {"sa-drug-ed-sild", "Bulk mail", "warn", 10,
      "names the active substance of a potency drug",
@@ -1720,8 +1818,8 @@ constexpr auto table = std::to_array<Rule>({
      "opens with a form of address that fits anybody",
      R"(\bdear\s+(?:valued\s+|esteemed\s+|respected\s+|beloved\s+|our\s+|my\s+|most\s+|sir\s?/\s?|sir\s+or\s+|e-?mail\s+|mail\s+|account\s+|bank\s+|web\s?mail\s+|mailbox\s+|online\s+|paypal\s+|amazon\s+|apple\s+|netflix\s+|facebook\s+|crypto\s+|wallet\s+|lucky\s+|good\s+|prospective\s+|potential\s+|loyal\s+|home\s?|web\s?site\s+|domain\s+|business\s+|internet\s+|fellow\s+|card\s?|credit\s+|premium\s+|intended\s+|investment\s+|trading\s+|[\w.+-]{1,40}\s+)?(?:sir(?:\s?/\s?|\s+or\s+)?(?:madam|ma['’]?am)?|madam|friend|customer|client|user|member|account\s?(?:owner|holder|user)|beneficiary|subscriber|winner|owner|sir\(s\)|valued|sirs?|investor|applicant|e-?mail\s+(?:user|owner)|recipient|candidate|card\s?holder|purchaser|buyer|consumer|homeowner|webmaster|partner|shopper|taxpayer|citizen|entrepreneur|one|beloved|in\s+christ|good\s+day|participant|guest|tax\s?payer|supporter|holder|participant)\b|)"
      R"(\bdear\s+[\w.+-]{1,40}@[\w.-]{2,40}|)"
-     R"(\b(?:hello|hi|hey|greetings|attention|attn|good\s+day)\s+(?:dear|valued\s+customer|customer|beneficiary|user|friend|my\s+friend|dear\s+friend|sir|winner|beloved|account\s+(?:owner|holder)|e-?mail\s+(?:user|owner)|[\w.+-]{1,40}@[\w.-]{2,40})\b|)"
-     R"(\b(?:sehr\s+geehrte[r]?|lieber?|hallo|guten\s+tag)\s+(?:geschätzte[r]?\s+|liebe[r]?\s+|verehrte[r]?\s+)?(?:kunde|kundin|kunden|nutzer|nutzerin|benutzer|kontoinhaber\w*|gewinner\w*|mitglied\w*|freund|empfänger\w*|kundinnen|karteninhaber\w*|[\w.+-]{1,40}@[\w.-]{2,40})\b|)"
+     R"(\b(?:hello|hi|hey|greetings|attention|attn|good\s+day)\s+(?:dear\b[^.!?]{0,2}$|dear,|valued\s+customer|customer|beneficiary|user|friend|my\s+friend|dear\s+friend|sir|winner|beloved|account\s+(?:owner|holder)|e-?mail\s+(?:user|owner)|[\w.+-]{1,40}@[\w.-]{2,40})\b|)"
+     R"(\b(?:sehr\s+geehrte(?:r|/r|\(r\))?|lieber?|hallo|guten\s+tag)\s+(?:geschätzte[r]?\s+|liebe[r]?\s+|verehrte[r]?\s+)?(?:kunde|kundin|kunden|nutzer|nutzerin|benutzer|kontoinhaber\w*|gewinner\w*|mitglied\w*|freund|empfänger\w*|kundinnen|karteninhaber\w*|begünstigte\S*|[\w.+-]{1,40}@[\w.-]{2,40})\b|)"
      R"(\b(?:cher|chère|bonjour|chers?)\s+(?:\w+\s+)?(?:client|cliente|clients|utilisateur|utilisatrice|membre|ami|amie|bénéficiaire|abonnée?|titulaire|allocataire)\b|)"
      R"(\b(?:estimad[oa]|querid[oa]|prezad[oa]|car[oa]|ol[áa]|hola)s?\s?(?:\([ao]\))?,?\s+(?:se[ñn]hor(?:\(a\))?\s+)?(?:cliente|usuari[oa]|usu[áa]ri[oa]|amig[oa]|membro|miembro|benefici[áa]ri[oa]|beneficiari[oa]|titular|contribuinte|cidad[ãa]o|consumidor|socio|assinante|correntista|associado|motorista|condutor|[\w.+-]{1,40}@[\w.-]{2,40})\b|)"
      R"(\b(?:beste|geachte|hallo)\s+(?:heer\s?/\s?mevrouw|klant|gebruiker|relatie|lid|cliënt|rekeninghouder|winnaar|[\w.+-]{1,40}@[\w.-]{2,40})\b|)"
@@ -1737,18 +1835,22 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"sa-excuse-4", "Bulk mail", "warn", 29,
      "excuses itself for coming unasked and offers removal",
-     R"(\b(?:to|if\s+you\s+(?:wish|want|would\s+like|prefer|choose|no\s+longer)|wish|want|like|please)\s+(?:to\s+)?(?:be\s+)?(?:removed|remove[d]?\s+(?:yourself|your\s+(?:name|address|e-?mail))|taken\s+off|deleted)\b[^.!?]{0,30}\b(?:from|off)\b[^.!?]{0,25}\b(?:list|mailings?|mailing\s+list|database|future|mail|e-?mails?)\b|)"
-     R"(\b(?:removed|removal|taken\s+off|opt[- ]?out)\b[^.!?]{0,25}\b(?:instructions|click|reply|send|e-?mail|subject|simply|visit|type|here)\b|)"
-     R"(\b(?:reply|respond|e-?mail|send)\b[^.!?]{0,30}\b(?:with|word|subject)\b[^.!?]{0,20}\b(?:"?remove"?|unsubscribe|take\s+me\s+off)\b)",
+     R"(\b(?:to|if\s+you\s+(?:wish|want|would\s+like|prefer|choose))\s+(?:to\s+)?(?:be\s+)?(?:removed|remove\s+yourself|remove\s+your\s+(?:name|address|e-?mail)|taken\s+off)\b[^.!?]{0,25}\b(?:from|off)\b[^.!?]{0,25}\b(?:e-?mails?\s+list|mailing\s+list|mailings?|database|lists?)\b|)"
+     R"(\b(?:you\s+may|please|to)\s+follow\s+this\s+link\s+to\s+be\s+removed\b|)"
+     R"(\b(?:removed|removal|opt[- ]?out)\b[^.!?]{0,20}\b(?:reply|send|e-?mail|simply|visit|type)\b[^.!?]{0,20}\b(?:with|word|subject|remove|to)\b|)"
+     R"(\b(?:reply|respond|e-?mail|send)\b[^.!?]{0,25}\b(?:with|word|subject)\b[^.!?]{0,20}\b(?:"?remove"?|take\s+me\s+off)\b|)"
+     R"(\bunsubscribe\s+from\s+all\s+e-?mail\s+lists?\b|)"
+     R"(\bthis\s+is\s+an\s+advertisement\b)",
      true},
     {"sa-excuse-remove", "Bulk mail", "warn", 40,
-     "claims that the mail is no spam or that the reader asked for it",
-     R"(\b(?:this|our)\s+(?:e-?mail|message|mail|mailing|newsletter)?\s?(?:is|was|cannot\s+be\s+considered|can\s+not\s+be\s+considered|may\s+not\s+be\s+considered|is\s+not|isn['’]t)\s?(?:not\s+|being\s+)?(?:considered\s+|sent\s+as\s+)?(?:spam|unsolicited|junk)\b|)"
-     R"(\b(?:not\s+spam|not\s+unsolicited|no\s+spam)\b[^.!?]{0,60}\b(?:remove|opt|list|subscribe\w*|requested|received?|because|address|bill|law|compliance)\b|)"
-     R"(\byou\s+(?:are|were|have|['’]re)\b[^.!?]{0,20}\b(?:receiv(?:ed|ing)|sent|getting|got|subscribed|been\s+sent)\b[^.!?]{0,30}\b(?:this|these|our)\b[^.!?]{0,40}\b(?:because|since|as|due\s+to)\b[^.!?]{0,40}\b(?:opted|opt-?in|requested|signed|subscribed|registered|submitted|partner|affiliate|member|expressed|visited|agreed|inquired)\b|)"
-     R"(\b(?:we|i)\s+(?:apologi[sz]e|are\s+sorry|am\s+sorry)\b[^.!?]{0,30}\b(?:for\s+)?(?:this|the|any)\b[^.!?]{0,20}\b(?:intrusion|unsolicited|unwanted|received\s+(?:this|it)\s+in\s+error|inconvenience\s+this\s+(?:mailing|e-?mail))\b|)"
-     R"(\b(?:bill\s+s\.?\s?1618|section\s+301|murkowski|can-?spam\s+(?:act|compliant)|105th\s+(?:u\.?s\.?\s+)?congress)\b|)"
-     R"(\b(?:your\s+)?(?:e-?mail\s+)?address\s+(?:was|has\s+been|is)\s+(?:obtained|taken|purchased|provided|collected|in\s+our|on\s+our|from)\b[^.!?]{0,40}\b(?:opt-?in|list|database|mailing|third\s+party|purchased|public|internet|source|directory)\b)",
+     "excuses a mass mailing as wanted and harmless",
+     R"(\b(?:this|our)\s+(?:e-?mail|message|mailing|mail)\s+(?:is\s+not|isn['’]t|cannot\s+be\s+considered|can\s+not\s+be\s+considered|may\s+not\s+be\s+considered|is\s+never|was\s+not\s+sent\s+as)\s+(?:\w+\s+){0,2}(?:spam|unsolicited|junk)\b|)"
+     R"(\b(?:not\s+spam|is\s+no\s+spam|not\s+unsolicited)\b[^.!?]{0,60}\b(?:remove|opt|requested|address|bill|law|compliance|partner)\b|)"
+     R"(\byou\s+(?:are|were|have|['’]re)\b[^.!?]{0,20}\b(?:receiv(?:ed|ing)|sent|getting)\b[^.!?]{0,40}\b(?:because|since|as)\b[^.!?]{0,40}\b(?:opted[- ]?in|our\s+(?:\w+\s+)?(?:affiliates?|partners?)|partner\s+sites?|affiliate|have\s+(?:inquired|expressed|submitted)|requested\s+(?:more\s+)?information)\b|)"
+     R"(\b(?:follow|use|click)\s+(?:this|the)\s+link\s+to\s+be\s+removed\b|)"
+     R"(\b(?:we|i)\s+(?:apologi[sz]e|are\s+sorry|am\s+sorry)\b[^.!?]{0,30}\b(?:for\s+)?(?:this|the|any)\b[^.!?]{0,15}\b(?:intrusion|unsolicited|unwanted\s+e-?mail|received\s+(?:this|it)\s+in\s+error)\b|)"
+     R"(\b(?:bill\s+s\.?\s?1618|section\s+301|murkowski|105th\s+(?:u\.?s\.?\s+)?congress)\b|)"
+     R"(\b(?:your\s+)?(?:e-?mail\s+)?address\s+(?:was|has\s+been)\s+(?:obtained|taken|purchased|collected)\b[^.!?]{0,40}\b(?:opt-?in|list|database|third\s+party|purchased|public|internet|source|directory)\b)",
      true},
     {"sa-strong-buy", "Bulk mail", "warn", 12,
      "recommends a share as a strong buy",
@@ -1786,10 +1888,11 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"sa-impotence", "Bulk mail", "warn", 36,
      "advertises a remedy for impotence",
-     R"(\b(?:impotence|impotent|erectile\s+dysfunction|erection\s+problems?|premature\s+ejaculation|sexual\s+dysfunction|low\s+libido|e\.d\.)\b[^.!?]{0,60}\b(?:cure[sd]?|treat\w*|solution|remedy|pills?|help|drug|natural|no\s+more|end|fix|medication|suffer\w*|formula|online|order|rid|overcome|supplement)\b|)"
+     R"(\b(?:impotence|impotent|erectile\s+dysfunction|erection\s+problems?|premature\s+ejaculation|sexual\s+dysfunction|low\s+libido)\b[^.!?]{0,60}\b(?:cure[sd]?|treat\w*|solution|remedy|pills?|drug|natural|no\s+more|fix|medication|suffer\w*|formula|online|order|overcome|supplement)\b|)"
      R"(\b(?:cure|treat|solution|remedy|end|fix|overcome|suffer\w*|beat|reverse)\b[^.!?]{0,25}\b(?:impotence|impotent|erectile\s+dysfunction|erection\s+problems?|premature\s+ejaculation|sexual\s+dysfunction)\b|)"
      R"(\b(?:harder|stronger|rock[- ]?hard|longer[- ]lasting|firmer|powerful)\s+(?:\w+\s+)?erections?\b|)"
-     R"(\b(?:potenzmittel|erektionsstörung\w*|impuissance|disfunci[óo]n\s+er[ée]ctil|disfun[çc][ãa]o\s+er[ée]til|impot[êe]ncia)\b)",
+     R"(\b(?:potenzmittel|erektionsstörung\w*)\b[^.!?]{0,40}\b(?:rezeptfrei|bestell\w+|kauf\w+|online|günstig\w*|natürlich\w*)\b|)"
+     R"(\b(?:impuissance|disfunci[óo]n\s+er[ée]ctil|disfun[çc][ãa]o\s+er[ée]til|impot[êe]ncia)\b[^.!?]{0,40}\b(?:trait\w+|solu\w+|remed\w+|tratamiento|tratamento|natural)\b)",
      true},
     {"sa-money-back", "Bulk mail", "warn", 12,
      "offers money back in advertising style",

@@ -1,0 +1,256 @@
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+#include <fstream>
+#include <iomanip>
+#include <iostream>
+#include <map>
+#include <set>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+
+#include "Quillseal/ContentRisk.h"
+#include "Quillseal/CryptoManager.h"
+#include "Quillseal/UnicodeText.h"
+
+namespace {
+
+namespace ContentRisk = quillseal::ContentRisk;
+namespace CryptoManager = quillseal::CryptoManager;
+namespace unicode = quillseal::unicode;
+
+constexpr int cannotRead = 1;
+constexpr int wrongUsage = 2;
+constexpr std::size_t rulesShown = 25;
+
+constexpr const char* usage = R"(usage: screen-corpus [--list LABEL:VERDICT] FILE...
+
+Screens messages and counts what would be refused, warned about and signed, for each source and
+label, to judge the content rules on real mail. A FILE holds one JSON object a line:
+  {"id": "...", "source": "...", "label": "ham", "text": "..."}
+"-" is standard input (zcat mail.jsonl.gz | screen-corpus -). Texts that are too short or too
+generic to be signed at all are left out of the rates.
+
+  --list LABEL:VERDICT  print instead the messages of a label that are refused, warned or clean,
+                        each with the rules that hit
+  --help                print this help
+
+Exit status: 0, or 1 when a file cannot be read, or 2 for a wrong use.
+)";
+
+enum class Verdict : std::uint8_t { refused, warned, clean };
+
+std::string_view nameOf(Verdict verdict) {
+  switch (verdict) {
+    case Verdict::refused:
+      return "refused";
+    case Verdict::warned:
+      return "warned";
+    case Verdict::clean:
+      break;
+  }
+  return "clean";
+}
+
+Verdict verdictOf(const ContentRisk::Assessment& assessment) {
+  if (assessment.isBlocked) return Verdict::refused;
+  return assessment.shouldWarn ? Verdict::warned : Verdict::clean;
+}
+
+/// The verdict that `assessment` would be without one of its findings.
+Verdict verdictWithout(const ContentRisk::Assessment& assessment,
+                       const ContentRisk::Finding& left) {
+  const std::int64_t score = assessment.score - left.points;
+  const bool blocked = std::ranges::any_of(assessment.findings, [&](const auto& finding) {
+    return finding.isBlocking && finding.id != left.id;
+  });
+  if (blocked || score >= ContentRisk::refusalScore) return Verdict::refused;
+  return score >= ContentRisk::warningScore ? Verdict::warned : Verdict::clean;
+}
+
+struct Count {
+  std::int64_t refused = 0;
+  std::int64_t warned = 0;
+  std::int64_t clean = 0;
+  std::int64_t unsignable = 0;
+
+  [[nodiscard]] std::int64_t screened() const { return refused + warned + clean; }
+};
+
+struct RuleCount {
+  std::int64_t hits = 0;
+  std::int64_t alone = 0;  ///< messages that would be signed silently but for this rule
+};
+
+struct Message {
+  std::string id;
+  std::string source;
+  std::string label;
+  std::string text;
+};
+
+class Corpus {
+ public:
+  explicit Corpus(std::string listed) : listed_(std::move(listed)) {}
+
+  void read(std::istream& lines, const std::string& name) {
+    std::string line;
+    for (std::size_t number = 1; std::getline(lines, line); ++number) {
+      if (line.empty()) continue;
+      try {
+        const auto object = nlohmann::json::parse(line);
+        screen({.id = object.value("id", std::string()),
+                .source = object.value("source", std::string()),
+                .label = object.at("label").get<std::string>(),
+                .text = object.at("text").get<std::string>()});
+      } catch (const nlohmann::json::exception& error) {
+        throw std::runtime_error(name + ", line " + std::to_string(number) + ": " + error.what());
+      }
+    }
+    if (lines.bad()) throw std::runtime_error(name + ": cannot be read");
+  }
+
+  void print() const {
+    if (!listed_.empty()) return;
+    std::cout << std::fixed << std::setprecision(2);
+    std::cout << std::left << std::setw(8) << "label" << std::setw(24) << "source" << std::right
+              << std::setw(9) << "messages" << std::setw(18) << "refused" << std::setw(18)
+              << "warned" << std::setw(9) << "clean" << std::setw(10) << "left out" << '\n';
+    for (const auto& [key, count] : counts_)
+      printRow(key, count);
+    for (const auto& [label, rules] : rules_)
+      printRules(label, rules);
+  }
+
+ private:
+  using Key = std::pair<std::string, std::string>;  ///< label and source; "all" sums a label
+
+  void screen(const Message& message) {
+    const std::string text(unicode::trimmed(unicode::wellFormed(message.text)));
+    Count& ofSource = counts_[{message.label, message.source}];
+    Count& ofLabel = counts_[{message.label, "all"}];
+    if (!CryptoManager::signingRefusal(text).empty()) {
+      ++ofSource.unsignable;
+      ++ofLabel.unsignable;
+      return;
+    }
+    const ContentRisk::Assessment assessment = ContentRisk::evaluate(text);
+    const Verdict verdict = verdictOf(assessment);
+    for (Count* count : {&ofSource, &ofLabel}) {
+      switch (verdict) {
+        case Verdict::refused:
+          ++count->refused;
+          break;
+        case Verdict::warned:
+          ++count->warned;
+          break;
+        case Verdict::clean:
+          ++count->clean;
+          break;
+      }
+    }
+    auto& rules = rules_[message.label];
+    for (const auto& finding : assessment.findings) {
+      RuleCount& count = rules[finding.id];
+      ++count.hits;
+      if (verdict != Verdict::clean && verdictWithout(assessment, finding) == Verdict::clean)
+        ++count.alone;
+    }
+    if (listed_ == message.label + ':' + std::string(nameOf(verdict))) list(message, assessment);
+  }
+
+  static void list(const Message& message, const ContentRisk::Assessment& assessment) {
+    std::cout << message.id << '\t' << assessment.score;
+    for (const auto& finding : assessment.findings)
+      std::cout << '\t' << finding.id << ' ' << finding.points;
+    std::cout << '\n';
+  }
+
+  static void printRow(const Key& key, const Count& count) {
+    const auto cell = [&](std::int64_t value) {
+      const double all = static_cast<double>(std::max<std::int64_t>(count.screened(), 1));
+      std::cout << std::setw(9) << value << std::setw(8) << 100.0 * static_cast<double>(value) / all
+                << '%';
+    };
+    std::cout << std::left << std::setw(8) << key.first << std::setw(24) << key.second << std::right
+              << std::setw(9) << count.screened();
+    cell(count.refused);
+    cell(count.warned);
+    std::cout << std::setw(9) << count.clean << std::setw(10) << count.unsignable << '\n';
+  }
+
+  static void printRules(const std::string& label, const std::map<std::string, RuleCount>& rules) {
+    std::vector<std::pair<std::string, RuleCount>> sorted(rules.begin(), rules.end());
+    const auto shown = [&](const std::string& title, std::int64_t RuleCount::*member) {
+      std::ranges::stable_sort(sorted, [&](const auto& left, const auto& right) {
+        return left.second.*member > right.second.*member;
+      });
+      std::cout << "\n" << label << ": " << title << '\n';
+      for (std::size_t i = 0; i < std::min(sorted.size(), rulesShown); ++i) {
+        if (sorted[i].second.*member == 0) break;
+        std::cout << std::setw(8) << sorted[i].second.*member << "  " << sorted[i].first << '\n';
+      }
+    };
+    shown("rules that hit most", &RuleCount::hits);
+    shown("rules without which the message would have passed", &RuleCount::alone);
+  }
+
+  std::string listed_;
+  std::map<Key, Count> counts_;
+  std::map<std::string, std::map<std::string, RuleCount>> rules_;
+};
+
+bool isListing(std::string_view listed) {
+  const std::size_t colon = listed.rfind(':');
+  if (colon == 0 || colon == std::string_view::npos) return false;
+  const std::string_view verdict = listed.substr(colon + 1);
+  return std::ranges::any_of(
+      std::initializer_list<Verdict>{Verdict::refused, Verdict::warned, Verdict::clean},
+      [&](Verdict known) { return nameOf(known) == verdict; });
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  std::string listed;
+  std::vector<std::string> paths;
+  for (int i = 1; i < argc; ++i) {
+    const std::string argument = argv[i];
+    if (argument == "--help") {
+      std::cout << usage;
+      return EXIT_SUCCESS;
+    }
+    if (argument == "--list" && i + 1 < argc)
+      listed = argv[++i];
+    else if (argument.starts_with("--"))
+      paths.clear(), i = argc;
+    else
+      paths.push_back(argument);
+  }
+  if (paths.empty() || (!listed.empty() && !isListing(listed))) {
+    std::cerr << usage;
+    return wrongUsage;
+  }
+  try {
+    Corpus corpus(listed);
+    for (const std::string& path : paths) {
+      if (path == "-") {
+        corpus.read(std::cin, "standard input");
+        continue;
+      }
+      std::ifstream file(path);
+      if (!file) throw std::runtime_error(path + ": cannot be opened");
+      corpus.read(file, path);
+    }
+    corpus.print();
+  } catch (const std::exception& error) {
+    std::cerr << "screen-corpus: " << error.what() << '\n';
+    return cannotRead;
+  }
+  return EXIT_SUCCESS;
+}

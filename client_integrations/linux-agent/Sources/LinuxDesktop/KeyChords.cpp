@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <iterator>
 
 #include <xkbcommon/xkbcommon-keysyms.h>
 
@@ -27,6 +28,27 @@ constexpr std::array<std::string_view, 9> kTerminalClasses = {"alacritty",
 
 // These keep the shortcuts of the first X terminals.
 constexpr std::array<std::string_view, 3> kInsertClasses = {"uxterm", "xterm", "urxvt"};
+
+struct ModifierKey {
+  Keysym symbol;
+  std::string_view name;
+};
+constexpr std::array kModifierKeys = {ModifierKey{XKB_KEY_Control_L, "Ctrl"},
+                                      ModifierKey{XKB_KEY_Alt_L, "Alt"},
+                                      ModifierKey{XKB_KEY_Super_L, "Super"}};
+
+bool isHeld(Keysym modifier, Modifiers modifiers) {
+  const bool control = contains(modifiers, Modifiers::control);
+  const bool command = contains(modifiers, Modifiers::command);
+  switch (modifier) {
+    case XKB_KEY_Control_L:
+      return control || command;
+    case XKB_KEY_Alt_L:
+      return contains(modifiers, Modifiers::option);
+    default:
+      return control && command;
+  }
+}
 
 Keysym symbolOf(Key key) {
   switch (key) {
@@ -57,12 +79,9 @@ bool isTerminal(std::string_view categories, std::string_view windowClass) {
 }  // namespace
 
 std::vector<Keysym> chordOf(KeyPress press) {
-  const bool control = contains(press.modifiers, Modifiers::control);
-  const bool command = contains(press.modifiers, Modifiers::command);
   std::vector<Keysym> chord;
-  if (control || command) chord.push_back(XKB_KEY_Control_L);
-  if (contains(press.modifiers, Modifiers::option)) chord.push_back(XKB_KEY_Alt_L);
-  if (control && command) chord.push_back(XKB_KEY_Super_L);
+  for (const auto& [symbol, name] : kModifierKeys)
+    if (isHeld(symbol, press.modifiers)) chord.push_back(symbol);
   chord.push_back(symbolOf(press.key));
   return chord;
 }
@@ -84,23 +103,17 @@ std::vector<Keysym> chordFor(KeyPress press, std::string_view categories,
 }
 
 std::string nameOf(KeyPress press) {
-  std::string name;
-  for (const Keysym symbol : chordOf(press)) {
-    switch (symbol) {
-      case XKB_KEY_Control_L:
-        name += "Ctrl+";
-        break;
-      case XKB_KEY_Alt_L:
-        name += "Alt+";
-        break;
-      case XKB_KEY_Super_L:
-        name += "Super+";
-        break;
-      default:
-        name += static_cast<char>('A' + (symbol - XKB_KEY_a));
-    }
-  }
-  return name;
+  const auto letter = static_cast<char>('a' + (symbolOf(press.key) - XKB_KEY_a));
+  return nameOf(press.modifiers, std::string_view(&letter, 1));
+}
+
+std::string nameOf(Modifiers modifiers, std::string_view key) {
+  std::string result;
+  for (const auto& [symbol, name] : kModifierKeys)
+    if (isHeld(symbol, modifiers)) result.append(name) += '+';
+  std::ranges::transform(key, std::back_inserter(result),
+                         [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+  return result;
 }
 
 }  // namespace quillseal

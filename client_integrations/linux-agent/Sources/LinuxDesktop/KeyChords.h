@@ -24,4 +24,7 @@ namespace quillseal {
 /// The combination in words: "Ctrl+Alt+Super+H".
 [[nodiscard]] std::string nameOf(desktop::KeyPress press);
 
+/// The same for a key by its character, given in lower case.
+[[nodiscard]] std::string nameOf(desktop::Modifiers modifiers, std::string_view key);
+
 }  // namespace quillseal

@@ -34,11 +34,18 @@ QPixmap pixmapOf(MessageDialog::Picture picture, const QStyle& style) {
   return QIcon(QStringLiteral(":/icons/quillseal-48.png")).pixmap(kPictureSize);
 }
 
-QLabel* plainLabel(const std::string& text) {
+// A text may end in line breaks that belong to what would follow it elsewhere.
+QString withoutEnd(QString text) {
+  while (!text.isEmpty() && text.back().isSpace())
+    text.chop(1);
+  return text;
+}
+
+QLabel* plainLabel(const QString& text) {
   auto* label = new QLabel;
   label->setTextFormat(Qt::PlainText);
   label->setWordWrap(true);
-  label->setText(toQString(text));
+  label->setText(text);
   return label;
 }
 
@@ -47,12 +54,12 @@ QLabel* plainLabel(const std::string& text) {
 // Qt's parents own their children: whatever is added to a layout below goes with the dialog.
 MessageDialog::MessageDialog(const Look& look)
     : rows_(new QVBoxLayout), buttons_(new QDialogButtonBox) {
-  setWindowTitle(QStringLiteral("Quillseal"));
+  setWindowTitle(toQString(look.title));
 
   auto* picture = new QLabel;
   picture->setPixmap(pixmapOf(look.picture, *style()));
 
-  QLabel* title = plainLabel(look.title);
+  QLabel* title = plainLabel(toQString(look.title));
   QFont bold = title->font();
   bold.setBold(true);
   bold.setPointSizeF(bold.pointSizeF() * kTitleScale);
@@ -61,8 +68,9 @@ MessageDialog::MessageDialog(const Look& look)
 
   auto* column = new QVBoxLayout;
   column->addWidget(title);
-  if (!look.text.empty()) {
-    QLabel* text = plainLabel(look.text);
+  const QString shown = withoutEnd(toQString(look.text));
+  if (!shown.isEmpty()) {
+    QLabel* text = plainLabel(shown);
     text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     text->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     auto* scroll = new QScrollArea;

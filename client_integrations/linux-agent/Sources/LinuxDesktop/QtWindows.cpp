@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
@@ -31,6 +32,7 @@ constexpr auto kOrange = "#b45309";
 constexpr double kCalloutScale = 0.95;
 constexpr double kCaptionScale = 0.88;
 constexpr double kSymbolScale = 1.4;
+constexpr int kRoomForFrame = 40;
 
 // The text forms of these signs: their picture forms have colours of their own.
 QString signFor(const std::string& symbol) {
@@ -223,7 +225,8 @@ class FormWindow : public desktop::Window {
     // Fonts differ between desktops: the form's own wish is the least that shows all of it.
     const int needed = std::max(form.height, form_->heightForWidth(form.width));
     window_.setMinimumWidth(form.width);
-    window_.resize(form.width, needed);
+    window_.resize(form.width,
+                   std::min(needed, window_.screen()->availableSize().height() - kRoomForFrame));
   }
 
   void bringToFront() override { quillseal::bringToFront(window_, windows_); }

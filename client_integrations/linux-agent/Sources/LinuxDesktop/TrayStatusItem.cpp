@@ -1,39 +1,28 @@
 #include "LinuxDesktop/TrayStatusItem.h"
 
+#include <QApplication>
 #include <utility>
+
+#include "LinuxDesktop/KeyChords.h"
 
 namespace quillseal {
 namespace {
-
-constexpr int kIconSizes[] = {22, 24, 32, 48};
 
 // Menus read "&" as the mark of a mnemonic.
 QString menuText(const std::string& text) {
   return toQString(text).replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
-// Command is Control, unless Control is there too: then it is Super, which Qt calls Meta.
-QKeySequence shortcutOf(const desktop::MenuItem& item) {
-  using desktop::Modifiers;
-  const bool control = contains(item.keyModifiers, Modifiers::control);
-  const bool command = contains(item.keyModifiers, Modifiers::command);
-  QString text;
-  if (control || command) text += QStringLiteral("Ctrl+");
-  if (contains(item.keyModifiers, Modifiers::option)) text += QStringLiteral("Alt+");
-  if (control && command) text += QStringLiteral("Meta+");
-  return QKeySequence(text + toQString(item.keyEquivalent).toUpper());
-}
-
-QIcon productIcon() {
-  QIcon icon;
-  for (const int size : kIconSizes)
-    icon.addFile(QStringLiteral(":/icons/quillseal-%1.png").arg(size), {size, size});
-  return icon;
+// In Qt's notation, where Super is called Meta.
+QKeySequence shortcutOf(const std::string& combination) {
+  return QKeySequence(
+      toQString(combination).replace(QLatin1String("Super"), QLatin1String("Meta")));
 }
 
 }  // namespace
 
-TrayStatusItem::TrayStatusItem(Words words) : words_(std::move(words)), icon_(productIcon()) {}
+TrayStatusItem::TrayStatusItem(Words words)
+    : words_(std::move(words)), icon_(QApplication::windowIcon()) {}
 
 void TrayStatusItem::show(const desktop::StatusMenu& menu) {
   menu_.clear();
@@ -45,7 +34,10 @@ void TrayStatusItem::show(const desktop::StatusMenu& menu) {
     } else {
       action = menu_.addAction(menuText(words_(item.title)));
       action->setEnabled(item.kind == desktop::MenuItem::Kind::action);
-      if (!item.keyEquivalent.empty()) action->setShortcut(shortcutOf(item));
+      // A title that names the combination itself needs no second mention beside it.
+      const std::string keys = nameOf(item.keyModifiers, item.keyEquivalent);
+      if (!item.keyEquivalent.empty() && words_(item.title).find(keys) == std::string::npos)
+        action->setShortcut(shortcutOf(keys));
       if (item.action) QObject::connect(action, &QAction::triggered, &menu_, item.action);
     }
     actions_.push_back(action);

@@ -1,0 +1,71 @@
+// Holds keys down as a person's hands do: on the X server's own keyboard device, not on the one
+// that synthesised keys come from. usage: held-keys MILLISECONDS KEYSYM...   presses in order,
+// waits, lets go in reverse order
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+#include <span>
+#include <string_view>
+#include <thread>
+#include <vector>
+
+#include <X11/Xlib.h>
+#include <X11/extensions/XInput.h>
+#include <X11/extensions/XTest.h>
+
+namespace {
+
+struct CloseDisplay {
+  void operator()(Display* display) const { XCloseDisplay(display); }
+};
+
+// Every server has a keyboard beside the one of XTEST: "Xvfb keyboard" on the virtual one.
+XDevice* openKeyboard(Display* display) {
+  int count = 0;
+  XDeviceInfo* const devices = XListInputDevices(display, &count);
+  XDevice* keyboard = nullptr;
+  for (const XDeviceInfo& device : std::span(devices, static_cast<std::size_t>(count)))
+    if (keyboard == nullptr && device.use == IsXExtensionKeyboard &&
+        std::string_view(device.name).find("XTEST") == std::string_view::npos)
+      keyboard = XOpenDevice(display, device.id);
+  XFreeDeviceList(devices);
+  return keyboard;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const std::span arguments(argv, static_cast<std::size_t>(argc));
+  const std::unique_ptr<Display, CloseDisplay> display(XOpenDisplay(nullptr));
+  if (arguments.size() < 3 || display == nullptr) {
+    std::fputs("usage: held-keys MILLISECONDS KEYSYM..., with an X server\n", stderr);
+    return 2;
+  }
+  XDevice* const keyboard = openKeyboard(display.get());
+  if (keyboard == nullptr) {
+    std::fputs("held-keys: the X server has no keyboard of its own\n", stderr);
+    return 1;
+  }
+  std::vector<unsigned> keys;
+  for (const char* name : arguments.subspan(2)) {
+    const KeyCode key = XKeysymToKeycode(display.get(), XStringToKeysym(name));
+    if (key == 0) {
+      std::fprintf(stderr, "held-keys: no key gives %s\n", name);
+      return 1;
+    }
+    keys.push_back(key);
+  }
+  for (const unsigned key : keys)
+    XTestFakeDeviceKeyEvent(display.get(), keyboard, key, True, nullptr, 0, CurrentTime);
+  XSync(display.get(), False);
+  std::this_thread::sleep_for(std::chrono::milliseconds(std::atoi(arguments[1])));
+  while (!keys.empty()) {
+    XTestFakeDeviceKeyEvent(display.get(), keyboard, keys.back(), False, nullptr, 0, CurrentTime);
+    keys.pop_back();
+  }
+  XSync(display.get(), False);
+  return 0;
+}

@@ -1,0 +1,267 @@
+"""A private desktop for one agent: X server, session bus, window manager, panel, notifications,
+development server. Nothing of it touches the desktop, the home or the settings of whoever runs it.
+
+Waiting is always for a condition, with a limit and a sentence that says what did not happen.
+"""
+
+import json
+import os
+import pathlib
+import re
+import shutil
+import signal
+import subprocess
+import tempfile
+import time
+
+PATIENCE = 20.0  # seconds; a loaded machine with two processors needs a good part of it
+HOTKEY = ("Control_L", "Alt_L", "Super_L", "h")
+
+
+class Failure(Exception):
+    """What did not happen, in a sentence."""
+
+
+def wait_for(what, condition, seconds=PATIENCE):
+    """The first true value of `condition()`; Failure with `what` when there is none in time."""
+    deadline = time.monotonic() + seconds
+    while True:
+        value = condition()
+        if value:
+            return value
+        if time.monotonic() > deadline:
+            raise Failure(f"{what}: not within {seconds:g} s")
+        time.sleep(0.02)
+
+
+class Session:
+    """Use as a context manager. `programs` names the built executables: quillseal,
+    quillseal-dev-server, held-keys."""
+
+    def __init__(self, programs, size="1280x800", panel=False):
+        self.programs = {name: str(path) for name, path in programs.items()}
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="quillseal-session-"))
+        self.home = self.folder / "home"
+        self.processes = []
+        self.size = size
+        self.panel = panel
+        self.env = self._environment()
+        self.agent = None
+        self.server_url = None
+        self.server = None
+
+    def _environment(self):
+        kept = ("PATH", "TZ", "ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS", "TSAN_OPTIONS")
+        env = {name: os.environ[name] for name in kept if name in os.environ}
+        runtime = self.folder / "runtime"
+        for folder in (self.home, runtime):
+            folder.mkdir(mode=0o700)
+        env.update(
+            HOME=str(self.home),
+            XDG_RUNTIME_DIR=str(runtime),
+            XDG_CONFIG_HOME=str(self.home / ".config"),
+            XDG_DATA_HOME=str(self.home / ".local/share"),
+            XDG_STATE_HOME=str(self.home / ".local/state"),
+            XDG_CACHE_HOME=str(self.home / ".cache"),
+            XDG_SESSION_TYPE="x11",
+            LANG="C.UTF-8",
+            NO_AT_BRIDGE="1",
+            GTK_A11Y="none",
+            GSETTINGS_BACKEND="memory",
+            QT_QPA_PLATFORMTHEME="",
+        )
+        return env
+
+    def __enter__(self):
+        try:
+            self._start_desktop()
+        except BaseException:
+            self.__exit__(None, None, None)
+            raise
+        return self
+
+    def __exit__(self, kind, value, trace):
+        for process in reversed(self.processes):
+            self.end(process)
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+    # Processes
+
+    def start(self, *command, **options):
+        """Starts a program of the session. Its output goes to a file named after it."""
+        name = pathlib.Path(command[0]).name
+        log = self.folder / f"{name}-{len(self.processes)}.log"
+        with open(log, "wb") as output:
+            process = subprocess.Popen(
+                [str(part) for part in command], env=self.env, cwd=self.home,
+                stdin=subprocess.DEVNULL, stdout=output, stderr=subprocess.STDOUT,
+                start_new_session=True, **options)
+        process.log = log
+        self.processes.append(process)
+        return process
+
+    def end(self, process, how=signal.SIGTERM):
+        """Ends a program with all its children."""
+        for attempt in (how, signal.SIGKILL):
+            try:
+                os.killpg(process.pid, attempt)
+            except ProcessLookupError:
+                pass
+            try:
+                process.wait(5)
+            except subprocess.TimeoutExpired:
+                continue
+            break
+        if process in self.processes:
+            self.processes.remove(process)
+
+    def run(self, *command, seconds=PATIENCE, check=True, **options):
+        """Runs a program to its end and gives what it printed."""
+        done = subprocess.run([str(part) for part in command], env=self.env, timeout=seconds,
+                              capture_output=True, text=True, check=False, **options)
+        if check and done.returncode != 0:
+            raise Failure(f"{' '.join(map(str, command))} ended with {done.returncode}: "
+                          f"{done.stdout}{done.stderr}")
+        return done.stdout
+
+    def output_of(self, process):
+        return process.log.read_text(errors="replace")
+
+    def wait_for_output(self, process, pattern, what):
+        def found():
+            match = re.search(pattern, self.output_of(process))
+            if match is None and process.poll() is not None:
+                raise Failure(f"{what}: it ended with {process.returncode}\n"
+                              f"{self.output_of(process)}")
+            return match
+        return wait_for(what, found)
+
+    def _start_desktop(self):
+        display_file = self.folder / "display"
+        with open(display_file, "w") as number:
+            self.start("Xvfb", "-displayfd", number.fileno(), "-screen", "0", f"{self.size}x24",
+                       "-nolisten", "tcp", pass_fds=[number.fileno()])
+        number = wait_for("the X server starts", lambda: display_file.read_text().strip())
+        self.env["DISPLAY"] = f":{number}"
+        bus = self.start("dbus-daemon", "--session", "--nofork", "--print-address=1")
+        address = self.wait_for_output(bus, r"unix:\S+", "the session bus starts")
+        self.env["DBUS_SESSION_BUS_ADDRESS"] = address[0]
+        self.start("openbox", "--sm-disable")
+        wait_for("the window manager starts",
+                 lambda: "window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK",
+                                                 check=False))
+        if self.panel:
+            self.start("trayer", "--edge", "top", "--align", "right", "--widthtype", "request",
+                       "--height", "26")
+        self.start("dunst")
+        wait_for("the notification service starts",
+                 lambda: "org.freedesktop.Notifications" in self.run("busctl", "--user", "list",
+                                                                     "--no-legend", check=False)
+                 or self.notifications() is not None)
+
+    # The agent and its server
+
+    def start_server(self, *options):
+        self.server = self.start(self.programs["quillseal-dev-server"], "--port", "0",
+                                 "--database", self.folder / "registry.sqlite", "--verbose",
+                                 *options)
+        found = self.wait_for_output(self.server, r"http://[\d.]+:\d+",
+                                     "the development server starts")
+        self.server_url = found[0]
+        return self.server_url
+
+    @property
+    def settings_file(self):
+        return self.home / ".config/Quillseal/Quillseal.conf"
+
+    def write_settings(self, **settings):
+        """Replaces the settings file, as another program would."""
+        self.settings_file.parent.mkdir(parents=True, exist_ok=True)
+        new = self.settings_file.with_suffix(".new")
+        new.write_text("[General]\n" + "".join(f"{k}={v}\n" for k, v in settings.items()))
+        new.chmod(0o600)
+        new.replace(self.settings_file)
+
+    def start_agent(self, *options, tpm="none"):
+        self.agent = self.start(self.programs["quillseal"], "--tpm", tpm, *options)
+        self.wait_for_output(self.agent, r"\[start\] ready", "the agent is ready")
+        return self.agent
+
+    def wait_for_log(self, pattern, what):
+        return self.wait_for_output(self.agent, pattern, what)
+
+    # Windows and keys
+
+    def window_names(self):
+        names = []
+        ids = self.run("xdotool", "search", "--onlyvisible", "--name", ".", check=False).split()
+        for window in ids:
+            names.append(self.run("xdotool", "getwindowname", window, check=False).strip())
+        return names
+
+    def active_window_name(self):
+        return self.run("xdotool", "getactivewindow", "getwindowname", check=False).strip()
+
+    def wait_for_window(self, pattern, what=None):
+        """Waits until a window whose title matches has the keyboard."""
+        return wait_for(what or f"a window “{pattern}” comes to the front",
+                        lambda: re.search(pattern, self.active_window_name()))
+
+    def wait_for_no_window(self, pattern):
+        wait_for(f"the window “{pattern}” closes",
+                 lambda: not any(re.search(pattern, name) for name in self.window_names()))
+
+    def key(self, *keys):
+        self.run("xdotool", "key", *keys)
+
+    def type(self, text):
+        self.run("xdotool", "type", "--delay", "8", text)
+
+    def press_hotkey(self, milliseconds=120):
+        """Presses the keys on the X server's own keyboard, and really holds them."""
+        self.run(self.programs["held-keys"], milliseconds, *HOTKEY)
+
+    # Clipboard, notifications, pictures
+
+    def selection(self, which="clipboard", target="UTF8_STRING"):
+        try:
+            return self.run("xclip", "-o", "-selection", which, "-t", target, check=False,
+                            seconds=5)
+        except subprocess.TimeoutExpired:
+            return ""
+
+    def notifications(self):
+        """The texts of the notifications shown so far, or nothing without a service."""
+        history = self.run("dunstctl", "history", check=False)
+        shown = self.run("dunstctl", "count", "displayed", check=False)
+        if not history.strip():
+            return None
+        entries = json.loads(history)["data"][0]
+        return [entry["summary"]["data"] for entry in entries] + ["displayed"] * int(shown or 0)
+
+    def screenshot(self, path):
+        self.run("import", "-window", "root", path)
+
+    # Applications
+
+    def open_editor(self, text, name="letter.txt"):
+        """An editor with a new file; gives the path of the file."""
+        path = self.home / name
+        path.write_text(text)
+        editor = self.start("mousepad", "--disable-server", path)
+        editor.file = path
+        self.wait_for_window(re.escape(name), "the editor opens")
+        return editor
+
+    def select_all(self, expected):
+        self.key("ctrl+a")
+        wait_for("the editor selects all", lambda: self.selection("primary") == expected)
+
+    def saved_text(self, editor, containing):
+        """Has the editor save until its file holds the text asked for; gives the file's text."""
+        def saved():
+            if "*" in self.active_window_name():
+                self.key("ctrl+s")
+            text = editor.file.read_text()
+            return text if containing in text else None
+        return wait_for(f"the editor's text contains “{containing}”", saved)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -21,6 +22,9 @@ struct Circumstances {
   KeyPlace key;
   Proof proof;
 };
+
+/// Asked whenever a text is shown: keys come and go.
+using CurrentCircumstances = std::function<Circumstances()>;
 
 /// The circumstances of a signature made with a key in `place`.
 [[nodiscard]] Circumstances withKeyIn(KeyPlace place) noexcept;

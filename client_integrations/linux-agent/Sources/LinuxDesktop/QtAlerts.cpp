@@ -10,6 +10,7 @@
 #include <memory>
 
 #include "LinuxDesktop/MessageDialog.h"
+#include "LinuxDesktop/QtText.h"
 
 namespace quillseal {
 namespace {
@@ -20,11 +21,11 @@ MessageDialog::Picture pictureOf(desktop::AlertStyle style) {
 }
 
 std::unique_ptr<MessageDialog> questionDialog(const desktop::Question& question,
-                                              MessageDialog::Picture picture, const Words& words) {
-  auto dialog = std::make_unique<MessageDialog>(MessageDialog::Look{
-      .picture = picture, .title = words(question.title), .text = words(question.body)});
-  dialog->addButton(words(question.confirm), QDialogButtonBox::AcceptRole);
-  dialog->addButton(words(question.cancel), QDialogButtonBox::RejectRole);
+                                              MessageDialog::Picture picture) {
+  auto dialog = std::make_unique<MessageDialog>(
+      MessageDialog::Look{.picture = picture, .title = question.title, .text = question.body});
+  dialog->addButton(question.confirm, QDialogButtonBox::AcceptRole);
+  dialog->addButton(question.cancel, QDialogButtonBox::RejectRole);
   return dialog;
 }
 
@@ -35,27 +36,30 @@ QString escaped(const std::string& text) {
 
 }  // namespace
 
-desktop::Ticket QtAlerts::show(const desktop::Alert& alert, std::function<void()> dismissed) {
+desktop::Ticket QtAlerts::show(const desktop::Alert& original, std::function<void()> dismissed) {
+  const desktop::Alert alert = PlatformWording::adapted(original, circumstances_());
   auto dialog = std::make_unique<MessageDialog>(MessageDialog::Look{
-      .picture = pictureOf(alert.style), .title = words_(alert.title), .text = words_(alert.body)});
+      .picture = pictureOf(alert.style), .title = alert.title, .text = alert.body});
   dialog->addButton("OK", QDialogButtonBox::AcceptRole).setFocus();
   return MessageDialog::open(std::move(dialog), windows_,
                              [dismissed = std::move(dismissed)](bool) { dismissed(); });
 }
 
-desktop::Ticket QtAlerts::ask(const desktop::Question& question,
+desktop::Ticket QtAlerts::ask(const desktop::Question& original,
                               std::function<void(desktop::Answer)> answered) {
-  return MessageDialog::open(
-      questionDialog(question, pictureOf(question.style), words_), windows_,
-      [answered = std::move(answered)](bool confirmed) {
-        answered(confirmed ? desktop::Answer::confirmed : desktop::Answer::cancelled);
-      });
+  const desktop::Question question = PlatformWording::adapted(original, circumstances_());
+  return MessageDialog::open(questionDialog(question, pictureOf(question.style)), windows_,
+                             [answered = std::move(answered)](bool confirmed) {
+                               answered(confirmed ? desktop::Answer::confirmed
+                                                  : desktop::Answer::cancelled);
+                             });
 }
 
 desktop::Ticket QtAlerts::confirm(
-    const desktop::ConfirmationForm& form,
+    const desktop::ConfirmationForm& original,
     std::function<void(std::optional<desktop::ConfirmationEntry>)> answered) {
-  auto dialog = questionDialog(form.question, MessageDialog::Picture::product, words_);
+  const desktop::ConfirmationForm form = PlatformWording::adapted(original, circumstances_());
+  auto dialog = questionDialog(form.question, MessageDialog::Picture::product);
 
   auto* choice = new QComboBox;
   choice->setAccessibleName(QStringLiteral("Medium"));
@@ -65,7 +69,7 @@ desktop::Ticket QtAlerts::confirm(
   auto* field = new QLineEdit;
   field->setAccessibleName(QStringLiteral("Recipient"));
   field->setPlaceholderText(toQString(form.fieldPlaceholder));
-  auto* note = new QLabel(toQString(words_(form.note)));
+  auto* note = new QLabel(toQString(form.note));
   note->setTextFormat(Qt::PlainText);
   note->setWordWrap(true);
   note->setForegroundRole(QPalette::PlaceholderText);
@@ -94,8 +98,7 @@ void QtAlerts::notify(const desktop::Notification& notification) {
   constexpr quint32 replacesNone = 0;
   constexpr int usualTime = -1;
   call << QStringLiteral("Quillseal") << replacesNone << QStringLiteral("quillseal")
-       << toQString(words_(notification.title)) << escaped(words_(notification.body))
-       << QStringList()
+       << toQString(notification.title) << escaped(notification.body) << QStringList()
        << QVariantMap{{QStringLiteral("desktop-entry"), QStringLiteral("quillseal")}} << usualTime;
   QDBusConnection::sessionBus().send(call);
 }

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "Desktop/Alerts.h"
-#include "LinuxDesktop/QtText.h"
+#include "LinuxDesktop/PlatformWording.h"
 #include "LinuxDesktop/WindowManager.h"
 
 namespace quillseal {
@@ -11,8 +11,8 @@ namespace quillseal {
 /// Alerts as dialogs of Qt, notifications through the session's notification service.
 class QtAlerts : public desktop::Alerts {
  public:
-  QtAlerts(const WindowManager& windows, Words words)
-      : windows_(windows), words_(std::move(words)) {}
+  QtAlerts(const WindowManager& windows, PlatformWording::CurrentCircumstances circumstances)
+      : windows_(windows), circumstances_(std::move(circumstances)) {}
 
   [[nodiscard]] desktop::Ticket show(const desktop::Alert& alert,
                                      std::function<void()> dismissed) override;
@@ -25,7 +25,7 @@ class QtAlerts : public desktop::Alerts {
 
  private:
   const WindowManager& windows_;
-  Words words_;
+  PlatformWording::CurrentCircumstances circumstances_;
 };
 
 }  // namespace quillseal

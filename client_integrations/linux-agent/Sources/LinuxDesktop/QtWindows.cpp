@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "LinuxDesktop/MessageDialog.h"
+#include "LinuxDesktop/QtText.h"
 
 namespace quillseal {
 namespace {
@@ -26,6 +27,7 @@ using desktop::FormStatus;
 using desktop::FormText;
 using desktop::TextColour;
 using desktop::TextFont;
+using PlatformWording::CurrentCircumstances;
 
 constexpr auto kGreen = "#15803d";
 constexpr auto kOrange = "#b45309";
@@ -73,8 +75,8 @@ QLabel* plainLabel() {
   return label;
 }
 
-void fill(QLabel& label, const FormText& text, const Words& words) {
-  const QString shown = toQString(words(text.text));
+void fill(QLabel& label, const FormText& text) {
+  const QString shown = toQString(text.text);
   if (label.text() != shown) label.setText(shown);
   scale(label, text.font == TextFont::body      ? 1.0
                : text.font == TextFont::callout ? kCalloutScale
@@ -87,7 +89,7 @@ void fill(QLabel& label, const FormText& text, const Words& words) {
 
 class FormWidget : public QWidget {
  public:
-  explicit FormWidget(Words words) : words_(std::move(words)), layout_(new QVBoxLayout(this)) {
+  FormWidget() : layout_(new QVBoxLayout(this)) {
     layout_->setContentsMargins(16, 16, 16, 16);
     layout_->setSpacing(12);
   }
@@ -96,7 +98,7 @@ class FormWidget : public QWidget {
     if (!hasShapeOf(form)) build(form);
     shown_ = form;
     for (std::size_t section = 0; section < form.sections.size(); ++section) {
-      boxes_[section]->setTitle(toQString(words_(form.sections[section].header)));
+      boxes_[section]->setTitle(toQString(form.sections[section].header));
       for (std::size_t row = 0; row < form.sections[section].rows.size(); ++row)
         rows_[section][row](form.sections[section], row);
     }
@@ -138,7 +140,7 @@ class FormWidget : public QWidget {
     QLabel* label = plainLabel();
     column.addWidget(label);
     return [this, label](const FormSection& section, std::size_t row) {
-      fill(*label, std::get<FormText>(section.rows[row]), words_);
+      fill(*label, std::get<FormText>(section.rows[row]));
     };
   }
 
@@ -156,7 +158,7 @@ class FormWidget : public QWidget {
       const auto& status = std::get<FormStatus>(section.rows[row]);
       sign->setText(signFor(status.symbol));
       colour(*sign, status.symbolColour);
-      fill(*label, status.text, words_);
+      fill(*label, status.text);
     };
   }
 
@@ -173,7 +175,7 @@ class FormWidget : public QWidget {
     });
     return [this, label, edit](const FormSection& shown, std::size_t index) {
       const auto& field = std::get<FormField>(shown.rows[index]);
-      label->setText(toQString(words_(field.label)));
+      label->setText(toQString(field.label));
       edit->setEchoMode(field.masked ? QLineEdit::Password : QLineEdit::Normal);
       const QString value = toQString(field.value);
       if (edit->text() == value) return;
@@ -191,13 +193,11 @@ class FormWidget : public QWidget {
     });
     return [this, button](const FormSection& shown, std::size_t index) {
       const auto& content = std::get<FormButton>(shown.rows[index]);
-      button->setText(
-          toQString(words_(content.label)).replace(QLatin1Char('&'), QLatin1String("&&")));
+      button->setText(toQString(content.label).replace(QLatin1Char('&'), QLatin1String("&&")));
       button->setEnabled(content.enabled);
     };
   }
 
-  Words words_;
   QVBoxLayout* layout_;
   Form shown_;
   std::vector<QGroupBox*> boxes_;
@@ -207,9 +207,9 @@ class FormWidget : public QWidget {
 class FormWindow : public desktop::Window {
  public:
   FormWindow(const desktop::WindowDescription& description, const WindowManager& windows,
-             const Words& words)
-      : windows_(windows), form_(new FormWidget(words)) {
-    window_.setWindowTitle(toQString(words(description.title)));
+             CurrentCircumstances circumstances)
+      : windows_(windows), circumstances_(std::move(circumstances)), form_(new FormWidget) {
+    window_.setWindowTitle(toQString(description.title));
     window_.resize(description.width, description.height);
     window_.setFrameShape(QFrame::NoFrame);
     window_.setWidgetResizable(true);
@@ -217,7 +217,8 @@ class FormWindow : public desktop::Window {
     window_.setWidget(form_);
   }
 
-  void render(const Form& form) override {
+  void render(const Form& original) override {
+    const Form form = PlatformWording::adapted(original, circumstances_());
     form_->render(form);
     if (form.width == width_ && form.height == height_) return;
     width_ = form.width;
@@ -233,6 +234,7 @@ class FormWindow : public desktop::Window {
 
  private:
   const WindowManager& windows_;
+  CurrentCircumstances circumstances_;
   QScrollArea window_;
   FormWidget* form_;  // owned by the window
   int width_ = 0;
@@ -241,11 +243,11 @@ class FormWindow : public desktop::Window {
 
 }  // namespace
 
-QtWindows::QtWindows(const WindowManager& windows, Words words)
-    : windows_(windows), words_(std::move(words)) {}
+QtWindows::QtWindows(const WindowManager& windows, CurrentCircumstances circumstances)
+    : windows_(windows), circumstances_(std::move(circumstances)) {}
 
 std::unique_ptr<desktop::Window> QtWindows::make(const desktop::WindowDescription& description) {
-  return std::make_unique<FormWindow>(description, windows_, words_);
+  return std::make_unique<FormWindow>(description, windows_, circumstances_);
 }
 
 }  // namespace quillseal

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Desktop/Window.h"
-#include "LinuxDesktop/QtText.h"
+#include "LinuxDesktop/PlatformWording.h"
 #include "LinuxDesktop/WindowManager.h"
 
 namespace quillseal {
@@ -9,14 +9,14 @@ namespace quillseal {
 /// Windows of Qt that show a form.
 class QtWindows : public desktop::Windows {
  public:
-  QtWindows(const WindowManager& windows, Words words);
+  QtWindows(const WindowManager& windows, PlatformWording::CurrentCircumstances circumstances);
 
   [[nodiscard]] std::unique_ptr<desktop::Window> make(
       const desktop::WindowDescription& description) override;
 
  private:
   const WindowManager& windows_;
-  Words words_;
+  PlatformWording::CurrentCircumstances circumstances_;
 };
 
 }  // namespace quillseal

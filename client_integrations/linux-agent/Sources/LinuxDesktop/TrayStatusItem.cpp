@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "LinuxDesktop/KeyChords.h"
+#include "LinuxDesktop/QtText.h"
 
 namespace quillseal {
 namespace {
@@ -21,10 +22,11 @@ QKeySequence shortcutOf(const std::string& combination) {
 
 }  // namespace
 
-TrayStatusItem::TrayStatusItem(Words words)
-    : words_(std::move(words)), icon_(QApplication::windowIcon()) {}
+TrayStatusItem::TrayStatusItem(PlatformWording::CurrentCircumstances circumstances)
+    : circumstances_(std::move(circumstances)), icon_(QApplication::windowIcon()) {}
 
-void TrayStatusItem::show(const desktop::StatusMenu& menu) {
+void TrayStatusItem::show(const desktop::StatusMenu& original) {
+  const desktop::StatusMenu menu = PlatformWording::adapted(original, circumstances_());
   menu_.clear();
   actions_.clear();
   for (const desktop::MenuItem& item : menu.items) {
@@ -32,23 +34,23 @@ void TrayStatusItem::show(const desktop::StatusMenu& menu) {
     if (item.kind == desktop::MenuItem::Kind::separator) {
       action = menu_.addSeparator();
     } else {
-      action = menu_.addAction(menuText(words_(item.title)));
+      action = menu_.addAction(menuText(item.title));
       action->setEnabled(item.kind == desktop::MenuItem::Kind::action);
       // A title that names the combination itself needs no second mention beside it.
       const std::string keys = nameOf(item.keyModifiers, item.keyEquivalent);
-      if (!item.keyEquivalent.empty() && words_(item.title).find(keys) == std::string::npos)
+      if (!item.keyEquivalent.empty() && item.title.find(keys) == std::string::npos)
         action->setShortcut(shortcutOf(keys));
       if (item.action) QObject::connect(action, &QAction::triggered, &menu_, item.action);
     }
     actions_.push_back(action);
   }
-  icon_.setToolTip(toQString(words_(menu.title)).trimmed());
+  icon_.setToolTip(toQString(menu.title).trimmed());
   icon_.setContextMenu(&menu_);
   icon_.show();
 }
 
 void TrayStatusItem::setItemTitle(std::size_t index, const std::string& title) {
-  actions_.at(index)->setText(menuText(words_(title)));
+  actions_.at(index)->setText(menuText(PlatformWording::adapted(title, circumstances_())));
 }
 
 }  // namespace quillseal

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "Desktop/StatusItem.h"
-#include "LinuxDesktop/QtText.h"
+#include "LinuxDesktop/PlatformWording.h"
 
 namespace quillseal {
 
@@ -13,13 +13,13 @@ namespace quillseal {
 /// starts; some desktops have none.
 class TrayStatusItem : public desktop::StatusItem {
  public:
-  explicit TrayStatusItem(Words words);
+  explicit TrayStatusItem(PlatformWording::CurrentCircumstances circumstances);
 
   void show(const desktop::StatusMenu& menu) override;
   void setItemTitle(std::size_t index, const std::string& title) override;
 
  private:
-  Words words_;
+  PlatformWording::CurrentCircumstances circumstances_;
   QSystemTrayIcon icon_;
   QMenu menu_;
   std::vector<QAction*> actions_;  // owned by the menu

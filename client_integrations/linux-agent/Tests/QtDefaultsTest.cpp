@@ -1,0 +1,194 @@
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <array>
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include "LinuxDesktop/QtDefaults.h"
+#include "LinuxDesktop/QtDescriptors.h"
+#include "TemporaryFolder.h"
+
+namespace quillseal {
+namespace {
+
+using testing::contentsOf;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using testing::overwrite;
+namespace fs = std::filesystem;
+
+class QtDefaultsTest : public ::testing::Test {
+ protected:
+  QtDefaults make() {
+    return QtDefaults({.path = path_.string(),
+                       .warn = [this](const std::string& text) { warnings_.push_back(text); }});
+  }
+
+  /// Serves events until `condition` holds, or too long.
+  static bool eventually(const std::function<bool()>& condition) {
+    QElapsedTimer clock;
+    clock.start();
+    while (!condition()) {
+      if (clock.elapsed() > 5000) return false;
+      QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+    }
+    return true;
+  }
+
+  int argumentCount_ = 1;
+  std::string name_ = "test";
+  std::vector<char*> arguments_{name_.data(), nullptr};
+  QCoreApplication application_{argumentCount_, arguments_.data()};
+  testing::TemporaryFolder folder_;
+  fs::path path_ = folder_.path() / "Quillseal" / "Quillseal.conf";
+  std::vector<std::string> warnings_;
+};
+
+TEST_F(QtDefaultsTest, KeepsValuesForTheirOwnerOnly) {
+  const std::vector<std::string> values{"https://a.example:8443/",
+                                        "",
+                                        " two  blanks ",
+                                        "a, b; c = d",
+                                        "\"quoted\" \\ back",
+                                        "@Invalid()",
+                                        "é 日本 🛡️",
+                                        "line\nbreak\ttab",
+                                        "%41",
+                                        "#",
+                                        ";",
+                                        "[x]"};
+  for (const std::string& value : values) {
+    {
+      QtDefaults defaults = make();
+      defaults.setString("BoundIdentity", value);
+      EXPECT_EQ(defaults.string("BoundIdentity"), value);
+    }
+    EXPECT_EQ(make().string("BoundIdentity"), value);
+  }
+  EXPECT_EQ(make().string("ServerURL"), std::nullopt);
+  EXPECT_THAT(contentsOf(path_), HasSubstr("[General]\n"));
+  EXPECT_EQ(fs::status(path_).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+  EXPECT_THAT(warnings_, IsEmpty());
+}
+
+TEST_F(QtDefaultsTest, ReadsWhatPeopleWrite) {
+  fs::create_directories(path_.parent_path());
+  overwrite(path_,
+            "# mine\n\n[General]\nServerURL = https://a.example \nBoundIdentity=Lovelace, Ada\r\n"
+            "DemoSigning=YES\nConfirmBeforeSigning=0\nQuillsealDebugCapture=maybe\n[Other]\nx=1\n");
+  fs::permissions(path_, fs::perms::others_read, fs::perm_options::add);
+  const QtDefaults defaults = make();
+  EXPECT_EQ(defaults.string("ServerURL"), "https://a.example");
+  EXPECT_EQ(defaults.string("BoundIdentity"), "Lovelace, Ada");
+  EXPECT_TRUE(defaults.boolean("DemoSigning"));
+  EXPECT_FALSE(defaults.boolean("ConfirmBeforeSigning"));
+  EXPECT_FALSE(defaults.boolean("QuillsealDebugCapture"));
+  EXPECT_FALSE(defaults.boolean("NoSuchKey"));
+  EXPECT_EQ(fs::status(path_).permissions() & fs::perms::others_all, fs::perms::none);
+}
+
+TEST_F(QtDefaultsTest, NoticesEveryonesChanges) {
+  QtDefaults defaults = make();
+  int changes = 0;
+  const desktop::Ticket observer = defaults.observe([&] { ++changes; });
+  desktop::Ticket once = defaults.observe([&] { once = {}; });
+
+  defaults.setString("ServerURL", "https://a.example");
+  EXPECT_EQ(changes, 0) << "not from inside the call";
+  EXPECT_TRUE(eventually([&] { return changes == 1; }));
+
+  // As an editor saves: in place, then by a new file under the old name.
+  overwrite(path_, "[General]\nServerURL=https://b.example\n");
+  EXPECT_EQ(defaults.string("ServerURL"), "https://b.example");
+  EXPECT_TRUE(eventually([&] { return changes == 2; }));
+  overwrite(path_.string() + ".new", "[General]\nServerURL=https://three.example\n");
+  fs::rename(path_.string() + ".new", path_);
+  EXPECT_TRUE(eventually([&] { return changes == 3; }));
+  overwrite(path_, "[General]\nServerURL=https://d.example\n");
+  EXPECT_TRUE(eventually([&] { return changes == 4; }));
+
+  defaults.setString("APIKey", "k");
+  EXPECT_EQ(defaults.string("ServerURL"), "https://d.example") << "the other edit stays";
+  fs::remove(path_);
+  EXPECT_EQ(defaults.string("APIKey"), std::nullopt);
+}
+
+TEST_F(QtDefaultsTest, SetsADamagedFileAside) {
+  fs::create_directories(path_.parent_path());
+  const std::vector<std::string> damages{"no settings here\n",
+                                         "[General\nServerURL=x\n",
+                                         "[General]\nServerURL=\"x\n",
+                                         std::string("a=\0\n", 4),
+                                         "a=\xff\xfe\n",
+                                         "=x\n",
+                                         std::string(1024 * 1024, '\n') + "\n"};
+  int number = 0;
+  for (const std::string& damage : damages) {
+    overwrite(path_, damage);
+    warnings_.clear();
+    QtDefaults defaults = make();
+    EXPECT_EQ(defaults.string("ServerURL"), std::nullopt);
+    defaults.setString("APIKey", "k");
+    EXPECT_EQ(defaults.string("APIKey"), "k");
+    const std::string aside = path_.string() + ".damaged-" + std::to_string(++number);
+    EXPECT_EQ(contentsOf(aside), damage);
+    EXPECT_TRUE(eventually([&] { return !warnings_.empty(); }));
+    EXPECT_THAT(warnings_, ElementsAre(HasSubstr(aside)));
+  }
+}
+
+TEST_F(QtDefaultsTest, ValuesThatCannotBeSavedHoldForTheProcess) {
+  fs::create_directories(path_);  // a folder where the file should be
+  overwrite(path_ / "kept", "x");
+  QtDefaults defaults = make();
+  int changes = 0;
+  const desktop::Ticket observer = defaults.observe([&] { ++changes; });
+  defaults.setString("SigningMode", "handoff");
+  EXPECT_EQ(defaults.string("SigningMode"), "handoff");
+  EXPECT_TRUE(eventually([&] { return changes == 1 && !warnings_.empty(); }));
+  EXPECT_TRUE(fs::exists(path_ / "kept"));
+}
+
+class QtDescriptorsTest : public QtDefaultsTest {};
+
+TEST_F(QtDescriptorsTest, TellsReadinessUntilTheTicketIsDropped) {
+  std::array<int, 2> ends{};
+  ASSERT_EQ(socketpair(AF_UNIX, SOCK_STREAM, 0, ends.data()), 0);
+  QtDescriptors descriptors;
+  int writable = 0;
+  std::string received;
+  desktop::Ticket writing =
+      descriptors.watch(ends[0], Descriptors::Interest::writing, [&](Descriptors::Interest ready) {
+        EXPECT_EQ(ready, Descriptors::Interest::writing);
+        ++writable;
+        writing = {};
+        EXPECT_EQ(write(ends[0], "x", 1), 1);
+      });
+  desktop::Ticket reading =
+      descriptors.watch(ends[1], Descriptors::Interest::reading, [&](Descriptors::Interest ready) {
+        EXPECT_EQ(ready, Descriptors::Interest::reading);
+        char byte = 0;
+        EXPECT_EQ(read(ends[1], &byte, 1), 1);
+        received += byte;
+        if (received.size() == 2) reading = {};
+      });
+  EXPECT_TRUE(eventually([&] { return received == "x"; }));
+  EXPECT_EQ(write(ends[0], "yz", 2), 2);
+  EXPECT_TRUE(eventually([&] { return received == "xy"; }));
+  QCoreApplication::processEvents(QEventLoop::AllEvents);
+  EXPECT_EQ(received, "xy");
+  EXPECT_EQ(writable, 1);
+  close(ends[0]);
+  close(ends[1]);
+}
+
+}  // namespace
+}  // namespace quillseal

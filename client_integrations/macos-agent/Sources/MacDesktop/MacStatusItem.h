@@ -10,8 +10,7 @@ namespace quillseal::mac {
 /// An item of variable length in the system's status bar.
 class MacStatusItem final : public desktop::StatusItem {
  public:
-  /// Main thread; the system's status bar shows the item from now on.
-  MacStatusItem();
+  MacStatusItem() = default;
   ~MacStatusItem() override;
   MacStatusItem(const MacStatusItem&) = delete;
   MacStatusItem& operator=(const MacStatusItem&) = delete;
@@ -20,7 +19,7 @@ class MacStatusItem final : public desktop::StatusItem {
   void setItemTitle(std::size_t index, const std::string& title) override;
 
  private:
-  NSStatusItem* item_;
+  NSStatusItem* item_;    ///< made when there is something to show
   QSMenuTarget* target_;  ///< menu items do not keep theirs
 };
 

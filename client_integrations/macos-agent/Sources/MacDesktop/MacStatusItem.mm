@@ -66,12 +66,14 @@ NSMenuItem* menuItem(const desktop::MenuItem& description, QSMenuTarget* target,
 
 }  // namespace
 
-MacStatusItem::MacStatusItem()
-    : item_([NSStatusBar.systemStatusBar statusItemWithLength:NSVariableStatusItemLength]) {}
-
-MacStatusItem::~MacStatusItem() { [NSStatusBar.systemStatusBar removeStatusItem:item_]; }
+MacStatusItem::~MacStatusItem() {
+  if (item_ != nil) [NSStatusBar.systemStatusBar removeStatusItem:item_];
+}
 
 void MacStatusItem::show(const desktop::StatusMenu& menu) {
+  if (item_ == nil) {
+    item_ = [NSStatusBar.systemStatusBar statusItemWithLength:NSVariableStatusItemLength];
+  }
   NSStatusBarButton* button = item_.button;
   button.image = [NSImage imageWithSystemSymbolName:nsString(menu.symbol)
                            accessibilityDescription:nsString(menu.symbolDescription)];

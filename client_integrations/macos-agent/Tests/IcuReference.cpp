@@ -13,16 +13,13 @@ icu::UnicodeString utf16(std::string_view text) {
   return icu::UnicodeString::fromUTF8({text.data(), static_cast<std::int32_t>(text.size())});
 }
 
-// In units of about a millisecond; an exponential pattern is not worth waiting for.
-constexpr std::int32_t timeLimit = 2;
-
 }  // namespace
 
 void IcuReference::Close::operator()(URegularExpression* expression) const {
   uregex_close(expression);
 }
 
-IcuReference::IcuReference(std::span<const screening::Pattern> patterns) {
+IcuReference::IcuReference(std::span<const screening::Pattern> patterns, std::int32_t timeLimit) {
   for (const screening::Pattern& pattern : patterns) {
     UErrorCode status = U_ZERO_ERROR;
     const icu::UnicodeString expression = utf16(pattern.expression);

@@ -18,7 +18,12 @@ namespace quillseal::testing {
 class IcuReference {
  public:
   /// Throws std::runtime_error, naming the pattern, when ICU does not accept one.
-  explicit IcuReference(std::span<const screening::Pattern> patterns);
+  explicit IcuReference(std::span<const screening::Pattern> patterns,
+                        std::int32_t timeLimit = shortTimeLimit);
+
+  /// In ICU's unit, some ten thousand steps for each search of a pattern.
+  static constexpr std::int32_t shortTimeLimit = 2;
+  static constexpr std::int32_t noTimeLimit = 0;
 
   struct Answer {
     bool gaveUp = false;  ///< ICU ran out of time or stack

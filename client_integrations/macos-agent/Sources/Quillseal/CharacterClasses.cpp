@@ -64,6 +64,27 @@ class Stretches {
 
 }  // namespace
 
+std::uint32_t ClassSets::intern(const std::vector<std::uint64_t>& bits) {
+  const auto [known, isNew] =
+      indexes_.try_emplace(bits, static_cast<std::uint32_t>(bits_.size() / words_));
+  if (isNew) bits_.insert(bits_.end(), bits.begin(), bits.end());
+  return known->second;
+}
+
+std::vector<std::uint64_t> ClassSets::bits(std::uint32_t set) const {
+  const auto first = bits_.begin() + static_cast<std::ptrdiff_t>(set * words_);
+  return {first, first + static_cast<std::ptrdiff_t>(words_)};
+}
+
+void ClassSets::finish() {
+  indexes_.clear();
+  bits_.shrink_to_fit();
+}
+
+std::size_t ClassSets::memoryUse() const {
+  return sizeof(*this) + bits_.capacity() * sizeof(std::uint64_t);
+}
+
 CharacterClasses::CharacterClasses(const SetTable& sets, std::vector<char32_t> alphabet)
     : alphabet_(std::move(alphabet)) {
   std::sort(alphabet_.begin(), alphabet_.end());
@@ -155,6 +176,7 @@ CharacterClasses::CharacterClasses(const SetTable& sets, std::vector<char32_t> a
     if (isNew) pages_.insert(pages_.end(), known->first.begin(), known->first.end());
     pageOf_[page] = known->second;
   }
+  pages_.shrink_to_fit();
 }
 
 Letter CharacterClasses::letterOf(char32_t c) const {

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <map>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -39,6 +40,30 @@ class ClassifiedText {
 
  private:
   std::vector<ClassId> elements_;
+};
+
+/// Sets of classes, each kept once, 64 classes to a word.
+class ClassSets {
+ public:
+  explicit ClassSets(std::size_t classCount) : words_(classCount / 64 + 1) {}
+
+  /// The index of a set. REQUIRES: bits.size() == words().
+  std::uint32_t intern(const std::vector<std::uint64_t>& bits);
+
+  [[nodiscard]] std::size_t words() const { return words_; }
+  [[nodiscard]] bool contains(std::uint32_t set, ClassId id) const {
+    return (bits_[set * words_ + id / 64] >> (id % 64) & 1) != 0;
+  }
+  [[nodiscard]] std::vector<std::uint64_t> bits(std::uint32_t set) const;
+
+  /// Forgets what only `intern` needs.
+  void finish();
+  [[nodiscard]] std::size_t memoryUse() const;
+
+ private:
+  std::size_t words_;
+  std::vector<std::uint64_t> bits_;
+  std::map<std::vector<std::uint64_t>, std::uint32_t> indexes_;
 };
 
 /// Divides the code points into classes, so that a set of code points becomes a set of classes,

@@ -1,16 +1,18 @@
 #include "Quillseal/LiteralIndex.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace quillseal::screening {
 namespace {
 
 // The commonest letters have a symbol each; any other is a pair of symbols, so that a row of the
 // automaton stays short however many scripts the literals use. Symbol 0 is every other character.
-constexpr std::size_t directLetters = 56;
-constexpr std::size_t pairBase = 24;
+constexpr std::size_t directLetters = 40;
+constexpr std::size_t pairBase = 36;
 constexpr std::size_t symbolTotal = 1 + directLetters + 2 * pairBase;
+
+/// Most of a text leads to states no deeper than this.
+constexpr std::uint32_t fullDepth = 2;
 
 }  // namespace
 
@@ -64,11 +66,18 @@ void LiteralIndex::assignSymbols(const CharacterClasses& classes) {
 void LiteralIndex::finish(const CharacterClasses& classes) {
   assignSymbols(classes);
 
-  // The trie over symbols, in breadth-first order with its failure links.
+  // The trie over symbols.
   struct SymbolNode {
-    std::vector<std::uint32_t> next = std::vector<std::uint32_t>(symbolTotal);
+    std::vector<std::pair<std::uint8_t, std::uint32_t>> children;
     std::vector<std::uint32_t> values;
     std::uint32_t failure = 0;
+    std::uint32_t depth = 0;
+
+    [[nodiscard]] std::uint32_t child(std::uint8_t symbol) const {
+      for (const auto& [own, node] : children)
+        if (own == symbol) return node;
+      return 0;
+    }
   };
   std::vector<SymbolNode> nodes(1);
   const auto insert = [&](const auto& self, std::uint32_t from, std::uint32_t to) -> void {
@@ -76,65 +85,80 @@ void LiteralIndex::finish(const CharacterClasses& classes) {
     for (const auto& [letter, child] : trie_[from].children) {
       std::uint32_t at = to;
       for (const std::uint8_t symbol : symbolsOf(letter)) {
-        if (nodes[at].next[symbol] == 0) {
-          nodes[at].next[symbol] = static_cast<std::uint32_t>(nodes.size());
+        std::uint32_t next = nodes[at].child(symbol);
+        if (next == 0) {
+          next = static_cast<std::uint32_t>(nodes.size());
+          nodes[at].children.emplace_back(symbol, next);
           nodes.emplace_back();
+          nodes[next].depth = nodes[at].depth + 1;
         }
-        at = nodes[at].next[symbol];
+        at = next;
       }
       self(self, child, at);
     }
   };
   insert(insert, 0, 0);
-  trie_.clear();
-  if (nodes.size() > std::numeric_limits<std::uint16_t>::max())
-    throw PatternError("too many literals");
+  trie_ = {};
 
-  std::vector<std::uint32_t> order;
-  for (const std::uint32_t child : nodes[0].next)
-    if (child != 0) order.push_back(child);
+  const auto after = [&](std::uint32_t node, std::uint8_t symbol) {
+    for (;; node = nodes[node].failure) {
+      const std::uint32_t child = nodes[node].child(symbol);
+      if (child != 0 || node == 0) return child;
+    }
+  };
+  // Breadth first, so that the failure of a node is complete before the node.
+  std::vector<std::uint32_t> order{0};
   for (std::size_t i = 0; i < order.size(); ++i) {
     const std::uint32_t node = order[i];
-    const SymbolNode& failure = nodes[nodes[node].failure];
-    nodes[node].values.insert(nodes[node].values.end(), failure.values.begin(),
-                              failure.values.end());
-    for (std::size_t symbol = 0; symbol < symbolTotal; ++symbol) {
-      const std::uint32_t child = nodes[node].next[symbol];
-      const std::uint32_t fallback = failure.next[symbol];
-      if (child == 0) {
-        nodes[node].next[symbol] = fallback;
-      } else {
-        nodes[child].failure = fallback;
-        order.push_back(child);
-      }
+    for (const auto& [symbol, child] : nodes[node].children) {
+      if (node != 0) nodes[child].failure = after(nodes[node].failure, symbol);
+      const auto& inherited = nodes[nodes[child].failure].values;
+      nodes[child].values.insert(nodes[child].values.end(), inherited.begin(), inherited.end());
+      order.push_back(child);
     }
   }
-  order.insert(order.begin(), 0);
 
-  // States with hits come last, so that one comparison finds them.
-  std::stable_partition(order.begin(), order.end(),
-                        [&](std::uint32_t node) { return nodes[node].values.empty(); });
-  std::vector<std::uint16_t> numbers(nodes.size());
+  const auto isFull = [&](std::uint32_t node) { return nodes[node].depth <= fullDepth; };
+  const auto rank = [&](std::uint32_t node) {
+    const bool isHit = !nodes[node].values.empty();
+    return isFull(node) ? (isHit ? 1 : 0) : (isHit ? 2 : 3);
+  };
+  std::stable_sort(order.begin(), order.end(),
+                   [&](std::uint32_t a, std::uint32_t b) { return rank(a) < rank(b); });
+  std::vector<State> numbers(nodes.size());
   for (std::size_t i = 0; i < order.size(); ++i)
-    numbers[order[i]] = static_cast<std::uint16_t>(i);
-  firstHit_ = static_cast<State>(order.size());
-  next_.reserve(order.size() * symbolTotal);
-  for (std::size_t i = 0; i < order.size(); ++i) {
-    const SymbolNode& node = nodes[order[i]];
-    for (const std::uint32_t target : node.next)
-      next_.push_back(numbers[target]);
-    if (node.values.empty()) continue;
-    firstHit_ = std::min(firstHit_, static_cast<State>(i));
+    numbers[order[i]] = static_cast<State>(i);
+  root_ = numbers[0];
+  for (const std::uint32_t node : order) {
+    const SymbolNode& source = nodes[node];
+    if (isFull(node)) {
+      for (std::size_t symbol = 0; symbol < symbolCount_; ++symbol)
+        full_.push_back(numbers[after(node, static_cast<std::uint8_t>(symbol))]);
+    } else {
+      sparse_.push_back({.firstEdge = static_cast<std::uint32_t>(edges_.size()),
+                         .failure = numbers[source.failure]});
+      for (const auto& [symbol, child] : source.children)
+        edges_.push_back({.symbol = symbol, .target = numbers[child]});
+    }
+    if (source.values.empty()) continue;
+    if (hitCount_++ == 0) firstHit_ = numbers[node];
     valueStarts_.push_back(static_cast<std::uint32_t>(values_.size()));
-    values_.insert(values_.end(), node.values.begin(), node.values.end());
+    values_.insert(values_.end(), source.values.begin(), source.values.end());
   }
+  fullCount_ = static_cast<State>(full_.size() / symbolCount_);
+  sparse_.push_back({.firstEdge = static_cast<std::uint32_t>(edges_.size()), .failure = root_});
   valueStarts_.push_back(static_cast<std::uint32_t>(values_.size()));
+  for (auto* const words : {&full_, &valueStarts_, &values_})
+    words->shrink_to_fit();
+  sparse_.shrink_to_fit();
+  edges_.shrink_to_fit();
 }
 
 std::size_t LiteralIndex::memoryUse() const {
-  return sizeof(*this) + next_.capacity() * sizeof(std::uint16_t) +
-         symbols_.capacity() * sizeof(Symbols) + sequences_.capacity() +
-         (valueStarts_.capacity() + values_.capacity()) * sizeof(std::uint32_t);
+  return sizeof(*this) + sparse_.capacity() * sizeof(SparseState) +
+         edges_.capacity() * sizeof(Edge) + symbols_.capacity() * sizeof(Symbols) +
+         sequences_.capacity() +
+         (full_.capacity() + valueStarts_.capacity() + values_.capacity()) * sizeof(std::uint32_t);
 }
 
 }  // namespace quillseal::screening

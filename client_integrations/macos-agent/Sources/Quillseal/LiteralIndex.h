@@ -11,12 +11,12 @@
 namespace quillseal::screening {
 
 /// Finds all occurrences of many literals in one pass over a classified text (Aho and Corasick,
-/// "Efficient string matching", 1975, as a complete automaton). Literals are over folded letters; a
-/// code point that folds to several letters counts as all of them.
+/// "Efficient string matching", 1975). Literals are over folded letters; a code point that folds to
+/// several letters counts as all of them. States near the root have a full row of successors, the
+/// many others only their own and a link to the state that goes on for them.
 class LiteralIndex {
  public:
   using State = std::uint32_t;
-  static constexpr State root = 0;
 
   /// `value` is reported where `literal` (not empty, without `otherLetter`) ends.
   void add(std::span<const Letter> literal, std::uint32_t value);
@@ -24,17 +24,20 @@ class LiteralIndex {
   /// To be called once, after the last `add` and before the first `advance`.
   void finish(const CharacterClasses& classes);
 
+  /// Where a pass begins.
+  [[nodiscard]] State root() const { return root_; }
+
   /// The state after a code point of class `id`.
   [[nodiscard]] State advance(State state, ClassId id) const {
     const Symbols symbols = symbols_[id];
-    if (symbols.single != several) return next_[state * symbolCount_ + symbols.single];
+    if (symbols.single != several) return after(state, symbols.single);
     for (std::uint32_t i = 0; i < symbols.length; ++i)
-      state = next_[state * symbolCount_ + sequences_[symbols.first + i]];
+      state = after(state, sequences_[symbols.first + i]);
     return state;
   }
 
   /// Whether a literal ends in this state.
-  [[nodiscard]] bool isHit(State state) const { return state >= firstHit_; }
+  [[nodiscard]] bool isHit(State state) const { return state - firstHit_ < hitCount_; }
 
   /// The values of the literals that end here. REQUIRES: isHit(state).
   [[nodiscard]] std::span<const std::uint32_t> values(State state) const {
@@ -55,8 +58,26 @@ class LiteralIndex {
     std::map<Letter, std::uint32_t> children;
     std::vector<std::uint32_t> values;
   };
+  struct SparseState {
+    std::uint32_t firstEdge;
+    std::uint32_t failure;
+  };
+  struct Edge {
+    std::uint32_t symbol;
+    std::uint32_t target;
+  };
   static constexpr std::uint8_t several = 0xFF;
 
+  [[nodiscard]] State after(State state, std::uint8_t symbol) const {
+    while (state >= fullCount_) {
+      const SparseState& sparse = sparse_[state - fullCount_];
+      const std::uint32_t end = (&sparse)[1].firstEdge;
+      for (std::uint32_t edge = sparse.firstEdge; edge < end; ++edge)
+        if (edges_[edge].symbol == symbol) return edges_[edge].target;
+      state = sparse.failure;
+    }
+    return full_[state * symbolCount_ + symbol];
+  }
   [[nodiscard]] std::vector<std::uint8_t> symbolsOf(Letter letter) const;
   void assignSymbols(const CharacterClasses& classes);
 
@@ -65,8 +86,14 @@ class LiteralIndex {
   std::size_t symbolCount_ = 1;
   std::vector<Symbols> symbols_;
   std::vector<std::uint8_t> sequences_;
-  std::vector<std::uint16_t> next_;
+  // Full states come first, and states with hits stand together where the two kinds meet.
+  State root_ = 0;
+  State fullCount_ = 0;
   State firstHit_ = 0;
+  State hitCount_ = 0;
+  std::vector<std::uint32_t> full_;
+  std::vector<SparseState> sparse_;  ///< and one more for the end of the last one's edges
+  std::vector<Edge> edges_;
   std::vector<std::uint32_t> valueStarts_;
   std::vector<std::uint32_t> values_;
 };

@@ -31,29 +31,28 @@ void unite(ClassBits& bits, const ClassBits& others) {
 
 class PatternProgram::Compiler {
  public:
-  Compiler(PatternProgram& program, const CharacterClasses& classes)
-      : program_(program), classes_(classes) {
-    program_.setWords_ = classes.count() / 64 + 1;
-  }
+  Compiler(PatternProgram& program, const CharacterClasses& classes, ClassSets& sets)
+      : program_(program), classes_(classes), sets_(sets) {}
 
   void compile(const Node& pattern) {
     emit(pattern);
     add({.operation = Operation::Accept});
-    known_.assign(program_.code_.size(), noBeginning);
-    for (Target& target : program_.targets_)
+    known_.resize(program_.code_.size());
+    for (Entry& target : program_.targets_)
       target.beginning = beginningAt(target.instruction);
     for (std::size_t i = 0; i < program_.code_.size(); ++i) {
       Instruction& instruction = program_.code_[i];
       if (instruction.operation == Operation::GreedyLoop ||
           instruction.operation == Operation::LazyLoop)
-        instruction.beginning = beginningAt(static_cast<std::uint32_t>(i + 1));
+        instruction.beginning = keep(beginningAt(static_cast<std::uint32_t>(i + 1)));
     }
-    program_.entry_ = beginningAt(0);
+    program_.entries_.push_back({.instruction = 0, .beginning = beginningAt(0)});
+    if (pattern.kind == Node::Kind::Alternatives)
+      for (std::size_t i = 0; i < pattern.children.size(); ++i)
+        program_.entries_.push_back(program_.targets_[i]);
   }
 
  private:
-  static constexpr std::uint32_t noBeginning = 0xFFFF'FFFF;
-
   [[nodiscard]] std::uint32_t here() const {
     return static_cast<std::uint32_t>(program_.code_.size());
   }
@@ -174,83 +173,68 @@ class PatternProgram::Compiler {
   }
 
   std::uint32_t setOf(std::size_t tableIndex) {
-    const auto found = std::find(setIndexes_.begin(), setIndexes_.end(), tableIndex);
-    if (found != setIndexes_.end()) return static_cast<std::uint32_t>(found - setIndexes_.begin());
     const auto bits = classes_.classesOf(tableIndex);
-    program_.sets_.insert(program_.sets_.end(), bits.begin(), bits.end());
-    setIndexes_.push_back(tableIndex);
-    return static_cast<std::uint32_t>(setIndexes_.size() - 1);
+    return sets_.intern({bits.begin(), bits.end()});
   }
 
   // No cycle is followed: the body of a loop takes at least one code point.
-  std::uint32_t beginningAt(std::uint32_t index) {
-    if (known_[index] == noBeginning) known_[index] = intern(beginningOf(index));
-    return known_[index];
+  Beginning beginningAt(std::uint32_t index) {
+    if (!known_[index]) known_[index] = beginningOf(index);
+    return *known_[index];
   }
 
   Beginning beginningOf(std::uint32_t index) {
     const Instruction& instruction = program_.code_[index];
-    Beginning beginning{.classes = ClassBits(program_.setWords_)};
     switch (instruction.operation) {
       case Operation::Set:
-        addSet(beginning.classes, instruction.set);
-        break;
-      case Operation::FoldedText:
+        return {.classes = instruction.set};
+      case Operation::FoldedText: {
+        ClassBits classes(sets_.words());
         for (const ClassId id : classes_.classesWith(program_.letters_[instruction.first]))
           if (classes_.folding(id).front() == program_.letters_[instruction.first])
-            setClass(beginning.classes, id);
-        break;
-      case Operation::Choice:
-        beginning.atBoundary = true;
+            setClass(classes, id);
+        return {.classes = sets_.intern(classes)};
+      }
+      case Operation::Choice: {
+        Beginning all{.classes = sets_.intern(ClassBits(sets_.words())), .atBoundary = true};
         for (std::uint32_t i = 0; i < instruction.length; ++i)
-          add(beginning, beginningAt(program_.targets_[instruction.first + i].instruction));
-        break;
+          all = either(all, beginningAt(program_.targets_[instruction.first + i].instruction));
+        return all;
+      }
       case Operation::GreedyLoop:
-      case Operation::LazyLoop:
-        addSet(beginning.classes, instruction.set);
-        if (instruction.min == 0) add(beginning, beginningAt(index + 1));
-        break;
+      case Operation::LazyLoop: {
+        const Beginning body{.classes = instruction.set};
+        return instruction.min > 0 ? body : either(body, beginningAt(index + 1));
+      }
       case Operation::Jump:
       case Operation::LookAhead:
       case Operation::NegativeLookAhead:
-        return program_.beginnings_[beginningAt(instruction.first)];
-      case Operation::WordBoundary:
-        beginning = program_.beginnings_[beginningAt(index + 1)];
+        return beginningAt(instruction.first);
+      case Operation::WordBoundary: {
+        Beginning beginning = beginningAt(index + 1);
         beginning.atBoundary = true;
-        break;
-      case Operation::NoWordBoundary:
-      case Operation::TextStart:
-      case Operation::PrecededBy:
-      case Operation::NotPrecededBy:
-        return program_.beginnings_[beginningAt(index + 1)];
+        return beginning;
+      }
       case Operation::Accept:
       case Operation::TextEnd:
       case Operation::AbsoluteEnd:
-        beginning.anything = true;
-        break;
+        return {.classes = sets_.intern(ClassBits(sets_.words())), .anything = true};
+      default:
+        return beginningAt(index + 1);
     }
-    return beginning;
   }
 
-  void addSet(ClassBits& bits, std::uint32_t set) const {
-    for (std::size_t i = 0; i < bits.size(); ++i)
-      bits[i] |= program_.sets_[set * program_.setWords_ + i];
+  Beginning either(const Beginning& one, const Beginning& other) {
+    ClassBits classes = sets_.bits(one.classes);
+    unite(classes, sets_.bits(other.classes));
+    return {.classes = sets_.intern(classes),
+            .anything = one.anything || other.anything,
+            .atBoundary = one.atBoundary && other.atBoundary};
   }
 
-  void add(Beginning& beginning, std::uint32_t other) const {
-    const Beginning& added = program_.beginnings_[other];
-    unite(beginning.classes, added.classes);
-    beginning.anything = beginning.anything || added.anything;
-    beginning.atBoundary = beginning.atBoundary && added.atBoundary;
-  }
-
-  std::uint32_t intern(const Beginning& beginning) {
+  std::uint32_t keep(const Beginning& beginning) {
     auto& all = program_.beginnings_;
-    const auto same = [&](const Beginning& other) {
-      return other.anything == beginning.anything && other.atBoundary == beginning.atBoundary &&
-             other.classes == beginning.classes;
-    };
-    const auto found = std::find_if(all.begin(), all.end(), same);
+    const auto found = std::find(all.begin(), all.end(), beginning);
     if (found != all.end()) return static_cast<std::uint32_t>(found - all.begin());
     all.push_back(beginning);
     return static_cast<std::uint32_t>(all.size() - 1);
@@ -258,24 +242,26 @@ class PatternProgram::Compiler {
 
   PatternProgram& program_;
   const CharacterClasses& classes_;
-  std::vector<std::size_t> setIndexes_;
-  std::vector<std::uint32_t> known_;
+  ClassSets& sets_;
+  std::vector<std::optional<Beginning>> known_;
 };
 
-PatternProgram::PatternProgram(const Node& pattern, const CharacterClasses& classes) {
-  Compiler(*this, classes).compile(pattern);
+PatternProgram::PatternProgram(const Node& pattern, const CharacterClasses& classes,
+                               ClassSets& sets) {
+  Compiler(*this, classes, sets).compile(pattern);
   code_.shrink_to_fit();
+  targets_.shrink_to_fit();
   beginnings_.shrink_to_fit();
-  sets_.shrink_to_fit();
 }
 
-std::vector<ClassBits> PatternProgram::leadingClasses(std::size_t longest,
-                                                      const CharacterClasses& classes) const {
+std::vector<ClassBits> PatternProgram::leadingClasses(const Entry& entry, std::size_t longest,
+                                                      const CharacterClasses& classes,
+                                                      const ClassSets& sets) const {
   using Place = std::pair<std::uint32_t, std::uint32_t>;  // instruction, letters taken of it
   std::vector<ClassBits> leading;
-  std::set<Place> places{{0, 0}};
+  std::set<Place> places{{entry.instruction, 0}};
   while (leading.size() < longest) {
-    ClassBits step(setWords_);
+    ClassBits step(sets.words());
     std::set<Place> after;
     std::vector<Place> open(places.begin(), places.end());
     while (!open.empty()) {
@@ -291,8 +277,7 @@ std::vector<ClassBits> PatternProgram::leadingClasses(std::size_t longest,
         case Operation::AbsoluteEnd:
           return leading;
         case Operation::Set:
-          for (std::size_t i = 0; i < setWords_; ++i)
-            step[i] |= sets_[instruction.set * setWords_ + i];
+          unite(step, sets.bits(instruction.set));
           after.emplace(index + 1, 0);
           break;
         case Operation::FoldedText: {
@@ -311,8 +296,7 @@ std::vector<ClassBits> PatternProgram::leadingClasses(std::size_t longest,
         }
         case Operation::GreedyLoop:
         case Operation::LazyLoop:
-          for (std::size_t i = 0; i < setWords_; ++i)
-            step[i] |= sets_[instruction.set * setWords_ + i];
+          unite(step, sets.bits(instruction.set));
           // A counted loop stays a few rounds; then it may go on after any of them.
           if (instruction.min > taken + 1) {
             after.emplace(index, taken + 1);
@@ -343,20 +327,19 @@ std::vector<ClassBits> PatternProgram::leadingClasses(std::size_t longest,
 }
 
 std::size_t PatternProgram::memoryUse() const {
-  std::size_t bytes = sizeof(*this) + code_.capacity() * sizeof(Instruction) +
-                      letters_.capacity() * sizeof(Letter) + targets_.capacity() * sizeof(Target) +
-                      sets_.capacity() * sizeof(std::uint64_t);
-  for (const Beginning& beginning : beginnings_)
-    bytes += sizeof(beginning) + beginning.classes.capacity() * sizeof(std::uint64_t);
-  return bytes;
+  return sizeof(*this) + code_.capacity() * sizeof(Instruction) +
+                      letters_.capacity() * sizeof(Letter) +
+                      (targets_.capacity() + entries_.capacity()) * sizeof(Entry) +
+                      beginnings_.capacity() * sizeof(Beginning);
 }
 
 // ---------------------------------------------------------------------------------------------
 // Matching
 
-std::optional<std::size_t> Matcher::matchAt(std::size_t start, BacktrackStack& stack) {
+std::optional<std::size_t> Matcher::matchAt(const PatternProgram::Entry& entry, std::size_t start,
+                                            BacktrackStack& stack) {
   if (remembering_) forgetBefore(start);
-  return run(0, start, Purpose::Match, stack);
+  return run(entry.instruction, start, Purpose::Match, stack);
 }
 
 bool Matcher::looksAhead(std::uint32_t instruction, std::size_t position, BacktrackStack& stack) {
@@ -367,6 +350,7 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
                                         Purpose purpose, BacktrackStack& stack) {
   using Operation = PatternProgram::Operation;
   const PatternProgram& program = *program_;
+  const ClassSets& sets = *sets_;
   const ClassifiedText& text = *text_;
   const std::size_t base = stack.size();
   const std::uint64_t allowance = 2048 + 2 * text.size();
@@ -374,15 +358,12 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
   const auto push = [&](std::uint32_t index, std::size_t at, std::size_t rest) {
     stack.push_back({index, static_cast<std::uint32_t>(at), static_cast<std::uint32_t>(rest)});
   };
-  const auto allows = [&](std::uint32_t beginning, std::size_t at) {
-    return program.beginnings_[beginning].allows(text, at);
-  };
   // Goes to the first target from `which` on that may match here; false when there is none.
   const auto choose = [&](std::uint32_t index, std::uint32_t which) {
     const auto& choice = program.code_[index];
     const auto nextAllowed = [&](std::uint32_t from) {
       while (from < choice.length &&
-             !allows(program.targets_[choice.first + from].beginning, position))
+             !program.targets_[choice.first + from].beginning.allows(text, position, sets))
         ++from;
       return from;
     };
@@ -402,7 +383,7 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
   const auto mayLeaveLoop = [&](std::uint32_t index, std::size_t at) {
     const auto& loop = program.code_[index];
     ++steps_;
-    return allows(loop.beginning, at) &&
+    return program.beginnings_[loop.beginning].allows(text, at, sets) &&
            !(remembering_ && known(loop.memo + 1, at) == Known::Fails);
   };
   // A greedy loop leaves at the last place between the two from which the rest may match.
@@ -420,7 +401,7 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
   const auto leaveFromFirst = [&](std::uint32_t index, std::size_t at, std::uint32_t rest) {
     const auto& loop = program.code_[index];
     while (!mayLeaveLoop(index, at)) {
-      if (rest == 0 || !program.contains(loop.set, text.classAt(at))) return false;
+      if (rest == 0 || !sets.contains(loop.set, text.classAt(at))) return false;
       ++at;
       if (rest != unbounded) --rest;
       if (remembering_ && rest == unbounded && known(loop.memo, at) == Known::Fails) return false;
@@ -449,7 +430,7 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
         stack.resize(base);
         return position;
       case Operation::Set:
-        advanced = program.contains(current.set, text.classAt(position));
+        advanced = sets.contains(current.set, text.classAt(position));
         ++position;
         ++instruction;
         break;
@@ -489,7 +470,7 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
         break;
       case Operation::PrecededBy:
       case Operation::NotPrecededBy:
-        advanced = (position > 0 && program.contains(current.set, text.classAt(position - 1))) ==
+        advanced = (position > 0 && sets.contains(current.set, text.classAt(position - 1))) ==
                    (current.operation == Operation::PrecededBy);
         ++instruction;
         break;
@@ -523,7 +504,7 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
         std::size_t high = position;
         const std::size_t limit = isEndless ? text.size() : position + current.max;
         bool failsFromHigh = false;
-        while (high < limit && program.contains(current.set, text.classAt(high))) {
+        while (high < limit && sets.contains(current.set, text.classAt(high))) {
           ++high;
           if (remembering_ && isEndless && known(current.memo, high) == Known::Fails) {
             failsFromHigh = true;
@@ -556,7 +537,7 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
           for (std::size_t at = frame.position + 1; at <= frame.rest; ++at)
             remember(tried.memo, at, Known::Fails);
         } else if (tried.operation == Operation::LazyLoop) {
-          for (std::size_t at = frame.position; program.contains(tried.set, text.classAt(at)) &&
+          for (std::size_t at = frame.position; sets.contains(tried.set, text.classAt(at)) &&
                                                 known(tried.memo, at + 1) != Known::Fails;
                ++at)
             remember(tried.memo, at + 1, Known::Fails);
@@ -568,7 +549,7 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
         advanced = choose(index, frame.rest);
       } else if (tried.operation == Operation::GreedyLoop) {
         advanced = leaveFromLast(index, frame.rest, frame.position);
-      } else if (frame.rest > 0 && program.contains(tried.set, text.classAt(position))) {
+      } else if (frame.rest > 0 && sets.contains(tried.set, text.classAt(position))) {
         const std::uint32_t rest = frame.rest == unbounded ? unbounded : frame.rest - 1;
         advanced = leaveFromFirst(index, position + 1, rest);
       }

@@ -14,30 +14,42 @@ namespace quillseal::screening {
 
 /// What a match can begin with at some place of a pattern.
 struct Beginning {
-  std::vector<std::uint64_t> classes;  ///< of the first code point, 64 to a word
-  bool anything = false;               ///< may match without a code point: no restriction
-  bool atBoundary = false;             ///< only where \b holds
+  std::uint32_t classes = 0;  ///< of the first code point, an index of the class sets
+  bool anything = false;      ///< may match without a code point: no restriction
+  bool atBoundary = false;    ///< only where \b holds
+
+  bool operator==(const Beginning&) const = default;
 
   /// Whether a match may begin at `position`.
-  [[nodiscard]] bool allows(const ClassifiedText& text, std::size_t position) const {
+  [[nodiscard]] bool allows(const ClassifiedText& text, std::size_t position,
+                            const ClassSets& sets) const {
     if (atBoundary && !text.isWordBoundary(position)) return false;
-    const ClassId id = text.classAt(position);
-    return anything || (classes[id / 64] >> (id % 64) & 1) != 0;
+    return anything || sets.contains(classes, text.classAt(position));
   }
 };
 
 /// A compiled pattern for `Matcher`. Immutable.
 class PatternProgram {
  public:
-  PatternProgram(const Node& pattern, const CharacterClasses& classes);
+  /// Keeps its sets in `sets`.
+  PatternProgram(const Node& pattern, const CharacterClasses& classes, ClassSets& sets);
 
-  /// What every match begins with.
-  [[nodiscard]] const Beginning& beginning() const { return beginnings_[entry_]; }
+  /// A place to start from: the whole pattern, or one of the alternatives it consists of.
+  struct Entry {
+    std::uint32_t instruction = 0;
+    Beginning beginning;
+  };
+  [[nodiscard]] const Entry& whole() const { return entries_.front(); }
+  /// The alternative of that index; the whole when the pattern is no choice of alternatives.
+  [[nodiscard]] const Entry& alternative(std::size_t index) const {
+    return entries_.size() == 1 ? entries_.front() : entries_[index + 1];
+  }
 
-  /// For each of the first code points of every match, the classes it can be of; ends early where
-  /// a match may end or the number of code points is not certain. At most `longest` elements.
+  /// For each of the first code points of every match from `entry`, the classes it can be of; ends
+  /// early where a match may end or the number of code points is not certain. At most `longest`
+  /// elements.
   [[nodiscard]] std::vector<std::vector<std::uint64_t>> leadingClasses(
-      std::size_t longest, const CharacterClasses& classes) const;
+      const Entry& entry, std::size_t longest, const CharacterClasses& classes, const ClassSets& sets) const;
 
   [[nodiscard]] std::size_t memoryUse() const;
 
@@ -72,27 +84,17 @@ class PatternProgram {
     std::uint32_t min = 0;
     std::uint32_t max = 0;
     std::uint32_t memo = 0;       ///< row in the memory of failures
-    std::uint32_t beginning = 0;  ///< of what follows a loop
+    std::uint32_t beginning = 0;  ///< of what follows a loop, in `beginnings_`
   };
 
-  struct Target {
-    std::uint32_t instruction;
-    std::uint32_t beginning;
-  };
 
   class Compiler;
 
-  [[nodiscard]] bool contains(std::uint32_t set, ClassId id) const {
-    return (sets_[set * setWords_ + id / 64] >> (id % 64) & 1) != 0;
-  }
-
   std::vector<Instruction> code_;
   std::vector<Letter> letters_;
-  std::vector<Target> targets_;
+  std::vector<Entry> targets_;
   std::vector<Beginning> beginnings_;
-  std::vector<std::uint64_t> sets_;
-  std::size_t setWords_ = 0;
-  std::uint32_t entry_ = 0;  ///< the beginning of the whole
+  std::vector<Entry> entries_;  ///< the whole, then its alternatives
   std::uint32_t memoRows_ = 0;
 };
 
@@ -109,14 +111,15 @@ using BacktrackStack = std::vector<BacktrackFrame>;
 /// (instruction, position) cannot lead to a match, so that no text takes more than linear time.
 class Matcher {
  public:
-  /// All three must outlive the matcher.
-  Matcher(const PatternProgram& program, const CharacterClasses& classes,
+  /// All four must outlive the matcher.
+  Matcher(const PatternProgram& program, const CharacterClasses& classes, const ClassSets& sets,
           const ClassifiedText& text)
-      : program_(&program), classes_(&classes), text_(&text) {}
+      : program_(&program), classes_(&classes), sets_(&sets), text_(&text) {}
 
-  /// Where the preferred match that starts at `start` ends, if there is one. Cheapest when called
-  /// with mostly ascending starts.
-  [[nodiscard]] std::optional<std::size_t> matchAt(std::size_t start, BacktrackStack& stack);
+  /// Where the preferred match that starts at `start` ends, if there is one; `entry` belongs to the
+  /// program. Cheapest when called with mostly ascending starts.
+  [[nodiscard]] std::optional<std::size_t> matchAt(const PatternProgram::Entry& entry,
+                                                   std::size_t start, BacktrackStack& stack);
 
   /// Steps taken so far.
   [[nodiscard]] std::uint64_t steps() const { return steps_; }
@@ -139,6 +142,7 @@ class Matcher {
 
   const PatternProgram* program_;
   const CharacterClasses* classes_;
+  const ClassSets* sets_;
   const ClassifiedText* text_;
   std::uint64_t steps_ = 0;
   bool remembering_ = false;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <span>
 
 namespace quillseal::screening {
 namespace {
@@ -11,8 +12,11 @@ using Literals = std::vector<Literal>;
 /// One way through a pattern: nodes that follow one another.
 using Way = std::vector<const Node*>;
 
-constexpr std::size_t mostLiterals = 64;
-constexpr std::size_t mostWays = 16;
+constexpr std::size_t mostLiterals = 128;
+/// Neighbouring texts are joined to longer literals while these are at most so many.
+constexpr std::size_t mostJoined = 16;
+/// Ways that are told apart within one alternative of a pattern.
+constexpr std::size_t mostWays = 2;
 constexpr std::size_t mostLinks = 4;
 
 std::uint32_t plus(std::uint32_t a, std::uint32_t b) {
@@ -52,33 +56,44 @@ class Analysis {
 
   RequiredLiterals of(const Node& pattern) {
     RequiredLiterals required;
-    for (const Way& way : waysThrough(pattern)) {
-      if (!way.empty() && way.front()->kind == Node::Kind::TextStart) {
-        required.atTextStart = true;
-        continue;
+    const bool isChoice = pattern.kind == Node::Kind::Alternatives;
+    const auto alternatives = isChoice ? std::span(pattern.children) : std::span(&pattern, 1);
+    for (std::size_t i = 0; i < alternatives.size(); ++i) {
+      std::vector<LiteralChain> chains;
+      bool suffice = true;
+      for (const Way& way : waysThrough(alternatives[i], mostWays)) {
+        if (!way.empty() && way.front()->kind == Node::Kind::TextStart) {
+          required.atTextStart = true;
+          continue;
+        }
+        chains.push_back(chainOf(way));
+        chains.back().alternative = i;
+        suffice = suffice && !chains.back().links.empty();
       }
-      LiteralChain chain = chainOf(way);
-      if (chain.links.empty()) return {};
-      required.chains.push_back(std::move(chain));
+      if (suffice) {
+        required.chains.insert(required.chains.end(), chains.begin(), chains.end());
+      } else {
+        required.withoutLiterals.push_back(i);
+      }
     }
-    required.suffice = true;
     return required;
   }
 
  private:
-  std::vector<Way> waysThrough(const Node& node) {
+  /// The ways through `node`; all of its alternatives where that makes at most `most`.
+  std::vector<Way> waysThrough(const Node& node, std::size_t most) {
     if (node.kind == Node::Kind::Alternatives && !literalsOf(node)) {
       std::vector<Way> ways;
       for (const Node& child : node.children) {
-        std::vector<Way> more = waysThrough(child);
+        std::vector<Way> more = waysThrough(child, most);
         ways.insert(ways.end(), more.begin(), more.end());
       }
-      if (ways.size() <= mostWays) return ways;
+      if (ways.size() <= most) return ways;
     } else if (node.kind == Node::Kind::Sequence) {
       std::vector<Way> ways{{}};
       for (const Node& child : node.children) {
-        std::vector<Way> tails = waysThrough(child);
-        if (ways.size() * tails.size() > mostWays) tails = {{&child}};
+        std::vector<Way> tails = waysThrough(child, most);
+        if (ways.size() * tails.size() > most) tails = {{&child}};
         std::vector<Way> longer;
         for (const Way& way : ways) {
           for (const Way& tail : tails) {
@@ -105,7 +120,7 @@ class Analysis {
         }
         std::sort(literals.begin(), literals.end());
         literals.erase(std::unique(literals.begin(), literals.end()), literals.end());
-        if (literals.empty() || literals.size() > mostLiterals / 8) return std::nullopt;
+        if (literals.empty() || literals.size() > 8) return std::nullopt;
         return literals;
       }
       case Node::Kind::FoldedText: {
@@ -118,7 +133,7 @@ class Analysis {
         literals.emplace_back();
         for (const Node& child : node.children) {
           const auto more = literalsOf(child);
-          if (!more || more->size() * literals.size() > mostLiterals) return std::nullopt;
+          if (!more || more->size() * literals.size() > mostJoined) return std::nullopt;
           literals = product(literals, *more);
         }
         return literals;
@@ -265,7 +280,7 @@ class Analysis {
         continue;
       }
       if (const auto literals = literalsOf(*node)) {
-        if (literals->size() * current.size() > mostLiterals) {
+        if (!isOpen() && literals->size() * current.size() > mostJoined) {
           if (!flush()) return chain;
           current = *literals;
         } else {

@@ -19,18 +19,18 @@ struct LiteralLink {
 
 /// What every match of one way through a pattern contains, in order. Never empty.
 struct LiteralChain {
+  std::size_t alternative = 0;  ///< of the pattern, when it is a choice
   std::uint32_t lead = 0;  ///< steps at most, from the start of the match to that of the first link
   std::vector<std::uint64_t> leadClasses;  ///< all that may stand there, 64 to a word
   std::vector<LiteralLink> links;
 };
 
-/// How the starts of a pattern's matches can be found.
+/// How the starts of a pattern's matches can be found: every match starts before a completed chain,
+/// or, with `atTextStart`, at the start of the text, or is one of an alternative without literals.
 struct RequiredLiterals {
-  /// Every match starts before a completed chain, or, with `atTextStart`, at the start of the text.
   std::vector<LiteralChain> chains;
   bool atTextStart = false;
-  /// False when some way through the pattern needs no literal; then the other members say nothing.
-  bool suffice = false;
+  std::vector<std::size_t> withoutLiterals;  ///< alternatives that need no literal
 };
 
 [[nodiscard]] RequiredLiterals requiredLiterals(const Node& pattern, const SetTable& sets,

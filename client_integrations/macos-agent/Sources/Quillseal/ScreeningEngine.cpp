@@ -31,19 +31,21 @@ struct Search {
 /// One link of one chain, as the literal index reports it.
 struct LinkHit {
   std::uint32_t chain = 0;
-  std::uint16_t link = 0;
-  std::uint16_t length = 0;  ///< letters of the literal
+  std::uint32_t reach = 0;     ///< its place among the links of all chains
+  std::uint32_t distance = 0;  ///< steps at most, from the end of the link before
+  std::uint8_t length = 0;     ///< letters of the literal
+  bool isFirst = false;
+  bool isLast = false;
   bool boundaryBefore = false;
   bool boundaryAfter = false;
 };
 
 struct Chain {
   std::uint32_t search = 0;
+  std::uint32_t alternative = 0;
   std::uint32_t lead = 0;
-  std::uint32_t firstReach = 0;  ///< index of its first link among all links
-  std::uint32_t links = 0;
   std::uint32_t span = 0;  ///< steps at most, from the end of the first link to that of the last
-  std::vector<std::uint64_t> leadClasses;
+  std::uint32_t leadClasses = 0;
 };
 
 /// How the matches of a pattern follow from its searches.
@@ -105,19 +107,22 @@ class ScreeningEngine::Tables {
     for (const Part& part : parts)
       collectAlphabet(part.node, sets, alphabet);
     classes.emplace(sets, std::move(alphabet));
+    classSets.emplace(classes->count());
     for (const Part& part : parts)
       addSearch(part.node, part.anyMatch, sets);
     index.finish(*classes);
+    classSets->finish();
     leadingInitial.resize(leadingWords);
     for (auto& masks : leadingMasks)
       masks.resize(leadingWords);
   }
 
   std::optional<CharacterClasses> classes;
+  std::optional<ClassSets> classSets;
   LiteralIndex index;
   std::vector<LinkHit> hits;  ///< the values of `index`
   std::vector<Chain> chains;
-  std::vector<std::uint32_t> reachDistances;  ///< of all links
+  std::size_t linkCount = 0;
   std::vector<Search> searches;
   std::vector<Form> forms;
   std::vector<PatternProblem> problems;
@@ -125,15 +130,16 @@ class ScreeningEngine::Tables {
   // Searches without a required literal: a bit for each of their leading classes, all advanced at
   // once by a shift (Baeza-Yates and Gonnet, "A new approach to text searching", 1992).
   struct LeadingEnd {
-    std::uint32_t search;
-    std::uint32_t length;
+    std::uint32_t search = 0;
+    std::uint32_t alternative = 0;
+    std::uint32_t length = 0;
   };
   std::size_t leadingWords = 0;
   std::vector<std::uint64_t> leadingInitial;
   std::vector<std::vector<std::uint64_t>> leadingMasks;  ///< by class
   std::vector<std::uint64_t> leadingFinal;
   std::vector<LeadingEnd> leadingEnds;    ///< by bit
-  std::vector<std::uint32_t> maybeEmpty;  ///< searches that may match without a code point
+  std::vector<LeadingEnd> maybeEmpty;   ///< those that may match without a code point
 
  private:
   // A look-ahead over [\s\S]* says that its body is found somewhere from here on. At the start of
@@ -174,12 +180,11 @@ class ScreeningEngine::Tables {
 
   void addSearch(const Node& node, bool anyMatch, const SetTable& sets) {
     const auto search = static_cast<std::uint32_t>(searches.size());
-    searches.push_back({.program = PatternProgram(node, *classes), .anyMatch = anyMatch});
+    searches.push_back(
+        {.program = PatternProgram(node, *classes, *classSets), .anyMatch = anyMatch});
     const RequiredLiterals required = requiredLiterals(node, sets, *classes);
-    if (!required.suffice) {
-      addLeading(search);
-      return;
-    }
+    for (const std::size_t alternative : required.withoutLiterals)
+      addLeading(search, static_cast<std::uint32_t>(alternative));
     searches.back().atTextStart = required.atTextStart;
     for (const LiteralChain& chain : required.chains)
       addChain(search, chain);
@@ -188,34 +193,46 @@ class ScreeningEngine::Tables {
   void addChain(std::uint32_t search, const LiteralChain& chain) {
     const auto number = static_cast<std::uint32_t>(chains.size());
     Chain added{.search = search,
+                .alternative = static_cast<std::uint32_t>(chain.alternative),
                 .lead = chain.lead,
-                .firstReach = static_cast<std::uint32_t>(reachDistances.size()),
-                .links = static_cast<std::uint32_t>(chain.links.size()),
-                .leadClasses = chain.leadClasses};
-    for (std::uint32_t i = 0; i < added.links; ++i) {
+                .leadClasses = classSets->intern(chain.leadClasses)};
+    for (std::size_t i = 0; i < chain.links.size(); ++i) {
       const LiteralLink& link = chain.links[i];
-      reachDistances.push_back(link.distance);
       if (i > 0) added.span += link.distance;
+      LinkHit hit{.chain = number,
+                  .reach = static_cast<std::uint32_t>(linkCount++),
+                  .distance = link.distance,
+                  .isFirst = i == 0,
+                  .isLast = i + 1 == chain.links.size(),
+                  .boundaryBefore = link.boundaryBefore,
+                  .boundaryAfter = link.boundaryAfter};
       for (const auto& literal : link.literals) {
-        index.add(literal, static_cast<std::uint32_t>(hits.size()));
-        hits.push_back({.chain = number,
-                        .link = static_cast<std::uint16_t>(i),
-                        .length = static_cast<std::uint16_t>(literal.size()),
-                        .boundaryBefore = link.boundaryBefore,
-                        .boundaryAfter = link.boundaryAfter});
+        if (literal.size() > std::numeric_limits<std::uint8_t>::max())
+          throw PatternError("literal too long");
+        hit.length = static_cast<std::uint8_t>(literal.size());
+        index.add(literal, hitNumber(hit));
       }
     }
     chains.push_back(std::move(added));
   }
 
-  void addLeading(std::uint32_t search) {
+  /// Literals of one length in one link share a number.
+  std::uint32_t hitNumber(const LinkHit& hit) {
+    for (std::size_t i = hits.size(); i-- > 0 && hits[i].reach == hit.reach;)
+      if (hits[i].length == hit.length) return static_cast<std::uint32_t>(i);
+    hits.push_back(hit);
+    return static_cast<std::uint32_t>(hits.size() - 1);
+  }
+
+  void addLeading(std::uint32_t search, std::uint32_t alternative) {
     const PatternProgram& program = searches[search].program;
-    auto leading = program.leadingClasses(longestLeading, *classes);
+    const PatternProgram::Entry& entry = program.alternative(alternative);
+    auto leading = program.leadingClasses(entry, longestLeading, *classes, *classSets);
     if (leading.empty()) {
-      leading.push_back(program.beginning().classes);
-      if (program.beginning().anything) {
+      leading.push_back(classSets->bits(entry.beginning.classes));
+      if (entry.beginning.anything) {
         std::fill(leading.front().begin(), leading.front().end(), ~std::uint64_t{0});
-        maybeEmpty.push_back(search);
+        maybeEmpty.push_back({.search = search, .alternative = alternative});
       }
     }
     std::size_t bit = leadingEnds.size();
@@ -235,7 +252,9 @@ class ScreeningEngine::Tables {
     }
     --bit;
     leadingFinal[bit / 64] |= std::uint64_t{1} << (bit % 64);
-    leadingEnds[bit] = {.search = search, .length = static_cast<std::uint32_t>(leading.size())};
+    leadingEnds[bit] = {.search = search,
+                        .alternative = alternative,
+                        .length = static_cast<std::uint32_t>(leading.size())};
   }
 };
 
@@ -246,24 +265,23 @@ class ScreeningEngine::Screening {
  public:
   Screening(const Tables& tables, std::string_view text)
       : tables_(tables), text_(tables.classes->classify(text)) {
-    outcomes_.reserve(tables.searches.size());
-    for (const Search& search : tables.searches)
-      outcomes_.emplace_back(Matcher(search.program, *tables.classes, text_));
+    outcomes_.resize(tables.searches.size());
     progress_.resize(tables.chains.size());
-    reached_.assign(tables.reachDistances.size(), never);
+    reached_.assign(tables.linkCount, never);
   }
 
   void run() {
     for (std::uint32_t search = 0; search < tables_.searches.size(); ++search)
-      if (tables_.searches[search].atTextStart) tryAt(search, 0);
+      if (tables_.searches[search].atTextStart)
+        tryAt(search, 0, tables_.searches[search].program.whole(), 0);
     if (tables_.leadingWords > 0) {
       pass<true>();
     } else {
       pass<false>();
     }
     // An empty match behind the last code point has no code point to be found by.
-    for (const std::uint32_t search : tables_.maybeEmpty)
-      tryAt(search, static_cast<std::uint32_t>(text_.size()));
+    for (const Tables::LeadingEnd& end : tables_.maybeEmpty)
+      tryAlternative(end.search, end.alternative, static_cast<std::uint32_t>(text_.size()));
   }
 
   [[nodiscard]] std::vector<PatternMatch> matches() const {
@@ -293,8 +311,8 @@ class ScreeningEngine::Screening {
 
   [[nodiscard]] std::uint64_t steps() const {
     std::uint64_t steps = steps_ + text_.size();
-    for (const Outcome& outcome : outcomes_)
-      steps += outcome.matcher.steps();
+    for (const Matcher& matcher : matchers_)
+      steps += matcher.steps();
     return steps;
   }
 
@@ -304,9 +322,9 @@ class ScreeningEngine::Screening {
   static constexpr std::int64_t never = std::numeric_limits<std::int64_t>::min() / 2;
 
   struct Outcome {
-    explicit Outcome(Matcher theMatcher) : matcher(std::move(theMatcher)) {}
-    Matcher matcher;
-    std::uint32_t start = none;  ///< of the leftmost match so far
+    std::uint32_t matcher = none;  ///< made when it is first needed
+    std::uint32_t start = none;    ///< of the leftmost match so far
+    std::uint32_t alternative = 0;
     std::uint32_t end = 0;
     bool failed = false;
   };
@@ -330,7 +348,7 @@ class ScreeningEngine::Screening {
   void pass() {
     const LiteralIndex& index = tables_.index;
     std::vector<std::uint64_t> leading(tables_.leadingWords);
-    LiteralIndex::State state = LiteralIndex::root;
+    LiteralIndex::State state = index.root();
     bool afterSpace = false;
     const std::size_t size = text_.size();
     for (std::size_t i = 0; i < size; ++i) {
@@ -355,32 +373,29 @@ class ScreeningEngine::Screening {
            ends &= ends - 1) {
         const auto bit = word * 64 + static_cast<std::size_t>(std::countr_zero(ends));
         const auto& end = tables_.leadingEnds[bit];
-        tryAt(end.search, static_cast<std::uint32_t>(position + 1 - end.length));
+        tryAlternative(end.search, end.alternative,
+                       static_cast<std::uint32_t>(position + 1 - end.length));
       }
     }
   }
 
   void onHit(const LinkHit& hit, std::size_t end) {
     ++steps_;
+    if (!hit.isFirst && step_ - reached_[hit.reach - 1] > hit.distance) return;
     if (hit.boundaryAfter && !text_.isWordBoundary(end)) return;
-    const Chain& chain = tables_.chains[hit.chain];
-    std::int64_t* reached = &reached_[chain.firstReach + hit.link];
-    if (hit.link > 0 && step_ - reached[-1] > tables_.reachDistances[chain.firstReach + hit.link])
-      return;
     std::uint32_t start = 0;
-    if (hit.boundaryBefore || hit.link == 0) {
+    if (hit.boundaryBefore || hit.isFirst) {
       start = startOf(hit.length, end);
       if (hit.boundaryBefore && !text_.isWordBoundary(start)) return;
-      if (hit.link == 0 && chain.lead == 0 && start >= outcomes_[chain.search].start) return;
     }
-    *reached = step_;
-    if (hit.link == 0) {
-      if (chain.links == 1) {
+    reached_[hit.reach] = step_;
+    if (hit.isFirst) {
+      if (hit.isLast) {
         tryBefore(hit.chain, start);
       } else {
         wait(hit.chain, start);
       }
-    } else if (hit.link + 1U == chain.links) {
+    } else if (hit.isLast) {
       complete(hit.chain);
     }
   }
@@ -433,7 +448,7 @@ class ScreeningEngine::Screening {
   void tryBefore(std::uint32_t chainNumber, std::uint32_t literalStart) {
     const Chain& chain = tables_.chains[chainNumber];
     if (chain.lead == 0) {
-      tryAt(chain.search, literalStart);
+      tryAlternative(chain.search, chain.alternative, literalStart);
       return;
     }
     Progress& progress = progress_[chainNumber];
@@ -442,8 +457,7 @@ class ScreeningEngine::Screening {
     const bool mayStop = progress.triedLow != none &&
                          (literalStart >= progress.triedHigh || chain.lead == unbounded);
     const auto isLead = [&](std::uint32_t at) {
-      const ClassId id = text_.classAt(at);
-      return (chain.leadClasses[id / 64] >> (id % 64) & 1) != 0;
+      return tables_.classSets->contains(chain.leadClasses, text_.classAt(at));
     };
     const auto isSpace = [&](std::uint32_t at) {
       return tables_.classes->isSpace(text_.classAt(at));
@@ -457,34 +471,55 @@ class ScreeningEngine::Screening {
       metEarlierWalk = mayStop && low >= progress.triedLow && low <= progress.triedHigh;
     }
     for (std::uint32_t at = low; at <= literalStart; ++at)
-      tryAt(chain.search, at);
+      tryAlternative(chain.search, chain.alternative, at);
     progress.triedLow = metEarlierWalk ? progress.triedLow : low;
     progress.triedHigh = literalStart;
   }
 
-  void tryAt(std::uint32_t search, std::uint32_t start) {
+  void tryAlternative(std::uint32_t search, std::uint32_t alternative, std::uint32_t start) {
+    tryAt(search, alternative, tables_.searches[search].program.alternative(alternative), start);
+  }
+
+  // The first match is the leftmost, and of those at one start that of the first alternative.
+  void tryAt(std::uint32_t search, std::uint32_t alternative, const PatternProgram::Entry& entry,
+             std::uint32_t start) {
     Outcome& outcome = outcomes_[search];
     ++steps_;
-    if (start >= outcome.start) return;
-    if (!tables_.searches[search].program.beginning().allows(text_, start)) return;
+    if (start > outcome.start || (start == outcome.start && alternative >= outcome.alternative))
+      return;
+    if (!entry.beginning.allows(text_, start, *tables_.classSets)) return;
     try {
-      const auto end = outcome.matcher.matchAt(start, stack_);
+      const auto end = matcherOf(search).matchAt(entry, start, stack_);
       if (!end) return;
-      outcome.start = start;
       outcome.end = static_cast<std::uint32_t>(*end);
     } catch (const std::bad_alloc&) {
       stack_.clear();
-      outcome.start = start;
       outcome.end = static_cast<std::uint32_t>(text_.size());
       outcome.failed = true;
     }
-    // Nothing lies before 0, so nothing more is tried.
-    if (tables_.searches[search].anyMatch) outcome.start = 0;
+    outcome.start = start;
+    outcome.alternative = alternative;
+    if (tables_.searches[search].anyMatch) {
+      // Nothing comes before this, so nothing more is tried.
+      outcome.start = 0;
+      outcome.alternative = 0;
+    }
+  }
+
+  Matcher& matcherOf(std::uint32_t search) {
+    Outcome& outcome = outcomes_[search];
+    if (outcome.matcher == none) {
+      outcome.matcher = static_cast<std::uint32_t>(matchers_.size());
+      matchers_.emplace_back(tables_.searches[search].program, *tables_.classes,
+                             *tables_.classSets, text_);
+    }
+    return matchers_[outcome.matcher];
   }
 
   const Tables& tables_;
   ClassifiedText text_;
   std::vector<Outcome> outcomes_;
+  std::vector<Matcher> matchers_;
   std::vector<Progress> progress_;
   std::vector<std::int64_t> reached_;
   std::vector<Waiting> waiting_;
@@ -534,15 +569,13 @@ std::vector<PatternMatch> ScreeningEngine::firstMatches(std::string_view text,
 std::size_t ScreeningEngine::memoryUse() const {
   const Tables& tables = *tables_;
   std::size_t bytes = sizeof(tables) + tables.classes->memoryUse() + tables.index.memoryUse() +
-                      tables.hits.capacity() * sizeof(LinkHit) +
-                      tables.reachDistances.capacity() * sizeof(std::uint32_t) +
+                      tables.classSets->memoryUse() + tables.hits.capacity() * sizeof(LinkHit) +
+                      tables.chains.capacity() * sizeof(Chain) +
                       tables.leadingMasks.capacity() *
                           (sizeof(std::vector<std::uint64_t>) + tables.leadingWords * 8) +
                       tables.forms.capacity() * sizeof(Form);
   for (const Search& search : tables.searches)
     bytes += search.program.memoryUse();
-  for (const Chain& chain : tables.chains)
-    bytes += sizeof(chain) + chain.leadClasses.capacity() * sizeof(std::uint64_t);
   return bytes;
 }
 

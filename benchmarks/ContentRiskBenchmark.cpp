@@ -1,0 +1,143 @@
+#include "Quillseal/ContentRisk.h"
+
+#include <algorithm>
+#include <random>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+
+#include "IcuReference.h"
+#include "Quillseal/ContentRules.h"
+#include "Quillseal/UnicodeText.h"
+
+namespace quillseal {
+namespace {
+
+constexpr std::string_view mail =
+    "Dear Ms Whitcombe, thank you for the visit on Tuesday. We agreed that the second draft of the "
+    "lease goes to your office by 14 March, that the deposit stays as it was, and that the garden "
+    "is shared with the neighbours. If anything in this is not as you remember it, please write to "
+    "me before the end of the week so that I can correct it. ";
+
+constexpr std::string_view ordinaryWords =
+    "the of and to in a is that it was for on are with as they at be this from have or by one had "
+    "not but what all were when we there can an your which their said if do will each about how up "
+    "out them then she many some so these would other into has more her two like him see time could "
+    "no make than first been its who now people my made over did down only way find use may water "
+    "long little very after words called just where most know morning garden letter window winter "
+    "river meeting report teacher village summer question answer number evening music history";
+
+constexpr std::string_view triggerWords =
+    "account payment invoice transfer please verify confirm your bank details urgent wire funds "
+    "send money click here password security update immediately refund gift card approve "
+    "authorise release balance amount due today customer service support call number subscription "
+    "renewal delivery parcel customs fee investment guaranteed profit wallet bitcoin address login "
+    "suspended limited access expires within hours attached document signature contract offer free "
+    "prize winner claim tax office police officer lawyer beneficiary transaction confidential "
+    "deposit loan interest approved regards thanks director payroll salary change account number";
+
+constexpr std::string_view cjkAndEmoji =
+    "会議は火曜日に延期されました。来週の予定を確認してください😀👍🏽。我们明天上午在图书馆见面，"
+    "请带上第三章的草稿👩🏽‍💻🇯🇵！다음 주 화요일에 도서관에서 만나요 🎉 그때 다시 이야기합시다. ";
+
+std::vector<std::string_view> split(std::string_view words) {
+  std::vector<std::string_view> list;
+  for (std::size_t start = 0; start < words.size();) {
+    const std::size_t end = std::min(words.find(' ', start), words.size());
+    list.push_back(words.substr(start, end - start));
+    start = end + 1;
+  }
+  return list;
+}
+
+/// Sentences of words drawn from `words`, of at least `characters` ASCII characters.
+std::string sentences(std::string_view words, std::size_t characters) {
+  const auto list = split(words);
+  std::mt19937 random(7);
+  std::string text;
+  while (text.size() < characters) {
+    const std::size_t length = 6 + random() % 14;
+    for (std::size_t i = 0; i < length; ++i) {
+      std::string word(list[random() % list.size()]);
+      if (i == 0) word[0] = static_cast<char>(word[0] - 'a' + 'A');
+      text += (i == 0 ? "" : " ") + word;
+    }
+    text += random() % 6 == 0 ? ".\n\n" : ". ";
+  }
+  return text.substr(0, characters);
+}
+
+std::string repeated(std::string_view unit, std::size_t size) {
+  std::string text;
+  while (text.size() < size)
+    text += unit;
+  return text;
+}
+
+std::string charactersOf(std::string_view seed, std::size_t characters) {
+  return std::string(unicode::firstCharacters(repeated(seed, characters * 4), characters));
+}
+
+void screen(benchmark::State& state, const std::string& text) {
+  ContentRisk::prepare();
+  for (auto _ : state)
+    benchmark::DoNotOptimize(ContentRisk::evaluate(text));
+}
+
+/// One search by ICU for each rule, without those that look ahead over the whole text: with them,
+/// the loop does not end on the longer texts.
+void plainLoop(benchmark::State& state, const std::string& text) {
+  std::vector<screening::Pattern> patterns = ContentRisk::patterns();
+  for (std::size_t i = ContentRules::all.size(); i-- > 0;)
+    if (patterns[i].expression.find("[\\s\\S]*") != std::string_view::npos)
+      patterns.erase(patterns.begin() + static_cast<std::ptrdiff_t>(i));
+  const testing::IcuReference loop(patterns, testing::IcuReference::noTimeLimit);
+  for (auto _ : state)
+    benchmark::DoNotOptimize(loop.firstMatches(text));
+}
+
+void build(benchmark::State& state) {
+  const auto patterns = ContentRisk::patterns();
+  std::size_t bytes = 0;
+  for (auto _ : state)
+    bytes = screening::ScreeningEngine(patterns).memoryUse();
+  state.counters["table_bytes"] = static_cast<double>(bytes);
+}
+
+[[maybe_unused]] const bool registered = [] {
+  const std::pair<std::string, std::string> besideTheLoop[] = {
+      {"mail_60_words", std::string(mail)},
+      {"english_1000_words", sentences(ordinaryWords, 5500)},
+      {"english_200k_characters", sentences(ordinaryWords, 200'000)},
+      {"business_200k_characters", sentences(triggerWords, 200'000)},
+      {"cjk_emoji_200k_characters", charactersOf(cjkAndEmoji, 200'000)},
+  };
+  for (const auto& [name, text] : besideTheLoop) {
+    benchmark::RegisterBenchmark(("screen/" + name).c_str(), screen, text);
+    benchmark::RegisterBenchmark(("plain_icu_loop/" + name).c_str(), plainLoop, text);
+  }
+  // On these the plain loop takes from minutes to for ever.
+  std::string joined = "a";
+  for (int i = 0; i < 2'000'000; ++i)
+    joined += "\u200D";
+  const std::pair<std::string, std::string> alone[] = {
+      {"english_20k_characters", sentences(ordinaryWords, 20'000)},
+      {"blanks_200k", std::string(199'999, ' ') + '#'},
+      {"line_breaks_200k", std::string(199'999, '\n') + '#'},
+      {"generic_approval_200k", repeated("i am it's ab ", 199'990) + '#'},
+      {"word_characters_200k", std::string(200'000, 'a')},
+      {"digits_200k", std::string(200'000, '4')},
+      {"one_cluster_2M_units", joined},
+  };
+  for (const auto& [name, text] : alone)
+    benchmark::RegisterBenchmark(("screen/" + name).c_str(), screen, text);
+  benchmark::RegisterBenchmark("build_tables", build);
+  return true;
+}();
+
+}  // namespace
+}  // namespace quillseal

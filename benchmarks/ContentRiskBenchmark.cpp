@@ -1,5 +1,3 @@
-#include "Quillseal/ContentRisk.h"
-
 #include <algorithm>
 #include <random>
 #include <span>
@@ -11,6 +9,7 @@
 #include <benchmark/benchmark.h>
 
 #include "IcuReference.h"
+#include "Quillseal/ContentRisk.h"
 #include "Quillseal/ContentRules.h"
 #include "Quillseal/UnicodeText.h"
 
@@ -26,7 +25,8 @@ constexpr std::string_view mail =
 constexpr std::string_view ordinaryWords =
     "the of and to in a is that it was for on are with as they at be this from have or by one had "
     "not but what all were when we there can an your which their said if do will each about how up "
-    "out them then she many some so these would other into has more her two like him see time could "
+    "out them then she many some so these would other into has more her two like him see time "
+    "could "
     "no make than first been its who now people my made over did down only way find use may water "
     "long little very after words called just where most know morning garden letter window winter "
     "river meeting report teacher village summer question answer number evening music history";
@@ -41,8 +41,10 @@ constexpr std::string_view triggerWords =
     "deposit loan interest approved regards thanks director payroll salary change account number";
 
 constexpr std::string_view cjkAndEmoji =
-    "会議は火曜日に延期されました。来週の予定を確認してください😀👍🏽。我们明天上午在图书馆见面，"
-    "请带上第三章的草稿👩🏽‍💻🇯🇵！다음 주 화요일에 도서관에서 만나요 🎉 그때 다시 이야기합시다. ";
+    "会議は火曜日に延期されました。来週の予定を確認してください😀👍🏽。我们明天上午在图书馆见面"
+    "，"
+    "请带上第三章的草稿👩🏽‍💻🇯🇵！다음 주 화요일에 도서관에서 만나요 🎉 그때 다시 "
+    "이야기합시다. ";
 
 std::vector<std::string_view> split(std::string_view words) {
   std::vector<std::string_view> list;

@@ -117,7 +117,7 @@ class CharacterClasses {
     carriageReturn = 32,
   };
 
-  static constexpr std::size_t pageSize = 256;
+  static constexpr std::size_t pageSize = 64;
   std::vector<char32_t> alphabet_;
   std::vector<std::vector<Letter>> foldings_;
   std::vector<std::vector<ClassId>> classesWith_;

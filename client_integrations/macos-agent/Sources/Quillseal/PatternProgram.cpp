@@ -1,6 +1,7 @@
 #include "Quillseal/PatternProgram.h"
 
 #include <algorithm>
+#include <limits>
 #include <set>
 
 namespace quillseal::screening {
@@ -44,7 +45,7 @@ class PatternProgram::Compiler {
       Instruction& instruction = program_.code_[i];
       if (instruction.operation == Operation::GreedyLoop ||
           instruction.operation == Operation::LazyLoop)
-        instruction.beginning = keep(beginningAt(static_cast<std::uint32_t>(i + 1)));
+        instruction.first = keep(beginningAt(static_cast<std::uint32_t>(i + 1)));
     }
     program_.entries_.push_back({.instruction = 0, .beginning = beginningAt(0)});
     if (pattern.kind == Node::Kind::Alternatives)
@@ -71,7 +72,7 @@ class PatternProgram::Compiler {
       case Node::Kind::FoldedText:
         add({.operation = Operation::FoldedText,
              .first = static_cast<std::uint32_t>(program_.letters_.size()),
-             .length = static_cast<std::uint32_t>(node.text.size())});
+             .length = counted(node.text.size())});
         for (const char32_t c : node.text)
           program_.letters_.push_back(classes_.letterOf(c));
         break;
@@ -129,8 +130,8 @@ class PatternProgram::Compiler {
     program_.targets_.resize(first + targets);
     return add({.operation = Operation::Choice,
                 .first = first,
-                .length = static_cast<std::uint32_t>(targets),
-                .memo = program_.memoRows_++});
+                .length = counted(targets),
+                .memo = memoRows(1)});
   }
 
   void emitRepetition(const Node& node) {
@@ -162,10 +163,20 @@ class PatternProgram::Compiler {
   void addLoop(Operation operation, const Node& body, std::uint32_t min, std::uint32_t max) {
     add({.operation = operation,
          .set = setOf(body.set),
-         .min = min,
+         .min = counted(min),
          .max = max,
-         .memo = program_.memoRows_});
-    program_.memoRows_ += 2;
+         .memo = memoRows(2)});
+  }
+
+  static std::uint16_t counted(std::size_t count) {
+    if (count > std::numeric_limits<std::uint16_t>::max()) throw PatternError("pattern too long");
+    return static_cast<std::uint16_t>(count);
+  }
+
+  std::uint16_t memoRows(std::size_t count) {
+    const std::uint16_t first = program_.memoRows_;
+    program_.memoRows_ = counted(first + count);
+    return first;
   }
 
   std::uint32_t& targetOf(std::uint32_t choice, std::uint32_t which) {
@@ -328,9 +339,9 @@ std::vector<ClassBits> PatternProgram::leadingClasses(const Entry& entry, std::s
 
 std::size_t PatternProgram::memoryUse() const {
   return sizeof(*this) + code_.capacity() * sizeof(Instruction) +
-                      letters_.capacity() * sizeof(Letter) +
-                      (targets_.capacity() + entries_.capacity()) * sizeof(Entry) +
-                      beginnings_.capacity() * sizeof(Beginning);
+         letters_.capacity() * sizeof(Letter) +
+         (targets_.capacity() + entries_.capacity()) * sizeof(Entry) +
+         beginnings_.capacity() * sizeof(Beginning);
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -383,7 +394,7 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
   const auto mayLeaveLoop = [&](std::uint32_t index, std::size_t at) {
     const auto& loop = program.code_[index];
     ++steps_;
-    return program.beginnings_[loop.beginning].allows(text, at, sets) &&
+    return program.beginnings_[loop.first].allows(text, at, sets) &&
            !(remembering_ && known(loop.memo + 1, at) == Known::Fails);
   };
   // A greedy loop leaves at the last place between the two from which the rest may match.
@@ -597,7 +608,8 @@ void Matcher::remember(std::uint32_t row, std::size_t position, Known what) {
   const std::size_t page = position / pagePositions;
   if (page >= pages_.size()) pages_.resize(page + 1);
   if (!pages_[page])
-    pages_[page] = std::make_unique<std::uint64_t[]>(2 * program_->memoRows_ * pagePositions / 64);
+    pages_[page] = std::make_unique<std::uint64_t[]>(std::size_t{2} * program_->memoRows_ *
+                                                     pagePositions / 64);
   const std::size_t bit =
       (2 * row + (what == Known::Succeeds ? 1 : 0)) * pagePositions + position % pagePositions;
   pages_[page][bit / 64] |= std::uint64_t{1} << (bit % 64);

@@ -49,7 +49,8 @@ class PatternProgram {
   /// early where a match may end or the number of code points is not certain. At most `longest`
   /// elements.
   [[nodiscard]] std::vector<std::vector<std::uint64_t>> leadingClasses(
-      const Entry& entry, std::size_t longest, const CharacterClasses& classes, const ClassSets& sets) const;
+      const Entry& entry, std::size_t longest, const CharacterClasses& classes,
+      const ClassSets& sets) const;
 
   [[nodiscard]] std::size_t memoryUse() const;
 
@@ -79,14 +80,12 @@ class PatternProgram {
   struct Instruction {
     Operation operation;
     std::uint32_t set = 0;
-    std::uint32_t first = 0;
-    std::uint32_t length = 0;
-    std::uint32_t min = 0;
+    std::uint32_t first = 0;  ///< for a loop: what follows it begins with, in `beginnings_`
+    std::uint16_t length = 0;
+    std::uint16_t min = 0;
     std::uint32_t max = 0;
-    std::uint32_t memo = 0;       ///< row in the memory of failures
-    std::uint32_t beginning = 0;  ///< of what follows a loop, in `beginnings_`
+    std::uint16_t memo = 0;  ///< row in the memory of failures
   };
-
 
   class Compiler;
 
@@ -95,7 +94,7 @@ class PatternProgram {
   std::vector<Entry> targets_;
   std::vector<Beginning> beginnings_;
   std::vector<Entry> entries_;  ///< the whole, then its alternatives
-  std::uint32_t memoRows_ = 0;
+  std::uint16_t memoRows_ = 0;
 };
 
 /// Frames of abandoned alternatives, shared by the matchers of one screening.

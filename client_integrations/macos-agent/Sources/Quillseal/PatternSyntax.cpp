@@ -27,21 +27,6 @@ icu::UnicodeSet setFrom(std::string_view notation, std::uint32_t options = 0) {
   return set;
 }
 
-const icu::UnicodeSet& wordCharacters() {
-  static const icu::UnicodeSet set = setFrom(wordSet);
-  return set;
-}
-
-const icu::UnicodeSet& spaceCharacters() {
-  static const icu::UnicodeSet set = setFrom(spaceSet);
-  return set;
-}
-
-const icu::UnicodeSet& digitCharacters() {
-  static const icu::UnicodeSet set = setFrom(digitSet);
-  return set;
-}
-
 /// Closes `set` over case. Only characters with case matter, which spares ICU the rest of a large
 /// set.
 void closeOverCase(icu::UnicodeSet& set) {
@@ -51,6 +36,49 @@ void closeOverCase(icu::UnicodeSet& set) {
   closed.retainAll(cased);
   closed.closeOver(USET_CASE_INSENSITIVE);
   set.addAll(closed);
+}
+
+/// \w, \s or \d, their complements, and all of these closed over case: made once.
+class PropertySet {
+ public:
+  explicit PropertySet(std::string_view notation) : members_(setFrom(notation)) {
+    others_.addAll(members_).complement();
+    closedMembers_.addAll(members_);
+    closeOverCase(closedMembers_);
+    closedOthers_.addAll(others_);
+    closeOverCase(closedOthers_);
+  }
+
+  [[nodiscard]] const icu::UnicodeSet& get(bool complement, bool closed) const {
+    if (complement) return closed ? closedOthers_ : others_;
+    return closed ? closedMembers_ : members_;
+  }
+
+ private:
+  icu::UnicodeSet members_;
+  icu::UnicodeSet others_;
+  icu::UnicodeSet closedMembers_;
+  icu::UnicodeSet closedOthers_;
+};
+
+/// The set that the letter of an escape stands for; null for any other letter.
+const PropertySet* propertySet(char32_t letter) {
+  static const PropertySet words(wordSet);
+  static const PropertySet spaces(spaceSet);
+  static const PropertySet digits(digitSet);
+  switch (letter) {
+    case U'w':
+    case U'W':
+      return &words;
+    case U's':
+    case U'S':
+      return &spaces;
+    case U'd':
+    case U'D':
+      return &digits;
+    default:
+      return nullptr;
+  }
 }
 
 /// Everything that folds to `folded` by itself: what ICU compares one literal character with.
@@ -349,42 +377,24 @@ class Parser {
     }
   }
 
-  /// \w, \s, \d, \p and their complements.
-  icu::UnicodeSet escapedSet() {
+  /// \w, \s, \d, \p and their complements. Within brackets, case closes over them, too.
+  icu::UnicodeSet escapedSet(bool closed = false) {
     const char32_t c = take();
-    switch (c) {
-      case U'w':
-      case U'W':
-        return complementIf(c == U'W', wordCharacters());
-      case U's':
-      case U'S':
-        return complementIf(c == U'S', spaceCharacters());
-      case U'd':
-      case U'D':
-        return complementIf(c == U'D', digitCharacters());
-      case U'p':
-      case U'P': {
-        const std::size_t end = pattern_.find(U'}', at_);
-        if (end == std::u32string::npos) fail("missing }");
-        std::string notation = c == U'p' ? "[\\p" : "[\\P";
-        for (; at_ <= end; ++at_)
-          notation.push_back(static_cast<char>(pattern_[at_]));
-        const std::uint32_t options = caseInsensitive_ ? std::uint32_t{USET_CASE_INSENSITIVE} : 0;
-        return setFrom(notation + "]", options);
-      }
-      default:
-        fail("this escape is not offered");
-    }
-  }
-
-  static icu::UnicodeSet complementIf(bool negative, icu::UnicodeSet set) {
-    if (negative) set.complement();
-    return set;
+    if (const PropertySet* const set = propertySet(c)) return set->get(c < U'a', closed);
+    if (c != U'p' && c != U'P') fail("this escape is not offered");
+    const std::size_t end = pattern_.find(U'}', at_);
+    if (end == std::u32string::npos) fail("missing }");
+    std::string notation = c == U'p' ? "[\\p" : "[\\P";
+    for (; at_ <= end; ++at_)
+      notation.push_back(static_cast<char>(pattern_[at_]));
+    const std::uint32_t options = caseInsensitive_ ? std::uint32_t{USET_CASE_INSENSITIVE} : 0;
+    return setFrom(notation + "]", options);
   }
 
   /// What follows "[", up to and including "]".
   icu::UnicodeSet setExpression() {
     icu::UnicodeSet set;
+    icu::UnicodeSet properties;
     const bool negative = next(U"^");
     bool first = true;
     while (first || ended() || pattern_[at_] != U']') {
@@ -394,7 +404,7 @@ class Parser {
         fail("nested sets and set operators are not offered");
       const auto low = setCharacter();
       if (!low) {
-        set.addAll(escapedSet());
+        properties.addAll(escapedSet(caseInsensitive_));
         continue;
       }
       if (pattern_.size() > at_ + 1 && pattern_[at_] == U'-' && pattern_[at_ + 1] != U']') {
@@ -408,6 +418,7 @@ class Parser {
     }
     ++at_;
     if (caseInsensitive_) closeOverCase(set);
+    set.addAll(properties);
     if (negative) set.complement();
     set.removeAllStrings();
     return set;

@@ -18,6 +18,8 @@ constexpr std::size_t mostJoined = 16;
 /// Ways that are told apart within one alternative of a pattern.
 constexpr std::size_t mostWays = 2;
 constexpr std::size_t mostLinks = 4;
+/// Letters of a literal that is worth looking for; those beyond ASCII count double.
+constexpr std::size_t leastStrength = 3;
 
 std::uint32_t plus(std::uint32_t a, std::uint32_t b) {
   return a > unbounded - b ? unbounded : a + b;
@@ -66,7 +68,8 @@ class Analysis {
           required.atTextStart = true;
           continue;
         }
-        chains.push_back(chainOf(way));
+        chains.push_back(chainOf(way, Weak::Skipped));
+        if (chains.back().links.empty()) chains.back() = chainOf(way, Weak::Used);
         chains.back().alternative = i;
         suffice = suffice && !chains.back().links.empty();
       }
@@ -80,6 +83,9 @@ class Analysis {
   }
 
  private:
+  /// What becomes of links that are common in any text.
+  enum class Weak : std::uint8_t { Skipped, Used };
+
   /// The ways through `node`; all of its alternatives where that makes at most `most`.
   std::vector<Way> waysThrough(const Node& node, std::size_t most) {
     if (node.kind == Node::Kind::Alternatives && !literalsOf(node)) {
@@ -236,7 +242,16 @@ class Analysis {
     return classes_.isSpace(classes_.classOf(classes_.codePointOf(letter)));
   }
 
-  LiteralChain chainOf(const Way& way) {
+  [[nodiscard]] bool isWeak(const Literals& literals) const {
+    return std::any_of(literals.begin(), literals.end(), [&](const Literal& literal) {
+      std::size_t strength = 0;
+      for (const Letter letter : literal)
+        if (!isSpaceLetter(letter)) strength += classes_.codePointOf(letter) < 0x80 ? 1 : 2;
+      return strength < leastStrength;
+    });
+  }
+
+  LiteralChain chainOf(const Way& way, Weak weak) {
     LiteralChain chain;
     chain.leadClasses.assign(classes_.count() / 64 + 1, 0);
     std::uint32_t gap = 0;
@@ -257,7 +272,7 @@ class Analysis {
     const auto flush = [&] {
       bool goesOn = true;
       if (!isOpen()) {
-        if (isTelling(current)) {
+        if (isTelling(current) && (weak == Weak::Used || !isWeak(current))) {
           link.literals = current;
           goesOn = append(std::move(link), 0);
           gap = 0;
@@ -291,7 +306,8 @@ class Analysis {
         continue;
       }
       if (!flush()) return chain;
-      const auto inner = innerLink(*node);
+      auto inner = innerLink(*node);
+      if (inner && weak == Weak::Skipped && isWeak(inner->link.literals)) inner.reset();
       if (chain.links.empty()) addClasses(*node, chain.leadClasses);
       if (inner) {
         if (!append(inner->link, inner->before)) return chain;
@@ -316,7 +332,7 @@ class Analysis {
         Way way;
         for (const Node& child : node.children)
           way.push_back(&child);
-        const LiteralChain chain = chainOf(way);
+        const LiteralChain chain = chainOf(way, Weak::Used);
         if (chain.links.empty()) return std::nullopt;
         std::size_t best = 0;
         for (std::size_t i = 1; i < chain.links.size(); ++i)

@@ -138,7 +138,7 @@ class ScreeningEngine::Tables {
   std::vector<std::uint64_t> leadingInitial;
   std::vector<std::vector<std::uint64_t>> leadingMasks;  ///< by class
   std::vector<std::uint64_t> leadingFinal;
-  std::vector<LeadingEnd> leadingEnds;    ///< by bit
+  std::vector<LeadingEnd> leadingEnds;  ///< by bit
   std::vector<LeadingEnd> maybeEmpty;   ///< those that may match without a code point
 
  private:
@@ -510,8 +510,8 @@ class ScreeningEngine::Screening {
     Outcome& outcome = outcomes_[search];
     if (outcome.matcher == none) {
       outcome.matcher = static_cast<std::uint32_t>(matchers_.size());
-      matchers_.emplace_back(tables_.searches[search].program, *tables_.classes,
-                             *tables_.classSets, text_);
+      matchers_.emplace_back(tables_.searches[search].program, *tables_.classes, *tables_.classSets,
+                             text_);
     }
     return matchers_[outcome.matcher];
   }

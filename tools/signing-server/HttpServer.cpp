@@ -68,13 +68,13 @@ std::string reasonOf(std::exception_ptr failure) {
 
 class HttpServer::Listener : public httplib::Server {};
 
-HttpServer::HttpServer(Service& service, std::function<void(const std::string&)> log)
+HttpServer::HttpServer(Service& service, const std::function<void(const std::string&)>& log)
     : listener_(std::make_unique<Listener>()) {
   Listener& listener = *listener_;
   const auto handle = [&service](const httplib::Request& received, httplib::Response& response) {
-    Reply reply = service.answer(requestOf(received));
+    const Reply reply = service.answer(requestOf(received));
     response.status = reply.status;
-    response.set_content(std::move(reply.body), reply.contentType.c_str());
+    response.set_content(reply.body, reply.contentType);
   };
   constexpr const char* everyPath = R"([\s\S]*)";
   listener.Get(everyPath, handle).Post(everyPath, handle);

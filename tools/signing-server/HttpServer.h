@@ -20,7 +20,7 @@ class HttpServer {
  public:
   /// `service` outlives the server. `log`, when set, gets one line for each request, from any
   /// thread: never a body, a query or a header.
-  HttpServer(Service& service, std::function<void(const std::string&)> log);
+  HttpServer(Service& service, const std::function<void(const std::string&)>& log);
   ~HttpServer();
   HttpServer(const HttpServer&) = delete;
   HttpServer& operator=(const HttpServer&) = delete;

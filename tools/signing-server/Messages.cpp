@@ -73,7 +73,8 @@ std::string deviceId(const JsonObject& body) {
   const std::string& value = body.string(key);
   const bool isUuid = std::equal(
       value.begin(), value.end(), shape.begin(), shape.end(), [](char character, char place) {
-        return place == '-' ? character == '-' : hexDigits.find(character) != hexDigits.npos;
+        return place == '-' ? character == '-'
+                            : hexDigits.find(character) != std::string_view::npos;
       });
   if (!isUuid) refuse(key, "a UUID");
   return unicode::uppercased(value);

@@ -70,7 +70,7 @@ std::string readableReport(const Inspection& inspection) {
   report += line("Image digest", inspection.imageDigest);
   report += line("Expires", inspection.expires.empty() ? "never valid: the issue date is no date"
                                                        : inspection.expires);
-  report += line("Prompt", inspection.promptSubject);
+  report += line("Prompt", printable(inspection.promptSubject));
   return report;
 }
 

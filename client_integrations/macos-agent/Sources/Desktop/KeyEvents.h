@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <string>
 
 #include "Desktop/Ticket.h"
 
@@ -43,6 +44,10 @@ class KeyEvents {
 
   /// Lets the system show its own request for that permission. Does not wait for the answer.
   virtual void askForTrust() = 0;
+
+  /// What keeps key presses from reaching applications although this program is trusted, such as
+  /// another program's secure input, in words for the log; empty when nothing is known to.
+  [[nodiscard]] virtual std::string obstacle() const { return {}; }
 
   /// Presses and releases the key with exactly these modifiers, then calls `done`. The adapter sees
   /// to it that modifiers which the user still holds (those of the hotkey) do not take part,

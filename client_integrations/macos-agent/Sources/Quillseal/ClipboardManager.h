@@ -1,0 +1,44 @@
+#pragma once
+
+#include <string>
+
+#include "Desktop/Applications.h"
+#include "Desktop/KeyEvents.h"
+#include "Desktop/Log.h"
+#include "Desktop/MainLoop.h"
+#include "Desktop/Pasteboard.h"
+#include "Quillseal/AccessibilityManager.h"
+#include "Quillseal/SignedBlock.h"
+#include "Quillseal/Task.h"
+
+/// Puts the signed block where the text came from.
+namespace quillseal::ClipboardManager {
+
+using SignedBlock::readableDate;
+
+struct Services {
+  desktop::Applications& applications;
+  desktop::KeyEvents& keys;
+  desktop::Log& log;
+  desktop::MainLoop& loop;
+  desktop::Pasteboard& pasteboard;
+};
+
+enum class AutoPaste { no, yes };
+
+struct Injection {
+  std::string signatureId;
+  std::string issuedDate;
+  std::string scope;  ///< the scope that was signed
+  std::string server;
+  AutoPaste autoPaste = AutoPaste::yes;
+};
+
+/// Replaces the clipboard by the signed block and, if asked, brings the source application to the
+/// front and pastes there. When that application has ended, the paste goes to the one in front.
+/// Throws Error, with nothing written and nothing pressed, when the identifier is not safe to build
+/// a link from or the clipboard cannot be taken.
+[[nodiscard]] Task<> injectSignedContent(Services services, Injection injection,
+                                         const CapturedContent& content);
+
+}  // namespace quillseal::ClipboardManager

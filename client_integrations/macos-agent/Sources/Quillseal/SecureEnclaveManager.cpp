@@ -1,0 +1,166 @@
+#include "Quillseal/SecureEnclaveManager.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "Quillseal/Async.h"
+#include "Quillseal/Base64.h"
+
+namespace quillseal {
+namespace {
+
+std::string described(SecureEnclaveError::Case kind, std::string_view message) {
+  switch (kind) {
+    case SecureEnclaveError::Case::keyGenerationFailed:
+      return std::string("Could not create the Secure Enclave signing key: ").append(message);
+    case SecureEnclaveError::Case::signingFailed:
+      return std::string("Secure Enclave signing failed: ").append(message);
+    case SecureEnclaveError::Case::unsupported:
+      return "This Mac has no Secure Enclave, so content cannot be signed in a way that proves a "
+             "person authorized it.";
+    case SecureEnclaveError::Case::keyMissing:
+      return "No Secure Enclave signing key is enrolled. Enrol this Mac in Quillseal Settings.";
+    case SecureEnclaveError::Case::publicKeyExportFailed:
+      break;
+  }
+  return "Could not export the Secure Enclave public key.";
+}
+
+}  // namespace
+
+SecureEnclaveError::SecureEnclaveError(Case kind, std::string_view message)
+    : Error({.domain = "Quillseal.SecureEnclaveError",
+             .code = static_cast<std::int64_t>(kind),
+             .description = described(kind, message)}),
+      kind_(kind) {}
+
+namespace SecureEnclaveManager {
+namespace {
+
+using Case = SecureEnclaveError::Case;
+using Digest = std::array<std::uint8_t, 32>;
+
+constexpr std::string_view missingEntitlementMessage =
+    "this build is not code-signed with an Apple Developer identity, so macOS will not create a "
+    "biometric-protected Secure Enclave key (OSStatus -34018). Quillseal will not sign without "
+    "one, because it could not prove a person was present. A build signed with a Developer ID "
+    "certificate is required.";
+
+/// The platform's words, or `otherwise` when it gave none.
+std::string_view wordsOf(const Error& error, std::string_view otherwise) {
+  const std::string_view words = error.what();
+  return words.empty() ? otherwise : words;
+}
+
+void logFailure(desktop::Log& log, std::string_view act, const Error& error) {
+  log.write(std::string("[sign] key store failed to ")
+                .append(act)
+                .append(": ")
+                .append(error.domain())
+                .append(" ")
+                .append(std::to_string(error.code())));
+}
+
+std::optional<Digest> digestFromHex(std::string_view text) {
+  Digest digest{};
+  const auto bytes = bytesFromHex(text);
+  if (!bytes || bytes->size() != digest.size()) return std::nullopt;
+  std::copy(bytes->begin(), bytes->end(), digest.begin());
+  return digest;
+}
+
+}  // namespace
+
+Task<bool> isAvailable(Services services) {
+  const desktop::KeyStore& store = services.keyStore;
+  return offload(services.loop, [&store] { return store.isAvailable(); });
+}
+
+Task<Key> createKey(Services services) {
+  desktop::KeyStore& store = services.keyStore;
+  desktop::Log& log = services.log;
+  return offload(services.loop, [&store, &log]() -> Key {
+    if (!store.isAvailable()) throw SecureEnclaveError(Case::unsupported);
+    try {
+      return store.create();
+    } catch (const Cancelled&) {
+      throw;
+    } catch (const Error& error) {
+      logFailure(log, "create the key", error);
+      throw SecureEnclaveError(Case::keyGenerationFailed,
+                               error.code() == desktop::KeyStore::missingEntitlement
+                                   ? missingEntitlementMessage
+                                   : wordsOf(error, "unknown error"));
+    }
+  });
+}
+
+Task<Key> loadKey(Services services) {
+  const desktop::KeyStore& store = services.keyStore;
+  return offload(services.loop, [&store]() -> Key {
+    Key key = store.load(std::nullopt);
+    if (!key) throw SecureEnclaveError(Case::keyMissing);
+    return key;
+  });
+}
+
+Task<bool> hasKey(Services services) {
+  const desktop::KeyStore& store = services.keyStore;
+  return offload(services.loop, [&store] { return store.load(std::nullopt) != nullptr; });
+}
+
+Task<std::string> exportPublicKey(Services services, Key key) {
+  return offload(services.loop, [key = std::move(key)] {
+    const auto point = key->publicKey();
+    if (!point) throw SecureEnclaveError(Case::publicKeyExportFailed);
+    return base64(*point);
+  });
+}
+
+Task<std::string> sign(Services services, SigningRequest request) {
+  const std::optional<Digest> digest = digestFromHex(request.textHashHex);
+  if (!digest)
+    throw SecureEnclaveError(Case::signingFailed, "content hash is not a 64-char hex digest");
+  const desktop::KeyStore& store = services.keyStore;
+  desktop::Log& log = services.log;
+  auto work = [&store, &log, digest = *digest, prompt = std::move(request.prompt)] {
+    const Key key = store.load(prompt);
+    if (!key) throw SecureEnclaveError(Case::keyMissing);
+    try {
+      return base64(key->sign(digest));
+    } catch (const Error& error) {
+      logFailure(log, "sign", error);
+      throw SecureEnclaveError(Case::signingFailed,
+                               wordsOf(error, "user cancelled or biometric failed"));
+    }
+  };
+  std::string signature = co_await offload(services.loop, std::move(work));
+  co_return signature;
+}
+
+Task<> deleteKey(Services services) {
+  desktop::KeyStore& store = services.keyStore;
+  return offload(services.loop, [&store] { store.remove(); });
+}
+
+std::optional<std::vector<std::uint8_t>> bytesFromHex(std::string_view text) {
+  const auto valueOf = [](char digit) {
+    if (digit >= '0' && digit <= '9') return digit - '0';
+    if (digit >= 'a' && digit <= 'f') return digit - 'a' + 10;
+    if (digit >= 'A' && digit <= 'F') return digit - 'A' + 10;
+    return -1;
+  };
+  if (text.size() % 2 != 0) return std::nullopt;
+  std::vector<std::uint8_t> bytes;
+  for (std::size_t i = 0; i < text.size(); i += 2) {
+    const int high = valueOf(text[i]), low = valueOf(text[i + 1]);
+    if (high < 0 || low < 0) return std::nullopt;
+    bytes.push_back(static_cast<std::uint8_t>(high * 16 + low));
+  }
+  return bytes;
+}
+
+}  // namespace SecureEnclaveManager
+
+}  // namespace quillseal

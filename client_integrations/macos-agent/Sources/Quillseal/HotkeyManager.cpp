@@ -1,0 +1,24 @@
+#include "Quillseal/HotkeyManager.h"
+
+#include <string>
+
+#include "Desktop/Error.h"
+
+namespace quillseal {
+
+void HotkeyManager::registerHotkey() {
+  using desktop::Modifiers;
+  const desktop::KeyPress combination{
+      .key = desktop::Key::h,
+      .modifiers = Modifiers::command | Modifiers::option | Modifiers::control};
+  try {
+    services_.hotkey.registerHotkey(combination,
+                                    [&coordinator = coordinator_] { coordinator.startSigning(); });
+  } catch (const Error& error) {
+    // A notification: at log-in an alert would stand in the way of somebody who signs by the menu.
+    services_.log.write(std::string("[sign] the hotkey could not be registered: ") + error.what());
+    services_.alerts.notify({.title = "Quillseal’s Hotkey Is Not Available", .body = error.what()});
+  }
+}
+
+}  // namespace quillseal

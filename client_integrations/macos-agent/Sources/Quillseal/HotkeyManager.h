@@ -1,0 +1,31 @@
+#pragma once
+
+#include "Desktop/Alerts.h"
+#include "Desktop/Hotkey.h"
+#include "Desktop/Log.h"
+#include "Quillseal/SigningCoordinator.h"
+
+namespace quillseal {
+
+/// The global hotkey Command-Option-Control-H, which signs the selected text. Main thread.
+class HotkeyManager {
+ public:
+  struct Services {
+    desktop::Alerts& alerts;
+    desktop::Hotkey& hotkey;
+    desktop::Log& log;
+  };
+
+  /// Services and coordinator outlive the process's event loop: the hotkey is never unregistered.
+  HotkeyManager(Services services, SigningCoordinator& coordinator)
+      : services_(services), coordinator_(coordinator) {}
+
+  /// Registers the hotkey; when the desktop refuses, tells the user. Each press starts a run.
+  void registerHotkey();
+
+ private:
+  Services services_;
+  SigningCoordinator& coordinator_;
+};
+
+}  // namespace quillseal

@@ -1,0 +1,86 @@
+#include "Quillseal/MenuBarManager.h"
+
+#include "Quillseal/BuiltInServer.h"
+
+namespace quillseal {
+
+using desktop::MenuItem;
+using desktop::Modifiers;
+
+MenuBarManager::MenuBarManager(const desktop::Desktop& desktop, SigningCoordinator& coordinator)
+    : desktop_(desktop), coordinator_(coordinator) {}
+
+void MenuBarManager::setupMenu() {
+  const auto action = [](std::string title, std::string key, std::function<void()> perform) {
+    return MenuItem{.kind = MenuItem::Kind::action,
+                    .title = std::move(title),
+                    .keyEquivalent = std::move(key),
+                    .keyModifiers = Modifiers::command,
+                    .action = std::move(perform)};
+  };
+  MenuItem sign = action("Sign Selected Text (⌘⌥⌃H)", "h", [this] { signText(); });
+  sign.keyModifiers = Modifiers::command | Modifiers::option | Modifiers::control;
+  const MenuItem separator{.kind = MenuItem::Kind::separator,
+                           .title = {},
+                           .keyEquivalent = {},
+                           .keyModifiers = Modifiers::none,
+                           .action = {}};
+  const MenuItem server{.kind = MenuItem::Kind::label,
+                        .title = serverLine(),
+                        .keyEquivalent = {},
+                        .keyModifiers = Modifiers::none,
+                        .action = {}};
+
+  desktop::StatusMenu menu{.symbol = "shield.fill",
+                           .symbolDescription = "Quill Seal",
+                           .title = " 🛡️ Quillseal",
+                           .items = {sign, separator}};
+  serverItemIndex_ = menu.items.size();
+  menu.items.push_back(server);
+  menu.items.push_back(action("Configure Server...", ",", [this] { configureServer(); }));
+  menu.items.push_back(separator);
+  menu.items.push_back(action("About Quill Seal", "", [this] { showAbout(); }));
+  menu.items.push_back(action("Quit Quill Seal", "q", [this] { quitApp(); }));
+  desktop_.statusItem.show(menu);
+  settingsObserver_ = desktop_.defaults.observe([this] { serverUrlChanged(); });
+}
+
+void MenuBarManager::signText() {
+  coordinator_.startSigning();
+}
+
+void MenuBarManager::configureServer() {
+  if (!settingsWindow_) {
+    settingsWindow_ =
+        desktop_.windows.make({.title = "Quill Seal Server Settings", .width = 440, .height = 200});
+    settingsView_ = std::make_unique<SettingsView>(
+        SettingsView::Services{.defaults = desktop_.defaults,
+                               .keyStore = desktop_.keyStore,
+                               .log = desktop_.log,
+                               .loop = desktop_.loop},
+        coordinator_, *settingsWindow_,
+        builtInServer::apiKey().empty() ? SettingsView::Build::development
+                                        : SettingsView::Build::packaged);
+  }
+  settingsWindow_->bringToFront();
+}
+
+void MenuBarManager::showAbout() {
+  desktop_.program.activate();
+  desktop_.program.showAbout();
+}
+
+void MenuBarManager::quitApp() {
+  desktop_.program.terminate();
+}
+
+void MenuBarManager::serverUrlChanged() {
+  desktop_.statusItem.setItemTitle(serverItemIndex_, serverLine());
+}
+
+std::string MenuBarManager::serverLine() const {
+  const std::string builtIn{builtInServer::url()};
+  return "Server: " + desktop_.defaults.string("ServerURL").value_or(builtIn);
+}
+
+}  // namespace quillseal

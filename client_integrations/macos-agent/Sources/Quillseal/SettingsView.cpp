@@ -1,0 +1,132 @@
+#include "Quillseal/SettingsView.h"
+
+#include <exception>
+#include <utility>
+
+#include "Quillseal/BuiltInServer.h"
+#include "Quillseal/SecureEnclaveManager.h"
+#include "Quillseal/ServerClient.h"
+
+namespace quillseal {
+namespace {
+
+using desktop::FormText;
+using desktop::TextColour;
+using desktop::TextFont;
+
+FormText caption(std::string text, TextColour colour = TextColour::secondary) {
+  return {.text = std::move(text), .font = TextFont::caption, .colour = colour};
+}
+
+FormText callout(std::string text, TextColour colour = TextColour::primary) {
+  return {.text = std::move(text), .font = TextFont::callout, .colour = colour};
+}
+
+}  // namespace
+
+SettingsView::SettingsView(Services services, SigningCoordinator& coordinator,
+                           desktop::Window& window, Build build)
+    : services_(services),
+      coordinator_(coordinator),
+      window_(window),
+      build_(build),
+      defaultsObserver_(services.defaults.observe([this] { render(); })) {
+  render();
+  tasks_.start(readEnrolled());
+}
+
+void SettingsView::render() {
+  window_.render(form());
+}
+
+desktop::Form SettingsView::form() {
+  return {.width = 460, .height = 400, .sections = {serverSection(), machineSection()}};
+}
+
+desktop::FormSection SettingsView::serverSection() {
+  if (build_ == Build::packaged) {
+    FormText url =
+        callout(ServerClient::effectiveServerURL(services_.defaults), TextColour::secondary);
+    url.selectable = true;
+    return {.header = "Server", .rows = {std::move(url)}};
+  }
+  desktop::FormField key = field("Native API Key (from server log)", "APIKey", "");
+  key.masked = true;
+  return {
+      .header = "Server Configuration (development build)",
+      .rows = {field("Server URL", "ServerURL", std::string(builtInServer::url())), std::move(key),
+               caption("This key authorizes the app build. It is not proof of who you are — "
+                       "that comes from the Secure Enclave key below.")}};
+}
+
+desktop::FormField SettingsView::field(std::string label, std::string key, std::string fallback) {
+  std::string value = services_.defaults.string(key).value_or(std::move(fallback));
+  return {.label = std::move(label),
+          .value = std::move(value),
+          .masked = false,
+          .changed = [&defaults = services_.defaults, key = std::move(key)](
+                         const std::string& text) { defaults.setString(key, text); }};
+}
+
+desktop::FormSection SettingsView::machineSection() {
+  desktop::FormSection section{.header = "This Mac", .rows = {}};
+  if (isEnrolled_) {
+    section.rows.emplace_back(desktop::FormStatus{
+        .symbol = "checkmark.seal.fill",
+        .symbolColour = TextColour::green,
+        .text = callout("Enrolled — a signing key exists inside the Secure Enclave.")});
+  } else {
+    section.rows.emplace_back(desktop::FormStatus{
+        .symbol = "exclamationmark.triangle.fill",
+        .symbolColour = TextColour::orange,
+        .text = callout("Not set up yet. This happens automatically the first time you press "
+                        "⌘⌥⌃H — there is nothing to do here.")});
+  }
+  const std::string identity = services_.defaults.string("BoundIdentity").value_or("");
+  section.rows.emplace_back(
+      identity.empty()
+          ? caption("No verified identity is bound to this Mac. Signatures will be shown to "
+                    "readers as \"anonymous human\" — proof that a person signed, but not who. "
+                    "That is not a basis for trusting a payment request.",
+                    TextColour::orange)
+          : caption("Signatures are attributed to " + identity));
+  section.rows.emplace_back(desktop::FormButton{.label = isEnrolling_  ? "Enrolling…"
+                                                         : isEnrolled_ ? "Re-enrol This Mac"
+                                                                       : "Enrol This Mac",
+                                                .enabled = !isEnrolling_,
+                                                .pressed = [this] { enrol(); }});
+  if (isEnrolled_) {
+    section.rows.emplace_back(
+        caption("Re-enrolling creates a NEW key. Signatures already made remain verifiable, but "
+                "this Mac must be re-enrolled on the server."));
+  }
+  std::string advice = services_.keyStore.advice();
+  if (!advice.empty()) section.rows.emplace_back(caption(std::move(advice), TextColour::orange));
+  return section;
+}
+
+void SettingsView::enrol() {
+  if (isEnrolling_) return;
+  isEnrolling_ = true;
+  render();
+  tasks_.start(enrolDevice());
+}
+
+Task<> SettingsView::enrolDevice() {
+  co_await coordinator_.enrolDevice();
+  isEnrolling_ = false;
+  co_await readEnrolled();
+}
+
+Task<> SettingsView::readEnrolled() {
+  try {
+    isEnrolled_ = co_await SecureEnclaveManager::hasKey(
+        {.keyStore = services_.keyStore, .log = services_.log, .loop = services_.loop});
+  } catch (const std::exception& error) {
+    isEnrolled_ = false;
+    services_.log.write(std::string("[sign] the key store cannot be read: ") + error.what());
+  }
+  render();
+}
+
+}  // namespace quillseal

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <string>
+
+#include "Desktop/Defaults.h"
+#include "Desktop/KeyStore.h"
+#include "Desktop/Log.h"
+#include "Desktop/MainLoop.h"
+#include "Desktop/Ticket.h"
+#include "Desktop/Window.h"
+#include "Quillseal/Async.h"
+#include "Quillseal/SigningCoordinator.h"
+#include "Quillseal/Task.h"
+
+namespace quillseal {
+
+/// The content of the settings window: which server is used, whether this machine holds a key, and
+/// a button to enrol it. Draws itself into the window whenever something it shows has changed. Main
+/// thread.
+class SettingsView {
+ public:
+  struct Services {
+    desktop::Defaults& defaults;
+    desktop::KeyStore& keyStore;
+    desktop::Log& log;
+    desktop::MainLoop& loop;
+  };
+
+  /// Users of a development build enter the server; a packaged one brings its own.
+  enum class Build { packaged, development };
+
+  /// All of these outlive the view.
+  SettingsView(Services services, SigningCoordinator& coordinator, desktop::Window& window,
+               Build build);
+
+  /// What the window shows now.
+  [[nodiscard]] desktop::Form form();
+
+ private:
+  void render();
+  void enrol();
+  Task<> enrolDevice();
+  Task<> readEnrolled();
+
+  [[nodiscard]] desktop::FormSection serverSection();
+  [[nodiscard]] desktop::FormSection machineSection();
+  [[nodiscard]] desktop::FormField field(std::string label, std::string key, std::string fallback);
+
+  Services services_;
+  SigningCoordinator& coordinator_;
+  desktop::Window& window_;
+  Build build_;
+  bool isEnrolled_ = false;
+  bool isEnrolling_ = false;
+  desktop::Ticket defaultsObserver_;
+  TaskScope tasks_;  ///< last: the tasks use all of the above
+};
+
+}  // namespace quillseal

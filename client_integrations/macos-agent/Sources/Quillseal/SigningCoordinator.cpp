@@ -1,0 +1,621 @@
+#include "Quillseal/SigningCoordinator.h"
+
+#include <chrono>
+#include <cstddef>
+#include <exception>
+#include <functional>
+#include <utility>
+#include <vector>
+
+#include "Quillseal/AuthManager.h"
+#include "Quillseal/BrowserTabReturn.h"
+#include "Quillseal/ConfirmationText.h"
+#include "Quillseal/ContentRisk.h"
+#include "Quillseal/CryptoManager.h"
+#include "Quillseal/HandoffPage.h"
+#include "Quillseal/SignedBlock.h"
+#include "Quillseal/SigningScope.h"
+#include "Quillseal/UnicodeText.h"
+
+namespace quillseal {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr std::int64_t nonceBytes = 16;
+constexpr const char* commitment = "statement";
+constexpr auto pollInterval = 2s;
+constexpr auto longestWaitForBrowser = 570s;
+constexpr auto tabSwitchTime = 500ms;
+constexpr auto keyMakingPollInterval = 100ms;
+constexpr const char* preferredBrowser = "/Applications/Google Chrome.app";
+constexpr const char* debugCapturePath = "/Library/Logs/Quillseal-signed-text.txt";
+
+namespace setting {
+constexpr std::string_view boundIdentity = "BoundIdentity";
+constexpr std::string_view confirmBeforeSigning = "ConfirmBeforeSigning";
+constexpr std::string_view debugCapture = "QuillsealDebugCapture";
+constexpr std::string_view demoSigning = "DemoSigning";
+constexpr std::string_view signingMode = "SigningMode";
+}  // namespace setting
+
+constexpr std::string_view enclaveWord = "enclave";
+constexpr std::string_view handoffWord = "handoff";
+
+Error quillsealError(std::string description) {
+  return Error({.domain = "Quillseal", .code = 0, .description = std::move(description)});
+}
+
+/// Words for the user, whatever was thrown.
+std::string describe(const std::exception& error) {
+  const std::string words = error.what();
+  if (dynamic_cast<const Error*>(&error) == nullptr)
+    return "Something unexpected went wrong in Quillseal (" + words + "). Nothing was signed.";
+  return words.empty() ? "The system gave no reason." : words;
+}
+
+/// Identifiers from the server are put into links, markup and scripts.
+void requireSafe(const std::string& identifier) {
+  if (SignedBlock::isSafeIdentifier(identifier)) return;
+  throw quillsealError(
+      "The server answered with an identifier that Quillseal cannot use safely, so nothing was put "
+      "on the clipboard. Check the server address in Settings, or ask your provider.");
+}
+
+std::string joinedIds(const std::vector<ContentRisk::Finding>& findings) {
+  std::string ids;
+  for (const ContentRisk::Finding& finding : findings)
+    ids.append(ids.empty() ? "" : ", ").append(finding.id);
+  return ids;
+}
+
+bool isSet(const std::optional<std::string>& text) {
+  return text && !text->empty();
+}
+
+}  // namespace
+
+SigningCoordinator::SigningCoordinator(const desktop::Desktop& desktop)
+    : desktop_(desktop),
+      serverClient_({.defaults = desktop.defaults,
+                     .http = desktop.http,
+                     .machine = desktop.machine,
+                     .wallClock = desktop.wallClock}) {}
+
+void SigningCoordinator::startSigning() {
+  runs_.start(performSigningWorkflow());
+}
+
+// The workflow ------------------------------------------------------------------------------------
+
+Task<> SigningCoordinator::performSigningWorkflow() {
+  std::optional<std::string> failure;
+  try {
+    co_await signSelectedText();
+  } catch (const Cancelled&) {
+    desktop_.log.write("[sign] called off by the user");
+  } catch (const std::exception& error) {
+    failure = describe(error);
+  }
+  if (failure) co_await showAlertOrLog("Signing Error", *std::move(failure));
+}
+
+Task<> SigningCoordinator::signSelectedText() {
+  if (!desktop_.keys.isTrusted()) {
+    desktop_.keys.askForTrust();
+    co_return;
+  }
+  const bool canHoldKey = co_await SecureEnclaveManager::isAvailable(keyServices());
+  if (!canHoldKey) {
+    co_await showAlert("Secure Enclave Required",
+                       SecureEnclaveError(SecureEnclaveError::Case::unsupported).what());
+    co_return;
+  }
+  const SigningMode mode = co_await resolveSigningMode();
+  if (mode == SigningMode::enclave) {
+    const bool isEnrolled = co_await ensureEnrolled();
+    if (!isEnrolled) co_return;
+  }
+
+  const AccessibilityManager::Services captureServices{.applications = desktop_.applications,
+                                                       .keys = desktop_.keys,
+                                                       .log = desktop_.log,
+                                                       .loop = desktop_.loop,
+                                                       .pasteboard = desktop_.pasteboard};
+  const std::optional<CapturedContent> content =
+      co_await AccessibilityManager::captureSelectedContent(captureServices);
+  if (!content) {
+    co_await showAlert("No Text Found",
+                       "Please type or highlight some text in Outlook (or any app) before pressing "
+                       "⌘⌥⌃H.");
+    co_return;
+  }
+  const std::string issued = desktop_.wallClock.today();
+  const std::string text{unicode::trimmed(content->plainText)};
+  const std::string normalized = CryptoManager::normalizeText(text);
+  const std::string textDigest = CryptoManager::sha256Hex(normalized);
+  const std::vector<std::string> imageURLs = CryptoManager::imageURLs(content->htmlContent);
+  const std::string imageDigest = CryptoManager::imageManifestDigest(imageURLs);
+  const std::int64_t wordCount = CryptoManager::countWords(text);
+  desktop_.log.write("[sign] " + std::to_string(imageURLs.size()) +
+                     " image reference(s), manifest " + imageDigest);
+  desktop_.log.write("[sign] " + std::to_string(wordCount) + " words / " +
+                     std::to_string(unicode::characterCount(normalized)) +
+                     " normalized characters / digest " + textDigest);
+  if (desktop_.defaults.boolean(setting::debugCapture)) writeDebugCapture(text);
+
+  const std::string refusal = CryptoManager::signingRefusal(text);
+  if (!refusal.empty()) {
+    co_await showAlert("Not signed — too short", refusal);
+    co_return;
+  }
+  // Screening a very long text takes a while, and the event loop must go on meanwhile.
+  const ContentRisk::Assessment assessment =
+      co_await offload(desktop_.loop, [text] { return ContentRisk::evaluate(text); });
+  if (!assessment.findings.empty()) {
+    desktop_.log.write("[risk] score " + std::to_string(assessment.score) + ", " +
+                       std::to_string(assessment.findings.size()) +
+                       " finding(s): " + joinedIds(assessment.findings));
+  }
+  if (assessment.isBlocked) {
+    co_await showAlert(ContentRisk::refusalTitle(assessment), ContentRisk::explanation(assessment));
+    co_return;
+  }
+  if (assessment.shouldWarn) {
+    const bool signAnyway = co_await asksToSignAnyway(ContentRisk::warning(assessment));
+    if (!signAnyway) co_return;
+  }
+
+  const std::string expires =
+      CryptoManager::expiryDateFor({.issued = issued, .wordCount = wordCount});
+  const std::string nonce = CryptoManager::randomHex(nonceBytes);
+  if (expires.empty()) {
+    throw quillsealError("Today’s date reads “" + issued +
+                         "” on this computer, from which no expiry can be computed. Set the "
+                         "calendar to Gregorian in the system’s settings and try again.");
+  }
+  if (nonce.empty()) {
+    throw quillsealError(
+        "The system’s random source failed, so nothing was signed. Restart the computer and try "
+        "again.");
+  }
+
+  Delivery delivery{.signatureId = {}, .issued = issued, .scope = content->scope};
+  if (mode == SigningMode::handoff) {
+    HandoffContent page{.text = text,
+                        .html = content->htmlContent,
+                        .textDigest = textDigest,
+                        .issued = issued,
+                        .scope = content->scope,
+                        .imageDigest = imageDigest,
+                        .sourceBundleID = {}};
+    if (content->sourceApplication)
+      page.sourceBundleID = content->sourceApplication->bundleIdentifier;
+    std::optional<HandoffResult> handoff = co_await signViaBrowser(std::move(page));
+    if (!handoff) co_return;
+    delivery.signatureId = handoff->signatureId;
+    co_await deliverFromBrowser(std::move(delivery), *std::move(handoff), *content);
+    co_return;
+  }
+
+  Confirmable confirmable{.text = text, .scope = content->scope, .issued = issued};
+  const std::optional<std::string> scope = co_await scopeForSigning(std::move(confirmable));
+  if (!scope) co_return;
+  delivery.scope = *scope;
+  if (mode == SigningMode::enclave) {
+    Signable signable{.textDigest = textDigest,
+                      .issued = issued,
+                      .scope = *scope,
+                      .imageDigest = imageDigest,
+                      .subject = promptSubject(text),
+                      .expires = expires,
+                      .commitment = commitment,
+                      .nonce = nonce};
+    delivery.signatureId = co_await signWithRecovery(std::move(signable));
+  } else {
+    const AuthManager::Services presence{.loop = desktop_.loop, .presence = desktop_.presence};
+    desktop::Prompt prompt{.reason = "Sign " + promptSubject(text), .medium = *scope};
+    const bool isPresent = co_await AuthManager::authenticate(presence, std::move(prompt));
+    if (!isPresent) co_return;
+    std::string method = co_await AuthManager::biometryMethod(presence);
+    ServerClient::DemoContent record{.textDigest = textDigest,
+                                     .issued = issued,
+                                     .scope = *scope,
+                                     .imageDigest = imageDigest,
+                                     .method = std::move(method),
+                                     .expires = expires,
+                                     .commitment = commitment,
+                                     .nonce = nonce};
+    delivery.signatureId = co_await serverClient_.signDemo(std::move(record));
+    desktop_.log.write("[demo] simulated signature " + delivery.signatureId +
+                       " — not evidence of anything");
+  }
+  requireSafe(delivery.signatureId);
+  co_await deliver(std::move(delivery), *content);
+}
+
+Task<> SigningCoordinator::deliver(Delivery delivery, const CapturedContent& content) {
+  co_await inject(std::move(delivery), content, ClipboardManager::AutoPaste::yes);
+  try {
+    desktop_.alerts.notify(
+        {.title = "✅ Signature Generated!", .body = "Signed content copied and injected."});
+  } catch (const Error& error) {
+    desktop_.log.write(std::string("[inject] no notification could be shown: ") + error.what());
+  }
+}
+
+Task<> SigningCoordinator::inject(Delivery delivery, const CapturedContent& content,
+                                  ClipboardManager::AutoPaste autoPaste) {
+  const ClipboardManager::Services services{.applications = desktop_.applications,
+                                            .keys = desktop_.keys,
+                                            .log = desktop_.log,
+                                            .loop = desktop_.loop,
+                                            .pasteboard = desktop_.pasteboard};
+  ClipboardManager::Injection injection{.signatureId = std::move(delivery.signatureId),
+                                        .issuedDate = std::move(delivery.issued),
+                                        .scope = std::move(delivery.scope),
+                                        .server = serverClient_.effectiveServerURL(),
+                                        .autoPaste = autoPaste};
+  co_await ClipboardManager::injectSignedContent(services, std::move(injection), content);
+}
+
+Task<> SigningCoordinator::showAlert(std::string title, std::string body) {
+  const desktop::Alert alert{.title = std::move(title), .body = std::move(body)};
+  co_await completionOf<void>([this, &alert](std::function<void()> dismissed) {
+    return desktop_.alerts.show(alert, std::move(dismissed));
+  });
+}
+
+/// For tasks that must not throw.
+Task<> SigningCoordinator::showAlertOrLog(std::string title, std::string body) {
+  try {
+    co_await showAlert(title, body);
+  } catch (const std::exception& error) {
+    desktop_.log.write("[sign] no alert could be shown for: " + title + ": " + body + " (" +
+                       error.what() + ")");
+  }
+}
+
+Task<bool> SigningCoordinator::asksToSignAnyway(std::string warning) {
+  const desktop::Question question{.title = "Sign this anyway?",
+                                   .body = std::move(warning),
+                                   .style = desktop::AlertStyle::warning,
+                                   .confirm = "Sign Anyway",
+                                   .cancel = "Cancel"};
+  const auto answer = co_await completionOf<desktop::Answer>(
+      [this, &question](std::function<void(desktop::Answer)> answered) {
+        return desktop_.alerts.ask(question, std::move(answered));
+      });
+  co_return answer == desktop::Answer::confirmed;
+}
+
+void SigningCoordinator::writeDebugCapture(std::string_view text) {
+  const std::string path = desktop_.files.homeDirectory() + debugCapturePath;
+  // Nobody depends on this file; a failure is not worth a word.
+  static_cast<void>(desktop_.files.replace(path, text));
+  desktop_.log.write("[sign] captured text written to " + path);
+}
+
+// Modes, enrolment and recovery -------------------------------------------------------------------
+
+Task<SigningMode> SigningCoordinator::resolveSigningMode() {
+  if (desktop_.defaults.boolean(setting::demoSigning)) co_return SigningMode::demo;
+  const bool hasKey = co_await SecureEnclaveManager::hasKey(keyServices());
+  if (hasKey) co_return SigningMode::enclave;
+  const Turn turn = co_await turnToMakeKey();
+  // Another run may have decided while this one waited.
+  if (const auto remembered = desktop_.defaults.string(setting::signingMode))
+    co_return *remembered == handoffWord ? SigningMode::handoff : SigningMode::enclave;
+
+  try {
+    co_await SecureEnclaveManager::createKey(keyServices());
+    desktop_.defaults.setString(setting::signingMode, enclaveWord);
+    co_return SigningMode::enclave;
+  } catch (const Cancelled&) {
+    throw;
+  } catch (const std::exception& error) {
+    desktop_.log.write(std::string("[sign] signing in the browser from now on: ") + error.what());
+  }
+  co_await SecureEnclaveManager::deleteKey(keyServices());
+  desktop_.defaults.setString(setting::signingMode, handoffWord);
+  co_return SigningMode::handoff;
+}
+
+Task<bool> SigningCoordinator::ensureEnrolled() {
+  Turn turn = co_await turnToMakeKey();
+  const bool hasKey = co_await SecureEnclaveManager::hasKey(keyServices());
+  if (hasKey) co_return true;
+  if (serverClient_.effectiveAPIKey().empty()) {
+    turn.reset();
+    co_await showAlert("Quillseal Is Not Configured",
+                       "This build has no server API key. Open Settings and enter the server URL "
+                       "and native API key, or install a packaged build from your provider.");
+    co_return false;
+  }
+  std::string failure;
+  try {
+    co_await makeAndRegisterKey();
+    co_return true;
+  } catch (const Cancelled&) {
+    throw;
+  } catch (const std::exception& error) {
+    failure = describe(error);
+  }
+  turn.reset();
+  co_await showAlert("Could Not Set Up This Mac", "Quillseal could not register this Mac with " +
+                                                      serverClient_.effectiveServerURL() + ".\n\n" +
+                                                      failure);
+  co_return false;
+}
+
+Task<> SigningCoordinator::enrolDevice() {
+  std::optional<std::string> failure;
+  try {
+    const Turn turn = co_await turnToMakeKey();
+    co_await makeAndRegisterKey();
+  } catch (const Cancelled&) {
+    co_return;
+  } catch (const std::exception& error) {
+    failure = describe(error);
+  }
+  if (failure) {
+    co_await showAlertOrLog("Enrolment Failed", *std::move(failure));
+    co_return;
+  }
+  const std::string identity = boundIdentity();
+  std::string body =
+      "A signing key was created inside the Secure Enclave. It cannot be copied off this Mac, and "
+      "every signature requires Touch ID.\n\n";
+  body += identity.empty()
+              ? "No verified identity is bound to this Mac yet, so signatures will be reported as "
+                "\"anonymous human\" — proof that a person signed, but not who."
+              : "Signatures will be attributed to " + identity + ".";
+  co_await showAlertOrLog("✅ This Mac Is Enrolled", std::move(body));
+}
+
+/// Two tasks that made a key side by side could leave one on this machine and the other's public
+/// half on the server, so each waits for its turn, and has it until it lets go.
+Task<SigningCoordinator::Turn> SigningCoordinator::turnToMakeKey() {
+  while (isMakingKey_)
+    co_await sleep(desktop_.loop, keyMakingPollInterval);
+  isMakingKey_ = true;
+  co_return Turn(&isMakingKey_);
+}
+
+/// For who has the turn. Leaves no key behind when it fails, so that the next run starts clean.
+Task<> SigningCoordinator::makeAndRegisterKey() {
+  std::exception_ptr failure;
+  try {
+    co_await SecureEnclaveManager::createKey(keyServices());
+    co_await registerDevice();
+    co_return;
+  } catch (const Cancelled&) {
+    throw;
+  } catch (...) {
+    failure = std::current_exception();
+  }
+  co_await SecureEnclaveManager::deleteKey(keyServices());
+  std::rethrow_exception(failure);
+}
+
+/// Tells the server the key there is, and stores the identity that it binds to it.
+Task<> SigningCoordinator::registerDevice() {
+  const SecureEnclaveManager::Key key = co_await SecureEnclaveManager::loadKey(keyServices());
+  std::string publicKey = co_await SecureEnclaveManager::exportPublicKey(keyServices(), key);
+  ServerClient::EnrolRequest request{.deviceId = serverClient_.hardwareUUID(),
+                                     .publicKey = std::move(publicKey),
+                                     .apiKey = serverClient_.effectiveAPIKey()};
+  const ServerClient::EnrolResponse response = co_await serverClient_.enrol(std::move(request));
+  desktop_.defaults.setString(setting::boundIdentity, response.identity.value_or(""));
+}
+
+Task<std::string> SigningCoordinator::signOnce(Signable signable) {
+  const std::string identity = boundIdentity();
+  const std::string signerKey = serverClient_.hardwareUUID();
+  SecureEnclaveManager::SigningRequest request{
+      .textHashHex = CryptoManager::canonicalV3({.textDigest = signable.textDigest,
+                                                 .issued = signable.issued,
+                                                 .scope = signable.scope,
+                                                 .snapshotDigest = {},
+                                                 .identity = identity,
+                                                 .signerKey = signerKey,
+                                                 .expires = signable.expires,
+                                                 .nonce = signable.nonce,
+                                                 .commitment = signable.commitment}),
+      .prompt = {.reason = "Sign " + signable.subject + " as " +
+                           (identity.empty() ? "an anonymous human" : identity),
+                 .medium = signable.scope}};
+  std::string signature = co_await SecureEnclaveManager::sign(keyServices(), std::move(request));
+  ServerClient::Content content{.textDigest = std::move(signable.textDigest),
+                                .snapshotDigest = {},
+                                .issued = std::move(signable.issued),
+                                .scope = std::move(signable.scope),
+                                .imageDigest = std::move(signable.imageDigest),
+                                .expires = std::move(signable.expires),
+                                .commitment = std::move(signable.commitment),
+                                .nonce = std::move(signable.nonce),
+                                .enclaveSignature = std::move(signature)};
+  std::string signatureId = co_await serverClient_.signContent(std::move(content));
+  co_return signatureId;
+}
+
+Task<std::string> SigningCoordinator::signWithRecovery(Signable signable) {
+  std::optional<std::string> signatureId;
+  try {
+    signatureId = co_await signOnce(signable);
+  } catch (const Error& error) {
+    if (!isDeviceNotEnrolled(error.what())) throw;
+  }
+  if (!signatureId) {
+    co_await registerDevice();
+    signatureId = co_await signOnce(std::move(signable));
+  }
+  co_return *std::move(signatureId);
+}
+
+bool SigningCoordinator::isDeviceNotEnrolled(std::string_view description) {
+  const std::string lower = unicode::lowercased(description);
+  return lower.find("not enrolled") != std::string::npos ||
+         lower.find("not registered") != std::string::npos;
+}
+
+std::string SigningCoordinator::boundIdentity() const {
+  return unicode::wellFormed(desktop_.defaults.string(setting::boundIdentity).value_or(""));
+}
+
+SecureEnclaveManager::Services SigningCoordinator::keyServices() const {
+  return {.keyStore = desktop_.keyStore, .log = desktop_.log, .loop = desktop_.loop};
+}
+
+// Confirmation ------------------------------------------------------------------------------------
+
+Task<std::optional<std::string>> SigningCoordinator::scopeForSigning(Confirmable confirmable) {
+  if (!desktop_.defaults.boolean(setting::confirmBeforeSigning))
+    co_return std::move(confirmable.scope);
+  const std::optional<Confirmed> confirmed = co_await confirmSigning(std::move(confirmable));
+  if (!confirmed) co_return std::nullopt;
+  co_return SigningScope::composeScope(
+      {.base = confirmed->medium, .recipient = confirmed->recipient});
+}
+
+Task<std::optional<SigningCoordinator::Confirmed>> SigningCoordinator::confirmSigning(
+    Confirmable confirmable) {
+  const std::string identity = boundIdentity();
+  const desktop::ConfirmationForm form{
+      .question = {.title = "Sign this content?",
+                   .body = confirmationText(
+                       {.text = confirmable.text,
+                        .scope = confirmable.scope,
+                        .issued = confirmable.issued,
+                        .identity = identity,
+                        .isDemo = desktop_.defaults.boolean(setting::demoSigning)}),
+                   .style = desktop::AlertStyle::informational,
+                   .confirm = "Sign with Touch ID",
+                   .cancel = "Cancel"},
+      .choices = {SigningScope::mediumOptions.begin(), SigningScope::mediumOptions.end()},
+      .selectedChoice = SigningScope::defaultMediumIndex(confirmable.scope),
+      .fieldPlaceholder = "Recipient, e.g. ada@example.com (optional)",
+      .note =
+          "The medium and recipient are covered by your fingerprint, so this signature does "
+          "not verify cleanly if the text is moved elsewhere."};
+  using Entry = std::optional<desktop::ConfirmationEntry>;
+  const Entry entry =
+      co_await completionOf<Entry>([this, &form](std::function<void(Entry)> answered) {
+        return desktop_.alerts.confirm(form, std::move(answered));
+      });
+  if (!entry) co_return std::nullopt;
+  const std::string recipient = unicode::wellFormed(entry->field);
+  co_return Confirmed{.medium = unicode::wellFormed(entry->choice),
+                      .recipient = std::string(unicode::trimmed(recipient))};
+}
+
+// The browser -------------------------------------------------------------------------------------
+
+Task<std::optional<SigningCoordinator::HandoffResult>> SigningCoordinator::signViaBrowser(
+    HandoffContent content) {
+  ServerClient::HandoffCreateRequest request{.textDigest = std::move(content.textDigest),
+                                             .snapshotDigest = {},
+                                             .issued = std::move(content.issued),
+                                             .scope = std::move(content.scope),
+                                             .imageDigest = std::move(content.imageDigest),
+                                             .apiKey = serverClient_.effectiveAPIKey()};
+  const ServerClient::HandoffCreateResponse created =
+      co_await serverClient_.createHandoff(std::move(request));
+  requireSafe(created.handoffId);
+
+  const HandoffPage::Fragment fragment = HandoffPage::fragmentFor(content.text, content.html);
+  if (fragment.omittedHtmlLength) {
+    desktop_.log.write(
+        "[handoff] formatting omitted: " + std::to_string(*fragment.omittedHtmlLength) +
+        " encoded chars exceeds the " + std::to_string(HandoffPage::longestEncodedHtml) +
+        " limit for a URL fragment; showing plain text instead");
+  }
+  desktop_.log.write(
+      "[handoff] fragment " + std::to_string(fragment.text.size()) + " chars (text " +
+      std::to_string(unicode::characterCount(content.text)) + ", html " +
+      (isSet(content.html) ? std::to_string(unicode::characterCount(*content.html)) : "none") +
+      ")");
+  const std::string url = created.url + "#" + fragment.text;
+  if (!HandoffPage::isOpenable(url)) throw quillsealError("Could not build the signing URL.");
+
+  HandoffResult result{.signatureId = {},
+                       .signingBrowserBundleID = {},
+                       .sourceTabID = {},
+                       .handoffMarker = "/handoff?h=" + created.handoffId};
+  result.sourceTabID =
+      co_await BrowserTabReturn::currentTabID(desktop_.browserTabs, content.sourceBundleID);
+  // It goes into a script.
+  if (result.sourceTabID && !SignedBlock::isSafeIdentifier(*result.sourceTabID))
+    result.sourceTabID.reset();
+  result.signingBrowserBundleID = co_await openInSigningBrowser(url);
+
+  const auto deadline = desktop_.loop.now() + longestWaitForBrowser;
+  while (desktop_.loop.now() < deadline) {
+    co_await sleep(desktop_.loop, pollInterval);
+    ServerClient::HandoffPollRequest poll{.handoffId = created.handoffId,
+                                          .apiKey = serverClient_.effectiveAPIKey()};
+    ServerClient::HandoffPollResponse answer = co_await serverClient_.pollHandoff(std::move(poll));
+    if (answer.status == "complete" && isSet(answer.signatureId)) {
+      requireSafe(*answer.signatureId);
+      result.signatureId = *std::move(answer.signatureId);
+      co_return result;
+    }
+    if (answer.status == "expired") {
+      co_await showAlert("Signing Request Expired",
+                         "The request timed out before it was signed. Nothing was signed. Select "
+                         "your text and press ⌘⌥⌃H again.");
+      co_return std::nullopt;
+    }
+  }
+  co_await showAlert("Still Waiting",
+                     "Quillseal stopped waiting for the browser. If you did sign, the signature "
+                     "exists and is valid — press ⌘⌥⌃H again to insert a fresh one, or copy the "
+                     "link from the browser tab.");
+  co_return std::nullopt;
+}
+
+Task<std::optional<std::string>> SigningCoordinator::openInSigningBrowser(std::string url) {
+  std::optional<desktop::InstalledApplication> browser =
+      desktop_.applications.applicationAt(preferredBrowser);
+  if (!browser) browser = desktop_.applications.defaultApplicationFor(url);
+  if (!browser) {
+    desktop_.applications.open(url);
+    co_return std::nullopt;
+  }
+  const auto failure = co_await completionOf<std::optional<Error>>(
+      [this, &url, &browser](std::function<void(std::optional<Error>)> done) {
+        return desktop_.applications.open(url, *browser, std::move(done));
+      });
+  if (failure) desktop_.applications.open(url);
+  co_return browser->bundleIdentifier;
+}
+
+Task<> SigningCoordinator::deliverFromBrowser(Delivery delivery, HandoffResult handoff,
+                                              const CapturedContent& content) {
+  const auto& source = content.sourceApplication;
+  const bool isSigningBrowser = source && source->bundleIdentifier &&
+                                source->bundleIdentifier == handoff.signingBrowserBundleID;
+  if (isSigningBrowser) {
+    BrowserTabReturn::SigningTab tab{.bundleID = handoff.signingBrowserBundleID,
+                                     .urlContains = std::move(handoff.handoffMarker),
+                                     .tabID = std::move(handoff.sourceTabID)};
+    const bool isRestored =
+        co_await BrowserTabReturn::closeSigningTabAndRestore(desktop_.browserTabs, std::move(tab));
+    if (!isRestored) {
+      co_await inject(std::move(delivery), content, ClipboardManager::AutoPaste::no);
+      const std::string name = isSet(source->name) ? *source->name : "your browser";
+      co_await showAlert(
+          "Signed — Paste It Into Your Message",
+          "The signed content is on your clipboard.\n\nSwitch back to your message in " + name +
+              ", select the text you signed, and press ⌘V.\n\nQuillseal cannot paste it for you "
+              "here: the signing page opened in the same browser, so it would land in the wrong "
+              "tab.");
+      co_return;
+    }
+    co_await sleep(desktop_.loop, tabSwitchTime);
+    desktop_.log.write("[tabreturn] signing tab closed, original tab restored");
+  }
+  co_await deliver(std::move(delivery), content);
+}
+
+}  // namespace quillseal

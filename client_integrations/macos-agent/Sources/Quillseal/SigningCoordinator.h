@@ -1,0 +1,154 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "Desktop/Desktop.h"
+#include "Quillseal/AccessibilityManager.h"
+#include "Quillseal/Async.h"
+#include "Quillseal/ClipboardManager.h"
+#include "Quillseal/SecureEnclaveManager.h"
+#include "Quillseal/ServerClient.h"
+#include "Quillseal/Task.h"
+
+namespace quillseal {
+
+/// How a signature is obtained.
+enum class SigningMode {
+  enclave,  ///< the device key signs, the server records it
+  handoff,  ///< the user signs on a page of the server in the browser
+  demo,     ///< a presence check and a demonstration record; no real signature
+};
+
+/// Turns a press of the hotkey into a signed block on the clipboard. Main thread; there is one.
+///
+/// Several runs may be under way, for a second press while the first waits for the user: each keeps
+/// to itself what it captured and which tab it came from. Only the making of a key is done by one
+/// task at a time. Destroying the coordinator ends all runs where they wait.
+class SigningCoordinator {
+ public:
+  /// The services outlive the coordinator.
+  explicit SigningCoordinator(const desktop::Desktop& desktop);
+
+  /// Starts a run of `performSigningWorkflow`.
+  void startSigning();
+
+  /// One run: capture, refusals, screening, signature, delivery. Tells the user whatever they must
+  /// know and never throws.
+  [[nodiscard]] Task<> performSigningWorkflow();
+
+  /// How this machine signs. On the first run it tries to make a key, and remembers the outcome.
+  /// Throws Cancelled when the person called that off.
+  [[nodiscard]] Task<SigningMode> resolveSigningMode();
+
+  /// Whether there is a device key; makes and registers one when there is none. Tells the user of
+  /// failures.
+  [[nodiscard]] Task<bool> ensureEnrolled();
+
+  /// Makes a new key and registers it, and tells the user how that went. Never throws.
+  [[nodiscard]] Task<> enrolDevice();
+
+  /// What a signature by the device key binds, and the subject that its prompt names.
+  struct Signable {
+    std::string textDigest;
+    std::string issued;
+    std::string scope;
+    std::string imageDigest;
+    std::string subject;
+    std::string expires;
+    std::string commitment;
+    std::string nonce;
+  };
+
+  /// Signs with the device key and registers the signature; gives its identifier.
+  [[nodiscard]] Task<std::string> signOnce(Signable signable);
+
+  /// The same; when the server does not know the device, registers its key anew and tries again,
+  /// once.
+  [[nodiscard]] Task<std::string> signWithRecovery(Signable signable);
+
+  /// Whether an error's description says that the server does not know this device.
+  [[nodiscard]] static bool isDeviceNotEnrolled(std::string_view description);
+
+  struct Confirmable {
+    std::string text;
+    std::string scope;
+    std::string issued;
+  };
+
+  struct Confirmed {
+    std::string medium;
+    std::string recipient;
+  };
+
+  /// The scope to sign: the captured one, or what the user makes of it in the confirmation dialog
+  /// if they asked for that. Nothing when they cancelled.
+  [[nodiscard]] Task<std::optional<std::string>> scopeForSigning(Confirmable confirmable);
+
+  [[nodiscard]] Task<std::optional<Confirmed>> confirmSigning(Confirmable confirmable);
+
+  struct HandoffContent {
+    std::string text;
+    std::optional<std::string> html;
+    std::string textDigest;
+    std::string issued;
+    std::string scope;
+    std::string imageDigest;
+    std::optional<std::string> sourceBundleID;  ///< of the application the text came from
+  };
+
+  /// A signature made in the browser, and what leads back from there.
+  struct HandoffResult {
+    std::string signatureId;
+    std::optional<std::string> signingBrowserBundleID;
+    std::optional<std::string> sourceTabID;  ///< the tab that was in front before
+    std::string handoffMarker;               ///< the signing tab's URL contains it
+  };
+
+  /// Opens the signing page and waits for the signature. Nothing when the wait ended without one;
+  /// the user has then been told.
+  [[nodiscard]] Task<std::optional<HandoffResult>> signViaBrowser(HandoffContent content);
+
+  /// Opens `url` in the preferred browser, or else in the default one, and gives that browser's
+  /// bundle identifier.
+  [[nodiscard]] Task<std::optional<std::string>> openInSigningBrowser(std::string url);
+
+ private:
+  struct Delivery {
+    std::string signatureId;
+    std::string issued;
+    std::string scope;
+  };
+
+  Task<> signSelectedText();
+  Task<> deliver(Delivery delivery, const CapturedContent& content);
+  Task<> deliverFromBrowser(Delivery delivery, HandoffResult handoff,
+                            const CapturedContent& content);
+  Task<> inject(Delivery delivery, const CapturedContent& content,
+                ClipboardManager::AutoPaste autoPaste);
+  Task<> showAlert(std::string title, std::string body);
+  Task<> showAlertOrLog(std::string title, std::string body);
+  Task<bool> asksToSignAnyway(std::string warning);
+
+  struct EndTurn {
+    void operator()(bool* isTaken) const { *isTaken = false; }
+  };
+  using Turn = std::unique_ptr<bool, EndTurn>;
+
+  Task<Turn> turnToMakeKey();
+  Task<> makeAndRegisterKey();
+  Task<> registerDevice();
+
+  void writeDebugCapture(std::string_view text);
+  [[nodiscard]] std::string boundIdentity() const;
+  [[nodiscard]] SecureEnclaveManager::Services keyServices() const;
+
+  desktop::Desktop desktop_;
+  ServerClient serverClient_;
+  bool isMakingKey_ = false;
+  TaskScope runs_;  ///< last: the tasks use all of the above
+};
+
+}  // namespace quillseal

@@ -76,7 +76,8 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"cred-click-verify", "Credential phishing", "warn", 30,
      "tells the reader to follow a link and verify, confirm or unlock something",
-     R"(\b(?:click|tap|press|follow|visit|open|use|go\s+to|log\s?in|sign\s?in|scan)\b[^.!?]{0,50}\b(?:to|and|in\s+order\s+to)\s+(?:\w+\s+){0,2}(?:verify|confirm|validate|authenticate|re-?activate|re-?validate|unlock|restore|secure|recover|resolve|regain|sync|re-?confirm)\b|)"
+     R"(\b(?:click|tap|follow|visit|log\s?in|sign\s?in|scan)\b[^.!?]{0,40}\b(?:here|below|link|button|page|portal|account|code)\b[^.!?]{0,15}\band\s+(?:verify|confirm|validate|update|re-?activate|unlock|restore)\b|)"
+     R"(\b(?:click|tap|press|follow|visit|open|use|go\s+to|log\s?in|sign\s?in|scan)\b[^.!?]{0,50}\b(?:to|in\s+order\s+to)\s+(?:\w+\s+){0,2}(?:verify|confirm|validate|authenticate|re-?activate|re-?validate|unlock|restore|secure|recover|resolve|regain|sync|re-?confirm)\b|)"
      R"(\b(?:click|tap|press|follow)\b[^.!?]{0,30}\b(?:below|here|link|button)\b[^.!?]{0,30}\bto\s+(?:\w+\s+){0,2}(?:update|upgrade|avoid|prevent|release|claim|redeem)\b|)"
      R"(\b(?:verify|confirm|validate|re-?activate|unlock|restore|secure|recover|authenticate|claim|upgrade|update|reschedule|cancel)\b[^.!?]{0,50}\b(?:click(?:ing)?|tap(?:ping)?|follow(?:ing)?)\b[^.!?]{0,20}\b(?:here|below|(?:this|the|following|secure)\s+(?:\w+\s+){0,2}(?:link|button|page|portal))\b|)"
      R"(\b(?:kindly|please|simply)\s+(?:verify|confirm|validate)\b[^.!?]{0,15}\b(?:below|here|now)\b|)"
@@ -101,7 +102,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:detected|noticed|identified|observed|recorded|flagged|found)\b[^.!?]{0,25}\b(?:unusual|suspicious|unauthori[sz]ed|unrecogni[sz]ed|unfamiliar|abnormal|irregular|fraudulent|strange|multiple\s+failed)\b[^.!?]{0,25}\b(?:sign-?in|log-?in|logon|access|activity|activities|attempts?|transactions?|movements?|behaviou?r|irregularit(?:y|ies))\b|)"
      R"(\b(?:someone|somebody|a\s+third\s+party|another\s+(?:device|person)|an\s+unknown\s+(?:device|person|user))\b[^.!?]{0,25}\b(?:tried|attempted|trying|has|have|just)\b[^.!?]{0,15}\b(?:log(?:ged)?\s?in|sign(?:ed)?\s?in|access(?:ed)?|reset)\b[^.!?]{0,25}\byour\b|)"
      R"(\b(?:if|in\s+case)\s+(?:this|it)\s+(?:was\s+not|wasn['’]t|is\s+not|isn['’]t)\s+you\b|)"
-     R"(\b(?:did|do)\s+(?:you\s+)?not\s+(?:recogni[sz]e|authori[sz]e|make|request|initiate|perform)\s+this\s+(?:\w+\s+)?(?:activity|transaction|charge|sign-?in|log-?in|device|purchase|request|order|payment|transfer)\b|)"
+     R"(\b(?:did\s+not|didn['’]t|do\s+not|don['’]t)\s+(?:recogni[sz]e|authori[sz]e|make|request|initiate|perform|place)\s+(?:this|the)\s+(?:\w+\s+)?(?:change|login|activity|transaction|charge|sign-?in|log-?in|device|purchase|request|order|payment|transfer)\b|)"
      R"(\b(?:ungewöhnlich|verdächtig|unbefugt|nicht\s+autorisiert|unbekannt|auffällig)\w*\b[^.!?]{0,25}\b(?:anmeld\w+|aktivität\w*|zugriff\w*|login\w*|transaktion\w*|gerät\w*|zahlung\w*|abbuchung\w*|bewegung\w*)|)"
      R"(\b(?:inhabituel\w*|suspecte?s?|non\s+autorisée?s?|frauduleu\w+)\b[^.!?]{0,25}\b(?:connexions?|activités?|accès|transactions?|appareil|opérations?|paiements?)\b|)"
      R"(\b(?:connexions?|activités?|accès|transactions?|opérations?|paiements?)\s+(?:inhabituel\w*|suspecte?s?|non\s+autorisée?s?|frauduleu\w+)\b|)"
@@ -151,7 +152,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"cred-reset-link", "Credential phishing", "warn", 20,
      "offers a link to reset a password",
-     R"(\b(?:reset|change|re-?create|restore)\b[^.!?]{0,20}\b(?:your\s+|the\s+|my\s+)(?:\w+\s+){0,2}password\b[^.!?]{0,60}\b(?:click|link|here|below|button|https?:|visit|go\s+to|follow|tap|immediately|within)\b|)"
+     R"(\b(?:reset|change|re-?create|restore)\b[^.!?]{0,20}\b(?:your\s+|the\s+|my\s+)(?:\w+\s+){0,2}password\b[^.!?]{0,60}\b(?:(?:click|link|here|below|button|visit|go\s+to|follow|tap|immediately|within)\b|https?:)|)"
      R"(\b(?:click|link|tap|visit|follow|go\s+to|use)\b[^.!?]{0,60}\b(?:reset|change|restore|recover)\b[^.!?]{0,15}\b(?:your\s+|the\s+|my\s+)(?:\w+\s+){0,2}password\b|)"
      R"(\bpassword\s+(?:reset|change|recovery)\s+(?:request|link|notification|required|alert)\b|)"
      R"(\b(?:reset|change)\s+(?:my\s+)?password\b[^.!?]{0,5}$|)"
@@ -413,8 +414,8 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"bec-urgent-wire", "Payment redirection", "warn", 45,
      "presses for an urgent payment or transfer",
-     R"(\b(?:urgent|urgently|immediate|immediately|asap|a\.s\.a\.p|as\s+soon\s+as\s+possible|right\s+away|today|this\s+morning|this\s+afternoon|same[- ]day|promptly|prioriti[sz]e|prioriti[sz]ing|expedite|before\s+(?:close|the\s+close|end|the\s+end|noon|cob|cut-?off|the\s+cut-?off)|by\s+(?:close|the\s+end|\d+\s?pm)|end\s+of\s+day|eod|cob)\b[^.!?]{0,60}\b(?:wire|wires|wired|fund\s+transfer|funds\s+transfer|bank\s+transfer|wire\s+transfer|ach\s+payment|ach\s+transfer|by\s+ach|swift\s+copy|swift\s+transfer|faster\s+payment|domestic\s+transfer|international\s+transfer|zelle|outgoing\s+(?:payment|transfer)|vendor\s+payment|payment\s+(?:to|for)\s+(?:a|the|our|new)\s+(?:new\s+)?(?:vendor|supplier|contractor|consultant|attorney)|payment\s+(?:made|sent|out|done|processed))\b|)"
-     R"(\b(?:wire|fund\s+transfer|funds\s+transfer|bank\s+transfer|wire\s+transfer|ach\s+payment|ach\s+transfer|faster\s+payment|zelle\s+payment|outgoing\s+(?:payment|transfer)|vendor\s+payment|transfer\s+of\s+funds|payments?\s+(?:to|for)\s+(?:a|the|our|new|my)\s+(?:new\s+)?(?:vendor|supplier|contractor|consultant|attorney)|this\s+transfer)\b[^.!?]{0,60}\b(?:urgent|urgently|immediately|asap|as\s+soon\s+as\s+possible|right\s+away|today|this\s+morning|this\s+afternoon|same[- ]day|quickly|priority|prioriti[sz]ed?|before\s+(?:close|the\s+close|end|noon|cob|cut-?off|the\s+cut-?off)|end\s+of\s+day|eod|cob)\b|)"
+     R"(\b(?:urgent|urgently|immediate|immediately|asap|a\.s\.a\.p|as\s+soon\s+as\s+possible|right\s+away|today|this\s+morning|this\s+afternoon|same[- ]day|promptly|prioriti[sz]e|prioriti[sz]ing|expedite|before\s+(?:close|the\s+close|end|the\s+end|noon|cob|cut-?off|the\s+cut-?off)|by\s+(?:close|the\s+end|\d+\s?pm)|end\s+of\s+day|eod|cob)\b[^.!?]{0,60}\b(?:the\s+wire|a\s+wire|this\s+wire|wire\s+(?:transfer|payment|it|the|out)|be\s+wired|by\s+wire|fund\s+transfer|funds\s+transfer|bank\s+transfer|wire\s+transfer|ach\s+payment|ach\s+transfer|by\s+ach|swift\s+copy|swift\s+transfer|faster\s+payment|domestic\s+transfer|international\s+transfer|zelle|outgoing\s+(?:payment|transfer)|vendor\s+payment|payment\s+(?:to|for)\s+(?:a|the|our|new)\s+(?:new\s+)?(?:vendor|supplier|contractor|consultant|attorney)|payment\s+(?:made|sent|out|done|processed))\b|)"
+     R"(\b(?:the\s+wire|a\s+wire|this\s+wire|wire\s+payment|fund\s+transfer|funds\s+transfer|bank\s+transfer|wire\s+transfer|ach\s+payment|ach\s+transfer|faster\s+payment|zelle\s+payment|outgoing\s+(?:payment|transfer)|vendor\s+payment|transfer\s+of\s+funds|payments?\s+(?:to|for)\s+(?:a|the|our|new|my)\s+(?:new\s+)?(?:vendor|supplier|contractor|consultant|attorney)|this\s+transfer)\b[^.!?]{0,60}\b(?:urgent|urgently|immediately|asap|as\s+soon\s+as\s+possible|right\s+away|today|this\s+morning|this\s+afternoon|same[- ]day|quickly|priority|prioriti[sz]ed?|before\s+(?:close|the\s+close|end|noon|cob|cut-?off|the\s+cut-?off)|end\s+of\s+day|eod|cob)\b|)"
      R"(\b(?:process|make|send|set\s+up|initiate|handle|arrange|release|execute|prioriti[sz]e|take\s+care\s+of|effect|push\s+through|do|complete)\w*\b[^.!?]{0,12}\b(?:a|an|the|this|out|processing|two|another)\b[^.!?]{0,8}\b(?:urgent\s+|same[- ]day\s+|immediate\s+|quick\s+|domestic\s+|international\s+|pending\s+|outstanding\s+|outgoing\s+|new\s+)*(?:wire|fund\s+transfer|funds\s+transfer|wire\s+transfer|bank\s+transfer|transfer\s+of\s+funds|ach\s+transfer|ach\s+payment|zelle|zelle\s+payment|swift\s+transfer|faster\s+payment|domestic\s+transfer|international\s+transfer|outgoing\s+(?:payment|transfer|bank\s+transfer|wire))\b|)"
      R"(\b(?:urgent|immediate|confidential|same[- ]day)\s+(?:\w+\s+)?(?:payment|transfer|wire|remittance)\b|)"
      R"(\b(?:remit|transfer|wire|pay)\b[^.!?]{0,40}\b(?:today|immediately|asap|right\s+away|same[- ]day)\b[^.!?]{0,40}\b(?:by\s+(?:ach|wire|swift|bank\s+transfer)|swift|proof\s+of\s+payment|confirmation|slip|receipt)\b|)"
@@ -456,7 +457,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"bec-ceo-request", "Payment redirection", "warn", 35,
      "is a superior's request for a discreet task or payment, the opening of executive impersonation",
-     R"(\b(?:i|we)\s+(?:need|want|would\s+like|['’]d\s+like|require|am\s+counting\s+on)\b[^.!?]{0,8}\byou\s+to\b[^.!?]{0,30}\b(?:handle|take\s+care\s+of|complete|carry\s+out|run|do|process|execute|make|send|set\s+up|initiate|arrange|pay|purchase)\b[^.!?]{0,25}\b(?:task|errand|assignment|transaction|payments?|transfers?|purchase|wire|new\s+payee|gift\s+cards?|out\s+two|[$€£]\s?\d)\b|)"
+     R"(\b(?:i|we)\s+(?:need|want|would\s+like|['’]d\s+like|require|am\s+counting\s+on)\b[^.!?]{0,8}\byou\s+to\b[^.!?]{0,30}\b(?:handle|take\s+care\s+of|complete|carry\s+out|run|do|process|execute|make|send|set\s+up|initiate|arrange|pay|purchase)\b[^.!?]{0,25}(?:\b(?:task|errand|assignment|transaction|payments?|transfers?|purchase|wire|new\s+payee|gift\s+cards?|out\s+two)|[$€£]\s?\d)\b|)"
      R"(\b(?:handle|take\s+care\s+of|complete|carry\s+out|run|attend\s+to|assist\s+(?:me\s+)?(?:with|in|on)|help\s+(?:me\s+)?(?:with|out\s+with)|do|execute)\b[^.!?]{0,15}\b(?:a|an|this|some|one)\b[^.!?]{0,8}\b(?:quick\s+|urgent\s+|small\s+|confidential\s+|personal\s+|discreet\s+|brief\s+|little\s+|sensitive\s+){1,3}(?:task|errand|assignment|matter|favou?r|something|transaction|purchase|payment)\b|)"
      R"(\b(?:urgent|confidential|personal|discreet|time[- ]sensitive|quick)\s+(?:task|errand|assignment)\b|)"
      R"(\brun\s+an\s+errand\b[^.!?]{0,30}\b(?:for\s+me|quick\w*|today|now)\b|)"
@@ -535,7 +536,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\bgift\s?cards?\b[^.!?]{0,40}\b(?:for|to)\s+(?:our\s+|some\s+|the\s+|my\s+|a\s+few\s+|all\s+|all\s+the\s+|few\s+|the\s+top\s+|our\s+top\s+)*(?:staff|employees?|clients?|team|colleagues?|veterans?|patients?|personnel|members\s+of\s+staff|hospice|niece|nephew|associates?|prospects?|partners?|diligent)\b|)"
      R"(\b(?:surprise|reward|appreciate)\b[^.!?]{0,40}\b(?:staff|team|employees?|colleagues?|clients?)\b[^.!?]{0,40}\bgift\s?cards?\b|)"
      R"(\b(?:buy|purchase|pick\s+up|get|grab)\b[^.!?]{0,30}\bgift\s?cards?\b[^.!?]{0,60}\b(?:for\s+me|on\s+my\s+behalf|from\s+(?:any|the\s+nearest|a)\s+(?:\w+\s+)?(?:store|shop)|nearest\s+store|at\s+the\s+store|right\s+away|asap|reimburs\w*|refund\s+you|pay\s+you\s+back|denomination|sent\s+to\s+a\s+friend)\b|)"
-     R"(\bgift\s?cards?\b[^.!?]{0,40}\b(?:in\s+\$?\d+|denominations?|\$?\d+\s+(?:each|value|face\s+value)|face\s+value|how\s+many\s+can\s+you|how\s+soon\s+can\s+you)\b|)"
+     R"(\bgift\s?cards?\b[^.!?]{0,40}(?:\b(?:in\s+\$?\d+|denominations?|face\s+value|how\s+many\s+can\s+you|how\s+soon\s+can\s+you)|\$?\d+\s+(?:each|value|face\s+value))\b|)"
      R"(\b(?:kaufen|besorgen|besorge|kauf|kaufst|brauche|benötige)\b[^.!?]{0,50}\b(?:geschenkkarten|gutscheinkarten|guthabenkarten|(?:google[- ]play|itunes|apple|amazon|steam|paysafe)[- ]?(?:karten|gutscheine?|codes?))\b|)"
      R"(\b(?:achete[rz]|acheter|procure[rz]|besoin\s+de)\b[^.!?]{0,50}\b(?:cartes?\s+cadeaux?|coupons?\s+(?:pcs|transcash|neosurf|toneo)|cartes?\s+(?:google\s+play|itunes|steam|apple))\b|)"
      R"(\b(?:compr(?:ar|es?|a|e)|consig\w+|necesito|preciso)\b[^.!?]{0,50}\b(?:tarjetas?\s+(?:de\s+)?regalo|cart(?:ão|ões|ao|oes)\s+(?:de\s+)?presente|vales?[- ]presente|gift\s+cards?)\b|)"
@@ -608,7 +609,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:ftx|celsius|voyager|blockfi|mt\.?\s?gox)\b[^.!?]{0,80}\b(?:withdraw\w*|claim|eligible|distribution)\b[^.!?]{0,60}\b(?:your|account|wallet|now|ready)\b|)"
      R"(\b(?:claim|collect|redeem|withdraw|secure|receive|get|eligible\s+for|qualif\w+\s+for|unlock)\b[^.!?]{0,30}\b(?:your\s+|ur\s+|the\s+|our\s+|this\s+|an?\s+|free\s+|exclusive\s+|special\s+|\d[\d,.]*\s+)+(?:\w+\s+){0,3}(?:air-?drops?|(?:token|coin|crypto|nft|btc|bitcoin|eth|ethereum|xrp|usdt|sol|bnb|defi|staking|claw|genesis|community|rlusd|algo)\s+(?:rewards?|allocations?|bonus(?:es)?|distributions?|giveaways?|drops?|grants?|incentives?|cash\s?back|benefits?))\b|)"
      R"(\b(?:air-?drop|token\s+(?:distribution|allocation)|reward\s+(?:distribution|program)|allocation|cash\s?back\s+reward)\b[^.!?]{0,60}\b(?:claim\s+(?:your|now|here)|eligible|eligibility|qualified|connect\s+(?:your\s+)?wallet|link\s+below|wallets?\s+(?:is|are)|selected|exclusive(?:ly)?|tailored|loyal\w*|your\s+wallet)\b|)"
-     R"(\b(?:eligible|qualified|selected|chosen|whitelisted)\b[^.!?]{0,45}\b(?:air-?drop|(?:token|coin|crypto)\s+(?:reward|allocation|distribution|bonus)|claw\s+distribution|\$[A-Z]{3,6}\s+(?:allocation|distribution|tokens?)|free\s+(?:tokens?|coins?|crypto|bitcoin|eth|nft)|(?:btc|eth|usdt|xrp|nft)\s+(?:reward|bonus|giveaway|mint))\b|)"
+     R"(\b(?:eligible|qualified|selected|chosen|whitelisted)\b[^.!?]{0,45}(?:\b(?:air-?drop|(?:token|coin|crypto)\s+(?:reward|allocation|distribution|bonus)|claw\s+distribution|free\s+(?:tokens?|coins?|crypto|bitcoin|eth|nft)|(?:btc|eth|usdt|xrp|nft)\s+(?:reward|bonus|giveaway|mint))|\$[A-Z]{3,6}\s+(?:allocation|distribution|tokens?))\b|)"
      R"(\b(?:collect|claim|secure)\s+your\s+(?:\w+\s+)?(?:allocation|tokens?|share|airdrop|crypto|coins?|bitcoins?|btc|usdt|mint|nft)\b|)"
      R"(\b(?:free|bonus|complimentary)\s+(?:bitcoins?|btc|eth|ethereum|crypto\w*|tokens?|usdt|xrp|nfts?)\b[^.!?]{0,30}\b(?:claim|connect|sign\s?up|limited\s+time)\b|)"
      R"(\b(?:you\s+(?:have|['’]ve)\s+(?:received|earned|been\s+(?:sent|credited|awarded))|your\s+(?:account\s+)?balance|has\s+been\s+(?:sent|credited|transferred))\b[^.!?]{0,40}(?:\d[\d,.]*\s?(?:btc|eth|usdt|xrp|bitcoins?)\b|\b(?:bitcoins?|btc|usdt|eth)\b)[^.!?]{0,60}\b(?:claim|withdraw\w*|confirm|log\s?in|click|payout)\b|)"
@@ -654,7 +655,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"crypto-guaranteed", "Crypto fraud", "warn", 50,
      "promises guaranteed returns on an investment",
-     R"(\b(?:guaranteed?|assured|certain|fixed|steady|consistent)\b[^.!?]{0,25}\b(?:returns?|profits?|income|roi|earnings|gains?|payouts?|winnings|daily\s+profit)\b[^.!?]{0,40}\b(?:invest\w*|trad\w*|daily|weekly|monthly|crypto\w*|bitcoin|forex|percent|\d+\s?%|capital|deposit|day|week|month)\b|)"
+     R"(\b(?:guaranteed?|assured|certain|fixed|steady|consistent)\b[^.!?]{0,25}\b(?:returns?|profits?|income|roi|earnings|gains?|payouts?|winnings|daily\s+profit)\b[^.!?]{0,40}\b(?:(?:invest\w*|trad\w*|daily|weekly|monthly|crypto\w*|bitcoin|forex|percent|capital|deposit|day|week|month)\b|\d+\s?%)|)"
      R"(\b(?:invest\w*|trad\w*|crypto\w*|bitcoin|forex|deposit)\b[^.!?]{0,60}\b(?:guaranteed?|assured)\b[^.!?]{0,25}\b(?:returns?|profits?|income|roi|earnings|gains?|payouts?)\b|)"
      R"(\b(?:earn|make|profit|returns?|roi|gain|receive|yield)\b[^.!?]{0,25}\b(?:up\s+to\s+|over\s+|at\s+least\s+|of\s+)?\d[\d.,]*\s?(?:%|percent)[^.!?]{0,15}\b(?:daily|per\s+day|a\s+day|every\s+day|weekly|per\s+week|every\s+week|a\s+week|in\s+(?:\d+|24)\s+(?:hours|days)|monthly|per\s+month)\b|)"
      R"(\b(?:earn|make|making|earning|generate|pocket)\b[^.!?]{0,25}[$€£]\s?\d[\d,.]*k?\b[^.!?]{0,20}\b(?:daily|per\s+day|a\s+day|every\s+day|weekly|per\s+week|a\s+week|every\s+week|in\s+(?:just\s+)?\d+\s+(?:hours?|days?)|per\s+hour|an\s+hour)\b[^.!?]{0,60}\b(?:invest\w*|trad\w*|crypto\w*|bitcoin|forex|platform|app|bot|system|software|ai|automated)\b|)"
@@ -693,7 +694,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"crypto-pump", "Crypto fraud", "warn", 45,
      "hypes a coin or share so that others buy before the fall",
-     R"(\b(?:coin|token|crypto\w*|stock|shares?|ticker|\$[a-z]{2,6})\b[^.!?]{0,50}\b(?:about\s+to|going\s+to|will|ready\s+to|set\s+to|poised\s+to)\s+(?:explode|moon|skyrocket|pump|100x|10x|50x|blast\s+off|soar)\b|)"
+     R"((?:\b(?:coin|token|crypto\w*|stock|shares?|ticker)|\$[a-z]{2,6})\b[^.!?]{0,50}\b(?:about\s+to|going\s+to|will|ready\s+to|set\s+to|poised\s+to)\s+(?:explode|moon|skyrocket|pump|100x|10x|50x|blast\s+off|soar)\b|)"
      R"(\b(?:next|guaranteed|easy|potential)\s+(?:100x|1000x|50x|10x|moonshot|gem)\b|)"
      R"(\b(?:pump|pumping|buy|load\s+up|get\s+in)\b[^.!?]{0,25}\b(?:before|now\s+before)\b[^.!?]{0,15}\b(?:it|this|the)\b[^.!?]{0,8}\b(?:moons?|pumps?|explodes?|takes\s+off|skyrockets?|launch(?:es)?|lists?|too\s+late)\b|)"
      R"(\b(?:presale|pre-sale|ico|private\s+sale)\b[^.!?]{0,60}\b(?:token|coin|crypto\w*|100x|50x|10x|bonus|buy\s+now|don['’]t\s+miss|ends)\b[^.!?]{0,40}\b(?:100x|50x|10x|1000x|bonus|moon|don['’]t\s+miss|last\s+chance|guaranteed|buy\s+now)\b|)"
@@ -714,7 +715,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\bcongrat(?:ulation)?s?\b[^.!?]{0,60}\b(?:you(?:['’]ve|\s+have)?\s+(?:\w+\s+)?(?:won|been\s+(?:selected|chosen))|you\s+are\s+(?:\w+\s+){0,4}(?:winner|eligible|qualified)|your\s+(?:\w+\s+)?(?:reward|prize|gift))\b|)"
      R"(\b(?:you|u)(?:\s+have\s+been|['’]ve\s+been|\s+were|\s+are)\s+(?:\w+\s+)?(?:selected|chosen|picked)\s+(?:as\s+(?:one\s+of\s+(?:the|our)\s+(?:\w+\s+)?(?:winners?|few|lucky)|a\s+(?:\w+\s+)?winner)|to\s+(?:receive|win|get|claim|try|enjoy|join\s+our|complete)|for\s+(?:a|an|our|the|this)\s+(?:\w+\s+){0,2}(?:prize|reward|gift|chance|exclusive|free|giveaway|loyalty))\b|)"
      R"(\b(?:claim|collect|redeem|unlock)\b\s+(?:your|ur|the)\s+(?:[\w$€£'’.-]+\s+){0,4}(?:prize|winnings?|free\s+gift|gift|jackpot|gift\s?card|mystery\s+box|surprise|giveaway|voucher|sample|set|kit)\b|)"
-     R"(\b(?:special|exclusive|free|mystery|\$\d+|€\d+|brand[- ]new|reward|surprise|gift|prize)\b[^.!?]{0,25}\b(?:is|are)\s+(?:\w+\s+)?(?:waiting\s+for\s+you|reserved\s+for\s+you|yours\s+to\s+claim|ready\s+to\s+(?:be\s+)?claim(?:ed)?|set\s+aside\s+for\s+you)\b|)"
+     R"((?:\b(?:special|exclusive|free|mystery|brand[- ]new|reward|surprise|gift|prize)|\$\d+|€\d+)\b[^.!?]{0,25}\b(?:is|are)\s+(?:\w+\s+)?(?:waiting\s+for\s+you|reserved\s+for\s+you|yours\s+to\s+claim|ready\s+to\s+(?:be\s+)?claim(?:ed)?|set\s+aside\s+for\s+you)\b|)"
      R"(\byou(?:['’]ve|\s+have)\s+(?:been\s+)?(?:won|win)\s+(?:a|an|the|our|\(?1\)?)\s+(?:[\w-]+\s+){0,2}(?:new|free|brand[- ]new|\$\d|prize|gift|voucher|reward|\(\d\))|)"
      R"(\bmystery\s+box\b[^.!?]{0,80}\b(?:claim|free|chance|receive|won|win|selected|waiting|yours|unclaimed|lost)\b|)"
      R"(\b(?:Sie|du|ihre\s+e-?mail(?:-adresse)?)\b[^.!?]{0,50}\b(?:[\w-]*gutschein\w*|gewinn|preis|prämie|geschenk\w*|iphone|exklusive\w*|brandneue\w*|belohnung|gratis\w*|kostenlose\w*)\b[^.!?]{0,60}\b(?:gewonnen|ausgewählt|auserwählt|ausgelost)\b|)"
@@ -736,6 +737,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"afee-lottery2", "Advance fee", "warn", 50,
      "holds out a prize, a reward or a stranger's donation to be claimed",
+     R"(\b(?:balance|payout|winnings)\s+of\s+[$€£]\s?\d[\d.,]*[^.!?]{0,60}\b(?:collect\w*|withdraw\w*|claim\w*|in\s+your\s+name)\b|)"
      R"(\b(?:claim|collect|redeem|unlock)\s+(?:your|ur)\s+(?:\w+\s+){0,2}rewards?\b|)"
      R"(\b(?:grant|donation|award|sum|compensation)\s+of\s+(?:[\w-]+\s+){0,4}(?:million|thousand)\s+(?:[\w.]+\s+){0,3}(?:dollars|euros?|pounds|usd)\b|)"
      R"(\b(?:e-?mail|name)\s+(?:address\s+)?(?:was|has\s+been|were)\s+(?:\w+\s+)?(?:selected|chosen|picked|drawn)\b[^.!?]{0,40}\b(?:spin|random\w*|ballot|draw|donat\w+|grant|million|receive)\b|)"
@@ -744,7 +746,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:donat(?:e|ed|ing|ion)|cash\s+(?:grant|aid|donation)|compensation|give\s+you|giving\s+you)\b[^.!?]{0,30}(?:of\s+|sum\s+of\s+|amount\s+of\s+)?[$€£]?\s?\d[\d,.]*[^.!?]{0,8}\b(?:million|m|usd|eur|euros?|dollars|pounds|gbp)\b[^.!?]{0,60}\b(?:you|your|to)\b|)"
      R"(\b(?:donation|compensation)\s+code\b|)"
      R"(\b(?:random(?:ly)?\s+selected\s+(?:individuals?|people|persons|e-?mails?)|selected\s+individuals?\s+(?:worldwide|globally)|lucky\s+(?:individual|beneficiar\w+|recipient))\b|)"
-     R"(\b(?:short|quick|brief|simple|30[- ]second|marketing|satisfaction|shopper|loyalty)\b[^.!?]{0,15}\bsurvey\b[^.!?]{0,80}\b(?:win|reward\w*|free|receive|gift|prize|claim|exclusive|chance|brand[- ]new|\$\d+)\b|)"
+     R"(\b(?:short|quick|brief|simple|30[- ]second|marketing|satisfaction|shopper|loyalty)\b[^.!?]{0,15}\bsurvey\b[^.!?]{0,80}(?:\b(?:win|reward\w*|free|receive|gift|prize|claim|exclusive|chance|brand[- ]new)|\$\d+)\b|)"
      R"(\b(?:answer|complete|take|fill|participate|respond)\b[^.!?]{0,25}\b(?:survey|questionnaire|(?:few|\d+|some|simple|short|quick|easy)\s+(?:\w+\s+)?questions)\b[^.!?]{0,80}\b(?:win|reward|free|receive|gift|prize|claim|exclusive|chance|offer|surprise|bonus)\b|)"
      R"(\b(?:win|receive|get|claim|rewards?|gift|prize|request\s+it|chance)\b[^.!?]{0,60}\b(?:answer(?:ing)?|complet(?:e|ing)|tak(?:e|ing)|fill(?:ing)?(?:\s+out|\s+in)?|participat(?:e|ing))\b[^.!?]{0,25}\b(?:(?:marketing\s+|short\s+|quick\s+|our\s+|this\s+|brief\s+|\d+[- ]second\s+)+survey|questionnaire|(?:few|\d+|some|simple|short|quick|easy)\s+(?:\w+\s+)?questions)\b|)"
      R"(\b(?:chance|opportunity|enter)\s+(?:to|of)\s+(?:win|winning|receive|receiving|claim|get|getting)\s+(?:a\s+|an\s+|the\s+|your\s+|our\s+|one\s+of\s+|this\s+)?(?:[\w$€£'’-]+\s+){0,4}(?:brand[- ]?new|free|exclusive|prize|gift\s?card|i-?phone|samsung|voucher|mystery|jackpot|reward|[$€£]\d[\d,.]*|cooler|drill|set|kit|tool)|)"
@@ -770,8 +772,8 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:verstorbene[nr]?|verschiedene[nr]?)\s+(?:ehemann\w*|mann\w*|kunden?|klienten?|mandanten?|vater\w*)\b[^.!?]{0,100}\b(?:million\w*|fonds|geld|erbe|spend\w+|konto|vermögen)\b|)"
      R"(\b(?:late|deceased|dead|died|passed\s+away|demise\s+of)\b[^.!?]{0,80}\b(?:client|customer|husband|father|relative|depositor|investor|engineer|account\s+holder|owner|national|businessman|contractor|merchant|chief|general|dr|mr)\b[^.!?]{0,200}\b(?:next\s+of\s+kin|inherit\w*|fund|funds|deposit(?:ed)?|estate|million|unclaimed|beneficiary|account|left\s+behind|safe\s?keeping)\b|)"
      R"(\b(?:next\s+of\s+kin|heir|beneficiary)\b[^.!?]{0,120}\b(?:deceased|late\s+(?:client|customer|husband|father|mr|engineer|dr)|million|fund|funds|deposit|inherit\w*|unclaimed|transfer|estate)\b|)"
-     R"(\b(?:inheritance|inherited|estate)\b[^.!?]{0,60}\b(?:fund|funds|million|claim|sum|transfer|beneficiary|unclaimed|next\s+of\s+kin|[$€£]\s?\d[\d,.]{4,})\b[^.!?]{0,60}\b(?:you|your|me|deceased|bank|transfer\w*|country|late|account|percent|contact|assist\w*)\b|)"
-     R"(\b(?:my|the)\s+late\s+(?:father|husband|wife|client|mother|uncle|boss|customer)\b[^.!?]{0,200}\b(?:deposited|deposit|million|fund|funds|security\s+company|inherit\w*|bank|left)\b[^.!?]{0,60}\b(?:[$€£]|usd|us|million|bank|sum|security|fund|funds|transfer|abroad|consignment|account)|)"
+     R"(\b(?:inheritance|inherited|estate)\b[^.!?]{0,60}(?:\b(?:fund|funds|million|claim|sum|transfer|beneficiary|unclaimed|next\s+of\s+kin)|[$€£]\s?\d[\d,.]{4,})\b[^.!?]{0,60}\b(?:you|your|me|deceased|bank|transfer\w*|country|late|account|percent|contact|assist\w*)\b|)"
+     R"(\b(?:my|the)\s+late\s+(?:father|husband|wife|client|mother|uncle|boss|customer)\b[^.!?]{0,200}\b(?:deposited|deposit|million|fund|funds|security\s+company|inherit\w*|bank|left)\b[^.!?]{0,60}(?:[$€£]|\b(?:usd|us|million|bank|sum|security|fund|funds|transfer|abroad|consignment|account))|)"
      R"(\b(?:died|deceased|passed\s+away)\b[^.!?]{0,40}\b(?:without\s+(?:a\s+|any\s+)?(?:will|heir|next\s+of\s+kin)|intestate|no\s+next\s+of\s+kin|leaving\s+(?:no|nobody|behind))\b|)"
      R"(\b(?:terminally\s+ill|(?:oesophageal|esophageal|breast|lung|brain)\s+cancer|cancer\s+of\s+the|few\s+months\s+to\s+live|doctor\s+(?:told|said))\b[^.!?]{0,200}\b(?:donate|charity|inherit\w*|fund|funds|million|orphanage|less\s+privileged|god|widow)\b|)"
      R"(\b(?:erbschaft|nachlass|erbe|nächster\s+angehöriger|erbberechtigt\w*)\b[^.!?]{0,100}\b(?:millionen|mio|verstorben\w*|konto|bank|kunde\w*|überweis\w+|fonds)\b|)"
@@ -784,7 +786,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:confidential|mutually\s+beneficial|crave\s+your\s+indulgence)\b[^.!?]{0,60}\b(?:transaction|business|proposal)\b[^.!?]{0,40}(?:[.!]|\b(?:details|get\s+back|reply|contact)\b)|)"
      R"(\b(?:sum|payment|funds?|transfer|zahlung|summe)\b[^.!?]{0,60}\b(?:united\s+nations|vereinten\s+nationen|generalsekretär)\b|)"
      R"(\b(?:urgent|important|dringende|wichtige)\s+(?:\w+\s+)?(?:matter|angelegenheit|discussion|discuss[ãa]o)\b[^.!?]{0,40}\b(?:discuss|besprechen|with\s+you|mit\s+ihnen|share)\b|)"
-     R"(\b(?:you|your\s+(?:name|e-?mail))\b[^.!?]{0,30}\b(?:beneficiary|beneficiaries|next\s+of\s+kin|(?:to\s+be|be|been)\s+compensated)\b[^.!?]{0,60}\b(?:funds?|payments?|sum|million|usd|atm|release|inherit\w*|\$|donation)\b|)"
+     R"(\b(?:you|your\s+(?:name|e-?mail))\b[^.!?]{0,30}\b(?:beneficiary|beneficiaries|next\s+of\s+kin|(?:to\s+be|be|been)\s+compensated)\b[^.!?]{0,60}(?:\b(?:funds?|payments?|sum|million|usd|atm|release|inherit\w*|donation)|\$)\b|)"
      R"(\b(?:beneficiary|compensation|inheritance|unpaid|abandoned)\s+(?:funds?|payments?|sum)\b[^.!?]{0,50}\b(?:release\w*|transfer\w*|approved|your|in\s+your\s+(?:name|favou?r)|million|atm|usd|due\s+to\s+you)\b|)"
      R"(\b(?:release|payment|transfer|remittance|delivery|disbursement)\s+of\s+your\s+(?:\w+\s+){0,3}(?:funds?|inheritance|compensation|consignment|atm\s+card|winnings?)\b|)"
      R"(\byour\s+(?:\w+\s+){0,3}(?:compensation|inheritance|consignment|fund|funds|atm\s+(?:visa\s+|master\s?|debit\s+)?card|bank\s+draft|cashier['’]?s?\s+che(?:que|ck)|unpaid\s+(?:fund|payment))\b[^.!?]{0,40}\b(?:release|released|transferred|approved|deliver\w*|sum|million|valued|worth)\b|)"
@@ -803,7 +805,7 @@ constexpr auto table = std::to_array<Rule>({
     {"afee-processing-fee", "Advance fee", "warn", 50,
      "asks for a fee before money or goods can be released",
      R"(\b(?:pay|send|remit|paid|payment\s+of|settle|cover|require[sd]?|only)\b[^.!?]{0,30}\b(?:processing|release|clearance|handling|administrative|administration|transfer|activation|legal|registration|insurance|redelivery|re-?delivery|shipping|delivery|customs|courier|unlock|withdrawal|gas|verification|demurrage|security|documentation)\s+(?:fees?|charges?|costs?|tax)\b[^.!?]{0,60}\b(?:release\w*|receive|before|claim\w*|deliver\w*|funds?|parcel|package|prize|winnings?|withdraw\w*|loan|shipment|item|order|consignment|process|your)\b|)"
-     R"(\b(?:processing|release|clearance|handling|administrative|activation|redelivery|re-?delivery|shipping|delivery|customs|courier|withdrawal|unlock|demurrage)\s+(?:fees?|charges?|costs?)\b[^.!?]{0,40}\b(?:of|is|:|only|may\s+apply|applies|before|required|must|needs?|unpaid|outstanding|to\s+be\s+paid)\b[^.!?]{0,40}(?:[$€£]\s?\d|\d[\d.,]*\s?(?:usd|eur|gbp|€|\$)|\b(?:release\w*|claim\w*|receive|parcel|package|deliver\w*|funds?|withdraw\w*|paid|apply)\b)|)"
+     R"(\b(?:processing|release|clearance|handling|administrative|activation|redelivery|re-?delivery|shipping|delivery|customs|courier|withdrawal|unlock|demurrage)\s+(?:fees?|charges?|costs?)\b[^.!?]{0,40}(?:\b(?:of|is|only|may\s+apply|applies|before|required|must|needs?|unpaid|outstanding|to\s+be\s+paid)\b|:)[^.!?]{0,40}(?:[$€£]\s?\d|\d[\d.,]*\s?(?:usd|eur|gbp|€|\$)|\b(?:release\w*|claim\w*|receive|parcel|package|deliver\w*|funds?|withdraw\w*|paid|apply)\b)|)"
      R"(\b(?:small|nominal|refundable|one[- ]time|minor|upfront|advance|little|token)\s+(?:\w+\s+)?(?:fee|charge|payment|deposit)\b[^.!?]{0,60}\b(?:release\w*|receive|claim\w*|deliver\w*|funds?|parcel|package|prize|loan|unlock|withdraw\w*|process\w*|shipping)\b|)"
      R"(\b(?:fee|charge|tax|cost)s?\b[^.!?]{0,30}\b(?:before|in\s+order\s+to|to\s+enable|so\s+that|prior\s+to)\b[^.!?]{0,30}\b(?:release|receive|claim|deliver\w*|withdraw\w*|your\s+(?:funds?|parcel|package|prize|money|loan))\b|)"
      R"(\b(?:zollgebühr\w*|versandgebühr\w*|versandkosten|bearbeitungsgebühr\w*|liefergebühr\w*|zustellgebühr\w*|zustellungsgebühr\w*|freigabegebühr\w*|gebühr(?:en)?)\b[^.!?]{0,60}\b(?:bezahlen|zahlen|begleichen|entrichten|zu\s+zahlen|zu\s+bezahlen|fällig|anfallen|beglichen|bezahlt|ausstehend\w*)\b|)"
@@ -915,13 +917,14 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"imp-courier", "Impersonation", "warn", 30,
      "poses as a parcel service with a delivery that failed or waits",
-     R"(\b(?:parcel|package|shipment|delivery|item|order|courier|consignment|letter|mail\s+piece|mail)\b[^.!?]{0,50}\b(?:could\s+not|couldn['’]t|cannot|can['’]t|was\s+not|wasn['’]t|unable\s+to|failed\s+to|has\s+not|hasn['’]t|were\s+unable\s+to|attempted\s+to|is\s+on\s+hold|on\s+hold|is\s+pending|pending|suspended|held|stuck|waiting|awaiting|returned|undeliver\w+|unsuccessful|failed|stopped|incomplete|delayed|missed|missing)\b[^.!?]{0,60}\b(?:deliver\w*|address|fee|reschedul\w*|confirm\w*|customs?|warehouse|depot|facility|distribution|delivery|sender|instructions?|collect\w*|pick\s?up|track\w*|update|click|link|shipping|postage|house\s+number|hub)\b|)"
+     R"(\b(?:bestätigen|überprüfen|aktualisieren)\b[^.!?]{0,30}\b(?:lieferdetails|lieferadresse|lieferinformationen|versandinformationen|versandadresse|lieferung|zustellung)\b|)"
+     R"(\b(?:parcel|package|shipment|delivery|item|order|courier|consignment|mail\s+piece)\b[^.!?]{0,50}\b(?:could\s+not|couldn['’]t|cannot|can['’]t|was\s+not|wasn['’]t|unable\s+to|failed\s+to|has\s+not|hasn['’]t|were\s+unable\s+to|attempted\s+to|is\s+on\s+hold|on\s+hold|is\s+pending|pending|suspended|held|stuck|waiting|awaiting|undeliver\w+|unsuccessful|failed|stopped|incomplete|delayed|missed|missing)\b[^.!?]{0,60}\b(?:deliver\w*|address|fee|reschedul\w*|confirm\w*|customs?|warehouse|depot|facility|distribution|delivery|sender|instructions?|collect\w*|pick\s?up|track\w*|update|click|link|shipping|postage|house\s+number|hub)\b|)"
      R"(\b(?:unable\s+to|could\s+not|couldn['’]t|failed\s+to|cannot|attempted\s+to|tried\s+to|attempt(?:ed)?)\b[^.!?]{0,20}\b(?:deliver|delivery|be\s+delivered)\b[^.!?]{0,40}\b(?:parcel|package|shipment|item|order|address|you|mail|confirm|reschedul\w*|courier|today)\b|)"
      R"(\b(?:schedule|reschedule|arrange|confirm|rearrange|re-?schedule)\b[^.!?]{0,20}\b(?:your\s+|the\s+|a\s+|my\s+)?(?:re-?delivery|delivery|shipment|parcel|package|shipping)\b[^.!?]{0,30}\b(?:here|now|address|link|below|click|within|details|fee|today|appointment|preferences|new|online|information)\b|)"
      R"(\b(?:incorrect|incomplete|invalid|wrong|missing|insufficient|inaccurate|update\s+(?:your|the)|confirm\s+(?:your|the))\b[^.!?]{0,15}\b(?:delivery\s+|shipping\s+|house\s+|street\s+|postal\s+|destination\s+)(?:address|number|details|information|code|label)\b|)"
      R"(\b(?:dhl|ups|usps|fedex|royal\s+mail|evri|hermes|dpd|gls|canada\s+post|auspost|australia\s+post|an\s+post|amazon|tnt|aramex|singpost|us\s+postal|post\s+office|correios|posta?e?)\b[^.!?]{0,60}\b(?:failed\s+delivery|delivery\s+(?:attempt|failed|problem|fee|issue|notification|exception|attempted)|(?:parcel|package|shipment)\b[^.!?]{0,25}\b(?:waiting|pending|held|hold|arrived|ready|stopped|undelivered|could\s+not|unable|customs)|redelivery|customs\s+(?:fee|duty|charge)|shipping\s+(?:fee|confirmation)|unpaid|address\s+(?:confirmation|verification))|)"
-     R"(\b(?:you\s+have|there\s+is|there['’]s|we\s+have|1|one|\(1\)|(?:a|your)\s+(?:new\s+)?(?:pending|undelivered|waiting|stopped|unclaimed|lost))\b[^.!?]{0,15}\b(?:a\s+|an\s+|your\s+|one\s+|\(?1\)?\s+)?(?:pending\s+|undelivered\s+|waiting\s+|unclaimed\s+|lost\s+|missed\s+|new\s+)*(?:parcel|package|shipment|delivery)\b[^.!?]{0,20}\b(?:waiting|pending|for\s+you|on\s+hold|undelivered|to\s+(?:collect|receive|confirm|claim|deliver)|delivery|awaits?|in\s+our|at\s+our|under\s+our|is)\b|)"
-     R"(\b(?:paket|sendung|lieferung|zustellung|päckchen|versandpaket|bestellung)\w*\b[^.!?]{0,60}\b(?:konnte\s+nicht|nicht\s+zugestellt|wartet|angehalten|zurückgehalten|fehlgeschlagen|nicht\s+möglich|gestoppt|aussteh\w+|zoll\w*|zurückgeschickt|zurückgesendet|zurückgesandt|unvollständig\w*|blockiert|in\s+der\s+warteschlange|verzöger\w*|nicht\s+bestätigt|erneut)\b|)"
+     R"((?:\b(?:you\s+have|there\s+is|there['’]s|we\s+have|1|one|(?:a|your)\s+(?:new\s+)?(?:pending|undelivered|waiting|stopped|unclaimed|lost))|\(1\))\b[^.!?]{0,15}(?:\b(?:a\s+|an\s+|your\s+|one\s+)|\(?1\)?\s+)?(?:pending\s+|undelivered\s+|waiting\s+|unclaimed\s+|lost\s+|missed\s+|new\s+)*(?:parcel|package|shipment|delivery)\b[^.!?]{0,20}\b(?:waiting|pending|for\s+you|on\s+hold|undelivered|to\s+(?:collect|receive|confirm|claim|deliver)|delivery|awaits?|in\s+our|at\s+our|under\s+our|is)\b|)"
+     R"(\b(?:paket|sendung|lieferung|zustellung|päckchen|versandpaket|bestellung)\w*\b[^.!?]{0,60}\b(?:konnte\s+nicht|nicht\s+zugestellt|wartet|angehalten|zurückgehalten|fehlgeschlagen|versucht|in\s+den\s+warteschlangen|nicht\s+möglich|gestoppt|aussteh\w+|zoll\w*|zurückgeschickt|zurückgesendet|zurückgesandt|unvollständig\w*|blockiert|in\s+der\s+warteschlange|verzöger\w*|nicht\s+bestätigt|erneut)\b|)"
      R"(\b(?:colis|livraison|envoi|paquet)\b[^.!?]{0,60}\b(?:en\s+attente|n['’]a\s+pas\s+pu|suspendue?|bloquée?|retenue?|échouée?|frais|douane|reprogramm\w+|incomplète|non\s+livrée?|instructions|confirm\w+|retourné)\b|)"
      R"(\b(?:paquete|env[íi]o|entrega|encomenda|pacote|objeto|remessa|pedido)\b[^.!?]{0,60}\b(?:pendiente|no\s+pudo|no\s+se\s+pudo|retenid[oa]|aduan\w+|reprogram\w+|pendente|n[ãa]o\s+(?:foi|p[ôo]de)|retid[oa]|alf[âa]ndeg\w+|alfandeg\w+|taxad[oa]|aguardando|bloquead[oa]|suspens[oa]|incomplet[oa]|incorrect[oa]|custodia|devolvid[oa]|tributad[oa]|fiscaliza\w+|esperando|detenid[oa])\b|)"
      R"(\b(?:pakket|zending|bezorging|pakje|levering)\b[^.!?]{0,60}\b(?:wacht\w*|kon\s+niet|niet\s+(?:bezorgd|geleverd|worden)|douane\w*|vastgehouden|verzendkosten|opnieuw|gestopt|tegengehouden|onvolledig|uitgesteld|aangehouden)\b|)"
@@ -984,7 +987,9 @@ constexpr auto table = std::to_array<Rule>({
     // ---- Pressure ------------------------------------------------------------------------------
     {"urg-act-now", "Pressure", "warn", 25,
      "urges the reader to act at once",
-     R"(\b(?:act|respond|reply|click|verify|confirm|claim|order|call|log\s?in|update|register|apply|contact\s+us|proceed|take\s+action|pay)\s+(?:now|immediately|fast|quickly|today|right\s+away|promptly|without\s+delay|asap|urgently)\b|)"
+     R"(\bjetzt\s+(?:[\w-]+\s+){0,2}(?:sichern|anfordern|abholen|einlösen|registrieren|teilnehmen|holen|spielen|bestätigen|aktualisieren)\b|)"
+     R"(\b(?:sofort\s+geöffnet|klicken\s+sie\s+hier|hier\s+klicken|clique\s+aqui|haga\s+clic\s+aquí|haz\s+clic\s+aquí|cliquez\s+ici|klik\s+hier)\b|)"
+     R"(\b(?:act|respond|reply|click(?:\s+here)?|verify|confirm|claim|order|call|log\s?in|update|register|apply|contact\s+us|proceed|take\s+action|pay|upgrade|renew|activate|enrol+|collect|redeem|withdraw|get\s+started|secure\s+yours)\s+(?:now|immediately|fast|quickly|today|right\s+away|promptly|without\s+delay|asap|urgently)\b|)"
      R"(\b(?:immediate|urgent|prompt|swift|instant)\s+(?:action|attention|response|reply|assistance|verification|update)\b[^.!?]{0,20}\b(?:required|needed|is|requested|necessary|from\s+you|to|on)\b|)"
      R"(\b(?:action|attention|response|verification|update)\s+(?:is\s+)?(?:required|needed|requested)\b[^.!?]{0,12}(?:[:!]|\b(?:urgent\w*|immediately|now|today|account|verify|your)\b)|)"
      R"(\b(?:urgent|important|final|last|action)\b[^.!?]{0,3}\b(?:notice|notification|alert|reminder|warning|security\s+alert|message|update)\b|)"
@@ -1005,7 +1010,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"urg-24-hours", "Pressure", "warn", 25,
      "sets a deadline of hours or a few days",
-     R"(\b(?:within|in|next|less\s+than|only|after|under|the)\b[^.!?]{0,15}\b(?:the\s+)?(?:next\s+)?(?:24|48|72|12|6|2|36|twenty[- ]four|forty[- ]eight|seventy[- ]two)[ -]?(?:\([\w -]+\)\s?)?(?:hours?|hrs?)\b|)"
+     R"(\b(?:within|next|less\s+than|after|exactly|only\s+have|in|the\s+last)\b\s+(?:the\s+)?(?:next\s+|last\s+|coming\s+)?(?:24|48|72|12|6|2|36|twenty[- ]four|forty[- ]eight|seventy[- ]two)[ -]?(?:\([\w -]+\)\s?)?(?:hours?|hrs?)\b|)"
      R"(\b(?:within|in)\s+(?:the\s+)?(?:next\s+)?(?:2|3|5|7|two|three|five|seven)\s+(?:\(\w+\)\s+)?(?:business\s+|working\s+|calendar\s+)?days\b[^.!?]{0,60}\b(?:or|otherwise|will\s+be|account|suspend\w*|clos\w*|return\w*|terminat\w*|lose|legal|deactivat\w*|delet\w*)\b|)"
      R"(\b(?:otherwise|or|failure|fail)\b[^.!?]{0,60}\bwithin\s+(?:the\s+)?(?:next\s+)?(?:2|3|5|7|two|three|five|seven)\s+(?:\(\w+\)\s+)?(?:business\s+|working\s+|calendar\s+)?days\b|)"
      R"(\b(?:innerhalb|binnen|in\s+den\s+nächsten)\b[^.!?]{0,12}\b(?:24|48|72|12)[ -]?(?:stunden|std)\b|)"
@@ -1120,13 +1125,13 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"ext-pay-or-release", "Extortion", "warn", 75,
      "demands money to keep something from being published",
-     R"(\b(?:pay|send|transfer|payment|deposit|give\s+me)\b[^.!?]{0,80}\b(?:bitcoins?|btc|\$\s?\d|€\s?\d|usd|eur|money|amount|crypto\w*|monero|dollars)\b[^.!?]{0,150}\b(?:delete|erase|destroy|remove|won['’]t\s+(?:release|send|share|publish)|will\s+not\s+(?:release|send|share|publish)|keep\s+(?:quiet|silent|your\s+secret)|your\s+secret|forget\s+about|never\s+hear|or\s+(?:else\s+)?(?:i|we)\s+will|otherwise|disappear)\b[^.!?]{0,80}\b(?:video|photos?|footage|recording|files?|data|evidence|secret|contacts|everything|everyone|information|material|you|me|publish|release|all)\b|)"
+     R"(\b(?:pay|send|transfer|payment|deposit|give\s+me)\b[^.!?]{0,80}(?:\b(?:bitcoins?|btc|usd|eur|money|amount|crypto\w*|monero|dollars)|\$\s?\d|€\s?\d)\b[^.!?]{0,150}\b(?:delete|erase|destroy|remove|won['’]t\s+(?:release|send|share|publish)|will\s+not\s+(?:release|send|share|publish)|keep\s+(?:quiet|silent|your\s+secret)|your\s+secret|forget\s+about|never\s+hear|or\s+(?:else\s+)?(?:i|we)\s+will|otherwise|disappear)\b[^.!?]{0,80}\b(?:video|photos?|footage|recording|files?|data|evidence|secret|contacts|everything|everyone|information|material|you|me|publish|release|all)\b|)"
      R"(\b(?:if\s+you\s+(?:do\s+not|don['’]t|refuse|fail|ignore)|unless\s+you|if\s+i\s+(?:do\s+not|don['’]t)|otherwise|or\s+else|if\s+(?:the\s+)?payment\s+is\s+not|if\s+no\s+payment)\b[^.!?]{0,100}\b(?:send|publish|release|share|leak|forward|expose|upload|distribut\w+|post|go\s+public|made\s+public|sold|sell|auction)\b[^.!?]{0,60}\b(?:video|photos?|footage|recording|all\s+(?:of\s+)?your\s+(?:contacts|friends|family)|your\s+(?:contacts|friends|family|relatives|colleagues|coworkers|wife|husband|employer|customers|clients|data|files|secrets?|documents)|everyone|data|files|documents|information|internet|dark\s?web)\b|)"
      R"(\b(?:send|publish|release|share|leak|forward|distribut\w+)\b[^.!?]{0,50}\b(?:video|photos?|footage|recording|clip|screenshots?)\b[^.!?]{0,60}\b(?:all\s+(?:of\s+)?your|your)\s+(?:\w+\s+){0,3}(?:contacts|friends|family|relatives|colleagues|co-?workers|loved\s+ones|address\s+book|acquaintances|followers|social)\b|)"
      R"(\b(?:i|we)(?:['’]ll|\s+will)\s+(?:immediately\s+|permanently\s+)?(?:delete|erase|destroy|remove)\s+(?:the\s+|all\s+|your\s+|this\s+|every\s+)+(?:\w+\s+)?(?:video|photos?|footage|recording|files?|data|evidence|material|information|records?)\b[^.!?]{0,60}\b(?:pay\w*|once|after|receive\w*|bitcoin|btc|transfer\w*|money|as\s+soon\s+as|immediately|from)\b|)"
      R"(\b(?:veröffentlich\w+|verschick\w+|verbreit\w+|weiterleit\w+|send\w+)\b[^.!?]{0,60}\b(?:video\w*|aufnahme\w*|fotos?|daten)\b[^.!?]{0,80}\b(?:kontakte\w*|freunde\w*|familie|kollegen|bekannte\w*|bitcoin\w*|zahl\w+)\b|)"
      R"(\b(?:video\w*|aufnahme\w*|fotos?)\b[^.!?]{0,60}\b(?:an\s+(?:alle\s+)?(?:ihre|deine))\b[^.!?]{0,40}\b(?:kontakte\w*|freunde\w*|familie|kollegen|bekannte\w*|verwandte\w*)\b|)"
-     R"(\b(?:paye[rz]|verse[rz]|virement|envoye[rz])\b[^.!?]{0,80}\b(?:bitcoins?|btc|euros?|€)\b[^.!?]{0,100}\b(?:vidéo|photos?|publie\w*|diffuse\w*|supprime\w*|contacts)\b|)"
+     R"(\b(?:paye[rz]|verse[rz]|virement|envoye[rz])\b[^.!?]{0,80}(?:\b(?:bitcoins?|btc|euros?)\b|€)[^.!?]{0,100}\b(?:vidéo|photos?|publie\w*|diffuse\w*|supprime\w*|contacts)\b|)"
      R"(\b(?:pag\w+|transfi?[er]\w+|envi\w+)\b[^.!?]{0,80}\b(?:bitcoins?|btc|d[óo]lares|euros?)\b[^.!?]{0,100}\b(?:v[íi]deo|fotos?|public\w+|divulg\w+|borr\w+|apag\w+|contactos|contatos)\b)",
      true},
     {"ext-i-know-password", "Extortion", "warn", 70,
@@ -1150,7 +1155,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"ext-ransom-deadline", "Extortion", "warn", 60,
      "demands a ransom by a deadline",
-     R"(\b(?:you\s+have|you['’]ve\s+got|i\s+(?:give|am\s+giving)\s+you|we\s+(?:give|are\s+giving)\s+you|deadline|within)\b[^.!?]{0,25}\b(?:24|48|50|72|\d+|two|three|five|seven)\s?(?:hours?|hrs?|days)\b[^.!?]{0,80}\b(?:pay|send|transfer|payment|deposit)\b[^.!?]{0,60}\b(?:bitcoins?|btc|ransom|monero|wallet|crypto\w*|usd|\$\s?\d)\b|)"
+     R"(\b(?:you\s+have|you['’]ve\s+got|i\s+(?:give|am\s+giving)\s+you|we\s+(?:give|are\s+giving)\s+you|deadline|within)\b[^.!?]{0,25}\b(?:24|48|50|72|\d+|two|three|five|seven)\s?(?:hours?|hrs?|days)\b[^.!?]{0,80}\b(?:pay|send|transfer|payment|deposit)\b[^.!?]{0,60}(?:\b(?:bitcoins?|btc|ransom|monero|wallet|crypto\w*|usd)|\$\s?\d)\b|)"
      R"(\b(?:pay|send|transfer|payment)\b[^.!?]{0,60}\b(?:bitcoins?|btc|ransom|monero|wallet|crypto\w*)\b[^.!?]{0,80}\b(?:you\s+have|you['’]ve\s+got|deadline|within|only|in\s+the\s+next)\b[^.!?]{0,15}\b(?:24|48|50|72|\d+|two|three|five|seven)\s?(?:hours?|hrs?|days)\b|)"
      R"(\b(?:your\s+)?(?:files|data|network|servers?|documents|computers?|systems?|databases?)\b[^.!?]{0,25}\b(?:have\s+been|has\s+been|are|were|was)\s+(?:\w+\s+)?(?:encrypted|locked|stolen|exfiltrated)\b[^.!?]{0,150}\b(?:pay|decrypt\w*|ransom|bitcoins?|btc|recover\w*|contact\s+us|key|payment|restore)\b|)"
      R"(\b(?:timer|countdown|clock|time)\b[^.!?]{0,25}\b(?:start(?:ed|s)?|begin[s]?|began|ticking|run(?:s|ning)?)\b[^.!?]{0,60}\b(?:open(?:ed)?|read|letter|e-?mail|message|hours|pay|now)\b|)"
@@ -1399,7 +1404,7 @@ constexpr auto table = std::to_array<Rule>({
      "sends too much money and asks for the rest back",
      R"(\b(?:overpa(?:id|yment|y)|excess|extra\s+(?:money|funds|amount)|surplus|more\s+than\s+(?:the\s+)?(?:agreed|asking)|balance|remaining\s+(?:funds|money|balance)|remainder|difference)\b[^.!?]{0,80}\b(?:send|wire|refund|return|forward|transfer|pay|give|western\s+union|money\s?gram|zelle)\b[^.!?]{0,50}\b(?:back|difference|remaining|rest|balance|shipper|mover|agent|driver|vendor|courier|shipping\s+(?:company|agent))\b[^.!?]{0,60}\b(?:che(?:que|ck)|deposit|deducted?|bank|payment|pick\s?up|item|car|cash|western\s+union|money\s?gram|zelle|cashed|cleared?|you)\b|)"
      R"(\b(?:che(?:que|ck)|money\s+order|payment|cashier['’]?s\s+che(?:que|ck))\b[^.!?]{0,80}\b(?:deposit\w*|cash(?:ed)?|clear\w*)\b[^.!?]{0,80}\b(?:send|wire|refund|return|forward|transfer|western\s+union|zelle)\b[^.!?]{0,30}\b(?:back|difference|remaining|rest|balance|excess|shipper|mover|agent|remainder)\b|)"
-     R"(\b(?:deduct|keep|take)\b[^.!?]{0,40}\b(?:your|the)\b[^.!?]{0,15}\b(?:commission|salary|pay|wage|money|percentage|cost|\d+\s?%)\b[^.!?]{0,60}\b(?:and|then)\b[^.!?]{0,15}\b(?:send|wire|transfer|forward|deposit|remit|western\s+union)\b|)"
+     R"(\b(?:deduct|keep|take)\b[^.!?]{0,40}\b(?:your|the)\b[^.!?]{0,15}\b(?:(?:commission|salary|pay|wage|money|percentage|cost)\b|\d+\s?%)[^.!?]{0,60}\b(?:and|then)\b[^.!?]{0,15}\b(?:send|wire|transfer|forward|deposit|remit|western\s+union)\b|)"
      R"(\b(?:accidentally|mistakenly|by\s+mistake|in\s+error)\b[^.!?]{0,40}\b(?:sent|paid|transferred|deposited|refunded)\b[^.!?]{0,60}\b(?:back|return|refund|send|too\s+much|extra|difference)\b[^.!?]{0,30}\b(?:zelle|cash\s?app|venmo|gift|bitcoin|wire|western\s+union|paypal|transfer)\b|)"
      R"(\b(?:zu\s+viel|überzahl\w+|zuviel)\b[^.!?]{0,60}\b(?:überwiesen|bezahlt|scheck)\b[^.!?]{0,60}\b(?:zurück|differenz|rest|spediteur)\b)",
      true},
@@ -1416,14 +1421,14 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"job-work-from-home", "Job & goods fraud", "warn", 30,
      "promises easy money for work from home",
-     R"(\b(?:work(?:ing)?|jobs?|earn|income|business|position)\b[^.!?]{0,25}\b(?:from|at)\s+home\b[^.!?]{0,80}\b(?:earn|\$\s?\d|income|per\s+(?:hour|day|week|month)|weekly|daily|easy|extra|money|guaranteed|no\s+experience)\b|)"
+     R"(\b(?:work(?:ing)?|jobs?|earn|income|business|position)\b[^.!?]{0,25}\b(?:from|at)\s+home\b[^.!?]{0,80}(?:\b(?:earn|income|per\s+(?:hour|day|week|month)|weekly|daily|easy|extra|money|guaranteed|no\s+experience)|\$\s?\d)\b|)"
      R"(\b(?:earn|make|making|earning|income\s+of|salary|get\s+paid)\b[^.!?]{0,25}[$€£]\s?\d[\d,.]*k?[^.!?]{0,15}\b(?:per|a|an|every|each)\b\s+(?:hour|day|week|month)\b[^.!?]{0,80}\b(?:home|online|part[- ]time|remote\w*|spare\s+time|flexible|no\s+experience|phone|internet|easy|tasks?)\b|)"
      R"(\b(?:home|online|part[- ]time|remote\w*|spare\s+time|flexible|tasks?|from\s+anywhere)\b[^.!?]{0,80}\b(?:earn|make|salary|get\s+paid|income)\b[^.!?]{0,25}[$€£]\s?\d[\d,.]*k?[^.!?]{0,15}\b(?:per|a|an|every|each|daily|weekly)\b|)"
      R"(\b(?:extra|additional|passive|second|residual|unlimited|easy)\s+(?:income|money|cash)\b[^.!?]{0,60}\b(?:home|online|part[- ]time|internet|spare\s+time|system|opportunity|month|week|start)\b|)"
      R"(\b(?:be\s+your\s+own\s+boss|quit\s+your\s+(?:day\s+)?job|fire\s+your\s+boss|home[- ]based\s+business|make\s+money\s+(?:online|fast|from\s+home))\b|)"
-     R"(\b(?:like|liking|subscribe|rate|rating|review|optimi[sz]\w+|simple\s+(?:online\s+)?tasks)\b[^.!?]{0,40}\b(?:youtube|videos|hotels?|products|apps?|merchants?|google\s+maps?)\b[^.!?]{0,60}\b(?:earn|paid|commission|\$|daily|per|income|salary)\b|)"
+     R"(\b(?:like|liking|subscribe|rate|rating|review|optimi[sz]\w+|simple\s+(?:online\s+)?tasks)\b[^.!?]{0,40}\b(?:youtube|videos|hotels?|products|apps?|merchants?|google\s+maps?)\b[^.!?]{0,60}(?:\b(?:earn|paid|commission|daily|per|income|salary)|\$)\b|)"
      R"(\b(?:von\s+zu\s+hause|von\s+zuhause|nebenjob|nebenverdienst|heimarbeit)\b[^.!?]{0,60}\b(?:verdien\w+|einkommen|täglich|pro\s+(?:tag|woche|stunde)|geld\s+verdienen)\b|)"
-     R"(\b(?:travail|travaille[rz]?|emploi|revenus?)\b[^.!?]{0,20}\b(?:à\s+domicile|depuis\s+(?:chez\s+vous|votre\s+domicile)|complémentaires?)\b[^.!?]{0,60}\b(?:gagn\w+|€|euros?|par\s+(?:jour|mois|semaine)|facile)\b|)"
+     R"(\b(?:travail|travaille[rz]?|emploi|revenus?)\b[^.!?]{0,20}\b(?:à\s+domicile|depuis\s+(?:chez\s+vous|votre\s+domicile)|complémentaires?)\b[^.!?]{0,60}(?:\b(?:gagn\w+|euros?|par\s+(?:jour|mois|semaine)|facile)\b|€)|)"
      R"(\b(?:trabaj\w+|trabalh\w+|ingresos?|renda|gan\w+)\b[^.!?]{0,20}\b(?:desde\s+casa|em\s+casa|de\s+casa|en\s+l[íi]nea|online|extra)\b[^.!?]{0,60}\b(?:gan\w+|por\s+(?:d[íi]a|semana|mes|hora)|diari\w+|f[áa]cil)\b|)"
      R"((?:兼职|兼職|在家工作|刷单|刷單|居家赚钱|点赞)[^。！？.!?]{0,25}(?:元|赚|賺|收入|工资|薪|佣金)|)"
      R"((?:在宅|副業|スマホだけ|簡単な作業)[^。！？.!?]{0,25}(?:万円|稼げ|収入|日給|報酬)|)"
@@ -1431,24 +1436,24 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"job-mystery-shopper", "Job & goods fraud", "warn", 45,
      "recruits mystery shoppers or car-advert drivers",
-     R"(\b(?:mystery|secret)\s+(?:shopp(?:er|ers|ing)|evaluator|customer|store\s+evaluation)\b[^.!?]{0,150}\b(?:paid|earn|\$|che(?:que|ck)|assignment|gift\s+cards?|western\s+union|money\s?gram|apply|per|hired|position|program|weekly|task|survey|sign)\b|)"
+     R"(\b(?:mystery|secret)\s+(?:shopp(?:er|ers|ing)|evaluator|customer|store\s+evaluation)\b[^.!?]{0,150}(?:\b(?:paid|earn|che(?:que|ck)|assignment|gift\s+cards?|western\s+union|money\s?gram|apply|per|hired|position|program|weekly|task|survey|sign)|\$)\b|)"
      R"(\b(?:paid|earn|assignment|position|hiring|recruit\w*|become)\b[^.!?]{0,60}\b(?:mystery|secret)\s+(?:shopp(?:er|ers|ing)|evaluator)\b|)"
-     R"(\b(?:car|vehicle|auto|truck|bike)\b[^.!?]{0,15}\b(?:wrap|wrapped|advert\w*|decal|sticker)\b[^.!?]{0,80}\b(?:\$\s?\d|paid|earn|weekly|per\s+week|week|che(?:que|ck))\b|)"
+     R"(\b(?:car|vehicle|auto|truck|bike)\b[^.!?]{0,15}\b(?:wrap|wrapped|advert\w*|decal|sticker)\b[^.!?]{0,80}(?:\$\s?\d|\b(?:paid|earn|weekly|per\s+week|week|che(?:que|ck)))\b|)"
      R"(\b(?:evaluat\w+|assess)\b[^.!?]{0,30}\b(?:western\s+union|money\s?gram|walmart|best\s+buy|store)\b[^.!?]{0,60}\b(?:che(?:que|ck)|gift\s+cards?|transfer|assignment|paid|report)\b|)"
-     R"(\b(?:testkäufer|mystery\s?shopper|testkauf)\b[^.!?]{0,60}\b(?:verdien\w+|euro|€|bezahlt|gesucht)\b|)"
-     R"(\b(?:client[e]?s?\s+myst[èe]re|comprador(?:es)?\s+misterioso|cliente\s+(?:misterioso|oculto))\b[^.!?]{0,60}\b(?:pay\w+|gan\w+|rémun\w+|€|\$|pag\w+)\b)",
+     R"(\b(?:testkäufer|mystery\s?shopper|testkauf)\b[^.!?]{0,60}(?:\b(?:verdien\w+|euro|bezahlt|gesucht)\b|€)|)"
+     R"(\b(?:client[e]?s?\s+myst[èe]re|comprador(?:es)?\s+misterioso|cliente\s+(?:misterioso|oculto))\b[^.!?]{0,60}(?:\b(?:pay\w+|gan\w+|rémun\w+|pag\w+)\b|€|\$\b))",
      true},
     {"job-money-mule", "Job & goods fraud", "warn", 60,
      "recruits somebody to pass money or goods on through their own account",
-     R"(\b(?:receiv\w+|accept\w*|process\w*|collect\w*)\b[^.!?]{0,30}\b(?:payments?|funds|money|transfers?|deposits?|che(?:ques|cks))\b[^.!?]{0,60}\b(?:your|personal|own)\b[^.!?]{0,15}\b(?:bank\s+)?(?:account|paypal|zelle|cash\s?app)\b[^.!?]{0,100}\b(?:forward|transfer|send|keep|commission|percent|\d+\s?%|convert|remit|withdraw|pass)\b|)"
-     R"(\b(?:forward|transfer|send|withdraw|remit|wire)\b[^.!?]{0,50}\b(?:rest|remaining|balance|remainder|money|funds|bitcoin)\b[^.!?]{0,60}\b(?:keep|retain|minus|less|deduct\w*)\b[^.!?]{0,25}\b(?:commission|percent|\d+\s?%|your\s+(?:share|cut|fee|pay))\b|)"
-     R"(\b(?:keep|retain|take|earn|get|receive)\b[^.!?]{0,15}\b\d{1,2}\s?(?:%|percent)\b[^.!?]{0,40}\b(?:of\s+(?:each|every|the|all)|commission|per|as)\b[^.!?]{0,30}\b(?:transfer|transaction|payment|amount|deposit|funds|money|che(?:que|ck)|total)\b[^.!?]{0,80}\b(?:account|forward|bank|client|customer|send|rest|balance|you)\b|)"
-     R"(\b(?:payment|financial|transfer|collection|accounts?\s+receivable|money|representative)\s+(?:processing\s+)?(?:agent|representative|officer|manager|assistant|clerk)\b[^.!?]{0,100}\b(?:commission|\d+\s?%|your\s+(?:bank\s+)?account|work\s+from\s+home|percent|receive\s+payments?|north\s+america|part[- ]time|company['’]s\s+behalf|che(?:ques|cks))\b|)"
+     R"(\b(?:receiv\w+|accept\w*|process\w*|collect\w*)\b[^.!?]{0,30}\b(?:payments?|funds|money|transfers?|deposits?|che(?:ques|cks))\b[^.!?]{0,60}\b(?:your|personal|own)\b[^.!?]{0,15}\b(?:bank\s+)?(?:account|paypal|zelle|cash\s?app)\b[^.!?]{0,100}\b(?:(?:forward|transfer|send|keep|commission|percent|convert|remit|withdraw|pass)\b|\d+\s?%)|)"
+     R"(\b(?:forward|transfer|send|withdraw|remit|wire)\b[^.!?]{0,50}\b(?:rest|remaining|balance|remainder|money|funds|bitcoin)\b[^.!?]{0,60}\b(?:keep|retain|minus|less|deduct\w*)\b[^.!?]{0,25}\b(?:(?:commission|percent|your\s+(?:share|cut|fee|pay))\b|\d+\s?%)|)"
+     R"(\b(?:keep|retain|take|earn|get|receive)\b[^.!?]{0,15}\b\d{1,2}\s?(?:%|percent\b)[^.!?]{0,40}\b(?:of\s+(?:each|every|the|all)|commission|per|as)\b[^.!?]{0,30}\b(?:transfer|transaction|payment|amount|deposit|funds|money|che(?:que|ck)|total)\b[^.!?]{0,80}\b(?:account|forward|bank|client|customer|send|rest|balance|you)\b|)"
+     R"(\b(?:payment|financial|transfer|collection|accounts?\s+receivable|money|representative)\s+(?:processing\s+)?(?:agent|representative|officer|manager|assistant|clerk)\b[^.!?]{0,100}\b(?:(?:commission|your\s+(?:bank\s+)?account|work\s+from\s+home|percent|receive\s+payments?|north\s+america|part[- ]time|company['’]s\s+behalf|che(?:ques|cks))\b|\d+\s?%)|)"
      R"(\b(?:company|firm)['’]?s?\s+(?:representative|rep|agent)\b[^.!?]{0,60}\b(?:receive|collect|process)\b[^.!?]{0,40}\b(?:payments?|che(?:ques|cks)|funds)\b|)"
      R"(\b(?:receive|re-?ship|forward|repackage|inspect)\b[^.!?]{0,30}\b(?:packages?|parcels?|goods)\b[^.!?]{0,40}\b(?:at|to|from)\s+(?:your|their)\s+(?:home|address|house)\b[^.!?]{0,80}\b(?:re-?ship\w*|forward\w*|label\w*|paid|salary|job|per\s+(?:package|parcel)|earn|work)\b|)"
      R"(\b(?:finanzagent|warenagent|paketagent|zahlungsagent)\b|)"
      R"(\b(?:geld|zahlungen|beträge)\b[^.!?]{0,40}\b(?:ihr|ihrem|dein|deinem)\s+konto\b[^.!?]{0,60}\b(?:weiterleiten|weiterüberweisen|provision|prozent|behalten)\b|)"
-     R"(\b(?:recevoir|recevez|reciba|recibir|receber|receba)\b[^.!?]{0,40}\b(?:paiements?|virements?|pagos?|pagamentos?|transfer[êe]ncias?|transferencias?)\b[^.!?]{0,60}\b(?:commission|comisi[óo]n|comiss[ãa]o|\d+\s?%)\b|)"
+     R"(\b(?:recevoir|recevez|reciba|recibir|receber|receba)\b[^.!?]{0,40}\b(?:paiements?|virements?|pagos?|pagamentos?|transfer[êe]ncias?|transferencias?)\b[^.!?]{0,60}\b(?:(?:commission|comisi[óo]n|comiss[ãa]o)\b|\d+\s?%)|)"
      R"((?:出租|出售|收购|收購|借用)[^。！？.!?]{0,8}(?:银行卡|銀行卡|银行账户|支付宝|微信号)|)"
      R"((?:口座|通帳|キャッシュカード)[^。！？.!?]{0,10}(?:買取|売って|譲渡|貸して)|)"
      R"((?:통장|계좌|체크카드)[^.!?。]{0,8}(?:대여|삽니다|매입|임대|빌려))",
@@ -1459,7 +1464,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:job|position|employment|hired|offer|apartment|rental|house|property|loan|puppy|vehicle|landlord|keys|rent)\b[^.!?]{0,80}\b(?:pay|send|transfer|deposit|requires?|need)\b[^.!?]{0,40}\b(?:registration|training|application|background\s+check|visa|processing|equipment|starter\s+kit|security|refundable|work\s+permit|holding|insurance|first\s+month['’]s|upfront|booking|reservation)\s+(?:fees?|costs?|deposit|charges?|rent|payment|kit)\b|)"
      R"(\b(?:deposit|payment|fee)\b[^.!?]{0,30}\b(?:before|prior\s+to|to\s+(?:secure|hold|reserve))\b[^.!?]{0,20}\b(?:viewing|keys|see(?:ing)?\s+the\s+(?:apartment|house|property)|the\s+(?:apartment|house|property|job|position|puppy|car|loan|visa))\b|)"
      R"(\b(?:keys?|apartment|house|property)\b[^.!?]{0,60}\b(?:abroad|out\s+of\s+(?:the\s+)?(?:country|town|state)|overseas|missionary|mail(?:ed)?\s+(?:you|to\s+you)\s+the\s+keys)\b[^.!?]{0,80}\b(?:deposit|rent|payment|keys|western\s+union|transfer)\b|)"
-     R"(\b(?:loan|kredit|darlehen|prêt|pr[ée]stamo|empr[ée]stimo|cr[ée]dito)\b[^.!?]{0,60}\b(?:\d+(?:[.,]\d+)?\s?%|no\s+collateral|no\s+credit\s+check|without\s+collateral|bad\s+credit|any\s+amount|interest\s+rate|apply\s+(?:now|today)|ohne\s+schufa|sans\s+justificatif|sin\s+aval|sem\s+consulta|pr[ée]-?aprovad\w+|liberad[oa])\b|)"
+     R"(\b(?:loan|kredit|darlehen|prêt|pr[ée]stamo|empr[ée]stimo|cr[ée]dito)\b[^.!?]{0,60}\b(?:\d+(?:[.,]\d+)?\s?%|(?:no\s+collateral|no\s+credit\s+check|without\s+collateral|bad\s+credit|any\s+amount|interest\s+rate|apply\s+(?:now|today)|ohne\s+schufa|sans\s+justificatif|sin\s+aval|sem\s+consulta|pr[ée]-?aprovad\w+|liberad[oa])\b)|)"
      R"(\b(?:vorkasse|vorauszahlung|kaution)\b[^.!?]{0,60}\b(?:schlüssel|wohnung|ausland|besichtigung|stelle|job)\b|)"
      R"(\b(?:caution|acompte|mandat\s+cash)\b[^.!?]{0,60}\b(?:clés|appartement|logement|visite|étranger)\b)",
      true},
@@ -1478,8 +1483,8 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"rom-stuck-abroad", "Romance fraud", "warn", 50,
      "says the sender is stranded abroad and needs money",
-     R"(\b(?:stuck|stranded|trapped|detained|robbed|mugged|hospital\w*|lost\s+my\s+(?:wallet|passport|bag|luggage|phone|money)|stolen|arrested|held)\b[^.!?]{0,120}\b(?:abroad|overseas|airport|embassy|hotel|country|vacation|trip|malaysia|ukraine|turkey|nigeria|ghana|philippines|london|spain|cyprus|dubai|immigration|customs|rig|passport|wallet|credit\s+cards?)\b[^.!?]{0,150}\b(?:send|lend|loan|help|need|wire|transfer|western\s+union|money\s?gram|pay\s+(?:you\s+)?back|refund|borrow)\b[^.!?]{0,60}\b(?:money|me|\$|€|£|funds|cash|hotel\s+bill|ticket|western\s+union|you|bills?|quick\s+loan)\b|)"
-     R"(\b(?:need|send|lend|borrow|wire|loan)\b[^.!?]{0,40}\b(?:money|\$\s?\d|€\s?\d|£\s?\d|cash|funds)\b[^.!?]{0,60}\b(?:flight|ticket|visa|hospital|hotel\s+bill|get\s+home|come\s+home|fly\s+home|passport|embassy|stranded|stuck|release|lawyer|surgery)\b[^.!?]{0,60}\b(?:back|pay|home|you|soon|meet|return|promise|love|can['’]t|baby|dear|honey)\b|)"
+     R"(\b(?:stuck|stranded|trapped|detained|robbed|mugged|hospital\w*|lost\s+my\s+(?:wallet|passport|bag|luggage|phone|money)|stolen|arrested|held)\b[^.!?]{0,120}\b(?:abroad|overseas|airport|embassy|hotel|country|vacation|trip|malaysia|ukraine|turkey|nigeria|ghana|philippines|london|spain|cyprus|dubai|immigration|customs|rig|passport|wallet|credit\s+cards?)\b[^.!?]{0,150}\b(?:send|lend|loan|help|need|wire|transfer|western\s+union|money\s?gram|pay\s+(?:you\s+)?back|refund|borrow)\b[^.!?]{0,60}(?:\b(?:money|me|funds|cash|hotel\s+bill|ticket|western\s+union|you|bills?|quick\s+loan)\b|\$\b|€|£)|)"
+     R"(\b(?:need|send|lend|borrow|wire|loan)\b[^.!?]{0,40}(?:\b(?:money|cash|funds)|\$\s?\d|€\s?\d|£\s?\d)\b[^.!?]{0,60}\b(?:flight|ticket|visa|hospital|hotel\s+bill|get\s+home|come\s+home|fly\s+home|passport|embassy|stranded|stuck|release|lawyer|surgery)\b[^.!?]{0,60}\b(?:back|pay|home|you|soon|meet|return|promise|love|can['’]t|baby|dear|honey)\b|)"
      R"(\b(?:trip|vacation|conference|visit|holiday)\b[^.!?]{0,40}\b(?:mugged|robbed|stolen|stranded)\b|)"
      R"(\b(?:festsitz\w*|gestrandet|ausgeraubt|überfallen|bestohlen)\b[^.!?]{0,100}\b(?:ausland|flughafen|hotel|pass|botschaft)\b[^.!?]{0,100}\b(?:geld|überweis\w+|leih\w*|euro)\b|)"
      R"(\b(?:coincée?|bloquée?|agressée?|volée?)\b[^.!?]{0,80}\b(?:étranger|aéroport|hôtel|passeport|ambassade)\b[^.!?]{0,80}\b(?:argent|prêt\w*|virement|mandat|aide)\b|)"
@@ -1499,7 +1504,7 @@ constexpr auto table = std::to_array<Rule>({
      "poses as a soldier or contractor on deployment",
      R"(\b(?:i\s+am|i['’]m|am|my\s+name\s+is|this\s+is)\b[^.!?]{0,40}\b(?:sgt|sergeant|captain|major|general|lieutenant|colonel|soldier|army\s+officer|marine|us\s+army|u\.s\.\s+army|military\s+(?:officer|doctor|nurse|surgeon)|peace\s?keep(?:er|ing)|surgeon|petroleum\s+engineer|oil\s+rig|offshore\s+engineer|war\s+doctor)\b[^.!?]{0,120}\b(?:deployed|deployment|stationed|serving|syria|afghanistan|iraq|yemen|ukraine|kabul|baghdad|somalia|peace\s?keeping|base|camp|united\s+nations|mission|rig|offshore|widow\w*|retire)\b[^.!?]{0,120}\b(?:you|your|money|box|package|fund|leave|love|trust|consignment|retire\w*|assist\w*|met|friend\w*|relationship|help)\b|)"
      R"(\b(?:deployed|stationed|serving|mission)\b[^.!?]{0,25}\b(?:in|at)\s+(?:syria|afghanistan|iraq|yemen|ukraine|kabul|baghdad|somalia|libya|a\s+war\s+zone)\b[^.!?]{0,150}\b(?:love|leave\s+(?:fee|request)|trunk|consignment|box|million|fund|dear|honey|trust\s+you|relationship|retire\w*|safe\s?keeping|money\s+out)\b|)"
-     R"(\b(?:us\s+army|u\.s\.\s+army|american\s+soldier|peace\s?keeping|military)\b[^.!?]{0,120}\b(?:consignment|trunk\s+box|box\s+of|safe\s?keeping|found\s+(?:some\s+)?money|\$\s?\d[\d,.]*\s?m\w*|million)\b)",
+     R"(\b(?:us\s+army|u\.s\.\s+army|american\s+soldier|peace\s?keeping|military)\b[^.!?]{0,120}(?:\b(?:consignment|trunk\s+box|box\s+of|safe\s?keeping|found\s+(?:some\s+)?money|million)|\$\s?\d[\d,.]*\s?m\w*)\b)",
      true},
 
     // ---- Bulk mail -----------------------------------------------------------------------------
@@ -1520,7 +1525,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"spam-viagra", "Bulk mail", "warn", 45,
      "advertises potency drugs",
-     R"(\b(?:viagra|cialis|levitra|kamagra|sildenafil|tadalafil|vardenafil)\b[^.!?]{0,40}\b(?:buy|order|cheap\w*|price\w*|online|\$\s?\d|discount\w*|free|generic|shipping|save|sale|super|soft|mg)\b|)"
+     R"(\b(?:viagra|cialis|levitra|kamagra|sildenafil|tadalafil|vardenafil)\b[^.!?]{0,40}(?:\b(?:buy|order|cheap\w*|price\w*|online|discount\w*|free|generic|shipping|save|sale|super|soft|mg)|\$\s?\d)\b|)"
      R"(\b(?:buy|order|cheap\w*|online|discount\w*|free|generic|herbal)\b[^.!?]{0,30}\b(?:viagra|cialis|levitra|kamagra|sildenafil|tadalafil|vardenafil)\b|)"
      R"(\bv[1!|l]agra\b|)"
      R"(\bv[1!|il][@4]gra\b|)"
@@ -1529,7 +1534,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"spam-casino", "Bulk mail", "warn", 35,
      "advertises online gambling",
-     R"(\b(?:online|live|internet|virtual|crypto|mobile|best|top|new|our|vegas)\b[^.!?]{0,20}\b(?:casinos?|slots?|poker|roulette|betting|sportsbook|gambling)\b[^.!?]{0,60}\b(?:bonus\w*|free|win|play|deposit|\$|€|£|jackpot\w*|sign\s?up|join|spins?|odds|register|welcome)\b|)"
+     R"(\b(?:online|live|internet|virtual|crypto|mobile|best|top|new|our|vegas)\b[^.!?]{0,20}\b(?:casinos?|slots?|poker|roulette|betting|sportsbook|gambling)\b[^.!?]{0,60}(?:\b(?:bonus\w*|free|win|play|deposit|jackpot\w*|sign\s?up|join|spins?|odds|register|welcome)\b|\$\b|€|£)|)"
      R"(\b(?:casinos?|slots?|poker|roulette|betting|sportsbook|jackpots?)\b[^.!?]{0,40}\b(?:bonus\w*|free\s+spins?|no\s+deposit|welcome\s+(?:offer|pack\w*|bonus)|sign\s?up|deposit|payouts?|vip|chips|match\w*|play\s+now)\b|)"
      R"(\b(?:free|bonus|gratis)\s?-?spins?\b|)"
      R"(\b(?:bonus|welcome\s+(?:pack|package|offer)|willkommens(?:paket|bonus))\b[^.!?]{0,30}\b\d{2,4}\s?(?:fs|free\s+spins|freispiele|spins)\b|)"
@@ -1541,10 +1546,10 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"spam-seo", "Bulk mail", "warn", 30,
      "offers search-engine ranking, links or web design unasked",
-     R"(\b(?:seo|search\s+engine\s+(?:optimi[sz]ation|ranking)|google\s+(?:ranking|rankings|first\s+page|page\s+one|top)|first\s+page\s+of\s+google|top\s+of\s+google|backlinks?|link\s+building|guest\s+post(?:s|ing)?|domain\s+authority|organic\s+traffic|web\s?site\s+traffic|keyword\s+ranking)\b[^.!?]{0,100}\b(?:your|we|offer\w*|services?|package|price|rank\w*|increase|boost|improve|guarantee\w*|affordable|quote|proposal|website|site|cost|cheap|\$)\b|)"
+     R"(\b(?:seo|search\s+engine\s+(?:optimi[sz]ation|ranking)|google\s+(?:ranking|rankings|first\s+page|page\s+one|top)|first\s+page\s+of\s+google|top\s+of\s+google|backlinks?|link\s+building|guest\s+post(?:s|ing)?|domain\s+authority|organic\s+traffic|web\s?site\s+traffic|keyword\s+ranking)\b[^.!?]{0,100}(?:\b(?:your|we|offer\w*|services?|package|price|rank\w*|increase|boost|improve|guarantee\w*|affordable|quote|proposal|website|site|cost|cheap)|\$)\b|)"
      R"(\b(?:rank|boost|improve|increase|get|list(?:ed)?|submit|promote|place|put)\b[^.!?]{0,30}\byour\s+(?:\w+\s+)?(?:web\s?site|site|business|page|ranking|traffic|sales|listing)\b[^.!?]{0,60}\b(?:google|search\s+engines?|yahoo|bing|first\s+page|top\s+(?:10|ten|of)|ranking\w*|traffic|visitors)\b|)"
      R"(\b(?:redesign|design|develop\w*|build|errors|issues)\b[^.!?]{0,30}\byour\s+(?:\w+\s+)?(?:web\s?site|mobile\s+app|web\s?page)\b[^.!?]{0,80}\b(?:affordable|price\w*|quote|proposal|cost|package|portfolio|services?|interested|free\s+(?:audit|report|analysis)|ranking)\b|)"
-     R"(\b(?:million|thousands?|\d[\d,]{3,})\b[^.!?]{0,20}\b(?:e-?mail\s+addresses|e-?mails|leads|visitors|hits|followers|targeted\s+(?:contacts|visitors))\b[^.!?]{0,60}\b(?:\$\s?\d|only|price|buy|database|cd|list|sent|per|guaranteed|bulk|send|advertis\w+|lists?)\b|)"
+     R"(\b(?:million|thousands?|\d[\d,]{3,})\b[^.!?]{0,20}\b(?:e-?mail\s+addresses|e-?mails|leads|visitors|hits|followers|targeted\s+(?:contacts|visitors))\b[^.!?]{0,60}(?:\$\s?\d|\b(?:only|price|buy|database|cd|list|sent|per|guaranteed|bulk|send|advertis\w+|lists?))\b|)"
      R"(\b(?:e-?mail\s+(?:list|database|marketing|leads)|bulk\s+e-?mail|mailing\s+list|contact\s+list|data\s?base)\s+of\b[^.!?]{0,60}\b(?:decision\s+makers|users|attendees|companies|professionals|contacts|customers|executives|clients)\b|)"
      R"(\b(?:suchmaschinenoptimierung|referenzierung|référencement\s+(?:naturel|google)|posicionamiento\s+(?:web|seo)|otimiza[çc][ãa]o\s+de\s+sites)\b)",
      true},
@@ -1560,9 +1565,9 @@ constexpr auto table = std::to_array<Rule>({
     {"spam-100-free", "Bulk mail", "warn", 25,
      "advertises something as free of charge and of obligation",
      R"(\b(?:100%|one\s+hundred\s+percent|hundred\s+percent|completely|totally|absolutely|entirely|all)\s+free\b|)"
-     R"(\bfree\s+(?:gift|trial|access|sample|bonus|membership|money|quote|shipping|report|video|info(?:rmation)?|offer|download|consultation|preview|delivery|estimate|sign\s?up|registration|cash|vacation|cd|dvd|phone|installation|of\s+charge|month|entry|demo|credit\s+report|spins?|book|e-?book|guide|kit)\b[^.!?]{0,60}\b(?:now|today|click|call|order|claim|get|yours|no\s+(?:obligation|cost|charge|strings|risk|credit\s+card)|sign|limited|offer|act|here|when|with|visit|join|reply|receive|only|text)\b|)"
+     R"(\bfree\s+(?:gift|trial|access|sample|bonus|membership|money|quote|shipping|report|video|info(?:rmation)?|offer|download|consultation|preview|delivery|estimate|sign\s?up|registration|cash|vacation|cd|dvd|phone|installation|of\s+charge|month|entry|demo|credit\s+report|spins?|book|e-?book|guide|kit)\b[^.!?]{0,60}\b(?:now|today|click|call|order|claim|get|yours|no\s+(?:obligation|cost|charge|strings|risk|credit\s+card)|limited|act\s+now|sign\s?up)\b|)"
      R"(\b(?:no\s+(?:obligation|cost\s+to\s+you|strings\s+attached|hidden\s+(?:fees|costs|charges)|purchase\s+necessary|credit\s+card\s+(?:required|needed)|catch|gimmicks?))\b|)"
-     R"(\b(?:get|claim|receive|grab|order|win|try|take)\b[^.!?]{0,20}\b(?:your\s+|a\s+|it\s+|them\s+|one\s+|our\s+|the\s+)?(?:\w+\s+)?(?:free|for\s+free|freebie|complimentary)\b[^.!?]{0,40}\b(?:now|today|gift|trial|sample|offer|click|here|limited|prize|\$|card|month|copy|kit|box|before)\b|)"
+     R"(\b(?:get|claim|receive|grab|order|win|try|take)\b[^.!?]{0,20}\b(?:your\s+|a\s+|it\s+|them\s+|one\s+|our\s+|the\s+)?(?:\w+\s+)?(?:free|for\s+free|freebie|complimentary)\b[^.!?]{0,40}(?:\b(?:now|today|gift|trial|sample|offer|click|here|limited|prize|card|month|copy|kit|box|before)|\$)\b|)"
      R"(\b(?:100\s?%\s+(?:kostenlos|gratis)|völlig\s+kostenlos|komplett\s+kostenlos|gratis\s+testen|kostenlos\s+testen|kostenlos\s+und\s+unverbindlich|jetzt\s+kostenlos|ganz\s+kostenlos|unverbindlich\s+und\s+kostenlos)\b|)"
      R"(\b(?:100\s?%\s+gratuit|totalement\s+gratuit|entièrement\s+gratuit|sans\s+engagement|gratuit\s+et\s+sans)\b|)"
      R"(\b(?:100\s?%\s+(?:gratis|gratuit[oa])|totalmente\s+(?:gratis|gratuit[oa])|completamente\s+gratis|sin\s+compromiso|sem\s+compromisso|consulta\s+gratuita|gr[áa]tis\s+agora|sem\s+custo|frete\s+gr[áa]tis)\b|)"
@@ -1816,10 +1821,11 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"sa-dear-something", "Bulk mail", "warn", 24,
      "opens with a form of address that fits anybody",
+     R"(\bdear\s+(?:[\w.]+\s+){0,2}(?:community|holders?|supporters?|enthusiasts?|participants?|recipients?|account\s+holder)\b|)"
      R"(\bdear\s+(?:valued\s+|esteemed\s+|respected\s+|beloved\s+|our\s+|my\s+|most\s+|sir\s?/\s?|sir\s+or\s+|e-?mail\s+|mail\s+|account\s+|bank\s+|web\s?mail\s+|mailbox\s+|online\s+|paypal\s+|amazon\s+|apple\s+|netflix\s+|facebook\s+|crypto\s+|wallet\s+|lucky\s+|good\s+|prospective\s+|potential\s+|loyal\s+|home\s?|web\s?site\s+|domain\s+|business\s+|internet\s+|fellow\s+|card\s?|credit\s+|premium\s+|intended\s+|investment\s+|trading\s+|[\w.+-]{1,40}\s+)?(?:sir(?:\s?/\s?|\s+or\s+)?(?:madam|ma['’]?am)?|madam|friend|customer|client|user|member|account\s?(?:owner|holder|user)|beneficiary|subscriber|winner|owner|sir\(s\)|valued|sirs?|investor|applicant|e-?mail\s+(?:user|owner)|recipient|candidate|card\s?holder|purchaser|buyer|consumer|homeowner|webmaster|partner|shopper|taxpayer|citizen|entrepreneur|one|beloved|in\s+christ|good\s+day|participant|guest|tax\s?payer|supporter|holder|participant)\b|)"
      R"(\bdear\s+[\w.+-]{1,40}@[\w.-]{2,40}|)"
-     R"(\b(?:hello|hi|hey|greetings|attention|attn|good\s+day)\s+(?:dear\b[^.!?]{0,2}$|dear,|valued\s+customer|customer|beneficiary|user|friend|my\s+friend|dear\s+friend|sir|winner|beloved|account\s+(?:owner|holder)|e-?mail\s+(?:user|owner)|[\w.+-]{1,40}@[\w.-]{2,40})\b|)"
-     R"(\b(?:sehr\s+geehrte(?:r|/r|\(r\))?|lieber?|hallo|guten\s+tag)\s+(?:geschätzte[r]?\s+|liebe[r]?\s+|verehrte[r]?\s+)?(?:kunde|kundin|kunden|nutzer|nutzerin|benutzer|kontoinhaber\w*|gewinner\w*|mitglied\w*|freund|empfänger\w*|kundinnen|karteninhaber\w*|begünstigte\S*|[\w.+-]{1,40}@[\w.-]{2,40})\b|)"
+     R"(\b(?:hello|hi|hey|greetings|attention|attn|good\s+day)\s+(?:dear\b[^.!?]{0,2}$|dear,|(?:valued\s+customer|customer|beneficiary|user|friend|my\s+friend|dear\s+friend|sir|winner|beloved|account\s+(?:owner|holder)|e-?mail\s+(?:user|owner)|[\w.+-]{1,40}@[\w.-]{2,40})\b)|)"
+     R"(\b(?:sehr\s+geehrte(?:r|/r|\(r\))?|lieber?|hallo|guten\s+tag)\s+(?:geschätzte[r]?\s+|liebe[r]?\s+|verehrte[r]?\s+)?(?:kunde|kundin|kunden|nutzer|nutzerin|benutzer|kontoinhaber\w*|gewinner\w*|mitglied\w*|teilnehmer\w*|freund|empfänger\w*|kundinnen|karteninhaber\w*|begünstigte\S*|[\w.+-]{1,40}@[\w.-]{2,40})\b|)"
      R"(\b(?:cher|chère|bonjour|chers?)\s+(?:\w+\s+)?(?:client|cliente|clients|utilisateur|utilisatrice|membre|ami|amie|bénéficiaire|abonnée?|titulaire|allocataire)\b|)"
      R"(\b(?:estimad[oa]|querid[oa]|prezad[oa]|car[oa]|ol[áa]|hola)s?\s?(?:\([ao]\))?,?\s+(?:se[ñn]hor(?:\(a\))?\s+)?(?:cliente|usuari[oa]|usu[áa]ri[oa]|amig[oa]|membro|miembro|benefici[áa]ri[oa]|beneficiari[oa]|titular|contribuinte|cidad[ãa]o|consumidor|socio|assinante|correntista|associado|motorista|condutor|[\w.+-]{1,40}@[\w.-]{2,40})\b|)"
      R"(\b(?:beste|geachte|hallo)\s+(?:heer\s?/\s?mevrouw|klant|gebruiker|relatie|lid|cliënt|rekeninghouder|winnaar|[\w.+-]{1,40}@[\w.-]{2,40})\b|)"
@@ -1835,10 +1841,13 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"sa-excuse-4", "Bulk mail", "warn", 29,
      "excuses itself for coming unasked and offers removal",
+     R"(\bunsubscribe\b[^.!?]{0,60}\bby\s+writing\s+to\b|)"
+     R"(\byou\s+may\s+also\s+write\s+to\s+us\s+at\b|)"
+     R"(\bthis\s+is\s+a\s+marketing\s+message\b|)"
      R"(\b(?:to|if\s+you\s+(?:wish|want|would\s+like|prefer|choose))\s+(?:to\s+)?(?:be\s+)?(?:removed|remove\s+yourself|remove\s+your\s+(?:name|address|e-?mail)|taken\s+off)\b[^.!?]{0,25}\b(?:from|off)\b[^.!?]{0,25}\b(?:e-?mails?\s+list|mailing\s+list|mailings?|database|lists?)\b|)"
      R"(\b(?:you\s+may|please|to)\s+follow\s+this\s+link\s+to\s+be\s+removed\b|)"
      R"(\b(?:removed|removal|opt[- ]?out)\b[^.!?]{0,20}\b(?:reply|send|e-?mail|simply|visit|type)\b[^.!?]{0,20}\b(?:with|word|subject|remove|to)\b|)"
-     R"(\b(?:reply|respond|e-?mail|send)\b[^.!?]{0,25}\b(?:with|word|subject)\b[^.!?]{0,20}\b(?:"?remove"?|take\s+me\s+off)\b|)"
+     R"(\b(?:reply|respond|e-?mail|send)\b[^.!?]{0,25}\b(?:with|word|subject)\b[^.!?]{0,20}(?:"?remove"?|\btake\s+me\s+off)\b|)"
      R"(\bunsubscribe\s+from\s+all\s+e-?mail\s+lists?\b|)"
      R"(\bthis\s+is\s+an\s+advertisement\b)",
      true},
@@ -1855,8 +1864,8 @@ constexpr auto table = std::to_array<Rule>({
     {"sa-strong-buy", "Bulk mail", "warn", 12,
      "recommends a share as a strong buy",
      R"(\bstrong\s+buy\b|)"
-     R"(\b(?:hot|undervalued|explosive|red[- ]hot|micro\s?cap|penny|small\s?cap)\s+(?:\w+\s+)?(?:stocks?|pick|picks|shares|play)\b[^.!?]{0,60}\b(?:buy|target|gain\w*|watch|alert|profits?|%|explode|soar|now|week|move)\b|)"
-     R"(\b(?:target\s+price|price\s+target|projected\s+(?:price|gain)|short[- ]term\s+target)\b[^.!?]{0,40}\b(?:buy|\$\s?\d|%|strong|stock)\b[^.!?]{0,40}\b(?:stock|shares?|alert|buy|otc|symbol|ticker|watch)\b)",
+     R"(\b(?:hot|undervalued|explosive|red[- ]hot|micro\s?cap|penny|small\s?cap)\s+(?:\w+\s+)?(?:stocks?|pick|picks|shares|play)\b[^.!?]{0,60}(?:\b(?:buy|target|gain\w*|watch|alert|profits?|explode|soar|now|week|move)\b|%)|)"
+     R"(\b(?:target\s+price|price\s+target|projected\s+(?:price|gain)|short[- ]term\s+target)\b[^.!?]{0,40}(?:\b(?:buy|strong|stock)\b|\$\s?\d\b|%)[^.!?]{0,40}\b(?:stock|shares?|alert|buy|otc|symbol|ticker|watch)\b)",
      true},
     {"sa-stock-alert", "Bulk mail", "warn", 12,
      "is a share tip dressed as an alert",
@@ -2008,13 +2017,13 @@ constexpr auto table = std::to_array<Rule>({
      "sells replica watches or bags",
      R"(\b(?:replicas?|imitation|knock-?offs?|fake|copies\s+of|identical)\b[^.!?]{0,25}\b(?:watch(?:es)?|rolex(?:es)?|handbags?|bags|purses?|timepieces?|omega|cartier|breitling|louis\s+vuitton|gucci|jewel(?:le)?ry|sneakers|designer)\b|)"
      R"(\b(?:watch(?:es)?|rolex(?:es)?|handbags?|timepieces?|omega|cartier|breitling|louis\s+vuitton|gucci)\b[^.!?]{0,20}\b(?:replicas?|imitations?|knock-?offs?|copies)\b|)"
-     R"(\b(?:luxury|swiss|designer|brand[- ]name)\s+(?:watch(?:es)?|timepieces?)\b[^.!?]{0,40}\b(?:\$\s?\d|cheap\w*|discount\w*|sale|fraction|wholesale|off|order|from|price\w*)\b|)"
+     R"(\b(?:luxury|swiss|designer|brand[- ]name)\s+(?:watch(?:es)?|timepieces?)\b[^.!?]{0,40}(?:\$\s?\d|\b(?:cheap\w*|discount\w*|sale|fraction|wholesale|off|order|from|price\w*))\b|)"
      R"(\b(?:replica-?uhren|uhrenreplik\w*|montres?\s+répliques?|relojes?\s+réplicas?|réplicas?\s+de\s+relógios?)\b|)"
      R"((?:高仿|精仿|复刻|複刻)[^。！？.!?]{0,8}(?:手表|手錶|名表|包包|鞋))",
      true},
     {"sa-em-rolex", "Bulk mail", "warn", 12,
      "advertises a famous make of watch",
-     R"(\brolex(?:es)?\b[^.!?]{0,50}\b(?:\$\s?\d|cheap\w*|sale|buy|order|price\w*|discount\w*|free|replicas?|only|off|win|genuine|online|watch(?:es)?|swiss)\b|)"
+     R"(\brolex(?:es)?\b[^.!?]{0,50}(?:\$\s?\d|\b(?:cheap\w*|sale|buy|order|price\w*|discount\w*|free|replicas?|only|off|win|genuine|online|watch(?:es)?|swiss))\b|)"
      R"(\b(?:cheap\w*|sale|buy|order|discount\w*|free|win|genuine|get|own|wear)\b[^.!?]{0,25}\brolex(?:es)?\b)",
      true},
 

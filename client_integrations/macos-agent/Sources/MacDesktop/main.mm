@@ -1,0 +1,173 @@
+#include <memory>
+#include <optional>
+
+#import <AppKit/AppKit.h>
+
+#include "MacDesktop/MacAlerts.h"
+#include "MacDesktop/MacApplications.h"
+#include "MacDesktop/MacDefaults.h"
+#include "MacDesktop/MacError.h"
+#include "MacDesktop/MacFiles.h"
+#include "MacDesktop/MacHotkey.h"
+#include "MacDesktop/MacHttpTransport.h"
+#include "MacDesktop/MacKeyEvents.h"
+#include "MacDesktop/MacKeyStore.h"
+#include "MacDesktop/MacLog.h"
+#include "MacDesktop/MacMachineIdentity.h"
+#include "MacDesktop/MacMainLoop.h"
+#include "MacDesktop/MacPasteboard.h"
+#include "MacDesktop/MacPresence.h"
+#include "MacDesktop/MacProgram.h"
+#include "MacDesktop/MacScriptRunner.h"
+#include "MacDesktop/MacStatusItem.h"
+#include "MacDesktop/MacWallClock.h"
+#include "MacDesktop/MacWindow.h"
+#include "Quillseal/AppDelegate.h"
+#include "Quillseal/BrowserTabReturn.h"
+
+namespace quillseal::mac {
+namespace {
+
+/// The application: the services of this desktop and, between launch and end, the agent on them.
+class QuillsealApp {
+ public:
+  void launch() {
+    agent_.emplace(desktop_);
+    agent_->applicationDidFinishLaunching();
+  }
+
+  void showSettings() {
+    if (agent_) agent_->menuBarManager().configureServer();
+  }
+
+  /// Cancels what is under way. The services stay for workers that have not ended.
+  void end() { agent_.reset(); }
+
+ private:
+  MacLog log_;
+  MacMainLoop loop_;
+  MacAlerts alerts_{{.loop = loop_, .log = log_}};
+  MacApplications applications_{loop_};
+  MacDefaults defaults_{{.loop = loop_, .log = log_}, {"ServerURL", "APIKey", "BoundIdentity"}};
+  MacFiles files_;
+  MacHotkey hotkey_{loop_};
+  MacHttpTransport http_{loop_};
+  MacKeyEvents keys_{{.loop = loop_, .log = log_}};
+  MacKeyStore keyStore_{log_};
+  MacMachineIdentity machine_;
+  MacPasteboard pasteboard_;
+  MacPresence presence_{loop_};
+  MacProgram program_{loop_};
+  MacScriptRunner scripts_{loop_};
+  MacStatusItem statusItem_;
+  MacWallClock wallClock_;
+  MacWindows windows_;
+  BrowserTabReturn::ScriptedBrowserTabs browserTabs_{scripts_, log_};
+  desktop::Desktop desktop_{
+      .alerts = alerts_,
+      .applications = applications_,
+      .browserTabs = browserTabs_,
+      .defaults = defaults_,
+      .files = files_,
+      .hotkey = hotkey_,
+      .http = http_,
+      .keys = keys_,
+      .keyStore = keyStore_,
+      .log = log_,
+      .machine = machine_,
+      .loop = loop_,
+      .pasteboard = pasteboard_,
+      .presence = presence_,
+      .program = program_,
+      .statusItem = statusItem_,
+      .wallClock = wallClock_,
+      .windows = windows_,
+  };
+  std::optional<AppDelegate> agent_;
+};
+
+NSMenuItem* submenu(NSString* title, NSArray<NSMenuItem*>* items) {
+  NSMenu* menu = [[NSMenu alloc] initWithTitle:title];
+  menu.itemArray = items;
+  NSMenuItem* item = [[NSMenuItem alloc] initWithTitle:title action:nil keyEquivalent:@""];
+  item.submenu = menu;
+  return item;
+}
+
+NSMenuItem* command(NSString* title, SEL action, NSString* key) {
+  return [[NSMenuItem alloc] initWithTitle:title action:action keyEquivalent:key];
+}
+
+/// An accessory shows no menu bar, but the shortcuts of its text fields and windows are those of
+/// its main menu.
+NSMenu* mainMenu() {
+  NSMenu* menu = [[NSMenu alloc] init];
+  menu.itemArray = @[
+    submenu(@"Quill Seal", @[ command(@"Quit Quill Seal", @selector(terminate:), @"q") ]),
+    submenu(@"Edit",
+            @[
+              command(@"Undo", NSSelectorFromString(@"undo:"), @"z"),
+              command(@"Redo", NSSelectorFromString(@"redo:"), @"Z"),
+              NSMenuItem.separatorItem,
+              command(@"Cut", @selector(cut:), @"x"),
+              command(@"Copy", @selector(copy:), @"c"),
+              command(@"Paste", @selector(paste:), @"v"),
+              command(@"Select All", @selector(selectAll:), @"a"),
+            ]),
+    submenu(@"Window", @[ command(@"Close", @selector(performClose:), @"w") ]),
+  ];
+  return menu;
+}
+
+}  // namespace
+}  // namespace quillseal::mac
+
+/// Hands the application's life over to `QuillsealApp`.
+@interface QSApplicationDelegate : NSObject <NSApplicationDelegate>
+@end
+
+@implementation QSApplicationDelegate {
+  std::unique_ptr<quillseal::mac::QuillsealApp> _app;
+}
+
+- (void)applicationWillFinishLaunching:(NSNotification*)__unused notification {
+  NSApp.mainMenu = quillseal::mac::mainMenu();
+}
+
+- (void)applicationDidFinishLaunching:(NSNotification*)__unused notification {
+  quillseal::mac::callGuarded([self] {
+    self->_app = std::make_unique<quillseal::mac::QuillsealApp>();
+    self->_app->launch();
+  });
+}
+
+- (BOOL)applicationShouldHandleReopen:(NSApplication*)__unused application
+                    hasVisibleWindows:(BOOL)__unused visible {
+  quillseal::mac::callGuarded([self] {
+    if (self->_app) self->_app->showSettings();
+  });
+  return NO;
+}
+
+- (BOOL)applicationSupportsSecureRestorableState:(NSApplication*)__unused application {
+  return YES;
+}
+
+- (void)applicationWillTerminate:(NSNotification*)__unused notification {
+  quillseal::mac::callGuarded([self] {
+    if (self->_app) self->_app->end();
+  });
+}
+
+@end
+
+int main() {
+  @autoreleasepool {
+    NSApplication* application = NSApplication.sharedApplication;
+    // The application does not keep its delegate.
+    NS_VALID_UNTIL_END_OF_SCOPE QSApplicationDelegate* delegate =
+        [[QSApplicationDelegate alloc] init];
+    application.delegate = delegate;
+    [application run];
+  }
+}

@@ -38,6 +38,55 @@ std::string line(std::string_view label, std::string_view value) {
   return text.append(value).append("\n");
 }
 
+/// The columns that a terminal gives to `text`.
+std::size_t columnsOf(std::string_view text) {
+  std::size_t columns = 0;
+  for (std::size_t position = 0; position < text.size();) {
+    const auto scalar = static_cast<UChar32>(unicode::nextScalar(text, position));
+    const auto width = u_getIntPropertyValue(scalar, UCHAR_EAST_ASIAN_WIDTH);
+    if (u_hasBinaryProperty(scalar, UCHAR_GRAPHEME_EXTEND) == 0)
+      columns += width == U_EA_WIDE || width == U_EA_FULLWIDTH ? 2 : 1;
+  }
+  return columns;
+}
+
+/// The last `count` scalars of `text`, with a mark where more came before them.
+std::string tailOf(std::string_view text, std::size_t count) {
+  std::size_t start = text.size();
+  for (; count > 0 && start > 0; --count)
+    static_cast<void>(unicode::previousScalar(text, start));
+  return (start > 0 ? "…" : "") + printable(text.substr(start));
+}
+
+std::string headOf(std::string_view text, std::size_t count) {
+  std::size_t end = 0;
+  for (; count > 0 && end < text.size(); --count)
+    static_cast<void>(unicode::nextScalar(text, end));
+  return printable(text.substr(0, end)) + (end < text.size() ? "…" : "");
+}
+
+/// The matched words within what surrounds them, and a line that underlines them.
+std::string underlined(std::string_view text, const ContentRisk::Hit& hit) {
+  if (hit.start == hit.end) return line("", "(by what stands anywhere in the text)");
+  const std::string before = tailOf(text.substr(0, hit.start), 24);
+  const std::string matched = headOf(text.substr(hit.start, hit.end - hit.start), 60);
+  const std::string after = headOf(text.substr(hit.end), 24);
+  return line("", before + matched + after) +
+         line("", std::string(columnsOf(before), ' ') + std::string(columnsOf(matched), '^'));
+}
+
+std::string findingsReport(const Inspection& inspection) {
+  const auto& [findings, score, isBlocked, shouldWarn] = inspection.screening.assessment;
+  const std::string_view verdict = isBlocked ? "refused" : shouldWarn ? "warned" : "passed";
+  std::string report = line("Screening", std::string(verdict) + ", score " + std::to_string(score));
+  for (std::size_t i = 0; i < findings.size(); ++i) {
+    report += line("", findings[i].id + " (" + std::to_string(findings[i].points) +
+                           (findings[i].isBlocking ? ", blocks): " : "): ") + findings[i].category);
+    report += underlined(inspection.text, inspection.screening.hits[i]);
+  }
+  return report;
+}
+
 }  // namespace
 
 Inspection inspect(const Capture& capture) {
@@ -54,6 +103,7 @@ Inspection inspect(const Capture& capture) {
   result.expires =
       CryptoManager::expiryDateFor({.issued = capture.issued, .wordCount = result.words});
   result.promptSubject = promptSubject(result.text);
+  result.screening = ContentRisk::screen(result.text);
   return result;
 }
 
@@ -71,6 +121,7 @@ std::string readableReport(const Inspection& inspection) {
   report += line("Expires", inspection.expires.empty() ? "never valid: the issue date is no date"
                                                        : inspection.expires);
   report += line("Prompt", printable(inspection.promptSubject));
+  report += findingsReport(inspection);
   return report;
 }
 

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "Quillseal/ContentRisk.h"
+
 namespace quillseal::inspect {
 
 /// What the agent would capture and when.
@@ -28,6 +30,7 @@ struct Inspection {
   std::string imageDigest;
   std::string expires;  ///< empty when the issue date is no date
   std::string promptSubject;
+  ContentRisk::Screening screening;
 };
 
 /// Computes what would be signed. `capture` must be well-formed UTF-8.

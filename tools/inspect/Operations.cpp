@@ -10,6 +10,8 @@
 
 #include "Quillseal/BrowserScripts.h"
 #include "Quillseal/ConfirmationText.h"
+#include "Quillseal/ContentRisk.h"
+#include "Quillseal/ContentRules.h"
 #include "Quillseal/CryptoManager.h"
 #include "Quillseal/SignedBlock.h"
 #include "Quillseal/SigningScope.h"
@@ -157,6 +159,14 @@ Json orNull(const std::optional<std::string>& text) {
   return text ? Json(*text) : Json(nullptr);
 }
 
+Json quotedSpansOperation(const Request& request) {
+  const std::string text = request.string("text");
+  Json spans = Json::array();
+  for (const ContentRisk::QuotedSpan& span : ContentRisk::quotedSpans(text))
+    spans.push_back({span.firstCharacter, span.endCharacter});
+  return {{"spans", spans}};
+}
+
 Json tabScriptOperation(const Request& request) {
   const std::string bundle = request.string("bundle");
   const std::string urlContains = request.string("url_contains");
@@ -172,11 +182,11 @@ struct Operation {
 };
 
 constexpr std::array operations{
-    Operation{"block", blockOperation},          Operation{"canonical", canonicalOperation},
-    Operation{"compose", composeOperation},      Operation{"confirm", confirmOperation},
-    Operation{"expiry", expiryOperation},        Operation{"inspect", inspectOperation},
-    Operation{"medium", mediumOperation},        Operation{"scope", scopeOperation},
-    Operation{"tab_script", tabScriptOperation},
+    Operation{"block", blockOperation},     Operation{"canonical", canonicalOperation},
+    Operation{"compose", composeOperation}, Operation{"confirm", confirmOperation},
+    Operation{"expiry", expiryOperation},   Operation{"inspect", inspectOperation},
+    Operation{"medium", mediumOperation},   Operation{"quoted_spans", quotedSpansOperation},
+    Operation{"scope", scopeOperation},     Operation{"tab_script", tabScriptOperation},
 };
 
 /// The four hexadecimal digits behind "\u" at `at`, or nothing.
@@ -230,9 +240,27 @@ Json perform(std::string_view requestLine) {
   return operation->perform(request);
 }
 
+Json toJson(const ContentRisk::Assessment& assessment) {
+  Json findings = Json::array();
+  for (const ContentRisk::Finding& finding : assessment.findings)
+    findings.push_back({{"id", finding.id},
+                        {"category", finding.category},
+                        {"why", finding.why},
+                        {"points", finding.points},
+                        {"blocking", finding.isBlocking}});
+  return {{"score", assessment.score},
+          {"blocked", assessment.isBlocked},
+          {"warn", assessment.shouldWarn},
+          {"findings", findings}};
+}
+
 }  // namespace
 
 Json toJson(const Inspection& inspection) {
+  const ContentRisk::Assessment& assessment = inspection.screening.assessment;
+  const auto textIf = [&](bool applies, std::string (*text)(const ContentRisk::Assessment&)) {
+    return applies ? Json(text(assessment)) : Json(nullptr);
+  };
   return {{"words", inspection.words},
           {"normalized", inspection.normalized},
           {"normalized_characters", inspection.normalizedCharacters},
@@ -242,7 +270,24 @@ Json toJson(const Inspection& inspection) {
           {"image_urls", inspection.imageURLs},
           {"image_digest", inspection.imageDigest},
           {"expires", inspection.expires},
-          {"prompt_subject", inspection.promptSubject}};
+          {"prompt_subject", inspection.promptSubject},
+          {"assessment", toJson(assessment)},
+          {"refusal_title", textIf(assessment.isBlocked, ContentRisk::refusalTitle)},
+          {"explanation", textIf(assessment.isBlocked, ContentRisk::explanation)},
+          {"warning", textIf(assessment.shouldWarn, ContentRisk::warning)}};
+}
+
+std::string rulesTable() {
+  Json rules = Json::array();
+  for (const ContentRules::Rule& rule : ContentRules::all)
+    rules.push_back({{"id", rule.id},
+                     {"category", rule.category},
+                     {"severity", rule.severity},
+                     {"points", rule.points},
+                     {"why", rule.why},
+                     {"pattern", rule.pattern},
+                     {"caseInsensitive", rule.caseInsensitive}});
+  return rules.dump(2) + '\n';
 }
 
 std::string answer(std::string_view requestLine) {

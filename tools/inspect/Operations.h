@@ -12,6 +12,10 @@ namespace quillseal::inspect {
 /// The inspection as one JSON object.
 [[nodiscard]] nlohmann::ordered_json toJson(const Inspection& inspection);
 
+/// The table of content rules as a JSON array, indented, with a line feed at its end: what
+/// content_rules.json holds.
+[[nodiscard]] std::string rulesTable();
+
 /// Answers one request, a line of JSON with the key "op", with one line of JSON (without a line
 /// feed). A request that cannot be answered gets {"error": "..."}; nothing is thrown for it. Bytes
 /// that are no UTF-8 and lone surrogates in escapes count as U+FFFD.

@@ -21,9 +21,11 @@ constexpr int wrongUsage = 2;
 
 constexpr const char* usage = R"(usage: quillseal-inspect [OPTION]... [FILE]
        quillseal-inspect --jsonl
+       quillseal-inspect rules
 
 Shows what Quillseal would sign for a text, without signing anything.
 FILE is the text in UTF-8; standard input when it is left out or "-".
+"rules" prints the table of content rules (a file of that name: ./rules).
 
   --json           print one JSON object instead of the report
   --html FILE      the HTML form of the same text, for its images
@@ -42,6 +44,7 @@ struct Options {
   std::optional<std::string> issued;
   bool json = false;
   bool jsonl = false;
+  bool rules = false;
 };
 
 struct Failure {
@@ -128,6 +131,8 @@ std::optional<Options> parsed(int argc, char** argv) {
   }
   if (argc - optind > 1) throw Failure{wrongUsage, "one file at a time; see --help"};
   if (argc - optind == 1) options.textPath = argv[optind];
+  options.rules = options.textPath == "rules";
+  if (options.rules && argc != 2) throw Failure{wrongUsage, "rules stands alone; see --help"};
   if (options.jsonl && (options.json || options.htmlPath || options.issued || optind < argc))
     throw Failure{wrongUsage, "--jsonl takes its input from the requests alone; see --help"};
   if (options.textPath == "-" && options.htmlPath == "-")
@@ -168,7 +173,9 @@ int main(int argc, char** argv) {
       requireWritten();
       return 0;
     }
-    if (options->jsonl) {
+    if (options->rules) {
+      std::cout << quillseal::inspect::rulesTable();
+    } else if (options->jsonl) {
       answerRequests();
     } else {
       printInspection(*options);

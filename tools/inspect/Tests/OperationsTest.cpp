@@ -88,6 +88,44 @@ TEST(Operations, BuildsTheTextsOfTheSigningFlow) {
   EXPECT_THAT(block["html"].get<std::string>(), testing::HasSubstr("</span><i>x</i><span"));
 }
 
+TEST(Operations, ShowsTheScreening) {
+  const auto inspected = [](std::string_view text) {
+    return answered({{"op", "inspect"}, {"text", text}, {"issued", "2025-01-30"}});
+  };
+  const Json plain = inspected("We met Ada on 3 May.");
+  EXPECT_EQ(plain["assessment"],
+            Json({{"score", 0}, {"blocked", false}, {"warn", false}, {"findings", Json::array()}}));
+  for (const char* const key : {"refusal_title", "explanation", "warning"})
+    EXPECT_EQ(plain.at(key), nullptr) << key;
+
+  const Json refused = inspected("See javascript:void(0) for the minutes.");
+  EXPECT_EQ(refused["assessment"]["findings"],
+            Json::array({{{"id", "url-javascript"},
+                          {"category", "Deceptive links"},
+                          {"why",
+                           "contains a javascript: link, which runs code rather than opening a "
+                           "page"},
+                          {"points", 100},
+                          {"blocking", true}}}));
+  EXPECT_EQ(refused["refusal_title"], "Not signed — this looks like a scam");
+  EXPECT_THAT(refused["explanation"].get<std::string>(),
+              testing::StartsWith("•  Deceptive links — contains a javascript: link\n\n"));
+  EXPECT_EQ(refused["warning"], nullptr);
+
+  EXPECT_EQ(answered({{"op", "quoted_spans"}, {"text", "She wrote “twenty-five characters…..”"}}),
+            Json({{"spans", {{10, 37}}}}));
+}
+
+TEST(Report, UnderlinesWhatMatched) {
+  const std::string report = readableReport(
+      inspect({.text = "会議: see javascript:x now", .html = {}, .issued = "2025-01-30"}));
+  EXPECT_THAT(report, testing::HasSubstr("Screening     refused, score 100\n"
+                                         "              url-javascript (100, blocks): Deceptive "
+                                         "links\n"
+                                         "              会議: see javascript:x now\n"
+                                         "                        ^^^^^^^^^^^\n"));
+}
+
 struct BadRequest {
   std::string line;
   std::string error;

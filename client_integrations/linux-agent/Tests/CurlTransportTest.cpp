@@ -431,7 +431,6 @@ class DevServerTest : public CurlTransportTest {
     thread_ = std::thread([this] { server_.serve(); });
   }
   ~DevServerTest() override {
-    transport_.reset();  // connections that are kept open would be waited for
     server_.stop();
     thread_.join();
   }

@@ -115,6 +115,10 @@ class Exchange {
     set(CURLOPT_COPYPOSTFIELDS, post.body.c_str());
     set(CURLOPT_HTTPHEADER, headers_.get());
     set(CURLOPT_FOLLOWLOCATION, 0L);
+    // On a connection that was used before, libcurl sends again what got no answer; a signature
+    // would be registered twice.
+    set(CURLOPT_FRESH_CONNECT, 1L);
+    set(CURLOPT_FORBID_REUSE, 1L);
     set(CURLOPT_TIMEOUT_MS, milliseconds);
     set(CURLOPT_CONNECTTIMEOUT_MS, milliseconds);
     set(CURLOPT_SSL_VERIFYPEER, 1L);

@@ -8,6 +8,7 @@
 #include <QSettings>
 #include <QStandardPaths>
 #include <QThread>
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -24,24 +25,20 @@ QString fromUtf8(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+bool isIniLine(const QByteArray& untrimmed) {
+  const QByteArray line = untrimmed.trimmed();
+  if (line.isEmpty() || line.startsWith(';') || line.startsWith('#')) return true;
+  if (line.startsWith('[')) return line.endsWith(']');
+  const auto quotes = line.count('"') - line.count("\\\"");
+  return line.indexOf('=') > 0 && quotes % 2 == 0;
+}
+
 /// Whether the bytes are lines of "key=value", "[section]", comments and blanks. QSettings itself
 /// passes over anything else, and drops it when it writes.
 bool isIni(const QByteArray& bytes) {
   if (bytes.size() > largestFile || bytes.contains('\0')) return false;
-  if (unicode::wellFormed(bytes.toStdString()) != bytes.toStdString()) return false;
-  for (const QByteArray& untrimmed : bytes.split('\n')) {
-    const QByteArray line = untrimmed.trimmed();
-    if (line.isEmpty() || line.startsWith(';') || line.startsWith('#')) continue;
-    if (line.startsWith('[')) {
-      if (!line.endsWith(']')) return false;
-    } else if (line.indexOf('=') <= 0) {
-      return false;
-    } else {
-      const auto quotes = line.count('"') - line.count("\\\"");
-      if (quotes % 2 != 0) return false;
-    }
-  }
-  return true;
+  const std::string text = bytes.toStdString();
+  return unicode::wellFormed(text) == text && std::ranges::all_of(bytes.split('\n'), isIniLine);
 }
 
 /// A value as text. An unquoted comma makes a list of what was meant as one text.

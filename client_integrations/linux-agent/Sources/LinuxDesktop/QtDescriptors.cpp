@@ -12,7 +12,7 @@ namespace {
 using Interest = Descriptors::Interest;
 using Ready = std::shared_ptr<const std::function<void(Interest)>>;
 
-/// A notifier may be let go from inside its own signal.
+/// A notifier may be let go from inside its own signal, and the function that is running with it.
 struct DeleteLater {
   void operator()(QSocketNotifier* notifier) const {
     notifier->setEnabled(false);
@@ -24,10 +24,8 @@ using Notifier = std::unique_ptr<QSocketNotifier, DeleteLater>;
 Notifier notifierFor(int descriptor, QSocketNotifier::Type type, Interest interest,
                      const Ready& ready) {
   Notifier notifier(new QSocketNotifier(descriptor, type));
-  QObject::connect(notifier.get(), &QSocketNotifier::activated, notifier.get(), [ready, interest] {
-    const Ready kept = ready;  // outlives the notifier that holds this function
-    (*kept)(interest);
-  });
+  QObject::connect(notifier.get(), &QSocketNotifier::activated, notifier.get(),
+                   [ready, interest] { (*ready)(interest); });
   return notifier;
 }
 

@@ -64,8 +64,8 @@ std::optional<std::string> refusalIn(const std::string& body) {
 }
 
 template <typename Request>
-desktop::HttpPost postOf(std::string url, const Request& body) {
-  return {.url = std::move(url),
+desktop::HttpPost postOf(const std::string& url, const Request& body) {
+  return {.url = url,
           .headers = {{"Content-Type", "application/json"}},
           .body = wire::encoded(body),
           .timeout = patience};

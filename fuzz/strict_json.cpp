@@ -1,0 +1,44 @@
+#include <cstdint>
+#include <cstdlib>
+
+#include <nlohmann/json.hpp>
+
+#include "Quillseal/StrictJson.h"
+
+namespace {
+
+/// Whether `read` gives what a document tree holds under the key, or throws where it holds nothing
+/// of that type.
+template <typename Read>
+bool agrees(const nlohmann::json& expected, bool isOfType, Read read) {
+  try {
+    return expected == read() && isOfType;
+  } catch (const quillseal::JsonError&) {
+    return !isOfType;
+  }
+}
+
+}  // namespace
+
+/// What the strict reader accepts, an ordinary parser reads the same way.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string_view text(reinterpret_cast<const char*>(data), size);
+  const nlohmann::json tree = nlohmann::json::parse(text, nullptr, false);
+  try {
+    const quillseal::JsonObject object = quillseal::JsonObject::parse(text);
+    if (!tree.is_object()) std::abort();
+    for (const auto& member : tree.items()) {
+      const std::string& key = member.key();
+      const nlohmann::json& value = member.value();
+      const bool isInteger =
+          value.is_number_integer() && (!value.is_number_unsigned() || value <= INT64_MAX);
+      if (!agrees(value, value.is_string(), [&] { return object.string(key); }) ||
+          !agrees(value, value.is_boolean(), [&] { return object.boolean(key); }) ||
+          !agrees(value, isInteger, [&] { return object.integer(key); })) {
+        std::abort();
+      }
+    }
+  } catch (const quillseal::JsonError&) {
+  }
+  return 0;
+}

@@ -1,0 +1,119 @@
+#include "SystemBusFake.h"
+
+#include <array>
+#include <csignal>
+#include <cstdlib>
+#include <stdexcept>
+#include <string_view>
+#include <utility>
+
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+extern char** environ;
+
+namespace quillseal::testing {
+
+namespace {
+
+constexpr const char* variable = "DBUS_SYSTEM_BUS_ADDRESS";
+constexpr const char* reader = "/net/reactivated/Fprint/Device/0";
+
+}  // namespace
+
+PrivateBus::PrivateBus() {
+  std::array<int, 2> ends{};
+  if (::pipe(ends.data()) != 0) throw std::runtime_error("no pipe");
+  std::array<std::string, 5> words{"dbus-daemon", "--session", "--nofork", "--nopidfile",
+                                   "--print-address=" + std::to_string(ends[1])};
+  std::array<char*, words.size() + 1> arguments{};
+  for (std::size_t i = 0; i < words.size(); ++i)
+    arguments[i] = words[i].data();
+  const int error =
+      ::posix_spawnp(&process_, arguments[0], nullptr, nullptr, arguments.data(), environ);
+  ::close(ends[1]);
+  std::string address;
+  for (char c = 0; error == 0 && ::read(ends[0], &c, 1) == 1 && c != '\n';)
+    address += c;
+  ::close(ends[0]);
+  if (address.empty()) throw std::runtime_error("dbus-daemon is not installed");
+  ::setenv(variable, address.c_str(), 1);
+}
+
+PrivateBus::~PrivateBus() {
+  ::unsetenv(variable);
+  ::kill(process_, SIGTERM);
+  ::waitpid(process_, nullptr, 0);
+}
+
+PresenceServices::PresenceServices(Script script) : script_(std::move(script)) {
+  for (const char* name : {"net.reactivated.Fprint", "org.freedesktop.PolicyKit1"})
+    SystemBus::check(::sd_bus_request_name(bus_.get(), name, 0));
+  SystemBus::check(::sd_bus_add_fallback(bus_.get(), nullptr, "/", handle, this));
+  thread_ = std::thread([this] {
+    static_cast<void>(bus_.wait(
+        {.interrupt = stop_, .limit = std::chrono::minutes(1), .isDone = [] { return false; }}));
+  });
+}
+
+PresenceServices::~PresenceServices() {
+  static_cast<void>(end());
+}
+
+const std::vector<std::string>& PresenceServices::end() {
+  stop_.raise();
+  if (thread_.joinable()) thread_.join();
+  return calls_;
+}
+
+int PresenceServices::handle(sd_bus_message* message, void* self, sd_bus_error* error) {
+  return static_cast<PresenceServices*>(self)->answer(message, error);
+}
+
+int PresenceServices::answer(sd_bus_message* message, sd_bus_error* error) {
+  const std::string_view member = ::sd_bus_message_get_member(message);
+  calls_.emplace_back(member);
+  if (member == "GetDefaultDevice") {
+    if (!script_.hasReader)
+      return ::sd_bus_error_set(error, "net.reactivated.Fprint.Error.NoSuchDevice", "none");
+    return ::sd_bus_reply_method_return(message, "o", reader);
+  }
+  if (member == "ListEnrolledFingers") {
+    if (script_.fingers.empty())
+      return ::sd_bus_error_set(error, "net.reactivated.Fprint.Error.NoEnrolledPrints", "none");
+    return ::sd_bus_reply_method_return(message, "as", 1, script_.fingers.front().c_str());
+  }
+  if (member == "Claim" && script_.readerInUse)
+    return ::sd_bus_error_set(error, "net.reactivated.Fprint.Error.AlreadyInUse", "in use");
+  if (member == "CheckAuthorization") {
+    if (!script_.actionInstalled)
+      return ::sd_bus_error_set(error, "org.freedesktop.PolicyKit1.Error.Failed",
+                                "the action is not registered");
+    const char* text = nullptr;
+    std::uint32_t mayQuestion = 0;
+    ::sd_bus_message_skip(message, "(sa{sv})");
+    ::sd_bus_message_read(message, "s", &text);
+    ::sd_bus_message_skip(message, "a{ss}");
+    ::sd_bus_message_read(message, "u", &mayQuestion);
+    if (mayQuestion == 0)
+      return ::sd_bus_reply_method_return(message, "(bba{ss})", 0, script_.mayAsk ? 1 : 0, 0);
+    if (script_.neverAnswers) return 1;
+    if (script_.dismissed)
+      return ::sd_bus_reply_method_return(message, "(bba{ss})", 0, 0, 1, "polkit.dismissed",
+                                          "true");
+    return ::sd_bus_reply_method_return(message, "(bba{ss})", script_.passwordRight ? 1 : 0,
+                                        script_.mayAsk ? 0 : 1, 0);
+  }
+  const int replied = ::sd_bus_reply_method_return(message, "");
+  if (member == "VerifyStart" && !script_.touches.empty()) {
+    const std::vector<std::string> statuses = script_.touches.front();
+    script_.touches.pop_front();
+    for (const std::string& status : statuses)
+      ::sd_bus_emit_signal(bus_.get(), reader, "net.reactivated.Fprint.Device", "VerifyStatus",
+                           "sb", status.c_str(), 1);
+  }
+  return replied;
+}
+
+}  // namespace quillseal::testing

@@ -37,6 +37,8 @@ TEST(StrictJson, ReadsMembersWithTheirTypes) {
   EXPECT_EQ(object.optionalString("none"), std::nullopt);
   EXPECT_EQ(object.optionalString("absent"), std::nullopt);
   EXPECT_EQ(object.optionalString("text"), "a/b é é 😀");
+  EXPECT_EQ(object.optionalInteger("none"), std::nullopt);
+  EXPECT_EQ(object.optionalInteger("number"), -210);
 }
 
 TEST(StrictJson, NamesTheKeyOfAWrongMember) {

@@ -111,11 +111,18 @@ bool JsonObject::boolean(std::string_view key) const {
 }
 
 std::optional<std::string> JsonObject::optionalString(std::string_view key) const {
-  const auto found = members_.find(key);
-  if (found == members_.end() || std::holds_alternative<std::nullptr_t>(found->second)) {
-    return std::nullopt;
-  }
+  if (isAbsent(key)) return std::nullopt;
   return string(key);
+}
+
+std::optional<std::int64_t> JsonObject::optionalInteger(std::string_view key) const {
+  if (isAbsent(key)) return std::nullopt;
+  return integer(key);
+}
+
+bool JsonObject::isAbsent(std::string_view key) const {
+  const auto found = members_.find(key);
+  return found == members_.end() || std::holds_alternative<std::nullptr_t>(found->second);
 }
 
 }  // namespace quillseal

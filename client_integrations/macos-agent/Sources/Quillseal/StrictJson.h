@@ -34,6 +34,7 @@ class JsonObject {
 
   /// Nothing when the key is missing or null. Throws JsonError when it is of another type.
   [[nodiscard]] std::optional<std::string> optionalString(std::string_view key) const;
+  [[nodiscard]] std::optional<std::int64_t> optionalInteger(std::string_view key) const;
 
  private:
   struct Other {};
@@ -42,6 +43,7 @@ class JsonObject {
 
   template <typename T>
   const T& required(std::string_view key, const char* type) const;
+  [[nodiscard]] bool isAbsent(std::string_view key) const;
 
   std::map<std::string, Value, std::less<>> members_;
 };

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <chrono>
+#include <memory>
+#include <string_view>
+
+#include "Desktop/BrowserTabs.h"
+#include "Desktop/Log.h"
+#include "Desktop/MainLoop.h"
+#include "LinuxDesktop/Descriptors.h"
+
+namespace quillseal {
+
+/// The tabs of browsers in which the Quillseal extension is installed: each connects by way of its
+/// relay, once for every profile in use. A browser is named by the id of its desktop file. One that
+/// is not connected, or does not answer in time, has no tabs to tell of.
+class LinuxBrowserTabs final : public desktop::BrowserTabs {
+ public:
+  static constexpr std::chrono::milliseconds longestWait{1500};
+
+  struct Services {
+    desktop::MainLoop& loop;
+    Descriptors& descriptors;
+    desktop::Log& log;
+  };
+
+  /// The services outlive this object. Failure to listen is logged; no browser connects then.
+  explicit LinuxBrowserTabs(const Services& services);
+  ~LinuxBrowserTabs() override;
+
+  [[nodiscard]] desktop::Ticket currentTab(
+      const std::string& browser, std::function<void(std::optional<std::string>)> done) override;
+  [[nodiscard]] desktop::Ticket closeAndRestore(const desktop::TabReturn& request,
+                                                std::function<void(bool)> done) override;
+
+  /// Whether the browser with this desktop file runs as this program.
+  [[nodiscard]] static bool isProgramOf(std::string_view browser, std::string_view program);
+
+ private:
+  class Hub;
+  std::shared_ptr<Hub> hub_;
+};
+
+}  // namespace quillseal

@@ -1,0 +1,347 @@
+#include <map>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "LinuxDesktop/LinuxBrowserTabs.h"
+#include "LinuxDesktop/TabMessages.h"
+#include "LinuxDesktop/TabSocket.h"
+#include "TemporaryFolder.h"
+#include "VirtualLoop.h"
+
+namespace quillseal {
+namespace {
+
+using desktop::TabReturn;
+using desktop::Ticket;
+using ::testing::HasSubstr;
+using testing::TemporaryFolder;
+using testing::VirtualLoop;
+
+class PolledDescriptors final : public Descriptors {
+ public:
+  Ticket watch(int descriptor, Interest, std::function<void(Interest)> ready) override {
+    watches_[descriptor] = std::move(ready);
+    return Ticket([this, descriptor] { watches_.erase(descriptor); });
+  }
+
+  /// Serves what is ready until nothing is.
+  void serve() {
+    while (serveOne()) {
+    }
+  }
+
+ private:
+  bool serveOne() {
+    for (const auto& [descriptor, ready] : watches_) {
+      pollfd state{.fd = descriptor, .events = POLLIN, .revents = 0};
+      if (::poll(&state, 1, 0) <= 0) continue;
+      const auto call = ready;
+      call(Interest::reading);
+      return true;
+    }
+    return false;
+  }
+
+  std::map<int, std::function<void(Interest)>> watches_;
+};
+
+class RecordingLog final : public desktop::Log {
+ public:
+  void write(std::string_view line) override { text.append(line).append("\n"); }
+  std::string text;
+};
+
+/// The far end of a relay.
+class Browser {
+ public:
+  explicit Browser(const std::string& program) : socket_(TabSocket::connect().value()) {
+    say(written(TabMessages::Greeting{program}));
+  }
+
+  void say(std::string_view message) { sayBytes(TabMessages::framed(message)); }
+  void sayBytes(std::string_view bytes) { ASSERT_TRUE(TabSocket::send(socket_, bytes)); }
+
+  TabMessages::Request asked() {
+    deframer_.append(TabSocket::receive(socket_));
+    return TabMessages::readRequest(deframer_.next().value());
+  }
+
+  void answerTab(std::optional<std::int64_t> tab, std::int64_t focusedAt) {
+    say(written(
+        TabMessages::Answer{.id = asked().id, .result = TabMessages::TabShown{tab, focusedAt}}));
+  }
+
+  void answerClosed(TabMessages::TabsClosed result) {
+    say(written(TabMessages::Answer{.id = asked().id, .result = result}));
+  }
+
+ private:
+  FileDescriptor socket_;
+  TabMessages::Deframer deframer_;
+};
+
+class LinuxBrowserTabsTest : public ::testing::Test {
+ protected:
+  LinuxBrowserTabsTest() {
+    ::setenv("XDG_RUNTIME_DIR", runtime_.path().c_str(), 1);
+    tabs_.emplace(LinuxBrowserTabs::Services{loop_, descriptors_, log_});
+  }
+
+  std::unique_ptr<Browser> connected(const std::string& program) {
+    auto browser = std::make_unique<Browser>(program);
+    descriptors_.serve();
+    return browser;
+  }
+
+  void askTab(const std::string& browser) {
+    tab_.reset();
+    ticket_ = tabs_->currentTab(
+        browser, [this](std::optional<std::string> tab) { tab_ = tab.value_or("none"); });
+  }
+
+  void askClose(const TabReturn& request) {
+    closed_.reset();
+    ticket_ = tabs_->closeAndRestore(request, [this](bool closed) { closed_ = closed; });
+  }
+
+  void settle() {
+    descriptors_.serve();
+    while (loop_.elapsed() < deadline_ && loop_.step())
+      descriptors_.serve();
+  }
+
+  TemporaryFolder runtime_;
+  VirtualLoop loop_;
+  PolledDescriptors descriptors_;
+  RecordingLog log_;
+  std::optional<LinuxBrowserTabs> tabs_;
+  Ticket ticket_;
+  std::optional<std::string> tab_;
+  std::optional<bool> closed_;
+  std::chrono::milliseconds deadline_{10'000};
+};
+
+TEST_F(LinuxBrowserTabsTest, NamesBrowsersByTheirDesktopFiles) {
+  EXPECT_TRUE(LinuxBrowserTabs::isProgramOf("google-chrome", "chrome"));
+  EXPECT_TRUE(LinuxBrowserTabs::isProgramOf("firefox-esr", "firefox-esr"));
+  EXPECT_FALSE(LinuxBrowserTabs::isProgramOf("firefox", "firefox-esr"));
+  EXPECT_FALSE(LinuxBrowserTabs::isProgramOf("Chromium", "chromium"));
+  EXPECT_FALSE(LinuxBrowserTabs::isProgramOf("", ""));
+}
+
+TEST_F(LinuxBrowserTabsTest, KeepsTheSocketToItself) {
+  struct stat status {};
+  ASSERT_EQ(::stat((runtime_.path() / "quillseal").c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 07777, 0700U);
+  ASSERT_EQ(::stat((runtime_.path() / "quillseal/tabs").c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 07777, 0600U);
+}
+
+TEST_F(LinuxBrowserTabsTest, AsksOnlyTheBrowserInQuestion) {
+  const auto chromium = connected("chromium");
+  const auto firefox = connected("firefox-esr");
+  askTab("chromium");
+  chromium->answerTab(12, 1);
+  settle();
+  EXPECT_EQ(tab_, "1.12");
+  askTab("firefox-esr");
+  firefox->answerTab(1, 1);
+  settle();
+  EXPECT_EQ(tab_, "2.1");
+  EXPECT_LT(loop_.elapsed(), LinuxBrowserTabs::longestWait);
+}
+
+TEST_F(LinuxBrowserTabsTest, KnowsNothingOfABrowserThatIsNotConnected) {
+  const auto chromium = connected("chromium");
+  for (const char* browser : {"firefox-esr", "com.google.Chrome", "org.gnome.TextEditor", ""}) {
+    askTab(browser);
+    EXPECT_EQ(tab_, "none") << browser;
+    askClose({.browser = browser, .urlContains = "/handoff?h=1", .tab = "1.2"});
+    EXPECT_EQ(closed_, false) << browser;
+  }
+  askClose({.browser = "chromium", .urlContains = "", .tab = "1.2"});
+  EXPECT_EQ(closed_, false);
+}
+
+TEST_F(LinuxBrowserTabsTest, TakesTheProfileThatWasLookedAtLast) {
+  const auto first = connected("chromium");
+  const auto second = connected("chromium");
+  const auto third = connected("chromium");
+  askTab("chromium");
+  first->answerTab(5, 100);
+  third->answerTab(std::nullopt, 900);
+  second->answerTab(5, 300);
+  settle();
+  EXPECT_EQ(tab_, "2.5");
+}
+
+TEST_F(LinuxBrowserTabsTest, ClosesInEveryProfileAndRestoresInItsOwn) {
+  const auto first = connected("chromium");
+  const auto second = connected("chromium");
+  askClose({.browser = "chromium", .urlContains = "/handoff?h=1", .tab = "2.5"});
+  const auto askedFirst = std::get<TabMessages::CloseAndRestore>(first->asked().operation);
+  EXPECT_EQ(askedFirst.urlContains, "/handoff?h=1");
+  EXPECT_EQ(askedFirst.tab, std::nullopt);
+  first->say(R"({"id":1,"operation":"closeAndRestore","closed":true,"restored":true})");
+  const auto request = second->asked();
+  EXPECT_EQ(std::get<TabMessages::CloseAndRestore>(request.operation).tab, 5);
+  second->say(R"({"id":1,"operation":"closeAndRestore","closed":false,"restored":true})");
+  settle();
+  EXPECT_EQ(closed_, true);
+}
+
+TEST_F(LinuxBrowserTabsTest, IsDoneOnlyWhenClosedAndRestored) {
+  struct Row {
+    std::optional<std::string> tab;
+    TabMessages::TabsClosed result;
+    bool expected;
+  };
+  const auto chromium = connected("chromium");
+  for (const Row& row : {
+           Row{"1.5", {.closed = true, .restored = true}, true},
+           Row{"1.5", {.closed = false, .restored = true}, false},
+           Row{"1.5", {.closed = true, .restored = false}, false},
+           Row{std::nullopt, {.closed = true, .restored = true}, true},
+           Row{std::nullopt, {.closed = false, .restored = true}, false},
+           // Not a tab that this browser has told of.
+           Row{"9.5", {.closed = true, .restored = true}, false},
+           Row{"5", {.closed = true, .restored = true}, false},
+           Row{"1.5x", {.closed = true, .restored = true}, false},
+           Row{"1.99999999999999999999", {.closed = true, .restored = true}, false},
+           Row{"", {.closed = true, .restored = true}, false},
+       }) {
+    askClose({.browser = "chromium", .urlContains = "/handoff?h=1", .tab = row.tab});
+    chromium->answerClosed(row.result);
+    settle();
+    EXPECT_EQ(closed_, row.expected) << row.tab.value_or("none");
+  }
+}
+
+TEST_F(LinuxBrowserTabsTest, GivesUpAfterTheLongestWait) {
+  const auto hanging = connected("chromium");
+  const auto working = connected("chromium");
+  askTab("chromium");
+  working->answerTab(7, 1);
+  settle();
+  EXPECT_EQ(tab_, "2.7");
+  EXPECT_EQ(loop_.elapsed(), LinuxBrowserTabs::longestWait);
+
+  askClose({.browser = "chromium", .urlContains = "/handoff?h=1", .tab = "1.5"});
+  working->answerClosed({.closed = true, .restored = true});
+  settle();
+  EXPECT_EQ(closed_, false);
+
+  // The answer that comes too late is of no consequence.
+  hanging->answerTab(5, 1);
+  descriptors_.serve();
+  askTab("chromium");
+  working->answerTab(8, 2);
+  settle();
+  EXPECT_EQ(tab_, "2.8");
+}
+
+TEST_F(LinuxBrowserTabsTest, IsToldWhenTheBrowserGoes) {
+  auto chromium = connected("chromium");
+  askTab("chromium");
+  chromium.reset();
+  settle();
+  EXPECT_EQ(tab_, "none");
+  EXPECT_LT(loop_.elapsed(), LinuxBrowserTabs::longestWait);
+  askTab("chromium");
+  EXPECT_EQ(tab_, "none");
+  EXPECT_THAT(log_.text, HasSubstr("[tabreturn] chromium: is gone"));
+}
+
+TEST_F(LinuxBrowserTabsTest, LetsGoOfWhoeverBreaksTheProtocol) {
+  const std::vector<std::string> breaches = {
+      TabMessages::framed("{"),
+      TabMessages::framed(R"({"id":1,"operation":"currentTab","tab":1})"),
+      TabMessages::framed(
+          R"({"id":1,"operation":"closeAndRestore","closed":true,"restored":true})"),
+      std::string(4, '\0'),
+      std::string(4, '\xff'),
+      std::string(100'000, 'x'),
+  };
+  std::int64_t id = 0;
+  for (const std::string& breach : breaches) {
+    const auto chromium = connected("chromium");
+    askTab("chromium");
+    ++id;
+    std::string bytes = breach;
+    if (const auto at = bytes.find("\"id\":1"); at != std::string::npos)
+      bytes.replace(at, 6, "\"id\":" + std::to_string(id));
+    chromium->sayBytes(bytes);
+    settle();
+    EXPECT_EQ(tab_, "none") << breach.substr(0, 80);
+  }
+  EXPECT_LT(loop_.elapsed(), LinuxBrowserTabs::longestWait);
+}
+
+TEST_F(LinuxBrowserTabsTest, ForgetsWhatNobodyWaitsFor) {
+  const auto chromium = connected("chromium");
+  askTab("chromium");
+  ticket_ = {};
+  chromium->answerTab(5, 1);
+  settle();
+  EXPECT_EQ(tab_, std::nullopt);
+}
+
+TEST_F(LinuxBrowserTabsTest, MayBeDestroyedByACompletion) {
+  const auto chromium = connected("chromium");
+  bool isCalled = false;
+  ticket_ = tabs_->currentTab("chromium", [&](const std::optional<std::string>&) {
+    tabs_.reset();
+    isCalled = true;
+  });
+  chromium->answerTab(5, 1);
+  settle();
+  EXPECT_TRUE(isCalled);
+}
+
+TEST_F(LinuxBrowserTabsTest, TakesThePlaceOfAnAgentThatHasGoneButNotOfOneThatRuns) {
+  const LinuxBrowserTabs second({loop_, descriptors_, log_});
+  EXPECT_THAT(log_.text, HasSubstr("browsers cannot connect: another agent"));
+  tabs_.reset();
+  tabs_.emplace(LinuxBrowserTabs::Services{loop_, descriptors_, log_});
+  const auto chromium = connected("chromium");
+  askTab("chromium");
+  chromium->answerTab(5, 1);
+  settle();
+  EXPECT_EQ(tab_, "1.5");
+}
+
+TEST_F(LinuxBrowserTabsTest, TrustsNoFolderThatOthersCouldChange) {
+  for (const mode_t mode : {0755U, 0701U}) {
+    ASSERT_EQ(::chmod((runtime_.path() / "quillseal").c_str(), mode), 0);
+    EXPECT_THROW((void)TabSocket::folder(), std::runtime_error) << mode;
+  }
+  ASSERT_EQ(::chmod((runtime_.path() / "quillseal").c_str(), 0700), 0);
+  ASSERT_EQ(::chmod(runtime_.path().c_str(), 0777), 0);
+  EXPECT_THROW((void)TabSocket::folder(), std::runtime_error);
+  ::setenv("XDG_RUNTIME_DIR", "relative", 1);
+  EXPECT_THROW((void)TabSocket::folder(), std::runtime_error);
+}
+
+TEST(TabSocketTest, RecognisesItsOwnUser) {
+  std::array<int, 2> pair{};
+  ASSERT_EQ(::socketpair(AF_UNIX, SOCK_STREAM, 0, pair.data()), 0);
+  const FileDescriptor own(pair[0]), ownPeer(pair[1]);
+  EXPECT_TRUE(TabSocket::isPeerThisUser(own));
+  EXPECT_FALSE(TabSocket::isPeerThisUser(FileDescriptor(-1)));
+  if (::geteuid() != 0) return;  // only root can make a socket in another's name
+  ASSERT_EQ(::seteuid(65534), 0);
+  const int made = ::socketpair(AF_UNIX, SOCK_STREAM, 0, pair.data());
+  ASSERT_EQ(::seteuid(0), 0);
+  ASSERT_EQ(made, 0);
+  const FileDescriptor foreign(pair[0]), foreignPeer(pair[1]);
+  EXPECT_FALSE(TabSocket::isPeerThisUser(foreign));
+}
+
+}  // namespace
+}  // namespace quillseal

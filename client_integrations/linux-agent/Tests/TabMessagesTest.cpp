@@ -1,0 +1,110 @@
+#include <cstring>
+
+#include <gtest/gtest.h>
+
+#include "LinuxDesktop/TabMessages.h"
+
+namespace quillseal::TabMessages {
+namespace {
+
+std::string withLength(std::uint32_t length, std::string_view bytes) {
+  std::string result(sizeof length, '\0');
+  std::memcpy(result.data(), &length, sizeof length);
+  return result.append(bytes);
+}
+
+TEST(TabMessages, AreCutFromAStreamHoweverItIsSplit) {
+  const std::string longest(longestMessage, 'x');
+  const std::string stream = framed("{}") + framed(longest) + framed("[1]");
+  for (const std::size_t step : {std::size_t{1}, std::size_t{3}, stream.size()}) {
+    Deframer deframer;
+    std::vector<std::string> messages;
+    for (std::size_t at = 0; at < stream.size(); at += step) {
+      deframer.append(std::string_view(stream).substr(at, step));
+      while (const auto message = deframer.next())
+        messages.push_back(*message);
+    }
+    EXPECT_EQ(messages, (std::vector<std::string>{"{}", longest, "[1]"})) << step;
+  }
+}
+
+TEST(TabMessages, RefusesLengthsThatNobodyMaySend) {
+  for (const std::uint32_t length : {0U, 4097U, 0x7fffffffU, 0xffffffffU}) {
+    Deframer deframer;
+    deframer.append(withLength(length, ""));
+    EXPECT_THROW((void)deframer.next(), ProtocolError) << length;
+  }
+  EXPECT_THROW((void)framed(""), ProtocolError);
+  EXPECT_THROW((void)framed(std::string(longestMessage + 1, 'x')), ProtocolError);
+}
+
+TEST(TabMessages, SayWhatTheExtensionUnderstands) {
+  EXPECT_EQ(written(Request{.id = 7, .operation = CurrentTab{}}),
+            R"({"id":7,"operation":"currentTab"})");
+  EXPECT_EQ(written(Request{.id = 8, .operation = CloseAndRestore{"/h?h=\"1", 12}}),
+            R"({"id":8,"operation":"closeAndRestore","urlContains":"/h?h=\"1","tab":12})");
+  EXPECT_EQ(written(Request{.id = 9, .operation = CloseAndRestore{"\xff", std::nullopt}}),
+            "{\"id\":9,\"operation\":\"closeAndRestore\",\"urlContains\":\"\uFFFD\",\"tab\":null}");
+}
+
+TEST(TabMessages, SurviveBeingPassedOn) {
+  for (const char* request :
+       {R"({"id":7,"operation":"currentTab"})",
+        R"({"id":8,"operation":"closeAndRestore","urlContains":"/h","tab":12})",
+        R"({"id":8,"operation":"closeAndRestore","urlContains":"/h","tab":null})"}) {
+    EXPECT_EQ(written(readRequest(request)), request);
+  }
+  for (const char* answer :
+       {R"({"id":7,"operation":"currentTab","tab":3,"focusedAt":1795563172284})",
+        R"({"id":7,"operation":"currentTab","tab":null,"focusedAt":0})",
+        R"({"id":8,"operation":"closeAndRestore","closed":true,"restored":false})"}) {
+    EXPECT_EQ(written(readAnswer(answer)), answer);
+  }
+  EXPECT_EQ(readGreeting(written(Greeting{"chromium"})).program, "chromium");
+}
+
+TEST(TabMessages, LosesWhatDoesNotBelong) {
+  const auto request = readRequest(
+      R"({"operation":"currentTab","id":7,"urlContains":"x","eval":"x","more":[[[{}]]]})");
+  EXPECT_EQ(written(request), R"({"id":7,"operation":"currentTab"})");
+}
+
+TEST(TabMessages, RefusesWhatIsNoSuchMessage) {
+  for (const char* request : {
+           "",
+           "null",
+           "[]",
+           "{",
+           "7",
+           R"("x")",
+           R"({"id":7})",
+           R"({"operation":"currentTab"})",
+           R"({"id":"7","operation":"currentTab"})",
+           R"({"id":7.5,"operation":"currentTab"})",
+           R"({"id":18446744073709551615,"operation":"currentTab"})",
+           R"({"id":7,"operation":"currenttab"})",
+           R"({"id":7,"id":8,"operation":"currentTab"})",
+           R"({"id":7,"operation":"currentTab"}{})",
+           R"({"id":7,"operation":"closeAndRestore"})",
+           R"({"id":7,"operation":"closeAndRestore","urlContains":""})",
+           R"({"id":7,"operation":"closeAndRestore","urlContains":["/h"]})",
+           R"({"id":7,"operation":"closeAndRestore","urlContains":"/h","tab":"1"})",
+       }) {
+    EXPECT_THROW((void)readRequest(request), ProtocolError) << request;
+  }
+  for (const char* answer : {
+           "",
+           "{}",
+           R"({"id":7,"tab":1,"focusedAt":1})",
+           R"({"id":7,"operation":"currentTab","tab":1})",
+           R"({"id":7,"operation":"currentTab","tab":"1","focusedAt":1})",
+           R"({"id":7,"operation":"closeAndRestore","closed":1,"restored":true})",
+           R"({"id":7,"operation":"closeAndRestore","closed":true})",
+       }) {
+    EXPECT_THROW((void)readAnswer(answer), ProtocolError) << answer;
+  }
+  EXPECT_THROW((void)readGreeting(R"({"program":null})"), ProtocolError);
+}
+
+}  // namespace
+}  // namespace quillseal::TabMessages

@@ -1,0 +1,230 @@
+#include <array>
+#include <chrono>
+#include <csignal>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <poll.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "LinuxDesktop/TabMessages.h"
+#include "LinuxDesktop/TabSocket.h"
+#include "TemporaryFolder.h"
+
+namespace quillseal {
+namespace {
+
+using namespace std::chrono_literals;
+using testing::TemporaryFolder;
+
+constexpr int patience = 10'000;  // milliseconds
+
+bool isReadable(const FileDescriptor& descriptor, int milliseconds = patience) {
+  pollfd state{.fd = descriptor.get(), .events = POLLIN, .revents = 0};
+  return ::poll(&state, 1, milliseconds) == 1;
+}
+
+/// One message from the descriptor, or nothing when the other end has closed it.
+std::optional<std::string> messageFrom(const FileDescriptor& descriptor) {
+  TabMessages::Deframer deframer;
+  while (isReadable(descriptor)) {
+    const std::string bytes = TabSocket::receive(descriptor);
+    if (bytes.empty()) return std::nullopt;
+    deframer.append(bytes);
+    if (auto message = deframer.next()) return message;
+  }
+  ADD_FAILURE() << "nothing has come";
+  return std::nullopt;
+}
+
+/// The relay as a browser starts it.
+class Relay {
+ public:
+  explicit Relay(std::vector<std::string> arguments) {
+    std::array<int, 2> toRelay{};
+    std::array<int, 2> fromRelay{};
+    if (::pipe(toRelay.data()) != 0 || ::pipe(fromRelay.data()) != 0)
+      throw std::runtime_error("pipe");
+    process_ = ::fork();
+    if (process_ == 0) {
+      ::dup2(toRelay[0], STDIN_FILENO);
+      ::dup2(fromRelay[1], STDOUT_FILENO);
+      for (const int end : {toRelay[0], toRelay[1], fromRelay[0], fromRelay[1]})
+        ::close(end);
+      arguments.insert(arguments.begin(), QUILLSEAL_TAB_RELAY);
+      std::vector<char*> pointers;
+      for (std::string& argument : arguments)
+        pointers.push_back(argument.data());
+      pointers.push_back(nullptr);
+      ::execv(pointers[0], pointers.data());
+      ::_exit(127);
+    }
+    ::close(toRelay[0]);
+    ::close(fromRelay[1]);
+    input_ = FileDescriptor(toRelay[1]);
+    output_ = FileDescriptor(fromRelay[0]);
+  }
+  Relay(const Relay&) = delete;
+  Relay& operator=(const Relay&) = delete;
+  ~Relay() {
+    if (process_ <= 0) return;
+    ::kill(process_, SIGKILL);
+    ::waitpid(process_, nullptr, 0);
+  }
+
+  [[nodiscard]] const FileDescriptor& output() const { return output_; }
+
+  void write(std::string_view bytes) const {
+    EXPECT_EQ(::write(input_.get(), bytes.data(), bytes.size()),
+              static_cast<ssize_t>(bytes.size()));
+  }
+
+  void closeInput() { input_ = FileDescriptor(-1); }
+
+  /// Exit status; 128 and more for a signal, -1 when it does not end.
+  int status() {
+    for (const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(patience);
+         std::chrono::steady_clock::now() < end; std::this_thread::sleep_for(2ms)) {
+      int state = 0;
+      if (::waitpid(process_, &state, WNOHANG) != process_) continue;
+      process_ = 0;
+      return WIFEXITED(state) ? WEXITSTATUS(state) : 128 + WTERMSIG(state);
+    }
+    return -1;
+  }
+
+ private:
+  pid_t process_ = 0;
+  FileDescriptor input_{-1};
+  FileDescriptor output_{-1};
+};
+
+const std::vector<std::string> chromiumCall = {"chrome-extension://" QUILLSEAL_CHROMIUM_EXTENSION
+                                               "/"};
+
+class TabRelayTest : public ::testing::Test {
+ protected:
+  TabRelayTest() {
+    ::signal(SIGPIPE, SIG_IGN);
+    ::setenv("XDG_RUNTIME_DIR", runtime_.path().c_str(), 1);
+  }
+
+  /// A relay that has found the agent and said its greeting.
+  void connect() {
+    listening_.emplace(TabSocket::listen());
+    relay_.emplace(chromiumCall);
+    accept();
+  }
+
+  void accept() {
+    ASSERT_TRUE(isReadable(*listening_));
+    agent_ = TabSocket::accept(*listening_);
+    ASSERT_TRUE(agent_);
+    const auto greeting = messageFrom(*agent_);
+    ASSERT_TRUE(greeting);
+    EXPECT_EQ(TabMessages::readGreeting(*greeting).program,
+              std::filesystem::read_symlink("/proc/self/exe").filename());
+  }
+
+  TemporaryFolder runtime_;
+  std::optional<FileDescriptor> listening_;
+  std::optional<Relay> relay_;
+  std::optional<FileDescriptor> agent_;
+};
+
+TEST_F(TabRelayTest, IsStartedByTheExtensionAlone) {
+  const std::string id = QUILLSEAL_CHROMIUM_EXTENSION;
+  for (const std::vector<std::string>& arguments : {
+           std::vector<std::string>{},
+           {"chrome-extension://aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa/"},
+           {"chrome-extension://" + id},
+           {"chrome-extension://" + id + "/x"},
+           {"chrome-extension://" + id + "/", "more"},
+           {QUILLSEAL_FIREFOX_EXTENSION},
+           {"/host.json", "other@example.com"},
+           {"--help"},
+       }) {
+    Relay relay(arguments);
+    EXPECT_EQ(relay.status(), 2);
+  }
+  Relay relay({"/host.json", QUILLSEAL_FIREFOX_EXTENSION});
+  relay.closeInput();
+  EXPECT_EQ(relay.status(), 0);
+}
+
+TEST_F(TabRelayTest, PassesMessagesBothWays) {
+  connect();
+  for (const char* request :
+       {R"({"id":1,"operation":"currentTab"})",
+        R"({"id":2,"operation":"closeAndRestore","urlContains":"/h","tab":4})"}) {
+    ASSERT_TRUE(TabSocket::send(*agent_, TabMessages::framed(request)));
+    EXPECT_EQ(messageFrom(relay_->output()), request);
+  }
+  const std::string answer = R"({"id":1,"operation":"currentTab","tab":4,"focusedAt":9})";
+  relay_->write(TabMessages::framed(answer).substr(0, 9));
+  relay_->write(TabMessages::framed(answer).substr(9));
+  EXPECT_EQ(messageFrom(*agent_), answer);
+}
+
+TEST_F(TabRelayTest, WaitsForTheAgent) {
+  relay_.emplace(chromiumCall);
+  std::this_thread::sleep_for(50ms);  // whichever comes first, it must find the agent
+  listening_.emplace(TabSocket::listen());
+  accept();
+}
+
+TEST_F(TabRelayTest, WaitsWhereAnAgentHasDied) {
+  listening_.emplace(TabSocket::listen());
+  listening_.reset();
+  relay_.emplace(chromiumCall);
+  std::this_thread::sleep_for(50ms);
+  listening_.emplace(TabSocket::listen());
+  accept();
+}
+
+TEST_F(TabRelayTest, EndsWithTheBrowserAndWithTheAgent) {
+  connect();
+  relay_->closeInput();
+  EXPECT_EQ(relay_->status(), 0);
+  EXPECT_EQ(messageFrom(*agent_), std::nullopt);
+
+  listening_.reset();
+  connect();
+  agent_.reset();
+  EXPECT_EQ(relay_->status(), 0);
+}
+
+TEST_F(TabRelayTest, EndsWhenEitherSideBreaksTheProtocol) {
+  const std::string wellFormed = TabMessages::framed(R"({"id":1})");
+  for (const std::string& bytes : {std::string(4, '\0'), std::string(4, '\xff'),
+                                   TabMessages::framed("nonsense"), wellFormed}) {
+    listening_.reset();
+    connect();
+    relay_->write(bytes);
+    EXPECT_EQ(relay_->status(), 1);
+    EXPECT_EQ(messageFrom(*agent_), std::nullopt);
+
+    listening_.reset();
+    connect();
+    ASSERT_TRUE(TabSocket::send(*agent_, bytes));
+    EXPECT_EQ(relay_->status(), 1);
+    EXPECT_EQ(messageFrom(relay_->output()), std::nullopt);
+  }
+}
+
+TEST_F(TabRelayTest, DoesNotWaitForABrowserThatReadsNothing) {
+  connect();
+  const std::string request = TabMessages::framed(R"({"id":1,"operation":"currentTab"})");
+  for (int i = 0; i < 5000 && !isReadable(*agent_, 0); ++i) {
+    if (!TabSocket::send(*agent_, request)) std::this_thread::sleep_for(1ms);
+  }
+  EXPECT_EQ(relay_->status(), 0);
+}
+
+}  // namespace
+}  // namespace quillseal

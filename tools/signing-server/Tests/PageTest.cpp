@@ -290,7 +290,8 @@ TEST_F(PageTest, ComparesWhatAReaderPastes) {
       {text, "good"},
       {"  Don’t pay €1,250\n“twice” – ask\t<Ada> first.\u200b", "good"},
       {"『" + text +
-           "』\n\n────────────────────\n🛡️ QUILLSEAL · 『x』 · 1 "
+           "』\n\n────────────────────\n🛡️ QUILLSEAL · 『x』 · "
+           "1 "
            "January "
            "2026",
        "good"},

@@ -1,0 +1,155 @@
+"""Real browsers in a private desktop, with the extension installed as a package installs it."""
+
+import http.server
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+import threading
+import urllib.parse
+
+from session import wait_for
+
+FIREFOX_PREFERENCES = """
+user_pref("app.update.enabled", false);
+user_pref("browser.aboutwelcome.enabled", false);
+user_pref("browser.preonboarding.enabled", false);
+user_pref("browser.sessionstore.resume_from_crash", false);
+user_pref("browser.startup.homepage_override.mstone", "ignore");
+user_pref("browser.startup.page", 0);
+user_pref("browser.warnOnQuit", false);
+user_pref("datareporting.policy.dataSubmissionEnabled", false);
+user_pref("network.captive-portal-service.enabled", false);
+user_pref("network.connectivity-service.enabled", false);
+user_pref("termsofuse.bypassNotification", true);
+user_pref("toolkit.telemetry.reportingpolicy.firstRun", false);
+"""
+
+CHROMIUM_FLAGS = ("--no-first-run", "--disable-background-networking", "--disable-component-update",
+                  "--disable-gpu", "--disable-sync", "--password-store=basic")
+
+
+def enter_installed_system(build, prefix):
+    """Starts this program anew where the extension is installed: in a mount namespace of its own,
+    in which what `cmake --install` writes lies over the system's folders. Returns in there."""
+    if os.environ.get("QUILLSEAL_INSTALLED"):
+        return
+    stage = pathlib.Path(tempfile.mkdtemp(prefix="quillseal-installed-"))
+    try:
+        subprocess.run(["cmake", "--install", build, "--component", "browser-extension"],
+                       env={**os.environ, "DESTDIR": str(stage)}, check=True, capture_output=True)
+        if prefix != "/usr":
+            # Where the parts would lie had they been installed by a package.
+            own = stage / prefix.lstrip("/")
+            for part in list(own.iterdir()):
+                shutil.copytree(part, stage / ("etc" if part.name == "etc" else f"usr/{part.name}"),
+                                dirs_exist_ok=True)
+        mounts = [f"mount -t overlay installed -o lowerdir={stage}{folder}:{folder} {folder}"
+                  for folder in ("/usr", "/etc")]
+        enter = ["unshare", "--mount"] + ([] if os.geteuid() == 0 else ["--map-root-user"])
+        script = " && ".join(mounts + ['exec "$@"'])
+        done = subprocess.run(enter + ["sh", "-c", script, "sh", sys.executable, *sys.argv],
+                              env={**os.environ, "QUILLSEAL_INSTALLED": "1"}, check=False)
+        sys.exit(done.returncode)
+    finally:
+        shutil.rmtree(stage, ignore_errors=True)
+
+
+class Site:
+    """Pages that tell which of them are open, and what is typed and pasted in them."""
+
+    PAGE = """<!DOCTYPE html><meta charset="utf-8"><title>{title}</title>
+<style>body {{ font: 16px sans-serif; margin: 2em; }} #field {{ border: 1px solid #888; padding: 1em;
+min-height: 12em; }}</style><h1>{title}</h1><div id="field" contenteditable>{text}</div>
+<script>
+const tell = (what, body = "") => navigator.sendBeacon(`/tell/${{what}}{query}`, body);
+const field = document.getElementById("field");
+tell("open");
+addEventListener("pagehide", () => tell("gone"));
+field.focus();
+field.addEventListener("input", () => tell("content", field.innerHTML));
+document.addEventListener("selectionchange", () => tell("selected", String(getSelection())));
+</script>"""
+
+    def __init__(self):
+        site = self
+        self.open = []
+        self.told = {}
+        self.text = ""
+
+        class Handler(http.server.BaseHTTPRequestHandler):
+            def do_GET(self):
+                url = urllib.parse.urlsplit(self.path)
+                if url.path == "/favicon.ico":
+                    self.send_error(404)
+                    return
+                title = urllib.parse.parse_qs(url.query).get("h", ["Untitled"])[0]
+                page = Site.PAGE.format(title=title, query="?" + url.query, text=site.text).encode()
+                self.send_response(200)
+                self.send_header("Content-Type", "text/html")
+                self.send_header("Cache-Control", "no-store")
+                self.end_headers()
+                self.wfile.write(page)
+
+            def do_POST(self):
+                url = urllib.parse.urlsplit(self.path)
+                what = url.path.rsplit("/", 1)[-1]
+                page = urllib.parse.parse_qs(url.query).get("h", [""])[0]
+                body = self.rfile.read(int(self.headers["Content-Length"] or 0)).decode()
+                if what == "open":
+                    site.open.append(page)
+                elif what == "gone" and page in site.open:
+                    site.open.remove(page)
+                site.told[what, page] = body
+                self.send_response(204)
+                self.end_headers()
+
+            def log_message(self, *_):
+                pass
+
+        self.server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), Handler)
+        threading.Thread(target=self.server.serve_forever, daemon=True).start()
+
+    def address(self, page, path="/mail"):
+        return f"http://127.0.0.1:{self.server.server_port}{path}?h={page}"
+
+    def wait_for_open(self, *pages):
+        wait_for(f"exactly the pages {', '.join(pages)} are open, not {self.open}",
+                 lambda: sorted(self.open) == sorted(pages))
+
+
+class Browser:
+    """`family` is "chromium" or "firefox-esr": program and desktop file are named so."""
+
+    def __init__(self, session, family):
+        self.session = session
+        self.family = family
+        self.process = None
+        if family == "chromium":
+            sandbox = ("--no-sandbox",) if os.geteuid() == 0 else ()
+            self.command = ("chromium", *sandbox, *CHROMIUM_FLAGS)
+        else:
+            profile = session.home / "firefox-profile"
+            profile.mkdir(exist_ok=True)
+            (profile / "user.js").write_text(FIREFOX_PREFERENCES)
+            self.command = ("firefox-esr", "--profile", str(profile))
+
+    def start(self, url):
+        self.process = self.session.start(*self.command, url)
+
+    def open(self, url):
+        """In a new tab of the running browser."""
+        self.session.start(*self.command, *(["--new-tab"] if "firefox" in self.family else []), url)
+
+    def open_window(self, url):
+        self.session.start(*self.command, "--new-window", url)
+
+    def wait_for_page(self, title):
+        """Waits until the page is what the user sees and types into."""
+        self.session.wait_for_window(rf"^{re.escape(title)} [-—] (Chromium|Mozilla Firefox)")
+
+    def quit(self):
+        self.session.end(self.process)

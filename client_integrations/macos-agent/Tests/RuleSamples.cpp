@@ -667,7 +667,7 @@ std::span<const RuleSamples> ruleSamples() {
      {"Well done! Thank you!"}},
     {"spam-100-free",
      {"100% free",
-      "No purchase necessary."},
+      "No strings attached."},
      {"You are free to go."}},
 
     // Abuse

@@ -22,6 +22,9 @@ constexpr auto table = std::to_array<Rule>({
     // ---- Credential phishing -------------------------------------------------------------------
     {"cred-verify-account", "Credential phishing", "warn", 35,
      "asks the reader to verify an account, the most common phishing opener",
+     R"(\b(?:verify|validate|re-?validate)\s+your\s+e-?mail(?:\s+address|\s+account)?\b|)"
+     R"(\b(?:please|must|need\s+to|kindly)\s+update\s+your\s+(?:information|details|account|profile\s+information)\b|)"
+     R"(\bconfirm\s+your\s+(?:delivery\s+|shipping\s+|home\s+|mailing\s+)?address\b|)"
      R"(\b(?:verify|validate|confirm|authenticate|re-?confirm|re-?validate|re-?verify)\b[^.!?]{0,20}\byour\s+(?:\w+\s+){0,3}(?:accounts?|wallet|identity|profile|membership|ownership|mailbox|billing|credentials|log-?in|sign-?in|payment\s+(?:details|method|information)|personal\s+(?:details|information|data))\b|)"
      R"(\b(?:account|identity|wallet|mailbox|kyc)\s+(?:verification|validation|confirmation|authentication)\s+(?:is\s+|was\s+)?(?:required|needed|pending|process|failed|incomplete)|)"
      R"(\b(?:update|review)\b[^.!?]{0,15}\byour\s+(?:billing|payment|account|wallet)\s+(?:details|information|info|method|data|records)\b|)"
@@ -29,10 +32,10 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:submit|provide|upload)\s+(?:your\s+)?(?:identification|identity\s+documents?|kyc)\b[^.!?]{0,60}\b(?:account|wallet|ledger|service|access|avoid|soon|below)\b|)"
      R"(\byour\s+(?:\w+\s+){0,2}(?:account|wallet|identity|mailbox)\b[^.!?]{0,25}\b(?:must|needs?\s+to|has\s+to|have\s+to|should|to)\s+be\s+(?:re-?)?(?:verified|validated|confirmed|authenticated|updated)\b|)"
      R"(\byour\s+(?:\w+\s+){0,2}(?:account|wallet|identity|mailbox)\s+(?:has\s+not|hasn['’]t|is\s+not|isn['’]t)(?:\s+yet)?\s+(?:been\s+)?(?:yet\s+)?(?:verified|validated|confirmed)\b|)"
-     R"(\b(?:verifizieren|bestätigen|überprüfen|validieren|aktualisieren|legitimieren)\s+Sie[^.!?]{0,25}\bIhr(?:e[nmrs]?)?\s+(?:[\w-]+\s+){0,2}(?:[\w-]*konto|kontodaten|identität|(?:persönlichen\s+)?daten|angaben|[\w-]*karte|wallet|zugangsdaten|zahlungs\w+|informationen)\b|)"
+     R"(\b(?:verifizieren|bestätigen|überprüfen|validieren|aktualisieren|legitimieren)\s+Sie[^.!?]{0,25}\bIhr(?:e[nmrs]?)?\s+(?:[\w-]+\s+){0,2}(?:[\w-]*konto|kontodaten|identität|(?:persönlichen\s+)?daten|angaben|[\w-]*karte|wallet|zugangsdaten|zahlungs\w+|informationen|[\w-]*adress\w*|anschrift)\b|)"
      R"(\bIhr(?:e[nmrs]?)?\s+(?:[\w-]+\s+){0,2}(?:[\w-]*konto|identität|daten|wallet|[\w-]*karte|zahlungs\w+)[^.!?]{0,40}\b(?:zu\s+)?(?:verifizieren|bestätigen|validieren|verifiziert|bestätigt|validiert)\b|)"
      R"(\b(?:vérifie[rz]|confirme[rz]|valide[rz]|actualise[rz]|authentifie[rz]|mett(?:re|ez)\s+à\s+jour)\b[^.!?]{0,20}\b(?:votre|vos)\s+(?:\w+\s+){0,2}(?:compte|identité|informations|coordonnées|données|carte|profil)\b|)"
-     R"(\b(?:verifi(?:car|que|ca)|confirm(?:ar|e|a)|valid(?:ar|e|a)|actuali[cz](?:ar|e|a))\b[^.!?]{0,20}\b(?:su|tu|sus|tus)\s+(?:\w+\s+){0,2}(?:cuenta|identidad|datos|información|tarjeta|billetera)\b|)"
+     R"(\b(?:verifi(?:car|que|ca)|confirm(?:ar|e|a)|valid(?:ar|e|a)|actuali[cz](?:ar|e|a))\b[^.!?]{0,20}\b(?:su|tu|sus|tus)\s+(?:\w+\s+){0,2}(?:cuenta|identidad|datos|información|tarjeta|billetera|dirección)\b|)"
      R"(\b(?:verifi(?:car|que)|confirm(?:ar|e)|valid(?:ar|e)|atualiz(?:ar|e)|regulariz(?:ar|e))\b[^.!?]{0,20}\b(?:su(?:a|as)|seus?|o|os)\s+(?:\w+\s+){0,2}(?:conta|cadastro|dados|identidade|cpf|token|dispositivo|aparelho)\b|)"
      R"(\b(?:verifieer|bevestig|controleer|valideer|actualiseer|identificeer)\b[^.!?]{0,20}\buw\s+(?:\w+\s+){0,2}(?:account|rekening|gegevens|identiteit|pas|wallet|betaal\w+)\b|)"
      R"(\buw\s+(?:\w+\s+){0,2}(?:account|rekening|gegevens|identiteit|wallet)\b[^.!?]{0,30}\b(?:te\s+)?(?:verifi[ëe]ren|bevestigen|valideren|controleren)\b|)"
@@ -189,6 +192,8 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"cred-deactivate", "Credential phishing", "warn", 25,
      "threatens to close or delete an account",
+     R"(\byour\s+(?:\w+\s+)?(?:account|membership|subscription|mailbox)\s+has\s+been\s+(?:closed|terminated|cancell?ed|deactivated)\b|)"
+     R"(\b(?:can\s+no\s+longer|no\s+longer\s+be\s+able\s+to|be\s+unable\s+to|will\s+stop|not\s+be\s+able\s+to)\b[^.!?]{0,8}\b(?:send|sending|receive|receiving)\s+(?:(?:and|or)\s+(?:receive|receiving|send|sending)\s+)?(?:new\s+|any\s+|incoming\s+)?(?:messages|e-?mails?|mails?)\b|)"
      R"(\b(?:account|mailbox|wallet|profile|e-?mail\s+address|your\s+(?:\w+\s+)?(?:service|access|card|number|line|subscription|membership))\b[^.!?]{0,15}\b(?:will|is\s+going\s+to|shall|is\s+about\s+to|is\s+scheduled\s+to|is\s+due\s+to|has\s+been\s+scheduled\s+to)\s+(?:soon\s+|then\s+|automatically\s+|permanently\s+|also\s+|otherwise\s+)?be\s+(?:\w+ly\s+)?(?:closed|terminated|deactivated|deleted|removed|cancell?ed|discontinued|shut\s?down|disconnected|disabled|erased|suspended)\b|)"
      R"(\b(?:request|requested|instruction)\b[^.!?]{0,20}\b(?:to|for)\s+(?:the\s+)?(?:terminate|close|delete|de-?activate|shut\s?down|deactivation|termination|deletion|closure)\b[^.!?]{0,15}\b(?:your|of)\b[^.!?]{0,12}\b(?:account|mailbox|e-?mail|service|wallet)\b|)"
      R"(\b(?:avoid|prevent)\b[^.!?]{0,20}\b(?:(?:account|service|permanent|access)\s+(?:closure|termination|deactivation|deletion|suspension|interruption|disruption|restrictions?|loss)|(?:closure|termination|deactivation|deletion|suspension|interruption|restriction|loss)\s+of\s+(?:your|the|this|access|service|data)|losing\s+access|being\s+(?:closed|locked|suspended|deactivated|disabled))\b|)"
@@ -414,7 +419,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"bec-urgent-wire", "Payment redirection", "warn", 45,
      "presses for an urgent payment or transfer",
-     R"(\b(?:urgent|urgently|immediate|immediately|asap|a\.s\.a\.p|as\s+soon\s+as\s+possible|right\s+away|today|this\s+morning|this\s+afternoon|same[- ]day|promptly|prioriti[sz]e|prioriti[sz]ing|expedite|before\s+(?:close|the\s+close|end|the\s+end|noon|cob|cut-?off|the\s+cut-?off)|by\s+(?:close|the\s+end|\d+\s?pm)|end\s+of\s+day|eod|cob)\b[^.!?]{0,60}\b(?:the\s+wire|a\s+wire|this\s+wire|wire\s+(?:transfer|payment|it|the|out)|be\s+wired|by\s+wire|fund\s+transfer|funds\s+transfer|bank\s+transfer|wire\s+transfer|ach\s+payment|ach\s+transfer|by\s+ach|swift\s+copy|swift\s+transfer|faster\s+payment|domestic\s+transfer|international\s+transfer|zelle|outgoing\s+(?:payment|transfer)|vendor\s+payment|payment\s+(?:to|for)\s+(?:a|the|our|new)\s+(?:new\s+)?(?:vendor|supplier|contractor|consultant|attorney)|payment\s+(?:made|sent|out|done|processed))\b|)"
+     R"(\b(?:urgent|urgently|immediate|immediately|asap|a\.s\.a\.p|as\s+soon\s+as\s+possible|right\s+away|today|this\s+morning|this\s+afternoon|same[- ]day|promptly|prioriti[sz]e|prioriti[sz]ing|expedite|before\s+(?:close|the\s+close|end|the\s+end|noon|cob|cut-?off|the\s+cut-?off)|by\s+(?:close|the\s+end|\d+\s?pm)|end\s+of\s+day|eod|cob)\b[^.!?]{0,60}\b(?:the\s+wire|a\s+wire|this\s+wire|wire\s+(?:transfer|payment|it|the|out)|be\s+wired|by\s+wire|fund\s+transfer|funds\s+transfer|bank\s+transfer|wire\s+transfer|ach\s+payment|ach\s+transfer|by\s+ach|swift\s+copy|swift\s+transfer|faster\s+payment|domestic\s+transfer|international\s+transfer|zelle|outgoing\s+(?:payment|transfer)|vendor\s+payment|payment\s+(?:to|for)\s+(?:a|the|our|new)\s+(?:new\s+)?(?:vendor|supplier|contractor|consultant|attorney))\b|)"
      R"(\b(?:the\s+wire|a\s+wire|this\s+wire|wire\s+payment|fund\s+transfer|funds\s+transfer|bank\s+transfer|wire\s+transfer|ach\s+payment|ach\s+transfer|faster\s+payment|zelle\s+payment|outgoing\s+(?:payment|transfer)|vendor\s+payment|transfer\s+of\s+funds|payments?\s+(?:to|for)\s+(?:a|the|our|new|my)\s+(?:new\s+)?(?:vendor|supplier|contractor|consultant|attorney)|this\s+transfer)\b[^.!?]{0,60}\b(?:urgent|urgently|immediately|asap|as\s+soon\s+as\s+possible|right\s+away|today|this\s+morning|this\s+afternoon|same[- ]day|quickly|priority|prioriti[sz]ed?|before\s+(?:close|the\s+close|end|noon|cob|cut-?off|the\s+cut-?off)|end\s+of\s+day|eod|cob)\b|)"
      R"(\b(?:process|make|send|set\s+up|initiate|handle|arrange|release|execute|prioriti[sz]e|take\s+care\s+of|effect|push\s+through|do|complete)\w*\b[^.!?]{0,12}\b(?:a|an|the|this|out|processing|two|another)\b[^.!?]{0,8}\b(?:urgent\s+|same[- ]day\s+|immediate\s+|quick\s+|domestic\s+|international\s+|pending\s+|outstanding\s+|outgoing\s+|new\s+)*(?:wire|fund\s+transfer|funds\s+transfer|wire\s+transfer|bank\s+transfer|transfer\s+of\s+funds|ach\s+transfer|ach\s+payment|zelle|zelle\s+payment|swift\s+transfer|faster\s+payment|domestic\s+transfer|international\s+transfer|outgoing\s+(?:payment|transfer|bank\s+transfer|wire))\b|)"
      R"(\b(?:urgent|immediate|confidential|same[- ]day)\s+(?:\w+\s+)?(?:payment|transfer|wire|remittance)\b|)"
@@ -443,6 +448,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"bec-overdue", "Payment redirection", "warn", 20,
      "says a payment is overdue or a debt is open",
+     R"(\bunable\s+to\s+(?:charge|bill|renew|process)\s+your\b|)"
      R"(\b(?:payment\s+(?:failed|declined|method\s+(?:isn['’]t|is\s+not|has|was)\s+(?:\w+\s+)?(?:working|expired|declined|rejected))|problem\s+with\s+your\s+(?:\w+\s+)?(?:payment|billing)|trouble\s+with\s+your\s+(?:\w+\s+)?(?:payment|billing)|attempted\s+to\s+charge)\b|)"
      R"(\b(?:invoice|payment|balance|bill|account|amount|fee|toll|fine|debt|fees|invoices|payments|subscription|tax|charge)s?\b[^.!?]{0,25}\b(?:is|are|was|were|remains?|still|now|being|has\s+been|have\s+been|has\s+become|seems|appears)\b[^.!?]{0,15}\b(?:overdue|past\s+due|outstanding|unpaid|delinquent|in\s+arrears|due\s+now|not\s+(?:yet\s+)?been\s+(?:paid|settled|received))\b|)"
      R"(\b(?:overdue|past\s+due|outstanding|unpaid|delinquent)\b[^.!?]{0,12}\b(?:invoices?|payments?|balances?|bills?|accounts?|amounts?|fees?|tolls?|fines?|debts?|tax(?:es)?|charges?|dues)\b|)"
@@ -452,7 +458,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:impayée?s?|en\s+retard|en\s+souffrance|non\s+réglée?s?)\b[^.!?]{0,20}\b(?:factures?|paiements?|amendes?|montants?)\b|)"
      R"(\b(?:factures?|paiements?|amendes?)\b[^.!?]{0,15}\b(?:impayée?s?|en\s+retard|en\s+souffrance|non\s+réglée?s?|en\s+attente)\b|)"
      R"(\b(?:factura|pago|deuda|multa|saldo)s?\b[^.!?]{0,20}\b(?:vencid[oa]s?|pendientes?|impagad[oa]s?|atrasad[oa]s?)\b|)"
-     R"(\b(?:fatura|boleto|pagamento|d[íi]vida|d[ée]bito|multa|ped[áa]gio|parcela|tributo|imposto|passage[mn]s?)s?\b[^.!?]{0,20}\b(?:vencid[oa]s?|pendentes?|atrasad[oa]s?|em\s+(?:aberto|atraso)|n[ãa]o\s+pag[oa]s?|vence)\b|)"
+     R"(\b(?:fatura|boleto|conta|pagamento|d[íi]vida|d[ée]bito|multa|ped[áa]gio|parcela|tributo|imposto|passage[mn]s?)s?\b[^.!?]{0,20}\b(?:vencid[oa]s?|pendentes?|atrasad[oa]s?|em\s+(?:aberto|atraso)|n[ãa]o\s+pag[oa]s?|vence)\b|)"
      R"(\b(?:openstaande?|onbetaalde|achterstallige)\b[^.!?]{0,12}\b(?:rekening\w*|factu\w+|bedrag|betaling\w*|boete\w*|schuld)\b)",
      true},
     {"bec-ceo-request", "Payment redirection", "warn", 35,
@@ -580,7 +586,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"crypto-send-to-wallet", "Crypto fraud", "warn", 45,
      "tells the reader to send cryptocurrency to a wallet",
-     R"(\b(?:send|transfer|deposit|pay|remit|make\s+(?:a|the)\s+(?:payment|transfer))\b[^.!?]{0,60}\b(?:btc|bitcoins?|eth|ether(?:eum)?|usdt|tether|usdc|sol|solana|xrp|crypto(?:currency|currencies)?|coins?|monero|xmr|litecoin|ltc|trx|bnb)\b[^.!?]{0,60}\b(?:to|into)\b[^.!?]{0,25}\b(?:wallet|address|account|below|following)\b|)"
+     R"(\b(?:send|transfer|deposit|pay|remit|make\s+(?:a|the)\s+(?:payment|transfer))\b[^.!?]{0,60}\b(?:btc|bitcoins?|eth|ether(?:eum)?|usdt|tether|usdc|sol|solana|xrp|crypto(?:currency|currencies)?|coins?|monero|xmr|litecoin|ltc|trx|bnb)\b[^.!?]{0,60}\b(?:to|into)\s+(?:the|this|that|my|our|your|below|following|one\s+of|any\s+of)\b[^.!?]{0,25}\b(?:wallets?|address(?:es)?|account|below|following)\b|)"
      R"(\b(?:my|our|the|this|following)\s+(?:\w+\s+)?(?:btc|bitcoin|eth|ethereum|usdt|tether|crypto|monero|litecoin|ltc)\s+(?:wallet|address|wallet\s+address)\b|)"
      R"(\b(?:wallet|btc|bitcoin|usdt|eth)\s+address\b[^.!?]{0,12}(?::|\bis\b|\bbelow\b)|)"
      R"(\b(?:send|transfer|pay|deposit)\b[^.!?]{0,15}(?:\$\s?\d[\d,.]*|\d[\d,.]*\s?(?:usd|eur|dollars|euros|btc|eth|usdt))[^.!?]{0,40}\b(?:in|of|worth\s+of|via|using|through)\b[^.!?]{0,12}\b(?:bitcoins?|btc|crypto\w*|usdt|ethereum|monero)\b|)"
@@ -605,6 +611,10 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"crypto-giveaway", "Crypto fraud", "warn", 55,
      "lures with a crypto giveaway, airdrop or bonus to claim",
+     R"(\btokens?\b[^.!?]{0,60}\bclaim\s+(?:your|now|it|them|rewards?)\b|)"
+     R"(\b(?:claim|collect)\s+(?:your\s+|these\s+|the\s+)?rewards?\b[^.!?]{0,80}\b(?:wallet|tokens?|season|on-?chain)\b|)"
+     R"(\b(?:crypto|bitcoin|btc|eth|ethereum|token|xrp|doge|usdt)\s+(?:air-?drop|giveaway)\b[^.!?]{0,60}\b(?:game|event|participate|claim|join\s+now|win)\b|)"
+     R"(\bwin\s+\d[\d,.]*\s+(?:eth|btc|doge|usdt|xrp|sol)\b|)"
      R"(\b(?:withdraw(?:al|als|ing)?|recover(?:y|ed)?|claims?|distribution|repayment)\b[^.!?]{0,50}\b(?:digital\s+assets?|crypto(?:currency)?|in-kind|assets|funds)\b[^.!?]{0,60}\b(?:ftx|celsius|voyager|blockfi|mt\.?\s?gox|terraform|creditors?|customers?\s+(?:claim|account)|self-custody|designated\s+wallet|external\s+wallet)\b|)"
      R"(\b(?:ftx|celsius|voyager|blockfi|mt\.?\s?gox)\b[^.!?]{0,80}\b(?:withdraw\w*|claim|eligible|distribution)\b[^.!?]{0,60}\b(?:your|account|wallet|now|ready)\b|)"
      R"(\b(?:claim|collect|redeem|withdraw|secure|receive|get|eligible\s+for|qualif\w+\s+for|unlock)\b[^.!?]{0,30}\b(?:your\s+|ur\s+|the\s+|our\s+|this\s+|an?\s+|free\s+|exclusive\s+|special\s+|\d[\d,.]*\s+)+(?:\w+\s+){0,3}(?:air-?drops?|(?:token|coin|crypto|nft|btc|bitcoin|eth|ethereum|xrp|usdt|sol|bnb|defi|staking|claw|genesis|community|rlusd|algo)\s+(?:rewards?|allocations?|bonus(?:es)?|distributions?|giveaways?|drops?|grants?|incentives?|cash\s?back|benefits?))\b|)"
@@ -627,6 +637,11 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"crypto-wallet-validate", "Crypto fraud", "warn", 55,
      "asks the reader to connect, validate or synchronise a crypto wallet",
+     R"(\b(?:verify|validate)\s+(?:their|all)\s+wallets?\b|)"
+     R"(\bback\s?up\s+your\s+(?:recovery|seed|secret)\b|)"
+     R"(\brecovery\s+phrase\b[^.!?]{0,60}\b(?:attention|backed\s+up|back\s+(?:it\s+)?up|expir\w+|reassigned|at\s+risk|update)\b|)"
+     R"(\bhardware\s+wallet\b[^.!?]{0,100}\bupdate\b|)"
+     R"(\b(?:security|data)\s+breach\b[^.!?]{0,120}\b(?:wallet\s+associated\s+with\s+your|your\s+(?:\w+\s+){0,2}(?:wallet|crypto\w*|seed|digital\s+assets))\b|)"
      R"(\b(?:connect|validate|verify|synchroni[sz]e|sync|re-?connect|link|import|restore|rectify|migrate|authenticate|upgrade|update|unlock|re-?validate|secure|activate|confirm|whitelist)\b[^.!?]{0,12}\b(?:your|ur|my)\s+(?:[\w-]+\s+){0,3}(?:wallet|ledger\s+(?:device|live|wallet|account|nano)|metamask|trezor|phantom|trust\s?wallet|exodus|coinbase|recovery\s+phrase|seed\s+phrase|secret\s+phrase)\b|)"
      R"(\b(?:wallet|metamask|ledger\s+live|trezor|trust\s?wallet|phantom|coinbase|exodus|kraken|binance)\b[^.!?]{0,30}\b(?:validation|verification|synchroni[sz]ation|migration|authentication|kyc|security\s+update|firmware\s+(?:update|upgrade)|upgrade|suspension)\b[^.!?]{0,30}\b(?:required|needed|process|pending|complete|must|mandatory|alert|notice)\b|)"
      R"(\b(?:ledger\s+(?:live|device|wallet|nano|recover|user|customer|security)|your\s+ledger|trezor|metamask|crypto\s+wallet|hardware\s+wallet)\b[^.!?]{0,80}\b(?:firmware|security|mandatory|critical|important|urgent)\s+(?:update|upgrade|patch|migration|scan|notice|breach|verification)\b|)"
@@ -706,6 +721,14 @@ constexpr auto table = std::to_array<Rule>({
     // ---- Advance fee ---------------------------------------------------------------------------
     {"afee-lottery", "Advance fee", "warn", 55,
      "says the reader has won or been chosen for a prize",
+     R"(\b(?:claim|unlock|redeem)\s+(?:my\s+|your\s+|the\s+|this\s+)?(?:\w+\s+){0,2}(?:rewards?|gift|prize|surprise|benefit)\b|)"
+     R"(\bget\s+(?:my|your)\s+(?:free\s+|exclusive\s+|special\s+)?(?:reward|gift|prize|gift\s+card|sample)\b|)"
+     R"(\bexclusive\s+(?:[\w’\'-]+\s+){0,3}reward\b|)"
+     R"(\b(?:reward|gift|prize|special\s+offer|surprise|voucher|gift\s+card)s?\s+(?:is|are)\s+(?:still\s+)?(?:waiting|unclaimed|reserved|ready\s+for\s+you)\b|)"
+     R"(\bspecial\s+(?:gift|reward|surprise)\s+(?:just\s+|only\s+|exclusively\s+)?for\s+you\b|)"
+     R"(\b(?:produkttester|produkttest|testpaket)\b[^.!?]{0,60}\b(?:kostenlos\w*|gratis|chance|erhalten|gesucht|werden)\b|)"
+     R"(\bfür\s+eine\s+spende\s+(?:von|in\s+höhe)\b|)"
+     R"(\b(?:gewinnen\s+sie|gewinne|gewinn)\s+(?:jetzt\s+|heute\s+|eine[nr]?\s+|ein\s+)[^.!?]{0,30}\b(?:geschenkkarte|[\w-]*gutschein|iphone|mystery\s+box|[\w-]*set|gratis)\b|)"
      R"(\b(?:unsere[rm]?|an|kurze?|dieser?)\b[^.!?]{0,25}\b(?:umfrage|fragebogen)\b[^.!?]{0,90}\b(?:kostenlos\w*|gehört\s+ihnen|gratis)\b|)"
      R"(\b(?:kostenlos\w*|gratis|brandneu\w*)\b[^.!?]{0,90}\b(?:umfrage|fragebogen)\b|)"
      R"(\bmaakt?\s+kans\s+op\b[^.!?]{0,40}\b(?:cadeaukaart|prijs|gratis|iphone|tegoed|waardebon)\b|)"
@@ -738,7 +761,6 @@ constexpr auto table = std::to_array<Rule>({
     {"afee-lottery2", "Advance fee", "warn", 50,
      "holds out a prize, a reward or a stranger's donation to be claimed",
      R"(\b(?:balance|payout|winnings)\s+of\s+[$€£]\s?\d[\d.,]*[^.!?]{0,60}\b(?:collect\w*|withdraw\w*|claim\w*|in\s+your\s+name)\b|)"
-     R"(\b(?:claim|collect|redeem|unlock)\s+(?:your|ur)\s+(?:\w+\s+){0,2}rewards?\b|)"
      R"(\b(?:grant|donation|award|sum|compensation)\s+of\s+(?:[\w-]+\s+){0,4}(?:million|thousand)\s+(?:[\w.]+\s+){0,3}(?:dollars|euros?|pounds|usd)\b|)"
      R"(\b(?:e-?mail|name)\s+(?:address\s+)?(?:was|has\s+been|were)\s+(?:\w+\s+)?(?:selected|chosen|picked|drawn)\b[^.!?]{0,40}\b(?:spin|random\w*|ballot|draw|donat\w+|grant|million|receive)\b|)"
      R"(\b(?:lottery|lotto|sweepstakes?|award|winning|promo|jackpot)\b[^.!?]{0,20}\b(?:claims?\s+(?:agent|department|officer|number|code|form|centre|center)|batch\s+(?:number|no)|serial\s+number|winning\s+(?:number|code))\b|)"
@@ -754,7 +776,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\bbrand[- ]new\s+(?:[\w-]+\s+){0,5}(?:drill|i-?phone|galaxy|macbook|playstation|air\s?fryer|cooler|toolbox|tool\s+set|generator|backpack|vacuum|yeti|dewalt|ninja|oral-?b|emergency\s+kit|mystery\s+box|grill|blender|cookware|tumbler)\b|)"
      R"(\b(?:reward|bonus|loyalty|cash\s?back)\b[^.!?]{0,20}\bpoints\b[^.!?]{0,40}\b(?:expire\w*|redeem|claim|convert|waiting|available)\b|)"
      R"(\b(?:umfrage|fragebogen|fragen)\b[^.!?]{0,80}\b(?:gewinn\w*|belohn\w*|geschenk|gutschein\w*|preis|prämie|chance|gratis|anzufordern|sichern)\b|)"
-     R"(\b(?:gewinn\w*|belohn\w*|geschenk|gutschein\w*|prämie|anzufordern|anfordern|gelegenheit)\b[^.!?]{0,90}\b(?:umfrage|fragebogen|fragen)\b|)"
+     R"(\b(?:gewinn\w*|belohn\w*|geschenk|gutschein\w*|prämie|anzufordern|anfordern|beanspruchen|gelegenheit)\b[^.!?]{0,90}\b(?:umfrage|fragebogen|fragen)\b|)"
      R"(\b(?:chance|gelegenheit|möglichkeit|teilnehmen|teilnahme)\b[^.!?]{0,60}\b(?:zu\s+gewinnen|gewinnen\s+sie|gewinne|brandneue[nsr]?|gutschein\w*)\b|)"
      R"(\b(?:[\w-]*gutschein|geschenkkarte|belohnung|prämie)\b[^.!?]{0,40}\b(?:im\s+wert\s+von|sichern|gesamtwert|wartet|erhalten|einlösen)\b[^.!?]{0,20}(?:\d|€|\b(?:jetzt|hier|heute)\b)|)"
      R"(\b(?:sondage|questionnaire|enquête)\b[^.!?]{0,80}\b(?:gagn\w+|cadeau\w*|récompense\w*|chance|prix)\b|)"
@@ -768,6 +790,8 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"afee-inheritance", "Advance fee", "warn", 70,
      "offers a share of an inheritance or of a dead stranger's money",
+     R"(\blate\s+(?:husband|wife|father|client)(?:\'s)?\s+(?:legacy|estate|fund|wealth)\b|)"
+     R"(\b(?:dying|death|sick)\s+bed\b[^.!?]{0,200}\b(?:god|fund\w*|donat\w+|charity|money|million|will)\b|)"
      R"(\b(?:fundos|fondos|dinheiro|dinero)\b[^.!?]{0,40}\b(?:heran[çc]a|herencia)\b[^.!?]{0,60}\b(?:falecid[oa]|fallecid[oa]|marido|esposo|difunt[oa])\b|)"
      R"(\b(?:verstorbene[nr]?|verschiedene[nr]?)\s+(?:ehemann\w*|mann\w*|kunden?|klienten?|mandanten?|vater\w*)\b[^.!?]{0,100}\b(?:million\w*|fonds|geld|erbe|spend\w+|konto|vermögen)\b|)"
      R"(\b(?:late|deceased|dead|died|passed\s+away|demise\s+of)\b[^.!?]{0,80}\b(?:client|customer|husband|father|relative|depositor|investor|engineer|account\s+holder|owner|national|businessman|contractor|merchant|chief|general|dr|mr)\b[^.!?]{0,200}\b(?:next\s+of\s+kin|inherit\w*|fund|funds|deposit(?:ed)?|estate|million|unclaimed|beneficiary|account|left\s+behind|safe\s?keeping)\b|)"
@@ -783,6 +807,9 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"afee-beneficiary", "Advance fee", "warn", 45,
      "says a fund or payment is waiting for the reader as its beneficiary",
+     R"(\ballocated\s+funds?\b|)"
+     R"(\btransfer\b[^.!?]{0,15}\b(?:sum|fund|funds|money|million\w*)\b[^.!?]{0,50}\b(?:into|to)\s+your\s+(?:bank\s+)?account\b|)"
+     R"(\bas\s+my\s+foreign\s+partner\b|)"
      R"(\b(?:confidential|mutually\s+beneficial|crave\s+your\s+indulgence)\b[^.!?]{0,60}\b(?:transaction|business|proposal)\b[^.!?]{0,40}(?:[.!]|\b(?:details|get\s+back|reply|contact)\b)|)"
      R"(\b(?:sum|payment|funds?|transfer|zahlung|summe)\b[^.!?]{0,60}\b(?:united\s+nations|vereinten\s+nationen|generalsekretär)\b|)"
      R"(\b(?:urgent|important|dringende|wichtige)\s+(?:\w+\s+)?(?:matter|angelegenheit|discussion|discuss[ãa]o)\b[^.!?]{0,40}\b(?:discuss|besprechen|with\s+you|mit\s+ihnen|share)\b|)"
@@ -820,6 +847,9 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"afee-million", "Advance fee", "warn", 30,
      "mentions millions that a stranger wants to give or move",
+     R"(\b(?:give|giving|donate|donating|offer)\s+(?:\w+\s+){0,3}(?:[$€£]\s?|usd\s?)\d{1,3}(?:[,.]\d{3}){2,}\b|)"
+     R"(\b(?:secretly|decided\s+to|willing\s+to)\s+(?:\w+\s+){0,3}(?:give|donate)\b[^.!?]{0,30}(?:[$€£]\s?|\b(?:usd|sum\s+of)\s?\$?)\d|)"
+     R"((?:[$€£]\s?|\b(?:usd|eur|gbp|us)\s?\$?\s?)\d{1,3}(?:[,.]\d{3}){2,}(?:[.,]\d{2})?[^.!?]{0,100}\b(?:into\s+your|your\s+(?:bank\s+)?account|to\s+you|for\s+you|partner|beneficiary|donat\w+|charity|inherit\w*|fund|funds|deposited|compensat\w+)\b|)"
      R"((?:[$€£]\s?\d[\d,.]*\s?(?:million|m\b|mln)|\b(?:usd|us\$?|eur|gbp|euros?|dollars?)\b\s?\$?\s?\d{1,3}(?:[,.]\d{3}){2,}|[$€£]\s?\d{1,3}(?:,\d{3}){2,})[^.!?]{0,150}\b(?:you|your|donat\w+|transfer\w*|beneficiary|deposit(?:ed)?|fund|funds|inherit\w*|compensat\w+|claim|bank\s+account)\b[^.!?]{0,100}\b(?:you|your|assist\w*|partner\w*|contact|late|account|reply|charity|share|percent|transfer\w*|next\s+of\s+kin|deceased)\b|)"
      R"(\b(?:million|millions\s+of)\s+(?:us\s+|u\.s\.\s+|united\s+states\s+|american\s+)?(?:dollars|usd|euros?|pounds(?:\s+sterling)?)\b[^.!?]{0,150}\b(?:you|your|donat\w+|transfer\w*|beneficiary|deposited|fund|inherit\w*|compensat\w+|claim)\b|)"
      R"(\b(?:sum|amount|total)\s+of\b[^.!?]{0,60}\b(?:million|[a-z-]+\s+(?:million|thousand)\s+(?:\w+\s+){0,3}(?:dollars|euros?|pounds))\b|)"
@@ -829,6 +859,8 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"afee-barrister", "Advance fee", "warn", 35,
      "speaks as a lawyer, banker or official of a faraway estate",
+     R"(\b(?:bank\s+manager|director|manager|auditor)\s+(?:of|at|in|with)\b[^.!?]{0,30}\bbank\s+(?:of|in|plc)\b[^.!?]{0,25}\b(?:nigeria|ghana|benin|togo|burkina|africa|lagos|abidjan|accra|lome|cotonou|london|dubai|hong\s+kong|malaysia)\b|)"
+     R"(\b(?:i\s+am|i\'m|am)\s+(?:a\s+|an\s+|the\s+|mr\.?\s+|mrs\.?\s+|dr\.?\s+)?(?:\w+\s+){0,4}(?:banker|bank\s+manager|regional\s+manager|branch\s+manager|auditor|account\s+officer|director)\b[^.!?]{0,60}\bbank\b|)"
      R"(\b(?:barrister|solicitor|attorney|advocate|lawyer|notary)\b[^.!?]{0,60}\b(?:late|deceased|client|estate|inherit\w*|next\s+of\s+kin|fund|funds|beneficiary|claim)\b[^.!?]{0,80}\b(?:million|died|next\s+of\s+kin|fund|funds|inherit\w*|transfer|same\s+(?:last\s+name|surname)|nationality|claim|contact|proposal|beneficiary)\b|)"
      R"(\b(?:i\s+am|i['’]m|my\s+name\s+is|this\s+is|am)\b[^.!?]{0,25}\b(?:barrister|barr\.?|esq|princess|prince|chief|alhaji|engr|rev(?:erend)?|mrs|miss|madam|sgt|sergeant|captain|general|dr|mr)\b[^.!?]{0,100}\b(?:bank|director|manager|auditor|account\s+officer|widow|wife|daughter|son|ministry|remittance|petroleum|foreign\s+operations?|union|minister|central\s+bank|united\s+nations|army|oil)\b[^.!?]{0,150}\b(?:fund|funds|million|transfer\w*|proposal|deposit\w*|charity|assist\w*|confidential\w*|business|inherit\w*|partner\w*|donat\w+|compensat\w+|payment)\b|)"
      R"(\b(?:director|manager|head|officer|auditor|accountant|chairman|staff|secretary)\b[^.!?]{0,30}\b(?:of|in|with|at|for)\b[^.!?]{0,30}\b(?:bank|audit|credit|foreign\s+(?:operations?|remittance|exchange)|auditing|remittance|ministry|petroleum|security\s+company|eco\s?bank|central\s+bank)\b[^.!?]{0,150}\b(?:abandoned|deceased|next\s+of\s+kin|million|dormant|unclaimed|transfer\s+(?:of\s+)?(?:the\s+|this\s+)?(?:fund|money|sum)|inherit\w*)\b|)"
@@ -917,6 +949,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"imp-courier", "Impersonation", "warn", 30,
      "poses as a parcel service with a delivery that failed or waits",
+     R"(\b(?:vertriebszentrum|distributionszentrum|versandzentrum|verteilzentrum|logistikzentrum|zustellzentrum)\b[^.!?]{0,15}\b(?:angehalten|gestoppt|blockiert|zurückgehalten)\b|)"
      R"(\b(?:bestätigen|überprüfen|aktualisieren)\b[^.!?]{0,30}\b(?:lieferdetails|lieferadresse|lieferinformationen|versandinformationen|versandadresse|lieferung|zustellung)\b|)"
      R"(\b(?:parcel|package|shipment|delivery|item|order|courier|consignment|mail\s+piece)\b[^.!?]{0,50}\b(?:could\s+not|couldn['’]t|cannot|can['’]t|was\s+not|wasn['’]t|unable\s+to|failed\s+to|has\s+not|hasn['’]t|were\s+unable\s+to|attempted\s+to|is\s+on\s+hold|on\s+hold|is\s+pending|pending|suspended|held|stuck|waiting|awaiting|undeliver\w+|unsuccessful|failed|stopped|incomplete|delayed|missed|missing)\b[^.!?]{0,60}\b(?:deliver\w*|address|fee|reschedul\w*|confirm\w*|customs?|warehouse|depot|facility|distribution|delivery|sender|instructions?|collect\w*|pick\s?up|track\w*|update|click|link|shipping|postage|house\s+number|hub)\b|)"
      R"(\b(?:unable\s+to|could\s+not|couldn['’]t|failed\s+to|cannot|attempted\s+to|tried\s+to|attempt(?:ed)?)\b[^.!?]{0,20}\b(?:deliver|delivery|be\s+delivered)\b[^.!?]{0,40}\b(?:parcel|package|shipment|item|order|address|you|mail|confirm|reschedul\w*|courier|today)\b|)"
@@ -930,10 +963,12 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:pakket|zending|bezorging|pakje|levering)\b[^.!?]{0,60}\b(?:wacht\w*|kon\s+niet|niet\s+(?:bezorgd|geleverd|worden)|douane\w*|vastgehouden|verzendkosten|opnieuw|gestopt|tegengehouden|onvolledig|uitgesteld|aangehouden)\b|)"
      R"((?:包裹|快递|快遞|快件|邮件包裹)[^。！？.!?]{0,20}(?:无法|無法|未能|滞留|滯留|扣留|海关|海關|派送失败|地址|重新|待领|异常)|)"
      R"((?:お荷物|荷物|宅配便?|配達)[^。！？.!?]{0,30}(?:不在|持ち帰|お届けできません|住所|再配達|保管|確認|関税)|)"
-     R"((?:택배|소포|배송|화물)[^.!?。]{0,20}(?:주소\s?(?:불일치|오류|확인|불명)|반송|보류|통관|미배송|실패|재배송))",
+     R"((?:택배|소포|배송|화물)[^.!?。]{0,20}(?:주소\s?(?:불일치|오류|확인|불명)|반송|보류|통관|미배송|실패|재배송)|)"
+     R"(\b(?:pacco|consegna|spedizione)\b[^.!?]{0,40}\b(?:fallit\w+|in\s+attesa|sospes\w+|riprogramm\w+|dogana\w*|bloccat\w+)\b)",
      true},
     {"imp-customs", "Impersonation", "warn", 30,
      "poses as customs holding a parcel for a payment",
+     R"(\bausstehend\w*\s+(?:zoll|einfuhr)\w*\b|)"
      R"(\b(?:customs?|border\s+(?:force|protection))\b[^.!?]{0,50}\b(?:fees?|duty|duties|tax(?:es)?|charges?|clearance|import|held|hold|detained|seized|retained|release)\b[^.!?]{0,60}\b(?:pay\w*|paid|unpaid|parcel|package|shipment|consignment|release\w*|deliver\w*|outstanding|item)\b|)"
      R"(\b(?:parcel|package|shipment|consignment|item|order)\b[^.!?]{0,50}\b(?:held|detained|stopped|seized|stuck|retained|on\s+hold|blocked|hold|arrested)\b[^.!?]{0,20}\b(?:at|by|in|with)\b[^.!?]{0,15}\bcustoms\b|)"
      R"(\b(?:import|customs)\s+(?:duty|duties|fees?|tax|charges?|vat)\b[^.!?]{0,40}\b(?:unpaid|outstanding|must\s+be\s+paid|to\s+be\s+paid|due|required|pay|settle|needs?)\b|)"
@@ -976,6 +1011,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"imp-call-number", "Impersonation", "warn", 25,
      "urges the reader to call a given number about a charge or an account",
+     R"(\bcall\s+us\s+(?:immediately|now|right\s+away|at\s+once)\b[^.!?]{0,25}\d{3}[\s.)-]{1,3}\d{3}[\s.-]{1,2}\d{3,4}\b|)"
      R"(\b(?:call|dial|phone|contact|reach|ring|text)\b[^.!?]{0,40}(?:\+?\d{1,3}[\s.-]?)?\(?\d{3,4}\)?[\s.-]{0,2}\d{3}[\s.-]{0,2}\d{3,4}\b[^.!?]{0,60}\b(?:cancel|refund|immediately|dispute|verify|support|unauthori[sz]ed|order|charge\w*|within|subscription|help|stop|avoid|report|account|claim|questions?|if)\b|)"
      R"(\b(?:cancel|refund|dispute|unauthori[sz]ed|not\s+(?:made|authori[sz]ed|placed)\s+by\s+you|did\s+not\s+(?:make|authori[sz]e|place)|didn['’]t\s+(?:make|authori[sz]e|place)|subscription|auto-?renew\w*|charged|virus|suspended|locked|to\s+claim)\b[^.!?]{0,100}\b(?:call|dial|phone|contact|ring|reach)\b[^.!?]{0,40}(?:\+?\d{1,3}[\s.-]?)?\(?\d{3,4}\)?[\s.-]{0,2}\d{3}[\s.-]{0,2}\d{3,4}\b|)"
      R"(\b(?:toll[- ]?free|help\s?line|service\s+help\s?desk|customer\s+(?:care|support)|support\s+(?:number|line)|billing\s+department)\b[^.!?]{0,25}(?:\+?\d{1,3}[\s.-]?)?\(?\d{3}\)?[\s.-]{0,2}\d{3}[\s.-]{0,2}\d{4}\b|)"
@@ -1565,15 +1601,16 @@ constexpr auto table = std::to_array<Rule>({
     {"spam-100-free", "Bulk mail", "warn", 25,
      "advertises something as free of charge and of obligation",
      R"(\b(?:100%|one\s+hundred\s+percent|hundred\s+percent|completely|totally|absolutely|entirely|all)\s+free\b|)"
-     R"(\bfree\s+(?:gift|trial|access|sample|bonus|membership|money|quote|shipping|report|video|info(?:rmation)?|offer|download|consultation|preview|delivery|estimate|sign\s?up|registration|cash|vacation|cd|dvd|phone|installation|of\s+charge|month|entry|demo|credit\s+report|spins?|book|e-?book|guide|kit)\b[^.!?]{0,60}\b(?:now|today|click|call|order|claim|get|yours|no\s+(?:obligation|cost|charge|strings|risk|credit\s+card)|limited|act\s+now|sign\s?up)\b|)"
-     R"(\b(?:no\s+(?:obligation|cost\s+to\s+you|strings\s+attached|hidden\s+(?:fees|costs|charges)|purchase\s+necessary|credit\s+card\s+(?:required|needed)|catch|gimmicks?))\b|)"
-     R"(\b(?:get|claim|receive|grab|order|win|try|take)\b[^.!?]{0,20}\b(?:your\s+|a\s+|it\s+|them\s+|one\s+|our\s+|the\s+)?(?:\w+\s+)?(?:free|for\s+free|freebie|complimentary)\b[^.!?]{0,40}(?:\b(?:now|today|gift|trial|sample|offer|click|here|limited|prize|card|month|copy|kit|box|before)|\$)\b|)"
+     R"(\bfree\s+(?:gift|trial|access|sample|bonus|membership|money|quote|shipping|report|video|info(?:rmation)?|offer|download|consultation|preview|delivery|estimate|sign\s?up|registration|cash|vacation|cd|dvd|phone|installation|of\s+charge|month|entry|demo|credit\s+report|spins?|book|e-?book|guide|kit)\b[^.!?]{0,60}\b(?:click\s+here|call\s+now|order\s+now|claim|no\s+(?:obligation|cost|charge|strings|risk|credit\s+card)|limited|act\s+now|sign\s?up)\b|)"
+     R"(\b(?:no\s+(?:obligation|cost\s+to\s+you|strings\s+attached|hidden\s+(?:fees|costs|charges)|credit\s+card\s+(?:required|needed)|catch|gimmicks?))\b|)"
+     R"(\b(?:get|claim|receive|grab|order|win|try|take)\b[^.!?]{0,20}\b(?:your\s+|a\s+|it\s+|them\s+|one\s+|our\s+|the\s+)?(?:\w+\s+)?(?:free|for\s+free|freebie|complimentary)\b[^.!?]{0,40}\b(?:now|today|gift|sample|click|limited|prize|card|kit|box)\b|)"
      R"(\b(?:100\s?%\s+(?:kostenlos|gratis)|völlig\s+kostenlos|komplett\s+kostenlos|gratis\s+testen|kostenlos\s+testen|kostenlos\s+und\s+unverbindlich|jetzt\s+kostenlos|ganz\s+kostenlos|unverbindlich\s+und\s+kostenlos)\b|)"
      R"(\b(?:100\s?%\s+gratuit|totalement\s+gratuit|entièrement\s+gratuit|sans\s+engagement|gratuit\s+et\s+sans)\b|)"
      R"(\b(?:100\s?%\s+(?:gratis|gratuit[oa])|totalmente\s+(?:gratis|gratuit[oa])|completamente\s+gratis|sin\s+compromiso|sem\s+compromisso|consulta\s+gratuita|gr[áa]tis\s+agora|sem\s+custo|frete\s+gr[áa]tis)\b|)"
      R"(\b(?:100\s?%\s+gratis|helemaal\s+gratis|volledig\s+gratis|geheel\s+gratis|vrijblijvend)\b|)"
      R"((?:免费领取|免費領取|完全免费|完全免費|完全無料|登録無料|무료\s?(?:체험|증정|나눔))|)"
-     R"(\b(?:erhalten\s+sie|sichern\s+sie\s+sich|hol\s+dir|get|receive|claim)\b[^.!?]{0,15}[$€£]?\s?\d[\d.,]*\s?[$€£]?[^.!?]{0,8}\b(?:gratis|kostenlos|free|bonus)\b)",
+     R"(\b(?:erhalten\s+sie|sichern\s+sie\s+sich|hol\s+dir|get|receive|claim)\b[^.!?]{0,15}[$€£]?\s?\d[\d.,]*\s?[$€£]?[^.!?]{0,8}\b(?:gratis|kostenlos|free|bonus)\b|)"
+     R"(\b\d{2,3}\s?%\s+(?:\w+\s+){0,2}(?:bonus|cash\s?back)\b)",
      true},
 
     // ---- Abuse ---------------------------------------------------------------------------------
@@ -1853,6 +1890,8 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"sa-excuse-remove", "Bulk mail", "warn", 40,
      "excuses a mass mailing as wanted and harmless",
+     R"(\bremove\s+(?:yourself|your\s+(?:name|e-?mail|address|e-?mail\s+address))\s+from\s+(?:our|all|any)\s+(?:\w+\s+)?(?:e-?mails?|mails?|mailing)\s?lists?\b|)"
+     R"(\bunsubscribe\s+from\s+all\s+e-?mails?\s+lists?\b|)"
      R"(\b(?:this|our)\s+(?:e-?mail|message|mailing|mail)\s+(?:is\s+not|isn['’]t|cannot\s+be\s+considered|can\s+not\s+be\s+considered|may\s+not\s+be\s+considered|is\s+never|was\s+not\s+sent\s+as)\s+(?:\w+\s+){0,2}(?:spam|unsolicited|junk)\b|)"
      R"(\b(?:not\s+spam|is\s+no\s+spam|not\s+unsolicited)\b[^.!?]{0,60}\b(?:remove|opt|requested|address|bill|law|compliance|partner)\b|)"
      R"(\byou\s+(?:are|were|have|['’]re)\b[^.!?]{0,20}\b(?:receiv(?:ed|ing)|sent|getting)\b[^.!?]{0,40}\b(?:because|since|as)\b[^.!?]{0,40}\b(?:opted[- ]?in|our\s+(?:\w+\s+)?(?:affiliates?|partners?)|partner\s+sites?|affiliate|have\s+(?:inquired|expressed|submitted)|requested\s+(?:more\s+)?information)\b|)"

@@ -1,0 +1,30 @@
+#include <cstdint>
+#include <cstdlib>
+
+#include "IcuReference.h"
+#include "Quillseal/ContentRisk.h"
+#include "Quillseal/ScreeningEngine.h"
+#include "Quillseal/UnicodeText.h"
+
+/// On any bytes, the engine finds what ICU's own expressions find, and both quotation and
+/// assessment have a result.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace quillseal;
+  if (size > 2000) return 0;
+  static const auto patterns = ContentRisk::patterns();
+  static const screening::ScreeningEngine engine(patterns);
+  static const testing::IcuReference reference(patterns);
+
+  const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+  const std::string text = unicode::wellFormed(bytes);
+  std::vector<testing::IcuReference::Answer> actual(patterns.size());
+  for (const screening::PatternMatch& match : engine.firstMatches(text))
+    actual[match.pattern] = {.matched = true, .start = match.start, .end = match.end};
+  const auto expected = reference.firstMatches(text);
+  for (std::size_t i = 0; i < patterns.size(); ++i)
+    if (!expected[i].gaveUp && actual[i] != expected[i]) std::abort();
+
+  const ContentRisk::Assessment assessment = ContentRisk::evaluate(bytes);
+  if (assessment.isBlocked && assessment.shouldWarn) std::abort();
+  return 0;
+}

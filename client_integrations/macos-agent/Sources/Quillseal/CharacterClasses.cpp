@@ -89,6 +89,7 @@ CharacterClasses::CharacterClasses(const SetTable& sets, std::vector<char32_t> a
     : alphabet_(std::move(alphabet)) {
   std::sort(alphabet_.begin(), alphabet_.end());
   alphabet_.erase(std::unique(alphabet_.begin(), alphabet_.end()), alphabet_.end());
+  alphabet_.shrink_to_fit();
 
   const std::vector<std::pair<Trait, CodePointRanges>> traits{
       {word, codePointsOf(wordSet)},

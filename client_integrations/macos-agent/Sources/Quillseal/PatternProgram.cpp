@@ -1,7 +1,6 @@
 #include "Quillseal/PatternProgram.h"
 
 #include <algorithm>
-#include <limits>
 #include <set>
 
 namespace quillseal::screening {
@@ -71,8 +70,8 @@ class PatternProgram::Compiler {
         break;
       case Node::Kind::FoldedText:
         add({.operation = Operation::FoldedText,
-             .first = static_cast<std::uint32_t>(program_.letters_.size()),
-             .length = counted(node.text.size())});
+             .count = counted(node.text.size()),
+             .first = static_cast<std::uint32_t>(program_.letters_.size())});
         for (const char32_t c : node.text)
           program_.letters_.push_back(classes_.letterOf(c));
         break;
@@ -129,9 +128,9 @@ class PatternProgram::Compiler {
     const auto first = static_cast<std::uint32_t>(program_.targets_.size());
     program_.targets_.resize(first + targets);
     return add({.operation = Operation::Choice,
-                .first = first,
-                .length = counted(targets),
-                .memo = memoRows(1)});
+                .count = counted(targets),
+                .memo = memoRows(1),
+                .first = first});
   }
 
   void emitRepetition(const Node& node) {
@@ -162,14 +161,14 @@ class PatternProgram::Compiler {
 
   void addLoop(Operation operation, const Node& body, std::uint32_t min, std::uint32_t max) {
     add({.operation = operation,
-         .set = setOf(body.set),
-         .min = counted(min),
-         .max = max,
-         .memo = memoRows(2)});
+         .count = counted(min),
+         .max = max == unbounded ? endless : counted(max),
+         .memo = memoRows(2),
+         .set = setOf(body.set)});
   }
 
   static std::uint16_t counted(std::size_t count) {
-    if (count > std::numeric_limits<std::uint16_t>::max()) throw PatternError("pattern too long");
+    if (count >= endless) throw PatternError("pattern too long");
     return static_cast<std::uint16_t>(count);
   }
 
@@ -207,15 +206,21 @@ class PatternProgram::Compiler {
         return {.classes = sets_.intern(classes)};
       }
       case Operation::Choice: {
-        Beginning all{.classes = sets_.intern(ClassBits(sets_.words())), .atBoundary = true};
-        for (std::uint32_t i = 0; i < instruction.length; ++i)
-          all = either(all, beginningAt(program_.targets_[instruction.first + i].instruction));
+        ClassBits classes(sets_.words());
+        Beginning all{.atBoundary = true};
+        for (std::uint32_t i = 0; i < instruction.count; ++i) {
+          const Beginning one = beginningAt(program_.targets_[instruction.first + i].instruction);
+          unite(classes, sets_.bits(one.classes));
+          all.anything = all.anything || one.anything;
+          all.atBoundary = all.atBoundary && one.atBoundary;
+        }
+        all.classes = sets_.intern(classes);
         return all;
       }
       case Operation::GreedyLoop:
       case Operation::LazyLoop: {
         const Beginning body{.classes = instruction.set};
-        return instruction.min > 0 ? body : either(body, beginningAt(index + 1));
+        return instruction.count > 0 ? body : either(body, beginningAt(index + 1));
       }
       case Operation::Jump:
       case Operation::LookAhead:
@@ -261,6 +266,7 @@ PatternProgram::PatternProgram(const Node& pattern, const CharacterClasses& clas
                                ClassSets& sets) {
   Compiler(*this, classes, sets).compile(pattern);
   code_.shrink_to_fit();
+  letters_.shrink_to_fit();
   targets_.shrink_to_fit();
   beginnings_.shrink_to_fit();
 }
@@ -298,7 +304,7 @@ std::vector<ClassBits> PatternProgram::leadingClasses(const Entry& entry, std::s
             if (classes.folding(id).size() > 1) return leading;
             setClass(step, id);
           }
-          if (taken + 1 < instruction.length) {
+          if (taken + 1 < instruction.count) {
             after.emplace(index, taken + 1);
           } else {
             after.emplace(index + 1, 0);
@@ -309,16 +315,16 @@ std::vector<ClassBits> PatternProgram::leadingClasses(const Entry& entry, std::s
         case Operation::LazyLoop:
           unite(step, sets.bits(instruction.set));
           // A counted loop stays a few rounds; then it may go on after any of them.
-          if (instruction.min > taken + 1) {
+          if (instruction.count > taken + 1) {
             after.emplace(index, taken + 1);
           } else {
             after.emplace(index + 1, 0);
-            if (instruction.max > instruction.min) after.emplace(index, taken);
+            if (instruction.max > instruction.count) after.emplace(index, taken);
           }
-          if (instruction.min == 0) reach(index + 1);
+          if (instruction.count == 0) reach(index + 1);
           break;
         case Operation::Choice:
-          for (std::uint32_t i = 0; i < instruction.length; ++i)
+          for (std::uint32_t i = 0; i < instruction.count; ++i)
             reach(targets_[instruction.first + i].instruction);
           break;
         case Operation::Jump:
@@ -373,16 +379,16 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
   const auto choose = [&](std::uint32_t index, std::uint32_t which) {
     const auto& choice = program.code_[index];
     const auto nextAllowed = [&](std::uint32_t from) {
-      while (from < choice.length &&
+      while (from < choice.count &&
              !program.targets_[choice.first + from].beginning.allows(text, position, sets))
         ++from;
       return from;
     };
     which = nextAllowed(which);
-    if (which == choice.length) return false;
+    if (which == choice.count) return false;
     const std::uint32_t later = nextAllowed(which + 1);
     steps_ += later - which;
-    if (later < choice.length) push(index, position, later);
+    if (later < choice.count) push(index, position, later);
     instruction = program.targets_[choice.first + which].instruction;
     return true;
   };
@@ -447,7 +453,7 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
         break;
       case Operation::FoldedText: {
         const auto end = foldedTextEnd(current, position);
-        steps_ += current.length;
+        steps_ += current.count;
         advanced = end.has_value();
         position = end.value_or(position);
         ++instruction;
@@ -490,7 +496,7 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
       case Operation::LazyLoop: {
         const std::uint32_t index = instruction;
         const bool isLoop = current.operation != Operation::Choice;
-        const bool isEndless = isLoop && current.max == unbounded;
+        const bool isEndless = isLoop && current.max == PatternProgram::endless;
         if (remembering_) {
           const Known outcome = known(current.memo, position);
           if (outcome == Known::Succeeds) {
@@ -508,10 +514,10 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
           break;
         }
         if (current.operation == Operation::LazyLoop) {
-          advanced = leaveFromFirst(index, position, current.max);
+          advanced = leaveFromFirst(index, position, isEndless ? unbounded : current.max);
           break;
         }
-        const std::size_t low = position + current.min;
+        const std::size_t low = position + current.count;
         std::size_t high = position;
         const std::size_t limit = isEndless ? text.size() : position + current.max;
         bool failsFromHigh = false;
@@ -542,7 +548,7 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
       }
       if ((frame.instruction & instructionFailed) != 0) {
         remember(tried.memo, frame.position, Known::Fails);
-        if (tried.max != unbounded) continue;
+        if (tried.max != PatternProgram::endless) continue;
         // An endless loop that fails here fails from the rest of the same run, too.
         if (tried.operation == Operation::GreedyLoop) {
           for (std::size_t at = frame.position + 1; at <= frame.rest; ++at)
@@ -571,7 +577,7 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
 std::optional<std::size_t> Matcher::foldedTextEnd(const PatternProgram::Instruction& instruction,
                                                   std::size_t position) const {
   const Letter* letter = program_->letters_.data() + instruction.first;
-  const Letter* const end = letter + instruction.length;
+  const Letter* const end = letter + instruction.count;
   while (letter != end) {
     for (const Letter folded : classes_->folding(text_->classAt(position))) {
       if (letter == end || *letter != folded) return std::nullopt;

@@ -60,9 +60,9 @@ class PatternProgram {
   enum class Operation : std::uint8_t {
     Accept,
     Set,
-    FoldedText,  ///< `length` letters from `first`
-    Choice,      ///< `length` targets from `first`, in order
-    GreedyLoop,  ///< `min` to `max` code points of `set`
+    FoldedText,  ///< `count` letters from `first`
+    Choice,      ///< `count` targets from `first`, in order
+    GreedyLoop,  ///< `count` to `max` code points of `set`
     LazyLoop,
     Jump,
     WordBoundary,
@@ -79,13 +79,14 @@ class PatternProgram {
   /// Continues with the next one unless it says otherwise.
   struct Instruction {
     Operation operation;
+    std::uint16_t count = 0;  ///< of letters or targets; for a loop the least number of rounds
+    std::uint16_t max = 0;
+    std::uint16_t memo = 0;  ///< row in the memory of failures
     std::uint32_t set = 0;
     std::uint32_t first = 0;  ///< for a loop: what follows it begins with, in `beginnings_`
-    std::uint16_t length = 0;
-    std::uint16_t min = 0;
-    std::uint32_t max = 0;
-    std::uint16_t memo = 0;  ///< row in the memory of failures
   };
+
+  static constexpr std::uint16_t endless = 0xFFFF;  ///< as `max`
 
   class Compiler;
 

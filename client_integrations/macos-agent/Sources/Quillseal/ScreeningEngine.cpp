@@ -33,6 +33,7 @@ struct LinkHit {
   std::uint32_t chain = 0;
   std::uint32_t reach = 0;     ///< its place among the links of all chains
   std::uint32_t distance = 0;  ///< steps at most, from the end of the link before
+  std::uint32_t search = 0;    ///< for a first link that stands at the start, else `none`
   std::uint8_t length = 0;     ///< letters of the literal
   bool isFirst = false;
   bool isLast = false;
@@ -112,6 +113,9 @@ class ScreeningEngine::Tables {
       addSearch(part.node, part.anyMatch, sets);
     index.finish(*classes);
     classSets->finish();
+    hits.shrink_to_fit();
+    chains.shrink_to_fit();
+    searches.shrink_to_fit();
     leadingInitial.resize(leadingWords);
     for (auto& masks : leadingMasks)
       masks.resize(leadingWords);
@@ -202,6 +206,7 @@ class ScreeningEngine::Tables {
       LinkHit hit{.chain = number,
                   .reach = static_cast<std::uint32_t>(linkCount++),
                   .distance = link.distance,
+                  .search = i == 0 && chain.lead == 0 ? search : none,
                   .isFirst = i == 0,
                   .isLast = i + 1 == chain.links.size(),
                   .boundaryBefore = link.boundaryBefore,
@@ -387,6 +392,8 @@ class ScreeningEngine::Screening {
     if (hit.boundaryBefore || hit.isFirst) {
       start = startOf(hit.length, end);
       if (hit.boundaryBefore && !text_.isWordBoundary(start)) return;
+      // Behind the match that is known already, no start is of interest.
+      if (hit.search != none && start > outcomes_[hit.search].start) return;
     }
     reached_[hit.reach] = step_;
     if (hit.isFirst) {
@@ -470,7 +477,8 @@ class ScreeningEngine::Screening {
       --low;
       metEarlierWalk = mayStop && low >= progress.triedLow && low <= progress.triedHigh;
     }
-    for (std::uint32_t at = low; at <= literalStart; ++at)
+    const Outcome& outcome = outcomes_[chain.search];
+    for (std::uint32_t at = low; at <= literalStart && at <= outcome.start; ++at)
       tryAlternative(chain.search, chain.alternative, at);
     progress.triedLow = metEarlierWalk ? progress.triedLow : low;
     progress.triedHigh = literalStart;

@@ -34,6 +34,10 @@ bool isLineBreakPairAt(std::string_view text, std::size_t index) {
 }
 
 UGraphemeClusterBreak breakClass(char32_t scalar) {
+  // The great blocks, whose members Unicode will not change, spare long texts the look-up.
+  if (scalar >= 0x4E00 && scalar <= 0x9FFF) return U_GCB_OTHER;
+  if (scalar >= 0xAC00 && scalar <= 0xD7A3)
+    return (scalar - 0xAC00) % 28 == 0 ? U_GCB_LV : U_GCB_LVT;
   return static_cast<UGraphemeClusterBreak>(
       u_getIntPropertyValue(static_cast<UChar32>(scalar), UCHAR_GRAPHEME_CLUSTER_BREAK));
 }

@@ -60,16 +60,19 @@ struct StoredKey {
   openssl::EncryptedKey privateKey;
 };
 
+[[noreturn]] void failDamaged(const std::string& place) {
+  throw KeyFailure("the key file " + place +
+                   " is damaged. Put it back from a backup, or enrol this computer again in "
+                   "Settings.");
+}
+
 StoredKey readKey(const PrivateFile& file) {
   const std::string place = "“" + file.path().string() + "”";
   const std::optional<std::string> contents = file.read();
   if (!contents)
     throw KeyFailure("the key file " + place + " is gone. Enrol this computer again in Settings.");
-  const KeyFailure damaged(
-      "the key file " + place +
-      " is damaged. Put it back from a backup, or enrol this computer again in Settings.");
   const auto blocks = keyfile::read(*contents, labels);
-  if (!blocks) throw damaged;
+  if (!blocks) failDamaged(place);
   const auto& [publicBlock, privateBlock] = std::tie((*blocks)[0].bytes, (*blocks)[1].bytes);
   const unsigned char* position = publicBlock.data();
   const openssl::Key key(::d2i_PUBKEY(nullptr, &position, static_cast<long>(publicBlock.size())));
@@ -77,7 +80,7 @@ StoredKey readKey(const PrivateFile& file) {
   position = privateBlock.data();
   openssl::EncryptedKey encrypted(
       ::d2i_X509_SIG(nullptr, &position, static_cast<long>(privateBlock.size())));
-  if (!point || !encrypted) throw damaged;
+  if (!point || !encrypted) failDamaged(place);
   return {.publicKey = *point, .privateKey = std::move(encrypted)};
 }
 

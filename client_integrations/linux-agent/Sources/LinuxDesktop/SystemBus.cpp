@@ -49,7 +49,7 @@ Interrupt::~Interrupt() {
   ::close(descriptor_);
 }
 
-void Interrupt::raise() noexcept {
+void Interrupt::raise() const noexcept {
   ::eventfd_write(descriptor_, 1);
 }
 

@@ -18,7 +18,7 @@ class Interrupt {
   ~Interrupt();
 
   /// Any thread. Cannot be undone.
-  void raise() noexcept;
+  void raise() const noexcept;
   [[nodiscard]] bool isRaised() const noexcept;
   /// Readable once raised.
   [[nodiscard]] int descriptor() const noexcept { return descriptor_; }

@@ -225,12 +225,14 @@ int main(int argc, char** argv) {
       std::cout << usage;
       return EXIT_SUCCESS;
     }
-    if (argument == "--list" && i + 1 < argc)
+    if (argument == "--list" && i + 1 < argc) {
       listed = argv[++i];
-    else if (argument.starts_with("--"))
-      paths.clear(), i = argc;
-    else
+    } else if (argument.starts_with("--")) {
+      std::cerr << usage;
+      return wrongUsage;
+    } else {
       paths.push_back(argument);
+    }
   }
   if (paths.empty() || (!listed.empty() && !isListing(listed))) {
     std::cerr << usage;

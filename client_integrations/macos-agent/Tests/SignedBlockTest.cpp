@@ -28,11 +28,10 @@ TEST(SignedBlock, IsTheFramedTextWithItsStamp) {
                       .scope = "Email Message (Mail) → Ada",
                       .server = "https://seal.example/"};
   EXPECT_EQ(plainText(fields),
-            "『Hi <b>』\n\n────────────────────\n🛡️ QUILLSEAL · Email Message (Mail) → "
-            "Ada "
-            "· "
-            "30 January "
-            "2025\nCheck this signature → https://seal.example//verify/sig_1");
+            "『Hi <b>』\n\n"
+            "────────────────────\n"
+            "🛡️ QUILLSEAL · Email Message (Mail) → Ada · 30 January 2025\n"
+            "Check this signature → https://seal.example//verify/sig_1");
   EXPECT_EQ(htmlDocument(fields), R"(<!DOCTYPE html>
 <html>
 <head>

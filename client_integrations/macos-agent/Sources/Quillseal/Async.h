@@ -96,7 +96,9 @@ template <typename T, typename Start>
 }
 
 /// Runs `work()` on a worker thread and gives its result, or throws what it threw. `work` is moved
-/// there and owns what it uses: when the task is cancelled meanwhile, it still runs to its end.
+/// there and owns what it uses: when the task is cancelled meanwhile, it still runs to its end. A
+/// closure that holds more than references and numbers is made in a statement of its own: GCC 12
+/// destroys one that is written inside the awaiting expression twice.
 template <typename Work, typename Result = std::invoke_result_t<Work&>>
 [[nodiscard]] Task<Result> offload(desktop::MainLoop& loop, Work work) {
   struct Shared {

@@ -150,8 +150,8 @@ Task<> SigningCoordinator::signSelectedText() {
     co_return;
   }
   // Screening a very long text takes a while, and the event loop must go on meanwhile.
-  const ContentRisk::Assessment assessment =
-      co_await offload(desktop_.loop, [text] { return ContentRisk::evaluate(text); });
+  auto screen = [text] { return ContentRisk::evaluate(text); };
+  const ContentRisk::Assessment assessment = co_await offload(desktop_.loop, std::move(screen));
   if (!assessment.findings.empty()) {
     desktop_.log.write("[risk] score " + std::to_string(assessment.score) + ", " +
                        std::to_string(assessment.findings.size()) +

@@ -1,0 +1,325 @@
+#include "FakeDesktop.h"
+
+#include <utility>
+
+namespace quillseal::testing {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// A key whose signature is the digest itself, so that a test can see what was signed.
+class FakeKey final : public desktop::DeviceKey {
+ public:
+  FakeKey(const FakeDesktop& desktop, std::optional<desktop::Prompt> prompt)
+      : desktop_(desktop), prompt_(std::move(prompt)) {}
+
+  [[nodiscard]] std::optional<std::vector<std::uint8_t>> publicKey() const override {
+    return std::vector<std::uint8_t>{4, 1, 2};
+  }
+
+  [[nodiscard]] std::vector<std::uint8_t> sign(
+      const std::array<std::uint8_t, 32>& digest) override {
+    if (desktop_.signFailure) throw Error(*desktop_.signFailure);
+    return {digest.begin(), digest.end()};
+  }
+
+ private:
+  const FakeDesktop& desktop_;
+  std::optional<desktop::Prompt> prompt_;
+};
+
+class FakeWindow final : public desktop::Window {
+ public:
+  explicit FakeWindow(FakeDesktop& desktop) : desktop_(desktop) {}
+  void render(const desktop::Form& form) override { desktop_.form = form; }
+  void bringToFront() override { desktop_.trace.emplace_back("window to front"); }
+
+ private:
+  FakeDesktop& desktop_;
+};
+
+std::string pathOf(const std::string& url) {
+  return url.substr(url.find('/', std::string_view("https://").size()));
+}
+
+}  // namespace
+
+FakeDesktop::FakeDesktop() {
+  answers["/api/register_native"] = {{200, R"({"status":"ok","device_id":"d","identity":"Ada"})"}};
+  answers["/api/sign_native"] = {{200, R"({"signature_id":"sig-1"})"}};
+  answers["/api/sign_demo"] = {{200, R"({"signature_id":"demo-1","demo":true})"}};
+  answers["/api/handoff/create"] = {
+      {200, R"({"handoff_id":"H1","url":"https://seal.example/handoff?h=H1"})"}};
+  answers["/api/handoff/poll"] = {{200, R"({"status":"waiting"})"},
+                                  {200, R"({"status":"complete","signature_id":"web-1"})"}};
+}
+
+desktop::Desktop FakeDesktop::services() {
+  return {.alerts = *this,
+          .applications = *this,
+          .browserTabs = tabs_,
+          .defaults = *this,
+          .files = *this,
+          .hotkey = *this,
+          .http = *this,
+          .keys = *this,
+          .keyStore = *this,
+          .log = *this,
+          .machine = *this,
+          .loop = loop,
+          .pasteboard = *this,
+          .presence = *this,
+          .program = *this,
+          .statusItem = *this,
+          .wallClock = *this,
+          .windows = *this};
+}
+
+std::vector<std::string> FakeDesktop::userTrace() const {
+  std::vector<std::string> lines;
+  for (const std::string& line : trace)
+    if (line.rfind("log: ", 0) != 0) lines.push_back(line);
+  return lines;
+}
+
+std::vector<std::string> FakeDesktop::sentTo(std::string_view path) const {
+  std::vector<std::string> bodies;
+  for (const desktop::HttpPost& post : sent_)
+    if (pathOf(post.url) == path) bodies.push_back(post.body);
+  return bodies;
+}
+
+void FakeDesktop::mayFail(std::string_view call) {
+  if (++calls != failingCall) return;
+  failedCall = call;
+  throw Error({.domain = "fake", .code = 1, .description = "The desktop failed."});
+}
+
+desktop::Ticket FakeDesktop::finish(std::function<void()> completion) {
+  return loop.after(0ms, std::move(completion));
+}
+
+desktop::Ticket FakeDesktop::show(const desktop::Alert& alert, std::function<void()> dismissed) {
+  mayFail("alert");
+  trace.push_back("alert: " + alert.title + " | " + alert.body);
+  if (leavesDialogsOpen) return {};
+  return finish(std::move(dismissed));
+}
+
+desktop::Ticket FakeDesktop::ask(const desktop::Question& question,
+                                 std::function<void(desktop::Answer)> answered) {
+  mayFail("ask");
+  trace.push_back("ask: " + question.title + " | " + question.body + " [" + question.confirm +
+                  "] [" + question.cancel + "]");
+  if (leavesDialogsOpen) return {};
+  return finish([this, answered = std::move(answered)] { answered(answer); });
+}
+
+desktop::Ticket FakeDesktop::confirm(
+    const desktop::ConfirmationForm& shown,
+    std::function<void(std::optional<desktop::ConfirmationEntry>)> answered) {
+  mayFail("confirm");
+  trace.push_back("confirm: " + shown.question.title + " [" + shown.question.confirm + "] [" +
+                  shown.question.cancel + "], preset " + shown.choices.at(shown.selectedChoice));
+  if (leavesDialogsOpen) return {};
+  return finish([this, answered = std::move(answered)] { answered(confirmation); });
+}
+
+void FakeDesktop::notify(const desktop::Notification& notification) {
+  mayFail("notify");
+  trace.push_back("notify: " + notification.title + " | " + notification.body);
+}
+
+std::optional<desktop::RunningApplication> FakeDesktop::frontmost() const {
+  return front;
+}
+
+bool FakeDesktop::isActive(const desktop::RunningApplication& application) const {
+  return active && active->instance == application.instance;
+}
+
+void FakeDesktop::activate(const desktop::RunningApplication& application) {
+  mayFail("activate");
+  trace.push_back("activate " + application.name.value_or("?"));
+}
+
+std::optional<desktop::InstalledApplication> FakeDesktop::applicationAt(
+    const std::string& path) const {
+  return path == "/Applications/Google Chrome.app" ? chrome : std::nullopt;
+}
+
+std::optional<desktop::InstalledApplication> FakeDesktop::defaultApplicationFor(
+    const std::string& /*url*/) const {
+  return defaultBrowser;
+}
+
+desktop::Ticket FakeDesktop::open(const std::string& url,
+                                  const desktop::InstalledApplication& application,
+                                  std::function<void(std::optional<Error>)> done) {
+  mayFail("open with");
+  trace.push_back("open " + url + " with " + application.location);
+  return finish([this, done = std::move(done)] {
+    if (browserOpens) {
+      done(std::nullopt);
+    } else {
+      done(Error({.domain = "fake", .code = 2, .description = "It did not open."}));
+    }
+  });
+}
+
+void FakeDesktop::open(const std::string& url) {
+  mayFail("open");
+  trace.push_back("open " + url);
+}
+
+std::optional<std::string> FakeDesktop::string(std::string_view key) const {
+  const auto found = strings.find(key);
+  return found == strings.end() ? std::nullopt : std::optional(found->second);
+}
+
+bool FakeDesktop::boolean(std::string_view key) const {
+  return flags.find(key) != flags.end();
+}
+
+void FakeDesktop::setString(std::string_view key, std::string_view value) {
+  mayFail("set");
+  strings[std::string(key)] = value;
+  trace.push_back("set " + std::string(key) + " = " + std::string(value));
+  loop.post([this] {
+    for (const auto& [number, changed] : observers_)
+      changed();
+  });
+}
+
+desktop::Ticket FakeDesktop::observe(std::function<void()> changed) {
+  const int number = observerCount_++;
+  observers_[number] = std::move(changed);
+  return desktop::Ticket([this, number] { observers_.erase(number); });
+}
+
+bool FakeDesktop::replace(const std::string& path, std::string_view contents) {
+  files[path] = contents;
+  return true;
+}
+
+void FakeDesktop::registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) {
+  using desktop::Modifiers;
+  if (hotkeyFailure) throw Error(*hotkeyFailure);
+  const bool isOurs =
+      combination.key == desktop::Key::h &&
+      combination.modifiers == (Modifiers::command | Modifiers::option | Modifiers::control);
+  trace.emplace_back(isOurs ? "hotkey ⌘⌥⌃H" : "another hotkey");
+  hotkeyPressed = std::move(pressed);
+}
+
+void FakeDesktop::show(const desktop::StatusMenu& shown) {
+  trace.emplace_back("menu");
+  menu = shown;
+}
+
+void FakeDesktop::setItemTitle(std::size_t index, const std::string& title) {
+  menu.items.at(index).title = title;
+}
+
+desktop::TimeZone FakeDesktop::timeZone() const {
+  return {.identifier = "Europe/Berlin", .secondsFromGmt = 3600};
+}
+
+std::unique_ptr<desktop::Window> FakeDesktop::make(const desktop::WindowDescription& description) {
+  trace.push_back("window " + description.title);
+  return std::make_unique<FakeWindow>(*this);
+}
+
+desktop::Ticket FakeDesktop::send(const desktop::HttpPost& post,
+                                  std::function<void(Outcome<desktop::HttpResponse>)> done) {
+  mayFail("send");
+  const std::string path = pathOf(post.url);
+  trace.push_back("POST " + path);
+  sent_.push_back(post);
+  std::deque<Answer>& queue = answers.at(path);
+  const Answer response = queue.front();
+  if (queue.size() > 1) queue.pop_front();
+  return finish([done = std::move(done), response] {
+    done(desktop::HttpResponse{.status = response.status, .body = response.body});
+  });
+}
+
+Error FakeDesktop::error(desktop::transport::ErrorCode code) const {
+  return Error({.domain = desktop::transport::errorDomain,
+                .code = code,
+                .description = "The server gave no usable answer."});
+}
+
+desktop::Ticket FakeDesktop::press(desktop::KeyPress press, std::function<void()> done) {
+  mayFail("press");
+  using desktop::Key;
+  const bool isCommand = press.modifiers == desktop::Modifiers::command;
+  const char* key = press.key == Key::c ? "C" : press.key == Key::a ? "A" : "V";
+  trace.push_back(std::string("press ") + (isCommand ? "⌘" : "?") + key);
+  if (press.key == Key::a) isAllSelected_ = true;
+  if (press.key == Key::c) {
+    const std::optional<Copy> copied = isAllSelected_ ? everything : selection;
+    if (copied) copying_ = loop.after(40ms, [this, copied] { setClipboard(*copied); });
+    if (copied && secondThought)
+      secondCopying_ = loop.after(90ms, [this] { setClipboard(*secondThought); });
+  }
+  return finish(std::move(done));
+}
+
+void FakeDesktop::setClipboard(const Copy& copy) {
+  clipboard = copy;
+  ++changeCount_;
+}
+
+void FakeDesktop::write(const desktop::PasteboardContent& content) {
+  mayFail("write clipboard");
+  trace.emplace_back("write clipboard");
+  setClipboard({.text = content.plainText, .html = content.html});
+}
+
+std::unique_ptr<desktop::DeviceKey> FakeDesktop::create() {
+  mayFail("create key");
+  if (cancelsCreation) throw Cancelled(Error::Fields{});
+  if (createFailure) throw Error(*createFailure);
+  trace.emplace_back("create key");
+  hasKey = true;
+  return std::make_unique<FakeKey>(*this, std::nullopt);
+}
+
+std::unique_ptr<desktop::DeviceKey> FakeDesktop::load(std::optional<desktop::Prompt> prompt) const {
+  if (!hasKey) return nullptr;
+  // The agent's view of the store is const; the recorder's is not.
+  if (prompt) const_cast<FakeDesktop*>(this)->trace.push_back("prompt: " + prompt->reason);
+  return std::make_unique<FakeKey>(*this, std::move(prompt));
+}
+
+void FakeDesktop::remove() noexcept {
+  trace.emplace_back("delete key");
+  hasKey = false;
+}
+
+desktop::PresenceCapability FakeDesktop::canEvaluate(desktop::PresencePolicy /*policy*/) const {
+  return {.available = true, .reason = {}};
+}
+
+desktop::Ticket FakeDesktop::evaluate(desktop::PresencePolicy /*policy*/,
+                                      const desktop::Prompt& prompt,
+                                      std::function<void(Outcome<bool>)> done) {
+  mayFail("presence");
+  trace.push_back("presence: " + prompt.reason);
+  return finish([this, done = std::move(done)] { done(presence); });
+}
+
+desktop::Ticket FakeDesktop::run(const std::string& source,
+                                 std::function<void(Outcome<std::optional<std::string>>)> done) {
+  mayFail("script");
+  trace.push_back("script: " + source);
+  Outcome<std::optional<std::string>> result = std::optional<std::string>("true");
+  if (!scriptResults.empty()) {
+    result = scriptResults.front();
+    scriptResults.pop_front();
+  }
+  return finish([done = std::move(done), result] { done(result); });
+}
+
+}  // namespace quillseal::testing

@@ -1,0 +1,197 @@
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Desktop/Desktop.h"
+#include "Desktop/ScriptRunner.h"
+#include "Quillseal/BrowserTabReturn.h"
+#include "VirtualLoop.h"
+
+namespace quillseal::testing {
+
+/// A scripted desktop. The public members say what it is like and how its user, server and key
+/// store behave; `trace` tells, in one order, all that the agent did that somebody could notice.
+class FakeDesktop final : public desktop::Alerts,
+                          public desktop::Applications,
+                          public desktop::Defaults,
+                          public desktop::Files,
+                          public desktop::Hotkey,
+                          public desktop::HttpTransport,
+                          public desktop::KeyEvents,
+                          public desktop::KeyStore,
+                          public desktop::Log,
+                          public desktop::MachineIdentity,
+                          public desktop::Pasteboard,
+                          public desktop::Presence,
+                          public desktop::Program,
+                          public desktop::ScriptRunner,
+                          public desktop::StatusItem,
+                          public desktop::WallClock,
+                          public desktop::Windows {
+ public:
+  FakeDesktop();
+
+  /// The interfaces, all implemented by this object.
+  [[nodiscard]] desktop::Desktop services();
+
+  VirtualLoop loop;
+  std::vector<std::string> trace;
+
+  /// The trace without log lines, and the bodies of what was sent to `path`.
+  [[nodiscard]] std::vector<std::string> userTrace() const;
+  [[nodiscard]] std::vector<std::string> sentTo(std::string_view path) const;
+
+  // What a copy yields.
+  struct Copy {
+    std::optional<std::string> text;
+    std::optional<std::string> html;
+    bool isConcealed = false;
+  };
+  std::optional<Copy> selection;      ///< by Command-C
+  std::optional<Copy> everything;     ///< by Command-C after Command-A
+  std::optional<Copy> secondThought;  ///< replaces the copy 50 ms after it
+  Copy clipboard;
+
+  // The person.
+  bool isPersonTrusting = true;  ///< grants accessibility
+  bool leavesDialogsOpen = false;
+  desktop::Answer answer = desktop::Answer::confirmed;
+  std::optional<desktop::ConfirmationEntry> confirmation;
+  Outcome<bool> presence = true;
+
+  // Applications and browsers.
+  std::optional<desktop::RunningApplication> front;
+  std::optional<desktop::RunningApplication> active;  ///< after the agent has been in front
+  std::optional<desktop::InstalledApplication> chrome, defaultBrowser;
+  bool browserOpens = true;
+  std::deque<Outcome<std::optional<std::string>>> scriptResults;  ///< empty: "true"
+
+  // Settings, machine and keys.
+  std::map<std::string, std::string, std::less<>> strings;
+  std::set<std::string, std::less<>> flags;
+  std::string date = "2026-03-01";
+  bool canHoldKey = true, hasKey = true;
+  std::optional<Error> createFailure;
+  bool cancelsCreation = false;
+  std::optional<Error> signFailure;
+
+  /// What the server answers at a path, one after the other; the last is repeated.
+  struct Answer {
+    int status = 200;
+    std::string body;
+  };
+  std::map<std::string, std::deque<Answer>, std::less<>> answers;
+
+  /// The fallible call with this number fails, counting from 1; none for 0.
+  int failingCall = 0;
+  int calls = 0;
+  std::string failedCall;
+
+  // What was registered.
+  std::function<void()> hotkeyPressed;
+  std::optional<Error> hotkeyFailure;
+  desktop::StatusMenu menu;
+  desktop::Form form;
+  std::map<std::string, std::string, std::less<>> files;
+
+  // Alerts
+  desktop::Ticket show(const desktop::Alert& alert, std::function<void()> dismissed) override;
+  desktop::Ticket ask(const desktop::Question& question,
+                      std::function<void(desktop::Answer)> answered) override;
+  desktop::Ticket confirm(
+      const desktop::ConfirmationForm& form,
+      std::function<void(std::optional<desktop::ConfirmationEntry>)> answered) override;
+  void notify(const desktop::Notification& notification) override;
+
+  // Applications
+  std::optional<desktop::RunningApplication> frontmost() const override;
+  bool isActive(const desktop::RunningApplication& application) const override;
+  void activate(const desktop::RunningApplication& application) override;
+  std::optional<desktop::InstalledApplication> applicationAt(
+      const std::string& path) const override;
+  std::optional<desktop::InstalledApplication> defaultApplicationFor(
+      const std::string& url) const override;
+  desktop::Ticket open(const std::string& url, const desktop::InstalledApplication& application,
+                       std::function<void(std::optional<Error>)> done) override;
+  void open(const std::string& url) override;
+
+  // Defaults
+  std::optional<std::string> string(std::string_view key) const override;
+  bool boolean(std::string_view key) const override;
+  void setString(std::string_view key, std::string_view value) override;
+  desktop::Ticket observe(std::function<void()> changed) override;
+
+  // Files, Hotkey, Log, MachineIdentity, Program, StatusItem, WallClock, Windows
+  std::string homeDirectory() const override { return "/home/ada"; }
+  bool replace(const std::string& path, std::string_view contents) override;
+  void registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) override;
+  void write(std::string_view line) override { trace.push_back("log: " + std::string(line)); }
+  std::optional<std::string> platformUuid() const override { return "MACHINE-1"; }
+  void becomeAccessory() override { trace.emplace_back("become accessory"); }
+  void activate() override { trace.emplace_back("activate Quillseal"); }
+  void showAbout() override { trace.emplace_back("about"); }
+  void terminate() override { trace.emplace_back("terminate"); }
+  void show(const desktop::StatusMenu& shown) override;
+  void setItemTitle(std::size_t index, const std::string& title) override;
+  std::string today() const override { return date; }
+  desktop::TimeZone timeZone() const override;
+  std::unique_ptr<desktop::Window> make(const desktop::WindowDescription& description) override;
+
+  // HttpTransport
+  desktop::Ticket send(const desktop::HttpPost& post,
+                       std::function<void(Outcome<desktop::HttpResponse>)> done) override;
+  Error error(desktop::transport::ErrorCode code) const override;
+
+  // KeyEvents
+  bool isTrusted() const override { return isPersonTrusting; }
+  void askForTrust() override { trace.emplace_back("ask for trust"); }
+  desktop::Ticket press(desktop::KeyPress press, std::function<void()> done) override;
+
+  // KeyStore
+  bool isAvailable() const override { return canHoldKey; }
+  std::unique_ptr<desktop::DeviceKey> create() override;
+  std::unique_ptr<desktop::DeviceKey> load(std::optional<desktop::Prompt> prompt) const override;
+  void remove() noexcept override;
+
+  // Pasteboard
+  std::int64_t changeCount() const override { return changeCount_; }
+  bool isConcealed() const override { return clipboard.isConcealed; }
+  std::optional<std::string> plainText() const override { return clipboard.text; }
+  std::optional<std::string> html() const override { return clipboard.html; }
+  std::optional<std::string> rtf() const override { return std::nullopt; }
+  void write(const desktop::PasteboardContent& content) override;
+
+  // Presence
+  desktop::PresenceCapability canEvaluate(desktop::PresencePolicy policy) const override;
+  desktop::Biometry biometry() const override { return desktop::Biometry::touchId; }
+  desktop::Ticket evaluate(desktop::PresencePolicy policy, const desktop::Prompt& prompt,
+                           std::function<void(Outcome<bool>)> done) override;
+
+  // ScriptRunner
+  desktop::Ticket run(const std::string& source,
+                      std::function<void(Outcome<std::optional<std::string>>)> done) override;
+
+ private:
+  void mayFail(std::string_view call);
+  void setClipboard(const Copy& copy);
+  desktop::Ticket finish(std::function<void()> completion);
+
+  BrowserTabReturn::ScriptedBrowserTabs tabs_{*this, *this};
+  std::vector<desktop::HttpPost> sent_;
+  std::map<int, std::function<void()>> observers_;
+  int observerCount_ = 0;
+  std::int64_t changeCount_ = 0;
+  bool isAllSelected_ = false;
+  desktop::Ticket copying_, secondCopying_;
+};
+
+}  // namespace quillseal::testing

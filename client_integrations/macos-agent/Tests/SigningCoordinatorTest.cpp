@@ -1,0 +1,513 @@
+#include <algorithm>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "FakeDesktop.h"
+#include "Quillseal/Base64.h"
+#include "Quillseal/CryptoManager.h"
+#include "Quillseal/HandoffPage.h"
+#include "Quillseal/SecureEnclaveManager.h"
+#include "Quillseal/SigningCoordinator.h"
+
+namespace quillseal {
+namespace {
+
+using namespace std::chrono_literals;
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::EndsWith;
+using testing::FakeDesktop;
+using ::testing::HasSubstr;
+using ::testing::Not;
+using ::testing::StartsWith;
+
+using Lines = std::vector<std::string>;
+
+const std::string text =
+    "I met Grace on Tuesday and we agreed to print 40 posters for the fair in June together.";
+const std::string subject = "“I met Grace on Tuesday and we agreed to print 40…” (18 words)";
+const std::string notification =
+    "notify: ✅ Signature Generated! | Signed content copied and injected.";
+
+const desktop::RunningApplication mail{
+    .instance = 1, .name = "Mail", .bundleIdentifier = "com.apple.mail", .categories = ""};
+const desktop::RunningApplication chromeRunning{.instance = 2,
+                                                .name = "Google Chrome",
+                                                .bundleIdentifier = "com.google.Chrome",
+                                                .categories = ""};
+const desktop::InstalledApplication chromeInstalled{.location = "Chrome.app",
+                                                    .bundleIdentifier = "com.google.Chrome"};
+
+class SigningCoordinatorTest : public ::testing::Test {
+ protected:
+  SigningCoordinatorTest() {
+    desktop_.front = desktop_.active = mail;
+    desktop_.selection = FakeDesktop::Copy{.text = "\n" + text + "\n", .html = {}};
+    desktop_.defaultBrowser = chromeInstalled;
+  }
+
+  void sign() {
+    coordinator_->startSigning();
+    desktop_.loop.run();
+  }
+
+  void signInBrowser() {
+    desktop_.hasKey = false;
+    desktop_.strings["SigningMode"] = "handoff";
+    sign();
+  }
+
+  [[nodiscard]] bool wroteBlock() const {
+    return desktop_.clipboard.text && desktop_.clipboard.text->rfind("『", 0) == 0;
+  }
+
+  FakeDesktop desktop_;
+  std::unique_ptr<SigningCoordinator> coordinator_ =
+      std::make_unique<SigningCoordinator>(desktop_.services());
+};
+
+TEST_F(SigningCoordinatorTest, SignsWithTheDeviceKey) {
+  desktop_.strings["BoundIdentity"] = "Ada";
+  sign();
+  EXPECT_THAT(desktop_.trace,
+              ElementsAre("press ⌘C",
+                          "log: [sign] 0 image reference(s), manifest "
+                          "393f8dc027605e4da96dc1d5973f18169c748ea4551a80451bfb6a0410fc02ee",
+                          "log: [sign] 18 words / 70 normalized characters / digest " +
+                              CryptoManager::sha256Hex(CryptoManager::normalizeText(text)),
+                          "prompt: Sign " + subject + " as Ada", "POST /api/sign_native",
+                          "write clipboard", "press ⌘V", notification));
+  EXPECT_THAT(*desktop_.clipboard.text, StartsWith("『" + text + "』\n\n"));
+  EXPECT_THAT(*desktop_.clipboard.text, HasSubstr("· Email Message (Mail) · 1 March 2026\n"));
+  EXPECT_THAT(*desktop_.clipboard.text, EndsWith("/verify/sig-1"));
+}
+
+TEST_F(SigningCoordinatorTest, BindsWhatItSends) {
+  desktop_.strings["BoundIdentity"] = "Ada";
+  sign();
+  ASSERT_EQ(desktop_.sentTo("/api/sign_native").size(), 1U);
+  const std::string body = desktop_.sentTo("/api/sign_native").front();
+  const std::size_t nonce = body.find("\"nonce\":\"") + 9;
+  const std::string payload = CryptoManager::canonicalV3(
+      {.textDigest = CryptoManager::sha256Hex(CryptoManager::normalizeText(text)),
+       .issued = "2026-03-01",
+       .scope = "Email Message (Mail)",
+       .snapshotDigest = "",
+       .identity = "Ada",
+       .signerKey = "MACHINE-1",
+       .expires = "2026-03-08",
+       .nonce = std::string_view(body).substr(nonce, 32),
+       .commitment = "statement"});
+  const std::string signature = base64(*SecureEnclaveManager::bytesFromHex(payload));
+  EXPECT_THAT(body, HasSubstr("\"enclave_signature\":\"" + signature + "\""));
+}
+
+TEST_F(SigningCoordinatorTest, MakesADemonstrationRecord) {
+  desktop_.flags = {"DemoSigning"};
+  sign();
+  EXPECT_THAT(desktop_.userTrace(),
+              ElementsAre("press ⌘C", "presence: Sign " + subject, "POST /api/sign_demo",
+                          "write clipboard", "press ⌘V", notification));
+  EXPECT_THAT(desktop_.trace,
+              Contains("log: [demo] simulated signature demo-1 — not evidence of anything"));
+  EXPECT_THAT(desktop_.sentTo("/api/sign_demo").front(), HasSubstr("\"method\":\"Touch ID\""));
+}
+
+TEST_F(SigningCoordinatorTest, EndsADemonstrationWithoutPresence) {
+  desktop_.flags = {"DemoSigning"};
+  desktop_.presence = false;
+  sign();
+  EXPECT_EQ(desktop_.userTrace().back(), "presence: Sign " + subject);
+  desktop_.presence = Error({.domain = "LA", .code = -2, .description = "Canceled by user."});
+  sign();
+  EXPECT_EQ(desktop_.userTrace().back(), "alert: Signing Error | Canceled by user.");
+  EXPECT_FALSE(wroteBlock());
+}
+
+TEST_F(SigningCoordinatorTest, SignsInTheBrowserAndPastesElsewhere) {
+  desktop_.selection->html = "<p>x</p>";
+  signInBrowser();
+  EXPECT_THAT(desktop_.userTrace(),
+              ElementsAre("press ⌘C", "POST /api/handoff/create",
+                          "open https://seal.example/handoff?h=H1#t=" + base64Url(text) +
+                              "&h=PHA-eDwvcD4 with Chrome.app",
+                          "POST /api/handoff/poll", "POST /api/handoff/poll", "write clipboard",
+                          "press ⌘V", notification));
+  EXPECT_THAT(desktop_.trace, Contains("log: [handoff] fragment 132 chars (text 87, html 8)"));
+  EXPECT_THAT(*desktop_.clipboard.html, HasSubstr("</span><p>x</p><span"));
+}
+
+TEST_F(SigningCoordinatorTest, ReturnsToTheTabTheTextCameFrom) {
+  desktop_.front = desktop_.active = chromeRunning;
+  desktop_.scriptResults = {std::optional<std::string>("42"), std::optional<std::string>("true")};
+  signInBrowser();
+  EXPECT_THAT(desktop_.trace,
+              Contains("script: tell application \"Google Chrome\" to return id of active tab of "
+                       "front window"));
+  EXPECT_THAT(desktop_.trace,
+              Contains(::testing::AllOf(HasSubstr("contains \"/handoff?h=H1\" then"),
+                                        HasSubstr("is \"42\" then"))));
+  EXPECT_THAT(desktop_.trace,
+              Contains("log: [tabreturn] signing tab closed, original tab restored"));
+  EXPECT_EQ(desktop_.trace.back(), notification);
+}
+
+TEST_F(SigningCoordinatorTest, LeavesTheBlockOnTheClipboardWhenTheTabIsLost) {
+  desktop_.front = desktop_.active = chromeRunning;
+  desktop_.scriptResults = {Error({.domain = "AS", .code = -1743, .description = "Not authorised"}),
+                            std::optional<std::string>("false")};
+  signInBrowser();
+  EXPECT_THAT(desktop_.trace, Contains("log: [tabreturn] AppleScript failed: Not authorised"));
+  EXPECT_EQ(desktop_.trace.back(),
+            "alert: Signed — Paste It Into Your Message | The signed content is on your "
+            "clipboard.\n\nSwitch back to your message in Google Chrome, select the text you "
+            "signed, and press ⌘V.\n\nQuillseal cannot paste it for you here: the signing page "
+            "opened in the same browser, so it would land in the wrong tab.");
+  EXPECT_THAT(desktop_.trace, Not(Contains("press ⌘V")));
+  EXPECT_TRUE(wroteBlock());
+}
+
+TEST_F(SigningCoordinatorTest, StopsWaitingForTheBrowser) {
+  desktop_.answers["/api/handoff/poll"] = {{200, R"({"status":"complete"})"}};
+  signInBrowser();
+  EXPECT_THAT(desktop_.trace.back(),
+              StartsWith("alert: Still Waiting | Quillseal stopped waiting"));
+  EXPECT_EQ(desktop_.sentTo("/api/handoff/poll").size(), 285U);
+  EXPECT_GE(desktop_.loop.elapsed(), 570s);
+
+  desktop_.answers["/api/handoff/poll"] = {{200, R"({"status":"expired"})"}};
+  signInBrowser();
+  EXPECT_THAT(desktop_.trace.back(), StartsWith("alert: Signing Request Expired | The request"));
+  EXPECT_FALSE(wroteBlock());
+}
+
+TEST_F(SigningCoordinatorTest, OpensWhicheverBrowserThereIs) {
+  desktop_.chrome =
+      desktop::InstalledApplication{.location = "Preferred.app", .bundleIdentifier = {}};
+  desktop_.browserOpens = false;
+  signInBrowser();
+  EXPECT_THAT(desktop_.trace, Contains(EndsWith(" with Preferred.app")));
+  EXPECT_THAT(desktop_.trace,
+              Contains("open https://seal.example/handoff?h=H1#t=" + base64Url(text)));
+  desktop_.chrome = desktop_.defaultBrowser = std::nullopt;
+  desktop_.trace.clear();
+  signInBrowser();
+  EXPECT_THAT(desktop_.trace,
+              Contains("open https://seal.example/handoff?h=H1#t=" + base64Url(text)));
+}
+
+struct EarlyStop {
+  std::string name;
+  std::function<void(FakeDesktop&)> given;
+  std::string lastLine;
+};
+
+TEST_F(SigningCoordinatorTest, StopsEarlyAndTellsWhy) {
+  const EarlyStop cases[] = {
+      {"no trust", [](FakeDesktop& d) { d.isPersonTrusting = false; }, "ask for trust"},
+      {"no enclave", [](FakeDesktop& d) { d.canHoldKey = false; },
+       "alert: Secure Enclave Required | This Mac has no Secure Enclave, so content cannot be "
+       "signed in a way that proves a person authorized it."},
+      {"no text", [](FakeDesktop& d) { d.selection = std::nullopt; },
+       "alert: No Text Found | Please type or highlight some text in Outlook (or any app) before "
+       "pressing ⌘⌥⌃H."},
+      {"secret", [](FakeDesktop& d) { d.selection->isConcealed = true; },
+       "alert: No Text Found | Please type or highlight some text in Outlook (or any app) before "
+       "pressing ⌘⌥⌃H."},
+      {"too short", [](FakeDesktop& d) { d.selection->text = "Only four words here"; },
+       "alert: Not signed — too short | Only 4 words. Write at least 10."},
+      {"calendar", [](FakeDesktop& d) { d.date = "๒๕๖๙-๐๓-๐๑"; },
+       "alert: Signing Error | Today’s date reads “๒๕๖๙-๐๓-๐๑” on this computer, from which no "
+       "expiry can be computed. Set the calendar to Gregorian in the system’s settings and try "
+       "again."},
+      {"cancelled confirmation", [](FakeDesktop& d) { d.flags = {"ConfirmBeforeSigning"}; },
+       "confirm: Sign this content? [Sign with Touch ID] [Cancel], preset Email Message (Apple "
+       "Mail)"},
+      {"refused by the key", [](FakeDesktop& d) { d.signFailure = Error(Error::Fields{}); },
+       "alert: Signing Error | Secure Enclave signing failed: user cancelled or biometric failed"},
+      {"refused by the server",
+       [](FakeDesktop& d) {
+         d.answers["/api/sign_native"] = {{403, R"({"error":"No."})"}};
+       },
+       "alert: Signing Error | No."},
+      {"cancelled key creation",
+       [](FakeDesktop& d) {
+         d.hasKey = false;
+         d.cancelsCreation = true;
+       },
+       "log: [sign] called off by the user"},
+  };
+  for (const EarlyStop& c : cases) {
+    FakeDesktop desktop;
+    desktop.front = desktop.active = mail;
+    desktop.selection = FakeDesktop::Copy{.text = text, .html = {}};
+    c.given(desktop);
+    SigningCoordinator coordinator(desktop.services());
+    coordinator.startSigning();
+    desktop.loop.run();
+    EXPECT_EQ(desktop.trace.back(), c.lastLine) << c.name;
+    EXPECT_THAT(desktop.trace, Not(Contains("write clipboard"))) << c.name;
+  }
+}
+
+TEST_F(SigningCoordinatorTest, ScreensTheText) {
+  desktop_.selection->text =
+      "Please wire the money to the new account today, IBAN DE89 3704 0044 0532 0130 00, thank "
+      "you.";
+  sign();
+  EXPECT_THAT(desktop_.trace, Contains(StartsWith("log: [risk] score ")));
+  EXPECT_THAT(desktop_.trace.back(), StartsWith("alert: Not signed"));
+
+  desktop_.selection->text =
+      "Our bank details have changed since the last order of 40 chairs; ask Grace about the rest.";
+  desktop_.answer = desktop::Answer::cancelled;
+  sign();
+  EXPECT_THAT(desktop_.trace.back(), StartsWith("ask: Sign this anyway? | •  "));
+  EXPECT_THAT(desktop_.trace.back(),
+              EndsWith("Signing says YOU wrote this. [Sign Anyway] [Cancel]"));
+  desktop_.answer = desktop::Answer::confirmed;
+  sign();
+  EXPECT_EQ(desktop_.trace.back(), notification);
+}
+
+TEST_F(SigningCoordinatorTest, SignsTheScopeThatWasConfirmed) {
+  desktop_.flags = {"ConfirmBeforeSigning"};
+  desktop_.confirmation =
+      desktop::ConfirmationEntry{.choice = "LinkedIn Post", .field = " Ada\xFF "};
+  sign();
+  EXPECT_THAT(desktop_.sentTo("/api/sign_native").front(),
+              HasSubstr("\"scope\":\"LinkedIn Post → Ada\uFFFD\""));
+  EXPECT_THAT(*desktop_.clipboard.text, HasSubstr("· LinkedIn Post → Ada\uFFFD · 1 March 2026"));
+}
+
+TEST_F(SigningCoordinatorTest, RefusesIdentifiersThatCouldBreakOut) {
+  const std::string sayings[] = {R"(x\" onclick=\"y)", R"(a\u0000b)", "<b>", R"(a\\b)", "a b", ""};
+  for (const std::string& id : sayings) {
+    desktop_.hasKey = true;
+    desktop_.answers["/api/sign_native"] = {{200, R"({"signature_id":")" + id + "\"}"}};
+    sign();
+    EXPECT_THAT(desktop_.trace.back(), StartsWith("alert: Signing Error | The server answered"));
+    desktop_.answers["/api/handoff/create"] = {
+        {200, R"({"url":"https://s/h","handoff_id":")" + id + "\"}"}};
+    signInBrowser();
+    EXPECT_THAT(desktop_.trace.back(), StartsWith("alert: Signing Error | The server answered"));
+  }
+  EXPECT_THAT(desktop_.trace, Not(Contains(StartsWith("open "))));
+  EXPECT_FALSE(wroteBlock());
+}
+
+TEST_F(SigningCoordinatorTest, RefusesASigningPageThatIsNone) {
+  desktop_.answers["/api/handoff/create"] = {
+      {200, R"json({"url":"javascript:alert(1)","handoff_id":"H"})json"}};
+  signInBrowser();
+  EXPECT_EQ(desktop_.trace.back(), "alert: Signing Error | Could not build the signing URL.");
+}
+
+TEST_F(SigningCoordinatorTest, LeavesLongHtmlOutOfTheSigningPage) {
+  desktop_.selection->html = std::string(5'000'000, 'a');
+  signInBrowser();
+  EXPECT_THAT(desktop_.trace,
+              Contains("log: [handoff] formatting omitted: 6666667 encoded chars exceeds the 60000 "
+                       "limit for a URL fragment; showing plain text instead"));
+  EXPECT_EQ(desktop_.trace.back(), notification);
+}
+
+// Capture -----------------------------------------------------------------------------------------
+
+TEST_F(SigningCoordinatorTest, SelectsAllWhenOnlyBlanksAreCopied) {
+  desktop_.selection->text = " \n\u00A0";
+  desktop_.everything = FakeDesktop::Copy{.text = text, .html = {}};
+  sign();
+  EXPECT_THAT(desktop_.trace, Contains("log: [capture] no selection; selecting all"));
+  EXPECT_THAT(desktop_.userTrace(), ::testing::IsSupersetOf({"press ⌘A", notification.c_str()}));
+}
+
+TEST_F(SigningCoordinatorTest, TakesTheLastOfTwoQuickChanges) {
+  desktop_.secondThought = FakeDesktop::Copy{.text = text + " Indeed.", .html = {}};
+  sign();
+  EXPECT_THAT(*desktop_.clipboard.text, StartsWith("『" + text + " Indeed.』"));
+}
+
+TEST_F(SigningCoordinatorTest, MendsIllFormedTextOnce) {
+  desktop_.selection = FakeDesktop::Copy{.text = text + "\xC3", .html = "<p>\xFF</p>"};
+  sign();
+  EXPECT_THAT(*desktop_.clipboard.text, StartsWith("『" + text + "\uFFFD』"));
+  EXPECT_THAT(*desktop_.clipboard.html, HasSubstr("<p>\uFFFD</p>"));
+}
+
+TEST_F(SigningCoordinatorTest, BringsTheSourceBackBeforeItPastes) {
+  desktop_.active = chromeRunning;
+  sign();
+  EXPECT_THAT(desktop_.userTrace(),
+              ::testing::IsSupersetOf({"write clipboard", "activate Mail", "press ⌘V"}));
+  desktop_.front = std::nullopt;
+  desktop_.trace.clear();
+  sign();
+  EXPECT_THAT(*desktop_.clipboard.text, HasSubstr("QUILLSEAL · Public Broadcast · "));
+  EXPECT_THAT(desktop_.trace, Not(Contains("activate Mail")));
+}
+
+TEST_F(SigningCoordinatorTest, KeepsACopyForDebuggingEvenOfWhatIsRefused) {
+  desktop_.flags = {"QuillsealDebugCapture"};
+  desktop_.selection->text = "  too short ";
+  sign();
+  EXPECT_EQ(desktop_.files["/home/ada/Library/Logs/Quillseal-signed-text.txt"], "too short");
+  EXPECT_THAT(desktop_.trace, Contains("log: [sign] captured text written to "
+                                       "/home/ada/Library/Logs/Quillseal-signed-text.txt"));
+}
+
+// Modes, enrolment and recovery -------------------------------------------------------------------
+
+TEST_F(SigningCoordinatorTest, MakesAKeyOnTheFirstRun) {
+  desktop_.hasKey = false;
+  desktop_.answers["/api/sign_native"] = {{404, R"({"error":"Device NOT Registered."})"},
+                                          {200, R"({"signature_id":"sig-2"})"}};
+  sign();
+  EXPECT_THAT(desktop_.userTrace(),
+              ElementsAre("create key", "set SigningMode = enclave", "press ⌘C",
+                          "prompt: Sign " + subject + " as an anonymous human",
+                          "POST /api/sign_native", "POST /api/register_native",
+                          "set BoundIdentity = Ada", "prompt: Sign " + subject + " as Ada",
+                          "POST /api/sign_native", "write clipboard", "press ⌘V", notification));
+}
+
+TEST_F(SigningCoordinatorTest, RetriesOnceOnly) {
+  desktop_.answers["/api/sign_native"] = {{404, R"({"error":"device not enrolled"})"}};
+  sign();
+  EXPECT_EQ(desktop_.sentTo("/api/sign_native").size(), 2U);
+  EXPECT_EQ(desktop_.trace.back(), "alert: Signing Error | device not enrolled");
+  desktop_.answers["/api/register_native"] = {{500, R"({"error":"unenrolled"})"}};
+  sign();
+  EXPECT_EQ(desktop_.trace.back(), "alert: Signing Error | unenrolled");
+  EXPECT_FALSE(SigningCoordinator::isDeviceNotEnrolled("unenrolled"));
+}
+
+TEST_F(SigningCoordinatorTest, FallsBackToTheBrowserForGood) {
+  desktop_.hasKey = false;
+  desktop_.createFailure = Error({.domain = "OSStatus", .code = -34018, .description = "x"});
+  sign();
+  EXPECT_EQ(desktop_.strings["SigningMode"], "handoff");
+  EXPECT_THAT(desktop_.userTrace(), Contains("delete key"));
+  EXPECT_EQ(desktop_.trace.back(), notification);
+}
+
+TEST_F(SigningCoordinatorTest, TellsWhenThisMachineCannotBeSetUp) {
+  desktop_.hasKey = false;
+  desktop_.strings = {{"SigningMode", "enclave"}, {"ServerURL", " https://own.example "}};
+  desktop_.answers["/api/register_native"] = {{503, R"({"error":"Closed."})"}};
+  sign();
+  EXPECT_THAT(desktop_.userTrace(),
+              ElementsAre("create key", "POST /api/register_native", "delete key",
+                          "alert: Could Not Set Up This Mac | Quillseal could not register this "
+                          "Mac with https://own.example.\n\nClosed."));
+}
+
+TEST_F(SigningCoordinatorTest, EnrolsOnRequest) {
+  TaskScope scope;
+  scope.start(coordinator_->enrolDevice());
+  desktop_.loop.run();
+  EXPECT_EQ(desktop_.trace.back(),
+            "alert: ✅ This Mac Is Enrolled | A signing key was created inside the Secure Enclave. "
+            "It cannot be copied off this Mac, and every signature requires Touch ID.\n\n"
+            "Signatures will be attributed to Ada.");
+  desktop_.createFailure = Error({.domain = "OSStatus", .code = -34018, .description = "x"});
+  scope.start(coordinator_->enrolDevice());
+  desktop_.loop.run();
+  EXPECT_THAT(desktop_.trace.back(),
+              StartsWith("alert: Enrolment Failed | Could not create the Secure Enclave signing "
+                         "key: this build is not code-signed"));
+  EXPECT_FALSE(desktop_.hasKey);
+}
+
+// Several runs, quitting and failing desktops -----------------------------------------------------
+
+TEST_F(SigningCoordinatorTest, TwoRunsKeepToTheirOwnTabs) {
+  desktop_.hasKey = false;
+  desktop_.strings["SigningMode"] = "handoff";
+  desktop_.front = desktop_.active = chromeRunning;
+  desktop_.answers["/api/handoff/create"] = {
+      {200, R"({"handoff_id":"H1","url":"https://s/handoff?h=H1"})"},
+      {200, R"({"handoff_id":"H2","url":"https://s/handoff?h=H2"})"}};
+  desktop_.answers["/api/handoff/poll"] = {{200, R"({"status":"complete","signature_id":"w"})"}};
+  coordinator_->startSigning();
+  coordinator_->startSigning();
+  desktop_.loop.run();
+  EXPECT_EQ(std::count(desktop_.trace.begin(), desktop_.trace.end(), notification), 2);
+  EXPECT_THAT(desktop_.trace, Contains(HasSubstr("\"/handoff?h=H1\"")).Times(1));
+  EXPECT_THAT(desktop_.trace, Contains(HasSubstr("\"/handoff?h=H2\"")).Times(1));
+}
+
+TEST_F(SigningCoordinatorTest, TwoFirstRunsMakeOneKey) {
+  desktop_.hasKey = false;
+  coordinator_->startSigning();
+  coordinator_->startSigning();
+  desktop_.loop.run();
+  EXPECT_EQ(std::count(desktop_.trace.begin(), desktop_.trace.end(), "create key"), 1);
+  EXPECT_EQ(std::count(desktop_.trace.begin(), desktop_.trace.end(), notification), 2);
+}
+
+/// Everything a run can do, in one: enrolment, recovery, dialogs, the way back to the tab.
+void makeEventful(FakeDesktop& desktop, int kind) {
+  desktop.front = desktop.active = chromeRunning;
+  desktop.defaultBrowser = chromeInstalled;
+  desktop.selection = FakeDesktop::Copy{.text = text, .html = {}};
+  desktop.flags = {"ConfirmBeforeSigning"};
+  desktop.confirmation = desktop::ConfirmationEntry{.choice = "LinkedIn Post", .field = "Ada"};
+  desktop.hasKey = false;
+  desktop.answers["/api/sign_native"] = {{404, R"({"error":"device not enrolled"})"},
+                                         {200, R"({"signature_id":"sig-2"})"}};
+  if (kind == 1) desktop.strings["SigningMode"] = "handoff";
+  if (kind == 2) desktop.flags.insert("DemoSigning");
+}
+
+TEST(SigningRuns, EndWhereTheyWaitWhenTheAgentQuits) {
+  for (int kind = 0; kind < 3; ++kind) {
+    bool isDone = false;
+    for (int steps = 0; !isDone; ++steps) {
+      FakeDesktop desktop;
+      makeEventful(desktop, kind);
+      {
+        SigningCoordinator coordinator(desktop.services());
+        coordinator.startSigning();
+        for (int i = 0; i < steps && !isDone; ++i)
+          isDone = !desktop.loop.step();
+      }
+      const Lines before = desktop.trace;
+      desktop.loop.run();
+      EXPECT_EQ(desktop.trace, before) << "kind " << kind << ", step " << steps;
+    }
+  }
+}
+
+TEST(SigningRuns, TellTheUserWhicheverCallFails) {
+  for (int kind = 0; kind < 3; ++kind) {
+    for (int failing = 1;; ++failing) {
+      FakeDesktop desktop;
+      makeEventful(desktop, kind);
+      desktop.failingCall = failing;
+      SigningCoordinator coordinator(desktop.services());
+      coordinator.startSigning();
+      desktop.loop.run();
+      if (desktop.failedCall.empty()) break;
+      const std::string where = "kind " + std::to_string(kind) + ", call " +
+                                std::to_string(failing) + ": " + desktop.failedCall;
+      const Lines told = desktop.userTrace();
+      const bool isTold = std::any_of(told.begin(), told.end(), [](const std::string& line) {
+        return line.rfind("alert: ", 0) == 0 || line.rfind("notify: ", 0) == 0;
+      });
+      EXPECT_TRUE(isTold || desktop.failedCall == "notify") << where;
+      const bool isBlock = desktop.clipboard.text && desktop.clipboard.text->rfind("『", 0) == 0;
+      const bool wrote = std::find(told.begin(), told.end(), "write clipboard") != told.end();
+      EXPECT_EQ(isBlock, wrote) << where;
+      EXPECT_TRUE(wrote || std::find(told.begin(), told.end(), "press ⌘V") == told.end()) << where;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace quillseal

@@ -94,7 +94,7 @@ CharacterClasses::CharacterClasses(const SetTable& sets, std::vector<char32_t> a
   const std::vector<std::pair<Trait, CodePointRanges>> traits{
       {word, codePointsOf(wordSet)},
       // ICU's \b looks through these (RegexMatcher::isWordBoundary).
-      {unnoticed, codePointsOf("[\\p{Grapheme_Extend}\\p{Cf}]")},
+      {unnoticed, codePointsOf(R"([\p{Grapheme_Extend}\p{Cf}])")},
       {space, codePointsOf(spaceSet)},
       {terminator, {{0x0A, 0x0D}, {0x85, 0x85}, {0x2028, 0x2029}}},
       {lineFeed, {{'\n', '\n'}}},
@@ -103,7 +103,7 @@ CharacterClasses::CharacterClasses(const SetTable& sets, std::vector<char32_t> a
   std::map<char32_t, std::vector<Letter>> foldings;
   for (const char32_t c : alphabet_)
     foldings[c] = {letterOf(c)};
-  for (const auto& [first, last] : codePointsOf("[\\p{Changes_When_Casefolded}]")) {
+  for (const auto& [first, last] : codePointsOf(R"([\p{Changes_When_Casefolded}])")) {
     for (char32_t c = first; c <= last; ++c) {
       std::vector<Letter> letters;
       for (const char32_t folded : fullFolding(c)) {

@@ -31,7 +31,7 @@ icu::UnicodeSet setFrom(std::string_view notation, std::uint32_t options = 0) {
 /// set.
 void closeOverCase(icu::UnicodeSet& set) {
   static const icu::UnicodeSet cased =
-      setFrom("[\\p{Changes_When_Casemapped}\\p{Changes_When_Casefolded}]");
+      setFrom(R"([\p{Changes_When_Casemapped}\p{Changes_When_Casefolded}])");
   icu::UnicodeSet closed(set);
   closed.retainAll(cased);
   closed.closeOver(USET_CASE_INSENSITIVE);

@@ -71,8 +71,8 @@ struct Node {
 
 /// The code points of ICU's \w, \s and \d (uregex documentation, "Regular Expression
 /// Metacharacters").
-inline constexpr std::string_view wordSet = "[\\p{Alphabetic}\\p{M}\\p{Nd}\\p{Pc}\\u200c\\u200d]";
-inline constexpr std::string_view spaceSet = "[\\p{WhiteSpace}]";
-inline constexpr std::string_view digitSet = "[\\p{Nd}]";
+inline constexpr std::string_view wordSet = R"([\p{Alphabetic}\p{M}\p{Nd}\p{Pc}\u200c\u200d])";
+inline constexpr std::string_view spaceSet = R"([\p{WhiteSpace}])";
+inline constexpr std::string_view digitSet = R"([\p{Nd}])";
 
 }  // namespace quillseal::screening

@@ -218,7 +218,7 @@ class ScreeningEngine::Tables {
         index.add(literal, hitNumber(hit));
       }
     }
-    chains.push_back(std::move(added));
+    chains.push_back(added);
   }
 
   /// Literals of one length in one link share a number.

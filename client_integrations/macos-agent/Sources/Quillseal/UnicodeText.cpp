@@ -144,17 +144,17 @@ void append(std::string& text, char32_t scalar) {
 std::string wellFormed(std::string_view text) {
   std::string result;
   result.reserve(text.size());
+  std::size_t copied = 0;
   std::size_t position = 0;
   while (position < text.size()) {
     const std::size_t start = position;
-    const char32_t scalar = nextScalar(text, position);
-    // A genuine U+FFFD appends the same bytes as a replacement.
-    if (scalar == replacementCharacter) {
-      result += replacementBytes;
-    } else {
-      result += text.substr(start, position - start);
-    }
+    // A genuine U+FFFD is replaced by itself.
+    if (nextScalar(text, position) != replacementCharacter) continue;
+    result += text.substr(copied, start - copied);
+    result += replacementBytes;
+    copied = position;
   }
+  result += text.substr(copied);
   return result;
 }
 

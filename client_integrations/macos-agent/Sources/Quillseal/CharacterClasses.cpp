@@ -213,11 +213,11 @@ std::size_t CharacterClasses::memoryUse() const {
   std::size_t bytes = sizeof(*this) + alphabet_.capacity() * sizeof(char32_t) +
                       pages_.capacity() * sizeof(ClassId) + traits_.capacity();
   for (const auto& folding : foldings_)
-    bytes += sizeof(folding) + folding.capacity() * sizeof(Letter);
+    bytes += sizeof(std::vector<Letter>) + folding.capacity() * sizeof(Letter);
   for (const auto& with : classesWith_)
-    bytes += sizeof(with) + with.capacity() * sizeof(ClassId);
+    bytes += sizeof(std::vector<ClassId>) + with.capacity() * sizeof(ClassId);
   for (const auto& member : members_)
-    bytes += sizeof(member) + member.capacity() * sizeof(std::uint64_t);
+    bytes += sizeof(std::vector<std::uint64_t>) + member.capacity() * sizeof(std::uint64_t);
   return bytes;
 }
 

@@ -49,9 +49,9 @@ void LiteralIndex::assignSymbols(const CharacterClasses& classes) {
     ranks_[byFrequency[rank].second] = rank;
 
   symbolCount_ = symbolTotal;
-  for (ClassId id = 0; id < classes.count(); ++id) {
+  for (std::size_t id = 0; id < classes.count(); ++id) {
     std::vector<std::uint8_t> sequence;
-    for (const Letter letter : classes.folding(id)) {
+    for (const Letter letter : classes.folding(static_cast<ClassId>(id))) {
       const auto symbols = symbolsOf(letter);
       sequence.insert(sequence.end(), symbols.begin(), symbols.end());
     }

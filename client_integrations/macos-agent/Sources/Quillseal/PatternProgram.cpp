@@ -604,7 +604,7 @@ bool Matcher::atTextEnd(std::size_t position) const {
 Matcher::Known Matcher::known(std::uint32_t row, std::size_t position) const {
   const std::size_t page = position / pagePositions;
   if (page >= pages_.size() || !pages_[page]) return Known::Nothing;
-  const std::size_t bit = (2 * row * pagePositions) + position % pagePositions;
+  const std::size_t bit = (std::size_t{2} * row * pagePositions) + position % pagePositions;
   if ((pages_[page][bit / 64] >> (bit % 64) & 1) != 0) return Known::Fails;
   const std::size_t other = bit + pagePositions;
   return (pages_[page][other / 64] >> (other % 64) & 1) != 0 ? Known::Succeeds : Known::Nothing;

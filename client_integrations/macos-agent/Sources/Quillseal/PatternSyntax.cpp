@@ -294,7 +294,7 @@ class Parser {
 
   Node group() {
     Node node;
-    if (next(U"?:")) {
+    if (next(U"?:") || ended() || pattern_[at_] != U'?') {
       node = alternatives();
     } else if (next(U"?=") || next(U"?!")) {
       node.kind = Node::Kind::LookAhead;
@@ -308,10 +308,8 @@ class Parser {
       if (node.kind != Node::Kind::Set) fail("only one character can be looked back at");
       node.kind = Node::Kind::PrecedingInSet;
       node.negative = negative;
-    } else if (next(U"?")) {
-      fail("this group is not offered");
     } else {
-      node = alternatives();
+      fail("this group is not offered");
     }
     if (!next(U")")) fail("missing )");
     return node;

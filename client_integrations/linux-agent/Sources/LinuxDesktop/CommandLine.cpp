@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace quillseal {
 namespace {
@@ -25,17 +26,24 @@ constexpr std::array kOptions = {
 
 CommandLine parseCommandLine(std::span<const std::string_view> arguments) {
   CommandLine result;
-  for (const std::string_view argument : arguments) {
+  const auto wrong = [](std::string_view argument, std::string_view why) {
+    return CommandLine{.command = Command::Wrong,
+                       .tpm = {},
+                       .problem = "'" + std::string(argument) + "' " + std::string(why)};
+  };
+  for (auto argument = arguments.begin(); argument != arguments.end(); ++argument) {
+    if (*argument == "--tpm") {
+      if (std::next(argument) == arguments.end()) return wrong(*argument, "needs a value");
+      result.tpm = *++argument;
+      continue;
+    }
     const auto option = std::ranges::find_if(kOptions, [&](const Option& candidate) {
-      return argument == candidate.name ||
-             (!candidate.shortName.empty() && argument == candidate.shortName);
+      return *argument == candidate.name ||
+             (!candidate.shortName.empty() && *argument == candidate.shortName);
     });
-    if (option == kOptions.end())
-      return {.command = Command::Wrong,
-              .problem = "'" + std::string(argument) + "' is not an option"};
+    if (option == kOptions.end()) return wrong(*argument, "is not an option");
     if (result.command != Command::Start && result.command != option->command)
-      return {.command = Command::Wrong,
-              .problem = "'" + std::string(argument) + "' cannot be combined with another option"};
+      return wrong(*argument, "cannot be combined with another option");
     result.command = option->command;
   }
   return result;
@@ -57,6 +65,8 @@ settings window is shown.
   --quit        end the agent
   --background  start without a word, for the start of a session; the log goes
                 to the journal
+  --tpm NAME    which TPM holds the signing key: "none" for a key file in any
+                case, or a TPM simulator, "swtpm:…" or "mssim:…", for trying out
   -h, --help    show this help
   -V, --version show the version
 

@@ -17,6 +17,10 @@ QtMainLoop::QtMainLoop() {
 }
 
 QtMainLoop::~QtMainLoop() {
+  waitForWorkers();
+}
+
+void QtMainLoop::waitForWorkers() {
   workers_.waitForDone();
 }
 

@@ -11,8 +11,11 @@ namespace quillseal {
 class QtMainLoop : public desktop::MainLoop {
  public:
   QtMainLoop();
-  /// Waits for workers that still run.
   ~QtMainLoop() override;
+
+  /// Waits for workers that still run. What they would have run on the main thread afterwards is left
+  /// out when the loop ends meanwhile.
+  void waitForWorkers();
 
   void post(std::function<void()> work) override;
   [[nodiscard]] desktop::Ticket after(std::chrono::milliseconds delay,

@@ -1,0 +1,267 @@
+// The agent for Linux desktops: chooses and joins its parts, and runs the event loop.
+
+#include <QApplication>
+#include <QIcon>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Desktop/Desktop.h"
+#include "LinuxDesktop/CommandLine.h"
+#include "LinuxDesktop/CurlTransport.h"
+#include "LinuxDesktop/JournalLog.h"
+#include "LinuxDesktop/KeyFailure.h"
+#include "LinuxDesktop/LinuxKeyStore.h"
+#include "LinuxDesktop/LinuxPresence.h"
+#include "LinuxDesktop/NoBrowserTabs.h"
+#include "LinuxDesktop/PlatformWording.h"
+#include "LinuxDesktop/QtAlerts.h"
+#include "LinuxDesktop/QtDefaults.h"
+#include "LinuxDesktop/QtDescriptors.h"
+#include "LinuxDesktop/QtFiles.h"
+#include "LinuxDesktop/QtMainLoop.h"
+#include "LinuxDesktop/QtPasteboard.h"
+#include "LinuxDesktop/QtPresencePrompt.h"
+#include "LinuxDesktop/QtProgram.h"
+#include "LinuxDesktop/QtSecretPrompt.h"
+#include "LinuxDesktop/QtWindows.h"
+#include "LinuxDesktop/Reach.h"
+#include "LinuxDesktop/SingleInstance.h"
+#include "LinuxDesktop/SystemMachineIdentity.h"
+#include "LinuxDesktop/SystemWallClock.h"
+#include "LinuxDesktop/TerminationSignals.h"
+#include "LinuxDesktop/TrayStatusItem.h"
+#include "LinuxDesktop/WindowManager.h"
+#include "LinuxDesktop/X11Applications.h"
+#include "LinuxDesktop/X11Hotkey.h"
+#include "LinuxDesktop/X11Keyboard.h"
+#include "LinuxDesktop/XTestKeyEvents.h"
+#include "Quillseal/AppDelegate.h"
+
+namespace {
+
+using quillseal::Command;
+using quillseal::CommandLine;
+
+constexpr int kFailed = 1;
+constexpr int kWrongArguments = 2;
+
+std::string environment(const char* name) {
+  const char* value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): before any thread
+  return value == nullptr ? std::string() : std::string(value);
+}
+
+// Absolute, by the XDG Base Directory Specification.
+std::string keyFolder() {
+  const std::string data = environment("XDG_DATA_HOME");
+  return (data.starts_with('/') ? data : environment("HOME") + "/.local/share") + "/quillseal";
+}
+
+QIcon productIcon() {
+  QIcon icon;
+  for (const int size : {22, 24, 32, 48, 128})
+    icon.addFile(QStringLiteral(":/icons/quillseal-%1.png").arg(size), {size, size});
+  return icon;
+}
+
+void report(std::string_view sentence) {
+  std::fprintf(stderr, "quillseal: %.*s\n", static_cast<int>(sentence.size()), sentence.data());
+}
+
+// Everything the agent asks of this desktop. Members are destroyed from the last to the first.
+class LinuxDesktop {
+ public:
+  LinuxDesktop(const CommandLine& commandLine, quillseal::desktop::Log& log)
+      : log_(log),
+        keyboard_(quillseal::X11Keyboard::open()),
+        limits_(quillseal::limitsOf(
+            {.isWayland = environment("XDG_SESSION_TYPE") == "wayland",
+             .hasXServer = QApplication::platformName() == QLatin1String("xcb"),
+             .canPressKeys = keyboard_ != nullptr})),
+        secretPrompt_(loop_, windowManager_),
+        keyStore_(quillseal::makeKeyStore({.folder = keyFolder(), .tpm = commandLine.tpm},
+                                          secretPrompt_)),
+        alerts_(windowManager_, circumstances()),
+        windows_(windowManager_, circumstances()),
+        statusItem_(circumstances()),
+        presencePrompt_(windowManager_),
+        presence_(loop_, presencePrompt_),
+        defaults_({.path = quillseal::QtDefaults::settingsFile(),
+                   .warn = [this](const std::string& sentence) { warn(sentence); }}),
+        http_(loop_, descriptors_, {}),
+        applications_(windowManager_),
+        hotkey_(loop_, keyboard_.get(), limits_),
+        keys_({.loop = loop_,
+               .windows = windowManager_,
+               .keyboard = keyboard_.get(),
+               .lastWrite = [this] { return pasteboard_.lastWrite(); },
+               .explain = [this] { warn(limits_); }}),
+        program_(windowManager_) {
+    log_.write("[start] " + keyStore_->describe());
+    if (!limits_.empty()) warn(limits_);
+  }
+
+  // Workers use the services; some of them wait for an answer that nobody will give any more.
+  ~LinuxDesktop() {
+    secretPrompt_.close();
+    loop_.waitForWorkers();
+  }
+
+  LinuxDesktop(const LinuxDesktop&) = delete;
+  LinuxDesktop& operator=(const LinuxDesktop&) = delete;
+
+  [[nodiscard]] quillseal::desktop::Desktop services() {
+    return {.alerts = alerts_,
+            .applications = applications_,
+            .browserTabs = browserTabs_,
+            .defaults = defaults_,
+            .files = files_,
+            .hotkey = hotkey_,
+            .http = http_,
+            .keys = keys_,
+            .keyStore = *keyStore_,
+            .log = log_,
+            .machine = machine_,
+            .loop = loop_,
+            .pasteboard = pasteboard_,
+            .presence = presence_,
+            .program = program_,
+            .statusItem = statusItem_,
+            .wallClock = wallClock_,
+            .windows = windows_};
+  }
+
+ private:
+  [[nodiscard]] quillseal::PlatformWording::CurrentCircumstances circumstances() {
+    return [this] { return quillseal::PlatformWording::withKeyIn(keyStore_->place()); };
+  }
+
+  void warn(const std::string& sentence) {
+    log_.write("[start] " + sentence);
+    warning_ = alerts_.show({.title = "Quillseal", .body = sentence}, [] {});
+  }
+
+  quillseal::desktop::Log& log_;
+  quillseal::QtMainLoop loop_;
+  quillseal::QtDescriptors descriptors_;
+  quillseal::WindowManager windowManager_;
+  std::unique_ptr<quillseal::X11Keyboard> keyboard_;
+  std::string limits_;
+  quillseal::QtSecretPrompt secretPrompt_;
+  std::unique_ptr<quillseal::LinuxKeyStore> keyStore_;
+  quillseal::QtAlerts alerts_;
+  quillseal::desktop::Ticket warning_;
+  quillseal::QtWindows windows_;
+  quillseal::TrayStatusItem statusItem_;
+  quillseal::QtPresencePrompt presencePrompt_;
+  quillseal::LinuxPresence presence_;
+  quillseal::QtDefaults defaults_;
+  quillseal::CurlTransport http_;
+  quillseal::QtPasteboard pasteboard_;
+  quillseal::X11Applications applications_;
+  quillseal::X11Hotkey hotkey_;
+  quillseal::XTestKeyEvents keys_;
+  quillseal::QtProgram program_;
+  quillseal::QtFiles files_;
+  quillseal::NoBrowserTabs browserTabs_;
+  quillseal::SystemMachineIdentity machine_;
+  quillseal::SystemWallClock wallClock_;
+};
+
+void obey(Command command, quillseal::AppDelegate& agent) {
+  switch (command) {
+    case Command::Sign:
+      agent.menuBarManager().signText();
+      break;
+    case Command::Settings:
+      agent.menuBarManager().configureServer();
+      break;
+    case Command::Quit:
+      agent.menuBarManager().quitApp();
+      break;
+    default:
+      break;
+  }
+}
+
+int visit(Command command) {
+  if (command == Command::Background) return 0;
+  if (quillseal::SingleInstance::handOver(command)) return 0;
+  report("the agent that runs in this session does not answer. End it and start again.");
+  return kFailed;
+}
+
+int runAgent(const CommandLine& commandLine, quillseal::SingleInstance& instance) {
+  const bool quiet = commandLine.command == Command::Background;
+  quillseal::JournalLog log(quiet ? quillseal::JournalLog::Echo::none
+                                  : quillseal::JournalLog::Echo::standardError);
+  LinuxDesktop desktop(commandLine, log);
+  quillseal::AppDelegate agent(desktop.services());
+  agent.applicationDidFinishLaunching();
+  instance.onCommand([&](Command command) { obey(command, agent); });
+  const quillseal::TerminationSignals signals([] { QApplication::quit(); });
+  obey(commandLine.command, agent);
+  log.write("[start] ready");
+  const int status = QApplication::exec();
+  instance.onCommand({});
+  return status;
+}
+
+int run(int argc, char** argv, const CommandLine& commandLine) {
+  const bool hasXServer = !environment("DISPLAY").empty();
+  if (!hasXServer && environment("WAYLAND_DISPLAY").empty() &&
+      environment("QT_QPA_PLATFORM").empty()) {
+    report("there is no display. Start it within a desktop session.");
+    return kFailed;
+  }
+  // Selections, keys and the hotkey are reached through X, in a Wayland session through Xwayland.
+  if (hasXServer && environment("QT_QPA_PLATFORM").empty()) qputenv("QT_QPA_PLATFORM", "xcb");
+
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("quillseal"));
+  QApplication::setDesktopFileName(QStringLiteral("quillseal"));
+  QApplication::setWindowIcon(productIcon());
+
+  quillseal::SingleInstance instance;
+  switch (instance.claim()) {
+    case quillseal::SingleInstance::Role::Visitor:
+      return visit(commandLine.command);
+    case quillseal::SingleInstance::Role::Alone:
+      report("there is no session bus: notifications and commands from other starts do not work.");
+      break;
+    case quillseal::SingleInstance::Role::Agent:
+      break;
+  }
+  if (commandLine.command == Command::Quit) return 0;
+  return runAgent(commandLine, instance);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const std::vector<std::string_view> arguments(argv + 1, argv + argc);
+  const CommandLine commandLine = quillseal::parseCommandLine(arguments);
+  switch (commandLine.command) {
+    case Command::Help:
+      std::fputs(std::string(quillseal::helpText()).c_str(), stdout);
+      return 0;
+    case Command::Version:
+      std::puts("quillseal " QUILLSEAL_VERSION);
+      return 0;
+    case Command::Wrong:
+      report(commandLine.problem + "; see quillseal --help");
+      return kWrongArguments;
+    default:
+      break;
+  }
+  try {
+    return run(argc, argv, commandLine);
+  } catch (const std::exception& failure) {
+    report(failure.what());
+    return kFailed;
+  }
+}

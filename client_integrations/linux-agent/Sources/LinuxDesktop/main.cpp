@@ -15,9 +15,9 @@
 #include "LinuxDesktop/CurlTransport.h"
 #include "LinuxDesktop/JournalLog.h"
 #include "LinuxDesktop/KeyFailure.h"
+#include "LinuxDesktop/LinuxBrowserTabs.h"
 #include "LinuxDesktop/LinuxKeyStore.h"
 #include "LinuxDesktop/LinuxPresence.h"
-#include "LinuxDesktop/NoBrowserTabs.h"
 #include "LinuxDesktop/PlatformWording.h"
 #include "LinuxDesktop/QtAlerts.h"
 #include "LinuxDesktop/QtDefaults.h"
@@ -100,7 +100,8 @@ class LinuxDesktop {
                .keyboard = keyboard_.get(),
                .lastWrite = [this] { return pasteboard_.lastWrite(); },
                .explain = [this] { warn(limits_); }}),
-        program_(windowManager_) {
+        program_(windowManager_),
+        browserTabs_({.loop = loop_, .descriptors = descriptors_, .log = log_}) {
     log_.write("[start] " + keyStore_->describe());
     if (!limits_.empty()) warn(limits_);
   }
@@ -167,7 +168,7 @@ class LinuxDesktop {
   quillseal::XTestKeyEvents keys_;
   quillseal::QtProgram program_;
   quillseal::QtFiles files_;
-  quillseal::NoBrowserTabs browserTabs_;
+  quillseal::LinuxBrowserTabs browserTabs_;
   quillseal::SystemMachineIdentity machine_;
   quillseal::SystemWallClock wallClock_;
 };

@@ -4,7 +4,6 @@ development server. Nothing of it touches the desktop, the home or the settings 
 Waiting is always for a condition, with a limit and a sentence that says what did not happen.
 """
 
-import json
 import os
 import pathlib
 import re
@@ -155,9 +154,17 @@ class Session:
                        "--height", "26")
         self.start("dunst")
         wait_for("the notification service starts",
-                 lambda: "org.freedesktop.Notifications" in self.run("busctl", "--user", "list",
-                                                                     "--no-legend", check=False)
-                 or self.notifications() is not None)
+                 lambda: "true" in self.run(
+                     "gdbus", "call", "--session", "--dest", "org.freedesktop.DBus",
+                     "--object-path", "/org/freedesktop/DBus", "--method",
+                     "org.freedesktop.DBus.NameHasOwner", "org.freedesktop.Notifications",
+                     check=False))
+        self.monitor = self.start(
+            "dbus-monitor", "--session", "interface='org.freedesktop.Notifications'")
+
+    def alert_is_open(self):
+        return any(name in ("Signing Error", "Could Not Set Up This Computer")
+                   for name in self.window_names())
 
     # The agent and its server
 
@@ -230,14 +237,9 @@ class Session:
         except subprocess.TimeoutExpired:
             return ""
 
-    def notifications(self):
-        """The texts of the notifications shown so far, or nothing without a service."""
-        history = self.run("dunstctl", "history", check=False)
-        shown = self.run("dunstctl", "count", "displayed", check=False)
-        if not history.strip():
-            return None
-        entries = json.loads(history)["data"][0]
-        return [entry["summary"]["data"] for entry in entries] + ["displayed"] * int(shown or 0)
+    def shown_notifications(self):
+        """What the notification service was asked to show, as it saw it on the bus."""
+        return self.output_of(self.monitor)
 
     def screenshot(self, path):
         self.run("import", "-window", "root", path)

@@ -1,0 +1,117 @@
+#!/usr/bin/env python3
+"""Signs a letter on a private virtual desktop, as a person would, and shows what came of it.
+
+usage: demo.py --quillseal PATH --server PATH --held-keys PATH --screenshots FOLDER [--keep]
+"""
+
+import argparse
+import html
+import pathlib
+import re
+import shutil
+import signal
+import sys
+import tempfile
+
+import session
+from session import wait_for
+
+LETTER = """Dear Ms Whitcombe,
+
+thank you for the visit on 14 March. The second draft of the lease suits us well; we shall
+sign it when you are back from 京都.
+
+Yours, Ada Ferrier"""
+SECRET = "correct horse battery staple"
+
+
+def step(text):
+    print(f"==> {text}", flush=True)
+
+
+def start_software_tpm(desktop):
+    """A TPM in software, so that the demo shows what a computer with a TPM does; nothing without
+    the packages."""
+    if not shutil.which("swtpm"):
+        return "none"
+    # Its socket's path must be short.
+    folder = pathlib.Path(tempfile.mkdtemp(prefix="tpm-", dir=desktop.folder))
+    socket = folder / "s"
+    desktop.start("swtpm", "socket", "--tpm2", "--tpmstate", f"dir={folder}",
+                  "--ctrl", f"type=unixio,path={folder}/c", "--server",
+                  f"type=unixio,path={socket}", "--flags", "not-need-init,startup-clear")
+    wait_for("the software TPM starts", socket.exists)
+    return f"swtpm:path={socket}"
+
+
+def answer_prompts(desktop):
+    """Chooses the secret of the new key and then signs with it."""
+    wanted = desktop.wait_for_window(r"Choose a (PIN|passphrase)",
+                                     "the agent asks for the secret of the new key")
+    step(f"Choosing a {wanted[1]} for the new signing key")
+    desktop.type(SECRET)
+    desktop.key("Tab")
+    desktop.type(SECRET)
+    desktop.key("Return")
+    desktop.wait_for_window(r"Enter the (PIN|passphrase)", "the agent asks whether to sign")
+    return wanted[1]
+
+
+def run(arguments):
+    programs = {"quillseal": arguments.quillseal, "quillseal-dev-server": arguments.server,
+                "held-keys": arguments.held_keys}
+    arguments.screenshots.mkdir(parents=True, exist_ok=True)
+    with session.Session(programs, panel=True) as desktop:
+        step(f"A virtual desktop runs on display {desktop.env['DISPLAY']}")
+        url = desktop.start_server()
+        step(f"The development signing server runs at {url}")
+        desktop.write_settings(ServerURL=url)
+        desktop.start_agent(tpm=start_software_tpm(desktop))
+        step("Quillseal runs; opening an editor with a letter, selecting all of it")
+        editor = desktop.open_editor(LETTER)
+        desktop.select_all(LETTER)
+        step("Pressing Ctrl+Alt+Super+H")
+        desktop.press_hotkey()
+        answer_prompts(desktop)
+        prompt = arguments.screenshots / "prompt.png"
+        desktop.screenshot(prompt)
+        step("Signing")
+        desktop.type(SECRET)
+        desktop.key("Return")
+        block = desktop.saved_text(editor, "Check this signature")
+        picture = arguments.screenshots / "signed.png"
+        desktop.screenshot(picture)
+        print(f"\n{block}\n")
+        link = re.search(r"http://\S+/verify/\S+", block)[0]
+        step(f"What {link} answers:")
+        page = desktop.run("curl", "-sS", "--fail", link)
+        text = html.unescape(re.sub(r"(?s)<(style|script).*?</\1>|<[^>]+>", " ", page))
+        for line in (" ".join(part.split()) for part in text.splitlines()):
+            if line:
+                print(f"    {line}")
+        print()
+        step(f"Pictures: {prompt}")
+        step(f"          {picture}")
+        if arguments.keep:
+            step(f"The desktop stays up. Look at it:  DISPLAY={desktop.env['DISPLAY']} "
+                 "import -window root picture.png")
+            step("Press Ctrl+C here to end it")
+            signal.pause()
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    for name in ("quillseal", "server", "held-keys", "screenshots"):
+        parser.add_argument(f"--{name}", required=True, type=pathlib.Path)
+    parser.add_argument("--keep", action="store_true")
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
+    try:
+        run(parser.parse_args())
+    except KeyboardInterrupt:
+        print()
+    except session.Failure as failure:
+        sys.exit(f"demo: {failure}")
+
+
+if __name__ == "__main__":
+    main()

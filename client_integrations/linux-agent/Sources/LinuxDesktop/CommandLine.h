@@ -20,7 +20,7 @@ enum class Command {
 
 struct CommandLine {
   Command command = Command::Start;
-  std::string tpm;  ///< which TPM holds the key, as `KeyStoreOptions::tpm` has it
+  std::string tpm;      ///< which TPM holds the key, as `KeyStoreOptions::tpm` has it
   std::string problem;  ///< A sentence for standard error; only with `Command::Wrong`.
 };
 

@@ -13,8 +13,8 @@ class QtMainLoop : public desktop::MainLoop {
   QtMainLoop();
   ~QtMainLoop() override;
 
-  /// Waits for workers that still run. What they would have run on the main thread afterwards is left
-  /// out when the loop ends meanwhile.
+  /// Waits for workers that still run. What they would have run on the main thread afterwards is
+  /// left out when the loop ends meanwhile.
   void waitForWorkers();
 
   void post(std::function<void()> work) override;

@@ -30,10 +30,8 @@ std::unique_ptr<PresenceWindow> QtPresencePrompt::open(const PresenceRequest& re
                                                        std::function<void(bool)> answered) {
   std::string text = request.reason;
   if (!request.medium.empty()) text += "\n\n" + request.medium;
-  auto dialog = std::make_unique<MessageDialog>(
-      MessageDialog::Look{.picture = MessageDialog::Picture::product,
-                          .title = "Confirm that it is you",
-                          .text = text});
+  auto dialog = std::make_unique<MessageDialog>(MessageDialog::Look{
+      .picture = MessageDialog::Picture::product, .title = "Confirm that it is you", .text = text});
   auto* instruction = new QLabel(toQString(request.instruction));
   instruction->setTextFormat(Qt::PlainText);
   instruction->setWordWrap(true);

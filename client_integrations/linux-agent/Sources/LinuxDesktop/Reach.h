@@ -7,7 +7,7 @@ namespace quillseal {
 /// What decides whether the agent can reach other applications.
 struct SessionTraits {
   bool isWayland = false;
-  bool hasXServer = false;  ///< its own or Xwayland
+  bool hasXServer = false;    ///< its own or Xwayland
   bool canPressKeys = false;  ///< the X server has XTEST and XKEYBOARD
 };
 

@@ -1,14 +1,14 @@
 #include "LinuxDesktop/TerminationSignals.h"
 
-#include <sys/eventfd.h>
-#include <unistd.h>
-
 #include <QObject>
 #include <atomic>
 #include <csignal>
 #include <cstdint>
 #include <initializer_list>
 #include <utility>
+
+#include <sys/eventfd.h>
+#include <unistd.h>
 
 namespace quillseal {
 namespace {

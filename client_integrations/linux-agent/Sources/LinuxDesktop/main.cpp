@@ -78,10 +78,10 @@ class LinuxDesktop {
   LinuxDesktop(const CommandLine& commandLine, quillseal::desktop::Log& log)
       : log_(log),
         keyboard_(quillseal::X11Keyboard::open()),
-        limits_(quillseal::limitsOf(
-            {.isWayland = environment("XDG_SESSION_TYPE") == "wayland",
-             .hasXServer = QApplication::platformName() == QLatin1String("xcb"),
-             .canPressKeys = keyboard_ != nullptr})),
+        limits_(
+            quillseal::limitsOf({.isWayland = environment("XDG_SESSION_TYPE") == "wayland",
+                                 .hasXServer = QApplication::platformName() == QLatin1String("xcb"),
+                                 .canPressKeys = keyboard_ != nullptr})),
         secretPrompt_(loop_, windowManager_),
         keyStore_(quillseal::makeKeyStore({.folder = keyFolder(), .tpm = commandLine.tpm},
                                           secretPrompt_)),

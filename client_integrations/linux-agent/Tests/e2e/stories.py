@@ -235,7 +235,8 @@ class Commands(Story):
 def main():
     parser = argparse.ArgumentParser()
     for name in ("quillseal", "server", "held-keys"):
-        parser.add_argument(f"--{name}", required=True, type=pathlib.Path)
+        parser.add_argument(f"--{name}", required=True,
+                            type=lambda path: pathlib.Path(path).resolve())
     arguments, rest = parser.parse_known_args()
     PROGRAMS.update({"quillseal": arguments.quillseal, "quillseal-dev-server": arguments.server,
                      "held-keys": arguments.held_keys})

@@ -1,0 +1,75 @@
+#include <string_view>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "LinuxDesktop/CommandLine.h"
+
+namespace quillseal {
+namespace {
+
+using testing::HasSubstr;
+
+CommandLine parsed(const std::vector<std::string_view>& arguments) {
+  return parseCommandLine(arguments);
+}
+
+TEST(CommandLineTest, UnderstandsEveryOption) {
+  const struct {
+    std::vector<std::string_view> arguments;
+    Command command;
+  } cases[] = {
+      {{}, Command::Start},
+      {{"--background"}, Command::Background},
+      {{"--sign"}, Command::Sign},
+      {{"--settings"}, Command::Settings},
+      {{"--quit"}, Command::Quit},
+      {{"--help"}, Command::Help},
+      {{"-h"}, Command::Help},
+      {{"--version"}, Command::Version},
+      {{"-V"}, Command::Version},
+      {{"--sign", "--sign"}, Command::Sign},
+      {{"--tpm", "none", "--sign"}, Command::Sign},
+  };
+  for (const auto& [arguments, command] : cases) {
+    const CommandLine commandLine = parsed(arguments);
+    EXPECT_EQ(commandLine.command, command) << testing::PrintToString(arguments);
+    EXPECT_EQ(commandLine.problem, "");
+  }
+  EXPECT_EQ(parsed({"--tpm", "swtpm:path=/s"}).tpm, "swtpm:path=/s");
+}
+
+TEST(CommandLineTest, SaysWhatItDoesNotUnderstand) {
+  const struct {
+    std::vector<std::string_view> arguments;
+    const char* problem;
+  } cases[] = {
+      {{"--singn"}, "'--singn' is not an option"},
+      {{"letter.txt"}, "'letter.txt' is not an option"},
+      {{""}, "'' is not an option"},
+      {{"--sign", "--quit"}, "'--quit' cannot be combined"},
+      {{"--sign", "--tpm"}, "'--tpm' needs a value"},
+  };
+  for (const auto& [arguments, problem] : cases) {
+    const CommandLine commandLine = parsed(arguments);
+    EXPECT_EQ(commandLine.command, Command::Wrong) << testing::PrintToString(arguments);
+    EXPECT_THAT(commandLine.problem, HasSubstr(problem));
+  }
+}
+
+TEST(CommandLineTest, HelpNamesEveryOption) {
+  for (const char* option :
+       {"--sign", "--settings", "--quit", "--background", "--tpm", "--help", "--version"})
+    EXPECT_THAT(std::string(helpText()), HasSubstr(option));
+}
+
+// A second start without an option shows the settings: where the panel has no tray, that is the way
+// to them.
+TEST(CommandLineTest, ASecondStartOpensTheSettings) {
+  EXPECT_EQ(wireName(Command::Start), wireName(Command::Settings));
+  EXPECT_EQ(wireName(Command::Help), "");
+}
+
+}  // namespace
+}  // namespace quillseal

@@ -1,0 +1,61 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <xkbcommon/xkbcommon-keysyms.h>
+
+#include "LinuxDesktop/KeyChords.h"
+
+namespace quillseal {
+namespace {
+
+using desktop::Key;
+using desktop::KeyPress;
+using desktop::Modifiers;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr KeyPress kCopy{.key = Key::c, .modifiers = Modifiers::command};
+constexpr KeyPress kPaste{.key = Key::v, .modifiers = Modifiers::command};
+constexpr KeyPress kSelectAll{.key = Key::a, .modifiers = Modifiers::command};
+constexpr KeyPress kHotkey{
+    .key = Key::h, .modifiers = Modifiers::control | Modifiers::option | Modifiers::command};
+
+TEST(KeyChordsTest, CommandIsControlUnlessControlIsThereToo) {
+  EXPECT_THAT(chordOf(kCopy), ElementsAre(XKB_KEY_Control_L, XKB_KEY_c));
+  EXPECT_THAT(chordOf(kHotkey),
+              ElementsAre(XKB_KEY_Control_L, XKB_KEY_Alt_L, XKB_KEY_Super_L, XKB_KEY_h));
+  EXPECT_EQ(nameOf(kHotkey), "Ctrl+Alt+Super+H");
+  EXPECT_EQ(nameOf(Modifiers::command, ","), "Ctrl+,");
+}
+
+TEST(KeyChordsTest, NoTerminalEverGetsAnInterruptOrALineOfTyping) {
+  const struct {
+    const char* categories;
+    const char* windowClass;
+  } terminals[] = {{"GTK;System;TerminalEmulator;", "Gnome-terminal"},
+                   {"", "Alacritty"},
+                   {"", "kitty"},
+                   {"System;TerminalEmulator;", "XTerm"},
+                   {"", "URxvt"}};
+  for (const auto& [categories, windowClass] : terminals) {
+    SCOPED_TRACE(windowClass);
+    for (const KeyPress press : {kCopy, kPaste})
+      EXPECT_THAT(chordFor(press, categories, windowClass), testing::Ne(chordOf(press)));
+    EXPECT_THAT(chordFor(kSelectAll, categories, windowClass), IsEmpty());
+  }
+}
+
+TEST(KeyChordsTest, TerminalsGetTheChordsTheyKnow) {
+  EXPECT_THAT(chordFor(kCopy, "TerminalEmulator;", "Xfce4-terminal"),
+              ElementsAre(XKB_KEY_Control_L, XKB_KEY_Shift_L, XKB_KEY_c));
+  EXPECT_THAT(chordFor(kPaste, "TerminalEmulator;", "Xfce4-terminal"),
+              ElementsAre(XKB_KEY_Control_L, XKB_KEY_Shift_L, XKB_KEY_v));
+  EXPECT_THAT(chordFor(kPaste, "", "XTerm"), ElementsAre(XKB_KEY_Shift_L, XKB_KEY_Insert));
+}
+
+TEST(KeyChordsTest, OtherApplicationsGetTheUsualChords) {
+  EXPECT_EQ(chordFor(kCopy, "Utility;TextEditor;", "Mousepad"), chordOf(kCopy));
+  EXPECT_EQ(chordFor(kSelectAll, "", ""), chordOf(kSelectAll));
+}
+
+}  // namespace
+}  // namespace quillseal

@@ -168,7 +168,7 @@ class Refusals(Story):
 
 class Trouble(Story):
     def test_the_server_is_down(self):
-        self.desktop.write_settings(ServerURL="http://127.0.0.1:9")
+        self.desktop.write_settings(ServerURL="http://127.0.0.1:9", SigningMode="enclave")
         self.desktop.start_agent()
         self.desktop.open_editor(LETTER)
         self.desktop.select_all(LETTER)

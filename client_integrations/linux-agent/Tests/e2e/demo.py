@@ -75,7 +75,12 @@ def run(arguments):
         answer_prompts(desktop)
         prompt = arguments.screenshots / "prompt.png"
         desktop.screenshot(prompt)
-        step("Signing")
+        step("Signing; the server does not know the key yet, so it is registered and asked again")
+        desktop.type(SECRET)
+        desktop.key("Return")
+        desktop.wait_for_output(desktop.server, "/api/register_native 200",
+                                "the key is registered with the server")
+        desktop.wait_for_window(r"Enter the (PIN|passphrase)", "the agent asks once more")
         desktop.type(SECRET)
         desktop.key("Return")
         block = desktop.saved_text(editor, "Check this signature")

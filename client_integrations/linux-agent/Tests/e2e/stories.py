@@ -39,7 +39,9 @@ class Story(unittest.TestCase):
 
     def start(self, **settings):
         url = self.desktop.start_server()
-        self.desktop.write_settings(ServerURL=url, **settings)
+        # With the mode known, the key is registered before it first signs, and the person is asked
+        # once; a test below starts without.
+        self.desktop.write_settings(ServerURL=url, **{"SigningMode": "enclave", **settings})
         self.desktop.start_agent()
 
     def choose_passphrase(self, passphrase=PASSPHRASE):
@@ -80,6 +82,15 @@ class Signing(Story):
         wait_for("a notification tells of the signature",
                  lambda: "✅ Signature Generated!" in self.desktop.shown_notifications())
         self.assertIn("text/html", self.desktop.selection(target="TARGETS"))
+
+    def test_a_key_that_the_server_does_not_know_is_registered_and_asked_for_again(self):
+        self.desktop.write_settings(ServerURL=self.desktop.start_server())
+        self.desktop.start_agent()
+        editor = self.sign_in_editor()
+        self.desktop.wait_for_output(self.desktop.server, "/api/register_native 200",
+                                     "the key is registered")
+        self.enter_passphrase()
+        self.assert_signed(editor)
 
     def test_lock_keys_and_a_long_press_change_nothing(self):
         self.start()
@@ -138,7 +149,7 @@ class Signing(Story):
 class Refusals(Story):
     def setUp(self):
         super().setUp()
-        self.start(SigningMode="enclave")
+        self.start()
 
     def press_on(self, text):
         editor = self.desktop.open_editor(text)
@@ -227,7 +238,7 @@ class Commands(Story):
         self.desktop.write_settings(ServerURL="http://127.0.0.1:9")
         self.desktop.start_agent()
         url = self.desktop.start_server()
-        self.desktop.write_settings(ServerURL=url)
+        self.desktop.write_settings(ServerURL=url, SigningMode="enclave")
         editor = self.sign_in_editor()
         self.assertTrue(self.assert_signed(editor).startswith(url))
 

@@ -48,11 +48,11 @@ desktop::Ticket QtAlerts::show(const desktop::Alert& original, std::function<voi
 desktop::Ticket QtAlerts::ask(const desktop::Question& original,
                               std::function<void(desktop::Answer)> answered) {
   const desktop::Question question = PlatformWording::adapted(original, circumstances_());
-  return MessageDialog::open(questionDialog(question, pictureOf(question.style)), windows_,
-                             [answered = std::move(answered)](bool confirmed) {
-                               answered(confirmed ? desktop::Answer::confirmed
-                                                  : desktop::Answer::cancelled);
-                             });
+  return MessageDialog::open(
+      questionDialog(question, pictureOf(question.style)), windows_,
+      [answered = std::move(answered)](bool confirmed) {
+        answered(confirmed ? desktop::Answer::confirmed : desktop::Answer::cancelled);
+      });
 }
 
 desktop::Ticket QtAlerts::confirm(

@@ -18,8 +18,9 @@ from session import wait_for
 
 LETTER = """Dear Ms Whitcombe,
 
-thank you for the visit on 14 March. The second draft of the lease suits us well; we shall
-sign it when you are back from 京都.
+thank you for the visit on 14 March. The second draft of
+the lease suits us well; we shall sign it when you are
+back from 京都.
 
 Yours, Ada Ferrier"""
 SECRET = "correct horse battery staple"
@@ -34,11 +35,11 @@ def start_software_tpm(desktop):
     the packages."""
     if not shutil.which("swtpm"):
         return "none"
-    # Its socket's path must be short.
+    # The library finds the control socket by adding ".ctrl" to the path of the other.
     folder = pathlib.Path(tempfile.mkdtemp(prefix="tpm-", dir=desktop.folder))
     socket = folder / "s"
     desktop.start("swtpm", "socket", "--tpm2", "--tpmstate", f"dir={folder}",
-                  "--ctrl", f"type=unixio,path={folder}/c", "--server",
+                  "--ctrl", f"type=unixio,path={socket}.ctrl", "--server",
                   f"type=unixio,path={socket}", "--flags", "not-need-init,startup-clear")
     wait_for("the software TPM starts", socket.exists)
     return f"swtpm:path={socket}"
@@ -84,6 +85,8 @@ def run(arguments):
         desktop.type(SECRET)
         desktop.key("Return")
         block = desktop.saved_text(editor, "Check this signature")
+        desktop.run("xdotool", "getactivewindow", "windowsize", "--sync", "900", "560")
+        desktop.key("ctrl+Home")
         picture = arguments.screenshots / "signed.png"
         desktop.screenshot(picture)
         print(f"\n{block}\n")

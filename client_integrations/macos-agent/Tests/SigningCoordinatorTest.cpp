@@ -130,16 +130,18 @@ TEST_F(SigningCoordinatorTest, EndsADemonstrationWithoutPresence) {
 }
 
 TEST_F(SigningCoordinatorTest, SignsInTheBrowserAndPastesElsewhere) {
-  desktop_.selection->html = "<p>x</p>";
+  // Long enough to be on the heap, where a string that is destroyed twice does harm.
+  const std::string html = "<p>x</p><p>long enough</p>";
+  desktop_.selection->html = html;
   signInBrowser();
   EXPECT_THAT(desktop_.userTrace(),
               ElementsAre("press ⌘C", "POST /api/handoff/create",
                           "open https://seal.example/handoff?h=H1#t=" + base64Url(text) +
-                              "&h=PHA-eDwvcD4 with Chrome.app",
+                              "&h=" + base64Url(html) + " with Chrome.app",
                           "POST /api/handoff/poll", "POST /api/handoff/poll", "write clipboard",
                           "press ⌘V", notification));
-  EXPECT_THAT(desktop_.trace, Contains("log: [handoff] fragment 132 chars (text 87, html 8)"));
-  EXPECT_THAT(*desktop_.clipboard.html, HasSubstr("</span><p>x</p><span"));
+  EXPECT_THAT(desktop_.trace, Contains("log: [handoff] fragment 156 chars (text 87, html 26)"));
+  EXPECT_THAT(*desktop_.clipboard.html, HasSubstr("</span>" + html + "<span"));
 }
 
 TEST_F(SigningCoordinatorTest, ReturnsToTheTabTheTextCameFrom) {

@@ -182,13 +182,15 @@ Task<> SigningCoordinator::signSelectedText() {
 
   Delivery delivery{.signatureId = {}, .issued = issued, .scope = content->scope};
   if (mode == SigningMode::handoff) {
-    HandoffContent page{.text = text,
-                        .html = content->htmlContent,
-                        .textDigest = textDigest,
-                        .issued = issued,
-                        .scope = content->scope,
-                        .imageDigest = imageDigest,
-                        .sourceBundleID = {}};
+    // Filled member by member: with HTML in it, GCC 12 destroys what designated initialisers make
+    // here twice.
+    HandoffContent page;
+    page.text = text;
+    page.html = content->htmlContent;
+    page.textDigest = textDigest;
+    page.issued = issued;
+    page.scope = content->scope;
+    page.imageDigest = imageDigest;
     if (content->sourceApplication)
       page.sourceBundleID = content->sourceApplication->bundleIdentifier;
     std::optional<HandoffResult> handoff = co_await signViaBrowser(std::move(page));

@@ -38,7 +38,8 @@ def start_up(desktop):
 def main():
     parser = argparse.ArgumentParser()
     for name in ("quillseal", "server", "held-keys"):
-        parser.add_argument(f"--{name}", required=True, type=pathlib.Path)
+        parser.add_argument(f"--{name}", required=True,
+                            type=lambda path: pathlib.Path(path).resolve())
     parser.add_argument("--seconds", type=int, default=60)
     arguments = parser.parse_args()
     programs = {"quillseal": arguments.quillseal, "quillseal-dev-server": arguments.server,

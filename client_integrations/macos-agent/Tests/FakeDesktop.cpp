@@ -14,6 +14,7 @@ class FakeKey final : public desktop::DeviceKey {
       : desktop_(desktop), prompt_(std::move(prompt)) {}
 
   [[nodiscard]] std::optional<std::vector<std::uint8_t>> publicKey() const override {
+    if (!desktop_.exportsKey) return std::nullopt;
     return std::vector<std::uint8_t>{4, 1, 2};
   }
 
@@ -141,6 +142,7 @@ bool FakeDesktop::isActive(const desktop::RunningApplication& application) const
 void FakeDesktop::activate(const desktop::RunningApplication& application) {
   mayFail("activate");
   trace.push_back("activate " + application.name.value_or("?"));
+  if (ended.find(application.instance) == ended.end()) active = application;
 }
 
 std::optional<desktop::InstalledApplication> FakeDesktop::applicationAt(
@@ -256,6 +258,7 @@ desktop::Ticket FakeDesktop::press(desktop::KeyPress press, std::function<void()
   const bool isCommand = press.modifiers == desktop::Modifiers::command;
   const char* key = press.key == Key::c ? "C" : press.key == Key::a ? "A" : "V";
   trace.push_back(std::string("press ") + (isCommand ? "⌘" : "?") + key);
+  if (press.key == Key::v && active) pastedInto.push_back(active->name.value_or("?"));
   if (press.key == Key::a) isAllSelected_ = true;
   if (press.key == Key::c) {
     const std::optional<Copy> copied = isAllSelected_ ? everything : selection;
@@ -287,6 +290,7 @@ std::unique_ptr<desktop::DeviceKey> FakeDesktop::create() {
 }
 
 std::unique_ptr<desktop::DeviceKey> FakeDesktop::load(std::optional<desktop::Prompt> prompt) const {
+  if (loadFailure) throw Error(*loadFailure);
   if (!hasKey) return nullptr;
   // The agent's view of the store is const; the recorder's is not.
   if (prompt) const_cast<FakeDesktop*>(this)->trace.push_back("prompt: " + prompt->reason);
@@ -298,15 +302,15 @@ void FakeDesktop::remove() noexcept {
   hasKey = false;
 }
 
-desktop::PresenceCapability FakeDesktop::canEvaluate(desktop::PresencePolicy /*policy*/) const {
-  return {.available = true, .reason = {}};
+desktop::PresenceCapability FakeDesktop::canEvaluate(desktop::PresencePolicy policy) const {
+  return policy == desktop::PresencePolicy::biometrics ? biometrics : biometricsOrPassword;
 }
 
-desktop::Ticket FakeDesktop::evaluate(desktop::PresencePolicy /*policy*/,
-                                      const desktop::Prompt& prompt,
+desktop::Ticket FakeDesktop::evaluate(desktop::PresencePolicy policy, const desktop::Prompt& prompt,
                                       std::function<void(Outcome<bool>)> done) {
   mayFail("presence");
-  trace.push_back("presence: " + prompt.reason);
+  const bool isPassword = policy == desktop::PresencePolicy::biometricsOrPassword;
+  trace.push_back((isPassword ? "presence or password: " : "presence: ") + prompt.reason);
   return finish([this, done = std::move(done)] { done(presence); });
 }
 

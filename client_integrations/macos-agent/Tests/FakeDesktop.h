@@ -67,10 +67,15 @@ class FakeDesktop final : public desktop::Alerts,
   desktop::Answer answer = desktop::Answer::confirmed;
   std::optional<desktop::ConfirmationEntry> confirmation;
   Outcome<bool> presence = true;
+  desktop::PresenceCapability biometrics{.available = true, .reason = {}};
+  desktop::PresenceCapability biometricsOrPassword{.available = true, .reason = {}};
+  desktop::Biometry biometryOfMachine = desktop::Biometry::touchId;
 
   // Applications and browsers.
   std::optional<desktop::RunningApplication> front;
   std::optional<desktop::RunningApplication> active;  ///< after the agent has been in front
+  std::set<std::uint64_t> ended;                      ///< instances that have quit
+  std::vector<std::string> pastedInto;                ///< what was active at each Command-V
   std::optional<desktop::InstalledApplication> chrome, defaultBrowser;
   bool browserOpens = true;
   std::deque<Outcome<std::optional<std::string>>> scriptResults;  ///< empty: "true"
@@ -79,10 +84,12 @@ class FakeDesktop final : public desktop::Alerts,
   std::map<std::string, std::string, std::less<>> strings;
   std::set<std::string, std::less<>> flags;
   std::string date = "2026-03-01";
-  bool canHoldKey = true, hasKey = true;
+  bool canHoldKey = true, hasKey = true, exportsKey = true;
   std::optional<Error> createFailure;
   bool cancelsCreation = false;
   std::optional<Error> signFailure;
+  std::optional<Error> loadFailure;
+  std::string keyAdvice;
 
   /// What the server answers at a path, one after the other; the last is repeated.
   struct Answer {
@@ -161,6 +168,7 @@ class FakeDesktop final : public desktop::Alerts,
   std::unique_ptr<desktop::DeviceKey> create() override;
   std::unique_ptr<desktop::DeviceKey> load(std::optional<desktop::Prompt> prompt) const override;
   void remove() noexcept override;
+  std::string advice() const override { return keyAdvice; }
 
   // Pasteboard
   std::int64_t changeCount() const override { return changeCount_; }
@@ -172,7 +180,7 @@ class FakeDesktop final : public desktop::Alerts,
 
   // Presence
   desktop::PresenceCapability canEvaluate(desktop::PresencePolicy policy) const override;
-  desktop::Biometry biometry() const override { return desktop::Biometry::touchId; }
+  desktop::Biometry biometry() const override { return biometryOfMachine; }
   desktop::Ticket evaluate(desktop::PresencePolicy policy, const desktop::Prompt& prompt,
                            std::function<void(Outcome<bool>)> done) override;
 

@@ -1,5 +1,7 @@
 #include <algorithm>
+#include <cstdlib>
 #include <functional>
+#include <iostream>
 #include <memory>
 #include <string>
 #include <vector>
@@ -49,6 +51,15 @@ class SigningCoordinatorTest : public ::testing::Test {
     desktop_.front = desktop_.active = mail;
     desktop_.selection = FakeDesktop::Copy{.text = "\n" + text + "\n", .html = {}};
     desktop_.defaultBrowser = chromeInstalled;
+  }
+
+  /// Whoever wants to read a story as it went asks for it through the environment.
+  void TearDown() override {
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): there is one thread
+    if (std::getenv("QUILLSEAL_PRINT_TRACES") == nullptr) return;
+    std::cout << "── " << ::testing::UnitTest::GetInstance()->current_test_info()->name() << "\n";
+    for (const std::string& line : desktop_.trace)
+      std::cout << "   " << line << "\n";
   }
 
   void sign() {
@@ -347,11 +358,32 @@ TEST_F(SigningCoordinatorTest, BringsTheSourceBackBeforeItPastes) {
   sign();
   EXPECT_THAT(desktop_.userTrace(),
               ::testing::IsSupersetOf({"write clipboard", "activate Mail", "press ⌘V"}));
+  EXPECT_THAT(desktop_.pastedInto, ElementsAre("Mail"));
   desktop_.front = std::nullopt;
   desktop_.trace.clear();
   sign();
   EXPECT_THAT(*desktop_.clipboard.text, HasSubstr("QUILLSEAL · Public Broadcast · "));
   EXPECT_THAT(desktop_.trace, Not(Contains("activate Mail")));
+}
+
+TEST_F(SigningCoordinatorTest, PastesIntoWhatIsInFrontWhenTheSourceHasQuit) {
+  for (const bool hasKey : {true, false}) {
+    desktop_.strings["SigningMode"] = "handoff";
+    desktop_.hasKey = hasKey;
+    desktop_.front = desktop_.active = mail;
+    desktop_.trace.clear();
+    coordinator_->startSigning();
+    const std::string waiting = hasKey ? "POST /api/sign_native" : "POST /api/handoff/poll";
+    while (desktop_.trace.empty() || desktop_.trace.back() != waiting)
+      ASSERT_TRUE(desktop_.loop.step());
+    desktop_.ended = {mail.instance};
+    desktop_.front = desktop_.active = chromeRunning;
+    desktop_.loop.run();
+    EXPECT_EQ(desktop_.trace.back(), notification);
+    EXPECT_THAT(desktop_.trace, Contains("activate Mail"));
+    EXPECT_THAT(*desktop_.clipboard.text, HasSubstr("· Email Message (Mail) · 1 March 2026\n"));
+  }
+  EXPECT_THAT(desktop_.pastedInto, ElementsAre("Google Chrome", "Google Chrome"));
 }
 
 TEST_F(SigningCoordinatorTest, KeepsACopyForDebuggingEvenOfWhatIsRefused) {

@@ -1,0 +1,162 @@
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "FakeDesktop.h"
+#include "Quillseal/Base64.h"
+#include "Quillseal/SecureEnclaveManager.h"
+#include "TaskResult.h"
+
+namespace quillseal {
+namespace {
+
+using ::testing::ElementsAre;
+using testing::FakeDesktop;
+using ::testing::IsEmpty;
+using testing::resultOf;
+using Case = SecureEnclaveError::Case;
+
+const std::string creationFailed = "Could not create the Secure Enclave signing key: ";
+const std::string signingFailed = "Secure Enclave signing failed: ";
+const std::string noEnclave =
+    "This Mac has no Secure Enclave, so content cannot be signed in a way that proves a person "
+    "authorized it.";
+const std::string noKey =
+    "No Secure Enclave signing key is enrolled. Enrol this Mac in Quillseal Settings.";
+const std::string digest = "00ff10a0" + std::string(56, '3');
+
+class SecureEnclaveManagerTest : public ::testing::Test {
+ protected:
+  [[nodiscard]] SecureEnclaveManager::Services services() {
+    return {.keyStore = desktop_, .log = desktop_, .loop = desktop_.loop};
+  }
+
+  Outcome<SecureEnclaveManager::Key> create() {
+    return resultOf(desktop_.loop, SecureEnclaveManager::createKey(services()));
+  }
+
+  Outcome<std::string> sign(const std::string& textHashHex) {
+    SecureEnclaveManager::SigningRequest request{.textHashHex = textHashHex,
+                                                 .prompt = {.reason = "Sign this", .medium = {}}};
+    return resultOf(desktop_.loop, SecureEnclaveManager::sign(services(), std::move(request)));
+  }
+
+  /// What went wrong; empty when nothing did.
+  template <typename T>
+  static std::string failureOf(const Outcome<T>& outcome) {
+    const Error* error = std::get_if<Error>(&outcome);
+    return error ? error->what() : "";
+  }
+
+  FakeDesktop desktop_;
+};
+
+TEST_F(SecureEnclaveManagerTest, TellsWhyNoKeyCouldBeMade) {
+  const struct {
+    std::int64_t code;
+    std::string platform, user;
+  } cases[] = {
+      {-34018, "A required entitlement isn't present.",
+       "this build is not code-signed with an Apple Developer identity, so macOS will not create a "
+       "biometric-protected Secure Enclave key (OSStatus -34018). Quillseal will not sign without "
+       "one, because it could not prove a person was present. A build signed with a Developer ID "
+       "certificate is required."},
+      {-25308, "User interaction is not allowed.", "User interaction is not allowed."},
+      {-25300, "could not build access control", "could not build access control"},
+      {-50, "", "unknown error"},
+  };
+  for (const auto& c : cases) {
+    desktop_.trace.clear();
+    desktop_.createFailure =
+        Error({.domain = "OSStatus", .code = c.code, .description = c.platform});
+    EXPECT_EQ(failureOf(create()), creationFailed + c.user);
+    EXPECT_THAT(desktop_.trace, ElementsAre("log: [sign] key store failed to create the key: "
+                                            "OSStatus " +
+                                            std::to_string(c.code)));
+  }
+  desktop_.canHoldKey = false;
+  EXPECT_EQ(failureOf(create()), noEnclave);
+}
+
+TEST_F(SecureEnclaveManagerTest, AsksForNothingWhenTheDigestIsMalformed) {
+  const std::string digests[] = {"",
+                                 digest.substr(1),
+                                 digest + "0",
+                                 digest + "00",
+                                 "g0" + digest.substr(2),
+                                 "+1" + digest.substr(2),
+                                 digest.substr(0, 62) + " 1",
+                                 digest.substr(0, 62) + "\u00E9"};
+  for (const std::string& malformed : digests)
+    EXPECT_EQ(failureOf(sign(malformed)),
+              signingFailed + "content hash is not a 64-char hex digest")
+        << malformed;
+  EXPECT_THAT(desktop_.trace, IsEmpty());
+}
+
+TEST_F(SecureEnclaveManagerTest, SignsTheBytesOfTheDigestWhateverItsCase) {
+  std::vector<std::uint8_t> bytes(32, 0x33);
+  bytes[0] = 0x00;
+  bytes[1] = 0xFF;
+  bytes[2] = 0x10;
+  bytes[3] = 0xA0;
+  EXPECT_EQ(std::get<std::string>(sign(digest)), base64(bytes));
+  EXPECT_EQ(std::get<std::string>(sign("00FF10a0" + digest.substr(8))), base64(bytes));
+  EXPECT_THAT(desktop_.trace, ElementsAre("prompt: Sign this", "prompt: Sign this"));
+}
+
+TEST_F(SecureEnclaveManagerTest, TellsWhyNothingWasSigned) {
+  desktop_.signFailure =
+      Error({.domain = "LA", .code = -1, .description = "Fingerprints changed."});
+  EXPECT_EQ(failureOf(sign(digest)), signingFailed + "Fingerprints changed.");
+  EXPECT_EQ(desktop_.trace.back(), "log: [sign] key store failed to sign: LA -1");
+  desktop_.signFailure = Error({.domain = "LA", .code = -2, .description = ""});
+  EXPECT_EQ(failureOf(sign(digest)), signingFailed + "user cancelled or biometric failed");
+  desktop_.hasKey = false;
+  EXPECT_EQ(failureOf(sign(digest)), noKey);
+}
+
+TEST_F(SecureEnclaveManagerTest, ExportsThePublicHalf) {
+  const auto exported = [this] {
+    const auto key = std::get<SecureEnclaveManager::Key>(create());
+    return resultOf(desktop_.loop, SecureEnclaveManager::exportPublicKey(services(), key));
+  };
+  EXPECT_EQ(std::get<std::string>(exported()), "BAEC");
+  desktop_.exportsKey = false;
+  EXPECT_EQ(failureOf(exported()), "Could not export the Secure Enclave public key.");
+}
+
+TEST_F(SecureEnclaveManagerTest, DeletesAKeyThatMayBeGoneAlready) {
+  TaskScope scope;
+  for (int i = 0; i < 2; ++i) {
+    scope.start(SecureEnclaveManager::deleteKey(services()));
+    desktop_.loop.run();
+    EXPECT_EQ(failureOf(resultOf(desktop_.loop, SecureEnclaveManager::loadKey(services()))), noKey);
+  }
+  EXPECT_TRUE(scope.isIdle());
+}
+
+TEST_F(SecureEnclaveManagerTest, LeavesACancelledCreationWhatItIs) {
+  desktop_.cancelsCreation = true;
+  const Outcome<SecureEnclaveManager::Key> outcome = create();
+  ASSERT_TRUE(std::holds_alternative<Error>(outcome));
+  EXPECT_EQ(std::get<Error>(outcome).domain(), "");
+  EXPECT_THAT(desktop_.trace, IsEmpty());
+}
+
+TEST(BytesFromHex, ReadsPairsOfDigitsOnly) {
+  using Bytes = std::vector<std::uint8_t>;
+  EXPECT_EQ(SecureEnclaveManager::bytesFromHex(""), Bytes{});
+  EXPECT_EQ(SecureEnclaveManager::bytesFromHex("0aFf"), (Bytes{0x0A, 0xFF}));
+  for (const char* text : {"0", "0aF", "0x", "-1", " 1", "1 ", "g0", "0G"})
+    EXPECT_EQ(SecureEnclaveManager::bytesFromHex(text), std::nullopt) << text;
+}
+
+}  // namespace
+}  // namespace quillseal

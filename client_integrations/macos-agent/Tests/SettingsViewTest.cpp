@@ -1,0 +1,268 @@
+#include <algorithm>
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "FakeDesktop.h"
+#include "Quillseal/BuiltInServer.h"
+#include "Quillseal/SettingsView.h"
+#include "Quillseal/SigningCoordinator.h"
+
+namespace quillseal {
+namespace {
+
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::ElementsAreArray;
+using testing::FakeDesktop;
+using ::testing::Not;
+using ::testing::StartsWith;
+using Build = SettingsView::Build;
+using Lines = std::vector<std::string>;
+
+const std::string enrolled =
+    "green checkmark.seal.fill callout: Enrolled — a signing key exists inside the Secure Enclave.";
+const std::string notSetUp =
+    "orange exclamationmark.triangle.fill callout: Not set up yet. This happens automatically the "
+    "first time you press ⌘⌥⌃H — there is nothing to do here.";
+const std::string attributed = "caption secondary: Signatures are attributed to Ada";
+const std::string anonymous =
+    "caption orange: No verified identity is bound to this Mac. Signatures will be shown to "
+    "readers as \"anonymous human\" — proof that a person signed, but not who. That is not a basis "
+    "for trusting a payment request.";
+const std::string reenrolling =
+    "caption secondary: Re-enrolling creates a NEW key. Signatures already made remain verifiable, "
+    "but this Mac must be re-enrolled on the server.";
+
+std::string lineOf(const desktop::FormText& text) {
+  const char* const fonts[] = {"body", "callout", "caption"};
+  const char* const colours[] = {"", " secondary", " green", " orange"};
+  return std::string(fonts[static_cast<int>(text.font)]) + colours[static_cast<int>(text.colour)] +
+         (text.selectable ? " selectable: " : ": ") + text.text;
+}
+
+std::string lineOf(const desktop::FormStatus& status) {
+  const bool isGreen = status.symbolColour == desktop::TextColour::green;
+  return (isGreen ? "green " : "orange ") + status.symbol + " " + lineOf(status.text);
+}
+
+std::string lineOf(const desktop::FormField& field) {
+  return "field " + field.label + " = " + field.value + (field.masked ? " (masked)" : "");
+}
+
+std::string lineOf(const desktop::FormButton& button) {
+  return "button " + button.label + (button.enabled ? "" : " (disabled)");
+}
+
+class SettingsViewTest : public ::testing::Test {
+ protected:
+  SettingsViewTest() { desktop_.hasKey = false; }
+
+  void open(Build build = Build::packaged) {
+    view_ = std::make_unique<SettingsView>(
+        SettingsView::Services{
+            .defaults = desktop_, .keyStore = desktop_, .log = desktop_, .loop = desktop_.loop},
+        coordinator_, *window_, build);
+    desktop_.loop.run();
+  }
+
+  /// What the window shows of a section.
+  [[nodiscard]] Lines section(const std::string& header) const {
+    Lines lines;
+    for (const desktop::FormSection& section : desktop_.form.sections) {
+      if (section.header != header) continue;
+      for (const auto& row : section.rows)
+        lines.push_back(std::visit([](const auto& shown) { return lineOf(shown); }, row));
+    }
+    return lines;
+  }
+
+  [[nodiscard]] Lines machine() const { return section("This Mac"); }
+
+  /// A copy: acting on a row may replace the form it belongs to.
+  template <typename Row>
+  [[nodiscard]] Row row(const std::string& label) const {
+    for (const desktop::FormSection& section : desktop_.form.sections) {
+      for (const auto& row : section.rows) {
+        const Row* wanted = std::get_if<Row>(&row);
+        if (wanted && wanted->label == label) return *wanted;
+      }
+    }
+    ADD_FAILURE() << "there is no " << label;
+    return {};
+  }
+
+  [[nodiscard]] std::ptrdiff_t count(const std::string& line) const {
+    return std::count(desktop_.trace.begin(), desktop_.trace.end(), line);
+  }
+
+  FakeDesktop desktop_;
+  SigningCoordinator coordinator_{desktop_.services()};
+  std::unique_ptr<desktop::Window> window_ =
+      desktop_.make({.title = "Settings", .width = 440, .height = 200});
+  std::unique_ptr<SettingsView> view_;
+};
+
+TEST_F(SettingsViewTest, OfAPackagedBuildShowsTheServerOnly) {
+  const std::pair<std::string, std::string> cases[] = {
+      {"", std::string(builtInServer::url())},
+      {" \n", std::string(builtInServer::url())},
+      {" https://own.example\n", "https://own.example"},
+  };
+  for (const auto& [setting, shown] : cases) {
+    desktop_.strings["ServerURL"] = setting;
+    open();
+    EXPECT_THAT(section("Server"), ElementsAre("callout secondary selectable: " + shown));
+    EXPECT_EQ(desktop_.form.sections.size(), 2U);
+  }
+  EXPECT_EQ(desktop_.form.width, 460);
+  EXPECT_EQ(desktop_.form.height, 400);
+}
+
+TEST_F(SettingsViewTest, OfADevelopmentBuildStoresWhatIsTyped) {
+  const std::string header = "Server Configuration (development build)";
+  const std::string caption =
+      "caption secondary: This key authorizes the app build. It is not proof of who you are — that "
+      "comes from the Secure Enclave key below.";
+  const std::string url = "Server URL", key = "Native API Key (from server log)";
+  open(Build::development);
+  EXPECT_THAT(section(header),
+              ElementsAre("field " + url + " = " + std::string(builtInServer::url()),
+                          "field " + key + " =  (masked)", caption));
+
+  row<desktop::FormField>(url).changed("http://localhost:1 ");
+  row<desktop::FormField>(key).changed("s3cret");
+  EXPECT_EQ(desktop_.strings["ServerURL"], "http://localhost:1 ") << "while it is being typed";
+  EXPECT_EQ(desktop_.strings["APIKey"], "s3cret");
+  desktop_.loop.run();
+  EXPECT_THAT(section(header), ElementsAre("field " + url + " = http://localhost:1 ",
+                                           "field " + key + " = s3cret (masked)", caption));
+  row<desktop::FormField>(url).changed("");
+  desktop_.loop.run();
+  EXPECT_EQ(section(header).front(), "field " + url + " = ");
+}
+
+TEST_F(SettingsViewTest, TellsHowThisMachineSigns) {
+  const struct {
+    bool hasKey;
+    std::string identity, advice;
+    Lines shown;
+  } cases[] = {
+      {false, "", "", {notSetUp, anonymous, "button Enrol This Mac"}},
+      {false, "Ada", "", {notSetUp, attributed, "button Enrol This Mac"}},
+      {true, "", "", {enrolled, anonymous, "button Re-enrol This Mac", reenrolling}},
+      {true, "Ada", "", {enrolled, attributed, "button Re-enrol This Mac", reenrolling}},
+      {false,
+       "Ada",
+       "Plug it in.",
+       {notSetUp, attributed, "button Enrol This Mac", "caption orange: Plug it in."}},
+  };
+  for (const auto& c : cases) {
+    desktop_.hasKey = c.hasKey;
+    desktop_.strings["BoundIdentity"] = c.identity;
+    desktop_.keyAdvice = c.advice;
+    for (const Build build : {Build::packaged, Build::development}) {
+      open(build);
+      EXPECT_THAT(machine(), ElementsAreArray(c.shown));
+    }
+  }
+}
+
+TEST_F(SettingsViewTest, SaysWhyItCannotTellWhetherThereIsAKey) {
+  desktop_.hasKey = true;
+  desktop_.loadFailure = Error({.domain = "TPM", .code = 1, .description = "No reader."});
+  open();
+  EXPECT_EQ(machine().front(), notSetUp);
+  EXPECT_EQ(desktop_.trace.back(), "log: [sign] the key store cannot be read: No reader.");
+}
+
+TEST_F(SettingsViewTest, EnrolsOnceHoweverOftenTheButtonIsPressed) {
+  open();
+  const auto button = row<desktop::FormButton>("Enrol This Mac");
+  button.pressed();
+  EXPECT_THAT(machine(), ElementsAre(notSetUp, anonymous, "button Enrolling… (disabled)"));
+  button.pressed();
+  row<desktop::FormButton>("Enrolling…").pressed();
+  desktop_.loop.run();
+  EXPECT_EQ(count("create key"), 1);
+  EXPECT_EQ(count("POST /api/register_native"), 1);
+  EXPECT_THAT(desktop_.trace.back(), StartsWith("alert: ✅ This Mac Is Enrolled | "));
+  EXPECT_THAT(machine(),
+              ElementsAre(enrolled, attributed, "button Re-enrol This Mac", reenrolling));
+
+  row<desktop::FormButton>("Re-enrol This Mac").pressed();
+  desktop_.loop.run();
+  EXPECT_EQ(count("create key"), 2);
+}
+
+TEST_F(SettingsViewTest, ShowsWhatAFailedEnrolmentLeft) {
+  const struct {
+    std::string name;
+    bool hasKey;
+    std::function<void(FakeDesktop&)> given;
+    std::string status, label;
+  } cases[] = {
+      {"refused by the server", false,
+       [](FakeDesktop& d) {
+         d.answers["/api/register_native"] = {{503, R"({"error":"Closed."})"}};
+       },
+       notSetUp, "Enrol This Mac"},
+      {"no key made", false,
+       [](FakeDesktop& d) {
+         d.createFailure = Error({.domain = "OSStatus", .code = -34018, .description = ""});
+       },
+       notSetUp, "Enrol This Mac"},
+      {"no enclave", false, [](FakeDesktop& d) { d.canHoldKey = false; }, notSetUp,
+       "Enrol This Mac"},
+      {"called off", true, [](FakeDesktop& d) { d.cancelsCreation = true; }, enrolled,
+       "Re-enrol This Mac"},
+  };
+  for (const auto& c : cases) {
+    FakeDesktop desktop;
+    desktop.hasKey = c.hasKey;
+    c.given(desktop);
+    SigningCoordinator coordinator(desktop.services());
+    const auto window = desktop.make({.title = "Settings", .width = 440, .height = 200});
+    SettingsView view(
+        {.defaults = desktop, .keyStore = desktop, .log = desktop, .loop = desktop.loop},
+        coordinator, *window, Build::packaged);
+    desktop.loop.run();
+    const auto button = std::get<desktop::FormButton>(desktop.form.sections.at(1).rows.at(2));
+    for (int press = 1; press <= 2; ++press) {
+      button.pressed();
+      desktop.loop.run();
+      const auto& rows = desktop.form.sections.at(1).rows;
+      EXPECT_EQ(lineOf(std::get<desktop::FormStatus>(rows.at(0))), c.status) << c.name;
+      EXPECT_EQ(lineOf(std::get<desktop::FormButton>(rows.at(2))), "button " + c.label) << c.name;
+      EXPECT_EQ(std::count_if(desktop.trace.begin(), desktop.trace.end(),
+                              [](const std::string& line) {
+                                return line.rfind("alert: Enrolment Failed | ", 0) == 0;
+                              }),
+                c.hasKey ? 0 : press)
+          << c.name;
+    }
+  }
+}
+
+TEST_F(SettingsViewTest, FollowsTheSettings) {
+  open();
+  desktop_.setString("BoundIdentity", "Ada");
+  desktop_.setString("ServerURL", "https://own.example");
+  desktop_.loop.run();
+  EXPECT_THAT(machine(), Contains(attributed));
+  EXPECT_THAT(section("Server"), Contains("callout secondary selectable: https://own.example"));
+  view_.reset();
+  desktop_.setString("BoundIdentity", "");
+  desktop_.loop.run();
+  EXPECT_THAT(machine(), Not(Contains(anonymous))) << "drawn by a view that is gone";
+}
+
+}  // namespace
+}  // namespace quillseal

@@ -1,0 +1,195 @@
+#include <algorithm>
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "FakeDesktop.h"
+#include "Quillseal/AppDelegate.h"
+#include "Quillseal/BuiltInServer.h"
+#include "Quillseal/HotkeyManager.h"
+#include "Quillseal/MenuBarManager.h"
+#include "Quillseal/SigningCoordinator.h"
+
+namespace quillseal {
+namespace {
+
+using desktop::MenuItem;
+using desktop::Modifiers;
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using testing::FakeDesktop;
+using ::testing::IsEmpty;
+using ::testing::Not;
+using Lines = std::vector<std::string>;
+
+std::string lineOf(const MenuItem& item) {
+  if (item.kind == MenuItem::Kind::separator) return "---";
+  std::string line = item.title;
+  if (item.kind == MenuItem::Kind::label) line += " (label)";
+  if (item.keyEquivalent.empty()) return line;
+  line += " [";
+  const std::pair<Modifiers, const char*> signs[] = {
+      {Modifiers::command, "⌘"}, {Modifiers::option, "⌥"}, {Modifiers::control, "⌃"}};
+  for (const auto& [modifier, sign] : signs)
+    if ((item.keyModifiers | modifier) == item.keyModifiers) line += sign;
+  return line + item.keyEquivalent + "]";
+}
+
+std::ptrdiff_t countIn(const Lines& trace, const std::string& line) {
+  return std::count(trace.begin(), trace.end(), line);
+}
+
+class MenuBarManagerTest : public ::testing::Test {
+ protected:
+  MenuBarManagerTest() { manager_->setupMenu(); }
+
+  [[nodiscard]] Lines lines() const {
+    Lines lines;
+    for (const MenuItem& item : desktop_.menu.items)
+      lines.push_back(lineOf(item));
+    return lines;
+  }
+
+  void choose(const std::string& title) {
+    const auto& items = desktop_.menu.items;
+    const auto item = std::find_if(items.begin(), items.end(),
+                                   [&](const MenuItem& i) { return i.title == title; });
+    ASSERT_NE(item, items.end()) << title;
+    item->action();
+    desktop_.loop.run();
+  }
+
+  FakeDesktop desktop_;
+  SigningCoordinator coordinator_{desktop_.services()};
+  std::unique_ptr<MenuBarManager> manager_ =
+      std::make_unique<MenuBarManager>(desktop_.services(), coordinator_);
+  const std::string builtInLine_ = "Server: " + std::string(builtInServer::url());
+};
+
+TEST_F(MenuBarManagerTest, ShowsItsItemsInOrder) {
+  EXPECT_EQ(desktop_.menu.symbol, "shield.fill");
+  EXPECT_EQ(desktop_.menu.symbolDescription, "Quill Seal");
+  EXPECT_EQ(desktop_.menu.title, " 🛡\uFE0F Quillseal");
+  EXPECT_THAT(lines(), ElementsAre("Sign Selected Text (⌘⌥⌃H) [⌘⌥⌃h]", "---",
+                                   builtInLine_ + " (label)", "Configure Server... [⌘,]", "---",
+                                   "About Quill Seal", "Quit Quill Seal [⌘q]"));
+  for (const MenuItem& item : desktop_.menu.items)
+    EXPECT_EQ(static_cast<bool>(item.action), item.kind == MenuItem::Kind::action) << item.title;
+}
+
+TEST_F(MenuBarManagerTest, FollowsTheServerSetting) {
+  desktop_.setString("ServerURL", "https://own.example");
+  desktop_.loop.run();
+  EXPECT_EQ(lines()[2], "Server: https://own.example (label)");
+  desktop_.strings.erase("ServerURL");
+  desktop_.setString("Another", "setting");
+  desktop_.loop.run();
+  EXPECT_EQ(lines()[2], builtInLine_ + " (label)");
+  manager_.reset();
+  desktop_.setString("ServerURL", "https://late.example");
+  desktop_.loop.run();
+  EXPECT_EQ(lines()[2], builtInLine_ + " (label)") << "changed by a manager that is gone";
+}
+
+TEST_F(MenuBarManagerTest, OpensOneSettingsWindowHoweverOftenItIsAskedFor) {
+  desktop_.trace.clear();
+  choose("Configure Server...");
+  choose("Configure Server...");
+  EXPECT_THAT(desktop_.trace, ElementsAre("window Quill Seal Server Settings", "window to front",
+                                          "window to front"));
+  const std::string header = desktop_.form.sections.at(0).header;
+  EXPECT_EQ(header, "Server") << "this build has a key of its own";
+}
+
+TEST_F(MenuBarManagerTest, DoesWhatItsItemsSay) {
+  desktop_.isPersonTrusting = false;
+  const std::pair<std::string, Lines> cases[] = {
+      {"Sign Selected Text (⌘⌥⌃H)", {"ask for trust"}},
+      {"About Quill Seal", {"activate Quillseal", "about"}},
+      {"Quit Quill Seal", {"terminate"}},
+  };
+  for (const auto& [title, done] : cases) {
+    desktop_.trace.clear();
+    choose(title);
+    EXPECT_EQ(desktop_.trace, done) << title;
+  }
+}
+
+TEST(HotkeyManager, StartsARunPerPressAndStaysInTheBackground) {
+  FakeDesktop desktop;
+  desktop.selection = FakeDesktop::Copy{.text = "Only four words here", .html = {}};
+  SigningCoordinator coordinator(desktop.services());
+  HotkeyManager manager({.alerts = desktop, .hotkey = desktop, .log = desktop}, coordinator);
+  manager.registerHotkey();
+  EXPECT_THAT(desktop.trace, ElementsAre("hotkey ⌘⌥⌃H"));
+  desktop.hotkeyPressed();
+  desktop.hotkeyPressed();
+  desktop.loop.run();
+  const std::string refusal = "alert: Not signed — too short | Only 4 words. Write at least 10.";
+  EXPECT_EQ(countIn(desktop.trace, refusal), 2);
+  EXPECT_THAT(desktop.trace, Not(Contains("activate Quillseal")));
+}
+
+TEST(HotkeyManager, TellsWhenAnotherProgramHoldsTheKeys) {
+  FakeDesktop desktop;
+  desktop.hotkeyFailure = Error({.domain = "x", .code = 1, .description = "Held by another."});
+  SigningCoordinator coordinator(desktop.services());
+  HotkeyManager manager({.alerts = desktop, .hotkey = desktop, .log = desktop}, coordinator);
+  manager.registerHotkey();
+  EXPECT_THAT(desktop.trace,
+              ElementsAre("log: [sign] the hotkey could not be registered: Held by another.",
+                          "notify: Quillseal’s Hotkey Is Not Available | Held by another."));
+}
+
+TEST(AppDelegate, StartsInOrderAndAsksForNothing) {
+  FakeDesktop desktop;
+  desktop.isPersonTrusting = false;
+  AppDelegate delegate(desktop.services());
+  delegate.applicationDidFinishLaunching();
+  desktop.loop.run();
+  EXPECT_THAT(desktop.trace, ElementsAre("become accessory", "menu", "hotkey ⌘⌥⌃H"));
+}
+
+TEST(AppDelegate, StartsWithoutItsHotkey) {
+  FakeDesktop desktop;
+  desktop.hotkeyFailure = Error({.domain = "x", .code = 1, .description = "Held by another."});
+  desktop.isPersonTrusting = false;
+  AppDelegate delegate(desktop.services());
+  delegate.applicationDidFinishLaunching();
+  delegate.menuBarManager().signText();
+  EXPECT_EQ(desktop.trace.back(), "ask for trust");
+}
+
+TEST(AppDelegate, SharesOneCoordinatorBetweenMenuAndHotkey) {
+  FakeDesktop desktop;
+  desktop.hasKey = false;
+  AppDelegate delegate(desktop.services());
+  delegate.applicationDidFinishLaunching();
+  desktop.menu.items.front().action();
+  desktop.hotkeyPressed();
+  desktop.loop.run();
+  EXPECT_EQ(countIn(desktop.trace, "create key"), 1);
+}
+
+TEST(AppDelegate, LeavesNothingBehindWhenTheProgramEnds) {
+  FakeDesktop desktop;
+  {
+    AppDelegate delegate(desktop.services());
+    delegate.applicationDidFinishLaunching();
+    delegate.menuBarManager().configureServer();
+    desktop.hotkeyPressed();
+    desktop.loop.step();
+  }
+  desktop.trace.clear();
+  desktop.setString("ServerURL", "https://late.example");
+  desktop.loop.run();
+  EXPECT_THAT(desktop.trace, ElementsAre("set ServerURL = https://late.example"));
+}
+
+}  // namespace
+}  // namespace quillseal

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <optional>
+#include <utility>
+
+#include "Desktop/Error.h"
+#include "Quillseal/Async.h"
+#include "Quillseal/Task.h"
+#include "VirtualLoop.h"
+
+namespace quillseal::testing {
+
+template <typename T>
+Task<> store(Task<T> task, std::optional<Outcome<T>>& outcome) {
+  try {
+    T result = co_await std::move(task);
+    outcome.emplace(std::move(result));
+  } catch (const Error& error) {
+    outcome.emplace(error);
+  }
+}
+
+/// Runs `task` to its end; gives its result or the Error it threw. REQUIRES: it ends.
+template <typename T>
+Outcome<T> resultOf(VirtualLoop& loop, Task<T> task) {
+  std::optional<Outcome<T>> outcome;
+  TaskScope scope;
+  scope.start(store(std::move(task), outcome));
+  loop.run();
+  return std::move(outcome).value();
+}
+
+}  // namespace quillseal::testing

@@ -234,10 +234,6 @@ TEST_F(SigningCoordinatorTest, StopsEarlyAndTellsWhy) {
        "pressing ⌘⌥⌃H."},
       {"too short", [](FakeDesktop& d) { d.selection->text = "Only four words here"; },
        "alert: Not signed — too short | Only 4 words. Write at least 10."},
-      {"calendar", [](FakeDesktop& d) { d.date = "๒๕๖๙-๐๓-๐๑"; },
-       "alert: Signing Error | Today’s date reads “๒๕๖๙-๐๓-๐๑” on this computer, from which no "
-       "expiry can be computed. Set the calendar to Gregorian in the system’s settings and try "
-       "again."},
       {"cancelled confirmation", [](FakeDesktop& d) { d.flags = {"ConfirmBeforeSigning"}; },
        "confirm: Sign this content? [Sign with Touch ID] [Cancel], preset Email Message (Apple "
        "Mail)"},
@@ -485,6 +481,17 @@ TEST_F(SigningCoordinatorTest, TwoFirstRunsMakeOneKey) {
   EXPECT_EQ(std::count(desktop_.trace.begin(), desktop_.trace.end(), notification), 2);
 }
 
+TEST_F(SigningCoordinatorTest, AFirstRunLeavesAKeyThatIsBeingEnrolledAlone) {
+  desktop_.hasKey = false;
+  TaskScope settings;
+  settings.start(coordinator_->enrolDevice());
+  coordinator_->startSigning();
+  desktop_.loop.run();
+  EXPECT_EQ(std::count(desktop_.trace.begin(), desktop_.trace.end(), "create key"), 1);
+  EXPECT_EQ(std::count(desktop_.trace.begin(), desktop_.trace.end(), "POST /api/register_native"),
+            1);
+}
+
 /// Everything a run can do, in one: enrolment, recovery, dialogs, the way back to the tab.
 void makeEventful(FakeDesktop& desktop, int kind) {
   desktop.front = desktop.active = chromeRunning;
@@ -516,6 +523,31 @@ TEST(SigningRuns, EndWhereTheyWaitWhenTheAgentQuits) {
       EXPECT_EQ(desktop.trace, before) << "kind " << kind << ", step " << steps;
     }
   }
+}
+
+TEST(SigningRuns, DoNotCopyOverEachOthersBlock) {
+  int paired = 0;
+  for (int steps = 0; steps < 200; ++steps) {
+    FakeDesktop desktop;
+    desktop.front = chromeRunning;
+    desktop.active = mail;  // so that the paste waits for the application to come to the front
+    desktop.selection = FakeDesktop::Copy{.text = text, .html = {}};
+    SigningCoordinator coordinator(desktop.services());
+    coordinator.startSigning();
+    for (int i = 0; i < steps; ++i)
+      static_cast<void>(desktop.loop.step());
+    coordinator.startSigning();
+    desktop.loop.run();
+    bool isBlockOnClipboard = false;
+    for (const std::string& line : desktop.trace) {
+      if (line == "write clipboard") isBlockOnClipboard = true;
+      if (line == "press ⌘C") isBlockOnClipboard = false;
+      if (line != "press ⌘V") continue;
+      EXPECT_TRUE(isBlockOnClipboard) << "second press after " << steps << " steps";
+      ++paired;
+    }
+  }
+  EXPECT_EQ(paired, 400);
 }
 
 TEST(SigningRuns, TellTheUserWhicheverCallFails) {

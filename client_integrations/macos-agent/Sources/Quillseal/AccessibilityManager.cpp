@@ -86,7 +86,11 @@ Task<std::optional<CapturedContent>> captureSelectedContent(Services services) {
   std::optional<desktop::RunningApplication> source = frontApplication(services.applications);
   SigningScope::AppScope detected = detectAppScope(source);
 
+  const std::int64_t changeCount = services.pasteboard.changeCount();
   std::optional<Captured> captured = co_await copySelection(services);
+  // Whoever selected a secret did not mean to sign the whole document instead.
+  if (services.pasteboard.changeCount() != changeCount && services.pasteboard.isConcealed())
+    co_return std::nullopt;
   if (!captured) {
     services.log.write("[capture] no selection; selecting all");
     co_await press(services.keys, {.key = Key::a, .modifiers = Modifiers::command});

@@ -1,6 +1,8 @@
 #include "Quillseal/ClipboardManager.h"
 
 #include <chrono>
+#include <optional>
+#include <string>
 
 #include "Quillseal/Async.h"
 
@@ -8,6 +10,15 @@ namespace quillseal::ClipboardManager {
 namespace {
 
 constexpr std::chrono::milliseconds activationTime{350};
+
+Task<> paste(Services services, const std::optional<desktop::RunningApplication>& source) {
+  if (source && !services.applications.isActive(*source)) {
+    services.applications.activate(*source);
+    co_await sleep(services.loop, activationTime);
+  }
+  const desktop::KeyPress press{.key = desktop::Key::v, .modifiers = desktop::Modifiers::command};
+  co_await AccessibilityManager::press(services.keys, press);
+}
 
 }  // namespace
 
@@ -25,13 +36,19 @@ Task<> injectSignedContent(Services services, Injection injection, const Capture
         "[inject] signed block left on the clipboard; source app is the signing browser");
     co_return;
   }
-  const auto& source = content.sourceApplication;
-  if (source && !services.applications.isActive(*source)) {
-    services.applications.activate(*source);
-    co_await sleep(services.loop, activationTime);
+  std::string obstacle;
+  try {
+    co_await paste(services, content.sourceApplication);
+    co_return;
+  } catch (const Error& error) {
+    obstacle = error.what();
   }
-  const desktop::KeyPress paste{.key = desktop::Key::v, .modifiers = desktop::Modifiers::command};
-  co_await AccessibilityManager::press(services.keys, paste);
+  throw Error(
+      {.domain = "Quillseal",
+       .code = 0,
+       .description = "The text is signed and the signed block is on your clipboard, but it "
+                      "could not be pasted. Paste it yourself. (" +
+                      obstacle + ")"});
 }
 
 }  // namespace quillseal::ClipboardManager

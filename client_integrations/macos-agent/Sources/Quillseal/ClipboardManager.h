@@ -36,8 +36,8 @@ struct Injection {
 
 /// Replaces the clipboard by the signed block and, if asked, brings the source application to the
 /// front and pastes there. When that application has ended, the paste goes to the one in front.
-/// Throws Error, with nothing written and nothing pressed, when the identifier is not safe to build
-/// a link from or the clipboard cannot be taken.
+/// Throws Error when the clipboard cannot be taken (nothing is written or pressed then), or when it
+/// holds the block but the paste failed. REQUIRES: SignedBlock::isSafeIdentifier(signatureId).
 [[nodiscard]] Task<> injectSignedContent(Services services, Injection injection,
                                          const CapturedContent& content);
 

@@ -48,11 +48,11 @@ bool isAuthority(std::string_view authority) {
 Fragment fragmentFor(std::string_view text, std::optional<std::string_view> html) {
   Fragment fragment{.text = "t=" + base64Url(text), .omittedHtmlLength = {}};
   if (!html || html->empty()) return fragment;
-  const std::string encoded = base64Url(*html);
-  if (encoded.size() > longestEncodedHtml) {
-    fragment.omittedHtmlLength = encoded.size();
+  const std::size_t encodedLength = (4 * html->size() + 2) / 3;  // base64 without padding
+  if (encodedLength > longestEncodedHtml) {
+    fragment.omittedHtmlLength = encodedLength;
   } else {
-    fragment.text.append("&h=").append(encoded);
+    fragment.text.append("&h=").append(base64Url(*html));
   }
   return fragment;
 }

@@ -27,7 +27,7 @@ constexpr const char* commitment = "statement";
 constexpr auto pollInterval = 2s;
 constexpr auto longestWaitForBrowser = 570s;
 constexpr auto tabSwitchTime = 500ms;
-constexpr auto keyMakingPollInterval = 100ms;
+constexpr auto turnPollInterval = 50ms;
 constexpr const char* preferredBrowser = "/Applications/Google Chrome.app";
 constexpr const char* debugCapturePath = "/Library/Logs/Quillseal-signed-text.txt";
 
@@ -122,8 +122,10 @@ Task<> SigningCoordinator::signSelectedText() {
                                                        .log = desktop_.log,
                                                        .loop = desktop_.loop,
                                                        .pasteboard = desktop_.pasteboard};
+  Turn captureTurn = co_await turnFor(isUsingClipboard_);
   const std::optional<CapturedContent> content =
       co_await AccessibilityManager::captureSelectedContent(captureServices);
+  captureTurn.reset();
   if (!content) {
     co_await showAlert("No Text Found",
                        "Please type or highlight some text in Outlook (or any app) before pressing "
@@ -169,12 +171,7 @@ Task<> SigningCoordinator::signSelectedText() {
   const std::string expires =
       CryptoManager::expiryDateFor({.issued = issued, .wordCount = wordCount});
   const std::string nonce = CryptoManager::randomHex(nonceBytes);
-  if (expires.empty()) {
-    throw quillsealError("Today’s date reads “" + issued +
-                         "” on this computer, from which no expiry can be computed. Set the "
-                         "calendar to Gregorian in the system’s settings and try again.");
-  }
-  if (nonce.empty()) {
+  if (nonce.empty() && mode != SigningMode::handoff) {
     throw quillsealError(
         "The system’s random source failed, so nothing was signed. Restart the computer and try "
         "again.");
@@ -229,6 +226,7 @@ Task<> SigningCoordinator::signSelectedText() {
                                      .commitment = commitment,
                                      .nonce = nonce};
     delivery.signatureId = co_await serverClient_.signDemo(std::move(record));
+    requireSafe(delivery.signatureId);
     desktop_.log.write("[demo] simulated signature " + delivery.signatureId +
                        " — not evidence of anything");
   }
@@ -237,7 +235,13 @@ Task<> SigningCoordinator::signSelectedText() {
 }
 
 Task<> SigningCoordinator::deliver(Delivery delivery, const CapturedContent& content) {
+  Turn turn = co_await turnFor(isUsingClipboard_);
   co_await inject(std::move(delivery), content, ClipboardManager::AutoPaste::yes);
+  turn.reset();
+  notifyOfSuccess();
+}
+
+void SigningCoordinator::notifyOfSuccess() {
   try {
     desktop_.alerts.notify(
         {.title = "✅ Signature Generated!", .body = "Signed content copied and injected."});
@@ -246,6 +250,7 @@ Task<> SigningCoordinator::deliver(Delivery delivery, const CapturedContent& con
   }
 }
 
+/// For who has the turn at the clipboard.
 Task<> SigningCoordinator::inject(Delivery delivery, const CapturedContent& content,
                                   ClipboardManager::AutoPaste autoPaste) {
   const ClipboardManager::Services services{.applications = desktop_.applications,
@@ -304,19 +309,25 @@ Task<SigningMode> SigningCoordinator::resolveSigningMode() {
   if (desktop_.defaults.boolean(setting::demoSigning)) co_return SigningMode::demo;
   const bool hasKey = co_await SecureEnclaveManager::hasKey(keyServices());
   if (hasKey) co_return SigningMode::enclave;
-  const Turn turn = co_await turnToMakeKey();
-  // Another run may have decided while this one waited.
+  const Turn turn = co_await turnFor(isMakingKey_);
+  // Another task may have made a key, or a run have decided, while this one waited.
+  const bool hasKeyNow = co_await SecureEnclaveManager::hasKey(keyServices());
+  if (hasKeyNow) co_return SigningMode::enclave;
   if (const auto remembered = desktop_.defaults.string(setting::signingMode))
     co_return *remembered == handoffWord ? SigningMode::handoff : SigningMode::enclave;
 
+  bool isMade = false;
   try {
     co_await SecureEnclaveManager::createKey(keyServices());
-    desktop_.defaults.setString(setting::signingMode, enclaveWord);
-    co_return SigningMode::enclave;
+    isMade = true;
   } catch (const Cancelled&) {
     throw;
-  } catch (const std::exception& error) {
+  } catch (const Error& error) {
     desktop_.log.write(std::string("[sign] signing in the browser from now on: ") + error.what());
+  }
+  if (isMade) {
+    desktop_.defaults.setString(setting::signingMode, enclaveWord);
+    co_return SigningMode::enclave;
   }
   co_await SecureEnclaveManager::deleteKey(keyServices());
   desktop_.defaults.setString(setting::signingMode, handoffWord);
@@ -324,7 +335,7 @@ Task<SigningMode> SigningCoordinator::resolveSigningMode() {
 }
 
 Task<bool> SigningCoordinator::ensureEnrolled() {
-  Turn turn = co_await turnToMakeKey();
+  Turn turn = co_await turnFor(isMakingKey_);
   const bool hasKey = co_await SecureEnclaveManager::hasKey(keyServices());
   if (hasKey) co_return true;
   if (serverClient_.effectiveAPIKey().empty()) {
@@ -353,7 +364,7 @@ Task<bool> SigningCoordinator::ensureEnrolled() {
 Task<> SigningCoordinator::enrolDevice() {
   std::optional<std::string> failure;
   try {
-    const Turn turn = co_await turnToMakeKey();
+    const Turn turn = co_await turnFor(isMakingKey_);
     co_await makeAndRegisterKey();
   } catch (const Cancelled&) {
     co_return;
@@ -375,13 +386,15 @@ Task<> SigningCoordinator::enrolDevice() {
   co_await showAlertOrLog("✅ This Mac Is Enrolled", std::move(body));
 }
 
-/// Two tasks that made a key side by side could leave one on this machine and the other's public
-/// half on the server, so each waits for its turn, and has it until it lets go.
-Task<SigningCoordinator::Turn> SigningCoordinator::turnToMakeKey() {
-  while (isMakingKey_)
-    co_await sleep(desktop_.loop, keyMakingPollInterval);
-  isMakingKey_ = true;
-  co_return Turn(&isMakingKey_);
+/// Some steps must not be interrupted by another task's. Two that made a key side by side could
+/// leave one on this machine and the other's public half on the server; a copy between writing the
+/// block and pasting it would have the copy pasted. Each waits for its turn, and has it until it
+/// lets go.
+Task<SigningCoordinator::Turn> SigningCoordinator::turnFor(bool& isTaken) {
+  while (isTaken)
+    co_await sleep(desktop_.loop, turnPollInterval);
+  isTaken = true;
+  co_return Turn(&isTaken);
 }
 
 /// For who has the turn. Leaves no key behind when it fails, so that the next run starts clean.
@@ -449,7 +462,9 @@ Task<std::string> SigningCoordinator::signWithRecovery(Signable signable) {
     if (!isDeviceNotEnrolled(error.what())) throw;
   }
   if (!signatureId) {
+    Turn turn = co_await turnFor(isMakingKey_);
     co_await registerDevice();
+    turn.reset();
     signatureId = co_await signOnce(std::move(signable));
   }
   co_return *std::move(signatureId);
@@ -549,7 +564,8 @@ Task<std::optional<SigningCoordinator::HandoffResult>> SigningCoordinator::signV
   // It goes into a script.
   if (result.sourceTabID && !SignedBlock::isSafeIdentifier(*result.sourceTabID))
     result.sourceTabID.reset();
-  result.signingBrowserBundleID = co_await openInSigningBrowser(url);
+  const BrowserOpening opening = openInSigningBrowser(url);
+  result.signingBrowserBundleID = opening.bundleIdentifier;
 
   const auto deadline = desktop_.loop.now() + longestWaitForBrowser;
   while (desktop_.loop.now() < deadline) {
@@ -576,20 +592,26 @@ Task<std::optional<SigningCoordinator::HandoffResult>> SigningCoordinator::signV
   co_return std::nullopt;
 }
 
-Task<std::optional<std::string>> SigningCoordinator::openInSigningBrowser(std::string url) {
+SigningCoordinator::BrowserOpening SigningCoordinator::openInSigningBrowser(
+    const std::string& url) {
   std::optional<desktop::InstalledApplication> browser =
       desktop_.applications.applicationAt(preferredBrowser);
   if (!browser) browser = desktop_.applications.defaultApplicationFor(url);
   if (!browser) {
     desktop_.applications.open(url);
-    co_return std::nullopt;
+    return {};
   }
-  const auto failure = co_await completionOf<std::optional<Error>>(
-      [this, &url, &browser](std::function<void(std::optional<Error>)> done) {
-        return desktop_.applications.open(url, *browser, std::move(done));
+  // A browser that takes its time to start must not hold up the polling.
+  desktop::Ticket ticket =
+      desktop_.applications.open(url, *browser, [this, url](const std::optional<Error>& failure) {
+        if (!failure) return;
+        try {
+          desktop_.applications.open(url);
+        } catch (const Error& error) {
+          desktop_.log.write(std::string("[handoff] no browser could be opened: ") + error.what());
+        }
       });
-  if (failure) desktop_.applications.open(url);
-  co_return browser->bundleIdentifier;
+  return {.bundleIdentifier = browser->bundleIdentifier, .ticket = std::move(ticket)};
 }
 
 Task<> SigningCoordinator::deliverFromBrowser(Delivery delivery, HandoffResult handoff,
@@ -598,6 +620,7 @@ Task<> SigningCoordinator::deliverFromBrowser(Delivery delivery, HandoffResult h
   const bool isSigningBrowser = source && source->bundleIdentifier &&
                                 source->bundleIdentifier == handoff.signingBrowserBundleID;
   if (isSigningBrowser) {
+    Turn turn = co_await turnFor(isUsingClipboard_);
     BrowserTabReturn::SigningTab tab{.bundleID = handoff.signingBrowserBundleID,
                                      .urlContains = std::move(handoff.handoffMarker),
                                      .tabID = std::move(handoff.sourceTabID)};
@@ -605,6 +628,7 @@ Task<> SigningCoordinator::deliverFromBrowser(Delivery delivery, HandoffResult h
         co_await BrowserTabReturn::closeSigningTabAndRestore(desktop_.browserTabs, std::move(tab));
     if (!isRestored) {
       co_await inject(std::move(delivery), content, ClipboardManager::AutoPaste::no);
+      turn.reset();
       const std::string name = isSet(source->name) ? *source->name : "your browser";
       co_await showAlert(
           "Signed — Paste It Into Your Message",
@@ -616,6 +640,10 @@ Task<> SigningCoordinator::deliverFromBrowser(Delivery delivery, HandoffResult h
     }
     co_await sleep(desktop_.loop, tabSwitchTime);
     desktop_.log.write("[tabreturn] signing tab closed, original tab restored");
+    co_await inject(std::move(delivery), content, ClipboardManager::AutoPaste::yes);
+    turn.reset();
+    notifyOfSuccess();
+    co_return;
   }
   co_await deliver(std::move(delivery), content);
 }

@@ -25,8 +25,8 @@ enum class SigningMode {
 /// Turns a press of the hotkey into a signed block on the clipboard. Main thread; there is one.
 ///
 /// Several runs may be under way, for a second press while the first waits for the user: each keeps
-/// to itself what it captured and which tab it came from. Only the making of a key is done by one
-/// task at a time. Destroying the coordinator ends all runs where they wait.
+/// to itself what it captured and which tab it came from. Making a key and using the clipboard are
+/// done by one task at a time. Destroying the coordinator ends all runs where they wait.
 class SigningCoordinator {
  public:
   /// The services outlive the coordinator.
@@ -111,9 +111,15 @@ class SigningCoordinator {
   /// the user has then been told.
   [[nodiscard]] Task<std::optional<HandoffResult>> signViaBrowser(HandoffContent content);
 
-  /// Opens `url` in the preferred browser, or else in the default one, and gives that browser's
-  /// bundle identifier.
-  [[nodiscard]] Task<std::optional<std::string>> openInSigningBrowser(std::string url);
+  /// A browser that is being asked to open a page.
+  struct BrowserOpening {
+    std::optional<std::string> bundleIdentifier;
+    desktop::Ticket ticket;  ///< kept for the other way of opening, if this one fails
+  };
+
+  /// Opens `url` in the preferred browser, or else in the default one; without waiting, and as the
+  /// desktop sees fit when that fails.
+  [[nodiscard]] BrowserOpening openInSigningBrowser(const std::string& url);
 
  private:
   struct Delivery {
@@ -128,6 +134,7 @@ class SigningCoordinator {
                             const CapturedContent& content);
   Task<> inject(Delivery delivery, const CapturedContent& content,
                 ClipboardManager::AutoPaste autoPaste);
+  void notifyOfSuccess();
   Task<> showAlert(std::string title, std::string body);
   Task<> showAlertOrLog(std::string title, std::string body);
   Task<bool> asksToSignAnyway(std::string warning);
@@ -137,7 +144,7 @@ class SigningCoordinator {
   };
   using Turn = std::unique_ptr<bool, EndTurn>;
 
-  Task<Turn> turnToMakeKey();
+  [[nodiscard]] Task<Turn> turnFor(bool& isTaken);
   Task<> makeAndRegisterKey();
   Task<> registerDevice();
 
@@ -148,7 +155,8 @@ class SigningCoordinator {
   desktop::Desktop desktop_;
   ServerClient serverClient_;
   bool isMakingKey_ = false;
-  TaskScope runs_;  ///< last: the tasks use all of the above
+  bool isUsingClipboard_ = false;  ///< and the keyboard: capturing or pasting
+  TaskScope runs_;                 ///< last: the tasks use all of the above
 };
 
 }  // namespace quillseal

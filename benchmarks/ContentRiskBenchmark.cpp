@@ -40,11 +40,12 @@ constexpr std::string_view triggerWords =
     "prize winner claim tax office police officer lawyer beneficiary transaction confidential "
     "deposit loan interest approved regards thanks director payroll salary change account number";
 
+// clang-format off
 constexpr std::string_view cjkAndEmoji =
-    "会議は火曜日に延期されました。来週の予定を確認してください😀👍🏽。我们明天上午在图书馆见面"
-    "，"
-    "请带上第三章的草稿👩🏽‍💻🇯🇵！다음 주 화요일에 도서관에서 만나요 🎉 그때 다시 "
-    "이야기합시다. ";
+    "会議は火曜日に延期されました。来週の予定を確認してください😀👍🏽。"
+    "我们明天上午在图书馆见面，请带上第三章的草稿👩🏽‍💻🇯🇵！"
+    "다음 주 화요일에 도서관에서 만나요 🎉 그때 다시 이야기합시다. ";
+// clang-format on
 
 std::vector<std::string_view> split(std::string_view words) {
   std::vector<std::string_view> list;

@@ -289,12 +289,9 @@ TEST_F(PageTest, ComparesWhatAReaderPastes) {
   const std::vector<Paste> pastes{
       {text, "good"},
       {"  Don’t pay €1,250\n“twice” – ask\t<Ada> first.\u200b", "good"},
-      {"『" + text +
-           "』\n\n────────────────────\n🛡️ QUILLSEAL · 『x』 · "
-           "1 "
-           "January "
-           "2026",
-       "good"},
+      // clang-format off
+      {"『" + text + "』\n\n────────────────────\n🛡️ QUILLSEAL · 『x』 · 1 January 2026", "good"},
+      // clang-format on
       {"> 『" + text + "』 QUILLSEAL", "good"},
       {"Don't pay €1,260 \"twice\" - ask <Ada> first.", "bad"},
       {"『Don't pay』", "bad"},

@@ -6,7 +6,7 @@ namespace quillseal::ContentRules {
 namespace {
 
 // How the patterns are written:
-//  - One alternative a line. A rule names an idea, so its lines are the usual wordings of that idea,
+//  - One alternative a line. A rule names an idea, so its lines are that idea's usual wordings,
 //    the English ones first, and each line joins an intent with its object: a noun alone would hit
 //    honest mail.
 //  - `[^.!?]{0,40}` is a gap that stays within one sentence. It may cross a line break, as mail is

@@ -23,7 +23,6 @@ using desktop::Modifiers;
 using ::testing::Contains;
 using ::testing::ElementsAre;
 using testing::FakeDesktop;
-using ::testing::IsEmpty;
 using ::testing::Not;
 using Lines = std::vector<std::string>;
 

@@ -11,8 +11,13 @@ set(CMAKE_CXX_FLAGS_DEV "-O2 -g1")
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
-  set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+  # Paths are relative in what is compiled, so that all clones on a machine share the cache.
+  set(CMAKE_CXX_COMPILER_LAUNCHER
+    ${CMAKE_COMMAND} -E env CCACHE_NOHASHDIR=1 CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} ${CCACHE_PROGRAM})
 endif()
+
+# Debug information and assertions name files relative to the project, whoever builds it.
+add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=)
 
 add_library(quillseal_options INTERFACE)
 target_compile_options(quillseal_options INTERFACE

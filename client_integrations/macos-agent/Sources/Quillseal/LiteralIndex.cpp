@@ -99,6 +99,7 @@ void LiteralIndex::finish(const CharacterClasses& classes) {
   };
   insert(insert, 0, 0);
   trie_ = {};
+  if (nodes.size() > largestTarget) throw PatternError("too many literals");
 
   const auto after = [&](std::uint32_t node, std::uint8_t symbol) {
     for (;; node = nodes[node].failure) {
@@ -138,7 +139,7 @@ void LiteralIndex::finish(const CharacterClasses& classes) {
       sparse_.push_back({.firstEdge = static_cast<std::uint32_t>(edges_.size()),
                          .failure = numbers[source.failure]});
       for (const auto& [symbol, child] : source.children)
-        edges_.push_back({.symbol = symbol, .target = numbers[child]});
+        edges_.push_back({.symbol = symbol, .target = numbers[child] & largestTarget});
     }
     if (source.values.empty()) continue;
     if (hitCount_++ == 0) firstHit_ = numbers[node];

@@ -63,9 +63,10 @@ class LiteralIndex {
     std::uint32_t failure;
   };
   struct Edge {
-    std::uint32_t symbol;
-    std::uint32_t target;
+    std::uint32_t symbol : 8;
+    std::uint32_t target : 24;
   };
+  static constexpr std::uint32_t largestTarget = 0xFFFFFF;
   static constexpr std::uint8_t several = 0xFF;
 
   [[nodiscard]] State after(State state, std::uint8_t symbol) const {

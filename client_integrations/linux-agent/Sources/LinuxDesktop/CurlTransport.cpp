@@ -121,6 +121,8 @@ class Exchange {
     set(CURLOPT_FORBID_REUSE, 1L);
     set(CURLOPT_TIMEOUT_MS, milliseconds);
     set(CURLOPT_CONNECTTIMEOUT_MS, milliseconds);
+    // A request that ends during a name lookup would wait, on this thread, for the lookup to end.
+    set(CURLOPT_QUICK_EXIT, 1L);
     set(CURLOPT_SSL_VERIFYPEER, 1L);
     set(CURLOPT_SSL_VERIFYHOST, 2L);
     if (!certificateAuthorities.empty()) set(CURLOPT_CAINFO, certificateAuthorities.c_str());

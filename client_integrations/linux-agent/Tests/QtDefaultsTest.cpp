@@ -58,6 +58,9 @@ TEST_F(QtDefaultsTest, KeepsValuesForTheirOwnerOnly) {
                                         " two  blanks ",
                                         "a, b; c = d",
                                         "\"quoted\" \\ back",
+                                        "a;b\\",
+                                        "Smith, X\\",
+                                        "\\\"",
                                         "@Invalid()",
                                         "é 日本 🛡️",
                                         "line\nbreak\ttab",
@@ -93,6 +96,9 @@ TEST_F(QtDefaultsTest, ReadsWhatPeopleWrite) {
   EXPECT_FALSE(defaults.boolean("QuillsealDebugCapture"));
   EXPECT_FALSE(defaults.boolean("NoSuchKey"));
   EXPECT_EQ(fs::status(path_).permissions() & fs::perms::others_all, fs::perms::none);
+
+  overwrite(path_, "\xEF\xBB\xBF[General]\r\nServerURL=https://b.example\r\n");
+  EXPECT_EQ(defaults.string("ServerURL"), "https://b.example");
 }
 
 TEST_F(QtDefaultsTest, NoticesEveryonesChanges) {
@@ -110,8 +116,12 @@ TEST_F(QtDefaultsTest, NoticesEveryonesChanges) {
   EXPECT_EQ(defaults.string("ServerURL"), "https://b.example");
   EXPECT_TRUE(eventually([&] { return changes == 2; }));
   overwrite(path_.string() + ".new", "[General]\nServerURL=https://three.example\n");
+  fs::permissions(path_.string() + ".new", fs::perms::group_read | fs::perms::others_read,
+                  fs::perm_options::add);
   fs::rename(path_.string() + ".new", path_);
   EXPECT_TRUE(eventually([&] { return changes == 3; }));
+  EXPECT_EQ(fs::status(path_).permissions(), fs::perms::owner_read | fs::perms::owner_write)
+      << "the new file too is its owner's only";
   overwrite(path_, "[General]\nServerURL=https://d.example\n");
   EXPECT_TRUE(eventually([&] { return changes == 4; }));
 

@@ -25,20 +25,40 @@ QString fromUtf8(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+/// Whether every quotation ends. A backslash takes the next byte's meaning, in quotes and outside.
+bool isBalanced(const QByteArray& line) {
+  bool isQuoted = false;
+  for (qsizetype i = 0; i < line.size(); ++i) {
+    if (line[i] == '\\') {
+      ++i;
+    } else if (line[i] == '"') {
+      isQuoted = !isQuoted;
+    }
+  }
+  return !isQuoted;
+}
+
 bool isIniLine(const QByteArray& untrimmed) {
   const QByteArray line = untrimmed.trimmed();
   if (line.isEmpty() || line.startsWith(';') || line.startsWith('#')) return true;
   if (line.startsWith('[')) return line.endsWith(']');
-  const auto quotes = line.count('"') - line.count("\\\"");
-  return line.indexOf('=') > 0 && quotes % 2 == 0;
+  return line.indexOf('=') > 0 && isBalanced(line);
 }
 
 /// Whether the bytes are lines of "key=value", "[section]", comments and blanks. QSettings itself
 /// passes over anything else, and drops it when it writes.
-bool isIni(const QByteArray& bytes) {
+bool isIni(QByteArray bytes) {
   if (bytes.size() > largestFile || bytes.contains('\0')) return false;
+  if (bytes.startsWith("\xEF\xBB\xBF")) bytes.remove(0, 3);  // a byte-order mark
   const std::string text = bytes.toStdString();
   return unicode::wellFormed(text) == text && std::ranges::all_of(bytes.split('\n'), isIniLine);
+}
+
+void keepFromOthers(const QString& path) {
+  constexpr QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
+                                        QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
+  const QFileInfo file(path);
+  if (file.isFile() && (file.permissions() & others) != 0) QFile::setPermissions(path, ownerOnly);
 }
 
 /// A value as text. An unquoted comma makes a list of what was meant as one text.
@@ -53,11 +73,6 @@ QtDefaults::QtDefaults(Options options)
     : options_(std::move(options)), path_(fromUtf8(options_.path)) {
   const QFileInfo file(path_);
   QDir().mkpath(file.absolutePath());
-  constexpr QFile::Permissions others =
-      QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
-  if (file.exists() && (file.permissions() & others) != 0) {
-    QFile::setPermissions(path_, ownerOnly);
-  }
   seen_ = read();
   watcher_.addPath(file.absolutePath());
   watchFile();
@@ -137,6 +152,8 @@ QtDefaults::Values QtDefaults::read() const {
 }
 
 QtDefaults::FileState QtDefaults::prepareFile() const {
+  // Each time, since an editor may have put a new file in its place.
+  keepFromOthers(path_);
   QByteArray before;
   for (bool isSecondLook = false;; isSecondLook = true) {
     QFile file(path_);

@@ -43,6 +43,9 @@ TEST(SystemWallClock, NamesTheZoneAsUsersExpect) {
            Case{std::nullopt, "", " Asia/Kolkata \n# note", 19800, "Asia/Kolkata"},
            Case{std::nullopt, "", "", 0, "UTC"},
            Case{std::nullopt, "", "", 7200, "Etc/GMT-2"},
+           // Set to what is in force without it.
+           Case{":/etc/localtime", berlinLink, "", 3600, "Europe/Berlin"},
+           Case{"/etc/localtime", "", "Asia/Kolkata\n", 19800, "Asia/Kolkata"},
        }) {
     EXPECT_EQ(
         timeZoneIdentifier(

@@ -13,6 +13,7 @@ namespace quillseal {
 namespace {
 
 constexpr std::string_view zoneFolder = "zoneinfo/";
+constexpr std::string_view systemZone = "/etc/localtime";
 constexpr const char* zoneRoot = "/usr/share/zoneinfo";
 
 std::tm localTime() {
@@ -56,9 +57,9 @@ bool isInstalledZone(const std::string& name) {
 }  // namespace
 
 std::string timeZoneIdentifier(const TimeZoneSources& sources) {
-  if (sources.variable) {
-    std::string_view value = *sources.variable;
-    if (value.starts_with(':')) value.remove_prefix(1);
+  std::string_view value = sources.variable ? std::string_view(*sources.variable) : systemZone;
+  if (value.starts_with(':')) value.remove_prefix(1);
+  if (value != systemZone) {
     std::string name = zoneNameOf(value);
     if (!name.empty() && sources.isInstalled(name)) return name;
     return fixedZone(sources.secondsFromGmt);
@@ -85,7 +86,7 @@ desktop::TimeZone SystemWallClock::timeZone() const {
   // NOLINTNEXTLINE(concurrency-mt-unsafe): nothing in this program writes the environment
   if (const char* variable = std::getenv("TZ")) sources.variable = variable;
   std::error_code ignored;
-  sources.localtime = std::filesystem::read_symlink("/etc/localtime", ignored);
+  sources.localtime = std::filesystem::read_symlink(systemZone, ignored);
   std::ifstream file("/etc/timezone");
   std::getline(file, sources.timezoneFile);
   sources.secondsFromGmt = static_cast<int>(localTime().tm_gmtoff);

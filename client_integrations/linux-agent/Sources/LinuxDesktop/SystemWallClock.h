@@ -25,8 +25,8 @@ struct TimeZoneSources {
   std::function<bool(const std::string&)> isInstalled;  ///< whether a zone of that name is
 };
 
-/// The IANA name of the zone in force. TZ decides where it is set, whether or not it names a zone;
-/// else the link does, else the file. Where none of them names a zone, a fixed one of the same
+/// The IANA name of the zone in force. TZ decides where it is set, whether or not it names a zone,
+/// unless it only points to /etc/localtime; else the link does, else the file. Where none of them names a zone, a fixed one of the same
 /// offset stands for it, or "UTC" where there is none.
 [[nodiscard]] std::string timeZoneIdentifier(const TimeZoneSources& sources);
 

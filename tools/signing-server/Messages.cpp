@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <optional>
 
+#include "Pages.h"
 #include "Quillseal/CryptoManager.h"
 #include "Quillseal/UnicodeText.h"
 #include "SignatureCheck.h"
@@ -157,11 +158,14 @@ DeviceProof readDeviceProof(const JsonObject& body) {
 }
 
 HandoffRequest readHandoffRequest(const JsonObject& body) {
-  return {.textDigest = digest(body, "text_digest"),
-          .snapshotDigest = digestOrNothing(body, "snapshot_digest"),
-          .imageDigest = digest(body, "image_digest"),
-          .issued = date(body, "issued"),
-          .scope = shortText(body, "scope")};
+  HandoffRequest request{.textDigest = digest(body, "text_digest"),
+                         .snapshotDigest = digestOrNothing(body, "snapshot_digest"),
+                         .imageDigest = digest(body, "image_digest"),
+                         .issued = date(body, "issued"),
+                         .scope = shortText(body, "scope")};
+  if (!isDate(browserExpiry(request.issued)))
+    refuse("issued", "a day that leaves one to expire on");
+  return request;
 }
 
 std::string readTextDigest(const JsonObject& body) {

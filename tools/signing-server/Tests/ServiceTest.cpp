@@ -283,6 +283,27 @@ TEST_F(ServiceTest, AHandoffIsSignedInTheBrowser) {
   EXPECT_THAT(verifyPageOf(answer), HasSubstr("8 January 2026"));
 }
 
+TEST_F(ServiceTest, AHandoffNeedsADayToExpireOn) {
+  struct Case {
+    const char* issued;
+    int status;
+  };
+  for (const Case& each :
+       {Case{"9999-12-24", 200}, Case{"9999-12-25", 400}, Case{"9999-12-31", 400}}) {
+    const Answer answer =
+        post("/api/handoff/create", {{"text_digest", CryptoManager::sha256Hex("text")},
+                                     {"snapshot_digest", ""},
+                                     {"issued", each.issued},
+                                     {"scope", ""},
+                                     {"image_digest", CryptoManager::sha256Hex("images")},
+                                     {"api_key", apiKey}});
+    EXPECT_EQ(answer.status, each.status) << each.issued;
+    if (each.status == 400) {
+      EXPECT_THAT(answer.body.value("error", ""), HasSubstr("“issued”"));
+    }
+  }
+}
+
 TEST_F(ServiceTest, AHandoffEndsUnsigned) {
   const std::string declined = openHandoff();
   EXPECT_EQ(post("/handoff/decline", {{"handoff_id", declined}}).status, 200);

@@ -10,6 +10,7 @@ namespace quillseal::devserver {
 namespace {
 
 constexpr int schemaVersion = 1;
+constexpr int applicationId = 0x516C5372;  // tells this server's files from others: "QlSr"
 constexpr int busyTimeoutMilliseconds = 5000;
 
 constexpr const char* schema = R"sql(
@@ -66,6 +67,20 @@ void insertSignature(SQLite::Database& database, const Signature& signature) {
   insert.exec();
 }
 
+/// Whether nothing was ever written to the database. Throws RegistryError when what is there is not
+/// this server's. Only reads.
+bool isNew(SQLite::Database& database) {
+  const auto number = [&](const char* query) { return database.execAndGet(query).getInt(); };
+  const int application = number("PRAGMA application_id");
+  const int version = number("PRAGMA user_version");
+  if (application == 0 && version == 0 && number("SELECT count(*) FROM sqlite_schema") == 0) {
+    return true;
+  }
+  if (application != applicationId) throw RegistryError("belongs to another program");
+  if (version != schemaVersion) throw RegistryError("was made by another version of this server");
+  return false;
+}
+
 /// True when it was open.
 bool settle(SQLite::Database& database, const std::string& handoffId, HandoffState state,
             const std::string& signatureId) {
@@ -82,17 +97,17 @@ class Registry::Database {
  public:
   explicit Database(const std::string& path)
       : connection_(path, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE, busyTimeoutMilliseconds) {
+    // Before the first change to the file, which may be anybody's.
+    (void)isNew(connection_);
     // The write-ahead log keeps readers going during a write; it is synced at every commit, since
     // an answered signature must outlive a power cut.
     connection_.exec("PRAGMA journal_mode = WAL");
     connection_.exec("PRAGMA synchronous = FULL");
     SQLite::Transaction transaction(connection_, SQLite::TransactionBehavior::IMMEDIATE);
-    const int version = connection_.execAndGet("PRAGMA user_version").getInt();
-    if (version == 0) {
+    if (isNew(connection_)) {
       connection_.exec(schema);
+      connection_.exec("PRAGMA application_id = " + std::to_string(applicationId));
       connection_.exec("PRAGMA user_version = " + std::to_string(schemaVersion));
-    } else if (version != schemaVersion) {
-      throw RegistryError("was made by another version of this server");
     }
     transaction.commit();
   }

@@ -1,9 +1,12 @@
 #include "HttpServer.h"
 
 #include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <exception>
+#include <mutex>
 #include <string_view>
+#include <thread>
 #include <utility>
 
 #include <httplib.h>
@@ -66,7 +69,36 @@ std::string reasonOf(std::exception_ptr failure) {
 
 }  // namespace
 
-class HttpServer::Listener : public httplib::Server {};
+class HttpServer::Listener : public httplib::Server {
+ public:
+  bool serve() {
+    {
+      const std::scoped_lock lock(mutex_);
+      if (isStopped_) return true;
+      isServing_ = true;
+    }
+    const bool isSound = listen_after_bind();
+    const std::scoped_lock lock(mutex_);
+    isServing_ = false;
+    return isSound || isStopped_;
+  }
+
+  void end() {
+    {
+      const std::scoped_lock lock(mutex_);
+      if (std::exchange(isStopped_, true)) return;
+    }
+    // The library forgets a stop that comes before it says that it runs.
+    while (isServing_ && !is_running())
+      std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    stop();
+  }
+
+ private:
+  std::mutex mutex_;
+  bool isStopped_ = false;
+  std::atomic<bool> isServing_ = false;
+};
 
 HttpServer::HttpServer(Service& service, const std::function<void(const std::string&)>& log)
     : listener_(std::make_unique<Listener>()) {
@@ -113,12 +145,12 @@ std::optional<int> HttpServer::bind(const Address& address) {
                                                              : std::nullopt;
 }
 
-void HttpServer::serve() {
-  listener_->listen_after_bind();
+bool HttpServer::serve() {
+  return listener_->serve();
 }
 
 void HttpServer::stop() {
-  listener_->stop();
+  listener_->end();
 }
 
 }  // namespace quillseal::devserver

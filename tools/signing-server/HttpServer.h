@@ -28,10 +28,12 @@ class HttpServer {
   /// Takes the address; returns its port, or nothing when it cannot be had.
   [[nodiscard]] std::optional<int> bind(const Address& address);
 
-  /// Serves until `stop`. REQUIRES: `bind` succeeded.
-  void serve();
+  /// Serves until `stop`; returns at once after it. False when the socket failed. Once only.
+  /// REQUIRES: `bind` succeeded.
+  [[nodiscard]] bool serve();
 
-  /// Ends `serve`, from any thread, once the requests under way are answered.
+  /// Ends `serve`, from any thread and also before it begins, once the requests under way are
+  /// answered.
   void stop();
 
  private:

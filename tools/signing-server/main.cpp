@@ -8,13 +8,16 @@
 #include <mutex>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <thread>
 
 #include <CLI/CLI.hpp>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include "HttpServer.h"
 #include "Quillseal/CryptoManager.h"
+#include "Quillseal/UnicodeText.h"
 #include "Registry.h"
 #include "Service.h"
 
@@ -49,6 +52,24 @@ std::filesystem::path stateFolder() {
   return base / "quillseal-dev-server";
 }
 
+std::string withoutLastSlashes(std::string url) {
+  url.erase(url.find_last_not_of('/') + 1);
+  return url;
+}
+
+/// What is wrong with an origin; empty when nothing is.
+std::string originFault(std::string_view url) {
+  constexpr std::string_view hostCharacters =
+      "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789.-:[]";
+  for (const std::string_view scheme : {"https://", "http://"}) {
+    if (!url.starts_with(scheme)) continue;
+    const std::string_view host = url.substr(scheme.size());
+    if (!host.empty() && host.find_first_not_of(hostCharacters) == std::string_view::npos)
+      return "";
+  }
+  return "must be http:// or https:// and a host";
+}
+
 /// The options, or the status to exit with.
 std::optional<int> read(Options& options, int argc, char** argv) {
   CLI::App app(
@@ -65,14 +86,19 @@ std::optional<int> read(Options& options, int argc, char** argv) {
   app.add_option("--database", options.database, "SQLite file that holds the records")
       ->default_str((stateFolder() / "registry.sqlite").string());
   app.add_option("--identity", options.identity, "name bound to every device that enrols")
-      ->type_name("NAME");
+      ->type_name("NAME")
+      ->check([](const std::string& name) -> std::string {
+        return quillseal::unicode::wellFormed(name) == name ? "" : "must be UTF-8";
+      });
   app.add_option("--api-key", options.apiKey,
                  "key that agents must send; the one built into the\n"
                  "agent when left out");
   app.add_option("--origin", options.origin,
                  "origin of links to this server when it stands behind\n"
                  "a proxy, such as https://seal.example.org")
-      ->type_name("URL");
+      ->type_name("URL")
+      ->transform(withoutLastSlashes)
+      ->check(originFault);
   app.add_flag("--verbose", options.verbose, "print one line for each request");
   app.set_version_flag("--version", "quillseal-dev-server " QUILLSEAL_VERSION);
   try {
@@ -113,12 +139,18 @@ int serve(const Options& options) {
   const bool isIpv6 = options.listen.find(':') != std::string::npos;
   std::cout << "quillseal-dev-server: listening on http://"
             << (isIpv6 ? '[' + options.listen + ']' : options.listen) << ':' << *port << std::endl;
-  std::thread serving([&] { server.serve(); });
+  bool isSound = false;
+  std::thread serving([&] {
+    isSound = server.serve();
+    if (!isSound) kill(getpid(), SIGTERM);  // wakes the wait below
+  });
   int signal = 0;
   sigwait(&endings, &signal);
   server.stop();
   serving.join();
-  return EXIT_SUCCESS;
+  if (isSound) return EXIT_SUCCESS;
+  std::cerr << "quillseal-dev-server: the listening socket failed.\n";
+  return failure;
 }
 
 }  // namespace

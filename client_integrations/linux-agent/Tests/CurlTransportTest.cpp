@@ -428,7 +428,7 @@ class DevServerTest : public CurlTransportTest {
     if (!port) throw std::runtime_error("no port to listen on");
     defaults_.values = {{"ServerURL", "http://127.0.0.1:" + std::to_string(*port)},
                         {"APIKey", apiKey}};
-    thread_ = std::thread([this] { server_.serve(); });
+    thread_ = std::thread([this] { EXPECT_TRUE(server_.serve()); });
   }
   ~DevServerTest() override {
     server_.stop();

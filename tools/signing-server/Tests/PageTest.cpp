@@ -139,7 +139,7 @@ class PageTest : public ::testing::Test {
     profile_ = pattern;
     const std::optional<int> port = server_.bind({.host = host, .port = 0});
     if (!port) throw std::runtime_error("no port to listen on");
-    serving_.emplace(server_, [this] { server_.serve(); });
+    serving_.emplace(server_, [this] { EXPECT_TRUE(server_.serve()); });
     front_.emplace(*port);
     front_->files["/test/help.js"] = helpers;
   }

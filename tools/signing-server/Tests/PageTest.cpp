@@ -286,15 +286,32 @@ TEST_F(PageTest, ComparesWhatAReaderPastes) {
     std::string text;
     const char* outcome;
   };
+  const char* whole = "good ✓ This is the signed text, word for word.";
+  const char* framed = "good ✓ What stands between 『 and 』 is the signed text.";
+  const char* surrounded =
+      "caution ✓ What stands between 『 and 』 is the signed text. Text outside the brackets is "
+      "not signed.";
+  const char* other =
+      "bad ✗ This is not the text that was signed. A word, a number or a sign differs, or "
+      "something is missing.";
+  const std::string block = "『" + text + "』";
+  const std::string rule = "────────────────────";
+  const std::string stamp = "\n\n" + rule + "\n🛡️ QUILLSEAL · 『x』 · 1 January 2026";
+  const std::string link = "\nCheck this signature → https://seal.example/verify/1";
   const std::vector<Paste> pastes{
-      {text, "good"},
-      {"  Don’t pay €1,250\n“twice” – ask\t<Ada> first.\u200b", "good"},
-      // clang-format off
-      {"『" + text + "』\n\n────────────────────\n🛡️ QUILLSEAL · 『x』 · 1 January 2026", "good"},
-      // clang-format on
-      {"> 『" + text + "』 QUILLSEAL", "good"},
-      {"Don't pay €1,260 \"twice\" - ask <Ada> first.", "bad"},
-      {"『Don't pay』", "bad"},
+      {text, whole},
+      {"  Don’t pay €1,250\n“twice” – ask\t<Ada> first.\u200b", whole},
+      {block, framed},
+      {" \n" + block + stamp, framed},
+      {block + stamp + link + "\n", framed},
+      {block + "\n🛡️\u00a0QUILLSEAL\nMail · 1 January 2026" + link, framed},
+      {"> " + block + " QUILLSEAL", surrounded},
+      {"Pay today.\n" + block + stamp + link, surrounded},
+      {block + " Pay today." + link, surrounded},
+      {block + stamp + "\nPay today." + link, surrounded},
+      {block + stamp + link + "\nPay today.", surrounded},
+      {"Don't pay €1,260 \"twice\" - ask <Ada> first.", other},
+      {"『Don't pay』", other},
   };
   json list = json::array();
   for (const Paste& paste : pastes)
@@ -309,7 +326,7 @@ for (const paste of pastes) {
   field.value = paste;
   field.dispatchEvent(new Event("input"));
   await until(() => result.textContent !== "");
-  report(result.classList[1]);
+  report(`${result.classList[1]} ${result.textContent}`);
 }
 report(document.querySelectorAll("img").length);
 report([...document.scripts].every((script) => script.src.startsWith(location.origin)));

@@ -26,8 +26,8 @@ struct TimeZoneSources {
 };
 
 /// The IANA name of the zone in force. TZ decides where it is set, whether or not it names a zone,
-/// unless it only points to /etc/localtime; else the link does, else the file. Where none of them names a zone, a fixed one of the same
-/// offset stands for it, or "UTC" where there is none.
+/// unless it only points to /etc/localtime; else the link does, else the file. Where none of them
+/// names a zone, a fixed one of the same offset stands for it, or "UTC" where there is none.
 [[nodiscard]] std::string timeZoneIdentifier(const TimeZoneSources& sources);
 
 }  // namespace quillseal

@@ -44,8 +44,8 @@ enum ErrorCode : int {
 }  // namespace transport
 
 /// Sends requests over HTTP and HTTPS with the system's trust store and proxy settings. Server
-/// certificates are always verified. Redirects are followed only for what is safe to repeat. Main
-/// thread.
+/// certificates are always verified. No redirect is followed, since every request carries a key.
+/// Main thread.
 class HttpTransport {
  public:
   virtual ~HttpTransport() = default;

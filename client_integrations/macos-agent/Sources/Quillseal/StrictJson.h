@@ -20,7 +20,7 @@ class JsonError : public std::runtime_error {
 /// One JSON object from an untrusted sender, read member by member with its types checked.
 ///
 /// Only strings, integers, booleans and nulls of the object itself are kept; what is nested deeper
-/// is skipped while it is parsed, so that no nesting costs memory or stack.
+/// is skipped while it is parsed, so that nesting costs hardly any memory and no stack.
 class JsonObject {
  public:
   /// Throws JsonError unless `text` is exactly one JSON object (RFC 8259) in well-formed UTF-8 in

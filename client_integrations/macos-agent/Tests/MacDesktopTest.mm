@@ -7,7 +7,10 @@
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #import <Foundation/Foundation.h>
 
@@ -22,6 +25,7 @@ namespace quillseal::mac {
 namespace {
 
 using std::chrono_literals::operator""ms;
+using std::chrono_literals::operator""s;
 
 /// Runs the main run loop until `done`; false when that takes more than ten seconds.
 bool runUntil(const bool& done) {
@@ -144,14 +148,15 @@ TEST(MacMachineIdentityTest, StaysTheSame) {
 
 class MacHttpTransportTest : public testing::Test {
  protected:
-  std::int64_t errorOf(const std::string& url) {
+  std::int64_t errorOf(const std::string& url, std::chrono::seconds timeout = 60s) {
     std::optional<Outcome<desktop::HttpResponse>> answer;
     bool done = false;
-    const desktop::Ticket ticket = transport_.send({.url = url, .headers = {}, .body = "{}"},
-                                                   [&](Outcome<desktop::HttpResponse> outcome) {
-                                                     answer = std::move(outcome);
-                                                     done = true;
-                                                   });
+    const desktop::Ticket ticket =
+        transport_.send({.url = url, .headers = {}, .body = "{}", .timeout = timeout},
+                        [&](Outcome<desktop::HttpResponse> outcome) {
+                          answer = std::move(outcome);
+                          done = true;
+                        });
     if (!runUntil(done) || !std::holds_alternative<Error>(*answer)) return 0;
     EXPECT_EQ(std::get<Error>(*answer).domain(), desktop::transport::errorDomain);
     return std::get<Error>(*answer).code();
@@ -164,6 +169,20 @@ class MacHttpTransportTest : public testing::Test {
 TEST_F(MacHttpTransportTest, TellsWhyNothingWasSent) {
   EXPECT_EQ(errorOf("https://seal example/api"), desktop::transport::badUrl);
   EXPECT_EQ(errorOf("http://127.0.0.1:1/api"), desktop::transport::cannotConnectToHost);
+}
+
+TEST_F(MacHttpTransportTest, GivesUpOnASilentServerAfterThePostsOwnLimit) {
+  const int listener = ::socket(AF_INET, SOCK_STREAM, 0);
+  sockaddr_in address{};
+  address.sin_family = AF_INET;
+  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  socklen_t size = sizeof address;
+  ASSERT_EQ(::bind(listener, reinterpret_cast<const sockaddr*>(&address), size), 0);
+  ASSERT_EQ(::getsockname(listener, reinterpret_cast<sockaddr*>(&address), &size), 0);
+  ASSERT_EQ(::listen(listener, 1), 0);  // the system connects, and nobody ever answers
+  const std::string url = "http://127.0.0.1:" + std::to_string(ntohs(address.sin_port)) + "/api";
+  EXPECT_EQ(errorOf(url, 1s), desktop::transport::timedOut);
+  ::close(listener);
 }
 
 }  // namespace

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <chrono>
+#include <map>
+
 #include "Desktop/HttpTransport.h"
 #include "Desktop/MainLoop.h"
 
@@ -22,8 +25,11 @@ class MacHttpTransport final : public desktop::HttpTransport {
   [[nodiscard]] Error error(desktop::transport::ErrorCode code) const override;
 
  private:
+  /// The time limit of an exchange as a whole is a property of its session.
+  [[nodiscard]] NSURLSession* sessionFor(std::chrono::seconds limit);
+
   desktop::MainLoop& loop_;
-  NSURLSession* session_;
+  std::map<std::chrono::seconds, NSURLSession*> sessions_;
 };
 
 }  // namespace quillseal::mac

@@ -1,6 +1,8 @@
 #import "MacDesktop/MacHttpTransport.h"
 
-#include <memory>
+#include <mutex>
+#include <unordered_map>
+#include <utility>
 
 #import <Foundation/Foundation.h>
 
@@ -13,26 +15,34 @@ namespace {
 /// More than any answer of the server; what goes on longer is a fault or an attack.
 constexpr NSUInteger maximumAnswer = 8U * 1024 * 1024;
 
+/// An answer under way.
+struct Exchange {
+  void (^finished)(NSData*, NSURLResponse*, NSError*);
+  NSMutableData* body = [NSMutableData data];
+  NSError* failure = nil;
+};
+
 }  // namespace
 
-/// Collects one answer. Foundation calls it on a private queue, one call at a time.
-@interface QSExchange : NSObject <NSURLSessionDataDelegate>
-- (instancetype)initWithFinished:(void (^)(NSData*, NSURLResponse*, NSError*))finished;
+/// Collects the answers of one session. Foundation calls it on a private queue, one call at a time.
+@interface QSExchanges : NSObject <NSURLSessionDataDelegate>
+/// Starts `task`. `finished` is called once, on that queue.
+- (void)start:(NSURLSessionDataTask*)task
+     finished:(void (^)(NSData*, NSURLResponse*, NSError*))finished;
 @end
 
-@implementation QSExchange {
-  NSMutableData* _body;
-  NSError* _failure;
-  void (^_finished)(NSData*, NSURLResponse*, NSError*);
+@implementation QSExchanges {
+  std::mutex _mutex;
+  std::unordered_map<NSUInteger, Exchange> _exchanges;  ///< by task identifier
 }
 
-- (instancetype)initWithFinished:(void (^)(NSData*, NSURLResponse*, NSError*))finished {
-  self = [super init];
-  if (self != nil) {
-    _body = [NSMutableData data];
-    _finished = [finished copy];
+- (void)start:(NSURLSessionDataTask*)task
+     finished:(void (^)(NSData*, NSURLResponse*, NSError*))finished {
+  {
+    const std::lock_guard lock(_mutex);
+    _exchanges.emplace(task.taskIdentifier, Exchange{.finished = [finished copy]});
   }
-  return self;
+  [task resume];
 }
 
 - (void)URLSession:(NSURLSession*)__unused session
@@ -48,21 +58,30 @@ constexpr NSUInteger maximumAnswer = 8U * 1024 * 1024;
 - (void)URLSession:(NSURLSession*)__unused session
           dataTask:(NSURLSessionDataTask*)task
     didReceiveData:(NSData*)data {
-  if (_failure != nil) return;
-  if (data.length > maximumAnswer - _body.length) {
-    _failure = [NSError errorWithDomain:NSURLErrorDomain
-                                   code:NSURLErrorDataLengthExceedsMaximum
-                               userInfo:nil];
+  const std::lock_guard lock(_mutex);
+  const auto found = _exchanges.find(task.taskIdentifier);
+  if (found == _exchanges.end() || found->second.failure != nil) return;
+  Exchange& exchange = found->second;
+  if (data.length > maximumAnswer - exchange.body.length) {
+    exchange.failure = [NSError errorWithDomain:NSURLErrorDomain
+                                           code:NSURLErrorDataLengthExceedsMaximum
+                                       userInfo:nil];
     [task cancel];
     return;
   }
-  [_body appendData:data];
+  [exchange.body appendData:data];
 }
 
 - (void)URLSession:(NSURLSession*)__unused session
                     task:(NSURLSessionTask*)task
     didCompleteWithError:(NSError*)error {
-  _finished(_body, task.response, _failure != nil ? _failure : error);
+  std::unique_lock lock(_mutex);
+  const auto ended = _exchanges.extract(task.taskIdentifier);
+  lock.unlock();
+  if (ended.empty()) return;
+  const Exchange& exchange = ended.mapped();
+  exchange.finished(exchange.body, task.response,
+                    exchange.failure != nil ? exchange.failure : error);
 }
 
 @end
@@ -101,12 +120,27 @@ Answer answerFrom(NSData* body, NSURLResponse* response, NSError* error) {
 
 }  // namespace
 
-MacHttpTransport::MacHttpTransport(desktop::MainLoop& loop)
-    : loop_(loop),
-      session_([NSURLSession
-          sessionWithConfiguration:NSURLSessionConfiguration.defaultSessionConfiguration]) {}
+MacHttpTransport::MacHttpTransport(desktop::MainLoop& loop) : loop_(loop) {}
 
-MacHttpTransport::~MacHttpTransport() { [session_ invalidateAndCancel]; }
+MacHttpTransport::~MacHttpTransport() {
+  for (const auto& [limit, session] : sessions_) {
+    [session invalidateAndCancel];
+  }
+}
+
+NSURLSession* MacHttpTransport::sessionFor(std::chrono::seconds limit) {
+  auto& session = sessions_[limit];
+  if (session == nil) {
+    NSURLSessionConfiguration* configuration =
+        NSURLSessionConfiguration.defaultSessionConfiguration;
+    // The request's own time-out starts again with every byte that arrives.
+    configuration.timeoutIntervalForResource = static_cast<NSTimeInterval>(limit.count());
+    session = [NSURLSession sessionWithConfiguration:configuration
+                                            delegate:[[QSExchanges alloc] init]
+                                       delegateQueue:nil];
+  }
+  return session;
+}
 
 desktop::Ticket MacHttpTransport::send(const desktop::HttpPost& post,
                                        std::function<void(Answer)> done) {
@@ -117,27 +151,14 @@ desktop::Ticket MacHttpTransport::send(const desktop::HttpPost& post,
     return {};
   }
   desktop::MainLoop* loop = &loop_;
-  // The deadline is of use as long as the request is pending, and each of the two ends the other.
-  const auto deadline = std::make_shared<desktop::Ticket>();
-  NSURLSessionDataTask* task = [session_ dataTaskWithRequest:requestFrom(post, url)];
-  task.delegate = [[QSExchange alloc]
-      initWithFinished:^(NSData* body, NSURLResponse* response, NSError* error) {
-        const Answer answer = answerFrom(body, response, error);
-        loop->post([completion, deadline, answer] {
-          *deadline = {};
-          completion(answer);
-        });
-      }];
-  // The request's own time-out starts again with every byte that arrives.
-  *deadline = loop->after(post.timeout, [completion, task] {
-    [task cancel];
-    completion(transportError(desktop::transport::timedOut));
-  });
-  [task resume];
-  return completion.ticket([deadline, task] {
-    *deadline = {};
-    [task cancel];
-  });
+  NSURLSession* session = sessionFor(post.timeout);
+  NSURLSessionDataTask* task = [session dataTaskWithRequest:requestFrom(post, url)];
+  [(QSExchanges*)session.delegate start:task
+                               finished:^(NSData* body, NSURLResponse* response, NSError* error) {
+                                 const Answer answer = answerFrom(body, response, error);
+                                 loop->post([completion, answer] { completion(answer); });
+                               }];
+  return completion.ticket([task] { [task cancel]; });
 }
 
 Error MacHttpTransport::error(desktop::transport::ErrorCode code) const {

@@ -1,7 +1,8 @@
 #pragma once
 
+#include <string>
+
 #include "Desktop/KeyEvents.h"
-#include "Desktop/Log.h"
 #include "Desktop/MainLoop.h"
 
 namespace quillseal::mac {
@@ -9,20 +10,16 @@ namespace quillseal::mac {
 /// Keyboard events of Core Graphics, posted where the hardware's own arrive.
 class MacKeyEvents final : public desktop::KeyEvents {
  public:
-  struct Services {
-    desktop::MainLoop& loop;
-    desktop::Log& log;
-  };
-
-  /// The services outlive this object and its presses.
-  explicit MacKeyEvents(Services services) : services_(services) {}
+  /// `loop` outlives this object and its presses.
+  explicit MacKeyEvents(desktop::MainLoop& loop) : loop_(loop) {}
 
   [[nodiscard]] bool isTrusted() const override;
   void askForTrust() override;
+  [[nodiscard]] std::string obstacle() const override;
   [[nodiscard]] desktop::Ticket press(desktop::KeyPress press, std::function<void()> done) override;
 
  private:
-  Services services_;
+  desktop::MainLoop& loop_;
 };
 
 }  // namespace quillseal::mac

@@ -33,45 +33,24 @@ void post(desktop::KeyPress press) {
   }
 }
 
-/// While a password field has the keyboard, or a program forgot to give Secure Input back, the
-/// system swallows posted keys; the holder's process id is the one clue for the user.
-void logSecureInput(desktop::Log& log) {
-  if (!::IsSecureEventInputEnabled()) return;
-  std::string line = "[capture] secure input is on, key presses may not arrive";
-  const IoHandle root(::IORegistryGetRootEntry(kIOMainPortDefault));
-  const CfHandle<CFTypeRef> property(::IORegistryEntryCreateCFProperty(
-      root.get(), CFSTR("IOConsoleUsers"), kCFAllocatorDefault, 0));
-  id users = (__bridge id)property.get();
-  if ([users isKindOfClass:NSArray.class]) {
-    for (NSDictionary* user in users) {
-      id holder =
-          [user isKindOfClass:NSDictionary.class] ? user[@"kCGSSessionSecureInputPID"] : nil;
-      if (![holder isKindOfClass:NSNumber.class]) continue;
-      line += "; held by process " + std::to_string([holder intValue]);
-    }
-  }
-  log.write(line);
-}
-
 /// A press that waits for the user's fingers to leave the modifiers of the hotkey. The events carry
 /// their own flags, but some applications look at the keyboard itself.
 class WaitingPress : public std::enable_shared_from_this<WaitingPress> {
  public:
-  WaitingPress(MacKeyEvents::Services services, desktop::KeyPress press, Completion<> completion)
-      : services_(services),
+  WaitingPress(desktop::MainLoop& loop, desktop::KeyPress press, Completion<> completion)
+      : loop_(loop),
         press_(press),
         completion_(std::move(completion)),
-        deadline_(services.loop.now() + 400ms) {}
+        deadline_(loop.now() + 400ms) {}
 
   void run() {
     if (!completion_.isPending()) return;
     const CGEventFlags held =
         ::CGEventSourceFlagsState(kCGEventSourceStateHIDSystemState) & modifierFlags;
-    if (held != 0 && services_.loop.now() < deadline_) {
-      timer_ = services_.loop.after(10ms, [self = shared_from_this()] { self->run(); });
+    if (held != 0 && loop_.now() < deadline_) {
+      timer_ = loop_.after(10ms, [self = shared_from_this()] { self->run(); });
       return;
     }
-    logSecureInput(services_.log);
     post(press_);
     completion_();
   }
@@ -79,7 +58,7 @@ class WaitingPress : public std::enable_shared_from_this<WaitingPress> {
   void cancel() { timer_ = {}; }
 
  private:
-  MacKeyEvents::Services services_;
+  desktop::MainLoop& loop_;
   desktop::KeyPress press_;
   Completion<> completion_;
   desktop::MainLoop::TimePoint deadline_;
@@ -95,10 +74,29 @@ void MacKeyEvents::askForTrust() {
   ::AXIsProcessTrustedWithOptions((__bridge CFDictionaryRef)options);
 }
 
+std::string MacKeyEvents::obstacle() const {
+  // While a password field has the keyboard, or a program forgot to give Secure Input back, the
+  // system swallows posted keys; the holder's process id is the one clue for the user.
+  if (!::IsSecureEventInputEnabled()) return {};
+  std::string text = "secure input is on";
+  const IoHandle root(::IORegistryGetRootEntry(kIOMainPortDefault));
+  const CfHandle<CFTypeRef> property(::IORegistryEntryCreateCFProperty(
+      root.get(), CFSTR("IOConsoleUsers"), kCFAllocatorDefault, 0));
+  id users = (__bridge id)property.get();
+  if (![users isKindOfClass:NSArray.class]) return text;
+  for (id user in (NSArray*)users) {
+    if (![user isKindOfClass:NSDictionary.class]) continue;
+    id holder = ((NSDictionary*)user)[@"kCGSSessionSecureInputPID"];
+    if (![holder isKindOfClass:NSNumber.class]) continue;
+    text += ", held by process " + std::to_string([holder intValue]);
+  }
+  return text;
+}
+
 desktop::Ticket MacKeyEvents::press(desktop::KeyPress press, std::function<void()> done) {
   const Completion<> completion(std::move(done));
-  const auto waiting = std::make_shared<WaitingPress>(services_, press, completion);
-  services_.loop.post([waiting] { waiting->run(); });
+  const auto waiting = std::make_shared<WaitingPress>(loop_, press, completion);
+  loop_.post([waiting] { waiting->run(); });
   return completion.ticket([waiting] { waiting->cancel(); });
 }
 

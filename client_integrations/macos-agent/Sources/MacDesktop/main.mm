@@ -52,7 +52,7 @@ class QuillsealApp {
   MacFiles files_;
   MacHotkey hotkey_{loop_};
   MacHttpTransport http_{loop_};
-  MacKeyEvents keys_{{.loop = loop_, .log = log_}};
+  MacKeyEvents keys_{loop_};
   MacKeyStore keyStore_{log_};
   MacMachineIdentity machine_;
   MacPasteboard pasteboard_;

@@ -42,8 +42,11 @@ void MacHotkey::registerHotkey(desktop::KeyPress combination, std::function<void
     });
     return noErr;
   };
-  requireNoError(
-      ::InstallEventHandler(::GetApplicationEventTarget(), handler, 1, &type, this, nullptr));
+  const OSStatus installed =
+      ::InstallEventHandler(::GetApplicationEventTarget(), handler, 1, &type, this, nullptr);
+  // Without a handler the combination would be taken from all other programs for nothing.
+  if (installed != noErr) ::UnregisterEventHotKey(hotkey);
+  requireNoError(installed);
 }
 
 }  // namespace quillseal::mac

@@ -94,7 +94,9 @@ desktop::Ticket MacMainLoop::runBlocking(std::function<void()> work,
   const std::shared_ptr<Queue> queue = queue_;
   // Dispatch adds threads while its workers block in a prompt, so calls never wait for each other.
   ::dispatch_async(::dispatch_get_global_queue(QOS_CLASS_USER_INITIATED, 0), ^{
-    callGuarded(work);
+    @autoreleasepool {
+      callGuarded(work);
+    }
     queue->push(completion);
   });
   return completion.ticket();

@@ -85,9 +85,14 @@ void MacApplications::activate(const desktop::RunningApplication& application) {
   NSRunningApplication* target = running(application);
   if (target == nil) return;
   if (@available(macOS 14.0, *)) {
-    // Activation is cooperative there: the active application has to make way.
-    NSApplication* own = NSApp;
-    if (own.active) [own yieldActivationToApplication:target];
+    // Activation is cooperative there: it is taken from the front application, which has to make
+    // way where that is this program.
+    NSRunningApplication* front = NSWorkspace.sharedWorkspace.frontmostApplication;
+    NSApplication* own = NSApp;  // a typed receiver, so that availability is checked
+    if ([front isEqual:NSRunningApplication.currentApplication]) {
+      [own yieldActivationToApplication:target];
+    }
+    if (front != nil && [target activateFromApplication:front options:0]) return;
   }
   [target activateWithOptions:0];
 }

@@ -5,12 +5,9 @@
 namespace quillseal::mac {
 
 void activateProgram() {
-  NSApplication* application = NSApp;  // a typed receiver, so that availability is checked
-  if (@available(macOS 14.0, *)) {
-    [application activate];
-  } else {
-    [application activateIgnoringOtherApps:YES];
-  }
+  // Not -activate of macOS 14: the system may silently decline that while another application is
+  // active, and for a program of the menu bar another one nearly always is.
+  [NSApp activateIgnoringOtherApps:YES];
 }
 
 void MacProgram::becomeAccessory() {

@@ -1,5 +1,6 @@
 #import "MacDesktop/MacAlerts.h"
 
+#include <string>
 #include <utility>
 
 #import <AppKit/AppKit.h>
@@ -106,6 +107,9 @@ NSPopUpButton* choiceOf(const ConfirmationForm& form) {
 NSTextField* fieldOf(const ConfirmationForm& form) {
   NSTextField* field = [[NSTextField alloc] initWithFrame:band(form.fieldY, form.fieldHeight)];
   field.placeholderString = nsString(form.fieldPlaceholder);
+  field.usesSingleLineMode = YES;
+  field.cell.wraps = NO;
+  field.cell.scrollable = YES;
   return field;
 }
 
@@ -117,6 +121,11 @@ NSTextField* noteOf(const ConfirmationForm& form) {
   note.lineBreakMode = NSLineBreakByTruncatingTail;
   note.toolTip = nsString(form.note);  // one line rarely holds it
   return note;
+}
+
+/// For the end of a line of the log; nothing for nil.
+std::string codeOf(NSError* error) {
+  return error == nil ? "" : " (error " + std::to_string(error.code) + ")";
 }
 
 }  // namespace
@@ -181,12 +190,17 @@ void MacAlerts::notify(const desktop::Notification& notification) {
   desktop::Log* log = &services_.log;
   // The system asks the user the first time and answers at once from then on.
   [center requestAuthorizationWithOptions:UNAuthorizationOptionAlert
-                        completionHandler:^(BOOL granted, NSError* __unused error) {
-                          if (granted) {
-                            [center addNotificationRequest:request withCompletionHandler:nil];
-                          } else {
-                            log->write("[sign] notifications are not allowed");
+                        completionHandler:^(BOOL granted, NSError* refusal) {
+                          if (!granted) {
+                            log->write("[sign] notifications are not allowed" + codeOf(refusal));
+                            return;
                           }
+                          [center addNotificationRequest:request
+                                   withCompletionHandler:^(NSError* failure) {
+                                     if (failure == nil) return;
+                                     log->write("[sign] the notification was not shown" +
+                                                codeOf(failure));
+                                   }];
                         }];
 }
 
@@ -201,9 +215,13 @@ void MacAlerts::run(const std::shared_ptr<OpenAlert>& open) {
   if (!open->completion.isPending()) return;
   open_.push_back(open);
   activateProgram();
+  [open->alert layout];  // else done by runModal only, after the window was shown
+  NSWindow* window = open->alert.window;
+  window.preventsApplicationTerminationWhenModal = NO;  // quitting and logging out need no answer
   // In case the system does not let this program become active: at least on top of all windows.
-  open->alert.window.level = NSModalPanelWindowLevel;
-  [open->alert.window orderFrontRegardless];
+  window.level = NSModalPanelWindowLevel;
+  [window center];
+  [window orderFrontRegardless];
   const NSModalResponse response = [open->alert runModal];
   open_.pop_back();
   stopWithdrawn();

@@ -185,6 +185,9 @@ class FieldRow final : public Row {
         actions_([[QSRowActions alloc] init]),
         masked_(masked) {
     field_.bezelStyle = NSTextFieldRoundedBezel;
+    field_.usesSingleLineMode = YES;
+    field_.cell.wraps = NO;
+    field_.cell.scrollable = YES;
     field_.delegate = actions_;
     [view_ addArrangedSubview:label_];
     [view_ addArrangedSubview:field_];
@@ -337,6 +340,8 @@ class MacWindow final : public desktop::Window {
 
   void bringToFront() override {
     [window_ makeKeyAndOrderFront:nil];
+    // In case the system does not let this program become active: at least where it is seen.
+    [window_ orderFrontRegardless];
     activateProgram();
   }
 

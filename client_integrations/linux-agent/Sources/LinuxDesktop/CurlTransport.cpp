@@ -107,7 +107,7 @@ class Exchange {
     // libcurl would announce a large body and wait a second for leave to send it.
     append("Expect:");
     for (const auto& [name, value] : post.headers)
-      append(name + ": " + value);
+      append(std::string(name).append(": ").append(value));
     const long milliseconds = static_cast<long>(std::chrono::milliseconds(post.timeout).count());
     set(CURLOPT_URL, post.url.c_str());
     set(CURLOPT_PROTOCOLS_STR, "http,https");

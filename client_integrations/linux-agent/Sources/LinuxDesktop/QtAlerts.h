@@ -14,12 +14,12 @@ class QtAlerts : public desktop::Alerts {
   QtAlerts(const WindowManager& windows, PlatformWording::CurrentCircumstances circumstances)
       : windows_(windows), circumstances_(std::move(circumstances)) {}
 
-  [[nodiscard]] desktop::Ticket show(const desktop::Alert& alert,
+  [[nodiscard]] desktop::Ticket show(const desktop::Alert& original,
                                      std::function<void()> dismissed) override;
-  [[nodiscard]] desktop::Ticket ask(const desktop::Question& question,
+  [[nodiscard]] desktop::Ticket ask(const desktop::Question& original,
                                     std::function<void(desktop::Answer)> answered) override;
   [[nodiscard]] desktop::Ticket confirm(
-      const desktop::ConfirmationForm& form,
+      const desktop::ConfirmationForm& original,
       std::function<void(std::optional<desktop::ConfirmationEntry>)> answered) override;
   void notify(const desktop::Notification& notification) override;
 

@@ -139,7 +139,7 @@ class FormWidget : public QWidget {
   ShowRow addRow(QVBoxLayout& column, const FormText&, std::size_t, std::size_t) {
     QLabel* label = plainLabel();
     column.addWidget(label);
-    return [this, label](const FormSection& section, std::size_t row) {
+    return [label](const FormSection& section, std::size_t row) {
       fill(*label, std::get<FormText>(section.rows[row]));
     };
   }
@@ -154,7 +154,7 @@ class FormWidget : public QWidget {
     line->addWidget(sign, 0, Qt::AlignVCenter);
     line->addWidget(label, 1);
     column.addLayout(line);
-    return [this, sign, label](const FormSection& section, std::size_t row) {
+    return [sign, label](const FormSection& section, std::size_t row) {
       const auto& status = std::get<FormStatus>(section.rows[row]);
       sign->setText(signFor(status.symbol));
       colour(*sign, status.symbolColour);
@@ -173,7 +173,7 @@ class FormWidget : public QWidget {
       const auto changed = std::get<FormField>(shown_.sections[section].rows[row]).changed;
       if (changed) changed(text.toStdString());
     });
-    return [this, label, edit](const FormSection& shown, std::size_t index) {
+    return [label, edit](const FormSection& shown, std::size_t index) {
       const auto& field = std::get<FormField>(shown.rows[index]);
       label->setText(toQString(field.label));
       edit->setEchoMode(field.masked ? QLineEdit::Password : QLineEdit::Normal);
@@ -191,7 +191,7 @@ class FormWidget : public QWidget {
       const auto pressed = std::get<FormButton>(shown_.sections[section].rows[row]).pressed;
       if (pressed) pressed();
     });
-    return [this, button](const FormSection& shown, std::size_t index) {
+    return [button](const FormSection& shown, std::size_t index) {
       const auto& content = std::get<FormButton>(shown.rows[index]);
       button->setText(toQString(content.label).replace(QLatin1Char('&'), QLatin1String("&&")));
       button->setEnabled(content.enabled);

@@ -5,6 +5,7 @@
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
 #include <QString>
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -37,14 +38,14 @@ class SingleInstance::Receiver : public QDBusVirtualObject {
   }
 
   bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override {
-    for (const Command command : kWireCommands) {
-      if (message.interface() != QLatin1String(kName) || message.member() != wire(command))
-        continue;
-      connection.send(message.createReply());
-      if (handler) handler(command);
-      return true;
-    }
-    return false;
+    if (message.interface() != QLatin1String(kName)) return false;
+    const auto* const command =
+        std::find_if(kWireCommands.begin(), kWireCommands.end(),
+                     [&](Command known) { return message.member() == wire(known); });
+    if (command == kWireCommands.end()) return false;
+    connection.send(message.createReply());
+    if (handler) handler(*command);
+    return true;
   }
 };
 

@@ -40,8 +40,7 @@ iovec field(std::string& text) {
 
 void JournalLog::write(std::string_view line) {
   const std::string text = printable(line);
-  if (echo_ == Echo::standardError)
-    static_cast<void>(std::fprintf(stderr, "%s\n", text.c_str()));
+  if (echo_ == Echo::standardError) static_cast<void>(std::fprintf(stderr, "%s\n", text.c_str()));
   if (access(kJournalSocket, W_OK) != 0) {
     syslog(LOG_USER | LOG_INFO, "%s", text.c_str());
     return;

@@ -16,8 +16,7 @@ QString menuText(const std::string& text) {
 
 // In Qt's notation, where Super is called Meta.
 QKeySequence shortcutOf(const std::string& combination) {
-  return QKeySequence(
-      toQString(combination).replace(QLatin1String("Super"), QLatin1String("Meta")));
+  return {toQString(combination).replace(QLatin1String("Super"), QLatin1String("Meta"))};
 }
 
 }  // namespace

@@ -15,7 +15,7 @@ class TrayStatusItem : public desktop::StatusItem {
  public:
   explicit TrayStatusItem(PlatformWording::CurrentCircumstances circumstances);
 
-  void show(const desktop::StatusMenu& menu) override;
+  void show(const desktop::StatusMenu& original) override;
   void setItemTitle(std::size_t index, const std::string& title) override;
 
  private:

@@ -69,7 +69,8 @@ QIcon productIcon() {
 }
 
 void report(std::string_view sentence) {
-  std::fprintf(stderr, "quillseal: %.*s\n", static_cast<int>(sentence.size()), sentence.data());
+  static_cast<void>(std::fprintf(stderr, "quillseal: %.*s\n", static_cast<int>(sentence.size()),
+                                 sentence.data()));
 }
 
 // Everything the agent asks of this desktop. Members are destroyed from the last to the first.
@@ -248,7 +249,7 @@ int main(int argc, char** argv) {
   const CommandLine commandLine = quillseal::parseCommandLine(arguments);
   switch (commandLine.command) {
     case Command::Help:
-      std::fputs(std::string(quillseal::helpText()).c_str(), stdout);
+      static_cast<void>(std::fputs(std::string(quillseal::helpText()).c_str(), stdout));
       return 0;
     case Command::Version:
       std::puts("quillseal " QUILLSEAL_VERSION);

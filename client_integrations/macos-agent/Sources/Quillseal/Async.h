@@ -121,6 +121,7 @@ template <typename Work, typename Result = std::invoke_result_t<Work&>>
     }
   };
   co_await completionOf<void>(
+      // NOLINTNEXTLINE(performance-unnecessary-value-param): it is moved on.
       [&loop, &run](std::function<void()> done) { return loop.runBlocking(run, std::move(done)); });
   if (shared->failure) std::rethrow_exception(shared->failure);
   if constexpr (!std::is_void_v<Result>) co_return std::move(*shared->result);

@@ -37,8 +37,8 @@ std::string filled(std::string_view script, std::string_view application,
                    const CloseAndRestore& request) {
   const std::string_view tab = request.tabId.value_or("");
   std::string result;
-  for (std::size_t i = 0; i < script.size(); ++i) {
-    switch (script[i]) {
+  for (const char c : script) {
+    switch (c) {
       case '@':
         result += application;
         break;
@@ -52,7 +52,7 @@ std::string filled(std::string_view script, std::string_view application,
         result += request.tabId ? tab : "1";
         break;
       default:
-        result += script[i];
+        result += c;
     }
   }
   return result;

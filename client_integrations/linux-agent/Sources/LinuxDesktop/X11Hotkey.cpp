@@ -19,6 +19,9 @@ namespace {
 constexpr std::uint8_t kNewKeyboardNotify = 0;
 constexpr std::uint8_t kMapNotify = 1;
 
+/// Milliseconds. X servers repeat a held key after 660, desktops let people choose up to this.
+constexpr std::uint32_t kLongestRepeatDelay = 1000;
+
 }  // namespace
 
 X11Hotkey::X11Hotkey(desktop::MainLoop& loop, X11Keyboard* keyboard, std::string obstacle)
@@ -84,9 +87,13 @@ bool X11Hotkey::nativeEventFilter(const QByteArray& /*eventType*/, void* message
       down_ = false;
       lastRelease_ = key->time;
     } else {
-      // A held key repeats: as presses alone, or as releases and presses at the same instant.
-      const bool repeated = down_ || key->time == lastRelease_;
+      // A held key repeats: as presses alone, or as releases and presses at the same instant. The
+      // release itself never comes when a run gives the keyboard free while the key is held, so a
+      // key that has not repeated for long was let go meanwhile.
+      const bool repeated =
+          key->time == lastRelease_ || (down_ && key->time - lastPress_ < kLongestRepeatDelay);
       down_ = true;
+      lastPress_ = key->time;
       if (!repeated) loop_.post(pressed_);
     }
     return true;

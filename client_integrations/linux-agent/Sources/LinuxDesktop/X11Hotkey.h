@@ -32,6 +32,7 @@ class X11Hotkey : public desktop::Hotkey, private QAbstractNativeEventFilter {
   xcb_keycode_t key_ = 0;
   bool down_ = false;
   xcb_timestamp_t lastRelease_ = 0;
+  xcb_timestamp_t lastPress_ = 0;
 };
 
 }  // namespace quillseal

@@ -30,7 +30,6 @@ class BusError {
   [[nodiscard]] sd_bus_error* get() noexcept { return &error_; }
 
  private:
-  // NOLINTNEXTLINE(clang-diagnostic-c99-extensions): the macro is made for both languages.
   sd_bus_error error_ = SD_BUS_ERROR_NULL;
 };
 

@@ -11,7 +11,6 @@ namespace {
 
 /// Never to be changed: enrolled devices are known by what comes of it.
 constexpr sd_id128_t applicationId =
-    // NOLINTNEXTLINE(clang-diagnostic-c99-extensions): the macro is made for both languages.
     SD_ID128_MAKE(6e, 1b, 0d, 8c, 52, f4, 4a, 7d, 9a, 3e, c1, 77, 20, 5b, e8, 94);
 
 }  // namespace

@@ -8,7 +8,7 @@
 namespace quillseal {
 
 /// The folder for this user's data: `$XDG_DATA_HOME`, or `.local/share` in the home directory when
-/// that is unset or relative (XDG Base Directory Specification 0.8), then "quillseal".
+/// that is unset or relative (XDG Base Directory 0.8), then "quillseal".
 [[nodiscard]] std::filesystem::path userDataFolder();
 
 /// One small file that only this user may read (0600) in a folder that only this user may enter

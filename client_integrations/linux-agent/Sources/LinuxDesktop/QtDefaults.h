@@ -34,7 +34,7 @@ class QtDefaults final : public desktop::Defaults {
   ~QtDefaults() override;
 
   /// "Quillseal/Quillseal.conf" in `$XDG_CONFIG_HOME`, or in `.config` in the home directory when
-  /// that is unset or relative (XDG Base Directory Specification 0.8).
+  /// that is unset or relative (XDG Base Directory 0.8).
   [[nodiscard]] static std::string settingsFile();
 
   [[nodiscard]] std::optional<std::string> string(std::string_view key) const override;

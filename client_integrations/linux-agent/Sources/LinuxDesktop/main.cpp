@@ -55,7 +55,7 @@ std::string environment(const char* name) {
   return value == nullptr ? std::string() : std::string(value);
 }
 
-// Absolute, by the XDG Base Directory Specification.
+// Absolute, as XDG Base Directory demands.
 std::string keyFolder() {
   const std::string data = environment("XDG_DATA_HOME");
   return (data.starts_with('/') ? data : environment("HOME") + "/.local/share") + "/quillseal";

@@ -133,6 +133,10 @@ desktop::Ticket MessageDialog::open(std::unique_ptr<MessageDialog> dialog,
   });
 }
 
+std::string mediumLine(const std::string& medium) {
+  return medium.empty() ? std::string() : "Medium: " + medium;
+}
+
 void bringToFront(QWidget& window, const WindowManager& windows) {
   window.show();
   window.raise();

@@ -44,6 +44,9 @@ class MessageDialog : public QDialog {
   QDialogButtonBox* buttons_;
 };
 
+/// How a prompt says where the text is going; empty when that is not known.
+[[nodiscard]] std::string mediumLine(const std::string& medium);
+
 /// Raises a window of this program above all others and gives it the keyboard.
 void bringToFront(QWidget& window, const WindowManager& windows);
 

@@ -29,7 +29,7 @@ class Window : public PresenceWindow {
 std::unique_ptr<PresenceWindow> QtPresencePrompt::open(const PresenceRequest& request,
                                                        std::function<void(bool)> answered) {
   std::string text = request.reason;
-  if (!request.medium.empty()) text += "\n\n" + request.medium;
+  if (!request.medium.empty()) text += "\n\n" + mediumLine(request.medium);
   auto dialog = std::make_unique<MessageDialog>(MessageDialog::Look{
       .picture = MessageDialog::Picture::product, .title = "Confirm that it is you", .text = text});
   auto* instruction = new QLabel(toQString(request.instruction));

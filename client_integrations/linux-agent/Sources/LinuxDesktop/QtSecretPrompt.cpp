@@ -75,10 +75,10 @@ QtSecretPrompt::~QtSecretPrompt() = default;
 std::optional<SecretBytes> QtSecretPrompt::ask(const SecretRequest& request) {
   return wait([this, request](const std::shared_ptr<Pending>& pending) {
     const std::string name(nameOf(request.kind));
-    auto dialog = std::make_unique<MessageDialog>(
-        MessageDialog::Look{.picture = MessageDialog::Picture::key,
-                            .title = "Enter the " + name + " of your signing key",
-                            .text = paragraphs({request.reason, request.medium})});
+    auto dialog = std::make_unique<MessageDialog>(MessageDialog::Look{
+        .picture = MessageDialog::Picture::key,
+        .title = "Enter the " + name + " of your signing key",
+        .text = paragraphs({request.reason, mediumLine(request.destination), request.medium})});
     auto* field = new SecretField;
     field->setAccessibleName(toQString(capitalised(name)));
     field->setPlaceholderText(toQString(capitalised(name)));

@@ -41,8 +41,8 @@ std::string executableOf(std::uint32_t process) {
 
 WindowManager::WindowManager() {
   const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-  if (x11 == nullptr) return;
-  connection_ = x11->connection();
+  connection_ = x11 == nullptr ? nullptr : x11->connection();
+  if (connection_ == nullptr) return;
   root_ = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data->root;
 }
 

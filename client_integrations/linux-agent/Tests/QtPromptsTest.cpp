@@ -1,0 +1,172 @@
+#include <QApplication>
+#include <QDialog>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <array>
+#include <chrono>
+#include <functional>
+#include <future>
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "LinuxDesktop/QtMainLoop.h"
+#include "LinuxDesktop/QtPresencePrompt.h"
+#include "LinuxDesktop/QtSecretPrompt.h"
+#include "LinuxDesktop/WindowManager.h"
+
+namespace quillseal {
+namespace {
+
+using ::testing::HasSubstr;
+
+/// Everything that a dialog says.
+std::string textsOf(const QWidget& dialog) {
+  QString texts;
+  for (const QLabel* label : dialog.findChildren<QLabel*>())
+    texts += label->text() + QLatin1Char('\n');
+  return texts.toStdString();
+}
+
+class QtPromptsTest : public ::testing::Test {
+ protected:
+  /// Runs the event loop until `condition` holds.
+  template <typename Condition>
+  static void runUntil(Condition condition) {
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+    while (!condition()) {
+      if (std::chrono::steady_clock::now() > end) throw std::runtime_error("nothing happened");
+      QApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+    }
+  }
+
+  /// The one dialog that is open.
+  static QWidget& dialog() {
+    runUntil([] { return QApplication::activeModalWidget() != nullptr; });
+    return *QApplication::activeModalWidget();
+  }
+
+  static void press(int key, const QString& text = {}) {
+    QWidget* focused = dialog().focusWidget();
+    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QApplication::sendEvent(focused != nullptr ? focused : &dialog(), &event);
+  }
+  static void type(std::string_view text) {
+    for (const char c : text)
+      press(Qt::Key_unknown, QString(QLatin1Char(c)));
+  }
+  static bool canAccept() {
+    for (const QPushButton* button : dialog().findChildren<QPushButton*>())
+      if (button->isDefault()) return button->isEnabled();
+    return false;
+  }
+
+  /// Puts a question from a thread of its own, as key stores do.
+  void ask(const std::function<std::optional<SecretBytes>()>& question) {
+    pending = std::async(std::launch::async, question);
+  }
+  std::optional<std::string> answer() {
+    runUntil(
+        [this] { return pending.wait_for(std::chrono::seconds(0)) == std::future_status::ready; });
+    const std::optional<SecretBytes> secret = pending.get();
+    return secret ? std::optional<std::string>(secret->text()) : std::nullopt;
+  }
+  void TearDown() override { prompt.close(); }
+
+  std::future<std::optional<SecretBytes>> pending;
+  std::string program = "test";
+  std::string option = "-platform";
+  std::string platform = "offscreen";
+  std::array<char*, 4> arguments{program.data(), option.data(), platform.data(), nullptr};
+  int count = 3;
+  QApplication application{count, arguments.data()};
+  QtMainLoop loop;
+  WindowManager windows;
+  QtSecretPrompt prompt{loop, windows};
+  const SecretRequest request{.kind = SecretKind::pin,
+                              .reason = "Sign “x” as Ada",
+                              .destination = "LinkedIn Post",
+                              .medium = "The key is in the TPM.",
+                              .problem = "This PIN is wrong.",
+                              .attempt = 2,
+                              .attempts = 3};
+};
+
+TEST_F(QtPromptsTest, TheSecretIsAskedForWithWhatItIsFor) {
+  ask([this] { return prompt.ask(request); });
+  const std::string said = textsOf(dialog());
+  for (const char* part : {"Enter the PIN", "Sign “x” as Ada", "Medium: LinkedIn Post",
+                           "The key is in the TPM.", "This PIN is wrong. Try 2 of 3."})
+    EXPECT_THAT(said, HasSubstr(part));
+  EXPECT_FALSE(canAccept());
+  type("24681x");
+  press(Qt::Key_Backspace);
+  EXPECT_TRUE(canAccept());
+  EXPECT_THAT(textsOf(dialog()), Not(HasSubstr("24681")));
+  press(Qt::Key_Return);
+  EXPECT_EQ(answer(), "24681");
+}
+
+TEST_F(QtPromptsTest, ANewSecretIsTypedTwice) {
+  ask([this] {
+    return prompt.askForNew({.kind = SecretKind::passphrase,
+                             .medium = "In a file.",
+                             .notice = "The old one goes.",
+                             .problem = {}});
+  });
+  const std::string said = textsOf(dialog());
+  for (const std::string_view part :
+       {std::string_view("In a file."), std::string_view("The old one goes."),
+        rulesFor(SecretKind::passphrase)})
+    EXPECT_THAT(said, HasSubstr(std::string(part)));
+  const std::string good = "correct horse battery";
+  type(good);
+  press(Qt::Key_Tab);
+  type("correct horse batterx");
+  EXPECT_FALSE(canAccept());
+  EXPECT_THAT(textsOf(dialog()), HasSubstr("not the same"));
+  press(Qt::Key_Backspace);
+  type("y");
+  EXPECT_TRUE(canAccept());
+  press(Qt::Key_Return);
+  EXPECT_EQ(answer(), good);
+}
+
+TEST_F(QtPromptsTest, NoAnswerWithoutThePerson) {
+  ask([this] { return prompt.ask(request); });
+  type("24681");
+  press(Qt::Key_Escape);
+  EXPECT_EQ(answer(), std::nullopt);
+  ask([this] { return prompt.ask(request); });
+  dialog();
+  prompt.close();
+  EXPECT_EQ(answer(), std::nullopt);
+  ask([this] { return prompt.ask(request); });
+  EXPECT_EQ(answer(), std::nullopt);
+}
+
+TEST_F(QtPromptsTest, PresenceIsAskedForWithWhatItIsFor) {
+  QtPresencePrompt presence(windows);
+  std::optional<bool> goesOn;
+  const auto window = presence.open({.reason = "Sign “x”",
+                                     .medium = "LinkedIn Post",
+                                     .instruction = "Touch the reader.",
+                                     .needsConsent = true},
+                                    [&](bool answer) { goesOn = answer; });
+  window->setInstruction("Touch it again.");
+  const std::string said = textsOf(dialog());
+  for (const char* part : {"Sign “x”", "Medium: LinkedIn Post", "Touch it again."})
+    EXPECT_THAT(said, HasSubstr(part));
+  press(Qt::Key_Return);
+  runUntil([&] { return goesOn.has_value(); });
+  EXPECT_EQ(goesOn, true);
+}
+
+}  // namespace
+}  // namespace quillseal

@@ -12,14 +12,13 @@
 
 #include "Assets.h"
 #include "Quillseal/CryptoManager.h"
+#include "SignatureCheck.h"
 
 namespace quillseal::devserver {
 namespace {
 
 using kainjow::mustache::data;
 using kainjow::mustache::mustache;
-
-constexpr std::int64_t handoffSeconds = std::int64_t{10} * 60;
 
 constexpr std::array<const char*, 12> monthNames{"January",   "February", "March",    "April",
                                                  "May",       "June",     "July",     "August",
@@ -82,18 +81,6 @@ std::string zone(const Signature& signature) {
   return text.str();
 }
 
-std::string canonicalDigest(const Signature& signature) {
-  return CryptoManager::canonicalV3({.textDigest = signature.textDigest,
-                                     .issued = signature.issued,
-                                     .scope = signature.scope,
-                                     .snapshotDigest = signature.snapshotDigest,
-                                     .identity = signature.identity,
-                                     .signerKey = signature.deviceId,
-                                     .expires = signature.expires,
-                                     .nonce = signature.nonce,
-                                     .commitment = signature.commitment});
-}
-
 struct Verdict {
   std::string tone;  ///< a class of the style sheet
   std::string text;
@@ -102,6 +89,10 @@ struct Verdict {
 Verdict verdictOf(const Signature& signature, std::int64_t now) {
   if (signature.kind == SignatureKind::demonstration) {
     return {.tone = "caution", .text = "Demonstration only: this is not a signature"};
+  }
+  // Whoever can write to the database can change a record, and a file can be damaged.
+  if (signature.kind == SignatureKind::device && !isGenuine(signature)) {
+    return {.tone = "bad", .text = "This record and its signature do not match: do not trust it"};
   }
   if (isoDate(now) > signature.expires) {
     return {.tone = "caution", .text = "Expired on " + longDate(signature.expires)};
@@ -113,10 +104,6 @@ Verdict verdictOf(const Signature& signature, std::int64_t now) {
 }
 
 }  // namespace
-
-std::int64_t secondsLeft(const Handoff& handoff, std::int64_t now) {
-  return handoff.createdAt + handoffSeconds - now;
-}
 
 std::string browserExpiry(std::string_view issued) {
   return CryptoManager::expiryDateFor({.issued = issued, .wordCount = 0});
@@ -156,7 +143,7 @@ std::string verifyPage(const Signature& signature, std::int64_t now) {
   return rendered("verify.mustache", std::move(values));
 }
 
-std::string handoffPage(const Handoff& handoff, std::int64_t now) {
+std::string handoffPage(const Handoff& handoff, std::int64_t secondsLeft) {
   switch (handoff.state) {
     case HandoffState::complete:
       return noticePage(
@@ -167,19 +154,17 @@ std::string handoffPage(const Handoff& handoff, std::int64_t now) {
     case HandoffState::open:
       break;
   }
-  const std::int64_t left = secondsLeft(handoff, now);
-  if (left <= 0) {
+  if (secondsLeft <= 0) {
     return noticePage({.title = "Expired",
-                       .text =
-                           "This request was not signed within ten minutes. Nothing was signed. "
-                           "Select your text and start again."});
+                       .text = "This request was not signed in time. Nothing was signed. Select "
+                               "your text and start again."});
   }
   data values;
   values.set("title", "Sign this text?");
   values.set("script", "handoff.js");
   values.set("id", handoff.id);
   values.set("text_digest", handoff.textDigest);
-  values.set("seconds_left", std::to_string(left));
+  values.set("seconds_left", std::to_string(secondsLeft));
   values.set("scope", handoff.scope);
   values.set("issued", longDate(handoff.issued));
   values.set("expires", longDate(browserExpiry(handoff.issued)));

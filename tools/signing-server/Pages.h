@@ -9,15 +9,14 @@
 /// The pages as HTML documents. Every value is escaped. Pure functions.
 namespace quillseal::devserver {
 
-/// What an unsigned handoff has left before it expires; zero or less when it has expired.
-[[nodiscard]] std::int64_t secondsLeft(const Handoff& handoff, std::int64_t now);
-
 /// The last day of a handoff signature. The server never learns how long the text is, so it grants
 /// what the shortest text gets.
 [[nodiscard]] std::string browserExpiry(std::string_view issued);
 
 [[nodiscard]] std::string verifyPage(const Signature& signature, std::int64_t now);
-[[nodiscard]] std::string handoffPage(const Handoff& handoff, std::int64_t now);
+
+/// `secondsLeft` is what an open handoff has before it expires; zero or less when it has expired.
+[[nodiscard]] std::string handoffPage(const Handoff& handoff, std::int64_t secondsLeft);
 
 /// A page of one heading and one paragraph.
 struct Notice {

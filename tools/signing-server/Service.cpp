@@ -6,6 +6,8 @@
 #include <stdexcept>
 #include <utility>
 
+#include <arpa/inet.h>
+#include <netinet/in.h>
 #include <nlohmann/json.hpp>
 
 #include "Assets.h"
@@ -13,6 +15,7 @@
 #include "Pages.h"
 #include "Quillseal/CryptoManager.h"
 #include "Quillseal/StrictJson.h"
+#include "Quillseal/UnicodeText.h"
 #include "SignatureCheck.h"
 
 namespace quillseal::devserver {
@@ -28,6 +31,7 @@ constexpr int notFound = 404;
 constexpr int conflict = 409;
 constexpr int gone = 410;
 constexpr int unsupportedMediaType = 415;
+constexpr int misdirected = 421;
 
 constexpr std::int64_t signatureIdBytes = 12;
 constexpr std::int64_t handoffIdBytes = 16;
@@ -70,12 +74,31 @@ std::optional<std::string_view> publicAsset(std::string_view name) {
   return name.ends_with(".mustache") ? std::nullopt : asset(name);
 }
 
-/// A host name or address with or without a port; whatever else a client may send as "Host" must
-/// not reach a URL.
-bool isHost(std::string_view text) {
-  constexpr std::string_view characters =
-      "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789.-:[]";
-  return !text.empty() && text.find_first_not_of(characters) == std::string_view::npos;
+std::string_view withoutPort(std::string_view host) {
+  const std::size_t colon = host.rfind(':');
+  const bool hasPort = colon != std::string_view::npos &&
+                       host.find_first_not_of("0123456789", colon + 1) == std::string_view::npos;
+  return hasPort ? host.substr(0, colon) : host;
+}
+
+bool isAddress(std::string_view host) {
+  const bool isBracketed = host.size() > 2 && host.front() == '[' && host.back() == ']';
+  const std::string text(isBracketed ? host.substr(1, host.size() - 2) : host);
+  if (text.find('\0') != std::string::npos) return false;
+  std::array<unsigned char, sizeof(in6_addr)> address{};
+  return inet_pton(isBracketed ? AF_INET6 : AF_INET, text.c_str(), address.data()) == 1;
+}
+
+/// Whether a "Host" header names this server: by an address, as this computer, or as its origin
+/// does. A page elsewhere can have its own name lead here and then talk to this server as if it
+/// were of it; its requests still carry that name.
+bool isOwnHost(std::string_view header, std::string_view origin) {
+  const std::string_view host = withoutPort(header);
+  const std::size_t scheme = origin.find("://");
+  const bool isOrigin =
+      scheme != std::string_view::npos && !host.empty() &&
+      unicode::lowercased(withoutPort(origin.substr(scheme + 3))) == unicode::lowercased(host);
+  return isOrigin || isAddress(host) || unicode::lowercased(host) == "localhost";
 }
 
 Signature signatureOf(const Attestation& attestation) {
@@ -109,19 +132,9 @@ Signature signatureOf(const Handoff& handoff) {
   return signature;
 }
 
-bool isGenuine(const Signature& signature) {
-  const std::string digest = CryptoManager::canonicalV3({.textDigest = signature.textDigest,
-                                                         .issued = signature.issued,
-                                                         .scope = signature.scope,
-                                                         .snapshotDigest = signature.snapshotDigest,
-                                                         .identity = signature.identity,
-                                                         .signerKey = signature.deviceId,
-                                                         .expires = signature.expires,
-                                                         .nonce = signature.nonce,
-                                                         .commitment = signature.commitment});
-  return isSignedBy({.publicKey = decodedBase64(signature.publicKey).value_or(""),
-                     .digestHex = digest,
-                     .signature = decodedBase64(signature.deviceSignature).value_or("")});
+/// What an open handoff has left before it expires; zero or less when it has expired.
+std::int64_t secondsLeft(const Handoff& handoff, const ServiceOptions& options) {
+  return handoff.createdAt + options.signingSeconds - options.now();
 }
 
 /// What an endpoint works with.
@@ -133,9 +146,7 @@ struct Call {
 };
 
 std::string originOf(const Call& call) {
-  if (!call.options.origin.empty()) return call.options.origin;
-  if (!isHost(call.request.host)) throw Refusal(badRequest, "The Host header names no host.");
-  return "http://" + call.request.host;
+  return call.options.origin.empty() ? "http://" + call.request.host : call.options.origin;
 }
 
 Handoff knownHandoff(const Call& call) {
@@ -212,7 +223,7 @@ Json pollHandoff(const Call& call) {
   // An agent goes on polling at any other word, also at one for "declined"; it would wait for
   // minutes for what will never come.
   const bool isOver =
-      handoff.state == HandoffState::declined || secondsLeft(handoff, call.options.now()) <= 0;
+      handoff.state == HandoffState::declined || secondsLeft(handoff, call.options) <= 0;
   return {{"status", isOver ? "expired" : "pending"}};
 }
 
@@ -222,7 +233,7 @@ Handoff openHandoff(const Call& call) {
   if (handoff.state == HandoffState::declined) {
     throw Refusal(conflict, "This signing request was declined.");
   }
-  if (secondsLeft(handoff, call.options.now()) <= 0) {
+  if (secondsLeft(handoff, call.options) <= 0) {
     throw Refusal(gone, "This signing request has expired.");
   }
   return handoff;
@@ -309,7 +320,7 @@ Reply answerGet(const Registry& registry, const ServiceOptions& options, const R
   }
   if (path == "/handoff") {
     const auto handoff = registry.handoff(request.handoffId);
-    if (handoff) return htmlReply(success, handoffPage(*handoff, options.now()));
+    if (handoff) return htmlReply(success, handoffPage(*handoff, secondsLeft(*handoff, options)));
     return htmlReply(notFound, noticePage({.title = "No such signing request",
                                            .text = "Select your text and start again."}));
   }
@@ -330,6 +341,11 @@ Service::Service(Registry& registry, ServiceOptions options)
 
 Reply Service::answer(const Request& request) {
   try {
+    if (!isOwnHost(request.host, options_.origin)) {
+      throw Refusal(misdirected,
+                    "The Host header is no address of this server. Start it with --origin when it "
+                    "is reached by a name.");
+    }
     return request.method == "POST" ? answerPost(registry_, options_, request)
                                     : answerGet(registry_, options_, request);
   } catch (const Refusal& refusal) {

@@ -28,6 +28,7 @@ struct ServiceOptions {
   std::string apiKey;
   std::string identity;  ///< bound to every device that enrols; empty for none
   std::string origin;    ///< where browsers reach this server; empty: where the request came to
+  std::int64_t signingSeconds = 600;  ///< within which a handoff must be signed
   std::function<std::int64_t()> now;  ///< seconds since 1970
 };
 

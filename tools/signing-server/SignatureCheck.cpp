@@ -11,6 +11,8 @@
 #include <openssl/evp.h>
 #include <openssl/params.h>
 
+#include "Quillseal/CryptoManager.h"
+
 namespace quillseal::devserver {
 namespace {
 
@@ -91,6 +93,24 @@ bool isSignedBy(const SignatureClaim& claim) {
   return context && EVP_PKEY_verify_init(context.get()) == 1 &&
          EVP_PKEY_verify(context.get(), bytesOf(claim.signature), claim.signature.size(),
                          digest.data(), digest.size()) == 1;
+}
+
+std::string canonicalDigest(const Signature& signature) {
+  return CryptoManager::canonicalV3({.textDigest = signature.textDigest,
+                                     .issued = signature.issued,
+                                     .scope = signature.scope,
+                                     .snapshotDigest = signature.snapshotDigest,
+                                     .identity = signature.identity,
+                                     .signerKey = signature.deviceId,
+                                     .expires = signature.expires,
+                                     .nonce = signature.nonce,
+                                     .commitment = signature.commitment});
+}
+
+bool isGenuine(const Signature& signature) {
+  return isSignedBy({.publicKey = decodedBase64(signature.publicKey).value_or(""),
+                     .digestHex = canonicalDigest(signature),
+                     .signature = decodedBase64(signature.deviceSignature).value_or("")});
 }
 
 bool equalSecrets(std::string_view left, std::string_view right) {

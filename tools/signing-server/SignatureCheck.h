@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "Registry.h"
+
 /// The cryptography of enrolment and signing. Pure functions, callable from any thread.
 namespace quillseal::devserver {
 
@@ -24,6 +26,12 @@ struct SignatureClaim {
 /// Whether the signature is one by the key over the digest's 32 bytes, taken as they are. False for
 /// a malformed key, digest or signature.
 [[nodiscard]] bool isSignedBy(const SignatureClaim& claim);
+
+/// The digest of what the signature's fields say, which a device's signature is over.
+[[nodiscard]] std::string canonicalDigest(const Signature& signature);
+
+/// Whether the record's device signature is one by the record's key over the record's own fields.
+[[nodiscard]] bool isGenuine(const Signature& signature);
 
 /// Whether both are equal, in a time that depends on the lengths alone.
 [[nodiscard]] bool equalSecrets(std::string_view left, std::string_view right);

@@ -29,6 +29,8 @@ constexpr int failure = 1;
 constexpr int wrongUsage = 2;
 constexpr int usualPort = 8427;
 constexpr int largestPort = 65535;
+constexpr int usualSigningSeconds = 600;
+constexpr int mostSigningSeconds = 24 * 60 * 60;
 constexpr std::int64_t apiKeyBytes = 16;
 
 struct Options {
@@ -38,6 +40,7 @@ struct Options {
   std::string identity;
   std::string apiKey = QUILLSEAL_DEFAULT_API_KEY;
   std::string origin;
+  int signingSeconds = usualSigningSeconds;
   bool verbose = false;
 };
 
@@ -95,10 +98,17 @@ std::optional<int> read(Options& options, int argc, char** argv) {
                  "agent when left out");
   app.add_option("--origin", options.origin,
                  "origin of links to this server when it stands behind\n"
-                 "a proxy, such as https://seal.example.org")
+                 "a proxy or is reached by a name, such as\n"
+                 "https://seal.example.org")
       ->type_name("URL")
       ->transform(withoutLastSlashes)
       ->check(originFault);
+  app.add_option("--signing-time", options.signingSeconds,
+                 "seconds after which a request to sign in the browser\n"
+                 "has expired")
+      ->type_name("SECONDS")
+      ->check(CLI::Range(1, mostSigningSeconds))
+      ->capture_default_str();
   app.add_flag("--verbose", options.verbose, "print one line for each request");
   app.set_version_flag("--version", "quillseal-dev-server " QUILLSEAL_VERSION);
   try {
@@ -115,6 +125,7 @@ int serve(const Options& options) {
   devserver::Service service(registry, {.apiKey = options.apiKey,
                                         .identity = options.identity,
                                         .origin = options.origin,
+                                        .signingSeconds = options.signingSeconds,
                                         .now = [] { return std::int64_t{std::time(nullptr)}; }});
   std::mutex output;
   const auto log = [&](const std::string& line) {

@@ -1,3 +1,4 @@
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -6,6 +7,7 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include "Pages.h"
 #include "Quillseal/CryptoManager.h"
 #include "Service.h"
 #include "TestDevice.h"
@@ -34,6 +36,7 @@ class ServiceTest : public ::testing::Test {
       service_.emplace(registry_, ServiceOptions{.apiKey = apiKey,
                                                  .identity = identity_,
                                                  .origin = origin_,
+                                                 .signingSeconds = signingSeconds_,
                                                  .now = [this] { return now_; }});
     }
     return *service_;
@@ -127,11 +130,12 @@ class ServiceTest : public ::testing::Test {
   std::string identity_;
   std::string origin_;
   std::string host_ = "127.0.0.1:8427";
+  std::int64_t signingSeconds_ = 600;
   std::int64_t now_ = start;
   TestDevice device_;
+  Registry registry_{":memory:"};
 
  private:
-  Registry registry_{":memory:"};
   std::optional<Service> service_;
 };
 
@@ -153,6 +157,26 @@ TEST_F(ServiceTest, RecordsTheSignatureOfAnEnrolledDevice) {
   }
   now_ += std::int64_t{31} * 24 * 60 * 60;
   EXPECT_THAT(verifyPageOf(answer), HasSubstr("Expired on 31 January 2026"));
+}
+
+TEST_F(ServiceTest, ARecordThatWasChangedIsNotShownAsVerified) {
+  post("/api/register_native", enrolment());
+  const Answer answer = post("/api/sign_native", signedRequest(request(), ""));
+  const Signature genuine = registry_.signature(answer.body.at("signature_id")).value();
+  const std::vector<std::function<void(Signature&)>> changes{
+      [](Signature& record) { record.identity = "Somebody Else"; },
+      [](Signature& record) { record.scope = "Chat Message"; },
+      [](Signature& record) { record.expires = "2036-01-31"; },
+      [](Signature& record) { record.textDigest = CryptoManager::sha256Hex("other"); },
+      [](Signature& record) { record.publicKey = TestDevice().publicKey(); },
+      [](Signature& record) { record.deviceSignature.clear(); },
+  };
+  for (std::size_t i = 0; i < changes.size(); ++i) {
+    Signature record = genuine;
+    changes[i](record);
+    EXPECT_THAT(verifyPage(record, now_), HasSubstr("do not trust it")) << i;
+  }
+  EXPECT_THAT(verifyPageOf(answer), HasSubstr("Signature verified"));
 }
 
 TEST_F(ServiceTest, AnonymousEnrolmentAnswersNoIdentity) {
@@ -326,8 +350,40 @@ TEST_F(ServiceTest, AHandoffEndsUnsigned) {
 TEST_F(ServiceTest, LinksLeadBackToWhereTheRequestCame) {
   EXPECT_THAT(createHandoff().body.at("url").get<std::string>(),
               StartsWith("http://127.0.0.1:8427/handoff?h="));
-  host_ = "evil/\"><script>";
-  EXPECT_EQ(createHandoff().status, 400);
+}
+
+TEST_F(ServiceTest, AnswersOnlyToItsOwnName) {
+  origin_ = "https://Seal.example.org:8443";
+  for (const char* own :
+       {"127.0.0.1", "127.0.0.1:8427", "192.168.1.7:80", "[::1]:8427", "[fe80::1]",
+        "localhost:8427", "LocalHost", "seal.example.org", "seal.example.org:1"}) {
+    host_ = own;
+    EXPECT_EQ(createHandoff().status, 200) << own;
+    EXPECT_EQ(get("/").status, 200) << own;
+  }
+  for (const char* foreign :
+       {"", ":", "evil.example", "evil.example:8427", "localhost.evil.example",
+        "127.0.0.1.evil.example", "seal.example.org.evil.example", "::1", "[localhost]", "[::1",
+        "evil/\"><script>", "127.0.0.1\"><script>", "127.0.0.1/evil"}) {
+    host_ = foreign;
+    EXPECT_EQ(createHandoff().status, 421) << foreign;
+    EXPECT_EQ(get("/").status, 421) << foreign;
+  }
+  host_ = std::string("127.0.0.1\0evil", 14);
+  EXPECT_EQ(get("/").status, 421);
+  origin_.clear();
+  host_ = "";
+  EXPECT_EQ(get("/").status, 421) << "the origin, when there is none, is no name either";
+}
+
+TEST_F(ServiceTest, ASigningTimeCanBeGiven) {
+  signingSeconds_ = 5;
+  const std::string id = openHandoff();
+  EXPECT_THAT(get("/handoff", id).body, HasSubstr("data-seconds-left=\"5\""));
+  now_ += 4;
+  EXPECT_EQ(poll(id).at("status"), "pending");
+  now_ += 1;
+  EXPECT_EQ(poll(id).at("status"), "expired");
 }
 
 TEST_F(ServiceTest, LinksLeadToTheProxyInFront) {

@@ -30,6 +30,7 @@ async function post(path, body) {
 
 function finish(heading, explanation) {
   document.getElementById("heading").textContent = heading;
+  document.title = `${heading} · Quillseal`;
   document.getElementById("explanation").textContent = explanation;
   document.getElementById("actions").hidden = true;
   // The text has done its work; it need not stay in the address bar and the history.
@@ -95,7 +96,7 @@ decline.addEventListener("click", () =>
 setTimeout(() => {
   if (document.getElementById("actions").hidden) return;
   showResult("bad", "");
-  finish("Expired", "This request was not signed within ten minutes. Nothing was signed. Select your text and start again.");
+  finish("Expired", "This request was not signed in time. Nothing was signed. Select your text and start again.");
 }, Number(page.secondsLeft) * 1000);
 
 begin();

@@ -321,22 +321,28 @@ class CurlTransport::Engine {
   std::map<std::uint64_t, std::unique_ptr<Exchange>> exchanges_;
 };
 
-CurlTransport::CurlTransport(desktop::MainLoop& loop, Descriptors& descriptors, Options options) {
+CurlTransport::CurlTransport(desktop::MainLoop& loop, Descriptors& descriptors, Options options)
+    : loop_(loop), descriptors_(descriptors), options_(std::move(options)) {}
+
+CurlTransport::~CurlTransport() = default;
+
+// libcurl and its cryptography come into memory with the first request: most sessions sign little.
+CurlTransport::Engine& CurlTransport::engine() {
+  if (engine_) return *engine_;
   // Once for the process, however often it is called; balanced by nothing, as libcurl allows.
   static const CURLcode initialised = curl_global_init(CURL_GLOBAL_DEFAULT);
   if (initialised != CURLE_OK) throw std::runtime_error("libcurl cannot be used");
-  engine_ = std::make_shared<Engine>(loop, descriptors, std::move(options));
+  engine_ = std::make_shared<Engine>(loop_, descriptors_, options_);
   engine_->self = engine_;
+  return *engine_;
 }
-
-CurlTransport::~CurlTransport() = default;
 
 Ticket CurlTransport::send(const HttpPost& post, std::function<void(Outcome<HttpResponse>)> done) {
   if (!isUsableUrl(post.url)) {
     done(errorOf(transport::badUrl));
     return {};
   }
-  const std::uint64_t id = engine_->start(post, std::move(done));
+  const std::uint64_t id = engine().start(post, std::move(done));
   return Ticket([engine = std::weak_ptr(engine_), id] {
     if (const auto alive = engine.lock()) alive->withdraw(id);
   });

@@ -39,6 +39,12 @@ class CurlTransport final : public desktop::HttpTransport {
 
  private:
   class Engine;
+
+  [[nodiscard]] Engine& engine();
+
+  desktop::MainLoop& loop_;
+  Descriptors& descriptors_;
+  Options options_;
   std::shared_ptr<Engine> engine_;
 };
 

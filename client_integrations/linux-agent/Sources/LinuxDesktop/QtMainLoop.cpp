@@ -4,6 +4,8 @@
 #include <memory>
 #include <utility>
 
+#include <malloc.h>
+
 namespace quillseal {
 namespace {
 
@@ -56,6 +58,8 @@ desktop::Ticket QtMainLoop::runBlocking(std::function<void()> work,
     post([wanted] {
       if (const std::function<void()> call = std::exchange(*wanted, nullptr)) call();
     });
+    // What the work needed meanwhile would otherwise stay with the agent while it waits for days.
+    malloc_trim(0);
   });
   return desktop::Ticket([wanted] { *wanted = nullptr; });
 }

@@ -30,8 +30,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const auto& member : tree.items()) {
       const std::string& key = member.key();
       const nlohmann::json& value = member.value();
+      // The library compares a number of 64 bits without a sign as one with a sign.
       const bool isInteger =
-          value.is_number_integer() && (!value.is_number_unsigned() || value <= INT64_MAX);
+          value.is_number_integer() &&
+          (!value.is_number_unsigned() || value.get<std::uint64_t>() <= std::uint64_t{INT64_MAX});
       if (!agrees(value, value.is_string(), [&] { return object.string(key); }) ||
           !agrees(value, value.is_boolean(), [&] { return object.boolean(key); }) ||
           !agrees(value, isInteger, [&] { return object.integer(key); })) {

@@ -7,8 +7,8 @@
 #include <QMetaObject>
 #include <QSettings>
 #include <QStandardPaths>
-#include <QThread>
 #include <algorithm>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -19,7 +19,6 @@ namespace {
 
 constexpr QFile::Permissions ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
 constexpr qsizetype largestFile = qsizetype{1024} * 1024;
-constexpr unsigned long editorsPatience = 100;  // ms in which an editor has written its file
 
 QString fromUtf8(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
@@ -167,10 +166,9 @@ QtDefaults::FileState QtDefaults::prepareFile() const {
     }
     const QByteArray bytes = file.read(largestFile + 1);
     if (isIni(bytes)) return FileState::usable;
-    // An editor may be about to write the rest.
     if (isSecondLook && bytes == before) return setAside();
     before = bytes;
-    QThread::msleep(editorsPatience);
+    std::this_thread::sleep_for(options_.editorsPatience);
   }
 }
 

@@ -4,6 +4,7 @@
 #include <QMap>
 #include <QObject>
 #include <QString>
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -28,6 +29,8 @@ class QtDefaults final : public desktop::Defaults {
     /// Gets a sentence for the user when the file is damaged or cannot be used. On the main thread,
     /// never from inside another call.
     std::function<void(const std::string&)> warn;
+    /// How long a damaged file is given to become whole, since an editor may be writing it.
+    std::chrono::milliseconds editorsPatience{100};
   };
 
   explicit QtDefaults(Options options);

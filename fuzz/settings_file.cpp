@@ -1,0 +1,57 @@
+#include <QCoreApplication>
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <optional>
+#include <string>
+
+#include "LinuxDesktop/QtDefaults.h"
+#include "Quillseal/UnicodeText.h"
+
+namespace {
+
+using namespace quillseal;
+namespace fs = std::filesystem;
+
+/// Settings on a memory file system where there is one, gone with the process.
+struct Scratch {
+  int count = 1;
+  char name[5] = "fuzz";
+  char* arguments[2] = {name, nullptr};
+  QCoreApplication application{count, arguments};
+  fs::path folder = (fs::is_directory("/dev/shm") ? "/dev/shm" : fs::temp_directory_path()) /
+                    ("quillseal-fuzz-" + std::to_string(application.applicationPid()));
+  fs::path file = folder / "Quillseal.conf";
+  fs::path damaged = folder / "Quillseal.conf.damaged-1";
+  QtDefaults defaults{
+      {.path = file.string(), .warn = [](const std::string&) {}, .editorsPatience = {}}};
+  ~Scratch() { fs::remove_all(folder); }
+};
+
+void require(bool holds) {
+  if (!holds) std::abort();
+}
+
+}  // namespace
+
+/// A file of any bytes is read, or set aside whole; what is set holds, and costs no other setting.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  static Scratch scratch;
+  const std::string bytes(reinterpret_cast<const char*>(data), size);
+  std::ofstream(scratch.file, std::ios::binary) << bytes;
+  fs::remove(scratch.damaged);
+
+  const std::optional<std::string> server = scratch.defaults.string("ServerURL");
+  static_cast<void>(scratch.defaults.boolean("ConfirmBeforeSigning"));
+  if (!fs::exists(scratch.file)) require(!server && fs::file_size(scratch.damaged) == size);
+
+  // Qt takes a byte-order mark at the start of a text away.
+  const std::string value = "=" + unicode::wellFormed(bytes.substr(0, 200));
+  scratch.defaults.setString("BoundIdentity", value);
+  require(!fs::exists(scratch.file) || fs::file_size(scratch.file) > 0);
+  require(scratch.defaults.string("BoundIdentity") == value);
+  require(scratch.defaults.string("ServerURL") == server);
+  QCoreApplication::processEvents();
+  return 0;
+}

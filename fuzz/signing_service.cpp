@@ -1,0 +1,51 @@
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+
+#include "Service.h"
+
+namespace {
+
+using namespace quillseal::devserver;
+
+constexpr std::array<std::string_view, 8> paths{
+    "/api/register_native", "/api/sign_native", "/api/sign_demo", "/api/handoff/create",
+    "/api/handoff/poll",    "/handoff",         "/verify/0a1b",   ""};
+
+std::string_view cut(std::string_view& rest) {
+  const std::string_view field = rest.substr(0, rest.find('\0'));
+  rest.remove_prefix(std::min(rest.size(), field.size() + 1));
+  return field;
+}
+
+}  // namespace
+
+/// Whatever is sent, the development server answers with a status of its own and never with the
+/// sender's markup. The input: which path, then path, host, handoff and body with zero bytes
+/// between.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  if (size == 0) return 0;
+  Registry registry(":memory:");
+  Service service(registry,
+                  {.apiKey = "k", .identity = "Ada", .origin = "", .now = [] { return 0; }});
+  std::string_view rest(reinterpret_cast<const char*>(data + 1), size - 1);
+  const std::string path(paths[data[0] % paths.size()]);
+  const std::string more(cut(rest));
+  const std::string host(cut(rest));
+  const std::string handoff(cut(rest));
+  for (const char* method : {"POST", "GET"}) {
+    const Reply reply = service.answer({.method = method,
+                                        .path = path + more,
+                                        .contentType = "application/json",
+                                        .host = host,
+                                        .handoffId = handoff,
+                                        .body = std::string(rest)});
+    if (reply.status < 200 || reply.status > 499 || reply.contentType.empty()) std::abort();
+    if (reply.contentType.starts_with("text/html") && reply.body.find("<fuzz") != std::string::npos)
+      std::abort();
+  }
+  return 0;
+}

@@ -1,0 +1,62 @@
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "LinuxDesktop/TabMessages.h"
+
+namespace {
+
+using namespace quillseal::TabMessages;
+
+/// The messages of a stream that comes in pieces of this size, and whether it kept to the protocol.
+struct Received {
+  std::vector<std::string> messages;
+  bool isSound = true;
+  bool operator==(const Received&) const = default;
+};
+
+Received received(std::string_view stream, std::size_t piece) {
+  Received result;
+  Deframer deframer;
+  try {
+    for (std::size_t at = 0; at < stream.size(); at += piece) {
+      deframer.append(stream.substr(at, piece));
+      while (auto message = deframer.next())
+        result.messages.push_back(*std::move(message));
+    }
+  } catch (const ProtocolError&) {
+    result.isSound = false;
+  }
+  return result;
+}
+
+/// What is accepted can be passed on, and means the same to the next reader.
+template <typename Read>
+void pass(const std::string& message, Read read) {
+  std::string passed;
+  try {
+    passed = written(read(message));
+  } catch (const ProtocolError&) {
+    return;
+  }
+  if (written(read(passed)) != passed) std::abort();
+}
+
+}  // namespace
+
+/// However a stream of frames is cut, the same messages come out; each is refused, or passes
+/// through the relay unchanged.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string_view stream(reinterpret_cast<const char*>(data), size);
+  const Received whole = received(stream, size + 1);
+  if (received(stream, 1) != whole || received(stream, 7) != whole) std::abort();
+  for (const std::string& message : whole.messages) {
+    if (message.empty() || message.size() > longestMessage) std::abort();
+    pass(message, readRequest);
+    pass(message, readAnswer);
+    pass(message, readGreeting);
+  }
+  return 0;
+}

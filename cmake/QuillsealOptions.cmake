@@ -60,3 +60,15 @@ function(quillseal_add_test name)
   target_link_libraries(${name} PRIVATE quillseal_options ${ARG_LIBRARIES} GTest::gmock GTest::gtest_main)
   add_test(NAME ${name} COMMAND ${name})
 endfunction()
+
+# Installs a manual page or the like as Debian wants it.
+function(quillseal_install_compressed file folder)
+  get_filename_component(name ${file} NAME)
+  set(compressed ${CMAKE_CURRENT_BINARY_DIR}/${name}.gz)
+  add_custom_command(OUTPUT ${compressed}
+    COMMAND gzip -9nc ${file} > ${compressed}
+    DEPENDS ${file}
+    VERBATIM)
+  add_custom_target(compressed_${name} ALL DEPENDS ${compressed})
+  install(FILES ${compressed} DESTINATION ${folder})
+endfunction()

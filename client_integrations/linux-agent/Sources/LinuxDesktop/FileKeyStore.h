@@ -11,9 +11,9 @@
 
 namespace quillseal {
 
-/// How hard a passphrase guess is made (RFC 7914). The standing choice takes 16 MiB and a few
-/// tenths of a second, as OWASP advises for passwords kept on a server; OpenSSL refuses to open a
-/// file that needs more than 32 MiB.
+/// How hard a passphrase guess is made (RFC 7914). The standing choice takes 16 MiB and 0.2 to 0.8
+/// seconds, as OWASP advises for passwords kept on a server; OpenSSL refuses to open a file that
+/// needs more than 32 MiB.
 struct ScryptCost {
   std::uint64_t n = 1U << 14U;  ///< a power of two
   std::uint64_t r = 8;

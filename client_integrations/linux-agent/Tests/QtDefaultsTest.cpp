@@ -139,6 +139,9 @@ TEST_F(QtDefaultsTest, SetsADamagedFileAside) {
                                          std::string("a=\0\n", 4),
                                          "a=\xff\xfe\n",
                                          "=x\n",
+                                         "/=x\n",
+                                         "a\\=x\n",
+                                         "a%2F=x\n",
                                          std::string(1024 * 1024, '\n') + "\n"};
   int number = 0;
   for (const std::string& damage : damages) {

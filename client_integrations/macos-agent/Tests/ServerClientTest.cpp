@@ -234,6 +234,15 @@ TEST_F(ServerClientTest, TellsTheServersRefusalsInItsOwnWords) {
   }
 }
 
+TEST_F(ServerClientTest, ShortensARefusalOfAMegabyte) {
+  answer(400, R"({"error":")" + std::string(1'000'000, 'n') + "\"}");
+  EXPECT_EQ(failureOf(client_.signContent(content())).what(), std::string(1000, 'n') + "…");
+  const std::string key = "\"" + std::string(1'000'000, 'k') + "\":1";
+  answer(200, "{" + key + "," + key + "}");
+  EXPECT_THAT(failureOf(client_.signContent(content())).what(),
+              HasSubstr("The key “" + std::string(40, 'k') + "…” appears twice."));
+}
+
 TEST_F(ServerClientTest, PassesTransportErrorsOn) {
   transport_.outcome = Error({.domain = "D", .code = 7, .description = "no network"});
   const Error failure = failureOf(client_.signContent(content()));

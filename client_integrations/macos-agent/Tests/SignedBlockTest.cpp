@@ -82,7 +82,8 @@ TEST(ReadableDate, NamesExistingDaysOnly) {
 }
 
 TEST(IsSafeIdentifier, RefusesWhatCouldBreakOut) {
-  for (const std::string_view safe : {"sig_9-A.~:=", "ü", "a&b;c/d?e#f%20"})
+  const std::string longest(256, 'a');
+  for (const std::string_view safe : {"sig_9-A.~:=", "ü", "a&b;c/d?e#f%20", longest.c_str()})
     EXPECT_TRUE(isSafeIdentifier(safe)) << safe;
   const std::string unsafe[] = {"",
                                 "a\"b",
@@ -99,7 +100,8 @@ TEST(IsSafeIdentifier, RefusesWhatCouldBreakOut) {
                                 "b",
                                 "a\u0085b",
                                 "a\u2028b",
-                                std::string("a\0b", 3)};
+                                std::string("a\0b", 3),
+                                std::string(257, 'a')};
   for (const std::string& identifier : unsafe)
     EXPECT_FALSE(isSafeIdentifier(identifier)) << testing::PrintToString(identifier);
 }

@@ -3,6 +3,7 @@
 #include <functional>
 #include <iostream>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,7 @@
 #include "Quillseal/CryptoManager.h"
 #include "Quillseal/HandoffPage.h"
 #include "Quillseal/SecureEnclaveManager.h"
+#include "Quillseal/SignedBlock.h"
 #include "Quillseal/SigningCoordinator.h"
 
 namespace quillseal {
@@ -295,7 +297,9 @@ TEST_F(SigningCoordinatorTest, SignsTheScopeThatWasConfirmed) {
 }
 
 TEST_F(SigningCoordinatorTest, RefusesIdentifiersThatCouldBreakOut) {
-  const std::string sayings[] = {R"(x\" onclick=\"y)", R"(a\u0000b)", "<b>", R"(a\\b)", "a b", ""};
+  const std::string sayings[] = {
+      R"(x\" onclick=\"y)",       R"(a\u0000b)", "<b>", R"(a\\b)", "a b", "",
+      std::string(1'000'000, 'a')};
   for (const std::string& id : sayings) {
     desktop_.hasKey = true;
     desktop_.answers["/api/sign_native"] = {{200, R"({"signature_id":")" + id + "\"}"}};
@@ -315,6 +319,25 @@ TEST_F(SigningCoordinatorTest, RefusesASigningPageThatIsNone) {
       {200, R"json({"url":"javascript:alert(1)","handoff_id":"H"})json"}};
   signInBrowser();
   EXPECT_EQ(desktop_.trace.back(), "alert: Signing Error | Could not build the signing URL.");
+  desktop_.answers["/api/handoff/create"] = {
+      {200, R"({"handoff_id":"H","url":"https://s/)" + std::string(1'000'000, 'a') + "\"}"}};
+  signInBrowser();
+  EXPECT_EQ(desktop_.trace.back(), "alert: Signing Error | Could not build the signing URL.");
+  EXPECT_THAT(desktop_.trace, Not(Contains(StartsWith("open "))));
+}
+
+TEST_F(SigningCoordinatorTest, BindsNoNameOfAMegabyte) {
+  desktop_.strings["BoundIdentity"] = "Ada";
+  desktop_.hasKey = false;
+  desktop_.strings["SigningMode"] = "enclave";
+  desktop_.answers["/api/register_native"] = {
+      {200,
+       R"({"status":"ok","device_id":"D","identity":")" + std::string(1'000'000, 'a') + "\"}"}};
+  sign();
+  EXPECT_THAT(desktop_.trace.back(), StartsWith("alert: Could Not Set Up This Mac | "));
+  EXPECT_THAT(desktop_.trace.back(), HasSubstr("a name that is too long to be one. Check"));
+  EXPECT_EQ(desktop_.strings["BoundIdentity"], "Ada");
+  EXPECT_FALSE(desktop_.hasKey);
 }
 
 TEST_F(SigningCoordinatorTest, LeavesLongHtmlOutOfTheSigningPage) {
@@ -523,6 +546,57 @@ TEST(SigningRuns, EndWhereTheyWaitWhenTheAgentQuits) {
       EXPECT_EQ(desktop.trace, before) << "kind " << kind << ", step " << steps;
     }
   }
+}
+
+/// What a run of each kind does when `happening` comes after each of its steps in turn.
+template <typename Happening, typename Check>
+void interruptEverywhere(Happening happening, Check check) {
+  for (int kind = 0; kind < 3; ++kind) {
+    bool isDone = false;
+    for (int steps = 0; !isDone; ++steps) {
+      FakeDesktop desktop;
+      makeEventful(desktop, kind);
+      SigningCoordinator coordinator(desktop.services());
+      coordinator.startSigning();
+      for (int i = 0; i < steps && !isDone; ++i)
+        isDone = !desktop.loop.step();
+      happening(desktop);
+      desktop.loop.run();
+      SCOPED_TRACE("kind " + std::to_string(kind) + ", step " + std::to_string(steps));
+      check(desktop);
+    }
+  }
+}
+
+// A record and its block name one day, and the key signs it, whenever the clock is set.
+TEST(SigningRuns, NameOneDayWhateverTheClockDoes) {
+  for (const char* date : {"2026-03-02", "1999-12-31"}) {
+    interruptEverywhere(
+        [&](FakeDesktop& desktop) { desktop.date = date; },
+        [&](FakeDesktop& desktop) {
+          std::set<std::string> days;
+          for (const char* path : {"/api/sign_native", "/api/sign_demo", "/api/handoff/create"}) {
+            for (const std::string& body : desktop.sentTo(path))
+              days.insert(body.substr(body.find("\"issued\":\"") + 10, 10));
+          }
+          ASSERT_EQ(days.size(), 1U);
+          EXPECT_THAT(*desktop.clipboard.text,
+                      HasSubstr("· " + SignedBlock::readableDate(*days.begin()) + "\n"));
+        });
+  }
+}
+
+// A clock that goes on while the machine sleeps makes every wait overdue at once.
+TEST(SigningRuns, OutliveASuspendedMachine) {
+  interruptEverywhere([](FakeDesktop& desktop) { desktop.loop.leap(8h); },
+                      [](FakeDesktop& desktop) {
+                        const Lines told = desktop.userTrace();
+                        ASSERT_FALSE(told.empty());
+                        const bool isSigned = told.back() == notification;
+                        EXPECT_TRUE(isSigned || told.back().rfind("alert: ", 0) == 0)
+                            << told.back();
+                        EXPECT_EQ(isSigned, std::ranges::count(told, "press ⌘V") == 1);
+                      });
 }
 
 TEST(SigningRuns, DoNotCopyOverEachOthersBlock) {

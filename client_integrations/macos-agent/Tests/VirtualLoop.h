@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -33,11 +34,14 @@ class VirtualLoop final : public desktop::MainLoop {
     return std::chrono::duration_cast<std::chrono::milliseconds>(now_.time_since_epoch());
   }
 
+  /// Lets time pass in which nothing runs, as while the machine sleeps.
+  void leap(std::chrono::milliseconds duration) { now_ += duration; }
+
   /// Runs the next step, moving the time to it. False when there is none.
   bool step() {
     if (steps_.empty()) return false;
     const auto first = steps_.begin();
-    now_ = first->first.first;
+    now_ = std::max(now_, first->first.first);
     const std::function<void()> work = std::move(first->second);
     steps_.erase(first);
     work();

@@ -37,11 +37,18 @@ bool isBalanced(const QByteArray& line) {
   return !isQuoted;
 }
 
+/// QSettings writes nothing before the "=" for what follows the last slash of a key.
+bool isKey(const QByteArray& lowercased) {
+  return !lowercased.isEmpty() && !lowercased.endsWith('/') && !lowercased.endsWith('\\') &&
+         !lowercased.endsWith("%2f");
+}
+
 bool isIniLine(const QByteArray& untrimmed) {
   const QByteArray line = untrimmed.trimmed();
   if (line.isEmpty() || line.startsWith(';') || line.startsWith('#')) return true;
   if (line.startsWith('[')) return line.endsWith(']');
-  return line.indexOf('=') > 0 && isBalanced(line);
+  const qsizetype equals = line.indexOf('=');
+  return equals > 0 && isKey(line.left(equals).trimmed().toLower()) && isBalanced(line);
 }
 
 /// Whether the bytes are lines of "key=value", "[section]", comments and blanks. QSettings itself

@@ -55,9 +55,14 @@ std::int64_t wholeMinutes(const desktop::TimeZone& zone) {
   return zone.secondsFromGmt / 60;
 }
 
+/// The server's words, as many as fit an alert.
 std::optional<std::string> refusalIn(const std::string& body) {
+  constexpr std::size_t mostCharacters = 1000;
   try {
-    return wire::decoded<wire::ErrorResponse>(body).error;
+    std::string words = wire::decoded<wire::ErrorResponse>(body).error;
+    const std::size_t shown = unicode::firstCharacters(words, mostCharacters).size();
+    if (shown < words.size()) words.replace(shown, std::string::npos, "…");
+    return words;
   } catch (const JsonError&) {
     return std::nullopt;
   }

@@ -82,7 +82,9 @@ std::string stamp(const Fields& fields) {
 }  // namespace
 
 bool isSafeIdentifier(std::string_view identifier) {
+  constexpr std::size_t longest = 256;
   constexpr std::string_view breakingOut = "\"'`<>\\";
+  if (identifier.size() > longest) return false;
   std::size_t position = 0;
   while (position < identifier.size()) {
     const char32_t scalar = unicode::nextScalar(identifier, position);

@@ -18,8 +18,9 @@ struct Fields {
 };
 
 /// Whether an identifier from the server can stand in a link, an HTML attribute and a script
-/// without breaking out of it: not empty, and without quotes, angle brackets, backslashes, controls
-/// and white space. Links and scripts are built from such identifiers only.
+/// without breaking out of it: not empty, at most 256 bytes long, and without quotes, angle
+/// brackets, backslashes, controls and white space. Links and scripts are built from such
+/// identifiers only.
 [[nodiscard]] bool isSafeIdentifier(std::string_view identifier);
 
 /// "2025-01-30" as "30 January 2025"; anything that is no date unchanged.

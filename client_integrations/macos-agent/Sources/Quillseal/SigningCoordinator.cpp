@@ -27,6 +27,8 @@ constexpr const char* commitment = "statement";
 constexpr auto pollInterval = 2s;
 constexpr auto longestWaitForBrowser = 570s;
 constexpr auto tabSwitchTime = 500ms;
+constexpr std::size_t longestIdentity = 1000;     // bytes
+constexpr std::size_t longestPageAddress = 2000;  // bytes
 constexpr auto turnPollInterval = 50ms;
 constexpr const char* preferredBrowser = "/Applications/Google Chrome.app";
 constexpr const char* debugCapturePath = "/Library/Logs/Quillseal-signed-text.txt";
@@ -421,6 +423,11 @@ Task<> SigningCoordinator::registerDevice() {
                                      .publicKey = std::move(publicKey),
                                      .apiKey = serverClient_.effectiveAPIKey()};
   const ServerClient::EnrolResponse response = co_await serverClient_.enrol(std::move(request));
+  if (response.identity && response.identity->size() > longestIdentity) {
+    throw quillsealError(
+        "The server answered with a name that is too long to be one. Check the server address in "
+        "Settings, or ask your provider.");
+  }
   desktop_.defaults.setString(setting::boundIdentity, response.identity.value_or(""));
 }
 
@@ -553,7 +560,8 @@ Task<std::optional<SigningCoordinator::HandoffResult>> SigningCoordinator::signV
       (isSet(content.html) ? std::to_string(unicode::characterCount(*content.html)) : "none") +
       ")");
   const std::string url = created.url + "#" + fragment.text;
-  if (!HandoffPage::isOpenable(url)) throw quillsealError("Could not build the signing URL.");
+  if (created.url.size() > longestPageAddress || !HandoffPage::isOpenable(url))
+    throw quillsealError("Could not build the signing URL.");
 
   HandoffResult result{.signatureId = {},
                        .signingBrowserBundleID = {},

@@ -5,11 +5,16 @@
 
 #include <nlohmann/json.hpp>
 
+#include "Quillseal/UnicodeText.h"
+
 namespace quillseal {
 namespace {
 
+/// For a sentence: a key may be as long as the whole text.
 std::string named(std::string_view key) {
-  return "“" + std::string(key) + "”";
+  constexpr std::size_t mostCharacters = 40;
+  const std::string_view shown = unicode::firstCharacters(key, mostCharacters);
+  return "“" + std::string(shown) + (shown.size() < key.size() ? "…”" : "”");
 }
 
 }  // namespace

@@ -127,14 +127,6 @@ class LinuxBrowserTabsTest : public ::testing::Test {
   std::chrono::milliseconds deadline_{10'000};
 };
 
-TEST_F(LinuxBrowserTabsTest, NamesBrowsersByTheirDesktopFiles) {
-  EXPECT_TRUE(LinuxBrowserTabs::isProgramOf("google-chrome", "chrome"));
-  EXPECT_TRUE(LinuxBrowserTabs::isProgramOf("firefox-esr", "firefox-esr"));
-  EXPECT_FALSE(LinuxBrowserTabs::isProgramOf("firefox", "firefox-esr"));
-  EXPECT_FALSE(LinuxBrowserTabs::isProgramOf("Chromium", "chromium"));
-  EXPECT_FALSE(LinuxBrowserTabs::isProgramOf("", ""));
-}
-
 TEST_F(LinuxBrowserTabsTest, KeepsTheSocketToItself) {
   struct stat status {};
   ASSERT_EQ(::stat((runtime_.path() / "quillseal").c_str(), &status), 0);

@@ -172,6 +172,8 @@ desktop::Ticket FakeDesktop::open(const std::string& url,
 void FakeDesktop::open(const std::string& url) {
   mayFail("open");
   trace.push_back("open " + url);
+  if (!anyBrowserOpens)
+    throw Error({.domain = "fake", .code = 3, .description = "There is no browser."});
 }
 
 std::optional<std::string> FakeDesktop::string(std::string_view key) const {

@@ -78,6 +78,7 @@ class FakeDesktop final : public desktop::Alerts,
   std::vector<std::string> pastedInto;                ///< what was active at each Command-V
   std::optional<desktop::InstalledApplication> chrome, defaultBrowser;
   bool browserOpens = true;
+  bool anyBrowserOpens = true;
   std::deque<Outcome<std::optional<std::string>>> scriptResults;  ///< empty: "true"
 
   // Settings, machine and keys.

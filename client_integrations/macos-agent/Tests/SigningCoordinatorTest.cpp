@@ -209,6 +209,10 @@ TEST_F(SigningCoordinatorTest, OpensWhicheverBrowserThereIs) {
   EXPECT_THAT(desktop_.trace, Contains(EndsWith(" with Preferred.app")));
   EXPECT_THAT(desktop_.trace,
               Contains("open https://seal.example/handoff?h=H1#t=" + base64Url(text)));
+  desktop_.anyBrowserOpens = false;
+  signInBrowser();
+  EXPECT_EQ(desktop_.trace.back(), "alert: Signing Error | There is no browser.");
+  desktop_.anyBrowserOpens = true;
   desktop_.chrome = desktop_.defaultBrowser = std::nullopt;
   desktop_.trace.clear();
   signInBrowser();

@@ -1,6 +1,7 @@
 #include "LinuxDesktop/DesktopEntries.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <memory>
 
 #include <gio/gdesktopappinfo.h>
@@ -32,7 +33,12 @@ std::string_view idOf(GDesktopAppInfo* info) {
 DesktopEntry entryOf(GDesktopAppInfo* info) {
   return {.id = std::string(idOf(info)),
           .name = text(g_app_info_get_name(G_APP_INFO(info))),
-          .categories = text(g_desktop_app_info_get_categories(info))};
+          .categories = text(g_desktop_app_info_get_categories(info)),
+          .executable = std::filesystem::path(text(g_app_info_get_executable(G_APP_INFO(info))))
+                            .filename()
+                            .string(),
+          .isConfined = g_desktop_app_info_has_key(info, "X-Flatpak") != FALSE ||
+                        g_desktop_app_info_has_key(info, "X-SnapInstanceName") != FALSE};
 }
 
 AppInfo infoWithId(std::string_view id) {
@@ -86,7 +92,6 @@ std::optional<DesktopEntry> defaultFor(const std::string& url) {
 }
 
 bool open(const std::string& url, std::string_view id) {
-  if (id.empty()) return g_app_info_launch_default_for_uri(url.c_str(), nullptr, nullptr) != FALSE;
   const AppInfo info = infoWithId(id);
   if (info == nullptr) return false;
   std::string argument = url;

@@ -9,9 +9,11 @@ namespace quillseal {
 
 /// What an installed application says about itself in its desktop file.
 struct DesktopEntry {
-  std::string id;          ///< File name without ".desktop", such as "org.gnome.TextEditor".
-  std::string name;        ///< In the user's language.
-  std::string categories;  ///< As written: "Network;Email;".
+  std::string id;           ///< File name without ".desktop", such as "org.gnome.TextEditor".
+  std::string name;         ///< In the user's language.
+  std::string categories;   ///< As written: "Network;Email;".
+  std::string executable;   ///< File name of the program or script it starts.
+  bool isConfined = false;  ///< A Flatpak or a Snap.
 };
 
 /// What can be found out about a window, each empty when it is not known.
@@ -35,8 +37,8 @@ namespace DesktopEntries {
 /// The application that opens this URL by the user's choice.
 [[nodiscard]] std::optional<DesktopEntry> defaultFor(const std::string& url);
 
-/// Starts the application with this id on a URL; with an empty id, the one that the user has chosen
-/// for such URLs. False when it is not installed or could not be started.
+/// Starts the application with this id on a URL. False when it is not installed or could not be
+/// started.
 [[nodiscard]] bool open(const std::string& url, std::string_view id);
 
 }  // namespace DesktopEntries

@@ -1,7 +1,6 @@
 #include "LinuxDesktop/LinuxBrowserTabs.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cstdint>
 #include <map>
@@ -10,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "LinuxDesktop/Browsers.h"
 #include "LinuxDesktop/TabMessages.h"
 #include "LinuxDesktop/TabSocket.h"
 
@@ -25,33 +25,6 @@ using TabMessages::TabShown;
 
 /// Far more than a person's browsers and profiles.
 constexpr std::size_t mostConnections = 32;
-
-struct Browser {
-  std::string_view desktopFile;  ///< without ".desktop"
-  std::string_view program;      ///< file name of the executable behind any start script
-};
-
-// As the vendors' and distributions' packages name them; the channels of Chrome share one program
-// name.
-constexpr std::array browsers{
-    Browser{"brave-browser", "brave"},
-    Browser{"chromium", "chromium"},
-    Browser{"chromium-browser", "chromium"},
-    Browser{"chromium-browser", "chromium-browser"},
-    Browser{"com.brave.Browser", "brave"},
-    Browser{"com.google.Chrome", "chrome"},
-    Browser{"com.microsoft.Edge", "msedge"},
-    Browser{"firefox", "firefox"},
-    Browser{"firefox", "firefox-bin"},
-    Browser{"firefox-esr", "firefox-esr"},
-    Browser{"google-chrome", "chrome"},
-    Browser{"google-chrome-beta", "chrome"},
-    Browser{"google-chrome-unstable", "chrome"},
-    Browser{"microsoft-edge", "msedge"},
-    Browser{"opera", "opera"},
-    Browser{"org.mozilla.firefox", "firefox"},
-    Browser{"vivaldi-stable", "vivaldi-bin"},
-};
 
 using ConnectionId = std::uint64_t;
 using QueryId = std::int64_t;
@@ -129,7 +102,7 @@ class LinuxBrowserTabs::Hub : public std::enable_shared_from_this<Hub> {
   [[nodiscard]] std::vector<ConnectionId> connectionsOf(std::string_view browser) const {
     std::vector<ConnectionId> result;
     for (const auto& [id, connection] : connections_) {
-      if (isProgramOf(browser, connection.program)) result.push_back(id);
+      if (Browsers::isProgramOf(browser, connection.program)) result.push_back(id);
     }
     return result;
   }
@@ -259,12 +232,6 @@ LinuxBrowserTabs::LinuxBrowserTabs(const Services& services)
 }
 
 LinuxBrowserTabs::~LinuxBrowserTabs() = default;
-
-bool LinuxBrowserTabs::isProgramOf(std::string_view browser, std::string_view program) {
-  return std::ranges::any_of(browsers, [&](const Browser& row) {
-    return row.desktopFile == browser && row.program == program;
-  });
-}
 
 Ticket LinuxBrowserTabs::currentTab(const std::string& browser,
                                     std::function<void(std::optional<std::string>)> done) {

@@ -2,7 +2,6 @@
 
 #include <chrono>
 #include <memory>
-#include <string_view>
 
 #include "Desktop/BrowserTabs.h"
 #include "Desktop/Log.h"
@@ -12,7 +11,7 @@
 namespace quillseal {
 
 /// The tabs of browsers in which the Quillseal extension is installed: each connects by way of its
-/// relay, once for every profile in use. A browser is named by the id of its desktop file. One that
+/// relay, once for every profile in use. A browser is named as `Browsers` identifies it. One that
 /// is not connected, or does not answer in time, has no tabs to tell of.
 class LinuxBrowserTabs final : public desktop::BrowserTabs {
  public:
@@ -32,9 +31,6 @@ class LinuxBrowserTabs final : public desktop::BrowserTabs {
       const std::string& browser, std::function<void(std::optional<std::string>)> done) override;
   [[nodiscard]] desktop::Ticket closeAndRestore(const desktop::TabReturn& request,
                                                 std::function<void(bool)> done) override;
-
-  /// Whether the browser with this desktop file runs as this program.
-  [[nodiscard]] static bool isProgramOf(std::string_view browser, std::string_view program);
 
  private:
   class Hub;

@@ -1,7 +1,6 @@
 #include "LinuxDesktop/X11Applications.h"
 
-#include <filesystem>
-
+#include "LinuxDesktop/Browsers.h"
 #include "LinuxDesktop/DesktopEntries.h"
 
 namespace quillseal {
@@ -12,12 +11,6 @@ using desktop::RunningApplication;
 
 // The agent knows its preferred browser by the place of its bundle on macOS.
 constexpr std::string_view kChromeBundle = "/Applications/Google Chrome.app";
-constexpr std::string_view kChromeEntry = "google-chrome";
-
-std::optional<InstalledApplication> installed(const std::optional<DesktopEntry>& entry) {
-  if (!entry) return std::nullopt;
-  return InstalledApplication{.location = entry->id, .bundleIdentifier = entry->id};
-}
 
 }  // namespace
 
@@ -29,10 +22,15 @@ std::optional<RunningApplication> X11Applications::frontmost() const {
       .instance = window, .name = {}, .bundleIdentifier = {}, .categories = {}};
   if (const auto entry = DesktopEntries::forWindow(traits)) {
     application.name = entry->name;
-    application.bundleIdentifier = entry->id;
+    // Not by the executable: a browser's programs for single sites have desktop files of their own.
+    application.bundleIdentifier =
+        Browsers::identifierOf({.desktopFile = entry->id, .executable = {}});
     application.categories = entry->categories;
   } else if (!traits.windowClass.empty()) {
     application.name = traits.windowClass;
+    const std::string browser =
+        Browsers::identifierOf({.desktopFile = {}, .executable = traits.executable});
+    if (!browser.empty()) application.bundleIdentifier = browser;
   }
   return application;
 }
@@ -47,28 +45,29 @@ void X11Applications::activate(const RunningApplication& application) {
 }
 
 std::optional<InstalledApplication> X11Applications::applicationAt(const std::string& path) const {
-  return path == kChromeBundle ? installed(DesktopEntries::withId(kChromeEntry)) : std::nullopt;
+  return path == kChromeBundle ? BrowserLauncher::chrome() : std::nullopt;
 }
 
 std::optional<InstalledApplication> X11Applications::defaultApplicationFor(
     const std::string& url) const {
-  return installed(DesktopEntries::defaultFor(url));
+  return BrowserLauncher::defaultFor(url);
 }
 
 desktop::Ticket X11Applications::open(const std::string& url,
                                       const InstalledApplication& application,
                                       std::function<void(std::optional<Error>)> done) {
-  if (DesktopEntries::open(url, application.location))
-    done(std::nullopt);
-  else
-    done(Error({.domain = "X11Applications",
-                .code = 1,
-                .description = "“" + application.location + "” could not be started."}));
+  std::optional<Error> failure;
+  try {
+    launcher_.open(url, application.location);
+  } catch (const Error& error) {
+    failure = error;
+  }
+  done(std::move(failure));
   return {};
 }
 
 void X11Applications::open(const std::string& url) {
-  static_cast<void>(DesktopEntries::open(url, {}));
+  launcher_.open(url, {});
 }
 
 }  // namespace quillseal

@@ -1,15 +1,20 @@
 #pragma once
 
 #include "Desktop/Applications.h"
+#include "Desktop/MainLoop.h"
+#include "LinuxDesktop/BrowserLauncher.h"
 #include "LinuxDesktop/WindowManager.h"
 
 namespace quillseal {
 
 /// Applications by the windows of the X session and the desktop files of the machine. An instance
-/// is a window; a bundle identifier, and a location, is the id of a desktop file.
+/// is a window; a location is the id of a desktop file, and so is a bundle identifier, but that of
+/// a browser is the same under all the names that it may have.
 class X11Applications : public desktop::Applications {
  public:
-  explicit X11Applications(const WindowManager& windows) : windows_(windows) {}
+  /// Both outlive this object.
+  X11Applications(const WindowManager& windows, desktop::MainLoop& loop)
+      : windows_(windows), launcher_(loop) {}
 
   [[nodiscard]] std::optional<desktop::RunningApplication> frontmost() const override;
   [[nodiscard]] bool isActive(const desktop::RunningApplication& application) const override;
@@ -25,6 +30,7 @@ class X11Applications : public desktop::Applications {
 
  private:
   const WindowManager& windows_;
+  BrowserLauncher launcher_;
 };
 
 }  // namespace quillseal

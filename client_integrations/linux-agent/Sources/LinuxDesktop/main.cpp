@@ -94,7 +94,7 @@ class LinuxDesktop {
         defaults_({.path = quillseal::QtDefaults::settingsFile(),
                    .warn = [this](const std::string& sentence) { warn(sentence); }}),
         http_(loop_, descriptors_, {}),
-        applications_(windowManager_),
+        applications_(windowManager_, loop_),
         hotkey_(loop_, keyboard_.get(), limits_),
         keys_({.loop = loop_,
                .windows = windowManager_,

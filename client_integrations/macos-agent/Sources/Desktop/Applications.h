@@ -53,7 +53,8 @@ class Applications {
   [[nodiscard]] virtual Ticket open(const std::string& url, const InstalledApplication& application,
                                     std::function<void(std::optional<Error>)> done) = 0;
 
-  /// Opens `url` as the desktop sees fit.
+  /// Opens `url` as the desktop sees fit. Throws Error when it is known that nothing could be
+  /// opened.
   virtual void open(const std::string& url) = 0;
 };
 

@@ -578,6 +578,7 @@ Task<std::optional<SigningCoordinator::HandoffResult>> SigningCoordinator::signV
   const auto deadline = desktop_.loop.now() + longestWaitForBrowser;
   while (desktop_.loop.now() < deadline) {
     co_await sleep(desktop_.loop, pollInterval);
+    if (opening.failure && *opening.failure) throw Error(**opening.failure);
     ServerClient::HandoffPollRequest poll{.handoffId = created.handoffId,
                                           .apiKey = serverClient_.effectiveAPIKey()};
     ServerClient::HandoffPollResponse answer = co_await serverClient_.pollHandoff(std::move(poll));
@@ -610,16 +611,20 @@ SigningCoordinator::BrowserOpening SigningCoordinator::openInSigningBrowser(
     return {};
   }
   // A browser that takes its time to start must not hold up the polling.
-  desktop::Ticket ticket =
-      desktop_.applications.open(url, *browser, [this, url](const std::optional<Error>& failure) {
-        if (!failure) return;
+  auto failure = std::make_shared<std::optional<Error>>();
+  desktop::Ticket ticket = desktop_.applications.open(
+      url, *browser, [this, url, failure](const std::optional<Error>& problem) {
+        if (!problem) return;
+        desktop_.log.write(std::string("[handoff] the browser was not opened: ") + problem->what());
         try {
           desktop_.applications.open(url);
         } catch (const Error& error) {
-          desktop_.log.write(std::string("[handoff] no browser could be opened: ") + error.what());
+          *failure = error;
         }
       });
-  return {.bundleIdentifier = browser->bundleIdentifier, .ticket = std::move(ticket)};
+  return {.bundleIdentifier = browser->bundleIdentifier,
+          .failure = std::move(failure),
+          .ticket = std::move(ticket)};
 }
 
 Task<> SigningCoordinator::deliverFromBrowser(Delivery delivery, HandoffResult handoff,

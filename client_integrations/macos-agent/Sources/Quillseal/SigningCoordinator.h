@@ -114,6 +114,7 @@ class SigningCoordinator {
   /// A browser that is being asked to open a page.
   struct BrowserOpening {
     std::optional<std::string> bundleIdentifier;
+    std::shared_ptr<std::optional<Error>> failure;  ///< why neither way of opening worked
     desktop::Ticket ticket;  ///< kept for the other way of opening, if this one fails
   };
 

@@ -1,0 +1,211 @@
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <thread>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "LinuxDesktop/BrowserLauncher.h"
+#include "LinuxDesktop/Browsers.h"
+#include "TemporaryFolder.h"
+#include "VirtualLoop.h"
+
+namespace quillseal {
+namespace {
+
+using namespace std::chrono_literals;
+namespace fs = std::filesystem;
+using testing::contentsOf;
+using ::testing::HasSubstr;
+using testing::TemporaryFolder;
+using testing::VirtualLoop;
+
+TEST(Browsers, HaveOneIdentifierUnderAllTheirNames) {
+  struct Row {
+    Browsers::Traits traits;
+    const char* identifier;
+  };
+  for (const Row& row : {
+           Row{{"google-chrome", "google-chrome-stable"}, "google-chrome"},
+           Row{{"com.google.Chrome", ""}, "google-chrome"},
+           Row{{"google-chrome-beta", ""}, "google-chrome-beta"},
+           Row{{"userapp-Firefox-AB12", "firefox"}, "firefox"},
+           Row{{"org.mozilla.firefox", "flatpak"}, "firefox"},
+           Row{{"firefox-esr", "firefox"}, "firefox-esr"},
+           Row{{"my-edge", "microsoft-edge-stable"}, "microsoft-edge"},
+           Row{{"mine", "vivaldi-stable"}, "vivaldi"},
+           Row{{"", "chromium"}, "chromium"},
+           Row{{"", ""}, ""},
+           Row{{"Firefox", ""}, "Firefox"},
+           Row{{"org.gnome.TextEditor", "gnome-text-editor"}, "org.gnome.TextEditor"},
+       }) {
+    EXPECT_EQ(Browsers::identifierOf(row.traits), row.identifier) << row.traits.desktopFile;
+  }
+}
+
+TEST(Browsers, RunAsTheirPrograms) {
+  EXPECT_TRUE(Browsers::isProgramOf("google-chrome", "chrome"));
+  EXPECT_TRUE(Browsers::isProgramOf("firefox", "firefox-bin"));
+  EXPECT_TRUE(Browsers::isProgramOf("firefox-esr", "firefox-esr"));
+  EXPECT_FALSE(Browsers::isProgramOf("firefox", "firefox-esr"));
+  EXPECT_FALSE(Browsers::isProgramOf("chromium", "chrome"));
+  EXPECT_FALSE(Browsers::isProgramOf("Chromium", "chromium"));
+  EXPECT_FALSE(Browsers::isProgramOf("", ""));
+}
+
+/// A computer with browsers that only write down what they are to open. GIO reads where
+/// applications are once, so this is there for the whole program.
+class Computer {
+ public:
+  Computer() {
+    for (const char* folder : {"data/applications", "config", "runtime"})
+      fs::create_directories(root() / folder);
+    fs::permissions(root() / "runtime", fs::perms::owner_all);
+    install("userapp-Firefox-AB12", "firefox", "");
+    install("com.google.Chrome", "google-chrome-flatpak", "X-Flatpak=com.google.Chrome\n");
+    install("google-chrome", "google-chrome-stable", "");
+    install("snapped", "snapped", "X-SnapInstanceName=snapped\n");
+    testing::overwrite(
+        root() / "config/mimeapps.list",
+        "[Default Applications]\nx-scheme-handler/https=userapp-Firefox-AB12.desktop\n");
+    for (const auto& [name, folder] : {std::pair{"XDG_DATA_HOME", "data"},
+                                       {"XDG_DATA_DIRS", "none"},
+                                       {"XDG_CONFIG_HOME", "config"},
+                                       {"XDG_CONFIG_DIRS", "none"},
+                                       {"XDG_RUNTIME_DIR", "runtime"}})
+      ::setenv(name, (root() / folder).c_str(), 1);
+  }
+
+  [[nodiscard]] const fs::path& root() const { return folder_.path(); }
+
+  void putProgram(const std::string& name) const {
+    testing::overwrite(root() / name,
+                       "#!/bin/sh\nprintf %s \"$1\" >\"$0.new\"\nmv \"$0.new\" \"$0.opened\"\n");
+    fs::permissions(root() / name, fs::perms::owner_all);
+  }
+
+  /// What the program was started with.
+  [[nodiscard]] std::string opened(const std::string& program) const {
+    const fs::path file = root() / (program + ".opened");
+    for (const auto end = std::chrono::steady_clock::now() + 20s;
+         !fs::exists(file) && std::chrono::steady_clock::now() < end;)
+      std::this_thread::sleep_for(2ms);
+    std::string address = contentsOf(file);
+    fs::remove(file);
+    return address;
+  }
+
+ private:
+  void install(const std::string& id, const std::string& program, const std::string& more) const {
+    testing::overwrite(root() / "data/applications" / (id + ".desktop"),
+                       "[Desktop Entry]\nType=Application\nName=" + id +
+                           "\nExec=" + (root() / program).string() + " %u\n" + more +
+                           "MimeType=x-scheme-handler/https;\n");
+  }
+
+  TemporaryFolder folder_;
+};
+
+const Computer& computer() {
+  static const Computer only;
+  return only;
+}
+
+class BrowserLauncherTest : public ::testing::Test {
+ protected:
+  BrowserLauncherTest() {
+    for (const char* program :
+         {"firefox", "google-chrome-flatpak", "google-chrome-stable", "snapped"})
+      computer().putProgram(program);
+  }
+
+  std::string failureOf(const std::string& url, const std::string& location) {
+    try {
+      launcher_.open(url, location);
+    } catch (const Error& error) {
+      return error.what();
+    }
+    return "";
+  }
+
+  /// GIO turns addresses of files into paths for some desktop files.
+  static fs::path openedPage(const std::string& program) {
+    const std::string address = computer().opened(program);
+    const std::string_view scheme = "file://";
+    return address.starts_with(scheme) ? address.substr(scheme.size()) : address;
+  }
+
+  static std::string urlOfLength(std::size_t length) {
+    const std::string url = "https://seal.example/handoff?h=1#t=";
+    return url + std::string(length - url.size(), 'A');
+  }
+
+  VirtualLoop loop_;
+  BrowserLauncher launcher_{loop_};
+};
+
+TEST_F(BrowserLauncherTest, FindsChromeWhereItIsInstalled) {
+  EXPECT_EQ(BrowserLauncher::chrome()->location, "google-chrome");
+  EXPECT_EQ(BrowserLauncher::chrome()->bundleIdentifier, "google-chrome");
+  fs::remove(computer().root() / "google-chrome-stable");
+  EXPECT_EQ(BrowserLauncher::chrome()->location, "com.google.Chrome");
+  EXPECT_EQ(BrowserLauncher::chrome()->bundleIdentifier, "google-chrome");
+  fs::remove(computer().root() / "google-chrome-flatpak");
+  EXPECT_EQ(BrowserLauncher::chrome(), std::nullopt);
+}
+
+TEST_F(BrowserLauncherTest, FindsTheDefaultBrowser) {
+  const auto browser = BrowserLauncher::defaultFor("https://seal.example/");
+  EXPECT_EQ(browser->location, "userapp-Firefox-AB12");
+  EXPECT_EQ(browser->bundleIdentifier, "firefox");
+  EXPECT_EQ(BrowserLauncher::defaultFor("gopher://seal.example/"), std::nullopt);
+}
+
+TEST_F(BrowserLauncherTest, HandsShortAddressesOver) {
+  const std::string url = urlOfLength(BrowserLauncher::longestArgument);
+  launcher_.open(url, "google-chrome");
+  EXPECT_EQ(computer().opened("google-chrome-stable"), url);
+  launcher_.open(url, "");
+  EXPECT_EQ(computer().opened("firefox"), url);
+  launcher_.open(url, "snapped");
+  EXPECT_EQ(computer().opened("snapped"), url);
+}
+
+TEST_F(BrowserLauncherTest, LeadsToLongAddressesByAPage) {
+  const std::string url = urlOfLength(BrowserLauncher::longestArgument + 1);
+  launcher_.open(url, "google-chrome");
+  const fs::path page = openedPage("google-chrome-stable");
+  EXPECT_THAT(contentsOf(page), HasSubstr("location.replace(\"" + url + "\")"));
+  EXPECT_EQ(fs::status(page).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+
+  launcher_.open(urlOfLength(300'000), "");
+  const fs::path second = openedPage("firefox");
+  EXPECT_NE(page, second);
+  loop_.run();
+  EXPECT_EQ(loop_.elapsed(), BrowserLauncher::pageLife);
+  EXPECT_FALSE(fs::exists(page));
+  EXPECT_FALSE(fs::exists(second));
+
+  std::optional<BrowserLauncher> shortLived(loop_);
+  shortLived->open(url, "");
+  const fs::path third = openedPage("firefox");
+  EXPECT_TRUE(fs::exists(third));
+  shortLived.reset();
+  EXPECT_FALSE(fs::exists(third));
+}
+
+TEST_F(BrowserLauncherTest, TellsWhyNothingOpens) {
+  const std::string longUrl = urlOfLength(BrowserLauncher::longestArgument + 1);
+  EXPECT_THAT(failureOf(longUrl, "snapped"), HasSubstr("too long for “snapped”"));
+  EXPECT_THAT(failureOf("https://seal.example/", "gone"), HasSubstr("“gone” is not installed"));
+  EXPECT_THAT(failureOf("gopher://seal.example/", ""), HasSubstr("opens web pages"));
+  fs::permissions(computer().root() / "runtime", fs::perms::all);
+  EXPECT_THAT(failureOf(longUrl, ""), HasSubstr("of this user alone"));
+  fs::permissions(computer().root() / "runtime", fs::perms::owner_all);
+}
+
+}  // namespace
+}  // namespace quillseal

@@ -65,7 +65,10 @@ class Site:
 <style>body {{ font: 16px sans-serif; margin: 2em; }} #field {{ border: 1px solid #888; padding: 1em;
 min-height: 12em; }}</style><h1>{title}</h1><div id="field" contenteditable>{text}</div>
 <script>
-const tell = (what, body = "") => navigator.sendBeacon(`/tell/${{what}}{query}`, body);
+// What a page sends when it closes must be short; what it holds need not be.
+const tell = (what, body = "") => body === ""
+  ? navigator.sendBeacon(`/tell/${{what}}{query}`)
+  : fetch(`/tell/${{what}}{query}`, {{ method: "POST", body }});
 const field = document.getElementById("field");
 tell("open");
 addEventListener("pagehide", () => tell("gone"));

@@ -13,7 +13,7 @@ import subprocess
 import tempfile
 import time
 
-PATIENCE = 20.0  # seconds; a loaded machine with two processors needs a good part of it
+PATIENCE = 40.0  # seconds; a loaded machine with two processors needs a good part of it
 HOTKEY = ("Control_L", "Alt_L", "Super_L", "h")
 
 
@@ -31,6 +31,18 @@ def wait_for(what, condition, seconds=PATIENCE):
         if time.monotonic() > deadline:
             raise Failure(f"{what}: not within {seconds:g} s")
         time.sleep(0.02)
+
+
+def act_until(act, condition, what):
+    """Acts again every other second until `condition()` holds, as a person does: a window that has
+    just come up may not take the first key or click."""
+    def acted():
+        act()
+        try:
+            return wait_for(what, condition, 2)
+        except Failure:
+            return False
+    return wait_for(what, acted)
 
 
 class Session:
@@ -220,6 +232,32 @@ class Session:
 
     def key(self, *keys):
         self.run("xdotool", "key", *keys)
+
+    def key_until(self, key, condition, what):
+        return act_until(lambda: self.key(key), condition, what)
+
+    def click(self, left, top):
+        self.run("xdotool", "mousemove", left, top, "click", 1)
+
+    def wide_button(self):
+        """Where a button of the signing pages' colour fills most of a line on their white card, the
+        lowest there is: its left and right edge and a height between top and bottom. Nothing when
+        it is disabled, since it is pale then, or out of sight."""
+        width, height = map(int, self.size.split("x"))
+        picture = subprocess.run(["import", "-window", "root", "-depth", "8", "rgb:-"],
+                                 env=self.env, check=True, capture_output=True).stdout
+        blue, white = b"\x1e\x3a\x8a", b"\xff\xff\xff"
+        for line in reversed(range(height)):
+            row = picture[line * width * 3:(line + 1) * width * 3]
+            begin = row.find(white + 300 * blue) // 3 + 1
+            if begin <= 0:
+                continue
+            end = begin
+            while row[end * 3:end * 3 + 3] == blue:
+                end += 1
+            if row[end * 3:end * 3 + 3] == white:
+                return begin, end, line
+        return None
 
     def type(self, text):
         self.run("xdotool", "type", "--delay", "8", text)

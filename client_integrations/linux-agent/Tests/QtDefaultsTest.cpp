@@ -1,6 +1,7 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <array>
+#include <csignal>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -8,6 +9,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -142,6 +144,7 @@ TEST_F(QtDefaultsTest, SetsADamagedFileAside) {
                                          "/=x\n",
                                          "a\\=x\n",
                                          "a%2F=x\n",
+                                         "b=1\r=x\n",
                                          std::string(1024 * 1024, '\n') + "\n"};
   int number = 0;
   for (const std::string& damage : damages) {
@@ -168,6 +171,29 @@ TEST_F(QtDefaultsTest, ValuesThatCannotBeSavedHoldForTheProcess) {
   EXPECT_EQ(defaults.string("SigningMode"), "handoff");
   EXPECT_TRUE(eventually([&] { return changes == 1 && !warnings_.empty(); }));
   EXPECT_TRUE(fs::exists(path_ / "kept"));
+}
+
+// A full disk, as far as a process can have its own: no file may grow beyond 10 bytes.
+TEST_F(QtDefaultsTest, AFullDiskKeepsTheEarlierSettings) {
+  make().setString("ServerURL", "https://a.example");
+  const std::string before = contentsOf(path_);
+  QtDefaults defaults = make();
+  rlimit usual{};
+  ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &usual), 0);
+  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+  rlimit small = usual;
+  small.rlim_cur = 10;
+  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+  defaults.setString("BoundIdentity", "Ada");
+  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &usual), 0);
+  std::signal(SIGXFSZ, handler);
+
+  EXPECT_EQ(contentsOf(path_), before);
+  EXPECT_EQ(defaults.string("BoundIdentity"), "Ada") << "for as long as the agent runs";
+  EXPECT_TRUE(eventually([&] { return !warnings_.empty(); }));
+  EXPECT_THAT(warnings_, ElementsAre(HasSubstr("could not be saved")));
+  defaults.setString("APIKey", "k");
+  EXPECT_THAT(contentsOf(path_), HasSubstr("a.example"));
 }
 
 class QtDescriptorsTest : public QtDefaultsTest {};

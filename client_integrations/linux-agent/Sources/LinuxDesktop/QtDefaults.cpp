@@ -57,6 +57,7 @@ bool isIni(QByteArray bytes) {
   if (bytes.size() > largestFile || bytes.contains('\0')) return false;
   if (bytes.startsWith("\xEF\xBB\xBF")) bytes.remove(0, 3);  // a byte-order mark
   const std::string text = bytes.toStdString();
+  bytes.replace('\r', '\n');  // ends a line, with or without the other
   return unicode::wellFormed(text) == text && std::ranges::all_of(bytes.split('\n'), isIniLine);
 }
 

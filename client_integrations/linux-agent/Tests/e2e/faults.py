@@ -1,0 +1,195 @@
+#!/usr/bin/env python3
+"""What the agent does when the desktop around it breaks: docs/faults.md names each of these.
+
+usage: faults.py --quillseal PATH --server PATH --held-keys PATH [TEST...]
+"""
+
+import ctypes
+import os
+import signal
+
+import stories
+from session import wait_for
+from stories import LETTER, PROGRAMS, Story
+
+
+class Rival:
+    """Another X client, which takes things and then never answers."""
+
+    def __init__(self, display):
+        self.x11 = ctypes.CDLL("libX11.so.6")
+        self.x11.XOpenDisplay.restype = ctypes.c_void_p
+        self.display = ctypes.c_void_p(self.x11.XOpenDisplay(display.encode()))
+        self.x11.XDefaultRootWindow.restype = ctypes.c_ulong
+        self.root = ctypes.c_ulong(self.x11.XDefaultRootWindow(self.display))
+
+        self.x11.XCreateSimpleWindow.restype = ctypes.c_ulong
+        none = ctypes.c_ulong(0)
+        self.window = ctypes.c_ulong(self.x11.XCreateSimpleWindow(
+            self.display, self.root, 0, 0, 300, 200, 0, none, none))
+
+    def close(self):
+        self.x11.XCloseDisplay(self.display)
+
+    def open_window(self):
+        self.x11.XStoreName(self.display, self.window, b"rival")
+        self.x11.XMapWindow(self.display, self.window)
+        self.x11.XSync(self.display, 0)
+
+    def take_clipboard(self):
+        self.x11.XInternAtom.restype = ctypes.c_ulong
+        clipboard = ctypes.c_ulong(self.x11.XInternAtom(self.display, b"CLIPBOARD", 0))
+        self.x11.XSetSelectionOwner(self.display, clipboard, self.window, ctypes.c_ulong(0))
+        self.x11.XSync(self.display, 0)
+
+    def grab_hotkey(self):
+        self.x11.XKeysymToKeycode.restype = ctypes.c_ubyte
+        key = self.x11.XKeysymToKeycode(self.display, ctypes.c_ulong(ord("h")))
+        any_modifier, asynchronous = 1 << 15, 1
+        self.x11.XGrabKey(self.display, key, any_modifier, self.root, 1, asynchronous, asynchronous)
+        self.x11.XSync(self.display, 0)
+
+
+class Faults(Story):
+    def rival(self):
+        rival = Rival(self.desktop.env["DISPLAY"])
+        self.addCleanup(rival.close)
+        return rival
+
+    def press_on_letter(self):
+        editor = self.desktop.open_editor(LETTER)
+        self.desktop.select_all(LETTER)
+        self.desktop.press_hotkey()
+        return editor
+
+    def assert_ended(self, code=0):
+        wait_for("the agent ends", lambda: self.desktop.agent.poll() is not None)
+        self.assertEqual(self.desktop.agent.returncode, code,
+                         self.desktop.output_of(self.desktop.agent))
+
+    @property
+    def key_file(self):
+        return self.desktop.home / ".local/share/quillseal/ai.kestle.quillseal.signingkey.pem"
+
+    def test_terminated_at_any_step_it_leaves_nothing_half_made(self):
+        self.start()
+        editor = self.press_on_letter()
+        self.desktop.wait_for_window("Choose a passphrase")
+        self.terminate()
+        self.assertFalse(self.key_file.exists())
+
+        self.desktop.start_agent()
+        os.kill(self.desktop.server.pid, signal.SIGSTOP)
+        self.desktop.press_hotkey()
+        self.choose_passphrase()
+        wait_for("the key is made", self.key_file.exists)
+        self.terminate()
+        os.kill(self.desktop.server.pid, signal.SIGCONT)
+
+        self.desktop.start_agent()
+        self.desktop.press_hotkey()
+        self.desktop.wait_for_window("Enter the passphrase")
+        self.terminate()
+
+        self.desktop.start_agent()
+        self.desktop.press_hotkey()
+        self.desktop.wait_for_window("Enter the passphrase")
+        os.kill(self.desktop.server.pid, signal.SIGSTOP)
+        self.enter_passphrase()
+        self.desktop.wait_for_no_window("Enter the passphrase")
+        self.terminate()
+        os.kill(self.desktop.server.pid, signal.SIGCONT)
+        self.assertEqual(self.desktop.selection(), LETTER)
+
+        self.desktop.start_agent()
+        self.desktop.press_hotkey()
+        self.enter_passphrase()
+        self.desktop.wait_for_output(self.desktop.server, "/api/register_native 200",
+                                     "the key from before is registered")
+        self.enter_passphrase()
+        self.assert_signed(editor)
+
+    def terminate(self):
+        self.desktop.agent.terminate()
+        self.assert_ended()
+
+    def test_the_x_server_dies(self):
+        self.start()
+        self.press_on_letter()
+        self.choose_passphrase()
+        self.desktop.wait_for_window("Enter the passphrase")
+        key = self.key_file.read_bytes()
+        self.desktop.end(self.desktop.processes[0], signal.SIGKILL)
+        self.assert_ended(code=1)
+        self.assertEqual(self.key_file.read_bytes(), key)
+
+    def test_the_session_bus_dies(self):
+        self.start()
+        self.press_on_letter()
+        self.choose_passphrase()
+        self.desktop.wait_for_window("Enter the passphrase")
+        self.desktop.end(self.desktop.processes[1], signal.SIGKILL)
+        self.enter_passphrase()
+        wait_for("the block is on the clipboard",
+                 lambda: self.desktop.selection().startswith(f"『{LETTER}』"))
+        self.terminate()
+
+    def test_there_is_no_session_bus(self):
+        bus = self.desktop.env["DBUS_SESSION_BUS_ADDRESS"]
+        self.desktop.env["DBUS_SESSION_BUS_ADDRESS"] = "unix:path=/dev/null/bus"
+        self.start()
+        self.desktop.env["DBUS_SESSION_BUS_ADDRESS"] = bus
+        self.desktop.wait_for_log("there is no session bus", "the agent says what will be missing")
+        self.assert_signed(self.sign_in_editor())
+
+    def test_the_home_cannot_be_written(self):
+        self.desktop.env["XDG_DATA_HOME"] = "/dev/null/data"
+        self.desktop.env["XDG_CONFIG_HOME"] = "/dev/null/config"
+        self.desktop.start_agent()
+        editor = self.press_on_letter()
+        self.desktop.wait_for_window("Signing Key Required")
+        self.desktop.key("Return")
+        self.desktop.wait_for_no_window("Signing Key Required")
+        self.assertEqual(editor.file.read_text(), LETTER)
+
+    def test_the_settings_cannot_be_read(self):
+        self.desktop.settings_file.mkdir(parents=True)
+        self.desktop.start_agent()
+        self.desktop.wait_for_log(r"The settings in \S+ cannot be read. Check whose file that is",
+                                  "the agent tells why it has no settings")
+        self.desktop.wait_for_window("Quillseal")
+
+    def test_a_clipboard_owner_never_answers(self):
+        self.start(DemoSigning="true")
+        rival = self.rival()
+        rival.open_window()
+        self.desktop.wait_for_window("rival")
+        self.desktop.press_hotkey()
+        rival.take_clipboard()
+        self.desktop.wait_for_window("No Text Found")
+        self.desktop.key("Return")
+        self.desktop.wait_for_no_window("No Text Found")
+
+    def test_the_hotkey_is_taken(self):
+        self.rival().grab_hotkey()
+        self.start()
+        wait_for("a notification tells of the hotkey",
+                 lambda: "Hotkey Is Not Available" in self.desktop.shown_notifications())
+        self.desktop.open_editor(LETTER)
+        self.desktop.select_all(LETTER)
+        self.desktop.run(PROGRAMS["quillseal"], "--sign")
+        self.desktop.wait_for_window("Choose a passphrase")
+
+
+class Panel(Story):
+    panel = True
+
+    def test_the_panel_dies(self):
+        self.start()
+        panel = next(p for p in self.desktop.processes if "trayer" in p.log.name)
+        self.desktop.end(panel, signal.SIGKILL)
+        self.assert_signed(self.sign_in_editor())
+
+
+if __name__ == "__main__":
+    stories.main()

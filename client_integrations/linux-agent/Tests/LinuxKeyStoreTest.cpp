@@ -277,8 +277,10 @@ TEST(MakeKeyStore, TakesASimulatorOnlyByName) {
     return makeKeyStore({.folder = folder.path().string(), .tpm = tpm}, prompt);
   };
   EXPECT_EQ(make("none")->place(), KeyPlace::keyFile);
-  EXPECT_THAT(make("swtpm:path=/nowhere")->describe(),
-              HasSubstr("simulator (swtpm:path=/nowhere)"));
+  EXPECT_EQ(make("none")->advice(), "");
+  const auto simulated = make("swtpm:path=/nowhere");
+  for (const std::string& told : {simulated->describe(), simulated->advice()})
+    EXPECT_THAT(told, HasSubstr("simulator (swtpm:path=/nowhere)"));
   for (const char* unknown : {"tabrmd:", "/tmp/library.so", "swtpm", "device:/dev/tpm0"})
     EXPECT_THROW(static_cast<void>(make(unknown)), KeyFailure) << unknown;
 }

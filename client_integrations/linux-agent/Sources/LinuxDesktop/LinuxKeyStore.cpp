@@ -176,6 +176,7 @@ std::string LinuxKeyStore::advice() const {
       return sentence(failure.what());
     }
   }
+  if (place() == KeyPlace::tpmSimulator) return describe();
   return media_.front()->holdsKey() ? std::string() : sentence(media_.front()->evidentObstacle());
 }
 

@@ -222,6 +222,8 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
   }
   // Selections, keys and the hotkey are reached through X, in a Wayland session through Xwayland.
   if (hasXServer && environment("QT_QPA_PLATFORM").empty()) qputenv("QT_QPA_PLATFORM", "xcb");
+  // The library of the TPM would write of every wrong PIN and, on request, all that it sends.
+  qputenv("TSS2_LOG", "all+none");
 
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("quillseal"));

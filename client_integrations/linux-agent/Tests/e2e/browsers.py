@@ -63,7 +63,7 @@ class Site:
 
     PAGE = """<!DOCTYPE html><meta charset="utf-8"><title>{title}</title>
 <style>body {{ font: 16px sans-serif; margin: 2em; }} #field {{ border: 1px solid #888; padding: 1em;
-min-height: 12em; }}</style><h1>{title}</h1><div id="field" contenteditable>{text}</div>
+min-height: 12em; min-width: 40em; }}</style><h1>{title}</h1>{field}
 <script>
 // What a page sends when it closes must be short; what it holds need not be.
 const tell = (what, body = "") => body === ""
@@ -73,15 +73,20 @@ const field = document.getElementById("field");
 tell("open");
 addEventListener("pagehide", () => tell("gone"));
 field.focus();
-field.addEventListener("input", () => tell("content", field.innerHTML));
+requestAnimationFrame(() => tell("painted"));
+field.addEventListener("input", () => tell("content", field.value ?? field.innerHTML));
 document.addEventListener("selectionchange", () => tell("selected", String(getSelection())));
 </script>"""
 
-    def __init__(self):
+    FIELDS = {"rich": '<div id="field" contenteditable>{}</div>',
+              "plain": '<textarea id="field">{}</textarea>'}
+
+    def __init__(self, kind="rich", text=""):
+        """`text` is markup, and what is in the field at first."""
         site = self
         self.open = []
         self.told = {}
-        self.text = ""
+        self.field = self.FIELDS[kind].format(text)
 
         class Handler(http.server.BaseHTTPRequestHandler):
             def do_GET(self):
@@ -90,7 +95,8 @@ document.addEventListener("selectionchange", () => tell("selected", String(getSe
                     self.send_error(404)
                     return
                 title = urllib.parse.parse_qs(url.query).get("h", ["Untitled"])[0]
-                page = Site.PAGE.format(title=title, query="?" + url.query, text=site.text).encode()
+                page = Site.PAGE.format(title=title, query="?" + url.query,
+                                        field=site.field).encode()
                 self.send_response(200)
                 self.send_header("Content-Type", "text/html")
                 self.send_header("Cache-Control", "no-store")

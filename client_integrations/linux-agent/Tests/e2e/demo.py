@@ -11,7 +11,6 @@ import re
 import shutil
 import signal
 import sys
-import tempfile
 
 import session
 from session import wait_for
@@ -28,21 +27,6 @@ SECRET = "correct horse battery staple"
 
 def step(text):
     print(f"==> {text}", flush=True)
-
-
-def start_software_tpm(desktop):
-    """A TPM in software, so that the demo shows what a computer with a TPM does; nothing without
-    the packages."""
-    if not shutil.which("swtpm"):
-        return "none"
-    # The library finds the control socket by adding ".ctrl" to the path of the other.
-    folder = pathlib.Path(tempfile.mkdtemp(prefix="tpm-", dir=desktop.folder))
-    socket = folder / "s"
-    desktop.start("swtpm", "socket", "--tpm2", "--tpmstate", f"dir={folder}",
-                  "--ctrl", f"type=unixio,path={socket}.ctrl", "--server",
-                  f"type=unixio,path={socket}", "--flags", "not-need-init,startup-clear")
-    wait_for("the software TPM starts", socket.exists)
-    return f"swtpm:path={socket}"
 
 
 def answer_prompts(desktop):
@@ -67,7 +51,8 @@ def run(arguments):
         url = desktop.start_server()
         step(f"The development signing server runs at {url}")
         desktop.write_settings(ServerURL=url)
-        desktop.start_agent(tpm=start_software_tpm(desktop))
+        # What a computer with a TPM does, where the package is there.
+        desktop.start_agent(tpm=desktop.start_software_tpm() if shutil.which("swtpm") else "none")
         step("Quillseal runs; opening an editor with a letter, selecting all of it")
         editor = desktop.open_editor(LETTER)
         desktop.select_all(LETTER)

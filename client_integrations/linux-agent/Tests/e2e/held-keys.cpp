@@ -1,7 +1,9 @@
 // Holds keys down as a person's hands do: on the X server's own keyboard device, not on the one
-// that synthesised keys come from. usage: held-keys MILLISECONDS KEYSYM...   presses in order,
-// waits, lets go in reverse order
+// that synthesised keys come from. Waits first until no key of any device is down.
+// usage: held-keys MILLISECONDS [KEYSYM...]   presses in order, waits, lets go in reverse order
 
+#include <algorithm>
+#include <array>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -35,13 +37,25 @@ XDevice* openKeyboard(Display* display) {
   return keyboard;
 }
 
+bool waitForRest(Display* display) {
+  constexpr std::chrono::seconds patience(10);
+  const auto deadline = std::chrono::steady_clock::now() + patience;
+  while (std::chrono::steady_clock::now() < deadline) {
+    std::array<char, 32> down{};
+    XQueryKeymap(display, down.data());
+    if (std::ranges::all_of(down, [](char keys) { return keys == 0; })) return true;
+    std::this_thread::sleep_for(std::chrono::milliseconds(2));
+  }
+  return false;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   const std::span arguments(argv, static_cast<std::size_t>(argc));
   const std::unique_ptr<Display, CloseDisplay> display(XOpenDisplay(nullptr));
-  if (arguments.size() < 3 || display == nullptr) {
-    std::fputs("usage: held-keys MILLISECONDS KEYSYM..., with an X server\n", stderr);
+  if (arguments.size() < 2 || display == nullptr) {
+    std::fputs("usage: held-keys MILLISECONDS [KEYSYM...], with an X server\n", stderr);
     return 2;
   }
   XDevice* const keyboard = openKeyboard(display.get());
@@ -57,6 +71,10 @@ int main(int argc, char** argv) {
       return 1;
     }
     keys.push_back(key);
+  }
+  if (!waitForRest(display.get())) {
+    std::fputs("held-keys: a key stays down\n", stderr);
+    return 1;
   }
   for (const unsigned key : keys)
     XTestFakeDeviceKeyEvent(display.get(), keyboard, key, True, nullptr, 0, CurrentTime);

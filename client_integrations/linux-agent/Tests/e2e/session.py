@@ -9,6 +9,7 @@ import pathlib
 import re
 import shutil
 import signal
+import sqlite3
 import subprocess
 import tempfile
 import time
@@ -150,8 +151,10 @@ class Session:
     def _start_desktop(self):
         display_file = self.folder / "display"
         with open(display_file, "w") as number:
+            # The server would start over, and lose whoever connects just then, each time its last
+            # client goes; while the desktop starts, that is often.
             self.start("Xvfb", "-displayfd", number.fileno(), "-screen", "0", f"{self.size}x24",
-                       "-nolisten", "tcp", pass_fds=[number.fileno()])
+                       "-nolisten", "tcp", "-noreset", pass_fds=[number.fileno()])
         number = wait_for("the X server starts", lambda: display_file.read_text().strip())
         self.env["DISPLAY"] = f":{number}"
         bus = self.start("dbus-daemon", "--session", "--nofork", "--print-address=1")
@@ -180,14 +183,26 @@ class Session:
 
     # The agent and its server
 
-    def start_server(self, *options):
-        self.server = self.start(self.programs["quillseal-dev-server"], "--port", "0",
-                                 "--database", self.folder / "registry.sqlite", "--verbose",
-                                 *options)
+    @property
+    def registry(self):
+        return self.folder / "registry.sqlite"
+
+    def start_server(self, *options, port=0):
+        self.server = self.start(self.programs["quillseal-dev-server"], "--port", port,
+                                 "--database", self.registry, "--verbose", *options)
         found = self.wait_for_output(self.server, r"http://[\d.]+:\d+",
                                      "the development server starts")
         self.server_url = found[0]
         return self.server_url
+
+    def recorded(self):
+        """Text digest and scope of the signatures that the server has, the oldest first."""
+        database = sqlite3.connect(f"file:{self.registry}?mode=ro", uri=True)
+        try:
+            return database.execute(
+                "SELECT text_digest, scope FROM signatures ORDER BY rowid").fetchall()
+        finally:
+            database.close()
 
     @property
     def settings_file(self):
@@ -205,6 +220,17 @@ class Session:
         self.agent = self.start(self.programs["quillseal"], "--tpm", tpm, *options)
         self.wait_for_output(self.agent, r"\[start\] ready", "the agent is ready")
         return self.agent
+
+    def start_software_tpm(self):
+        """Gives the name under which the agent knows it."""
+        # The library finds the control socket by adding ".ctrl" to the path of the other.
+        folder = pathlib.Path(tempfile.mkdtemp(prefix="tpm-", dir=self.folder))
+        socket = folder / "s"
+        self.start("swtpm", "socket", "--tpm2", "--tpmstate", f"dir={folder}",
+                   "--ctrl", f"type=unixio,path={socket}.ctrl", "--server",
+                   f"type=unixio,path={socket}", "--flags", "not-need-init,startup-clear")
+        wait_for("the software TPM starts", socket.exists)
+        return f"swtpm:path={socket}"
 
     def wait_for_log(self, pattern, what):
         return self.wait_for_output(self.agent, pattern, what)
@@ -224,13 +250,31 @@ class Session:
     def wait_for_window(self, pattern, what=None):
         """Waits until a window whose title matches has the keyboard."""
         return wait_for(what or f"a window “{pattern}” comes to the front",
-                        lambda: re.search(pattern, self.active_window_name()))
+                        lambda: self._has_keys() and re.search(pattern, self.active_window_name()))
+
+    def active_window(self):
+        return self.run("xdotool", "getactivewindow", check=False).strip()
+
+    def _has_keys(self):
+        """Whether keys go to the program of the active window: while windows come and go, the
+        window manager may still have them. The upper bits of a window's number tell the program."""
+        focus = self.run("xdotool", "getwindowfocus", "-f", check=False).strip()
+        active = self.active_window()
+        return bool(focus and active) and int(focus) >> 21 == int(active) >> 21
+
+    def wait_for_next_window(self, before, pattern):
+        """Waits until a window other than `before` has the keyboard, its title maybe the same."""
+        wait_for(f"another window “{pattern}” comes to the front",
+                 lambda: self.active_window() != before and self._has_keys() and
+                 re.search(pattern, self.active_window_name()))
 
     def wait_for_no_window(self, pattern):
         wait_for(f"the window “{pattern}” closes",
                  lambda: not any(re.search(pattern, name) for name in self.window_names()))
 
     def key(self, *keys):
+        # Pressed while the agent holds others down, these would mix: both use one device.
+        self.run(self.programs["held-keys"], 0)
         self.run("xdotool", "key", *keys)
 
     def key_until(self, key, condition, what):
@@ -275,9 +319,9 @@ class Session:
         except subprocess.TimeoutExpired:
             return ""
 
-    def shown_notifications(self):
-        """What the notification service was asked to show, as it saw it on the bus."""
-        return self.output_of(self.monitor)
+    def wait_for_notification(self, text):
+        """Waits until the notification service is asked to show it."""
+        wait_for(f"a notification tells “{text}”", lambda: text in self.output_of(self.monitor))
 
     def screenshot(self, path):
         self.run("import", "-window", "root", path)
@@ -288,14 +332,17 @@ class Session:
         """An editor with a new file; gives the path of the file."""
         path = self.home / name
         path.write_text(text)
+        self.wait_for_no_window(re.escape(name))  # of an earlier editor that has just ended
         editor = self.start("mousepad", "--disable-server", path)
         editor.file = path
         self.wait_for_window(re.escape(name), "the editor opens")
         return editor
 
-    def select_all(self, expected):
-        self.key("ctrl+a")
-        wait_for("the editor selects all", lambda: self.selection("primary") == expected)
+    def select_all(self, expected, keys="ctrl+a"):
+        """Applications differ in the white space around paragraphs."""
+        self.key(keys)
+        wait_for("all of the text is selected",
+                 lambda: self.selection("primary").split() == expected.split())
 
     def saved_text(self, editor, containing):
         """Has the editor save until its file holds the text asked for; gives the file's text."""

@@ -1,11 +1,12 @@
 #!/usr/bin/env python3
 """The agent used as a person uses it, on a virtual desktop with real applications.
 
-usage: stories.py --quillseal PATH --server PATH --held-keys PATH [TEST...]
+usage: stories.py --quillseal PATH --server PATH --held-keys PATH --secret-editor PATH [TEST...]
 """
 
 import argparse
-import os
+import hashlib
+import html
 import pathlib
 import re
 import signal
@@ -13,10 +14,16 @@ import sys
 import unittest
 
 import session
+from applications import Terminal, Writer
+from browsers import Browser, Site
 from session import wait_for
 
 LETTER = "Dear Ms Whitcombe, thank you for the visit on 14 March. The second draft suits us well."
-PASSPHRASE = "correct horse battery staple"
+SECRET = "correct horse battery staple"
+# In paragraphs, with characters that are written in more ways than one, and what is signed of it.
+PARAGRAPHS = "Dear Ms Whitcombe,\n\nthe second draft of “the lease” suits us — Zoë, 京都"
+DIGEST = hashlib.sha256(
+    'DearMsWhitcombe,theseconddraftof"thelease"suitsus-Zoë,京都'.encode()).hexdigest()
 PROGRAMS = {}
 
 
@@ -44,24 +51,40 @@ class Story(unittest.TestCase):
         self.desktop.write_settings(ServerURL=url, **{"SigningMode": "enclave", **settings})
         self.desktop.start_agent()
 
-    def choose_passphrase(self, passphrase=PASSPHRASE):
-        self.desktop.wait_for_window("Choose a passphrase")
-        self.desktop.type(passphrase)
+    def choose_secret(self, kind="passphrase"):
+        self.desktop.wait_for_window(f"Choose a {kind}")
+        self.desktop.type(SECRET)
         self.desktop.key("Tab")
-        self.desktop.type(passphrase)
+        self.desktop.type(SECRET)
         self.desktop.key("Return")
 
-    def enter_passphrase(self, passphrase=PASSPHRASE):
-        self.desktop.wait_for_window("Enter the passphrase")
-        self.desktop.type(passphrase)
+    def enter_secret(self, secret=SECRET, kind="passphrase"):
+        self.desktop.wait_for_window(f"Enter the {kind}")
+        self.desktop.type(secret)
         self.desktop.key("Return")
 
-    def sign_in_editor(self, text=LETTER):
+    def enter_wrong_secret(self, kind="passphrase"):
+        self.desktop.wait_for_window(f"Enter the {kind}")
+        question = self.desktop.active_window()
+        self.enter_secret("not the one I chose", kind)
+        self.desktop.wait_for_next_window(question, f"Enter the {kind}")
+
+    def close(self, title, *keys):
+        """Waits for a dialog and ends it by keyboard."""
+        self.desktop.wait_for_window(title)
+        self.desktop.key(*keys or ("Return",))
+        self.desktop.wait_for_no_window(title)
+
+    def press_in_editor(self, text=LETTER):
         editor = self.desktop.open_editor(text)
         self.desktop.select_all(text)
         self.desktop.press_hotkey()
-        self.choose_passphrase()
-        self.enter_passphrase()
+        return editor
+
+    def sign_in_editor(self, text=LETTER):
+        editor = self.press_in_editor(text)
+        self.choose_secret()
+        self.enter_secret()
         return editor
 
     def assert_signed(self, editor, text=LETTER):
@@ -79,8 +102,7 @@ class Signing(Story):
         link = self.assert_signed(editor)
         page = self.desktop.run("curl", "-sS", "--fail", link)
         self.assertRegex(page, "(?i)valid|genuine|signature")
-        wait_for("a notification tells of the signature",
-                 lambda: "✅ Signature Generated!" in self.desktop.shown_notifications())
+        self.desktop.wait_for_notification("✅ Signature Generated!")
         self.assertIn("text/html", self.desktop.selection(target="TARGETS"))
 
     def test_a_key_that_the_server_does_not_know_is_registered_and_asked_for_again(self):
@@ -89,7 +111,7 @@ class Signing(Story):
         editor = self.sign_in_editor()
         self.desktop.wait_for_output(self.desktop.server, "/api/register_native 200",
                                      "the key is registered")
-        self.enter_passphrase()
+        self.enter_secret()
         self.assert_signed(editor)
 
     def test_lock_keys_and_a_long_press_change_nothing(self):
@@ -109,108 +131,235 @@ class Signing(Story):
                 finally:
                     if lock:
                         self.desktop.key(lock)
-                self.enter_passphrase()
+                self.enter_secret()
                 self.assert_signed(editor)
 
     def test_without_a_selection_everything_is_taken(self):
         self.start()
         editor = self.desktop.open_editor(LETTER)
         self.desktop.press_hotkey()
-        self.choose_passphrase()
-        self.enter_passphrase()
+        self.choose_secret()
+        self.enter_secret()
         self.assert_signed(editor)
 
     def test_a_wrong_passphrase_may_be_corrected(self):
         self.start()
-        editor = self.desktop.open_editor(LETTER)
-        self.desktop.select_all(LETTER)
-        self.desktop.press_hotkey()
-        self.choose_passphrase()
-        self.enter_passphrase("not the one I chose")
-        self.desktop.wait_for_no_window("Enter the passphrase")
-        self.enter_passphrase()
+        editor = self.press_in_editor()
+        self.choose_secret()
+        self.enter_wrong_secret()
+        self.enter_secret()
         self.assert_signed(editor)
 
-    def test_the_confirmation_covers_medium_and_recipient(self):
-        self.start(ConfirmBeforeSigning="true")
-        editor = self.desktop.open_editor(LETTER)
-        self.desktop.select_all(LETTER)
-        self.desktop.press_hotkey()
-        self.choose_passphrase()
-        self.desktop.wait_for_window("Sign this content?")
-        self.desktop.type("whitcombe@example.org")
-        self.desktop.key("Return")
-        self.enter_passphrase()
-        self.assert_signed(editor)
-        self.assertIn("QUILLSEAL · Other / Unspecified → whitcombe@example.org · ",
-                      editor.file.read_text())
 
+class Applications(Story):
+    """One letter, written in different applications: it has one digest, and the block takes its
+    place in the form that each of them knows."""
 
-class Refusals(Story):
     def setUp(self):
         super().setUp()
         self.start()
 
-    def press_on(self, text):
-        editor = self.desktop.open_editor(text)
-        self.desktop.select_all(text)
+    def sign(self):
         self.desktop.press_hotkey()
-        self.choose_passphrase()
+        self.choose_secret()
+        self.desktop.wait_for_window("Enter the passphrase")
+        offered = self.desktop.selection(target="TARGETS").split()
+        self.enter_secret()
+        return offered
+
+    def assert_recorded(self, scope):
+        self.assertEqual(self.desktop.recorded(), [(DIGEST, scope)])
+
+    def test_an_editor(self):
+        editor = self.desktop.open_editor(PARAGRAPHS)
+        self.desktop.select_all(PARAGRAPHS)
+        self.sign()
+        self.assert_signed(editor, PARAGRAPHS)
+        self.assert_recorded("Public Broadcast")
+
+    def test_a_word_processor(self):
+        writer = Writer(self.desktop, PARAGRAPHS, bold="draft")
+        self.desktop.select_all(PARAGRAPHS)
+        offered = self.sign()
+        self.assertLessEqual({"text/html", "text/rtf"}, set(offered))
+        document = writer.saved("Check this signature")
+        # The text keeps its formatting, and the stamp is a table.
+        self.assertRegex(document, r'<text:span text:style-name="\w+">draft</text:span>')
+        self.assertEqual(document.count("<table:table "), 1)
+        self.assertEqual((document.count("『"), document.count("』")), (1, 1))
+        self.assert_recorded("Word Document (LibreOffice Writer)")
+
+    def sign_in_browser(self, kind, text):
+        site = Site(kind, text)
+        browser = Browser(self.desktop, "chromium")
+        browser.start(site.address("Mail"))
+        browser.wait_for_page("Mail")
+        wait_for("the page is shown", lambda: ("painted", "Mail") in site.told)
+        self.desktop.select_all(PARAGRAPHS)
+        self.sign()
+        content = wait_for("the block is in the page", lambda: site.told.get(("content", "Mail")))
+        self.assert_recorded("Public Broadcast")
+        return content
+
+    def test_a_text_area(self):
+        content = self.sign_in_browser("plain", PARAGRAPHS)
+        self.assertTrue(content.startswith(f"『{PARAGRAPHS}』\n\n────"), content)
+
+    def test_a_rich_text_field(self):
+        markup = PARAGRAPHS.replace("draft", "<b>draft</b>").replace("\n", "<br>")
+        content = self.sign_in_browser("rich", markup)
+        self.assertEqual(content.count("<table"), 1, content)
+        self.assertRegex(content, r"<(b|strong)\b[^>]*>draft</")
+        text = html.unescape(re.sub(r"<[^>]+>", "", content))
+        self.assertRegex("".join(text.split()), f"^『{''.join(PARAGRAPHS.split())}』🛡️QUILLSEAL")
+
+    def test_a_terminal_whose_program_goes_on(self):
+        terminal = Terminal(self.desktop, PARAGRAPHS)
+        self.desktop.select_all(PARAGRAPHS, Terminal.SELECT_ALL)
+        self.sign()
+        # This terminal asks before it pastes more than one line.
+        self.close("Unsafe Paste")
+        self.desktop.key("Return")
+        block = wait_for("the program reads the block",
+                         lambda: terminal.received.read_text().partition("Check this signature"))
+        self.assertEqual(block[0].partition("』")[0], f"『{PARAGRAPHS}")
+        self.assert_recorded("Public Broadcast")
+
+    def test_a_copy_that_is_marked_as_a_secret_is_no_text(self):
+        self.desktop.start(PROGRAMS["secret-editor"], LETTER)
+        self.desktop.wait_for_window("Vault")
+        self.desktop.select_all(LETTER)
+        self.desktop.press_hotkey()
+        self.choose_secret()
+        self.close("No Text Found")
+        self.assertEqual(self.desktop.recorded(), [])
+        self.assertEqual(self.desktop.selection(), LETTER)
+
+
+class SoftwareTpm(Story):
+    def test_a_key_in_the_tpm_signs_once_the_pin_is_right(self):
+        self.desktop.write_settings(ServerURL=self.desktop.start_server(), SigningMode="enclave")
+        self.desktop.start_agent(tpm=self.desktop.start_software_tpm())
+        self.assertIn("TPM simulator", self.desktop.output_of(self.desktop.agent))
+        editor = self.press_in_editor()
+        self.choose_secret("PIN")
+        self.enter_wrong_secret("PIN")
+        self.enter_secret(kind="PIN")
+        self.assert_signed(editor)
+        # Nothing of the TPM's own software, which tells of every command that failed.
+        for line in self.desktop.output_of(self.desktop.agent).splitlines():
+            self.assertRegex(line, r"^\[\w+\] ")
+
+
+class Dialogs(Story):
+    """All of them are answered by keyboard."""
+
+    def press_on(self, text, **settings):
+        self.start(**settings)
+        editor = self.press_in_editor(text)
+        self.choose_secret()
         return editor
 
-    def test_too_short(self):
-        editor = self.press_on("Yes.")
-        self.desktop.wait_for_window("Not signed — too short")
+    def press_again(self, editor):
+        self.desktop.wait_for_window(re.escape(editor.file.name))
+        self.desktop.press_hotkey()
+
+    def assert_unsigned(self, editor, text):
+        self.assertEqual(self.desktop.recorded(), [])
+        self.assertEqual(editor.file.read_text(), text)
+        self.assertEqual(self.desktop.selection(), text)
+
+    def assert_refused(self, text, title, key):
+        editor = self.press_on(text)
+        self.close(title, key)
+        self.assert_unsigned(editor, text)
+
+    def test_a_text_that_is_too_short(self):
+        self.assert_refused("Yes.", "Not signed — too short", "Return")
+
+    def test_a_text_that_nobody_should_sign(self):
+        self.assert_refused(
+            "Dear Ms Whitcombe, please buy gift cards and send me the codes of all 14 of them today.",
+            "Not signed — this looks like a scam", "Escape")
+
+    def test_a_warning_stops_or_is_overruled(self):
+        text = "Congratulations, you have won a prize! Click here to claim it today."
+        editor = self.press_on(text)
+        self.close("Sign this anyway?", "Escape")
+        self.assert_unsigned(editor, text)
+        self.press_again(editor)
+        self.close("Sign this anyway?", "Tab", "Return")
+        self.assert_unsigned(editor, text)
+        self.press_again(editor)
+        self.close("Sign this anyway?", "Return")
+        self.enter_secret()
+        self.assert_signed(editor, text)
+
+    def test_the_confirmation_covers_medium_and_recipient(self):
+        editor = self.press_on(LETTER, ConfirmBeforeSigning="true")
+        self.close("Sign this content?", "Escape")
+        self.assert_unsigned(editor, LETTER)
+        self.press_again(editor)
+        self.desktop.wait_for_window("Sign this content?")
+        self.desktop.type("whitcombe@example.org")
+        self.desktop.key("shift+Tab")
+        self.desktop.type("Link")
         self.desktop.key("Return")
-        self.desktop.wait_for_no_window("Not signed")
-        self.assertEqual(editor.file.read_text(), "Yes.")
-        self.assertEqual(self.desktop.selection(), "Yes.")
+        self.enter_secret()
+        self.assert_signed(editor)
+        self.assertIn("QUILLSEAL · LinkedIn Post → whitcombe@example.org · ",
+                      editor.file.read_text())
+        self.assertEqual(self.desktop.recorded()[0][1], "LinkedIn Post → whitcombe@example.org")
 
     def test_a_cancelled_passphrase_leaves_the_text_alone(self):
         editor = self.press_on(LETTER)
-        self.desktop.wait_for_window("Enter the passphrase")
-        self.desktop.key("Escape")
-        self.desktop.wait_for_window("Signing Error")
-        self.desktop.key("Escape")
-        self.desktop.wait_for_no_window("Signing Error")
-        self.assertEqual(self.desktop.selection(), LETTER)
-        self.assertEqual(editor.file.read_text(), LETTER)
+        self.close("Enter the passphrase", "Escape")
+        self.close("Signing Error", "Escape")
+        self.assert_unsigned(editor, LETTER)
 
 
 class Trouble(Story):
     def test_the_server_is_down(self):
         self.desktop.write_settings(ServerURL="http://127.0.0.1:9", SigningMode="enclave")
         self.desktop.start_agent()
-        self.desktop.open_editor(LETTER)
-        self.desktop.select_all(LETTER)
-        self.desktop.press_hotkey()
-        self.choose_passphrase()
-        self.desktop.wait_for_window("Could Not Set Up This Computer")
-        self.desktop.key("Return")
-        self.desktop.wait_for_no_window("Could Not")
+        self.press_in_editor()
+        self.choose_secret()
+        self.close("Could Not Set Up This Computer")
+
+    def test_a_server_that_has_forgotten_the_key_is_told_it_again(self):
+        self.start()
+        editor = self.sign_in_editor()
+        self.assert_signed(editor)
+        self.desktop.end(self.desktop.server)
+        self.desktop.registry.unlink()
+        self.desktop.start_server(port=self.desktop.server_url.rsplit(":", 1)[1])
+        self.desktop.end(editor)
+        editor = self.press_in_editor()
+        self.enter_secret()
+        self.desktop.wait_for_output(self.desktop.server, "/api/register_native 200",
+                                     "the key is registered again")
+        self.enter_secret()
+        self.assert_signed(editor)
+        self.assertEqual(len(self.desktop.recorded()), 1)
 
     def test_an_editor_that_closes_before_the_paste(self):
         self.start()
-        editor = self.desktop.open_editor(LETTER)
-        self.desktop.select_all(LETTER)
-        self.desktop.press_hotkey()
-        self.choose_passphrase()
+        editor = self.press_in_editor()
+        self.choose_secret()
         self.desktop.wait_for_window("Enter the passphrase")
         self.desktop.end(editor)
-        self.enter_passphrase()
+        self.enter_secret()
         wait_for("the block is on the clipboard",
                  lambda: self.desktop.selection().startswith(f"『{LETTER}』"))
 
     def test_killed_in_mid_run_nothing_stays_behind(self):
         self.start()
-        self.desktop.open_editor(LETTER)
-        self.desktop.select_all(LETTER)
-        self.desktop.press_hotkey()
+        self.press_in_editor()
         self.desktop.wait_for_window("Choose a passphrase")
         self.desktop.end(self.desktop.agent, signal.SIGKILL)
         self.desktop.start_agent()
         self.desktop.press_hotkey()
-        self.choose_passphrase()
+        self.choose_secret()
         self.desktop.wait_for_window("Enter the passphrase")
 
 
@@ -245,12 +394,13 @@ class Commands(Story):
 
 def main():
     parser = argparse.ArgumentParser()
-    for name in ("quillseal", "server", "held-keys"):
+    for name in ("quillseal", "server", "held-keys", "secret-editor"):
         parser.add_argument(f"--{name}", required=True,
                             type=lambda path: pathlib.Path(path).resolve())
     arguments, rest = parser.parse_known_args()
     PROGRAMS.update({"quillseal": arguments.quillseal, "quillseal-dev-server": arguments.server,
-                     "held-keys": arguments.held_keys})
+                     "held-keys": arguments.held_keys,
+                     "secret-editor": arguments.secret_editor})
     unittest.main(argv=[sys.argv[0], *rest], verbosity=2)
 
 

@@ -1,0 +1,64 @@
+"""Applications in which people write, beside the editor and the browsers."""
+
+from session import wait_for
+
+# Asks nothing at the first start.
+WRITER_SETTINGS = """<?xml version="1.0" encoding="UTF-8"?>
+<oor:items xmlns:oor="http://openoffice.org/2001/registry">
+<item oor:path="/org.openoffice.Office.Common/Misc"><prop oor:name="ShowTipOfTheDay" oor:op="fuse">
+<value>false</value></prop></item>
+</oor:items>"""
+
+WRITER_DOCUMENT = """<?xml version="1.0" encoding="UTF-8"?>
+<office:document xmlns:office="urn:oasis:names:tc:opendocument:xmlns:office:1.0"
+  xmlns:style="urn:oasis:names:tc:opendocument:xmlns:style:1.0"
+  xmlns:text="urn:oasis:names:tc:opendocument:xmlns:text:1.0"
+  xmlns:fo="urn:oasis:names:tc:opendocument:xmlns:xsl-fo-compatible:1.0" office:version="1.3"
+  office:mimetype="application/vnd.oasis.opendocument.text">
+<office:automatic-styles><style:style style:name="bold" style:family="text">
+<style:text-properties fo:font-weight="bold"/></style:style></office:automatic-styles>
+<office:body><office:text>{}</office:text></office:body></office:document>"""
+
+
+class Writer:
+    """LibreOffice Writer with a document that holds `text`, the word `bold` in bold."""
+
+    def __init__(self, session, text, bold):
+        self.session = session
+        profile = session.home / ".config/libreoffice/4/user"
+        profile.mkdir(parents=True)
+        (profile / "registrymodifications.xcu").write_text(WRITER_SETTINGS)
+        marked = text.replace(bold, f'<text:span text:style-name="bold">{bold}</text:span>')
+        self.file = session.home / "letter.fodt"
+        self.file.write_text(WRITER_DOCUMENT.format(
+            "".join(f"<text:p>{line}</text:p>" for line in marked.split("\n"))))
+        session.start("soffice", "--norestore", "--nologo", "--nofirststartwizard", self.file)
+        session.wait_for_window("letter.fodt - LibreOffice Writer", "Writer opens the letter")
+
+    def saved(self, containing):
+        """Saves once the agent has done its work; gives the document's markup when it holds the
+        text asked for."""
+        self.session.wait_for_notification("✅ Signature Generated!")
+        self.session.wait_for_window("letter.fodt - LibreOffice Writer", "Writer is in front")
+        self.session.key("ctrl+s")
+
+        def text():
+            markup = self.file.read_text()
+            return markup if containing in markup else None
+        return wait_for(f"the document contains “{containing}”", text)
+
+
+class Terminal:
+    """A terminal that shows `text` and in which a program reads what is typed."""
+
+    SELECT_ALL = "ctrl+shift+a"
+
+    def __init__(self, session, text):
+        self.session = session
+        (session.home / "letter.txt").write_text(text)
+        self.received = session.home / "received.txt"
+        session.start("xfce4-terminal", "--disable-server", "--title", "Notes",
+                      "--dynamic-title-mode", "none", "--execute",
+                      "sh", "-c", f"cat letter.txt; exec cat > {self.received.name}")
+        session.wait_for_window("Notes", "the terminal opens")
+        wait_for("the program in the terminal waits for input", self.received.exists)

@@ -35,27 +35,38 @@ bool isLineBreakPairAt(std::string_view text, std::size_t index) {
 
 UGraphemeClusterBreak breakClass(char32_t scalar) {
   // The great blocks, whose members Unicode will not change, spare long texts the look-up.
-  if (scalar >= 0x4E00 && scalar <= 0x9FFF) return U_GCB_OTHER;
+  if (scalar < 0x80) {
+    if (scalar >= 0x20 && scalar != 0x7F) return U_GCB_OTHER;
+    if (scalar == '\r') return U_GCB_CR;
+    return scalar == '\n' ? U_GCB_LF : U_GCB_CONTROL;
+  }
+  const auto isIn = [scalar](char32_t first, char32_t last) {
+    return scalar >= first && scalar <= last;
+  };
+  constexpr char32_t lastBeforeSkinTones = 0x1F3FA;
+  if (isIn(0x4E00, 0x9FFF) || isIn(0x3001, 0x3029) || isIn(0x3041, 0x3096) ||
+      isIn(0x30A0, 0x30FF) || isIn(0xFF01, 0xFF9D) || isIn(0x1F300, lastBeforeSkinTones) ||
+      isIn(0x1F400, 0x1F64F))
+    return U_GCB_OTHER;
   if (scalar >= 0xAC00 && scalar <= 0xD7A3)
     return (scalar - 0xAC00) % 28 == 0 ? U_GCB_LV : U_GCB_LVT;
   return static_cast<UGraphemeClusterBreak>(
       u_getIntPropertyValue(static_cast<UChar32>(scalar), UCHAR_GRAPHEME_CLUSTER_BREAK));
 }
 
-/// Whether `after` can stand in one character with `before`, where `before` is that character's
-/// first scalar. REQUIRES: not CR before LF.
-bool mayJoin(char32_t before, char32_t after) {
-  if (before < 0x80 && after < 0x80) return false;
-  switch (breakClass(after)) {
+/// Whether one of class `after` can stand in one character with one of class `before`, where
+/// `before` is that character's first scalar. REQUIRES: not CR before LF.
+bool mayJoin(UGraphemeClusterBreak before, UGraphemeClusterBreak after) {
+  switch (after) {
     case U_GCB_OTHER:
     case U_GCB_CONTROL:
     case U_GCB_CR:
     case U_GCB_LF:
-      return breakClass(before) == U_GCB_PREPEND;
+      return before == U_GCB_PREPEND;
     case U_GCB_L:
     case U_GCB_LV:
     case U_GCB_LVT:
-      return breakClass(before) == U_GCB_PREPEND || breakClass(before) == U_GCB_L;
+      return before == U_GCB_PREPEND || before == U_GCB_L;
     default:
       return true;
   }
@@ -64,12 +75,10 @@ bool mayJoin(char32_t before, char32_t after) {
 /// Whether there is a boundary between the two, whatever stands before them.
 bool areAlwaysApart(char32_t before, char32_t after) {
   if (before == '\r' && after == '\n') return false;
+  const UGraphemeClusterBreak kind = breakClass(before);
   // A joiner or a mark may carry on what began before it.
-  if (before >= 0x80) {
-    const UGraphemeClusterBreak kind = breakClass(before);
-    if (kind != U_GCB_OTHER && kind != U_GCB_LV && kind != U_GCB_LVT) return false;
-  }
-  return !mayJoin(before, after);
+  if (before >= 0x80 && kind != U_GCB_OTHER && kind != U_GCB_LV && kind != U_GCB_LVT) return false;
+  return !mayJoin(kind, breakClass(after));
 }
 
 /// The length of the character that starts at `index` when its first scalar and the next one
@@ -79,7 +88,7 @@ std::size_t plainLengthAt(std::string_view text, std::size_t index) {
   std::size_t end = index;
   const char32_t scalar = nextScalar(text, end);
   if (end == text.size()) return end - index;
-  return mayJoin(scalar, firstScalar(text.substr(end))) ? 0 : end - index;
+  return mayJoin(breakClass(scalar), breakClass(firstScalar(text.substr(end)))) ? 0 : end - index;
 }
 
 struct CloseText {
@@ -202,7 +211,7 @@ std::string uppercased(std::string_view text) {
 std::size_t characterCount(std::string_view text) {
   std::size_t count = 0;
   for (CharacterCursor cursor(text); !cursor.atEnd();) {
-    count += cursor.nextAsciiCharacters().size();
+    count += cursor.skipSingleScalars(text.size());
     if (cursor.atEnd()) break;
     static_cast<void>(cursor.next());
     ++count;
@@ -213,6 +222,8 @@ std::size_t characterCount(std::string_view text) {
 std::string_view firstCharacters(std::string_view text, std::size_t count) {
   CharacterCursor cursor(text);
   while (count > 0 && !cursor.atEnd()) {
+    count -= cursor.skipSingleScalars(count);
+    if (count == 0 || cursor.atEnd()) break;
     static_cast<void>(cursor.next());
     --count;
   }
@@ -266,6 +277,25 @@ std::string_view CharacterCursor::nextAsciiCharacters() {
   if (end > start && end < text_.size() && !isAsciiAt(text_, end)) --end;
   position_ = end;
   return text_.substr(start, end - start);
+}
+
+std::size_t CharacterCursor::skipSingleScalars(std::size_t most) {
+  if (position_ < stretchEnd_) return 0;
+  std::size_t skipped = 0;
+  std::size_t behind = position_;
+  char32_t scalar = atEnd() ? 0 : nextScalar(text_, behind);
+  UGraphemeClusterBreak kind = breakClass(scalar);
+  for (; skipped < most && !atEnd(); ++skipped) {
+    const std::size_t end = behind;
+    if (end < text_.size()) {
+      const char32_t next = nextScalar(text_, behind);
+      const UGraphemeClusterBreak nextKind = breakClass(next);
+      if ((kind == U_GCB_CR && nextKind == U_GCB_LF) || mayJoin(kind, nextKind)) break;
+      kind = nextKind;
+    }
+    position_ = end;
+  }
+  return skipped;
 }
 
 std::size_t CharacterCursor::nextTableBoundary() {

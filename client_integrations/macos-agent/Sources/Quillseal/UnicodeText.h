@@ -86,6 +86,10 @@ class CharacterCursor {
   /// Takes as many of the next characters as consist of one ASCII byte each, possibly none.
   [[nodiscard]] std::string_view nextAsciiCharacters();
 
+  /// Takes as many of the next characters as consist of one scalar each, `most` of them at most;
+  /// their number.
+  std::size_t skipSingleScalars(std::size_t most);
+
  private:
   [[nodiscard]] std::size_t nextTableBoundary();
 

@@ -9,9 +9,11 @@
 #include <benchmark/benchmark.h>
 
 #include "IcuReference.h"
+#include "PatternText.h"
 #include "Quillseal/ContentRisk.h"
 #include "Quillseal/ContentRules.h"
 #include "Quillseal/UnicodeText.h"
+#include "RandomText.h"
 
 namespace quillseal {
 namespace {
@@ -111,6 +113,32 @@ void build(benchmark::State& state) {
   state.counters["table_bytes"] = static_cast<double>(bytes);
 }
 
+/// The text of `size` bytes that takes the most steps, of all that repeat a part of a pattern.
+std::string worstFound(std::size_t size) {
+  const auto patterns = ContentRisk::patterns();
+  const screening::ScreeningEngine engine(patterns);
+  const testing::PatternText source(patterns);
+  std::string worst;
+  std::uint64_t most = 0;
+  for (std::size_t i = 0; i < patterns.size(); ++i) {
+    std::vector<std::string> units = source.parts(i);
+    std::mt19937 random(static_cast<unsigned>(i));
+    for (int along = 0; along < 10; ++along)
+      units.push_back(source.along(i, random).substr(0, 400));
+    for (const std::string& unit : units) {
+      if (unit.empty()) continue;
+      for (const char* separator : {"", " ", "\n", "a"}) {
+        std::uint64_t steps = 0;
+        static_cast<void>(engine.firstMatches(repeated(unit + separator, 3000), &steps));
+        if (steps <= most) continue;
+        most = steps;
+        worst = unit + separator;
+      }
+    }
+  }
+  return repeated(worst, size);
+}
+
 [[maybe_unused]] const bool registered = [] {
   const std::pair<std::string, std::string> besideTheLoop[] = {
       {"mail_60_words", std::string(mail)},
@@ -138,6 +166,11 @@ void build(benchmark::State& state) {
   };
   for (const auto& [name, text] : alone)
     benchmark::RegisterBenchmark(("screen/" + name).c_str(), screen, text);
+  benchmark::RegisterBenchmark("screen/worst_found_200k", [](benchmark::State& state) {
+    static const std::string text = worstFound(200'000);
+    state.SetLabel(testing::escaped(text.substr(0, 60)));
+    screen(state, text);
+  });
   benchmark::RegisterBenchmark("build_tables", build);
   return true;
 }();

@@ -61,7 +61,7 @@ Comparisons compareWithIcu(std::span<const Pattern> patterns, std::size_t texts,
 }
 
 TEST(ScreeningEngine, AgreesWithIcuOnEveryConstruct) {
-  constexpr std::array<std::string_view, 62> expressions{
+  constexpr std::array<std::string_view, 76> expressions{
       // Letters, folding and the splitting of strings by groups, sets and quantifiers
       "strasse", "ss", "s", "as+", "ass?", "a(?:s)s", "[s]s", "s[s]", "[.]fi", "of[f]i", "fi|ff|fl",
       "ſtaff", "K", "kk", "ß", "xß?", "İ", "i", "σς", "e\u0301", "\u0149", "ŉ?t",
@@ -73,6 +73,12 @@ TEST(ScreeningEngine, AgreesWithIcuOnEveryConstruct) {
       "(?:a{0,2}b)*c", "[^.]{0,20}?e", "\\d{1,3}(?:,\\d{3})*", "(?:\\w+ ){0,2}?a", "x*", "(?:)",
       // Positions
       "^a|e$", "\\s*$", "^\\s*\\w+\\s*$", "\\bt", "t\\B", "\\B\\W\\b", "\\Ax?\\z", "\\r$", "$",
+      // White space in and about literals, and literals longer than those that are looked for
+      "end\\s+of\\s*the", "\\s+the\\s", "\\sof\\s\\s", "a  b", "[- ]the\\b", "\\s*\\bsend",
+      "of[ \\t]\\n", "to\\s+\\b\\w", "(?:our|my)\\s(?:\\w+\\s+){0,2}?end\\b", "\\s?\\n\\s?of",
+      "(?:sub-?|the )account\\s+number\\b", "\\b\\s+account\\s+settings\\b",
+      "(?:\\w+s|people)\\s+of\\s+(?:all\\s+)?(?:colours|nations)\\b",
+      "[^.!?]{0,9}\\s+internationally\\w",
       // Looking around
       "a(?!b)", "(?=\\w{3})e", "t(?![\\s\\S]*x)", "(?<!\\w)e", "(?<=[ .])a",
       "(?=[\\s\\S]*a)(?=[\\s\\S]*\\be)", "^(?![\\s\\S]*x)[\\s\\S]*?(?:e\\w|a)"};

@@ -1,6 +1,7 @@
 #include "Quillseal/CharacterClasses.h"
 
 #include <algorithm>
+#include <limits>
 #include <map>
 #include <string>
 
@@ -64,15 +65,16 @@ class Stretches {
 
 }  // namespace
 
-std::uint32_t ClassSets::intern(const std::vector<std::uint64_t>& bits) {
-  const auto [known, isNew] =
-      indexes_.try_emplace(bits, static_cast<std::uint32_t>(bits_.size() / words_));
+ClassSetId ClassSets::intern(const std::vector<std::uint64_t>& bits) {
+  const std::size_t count = bits_.size() / words_;
+  if (count == std::numeric_limits<ClassSetId>::max()) throw PatternError("too many sets");
+  const auto [known, isNew] = indexes_.try_emplace(bits, static_cast<ClassSetId>(count));
   if (isNew) bits_.insert(bits_.end(), bits.begin(), bits.end());
   return known->second;
 }
 
-std::vector<std::uint64_t> ClassSets::bits(std::uint32_t set) const {
-  const auto first = bits_.begin() + static_cast<std::ptrdiff_t>(set * words_);
+std::vector<std::uint64_t> ClassSets::bits(ClassSetId set) const {
+  const auto first = bits_.begin() + static_cast<std::ptrdiff_t>(std::size_t{set} * words_);
   return {first, first + static_cast<std::ptrdiff_t>(words_)};
 }
 
@@ -87,6 +89,7 @@ std::size_t ClassSets::memoryUse() const {
 
 CharacterClasses::CharacterClasses(const SetTable& sets, std::vector<char32_t> alphabet)
     : alphabet_(std::move(alphabet)) {
+  alphabet_.push_back(U' ');
   std::sort(alphabet_.begin(), alphabet_.end());
   alphabet_.erase(std::unique(alphabet_.begin(), alphabet_.end()), alphabet_.end());
   alphabet_.shrink_to_fit();

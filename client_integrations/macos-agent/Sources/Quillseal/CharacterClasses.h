@@ -42,19 +42,22 @@ class ClassifiedText {
   std::vector<ClassId> elements_;
 };
 
+/// A set of classes, by its place in `ClassSets`.
+using ClassSetId = std::uint16_t;
+
 /// Sets of classes, each kept once, 64 classes to a word.
 class ClassSets {
  public:
   explicit ClassSets(std::size_t classCount) : words_(classCount / 64 + 1) {}
 
-  /// The index of a set. REQUIRES: bits.size() == words().
-  std::uint32_t intern(const std::vector<std::uint64_t>& bits);
+  /// REQUIRES: bits.size() == words(). Throws PatternError when there are too many.
+  ClassSetId intern(const std::vector<std::uint64_t>& bits);
 
   [[nodiscard]] std::size_t words() const { return words_; }
-  [[nodiscard]] bool contains(std::uint32_t set, ClassId id) const {
+  [[nodiscard]] bool contains(ClassSetId set, ClassId id) const {
     return (bits_[set * words_ + id / 64] >> (id % 64) & 1) != 0;
   }
-  [[nodiscard]] std::vector<std::uint64_t> bits(std::uint32_t set) const;
+  [[nodiscard]] std::vector<std::uint64_t> bits(ClassSetId set) const;
 
   /// Forgets what only `intern` needs.
   void finish();
@@ -63,14 +66,14 @@ class ClassSets {
  private:
   std::size_t words_;
   std::vector<std::uint64_t> bits_;
-  std::map<std::vector<std::uint64_t>, std::uint32_t> indexes_;
+  std::map<std::vector<std::uint64_t>, ClassSetId> indexes_;
 };
 
 /// Divides the code points into classes, so that a set of code points becomes a set of classes,
 /// and says how each class folds. Immutable once built.
 class CharacterClasses {
  public:
-  /// `alphabet`: the code points that occur in folded texts.
+  /// `alphabet`: the code points that occur in folded texts; the blank is added.
   CharacterClasses(const SetTable& sets, std::vector<char32_t> alphabet);
 
   [[nodiscard]] std::size_t count() const { return foldings_.size(); }
@@ -78,6 +81,8 @@ class CharacterClasses {
 
   /// REQUIRES: `c` is in the alphabet.
   [[nodiscard]] Letter letterOf(char32_t c) const;
+  /// That of the blank.
+  [[nodiscard]] Letter spaceLetter() const { return letterOf(U' '); }
   [[nodiscard]] ClassId classOf(char32_t c) const {
     return pages_[pageOf_[c / pageSize] * pageSize + c % pageSize];
   }
@@ -89,6 +94,8 @@ class CharacterClasses {
   [[nodiscard]] std::span<const ClassId> classesWith(Letter letter) const {
     return classesWith_[letter];
   }
+  /// \w
+  [[nodiscard]] bool isWord(ClassId id) const { return (traits_[id] & word) != 0; }
   /// \s
   [[nodiscard]] bool isSpace(ClassId id) const { return (traits_[id] & space) != 0; }
   [[nodiscard]] bool isLineTerminator(ClassId id) const { return (traits_[id] & terminator) != 0; }

@@ -1,6 +1,7 @@
 #include "Quillseal/LiteralIndex.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace quillseal::screening {
 namespace {
@@ -51,7 +52,11 @@ void LiteralIndex::assignSymbols(const CharacterClasses& classes) {
   symbolCount_ = symbolTotal;
   for (std::size_t id = 0; id < classes.count(); ++id) {
     std::vector<std::uint8_t> sequence;
-    for (const Letter letter : classes.folding(static_cast<ClassId>(id))) {
+    const Letter space[] = {classes.spaceLetter()};
+    const auto letters = classes.isSpace(static_cast<ClassId>(id))
+                             ? std::span<const Letter>(space)
+                             : classes.folding(static_cast<ClassId>(id));
+    for (const Letter letter : letters) {
       const auto symbols = symbolsOf(letter);
       sequence.insert(sequence.end(), symbols.begin(), symbols.end());
     }
@@ -99,7 +104,7 @@ void LiteralIndex::finish(const CharacterClasses& classes) {
   };
   insert(insert, 0, 0);
   trie_ = {};
-  if (nodes.size() > largestTarget) throw PatternError("too many literals");
+  if (nodes.size() > std::numeric_limits<State>::max()) throw PatternError("too many literals");
 
   const auto after = [&](std::uint32_t node, std::uint8_t symbol) {
     for (;; node = nodes[node].failure) {
@@ -136,10 +141,10 @@ void LiteralIndex::finish(const CharacterClasses& classes) {
       for (std::size_t symbol = 0; symbol < symbolCount_; ++symbol)
         full_.push_back(numbers[after(node, static_cast<std::uint8_t>(symbol))]);
     } else {
-      sparse_.push_back({.firstEdge = static_cast<std::uint32_t>(edges_.size()),
+      sparse_.push_back({.firstEdge = static_cast<std::uint16_t>(edges_.size()),
                          .failure = numbers[source.failure]});
       for (const auto& [symbol, child] : source.children)
-        edges_.push_back({.symbol = symbol, .target = numbers[child] & largestTarget});
+        edges_.push_back({.symbol = symbol, .target = numbers[child]});
     }
     if (source.values.empty()) continue;
     if (hitCount_++ == 0) firstHit_ = numbers[node];
@@ -147,10 +152,11 @@ void LiteralIndex::finish(const CharacterClasses& classes) {
     values_.insert(values_.end(), source.values.begin(), source.values.end());
   }
   fullCount_ = static_cast<State>(full_.size() / symbolCount_);
-  sparse_.push_back({.firstEdge = static_cast<std::uint32_t>(edges_.size()), .failure = root_});
+  sparse_.push_back({.firstEdge = static_cast<std::uint16_t>(edges_.size()), .failure = root_});
   valueStarts_.push_back(static_cast<std::uint32_t>(values_.size()));
-  for (auto* const words : {&full_, &valueStarts_, &values_})
-    words->shrink_to_fit();
+  full_.shrink_to_fit();
+  valueStarts_.shrink_to_fit();
+  values_.shrink_to_fit();
   sparse_.shrink_to_fit();
   edges_.shrink_to_fit();
 }
@@ -158,8 +164,8 @@ void LiteralIndex::finish(const CharacterClasses& classes) {
 std::size_t LiteralIndex::memoryUse() const {
   return sizeof(*this) + sparse_.capacity() * sizeof(SparseState) +
          edges_.capacity() * sizeof(Edge) + symbols_.capacity() * sizeof(Symbols) +
-         sequences_.capacity() +
-         (full_.capacity() + valueStarts_.capacity() + values_.capacity()) * sizeof(std::uint32_t);
+         sequences_.capacity() + full_.capacity() * sizeof(State) +
+         (valueStarts_.capacity() + values_.capacity()) * sizeof(std::uint32_t);
 }
 
 }  // namespace quillseal::screening

@@ -12,11 +12,13 @@ namespace quillseal::screening {
 
 /// Finds all occurrences of many literals in one pass over a classified text (Aho and Corasick,
 /// "Efficient string matching", 1975). Literals are over folded letters; a code point that folds to
-/// several letters counts as all of them. States near the root have a full row of successors, the
-/// many others only their own and a link to the state that goes on for them.
+/// several letters counts as all of them. The blank in a literal stands for any run of white space:
+/// of such a run, only the first code point is to be passed to `advance`. States near the root have
+/// a full row of successors, the many others only their own and a link to the state that goes on
+/// for them.
 class LiteralIndex {
  public:
-  using State = std::uint32_t;
+  using State = std::uint16_t;
 
   /// `value` is reported where `literal` (not empty, without `otherLetter`) ends.
   void add(std::span<const Letter> literal, std::uint32_t value);
@@ -37,7 +39,9 @@ class LiteralIndex {
   }
 
   /// Whether a literal ends in this state.
-  [[nodiscard]] bool isHit(State state) const { return state - firstHit_ < hitCount_; }
+  [[nodiscard]] bool isHit(State state) const {
+    return static_cast<State>(state - firstHit_) < hitCount_;
+  }
 
   /// The values of the literals that end here. REQUIRES: isHit(state).
   [[nodiscard]] std::span<const std::uint32_t> values(State state) const {
@@ -58,16 +62,16 @@ class LiteralIndex {
     std::map<Letter, std::uint32_t> children;
     std::vector<std::uint32_t> values;
   };
+  static constexpr std::uint8_t several = 0xFF;
+
   struct SparseState {
-    std::uint32_t firstEdge;
-    std::uint32_t failure;
+    std::uint16_t firstEdge;
+    State failure;
   };
   struct Edge {
-    std::uint32_t symbol : 8;
-    std::uint32_t target : 24;
+    std::uint16_t symbol;
+    State target;
   };
-  static constexpr std::uint32_t largestTarget = 0xFFFFFF;
-  static constexpr std::uint8_t several = 0xFF;
 
   [[nodiscard]] State after(State state, std::uint8_t symbol) const {
     while (state >= fullCount_) {
@@ -77,7 +81,7 @@ class LiteralIndex {
         if (edges_[edge].symbol == symbol) return edges_[edge].target;
       state = sparse.failure;
     }
-    return full_[state * symbolCount_ + symbol];
+    return full_[std::size_t{state} * symbolCount_ + symbol];
   }
   [[nodiscard]] std::vector<std::uint8_t> symbolsOf(Letter letter) const;
   void assignSymbols(const CharacterClasses& classes);
@@ -92,7 +96,7 @@ class LiteralIndex {
   State fullCount_ = 0;
   State firstHit_ = 0;
   State hitCount_ = 0;
-  std::vector<std::uint32_t> full_;
+  std::vector<State> full_;
   std::vector<SparseState> sparse_;  ///< and one more for the end of the last one's edges
   std::vector<Edge> edges_;
   std::vector<std::uint32_t> valueStarts_;

@@ -71,7 +71,7 @@ class PatternProgram::Compiler {
       case Node::Kind::FoldedText:
         add({.operation = Operation::FoldedText,
              .count = counted(node.text.size()),
-             .first = static_cast<std::uint32_t>(program_.letters_.size())});
+             .first = counted(program_.letters_.size())});
         for (const char32_t c : node.text)
           program_.letters_.push_back(classes_.letterOf(c));
         break;
@@ -102,7 +102,7 @@ class PatternProgram::Compiler {
             add({.operation = node.negative ? Operation::NegativeLookAhead : Operation::LookAhead});
         emit(node.children.front());
         add({.operation = Operation::Accept});
-        program_.code_[look].first = here();
+        program_.code_[look].first = counted(here());
         break;
       }
       case Node::Kind::PrecedingInSet:
@@ -121,11 +121,11 @@ class PatternProgram::Compiler {
       if (i + 1 < node.children.size()) jumps.push_back(add({.operation = Operation::Jump}));
     }
     for (const std::uint32_t jump : jumps)
-      program_.code_[jump].first = here();
+      program_.code_[jump].first = counted(here());
   }
 
   std::uint32_t addChoice(std::size_t targets) {
-    const auto first = static_cast<std::uint32_t>(program_.targets_.size());
+    const std::uint16_t first = counted(program_.targets_.size());
     program_.targets_.resize(first + targets);
     return add({.operation = Operation::Choice,
                 .count = counted(targets),
@@ -154,7 +154,8 @@ class PatternProgram::Compiler {
       targetOf(choices.back(), node.lazy ? 1 : 0) = here();
       emit(body);
     }
-    if (optional == unbounded) add({.operation = Operation::Jump, .first = choices.front()});
+    if (optional == unbounded)
+      add({.operation = Operation::Jump, .first = counted(choices.front())});
     for (const std::uint32_t choice : choices)
       targetOf(choice, node.lazy ? 0 : 1) = here();
   }
@@ -182,7 +183,7 @@ class PatternProgram::Compiler {
     return program_.targets_[program_.code_[choice].first + which].instruction;
   }
 
-  std::uint32_t setOf(std::size_t tableIndex) {
+  ClassSetId setOf(std::size_t tableIndex) {
     const auto bits = classes_.classesOf(tableIndex);
     return sets_.intern({bits.begin(), bits.end()});
   }
@@ -248,12 +249,12 @@ class PatternProgram::Compiler {
             .atBoundary = one.atBoundary && other.atBoundary};
   }
 
-  std::uint32_t keep(const Beginning& beginning) {
+  std::uint16_t keep(const Beginning& beginning) {
     auto& all = program_.beginnings_;
     const auto found = std::find(all.begin(), all.end(), beginning);
-    if (found != all.end()) return static_cast<std::uint32_t>(found - all.begin());
+    if (found != all.end()) return static_cast<std::uint16_t>(found - all.begin());
     all.push_back(beginning);
-    return static_cast<std::uint32_t>(all.size() - 1);
+    return counted(all.size() - 1);
   }
 
   PatternProgram& program_;

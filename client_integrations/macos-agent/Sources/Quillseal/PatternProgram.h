@@ -14,9 +14,9 @@ namespace quillseal::screening {
 
 /// What a match can begin with at some place of a pattern.
 struct Beginning {
-  std::uint32_t classes = 0;  ///< of the first code point, an index of the class sets
-  bool anything = false;      ///< may match without a code point: no restriction
-  bool atBoundary = false;    ///< only where \b holds
+  ClassSetId classes = 0;   ///< of the first code point
+  bool anything = false;    ///< may match without a code point: no restriction
+  bool atBoundary = false;  ///< only where \b holds
 
   bool operator==(const Beginning&) const = default;
 
@@ -82,8 +82,8 @@ class PatternProgram {
     std::uint16_t count = 0;  ///< of letters or targets; for a loop the least number of rounds
     std::uint16_t max = 0;
     std::uint16_t memo = 0;  ///< row in the memory of failures
-    std::uint32_t set = 0;
-    std::uint32_t first = 0;  ///< for a loop: what follows it begins with, in `beginnings_`
+    ClassSetId set = 0;
+    std::uint16_t first = 0;  ///< for a loop: what follows it begins with, in `beginnings_`
   };
 
   static constexpr std::uint16_t endless = 0xFFFF;  ///< as `max`

@@ -3,6 +3,12 @@
 #include <algorithm>
 #include <optional>
 #include <span>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+
+#include "Quillseal/TextFrequency.h"
 
 namespace quillseal::screening {
 namespace {
@@ -18,23 +24,33 @@ constexpr std::size_t mostJoined = 16;
 /// Ways that are told apart within one alternative of a pattern.
 constexpr std::size_t mostWays = 2;
 constexpr std::size_t mostLinks = 4;
-/// Letters of a literal that is worth looking for; those beyond ASCII count double.
-constexpr std::size_t leastStrength = 3;
+/// Letters of a literal; of longer ones only the beginning is asked for.
+constexpr std::size_t longestLiteral = 10;
 
-std::uint32_t plus(std::uint32_t a, std::uint32_t b) {
+/// Literals that occur more often than this, for each code point of a text, are passed over for
+/// rarer ones further on. Which limit is best differs from pattern to pattern, so all are tried.
+constexpr double frequencyLimits[] = {1, 0.01, 0.003, 0.001, 0.0003};
+
+// What finding a match costs, in units of one literal met in the text.
+constexpr double costOfChain = 2;   ///< a chain that is complete
+constexpr double costOfStart = 2;   ///< a place where a match might start
+constexpr double costOfMatch = 20;  ///< a run of the matcher
+
+std::uint32_t sum(std::uint32_t a, std::uint32_t b) {
   return a > unbounded - b ? unbounded : a + b;
 }
 
-std::uint32_t times(std::uint32_t a, std::uint32_t b) {
+std::uint32_t product(std::uint32_t a, std::uint32_t b) {
   if (a == 0 || b == 0) return 0;
   return a > unbounded / b ? unbounded : a * b;
 }
 
-std::uint32_t longest(const Literals& literals) {
-  std::size_t length = 0;
-  for (const Literal& literal : literals)
-    length = std::max(length, literal.size());
-  return static_cast<std::uint32_t>(length);
+Distance times(std::uint32_t count, const Distance& distance) {
+  return {.steps = product(count, distance.steps), .runs = product(count, distance.runs)};
+}
+
+Distance larger(const Distance& a, const Distance& b) {
+  return {.steps = std::max(a.steps, b.steps), .runs = std::max(a.runs, b.runs)};
 }
 
 std::size_t shortest(const Literals& literals) {
@@ -47,8 +63,8 @@ std::size_t shortest(const Literals& literals) {
 /// A link within a node, and how far it lies from the node's ends.
 struct InnerLink {
   LiteralLink link;
-  std::uint32_t before = 0;  ///< steps to the start of the literal
-  std::uint32_t after = 0;
+  Distance before{};  ///< to the start of the literal
+  Distance after{};
 };
 
 class Analysis {
@@ -68,8 +84,7 @@ class Analysis {
           required.atTextStart = true;
           continue;
         }
-        chains.push_back(chainOf(way, Weak::Skipped));
-        if (chains.back().links.empty()) chains.back() = chainOf(way, Weak::Used);
+        chains.push_back(cheapestChain(way));
         chains.back().alternative = i;
         suffice = suffice && !chains.back().links.empty();
       }
@@ -83,9 +98,6 @@ class Analysis {
   }
 
  private:
-  /// What becomes of links that are common in any text.
-  enum class Weak : std::uint8_t { Skipped, Used };
-
   /// The ways through `node`; all of its alternatives where that makes at most `most`.
   std::vector<Way> waysThrough(const Node& node, std::size_t most) {
     if (node.kind == Node::Kind::Alternatives && !literalsOf(node)) {
@@ -116,13 +128,21 @@ class Analysis {
 
   /// All texts that `node` matches, if they are few. Whether it needs a word boundary or looks
   /// ahead besides makes them no less necessary.
-  std::optional<Literals> literalsOf(const Node& node) {
+  const std::optional<Literals>& literalsOf(const Node& node) {
+    if (const auto known = literalsOfNode_.find(&node); known != literalsOfNode_.end())
+      return known->second;
+    return literalsOfNode_.emplace(&node, findLiterals(node)).first->second;
+  }
+
+  std::optional<Literals> findLiterals(const Node& node) {
     Literals literals;
     switch (node.kind) {
       case Node::Kind::Set: {
+        if (isSpaceSet(node)) return Literals{{space_}};
         for (const char32_t c : fewCodePoints(sets_[node.set])) {
-          const auto folding = classes_.folding(classes_.classOf(c));
-          literals.emplace_back(folding.begin(), folding.end());
+          literals.emplace_back();
+          for (const Letter letter : classes_.folding(classes_.classOf(c)))
+            appendLetter(literals.back(), letter);
         }
         std::sort(literals.begin(), literals.end());
         literals.erase(std::unique(literals.begin(), literals.end()), literals.end());
@@ -132,27 +152,32 @@ class Analysis {
       case Node::Kind::FoldedText: {
         Literal literal;
         for (const char32_t c : node.text)
-          literal.push_back(classes_.letterOf(c));
+          appendLetter(literal, classes_.letterOf(c));
         return Literals{std::move(literal)};
       }
       case Node::Kind::Sequence:
         literals.emplace_back();
         for (const Node& child : node.children) {
-          const auto more = literalsOf(child);
+          const auto& more = literalsOf(child);
           if (!more || more->size() * literals.size() > mostJoined) return std::nullopt;
           literals = product(literals, *more);
         }
         return literals;
       case Node::Kind::Alternatives:
         for (const Node& child : node.children) {
-          const auto more = literalsOf(child);
+          const auto& more = literalsOf(child);
           if (!more || more->size() + literals.size() > mostLiterals) return std::nullopt;
           literals.insert(literals.end(), more->begin(), more->end());
         }
         return literals;
       case Node::Kind::Repetition: {
+        if (isSpaceSet(node.children.front())) {
+          if (node.min == 0) literals.emplace_back();
+          literals.push_back({space_});
+          return literals;
+        }
         if (node.max > 3) return std::nullopt;
-        const auto once = literalsOf(node.children.front());
+        const auto& once = literalsOf(node.children.front());
         if (!once) return std::nullopt;
         Literals power{{}};
         for (std::uint32_t count = 0; count <= node.max; ++count) {
@@ -168,50 +193,99 @@ class Analysis {
     }
   }
 
-  static Literals product(const Literals& heads, const Literals& tails) {
+  [[nodiscard]] Literals product(const Literals& heads, const Literals& tails) const {
     Literals all;
     for (const Literal& head : heads) {
       for (const Literal& tail : tails) {
         all.push_back(head);
-        all.back().insert(all.back().end(), tail.begin(), tail.end());
+        for (const Letter letter : tail)
+          appendLetter(all.back(), letter);
       }
     }
     return all;
   }
 
-  [[nodiscard]] bool isSpaceSet(const Node& node) const {
-    if (node.kind != Node::Kind::Set) return false;
-    const auto& ranges = sets_[node.set];
-    return std::all_of(ranges.begin(), ranges.end(), [&](const auto& range) {
-      for (char32_t c = range.first; c <= range.second; ++c)
-        if (!classes_.isSpace(classes_.classOf(c))) return false;
-      return true;
-    });
+  /// In literals a run of white space is one letter, as it is one step in the text.
+  void appendLetter(Literal& literal, Letter letter) const {
+    if (!isSpaceLetter(letter)) {
+      literal.push_back(letter);
+    } else if (literal.empty() || literal.back() != space_) {
+      literal.push_back(space_);
+    }
   }
 
-  std::uint32_t width(const Node& node) {
+  template <typename Predicate>
+  [[nodiscard]] bool isSetOf(const Node& node, Predicate predicate) const {
+    if (node.kind != Node::Kind::Set) return false;
+    const auto members = classes_.classesOf(node.set);
+    for (std::size_t id = 0; id < classes_.count(); ++id)
+      if ((members[id / 64] >> (id % 64) & 1) != 0 && !predicate(static_cast<ClassId>(id)))
+        return false;
+    return true;
+  }
+
+  [[nodiscard]] bool isSpaceSet(const Node& node) const {
+    return isSetOf(node, [this](ClassId id) { return classes_.isSpace(id); });
+  }
+
+  [[nodiscard]] bool isWordSet(const Node& node) const {
+    return isSetOf(node, [this](ClassId id) { return classes_.isWord(id); });
+  }
+
+  /// Whether everything that folds to it is a word character.
+  [[nodiscard]] bool isWordLetter(Letter letter) const {
+    const auto ids = classes_.classesWith(letter);
+    return !ids.empty() &&
+           std::all_of(ids.begin(), ids.end(), [this](ClassId id) { return classes_.isWord(id); });
+  }
+
+  [[nodiscard]] Distance longest(const Literals& literals) const {
+    Distance length;
+    for (const Literal& literal : literals) {
+      std::uint32_t runs = 0;
+      bool afterWord = false;
+      for (const Letter letter : literal) {
+        const bool isWord = isWordLetter(letter);
+        runs += isWord && afterWord ? 0U : 1U;
+        afterWord = isWord;
+      }
+      length = larger(length, {.steps = static_cast<std::uint32_t>(literal.size()), .runs = runs});
+    }
+    return length;
+  }
+
+  Distance width(const Node& node) {
+    if (const auto known = widths_.find(&node); known != widths_.end()) return known->second;
+    return widths_.emplace(&node, findWidth(node)).first->second;
+  }
+
+  Distance findWidth(const Node& node) {
     switch (node.kind) {
       case Node::Kind::Set:
-        return 1;
+        return {.steps = 1, .runs = 1};
       case Node::Kind::FoldedText:
-        return static_cast<std::uint32_t>(node.text.size());
+        return longest(*literalsOf(node));
       case Node::Kind::Sequence: {
-        std::uint32_t sum = 0;
+        Distance sum;
         for (const Node& child : node.children)
           sum = plus(sum, width(child));
         return sum;
       }
       case Node::Kind::Alternatives: {
-        std::uint32_t most = 0;
+        Distance most;
         for (const Node& child : node.children)
-          most = std::max(most, width(child));
+          most = larger(most, width(child));
         return most;
       }
-      case Node::Kind::Repetition:
-        if (isSpaceSet(node.children.front())) return 1;
-        return times(node.max, width(node.children.front()));
+      case Node::Kind::Repetition: {
+        const Node& body = node.children.front();
+        if (isSpaceSet(body)) return {.steps = 1, .runs = 1};
+        Distance all = times(node.max, width(body));
+        if (isWordSet(body)) all.runs = 1;
+        return all;
+      }
       default:
-        return 0;
+        return {};
     }
   }
 
@@ -239,43 +313,127 @@ class Analysis {
   }
 
   [[nodiscard]] bool isSpaceLetter(Letter letter) const {
-    return classes_.isSpace(classes_.classOf(classes_.codePointOf(letter)));
+    return letter != otherLetter &&
+           classes_.isSpace(classes_.classOf(classes_.codePointOf(letter)));
   }
 
-  [[nodiscard]] bool isWeak(const Literals& literals) const {
-    return std::any_of(literals.begin(), literals.end(), [&](const Literal& literal) {
-      std::size_t strength = 0;
-      for (const Letter letter : literal)
-        if (!isSpaceLetter(letter)) strength += classes_.codePointOf(letter) < 0x80 ? 1 : 2;
-      return strength < leastStrength;
+  // A hit knows only where the run of white space begins, not where in it the match does, nor
+  // where the run ends.
+
+  [[nodiscard]] bool startsWithSpace(const Literal& literal) const {
+    return !literal.empty() && literal.front() == space_;
+  }
+
+  [[nodiscard]] bool anyStartsWithSpace(const Literals& literals) const {
+    return std::any_of(literals.begin(), literals.end(),
+                       [this](const Literal& literal) { return startsWithSpace(literal); });
+  }
+
+  [[nodiscard]] bool anyEndsInSpace(const Literals& literals) const {
+    return std::any_of(literals.begin(), literals.end(), [this](const Literal& literal) {
+      return !literal.empty() && literal.back() == space_;
     });
   }
 
-  LiteralChain chainOf(const Way& way, Weak weak) {
+  /// Whether there was any.
+  bool dropLeadingSpace(Literals& literals) const {
+    bool any = false;
+    for (Literal& literal : literals) {
+      if (!startsWithSpace(literal)) continue;
+      literal.erase(literal.begin());
+      any = true;
+    }
+    return any;
+  }
+
+  /// Leaves the beginnings of long literals, and says how much was cut off at most.
+  [[nodiscard]] Distance shorten(Literals& literals) const {
+    Distance cut;
+    for (Literal& literal : literals) {
+      if (literal.size() <= longestLiteral) continue;
+      const auto end = literal.begin() + static_cast<std::ptrdiff_t>(longestLiteral);
+      cut = larger(cut, longest({Literal(end, literal.end())}));
+      literal.erase(end, literal.end());
+    }
+    std::sort(literals.begin(), literals.end());
+    literals.erase(std::unique(literals.begin(), literals.end()), literals.end());
+    return cut;
+  }
+
+  /// How often a literal of the link is met, for each code point of a text.
+  [[nodiscard]] double frequencyOf(const LiteralLink& link) const {
+    double sum = 0;
+    for (const Literal& literal : link.literals) {
+      std::u32string text;
+      for (const Letter letter : literal)
+        text.push_back(classes_.codePointOf(letter));
+      sum += expectedFrequency(text);
+    }
+    return std::min(sum, 1.0);
+  }
+
+  LiteralChain cheapestChain(const Way& way) {
+    LiteralChain cheapest;
+    for (const double limit : frequencyLimits) {
+      LiteralChain chain = chainOf(way, limit);
+      if (chain.links.empty()) break;
+      chain.cost = costOf(chain);
+      if (cheapest.links.empty() || chain.cost < cheapest.cost) cheapest = std::move(chain);
+    }
+    return cheapest;
+  }
+
+  /// About how many code points that is.
+  static double charactersOf(const Distance& distance) {
+    constexpr double charactersOfRun = 3;
+    return std::min<double>(distance.steps, charactersOfRun * distance.runs);
+  }
+
+  [[nodiscard]] double costOf(const LiteralChain& chain) const {
+    double cost = 0;
+    double complete = 1;
+    for (const LiteralLink& link : chain.links) {
+      const double frequency = frequencyOf(link);
+      cost += frequency;
+      const bool isFirst = &link == &chain.links.front();
+      complete *= isFirst ? frequency : std::min(1.0, frequency * charactersOf(link.distance));
+    }
+    return cost + complete * (costOfChain + costOfMatch + costOfStart * charactersOf(chain.lead));
+  }
+
+  /// Passes over literals that are met more often than `frequencyLimit`.
+  LiteralChain chainOf(const Way& way, double frequencyLimit) {
     LiteralChain chain;
     chain.leadClasses.assign(classes_.count() / 64 + 1, 0);
-    std::uint32_t gap = 0;
+    Distance gap;
     Literals current{{}};
     LiteralLink link;
     const auto isOpen = [&] { return current.size() == 1 && current.front().empty(); };
-    const auto append = [&](LiteralLink added, std::uint32_t before) {
+    // Goes on with the gap of what is cut off.
+    const auto append = [&](LiteralLink added, const Distance& before) {
       if (chain.links.empty()) {
         chain.lead = plus(gap, before);
-      } else {
+        if (dropLeadingSpace(added.literals))
+          chain.lead = plus(chain.lead, {.steps = 1, .runs = 1});
+      }
+      const Distance cut = shorten(added.literals);
+      if (cut.steps > 0) added.boundaryAfter = false;
+      if (!chain.links.empty()) {
         added.distance = plus(plus(gap, before), longest(added.literals));
         // Behind a gap without limit nothing is known to be near.
-        if (added.distance == unbounded || chain.links.size() == mostLinks) return false;
+        if (added.distance.isUnbounded() || chain.links.size() == mostLinks) return false;
       }
       chain.links.push_back(std::move(added));
+      gap = cut;
       return true;
     };
     const auto flush = [&] {
       bool goesOn = true;
       if (!isOpen()) {
-        if (isTelling(current) && (weak == Weak::Used || !isWeak(current))) {
-          link.literals = current;
-          goesOn = append(std::move(link), 0);
-          gap = 0;
+        link.literals = current;
+        link.boundaryBefore = link.boundaryBefore && !anyStartsWithSpace(current);
+        if (isTelling(current) && frequencyOf(link) <= frequencyLimit) {
+          goesOn = append(std::move(link), {});
         } else {
           gap = plus(gap, longest(current));
         }
@@ -290,40 +448,46 @@ class Analysis {
         if (isOpen()) {
           link.boundaryBefore = true;
         } else {
-          link.boundaryAfter = shortest(current) > 0;
+          link.boundaryAfter = shortest(current) > 0 && !anyEndsInSpace(current);
         }
         continue;
       }
-      if (const auto literals = literalsOf(*node)) {
+      if (const auto& literals = literalsOf(*node)) {
         if (!isOpen() && literals->size() * current.size() > mostJoined) {
           if (!flush()) return chain;
           current = *literals;
         } else {
-          if (longest(*literals) > 0) link.boundaryAfter = false;
+          if (longest(*literals).steps > 0) link.boundaryAfter = false;
           current = product(current, *literals);
         }
         if (chain.links.empty()) addClasses(*node, chain.leadClasses);
         continue;
       }
       if (!flush()) return chain;
-      auto inner = innerLink(*node);
-      if (inner && weak == Weak::Skipped && isWeak(inner->link.literals)) inner.reset();
+      const auto& inner = innerLink(*node);
+      const bool isUsed = inner && frequencyOf(inner->link) <= frequencyLimit;
       if (chain.links.empty()) addClasses(*node, chain.leadClasses);
-      if (inner) {
+      if (isUsed) {
         if (!append(inner->link, inner->before)) return chain;
-        gap = inner->after;
+        gap = plus(gap, inner->after);
       } else {
         gap = plus(gap, width(*node));
       }
-      if (gap == unbounded && !chain.links.empty()) return chain;
+      if (gap.isUnbounded() && !chain.links.empty()) return chain;
     }
     static_cast<void>(flush());
     return chain;
   }
 
   /// A link that every match of `node` contains somewhere.
-  std::optional<InnerLink> innerLink(const Node& node) {
-    if (const auto literals = literalsOf(node)) {
+  const std::optional<InnerLink>& innerLink(const Node& node) {
+    if (const auto known = innerLinks_.find(&node); known != innerLinks_.end())
+      return known->second;
+    return innerLinks_.emplace(&node, findInnerLink(node)).first->second;
+  }
+
+  std::optional<InnerLink> findInnerLink(const Node& node) {
+    if (const auto& literals = literalsOf(node)) {
       if (literals->empty() || !isTelling(*literals)) return std::nullopt;
       return InnerLink{.link = {.literals = *literals}};
     }
@@ -332,11 +496,11 @@ class Analysis {
         Way way;
         for (const Node& child : node.children)
           way.push_back(&child);
-        const LiteralChain chain = chainOf(way, Weak::Used);
+        const LiteralChain chain = chainOf(way, 1);
         if (chain.links.empty()) return std::nullopt;
         std::size_t best = 0;
         for (std::size_t i = 1; i < chain.links.size(); ++i)
-          if (shortest(chain.links[i].literals) > shortest(chain.links[best].literals)) best = i;
+          if (frequencyOf(chain.links[i]) < frequencyOf(chain.links[best])) best = i;
         InnerLink inner{.link = chain.links[best], .before = chain.lead, .after = width(node)};
         for (std::size_t i = 0; i < best; ++i)
           inner.before = plus(plus(inner.before, longest(chain.links[i].literals)),
@@ -346,14 +510,14 @@ class Analysis {
       case Node::Kind::Alternatives: {
         InnerLink all{.link = {.boundaryBefore = true, .boundaryAfter = true}};
         for (const Node& child : node.children) {
-          const auto inner = innerLink(child);
+          const auto& inner = innerLink(child);
           if (!inner) return std::nullopt;
           all.link.boundaryBefore = all.link.boundaryBefore && inner->link.boundaryBefore;
           all.link.boundaryAfter = all.link.boundaryAfter && inner->link.boundaryAfter;
           all.link.literals.insert(all.link.literals.end(), inner->link.literals.begin(),
                                    inner->link.literals.end());
-          all.before = std::max(all.before, inner->before);
-          all.after = std::max(all.after, inner->after);
+          all.before = larger(all.before, inner->before);
+          all.after = larger(all.after, inner->after);
         }
         if (all.link.literals.size() > mostLiterals) return std::nullopt;
         return all;
@@ -371,9 +535,18 @@ class Analysis {
 
   const SetTable& sets_;
   const CharacterClasses& classes_;
+  const Letter space_ = classes_.letterOf(U' ');
+  // What has been asked for once is asked for again, by every limit that is tried.
+  std::unordered_map<const Node*, std::optional<Literals>> literalsOfNode_;
+  std::unordered_map<const Node*, std::optional<InnerLink>> innerLinks_;
+  std::unordered_map<const Node*, Distance> widths_;
 };
 
 }  // namespace
+
+Distance plus(const Distance& a, const Distance& b) {
+  return {.steps = sum(a.steps, b.steps), .runs = sum(a.runs, b.runs)};
+}
 
 RequiredLiterals requiredLiterals(const Node& pattern, const SetTable& sets,
                                   const CharacterClasses& classes) {

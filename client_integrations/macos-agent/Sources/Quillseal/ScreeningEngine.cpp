@@ -11,6 +11,7 @@
 #include "Quillseal/PatternProgram.h"
 #include "Quillseal/PatternSyntax.h"
 #include "Quillseal/RequiredLiterals.h"
+#include "Quillseal/TextFrequency.h"
 #include "Quillseal/UnicodeText.h"
 
 namespace quillseal::screening {
@@ -20,6 +21,12 @@ constexpr std::uint32_t none = std::numeric_limits<std::uint32_t>::max();
 
 /// How many of a match's first code points the leading-class search looks at.
 constexpr std::size_t longestLeading = 8;
+
+// What finding matches by their first classes costs, in units of one literal met in the text.
+constexpr double costOfRun = 10;
+constexpr double costOfLeadingBit = 0.002;  ///< of advancing one bit at each code point
+/// Expected frequency of a class beyond ASCII.
+constexpr double rareClass = 0.0001;
 
 /// A pattern, or a part of one that is searched for by itself.
 struct Search {
@@ -31,10 +38,10 @@ struct Search {
 /// One link of one chain, as the literal index reports it.
 struct LinkHit {
   std::uint32_t chain = 0;
-  std::uint32_t reach = 0;     ///< its place among the links of all chains
-  std::uint32_t distance = 0;  ///< steps at most, from the end of the link before
-  std::uint32_t search = 0;    ///< for a first link that stands at the start, else `none`
-  std::uint8_t length = 0;     ///< letters of the literal
+  std::uint32_t reach = 0;   ///< its place among the links of all chains
+  Distance distance{};       ///< from the end of the link before
+  std::uint32_t search = 0;  ///< for a first link that stands at the start, else `none`
+  std::uint8_t length = 0;   ///< letters of the literal
   bool isFirst = false;
   bool isLast = false;
   bool boundaryBefore = false;
@@ -45,8 +52,8 @@ struct Chain {
   std::uint32_t search = 0;
   std::uint32_t alternative = 0;
   std::uint32_t lead = 0;
-  std::uint32_t span = 0;  ///< steps at most, from the end of the first link to that of the last
-  std::uint32_t leadClasses = 0;
+  Distance span{};  ///< from the end of the first link to that of the last
+  ClassSetId leadClasses = 0;
 };
 
 /// How the matches of a pattern follow from its searches.
@@ -89,6 +96,7 @@ class ScreeningEngine::Tables {
       bool anyMatch;
     };
     std::vector<Part> parts;
+    parts.reserve(2 * patterns.size());
     for (std::size_t i = 0; i < patterns.size(); ++i) {
       forms.emplace_back();
       try {
@@ -109,6 +117,10 @@ class ScreeningEngine::Tables {
       collectAlphabet(part.node, sets, alphabet);
     classes.emplace(sets, std::move(alphabet));
     classSets.emplace(classes->count());
+    for (std::size_t id = 0; id < classes->count(); ++id)
+      classFrequencies.push_back(rareClass);
+    for (char32_t c = 0; c < 0x80; ++c)
+      classFrequencies[classes->classOf(c)] += expectedFrequency(c);
     for (const Part& part : parts)
       addSearch(part.node, part.anyMatch, sets);
     index.finish(*classes);
@@ -116,9 +128,7 @@ class ScreeningEngine::Tables {
     hits.shrink_to_fit();
     chains.shrink_to_fit();
     searches.shrink_to_fit();
-    leadingInitial.resize(leadingWords);
-    for (auto& masks : leadingMasks)
-      masks.resize(leadingWords);
+    fillLeadingMasks();
   }
 
   std::optional<CharacterClasses> classes;
@@ -140,12 +150,15 @@ class ScreeningEngine::Tables {
   };
   std::size_t leadingWords = 0;
   std::vector<std::uint64_t> leadingInitial;
-  std::vector<std::vector<std::uint64_t>> leadingMasks;  ///< by class
+  std::vector<std::uint64_t> leadingMasks;  ///< `leadingWords` for each class
   std::vector<std::uint64_t> leadingFinal;
   std::vector<LeadingEnd> leadingEnds;  ///< by bit
   std::vector<LeadingEnd> maybeEmpty;   ///< those that may match without a code point
 
  private:
+  std::vector<double> classFrequencies;  ///< of the members of a class, in an ordinary text
+  std::vector<std::vector<std::uint64_t>> leadingClassesOfBits;
+
   // A look-ahead over [\s\S]* says that its body is found somewhere from here on. At the start of
   // the text that is anywhere; and where it fails at the start it fails behind it.
   template <typename AddPart>
@@ -190,30 +203,58 @@ class ScreeningEngine::Tables {
     for (const std::size_t alternative : required.withoutLiterals)
       addLeading(search, static_cast<std::uint32_t>(alternative));
     searches.back().atTextStart = required.atTextStart;
-    for (const LiteralChain& chain : required.chains)
-      addChain(search, chain);
+    for (auto first = required.chains.begin(); first != required.chains.end();) {
+      const auto isOther = [&](const LiteralChain& chain) {
+        return chain.alternative != first->alternative;
+      };
+      const auto last = std::find_if(first, required.chains.end(), isOther);
+      if (!leadingIsCheaper(search, {first, last}))
+        for (const LiteralChain& chain : std::span(first, last))
+          addChain(search, chain);
+      else
+        addLeading(search, static_cast<std::uint32_t>(first->alternative));
+      first = last;
+    }
+  }
+
+  /// Whether an alternative is found more cheaply by its first classes than by these chains.
+  bool leadingIsCheaper(std::uint32_t search, std::span<const LiteralChain> others) {
+    const PatternProgram& program = searches[search].program;
+    const auto leading = program.leadingClasses(program.alternative(others.front().alternative),
+                                                longestLeading, *classes, *classSets);
+    if (leading.empty()) return false;
+    double cost = costOfRun;
+    for (const auto& bits : leading) {
+      double frequency = 0;
+      for (std::size_t id = 0; id < classes->count(); ++id)
+        if ((bits[id / 64] >> (id % 64) & 1) != 0) frequency += classFrequencies[id];
+      cost *= std::min(frequency, 1.0);
+    }
+    cost += costOfLeadingBit * static_cast<double>(leading.size());
+    double costOfChains = 0;
+    for (const LiteralChain& chain : others)
+      costOfChains += chain.cost;
+    return cost < costOfChains;
   }
 
   void addChain(std::uint32_t search, const LiteralChain& chain) {
     const auto number = static_cast<std::uint32_t>(chains.size());
     Chain added{.search = search,
                 .alternative = static_cast<std::uint32_t>(chain.alternative),
-                .lead = chain.lead,
+                .lead = chain.lead.steps,
                 .leadClasses = classSets->intern(chain.leadClasses)};
     for (std::size_t i = 0; i < chain.links.size(); ++i) {
       const LiteralLink& link = chain.links[i];
-      if (i > 0) added.span += link.distance;
+      if (i > 0) added.span = plus(added.span, link.distance);
       LinkHit hit{.chain = number,
                   .reach = static_cast<std::uint32_t>(linkCount++),
                   .distance = link.distance,
-                  .search = i == 0 && chain.lead == 0 ? search : none,
+                  .search = i == 0 && added.lead == 0 ? search : none,
                   .isFirst = i == 0,
                   .isLast = i + 1 == chain.links.size(),
                   .boundaryBefore = link.boundaryBefore,
                   .boundaryAfter = link.boundaryAfter};
       for (const auto& literal : link.literals) {
-        if (literal.size() > std::numeric_limits<std::uint8_t>::max())
-          throw PatternError("literal too long");
         hit.length = static_cast<std::uint8_t>(literal.size());
         index.add(literal, hitNumber(hit));
       }
@@ -243,23 +284,30 @@ class ScreeningEngine::Tables {
     std::size_t bit = leadingEnds.size();
     if (bit % 64 + leading.size() > 64) bit += 64 - bit % 64;
     leadingEnds.resize(bit + leading.size());
+    leadingClassesOfBits.resize(leadingEnds.size());
     leadingWords = (leadingEnds.size() + 63) / 64;
     leadingInitial.resize(leadingWords);
     leadingFinal.resize(leadingWords);
-    leadingMasks.resize(classes->count());
     leadingInitial[bit / 64] |= std::uint64_t{1} << (bit % 64);
-    for (std::size_t i = 0; i < leading.size(); ++i, ++bit) {
-      for (std::size_t id = 0; id < classes->count(); ++id) {
-        if ((leading[i][id / 64] >> (id % 64) & 1) == 0) continue;
-        leadingMasks[id].resize(leadingWords);
-        leadingMasks[id][bit / 64] |= std::uint64_t{1} << (bit % 64);
-      }
-    }
-    --bit;
+    std::move(leading.begin(), leading.end(),
+              leadingClassesOfBits.begin() + static_cast<std::ptrdiff_t>(bit));
+    bit += leading.size() - 1;
     leadingFinal[bit / 64] |= std::uint64_t{1} << (bit % 64);
     leadingEnds[bit] = {.search = search,
                         .alternative = alternative,
                         .length = static_cast<std::uint32_t>(leading.size())};
+  }
+
+  void fillLeadingMasks() {
+    leadingMasks.resize(classes->count() * leadingWords);
+    for (std::size_t bit = 0; bit < leadingClassesOfBits.size(); ++bit) {
+      const auto& members = leadingClassesOfBits[bit];
+      if (members.empty()) continue;
+      for (std::size_t id = 0; id < classes->count(); ++id)
+        leadingMasks[id * leadingWords + bit / 64] |= (members[id / 64] >> (id % 64) & 1)
+                                                      << (bit % 64);
+    }
+    leadingClassesOfBits = {};
   }
 };
 
@@ -272,7 +320,7 @@ class ScreeningEngine::Screening {
       : tables_(tables), text_(tables.classes->classify(text)) {
     outcomes_.resize(tables.searches.size());
     progress_.resize(tables.chains.size());
-    reached_.assign(tables.linkCount, never);
+    reached_.assign(tables.linkCount, {.steps = never, .runs = never});
   }
 
   void run() {
@@ -326,6 +374,12 @@ class ScreeningEngine::Screening {
  private:
   static constexpr std::int64_t never = std::numeric_limits<std::int64_t>::min() / 2;
 
+  /// How far the pass has come, in the two measures of `Distance`.
+  struct Progressed {
+    std::int64_t steps = 0;
+    std::int64_t runs = 0;
+  };
+
   struct Outcome {
     std::uint32_t matcher = none;  ///< made when it is first needed
     std::uint32_t start = none;    ///< of the leftmost match so far
@@ -337,7 +391,7 @@ class ScreeningEngine::Screening {
   /// A first link that waits for the rest of its chain.
   struct Waiting {
     std::uint32_t start = 0;
-    std::uint32_t step = 0;
+    Progressed at{};
     std::uint32_t next = none;
   };
 
@@ -355,13 +409,18 @@ class ScreeningEngine::Screening {
     std::vector<std::uint64_t> leading(tables_.leadingWords);
     LiteralIndex::State state = index.root();
     bool afterSpace = false;
+    bool afterWord = false;
     const std::size_t size = text_.size();
     for (std::size_t i = 0; i < size; ++i) {
       const ClassId id = text_.classAt(i);
       const bool isSpace = tables_.classes->isSpace(id);
-      step_ += isSpace && afterSpace ? 0U : 1U;
-      afterSpace = isSpace;
+      const bool isWord = tables_.classes->isWord(id);
       if constexpr (withLeading) advanceLeading(leading, id, i);
+      if (isSpace && afterSpace) continue;
+      now_.steps += 1;
+      now_.runs += isWord && afterWord ? 0 : 1;
+      afterSpace = isSpace;
+      afterWord = isWord;
       state = index.advance(state, id);
       if (index.isHit(state)) {
         for (const std::uint32_t value : index.values(state))
@@ -371,7 +430,7 @@ class ScreeningEngine::Screening {
   }
 
   void advanceLeading(std::vector<std::uint64_t>& state, ClassId id, std::size_t position) {
-    const std::vector<std::uint64_t>& masks = tables_.leadingMasks[id];
+    const std::uint64_t* const masks = &tables_.leadingMasks[id * tables_.leadingWords];
     for (std::size_t word = 0; word < state.size(); ++word) {
       state[word] = (state[word] << 1 | tables_.leadingInitial[word]) & masks[word];
       for (std::uint64_t ends = state[word] & tables_.leadingFinal[word]; ends != 0;
@@ -384,9 +443,14 @@ class ScreeningEngine::Screening {
     }
   }
 
+  [[nodiscard]] bool isWithin(const Distance& distance, const Progressed& since) const {
+    return (distance.steps == unbounded || now_.steps - since.steps <= distance.steps) &&
+           (distance.runs == unbounded || now_.runs - since.runs <= distance.runs);
+  }
+
   void onHit(const LinkHit& hit, std::size_t end) {
     ++steps_;
-    if (!hit.isFirst && step_ - reached_[hit.reach - 1] > hit.distance) return;
+    if (!hit.isFirst && !isWithin(hit.distance, reached_[hit.reach - 1])) return;
     if (hit.boundaryAfter && !text_.isWordBoundary(end)) return;
     std::uint32_t start = 0;
     if (hit.boundaryBefore || hit.isFirst) {
@@ -395,7 +459,7 @@ class ScreeningEngine::Screening {
       // Behind the match that is known already, no start is of interest.
       if (hit.search != none && start > outcomes_[hit.search].start) return;
     }
-    reached_[hit.reach] = step_;
+    reached_[hit.reach] = now_;
     if (hit.isFirst) {
       if (hit.isLast) {
         tryBefore(hit.chain, start);
@@ -410,8 +474,17 @@ class ScreeningEngine::Screening {
   /// Where the literal of `letters` letters that ends at `end` starts.
   [[nodiscard]] std::uint32_t startOf(std::size_t letters, std::size_t end) const {
     std::size_t start = end;
-    for (std::size_t taken = 0; taken < letters && start > 0;)
-      taken += tables_.classes->folding(text_.classAt(--start)).size();
+    const CharacterClasses& classes = *tables_.classes;
+    for (std::size_t taken = 0; taken < letters && start > 0;) {
+      const ClassId id = text_.classAt(--start);
+      if (!classes.isSpace(id)) {
+        taken += classes.folding(id).size();
+        continue;
+      }
+      ++taken;
+      while (start > 0 && classes.isSpace(text_.classAt(start - 1)))
+        --start;
+    }
     return static_cast<std::uint32_t>(start);
   }
 
@@ -419,7 +492,7 @@ class ScreeningEngine::Screening {
     Progress& progress = progress_[chainNumber];
     // Those that are too far behind for the rest of the chain.
     while (progress.first != none &&
-           step_ - waiting_[progress.first].step > tables_.chains[chainNumber].span)
+           !isWithin(tables_.chains[chainNumber].span, waiting_[progress.first].at))
       release(progress);
     std::uint32_t slot = freeSlot_;
     if (slot == none) {
@@ -428,7 +501,7 @@ class ScreeningEngine::Screening {
     } else {
       freeSlot_ = waiting_[slot].next;
     }
-    waiting_[slot] = {.start = start, .step = static_cast<std::uint32_t>(step_)};
+    waiting_[slot] = {.start = start, .at = now_};
     (progress.first == none ? progress.first : waiting_[progress.last].next) = slot;
     progress.last = slot;
   }
@@ -446,7 +519,7 @@ class ScreeningEngine::Screening {
     while (progress.first != none) {
       const Waiting waiting = waiting_[progress.first];
       release(progress);
-      if (step_ - waiting.step <= tables_.chains[chainNumber].span)
+      if (isWithin(tables_.chains[chainNumber].span, waiting.at))
         tryBefore(chainNumber, waiting.start);
     }
   }
@@ -529,11 +602,11 @@ class ScreeningEngine::Screening {
   std::vector<Outcome> outcomes_;
   std::vector<Matcher> matchers_;
   std::vector<Progress> progress_;
-  std::vector<std::int64_t> reached_;
+  std::vector<Progressed> reached_;
   std::vector<Waiting> waiting_;
   std::uint32_t freeSlot_ = none;
   BacktrackStack stack_;
-  std::int64_t step_ = 0;
+  Progressed now_;
   std::uint64_t steps_ = 0;
 };
 
@@ -579,8 +652,7 @@ std::size_t ScreeningEngine::memoryUse() const {
   std::size_t bytes = sizeof(tables) + tables.classes->memoryUse() + tables.index.memoryUse() +
                       tables.classSets->memoryUse() + tables.hits.capacity() * sizeof(LinkHit) +
                       tables.chains.capacity() * sizeof(Chain) +
-                      tables.leadingMasks.capacity() *
-                          (sizeof(std::vector<std::uint64_t>) + tables.leadingWords * 8) +
+                      tables.leadingMasks.capacity() * sizeof(std::uint64_t) +
                       tables.forms.capacity() * sizeof(Form);
   for (const Search& search : tables.searches)
     bytes += search.program.memoryUse();

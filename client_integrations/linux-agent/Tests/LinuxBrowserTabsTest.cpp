@@ -1,3 +1,4 @@
+#include <cerrno>
 #include <map>
 #include <vector>
 
@@ -6,6 +7,7 @@
 #include <poll.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 #include "LinuxDesktop/LinuxBrowserTabs.h"
@@ -85,6 +87,12 @@ class Browser {
   FileDescriptor socket_;
   TabMessages::Deframer deframer_;
 };
+
+bool isClosed(const FileDescriptor& socket) {
+  char byte = 0;
+  const ssize_t count = ::recv(socket.get(), &byte, 1, MSG_DONTWAIT);
+  return count == 0 || (count < 0 && errno == ECONNRESET);
+}
 
 class LinuxBrowserTabsTest : public ::testing::Test {
  protected:
@@ -273,6 +281,64 @@ TEST_F(LinuxBrowserTabsTest, LetsGoOfWhoeverBreaksTheProtocol) {
     EXPECT_EQ(tab_, "none") << breach.substr(0, 80);
   }
   EXPECT_LT(loop_.elapsed(), LinuxBrowserTabs::longestWait);
+}
+
+TEST_F(LinuxBrowserTabsTest, LetsGoOfWhoeverHasNoNameOrAnswersTwice) {
+  for (const std::string& program : {std::string(), std::string(5000, 'x')}) {
+    const FileDescriptor nameless = TabSocket::connect().value();
+    const std::string greeting = written(TabMessages::Greeting{program});
+    const auto length = static_cast<std::uint32_t>(greeting.size());
+    ASSERT_TRUE(TabSocket::send(
+        nameless, std::string(reinterpret_cast<const char*>(&length), sizeof length) + greeting));
+    descriptors_.serve();
+    EXPECT_TRUE(isClosed(nameless));
+  }
+  const auto first = connected("chromium");
+  const auto second = connected("chromium");
+  askTab("chromium");
+  const std::int64_t id = first->asked().id;
+  const std::string answer =
+      written(TabMessages::Answer{.id = id, .result = TabMessages::TabShown{5, 1}});
+  first->say(answer);
+  first->say(answer);
+  second->answerTab(7, 2);
+  settle();
+  EXPECT_THAT(log_.text, HasSubstr("[tabreturn] chromium: An answer comes twice."));
+  EXPECT_EQ(tab_, "4.7");
+}
+
+TEST_F(LinuxBrowserTabsTest, HoldsNoMoreConnectionsThanAPersonHasBrowsers) {
+  std::vector<std::unique_ptr<Browser>> browsers;
+  for (int i = 0; i < 32; ++i)
+    browsers.push_back(connected("chromium"));
+  const FileDescriptor oneTooMany = TabSocket::connect().value();
+  descriptors_.serve();
+  EXPECT_TRUE(isClosed(oneTooMany));
+  browsers.pop_back();
+  descriptors_.serve();
+  const auto another = connected("firefox-esr");
+  askTab("firefox-esr");
+  another->answerTab(5, 1);
+  settle();
+  EXPECT_EQ(tab_, "33.5");
+}
+
+TEST_F(LinuxBrowserTabsTest, HearsNoOtherUserEvenWhereTheFoldersWouldLetOneIn) {
+  if (::geteuid() != 0) return;  // only root can connect in another's name
+  const auto folder = runtime_.path() / "quillseal";
+  for (const auto& path : {runtime_.path(), folder, folder / "tabs"})
+    ASSERT_EQ(::chmod(path.c_str(), 0777), 0);
+  sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
+  (folder / "tabs").string().copy(address.sun_path, sizeof address.sun_path - 1);
+  const FileDescriptor foreign(::socket(AF_UNIX, SOCK_STREAM, 0));
+  ASSERT_EQ(::seteuid(65534), 0);
+  const int isRefused =
+      ::connect(foreign.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address);
+  ASSERT_EQ(::seteuid(0), 0);
+  ASSERT_EQ(isRefused, 0);
+  descriptors_.serve();
+  EXPECT_TRUE(isClosed(foreign));
+  EXPECT_EQ(log_.text, "");
 }
 
 TEST_F(LinuxBrowserTabsTest, ForgetsWhatNobodyWaitsFor) {

@@ -217,6 +217,33 @@ TEST_F(TabRelayTest, EndsWhenEitherSideBreaksTheProtocol) {
   }
 }
 
+TEST_F(TabRelayTest, PassesOnNothingThatIsNoPartOfAMessage) {
+  connect();
+  ASSERT_TRUE(TabSocket::send(
+      *agent_, TabMessages::framed(R"({"id":1,"operation":"currentTab","eval":"x"})")));
+  EXPECT_EQ(messageFrom(relay_->output()), R"({"id":1,"operation":"currentTab"})");
+  // The longest message that may come, and one byte more.
+  const std::string answer = R"({"id":1,"operation":"currentTab","tab":4,"focusedAt":9})";
+  relay_->write(
+      TabMessages::framed(answer + std::string(TabMessages::longestMessage - answer.size(), ' ')));
+  EXPECT_EQ(messageFrom(*agent_), answer);
+  const std::uint32_t tooLong = TabMessages::longestMessage + 1;
+  relay_->write({reinterpret_cast<const char*>(&tooLong), sizeof tooLong});
+  EXPECT_EQ(relay_->status(), 1);
+}
+
+TEST_F(TabRelayTest, HearsNoBrowserThatWasNotAsked) {
+  relay_.emplace(chromiumCall);
+  relay_->write(TabMessages::framed(R"({"id":1,"operation":"currentTab","tab":4,"focusedAt":9})"));
+  EXPECT_EQ(relay_->status(), 1);
+}
+
+TEST_F(TabRelayTest, TrustsNoFolderThatOthersCouldChange) {
+  std::filesystem::permissions(runtime_.path(), std::filesystem::perms::all);
+  relay_.emplace(chromiumCall);
+  EXPECT_EQ(relay_->status(), 1);
+}
+
 TEST_F(TabRelayTest, DoesNotWaitForABrowserThatReadsNothing) {
   connect();
   const std::string request = TabMessages::framed(R"({"id":1,"operation":"currentTab"})");

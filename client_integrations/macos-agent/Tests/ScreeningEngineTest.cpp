@@ -61,7 +61,7 @@ Comparisons compareWithIcu(std::span<const Pattern> patterns, std::size_t texts,
 }
 
 TEST(ScreeningEngine, AgreesWithIcuOnEveryConstruct) {
-  constexpr std::array<std::string_view, 76> expressions{
+  constexpr std::array<std::string_view, 78> expressions{
       // Letters, folding and the splitting of strings by groups, sets and quantifiers
       "strasse", "ss", "s", "as+", "ass?", "a(?:s)s", "[s]s", "s[s]", "[.]fi", "of[f]i", "fi|ff|fl",
       "ſtaff", "K", "kk", "ß", "xß?", "İ", "i", "σς", "e\u0301", "\u0149", "ŉ?t",
@@ -77,6 +77,7 @@ TEST(ScreeningEngine, AgreesWithIcuOnEveryConstruct) {
       "end\\s+of\\s*the", "\\s+the\\s", "\\sof\\s\\s", "a  b", "[- ]the\\b", "\\s*\\bsend",
       "of[ \\t]\\n", "to\\s+\\b\\w", "(?:our|my)\\s(?:\\w+\\s+){0,2}?end\\b", "\\s?\\n\\s?of",
       "(?:sub-?|the )account\\s+number\\b", "\\b\\s+account\\s+settings\\b",
+      "mot\\s+de\\s+passe\\s+de", "\\bnext\\s+staff\\s+office\\b",
       "(?:\\w+s|people)\\s+of\\s+(?:all\\s+)?(?:colours|nations)\\b",
       "[^.!?]{0,9}\\s+internationally\\w",
       // Looking around

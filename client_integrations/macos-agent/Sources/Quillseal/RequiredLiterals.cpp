@@ -346,12 +346,25 @@ class Analysis {
     return any;
   }
 
+  /// Whether one code point may fold to this letter and more behind it, as ß does to s. A literal
+  /// that ended there would end within a code point, where no hit is noticed.
+  [[nodiscard]] bool isWithinExpansion(Letter letter) const {
+    const auto ids = classes_.classesWith(letter);
+    return std::any_of(ids.begin(), ids.end(), [&](ClassId id) {
+      const auto folding = classes_.folding(id);
+      return std::find(folding.begin(), folding.end() - 1, letter) != folding.end() - 1;
+    });
+  }
+
   /// Leaves the beginnings of long literals, and says how much was cut off at most.
   [[nodiscard]] Distance shorten(Literals& literals) const {
     Distance cut;
     for (Literal& literal : literals) {
-      if (literal.size() <= longestLiteral) continue;
-      const auto end = literal.begin() + static_cast<std::ptrdiff_t>(longestLiteral);
+      std::size_t length = std::min(literal.size(), longestLiteral);
+      while (length > 0 && isWithinExpansion(literal[length - 1]))
+        --length;
+      if (length == 0 || literal.size() <= longestLiteral) continue;
+      const auto end = literal.begin() + static_cast<std::ptrdiff_t>(length);
       cut = larger(cut, longest({Literal(end, literal.end())}));
       literal.erase(end, literal.end());
     }

@@ -255,6 +255,8 @@ class ScreeningEngine::Tables {
                   .boundaryBefore = link.boundaryBefore,
                   .boundaryAfter = link.boundaryAfter};
       for (const auto& literal : link.literals) {
+        if (literal.size() > std::numeric_limits<std::uint8_t>::max())
+          throw PatternError("literal too long");
         hit.length = static_cast<std::uint8_t>(literal.size());
         index.add(literal, hitNumber(hit));
       }

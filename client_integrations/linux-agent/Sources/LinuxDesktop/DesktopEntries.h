@@ -21,6 +21,8 @@ struct WindowTraits {
   std::string windowClass;       ///< The class part of WM_CLASS.
   std::string gtkApplicationId;  ///< _GTK_APPLICATION_ID.
   std::string executable;        ///< File name of the process's program.
+
+  bool operator==(const WindowTraits&) const = default;
 };
 
 /// The installed applications: desktop files under the XDG data folders. Reads them through GIO,

@@ -1,6 +1,6 @@
 #include "LinuxDesktop/QtMainLoop.h"
 
-#include <QTimer>
+#include <chrono>
 #include <memory>
 #include <utility>
 
@@ -11,11 +11,17 @@ namespace {
 
 // Workers wait for people (a PIN) and for the network more than for the processor.
 constexpr int kWorkers = 16;
+constexpr std::chrono::seconds kUntilIdle{2};
 
 }  // namespace
 
 QtMainLoop::QtMainLoop() {
   workers_.setMaxThreadCount(kWorkers);
+  // What work needed meanwhile would otherwise stay with the agent while it waits for days.
+  idle_.setSingleShot(true);
+  idle_.setInterval(kUntilIdle);
+  QObject::connect(&idle_, &QTimer::timeout, &receiver_,
+                   [this] { workers_.start([] { malloc_trim(0); }); });
 }
 
 QtMainLoop::~QtMainLoop() {
@@ -55,11 +61,10 @@ desktop::Ticket QtMainLoop::runBlocking(std::function<void()> work,
   const auto wanted = std::make_shared<std::function<void()>>(std::move(finished));
   workers_.start([this, work = std::move(work), wanted] {
     work();
-    post([wanted] {
+    post([this, wanted] {
+      idle_.start();
       if (const std::function<void()> call = std::exchange(*wanted, nullptr)) call();
     });
-    // What the work needed meanwhile would otherwise stay with the agent while it waits for days.
-    malloc_trim(0);
   });
   return desktop::Ticket([wanted] { *wanted = nullptr; });
 }

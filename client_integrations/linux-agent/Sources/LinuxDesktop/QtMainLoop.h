@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QThreadPool>
+#include <QTimer>
 
 #include "Desktop/MainLoop.h"
 
@@ -27,6 +28,7 @@ class QtMainLoop : public desktop::MainLoop {
  private:
   QObject receiver_;  // work posted to it goes with it
   QThreadPool workers_;
+  QTimer idle_;
 };
 
 }  // namespace quillseal

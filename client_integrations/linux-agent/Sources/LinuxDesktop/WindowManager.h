@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -28,6 +29,10 @@ class WindowManager {
 
   [[nodiscard]] WindowTraits traitsOf(xcb_window_t window) const;
 
+  /// The application that windows with these traits belong to. One signature asks several times and
+  /// every installed application is looked at, so the last answer holds for some minutes.
+  [[nodiscard]] std::optional<DesktopEntry> applicationWith(const WindowTraits& traits) const;
+
   [[nodiscard]] bool exists(xcb_window_t window) const;
 
   /// Asks for the window to be raised and given the focus, as a pager would: window managers refuse
@@ -44,6 +49,13 @@ class WindowManager {
   [[nodiscard]] std::optional<std::uint32_t> number(xcb_window_t window, const char* name,
                                                     xcb_atom_t type) const;
 
+  struct Answer {
+    WindowTraits traits;
+    std::optional<DesktopEntry> entry;
+    std::chrono::steady_clock::time_point when;
+  };
+
+  mutable std::optional<Answer> lastAnswer_;
   xcb_connection_t* connection_ = nullptr;
   xcb_window_t root_ = 0;
 };

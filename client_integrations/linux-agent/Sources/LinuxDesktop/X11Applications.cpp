@@ -20,7 +20,7 @@ std::optional<RunningApplication> X11Applications::frontmost() const {
   const WindowTraits traits = windows_.traitsOf(window);
   RunningApplication application{
       .instance = window, .name = {}, .bundleIdentifier = {}, .categories = {}};
-  if (const auto entry = DesktopEntries::forWindow(traits)) {
+  if (const auto entry = windows_.applicationWith(traits)) {
     application.name = entry->name;
     // Not by the executable: a browser's programs for single sites have desktop files of their own.
     application.bundleIdentifier =

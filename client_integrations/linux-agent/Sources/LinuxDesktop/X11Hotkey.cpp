@@ -55,7 +55,7 @@ void X11Hotkey::registerHotkey(desktop::KeyPress combination, std::function<void
 bool X11Hotkey::grab() {
   if (key_ != 0) xcb_ungrab_key(connection_, key_, root_, XCB_MOD_MASK_ANY);
   std::vector<Keysym> chord = chordOf(combination_);
-  key_ = keyboard_->keyFor(chord.back());
+  key_ = keyboard_->layout().keyFor(chord.back());
   chord.pop_back();
   unsigned modifiers = 0;
   for (const Keysym modifier : chord)

@@ -72,7 +72,7 @@ struct X11Keyboard::State {
   Context context;
   std::uint8_t xkbEventType = 0;
 
-  // Read afresh at every use: people switch layouts, and it costs about a millisecond.
+  // Read afresh for every press: people switch layouts.
   [[nodiscard]] Keymap keymap() const {
     return Keymap(xkb_x11_keymap_new_from_device(context.get(), connection.get(), device,
                                                  XKB_KEYMAP_COMPILE_NO_FLAGS));
@@ -157,16 +157,29 @@ void X11Keyboard::tap(std::span<const xcb_keycode_t> keys) {
   xcb_flush(state_->connection.get());
 }
 
-xcb_keycode_t X11Keyboard::keyFor(Keysym symbol) {
-  const Keymap keymap = state_->keymap();
-  if (keymap == nullptr) return latinKey(symbol);
+struct X11Keyboard::Layout::Map {
+  Keymap keymap;
+  xkb_layout_index_t inUse;
+};
+
+X11Keyboard::Layout X11Keyboard::layout() {
+  Layout layout;
+  Keymap keymap = state_->keymap();
+  if (keymap == nullptr) return layout;
   const KeymapState now(
       xkb_x11_state_new_from_device(keymap.get(), state_->connection.get(), state_->device));
   const xkb_layout_index_t inUse =
       now == nullptr ? 0 : xkb_state_serialize_layout(now.get(), XKB_STATE_LAYOUT_EFFECTIVE);
-  if (const xcb_keycode_t key = keyInLayout(keymap.get(), inUse, symbol); key != 0) return key;
-  for (xkb_layout_index_t layout = 0; layout < xkb_keymap_num_layouts(keymap.get()); ++layout)
-    if (const xcb_keycode_t key = keyInLayout(keymap.get(), layout, symbol); key != 0) return key;
+  layout.map_ = std::make_shared<const Layout::Map>(std::move(keymap), inUse);
+  return layout;
+}
+
+xcb_keycode_t X11Keyboard::Layout::keyFor(Keysym symbol) const {
+  if (map_ == nullptr) return latinKey(symbol);
+  xkb_keymap* const keymap = map_->keymap.get();
+  if (const xcb_keycode_t key = keyInLayout(keymap, map_->inUse, symbol); key != 0) return key;
+  for (xkb_layout_index_t layout = 0; layout < xkb_keymap_num_layouts(keymap); ++layout)
+    if (const xcb_keycode_t key = keyInLayout(keymap, layout, symbol); key != 0) return key;
   return latinKey(symbol);
 }
 

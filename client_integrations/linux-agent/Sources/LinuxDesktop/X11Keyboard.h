@@ -18,6 +18,20 @@ using Keysym = std::uint32_t;
 /// else. Main thread only.
 class X11Keyboard {
  public:
+  /// Where the keys are, as the layouts stand when it is made.
+  class Layout {
+   public:
+    /// The key that gives `symbol` without Shift: in the layout in use if it has one, else in
+    /// another configured layout, else where a Latin layout has it. 0 for a symbol that no layout
+    /// has.
+    [[nodiscard]] xcb_keycode_t keyFor(Keysym symbol) const;
+
+   private:
+    friend class X11Keyboard;
+    struct Map;
+    std::shared_ptr<const Map> map_;  // null when the server did not tell
+  };
+
   /// Null when there is no X server, or one without the XTEST and XKEYBOARD extensions.
   [[nodiscard]] static std::unique_ptr<X11Keyboard> open();
   ~X11Keyboard();
@@ -34,9 +48,8 @@ class X11Keyboard {
   /// Presses the keys in order and lets them go in reverse order.
   void tap(std::span<const xcb_keycode_t> keys);
 
-  /// The key that gives `symbol` without Shift: in the layout in use if it has one, else in another
-  /// configured layout, else where a Latin layout has it. 0 for a symbol that no layout has.
-  [[nodiscard]] xcb_keycode_t keyFor(Keysym symbol);
+  /// Takes some milliseconds, since the server is asked for everything it knows of the keys.
+  [[nodiscard]] Layout layout();
 
   /// The modifier bits (XCB_MOD_MASK_…) that the key of `symbol` stands for; 0 when it is none.
   [[nodiscard]] std::uint16_t modifierMaskOf(Keysym symbol);

@@ -6,7 +6,6 @@
 
 #include <xkbcommon/xkbcommon-keysyms.h>
 
-#include "LinuxDesktop/DesktopEntries.h"
 #include "LinuxDesktop/KeyChords.h"
 
 namespace quillseal {
@@ -48,16 +47,16 @@ desktop::Ticket XTestKeyEvents::press(desktop::KeyPress press, std::function<voi
   wait->earliest = services_.lastWrite() + kClipboardPropagation;
   wait->latest = std::max(loop.now() + kReleasePatience, wait->earliest);
   // Only the ticket owns `wait`: dropped, it takes the timer with it.
-  const xcb_keycode_t hotkey = services_.keyboard->keyFor(XKB_KEY_h);
-  wait->step = [this, press, hotkey, done = std::move(done), weak = std::weak_ptr(wait)] {
+  const X11Keyboard::Layout layout = services_.keyboard->layout();
+  wait->step = [this, press, layout, done = std::move(done), weak = std::weak_ptr(wait)] {
     const auto self = weak.lock();
     const auto now = services_.loop.now();
-    const bool keysDown = !services_.keyboard->heldKeys(hotkey).empty();
+    const bool keysDown = !services_.keyboard->heldKeys(layout.keyFor(XKB_KEY_h)).empty();
     if (now < self->earliest || (keysDown && now < self->latest)) {
       self->timer = services_.loop.after(kReleasePolling, self->step);
       return;
     }
-    tap(press);
+    tap(press, layout);
     const std::function<void()> finished = done;
     finished();
   };
@@ -65,18 +64,18 @@ desktop::Ticket XTestKeyEvents::press(desktop::KeyPress press, std::function<voi
   return desktop::Ticket([wait] { wait->timer = {}; });
 }
 
-void XTestKeyEvents::tap(desktop::KeyPress press) {
+void XTestKeyEvents::tap(desktop::KeyPress press, const X11Keyboard::Layout& layout) {
   X11Keyboard& keyboard = *services_.keyboard;
   const WindowTraits traits = services_.windows.traitsOf(services_.windows.activeWindow());
-  const auto entry = DesktopEntries::forWindow(traits);
+  const auto entry = services_.windows.applicationWith(traits);
   const std::vector<Keysym> chord =
       chordFor(press, entry ? entry->categories : std::string(), traits.windowClass);
   std::vector<xcb_keycode_t> keys;
   keys.reserve(chord.size());
   for (const Keysym symbol : chord)
-    keys.push_back(keyboard.keyFor(symbol));
+    keys.push_back(layout.keyFor(symbol));
   if (std::ranges::find(keys, 0) != keys.end()) return;
-  keyboard.release(keyboard.heldKeys(keyboard.keyFor(XKB_KEY_h)));
+  keyboard.release(keyboard.heldKeys(layout.keyFor(XKB_KEY_h)));
   services_.windows.releaseKeyboard();
   keyboard.tap(keys);
 }

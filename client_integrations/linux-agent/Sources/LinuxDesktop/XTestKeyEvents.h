@@ -31,7 +31,7 @@ class XTestKeyEvents : public desktop::KeyEvents {
   [[nodiscard]] desktop::Ticket press(desktop::KeyPress press, std::function<void()> done) override;
 
  private:
-  void tap(desktop::KeyPress press);
+  void tap(desktop::KeyPress press, const X11Keyboard::Layout& layout);
 
   Services services_;
 };

@@ -79,6 +79,8 @@ int main(int argc, char** argv) {
   for (const unsigned key : keys)
     XTestFakeDeviceKeyEvent(display.get(), keyboard, key, True, nullptr, 0, CurrentTime);
   XSync(display.get(), False);
+  std::puts("pressed");
+  std::fflush(stdout);
   std::this_thread::sleep_for(std::chrono::milliseconds(std::atoi(arguments[1])));
   while (!keys.empty()) {
     XTestFakeDeviceKeyEvent(display.get(), keyboard, keys.back(), False, nullptr, 0, CurrentTime);

@@ -1,19 +1,33 @@
 #!/usr/bin/env python3
-"""Measures the idle agent and the way from the hotkey to the prompt.
+"""Measures the agent from outside: start-up, memory and wake-ups while idle, and what it adds to a
+signature.
 
-usage: measure.py --quillseal PATH --server PATH --held-keys PATH [--seconds N]
+usage: measure.py --quillseal PATH --server PATH --held-keys PATH [--seconds N] [--runs N]
+
+With swtpm installed the key is in a software TPM, else in a file, whose passphrase takes some tenths
+of a second to check.
 """
 
 import argparse
+import http.client
+import http.server
+import os
 import pathlib
 import re
 import statistics
+import subprocess
+import threading
 import time
+import urllib.parse
 
+import demo
 import session
 
 LETTER = "Dear Ms Whitcombe, thank you for the visit on 14 March. The second draft suits us well."
-RUNS = 10
+SECRET = "correct horse battery staple"
+# Waits that are part of how the agent works, in milliseconds: until the source has finished its
+# copy; after the block is on the clipboard; after the source has been called to the front.
+SETTLING, CLIPBOARD, ACTIVATION = 80, 150, 350
 
 
 def memory(pid):
@@ -29,10 +43,130 @@ def wake_ups(pid):
                for status in pathlib.Path(f"/proc/{pid}/task").glob("*/status"))
 
 
+def busy(pid):
+    """Milliseconds for which the threads of the process have had a processor so far."""
+    return sum(int(share.read_text().split()[0])
+               for share in pathlib.Path(f"/proc/{pid}/task").glob("*/schedstat")) / 1e6
+
+
+def milliseconds(since):
+    return (time.monotonic() - since) * 1000
+
+
 def start_up(desktop):
+    """Starts the agent and tells how long it took to be ready, and for how long it was busy."""
     begun = time.monotonic()
-    desktop.start_agent()
-    return (time.monotonic() - begun) * 1000
+    agent = desktop.start(desktop.programs["quillseal"], "--tpm", "none")
+    output = session.wait_for("the agent writes", lambda: open(agent.log, encoding="utf-8"))
+    while "[start] ready" not in output.read():
+        output.seek(0)
+        time.sleep(0.0005)
+    wall = milliseconds(begun)
+    desktop.agent = agent
+    return wall, busy(agent.pid)
+
+
+class Proxy(http.server.ThreadingHTTPServer):
+    """Passes requests on to the signing server and adds up how long they take."""
+
+    def __init__(self, target):
+        self.target = urllib.parse.urlsplit(target).netloc
+        self.spent = 0.0
+        self.last_answer = 0.0
+        super().__init__(("127.0.0.1", 0), Handler)
+        threading.Thread(target=self.serve_forever, daemon=True).start()
+
+    @property
+    def url(self):
+        return f"http://127.0.0.1:{self.server_address[1]}"
+
+
+class Handler(http.server.BaseHTTPRequestHandler):
+    def do_POST(self):
+        begun = time.monotonic()
+        body = self.rfile.read(int(self.headers["Content-Length"]))
+        connection = http.client.HTTPConnection(self.server.target)
+        headers = {name: value for name, value in self.headers.items() if name != "Host"}
+        connection.request("POST", self.path, body, headers)
+        answer = connection.getresponse()
+        content = answer.read()
+        self.send_response(answer.status)
+        self.send_header("Content-Type", answer.headers["Content-Type"])
+        self.send_header("Content-Length", str(len(content)))
+        self.end_headers()
+        self.wfile.write(content)
+        self.server.last_answer = time.monotonic()
+        self.server.spent += milliseconds(begun)
+
+    def log_message(self, *_):
+        pass
+
+
+class Watch:
+    """Waits for lines of a program that reports events, and tells when each came."""
+
+    def __init__(self, desktop, *command):
+        self.lines = []
+        self.process = subprocess.Popen(command, env=desktop.env, text=True, bufsize=1,
+                                        stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+        threading.Thread(target=self._read, daemon=True).start()
+
+    def _read(self):
+        for line in self.process.stdout:
+            self.lines.append((time.monotonic(), line))
+
+    def time_of(self, what, pattern, after):
+        """When the first line that matches came after that moment."""
+        return session.wait_for(what, lambda: next(
+            (when for when, line in list(self.lines) if when > after and re.search(pattern, line)),
+            None))
+
+
+def press(desktop, *keys):
+    """Presses and releases keys, and tells when they were down."""
+    with subprocess.Popen([desktop.programs["held-keys"], "0", *keys], env=desktop.env,
+                          stdout=subprocess.PIPE) as process:
+        process.stdout.readline()
+        return time.monotonic()
+
+
+def overhead(desktop, number, proxy, windows, notifications):
+    """One signature: what it took beside server, person and the waits above."""
+    editor = desktop.open_editor(LETTER, f"letter-{number}.txt")
+    desktop.select_all(LETTER)
+    worked = busy(desktop.agent.pid)
+    pressed = press(desktop, *session.HOTKEY)
+    asked = windows.time_of("the agent asks", "_NET_ACTIVE_WINDOW.*0x[1-9a-f]", pressed)
+    desktop.wait_for_window("Enter the (PIN|passphrase)")
+    desktop.type(SECRET)
+    proxy.spent = 0.0
+    entered = press(desktop, "Return")
+    done = notifications.time_of("the block is pasted", "Signature Generated", entered)
+    worked = busy(desktop.agent.pid) - worked
+    pasting = (done - proxy.last_answer) * 1000
+    waits = SETTLING + (ACTIVATION if pasting >= ACTIVATION else CLIPBOARD)
+    to_prompt = (asked - pressed) * 1000
+    desktop.saved_text(editor, "Check this signature")
+    desktop.end(editor)
+    return to_prompt, to_prompt + (done - entered) * 1000 - proxy.spent - waits, proxy.spent, worked
+
+
+def enrol(desktop):
+    """Signs once, which chooses the secret and registers the key."""
+    editor = desktop.open_editor(LETTER)
+    desktop.select_all(LETTER)
+    desktop.press_hotkey(0)
+    kind = desktop.wait_for_window("Choose a (PIN|passphrase)")[1]
+    desktop.type(SECRET)
+    desktop.key("Tab")
+    desktop.type(SECRET)
+    desktop.key("Return")
+    desktop.wait_for_window("Enter the")
+    desktop.type(SECRET)
+    desktop.key("Return")
+    desktop.saved_text(editor, "Check this signature")
+    desktop.end(editor)
+    return kind
 
 
 def main():
@@ -40,39 +174,46 @@ def main():
     for name in ("quillseal", "server", "held-keys"):
         parser.add_argument(f"--{name}", required=True,
                             type=lambda path: pathlib.Path(path).resolve())
-    parser.add_argument("--seconds", type=int, default=60)
+    parser.add_argument("--seconds", type=int, default=60, help="how long to watch it idle")
+    parser.add_argument("--runs", type=int, default=21)
     arguments = parser.parse_args()
     programs = {"quillseal": arguments.quillseal, "quillseal-dev-server": arguments.server,
                 "held-keys": arguments.held_keys}
     with session.Session(programs, panel=True) as desktop:
-        desktop.write_settings(ServerURL=desktop.start_server())
+        proxy = Proxy(desktop.start_server())
+        desktop.write_settings(ServerURL=proxy.url, SigningMode="enclave")
+        print(f"load of the machine {os.getloadavg()[0]:7.1f}, {os.cpu_count()} processors")
         times = []
-        for _ in range(RUNS):
+        for _ in range(arguments.runs):
             if desktop.agent:
                 desktop.end(desktop.agent)
             times.append(start_up(desktop))
-        print(f"start to ready      {statistics.median(times):7.0f} ms (median of {RUNS})")
+        walls, shares = zip(*times)
+        print(f"start to ready      {statistics.median(walls):7.0f} ms, fastest {min(walls):.0f}; "
+              f"busy for {statistics.median(shares):.0f}")
         time.sleep(5)  # what was started in the background ends
-        rss, pss = memory(desktop.agent.pid)
-        print(f"idle memory         {rss:7.1f} MB resident, {pss:.1f} MB proportional")
+        print("idle memory         {:7.1f} MB resident, {:.1f} proportional".format(
+            *memory(desktop.agent.pid)))
         before = wake_ups(desktop.agent.pid)
         time.sleep(arguments.seconds)
         woken = (wake_ups(desktop.agent.pid) - before) * 60 / arguments.seconds
         print(f"idle wake-ups       {woken:7.1f} a minute")
+        desktop.end(desktop.agent)
 
-        desktop.open_editor(LETTER)
-        times = []
-        for _ in range(RUNS):
-            desktop.select_all(LETTER)
-            begun = time.monotonic()
-            desktop.press_hotkey(0)
-            desktop.wait_for_window("Choose a passphrase")
-            times.append((time.monotonic() - begun) * 1000)
-            desktop.key("Escape")
-            desktop.wait_for_no_window("Choose a passphrase")
-            while desktop.alert_is_open():
-                desktop.key("Escape")
-        print(f"hotkey to prompt    {statistics.median(times):7.0f} ms (median of {RUNS})")
+        desktop.start_agent(tpm=demo.start_software_tpm(desktop))
+        kind = enrol(desktop)
+        windows = Watch(desktop, "xprop", "-root", "-spy", "_NET_ACTIVE_WINDOW")
+        notifications = Watch(desktop, "dbus-monitor", "--session",
+                              "interface='org.freedesktop.Notifications'")
+        runs = [overhead(desktop, number, proxy, windows, notifications)
+                for number in range(arguments.runs)]
+        for name, values in zip(("hotkey to prompt", "overhead", "server", "agent busy"), zip(*runs)):
+            print(f"{name:<20}{statistics.median(values):7.0f} ms, fastest {min(values):.0f} "
+                  f"({len(values)} signatures with a {kind})")
+        print("after signing       {:7.1f} MB resident, {:.1f} proportional".format(
+            *memory(desktop.agent.pid)))
+        windows.process.terminate()
+        notifications.process.terminate()
 
 
 if __name__ == "__main__":

@@ -160,10 +160,13 @@ class Session:
         bus = self.start("dbus-daemon", "--session", "--nofork", "--print-address=1")
         address = self.wait_for_output(bus, r"unix:\S+", "the session bus starts")
         self.env["DBUS_SESSION_BUS_ADDRESS"] = address[0]
-        self.start("openbox", "--sm-disable")
-        wait_for("the window manager starts",
-                 lambda: "window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK",
-                                                 check=False))
+        manager = self.start("openbox", "--sm-disable")
+
+        def managed():
+            if manager.poll() is not None:
+                raise Failure(f"the window manager ended: {self.output_of(manager)}")
+            return "window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK", check=False)
+        wait_for("the window manager starts", managed)
         if self.panel:
             self.start("trayer", "--edge", "top", "--align", "right", "--widthtype", "request",
                        "--height", "26")
@@ -340,9 +343,10 @@ class Session:
 
     def select_all(self, expected, keys="ctrl+a"):
         """Applications differ in the white space around paragraphs."""
-        self.key(keys)
-        wait_for("all of the text is selected",
-                 lambda: self.selection("primary").split() == expected.split())
+        def selected():
+            self.key(keys)  # one that has just come to the front may miss the first
+            return self.selection("primary").split() == expected.split()
+        wait_for("all of the text is selected", selected)
 
     def saved_text(self, editor, containing):
         """Has the editor save until its file holds the text asked for; gives the file's text."""

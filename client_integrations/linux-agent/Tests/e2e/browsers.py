@@ -59,23 +59,27 @@ def enter_installed_system(build, prefix):
 
 
 class Site:
-    """Pages that tell which of them are open, and what is typed and pasted in them."""
+    """Pages that tell which of them are open, what is typed and pasted in them, and how what is
+    selected ends."""
 
     PAGE = """<!DOCTYPE html><meta charset="utf-8"><title>{title}</title>
 <style>body {{ font: 16px sans-serif; margin: 2em; }} #field {{ border: 1px solid #888; padding: 1em;
 min-height: 12em; min-width: 40em; }}</style><h1>{title}</h1>{field}
 <script>
+let count = 0;
 // What a page sends when it closes must be short; what it holds need not be.
-const tell = (what, body = "") => body === ""
-  ? navigator.sendBeacon(`/tell/${{what}}{query}`)
-  : fetch(`/tell/${{what}}{query}`, {{ method: "POST", body }});
+function tell(what, body = "") {{
+  const address = `/tell/${{what}}{query}&count=${{++count}}`;
+  if (body.length < 1000) navigator.sendBeacon(address, body);
+  else fetch(address, {{ method: "POST", body }});
+}}
 const field = document.getElementById("field");
 tell("open");
 addEventListener("pagehide", () => tell("gone"));
 field.focus();
 requestAnimationFrame(() => tell("painted"));
 field.addEventListener("input", () => tell("content", field.value ?? field.innerHTML));
-document.addEventListener("selectionchange", () => tell("selected", String(getSelection())));
+document.addEventListener("selectionchange", () => tell("selected", String(getSelection()).slice(-100)));
 </script>"""
 
     FIELDS = {"rich": '<div id="field" contenteditable>{}</div>',
@@ -85,8 +89,9 @@ document.addEventListener("selectionchange", () => tell("selected", String(getSe
         """`text` is markup, and what is in the field at first."""
         site = self
         self.open = []
-        self.told = {}
-        self.field = self.FIELDS[kind].format(text)
+        self.told = {}  # by what is told and by page
+        self.counts = {}
+        self.write(text, kind)
 
         class Handler(http.server.BaseHTTPRequestHandler):
             def do_GET(self):
@@ -106,13 +111,17 @@ document.addEventListener("selectionchange", () => tell("selected", String(getSe
             def do_POST(self):
                 url = urllib.parse.urlsplit(self.path)
                 what = url.path.rsplit("/", 1)[-1]
-                page = urllib.parse.parse_qs(url.query).get("h", [""])[0]
+                query = urllib.parse.parse_qs(url.query)
+                page = query.get("h", [""])[0]
                 body = self.rfile.read(int(self.headers["Content-Length"] or 0)).decode()
                 if what == "open":
                     site.open.append(page)
                 elif what == "gone" and page in site.open:
                     site.open.remove(page)
-                site.told[what, page] = body
+                # What was sent later may have come earlier.
+                if int(query["count"][0]) > site.counts.get((what, page), 0):
+                    site.counts[what, page] = int(query["count"][0])
+                    site.told[what, page] = body
                 self.send_response(204)
                 self.end_headers()
 
@@ -125,6 +134,10 @@ document.addEventListener("selectionchange", () => tell("selected", String(getSe
     def address(self, page, path="/mail"):
         return f"http://127.0.0.1:{self.server.server_port}{path}?h={page}"
 
+    def write(self, text, kind="rich"):
+        """Into the field of every page that is opened from now on."""
+        self.field = self.FIELDS[kind].format(text)
+
     def wait_for_open(self, *pages):
         wait_for(f"exactly the pages {', '.join(pages)} are open, not {self.open}",
                  lambda: sorted(self.open) == sorted(pages))
@@ -133,17 +146,21 @@ document.addEventListener("selectionchange", () => tell("selected", String(getSe
 class Browser:
     """`family` is "chromium" or "firefox-esr": program and desktop file are named so."""
 
-    def __init__(self, session, family):
+    def __init__(self, session, family, with_extensions=True):
         self.session = session
         self.family = family
         self.process = None
         if family == "chromium":
-            sandbox = ("--no-sandbox",) if os.geteuid() == 0 else ()
-            self.command = ("chromium", *sandbox, *CHROMIUM_FLAGS)
+            # Without the second, a bar below the address warns of the first.
+            sandbox = ("--no-sandbox", "--test-type") if os.geteuid() == 0 else ()
+            off = () if with_extensions else ("--disable-extensions",)
+            self.command = ("chromium", *sandbox, *off, *CHROMIUM_FLAGS)
         else:
             profile = session.home / "firefox-profile"
             profile.mkdir(exist_ok=True)
-            (profile / "user.js").write_text(FIREFOX_PREFERENCES)
+            # The scopes are bits; 1 is for those that the user has installed.
+            off = "" if with_extensions else 'user_pref("extensions.enabledScopes", 1);'
+            (profile / "user.js").write_text(FIREFOX_PREFERENCES + off)
             self.command = ("firefox-esr", "--profile", str(profile))
 
     def start(self, url):

@@ -18,16 +18,9 @@ constexpr std::uint32_t fullDepth = 2;
 }  // namespace
 
 void LiteralIndex::add(std::span<const Letter> literal, std::uint32_t value) {
-  std::uint32_t node = 0;
-  for (const Letter letter : literal) {
+  for (const Letter letter : literal)
     ++ranks_[letter];
-    const auto [child, isNew] =
-        trie_[node].children.try_emplace(letter, static_cast<std::uint32_t>(trie_.size()));
-    node = child->second;
-    if (isNew) trie_.emplace_back();
-  }
-  auto& values = trie_[node].values;
-  if (std::find(values.begin(), values.end(), value) == values.end()) values.push_back(value);
+  literals_.push_back({.letters = {literal.begin(), literal.end()}, .value = value});
 }
 
 std::vector<std::uint8_t> LiteralIndex::symbolsOf(Letter letter) const {
@@ -85,10 +78,9 @@ void LiteralIndex::finish(const CharacterClasses& classes) {
     }
   };
   std::vector<SymbolNode> nodes(1);
-  const auto insert = [&](const auto& self, std::uint32_t from, std::uint32_t to) -> void {
-    nodes[to].values = trie_[from].values;
-    for (const auto& [letter, child] : trie_[from].children) {
-      std::uint32_t at = to;
+  for (const auto& [letters, value] : literals_) {
+    std::uint32_t at = 0;
+    for (const Letter letter : letters) {
       for (const std::uint8_t symbol : symbolsOf(letter)) {
         std::uint32_t next = nodes[at].child(symbol);
         if (next == 0) {
@@ -99,11 +91,11 @@ void LiteralIndex::finish(const CharacterClasses& classes) {
         }
         at = next;
       }
-      self(self, child, at);
     }
-  };
-  insert(insert, 0, 0);
-  trie_ = {};
+    auto& values = nodes[at].values;
+    if (std::find(values.begin(), values.end(), value) == values.end()) values.push_back(value);
+  }
+  literals_ = std::vector<Literal>();
   if (nodes.size() > std::numeric_limits<State>::max()) throw PatternError("too many literals");
 
   const auto after = [&](std::uint32_t node, std::uint8_t symbol) {

@@ -58,9 +58,9 @@ class LiteralIndex {
     std::uint8_t length;
     std::uint16_t first;
   };
-  struct TrieNode {
-    std::map<Letter, std::uint32_t> children;
-    std::vector<std::uint32_t> values;
+  struct Literal {
+    std::vector<Letter> letters;
+    std::uint32_t value;
   };
   static constexpr std::uint8_t several = 0xFF;
 
@@ -86,7 +86,7 @@ class LiteralIndex {
   [[nodiscard]] std::vector<std::uint8_t> symbolsOf(Letter letter) const;
   void assignSymbols(const CharacterClasses& classes);
 
-  std::vector<TrieNode> trie_{1};
+  std::vector<Literal> literals_;        ///< until `finish`
   std::map<Letter, std::size_t> ranks_;  ///< by descending frequency
   std::size_t symbolCount_ = 1;
   std::vector<Symbols> symbols_;

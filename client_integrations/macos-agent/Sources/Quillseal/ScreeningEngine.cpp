@@ -309,7 +309,7 @@ class ScreeningEngine::Tables {
         leadingMasks[id * leadingWords + bit / 64] |= (members[id / 64] >> (id % 64) & 1)
                                                       << (bit % 64);
     }
-    leadingClassesOfBits = {};
+    leadingClassesOfBits = decltype(leadingClassesOfBits)();
   }
 };
 

@@ -19,4 +19,20 @@ std::string limitsOf(const SessionTraits& session) {
   return {};
 }
 
+PlatformChoice platformFor(const DisplayTraits& display) {
+  const std::string& wanted = display.wantedPlatform;
+  if (!wanted.empty() && !wanted.starts_with("wayland") && !wanted.starts_with("xcb"))
+    return {.platform = wanted, .obstacle = {}};
+  if (display.hasXServer) return {.platform = "xcb", .obstacle = {}};
+  if (!display.hasWayland)
+    return {.platform = {},
+            .obstacle = "There is no display. Start Quillseal within a desktop session."};
+  if (display.hasWaylandPlugin) return {.platform = "wayland", .obstacle = {}};
+  return {.platform = {},
+          .obstacle =
+              "This is a Wayland session without Xwayland, in which Quillseal cannot sign. "
+              "For its settings alone, install the package qt6-wayland. To sign, choose an "
+              "X11 session (“Xorg”) when you log in."};
+}
+
 }  // namespace quillseal

@@ -15,4 +15,23 @@ struct SessionTraits {
 /// empty where everything works.
 [[nodiscard]] std::string limitsOf(const SessionTraits& session);
 
+/// What there is to draw windows on.
+struct DisplayTraits {
+  bool hasXServer = false;
+  bool hasWayland = false;
+  bool hasWaylandPlugin = false;  ///< Qt's, a package of its own on Debian
+  std::string wantedPlatform;     ///< QT_QPA_PLATFORM
+};
+
+/// The Qt platform to use, or why there is none, as sentences for the person.
+struct PlatformChoice {
+  std::string platform;
+  std::string obstacle;
+};
+
+/// X wins where it answers, since selections, keys and the hotkey are reached through it, in a
+/// Wayland session through Xwayland. Some desktops want Wayland of every program of Qt; only
+/// another wish is obeyed.
+[[nodiscard]] PlatformChoice platformFor(const DisplayTraits& display);
+
 }  // namespace quillseal

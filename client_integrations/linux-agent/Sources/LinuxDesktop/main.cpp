@@ -1,7 +1,9 @@
 // The agent for Linux desktops: chooses and joins its parts, and runs the event loop.
 
 #include <QApplication>
+#include <QDir>
 #include <QIcon>
+#include <QLibraryInfo>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -9,6 +11,8 @@
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include <xcb/xcb.h>
 
 #include "Desktop/Desktop.h"
 #include "LinuxDesktop/CommandLine.h"
@@ -73,16 +77,31 @@ void report(std::string_view sentence) {
                                  sentence.data()));
 }
 
+bool isOnX() {
+  return QApplication::platformName() == QLatin1String("xcb");
+}
+
+bool xServerAnswers() {
+  xcb_connection_t* const connection = xcb_connect(nullptr, nullptr);
+  const bool answers = xcb_connection_has_error(connection) == 0;
+  xcb_disconnect(connection);
+  return answers;
+}
+
+bool hasWaylandPlugin() {
+  const QDir plugins(QLibraryInfo::path(QLibraryInfo::PluginsPath) + QLatin1String("/platforms"));
+  return !plugins.entryList({QStringLiteral("libqwayland-*")}).isEmpty();
+}
+
 // Everything the agent asks of this desktop. Members are destroyed from the last to the first.
 class LinuxDesktop {
  public:
   LinuxDesktop(const CommandLine& commandLine, quillseal::desktop::Log& log)
       : log_(log),
-        keyboard_(quillseal::X11Keyboard::open()),
-        limits_(
-            quillseal::limitsOf({.isWayland = environment("XDG_SESSION_TYPE") == "wayland",
-                                 .hasXServer = QApplication::platformName() == QLatin1String("xcb"),
-                                 .canPressKeys = keyboard_ != nullptr})),
+        keyboard_(isOnX() ? quillseal::X11Keyboard::open() : nullptr),
+        limits_(quillseal::limitsOf({.isWayland = environment("XDG_SESSION_TYPE") == "wayland",
+                                     .hasXServer = isOnX(),
+                                     .canPressKeys = keyboard_ != nullptr})),
         secretPrompt_(loop_, windowManager_),
         keyStore_(quillseal::makeKeyStore({.folder = keyFolder(), .tpm = commandLine.tpm},
                                           secretPrompt_)),
@@ -104,7 +123,12 @@ class LinuxDesktop {
         program_(windowManager_),
         browserTabs_({.loop = loop_, .descriptors = descriptors_, .log = log_}) {
     log_.write("[start] " + keyStore_->describe());
-    if (!limits_.empty()) warn(limits_);
+    if (limits_.empty()) return;
+    // Not a window to close at the start of every session.
+    if (commandLine.command == Command::Background)
+      alerts_.notify({.title = "Quillseal", .body = limits_});
+    else
+      warn(limits_);
   }
 
   // Workers use the services; some of them wait for an answer that nobody will give any more.
@@ -214,14 +238,17 @@ int runAgent(const CommandLine& commandLine, quillseal::SingleInstance& instance
 }
 
 int run(int argc, char** argv, const CommandLine& commandLine) {
-  const bool hasXServer = !environment("DISPLAY").empty();
-  if (!hasXServer && environment("WAYLAND_DISPLAY").empty() &&
-      environment("QT_QPA_PLATFORM").empty()) {
-    report("there is no display. Start it within a desktop session.");
+  // Qt ends the program where it finds no display.
+  const quillseal::PlatformChoice choice =
+      quillseal::platformFor({.hasXServer = xServerAnswers(),
+                              .hasWayland = !environment("WAYLAND_DISPLAY").empty(),
+                              .hasWaylandPlugin = hasWaylandPlugin(),
+                              .wantedPlatform = environment("QT_QPA_PLATFORM")});
+  if (choice.platform.empty()) {
+    report(choice.obstacle);
     return kFailed;
   }
-  // Selections, keys and the hotkey are reached through X, in a Wayland session through Xwayland.
-  if (hasXServer && environment("QT_QPA_PLATFORM").empty()) qputenv("QT_QPA_PLATFORM", "xcb");
+  qputenv("QT_QPA_PLATFORM", QByteArray::fromStdString(choice.platform));
   // The library of the TPM would write of every wrong PIN and, on request, all that it sends.
   qputenv("TSS2_LOG", "all+none");
 

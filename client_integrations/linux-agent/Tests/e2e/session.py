@@ -50,13 +50,14 @@ class Session:
     """Use as a context manager. `programs` names the built executables: quillseal,
     quillseal-dev-server, held-keys."""
 
-    def __init__(self, programs, size="1280x800", panel=False):
+    def __init__(self, programs, size="1280x800", panel=False, x_options=()):
         self.programs = {name: str(path) for name, path in programs.items()}
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="quillseal-session-"))
         self.home = self.folder / "home"
         self.processes = []
         self.size = size
         self.panel = panel
+        self.x_options = x_options
         self.env = self._environment()
         self.agent = None
         self.server_url = None
@@ -154,7 +155,7 @@ class Session:
             # The server would start over, and lose whoever connects just then, each time its last
             # client goes; while the desktop starts, that is often.
             self.start("Xvfb", "-displayfd", number.fileno(), "-screen", "0", f"{self.size}x24",
-                       "-nolisten", "tcp", "-noreset", pass_fds=[number.fileno()])
+                       "-nolisten", "tcp", "-noreset", *self.x_options, pass_fds=[number.fileno()])
         number = wait_for("the X server starts", lambda: display_file.read_text().strip())
         self.env["DISPLAY"] = f":{number}"
         bus = self.start("dbus-daemon", "--session", "--nofork", "--print-address=1")

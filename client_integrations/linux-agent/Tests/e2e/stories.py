@@ -392,6 +392,38 @@ class Commands(Story):
         self.assertTrue(self.assert_signed(editor).startswith(url))
 
 
+class Limits(Story):
+    """Where not everything works, the agent says what does."""
+
+    def test_without_xtest_only_the_settings_work(self):
+        self.desktop = self.enterContext(
+            session.Session(PROGRAMS, x_options=("-extension", "XTEST")))
+        self.desktop.start_agent()
+        self.assertIn("lacks the XTEST extension", self.desktop.output_of(self.desktop.agent))
+        self.desktop.wait_for_window("Quillseal")
+        self.desktop.run(PROGRAMS["quillseal"], "--settings")
+        wait_for("the settings are shown",
+                 lambda: "Quill Seal Server Settings" in self.desktop.window_names())
+
+    def test_a_wayland_session_is_signed_in_through_its_x_server(self):
+        # The wish for Wayland is one that some desktops make for every program.
+        self.desktop.env.update(XDG_SESSION_TYPE="wayland", WAYLAND_DISPLAY="wayland-0",
+                                QT_QPA_PLATFORM="wayland")
+        self.start()
+        self.assertIn("Bind the command “quillseal --sign”",
+                      self.desktop.output_of(self.desktop.agent))
+        self.desktop.wait_for_window("Quillseal")
+        self.desktop.key("Return")
+        self.desktop.wait_for_no_window("Quillseal")
+        self.assert_signed(self.sign_in_editor())
+
+    def test_at_the_start_of_a_session_the_limits_are_a_notification(self):
+        self.desktop.env.update(XDG_SESSION_TYPE="wayland")
+        self.desktop.start(PROGRAMS["quillseal"], "--background")
+        self.desktop.wait_for_notification("Bind the command")
+        self.assertNotIn("Quillseal", self.desktop.window_names())
+
+
 def main():
     parser = argparse.ArgumentParser()
     for name in ("quillseal", "server", "held-keys", "secret-editor"):

@@ -50,6 +50,9 @@ TEST(KeyChordsTest, TerminalsGetTheChordsTheyKnow) {
   EXPECT_THAT(chordFor(kPaste, "TerminalEmulator;", "Xfce4-terminal"),
               ElementsAre(XKB_KEY_Control_L, XKB_KEY_Shift_L, XKB_KEY_v));
   EXPECT_THAT(chordFor(kPaste, "", "XTerm"), ElementsAre(XKB_KEY_Shift_L, XKB_KEY_Insert));
+  EXPECT_THAT(chordFor(kCopy, "", "XTerm"), IsEmpty());
+  EXPECT_TRUE(copiesBySelecting("XTerm"));
+  EXPECT_FALSE(copiesBySelecting("Xfce4-terminal"));
 }
 
 TEST(KeyChordsTest, OtherApplicationsGetTheUsualChords) {

@@ -26,8 +26,8 @@ constexpr std::array<std::string_view, 9> kTerminalClasses = {"alacritty",
                                                               "urxvt",
                                                               "xfce4-terminal"};
 
-// These keep the shortcuts of the first X terminals.
-constexpr std::array<std::string_view, 3> kInsertClasses = {"uxterm", "xterm", "urxvt"};
+// These keep to the ways of the first X terminals.
+constexpr std::array<std::string_view, 3> kSelectingClasses = {"uxterm", "xterm", "urxvt"};
 
 struct ModifierKey {
   Keysym symbol;
@@ -73,10 +73,14 @@ bool isOneOf(std::string_view windowClass, const auto& classes) {
 
 bool isTerminal(std::string_view categories, std::string_view windowClass) {
   return categories.find("TerminalEmulator") != std::string_view::npos ||
-         isOneOf(windowClass, kTerminalClasses) || isOneOf(windowClass, kInsertClasses);
+         isOneOf(windowClass, kTerminalClasses) || copiesBySelecting(windowClass);
 }
 
 }  // namespace
+
+bool copiesBySelecting(std::string_view windowClass) {
+  return isOneOf(windowClass, kSelectingClasses);
+}
 
 std::vector<Keysym> chordOf(KeyPress press) {
   std::vector<Keysym> chord;
@@ -89,13 +93,13 @@ std::vector<Keysym> chordOf(KeyPress press) {
 std::vector<Keysym> chordFor(KeyPress press, std::string_view categories,
                              std::string_view windowClass) {
   if (!isTerminal(categories, windowClass)) return chordOf(press);
-  const bool oldKeys = isOneOf(windowClass, kInsertClasses);
+  const bool selecting = copiesBySelecting(windowClass);
   switch (press.key) {
     case Key::c:
-      if (oldKeys) return {XKB_KEY_Control_L, XKB_KEY_Insert};
+      if (selecting) return {};
       return {XKB_KEY_Control_L, XKB_KEY_Shift_L, XKB_KEY_c};
     case Key::v:
-      if (oldKeys) return {XKB_KEY_Shift_L, XKB_KEY_Insert};
+      if (selecting) return {XKB_KEY_Shift_L, XKB_KEY_Insert};
       return {XKB_KEY_Control_L, XKB_KEY_Shift_L, XKB_KEY_v};
     default:
       return {};

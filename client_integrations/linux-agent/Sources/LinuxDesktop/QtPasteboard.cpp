@@ -77,4 +77,15 @@ void QtPasteboard::write(const desktop::PasteboardContent& content) {
                  .description = "The clipboard could not be written: another program holds it."});
 }
 
+void QtPasteboard::copyPrimarySelection() {
+  QClipboard* const clipboard = QGuiApplication::clipboard();
+  const QString selected = clipboard->text(QClipboard::Selection);
+  if (!selected.isEmpty()) clipboard->setText(selected);
+}
+
+void QtPasteboard::offerAsPrimarySelection() {
+  QClipboard* const clipboard = QGuiApplication::clipboard();
+  clipboard->setText(clipboard->text(), QClipboard::Selection);
+}
+
 }  // namespace quillseal

@@ -19,6 +19,13 @@ class QtPasteboard : public desktop::Pasteboard {
   [[nodiscard]] std::optional<std::string> rtf() const override;
   void write(const desktop::PasteboardContent& content) override;
 
+  /// Copies what is selected anywhere on the desktop, its plain text, as the program could that it
+  /// is selected in. Leaves the clipboard alone when that is nothing.
+  void copyPrimarySelection();
+
+  /// Offers the clipboard's plain text as the primary selection too, for programs that paste that.
+  void offerAsPrimarySelection();
+
   /// When `write` was last called; the epoch when it never was.
   [[nodiscard]] std::chrono::steady_clock::time_point lastWrite() const { return lastWrite_; }
 

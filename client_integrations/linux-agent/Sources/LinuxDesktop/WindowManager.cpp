@@ -110,6 +110,16 @@ std::optional<DesktopEntry> WindowManager::applicationWith(const WindowTraits& t
   return lastAnswer_->entry;
 }
 
+bool WindowManager::hasPrimarySelection(xcb_window_t window) const {
+  if (connection_ == nullptr || window == 0) return false;
+  const Reply<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(
+      connection_, xcb_get_selection_owner(connection_, XCB_ATOM_PRIMARY), nullptr));
+  if (reply == nullptr) return false;
+  // The server gives every program a range of numbers of its own.
+  const std::uint32_t withinProgram = xcb_get_setup(connection_)->resource_id_mask;
+  return (reply->owner & ~withinProgram) == (window & ~withinProgram);
+}
+
 bool WindowManager::exists(xcb_window_t window) const {
   if (connection_ == nullptr || window == 0) return false;
   const Reply<xcb_get_window_attributes_reply_t> reply(xcb_get_window_attributes_reply(

@@ -33,6 +33,9 @@ class WindowManager {
   /// every installed application is looked at, so the last answer holds for some minutes.
   [[nodiscard]] std::optional<DesktopEntry> applicationWith(const WindowTraits& traits) const;
 
+  /// Whether the program that shows the window has the primary selection.
+  [[nodiscard]] bool hasPrimarySelection(xcb_window_t window) const;
+
   [[nodiscard]] bool exists(xcb_window_t window) const;
 
   /// Asks for the window to be raised and given the focus, as a pager would: window managers refuse

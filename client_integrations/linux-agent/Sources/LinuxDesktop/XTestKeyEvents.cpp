@@ -44,7 +44,7 @@ desktop::Ticket XTestKeyEvents::press(desktop::KeyPress press, std::function<voi
   }
   desktop::MainLoop& loop = services_.loop;
   const auto wait = std::make_shared<Wait>();
-  wait->earliest = services_.lastWrite() + kClipboardPropagation;
+  wait->earliest = services_.pasteboard.lastWrite() + kClipboardPropagation;
   wait->latest = std::max(loop.now() + kReleasePatience, wait->earliest);
   // Only the ticket owns `wait`: dropped, it takes the timer with it.
   const X11Keyboard::Layout layout = services_.keyboard->layout();
@@ -66,7 +66,13 @@ desktop::Ticket XTestKeyEvents::press(desktop::KeyPress press, std::function<voi
 
 void XTestKeyEvents::tap(desktop::KeyPress press, const X11Keyboard::Layout& layout) {
   X11Keyboard& keyboard = *services_.keyboard;
-  const WindowTraits traits = services_.windows.traitsOf(services_.windows.activeWindow());
+  const xcb_window_t window = services_.windows.activeWindow();
+  const WindowTraits traits = services_.windows.traitsOf(window);
+  if (copiesBySelecting(traits.windowClass)) {
+    if (press.key == desktop::Key::c && services_.windows.hasPrimarySelection(window))
+      services_.pasteboard.copyPrimarySelection();
+    if (press.key == desktop::Key::v) services_.pasteboard.offerAsPrimarySelection();
+  }
   const auto entry = services_.windows.applicationWith(traits);
   const std::vector<Keysym> chord =
       chordFor(press, entry ? entry->categories : std::string(), traits.windowClass);
@@ -74,7 +80,7 @@ void XTestKeyEvents::tap(desktop::KeyPress press, const X11Keyboard::Layout& lay
   keys.reserve(chord.size());
   for (const Keysym symbol : chord)
     keys.push_back(layout.keyFor(symbol));
-  if (std::ranges::find(keys, 0) != keys.end()) return;
+  if (keys.empty() || std::ranges::find(keys, 0) != keys.end()) return;
   keyboard.release(keyboard.heldKeys(layout.keyFor(XKB_KEY_h)));
   services_.windows.releaseKeyboard();
   keyboard.tap(keys);

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <chrono>
 #include <functional>
 #include <string>
 
 #include "Desktop/KeyEvents.h"
 #include "Desktop/MainLoop.h"
+#include "LinuxDesktop/QtPasteboard.h"
 #include "LinuxDesktop/WindowManager.h"
 #include "LinuxDesktop/X11Keyboard.h"
 
@@ -18,8 +18,7 @@ class XTestKeyEvents : public desktop::KeyEvents {
     desktop::MainLoop& loop;
     const WindowManager& windows;
     X11Keyboard* keyboard;  ///< null where keys cannot be pressed
-    /// When the clipboard was last written by this process.
-    std::function<std::chrono::steady_clock::time_point()> lastWrite;
+    QtPasteboard& pasteboard;
     /// Tells the person why keys cannot be pressed in this session.
     std::function<void()> explain;
   };

@@ -118,7 +118,7 @@ class LinuxDesktop {
         keys_({.loop = loop_,
                .windows = windowManager_,
                .keyboard = keyboard_.get(),
-               .lastWrite = [this] { return pasteboard_.lastWrite(); },
+               .pasteboard = pasteboard_,
                .explain = [this] { warn(limits_); }}),
         program_(windowManager_),
         browserTabs_({.loop = loop_, .descriptors = descriptors_, .log = log_}) {

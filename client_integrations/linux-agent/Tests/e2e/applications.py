@@ -51,14 +51,27 @@ class Writer:
 class Terminal:
     """A terminal that shows `text` and in which a program reads what is typed."""
 
-    SELECT_ALL = "ctrl+shift+a"
+    COMMANDS = {
+        "xfce4-terminal": ("--disable-server", "--title", "Notes", "--dynamic-title-mode", "none",
+                           "--execute"),
+        "xterm": ("-u8", "-title", "Notes", "-e"),
+    }
 
-    def __init__(self, session, text):
+    def __init__(self, session, program, text):
         self.session = session
         (session.home / "letter.txt").write_text(text)
         self.received = session.home / "received.txt"
-        session.start("xfce4-terminal", "--disable-server", "--title", "Notes",
-                      "--dynamic-title-mode", "none", "--execute",
-                      "sh", "-c", f"cat letter.txt; exec cat > {self.received.name}")
+        session.start(program, *self.COMMANDS[program], "sh", "-c",
+                      f"cat letter.txt; exec cat > {self.received.name}")
         session.wait_for_window("Notes", "the terminal opens")
         wait_for("the program in the terminal waits for input", self.received.exists)
+
+    def drag_over(self, expected):
+        """Selects with the mouse, from the first line to one below the last."""
+        window = self.session.active_window()
+
+        def selected():
+            self.session.run("xdotool", "mousemove", "--window", window, 4, 4, "mousedown", 1,
+                             "mousemove", "--window", window, 200, 150, "mouseup", 1)
+            return self.session.selection("primary").split() == expected.split()
+        wait_for("the text in the terminal is selected", selected)

@@ -213,17 +213,37 @@ class Applications(Story):
         text = html.unescape(re.sub(r"<[^>]+>", "", content))
         self.assertRegex("".join(text.split()), f"^『{''.join(PARAGRAPHS.split())}』🛡️QUILLSEAL")
 
-    def test_a_terminal_whose_program_goes_on(self):
-        terminal = Terminal(self.desktop, PARAGRAPHS)
-        self.desktop.select_all(PARAGRAPHS, Terminal.SELECT_ALL)
-        self.sign()
-        # This terminal asks before it pastes more than one line.
-        self.close("Unsafe Paste")
+    def assert_program_goes_on(self, terminal):
+        """It has read the block and nothing else, and no interrupt has ended it."""
         self.desktop.key("Return")
-        block = wait_for("the program reads the block",
-                         lambda: terminal.received.read_text().partition("Check this signature"))
-        self.assertEqual(block[0].partition("』")[0], f"『{PARAGRAPHS}")
+        read = wait_for("the program reads the block",
+                        lambda: "Check this" in (text := terminal.received.read_text()) and text)
+        self.assertTrue(read.startswith(f"『{PARAGRAPHS}』\n\n────"), read)
         self.assert_recorded("Public Broadcast")
+
+    def test_a_terminal_whose_program_goes_on(self):
+        terminal = Terminal(self.desktop, "xfce4-terminal", PARAGRAPHS)
+        self.desktop.select_all(PARAGRAPHS, "ctrl+shift+a")
+        self.sign()
+        self.close("Unsafe Paste")  # this terminal asks before it pastes more than one line
+        self.assert_program_goes_on(terminal)
+
+    def test_a_terminal_without_a_key_that_copies(self):
+        terminal = Terminal(self.desktop, "xterm", PARAGRAPHS)
+        terminal.drag_over(PARAGRAPHS)
+        self.sign()
+        self.desktop.wait_for_notification("✅ Signature Generated!")
+        self.desktop.wait_for_window("Notes")
+        self.assert_program_goes_on(terminal)
+
+    def test_what_is_selected_in_another_window_is_not_signed(self):
+        self.desktop.open_editor(LETTER)
+        self.desktop.select_all(LETTER)
+        Terminal(self.desktop, "xterm", PARAGRAPHS)
+        self.desktop.press_hotkey()
+        self.choose_secret()
+        self.close("No Text Found")
+        self.assertEqual(self.desktop.recorded(), [])
 
     def test_a_copy_that_is_marked_as_a_secret_is_no_text(self):
         self.desktop.start(PROGRAMS["secret-editor"], LETTER)

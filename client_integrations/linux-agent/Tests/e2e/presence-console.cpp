@@ -1,0 +1,46 @@
+// The proofs of presence, one at a time, for a test that answers as a person would.
+// usage: presence-console can|finger|password   prints its process number, waits for a line, asks
+
+#include <cstdio>
+#include <exception>
+#include <string>
+#include <string_view>
+
+#include <unistd.h>
+
+#include "LinuxDesktop/FingerprintReader.h"
+#include "LinuxDesktop/PolkitAuthority.h"
+
+namespace {
+
+void say(std::string_view text) {
+  std::printf("%.*s\n", static_cast<int>(text.size()), text.data());
+  std::fflush(stdout);
+}
+
+void answer(std::string_view question) {
+  const quillseal::Interrupt interrupt;
+  if (question == "finger") {
+    const bool passed = quillseal::FingerprintReader::verify(interrupt, say);
+    say(passed ? "yes" : "no");
+  } else if (question == "password") {
+    say(quillseal::PolkitAuthority::ask(interrupt) ? "yes" : "no");
+  } else {
+    say(quillseal::FingerprintReader::isEnrolled() ? "finger" : "no finger");
+    say(quillseal::PolkitAuthority::canAsk() ? "password" : "no password");
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 2) return 2;
+  say(std::to_string(getpid()));
+  std::getchar();
+  try {
+    answer(argv[1]);
+  } catch (const std::exception& error) {
+    say(error.what());
+  }
+  return 0;
+}

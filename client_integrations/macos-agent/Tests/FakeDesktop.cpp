@@ -90,6 +90,12 @@ std::vector<std::string> FakeDesktop::sentTo(std::string_view path) const {
   return bodies;
 }
 
+void FakeDesktop::forget() {
+  trace.clear();
+  pastedInto.clear();
+  sent_.clear();
+}
+
 void FakeDesktop::mayFail(std::string_view call) {
   if (++calls != failingCall) return;
   failedCall = call;

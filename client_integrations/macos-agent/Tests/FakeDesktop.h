@@ -50,6 +50,9 @@ class FakeDesktop final : public desktop::Alerts,
   [[nodiscard]] std::vector<std::string> userTrace() const;
   [[nodiscard]] std::vector<std::string> sentTo(std::string_view path) const;
 
+  /// Empties the trace and the lists of what was sent and pasted.
+  void forget();
+
   // What a copy yields.
   struct Copy {
     std::optional<std::string> text;

@@ -1,0 +1,128 @@
+#!/usr/bin/env python3
+"""Signs again and again in one session, with a key in a TPM simulator, and tells whether the agent
+keeps its memory and its descriptors.
+
+usage: soak.py --quillseal PATH --server PATH --held-keys PATH [--count N]
+"""
+
+import argparse
+import os
+import pathlib
+import statistics
+import sys
+import time
+
+import session
+from measure import memory
+from session import wait_for
+
+LETTER = "Dear Ms Whitcombe, thank you for the visit on 14 March. The second draft suits us well."
+PIN = "271828"
+SETTLED = 50  # signatures after which caches are full
+
+
+def percentiles(times):
+    cuts = statistics.quantiles(times, n=100, method="inclusive")
+    return f"p50 {cuts[49]:.0f} ms, p99 {cuts[98]:.0f} ms"
+
+
+class Soak:
+    def __init__(self, desktop):
+        self.desktop = desktop
+        self.to_prompt = []
+        self.to_block = []
+
+    def start(self):
+        state = self.desktop.folder / "tpm"
+        state.mkdir()
+        socket = state / "socket"
+        self.desktop.start("swtpm", "socket", "--tpm2", "--tpmstate", f"dir={state}",
+                           "--server", f"type=unixio,path={socket}",
+                           "--ctrl", f"type=unixio,path={socket}.ctrl",
+                           "--flags", "not-need-init,startup-clear")
+        wait_for("the TPM simulator starts", socket.exists)
+        self.desktop.write_settings(ServerURL=self.desktop.start_server(), SigningMode="enclave")
+        self.desktop.start_agent(tpm=f"swtpm:path={socket}")
+        self.desktop.open_editor(LETTER)
+
+    def signatures(self):
+        return self.desktop.shown_notifications().count("Signature Generated")
+
+    def sign(self):
+        done = self.signatures()
+        begun = time.monotonic()
+        self.desktop.press_hotkey(0)
+        self.desktop.wait_for_window("Enter the PIN")
+        self.to_prompt.append((time.monotonic() - begun) * 1000)
+        self.desktop.type(PIN)
+        begun = time.monotonic()
+        self.desktop.key("Return")
+        wait_for("the signature is made", lambda: self.signatures() > done)
+        self.to_block.append((time.monotonic() - begun) * 1000)
+        wait_for("the block is pasted", self.block_is_selected)
+        self.desktop.key("ctrl+z")
+
+    def block_is_selected(self):
+        self.desktop.key("ctrl+a")
+        return self.desktop.selection("primary").startswith(f"『{LETTER}』")
+
+    def select_letter(self):
+        def selected():
+            self.desktop.key("ctrl+a")
+            return self.desktop.selection("primary") == LETTER
+        wait_for("the editor has the letter again", selected)
+
+    def holdings(self):
+        pid = self.desktop.agent.pid
+        rss, pss = memory(pid)
+        return {"resident": rss, "proportional": pss,
+                "descriptors": len(os.listdir(f"/proc/{pid}/fd")),
+                "threads": len(os.listdir(f"/proc/{pid}/task"))}
+
+    def run(self, count):
+        self.select_letter()
+        self.desktop.press_hotkey(0)
+        self.desktop.wait_for_window("Choose a PIN")
+        self.desktop.type(PIN)
+        self.desktop.key("Tab")
+        self.desktop.type(PIN)
+        self.desktop.key("Return")
+        self.desktop.wait_for_window("Enter the PIN")
+        self.desktop.key("Escape")
+        self.desktop.wait_for_window("Signing Error")
+        self.desktop.key("Return")
+        self.desktop.wait_for_no_window("Signing Error")
+        settled = None
+        for number in range(1, count + 1):
+            self.select_letter()
+            self.sign()
+            if number == min(SETTLED, count):
+                settled = self.holdings()
+            if number % SETTLED == 0 or number == count:
+                print(number, " ".join(f"{name} {value:.1f}"
+                                       for name, value in self.holdings().items()), flush=True)
+        print(f"hotkey to prompt   {percentiles(self.to_prompt)}")
+        print(f"PIN to block       {percentiles(self.to_block)}")
+        return settled, self.holdings()
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    for name in ("quillseal", "server", "held-keys"):
+        parser.add_argument(f"--{name}", required=True,
+                            type=lambda path: pathlib.Path(path).resolve())
+    parser.add_argument("--count", type=int, default=500)
+    arguments = parser.parse_args()
+    programs = {"quillseal": arguments.quillseal, "quillseal-dev-server": arguments.server,
+                "held-keys": arguments.held_keys}
+    with session.Session(programs) as desktop:
+        soak = Soak(desktop)
+        soak.start()
+        before, after = soak.run(arguments.count)
+    growth = after["proportional"] - before["proportional"]
+    if growth > 4 or after["descriptors"] > before["descriptors"]:
+        sys.exit(f"soak: the agent holds more than before: {before} → {after}")
+
+
+if __name__ == "__main__":
+    main()

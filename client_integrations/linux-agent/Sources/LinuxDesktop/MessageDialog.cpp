@@ -1,5 +1,6 @@
 #include "LinuxDesktop/MessageDialog.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPointer>
@@ -31,7 +32,8 @@ QPixmap pixmapOf(MessageDialog::Picture picture, const QStyle& style) {
     case MessageDialog::Picture::product:
       break;
   }
-  return QIcon(QStringLiteral(":/icons/quillseal-48.png")).pixmap(kPictureSize);
+  // The application's own icon: the pixmap of an icon made here would stay in Qt's cache each time.
+  return QApplication::windowIcon().pixmap(kPictureSize);
 }
 
 // A text may end in line breaks that belong to what would follow it elsewhere.

@@ -1,8 +1,10 @@
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -138,6 +140,23 @@ TEST_F(FileKeyStoreTest, AnExchangedPublicHalfIsNoticed) {
   ASSERT_TRUE(own && foreign);
   testing::overwrite(path, keyfile::write("", std::array{foreign->front(), own->back()}));
   EXPECT_THAT(signFailure(), HasSubstr("tampered with"));
+}
+
+// With as much work as such a file can ask for, OpenSSL would not be done in a lifetime.
+TEST_F(FileKeyStoreTest, AFileThatTakesTooLongIsNotOpened) {
+  store.create(passphrase());
+  constexpr std::array<std::string_view, 2> labels{"PUBLIC KEY", "ENCRYPTED PRIVATE KEY"};
+  auto blocks = keyfile::read(testing::contentsOf(path), labels);
+  ASSERT_TRUE(blocks);
+  std::vector<std::uint8_t>& key = blocks->back().bytes;
+  // The INTEGERs N, r and p (RFC 7914, section 7.1).
+  constexpr std::array<std::uint8_t, 9> asked{0x02, 0x01, 16, 0x02, 0x01, 8, 0x02, 0x01, 1};
+  constexpr std::array<std::uint8_t, 9> more{0x02, 0x01, 64, 0x02, 0x01, 127, 0x02, 0x01, 127};
+  const auto found = std::search(key.begin(), key.end(), asked.begin(), asked.end());
+  ASSERT_NE(found, key.end());
+  std::copy(more.begin(), more.end(), found);
+  testing::overwrite(path, keyfile::write("", *blocks));
+  EXPECT_THAT(signFailure(), HasSubstr("is damaged"));
 }
 
 TEST_F(FileKeyStoreTest, WhatSomebodyElsePutThereIsNotUsed) {

@@ -1,5 +1,6 @@
 #include "LinuxDesktop/FileKeyStore.h"
 
+#include <algorithm>
 #include <array>
 #include <new>
 #include <string_view>
@@ -66,6 +67,32 @@ struct StoredKey {
                    "Settings.");
 }
 
+std::uint64_t valueOf(const ASN1_INTEGER* number) {
+  constexpr std::uint64_t tooLarge = std::uint64_t{1} << 32U;
+  std::uint64_t value = 0;
+  return ::ASN1_INTEGER_get_uint64(&value, number) == 1 ? std::min(value, tooLarge) : tooLarge;
+}
+
+/// Whether opening the key takes no longer than it does for one that was made here. OpenSSL bounds
+/// the memory that a file may ask for, but not the time, which can be years.
+bool isOpenedInTime(const X509_SIG* encrypted) {
+  const X509_ALGOR* scheme = nullptr;
+  ::X509_SIG_get0(encrypted, &scheme, nullptr);
+  if (::OBJ_obj2nid(scheme->algorithm) != NID_pbes2) return false;
+  const openssl::Pbes2Parameters parameters(static_cast<PBE2PARAM*>(
+      ::ASN1_TYPE_unpack_sequence(ASN1_ITEM_rptr(PBE2PARAM), scheme->parameter)));
+  if (!parameters || ::OBJ_obj2nid(parameters->keyfunc->algorithm) != NID_id_scrypt) return false;
+  const openssl::ScryptParameters cost(static_cast<SCRYPT_PARAMS*>(
+      ::ASN1_TYPE_unpack_sequence(ASN1_ITEM_rptr(SCRYPT_PARAMS), parameters->keyfunc->parameter)));
+  if (!cost) return false;
+  constexpr ScryptCost usual;
+  constexpr std::uint64_t most = usual.n * usual.r * usual.p;
+  const std::uint64_t n = valueOf(cost->costParameter);
+  const std::uint64_t r = valueOf(cost->blockSize);
+  const std::uint64_t p = valueOf(cost->parallelizationParameter);
+  return n <= most && r <= most && p <= most && n * r <= most && n * r * p <= most;
+}
+
 StoredKey readKey(const PrivateFile& file) {
   const std::string place = "“" + file.path().string() + "”";
   const std::optional<std::string> contents = file.read();
@@ -80,7 +107,7 @@ StoredKey readKey(const PrivateFile& file) {
   position = privateBlock.data();
   openssl::EncryptedKey encrypted(
       ::d2i_X509_SIG(nullptr, &position, static_cast<long>(privateBlock.size())));
-  if (!point || !encrypted) failDamaged(place);
+  if (!point || !encrypted || !isOpenedInTime(encrypted.get())) failDamaged(place);
   return {.publicKey = *point, .privateKey = std::move(encrypted)};
 }
 

@@ -32,6 +32,8 @@ using Key = std::unique_ptr<EVP_PKEY, Releaser<::EVP_PKEY_free>>;
 using KeyContext = std::unique_ptr<EVP_PKEY_CTX, Releaser<::EVP_PKEY_CTX_free>>;
 using KeyInfo = std::unique_ptr<PKCS8_PRIV_KEY_INFO, Releaser<::PKCS8_PRIV_KEY_INFO_free>>;
 using KeyCipher = std::unique_ptr<X509_ALGOR, Releaser<::X509_ALGOR_free>>;
+using Pbes2Parameters = std::unique_ptr<PBE2PARAM, Releaser<::PBE2PARAM_free>>;
+using ScryptParameters = std::unique_ptr<SCRYPT_PARAMS, Releaser<::SCRYPT_PARAMS_free>>;
 using Stream = std::unique_ptr<BIO, Releaser<::BIO_free>>;
 
 }  // namespace quillseal::openssl

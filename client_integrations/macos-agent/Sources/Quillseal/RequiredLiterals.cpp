@@ -3,18 +3,14 @@
 #include <algorithm>
 #include <optional>
 #include <span>
-#include <string>
-#include <string_view>
 #include <unordered_map>
 #include <utility>
 
-#include "Quillseal/TextFrequency.h"
+#include "Quillseal/LiteralAlphabet.h"
 
 namespace quillseal::screening {
 namespace {
 
-using Literal = std::vector<Letter>;
-using Literals = std::vector<Literal>;
 /// One way through a pattern: nodes that follow one another.
 using Way = std::vector<const Node*>;
 
@@ -24,8 +20,6 @@ constexpr std::size_t mostJoined = 16;
 /// Ways that are told apart within one alternative of a pattern.
 constexpr std::size_t mostWays = 2;
 constexpr std::size_t mostLinks = 4;
-/// Letters of a literal; of longer ones only the beginning is asked for.
-constexpr std::size_t longestLiteral = 10;
 
 /// Literals that occur more often than this, for each code point of a text, are passed over for
 /// rarer ones further on. Which limit is best differs from pattern to pattern, so all are tried.
@@ -35,23 +29,6 @@ constexpr double frequencyLimits[] = {1, 0.01, 0.003, 0.001, 0.0003};
 constexpr double costOfChain = 2;   ///< a chain that is complete
 constexpr double costOfStart = 2;   ///< a place where a match might start
 constexpr double costOfMatch = 20;  ///< a run of the matcher
-
-std::uint32_t sum(std::uint32_t a, std::uint32_t b) {
-  return a > unbounded - b ? unbounded : a + b;
-}
-
-std::uint32_t product(std::uint32_t a, std::uint32_t b) {
-  if (a == 0 || b == 0) return 0;
-  return a > unbounded / b ? unbounded : a * b;
-}
-
-Distance times(std::uint32_t count, const Distance& distance) {
-  return {.steps = product(count, distance.steps), .runs = product(count, distance.runs)};
-}
-
-Distance larger(const Distance& a, const Distance& b) {
-  return {.steps = std::max(a.steps, b.steps), .runs = std::max(a.runs, b.runs)};
-}
 
 std::size_t shortest(const Literals& literals) {
   std::size_t length = literals.front().size();
@@ -138,11 +115,11 @@ class Analysis {
     Literals literals;
     switch (node.kind) {
       case Node::Kind::Set: {
-        if (isSpaceSet(node)) return Literals{{space_}};
+        if (isSpaceSet(node)) return Literals{{alphabet_.space()}};
         for (const char32_t c : fewCodePoints(sets_[node.set])) {
           literals.emplace_back();
           for (const Letter letter : classes_.folding(classes_.classOf(c)))
-            appendLetter(literals.back(), letter);
+            alphabet_.append(literals.back(), letter);
         }
         std::sort(literals.begin(), literals.end());
         literals.erase(std::unique(literals.begin(), literals.end()), literals.end());
@@ -152,7 +129,7 @@ class Analysis {
       case Node::Kind::FoldedText: {
         Literal literal;
         for (const char32_t c : node.text)
-          appendLetter(literal, classes_.letterOf(c));
+          alphabet_.append(literal, classes_.letterOf(c));
         return Literals{std::move(literal)};
       }
       case Node::Kind::Sequence:
@@ -160,7 +137,7 @@ class Analysis {
         for (const Node& child : node.children) {
           const auto& more = literalsOf(child);
           if (!more || more->size() * literals.size() > mostJoined) return std::nullopt;
-          literals = product(literals, *more);
+          literals = alphabet_.product(literals, *more);
         }
         return literals;
       case Node::Kind::Alternatives:
@@ -173,7 +150,7 @@ class Analysis {
       case Node::Kind::Repetition: {
         if (isSpaceSet(node.children.front())) {
           if (node.min == 0) literals.emplace_back();
-          literals.push_back({space_});
+          literals.push_back({alphabet_.space()});
           return literals;
         }
         if (node.max > 3) return std::nullopt;
@@ -183,34 +160,13 @@ class Analysis {
         for (std::uint32_t count = 0; count <= node.max; ++count) {
           if (count >= node.min) literals.insert(literals.end(), power.begin(), power.end());
           if (power.size() * once->size() > mostLiterals) return std::nullopt;
-          power = product(power, *once);
+          power = alphabet_.product(power, *once);
         }
         if (literals.size() > mostLiterals) return std::nullopt;
         return literals;
       }
       default:
         return Literals{{}};
-    }
-  }
-
-  [[nodiscard]] Literals product(const Literals& heads, const Literals& tails) const {
-    Literals all;
-    for (const Literal& head : heads) {
-      for (const Literal& tail : tails) {
-        all.push_back(head);
-        for (const Letter letter : tail)
-          appendLetter(all.back(), letter);
-      }
-    }
-    return all;
-  }
-
-  /// In literals a run of white space is one letter, as it is one step in the text.
-  void appendLetter(Literal& literal, Letter letter) const {
-    if (!isSpaceLetter(letter)) {
-      literal.push_back(letter);
-    } else if (literal.empty() || literal.back() != space_) {
-      literal.push_back(space_);
     }
   }
 
@@ -232,28 +188,6 @@ class Analysis {
     return isSetOf(node, [this](ClassId id) { return classes_.isWord(id); });
   }
 
-  /// Whether everything that folds to it is a word character.
-  [[nodiscard]] bool isWordLetter(Letter letter) const {
-    const auto ids = classes_.classesWith(letter);
-    return !ids.empty() &&
-           std::all_of(ids.begin(), ids.end(), [this](ClassId id) { return classes_.isWord(id); });
-  }
-
-  [[nodiscard]] Distance longest(const Literals& literals) const {
-    Distance length;
-    for (const Literal& literal : literals) {
-      std::uint32_t runs = 0;
-      bool afterWord = false;
-      for (const Letter letter : literal) {
-        const bool isWord = isWordLetter(letter);
-        runs += isWord && afterWord ? 0U : 1U;
-        afterWord = isWord;
-      }
-      length = larger(length, {.steps = static_cast<std::uint32_t>(literal.size()), .runs = runs});
-    }
-    return length;
-  }
-
   Distance width(const Node& node) {
     if (const auto known = widths_.find(&node); known != widths_.end()) return known->second;
     return widths_.emplace(&node, findWidth(node)).first->second;
@@ -264,7 +198,7 @@ class Analysis {
       case Node::Kind::Set:
         return {.steps = 1, .runs = 1};
       case Node::Kind::FoldedText:
-        return longest(*literalsOf(node));
+        return alphabet_.longest(*literalsOf(node));
       case Node::Kind::Sequence: {
         Distance sum;
         for (const Node& child : node.children)
@@ -304,87 +238,6 @@ class Analysis {
       addClasses(child, bits);
   }
 
-  /// Whether a literal says anything: not when it is empty or white space alone.
-  [[nodiscard]] bool isTelling(const Literals& literals) const {
-    return std::all_of(literals.begin(), literals.end(), [&](const Literal& literal) {
-      return std::any_of(literal.begin(), literal.end(),
-                         [&](Letter letter) { return !isSpaceLetter(letter); });
-    });
-  }
-
-  [[nodiscard]] bool isSpaceLetter(Letter letter) const {
-    return letter != otherLetter &&
-           classes_.isSpace(classes_.classOf(classes_.codePointOf(letter)));
-  }
-
-  // A hit knows only where the run of white space begins, not where in it the match does, nor
-  // where the run ends.
-
-  [[nodiscard]] bool startsWithSpace(const Literal& literal) const {
-    return !literal.empty() && literal.front() == space_;
-  }
-
-  [[nodiscard]] bool anyStartsWithSpace(const Literals& literals) const {
-    return std::any_of(literals.begin(), literals.end(),
-                       [this](const Literal& literal) { return startsWithSpace(literal); });
-  }
-
-  [[nodiscard]] bool anyEndsInSpace(const Literals& literals) const {
-    return std::any_of(literals.begin(), literals.end(), [this](const Literal& literal) {
-      return !literal.empty() && literal.back() == space_;
-    });
-  }
-
-  /// Whether there was any.
-  bool dropLeadingSpace(Literals& literals) const {
-    bool any = false;
-    for (Literal& literal : literals) {
-      if (!startsWithSpace(literal)) continue;
-      literal.erase(literal.begin());
-      any = true;
-    }
-    return any;
-  }
-
-  /// Whether one code point may fold to this letter and more behind it, as ß does to s. A literal
-  /// that ended there would end within a code point, where no hit is noticed.
-  [[nodiscard]] bool isWithinExpansion(Letter letter) const {
-    const auto ids = classes_.classesWith(letter);
-    return std::any_of(ids.begin(), ids.end(), [&](ClassId id) {
-      const auto folding = classes_.folding(id);
-      return std::find(folding.begin(), folding.end() - 1, letter) != folding.end() - 1;
-    });
-  }
-
-  /// Leaves the beginnings of long literals, and says how much was cut off at most.
-  [[nodiscard]] Distance shorten(Literals& literals) const {
-    Distance cut;
-    for (Literal& literal : literals) {
-      std::size_t length = std::min(literal.size(), longestLiteral);
-      while (length > 0 && isWithinExpansion(literal[length - 1]))
-        --length;
-      if (length == 0 || literal.size() <= longestLiteral) continue;
-      const auto end = literal.begin() + static_cast<std::ptrdiff_t>(length);
-      cut = larger(cut, longest({Literal(end, literal.end())}));
-      literal.erase(end, literal.end());
-    }
-    std::sort(literals.begin(), literals.end());
-    literals.erase(std::unique(literals.begin(), literals.end()), literals.end());
-    return cut;
-  }
-
-  /// How often a literal of the link is met, for each code point of a text.
-  [[nodiscard]] double frequencyOf(const LiteralLink& link) const {
-    double sum = 0;
-    for (const Literal& literal : link.literals) {
-      std::u32string text;
-      for (const Letter letter : literal)
-        text.push_back(classes_.codePointOf(letter));
-      sum += expectedFrequency(text);
-    }
-    return std::min(sum, 1.0);
-  }
-
   LiteralChain cheapestChain(const Way& way) {
     LiteralChain cheapest;
     for (const double limit : frequencyLimits) {
@@ -406,7 +259,7 @@ class Analysis {
     double cost = 0;
     double complete = 1;
     for (const LiteralLink& link : chain.links) {
-      const double frequency = frequencyOf(link);
+      const double frequency = alphabet_.frequencyOf(link.literals);
       cost += frequency;
       const bool isFirst = &link == &chain.links.front();
       complete *= isFirst ? frequency : std::min(1.0, frequency * charactersOf(link.distance));
@@ -426,13 +279,13 @@ class Analysis {
     const auto append = [&](LiteralLink added, const Distance& before) {
       if (chain.links.empty()) {
         chain.lead = plus(gap, before);
-        if (dropLeadingSpace(added.literals))
+        if (alphabet_.dropLeadingSpace(added.literals))
           chain.lead = plus(chain.lead, {.steps = 1, .runs = 1});
       }
-      const Distance cut = shorten(added.literals);
+      const Distance cut = alphabet_.shorten(added.literals);
       if (cut.steps > 0) added.boundaryAfter = false;
       if (!chain.links.empty()) {
-        added.distance = plus(plus(gap, before), longest(added.literals));
+        added.distance = plus(plus(gap, before), alphabet_.longest(added.literals));
         // Behind a gap without limit nothing is known to be near.
         if (added.distance.isUnbounded() || chain.links.size() == mostLinks) return false;
       }
@@ -444,11 +297,12 @@ class Analysis {
       bool goesOn = true;
       if (!isOpen()) {
         link.literals = current;
-        link.boundaryBefore = link.boundaryBefore && !anyStartsWithSpace(current);
-        if (isTelling(current) && frequencyOf(link) <= frequencyLimit) {
+        link.boundaryBefore = link.boundaryBefore && !alphabet_.anyStartsWithSpace(current);
+        if (alphabet_.isTelling(current) &&
+            alphabet_.frequencyOf(link.literals) <= frequencyLimit) {
           goesOn = append(std::move(link), {});
         } else {
-          gap = plus(gap, longest(current));
+          gap = plus(gap, alphabet_.longest(current));
         }
       }
       current = {{}};
@@ -461,7 +315,7 @@ class Analysis {
         if (isOpen()) {
           link.boundaryBefore = true;
         } else {
-          link.boundaryAfter = shortest(current) > 0 && !anyEndsInSpace(current);
+          link.boundaryAfter = shortest(current) > 0 && !alphabet_.anyEndsInSpace(current);
         }
         continue;
       }
@@ -470,15 +324,15 @@ class Analysis {
           if (!flush()) return chain;
           current = *literals;
         } else {
-          if (longest(*literals).steps > 0) link.boundaryAfter = false;
-          current = product(current, *literals);
+          if (alphabet_.longest(*literals).steps > 0) link.boundaryAfter = false;
+          current = alphabet_.product(current, *literals);
         }
         if (chain.links.empty()) addClasses(*node, chain.leadClasses);
         continue;
       }
       if (!flush()) return chain;
       const auto& inner = innerLink(*node);
-      const bool isUsed = inner && frequencyOf(inner->link) <= frequencyLimit;
+      const bool isUsed = inner && alphabet_.frequencyOf(inner->link.literals) <= frequencyLimit;
       if (chain.links.empty()) addClasses(*node, chain.leadClasses);
       if (isUsed) {
         if (!append(inner->link, inner->before)) return chain;
@@ -501,7 +355,7 @@ class Analysis {
 
   std::optional<InnerLink> findInnerLink(const Node& node) {
     if (const auto& literals = literalsOf(node)) {
-      if (literals->empty() || !isTelling(*literals)) return std::nullopt;
+      if (literals->empty() || !alphabet_.isTelling(*literals)) return std::nullopt;
       return InnerLink{.link = {.literals = *literals}};
     }
     switch (node.kind) {
@@ -513,10 +367,12 @@ class Analysis {
         if (chain.links.empty()) return std::nullopt;
         std::size_t best = 0;
         for (std::size_t i = 1; i < chain.links.size(); ++i)
-          if (frequencyOf(chain.links[i]) < frequencyOf(chain.links[best])) best = i;
+          if (alphabet_.frequencyOf(chain.links[i].literals) <
+              alphabet_.frequencyOf(chain.links[best].literals))
+            best = i;
         InnerLink inner{.link = chain.links[best], .before = chain.lead, .after = width(node)};
         for (std::size_t i = 0; i < best; ++i)
-          inner.before = plus(plus(inner.before, longest(chain.links[i].literals)),
+          inner.before = plus(plus(inner.before, alphabet_.longest(chain.links[i].literals)),
                               chain.links[i + 1].distance);
         return inner;
       }
@@ -548,7 +404,7 @@ class Analysis {
 
   const SetTable& sets_;
   const CharacterClasses& classes_;
-  const Letter space_ = classes_.letterOf(U' ');
+  const LiteralAlphabet alphabet_{classes_};
   // What has been asked for once is asked for again, by every limit that is tried.
   std::unordered_map<const Node*, std::optional<Literals>> literalsOfNode_;
   std::unordered_map<const Node*, std::optional<InnerLink>> innerLinks_;
@@ -556,10 +412,6 @@ class Analysis {
 };
 
 }  // namespace
-
-Distance plus(const Distance& a, const Distance& b) {
-  return {.steps = sum(a.steps, b.steps), .runs = sum(a.runs, b.runs)};
-}
 
 RequiredLiterals requiredLiterals(const Node& pattern, const SetTable& sets,
                                   const CharacterClasses& classes) {

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """What the agent does when the desktop around it breaks: docs/faults.md names each of these.
 
-usage: faults.py --quillseal PATH --server PATH --held-keys PATH [TEST...]
+usage: faults.py --quillseal PATH --server PATH --held-keys PATH --secret-editor PATH [TEST...]
 """
 
 import ctypes
@@ -56,12 +56,6 @@ class Faults(Story):
         self.addCleanup(rival.close)
         return rival
 
-    def press_on_letter(self):
-        editor = self.desktop.open_editor(LETTER)
-        self.desktop.select_all(LETTER)
-        self.desktop.press_hotkey()
-        return editor
-
     def assert_ended(self, code=0):
         wait_for("the agent ends", lambda: self.desktop.agent.poll() is not None)
         self.assertEqual(self.desktop.agent.returncode, code,
@@ -73,7 +67,7 @@ class Faults(Story):
 
     def test_terminated_at_any_step_it_leaves_nothing_half_made(self):
         self.start()
-        editor = self.press_on_letter()
+        editor = self.press_in_editor()
         self.desktop.wait_for_window("Choose a passphrase")
         self.terminate()
         self.assertFalse(self.key_file.exists())
@@ -81,10 +75,10 @@ class Faults(Story):
         self.desktop.start_agent()
         os.kill(self.desktop.server.pid, signal.SIGSTOP)
         self.desktop.press_hotkey()
-        self.choose_passphrase()
+        self.choose_secret()
         wait_for("the key is made", self.key_file.exists)
         self.terminate()
-        os.kill(self.desktop.server.pid, signal.SIGCONT)
+        self.replace_server()
 
         self.desktop.start_agent()
         self.desktop.press_hotkey()
@@ -95,19 +89,25 @@ class Faults(Story):
         self.desktop.press_hotkey()
         self.desktop.wait_for_window("Enter the passphrase")
         os.kill(self.desktop.server.pid, signal.SIGSTOP)
-        self.enter_passphrase()
+        self.enter_secret()
         self.desktop.wait_for_no_window("Enter the passphrase")
         self.terminate()
-        os.kill(self.desktop.server.pid, signal.SIGCONT)
+        self.replace_server()
         self.assertEqual(self.desktop.selection(), LETTER)
 
         self.desktop.start_agent()
         self.desktop.press_hotkey()
-        self.enter_passphrase()
+        self.enter_secret()
         self.desktop.wait_for_output(self.desktop.server, "/api/register_native 200",
                                      "the key from before is registered")
-        self.enter_passphrase()
+        self.enter_secret()
         self.assert_signed(editor)
+
+    def replace_server(self):
+        """By one that has seen nothing of what the stopped one was sent."""
+        port = self.desktop.server_url.rsplit(":", 1)[1]
+        self.desktop.end(self.desktop.server, signal.SIGKILL)
+        self.desktop.start_server(port=port)
 
     def terminate(self):
         self.desktop.agent.terminate()
@@ -115,8 +115,8 @@ class Faults(Story):
 
     def test_the_x_server_dies(self):
         self.start()
-        self.press_on_letter()
-        self.choose_passphrase()
+        self.press_in_editor()
+        self.choose_secret()
         self.desktop.wait_for_window("Enter the passphrase")
         key = self.key_file.read_bytes()
         self.desktop.end(self.desktop.processes[0], signal.SIGKILL)
@@ -125,11 +125,11 @@ class Faults(Story):
 
     def test_the_session_bus_dies(self):
         self.start()
-        self.press_on_letter()
-        self.choose_passphrase()
+        self.press_in_editor()
+        self.choose_secret()
         self.desktop.wait_for_window("Enter the passphrase")
         self.desktop.end(self.desktop.processes[1], signal.SIGKILL)
-        self.enter_passphrase()
+        self.enter_secret()
         wait_for("the block is on the clipboard",
                  lambda: self.desktop.selection().startswith(f"『{LETTER}』"))
         self.terminate()
@@ -146,10 +146,8 @@ class Faults(Story):
         self.desktop.env["XDG_DATA_HOME"] = "/dev/null/data"
         self.desktop.env["XDG_CONFIG_HOME"] = "/dev/null/config"
         self.desktop.start_agent()
-        editor = self.press_on_letter()
-        self.desktop.wait_for_window("Signing Key Required")
-        self.desktop.key("Return")
-        self.desktop.wait_for_no_window("Signing Key Required")
+        editor = self.press_in_editor()
+        self.close("Signing Key Required")
         self.assertEqual(editor.file.read_text(), LETTER)
 
     def test_the_settings_cannot_be_read(self):
@@ -166,15 +164,12 @@ class Faults(Story):
         self.desktop.wait_for_window("rival")
         self.desktop.press_hotkey()
         rival.take_clipboard()
-        self.desktop.wait_for_window("No Text Found")
-        self.desktop.key("Return")
-        self.desktop.wait_for_no_window("No Text Found")
+        self.close("No Text Found")
 
     def test_the_hotkey_is_taken(self):
         self.rival().grab_hotkey()
         self.start()
-        wait_for("a notification tells of the hotkey",
-                 lambda: "Hotkey Is Not Available" in self.desktop.shown_notifications())
+        self.desktop.wait_for_notification("Hotkey Is Not Available")
         self.desktop.open_editor(LETTER)
         self.desktop.select_all(LETTER)
         self.desktop.run(PROGRAMS["quillseal"], "--sign")

@@ -33,20 +33,13 @@ class Soak:
         self.to_block = []
 
     def start(self):
-        state = self.desktop.folder / "tpm"
-        state.mkdir()
-        socket = state / "socket"
-        self.desktop.start("swtpm", "socket", "--tpm2", "--tpmstate", f"dir={state}",
-                           "--server", f"type=unixio,path={socket}",
-                           "--ctrl", f"type=unixio,path={socket}.ctrl",
-                           "--flags", "not-need-init,startup-clear")
-        wait_for("the TPM simulator starts", socket.exists)
+        tpm = self.desktop.start_software_tpm()
         self.desktop.write_settings(ServerURL=self.desktop.start_server(), SigningMode="enclave")
-        self.desktop.start_agent(tpm=f"swtpm:path={socket}")
+        self.desktop.start_agent(tpm=tpm)
         self.desktop.open_editor(LETTER)
 
     def signatures(self):
-        return self.desktop.shown_notifications().count("Signature Generated")
+        return self.desktop.output_of(self.desktop.monitor).count("Signature Generated")
 
     def sign(self):
         done = self.signatures()

@@ -59,10 +59,9 @@ std::int64_t wholeMinutes(const desktop::TimeZone& zone) {
 std::optional<std::string> refusalIn(const std::string& body) {
   constexpr std::size_t mostCharacters = 1000;
   try {
-    std::string words = wire::decoded<wire::ErrorResponse>(body).error;
-    const std::size_t shown = unicode::firstCharacters(words, mostCharacters).size();
-    if (shown < words.size()) words.replace(shown, std::string::npos, "…");
-    return words;
+    const std::string words = wire::decoded<wire::ErrorResponse>(body).error;
+    const std::string_view shown = unicode::firstCharacters(words, mostCharacters);
+    return shown.size() < words.size() ? std::string(shown) + "…" : words;
   } catch (const JsonError&) {
     return std::nullopt;
   }

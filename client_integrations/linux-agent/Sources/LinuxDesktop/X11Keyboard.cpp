@@ -170,7 +170,8 @@ X11Keyboard::Layout X11Keyboard::layout() {
       xkb_x11_state_new_from_device(keymap.get(), state_->connection.get(), state_->device));
   const xkb_layout_index_t inUse =
       now == nullptr ? 0 : xkb_state_serialize_layout(now.get(), XKB_STATE_LAYOUT_EFFECTIVE);
-  layout.map_ = std::make_shared<const Layout::Map>(std::move(keymap), inUse);
+  layout.map_ =
+      std::make_shared<const Layout::Map>(Layout::Map{.keymap = std::move(keymap), .inUse = inUse});
   return layout;
 }
 

@@ -1,8 +1,8 @@
 // The proofs of presence, one at a time, for a test that answers as a person would.
 // usage: presence-console can|finger|password   prints its process number, waits for a line, asks
 
-#include <cstdio>
 #include <exception>
+#include <iostream>
 #include <string>
 #include <string_view>
 
@@ -14,8 +14,7 @@
 namespace {
 
 void say(std::string_view text) {
-  std::printf("%.*s\n", static_cast<int>(text.size()), text.data());
-  std::fflush(stdout);
+  std::cout << text << std::endl;
 }
 
 void answer(std::string_view question) {
@@ -36,7 +35,8 @@ void answer(std::string_view question) {
 int main(int argc, char** argv) {
   if (argc != 2) return 2;
   say(std::to_string(getpid()));
-  std::getchar();
+  std::string line;
+  std::getline(std::cin, line);
   try {
     answer(argv[1]);
   } catch (const std::exception& error) {

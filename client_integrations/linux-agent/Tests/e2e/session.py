@@ -130,8 +130,10 @@ class Session:
 
     def run(self, *command, seconds=PATIENCE, check=True, **options):
         """Runs a program to its end and gives what it printed."""
+        # xclip gives Latin-1 when a program that is just taking a selection refuses UTF-8.
         done = subprocess.run([str(part) for part in command], env=self.env, timeout=seconds,
-                              capture_output=True, text=True, check=False, **options)
+                              capture_output=True, text=True, errors="replace", check=False,
+                              **options)
         if check and done.returncode != 0:
             raise Failure(f"{' '.join(map(str, command))} ended with {done.returncode}: "
                           f"{done.stdout}{done.stderr}")

@@ -49,7 +49,7 @@ class Request {
   }
 
   bool boolean(const char* key) const {
-    const Json& value = required(key);
+    const RequestJson& value = required(key);
     if (!value.is_boolean()) throw RequestError(quoted(key) + " must be true or false");
     return value.get<bool>();
   }

@@ -485,7 +485,7 @@ class DevServerTest : public CurlTransportTest {
     (void)service.answer({.method = "POST",
                           .path = "/handoff/sign",
                           .contentType = "application/json",
-                          .host = "",
+                          .host = "127.0.0.1",
                           .handoffId = "",
                           .body = R"({"handoff_id":")" + handoff.handoffId +
                                   R"(","text_digest":")" + digest + "\"}"});

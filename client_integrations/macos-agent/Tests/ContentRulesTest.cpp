@@ -8,6 +8,7 @@
 
 #include "IcuReference.h"
 #include "Quillseal/ContentRules.h"
+#include "Quillseal/CryptoManager.h"
 #include "Quillseal/UnicodeText.h"
 #include "RuleSamples.h"
 
@@ -74,6 +75,19 @@ TEST(ContentRules, TheTableHoldsItsRulesAndCategories) {
     EXPECT_EQ(counted[expected.category].rules, expected.rules) << expected.category;
     EXPECT_EQ(counted[expected.category].blocking, expected.blocking) << expected.category;
   }
+}
+
+// Order, ids, categories, severities and points are shared with everyone who reads the published
+// table: a change of them is a decision, not an edit.
+TEST(ContentRules, TheRowsAreThoseThatWereAgreed) {
+  std::string rows;
+  for (const Rule& rule : ContentRules::all) {
+    for (const std::string_view field : {rule.id, rule.category, rule.severity})
+      rows += std::string(field) + '|';
+    rows += std::to_string(rule.points) + '\n';
+  }
+  EXPECT_EQ(CryptoManager::sha256Hex(rows),
+            "b08d140c771cdcf2b5c07ab4a6f9906e8897cf1574dfe0daf5bf15f9775db895");
 }
 
 TEST(ContentRules, EveryRuleIsWellMade) {

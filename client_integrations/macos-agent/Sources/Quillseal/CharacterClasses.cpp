@@ -106,7 +106,10 @@ CharacterClasses::CharacterClasses(const SetTable& sets, std::vector<char32_t> a
   std::map<char32_t, std::vector<Letter>> foldings;
   for (const char32_t c : alphabet_)
     foldings[c] = {letterOf(c)};
-  for (const auto& [first, last] : codePointsOf(R"([\p{Changes_When_Casefolded}])")) {
+  // The property speaks of decomposed texts; what folds to its own decomposition has the other one.
+  constexpr std::string_view changing =
+      R"([\p{Changes_When_Casemapped}\p{Changes_When_Casefolded}])";
+  for (const auto& [first, last] : codePointsOf(changing)) {
     for (char32_t c = first; c <= last; ++c) {
       std::vector<Letter> letters;
       for (const char32_t folded : fullFolding(c)) {

@@ -174,8 +174,10 @@ Screening screen(std::string_view text) {
 
   std::vector<QuotedSpan> spans;
   if (!matches.empty() && matches.back().pattern == ContentRules::all.size()) {
+    // A search that failed says nothing, and must not soften anything.
+    const bool isReport = !matches.back().failed;
     matches.pop_back();
-    if (!matches.empty()) spans = quotedSpans(screened);
+    if (isReport && !matches.empty()) spans = quotedSpans(screened);
   }
   keepWholeCharacters(screened, matches);
 

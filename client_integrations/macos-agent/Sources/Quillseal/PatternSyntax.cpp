@@ -241,6 +241,8 @@ class Parser {
       case Node::Kind::Set:
       case Node::Kind::FoldedText:
         return false;
+      case Node::Kind::LookAhead:
+        return true;
       case Node::Kind::Alternatives:
         return std::any_of(node.children.begin(), node.children.end(), empty);
       case Node::Kind::Repetition:

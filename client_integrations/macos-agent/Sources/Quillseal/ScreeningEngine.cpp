@@ -94,6 +94,11 @@ class ScreeningEngine::Tables {
     struct Part {
       Node node;
       bool anyMatch;
+      std::size_t pattern;
+    };
+    const auto disable = [this](std::size_t pattern, const PatternError& error) {
+      forms[pattern] = {.usable = false};
+      problems.push_back({.pattern = pattern, .reason = error.what()});
     };
     std::vector<Part> parts;
     parts.reserve(2 * patterns.size());
@@ -102,14 +107,13 @@ class ScreeningEngine::Tables {
       try {
         Node node = parsePattern(patterns[i].expression, patterns[i].caseInsensitive, sets);
         const auto addPart = [&](Node part, bool anyMatch) {
-          parts.push_back({std::move(part), anyMatch});
+          parts.push_back({std::move(part), anyMatch, i});
           return parts.size() - 1;
         };
         if (!takeLookAheads(node, sets, forms.back(), addPart))
           forms.back().main = addPart(std::move(node), false);
       } catch (const PatternError& error) {
-        forms.back() = {.usable = false};
-        problems.push_back({.pattern = i, .reason = error.what()});
+        disable(i, error);
       }
     }
     std::vector<char32_t> alphabet;
@@ -121,8 +125,17 @@ class ScreeningEngine::Tables {
       classFrequencies.push_back(rareClass);
     for (char32_t c = 0; c < 0x80; ++c)
       classFrequencies[classes->classOf(c)] += expectedFrequency(c);
-    for (const Part& part : parts)
-      addSearch(part.node, part.anyMatch, sets);
+    for (const Part& part : parts) {
+      const std::size_t count = searches.size();
+      try {
+        addSearch(part.node, part.anyMatch, sets);
+      } catch (const PatternError& error) {
+        disable(part.pattern, error);
+        // The others are known by their number.
+        if (searches.size() == count)
+          searches.push_back({.program = PatternProgram(Node{}, *classes, *classSets)});
+      }
+    }
     index.finish(*classes);
     classSets->finish();
     hits.shrink_to_fit();
@@ -239,6 +252,7 @@ class ScreeningEngine::Tables {
 
   void addChain(std::uint32_t search, const LiteralChain& chain) {
     const auto number = static_cast<std::uint32_t>(chains.size());
+    chains.emplace_back();
     Chain added{.search = search,
                 .alternative = static_cast<std::uint32_t>(chain.alternative),
                 .lead = chain.lead.steps,
@@ -261,7 +275,7 @@ class ScreeningEngine::Tables {
         index.add(literal, hitNumber(hit));
       }
     }
-    chains.push_back(added);
+    chains[number] = added;
   }
 
   /// Literals of one length in one link share a number.

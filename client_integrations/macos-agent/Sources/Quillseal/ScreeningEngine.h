@@ -34,6 +34,7 @@ struct PatternProblem {
 /// any number of threads may search at once.
 class ScreeningEngine {
  public:
+  /// Throws PatternError when the patterns together are too many for the tables.
   explicit ScreeningEngine(std::span<const Pattern> patterns);
   ~ScreeningEngine();
   ScreeningEngine(const ScreeningEngine&) = delete;

@@ -154,8 +154,15 @@ Task<> SigningCoordinator::signSelectedText() {
     co_return;
   }
   // Screening a very long text takes a while, and the event loop must go on meanwhile.
-  auto screen = [text] { return ContentRisk::evaluate(text); };
-  const ContentRisk::Assessment assessment = co_await offload(desktop_.loop, std::move(screen));
+  auto screen = [text] { return ContentRisk::screen(text); };
+  const ContentRisk::Screening screening = co_await offload(desktop_.loop, std::move(screen));
+  for (const ContentRisk::Hit& hit : screening.hits) {
+    if (hit.isEngineFailure) {
+      desktop_.log.write("[risk] rule " + std::string(hit.id) +
+                         " could not be searched for to the end and counts as a hit");
+    }
+  }
+  const ContentRisk::Assessment& assessment = screening.assessment;
   if (!assessment.findings.empty()) {
     desktop_.log.write("[risk] score " + std::to_string(assessment.score) + ", " +
                        std::to_string(assessment.findings.size()) +

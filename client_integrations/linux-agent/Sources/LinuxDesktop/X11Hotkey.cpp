@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 #include <QGuiApplication>
+#include <algorithm>
+#include <chrono>
 #include <cstdlib>
 #include <memory>
 #include <utility>
@@ -21,6 +23,8 @@ constexpr std::uint8_t kMapNotify = 1;
 
 /// Milliseconds. X servers repeat a held key after 660, desktops let people choose up to this.
 constexpr std::uint32_t kLongestRepeatDelay = 1000;
+/// Quicker than anybody lets a key go and presses it again.
+constexpr std::chrono::milliseconds kReleasePolling{40};
 
 }  // namespace
 
@@ -75,6 +79,14 @@ bool X11Hotkey::grab() {
   return granted;
 }
 
+void X11Hotkey::awaitRelease() {
+  releasePolling_ = loop_.after(kReleasePolling, [this] {
+    const std::vector<xcb_keycode_t> held = keyboard_->heldKeys(key_);
+    down_ = down_ && std::ranges::find(held, key_) != held.end();
+    if (down_) awaitRelease();
+  });
+}
+
 bool X11Hotkey::nativeEventFilter(const QByteArray& /*eventType*/, void* message,
                                   qintptr* /*result*/) {
   const auto* event = static_cast<const xcb_generic_event_t*>(message);
@@ -88,13 +100,16 @@ bool X11Hotkey::nativeEventFilter(const QByteArray& /*eventType*/, void* message
       lastRelease_ = key->time;
     } else {
       // A held key repeats: as presses alone, or as releases and presses at the same instant. The
-      // release itself never comes when a run gives the keyboard free while the key is held, so a
-      // key that has not repeated for long was let go meanwhile.
+      // release itself never comes when a run gives the keyboard free while the key is held, so the
+      // server is asked until the key is up; and a key that has not repeated for long was let go.
       const bool repeated =
           key->time == lastRelease_ || (down_ && key->time - lastPress_ < kLongestRepeatDelay);
       down_ = true;
       lastPress_ = key->time;
-      if (!repeated) loop_.post(pressed_);
+      if (!repeated) {
+        loop_.post(pressed_);
+        awaitRelease();
+      }
     }
     return true;
   }

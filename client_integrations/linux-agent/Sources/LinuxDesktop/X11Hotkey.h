@@ -21,6 +21,7 @@ class X11Hotkey : public desktop::Hotkey, private QAbstractNativeEventFilter {
  private:
   bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
   [[nodiscard]] bool grab();
+  void awaitRelease();
 
   desktop::MainLoop& loop_;
   X11Keyboard* keyboard_;
@@ -33,6 +34,7 @@ class X11Hotkey : public desktop::Hotkey, private QAbstractNativeEventFilter {
   bool down_ = false;
   xcb_timestamp_t lastRelease_ = 0;
   xcb_timestamp_t lastPress_ = 0;
+  desktop::Ticket releasePolling_;
 };
 
 }  // namespace quillseal

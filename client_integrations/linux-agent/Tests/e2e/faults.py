@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """What the agent does when the desktop around it breaks: docs/faults.md names each of these.
 
-usage: faults.py --quillseal PATH --server PATH --held-keys PATH --secret-editor PATH [TEST...]
+usage: faults.py [--build FOLDER] [TEST...]
 """
 
 import ctypes
@@ -9,8 +9,8 @@ import os
 import signal
 
 import stories
-from session import wait_for
-from stories import LETTER, PROGRAMS, Story
+from session import LETTER, wait_for
+from stories import Story
 
 
 class Rival:
@@ -67,7 +67,7 @@ class Faults(Story):
 
     def test_terminated_at_any_step_it_leaves_nothing_half_made(self):
         self.start()
-        editor = self.press_in_editor()
+        editor = self.desktop.press_in_editor()
         self.desktop.wait_for_window("Choose a passphrase")
         self.terminate()
         self.assertFalse(self.key_file.exists())
@@ -75,7 +75,7 @@ class Faults(Story):
         self.desktop.start_agent()
         os.kill(self.desktop.server.pid, signal.SIGSTOP)
         self.desktop.press_hotkey()
-        self.choose_secret()
+        self.desktop.choose_secret()
         wait_for("the key is made", self.key_file.exists)
         self.terminate()
         self.replace_server()
@@ -89,7 +89,7 @@ class Faults(Story):
         self.desktop.press_hotkey()
         self.desktop.wait_for_window("Enter the passphrase")
         os.kill(self.desktop.server.pid, signal.SIGSTOP)
-        self.enter_secret()
+        self.desktop.enter_secret()
         self.desktop.wait_for_no_window("Enter the passphrase")
         self.terminate()
         self.replace_server()
@@ -97,10 +97,10 @@ class Faults(Story):
 
         self.desktop.start_agent()
         self.desktop.press_hotkey()
-        self.enter_secret()
+        self.desktop.enter_secret()
         self.desktop.wait_for_output(self.desktop.server, "/api/register_native 200",
                                      "the key from before is registered")
-        self.enter_secret()
+        self.desktop.enter_secret()
         self.assert_signed(editor)
 
     def replace_server(self):
@@ -115,8 +115,8 @@ class Faults(Story):
 
     def test_the_x_server_dies(self):
         self.start()
-        self.press_in_editor()
-        self.choose_secret()
+        self.desktop.press_in_editor()
+        self.desktop.choose_secret()
         self.desktop.wait_for_window("Enter the passphrase")
         key = self.key_file.read_bytes()
         self.desktop.end(self.desktop.processes[0], signal.SIGKILL)
@@ -125,11 +125,11 @@ class Faults(Story):
 
     def test_the_session_bus_dies(self):
         self.start()
-        self.press_in_editor()
-        self.choose_secret()
+        self.desktop.press_in_editor()
+        self.desktop.choose_secret()
         self.desktop.wait_for_window("Enter the passphrase")
         self.desktop.end(self.desktop.processes[1], signal.SIGKILL)
-        self.enter_secret()
+        self.desktop.enter_secret()
         wait_for("the block is on the clipboard",
                  lambda: self.desktop.selection().startswith(f"『{LETTER}』"))
         self.terminate()
@@ -146,8 +146,8 @@ class Faults(Story):
         self.desktop.env["XDG_DATA_HOME"] = "/dev/null/data"
         self.desktop.env["XDG_CONFIG_HOME"] = "/dev/null/config"
         self.desktop.start_agent()
-        editor = self.press_in_editor()
-        self.close("Signing Key Required")
+        editor = self.desktop.press_in_editor()
+        self.desktop.close("Signing Key Required")
         self.assertEqual(editor.file.read_text(), LETTER)
 
     def test_the_settings_cannot_be_read(self):
@@ -164,7 +164,7 @@ class Faults(Story):
         self.desktop.wait_for_window("rival")
         self.desktop.press_hotkey()
         rival.take_clipboard()
-        self.close("No Text Found")
+        self.desktop.close("No Text Found")
 
     def test_the_hotkey_is_taken(self):
         self.rival().grab_hotkey()
@@ -172,7 +172,7 @@ class Faults(Story):
         self.desktop.wait_for_notification("Hotkey Is Not Available")
         self.desktop.open_editor(LETTER)
         self.desktop.select_all(LETTER)
-        self.desktop.run(PROGRAMS["quillseal"], "--sign")
+        self.desktop.run(self.desktop.quillseal, "--sign")
         self.desktop.wait_for_window("Choose a passphrase")
 
 

@@ -1,10 +1,9 @@
 #!/usr/bin/env python3
 """The agent used as a person uses it, on a virtual desktop with real applications.
 
-usage: stories.py --quillseal PATH --server PATH --held-keys PATH --secret-editor PATH [TEST...]
+usage: stories.py [--build FOLDER] [TEST...]
 """
 
-import argparse
 import hashlib
 import html
 import pathlib
@@ -13,27 +12,27 @@ import signal
 import sys
 import unittest
 
+sys.path.append(str(pathlib.Path(__file__).parents[4] / "tools/virtual-desktop"))
+
 import session
 from applications import Terminal, Writer
 from browsers import Browser, Site
-from session import wait_for
+from session import LETTER, wait_for
 
-LETTER = "Dear Ms Whitcombe, thank you for the visit on 14 March. The second draft suits us well."
-SECRET = "correct horse battery staple"
 # In paragraphs, with characters that are written in more ways than one, and what is signed of it.
 PARAGRAPHS = "Dear Ms Whitcombe,\n\nthe second draft of “the lease” suits us — Zoë, 京都"
 DIGEST = hashlib.sha256(
     'DearMsWhitcombe,theseconddraftof"thelease"suitsus-Zoë,京都'.encode()).hexdigest()
-PROGRAMS = {}
 
 
 class Story(unittest.TestCase):
     """One desktop for each test, so that none sees what another left."""
 
+    build = None
     panel = False
 
     def setUp(self):
-        self.desktop = session.Session(PROGRAMS, panel=self.panel)
+        self.desktop = session.Session(self.build, panel=self.panel)
         self.enterContext(self.desktop)
         self.addCleanup(self._show_logs_on_failure)
 
@@ -51,40 +50,16 @@ class Story(unittest.TestCase):
         self.desktop.write_settings(ServerURL=url, **{"SigningMode": "enclave", **settings})
         self.desktop.start_agent()
 
-    def choose_secret(self, kind="passphrase"):
-        self.desktop.wait_for_window(f"Choose a {kind}")
-        self.desktop.type(SECRET)
-        self.desktop.key("Tab")
-        self.desktop.type(SECRET)
-        self.desktop.key("Return")
-
-    def enter_secret(self, secret=SECRET, kind="passphrase"):
-        self.desktop.wait_for_window(f"Enter the {kind}")
-        self.desktop.type(secret)
-        self.desktop.key("Return")
-
     def enter_wrong_secret(self, kind="passphrase"):
         self.desktop.wait_for_window(f"Enter the {kind}")
         question = self.desktop.active_window()
-        self.enter_secret("not the one I chose", kind)
+        self.desktop.enter_secret("not the one I chose", kind)
         self.desktop.wait_for_next_window(question, f"Enter the {kind}")
 
-    def close(self, title, *keys):
-        """Waits for a dialog and ends it by keyboard."""
-        self.desktop.wait_for_window(title)
-        self.desktop.key(*keys or ("Return",))
-        self.desktop.wait_for_no_window(title)
-
-    def press_in_editor(self, text=LETTER):
-        editor = self.desktop.open_editor(text)
-        self.desktop.select_all(text)
-        self.desktop.press_hotkey()
-        return editor
-
     def sign_in_editor(self, text=LETTER):
-        editor = self.press_in_editor(text)
-        self.choose_secret()
-        self.enter_secret()
+        editor = self.desktop.press_in_editor(text)
+        self.desktop.choose_secret()
+        self.desktop.enter_secret()
         return editor
 
     def assert_signed(self, editor, text=LETTER):
@@ -111,7 +86,7 @@ class Signing(Story):
         editor = self.sign_in_editor()
         self.desktop.wait_for_output(self.desktop.server, "/api/register_native 200",
                                      "the key is registered")
-        self.enter_secret()
+        self.desktop.enter_secret()
         self.assert_signed(editor)
 
     def test_lock_keys_and_a_long_press_change_nothing(self):
@@ -131,23 +106,23 @@ class Signing(Story):
                 finally:
                     if lock:
                         self.desktop.key(lock)
-                self.enter_secret()
+                self.desktop.enter_secret()
                 self.assert_signed(editor)
 
     def test_without_a_selection_everything_is_taken(self):
         self.start()
         editor = self.desktop.open_editor(LETTER)
         self.desktop.press_hotkey()
-        self.choose_secret()
-        self.enter_secret()
+        self.desktop.choose_secret()
+        self.desktop.enter_secret()
         self.assert_signed(editor)
 
     def test_a_wrong_passphrase_may_be_corrected(self):
         self.start()
-        editor = self.press_in_editor()
-        self.choose_secret()
+        editor = self.desktop.press_in_editor()
+        self.desktop.choose_secret()
         self.enter_wrong_secret()
-        self.enter_secret()
+        self.desktop.enter_secret()
         self.assert_signed(editor)
 
 
@@ -161,10 +136,10 @@ class Applications(Story):
 
     def sign(self):
         self.desktop.press_hotkey()
-        self.choose_secret()
+        self.desktop.choose_secret()
         self.desktop.wait_for_window("Enter the passphrase")
         offered = self.desktop.selection(target="TARGETS").split()
-        self.enter_secret()
+        self.desktop.enter_secret()
         return offered
 
     def assert_recorded(self, scope):
@@ -225,7 +200,7 @@ class Applications(Story):
         terminal = Terminal(self.desktop, "xfce4-terminal", PARAGRAPHS)
         self.desktop.select_all(PARAGRAPHS, "ctrl+shift+a")
         self.sign()
-        self.close("Unsafe Paste")  # this terminal asks before it pastes more than one line
+        self.desktop.close("Unsafe Paste")  # this terminal asks before it pastes more than one line
         self.assert_program_goes_on(terminal)
 
     def test_a_terminal_without_a_key_that_copies(self):
@@ -241,17 +216,18 @@ class Applications(Story):
         self.desktop.select_all(LETTER)
         Terminal(self.desktop, "xterm", PARAGRAPHS)
         self.desktop.press_hotkey()
-        self.choose_secret()
-        self.close("No Text Found")
+        self.desktop.choose_secret()
+        self.desktop.close("No Text Found")
         self.assertEqual(self.desktop.recorded(), [])
 
     def test_a_copy_that_is_marked_as_a_secret_is_no_text(self):
-        self.desktop.start(PROGRAMS["secret-editor"], LETTER)
+        self.desktop.start(
+            self.build / "client_integrations/linux-agent/Tests/secret-editor", LETTER)
         self.desktop.wait_for_window("Vault")
         self.desktop.select_all(LETTER)
         self.desktop.press_hotkey()
-        self.choose_secret()
-        self.close("No Text Found")
+        self.desktop.choose_secret()
+        self.desktop.close("No Text Found")
         self.assertEqual(self.desktop.recorded(), [])
         self.assertEqual(self.desktop.selection(), LETTER)
 
@@ -261,10 +237,10 @@ class SoftwareTpm(Story):
         self.desktop.write_settings(ServerURL=self.desktop.start_server(), SigningMode="enclave")
         self.desktop.start_agent(tpm=self.desktop.start_software_tpm())
         self.assertIn("TPM simulator", self.desktop.output_of(self.desktop.agent))
-        editor = self.press_in_editor()
-        self.choose_secret("PIN")
+        editor = self.desktop.press_in_editor()
+        self.desktop.choose_secret("PIN")
         self.enter_wrong_secret("PIN")
-        self.enter_secret(kind="PIN")
+        self.desktop.enter_secret(kind="PIN")
         self.assert_signed(editor)
         # Nothing of the TPM's own software, which tells of every command that failed.
         for line in self.desktop.output_of(self.desktop.agent).splitlines():
@@ -276,8 +252,8 @@ class Dialogs(Story):
 
     def press_on(self, text, **settings):
         self.start(**settings)
-        editor = self.press_in_editor(text)
-        self.choose_secret()
+        editor = self.desktop.press_in_editor(text)
+        self.desktop.choose_secret()
         return editor
 
     def press_again(self, editor):
@@ -291,7 +267,7 @@ class Dialogs(Story):
 
     def assert_refused(self, text, title, key):
         editor = self.press_on(text)
-        self.close(title, key)
+        self.desktop.close(title, key)
         self.assert_unsigned(editor, text)
 
     def test_a_text_that_is_too_short(self):
@@ -305,19 +281,19 @@ class Dialogs(Story):
     def test_a_warning_stops_or_is_overruled(self):
         text = "Congratulations, you have won a prize! Click here to claim it today."
         editor = self.press_on(text)
-        self.close("Sign this anyway?", "Escape")
+        self.desktop.close("Sign this anyway?", "Escape")
         self.assert_unsigned(editor, text)
         self.press_again(editor)
-        self.close("Sign this anyway?", "Tab", "Return")
+        self.desktop.close("Sign this anyway?", "Tab", "Return")
         self.assert_unsigned(editor, text)
         self.press_again(editor)
-        self.close("Sign this anyway?", "Return")
-        self.enter_secret()
+        self.desktop.close("Sign this anyway?", "Return")
+        self.desktop.enter_secret()
         self.assert_signed(editor, text)
 
     def test_the_confirmation_covers_medium_and_recipient(self):
         editor = self.press_on(LETTER, ConfirmBeforeSigning="true")
-        self.close("Sign this content?", "Escape")
+        self.desktop.close("Sign this content?", "Escape")
         self.assert_unsigned(editor, LETTER)
         self.press_again(editor)
         self.desktop.wait_for_window("Sign this content?")
@@ -325,7 +301,7 @@ class Dialogs(Story):
         self.desktop.key("shift+Tab")
         self.desktop.type("Link")
         self.desktop.key("Return")
-        self.enter_secret()
+        self.desktop.enter_secret()
         self.assert_signed(editor)
         self.assertIn("QUILLSEAL · LinkedIn Post → whitcombe@example.org · ",
                       editor.file.read_text())
@@ -333,8 +309,8 @@ class Dialogs(Story):
 
     def test_a_cancelled_passphrase_leaves_the_text_alone(self):
         editor = self.press_on(LETTER)
-        self.close("Enter the passphrase", "Escape")
-        self.close("Signing Error", "Escape")
+        self.desktop.close("Enter the passphrase", "Escape")
+        self.desktop.close("Signing Error", "Escape")
         self.assert_unsigned(editor, LETTER)
 
 
@@ -342,9 +318,9 @@ class Trouble(Story):
     def test_the_server_is_down(self):
         self.desktop.write_settings(ServerURL="http://127.0.0.1:9", SigningMode="enclave")
         self.desktop.start_agent()
-        self.press_in_editor()
-        self.choose_secret()
-        self.close("Could Not Set Up This Computer")
+        self.desktop.press_in_editor()
+        self.desktop.choose_secret()
+        self.desktop.close("Could Not Set Up This Computer")
 
     def test_a_server_that_has_forgotten_the_key_is_told_it_again(self):
         self.start()
@@ -354,32 +330,32 @@ class Trouble(Story):
         self.desktop.registry.unlink()
         self.desktop.start_server(port=self.desktop.server_url.rsplit(":", 1)[1])
         self.desktop.end(editor)
-        editor = self.press_in_editor()
-        self.enter_secret()
+        editor = self.desktop.press_in_editor()
+        self.desktop.enter_secret()
         self.desktop.wait_for_output(self.desktop.server, "/api/register_native 200",
                                      "the key is registered again")
-        self.enter_secret()
+        self.desktop.enter_secret()
         self.assert_signed(editor)
         self.assertEqual(len(self.desktop.recorded()), 1)
 
     def test_an_editor_that_closes_before_the_paste(self):
         self.start()
-        editor = self.press_in_editor()
-        self.choose_secret()
+        editor = self.desktop.press_in_editor()
+        self.desktop.choose_secret()
         self.desktop.wait_for_window("Enter the passphrase")
         self.desktop.end(editor)
-        self.enter_secret()
+        self.desktop.enter_secret()
         wait_for("the block is on the clipboard",
                  lambda: self.desktop.selection().startswith(f"『{LETTER}』"))
 
     def test_killed_in_mid_run_nothing_stays_behind(self):
         self.start()
-        self.press_in_editor()
+        self.desktop.press_in_editor()
         self.desktop.wait_for_window("Choose a passphrase")
         self.desktop.end(self.desktop.agent, signal.SIGKILL)
         self.desktop.start_agent()
         self.desktop.press_hotkey()
-        self.choose_secret()
+        self.desktop.choose_secret()
         self.desktop.wait_for_window("Enter the passphrase")
 
 
@@ -388,18 +364,17 @@ class Commands(Story):
 
     def test_a_second_start_hands_over_its_command(self):
         self.start()
-        agent = PROGRAMS["quillseal"]
         self.desktop.open_editor(LETTER)
         self.desktop.select_all(LETTER)
-        self.desktop.run(agent, "--sign")
+        self.desktop.run(self.desktop.quillseal, "--sign")
         self.desktop.wait_for_window("Choose a passphrase")
         self.desktop.key("Escape")
         self.desktop.wait_for_no_window("Choose a passphrase")
         while self.desktop.alert_is_open():
             self.desktop.key("Escape")
-        self.desktop.run(agent, "--settings")
+        self.desktop.run(self.desktop.quillseal, "--settings")
         self.desktop.wait_for_window("Quill Seal Server Settings")
-        self.desktop.run(agent, "--quit")
+        self.desktop.run(self.desktop.quillseal, "--quit")
         wait_for("the agent ends", lambda: self.desktop.agent.poll() is not None)
         self.assertEqual(self.desktop.agent.returncode, 0)
 
@@ -417,11 +392,11 @@ class Limits(Story):
 
     def test_without_xtest_only_the_settings_work(self):
         self.desktop = self.enterContext(
-            session.Session(PROGRAMS, x_options=("-extension", "XTEST")))
+            session.Session(self.build, x_options=("-extension", "XTEST")))
         self.desktop.start_agent()
         self.assertIn("lacks the XTEST extension", self.desktop.output_of(self.desktop.agent))
         self.desktop.wait_for_window("Quillseal")
-        self.desktop.run(PROGRAMS["quillseal"], "--settings")
+        self.desktop.run(self.desktop.quillseal, "--settings")
         wait_for("the settings are shown",
                  lambda: "Quill Seal Server Settings" in self.desktop.window_names())
 
@@ -439,20 +414,14 @@ class Limits(Story):
 
     def test_at_the_start_of_a_session_the_limits_are_a_notification(self):
         self.desktop.env.update(XDG_SESSION_TYPE="wayland")
-        self.desktop.start(PROGRAMS["quillseal"], "--background")
+        self.desktop.start(self.desktop.quillseal, "--background")
         self.desktop.wait_for_notification("Bind the command")
         self.assertNotIn("Quillseal", self.desktop.window_names())
 
 
 def main():
-    parser = argparse.ArgumentParser()
-    for name in ("quillseal", "server", "held-keys", "secret-editor"):
-        parser.add_argument(f"--{name}", required=True,
-                            type=lambda path: pathlib.Path(path).resolve())
-    arguments, rest = parser.parse_known_args()
-    PROGRAMS.update({"quillseal": arguments.quillseal, "quillseal-dev-server": arguments.server,
-                     "held-keys": arguments.held_keys,
-                     "secret-editor": arguments.secret_editor})
+    arguments, rest = session.arguments_parser().parse_known_args()
+    Story.build = arguments.build
     unittest.main(argv=[sys.argv[0], *rest], verbosity=2)
 
 

@@ -5,9 +5,8 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
-#include <cstdio>
 #include <cstdlib>
-#include <cstring>
+#include <iostream>
 #include <memory>
 #include <span>
 #include <string_view>
@@ -55,33 +54,33 @@ int main(int argc, char** argv) {
   const std::span arguments(argv, static_cast<std::size_t>(argc));
   const std::unique_ptr<Display, CloseDisplay> display(XOpenDisplay(nullptr));
   if (arguments.size() < 2 || display == nullptr) {
-    std::fputs("usage: held-keys MILLISECONDS [KEYSYM...], with an X server\n", stderr);
+    std::cerr << "usage: held-keys MILLISECONDS [KEYSYM...], with an X server\n";
     return 2;
   }
   XDevice* const keyboard = openKeyboard(display.get());
   if (keyboard == nullptr) {
-    std::fputs("held-keys: the X server has no keyboard of its own\n", stderr);
+    std::cerr << "held-keys: the X server has no keyboard of its own\n";
     return 1;
   }
+  const std::chrono::milliseconds duration(std::strtol(arguments[1], nullptr, 10));
   std::vector<unsigned> keys;
   for (const char* name : arguments.subspan(2)) {
     const KeyCode key = XKeysymToKeycode(display.get(), XStringToKeysym(name));
     if (key == 0) {
-      std::fprintf(stderr, "held-keys: no key gives %s\n", name);
+      std::cerr << "held-keys: no key gives " << name << '\n';
       return 1;
     }
     keys.push_back(key);
   }
   if (!waitForRest(display.get())) {
-    std::fputs("held-keys: a key stays down\n", stderr);
+    std::cerr << "held-keys: a key stays down\n";
     return 1;
   }
   for (const unsigned key : keys)
     XTestFakeDeviceKeyEvent(display.get(), keyboard, key, True, nullptr, 0, CurrentTime);
   XSync(display.get(), False);
-  std::puts("pressed");
-  std::fflush(stdout);
-  std::this_thread::sleep_for(std::chrono::milliseconds(std::atoi(arguments[1])));
+  std::cout << "pressed" << std::endl;
+  std::this_thread::sleep_for(duration);
   while (!keys.empty()) {
     XTestFakeDeviceKeyEvent(display.get(), keyboard, keys.back(), False, nullptr, 0, CurrentTime);
     keys.pop_back();

@@ -1,10 +1,9 @@
 #!/usr/bin/env python3
 """Signs a letter on a private virtual desktop, as a person would, and shows what came of it.
 
-usage: demo.py --quillseal PATH --server PATH --held-keys PATH --screenshots FOLDER [--keep]
+usage: demo.py --screenshots FOLDER [--build FOLDER] [--keep]
 """
 
-import argparse
 import html
 import pathlib
 import re
@@ -13,7 +12,6 @@ import signal
 import sys
 
 import session
-from session import wait_for
 
 LETTER = """Dear Ms Whitcombe,
 
@@ -22,31 +20,15 @@ the lease suits us well; we shall sign it when you are
 back from 京都.
 
 Yours, Ada Ferrier"""
-SECRET = "correct horse battery staple"
 
 
 def step(text):
     print(f"==> {text}", flush=True)
 
 
-def answer_prompts(desktop):
-    """Chooses the secret of the new key and then signs with it."""
-    wanted = desktop.wait_for_window(r"Choose a (PIN|passphrase)",
-                                     "the agent asks for the secret of the new key")
-    step(f"Choosing a {wanted[1]} for the new signing key")
-    desktop.type(SECRET)
-    desktop.key("Tab")
-    desktop.type(SECRET)
-    desktop.key("Return")
-    desktop.wait_for_window(r"Enter the (PIN|passphrase)", "the agent asks whether to sign")
-    return wanted[1]
-
-
 def run(arguments):
-    programs = {"quillseal": arguments.quillseal, "quillseal-dev-server": arguments.server,
-                "held-keys": arguments.held_keys}
     arguments.screenshots.mkdir(parents=True, exist_ok=True)
-    with session.Session(programs, panel=True) as desktop:
+    with session.Session(arguments.build, panel=True) as desktop:
         step(f"A virtual desktop runs on display {desktop.env['DISPLAY']}")
         url = desktop.start_server()
         step(f"The development signing server runs at {url}")
@@ -58,17 +40,15 @@ def run(arguments):
         desktop.select_all(LETTER)
         step("Pressing Ctrl+Alt+Super+H")
         desktop.press_hotkey()
-        answer_prompts(desktop)
+        step(f"Choosing a {desktop.choose_secret()} for the new signing key")
+        desktop.wait_for_window("Enter the")
         prompt = arguments.screenshots / "prompt.png"
         desktop.screenshot(prompt)
         step("Signing; the server does not know the key yet, so it is registered and asked again")
-        desktop.type(SECRET)
-        desktop.key("Return")
+        desktop.enter_secret()
         desktop.wait_for_output(desktop.server, "/api/register_native 200",
                                 "the key is registered with the server")
-        desktop.wait_for_window(r"Enter the (PIN|passphrase)", "the agent asks once more")
-        desktop.type(SECRET)
-        desktop.key("Return")
+        desktop.enter_secret()
         block = desktop.saved_text(editor, "Check this signature")
         desktop.run("xdotool", "getactivewindow", "windowsize", "--sync", "900", "560")
         desktop.key("ctrl+Home")
@@ -93,9 +73,8 @@ def run(arguments):
 
 
 def main():
-    parser = argparse.ArgumentParser()
-    for name in ("quillseal", "server", "held-keys", "screenshots"):
-        parser.add_argument(f"--{name}", required=True, type=pathlib.Path)
+    parser = session.arguments_parser()
+    parser.add_argument("--screenshots", required=True, type=pathlib.Path)
     parser.add_argument("--keep", action="store_true")
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
     try:

@@ -2,22 +2,18 @@
 """Signs again and again in one session, with a key in a TPM simulator, and tells whether the agent
 keeps its memory and its descriptors.
 
-usage: soak.py --quillseal PATH --server PATH --held-keys PATH [--count N]
+usage: soak.py [--build FOLDER] [--count N]
 """
 
-import argparse
 import os
-import pathlib
 import statistics
 import sys
 import time
 
 import session
 from measure import memory
-from session import wait_for
+from session import LETTER, SECRET, wait_for
 
-LETTER = "Dear Ms Whitcombe, thank you for the visit on 14 March. The second draft suits us well."
-PIN = "271828"
 SETTLED = 50  # signatures after which caches are full
 
 
@@ -47,7 +43,7 @@ class Soak:
         self.desktop.press_hotkey(0)
         self.desktop.wait_for_window("Enter the PIN")
         self.to_prompt.append((time.monotonic() - begun) * 1000)
-        self.desktop.type(PIN)
+        self.desktop.type(SECRET)
         begun = time.monotonic()
         self.desktop.key("Return")
         wait_for("the signature is made", lambda: self.signatures() > done)
@@ -59,12 +55,6 @@ class Soak:
         self.desktop.key("ctrl+a")
         return self.desktop.selection("primary").startswith(f"『{LETTER}』")
 
-    def select_letter(self):
-        def selected():
-            self.desktop.key("ctrl+a")
-            return self.desktop.selection("primary") == LETTER
-        wait_for("the editor has the letter again", selected)
-
     def holdings(self):
         pid = self.desktop.agent.pid
         rss, pss = memory(pid)
@@ -73,21 +63,14 @@ class Soak:
                 "threads": len(os.listdir(f"/proc/{pid}/task"))}
 
     def run(self, count):
-        self.select_letter()
+        self.desktop.select_all(LETTER)
         self.desktop.press_hotkey(0)
-        self.desktop.wait_for_window("Choose a PIN")
-        self.desktop.type(PIN)
-        self.desktop.key("Tab")
-        self.desktop.type(PIN)
-        self.desktop.key("Return")
-        self.desktop.wait_for_window("Enter the PIN")
-        self.desktop.key("Escape")
-        self.desktop.wait_for_window("Signing Error")
-        self.desktop.key("Return")
-        self.desktop.wait_for_no_window("Signing Error")
+        self.desktop.choose_secret()
+        self.desktop.close("Enter the PIN", "Escape")
+        self.desktop.close("Signing Error")
         settled = None
         for number in range(1, count + 1):
-            self.select_letter()
+            self.desktop.select_all(LETTER)
             self.sign()
             if number == min(SETTLED, count):
                 settled = self.holdings()
@@ -100,15 +83,10 @@ class Soak:
 
 
 def main():
-    parser = argparse.ArgumentParser()
-    for name in ("quillseal", "server", "held-keys"):
-        parser.add_argument(f"--{name}", required=True,
-                            type=lambda path: pathlib.Path(path).resolve())
+    parser = session.arguments_parser()
     parser.add_argument("--count", type=int, default=500)
     arguments = parser.parse_args()
-    programs = {"quillseal": arguments.quillseal, "quillseal-dev-server": arguments.server,
-                "held-keys": arguments.held_keys}
-    with session.Session(programs) as desktop:
+    with session.Session(arguments.build) as desktop:
         soak = Soak(desktop)
         soak.start()
         before, after = soak.run(arguments.count)

@@ -4,6 +4,7 @@ development server. Nothing of it touches the desktop, the home or the settings 
 Waiting is always for a condition, with a limit and a sentence that says what did not happen.
 """
 
+import argparse
 import os
 import pathlib
 import re
@@ -16,6 +17,8 @@ import time
 
 PATIENCE = 40.0  # seconds; a loaded machine with two processors needs a good part of it
 HOTKEY = ("Control_L", "Alt_L", "Super_L", "h")
+LETTER = "Dear Ms Whitcombe, thank you for the visit on 14 March. The second draft suits us well."
+SECRET = "correct horse battery staple"
 
 
 class Failure(Exception):
@@ -46,12 +49,23 @@ def act_until(act, condition, what):
     return wait_for(what, acted)
 
 
-class Session:
-    """Use as a context manager. `programs` names the built executables: quillseal,
-    quillseal-dev-server, held-keys."""
+def arguments_parser():
+    """With the one option that all who use a Session have."""
+    parser = argparse.ArgumentParser()
+    parser.add_argument("--build", type=lambda path: pathlib.Path(path).resolve(),
+                        default=pathlib.Path(__file__).parents[2] / "build/dev",
+                        help="the build folder with the programs")
+    return parser
 
-    def __init__(self, programs, size="1280x800", panel=False, x_options=()):
-        self.programs = {name: str(path) for name, path in programs.items()}
+
+class Session:
+    """Use as a context manager. `build` is the build folder with the programs."""
+
+    def __init__(self, build, size="1280x800", panel=False, x_options=()):
+        self.build = pathlib.Path(build).resolve()
+        linux_agent = self.build / "client_integrations/linux-agent"
+        self.quillseal = linux_agent / "Sources/LinuxDesktop/quillseal"
+        self.held_keys = self.build / "tools/virtual-desktop/held-keys"
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="quillseal-session-"))
         self.home = self.folder / "home"
         self.processes = []
@@ -194,8 +208,8 @@ class Session:
         return self.folder / "registry.sqlite"
 
     def start_server(self, *options, port=0):
-        self.server = self.start(self.programs["quillseal-dev-server"], "--port", port,
-                                 "--database", self.registry, "--verbose", *options)
+        self.server = self.start(self.build / "tools/signing-server/quillseal-dev-server",
+                                 "--port", port, "--database", self.registry, "--verbose", *options)
         found = self.wait_for_output(self.server, r"http://[\d.]+:\d+",
                                      "the development server starts")
         self.server_url = found[0]
@@ -223,7 +237,7 @@ class Session:
         new.replace(self.settings_file)
 
     def start_agent(self, *options, tpm="none"):
-        self.agent = self.start(self.programs["quillseal"], "--tpm", tpm, *options)
+        self.agent = self.start(self.quillseal, "--tpm", tpm, *options)
         self.wait_for_output(self.agent, r"\[start\] ready", "the agent is ready")
         return self.agent
 
@@ -280,7 +294,7 @@ class Session:
 
     def key(self, *keys):
         # Pressed while the agent holds others down, these would mix: both use one device.
-        self.run(self.programs["held-keys"], 0)
+        self.run(self.held_keys, 0)
         self.run("xdotool", "key", *keys)
 
     def key_until(self, key, condition, what):
@@ -312,9 +326,29 @@ class Session:
     def type(self, text):
         self.run("xdotool", "type", "--delay", "8", text)
 
+    def close(self, title, *keys):
+        """Waits for a dialog and ends it by keyboard."""
+        self.wait_for_window(title)
+        self.key(*keys or ("Return",))
+        self.wait_for_no_window(title)
+
     def press_hotkey(self, milliseconds=120):
         """Presses the keys on the X server's own keyboard, and really holds them."""
-        self.run(self.programs["held-keys"], milliseconds, *HOTKEY)
+        self.run(self.held_keys, milliseconds, *HOTKEY)
+
+    def choose_secret(self, kind="PIN|passphrase"):
+        """Of the new key; gives which kind it is."""
+        asked = self.wait_for_window(f"Choose a ({kind})")
+        self.type(SECRET)
+        self.key("Tab")
+        self.type(SECRET)
+        self.key("Return")
+        return asked[1]
+
+    def enter_secret(self, secret=SECRET, kind="PIN|passphrase"):
+        self.wait_for_window(f"Enter the ({kind})")
+        self.type(secret)
+        self.key("Return")
 
     # Clipboard, notifications, pictures
 
@@ -342,6 +376,13 @@ class Session:
         editor = self.start("mousepad", "--disable-server", path)
         editor.file = path
         self.wait_for_window(re.escape(name), "the editor opens")
+        return editor
+
+    def press_in_editor(self, text=LETTER, name="letter.txt"):
+        """Writes the text in an editor, selects it and presses the hotkey; gives the editor."""
+        editor = self.open_editor(text, name)
+        self.select_all(text)
+        self.press_hotkey()
         return editor
 
     def select_all(self, expected, keys="ctrl+a"):

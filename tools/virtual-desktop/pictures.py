@@ -3,7 +3,7 @@
 screen. Needs root: the person in the pictures has a home of her own below /home, which nobody else
 sees.
 
-usage: pictures.py --quillseal PATH --server PATH --held-keys PATH --to FOLDER [--size 1024x600]
+usage: pictures.py --to FOLDER [--build FOLDER] [--size 1024x600]
 """
 
 import argparse
@@ -19,7 +19,6 @@ LETTER = ("Dear Ms Whitcombe,\n\nthank you for the visit on 14 March. The second
           "suits us well.\n\nYours, Ada Ferrier")
 SCAM = ("This is the tax office. There is a warrant for your arrest. Pay the fine with gift cards "
         "today and read me the codes on the phone, and tell nobody about this call.")
-SECRET = "correct horse battery staple"
 HOME = pathlib.Path("/home/ada")
 PORT = 8427
 
@@ -79,18 +78,9 @@ class Photographer:
                                     check=False).split())
 
 
-def choose(desktop):
-    desktop.type(SECRET)
-    desktop.key("Tab")
-    desktop.type(SECRET)
-    desktop.key("Return")
-
-
 def run(arguments):
-    programs = {"quillseal": arguments.quillseal, "quillseal-dev-server": arguments.server,
-                "held-keys": arguments.held_keys}
     arguments.to.mkdir(parents=True, exist_ok=True)
-    with session.Session(programs, size=arguments.size, panel=True) as desktop:
+    with session.Session(arguments.build, size=arguments.size, panel=True) as desktop:
         HOME.mkdir(mode=0o700)
         desktop.home = HOME
         desktop.env.update(HOME=str(HOME), XDG_CONFIG_HOME=f"{HOME}/.config",
@@ -102,32 +92,25 @@ def run(arguments):
         session.wait_for("the shield is in the panel", lambda: desktop.run(
             "xdotool", "search", "--onlyvisible", "--class", "trayer", check=False).split())
         photographer.take_menu("menu")
-        editor = desktop.open_editor(LETTER)
-        desktop.select_all(LETTER)
-        desktop.press_hotkey()
+        editor = desktop.press_in_editor(LETTER)
         photographer.take_window("new-passphrase", "Choose a passphrase")
-        choose(desktop)
+        desktop.choose_secret()
         photographer.take_window("confirmation", "Sign this content?")
         desktop.key("Return")
         photographer.take_window("passphrase", "Enter the passphrase")
-        desktop.type(SECRET)
-        desktop.key("Return")
+        desktop.enter_secret()
         desktop.saved_text(editor, "Check this signature")
         desktop.end(editor)
-        desktop.open_editor(SCAM, "call.txt")
-        desktop.select_all(SCAM)
-        desktop.press_hotkey()
+        desktop.press_in_editor(SCAM, "call.txt")
         photographer.take_window("refusal", "(?i)not signed|refus|scam")
         desktop.key("Return")
-        desktop.run(programs["quillseal"], "--settings")
+        desktop.run(desktop.quillseal, "--settings")
         photographer.take_window("settings", "Quill Seal Server Settings")
 
 
 def main():
-    parser = argparse.ArgumentParser()
-    for name in ("quillseal", "server", "held-keys", "to"):
-        parser.add_argument(f"--{name}", required=True,
-                            type=lambda path: pathlib.Path(path).resolve())
+    parser = session.arguments_parser()
+    parser.add_argument("--to", required=True, type=lambda path: pathlib.Path(path).resolve())
     parser.add_argument("--size", default="1024x600")
     parser.add_argument("--own-home", action="store_true", help=argparse.SUPPRESS)
     arguments = parser.parse_args()

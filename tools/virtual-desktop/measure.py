@@ -2,13 +2,12 @@
 """Measures the agent from outside: start-up, memory and wake-ups while idle, and what it adds to a
 signature.
 
-usage: measure.py --quillseal PATH --server PATH --held-keys PATH [--seconds N] [--runs N]
+usage: measure.py [--build FOLDER] [--seconds N] [--runs N]
 
 The key is in a software TPM. One in a file takes some tenths of a second more at every signature, on
 purpose: that is what a guess at its passphrase costs.
 """
 
-import argparse
 import http.client
 import http.server
 import os
@@ -21,9 +20,8 @@ import time
 import urllib.parse
 
 import session
+from session import LETTER, SECRET
 
-LETTER = "Dear Ms Whitcombe, thank you for the visit on 14 March. The second draft suits us well."
-SECRET = "correct horse battery staple"
 # Waits that are part of how the agent works, in milliseconds: until the source has finished its
 # copy; after the block is on the clipboard; after the source has been called to the front.
 SETTLING, CLIPBOARD, ACTIVATION = 80, 150, 350
@@ -56,7 +54,7 @@ def milliseconds(since):
 def start_up(desktop):
     """Starts the agent and tells how long it took to be ready, and for how long it was busy."""
     begun = time.monotonic()
-    agent = desktop.start(desktop.programs["quillseal"], "--tpm", "none")
+    agent = desktop.start(desktop.quillseal, "--tpm", "none")
     output = session.wait_for("the agent writes", lambda: open(agent.log, encoding="utf-8"))
     while "[start] ready" not in output.read():
         output.seek(0)
@@ -124,7 +122,7 @@ class Watch:
 
 def press(desktop, *keys):
     """Presses and releases keys, and tells when they were down."""
-    with subprocess.Popen([desktop.programs["held-keys"], "0", *keys], env=desktop.env,
+    with subprocess.Popen([desktop.held_keys, "0", *keys], env=desktop.env,
                           stdout=subprocess.PIPE) as process:
         process.stdout.readline()
         return time.monotonic()
@@ -153,33 +151,20 @@ def overhead(desktop, number, proxy, windows, notifications):
 
 def enrol(desktop):
     """Signs once, which chooses the secret and registers the key."""
-    editor = desktop.open_editor(LETTER)
-    desktop.select_all(LETTER)
-    desktop.press_hotkey(0)
-    kind = desktop.wait_for_window("Choose a (PIN|passphrase)")[1]
-    desktop.type(SECRET)
-    desktop.key("Tab")
-    desktop.type(SECRET)
-    desktop.key("Return")
-    desktop.wait_for_window("Enter the")
-    desktop.type(SECRET)
-    desktop.key("Return")
+    editor = desktop.press_in_editor()
+    kind = desktop.choose_secret()
+    desktop.enter_secret()
     desktop.saved_text(editor, "Check this signature")
     desktop.end(editor)
     return kind
 
 
 def main():
-    parser = argparse.ArgumentParser()
-    for name in ("quillseal", "server", "held-keys"):
-        parser.add_argument(f"--{name}", required=True,
-                            type=lambda path: pathlib.Path(path).resolve())
+    parser = session.arguments_parser()
     parser.add_argument("--seconds", type=int, default=60, help="how long to watch it idle")
     parser.add_argument("--runs", type=int, default=21)
     arguments = parser.parse_args()
-    programs = {"quillseal": arguments.quillseal, "quillseal-dev-server": arguments.server,
-                "held-keys": arguments.held_keys}
-    with session.Session(programs, panel=True) as desktop:
+    with session.Session(arguments.build, panel=True) as desktop:
         proxy = Proxy(desktop.start_server())
         desktop.write_settings(ServerURL=proxy.url, SigningMode="enclave")
         print(f"load of the machine {os.getloadavg()[0]:7.1f}, {os.cpu_count()} processors")

@@ -84,11 +84,23 @@ std::vector<std::string> charactersByIcu(const std::string& text) {
   return characters;
 }
 
+/// Of pictures, flags, and what joins and follows them.
+std::string randomEmoji(std::mt19937& random) {
+  constexpr std::u32string_view parts =
+      U"a\r\n\u00A9\u2764\U0001F468\U0001F1E9\U0001F1EA\u200D\u200D\uFE0F\U0001F3FD\u0903\u0600";
+  std::string text;
+  for (std::size_t left = random() % 10; left > 0; --left)
+    unicode::append(text, parts[random() % parts.size()]);
+  return text;
+}
+
 TEST(UnicodeText, FindsTheCharactersThatIcuFinds) {
   std::mt19937 random(20);
-  for (int round = 0; round < 20000; ++round) {
-    const std::string text = testing::randomText(random, 24);
-    ASSERT_EQ(charactersByCursor(text), charactersByIcu(text)) << testing::escaped(text);
+  for (int round = 0; round < 40000; ++round) {
+    const std::string text = round % 2 == 0 ? testing::randomText(random, 24) : randomEmoji(random);
+    const std::vector<std::string> characters = charactersByIcu(text);
+    ASSERT_EQ(charactersByCursor(text), characters) << testing::escaped(text);
+    ASSERT_EQ(characterCount(text), characters.size()) << testing::escaped(text);
   }
 }
 

@@ -67,6 +67,8 @@ bool mayJoin(UGraphemeClusterBreak before, UGraphemeClusterBreak after) {
     case U_GCB_LV:
     case U_GCB_LVT:
       return before == U_GCB_PREPEND || before == U_GCB_L;
+    case U_GCB_REGIONAL_INDICATOR:
+      return before == U_GCB_PREPEND || before == U_GCB_REGIONAL_INDICATOR;
     default:
       return true;
   }
@@ -81,14 +83,44 @@ bool areAlwaysApart(char32_t before, char32_t after) {
   return !mayJoin(kind, breakClass(after));
 }
 
-/// The length of the character that starts at `index` when its first scalar and the next one
-/// decide it, else 0.
-std::size_t plainLengthAt(std::string_view text, std::size_t index) {
-  if (isLineBreakPairAt(text, index)) return 2;
-  std::size_t end = index;
+bool isPictographic(char32_t scalar) {
+  return u_hasBinaryProperty(static_cast<UChar32>(scalar), UCHAR_EXTENDED_PICTOGRAPHIC) != 0;
+}
+
+/// The end of the emoji or flag at `start`, or `start` when neither begins there. REQUIRES: a
+/// character begins at `start`. The rules are GB9, GB9a and GB11 to GB13 of Unicode Standard
+/// Annex 29.
+std::size_t endOfEmoji(std::string_view text, std::size_t start) {
+  std::size_t end = start;
+  const char32_t first = nextScalar(text, end);
+  const bool isFlag = breakClass(first) == U_GCB_REGIONAL_INDICATOR;
+  if (!isFlag && !isPictographic(first)) return start;
+
+  bool takesPartner = isFlag;  // the second half of the flag
+  bool takesJoiner = !isFlag;  // nothing but Extend since the last picture
+  bool takesPicture = false;   // and a joiner behind it
+  for (std::size_t behind = end; behind < text.size(); end = behind) {
+    const char32_t scalar = nextScalar(text, behind);
+    const UGraphemeClusterBreak kind = breakClass(scalar);
+    const bool isPartner = takesPartner && kind == U_GCB_REGIONAL_INDICATOR;
+    const bool isPicture = takesPicture && kind == U_GCB_OTHER && isPictographic(scalar);
+    const bool isMark = kind == U_GCB_EXTEND || kind == U_GCB_ZWJ || kind == U_GCB_SPACING_MARK;
+    if (!isPartner && !isPicture && !isMark) break;
+    takesPartner = false;
+    takesPicture = takesJoiner && kind == U_GCB_ZWJ;
+    takesJoiner = isPicture || (takesJoiner && kind == U_GCB_EXTEND);
+  }
+  return end;
+}
+
+/// The end of the character that starts at `start` when that takes no tables, else `start`.
+std::size_t plainEnd(std::string_view text, std::size_t start) {
+  if (isLineBreakPairAt(text, start)) return start + 2;
+  std::size_t end = start;
   const char32_t scalar = nextScalar(text, end);
-  if (end == text.size()) return end - index;
-  return mayJoin(breakClass(scalar), breakClass(firstScalar(text.substr(end)))) ? 0 : end - index;
+  if (end == text.size()) return end;
+  if (!mayJoin(breakClass(scalar), breakClass(firstScalar(text.substr(end))))) return end;
+  return endOfEmoji(text, start);
 }
 
 struct CloseText {
@@ -211,7 +243,7 @@ std::string uppercased(std::string_view text) {
 std::size_t characterCount(std::string_view text) {
   std::size_t count = 0;
   for (CharacterCursor cursor(text); !cursor.atEnd();) {
-    count += cursor.skipSingleScalars(text.size());
+    count += cursor.skipPlainCharacters(text.size());
     if (cursor.atEnd()) break;
     static_cast<void>(cursor.next());
     ++count;
@@ -222,7 +254,7 @@ std::size_t characterCount(std::string_view text) {
 std::string_view firstCharacters(std::string_view text, std::size_t count) {
   CharacterCursor cursor(text);
   while (count > 0 && !cursor.atEnd()) {
-    count -= cursor.skipSingleScalars(count);
+    count -= cursor.skipPlainCharacters(count);
     if (count == 0 || cursor.atEnd()) break;
     static_cast<void>(cursor.next());
     --count;
@@ -262,8 +294,8 @@ CharacterCursor::~CharacterCursor() = default;
 
 std::string_view CharacterCursor::next() {
   const std::size_t start = position_;
-  const std::size_t plain = start >= stretchEnd_ ? plainLengthAt(text_, start) : 0;
-  position_ = plain > 0 ? start + plain : nextTableBoundary();
+  if (start >= stretchEnd_) position_ = plainEnd(text_, start);
+  if (position_ == start) position_ = nextTableBoundary();
   return text_.substr(start, position_ - start);
 }
 
@@ -279,18 +311,21 @@ std::string_view CharacterCursor::nextAsciiCharacters() {
   return text_.substr(start, end - start);
 }
 
-std::size_t CharacterCursor::skipSingleScalars(std::size_t most) {
-  if (position_ < stretchEnd_) return 0;
+std::size_t CharacterCursor::skipPlainCharacters(std::size_t most) {
+  if (position_ < stretchEnd_ || atEnd()) return 0;
   std::size_t skipped = 0;
   std::size_t behind = position_;
-  char32_t scalar = atEnd() ? 0 : nextScalar(text_, behind);
-  UGraphemeClusterBreak kind = breakClass(scalar);
+  UGraphemeClusterBreak kind = breakClass(nextScalar(text_, behind));
   for (; skipped < most && !atEnd(); ++skipped) {
-    const std::size_t end = behind;
+    std::size_t end = behind;
     if (end < text_.size()) {
-      const char32_t next = nextScalar(text_, behind);
-      const UGraphemeClusterBreak nextKind = breakClass(next);
-      if ((kind == U_GCB_CR && nextKind == U_GCB_LF) || mayJoin(kind, nextKind)) break;
+      UGraphemeClusterBreak nextKind = breakClass(nextScalar(text_, behind));
+      if ((kind == U_GCB_CR && nextKind == U_GCB_LF) || mayJoin(kind, nextKind)) {
+        end = plainEnd(text_, position_);
+        if (end == position_) break;
+        behind = end;
+        if (end < text_.size()) nextKind = breakClass(nextScalar(text_, behind));
+      }
       kind = nextKind;
     }
     position_ = end;

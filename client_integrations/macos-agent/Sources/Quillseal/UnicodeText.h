@@ -66,7 +66,7 @@ void append(std::string& text, char32_t scalar);
 ///
 ///     for (CharacterCursor cursor(text); !cursor.atEnd();) use(cursor.next());
 ///
-/// ICU's break iterator is asked only about stretches that two neighbours do not decide. The text
+/// ICU's break iterator is asked only where neither two neighbours nor the rules of emoji decide. The text
 /// must outlive the cursor.
 class CharacterCursor {
  public:
@@ -86,9 +86,9 @@ class CharacterCursor {
   /// Takes as many of the next characters as consist of one ASCII byte each, possibly none.
   [[nodiscard]] std::string_view nextAsciiCharacters();
 
-  /// Takes as many of the next characters as consist of one scalar each, `most` of them at most;
-  /// their number.
-  std::size_t skipSingleScalars(std::size_t most);
+  /// Takes as many of the next characters as it can without ICU, `most` of them at most; their
+  /// number.
+  std::size_t skipPlainCharacters(std::size_t most);
 
  private:
   [[nodiscard]] std::size_t nextTableBoundary();

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "IcuReference.h"
+#include "PatternCompiler/RulePatterns.h"
 #include "PatternText.h"
 #include "Quillseal/ContentRisk.h"
 #include "Quillseal/ContentRules.h"
@@ -207,7 +208,7 @@ Assessment plainlyEvaluated(const std::string& text, const testing::IcuReference
 }
 
 TEST(ContentRisk, AgreesWithThePlainEvaluation) {
-  const auto patterns = ContentRisk::patterns();
+  const auto patterns = screening::rulePatterns();
   const testing::IcuReference reference(patterns);
   const testing::PatternText source(patterns);
   std::mt19937 random(99);

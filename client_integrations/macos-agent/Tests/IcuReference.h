@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "Quillseal/ScreeningEngine.h"
+#include "PatternCompiler/TableCompiler.h"
 
 struct URegularExpression;
 

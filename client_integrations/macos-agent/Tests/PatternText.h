@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "Quillseal/PatternSyntax.h"
-#include "Quillseal/ScreeningEngine.h"
+#include "PatternCompiler/PatternSyntax.h"
+#include "PatternCompiler/TableCompiler.h"
 
 namespace quillseal::testing {
 

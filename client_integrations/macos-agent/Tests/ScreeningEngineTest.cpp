@@ -5,8 +5,9 @@
 #include <gtest/gtest.h>
 
 #include "IcuReference.h"
+#include "PatternCompiler/RulePatterns.h"
+#include "PatternCompiler/TableCompiler.h"
 #include "PatternText.h"
-#include "Quillseal/ContentRisk.h"
 #include "Quillseal/ScreeningEngine.h"
 #include "RandomText.h"
 
@@ -34,13 +35,14 @@ struct Comparisons {
 
 /// Compares all patterns on `texts` texts; one disagreement of each pattern is reported.
 Comparisons compareWithIcu(std::span<const Pattern> patterns, std::size_t texts, unsigned seed) {
-  const ScreeningEngine engine(patterns);
+  const auto compiled = screening::compilePatterns(patterns);
+  const ScreeningEngine engine(compiled.tables);
   const IcuReference reference(patterns);
   const PatternText source(patterns);
   std::mt19937 random(seed);
   std::vector<bool> reported(patterns.size());
   Comparisons total;
-  EXPECT_TRUE(engine.problems().empty());
+  EXPECT_TRUE(compiled.problems.empty());
   for (std::size_t i = 0; i < texts; ++i) {
     const std::string text = source.mixture(random);
     const auto expected = reference.firstMatches(text);
@@ -93,7 +95,7 @@ TEST(ScreeningEngine, AgreesWithIcuOnEveryConstruct) {
 }
 
 TEST(ScreeningEngine, AgreesWithIcuOnEveryRule) {
-  const Comparisons total = compareWithIcu(ContentRisk::patterns(), 600, 4711);
+  const Comparisons total = compareWithIcu(screening::rulePatterns(), 600, 4711);
   EXPECT_GT(total.compared, 100'000U);
   EXPECT_GT(total.matched, total.compared / 1000);
 }
@@ -106,8 +108,10 @@ TEST(ScreeningEngine, ReportsPatternsItCannotUseAndKeepsTheOthers) {
   for (const std::string_view expression : faulty)
     patterns.push_back({.expression = expression});
   patterns.push_back({.expression = "plain"});
-  const ScreeningEngine engine(patterns);
-  EXPECT_EQ(engine.problems().size(), faulty.size());
+  const auto compiled = screening::compilePatterns(patterns);
+  const ScreeningEngine engine(compiled.tables);
+  EXPECT_EQ(compiled.problems.size(), faulty.size());
+  EXPECT_EQ(engine.unusablePatterns().size(), faulty.size());
   const auto matches = engine.firstMatches("a plain text");
   ASSERT_EQ(matches.size(), 1U);
   EXPECT_EQ(matches.front().pattern, faulty.size());
@@ -117,9 +121,11 @@ TEST(ScreeningEngine, ReportsPatternsItCannotUseAndKeepsTheOthers) {
 TEST(ScreeningEngine, IllFormedBytesCountAsReplacementCharacters) {
   const std::array<Pattern, 2> patterns{Pattern{.expression = "a\\uFFFD+b"},
                                         Pattern{.expression = "c$"}};
-  const auto matches = ScreeningEngine(patterns).firstMatches(
-      "xa\xFF\xE2\x82"
-      "bc");
+  const auto compiled = screening::compilePatterns(patterns);
+  const auto matches = ScreeningEngine(compiled.tables)
+                           .firstMatches(
+                               "xa\xFF\xE2\x82"
+                               "bc");
   ASSERT_EQ(matches.size(), 2U);
   EXPECT_EQ(matches[0].start, 1U);
   EXPECT_EQ(matches[0].end, 6U);
@@ -135,12 +141,13 @@ std::string repeated(std::string_view unit, std::size_t size) {
 
 // Steps are counted, not time, so that the test means the same on every machine.
 TEST(ScreeningEngine, WorkGrowsLinearlyWithWhateverIsRepeated) {
-  const std::vector<Pattern> patterns = ContentRisk::patterns();
+  const std::vector<Pattern> patterns = screening::rulePatterns();
   const PatternText source(patterns);
   constexpr std::array<std::string_view, 12> separators{
       "", " ", "\n", "\r\n", ".", ",", "1", "a", "\u200D", "\u0301", "  \n", " a "};
   for (std::size_t p = 0; p < patterns.size(); ++p) {
-    const ScreeningEngine engine(std::span<const Pattern>(&patterns[p], 1));
+    const auto compiled = screening::compilePatterns({&patterns[p], 1});
+    const ScreeningEngine engine(compiled.tables);
     std::mt19937 random(static_cast<unsigned>(p));
     std::vector<std::string> units = source.parts(p);
     std::shuffle(units.begin(), units.end(), random);

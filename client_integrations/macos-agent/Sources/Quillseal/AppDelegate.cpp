@@ -16,18 +16,8 @@ void AppDelegate::applicationDidFinishLaunching() {
           .alerts = desktop_.alerts, .hotkey = desktop_.hotkey, .log = desktop_.log},
       *signingCoordinator_);
   hotkeyManager_->registerHotkey();
-  prepareScreening();
-}
-
-/// Spares the first signature the building of the rule tables.
-void AppDelegate::prepareScreening() {
-  screeningPreparation_ =
-      desktop_.loop.runBlocking([] { ContentRisk::prepare(); },
-                                [this] {
-                                  for (const std::string_view rule : ContentRisk::disabledRules())
-                                    desktop_.log.write("[risk] rule " + std::string(rule) +
-                                                       " failed to compile and is disabled");
-                                });
+  for (const std::string_view rule : ContentRisk::disabledRules())
+    desktop_.log.write("[risk] rule " + std::string(rule) + " failed to compile and is disabled");
 }
 
 }  // namespace quillseal

@@ -25,14 +25,11 @@ class AppDelegate {
   [[nodiscard]] MenuBarManager& menuBarManager() { return *menuBarManager_; }
 
  private:
-  void prepareScreening();
-
   desktop::Desktop desktop_;
   // The menu's settings use the coordinator to their end, so it is destroyed last.
   std::unique_ptr<SigningCoordinator> signingCoordinator_;
   std::unique_ptr<MenuBarManager> menuBarManager_;
   std::unique_ptr<HotkeyManager> hotkeyManager_;
-  desktop::Ticket screeningPreparation_;
 };
 
 }  // namespace quillseal

@@ -1,15 +1,17 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
-#include <map>
+#include <limits>
 #include <span>
 #include <string_view>
+#include <utility>
 #include <vector>
 
-#include "Quillseal/PatternSyntax.h"
+#include "Quillseal/StoredTables.h"
 
+/// The screening engine: regular expressions in ICU's syntax, many at once over one text, with
+/// exactly the matches of ICU's own engine and in linear time. docs/screening.md has the reasoning.
 namespace quillseal::screening {
 
 /// A class of code points that no pattern tells apart.
@@ -17,6 +19,9 @@ using ClassId = std::uint16_t;
 /// A letter of the folded patterns, by its index in the alphabet; `otherLetter` is any other.
 using Letter = std::uint16_t;
 inline constexpr Letter otherLetter = 0;
+
+/// No upper limit of a repetition or a distance.
+inline constexpr std::uint32_t unbounded = std::numeric_limits<std::uint32_t>::max();
 
 /// A text as the patterns see it: one element for each code point and one more for the end.
 class ClassifiedText {
@@ -45,102 +50,87 @@ class ClassifiedText {
 /// A set of classes, by its place in `ClassSets`.
 using ClassSetId = std::uint16_t;
 
-/// Sets of classes, each kept once, 64 classes to a word.
+/// The bits of sets of classes, 64 classes to a word and as many words for each set.
+template <template <typename> typename Array>
+struct ClassSetTable {
+  Array<std::uint64_t> bits;
+
+  void transfer(auto& archive) { archive(bits); }
+};
+
 class ClassSets {
  public:
-  explicit ClassSets(std::size_t classCount) : words_(classCount / 64 + 1) {}
-
-  /// REQUIRES: bits.size() == words(). Throws PatternError when there are too many.
-  ClassSetId intern(const std::vector<std::uint64_t>& bits);
-
-  [[nodiscard]] std::size_t words() const { return words_; }
-  [[nodiscard]] bool contains(ClassSetId set, ClassId id) const {
-    return (bits_[set * words_ + id / 64] >> (id % 64) & 1) != 0;
+  ClassSets(TableReader& tables, std::size_t classCount) : words_(wordsFor(classCount)) {
+    table_.transfer(tables);
   }
-  [[nodiscard]] std::vector<std::uint64_t> bits(ClassSetId set) const;
 
-  /// Forgets what only `intern` needs.
-  void finish();
-  [[nodiscard]] std::size_t memoryUse() const;
+  [[nodiscard]] bool contains(ClassSetId set, ClassId id) const {
+    return (table_.bits[set * words_ + id / 64] >> (id % 64) & 1) != 0;
+  }
+
+  static constexpr std::size_t wordsFor(std::size_t classCount) { return classCount / 64 + 1; }
 
  private:
   std::size_t words_;
-  std::vector<std::uint64_t> bits_;
-  std::map<std::vector<std::uint64_t>, ClassSetId> indexes_;
+  ClassSetTable<Stored> table_;
 };
 
-/// Divides the code points into classes, so that a set of code points becomes a set of classes,
-/// and says how each class folds. Immutable once built.
+/// What is known of a class, as bits.
+enum ClassTrait : std::uint8_t {
+  isWordTrait = 1,
+  isUnnoticedTrait = 2,  ///< \b looks through it
+  isSpaceTrait = 4,
+  isTerminatorTrait = 8,
+  isLineFeedTrait = 16,
+  isCarriageReturnTrait = 32,
+};
+
+template <template <typename> typename Array>
+struct CharacterClassTable {
+  Array<std::uint16_t> pageOf;  ///< by code point, in units of `pageSize`
+  Array<ClassId> pages;
+  Array<std::uint8_t> traits;          ///< by class
+  Array<std::uint32_t> foldingStarts;  ///< by class, and the end
+  Array<Letter> foldings;
+
+  static constexpr std::size_t pageSize = 64;
+
+  void transfer(auto& archive) { archive(pageOf, pages, traits, foldingStarts, foldings); }
+};
+
+/// The class of every code point, and what is known of each class.
 class CharacterClasses {
  public:
-  /// `alphabet`: the code points that occur in folded texts; the blank is added.
-  CharacterClasses(const SetTable& sets, std::vector<char32_t> alphabet);
+  explicit CharacterClasses(TableReader& tables) { table_.transfer(tables); }
 
-  [[nodiscard]] std::size_t count() const { return foldings_.size(); }
-  [[nodiscard]] std::size_t letterCount() const { return alphabet_.size() + 1; }
+  [[nodiscard]] std::size_t count() const { return table_.traits.size(); }
 
-  /// REQUIRES: `c` is in the alphabet.
-  [[nodiscard]] Letter letterOf(char32_t c) const;
-  /// That of the blank.
-  [[nodiscard]] Letter spaceLetter() const { return letterOf(U' '); }
   [[nodiscard]] ClassId classOf(char32_t c) const {
-    return pages_[pageOf_[c / pageSize] * pageSize + c % pageSize];
+    constexpr std::size_t pageSize = CharacterClassTable<Stored>::pageSize;
+    return table_.pages[table_.pageOf[c / pageSize] * pageSize + c % pageSize];
   }
-  /// REQUIRES: not `otherLetter`.
-  [[nodiscard]] char32_t codePointOf(Letter letter) const { return alphabet_[letter - 1]; }
   /// The full case folding of every member of the class.
-  [[nodiscard]] std::span<const Letter> folding(ClassId id) const { return foldings_[id]; }
-  /// The classes whose folding contains the letter.
-  [[nodiscard]] std::span<const ClassId> classesWith(Letter letter) const {
-    return classesWith_[letter];
+  [[nodiscard]] std::span<const Letter> folding(ClassId id) const {
+    const std::uint32_t start = table_.foldingStarts[id];
+    return table_.foldings.subspan(start, table_.foldingStarts[id + std::size_t{1}] - start);
   }
   /// \w
-  [[nodiscard]] bool isWord(ClassId id) const { return (traits_[id] & word) != 0; }
+  [[nodiscard]] bool isWord(ClassId id) const { return has(id, isWordTrait); }
   /// \s
-  [[nodiscard]] bool isSpace(ClassId id) const { return (traits_[id] & space) != 0; }
-  [[nodiscard]] bool isLineTerminator(ClassId id) const { return (traits_[id] & terminator) != 0; }
-  [[nodiscard]] bool isLineFeed(ClassId id) const { return (traits_[id] & lineFeed) != 0; }
-  [[nodiscard]] bool isCarriageReturn(ClassId id) const {
-    return (traits_[id] & carriageReturn) != 0;
-  }
-  /// The classes of a set, 64 to a word.
-  [[nodiscard]] std::span<const std::uint64_t> classesOf(std::size_t set) const {
-    return members_[set];
-  }
+  [[nodiscard]] bool isSpace(ClassId id) const { return has(id, isSpaceTrait); }
+  [[nodiscard]] bool isLineTerminator(ClassId id) const { return has(id, isTerminatorTrait); }
+  [[nodiscard]] bool isLineFeed(ClassId id) const { return has(id, isLineFeedTrait); }
+  [[nodiscard]] bool isCarriageReturn(ClassId id) const { return has(id, isCarriageReturnTrait); }
 
   /// Any bytes; those that do not form UTF-8 count as U+FFFD.
   [[nodiscard]] ClassifiedText classify(std::string_view text) const;
 
-  [[nodiscard]] std::size_t memoryUse() const;
-
  private:
-  /// Bits of `traits_`.
-  enum Trait : std::uint8_t {
-    word = 1,
-    unnoticed = 2,  ///< \b looks through it
-    space = 4,
-    terminator = 8,
-    lineFeed = 16,
-    carriageReturn = 32,
-  };
+  [[nodiscard]] bool has(ClassId id, ClassTrait trait) const {
+    return (table_.traits[id] & trait) != 0;
+  }
 
-  static constexpr std::size_t pageSize = 64;
-  std::vector<char32_t> alphabet_;
-  std::vector<std::vector<Letter>> foldings_;
-  std::vector<std::vector<ClassId>> classesWith_;
-  std::vector<std::vector<std::uint64_t>> members_;
-  std::vector<std::uint8_t> traits_;
-  std::array<std::uint16_t, 0x110000 / pageSize> pageOf_{};
-  std::vector<ClassId> pages_;
+  CharacterClassTable<Stored> table_;
 };
-
-/// Every code point that the folding of `node` may be compared with.
-void collectAlphabet(const Node& node, const SetTable& sets, std::vector<char32_t>& alphabet);
-
-/// Sets of at most this many code points count as alternatives of letters.
-inline constexpr std::size_t largestLetterSet = 16;
-
-/// The code points of a set of at most `largestLetterSet`; empty when it has more.
-[[nodiscard]] std::vector<char32_t> fewCodePoints(const CodePointRanges& ranges);
 
 }  // namespace quillseal::screening

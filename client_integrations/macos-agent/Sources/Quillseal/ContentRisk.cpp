@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <set>
 
+#include "Quillseal/CompiledRules.h"
 #include "Quillseal/ContentRules.h"
+#include "Quillseal/ScreeningEngine.h"
 #include "Quillseal/UnicodeText.h"
 
 namespace quillseal::ContentRisk {
@@ -14,20 +16,9 @@ constexpr std::size_t shortestQuotation = 25;
 
 constexpr std::size_t reasonLimit = 3;
 
-/// The compiled rules in table order, and the reporting cue as the last pattern.
-struct Compiled {
-  screening::ScreeningEngine engine{patterns()};
-  std::vector<std::string_view> disabled;
-
-  Compiled() {
-    for (const screening::PatternProblem& problem : engine.problems())
-      if (problem.pattern < ContentRules::all.size())
-        disabled.push_back(ContentRules::all[problem.pattern].id);
-  }
-};
-
-const Compiled& compiled() {
-  static const Compiled instance;
+/// Searches for the rules in table order, and for the reporting cue as the last pattern.
+const screening::ScreeningEngine& engine() {
+  static const screening::ScreeningEngine instance(screening::compiledRules());
   return instance;
 }
 
@@ -157,10 +148,6 @@ std::string reasonsThen(const Assessment& assessment, std::string_view advice) {
 
 }  // namespace
 
-void prepare() {
-  static_cast<void>(compiled());
-}
-
 Assessment evaluate(std::string_view text) {
   return screen(text).assessment;
 }
@@ -169,8 +156,7 @@ Screening screen(std::string_view text) {
   Screening result;
   if (text.empty()) return result;
   const std::string_view screened = screenedPart(text);
-  std::vector<screening::PatternMatch> matches =
-      compiled().engine.firstMatches(screened, &result.steps);
+  std::vector<screening::PatternMatch> matches = engine().firstMatches(screened, &result.steps);
 
   std::vector<QuotedSpan> spans;
   if (!matches.empty() && matches.back().pattern == ContentRules::all.size()) {
@@ -219,16 +205,11 @@ Screening screen(std::string_view text) {
   return result;
 }
 
-std::vector<screening::Pattern> patterns() {
-  std::vector<screening::Pattern> all;
-  for (const ContentRules::Rule& rule : ContentRules::all)
-    all.push_back({.expression = rule.pattern, .caseInsensitive = rule.caseInsensitive});
-  all.push_back({.expression = reportingCue, .caseInsensitive = true});
-  return all;
-}
-
-std::span<const std::string_view> disabledRules() {
-  return compiled().disabled;
+std::vector<std::string_view> disabledRules() {
+  std::vector<std::string_view> ids;
+  for (const std::size_t pattern : engine().unusablePatterns())
+    if (pattern < ContentRules::all.size()) ids.push_back(ContentRules::all[pattern].id);
+  return ids;
 }
 
 std::vector<QuotedSpan> quotedSpans(std::string_view text) {

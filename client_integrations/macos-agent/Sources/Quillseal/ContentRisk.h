@@ -3,12 +3,9 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "Quillseal/ScreeningEngine.h"
 
 /// Decides whether a text may be signed: runs every rule of `ContentRules` over it, adds up the
 /// points and words the refusal or the warning. Pure functions over fixed tables, callable from any
@@ -43,9 +40,6 @@ struct Assessment {
   bool operator==(const Assessment&) const = default;
 };
 
-/// Builds the tables, which the first screening does otherwise (some milliseconds).
-void prepare();
-
 [[nodiscard]] Assessment evaluate(std::string_view text);
 
 /// Where a finding's rule matched.
@@ -66,12 +60,9 @@ struct Screening {
 
 [[nodiscard]] Screening screen(std::string_view text);
 
-/// What a screening searches for: the pattern of every rule, in table order, and the reporting cue.
-[[nodiscard]] std::vector<screening::Pattern> patterns();
-
 /// The ids of the rules whose pattern did not compile and which are left out. The program logs each
 /// at its start: "[risk] rule ID failed to compile and is disabled".
-[[nodiscard]] std::span<const std::string_view> disabledRules();
+[[nodiscard]] std::vector<std::string_view> disabledRules();
 
 /// A quotation of 25 or more characters, with its marks.
 struct QuotedSpan {

@@ -4,11 +4,10 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
-#include <span>
 #include <vector>
 
 #include "Quillseal/CharacterClasses.h"
-#include "Quillseal/PatternSyntax.h"
+#include "Quillseal/StoredTables.h"
 
 namespace quillseal::screening {
 
@@ -28,74 +27,60 @@ struct Beginning {
   }
 };
 
-/// A compiled pattern for `Matcher`. Immutable.
-class PatternProgram {
- public:
-  /// Keeps its sets in `sets`.
-  PatternProgram(const Node& pattern, const CharacterClasses& classes, ClassSets& sets);
+enum class Operation : std::uint16_t {
+  Accept,
+  Set,
+  FoldedText,  ///< `count` letters from `first`
+  Choice,      ///< `count` targets from `first`, in order
+  GreedyLoop,  ///< `count` to `max` code points of `set`
+  LazyLoop,
+  Jump,
+  WordBoundary,
+  NoWordBoundary,
+  TextStart,
+  TextEnd,
+  AbsoluteEnd,
+  LookAhead,          ///< the next instruction to an Accept; then on at `first`
+  NegativeLookAhead,  ///< likewise
+  PrecededBy,
+  NotPrecededBy,
+};
 
-  /// A place to start from: the whole pattern, or one of the alternatives it consists of.
-  struct Entry {
-    std::uint32_t instruction = 0;
-    Beginning beginning;
-  };
-  [[nodiscard]] const Entry& whole() const { return entries_.front(); }
-  /// The alternative of that index; the whole when the pattern is no choice of alternatives.
-  [[nodiscard]] const Entry& alternative(std::size_t index) const {
-    return entries_.size() == 1 ? entries_.front() : entries_[index + 1];
-  }
-
-  /// For each of the first code points of every match from `entry`, the classes it can be of; ends
-  /// early where a match may end or the number of code points is not certain. At most `longest`
-  /// elements.
-  [[nodiscard]] std::vector<std::vector<std::uint64_t>> leadingClasses(
-      const Entry& entry, std::size_t longest, const CharacterClasses& classes,
-      const ClassSets& sets) const;
-
-  [[nodiscard]] std::size_t memoryUse() const;
-
- private:
-  friend class Matcher;
-
-  enum class Operation : std::uint8_t {
-    Accept,
-    Set,
-    FoldedText,  ///< `count` letters from `first`
-    Choice,      ///< `count` targets from `first`, in order
-    GreedyLoop,  ///< `count` to `max` code points of `set`
-    LazyLoop,
-    Jump,
-    WordBoundary,
-    NoWordBoundary,
-    TextStart,
-    TextEnd,
-    AbsoluteEnd,
-    LookAhead,          ///< the next instruction to an Accept; then on at `first`
-    NegativeLookAhead,  ///< likewise
-    PrecededBy,
-    NotPrecededBy,
-  };
-
-  /// Continues with the next one unless it says otherwise.
-  struct Instruction {
-    Operation operation;
-    std::uint16_t count = 0;  ///< of letters or targets; for a loop the least number of rounds
-    std::uint16_t max = 0;
-    std::uint16_t memo = 0;  ///< row in the memory of failures
-    ClassSetId set = 0;
-    std::uint16_t first = 0;  ///< for a loop: what follows it begins with, in `beginnings_`
-  };
+/// Continues with the next one unless it says otherwise.
+struct Instruction {
+  Operation operation;
+  std::uint16_t count = 0;  ///< of letters or targets; for a loop the least number of rounds
+  std::uint16_t max = 0;
+  std::uint16_t memo = 0;  ///< row in the memory of failures
+  ClassSetId set = 0;
+  std::uint16_t first = 0;  ///< for a loop: what follows it begins with, in `beginnings`
 
   static constexpr std::uint16_t endless = 0xFFFF;  ///< as `max`
+};
 
-  class Compiler;
+/// A place to start from.
+struct ProgramEntry {
+  std::uint32_t instruction = 0;
+  Beginning beginning;
+};
 
-  std::vector<Instruction> code_;
-  std::vector<Letter> letters_;
-  std::vector<Entry> targets_;
-  std::vector<Beginning> beginnings_;
-  std::vector<Entry> entries_;  ///< the whole, then its alternatives
-  std::uint16_t memoRows_ = 0;
+/// A compiled pattern for `Matcher`.
+template <template <typename> typename Array>
+struct PatternProgram {
+  Array<Instruction> code;
+  Array<Letter> letters;
+  Array<ProgramEntry> targets;
+  Array<Beginning> beginnings;
+  Array<ProgramEntry> entries;  ///< the whole, then the alternatives that it is a choice of
+  std::uint16_t memoRows = 0;   ///< of the memory of failures
+
+  void transfer(auto& archive) { archive(code, letters, targets, beginnings, entries, memoRows); }
+
+  [[nodiscard]] const ProgramEntry& whole() const { return entries.front(); }
+  /// The alternative of that index; the whole when the pattern is no choice of alternatives.
+  [[nodiscard]] const ProgramEntry& alternative(std::size_t index) const {
+    return entries.size() == 1 ? entries.front() : entries[index + 1];
+  }
 };
 
 /// Frames of abandoned alternatives, shared by the matchers of one screening.
@@ -112,14 +97,14 @@ using BacktrackStack = std::vector<BacktrackFrame>;
 class Matcher {
  public:
   /// All four must outlive the matcher.
-  Matcher(const PatternProgram& program, const CharacterClasses& classes, const ClassSets& sets,
-          const ClassifiedText& text)
+  Matcher(const PatternProgram<Stored>& program, const CharacterClasses& classes,
+          const ClassSets& sets, const ClassifiedText& text)
       : program_(&program), classes_(&classes), sets_(&sets), text_(&text) {}
 
   /// Where the preferred match that starts at `start` ends, if there is one; `entry` belongs to the
   /// program. Cheapest when called with mostly ascending starts.
-  [[nodiscard]] std::optional<std::size_t> matchAt(const PatternProgram::Entry& entry,
-                                                   std::size_t start, BacktrackStack& stack);
+  [[nodiscard]] std::optional<std::size_t> matchAt(const ProgramEntry& entry, std::size_t start,
+                                                   BacktrackStack& stack);
 
   /// Steps taken so far.
   [[nodiscard]] std::uint64_t steps() const { return steps_; }
@@ -133,14 +118,14 @@ class Matcher {
                                  BacktrackStack& stack);
   [[nodiscard]] bool looksAhead(std::uint32_t instruction, std::size_t position,
                                 BacktrackStack& stack);
-  [[nodiscard]] std::optional<std::size_t> foldedTextEnd(
-      const PatternProgram::Instruction& instruction, std::size_t position) const;
+  [[nodiscard]] std::optional<std::size_t> foldedTextEnd(const Instruction& instruction,
+                                                         std::size_t position) const;
   [[nodiscard]] bool atTextEnd(std::size_t position) const;
   [[nodiscard]] Known known(std::uint32_t row, std::size_t position) const;
   void remember(std::uint32_t row, std::size_t position, Known what);
   void forgetBefore(std::size_t position);
 
-  const PatternProgram* program_;
+  const PatternProgram<Stored>* program_;
   const CharacterClasses* classes_;
   const ClassSets* sets_;
   const ClassifiedText* text_;

@@ -66,8 +66,8 @@ void append(std::string& text, char32_t scalar);
 ///
 ///     for (CharacterCursor cursor(text); !cursor.atEnd();) use(cursor.next());
 ///
-/// ICU's break iterator is asked only where neither two neighbours nor the rules of emoji decide. The text
-/// must outlive the cursor.
+/// ICU's break iterator is asked only where neither two neighbours nor the rules of emoji decide.
+/// The text must outlive the cursor.
 class CharacterCursor {
  public:
   explicit CharacterCursor(std::string_view text);

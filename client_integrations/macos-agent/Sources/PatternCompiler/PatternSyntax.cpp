@@ -1,4 +1,4 @@
-#include "Quillseal/PatternSyntax.h"
+#include "PatternCompiler/PatternSyntax.h"
 
 #include <algorithm>
 #include <optional>

@@ -1,4 +1,4 @@
-#include "Quillseal/RequiredLiterals.h"
+#include "PatternCompiler/RequiredLiterals.h"
 
 #include <algorithm>
 #include <optional>
@@ -6,7 +6,7 @@
 #include <unordered_map>
 #include <utility>
 
-#include "Quillseal/LiteralAlphabet.h"
+#include "PatternCompiler/LiteralAlphabet.h"
 
 namespace quillseal::screening {
 namespace {
@@ -46,8 +46,7 @@ struct InnerLink {
 
 class Analysis {
  public:
-  Analysis(const SetTable& sets, const CharacterClasses& classes)
-      : sets_(sets), classes_(classes) {}
+  Analysis(const SetTable& sets, const ClassPartition& classes) : sets_(sets), classes_(classes) {}
 
   RequiredLiterals of(const Node& pattern) {
     RequiredLiterals required;
@@ -403,7 +402,7 @@ class Analysis {
   }
 
   const SetTable& sets_;
-  const CharacterClasses& classes_;
+  const ClassPartition& classes_;
   const LiteralAlphabet alphabet_{classes_};
   // What has been asked for once is asked for again, by every limit that is tried.
   std::unordered_map<const Node*, std::optional<Literals>> literalsOfNode_;
@@ -414,7 +413,7 @@ class Analysis {
 }  // namespace
 
 RequiredLiterals requiredLiterals(const Node& pattern, const SetTable& sets,
-                                  const CharacterClasses& classes) {
+                                  const ClassPartition& classes) {
   return Analysis(sets, classes).of(pattern);
 }
 

@@ -1,9 +1,9 @@
-#include "Quillseal/LiteralAlphabet.h"
+#include "PatternCompiler/LiteralAlphabet.h"
 
 #include <algorithm>
 #include <string>
 
-#include "Quillseal/TextFrequency.h"
+#include "PatternCompiler/TextFrequency.h"
 
 namespace quillseal::screening {
 namespace {

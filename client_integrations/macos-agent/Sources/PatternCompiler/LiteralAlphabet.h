@@ -3,7 +3,8 @@
 #include <cstdint>
 #include <vector>
 
-#include "Quillseal/CharacterClasses.h"
+#include "PatternCompiler/ClassPartition.h"
+#include "Quillseal/ScreeningTables.h"
 
 namespace quillseal::screening {
 
@@ -11,15 +12,6 @@ namespace quillseal::screening {
 using Literal = std::vector<Letter>;
 /// Of which one stands there.
 using Literals = std::vector<Literal>;
-
-/// How much text there is at most between two places, in two measures; either may be `unbounded`.
-/// With the first `\s+` is a short gap like any other, with the second `\w+` is, too.
-struct Distance {
-  std::uint32_t steps = 0;  ///< code points, where a run of white space counts as one
-  std::uint32_t runs = 0;   ///< likewise, and a run of word characters counts as one
-
-  [[nodiscard]] bool isUnbounded() const { return steps == unbounded && runs == unbounded; }
-};
 
 /// The bounds of two stretches that follow one another.
 [[nodiscard]] Distance plus(const Distance& a, const Distance& b);
@@ -30,7 +22,7 @@ struct Distance {
 /// What can be done with literals when it is known what their letters are.
 class LiteralAlphabet {
  public:
-  explicit LiteralAlphabet(const CharacterClasses& classes)
+  explicit LiteralAlphabet(const ClassPartition& classes)
       : classes_(classes), space_(classes.spaceLetter()) {}
 
   [[nodiscard]] Letter space() const { return space_; }
@@ -64,7 +56,7 @@ class LiteralAlphabet {
     return !literal.empty() && literal.front() == space_;
   }
 
-  const CharacterClasses& classes_;
+  const ClassPartition& classes_;
   Letter space_;
 };
 

@@ -3,9 +3,9 @@
 #include <cstdint>
 #include <vector>
 
-#include "Quillseal/CharacterClasses.h"
-#include "Quillseal/LiteralAlphabet.h"
-#include "Quillseal/PatternSyntax.h"
+#include "PatternCompiler/ClassPartition.h"
+#include "PatternCompiler/LiteralAlphabet.h"
+#include "PatternCompiler/PatternSyntax.h"
 
 namespace quillseal::screening {
 
@@ -34,6 +34,6 @@ struct RequiredLiterals {
 };
 
 [[nodiscard]] RequiredLiterals requiredLiterals(const Node& pattern, const SetTable& sets,
-                                                const CharacterClasses& classes);
+                                                const ClassPartition& classes);
 
 }  // namespace quillseal::screening

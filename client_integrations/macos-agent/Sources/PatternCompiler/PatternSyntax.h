@@ -2,15 +2,14 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <limits>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
-/// The screening engine: regular expressions in ICU's syntax, many at once over one text, with
-/// exactly the matches of ICU's own engine and in linear time. docs/screening.md has the reasoning.
+#include "Quillseal/CharacterClasses.h"
+
 namespace quillseal::screening {
 
 /// Code points as ascending, disjoint, non-adjacent inclusive ranges.
@@ -32,9 +31,6 @@ class SetTable {
  private:
   std::vector<CodePointRanges> sets_;
 };
-
-/// No upper limit of a repetition.
-inline constexpr std::uint32_t unbounded = std::numeric_limits<std::uint32_t>::max();
 
 /// One node of a parsed pattern.
 struct Node {

@@ -1,4 +1,4 @@
-#include "Quillseal/TextFrequency.h"
+#include "PatternCompiler/TextFrequency.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,0 +1,354 @@
+#include "PatternCompiler/TableCompiler.h"
+
+#include <algorithm>
+#include <limits>
+#include <optional>
+
+#include "PatternCompiler/ClassPartition.h"
+#include "PatternCompiler/LiteralIndexBuilder.h"
+#include "PatternCompiler/PatternSyntax.h"
+#include "PatternCompiler/ProgramCompiler.h"
+#include "PatternCompiler/RequiredLiterals.h"
+#include "PatternCompiler/TextFrequency.h"
+#include "Quillseal/ScreeningTables.h"
+
+namespace quillseal::screening {
+namespace {
+
+/// How many of a match's first code points the leading-class search looks at.
+constexpr std::size_t longestLeading = 8;
+
+// What finding matches by their first classes costs, in units of one literal met in the text.
+constexpr double costOfRun = 10;
+constexpr double costOfLeadingBit = 0.002;  ///< of advancing one bit at each code point
+/// Expected frequency of a class beyond ASCII.
+constexpr double rareClass = 0.0001;
+
+template <typename Number>
+Number narrowed(std::size_t value) {
+  if (value >= std::numeric_limits<Number>::max()) throw PatternError("too many patterns");
+  return static_cast<Number>(value);
+}
+
+// ---- From patterns to searches
+
+/// A pattern, or a part of one that is searched for by itself.
+struct Part {
+  Node node;
+  bool anyMatch = false;  ///< whether there is a match is all that matters
+  std::size_t pattern = 0;
+};
+
+/// How the matches of a pattern follow from those of its parts.
+struct Composition {
+  std::vector<Node> required{};   ///< must all have a match
+  std::vector<Node> forbidden{};  ///< must have none
+  std::optional<Node> main{};     ///< its first match is the pattern's
+  bool fromTextStart = false;     ///< the match starts at 0 wherever the main one starts
+};
+
+bool isEverything(const Node& node, const SetTable& sets) {
+  return node.kind == Node::Kind::Set && sets[node.set] == CodePointRanges{{0, 0x10FFFF}};
+}
+
+bool isAnyText(const Node& node, const SetTable& sets) {
+  return node.kind == Node::Kind::Repetition && node.min == 0 && node.max == unbounded &&
+         isEverything(node.children.front(), sets);
+}
+
+/// `node` without its first `count` children.
+Node withoutFirst(const Node& node, std::size_t count) {
+  Node rest{.kind = Node::Kind::Sequence};
+  rest.children.assign(node.children.begin() + static_cast<std::ptrdiff_t>(count),
+                       node.children.end());
+  return rest;
+}
+
+/// A look-ahead over [\s\S]* says that its body is found somewhere from here on. At the start of
+/// the text that is anywhere; and where it fails at the start it fails behind it. Nothing when the
+/// pattern is not made of such look-aheads.
+std::optional<Composition> lookAheadsOf(const Node& node, const SetTable& sets) {
+  if (node.kind == Node::Kind::LookAhead) {
+    Node sequence{.kind = Node::Kind::Sequence};
+    sequence.children.push_back(node);
+    return lookAheadsOf(sequence, sets);
+  }
+  if (node.kind != Node::Kind::Sequence || node.children.empty()) return std::nullopt;
+  const auto& children = node.children;
+  const bool anchored = children.front().kind == Node::Kind::TextStart;
+  std::size_t next = anchored ? 1 : 0;
+  Composition composition{.fromTextStart = true};
+  for (; next < children.size() && children[next].kind == Node::Kind::LookAhead; ++next) {
+    const Node& body = children[next].children.front();
+    if (body.kind != Node::Kind::Sequence || body.children.size() < 2 ||
+        !isAnyText(body.children.front(), sets))
+      return std::nullopt;
+    (children[next].negative ? composition.forbidden : composition.required)
+        .push_back(withoutFirst(body, 1));
+  }
+  if (composition.required.empty() && composition.forbidden.empty()) return std::nullopt;
+  if (next == children.size())
+    return anchored || composition.forbidden.empty() ? std::optional(composition) : std::nullopt;
+  if (!anchored || !isAnyText(children[next], sets) || !children[next].lazy ||
+      next + 1 == children.size())
+    return std::nullopt;
+  composition.main = withoutFirst(node, next + 1);
+  return composition;
+}
+
+// ---- The literals that lead to a search
+
+/// Collects the chains of all searches and the index of their literals.
+class ChainTables {
+ public:
+  explicit ChainTables(ClassSetPool& sets) : sets_(sets) {}
+
+  void add(std::uint32_t search, const LiteralChain& chain) {
+    const auto number = static_cast<std::uint32_t>(chains_.size());
+    chains_.emplace_back();
+    Chain added{.search = search,
+                .lead = chain.lead.steps,
+                .alternative = narrowed<std::uint16_t>(chain.alternative),
+                .leadClasses = sets_.intern(chain.leadClasses)};
+    for (std::size_t i = 0; i < chain.links.size(); ++i) {
+      const LiteralLink& link = chain.links[i];
+      const bool isFirst = i == 0;
+      const bool isLast = i + 1 == chain.links.size();
+      if (!isFirst) added.span = plus(added.span, link.distance);
+      LinkHit hit{.chain = number,
+                  .reach = static_cast<std::uint32_t>(linkCount_++),
+                  .distance = link.distance,
+                  .search = isFirst && added.lead == 0 ? search : none,
+                  .properties = static_cast<std::uint16_t>(
+                      (isFirst ? LinkHit::first : 0) | (isLast ? LinkHit::last : 0) |
+                      (link.boundaryBefore ? LinkHit::boundaryBefore : 0) |
+                      (link.boundaryAfter ? LinkHit::boundaryAfter : 0))};
+      for (const auto& literal : link.literals) {
+        hit.length = narrowed<std::uint16_t>(literal.size());
+        index_.add(literal, hitNumber(hit));
+      }
+    }
+    chains_[number] = added;
+  }
+
+  [[nodiscard]] LiteralIndexTable<Owned> index(const ClassPartition& classes) const {
+    return index_.build(classes);
+  }
+
+  void moveInto(ScreeningTable<Owned>& table) {
+    table.hits = std::move(hits_);
+    table.chains = std::move(chains_);
+    table.linkCount = linkCount_;
+  }
+
+ private:
+  /// Literals of one length in one link share a number.
+  std::uint32_t hitNumber(const LinkHit& hit) {
+    for (std::size_t i = hits_.size(); i-- > 0 && hits_[i].reach == hit.reach;)
+      if (hits_[i].length == hit.length) return static_cast<std::uint32_t>(i);
+    hits_.push_back(hit);
+    return static_cast<std::uint32_t>(hits_.size() - 1);
+  }
+
+  ClassSetPool& sets_;
+  LiteralIndexBuilder index_;
+  std::vector<LinkHit> hits_;
+  std::vector<Chain> chains_;
+  std::size_t linkCount_ = 0;
+};
+
+// ---- The first classes of those that no literal leads to
+
+class LeadingTables {
+ public:
+  LeadingTables(const ClassPartition& classes, const ClassSetPool& sets)
+      : classes_(classes), sets_(sets) {
+    frequencies_.assign(classes.count(), rareClass);
+    for (char32_t c = 0; c < 0x80; ++c)
+      frequencies_[classes.classOf(c)] += expectedFrequency(c);
+  }
+
+  /// Whether an alternative is found more cheaply by its first classes than by these chains.
+  [[nodiscard]] bool isCheaper(const PatternProgram<Owned>& program,
+                               std::span<const LiteralChain> chains) const {
+    const auto leading = leadingClasses(program, program.alternative(chains.front().alternative),
+                                        longestLeading, classes_, sets_);
+    if (leading.empty()) return false;
+    double cost = costOfRun;
+    for (const ClassBits& bits : leading) {
+      double frequency = 0;
+      for (std::size_t id = 0; id < classes_.count(); ++id)
+        if ((bits[id / 64] >> (id % 64) & 1) != 0) frequency += frequencies_[id];
+      cost *= std::min(frequency, 1.0);
+    }
+    cost += costOfLeadingBit * static_cast<double>(leading.size());
+    double costOfChains = 0;
+    for (const LiteralChain& chain : chains)
+      costOfChains += chain.cost;
+    return cost < costOfChains;
+  }
+
+  void add(std::uint32_t search, std::uint32_t alternative, const PatternProgram<Owned>& program) {
+    const ProgramEntry& entry = program.alternative(alternative);
+    auto leading = leadingClasses(program, entry, longestLeading, classes_, sets_);
+    if (leading.empty()) {
+      leading.push_back(sets_.bits(entry.beginning.classes));
+      if (entry.beginning.anything) {
+        std::fill(leading.front().begin(), leading.front().end(), ~std::uint64_t{0});
+        maybeEmpty_.push_back({.search = search, .alternative = alternative});
+      }
+    }
+    std::size_t bit = ends_.size();
+    if (bit % 64 + leading.size() > 64) bit += 64 - bit % 64;
+    ends_.resize(bit + leading.size());
+    classesOfBits_.resize(ends_.size());
+    initial_.resize(words());
+    final_.resize(words());
+    initial_[bit / 64] |= std::uint64_t{1} << (bit % 64);
+    std::move(leading.begin(), leading.end(),
+              classesOfBits_.begin() + static_cast<std::ptrdiff_t>(bit));
+    bit += leading.size() - 1;
+    final_[bit / 64] |= std::uint64_t{1} << (bit % 64);
+    ends_[bit] = {.search = search,
+                  .alternative = alternative,
+                  .length = static_cast<std::uint32_t>(leading.size())};
+  }
+
+  void moveInto(ScreeningTable<Owned>& table) {
+    table.leadingMasks.resize(classes_.count() * words());
+    for (std::size_t bit = 0; bit < classesOfBits_.size(); ++bit) {
+      const ClassBits& members = classesOfBits_[bit];
+      if (members.empty()) continue;
+      for (std::size_t id = 0; id < classes_.count(); ++id)
+        table.leadingMasks[id * words() + bit / 64] |= (members[id / 64] >> (id % 64) & 1)
+                                                       << (bit % 64);
+    }
+    table.leadingInitial = std::move(initial_);
+    table.leadingFinal = std::move(final_);
+    table.leadingEnds = std::move(ends_);
+    table.maybeEmpty = std::move(maybeEmpty_);
+  }
+
+ private:
+  [[nodiscard]] std::size_t words() const { return (classesOfBits_.size() + 63) / 64; }
+
+  const ClassPartition& classes_;
+  const ClassSetPool& sets_;
+  std::vector<double> frequencies_;  ///< of the members of a class, in an ordinary text
+  std::vector<ClassBits> classesOfBits_;
+  std::vector<std::uint64_t> initial_;
+  std::vector<std::uint64_t> final_;
+  std::vector<LeadingEnd> ends_;
+  std::vector<LeadingEnd> maybeEmpty_;
+};
+
+// ---- All together
+
+class Compiler {
+ public:
+  CompiledPatterns compile(std::span<const Pattern> patterns) {
+    for (std::size_t i = 0; i < patterns.size(); ++i) {
+      table_.forms.emplace_back();
+      try {
+        addPattern(i, parsePattern(patterns[i].expression, patterns[i].caseInsensitive, sets_));
+      } catch (const PatternError& error) {
+        leaveOut(i, error);
+      }
+    }
+    std::vector<char32_t> alphabet;
+    for (const Part& part : parts_)
+      collectAlphabet(part.node, sets_, alphabet);
+    ClassPartition classes(sets_, std::move(alphabet));
+    ClassSetPool classSets(classes.count());
+    ChainTables chains(classSets);
+    LeadingTables leading(classes, classSets);
+    for (const Part& part : parts_) {
+      table_.searches.push_back({.anyMatch = part.anyMatch});
+      programs_.emplace_back();
+      try {
+        programs_.back() = compileProgram(part.node, classes, classSets);
+        addWaysToFind(part.node, classes, chains, leading);
+      } catch (const PatternError& error) {
+        leaveOut(part.pattern, error);
+      }
+    }
+
+    LiteralIndexTable<Owned> index = chains.index(classes);
+    chains.moveInto(table_);
+    leading.moveInto(table_);
+    TableWriter writer;
+    classes.table().transfer(writer);
+    classSets.table().transfer(writer);
+    index.transfer(writer);
+    table_.transfer(writer);
+    for (PatternProgram<Owned>& program : programs_)
+      program.transfer(writer);
+    return {.tables = writer.bytes(), .problems = std::move(problems_)};
+  }
+
+ private:
+  void addPattern(std::size_t pattern, Node node) {
+    Composition composition;
+    if (auto lookAheads = lookAheadsOf(node, sets_)) {
+      composition = std::move(*lookAheads);
+    } else {
+      composition.main = std::move(node);
+    }
+    Form& form = table_.forms[pattern];
+    form = {.firstSearch = narrowed<std::uint16_t>(table_.formSearches.size()),
+            .required = narrowed<std::uint16_t>(composition.required.size()),
+            .forbidden = narrowed<std::uint16_t>(composition.forbidden.size()),
+            .fromTextStart = composition.fromTextStart};
+    const auto addPart = [&](Node part, bool anyMatch) {
+      parts_.push_back({.node = std::move(part), .anyMatch = anyMatch, .pattern = pattern});
+      return narrowed<std::uint16_t>(parts_.size() - 1);
+    };
+    for (std::vector<Node>* parts : {&composition.required, &composition.forbidden})
+      for (Node& part : *parts)
+        table_.formSearches.push_back(addPart(std::move(part), true));
+    if (composition.main) form.main = addPart(std::move(*composition.main), false);
+  }
+
+  void leaveOut(std::size_t pattern, const PatternError& error) {
+    table_.forms[pattern] = {.isUsable = false};
+    problems_.push_back({.pattern = pattern, .reason = error.what()});
+  }
+
+  /// Of the latest search.
+  void addWaysToFind(const Node& node, const ClassPartition& classes, ChainTables& chains,
+                     LeadingTables& leading) {
+    const auto search = static_cast<std::uint32_t>(programs_.size() - 1);
+    const PatternProgram<Owned>& program = programs_.back();
+    const RequiredLiterals required = requiredLiterals(node, sets_, classes);
+    for (const std::size_t alternative : required.withoutLiterals)
+      leading.add(search, static_cast<std::uint32_t>(alternative), program);
+    table_.searches.back().atTextStart = required.atTextStart;
+    for (auto first = required.chains.begin(); first != required.chains.end();) {
+      const auto isOther = [&](const LiteralChain& chain) {
+        return chain.alternative != first->alternative;
+      };
+      const auto last = std::find_if(first, required.chains.end(), isOther);
+      if (leading.isCheaper(program, {first, last})) {
+        leading.add(search, static_cast<std::uint32_t>(first->alternative), program);
+      } else {
+        for (const LiteralChain& chain : std::span(first, last))
+          chains.add(search, chain);
+      }
+      first = last;
+    }
+  }
+
+  SetTable sets_;
+  std::vector<Part> parts_;
+  std::vector<PatternProgram<Owned>> programs_;
+  ScreeningTable<Owned> table_;
+  std::vector<PatternProblem> problems_;
+};
+
+}  // namespace
+
+CompiledPatterns compilePatterns(std::span<const Pattern> patterns) {
+  return Compiler().compile(patterns);
+}
+
+}  // namespace quillseal::screening

@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <cstddef>
-#include <cstdio>
 #include <exception>
 #include <fstream>
 #include <iostream>
@@ -23,9 +22,8 @@ void writeSource(std::ostream& out, std::span<const std::byte> tables) {
     out << "\n    \"";
     for (const std::byte byte :
          tables.subspan(start, std::min(bytesOfLine, tables.size() - start))) {
-      char escape[5];
-      std::snprintf(escape, sizeof escape, "\\%03o", std::to_integer<unsigned>(byte));
-      out << escape;
+      const auto value = std::to_integer<unsigned>(byte);
+      out << '\\' << value / 64 << value / 8 % 8 << value % 8;
     }
     out << '"';
   }

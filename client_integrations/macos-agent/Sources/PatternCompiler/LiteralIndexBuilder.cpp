@@ -24,6 +24,7 @@ class SymbolCode {
  public:
   explicit SymbolCode(const std::map<Letter, std::size_t>& frequencies) {
     std::vector<std::pair<std::size_t, Letter>> byFrequency;
+    byFrequency.reserve(frequencies.size());
     for (const auto& [letter, frequency] : frequencies)
       byFrequency.emplace_back(frequency, letter);
     std::sort(byFrequency.rbegin(), byFrequency.rend());

@@ -104,5 +104,18 @@ TEST(UnicodeText, FindsTheCharactersThatIcuFinds) {
   }
 }
 
+// Each between neighbours that it must not be parted from if it is a mark, a joiner, a half of a
+// flag, a jamo or one that prepends.
+TEST(UnicodeText, KnowsWhereEveryScalarEnds) {
+  for (char32_t first = 0; first < 0x20000; first += 64) {
+    std::string text;
+    for (char32_t scalar = first; scalar < first + 64; ++scalar)
+      for (const char32_t part : {U'\uAC00', scalar, scalar, U'\uAC01', U'\n'})
+        append(text, part);
+    ASSERT_EQ(characterCount(text), charactersByIcu(text).size())
+        << "from " << static_cast<std::uint32_t>(first);
+  }
+}
+
 }  // namespace
 }  // namespace quillseal::unicode

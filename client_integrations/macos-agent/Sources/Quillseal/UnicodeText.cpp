@@ -33,25 +33,31 @@ bool isLineBreakPairAt(std::string_view text, std::size_t index) {
   return text[index] == '\r' && index + 1 < text.size() && text[index + 1] == '\n';
 }
 
+/// Inlined where whole texts are read.
+inline char32_t decodeNext(std::string_view text, std::size_t& position) {
+  UChar32 scalar = 0;
+  U8_NEXT_OR_FFFD(bytesOf(text), position, text.size(), scalar);
+  return static_cast<char32_t>(scalar);
+}
+
 UGraphemeClusterBreak breakClass(char32_t scalar) {
-  // The great blocks, whose members Unicode will not change, spare long texts the look-up.
-  if (scalar < 0x80) {
-    if (scalar >= 0x20 && scalar != 0x7F) return U_GCB_OTHER;
-    if (scalar == '\r') return U_GCB_CR;
-    return scalar == '\n' ? U_GCB_LF : U_GCB_CONTROL;
-  }
+  return static_cast<UGraphemeClusterBreak>(
+      u_getIntPropertyValue(static_cast<UChar32>(scalar), UCHAR_GRAPHEME_CLUSTER_BREAK));
+}
+
+/// Whether two of these, side by side, always belong to two characters. Only the great blocks
+/// count, whose members Unicode will not change: they spare long texts the look-up. (Of break class
+/// Other, Control, LV or LVT; CR is left out for the sake of CR LF.)
+inline bool isIndependent(char32_t scalar) {
   const auto isIn = [scalar](char32_t first, char32_t last) {
     return scalar >= first && scalar <= last;
   };
+  if (scalar < 0x300) return scalar != '\r';
+  if (scalar < 0x3000) return isIn(0x370, 0x482) || isIn(0x48A, 0x52F) || isIn(0x2010, 0x205F);
+  if (scalar < 0xA000) return !isIn(0x302A, 0x302F) && scalar != 0x3099 && scalar != 0x309A;
   constexpr char32_t lastBeforeSkinTones = 0x1F3FA;
-  if (isIn(0x4E00, 0x9FFF) || isIn(0x3001, 0x3029) || isIn(0x3041, 0x3096) ||
-      isIn(0x30A0, 0x30FF) || isIn(0xFF01, 0xFF9D) || isIn(0x1F300, lastBeforeSkinTones) ||
-      isIn(0x1F400, 0x1F64F))
-    return U_GCB_OTHER;
-  if (scalar >= 0xAC00 && scalar <= 0xD7A3)
-    return (scalar - 0xAC00) % 28 == 0 ? U_GCB_LV : U_GCB_LVT;
-  return static_cast<UGraphemeClusterBreak>(
-      u_getIntPropertyValue(static_cast<UChar32>(scalar), UCHAR_GRAPHEME_CLUSTER_BREAK));
+  return isIn(0xAC00, 0xD7A3) || isIn(0xFF01, 0xFF9D) || isIn(0x1F300, lastBeforeSkinTones) ||
+         isIn(0x1F400, 0x1F64F);
 }
 
 /// Whether one of class `after` can stand in one character with one of class `before`, where
@@ -76,6 +82,7 @@ bool mayJoin(UGraphemeClusterBreak before, UGraphemeClusterBreak after) {
 
 /// Whether there is a boundary between the two, whatever stands before them.
 bool areAlwaysApart(char32_t before, char32_t after) {
+  if (isIndependent(before) && isIndependent(after)) return true;
   if (before == '\r' && after == '\n') return false;
   const UGraphemeClusterBreak kind = breakClass(before);
   // A joiner or a mark may carry on what began before it.
@@ -119,8 +126,9 @@ std::size_t plainEnd(std::string_view text, std::size_t start) {
   std::size_t end = start;
   const char32_t scalar = nextScalar(text, end);
   if (end == text.size()) return end;
-  if (!mayJoin(breakClass(scalar), breakClass(firstScalar(text.substr(end))))) return end;
-  return endOfEmoji(text, start);
+  const char32_t next = firstScalar(text.substr(end));
+  if (isIndependent(scalar) && isIndependent(next)) return end;
+  return mayJoin(breakClass(scalar), breakClass(next)) ? endOfEmoji(text, start) : end;
 }
 
 struct CloseText {
@@ -149,9 +157,7 @@ bool isAscii(std::string_view text) noexcept {
 }
 
 char32_t nextScalar(std::string_view text, std::size_t& position) noexcept {
-  UChar32 scalar = 0;
-  U8_NEXT_OR_FFFD(bytesOf(text), position, text.size(), scalar);
-  return static_cast<char32_t>(scalar);
+  return decodeNext(text, position);
 }
 
 char32_t previousScalar(std::string_view text, std::size_t& position) noexcept {
@@ -312,25 +318,27 @@ std::string_view CharacterCursor::nextAsciiCharacters() {
 }
 
 std::size_t CharacterCursor::skipPlainCharacters(std::size_t most) {
-  if (position_ < stretchEnd_ || atEnd()) return 0;
+  if (position_ < stretchEnd_) return 0;
   std::size_t skipped = 0;
-  std::size_t behind = position_;
-  UGraphemeClusterBreak kind = breakClass(nextScalar(text_, behind));
-  for (; skipped < most && !atEnd(); ++skipped) {
-    std::size_t end = behind;
-    if (end < text_.size()) {
-      UGraphemeClusterBreak nextKind = breakClass(nextScalar(text_, behind));
-      if ((kind == U_GCB_CR && nextKind == U_GCB_LF) || mayJoin(kind, nextKind)) {
-        end = plainEnd(text_, position_);
-        if (end == position_) break;
-        behind = end;
-        if (end < text_.size()) nextKind = breakClass(nextScalar(text_, behind));
-      }
-      kind = nextKind;
-    }
+  while (skipped < most && !atEnd()) {
+    skipped += skipIndependentScalars(most - skipped);
+    const std::size_t end = plainEnd(text_, position_);
+    if (end == position_) break;
     position_ = end;
+    ++skipped;
   }
   return skipped;
+}
+
+std::size_t CharacterCursor::skipIndependentScalars(std::size_t most) {
+  std::size_t count = 0;
+  for (std::size_t end = position_; count < most && end < text_.size(); ++count) {
+    const std::size_t start = end;
+    if (!isIndependent(decodeNext(text_, end))) break;
+    position_ = start;
+  }
+  // Whether the last one is a character by itself depends on what follows.
+  return count > 0 ? count - 1 : 0;
 }
 
 std::size_t CharacterCursor::nextTableBoundary() {

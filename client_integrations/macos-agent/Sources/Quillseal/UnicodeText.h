@@ -91,6 +91,7 @@ class CharacterCursor {
   std::size_t skipPlainCharacters(std::size_t most);
 
  private:
+  std::size_t skipIndependentScalars(std::size_t most);
   [[nodiscard]] std::size_t nextTableBoundary();
 
   struct Tables;

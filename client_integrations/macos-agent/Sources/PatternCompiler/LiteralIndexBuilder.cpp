@@ -8,18 +8,12 @@ namespace {
 
 using Table = LiteralIndexTable<Owned>;
 using State = Table::State;
-using Symbol = std::uint8_t;
-
-// The commonest letters have a symbol each; any other is a pair of symbols, so that a row of the
-// automaton stays short however many scripts the literals use. Symbol 0 is every other character.
-constexpr std::size_t directLetters = 40;
-constexpr std::size_t pairBase = 36;
-constexpr std::size_t symbolTotal = 1 + directLetters + 2 * pairBase;
+using Symbol = Table::Symbol;
 
 /// Most of a text leads to states no deeper than this.
 constexpr std::uint32_t fullDepth = 2;
 
-/// The symbols of letters, chosen by how often the letters occur.
+/// The symbols of the letters, by descending frequency in the literals.
 class SymbolCode {
  public:
   explicit SymbolCode(const std::map<Letter, std::size_t>& frequencies) {
@@ -28,23 +22,19 @@ class SymbolCode {
     for (const auto& [letter, frequency] : frequencies)
       byFrequency.emplace_back(frequency, letter);
     std::sort(byFrequency.rbegin(), byFrequency.rend());
-    if (byFrequency.size() > directLetters + pairBase * pairBase)
-      throw PatternError("too many different letters");
-    for (std::size_t rank = 0; rank < byFrequency.size(); ++rank)
-      ranks_[byFrequency[rank].second] = rank;
+    for (const auto& [frequency, letter] : byFrequency)
+      symbols_.emplace(letter, static_cast<Symbol>(symbols_.size() + 1));
   }
 
-  [[nodiscard]] std::vector<Symbol> symbolsOf(Letter letter) const {
-    const auto rank = ranks_.find(letter);
-    if (rank == ranks_.end()) return {0};
-    if (rank->second < directLetters) return {static_cast<Symbol>(1 + rank->second)};
-    const std::size_t pair = rank->second - directLetters;
-    return {static_cast<Symbol>(1 + directLetters + pair / pairBase),
-            static_cast<Symbol>(1 + directLetters + pairBase + pair % pairBase)};
+  [[nodiscard]] Symbol symbolOf(Letter letter) const {
+    const auto symbol = symbols_.find(letter);
+    return symbol == symbols_.end() ? Symbol{0} : symbol->second;
   }
+  /// With that of every other character.
+  [[nodiscard]] std::size_t count() const { return symbols_.size() + 1; }
 
  private:
-  std::map<Letter, std::size_t> ranks_;
+  std::map<Letter, Symbol> symbols_;
 };
 
 /// The trie of the literals, with the links by which a failed search goes on.
@@ -52,20 +42,20 @@ class Trie {
  public:
   struct Node {
     std::vector<std::pair<Symbol, std::uint32_t>> children;
-    std::vector<std::uint32_t> values;
+    std::vector<std::uint16_t> values;
     std::uint32_t failure = 0;
     std::uint32_t depth = 0;
+    bool isFull = true;
 
     [[nodiscard]] std::uint32_t child(Symbol symbol) const {
       for (const auto& [own, node] : children)
         if (own == symbol) return node;
       return 0;
     }
-    [[nodiscard]] bool isFull() const { return depth <= fullDepth; }
     [[nodiscard]] bool isHit() const { return !values.empty(); }
   };
 
-  void add(std::span<const Symbol> symbols, std::uint32_t value) {
+  void add(std::span<const Symbol> symbols, std::uint16_t value) {
     std::uint32_t at = 0;
     for (const Symbol symbol : symbols) {
       std::uint32_t next = nodes_[at].child(symbol);
@@ -75,6 +65,8 @@ class Trie {
         nodes_[at].children.emplace_back(symbol, next);
         nodes_.emplace_back();
         nodes_[next].depth = nodes_[at].depth + 1;
+        nodes_[next].isFull =
+            nodes_[at].isFull && symbol < Table::columns && nodes_[next].depth <= fullDepth;
       }
       at = next;
     }
@@ -98,7 +90,7 @@ class Trie {
     }
     const auto rank = [this](std::uint32_t node) {
       const bool isHit = nodes_[node].isHit();
-      return nodes_[node].isFull() ? (isHit ? 1 : 0) : (isHit ? 2 : 3);
+      return nodes_[node].isFull ? (isHit ? 1 : 0) : (isHit ? 2 : 3);
     };
     std::stable_sort(order.begin(), order.end(),
                      [&](std::uint32_t a, std::uint32_t b) { return rank(a) < rank(b); });
@@ -120,57 +112,69 @@ class Trie {
 };
 
 void fillSymbols(Table& table, const SymbolCode& code, const ClassPartition& classes) {
-  for (std::size_t id = 0; id < classes.count(); ++id) {
-    std::vector<Symbol> sequence;
+  for (std::size_t i = 0; i < classes.count(); ++i) {
+    const auto id = static_cast<ClassId>(i);
     const Letter space[] = {classes.spaceLetter()};
-    const auto letters = classes.isSpace(static_cast<ClassId>(id))
-                             ? std::span<const Letter>(space)
-                             : classes.folding(static_cast<ClassId>(id));
-    for (const Letter letter : letters) {
-      const auto symbols = code.symbolsOf(letter);
-      sequence.insert(sequence.end(), symbols.begin(), symbols.end());
-    }
-    const bool isSingle = sequence.size() == 1;
-    table.symbols.push_back({.single = isSingle ? sequence.front() : Table::several,
-                             .length = static_cast<std::uint8_t>(sequence.size()),
-                             .first = static_cast<std::uint16_t>(table.sequences.size())});
-    if (!isSingle) table.sequences.insert(table.sequences.end(), sequence.begin(), sequence.end());
+    const auto letters = classes.isSpace(id) ? std::span<const Letter>(space) : classes.folding(id);
+    table.symbols.push_back(letters.size() == 1 ? code.symbolOf(letters.front()) : Table::several);
+    if (letters.size() == 1) continue;
+    table.sequences.push_back({.id = id,
+                               .first = static_cast<std::uint16_t>(table.letters.size()),
+                               .count = static_cast<std::uint16_t>(letters.size())});
+    for (const Letter letter : letters)
+      table.letters.push_back(code.symbolOf(letter));
   }
 }
 
-void fillStates(Table& table, Trie& trie) {
+/// The edges of the node and of all it falls back on, down to one with a row that has the rest.
+/// Those of the root for symbols without a column are in a row of their own.
+void addEdges(Table& table, const Trie& trie, std::uint32_t number,
+              const std::vector<State>& numbers) {
+  std::map<Symbol, State> edges;
+  std::uint32_t fallback = 0;
+  for (std::uint32_t at = number; at != 0; at = trie.node(at).failure) {
+    if (fallback == 0 && trie.node(at).isFull) fallback = at;
+    for (const auto& [symbol, child] : trie.node(at).children)
+      if (fallback == 0 || symbol >= Table::columns) edges.emplace(symbol, numbers[child]);
+  }
+  table.states.push_back({.first = static_cast<std::uint32_t>(table.edges.size()),
+                          .count = static_cast<std::uint16_t>(edges.size()),
+                          .fallback = numbers[fallback]});
+  for (const auto& [symbol, target] : edges)
+    table.edges.push_back({.symbol = symbol, .target = target});
+}
+
+void fillStates(Table& table, Trie& trie, std::size_t symbolCount) {
   const std::vector<std::uint32_t> order = trie.finish();
   std::vector<State> numbers(trie.size());
   for (std::size_t i = 0; i < order.size(); ++i)
     numbers[order[i]] = static_cast<State>(i);
   auto& layout = table.layout;
-  layout.symbolCount = symbolTotal;
   layout.root = numbers[0];
+  const auto stateAfter = [&](std::uint32_t node, std::size_t symbol) {
+    return numbers[trie.after(node, static_cast<Symbol>(symbol))];
+  };
+  for (std::size_t symbol = 0; symbol < symbolCount; ++symbol)
+    table.rootRow.push_back(stateAfter(0, symbol));
   for (const std::uint32_t number : order) {
     const Trie::Node& node = trie.node(number);
-    if (node.isFull()) {
+    if (node.isFull) {
       ++layout.fullCount;
-      for (std::size_t symbol = 0; symbol < symbolTotal; ++symbol)
-        table.full.push_back(numbers[trie.after(number, static_cast<Symbol>(symbol))]);
-    } else {
-      table.sparse.push_back({.firstEdge = static_cast<std::uint16_t>(table.edges.size()),
-                              .failure = numbers[node.failure]});
-      for (const auto& [symbol, child] : node.children)
-        table.edges.push_back({.symbol = symbol, .target = numbers[child]});
+      for (std::size_t symbol = 0; symbol < Table::columns; ++symbol)
+        table.rows.push_back(stateAfter(number, symbol));
     }
+    addEdges(table, trie, number, numbers);
     if (!node.isHit()) continue;
     if (layout.hitCount++ == 0) layout.firstHit = numbers[number];
     table.valueStarts.push_back(static_cast<std::uint32_t>(table.values.size()));
     table.values.insert(table.values.end(), node.values.begin(), node.values.end());
   }
-  table.sparse.push_back(
-      {.firstEdge = static_cast<std::uint16_t>(table.edges.size()), .failure = layout.root});
   table.valueStarts.push_back(static_cast<std::uint32_t>(table.values.size()));
 }
 
 }  // namespace
 
-void LiteralIndexBuilder::add(std::span<const Letter> literal, std::uint32_t value) {
+void LiteralIndexBuilder::add(std::span<const Letter> literal, std::uint16_t value) {
   literals_.push_back({.letters = {literal.begin(), literal.end()}, .value = value});
 }
 
@@ -185,13 +189,12 @@ LiteralIndexTable<Owned> LiteralIndexBuilder::build(const ClassPartition& classe
   Trie trie;
   for (const auto& [letters, value] : literals_) {
     std::vector<Symbol> symbols;
-    for (const Letter letter : letters) {
-      const auto more = code.symbolsOf(letter);
-      symbols.insert(symbols.end(), more.begin(), more.end());
-    }
+    symbols.reserve(letters.size());
+    for (const Letter letter : letters)
+      symbols.push_back(code.symbolOf(letter));
     trie.add(symbols, value);
   }
-  fillStates(table, trie);
+  fillStates(table, trie, code.count());
   return table;
 }
 

@@ -15,7 +15,7 @@ namespace quillseal::screening {
 class LiteralIndexBuilder {
  public:
   /// `value` is reported where `literal` (not empty, without `otherLetter`) ends.
-  void add(std::span<const Letter> literal, std::uint32_t value);
+  void add(std::span<const Letter> literal, std::uint16_t value);
 
   /// The automaton over what was added. Throws PatternError when it is too large.
   [[nodiscard]] LiteralIndexTable<Owned> build(const ClassPartition& classes) const;
@@ -23,7 +23,7 @@ class LiteralIndexBuilder {
  private:
   struct Literal {
     std::vector<Letter> letters;
-    std::uint32_t value;
+    std::uint16_t value;
   };
 
   std::vector<Literal> literals_;

@@ -28,14 +28,14 @@ class Compiler {
     add({.operation = Operation::Accept});
     known_.resize(program_.code.size());
     for (ProgramEntry& target : program_.targets)
-      target.beginning = beginningAt(target.instruction);
+      target.beginning = kept(startAt(target.instruction));
     for (std::size_t i = 0; i < program_.code.size(); ++i) {
       Instruction& instruction = program_.code[i];
       if (instruction.operation == Operation::GreedyLoop ||
           instruction.operation == Operation::LazyLoop)
-        instruction.first = keep(beginningAt(static_cast<std::uint32_t>(i + 1)));
+        instruction.first = numberOf(kept(startAt(static_cast<std::uint32_t>(i + 1))));
     }
-    program_.entries.push_back({.instruction = 0, .beginning = beginningAt(0)});
+    program_.entries.push_back({.instruction = 0, .beginning = kept(startAt(0))});
     if (pattern.kind == Node::Kind::Alternatives)
       for (std::size_t i = 0; i < pattern.children.size(); ++i)
         program_.entries.push_back(program_.targets[i]);
@@ -61,9 +61,7 @@ class Compiler {
       case Node::Kind::FoldedText:
         add({.operation = Operation::FoldedText,
              .count = counted(node.text.size()),
-             .first = counted(program_.letters.size())});
-        for (const char32_t c : node.text)
-          program_.letters.push_back(classes_.letterOf(c));
+             .first = lettersOf(node.text)});
         break;
       case Node::Kind::Sequence:
         for (const Node& child : node.children)
@@ -100,6 +98,18 @@ class Compiler {
              .set = setOf(node.set)});
         break;
     }
+  }
+
+  /// Where the letters stand, which are kept once.
+  std::uint16_t lettersOf(const std::u32string& text) {
+    std::vector<Letter> letters;
+    for (const char32_t c : text)
+      letters.push_back(classes_.letterOf(c));
+    auto& all = program_.letters;
+    const auto known = std::search(all.begin(), all.end(), letters.begin(), letters.end());
+    const std::uint16_t first = counted(static_cast<std::size_t>(known - all.begin()));
+    if (known == all.end()) all.insert(all.end(), letters.begin(), letters.end());
+    return first;
   }
 
   void emitAlternatives(const Node& node) {
@@ -178,68 +188,77 @@ class Compiler {
     return sets_.intern({bits.begin(), bits.end()});
   }
 
+  /// A `Beginning` whose set need not be kept.
+  struct Start {
+    ClassBits classes;
+    bool anything = false;
+    bool atBoundary = false;
+  };
+
   // No cycle is followed: the body of a loop takes at least one code point.
-  Beginning beginningAt(std::uint32_t index) {
-    if (!known_[index]) known_[index] = beginningOf(index);
+  const Start& startAt(std::uint32_t index) {
+    if (!known_[index]) known_[index] = startOf(index);
     return *known_[index];
   }
 
-  Beginning beginningOf(std::uint32_t index) {
+  Start startOf(std::uint32_t index) {
     const Instruction& instruction = program_.code[index];
     switch (instruction.operation) {
       case Operation::Set:
-        return {.classes = instruction.set};
+        return {.classes = sets_.bits(instruction.set)};
       case Operation::FoldedText: {
-        ClassBits classes(sets_.words());
+        Start start{.classes = ClassBits(sets_.words())};
         for (const ClassId id : classes_.classesWith(program_.letters[instruction.first]))
           if (classes_.folding(id).front() == program_.letters[instruction.first])
-            setClass(classes, id);
-        return {.classes = sets_.intern(classes)};
+            setClass(start.classes, id);
+        return start;
       }
       case Operation::Choice: {
-        ClassBits classes(sets_.words());
-        Beginning all{.atBoundary = true};
-        for (std::uint32_t i = 0; i < instruction.count; ++i) {
-          const Beginning one = beginningAt(program_.targets[instruction.first + i].instruction);
-          unite(classes, sets_.bits(one.classes));
-          all.anything = all.anything || one.anything;
-          all.atBoundary = all.atBoundary && one.atBoundary;
-        }
-        all.classes = sets_.intern(classes);
+        Start all{.classes = ClassBits(sets_.words()), .atBoundary = true};
+        for (std::uint32_t i = 0; i < instruction.count; ++i)
+          all =
+              either(std::move(all), startAt(program_.targets[instruction.first + i].instruction));
         return all;
       }
       case Operation::GreedyLoop:
       case Operation::LazyLoop: {
-        const Beginning body{.classes = instruction.set};
-        return instruction.count > 0 ? body : either(body, beginningAt(index + 1));
+        Start body{.classes = sets_.bits(instruction.set)};
+        return instruction.count > 0 ? body : either(std::move(body), startAt(index + 1));
       }
       case Operation::Jump:
       case Operation::LookAhead:
       case Operation::NegativeLookAhead:
-        return beginningAt(instruction.first);
+        return startAt(instruction.first);
       case Operation::WordBoundary: {
-        Beginning beginning = beginningAt(index + 1);
-        beginning.atBoundary = true;
-        return beginning;
+        Start start = startAt(index + 1);
+        start.atBoundary = true;
+        return start;
       }
       case Operation::Accept:
       case Operation::TextEnd:
       case Operation::AbsoluteEnd:
-        return {.classes = sets_.intern(ClassBits(sets_.words())), .anything = true};
+        return {.classes = ClassBits(sets_.words()), .anything = true};
       default:
-        return beginningAt(index + 1);
+        return startAt(index + 1);
     }
   }
 
-  Beginning either(const Beginning& one, const Beginning& other) {
-    ClassBits classes = sets_.bits(one.classes);
-    unite(classes, sets_.bits(other.classes));
-    return {.classes = sets_.intern(classes),
-            .anything = one.anything || other.anything,
-            .atBoundary = one.atBoundary && other.atBoundary};
+  static Start either(Start one, const Start& other) {
+    unite(one.classes, other.classes);
+    one.anything = one.anything || other.anything;
+    one.atBoundary = one.atBoundary && other.atBoundary;
+    return one;
   }
 
-  std::uint16_t keep(const Beginning& beginning) {
+  Beginning kept(const Start& start) {
+    const ClassBits& classes = start.anything ? ClassBits(sets_.words()) : start.classes;
+    return {.classes = sets_.intern(classes),
+            .anything = start.anything,
+            .atBoundary = start.atBoundary};
+  }
+
+  /// Its place in `beginnings`.
+  std::uint16_t numberOf(const Beginning& beginning) {
     auto& all = program_.beginnings;
     const auto found = std::find(all.begin(), all.end(), beginning);
     if (found != all.end()) return static_cast<std::uint16_t>(found - all.begin());
@@ -250,7 +269,7 @@ class Compiler {
   PatternProgram<Owned> program_;
   const ClassPartition& classes_;
   ClassSetPool& sets_;
-  std::vector<std::optional<Beginning>> known_;
+  std::vector<std::optional<Start>> known_;
 };
 
 }  // namespace

@@ -16,7 +16,7 @@ using Way = std::vector<const Node*>;
 
 constexpr std::size_t mostLiterals = 128;
 /// Neighbouring texts are joined to longer literals while these are at most so many.
-constexpr std::size_t mostJoined = 16;
+constexpr std::size_t mostJoined = 64;
 /// Ways that are told apart within one alternative of a pattern.
 constexpr std::size_t mostWays = 2;
 constexpr std::size_t mostLinks = 4;
@@ -26,9 +26,10 @@ constexpr std::size_t mostLinks = 4;
 constexpr double frequencyLimits[] = {1, 0.01, 0.003, 0.001, 0.0003};
 
 // What finding a match costs, in units of one literal met in the text.
-constexpr double costOfChain = 2;   ///< a chain that is complete
-constexpr double costOfStart = 2;   ///< a place where a match might start
-constexpr double costOfMatch = 20;  ///< a run of the matcher
+constexpr double costOfFirstLink = 3;  ///< which has to be remembered
+constexpr double costOfChain = 2;      ///< a chain that is complete
+constexpr double costOfStart = 2;      ///< a place where a match might start
+constexpr double costOfMatch = 20;     ///< a run of the matcher
 
 std::size_t shortest(const Literals& literals) {
   std::size_t length = literals.front().size();
@@ -259,8 +260,8 @@ class Analysis {
     double complete = 1;
     for (const LiteralLink& link : chain.links) {
       const double frequency = alphabet_.frequencyOf(link.literals);
-      cost += frequency;
       const bool isFirst = &link == &chain.links.front();
+      cost += isFirst ? costOfFirstLink * frequency : frequency;
       complete *= isFirst ? frequency : std::min(1.0, frequency * charactersOf(link.distance));
     }
     return cost + complete * (costOfChain + costOfMatch + costOfStart * charactersOf(chain.lead));

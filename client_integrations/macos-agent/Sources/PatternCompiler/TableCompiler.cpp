@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <map>
 #include <optional>
 
 #include "PatternCompiler/ClassPartition.h"
@@ -104,28 +105,30 @@ class ChainTables {
   explicit ChainTables(ClassSetPool& sets) : sets_(sets) {}
 
   void add(std::uint32_t search, const LiteralChain& chain) {
-    const auto number = static_cast<std::uint32_t>(chains_.size());
+    const auto number = narrowed<std::uint16_t>(chains_.size());
     chains_.emplace_back();
     Chain added{.search = search,
                 .lead = chain.lead.steps,
                 .alternative = narrowed<std::uint16_t>(chain.alternative),
                 .leadClasses = sets_.intern(chain.leadClasses)};
+    std::size_t hitsBefore = hits_.size();
     for (std::size_t i = 0; i < chain.links.size(); ++i) {
       const LiteralLink& link = chain.links[i];
       const bool isFirst = i == 0;
-      const bool isLast = i + 1 == chain.links.size();
       if (!isFirst) added.span = plus(added.span, link.distance);
-      LinkHit hit{.chain = number,
-                  .reach = static_cast<std::uint32_t>(linkCount_++),
-                  .distance = link.distance,
-                  .search = isFirst && added.lead == 0 ? search : none,
-                  .properties = static_cast<std::uint16_t>(
-                      (isFirst ? LinkHit::first : 0) | (isLast ? LinkHit::last : 0) |
-                      (link.boundaryBefore ? LinkHit::boundaryBefore : 0) |
-                      (link.boundaryAfter ? LinkHit::boundaryAfter : 0))};
-      for (const auto& literal : link.literals) {
-        hit.length = narrowed<std::uint16_t>(literal.size());
-        index_.add(literal, hitNumber(hit));
+      const std::size_t hits = hits_.size();
+      addLink(link, {.distance = link.distance,
+                     .chain = number,
+                     .search = isFirst && added.lead == 0 ? narrowed<std::uint16_t>(search)
+                                                          : LinkHit::noSearch,
+                     .reach = narrowed<std::uint16_t>(linkCount_++),
+                     .properties = static_cast<std::uint8_t>(
+                         (isFirst ? LinkHit::first : 0) |
+                         (link.boundaryBefore ? LinkHit::boundaryBefore : 0) |
+                         (link.boundaryAfter ? LinkHit::boundaryAfter : 0))});
+      for (; hitsBefore < hits; ++hitsBefore) {
+        hits_[hitsBefore].nextHit = narrowed<std::uint16_t>(hits);
+        hits_[hitsBefore].nextCount = narrowed<std::uint16_t>(hits_.size() - hits);
       }
     }
     chains_[number] = added;
@@ -136,18 +139,28 @@ class ChainTables {
   }
 
   void moveInto(ScreeningTable<Owned>& table) {
+    table.firstHits.resize(hits_.size() / 64 + 1);
+    for (std::size_t hit = 0; hit < hits_.size(); ++hit)
+      if (hits_[hit].has(LinkHit::first))
+        table.firstHits[hit / 64] |= std::uint64_t{1} << (hit % 64);
     table.hits = std::move(hits_);
     table.chains = std::move(chains_);
     table.linkCount = linkCount_;
   }
 
  private:
-  /// Literals of one length in one link share a number.
-  std::uint32_t hitNumber(const LinkHit& hit) {
-    for (std::size_t i = hits_.size(); i-- > 0 && hits_[i].reach == hit.reach;)
-      if (hits_[i].length == hit.length) return static_cast<std::uint32_t>(i);
-    hits_.push_back(hit);
-    return static_cast<std::uint32_t>(hits_.size() - 1);
+  /// Literals of one length share a hit.
+  void addLink(const LiteralLink& link, LinkHit hit) {
+    std::map<std::size_t, std::uint16_t> hitOfLength;
+    for (const Literal& literal : link.literals) {
+      const auto [known, isNew] =
+          hitOfLength.try_emplace(literal.size(), narrowed<std::uint16_t>(hits_.size()));
+      if (isNew) {
+        hit.length = narrowed<std::uint8_t>(literal.size());
+        hits_.push_back(hit);
+      }
+      index_.add(literal, known->second);
+    }
   }
 
   ClassSetPool& sets_;

@@ -3,10 +3,10 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <memory>
 #include <span>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 #include "Quillseal/StoredTables.h"
 
@@ -26,10 +26,11 @@ inline constexpr std::uint32_t unbounded = std::numeric_limits<std::uint32_t>::m
 /// A text as the patterns see it: one element for each code point and one more for the end.
 class ClassifiedText {
  public:
-  explicit ClassifiedText(std::vector<ClassId> elements) : elements_(std::move(elements)) {}
+  ClassifiedText(std::unique_ptr<ClassId[]> elements, std::size_t size)
+      : elements_(std::move(elements)), size_(size) {}
 
   /// The number of code points.
-  [[nodiscard]] std::size_t size() const { return elements_.size() - 1; }
+  [[nodiscard]] std::size_t size() const { return size_; }
   /// The class of the code point at `position`; `endClass` behind the last one.
   [[nodiscard]] ClassId classAt(std::size_t position) const {
     return elements_[position] & classMask;
@@ -44,7 +45,8 @@ class ClassifiedText {
   static constexpr ClassId classMask = 0x7FFF;
 
  private:
-  std::vector<ClassId> elements_;
+  std::unique_ptr<ClassId[]> elements_;
+  std::size_t size_;
 };
 
 /// A set of classes, by its place in `ClassSets`.

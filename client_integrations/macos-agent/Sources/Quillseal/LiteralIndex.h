@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -9,47 +10,56 @@
 
 namespace quillseal::screening {
 
-/// An automaton over symbols, of which every class of code points is one, none or several.
+/// An automaton over symbols: the letters of the literals, commonest first, behind 0 for any other
+/// character.
 template <template <typename> typename Array>
 struct LiteralIndexTable {
   using State = std::uint16_t;
+  using Symbol = std::uint16_t;
 
-  /// The symbols of a class: one, or `length` of `sequences`.
-  struct Symbols {
-    std::uint8_t single;  ///< or `several`
-    std::uint8_t length;
-    std::uint16_t first;
+  /// Symbols below this have a column in the rows of full states.
+  static constexpr std::size_t columns = 64;
+  /// In `symbols`: more than one, which `sequences` has.
+  static constexpr Symbol several = 0xFFFF;
+
+  /// The symbols of a class that folds to several letters.
+  struct Sequence {
+    ClassId id;
+    std::uint16_t first;  ///< in `letters`
+    std::uint16_t count;
   };
-  static constexpr std::uint8_t several = 0xFF;
-
   // Full states come first, and states with hits stand together where the two kinds meet.
   struct Layout {
-    State symbolCount = 1;
     State root = 0;
     State fullCount = 0;
     State firstHit = 0;
     State hitCount = 0;
   };
-  struct SparseState {
-    std::uint16_t firstEdge;
-    State failure;
+  /// What a state knows by itself. A full state has a row besides, so that its edges are those of
+  /// symbols without a column.
+  struct Edges {
+    std::uint32_t first;
+    std::uint16_t count;
+    State fallback;  ///< the full state whose row has the other symbols with a column
   };
   struct Edge {
-    std::uint16_t symbol;
+    Symbol symbol;
     State target;
   };
 
   Layout layout;
-  Array<Symbols> symbols;
-  Array<std::uint8_t> sequences;
-  Array<State> full;          ///< the successors of each full state
-  Array<SparseState> sparse;  ///< and one more for the end of the last one's edges
+  Array<Symbol> symbols;      ///< by class
+  Array<Sequence> sequences;  ///< by ascending class
+  Array<Symbol> letters;
+  Array<State> rows;     ///< the successors of each full state
+  Array<State> rootRow;  ///< those of the root, for every symbol
+  Array<Edges> states;
   Array<Edge> edges;
   Array<std::uint32_t> valueStarts;  ///< by hit, and the end
-  Array<std::uint32_t> values;
+  Array<std::uint16_t> values;
 
   void transfer(auto& archive) {
-    archive(layout, symbols, sequences, full, sparse, edges, valueStarts, values);
+    archive(layout, symbols, sequences, letters, rows, rootRow, states, edges, valueStarts, values);
   }
 };
 
@@ -57,8 +67,7 @@ struct LiteralIndexTable {
 /// "Efficient string matching", 1975). Literals are over folded letters; a code point that folds to
 /// several letters counts as all of them. The blank in a literal stands for any run of white space:
 /// of such a run, only the first code point is to be passed to `advance`. States near the root have
-/// a full row of successors, the many others only their own and a link to the state that goes on
-/// for them.
+/// a full row of successors; the many others have few that are not those of such a state, too.
 class LiteralIndex {
  public:
   using Table = LiteralIndexTable<Stored>;
@@ -69,13 +78,13 @@ class LiteralIndex {
   /// Where a pass begins.
   [[nodiscard]] State root() const { return table_.layout.root; }
 
+  /// Whether a code point of class `id` is several letters.
+  [[nodiscard]] bool isSeveral(ClassId id) const { return table_.symbols[id] == Table::several; }
+
   /// The state after a code point of class `id`.
   [[nodiscard]] State advance(State state, ClassId id) const {
-    const Table::Symbols symbols = table_.symbols[id];
-    if (symbols.single != Table::several) return after(state, symbols.single);
-    for (std::uint32_t i = 0; i < symbols.length; ++i)
-      state = after(state, table_.sequences[symbols.first + i]);
-    return state;
+    const Table::Symbol symbol = table_.symbols[id];
+    return symbol != Table::several ? after(state, symbol) : afterSeveral(state, id);
   }
 
   /// Whether a literal ends in this state.
@@ -84,22 +93,33 @@ class LiteralIndex {
   }
 
   /// The values of the literals that end here. REQUIRES: isHit(state).
-  [[nodiscard]] std::span<const std::uint32_t> values(State state) const {
+  [[nodiscard]] std::span<const std::uint16_t> values(State state) const {
     const std::size_t hit = state - table_.layout.firstHit;
     const std::uint32_t start = table_.valueStarts[hit];
     return table_.values.subspan(start, table_.valueStarts[hit + 1] - start);
   }
 
  private:
-  [[nodiscard]] State after(State state, std::uint8_t symbol) const {
-    while (state >= table_.layout.fullCount) {
-      const Table::SparseState& sparse = table_.sparse[state - table_.layout.fullCount];
-      const std::uint32_t end = (&sparse)[1].firstEdge;
-      for (std::uint32_t edge = sparse.firstEdge; edge < end; ++edge)
-        if (table_.edges[edge].symbol == symbol) return table_.edges[edge].target;
-      state = sparse.failure;
+  [[nodiscard]] State after(State state, Table::Symbol symbol) const {
+    const bool hasColumn = symbol < Table::columns;
+    if (!hasColumn || state >= table_.layout.fullCount) {
+      const Table::Edges& edges = table_.states[state];
+      const Table::Edge* edge = table_.edges.data() + edges.first;
+      for (const Table::Edge* const end = edge + edges.count; edge != end; ++edge)
+        if (edge->symbol == symbol) return edge->target;
+      if (!hasColumn) return table_.rootRow[symbol];
+      state = edges.fallback;
     }
-    return table_.full[std::size_t{state} * table_.layout.symbolCount + symbol];
+    return table_.rows[state * Table::columns + symbol];
+  }
+
+  [[nodiscard]] State afterSeveral(State state, ClassId id) const {
+    const auto sequence =
+        std::lower_bound(table_.sequences.begin(), table_.sequences.end(), id,
+                         [](const Table::Sequence& one, ClassId other) { return one.id < other; });
+    for (const Table::Symbol symbol : table_.letters.subspan(sequence->first, sequence->count))
+      state = after(state, symbol);
+    return state;
   }
 
   Table table_;

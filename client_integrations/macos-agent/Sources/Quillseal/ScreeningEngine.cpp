@@ -35,17 +35,20 @@ class ScreeningEngine::Screening {
       : tables_(tables), table_(tables.table), text_(tables.classes.classify(text)) {
     outcomes_.resize(table_.searches.size());
     progress_.resize(table_.chains.size());
-    reached_.assign(table_.linkCount, {.steps = never, .runs = never});
+    place_.state = tables.index.root();
+    leading_.resize(table_.leadingInitial.size());
+    armed_.assign(table_.firstHits.begin(), table_.firstHits.end());
+    reached_.resize(table_.linkCount);
   }
 
   void run() {
     for (std::uint32_t search = 0; search < table_.searches.size(); ++search)
       if (table_.searches[search].atTextStart)
         tryAt(search, 0, tables_.programs[search].whole(), 0);
-    if (!table_.leadingInitial.empty()) {
-      pass<true>();
-    } else {
-      pass<false>();
+    for (std::size_t start = 0; start < text_.size(); start += stretch) {
+      const std::size_t end = std::min(start + stretch, text_.size());
+      findLeadingClasses(start, end);
+      findLiterals(start, end);
     }
     // An empty match behind the last code point has no code point to be found by.
     for (const LeadingEnd& end : table_.maybeEmpty)
@@ -90,12 +93,14 @@ class ScreeningEngine::Screening {
   [[nodiscard]] std::size_t size() const { return text_.size(); }
 
  private:
-  static constexpr std::int64_t never = std::numeric_limits<std::int64_t>::min() / 2;
+  /// So many code points are searched for leading classes, then for literals, so that starts keep
+  /// ascending, more or less.
+  static constexpr std::size_t stretch = 1024;
 
   /// How far the pass has come, in the two measures of `Distance`.
   struct Progressed {
-    std::int64_t steps = 0;
-    std::int64_t runs = 0;
+    std::uint32_t steps = 0;
+    std::uint32_t runs = 0;
   };
 
   struct Outcome {
@@ -104,6 +109,14 @@ class ScreeningEngine::Screening {
     std::uint32_t alternative = 0;
     std::uint32_t end = 0;
     bool failed = false;
+  };
+
+  /// Where the search for literals stands.
+  struct Place {
+    LiteralIndex::State state = 0;
+    Progressed progressed{};
+    bool afterSpace = false;
+    bool afterWord = false;
   };
 
   /// A first link that waits for the rest of its chain.
@@ -121,76 +134,101 @@ class ScreeningEngine::Screening {
     std::uint32_t triedHigh = 0;
   };
 
-  template <bool withLeading>
-  void pass() {
-    const LiteralIndex& index = tables_.index;
-    std::vector<std::uint64_t> leading(table_.leadingInitial.size());
-    LiteralIndex::State state = index.root();
-    bool afterSpace = false;
-    bool afterWord = false;
-    const std::size_t size = text_.size();
-    for (std::size_t i = 0; i < size; ++i) {
+  void findLiterals(std::size_t from, std::size_t to) {
+    const LiteralIndex index = tables_.index;
+    const CharacterClasses classes = tables_.classes;
+    Place place = place_;
+    for (std::size_t i = from; i < to; ++i) {
       const ClassId id = text_.classAt(i);
-      const bool isSpace = tables_.classes.isSpace(id);
-      const bool isWord = tables_.classes.isWord(id);
-      if constexpr (withLeading) advanceLeading(leading, id, i);
-      if (isSpace && afterSpace) continue;
-      now_.steps += 1;
-      now_.runs += isWord && afterWord ? 0 : 1;
-      afterSpace = isSpace;
-      afterWord = isWord;
-      state = index.advance(state, id);
-      if (index.isHit(state)) {
-        for (const std::uint32_t value : index.values(state))
-          onHit(table_.hits[value], i + 1);
+      const bool isSpace = classes.isSpace(id);
+      const bool isWord = classes.isWord(id);
+      if (isSpace && place.afterSpace) {
+        regularFrom_ = i + 1;
+        continue;
       }
+      if (index.isSeveral(id)) regularFrom_ = i + 1;
+      place.progressed.steps += 1;
+      place.progressed.runs += isWord && place.afterWord ? 0 : 1;
+      place.afterSpace = isSpace;
+      place.afterWord = isWord;
+      place.state = index.advance(place.state, id);
+      if (!index.isHit(place.state)) continue;
+      now_ = place.progressed;
+      for (const std::uint16_t hit : index.values(place.state))
+        if (isArmed(hit)) onHit(hit, i + 1);
     }
+    place_ = place;
   }
 
-  void advanceLeading(std::vector<std::uint64_t>& state, ClassId id, std::size_t position) {
-    const std::uint64_t* const masks = &table_.leadingMasks[id * state.size()];
-    for (std::size_t word = 0; word < state.size(); ++word) {
-      state[word] = (state[word] << 1 | table_.leadingInitial[word]) & masks[word];
-      for (std::uint64_t ends = state[word] & table_.leadingFinal[word]; ends != 0;
-           ends &= ends - 1) {
-        const auto bit = word * 64 + static_cast<std::size_t>(std::countr_zero(ends));
-        const auto& end = table_.leadingEnds[bit];
-        tryAlternative(end.search, end.alternative,
-                       static_cast<std::uint32_t>(position + 1 - end.length));
+  // Most hits cannot matter: those of a link whose predecessor has not been met or is too far
+  // behind, and first links behind the match that is known already. They are disarmed until that
+  // changes.
+
+  [[nodiscard]] bool isArmed(std::size_t hit) const {
+    return (armed_[hit / 64] >> (hit % 64) & 1) != 0;
+  }
+  void arm(std::size_t hit) { armed_[hit / 64] |= std::uint64_t{1} << (hit % 64); }
+  void disarm(std::size_t hit) { armed_[hit / 64] &= ~(std::uint64_t{1} << (hit % 64)); }
+
+  void findLeadingClasses(std::size_t from, std::size_t to) {
+    const std::size_t words = leading_.size();
+    for (std::size_t word = 0; word < words; ++word) {
+      const std::uint64_t* const masks = table_.leadingMasks.data() + word;
+      const std::uint64_t initial = table_.leadingInitial[word];
+      const std::uint64_t final = table_.leadingFinal[word];
+      std::uint64_t state = leading_[word];
+      for (std::size_t i = from; i < to; ++i) {
+        state = (state << 1 | initial) & masks[text_.classAt(i) * words];
+        for (std::uint64_t ends = state & final; ends != 0; ends &= ends - 1) {
+          const auto bit = word * 64 + static_cast<std::size_t>(std::countr_zero(ends));
+          const LeadingEnd& end = table_.leadingEnds[bit];
+          tryAlternative(end.search, end.alternative,
+                         static_cast<std::uint32_t>(i + 1 - end.length));
+        }
       }
+      leading_[word] = state;
     }
   }
 
   [[nodiscard]] bool isWithin(const Distance& distance, const Progressed& since) const {
-    return (distance.steps == unbounded || now_.steps - since.steps <= distance.steps) &&
-           (distance.runs == unbounded || now_.runs - since.runs <= distance.runs);
+    static_assert(unbounded == std::numeric_limits<decltype(distance.steps)>::max());
+    return now_.steps - since.steps <= distance.steps && now_.runs - since.runs <= distance.runs;
   }
 
-  void onHit(const LinkHit& hit, std::size_t end) {
+  void onHit(std::size_t number, std::size_t end) {
     ++steps_;
-    if (!hit.has(LinkHit::first) && !isWithin(hit.distance, reached_[hit.reach - 1])) return;
+    const LinkHit& hit = table_.hits[number];
+    const bool isFirst = hit.has(LinkHit::first);
+    if (!isFirst && !isWithin(hit.distance, reached_[hit.reach - 1])) {
+      disarm(number);
+      return;
+    }
     if (hit.has(LinkHit::boundaryAfter) && !text_.isWordBoundary(end)) return;
     std::uint32_t start = 0;
-    if (hit.has(LinkHit::boundaryBefore | LinkHit::first)) {
+    if (isFirst || hit.has(LinkHit::boundaryBefore)) {
       start = startOf(hit.length, end);
       if (hit.has(LinkHit::boundaryBefore) && !text_.isWordBoundary(start)) return;
-      // Behind the match that is known already, no start is of interest.
-      if (hit.search != none && start > outcomes_[hit.search].start) return;
+      if (hit.search != LinkHit::noSearch && start > outcomes_[hit.search].start) {
+        disarm(number);
+        return;
+      }
     }
     reached_[hit.reach] = now_;
-    if (hit.has(LinkHit::first)) {
-      if (hit.has(LinkHit::last)) {
-        tryBefore(hit.chain, start);
-      } else {
-        wait(hit.chain, start);
-      }
-    } else if (hit.has(LinkHit::last)) {
+    for (std::size_t next = hit.nextHit; next < hit.nextHit + hit.nextCount; ++next)
+      arm(next);
+    const bool isLast = hit.nextCount == 0;
+    if (isFirst && isLast) {
+      tryBefore(hit.chain, start);
+    } else if (isFirst) {
+      wait(hit.chain, start);
+    } else if (isLast) {
       complete(hit.chain);
     }
   }
 
   /// Where the literal of `letters` letters that ends at `end` starts.
   [[nodiscard]] std::uint32_t startOf(std::size_t letters, std::size_t end) const {
+    if (letters <= end - regularFrom_) return static_cast<std::uint32_t>(end - letters);
     std::size_t start = end;
     const CharacterClasses& classes = tables_.classes;
     for (std::size_t taken = 0; taken < letters && start > 0;) {
@@ -320,11 +358,15 @@ class ScreeningEngine::Screening {
   std::vector<Outcome> outcomes_;
   std::vector<Matcher> matchers_;
   std::vector<Progress> progress_;
-  std::vector<Progressed> reached_;
+  std::vector<std::uint64_t> leading_;
+  Place place_;
+  std::vector<std::uint64_t> armed_;  ///< by hit
+  std::vector<Progressed> reached_;   ///< by link
   std::vector<Waiting> waiting_;
   std::uint32_t freeSlot_ = none;
   BacktrackStack stack_;
   Progressed now_;
+  std::size_t regularFrom_ = 0;  ///< from here on every code point has been one letter
   std::uint64_t steps_ = 0;
 };
 

@@ -24,17 +24,22 @@ struct Distance {
 
 /// One link of one chain of literals, as the literal index reports it.
 struct LinkHit {
-  std::uint32_t chain = 0;
-  std::uint32_t reach = 0;   ///< its place among the links of all chains
-  Distance distance{};       ///< from the end of the link before
-  std::uint32_t search = 0;  ///< for a first link that stands at the start, else `none`
-  std::uint16_t length = 0;  ///< letters of the literal
-  std::uint16_t properties = 0;
+  Distance distance{};  ///< from the end of the link before
+  std::uint16_t chain = 0;
+  std::uint16_t search = noSearch;  ///< of a first link that stands at the start
+  std::uint16_t reach = 0;          ///< its place among the links of all chains
+  std::uint16_t nextHit = 0;        ///< the first of the hits of the next link
+  std::uint16_t nextCount = 0;      ///< how many there are: none for the last link
+  std::uint8_t length = 0;          ///< letters of the literal
+  std::uint8_t properties = 0;
 
+  static constexpr std::uint16_t noSearch = 0xFFFF;
   /// Bits of `properties`.
-  enum : std::uint16_t { first = 1, last = 2, boundaryBefore = 4, boundaryAfter = 8 };
+  static constexpr std::uint8_t first = 1;
+  static constexpr std::uint8_t boundaryBefore = 2;
+  static constexpr std::uint8_t boundaryAfter = 4;
 
-  [[nodiscard]] bool has(std::uint16_t property) const { return (properties & property) != 0; }
+  [[nodiscard]] bool has(std::uint8_t property) const { return (properties & property) != 0; }
 };
 
 /// Literals in order that every match of an alternative contains.
@@ -75,7 +80,8 @@ struct Form {
 /// All that a screening reads.
 template <template <typename> typename Array>
 struct ScreeningTable {
-  Array<LinkHit> hits;  ///< the values of the literal index
+  Array<LinkHit> hits;             ///< the values of the literal index
+  Array<std::uint64_t> firstHits;  ///< a bit for each of them: those of first links
   Array<Chain> chains;
   std::uint64_t linkCount = 0;
   Array<SearchTraits> searches;
@@ -91,7 +97,7 @@ struct ScreeningTable {
   Array<LeadingEnd> maybeEmpty;   ///< those that may match without a code point
 
   void transfer(auto& archive) {
-    archive(hits, chains, linkCount, searches, forms, formSearches);
+    archive(hits, firstHits, chains, linkCount, searches, forms, formSearches);
     archive(leadingInitial, leadingMasks, leadingFinal, leadingEnds, maybeEmpty);
   }
 };

@@ -45,6 +45,107 @@ struct InnerLink {
   Distance after{};
 };
 
+/// Puts a chain together from the parts of a way, in order. Literals side by side become one link;
+/// those that are met more often than `frequencyLimit` are passed over.
+class ChainBuilder {
+ public:
+  ChainBuilder(const LiteralAlphabet& alphabet, double frequencyLimit)
+      : alphabet_(alphabet), frequencyLimit_(frequencyLimit) {}
+
+  /// Whether no link is complete, so that what comes belongs to the lead.
+  [[nodiscard]] bool isInLead() const { return links_.empty(); }
+  /// Whether nothing that follows can be a link any more.
+  [[nodiscard]] bool isDone() const { return isDone_; }
+
+  void addBoundary() {
+    if (isOpen()) {
+      boundaryBefore_ = true;
+    } else {
+      boundaryAfter_ = shortest(current_) > 0 && !alphabet_.anyEndsInSpace(current_);
+    }
+  }
+
+  void addLiterals(const Literals& literals) {
+    if (!isOpen() && literals.size() * current_.size() > mostJoined) {
+      endLink();
+      current_ = literals;
+    } else {
+      if (alphabet_.longest(literals).steps > 0) boundaryAfter_ = false;
+      current_ = alphabet_.product(current_, literals);
+    }
+  }
+
+  /// Ends the link that literals side by side make up so far.
+  void endLink() {
+    if (!isOpen()) {
+      LiteralLink link{.literals = current_,
+                       .boundaryBefore = boundaryBefore_ && !alphabet_.anyStartsWithSpace(current_),
+                       .boundaryAfter = boundaryAfter_};
+      if (alphabet_.isTelling(current_) && isRareEnough(current_)) {
+        append(std::move(link), {});
+      } else {
+        addGap(alphabet_.longest(current_));
+      }
+    }
+    current_ = {{}};
+    boundaryBefore_ = false;
+    boundaryAfter_ = false;
+  }
+
+  /// Something that contains a link. REQUIRES: the link before is ended.
+  void addInner(const InnerLink& inner) {
+    append(inner.link, inner.before);
+    addGap(inner.after);
+  }
+
+  /// Something without a link. REQUIRES: the link before is ended.
+  void addGap(const Distance& width) {
+    gap_ = plus(gap_, width);
+    // Behind a gap without limit nothing is known to be near.
+    if (gap_.isUnbounded() && !links_.empty()) isDone_ = true;
+  }
+
+  [[nodiscard]] bool isRareEnough(const Literals& literals) const {
+    return alphabet_.frequencyOf(literals) <= frequencyLimit_;
+  }
+
+  [[nodiscard]] LiteralChain finish(std::vector<std::uint64_t> leadClasses) {
+    if (!isDone_) endLink();
+    return {.lead = lead_, .leadClasses = std::move(leadClasses), .links = std::move(links_)};
+  }
+
+ private:
+  [[nodiscard]] bool isOpen() const { return current_.size() == 1 && current_.front().empty(); }
+
+  /// Goes on with the gap of what is cut off.
+  void append(LiteralLink link, const Distance& before) {
+    if (isDone_) return;
+    if (links_.empty()) {
+      lead_ = plus(gap_, before);
+      if (alphabet_.dropLeadingSpace(link.literals)) lead_ = plus(lead_, {.steps = 1, .runs = 1});
+    }
+    const Distance cut = alphabet_.shorten(link.literals);
+    if (cut.steps > 0) link.boundaryAfter = false;
+    if (!links_.empty()) {
+      link.distance = plus(plus(gap_, before), alphabet_.longest(link.literals));
+      isDone_ = link.distance.isUnbounded() || links_.size() == mostLinks;
+      if (isDone_) return;
+    }
+    links_.push_back(std::move(link));
+    gap_ = cut;
+  }
+
+  const LiteralAlphabet& alphabet_;
+  double frequencyLimit_;
+  std::vector<LiteralLink> links_;
+  Distance lead_;
+  Distance gap_;  ///< since the last link
+  Literals current_{{}};
+  bool boundaryBefore_ = false;
+  bool boundaryAfter_ = false;
+  bool isDone_ = false;
+};
+
 class Analysis {
  public:
   Analysis(const SetTable& sets, const ClassPartition& classes) : sets_(sets), classes_(classes) {}
@@ -267,83 +368,31 @@ class Analysis {
     return cost + complete * (costOfChain + costOfMatch + costOfStart * charactersOf(chain.lead));
   }
 
-  /// Passes over literals that are met more often than `frequencyLimit`.
   LiteralChain chainOf(const Way& way, double frequencyLimit) {
-    LiteralChain chain;
-    chain.leadClasses.assign(classes_.count() / 64 + 1, 0);
-    Distance gap;
-    Literals current{{}};
-    LiteralLink link;
-    const auto isOpen = [&] { return current.size() == 1 && current.front().empty(); };
-    // Goes on with the gap of what is cut off.
-    const auto append = [&](LiteralLink added, const Distance& before) {
-      if (chain.links.empty()) {
-        chain.lead = plus(gap, before);
-        if (alphabet_.dropLeadingSpace(added.literals))
-          chain.lead = plus(chain.lead, {.steps = 1, .runs = 1});
-      }
-      const Distance cut = alphabet_.shorten(added.literals);
-      if (cut.steps > 0) added.boundaryAfter = false;
-      if (!chain.links.empty()) {
-        added.distance = plus(plus(gap, before), alphabet_.longest(added.literals));
-        // Behind a gap without limit nothing is known to be near.
-        if (added.distance.isUnbounded() || chain.links.size() == mostLinks) return false;
-      }
-      chain.links.push_back(std::move(added));
-      gap = cut;
-      return true;
-    };
-    const auto flush = [&] {
-      bool goesOn = true;
-      if (!isOpen()) {
-        link.literals = current;
-        link.boundaryBefore = link.boundaryBefore && !alphabet_.anyStartsWithSpace(current);
-        if (alphabet_.isTelling(current) &&
-            alphabet_.frequencyOf(link.literals) <= frequencyLimit) {
-          goesOn = append(std::move(link), {});
-        } else {
-          gap = plus(gap, alphabet_.longest(current));
-        }
-      }
-      current = {{}};
-      link = {};
-      return goesOn;
-    };
-
+    ChainBuilder chain(alphabet_, frequencyLimit);
+    std::vector<std::uint64_t> leadClasses(ClassSets::wordsFor(classes_.count()));
     for (const Node* node : way) {
+      if (chain.isDone()) break;
       if (node->kind == Node::Kind::WordBoundary && !node->negative) {
-        if (isOpen()) {
-          link.boundaryBefore = true;
-        } else {
-          link.boundaryAfter = shortest(current) > 0 && !alphabet_.anyEndsInSpace(current);
-        }
+        chain.addBoundary();
         continue;
       }
-      if (const auto& literals = literalsOf(*node)) {
-        if (!isOpen() && literals->size() * current.size() > mostJoined) {
-          if (!flush()) return chain;
-          current = *literals;
-        } else {
-          if (alphabet_.longest(*literals).steps > 0) link.boundaryAfter = false;
-          current = alphabet_.product(current, *literals);
-        }
-        if (chain.links.empty()) addClasses(*node, chain.leadClasses);
-        continue;
-      }
-      if (!flush()) return chain;
-      const auto& inner = innerLink(*node);
-      const bool isUsed = inner && alphabet_.frequencyOf(inner->link.literals) <= frequencyLimit;
-      if (chain.links.empty()) addClasses(*node, chain.leadClasses);
-      if (isUsed) {
-        if (!append(inner->link, inner->before)) return chain;
-        gap = plus(gap, inner->after);
+      const auto& literals = literalsOf(*node);
+      if (literals) {
+        chain.addLiterals(*literals);
       } else {
-        gap = plus(gap, width(*node));
+        chain.endLink();
       }
-      if (gap.isUnbounded() && !chain.links.empty()) return chain;
+      if (chain.isInLead()) addClasses(*node, leadClasses);
+      if (literals) continue;
+      const auto& inner = innerLink(*node);
+      if (inner && chain.isRareEnough(inner->link.literals)) {
+        chain.addInner(*inner);
+      } else {
+        chain.addGap(width(*node));
+      }
     }
-    static_cast<void>(flush());
-    return chain;
+    return chain.finish(std::move(leadClasses));
   }
 
   /// A link that every match of `node` contains somewhere.

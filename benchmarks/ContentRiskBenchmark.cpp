@@ -118,30 +118,43 @@ void compile(benchmark::State& state) {
     benchmark::DoNotOptimize(screening::compilePatterns(screening::rulePatterns()));
 }
 
-/// The text of `size` bytes that takes the most steps, of all that repeat a part of a pattern.
-std::string worstFound(std::size_t size) {
-  const auto patterns = screening::rulePatterns();
-  const screening::ScreeningEngine engine(screening::compiledRules());
-  const testing::PatternText source(patterns);
-  std::string worst;
-  std::uint64_t most = 0;
-  for (std::size_t i = 0; i < patterns.size(); ++i) {
-    std::vector<std::string> units = source.parts(i);
-    std::mt19937 random(static_cast<unsigned>(i));
-    for (int along = 0; along < 10; ++along)
-      units.push_back(source.along(i, random).substr(0, 400));
-    for (const std::string& unit : units) {
-      if (unit.empty()) continue;
-      for (const char* separator : {"", " ", "\n", "a"}) {
-        std::uint64_t steps = 0;
-        static_cast<void>(engine.firstMatches(repeated(unit + separator, 3000), &steps));
-        if (steps <= most) continue;
-        most = steps;
-        worst = unit + separator;
-      }
+/// What to repeat, so that a screening takes the most steps.
+struct Worst {
+  std::string unit;
+  std::uint64_t steps = 0;
+};
+
+/// The worst found of the parts of a rule's pattern and of texts along it.
+Worst worstOf(std::size_t rule) {
+  static const screening::ScreeningEngine engine(screening::compiledRules());
+  static const testing::PatternText source(screening::rulePatterns());
+  std::vector<std::string> units = source.parts(rule);
+  std::mt19937 random(static_cast<unsigned>(rule));
+  for (int along = 0; along < 10; ++along)
+    units.push_back(source.along(rule, random).substr(0, 400));
+  Worst worst;
+  for (const std::string& unit : units) {
+    if (unit.empty()) continue;
+    for (const char* separator : {"", " ", "\n", "a"}) {
+      std::uint64_t steps = 0;
+      static_cast<void>(engine.firstMatches(repeated(unit + separator, 3000), &steps));
+      if (steps > worst.steps) worst = {.unit = unit + separator, .steps = steps};
     }
   }
-  return repeated(worst, size);
+  return worst;
+}
+
+Worst worstOfAll() {
+  Worst worst;
+  for (std::size_t rule = 0; rule < ContentRules::all.size(); ++rule)
+    if (Worst one = worstOf(rule); one.steps > worst.steps) worst = std::move(one);
+  return worst;
+}
+
+/// 200,000 bytes of it.
+void screenWorst(benchmark::State& state, const Worst& worst) {
+  state.SetLabel(testing::escaped(worst.unit.substr(0, 60)));
+  screen(state, repeated(worst.unit, 200'000).substr(0, 200'000));
 }
 
 [[maybe_unused]] const bool registered = [] {
@@ -172,10 +185,13 @@ std::string worstFound(std::size_t size) {
   for (const auto& [name, text] : alone)
     benchmark::RegisterBenchmark(("screen/" + name).c_str(), screen, text);
   benchmark::RegisterBenchmark("screen/worst_found_200k", [](benchmark::State& state) {
-    static const std::string text = worstFound(200'000);
-    state.SetLabel(testing::escaped(text.substr(0, 60)));
-    screen(state, text);
+    static const Worst worst = worstOfAll();
+    screenWorst(state, worst);
   });
+  for (std::size_t rule = 0; rule < ContentRules::all.size(); ++rule)
+    benchmark::RegisterBenchmark(
+        ("worst_of_rule/" + std::string(ContentRules::all[rule].id)).c_str(),
+        [rule](benchmark::State& state) { screenWorst(state, worstOf(rule)); });
   benchmark::RegisterBenchmark("open_tables", open);
   benchmark::RegisterBenchmark("compile_tables", compile);
   return true;

@@ -243,7 +243,8 @@ class LeadingTables {
   }
 
  private:
-  [[nodiscard]] std::size_t words() const { return (classesOfBits_.size() + 63) / 64; }
+  /// Words are advanced in pairs.
+  [[nodiscard]] std::size_t words() const { return (classesOfBits_.size() + 127) / 128 * 2; }
 
   const ClassPartition& classes_;
   const ClassSetPool& sets_;

@@ -172,21 +172,32 @@ class ScreeningEngine::Screening {
 
   void findLeadingClasses(std::size_t from, std::size_t to) {
     const std::size_t words = leading_.size();
-    for (std::size_t word = 0; word < words; ++word) {
+    // Two words at a time, since neither has to wait for the other.
+    for (std::size_t word = 0; word < words; word += 2) {
       const std::uint64_t* const masks = table_.leadingMasks.data() + word;
-      const std::uint64_t initial = table_.leadingInitial[word];
-      const std::uint64_t final = table_.leadingFinal[word];
-      std::uint64_t state = leading_[word];
+      const std::uint64_t* const initial = table_.leadingInitial.data() + word;
+      const std::uint64_t* const final = table_.leadingFinal.data() + word;
+      std::uint64_t one = leading_[word];
+      std::uint64_t other = leading_[word + 1];
       for (std::size_t i = from; i < to; ++i) {
-        state = (state << 1 | initial) & masks[text_.classAt(i) * words];
-        for (std::uint64_t ends = state & final; ends != 0; ends &= ends - 1) {
-          const auto bit = word * 64 + static_cast<std::size_t>(std::countr_zero(ends));
-          const LeadingEnd& end = table_.leadingEnds[bit];
-          tryAlternative(end.search, end.alternative,
-                         static_cast<std::uint32_t>(i + 1 - end.length));
-        }
+        const std::uint64_t* const mask = masks + text_.classAt(i) * words;
+        one = (one << 1 | initial[0]) & mask[0];
+        other = (other << 1 | initial[1]) & mask[1];
+        if (((one & final[0]) | (other & final[1])) == 0) continue;
+        tryLeading(word, one & final[0], i + 1);
+        tryLeading(word + 1, other & final[1], i + 1);
       }
-      leading_[word] = state;
+      leading_[word] = one;
+      leading_[word + 1] = other;
+    }
+  }
+
+  void tryLeading(std::size_t word, std::uint64_t ends, std::size_t position) {
+    for (; ends != 0; ends &= ends - 1) {
+      const auto bit = word * 64 + static_cast<std::size_t>(std::countr_zero(ends));
+      const LeadingEnd& end = table_.leadingEnds[bit];
+      tryAlternative(end.search, end.alternative,
+                     static_cast<std::uint32_t>(position - end.length));
     }
   }
 

@@ -23,15 +23,21 @@ struct CloseDisplay {
   void operator()(Display* display) const { XCloseDisplay(display); }
 };
 
+struct CloseDevice {
+  Display* display;
+  void operator()(XDevice* device) const { XCloseDevice(display, device); }
+};
+using Keyboard = std::unique_ptr<XDevice, CloseDevice>;
+
 // Every server has a keyboard beside the one of XTEST: "Xvfb keyboard" on the virtual one.
-XDevice* openKeyboard(Display* display) {
+Keyboard openKeyboard(Display* display) {
   int count = 0;
   XDeviceInfo* const devices = XListInputDevices(display, &count);
-  XDevice* keyboard = nullptr;
+  Keyboard keyboard(nullptr, CloseDevice{display});
   for (const XDeviceInfo& device : std::span(devices, static_cast<std::size_t>(count)))
     if (keyboard == nullptr && device.use == IsXExtensionKeyboard &&
         std::string_view(device.name).find("XTEST") == std::string_view::npos)
-      keyboard = XOpenDevice(display, device.id);
+      keyboard.reset(XOpenDevice(display, device.id));
   XFreeDeviceList(devices);
   return keyboard;
 }
@@ -57,7 +63,7 @@ int main(int argc, char** argv) {
     std::cerr << "usage: held-keys MILLISECONDS [KEYSYM...], with an X server\n";
     return 2;
   }
-  XDevice* const keyboard = openKeyboard(display.get());
+  const Keyboard keyboard = openKeyboard(display.get());
   if (keyboard == nullptr) {
     std::cerr << "held-keys: the X server has no keyboard of its own\n";
     return 1;
@@ -77,12 +83,13 @@ int main(int argc, char** argv) {
     return 1;
   }
   for (const unsigned key : keys)
-    XTestFakeDeviceKeyEvent(display.get(), keyboard, key, True, nullptr, 0, CurrentTime);
+    XTestFakeDeviceKeyEvent(display.get(), keyboard.get(), key, True, nullptr, 0, CurrentTime);
   XSync(display.get(), False);
   std::cout << "pressed" << std::endl;
   std::this_thread::sleep_for(duration);
   while (!keys.empty()) {
-    XTestFakeDeviceKeyEvent(display.get(), keyboard, keys.back(), False, nullptr, 0, CurrentTime);
+    XTestFakeDeviceKeyEvent(display.get(), keyboard.get(), keys.back(), False, nullptr, 0,
+                            CurrentTime);
     keys.pop_back();
   }
   XSync(display.get(), False);

@@ -19,6 +19,8 @@ PATIENCE = 40.0  # seconds; a loaded machine with two processors needs a good pa
 HOTKEY = ("Control_L", "Alt_L", "Super_L", "h")
 LETTER = "Dear Ms Whitcombe, thank you for the visit on 14 March. The second draft suits us well."
 SECRET = "correct horse battery staple"
+SANITIZER_REPORT = re.compile(
+    r"==\d+==ERROR: \w+Sanitizer|WARNING: \w+Sanitizer|:\d+:\d+: runtime error: ")
 
 
 class Failure(Exception):
@@ -110,7 +112,19 @@ class Session:
     def __exit__(self, kind, value, trace):
         for process in reversed(self.processes):
             self.end(process)
+        reports = self._sanitizer_reports()
         shutil.rmtree(self.folder, ignore_errors=True)
+        if reports:
+            raise Failure(reports)
+
+    def _sanitizer_reports(self):
+        """Leaks are told at the end of a program, when no test looks at it any more."""
+        reports = []
+        for log in sorted(self.folder.glob("*.log")):
+            text = log.read_text(errors="replace")
+            if found := SANITIZER_REPORT.search(text):
+                reports.append(f"{log.name}: {text[found.start():]}")
+        return "\n".join(reports)
 
     # Processes
 

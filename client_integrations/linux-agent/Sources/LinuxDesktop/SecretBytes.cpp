@@ -1,18 +1,41 @@
 #include "LinuxDesktop/SecretBytes.h"
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 #include <openssl/crypto.h>
 
 namespace quillseal {
+namespace {
+
+/// Of the locked memory: many times what one signature needs, and little of what a user may lock.
+constexpr std::size_t kLockedBytes = 65'536;
+constexpr std::size_t kSmallestBlock = 16;
+
+unsigned char* allocate(std::size_t size) {
+  if (size == 0) return nullptr;
+  auto* const bytes = static_cast<unsigned char*>(::OPENSSL_secure_zalloc(size));
+  if (bytes == nullptr) throw std::bad_alloc();
+  return bytes;
+}
+
+}  // namespace
+
+bool lockMemoryOfSecrets() noexcept {
+  constexpr int kAllLocked = 1;
+  return ::CRYPTO_secure_malloc_init(kLockedBytes, kSmallestBlock) == kAllLocked;
+}
+
+void SecretBytes::Free::operator()(unsigned char* bytes) const noexcept {
+  ::OPENSSL_secure_free(bytes);
+}
 
 void wipe(std::span<unsigned char> bytes) noexcept {
   if (!bytes.empty()) ::OPENSSL_cleanse(bytes.data(), bytes.size());
 }
 
-SecretBytes::SecretBytes(std::size_t size)
-    : bytes_(std::make_unique<unsigned char[]>(size)), size_(size) {}
+SecretBytes::SecretBytes(std::size_t size) : bytes_(allocate(size)), size_(size) {}
 
 SecretBytes::SecretBytes(std::string_view text) : SecretBytes(text.size()) {
   std::copy(text.begin(), text.end(), bytes_.get());

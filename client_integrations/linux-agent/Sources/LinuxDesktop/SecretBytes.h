@@ -7,12 +7,17 @@
 
 namespace quillseal {
 
+/// Keeps the memory of all secrets that are made from now on out of the swap area and of core
+/// dumps, OpenSSL's own private keys included. False where the system does not allow that. To be
+/// called once, at the start of the program.
+bool lockMemoryOfSecrets() noexcept;
+
 /// Bytes that must not outlive their use: a PIN, a passphrase, a value derived from one. They are
 /// overwritten when the object ends or is assigned to, and cannot be copied by accident.
 class SecretBytes {
  public:
   SecretBytes() noexcept = default;
-  /// `size` zero bytes, to be filled in place.
+  /// `size` zero bytes, to be filled in place. Throws std::bad_alloc.
   explicit SecretBytes(std::size_t size);
   /// A copy of `text`. Whoever owns `text` wipes it.
   explicit SecretBytes(std::string_view text);
@@ -38,7 +43,10 @@ class SecretBytes {
  private:
   void wipe() noexcept;
 
-  std::unique_ptr<unsigned char[]> bytes_;
+  struct Free {
+    void operator()(unsigned char* bytes) const noexcept;
+  };
+  std::unique_ptr<unsigned char[], Free> bytes_;
   std::size_t size_ = 0;
 };
 

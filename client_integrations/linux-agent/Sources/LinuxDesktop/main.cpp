@@ -34,6 +34,7 @@
 #include "LinuxDesktop/QtSecretPrompt.h"
 #include "LinuxDesktop/QtWindows.h"
 #include "LinuxDesktop/Reach.h"
+#include "LinuxDesktop/SecretBytes.h"
 #include "LinuxDesktop/SingleInstance.h"
 #include "LinuxDesktop/SystemMachineIdentity.h"
 #include "LinuxDesktop/SystemWallClock.h"
@@ -225,6 +226,8 @@ int runAgent(const CommandLine& commandLine, quillseal::SingleInstance& instance
   const bool quiet = commandLine.command == Command::Background;
   quillseal::JournalLog log(quiet ? quillseal::JournalLog::Echo::none
                                   : quillseal::JournalLog::Echo::standardError);
+  if (!quillseal::lockMemoryOfSecrets())
+    log.write("[start] memory cannot be locked: a PIN or passphrase may reach the swap area");
   LinuxDesktop desktop(commandLine, log);
   quillseal::AppDelegate agent(desktop.services());
   agent.applicationDidFinishLaunching();

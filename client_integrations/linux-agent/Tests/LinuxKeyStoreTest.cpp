@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -57,6 +58,7 @@ class ScriptedTpm final : public KeyMedium {
     std::string obstacle;
     std::string defect;  ///< of the key
     bool foreignSignatures = false;
+    int uses = 0;  ///< a plain number: a medium need not stand two threads
   };
 
   ScriptedTpm(const std::filesystem::path& folder, State& state)
@@ -68,11 +70,17 @@ class ScriptedTpm final : public KeyMedium {
   KeyPlace place() const noexcept override { return KeyPlace::tpm; }
   std::string name() const override { return "the TPM of this computer"; }
   std::string describe() const override { return "The key is in the TPM."; }
-  std::string obstacle() const override { return state_.obstacle; }
+  std::string obstacle() const override {
+    ++state_.uses;
+    return state_.obstacle;
+  }
   std::string evidentObstacle() const override { return state_.obstacle; }
   bool holdsKey() const noexcept override { return file_.holdsKey(); }
   void create(const SecretBytes& secret) override { file_.create(secret); }
-  p256::Point publicKey() const override { return file_.publicKey(); }
+  p256::Point publicKey() const override {
+    ++state_.uses;
+    return file_.publicKey();
+  }
   void requireUsableKey() const override {
     if (!state_.defect.empty()) throw KeyFailure(state_.defect);
   }
@@ -268,6 +276,24 @@ TEST_F(LinuxKeyStoreTest, ADamagedKeyStaysUntilItIsReplaced) {
   createWith(passphrase);
   prompt.answers = {passphrase};
   EXPECT_FALSE(sign().empty());
+}
+
+TEST_F(LinuxKeyStoreTest, AMediumWorksForOneThreadAtATime) {
+  createWith(pin);
+  tpm.uses = 0;
+  constexpr int threads = 4;
+  constexpr int rounds = 25;
+  {
+    std::vector<std::jthread> workers;
+    for (int i = 0; i < threads; ++i)
+      workers.emplace_back([this] {
+        for (int round = 0; round < rounds; ++round) {
+          EXPECT_TRUE(store->isAvailable());
+          EXPECT_TRUE(store->load(std::nullopt)->publicKey().has_value());
+        }
+      });
+  }
+  EXPECT_EQ(tpm.uses, 2 * threads * rounds);
 }
 
 TEST(MakeKeyStore, TakesASimulatorOnlyByName) {

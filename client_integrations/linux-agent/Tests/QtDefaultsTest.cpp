@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include <gmock/gmock.h>
@@ -172,6 +173,28 @@ TEST_F(QtDefaultsTest, ValuesThatCannotBeSavedHoldForTheProcess) {
   EXPECT_EQ(defaults.string("SigningMode"), "handoff");
   EXPECT_TRUE(eventually([&] { return changes == 1 && !warnings_.empty(); }));
   EXPECT_TRUE(fs::exists(path_ / "kept"));
+}
+
+TEST_F(QtDefaultsTest, ServesOtherThreadsWhileItIsChanged) {
+  fs::create_directories(path_);  // so that the values are kept in memory
+  constexpr int rounds = 200;
+  QtDefaults defaults = make();
+  defaults.setString("APIKey", "0");
+  {
+    std::vector<std::jthread> readers;
+    for (int i = 0; i < 2; ++i)
+      readers.emplace_back([&defaults] {
+        int last = 0;
+        for (int round = 0; round < rounds; ++round) {
+          const int value = std::stoi(defaults.string("APIKey").value_or("-1"));
+          EXPECT_GE(value, last);
+          last = value;
+        }
+      });
+    for (int round = 1; round <= rounds; ++round)
+      defaults.setString("APIKey", std::to_string(round));
+  }
+  EXPECT_EQ(defaults.string("APIKey"), std::to_string(rounds));
 }
 
 // A full disk, as far as a process can have its own: no file may grow beyond 10 bytes.

@@ -1,8 +1,11 @@
+#include <atomic>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <thread>
+#include <vector>
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>
@@ -78,6 +81,32 @@ TEST_F(RegistryTest, AHandoffEndsOnce) {
   EXPECT_FALSE(registry.signature("t").has_value());
   EXPECT_FALSE(registry.decline("h"));
   EXPECT_EQ(registry.handoff("h")->state, HandoffState::complete);
+}
+
+TEST_F(RegistryTest, OfManyThreadsOneEndsAHandoff) {
+  constexpr int threads = 4;
+  constexpr int handoffs = 50;
+  Registry registry(":memory:");
+  Handoff handoff;
+  for (int i = 0; i < handoffs; ++i) {
+    handoff.id = std::to_string(i);
+    registry.open(handoff);
+  }
+  std::atomic<int> ended = 0;
+  {
+    std::vector<std::jthread> workers;
+    for (int worker = 0; worker < threads; ++worker)
+      workers.emplace_back([&, worker] {
+        for (int i = 0; i < handoffs; ++i) {
+          Signature signature;
+          signature.id = std::to_string(worker) + '/' + std::to_string(i);
+          if (registry.complete(std::to_string(i), signature)) ++ended;
+        }
+      });
+  }
+  EXPECT_EQ(ended, handoffs);
+  for (int i = 0; i < handoffs; ++i)
+    EXPECT_TRUE(registry.signature(registry.handoff(std::to_string(i))->signatureId).has_value());
 }
 
 TEST_F(RegistryTest, LeavesAFileThatIsNotItsOwnAlone) {

@@ -76,17 +76,15 @@ class Trie {
 
   /// Links the nodes; all of them, in the order in which the states are to be numbered.
   std::vector<std::uint32_t> finish() {
-    // Breadth first, so that the failure of a node is complete before the node.
-    std::vector<std::uint32_t> order{0};
-    for (std::size_t i = 0; i < order.size(); ++i) {
-      const std::uint32_t node = order[i];
-      for (const auto& [symbol, child] : nodes_[node].children) {
-        if (node != 0) nodes_[child].failure = after(nodes_[node].failure, symbol);
-        const auto& inherited = nodes_[nodes_[child].failure].values;
-        auto& values = nodes_[child].values;
-        values.insert(values.end(), inherited.begin(), inherited.end());
-        order.push_back(child);
-      }
+    link();
+    // Depth first, so that the states along a literal lie side by side.
+    std::vector<std::uint32_t> order;
+    std::vector<std::uint32_t> open{0};
+    while (!open.empty()) {
+      order.push_back(open.back());
+      open.pop_back();
+      for (const auto& [symbol, child] : nodes_[order.back()].children)
+        open.push_back(child);
     }
     const auto rank = [this](std::uint32_t node) {
       const bool isHit = nodes_[node].isHit();
@@ -108,6 +106,21 @@ class Trie {
   [[nodiscard]] std::size_t size() const { return nodes_.size(); }
 
  private:
+  void link() {
+    // Breadth first, so that the failure of a node is complete before the node.
+    std::vector<std::uint32_t> order{0};
+    for (std::size_t i = 0; i < order.size(); ++i) {
+      const std::uint32_t node = order[i];
+      for (const auto& [symbol, child] : nodes_[node].children) {
+        if (node != 0) nodes_[child].failure = after(nodes_[node].failure, symbol);
+        const auto& inherited = nodes_[nodes_[child].failure].values;
+        auto& values = nodes_[child].values;
+        values.insert(values.end(), inherited.begin(), inherited.end());
+        order.push_back(child);
+      }
+    }
+  }
+
   std::vector<Node> nodes_ = std::vector<Node>(1);
 };
 

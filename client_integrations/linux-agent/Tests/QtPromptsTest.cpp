@@ -77,7 +77,11 @@ class QtPromptsTest : public ::testing::Test {
     const std::optional<SecretBytes> secret = pending.get();
     return secret ? std::optional<std::string>(secret->text()) : std::nullopt;
   }
-  void TearDown() override { prompt.close(); }
+  void TearDown() override {
+    prompt.close();
+    // Without a loop that runs, nobody else deletes the dialogs that have closed.
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
 
   std::future<std::optional<SecretBytes>> pending;
   std::string program = "test";

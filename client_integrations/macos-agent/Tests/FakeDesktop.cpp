@@ -280,6 +280,12 @@ desktop::Ticket FakeDesktop::press(desktop::KeyPress press, std::function<void()
 void FakeDesktop::setClipboard(const Copy& copy) {
   clipboard = copy;
   ++changeCount_;
+  if (const auto changed = std::exchange(clipboardChanged_, nullptr)) changed();
+}
+
+desktop::Ticket FakeDesktop::onNextChange(std::function<void()> changed) {
+  if (tellsOfClipboardChanges) clipboardChanged_ = std::move(changed);
+  return desktop::Ticket([this] { clipboardChanged_ = nullptr; });
 }
 
 void FakeDesktop::write(const desktop::PasteboardContent& content) {

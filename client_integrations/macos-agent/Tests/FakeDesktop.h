@@ -63,6 +63,7 @@ class FakeDesktop final : public desktop::Alerts,
   std::optional<Copy> everything;     ///< by Command-C after Command-A
   std::optional<Copy> secondThought;  ///< replaces the copy 50 ms after it
   Copy clipboard;
+  bool tellsOfClipboardChanges = true;
 
   // The person.
   bool isPersonTrusting = true;  ///< grants accessibility
@@ -176,6 +177,7 @@ class FakeDesktop final : public desktop::Alerts,
 
   // Pasteboard
   std::int64_t changeCount() const override { return changeCount_; }
+  desktop::Ticket onNextChange(std::function<void()> changed) override;
   bool isConcealed() const override { return clipboard.isConcealed; }
   std::optional<std::string> plainText() const override { return clipboard.text; }
   std::optional<std::string> html() const override { return clipboard.html; }
@@ -202,6 +204,7 @@ class FakeDesktop final : public desktop::Alerts,
   std::map<int, std::function<void()>> observers_;
   int observerCount_ = 0;
   std::int64_t changeCount_ = 0;
+  std::function<void()> clipboardChanged_;
   bool isAllSelected_ = false;
   desktop::Ticket copying_, secondCopying_;
 };

@@ -369,6 +369,15 @@ TEST_F(SigningCoordinatorTest, TakesTheLastOfTwoQuickChanges) {
   EXPECT_THAT(*desktop_.clipboard.text, StartsWith("『" + text + " Indeed.』"));
 }
 
+TEST_F(SigningCoordinatorTest, NoticesACopyAtOnceOnlyWhereTheDesktopTells) {
+  sign();
+  const auto told = desktop_.loop.elapsed();
+  desktop_.tellsOfClipboardChanges = false;
+  sign();
+  const auto polled = desktop_.loop.elapsed() - told;
+  EXPECT_EQ(polled - told, 20ms);  // the copy comes after 40 ms, and every 30 ms somebody looks
+}
+
 TEST_F(SigningCoordinatorTest, MendsIllFormedTextOnce) {
   desktop_.selection = FakeDesktop::Copy{.text = text + "\xC3", .html = "<p>\xFF</p>"};
   sign();

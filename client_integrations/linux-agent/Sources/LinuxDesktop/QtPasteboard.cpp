@@ -5,6 +5,7 @@
 #include <QMimeData>
 #include <array>
 #include <memory>
+#include <utility>
 
 #include "Desktop/Error.h"
 #include "LinuxDesktop/QtText.h"
@@ -33,6 +34,13 @@ std::optional<std::string> present(std::string text) {
 QtPasteboard::QtPasteboard() {
   QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &receiver_,
                    [this] { ++changeCount_; });
+}
+
+desktop::Ticket QtPasteboard::onNextChange(std::function<void()> changed) {
+  // Qt drops the connection, and with it `changed`, before it calls.
+  const auto watch = QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged,
+                                      &receiver_, std::move(changed), Qt::SingleShotConnection);
+  return desktop::Ticket([watch] { QObject::disconnect(watch); });
 }
 
 bool QtPasteboard::isConcealed() const {

@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <chrono>
+#include <functional>
 
 #include "Desktop/Pasteboard.h"
 
@@ -13,6 +14,7 @@ class QtPasteboard : public desktop::Pasteboard {
   QtPasteboard();
 
   [[nodiscard]] std::int64_t changeCount() const override { return changeCount_; }
+  [[nodiscard]] desktop::Ticket onNextChange(std::function<void()> changed) override;
   [[nodiscard]] bool isConcealed() const override;
   [[nodiscard]] std::optional<std::string> plainText() const override;
   [[nodiscard]] std::optional<std::string> html() const override;

@@ -51,8 +51,13 @@ desktop::Ticket XTestKeyEvents::press(desktop::KeyPress press, std::function<voi
   wait->step = [this, press, layout, done = std::move(done), weak = std::weak_ptr(wait)] {
     const auto self = weak.lock();
     const auto now = services_.loop.now();
+    if (now < self->earliest) {
+      self->timer =
+          services_.loop.after(std::chrono::ceil<milliseconds>(self->earliest - now), self->step);
+      return;
+    }
     const bool keysDown = !services_.keyboard->heldKeys(layout.keyFor(XKB_KEY_h)).empty();
-    if (now < self->earliest || (keysDown && now < self->latest)) {
+    if (keysDown && now < self->latest) {
       self->timer = services_.loop.after(kReleasePolling, self->step);
       return;
     }

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
+
+#include "Desktop/Ticket.h"
 
 namespace quillseal::desktop {
 
@@ -23,6 +26,10 @@ class Pasteboard {
 
   /// Changes with every change of the clipboard's owner or content, whoever made it.
   [[nodiscard]] virtual std::int64_t changeCount() const = 0;
+
+  /// Calls `changed` at the next change of the count, never from inside this call; not at all where
+  /// the desktop does not tell of changes. Whoever waits looks at the count now and then as well.
+  [[nodiscard]] virtual Ticket onNextChange(std::function<void()> changed) = 0;
 
   /// Whether the one who copied marked it as a secret, as password managers do.
   [[nodiscard]] virtual bool isConcealed() const = 0;

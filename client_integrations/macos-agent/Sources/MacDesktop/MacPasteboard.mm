@@ -11,6 +11,9 @@ std::int64_t MacPasteboard::changeCount() const {
   return NSPasteboard.generalPasteboard.changeCount;
 }
 
+// macOS tells nobody when the pasteboard changes.
+desktop::Ticket MacPasteboard::onNextChange(std::function<void()> /*changed*/) { return {}; }
+
 bool MacPasteboard::isConcealed() const {
   // The mark that password managers agreed on: http://nspasteboard.org
   NSArray<NSPasteboardType>* types = NSPasteboard.generalPasteboard.types;

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <utility>
 
 #include "Quillseal/Async.h"
@@ -36,11 +37,24 @@ std::optional<desktop::RunningApplication> frontApplication(
   return front;
 }
 
+/// Ends early when the desktop tells that the clipboard has changed.
+Task<> pollingPause(Services services) {
+  co_await completionOf<void>([&services](const std::function<void()>& done) {
+    const auto watch = std::make_shared<desktop::Ticket>(services.pasteboard.onNextChange(done));
+    const auto timer =
+        std::make_shared<desktop::Ticket>(services.loop.after(pollingInterval, done));
+    return desktop::Ticket([watch, timer] {
+      *watch = {};
+      *timer = {};
+    });
+  });
+}
+
 Task<bool> waitForChange(Services services, std::int64_t changeCount) {
   const auto deadline = services.loop.now() + longestWaitForCopy;
   while (services.loop.now() < deadline) {
     if (services.pasteboard.changeCount() != changeCount) co_return true;
-    co_await sleep(services.loop, pollingInterval);
+    co_await pollingPause(services);
   }
   co_return false;
 }

@@ -25,6 +25,9 @@ constexpr std::uint8_t kMapNotify = 1;
 constexpr std::uint32_t kLongestRepeatDelay = 1000;
 /// Quicker than anybody lets a key go and presses it again.
 constexpr std::chrono::milliseconds kReleasePolling{40};
+/// Changes come in bursts, and one whenever another keyboard is typed on than before: each
+/// signature brings some, since the agent's own presses come from another one.
+constexpr std::chrono::milliseconds kLayoutSettles{150};
 
 }  // namespace
 
@@ -45,7 +48,7 @@ void X11Hotkey::registerHotkey(desktop::KeyPress combination, std::function<void
     throw Error({.domain = "X11Hotkey", .code = 1, .description = obstacle_});
   combination_ = combination;
   pressed_ = std::move(pressed);
-  if (!grab())
+  if (!grab(place()))
     throw Error(
         {.domain = "X11Hotkey",
          .code = 2,
@@ -56,21 +59,27 @@ void X11Hotkey::registerHotkey(desktop::KeyPress combination, std::function<void
   QCoreApplication::instance()->installNativeEventFilter(this);
 }
 
-bool X11Hotkey::grab() {
-  if (key_ != 0) xcb_ungrab_key(connection_, key_, root_, XCB_MOD_MASK_ANY);
+X11Hotkey::Place X11Hotkey::place() const {
+  const X11Keyboard::Layout layout = keyboard_->layout();
   std::vector<Keysym> chord = chordOf(combination_);
-  key_ = keyboard_->layout().keyFor(chord.back());
+  Place place{.key = layout.keyFor(chord.back()),
+              .modifiers = 0,
+              .numLock = layout.modifierMaskOf(XKB_KEY_Num_Lock)};
   chord.pop_back();
-  unsigned modifiers = 0;
   for (const Keysym modifier : chord)
-    modifiers |= keyboard_->modifierMaskOf(modifier);
-  const unsigned numLock = keyboard_->modifierMaskOf(XKB_KEY_Num_Lock);
+    place.modifiers |= layout.modifierMaskOf(modifier);
+  return place;
+}
+
+bool X11Hotkey::grab(const Place& place) {
+  if (place_.key != 0) xcb_ungrab_key(connection_, place_.key, root_, XCB_MOD_MASK_ANY);
+  place_ = place;
   const unsigned lock = XCB_MOD_MASK_LOCK;
   bool granted = true;
-  for (const unsigned ignored : {0U, lock, numLock, lock | numLock}) {
-    const auto cookie =
-        xcb_grab_key_checked(connection_, 1, root_, static_cast<std::uint16_t>(modifiers | ignored),
-                             key_, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+  for (const unsigned ignored : {0U, lock, place.numLock, lock | place.numLock}) {
+    const auto cookie = xcb_grab_key_checked(connection_, 1, root_,
+                                             static_cast<std::uint16_t>(place.modifiers | ignored),
+                                             place.key, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
     if (xcb_generic_error_t* error = xcb_request_check(connection_, cookie)) {
       std::free(error);
       granted = false;
@@ -81,9 +90,16 @@ bool X11Hotkey::grab() {
 
 void X11Hotkey::awaitRelease() {
   releasePolling_ = loop_.after(kReleasePolling, [this] {
-    const std::vector<xcb_keycode_t> held = keyboard_->heldKeys(key_);
-    down_ = down_ && std::ranges::find(held, key_) != held.end();
+    const std::vector<xcb_keycode_t> held = keyboard_->heldKeys(place_.key);
+    down_ = down_ && std::ranges::find(held, place_.key) != held.end();
     if (down_) awaitRelease();
+  });
+}
+
+void X11Hotkey::followLayout() {
+  following_ = loop_.after(kLayoutSettles, [this] {
+    const Place now = place();
+    if (now != place_) static_cast<void>(grab(now));
   });
 }
 
@@ -94,7 +110,7 @@ bool X11Hotkey::nativeEventFilter(const QByteArray& /*eventType*/, void* message
   if (type == XCB_KEY_PRESS || type == XCB_KEY_RELEASE) {
     // Presses and releases have the same shape.
     const auto* key = reinterpret_cast<const xcb_key_press_event_t*>(event);
-    if (key->detail != key_ || key->event != root_) return false;
+    if (key->detail != place_.key || key->event != root_) return false;
     if (type == XCB_KEY_RELEASE) {
       down_ = false;
       lastRelease_ = key->time;
@@ -117,7 +133,7 @@ bool X11Hotkey::nativeEventFilter(const QByteArray& /*eventType*/, void* message
   const bool newLayout = type == XCB_MAPPING_NOTIFY ||
                          (type == keyboard_->xkbEventType() &&
                           (event->pad0 == kNewKeyboardNotify || event->pad0 == kMapNotify));
-  if (newLayout) loop_.post([this] { static_cast<void>(grab()); });
+  if (newLayout) followLayout();
   return false;
 }
 

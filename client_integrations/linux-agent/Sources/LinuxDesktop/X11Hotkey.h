@@ -20,7 +20,17 @@ class X11Hotkey : public desktop::Hotkey, private QAbstractNativeEventFilter {
 
  private:
   bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
-  [[nodiscard]] bool grab();
+  /// Where the combination is on the keyboard; modifiers as XCB_MOD_MASK_….
+  struct Place {
+    xcb_keycode_t key = 0;
+    unsigned modifiers = 0;
+    unsigned numLock = 0;
+    [[nodiscard]] bool operator==(const Place&) const = default;
+  };
+
+  [[nodiscard]] Place place() const;
+  [[nodiscard]] bool grab(const Place& place);
+  void followLayout();
   void awaitRelease();
 
   desktop::MainLoop& loop_;
@@ -30,11 +40,12 @@ class X11Hotkey : public desktop::Hotkey, private QAbstractNativeEventFilter {
   std::function<void()> pressed_;
   xcb_connection_t* connection_ = nullptr;
   xcb_window_t root_ = 0;
-  xcb_keycode_t key_ = 0;
+  Place place_;
   bool down_ = false;
   xcb_timestamp_t lastRelease_ = 0;
   xcb_timestamp_t lastPress_ = 0;
   desktop::Ticket releasePolling_;
+  desktop::Ticket following_;
 };
 
 }  // namespace quillseal

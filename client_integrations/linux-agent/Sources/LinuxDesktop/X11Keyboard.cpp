@@ -160,18 +160,22 @@ void X11Keyboard::tap(std::span<const xcb_keycode_t> keys) {
 struct X11Keyboard::Layout::Map {
   Keymap keymap;
   xkb_layout_index_t inUse;
+  Reply<xcb_get_modifier_mapping_reply_t> modifiers;  // null when the server did not tell
 };
 
 X11Keyboard::Layout X11Keyboard::layout() {
   Layout layout;
+  xcb_connection_t* connection = state_->connection.get();
+  const auto modifiersCookie = xcb_get_modifier_mapping(connection);
   Keymap keymap = state_->keymap();
+  Reply<xcb_get_modifier_mapping_reply_t> modifiers(
+      xcb_get_modifier_mapping_reply(connection, modifiersCookie, nullptr));
   if (keymap == nullptr) return layout;
-  const KeymapState now(
-      xkb_x11_state_new_from_device(keymap.get(), state_->connection.get(), state_->device));
+  const KeymapState now(xkb_x11_state_new_from_device(keymap.get(), connection, state_->device));
   const xkb_layout_index_t inUse =
       now == nullptr ? 0 : xkb_state_serialize_layout(now.get(), XKB_STATE_LAYOUT_EFFECTIVE);
-  layout.map_ =
-      std::make_shared<const Layout::Map>(Layout::Map{.keymap = std::move(keymap), .inUse = inUse});
+  layout.map_ = std::make_shared<const Layout::Map>(
+      Layout::Map{.keymap = std::move(keymap), .inUse = inUse, .modifiers = std::move(modifiers)});
   return layout;
 }
 
@@ -184,17 +188,14 @@ xcb_keycode_t X11Keyboard::Layout::keyFor(Keysym symbol) const {
   return latinKey(symbol);
 }
 
-std::uint16_t X11Keyboard::modifierMaskOf(Keysym symbol) {
-  xcb_connection_t* connection = state_->connection.get();
-  const Keymap keymap = state_->keymap();
-  const Reply<xcb_get_modifier_mapping_reply_t> mapping(
-      xcb_get_modifier_mapping_reply(connection, xcb_get_modifier_mapping(connection), nullptr));
-  if (keymap == nullptr || mapping == nullptr) return 0;
-  const xcb_keycode_t* keys = xcb_get_modifier_mapping_keycodes(mapping.get());
+std::uint16_t X11Keyboard::Layout::modifierMaskOf(Keysym symbol) const {
+  if (map_ == nullptr || map_->modifiers == nullptr) return 0;
+  xcb_get_modifier_mapping_reply_t* const modifiers = map_->modifiers.get();
+  const xcb_keycode_t* keys = xcb_get_modifier_mapping_keycodes(modifiers);
   for (int modifier = 0; modifier < 8; ++modifier)
-    for (int i = 0; i < mapping->keycodes_per_modifier; ++i) {
-      const xcb_keycode_t key = keys[modifier * mapping->keycodes_per_modifier + i];
-      if (key != 0 && givesSymbol(keymap.get(), key, 0, symbol))
+    for (int i = 0; i < modifiers->keycodes_per_modifier; ++i) {
+      const xcb_keycode_t key = keys[modifier * modifiers->keycodes_per_modifier + i];
+      if (key != 0 && givesSymbol(map_->keymap.get(), key, 0, symbol))
         return static_cast<std::uint16_t>(1U << modifier);
     }
   return 0;

@@ -26,6 +26,9 @@ class X11Keyboard {
     /// has.
     [[nodiscard]] xcb_keycode_t keyFor(Keysym symbol) const;
 
+    /// The modifier bits (XCB_MOD_MASK_…) that the key of `symbol` stands for; 0 when it is none.
+    [[nodiscard]] std::uint16_t modifierMaskOf(Keysym symbol) const;
+
    private:
     friend class X11Keyboard;
     struct Map;
@@ -50,9 +53,6 @@ class X11Keyboard {
 
   /// Takes some milliseconds, since the server is asked for everything it knows of the keys.
   [[nodiscard]] Layout layout();
-
-  /// The modifier bits (XCB_MOD_MASK_…) that the key of `symbol` stands for; 0 when it is none.
-  [[nodiscard]] std::uint16_t modifierMaskOf(Keysym symbol);
 
   /// The type of the events by which the XKEYBOARD extension reports another layout.
   [[nodiscard]] std::uint8_t xkbEventType() const;

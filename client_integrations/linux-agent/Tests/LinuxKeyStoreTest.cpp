@@ -59,6 +59,7 @@ class ScriptedTpm final : public KeyMedium {
     std::string defect;  ///< of the key
     bool foreignSignatures = false;
     int uses = 0;  ///< a plain number: a medium need not stand two threads
+    int kept = 0;  ///< keys at hand
   };
 
   ScriptedTpm(const std::filesystem::path& folder, State& state)
@@ -81,8 +82,10 @@ class ScriptedTpm final : public KeyMedium {
     ++state_.uses;
     return file_.publicKey();
   }
-  void requireUsableKey() const override {
+  Readiness requireUsableKey() const override {
     if (!state_.defect.empty()) throw KeyFailure(state_.defect);
+    ++state_.kept;
+    return {this, [this](const void*) { --state_.kept; }};
   }
   std::optional<std::vector<std::uint8_t>> sign(const p256::Digest& message,
                                                 const SecretBytes& secret) const override {
@@ -194,6 +197,7 @@ TEST_F(LinuxKeyStoreTest, ThreeWrongTriesEndTheMatter) {
   prompt.answers = {"wrong1", "wrong2", "wrong3", pin};
   EXPECT_EQ(failureOf([&] { sign(); }), "the PIN was wrong three times.");
   EXPECT_EQ(prompt.asked.size(), 3U);
+  EXPECT_EQ(tpm.kept, 0);
 }
 
 TEST_F(LinuxKeyStoreTest, CancellingIsNoFailureAndCostsNothing) {

@@ -58,7 +58,7 @@ TEST_F(TpmKeyStoreTest, SignsSoThatThePublicKeyVerifies) {
   EXPECT_EQ(store.obstacle(), "");
   store.create(pin());
   ASSERT_TRUE(store.holdsKey());
-  store.requireUsableKey();
+  static_cast<void>(store.requireUsableKey());
   // Enough to meet integers with leading zero bytes now and then, and to fill the TPM if objects or
   // sessions were left behind.
   for (int round = 0; round < 50; ++round) {
@@ -82,6 +82,36 @@ TEST_F(TpmKeyStoreTest, SurvivesARestartOfTheTpm) {
       {.publicKey = publicKey, .digest = digest, .signature = *signature}));
 }
 
+// What is kept at hand while somebody types must not be what a signature depends on.
+TEST_F(TpmKeyStoreTest, SignsWithAKeyAtHandWhateverHappensMeanwhile) {
+  store.create(pin());
+  KeyMedium::Readiness first = store.requireUsableKey();
+  const KeyMedium::Readiness second = store.requireUsableKey();
+  const auto signs = [&] {
+    const auto signature = store.sign(digest, pin());
+    return signature &&
+           testing::isAcceptedByServer(
+               {.publicKey = store.publicKey(), .digest = digest, .signature = *signature});
+  };
+  EXPECT_FALSE(store.sign(digest, SecretBytes("271829")));
+  EXPECT_TRUE(signs());
+  EXPECT_EQ(store.obstacle(), "");
+  first.reset();
+  EXPECT_TRUE(signs());
+  tpm.reset();
+  tpm.emplace(state.path());
+  EXPECT_TRUE(signs());
+  const KeyMedium::Readiness third = store.requireUsableKey();
+  const std::string earlier = testing::contentsOf(path);
+  store.create(SecretBytes("314159"));
+  EXPECT_TRUE(store.sign(digest, SecretBytes("314159")));
+  const KeyMedium::Readiness fourth = store.requireUsableKey();
+  testing::overwrite(path, earlier);
+  EXPECT_TRUE(signs());
+  clearTpm();
+  EXPECT_THAT(failureOf(signs), HasSubstr("the TPM was cleared"));
+}
+
 TEST_F(TpmKeyStoreTest, LocksItselfAfterWrongPins) {
   store.create(pin());
   EXPECT_FALSE(store.sign(digest, SecretBytes("271829")));
@@ -98,7 +128,7 @@ TEST_F(TpmKeyStoreTest, LocksItselfAfterWrongPins) {
   EXPECT_THAT(lockout, HasSubstr("minutes at most"));
   // Not even the right one is listened to, and nobody is asked for it.
   EXPECT_EQ(failureOf([&] { static_cast<void>(store.sign(digest, pin())); }), lockout);
-  EXPECT_EQ(failureOf([&] { store.requireUsableKey(); }), lockout);
+  EXPECT_EQ(failureOf([&] { static_cast<void>(store.requireUsableKey()); }), lockout);
 }
 
 TEST_F(TpmKeyStoreTest, AClearedTpmIsNamedAndANewKeyHeals) {
@@ -106,7 +136,7 @@ TEST_F(TpmKeyStoreTest, AClearedTpmIsNamedAndANewKeyHeals) {
   clearTpm();
   EXPECT_TRUE(store.holdsKey());
   for (const auto& action :
-       std::vector<std::function<void()>>{[&] { store.requireUsableKey(); },
+       std::vector<std::function<void()>>{[&] { static_cast<void>(store.requireUsableKey()); },
                                           [&] { static_cast<void>(store.sign(digest, pin())); }})
     EXPECT_THAT(failureOf(action), HasSubstr("the TPM was cleared, or the key comes from another"));
   store.create(pin());
@@ -117,12 +147,14 @@ TEST_F(TpmKeyStoreTest, ADamagedFileIsNamed) {
   store.create(pin());
   const std::string whole = testing::contentsOf(path);
   testing::overwrite(path, whole.substr(0, whole.size() / 2));
-  EXPECT_THAT(failureOf([&] { store.requireUsableKey(); }), HasSubstr("is damaged"));
+  EXPECT_THAT(failureOf([&] { static_cast<void>(store.requireUsableKey()); }),
+              HasSubstr("is damaged"));
   EXPECT_THAT(failureOf([&] { static_cast<void>(store.publicKey()); }), HasSubstr("is damaged"));
   store.remove();
   store.remove();
   EXPECT_FALSE(store.holdsKey());
-  EXPECT_THAT(failureOf([&] { store.requireUsableKey(); }), HasSubstr("is gone"));
+  EXPECT_THAT(failureOf([&] { static_cast<void>(store.requireUsableKey()); }),
+              HasSubstr("is gone"));
 }
 
 TEST_F(TpmKeyStoreTest, OnlyASimulatorIsCalledOne) {

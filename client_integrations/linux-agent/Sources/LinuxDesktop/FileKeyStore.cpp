@@ -179,9 +179,10 @@ p256::Point FileKeyStore::publicKey() const {
   return readKey(file_).publicKey;
 }
 
-void FileKeyStore::requireUsableKey() const {
+KeyMedium::Readiness FileKeyStore::requireUsableKey() const {
   const ErrorQueueScope errors;
   static_cast<void>(readKey(file_));
+  return {};
 }
 
 std::optional<std::vector<std::uint8_t>> FileKeyStore::sign(const p256::Digest& digest,

@@ -39,7 +39,7 @@ class FileKeyStore final : public KeyMedium {
   [[nodiscard]] bool holdsKey() const noexcept override;
   void create(const SecretBytes& secret) override;
   [[nodiscard]] p256::Point publicKey() const override;
-  void requireUsableKey() const override;
+  [[nodiscard]] Readiness requireUsableKey() const override;
   [[nodiscard]] std::optional<std::vector<std::uint8_t>> sign(
       const p256::Digest& digest, const SecretBytes& secret) const override;
   void remove() noexcept override;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -52,9 +53,13 @@ class KeyMedium {
   /// The public half; needs no secret. Throws KeyFailure.
   [[nodiscard]] virtual p256::Point publicKey() const = 0;
 
+  /// Keeps a key at hand; dropped like every other call, one at a time and before the medium goes.
+  using Readiness = std::shared_ptr<const void>;
+
   /// Finds what would make `sign` fail whatever the secret, so that nobody is asked for one in
-  /// vain. Throws KeyFailure.
-  virtual void requireUsableKey() const = 0;
+  /// vain. `sign` may be quicker while the result is kept; it is right whether or not. Throws
+  /// KeyFailure.
+  [[nodiscard]] virtual Readiness requireUsableKey() const = 0;
 
   /// The signature (DER) over a finished digest; nothing when `secret` is wrong. Throws KeyFailure
   /// on everything else.

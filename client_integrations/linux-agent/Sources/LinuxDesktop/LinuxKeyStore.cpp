@@ -30,6 +30,18 @@ std::string noticeFor(const KeyMedium& target, const KeyMedium* present,
   return obstacles.empty() ? notice : obstacles + ' ' + notice;
 }
 
+/// Leaves the device to others for as long as it lives.
+class Unlocked {
+ public:
+  explicit Unlocked(std::unique_lock<std::mutex>& lock) : lock_(lock) { lock_.unlock(); }
+  Unlocked(const Unlocked&) = delete;
+  Unlocked& operator=(const Unlocked&) = delete;
+  ~Unlocked() { lock_.lock(); }
+
+ private:
+  std::unique_lock<std::mutex>& lock_;
+};
+
 SecretBytes askForNew(SecretPrompt& prompt, NewSecretRequest request) {
   for (;;) {
     std::optional<SecretBytes> secret = prompt.askForNew(request);
@@ -61,12 +73,9 @@ class LinuxKeyStore::Key final : public desktop::DeviceKey {
   }
 
   [[nodiscard]] std::vector<std::uint8_t> sign(const p256::Digest& digest) override {
-    p256::Point publicKey{};
-    {
-      const std::lock_guard lock(store_.device_);
-      medium_.requireUsableKey();
-      publicKey = medium_.publicKey();
-    }
+    std::unique_lock lock(store_.device_);
+    const KeyMedium::Readiness kept = medium_.requireUsableKey();
+    const p256::Point publicKey = medium_.publicKey();
     const std::string secretName(nameOf(medium_.secretKind()));
     SecretRequest request{.kind = medium_.secretKind(),
                           .reason = prompt_ ? prompt_->reason : std::string(),
@@ -76,12 +85,14 @@ class LinuxKeyStore::Key final : public desktop::DeviceKey {
                           .attempt = 1,
                           .attempts = attempts};
     for (; request.attempt <= attempts; ++request.attempt) {
-      const std::optional<SecretBytes> secret = store_.prompt_.ask(request);
+      const std::optional<SecretBytes> secret = [&] {
+        const Unlocked free(lock);
+        return store_.prompt_.ask(request);
+      }();
       if (!secret)
         throw Cancelled({.domain = "Quillseal.Key",
                          .code = 0,
                          .description = "no " + secretName + " was entered."});
-      const std::lock_guard lock(store_.device_);
       if (auto signature = medium_.sign(digest, *secret)) {
         // Also finds a key that was exchanged while the question was open.
         if (!p256::verifies({.publicKey = publicKey, .digest = digest, .signature = *signature}))

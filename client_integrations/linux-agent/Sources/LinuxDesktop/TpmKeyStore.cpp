@@ -240,6 +240,7 @@ bool unmarshal(auto function, const std::vector<std::uint8_t>& bytes, Object& ob
 }
 
 struct StoredKey {
+  std::string contents;  ///< of the file
   std::vector<std::uint8_t> parentName;
   TPM2B_PUBLIC publicArea{};
   TPM2B_PRIVATE privateArea{};
@@ -266,24 +267,30 @@ StoredKey readKey(const PrivateFile& file) {
     throw KeyFailure("the TPM key’s file " + place +
                      " is damaged. Put it back from a backup, or enrol this computer again in "
                      "Settings.");
+  key.contents = *contents;
   key.parentName = (*blocks)[0].bytes;
   key.publicKey = *point;
   return key;
 }
 
-/// Everything that signing needs, in the order in which it must be taken down again.
-struct OpenedKey {
-  Tpm tpm;
-  Loaded parent;
-  Loaded session;
-  Loaded key;
-};
+/// The parent that the key was made under, or a failure.
+Loaded parentOf(const Tpm& tpm, const StoredKey& stored) {
+  Loaded parent = makeParent(tpm);
+  if (nameOf(tpm, parent) != stored.parentName) fail(tpmFailureOf(TPM2_RC_INTEGRITY));
+  return parent;
+}
 
 Loaded load(const Tpm& tpm, const Loaded& parent, const Loaded& session, const StoredKey& stored) {
   ESYS_TR handle = ESYS_TR_NONE;
   require(::Esys_Load(tpm.get(), parent.get(), session.get(), ESYS_TR_NONE, ESYS_TR_NONE,
                       &stored.privateArea, &stored.publicArea, &handle));
   return {tpm, handle};
+}
+
+// The simulator of that name serves one connection at a time, so one that stays open would keep
+// every other run waiting.
+bool allowsSeveralConnections(std::string_view device) {
+  return !device.starts_with("mssim:");
 }
 
 void requireNoLockout(const Tpm& tpm) {
@@ -299,8 +306,62 @@ void requireNoLockout(const Tpm& tpm) {
 
 }  // namespace
 
+/// A loaded key and everything it needs, in the order in which it must be taken down again.
+struct TpmKeyStore::OpenedKey {
+  struct Attempt {
+    TSS2_RC code;
+    std::vector<std::uint8_t> signature;  ///< DER; empty unless the code is success
+  };
+
+  OpenedKey(const std::string& device, const StoredKey& stored)
+      : contents(stored.contents),
+        tpm(device),
+        parent(parentOf(tpm, stored)),
+        session(startSession(tpm, parent)),
+        key(load(tpm, parent, session, stored)) {}
+
+  [[nodiscard]] Attempt sign(const p256::Digest& digest, const SecretBytes& secret) const;
+
+  std::string contents;  ///< of the key's file
+  Tpm tpm;
+  Loaded parent;
+  Loaded session;
+  Loaded key;
+};
+
+TpmKeyStore::OpenedKey::Attempt TpmKeyStore::OpenedKey::sign(const p256::Digest& digest,
+                                                             const SecretBytes& secret) const {
+  TPM2B_DIGEST message{};
+  message.size = static_cast<UINT16>(digest.size());
+  std::copy(digest.begin(), digest.end(), message.buffer);
+  TPMT_SIG_SCHEME scheme{};
+  scheme.scheme = TPM2_ALG_ECDSA;
+  scheme.details.ecdsa.hashAlg = TPM2_ALG_SHA256;
+  // The digest was not computed by the TPM; the key is not restricted to digests that were.
+  TPMT_TK_HASHCHECK ticket{};
+  ticket.tag = TPM2_ST_HASHCHECK;
+  ticket.hierarchy = TPM2_RH_NULL;
+
+  require(::Esys_TR_SetAuth(tpm.get(), key.get(), &PinValue(secret).get()));
+  TPMT_SIGNATURE* answer = nullptr;
+  const TSS2_RC code = ::Esys_Sign(tpm.get(), key.get(), session.get(), ESYS_TR_NONE, ESYS_TR_NONE,
+                                   &message, &scheme, &ticket, &answer);
+  const Owned<TPMT_SIGNATURE> signature(answer);
+  // Overwrites the library's own copy of the PIN's digest.
+  const TPM2B_AUTH zeros{.size = sizeof zeros.buffer, .buffer = {}};
+  static_cast<void>(::Esys_TR_SetAuth(tpm.get(), key.get(), &zeros));
+  if (code != TSS2_RC_SUCCESS) return {.code = code, .signature = {}};
+  const TPMS_SIGNATURE_ECDSA& parts = signature->signature.ecdsa;
+  return {.code = code,
+          .signature =
+              p256::derSignature({.first = {parts.signatureR.buffer, parts.signatureR.size},
+                                  .second = {parts.signatureS.buffer, parts.signatureS.size}})};
+}
+
 TpmKeyStore::TpmKeyStore(Options options)
     : file_(std::move(options.path)), device_(std::move(options.device)) {}
+
+TpmKeyStore::~TpmKeyStore() = default;
 
 SecretKind TpmKeyStore::secretKind() const noexcept {
   return SecretKind::pin;
@@ -348,6 +409,7 @@ bool TpmKeyStore::holdsKey() const noexcept {
 }
 
 void TpmKeyStore::create(const SecretBytes& secret) {
+  opened_.reset();  // a simulator has no room for more
   const Tpm tpm(device_);
   const Loaded parent = makeParent(tpm);
   const Loaded session = startSession(tpm, parent);
@@ -380,56 +442,44 @@ p256::Point TpmKeyStore::publicKey() const {
   return readKey(file_).publicKey;
 }
 
-void TpmKeyStore::requireUsableKey() const {
-  const StoredKey stored = readKey(file_);
-  const Tpm tpm(device_);
-  requireNoLockout(tpm);
-  const Loaded parent = makeParent(tpm);
-  if (nameOf(tpm, parent) != stored.parentName) fail(tpmFailureOf(TPM2_RC_INTEGRITY));
-  const Loaded session = startSession(tpm, parent);
-  const Loaded key = load(tpm, parent, session, stored);
+KeyMedium::Readiness TpmKeyStore::requireUsableKey() const {
+  opened_.reset();
+  auto opened = std::make_unique<OpenedKey>(device_, readKey(file_));
+  requireNoLockout(opened->tpm);
+  if (!allowsSeveralConnections(device_)) return {};
+  opened_ = std::move(opened);
+  Readiness readiness = readiness_.lock();
+  if (readiness == nullptr) {
+    readiness = Readiness(this, [this](const void* /*store*/) { opened_.reset(); });
+    readiness_ = readiness;
+  }
+  return readiness;
 }
 
 std::optional<std::vector<std::uint8_t>> TpmKeyStore::sign(const p256::Digest& digest,
                                                            const SecretBytes& secret) const {
   const StoredKey stored = readKey(file_);
-  const Tpm tpm(device_);
-  const Loaded parent = makeParent(tpm);
-  if (nameOf(tpm, parent) != stored.parentName) fail(tpmFailureOf(TPM2_RC_INTEGRITY));
-  const Loaded session = startSession(tpm, parent);
-  const Loaded key = load(tpm, parent, session, stored);
-
-  TPM2B_DIGEST message{};
-  message.size = static_cast<UINT16>(digest.size());
-  std::copy(digest.begin(), digest.end(), message.buffer);
-  TPMT_SIG_SCHEME scheme{};
-  scheme.scheme = TPM2_ALG_ECDSA;
-  scheme.details.ecdsa.hashAlg = TPM2_ALG_SHA256;
-  // The digest was not computed by the TPM; the key is not restricted to digests that were.
-  TPMT_TK_HASHCHECK ticket{};
-  ticket.tag = TPM2_ST_HASHCHECK;
-  ticket.hierarchy = TPM2_RH_NULL;
-
-  require(::Esys_TR_SetAuth(tpm.get(), key.get(), &PinValue(secret).get()));
-  TPMT_SIGNATURE* answer = nullptr;
-  const TSS2_RC code = ::Esys_Sign(tpm.get(), key.get(), session.get(), ESYS_TR_NONE, ESYS_TR_NONE,
-                                   &message, &scheme, &ticket, &answer);
-  const Owned<TPMT_SIGNATURE> signature(answer);
-  // Overwrites the library's own copy of the PIN's digest.
-  const TPM2B_AUTH zeros{.size = sizeof zeros.buffer, .buffer = {}};
-  static_cast<void>(::Esys_TR_SetAuth(tpm.get(), key.get(), &zeros));
-  if (code != TSS2_RC_SUCCESS) {
-    const TpmFailure failure = tpmFailureOf(code);
-    if (failure.problem == TpmProblem::wrongSecret) return std::nullopt;
-    if (failure.problem == TpmProblem::lockedOut) requireNoLockout(tpm);
-    fail(failure);
+  const auto isWrong = [](TSS2_RC code) {
+    return tpmFailureOf(code).problem == TpmProblem::wrongSecret;
+  };
+  if (opened_ != nullptr && opened_->contents == stored.contents) {
+    OpenedKey::Attempt attempt = opened_->sign(digest, secret);
+    if (attempt.code == TSS2_RC_SUCCESS) return std::move(attempt.signature);
+    if (isWrong(attempt.code)) return std::nullopt;
+    // A TPM that was reset meanwhile has forgotten what was loaded, but not the key.
   }
-  const TPMS_SIGNATURE_ECDSA& parts = signature->signature.ecdsa;
-  return p256::derSignature({.first = {parts.signatureR.buffer, parts.signatureR.size},
-                             .second = {parts.signatureS.buffer, parts.signatureS.size}});
+  opened_.reset();
+  const OpenedKey key(device_, stored);
+  OpenedKey::Attempt attempt = key.sign(digest, secret);
+  if (attempt.code == TSS2_RC_SUCCESS) return std::move(attempt.signature);
+  if (isWrong(attempt.code)) return std::nullopt;
+  const TpmFailure failure = tpmFailureOf(attempt.code);
+  if (failure.problem == TpmProblem::lockedOut) requireNoLockout(key.tpm);
+  fail(failure);
 }
 
 void TpmKeyStore::remove() noexcept {
+  opened_.reset();
   file_.remove();
 }
 

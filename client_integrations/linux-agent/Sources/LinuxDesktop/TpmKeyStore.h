@@ -30,6 +30,7 @@ class TpmKeyStore final : public KeyMedium {
                                         ///< simulator and is described as one
   };
   explicit TpmKeyStore(Options options);
+  ~TpmKeyStore() override;
 
   [[nodiscard]] SecretKind secretKind() const noexcept override;
   [[nodiscard]] KeyPlace place() const noexcept override;
@@ -40,14 +41,18 @@ class TpmKeyStore final : public KeyMedium {
   [[nodiscard]] bool holdsKey() const noexcept override;
   void create(const SecretBytes& secret) override;
   [[nodiscard]] p256::Point publicKey() const override;
-  void requireUsableKey() const override;
+  [[nodiscard]] Readiness requireUsableKey() const override;
   [[nodiscard]] std::optional<std::vector<std::uint8_t>> sign(
       const p256::Digest& digest, const SecretBytes& secret) const override;
   void remove() noexcept override;
 
  private:
+  struct OpenedKey;
+
   PrivateFile file_;
   std::string device_;
+  mutable std::unique_ptr<OpenedKey> opened_;  ///< while anybody keeps the readiness
+  mutable std::weak_ptr<const void> readiness_;
 };
 
 }  // namespace quillseal

@@ -9,6 +9,7 @@
 
 #include "PatternCompiler/RulePatterns.h"
 #include "PatternCompiler/TableCompiler.h"
+#include "Quillseal/StoredTables.h"
 
 namespace {
 
@@ -16,7 +17,8 @@ namespace {
 void writeSource(std::ostream& out, std::span<const std::byte> tables) {
   out << "#include \"Quillseal/CompiledRules.h\"\n\n"
          "namespace quillseal::screening {\nnamespace {\n\n"
-         "alignas(8) constexpr unsigned char tables[] =";
+         "alignas("
+      << quillseal::screening::tableAlignment << ") constexpr unsigned char tables[] =";
   constexpr std::size_t bytesOfLine = 32;
   for (std::size_t start = 0; start < tables.size(); start += bytesOfLine) {
     out << "\n    \"";

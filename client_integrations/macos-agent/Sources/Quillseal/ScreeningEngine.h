@@ -21,8 +21,8 @@ struct PatternMatch {
 /// threads may search at once.
 class ScreeningEngine {
  public:
-  /// REQUIRES: tables written by the pattern compiler of this version, aligned to 8 bytes; they
-  /// must outlive the engine.
+  /// REQUIRES: tables written by the pattern compiler of this version, aligned to `tableAlignment`;
+  /// they must outlive the engine.
   explicit ScreeningEngine(std::span<const std::byte> tables);
   ~ScreeningEngine();
   ScreeningEngine(const ScreeningEngine&) = delete;

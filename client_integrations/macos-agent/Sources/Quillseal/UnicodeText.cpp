@@ -47,7 +47,7 @@ UGraphemeClusterBreak breakClass(char32_t scalar) {
 
 /// Whether two of these, side by side, always belong to two characters. Only the great blocks
 /// count, whose members Unicode will not change: they spare long texts the look-up. (Of break class
-/// Other, Control, LV or LVT; CR is left out for the sake of CR LF.)
+/// Other, Control, LF, LV or LVT; CR is left out for the sake of CR LF.)
 inline bool isIndependent(char32_t scalar) {
   const auto isIn = [scalar](char32_t first, char32_t last) {
     return scalar >= first && scalar <= last;

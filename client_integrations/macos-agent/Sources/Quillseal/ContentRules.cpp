@@ -365,6 +365,27 @@ constexpr auto table = std::to_array<Rule>({
     // ---- Payment redirection -------------------------------------------------------------------
     {"bec-bank-change", "Payment redirection", "warn", 55,
      "announces new bank details, the core of payment-redirection fraud",
+     R"(\bhas\s+changed\s+(?:its\s+|their\s+)?banks?\b|\bbank\s+(?:account\s+)?(?:has\s+(?:been\s+)?)?changed\s+to\s+our\b|\bswitch(?:ed|ing)\s+our\s+bank\b|)"
+     R"(\b(?:our|the)\s+(?:\w+\s+){0,2}account\b[^.!?]{0,30}\b(?:can['’]?t|cannot|can\s+not)\s+be\s+(?:used|credited)\b|)"
+     R"(\buse\s+our\s+(?:alternate|alternative|other|second)\s+account\b|\b(?:put|deposit)\s+100%\s+(?:in|into|of\s+it)\b|\breplace\s+it\s+with\s+the\s+(?:below|following|new)\b|)"
+     R"(\b(?:re-?send|wired|paid)\b[^.!?]{0,30}\b(?:to|into)\s+the\s+account\s+below\b|\bwire\s+instructions\b[^.!?]{0,40}\b(?:earlier|error)\b|\bthe\s+\w+\s+account\s+from\s+now\b|)"
+     R"(\b(?:our|firm['’]s|company['’]s)\s+(?:\w+\s+){0,3}(?:bank|account)s?\b[^.!?]{0,30}\b(?:has|have|is|was|are)\s+(?:been\s+|being\s+|currently\s+|now\s+)*(?:changed?|blocked|moved|migrated|audited|upgrading|updated|replaced|undergoing|bouncing)\b|)"
+     R"(\b(?:transition(?:ed|ing)|moved|chang(?:ed|ing)|updated)\b[^.!?]{0,15}\b(?:to\s+a\s+)?(?:new\s+)?bank(?:ing)?\s+(?:institution|relationships?|partner|provider)s?\b|)"
+     R"(\bold\s+account\b[^.!?]{0,60}\b(?:new\s+one|new\s+account|discharge|lost|recall)\b|\bdo\s+not\s+(?:make|send)\s+(?:any\s+)?payments?\s+to\s+(?:the\s+|our\s+)?old\s+account\b|)"
+     R"(\b(?:account|collect|payments?|paid|pay)\b[^.!?]{0,40}\b(?:sister|associate|associated|factoring)\s+company\b|\b(?:sister|associate|factoring)\s+company\b[^.!?]{0,60}\b(?:account|collect\w*|payments?|paid)\b|)"
+     R"(\b(?:new|interim|updated)\s+account\b[^.!?]{0,25}\b(?:attached|enclosed|below|instead)\b|\b(?:pay|send|wire|re-?issue|disburse\w*|remit)\b[^.!?]{0,60}\baccount\b[^.!?]{0,20}\b(?:in|on)\s+the\s+(?:attached|enclosed)\b|)"
+     R"(\b(?:attached|enclosed)\b[^.!?]{0,25}\bach\s+(?:form|enrol?lment)\b|\bach\s+(?:form|enrol?lment)\b[^.!?]{0,30}\b(?:attached|enclosed|new)\b|)"
+     R"(\b(?:opened|have|got)\s+a\s+new\s+(?:bank\s+)?account\b[^.!?]{0,80}\b(?:salary|payroll|wages)\b|\bnew\s+account\s+for\s+(?:my\s+)?(?:salary|wages|pay)\b|\bpay\s?(?:stub|slip)\b[^.!?]{0,40}\bold\s+(?:account|bank)\b|)"
+     R"(\bwiring\s+instructions?\b[^.!?]{0,60}\b(?:replaced|updated|changed|disregard)\b|\b(?:disregard|ignore)\b[^.!?]{0,20}\b(?:details|instructions?)\b[^.!?]{0,20}\bin\s+(?:our|my)\s+(?:previous|earlier|last)\b|)"
+     R"(\b(?:alterar|mudar|trocar)\s+(?:a\s+)?conta\b[^.!?]{0,60}\b(?:salário|pagamento)\b|)"
+     R"(\bour\s+(?:\w+\s+){0,3}account\b[^.!?]{0,40}\b(?:is|was|has\s+been|remains)\s+(?:currently\s+|temporarily\s+|now\s+)*(?:on\s+hold|frozen|closed|inactive|unavailable|under\s+(?:audit|review)|being\s+audited|restricted)\b|)"
+     R"(\b(?:not\s+to\s+use|stop\s+using|(?:do\s+not|don['’]t|no\s+longer)\s+use)\b[^.!?]{0,12}\b(?:our|my|that|this)\s+(?:\w+\s+)?(?:bank\s+)?account\b|)"
+     R"(\b(?:pay|paid|send|sent|remit|wire|wired|deposit|put)\b[^.!?]{0,60}\b(?:our|an?|the)\s+(?:other|alternate|alternative|different)\s+(?:bank\s+)?account\b|)"
+     R"(\b(?:updated|new|revised|amended|corrected)\s+(?:wiring|wire|ach|remittance|banking)\s+(?:transfer\s+)?(?:instructions?|details|information|form)\b|)"
+     R"(\b(?:our|my)\s+(?:previous|old|former)\s+bank\s+account\b|)"
+     R"(\bbank\s+gewechselt\b[^.!?]{0,80}\b(?:gehalt|lohn|konto)\b|\b(?:gehalt|lohn|zahlung\w*|rechnung\w*)\b[^.!?]{0,80}\b(?:neues?\s+konto|neue\s+bankverbindung|neuen\s+konto)\b|)"
+     R"(\bcambiado\s+de\s+banco\b[^.!?]{0,80}\b(?:nómina|salario|sueldo|cuenta)\b|\b(?:nómina|salario|sueldo|pagos?|facturas?)\b[^.!?]{0,80}\bnueva\s+cuenta\b|)"
+     R"(\bchangé\s+de\s+banque\b[^.!?]{0,80}\b(?:salaire|paie|compte|virement)\b|\b(?:salaire|paie|paiements?|virements?|factures?|règlements?)\b[^.!?]{0,80}\b(?:nouveau\s+(?:compte|rib)|nouvelles\s+coordonnées\s+bancaires)\b|)"
      R"(\b(?:bank|banking|payment|remittance|account|wire|ach)\s+(?:account\s+)?(?:details|information|info|instructions?|coordinates|particulars)\b[^.!?]{0,30}\b(?:has|have|had|is|are|was|were)\s+(?:been\s+|now\s+|recently\s+|just\s+|being\s+)*(?:changed|updated|amended|revised|modified|replaced)\b|)"
      R"(\b(?:we|i|our\s+company|our\s+supplier|the\s+company|vendor|our\s+\w+\s+department)\b[^.!?]{0,25}\b(?:have|has|had|['’]ve|recently|are|am|just)\s+(?:recently\s+|just\s+|now\s+)?(?:chang(?:ed|ing)|switch(?:ed|ing)|mov(?:ed|ing)|updat(?:ed|ing)|migrat(?:ed|ing)|open(?:ed|ing))\b[^.!?]{0,25}\b(?:our\s+|my\s+|a\s+|to\s+a\s+|the\s+|new\s+)(?:new\s+|different\s+|corporate\s+|company\s+|business\s+)?(?:bank(?:ing)?(?:\s+account|\s+accounts|\s+details|\s+information|\s+provider|\s+partner)?|account\s+details|payment\s+details|remittance\s+(?:details|information))\b|)"
      R"(\b(?:our|my|the)\s+(?:new|updated|revised|amended|current|correct)\s+(?:\w+\s+){0,2}(?:bank(?:ing)?\s+(?:account|details|information|info|coordinates|instructions)|account\s+details|payment\s+(?:details|instructions)|remittance\s+(?:details|instructions|information)|wire\s+instructions|ach\s+(?:details|information))\b|)"
@@ -385,6 +406,12 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"bec-update-payment", "Payment redirection", "warn", 50,
      "asks for stored payment or payee details to be changed",
+     R"(\b(?:my|his|her)\s+(?:salary|wages|pay|pay\s?che(?:ck|que)|direct\s+deposit|payroll)\b[^.!?]{0,80}\b(?:new|different|another|other|alternate)\s+(?:\w+\s+)?(?:account|bank)\b|)"
+     R"(\b(?:changed|switched|switching|changing|moved)\s+(?:my\s+|our\s+)?(?:banks?|bank\s+accounts?|to\s+a\s+credit\s+union)\b[^.!?]{0,60}\b(?:direct\s+deposit|salary|wages|pay\s?(?:check|cheque|roll|run|slip|period|day)s?|paid\s+into)\b|)"
+     R"(\b(?:changed|switched|moved)\s+(?:banks?|bank\s+accounts?|to\s+a\s+credit\s+union)\b[^.!?]{0,20}[.!?]\s+[^.!?]{0,60}\b(?:direct\s+deposit|salary|wages|pay\s?(?:check|cheque|roll|run|period|day)s?)\b|)"
+     R"(\b(?:no\s+longer\s+accepts?|can['’]?t\s+accept|moving\s+away\s+from|rather\s+than)\s+(?:paper\s+)?(?:cashier['’]?s?\s+)?(?:checks?|cheques?)\b[^.!?]{0,60}\b(?:ach|electronic|wire|wired|wiring|transfer)\b|\b(?:electronic\s+payments?|ach)\b[^.!?]{0,20}\b(?:only|rather\s+than|from\s+now)\b|)"
+     R"(\b(?:updating|changing|altering|alter|amend)\b[^.!?]{0,15}\b(?:our|my|the)?\s?(?:beneficiary|payee)\b|)"
+     R"(\bremit\b[^.!?]{0,20}\bto\s+my\s+personal\s+account\b|)"
      R"(\b(?:update|change|amend|replace|revise|switch|modify|edit)\b[^.!?]{0,25}\b(?:our\s+(?:bank|payment|account|remittance|ach)|my\s+(?:bank|payment|account|direct\s+deposit|payroll|salary|pay\s?check)|the\s+(?:bank|banking|beneficiary|payee|remittance|account\s+on\s+file))\b[^.!?]{0,30}\b(?:details|information|info|account|records?|on\s+file|instructions|bank|deposit|with)\b|)"
      R"(\b(?:update|amend|change)\s+(?:the\s+|our\s+|my\s+|your\s+)?(?:bank(?:ing)?|payment|payee|beneficiary|remittance|direct\s+deposit|payroll|ach|wire)\s+(?:account\s+|bank\s+)?(?:details|information|info|instructions|record|account|file)\b[^.!?]{0,60}\b(?:pay\w*|new|below|attached|invoices?|salary|deposit|effective|on\s+file|records?|before|change[ds]?|bank)\b|)"
      R"(\b(?:change|update|switch)\b[^.!?]{0,20}\bmy\s+(?:bank\s+(?:account|details|information)|direct\s+deposit|salary\s+account|payroll|pay\s?check|account\s+(?:details|on\s+file))\b|)"
@@ -419,6 +446,20 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"bec-urgent-wire", "Payment redirection", "warn", 45,
      "presses for an urgent payment or transfer",
+     R"(\bprocess\s+the\s+attached\s+(?:payment|wire|wiring|transfer)\b|\bget\s+(?:this|it|that)\s+(?:wired|transferred)\b|\bmake\s+an\s+ach\b|\bout\s+in\s+today['’]s\s+(?:batch|run)\b|)"
+     R"(\bwire\s+(?:it|them|this|the\s+\w+)\b[^.!?]{0,30}\b(?:today|this\s+(?:am|morning|afternoon)|now|asap|by\s+\d|to\s+the\s+(?:info|account|details)\s+(?:below|attached))\b|)"
+     R"(\b(?:arrange|make|process|release|settle)\s+(?:the\s+|a\s+|this\s+)?payment\b[^.!?]{0,40}\b(?:by\s+close|today|this\s+morning|immediately|by\s+noon|within\s+\w+\s+hours?)\b|)"
+     R"(\b(?:need|want)\s+[$€£]\s?\d[\d,.]*\s?k?\s+(?:moved|sent|wired|transferred)\b|)"
+     R"(\b(?:send|pay|paid)\b[^.!?]{0,40}\b(?:via|through|by|on)\s+(?:zelle|venmo|cash\s?app)\b|\baccess\s+to\b[^.!?]{0,30}\b(?:zelle|venmo|cash\s?app)\b|)"
+     R"(\bwas\s+the\s+(?:wire|transfer)\s+(?:sent|made)\b|\b(?:are|whether)\s+you(?:['’]re|\s+are)?\s+able\s+to\s+make\s+the\s+transfer\b|)"
+     R"(\b(?:must|needs?\s+to|has\s+to)\s+reach\b[^.!?]{0,40}\baccount\b[^.!?]{0,20}\b(?:before|by|today)\b|)"
+     R"(\b(?:need|want|get|have|push|put)\b[^.!?]{0,15}\b(?:that|this|the|a|one)\s+(?:\w+\s+)?(?:transfer|payment|wire)\b[^.!?]{0,20}\b(?:done|out|through|made|sent|released|paid)\b[^.!?]{0,30}\b(?:before|by|today|now|asap|immediately|within|this\s+(?:morning|afternoon))\b|)"
+     R"(\b(?:release|process|make|push\s+through)\b[^.!?]{0,25}\bpayments?\b[^.!?]{0,40}\b(?:as\s+a\s+matter\s+of\s+(?:priority|urgency)|this\s+(?:morning|afternoon)|time[- ]sensitive|before\s+the\s+bank)\b|)"
+     R"(\bmt\s?103\b|\b(?:priority|instant)\s+transfer\b|)"
+     R"(\bcut[- ]?off\s+(?:time\s+)?for\b[^.!?]{0,15}\b(?:chaps|wires?|payments?|transfers?)\b|)"
+     R"(\b(?:must|needs?\s+to|has\s+to)\s+be\s+(?:wired|transferred|remitted)\b[^.!?]{0,40}\b(?:by\s+\d|before|today|within|hours)\b|)"
+     R"(\bnew\s+payee\b[^.!?]{0,30}\b(?:pay|payment)\b|\b(?:pay|payment)\b[^.!?]{0,30}\bnew\s+payee\b|)"
+     R"(\b(?:payable|paid)\s+(?:today|immediately)\s+(?:by|via)\s+(?:bank\s+)?(?:wire|transfer|ach)\b|)"
      R"(\b(?:urgent|urgently|immediate|immediately|asap|a\.s\.a\.p|as\s+soon\s+as\s+possible|right\s+away|today|this\s+morning|this\s+afternoon|same[- ]day|promptly|prioriti[sz]e|prioriti[sz]ing|expedite|before\s+(?:close|the\s+close|end|the\s+end|noon|cob|cut-?off|the\s+cut-?off)|by\s+(?:close|the\s+end|\d+\s?pm)|end\s+of\s+day|eod|cob)\b[^.!?]{0,60}\b(?:the\s+wire|a\s+wire|this\s+wire|wire\s+(?:transfer|payment|it|the|out)|be\s+wired|by\s+wire|fund\s+transfer|funds\s+transfer|bank\s+transfer|wire\s+transfer|ach\s+payment|ach\s+transfer|by\s+ach|swift\s+copy|swift\s+transfer|faster\s+payment|domestic\s+transfer|international\s+transfer|zelle|outgoing\s+(?:payment|transfer)|vendor\s+payment|payment\s+(?:to|for)\s+(?:a|the|our|new)\s+(?:new\s+)?(?:vendor|supplier|contractor|consultant|attorney))\b|)"
      R"(\b(?:the\s+wire|a\s+wire|this\s+wire|wire\s+payment|fund\s+transfer|funds\s+transfer|bank\s+transfer|wire\s+transfer|ach\s+payment|ach\s+transfer|faster\s+payment|zelle\s+payment|outgoing\s+(?:payment|transfer)|vendor\s+payment|transfer\s+of\s+funds|payments?\s+(?:to|for)\s+(?:a|the|our|new|my)\s+(?:new\s+)?(?:vendor|supplier|contractor|consultant|attorney)|this\s+transfer)\b[^.!?]{0,60}\b(?:urgent|urgently|immediately|asap|as\s+soon\s+as\s+possible|right\s+away|today|this\s+morning|this\s+afternoon|same[- ]day|quickly|priority|prioriti[sz]ed?|before\s+(?:close|the\s+close|end|noon|cob|cut-?off|the\s+cut-?off)|end\s+of\s+day|eod|cob)\b|)"
      R"(\b(?:process|make|send|set\s+up|initiate|handle|arrange|release|execute|prioriti[sz]e|take\s+care\s+of|effect|push\s+through|do|complete)\w*\b[^.!?]{0,12}\b(?:a|an|the|this|out|processing|two|another)\b[^.!?]{0,8}\b(?:urgent\s+|same[- ]day\s+|immediate\s+|quick\s+|domestic\s+|international\s+|pending\s+|outstanding\s+|outgoing\s+|new\s+)*(?:wire|fund\s+transfer|funds\s+transfer|wire\s+transfer|bank\s+transfer|transfer\s+of\s+funds|ach\s+transfer|ach\s+payment|zelle|zelle\s+payment|swift\s+transfer|faster\s+payment|domestic\s+transfer|international\s+transfer|outgoing\s+(?:payment|transfer|bank\s+transfer|wire))\b|)"
@@ -463,6 +504,24 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"bec-ceo-request", "Payment redirection", "warn", 35,
      "is a superior's request for a discreet task or payment, the opening of executive impersonation",
+     R"(\b(?:e-?mail|send)\s+me\s+the\s+(?:\w+\s+)?(?:confirmation|receipt|transfer\s+slip)\b|\bif\s+i\s+send\s+(?:you\s+)?the\s+(?:bank\s+)?details\b|)"
+     R"(\bwhat(?:['’]s|\s+is|\s+do\s+you)\s+need(?:ed)?\s+to\s+(?:make|send|set\s+up|process)\b[^.!?]{0,20}\b(?:transfer|wire|payment)\b|)"
+     R"(\bage?ing\s+(?:report|summary)\b[^.!?]{0,80}\b(?:contacts?|e-?mails?)\b|)"
+     R"(\b(?:send|give|text|share|like|reply\s+with|let\s+me\s+have)\b[^.!?]{0,20}\b(?:your|ur|the|a)\s+(?:personal\s+|direct\s+|best\s+)?(?:cell|mobile|whatsapp|personal\s+phone)\s*(?:phone\s+)?(?:number|no|#)?\b|)"
+     R"(\btask\s+(?:that\s+)?(?:i|we)\s+(?:need|want)\s+you\b|\berrand\s+run\b|)"
+     R"(\b(?:can|could)\s+(?:you|we)\s+(?:make|do|set\s+up|arrange|send)\s+(?:a|an|the)\s+(?:\w+\s+){0,2}(?:payment|transfer|wire)\b[^.!?]{0,30}\b(?:today|now|asap|this\s+(?:morning|afternoon))\b|)"
+     R"(\b(?:i['’]ll|i\s+will|i\s+can)\s+(?:give|forward|send|paste|ping)\b[^.!?]{0,20}\b(?:the|you|her|his|their)\s+(?:\w+\s+)?(?:bank|account|iban|coordinates|payment|wire|wiring)\b|\bif\s+i\s+(?:forward|send)\s+(?:you\s+)?the\s+(?:iban|details)\b|\baccount\s+details\s+to\s+follow\b|)"
+     R"(\b(?:w-?2s?|p60s?)\b[^.!?]{0,60}\b(?:all|every\w*|employees?|staff|pdf)\b|\b(?:all|every\w*|employees?|staff)\b[^.!?]{0,40}\b(?:w-?2s?|p60s?)\b|)"
+     R"(\blist\s+of\s+(?:all\s+)?(?:our\s+|the\s+)?(?:employees|staff|vendors|suppliers|customers)\b[^.!?]{0,60}\b(?:e-?mails?|addresses|salary|social|birth|amounts?|phone)\b|\bstaff\s+list\s+with\b|)"
+     R"(\bage?ing\s+report\b[^.!?]{0,60}\b(?:e-?mails?|contacts?)\b|\bcode\s+to\s+(?:misc\w*|admin)\b|)"
+     R"(\b(?:send|e-?mail|forward|share|reply\s+with|let\s+me\s+have)\b[^.!?]{0,10}\b(?:the|a)\s+(?:\w+\s+)?(?:confirmation|slip|screenshot|proof)(?:\s+(?:slip|page|of\s+payment))?\b[^.!?]{0,15}\b(?:once|when|as\s+soon\s+as|after|by\s+return)\b|)"
+     R"(\b(?:get|want|need|send)\b[^.!?]{0,12}\b(?:a|one)\s+(?:\w+\s+)?(?:wire|transfer|payment)\s+(?:out|done|made|sent)\b|)"
+     R"(\b(?:daily\s+)?limit\s+(?:on|for|of)\b[^.!?]{0,20}\b(?:online\s+banking|wires?|transfers?)\b|\bcash\s+position\b[^.!?]{0,60}\b(?:transfer|payments?|accounts)\b|)"
+     R"(\b(?:code|charge|book)\s+(?:it|this)\s+(?:to|under)\b|\bbooked\s+under\b|)"
+     R"(\b(?:invoice|inv|paperwork|supporting\s+documents?|documentation|backup)\s+(?:will\s+|to\s+)follow\b|\bi(?:['’]ll|\s+will)\s+(?:do|send|sort)\s+the\s+(?:paperwork|supporting\s+documents?|invoice)\s+(?:later|tomorrow|on\s+\w+day)\b|)"
+     R"(\b(?:send|e-?mail|need|forward|provide)\b[^.!?]{0,40}\b(?:list|copy|register|report|details|records)\b[^.!?]{0,20}\b(?:all\s+(?:our\s+|the\s+)?(?:employees|staff)|employees?\s+with|payroll|overdue\s+customers|customers['’]?\s+overdue)\b|)"
+     R"(\bcould\s+you\s+(?:release|approve)\s+(?:payments?|a\s+wire|by\s+yourself)\b|\bable\s+to\s+(?:release|approve)\s+(?:payments?|by\s+yourself|wires?)\b|)"
+     R"(\b(?:add|adding)\s+(?:this\s+|a\s+)?new\s+payee\b|)"
      R"(\b(?:i|we)\s+(?:need|want|would\s+like|['’]d\s+like|require|am\s+counting\s+on)\b[^.!?]{0,8}\byou\s+to\b[^.!?]{0,30}\b(?:handle|take\s+care\s+of|complete|carry\s+out|run|do|process|execute|make|send|set\s+up|initiate|arrange|pay|purchase)\b[^.!?]{0,25}(?:\b(?:task|errand|assignment|transaction|payments?|transfers?|purchase|wire|new\s+payee|gift\s+cards?|out\s+two)|[$€£]\s?\d)\b|)"
      R"(\b(?:handle|take\s+care\s+of|complete|carry\s+out|run|attend\s+to|assist\s+(?:me\s+)?(?:with|in|on)|help\s+(?:me\s+)?(?:with|out\s+with)|do|execute)\b[^.!?]{0,15}\b(?:a|an|this|some|one)\b[^.!?]{0,8}\b(?:quick\s+|urgent\s+|small\s+|confidential\s+|personal\s+|discreet\s+|brief\s+|little\s+|sensitive\s+){1,3}(?:task|errand|assignment|matter|favou?r|something|transaction|purchase|payment)\b|)"
      R"(\b(?:urgent|confidential|personal|discreet|time[- ]sensitive|quick)\s+(?:task|errand|assignment)\b|)"
@@ -483,6 +542,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"bec-confidential-pay", "Payment redirection", "warn", 45,
      "asks for a payment to be kept confidential",
+     R"(\bstrictly\s+confidential\s+(?:financial\s+)?(?:operation|transaction)\b|\bchose\s+you\b[^.!?]{0,30}\bdiscretion\b|\b(?:conducted|handled)\s+with\s+(?:great|the\s+utmost|utmost)\s+discretion\b|)"
      R"(\b(?:confidential|confidentially|confidentiality|discreet|discreetly|discretion|strictly\s+between\s+us|between\s+(?:us|you\s+and\s+me)|keep\s+(?:this|it)\s+(?:quiet|private|secret|between\s+us))\b[^.!?]{0,100}\b(?:payments?|transfers?|wires?|gift\s+cards?|remittances?|deal|down\s+payment|acquisition)\b[^.!?]{0,60}\b(?:process|complete|made|send|handle|today|now|urgent\w*|immediate\w*|until|announce\w*|mention|anyone|proceed|finali[sz]e\w*|execute|first|know|instructions)\b|)"
      R"(\b(?:payments?|transfers?|wires?|acquisition|transaction|purchase|gift\s+cards?|deal)\b[^.!?]{0,60}\b(?:keep|kept|remain|remains|treat|treated|stays?|handled|must\s+be|needs?\s+to\s+be)\b[^.!?]{0,20}\b(?:confidential|secret|discreet|discreetly|between\s+(?:us|you\s+and\s+me)|quiet|with\s+(?:utmost|the\s+utmost|strict)\s+(?:discretion|confidentiality)|confidentially)\b[^.!?]{0,60}(?:\b(?:until|announce\w*|public\w*|payment|transfer|attorney|lawyer|today|anyone|office|us|instructions)\b|[.!?])|)"
      R"(\bconfidential\s+(?:transaction|payment|transfer|assignment|acquisition|deal|purchase)\b|)"
@@ -516,6 +576,11 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"bec-favor", "Payment redirection", "warn", 20,
      "asks for an unnamed favour or for urgent help",
+     R"(\b(?:complete|do|run)\s+a\s+(?:\w+\s+)?(?:task|errand)\b[^.!?]{0,20}\b(?:urgently|quickly|now|asap|discre\w+)\b|\bahead\s+of\s+(?:the|my|a)\s+(?:call|meeting)\b|\b(?:send|do\s+it)\s+as\s+soon\s+as\s+you\s+can\b|)"
+     R"(\bneed\s+(?:it|them|this|these)\s+(?:by|in\s+the\s+next|within|back)\b|\bneed\s+something\s+done\b|)"
+     R"(\b(?:send|get)\b[^.!?]{0,25}\bto\s+me\s+(?:this\s+(?:morning|afternoon)|today|directly)\b|\bbefore\s+(?:the|my)\s+(?:call|meeting)\b|)"
+     R"(\bneed\s+(?:it|them|this|these)\b[^.!?]{0,25}\b(?:now|asap|today|before\s+(?:noon|\d|i|we)|in\s+(?:pdf|one\s+file)|right\s+away|urgent\w*)\b|)"
+     R"(\bquick\s+as\s+you\s+can\b|\bfor\s+a\s+quick\s+review\b|\b(?:do|get)\s+(?:it|this|something)\s+done\s+(?:for\s+me|urgently|discre\w+)\b|)"
      R"(\b(?:need|ask|asking|want|request)\b[^.!?]{0,15}\b(?:a|an|one|some|your|me\s+a)\s+(?:\w+\s+){0,2}favou?r\s+(?:from\s+you|of\s+you)?\b|)"
      R"(\b(?:do|doing)\s+me\s+(?:a|one)\s+(?:\w+\s+)?favou?r\b|)"
      R"(\b(?:i|we)\s+(?:need|require|want|could\s+use|am\s+in\s+need\s+of|will\s+need)\b[^.!?]{0,10}\b(?:your|some)\s+(?:\w+\s+)?(?:help|assistance|attention|discretion)\b|)"
@@ -537,6 +602,11 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"gift-card-buy", "Gift card fraud", "warn", 60,
      "talks the reader into buying gift cards for somebody else",
+     R"(\b(?:grab|get|buy|order|purchase|pick\s+up|need)\b[^.!?]{0,40}\b\d+\s?(?:x|×)\s?[$€£]\s?\d+\s+(?:\w+\s+){0,2}(?:e-?)?(?:cards?|vouchers?|gift\s?cards?)\b|)"
+     R"(\b(?:get|buy|order|purchase|pick\s+up)\b[^.!?]{0,30}\b(?:google\s+play|itunes|steam|ebay|razer|vanilla)\s+(?:gift\s+)?cards?\b|)"
+     R"(\bgift\s?cards?\b[^!?]{0,120}\bface\s+value\b|)"
+     R"(\b(?:need|get|grab|pick\s+up|buy|purchase|send)\b[^.!?]{0,60}\b(?:amazon|apple|itunes|google\s+play|steam|target|walmart|visa|vanilla|ebay|razer|sephora|best\s+buy|nordstrom)\b[^.!?]{0,20}\b(?:gift\s?cards?|cards|vouchers?)\b[^.!?]{0,30}(?:\d\s?(?:x|×|pieces|pcs)\s|[$€£]\s?\d)|)"
+     R"(\b(?:should|must|needs?\s+to)\s+be\s+(?:amazon|apple|itunes|google\s+play|steam|target|walmart|visa|vanilla|ebay|razer)\b[^.!?]{0,20}\bcards\b|)"
      R"(\b(?:i\s+need|need\s+you|want\s+you|we\s+need|buy|buying|purchase|purchasing|pick(?:ing)?\s+(?:them\s+|some\s+)?up|get|getting|grab|procure|arrange|obtain|surprise|send|present)\b[^.!?]{0,60}\b(?:apple|i-?tunes|google\s+play|steam|amazon|e-?bay|visa|amex|american\s+express|vanilla|razer\s+gold|sephora|nike|walmart|target|best\s+buy|playstation|xbox|neosurf|paysafe(?:card)?|physical|e-?gift|several|different|pieces\s+of|quantities\s+of|a\s+number\s+of|some|few|\d+)\b[^.!?]{0,12}\b(?:gift\s?cards?|e-?gift\s+cards?|gift\s+vouchers?|(?:google\s+play|i-?tunes|steam|apple|amazon|razer\s+gold|vanilla)\s+(?:gift\s+)?cards?|prepaid\s+cards?|cards?\s+at\s+\$?\d|cards?\s+of\s+\$?\d|cards?\s+worth\s+\$?\d)\b[^.!?]{0,100}\b(?:for\s+(?:me|a|our|some|the|my|us|you)|today|now|asap|urgent\w*|reimburs\w*|refund|pay\s+you|client|customer|staff|team|employees?|surprise|partners?|store|how\s+soon|let\s+me\s+know|donat\w+|each|on\s+my\s+behalf)\b|)"
      R"(\b(?:google\s+play|i-?tunes|steam|apple|razer\s+gold|vanilla)\s+(?:gift\s+)?cards?\b[^.!?]{0,40}\b(?:for\s+(?:a|our|my|some)\s+(?:client|customer|friend|partner|niece|nephew)|today|asap|each|worth|urgent\w*)\b|)"
      R"(\bgift\s?cards?\b[^.!?]{0,40}\b(?:for|to)\s+(?:our\s+|some\s+|the\s+|my\s+|a\s+few\s+|all\s+|all\s+the\s+|few\s+|the\s+top\s+|our\s+top\s+)*(?:staff|employees?|clients?|team|colleagues?|veterans?|patients?|personnel|members\s+of\s+staff|hospice|niece|nephew|associates?|prospects?|partners?|diligent)\b|)"
@@ -554,6 +624,9 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"gift-card-codes", "Gift card fraud", "warn", 60,
      "asks for the codes of gift cards, which spends them",
+     R"(\bscratch\b[^.!?]{0,40}\b(?:pictures?|pics?|photos?|codes?)\b|\bredemption\s+codes?\b|)"
+     R"(\b(?:pictures?|photos?|pics?|images?)\s+of\s+(?:the\s+)?(?:backs?\s+(?:to|of\s+the\s+(?:gift\s+)?cards?)|codes?)\b|)"
+     R"(\b(?:send|text|e-?mail)\s+(?:me\s+)?the\s+codes?\b[^.!?]{0,20}\b(?:by\s+e-?mail|via|to\s+me|here|asap|now|back)\b|)"
      R"(\b(?:scratch|peel|scrape)\b[^.!?]{0,40}\b(?:code|codes|back|backs|pin|pins|cards?|silver|panel|strip)\b[^.!?]{0,60}\b(?:send|photo|picture|pictures|photos|snap|image|images|email|text|take|pins?|codes?)\b|)"
      R"(\b(?:send|text|e-?mail|forward|reply\s+with|snap|give|read|attach)\b[^.!?]{0,30}\b(?:codes?|pins?|pictures?|photos?|pics?|images?|numbers?)\b[^.!?]{0,15}\b(?:on|of|from|at|behind)\b[^.!?]{0,15}\b(?:back\s+of\s+the\s+|back\s+of\s+each\s+)?(?:gift\s?|i-?tunes\s+|steam\s+|google\s+play\s+|prepaid\s+|apple\s+)(?:cards?|vouchers?)\b|)"
      R"(\b(?:gift\s?card|voucher|i-?tunes|steam|google\s+play|apple\s+card|e-?gift\s+card)s?\b[^.!?]{0,30}\b(?:codes?|pins?|redemption\s+codes?|claim\s+codes?|card\s+numbers?)\b[^.!?]{0,40}\b(?:send|text|e-?mail|photo|picture|to\s+me|reply|forward)\b|)"
@@ -565,6 +638,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"gift-card-reimburse", "Gift card fraud", "warn", 35,
      "promises to pay the reader back for a purchase made now",
+     R"(\b(?:put|pay)\s+(?:it|this)\s+(?:on|with)\s+your\s+(?:personal|own)\s+card\b|)"
      R"(\b(?:reimburse|refund|repay|pay\s+back|compensate|re-?pay)\b[^.!?]{0,12}\byou\b[^.!?]{0,60}\b(?:later|today|tomorrow|soon|as\s+soon\s+as|when|once|end\s+of|by|after|tonight|immediately|back|in\s+full|personally|purchase|cards?|expense|money|out\s+of)\b|)"
      R"(\b(?:i|we)(?:['’]ll|\s+will|\s+would|\s+shall|\s+can|\s+promise\s+to|\s+am\s+going\s+to|\s+intend\s+to)\b[^.!?]{0,15}\b(?:reimburse|refund|repay|pay)\s+you(?:\s+back)?\b|)"
      R"(\byou(?:['’]ll|\s+will)\s+(?:be|get)\s+(?:fully\s+|personally\s+|promptly\s+)?(?:reimbursed|refunded|repaid|paid\s+back|compensated)\b|)"
@@ -1093,6 +1167,12 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"urg-do-not-tell", "Pressure", "warn", 55,
      "tells the reader to keep a request from family, bank or colleagues",
+     R"(\bonly\s+communicate\s+with\s+me\b|\bspeak\s+(?:with|to)\s+anyone\s+by\b|\b(?:nobody|no\s+one)\s+else\s+needs\s+to\s+be\s+made\s+aware\b|)"
+     R"(\bkein\s+wort\s+zu\b|\bn['’]en\s+parle[rz]?\s+à\s+personne\b|\bno\s+lo\s+comente\b|\bnot\s+raise\s+(?:it|this)\s+with\b|\bdon['’]t\s+tell\s+\w+\s+i\s+asked\b|)"
+     R"(\b(?:don['’]t|do\s+not)\s+want\s+(?:\w+\s+){1,3}(?:team|staff|office|department|colleagues)\s+to\s+know\b|\bausschließlich\s+über\s+diese\s+e-?mail\b|\b(?:do\s+not|don['’]t)\s+discuss\s+(?:it|this|the\s+\w+)\s+(?:with|by)\b|)"
+     R"(\b(?:do\s+not|don['’]t|may\s+not|must\s+not|not\s+to)\s+(?:discuss|mention|speak\s+of|talk\s+about)\b[^.!?]{0,25}\b(?:colleagues?|head\s+office|the\s+others|anyone\s+(?:in|at)\s+the\s+office|in\s+person)\b|)"
+     R"(\b(?:do\s+not|don['’]t)\s+tell\s+the\s+(?:cashier|clerk|shop|store|teller)\b|)"
+     R"(\bkeep\b[^.!?]{0,20}\b(?:with\s+me\s+only|off\s+the\s+(?:normal\s+|usual\s+)?(?:system|books))\b|\b(?:communicate|correspond)\s+(?:only|solely|exclusively)\s+(?:through|via|by|with)\b|\bjust\s+deal\s+with\s+me\b|)"
      R"(\b(?:do\s+not|don['’]t|never|without|must\s+not|cannot|should\s+not|shouldn['’]t)\b[^.!?]{0,12}\b(?:tell|telling|inform|informing|mention|discuss|discussing|share|disclose|speak|talk|reveal)\b[^.!?]{0,25}\b(?:your\s+(?:family|wife|husband|spouse|parents|bank|colleagues|friends|boss)|the\s+(?:bank|police|teller)|other\s+(?:staff|employees|colleagues)|anyone\s+(?:else\s+)?(?:in|at)\s+the\s+(?:office|company|bank))\b|)"
      R"(\b(?:keep|keeping)\s+(?:this|it|the\s+(?:matter|transaction|deal|whole\s+thing|purchase|request)|everything)\s+(?:\w+\s+){0,3}(?:secret|between\s+(?:us|you\s+and\s+me|the\s+two\s+of\s+us)|top\s+secret|to\s+yourself)\b[^.!?]{0,40}(?:\b(?:until|as|because|surprise|transaction|payment|money|deal|transfer|now|fund|process\w*|conclu\w+)\b|[.!])|)"
      R"(\b(?:strictly|only|solely)\s+between\s+(?:us|you\s+and\s+me|the\s+two\s+of\s+us)\b|)"
@@ -1106,6 +1186,11 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"urg-no-questions", "Pressure", "warn", 40,
      "wants a request carried out without questions or calls",
+     R"(\byou\s+don['’]t\s+need\s+to\s+(?:wait|ask|check|copy|involve)\b|\bi(?:['’]ll|\s+will)\s+sign\s+the\s+paperwork\b|)"
+     R"(\bi(?:['’]ll|\s+will)\s+square\s+it\b|\bi(?:['’]ve|\s+have)\s+(?:already\s+)?(?:cleared|signed)\s+(?:it|this|everything)\s+(?:with|off)\b|\btake\s+this\s+as\s+mine\b|)"
+     R"(\bif\s+the\s+bank\s+(?:calls|rings|asks)\b[^.!?]{0,40}\b(?:tell|say)\b|\bdo\s+as\s+(?:he|she|they)\s+says?\b|)"
+     R"(\b(?:override|bypass)\b[^.!?]{0,20}\b(?:portal|approvals?|signatures?|procedure|dual\s+control)\b|\bskip\s+(?:the\s+)?(?:approvals?|dual\s+control)\b|)"
+     R"(\b(?:don['’]t|do\s+not|no\s+need\s+to)\s+(?:need\s+to\s+go\s+through|go\s+through|worry\s+about\s+the\s+(?:two\s+)?(?:signatures?|approvals?|paperwork))\b|)"
      R"(\b(?:no|without|don['’]t|do\s+not)\b[^.!?]{0,8}\b(?:questions?\s+asked|ask(?:ing)?\s+(?:any\s+|too\s+many\s+|me\s+)?questions?|any\s+questions|further\s+questions)\b|)"
      R"(\b(?:do\s+not|don['’]t|can['’]t|cannot|unable\s+to|not\s+able\s+to|won['’]t\s+be\s+able\s+to)\b[^.!?]{0,12}\b(?:call|phone|ring|take\s+calls?|talk\s+on\s+the\s+phone|speak\s+on\s+the\s+phone|receive\s+calls?|pick\s+up|make\s+calls?|answer\s+calls?)\b[^.!?]{0,60}\b(?:e-?mail|text|reply|respond|message|meeting|conference|here|only|right\s+now|at\s+the\s+moment|moment|just)\b|)"
      R"(\b(?:only|just)\s+(?:reply|respond|communicate|correspond|contact\s+me|reach\s+me)\b[^.!?]{0,12}\b(?:by|via|through|to)\b[^.!?]{0,10}\b(?:this\s+)?(?:e-?mail|text|whats\s?app|message)\b|)"
@@ -1116,6 +1201,14 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"urg-in-a-meeting", "Pressure", "warn", 30,
      "says the sender is in a meeting or cannot be called, a ruse to prevent checking",
+     R"(\b(?:can['’]?t|cannot)\s+be\s+reached\s+(?:until|by|on|today|right\s+now)\b|\bwon['’]t\s+have\s+(?:reception|signal)\b|)"
+     R"(\bcan(?:['’]?t|not)\s+(?:talk|get\s+to\s+a\s+phone)\b|\b(?:don['’]t|do\s+not)\s+(?:bother\s+calling|ring\b)|\bno\s+(?:phone\s+)?signal\b|\bno\s+calls\b|\be-?mail\s+is\s+the\s+best\s+way\b|)"
+     R"(\b(?:telephone\s+|phone\s+)?lines\s+(?:will\s+be|are)\s+(?:currently\s+)?down\b|\bunable\s+to\s+reach\s+you\s+by\s+phone\b|\bfrom\s+my\s+(?:own|personal)\s+(?:e-?mail|mailbox)\b|\baccount\s+is(?:n['’]t|\s+not)?\s+(?:acting\s+up|syncing|active\s+yet)\b|)"
+     R"(\b(?:can['’]?t|cannot|won['’]t\s+be\s+able\s+to|unable\s+to|not\s+able\s+to)\s+(?:take|pick(?:\s+up)?|answer|receive|make)\s+(?:\w+\s+)?(?:calls?|the\s+phone)\b|\bwon['’]t\s+be\s+able\s+to\s+(?:speak|talk)\b|)"
+     R"(\b(?:bad|poor|patchy)\s+(?:reception|signal)\b|)"
+     R"(\b(?:boarding\s+(?:in|now|a\s+flight)|about\s+to\s+board|before\s+i\s+(?:board|land|fly|take\s+off))\b|)"
+     R"(\b(?:only|just)\s+(?:reachable|available|contactable)\s+(?:by|via|on|through)\s+e-?mail\b|\bnur\s+per\s+(?:e-?)?mail\s+erreichbar\b|)"
+     R"(\bno\s+need\s+to\s+(?:ring|call|phone)\b|\breply\s+here\s+(?:and\s+)?not\s+(?:on|by)\b|\b(?:our|the)\s+(?:office\s+)?(?:phones|switchboard)\s+(?:are|is|has|have)\s+(?:being\s+|been\s+)?(?:switched|moved|down)\b|)"
      R"(\b(?:i['’]m|i\s+am|im|am|currently|presently|now|going|heading|be|stuck|will\s+be|busy|tied\s+up)\b[^.!?]{0,20}\b(?:in|into|at)\s+(?:a|an|the|back[- ]to[- ]back|several|some|another|meetings?)\b\s?(?:\w+\s+){0,3}?(?:meetings?|conference(?:\s+call|\s+meeting)?|board\s?room|seminar|session|presentation)\b[^.!?]{0,80}\b(?:call|calls|phone|talk|e-?mail|text|reply|need|available|until|urgent\w*|reach|favou?r|handle|can['’]t|cannot|limited|respond|right\s+now|task|number)\b|)"
      R"(\b(?:can['’]t|cannot|can\s+not|unable\s+to|won['’]t\s+be\s+able\s+to|not\s+able\s+to|couldn['’]t)\b[^.!?]{0,10}\b(?:talk|call|speak|take\s+calls?|answer|receive\s+calls?|be\s+reached|pick\s+up)\b[^.!?]{0,40}\b(?:right\s+now|at\s+the\s+moment|now|meeting|moment|phone|but|so|reply|text|e-?mail)\b|)"
      R"(\b(?:limited|no|poor|bad)\s+(?:access\s+to\s+(?:my\s+)?(?:phone|calls?|e-?mails?)|phone\s+(?:access|service|signal|reception|calls?))\b|)"

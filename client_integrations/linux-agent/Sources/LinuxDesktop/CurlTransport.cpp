@@ -12,6 +12,8 @@
 #include <string_view>
 #include <utility>
 
+#include "LinuxDesktop/TransportErrors.h"
+
 namespace quillseal {
 namespace {
 
@@ -33,51 +35,6 @@ struct Releaser {
 using Easy = std::unique_ptr<CURL, Releaser<curl_easy_cleanup>>;
 using Multi = std::unique_ptr<CURLM, Releaser<curl_multi_cleanup>>;
 using HeaderList = std::unique_ptr<curl_slist, Releaser<curl_slist_free_all>>;
-
-struct Sentence {
-  transport::ErrorCode code;
-  const char* text;
-};
-
-constexpr std::array sentences{
-    Sentence{transport::cancelled, "The request was cancelled."},
-    Sentence{transport::badUrl,
-             "The server address is not a valid URL. Correct it in the settings."},
-    Sentence{transport::timedOut,
-             "The server did not answer in time. Check the network connection and try again."},
-    Sentence{transport::cannotFindHost,
-             "The server’s name could not be found. Check the network connection and the server "
-             "address in the settings."},
-    Sentence{transport::cannotConnectToHost,
-             "The server could not be reached. Check the server address in the settings, or try "
-             "again later."},
-    Sentence{transport::networkConnectionLost,
-             "The connection to the server was lost before it answered. Try again."},
-    Sentence{transport::notConnectedToInternet,
-             "This computer seems to be offline. Connect it to the network and try again."},
-    Sentence{transport::badServerResponse,
-             "The answer is not one of a signing server. Check the server address in the settings, "
-             "or try again later."},
-    Sentence{transport::dataLengthExceedsMaximum,
-             "The answer is too large for one of a signing server. Check the server address in the "
-             "settings."},
-    Sentence{transport::secureConnectionFailed,
-             "A secure connection to the server could not be made. Check the server address in the "
-             "settings, or ask whoever runs the server."},
-    Sentence{transport::serverCertificateUntrusted,
-             "The server’s certificate is not trusted, so nothing was sent. Check the date of this "
-             "computer and the server address in the settings; somebody may be intercepting the "
-             "connection."},
-};
-
-Error errorOf(transport::ErrorCode code) {
-  const char* text =
-      "The request to the server failed. Check the network connection and try again.";
-  for (const Sentence& sentence : sentences) {
-    if (sentence.code == code) text = sentence.text;
-  }
-  return Error({.domain = transport::errorDomain, .code = code, .description = text});
-}
 
 /// An absolute http or https URL with a host and without blanks, as libcurl reads it.
 bool isUsableUrl(const std::string& text) {
@@ -148,7 +105,7 @@ class Exchange {
       case CURLE_WEIRD_SERVER_REPLY:
         return HttpResponse{.status = 400, .body = ""};
       default:
-        return errorOf(CurlTransport::errorCodeOf(*result_, systemError));
+        return transportError(CurlTransport::errorCodeOf(*result_, systemError));
     }
   }
 
@@ -339,7 +296,7 @@ CurlTransport::Engine& CurlTransport::engine() {
 
 Ticket CurlTransport::send(const HttpPost& post, std::function<void(Outcome<HttpResponse>)> done) {
   if (!isUsableUrl(post.url)) {
-    done(errorOf(transport::badUrl));
+    done(transportError(transport::badUrl));
     return {};
   }
   const std::uint64_t id = engine().start(post, std::move(done));
@@ -349,7 +306,7 @@ Ticket CurlTransport::send(const HttpPost& post, std::function<void(Outcome<Http
 }
 
 Error CurlTransport::error(transport::ErrorCode code) const {
-  return errorOf(code);
+  return transportError(code);
 }
 
 transport::ErrorCode CurlTransport::errorCodeOf(CURLcode failure, long systemError) noexcept {

@@ -16,12 +16,12 @@
 
 #include "Desktop/Desktop.h"
 #include "LinuxDesktop/CommandLine.h"
-#include "LinuxDesktop/CurlTransport.h"
 #include "LinuxDesktop/JournalLog.h"
 #include "LinuxDesktop/KeyFailure.h"
 #include "LinuxDesktop/LinuxBrowserTabs.h"
 #include "LinuxDesktop/LinuxKeyStore.h"
 #include "LinuxDesktop/LinuxPresence.h"
+#include "LinuxDesktop/LoadedTransport.h"
 #include "LinuxDesktop/PlatformWording.h"
 #include "LinuxDesktop/QtAlerts.h"
 #include "LinuxDesktop/QtDefaults.h"
@@ -113,7 +113,8 @@ class LinuxDesktop {
         presence_(loop_, presencePrompt_),
         defaults_({.path = quillseal::QtDefaults::settingsFile(),
                    .warn = [this](const std::string& sentence) { warn(sentence); }}),
-        http_(loop_, descriptors_, {}),
+        http_(loop_, descriptors_,
+              {.places = quillseal::LoadedTransport::usualPlaces(), .version = QUILLSEAL_VERSION}),
         applications_(windowManager_, loop_),
         hotkey_(loop_, keyboard_.get(), limits_),
         keys_({.loop = loop_,
@@ -187,7 +188,7 @@ class LinuxDesktop {
   quillseal::QtPresencePrompt presencePrompt_;
   quillseal::LinuxPresence presence_;
   quillseal::QtDefaults defaults_;
-  quillseal::CurlTransport http_;
+  quillseal::LoadedTransport http_;
   quillseal::QtPasteboard pasteboard_;
   quillseal::X11Applications applications_;
   quillseal::X11Hotkey hotkey_;

@@ -55,8 +55,10 @@ class FileKeyStoreTest : public ::testing::Test {
 
 TEST_F(FileKeyStoreTest, SignsSoThatThePublicKeyVerifies) {
   EXPECT_FALSE(store.holdsKey());
+  EXPECT_THAT(store.describe(), StartsWith("The key will be in the file “"));
   store.create(passphrase());
   ASSERT_TRUE(store.holdsKey());
+  EXPECT_THAT(store.describe(), StartsWith("The key is in the file “"));
 
   const p256::Point publicKey = store.publicKey();
   p256::Digest other = digest;

@@ -141,7 +141,8 @@ std::string FileKeyStore::name() const {
 }
 
 std::string FileKeyStore::describe() const {
-  return "The key is in the file “" + file_.path().string() +
+  return std::string(holdsKey() ? "The key is" : "The key will be") + " in the file “" +
+         file_.path().string() +
          "”, encrypted with a passphrase that is asked for at every signature. Whoever copies the "
          "file and learns the passphrase can sign in your name.";
 }

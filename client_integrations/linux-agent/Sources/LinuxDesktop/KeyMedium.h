@@ -33,7 +33,8 @@ class KeyMedium {
   /// The place in the middle of a sentence: "the TPM of this computer".
   [[nodiscard]] virtual std::string name() const = 0;
 
-  /// What the place is and which protection it gives, as sentences for the user.
+  /// What the place is and which protection it gives, as sentences for the user; of a key to come
+  /// where there is none.
   [[nodiscard]] virtual std::string describe() const = 0;
 
   /// Why no key can be made or used here now, and what would help, as sentences for the user; empty

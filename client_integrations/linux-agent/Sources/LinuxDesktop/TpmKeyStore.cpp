@@ -376,10 +376,12 @@ std::string TpmKeyStore::name() const {
 }
 
 std::string TpmKeyStore::describe() const {
+  const std::string theKeyIs = holdsKey() ? "The key is" : "The key will be";
   if (isSimulator(device_))
-    return "The key is kept in a TPM simulator (" + device_ +
+    return theKeyIs + " kept in a TPM simulator (" + device_ +
            "), which is for trying things out: it protects nothing.";
-  return "The key is in the TPM of this computer and cannot leave it. A PIN is asked for at every "
+  return theKeyIs +
+         " in the TPM of this computer and cannot leave it. A PIN is asked for at every "
          "signature; the TPM locks itself after too many wrong ones.";
 }
 

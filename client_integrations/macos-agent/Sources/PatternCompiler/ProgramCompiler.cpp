@@ -7,9 +7,6 @@
 namespace quillseal::screening {
 namespace {
 
-/// The matcher marks the numbers of instructions in higher bits.
-constexpr std::size_t longestProgram = 0x2000'0000;
-
 void setClass(ClassBits& bits, std::size_t id) {
   bits[id / 64] |= std::uint64_t{1} << (id % 64);
 }
@@ -43,14 +40,11 @@ class Compiler {
   }
 
  private:
-  [[nodiscard]] std::uint32_t here() const {
-    return static_cast<std::uint32_t>(program_.code.size());
-  }
+  [[nodiscard]] std::uint16_t here() const { return counted(program_.code.size()); }
 
   std::uint32_t add(const Instruction& instruction) {
     program_.code.push_back(instruction);
-    if (program_.code.size() > longestProgram) throw PatternError("pattern too long");
-    return here() - 1;
+    return here() - 1U;
   }
 
   void emit(const Node& node) {
@@ -90,7 +84,7 @@ class Compiler {
             add({.operation = node.negative ? Operation::NegativeLookAhead : Operation::LookAhead});
         emit(node.children.front());
         add({.operation = Operation::Accept});
-        program_.code[look].first = counted(here());
+        program_.code[look].first = here();
         break;
       }
       case Node::Kind::PrecedingInSet:
@@ -121,7 +115,7 @@ class Compiler {
       if (i + 1 < node.children.size()) jumps.push_back(add({.operation = Operation::Jump}));
     }
     for (const std::uint32_t jump : jumps)
-      program_.code[jump].first = counted(here());
+      program_.code[jump].first = here();
   }
 
   std::uint32_t addChoice(std::size_t targets) {
@@ -179,7 +173,7 @@ class Compiler {
     return first;
   }
 
-  std::uint32_t& targetOf(std::uint32_t choice, std::uint32_t which) {
+  std::uint16_t& targetOf(std::uint32_t choice, std::uint32_t which) {
     return program_.targets[program_.code[choice].first + which].instruction;
   }
 

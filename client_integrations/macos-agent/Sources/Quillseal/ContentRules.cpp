@@ -45,6 +45,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"cred-suspended", "Credential phishing", "warn", 40,
      "says an account is blocked or about to be, to make the reader act before thinking",
+     R"(\bsaldo\s+bloqueado\b|\bbloqueio\s+preventivo\b|\bconta\b[^.!?]{0,12}\b(?:bloqueada|suspensa)\b|)"
      R"(\b(?:we(?:['’]ve|\s+have)?|been)\s+(?:temporarily\s+|now\s+)?(?:limited|restricted|suspended|locked|disabled|blocked)\s+(?:certain|some|access|features|your|the\s+account)\b|)"
      R"(\b(?:bloqueamos|suspendemos|limitamos|hemos\s+(?:bloqueado|suspendido|limitado|restringido)|foi\s+(?:bloquead|suspens)[oa])\s+(?:\w+\s+){0,2}(?:conta|cuenta|acesso|acceso|cart[ãa]o|tarjeta)\b|)"
      R"(\b(?:account|wallet|mailbox|profile|membership|debit\s+card|credit\s+card|bank\s+card|your\s+card|access|service|subscription|e-?mail)s?\s+(?:access\s+)?(?:has\s+been|have\s+been|will\s+be|will\s+soon\s+be|is|is\s+being|are|may\s+be|has|is\s+now|was|is\s+currently|will\s+get|could\s+be|might\s+be|be)\s+(?:\w+\s+){0,2}(?:suspended|locked|blocked|restricted|limited|disabled|frozen|on\s+hold|placed\s+on\s+hold|put\s+on\s+hold|under\s+review|flagged)\b|)"
@@ -79,6 +80,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"cred-click-verify", "Credential phishing", "warn", 30,
      "tells the reader to follow a link and verify, confirm or unlock something",
+     R"(\b(?:se\s+não\s+foi\s+você|caso\s+não\s+reconheça|não\s+reconhe(?:ço|ce)\s+(?:este|esse|o)\s+(?:acesso|dispositivo))\b|)"
      R"(\b(?:click|tap|follow|visit|log\s?in|sign\s?in|scan)\b[^.!?]{0,40}\b(?:here|below|link|button|page|portal|account|code)\b[^.!?]{0,15}\band\s+(?:verify|confirm|validate|update|re-?activate|unlock|restore)\b|)"
      R"(\b(?:click|tap|press|follow|visit|open|use|go\s+to|log\s?in|sign\s?in|scan)\b[^.!?]{0,50}\b(?:to|in\s+order\s+to)\s+(?:\w+\s+){0,2}(?:verify|confirm|validate|authenticate|re-?activate|re-?validate|unlock|restore|secure|recover|resolve|regain|sync|re-?confirm)\b|)"
      R"(\b(?:click|tap|press|follow)\b[^.!?]{0,30}\b(?:below|here|link|button)\b[^.!?]{0,30}\bto\s+(?:\w+\s+){0,2}(?:update|upgrade|avoid|prevent|release|claim|redeem)\b|)"
@@ -685,6 +687,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"crypto-giveaway", "Crypto fraud", "warn", 55,
      "lures with a crypto giveaway, airdrop or bonus to claim",
+     R"(\b(?:automatic|cloud)\s+(?:cloud\s+)?(?:bitcoin|btc|crypto\w*)\s+(?:mining|collecting|earnings)\b[^.!?]{0,80}\b(?:days|withdraw|funds|account|balance)\b|)"
      R"(\btokens?\b[^.!?]{0,60}\bclaim\s+(?:your|now|it|them|rewards?)\b|)"
      R"(\b(?:claim|collect)\s+(?:your\s+|these\s+|the\s+)?rewards?\b[^.!?]{0,80}\b(?:wallet|tokens?|season|on-?chain)\b|)"
      R"(\b(?:crypto|bitcoin|btc|eth|ethereum|token|xrp|doge|usdt)\s+(?:air-?drop|giveaway)\b[^.!?]{0,60}\b(?:game|event|participate|claim|join\s+now|win)\b|)"
@@ -834,6 +837,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"afee-lottery2", "Advance fee", "warn", 50,
      "holds out a prize, a reward or a stranger's donation to be claimed",
+     R"(\bdoou\b[^.!?]{0,30}\bmilhões\b|\bdoação\s+de\b[^.!?]{0,30}\bmilhões\b|)"
      R"(\b(?:balance|payout|winnings)\s+of\s+[$€£]\s?\d[\d.,]*[^.!?]{0,60}\b(?:collect\w*|withdraw\w*|claim\w*|in\s+your\s+name)\b|)"
      R"(\b(?:grant|donation|award|sum|compensation)\s+of\s+(?:[\w-]+\s+){0,4}(?:million|thousand)\s+(?:[\w.]+\s+){0,3}(?:dollars|euros?|pounds|usd)\b|)"
      R"(\b(?:e-?mail|name)\s+(?:address\s+)?(?:was|has\s+been|were)\s+(?:\w+\s+)?(?:selected|chosen|picked|drawn)\b[^.!?]{0,40}\b(?:spin|random\w*|ballot|draw|donat\w+|grant|million|receive)\b|)"
@@ -864,6 +868,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"afee-inheritance", "Advance fee", "warn", 70,
      "offers a share of an inheritance or of a dead stranger's money",
+     R"(\bmeu\s+(?:falecido\s+)?cliente\s+(?:morreu|faleceu)\b|\bmeu\s+último\s+desejo\b|\bfalecido\b[^.!?]{0,60}\b(?:depósito|fundos?|herança)\b|)"
      R"(\blate\s+(?:husband|wife|father|client)(?:\'s)?\s+(?:legacy|estate|fund|wealth)\b|)"
      R"(\b(?:dying|death|sick)\s+bed\b[^.!?]{0,200}\b(?:god|fund\w*|donat\w+|charity|money|million|will)\b|)"
      R"(\b(?:fundos|fondos|dinheiro|dinero)\b[^.!?]{0,40}\b(?:heran[çc]a|herencia)\b[^.!?]{0,60}\b(?:falecid[oa]|fallecid[oa]|marido|esposo|difunt[oa])\b|)"
@@ -881,6 +886,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"afee-beneficiary", "Advance fee", "warn", 45,
      "says a fund or payment is waiting for the reader as its beneficiary",
+     R"(\bindeniza(?:ção|r)\b[^.!?]{0,80}\b(?:vítimas|beneficiários|fundos|golpes?)\b|\bnew\s+incoming\s+transaction\b[^!?]{0,60}\b(?:withdraw\w*|order)\b|)"
      R"(\ballocated\s+funds?\b|)"
      R"(\btransfer\b[^.!?]{0,15}\b(?:sum|fund|funds|money|million\w*)\b[^.!?]{0,50}\b(?:into|to)\s+your\s+(?:bank\s+)?account\b|)"
      R"(\bas\s+my\s+foreign\s+partner\b|)"
@@ -1516,6 +1522,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"mal-password-archive", "Malware lure", "warn", 40,
      "sends a password-protected archive together with its password",
+     R"(\bsenha\s+(?:do\s+)?(?:pdf|anexo|arquivo)\b|)"
      R"(\b(?:zip|rar|7z|archive|iso|attachment|attached\s+(?:file|document)|file|download)\b[^.!?]{0,60}\b(?:password|passcode|pass|pwd)\b[^.!?]{0,15}(?:\bis\b|:|=|\bto\s+(?:open|extract|unzip)\b)[^.!?]{0,20}[A-Za-z0-9]{3,}|)"
      R"(\b(?:password|passcode|pwd)\b[^.!?]{0,25}\b(?:to|for)\b[^.!?]{0,8}\b(?:open|extract|unzip|unlock|access|the)\b[^.!?]{0,15}\b(?:zip|rar|7z|archive|attachment|attached\s+file|attached\s+document|iso)\b|)"
      R"(\b(?:archivkennwort|archivpasswort|zip-?passwort|passwort\s+(?:für|zum)\s+(?:das|den|die|öffnen)\b[^.!?]{0,20}\b(?:archiv|zip|anhang|datei))\b|)"

@@ -60,7 +60,7 @@ struct Instruction {
 
 /// A place to start from.
 struct ProgramEntry {
-  std::uint32_t instruction = 0;
+  std::uint16_t instruction = 0;
   Beginning beginning;
 };
 

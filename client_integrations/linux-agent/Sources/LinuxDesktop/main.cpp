@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QIcon>
 #include <QLibraryInfo>
-#include <QPixmap>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -67,15 +66,10 @@ std::string keyFolder() {
   return (data.starts_with('/') ? data : environment("HOME") + "/.local/share") + "/quillseal";
 }
 
-// Told the format, Qt decodes them itself; told a file name, it would load a library for every
-// format that it knows, to find out.
 QIcon productIcon() {
   QIcon icon;
-  for (const int size : {22, 24, 32, 48, 128}) {
-    QPixmap picture;
-    picture.load(QStringLiteral(":/icons/quillseal-%1.png").arg(size), "PNG");
-    icon.addPixmap(picture);
-  }
+  for (const int size : {22, 24, 32, 48, 128})
+    icon.addFile(QStringLiteral(":/icons/quillseal-%1.png").arg(size), {size, size});
   return icon;
 }
 

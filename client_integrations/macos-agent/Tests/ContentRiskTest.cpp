@@ -214,7 +214,7 @@ TEST(ContentRisk, AgreesWithThePlainEvaluation) {
   std::mt19937 random(99);
   int warned = 0;
   int blocked = 0;
-  for (int i = 0; i < 200; ++i) {
+  for (int i = 0; i < 400; ++i) {
     std::string text = source.mixture(random);
     if (i % 2 == 0) text = "Red flags: \"" + text + "\" " + source.mixture(random);
     const auto answers = reference.firstMatches(text);

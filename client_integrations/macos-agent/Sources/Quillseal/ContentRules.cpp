@@ -367,6 +367,8 @@ constexpr auto table = std::to_array<Rule>({
     // ---- Payment redirection -------------------------------------------------------------------
     {"bec-bank-change", "Payment redirection", "warn", 55,
      "announces new bank details, the core of payment-redirection fraud",
+     R"(\b(?:are|we['’]re)\s+changing\s+banks\b|\bmoved\s+our\s+banking\b|\bbank\s+has\s+flagged\b|\bchange\s+ach\b|\bright\s+bank\s+details\b|\bresend\b[^.!?]{0,20}\b(?:this|the)\s+(?:other|new)\s+one\b|)"
+     R"(\baccount\s+on\s+(?:file|the\s+invoice)\b[^.!?]{0,60}\b(?:closed|audited|flagged|incorrect)\b|\bnew\s+(?:bank\s+)?details\s+attached\b|\bbank\s+changed\b[^.!?]{0,30}\b(?:notice|invoice|updated|attached|our)\b|)"
      R"(\bhas\s+changed\s+(?:its\s+|their\s+)?banks?\b|\bbank\s+(?:account\s+)?(?:has\s+(?:been\s+)?)?changed\s+to\s+our\b|\bswitch(?:ed|ing)\s+our\s+bank\b|)"
      R"(\b(?:our|the)\s+(?:\w+\s+){0,2}account\b[^.!?]{0,30}\b(?:can['’]?t|cannot|can\s+not)\s+be\s+(?:used|credited)\b|)"
      R"(\buse\s+our\s+(?:alternate|alternative|other|second)\s+account\b|\b(?:put|deposit)\s+100%\s+(?:in|into|of\s+it)\b|\breplace\s+it\s+with\s+the\s+(?:below|following|new)\b|)"
@@ -448,6 +450,8 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"bec-urgent-wire", "Payment redirection", "warn", 45,
      "presses for an urgent payment or transfer",
+     R"(\bprocess\s+(?:the|a|this)\s+payment\s+of\s+\S{1,16}\s+to\b|\binstructions\s+for\s+(?:a|the)\s+(?:wire|bank)\s+transfer\b|\bto\s+be\s+wired\s+by\b|)"
+     R"(\b(?:get|have)\s+(?:it|this|them)\s+paid\b[^.!?]{0,20}\b(?:today|now|asap)\b|\bpay\s+the\s+attached\b[^.!?]{0,20}\b(?:today|now|for\s+me)\b|\bpay\s+(?:this|a)\s+(?:contractor|vendor|supplier|freelancer|consultant)\b[^.!?]{0,20}\btoday\b|)"
      R"(\bprocess\s+the\s+attached\s+(?:payment|wire|wiring|transfer)\b|\bget\s+(?:this|it|that)\s+(?:wired|transferred)\b|\bmake\s+an\s+ach\b|\bout\s+in\s+today['’]s\s+(?:batch|run)\b|)"
      R"(\bwire\s+(?:it|them|this|the\s+\w+)\b[^.!?]{0,30}\b(?:today|this\s+(?:am|morning|afternoon)|now|asap|by\s+\d|to\s+the\s+(?:info|account|details)\s+(?:below|attached))\b|)"
      R"(\b(?:arrange|make|process|release|settle)\s+(?:the\s+|a\s+|this\s+)?payment\b[^.!?]{0,40}\b(?:by\s+close|today|this\s+morning|immediately|by\s+noon|within\s+\w+\s+hours?)\b|)"
@@ -506,6 +510,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"bec-ceo-request", "Payment redirection", "warn", 35,
      "is a superior's request for a discreet task or payment, the opening of executive impersonation",
+     R"(\bforward\s+(?:me\s+)?the\s+(?:receipt|confirmation)\b|)"
      R"(\b(?:e-?mail|send)\s+me\s+the\s+(?:\w+\s+)?(?:confirmation|receipt|transfer\s+slip)\b|\bif\s+i\s+send\s+(?:you\s+)?the\s+(?:bank\s+)?details\b|)"
      R"(\bwhat(?:['’]s|\s+is|\s+do\s+you)\s+need(?:ed)?\s+to\s+(?:make|send|set\s+up|process)\b[^.!?]{0,20}\b(?:transfer|wire|payment)\b|)"
      R"(\bage?ing\s+(?:report|summary)\b[^.!?]{0,80}\b(?:contacts?|e-?mails?)\b|)"
@@ -578,12 +583,14 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"bec-favor", "Payment redirection", "warn", 20,
      "asks for an unnamed favour or for urgent help",
+     R"(\b(?:on\s+my\s+behalf|do\s+it\s+from\s+your\s+side)\b|\bwhat\s+(?:information\s+)?do\s+you\s+need\s+from\s+me\b|\b(?:before|ahead\s+of)\s+(?:the|my)\s+\w+\s+(?:call|meeting)\b|\bby\s+(?:lunch(?:time)?|noon|midday)\b|)"
+     R"(\b(?:effective|in\s+time|changed?)\b[^.!?]{0,30}\b(?:current|next|this|upcoming)\s+(?:pay\s?(?:date|day|period|roll|check|run)|month['’]s\s+pay\w*)\b|)"
      R"(\b(?:complete|do|run)\s+a\s+(?:\w+\s+)?(?:task|errand)\b[^.!?]{0,20}\b(?:urgently|quickly|now|asap|discre\w+)\b|\bahead\s+of\s+(?:the|my|a)\s+(?:call|meeting)\b|\b(?:send|do\s+it)\s+as\s+soon\s+as\s+you\s+can\b|)"
      R"(\bneed\s+(?:it|them|this|these)\s+(?:by|in\s+the\s+next|within|back)\b|\bneed\s+something\s+done\b|)"
      R"(\b(?:send|get)\b[^.!?]{0,25}\bto\s+me\s+(?:this\s+(?:morning|afternoon)|today|directly)\b|\bbefore\s+(?:the|my)\s+(?:call|meeting)\b|)"
      R"(\bneed\s+(?:it|them|this|these)\b[^.!?]{0,25}\b(?:now|asap|today|before\s+(?:noon|\d|i|we)|in\s+(?:pdf|one\s+file)|right\s+away|urgent\w*)\b|)"
      R"(\bquick\s+as\s+you\s+can\b|\bfor\s+a\s+quick\s+review\b|\b(?:do|get)\s+(?:it|this|something)\s+done\s+(?:for\s+me|urgently|discre\w+)\b|)"
-     R"(\b(?:need|ask|asking|want|request)\b[^.!?]{0,15}\b(?:a|an|one|some|your|me\s+a)\s+(?:\w+\s+){0,2}favou?r\s+(?:from\s+you|of\s+you)?\b|)"
+     R"(\b(?:need|ask|asking|want|request)\b[^.!?]{0,15}\b(?:a|an|one|some|your|me\s+a)\s+(?:\w+\s+){0,2}favou?r\b|)"
      R"(\b(?:do|doing)\s+me\s+(?:a|one)\s+(?:\w+\s+)?favou?r\b|)"
      R"(\b(?:i|we)\s+(?:need|require|want|could\s+use|am\s+in\s+need\s+of|will\s+need)\b[^.!?]{0,10}\b(?:your|some)\s+(?:\w+\s+)?(?:help|assistance|attention|discretion)\b|)"
      R"(\b(?:can|could|would|will)\s+you\s+(?:please\s+|kindly\s+|be\s+able\s+to\s+)*(?:help|assist)\b[^.!?]{0,8}\b(?:me|us|out)\b[^.!?]{0,25}\b(?:something|urgent\w*|discreet\w*|quick\w*|confidential\w*|right\s+away|real\s+quick|errand|task|favou?r|payment|transfer)\b|)"
@@ -604,6 +611,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"gift-card-buy", "Gift card fraud", "warn", 60,
      "talks the reader into buying gift cards for somebody else",
+     R"(\b(?:surpris(?:e|ing)|reward(?:ing)?)\b[^.!?]{0,60}\b(?:staff|employees|team|teachers|clients|volunteers)\b[^.!?]{0,30}\bgift\s?cards?\b|\bprepaid\s+(?:visa\s+|debit\s+|gift\s+)?cards\b[^.!?]{0,30}\b(?:bought|codes?|client)\b|)"
      R"(\b(?:grab|get|buy|order|purchase|pick\s+up|need)\b[^.!?]{0,40}\b\d+\s?(?:x|×)\s?[$€£]\s?\d+\s+(?:\w+\s+){0,2}(?:e-?)?(?:cards?|vouchers?|gift\s?cards?)\b|)"
      R"(\b(?:get|buy|order|purchase|pick\s+up)\b[^.!?]{0,30}\b(?:google\s+play|itunes|steam|ebay|razer|vanilla)\s+(?:gift\s+)?cards?\b|)"
      R"(\bgift\s?cards?\b[^!?]{0,120}\bface\s+value\b|)"
@@ -1173,6 +1181,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"urg-do-not-tell", "Pressure", "warn", 55,
      "tells the reader to keep a request from family, bank or colleagues",
+     R"(\bkeep\s+it\s+off\s+the\s+(?:usual|normal)\b|)"
      R"(\bonly\s+communicate\s+with\s+me\b|\bspeak\s+(?:with|to)\s+anyone\s+by\b|\b(?:nobody|no\s+one)\s+else\s+needs\s+to\s+be\s+made\s+aware\b|)"
      R"(\bkein\s+wort\s+zu\b|\bn['’]en\s+parle[rz]?\s+à\s+personne\b|\bno\s+lo\s+comente\b|\bnot\s+raise\s+(?:it|this)\s+with\b|\bdon['’]t\s+tell\s+\w+\s+i\s+asked\b|)"
      R"(\b(?:don['’]t|do\s+not)\s+want\s+(?:\w+\s+){1,3}(?:team|staff|office|department|colleagues)\s+to\s+know\b|\bausschließlich\s+über\s+diese\s+e-?mail\b|\b(?:do\s+not|don['’]t)\s+discuss\s+(?:it|this|the\s+\w+)\s+(?:with|by)\b|)"
@@ -1192,6 +1201,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"urg-no-questions", "Pressure", "warn", 40,
      "wants a request carried out without questions or calls",
+     R"(\bjust\s+push\s+it\s+through\b|\bno\s+need\s+for\s+a\s+po\b|)"
      R"(\byou\s+don['’]t\s+need\s+to\s+(?:wait|ask|check|copy|involve)\b|\bi(?:['’]ll|\s+will)\s+sign\s+the\s+paperwork\b|)"
      R"(\bi(?:['’]ll|\s+will)\s+square\s+it\b|\bi(?:['’]ve|\s+have)\s+(?:already\s+)?(?:cleared|signed)\s+(?:it|this|everything)\s+(?:with|off)\b|\btake\s+this\s+as\s+mine\b|)"
      R"(\bif\s+the\s+bank\s+(?:calls|rings|asks)\b[^.!?]{0,40}\b(?:tell|say)\b|\bdo\s+as\s+(?:he|she|they)\s+says?\b|)"
@@ -1207,6 +1217,7 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"urg-in-a-meeting", "Pressure", "warn", 30,
      "says the sender is in a meeting or cannot be called, a ruse to prevent checking",
+     R"(\b(?:unable\s+to|can['’]?t|cannot|(?:don['’]t\s+have|no)\s+access\s+to)\b[^.!?]{0,20}\b(?:portal|work\s+e-?mail|approvals?\s+system)\b|\bfrom\s+my\s+private\s+(?:one|e-?mail|address)\b|\bmy\s+phone\s+(?:is\s+)?off\b|\bdon['’]t\s+try\s+to\s+call\b|)"
      R"(\b(?:can['’]?t|cannot)\s+be\s+reached\s+(?:until|by|on|today|right\s+now)\b|\bwon['’]t\s+have\s+(?:reception|signal)\b|)"
      R"(\bcan(?:['’]?t|not)\s+(?:talk|get\s+to\s+a\s+phone)\b|\b(?:don['’]t|do\s+not)\s+(?:bother\s+calling|ring\b)|\bno\s+(?:phone\s+)?signal\b|\bno\s+calls\b|\be-?mail\s+is\s+the\s+best\s+way\b|)"
      R"(\b(?:telephone\s+|phone\s+)?lines\s+(?:will\s+be|are)\s+(?:currently\s+)?down\b|\bunable\s+to\s+reach\s+you\s+by\s+phone\b|\bfrom\s+my\s+(?:own|personal)\s+(?:e-?mail|mailbox)\b|\baccount\s+is(?:n['’]t|\s+not)?\s+(?:acting\s+up|syncing|active\s+yet)\b|)"

@@ -71,6 +71,7 @@ class Session:
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="quillseal-session-"))
         self.home = self.folder / "home"
         self.processes = []
+        self.faults = []  # of our own programs, that no test may have noticed
         self.size = size
         self.panel = panel
         self.x_options = x_options
@@ -112,19 +113,13 @@ class Session:
     def __exit__(self, kind, value, trace):
         for process in reversed(self.processes):
             self.end(process)
-        reports = self._sanitizer_reports()
-        shutil.rmtree(self.folder, ignore_errors=True)
-        if reports:
-            raise Failure(reports)
-
-    def _sanitizer_reports(self):
-        """Leaks are told at the end of a program, when no test looks at it any more."""
-        reports = []
         for log in sorted(self.folder.glob("*.log")):
             text = log.read_text(errors="replace")
             if found := SANITIZER_REPORT.search(text):
-                reports.append(f"{log.name}: {text[found.start():]}")
-        return "\n".join(reports)
+                self.faults.append(f"{log.name}: {text[found.start():]}")
+        shutil.rmtree(self.folder, ignore_errors=True)
+        if self.faults:
+            raise Failure("\n".join(self.faults))
 
     # Processes
 
@@ -143,14 +138,17 @@ class Session:
 
     def end(self, process, how=signal.SIGTERM):
         """Ends a program with all its children."""
+        ours = self.build in pathlib.Path(process.args[0]).parents
         for attempt in (how, signal.SIGKILL):
             try:
                 os.killpg(process.pid, attempt)
             except ProcessLookupError:
                 pass
             try:
-                process.wait(5)
+                process.wait(PATIENCE if ours else 5)
             except subprocess.TimeoutExpired:
+                if ours:
+                    self.faults.append(f"{process.log.name}: it goes on though it was told to end")
                 continue
             break
         if process in self.processes:

@@ -12,8 +12,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "FailureOf.h"
 #include "LinuxDesktop/FileKeyStore.h"
-#include "LinuxDesktop/KeyFailure.h"
 #include "LinuxDesktop/KeyFile.h"
 #include "ServerVerdict.h"
 #include "TemporaryFolder.h"
@@ -21,6 +21,7 @@
 namespace quillseal {
 namespace {
 
+using testing::failureOf;
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
 namespace fs = std::filesystem;
@@ -36,14 +37,6 @@ SecretBytes passphrase() {
 
 class FileKeyStoreTest : public ::testing::Test {
  protected:
-  std::string failureOf(const auto& action) {
-    try {
-      action();
-    } catch (const KeyFailure& failure) {
-      return failure.what();
-    }
-    return "(no failure)";
-  }
   std::string signFailure() {
     return failureOf([&] { static_cast<void>(store.sign(digest, passphrase())); });
   }

@@ -10,6 +10,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "FailureOf.h"
 #include "LinuxDesktop/FileKeyStore.h"
 #include "LinuxDesktop/KeyFailure.h"
 #include "LinuxDesktop/LinuxKeyStore.h"
@@ -19,6 +20,7 @@ namespace quillseal {
 namespace {
 
 using ::testing::ElementsAre;
+using testing::failureOf;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
@@ -118,16 +120,6 @@ class LinuxKeyStoreTest : public ::testing::Test {
   std::vector<std::uint8_t> sign() {
     return store->load(desktop::Prompt{.reason = "Sign “x” as y", .medium = "LinkedIn Post"})
         ->sign(digest);
-  }
-  std::string failureOf(const auto& action) {
-    try {
-      action();
-    } catch (const Cancelled& cancelled) {
-      return std::string("cancelled: ") + cancelled.what();
-    } catch (const Error& failure) {
-      return failure.what();
-    }
-    return "(no failure)";
   }
   p256::Point publicKey() {
     const auto bytes = store->load(std::nullopt)->publicKey();

@@ -7,6 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "FailureOf.h"
 #include "LinuxDesktop/KeyFailure.h"
 #include "LinuxDesktop/TpmKeyStore.h"
 #include "ServerVerdict.h"
@@ -16,6 +17,7 @@
 namespace quillseal {
 namespace {
 
+using testing::failureOf;
 using ::testing::HasSubstr;
 namespace fs = std::filesystem;
 
@@ -36,15 +38,6 @@ class TpmKeyStoreTest : public ::testing::Test {
     fs::remove_all(state.path());
     fs::create_directory(state.path());
     tpm.emplace(state.path());
-  }
-
-  std::string failureOf(const auto& action) {
-    try {
-      action();
-    } catch (const KeyFailure& failure) {
-      return failure.what();
-    }
-    return "(no failure)";
   }
 
   testing::TemporaryFolder folder;

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+
+#include "LinuxDesktop/KeyFailure.h"
+
+namespace quillseal::testing {
+
+/// What a key store says when the action fails.
+std::string failureOf(const auto& action) {
+  try {
+    action();
+  } catch (const Cancelled& cancelled) {
+    return std::string("cancelled: ") + cancelled.what();
+  } catch (const KeyFailure& failure) {
+    return failure.what();
+  }
+  return "(no failure)";
+}
+
+}  // namespace quillseal::testing

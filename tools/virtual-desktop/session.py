@@ -376,7 +376,15 @@ class Session:
         wait_for(f"a notification tells “{text}”", lambda: text in self.output_of(self.monitor))
 
     def screenshot(self, path):
-        self.run("import", "-window", "root", path)
+        """A picture of the whole display, once nothing scrolls or fades any more."""
+        path = pathlib.Path(path)
+
+        def is_still():
+            before = path.read_bytes() if path.exists() else b""
+            self.run("import", "-window", "root", "-define", "png:exclude-chunks=date,time", path)
+            return path.read_bytes() == before
+        path.unlink(missing_ok=True)
+        wait_for("the display is still", is_still)
 
     # Applications
 

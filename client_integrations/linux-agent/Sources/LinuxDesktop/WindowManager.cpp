@@ -47,11 +47,14 @@ WindowManager::WindowManager() {
   root_ = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data->root;
 }
 
+// An atom stays the same as long as the server runs.
 xcb_atom_t WindowManager::atom(const char* name) const {
+  if (const auto known = atoms_.find(name); known != atoms_.end()) return known->second;
   const auto cookie =
       xcb_intern_atom(connection_, 0, static_cast<std::uint16_t>(std::strlen(name)), name);
   const Reply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(connection_, cookie, nullptr));
-  return reply == nullptr ? static_cast<xcb_atom_t>(XCB_ATOM_NONE) : reply->atom;
+  if (reply == nullptr) return XCB_ATOM_NONE;
+  return atoms_[name] = reply->atom;
 }
 
 std::string WindowManager::property(xcb_window_t window, const char* name, xcb_atom_t type) const {

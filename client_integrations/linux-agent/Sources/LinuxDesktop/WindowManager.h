@@ -2,6 +2,8 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
+#include <map>
 #include <optional>
 #include <string>
 
@@ -59,6 +61,7 @@ class WindowManager {
   };
 
   mutable std::optional<Answer> lastAnswer_;
+  mutable std::map<std::string, xcb_atom_t, std::less<>> atoms_;
   xcb_connection_t* connection_ = nullptr;
   xcb_window_t root_ = 0;
 };

@@ -290,7 +290,9 @@ class Compiler {
     LiteralIndexTable<Owned> index = chains.index(classes);
     chains.moveInto(table_);
     leading.moveInto(table_);
+    // First of all: who asks for these only reads no further.
     TableWriter writer;
+    writer(unusable());
     classes.table().transfer(writer);
     classSets.table().transfer(writer);
     index.transfer(writer);
@@ -326,6 +328,13 @@ class Compiler {
   void leaveOut(std::size_t pattern, const PatternError& error) {
     table_.forms[pattern] = {.isUsable = false};
     problems_.push_back({.pattern = pattern, .reason = error.what()});
+  }
+
+  [[nodiscard]] std::vector<std::uint16_t> unusable() const {
+    std::vector<std::uint16_t> patterns;
+    for (std::size_t pattern = 0; pattern < table_.forms.size(); ++pattern)
+      if (!table_.forms[pattern].isUsable) patterns.push_back(static_cast<std::uint16_t>(pattern));
+    return patterns;
   }
 
   /// Of the latest search.

@@ -207,7 +207,8 @@ Screening screen(std::string_view text) {
 
 std::vector<std::string_view> disabledRules() {
   std::vector<std::string_view> ids;
-  for (const std::size_t pattern : engine().unusablePatterns())
+  for (const std::uint16_t pattern :
+       screening::ScreeningEngine::unusablePatterns(screening::compiledRules()))
     if (pattern < ContentRules::all.size()) ids.push_back(ContentRules::all[pattern].id);
   return ids;
 }

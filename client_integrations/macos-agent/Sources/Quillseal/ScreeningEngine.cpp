@@ -12,13 +12,23 @@
 namespace quillseal::screening {
 struct ScreeningEngine::Tables {
   explicit Tables(TableReader reader)
-      : classes(reader), sets(reader, classes.count()), index(reader) {
+      : unusable(readUnusable(reader)),
+        classes(reader),
+        sets(reader, classes.count()),
+        index(reader) {
     table.transfer(reader);
     programs.resize(table.searches.size());
     for (PatternProgram<Stored>& program : programs)
       program.transfer(reader);
   }
 
+  static std::span<const std::uint16_t> readUnusable(TableReader& reader) {
+    std::span<const std::uint16_t> patterns;
+    reader(patterns);
+    return patterns;
+  }
+
+  std::span<const std::uint16_t> unusable;
   CharacterClasses classes;
   ClassSets sets;
   LiteralIndex index;
@@ -388,11 +398,10 @@ ScreeningEngine::ScreeningEngine(std::span<const std::byte> tables)
 
 ScreeningEngine::~ScreeningEngine() = default;
 
-std::vector<std::size_t> ScreeningEngine::unusablePatterns() const {
-  std::vector<std::size_t> patterns;
-  for (std::size_t pattern = 0; pattern < tables_->table.forms.size(); ++pattern)
-    if (!tables_->table.forms[pattern].isUsable) patterns.push_back(pattern);
-  return patterns;
+std::span<const std::uint16_t> ScreeningEngine::unusablePatterns(
+    std::span<const std::byte> tables) {
+  TableReader reader(tables);
+  return Tables::readUnusable(reader);
 }
 
 std::vector<PatternMatch> ScreeningEngine::firstMatches(std::string_view text,

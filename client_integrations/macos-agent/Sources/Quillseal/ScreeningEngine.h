@@ -28,8 +28,10 @@ class ScreeningEngine {
   ScreeningEngine(const ScreeningEngine&) = delete;
   ScreeningEngine& operator=(const ScreeningEngine&) = delete;
 
-  /// Those that did not compile and are not searched for, ascending.
-  [[nodiscard]] std::vector<std::size_t> unusablePatterns() const;
+  /// Those of the patterns that did not compile and are not searched for, ascending. Looks at
+  /// nothing else of the tables.
+  [[nodiscard]] static std::span<const std::uint16_t> unusablePatterns(
+      std::span<const std::byte> tables);
 
   /// The first match of each pattern that has one, by ascending index. `text`: any bytes; those
   /// that do not form UTF-8 count as U+FFFD. `steps`, if given, receives the work done.

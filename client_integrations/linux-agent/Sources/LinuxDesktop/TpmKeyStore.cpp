@@ -317,15 +317,13 @@ struct TpmKeyStore::OpenedKey {
       : contents(stored.contents),
         tpm(device),
         parent(parentOf(tpm, stored)),
-        session(startSession(tpm, parent)),
-        key(load(tpm, parent, session, stored)) {}
+        key(load(tpm, parent, startSession(tpm, parent), stored)) {}
 
   [[nodiscard]] Attempt sign(const p256::Digest& digest, const SecretBytes& secret) const;
 
   std::string contents;  ///< of the key's file
   Tpm tpm;
   Loaded parent;
-  Loaded session;
   Loaded key;
 };
 
@@ -342,6 +340,8 @@ TpmKeyStore::OpenedKey::Attempt TpmKeyStore::OpenedKey::sign(const p256::Digest&
   ticket.tag = TPM2_ST_HASHCHECK;
   ticket.hierarchy = TPM2_RH_NULL;
 
+  // Not kept while a person is asked: one old session makes the TPM refuse new ones in the end.
+  const Loaded session = startSession(tpm, parent);
   require(::Esys_TR_SetAuth(tpm.get(), key.get(), &PinValue(secret).get()));
   TPMT_SIGNATURE* answer = nullptr;
   const TSS2_RC code = ::Esys_Sign(tpm.get(), key.get(), session.get(), ESYS_TR_NONE, ESYS_TR_NONE,
@@ -465,10 +465,13 @@ std::optional<std::vector<std::uint8_t>> TpmKeyStore::sign(const p256::Digest& d
     return tpmFailureOf(code).problem == TpmProblem::wrongSecret;
   };
   if (opened_ != nullptr && opened_->contents == stored.contents) {
-    OpenedKey::Attempt attempt = opened_->sign(digest, secret);
-    if (attempt.code == TSS2_RC_SUCCESS) return std::move(attempt.signature);
-    if (isWrong(attempt.code)) return std::nullopt;
-    // A TPM that was reset meanwhile has forgotten what was loaded, but not the key.
+    try {
+      OpenedKey::Attempt attempt = opened_->sign(digest, secret);
+      if (attempt.code == TSS2_RC_SUCCESS) return std::move(attempt.signature);
+      if (isWrong(attempt.code)) return std::nullopt;
+    } catch (const KeyFailure&) {
+      // A TPM that was reset meanwhile has forgotten what was loaded, but not the key.
+    }
   }
   opened_.reset();
   const OpenedKey key(device_, stored);

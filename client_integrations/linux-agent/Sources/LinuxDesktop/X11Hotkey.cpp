@@ -48,7 +48,8 @@ void X11Hotkey::registerHotkey(desktop::KeyPress combination, std::function<void
     throw Error({.domain = "X11Hotkey", .code = 1, .description = obstacle_});
   combination_ = combination;
   pressed_ = std::move(pressed);
-  if (!grab(place()))
+  if (const auto where = place()) isGrabbed_ = grab(*where);
+  if (!isGrabbed_)
     throw Error(
         {.domain = "X11Hotkey",
          .code = 2,
@@ -59,16 +60,21 @@ void X11Hotkey::registerHotkey(desktop::KeyPress combination, std::function<void
   QCoreApplication::instance()->installNativeEventFilter(this);
 }
 
-X11Hotkey::Place X11Hotkey::place() const {
+std::optional<X11Hotkey::Place> X11Hotkey::place() const {
   const X11Keyboard::Layout layout = keyboard_->layout();
   std::vector<Keysym> chord = chordOf(combination_);
   Place place{.key = layout.keyFor(chord.back()),
               .modifiers = 0,
               .numLock = layout.modifierMaskOf(XKB_KEY_Num_Lock)};
   chord.pop_back();
-  for (const Keysym modifier : chord)
-    place.modifiers |= layout.modifierMaskOf(modifier);
-  return place;
+  bool isKnown = place.key != 0;
+  for (const Keysym modifier : chord) {
+    const unsigned mask = layout.modifierMaskOf(modifier);
+    place.modifiers |= mask;
+    isKnown = isKnown && mask != 0;
+  }
+  // With modifiers missing, the bare key would be taken from every program.
+  return isKnown ? std::optional(place) : std::nullopt;
 }
 
 bool X11Hotkey::grab(const Place& place) {
@@ -98,8 +104,8 @@ void X11Hotkey::awaitRelease() {
 
 void X11Hotkey::followLayout() {
   following_ = loop_.after(kLayoutSettles, [this] {
-    const Place now = place();
-    if (now != place_) static_cast<void>(grab(now));
+    const std::optional<Place> now = place();
+    if (now && (*now != place_ || !isGrabbed_)) isGrabbed_ = grab(*now);
   });
 }
 

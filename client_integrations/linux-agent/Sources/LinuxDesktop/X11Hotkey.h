@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractNativeEventFilter>
+#include <optional>
 #include <string>
 
 #include "Desktop/Hotkey.h"
@@ -28,7 +29,8 @@ class X11Hotkey : public desktop::Hotkey, private QAbstractNativeEventFilter {
     [[nodiscard]] bool operator==(const Place&) const = default;
   };
 
-  [[nodiscard]] Place place() const;
+  /// Nothing while the keyboard's layout cannot be read.
+  [[nodiscard]] std::optional<Place> place() const;
   [[nodiscard]] bool grab(const Place& place);
   void followLayout();
   void awaitRelease();
@@ -41,6 +43,7 @@ class X11Hotkey : public desktop::Hotkey, private QAbstractNativeEventFilter {
   xcb_connection_t* connection_ = nullptr;
   xcb_window_t root_ = 0;
   Place place_;
+  bool isGrabbed_ = false;
   bool down_ = false;
   xcb_timestamp_t lastRelease_ = 0;
   xcb_timestamp_t lastPress_ = 0;

@@ -19,8 +19,8 @@ Error unusable(const std::string& reason) {
                 .code = desktop::transport::unknown,
                 .description = "The part of Quillseal that talks to the server cannot be used (" +
                                reason +
-                               "). If Quillseal was updated a while ago, quit it and start it "
-                               "again; otherwise install it again."});
+                               "). If the computer was updated since Quillseal was started, "
+                               "quit it and start it again; otherwise install it again."});
 }
 
 }  // namespace
@@ -35,7 +35,8 @@ void LoadedTransport::load() {
   };
   const auto found = std::ranges::find_if(options_.places, exists);
   if (found == options_.places.end())
-    throw unusable(options_.places.front().string() + " is missing");
+    throw unusable(options_.places.empty() ? "where it is cannot be told"
+                                           : options_.places.front().string() + " is missing");
   // Never unloaded: libcurl's own threads may outlive a request.
   void* const module = ::dlopen(found->c_str(), RTLD_NOW | RTLD_LOCAL);
   void* const function = module == nullptr ? nullptr : ::dlsym(module, httpModuleFunction);
@@ -68,6 +69,7 @@ Error LoadedTransport::error(desktop::transport::ErrorCode code) const {
 std::vector<fs::path> LoadedTransport::usualPlaces() {
   std::error_code error;
   const fs::path folder = fs::read_symlink("/proc/self/exe", error).parent_path();
+  if (error) return {};
   return {(folder / httpModuleFromProgram).lexically_normal(),
           folder / fs::path(httpModuleFromProgram).filename()};
 }

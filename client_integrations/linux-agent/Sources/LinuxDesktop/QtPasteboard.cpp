@@ -37,7 +37,7 @@ QtPasteboard::QtPasteboard() {
 }
 
 desktop::Ticket QtPasteboard::onNextChange(std::function<void()> changed) {
-  // Qt drops the connection, and with it `changed`, before it calls.
+  // Qt drops the connection before it calls, and keeps `changed` until the call has returned.
   const auto watch = QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged,
                                       &receiver_, std::move(changed), Qt::SingleShotConnection);
   return desktop::Ticket([watch] { QObject::disconnect(watch); });

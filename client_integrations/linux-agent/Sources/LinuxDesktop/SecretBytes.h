@@ -8,8 +8,8 @@
 namespace quillseal {
 
 /// Keeps the memory of all secrets that are made from now on out of the swap area and of core
-/// dumps, OpenSSL's own private keys included. False where the system does not allow that. To be
-/// called once, at the start of the program.
+/// dumps. False where the system does not allow that. To be called once, at the start of the
+/// program.
 bool lockMemoryOfSecrets() noexcept;
 
 /// Bytes that must not outlive their use: a PIN, a passphrase, a value derived from one. They are

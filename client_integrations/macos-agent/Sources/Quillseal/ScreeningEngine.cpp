@@ -10,25 +10,26 @@
 #include "Quillseal/UnicodeText.h"
 
 namespace quillseal::screening {
+namespace {
+
+/// What stands before all other tables.
+std::span<const std::uint16_t> readUnusable(TableReader& reader) {
+  std::span<const std::uint16_t> patterns;
+  reader(patterns);
+  return patterns;
+}
+
+}  // namespace
+
 struct ScreeningEngine::Tables {
   explicit Tables(TableReader reader)
-      : unusable(readUnusable(reader)),
-        classes(reader),
-        sets(reader, classes.count()),
-        index(reader) {
+      : classes(reader), sets(reader, classes.count()), index(reader) {
     table.transfer(reader);
     programs.resize(table.searches.size());
     for (PatternProgram<Stored>& program : programs)
       program.transfer(reader);
   }
 
-  static std::span<const std::uint16_t> readUnusable(TableReader& reader) {
-    std::span<const std::uint16_t> patterns;
-    reader(patterns);
-    return patterns;
-  }
-
-  std::span<const std::uint16_t> unusable;
   CharacterClasses classes;
   ClassSets sets;
   LiteralIndex index;
@@ -393,15 +394,18 @@ class ScreeningEngine::Screening {
 
 // ---------------------------------------------------------------------------------------------
 
-ScreeningEngine::ScreeningEngine(std::span<const std::byte> tables)
-    : tables_(std::make_unique<const Tables>(TableReader(tables))) {}
+ScreeningEngine::ScreeningEngine(std::span<const std::byte> tables) {
+  TableReader reader(tables);
+  static_cast<void>(readUnusable(reader));
+  tables_ = std::make_unique<const Tables>(reader);
+}
 
 ScreeningEngine::~ScreeningEngine() = default;
 
 std::span<const std::uint16_t> ScreeningEngine::unusablePatterns(
     std::span<const std::byte> tables) {
   TableReader reader(tables);
-  return Tables::readUnusable(reader);
+  return readUnusable(reader);
 }
 
 std::vector<PatternMatch> ScreeningEngine::firstMatches(std::string_view text,

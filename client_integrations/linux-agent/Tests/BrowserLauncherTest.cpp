@@ -10,6 +10,7 @@
 
 #include "LinuxDesktop/BrowserLauncher.h"
 #include "LinuxDesktop/Browsers.h"
+#include "LinuxDesktop/LoadedDesktopEntries.h"
 #include "TemporaryFolder.h"
 #include "VirtualLoop.h"
 
@@ -114,6 +115,12 @@ const Computer& computer() {
   return only;
 }
 
+LoadedDesktopEntries entriesAt(const fs::path& module) {
+  return LoadedDesktopEntries(LoadedModule({.places = {module},
+                                            .version = QUILLSEAL_VERSION,
+                                            .duty = "knows the installed applications"}));
+}
+
 class BrowserLauncherTest : public ::testing::Test {
  protected:
   BrowserLauncherTest() {
@@ -123,8 +130,13 @@ class BrowserLauncherTest : public ::testing::Test {
   }
 
   std::string failureOf(const std::string& url, const std::string& location) {
+    return failureOf(launcher_, url, location);
+  }
+
+  static std::string failureOf(BrowserLauncher& launcher, const std::string& url,
+                               const std::string& location) {
     try {
-      launcher_.open(url, location);
+      launcher.open(url, location);
     } catch (const Error& error) {
       return error.what();
     }
@@ -144,24 +156,25 @@ class BrowserLauncherTest : public ::testing::Test {
   }
 
   VirtualLoop loop_;
-  BrowserLauncher launcher_{loop_};
+  LoadedDesktopEntries entries_ = entriesAt(QUILLSEAL_ENTRIES_MODULE);
+  BrowserLauncher launcher_{entries_, loop_};
 };
 
 TEST_F(BrowserLauncherTest, FindsChromeWhereItIsInstalled) {
-  EXPECT_EQ(BrowserLauncher::chrome()->location, "google-chrome");
-  EXPECT_EQ(BrowserLauncher::chrome()->bundleIdentifier, "google-chrome");
+  EXPECT_EQ(launcher_.chrome()->location, "google-chrome");
+  EXPECT_EQ(launcher_.chrome()->bundleIdentifier, "google-chrome");
   fs::remove(computer().root() / "google-chrome-stable");
-  EXPECT_EQ(BrowserLauncher::chrome()->location, "com.google.Chrome");
-  EXPECT_EQ(BrowserLauncher::chrome()->bundleIdentifier, "google-chrome");
+  EXPECT_EQ(launcher_.chrome()->location, "com.google.Chrome");
+  EXPECT_EQ(launcher_.chrome()->bundleIdentifier, "google-chrome");
   fs::remove(computer().root() / "google-chrome-flatpak");
-  EXPECT_EQ(BrowserLauncher::chrome(), std::nullopt);
+  EXPECT_EQ(launcher_.chrome(), std::nullopt);
 }
 
 TEST_F(BrowserLauncherTest, FindsTheDefaultBrowser) {
-  const auto browser = BrowserLauncher::defaultFor("https://seal.example/");
+  const auto browser = launcher_.defaultFor("https://seal.example/");
   EXPECT_EQ(browser->location, "userapp-Firefox-AB12");
   EXPECT_EQ(browser->bundleIdentifier, "firefox");
-  EXPECT_EQ(BrowserLauncher::defaultFor("gopher://seal.example/"), std::nullopt);
+  EXPECT_EQ(launcher_.defaultFor("gopher://seal.example/"), std::nullopt);
 }
 
 TEST_F(BrowserLauncherTest, HandsShortAddressesOver) {
@@ -189,7 +202,7 @@ TEST_F(BrowserLauncherTest, LeadsToLongAddressesByAPage) {
   EXPECT_FALSE(fs::exists(page));
   EXPECT_FALSE(fs::exists(second));
 
-  std::optional<BrowserLauncher> shortLived(loop_);
+  std::optional<BrowserLauncher> shortLived(std::in_place, entries_, loop_);
   shortLived->open(url, "");
   const fs::path third = openedPage("firefox");
   EXPECT_TRUE(fs::exists(third));
@@ -205,6 +218,11 @@ TEST_F(BrowserLauncherTest, TellsWhyNothingOpens) {
   fs::permissions(computer().root() / "runtime", fs::perms::all);
   EXPECT_THAT(failureOf(longUrl, ""), HasSubstr("of this user alone"));
   fs::permissions(computer().root() / "runtime", fs::perms::owner_all);
+
+  LoadedDesktopEntries missing = entriesAt(computer().root() / "missing.so");
+  BrowserLauncher helpless(missing, loop_);
+  EXPECT_THAT(failureOf(helpless, "https://seal.example/", ""),
+              HasSubstr("knows the installed applications cannot be used"));
 }
 
 }  // namespace

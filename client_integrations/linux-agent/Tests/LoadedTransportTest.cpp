@@ -21,7 +21,9 @@ namespace fs = std::filesystem;
 std::string answerOf(std::vector<fs::path> places, std::string version = QUILLSEAL_VERSION) {
   PollLoop loop;
   LoadedTransport transport(loop, loop,
-                            {.places = std::move(places), .version = std::move(version)});
+                            LoadedModule({.places = std::move(places),
+                                          .version = std::move(version),
+                                          .duty = "talks to the server"}));
   std::string told;
   for (int request = 0; request < 2; ++request) {
     const desktop::Ticket ticket = transport.send(

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "LinuxDesktop/Browsers.h"
-#include "LinuxDesktop/DesktopEntries.h"
 
 namespace quillseal {
 namespace {
@@ -25,20 +24,20 @@ std::optional<InstalledApplication> installed(const std::optional<DesktopEntry>&
 
 }  // namespace
 
-std::optional<InstalledApplication> BrowserLauncher::chrome() {
+std::optional<InstalledApplication> BrowserLauncher::chrome() const {
   for (const std::string_view file : {"google-chrome", "com.google.Chrome"}) {
-    if (auto application = installed(DesktopEntries::withId(file))) return application;
+    if (auto application = installed(entries_.withId(file))) return application;
   }
   return std::nullopt;
 }
 
-std::optional<InstalledApplication> BrowserLauncher::defaultFor(const std::string& url) {
-  return installed(DesktopEntries::defaultFor(url));
+std::optional<InstalledApplication> BrowserLauncher::defaultFor(const std::string& url) const {
+  return installed(entries_.defaultFor(url));
 }
 
 void BrowserLauncher::open(const std::string& url, const std::string& location) {
   const std::optional<DesktopEntry> entry =
-      location.empty() ? DesktopEntries::defaultFor(url) : DesktopEntries::withId(location);
+      location.empty() ? entries_.defaultFor(url) : entries_.withId(location);
   if (!entry) {
     fail(location.empty()
              ? "No application on this computer opens web pages. Install a browser and try again."
@@ -50,7 +49,7 @@ void BrowserLauncher::open(const std::string& url, const std::string& location) 
          "”, which runs in a sandbox. Sign a part of it, or make a browser outside of a sandbox "
          "the default one.");
   }
-  if (!DesktopEntries::open(isLong ? pageFor(url) : url, entry->id))
+  if (!entries_.open(isLong ? pageFor(url) : url, entry->id))
     fail("“" + entry->name + "” could not be started.");
 }
 

@@ -7,6 +7,7 @@
 
 #include "Desktop/Applications.h"
 #include "Desktop/MainLoop.h"
+#include "LinuxDesktop/DesktopEntries.h"
 #include "LinuxDesktop/LeadingPage.h"
 
 namespace quillseal {
@@ -22,12 +23,13 @@ class BrowserLauncher {
   /// How long such a page is there for a browser that has to start first.
   static constexpr std::chrono::minutes pageLife{2};
 
-  /// `loop` outlives this object.
-  explicit BrowserLauncher(desktop::MainLoop& loop) : loop_(loop) {}
+  /// Both outlive this object.
+  BrowserLauncher(DesktopEntries& entries, desktop::MainLoop& loop)
+      : entries_(entries), loop_(loop) {}
 
-  [[nodiscard]] static std::optional<desktop::InstalledApplication> chrome();
-  [[nodiscard]] static std::optional<desktop::InstalledApplication> defaultFor(
-      const std::string& url);
+  [[nodiscard]] std::optional<desktop::InstalledApplication> chrome() const;
+  [[nodiscard]] std::optional<desktop::InstalledApplication> defaultFor(
+      const std::string& url) const;
 
   /// With the application whose desktop file `location` names, or with the user's choice for such
   /// addresses when it is empty. Throws Error.
@@ -41,6 +43,7 @@ class BrowserLauncher {
 
   [[nodiscard]] std::string pageFor(const std::string& url);
 
+  DesktopEntries& entries_;
   desktop::MainLoop& loop_;
   std::deque<OpenedPage> pages_;  ///< oldest first
 };

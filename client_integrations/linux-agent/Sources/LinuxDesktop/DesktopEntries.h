@@ -3,7 +3,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace quillseal {
 
@@ -25,23 +24,25 @@ struct WindowTraits {
   bool operator==(const WindowTraits&) const = default;
 };
 
-/// The installed applications: desktop files under the XDG data folders. Reads them through GIO,
-/// which keeps itself up to date. Main thread only.
-namespace DesktopEntries {
+/// The installed applications: desktop files under the XDG data folders. Main thread only. Every
+/// function throws Error when they cannot be looked at.
+class DesktopEntries {
+ public:
+  virtual ~DesktopEntries() = default;
 
-/// The application that a window with these traits belongs to. In this order, without regard to
-/// case: a StartupWMClass equal to the class, a file named after the GTK id, after the class, after
-/// the executable. Nothing when there is none.
-[[nodiscard]] std::optional<DesktopEntry> forWindow(const WindowTraits& traits);
+  /// The application that a window with these traits belongs to. In this order, without regard to
+  /// case: a StartupWMClass equal to the class, a file named after the GTK id, after the class,
+  /// after the executable. Nothing when there is none.
+  [[nodiscard]] virtual std::optional<DesktopEntry> forWindow(const WindowTraits& traits) = 0;
 
-[[nodiscard]] std::optional<DesktopEntry> withId(std::string_view id);
+  [[nodiscard]] virtual std::optional<DesktopEntry> withId(std::string_view id) = 0;
 
-/// The application that opens this URL by the user's choice.
-[[nodiscard]] std::optional<DesktopEntry> defaultFor(const std::string& url);
+  /// The application that opens this URL by the user's choice.
+  [[nodiscard]] virtual std::optional<DesktopEntry> defaultFor(const std::string& url) = 0;
 
-/// Starts the application with this id on a URL. False when it is not installed or could not be
-/// started.
-[[nodiscard]] bool open(const std::string& url, std::string_view id);
+  /// Starts the application with this id on a URL. False when it is not installed or could not be
+  /// started.
+  [[nodiscard]] virtual bool open(const std::string& url, std::string_view id) = 0;
+};
 
-}  // namespace DesktopEntries
 }  // namespace quillseal

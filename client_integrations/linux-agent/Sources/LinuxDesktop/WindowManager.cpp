@@ -21,7 +21,6 @@ using Reply = std::unique_ptr<T, FreeDeleter>;
 
 constexpr std::uint32_t kLongestProperty = 1024;  // in units of four bytes
 constexpr std::uint32_t kSourcePager = 2;
-constexpr std::chrono::minutes kAnswerHolds{5};
 
 // WM_CLASS holds the instance and the class, each closed by a zero byte. The instance is not used:
 // some programs put a profile path there.
@@ -104,13 +103,6 @@ WindowTraits WindowManager::traitsOf(xcb_window_t window) const {
   if (const std::uint32_t process = processOf(window); process != 0)
     traits.executable = executableOf(process);
   return traits;
-}
-
-std::optional<DesktopEntry> WindowManager::applicationWith(const WindowTraits& traits) const {
-  const auto now = std::chrono::steady_clock::now();
-  if (!lastAnswer_ || lastAnswer_->traits != traits || now - lastAnswer_->when > kAnswerHolds)
-    lastAnswer_ = Answer{.traits = traits, .entry = DesktopEntries::forWindow(traits), .when = now};
-  return lastAnswer_->entry;
 }
 
 bool WindowManager::hasPrimarySelection(xcb_window_t window) const {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -31,10 +30,6 @@ class WindowManager {
 
   [[nodiscard]] WindowTraits traitsOf(xcb_window_t window) const;
 
-  /// The application that windows with these traits belong to. One signature asks several times and
-  /// every installed application is looked at, so the last answer holds for some minutes.
-  [[nodiscard]] std::optional<DesktopEntry> applicationWith(const WindowTraits& traits) const;
-
   /// Whether the program that shows the window has the primary selection.
   [[nodiscard]] bool hasPrimarySelection(xcb_window_t window) const;
 
@@ -54,13 +49,6 @@ class WindowManager {
   [[nodiscard]] std::optional<std::uint32_t> number(xcb_window_t window, const char* name,
                                                     xcb_atom_t type) const;
 
-  struct Answer {
-    WindowTraits traits;
-    std::optional<DesktopEntry> entry;
-    std::chrono::steady_clock::time_point when;
-  };
-
-  mutable std::optional<Answer> lastAnswer_;
   mutable std::map<std::string, xcb_atom_t, std::less<>> atoms_;
   xcb_connection_t* connection_ = nullptr;
   xcb_window_t root_ = 0;

@@ -1,7 +1,6 @@
 #include "LinuxDesktop/X11Applications.h"
 
 #include "LinuxDesktop/Browsers.h"
-#include "LinuxDesktop/DesktopEntries.h"
 
 namespace quillseal {
 namespace {
@@ -20,7 +19,7 @@ std::optional<RunningApplication> X11Applications::frontmost() const {
   const WindowTraits traits = windows_.traitsOf(window);
   RunningApplication application{
       .instance = window, .name = {}, .bundleIdentifier = {}, .categories = {}};
-  if (const auto entry = windows_.applicationWith(traits)) {
+  if (const auto entry = entries_.forWindow(traits)) {
     application.name = entry->name;
     // Not by the executable: a browser's programs for single sites have desktop files of their own.
     application.bundleIdentifier =
@@ -45,12 +44,12 @@ void X11Applications::activate(const RunningApplication& application) {
 }
 
 std::optional<InstalledApplication> X11Applications::applicationAt(const std::string& path) const {
-  return path == kChromeBundle ? BrowserLauncher::chrome() : std::nullopt;
+  return path == kChromeBundle ? launcher_.chrome() : std::nullopt;
 }
 
 std::optional<InstalledApplication> X11Applications::defaultApplicationFor(
     const std::string& url) const {
-  return BrowserLauncher::defaultFor(url);
+  return launcher_.defaultFor(url);
 }
 
 desktop::Ticket X11Applications::open(const std::string& url,

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <optional>
+
 #include "Desktop/Applications.h"
 #include "Desktop/MainLoop.h"
 #include "LinuxDesktop/BrowserLauncher.h"
+#include "LinuxDesktop/DesktopEntries.h"
 #include "LinuxDesktop/WindowManager.h"
 
 namespace quillseal {
@@ -12,9 +15,9 @@ namespace quillseal {
 /// a browser is the same under all the names that it may have.
 class X11Applications : public desktop::Applications {
  public:
-  /// Both outlive this object.
-  X11Applications(const WindowManager& windows, desktop::MainLoop& loop)
-      : windows_(windows), launcher_(loop) {}
+  /// All outlive this object.
+  X11Applications(const WindowManager& windows, DesktopEntries& entries, desktop::MainLoop& loop)
+      : windows_(windows), entries_(entries), launcher_(entries, loop) {}
 
   [[nodiscard]] std::optional<desktop::RunningApplication> frontmost() const override;
   [[nodiscard]] bool isActive(const desktop::RunningApplication& application) const override;
@@ -30,6 +33,7 @@ class X11Applications : public desktop::Applications {
 
  private:
   const WindowManager& windows_;
+  DesktopEntries& entries_;
   BrowserLauncher launcher_;
 };
 

@@ -78,7 +78,7 @@ void XTestKeyEvents::tap(desktop::KeyPress press, const X11Keyboard::Layout& lay
       services_.pasteboard.copyPrimarySelection();
     if (press.key == desktop::Key::v) services_.pasteboard.offerAsPrimarySelection();
   }
-  const auto entry = services_.windows.applicationWith(traits);
+  const auto entry = services_.entries.forWindow(traits);
   const std::vector<Keysym> chord =
       chordFor(press, entry ? entry->categories : std::string(), traits.windowClass);
   std::vector<xcb_keycode_t> keys;

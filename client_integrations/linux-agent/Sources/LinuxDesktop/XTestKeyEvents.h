@@ -5,6 +5,7 @@
 
 #include "Desktop/KeyEvents.h"
 #include "Desktop/MainLoop.h"
+#include "LinuxDesktop/DesktopEntries.h"
 #include "LinuxDesktop/QtPasteboard.h"
 #include "LinuxDesktop/WindowManager.h"
 #include "LinuxDesktop/X11Keyboard.h"
@@ -17,6 +18,7 @@ class XTestKeyEvents : public desktop::KeyEvents {
   struct Services {
     desktop::MainLoop& loop;
     const WindowManager& windows;
+    DesktopEntries& entries;
     X11Keyboard* keyboard;  ///< null where keys cannot be pressed
     QtPasteboard& pasteboard;
     /// Tells the person why keys cannot be pressed in this session.

@@ -16,11 +16,15 @@
 
 #include "Desktop/Desktop.h"
 #include "LinuxDesktop/CommandLine.h"
+#include "LinuxDesktop/EntriesModule.h"
+#include "LinuxDesktop/HttpModule.h"
 #include "LinuxDesktop/JournalLog.h"
 #include "LinuxDesktop/KeyFailure.h"
 #include "LinuxDesktop/LinuxBrowserTabs.h"
 #include "LinuxDesktop/LinuxKeyStore.h"
 #include "LinuxDesktop/LinuxPresence.h"
+#include "LinuxDesktop/LoadedDesktopEntries.h"
+#include "LinuxDesktop/LoadedModule.h"
 #include "LinuxDesktop/LoadedTransport.h"
 #include "LinuxDesktop/PlatformWording.h"
 #include "LinuxDesktop/QtAlerts.h"
@@ -114,11 +118,19 @@ class LinuxDesktop {
         defaults_({.path = quillseal::QtDefaults::settingsFile(),
                    .warn = [this](const std::string& sentence) { warn(sentence); }}),
         http_(loop_, descriptors_,
-              {.places = quillseal::LoadedTransport::usualPlaces(), .version = QUILLSEAL_VERSION}),
-        applications_(windowManager_, loop_),
+              quillseal::LoadedModule(
+                  {.places = quillseal::LoadedModule::usualPlaces(quillseal::HttpModule::fileName),
+                   .version = QUILLSEAL_VERSION,
+                   .duty = "talks to the server"})),
+        entries_(quillseal::LoadedModule(
+            {.places = quillseal::LoadedModule::usualPlaces(quillseal::EntriesModule::fileName),
+             .version = QUILLSEAL_VERSION,
+             .duty = "knows the installed applications"})),
+        applications_(windowManager_, entries_, loop_),
         hotkey_(loop_, keyboard_.get(), limits_),
         keys_({.loop = loop_,
                .windows = windowManager_,
+               .entries = entries_,
                .keyboard = keyboard_.get(),
                .pasteboard = pasteboard_,
                .explain = [this] { warn(limits_); }}),
@@ -190,6 +202,7 @@ class LinuxDesktop {
   quillseal::QtDefaults defaults_;
   quillseal::LoadedTransport http_;
   quillseal::QtPasteboard pasteboard_;
+  quillseal::LoadedDesktopEntries entries_;
   quillseal::X11Applications applications_;
   quillseal::X11Hotkey hotkey_;
   quillseal::XTestKeyEvents keys_;

@@ -1,4 +1,4 @@
-#include "LinuxDesktop/DesktopEntries.h"
+#include "LinuxDesktop/GioDesktopEntries.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -6,8 +6,10 @@
 
 #include <gio/gdesktopappinfo.h>
 
-namespace quillseal::DesktopEntries {
+namespace quillseal {
 namespace {
+
+constexpr std::chrono::minutes answerHolds{5};
 
 struct Unref {
   void operator()(gpointer object) const { g_object_unref(object); }
@@ -46,9 +48,7 @@ AppInfo infoWithId(std::string_view id) {
   return AppInfo(g_desktop_app_info_new((std::string(id) + ".desktop").c_str()));
 }
 
-}  // namespace
-
-std::optional<DesktopEntry> forWindow(const WindowTraits& traits) {
+std::optional<DesktopEntry> bestMatch(const WindowTraits& traits) {
   std::optional<DesktopEntry> best;
   int bestRank = 4;
   GList* const all = g_app_info_get_all();
@@ -77,13 +77,22 @@ std::optional<DesktopEntry> forWindow(const WindowTraits& traits) {
   return best;
 }
 
-std::optional<DesktopEntry> withId(std::string_view id) {
+}  // namespace
+
+std::optional<DesktopEntry> GioDesktopEntries::forWindow(const WindowTraits& traits) {
+  const auto now = std::chrono::steady_clock::now();
+  if (!lastAnswer_ || lastAnswer_->traits != traits || now - lastAnswer_->when > answerHolds)
+    lastAnswer_ = Answer{.traits = traits, .entry = bestMatch(traits), .when = now};
+  return lastAnswer_->entry;
+}
+
+std::optional<DesktopEntry> GioDesktopEntries::withId(std::string_view id) {
   const AppInfo info = infoWithId(id);
   if (info == nullptr) return std::nullopt;
   return entryOf(info.get());
 }
 
-std::optional<DesktopEntry> defaultFor(const std::string& url) {
+std::optional<DesktopEntry> GioDesktopEntries::defaultFor(const std::string& url) {
   const std::string scheme = url.substr(0, url.find(':'));
   const std::unique_ptr<GAppInfo, Unref> info(
       g_app_info_get_default_for_uri_scheme(scheme.c_str()));
@@ -91,7 +100,7 @@ std::optional<DesktopEntry> defaultFor(const std::string& url) {
   return entryOf(G_DESKTOP_APP_INFO(info.get()));
 }
 
-bool open(const std::string& url, std::string_view id) {
+bool GioDesktopEntries::open(const std::string& url, std::string_view id) {
   const AppInfo info = infoWithId(id);
   if (info == nullptr) return false;
   std::string argument = url;
@@ -99,4 +108,4 @@ bool open(const std::string& url, std::string_view id) {
   return g_app_info_launch_uris(G_APP_INFO(info.get()), &uris, nullptr, nullptr) != FALSE;
 }
 
-}  // namespace quillseal::DesktopEntries
+}  // namespace quillseal

@@ -1,8 +1,5 @@
 #!/usr/bin/env python3
-"""Signs a letter on a private virtual desktop, as a person would, and shows what came of it.
-
-usage: demo.py --screenshots FOLDER [--build FOLDER] [--keep]
-"""
+"""Signs a letter on a private virtual desktop, as a person would, and shows what came of it."""
 
 import html
 import pathlib
@@ -73,9 +70,11 @@ def run(arguments):
 
 
 def main():
-    parser = session.arguments_parser()
-    parser.add_argument("--screenshots", required=True, type=pathlib.Path)
-    parser.add_argument("--keep", action="store_true")
+    parser = session.arguments_parser(__doc__)
+    parser.add_argument("--screenshots", required=True, type=pathlib.Path, metavar="FOLDER",
+                        help="where the pictures prompt.png and signed.png go")
+    parser.add_argument("--keep", action="store_true",
+                        help="leave the desktop up until Ctrl+C is pressed")
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
     try:
         run(parser.parse_args())

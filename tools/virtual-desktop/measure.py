@@ -2,8 +2,6 @@
 """Measures the agent from outside: start-up, memory and wake-ups while idle, and what it adds to a
 signature.
 
-usage: measure.py [--build FOLDER] [--seconds N] [--runs N]
-
 The key is in a software TPM. One in a file takes some tenths of a second more at every signature, on
 purpose: that is what a guess at its passphrase costs.
 """
@@ -160,9 +158,10 @@ def enrol(desktop):
 
 
 def main():
-    parser = session.arguments_parser()
+    parser = session.arguments_parser(__doc__)
     parser.add_argument("--seconds", type=int, default=60, help="how long to watch it idle")
-    parser.add_argument("--runs", type=int, default=21)
+    parser.add_argument("--runs", type=int, default=21,
+                        help="how often to start it, and how many signatures to make")
     arguments = parser.parse_args()
     with session.Session(arguments.build, panel=True) as desktop:
         proxy = Proxy(desktop.start_server())

@@ -1,9 +1,11 @@
 #!/usr/bin/env python3
-"""Takes the pictures of the agent for the documentation, and fails where a window does not fit on the
-screen. Needs root: the person in the pictures has a home of her own below /home, which nobody else
-sees.
+"""Takes the pictures of the agent's own windows for the documentation: menu, new-passphrase,
+confirmation, passphrase, refusal and settings. Fails where a window does not fit on the screen. Needs
+root: the person in the pictures has a home of her own below /home, which nobody else sees.
 
-usage: pictures.py --to FOLDER [--build FOLDER] [--size 1024x600]
+Not taken here: signed, which demo.py takes of the whole display; handoff-1-selected to
+handoff-no-extension, which Tests/e2e/handoff-test takes when given a folder; verify and handoff, which
+are the server's pages in any browser.
 """
 
 import argparse
@@ -109,9 +111,10 @@ def run(arguments):
 
 
 def main():
-    parser = session.arguments_parser()
-    parser.add_argument("--to", required=True, type=lambda path: pathlib.Path(path).resolve())
-    parser.add_argument("--size", default="1024x600")
+    parser = session.arguments_parser(__doc__)
+    parser.add_argument("--to", required=True, metavar="FOLDER",
+                        type=lambda path: pathlib.Path(path).resolve(), help="the folder for the pictures")
+    parser.add_argument("--size", default="1024x600", help="of the screen")
     parser.add_argument("--own-home", action="store_true", help=argparse.SUPPRESS)
     arguments = parser.parse_args()
     if not arguments.own_home:

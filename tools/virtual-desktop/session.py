@@ -51,9 +51,10 @@ def act_until(act, condition, what):
     return wait_for(what, acted)
 
 
-def arguments_parser():
+def arguments_parser(description):
     """With the one option that all who use a Session have."""
-    parser = argparse.ArgumentParser()
+    parser = argparse.ArgumentParser(description=description,
+                                     formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--build", type=lambda path: pathlib.Path(path).resolve(),
                         default=pathlib.Path(__file__).parents[2] / "build/dev",
                         help="the build folder with the programs")

@@ -1,9 +1,6 @@
 #!/usr/bin/env python3
 """Signs again and again in one session, with a key in a TPM simulator, and tells whether the agent
-keeps its memory and its descriptors.
-
-usage: soak.py [--build FOLDER] [--count N]
-"""
+keeps its memory and its descriptors."""
 
 import os
 import statistics
@@ -83,8 +80,8 @@ class Soak:
 
 
 def main():
-    parser = session.arguments_parser()
-    parser.add_argument("--count", type=int, default=500)
+    parser = session.arguments_parser(__doc__)
+    parser.add_argument("--count", type=int, default=500, help="signatures to make")
     arguments = parser.parse_args()
     with session.Session(arguments.build) as desktop:
         soak = Soak(desktop)

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """What the agent does when the desktop around it breaks: docs/faults.md names each of these.
 
-usage: faults.py [--build FOLDER] [TEST...]
+Options and names of tests are those of stories.py.
 """
 
 import ctypes
@@ -189,4 +189,4 @@ class Panel(Story):
 
 
 if __name__ == "__main__":
-    stories.main()
+    stories.main(__doc__)

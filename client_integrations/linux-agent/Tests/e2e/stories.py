@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """The agent used as a person uses it, on a virtual desktop with real applications.
 
-usage: stories.py [--build FOLDER] [TEST...]
+What follows the options goes to unittest: the names of tests, such as Signing or
+Signing.test_a_wrong_passphrase_may_be_corrected, or nothing for all of them.
 """
 
 import hashlib
@@ -419,11 +420,11 @@ class Limits(Story):
         self.assertNotIn("Quillseal", self.desktop.window_names())
 
 
-def main():
-    arguments, rest = session.arguments_parser().parse_known_args()
+def main(description):
+    arguments, rest = session.arguments_parser(description).parse_known_args()
     Story.build = arguments.build
     unittest.main(argv=[sys.argv[0], *rest], verbosity=2)
 
 
 if __name__ == "__main__":
-    main()
+    main(__doc__)

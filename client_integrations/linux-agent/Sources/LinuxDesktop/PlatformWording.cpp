@@ -102,8 +102,7 @@ constexpr Row rows[] = {
      "valid — press ⌘⌥⌃H again to insert a fresh one, or copy the link from the browser tab.",
      "Quillseal stopped waiting for the browser. If you did sign, the signature exists and is "
      "valid — press Ctrl+Alt+Super+H again to insert a fresh one, or copy the link from the "
-     "browser "
-     "tab."},
+     "browser tab."},
     {Match::whole,
      "The request timed out before it was signed. Nothing was signed. Select your text and press "
      "⌘⌥⌃H again.",

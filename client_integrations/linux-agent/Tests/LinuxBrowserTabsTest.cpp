@@ -1,5 +1,11 @@
+#include <array>
 #include <cerrno>
+#include <functional>
 #include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <system_error>
 #include <vector>
 
 #include <gmock/gmock.h>
@@ -92,6 +98,15 @@ bool isClosed(const FileDescriptor& socket) {
   char byte = 0;
   const ssize_t count = ::recv(socket.get(), &byte, 1, MSG_DONTWAIT);
   return count == 0 || (count < 0 && errno == ECONNRESET);
+}
+
+/// What `call` gives when it is made in the name of nobody. Fails for others than root.
+int asAnotherUser(const std::function<int()>& call) {
+  constexpr uid_t nobody = 65534;
+  if (::seteuid(nobody) != 0) throw std::system_error(errno, std::generic_category(), "seteuid");
+  const int result = call();
+  if (::seteuid(0) != 0) throw std::system_error(errno, std::generic_category(), "seteuid");
+  return result;
 }
 
 class LinuxBrowserTabsTest : public ::testing::Test {
@@ -323,18 +338,16 @@ TEST_F(LinuxBrowserTabsTest, HoldsNoMoreConnectionsThanAPersonHasBrowsers) {
   EXPECT_EQ(tab_, "33.5");
 }
 
-TEST_F(LinuxBrowserTabsTest, HearsNoOtherUserEvenWhereTheFoldersWouldLetOneIn) {
-  if (::geteuid() != 0) return;  // only root can connect in another's name
+TEST_F(LinuxBrowserTabsTest, AsRootHearsNoOtherUserEvenWhereTheFoldersWouldLetOneIn) {
   const auto folder = runtime_.path() / "quillseal";
   for (const auto& path : {runtime_.path(), folder, folder / "tabs"})
     ASSERT_EQ(::chmod(path.c_str(), 0777), 0);
   sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
   (folder / "tabs").string().copy(address.sun_path, sizeof address.sun_path - 1);
   const FileDescriptor foreign(::socket(AF_UNIX, SOCK_STREAM, 0));
-  ASSERT_EQ(::seteuid(65534), 0);
-  const int isRefused =
-      ::connect(foreign.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address);
-  ASSERT_EQ(::seteuid(0), 0);
+  const int isRefused = asAnotherUser([&] {
+    return ::connect(foreign.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address);
+  });
   ASSERT_EQ(isRefused, 0);
   descriptors_.serve();
   EXPECT_TRUE(isClosed(foreign));
@@ -392,11 +405,13 @@ TEST(TabSocketTest, RecognisesItsOwnUser) {
   const FileDescriptor own(pair[0]), ownPeer(pair[1]);
   EXPECT_TRUE(TabSocket::isPeerThisUser(own));
   EXPECT_FALSE(TabSocket::isPeerThisUser(FileDescriptor(-1)));
-  if (::geteuid() != 0) return;  // only root can make a socket in another's name
-  ASSERT_EQ(::seteuid(65534), 0);
-  const int made = ::socketpair(AF_UNIX, SOCK_STREAM, 0, pair.data());
-  ASSERT_EQ(::seteuid(0), 0);
-  ASSERT_EQ(made, 0);
+}
+
+TEST(TabSocketTest, AsRootRecognisesAnotherUser) {
+  std::array<int, 2> pair{};
+  const int isRefused =
+      asAnotherUser([&] { return ::socketpair(AF_UNIX, SOCK_STREAM, 0, pair.data()); });
+  ASSERT_EQ(isRefused, 0);
   const FileDescriptor foreign(pair[0]), foreignPeer(pair[1]);
   EXPECT_FALSE(TabSocket::isPeerThisUser(foreign));
 }

@@ -42,6 +42,9 @@ desktop::Ticket XTestKeyEvents::press(desktop::KeyPress press, std::function<voi
     done();
     return {};
   }
+  // Without the entries nobody can tell which keys to press. A failure reaches the caller from
+  // here, but not from a turn of the loop.
+  static_cast<void>(services_.entries.withId({}));
   desktop::MainLoop& loop = services_.loop;
   const auto wait = std::make_shared<Wait>();
   wait->earliest = services_.pasteboard.lastWrite() + kClipboardPropagation;

@@ -6,6 +6,7 @@ Options and names of tests are those of stories.py.
 
 import ctypes
 import os
+import shutil
 import signal
 
 import stories
@@ -167,6 +168,16 @@ class Faults(Story):
         self.desktop.press_hotkey()
         rival.take_clipboard()
         self.desktop.close("No Text Found")
+
+    def test_a_module_is_missing(self):
+        self.desktop.quillseal = shutil.copy(self.desktop.quillseal, self.desktop.folder)
+        self.start(DemoSigning="true")
+        self.desktop.press_hotkey()  # with no window in front
+        self.desktop.close("Signing Error")
+        self.desktop.press_in_editor()
+        self.desktop.close("Signing Error")
+        self.assertEqual(self.desktop.selection(), "")
+        self.terminate()
 
     def test_the_hotkey_is_taken(self):
         self.rival().grab_hotkey()

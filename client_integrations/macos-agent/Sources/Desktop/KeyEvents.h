@@ -53,7 +53,8 @@ class KeyEvents {
   /// to it that modifiers which the user still holds (those of the hotkey) do not take part,
   /// waiting for their release for 0.4 s at most; that every key it pressed is released again, on
   /// every path; and that the front application has had time to learn of the last
-  /// `Pasteboard::write`. A press that the system does not let through is left out silently.
+  /// `Pasteboard::write`. A press that the system does not let through is left out silently;
+  /// throws Error where it cannot be told which keys the application expects.
   [[nodiscard]] virtual Ticket press(KeyPress press, std::function<void()> done) = 0;
 };
 

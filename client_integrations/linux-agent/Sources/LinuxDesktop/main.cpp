@@ -82,6 +82,11 @@ void report(std::string_view sentence) {
                                  sentence.data()));
 }
 
+// A compositor that was started from a console leaves the type of the session at "tty".
+bool isWayland() {
+  return environment("XDG_SESSION_TYPE") == "wayland" || !environment("WAYLAND_DISPLAY").empty();
+}
+
 bool isOnX() {
   return QApplication::platformName() == QLatin1String("xcb");
 }
@@ -104,7 +109,7 @@ class LinuxDesktop {
   LinuxDesktop(const CommandLine& commandLine, quillseal::desktop::Log& log)
       : log_(log),
         keyboard_(isOnX() ? quillseal::X11Keyboard::open() : nullptr),
-        limits_(quillseal::limitsOf({.isWayland = environment("XDG_SESSION_TYPE") == "wayland",
+        limits_(quillseal::limitsOf({.isWayland = isWayland(),
                                      .hasXServer = isOnX(),
                                      .canPressKeys = keyboard_ != nullptr})),
         secretPrompt_(loop_, windowManager_),

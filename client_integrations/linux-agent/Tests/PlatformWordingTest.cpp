@@ -139,7 +139,7 @@ TEST(PlatformWording, EveryTextReadsAsIfWrittenForTheMachine) {
     EXPECT_EQ(adapted(row.text, withTpm), row.tpm);
     EXPECT_EQ(adapted(row.text, withFile), row.keyFile);
     for (const Circumstances& circumstances :
-         {withTpm, withFile, Circumstances{.key = KeyPlace::tpm, .proof = Proof::password}}) {
+         {withTpm, withFile, Circumstances{.key = KeyPlace::tpm, .proof = Proof::presence}}) {
       const std::string text = adapted(row.text, circumstances);
       for (const char* word : {"Mac", "Enclave", "Touch ID", "⌘", "⌥", "⌃", "biometric", "{", "}"})
         EXPECT_THAT(text, Not(HasSubstr(word)));
@@ -173,8 +173,9 @@ TEST(PlatformWording, TheTextToBeSignedIsUntouched) {
   const Case cases[] = {
       {withTpm, "PIN", "Sign with PIN"},
       {withFile, "passphrase", "Sign with Passphrase"},
-      {{.key = KeyPlace::tpm, .proof = Proof::fingerprint}, "fingerprint", "Sign with Fingerprint"},
-      {{.key = KeyPlace::tpm, .proof = Proof::password}, "password", "Sign with Password"},
+      {{.key = KeyPlace::tpm, .proof = Proof::presence},
+       "fingerprint or password",
+       "Sign with Fingerprint or Password"},
   };
   for (const Case& row : cases) {
     const desktop::ConfirmationForm form = adapted(

@@ -132,12 +132,10 @@ ProofNames namesOf(Proof proof) {
       return {.inSentence = "PIN", .inTitle = "PIN"};
     case Proof::passphrase:
       return {.inSentence = "passphrase", .inTitle = "Passphrase"};
-    case Proof::fingerprint:
-      return {.inSentence = "fingerprint", .inTitle = "Fingerprint"};
-    case Proof::password:
+    case Proof::presence:
       break;
   }
-  return {.inSentence = "password", .inTitle = "Password"};
+  return {.inSentence = "fingerprint or password", .inTitle = "Fingerprint or Password"};
 }
 
 std::string newText(const Row& row, const Circumstances& circumstances) {

@@ -16,7 +16,11 @@
 namespace quillseal::PlatformWording {
 
 /// With what the person agrees to a signature.
-enum class Proof { pin, passphrase, fingerprint, password };
+enum class Proof {
+  pin,
+  passphrase,
+  presence,  ///< no key is used; which of the two it will be is not known before
+};
 
 struct Circumstances {
   KeyPlace key;

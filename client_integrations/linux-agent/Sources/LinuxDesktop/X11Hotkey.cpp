@@ -48,6 +48,7 @@ void X11Hotkey::registerHotkey(desktop::KeyPress combination, std::function<void
     throw Error({.domain = "X11Hotkey", .code = 1, .description = obstacle_});
   combination_ = combination;
   pressed_ = std::move(pressed);
+  QCoreApplication::instance()->installNativeEventFilter(this);
   if (const auto where = place()) isGrabbed_ = grab(*where);
   if (!isGrabbed_)
     throw Error(
@@ -57,7 +58,6 @@ void X11Hotkey::registerHotkey(desktop::KeyPress combination, std::function<void
                         ". Free it there and start Quillseal again, or bind the command "
                         "“quillseal --sign” to another shortcut in the keyboard settings of "
                         "your desktop. The menu item works in any case."});
-  QCoreApplication::instance()->installNativeEventFilter(this);
 }
 
 std::optional<X11Hotkey::Place> X11Hotkey::place() const {

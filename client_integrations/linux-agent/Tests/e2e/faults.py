@@ -10,12 +10,14 @@ import shutil
 import signal
 
 import stories
-from session import LETTER, wait_for
+from session import LETTER, act_until, wait_for
 from stories import Story
 
 
 class Rival:
     """Another X client, which takes things and then never answers."""
+
+    ANY_MODIFIER = 1 << 15
 
     def __init__(self, display):
         self.x11 = ctypes.CDLL("libX11.so.6")
@@ -45,9 +47,14 @@ class Rival:
 
     def grab_hotkey(self):
         self.x11.XKeysymToKeycode.restype = ctypes.c_ubyte
-        key = self.x11.XKeysymToKeycode(self.display, ctypes.c_ulong(ord("h")))
-        any_modifier, asynchronous = 1 << 15, 1
-        self.x11.XGrabKey(self.display, key, any_modifier, self.root, 1, asynchronous, asynchronous)
+        self.key = self.x11.XKeysymToKeycode(self.display, ctypes.c_ulong(ord("h")))
+        asynchronous = 1
+        self.x11.XGrabKey(self.display, self.key, self.ANY_MODIFIER, self.root, 1, asynchronous,
+                          asynchronous)
+        self.x11.XSync(self.display, 0)
+
+    def free_hotkey(self):
+        self.x11.XUngrabKey(self.display, self.key, self.ANY_MODIFIER, self.root)
         self.x11.XSync(self.display, 0)
 
 
@@ -180,13 +187,21 @@ class Faults(Story):
         self.terminate()
 
     def test_the_hotkey_is_taken(self):
-        self.rival().grab_hotkey()
+        rival = self.rival()
+        rival.grab_hotkey()
         self.start()
         self.desktop.wait_for_notification("Hotkey Is Not Available")
         self.desktop.open_editor(LETTER)
         self.desktop.select_all(LETTER)
         self.desktop.run(self.desktop.quillseal, "--sign")
         self.desktop.wait_for_window("Choose a passphrase")
+
+        self.desktop.close("Choose a passphrase", "Escape")
+        rival.free_hotkey()
+        self.desktop.run("setxkbmap", "de")  # a new layout, and the hotkey is asked for again
+        act_until(self.desktop.press_hotkey,
+                  lambda: "Choose a passphrase" in self.desktop.active_window_name(),
+                  "the hotkey works now")
 
 
 class Panel(Story):

@@ -2,6 +2,7 @@
 #include <QDialog>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <array>
 #include <chrono>
@@ -12,6 +13,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -19,11 +21,13 @@
 #include "LinuxDesktop/QtMainLoop.h"
 #include "LinuxDesktop/QtPresencePrompt.h"
 #include "LinuxDesktop/QtSecretPrompt.h"
+#include "LinuxDesktop/TrayStatusItem.h"
 #include "LinuxDesktop/WindowManager.h"
 
 namespace quillseal {
 namespace {
 
+using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
 /// Everything that a dialog says.
@@ -170,6 +174,49 @@ TEST_F(QtPromptsTest, PresenceIsAskedForWithWhatItIsFor) {
   press(Qt::Key_Return);
   runUntil([&] { return goesOn.has_value(); });
   EXPECT_EQ(goesOn, true);
+}
+
+// Beside the prompts, since it needs the same toolkit.
+TEST_F(QtPromptsTest, TheMenuOfTheShieldIsShownAsItIsDescribed) {
+  using desktop::MenuItem;
+  using desktop::Modifiers;
+  std::vector<std::string> chosen;
+  const auto item = [&](MenuItem::Kind kind, const char* title, const char* key) {
+    return MenuItem{.kind = kind,
+                    .title = title,
+                    .keyEquivalent = key,
+                    .keyModifiers = Modifiers::command,
+                    .action = [&chosen, title] { chosen.emplace_back(title); }};
+  };
+  MenuItem sign = item(MenuItem::Kind::action, "Sign Selected Text (⌘⌥⌃H)", "h");
+  sign.keyModifiers = Modifiers::command | Modifiers::option | Modifiers::control;
+  TrayStatusItem tray([] { return PlatformWording::withKeyIn(KeyPlace::tpm); });
+  tray.show({.symbol = "shield.fill",
+             .symbolDescription = "Quill Seal",
+             .title = " 🛡️ Quillseal",
+             .items = {sign, item(MenuItem::Kind::separator, "", ""),
+                       item(MenuItem::Kind::label, "Server: a", ""),
+                       item(MenuItem::Kind::action, "Quit Quill Seal", "q")}});
+  tray.setItemTitle(2, "Server: https://b.example/?x&y");
+
+  const QMenu* menu = nullptr;
+  for (const QWidget* widget : QApplication::allWidgets())
+    if (const auto* found = qobject_cast<const QMenu*>(widget)) menu = found;
+  ASSERT_NE(menu, nullptr);
+  std::vector<std::string> lines;
+  for (QAction* action : menu->actions()) {
+    action->trigger();
+    lines.push_back(
+        action->isSeparator()
+            ? "---"
+            : action->text().toStdString() + " [" +
+                  action->shortcut().toString(QKeySequence::PortableText).toStdString() +
+                  (action->isEnabled() ? "]" : "] disabled"));
+  }
+  EXPECT_THAT(lines, ElementsAre("Sign Selected Text (Ctrl+Alt+Super+H) []", "---",
+                                 "Server: https://b.example/?x&&y [] disabled",
+                                 "Quit Quill Seal [Ctrl+Q]"));
+  EXPECT_THAT(chosen, ElementsAre("Sign Selected Text (⌘⌥⌃H)", "Quit Quill Seal"));
 }
 
 }  // namespace

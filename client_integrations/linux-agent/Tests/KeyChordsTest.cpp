@@ -13,17 +13,17 @@ using desktop::Modifiers;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr KeyPress kCopy{.key = Key::c, .modifiers = Modifiers::command};
-constexpr KeyPress kPaste{.key = Key::v, .modifiers = Modifiers::command};
-constexpr KeyPress kSelectAll{.key = Key::a, .modifiers = Modifiers::command};
-constexpr KeyPress kHotkey{
-    .key = Key::h, .modifiers = Modifiers::control | Modifiers::option | Modifiers::command};
+constexpr KeyPress copy{.key = Key::c, .modifiers = Modifiers::command};
+constexpr KeyPress paste{.key = Key::v, .modifiers = Modifiers::command};
+constexpr KeyPress selectAll{.key = Key::a, .modifiers = Modifiers::command};
+constexpr KeyPress hotkey{.key = Key::h,
+                          .modifiers = Modifiers::control | Modifiers::option | Modifiers::command};
 
 TEST(KeyChordsTest, CommandIsControlUnlessControlIsThereToo) {
-  EXPECT_THAT(chordOf(kCopy), ElementsAre(XKB_KEY_Control_L, XKB_KEY_c));
-  EXPECT_THAT(chordOf(kHotkey),
+  EXPECT_THAT(chordOf(copy), ElementsAre(XKB_KEY_Control_L, XKB_KEY_c));
+  EXPECT_THAT(chordOf(hotkey),
               ElementsAre(XKB_KEY_Control_L, XKB_KEY_Alt_L, XKB_KEY_Super_L, XKB_KEY_h));
-  EXPECT_EQ(nameOf(kHotkey), "Ctrl+Alt+Super+H");
+  EXPECT_EQ(nameOf(hotkey), "Ctrl+Alt+Super+H");
   EXPECT_EQ(nameOf(Modifiers::command, ","), "Ctrl+,");
 }
 
@@ -38,26 +38,26 @@ TEST(KeyChordsTest, NoTerminalEverGetsAnInterruptOrALineOfTyping) {
                    {"", "URxvt"}};
   for (const auto& [categories, windowClass] : terminals) {
     SCOPED_TRACE(windowClass);
-    for (const KeyPress press : {kCopy, kPaste})
+    for (const KeyPress press : {copy, paste})
       EXPECT_THAT(chordFor(press, categories, windowClass), testing::Ne(chordOf(press)));
-    EXPECT_THAT(chordFor(kSelectAll, categories, windowClass), IsEmpty());
+    EXPECT_THAT(chordFor(selectAll, categories, windowClass), IsEmpty());
   }
 }
 
 TEST(KeyChordsTest, TerminalsGetTheChordsTheyKnow) {
-  EXPECT_THAT(chordFor(kCopy, "TerminalEmulator;", "Xfce4-terminal"),
+  EXPECT_THAT(chordFor(copy, "TerminalEmulator;", "Xfce4-terminal"),
               ElementsAre(XKB_KEY_Control_L, XKB_KEY_Shift_L, XKB_KEY_c));
-  EXPECT_THAT(chordFor(kPaste, "TerminalEmulator;", "Xfce4-terminal"),
+  EXPECT_THAT(chordFor(paste, "TerminalEmulator;", "Xfce4-terminal"),
               ElementsAre(XKB_KEY_Control_L, XKB_KEY_Shift_L, XKB_KEY_v));
-  EXPECT_THAT(chordFor(kPaste, "", "XTerm"), ElementsAre(XKB_KEY_Shift_L, XKB_KEY_Insert));
-  EXPECT_THAT(chordFor(kCopy, "", "XTerm"), IsEmpty());
+  EXPECT_THAT(chordFor(paste, "", "XTerm"), ElementsAre(XKB_KEY_Shift_L, XKB_KEY_Insert));
+  EXPECT_THAT(chordFor(copy, "", "XTerm"), IsEmpty());
   EXPECT_TRUE(copiesBySelecting("XTerm"));
   EXPECT_FALSE(copiesBySelecting("Xfce4-terminal"));
 }
 
 TEST(KeyChordsTest, OtherApplicationsGetTheUsualChords) {
-  EXPECT_EQ(chordFor(kCopy, "Utility;TextEditor;", "Mousepad"), chordOf(kCopy));
-  EXPECT_EQ(chordFor(kSelectAll, "", ""), chordOf(kSelectAll));
+  EXPECT_EQ(chordFor(copy, "Utility;TextEditor;", "Mousepad"), chordOf(copy));
+  EXPECT_EQ(chordFor(selectAll, "", ""), chordOf(selectAll));
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ struct Option {
   Command command;
 };
 
-constexpr std::array kOptions = {
+constexpr std::array options = {
     Option{"--background", "", Command::Background},
     Option{"--help", "-h", Command::Help},
     Option{"--quit", "", Command::Quit},
@@ -37,11 +37,11 @@ CommandLine parseCommandLine(std::span<const std::string_view> arguments) {
       result.tpm = *++argument;
       continue;
     }
-    const auto option = std::ranges::find_if(kOptions, [&](const Option& candidate) {
+    const auto option = std::ranges::find_if(options, [&](const Option& candidate) {
       return *argument == candidate.name ||
              (!candidate.shortName.empty() && *argument == candidate.shortName);
     });
-    if (option == kOptions.end()) return wrong(*argument, "is not an option");
+    if (option == options.end()) return wrong(*argument, "is not an option");
     if (result.command != Command::Start && result.command != option->command)
       return wrong(*argument, "cannot be combined with another option");
     result.command = option->command;

@@ -13,7 +13,7 @@
 namespace quillseal {
 namespace {
 
-constexpr auto kJournalSocket = "/run/systemd/journal/socket";
+constexpr auto journalSocket = "/run/systemd/journal/socket";
 
 std::string printable(std::string_view line) {
   constexpr std::string_view digits = "0123456789abcdef";
@@ -41,7 +41,7 @@ iovec field(std::string& text) {
 void JournalLog::write(std::string_view line) {
   const std::string text = printable(line);
   if (echo_ == Echo::standardError) static_cast<void>(std::fprintf(stderr, "%s\n", text.c_str()));
-  if (access(kJournalSocket, W_OK) != 0) {
+  if (access(journalSocket, W_OK) != 0) {
     syslog(LOG_USER | LOG_INFO, "%s", text.c_str());
     return;
   }

@@ -16,26 +16,26 @@ using desktop::KeyPress;
 using desktop::Modifiers;
 
 // Terminals whose desktop file lacks the category, or that come without one.
-constexpr std::array<std::string_view, 9> kTerminalClasses = {"alacritty",
-                                                              "com.mitchellh.ghostty",
-                                                              "kitty",
-                                                              "konsole",
-                                                              "org.wezfurlong.wezterm",
-                                                              "st-256color",
-                                                              "terminator",
-                                                              "urxvt",
-                                                              "xfce4-terminal"};
+constexpr std::array<std::string_view, 9> terminalClasses = {"alacritty",
+                                                             "com.mitchellh.ghostty",
+                                                             "kitty",
+                                                             "konsole",
+                                                             "org.wezfurlong.wezterm",
+                                                             "st-256color",
+                                                             "terminator",
+                                                             "urxvt",
+                                                             "xfce4-terminal"};
 
 // These keep to the ways of the first X terminals.
-constexpr std::array<std::string_view, 3> kSelectingClasses = {"uxterm", "xterm", "urxvt"};
+constexpr std::array<std::string_view, 3> selectingClasses = {"uxterm", "xterm", "urxvt"};
 
 struct ModifierKey {
   Keysym symbol;
   std::string_view name;
 };
-constexpr std::array kModifierKeys = {ModifierKey{XKB_KEY_Control_L, "Ctrl"},
-                                      ModifierKey{XKB_KEY_Alt_L, "Alt"},
-                                      ModifierKey{XKB_KEY_Super_L, "Super"}};
+constexpr std::array modifierKeys = {ModifierKey{XKB_KEY_Control_L, "Ctrl"},
+                                     ModifierKey{XKB_KEY_Alt_L, "Alt"},
+                                     ModifierKey{XKB_KEY_Super_L, "Super"}};
 
 bool isHeld(Keysym modifier, Modifiers modifiers) {
   const bool control = contains(modifiers, Modifiers::control);
@@ -73,18 +73,18 @@ bool isOneOf(std::string_view windowClass, const auto& classes) {
 
 bool isTerminal(std::string_view categories, std::string_view windowClass) {
   return categories.find("TerminalEmulator") != std::string_view::npos ||
-         isOneOf(windowClass, kTerminalClasses) || copiesBySelecting(windowClass);
+         isOneOf(windowClass, terminalClasses) || copiesBySelecting(windowClass);
 }
 
 }  // namespace
 
 bool copiesBySelecting(std::string_view windowClass) {
-  return isOneOf(windowClass, kSelectingClasses);
+  return isOneOf(windowClass, selectingClasses);
 }
 
 std::vector<Keysym> chordOf(KeyPress press) {
   std::vector<Keysym> chord;
-  for (const auto& [symbol, name] : kModifierKeys)
+  for (const auto& [symbol, name] : modifierKeys)
     if (isHeld(symbol, press.modifiers)) chord.push_back(symbol);
   chord.push_back(symbolOf(press.key));
   return chord;
@@ -113,7 +113,7 @@ std::string nameOf(KeyPress press) {
 
 std::string nameOf(Modifiers modifiers, std::string_view key) {
   std::string result;
-  for (const auto& [symbol, name] : kModifierKeys)
+  for (const auto& [symbol, name] : modifierKeys)
     if (isHeld(symbol, modifiers)) result.append(name) += '+';
   std::ranges::transform(key, std::back_inserter(result),
                          [](unsigned char c) { return static_cast<char>(std::toupper(c)); });

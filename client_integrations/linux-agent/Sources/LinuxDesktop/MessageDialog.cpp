@@ -17,23 +17,23 @@
 namespace quillseal {
 namespace {
 
-constexpr int kTextWidth = 420;
-constexpr int kPictureSize = 48;
-constexpr double kTitleScale = 1.15;
-constexpr double kLargestShareOfScreen = 0.5;
+constexpr int textWidth = 420;
+constexpr int pictureSize = 48;
+constexpr double titleScale = 1.15;
+constexpr double largestShareOfScreen = 0.5;
 
 QPixmap pixmapOf(MessageDialog::Picture picture, const QStyle& style) {
   switch (picture) {
     case MessageDialog::Picture::warning:
-      return style.standardIcon(QStyle::SP_MessageBoxWarning).pixmap(kPictureSize);
+      return style.standardIcon(QStyle::SP_MessageBoxWarning).pixmap(pictureSize);
     case MessageDialog::Picture::information:
-      return style.standardIcon(QStyle::SP_MessageBoxInformation).pixmap(kPictureSize);
+      return style.standardIcon(QStyle::SP_MessageBoxInformation).pixmap(pictureSize);
     case MessageDialog::Picture::key:
     case MessageDialog::Picture::product:
       break;
   }
   // The application's own icon: the pixmap of an icon made here would stay in Qt's cache each time.
-  return QApplication::windowIcon().pixmap(kPictureSize);
+  return QApplication::windowIcon().pixmap(pictureSize);
 }
 
 // A text may end in line breaks that belong to what would follow it elsewhere.
@@ -64,9 +64,9 @@ MessageDialog::MessageDialog(const Look& look)
   QLabel* title = plainLabel(toQString(look.title));
   QFont bold = title->font();
   bold.setBold(true);
-  bold.setPointSizeF(bold.pointSizeF() * kTitleScale);
+  bold.setPointSizeF(bold.pointSizeF() * titleScale);
   title->setFont(bold);
-  title->setFixedWidth(kTextWidth);
+  title->setFixedWidth(textWidth);
 
   auto* column = new QVBoxLayout;
   column->addWidget(title);
@@ -82,10 +82,9 @@ MessageDialog::MessageDialog(const Look& look)
     scroll->setFocusPolicy(Qt::NoFocus);
     scroll->setWidget(text);
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    const int wanted = text->heightForWidth(kTextWidth);
-    const int largest =
-        static_cast<int>(screen()->availableSize().height() * kLargestShareOfScreen);
-    scroll->setFixedSize(kTextWidth + (wanted > largest ? bar : 0), std::min(wanted, largest));
+    const int wanted = text->heightForWidth(textWidth);
+    const int largest = static_cast<int>(screen()->availableSize().height() * largestShareOfScreen);
+    scroll->setFixedSize(textWidth + (wanted > largest ? bar : 0), std::min(wanted, largest));
     column->addWidget(scroll);
   }
   column->addLayout(rows_);

@@ -10,16 +10,16 @@ namespace quillseal {
 namespace {
 
 // Workers wait for people (a PIN) and for the network more than for the processor.
-constexpr int kWorkers = 16;
-constexpr std::chrono::seconds kUntilIdle{2};
+constexpr int workers = 16;
+constexpr std::chrono::seconds untilIdle{2};
 
 }  // namespace
 
 QtMainLoop::QtMainLoop() {
-  workers_.setMaxThreadCount(kWorkers);
+  workers_.setMaxThreadCount(workers);
   // What work needed meanwhile would otherwise stay with the agent while it waits for days.
   idle_.setSingleShot(true);
-  idle_.setInterval(kUntilIdle);
+  idle_.setInterval(untilIdle);
   QObject::connect(&idle_, &QTimer::timeout, &receiver_,
                    [this] { workers_.start([] { malloc_trim(0); }); });
 }

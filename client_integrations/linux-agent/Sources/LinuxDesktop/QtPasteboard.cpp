@@ -14,11 +14,11 @@ namespace quillseal {
 namespace {
 
 // The names under which X programs offer rich text.
-constexpr std::array kRtfFormats = {"text/rtf", "application/rtf", "text/richtext"};
+constexpr std::array rtfFormats = {"text/rtf", "application/rtf", "text/richtext"};
 
 // Set by KDE's and KeePassXC's convention, and by that of macOS for programs that know both.
-constexpr auto kPasswordHint = "x-kde-passwordManagerHint";
-constexpr auto kConcealed = "org.nspasteboard.ConcealedType";
+constexpr auto passwordHint = "x-kde-passwordManagerHint";
+constexpr auto concealed = "org.nspasteboard.ConcealedType";
 
 const QMimeData* offered() {
   return QGuiApplication::clipboard()->mimeData();
@@ -46,9 +46,9 @@ desktop::Ticket QtPasteboard::onNextChange(std::function<void()> changed) {
 bool QtPasteboard::isConcealed() const {
   const QMimeData* data = offered();
   if (data == nullptr) return false;
-  return data->hasFormat(QLatin1String(kConcealed)) ||
-         (data->hasFormat(QLatin1String(kPasswordHint)) &&
-          data->data(QLatin1String(kPasswordHint)) == "secret");
+  return data->hasFormat(QLatin1String(concealed)) ||
+         (data->hasFormat(QLatin1String(passwordHint)) &&
+          data->data(QLatin1String(passwordHint)) == "secret");
 }
 
 std::optional<std::string> QtPasteboard::plainText() const {
@@ -66,7 +66,7 @@ std::optional<std::string> QtPasteboard::html() const {
 std::optional<std::string> QtPasteboard::rtf() const {
   const QMimeData* data = offered();
   if (data == nullptr) return std::nullopt;
-  for (const char* format : kRtfFormats)
+  for (const char* format : rtfFormats)
     if (data->hasFormat(QLatin1String(format)))
       if (auto bytes = present(data->data(QLatin1String(format)).toStdString())) return bytes;
   return std::nullopt;

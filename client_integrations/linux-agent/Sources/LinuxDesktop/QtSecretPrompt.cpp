@@ -33,14 +33,14 @@ class QtSecretPrompt::Pending {
 
 namespace {
 
-constexpr auto kProblemColour = "#b45309";
+constexpr auto problemColour = "#b45309";
 
 QLabel* problemLabel(std::string_view text) {
   auto* label = new QLabel(toQString(text));
   label->setTextFormat(Qt::PlainText);
   label->setWordWrap(true);
   QPalette palette = label->palette();
-  palette.setColor(QPalette::WindowText, QColor(QLatin1String(kProblemColour)));
+  palette.setColor(QPalette::WindowText, QColor(QLatin1String(problemColour)));
   label->setPalette(palette);
   return label;
 }

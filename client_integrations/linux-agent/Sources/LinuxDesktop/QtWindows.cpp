@@ -29,12 +29,12 @@ using desktop::TextColour;
 using desktop::TextFont;
 using PlatformWording::CurrentCircumstances;
 
-constexpr auto kGreen = "#15803d";
-constexpr auto kOrange = "#b45309";
-constexpr double kCalloutScale = 0.95;
-constexpr double kCaptionScale = 0.88;
-constexpr double kSymbolScale = 1.4;
-constexpr int kRoomForFrame = 40;
+constexpr auto green = "#15803d";
+constexpr auto orange = "#b45309";
+constexpr double calloutScale = 0.95;
+constexpr double captionScale = 0.88;
+constexpr double symbolScale = 1.4;
+constexpr int roomForFrame = 40;
 
 // The text forms of these signs: their picture forms have colours of their own.
 QString signFor(const std::string& symbol) {
@@ -52,10 +52,10 @@ void colour(QLabel& label, TextColour colour) {
       palette.setColor(QPalette::WindowText, palette.color(QPalette::PlaceholderText));
       break;
     case TextColour::green:
-      palette.setColor(QPalette::WindowText, QColor(QLatin1String(kGreen)));
+      palette.setColor(QPalette::WindowText, QColor(QLatin1String(green)));
       break;
     case TextColour::orange:
-      palette.setColor(QPalette::WindowText, QColor(QLatin1String(kOrange)));
+      palette.setColor(QPalette::WindowText, QColor(QLatin1String(orange)));
       break;
   }
   label.setPalette(palette);
@@ -79,8 +79,8 @@ void fill(QLabel& label, const FormText& text) {
   const QString shown = toQString(text.text);
   if (label.text() != shown) label.setText(shown);
   scale(label, text.font == TextFont::body      ? 1.0
-               : text.font == TextFont::callout ? kCalloutScale
-                                                : kCaptionScale);
+               : text.font == TextFont::callout ? calloutScale
+                                                : captionScale);
   colour(label, text.colour);
   label.setTextInteractionFlags(text.selectable
                                     ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard
@@ -147,7 +147,7 @@ class FormWidget : public QWidget {
   ShowRow addRow(QVBoxLayout& column, const FormStatus&, std::size_t, std::size_t) {
     QLabel* sign = plainLabel();
     sign->setWordWrap(false);
-    scale(*sign, kSymbolScale);
+    scale(*sign, symbolScale);
     QLabel* label = plainLabel();
     label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     auto* line = new QHBoxLayout;
@@ -227,7 +227,7 @@ class FormWindow : public desktop::Window {
     const int needed = std::max(form.height, form_->heightForWidth(form.width));
     window_.setMinimumWidth(form.width);
     window_.resize(form.width,
-                   std::min(needed, window_.screen()->availableSize().height() - kRoomForFrame));
+                   std::min(needed, window_.screen()->availableSize().height() - roomForFrame));
   }
 
   void bringToFront() override { quillseal::bringToFront(window_, windows_); }

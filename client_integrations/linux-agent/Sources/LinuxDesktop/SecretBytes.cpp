@@ -10,8 +10,8 @@ namespace quillseal {
 namespace {
 
 /// Of the locked memory: many times what one signature needs, and little of what a user may lock.
-constexpr std::size_t kLockedBytes = 65'536;
-constexpr std::size_t kSmallestBlock = 16;
+constexpr std::size_t lockedBytes = 65'536;
+constexpr std::size_t smallestBlock = 16;
 
 unsigned char* allocate(std::size_t size) {
   if (size == 0) return nullptr;
@@ -23,8 +23,8 @@ unsigned char* allocate(std::size_t size) {
 }  // namespace
 
 bool lockMemoryOfSecrets() noexcept {
-  constexpr int kAllLocked = 1;
-  return ::CRYPTO_secure_malloc_init(kLockedBytes, kSmallestBlock) == kAllLocked;
+  constexpr int allLocked = 1;
+  return ::CRYPTO_secure_malloc_init(lockedBytes, smallestBlock) == allLocked;
 }
 
 void SecretBytes::Free::operator()(unsigned char* bytes) const noexcept {

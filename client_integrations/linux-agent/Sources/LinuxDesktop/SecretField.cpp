@@ -9,8 +9,8 @@
 namespace quillseal {
 namespace {
 
-constexpr std::size_t kLargest = 1024;
-constexpr ushort kBullet = 0x2022;
+constexpr std::size_t largest = 1024;
+constexpr ushort bullet = 0x2022;
 
 bool isPrintable(const QString& text) {
   return !text.isEmpty() && std::all_of(text.begin(), text.end(),
@@ -56,7 +56,7 @@ void SecretField::inputMethodEvent(QInputMethodEvent* event) {
 
 void SecretField::append(const QString& text) {
   QByteArray bytes = text.toUtf8();
-  if (secret_.size() + static_cast<std::size_t>(bytes.size()) <= kLargest && !bytes.isEmpty()) {
+  if (secret_.size() + static_cast<std::size_t>(bytes.size()) <= largest && !bytes.isEmpty()) {
     SecretBytes longer(secret_.size() + static_cast<std::size_t>(bytes.size()));
     const auto middle =
         std::copy(secret_.bytes().begin(), secret_.bytes().end(), longer.bytes().begin());
@@ -76,7 +76,7 @@ void SecretField::removeLast() {
 }
 
 void SecretField::edited() {
-  setText(QString(static_cast<qsizetype>(lengths_.size()), QChar(kBullet)));
+  setText(QString(static_cast<qsizetype>(lengths_.size()), QChar(bullet)));
   if (onEdit) onEdit();
 }
 

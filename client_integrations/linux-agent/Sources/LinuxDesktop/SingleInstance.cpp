@@ -12,10 +12,10 @@
 namespace quillseal {
 namespace {
 
-constexpr auto kName = "com.quillseal.Agent";
-constexpr auto kPath = "/com/quillseal/Agent";
-constexpr int kAnswerMilliseconds = 5000;
-constexpr std::array kWireCommands = {Command::Sign, Command::Settings, Command::Quit};
+constexpr auto busName = "com.quillseal.Agent";
+constexpr auto objectPath = "/com/quillseal/Agent";
+constexpr int answerMilliseconds = 5000;
+constexpr std::array wireCommands = {Command::Sign, Command::Settings, Command::Quit};
 
 QString wire(Command command) {
   const std::string_view name = wireName(command);
@@ -31,18 +31,18 @@ class SingleInstance::Receiver : public QDBusVirtualObject {
 
   [[nodiscard]] QString introspect(const QString& /*path*/) const override {
     QString methods;
-    for (const Command command : kWireCommands)
+    for (const Command command : wireCommands)
       methods += QStringLiteral("<method name=\"%1\"/>").arg(wire(command));
     return QStringLiteral("<interface name=\"%1\">%2</interface>")
-        .arg(QLatin1String(kName), methods);
+        .arg(QLatin1String(busName), methods);
   }
 
   bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override {
-    if (message.interface() != QLatin1String(kName)) return false;
+    if (message.interface() != QLatin1String(busName)) return false;
     const auto* const command =
-        std::find_if(kWireCommands.begin(), kWireCommands.end(),
+        std::find_if(wireCommands.begin(), wireCommands.end(),
                      [&](Command known) { return message.member() == wire(known); });
-    if (command == kWireCommands.end()) return false;
+    if (command == wireCommands.end()) return false;
     connection.send(message.createReply());
     if (handler) handler(*command);
     return true;
@@ -52,15 +52,15 @@ class SingleInstance::Receiver : public QDBusVirtualObject {
 SingleInstance::SingleInstance() : receiver_(std::make_unique<Receiver>()) {}
 
 SingleInstance::~SingleInstance() {
-  QDBusConnection::sessionBus().unregisterObject(QLatin1String(kPath));
+  QDBusConnection::sessionBus().unregisterObject(QLatin1String(objectPath));
 }
 
 SingleInstance::Role SingleInstance::claim() {
   QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) return Role::Alone;
   // The object comes first: whoever finds the name must find it too.
-  bus.registerVirtualObject(QLatin1String(kPath), receiver_.get());
-  return bus.registerService(QLatin1String(kName)) ? Role::Agent : Role::Visitor;
+  bus.registerVirtualObject(QLatin1String(objectPath), receiver_.get());
+  return bus.registerService(QLatin1String(busName)) ? Role::Agent : Role::Visitor;
 }
 
 void SingleInstance::onCommand(std::function<void(Command)> handler) {
@@ -69,8 +69,8 @@ void SingleInstance::onCommand(std::function<void(Command)> handler) {
 
 bool SingleInstance::handOver(Command command) {
   const QDBusMessage call = QDBusMessage::createMethodCall(
-      QLatin1String(kName), QLatin1String(kPath), QLatin1String(kName), wire(command));
-  return QDBusConnection::sessionBus().call(call, QDBus::Block, kAnswerMilliseconds).type() ==
+      QLatin1String(busName), QLatin1String(objectPath), QLatin1String(busName), wire(command));
+  return QDBusConnection::sessionBus().call(call, QDBus::Block, answerMilliseconds).type() ==
          QDBusMessage::ReplyMessage;
 }
 

@@ -13,7 +13,7 @@
 namespace quillseal {
 namespace {
 
-constexpr std::initializer_list<int> kSignals = {SIGHUP, SIGINT, SIGTERM};
+constexpr std::initializer_list<int> endingSignals = {SIGHUP, SIGINT, SIGTERM};
 
 // A signal handler reaches nothing but what is global.
 std::atomic<int> signalled = -1;
@@ -27,7 +27,7 @@ void setHandlers(void (*handler)(int)) {
   struct sigaction action {};
   action.sa_handler = handler;
   action.sa_flags = SA_RESTART;
-  for (const int signal : kSignals)
+  for (const int signal : endingSignals)
     sigaction(signal, &action, nullptr);
 }
 

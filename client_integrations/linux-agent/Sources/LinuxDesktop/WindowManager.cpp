@@ -19,8 +19,8 @@ struct FreeDeleter {
 template <typename T>
 using Reply = std::unique_ptr<T, FreeDeleter>;
 
-constexpr std::uint32_t kLongestProperty = 1024;  // in units of four bytes
-constexpr std::uint32_t kSourcePager = 2;
+constexpr std::uint32_t longestProperty = 1024;  // in units of four bytes
+constexpr std::uint32_t sourcePager = 2;
 
 // WM_CLASS holds the instance and the class, each closed by a zero byte. The instance is not used:
 // some programs put a profile path there.
@@ -59,7 +59,7 @@ xcb_atom_t WindowManager::atom(const char* name) const {
 std::string WindowManager::property(xcb_window_t window, const char* name, xcb_atom_t type) const {
   if (connection_ == nullptr || window == 0) return {};
   const auto cookie =
-      xcb_get_property(connection_, 0, window, atom(name), type, 0, kLongestProperty);
+      xcb_get_property(connection_, 0, window, atom(name), type, 0, longestProperty);
   const Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection_, cookie, nullptr));
   if (reply == nullptr) return {};
   return {static_cast<const char*>(xcb_get_property_value(reply.get())),
@@ -129,7 +129,7 @@ void WindowManager::activate(xcb_window_t window) const {
   message.format = 32;
   message.window = window;
   message.type = atom("_NET_ACTIVE_WINDOW");
-  message.data.data32[0] = kSourcePager;
+  message.data.data32[0] = sourcePager;
   message.data.data32[1] = XCB_CURRENT_TIME;
   xcb_send_event(connection_, 0, root_,
                  XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,

@@ -9,7 +9,7 @@ using desktop::InstalledApplication;
 using desktop::RunningApplication;
 
 // The agent knows its preferred browser by the place of its bundle on macOS.
-constexpr std::string_view kChromeBundle = "/Applications/Google Chrome.app";
+constexpr std::string_view chromeBundle = "/Applications/Google Chrome.app";
 
 }  // namespace
 
@@ -44,7 +44,7 @@ void X11Applications::activate(const RunningApplication& application) {
 }
 
 std::optional<InstalledApplication> X11Applications::applicationAt(const std::string& path) const {
-  return path == kChromeBundle ? launcher_.chrome() : std::nullopt;
+  return path == chromeBundle ? launcher_.chrome() : std::nullopt;
 }
 
 std::optional<InstalledApplication> X11Applications::defaultApplicationFor(

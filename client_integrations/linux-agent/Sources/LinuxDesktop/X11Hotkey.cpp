@@ -18,16 +18,16 @@ namespace quillseal {
 namespace {
 
 // Kinds of XKEYBOARD events; they stand where other events have padding.
-constexpr std::uint8_t kNewKeyboardNotify = 0;
-constexpr std::uint8_t kMapNotify = 1;
+constexpr std::uint8_t newKeyboardNotify = 0;
+constexpr std::uint8_t mapNotify = 1;
 
 /// Milliseconds. X servers repeat a held key after 660, desktops let people choose up to this.
-constexpr std::uint32_t kLongestRepeatDelay = 1000;
+constexpr std::uint32_t longestRepeatDelay = 1000;
 /// Quicker than anybody lets a key go and presses it again.
-constexpr std::chrono::milliseconds kReleasePolling{40};
+constexpr std::chrono::milliseconds releasePolling{40};
 /// Changes come in bursts, and one whenever another keyboard is typed on than before: each
 /// signature brings some, since the agent's own presses come from another one.
-constexpr std::chrono::milliseconds kLayoutSettles{150};
+constexpr std::chrono::milliseconds layoutSettles{150};
 
 }  // namespace
 
@@ -95,7 +95,7 @@ bool X11Hotkey::grab(const Place& place) {
 }
 
 void X11Hotkey::awaitRelease() {
-  releasePolling_ = loop_.after(kReleasePolling, [this] {
+  releasePolling_ = loop_.after(releasePolling, [this] {
     const std::vector<xcb_keycode_t> held = keyboard_->heldKeys(place_.key);
     down_ = down_ && std::ranges::find(held, place_.key) != held.end();
     if (down_) awaitRelease();
@@ -103,7 +103,7 @@ void X11Hotkey::awaitRelease() {
 }
 
 void X11Hotkey::followLayout() {
-  following_ = loop_.after(kLayoutSettles, [this] {
+  following_ = loop_.after(layoutSettles, [this] {
     const std::optional<Place> now = place();
     if (now && (*now != place_ || !isGrabbed_)) isGrabbed_ = grab(*now);
   });
@@ -125,7 +125,7 @@ bool X11Hotkey::nativeEventFilter(const QByteArray& /*eventType*/, void* message
       // release itself never comes when a run gives the keyboard free while the key is held, so the
       // server is asked until the key is up; and a key that has not repeated for long was let go.
       const bool repeated =
-          key->time == lastRelease_ || (down_ && key->time - lastPress_ < kLongestRepeatDelay);
+          key->time == lastRelease_ || (down_ && key->time - lastPress_ < longestRepeatDelay);
       down_ = true;
       lastPress_ = key->time;
       if (!repeated) {
@@ -138,7 +138,7 @@ bool X11Hotkey::nativeEventFilter(const QByteArray& /*eventType*/, void* message
   // The layout has changed, and with it perhaps the place of the key.
   const bool newLayout = type == XCB_MAPPING_NOTIFY ||
                          (type == keyboard_->xkbEventType() &&
-                          (event->pad0 == kNewKeyboardNotify || event->pad0 == kMapNotify));
+                          (event->pad0 == newKeyboardNotify || event->pad0 == mapNotify));
   if (newLayout) followLayout();
   return false;
 }

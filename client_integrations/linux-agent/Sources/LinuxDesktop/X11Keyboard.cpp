@@ -13,7 +13,7 @@ namespace quillseal {
 namespace {
 
 // Some browsers drop a key that goes down and up in the same instant.
-constexpr std::uint32_t kHoldMilliseconds = 12;
+constexpr std::uint32_t holdMilliseconds = 12;
 
 struct FreeDeleter {
   void operator()(void* pointer) const { std::free(pointer); }
@@ -149,7 +149,7 @@ void X11Keyboard::release(std::span<const xcb_keycode_t> keys) {
 void X11Keyboard::tap(std::span<const xcb_keycode_t> keys) {
   for (const xcb_keycode_t key : keys)
     state_->fake(XCB_KEY_PRESS, key, 0);
-  std::uint32_t delay = kHoldMilliseconds;
+  std::uint32_t delay = holdMilliseconds;
   for (std::size_t i = keys.size(); i > 0; --i) {
     state_->fake(XCB_KEY_RELEASE, keys[i - 1], delay);
     delay = 0;

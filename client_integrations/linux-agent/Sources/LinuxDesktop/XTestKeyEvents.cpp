@@ -13,10 +13,10 @@ namespace {
 
 using std::chrono::milliseconds;
 
-constexpr milliseconds kReleasePatience{400};
-constexpr milliseconds kReleasePolling{8};
+constexpr milliseconds releasePatience{400};
+constexpr milliseconds releasePolling{8};
 // LibreOffice Writer pastes its own earlier copy when the key follows the clipboard more closely.
-constexpr milliseconds kClipboardPropagation{150};
+constexpr milliseconds clipboardPropagation{150};
 
 }  // namespace
 
@@ -47,8 +47,8 @@ desktop::Ticket XTestKeyEvents::press(desktop::KeyPress press, std::function<voi
   static_cast<void>(services_.entries.withId({}));
   desktop::MainLoop& loop = services_.loop;
   const auto wait = std::make_shared<Wait>();
-  wait->earliest = services_.pasteboard.lastWrite() + kClipboardPropagation;
-  wait->latest = std::max(loop.now() + kReleasePatience, wait->earliest);
+  wait->earliest = services_.pasteboard.lastWrite() + clipboardPropagation;
+  wait->latest = std::max(loop.now() + releasePatience, wait->earliest);
   // Only the ticket owns `wait`: dropped, it takes the timer with it.
   const X11Keyboard::Layout layout = services_.keyboard->layout();
   wait->step = [this, press, layout, done = std::move(done), weak = std::weak_ptr(wait)] {
@@ -61,7 +61,7 @@ desktop::Ticket XTestKeyEvents::press(desktop::KeyPress press, std::function<voi
     }
     const bool keysDown = !services_.keyboard->heldKeys(layout.keyFor(XKB_KEY_h)).empty();
     if (keysDown && now < self->latest) {
-      self->timer = services_.loop.after(kReleasePolling, self->step);
+      self->timer = services_.loop.after(releasePolling, self->step);
       return;
     }
     tap(press, layout);

@@ -56,8 +56,8 @@ namespace {
 using quillseal::Command;
 using quillseal::CommandLine;
 
-constexpr int kFailed = 1;
-constexpr int kWrongArguments = 2;
+constexpr int failed = 1;
+constexpr int wrongArguments = 2;
 
 std::string environment(const char* name) {
   const char* value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): before any thread
@@ -242,7 +242,7 @@ int visit(Command command) {
   if (command == Command::Background) return 0;
   if (quillseal::SingleInstance::handOver(command)) return 0;
   report("the agent that runs in this session does not answer. End it and start again.");
-  return kFailed;
+  return failed;
 }
 
 int runAgent(const CommandLine& commandLine, quillseal::SingleInstance& instance) {
@@ -272,7 +272,7 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
                               .wantedPlatform = environment("QT_QPA_PLATFORM")});
   if (choice.platform.empty()) {
     report(choice.obstacle);
-    return kFailed;
+    return failed;
   }
   qputenv("QT_QPA_PLATFORM", QByteArray::fromStdString(choice.platform));
   // The library of the TPM would write of every wrong PIN and, on request, all that it sends.
@@ -311,7 +311,7 @@ int main(int argc, char** argv) {
       return 0;
     case Command::Wrong:
       report(commandLine.problem + "; see quillseal --help");
-      return kWrongArguments;
+      return wrongArguments;
     default:
       break;
   }
@@ -319,6 +319,6 @@ int main(int argc, char** argv) {
     return run(argc, argv, commandLine);
   } catch (const std::exception& failure) {
     report(failure.what());
-    return kFailed;
+    return failed;
   }
 }

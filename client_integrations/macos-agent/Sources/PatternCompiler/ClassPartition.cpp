@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <limits>
-#include <map>
 #include <string>
+#include <tuple>
 
 #include <unicode/uchar.h>
 #include <unicode/unistr.h>
+
+#include "Quillseal/WordBits.h"
 
 namespace quillseal::screening {
 namespace {
@@ -25,46 +27,6 @@ std::u32string fullFolding(char32_t c) {
   return folded;
 }
 
-/// Stretches of code points that every set contains wholly or not at all.
-class Stretches {
- public:
-  void cutAt(const CodePointRanges& ranges) {
-    for (const auto& [first, last] : ranges) {
-      starts_.push_back(first);
-      starts_.push_back(last + 1);
-    }
-  }
-
-  void finish(std::size_t labels) {
-    starts_.push_back(0);
-    starts_.push_back(behindLast);
-    std::sort(starts_.begin(), starts_.end());
-    starts_.erase(std::unique(starts_.begin(), starts_.end()), starts_.end());
-    labels_.assign(count(), std::string(labels, '\0'));
-  }
-
-  void label(const CodePointRanges& ranges, std::size_t label, std::uint8_t bits = 1) {
-    for (const auto& [first, last] : ranges)
-      for (std::size_t i = indexOf(first); starts_[i] <= last; ++i)
-        labels_[i][label] = static_cast<char>(labels_[i][label] | bits);
-  }
-
-  void append(char32_t codePoint, const std::string& text) { labels_[indexOf(codePoint)] += text; }
-
-  [[nodiscard]] std::size_t count() const { return starts_.size() - 1; }
-  [[nodiscard]] char32_t start(std::size_t i) const { return starts_[i]; }
-  [[nodiscard]] const std::string& labels(std::size_t i) const { return labels_[i]; }
-
- private:
-  [[nodiscard]] std::size_t indexOf(char32_t c) const {
-    return static_cast<std::size_t>(std::lower_bound(starts_.begin(), starts_.end(), c) -
-                                    starts_.begin());
-  }
-
-  std::vector<char32_t> starts_;
-  std::vector<std::string> labels_;
-};
-
 /// What the traits stand for.
 const std::vector<std::pair<ClassTrait, CodePointRanges>>& traitRanges() {
   static const std::vector<std::pair<ClassTrait, CodePointRanges>> ranges{
@@ -77,6 +39,72 @@ const std::vector<std::pair<ClassTrait, CodePointRanges>>& traitRanges() {
       {isCarriageReturnTrait, {{'\r', '\r'}}}};
   return ranges;
 }
+
+void sortAndUnite(std::vector<char32_t>& codePoints) {
+  std::sort(codePoints.begin(), codePoints.end());
+  codePoints.erase(std::unique(codePoints.begin(), codePoints.end()), codePoints.end());
+}
+
+/// All that patterns can tell of a code point.
+struct Features {
+  std::vector<std::uint64_t> sets{};  ///< a bit for each set: whether it is a member
+  std::uint8_t traits = 0;
+  std::vector<Letter> folding{otherLetter};
+
+  bool operator<(const Features& other) const {
+    return std::tie(sets, traits, folding) < std::tie(other.sets, other.traits, other.folding);
+  }
+};
+
+/// Divides the code points into stretches of the same features.
+class Stretches {
+ public:
+  Stretches(const SetTable& sets, const std::map<char32_t, std::vector<Letter>>& foldings)
+      : starts_{0, behindLast} {
+    for (std::size_t set = 0; set < sets.size(); ++set)
+      cutAt(sets[set]);
+    for (const auto& [trait, ranges] : traitRanges())
+      cutAt(ranges);
+    for (const auto& [c, letters] : foldings)
+      cutAt({{c, c}});
+    sortAndUnite(starts_);
+
+    features_.resize(count(), {.sets = std::vector<std::uint64_t>(sets.size() / 64 + 1)});
+    for (std::size_t set = 0; set < sets.size(); ++set)
+      forEachIn(sets[set], [&](Features& features) { setBit(features.sets, set); });
+    for (const auto& [trait, ranges] : traitRanges())
+      forEachIn(ranges, [&, bit = trait](Features& features) { features.traits |= bit; });
+    for (const auto& [c, letters] : foldings)
+      features_[indexOf(c)].folding = letters;
+  }
+
+  [[nodiscard]] std::size_t count() const { return starts_.size() - 1; }
+  [[nodiscard]] char32_t start(std::size_t i) const { return starts_[i]; }
+  [[nodiscard]] const Features& features(std::size_t i) const { return features_[i]; }
+
+ private:
+  void cutAt(const CodePointRanges& ranges) {
+    for (const auto& [first, last] : ranges) {
+      starts_.push_back(first);
+      starts_.push_back(last + 1);
+    }
+  }
+
+  /// REQUIRES: cut at these ranges.
+  void forEachIn(const CodePointRanges& ranges, const auto& change) {
+    for (const auto& [first, last] : ranges)
+      for (std::size_t i = indexOf(first); starts_[i] <= last; ++i)
+        change(features_[i]);
+  }
+
+  [[nodiscard]] std::size_t indexOf(char32_t start) const {
+    return static_cast<std::size_t>(std::lower_bound(starts_.begin(), starts_.end(), start) -
+                                    starts_.begin());
+  }
+
+  std::vector<char32_t> starts_;
+  std::vector<Features> features_;
+};
 
 }  // namespace
 
@@ -96,64 +124,35 @@ ClassBits ClassSetPool::bits(ClassSetId set) const {
 ClassPartition::ClassPartition(const SetTable& sets, std::vector<char32_t> alphabet)
     : alphabet_(std::move(alphabet)) {
   alphabet_.push_back(U' ');
-  std::sort(alphabet_.begin(), alphabet_.end());
-  alphabet_.erase(std::unique(alphabet_.begin(), alphabet_.end()), alphabet_.end());
+  sortAndUnite(alphabet_);
 
-  const std::map<char32_t, std::vector<Letter>> foldings = foldingsIntoAlphabet();
-  const std::size_t setCount = sets.size();
-  Stretches stretches;
-  for (std::size_t set = 0; set < setCount; ++set)
-    stretches.cutAt(sets[set]);
-  for (const auto& trait : traitRanges())
-    stretches.cutAt(trait.second);
-  for (const auto& folding : foldings)
-    stretches.cutAt({{folding.first, folding.first}});
-  stretches.finish(setCount + 1);
-  for (std::size_t set = 0; set < setCount; ++set)
-    stretches.label(sets[set], set);
-  for (const auto& [trait, ranges] : traitRanges())
-    stretches.label(ranges, setCount, trait);
-  for (const auto& [c, letters] : foldings) {
-    std::string text;
-    for (const Letter letter : letters) {
-      text.push_back(static_cast<char>(letter & 0xFF));
-      text.push_back(static_cast<char>(letter >> 8));
-    }
-    stretches.append(c, text);
-  }
-
-  // Stretches of the same labels are one class; the first class is that of the end.
-  std::map<std::string, ClassId> classes;
-  std::vector<const std::string*> labelsOfClass;
-  const auto addClass = [&](std::uint8_t traits, const std::vector<Letter>& folding) {
-    if (count() >= ClassifiedText::classMask) throw PatternError("too many classes");
-    table_.traits.push_back(traits);
-    table_.foldingStarts.push_back(static_cast<std::uint32_t>(table_.foldings.size()));
-    table_.foldings.insert(table_.foldings.end(), folding.begin(), folding.end());
-  };
-  const std::vector<Letter> foldsToOther{otherLetter};
-  addClass(0, foldsToOther);
-  labelsOfClass.push_back(nullptr);
+  const Stretches stretches(sets, foldingsIntoAlphabet());
+  static_assert(ClassifiedText::endClass == 0);  // so the first class is that of the end
+  std::vector<Features> classes(1);
+  std::map<Features, ClassId> known;
   std::vector<std::pair<char32_t, ClassId>> classFrom;
   for (std::size_t i = 0; i < stretches.count(); ++i) {
-    const std::string& labels = stretches.labels(i);
-    const auto [known, isNew] = classes.try_emplace(labels, static_cast<ClassId>(count()));
-    classFrom.emplace_back(stretches.start(i), known->second);
-    if (!isNew) continue;
-    const auto folding = foldings.find(stretches.start(i));
-    addClass(static_cast<std::uint8_t>(labels[setCount]),
-             folding == foldings.end() ? foldsToOther : folding->second);
-    labelsOfClass.push_back(&known->first);
+    const auto [entry, isNew] =
+        known.try_emplace(stretches.features(i), static_cast<ClassId>(classes.size()));
+    classFrom.emplace_back(stretches.start(i), entry->second);
+    if (isNew) classes.push_back(entry->first);
+    if (classes.size() > ClassifiedText::classMask) throw PatternError("too many classes");
+  }
+
+  for (const Features& features : classes) {
+    table_.traits.push_back(features.traits);
+    table_.foldingStarts.push_back(static_cast<std::uint32_t>(table_.foldings.size()));
+    table_.foldings.insert(table_.foldings.end(), features.folding.begin(), features.folding.end());
   }
   table_.foldingStarts.push_back(static_cast<std::uint32_t>(table_.foldings.size()));
 
   classesWith_.resize(letterCount());
-  members_.assign(setCount, ClassBits(ClassSets::wordsFor(count())));
-  for (std::size_t id = 1; id < count(); ++id) {
-    for (const Letter letter : folding(static_cast<ClassId>(id)))
+  members_.assign(sets.size(), ClassBits(ClassSets::wordsFor(count())));
+  for (std::size_t id = ClassifiedText::endClass + 1; id < count(); ++id) {
+    for (const Letter letter : classes[id].folding)
       if (letter != otherLetter) classesWith_[letter].push_back(static_cast<ClassId>(id));
-    for (std::size_t set = 0; set < setCount; ++set)
-      if ((*labelsOfClass[id])[set] != 0) members_[set][id / 64] |= std::uint64_t{1} << (id % 64);
+    for (std::size_t set = 0; set < sets.size(); ++set)
+      if (hasBit(classes[id].sets, set)) setBit(members_[set], id);
   }
   fillPages(classFrom);
 }

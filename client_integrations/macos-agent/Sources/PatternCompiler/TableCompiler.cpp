@@ -12,6 +12,7 @@
 #include "PatternCompiler/RequiredLiterals.h"
 #include "PatternCompiler/TextFrequency.h"
 #include "Quillseal/ScreeningTables.h"
+#include "Quillseal/WordBits.h"
 
 namespace quillseal::screening {
 namespace {
@@ -111,7 +112,7 @@ class ChainTables {
                 .lead = chain.lead.steps,
                 .alternative = narrowed<std::uint16_t>(chain.alternative),
                 .leadClasses = sets_.intern(chain.leadClasses)};
-    std::size_t hitsBefore = hits_.size();
+    std::size_t linkBefore = hits_.size();  // where its hits begin
     for (std::size_t i = 0; i < chain.links.size(); ++i) {
       const LiteralLink& link = chain.links[i];
       const bool isFirst = i == 0;
@@ -126,10 +127,11 @@ class ChainTables {
                          (isFirst ? LinkHit::first : 0) |
                          (link.boundaryBefore ? LinkHit::boundaryBefore : 0) |
                          (link.boundaryAfter ? LinkHit::boundaryAfter : 0))});
-      for (; hitsBefore < hits; ++hitsBefore) {
-        hits_[hitsBefore].nextHit = narrowed<std::uint16_t>(hits);
-        hits_[hitsBefore].nextCount = narrowed<std::uint16_t>(hits_.size() - hits);
+      for (std::size_t hit = linkBefore; hit < hits; ++hit) {
+        hits_[hit].nextHit = narrowed<std::uint16_t>(hits);
+        hits_[hit].nextCount = narrowed<std::uint16_t>(hits_.size() - hits);
       }
+      linkBefore = hits;
     }
     chains_[number] = added;
   }
@@ -141,8 +143,7 @@ class ChainTables {
   void moveInto(ScreeningTable<Owned>& table) {
     table.firstHits.resize(hits_.size() / 64 + 1);
     for (std::size_t hit = 0; hit < hits_.size(); ++hit)
-      if (hits_[hit].has(LinkHit::first))
-        table.firstHits[hit / 64] |= std::uint64_t{1} << (hit % 64);
+      if (hits_[hit].has(LinkHit::first)) setBit(table.firstHits, hit);
     table.hits = std::move(hits_);
     table.chains = std::move(chains_);
     table.linkCount = linkCount_;
@@ -191,7 +192,7 @@ class LeadingTables {
     for (const ClassBits& bits : leading) {
       double frequency = 0;
       for (std::size_t id = 0; id < classes_.count(); ++id)
-        if ((bits[id / 64] >> (id % 64) & 1) != 0) frequency += frequencies_[id];
+        if (hasBit(bits, id)) frequency += frequencies_[id];
       cost *= std::min(frequency, 1.0);
     }
     cost += costOfLeadingBit * static_cast<double>(leading.size());
@@ -217,11 +218,11 @@ class LeadingTables {
     classesOfBits_.resize(ends_.size());
     initial_.resize(words());
     final_.resize(words());
-    initial_[bit / 64] |= std::uint64_t{1} << (bit % 64);
+    setBit(initial_, bit);
     std::move(leading.begin(), leading.end(),
               classesOfBits_.begin() + static_cast<std::ptrdiff_t>(bit));
     bit += leading.size() - 1;
-    final_[bit / 64] |= std::uint64_t{1} << (bit % 64);
+    setBit(final_, bit);
     ends_[bit] = {.search = search,
                   .alternative = alternative,
                   .length = static_cast<std::uint32_t>(leading.size())};
@@ -233,8 +234,7 @@ class LeadingTables {
       const ClassBits& members = classesOfBits_[bit];
       if (members.empty()) continue;
       for (std::size_t id = 0; id < classes_.count(); ++id)
-        table.leadingMasks[id * words() + bit / 64] |= (members[id / 64] >> (id % 64) & 1)
-                                                       << (bit % 64);
+        if (hasBit(members, id)) setBit(table.leadingMasks, id * words() * 64 + bit);
     }
     table.leadingInitial = std::move(initial_);
     table.leadingFinal = std::move(final_);

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "Quillseal/StoredTables.h"
+#include "Quillseal/WordBits.h"
 
 /// The screening engine: regular expressions in ICU's syntax, many at once over one text, with
 /// exactly the matches of ICU's own engine and in linear time. docs/screening.md has the reasoning.
@@ -67,7 +68,7 @@ class ClassSets {
   }
 
   [[nodiscard]] bool contains(ClassSetId set, ClassId id) const {
-    return (table_.bits[set * words_ + id / 64] >> (id % 64) & 1) != 0;
+    return hasBit(table_.bits.subspan(set * words_), id);
   }
 
   static constexpr std::size_t wordsFor(std::size_t classCount) { return classCount / 64 + 1; }

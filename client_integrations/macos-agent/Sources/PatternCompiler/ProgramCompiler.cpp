@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <optional>
 #include <set>
+#include <tuple>
+#include <utility>
+
+#include "Quillseal/WordBits.h"
 
 namespace quillseal::screening {
 namespace {
-
-void setClass(ClassBits& bits, std::size_t id) {
-  bits[id / 64] |= std::uint64_t{1} << (id % 64);
-}
 
 void unite(ClassBits& bits, const ClassBits& others) {
   for (std::size_t i = 0; i < bits.size(); ++i)
@@ -204,7 +204,7 @@ class Compiler {
         Start start{.classes = ClassBits(sets_.words())};
         for (const ClassId id : classes_.classesWith(program_.letters[instruction.first]))
           if (classes_.folding(id).front() == program_.letters[instruction.first])
-            setClass(start.classes, id);
+            setBit(start.classes, id);
         return start;
       }
       case Operation::Choice: {
@@ -266,6 +266,116 @@ class Compiler {
   std::vector<std::optional<Start>> known_;
 };
 
+/// Goes all ways through a program at once, one code point after the other.
+class LeadingWalk {
+ public:
+  LeadingWalk(const PatternProgram<Owned>& program, const ClassPartition& classes,
+              const ClassSetPool& sets)
+      : program_(program), classes_(classes), sets_(sets) {}
+
+  std::vector<ClassBits> from(const ProgramEntry& entry, std::size_t longest) {
+    std::vector<ClassBits> leading;
+    behind_ = {{.instruction = entry.instruction}};
+    while (leading.size() < longest) {
+      here_ = std::exchange(behind_, {});
+      step_.assign(sets_.words(), 0);
+      std::vector<Place> open(here_.begin(), here_.end());
+      while (!open.empty()) {
+        const Place place = open.back();
+        open.pop_back();
+        if (!passes(place)) return leading;
+        for (const std::uint32_t instruction : std::exchange(reached_, {}))
+          if (const Place next{.instruction = instruction}; here_.insert(next).second)
+            open.push_back(next);
+      }
+      leading.push_back(step_);
+    }
+    return leading;
+  }
+
+ private:
+  struct Place {
+    std::uint32_t instruction = 0;
+    std::uint32_t taken = 0;  ///< letters or rounds of it that lie behind
+
+    bool operator<(const Place& other) const {
+      return std::tie(instruction, taken) < std::tie(other.instruction, other.taken);
+    }
+  };
+
+  /// Notes what code points lead on from here and where to. False when the match may end here, or
+  /// when it is not certain that one code point is taken.
+  bool passes(const Place& place) {
+    const auto [index, taken] = place;
+    const Instruction& instruction = program_.code[index];
+    switch (instruction.operation) {
+      case Operation::Accept:
+      case Operation::TextEnd:
+      case Operation::AbsoluteEnd:
+        return false;
+      case Operation::Set:
+        unite(step_, sets_.bits(instruction.set));
+        behind_.insert({.instruction = index + 1});
+        break;
+      case Operation::FoldedText:
+        return passesLetter(place);
+      case Operation::GreedyLoop:
+      case Operation::LazyLoop:
+        passesRound(place);
+        break;
+      case Operation::Choice:
+        for (std::uint32_t i = 0; i < instruction.count; ++i)
+          reached_.push_back(program_.targets[instruction.first + i].instruction);
+        break;
+      case Operation::Jump:
+      case Operation::LookAhead:
+      case Operation::NegativeLookAhead:
+        reached_.push_back(instruction.first);
+        break;
+      default:
+        reached_.push_back(index + 1);
+        break;
+    }
+    return true;
+  }
+
+  bool passesLetter(const Place& place) {
+    const auto [index, taken] = place;
+    const Instruction& text = program_.code[index];
+    const Letter letter = program_.letters[text.first + taken];
+    for (const ClassId id : classes_.classesWith(letter)) {
+      if (classes_.folding(id).front() != letter) continue;
+      if (classes_.folding(id).size() > 1) return false;
+      setBit(step_, id);
+    }
+    behind_.insert(taken + 1 < text.count ? Place{.instruction = index, .taken = taken + 1}
+                                          : Place{.instruction = index + 1});
+    return true;
+  }
+
+  // A counted loop stays a few rounds; then it may go on after any of them.
+  void passesRound(const Place& place) {
+    const auto [index, taken] = place;
+    const Instruction& loop = program_.code[index];
+    unite(step_, sets_.bits(loop.set));
+    if (loop.count > taken + 1) {
+      behind_.insert({.instruction = index, .taken = taken + 1});
+    } else {
+      behind_.insert({.instruction = index + 1});
+      if (loop.max > loop.count) behind_.insert(place);
+    }
+    if (loop.count == 0) reached_.push_back(index + 1);
+  }
+
+  const PatternProgram<Owned>& program_;
+  const ClassPartition& classes_;
+  const ClassSetPool& sets_;
+  std::set<Place> here_;                ///< before the next code point
+  std::set<Place> behind_;              ///< behind it
+  std::vector<std::uint32_t> reached_;  ///< from the latest place, without a code point
+  ClassBits step_;                      ///< what the next code point can be of
+};
+
 }  // namespace
 
 PatternProgram<Owned> compileProgram(const Node& pattern, const ClassPartition& classes,
@@ -276,73 +386,7 @@ PatternProgram<Owned> compileProgram(const Node& pattern, const ClassPartition& 
 std::vector<ClassBits> leadingClasses(const PatternProgram<Owned>& program,
                                       const ProgramEntry& entry, std::size_t longest,
                                       const ClassPartition& classes, const ClassSetPool& sets) {
-  using Place = std::pair<std::uint32_t, std::uint32_t>;  // instruction, letters taken of it
-  std::vector<ClassBits> leading;
-  std::set<Place> places{{entry.instruction, 0}};
-  while (leading.size() < longest) {
-    ClassBits step(sets.words());
-    std::set<Place> after;
-    std::vector<Place> open(places.begin(), places.end());
-    while (!open.empty()) {
-      const auto [index, taken] = open.back();
-      open.pop_back();
-      const Instruction& instruction = program.code[index];
-      const auto reach = [&](std::uint32_t target) {
-        if (places.emplace(target, 0).second) open.emplace_back(target, 0);
-      };
-      switch (instruction.operation) {
-        case Operation::Accept:
-        case Operation::TextEnd:
-        case Operation::AbsoluteEnd:
-          return leading;
-        case Operation::Set:
-          unite(step, sets.bits(instruction.set));
-          after.emplace(index + 1, 0);
-          break;
-        case Operation::FoldedText: {
-          const Letter letter = program.letters[instruction.first + taken];
-          for (const ClassId id : classes.classesWith(letter)) {
-            if (classes.folding(id).front() != letter) continue;
-            if (classes.folding(id).size() > 1) return leading;
-            setClass(step, id);
-          }
-          if (taken + 1 < instruction.count) {
-            after.emplace(index, taken + 1);
-          } else {
-            after.emplace(index + 1, 0);
-          }
-          break;
-        }
-        case Operation::GreedyLoop:
-        case Operation::LazyLoop:
-          unite(step, sets.bits(instruction.set));
-          // A counted loop stays a few rounds; then it may go on after any of them.
-          if (instruction.count > taken + 1) {
-            after.emplace(index, taken + 1);
-          } else {
-            after.emplace(index + 1, 0);
-            if (instruction.max > instruction.count) after.emplace(index, taken);
-          }
-          if (instruction.count == 0) reach(index + 1);
-          break;
-        case Operation::Choice:
-          for (std::uint32_t i = 0; i < instruction.count; ++i)
-            reach(program.targets[instruction.first + i].instruction);
-          break;
-        case Operation::Jump:
-        case Operation::LookAhead:
-        case Operation::NegativeLookAhead:
-          reach(instruction.first);
-          break;
-        default:
-          reach(index + 1);
-          break;
-      }
-    }
-    leading.push_back(std::move(step));
-    places = std::move(after);
-  }
-  return leading;
+  return LeadingWalk(program, classes, sets).from(entry, longest);
 }
 
 }  // namespace quillseal::screening

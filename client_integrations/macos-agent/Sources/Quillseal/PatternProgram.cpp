@@ -1,13 +1,21 @@
 #include "Quillseal/PatternProgram.h"
 
+#include "Quillseal/WordBits.h"
+
 namespace quillseal::screening {
 namespace {
 
-// A frame that is met when everything an instruction led to has failed: it says so to the memory.
+// Marks in a frame's instruction. Such a frame is met when everything the instruction led to, or
+// what follows the loop, has failed: it says so to the memory.
 constexpr std::uint32_t instructionFailed = 0x8000'0000;
 constexpr std::uint32_t afterLoopFailed = 0x4000'0000;
 constexpr std::uint32_t marks = instructionFailed | afterLoopFailed;
 
+/// Most searches end within so many steps, and are spared what remembering costs.
+constexpr std::uint64_t forgetfulSteps = 2048;
+constexpr std::uint64_t forgetfulStepsPerCodePoint = 2;
+
+/// Memory is claimed for this many positions at a time.
 constexpr std::size_t pagePositions = 4096;
 
 }  // namespace
@@ -28,7 +36,7 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
   const ClassSets& sets = *sets_;
   const ClassifiedText& text = *text_;
   const std::size_t base = stack.size();
-  const std::uint64_t allowance = 2048 + 2 * text.size();
+  const std::uint64_t allowance = forgetfulSteps + forgetfulStepsPerCodePoint * text.size();
 
   const auto push = [&](std::uint32_t index, std::size_t at, std::size_t rest) {
     stack.push_back({index, static_cast<std::uint32_t>(at), static_cast<std::uint32_t>(rest)});
@@ -92,16 +100,8 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
     bool advanced = true;
     switch (current.operation) {
       case Operation::Accept:
-        // The unfinished frames are the path that led here.
-        if (remembering_ && purpose == Purpose::LookAhead) {
-          for (std::size_t i = base; i < stack.size(); ++i) {
-            const auto& frame = stack[i];
-            if ((frame.instruction & marks) == 0) continue;
-            const auto& marked = program.code[frame.instruction & ~marks];
-            const bool afterLoop = (frame.instruction & afterLoopFailed) != 0;
-            remember(marked.memo + (afterLoop ? 1 : 0), frame.position, Known::Succeeds);
-          }
-        }
+        if (remembering_ && purpose == Purpose::LookAhead)
+          rememberPath(std::span(stack).subspan(base));
         stack.resize(base);
         return position;
       case Operation::Set:
@@ -198,27 +198,12 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
       const BacktrackFrame frame = stack.back();
       stack.pop_back();
       ++steps_;
-      const std::uint32_t index = frame.instruction & ~marks;
+      if ((frame.instruction & marks) != 0) {
+        rememberFailure(frame);
+        continue;
+      }
+      const std::uint32_t index = frame.instruction;
       const auto& tried = program.code[index];
-      if ((frame.instruction & afterLoopFailed) != 0) {
-        remember(tried.memo + 1, frame.position, Known::Fails);
-        continue;
-      }
-      if ((frame.instruction & instructionFailed) != 0) {
-        remember(tried.memo, frame.position, Known::Fails);
-        if (tried.max != Instruction::endless) continue;
-        // An endless loop that fails here fails from the rest of the same run, too.
-        if (tried.operation == Operation::GreedyLoop) {
-          for (std::size_t at = frame.position + 1; at <= frame.rest; ++at)
-            remember(tried.memo, at, Known::Fails);
-        } else if (tried.operation == Operation::LazyLoop) {
-          for (std::size_t at = frame.position; sets.contains(tried.set, text.classAt(at)) &&
-                                                known(tried.memo, at + 1) != Known::Fails;
-               ++at)
-            remember(tried.memo, at + 1, Known::Fails);
-        }
-        continue;
-      }
       position = frame.position;
       if (tried.operation == Operation::Choice) {
         advanced = choose(index, frame.rest);
@@ -263,9 +248,8 @@ Matcher::Known Matcher::known(std::uint32_t row, std::size_t position) const {
   const std::size_t page = position / pagePositions;
   if (page >= pages_.size() || !pages_[page]) return Known::Nothing;
   const std::size_t bit = (std::size_t{2} * row * pagePositions) + position % pagePositions;
-  if ((pages_[page][bit / 64] >> (bit % 64) & 1) != 0) return Known::Fails;
-  const std::size_t other = bit + pagePositions;
-  return (pages_[page][other / 64] >> (other % 64) & 1) != 0 ? Known::Succeeds : Known::Nothing;
+  if (hasBit(pages_[page], bit)) return Known::Fails;
+  return hasBit(pages_[page], bit + pagePositions) ? Known::Succeeds : Known::Nothing;
 }
 
 void Matcher::remember(std::uint32_t row, std::size_t position, Known what) {
@@ -276,7 +260,37 @@ void Matcher::remember(std::uint32_t row, std::size_t position, Known what) {
         std::make_unique<std::uint64_t[]>(std::size_t{2} * program_->memoRows * pagePositions / 64);
   const std::size_t bit =
       (2 * row + (what == Known::Succeeds ? 1 : 0)) * pagePositions + position % pagePositions;
-  pages_[page][bit / 64] |= std::uint64_t{1} << (bit % 64);
+  setBit(pages_[page], bit);
+}
+
+/// What stands on the stack when a look-ahead has succeeded is the path that led there.
+void Matcher::rememberPath(std::span<const BacktrackFrame> path) {
+  for (const BacktrackFrame& frame : path) {
+    if ((frame.instruction & marks) == 0) continue;
+    const std::uint32_t memo = program_->code[frame.instruction & ~marks].memo;
+    const bool afterLoop = (frame.instruction & afterLoopFailed) != 0;
+    remember(memo + (afterLoop ? 1 : 0), frame.position, Known::Succeeds);
+  }
+}
+
+void Matcher::rememberFailure(const BacktrackFrame& frame) {
+  const Instruction& failed = program_->code[frame.instruction & ~marks];
+  if ((frame.instruction & afterLoopFailed) != 0) {
+    remember(failed.memo + 1, frame.position, Known::Fails);
+    return;
+  }
+  remember(failed.memo, frame.position, Known::Fails);
+  if (failed.max != Instruction::endless) return;
+  // An endless loop that fails here fails from the rest of the same run, too.
+  if (failed.operation == Operation::GreedyLoop) {
+    for (std::size_t at = frame.position + 1; at <= frame.rest; ++at)
+      remember(failed.memo, at, Known::Fails);
+  } else if (failed.operation == Operation::LazyLoop) {
+    for (std::size_t at = frame.position; sets_->contains(failed.set, text_->classAt(at)) &&
+                                          known(failed.memo, at + 1) != Known::Fails;
+         ++at)
+      remember(failed.memo, at + 1, Known::Fails);
+  }
 }
 
 // Only speed depends on what is remembered, and starts go back by a few sentences at most.

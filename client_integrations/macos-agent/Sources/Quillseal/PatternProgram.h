@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "Quillseal/CharacterClasses.h"
@@ -83,12 +84,15 @@ struct PatternProgram {
   }
 };
 
-/// Frames of abandoned alternatives, shared by the matchers of one screening.
+/// Where to go on after a failure.
 struct BacktrackFrame {
-  std::uint32_t instruction;
-  std::uint32_t position;
+  std::uint32_t instruction;  ///< a choice or a loop; with the matcher's own marks in the top bits
+  std::uint32_t position;     ///< of a code point
+  /// Of a choice: the next target to try. Of a greedy loop: the first place where it may be left.
+  /// Of a lazy loop: how many more rounds are allowed.
   std::uint32_t rest;
 };
+/// Shared by the matchers of one screening; each leaves it as it was.
 using BacktrackStack = std::vector<BacktrackFrame>;
 
 /// Runs one program over one text. Tries alternatives in order and goes back on failure, as ICU
@@ -123,6 +127,9 @@ class Matcher {
   [[nodiscard]] bool atTextEnd(std::size_t position) const;
   [[nodiscard]] Known known(std::uint32_t row, std::size_t position) const;
   void remember(std::uint32_t row, std::size_t position, Known what);
+  void rememberPath(std::span<const BacktrackFrame> path);
+  /// REQUIRES: a frame that is met when everything its instruction led to has failed.
+  void rememberFailure(const BacktrackFrame& frame);
   void forgetBefore(std::size_t position);
 
   const PatternProgram<Stored>* program_;

@@ -210,10 +210,6 @@ class Session:
         self.monitor = self.start(
             "dbus-monitor", "--session", "interface='org.freedesktop.Notifications'")
 
-    def alert_is_open(self):
-        return any(name in ("Signing Error", "Could Not Set Up This Computer")
-                   for name in self.window_names())
-
     # The agent and its server
 
     @property

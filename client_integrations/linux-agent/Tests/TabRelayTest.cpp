@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <csignal>
@@ -82,6 +83,22 @@ class Relay {
   void write(std::string_view bytes) const {
     EXPECT_EQ(::write(input_.get(), bytes.data(), bytes.size()),
               static_cast<ssize_t>(bytes.size()));
+  }
+
+  /// Until it has found no agent and watches the folder for one.
+  void awaitWatching() const {
+    const std::filesystem::path descriptors = "/proc/" + std::to_string(process_) + "/fdinfo";
+    const auto isWatching = [&] {
+      std::error_code gone;
+      return std::ranges::any_of(
+          std::filesystem::directory_iterator(descriptors, gone), [](const auto& file) {
+            return testing::contentsOf(file.path()).find("inotify wd:") != std::string::npos;
+          });
+    };
+    const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(patience);
+    while (!isWatching() && std::chrono::steady_clock::now() < end)
+      std::this_thread::sleep_for(2ms);
+    EXPECT_TRUE(isWatching());
   }
 
   void closeInput() { input_ = FileDescriptor(-1); }
@@ -173,7 +190,7 @@ TEST_F(TabRelayTest, PassesMessagesBothWays) {
 
 TEST_F(TabRelayTest, WaitsForTheAgent) {
   relay_.emplace(chromiumCall);
-  std::this_thread::sleep_for(50ms);  // whichever comes first, it must find the agent
+  relay_->awaitWatching();
   listening_.emplace(TabSocket::listen());
   accept();
 }
@@ -182,7 +199,7 @@ TEST_F(TabRelayTest, WaitsWhereAnAgentHasDied) {
   listening_.emplace(TabSocket::listen());
   listening_.reset();
   relay_.emplace(chromiumCall);
-  std::this_thread::sleep_for(50ms);
+  relay_->awaitWatching();
   listening_.emplace(TabSocket::listen());
   accept();
 }

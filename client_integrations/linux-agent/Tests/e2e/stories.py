@@ -354,6 +354,9 @@ class Trouble(Story):
         self.desktop.press_in_editor()
         self.desktop.wait_for_window("Choose a passphrase")
         self.desktop.end(self.desktop.agent, signal.SIGKILL)
+        keys = self.desktop.home / ".local/share/quillseal"
+        self.assertEqual([file.name for file in keys.glob("*")], [])
+        self.assertEqual(self.desktop.window_names().count("Choose a passphrase"), 0)
         self.desktop.start_agent()
         self.desktop.press_hotkey()
         self.desktop.choose_secret()
@@ -371,8 +374,6 @@ class Commands(Story):
         self.desktop.wait_for_window("Choose a passphrase")
         self.desktop.key("Escape")
         self.desktop.wait_for_no_window("Choose a passphrase")
-        while self.desktop.alert_is_open():
-            self.desktop.key("Escape")
         self.desktop.run(self.desktop.quillseal, "--settings")
         self.desktop.wait_for_window("Quill Seal Server Settings")
         self.desktop.run(self.desktop.quillseal, "--quit")

@@ -74,7 +74,7 @@ class Session:
         self.processes = []
         self.faults = []  # of our own programs, that no test may have noticed
         self.size = size
-        self.panel = panel
+        self.has_panel = panel
         self.x_options = x_options
         self.env = self._environment()
         self.agent = None
@@ -183,12 +183,13 @@ class Session:
         with open(display_file, "w") as number:
             # The server would start over, and lose whoever connects just then, each time its last
             # client goes; while the desktop starts, that is often.
-            self.start("Xvfb", "-displayfd", number.fileno(), "-screen", "0", f"{self.size}x24",
-                       "-nolisten", "tcp", "-noreset", *self.x_options, pass_fds=[number.fileno()])
+            self.x_server = self.start(
+                "Xvfb", "-displayfd", number.fileno(), "-screen", "0", f"{self.size}x24",
+                "-nolisten", "tcp", "-noreset", *self.x_options, pass_fds=[number.fileno()])
         number = wait_for("the X server starts", lambda: display_file.read_text().strip())
         self.env["DISPLAY"] = f":{number}"
-        bus = self.start("dbus-daemon", "--session", "--nofork", "--print-address=1")
-        address = self.wait_for_output(bus, r"unix:\S+", "the session bus starts")
+        self.bus = self.start("dbus-daemon", "--session", "--nofork", "--print-address=1")
+        address = self.wait_for_output(self.bus, r"unix:\S+", "the session bus starts")
         self.env["DBUS_SESSION_BUS_ADDRESS"] = address[0]
         manager = self.start("openbox", "--sm-disable")
 
@@ -197,9 +198,9 @@ class Session:
                 raise Failure(f"the window manager ended: {self.output_of(manager)}")
             return "window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK", check=False)
         wait_for("the window manager starts", managed)
-        if self.panel:
-            self.start("trayer", "--edge", "top", "--align", "right", "--widthtype", "request",
-                       "--height", "26")
+        if self.has_panel:
+            self.panel = self.start("trayer", "--edge", "top", "--align", "right",
+                                    "--widthtype", "request", "--height", "26")
         self.start("dunst")
         wait_for("the notification service starts",
                  lambda: "true" in self.run(

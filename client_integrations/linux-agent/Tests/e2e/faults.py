@@ -129,7 +129,7 @@ class Faults(Story):
         self.desktop.choose_secret()
         self.desktop.wait_for_window("Enter the passphrase")
         key = self.key_file.read_bytes()
-        self.desktop.end(self.desktop.processes[0], signal.SIGKILL)
+        self.desktop.end(self.desktop.x_server, signal.SIGKILL)
         self.assert_ended(code=1)
         self.assertEqual(self.key_file.read_bytes(), key)
 
@@ -138,7 +138,7 @@ class Faults(Story):
         self.desktop.press_in_editor()
         self.desktop.choose_secret()
         self.desktop.wait_for_window("Enter the passphrase")
-        self.desktop.end(self.desktop.processes[1], signal.SIGKILL)
+        self.desktop.end(self.desktop.bus, signal.SIGKILL)
         self.desktop.enter_secret()
         wait_for("the block is on the clipboard",
                  lambda: self.desktop.selection().startswith(f"『{LETTER}』"))
@@ -209,8 +209,7 @@ class Panel(Story):
 
     def test_the_panel_dies(self):
         self.start()
-        panel = next(p for p in self.desktop.processes if "trayer" in p.log.name)
-        self.desktop.end(panel, signal.SIGKILL)
+        self.desktop.end(self.desktop.panel, signal.SIGKILL)
         self.assert_signed(self.sign_in_editor())
 
 

@@ -104,7 +104,7 @@ def run(arguments):
         desktop.saved_text(editor, "Check this signature")
         desktop.end(editor)
         desktop.press_in_editor(SCAM, "call.txt")
-        photographer.take_window("refusal", "(?i)not signed|refus|scam")
+        photographer.take_window("refusal", "^Not signed")
         desktop.key("Return")
         desktop.run(desktop.quillseal, "--settings")
         photographer.take_window("settings", "Quill Seal Server Settings")
@@ -112,8 +112,8 @@ def run(arguments):
 
 def main():
     parser = session.arguments_parser(__doc__)
-    parser.add_argument("--to", required=True, metavar="FOLDER",
-                        type=lambda path: pathlib.Path(path).resolve(), help="the folder for the pictures")
+    parser.add_argument("--to", required=True, metavar="FOLDER", help="the folder for the pictures",
+                        type=lambda path: pathlib.Path(path).resolve())
     parser.add_argument("--size", default="1024x600", help="of the screen")
     parser.add_argument("--own-home", action="store_true", help=argparse.SUPPRESS)
     arguments = parser.parse_args()

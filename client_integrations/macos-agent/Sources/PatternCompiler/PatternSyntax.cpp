@@ -10,6 +10,9 @@
 namespace quillseal::screening {
 namespace {
 
+/// Rounds of a counted loop. Unless its body is a single set, it is compiled once for each round.
+constexpr std::uint32_t mostRounds = 5000;
+
 CodePointRanges rangesOf(const icu::UnicodeSet& set) {
   CodePointRanges ranges;
   for (std::int32_t i = 0; i < set.getRangeCount(); ++i)
@@ -90,6 +93,12 @@ icu::UnicodeSet simpleFoldings(UChar32 folded) {
     for (UChar32 c = candidates.getRangeStart(r); c <= candidates.getRangeEnd(r); ++c)
       if (u_foldCase(c, U_FOLD_CASE_DEFAULT) == folded) same.add(c);
   return same;
+}
+
+/// A sequence of one is what it consists of.
+Node withoutSequence(Node node) {
+  if (node.kind != Node::Kind::Sequence || node.children.size() != 1) return node;
+  return std::move(node.children.front());
 }
 
 class Parser {
@@ -190,8 +199,7 @@ class Parser {
   }
 
   Node quantified(Node node) {
-    if (node.kind == Node::Kind::Sequence && node.children.size() == 1)
-      node = Node(node.children.front());
+    node = withoutSequence(std::move(node));
     while (atQuantifier()) {
       Node repetition{.kind = Node::Kind::Repetition, .min = 0, .max = unbounded};
       switch (take()) {
@@ -223,7 +231,7 @@ class Parser {
       while (!ended() && pattern_[at_] >= U'0' && pattern_[at_] <= U'9') {
         value = value * 10 + (take() - U'0');
         any = true;
-        if (value > 5000) fail("repetition too long");
+        if (value > mostRounds) fail("repetition too long");
       }
       if (!any) fail("number expected");
       return value;
@@ -304,9 +312,7 @@ class Parser {
       node.children.push_back(alternatives());
     } else if (next(U"?<=") || next(U"?<!")) {
       const bool negative = pattern_[at_ - 1] == U'!';
-      node = alternatives();
-      if (node.kind == Node::Kind::Sequence && node.children.size() == 1)
-        node = Node(node.children.front());
+      node = withoutSequence(alternatives());
       if (node.kind != Node::Kind::Set) fail("only one character can be looked back at");
       node.kind = Node::Kind::PrecedingInSet;
       node.negative = negative;

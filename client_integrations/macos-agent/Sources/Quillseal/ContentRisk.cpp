@@ -1,7 +1,9 @@
 #include "Quillseal/ContentRisk.h"
 
 #include <algorithm>
+#include <iterator>
 #include <set>
+#include <utility>
 
 #include "Quillseal/CompiledRules.h"
 #include "Quillseal/ContentRules.h"

@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <limits>
-#include <vector>
 
 #include "Quillseal/CharacterClasses.h"
 #include "Quillseal/LiteralIndex.h"
@@ -11,6 +10,7 @@
 
 namespace quillseal::screening {
 
+/// Instead of a number or a position.
 inline constexpr std::uint32_t none = std::numeric_limits<std::uint32_t>::max();
 
 /// How much text there is at most between two places, in two measures; either may be `unbounded`.

@@ -20,17 +20,17 @@ TEST(CommandLineTest, UnderstandsEveryOption) {
     std::vector<std::string_view> arguments;
     Command command;
   } cases[] = {
-      {{}, Command::Start},
-      {{"--background"}, Command::Background},
-      {{"--sign"}, Command::Sign},
-      {{"--settings"}, Command::Settings},
-      {{"--quit"}, Command::Quit},
-      {{"--help"}, Command::Help},
-      {{"-h"}, Command::Help},
-      {{"--version"}, Command::Version},
-      {{"-V"}, Command::Version},
-      {{"--sign", "--sign"}, Command::Sign},
-      {{"--tpm", "none", "--sign"}, Command::Sign},
+      {{}, Command::start},
+      {{"--background"}, Command::background},
+      {{"--sign"}, Command::sign},
+      {{"--settings"}, Command::settings},
+      {{"--quit"}, Command::quit},
+      {{"--help"}, Command::help},
+      {{"-h"}, Command::help},
+      {{"--version"}, Command::version},
+      {{"-V"}, Command::version},
+      {{"--sign", "--sign"}, Command::sign},
+      {{"--tpm", "none", "--sign"}, Command::sign},
   };
   for (const auto& [arguments, command] : cases) {
     const CommandLine commandLine = parsed(arguments);
@@ -53,7 +53,7 @@ TEST(CommandLineTest, SaysWhatItDoesNotUnderstand) {
   };
   for (const auto& [arguments, problem] : cases) {
     const CommandLine commandLine = parsed(arguments);
-    EXPECT_EQ(commandLine.command, Command::Wrong) << testing::PrintToString(arguments);
+    EXPECT_EQ(commandLine.command, Command::wrong) << testing::PrintToString(arguments);
     EXPECT_THAT(commandLine.problem, HasSubstr(problem));
   }
 }
@@ -67,8 +67,8 @@ TEST(CommandLineTest, HelpNamesEveryOption) {
 // A second start without an option shows the settings: where the panel has no tray, that is the way
 // to them.
 TEST(CommandLineTest, ASecondStartOpensTheSettings) {
-  EXPECT_EQ(wireName(Command::Start), wireName(Command::Settings));
-  EXPECT_EQ(wireName(Command::Help), "");
+  EXPECT_EQ(wireName(Command::start), wireName(Command::settings));
+  EXPECT_EQ(wireName(Command::help), "");
 }
 
 }  // namespace

@@ -14,12 +14,12 @@ struct Option {
 };
 
 constexpr std::array options = {
-    Option{"--background", "", Command::Background},
-    Option{"--help", "-h", Command::Help},
-    Option{"--quit", "", Command::Quit},
-    Option{"--settings", "", Command::Settings},
-    Option{"--sign", "", Command::Sign},
-    Option{"--version", "-V", Command::Version},
+    Option{"--background", "", Command::background},
+    Option{"--help", "-h", Command::help},
+    Option{"--quit", "", Command::quit},
+    Option{"--settings", "", Command::settings},
+    Option{"--sign", "", Command::sign},
+    Option{"--version", "-V", Command::version},
 };
 
 }  // namespace
@@ -27,7 +27,7 @@ constexpr std::array options = {
 CommandLine parseCommandLine(std::span<const std::string_view> arguments) {
   CommandLine result;
   const auto wrong = [](std::string_view argument, std::string_view why) {
-    return CommandLine{.command = Command::Wrong,
+    return CommandLine{.command = Command::wrong,
                        .tpm = {},
                        .problem = "'" + std::string(argument) + "' " + std::string(why)};
   };
@@ -42,7 +42,7 @@ CommandLine parseCommandLine(std::span<const std::string_view> arguments) {
              (!candidate.shortName.empty() && *argument == candidate.shortName);
     });
     if (option == options.end()) return wrong(*argument, "is not an option");
-    if (result.command != Command::Start && result.command != option->command)
+    if (result.command != Command::start && result.command != option->command)
       return wrong(*argument, "cannot be combined with another option");
     result.command = option->command;
   }
@@ -77,12 +77,12 @@ Exit status: 0 done, 1 failed, 2 wrong arguments. Manual: man quillseal
 
 std::string_view wireName(Command command) {
   switch (command) {
-    case Command::Sign:
+    case Command::sign:
       return "Sign";
-    case Command::Start:
-    case Command::Settings:
+    case Command::start:
+    case Command::settings:
       return "Settings";
-    case Command::Quit:
+    case Command::quit:
       return "Quit";
     default:
       return {};

@@ -8,20 +8,20 @@ namespace quillseal {
 
 /// What a start of `quillseal` asks for.
 enum class Command {
-  Start,       ///< Be the agent; one that runs already opens its settings.
-  Background,  ///< Be the agent, quietly: nothing on standard error, no settings when one runs.
-  Sign,        ///< Sign the selected text.
-  Settings,    ///< Show the settings window.
-  Quit,        ///< End the agent that runs.
-  Help,
-  Version,
-  Wrong,  ///< The arguments cannot be understood.
+  start,       ///< Be the agent; one that runs already opens its settings.
+  background,  ///< Be the agent, quietly: nothing on standard error, no settings when one runs.
+  sign,        ///< Sign the selected text.
+  settings,    ///< Show the settings window.
+  quit,        ///< End the agent that runs.
+  help,
+  version,
+  wrong,  ///< The arguments cannot be understood.
 };
 
 struct CommandLine {
-  Command command = Command::Start;
+  Command command = Command::start;
   std::string tpm;      ///< which TPM holds the key, as `KeyStoreOptions::tpm` has it
-  std::string problem;  ///< A sentence for standard error; only with `Command::Wrong`.
+  std::string problem;  ///< A sentence for standard error; only with `Command::wrong`.
 };
 
 /// Understands the arguments that follow the program's name.

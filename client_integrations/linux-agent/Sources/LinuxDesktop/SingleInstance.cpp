@@ -15,7 +15,7 @@ namespace {
 constexpr auto busName = "com.quillseal.Agent";
 constexpr auto objectPath = "/com/quillseal/Agent";
 constexpr int answerMilliseconds = 5000;
-constexpr std::array wireCommands = {Command::Sign, Command::Settings, Command::Quit};
+constexpr std::array wireCommands = {Command::sign, Command::settings, Command::quit};
 
 QString wire(Command command) {
   const std::string_view name = wireName(command);
@@ -57,10 +57,10 @@ SingleInstance::~SingleInstance() {
 
 SingleInstance::Role SingleInstance::claim() {
   QDBusConnection bus = QDBusConnection::sessionBus();
-  if (!bus.isConnected()) return Role::Alone;
+  if (!bus.isConnected()) return Role::alone;
   // The object comes first: whoever finds the name must find it too.
   bus.registerVirtualObject(QLatin1String(objectPath), receiver_.get());
-  return bus.registerService(QLatin1String(busName)) ? Role::Agent : Role::Visitor;
+  return bus.registerService(QLatin1String(busName)) ? Role::agent : Role::visitor;
 }
 
 void SingleInstance::onCommand(std::function<void(Command)> handler) {

@@ -12,9 +12,9 @@ namespace quillseal {
 class SingleInstance {
  public:
   enum class Role {
-    Agent,    ///< This process owns the name.
-    Visitor,  ///< Another one does.
-    Alone,    ///< There is no session bus: others cannot be seen, and cannot see this one.
+    agent,    ///< This process owns the name.
+    visitor,  ///< Another one does.
+    alone,    ///< There is no session bus: others cannot be seen, and cannot see this one.
   };
 
   SingleInstance();

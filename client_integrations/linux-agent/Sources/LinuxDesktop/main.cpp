@@ -144,7 +144,7 @@ class LinuxDesktop {
     log_.write("[start] " + keyStore_->describe());
     if (limits_.empty()) return;
     // Not a window to close at the start of every session.
-    if (commandLine.command == Command::Background)
+    if (commandLine.command == Command::background)
       alerts_.notify({.title = "Quillseal", .body = limits_});
     else
       warn(limits_);
@@ -224,13 +224,13 @@ class LinuxDesktop {
 
 void obey(Command command, quillseal::AppDelegate& agent) {
   switch (command) {
-    case Command::Sign:
+    case Command::sign:
       agent.menuBarManager().signText();
       break;
-    case Command::Settings:
+    case Command::settings:
       agent.menuBarManager().configureServer();
       break;
-    case Command::Quit:
+    case Command::quit:
       agent.menuBarManager().quitApp();
       break;
     default:
@@ -239,14 +239,14 @@ void obey(Command command, quillseal::AppDelegate& agent) {
 }
 
 int visit(Command command) {
-  if (command == Command::Background) return 0;
+  if (command == Command::background) return 0;
   if (quillseal::SingleInstance::handOver(command)) return 0;
   report("the agent that runs in this session does not answer. End it and start again.");
   return failed;
 }
 
 int runAgent(const CommandLine& commandLine, quillseal::SingleInstance& instance) {
-  const bool quiet = commandLine.command == Command::Background;
+  const bool quiet = commandLine.command == Command::background;
   quillseal::JournalLog log(quiet ? quillseal::JournalLog::Echo::none
                                   : quillseal::JournalLog::Echo::standardError);
   if (!quillseal::lockMemoryOfSecrets())
@@ -285,15 +285,15 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
 
   quillseal::SingleInstance instance;
   switch (instance.claim()) {
-    case quillseal::SingleInstance::Role::Visitor:
+    case quillseal::SingleInstance::Role::visitor:
       return visit(commandLine.command);
-    case quillseal::SingleInstance::Role::Alone:
+    case quillseal::SingleInstance::Role::alone:
       report("there is no session bus: notifications and commands from other starts do not work.");
       break;
-    case quillseal::SingleInstance::Role::Agent:
+    case quillseal::SingleInstance::Role::agent:
       break;
   }
-  if (commandLine.command == Command::Quit) return 0;
+  if (commandLine.command == Command::quit) return 0;
   return runAgent(commandLine, instance);
 }
 
@@ -303,13 +303,13 @@ int main(int argc, char** argv) {
   const std::vector<std::string_view> arguments(argv + 1, argv + argc);
   const CommandLine commandLine = quillseal::parseCommandLine(arguments);
   switch (commandLine.command) {
-    case Command::Help:
+    case Command::help:
       static_cast<void>(std::fputs(std::string(quillseal::helpText()).c_str(), stdout));
       return 0;
-    case Command::Version:
+    case Command::version:
       std::puts("quillseal " QUILLSEAL_VERSION);
       return 0;
-    case Command::Wrong:
+    case Command::wrong:
       report(commandLine.problem + "; see quillseal --help");
       return wrongArguments;
     default:

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <set>
 #include <utility>
 
@@ -46,6 +47,41 @@ void keepWholeCharacters(std::string_view text, std::vector<screening::PatternMa
   std::erase_if(matches, [&](const screening::PatternMatch& match) {
     return inside.contains(match.start) || inside.contains(match.end);
   });
+}
+
+/// Takes the match of the reporting cue out of the others, and says whether the text is a report.
+bool takeReportingCue(std::vector<screening::PatternMatch>& matches) {
+  if (matches.empty() || matches.back().pattern != ContentRules::all.size()) return false;
+  // A search that failed says nothing, and must not soften anything.
+  const bool isReport = !matches.back().failed;
+  matches.pop_back();
+  return isReport;
+}
+
+struct Found {
+  Finding finding;
+  Hit hit;
+};
+
+/// What a match counts for, given the quotations of a report: nothing when it only warns of what is
+/// quoted.
+std::optional<Found> weigh(const screening::PatternMatch& match,
+                           const std::vector<QuotedSpan>& quotations) {
+  const ContentRules::Rule& rule = ContentRules::all[match.pattern];
+  const bool isBlock = rule.severity == "block";
+  const bool isQuoted =
+      std::any_of(quotations.begin(), quotations.end(), [&](const QuotedSpan& span) {
+        return span.startByte <= match.start && match.end <= span.endByte;
+      });
+  if (isQuoted && !isBlock) return std::nullopt;
+  return Found{
+      .finding = {.id = std::string(rule.id),
+                  .category = std::string(rule.category),
+                  .why = std::string(rule.why),
+                  .points = isQuoted ? softenedPoints : rule.points,
+                  .isBlocking = isBlock && !isQuoted},
+      .hit = {
+          .id = rule.id, .start = match.start, .end = match.end, .isEngineFailure = match.failed}};
 }
 
 // ---- Quotations
@@ -113,6 +149,12 @@ std::vector<QuoteMark> quoteMarksOf(std::string_view text) {
   return marks;
 }
 
+/// Whether there is such a mark, whatever it may do: one that does nothing is a stray one.
+bool occurs(char32_t scalar, std::vector<QuoteMark>::const_iterator from,
+            std::vector<QuoteMark>::const_iterator to) {
+  return std::any_of(from, to, [&](const QuoteMark& mark) { return mark.scalar == scalar; });
+}
+
 // ---- Texts
 
 std::string_view shortWhy(std::string_view why) {
@@ -160,37 +202,14 @@ Screening screen(std::string_view text) {
   const std::string_view screened = screenedPart(text);
   std::vector<screening::PatternMatch> matches = engine().firstMatches(screened, &result.steps);
 
-  std::vector<QuotedSpan> spans;
-  if (!matches.empty() && matches.back().pattern == ContentRules::all.size()) {
-    // A search that failed says nothing, and must not soften anything.
-    const bool isReport = !matches.back().failed;
-    matches.pop_back();
-    if (isReport && !matches.empty()) spans = quotedSpans(screened);
-  }
+  std::vector<QuotedSpan> quotations;
+  if (takeReportingCue(matches) && !matches.empty()) quotations = quotedSpans(screened);
   keepWholeCharacters(screened, matches);
 
-  struct Found {
-    Finding finding;
-    Hit hit;
-  };
   std::vector<Found> found;
-  for (const screening::PatternMatch& match : matches) {
-    const ContentRules::Rule& rule = ContentRules::all[match.pattern];
-    const bool isBlock = rule.severity == "block";
-    const bool isQuoted = std::any_of(spans.begin(), spans.end(), [&](const QuotedSpan& span) {
-      return span.startByte <= match.start && match.end <= span.endByte;
-    });
-    if (isQuoted && !isBlock) continue;
-    found.push_back({.finding = {.id = std::string(rule.id),
-                                 .category = std::string(rule.category),
-                                 .why = std::string(rule.why),
-                                 .points = isQuoted ? softenedPoints : rule.points,
-                                 .isBlocking = isBlock && !isQuoted},
-                     .hit = {.id = rule.id,
-                             .start = match.start,
-                             .end = match.end,
-                             .isEngineFailure = match.failed}});
-  }
+  for (const screening::PatternMatch& match : matches)
+    if (std::optional<Found> weighed = weigh(match, quotations))
+      found.push_back(*std::move(weighed));
   std::stable_sort(found.begin(), found.end(), [](const Found& a, const Found& b) {
     return a.finding.points > b.finding.points;
   });
@@ -219,28 +238,28 @@ std::vector<QuotedSpan> quotedSpans(std::string_view text) {
   const std::vector<QuoteMark> marks = quoteMarksOf(text);
   std::vector<QuotedSpan> spans;
   for (const QuotePair& pair : quotePairs) {
-    // The next such mark that is accepted; whether any was seen at all.
-    const auto find = [&](std::size_t from, char32_t scalar, bool QuoteMark::*accepted) {
-      bool seen = false;
-      for (; from < marks.size(); ++from) {
-        if (marks[from].scalar != scalar) continue;
-        seen = true;
-        if (!pair.isSymmetric() || marks[from].*accepted) break;
-      }
-      return std::pair(from, seen);
+    const auto opens = [&](const QuoteMark& mark) {
+      return mark.scalar == pair.opening && (!pair.isSymmetric() || mark.mayOpen);
     };
-    for (std::size_t from = 0;;) {
-      const auto [opening, sawOpening] = find(from, pair.opening, &QuoteMark::mayOpen);
-      if (!sawOpening) break;
-      if (opening == marks.size()) return spans;
-      const auto [closing, sawClosing] = find(opening + 1, pair.closing, &QuoteMark::mayClose);
-      if (!sawClosing) break;
-      if (closing == marks.size()) return spans;
-      if (marks[closing].character - marks[opening].character >= shortestQuotation)
-        spans.push_back({.firstCharacter = marks[opening].character,
-                         .endCharacter = marks[closing].character + 1,
-                         .startByte = marks[opening].startByte,
-                         .endByte = marks[closing].endByte});
+    const auto closes = [&](const QuoteMark& mark) {
+      return mark.scalar == pair.closing && (!pair.isSymmetric() || mark.mayClose);
+    };
+    for (auto from = marks.begin();;) {
+      const auto opening = std::find_if(from, marks.end(), opens);
+      if (opening == marks.end()) {
+        if (occurs(pair.opening, from, marks.end())) return spans;
+        break;
+      }
+      const auto closing = std::find_if(opening + 1, marks.end(), closes);
+      if (closing == marks.end()) {
+        if (occurs(pair.closing, opening + 1, marks.end())) return spans;
+        break;
+      }
+      if (closing->character - opening->character >= shortestQuotation)
+        spans.push_back({.firstCharacter = opening->character,
+                         .endCharacter = closing->character + 1,
+                         .startByte = opening->startByte,
+                         .endByte = closing->endByte});
       from = closing + 1;
     }
   }

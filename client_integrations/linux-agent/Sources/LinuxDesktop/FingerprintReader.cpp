@@ -48,8 +48,20 @@ class ClaimedReader {
   [[nodiscard]] SystemBus::Target target() const noexcept {
     return {.service = service, .path = path_.c_str(), .interface = deviceInterface};
   }
-  void start() { bus_.call(target(), "VerifyStart", "s", "any"); }
-  void stop() noexcept { tryCall("VerifyStop"); }
+
+  /// Begins to look for a finger, and ends that with its own end.
+  class Verification {
+   public:
+    explicit Verification(ClaimedReader& reader) : reader_(reader) {
+      reader_.bus_.call(reader_.target(), "VerifyStart", "s", "any");
+    }
+    Verification(const Verification&) = delete;
+    Verification& operator=(const Verification&) = delete;
+    ~Verification() { reader_.tryCall("VerifyStop"); }
+
+   private:
+    ClaimedReader& reader_;
+  };
 
  private:
   // A reader that was unplugged cannot be given back, and need not.
@@ -118,42 +130,34 @@ bool verify(const Interrupt& interrupt, const Instruct& instruct) {
   sd_bus_slot* slot = nullptr;
   SystemBus::check(::sd_bus_match_signal(bus.get(), &slot, target.service, target.path,
                                          target.interface, "VerifyStatus", keep, &statuses));
-  const std::unique_ptr<sd_bus_slot, decltype(&::sd_bus_slot_unref)> owner(slot,
-                                                                           ::sd_bus_slot_unref);
-  for (int remaining = tries; remaining > 0;) {
-    reader.start();
-    for (bool touching = true; touching;) {
-      if (!bus.wait({.interrupt = interrupt, .limit = patience, .isDone = [&statuses] {
-                       return !statuses.empty();
-                     }})) {
-        reader.stop();
-        if (interrupt.isRaised())
-          throw Cancelled({.domain = "Quillseal.Presence",
-                           .code = 0,
-                           .description = "Authentication was cancelled."});
-        fail("Nobody touched the fingerprint reader.");
-      }
-      const Touch touch = touchOf(statuses.front());
-      statuses.pop_front();
-      switch (touch.kind) {
-        case Touch::Kind::match:
-          reader.stop();
-          return true;
-        case Touch::Kind::failure:
-          reader.stop();
-          fail(touch.instruction);
-        case Touch::Kind::noMatch:
-          // Each try is a verification of its own.
-          reader.stop();
-          statuses.clear();
-          touching = false;
-          if (--remaining > 0) instruct(touch.instruction);
-          break;
-        case Touch::Kind::again:
-          instruct(touch.instruction);
-          break;
-      }
+  const BusSlot owner(slot);
+  const auto nextTouch = [&] {
+    const auto hasStatus = [&statuses] { return !statuses.empty(); };
+    if (!bus.wait({.interrupt = interrupt, .limit = patience, .isDone = hasStatus})) {
+      if (interrupt.isRaised())
+        throw Cancelled({.domain = "Quillseal.Presence",
+                         .code = 0,
+                         .description = "Authentication was cancelled."});
+      fail("Nobody touched the fingerprint reader.");
     }
+    const Touch touch = touchOf(statuses.front());
+    statuses.pop_front();
+    return touch;
+  };
+  // fprintd ends a verification with the first finger that it has recognised or not.
+  const auto verifyOnce = [&] {
+    const ClaimedReader::Verification verification(reader);
+    Touch touch = nextTouch();
+    for (; touch.kind == Touch::Kind::again; touch = nextTouch())
+      instruct(touch.instruction);
+    if (touch.kind == Touch::Kind::failure) fail(touch.instruction);
+    return touch;
+  };
+  for (int attempt = 1; attempt <= tries; ++attempt) {
+    const Touch touch = verifyOnce();
+    if (touch.kind == Touch::Kind::match) return true;
+    statuses.clear();
+    if (attempt < tries) instruct(touch.instruction);
   }
   return false;
 }

@@ -95,8 +95,7 @@ BusMessage SystemBus::sendAndWait(const LongCall& call) {
   };
   sd_bus_slot* slot = nullptr;
   check(::sd_bus_call_async(bus_.get(), &slot, &call.request, keep, &answer, UINT64_MAX));
-  const std::unique_ptr<sd_bus_slot, decltype(&::sd_bus_slot_unref)> owner(slot,
-                                                                           ::sd_bus_slot_unref);
+  const BusSlot owner(slot);
   constexpr Seconds nobodyIsThere = std::chrono::minutes(5);
   if (!wait({.interrupt = call.interrupt, .limit = nobodyIsThere, .isDone = [&answer] {
                return answer != nullptr;

@@ -32,6 +32,12 @@ struct MessageRelease {
 };
 using BusMessage = std::unique_ptr<sd_bus_message, MessageRelease>;
 
+/// What is listened for, for as long as this is kept.
+struct SlotRelease {
+  void operator()(sd_bus_slot* slot) const noexcept { ::sd_bus_slot_unref(slot); }
+};
+using BusSlot = std::unique_ptr<sd_bus_slot, SlotRelease>;
+
 /// A connection of its own to the system's message bus, used by one thread. Functions throw Error
 /// with the bus's words.
 class SystemBus {
@@ -60,7 +66,8 @@ class SystemBus {
   [[nodiscard]] BusMessage newCall(const Target& target, const char* method);
   BusMessage send(sd_bus_message& request);
 
-  /// Sends a call whose answer may take as long as a person does. False when interrupted.
+  /// Sends a call whose answer may take as long as a person does. Null when interrupted, or when
+  /// nobody has answered for five minutes.
   struct LongCall {
     sd_bus_message& request;
     const Interrupt& interrupt;

@@ -77,11 +77,10 @@ def main():
                         help="leave the desktop up until Ctrl+C is pressed")
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
     try:
-        run(parser.parse_args())
+        with session.failing_with_a_sentence("demo"):
+            run(parser.parse_args())
     except KeyboardInterrupt:
         print()
-    except session.Failure as failure:
-        sys.exit(f"demo: {failure}")
 
 
 if __name__ == "__main__":

@@ -163,7 +163,8 @@ def main():
     parser.add_argument("--runs", type=int, default=21,
                         help="how often to start it, and how many signatures to make")
     arguments = parser.parse_args()
-    with session.Session(arguments.build, panel=True) as desktop:
+    with (session.failing_with_a_sentence("measure"),
+          session.Session(arguments.build, panel=True) as desktop):
         proxy = Proxy(desktop.start_server())
         desktop.write_settings(ServerURL=proxy.url, SigningMode="enclave")
         print(f"load of the machine {os.getloadavg()[0]:7.1f}, {os.cpu_count()} processors")

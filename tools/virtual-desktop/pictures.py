@@ -120,10 +120,8 @@ def main():
     if not arguments.own_home:
         os.execvp("unshare", ["unshare", "--mount", sys.executable, "-B", *sys.argv, "--own-home"])
     subprocess.run(["mount", "-t", "tmpfs", "none", "/home"], check=True)
-    try:
+    with session.failing_with_a_sentence("pictures"):
         run(arguments)
-    except session.Failure as failure:
-        sys.exit(f"pictures: {failure}")
 
 
 if __name__ == "__main__":

@@ -5,6 +5,7 @@ Waiting is always for a condition, with a limit and a sentence that says what di
 """
 
 import argparse
+import contextlib
 import os
 import pathlib
 import re
@@ -12,6 +13,7 @@ import shutil
 import signal
 import sqlite3
 import subprocess
+import sys
 import tempfile
 import time
 
@@ -25,6 +27,15 @@ SANITIZER_REPORT = re.compile(
 
 class Failure(Exception):
     """What did not happen, in a sentence."""
+
+
+@contextlib.contextmanager
+def failing_with_a_sentence(program):
+    """Ends the program with what did not happen, and no traceback."""
+    try:
+        yield
+    except Failure as failure:
+        sys.exit(f"{program}: {failure}")
 
 
 def wait_for(what, condition, seconds=PATIENCE):
@@ -59,6 +70,14 @@ def arguments_parser(description):
                         default=pathlib.Path(__file__).parents[2] / "build/dev",
                         help="the build folder with the programs")
     return parser
+
+
+def words_of(command):
+    """The command for `subprocess`; Failure when its program is not there."""
+    words = [str(part) for part in command]
+    if not shutil.which(words[0]):
+        raise Failure(f"{words[0]} is missing; ./demo installs and builds what a session needs")
+    return words
 
 
 class Session:
@@ -130,7 +149,7 @@ class Session:
         log = self.folder / f"{name}-{len(self.processes)}.log"
         with open(log, "wb") as output:
             process = subprocess.Popen(
-                [str(part) for part in command], env=self.env, cwd=self.home,
+                words_of(command), env=self.env, cwd=self.home,
                 stdin=subprocess.DEVNULL, stdout=output, stderr=subprocess.STDOUT,
                 start_new_session=True, **options)
         process.log = log
@@ -158,9 +177,8 @@ class Session:
     def run(self, *command, seconds=PATIENCE, check=True, **options):
         """Runs a program to its end and gives what it printed."""
         # xclip gives Latin-1 when a program that is just taking a selection refuses UTF-8.
-        done = subprocess.run([str(part) for part in command], env=self.env, timeout=seconds,
-                              capture_output=True, text=True, errors="replace", check=False,
-                              **options)
+        done = subprocess.run(words_of(command), env=self.env, timeout=seconds, capture_output=True,
+                              text=True, errors="replace", check=False, **options)
         if check and done.returncode != 0:
             raise Failure(f"{' '.join(map(str, command))} ended with {done.returncode}: "
                           f"{done.stdout}{done.stderr}")

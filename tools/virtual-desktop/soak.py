@@ -83,7 +83,7 @@ def main():
     parser = session.arguments_parser(__doc__)
     parser.add_argument("--count", type=int, default=500, help="signatures to make")
     arguments = parser.parse_args()
-    with session.Session(arguments.build) as desktop:
+    with session.failing_with_a_sentence("soak"), session.Session(arguments.build) as desktop:
         soak = Soak(desktop)
         soak.start()
         before, after = soak.run(arguments.count)

@@ -1,6 +1,7 @@
 #include "Quillseal/ContentRisk.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 #include <optional>
 #include <set>
@@ -17,7 +18,17 @@ namespace {
 /// A quotation is at least this long, from the opening mark to the closing one.
 constexpr std::size_t shortestQuotation = 25;
 
+/// The points of a blocking hit within a quotation of a report: a text with nothing else is signed
+/// after a warning.
+constexpr std::int64_t softenedPoints = warningScore;
+
+/// Bullet lines of a refusal or a warning.
 constexpr std::size_t reasonLimit = 3;
+
+/// The categories that are illegal in most countries; they choose the words of a refusal.
+constexpr std::array<std::string_view, 8> illegalCategories{
+    "Child sexual abuse", "Terrorism",        "Hate speech",  "Human trafficking",
+    "Illegal goods",      "Illegal services", "Sexual abuse", "Self-harm"};
 
 /// Searches for the rules in table order, and for the reporting cue as the last pattern.
 const screening::ScreeningEngine& engine() {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -17,8 +16,6 @@ inline constexpr std::size_t maximumScreenedCharacters = 200'000;
 /// A score from which signing is refused, and one from which the user is warned first.
 inline constexpr std::int64_t refusalScore = 100;
 inline constexpr std::int64_t warningScore = 55;
-/// The points of a blocking hit within a quotation of a report: exactly the warning threshold.
-inline constexpr std::int64_t softenedPoints = 55;
 
 /// One rule that matched.
 struct Finding {
@@ -81,11 +78,6 @@ struct QuotedSpan {
 /// less.
 inline constexpr std::string_view reportingCue =
     R"re(\b(?:simulated phish\w*|phishing simulation|awareness training|attackers? (?:are|is) (?:currently )?sending|scammers? (?:are|say|write)|the lure|report it|do not reply|verbatim|court transcript|for the investigation|our paper|these messages read|example of a|red flags?|do not fall for|never ask you)\b)re";
-
-/// The categories that are illegal in most countries; they choose the words of a refusal.
-inline constexpr std::array<std::string_view, 8> illegalCategories{
-    "Child sexual abuse", "Terrorism",        "Hate speech",  "Human trafficking",
-    "Illegal goods",      "Illegal services", "Sexual abuse", "Self-harm"};
 
 /// Up to `limit` bullet lines, one for each category, and one that counts the rest.
 [[nodiscard]] std::vector<std::string> reasons(const Assessment& assessment, std::size_t limit);

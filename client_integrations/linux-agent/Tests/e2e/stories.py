@@ -96,8 +96,8 @@ class Signing(Story):
         self.assert_signed(editor)
         for lock, hold in (("Num_Lock", 120), ("Caps_Lock", 120), (None, 1500)):
             with self.subTest(lock=lock, hold=hold):
-                self.desktop.key("ctrl+a", "Delete")
-                self.desktop.type(LETTER)
+                self.desktop.end(editor)
+                editor = self.desktop.open_editor(LETTER)
                 self.desktop.select_all(LETTER)
                 if lock:
                     self.desktop.key(lock)

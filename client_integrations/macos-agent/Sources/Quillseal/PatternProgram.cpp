@@ -198,12 +198,17 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
       const BacktrackFrame frame = stack.back();
       stack.pop_back();
       ++steps_;
-      if ((frame.instruction & marks) != 0) {
-        rememberFailure(frame);
+      const std::uint32_t index = frame.instruction & ~marks;
+      const auto& tried = program.code[index];
+      if ((frame.instruction & afterLoopFailed) != 0) {
+        remember(tried.memo + 1, frame.position, Known::Fails);
         continue;
       }
-      const std::uint32_t index = frame.instruction;
-      const auto& tried = program.code[index];
+      if ((frame.instruction & instructionFailed) != 0) {
+        remember(tried.memo, frame.position, Known::Fails);
+        if (tried.max == Instruction::endless) rememberRestOfRun(tried, frame);
+        continue;
+      }
       position = frame.position;
       if (tried.operation == Operation::Choice) {
         advanced = choose(index, frame.rest);
@@ -273,23 +278,16 @@ void Matcher::rememberPath(std::span<const BacktrackFrame> path) {
   }
 }
 
-void Matcher::rememberFailure(const BacktrackFrame& frame) {
-  const Instruction& failed = program_->code[frame.instruction & ~marks];
-  if ((frame.instruction & afterLoopFailed) != 0) {
-    remember(failed.memo + 1, frame.position, Known::Fails);
-    return;
-  }
-  remember(failed.memo, frame.position, Known::Fails);
-  if (failed.max != Instruction::endless) return;
-  // An endless loop that fails here fails from the rest of the same run, too.
-  if (failed.operation == Operation::GreedyLoop) {
+/// An endless loop that fails somewhere fails from the rest of the same run, too.
+void Matcher::rememberRestOfRun(const Instruction& loop, const BacktrackFrame& frame) {
+  if (loop.operation == Operation::GreedyLoop) {
     for (std::size_t at = frame.position + 1; at <= frame.rest; ++at)
-      remember(failed.memo, at, Known::Fails);
-  } else if (failed.operation == Operation::LazyLoop) {
-    for (std::size_t at = frame.position; sets_->contains(failed.set, text_->classAt(at)) &&
-                                          known(failed.memo, at + 1) != Known::Fails;
+      remember(loop.memo, at, Known::Fails);
+  } else if (loop.operation == Operation::LazyLoop) {
+    for (std::size_t at = frame.position;
+         sets_->contains(loop.set, text_->classAt(at)) && known(loop.memo, at + 1) != Known::Fails;
          ++at)
-      remember(failed.memo, at + 1, Known::Fails);
+      remember(loop.memo, at + 1, Known::Fails);
   }
 }
 

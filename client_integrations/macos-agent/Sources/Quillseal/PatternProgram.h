@@ -128,8 +128,8 @@ class Matcher {
   [[nodiscard]] Known known(std::uint32_t row, std::size_t position) const;
   void remember(std::uint32_t row, std::size_t position, Known what);
   void rememberPath(std::span<const BacktrackFrame> path);
-  /// REQUIRES: a frame that is met when everything its instruction led to has failed.
-  void rememberFailure(const BacktrackFrame& frame);
+  /// `frame`: met when everything that the loop led to from there has failed.
+  void rememberRestOfRun(const Instruction& loop, const BacktrackFrame& frame);
   void forgetBefore(std::size_t position);
 
   const PatternProgram<Stored>* program_;

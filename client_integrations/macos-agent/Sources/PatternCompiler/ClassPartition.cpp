@@ -180,20 +180,28 @@ std::map<char32_t, std::vector<Letter>> ClassPartition::foldingsIntoAlphabet() c
 
 void ClassPartition::fillPages(std::span<const std::pair<char32_t, ClassId>> classFrom) {
   constexpr std::size_t pageSize = CharacterClassTable<Owned>::pageSize;
-  std::map<std::vector<ClassId>, std::uint16_t> pages;
+  std::map<std::vector<std::uint16_t>, std::uint16_t> pages;
   std::size_t stretch = 0;
   for (std::size_t page = 0; page < behindLast / pageSize; ++page) {
-    std::vector<ClassId> content(pageSize);
+    std::vector<std::uint16_t> content(pageSize);
     for (std::size_t i = 0; i < pageSize; ++i) {
       if (stretch + 1 < classFrom.size() && classFrom[stretch + 1].first == page * pageSize + i)
         ++stretch;
-      content[i] = classFrom[stretch].second;
+      content[i] = entryOf(classFrom[stretch].second);
     }
     const auto [known, isNew] =
         pages.try_emplace(std::move(content), static_cast<std::uint16_t>(pages.size()));
     if (isNew) table_.pages.insert(table_.pages.end(), known->first.begin(), known->first.end());
     table_.pageOf.push_back(known->second);
   }
+}
+
+std::uint16_t ClassPartition::entryOf(ClassId id) const {
+  using Table = CharacterClassTable<Owned>;
+  const bool isUnnoticed = (table_.traits[id] & isUnnoticedTrait) != 0;
+  return static_cast<std::uint16_t>(id | (isWord(id) ? Table::wordFlag : 0) |
+                                    (isSpace(id) ? Table::spaceFlag : 0) |
+                                    (isUnnoticed ? 0 : Table::noticedFlag));
 }
 
 Letter ClassPartition::letterOf(char32_t c) const {
@@ -203,7 +211,8 @@ Letter ClassPartition::letterOf(char32_t c) const {
 
 ClassId ClassPartition::classOf(char32_t c) const {
   constexpr std::size_t pageSize = CharacterClassTable<Owned>::pageSize;
-  return table_.pages[table_.pageOf[c / pageSize] * pageSize + c % pageSize];
+  return table_.pages[table_.pageOf[c / pageSize] * pageSize + c % pageSize] &
+         ClassifiedText::classMask;
 }
 
 std::span<const Letter> ClassPartition::folding(ClassId id) const {

@@ -234,7 +234,8 @@ class LeadingTables {
       const ClassBits& members = classesOfBits_[bit];
       if (members.empty()) continue;
       for (std::size_t id = 0; id < classes_.count(); ++id)
-        if (hasBit(members, id)) setBit(table.leadingMasks, id * words() * 64 + bit);
+        if (hasBit(members, id))
+          setBit(table.leadingMasks, (bit / 128 * classes_.count() + id) * 128 + bit % 128);
     }
     table.leadingInitial = std::move(initial_);
     table.leadingFinal = std::move(final_);

@@ -1,31 +1,40 @@
 #include "Quillseal/CharacterClasses.h"
 
-#include <unicode/utf8.h>
+#include "Quillseal/Utf8.h"
 
 namespace quillseal::screening {
 
 ClassifiedText CharacterClasses::classify(std::string_view text) const {
+  using unicode::ThreeBytes;
+  using Table = CharacterClassTable<Stored>;
+  constexpr unsigned runFlags = Table::wordFlag | Table::spaceFlag;
+  constexpr unsigned boundaryShift = 2;
+  static_assert(Table::wordFlag << boundaryShift == ClassifiedText::boundaryFlag &&
+                Table::noticedFlag == ClassifiedText::boundaryFlag);
   // No code point is shorter than a byte.
   auto elements = std::make_unique_for_overwrite<ClassId[]>(text.size() + 1);
   std::size_t count = 0;
-  const auto* bytes = reinterpret_cast<const std::uint8_t*>(text.data());
-  bool afterWord = false;
+  unsigned before = 0;     // the run flags of the code point before
+  unsigned afterWord = 0;  // where a boundary is flagged: whether the last noticed one was a word's
+  // Without branches, for which a text would give no pattern.
+  const auto append = [&](unsigned entry) {
+    const unsigned boundary = (entry << boundaryShift ^ afterWord) & entry & Table::noticedFlag;
+    elements[count++] =
+        static_cast<ClassId>((entry & (ClassifiedText::classMask | before)) | boundary);
+    before = entry & runFlags;
+    afterWord ^= boundary;
+  };
   for (std::size_t i = 0; i < text.size();) {
-    UChar32 c = bytes[i];
-    if (c < 0x80) {
-      ++i;
-    } else {
-      U8_NEXT_OR_FFFD(bytes, i, text.size(), c);
+    const char32_t scalar = unicode::decodeNext(text, i);
+    append(entryOf(scalar / Table::pageSize, scalar % Table::pageSize));
+    if (scalar < ThreeBytes::first) continue;
+    for (; i + ThreeBytes::size <= text.size(); i += ThreeBytes::size) {
+      const ThreeBytes three(text.data() + i);
+      if (!three.isScalar()) break;
+      append(entryOf(three.block(), three.offset()));
     }
-    ClassId id = classOf(static_cast<char32_t>(c));
-    if (const std::uint8_t traits = table_.traits[id]; (traits & isUnnoticedTrait) == 0) {
-      const bool isWord = (traits & isWordTrait) != 0;
-      if (isWord != afterWord) id |= ClassifiedText::boundaryFlag;
-      afterWord = isWord;
-    }
-    elements[count++] = id;
   }
-  elements[count] = afterWord ? ClassifiedText::boundaryFlag : ClassifiedText::endClass;
+  elements[count] = static_cast<ClassId>(ClassifiedText::endClass | afterWord);
   return {std::move(elements), count};
 }
 

@@ -41,9 +41,20 @@ class ClassifiedText {
     return (elements_[position] & boundaryFlag) != 0;
   }
 
+  /// Whether it and the code point before are white space.
+  [[nodiscard]] bool continuesSpace(std::size_t position) const {
+    return (elements_[position] & continuesSpaceFlag) != 0;
+  }
+  /// Whether it and the code point before are word characters.
+  [[nodiscard]] bool continuesWord(std::size_t position) const {
+    return (elements_[position] & continuesWordFlag) != 0;
+  }
+
   static constexpr ClassId endClass = 0;
   static constexpr ClassId boundaryFlag = 0x8000;
-  static constexpr ClassId classMask = 0x7FFF;
+  static constexpr ClassId continuesSpaceFlag = 0x4000;
+  static constexpr ClassId continuesWordFlag = 0x2000;
+  static constexpr ClassId classMask = 0x1FFF;
 
  private:
   std::unique_ptr<ClassId[]> elements_;
@@ -90,13 +101,16 @@ enum ClassTrait : std::uint8_t {
 
 template <template <typename> typename Array>
 struct CharacterClassTable {
-  Array<std::uint16_t> pageOf;  ///< by code point, in units of `pageSize`
-  Array<ClassId> pages;
+  Array<std::uint16_t> pageOf;         ///< by code point, in units of `pageSize`
+  Array<std::uint16_t> pages;          ///< the class with the flags of its traits
   Array<std::uint8_t> traits;          ///< by class
   Array<std::uint32_t> foldingStarts;  ///< by class, and the end
   Array<Letter> foldings;
 
   static constexpr std::size_t pageSize = 64;
+  static constexpr std::uint16_t wordFlag = ClassifiedText::continuesWordFlag;
+  static constexpr std::uint16_t spaceFlag = ClassifiedText::continuesSpaceFlag;
+  static constexpr std::uint16_t noticedFlag = 0x8000;
 
   void transfer(auto& archive) { archive(pageOf, pages, traits, foldingStarts, foldings); }
 };
@@ -110,7 +124,7 @@ class CharacterClasses {
 
   [[nodiscard]] ClassId classOf(char32_t c) const {
     constexpr std::size_t pageSize = CharacterClassTable<Stored>::pageSize;
-    return table_.pages[table_.pageOf[c / pageSize] * pageSize + c % pageSize];
+    return entryOf(c / pageSize, c % pageSize) & ClassifiedText::classMask;
   }
   /// The full case folding of every member of the class.
   [[nodiscard]] std::span<const Letter> folding(ClassId id) const {
@@ -129,6 +143,10 @@ class CharacterClasses {
   [[nodiscard]] ClassifiedText classify(std::string_view text) const;
 
  private:
+  /// The class and its flags.
+  [[nodiscard]] std::uint16_t entryOf(std::size_t page, std::size_t offset) const {
+    return table_.pages[table_.pageOf[page] * CharacterClassTable<Stored>::pageSize + offset];
+  }
   [[nodiscard]] bool has(ClassId id, ClassTrait trait) const {
     return (table_.traits[id] & trait) != 0;
   }

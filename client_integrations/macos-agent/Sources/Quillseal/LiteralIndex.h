@@ -101,6 +101,7 @@ class LiteralIndex {
 
  private:
   [[nodiscard]] State after(State state, Table::Symbol symbol) const {
+    if (state == table_.layout.root) return table_.rootRow[symbol];
     const bool hasColumn = symbol < Table::columns;
     if (!hasColumn || state >= table_.layout.fullCount) {
       const Table::Edges& edges = table_.states[state];

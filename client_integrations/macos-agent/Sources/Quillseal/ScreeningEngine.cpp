@@ -125,9 +125,8 @@ class ScreeningEngine::Screening {
   /// Where the search for literals stands.
   struct Place {
     LiteralIndex::State state = 0;
-    Progressed progressed{};
-    bool afterSpace = false;
-    bool afterWord = false;
+    std::uint32_t skipped = 0;         ///< code points that continue a run of white space
+    std::uint32_t continuedWords = 0;  ///< code points that continue a run of word characters
   };
 
   /// A first link that waits for the rest of its chain.
@@ -146,29 +145,37 @@ class ScreeningEngine::Screening {
   };
 
   void findLiterals(std::size_t from, std::size_t to) {
-    const LiteralIndex index = tables_.index;
-    const CharacterClasses classes = tables_.classes;
+    for (std::size_t i = from; passToHit(i, to);) {
+      now_.steps = static_cast<std::uint32_t>(i) - place_.skipped;
+      now_.runs = now_.steps - place_.continuedWords;
+      for (const std::uint16_t hit : tables_.index.values(place_.state))
+        if (isArmed(hit)) onHit(hit, i);
+    }
+  }
+
+  /// Moves `i` behind the next code point with which a literal ends; false if there is none up to
+  /// `to`.
+  bool passToHit(std::size_t& i, std::size_t to) {
+    const LiteralIndex& index = tables_.index;
     Place place = place_;
-    for (std::size_t i = from; i < to; ++i) {
-      const ClassId id = text_.classAt(i);
-      const bool isSpace = classes.isSpace(id);
-      const bool isWord = classes.isWord(id);
-      if (isSpace && place.afterSpace) {
-        regularFrom_ = i + 1;
+    std::size_t at = i;
+    bool isHit = false;
+    while (at < to && !isHit) {
+      const std::size_t position = at++;
+      if (text_.continuesSpace(position)) {
+        ++place.skipped;
+        regularFrom_ = at;
         continue;
       }
-      if (index.isSeveral(id)) regularFrom_ = i + 1;
-      place.progressed.steps += 1;
-      place.progressed.runs += isWord && place.afterWord ? 0 : 1;
-      place.afterSpace = isSpace;
-      place.afterWord = isWord;
+      place.continuedWords += text_.continuesWord(position) ? 1 : 0;
+      const ClassId id = text_.classAt(position);
+      if (index.isSeveral(id)) regularFrom_ = at;
       place.state = index.advance(place.state, id);
-      if (!index.isHit(place.state)) continue;
-      now_ = place.progressed;
-      for (const std::uint16_t hit : index.values(place.state))
-        if (isArmed(hit)) onHit(hit, i + 1);
+      isHit = index.isHit(place.state);
     }
     place_ = place;
+    i = at;
+    return isHit;
   }
 
   // Most hits cannot matter: those of a link whose predecessor has not been met or is too far
@@ -182,21 +189,24 @@ class ScreeningEngine::Screening {
   void disarm(std::size_t hit) { armed_[hit / 64] &= ~(std::uint64_t{1} << (hit % 64)); }
 
   void findLeadingClasses(std::size_t from, std::size_t to) {
-    const std::size_t words = leading_.size();
     // Two words at a time, since neither has to wait for the other.
-    for (std::size_t word = 0; word < words; word += 2) {
-      const std::uint64_t* const masks = table_.leadingMasks.data() + word;
+    for (std::size_t word = 0; word < leading_.size(); word += 2) {
+      const std::uint64_t* const masks =
+          table_.leadingMasks.data() + word * tables_.classes.count();
       const std::uint64_t* const initial = table_.leadingInitial.data() + word;
       const std::uint64_t* const final = table_.leadingFinal.data() + word;
       std::uint64_t one = leading_[word];
       std::uint64_t other = leading_[word + 1];
-      for (std::size_t i = from; i < to; ++i) {
-        const std::uint64_t* const mask = masks + text_.classAt(i) * words;
-        one = (one << 1 | initial[0]) & mask[0];
-        other = (other << 1 | initial[1]) & mask[1];
-        if (((one & final[0]) | (other & final[1])) == 0) continue;
-        tryLeading(word, one & final[0], i + 1);
-        tryLeading(word + 1, other & final[1], i + 1);
+      for (std::size_t i = from; i < to;) {
+        std::uint64_t ends = 0;
+        while (i < to && ends == 0) {
+          const std::uint64_t* const mask = masks + std::size_t{text_.classAt(i++)} * 2;
+          one = (one << 1 | initial[0]) & mask[0];
+          other = (other << 1 | initial[1]) & mask[1];
+          ends = (one & final[0]) | (other & final[1]);
+        }
+        tryLeading(word, one & final[0], i);
+        tryLeading(word + 1, other & final[1], i);
       }
       leading_[word] = one;
       leading_[word + 1] = other;

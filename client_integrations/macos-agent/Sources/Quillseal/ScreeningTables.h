@@ -91,7 +91,7 @@ struct ScreeningTable {
   // Searches without a required literal: a bit for each of their leading classes, all advanced at
   // once by a shift (Baeza-Yates and Gonnet, "A new approach to text searching", 1992).
   Array<std::uint64_t> leadingInitial;  ///< an even number of words
-  Array<std::uint64_t> leadingMasks;    ///< as many words for each class
+  Array<std::uint64_t> leadingMasks;    ///< by pair of words, two for each class
   Array<std::uint64_t> leadingFinal;
   Array<LeadingEnd> leadingEnds;  ///< by bit
   Array<LeadingEnd> maybeEmpty;   ///< those that may match without a code point

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <utility>
 
 #include <unicode/brkiter.h>
 #include <unicode/bytestream.h>
@@ -14,6 +15,7 @@
 #include <unicode/utf8.h>
 
 #include "Quillseal/IcuStatus.h"
+#include "Quillseal/Utf8.h"
 
 namespace quillseal::unicode {
 namespace {
@@ -33,48 +35,54 @@ bool isLineBreakPairAt(std::string_view text, std::size_t index) {
   return text[index] == '\r' && index + 1 < text.size() && text[index + 1] == '\n';
 }
 
-/// Inlined where whole texts are read.
-inline char32_t decodeNext(std::string_view text, std::size_t& position) {
-  UChar32 scalar = 0;
-  U8_NEXT_OR_FFFD(bytesOf(text), position, text.size(), scalar);
-  return static_cast<char32_t>(scalar);
-}
-
 UGraphemeClusterBreak breakClass(char32_t scalar) {
   return static_cast<UGraphemeClusterBreak>(
       u_getIntPropertyValue(static_cast<UChar32>(scalar), UCHAR_GRAPHEME_CLUSTER_BREAK));
 }
 
+constexpr char32_t endOfBasicPlane = 0x10000;
+
+/// Bits of the scalars below `endOfBasicPlane` that `isIndependent` names.
+constexpr auto independentOfBasicPlane = [] {
+  constexpr std::pair<char32_t, char32_t> ranges[] = {
+      {0, '\r' - 1},    {'\r' + 1, 0x2FF}, {0x370, 0x482},   {0x48A, 0x52F},   {0x2010, 0x205F},
+      {0x3000, 0x3029}, {0x3030, 0x3098},  {0x309B, 0x9FFF}, {0xAC00, 0xD7A3}, {0xFF01, 0xFF9D}};
+  std::array<std::uint64_t, endOfBasicPlane / 64> bits{};
+  for (const auto& [first, last] : ranges)
+    for (char32_t scalar = first; scalar <= last; ++scalar)
+      bits[scalar / 64] |= std::uint64_t{1} << scalar % 64;
+  return bits;
+}();
+
 /// Whether two of these, side by side, always belong to two characters. Only the great blocks
 /// count, whose members Unicode will not change: they spare long texts the look-up. (Of break class
 /// Other, Control, LF, LV or LVT; CR is left out for the sake of CR LF.)
+inline bool isIndependent(std::uint32_t block, std::uint32_t offset) {
+  return (independentOfBasicPlane[block] >> offset & 1) != 0;
+}
 inline bool isIndependent(char32_t scalar) {
-  const auto isIn = [scalar](char32_t first, char32_t last) {
-    return scalar >= first && scalar <= last;
-  };
-  if (scalar < 0x300) return scalar != '\r';
-  if (scalar < 0x3000) return isIn(0x370, 0x482) || isIn(0x48A, 0x52F) || isIn(0x2010, 0x205F);
-  if (scalar < 0xA000) return !isIn(0x302A, 0x302F) && scalar != 0x3099 && scalar != 0x309A;
+  if (scalar < endOfBasicPlane) return isIndependent(scalar / 64, scalar % 64);
   constexpr char32_t lastBeforeSkinTones = 0x1F3FA;
-  return isIn(0xAC00, 0xD7A3) || isIn(0xFF01, 0xFF9D) || isIn(0x1F300, lastBeforeSkinTones) ||
-         isIn(0x1F400, 0x1F64F);
+  return (scalar >= 0x1F300 && scalar <= lastBeforeSkinTones) ||
+         (scalar >= 0x1F400 && scalar <= 0x1F64F);
 }
 
-/// Whether one of class `after` can stand in one character with one of class `before`, where
-/// `before` is that character's first scalar. REQUIRES: not CR before LF.
-bool mayJoin(UGraphemeClusterBreak before, UGraphemeClusterBreak after) {
-  switch (after) {
+/// Whether `after` can stand in one character with `before`, where `before` is that character's
+/// first scalar. REQUIRES: not CR before LF.
+bool mayJoin(char32_t before, char32_t after) {
+  if (isIndependent(before) && isIndependent(after)) return false;
+  switch (breakClass(after)) {
     case U_GCB_OTHER:
     case U_GCB_CONTROL:
     case U_GCB_CR:
     case U_GCB_LF:
-      return before == U_GCB_PREPEND;
+      return breakClass(before) == U_GCB_PREPEND;
     case U_GCB_L:
     case U_GCB_LV:
     case U_GCB_LVT:
-      return before == U_GCB_PREPEND || before == U_GCB_L;
+      return breakClass(before) == U_GCB_PREPEND || breakClass(before) == U_GCB_L;
     case U_GCB_REGIONAL_INDICATOR:
-      return before == U_GCB_PREPEND || before == U_GCB_REGIONAL_INDICATOR;
+      return breakClass(before) == U_GCB_PREPEND || breakClass(before) == U_GCB_REGIONAL_INDICATOR;
     default:
       return true;
   }
@@ -82,32 +90,32 @@ bool mayJoin(UGraphemeClusterBreak before, UGraphemeClusterBreak after) {
 
 /// Whether there is a boundary between the two, whatever stands before them.
 bool areAlwaysApart(char32_t before, char32_t after) {
-  if (isIndependent(before) && isIndependent(after)) return true;
   if (before == '\r' && after == '\n') return false;
-  const UGraphemeClusterBreak kind = breakClass(before);
   // A joiner or a mark may carry on what began before it.
-  if (before >= 0x80 && kind != U_GCB_OTHER && kind != U_GCB_LV && kind != U_GCB_LVT) return false;
-  return !mayJoin(kind, breakClass(after));
+  const auto beginsItsCharacter = [](UGraphemeClusterBreak kind) {
+    return kind == U_GCB_OTHER || kind == U_GCB_LV || kind == U_GCB_LVT;
+  };
+  return (isIndependent(before) || before < 0x80 || beginsItsCharacter(breakClass(before))) &&
+         !mayJoin(before, after);
 }
 
 bool isPictographic(char32_t scalar) {
   return u_hasBinaryProperty(static_cast<UChar32>(scalar), UCHAR_EXTENDED_PICTOGRAPHIC) != 0;
 }
 
-/// The end of the emoji or flag at `start`, or `start` when neither begins there. REQUIRES: a
-/// character begins at `start`. The rules are GB9, GB9a and GB11 to GB13 of Unicode Standard
-/// Annex 29.
-std::size_t endOfEmoji(std::string_view text, std::size_t start) {
-  std::size_t end = start;
-  const char32_t first = nextScalar(text, end);
-  const bool isFlag = breakClass(first) == U_GCB_REGIONAL_INDICATOR;
-  if (!isFlag && !isPictographic(first)) return start;
+bool isFlagLetter(char32_t scalar) {
+  return scalar >= 0x1F1E6 && scalar <= 0x1F1FF;
+}
 
-  bool takesPartner = isFlag;  // the second half of the flag
-  bool takesJoiner = !isFlag;  // nothing but Extend since the last picture
-  bool takesPicture = false;   // and a joiner behind it
+/// The end of the emoji or flag that begins with `first`, which ends at `end`. The rules are GB9,
+/// GB9a and GB11 to GB13 of Unicode Standard Annex 29.
+std::size_t endOfEmoji(std::string_view text, char32_t first, std::size_t end) {
+  bool takesPartner = isFlagLetter(first);  // the second half of the flag
+  bool takesJoiner = !takesPartner;         // nothing but Extend since the last picture
+  bool takesPicture = false;                // and a joiner behind it
   for (std::size_t behind = end; behind < text.size(); end = behind) {
-    const char32_t scalar = nextScalar(text, behind);
+    const char32_t scalar = decodeNext(text, behind);
+    if (isIndependent(scalar) && !takesPicture) break;
     const UGraphemeClusterBreak kind = breakClass(scalar);
     const bool isPartner = takesPartner && kind == U_GCB_REGIONAL_INDICATOR;
     const bool isPicture = takesPicture && kind == U_GCB_OTHER && isPictographic(scalar);
@@ -124,11 +132,22 @@ std::size_t endOfEmoji(std::string_view text, std::size_t start) {
 std::size_t plainEnd(std::string_view text, std::size_t start) {
   if (isLineBreakPairAt(text, start)) return start + 2;
   std::size_t end = start;
-  const char32_t scalar = nextScalar(text, end);
-  if (end == text.size()) return end;
-  const char32_t next = firstScalar(text.substr(end));
-  if (isIndependent(scalar) && isIndependent(next)) return end;
-  return mayJoin(breakClass(scalar), breakClass(next)) ? endOfEmoji(text, start) : end;
+  const char32_t scalar = decodeNext(text, end);
+  std::size_t behind = end;
+  if (end == text.size() || !mayJoin(scalar, decodeNext(text, behind))) return end;
+  return isFlagLetter(scalar) || isPictographic(scalar) ? endOfEmoji(text, scalar, end) : start;
+}
+
+/// Goes on from `start` while independent scalars of three bytes follow, `most` of them at most.
+std::size_t endOfIndependentThreeBytes(std::string_view text, std::size_t start, std::size_t most) {
+  const std::size_t limit =
+      start + std::min(most, (text.size() - start) / ThreeBytes::size) * ThreeBytes::size;
+  std::size_t end = start;
+  for (; end != limit; end += ThreeBytes::size) {
+    const ThreeBytes three(text.data() + end);
+    if (!three.isSequence() || !isIndependent(three.block(), three.offset())) break;
+  }
+  return end;
 }
 
 struct CloseText {
@@ -331,12 +350,22 @@ std::size_t CharacterCursor::skipPlainCharacters(std::size_t most) {
 }
 
 std::size_t CharacterCursor::skipIndependentScalars(std::size_t most) {
+  const std::string_view text = text_;
   std::size_t count = 0;
-  for (std::size_t end = position_; count < most && end < text_.size(); ++count) {
+  std::size_t last = position_;
+  for (std::size_t end = last; count < most && end < text.size(); ++count) {
     const std::size_t start = end;
-    if (!isIndependent(decodeNext(text_, end))) break;
-    position_ = start;
+    const char32_t scalar = decodeNext(text, end);
+    if (!isIndependent(scalar)) break;
+    last = start;
+    if (scalar < ThreeBytes::first) continue;
+    const std::size_t behind = end;
+    end = endOfIndependentThreeBytes(text, end, most - count - 1);
+    if (end == behind) continue;
+    last = end - ThreeBytes::size;
+    count += (end - behind) / ThreeBytes::size;
   }
+  position_ = last;
   // Whether the last one is a character by itself depends on what follows.
   return count > 0 ? count - 1 : 0;
 }

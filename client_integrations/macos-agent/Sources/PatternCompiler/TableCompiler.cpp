@@ -118,10 +118,9 @@ class ChainTables {
       const bool isFirst = i == 0;
       if (!isFirst) added.span = plus(added.span, link.distance);
       const std::size_t hits = hits_.size();
-      addLink(link, {.distance = link.distance,
+      addLink(link, {.distance = isFirst ? chain.lead : link.distance,
                      .chain = number,
-                     .search = isFirst && added.lead == 0 ? narrowed<std::uint16_t>(search)
-                                                          : LinkHit::noSearch,
+                     .search = narrowed<std::uint16_t>(search),
                      .reach = narrowed<std::uint16_t>(linkCount_++),
                      .properties = static_cast<std::uint8_t>(
                          (isFirst ? LinkHit::first : 0) |

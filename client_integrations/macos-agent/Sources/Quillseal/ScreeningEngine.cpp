@@ -227,11 +227,18 @@ class ScreeningEngine::Screening {
     return now_.steps - since.steps <= distance.steps && now_.runs - since.runs <= distance.runs;
   }
 
+  /// Whether all starts that this hit of a first link could lead to lie behind a known match.
+  [[nodiscard]] bool isBehindMatch(const LinkHit& hit) const {
+    // There are at least as many code points before the match as there are steps.
+    return now_.steps >
+           std::uint64_t{outcomes_[hit.search].start} + hit.distance.steps + hit.length;
+  }
+
   void onHit(std::size_t number, std::size_t end) {
     ++steps_;
     const LinkHit& hit = table_.hits[number];
     const bool isFirst = hit.has(LinkHit::first);
-    if (!isFirst && !isWithin(hit.distance, reached_[hit.reach - 1])) {
+    if (isFirst ? isBehindMatch(hit) : !isWithin(hit.distance, reached_[hit.reach - 1])) {
       disarm(number);
       return;
     }
@@ -240,10 +247,6 @@ class ScreeningEngine::Screening {
     if (isFirst || hit.has(LinkHit::boundaryBefore)) {
       start = startOf(hit.length, end);
       if (hit.has(LinkHit::boundaryBefore) && !text_.isWordBoundary(start)) return;
-      if (hit.search != LinkHit::noSearch && start > outcomes_[hit.search].start) {
-        disarm(number);
-        return;
-      }
     }
     reached_[hit.reach] = now_;
     for (std::size_t next = hit.nextHit; next < hit.nextHit + hit.nextCount; ++next)
@@ -327,20 +330,18 @@ class ScreeningEngine::Screening {
     const auto isLead = [&](std::uint32_t at) {
       return tables_.sets.contains(chain.leadClasses, text_.classAt(at));
     };
-    const auto isSpace = [&](std::uint32_t at) {
-      return tables_.classes.isSpace(text_.classAt(at));
-    };
     std::uint32_t low = literalStart;
     bool metEarlierWalk = false;
     for (std::uint32_t walked = 0; low > 0 && isLead(low - 1) && !metEarlierWalk; ++steps_) {
-      const bool continuesRun = low < literalStart && isSpace(low) && isSpace(low - 1);
+      const bool continuesRun = low < literalStart && text_.continuesSpace(low);
       if (!continuesRun && walked++ == chain.lead) break;
       --low;
       metEarlierWalk = mayStop && low >= progress.triedLow && low <= progress.triedHigh;
     }
+    const ProgramEntry& entry = tables_.programs[chain.search].alternative(chain.alternative);
     const Outcome& outcome = outcomes_[chain.search];
     for (std::uint32_t at = low; at <= literalStart && at <= outcome.start; ++at)
-      tryAlternative(chain.search, chain.alternative, at);
+      tryAt(chain.search, chain.alternative, entry, at);
     progress.triedLow = metEarlierWalk ? progress.triedLow : low;
     progress.triedHigh = literalStart;
   }
@@ -352,11 +353,17 @@ class ScreeningEngine::Screening {
   // The first match is the leftmost, and of those at one start that of the first alternative.
   void tryAt(std::uint32_t search, std::uint32_t alternative, const ProgramEntry& entry,
              std::uint32_t start) {
-    Outcome& outcome = outcomes_[search];
     ++steps_;
-    if (start > outcome.start || (start == outcome.start && alternative >= outcome.alternative))
-      return;
-    if (!entry.beginning.allows(text_, start, tables_.sets)) return;
+    const Outcome& outcome = outcomes_[search];
+    const bool isBetter =
+        start < outcome.start || (start == outcome.start && alternative < outcome.alternative);
+    if (isBetter && entry.beginning.allows(text_, start, tables_.sets))
+      match(search, alternative, entry, start);
+  }
+
+  void match(std::uint32_t search, std::uint32_t alternative, const ProgramEntry& entry,
+             std::uint32_t start) {
+    Outcome& outcome = outcomes_[search];
     try {
       const auto end = matcherOf(search).matchAt(entry, start, stack_);
       if (!end) return;

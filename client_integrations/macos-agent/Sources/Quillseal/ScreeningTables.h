@@ -24,16 +24,15 @@ struct Distance {
 
 /// One link of one chain of literals, as the literal index reports it.
 struct LinkHit {
-  Distance distance{};  ///< from the end of the link before
+  Distance distance{};  ///< from the end of the link before, or from the start of the match
   std::uint16_t chain = 0;
-  std::uint16_t search = noSearch;  ///< of a first link that stands at the start
-  std::uint16_t reach = 0;          ///< its place among the links of all chains
-  std::uint16_t nextHit = 0;        ///< the first of the hits of the next link
-  std::uint16_t nextCount = 0;      ///< how many there are: none for the last link
-  std::uint8_t length = 0;          ///< letters of the literal
+  std::uint16_t search = 0;
+  std::uint16_t reach = 0;      ///< its place among the links of all chains
+  std::uint16_t nextHit = 0;    ///< the first of the hits of the next link
+  std::uint16_t nextCount = 0;  ///< how many there are: none for the last link
+  std::uint8_t length = 0;      ///< letters of the literal
   std::uint8_t properties = 0;
 
-  static constexpr std::uint16_t noSearch = 0xFFFF;
   /// Bits of `properties`.
   static constexpr std::uint8_t first = 1;
   static constexpr std::uint8_t boundaryBefore = 2;

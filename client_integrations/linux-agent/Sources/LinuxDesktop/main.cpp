@@ -91,12 +91,10 @@ bool isOnX() {
   return QApplication::platformName() == QLatin1String("xcb");
 }
 
-bool xServerAnswers() {
-  xcb_connection_t* const connection = xcb_connect(nullptr, nullptr);
-  const bool answers = xcb_connection_has_error(connection) == 0;
-  xcb_disconnect(connection);
-  return answers;
-}
+struct Disconnect {
+  void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
+};
+using XConnection = std::unique_ptr<xcb_connection_t, Disconnect>;
 
 bool hasWaylandPlugin() {
   const QDir plugins(QLibraryInfo::path(QLibraryInfo::PluginsPath) + QLatin1String("/platforms"));
@@ -264,9 +262,11 @@ int runAgent(const CommandLine& commandLine, quillseal::SingleInstance& instance
 }
 
 int run(int argc, char** argv, const CommandLine& commandLine) {
-  // Qt ends the program where it finds no display.
+  // Qt ends the program where it finds no display. This connection stays until Qt has its own: an X
+  // server without another client may start anew, and refuse Qt, when its last one leaves.
+  XConnection xServer(xcb_connect(nullptr, nullptr));
   const quillseal::PlatformChoice choice =
-      quillseal::platformFor({.hasXServer = xServerAnswers(),
+      quillseal::platformFor({.hasXServer = xcb_connection_has_error(xServer.get()) == 0,
                               .hasWayland = !environment("WAYLAND_DISPLAY").empty(),
                               .hasWaylandPlugin = hasWaylandPlugin(),
                               .wantedPlatform = environment("QT_QPA_PLATFORM")});
@@ -279,6 +279,7 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
   qputenv("TSS2_LOG", "all+none");
 
   QApplication application(argc, argv);
+  xServer.reset();
   QApplication::setApplicationName(QStringLiteral("quillseal"));
   QApplication::setDesktopFileName(QStringLiteral("quillseal"));
   QApplication::setWindowIcon(productIcon());

@@ -103,55 +103,81 @@ Task<> SigningCoordinator::performSigningWorkflow() {
 }
 
 Task<> SigningCoordinator::signSelectedText() {
+  const std::optional<SigningMode> mode = co_await modeReadyToSign();
+  if (!mode) co_return;
+  const std::optional<CapturedContent> content = co_await captureSelection();
+  if (!content) co_return;
+  const Statement statement = statementOf(*content);
+  const bool maySign = co_await passesRefusals(statement.text);
+  if (!maySign) co_return;
+  if (*mode == SigningMode::handoff)
+    co_await signInBrowser(statement, *content);
+  else
+    co_await signHere(*mode, statement, *content);
+}
+
+/// Nothing when this machine cannot sign; the user has then been told.
+Task<std::optional<SigningMode>> SigningCoordinator::modeReadyToSign() {
   if (!desktop_.keys.isTrusted()) {
     desktop_.keys.askForTrust();
-    co_return;
+    co_return std::nullopt;
   }
   const bool canHoldKey = co_await SecureEnclaveManager::isAvailable(keyServices());
   if (!canHoldKey) {
     co_await showAlert("Secure Enclave Required",
                        SecureEnclaveError(SecureEnclaveError::Case::unsupported).what());
-    co_return;
+    co_return std::nullopt;
   }
   const SigningMode mode = co_await resolveSigningMode();
   if (mode == SigningMode::enclave) {
     const bool isEnrolled = co_await ensureEnrolled();
-    if (!isEnrolled) co_return;
+    if (!isEnrolled) co_return std::nullopt;
   }
+  co_return mode;
+}
 
-  const AccessibilityManager::Services captureServices{.applications = desktop_.applications,
-                                                       .keys = desktop_.keys,
-                                                       .log = desktop_.log,
-                                                       .loop = desktop_.loop,
-                                                       .pasteboard = desktop_.pasteboard};
-  Turn captureTurn = co_await turnFor(isUsingClipboard_);
-  const std::optional<CapturedContent> content =
-      co_await AccessibilityManager::captureSelectedContent(captureServices);
-  captureTurn.reset();
+Task<std::optional<CapturedContent>> SigningCoordinator::captureSelection() {
+  const AccessibilityManager::Services services{.applications = desktop_.applications,
+                                                .keys = desktop_.keys,
+                                                .log = desktop_.log,
+                                                .loop = desktop_.loop,
+                                                .pasteboard = desktop_.pasteboard};
+  Turn turn = co_await turnFor(isUsingClipboard_);
+  std::optional<CapturedContent> content =
+      co_await AccessibilityManager::captureSelectedContent(services);
+  turn.reset();
   if (!content) {
     co_await showAlert("No Text Found",
                        "Please type or highlight some text in Outlook (or any app) before pressing "
                        "⌘⌥⌃H.");
-    co_return;
   }
-  const std::string issued = desktop_.wallClock.today();
-  const std::string text{unicode::trimmed(content->plainText)};
-  const std::string normalized = CryptoManager::normalizeText(text);
-  const std::string textDigest = CryptoManager::sha256Hex(normalized);
-  const std::vector<std::string> imageURLs = CryptoManager::imageURLs(content->htmlContent);
-  const std::string imageDigest = CryptoManager::imageManifestDigest(imageURLs);
-  const std::int64_t wordCount = CryptoManager::countWords(text);
-  desktop_.log.write("[sign] " + std::to_string(imageURLs.size()) +
-                     " image reference(s), manifest " + imageDigest);
-  desktop_.log.write("[sign] " + std::to_string(wordCount) + " words / " +
-                     std::to_string(unicode::characterCount(normalized)) +
-                     " normalized characters / digest " + textDigest);
-  if (desktop_.defaults.boolean(setting::debugCapture)) writeDebugCapture(text);
+  co_return content;
+}
 
+SigningCoordinator::Statement SigningCoordinator::statementOf(const CapturedContent& content) {
+  Statement statement;
+  statement.issued = desktop_.wallClock.today();
+  statement.text = unicode::trimmed(content.plainText);
+  const std::string normalized = CryptoManager::normalizeText(statement.text);
+  statement.textDigest = CryptoManager::sha256Hex(normalized);
+  const std::vector<std::string> imageURLs = CryptoManager::imageURLs(content.htmlContent);
+  statement.imageDigest = CryptoManager::imageManifestDigest(imageURLs);
+  statement.wordCount = CryptoManager::countWords(statement.text);
+  desktop_.log.write("[sign] " + std::to_string(imageURLs.size()) +
+                     " image reference(s), manifest " + statement.imageDigest);
+  desktop_.log.write("[sign] " + std::to_string(statement.wordCount) + " words / " +
+                     std::to_string(unicode::characterCount(normalized)) +
+                     " normalized characters / digest " + statement.textDigest);
+  if (desktop_.defaults.boolean(setting::debugCapture)) writeDebugCapture(statement.text);
+  return statement;
+}
+
+/// Whether the text may be signed, by the rules and by the user where the rules leave it to them.
+Task<bool> SigningCoordinator::passesRefusals(const std::string& text) {
   const std::string refusal = CryptoManager::signingRefusal(text);
   if (!refusal.empty()) {
     co_await showAlert("Not signed — too short", refusal);
-    co_return;
+    co_return false;
   }
   // Screening a very long text takes a while, and the event loop must go on meanwhile.
   auto screen = [text] { return ContentRisk::screen(text); };
@@ -170,77 +196,85 @@ Task<> SigningCoordinator::signSelectedText() {
   }
   if (assessment.isBlocked) {
     co_await showAlert(ContentRisk::refusalTitle(assessment), ContentRisk::explanation(assessment));
-    co_return;
+    co_return false;
   }
-  if (assessment.shouldWarn) {
-    const bool signAnyway = co_await asksToSignAnyway(ContentRisk::warning(assessment));
-    if (!signAnyway) co_return;
-  }
+  if (!assessment.shouldWarn) co_return true;
+  const bool signAnyway = co_await asksToSignAnyway(ContentRisk::warning(assessment));
+  co_return signAnyway;
+}
 
-  const std::string expires =
-      CryptoManager::expiryDateFor({.issued = issued, .wordCount = wordCount});
+Task<> SigningCoordinator::signInBrowser(const Statement& statement,
+                                         const CapturedContent& content) {
+  // Filled member by member: with HTML in it, GCC 12 destroys what designated initialisers make
+  // here twice.
+  HandoffContent page;
+  page.text = statement.text;
+  page.html = content.htmlContent;
+  page.textDigest = statement.textDigest;
+  page.issued = statement.issued;
+  page.scope = content.scope;
+  page.imageDigest = statement.imageDigest;
+  if (content.sourceApplication) page.sourceBundleID = content.sourceApplication->bundleIdentifier;
+  std::optional<HandoffResult> handoff = co_await signViaBrowser(std::move(page));
+  if (!handoff) co_return;
+  Delivery delivery{
+      .signatureId = handoff->signatureId, .issued = statement.issued, .scope = content.scope};
+  co_await deliverFromBrowser(std::move(delivery), *std::move(handoff), content);
+}
+
+/// With the device key, or as a demonstration.
+Task<> SigningCoordinator::signHere(SigningMode mode, const Statement& statement,
+                                    const CapturedContent& content) {
   const std::string nonce = CryptoManager::randomHex(nonceBytes);
-  if (nonce.empty() && mode != SigningMode::handoff) {
+  if (nonce.empty()) {
     throw quillsealError(
         "The system’s random source failed, so nothing was signed. Restart the computer and try "
         "again.");
   }
-
-  Delivery delivery{.signatureId = {}, .issued = issued, .scope = content->scope};
-  if (mode == SigningMode::handoff) {
-    // Filled member by member: with HTML in it, GCC 12 destroys what designated initialisers make
-    // here twice.
-    HandoffContent page;
-    page.text = text;
-    page.html = content->htmlContent;
-    page.textDigest = textDigest;
-    page.issued = issued;
-    page.scope = content->scope;
-    page.imageDigest = imageDigest;
-    if (content->sourceApplication)
-      page.sourceBundleID = content->sourceApplication->bundleIdentifier;
-    std::optional<HandoffResult> handoff = co_await signViaBrowser(std::move(page));
-    if (!handoff) co_return;
-    delivery.signatureId = handoff->signatureId;
-    co_await deliverFromBrowser(std::move(delivery), *std::move(handoff), *content);
-    co_return;
-  }
-
-  Confirmable confirmable{.text = text, .scope = content->scope, .issued = issued};
+  Confirmable confirmable{
+      .text = statement.text, .scope = content.scope, .issued = statement.issued};
   const std::optional<std::string> scope = co_await scopeForSigning(std::move(confirmable));
   if (!scope) co_return;
-  delivery.scope = *scope;
+  Signable signable{.textDigest = statement.textDigest,
+                    .issued = statement.issued,
+                    .scope = *scope,
+                    .imageDigest = statement.imageDigest,
+                    .subject = promptSubject(statement.text),
+                    .expires = CryptoManager::expiryDateFor(
+                        {.issued = statement.issued, .wordCount = statement.wordCount}),
+                    .commitment = commitment,
+                    .nonce = nonce};
+  Delivery delivery{.signatureId = {}, .issued = statement.issued, .scope = *scope};
   if (mode == SigningMode::enclave) {
-    Signable signable{.textDigest = textDigest,
-                      .issued = issued,
-                      .scope = *scope,
-                      .imageDigest = imageDigest,
-                      .subject = promptSubject(text),
-                      .expires = expires,
-                      .commitment = commitment,
-                      .nonce = nonce};
     delivery.signatureId = co_await signWithRecovery(std::move(signable));
   } else {
-    const AuthManager::Services presence{.loop = desktop_.loop, .presence = desktop_.presence};
-    desktop::Prompt prompt{.reason = "Sign " + promptSubject(text), .medium = *scope};
-    const bool isPresent = co_await AuthManager::authenticate(presence, std::move(prompt));
-    if (!isPresent) co_return;
-    std::string method = co_await AuthManager::biometryMethod(presence);
-    ServerClient::DemoContent record{.textDigest = textDigest,
-                                     .issued = issued,
-                                     .scope = *scope,
-                                     .imageDigest = imageDigest,
-                                     .method = std::move(method),
-                                     .expires = expires,
-                                     .commitment = commitment,
-                                     .nonce = nonce};
-    delivery.signatureId = co_await serverClient_.signDemo(std::move(record));
-    requireSafe(delivery.signatureId);
-    desktop_.log.write("[demo] simulated signature " + delivery.signatureId +
-                       " — not evidence of anything");
+    std::optional<std::string> signatureId = co_await demonstrate(std::move(signable));
+    if (!signatureId) co_return;
+    delivery.signatureId = *std::move(signatureId);
   }
   requireSafe(delivery.signatureId);
-  co_await deliver(std::move(delivery), *content);
+  co_await deliver(std::move(delivery), content);
+}
+
+/// A record without a real signature. Nothing when nobody proved to be present.
+Task<std::optional<std::string>> SigningCoordinator::demonstrate(Signable signable) {
+  const AuthManager::Services presence{.loop = desktop_.loop, .presence = desktop_.presence};
+  desktop::Prompt prompt{.reason = "Sign " + signable.subject, .medium = signable.scope};
+  const bool isPresent = co_await AuthManager::authenticate(presence, std::move(prompt));
+  if (!isPresent) co_return std::nullopt;
+  std::string method = co_await AuthManager::biometryMethod(presence);
+  ServerClient::DemoContent record{.textDigest = std::move(signable.textDigest),
+                                   .issued = std::move(signable.issued),
+                                   .scope = std::move(signable.scope),
+                                   .imageDigest = std::move(signable.imageDigest),
+                                   .method = std::move(method),
+                                   .expires = std::move(signable.expires),
+                                   .commitment = std::move(signable.commitment),
+                                   .nonce = std::move(signable.nonce)};
+  std::string signatureId = co_await serverClient_.signDemo(std::move(record));
+  requireSafe(signatureId);
+  desktop_.log.write("[demo] simulated signature " + signatureId + " — not evidence of anything");
+  co_return signatureId;
 }
 
 Task<> SigningCoordinator::deliver(Delivery delivery, const CapturedContent& content) {

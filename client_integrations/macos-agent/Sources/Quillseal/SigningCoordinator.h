@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -129,7 +130,23 @@ class SigningCoordinator {
     std::string scope;
   };
 
+  /// What is to be signed, as it was captured.
+  struct Statement {
+    std::string text;  ///< without white space at its ends
+    std::string issued;
+    std::string textDigest;
+    std::string imageDigest;
+    std::int64_t wordCount = 0;
+  };
+
   Task<> signSelectedText();
+  [[nodiscard]] Task<std::optional<SigningMode>> modeReadyToSign();
+  [[nodiscard]] Task<std::optional<CapturedContent>> captureSelection();
+  [[nodiscard]] Statement statementOf(const CapturedContent& content);
+  [[nodiscard]] Task<bool> passesRefusals(const std::string& text);
+  Task<> signInBrowser(const Statement& statement, const CapturedContent& content);
+  Task<> signHere(SigningMode mode, const Statement& statement, const CapturedContent& content);
+  [[nodiscard]] Task<std::optional<std::string>> demonstrate(Signable signable);
   Task<> deliver(Delivery delivery, const CapturedContent& content);
   Task<> deliverFromBrowser(Delivery delivery, HandoffResult handoff,
                             const CapturedContent& content);

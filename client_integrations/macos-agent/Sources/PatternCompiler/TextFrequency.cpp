@@ -6,7 +6,8 @@
 namespace quillseal::screening {
 namespace {
 
-// Words that are far more common than their letters.
+// Words that are far more common than their letters: rounded estimates, places of the word for each
+// place of the text.
 constexpr std::pair<std::u32string_view, double> commonWords[] = {
     {U"the", .012},  {U"and", .006},  {U"you", .005},    {U"to", .007},    {U"of", .006},
     {U"in", .005},   {U"is", .003},   {U"for", .003},    {U"it", .003},    {U"that", .003},
@@ -20,6 +21,8 @@ constexpr std::pair<std::u32string_view, double> commonWords[] = {
 }  // namespace
 
 double expectedFrequency(char32_t c) {
+  // Four fifths of the relative frequencies of English letters (R. E. Lewand, Cryptological
+  // Mathematics, 2000); the rest of a text is no letters.
   constexpr double letters[] = {.065, .012, .022, .032, .100, .018, .016, .049, .056,
                                 .001, .006, .033, .020, .057, .060, .015, .001, .050,
                                 .051, .073, .023, .008, .019, .001, .016, .001};

@@ -327,6 +327,10 @@ class ScreeningEngine::Screening {
     // steps; then this one goes all the way.
     const bool mayStop = progress.triedLow != none &&
                          (literalStart >= progress.triedHigh || chain.lead == unbounded);
+    const Outcome& outcome = outcomes_[chain.search];
+    // Down to the earlier walk, all starts lie behind the match that is known.
+    if (mayStop && literalStart >= progress.triedHigh && outcome.start <= progress.triedHigh)
+      return;
     const auto isLead = [&](std::uint32_t at) {
       return tables_.sets.contains(chain.leadClasses, text_.classAt(at));
     };
@@ -339,7 +343,6 @@ class ScreeningEngine::Screening {
       metEarlierWalk = mayStop && low >= progress.triedLow && low <= progress.triedHigh;
     }
     const ProgramEntry& entry = tables_.programs[chain.search].alternative(chain.alternative);
-    const Outcome& outcome = outcomes_[chain.search];
     for (std::uint32_t at = low; at <= literalStart && at <= outcome.start; ++at)
       tryAt(chain.search, chain.alternative, entry, at);
     progress.triedLow = metEarlierWalk ? progress.triedLow : low;

@@ -21,6 +21,7 @@ namespace quillseal::unicode {
 namespace {
 
 constexpr char32_t replacementCharacter = 0xFFFD;
+constexpr char32_t zeroWidthJoiner = 0x200D;
 constexpr std::string_view replacementBytes = "\xEF\xBF\xBD";
 
 const std::uint8_t* bytesOf(std::string_view text) {
@@ -35,7 +36,26 @@ bool isLineBreakPairAt(std::string_view text, std::size_t index) {
   return text[index] == '\r' && index + 1 < text.size() && text[index + 1] == '\n';
 }
 
+bool isFlagLetter(char32_t scalar) {
+  return scalar >= 0x1F1E6 && scalar <= 0x1F1FF;
+}
+
+/// Whether it is one of the pictures that most emoji are made of.
+bool isCommonPicture(char32_t scalar) {
+  return (scalar >= 0x1F300 && scalar <= 0x1F3FA) || (scalar >= 0x1F400 && scalar <= 0x1F53D) ||
+         (scalar >= 0x1F546 && scalar <= 0x1F64F);
+}
+
 UGraphemeClusterBreak breakClass(char32_t scalar) {
+  // The parts of emoji, without the look-up.
+  constexpr char32_t emojiStyle = 0xFE0F;
+  constexpr char32_t firstSkinTone = 0x1F3FB;
+  constexpr char32_t lastSkinTone = 0x1F3FF;
+  if (isCommonPicture(scalar)) return U_GCB_OTHER;
+  if (scalar == zeroWidthJoiner) return U_GCB_ZWJ;
+  if (isFlagLetter(scalar)) return U_GCB_REGIONAL_INDICATOR;
+  if (scalar == emojiStyle || (scalar >= firstSkinTone && scalar <= lastSkinTone))
+    return U_GCB_EXTEND;
   return static_cast<UGraphemeClusterBreak>(
       u_getIntPropertyValue(static_cast<UChar32>(scalar), UCHAR_GRAPHEME_CLUSTER_BREAK));
 }
@@ -100,11 +120,8 @@ bool areAlwaysApart(char32_t before, char32_t after) {
 }
 
 bool isPictographic(char32_t scalar) {
-  return u_hasBinaryProperty(static_cast<UChar32>(scalar), UCHAR_EXTENDED_PICTOGRAPHIC) != 0;
-}
-
-bool isFlagLetter(char32_t scalar) {
-  return scalar >= 0x1F1E6 && scalar <= 0x1F1FF;
+  return isCommonPicture(scalar) ||
+         u_hasBinaryProperty(static_cast<UChar32>(scalar), UCHAR_EXTENDED_PICTOGRAPHIC) != 0;
 }
 
 /// The end of the emoji or flag that begins with `first`, which ends at `end`. The rules are GB9,

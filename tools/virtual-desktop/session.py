@@ -196,16 +196,21 @@ class Session:
             return match
         return wait_for(what, found)
 
-    def _start_desktop(self):
-        display_file = self.folder / "display"
+    def start_x_server(self, *options):
+        """From now on programs are started on its display."""
+        display_file = self.folder / f"display-{len(self.processes)}"
         with open(display_file, "w") as number:
-            # The server would start over, and lose whoever connects just then, each time its last
-            # client goes; while the desktop starts, that is often.
-            self.x_server = self.start(
+            server = self.start(
                 "Xvfb", "-displayfd", number.fileno(), "-screen", "0", f"{self.size}x24",
-                "-nolisten", "tcp", "-noreset", *self.x_options, pass_fds=[number.fileno()])
+                "-nolisten", "tcp", *options, pass_fds=[number.fileno()])
         number = wait_for("the X server starts", lambda: display_file.read_text().strip())
         self.env["DISPLAY"] = f":{number}"
+        return server
+
+    def _start_desktop(self):
+        # The server would start over, and lose whoever connects just then, each time its last
+        # client goes; while the desktop starts, that is often.
+        self.x_server = self.start_x_server("-noreset", *self.x_options)
         self.bus = self.start("dbus-daemon", "--session", "--nofork", "--print-address=1")
         address = self.wait_for_output(self.bus, r"unix:\S+", "the session bus starts")
         self.env["DBUS_SESSION_BUS_ADDRESS"] = address[0]

@@ -133,6 +133,14 @@ class Faults(Story):
         self.assert_ended(code=1)
         self.assertEqual(self.key_file.read_bytes(), key)
 
+    def test_it_is_the_only_client_of_its_x_server(self):
+        """Which starts over when its last client leaves it, as X servers do unless told otherwise."""
+        for _ in range(8):
+            server = self.desktop.start_x_server()
+            self.desktop.start_agent()
+            self.terminate()
+            self.desktop.end(server)
+
     def test_the_session_bus_dies(self):
         self.start()
         self.desktop.press_in_editor()

@@ -9,6 +9,7 @@
 
 #include "Desktop/Error.h"
 #include "LinuxDesktop/QtText.h"
+#include "LinuxDesktop/X11SelectionOwner.h"
 
 namespace quillseal {
 namespace {
@@ -20,9 +21,8 @@ constexpr std::array rtfFormats = {"text/rtf", "application/rtf", "text/richtext
 constexpr auto passwordHint = "x-kde-passwordManagerHint";
 constexpr auto concealed = "org.nspasteboard.ConcealedType";
 
-const QMimeData* offered() {
-  return QGuiApplication::clipboard()->mimeData();
-}
+// Longer than any program takes that is merely busy.
+constexpr std::chrono::seconds patience{2};
 
 std::optional<std::string> present(std::string text) {
   if (text.empty()) return std::nullopt;
@@ -34,6 +34,14 @@ std::optional<std::string> present(std::string text) {
 QtPasteboard::QtPasteboard() {
   QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &receiver_,
                    [this] { ++changeCount_; });
+}
+
+const QMimeData* QtPasteboard::offered() const {
+  const QClipboard* const clipboard = QGuiApplication::clipboard();
+  if (clipboard->ownsClipboard()) return clipboard->mimeData();
+  if (std::exchange(askedAt_, changeCount_) != changeCount_)
+    hasAnswered_ = ownerAnswers(X11Selection::clipboard, patience);
+  return hasAnswered_ ? clipboard->mimeData() : nullptr;
 }
 
 desktop::Ticket QtPasteboard::onNextChange(std::function<void()> changed) {
@@ -87,6 +95,7 @@ void QtPasteboard::write(const desktop::PasteboardContent& content) {
 
 void QtPasteboard::copyPrimarySelection() {
   QClipboard* const clipboard = QGuiApplication::clipboard();
+  if (!clipboard->ownsSelection() && !ownerAnswers(X11Selection::primary, patience)) return;
   const QString selected = clipboard->text(QClipboard::Selection);
   if (!selected.isEmpty()) clipboard->setText(selected);
 }

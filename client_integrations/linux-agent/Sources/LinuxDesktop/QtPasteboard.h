@@ -6,9 +6,12 @@
 
 #include "Desktop/Pasteboard.h"
 
+class QMimeData;
+
 namespace quillseal {
 
 /// The clipboard through QClipboard, whose change signal covers every program of the X session.
+/// What a program offers that does not answer counts as nothing.
 class QtPasteboard : public desktop::Pasteboard {
  public:
   QtPasteboard();
@@ -32,8 +35,12 @@ class QtPasteboard : public desktop::Pasteboard {
   [[nodiscard]] std::chrono::steady_clock::time_point lastWrite() const { return lastWrite_; }
 
  private:
+  [[nodiscard]] const QMimeData* offered() const;
+
   QObject receiver_;
   std::int64_t changeCount_ = 0;
+  mutable std::int64_t askedAt_ = -1;  // the change after which the owner was last asked
+  mutable bool hasAnswered_ = true;
   std::chrono::steady_clock::time_point lastWrite_;
 };
 

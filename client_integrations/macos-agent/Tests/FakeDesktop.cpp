@@ -85,7 +85,7 @@ std::vector<std::string> FakeDesktop::userTrace() const {
 
 std::vector<std::string> FakeDesktop::sentTo(std::string_view path) const {
   std::vector<std::string> bodies;
-  for (const desktop::HttpPost& post : sent_)
+  for (const desktop::HttpPost& post : sent)
     if (pathOf(post.url) == path) bodies.push_back(post.body);
   return bodies;
 }
@@ -93,7 +93,7 @@ std::vector<std::string> FakeDesktop::sentTo(std::string_view path) const {
 void FakeDesktop::forget() {
   trace.clear();
   pastedInto.clear();
-  sent_.clear();
+  sent.clear();
 }
 
 void FakeDesktop::mayFail(std::string_view call) {
@@ -231,10 +231,6 @@ void FakeDesktop::setItemTitle(std::size_t index, const std::string& title) {
   menu.items.at(index).title = title;
 }
 
-desktop::TimeZone FakeDesktop::timeZone() const {
-  return {.identifier = "Europe/Berlin", .secondsFromGmt = 3600};
-}
-
 std::unique_ptr<desktop::Window> FakeDesktop::make(const desktop::WindowDescription& description) {
   trace.push_back("window " + description.title);
   return std::make_unique<FakeWindow>(*this);
@@ -245,7 +241,8 @@ desktop::Ticket FakeDesktop::send(const desktop::HttpPost& post,
   mayFail("send");
   const std::string path = pathOf(post.url);
   trace.push_back("POST " + path);
-  sent_.push_back(post);
+  sent.push_back(post);
+  if (sendFailure) return finish([this, done = std::move(done)] { done(*sendFailure); });
   std::deque<Answer>& queue = answers.at(path);
   const Answer response = queue.front();
   if (queue.size() > 1) queue.pop_front();

@@ -50,6 +50,8 @@ class FakeDesktop final : public desktop::Alerts,
   [[nodiscard]] std::vector<std::string> userTrace() const;
   [[nodiscard]] std::vector<std::string> sentTo(std::string_view path) const;
 
+  std::vector<desktop::HttpPost> sent;
+
   /// Empties the trace and the lists of what was sent and pasted.
   void forget();
 
@@ -89,6 +91,8 @@ class FakeDesktop final : public desktop::Alerts,
   std::map<std::string, std::string, std::less<>> strings;
   std::set<std::string, std::less<>> flags;
   std::string date = "2026-03-01";
+  desktop::TimeZone zone{.identifier = "Europe/Berlin", .secondsFromGmt = 3600};
+  std::optional<std::string> machineUuid = "MACHINE-1";
   bool canHoldKey = true, hasKey = true, exportsKey = true;
   std::optional<Error> createFailure;
   bool cancelsCreation = false;
@@ -102,6 +106,7 @@ class FakeDesktop final : public desktop::Alerts,
     std::string body;
   };
   std::map<std::string, std::deque<Answer>, std::less<>> answers;
+  std::optional<Error> sendFailure;  ///< in place of every answer
 
   /// The fallible call with this number fails, counting from 1; none for 0.
   int failingCall = 0;
@@ -147,7 +152,7 @@ class FakeDesktop final : public desktop::Alerts,
   bool replace(const std::string& path, std::string_view contents) override;
   void registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) override;
   void write(std::string_view line) override { trace.push_back("log: " + std::string(line)); }
-  std::optional<std::string> platformUuid() const override { return "MACHINE-1"; }
+  std::optional<std::string> platformUuid() const override { return machineUuid; }
   void becomeAccessory() override { trace.emplace_back("become accessory"); }
   void activate() override { trace.emplace_back("activate Quillseal"); }
   void showAbout() override { trace.emplace_back("about"); }
@@ -155,7 +160,7 @@ class FakeDesktop final : public desktop::Alerts,
   void show(const desktop::StatusMenu& shown) override;
   void setItemTitle(std::size_t index, const std::string& title) override;
   std::string today() const override { return date; }
-  desktop::TimeZone timeZone() const override;
+  desktop::TimeZone timeZone() const override { return zone; }
   std::unique_ptr<desktop::Window> make(const desktop::WindowDescription& description) override;
 
   // HttpTransport
@@ -200,7 +205,6 @@ class FakeDesktop final : public desktop::Alerts,
   desktop::Ticket finish(std::function<void()> completion);
 
   BrowserTabReturn::ScriptedBrowserTabs tabs_{*this, *this};
-  std::vector<desktop::HttpPost> sent_;
   std::map<int, std::function<void()>> observers_;
   int observerCount_ = 0;
   std::int64_t changeCount_ = 0;

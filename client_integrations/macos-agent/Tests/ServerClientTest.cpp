@@ -3,89 +3,46 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <variant>
 #include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "Quillseal/Async.h"
+#include "FakeDesktop.h"
 #include "Quillseal/BuiltInServer.h"
 #include "Quillseal/ServerClient.h"
+#include "TaskResult.h"
 
 namespace quillseal {
 namespace {
 
-using desktop::HttpPost;
-using desktop::HttpResponse;
+using testing::FakeDesktop;
 using ::testing::HasSubstr;
 using ::testing::MatchesRegex;
-
-class FakeDefaults final : public desktop::Defaults {
- public:
-  std::map<std::string, std::string, std::less<>> values;
-
-  std::optional<std::string> string(std::string_view key) const override {
-    const auto found = values.find(key);
-    return found == values.end() ? std::nullopt : std::optional(found->second);
-  }
-  bool boolean(std::string_view) const override { return false; }
-  void setString(std::string_view, std::string_view) override {}
-  desktop::Ticket observe(std::function<void()>) override { return {}; }
-};
-
-/// Answers every request with `outcome` and keeps what was sent.
-class FakeTransport final : public desktop::HttpTransport {
- public:
-  std::vector<HttpPost> sent;
-  std::optional<Outcome<HttpResponse>> outcome;  ///< nothing: never answers
-  int withdrawn = 0;
-
-  desktop::Ticket send(const HttpPost& post,
-                       std::function<void(Outcome<HttpResponse>)> done) override {
-    sent.push_back(post);
-    if (outcome) done(*outcome);
-    return desktop::Ticket([this] { ++withdrawn; });
-  }
-  Error error(desktop::transport::ErrorCode code) const override {
-    return Error(
-        {.domain = desktop::transport::errorDomain, .code = code, .description = "platform words"});
-  }
-};
-
-class FakeMachine final : public desktop::MachineIdentity {
- public:
-  std::optional<std::string> uuid = "0F4B3A52-7C1D-4E8A-9B60-5D2E1C7F8A90";
-  std::optional<std::string> platformUuid() const override { return uuid; }
-};
-
-class FakeWallClock final : public desktop::WallClock {
- public:
-  desktop::TimeZone zone{.identifier = "Asia/Kolkata", .secondsFromGmt = 19800};
-  std::string today() const override { return "2026-01-01"; }
-  desktop::TimeZone timeZone() const override { return zone; }
-};
+using testing::resultOf;
 
 class ServerClientTest : public ::testing::Test {
  protected:
-  ServerClientTest() { answer(200, R"({"signature_id":"s","demo":true,"status":"x"})"); }
-
-  void answer(int status, const std::string& body) {
-    transport_.outcome = HttpResponse{.status = status, .body = body};
+  ServerClientTest() {
+    answer(
+        200,
+        R"({"signature_id":"s","demo":true,"status":"x","device_id":"D","handoff_id":"H","url":"u"})");
   }
 
-  /// Runs a call to its end, or to where it waits.
+  /// What the server says to everything.
+  void answer(int status, const std::string& body) {
+    for (auto& [path, queue] : desktop_.answers)
+      queue = {{status, body}};
+  }
+
   template <typename T>
-  std::optional<T> resultOf(Task<T> task) {
-    std::optional<T> result;
-    scope_->start(store(std::move(task), result, failure_));
-    return result;
+  T valueOf(Task<T> task) {
+    return std::get<T>(resultOf(desktop_.loop, std::move(task)));
   }
 
   Error failureOf(Task<std::string> task) {
-    failure_.reset();
-    EXPECT_EQ(resultOf(std::move(task)), std::nullopt);
-    EXPECT_TRUE(failure_.has_value());
-    return failure_.value_or(Error({.domain = "", .code = 0, .description = ""}));
+    return std::get<Error>(resultOf(desktop_.loop, std::move(task)));
   }
 
   static ServerClient::Content content() {
@@ -100,25 +57,9 @@ class ServerClientTest : public ::testing::Test {
             .enclaveSignature = "MEQ="};
   }
 
-  FakeDefaults defaults_;
-  FakeTransport transport_;
-  FakeMachine machine_;
-  FakeWallClock wallClock_;
+  FakeDesktop desktop_;
   ServerClient client_{
-      {.defaults = defaults_, .http = transport_, .machine = machine_, .wallClock = wallClock_}};
-  std::optional<TaskScope> scope_{std::in_place};
-
- private:
-  template <typename T>
-  static Task<> store(Task<T> task, std::optional<T>& result, std::optional<Error>& failure) {
-    try {
-      result = co_await std::move(task);
-    } catch (const Error& error) {
-      failure = error;
-    }
-  }
-
-  std::optional<Error> failure_;
+      {.defaults = desktop_, .http = desktop_, .machine = desktop_, .wallClock = desktop_}};
 };
 
 TEST_F(ServerClientTest, ReadsTheSettingsAfreshAndTrimmed) {
@@ -129,17 +70,17 @@ TEST_F(ServerClientTest, ReadsTheSettingsAfreshAndTrimmed) {
   const std::string fallback(builtInServer::url());
   for (const Case& each : {Case{"", fallback}, Case{"   ", fallback}, Case{"\n", fallback},
                            Case{" https://a.example/ ", "https://a.example/"}}) {
-    defaults_.values["ServerURL"] = each.setting;
+    desktop_.strings["ServerURL"] = each.setting;
     EXPECT_EQ(client_.effectiveServerURL(), each.expected);
   }
   EXPECT_EQ(client_.effectiveAPIKey(), builtInServer::apiKey());
-  defaults_.values["APIKey"] = " abc ";
+  desktop_.strings["APIKey"] = " abc ";
   EXPECT_EQ(client_.effectiveAPIKey(), "abc");
 }
 
 TEST_F(ServerClientTest, MakesUpADifferentIdentifierForAMachineWithoutOne) {
-  EXPECT_EQ(client_.hardwareUUID(), *machine_.uuid);
-  machine_.uuid.reset();
+  EXPECT_EQ(client_.hardwareUUID(), *desktop_.machineUuid);
+  desktop_.machineUuid.reset();
   const std::string first = client_.hardwareUUID();
   EXPECT_THAT(first, MatchesRegex("[0-9A-F]{8}-[0-9A-F]{4}-4[0-9A-F]{3}-[89AB][0-9A-F]{3}-"
                                   "[0-9A-F]{12}"));
@@ -147,62 +88,62 @@ TEST_F(ServerClientTest, MakesUpADifferentIdentifierForAMachineWithoutOne) {
 }
 
 TEST_F(ServerClientTest, SendsEveryBodyByteForByte) {
-  defaults_.values = {{"ServerURL", "https://a.example/"}, {"APIKey", "K"}};
-  const std::string device = *machine_.uuid;
+  desktop_.strings = {{"ServerURL", "https://a.example/"}, {"APIKey", "K"}};
   struct Case {
+    std::string path;
     std::function<void()> call;
-    std::string url;
     std::string body;
   };
   const std::vector<Case> cases{
-      {[&] { resultOf(client_.signContent(content())); }, "https://a.example//api/sign_native",
+      {"/api/sign_native", [&] { valueOf(client_.signContent(content())); },
        R"({"protocol":"v2","text_digest":"T","snapshot_digest":"","issued":"2026-01-01",)"
-       R"("scope":"Email / “Mail”\n","method":"Touch ID","device_id":")" +
-           device +
-           R"(","image_digest":"I","expires":"2026-01-08","commitment":"statement","nonce":"N",)"
-           R"("timezone":"Asia/Kolkata","tz_offset":330,"api_key":"K","enclave_signature":"MEQ="})"},
-      {[&] {
-         resultOf(client_.signDemo({.textDigest = "T",
-                                    .issued = "2026-01-01",
-                                    .scope = "S",
-                                    .imageDigest = "I",
-                                    .method = "Device Passcode",
-                                    .expires = "2026-01-08",
-                                    .commitment = "statement",
-                                    .nonce = "N"}));
+       R"("scope":"Email / “Mail”\n","method":"Touch ID","device_id":"MACHINE-1",)"
+       R"("image_digest":"I","expires":"2026-01-08","commitment":"statement","nonce":"N",)"
+       R"("timezone":"Europe/Berlin","tz_offset":60,"api_key":"K","enclave_signature":"MEQ="})"},
+      {"/api/sign_demo",
+       [&] {
+         valueOf(client_.signDemo({.textDigest = "T",
+                                   .issued = "2026-01-01",
+                                   .scope = "S",
+                                   .imageDigest = "I",
+                                   .method = "Device Passcode",
+                                   .expires = "2026-01-08",
+                                   .commitment = "statement",
+                                   .nonce = "N"}));
        },
-       "https://a.example//api/sign_demo",
-       R"({"text_digest":"T","issued":"2026-01-01","scope":"S","image_digest":"I","device_id":")" +
-           device +
-           R"(","method":"Device Passcode","expires":"2026-01-08","commitment":"statement",)"
-           R"("nonce":"N","timezone":"Asia/Kolkata","tz_offset":330,"api_key":"K"})"},
-      {[&] { resultOf(client_.enrol({.deviceId = "D", .publicKey = "B+/=", .apiKey = "K"})); },
-       "https://a.example//api/register_native",
+       R"({"text_digest":"T","issued":"2026-01-01","scope":"S","image_digest":"I",)"
+       R"("device_id":"MACHINE-1","method":"Device Passcode","expires":"2026-01-08",)"
+       R"("commitment":"statement","nonce":"N","timezone":"Europe/Berlin","tz_offset":60,)"
+       R"("api_key":"K"})"},
+      {"/api/register_native",
+       [&] { valueOf(client_.enrol({.deviceId = "D", .publicKey = "B+/=", .apiKey = "K"})); },
        R"({"device_id":"D","public_key":"B+/=","api_key":"K"})"},
-      {[&] {
-         resultOf(client_.createHandoff({.textDigest = "T",
-                                         .snapshotDigest = "",
-                                         .issued = "2026-01-01",
-                                         .scope = "S",
-                                         .imageDigest = "I",
-                                         .apiKey = "K"}));
+      {"/api/handoff/create",
+       [&] {
+         valueOf(client_.createHandoff({.textDigest = "T",
+                                        .snapshotDigest = "",
+                                        .issued = "2026-01-01",
+                                        .scope = "S",
+                                        .imageDigest = "I",
+                                        .apiKey = "K"}));
        },
-       "https://a.example//api/handoff/create",
        R"({"text_digest":"T","snapshot_digest":"","issued":"2026-01-01","scope":"S",)"
        R"("image_digest":"I","api_key":"K"})"},
-      {[&] { resultOf(client_.pollHandoff({.handoffId = "H", .apiKey = "K"})); },
-       "https://a.example//api/handoff/poll", R"({"handoff_id":"H","api_key":"K"})"},
+      {"/api/handoff/poll",
+       [&] { valueOf(client_.pollHandoff({.handoffId = "H", .apiKey = "K"})); },
+       R"({"handoff_id":"H","api_key":"K"})"},
   };
   for (const Case& each : cases) {
-    transport_.sent.clear();
+    desktop_.forget();
+    desktop_.answers["/" + each.path] = desktop_.answers.at(each.path);
     each.call();
-    ASSERT_EQ(transport_.sent.size(), 1U);
-    EXPECT_EQ(transport_.sent[0].url, each.url);
-    EXPECT_EQ(transport_.sent[0].body, each.body);
+    ASSERT_EQ(desktop_.sent.size(), 1U);
+    EXPECT_EQ(desktop_.sent[0].url, "https://a.example/" + each.path);
+    EXPECT_EQ(desktop_.sent[0].body, each.body);
     EXPECT_EQ(
-        transport_.sent[0].headers,
+        desktop_.sent[0].headers,
         (std::vector<std::pair<std::string, std::string>>{{"Content-Type", "application/json"}}));
-    EXPECT_EQ(transport_.sent[0].timeout, std::chrono::seconds(60));
+    EXPECT_EQ(desktop_.sent[0].timeout, std::chrono::seconds(60));
   }
 }
 
@@ -210,9 +151,9 @@ TEST_F(ServerClientTest, WritesTheZonesOffsetInWholeMinutes) {
   const std::map<int, std::string> cases{{19800, "330"}, {20700, "345"},   {-12600, "-210"},
                                          {-59, "0"},     {-12630, "-210"}, {0, "0"}};
   for (const auto& [seconds, minutes] : cases) {
-    wallClock_.zone.secondsFromGmt = seconds;
-    resultOf(client_.signContent(content()));
-    EXPECT_THAT(transport_.sent.back().body, HasSubstr("\"tz_offset\":" + minutes + ","));
+    desktop_.zone.secondsFromGmt = seconds;
+    valueOf(client_.signContent(content()));
+    EXPECT_THAT(desktop_.sent.back().body, HasSubstr("\"tz_offset\":" + minutes + ","));
   }
 }
 
@@ -229,7 +170,7 @@ TEST_F(ServerClientTest, TellsTheServersRefusalsInItsOwnWords) {
       const Error failure = failureOf(client_.signContent(content()));
       EXPECT_EQ(failure.domain(), desktop::transport::errorDomain);
       EXPECT_EQ(failure.code(), desktop::transport::badServerResponse);
-      EXPECT_STREQ(failure.what(), "platform words");
+      EXPECT_STREQ(failure.what(), "The server gave no usable answer.");
     }
   }
 }
@@ -244,7 +185,7 @@ TEST_F(ServerClientTest, ShortensARefusalOfAMegabyte) {
 }
 
 TEST_F(ServerClientTest, PassesTransportErrorsOn) {
-  transport_.outcome = Error({.domain = "D", .code = 7, .description = "no network"});
+  desktop_.sendFailure = Error({.domain = "D", .code = 7, .description = "no network"});
   const Error failure = failureOf(client_.signContent(content()));
   EXPECT_EQ(failure.domain(), "D");
   EXPECT_EQ(failure.code(), 7);
@@ -254,24 +195,24 @@ TEST_F(ServerClientTest, PassesTransportErrorsOn) {
 TEST_F(ServerClientTest, ReadsEveryAnswer) {
   for (const int status : {200, 201, 299}) {
     answer(status, R"({"signature_id":"a\/b","more":[1,{}]})");
-    EXPECT_EQ(resultOf(client_.signContent(content())), "a/b");
+    EXPECT_EQ(valueOf(client_.signContent(content())), "a/b");
   }
   answer(200, R"({"demo":false,"signature_id":"d"})");
-  EXPECT_EQ(resultOf(client_.signDemo({})), "d");
+  EXPECT_EQ(valueOf(client_.signDemo({})), "d");
 
   answer(200, R"({"status":"registered","device_id":"D"})");
-  EXPECT_EQ(resultOf(client_.enrol({}))->identity, std::nullopt);
+  EXPECT_EQ(valueOf(client_.enrol({})).identity, std::nullopt);
   answer(200, R"({"status":"registered","device_id":"D","identity":null})");
-  EXPECT_EQ(resultOf(client_.enrol({}))->identity, std::nullopt);
+  EXPECT_EQ(valueOf(client_.enrol({})).identity, std::nullopt);
   answer(200, R"({"status":"registered","device_id":"D","identity":"Ada"})");
-  EXPECT_EQ(resultOf(client_.enrol({}))->identity, "Ada");
+  EXPECT_EQ(valueOf(client_.enrol({})).identity, "Ada");
 
   answer(200, R"({"handoff_id":"h","url":"https:\/\/a\/handoff?h=h"})");
-  EXPECT_EQ(resultOf(client_.createHandoff({}))->url, "https://a/handoff?h=h");
+  EXPECT_EQ(valueOf(client_.createHandoff({})).url, "https://a/handoff?h=h");
   answer(200, R"({"status":"open"})");
-  EXPECT_EQ(resultOf(client_.pollHandoff({}))->signatureId, std::nullopt);
+  EXPECT_EQ(valueOf(client_.pollHandoff({})).signatureId, std::nullopt);
   answer(200, R"({"status":"complete","signature_id":"s"})");
-  EXPECT_EQ(resultOf(client_.pollHandoff({}))->signatureId, "s");
+  EXPECT_EQ(valueOf(client_.pollHandoff({})).signatureId, "s");
 }
 
 TEST_F(ServerClientTest, NamesWhatAnAnswerLacks) {
@@ -296,15 +237,7 @@ TEST_F(ServerClientTest, SendsNothingThatIsNoText) {
   ServerClient::Content damaged = content();
   damaged.scope = "\xff";
   EXPECT_EQ(failureOf(client_.signContent(damaged)).domain(), "Quillseal");
-  EXPECT_TRUE(transport_.sent.empty());
-}
-
-TEST_F(ServerClientTest, ACancelledCallWithdrawsItsRequest) {
-  transport_.outcome.reset();
-  EXPECT_EQ(resultOf(client_.signContent(content())), std::nullopt);
-  EXPECT_EQ(transport_.withdrawn, 0);
-  scope_.reset();
-  EXPECT_EQ(transport_.withdrawn, 1);
+  EXPECT_TRUE(desktop_.sent.empty());
 }
 
 }  // namespace

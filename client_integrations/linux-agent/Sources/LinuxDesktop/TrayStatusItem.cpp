@@ -1,6 +1,10 @@
 #include "LinuxDesktop/TrayStatusItem.h"
 
 #include <QApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <limits>
 #include <utility>
 
 #include "LinuxDesktop/KeyChords.h"
@@ -22,7 +26,37 @@ QKeySequence shortcutOf(const std::string& combination) {
 }  // namespace
 
 TrayStatusItem::TrayStatusItem(PlatformWording::CurrentCircumstances circumstances)
-    : circumstances_(std::move(circumstances)), icon_(QApplication::windowIcon()) {}
+    : circumstances_(std::move(circumstances)) {
+  awaitPanel();
+}
+
+// Qt puts the same question when the icon is made, and its main thread waits for the answer: half a
+// minute when the panel hangs.
+void TrayStatusItem::awaitPanel() {
+  const QString watcher = QStringLiteral("org.kde.StatusNotifierWatcher");
+  QDBusMessage question = QDBusMessage::createMethodCall(
+      watcher, QStringLiteral("/StatusNotifierWatcher"),
+      QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+  question << watcher << QStringLiteral("IsStatusNotifierHostRegistered");
+  question.setAutoStartService(false);
+  constexpr int forever = std::numeric_limits<int>::max();
+  const auto* answer = new QDBusPendingCallWatcher(
+      QDBusConnection::sessionBus().asyncCall(question, forever), &menu_);
+  // An error does as well: Qt gets it at once, and looks for a tray of the older kind.
+  QObject::connect(answer, &QDBusPendingCallWatcher::finished, &menu_,
+                   [this](QDBusPendingCallWatcher* finished) {
+                     finished->deleteLater();
+                     icon_.emplace(QApplication::windowIcon());
+                     showIcon();
+                   });
+}
+
+void TrayStatusItem::showIcon() {
+  if (!icon_ || menu_.isEmpty()) return;
+  icon_->setToolTip(toolTip_);
+  icon_->setContextMenu(&menu_);
+  icon_->show();
+}
 
 void TrayStatusItem::show(const desktop::StatusMenu& original) {
   const desktop::StatusMenu menu = PlatformWording::adapted(original, circumstances_());
@@ -43,9 +77,8 @@ void TrayStatusItem::show(const desktop::StatusMenu& original) {
     }
     actions_.push_back(action);
   }
-  icon_.setToolTip(toQString(menu.title).trimmed());
-  icon_.setContextMenu(&menu_);
-  icon_.show();
+  toolTip_ = toQString(menu.title).trimmed();
+  showIcon();
 }
 
 void TrayStatusItem::setItemTitle(std::size_t index, const std::string& title) {

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QMenu>
+#include <QString>
 #include <QSystemTrayIcon>
+#include <optional>
 #include <vector>
 
 #include "Desktop/StatusItem.h"
@@ -10,7 +12,7 @@
 namespace quillseal {
 
 /// The status item as an icon in the tray of the panel. It appears whenever a panel with a tray
-/// starts; some desktops have none.
+/// starts, and once that panel answers; some desktops have none.
 class TrayStatusItem : public desktop::StatusItem {
  public:
   explicit TrayStatusItem(PlatformWording::CurrentCircumstances circumstances);
@@ -19,8 +21,12 @@ class TrayStatusItem : public desktop::StatusItem {
   void setItemTitle(std::size_t index, const std::string& title) override;
 
  private:
+  void awaitPanel();
+  void showIcon();
+
   PlatformWording::CurrentCircumstances circumstances_;
-  QSystemTrayIcon icon_;
+  QString toolTip_;
+  std::optional<QSystemTrayIcon> icon_;
   QMenu menu_;
   std::vector<QAction*> actions_;  // owned by the menu
 };

@@ -59,6 +59,21 @@ class Rival:
         self.x11.XSync(self.display, 0)
 
 
+class MuteService:
+    """A program that has a name on the session bus, and never answers."""
+
+    def __init__(self, address, name):
+        self.dbus = ctypes.CDLL("libdbus-1.so.3")
+        self.dbus.dbus_connection_open_private.restype = ctypes.c_void_p
+        self.connection = ctypes.c_void_p(
+            self.dbus.dbus_connection_open_private(address.encode(), None))
+        self.dbus.dbus_bus_register(self.connection, None)
+        self.dbus.dbus_bus_request_name(self.connection, name.encode(), 0, None)
+
+    def close(self):
+        self.dbus.dbus_connection_close(self.connection)
+
+
 class Faults(Story):
     def rival(self):
         rival = Rival(self.desktop.env["DISPLAY"])
@@ -222,6 +237,21 @@ class Panel(Story):
         self.start()
         self.desktop.end(self.desktop.panel, signal.SIGKILL)
         self.assert_signed(self.sign_in_editor())
+
+    def test_the_panel_never_answers(self):
+        panel = MuteService(self.desktop.env["DBUS_SESSION_BUS_ADDRESS"],
+                            "org.kde.StatusNotifierWatcher")
+        began = time.monotonic()
+        self.start()
+        self.desktop.run(self.desktop.quillseal, "--settings")
+        self.assertLess(time.monotonic() - began, 20)  # the toolkit would wait for 25
+        self.assert_signed(self.sign_in_editor())
+        self.assertFalse(self.has_shield())
+        panel.close()
+        wait_for("the shield appears", self.has_shield)
+
+    def has_shield(self):
+        return '"quillseal": ("quillseal"' in self.desktop.run("xwininfo", "-root", "-tree")
 
 
 if __name__ == "__main__":

@@ -285,6 +285,13 @@ desktop::Ticket FakeDesktop::onNextChange(std::function<void()> changed) {
   return desktop::Ticket([this] { clipboardChanged_ = nullptr; });
 }
 
+desktop::Ticket FakeDesktop::fetch(std::function<void()> fetched) {
+  return loop.after({}, [this, fetched = std::move(fetched)] {
+    fetched_ = clipboard;
+    fetched();
+  });
+}
+
 void FakeDesktop::write(const desktop::PasteboardContent& content) {
   mayFail("write clipboard");
   trace.emplace_back("write clipboard");

@@ -183,9 +183,10 @@ class FakeDesktop final : public desktop::Alerts,
   // Pasteboard
   std::int64_t changeCount() const override { return changeCount_; }
   desktop::Ticket onNextChange(std::function<void()> changed) override;
-  bool isConcealed() const override { return clipboard.isConcealed; }
-  std::optional<std::string> plainText() const override { return clipboard.text; }
-  std::optional<std::string> html() const override { return clipboard.html; }
+  desktop::Ticket fetch(std::function<void()> fetched) override;
+  bool isConcealed() const override { return fetched_.isConcealed; }
+  std::optional<std::string> plainText() const override { return fetched_.text; }
+  std::optional<std::string> html() const override { return fetched_.html; }
   std::optional<std::string> rtf() const override { return std::nullopt; }
   void write(const desktop::PasteboardContent& content) override;
 
@@ -208,6 +209,7 @@ class FakeDesktop final : public desktop::Alerts,
   std::map<int, std::function<void()>> observers_;
   int observerCount_ = 0;
   std::int64_t changeCount_ = 0;
+  Copy fetched_;
   std::function<void()> clipboardChanged_;
   bool isAllSelected_ = false;
   desktop::Ticket copying_, secondCopying_;

@@ -2,14 +2,12 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QMimeData>
+#include <algorithm>
 #include <array>
-#include <memory>
 #include <utility>
 
 #include "Desktop/Error.h"
 #include "LinuxDesktop/QtText.h"
-#include "LinuxDesktop/X11SelectionOwner.h"
 
 namespace quillseal {
 namespace {
@@ -21,8 +19,39 @@ constexpr std::array rtfFormats = {"text/rtf", "application/rtf", "text/richtext
 constexpr auto passwordHint = "x-kde-passwordManagerHint";
 constexpr auto concealed = "org.nspasteboard.ConcealedType";
 
-// Longer than any program takes that is merely busy.
-constexpr std::chrono::seconds patience{2};
+// The first needs no conversion, the last holds Latin-1.
+constexpr auto latin1 = "STRING";
+constexpr std::array textFormats = {"UTF8_STRING", "text/plain;charset=utf-8", "text/plain",
+                                    latin1};
+
+template <std::size_t Size>
+std::vector<std::string> oneOf(const std::array<const char*, Size>& formats) {
+  return {formats.begin(), formats.end()};
+}
+
+std::unique_ptr<QMimeData> dataOf(const X11Selection::Content& content) {
+  auto data = std::make_unique<QMimeData>();
+  for (const auto& [format, bytes] : content) {
+    const QByteArray raw = QByteArray::fromStdString(bytes);
+    if (format == latin1)
+      data->setText(QString::fromLatin1(raw));
+    else if (std::ranges::find(textFormats, format) != textFormats.end())
+      data->setText(QString::fromUtf8(raw));
+    else
+      data->setData(toQString(format), raw);
+  }
+  return data;
+}
+
+bool isSecret(const QMimeData& data) {
+  return data.hasFormat(QLatin1String(concealed)) ||
+         (data.hasFormat(QLatin1String(passwordHint)) &&
+          data.data(QLatin1String(passwordHint)) == "secret");
+}
+
+bool isOnX() {
+  return qGuiApp->nativeInterface<QNativeInterface::QX11Application>() != nullptr;
+}
 
 std::optional<std::string> present(std::string text) {
   if (text.empty()) return std::nullopt;
@@ -31,17 +60,16 @@ std::optional<std::string> present(std::string text) {
 
 }  // namespace
 
-QtPasteboard::QtPasteboard() {
-  QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &receiver_,
-                   [this] { ++changeCount_; });
+QtPasteboard::QtPasteboard(const X11Selection::Services& services) : services_(services) {
+  QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &receiver_, [this] {
+    ++changeCount_;
+    fetched_.reset();
+  });
 }
 
 const QMimeData* QtPasteboard::offered() const {
   const QClipboard* const clipboard = QGuiApplication::clipboard();
-  if (clipboard->ownsClipboard()) return clipboard->mimeData();
-  if (std::exchange(askedAt_, changeCount_) != changeCount_)
-    hasAnswered_ = ownerAnswers(X11Selection::clipboard, patience);
-  return hasAnswered_ ? clipboard->mimeData() : nullptr;
+  return clipboard->ownsClipboard() || !isOnX() ? clipboard->mimeData() : fetched_.get();
 }
 
 desktop::Ticket QtPasteboard::onNextChange(std::function<void()> changed) {
@@ -51,12 +79,27 @@ desktop::Ticket QtPasteboard::onNextChange(std::function<void()> changed) {
   return desktop::Ticket([watch] { QObject::disconnect(watch); });
 }
 
+desktop::Ticket QtPasteboard::fetch(std::function<void()> fetched) {
+  if (QGuiApplication::clipboard()->ownsClipboard() || !isOnX() || fetched_ != nullptr) {
+    fetched();
+    return {};
+  }
+  // The marks come first, so that a secret is not even read.
+  return X11Selection::read(
+      services_,
+      {.selection = X11Selection::Name::clipboard,
+       .formats =
+           {{concealed}, {passwordHint}, oneOf(textFormats), {"text/html"}, oneOf(rtfFormats)},
+       .isEnough = [](const X11Selection::Content& content) { return isSecret(*dataOf(content)); }},
+      [this, fetched = std::move(fetched)](const X11Selection::Content& content) {
+        fetched_ = dataOf(content);
+        fetched();
+      });
+}
+
 bool QtPasteboard::isConcealed() const {
   const QMimeData* data = offered();
-  if (data == nullptr) return false;
-  return data->hasFormat(QLatin1String(concealed)) ||
-         (data->hasFormat(QLatin1String(passwordHint)) &&
-          data->data(QLatin1String(passwordHint)) == "secret");
+  return data != nullptr && isSecret(*data);
 }
 
 std::optional<std::string> QtPasteboard::plainText() const {
@@ -93,16 +136,31 @@ void QtPasteboard::write(const desktop::PasteboardContent& content) {
                  .description = "The clipboard could not be written: another program holds it."});
 }
 
-void QtPasteboard::copyPrimarySelection() {
-  QClipboard* const clipboard = QGuiApplication::clipboard();
-  if (!clipboard->ownsSelection() && !ownerAnswers(X11Selection::primary, patience)) return;
-  const QString selected = clipboard->text(QClipboard::Selection);
-  if (!selected.isEmpty()) clipboard->setText(selected);
+desktop::Ticket QtPasteboard::copyPrimarySelection(std::function<void()> done) {
+  return copy({.from = QClipboard::Selection, .to = QClipboard::Clipboard}, std::move(done));
 }
 
-void QtPasteboard::offerAsPrimarySelection() {
+desktop::Ticket QtPasteboard::offerAsPrimarySelection(std::function<void()> done) {
+  return copy({.from = QClipboard::Clipboard, .to = QClipboard::Selection}, std::move(done));
+}
+
+desktop::Ticket QtPasteboard::copy(Way way, std::function<void()> done) {
   QClipboard* const clipboard = QGuiApplication::clipboard();
-  clipboard->setText(clipboard->text(), QClipboard::Selection);
+  const auto arrive = [clipboard, to = way.to, done = std::move(done)](const QString& text) {
+    if (!text.isEmpty()) clipboard->setText(text, to);
+    done();
+  };
+  const bool isPrimary = way.from == QClipboard::Selection;
+  if (isPrimary ? clipboard->ownsSelection() : clipboard->ownsClipboard()) {
+    arrive(clipboard->text(way.from));
+    return {};
+  }
+  return X11Selection::read(
+      services_,
+      {.selection = isPrimary ? X11Selection::Name::primary : X11Selection::Name::clipboard,
+       .formats = {oneOf(textFormats)},
+       .isEnough = {}},
+      [arrive](const X11Selection::Content& content) { arrive(dataOf(content)->text()); });
 }
 
 }  // namespace quillseal

@@ -1,23 +1,26 @@
 #pragma once
 
+#include <QClipboard>
+#include <QMimeData>
 #include <QObject>
 #include <chrono>
 #include <functional>
+#include <memory>
 
 #include "Desktop/Pasteboard.h"
-
-class QMimeData;
+#include "LinuxDesktop/X11Selection.h"
 
 namespace quillseal {
 
-/// The clipboard through QClipboard, whose change signal covers every program of the X session.
-/// What a program offers that does not answer counts as nothing.
+/// The clipboard through QClipboard, whose change signal covers every program of the X session;
+/// what the other programs offer is read by X11Selection.
 class QtPasteboard : public desktop::Pasteboard {
  public:
-  QtPasteboard();
+  explicit QtPasteboard(const X11Selection::Services& services);
 
   [[nodiscard]] std::int64_t changeCount() const override { return changeCount_; }
   [[nodiscard]] desktop::Ticket onNextChange(std::function<void()> changed) override;
+  [[nodiscard]] desktop::Ticket fetch(std::function<void()> fetched) override;
   [[nodiscard]] bool isConcealed() const override;
   [[nodiscard]] std::optional<std::string> plainText() const override;
   [[nodiscard]] std::optional<std::string> html() const override;
@@ -25,22 +28,29 @@ class QtPasteboard : public desktop::Pasteboard {
   void write(const desktop::PasteboardContent& content) override;
 
   /// Copies what is selected anywhere on the desktop, its plain text, as the program could that it
-  /// is selected in. Leaves the clipboard alone when that is nothing.
-  void copyPrimarySelection();
+  /// is selected in. Leaves the clipboard alone when that is nothing. `done` is called in the end.
+  [[nodiscard]] desktop::Ticket copyPrimarySelection(std::function<void()> done);
 
   /// Offers the clipboard's plain text as the primary selection too, for programs that paste that.
-  void offerAsPrimarySelection();
+  /// `done` is called in the end.
+  [[nodiscard]] desktop::Ticket offerAsPrimarySelection(std::function<void()> done);
 
   /// When `write` was last called; the epoch when it never was.
   [[nodiscard]] std::chrono::steady_clock::time_point lastWrite() const { return lastWrite_; }
 
  private:
-  [[nodiscard]] const QMimeData* offered() const;
+  struct Way {
+    QClipboard::Mode from;
+    QClipboard::Mode to;
+  };
 
+  [[nodiscard]] const QMimeData* offered() const;
+  [[nodiscard]] desktop::Ticket copy(Way way, std::function<void()> done);
+
+  X11Selection::Services services_;
   QObject receiver_;
   std::int64_t changeCount_ = 0;
-  mutable std::int64_t askedAt_ = -1;  // the change after which the owner was last asked
-  mutable bool hasAnswered_ = true;
+  std::unique_ptr<QMimeData> fetched_;  // what another program offers; null until it is known
   std::chrono::steady_clock::time_point lastWrite_;
 };
 

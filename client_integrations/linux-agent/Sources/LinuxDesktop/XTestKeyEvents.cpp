@@ -35,7 +35,7 @@ desktop::Ticket XTestKeyEvents::press(desktop::KeyPress press, std::function<voi
   struct Wait {
     desktop::MainLoop::TimePoint earliest;
     desktop::MainLoop::TimePoint latest;
-    desktop::Ticket timer;
+    desktop::Ticket timer;  // and then what is read of a selection
     std::function<void()> step;
   };
   if (!isTrusted()) {
@@ -64,23 +64,31 @@ desktop::Ticket XTestKeyEvents::press(desktop::KeyPress press, std::function<voi
       self->timer = services_.loop.after(releasePolling, self->step);
       return;
     }
-    tap(press, layout);
-    const std::function<void()> finished = done;
-    finished();
+    self->timer = exchangeSelections(press, [this, press, layout, done] {
+      tap(press, layout);
+      done();
+    });
   };
   wait->timer = loop.after(milliseconds{0}, wait->step);
   return desktop::Ticket([wait] { wait->timer = {}; });
 }
 
+desktop::Ticket XTestKeyEvents::exchangeSelections(desktop::KeyPress press,
+                                                   std::function<void()> done) {
+  const xcb_window_t window = services_.windows.activeWindow();
+  if (copiesBySelecting(services_.windows.traitsOf(window).windowClass)) {
+    if (press.key == desktop::Key::c && services_.windows.hasPrimarySelection(window))
+      return services_.pasteboard.copyPrimarySelection(std::move(done));
+    if (press.key == desktop::Key::v)
+      return services_.pasteboard.offerAsPrimarySelection(std::move(done));
+  }
+  done();
+  return {};
+}
+
 void XTestKeyEvents::tap(desktop::KeyPress press, const X11Keyboard::Layout& layout) {
   X11Keyboard& keyboard = *services_.keyboard;
-  const xcb_window_t window = services_.windows.activeWindow();
-  const WindowTraits traits = services_.windows.traitsOf(window);
-  if (copiesBySelecting(traits.windowClass)) {
-    if (press.key == desktop::Key::c && services_.windows.hasPrimarySelection(window))
-      services_.pasteboard.copyPrimarySelection();
-    if (press.key == desktop::Key::v) services_.pasteboard.offerAsPrimarySelection();
-  }
+  const WindowTraits traits = services_.windows.traitsOf(services_.windows.activeWindow());
   const auto entry = services_.entries.forWindow(traits);
   const std::vector<Keysym> chord =
       chordFor(press, entry ? entry->categories : std::string(), traits.windowClass);

@@ -32,6 +32,9 @@ class XTestKeyEvents : public desktop::KeyEvents {
   [[nodiscard]] desktop::Ticket press(desktop::KeyPress press, std::function<void()> done) override;
 
  private:
+  /// For programs that copy and paste by the primary selection.
+  [[nodiscard]] desktop::Ticket exchangeSelections(desktop::KeyPress press,
+                                                   std::function<void()> done);
   void tap(desktop::KeyPress press, const X11Keyboard::Layout& layout);
 
   Services services_;

@@ -125,6 +125,7 @@ class LinuxDesktop {
                   {.places = quillseal::LoadedModule::usualPlaces(quillseal::HttpModule::fileName),
                    .version = QUILLSEAL_VERSION,
                    .duty = "talks to the server"})),
+        pasteboard_({.loop = loop_, .descriptors = descriptors_}),
         entries_(quillseal::LoadedModule(
             {.places = quillseal::LoadedModule::usualPlaces(quillseal::EntriesModule::fileName),
              .version = QUILLSEAL_VERSION,

@@ -202,6 +202,21 @@ class Faults(Story):
         self.desktop.close("No Text Found")
         self.assertLess(time.monotonic() - asked, 20)  # each format alone costs the toolkit 5
 
+    def test_a_format_is_offered_and_never_delivered(self):
+        self.start()
+        editor = self.desktop.start(
+            self.build / "client_integrations/linux-agent/Tests/silent-editor", LETTER)
+        self.desktop.wait_for_window("Silence")
+        self.desktop.select_all(LETTER)
+        self.desktop.press_hotkey()
+        self.desktop.choose_secret()
+        self.desktop.wait_for_output(editor, "asked", "somebody wants the format")
+        # Told so within five seconds: the toolkit would wait as long for each format.
+        self.desktop.run(self.desktop.quillseal, "--settings")
+        self.desktop.enter_secret()
+        wait_for("the block is on the clipboard",
+                 lambda: self.desktop.selection().startswith(f"『{LETTER}』"))
+
     def test_a_module_is_missing(self):
         self.desktop.quillseal = shutil.copy(self.desktop.quillseal, self.desktop.folder)
         self.start(DemoSigning="true")

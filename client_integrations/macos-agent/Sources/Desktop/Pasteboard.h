@@ -18,8 +18,8 @@ struct PasteboardContent {
 /// The general clipboard. Main thread.
 ///
 /// What is read was written by another program: bytes of any kind and size. Readers see the
-/// flavours that are offered at that moment; one that is offered but cannot be delivered counts as
-/// absent.
+/// flavours that were offered when they were last fetched; one that is offered but cannot be
+/// delivered counts as absent.
 class Pasteboard {
  public:
   virtual ~Pasteboard() = default;
@@ -30,6 +30,14 @@ class Pasteboard {
   /// Calls `changed` at the next change of the count, never from inside this call; not at all where
   /// the desktop does not tell of changes. Whoever waits looks at the count now and then as well.
   [[nodiscard]] virtual Ticket onNextChange(std::function<void()> changed) = 0;
+
+  /// Has the flavours delivered for the functions below and calls `fetched`, also when nobody
+  /// delivers them. Only for desktops on which that takes a program that may hang.
+  // NOLINTNEXTLINE(performance-unnecessary-value-param): others keep it.
+  [[nodiscard]] virtual Ticket fetch(std::function<void()> fetched) {
+    fetched();
+    return {};
+  }
 
   /// Whether the one who copied marked it as a secret, as password managers do.
   [[nodiscard]] virtual bool isConcealed() const = 0;

@@ -59,6 +59,12 @@ Task<bool> waitForChange(Services services, std::int64_t changeCount) {
   co_return false;
 }
 
+Task<> fetch(desktop::Pasteboard& pasteboard) {
+  co_await completionOf<void>([&pasteboard](std::function<void()> fetched) {
+    return pasteboard.fetch(std::move(fetched));
+  });
+}
+
 }  // namespace
 
 SigningScope::AppScope detectAppScope(
@@ -75,13 +81,14 @@ Task<> press(desktop::KeyEvents& keys, desktop::KeyPress press) {
 }
 
 Task<std::optional<Captured>> copySelection(Services services) {
-  const desktop::Pasteboard& pasteboard = services.pasteboard;
+  desktop::Pasteboard& pasteboard = services.pasteboard;
   const std::int64_t changeCount = pasteboard.changeCount();
   co_await press(services.keys, {.key = Key::c, .modifiers = Modifiers::command});
   const bool hasChanged = co_await waitForChange(services, changeCount);
   if (!hasChanged) co_return std::nullopt;
   co_await sleep(services.loop, settleTime);
 
+  co_await fetch(pasteboard);
   if (pasteboard.isConcealed()) co_return std::nullopt;
   std::optional<std::string> text = wellFormed(pasteboard.plainText());
   if (!text || unicode::trimmed(*text).empty()) co_return std::nullopt;
@@ -103,8 +110,10 @@ Task<std::optional<CapturedContent>> captureSelectedContent(Services services) {
   const std::int64_t changeCount = services.pasteboard.changeCount();
   std::optional<Captured> captured = co_await copySelection(services);
   // Whoever selected a secret did not mean to sign the whole document instead.
-  if (services.pasteboard.changeCount() != changeCount && services.pasteboard.isConcealed())
-    co_return std::nullopt;
+  if (services.pasteboard.changeCount() != changeCount) {
+    co_await fetch(services.pasteboard);
+    if (services.pasteboard.isConcealed()) co_return std::nullopt;
+  }
   if (!captured) {
     services.log.write("[capture] no selection; selecting all");
     co_await press(services.keys, {.key = Key::a, .modifiers = Modifiers::command});

@@ -99,6 +99,7 @@ class Session:
         self.agent = None
         self.server_url = None
         self.server = None
+        self.tpm = None
 
     def _environment(self):
         kept = ("PATH", "TZ", "ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS", "TSAN_OPTIONS")
@@ -279,9 +280,10 @@ class Session:
         # The library finds the control socket by adding ".ctrl" to the path of the other.
         folder = pathlib.Path(tempfile.mkdtemp(prefix="tpm-", dir=self.folder))
         socket = folder / "s"
-        self.start("swtpm", "socket", "--tpm2", "--tpmstate", f"dir={folder}",
-                   "--ctrl", f"type=unixio,path={socket}.ctrl", "--server",
-                   f"type=unixio,path={socket}", "--flags", "not-need-init,startup-clear")
+        self.tpm = self.start("swtpm", "socket", "--tpm2", "--tpmstate", f"dir={folder}",
+                              "--ctrl", f"type=unixio,path={socket}.ctrl", "--server",
+                              f"type=unixio,path={socket}", "--flags",
+                              "not-need-init,startup-clear")
         wait_for("the software TPM starts", socket.exists)
         return f"swtpm:path={socket}"
 

@@ -25,11 +25,11 @@ QtMainLoop::QtMainLoop() {
 }
 
 QtMainLoop::~QtMainLoop() {
-  waitForWorkers();
+  workers_.waitForDone();
 }
 
-void QtMainLoop::waitForWorkers() {
-  workers_.waitForDone();
+bool QtMainLoop::waitForWorkers(std::chrono::milliseconds patience) {
+  return workers_.waitForDone(static_cast<int>(patience.count()));
 }
 
 void QtMainLoop::post(std::function<void()> work) {

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QThreadPool>
 #include <QTimer>
+#include <chrono>
 
 #include "Desktop/MainLoop.h"
 
@@ -14,9 +15,9 @@ class QtMainLoop : public desktop::MainLoop {
   QtMainLoop();
   ~QtMainLoop() override;
 
-  /// Waits for workers that still run. What they would have run on the main thread afterwards is
-  /// left out when the loop ends meanwhile.
-  void waitForWorkers();
+  /// Waits for workers that still run; false when some do after `patience`. What they would have
+  /// run on the main thread afterwards is left out when the loop ends meanwhile.
+  [[nodiscard]] bool waitForWorkers(std::chrono::milliseconds patience);
 
   void post(std::function<void()> work) override;
   [[nodiscard]] desktop::Ticket after(std::chrono::milliseconds delay,

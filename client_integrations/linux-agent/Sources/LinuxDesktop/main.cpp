@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QIcon>
 #include <QLibraryInfo>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -149,10 +150,14 @@ class LinuxDesktop {
       warn(limits_);
   }
 
-  // Workers use the services; some of them wait for an answer that nobody will give any more.
+  // Workers use the services; some of them wait for an answer that nobody will give any more. From
+  // one that a TPM or a system service keeps waiting nothing can be taken while the program lives.
   ~LinuxDesktop() {
+    constexpr std::chrono::seconds patience{5};
     secretPrompt_.close();
-    loop_.waitForWorkers();
+    if (loop_.waitForWorkers(patience)) return;
+    log_.write("[end] what works beside the program does not come to its end");
+    std::_Exit(0);
   }
 
   LinuxDesktop(const LinuxDesktop&) = delete;

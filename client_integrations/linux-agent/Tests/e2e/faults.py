@@ -217,6 +217,21 @@ class Faults(Story):
         wait_for("the block is on the clipboard",
                  lambda: self.desktop.selection().startswith(f"『{LETTER}』"))
 
+    def test_the_tpm_never_answers(self):
+        self.desktop.write_settings(ServerURL=self.desktop.start_server(), SigningMode="enclave")
+        self.desktop.start_agent(tpm=self.desktop.start_software_tpm())
+        self.desktop.press_in_editor()
+        self.desktop.choose_secret("PIN")
+        self.desktop.wait_for_window("Enter the PIN")
+        os.kill(self.desktop.tpm.pid, signal.SIGSTOP)
+        self.desktop.enter_secret(kind="PIN")
+        self.desktop.wait_for_no_window("Enter the PIN")
+        self.desktop.run(self.desktop.quillseal, "--settings")
+        self.desktop.wait_for_window("Quill Seal Server Settings")
+        self.desktop.run(self.desktop.quillseal, "--quit")
+        self.assert_ended()
+        self.desktop.end(self.desktop.tpm, signal.SIGKILL)
+
     def test_a_module_is_missing(self):
         self.desktop.quillseal = shutil.copy(self.desktop.quillseal, self.desktop.folder)
         self.start(DemoSigning="true")

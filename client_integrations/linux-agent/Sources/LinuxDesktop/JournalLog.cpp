@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <string>
 
+#include <poll.h>
 #include <sys/uio.h>
 #include <syslog.h>
 #include <systemd/sd-journal.h>
@@ -32,6 +33,13 @@ std::string printable(std::string_view line) {
   return result;
 }
 
+// A terminal that was stopped takes nothing, nor a pipe that nobody reads; whoever writes there
+// waits.
+bool takesOutput(int descriptor) {
+  pollfd output{.fd = descriptor, .events = POLLOUT, .revents = 0};
+  return poll(&output, 1, 0) > 0;
+}
+
 iovec field(std::string& text) {
   return {.iov_base = text.data(), .iov_len = text.size()};
 }
@@ -40,7 +48,8 @@ iovec field(std::string& text) {
 
 void JournalLog::write(std::string_view line) {
   const std::string text = printable(line);
-  if (echo_ == Echo::standardError) static_cast<void>(std::fprintf(stderr, "%s\n", text.c_str()));
+  if (echo_ == Echo::standardError && takesOutput(STDERR_FILENO))
+    static_cast<void>(std::fprintf(stderr, "%s\n", text.c_str()));
   if (access(journalSocket, W_OK) != 0) {
     syslog(LOG_USER | LOG_INFO, "%s", text.c_str());
     return;

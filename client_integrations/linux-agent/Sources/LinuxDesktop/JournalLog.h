@@ -4,7 +4,8 @@
 
 namespace quillseal {
 
-/// Writes to the journal, or to syslog where no journal runs.
+/// Writes to the journal, or to syslog where no journal runs. The echo leaves out what nobody
+/// takes.
 class JournalLog : public desktop::Log {
  public:
   enum class Echo { none, standardError };

@@ -1,11 +1,7 @@
-#include <condition_variable>
-#include <deque>
 #include <functional>
 #include <memory>
-#include <mutex>
 #include <optional>
 #include <string>
-#include <thread>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -15,6 +11,8 @@
 
 #include "LinuxDesktop/FingerprintReader.h"
 #include "LinuxDesktop/LinuxPresence.h"
+#include "LinuxDesktop/PollLoop.h"
+#include "RunUntil.h"
 #include "SystemBusFake.h"
 
 namespace quillseal {
@@ -26,55 +24,8 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Not;
 using testing::PresenceServices;
+using testing::runUntil;
 using testing::Script;
-
-/// A loop with real workers, run until a condition holds.
-class ThreadedLoop final : public desktop::MainLoop {
- public:
-  ~ThreadedLoop() override { joinWorkers(); }
-  void joinWorkers() {
-    for (std::thread& worker : workers_)
-      worker.join();
-    workers_.clear();
-  }
-  void post(std::function<void()> work) override {
-    const std::lock_guard lock(mutex_);
-    queue_.push_back(std::move(work));
-    changed_.notify_one();
-  }
-  desktop::Ticket after(std::chrono::milliseconds, std::function<void()> work) override {
-    post(std::move(work));
-    return {};
-  }
-  TimePoint now() const override { return std::chrono::steady_clock::now(); }
-  desktop::Ticket runBlocking(std::function<void()> work, std::function<void()> finished) override {
-    const auto wanted = std::make_shared<bool>(true);
-    workers_.emplace_back([this, work = std::move(work), finished = std::move(finished), wanted] {
-      work();
-      post([finished, wanted] {
-        if (*wanted) finished();
-      });
-    });
-    return desktop::Ticket([wanted] { *wanted = false; });
-  }
-  void runUntil(const std::function<bool()>& isDone) {
-    while (!isDone()) {
-      std::unique_lock lock(mutex_);
-      ASSERT_TRUE(
-          changed_.wait_for(lock, std::chrono::seconds(20), [&] { return !queue_.empty(); }));
-      const auto work = std::move(queue_.front());
-      queue_.pop_front();
-      lock.unlock();
-      work();
-    }
-  }
-
- private:
-  std::mutex mutex_;
-  std::condition_variable changed_;
-  std::deque<std::function<void()>> queue_;
-  std::vector<std::thread> workers_;
-};
 
 /// Shows nothing; goes on, cancels or waits as the test says.
 class ScriptedPrompt final : public PresencePrompt {
@@ -114,8 +65,7 @@ class LinuxPresenceTest : public ::testing::Test {
     const desktop::Ticket ticket =
         presence.evaluate(policy, {.reason = "Sign “x”", .medium = "LinkedIn Post"},
                           [&](Outcome<bool> result) { outcome = std::move(result); });
-    loop.runUntil([&] { return outcome.has_value(); });
-    if (!outcome) return "(nothing)";
+    runUntil(loop, [&] { return outcome.has_value(); });
     EXPECT_EQ(prompt.windows, 0);
     if (const Error* error = std::get_if<Error>(&*outcome)) return error->what();
     return std::get<bool>(*outcome) ? "yes" : "no";
@@ -123,7 +73,7 @@ class LinuxPresenceTest : public ::testing::Test {
   bool can(PresencePolicy policy) { return presence.canEvaluate(policy).available; }
 
   testing::PrivateBus bus;
-  ThreadedLoop loop;
+  PollLoop loop;
   ScriptedPrompt prompt{loop};
   LinuxPresence presence{loop, prompt};
 };
@@ -221,15 +171,18 @@ TEST_F(LinuxPresenceTest, ThePasswordDecidesWithoutAReader) {
 TEST_F(LinuxPresenceTest, ADroppedTicketEndsTheQuestion) {
   for (const PresencePolicy policy : {biometrics, password}) {
     PresenceServices services({.neverAnswers = true});
-    prompt.answer = policy == password ? std::optional(true) : std::nullopt;
     {
-      const desktop::Ticket ticket = presence.evaluate(policy, {.reason = "Sign “x”", .medium = {}},
-                                                       [](const auto&) { ADD_FAILURE(); });
-      if (policy == password) loop.runUntil([&] { return prompt.windows == 0; });
+      PollLoop ownLoop;  // waits for its workers
+      ScriptedPrompt ownPrompt{ownLoop};
+      LinuxPresence ownPresence{ownLoop, ownPrompt};
+      if (policy == password) ownPrompt.answer = true;
+      desktop::Ticket ticket = ownPresence.evaluate(policy, {.reason = "Sign “x”", .medium = {}},
+                                                    [](const auto&) { ADD_FAILURE(); });
+      if (policy == password) runUntil(ownLoop, [&] { return ownPrompt.windows == 0; });
+      ticket = {};
+      EXPECT_EQ(ownPrompt.windows, 0);
     }
-    EXPECT_EQ(prompt.windows, 0);
-    loop.joinWorkers();
-    EXPECT_THAT(services.end().back(), policy == password ? "CancelCheckAuthorization" : "Release");
+    EXPECT_EQ(services.end().back(), policy == password ? "CancelCheckAuthorization" : "Release");
   }
 }
 

@@ -40,6 +40,7 @@
 #include "LinuxDesktop/QtWindows.h"
 #include "LinuxDesktop/Reach.h"
 #include "LinuxDesktop/SecretBytes.h"
+#include "LinuxDesktop/SessionBus.h"
 #include "LinuxDesktop/SingleInstance.h"
 #include "LinuxDesktop/SystemMachineIdentity.h"
 #include "LinuxDesktop/SystemWallClock.h"
@@ -284,6 +285,11 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
   // The library of the TPM would write of every wrong PIN and, on request, all that it sends.
   qputenv("TSS2_LOG", "all+none");
 
+  constexpr std::chrono::seconds patience{5};
+  if (!quillseal::sessionBusAnswers(patience)) qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+  // It has nothing to say to the agent, and Qt would wait for its first word without end.
+  QApplication::setAttribute(Qt::AA_DisableSessionManager);
+
   QApplication application(argc, argv);
   xServer.reset();
   QApplication::setApplicationName(QStringLiteral("quillseal"));
@@ -295,7 +301,9 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
     case quillseal::SingleInstance::Role::visitor:
       return visit(commandLine.command);
     case quillseal::SingleInstance::Role::alone:
-      report("there is no session bus: notifications and commands from other starts do not work.");
+      report(
+          "there is no session bus that answers: notifications and commands from other starts do "
+          "not work.");
       break;
     case quillseal::SingleInstance::Role::agent:
       break;

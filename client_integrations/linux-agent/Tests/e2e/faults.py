@@ -8,6 +8,7 @@ import ctypes
 import os
 import shutil
 import signal
+import socket
 import time
 
 import stories
@@ -175,6 +176,18 @@ class Faults(Story):
         self.desktop.env["DBUS_SESSION_BUS_ADDRESS"] = bus
         self.desktop.wait_for_log("there is no session bus", "the agent says what will be missing")
         self.assert_signed(self.sign_in_editor())
+
+    def test_neither_session_bus_nor_session_manager_answers(self):
+        silent = self.desktop.folder / "silent"
+        listening = self.enterContext(socket.socket(socket.AF_UNIX))
+        listening.bind(str(silent))
+        listening.listen()
+        self.desktop.env["SESSION_MANAGER"] = f"local/{os.uname().nodename}:{silent}"
+        self.start()
+        self.terminate()
+        self.desktop.env["DBUS_SESSION_BUS_ADDRESS"] = f"unix:path={silent}"
+        self.desktop.start_agent()
+        self.desktop.wait_for_log("there is no session bus", "the agent says what will be missing")
 
     def test_the_home_cannot_be_written(self):
         self.desktop.env["XDG_DATA_HOME"] = "/dev/null/data"

@@ -29,7 +29,8 @@ constexpr double frequencyLimits[] = {1, 0.01, 0.003, 0.001, 0.0003};
 constexpr double costOfFirstLink = 3;  ///< which has to be remembered
 constexpr double costOfChain = 2;      ///< a chain that is complete
 constexpr double costOfStart = 2;      ///< a place where a match might start
-constexpr double costOfMatch = 20;     ///< a run of the matcher
+/// Of code points, where only the end of a long run ends it.
+constexpr double longestWalk = 5000;
 
 std::size_t shortest(const Literals& literals) {
   std::size_t length = literals.front().size();
@@ -365,7 +366,8 @@ class Analysis {
       cost += isFirst ? costOfFirstLink * frequency : frequency;
       complete *= isFirst ? frequency : std::min(1.0, frequency * charactersOf(link.distance));
     }
-    return cost + complete * (costOfChain + costOfMatch + costOfStart * charactersOf(chain.lead));
+    return cost + complete * (costOfChain + costOfMatch +
+                              costOfStart * std::min<double>(chain.lead.steps, longestWalk));
   }
 
   LiteralChain chainOf(const Way& way, double frequencyLimit) {

@@ -9,6 +9,9 @@
 
 namespace quillseal::screening {
 
+/// What a run of the matcher costs, in units of one literal met in the text.
+inline constexpr double costOfMatch = 20;
+
 struct LiteralLink {
   Literals literals{};          ///< one of them stands in every match
   bool boundaryBefore = false;  ///< \b holds before it

@@ -1,22 +1,43 @@
 #include "PatternCompiler/TextFrequency.h"
 
 #include <algorithm>
-#include <utility>
+
+#include "PatternCompiler/CommonWords.h"
 
 namespace quillseal::screening {
 namespace {
 
-// Words that are far more common than their letters: rounded estimates, places of the word for each
-// place of the text.
-constexpr std::pair<std::u32string_view, double> commonWords[] = {
-    {U"the", .012},  {U"and", .006},  {U"you", .005},    {U"to", .007},    {U"of", .006},
-    {U"in", .005},   {U"is", .003},   {U"for", .003},    {U"it", .003},    {U"that", .003},
-    {U"on", .003},   {U"your", .002}, {U"be", .003},     {U"are", .002},   {U"this", .002},
-    {U"with", .002}, {U"have", .002}, {U"we", .002},     {U"as", .002},    {U"or", .002},
-    {U"will", .001}, {U"not", .001},  {U"from", .001},   {U"at", .002},    {U"by", .001},
-    {U"can", .001},  {U"an", .001},   {U"my", .001},     {U"our", .001},   {U"if", .001},
-    {U"has", .001},  {U"all", .001},  {U"please", .001}, {U"been", .001},  {U"what", .001},
-    {U"here", .001}, {U"her", .001},  {U"his", .001},    {U"their", .001}, {U"would", .001}};
+constexpr double blankFrequency = .170;
+/// What somebody searches for is not as rare as its letters would have it.
+constexpr double rarest = 1e-6;
+
+double frequencyOfLetters(std::u32string_view letters) {
+  double product = 1;
+  for (const char32_t c : letters)
+    product *= expectedFrequency(c);
+  return product;
+}
+
+/// A part of a literal without blanks.
+struct Piece {
+  std::u32string_view letters;
+  bool startsWord = false;
+  bool endsWord = false;
+
+  [[nodiscard]] bool isIn(std::u32string_view word) const {
+    if (startsWord && endsWord) return word == letters;
+    if (startsWord) return word.starts_with(letters);
+    if (endsWord) return word.ends_with(letters);
+    return word.find(letters) != std::u32string_view::npos;
+  }
+};
+
+double frequencyInWords(const Piece& piece) {
+  double sum = 0;
+  for (const CommonWord& word : commonWords())
+    if (piece.isIn(word.word)) sum += word.frequency;
+  return sum;
+}
 
 }  // namespace
 
@@ -30,7 +51,7 @@ double expectedFrequency(char32_t c) {
   if (c >= '0' && c <= '9') return .004;
   switch (c) {
     case ' ':
-      return .170;
+      return blankFrequency;
     case '\n':
       return .020;
     case '.':
@@ -46,14 +67,23 @@ double expectedFrequency(char32_t c) {
 
 double expectedFrequency(std::u32string_view literal) {
   double product = 1;
-  for (const char32_t c : literal)
-    product *= expectedFrequency(c);
-  const std::size_t first = literal.find_first_not_of(U' ');
-  const std::size_t behind = literal.find_last_not_of(U' ') + 1;
-  if (first != std::u32string_view::npos)
-    for (const auto& [word, frequency] : commonWords)
-      if (literal.substr(first, behind - first) == word) product = std::max(product, frequency);
-  return product;
+  for (std::size_t start = 0; start < literal.size();) {
+    const std::size_t blank = std::min(literal.find(U' ', start), literal.size());
+    const Piece piece{.letters = literal.substr(start, blank - start),
+                      .startsWord = start > 0,
+                      .endsWord = blank < literal.size()};
+    if (piece.letters.empty()) {
+      product *= blankFrequency;
+    } else {
+      // The blank before a word has been counted.
+      const double inWords = frequencyInWords(piece) / (piece.startsWord ? blankFrequency : 1);
+      const double ofLetters =
+          frequencyOfLetters(piece.letters) * (piece.endsWord ? blankFrequency : 1);
+      product *= std::max(std::min(inWords, 1.0), ofLetters);
+    }
+    start = blank + 1;
+  }
+  return std::max(product, rarest);
 }
 
 }  // namespace quillseal::screening

@@ -9,7 +9,7 @@ namespace quillseal::screening {
 /// of a search depends on these figures, never what it finds.
 [[nodiscard]] double expectedFrequency(char32_t c);
 
-/// The same for a text of case-folded letters, which is more likely when it is a common word.
+/// The same for a text of case-folded letters, which is more likely when common words contain it.
 [[nodiscard]] double expectedFrequency(std::u32string_view literal);
 
 }  // namespace quillseal::screening

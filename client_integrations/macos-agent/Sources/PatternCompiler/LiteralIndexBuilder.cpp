@@ -150,11 +150,21 @@ void addEdges(Table& table, const Trie& trie, std::uint32_t number,
     for (const auto& [symbol, child] : trie.node(at).children)
       if (fallback == 0 || symbol >= Table::columns) edges.emplace(symbol, numbers[child]);
   }
-  table.states.push_back({.first = static_cast<std::uint32_t>(table.edges.size()),
-                          .count = static_cast<std::uint16_t>(edges.size()),
-                          .fallback = numbers[fallback]});
+  const auto& children = trie.node(number).children;
+  auto onward = children.empty() ? edges.begin() : edges.find(children.front().first);
+  if (onward == edges.end()) onward = edges.begin();
+  Table::Edges state{.onward = {.symbol = Table::several, .target = 0},
+                     .fallback = numbers[fallback],
+                     .count = 0,
+                     .first = static_cast<std::uint32_t>(table.edges.size())};
+  if (onward != edges.end()) {
+    state.onward = {.symbol = onward->first, .target = onward->second};
+    edges.erase(onward);
+  }
+  state.count = static_cast<std::uint16_t>(edges.size());
   for (const auto& [symbol, target] : edges)
     table.edges.push_back({.symbol = symbol, .target = target});
+  table.states.push_back(state);
 }
 
 void fillStates(Table& table, Trie& trie, std::size_t symbolCount) {

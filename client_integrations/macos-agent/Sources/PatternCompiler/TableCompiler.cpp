@@ -1,11 +1,14 @@
 #include "PatternCompiler/TableCompiler.h"
 
 #include <algorithm>
+#include <functional>
 #include <limits>
 #include <map>
+#include <numeric>
 #include <optional>
 
 #include "PatternCompiler/ClassPartition.h"
+#include "PatternCompiler/CommonWords.h"
 #include "PatternCompiler/LiteralIndexBuilder.h"
 #include "PatternCompiler/PatternSyntax.h"
 #include "PatternCompiler/ProgramCompiler.h"
@@ -20,9 +23,8 @@ namespace {
 /// How many of a match's first code points the leading-class search looks at.
 constexpr std::size_t longestLeading = 8;
 
-// What finding matches by their first classes costs, in units of one literal met in the text.
-constexpr double costOfRun = 10;
-constexpr double costOfLeadingBit = 0.002;  ///< of advancing one bit at each code point
+// In units of one literal met in the text.
+constexpr double costOfLeadingBit = 0.002;  ///< of advancing one first class at each code point
 /// Expected frequency of a class beyond ASCII.
 constexpr double rareClass = 0.0001;
 
@@ -118,7 +120,7 @@ class ChainTables {
       const bool isFirst = i == 0;
       if (!isFirst) added.span = plus(added.span, link.distance);
       const std::size_t hits = hits_.size();
-      addLink(link, {.distance = isFirst ? chain.lead : link.distance,
+      addLink(link, {.distance = ShortDistance(isFirst ? chain.lead : link.distance),
                      .chain = number,
                      .search = narrowed<std::uint16_t>(search),
                      .reach = narrowed<std::uint16_t>(linkCount_++),
@@ -187,14 +189,8 @@ class LeadingTables {
     const auto leading = leadingClasses(program, program.alternative(chains.front().alternative),
                                         longestLeading, classes_, sets_);
     if (leading.empty()) return false;
-    double cost = costOfRun;
-    for (const ClassBits& bits : leading) {
-      double frequency = 0;
-      for (std::size_t id = 0; id < classes_.count(); ++id)
-        if (hasBit(bits, id)) frequency += frequencies_[id];
-      cost *= std::min(frequency, 1.0);
-    }
-    cost += costOfLeadingBit * static_cast<double>(leading.size());
+    const double cost =
+        costOfMatch * frequencyOf(leading) + costOfLeadingBit * static_cast<double>(leading.size());
     double costOfChains = 0;
     for (const LiteralChain& chain : chains)
       costOfChains += chain.cost;
@@ -243,6 +239,30 @@ class LeadingTables {
   }
 
  private:
+  /// How often a text has these classes side by side, by letters and by common words.
+  [[nodiscard]] double frequencyOf(std::span<const ClassBits> leading) const {
+    std::vector<double> each;
+    for (const ClassBits& bits : leading) {
+      double frequency = 0;
+      for (std::size_t id = 0; id < classes_.count(); ++id)
+        if (hasBit(bits, id)) frequency += frequencies_[id];
+      each.push_back(std::min(frequency, 1.0));
+    }
+    const auto timesRest = [&each](double frequency, std::size_t from) {
+      return std::accumulate(each.begin() + static_cast<std::ptrdiff_t>(from), each.end(),
+                             frequency, std::multiplies<>());
+    };
+    double sum = timesRest(1, 0);
+    for (const CommonWord& word : commonWords()) {
+      const std::u32string_view start = word.word.substr(0, leading.size());
+      const bool isMet = std::ranges::equal(
+          start, leading.first(start.size()),
+          [this](char32_t c, const ClassBits& bits) { return hasBit(bits, classes_.classOf(c)); });
+      if (isMet) sum += timesRest(word.frequency, start.size());
+    }
+    return std::min(sum, 1.0);
+  }
+
   /// Words are advanced in pairs.
   [[nodiscard]] std::size_t words() const { return (classesOfBits_.size() + 127) / 128 * 2; }
 

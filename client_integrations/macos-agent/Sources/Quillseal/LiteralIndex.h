@@ -35,16 +35,17 @@ struct LiteralIndexTable {
     State firstHit = 0;
     State hitCount = 0;
   };
-  /// What a state knows by itself. A full state has a row besides, so that its edges are those of
-  /// symbols without a column.
-  struct Edges {
-    std::uint32_t first;
-    std::uint16_t count;
-    State fallback;  ///< the full state whose row has the other symbols with a column
-  };
   struct Edge {
     Symbol symbol;
     State target;
+  };
+  /// What a state knows by itself. A full state has a row besides, so that its edges are those of
+  /// symbols without a column.
+  struct Edges {
+    Edge onward;     ///< along a literal, so met most; its symbol is `several` when there is none
+    State fallback;  ///< the full state whose row has the other symbols with a column
+    std::uint16_t count;
+    std::uint32_t first;  ///< of the other edges
   };
 
   Layout layout;
@@ -101,10 +102,11 @@ class LiteralIndex {
 
  private:
   [[nodiscard]] State after(State state, Table::Symbol symbol) const {
-    if (state == table_.layout.root) return table_.rootRow[symbol];
+    if (state == table_.layout.root || symbol == 0) return table_.rootRow[symbol];
     const bool hasColumn = symbol < Table::columns;
     if (!hasColumn || state >= table_.layout.fullCount) {
       const Table::Edges& edges = table_.states[state];
+      if (edges.onward.symbol == symbol) return edges.onward.target;
       const Table::Edge* edge = table_.edges.data() + edges.first;
       for (const Table::Edge* const end = edge + edges.count; edge != end; ++edge)
         if (edge->symbol == symbol) return edge->target;

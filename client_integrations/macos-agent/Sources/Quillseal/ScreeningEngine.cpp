@@ -1,13 +1,16 @@
 #include "Quillseal/ScreeningEngine.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <limits>
 #include <new>
 #include <optional>
+#include <utility>
 
 #include "Quillseal/ScreeningTables.h"
 #include "Quillseal/UnicodeText.h"
+#include "Quillseal/WordBits.h"
 
 namespace quillseal::screening {
 namespace {
@@ -108,6 +111,8 @@ class ScreeningEngine::Screening {
   /// ascending, more or less.
   static constexpr std::size_t stretch = 1024;
 
+  static constexpr std::size_t atOnce = 32;  ///< hits that are looked at together
+
   /// How far the pass has come, in the two measures of `Distance`.
   struct Progressed {
     std::uint32_t steps = 0;
@@ -133,60 +138,51 @@ class ScreeningEngine::Screening {
   struct Waiting {
     std::uint32_t start = 0;
     Progressed at{};
-    std::uint32_t next = none;
+    std::uint32_t chain = 0;
   };
 
   struct Progress {
-    std::uint32_t first = none;  ///< of the waiting list
-    std::uint32_t last = none;
+    std::uint32_t completedAt = 0;  ///< steps, when it was last completed
     // Starts within [triedLow, triedHigh] have been tried.
     std::uint32_t triedLow = none;
     std::uint32_t triedHigh = 0;
   };
 
   void findLiterals(std::size_t from, std::size_t to) {
-    for (std::size_t i = from; passToHit(i, to);) {
-      now_.steps = static_cast<std::uint32_t>(i) - place_.skipped;
-      now_.runs = now_.steps - place_.continuedWords;
-      for (const std::uint16_t hit : tables_.index.values(place_.state))
-        if (isArmed(hit)) onHit(hit, i);
-    }
-  }
-
-  /// Moves `i` behind the next code point with which a literal ends; false if there is none up to
-  /// `to`.
-  bool passToHit(std::size_t& i, std::size_t to) {
     const LiteralIndex& index = tables_.index;
     Place place = place_;
-    std::size_t at = i;
-    bool isHit = false;
-    while (at < to && !isHit) {
-      const std::size_t position = at++;
-      if (text_.continuesSpace(position)) {
+    for (std::size_t i = from; i < to; ++i) {
+      if (text_.continuesSpace(i)) {
         ++place.skipped;
-        regularFrom_ = at;
+        regularFrom_ = i + 1;
         continue;
       }
-      place.continuedWords += text_.continuesWord(position) ? 1 : 0;
-      const ClassId id = text_.classAt(position);
-      if (index.isSeveral(id)) regularFrom_ = at;
+      place.continuedWords += text_.continuesWord(i) ? 1 : 0;
+      const ClassId id = text_.classAt(i);
+      if (index.isSeveral(id)) regularFrom_ = i + 1;
       place.state = index.advance(place.state, id);
-      isHit = index.isHit(place.state);
+      if (!index.isHit(place.state)) continue;
+      now_.steps = static_cast<std::uint32_t>(i + 1) - place.skipped;
+      now_.runs = now_.steps - place.continuedWords;
+      for (auto values = index.values(place.state); !values.empty();
+           values = values.subspan(std::min(values.size(), atOnce)))
+        onHits(values.first(std::min(values.size(), atOnce)), i + 1);
     }
     place_ = place;
-    i = at;
-    return isHit;
   }
 
-  // Most hits cannot matter: those of a link whose predecessor has not been met or is too far
-  // behind, and first links behind the match that is known already. They are disarmed until that
-  // changes.
-
-  [[nodiscard]] bool isArmed(std::size_t hit) const {
-    return (armed_[hit / 64] >> (hit % 64) & 1) != 0;
+  /// Those that are armed are set apart first, since which ones are cannot be foreseen and guessing
+  /// wrong costs more than looking.
+  void onHits(std::span<const std::uint16_t> hits, std::size_t end) {
+    std::array<std::uint16_t, atOnce> armed;  // NOLINT(*-member-init): filled from the start on
+    std::size_t count = 0;
+    for (const std::uint16_t hit : hits) {
+      armed[count] = hit;
+      count += hasBit(armed_, hit) ? 1 : 0;
+    }
+    for (std::size_t i = 0; i < count; ++i)
+      onHit(armed[i], end);
   }
-  void arm(std::size_t hit) { armed_[hit / 64] |= std::uint64_t{1} << (hit % 64); }
-  void disarm(std::size_t hit) { armed_[hit / 64] &= ~(std::uint64_t{1} << (hit % 64)); }
 
   void findLeadingClasses(std::size_t from, std::size_t to) {
     // Two words at a time, since neither has to wait for the other.
@@ -226,12 +222,15 @@ class ScreeningEngine::Screening {
     static_assert(unbounded == std::numeric_limits<decltype(distance.steps)>::max());
     return now_.steps - since.steps <= distance.steps && now_.runs - since.runs <= distance.runs;
   }
+  [[nodiscard]] bool isWithin(const ShortDistance& distance, const Progressed& since) const {
+    return isWithin({.steps = distance.steps(), .runs = distance.runs()}, since);
+  }
 
   /// Whether all starts that this hit of a first link could lead to lie behind a known match.
   [[nodiscard]] bool isBehindMatch(const LinkHit& hit) const {
     // There are at least as many code points before the match as there are steps.
     return now_.steps >
-           std::uint64_t{outcomes_[hit.search].start} + hit.distance.steps + hit.length;
+           std::uint64_t{outcomes_[hit.search].start} + hit.distance.steps() + hit.length;
   }
 
   void onHit(std::size_t number, std::size_t end) {
@@ -239,7 +238,7 @@ class ScreeningEngine::Screening {
     const LinkHit& hit = table_.hits[number];
     const bool isFirst = hit.has(LinkHit::first);
     if (isFirst ? isBehindMatch(hit) : !isWithin(hit.distance, reached_[hit.reach - 1])) {
-      disarm(number);
+      clearBit(armed_, number);
       return;
     }
     if (hit.has(LinkHit::boundaryAfter) && !text_.isWordBoundary(end)) return;
@@ -249,8 +248,7 @@ class ScreeningEngine::Screening {
       if (hit.has(LinkHit::boundaryBefore) && !text_.isWordBoundary(start)) return;
     }
     reached_[hit.reach] = now_;
-    for (std::size_t next = hit.nextHit; next < hit.nextHit + hit.nextCount; ++next)
-      arm(next);
+    setBits(armed_, hit.nextHit, hit.nextCount);
     const bool isLast = hit.nextCount == 0;
     if (isFirst && isLast) {
       tryBefore(hit.chain, start);
@@ -279,40 +277,28 @@ class ScreeningEngine::Screening {
     return static_cast<std::uint32_t>(start);
   }
 
-  void wait(std::uint32_t chainNumber, std::uint32_t start) {
-    Progress& progress = progress_[chainNumber];
-    // Those that are too far behind for the rest of the chain.
-    while (progress.first != none &&
-           !isWithin(table_.chains[chainNumber].span, waiting_[progress.first].at))
-      release(progress);
-    std::uint32_t slot = freeSlot_;
-    if (slot == none) {
-      slot = static_cast<std::uint32_t>(waiting_.size());
-      waiting_.emplace_back();
-    } else {
-      freeSlot_ = waiting_[slot].next;
+  void wait(std::uint32_t chain, std::uint32_t start) {
+    if (waiting_.size() == waitingLimit_) {
+      std::erase_if(waiting_, [this](const Waiting& waiting) {
+        return !isWithin(table_.chains[waiting.chain].span, waiting.at);
+      });
+      steps_ += waitingLimit_;
+      waitingLimit_ = std::max(waitingLimit_, 2 * waiting_.size());
     }
-    waiting_[slot] = {.start = start, .at = now_};
-    (progress.first == none ? progress.first : waiting_[progress.last].next) = slot;
-    progress.last = slot;
+    waiting_.push_back({.start = start, .at = now_, .chain = chain});
   }
 
-  void release(Progress& progress) {
-    const std::uint32_t slot = progress.first;
-    progress.first = waiting_[slot].next;
-    waiting_[slot].next = freeSlot_;
-    freeSlot_ = slot;
-    ++steps_;
-  }
-
-  void complete(std::uint32_t chainNumber) {
-    Progress& progress = progress_[chainNumber];
-    while (progress.first != none) {
-      const Waiting waiting = waiting_[progress.first];
-      release(progress);
-      if (isWithin(table_.chains[chainNumber].span, waiting.at))
-        tryBefore(chainNumber, waiting.start);
-    }
+  /// Tries all first links since the chain was last completed that are near enough.
+  void complete(std::uint32_t chain) {
+    const Distance& span = table_.chains[chain].span;
+    const std::uint32_t since = std::exchange(progress_[chain].completedAt, now_.steps);
+    std::size_t first = waiting_.size();
+    while (first > 0 && waiting_[first - 1].at.steps >= since &&
+           isWithin(span, waiting_[first - 1].at))
+      --first;
+    steps_ += waiting_.size() - first;
+    for (; first < waiting_.size(); ++first)
+      if (waiting_[first].chain == chain) tryBefore(chain, waiting_[first].start);
   }
 
   /// Tries all starts from which the first link at `literalStart` may be reached.
@@ -402,10 +388,13 @@ class ScreeningEngine::Screening {
   std::vector<Progress> progress_;
   std::vector<std::uint64_t> leading_;
   Place place_;
-  std::vector<std::uint64_t> armed_;  ///< by hit
-  std::vector<Progressed> reached_;   ///< by link
-  std::vector<Waiting> waiting_;
-  std::uint32_t freeSlot_ = none;
+  /// By hit. Most cannot matter: those of a link whose predecessor has not been met or is too far
+  /// behind, and first links behind the match that is known already. They are disarmed until that
+  /// changes.
+  std::vector<std::uint64_t> armed_;
+  std::vector<Progressed> reached_;  ///< by link
+  std::vector<Waiting> waiting_;     ///< in the order in which they were met
+  std::size_t waitingLimit_ = 4096;  ///< when those too far behind are dropped
   BacktrackStack stack_;
   Progressed now_;
   std::size_t regularFrom_ = 0;  ///< from here on every code point has been one letter

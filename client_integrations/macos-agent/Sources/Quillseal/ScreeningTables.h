@@ -22,9 +22,33 @@ struct Distance {
   [[nodiscard]] bool isUnbounded() const { return steps == unbounded && runs == unbounded; }
 };
 
-/// One link of one chain of literals, as the literal index reports it.
-struct LinkHit {
-  Distance distance{};  ///< from the end of the link before, or from the start of the match
+/// A distance in half the space: what is too long for it is unbounded.
+class ShortDistance {
+ public:
+  ShortDistance() = default;
+  explicit ShortDistance(const Distance& distance)
+      : steps_(shortened(distance.steps)), runs_(shortened(distance.runs)) {}
+
+  [[nodiscard]] std::uint32_t steps() const { return restored(steps_); }
+  [[nodiscard]] std::uint32_t runs() const { return restored(runs_); }
+
+ private:
+  static constexpr std::uint16_t endless = 0xFFFF;
+  static std::uint16_t shortened(std::uint32_t length) {
+    return length < endless ? static_cast<std::uint16_t>(length) : endless;
+  }
+  static std::uint32_t restored(std::uint16_t length) {
+    return length == endless ? unbounded : length;
+  }
+
+  std::uint16_t steps_ = 0;
+  std::uint16_t runs_ = 0;
+};
+
+/// One link of one chain of literals, as the literal index reports it. A text dense in literals
+/// reads them in no order, so that each should lie in one line of the cache.
+struct alignas(16) LinkHit {
+  ShortDistance distance{};  ///< from the end of the link before, or from the start of the match
   std::uint16_t chain = 0;
   std::uint16_t search = 0;
   std::uint16_t reach = 0;      ///< its place among the links of all chains
@@ -40,6 +64,7 @@ struct LinkHit {
 
   [[nodiscard]] bool has(std::uint8_t property) const { return (properties & property) != 0; }
 };
+static_assert(sizeof(LinkHit) == 16);
 
 /// Literals in order that every match of an alternative contains.
 struct Chain {

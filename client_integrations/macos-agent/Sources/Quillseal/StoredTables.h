@@ -29,7 +29,7 @@ template <typename T>
 concept Storable = std::is_trivially_copyable_v<T> && std::has_unique_object_representations_v<T>;
 
 /// Every part begins at a multiple of this many bytes.
-inline constexpr std::size_t tableAlignment = 8;
+inline constexpr std::size_t tableAlignment = 16;
 
 constexpr std::size_t alignedTableSize(std::size_t size) {
   return (size + tableAlignment - 1) / tableAlignment * tableAlignment;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 
@@ -12,6 +13,20 @@ constexpr bool hasBit(const auto& words, std::size_t bit) {
 
 constexpr void setBit(auto& words, std::size_t bit) {
   words[bit / 64] |= std::uint64_t{1} << (bit % 64);
+}
+
+constexpr void clearBit(auto& words, std::size_t bit) {
+  words[bit / 64] &= ~(std::uint64_t{1} << (bit % 64));
+}
+
+/// Sets `count` bits from `first` on.
+constexpr void setBits(auto& words, std::size_t first, std::size_t count) {
+  for (const std::size_t end = first + count; first < end;) {
+    const std::size_t within = first % 64;
+    const std::size_t here = std::min(end - first, 64 - within);
+    words[first / 64] |= ~std::uint64_t{0} >> (64 - here) << within;
+    first += here;
+  }
 }
 
 }  // namespace quillseal::screening

@@ -3,6 +3,7 @@
 #include <functional>
 #include <iostream>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -47,6 +48,10 @@ const desktop::RunningApplication chromeRunning{.instance = 2,
 const desktop::InstalledApplication chromeInstalled{.location = "Chrome.app",
                                                     .bundleIdentifier = "com.google.Chrome"};
 
+bool wroteBlock(const FakeDesktop& desktop) {
+  return desktop.clipboard.text && desktop.clipboard.text->starts_with("『");
+}
+
 class SigningCoordinatorTest : public ::testing::Test {
  protected:
   SigningCoordinatorTest() {
@@ -75,47 +80,38 @@ class SigningCoordinatorTest : public ::testing::Test {
     sign();
   }
 
-  [[nodiscard]] bool wroteBlock() const {
-    return desktop_.clipboard.text && desktop_.clipboard.text->rfind("『", 0) == 0;
-  }
-
   FakeDesktop desktop_;
   std::unique_ptr<SigningCoordinator> coordinator_ =
       std::make_unique<SigningCoordinator>(desktop_.services());
 };
 
 TEST_F(SigningCoordinatorTest, SignsWithTheDeviceKey) {
+  const std::string digest = CryptoManager::sha256Hex(CryptoManager::normalizeText(text));
   desktop_.strings["BoundIdentity"] = "Ada";
   sign();
   EXPECT_THAT(desktop_.trace,
               ElementsAre("press ⌘C",
                           "log: [sign] 0 image reference(s), manifest "
                           "393f8dc027605e4da96dc1d5973f18169c748ea4551a80451bfb6a0410fc02ee",
-                          "log: [sign] 18 words / 70 normalized characters / digest " +
-                              CryptoManager::sha256Hex(CryptoManager::normalizeText(text)),
+                          "log: [sign] 18 words / 70 normalized characters / digest " + digest,
                           "prompt: Sign " + subject + " as Ada", "POST /api/sign_native",
                           "write clipboard", "press ⌘V", notification));
   EXPECT_THAT(*desktop_.clipboard.text, StartsWith("『" + text + "』\n\n"));
   EXPECT_THAT(*desktop_.clipboard.text, HasSubstr("· Email Message (Mail) · 1 March 2026\n"));
   EXPECT_THAT(*desktop_.clipboard.text, EndsWith("/verify/sig-1"));
-}
 
-TEST_F(SigningCoordinatorTest, BindsWhatItSends) {
-  desktop_.strings["BoundIdentity"] = "Ada";
-  sign();
-  ASSERT_EQ(desktop_.sentTo("/api/sign_native").size(), 1U);
   const std::string body = desktop_.sentTo("/api/sign_native").front();
   const std::size_t nonce = body.find("\"nonce\":\"") + 9;
-  const std::string payload = CryptoManager::canonicalV3(
-      {.textDigest = CryptoManager::sha256Hex(CryptoManager::normalizeText(text)),
-       .issued = "2026-03-01",
-       .scope = "Email Message (Mail)",
-       .snapshotDigest = "",
-       .identity = "Ada",
-       .signerKey = "MACHINE-1",
-       .expires = "2026-03-08",
-       .nonce = std::string_view(body).substr(nonce, 32),
-       .commitment = "statement"});
+  const std::string payload =
+      CryptoManager::canonicalV3({.textDigest = digest,
+                                  .issued = "2026-03-01",
+                                  .scope = "Email Message (Mail)",
+                                  .snapshotDigest = "",
+                                  .identity = "Ada",
+                                  .signerKey = "MACHINE-1",
+                                  .expires = "2026-03-08",
+                                  .nonce = std::string_view(body).substr(nonce, 32),
+                                  .commitment = "statement"});
   const std::string signature = base64(*SecureEnclaveManager::bytesFromHex(payload));
   EXPECT_THAT(body, HasSubstr("\"enclave_signature\":\"" + signature + "\""));
 }
@@ -129,17 +125,6 @@ TEST_F(SigningCoordinatorTest, MakesADemonstrationRecord) {
   EXPECT_THAT(desktop_.trace,
               Contains("log: [demo] simulated signature demo-1 — not evidence of anything"));
   EXPECT_THAT(desktop_.sentTo("/api/sign_demo").front(), HasSubstr("\"method\":\"Touch ID\""));
-}
-
-TEST_F(SigningCoordinatorTest, EndsADemonstrationWithoutPresence) {
-  desktop_.flags = {"DemoSigning"};
-  desktop_.presence = false;
-  sign();
-  EXPECT_EQ(desktop_.userTrace().back(), "presence: Sign " + subject);
-  desktop_.presence = Error({.domain = "LA", .code = -2, .description = "Canceled by user."});
-  sign();
-  EXPECT_EQ(desktop_.userTrace().back(), "alert: Signing Error | Canceled by user.");
-  EXPECT_FALSE(wroteBlock());
 }
 
 TEST_F(SigningCoordinatorTest, SignsInTheBrowserAndPastesElsewhere) {
@@ -184,7 +169,7 @@ TEST_F(SigningCoordinatorTest, LeavesTheBlockOnTheClipboardWhenTheTabIsLost) {
             "signed, and press ⌘V.\n\nQuillseal cannot paste it for you here: the signing page "
             "opened in the same browser, so it would land in the wrong tab.");
   EXPECT_THAT(desktop_.trace, Not(Contains("press ⌘V")));
-  EXPECT_TRUE(wroteBlock());
+  EXPECT_TRUE(wroteBlock(desktop_));
 }
 
 TEST_F(SigningCoordinatorTest, StopsWaitingForTheBrowser) {
@@ -194,11 +179,7 @@ TEST_F(SigningCoordinatorTest, StopsWaitingForTheBrowser) {
               StartsWith("alert: Still Waiting | Quillseal stopped waiting"));
   EXPECT_EQ(desktop_.sentTo("/api/handoff/poll").size(), 285U);
   EXPECT_GE(desktop_.loop.elapsed(), 570s);
-
-  desktop_.answers["/api/handoff/poll"] = {{200, R"({"status":"expired"})"}};
-  signInBrowser();
-  EXPECT_THAT(desktop_.trace.back(), StartsWith("alert: Signing Request Expired | The request"));
-  EXPECT_FALSE(wroteBlock());
+  EXPECT_FALSE(wroteBlock(desktop_));
 }
 
 TEST_F(SigningCoordinatorTest, OpensWhicheverBrowserThereIs) {
@@ -256,6 +237,26 @@ TEST_F(SigningCoordinatorTest, StopsEarlyAndTellsWhy) {
          d.cancelsCreation = true;
        },
        "log: [sign] called off by the user"},
+      {"demonstration without presence",
+       [](FakeDesktop& d) {
+         d.flags = {"DemoSigning"};
+         d.presence = false;
+       },
+       "presence: Sign " + subject},
+      {"demonstration called off",
+       [](FakeDesktop& d) {
+         d.flags = {"DemoSigning"};
+         d.presence = Error({.domain = "LA", .code = -2, .description = "Canceled by user."});
+       },
+       "alert: Signing Error | Canceled by user."},
+      {"expired in the browser",
+       [](FakeDesktop& d) {
+         d.strings["SigningMode"] = "handoff";
+         d.hasKey = false;
+         d.answers["/api/handoff/poll"] = {{200, R"({"status":"expired"})"}};
+       },
+       "alert: Signing Request Expired | The request timed out before it was signed. Nothing was "
+       "signed. Select your text and press ⌘⌥⌃H again."},
   };
   for (const EarlyStop& c : cases) {
     FakeDesktop desktop;
@@ -315,18 +316,16 @@ TEST_F(SigningCoordinatorTest, RefusesIdentifiersThatCouldBreakOut) {
     EXPECT_THAT(desktop_.trace.back(), StartsWith("alert: Signing Error | The server answered"));
   }
   EXPECT_THAT(desktop_.trace, Not(Contains(StartsWith("open "))));
-  EXPECT_FALSE(wroteBlock());
+  EXPECT_FALSE(wroteBlock(desktop_));
 }
 
 TEST_F(SigningCoordinatorTest, RefusesASigningPageThatIsNone) {
-  desktop_.answers["/api/handoff/create"] = {
-      {200, R"json({"url":"javascript:alert(1)","handoff_id":"H"})json"}};
-  signInBrowser();
-  EXPECT_EQ(desktop_.trace.back(), "alert: Signing Error | Could not build the signing URL.");
-  desktop_.answers["/api/handoff/create"] = {
-      {200, R"({"handoff_id":"H","url":"https://s/)" + std::string(1'000'000, 'a') + "\"}"}};
-  signInBrowser();
-  EXPECT_EQ(desktop_.trace.back(), "alert: Signing Error | Could not build the signing URL.");
+  for (const std::string& url :
+       {std::string("javascript:alert(1)"), "https://s/" + std::string(1'000'000, 'a')}) {
+    desktop_.answers["/api/handoff/create"] = {{200, R"({"handoff_id":"H","url":")" + url + "\"}"}};
+    signInBrowser();
+    EXPECT_EQ(desktop_.trace.back(), "alert: Signing Error | Could not build the signing URL.");
+  }
   EXPECT_THAT(desktop_.trace, Not(Contains(StartsWith("open "))));
 }
 
@@ -503,7 +502,7 @@ TEST_F(SigningCoordinatorTest, TwoRunsKeepToTheirOwnTabs) {
   coordinator_->startSigning();
   coordinator_->startSigning();
   desktop_.loop.run();
-  EXPECT_EQ(std::count(desktop_.trace.begin(), desktop_.trace.end(), notification), 2);
+  EXPECT_EQ(std::ranges::count(desktop_.trace, notification), 2);
   EXPECT_THAT(desktop_.trace, Contains(HasSubstr("\"/handoff?h=H1\"")).Times(1));
   EXPECT_THAT(desktop_.trace, Contains(HasSubstr("\"/handoff?h=H2\"")).Times(1));
 }
@@ -513,19 +512,17 @@ TEST_F(SigningCoordinatorTest, TwoFirstRunsMakeOneKey) {
   coordinator_->startSigning();
   coordinator_->startSigning();
   desktop_.loop.run();
-  EXPECT_EQ(std::count(desktop_.trace.begin(), desktop_.trace.end(), "create key"), 1);
-  EXPECT_EQ(std::count(desktop_.trace.begin(), desktop_.trace.end(), notification), 2);
+  EXPECT_EQ(std::ranges::count(desktop_.trace, "create key"), 1);
+  EXPECT_EQ(std::ranges::count(desktop_.trace, notification), 2);
 }
 
 TEST_F(SigningCoordinatorTest, AFirstRunLeavesAKeyThatIsBeingEnrolledAlone) {
   desktop_.hasKey = false;
   TaskScope settings;
   settings.start(coordinator_->enrolDevice());
-  coordinator_->startSigning();
-  desktop_.loop.run();
-  EXPECT_EQ(std::count(desktop_.trace.begin(), desktop_.trace.end(), "create key"), 1);
-  EXPECT_EQ(std::count(desktop_.trace.begin(), desktop_.trace.end(), "POST /api/register_native"),
-            1);
+  sign();
+  EXPECT_EQ(std::ranges::count(desktop_.trace, "create key"), 1);
+  EXPECT_EQ(std::ranges::count(desktop_.trace, "POST /api/register_native"), 1);
 }
 
 /// Everything a run can do, in one: enrolment, recovery, dialogs, the way back to the tab.
@@ -542,25 +539,6 @@ void makeEventful(FakeDesktop& desktop, int kind) {
   if (kind == 2) desktop.flags.insert("DemoSigning");
 }
 
-TEST(SigningRuns, EndWhereTheyWaitWhenTheAgentQuits) {
-  for (int kind = 0; kind < 3; ++kind) {
-    bool isDone = false;
-    for (int steps = 0; !isDone; ++steps) {
-      FakeDesktop desktop;
-      makeEventful(desktop, kind);
-      {
-        SigningCoordinator coordinator(desktop.services());
-        coordinator.startSigning();
-        for (int i = 0; i < steps && !isDone; ++i)
-          isDone = !desktop.loop.step();
-      }
-      const Lines before = desktop.trace;
-      desktop.loop.run();
-      EXPECT_EQ(desktop.trace, before) << "kind " << kind << ", step " << steps;
-    }
-  }
-}
-
 /// What a run of each kind does when `happening` comes after each of its steps in turn.
 template <typename Happening, typename Check>
 void interruptEverywhere(Happening happening, Check check) {
@@ -569,11 +547,11 @@ void interruptEverywhere(Happening happening, Check check) {
     for (int steps = 0; !isDone; ++steps) {
       FakeDesktop desktop;
       makeEventful(desktop, kind);
-      SigningCoordinator coordinator(desktop.services());
-      coordinator.startSigning();
+      std::optional<SigningCoordinator> coordinator(std::in_place, desktop.services());
+      coordinator->startSigning();
       for (int i = 0; i < steps && !isDone; ++i)
         isDone = !desktop.loop.step();
-      happening(desktop);
+      happening(desktop, coordinator);
       desktop.loop.run();
       SCOPED_TRACE("kind " + std::to_string(kind) + ", step " + std::to_string(steps));
       check(desktop);
@@ -581,11 +559,21 @@ void interruptEverywhere(Happening happening, Check check) {
   }
 }
 
+TEST(SigningRuns, EndWhereTheyWaitWhenTheAgentQuits) {
+  Lines before;
+  interruptEverywhere(
+      [&](const FakeDesktop& desktop, auto& coordinator) {
+        coordinator.reset();
+        before = desktop.trace;
+      },
+      [&](const FakeDesktop& desktop) { EXPECT_EQ(desktop.trace, before); });
+}
+
 // A record and its block name one day, and the key signs it, whenever the clock is set.
 TEST(SigningRuns, NameOneDayWhateverTheClockDoes) {
   for (const char* date : {"2026-03-02", "1999-12-31"}) {
     interruptEverywhere(
-        [&](FakeDesktop& desktop) { desktop.date = date; },
+        [&](FakeDesktop& desktop, auto&) { desktop.date = date; },
         [&](FakeDesktop& desktop) {
           std::set<std::string> days;
           for (const char* path : {"/api/sign_native", "/api/sign_demo", "/api/handoff/create"}) {
@@ -601,7 +589,7 @@ TEST(SigningRuns, NameOneDayWhateverTheClockDoes) {
 
 // A clock that goes on while the machine sleeps makes every wait overdue at once.
 TEST(SigningRuns, OutliveASuspendedMachine) {
-  interruptEverywhere([](FakeDesktop& desktop) { desktop.loop.leap(8h); },
+  interruptEverywhere([](FakeDesktop& desktop, auto&) { desktop.loop.leap(8h); },
                       [](FakeDesktop& desktop) {
                         const Lines told = desktop.userTrace();
                         ASSERT_FALSE(told.empty());
@@ -650,14 +638,13 @@ TEST(SigningRuns, TellTheUserWhicheverCallFails) {
       const std::string where = "kind " + std::to_string(kind) + ", call " +
                                 std::to_string(failing) + ": " + desktop.failedCall;
       const Lines told = desktop.userTrace();
-      const bool isTold = std::any_of(told.begin(), told.end(), [](const std::string& line) {
-        return line.rfind("alert: ", 0) == 0 || line.rfind("notify: ", 0) == 0;
+      const bool isTold = std::ranges::any_of(told, [](const std::string& line) {
+        return line.starts_with("alert: ") || line.starts_with("notify: ");
       });
       EXPECT_TRUE(isTold || desktop.failedCall == "notify") << where;
-      const bool isBlock = desktop.clipboard.text && desktop.clipboard.text->rfind("『", 0) == 0;
-      const bool wrote = std::find(told.begin(), told.end(), "write clipboard") != told.end();
-      EXPECT_EQ(isBlock, wrote) << where;
-      EXPECT_TRUE(wrote || std::find(told.begin(), told.end(), "press ⌘V") == told.end()) << where;
+      const bool wrote = std::ranges::count(told, "write clipboard") > 0;
+      EXPECT_EQ(wroteBlock(desktop), wrote) << where;
+      EXPECT_TRUE(wrote || std::ranges::count(told, "press ⌘V") == 0) << where;
     }
   }
 }

@@ -516,13 +516,14 @@ TEST_F(SigningCoordinatorTest, TwoFirstRunsMakeOneKey) {
   EXPECT_EQ(std::ranges::count(desktop_.trace, notification), 2);
 }
 
-TEST_F(SigningCoordinatorTest, AFirstRunLeavesAKeyThatIsBeingEnrolledAlone) {
+TEST_F(SigningCoordinatorTest, AFirstRunUsesNoKeyWhoseEnrolmentMayFail) {
   desktop_.hasKey = false;
+  desktop_.answers["/api/register_native"] = {{500, R"({"error":"Not now."})"}};
   TaskScope settings;
   settings.start(coordinator_->enrolDevice());
   sign();
-  EXPECT_EQ(std::ranges::count(desktop_.trace, "create key"), 1);
-  EXPECT_EQ(std::ranges::count(desktop_.trace, "POST /api/register_native"), 1);
+  EXPECT_THAT(desktop_.trace, Contains("alert: Enrolment Failed | Not now."));
+  EXPECT_EQ(std::ranges::count(desktop_.trace, "create key"), 2) << "the first is gone";
 }
 
 /// Everything a run can do, in one: enrolment, recovery, dialogs, the way back to the tab.

@@ -4,8 +4,15 @@
 
 namespace quillseal {
 
-/// Whether the session bus lets a program in within `patience`; true as well when there is none,
-/// for which nobody waits. Qt waits for it without end, while it makes the application.
-[[nodiscard]] bool sessionBusAnswers(std::chrono::milliseconds patience);
+/// What Qt would wait for on the main thread: for the bus without end, while it makes the
+/// application; for the service that tells about screen readers 50 seconds, when the event loop
+/// begins. What does not exist counts as answering, since nobody waits for that.
+struct SessionBusState {
+  bool busAnswers = true;
+  bool accessibilityAnswers = true;
+};
+
+/// Gives each of them `patience`.
+[[nodiscard]] SessionBusState examineSessionBus(std::chrono::milliseconds patience);
 
 }  // namespace quillseal

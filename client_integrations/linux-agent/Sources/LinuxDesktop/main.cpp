@@ -286,7 +286,9 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
   qputenv("TSS2_LOG", "all+none");
 
   constexpr std::chrono::seconds patience{5};
-  if (!quillseal::sessionBusAnswers(patience)) qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+  const quillseal::SessionBusState sessionBus = quillseal::examineSessionBus(patience);
+  if (!sessionBus.busAnswers) qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+  if (!sessionBus.accessibilityAnswers) qputenv("AT_SPI_BUS_ADDRESS", "disabled:");
   // It has nothing to say to the agent, and Qt would wait for its first word without end.
   QApplication::setAttribute(Qt::AA_DisableSessionManager);
 

@@ -75,7 +75,13 @@ class MuteService:
         self.dbus.dbus_connection_close(self.connection)
 
 
-class Faults(Story):
+class Fault(Story):
+    def mute(self, name):
+        """A service of the session bus."""
+        return MuteService(self.desktop.env["DBUS_SESSION_BUS_ADDRESS"], name)
+
+
+class Faults(Fault):
     def rival(self):
         rival = Rival(self.desktop.env["DISPLAY"])
         self.addCleanup(rival.close)
@@ -189,6 +195,11 @@ class Faults(Story):
         self.desktop.start_agent()
         self.desktop.wait_for_log("there is no session bus", "the agent says what will be missing")
 
+    def test_the_accessibility_service_never_answers(self):
+        self.mute("org.a11y.Bus")
+        self.start()
+        self.assert_signed(self.sign_in_editor())
+
     def test_the_home_cannot_be_written(self):
         self.desktop.env["XDG_DATA_HOME"] = "/dev/null/data"
         self.desktop.env["XDG_CONFIG_HOME"] = "/dev/null/config"
@@ -273,7 +284,7 @@ class Faults(Story):
                   "the hotkey works now")
 
 
-class Panel(Story):
+class Panel(Fault):
     panel = True
 
     def test_the_panel_dies(self):
@@ -282,11 +293,9 @@ class Panel(Story):
         self.assert_signed(self.sign_in_editor())
 
     def test_the_panel_never_answers(self):
-        panel = MuteService(self.desktop.env["DBUS_SESSION_BUS_ADDRESS"],
-                            "org.kde.StatusNotifierWatcher")
+        panel = self.mute("org.kde.StatusNotifierWatcher")
         began = time.monotonic()
         self.start()
-        self.desktop.run(self.desktop.quillseal, "--settings")
         self.assertLess(time.monotonic() - began, 20)  # the toolkit would wait for 25
         self.assert_signed(self.sign_in_editor())
         self.assertFalse(self.has_shield())

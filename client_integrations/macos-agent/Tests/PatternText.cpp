@@ -38,24 +38,24 @@ char32_t memberOf(const screening::CodePointRanges& ranges, std::mt19937& random
 void appendWay(const Node& node, const screening::SetTable& sets, std::mt19937& random,
                std::string& text) {
   switch (node.kind) {
-    case Node::Kind::Set:
+    case Node::Kind::set:
       unicode::append(text, memberOf(sets[node.set], random));
       break;
-    case Node::Kind::FoldedText:
+    case Node::Kind::foldedText:
       for (const char32_t c : node.text)
         unicode::append(text, c);
       break;
-    case Node::Kind::Alternatives:
+    case Node::Kind::alternatives:
       appendWay(node.children[below(random, node.children.size())], sets, random, text);
       break;
-    case Node::Kind::Repetition: {
+    case Node::Kind::repetition: {
       const std::size_t most =
           std::min<std::size_t>(node.max - node.min, chance(random, 12) ? 150 : 3);
       for (std::size_t i = node.min + below(random, most + 1); i > 0; --i)
         appendWay(node.children.front(), sets, random, text);
       break;
     }
-    case Node::Kind::LookAhead:
+    case Node::Kind::lookAhead:
       if (node.negative && !chance(random, 3)) break;
       [[fallthrough]];
     default:
@@ -116,7 +116,7 @@ void collectParts(const Node& node, const screening::SetTable& sets,
   std::string part;
   for (const char32_t c : node.text)
     unicode::append(part, c);
-  if (node.kind == Node::Kind::Set && !sets[node.set].empty()) {
+  if (node.kind == Node::Kind::set && !sets[node.set].empty()) {
     const auto& ranges = sets[node.set];
     unicode::append(part, ranges[ranges.size() / 2].first);
   }
@@ -130,7 +130,7 @@ void collectParts(const Node& node, const screening::SetTable& sets,
 
 PatternText::PatternText(std::span<const screening::Pattern> patterns) {
   for (const screening::Pattern& pattern : patterns)
-    nodes_.push_back(screening::parsePattern(pattern.expression, pattern.caseInsensitive, sets_));
+    nodes_.push_back(screening::parsePattern(pattern, sets_));
 }
 
 std::string PatternText::along(std::size_t pattern, std::mt19937& random) const {

@@ -234,9 +234,9 @@ std::vector<char32_t> fewCodePoints(const CodePointRanges& ranges) {
 }
 
 void collectAlphabet(const Node& node, const SetTable& sets, std::vector<char32_t>& alphabet) {
-  if (node.kind == Node::Kind::FoldedText)
+  if (node.kind == Node::Kind::foldedText)
     alphabet.insert(alphabet.end(), node.text.begin(), node.text.end());
-  if (node.kind == Node::Kind::Set) {
+  if (node.kind == Node::Kind::set) {
     for (const char32_t c : fewCodePoints(sets[node.set])) {
       const std::u32string folded = fullFolding(c);
       alphabet.insert(alphabet.end(), folded.begin(), folded.end());

@@ -97,16 +97,17 @@ icu::UnicodeSet simpleFoldings(UChar32 folded) {
 
 /// A sequence of one is what it consists of.
 Node withoutSequence(Node node) {
-  if (node.kind != Node::Kind::Sequence || node.children.size() != 1) return node;
+  if (node.kind != Node::Kind::sequence || node.children.size() != 1) return node;
   return std::move(node.children.front());
 }
 
 class Parser {
  public:
-  Parser(std::string_view pattern, bool caseInsensitive, SetTable& sets)
-      : caseInsensitive_(caseInsensitive), sets_(sets) {
-    const auto units =
-        icu::UnicodeString::fromUTF8({pattern.data(), static_cast<std::int32_t>(pattern.size())});
+  Parser(const Pattern& pattern, SetTable& sets)
+      : caseInsensitive_(pattern.caseInsensitive), sets_(sets) {
+    const std::string_view expression = pattern.expression;
+    const auto units = icu::UnicodeString::fromUTF8(
+        {expression.data(), static_cast<std::int32_t>(expression.size())});
     for (std::int32_t i = 0; i < units.length(); i = units.moveIndex32(i, 1))
       pattern_.push_back(static_cast<char32_t>(units.char32At(i)));
   }
@@ -134,7 +135,7 @@ class Parser {
   }
 
   Node alternatives() {
-    Node node{.kind = Node::Kind::Alternatives};
+    Node node{.kind = Node::Kind::alternatives};
     do {
       node.children.push_back(sequence());
     } while (next(U"|"));
@@ -145,7 +146,7 @@ class Parser {
   // Adjacent literal characters are one string for case folding: ß matches "ss" but not two
   // separate s. A quantifier takes the last character out of the string, as ICU does.
   Node sequence() {
-    Node node{.kind = Node::Kind::Sequence};
+    Node node{.kind = Node::Kind::sequence};
     std::u32string literal;
     while (!ended() && pattern_[at_] != U'|' && pattern_[at_] != U')') {
       if (pattern_[at_] == U'[') flush(literal, node);
@@ -153,7 +154,7 @@ class Parser {
         if (atQuantifier()) {
           flush(literal, node);
           literal.push_back(*character);
-          Node single{.kind = Node::Kind::Sequence};
+          Node single{.kind = Node::Kind::sequence};
           flush(literal, single);
           node.children.push_back(quantified(std::move(single)));
         } else {
@@ -176,7 +177,7 @@ class Parser {
     literal.clear();
     if (caseInsensitive_) text.foldCase(U_FOLD_CASE_DEFAULT);
     if (caseInsensitive_ && text.countChar32() > 1) {
-      Node node{.kind = Node::Kind::FoldedText};
+      Node node{.kind = Node::Kind::foldedText};
       for (std::int32_t i = 0; i < text.length(); i = text.moveIndex32(i, 1))
         node.text.push_back(static_cast<char32_t>(text.char32At(i)));
       into.children.push_back(std::move(node));
@@ -190,7 +191,7 @@ class Parser {
   }
 
   Node setNode(const icu::UnicodeSet& set) {
-    return {.kind = Node::Kind::Set, .set = sets_.intern(rangesOf(set))};
+    return {.kind = Node::Kind::set, .set = sets_.intern(rangesOf(set))};
   }
 
   [[nodiscard]] bool atQuantifier() const {
@@ -201,7 +202,7 @@ class Parser {
   Node quantified(Node node) {
     node = withoutSequence(std::move(node));
     while (atQuantifier()) {
-      Node repetition{.kind = Node::Kind::Repetition, .min = 0, .max = unbounded};
+      Node repetition{.kind = Node::Kind::repetition, .min = 0, .max = unbounded};
       switch (take()) {
         case U'+':
           repetition.min = 1;
@@ -246,14 +247,14 @@ class Parser {
   static bool matchesNothing(const Node& node) {
     const auto empty = [](const Node& child) { return matchesNothing(child); };
     switch (node.kind) {
-      case Node::Kind::Set:
-      case Node::Kind::FoldedText:
+      case Node::Kind::set:
+      case Node::Kind::foldedText:
         return false;
-      case Node::Kind::LookAhead:
+      case Node::Kind::lookAhead:
         return true;
-      case Node::Kind::Alternatives:
+      case Node::Kind::alternatives:
         return std::any_of(node.children.begin(), node.children.end(), empty);
-      case Node::Kind::Repetition:
+      case Node::Kind::repetition:
         return node.min == 0 || matchesNothing(node.children.front());
       default:
         return std::all_of(node.children.begin(), node.children.end(), empty);
@@ -290,9 +291,9 @@ class Parser {
       case U'[':
         return setNode(setExpression());
       case U'^':
-        return {.kind = Node::Kind::TextStart};
+        return {.kind = Node::Kind::textStart};
       case U'$':
-        return {.kind = Node::Kind::TextEnd};
+        return {.kind = Node::Kind::textEnd};
       case U'.':
         return setNode(setFrom(R"([^\n\u000b\f\r\u0085\u2028\u2029])"));
       case U'\\':
@@ -307,14 +308,14 @@ class Parser {
     if (next(U"?:") || ended() || pattern_[at_] != U'?') {
       node = alternatives();
     } else if (next(U"?=") || next(U"?!")) {
-      node.kind = Node::Kind::LookAhead;
+      node.kind = Node::Kind::lookAhead;
       node.negative = pattern_[at_ - 1] == U'!';
       node.children.push_back(alternatives());
     } else if (next(U"?<=") || next(U"?<!")) {
       const bool negative = pattern_[at_ - 1] == U'!';
       node = withoutSequence(alternatives());
-      if (node.kind != Node::Kind::Set) fail("only one character can be looked back at");
-      node.kind = Node::Kind::PrecedingInSet;
+      if (node.kind != Node::Kind::set) fail("only one character can be looked back at");
+      node.kind = Node::Kind::precedingInSet;
       node.negative = negative;
     } else {
       fail("this group is not offered");
@@ -371,13 +372,13 @@ class Parser {
     switch (pattern_[at_]) {
       case U'b':
       case U'B':
-        return {.kind = Node::Kind::WordBoundary, .negative = take() == U'B'};
+        return {.kind = Node::Kind::wordBoundary, .negative = take() == U'B'};
       case U'A':
         ++at_;
-        return {.kind = Node::Kind::TextStart};
+        return {.kind = Node::Kind::textStart};
       case U'z':
         ++at_;
-        return {.kind = Node::Kind::AbsoluteEnd};
+        return {.kind = Node::Kind::absoluteEnd};
       default:
         return setNode(escapedSet());
     }
@@ -454,8 +455,8 @@ std::size_t SetTable::intern(CodePointRanges ranges) {
   return sets_.size() - 1;
 }
 
-Node parsePattern(std::string_view pattern, bool caseInsensitive, SetTable& sets) {
-  return Parser(pattern, caseInsensitive, sets).parse();
+Node parsePattern(const Pattern& pattern, SetTable& sets) {
+  return Parser(pattern, sets).parse();
 }
 
 CodePointRanges codePointsOf(std::string_view unicodeSet) {

@@ -32,23 +32,29 @@ class SetTable {
   std::vector<CodePointRanges> sets_;
 };
 
+/// A regular expression in ICU's syntax.
+struct Pattern {
+  std::string_view expression;
+  bool caseInsensitive = false;  ///< as by UREGEX_CASE_INSENSITIVE
+};
+
 /// One node of a parsed pattern.
 struct Node {
   enum class Kind : std::uint8_t {
-    Set,             ///< one code point of `set`
-    FoldedText,      ///< code points whose full case folding is `text`, ending with a code point
-    Sequence,        ///< `children` one after the other; none: the empty match
-    Alternatives,    ///< the first of `children` that leads to a match
-    Repetition,      ///< `children[0]`, `min` to `max` times, as often as possible unless `lazy`
-    WordBoundary,    ///< \b, or \B when `negative`
-    TextStart,       ///< ^ and \A
-    TextEnd,         ///< $: at the end, or before a line terminator at the end
-    AbsoluteEnd,     ///< \z
-    LookAhead,       ///< `children[0]` matches from here, or does not when `negative`
-    PrecedingInSet,  ///< the code point before is one of `set`, or there is none when `negative`
+    set,             ///< one code point of `set`
+    foldedText,      ///< code points whose full case folding is `text`, ending with a code point
+    sequence,        ///< `children` one after the other; none: the empty match
+    alternatives,    ///< the first of `children` that leads to a match
+    repetition,      ///< `children[0]`, `min` to `max` times, as often as possible unless `lazy`
+    wordBoundary,    ///< \b, or \B when `negative`
+    textStart,       ///< ^ and \A
+    textEnd,         ///< $: at the end, or before a line terminator at the end
+    absoluteEnd,     ///< \z
+    lookAhead,       ///< `children[0]` matches from here, or does not when `negative`
+    precedingInSet,  ///< the code point before is one of `set`, or there is none when `negative`
   };
 
-  Kind kind = Kind::Sequence;
+  Kind kind = Kind::sequence;
   bool negative = false;
   bool lazy = false;
   std::size_t set = 0;
@@ -58,9 +64,8 @@ struct Node {
   std::vector<Node> children{};
 };
 
-/// Parses `pattern`, written in ICU's syntax, with the meaning ICU gives it without options or,
-/// when `caseInsensitive`, with UREGEX_CASE_INSENSITIVE. Captures group only. Throws PatternError.
-[[nodiscard]] Node parsePattern(std::string_view pattern, bool caseInsensitive, SetTable& sets);
+/// Parses `pattern` with the meaning that ICU gives it. Captures group only. Throws PatternError.
+[[nodiscard]] Node parsePattern(const Pattern& pattern, SetTable& sets);
 
 /// The code points of a set of ICU's own notation, such as `[\p{Nd}]`.
 [[nodiscard]] CodePointRanges codePointsOf(std::string_view unicodeSet);

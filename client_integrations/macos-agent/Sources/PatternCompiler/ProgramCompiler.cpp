@@ -16,24 +16,25 @@ void unite(ClassBits& bits, const ClassBits& others) {
     bits[i] |= others[i];
 }
 
-class Compiler {
+class ProgramCompiler {
  public:
-  Compiler(const ClassPartition& classes, ClassSetPool& sets) : classes_(classes), sets_(sets) {}
+  ProgramCompiler(const ClassPartition& classes, ClassSetPool& sets)
+      : classes_(classes), sets_(sets) {}
 
   PatternProgram<Owned> compile(const Node& pattern) {
     emit(pattern);
-    add({.operation = Operation::Accept});
+    add({.operation = Operation::accept});
     known_.resize(program_.code.size());
     for (ProgramEntry& target : program_.targets)
       target.beginning = kept(startAt(target.instruction));
     for (std::size_t i = 0; i < program_.code.size(); ++i) {
       Instruction& instruction = program_.code[i];
-      if (instruction.operation == Operation::GreedyLoop ||
-          instruction.operation == Operation::LazyLoop)
+      if (instruction.operation == Operation::greedyLoop ||
+          instruction.operation == Operation::lazyLoop)
         instruction.first = numberOf(kept(startAt(static_cast<std::uint32_t>(i + 1))));
     }
     program_.entries.push_back({.instruction = 0, .beginning = kept(startAt(0))});
-    if (pattern.kind == Node::Kind::Alternatives)
+    if (pattern.kind == Node::Kind::alternatives)
       for (std::size_t i = 0; i < pattern.children.size(); ++i)
         program_.entries.push_back(program_.targets[i]);
     return std::move(program_);
@@ -49,46 +50,46 @@ class Compiler {
 
   void emit(const Node& node) {
     switch (node.kind) {
-      case Node::Kind::Set:
-        add({.operation = Operation::Set, .set = setOf(node.set)});
+      case Node::Kind::set:
+        add({.operation = Operation::set, .set = setOf(node.set)});
         break;
-      case Node::Kind::FoldedText:
-        add({.operation = Operation::FoldedText,
+      case Node::Kind::foldedText:
+        add({.operation = Operation::foldedText,
              .count = counted(node.text.size()),
              .first = lettersOf(node.text)});
         break;
-      case Node::Kind::Sequence:
+      case Node::Kind::sequence:
         for (const Node& child : node.children)
           emit(child);
         break;
-      case Node::Kind::Alternatives:
+      case Node::Kind::alternatives:
         emitAlternatives(node);
         break;
-      case Node::Kind::Repetition:
+      case Node::Kind::repetition:
         emitRepetition(node);
         break;
-      case Node::Kind::WordBoundary:
-        add({.operation = node.negative ? Operation::NoWordBoundary : Operation::WordBoundary});
+      case Node::Kind::wordBoundary:
+        add({.operation = node.negative ? Operation::noWordBoundary : Operation::wordBoundary});
         break;
-      case Node::Kind::TextStart:
-        add({.operation = Operation::TextStart});
+      case Node::Kind::textStart:
+        add({.operation = Operation::textStart});
         break;
-      case Node::Kind::TextEnd:
-        add({.operation = Operation::TextEnd});
+      case Node::Kind::textEnd:
+        add({.operation = Operation::textEnd});
         break;
-      case Node::Kind::AbsoluteEnd:
-        add({.operation = Operation::AbsoluteEnd});
+      case Node::Kind::absoluteEnd:
+        add({.operation = Operation::absoluteEnd});
         break;
-      case Node::Kind::LookAhead: {
+      case Node::Kind::lookAhead: {
         const std::uint32_t look =
-            add({.operation = node.negative ? Operation::NegativeLookAhead : Operation::LookAhead});
+            add({.operation = node.negative ? Operation::negativeLookAhead : Operation::lookAhead});
         emit(node.children.front());
-        add({.operation = Operation::Accept});
+        add({.operation = Operation::accept});
         program_.code[look].first = here();
         break;
       }
-      case Node::Kind::PrecedingInSet:
-        add({.operation = node.negative ? Operation::NotPrecededBy : Operation::PrecededBy,
+      case Node::Kind::precedingInSet:
+        add({.operation = node.negative ? Operation::notPrecededBy : Operation::precededBy,
              .set = setOf(node.set)});
         break;
     }
@@ -112,7 +113,7 @@ class Compiler {
     for (std::size_t i = 0; i < node.children.size(); ++i) {
       program_.targets[program_.code[choice].first + i].instruction = here();
       emit(node.children[i]);
-      if (i + 1 < node.children.size()) jumps.push_back(add({.operation = Operation::Jump}));
+      if (i + 1 < node.children.size()) jumps.push_back(add({.operation = Operation::jump}));
     }
     for (const std::uint32_t jump : jumps)
       program_.code[jump].first = here();
@@ -121,7 +122,7 @@ class Compiler {
   std::uint32_t addChoice(std::size_t targets) {
     const std::uint16_t first = counted(program_.targets.size());
     program_.targets.resize(first + targets);
-    return add({.operation = Operation::Choice,
+    return add({.operation = Operation::choice,
                 .count = counted(targets),
                 .memo = memoRows(1),
                 .first = first});
@@ -130,14 +131,14 @@ class Compiler {
   void emitRepetition(const Node& node) {
     const Node& body = node.children.front();
     const std::uint32_t optional = node.max == unbounded ? unbounded : node.max - node.min;
-    if (body.kind == Node::Kind::Set) {
+    if (body.kind == Node::Kind::set) {
       if (node.min == 1) {
         emit(body);
       } else if (node.min > 1) {
-        addLoop(Operation::GreedyLoop, body, node.min, node.min);
+        addLoop(Operation::greedyLoop, body, node.min, node.min);
       }
       if (optional > 0)
-        addLoop(node.lazy ? Operation::LazyLoop : Operation::GreedyLoop, body, 0, optional);
+        addLoop(node.lazy ? Operation::lazyLoop : Operation::greedyLoop, body, 0, optional);
       return;
     }
     for (std::uint32_t i = 0; i < node.min; ++i)
@@ -149,7 +150,7 @@ class Compiler {
       emit(body);
     }
     if (optional == unbounded)
-      add({.operation = Operation::Jump, .first = counted(choices.front())});
+      add({.operation = Operation::jump, .first = counted(choices.front())});
     for (const std::uint32_t choice : choices)
       targetOf(choice, node.lazy ? 0 : 1) = here();
   }
@@ -198,39 +199,39 @@ class Compiler {
   Start startOf(std::uint32_t index) {
     const Instruction& instruction = program_.code[index];
     switch (instruction.operation) {
-      case Operation::Set:
+      case Operation::set:
         return {.classes = sets_.bits(instruction.set)};
-      case Operation::FoldedText: {
+      case Operation::foldedText: {
         Start start{.classes = ClassBits(sets_.words())};
         for (const ClassId id : classes_.classesWith(program_.letters[instruction.first]))
           if (classes_.folding(id).front() == program_.letters[instruction.first])
             setBit(start.classes, id);
         return start;
       }
-      case Operation::Choice: {
+      case Operation::choice: {
         Start all{.classes = ClassBits(sets_.words()), .atBoundary = true};
         for (std::uint32_t i = 0; i < instruction.count; ++i)
           all =
               either(std::move(all), startAt(program_.targets[instruction.first + i].instruction));
         return all;
       }
-      case Operation::GreedyLoop:
-      case Operation::LazyLoop: {
+      case Operation::greedyLoop:
+      case Operation::lazyLoop: {
         Start body{.classes = sets_.bits(instruction.set)};
         return instruction.count > 0 ? body : either(std::move(body), startAt(index + 1));
       }
-      case Operation::Jump:
-      case Operation::LookAhead:
-      case Operation::NegativeLookAhead:
+      case Operation::jump:
+      case Operation::lookAhead:
+      case Operation::negativeLookAhead:
         return startAt(instruction.first);
-      case Operation::WordBoundary: {
+      case Operation::wordBoundary: {
         Start start = startAt(index + 1);
         start.atBoundary = true;
         return start;
       }
-      case Operation::Accept:
-      case Operation::TextEnd:
-      case Operation::AbsoluteEnd:
+      case Operation::accept:
+      case Operation::textEnd:
+      case Operation::absoluteEnd:
         return {.classes = ClassBits(sets_.words()), .anything = true};
       default:
         return startAt(index + 1);
@@ -309,27 +310,27 @@ class LeadingWalk {
     const auto [index, taken] = place;
     const Instruction& instruction = program_.code[index];
     switch (instruction.operation) {
-      case Operation::Accept:
-      case Operation::TextEnd:
-      case Operation::AbsoluteEnd:
+      case Operation::accept:
+      case Operation::textEnd:
+      case Operation::absoluteEnd:
         return false;
-      case Operation::Set:
+      case Operation::set:
         unite(step_, sets_.bits(instruction.set));
         behind_.insert({.instruction = index + 1});
         break;
-      case Operation::FoldedText:
+      case Operation::foldedText:
         return passesLetter(place);
-      case Operation::GreedyLoop:
-      case Operation::LazyLoop:
+      case Operation::greedyLoop:
+      case Operation::lazyLoop:
         passesRound(place);
         break;
-      case Operation::Choice:
+      case Operation::choice:
         for (std::uint32_t i = 0; i < instruction.count; ++i)
           reached_.push_back(program_.targets[instruction.first + i].instruction);
         break;
-      case Operation::Jump:
-      case Operation::LookAhead:
-      case Operation::NegativeLookAhead:
+      case Operation::jump:
+      case Operation::lookAhead:
+      case Operation::negativeLookAhead:
         reached_.push_back(instruction.first);
         break;
       default:
@@ -380,7 +381,7 @@ class LeadingWalk {
 
 PatternProgram<Owned> compileProgram(const Node& pattern, const ClassPartition& classes,
                                      ClassSetPool& sets) {
-  return Compiler(classes, sets).compile(pattern);
+  return ProgramCompiler(classes, sets).compile(pattern);
 }
 
 std::vector<ClassBits> leadingClasses(const PatternProgram<Owned>& program,

@@ -153,13 +153,13 @@ class Analysis {
 
   RequiredLiterals of(const Node& pattern) {
     RequiredLiterals required;
-    const bool isChoice = pattern.kind == Node::Kind::Alternatives;
+    const bool isChoice = pattern.kind == Node::Kind::alternatives;
     const auto alternatives = isChoice ? std::span(pattern.children) : std::span(&pattern, 1);
     for (std::size_t i = 0; i < alternatives.size(); ++i) {
       std::vector<LiteralChain> chains;
       bool suffice = true;
       for (const Way& way : waysThrough(alternatives[i], mostWays)) {
-        if (!way.empty() && way.front()->kind == Node::Kind::TextStart) {
+        if (!way.empty() && way.front()->kind == Node::Kind::textStart) {
           required.atTextStart = true;
           continue;
         }
@@ -179,14 +179,14 @@ class Analysis {
  private:
   /// The ways through `node`; all of its alternatives where that makes at most `most`.
   std::vector<Way> waysThrough(const Node& node, std::size_t most) {
-    if (node.kind == Node::Kind::Alternatives && !literalsOf(node)) {
+    if (node.kind == Node::Kind::alternatives && !literalsOf(node)) {
       std::vector<Way> ways;
       for (const Node& child : node.children) {
         std::vector<Way> more = waysThrough(child, most);
         ways.insert(ways.end(), more.begin(), more.end());
       }
       if (ways.size() <= most) return ways;
-    } else if (node.kind == Node::Kind::Sequence) {
+    } else if (node.kind == Node::Kind::sequence) {
       std::vector<Way> ways{{}};
       for (const Node& child : node.children) {
         std::vector<Way> tails = waysThrough(child, most);
@@ -216,7 +216,7 @@ class Analysis {
   std::optional<Literals> findLiterals(const Node& node) {
     Literals literals;
     switch (node.kind) {
-      case Node::Kind::Set: {
+      case Node::Kind::set: {
         if (isSpaceSet(node)) return Literals{{alphabet_.space()}};
         for (const char32_t c : fewCodePoints(sets_[node.set])) {
           literals.emplace_back();
@@ -228,13 +228,13 @@ class Analysis {
         if (literals.empty() || literals.size() > 8) return std::nullopt;
         return literals;
       }
-      case Node::Kind::FoldedText: {
+      case Node::Kind::foldedText: {
         Literal literal;
         for (const char32_t c : node.text)
           alphabet_.append(literal, classes_.letterOf(c));
         return Literals{std::move(literal)};
       }
-      case Node::Kind::Sequence:
+      case Node::Kind::sequence:
         literals.emplace_back();
         for (const Node& child : node.children) {
           const auto& more = literalsOf(child);
@@ -242,14 +242,14 @@ class Analysis {
           literals = alphabet_.product(literals, *more);
         }
         return literals;
-      case Node::Kind::Alternatives:
+      case Node::Kind::alternatives:
         for (const Node& child : node.children) {
           const auto& more = literalsOf(child);
           if (!more || more->size() + literals.size() > mostLiterals) return std::nullopt;
           literals.insert(literals.end(), more->begin(), more->end());
         }
         return literals;
-      case Node::Kind::Repetition: {
+      case Node::Kind::repetition: {
         if (isSpaceSet(node.children.front())) {
           if (node.min == 0) literals.emplace_back();
           literals.push_back({alphabet_.space()});
@@ -274,7 +274,7 @@ class Analysis {
 
   template <typename Predicate>
   [[nodiscard]] bool isSetOf(const Node& node, Predicate predicate) const {
-    if (node.kind != Node::Kind::Set) return false;
+    if (node.kind != Node::Kind::set) return false;
     const auto members = classes_.classesOf(node.set);
     for (std::size_t id = 0; id < classes_.count(); ++id)
       if ((members[id / 64] >> (id % 64) & 1) != 0 && !predicate(static_cast<ClassId>(id)))
@@ -297,23 +297,23 @@ class Analysis {
 
   Distance findWidth(const Node& node) {
     switch (node.kind) {
-      case Node::Kind::Set:
+      case Node::Kind::set:
         return {.steps = 1, .runs = 1};
-      case Node::Kind::FoldedText:
+      case Node::Kind::foldedText:
         return alphabet_.longest(*literalsOf(node));
-      case Node::Kind::Sequence: {
+      case Node::Kind::sequence: {
         Distance sum;
         for (const Node& child : node.children)
           sum = plus(sum, width(child));
         return sum;
       }
-      case Node::Kind::Alternatives: {
+      case Node::Kind::alternatives: {
         Distance most;
         for (const Node& child : node.children)
           most = larger(most, width(child));
         return most;
       }
-      case Node::Kind::Repetition: {
+      case Node::Kind::repetition: {
         const Node& body = node.children.front();
         if (isSpaceSet(body)) return {.steps = 1, .runs = 1};
         Distance all = times(node.max, width(body));
@@ -327,8 +327,8 @@ class Analysis {
 
   /// Adds the classes of everything that `node` may match.
   void addClasses(const Node& node, std::vector<std::uint64_t>& bits) {
-    if (node.kind == Node::Kind::LookAhead) return;
-    if (node.kind == Node::Kind::Set) {
+    if (node.kind == Node::Kind::lookAhead) return;
+    if (node.kind == Node::Kind::set) {
       const auto members = classes_.classesOf(node.set);
       for (std::size_t i = 0; i < bits.size(); ++i)
         bits[i] |= members[i];
@@ -375,7 +375,7 @@ class Analysis {
     std::vector<std::uint64_t> leadClasses(ClassSets::wordsFor(classes_.count()));
     for (const Node* node : way) {
       if (chain.isDone()) break;
-      if (node->kind == Node::Kind::WordBoundary && !node->negative) {
+      if (node->kind == Node::Kind::wordBoundary && !node->negative) {
         chain.addBoundary();
         continue;
       }
@@ -410,7 +410,7 @@ class Analysis {
       return InnerLink{.link = {.literals = *literals}};
     }
     switch (node.kind) {
-      case Node::Kind::Sequence: {
+      case Node::Kind::sequence: {
         Way way;
         for (const Node& child : node.children)
           way.push_back(&child);
@@ -427,7 +427,7 @@ class Analysis {
                               chain.links[i + 1].distance);
         return inner;
       }
-      case Node::Kind::Alternatives: {
+      case Node::Kind::alternatives: {
         InnerLink all{.link = {.boundaryBefore = true, .boundaryAfter = true}};
         for (const Node& child : node.children) {
           const auto& inner = innerLink(child);
@@ -442,7 +442,7 @@ class Analysis {
         if (all.link.literals.size() > mostLiterals) return std::nullopt;
         return all;
       }
-      case Node::Kind::Repetition: {
+      case Node::Kind::repetition: {
         if (node.min == 0) return std::nullopt;
         auto inner = innerLink(node.children.front());
         if (inner) inner->after = width(node);

@@ -52,17 +52,17 @@ struct Composition {
 };
 
 bool isEverything(const Node& node, const SetTable& sets) {
-  return node.kind == Node::Kind::Set && sets[node.set] == CodePointRanges{{0, 0x10FFFF}};
+  return node.kind == Node::Kind::set && sets[node.set] == CodePointRanges{{0, 0x10FFFF}};
 }
 
 bool isAnyText(const Node& node, const SetTable& sets) {
-  return node.kind == Node::Kind::Repetition && node.min == 0 && node.max == unbounded &&
+  return node.kind == Node::Kind::repetition && node.min == 0 && node.max == unbounded &&
          isEverything(node.children.front(), sets);
 }
 
 /// `node` without its first `count` children.
 Node withoutFirst(const Node& node, std::size_t count) {
-  Node rest{.kind = Node::Kind::Sequence};
+  Node rest{.kind = Node::Kind::sequence};
   rest.children.assign(node.children.begin() + static_cast<std::ptrdiff_t>(count),
                        node.children.end());
   return rest;
@@ -72,19 +72,19 @@ Node withoutFirst(const Node& node, std::size_t count) {
 /// the text that is anywhere; and where it fails at the start it fails behind it. Nothing when the
 /// pattern is not made of such look-aheads.
 std::optional<Composition> lookAheadsOf(const Node& node, const SetTable& sets) {
-  if (node.kind == Node::Kind::LookAhead) {
-    Node sequence{.kind = Node::Kind::Sequence};
+  if (node.kind == Node::Kind::lookAhead) {
+    Node sequence{.kind = Node::Kind::sequence};
     sequence.children.push_back(node);
     return lookAheadsOf(sequence, sets);
   }
-  if (node.kind != Node::Kind::Sequence || node.children.empty()) return std::nullopt;
+  if (node.kind != Node::Kind::sequence || node.children.empty()) return std::nullopt;
   const auto& children = node.children;
-  const bool anchored = children.front().kind == Node::Kind::TextStart;
+  const bool anchored = children.front().kind == Node::Kind::textStart;
   std::size_t next = anchored ? 1 : 0;
   Composition composition{.fromTextStart = true};
-  for (; next < children.size() && children[next].kind == Node::Kind::LookAhead; ++next) {
+  for (; next < children.size() && children[next].kind == Node::Kind::lookAhead; ++next) {
     const Node& body = children[next].children.front();
-    if (body.kind != Node::Kind::Sequence || body.children.size() < 2 ||
+    if (body.kind != Node::Kind::sequence || body.children.size() < 2 ||
         !isAnyText(body.children.front(), sets))
       return std::nullopt;
     (children[next].negative ? composition.forbidden : composition.required)
@@ -278,13 +278,13 @@ class LeadingTables {
 
 // ---- All together
 
-class Compiler {
+class TableCompiler {
  public:
   CompiledPatterns compile(std::span<const Pattern> patterns) {
     for (std::size_t i = 0; i < patterns.size(); ++i) {
       table_.forms.emplace_back();
       try {
-        addPattern(i, parsePattern(patterns[i].expression, patterns[i].caseInsensitive, sets_));
+        addPattern(i, parsePattern(patterns[i], sets_));
       } catch (const PatternError& error) {
         leaveOut(i, error);
       }
@@ -391,7 +391,7 @@ class Compiler {
 }  // namespace
 
 CompiledPatterns compilePatterns(std::span<const Pattern> patterns) {
-  return Compiler().compile(patterns);
+  return TableCompiler().compile(patterns);
 }
 
 }  // namespace quillseal::screening

@@ -3,16 +3,11 @@
 #include <cstddef>
 #include <span>
 #include <string>
-#include <string_view>
 #include <vector>
 
-namespace quillseal::screening {
+#include "PatternCompiler/PatternSyntax.h"
 
-/// A regular expression in ICU's syntax.
-struct Pattern {
-  std::string_view expression;
-  bool caseInsensitive = false;
-};
+namespace quillseal::screening {
 
 /// Why a pattern is not searched for.
 struct PatternProblem {

@@ -23,11 +23,11 @@ constexpr std::size_t pagePositions = 4096;
 std::optional<std::size_t> Matcher::matchAt(const ProgramEntry& entry, std::size_t start,
                                             BacktrackStack& stack) {
   if (remembering_) forgetBefore(start);
-  return run(entry.instruction, start, Purpose::Match, stack);
+  return run(entry.instruction, start, Purpose::match, stack);
 }
 
 bool Matcher::looksAhead(std::uint32_t instruction, std::size_t position, BacktrackStack& stack) {
-  return run(instruction, position, Purpose::LookAhead, stack).has_value();
+  return run(instruction, position, Purpose::lookAhead, stack).has_value();
 }
 
 std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t position,
@@ -67,7 +67,7 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
     const auto& loop = program.code[index];
     ++steps_;
     return program.beginnings[loop.first].allows(text, at, sets) &&
-           !(remembering_ && known(loop.memo + 1, at) == Known::Fails);
+           !(remembering_ && known(loop.memo + 1, at) == Known::fails);
   };
   // A greedy loop leaves at the last place between the two from which the rest may match.
   const auto leaveFromLast = [&](std::uint32_t index, std::size_t low, std::size_t high) {
@@ -87,7 +87,7 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
       if (rest == 0 || !sets.contains(loop.set, text.classAt(at))) return false;
       ++at;
       if (rest != unbounded) --rest;
-      if (remembering_ && rest == unbounded && known(loop.memo, at) == Known::Fails) return false;
+      if (remembering_ && rest == unbounded && known(loop.memo, at) == Known::fails) return false;
     }
     push(index, at, rest);
     leaveLoop(index, at);
@@ -99,17 +99,17 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
     const auto& current = program.code[instruction];
     bool advanced = true;
     switch (current.operation) {
-      case Operation::Accept:
-        if (remembering_ && purpose == Purpose::LookAhead)
+      case Operation::accept:
+        if (remembering_ && purpose == Purpose::lookAhead)
           rememberPath(std::span(stack).subspan(base));
         stack.resize(base);
         return position;
-      case Operation::Set:
+      case Operation::set:
         advanced = sets.contains(current.set, text.classAt(position));
         ++position;
         ++instruction;
         break;
-      case Operation::FoldedText: {
+      case Operation::foldedText: {
         const auto end = foldedTextEnd(current, position);
         steps_ += current.count;
         advanced = end.has_value();
@@ -117,51 +117,51 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
         ++instruction;
         break;
       }
-      case Operation::Jump:
+      case Operation::jump:
         instruction = current.first;
         break;
-      case Operation::WordBoundary:
-      case Operation::NoWordBoundary:
-        advanced = text.isWordBoundary(position) == (current.operation == Operation::WordBoundary);
+      case Operation::wordBoundary:
+      case Operation::noWordBoundary:
+        advanced = text.isWordBoundary(position) == (current.operation == Operation::wordBoundary);
         ++instruction;
         break;
-      case Operation::TextStart:
+      case Operation::textStart:
         advanced = position == 0;
         ++instruction;
         break;
-      case Operation::TextEnd:
+      case Operation::textEnd:
         advanced = atTextEnd(position);
         ++instruction;
         break;
-      case Operation::AbsoluteEnd:
+      case Operation::absoluteEnd:
         advanced = position == text.size();
         ++instruction;
         break;
-      case Operation::LookAhead:
-      case Operation::NegativeLookAhead:
+      case Operation::lookAhead:
+      case Operation::negativeLookAhead:
         advanced = looksAhead(instruction + 1, position, stack) ==
-                   (current.operation == Operation::LookAhead);
+                   (current.operation == Operation::lookAhead);
         instruction = current.first;
         break;
-      case Operation::PrecededBy:
-      case Operation::NotPrecededBy:
+      case Operation::precededBy:
+      case Operation::notPrecededBy:
         advanced = (position > 0 && sets.contains(current.set, text.classAt(position - 1))) ==
-                   (current.operation == Operation::PrecededBy);
+                   (current.operation == Operation::precededBy);
         ++instruction;
         break;
-      case Operation::Choice:
-      case Operation::GreedyLoop:
-      case Operation::LazyLoop: {
+      case Operation::choice:
+      case Operation::greedyLoop:
+      case Operation::lazyLoop: {
         const std::uint32_t index = instruction;
-        const bool isLoop = current.operation != Operation::Choice;
+        const bool isLoop = current.operation != Operation::choice;
         const bool isEndless = isLoop && current.max == Instruction::endless;
         if (remembering_) {
           const Known outcome = known(current.memo, position);
-          if (outcome == Known::Succeeds) {
+          if (outcome == Known::succeeds) {
             stack.resize(base);
             return position;
           }
-          if (outcome == Known::Fails) {
+          if (outcome == Known::fails) {
             advanced = false;
             break;
           }
@@ -171,7 +171,7 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
           advanced = choose(index, 0);
           break;
         }
-        if (current.operation == Operation::LazyLoop) {
+        if (current.operation == Operation::lazyLoop) {
           advanced = leaveFromFirst(index, position, isEndless ? unbounded : current.max);
           break;
         }
@@ -181,7 +181,7 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
         bool failsFromHigh = false;
         while (high < limit && sets.contains(current.set, text.classAt(high))) {
           ++high;
-          if (remembering_ && isEndless && known(current.memo, high) == Known::Fails) {
+          if (remembering_ && isEndless && known(current.memo, high) == Known::fails) {
             failsFromHigh = true;
             break;
           }
@@ -201,18 +201,18 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
       const std::uint32_t index = frame.instruction & ~marks;
       const auto& tried = program.code[index];
       if ((frame.instruction & afterLoopFailed) != 0) {
-        remember(tried.memo + 1, frame.position, Known::Fails);
+        remember(tried.memo + 1, frame.position, Known::fails);
         continue;
       }
       if ((frame.instruction & instructionFailed) != 0) {
-        remember(tried.memo, frame.position, Known::Fails);
+        remember(tried.memo, frame.position, Known::fails);
         if (tried.max == Instruction::endless) rememberRestOfRun(tried, frame);
         continue;
       }
       position = frame.position;
-      if (tried.operation == Operation::Choice) {
+      if (tried.operation == Operation::choice) {
         advanced = choose(index, frame.rest);
-      } else if (tried.operation == Operation::GreedyLoop) {
+      } else if (tried.operation == Operation::greedyLoop) {
         advanced = leaveFromLast(index, frame.rest, frame.position);
       } else if (frame.rest > 0 && sets.contains(tried.set, text.classAt(position))) {
         const std::uint32_t rest = frame.rest == unbounded ? unbounded : frame.rest - 1;
@@ -251,10 +251,10 @@ bool Matcher::atTextEnd(std::size_t position) const {
 
 Matcher::Known Matcher::known(std::uint32_t row, std::size_t position) const {
   const std::size_t page = position / pagePositions;
-  if (page >= pages_.size() || !pages_[page]) return Known::Nothing;
+  if (page >= pages_.size() || !pages_[page]) return Known::nothing;
   const std::size_t bit = (std::size_t{2} * row * pagePositions) + position % pagePositions;
-  if (hasBit(pages_[page], bit)) return Known::Fails;
-  return hasBit(pages_[page], bit + pagePositions) ? Known::Succeeds : Known::Nothing;
+  if (hasBit(pages_[page], bit)) return Known::fails;
+  return hasBit(pages_[page], bit + pagePositions) ? Known::succeeds : Known::nothing;
 }
 
 void Matcher::remember(std::uint32_t row, std::size_t position, Known what) {
@@ -264,7 +264,7 @@ void Matcher::remember(std::uint32_t row, std::size_t position, Known what) {
     pages_[page] =
         std::make_unique<std::uint64_t[]>(std::size_t{2} * program_->memoRows * pagePositions / 64);
   const std::size_t bit =
-      (2 * row + (what == Known::Succeeds ? 1 : 0)) * pagePositions + position % pagePositions;
+      (2 * row + (what == Known::succeeds ? 1 : 0)) * pagePositions + position % pagePositions;
   setBit(pages_[page], bit);
 }
 
@@ -274,20 +274,20 @@ void Matcher::rememberPath(std::span<const BacktrackFrame> path) {
     if ((frame.instruction & marks) == 0) continue;
     const std::uint32_t memo = program_->code[frame.instruction & ~marks].memo;
     const bool afterLoop = (frame.instruction & afterLoopFailed) != 0;
-    remember(memo + (afterLoop ? 1 : 0), frame.position, Known::Succeeds);
+    remember(memo + (afterLoop ? 1 : 0), frame.position, Known::succeeds);
   }
 }
 
 /// An endless loop that fails somewhere fails from the rest of the same run, too.
 void Matcher::rememberRestOfRun(const Instruction& loop, const BacktrackFrame& frame) {
-  if (loop.operation == Operation::GreedyLoop) {
+  if (loop.operation == Operation::greedyLoop) {
     for (std::size_t at = frame.position + 1; at <= frame.rest; ++at)
-      remember(loop.memo, at, Known::Fails);
-  } else if (loop.operation == Operation::LazyLoop) {
+      remember(loop.memo, at, Known::fails);
+  } else if (loop.operation == Operation::lazyLoop) {
     for (std::size_t at = frame.position;
-         sets_->contains(loop.set, text_->classAt(at)) && known(loop.memo, at + 1) != Known::Fails;
+         sets_->contains(loop.set, text_->classAt(at)) && known(loop.memo, at + 1) != Known::fails;
          ++at)
-      remember(loop.memo, at + 1, Known::Fails);
+      remember(loop.memo, at + 1, Known::fails);
   }
 }
 

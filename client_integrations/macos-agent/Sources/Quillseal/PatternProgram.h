@@ -29,22 +29,22 @@ struct Beginning {
 };
 
 enum class Operation : std::uint16_t {
-  Accept,
-  Set,
-  FoldedText,  ///< `count` letters from `first`
-  Choice,      ///< `count` targets from `first`, in order
-  GreedyLoop,  ///< `count` to `max` code points of `set`
-  LazyLoop,
-  Jump,
-  WordBoundary,
-  NoWordBoundary,
-  TextStart,
-  TextEnd,
-  AbsoluteEnd,
-  LookAhead,          ///< the next instruction to an Accept; then on at `first`
-  NegativeLookAhead,  ///< likewise
-  PrecededBy,
-  NotPrecededBy,
+  accept,
+  set,
+  foldedText,  ///< `count` letters from `first`
+  choice,      ///< `count` targets from `first`, in order
+  greedyLoop,  ///< `count` to `max` code points of `set`
+  lazyLoop,
+  jump,
+  wordBoundary,
+  noWordBoundary,
+  textStart,
+  textEnd,
+  absoluteEnd,
+  lookAhead,          ///< the next instruction to an `accept`; then on at `first`
+  negativeLookAhead,  ///< likewise
+  precededBy,
+  notPrecededBy,
 };
 
 /// Continues with the next one unless it says otherwise.
@@ -114,8 +114,8 @@ class Matcher {
   [[nodiscard]] std::uint64_t steps() const { return steps_; }
 
  private:
-  enum class Purpose : std::uint8_t { Match, LookAhead };
-  enum class Known : std::uint8_t { Nothing, Fails, Succeeds };
+  enum class Purpose : std::uint8_t { match, lookAhead };
+  enum class Known : std::uint8_t { nothing, fails, succeeds };
   using Page = std::unique_ptr<std::uint64_t[]>;
 
   std::optional<std::size_t> run(std::uint32_t instruction, std::size_t position, Purpose purpose,

@@ -4,15 +4,15 @@
 
 namespace quillseal {
 
-/// What Qt would wait for on the main thread: for the bus without end, while it makes the
-/// application; for the service that tells about screen readers 50 seconds, when the event loop
-/// begins. What does not exist counts as answering, since nobody waits for that.
-struct SessionBusState {
-  bool busAnswers = true;
-  bool accessibilityAnswers = true;
-};
+// What Qt waits for on the main thread. What does not exist counts as answering, since nobody waits
+// for that.
 
-/// Gives each of them `patience`.
-[[nodiscard]] SessionBusState examineSessionBus(std::chrono::milliseconds patience);
+/// Whether the session bus lets a program in within `patience`. Qt waits for it without end, while
+/// it makes the application.
+[[nodiscard]] bool sessionBusAnswers(std::chrono::milliseconds patience);
+
+/// Whether what serves screen readers answers, each part of it within `patience`. Qt waits 50
+/// seconds or without end for it, when the event loop begins.
+[[nodiscard]] bool accessibilityAnswers(std::chrono::milliseconds patience);
 
 }  // namespace quillseal

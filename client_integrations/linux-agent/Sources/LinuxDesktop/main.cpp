@@ -286,9 +286,7 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
   qputenv("TSS2_LOG", "all+none");
 
   constexpr std::chrono::seconds patience{5};
-  const quillseal::SessionBusState sessionBus = quillseal::examineSessionBus(patience);
-  if (!sessionBus.busAnswers) qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
-  if (!sessionBus.accessibilityAnswers) qputenv("AT_SPI_BUS_ADDRESS", "disabled:");
+  if (!quillseal::sessionBusAnswers(patience)) qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
   // It has nothing to say to the agent, and Qt would wait for its first word without end.
   QApplication::setAttribute(Qt::AA_DisableSessionManager);
 
@@ -311,6 +309,7 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
       break;
   }
   if (commandLine.command == Command::quit) return 0;
+  if (!quillseal::accessibilityAnswers(patience)) qputenv("AT_SPI_BUS_ADDRESS", "disabled:");
   return runAgent(commandLine, instance);
 }
 

@@ -8,9 +8,9 @@ namespace quillseal::screening {
 namespace {
 
 // clang-format off
-// By places of the word for each place of the text: rounded estimates for English mail. Those of .001
-// and less are up to five times those of the average mail, since the letters that rules are made for
-// are denser in such words.
+// By places of the word for each place of the text, rounded, after counts in English mail (Enron,
+// SpamAssassin and Phishing Pot corpora). Those of .001 and less are up to five times those of the
+// average mail, since the letters that rules are made for are denser in such words.
 constexpr std::pair<double, std::u32string_view> wordsByFrequency[] = {
     {.012, U"the"},
     {.007, U"to"},

@@ -29,7 +29,7 @@ constexpr double frequencyLimits[] = {1, 0.01, 0.003, 0.001, 0.0003};
 constexpr double costOfFirstLink = 3;  ///< which has to be remembered
 constexpr double costOfChain = 2;      ///< a chain that is complete
 constexpr double costOfStart = 2;      ///< a place where a match might start
-/// Of code points, where only the end of a long run ends it.
+/// Code points that a lead without limit is expected to go back.
 constexpr double longestWalk = 5000;
 
 std::size_t shortest(const Literals& literals) {

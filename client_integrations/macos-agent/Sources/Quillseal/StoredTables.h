@@ -30,6 +30,7 @@ concept Storable = std::is_trivially_copyable_v<T> && std::has_unique_object_rep
 
 /// Every part begins at a multiple of this many bytes.
 inline constexpr std::size_t tableAlignment = 16;
+static_assert(tableAlignment <= __STDCPP_DEFAULT_NEW_ALIGNMENT__);  // also in a std::vector
 
 constexpr std::size_t alignedTableSize(std::size_t size) {
   return (size + tableAlignment - 1) / tableAlignment * tableAlignment;

@@ -1,5 +1,7 @@
 #include "Quillseal/PatternProgram.h"
 
+#include <algorithm>
+
 #include "Quillseal/WordBits.h"
 
 namespace quillseal::screening {
@@ -15,7 +17,7 @@ constexpr std::uint32_t marks = instructionFailed | afterLoopFailed;
 constexpr std::uint64_t forgetfulSteps = 2048;
 constexpr std::uint64_t forgetfulStepsPerCodePoint = 2;
 
-/// Memory is claimed for this many positions at a time.
+/// Memory is claimed for one row and this many positions at a time.
 constexpr std::size_t pagePositions = 4096;
 
 }  // namespace
@@ -249,22 +251,23 @@ bool Matcher::atTextEnd(std::size_t position) const {
   return position + 2 == size && isCarriageReturn(position) && isLineFeed(position + 1);
 }
 
+std::size_t Matcher::pageOf(std::uint32_t row, std::size_t position) const {
+  return position / pagePositions * program_->memoRows + row;
+}
+
 Matcher::Known Matcher::known(std::uint32_t row, std::size_t position) const {
-  const std::size_t page = position / pagePositions;
+  const std::size_t page = pageOf(row, position);
   if (page >= pages_.size() || !pages_[page]) return Known::nothing;
-  const std::size_t bit = (std::size_t{2} * row * pagePositions) + position % pagePositions;
+  const std::size_t bit = position % pagePositions;
   if (hasBit(pages_[page], bit)) return Known::fails;
   return hasBit(pages_[page], bit + pagePositions) ? Known::succeeds : Known::nothing;
 }
 
 void Matcher::remember(std::uint32_t row, std::size_t position, Known what) {
-  const std::size_t page = position / pagePositions;
+  const std::size_t page = pageOf(row, position);
   if (page >= pages_.size()) pages_.resize(page + 1);
-  if (!pages_[page])
-    pages_[page] =
-        std::make_unique<std::uint64_t[]>(std::size_t{2} * program_->memoRows * pagePositions / 64);
-  const std::size_t bit =
-      (2 * row + (what == Known::succeeds ? 1 : 0)) * pagePositions + position % pagePositions;
+  if (!pages_[page]) pages_[page] = std::make_unique<std::uint64_t[]>(2 * pagePositions / 64);
+  const std::size_t bit = position % pagePositions + (what == Known::succeeds ? pagePositions : 0);
   setBit(pages_[page], bit);
 }
 
@@ -293,8 +296,9 @@ void Matcher::rememberRestOfRun(const Instruction& loop, const BacktrackFrame& f
 
 // Only speed depends on what is remembered, and starts go back by a few sentences at most.
 void Matcher::forgetBefore(std::size_t position) {
-  const std::size_t keep = position / pagePositions;
-  for (; firstPage_ + 1 < keep && firstPage_ < pages_.size(); ++firstPage_)
+  const std::size_t before = std::max(position, pagePositions) - pagePositions;
+  for (const std::size_t end = pageOf(0, before); firstPage_ < std::min(end, pages_.size());
+       ++firstPage_)
     pages_[firstPage_].reset();
 }
 

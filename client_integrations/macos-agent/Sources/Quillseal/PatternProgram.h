@@ -116,6 +116,7 @@ class Matcher {
  private:
   enum class Purpose : std::uint8_t { match, lookAhead };
   enum class Known : std::uint8_t { nothing, fails, succeeds };
+  /// Of one row: a bit for each position that fails, then one for each that succeeds.
   using Page = std::unique_ptr<std::uint64_t[]>;
 
   std::optional<std::size_t> run(std::uint32_t instruction, std::size_t position, Purpose purpose,
@@ -125,6 +126,7 @@ class Matcher {
   [[nodiscard]] std::optional<std::size_t> foldedTextEnd(const Instruction& instruction,
                                                          std::size_t position) const;
   [[nodiscard]] bool atTextEnd(std::size_t position) const;
+  [[nodiscard]] std::size_t pageOf(std::uint32_t row, std::size_t position) const;
   [[nodiscard]] Known known(std::uint32_t row, std::size_t position) const;
   void remember(std::uint32_t row, std::size_t position, Known what);
   void rememberPath(std::span<const BacktrackFrame> path);
@@ -139,7 +141,7 @@ class Matcher {
   std::uint64_t steps_ = 0;
   bool remembering_ = false;
   std::size_t firstPage_ = 0;
-  std::vector<Page> pages_;
+  std::vector<Page> pages_;  ///< by positions, then by row
 };
 
 }  // namespace quillseal::screening

@@ -2,7 +2,6 @@
 
 #include <QGuiApplication>
 #include <algorithm>
-#include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <memory>
@@ -10,14 +9,12 @@
 
 #include <unistd.h>
 
+#include "LinuxDesktop/XcbHandles.h"
+
 namespace quillseal {
 namespace {
 
-struct FreeDeleter {
-  void operator()(void* pointer) const { std::free(pointer); }
-};
-template <typename T>
-using Reply = std::unique_ptr<T, FreeDeleter>;
+using x11::Reply;
 
 constexpr std::uint32_t longestProperty = 1024;  // in units of four bytes
 constexpr std::uint32_t sourcePager = 2;

@@ -1,7 +1,6 @@
 #include "LinuxDesktop/X11Keyboard.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <utility>
 
 #include <xcb/xtest.h>
@@ -9,17 +8,16 @@
 #include <xkbcommon/xkbcommon-x11.h>
 #include <xkbcommon/xkbcommon.h>
 
+#include "LinuxDesktop/XcbHandles.h"
+
 namespace quillseal {
 namespace {
 
 // Some browsers drop a key that goes down and up in the same instant.
 constexpr std::uint32_t holdMilliseconds = 12;
 
-struct FreeDeleter {
-  void operator()(void* pointer) const { std::free(pointer); }
-};
-template <typename T>
-using Reply = std::unique_ptr<T, FreeDeleter>;
+using x11::Connection;
+using x11::Reply;
 
 template <auto Function>
 struct Call {
@@ -28,7 +26,6 @@ struct Call {
     Function(pointer);
   }
 };
-using Connection = std::unique_ptr<xcb_connection_t, Call<xcb_disconnect>>;
 using Context = std::unique_ptr<xkb_context, Call<xkb_context_unref>>;
 using Keymap = std::unique_ptr<xkb_keymap, Call<xkb_keymap_unref>>;
 using KeymapState = std::unique_ptr<xkb_state, Call<xkb_state_unref>>;

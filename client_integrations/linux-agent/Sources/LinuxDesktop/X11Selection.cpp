@@ -3,14 +3,13 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdint>
-#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <optional>
 #include <string_view>
 #include <utility>
 
-#include <xcb/xcb.h>
+#include "LinuxDesktop/XcbHandles.h"
 
 namespace quillseal::X11Selection {
 namespace {
@@ -22,15 +21,7 @@ constexpr std::chrono::seconds longestSilence{5};
 constexpr std::chrono::seconds longestTransfer{20};
 constexpr std::size_t largestContent = std::size_t{64} * 1024 * 1024;
 
-struct FreeDeleter {
-  void operator()(void* pointer) const { std::free(pointer); }
-};
-template <typename T>
-using Reply = std::unique_ptr<T, FreeDeleter>;
-
-struct Disconnect {
-  void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
-};
+using x11::Reply;
 
 /// A connection of its own, so that no event is taken from the toolkit. What was made through it
 /// goes with it. Its calls wait for the X server only.
@@ -90,7 +81,7 @@ class Connection {
   }
 
  private:
-  std::unique_ptr<xcb_connection_t, Disconnect> connection_;
+  x11::Connection connection_;
   xcb_window_t window_ = XCB_NONE;
 };
 

@@ -51,6 +51,7 @@
 #include "LinuxDesktop/X11Hotkey.h"
 #include "LinuxDesktop/X11Keyboard.h"
 #include "LinuxDesktop/XTestKeyEvents.h"
+#include "LinuxDesktop/XcbHandles.h"
 #include "Quillseal/AppDelegate.h"
 
 namespace {
@@ -92,11 +93,6 @@ bool isWayland() {
 bool isOnX() {
   return QApplication::platformName() == QLatin1String("xcb");
 }
-
-struct Disconnect {
-  void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
-};
-using XConnection = std::unique_ptr<xcb_connection_t, Disconnect>;
 
 bool hasWaylandPlugin() {
   const QDir plugins(QLibraryInfo::path(QLibraryInfo::PluginsPath) + QLatin1String("/platforms"));
@@ -271,7 +267,7 @@ int runAgent(const CommandLine& commandLine, quillseal::SingleInstance& instance
 int run(int argc, char** argv, const CommandLine& commandLine) {
   // Qt ends the program where it finds no display. This connection stays until Qt has its own: an X
   // server without another client may start anew, and refuse Qt, when its last one leaves.
-  XConnection xServer(xcb_connect(nullptr, nullptr));
+  quillseal::x11::Connection xServer(xcb_connect(nullptr, nullptr));
   const quillseal::PlatformChoice choice =
       quillseal::platformFor({.hasXServer = xcb_connection_has_error(xServer.get()) == 0,
                               .hasWayland = !environment("WAYLAND_DISPLAY").empty(),

@@ -63,8 +63,12 @@ int main(int count, char** arguments) {
   const std::size_t runs =
       count > 1 ? std::strtoul(arguments[1], nullptr, 10) : usualCount;  // NOLINT(cert-err34-c)
   FakeDesktop desktop;
-  desktop.front = desktop.active = quillseal::desktop::RunningApplication{
-      .instance = 1, .name = "Mail", .bundleIdentifier = "com.apple.mail", .categories = ""};
+  desktop.front = desktop.active =
+      quillseal::desktop::RunningApplication{.instance = 1,
+                                             .name = "Mail",
+                                             .bundleIdentifier = "com.apple.mail",
+                                             .categories = "",
+                                             .document = {}};
   desktop.strings["SigningMode"] = "handoff";
   quillseal::AppDelegate agent(desktop.services());
   agent.applicationDidFinishLaunching();

@@ -257,7 +257,9 @@ Error FakeDesktop::error(desktop::transport::ErrorCode code) const {
                 .description = "The server gave no usable answer."});
 }
 
-desktop::Ticket FakeDesktop::press(desktop::KeyPress press, std::function<void()> done) {
+desktop::Ticket FakeDesktop::press(desktop::KeyPress press,
+                                   const std::optional<desktop::RunningApplication>& /*target*/,
+                                   std::function<void(desktop::Delivery)> done) {
   mayFail("press");
   using desktop::Key;
   const bool isCommand = press.modifiers == desktop::Modifiers::command;
@@ -271,7 +273,7 @@ desktop::Ticket FakeDesktop::press(desktop::KeyPress press, std::function<void()
     if (copied && secondThought)
       secondCopying_ = loop.after(90ms, [this] { setClipboard(*secondThought); });
   }
-  return finish(std::move(done));
+  return finish([done = std::move(done)] { done(desktop::Delivery::delivered); });
 }
 
 void FakeDesktop::setClipboard(const Copy& copy) {

@@ -171,7 +171,9 @@ class FakeDesktop final : public desktop::Alerts,
   // KeyEvents
   bool isTrusted() const override { return isPersonTrusting; }
   void askForTrust() override { trace.emplace_back("ask for trust"); }
-  desktop::Ticket press(desktop::KeyPress press, std::function<void()> done) override;
+  desktop::Ticket press(desktop::KeyPress press,
+                        const std::optional<desktop::RunningApplication>& target,
+                        std::function<void(desktop::Delivery)> done) override;
 
   // KeyStore
   bool isAvailable() const override { return canHoldKey; }

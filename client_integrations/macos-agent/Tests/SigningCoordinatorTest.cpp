@@ -39,12 +39,16 @@ const std::string subject = "“I met Grace on Tuesday and we agreed to print 40
 const std::string notification =
     "notify: ✅ Signature Generated! | Signed content copied and injected.";
 
-const desktop::RunningApplication mail{
-    .instance = 1, .name = "Mail", .bundleIdentifier = "com.apple.mail", .categories = ""};
+const desktop::RunningApplication mail{.instance = 1,
+                                       .name = "Mail",
+                                       .bundleIdentifier = "com.apple.mail",
+                                       .categories = "",
+                                       .document = ""};
 const desktop::RunningApplication chromeRunning{.instance = 2,
                                                 .name = "Google Chrome",
                                                 .bundleIdentifier = "com.google.Chrome",
-                                                .categories = ""};
+                                                .categories = "",
+                                                .document = ""};
 const desktop::InstalledApplication chromeInstalled{.location = "Chrome.app",
                                                     .bundleIdentifier = "com.google.Chrome"};
 

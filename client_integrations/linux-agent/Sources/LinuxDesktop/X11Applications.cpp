@@ -18,7 +18,7 @@ std::optional<RunningApplication> X11Applications::frontmost() const {
   if (window == 0) return std::nullopt;
   const WindowTraits traits = windows_.traitsOf(window);
   RunningApplication application{
-      .instance = window, .name = {}, .bundleIdentifier = {}, .categories = {}};
+      .instance = window, .name = {}, .bundleIdentifier = {}, .categories = {}, .document = {}};
   if (const auto entry = entries_.forWindow(traits)) {
     application.name = entry->name;
     // Not by the executable: a browser's programs for single sites have desktop files of their own.

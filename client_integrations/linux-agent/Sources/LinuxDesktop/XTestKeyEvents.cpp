@@ -31,7 +31,9 @@ void XTestKeyEvents::askForTrust() {
 }
 
 // Waits in turns of the main loop: the clipboard and the hotkey are served meanwhile.
-desktop::Ticket XTestKeyEvents::press(desktop::KeyPress press, std::function<void()> done) {
+desktop::Ticket XTestKeyEvents::press(desktop::KeyPress press,
+                                      const std::optional<desktop::RunningApplication>& /*target*/,
+                                      std::function<void(desktop::Delivery)> done) {
   struct Wait {
     desktop::MainLoop::TimePoint earliest;
     desktop::MainLoop::TimePoint latest;
@@ -39,7 +41,7 @@ desktop::Ticket XTestKeyEvents::press(desktop::KeyPress press, std::function<voi
     std::function<void()> step;
   };
   if (!isTrusted()) {
-    done();
+    done(desktop::Delivery::delivered);
     return {};
   }
   // Without the entries nobody can tell which keys to press. A failure reaches the caller from
@@ -66,7 +68,7 @@ desktop::Ticket XTestKeyEvents::press(desktop::KeyPress press, std::function<voi
     }
     self->timer = exchangeSelections(press, [this, press, layout, done] {
       tap(press, layout);
-      done();
+      done(desktop::Delivery::delivered);
     });
   };
   wait->timer = loop.after(milliseconds{0}, wait->step);

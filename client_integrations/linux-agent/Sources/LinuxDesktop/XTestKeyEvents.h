@@ -29,7 +29,9 @@ class XTestKeyEvents : public desktop::KeyEvents {
 
   [[nodiscard]] bool isTrusted() const override;
   void askForTrust() override;
-  [[nodiscard]] desktop::Ticket press(desktop::KeyPress press, std::function<void()> done) override;
+  [[nodiscard]] desktop::Ticket press(desktop::KeyPress press,
+                                      const std::optional<desktop::RunningApplication>& target,
+                                      std::function<void(desktop::Delivery)> done) override;
 
  private:
   /// For programs that copy and paste by the primary selection.

@@ -18,6 +18,9 @@ struct RunningApplication {
   /// Words of the desktop about the kind of application ("Email", "WordProcessor"), empty where the
   /// desktop has none.
   std::string categories;
+  /// What tells one document or tab of the application from another, such as a window's title;
+  /// empty where the desktop does not say.
+  std::string document;
 };
 
 /// An application that is installed.

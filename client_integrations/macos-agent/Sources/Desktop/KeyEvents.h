@@ -2,8 +2,10 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 
+#include "Desktop/Applications.h"
 #include "Desktop/Ticket.h"
 
 namespace quillseal::desktop {
@@ -34,7 +36,10 @@ struct KeyPress {
   friend bool operator==(const KeyPress&, const KeyPress&) = default;
 };
 
-/// Key presses sent to whichever application is in front. Main thread.
+/// Whether a key press reached the application it was meant for.
+enum class Delivery { delivered, declined };
+
+/// Key presses sent to an application. Main thread.
 class KeyEvents {
  public:
   virtual ~KeyEvents() = default;
@@ -49,13 +54,19 @@ class KeyEvents {
   /// another program's secure input, in words for the log; empty when nothing is known to.
   [[nodiscard]] virtual std::string obstacle() const { return {}; }
 
-  /// Presses and releases the key with exactly these modifiers, then calls `done`. The adapter sees
-  /// to it that modifiers which the user still holds (those of the hotkey) do not take part,
-  /// waiting for their release for 0.4 s at most; that every key it pressed is released again, on
-  /// every path; and that the front application has had time to learn of the last
+  /// Presses and releases the key with exactly these modifiers in `target`, then calls `done`.
+  /// Declines, with no key pressed, when the adapter knows immediately before the press that
+  /// something else than `target` would get it, or that the press would do harm there. Without a
+  /// target the press goes to whatever is in front.
+  ///
+  /// The adapter sees to it that modifiers which the user still holds (those of the hotkey) do not
+  /// take part, waiting for their release for 0.4 s at most; that every key it pressed is released
+  /// again, on every path; and that the target has had time to learn of the last
   /// `Pasteboard::write`. A press that the system does not let through is left out silently;
   /// throws Error where it cannot be told which keys the application expects.
-  [[nodiscard]] virtual Ticket press(KeyPress press, std::function<void()> done) = 0;
+  [[nodiscard]] virtual Ticket press(KeyPress press,
+                                     const std::optional<RunningApplication>& target,
+                                     std::function<void(Delivery)> done) = 0;
 };
 
 }  // namespace quillseal::desktop

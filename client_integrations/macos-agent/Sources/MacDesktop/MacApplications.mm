@@ -74,7 +74,8 @@ std::optional<desktop::RunningApplication> MacApplications::frontmost() const {
       .instance = static_cast<std::uint64_t>(front.processIdentifier),
       .name = optionalUtf8(front.localizedName),
       .bundleIdentifier = optionalUtf8(front.bundleIdentifier),
-      .categories = {}};
+      .categories = {},
+      .document = {}};
 }
 
 bool MacApplications::isActive(const desktop::RunningApplication& application) const {

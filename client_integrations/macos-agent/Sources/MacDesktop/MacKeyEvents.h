@@ -16,7 +16,9 @@ class MacKeyEvents final : public desktop::KeyEvents {
   [[nodiscard]] bool isTrusted() const override;
   void askForTrust() override;
   [[nodiscard]] std::string obstacle() const override;
-  [[nodiscard]] desktop::Ticket press(desktop::KeyPress press, std::function<void()> done) override;
+  [[nodiscard]] desktop::Ticket press(desktop::KeyPress press,
+                                      const std::optional<desktop::RunningApplication>& target,
+                                      std::function<void(desktop::Delivery)> done) override;
 
  private:
   desktop::MainLoop& loop_;

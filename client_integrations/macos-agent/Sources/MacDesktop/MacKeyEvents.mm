@@ -37,7 +37,8 @@ void post(desktop::KeyPress press) {
 /// their own flags, but some applications look at the keyboard itself.
 class WaitingPress : public std::enable_shared_from_this<WaitingPress> {
  public:
-  WaitingPress(desktop::MainLoop& loop, desktop::KeyPress press, Completion<> completion)
+  WaitingPress(desktop::MainLoop& loop, desktop::KeyPress press,
+               Completion<desktop::Delivery> completion)
       : loop_(loop),
         press_(press),
         completion_(std::move(completion)),
@@ -52,7 +53,7 @@ class WaitingPress : public std::enable_shared_from_this<WaitingPress> {
       return;
     }
     post(press_);
-    completion_();
+    completion_(desktop::Delivery::delivered);
   }
 
   void cancel() { timer_ = {}; }
@@ -60,7 +61,7 @@ class WaitingPress : public std::enable_shared_from_this<WaitingPress> {
  private:
   desktop::MainLoop& loop_;
   desktop::KeyPress press_;
-  Completion<> completion_;
+  Completion<desktop::Delivery> completion_;
   desktop::MainLoop::TimePoint deadline_;
   desktop::Ticket timer_;
 };
@@ -93,8 +94,10 @@ std::string MacKeyEvents::obstacle() const {
   return text;
 }
 
-desktop::Ticket MacKeyEvents::press(desktop::KeyPress press, std::function<void()> done) {
-  const Completion<> completion(std::move(done));
+desktop::Ticket MacKeyEvents::press(desktop::KeyPress press,
+                                    const std::optional<desktop::RunningApplication>& /*target*/,
+                                    std::function<void(desktop::Delivery)> done) {
+  const Completion<desktop::Delivery> completion(std::move(done));
   const auto waiting = std::make_shared<WaitingPress>(loop_, press, completion);
   loop_.post([waiting] { waiting->run(); });
   return completion.ticket([waiting] { waiting->cancel(); });

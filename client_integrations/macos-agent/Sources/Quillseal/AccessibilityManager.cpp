@@ -75,15 +75,19 @@ SigningScope::AppScope detectAppScope(
   return SigningScope::detectAppScope({.name = application->name, .bundleIdentifier = identifier});
 }
 
-Task<> press(desktop::KeyEvents& keys, desktop::KeyPress press) {
-  co_await completionOf<void>(
-      [&keys, press](std::function<void()> done) { return keys.press(press, std::move(done)); });
+Task<desktop::Delivery> press(desktop::KeyEvents& keys, desktop::KeyPress press,
+                              const std::optional<desktop::RunningApplication>& target) {
+  const auto delivery = co_await completionOf<desktop::Delivery>(
+      [&keys, press, &target](std::function<void(desktop::Delivery)> done) {
+        return keys.press(press, target, std::move(done));
+      });
+  co_return delivery;
 }
 
 Task<std::optional<Captured>> copySelection(Services services) {
   desktop::Pasteboard& pasteboard = services.pasteboard;
   const std::int64_t changeCount = pasteboard.changeCount();
-  co_await press(services.keys, {.key = Key::c, .modifiers = Modifiers::command});
+  co_await press(services.keys, {.key = Key::c, .modifiers = Modifiers::command}, std::nullopt);
   const bool hasChanged = co_await waitForChange(services, changeCount);
   if (!hasChanged) co_return std::nullopt;
   co_await sleep(services.loop, settleTime);
@@ -116,7 +120,7 @@ Task<std::optional<CapturedContent>> captureSelectedContent(Services services) {
   }
   if (!captured) {
     services.log.write("[capture] no selection; selecting all");
-    co_await press(services.keys, {.key = Key::a, .modifiers = Modifiers::command});
+    co_await press(services.keys, {.key = Key::a, .modifiers = Modifiers::command}, std::nullopt);
     co_await sleep(services.loop, pauseAfterSelectAll);
     captured = co_await copySelection(services);
   }

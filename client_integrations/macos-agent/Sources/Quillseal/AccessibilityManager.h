@@ -39,8 +39,10 @@ struct Services {
 [[nodiscard]] SigningScope::AppScope detectAppScope(
     const std::optional<desktop::RunningApplication>& application);
 
-/// Presses and releases a key in the front application.
-[[nodiscard]] Task<> press(desktop::KeyEvents& keys, desktop::KeyPress press);
+/// Presses and releases a key in `target`, or in whatever is in front without one.
+[[nodiscard]] Task<desktop::Delivery> press(
+    desktop::KeyEvents& keys, desktop::KeyPress press,
+    const std::optional<desktop::RunningApplication>& target);
 
 /// One copy from the front application.
 struct Captured {

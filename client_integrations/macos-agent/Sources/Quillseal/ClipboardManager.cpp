@@ -17,7 +17,7 @@ Task<> paste(Services services, const std::optional<desktop::RunningApplication>
     co_await sleep(services.loop, activationTime);
   }
   const desktop::KeyPress press{.key = desktop::Key::v, .modifiers = desktop::Modifiers::command};
-  co_await AccessibilityManager::press(services.keys, press);
+  co_await AccessibilityManager::press(services.keys, press, std::nullopt);
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 #include "Quillseal/ConfirmationText.h"
 
-#include "Quillseal/CryptoManager.h"
 #include "Quillseal/UnicodeText.h"
+#include "Quillseal/Words.h"
 
 namespace quillseal {
 namespace {
@@ -28,7 +28,7 @@ std::string promptSubject(std::string_view text) {
   std::string subject = "“";
   subject += start;
   if (start.size() < trimmed.size()) subject += "…";
-  subject += "” (" + std::to_string(CryptoManager::countWords(trimmed)) + " words)";
+  subject += "” (" + std::to_string(wordCount(trimmed)) + " words)";
   return subject;
 }
 

@@ -27,7 +27,7 @@ TEST(KeyChordsTest, CommandIsControlUnlessControlIsThereToo) {
   EXPECT_EQ(nameOf(Modifiers::command, ","), "Ctrl+,");
 }
 
-TEST(KeyChordsTest, NoTerminalEverGetsAnInterruptOrALineOfTyping) {
+TEST(KeyChordsTest, NoTerminalEverGetsAnInterruptOrALineOfText) {
   const struct {
     const char* categories;
     const char* windowClass;
@@ -38,18 +38,16 @@ TEST(KeyChordsTest, NoTerminalEverGetsAnInterruptOrALineOfTyping) {
                    {"", "URxvt"}};
   for (const auto& [categories, windowClass] : terminals) {
     SCOPED_TRACE(windowClass);
-    for (const KeyPress press : {copy, paste})
-      EXPECT_THAT(chordFor(press, categories, windowClass), testing::Ne(chordOf(press)));
-    EXPECT_THAT(chordFor(selectAll, categories, windowClass), IsEmpty());
+    EXPECT_TRUE(isTerminal(categories, windowClass));
+    EXPECT_NE(chordFor(copy, categories, windowClass), chordOf(copy));
+    for (const KeyPress press : {paste, selectAll})
+      EXPECT_THAT(chordFor(press, categories, windowClass), IsEmpty());
   }
 }
 
 TEST(KeyChordsTest, TerminalsGetTheChordsTheyKnow) {
   EXPECT_THAT(chordFor(copy, "TerminalEmulator;", "Xfce4-terminal"),
               ElementsAre(XKB_KEY_Control_L, XKB_KEY_Shift_L, XKB_KEY_c));
-  EXPECT_THAT(chordFor(paste, "TerminalEmulator;", "Xfce4-terminal"),
-              ElementsAre(XKB_KEY_Control_L, XKB_KEY_Shift_L, XKB_KEY_v));
-  EXPECT_THAT(chordFor(paste, "", "XTerm"), ElementsAre(XKB_KEY_Shift_L, XKB_KEY_Insert));
   EXPECT_THAT(chordFor(copy, "", "XTerm"), IsEmpty());
   EXPECT_TRUE(copiesBySelecting("XTerm"));
   EXPECT_FALSE(copiesBySelecting("Xfce4-terminal"));
@@ -58,6 +56,7 @@ TEST(KeyChordsTest, TerminalsGetTheChordsTheyKnow) {
 TEST(KeyChordsTest, OtherApplicationsGetTheUsualChords) {
   EXPECT_EQ(chordFor(copy, "Utility;TextEditor;", "Mousepad"), chordOf(copy));
   EXPECT_EQ(chordFor(selectAll, "", ""), chordOf(selectAll));
+  EXPECT_FALSE(isTerminal("Utility;TextEditor;", "Mousepad"));
 }
 
 }  // namespace

@@ -36,6 +36,11 @@ constexpr std::string_view renamed[] = {
     "The signed content is on your clipboard.\n\nSwitch back to your message in Chromium, select "
     "the text you signed, and press ⌘V.\n\nQuillseal cannot paste it for you here: the signing "
     "page opened in the same browser, so it would land in the wrong tab.",
+    "The signed content is on your clipboard.\n\nOpen your message again in Chromium, select the "
+    "text you signed, and press ⌘V.\n\nQuillseal did not paste it for you: the window that you "
+    "signed in is closed.",
+    "Nothing was signed: another window came to the front before the text was copied.\n\nGo back "
+    "to your text, select it and press ⌘⌥⌃H again.",
     "Quillseal stopped waiting for the browser. If you did sign, the signature exists and is "
     "valid — press ⌘⌥⌃H again to insert a fresh one, or copy the link from the browser tab.",
     "The request timed out before it was signed. Nothing was signed. Select your text and press "

@@ -258,22 +258,45 @@ Error FakeDesktop::error(desktop::transport::ErrorCode code) const {
 }
 
 desktop::Ticket FakeDesktop::press(desktop::KeyPress press,
-                                   const std::optional<desktop::RunningApplication>& /*target*/,
+                                   const std::optional<desktop::RunningApplication>& target,
+                                   std::function<void()> aboutToPress,
                                    std::function<void(desktop::Delivery)> done) {
   mayFail("press");
+  return loop.after(fingersLeave, [this, press, target, aboutToPress = std::move(aboutToPress),
+                                   done = std::move(done)] {
+    if (beforePress) beforePress(press.key);
+    if (const auto copied = std::exchange(copiedElsewhere, std::nullopt)) setClipboard(*copied);
+    const desktop::Delivery delivery = deliveryTo(target);
+    if (delivery == desktop::Delivery::delivered) {
+      if (aboutToPress) aboutToPress();
+      tap(press);
+    }
+    done(delivery);
+  });
+}
+
+desktop::Delivery FakeDesktop::deliveryTo(
+    const std::optional<desktop::RunningApplication>& target) {
+  using desktop::Delivery;
+  if (++presses == declinedPress) return Delivery::declined;
+  if (!target) return Delivery::delivered;
+  if (ended.count(target->instance) != 0) return Delivery::targetClosed;
+  if (!isActive(*target)) return Delivery::declined;
+  return active->document == target->document ? Delivery::delivered : Delivery::documentChanged;
+}
+
+void FakeDesktop::tap(desktop::KeyPress press) {
   using desktop::Key;
   const bool isCommand = press.modifiers == desktop::Modifiers::command;
   const char* key = press.key == Key::c ? "C" : press.key == Key::a ? "A" : "V";
   trace.push_back(std::string("press ") + (isCommand ? "⌘" : "?") + key);
   if (press.key == Key::v && active) pastedInto.push_back(active->name.value_or("?"));
   if (press.key == Key::a) isAllSelected_ = true;
-  if (press.key == Key::c) {
-    const std::optional<Copy> copied = isAllSelected_ ? everything : selection;
-    if (copied) copying_ = loop.after(40ms, [this, copied] { setClipboard(*copied); });
-    if (copied && secondThought)
-      secondCopying_ = loop.after(90ms, [this] { setClipboard(*secondThought); });
-  }
-  return finish([done = std::move(done)] { done(desktop::Delivery::delivered); });
+  if (press.key != Key::c) return;
+  const std::optional<Copy> copied = isAllSelected_ ? everything : selection;
+  if (copied) copying_ = loop.after(copyTime, [this, copied] { setClipboard(*copied); });
+  if (copied && secondThought)
+    secondCopying_ = loop.after(copyTime + 50ms, [this] { setClipboard(*secondThought); });
 }
 
 void FakeDesktop::setClipboard(const Copy& copy) {

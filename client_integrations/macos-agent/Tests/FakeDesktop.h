@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <deque>
 #include <functional>
@@ -61,10 +62,12 @@ class FakeDesktop final : public desktop::Alerts,
     std::optional<std::string> html;
     bool isConcealed = false;
   };
-  std::optional<Copy> selection;      ///< by Command-C
-  std::optional<Copy> everything;     ///< by Command-C after Command-A
+  std::optional<Copy> selection;   ///< by Command-C
+  std::optional<Copy> everything;  ///< by Command-C after Command-A
+  std::chrono::milliseconds copyTime{40};
   std::optional<Copy> secondThought;  ///< replaces the copy 50 ms after it
   Copy clipboard;
+  std::optional<Copy> copiedElsewhere;  ///< by another program while keys wait for the fingers
   bool tellsOfClipboardChanges = true;
 
   // The person.
@@ -82,6 +85,8 @@ class FakeDesktop final : public desktop::Alerts,
   std::optional<desktop::RunningApplication> active;  ///< after the agent has been in front
   std::set<std::uint64_t> ended;                      ///< instances that have quit
   std::vector<std::string> pastedInto;                ///< what was active at each Command-V
+  std::function<void(desktop::Key)> beforePress;      ///< what happens while keys wait
+  std::chrono::milliseconds fingersLeave{0};          ///< the modifiers, after that long
   std::optional<desktop::InstalledApplication> chrome, defaultBrowser;
   bool browserOpens = true;
   bool anyBrowserOpens = true;
@@ -112,6 +117,10 @@ class FakeDesktop final : public desktop::Alerts,
   int failingCall = 0;
   int calls = 0;
   std::string failedCall;
+
+  /// The key press with this number is declined, counting from 1; none for 0.
+  int declinedPress = 0;
+  int presses = 0;
 
   // What was registered.
   std::function<void()> hotkeyPressed;
@@ -173,6 +182,7 @@ class FakeDesktop final : public desktop::Alerts,
   void askForTrust() override { trace.emplace_back("ask for trust"); }
   desktop::Ticket press(desktop::KeyPress press,
                         const std::optional<desktop::RunningApplication>& target,
+                        std::function<void()> aboutToPress,
                         std::function<void(desktop::Delivery)> done) override;
 
   // KeyStore
@@ -205,6 +215,9 @@ class FakeDesktop final : public desktop::Alerts,
  private:
   void mayFail(std::string_view call);
   void setClipboard(const Copy& copy);
+  [[nodiscard]] desktop::Delivery deliveryTo(
+      const std::optional<desktop::RunningApplication>& target);
+  void tap(desktop::KeyPress press);
   desktop::Ticket finish(std::function<void()> completion);
 
   BrowserTabReturn::ScriptedBrowserTabs tabs_{*this, *this};

@@ -381,6 +381,23 @@ TEST_F(SigningCoordinatorTest, NoticesACopyAtOnceOnlyWhereTheDesktopTells) {
   EXPECT_EQ(polled - told, 20ms);  // the copy comes after 40 ms, and every 30 ms somebody looks
 }
 
+TEST_F(SigningCoordinatorTest, TakesACopyThatComesWithTheLastLook) {
+  desktop_.copyTime = 1190ms;
+  desktop_.tellsOfClipboardChanges = false;
+  desktop_.everything =
+      FakeDesktop::Copy{.text = text + " And nobody else's business.", .html = {}};
+  sign();
+  EXPECT_THAT(*desktop_.clipboard.text, StartsWith("『" + text + "』"));
+}
+
+TEST_F(SigningCoordinatorTest, TakesNothingThatWasCopiedBeforeItPressedTheKeys) {
+  desktop_.copiedElsewhere = FakeDesktop::Copy{.text = text + " So says another.", .html = {}};
+  desktop_.fingersLeave = 300ms;
+  desktop_.selection = std::nullopt;
+  sign();
+  EXPECT_THAT(desktop_.trace.back(), StartsWith("alert: No Text Found"));
+}
+
 TEST_F(SigningCoordinatorTest, MendsIllFormedTextOnce) {
   desktop_.selection = FakeDesktop::Copy{.text = text + "\xC3", .html = "<p>\xFF</p>"};
   sign();
@@ -401,24 +418,107 @@ TEST_F(SigningCoordinatorTest, BringsTheSourceBackBeforeItPastes) {
   EXPECT_THAT(desktop_.trace, Not(Contains("activate Mail")));
 }
 
-TEST_F(SigningCoordinatorTest, PastesIntoWhatIsInFrontWhenTheSourceHasQuit) {
-  for (const bool hasKey : {true, false}) {
-    desktop_.strings["SigningMode"] = "handoff";
-    desktop_.hasKey = hasKey;
-    desktop_.front = desktop_.active = mail;
-    desktop_.trace.clear();
-    coordinator_->startSigning();
-    const std::string waiting = hasKey ? "POST /api/sign_native" : "POST /api/handoff/poll";
-    while (desktop_.trace.empty() || desktop_.trace.back() != waiting)
-      ASSERT_TRUE(desktop_.loop.step());
-    desktop_.ended = {mail.instance};
-    desktop_.front = desktop_.active = chromeRunning;
-    desktop_.loop.run();
-    EXPECT_EQ(desktop_.trace.back(), notification);
-    EXPECT_THAT(desktop_.trace, Contains("activate Mail"));
-    EXPECT_THAT(*desktop_.clipboard.text, HasSubstr("· Email Message (Mail) · 1 March 2026\n"));
+struct Interference {
+  std::string name;
+  std::function<void(FakeDesktop&)> happening;  ///< while the keys wait to be pressed
+  std::string words;
+};
+
+TEST_F(SigningCoordinatorTest, PastesNowhereElse) {
+  const Interference cases[] = {
+      {"closed", [](FakeDesktop& d) { d.ended = {mail.instance}; },
+       "Open your message again in Mail, select the text you signed, and press ⌘V.\n\nQuillseal "
+       "did not paste it for you: the window that you signed in is closed."},
+      {"switched", [](FakeDesktop& d) { d.front = d.active = chromeRunning; },
+       "Switch back to your message in Mail, select the text you signed, and press "
+       "⌘V.\n\nQuillseal "
+       "did not paste it for you: another window is in front, so it would land in the wrong "
+       "place."},
+      {"another document", [](FakeDesktop& d) { d.active->document = "Re: Rent"; },
+       "Switch back to your message in Mail, select the text you signed, and press "
+       "⌘V.\n\nQuillseal "
+       "did not paste it for you: the window shows another document or tab than the one you signed "
+       "in, so it would land in the wrong place."},
+  };
+  for (const Interference& c : cases) {
+    for (const char* mode : {"enclave", "handoff"}) {
+      FakeDesktop desktop;
+      desktop.front = desktop.active = mail;
+      desktop.selection = FakeDesktop::Copy{.text = text, .html = {}};
+      desktop.strings["SigningMode"] = mode;
+      desktop.hasKey = mode == std::string("enclave");
+      desktop.beforePress = [&](desktop::Key key) {
+        if (key == desktop::Key::v) c.happening(desktop);
+      };
+      SigningCoordinator coordinator(desktop.services());
+      coordinator.startSigning();
+      desktop.loop.run();
+      EXPECT_EQ(desktop.trace.back(),
+                "alert: Signed — Paste It Into Your Message | The signed content is on your "
+                "clipboard.\n\n" +
+                    c.words)
+          << c.name;
+      EXPECT_THAT(desktop.pastedInto, ElementsAre()) << c.name;
+      EXPECT_TRUE(wroteBlock(desktop)) << c.name;
+    }
   }
-  EXPECT_THAT(desktop_.pastedInto, ElementsAre("Google Chrome", "Google Chrome"));
+}
+
+TEST_F(SigningCoordinatorTest, CopiesNowhereElse) {
+  const Interference cases[] = {
+      {"closed", [](FakeDesktop& d) { d.ended = {mail.instance}; }, "its window was closed"},
+      {"switched", [](FakeDesktop& d) { d.front = d.active = chromeRunning; },
+       "another window came to the front"},
+      {"another document", [](FakeDesktop& d) { d.active->document = "Re: Rent"; },
+       "the window showed another document or tab"},
+  };
+  for (const Interference& c : cases) {
+    for (const desktop::Key pressed : {desktop::Key::c, desktop::Key::a}) {
+      FakeDesktop desktop;
+      desktop.front = desktop.active = mail;
+      desktop.everything = FakeDesktop::Copy{.text = text, .html = {}};
+      if (pressed == desktop::Key::c) desktop.selection = desktop.everything;
+      desktop.beforePress = [&](desktop::Key key) {
+        if (key == pressed) c.happening(desktop);
+      };
+      SigningCoordinator coordinator(desktop.services());
+      coordinator.startSigning();
+      desktop.loop.run();
+      EXPECT_EQ(desktop.trace.back(), "alert: Not Signed | Nothing was signed: " + c.words +
+                                          " before the text was copied.\n\nGo back to your text, "
+                                          "select it and press ⌘⌥⌃H again.");
+      EXPECT_EQ(std::ranges::count(desktop.trace, "press ⌘C"), pressed == desktop::Key::a);
+      EXPECT_THAT(desktop.trace, Not(Contains("press ⌘A"))) << c.name;
+    }
+  }
+}
+
+TEST_F(SigningCoordinatorTest, PastesIntoNoTerminal) {
+  desktop_.front->categories = desktop_.active->categories = "System;TerminalEmulator;";
+  sign();
+  EXPECT_THAT(desktop_.trace.back(), EndsWith("a shell there would run each line as a command."));
+  EXPECT_THAT(desktop_.trace, Contains("log: [inject] signed block left on the clipboard; the "
+                                       "source is a terminal"));
+  EXPECT_THAT(desktop_.pastedInto, ElementsAre());
+  EXPECT_TRUE(wroteBlock(desktop_));
+}
+
+TEST_F(SigningCoordinatorTest, TakesTheApplicationBehindItsOwnWindows) {
+  desktop_.active = std::nullopt;
+  desktop_.everything = FakeDesktop::Copy{.text = "Settings", .html = {}};
+  sign();
+  EXPECT_THAT(
+      desktop_.userTrace(),
+      ElementsAre("activate Mail", "press ⌘C", "prompt: Sign " + subject + " as an anonymous human",
+                  "POST /api/sign_native", "write clipboard", "press ⌘V", notification));
+
+  // When a window has just closed, the one behind it takes a moment to come to the front.
+  desktop_.front = desktop_.active = std::nullopt;
+  desktop_.forget();
+  const auto arrival =
+      desktop_.loop.after(200ms, [this] { desktop_.front = desktop_.active = mail; });
+  sign();
+  EXPECT_THAT(*desktop_.clipboard.text, HasSubstr("QUILLSEAL · Email Message (Mail) · "));
 }
 
 TEST_F(SigningCoordinatorTest, KeepsACopyForDebuggingEvenOfWhatIsRefused) {
@@ -535,6 +635,7 @@ void makeEventful(FakeDesktop& desktop, int kind) {
   desktop.front = desktop.active = chromeRunning;
   desktop.defaultBrowser = chromeInstalled;
   desktop.selection = FakeDesktop::Copy{.text = text, .html = {}};
+  desktop.everything = FakeDesktop::Copy{.text = text + " The rest is private.", .html = {}};
   desktop.flags = {"ConfirmBeforeSigning"};
   desktop.confirmation = desktop::ConfirmationEntry{.choice = "LinkedIn Post", .field = "Ada"};
   desktop.hasKey = false;
@@ -594,15 +695,16 @@ TEST(SigningRuns, NameOneDayWhateverTheClockDoes) {
 
 // A clock that goes on while the machine sleeps makes every wait overdue at once.
 TEST(SigningRuns, OutliveASuspendedMachine) {
-  interruptEverywhere([](FakeDesktop& desktop, auto&) { desktop.loop.leap(8h); },
-                      [](FakeDesktop& desktop) {
-                        const Lines told = desktop.userTrace();
-                        ASSERT_FALSE(told.empty());
-                        const bool isSigned = told.back() == notification;
-                        EXPECT_TRUE(isSigned || told.back().rfind("alert: ", 0) == 0)
-                            << told.back();
-                        EXPECT_EQ(isSigned, std::ranges::count(told, "press ⌘V") == 1);
-                      });
+  interruptEverywhere(
+      [](FakeDesktop& desktop, auto&) { desktop.loop.leap(8h); },
+      [](FakeDesktop& desktop) {
+        const Lines told = desktop.userTrace();
+        ASSERT_FALSE(told.empty());
+        const bool isSigned = told.back() == notification;
+        EXPECT_TRUE(isSigned || told.back().rfind("alert: ", 0) == 0) << told.back();
+        EXPECT_EQ(isSigned, std::ranges::count(told, "press ⌘V") == 1);
+        EXPECT_THAT(told, Not(Contains("press ⌘A"))) << "all is taken instead of the selection";
+      });
 }
 
 TEST(SigningRuns, DoNotCopyOverEachOthersBlock) {
@@ -650,6 +752,27 @@ TEST(SigningRuns, TellTheUserWhicheverCallFails) {
       const bool wrote = std::ranges::count(told, "write clipboard") > 0;
       EXPECT_EQ(wroteBlock(desktop), wrote) << where;
       EXPECT_TRUE(wrote || std::ranges::count(told, "press ⌘V") == 0) << where;
+    }
+  }
+}
+
+TEST(SigningRuns, TellTheUserWhicheverPressIsDeclined) {
+  for (int kind = 0; kind < 3; ++kind) {
+    for (int declined = 1;; ++declined) {
+      FakeDesktop desktop;
+      makeEventful(desktop, kind);
+      desktop.selection = std::nullopt;  // so that all is selected
+      desktop.declinedPress = declined;
+      SigningCoordinator coordinator(desktop.services());
+      coordinator.startSigning();
+      desktop.loop.run();
+      if (desktop.presses < declined) break;
+      const std::string where =
+          "kind " + std::to_string(kind) + ", press " + std::to_string(declined);
+      EXPECT_EQ(desktop.presses, declined) << where << ": no other is tried";
+      EXPECT_THAT(desktop.trace.back(), StartsWith("alert: ")) << where;
+      EXPECT_EQ(wroteBlock(desktop), declined == 4) << where << ": after C, A and C comes V";
+      EXPECT_THAT(desktop.trace, Not(Contains(notification))) << where;
     }
   }
 }

@@ -71,12 +71,12 @@ bool isOneOf(std::string_view windowClass, const auto& classes) {
   });
 }
 
+}  // namespace
+
 bool isTerminal(std::string_view categories, std::string_view windowClass) {
   return categories.find("TerminalEmulator") != std::string_view::npos ||
          isOneOf(windowClass, terminalClasses) || copiesBySelecting(windowClass);
 }
-
-}  // namespace
 
 bool copiesBySelecting(std::string_view windowClass) {
   return isOneOf(windowClass, selectingClasses);
@@ -93,17 +93,8 @@ std::vector<Keysym> chordOf(KeyPress press) {
 std::vector<Keysym> chordFor(KeyPress press, std::string_view categories,
                              std::string_view windowClass) {
   if (!isTerminal(categories, windowClass)) return chordOf(press);
-  const bool selecting = copiesBySelecting(windowClass);
-  switch (press.key) {
-    case Key::c:
-      if (selecting) return {};
-      return {XKB_KEY_Control_L, XKB_KEY_Shift_L, XKB_KEY_c};
-    case Key::v:
-      if (selecting) return {XKB_KEY_Shift_L, XKB_KEY_Insert};
-      return {XKB_KEY_Control_L, XKB_KEY_Shift_L, XKB_KEY_v};
-    default:
-      return {};
-  }
+  if (press.key != Key::c || copiesBySelecting(windowClass)) return {};
+  return {XKB_KEY_Control_L, XKB_KEY_Shift_L, XKB_KEY_c};
 }
 
 std::string nameOf(KeyPress press) {

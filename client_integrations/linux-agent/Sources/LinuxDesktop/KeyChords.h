@@ -15,13 +15,18 @@ namespace quillseal {
 /// Command is the key with the logo of the desktop (Super), since one key cannot be both.
 [[nodiscard]] std::vector<Keysym> chordOf(desktop::KeyPress press);
 
+/// Whether an application of this kind is a terminal, by the categories of its desktop file or
+/// because it is known as one.
+[[nodiscard]] bool isTerminal(std::string_view categories, std::string_view windowClass);
+
 /// Whether the terminal has no chord that copies: in it, whatever is selected has been copied, to
-/// the primary selection, and that is what it pastes.
+/// the primary selection.
 [[nodiscard]] bool copiesBySelecting(std::string_view windowClass);
 
 /// The chord that copies, pastes or selects all in an application of this kind. In a terminal
 /// Ctrl+C would end the program that runs there, so Shift is added; a terminal may have no key that
-/// copies, and has none that selects all: an empty chord means that nothing may be pressed.
+/// copies, has none that selects all, and is never pasted into: an empty chord means that nothing
+/// may be pressed.
 [[nodiscard]] std::vector<Keysym> chordFor(desktop::KeyPress press, std::string_view categories,
                                            std::string_view windowClass);
 

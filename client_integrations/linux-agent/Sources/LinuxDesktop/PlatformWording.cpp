@@ -95,6 +95,8 @@ constexpr Row rows[] = {
      "Please type or highlight some text in Outlook (or any app) before pressing ⌘⌥⌃H.",
      "Please type or highlight some text in Thunderbird (or any app) before pressing "
      "Ctrl+Alt+Super+H."},
+    {Match::whole, "Go back to your text, select it and press ⌘⌥⌃H again.",
+     "Go back to your text, select it and press Ctrl+Alt+Super+H again."},
     {Match::end, ", select the text you signed, and press ⌘V.",
      ", select the text you signed, and press Ctrl+V."},
     {Match::whole,

@@ -137,29 +137,18 @@ void QtPasteboard::write(const desktop::PasteboardContent& content) {
 }
 
 desktop::Ticket QtPasteboard::copyPrimarySelection(std::function<void()> done) {
-  return copy({.from = QClipboard::Selection, .to = QClipboard::Clipboard}, std::move(done));
-}
-
-desktop::Ticket QtPasteboard::offerAsPrimarySelection(std::function<void()> done) {
-  return copy({.from = QClipboard::Clipboard, .to = QClipboard::Selection}, std::move(done));
-}
-
-desktop::Ticket QtPasteboard::copy(Way way, std::function<void()> done) {
   QClipboard* const clipboard = QGuiApplication::clipboard();
-  const auto arrive = [clipboard, to = way.to, done = std::move(done)](const QString& text) {
-    if (!text.isEmpty()) clipboard->setText(text, to);
+  const auto arrive = [clipboard, done = std::move(done)](const QString& text) {
+    if (!text.isEmpty()) clipboard->setText(text);
     done();
   };
-  const bool isPrimary = way.from == QClipboard::Selection;
-  if (isPrimary ? clipboard->ownsSelection() : clipboard->ownsClipboard()) {
-    arrive(clipboard->text(way.from));
+  if (clipboard->ownsSelection()) {
+    arrive(clipboard->text(QClipboard::Selection));
     return {};
   }
   return X11Selection::read(
       services_,
-      {.selection = isPrimary ? X11Selection::Name::primary : X11Selection::Name::clipboard,
-       .formats = {oneOf(textFormats)},
-       .isEnough = {}},
+      {.selection = X11Selection::Name::primary, .formats = {oneOf(textFormats)}, .isEnough = {}},
       [arrive](const X11Selection::Content& content) { arrive(dataOf(content)->text()); });
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QClipboard>
 #include <QMimeData>
 #include <QObject>
 #include <chrono>
@@ -31,21 +30,11 @@ class QtPasteboard : public desktop::Pasteboard {
   /// is selected in. Leaves the clipboard alone when that is nothing. `done` is called in the end.
   [[nodiscard]] desktop::Ticket copyPrimarySelection(std::function<void()> done);
 
-  /// Offers the clipboard's plain text as the primary selection too, for programs that paste that.
-  /// `done` is called in the end.
-  [[nodiscard]] desktop::Ticket offerAsPrimarySelection(std::function<void()> done);
-
   /// When `write` was last called; the epoch when it never was.
   [[nodiscard]] std::chrono::steady_clock::time_point lastWrite() const { return lastWrite_; }
 
  private:
-  struct Way {
-    QClipboard::Mode from;
-    QClipboard::Mode to;
-  };
-
   [[nodiscard]] const QMimeData* offered() const;
-  [[nodiscard]] desktop::Ticket copy(Way way, std::function<void()> done);
 
   X11Selection::Services services_;
   QObject receiver_;

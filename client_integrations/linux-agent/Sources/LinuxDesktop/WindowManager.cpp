@@ -5,10 +5,10 @@
 #include <cstring>
 #include <filesystem>
 #include <memory>
-#include <vector>
 
 #include <unistd.h>
 
+#include "LinuxDesktop/WindowDocument.h"
 #include "LinuxDesktop/XcbHandles.h"
 
 namespace quillseal {
@@ -18,6 +18,7 @@ using x11::Reply;
 
 constexpr std::uint32_t longestProperty = 1024;  // in units of four bytes
 constexpr std::uint32_t sourcePager = 2;
+constexpr std::uint32_t everyWorkspace = 0xFFFFFFFF;
 
 // WM_CLASS holds the instance and the class, each closed by a zero byte. The instance is not used:
 // some programs put a profile path there.
@@ -63,17 +64,74 @@ std::string WindowManager::property(xcb_window_t window, const char* name, xcb_a
           static_cast<std::size_t>(xcb_get_property_value_length(reply.get()))};
 }
 
+std::vector<std::uint32_t> WindowManager::numbers(xcb_window_t window, const char* name,
+                                                  xcb_atom_t type) const {
+  const std::string bytes = property(window, name, type);
+  std::vector<std::uint32_t> values(bytes.size() / sizeof(std::uint32_t));
+  std::memcpy(values.data(), bytes.data(), values.size() * sizeof(std::uint32_t));
+  return values;
+}
+
 std::optional<std::uint32_t> WindowManager::number(xcb_window_t window, const char* name,
                                                    xcb_atom_t type) const {
-  const std::string bytes = property(window, name, type);
-  std::uint32_t value = 0;
-  if (bytes.size() < sizeof value) return std::nullopt;
-  std::memcpy(&value, bytes.data(), sizeof value);
-  return value;
+  const std::vector<std::uint32_t> values = numbers(window, name, type);
+  return values.empty() ? std::nullopt : std::optional(values.front());
 }
 
 xcb_window_t WindowManager::activeWindow() const {
   return number(root_, "_NET_ACTIVE_WINDOW", XCB_ATOM_WINDOW).value_or(0);
+}
+
+bool WindowManager::namesActiveWindow() const {
+  return number(root_, "_NET_ACTIVE_WINDOW", XCB_ATOM_WINDOW).has_value();
+}
+
+xcb_window_t WindowManager::inputFocus() const {
+  if (connection_ == nullptr) return 0;
+  const Reply<xcb_get_input_focus_reply_t> reply(
+      xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
+  return reply == nullptr ? 0 : reply->focus;
+}
+
+// The server gives every program a range of numbers of its own.
+bool WindowManager::isOfSameProgram(xcb_window_t one, xcb_window_t other) const {
+  const std::uint32_t withinProgram = xcb_get_setup(connection_)->resource_id_mask;
+  return (one & ~withinProgram) == (other & ~withinProgram);
+}
+
+bool WindowManager::isInside(xcb_window_t inner, xcb_window_t outer) const {
+  while (inner != outer) {
+    const Reply<xcb_query_tree_reply_t> reply(
+        xcb_query_tree_reply(connection_, xcb_query_tree(connection_, inner), nullptr));
+    if (reply == nullptr || reply->parent == XCB_NONE) return false;
+    inner = reply->parent;
+  }
+  return true;
+}
+
+// Some programs have the focus in a window beside the one that they show, others in one that
+// another program has put into theirs.
+bool WindowManager::hasKeyboard(xcb_window_t window) const {
+  if (window == 0 || activeWindow() != window) return false;
+  const xcb_window_t focus = inputFocus();
+  return focus > XCB_INPUT_FOCUS_POINTER_ROOT &&
+         (isOfSameProgram(focus, window) || isInside(focus, window));
+}
+
+bool WindowManager::isOnOtherWorkspace(xcb_window_t window) const {
+  const auto workspace = number(window, "_NET_WM_DESKTOP", XCB_ATOM_CARDINAL);
+  return workspace && *workspace != everyWorkspace &&
+         workspace != number(root_, "_NET_CURRENT_DESKTOP", XCB_ATOM_CARDINAL);
+}
+
+bool WindowManager::isForWriting(xcb_window_t window) const {
+  const auto has = [&](const char* list, const char* value) {
+    const std::vector<std::uint32_t> values = numbers(window, list, XCB_ATOM_ATOM);
+    return std::ranges::find(values, atom(value)) != values.end();
+  };
+  return !isOnOtherWorkspace(window) && !has("_NET_WM_STATE", "_NET_WM_STATE_HIDDEN") &&
+         !has("_NET_WM_WINDOW_TYPE", "_NET_WM_WINDOW_TYPE_DOCK") &&
+         !has("_NET_WM_WINDOW_TYPE", "_NET_WM_WINDOW_TYPE_DESKTOP");
 }
 
 xcb_window_t WindowManager::topForeignWindow() const {
@@ -81,12 +139,19 @@ xcb_window_t WindowManager::topForeignWindow() const {
   const xcb_window_t active = activeWindow();
   if (active == 0 || processOf(active) != own) return active;
   // From the bottom to the top.
-  const std::string bytes = property(root_, "_NET_CLIENT_LIST_STACKING", XCB_ATOM_WINDOW);
-  std::vector<xcb_window_t> stack(bytes.size() / sizeof(xcb_window_t));
-  std::memcpy(stack.data(), bytes.data(), stack.size() * sizeof(xcb_window_t));
-  const auto found = std::find_if(stack.rbegin(), stack.rend(),
-                                  [&](xcb_window_t window) { return processOf(window) != own; });
+  const std::vector<xcb_window_t> stack =
+      numbers(root_, "_NET_CLIENT_LIST_STACKING", XCB_ATOM_WINDOW);
+  const auto found = std::find_if(stack.rbegin(), stack.rend(), [&](xcb_window_t window) {
+    return processOf(window) != own && isForWriting(window);
+  });
   return found == stack.rend() ? 0 : *found;
+}
+
+std::string WindowManager::documentOf(xcb_window_t window) const {
+  WindowView view{.title = property(window, "_NET_WM_NAME", atom("UTF8_STRING")), .focus = 0};
+  if (view.title.empty()) view.title = property(window, "WM_NAME", XCB_ATOM_ANY);
+  if (hasKeyboard(window)) view.focus = inputFocus();
+  return documentName(view);
 }
 
 std::uint32_t WindowManager::processOf(xcb_window_t window) const {
@@ -107,9 +172,7 @@ bool WindowManager::hasPrimarySelection(xcb_window_t window) const {
   const Reply<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(
       connection_, xcb_get_selection_owner(connection_, XCB_ATOM_PRIMARY), nullptr));
   if (reply == nullptr) return false;
-  // The server gives every program a range of numbers of its own.
-  const std::uint32_t withinProgram = xcb_get_setup(connection_)->resource_id_mask;
-  return (reply->owner & ~withinProgram) == (window & ~withinProgram);
+  return isOfSameProgram(reply->owner, window);
 }
 
 bool WindowManager::exists(xcb_window_t window) const {
@@ -119,19 +182,29 @@ bool WindowManager::exists(xcb_window_t window) const {
   return reply != nullptr;
 }
 
-void WindowManager::activate(xcb_window_t window) const {
-  if (connection_ == nullptr || window == 0) return;
+void WindowManager::ask(xcb_window_t window, const Wish& wish) const {
   xcb_client_message_event_t message{};
   message.response_type = XCB_CLIENT_MESSAGE;
   message.format = 32;
   message.window = window;
-  message.type = atom("_NET_ACTIVE_WINDOW");
-  message.data.data32[0] = sourcePager;
-  message.data.data32[1] = XCB_CURRENT_TIME;
+  message.type = atom(wish.name);
+  message.data.data32[0] = wish.first;
+  message.data.data32[1] = wish.second;
   xcb_send_event(connection_, 0, root_,
                  XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
                  reinterpret_cast<const char*>(&message));
   xcb_flush(connection_);
+}
+
+void WindowManager::activate(xcb_window_t window) const {
+  if (connection_ == nullptr || window == 0) return;
+  if (isOnOtherWorkspace(window)) {
+    const auto workspace = number(window, "_NET_WM_DESKTOP", XCB_ATOM_CARDINAL);
+    ask(root_, {.name = "_NET_CURRENT_DESKTOP",
+                .first = workspace.value_or(0),
+                .second = XCB_CURRENT_TIME});
+  }
+  ask(window, {.name = "_NET_ACTIVE_WINDOW", .first = sourcePager, .second = XCB_CURRENT_TIME});
 }
 
 void WindowManager::releaseKeyboard() const {

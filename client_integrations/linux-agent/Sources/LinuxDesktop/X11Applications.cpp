@@ -1,6 +1,7 @@
 #include "LinuxDesktop/X11Applications.h"
 
 #include "LinuxDesktop/Browsers.h"
+#include "LinuxDesktop/KeyChords.h"
 
 namespace quillseal {
 namespace {
@@ -17,8 +18,11 @@ std::optional<RunningApplication> X11Applications::frontmost() const {
   const xcb_window_t window = windows_.topForeignWindow();
   if (window == 0) return std::nullopt;
   const WindowTraits traits = windows_.traitsOf(window);
-  RunningApplication application{
-      .instance = window, .name = {}, .bundleIdentifier = {}, .categories = {}, .document = {}};
+  RunningApplication application{.instance = window,
+                                 .name = {},
+                                 .bundleIdentifier = {},
+                                 .categories = {},
+                                 .document = windows_.documentOf(window)};
   if (const auto entry = entries_.forWindow(traits)) {
     application.name = entry->name;
     // Not by the executable: a browser's programs for single sites have desktop files of their own.
@@ -31,6 +35,8 @@ std::optional<RunningApplication> X11Applications::frontmost() const {
         Browsers::identifierOf({.desktopFile = {}, .executable = traits.executable});
     if (!browser.empty()) application.bundleIdentifier = browser;
   }
+  if (isTerminal(application.categories, traits.windowClass))
+    application.categories += " TerminalEmulator";
   return application;
 }
 

@@ -12,7 +12,8 @@ namespace quillseal {
 
 /// Applications by the windows of the X session and the desktop files of the machine. An instance
 /// is a window; a location is the id of a desktop file, and so is a bundle identifier, but that of
-/// a browser is the same under all the names that it may have.
+/// a browser is the same under all the names that it may have. Terminals are in the category
+/// "TerminalEmulator", also those whose desktop file does not say so.
 class X11Applications : public desktop::Applications {
  public:
   /// All outlive this object.

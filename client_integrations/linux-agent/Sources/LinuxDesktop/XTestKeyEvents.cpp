@@ -3,22 +3,140 @@
 #include <algorithm>
 #include <memory>
 #include <utility>
+#include <vector>
 
 #include <xkbcommon/xkbcommon-keysyms.h>
 
 #include "LinuxDesktop/KeyChords.h"
+#include "LinuxDesktop/WindowDocument.h"
 
 namespace quillseal {
 namespace {
 
+using desktop::Delivery;
 using std::chrono::milliseconds;
 
 constexpr milliseconds releasePatience{400};
-constexpr milliseconds releasePolling{8};
+constexpr milliseconds polling{8};
 // LibreOffice Writer pastes its own earlier copy when the key follows the clipboard more closely.
 constexpr milliseconds clipboardPropagation{150};
+// Windows take their time to come to the front, and pages to show their title again.
+constexpr milliseconds targetPatience{1000};
 
 }  // namespace
+
+/// One press, which waits in turns of the main loop: the clipboard and the hotkey are served
+/// meanwhile. It lives until its ticket is dropped.
+class XTestKeyEvents::Press : public std::enable_shared_from_this<Press> {
+ public:
+  struct Wish {
+    desktop::KeyPress press;
+    std::optional<desktop::RunningApplication> target;
+    std::function<void()> aboutToPress;
+    std::function<void(Delivery)> done;
+  };
+
+  Press(const Services& services, Wish wish)
+      : services_(services),
+        wish_(std::move(wish)),
+        window_(wish_.target ? static_cast<xcb_window_t>(wish_.target->instance) : 0),
+        layout_(services.keyboard->layout()),
+        earliest_(services.pasteboard.lastWrite() + clipboardPropagation),
+        latest_(std::max(services.loop.now() + releasePatience, earliest_)) {}
+
+  void begin() {
+    timer_ = services_.loop.after(milliseconds{0}, [this] { step(); });
+  }
+
+  void withdraw() {
+    wish_.done = nullptr;
+    timer_ = {};
+  }
+
+ private:
+  void step() {
+    const auto now = services_.loop.now();
+    if (now < earliest_) return comeBackAfter(std::chrono::ceil<milliseconds>(earliest_ - now));
+    if (now < latest_ && !heldKeys().empty()) return comeBackAfter(polling);
+    const Delivery delivery = deliveryNow();
+    const bool mayBecomeTarget =
+        delivery != Delivery::delivered && delivery != Delivery::targetClosed && wish_.target;
+    if (mayBecomeTarget && now < latest_ + targetPatience) return comeBackAfter(polling);
+    if (delivery == Delivery::delivered)
+      press();
+    else
+      finish(delivery);
+  }
+
+  void comeBackAfter(milliseconds delay) {
+    timer_ = services_.loop.after(delay, [this] { step(); });
+  }
+
+  /// Whom a key would reach that is pressed now.
+  [[nodiscard]] Delivery deliveryNow() const {
+    const WindowManager& windows = services_.windows;
+    // Nothing was in front when the target was looked for: what is now is not what was meant.
+    if (!wish_.target)
+      return windows.namesActiveWindow() ? Delivery::declined : Delivery::delivered;
+    if (!windows.exists(window_)) return Delivery::targetClosed;
+    if (!windows.hasKeyboard(window_)) return Delivery::declined;
+    const bool isSame = isSameDocument(wish_.target->document, windows.documentOf(window_));
+    return isSame ? Delivery::delivered : Delivery::documentChanged;
+  }
+
+  void press() {
+    const WindowTraits traits = services_.windows.traitsOf(window_);
+    if (copiesBySelecting(traits.windowClass) && wish_.press.key == desktop::Key::c) {
+      aboutToPress();
+      copySelected();
+      return;
+    }
+    const auto entry = services_.entries.forWindow(traits);
+    std::vector<xcb_keycode_t> keys;
+    for (const Keysym symbol :
+         chordFor(wish_.press, entry ? entry->categories : std::string(), traits.windowClass))
+      keys.push_back(layout_.keyFor(symbol));
+    if (std::ranges::find(keys, 0) != keys.end()) keys.clear();
+    if (!keys.empty()) {
+      services_.keyboard->release(heldKeys());
+      services_.windows.releaseKeyboard();
+    }
+    // All of that took time, and what was let go may have switched windows.
+    const Delivery delivery = deliveryNow();
+    if (delivery == Delivery::delivered) {
+      aboutToPress();
+      if (!keys.empty()) services_.keyboard->tap(keys);
+    }
+    finish(delivery);
+  }
+
+  void aboutToPress() {
+    if (wish_.aboutToPress) wish_.aboutToPress();
+  }
+
+  void copySelected() {
+    const auto self = shared_from_this();  // it may be copied at once
+    if (!services_.windows.hasPrimarySelection(window_)) return finish(Delivery::delivered);
+    timer_ = services_.pasteboard.copyPrimarySelection([this] { finish(Delivery::delivered); });
+  }
+
+  [[nodiscard]] std::vector<xcb_keycode_t> heldKeys() const {
+    return services_.keyboard->heldKeys(layout_.keyFor(XKB_KEY_h));
+  }
+
+  void finish(Delivery delivery) {
+    const auto self = shared_from_this();  // the completion may drop the ticket
+    if (const auto done = std::exchange(wish_.done, nullptr)) done(delivery);
+  }
+
+  const Services& services_;
+  Wish wish_;
+  xcb_window_t window_;
+  X11Keyboard::Layout layout_;
+  desktop::MainLoop::TimePoint earliest_;
+  desktop::MainLoop::TimePoint latest_;
+  desktop::Ticket timer_;  // and then what is read of a selection
+};
 
 XTestKeyEvents::XTestKeyEvents(Services services) : services_(std::move(services)) {}
 
@@ -30,78 +148,24 @@ void XTestKeyEvents::askForTrust() {
   services_.explain();
 }
 
-// Waits in turns of the main loop: the clipboard and the hotkey are served meanwhile.
 desktop::Ticket XTestKeyEvents::press(desktop::KeyPress press,
-                                      const std::optional<desktop::RunningApplication>& /*target*/,
-                                      std::function<void(desktop::Delivery)> done) {
-  struct Wait {
-    desktop::MainLoop::TimePoint earliest;
-    desktop::MainLoop::TimePoint latest;
-    desktop::Ticket timer;  // and then what is read of a selection
-    std::function<void()> step;
-  };
+                                      const std::optional<desktop::RunningApplication>& target,
+                                      std::function<void()> aboutToPress,
+                                      std::function<void(Delivery)> done) {
   if (!isTrusted()) {
-    done(desktop::Delivery::delivered);
+    done(Delivery::delivered);
     return {};
   }
   // Without the entries nobody can tell which keys to press. A failure reaches the caller from
   // here, but not from a turn of the loop.
   static_cast<void>(services_.entries.withId({}));
-  desktop::MainLoop& loop = services_.loop;
-  const auto wait = std::make_shared<Wait>();
-  wait->earliest = services_.pasteboard.lastWrite() + clipboardPropagation;
-  wait->latest = std::max(loop.now() + releasePatience, wait->earliest);
-  // Only the ticket owns `wait`: dropped, it takes the timer with it.
-  const X11Keyboard::Layout layout = services_.keyboard->layout();
-  wait->step = [this, press, layout, done = std::move(done), weak = std::weak_ptr(wait)] {
-    const auto self = weak.lock();
-    const auto now = services_.loop.now();
-    if (now < self->earliest) {
-      self->timer =
-          services_.loop.after(std::chrono::ceil<milliseconds>(self->earliest - now), self->step);
-      return;
-    }
-    const bool keysDown = !services_.keyboard->heldKeys(layout.keyFor(XKB_KEY_h)).empty();
-    if (keysDown && now < self->latest) {
-      self->timer = services_.loop.after(releasePolling, self->step);
-      return;
-    }
-    self->timer = exchangeSelections(press, [this, press, layout, done] {
-      tap(press, layout);
-      done(desktop::Delivery::delivered);
-    });
-  };
-  wait->timer = loop.after(milliseconds{0}, wait->step);
-  return desktop::Ticket([wait] { wait->timer = {}; });
-}
-
-desktop::Ticket XTestKeyEvents::exchangeSelections(desktop::KeyPress press,
-                                                   std::function<void()> done) {
-  const xcb_window_t window = services_.windows.activeWindow();
-  if (copiesBySelecting(services_.windows.traitsOf(window).windowClass)) {
-    if (press.key == desktop::Key::c && services_.windows.hasPrimarySelection(window))
-      return services_.pasteboard.copyPrimarySelection(std::move(done));
-    if (press.key == desktop::Key::v)
-      return services_.pasteboard.offerAsPrimarySelection(std::move(done));
-  }
-  done();
-  return {};
-}
-
-void XTestKeyEvents::tap(desktop::KeyPress press, const X11Keyboard::Layout& layout) {
-  X11Keyboard& keyboard = *services_.keyboard;
-  const WindowTraits traits = services_.windows.traitsOf(services_.windows.activeWindow());
-  const auto entry = services_.entries.forWindow(traits);
-  const std::vector<Keysym> chord =
-      chordFor(press, entry ? entry->categories : std::string(), traits.windowClass);
-  std::vector<xcb_keycode_t> keys;
-  keys.reserve(chord.size());
-  for (const Keysym symbol : chord)
-    keys.push_back(layout.keyFor(symbol));
-  if (keys.empty() || std::ranges::find(keys, 0) != keys.end()) return;
-  keyboard.release(keyboard.heldKeys(layout.keyFor(XKB_KEY_h)));
-  services_.windows.releaseKeyboard();
-  keyboard.tap(keys);
+  const auto pressing =
+      std::make_shared<Press>(services_, Press::Wish{.press = press,
+                                                     .target = target,
+                                                     .aboutToPress = std::move(aboutToPress),
+                                                     .done = std::move(done)});
+  pressing->begin();
+  return desktop::Ticket([pressing] { pressing->withdraw(); });
 }
 
 }  // namespace quillseal

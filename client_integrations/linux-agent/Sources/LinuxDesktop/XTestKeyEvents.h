@@ -12,7 +12,8 @@
 
 namespace quillseal {
 
-/// Synthesised key presses by the XTEST extension.
+/// Synthesised key presses by the XTEST extension. A press is declined unless its target is the
+/// active window and shows what it showed when the target was named, for which it waits a second.
 class XTestKeyEvents : public desktop::KeyEvents {
  public:
   struct Services {
@@ -31,13 +32,11 @@ class XTestKeyEvents : public desktop::KeyEvents {
   void askForTrust() override;
   [[nodiscard]] desktop::Ticket press(desktop::KeyPress press,
                                       const std::optional<desktop::RunningApplication>& target,
+                                      std::function<void()> aboutToPress,
                                       std::function<void(desktop::Delivery)> done) override;
 
  private:
-  /// For programs that copy and paste by the primary selection.
-  [[nodiscard]] desktop::Ticket exchangeSelections(desktop::KeyPress press,
-                                                   std::function<void()> done);
-  void tap(desktop::KeyPress press, const X11Keyboard::Layout& layout);
+  class Press;
 
   Services services_;
 };

@@ -36,8 +36,13 @@ struct KeyPress {
   friend bool operator==(const KeyPress&, const KeyPress&) = default;
 };
 
-/// Whether a key press reached the application it was meant for.
-enum class Delivery { delivered, declined };
+/// Whether a key press reached the application it was meant for; if not, why no key was pressed.
+enum class Delivery {
+  delivered,
+  declined,         ///< something else than the target would have got it
+  documentChanged,  ///< the target shows another document, tab or field than it did
+  targetClosed,     ///< the target has ended
+};
 
 /// Key presses sent to an application. Main thread.
 class KeyEvents {
@@ -56,8 +61,12 @@ class KeyEvents {
 
   /// Presses and releases the key with exactly these modifiers in `target`, then calls `done`.
   /// Declines, with no key pressed, when the adapter knows immediately before the press that
-  /// something else than `target` would get it, or that the press would do harm there. Without a
-  /// target the press goes to whatever is in front.
+  /// something else than `target` would get it, or that `target` is not what it was. Without a
+  /// target the press goes to whatever is in front, or is declined where the adapter knew that
+  /// nothing was.
+  ///
+  /// `aboutToPress`, unless empty, is called after all waiting and checking, immediately before the
+  /// application can notice anything; not at all when the press is declined.
   ///
   /// The adapter sees to it that modifiers which the user still holds (those of the hotkey) do not
   /// take part, waiting for their release for 0.4 s at most; that every key it pressed is released
@@ -66,6 +75,7 @@ class KeyEvents {
   /// throws Error where it cannot be told which keys the application expects.
   [[nodiscard]] virtual Ticket press(KeyPress press,
                                      const std::optional<RunningApplication>& target,
+                                     std::function<void()> aboutToPress,
                                      std::function<void(Delivery)> done) = 0;
 };
 

@@ -18,6 +18,7 @@ class MacKeyEvents final : public desktop::KeyEvents {
   [[nodiscard]] std::string obstacle() const override;
   [[nodiscard]] desktop::Ticket press(desktop::KeyPress press,
                                       const std::optional<desktop::RunningApplication>& target,
+                                      std::function<void()> aboutToPress,
                                       std::function<void(desktop::Delivery)> done) override;
 
  private:

@@ -1,6 +1,7 @@
 #import "MacDesktop/MacKeyEvents.h"
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -38,9 +39,10 @@ void post(desktop::KeyPress press) {
 class WaitingPress : public std::enable_shared_from_this<WaitingPress> {
  public:
   WaitingPress(desktop::MainLoop& loop, desktop::KeyPress press,
-               Completion<desktop::Delivery> completion)
+               std::function<void()> aboutToPress, Completion<desktop::Delivery> completion)
       : loop_(loop),
         press_(press),
+        aboutToPress_(std::move(aboutToPress)),
         completion_(std::move(completion)),
         deadline_(loop.now() + 400ms) {}
 
@@ -52,6 +54,7 @@ class WaitingPress : public std::enable_shared_from_this<WaitingPress> {
       timer_ = loop_.after(10ms, [self = shared_from_this()] { self->run(); });
       return;
     }
+    if (aboutToPress_) aboutToPress_();
     post(press_);
     completion_(desktop::Delivery::delivered);
   }
@@ -61,6 +64,7 @@ class WaitingPress : public std::enable_shared_from_this<WaitingPress> {
  private:
   desktop::MainLoop& loop_;
   desktop::KeyPress press_;
+  std::function<void()> aboutToPress_;
   Completion<desktop::Delivery> completion_;
   desktop::MainLoop::TimePoint deadline_;
   desktop::Ticket timer_;
@@ -96,9 +100,11 @@ std::string MacKeyEvents::obstacle() const {
 
 desktop::Ticket MacKeyEvents::press(desktop::KeyPress press,
                                     const std::optional<desktop::RunningApplication>& /*target*/,
+                                    std::function<void()> aboutToPress,
                                     std::function<void(desktop::Delivery)> done) {
   const Completion<desktop::Delivery> completion(std::move(done));
-  const auto waiting = std::make_shared<WaitingPress>(loop_, press, completion);
+  const auto waiting =
+      std::make_shared<WaitingPress>(loop_, press, std::move(aboutToPress), completion);
   loop_.post([waiting] { waiting->run(); });
   return completion.ticket([waiting] { waiting->cancel(); });
 }

@@ -50,19 +50,44 @@ Task<> pollingPause(Services services) {
   });
 }
 
+// Counts its looks, not the time: a process that was stopped for seconds has seen nothing
+// meanwhile, and what was copied then is reported to it only when it runs again.
 Task<bool> waitForChange(Services services, std::int64_t changeCount) {
-  const auto deadline = services.loop.now() + longestWaitForCopy;
-  while (services.loop.now() < deadline) {
+  for (auto looks = longestWaitForCopy / pollingInterval; looks > 0; --looks) {
     if (services.pasteboard.changeCount() != changeCount) co_return true;
     co_await pollingPause(services);
   }
-  co_return false;
+  co_return services.pasteboard.changeCount() != changeCount;
 }
 
-Task<> fetch(desktop::Pasteboard& pasteboard) {
-  co_await completionOf<void>([&pasteboard](std::function<void()> fetched) {
-    return pasteboard.fetch(std::move(fetched));
-  });
+/// The application in which the text is selected, with the keyboard if that could be had.
+Task<std::optional<desktop::RunningApplication>> sourceInFront(Services services) {
+  std::optional<desktop::RunningApplication> source = frontApplication(services.applications);
+  if (source && services.applications.isActive(*source)) co_return source;
+  // A window of ours is in front, or has just closed, when nothing is in front for a moment.
+  if (source) services.applications.activate(*source);
+  co_await sleep(services.loop, activationTime);
+  std::optional<desktop::RunningApplication> front = frontApplication(services.applications);
+  // Asked again, since more can be told of an application that has the keyboard.
+  if (!source || (front && front->instance == source->instance)) co_return front;
+  co_return source;
+}
+
+CopyOutcome outcomeOf(desktop::Delivery failure) {
+  switch (failure) {
+    case desktop::Delivery::documentChanged:
+      return CopyOutcome::documentChanged;
+    case desktop::Delivery::targetClosed:
+      return CopyOutcome::sourceClosed;
+    default:
+      return CopyOutcome::declined;
+  }
+}
+
+Copy failed(CopyOutcome outcome) {
+  Copy copy;
+  copy.outcome = outcome;
+  return copy;
 }
 
 }  // namespace
@@ -79,62 +104,78 @@ Task<desktop::Delivery> press(desktop::KeyEvents& keys, desktop::KeyPress press,
                               const std::optional<desktop::RunningApplication>& target) {
   const auto delivery = co_await completionOf<desktop::Delivery>(
       [&keys, press, &target](std::function<void(desktop::Delivery)> done) {
-        return keys.press(press, target, std::move(done));
+        return keys.press(press, target, {}, std::move(done));
       });
   co_return delivery;
 }
 
-Task<std::optional<Captured>> copySelection(Services services) {
+Task<Copy> copySelection(Services services,
+                         const std::optional<desktop::RunningApplication>& source) {
   desktop::Pasteboard& pasteboard = services.pasteboard;
-  const std::int64_t changeCount = pasteboard.changeCount();
-  co_await press(services.keys, {.key = Key::c, .modifiers = Modifiers::command}, std::nullopt);
+  // Counted anew when the keys are pressed: what changes the clipboard while they wait for the
+  // user's fingers is no copy of the selection.
+  std::int64_t changeCount = pasteboard.changeCount();
+  const auto delivery = co_await completionOf<desktop::Delivery>(
+      [&services, &source, &changeCount](std::function<void(desktop::Delivery)> done) {
+        return services.keys.press(
+            {.key = Key::c, .modifiers = Modifiers::command}, source,
+            [&services, &changeCount] { changeCount = services.pasteboard.changeCount(); },
+            std::move(done));
+      });
+  if (delivery != desktop::Delivery::delivered) co_return failed(outcomeOf(delivery));
   const bool hasChanged = co_await waitForChange(services, changeCount);
-  if (!hasChanged) co_return std::nullopt;
+  if (!hasChanged) co_return failed(CopyOutcome::unchanged);
   co_await sleep(services.loop, settleTime);
 
-  co_await fetch(pasteboard);
-  if (pasteboard.isConcealed()) co_return std::nullopt;
+  co_await completionOf<void>([&pasteboard](std::function<void()> fetched) {
+    return pasteboard.fetch(std::move(fetched));
+  });
+  if (pasteboard.isConcealed()) co_return failed(CopyOutcome::secret);
   std::optional<std::string> text = wellFormed(pasteboard.plainText());
-  if (!text || unicode::trimmed(*text).empty()) co_return std::nullopt;
-  co_return Captured{.plainText = *std::move(text),
-                     .html = wellFormed(pasteboard.html()),
-                     .rtf = pasteboard.rtf()};
+  if (!text || unicode::trimmed(*text).empty()) co_return failed(CopyOutcome::noText);
+  co_return Copy{.outcome = CopyOutcome::copied,
+                 .plainText = *std::move(text),
+                 .html = wellFormed(pasteboard.html()),
+                 .rtf = pasteboard.rtf()};
 }
 
-Task<std::optional<CapturedContent>> captureSelectedContent(Services services) {
+Task<Capture> captureSelectedContent(Services services) {
   if (!services.keys.isTrusted()) {
     if (!services.keys.isTrusted()) services.keys.askForTrust();
     services.log.write("[capture] Accessibility permission not granted");
-    co_return std::nullopt;
+    co_return Capture{};
   }
-  // Taken before anything is pressed: the application in which the text was selected.
-  std::optional<desktop::RunningApplication> source = frontApplication(services.applications);
-  SigningScope::AppScope detected = detectAppScope(source);
-
-  const std::int64_t changeCount = services.pasteboard.changeCount();
-  std::optional<Captured> captured = co_await copySelection(services);
+  const std::optional<desktop::RunningApplication> source = co_await sourceInFront(services);
+  Copy copy = co_await copySelection(services, source);
   // Whoever selected a secret did not mean to sign the whole document instead.
-  if (services.pasteboard.changeCount() != changeCount) {
-    co_await fetch(services.pasteboard);
-    if (services.pasteboard.isConcealed()) co_return std::nullopt;
-  }
-  if (!captured) {
+  if (copy.outcome == CopyOutcome::unchanged || copy.outcome == CopyOutcome::noText) {
     services.log.write("[capture] no selection; selecting all");
-    co_await press(services.keys, {.key = Key::a, .modifiers = Modifiers::command}, std::nullopt);
-    co_await sleep(services.loop, pauseAfterSelectAll);
-    captured = co_await copySelection(services);
+    const desktop::KeyPress selectAll{.key = Key::a, .modifiers = Modifiers::command};
+    const desktop::Delivery delivery = co_await press(services.keys, selectAll, source);
+    if (delivery != desktop::Delivery::delivered) {
+      copy = failed(outcomeOf(delivery));
+    } else {
+      co_await sleep(services.loop, pauseAfterSelectAll);
+      copy = co_await copySelection(services, source);
+    }
   }
-  if (!captured) {
-    const std::string obstacle = services.keys.obstacle();
-    if (!obstacle.empty()) services.log.write("[capture] key presses are held up: " + obstacle);
-    co_return std::nullopt;
+  // Declined, since there was nothing to press a key in.
+  if (!source && copy.outcome == CopyOutcome::declined) copy.outcome = CopyOutcome::unchanged;
+  Capture capture;
+  capture.outcome = copy.outcome;
+  if (copy.outcome == CopyOutcome::copied) {
+    SigningScope::AppScope detected = detectAppScope(source);
+    capture.content = CapturedContent{.plainText = std::move(copy.plainText),
+                                      .htmlContent = std::move(copy.html),
+                                      .rtfData = std::move(copy.rtf),
+                                      .sourceApp = std::move(detected.app),
+                                      .scope = std::move(detected.scope),
+                                      .sourceApplication = source};
+    co_return capture;
   }
-  co_return CapturedContent{.plainText = std::move(captured->plainText),
-                            .htmlContent = std::move(captured->html),
-                            .rtfData = std::move(captured->rtf),
-                            .sourceApp = std::move(detected.app),
-                            .scope = std::move(detected.scope),
-                            .sourceApplication = std::move(source)};
+  const std::string obstacle = services.keys.obstacle();
+  if (!obstacle.empty()) services.log.write("[capture] key presses are held up: " + obstacle);
+  co_return capture;
 }
 
 }  // namespace quillseal::AccessibilityManager

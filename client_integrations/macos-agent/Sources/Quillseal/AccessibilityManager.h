@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <optional>
 #include <string>
 
@@ -39,25 +40,47 @@ struct Services {
 [[nodiscard]] SigningScope::AppScope detectAppScope(
     const std::optional<desktop::RunningApplication>& application);
 
-/// Presses and releases a key in `target`, or in whatever is in front without one.
+/// How long an application may take to come to the front before keys are pressed in it.
+constexpr std::chrono::milliseconds activationTime{350};
+
+/// Presses and releases a key in `target`, as `KeyEvents::press` does.
 [[nodiscard]] Task<desktop::Delivery> press(
     desktop::KeyEvents& keys, desktop::KeyPress press,
     const std::optional<desktop::RunningApplication>& target);
 
-/// One copy from the front application.
-struct Captured {
+enum class CopyOutcome {
+  copied,
+  unchanged,        ///< the clipboard did not change within 1.2 s
+  noText,           ///< it holds no text, or only white space
+  secret,           ///< whoever copied marked it as a secret
+  declined,         ///< no key was pressed: something else than the source would have got it
+  documentChanged,  ///< no key was pressed: the source shows another document
+  sourceClosed,     ///< no key was pressed: the source has ended
+};
+
+/// One copy from an application; the texts of one that failed are empty.
+struct Copy {
+  CopyOutcome outcome = CopyOutcome::unchanged;
   std::string plainText;
   std::optional<std::string> html;
   std::optional<std::string> rtf;
 };
 
-/// Has the front application copy its selection. Nothing when the clipboard does not change within
-/// 1.2 s, or holds no text, only white space or what is marked as a secret.
-[[nodiscard]] Task<std::optional<Captured>> copySelection(Services services);
+/// Has `source` copy its selection.
+[[nodiscard]] Task<Copy> copySelection(Services services,
+                                       const std::optional<desktop::RunningApplication>& source);
 
-/// The selection of the front application; all of its text when nothing is selected. Nothing when
-/// there is no text or the user has not allowed this program to press keys.
-[[nodiscard]] Task<std::optional<CapturedContent>> captureSelectedContent(Services services);
+/// What a capture yielded.
+struct Capture {
+  CopyOutcome outcome = CopyOutcome::unchanged;
+  std::optional<CapturedContent> content;  ///< when something was copied
+};
+
+/// The selection of the front application; all of its text when nothing is selected. When a window
+/// of this program has the keyboard, the application behind it is called to the front first: what
+/// is named as the source is what is asked to copy. Nothing is pressed in anything else, and all is
+/// selected only after a copy that yielded no text.
+[[nodiscard]] Task<Capture> captureSelectedContent(Services services);
 
 }  // namespace AccessibilityManager
 

@@ -34,11 +34,21 @@ struct Injection {
   AutoPaste autoPaste = AutoPaste::yes;
 };
 
+/// Where the signed block ended up: in the source, or on the clipboard alone, and why.
+enum class Placement {
+  pasted,
+  leftAsAsked,       ///< AutoPaste::no
+  sourceNotInFront,  ///< something else than the source would have got it
+  documentChanged,   ///< the source shows another document than the one that was signed in
+  sourceClosed,
+  terminal,  ///< whose shell would run the block's lines as commands
+};
+
 /// Replaces the clipboard by the signed block and, if asked, brings the source application to the
-/// front and pastes there. When that application has ended, the paste goes to the one in front.
+/// front and pastes there; never into anything else that the desktop can tell from it.
 /// Throws Error when the clipboard cannot be taken (nothing is written or pressed then), or when it
 /// holds the block but the paste failed. REQUIRES: SignedBlock::isSafeIdentifier(signatureId).
-[[nodiscard]] Task<> injectSignedContent(Services services, Injection injection,
-                                         const CapturedContent& content);
+[[nodiscard]] Task<Placement> injectSignedContent(Services services, Injection injection,
+                                                  const CapturedContent& content);
 
 }  // namespace quillseal::ClipboardManager

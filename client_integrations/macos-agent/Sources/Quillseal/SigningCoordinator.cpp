@@ -75,6 +75,73 @@ bool isSet(const std::optional<std::string>& text) {
   return text && !text->empty();
 }
 
+/// Why there is nothing to sign.
+desktop::Alert alertWithoutText(AccessibilityManager::CopyOutcome outcome) {
+  using AccessibilityManager::CopyOutcome;
+  std::string reason;
+  switch (outcome) {
+    case CopyOutcome::declined:
+      reason = "another window came to the front before the text was copied";
+      break;
+    case CopyOutcome::documentChanged:
+      reason = "the window showed another document or tab before the text was copied";
+      break;
+    case CopyOutcome::sourceClosed:
+      reason = "its window was closed before the text was copied";
+      break;
+    default:
+      break;
+  }
+  if (reason.empty()) {
+    return {.title = "No Text Found",
+            .body =
+                "Please type or highlight some text in Outlook (or any app) before pressing "
+                "⌘⌥⌃H."};
+  }
+  return {.title = "Not Signed",
+          .body = "Nothing was signed: " + reason +
+                  ".\n\nGo back to your text, select it and press ⌘⌥⌃H again."};
+}
+
+/// How the person pastes what Quillseal did not.
+desktop::Alert alertToPaste(ClipboardManager::Placement placement,
+                            const std::optional<desktop::RunningApplication>& source) {
+  using ClipboardManager::Placement;
+  const bool hasName = source && isSet(source->name);
+  const std::string name = hasName ? *source->name : "the application it came from";
+  const std::string switchBack = "Switch back to your message in ";
+  const std::string selectAndPaste = ", select the text you signed, and press ⌘V.\n\n";
+  std::string steps;
+  switch (placement) {
+    case Placement::sourceNotInFront:
+      steps = switchBack + name + selectAndPaste +
+              "Quillseal did not paste it for you: another window is in front, so it would land in "
+              "the wrong place.";
+      break;
+    case Placement::documentChanged:
+      steps = switchBack + name + selectAndPaste +
+              "Quillseal did not paste it for you: the window shows another document or tab than "
+              "the one you signed in, so it would land in the wrong place.";
+      break;
+    case Placement::sourceClosed:
+      steps = "Open your message again in " + name + selectAndPaste +
+              "Quillseal did not paste it for you: the window that you signed in is closed.";
+      break;
+    case Placement::terminal:
+      steps =
+          "Paste it where you need it.\n\nQuillseal does not paste into a terminal: a shell there "
+          "would run each line as a command.";
+      break;
+    default:
+      steps = switchBack + (hasName ? name : "your browser") + selectAndPaste +
+              "Quillseal cannot paste it for you here: the signing page opened in the same "
+              "browser, so it would land in the wrong tab.";
+      break;
+  }
+  return {.title = "Signed — Paste It Into Your Message",
+          .body = "The signed content is on your clipboard.\n\n" + steps};
+}
+
 }  // namespace
 
 SigningCoordinator::SigningCoordinator(const desktop::Desktop& desktop)
@@ -143,15 +210,14 @@ Task<std::optional<CapturedContent>> SigningCoordinator::captureSelection() {
                                                 .loop = desktop_.loop,
                                                 .pasteboard = desktop_.pasteboard};
   Turn turn = co_await turnFor(isUsingClipboard_);
-  std::optional<CapturedContent> content =
+  AccessibilityManager::Capture capture =
       co_await AccessibilityManager::captureSelectedContent(services);
   turn.reset();
-  if (!content) {
-    co_await showAlert("No Text Found",
-                       "Please type or highlight some text in Outlook (or any app) before pressing "
-                       "⌘⌥⌃H.");
+  if (!capture.content) {
+    desktop::Alert alert = alertWithoutText(capture.outcome);
+    co_await showAlert(std::move(alert.title), std::move(alert.body));
   }
-  co_return content;
+  co_return std::move(capture.content);
 }
 
 SigningCoordinator::Statement SigningCoordinator::statementOf(const CapturedContent& content) {
@@ -279,9 +345,20 @@ Task<std::optional<std::string>> SigningCoordinator::demonstrate(Signable signab
 
 Task<> SigningCoordinator::deliver(Delivery delivery, const CapturedContent& content) {
   Turn turn = co_await turnFor(isUsingClipboard_);
-  co_await inject(std::move(delivery), content, ClipboardManager::AutoPaste::yes);
+  const auto placement =
+      co_await inject(std::move(delivery), content, ClipboardManager::AutoPaste::yes);
   turn.reset();
-  notifyOfSuccess();
+  co_await tellOfSuccess(placement, content.sourceApplication);
+}
+
+Task<> SigningCoordinator::tellOfSuccess(ClipboardManager::Placement placement,
+                                         const std::optional<desktop::RunningApplication>& source) {
+  if (placement == ClipboardManager::Placement::pasted) {
+    notifyOfSuccess();
+    co_return;
+  }
+  desktop::Alert alert = alertToPaste(placement, source);
+  co_await showAlert(std::move(alert.title), std::move(alert.body));
 }
 
 void SigningCoordinator::notifyOfSuccess() {
@@ -293,9 +370,9 @@ void SigningCoordinator::notifyOfSuccess() {
   }
 }
 
-/// For who has the turn at the clipboard.
-Task<> SigningCoordinator::inject(Delivery delivery, const CapturedContent& content,
-                                  ClipboardManager::AutoPaste autoPaste) {
+/// For the task that has the turn at the clipboard.
+Task<ClipboardManager::Placement> SigningCoordinator::inject(
+    Delivery delivery, const CapturedContent& content, ClipboardManager::AutoPaste autoPaste) {
   const ClipboardManager::Services services{.applications = desktop_.applications,
                                             .keys = desktop_.keys,
                                             .log = desktop_.log,
@@ -306,7 +383,9 @@ Task<> SigningCoordinator::inject(Delivery delivery, const CapturedContent& cont
                                         .scope = std::move(delivery.scope),
                                         .server = serverClient_.effectiveServerURL(),
                                         .autoPaste = autoPaste};
-  co_await ClipboardManager::injectSignedContent(services, std::move(injection), content);
+  const auto placement =
+      co_await ClipboardManager::injectSignedContent(services, std::move(injection), content);
+  co_return placement;
 }
 
 Task<> SigningCoordinator::showAlert(std::string title, std::string body) {
@@ -673,33 +752,26 @@ Task<> SigningCoordinator::deliverFromBrowser(Delivery delivery, HandoffResult h
   const auto& source = content.sourceApplication;
   const bool isSigningBrowser = source && source->bundleIdentifier &&
                                 source->bundleIdentifier == handoff.signingBrowserBundleID;
-  if (isSigningBrowser) {
-    Turn turn = co_await turnFor(isUsingClipboard_);
-    BrowserTabReturn::SigningTab tab{.bundleID = handoff.signingBrowserBundleID,
-                                     .urlContains = std::move(handoff.handoffMarker),
-                                     .tabID = std::move(handoff.sourceTabID)};
-    const bool isRestored =
-        co_await BrowserTabReturn::closeSigningTabAndRestore(desktop_.browserTabs, std::move(tab));
-    if (!isRestored) {
-      co_await inject(std::move(delivery), content, ClipboardManager::AutoPaste::no);
-      turn.reset();
-      const std::string name = isSet(source->name) ? *source->name : "your browser";
-      co_await showAlert(
-          "Signed — Paste It Into Your Message",
-          "The signed content is on your clipboard.\n\nSwitch back to your message in " + name +
-              ", select the text you signed, and press ⌘V.\n\nQuillseal cannot paste it for you "
-              "here: the signing page opened in the same browser, so it would land in the wrong "
-              "tab.");
-      co_return;
-    }
-    co_await sleep(desktop_.loop, tabSwitchTime);
-    desktop_.log.write("[tabreturn] signing tab closed, original tab restored");
-    co_await inject(std::move(delivery), content, ClipboardManager::AutoPaste::yes);
-    turn.reset();
-    notifyOfSuccess();
+  if (!isSigningBrowser) {
+    co_await deliver(std::move(delivery), content);
     co_return;
   }
-  co_await deliver(std::move(delivery), content);
+  Turn turn = co_await turnFor(isUsingClipboard_);
+  BrowserTabReturn::SigningTab tab{.bundleID = handoff.signingBrowserBundleID,
+                                   .urlContains = std::move(handoff.handoffMarker),
+                                   .tabID = std::move(handoff.sourceTabID)};
+  const bool isRestored =
+      co_await BrowserTabReturn::closeSigningTabAndRestore(desktop_.browserTabs, std::move(tab));
+  if (isRestored) {
+    co_await sleep(desktop_.loop, tabSwitchTime);
+    desktop_.log.write("[tabreturn] signing tab closed, original tab restored");
+  }
+  // Elsewhere than in the original tab the paste would land in the signing tab.
+  const auto placement = co_await inject(
+      std::move(delivery), content,
+      isRestored ? ClipboardManager::AutoPaste::yes : ClipboardManager::AutoPaste::no);
+  turn.reset();
+  co_await tellOfSuccess(placement, source);
 }
 
 }  // namespace quillseal

@@ -23,7 +23,8 @@ enum class SigningMode {
   demo,     ///< a presence check and a demonstration record; no real signature
 };
 
-/// Turns a press of the hotkey into a signed block on the clipboard. Main thread; there is one.
+/// Turns a press of the hotkey into a signed block where the text was selected, or on the clipboard
+/// alone where that is no longer in front. Main thread; there is one.
 ///
 /// Several runs may be under way, for a second press while the first waits for the user: each keeps
 /// to itself what it captured and which tab it came from. Making a key and using the clipboard are
@@ -150,8 +151,11 @@ class SigningCoordinator {
   Task<> deliver(Delivery delivery, const CapturedContent& content);
   Task<> deliverFromBrowser(Delivery delivery, HandoffResult handoff,
                             const CapturedContent& content);
-  Task<> inject(Delivery delivery, const CapturedContent& content,
-                ClipboardManager::AutoPaste autoPaste);
+  [[nodiscard]] Task<ClipboardManager::Placement> inject(Delivery delivery,
+                                                         const CapturedContent& content,
+                                                         ClipboardManager::AutoPaste autoPaste);
+  Task<> tellOfSuccess(ClipboardManager::Placement placement,
+                       const std::optional<desktop::RunningApplication>& source);
   void notifyOfSuccess();
   Task<> showAlert(std::string title, std::string body);
   Task<> showAlertOrLog(std::string title, std::string body);

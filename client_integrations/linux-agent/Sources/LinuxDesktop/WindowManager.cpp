@@ -134,15 +134,21 @@ bool WindowManager::isForWriting(xcb_window_t window) const {
          !has("_NET_WM_WINDOW_TYPE", "_NET_WM_WINDOW_TYPE_DESKTOP");
 }
 
+// By its number as well: the window manager may name one that has just closed, and which tells its
+// process no more.
+bool WindowManager::isOwn(xcb_window_t window) const {
+  return isOfSameProgram(window, xcb_get_setup(connection_)->resource_id_base) ||
+         processOf(window) == static_cast<std::uint32_t>(getpid());
+}
+
 xcb_window_t WindowManager::topForeignWindow() const {
-  const auto own = static_cast<std::uint32_t>(getpid());
   const xcb_window_t active = activeWindow();
-  if (active == 0 || processOf(active) != own) return active;
+  if (active == 0 || !isOwn(active)) return active;
   // From the bottom to the top.
   const std::vector<xcb_window_t> stack =
       numbers(root_, "_NET_CLIENT_LIST_STACKING", XCB_ATOM_WINDOW);
   const auto found = std::find_if(stack.rbegin(), stack.rend(), [&](xcb_window_t window) {
-    return processOf(window) != own && isForWriting(window);
+    return !isOwn(window) && isForWriting(window);
   });
   return found == stack.rend() ? 0 : *found;
 }

@@ -67,6 +67,7 @@ class WindowManager {
 
   [[nodiscard]] xcb_window_t inputFocus() const;
   [[nodiscard]] bool isOfSameProgram(xcb_window_t one, xcb_window_t other) const;
+  [[nodiscard]] bool isOwn(xcb_window_t window) const;
   [[nodiscard]] bool isInside(xcb_window_t inner, xcb_window_t outer) const;
   [[nodiscard]] bool isOnOtherWorkspace(xcb_window_t window) const;
   [[nodiscard]] bool isForWriting(xcb_window_t window) const;

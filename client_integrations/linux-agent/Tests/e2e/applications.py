@@ -49,7 +49,8 @@ class Writer:
 
 
 class Terminal:
-    """A terminal that shows `text` and in which a program reads what is typed."""
+    """A terminal that shows `text` and in which a program reads what is typed: `reader`, or one that
+    keeps it in a file."""
 
     COMMANDS = {
         "xfce4-terminal": ("--disable-server", "--title", "Notes", "--dynamic-title-mode", "none",
@@ -57,14 +58,14 @@ class Terminal:
         "xterm": ("-u8", "-title", "Notes", "-e"),
     }
 
-    def __init__(self, session, program, text):
+    def __init__(self, session, program, text, reader="exec cat > received.txt"):
         self.session = session
         (session.home / "letter.txt").write_text(text)
         self.received = session.home / "received.txt"
         session.start(program, *self.COMMANDS[program], "sh", "-c",
-                      f"cat letter.txt; exec cat > {self.received.name}")
+                      f"cat letter.txt; touch shown; {reader}")
         session.wait_for_window("Notes", "the terminal opens")
-        wait_for("the program in the terminal waits for input", self.received.exists)
+        wait_for("the terminal shows the text", (session.home / "shown").exists)
 
     def drag_over(self, expected):
         """Selects with the mouse, from the first line to one below the last."""

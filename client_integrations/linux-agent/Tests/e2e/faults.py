@@ -14,27 +14,19 @@ import time
 import stories
 from session import LETTER, act_until, wait_for
 from stories import Story
+from xclient import XClient
 
 
-class Rival:
-    """Another X client, which takes things and then never answers."""
+class Rival(XClient):
+    """Takes things and then never answers."""
 
     ANY_MODIFIER = 1 << 15
 
     def __init__(self, display):
-        self.x11 = ctypes.CDLL("libX11.so.6")
-        self.x11.XOpenDisplay.restype = ctypes.c_void_p
-        self.display = ctypes.c_void_p(self.x11.XOpenDisplay(display.encode()))
-        self.x11.XDefaultRootWindow.restype = ctypes.c_ulong
-        self.root = ctypes.c_ulong(self.x11.XDefaultRootWindow(self.display))
-
-        self.x11.XCreateSimpleWindow.restype = ctypes.c_ulong
+        super().__init__(display)
         none = ctypes.c_ulong(0)
         self.window = ctypes.c_ulong(self.x11.XCreateSimpleWindow(
             self.display, self.root, 0, 0, 300, 200, 0, none, none))
-
-    def close(self):
-        self.x11.XCloseDisplay(self.display)
 
     def open_window(self):
         self.x11.XStoreName(self.display, self.window, b"rival")
@@ -42,13 +34,10 @@ class Rival:
         self.x11.XSync(self.display, 0)
 
     def take_clipboard(self):
-        self.x11.XInternAtom.restype = ctypes.c_ulong
-        clipboard = ctypes.c_ulong(self.x11.XInternAtom(self.display, b"CLIPBOARD", 0))
-        self.x11.XSetSelectionOwner(self.display, clipboard, self.window, ctypes.c_ulong(0))
+        self.x11.XSetSelectionOwner(self.display, self.clipboard, self.window, ctypes.c_ulong(0))
         self.x11.XSync(self.display, 0)
 
     def grab_hotkey(self):
-        self.x11.XKeysymToKeycode.restype = ctypes.c_ubyte
         self.key = self.x11.XKeysymToKeycode(self.display, ctypes.c_ulong(ord("h")))
         asynchronous = 1
         self.x11.XGrabKey(self.display, self.key, self.ANY_MODIFIER, self.root, 1, asynchronous,

@@ -189,28 +189,27 @@ class Applications(Story):
         text = html.unescape(re.sub(r"<[^>]+>", "", content))
         self.assertRegex("".join(text.split()), f"^『{''.join(PARAGRAPHS.split())}』🛡️QUILLSEAL")
 
-    def assert_program_goes_on(self, terminal):
-        """It has read the block and nothing else, and no interrupt has ended it."""
-        self.desktop.key("Return")
-        read = wait_for("the program reads the block",
-                        lambda: "Check this" in (text := terminal.received.read_text()) and text)
-        self.assertTrue(read.startswith(f"『{PARAGRAPHS}』\n\n────"), read)
+    def assert_left_to_paste(self, terminal):
+        """No interrupt has ended the program, and it has read nothing but what is typed now."""
+        self.desktop.close("Signed — Paste It Into Your Message")
+        self.assertTrue(self.desktop.selection().startswith(f"『{PARAGRAPHS}』\n\n────"))
+        self.desktop.wait_for_window("Notes")
+        self.desktop.type("typed\n")
+        wait_for("the program reads what is typed", terminal.received.read_text)
+        self.assertEqual(terminal.received.read_text(), "typed\n")
         self.assert_recorded("Public Broadcast")
 
     def test_a_terminal_whose_program_goes_on(self):
         terminal = Terminal(self.desktop, "xfce4-terminal", PARAGRAPHS)
         self.desktop.select_all(PARAGRAPHS, "ctrl+shift+a")
         self.sign()
-        self.desktop.close("Unsafe Paste")  # this terminal asks before it pastes more than one line
-        self.assert_program_goes_on(terminal)
+        self.assert_left_to_paste(terminal)
 
     def test_a_terminal_without_a_key_that_copies(self):
         terminal = Terminal(self.desktop, "xterm", PARAGRAPHS)
         terminal.drag_over(PARAGRAPHS)
         self.sign()
-        self.desktop.wait_for_notification("✅ Signature Generated!")
-        self.desktop.wait_for_window("Notes")
-        self.assert_program_goes_on(terminal)
+        self.assert_left_to_paste(terminal)
 
     def test_what_is_selected_in_another_window_is_not_signed(self):
         self.desktop.open_editor(LETTER)

@@ -1,0 +1,265 @@
+#!/usr/bin/env python3
+"""The text is copied from the window it is selected in and pasted into that one, or nowhere, whatever
+the person does meanwhile.
+
+Options and names of tests are those of stories.py.
+"""
+
+import contextlib
+import os
+import re
+import signal
+import time
+
+import stories
+from applications import Terminal
+from session import LETTER, wait_for
+from stories import Story
+from xclient import XClient
+
+CHAT = "Lunch at one? The new place by the river has a table for five of us, says Tom."
+PASTE_YOURSELF = "Signed — Paste It Into Your Message"
+
+
+class Windows(Story):
+    panel = True  # a window above all others, and nothing to sign in
+
+    def setUp(self):
+        super().setUp()
+        self.start()
+        self.x = XClient(self.desktop.env["DISPLAY"])
+        self.addCleanup(self.x.close)
+
+    def open_chat(self):
+        """Another program's window in front, all of its text selected."""
+        chat = self.desktop.open_editor(CHAT, "chat.txt")
+        self.desktop.select_all(CHAT)
+        chat.window = self.desktop.active_window()
+        return chat
+
+    def open_letter(self):
+        letter = self.desktop.open_editor(LETTER)
+        self.desktop.select_all(LETTER)
+        letter.window = self.desktop.active_window()
+        return letter
+
+    def make_key(self):
+        """So that the run of the story begins with the capture."""
+        self.desktop.press_hotkey()
+        self.desktop.choose_secret()
+        self.desktop.close("No Text Found")
+
+    @contextlib.contextmanager
+    def while_the_server_is_slow(self):
+        """Of a run that is at the question for the passphrase."""
+        self.desktop.wait_for_window("Enter the passphrase")
+        os.kill(self.desktop.server.pid, signal.SIGSTOP)
+        self.desktop.enter_secret()
+        self.desktop.wait_for_no_window("Enter the passphrase")
+        yield
+        os.kill(self.desktop.server.pid, signal.SIGCONT)
+
+    def switch_to(self, window):
+        self.desktop.run("xdotool", "windowactivate", window)
+
+    def assert_left_on_clipboard(self, reason, text=LETTER):
+        self.desktop.wait_for_log(re.escape("[inject] signed block left on the clipboard; " + reason),
+                                  "the agent says why it pastes nothing")
+        self.desktop.close(PASTE_YOURSELF)
+        self.assertTrue(self.desktop.selection().startswith(f"『{text}』"))
+        self.assertNotIn("Signature Generated", self.desktop.output_of(self.desktop.monitor))
+
+    def assert_untouched(self, editor, text):
+        """Nothing was typed or pasted into it."""
+        self.switch_to(editor.window)
+        name = re.escape(editor.file.name)
+        self.desktop.wait_for_window(name)
+        self.assertNotIn("*", self.desktop.active_window_name())
+        self.assertEqual(editor.file.read_text(), text)
+
+    def assert_pasted_into_letter_alone(self, letter, chat):
+        self.desktop.wait_for_notification("✅ Signature Generated!")
+        self.assert_untouched(chat, CHAT)
+        self.switch_to(letter.window)
+        self.desktop.wait_for_window(re.escape(letter.file.name))
+        self.assert_signed(letter)
+
+    # Paste
+
+    def test_the_source_is_on_another_workspace(self):
+        letter = self.open_letter()
+        self.desktop.press_hotkey()
+        self.desktop.choose_secret()
+        with self.while_the_server_is_slow():
+            self.desktop.run("xdotool", "set_desktop", 1)
+            chat = self.open_chat()
+        self.desktop.wait_for_window(re.escape(letter.file.name))
+        self.assert_pasted_into_letter_alone(letter, chat)
+
+    def test_the_source_is_minimised(self):
+        chat = self.open_chat()
+        letter = self.open_letter()
+        self.desktop.press_hotkey()
+        self.desktop.choose_secret()
+        with self.while_the_server_is_slow():
+            self.desktop.run("xdotool", "windowminimize", letter.window)
+            self.desktop.wait_for_window(re.escape(chat.file.name))
+        self.desktop.wait_for_window(re.escape(letter.file.name))
+        self.assert_pasted_into_letter_alone(letter, chat)
+
+    def test_another_window_comes_to_the_front_right_before_the_paste(self):
+        chat = self.open_chat()
+        letter = self.open_letter()
+        self.desktop.press_hotkey()
+        self.desktop.choose_secret()
+        with self.while_the_server_is_slow():
+            self.desktop.wait_for_window(re.escape(letter.file.name))
+            before = self.x.clipboard_owner()
+        self.x.wait_until_clipboard_leaves(before)
+        self.x.focus(chat.window)  # within the 150 ms that a paste waits with the block there
+        self.assert_left_on_clipboard("something else is in front of the source")
+        self.assert_untouched(chat, CHAT)
+        self.assert_untouched(letter, LETTER)
+
+    def test_another_tab_of_the_window_is_in_front(self):
+        files = [self.desktop.home / "chat.txt", self.desktop.home / "letter.txt"]
+        for file, text in zip(files, (CHAT, LETTER)):
+            file.write_text(text)
+        self.desktop.start("mousepad", "--disable-server", "--opening-mode", "tab", *files)
+        self.desktop.wait_for_window(r"(letter|chat)\.txt")
+        self.show_tab("letter.txt")
+        self.desktop.select_all(LETTER)
+        self.desktop.press_hotkey()
+        self.desktop.choose_secret()
+        with self.while_the_server_is_slow():
+            self.show_tab("chat.txt")
+        self.assert_left_on_clipboard("the source shows another document")
+        for name in ("chat.txt", "letter.txt"):
+            self.show_tab(name)
+            self.assertNotIn("*", self.desktop.active_window_name())
+
+    def show_tab(self, name):
+        def shown():
+            return name in self.desktop.active_window_name()
+        if not shown():
+            key = "ctrl+Page_Up" if name == "chat.txt" else "ctrl+Page_Down"
+            self.desktop.key_until(key, shown, f"the tab “{name}” is shown")
+
+    def test_the_source_was_closed_and_something_else_is_in_front(self):
+        chat = self.open_chat()
+        letter = self.open_letter()
+        self.desktop.press_hotkey()
+        self.desktop.choose_secret()
+        with self.while_the_server_is_slow():
+            self.desktop.end(letter)
+            self.desktop.wait_for_window(re.escape(chat.file.name))
+        self.assert_left_on_clipboard("the source has been closed")
+        self.assert_untouched(chat, CHAT)
+
+    def test_a_plain_shell_in_a_terminal_runs_nothing_of_the_block(self):
+        text = LETTER + "\ntouch ran\n"
+        terminal = Terminal(self.desktop, "xterm", text, reader="PS1= exec dash")
+        terminal.drag_over(text)
+        self.desktop.press_hotkey()
+        self.desktop.choose_secret()
+        self.desktop.enter_secret()
+        self.assert_left_on_clipboard("the source is a terminal", text.rstrip())
+        self.desktop.wait_for_window("Notes")
+        self.desktop.type("touch typed\n")
+        wait_for("the shell takes a command", (self.desktop.home / "typed").exists)
+        self.assertFalse((self.desktop.home / "ran").exists())
+
+    # Copy
+
+    def test_another_window_comes_to_the_front_while_the_hotkey_is_held(self):
+        self.make_key()
+        chat = self.open_chat()
+        letter = self.open_letter()
+        held = self.desktop.start(self.desktop.held_keys, 1500, *stories.session.HOTKEY)
+        self.desktop.wait_for_output(held, "pressed", "the keys are down")
+        time.sleep(0.2)  # the agent, which looked what is in front, waits for the keys' release
+        self.x.focus(chat.window)
+        self.desktop.close("Not Signed")
+        self.assertEqual(self.desktop.recorded(), [])
+        self.assertEqual(self.desktop.selection(), "")
+        self.assert_untouched(chat, CHAT)
+        self.assert_untouched(letter, LETTER)
+
+    def test_a_stopped_agent_signs_no_more_than_the_selection(self):
+        self.make_key()
+        private = "My PIN is 4711."
+        letter = self.desktop.open_editor(f"{LETTER}\n{private}\n")
+        self.desktop.key("ctrl+Home")
+        self.desktop.key("shift+End")
+        wait_for("the letter is selected", lambda: self.desktop.selection("primary") == LETTER)
+        os.kill(letter.pid, signal.SIGSTOP)
+        self.desktop.press_hotkey()
+        time.sleep(0.3)  # it has pressed the keys that copy
+        os.kill(self.desktop.agent.pid, signal.SIGSTOP)
+        time.sleep(1.3)
+        os.kill(letter.pid, signal.SIGCONT)
+        os.kill(self.desktop.agent.pid, signal.SIGCONT)
+        self.desktop.enter_secret()
+        saved = self.desktop.saved_text(letter, "Check this signature")
+        self.assertTrue(saved.startswith(f"『{LETTER}』\n\n────"), saved)
+        self.assertTrue(saved.rstrip().endswith(private), saved)
+
+    # Windows of the agent
+
+    def test_after_a_refusal_the_next_press_signs(self):
+        short = self.desktop.open_editor("Only four words here")
+        self.desktop.select_all("Only four words here")
+        self.desktop.press_hotkey()
+        self.desktop.choose_secret()
+        self.desktop.close("Not signed — too short")
+        self.write_letter(short)
+        self.desktop.press_hotkey()
+        self.desktop.enter_secret()
+        self.assert_signed(short)
+
+    def write_letter(self, editor):
+        self.desktop.wait_for_window(re.escape(editor.file.name))
+        self.desktop.key("ctrl+a")
+        self.desktop.type(LETTER)
+        self.desktop.select_all(LETTER)
+
+    def test_the_application_behind_the_agents_windows_is_asked_to_copy(self):
+        letter = self.desktop.open_editor("Only four words here")
+        letter.window = self.desktop.active_window()
+        self.desktop.select_all("Only four words here")
+        self.desktop.press_hotkey()
+        self.desktop.choose_secret()
+        self.desktop.wait_for_window("Not signed — too short")
+        alert = self.desktop.active_window()
+        self.switch_to(letter.window)
+        self.write_letter(letter)
+        self.switch_to(alert)
+        self.desktop.wait_for_window("Not signed — too short")
+        self.select_with_mouse(alert)
+        self.desktop.press_hotkey()
+        self.desktop.enter_secret()
+        self.assert_signed(letter)
+
+    def select_with_mouse(self, window):
+        """Whatever of its text is selectable."""
+        def selected():
+            self.desktop.run("xdotool", "mousemove", "--window", window, 68, 57, "mousedown", 1,
+                             "mousemove", "--window", window, 300, 57, "mouseup", 1)
+            return "words" in self.desktop.selection("primary")
+        wait_for("text of the agent is selected", selected)
+
+    def test_the_application_behind_the_settings_is_asked_to_copy(self):
+        letter = self.open_letter()
+        self.make_settings_come()
+        self.desktop.press_hotkey()
+        self.desktop.choose_secret()
+        self.desktop.enter_secret()
+        self.assert_signed(letter)
+
+    def make_settings_come(self):
+        self.desktop.run(self.desktop.quillseal, "--settings")
+        self.desktop.wait_for_window("Quill Seal Server Settings")
+
+
+if __name__ == "__main__":
+    stories.main(__doc__)

@@ -1,0 +1,50 @@
+"""A client of the X server, for what no program does on command."""
+
+import ctypes
+import time
+
+from session import PATIENCE, Failure
+
+
+@ctypes.CFUNCTYPE(ctypes.c_int, ctypes.c_void_p, ctypes.c_void_p)
+def take_no_notice(_display, _error):
+    """A window may be gone, or out of sight. The library would end the program."""
+    return 0
+
+
+class XClient:
+    def __init__(self, display):
+        self.x11 = ctypes.CDLL("libX11.so.6")
+        for name, result in (("XOpenDisplay", ctypes.c_void_p),
+                             ("XDefaultRootWindow", ctypes.c_ulong),
+                             ("XInternAtom", ctypes.c_ulong),
+                             ("XGetSelectionOwner", ctypes.c_ulong),
+                             ("XCreateSimpleWindow", ctypes.c_ulong),
+                             ("XKeysymToKeycode", ctypes.c_ubyte)):
+            getattr(self.x11, name).restype = result
+        self.x11.XSetErrorHandler(take_no_notice)
+        self.display = ctypes.c_void_p(self.x11.XOpenDisplay(display.encode()))
+        self.root = ctypes.c_ulong(self.x11.XDefaultRootWindow(self.display))
+        self.clipboard = ctypes.c_ulong(self.x11.XInternAtom(self.display, b"CLIPBOARD", 0))
+
+    def close(self):
+        self.x11.XCloseDisplay(self.display)
+
+    def focus(self, window):
+        """Gives the window the keyboard, at once."""
+        revert_to_parent = 2
+        self.x11.XRaiseWindow(self.display, ctypes.c_ulong(int(window)))
+        self.x11.XSetInputFocus(self.display, ctypes.c_ulong(int(window)), revert_to_parent,
+                                ctypes.c_ulong(0))
+        self.x11.XSync(self.display, 0)
+
+    def clipboard_owner(self):
+        return self.x11.XGetSelectionOwner(self.display, self.clipboard)
+
+    def wait_until_clipboard_leaves(self, owner):
+        """Without the pauses of other waiting."""
+        deadline = time.monotonic() + PATIENCE
+        while self.clipboard_owner() == owner:
+            if time.monotonic() > deadline:
+                raise Failure("nobody takes the clipboard")
+            time.sleep(0.001)

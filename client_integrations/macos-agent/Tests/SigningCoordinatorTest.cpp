@@ -466,7 +466,7 @@ TEST_F(SigningCoordinatorTest, PastesNowhereElse) {
 
 TEST_F(SigningCoordinatorTest, CopiesNowhereElse) {
   const Interference cases[] = {
-      {"closed", [](FakeDesktop& d) { d.ended = {mail.instance}; }, "its window was closed"},
+      {"closed", [](FakeDesktop& d) { d.ended = {mail.instance}; }, "the window was closed"},
       {"switched", [](FakeDesktop& d) { d.front = d.active = chromeRunning; },
        "another window came to the front"},
       {"another document", [](FakeDesktop& d) { d.active->document = "Re: Rent"; },

@@ -87,7 +87,7 @@ desktop::Alert alertWithoutText(AccessibilityManager::CopyOutcome outcome) {
       reason = "the window showed another document or tab before the text was copied";
       break;
     case CopyOutcome::sourceClosed:
-      reason = "its window was closed before the text was copied";
+      reason = "the window was closed before the text was copied";
       break;
     default:
       break;

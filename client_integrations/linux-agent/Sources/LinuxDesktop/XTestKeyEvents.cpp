@@ -110,7 +110,7 @@ class XTestKeyEvents::Press : public std::enable_shared_from_this<Press> {
     finish(delivery);
   }
 
-  void aboutToPress() {
+  void aboutToPress() const {
     if (wish_.aboutToPress) wish_.aboutToPress();
   }
 

@@ -38,8 +38,8 @@ void post(desktop::KeyPress press) {
 /// their own flags, but some applications look at the keyboard itself.
 class WaitingPress : public std::enable_shared_from_this<WaitingPress> {
  public:
-  WaitingPress(desktop::MainLoop& loop, desktop::KeyPress press,
-               std::function<void()> aboutToPress, Completion<desktop::Delivery> completion)
+  WaitingPress(desktop::MainLoop& loop, desktop::KeyPress press, std::function<void()> aboutToPress,
+               Completion<desktop::Delivery> completion)
       : loop_(loop),
         press_(press),
         aboutToPress_(std::move(aboutToPress)),

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Signs again and again in one session, with a key in a TPM simulator, and tells whether the agent
-keeps its memory and its descriptors."""
+"""Signs again and again in one session and tells whether the agent keeps its memory and its
+descriptors, and whether it gives back what it needed only while it signed."""
 
 import os
 import statistics
@@ -12,6 +12,9 @@ from measure import memory
 from session import LETTER, SECRET, wait_for
 
 SETTLED = 50  # signatures after which caches are full
+REST = 10  # seconds without a signature after which the agent holds only what it keeps
+
+LIMIT = 45  # MB that the agent may hold at rest, of its own and shared
 
 
 def percentiles(times):
@@ -20,13 +23,14 @@ def percentiles(times):
 
 
 class Soak:
-    def __init__(self, desktop):
+    def __init__(self, desktop, key):
         self.desktop = desktop
+        self.key = key
         self.to_prompt = []
         self.to_block = []
 
     def start(self):
-        tpm = self.desktop.start_software_tpm()
+        tpm = self.desktop.start_software_tpm() if self.key == "tpm" else "none"
         self.desktop.write_settings(ServerURL=self.desktop.start_server(), SigningMode="enclave")
         self.desktop.start_agent(tpm=tpm)
         self.desktop.open_editor(LETTER)
@@ -38,7 +42,7 @@ class Soak:
         done = self.signatures()
         begun = time.monotonic()
         self.desktop.press_hotkey(0)
-        self.desktop.wait_for_window("Enter the PIN")
+        self.desktop.wait_for_window("Enter the")
         self.to_prompt.append((time.monotonic() - begun) * 1000)
         self.desktop.type(SECRET)
         begun = time.monotonic()
@@ -63,7 +67,7 @@ class Soak:
         self.desktop.select_all(LETTER)
         self.desktop.press_hotkey(0)
         self.desktop.choose_secret()
-        self.desktop.close("Enter the PIN", "Escape")
+        self.desktop.close("Enter the", "Escape")
         self.desktop.close("Signing Error")
         settled = None
         for number in range(1, count + 1):
@@ -75,21 +79,28 @@ class Soak:
                 print(number, " ".join(f"{name} {value:.1f}"
                                        for name, value in self.holdings().items()), flush=True)
         print(f"hotkey to prompt   {percentiles(self.to_prompt)}")
-        print(f"PIN to block       {percentiles(self.to_block)}")
-        return settled, self.holdings()
+        print(f"secret to block    {percentiles(self.to_block)}")
+        after = self.holdings()
+        time.sleep(REST)
+        return settled, after, self.holdings()
 
 
 def main():
     parser = session.arguments_parser(__doc__)
     parser.add_argument("--count", type=int, default=500, help="signatures to make")
+    parser.add_argument("--key", choices=("file", "tpm"), default="tpm",
+                        help="where the key is: in a file, or in a TPM simulator")
     arguments = parser.parse_args()
     with session.failing_with_a_sentence("soak"), session.Session(arguments.build) as desktop:
-        soak = Soak(desktop)
+        soak = Soak(desktop, arguments.key)
         soak.start()
-        before, after = soak.run(arguments.count)
+        before, after, at_rest = soak.run(arguments.count)
+    print(f"after {REST} s of rest: {at_rest['resident']:.1f} MB resident, {at_rest['threads']} threads")
     growth = after["proportional"] - before["proportional"]
     if growth > 4 or after["descriptors"] > before["descriptors"]:
         sys.exit(f"soak: the agent holds more than before: {before} → {after}")
+    if at_rest["resident"] > LIMIT:
+        sys.exit(f"soak: {at_rest['resident']:.1f} MB at rest, more than {LIMIT}")
 
 
 if __name__ == "__main__":

@@ -4,7 +4,7 @@
 #include <memory>
 #include <utility>
 
-#include <malloc.h>
+#include "LinuxDesktop/IdleMemory.h"
 
 namespace quillseal {
 namespace {
@@ -16,12 +16,13 @@ constexpr std::chrono::seconds untilIdle{2};
 }  // namespace
 
 QtMainLoop::QtMainLoop() {
+  returnLargeBlocks();
   workers_.setMaxThreadCount(workers);
   // What work needed meanwhile would otherwise stay with the agent while it waits for days.
   idle_.setSingleShot(true);
   idle_.setInterval(untilIdle);
   QObject::connect(&idle_, &QTimer::timeout, &receiver_,
-                   [this] { workers_.start([] { malloc_trim(0); }); });
+                   [this] { workers_.start(giveBackUnusedMemory); });
 }
 
 QtMainLoop::~QtMainLoop() {

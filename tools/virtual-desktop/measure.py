@@ -27,7 +27,10 @@ SETTLING, CLIPBOARD, ACTIVATION = 80, 150, 350
 
 def memory(pid):
     """Resident and proportional set size in MB."""
-    text = pathlib.Path(f"/proc/{pid}/smaps_rollup").read_text()
+    try:
+        text = pathlib.Path(f"/proc/{pid}/smaps_rollup").read_text()
+    except PermissionError as error:
+        raise session.Failure("the agent shows its memory to root only; start this as root") from error
     return tuple(int(re.search(rf"^{name}:\s+(\d+)", text, re.M)[1]) / 1024
                  for name in ("Rss", "Pss"))
 

@@ -48,7 +48,8 @@ TEST(IdleMemory, HoldsNoLargeBlocksOfWorkers) {
 }
 
 TEST(IdleMemory, ConstantsAreThereAgainWhenTheyAreNeeded) {
-  const std::string text = "Please buy gift cards, scratch the codes and send me a picture of them.";
+  const std::string text =
+      "Please buy gift cards, scratch the codes and send me a picture of them.";
   const auto scores = [&] { return ContentRisk::evaluate(text).score; };
   const auto expected = scores();
   ASSERT_GT(expected, 0);

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include <openssl/crypto.h>
+#include <sys/prctl.h>
 
 namespace quillseal {
 namespace {
@@ -25,6 +26,10 @@ unsigned char* allocate(std::size_t size) {
 bool lockMemoryOfSecrets() noexcept {
   constexpr int allLocked = 1;
   return ::CRYPTO_secure_malloc_init(lockedBytes, smallestBlock) == allLocked;
+}
+
+void shieldProcess() noexcept {
+  ::prctl(PR_SET_DUMPABLE, 0, 0, 0, 0);
 }
 
 void SecretBytes::Free::operator()(unsigned char* bytes) const noexcept {

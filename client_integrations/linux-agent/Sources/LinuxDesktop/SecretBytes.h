@@ -12,6 +12,11 @@ namespace quillseal {
 /// program.
 bool lockMemoryOfSecrets() noexcept;
 
+/// Keeps other programs of the same user from reading the memory of this process and from tracing
+/// it, and the system from writing core files of it; not root. Programs that it starts are not
+/// affected. To be called before there is a secret.
+void shieldProcess() noexcept;
+
 /// Bytes that must not outlive their use: a PIN, a passphrase, a value derived from one. They are
 /// overwritten when the object ends or is assigned to, and cannot be copied by accident.
 class SecretBytes {

@@ -312,6 +312,7 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  quillseal::shieldProcess();
   const std::vector<std::string_view> arguments(argv + 1, argv + argc);
   const CommandLine commandLine = quillseal::parseCommandLine(arguments);
   switch (commandLine.command) {

@@ -7,9 +7,12 @@ Signing.test_a_wrong_passphrase_may_be_corrected, or nothing for all of them.
 
 import hashlib
 import html
+import os
 import pathlib
 import re
+import resource
 import signal
+import subprocess
 import sys
 import unittest
 
@@ -360,6 +363,37 @@ class Trouble(Story):
         self.desktop.press_hotkey()
         self.desktop.choose_secret()
         self.desktop.wait_for_window("Enter the passphrase")
+
+
+class Shield(Story):
+    def start_as_user(self, *command):
+        """As root without the right to read every process, which makes root a user like others, and
+        with core files allowed."""
+        limit = resource.getrlimit(resource.RLIMIT_CORE)[1]
+        return self.desktop.start(
+            *self.user, *command,
+            preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_CORE, (limit, limit)))
+
+    @property
+    def user(self):
+        return ("setpriv", "--bounding-set", "-sys_ptrace") if os.geteuid() == 0 else ()
+
+    def is_readable(self, process):
+        read = f"open('/proc/{process.pid}/mem', 'rb')"
+        return subprocess.run([*self.user, sys.executable, "-c", read], check=False,
+                              stderr=subprocess.DEVNULL).returncode == 0
+
+    def leaves_a_core_file(self, process):
+        os.kill(process.pid, signal.SIGABRT)
+        return os.WCOREDUMP(os.waitpid(process.pid, 0)[1])
+
+    def test_other_programs_of_the_user_read_neither_its_memory_nor_a_core_file(self):
+        other = self.start_as_user("sleep", "600")
+        wait_for("the program starts", lambda: self.is_readable(other))
+        agent = self.start_as_user(self.desktop.quillseal, "--tpm", "none")
+        self.desktop.wait_for_output(agent, r"\[start\] ready", "the agent is ready")
+        self.assertFalse(self.is_readable(agent))
+        self.assertFalse(self.leaves_a_core_file(agent))
 
 
 class Commands(Story):

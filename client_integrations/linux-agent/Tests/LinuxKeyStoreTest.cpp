@@ -57,7 +57,9 @@ class ScriptedPrompt final : public SecretPrompt {
 class ScriptedTpm final : public KeyMedium {
  public:
   struct State {
+    SecretKind kind = SecretKind::pin;
     std::string obstacle;
+    std::string weakness;
     std::string defect;  ///< of the key
     bool foreignSignatures = false;
     int uses = 0;  ///< a plain number: a medium need not stand two threads
@@ -69,10 +71,11 @@ class ScriptedTpm final : public KeyMedium {
         other_({.path = folder / "tpm" / "other", .cost = {.n = 16, .r = 8, .p = 1}}),
         state_(state) {}
 
-  SecretKind secretKind() const noexcept override { return SecretKind::pin; }
+  SecretKind secretKind() const noexcept override { return state_.kind; }
   KeyPlace place() const noexcept override { return KeyPlace::tpm; }
   std::string name() const override { return "the TPM of this computer"; }
   std::string describe() const override { return "The key is in the TPM."; }
+  std::string weakness() const override { return state_.weakness; }
   std::string obstacle() const override {
     ++state_.uses;
     return state_.obstacle;
@@ -211,6 +214,18 @@ TEST_F(LinuxKeyStoreTest, AWeakSecretIsAskedForAgain) {
   ASSERT_EQ(prompt.askedForNew.size(), 3U);
   EXPECT_THAT(prompt.askedForNew[1].problem, HasSubstr("too short"));
   EXPECT_THAT(prompt.askedForNew[2].problem, HasSubstr("repeats"));
+}
+
+TEST_F(LinuxKeyStoreTest, WithoutALockAgainstGuessingThePinHasToBeLong) {
+  tpm.kind = SecretKind::unguardedPin;
+  tpm.weakness = "The lock can be undone.";
+  EXPECT_EQ(store->advice(), tpm.weakness);
+  prompt.answers = {pin, "2718281828459", "quiet 7 leaf"};
+  static_cast<void>(store->create());
+  ASSERT_EQ(prompt.askedForNew.size(), 3U);
+  EXPECT_THAT(prompt.askedForNew[1].problem, HasSubstr("at least 10 characters"));
+  EXPECT_THAT(prompt.askedForNew[2].problem, HasSubstr("no letters"));
+  EXPECT_EQ(store->advice(), tpm.weakness);
 }
 
 TEST_F(LinuxKeyStoreTest, AKeyThatCannotSignIsReportedBeforeAnybodyIsAsked) {

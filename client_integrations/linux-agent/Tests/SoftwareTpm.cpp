@@ -2,12 +2,15 @@
 
 #include <array>
 #include <csignal>
+#include <functional>
 #include <stdexcept>
 
 #include <spawn.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <sys/wait.h>
+#include <tss2/tss2_esys.h>
+#include <tss2/tss2_tctildr.h>
 #include <unistd.h>
 
 extern char** environ;
@@ -28,6 +31,17 @@ int listeningSocket(const std::filesystem::path& path) {
       ::listen(descriptor, 8) != 0)
     throw std::runtime_error("no socket for the TPM");
   return descriptor;
+}
+
+void with(const std::string& device, const std::function<TSS2_RC(ESYS_CONTEXT*)>& command) {
+  TSS2_TCTI_CONTEXT* transport = nullptr;
+  ESYS_CONTEXT* context = nullptr;
+  TSS2_RC code = ::Tss2_TctiLdr_Initialize(device.c_str(), &transport);
+  if (code == TSS2_RC_SUCCESS) code = ::Esys_Initialize(&context, transport, nullptr);
+  if (code == TSS2_RC_SUCCESS) code = command(context);
+  ::Esys_Finalize(&context);
+  ::Tss2_TctiLdr_Finalize(&transport);
+  if (code != TSS2_RC_SUCCESS) throw std::runtime_error("the TPM refuses a command");
 }
 
 }  // namespace
@@ -60,6 +74,25 @@ SoftwareTpm::SoftwareTpm(const std::filesystem::path& folder)
 SoftwareTpm::~SoftwareTpm() {
   ::kill(process_, SIGTERM);
   ::waitpid(process_, nullptr, 0);
+}
+
+void SoftwareTpm::setLockoutPassword(std::string_view password) const {
+  TPM2B_AUTH value{};
+  value.size = static_cast<UINT16>(password.copy(reinterpret_cast<char*>(value.buffer), 32));
+  with(device(), [&](ESYS_CONTEXT* context) {
+    return ::Esys_HierarchyChangeAuth(context, ESYS_TR_RH_LOCKOUT, ESYS_TR_PASSWORD, ESYS_TR_NONE,
+                                      ESYS_TR_NONE, &value);
+  });
+}
+
+bool SoftwareTpm::undoLock() const {
+  bool undone = false;
+  with(device(), [&](ESYS_CONTEXT* context) {
+    undone = ::Esys_DictionaryAttackLockReset(context, ESYS_TR_RH_LOCKOUT, ESYS_TR_PASSWORD,
+                                              ESYS_TR_NONE, ESYS_TR_NONE) == TSS2_RC_SUCCESS;
+    return TSS2_RC_SUCCESS;
+  });
+  return undone;
 }
 
 }  // namespace quillseal::testing

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 #include <sys/types.h>
 
@@ -19,6 +20,11 @@ class SoftwareTpm {
 
   /// What a TPM user of the tss2 libraries names it.
   [[nodiscard]] std::string device() const { return "swtpm:path=" + socket_.string(); }
+
+  void setLockoutPassword(std::string_view password) const;
+
+  /// As a program does that has access to the TPM and knows no password; false when it is refused.
+  [[nodiscard]] bool undoLock() const;
 
  private:
   std::filesystem::path socket_;

@@ -124,6 +124,33 @@ TEST_F(TpmKeyStoreTest, LocksItselfAfterWrongPins) {
   EXPECT_EQ(failureOf([&] { static_cast<void>(store.requireUsableKey()); }), lockout);
 }
 
+TEST_F(TpmKeyStoreTest, TheLockHoldsOnlyBehindALockoutPassword) {
+  store.create(pin());
+  EXPECT_THAT(store.describe(), HasSubstr("if a lockout password is set"));
+  EXPECT_EQ(store.obstacle(), "");
+  EXPECT_EQ(store.secretKind(), SecretKind::unguardedPin);
+  EXPECT_THAT(store.describe(), HasSubstr("No lockout password is set"));
+  EXPECT_THAT(store.weakness(), HasSubstr("tpm2_changeauth -c lockout"));
+  const auto guess = [&] { return store.sign(digest, SecretBytes("000001")).has_value(); };
+  for (int round = 0; round < 50; ++round) {
+    EXPECT_FALSE(guess());
+    EXPECT_TRUE(round % 2 == 0 || tpm->undoLock());
+  }
+  EXPECT_TRUE(store.sign(digest, pin()));
+
+  tpm->setLockoutPassword("of the administrator");
+  static_cast<void>(store.requireUsableKey());
+  EXPECT_EQ(store.secretKind(), SecretKind::pin);
+  EXPECT_THAT(store.describe(), HasSubstr("locks itself after too many wrong PINs."));
+  EXPECT_EQ(store.weakness(), "");
+  EXPECT_FALSE(tpm->undoLock());
+  const auto guessOn = [&] {
+    for (int round = 0; round < 50; ++round)
+      EXPECT_FALSE(guess());
+  };
+  EXPECT_THAT(failureOf(guessOn), HasSubstr("locked itself"));
+}
+
 TEST_F(TpmKeyStoreTest, AClearedTpmIsNamedAndANewKeyHeals) {
   store.create(pin());
   clearTpm();

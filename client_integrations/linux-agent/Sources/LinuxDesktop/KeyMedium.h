@@ -16,9 +16,10 @@ namespace quillseal {
 enum class KeyPlace { tpm, tpmSimulator, keyFile };
 
 /// A place that can hold the device key: the TPM, or an encrypted file. It asks nobody anything;
-/// `LinuxKeyStore` puts the questions and chooses the place. Nothing is cached: a device that came
-/// or went is noticed at the next call. Every function may block for as long as the device takes
-/// and may be called on any thread, one call at a time.
+/// `LinuxKeyStore` puts the questions and chooses the place. A device that came or went is noticed
+/// at the next call. Every function may block for as long as the device takes and may be called on
+/// any thread, one call at a time; those that say so do not wait, may be called beside others, and
+/// go by what `obstacle` or `requireUsableKey` last saw of the device.
 class KeyMedium {
  public:
   KeyMedium() = default;
@@ -26,6 +27,7 @@ class KeyMedium {
   KeyMedium& operator=(const KeyMedium&) = delete;
   virtual ~KeyMedium() = default;
 
+  /// What opens the key, or would open one made now. Does not wait for a device.
   [[nodiscard]] virtual SecretKind secretKind() const noexcept = 0;
 
   [[nodiscard]] virtual KeyPlace place() const noexcept = 0;
@@ -34,8 +36,12 @@ class KeyMedium {
   [[nodiscard]] virtual std::string name() const = 0;
 
   /// What the place is and which protection it gives, as sentences for the user; of a key to come
-  /// where there is none.
+  /// where there is none. Does not wait for a device.
   [[nodiscard]] virtual std::string describe() const = 0;
+
+  /// What is known to weaken that protection and how to mend it, as sentences for the user; empty
+  /// when nothing is. Does not wait for a device.
+  [[nodiscard]] virtual std::string weakness() const { return {}; }
 
   /// Why no key can be made or used here now, and what would help, as sentences for the user; empty
   /// when the place is usable.

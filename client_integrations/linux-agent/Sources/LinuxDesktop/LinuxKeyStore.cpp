@@ -188,6 +188,7 @@ std::string LinuxKeyStore::advice() const {
     }
   }
   if (place() == KeyPlace::tpmSimulator) return describe();
+  if (std::string weakness = evidentMedium().weakness(); !weakness.empty()) return weakness;
   return media_.front()->holdsKey() ? std::string() : sentence(media_.front()->evidentObstacle());
 }
 

@@ -8,9 +8,11 @@
 
 namespace quillseal {
 
-/// What opens a device key. A PIN is checked by the TPM, which locks itself after a few wrong
-/// ones; a passphrase is all that protects a key file, so it has to be long.
-enum class SecretKind { pin, passphrase };
+/// What opens a device key. A PIN is checked by the TPM, which locks itself after a few wrong ones.
+/// An unguarded PIN is checked by a TPM without a lockout password: every program with access to it
+/// can undo the lock after each guess. A passphrase is all that protects a key file. The latter two
+/// have to be long.
+enum class SecretKind { pin, unguardedPin, passphrase };
 
 /// "PIN" or "passphrase", as it reads in the middle of a sentence.
 [[nodiscard]] std::string_view nameOf(SecretKind kind) noexcept;

@@ -120,12 +120,10 @@ TpmFailure tpmFailureOf(const DeviceError& error) {
                   device + " does not exist)."};
     case EACCES:
     case EPERM:
-      return {
-          .problem = TpmProblem::noPermission,
-          .message = "You have no access to the TPM (" + device +
-                     "). Whoever manages this computer can install Quillseal’s udev rule or "
-                     "add you to the group that owns the device (adduser NAME tss). Log out and "
-                     "in again afterwards."};
+      return {.problem = TpmProblem::noPermission,
+              .message = "You have no access to the TPM (" + device +
+                         "). Whoever manages this computer can add you to the group that owns it "
+                         "(sudo adduser NAME tss). Log out and in again afterwards."};
     case EBUSY:
       return {.problem = TpmProblem::busy, .message = std::string(busy)};
     default:

@@ -293,8 +293,8 @@ bool allowsSeveralConnections(std::string_view device) {
   return !device.starts_with("mssim:");
 }
 
-void requireNoLockout(const Tpm& tpm) {
-  if ((tpm.property(TPM2_PT_PERMANENT) & TPMA_PERMANENT_INLOCKOUT) == 0) return;
+void requireNoLockout(const Tpm& tpm, TPMA_PERMANENT attributes) {
+  if ((attributes & TPMA_PERMANENT_INLOCKOUT) == 0) return;
   // One wrong attempt is forgiven after each such interval, and then the TPM listens again.
   const UINT32 minutes = (tpm.property(TPM2_PT_LOCKOUT_INTERVAL) + 59) / 60;
   std::string message = tpmFailureOf(TPM2_RC_LOCKOUT).message;
@@ -364,7 +364,7 @@ TpmKeyStore::TpmKeyStore(Options options)
 TpmKeyStore::~TpmKeyStore() = default;
 
 SecretKind TpmKeyStore::secretKind() const noexcept {
-  return SecretKind::pin;
+  return guard_ == Guard::none ? SecretKind::unguardedPin : SecretKind::pin;
 }
 
 KeyPlace TpmKeyStore::place() const noexcept {
@@ -379,10 +379,36 @@ std::string TpmKeyStore::describe() const {
   const std::string theKeyIs = holdsKey() ? "The key is" : "The key will be";
   if (isSimulator(device_))
     return theKeyIs + " kept in a TPM simulator (" + device_ +
-           "), which is for trying things out: it protects nothing.";
+           "), which is for trying things out: it protects nothing. " +
+           std::string(guardSentence());
   return theKeyIs +
          " in the TPM of this computer and cannot leave it. A PIN is asked for at every "
-         "signature; the TPM locks itself after too many wrong ones.";
+         "signature. " +
+         std::string(guardSentence());
+}
+
+std::string TpmKeyStore::weakness() const {
+  if (guard_ != Guard::none) return {};
+  return std::string(guardSentence()) +
+         " Whoever manages this computer can set one (tpm2_changeauth -c lockout PASSWORD).";
+}
+
+std::string_view TpmKeyStore::guardSentence() const noexcept {
+  switch (guard_) {
+    case Guard::unknown:
+      return "The TPM locks itself after too many wrong PINs, if a lockout password is set in it.";
+    case Guard::lockoutPassword:
+      return "The TPM locks itself after too many wrong PINs.";
+    case Guard::none:
+      break;
+  }
+  return "No lockout password is set in the TPM: any program with access to it can undo its lock "
+         "and go on guessing, so only a long PIN protects the key.";
+}
+
+void TpmKeyStore::learnGuard(std::uint32_t permanentAttributes) const noexcept {
+  guard_ = (permanentAttributes & TPMA_PERMANENT_LOCKOUTAUTHSET) != 0 ? Guard::lockoutPassword
+                                                                      : Guard::none;
 }
 
 std::string TpmKeyStore::obstacle() const {
@@ -390,7 +416,9 @@ std::string TpmKeyStore::obstacle() const {
     const Tpm tpm(device_);
     if ((tpm.property(TPM2_PT_STARTUP_CLEAR) & TPMA_STARTUP_CLEAR_SHENABLE) == 0)
       return tpmFailureOf(TPM2_RC_HIERARCHY).message;
-    if ((tpm.property(TPM2_PT_PERMANENT) & TPMA_PERMANENT_OWNERAUTHSET) != 0)
+    const TPMA_PERMANENT attributes = tpm.property(TPM2_PT_PERMANENT);
+    learnGuard(attributes);
+    if ((attributes & TPMA_PERMANENT_OWNERAUTHSET) != 0)
       return tpmFailureOf(TPM2_RC_BAD_AUTH).message;
     if (!tpm.hasCurve(TPM2_ECC_NIST_P256)) return tpmFailureOf(TPM2_RC_CURVE).message;
   } catch (const KeyFailure& failure) {
@@ -447,7 +475,9 @@ p256::Point TpmKeyStore::publicKey() const {
 KeyMedium::Readiness TpmKeyStore::requireUsableKey() const {
   opened_.reset();
   auto opened = std::make_unique<OpenedKey>(device_, readKey(file_));
-  requireNoLockout(opened->tpm);
+  const TPMA_PERMANENT attributes = opened->tpm.property(TPM2_PT_PERMANENT);
+  learnGuard(attributes);
+  requireNoLockout(opened->tpm, attributes);
   if (!allowsSeveralConnections(device_)) return {};
   opened_ = std::move(opened);
   Readiness readiness = readiness_.lock();
@@ -479,7 +509,8 @@ std::optional<std::vector<std::uint8_t>> TpmKeyStore::sign(const p256::Digest& d
   if (attempt.code == TSS2_RC_SUCCESS) return std::move(attempt.signature);
   if (isWrong(attempt.code)) return std::nullopt;
   const TpmFailure failure = tpmFailureOf(attempt.code);
-  if (failure.problem == TpmProblem::lockedOut) requireNoLockout(key.tpm);
+  if (failure.problem == TpmProblem::lockedOut)
+    requireNoLockout(key.tpm, key.tpm.property(TPM2_PT_PERMANENT));
   fail(failure);
 }
 

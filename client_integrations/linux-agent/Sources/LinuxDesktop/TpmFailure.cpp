@@ -122,7 +122,7 @@ TpmFailure tpmFailureOf(const DeviceError& error) {
     case EPERM:
       return {.problem = TpmProblem::noPermission,
               .message = "You have no access to the TPM (" + device +
-                         "). Whoever manages this computer can add you to the group that owns it "
+                         "). An administrator can add you to the group that owns it "
                          "(sudo adduser NAME tss). Log out and in again afterwards."};
     case EBUSY:
       return {.problem = TpmProblem::busy, .message = std::string(busy)};

@@ -390,7 +390,7 @@ std::string TpmKeyStore::describe() const {
 std::string TpmKeyStore::weakness() const {
   if (guard_ != Guard::none) return {};
   return std::string(guardSentence()) +
-         " Whoever manages this computer can set one (tpm2_changeauth -c lockout PASSWORD).";
+         " An administrator can set one (sudo tpm2_changeauth -c lockout PASSWORD).";
 }
 
 std::string_view TpmKeyStore::guardSentence() const noexcept {

@@ -35,6 +35,7 @@ bool returnLargeBlocks() noexcept {
   // By default the C library raises the limit once it has seen a large block freed, and keeps those
   // that come later, for each thread by itself.
   constexpr int largeBlock = 1 << 20;
+  // NOLINTNEXTLINE(concurrency-mt-unsafe): before any thread
   return ::mallopt(M_MMAP_THRESHOLD, largeBlock) == 1;
 }
 

@@ -16,7 +16,6 @@ constexpr std::chrono::seconds untilIdle{2};
 }  // namespace
 
 QtMainLoop::QtMainLoop() {
-  returnLargeBlocks();
   workers_.setMaxThreadCount(workers);
   // What work needed meanwhile would otherwise stay with the agent while it waits for days.
   idle_.setSingleShot(true);

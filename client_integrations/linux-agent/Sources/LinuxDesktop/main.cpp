@@ -19,6 +19,7 @@
 #include "LinuxDesktop/CommandLine.h"
 #include "LinuxDesktop/EntriesModule.h"
 #include "LinuxDesktop/HttpModule.h"
+#include "LinuxDesktop/IdleMemory.h"
 #include "LinuxDesktop/JournalLog.h"
 #include "LinuxDesktop/KeyFailure.h"
 #include "LinuxDesktop/LinuxBrowserTabs.h"
@@ -313,6 +314,7 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
 
 int main(int argc, char** argv) {
   quillseal::shieldProcess();
+  quillseal::returnLargeBlocks();
   const std::vector<std::string_view> arguments(argv + 1, argv + argc);
   const CommandLine commandLine = quillseal::parseCommandLine(arguments);
   switch (commandLine.command) {

@@ -9,8 +9,10 @@
 #include <utility>
 
 #include <kainjow/mustache.hpp>
+#include <nlohmann/json.hpp>
 
 #include "Assets.h"
+#include "Quillseal/CalendarDate.h"
 #include "Quillseal/CryptoManager.h"
 #include "SignatureCheck.h"
 
@@ -81,26 +83,38 @@ std::string zone(const Signature& signature) {
   return text.str();
 }
 
-struct Verdict {
-  std::string tone;  ///< a class of the style sheet
-  std::string text;
-};
+std::string nameOf(SignatureKind kind) {
+  switch (kind) {
+    case SignatureKind::device:
+      return "device";
+    case SignatureKind::demonstration:
+      return "demonstration";
+    case SignatureKind::browser:
+      break;
+  }
+  return "browser";
+}
 
-Verdict verdictOf(const Signature& signature, std::int64_t now) {
-  if (signature.kind == SignatureKind::demonstration) {
-    return {.tone = "caution", .text = "Demonstration only: this is not a signature"};
-  }
-  // Whoever can write to the database can change a record, and a file can be damaged.
-  if (signature.kind == SignatureKind::device && !isGenuine(signature)) {
-    return {.tone = "bad", .text = "This record and its signature do not match: do not trust it"};
-  }
-  if (isoDate(now) > signature.expires) {
-    return {.tone = "caution", .text = "Expired on " + longDate(signature.expires)};
-  }
-  if (signature.kind == SignatureKind::browser) {
-    return {.tone = "neutral", .text = "Signed in the browser, without a device key"};
-  }
-  return {.tone = "good", .text = "Signature verified"};
+/// Whether the signer's date cannot be the day of the recording anywhere on earth.
+bool isOffDate(const Signature& signature) {
+  const auto issued = std::chrono::sys_days(parsedDate(signature.issued).value());
+  const auto recorded = std::chrono::floor<std::chrono::days>(instant(signature.recordedAt));
+  return std::chrono::abs(issued - recorded) > std::chrono::days(1);
+}
+
+/// What the page's script compares a paste with, as JSON.
+std::string recordOf(const Signature& signature, std::int64_t now) {
+  const nlohmann::json record{{"id", signature.id},
+                              {"kind", nameOf(signature.kind)},
+                              {"textDigest", signature.textDigest},
+                              {"identity", signature.identity},
+                              {"scope", signature.scope},
+                              {"issued", longDate(signature.issued)},
+                              {"recorded", longDate(isoDate(signature.recordedAt))},
+                              {"expires", longDate(signature.expires)},
+                              {"isExpired", isoDate(now) > signature.expires},
+                              {"isOffDate", isOffDate(signature)}};
+  return record.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }
 
 }  // namespace
@@ -110,27 +124,31 @@ std::string browserExpiry(std::string_view issued) {
 }
 
 std::string verifyPage(const Signature& signature, std::int64_t now) {
-  const bool isDevice = signature.kind == SignatureKind::device;
-  const Verdict verdict = verdictOf(signature, now);
+  // Whoever can write to the database can change a record, and a file can be damaged.
+  const bool isSound = isConsistent(signature);
   data values;
-  values.set("title", "Check a signature");
+  values.set("title", "Check a message");
   values.set("script", "verify.js");
-  values.set("tone", verdict.tone);
-  values.set("verdict", verdict.text);
-  values.set("is_device", isDevice);
-  values.set("is_demonstration", signature.kind == SignatureKind::demonstration);
-  values.set("is_browser", signature.kind == SignatureKind::browser);
-  values.set("signer",
-             signature.identity.empty() ? std::string("An anonymous human") : signature.identity);
-  values.set("is_anonymous", signature.identity.empty());
-  values.set("issued", longDate(signature.issued));
-  values.set("expires", longDate(signature.expires));
-  values.set("scope", signature.scope);
+  if (isSound) {
+    values.set("record", recordOf(signature, now));
+    values.set("tone", "unknown");
+    values.set("verdict", "This page cannot tell you whether your message is genuine");
+    values.set("explanation", "Comparing needs JavaScript, which is off in this browser.");
+    values.set("issued", longDate(signature.issued));
+    values.set("expires", longDate(signature.expires));
+    values.set("recorded", utcTime(signature.recordedAt));
+  } else {
+    values.set("record", "null");
+    values.set("tone", "bad");
+    values.set("verdict", "This record was changed after it was made");
+    values.set("explanation",
+               "Do not rely on a message whose link leads here. Nothing is compared.");
+    values.set("recorded", "unknown");
+  }
+  values.set("is_device", signature.kind == SignatureKind::device);
   values.set("commitment", signature.commitment);
-  values.set("method", signature.method);
   values.set("has_device", !signature.deviceId.empty());
   values.set("device", signature.deviceId);
-  values.set("recorded", utcTime(signature.recordedAt));
   values.set("has_zone", !signature.timezone.empty());
   values.set("zone", zone(signature));
   values.set("id", signature.id);

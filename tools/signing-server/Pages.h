@@ -13,6 +13,8 @@ namespace quillseal::devserver {
 /// what the shortest text gets.
 [[nodiscard]] std::string browserExpiry(std::string_view issued);
 
+/// The page on which a reader compares a message with the record. It says nothing of the message
+/// before the reader has pasted it, and compares nothing when the record was changed.
 [[nodiscard]] std::string verifyPage(const Signature& signature, std::int64_t now);
 
 /// `secondsLeft` is what an open handoff has before it expires; zero or less when it has expired.

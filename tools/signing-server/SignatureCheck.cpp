@@ -11,6 +11,7 @@
 #include <openssl/evp.h>
 #include <openssl/params.h>
 
+#include "Quillseal/CalendarDate.h"
 #include "Quillseal/CryptoManager.h"
 
 namespace quillseal::devserver {
@@ -111,6 +112,23 @@ bool isGenuine(const Signature& signature) {
   return isSignedBy({.publicKey = decodedBase64(signature.publicKey).value_or(""),
                      .digestHex = canonicalDigest(signature),
                      .signature = decodedBase64(signature.deviceSignature).value_or("")});
+}
+
+bool isConsistent(const Signature& signature) {
+  constexpr std::int64_t endOfTheYear9999 = 253402300800;
+  if (!parsedDate(signature.issued) || !parsedDate(signature.expires) || signature.recordedAt < 0 ||
+      signature.recordedAt >= endOfTheYear9999) {
+    return false;
+  }
+  switch (signature.kind) {
+    case SignatureKind::device:
+      return isGenuine(signature);
+    case SignatureKind::demonstration:
+    case SignatureKind::browser:
+      return signature.identity.empty() && signature.publicKey.empty() &&
+             signature.deviceSignature.empty();
+  }
+  return false;
 }
 
 bool equalSecrets(std::string_view left, std::string_view right) {

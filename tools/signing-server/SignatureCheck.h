@@ -33,6 +33,11 @@ struct SignatureClaim {
 /// Whether the record's device signature is one by the record's key over the record's own fields.
 [[nodiscard]] bool isGenuine(const Signature& signature);
 
+/// Whether the record can be one that this server made: a device's is genuine, any other names no
+/// person and holds no key, and its dates exist. Of a record without a signature, no more can be
+/// told.
+[[nodiscard]] bool isConsistent(const Signature& signature);
+
 /// Whether both are equal, in a time that depends on the lengths alone.
 [[nodiscard]] bool equalSecrets(std::string_view left, std::string_view right);
 

@@ -1,52 +1,175 @@
-import { textDigest } from "./canonical.js";
-import { showResult } from "./result.js";
+import { nameOf, pieces, show } from "./marks.js";
+import { differences, found, obstacle } from "./paste.js";
 
-const expected = document.querySelector("main").dataset.textDigest;
+// What the server says of the record; null when the record itself was changed.
+const record = JSON.parse(document.querySelector("main").dataset.record);
 const field = document.getElementById("text");
+const result = document.getElementById("result");
+const match = document.getElementById("match");
 let newest = 0;
 
-// The lines below a signed text, as plain text and as what mail programs make of the HTML.
-const stamp =
-  /^\s*(?:─{20}\s*)?🛡\uFE0F?\s*QUILLSEAL\s[^\n]* · [^\n]*(?:\n\s*Check this signature →\s*\S*)?\s*$/u;
+function paragraph(text, className = "") {
+  const element = document.createElement("p");
+  element.className = className;
+  element.textContent = text;
+  return element;
+}
 
-// What the paste may mean, with the words for each. A whole signed block is pasted as often as its
-// text alone: then what counts stands between the corner brackets, and nothing else is signed.
-function readings(pasted) {
-  const whole = { text: pasted, tone: "good", message: "✓ This is the signed text, word for word." };
-  const framed = /『([\s\S]*)』\s*(?:─{20}|🛡)/u.exec(pasted) ?? /『([\s\S]*)』/u.exec(pasted);
-  if (!framed) return [whole];
-  const [, text] = framed;
-  const before = pasted.slice(0, framed.index);
-  const after = pasted.slice(framed.index + `『${text}』`.length);
-  const message = "✓ What stands between 『 and 』 is the signed text.";
-  const isAlone = before.trim() === "" && (after.trim() === "" || stamp.test(after));
-  return isAlone
-    ? [whole, { text, tone: "good", message }]
-    : [whole, { text, tone: "caution", message: `${message} Text outside the brackets is not signed.` }];
+// `tone` is a class of the style sheet; `reasons` follow the headline as a list.
+function showVerdict(tone, headline, { reasons = [], explanation = "" } = {}) {
+  const list = document.createElement("ul");
+  list.append(
+    ...reasons.map((reason) => {
+      const item = document.createElement("li");
+      item.textContent = reason;
+      return item;
+    }),
+  );
+  result.className = `verdict ${tone}`;
+  result.replaceChildren(
+    paragraph(headline, "headline"),
+    ...(reasons.length > 0 ? [list] : []),
+    ...(explanation === "" ? [] : [paragraph(explanation)]),
+  );
+}
+
+const cannotTell = "This page cannot tell you whether your message is genuine";
+
+const kinds = {
+  device: [],
+  demonstration: ["This record is only a demonstration. No key was used, and it is evidence of nothing."],
+  browser: [
+    "No device signed this text. Somebody who had the signing page open pressed “Sign”; the record does not show who that was.",
+  ],
+};
+
+function reasonsInRecord(identity, scope) {
+  const reasons = [...kinds[record.kind]];
+  if (record.isExpired) reasons.push(`The record has expired. It was valid until ${record.expires}.`);
+  if (record.isOffDate) {
+    reasons.push(`The signer gave the date ${record.issued}, but this server recorded it on ${record.recorded}.`);
+  }
+  if (identity.some(({ fault }) => fault)) reasons.push("The name in the record holds hidden signs.");
+  if (scope.some(({ fault }) => fault)) reasons.push("The medium in the record holds hidden signs.");
+  return reasons;
+}
+
+const mostNames = 6;
+
+function namesOf(faulty) {
+  const names = [...new Set(faulty.map(({ character }) => nameOf(character)))];
+  return names.slice(0, mostNames).join(", ") + (names.length > mostNames ? " and others" : "");
+}
+
+const faults = [
+  ["direction", (names) =>
+    `It holds hidden signs that turn the reading direction around: ${names}. Your mail may show amounts, dates or names in another order than they were signed.`],
+  ["bracket", (names) => `These signs are not part of what was signed, so anyone may have added them: ${names}`],
+  ["comma", (names) => `A quotation mark in it looks like a comma: ${names}.`],
+  ["dash", (names) => `A space in it may be shown as a dash: ${names}.`],
+  ["hidden", (names) => `It holds hidden characters: ${names}.`],
+];
+
+function reasonsInPaste({ above, below }, textPieces) {
+  // Angle brackets around the paste's link are compared with it.
+  const around = [above, below].flatMap(pieces).filter(({ fault }) => fault !== "bracket");
+  const shown = [...textPieces, ...around];
+  const reasons = [];
+  for (const [kind, sentence] of faults) {
+    const faulty = shown.filter(({ fault }) => fault === kind);
+    if (faulty.length > 0) reasons.push(sentence(namesOf(faulty)));
+  }
+  const link = `${location.origin}/verify/${record.id}`;
+  const { stamp, place, extra } = differences(below, { scope: record.scope, issued: record.issued, link });
+  if (above.trim() !== "") reasons.push("What stands above the text is not signed.");
+  if (stamp) {
+    reasons.push("The lines below the text were changed: medium and date are not those of the record. The right ones are below.");
+  }
+  if (place) reasons.push(`The link in your message leads elsewhere: to ${place}.`);
+  if (extra) reasons.push("There is more below the text than the agent put there, and it is not signed.");
+  return reasons;
+}
+
+const identityNotes = {
+  device: ["given by this server, not checked", "Nobody checked whose device it is."],
+  demonstration: ["", "It is nobody’s signature."],
+  browser: ["", "The record does not show who pressed “Sign”."],
+};
+
+// A browser takes seconds to lay out the longest text; the verdict must not wait for that.
+const mostAtFirst = 20_000;
+
+function showLong(element, more, shown) {
+  const leftOut = show(element, shown, mostAtFirst);
+  more.hidden = leftOut === 0;
+  more.textContent = `Show the rest of the text (${leftOut.toLocaleString("en")} more characters)`;
+  more.onclick = () => {
+    show(element, shown);
+    more.hidden = true;
+  };
+}
+
+function showMatch({ canonical }, shown) {
+  const hasDirection = shown.text.some(({ fault }) => fault === "direction");
+  const [named, nameless] = identityNotes[record.kind];
+  const content = document.getElementById("matching").content.cloneNode(true);
+  const place = (name) => content.querySelector(`[data-shows="${name}"]`);
+  place("text").dir = hasDirection ? "ltr" : "auto";
+  showLong(place("text"), place("text-more"), shown.text);
+  const [characters, more] = ["characters", "characters-more"].map(place);
+  content.querySelector("details").addEventListener("toggle", () => showLong(characters, more, pieces(canonical)), { once: true });
+  for (const name of ["identity", "scope"]) show(place(name), shown[name]);
+  place("identityNote").textContent = shown.identity.length > 0 ? named : nameless;
+  match.replaceChildren(content);
 }
 
 async function compare() {
   const turn = ++newest;
-  const pasted = field.value;
-  if (pasted.trim() === "") {
-    showResult("", "");
+  const pasted = field.value.trim();
+  if (pasted === "") {
+    match.replaceChildren();
+    showVerdict("unknown", "Nothing has been compared yet");
     return;
   }
+  const reason = obstacle(pasted);
   try {
-    const candidates = readings(pasted);
-    const digests = await Promise.all(candidates.map(({ text }) => textDigest(text)));
+    const part = reason === "" ? await found(pasted, record.textDigest) : null;
     if (turn !== newest) return;
-    const match = candidates[digests.indexOf(expected)];
-    if (match) {
-      showResult(match.tone, match.message);
+    match.replaceChildren();
+    if (reason !== "") {
+      showVerdict("unknown", cannotTell, { explanation: reason });
+    } else if (part === null) {
+      showVerdict("bad", "This is not the text that was signed", {
+        explanation:
+          "A letter, a number or a sign differs, or something is missing or was added. Do not rely on this message. If you copied a part of it only, paste the whole, from 『 down to the link.",
+      });
     } else {
-      showResult("bad", "✗ This is not the text that was signed. A word, a number or a sign differs, or something is missing.");
+      const shown = {
+        text: pieces(part.text),
+        identity: pieces(record.identity.normalize("NFC")),
+        scope: pieces(record.scope.normalize("NFC")),
+      };
+      const reasons = [...reasonsInRecord(shown.identity, shown.scope), ...reasonsInPaste(part, shown.text)];
+      if (reasons.length > 0) {
+        showVerdict("caution", "The words match, but …", { reasons });
+      } else {
+        const isAlone = part.below.trim() === "";
+        showVerdict("good", "The words match", {
+          explanation:
+            "This text was signed with the key of a registered device, and the record is sound." +
+            (isAlone ? " You did not paste the lines below it, so they were not compared." : ""),
+        });
+      }
+      showMatch(part, shown);
     }
   } catch (error) {
-    if (turn === newest) showResult("bad", error.message);
+    if (turn === newest) showVerdict("unknown", cannotTell, { explanation: error.message });
   }
 }
 
-field.addEventListener("input", compare);
-// A browser that brings a form back after a reload fires no event.
-compare();
+if (record) {
+  document.getElementById("paste").hidden = false;
+  field.addEventListener("input", compare);
+  // A browser that brings a form back after a reload fires no event.
+  compare();
+}

@@ -80,7 +80,7 @@ class Signing(Story):
         editor = self.sign_in_editor()
         link = self.assert_signed(editor)
         page = self.desktop.run("curl", "-sS", "--fail", link)
-        self.assertIn("Signature verified", page)
+        self.assertIn("&quot;kind&quot;:&quot;device&quot;", page)
         self.desktop.wait_for_notification("✅ Signature Generated!")
         self.assertIn("text/html", self.desktop.selection(target="TARGETS"))
 

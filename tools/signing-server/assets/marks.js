@@ -1,0 +1,186 @@
+// Characters that do not show what they are, and a text in which each of them is a visible mark.
+// Every function takes time in proportion to the text.
+
+import { blank, replacements } from "./canonical.js";
+
+const lineBreak = /[\n-\r\u0085\u2028\u2029]/;
+
+// All that may need a mark; where it stands decides for some.
+const suspect = /[<>\u1680\u201A\u201E\u2800\uFFF9-\uFFFB\p{Cc}\p{Default_Ignorable_Code_Point}]/u;
+const direction = /[\u061C\u200E\u200F\u202A-\u202E\u2066-\u2069]/;
+
+const letterOrMark = /[\p{L}\p{M}]/u;
+const joiningScript =
+  /[\p{scx=Arab}\p{scx=Syrc}\p{scx=Mand}\p{scx=Nkoo}\p{scx=Mong}\p{scx=Phag}\p{scx=Deva}\p{scx=Beng}\p{scx=Guru}\p{scx=Gujr}\p{scx=Orya}\p{scx=Taml}\p{scx=Telu}\p{scx=Knda}\p{scx=Mlym}\p{scx=Sinh}\p{scx=Khmr}\p{scx=Mymr}\p{scx=Tibt}]/u;
+const unspacedScript = /[\p{scx=Thai}\p{scx=Laoo}\p{scx=Khmr}\p{scx=Mymr}\p{scx=Tibt}]/u;
+const picture = /\p{Extended_Pictographic}/u;
+const endOfPicture = /[\p{Extended_Pictographic}\p{Emoji_Modifier}\uFE0F]/u;
+const hasVariants = /[\p{Script=Han}\p{Script=Myanmar}\p{Script=Phags_Pa}\p{Sm}]/u;
+const wordStart = /[\p{Z}\s([{/\u2014\u2013-]/u;
+
+const names = new Map([
+  [0x00ad, "soft hyphen"],
+  [0x034f, "grapheme joiner"],
+  [0x061c, "Arabic letter mark"],
+  [0x1680, "Ogham space"],
+  [0x200b, "zero-width space"],
+  [0x200c, "zero-width non-joiner"],
+  [0x200d, "zero-width joiner"],
+  [0x200e, "left-to-right mark"],
+  [0x200f, "right-to-left mark"],
+  [0x201a, "low quotation mark"],
+  [0x201e, "low quotation mark"],
+  [0x202a, "left-to-right embedding"],
+  [0x202b, "right-to-left embedding"],
+  [0x202c, "end of a direction"],
+  [0x202d, "left-to-right override"],
+  [0x202e, "right-to-left override"],
+  [0x2060, "word joiner"],
+  [0x2066, "left-to-right isolate"],
+  [0x2067, "right-to-left isolate"],
+  [0x2068, "isolate"],
+  [0x2069, "end of an isolate"],
+  [0xfeff, "zero-width no-break space"],
+]);
+
+function codeOf(character) {
+  return `U+${character.codePointAt(0).toString(16).toUpperCase().padStart(4, "0")}`;
+}
+
+// "U+00AD (soft hyphen)"; a sign that can be seen stands for itself.
+export function nameOf(character) {
+  if (character === "<" || character === ">") return character;
+  const name = names.get(character.codePointAt(0));
+  return name ? `${codeOf(character)} (${name})` : codeOf(character);
+}
+
+const isTag = (character) => character >= "\u{E0020}" && character <= "\u{E007F}";
+
+// The flags of England, Scotland and Wales are a black flag with up to seven tags.
+function isFlagTag(characters, index) {
+  for (let back = 1; back <= 7; ++back) {
+    const before = characters[index - back] ?? "";
+    if (before === "\u{1F3F4}") return true;
+    if (!isTag(before)) return false;
+  }
+  return false;
+}
+
+const isJoining = (character) => letterOrMark.test(character) && joiningScript.test(character);
+
+function isInPlace(characters, index) {
+  const character = characters[index];
+  const before = characters[index - 1] ?? "";
+  const after = characters[index + 1] ?? "";
+  const code = character.codePointAt(0);
+  switch (code) {
+    case 0x201a:
+    case 0x201e:  // as German opens a quotation; next to a digit it passes for a comma
+      return (before === "" || wordStart.test(before)) && /\p{L}/u.test(after);
+    case 0x200b:
+      return unspacedScript.test(before) && unspacedScript.test(after);
+    case 0x200d:
+      if (endOfPicture.test(before) && picture.test(after)) return true;
+      return isJoining(before) && !/\p{N}/u.test(after);
+    case 0x200c:
+      return isJoining(before) && !/\p{N}/u.test(after);
+    case 0xfe0e:
+    case 0xfe0f:
+      return picture.test(before) || (/[0-9#*]/.test(before) && after === "\u20E3");
+    default:
+      if ((code >= 0xfe00 && code <= 0xfe0d) || (code >= 0xe0100 && code <= 0xe01ef)) return hasVariants.test(before);
+      if (code >= 0x180b && code <= 0x180f) return /\p{Script=Mongolian}/u.test(before);
+      return isTag(character) && isFlagTag(characters, index);
+  }
+}
+
+// What is wrong with a character where it stands: null for nothing, else "direction" (it turns the
+// reading direction around), "bracket" (visible, but not signed), "comma" (a quotation mark that
+// looks like one), "dash" (a blank that is drawn as one) or "hidden".
+function faultAt(characters, index) {
+  const character = characters[index];
+  if (!suspect.test(character)) return null;
+  if (character === "<" || character === ">") return "bracket";
+  if (character === "\u1680") return "dash";
+  if (blank.test(character)) return null;
+  if (direction.test(character)) return "direction";
+  if (isInPlace(characters, index)) return null;
+  return character === "\u201A" || character === "\u201E" ? "comma" : "hidden";
+}
+
+// The text in pieces, each { text } or { text, fault, character, count }: typographic signs in the
+// form that is signed, blanks as one space or up to two line breaks, and a label for what has a
+// fault. `text` is in NFC.
+export function pieces(text) {
+  const characters = Array.from(text);
+  const result = [];
+  let plain = "";
+  let breaks = 0;
+  let hasBlank = false;
+  const flush = () => {
+    if (plain !== "") result.push({ text: plain });
+    plain = "";
+  };
+  for (let index = 0; index < characters.length; ++index) {
+    const character = characters[index];
+    const fault = faultAt(characters, index);
+    if (!fault && blank.test(character)) {
+      hasBlank = true;
+      if (lineBreak.test(character)) ++breaks;
+      continue;
+    }
+    if (hasBlank && (plain !== "" || result.length > 0)) plain += "\n".repeat(Math.min(breaks, 2)) || " ";
+    const isBesideLast = !hasBlank;
+    hasBlank = false;
+    breaks = 0;
+    if (!fault) {
+      plain += replacements.get(character) ?? character;
+      continue;
+    }
+    const last = result.at(-1);
+    if (plain === "" && isBesideLast && last?.character === character) {
+      ++last.count;
+      continue;
+    }
+    flush();
+    const label = fault === "bracket" ? character : (replacements.get(character) ?? codeOf(character));
+    result.push({ text: label, fault, character, count: 1 });
+  }
+  flush();
+  return result;
+}
+
+// More marks than a reader looks at would only make the browser slow.
+const mostMarks = 500;
+
+// Shows the pieces in an element, up to about `most` characters: nothing in them can change how the
+// rest is shown. Returns how many characters were left out.
+export function show(element, shown, most = Infinity) {
+  element.replaceChildren();
+  let marks = 0;
+  let left = most;
+  let leftOut = 0;
+  for (const { text, fault, character, count } of shown) {
+    if (left <= 0) {
+      leftOut += text.length;
+    } else if (!fault) {
+      // Never half a character.
+      const end = text.codePointAt(left - 1) > 0xffff ? left + 1 : left;
+      element.append(text.slice(0, end));
+      leftOut += Math.max(text.length - end, 0);
+    } else {
+      const label = count > 1 ? `${text}×${count}` : text;
+      if (++marks > mostMarks) {
+        element.append(`[${label}]`);
+      } else {
+        const mark = document.createElement("span");
+        mark.className = "mark";
+        mark.title = nameOf(character);
+        mark.textContent = label;
+        element.append(mark);
+      }
+    }
+    left -= text.length;
+  }
+  return leftOut;
+}

@@ -9,6 +9,7 @@
 
 #include "PageFixture.h"
 #include "Quillseal/CryptoManager.h"
+#include "Quillseal/SignedBlock.h"
 #include "RandomText.h"
 #include "SignatureCheck.h"
 #include "TestDevice.h"
@@ -129,7 +130,8 @@ for (const { id, paste } of await (await fetch("/test/cases.json")).json()) {
     before,
     tone: document.getElementById("result").classList[1],
     verdict: text(),
-    shown: document.getElementById("match").innerText,
+    shown: document.getElementById("match").innerText +
+      `gaps ${Array.from(document.querySelectorAll(".gap"), ({ previousSibling: { data } }) => data.at(-1))}`,
     page: document.querySelector("main").innerText,
     images: document.images.length,
   })));
@@ -214,6 +216,7 @@ TEST_F(VerifyPageTest, IsGreenForHonestPastes) {
       {text, replacedAll(block(text), " ", "\u2028"), green},
       {"Line one\n\n\n\n\n\nline two", block("Line one\nline\u3000two"), green},
       {"a 1,250.00", block("a\n\n\n\n\n\n\n\n1,250.00"), green, {}, {"a\n\n1,250.00"}},
+      {"5 1000 EUR", block("51 000 EUR"), green, {}, {"may have stood elsewhere", "gaps 1"}},
       // typographic signs, composed and not
       {"Don't say \"no\" - wait...",
        block("Don’t say “no” – wait…"),
@@ -222,7 +225,7 @@ TEST_F(VerifyPageTest, IsGreenForHonestPastes) {
        {"Don't say \"no\" - wait..."}},
       {"Er sagte \"Halt\" und 'so'.", block("Er sagte „Halt“ und ‚so‘."), green},
       {"Das macht 1'250 Franken", block("Das macht 1’250 Franken"), green, {}, {"1'250"}},
-      {"Il doit 1 250 €", block("Il doit 1\u202f250\u00a0€"), green, {}, {"1 250 €"}},
+      {"Il doit 1 250 €", block("Il doit 1\u202f250\u00a0€"), green, {}, {"1 250 €", "gaps 1"}},
       {"Zoë café Å", block("Zoe\u0308 cafe\u0301 \u212b"), green},
       // joiners and selectors where they belong
       {"می\u200cخواهم کتاب\u200cها", block("می\u200cخواهم کتاب\u200cها"), green},
@@ -260,6 +263,44 @@ TEST_F(VerifyPageTest, IsGreenForHonestPastes) {
        {},
        [](Signature& record) { record.scope = ""; }},
   });
+}
+
+/// The block that the agent pastes, in both of its forms, as a browser shows and copies it.
+TEST_F(VerifyPageTest, IsGreenForTheAgentsOwnBlock) {
+  const std::string id = recorded({.base = text});
+  const std::string server = front_->origin();
+  const SignedBlock::Fields fields{.signatureId = id,
+                                   .text = text,
+                                   .html = std::nullopt,
+                                   .issued = "2026-01-01",
+                                   .scope = "Email Message (Writer)",
+                                   .server = server};
+  front_->files["/test/cases.json"] =
+      json{SignedBlock::plainText(fields), SignedBlock::htmlDocument(fields)}.dump();
+  front_->files["/test/act.js"] = R"js(
+import { report, until } from "/test/help.js";
+const [plain, html] = await (await fetch("/test/cases.json")).json();
+const mail = document.createElement("div");
+mail.innerHTML = html;
+document.body.append(mail);
+getSelection().selectAllChildren(mail);
+const copied = getSelection().toString();
+mail.remove();
+const result = document.getElementById("result");
+const field = document.getElementById("text");
+for (const paste of [plain, copied]) {
+  field.value = "";
+  field.dispatchEvent(new Event("input"));
+  field.value = paste;
+  field.dispatchEvent(new Event("input"));
+  await until(() => !result.textContent.includes("Nothing"));
+  report(result.innerText.replaceAll("\n", " "));
+}
+)js";
+  const std::string verdict =
+      "The words match  This text was signed with the key of a registered device, and the record "
+      "is sound.";
+  EXPECT_THAT(reportAt(linkTo(id)), ::testing::ElementsAre(verdict, verdict));
 }
 
 TEST_F(VerifyPageTest, IsNeverGreenForHiddenDirections) {
@@ -333,6 +374,7 @@ TEST_F(VerifyPageTest, NamesSignsThatAreNotSignedOrNotSeen) {
       {"Pay 1,250", block("Pay 1,2\u200d50"), amber, {"U+200D"}},
       {"Pay 1,250", block("Pay 1,2\u200c50"), amber, {"U+200C"}},
       {"۱۲۵۰", block("۱۲\u200c۵۰"), amber, {"U+200C"}},
+      {"๑๒๕๐", block("๑๒\u200b๕๐"), amber, {"U+200B"}},
       {"not able", block("not\u200cable"), amber, {"U+200C"}},
       {"👍👍", block("👍\u200b👍"), amber, {"U+200B"}},
       {"Pay 1,250", block("Pay 1,\u034f250"), amber, {"U+034F (grapheme joiner)"}},

@@ -16,6 +16,7 @@ const unspacedScript = /[\p{scx=Thai}\p{scx=Laoo}\p{scx=Khmr}\p{scx=Mymr}\p{scx=
 const picture = /\p{Extended_Pictographic}/u;
 const endOfPicture = /[\p{Extended_Pictographic}\p{Emoji_Modifier}\uFE0F]/u;
 const hasVariants = /[\p{Script=Han}\p{Script=Myanmar}\p{Script=Phags_Pa}\p{Sm}]/u;
+const digit = /\p{Nd}$/u;
 const wordStart = /[\p{Z}\s([{/\u2014\u2013-]/u;
 
 const names = new Map([
@@ -66,6 +67,7 @@ function isFlagTag(characters, index) {
   return false;
 }
 
+const isUnspaced = (character) => letterOrMark.test(character) && unspacedScript.test(character);
 const isJoining = (character) => letterOrMark.test(character) && joiningScript.test(character);
 
 function isInPlace(characters, index) {
@@ -78,7 +80,7 @@ function isInPlace(characters, index) {
     case 0x201e:  // as German opens a quotation; next to a digit it passes for a comma
       return (before === "" || wordStart.test(before)) && /\p{L}/u.test(after);
     case 0x200b:
-      return unspacedScript.test(before) && unspacedScript.test(after);
+      return isUnspaced(before) && isUnspaced(after);
     case 0x200d:
       if (endOfPicture.test(before) && picture.test(after)) return true;
       return isJoining(before) && !/\p{N}/u.test(after);
@@ -108,9 +110,10 @@ function faultAt(characters, index) {
   return character === "\u201A" || character === "\u201E" ? "comma" : "hidden";
 }
 
-// The text in pieces, each { text } or { text, fault, character, count }: typographic signs in the
-// form that is signed, blanks as one space or up to two line breaks, and a label for what has a
-// fault. `text` is in NFC.
+// The text in pieces: { text } with typographic signs in the form that is signed, and blanks as one
+// space or up to two line breaks; { text, isGap } for a space between two digits, which would make
+// other numbers elsewhere; { text, fault, character, count } with a label for what has a fault.
+// `text` is in NFC.
 export function pieces(text) {
   const characters = Array.from(text);
   const result = [];
@@ -129,7 +132,12 @@ export function pieces(text) {
       if (lineBreak.test(character)) ++breaks;
       continue;
     }
-    if (hasBlank && (plain !== "" || result.length > 0)) plain += "\n".repeat(Math.min(breaks, 2)) || " ";
+    if (hasBlank && breaks === 0 && digit.test(character) && digit.test(plain.slice(-2))) {
+      flush();
+      result.push({ text: " ", isGap: true });
+    } else if (hasBlank && (plain !== "" || result.length > 0)) {
+      plain += "\n".repeat(Math.min(breaks, 2)) || " ";
+    }
     const isBesideLast = !hasBlank;
     hasBlank = false;
     breaks = 0;
@@ -160,25 +168,26 @@ export function show(element, shown, most = Infinity) {
   let marks = 0;
   let left = most;
   let leftOut = 0;
-  for (const { text, fault, character, count } of shown) {
+  const appendSpan = (className, label, title = "") => {
+    const span = document.createElement("span");
+    span.className = className;
+    span.title = title;
+    span.textContent = label;
+    element.append(span);
+  };
+  for (const { text, isGap, fault, character, count } of shown) {
     if (left <= 0) {
       leftOut += text.length;
-    } else if (!fault) {
+    } else if ((isGap || fault) && ++marks <= mostMarks) {
+      if (isGap) appendSpan("gap", text);
+      else appendSpan("mark", count > 1 ? `${text}×${count}` : text, nameOf(character));
+    } else if (fault) {
+      element.append(`[${text}]`);
+    } else {
       // Never half a character.
       const end = text.codePointAt(left - 1) > 0xffff ? left + 1 : left;
       element.append(text.slice(0, end));
       leftOut += Math.max(text.length - end, 0);
-    } else {
-      const label = count > 1 ? `${text}×${count}` : text;
-      if (++marks > mostMarks) {
-        element.append(`[${label}]`);
-      } else {
-        const mark = document.createElement("span");
-        mark.className = "mark";
-        mark.title = nameOf(character);
-        mark.textContent = label;
-        element.append(mark);
-      }
     }
     left -= text.length;
   }

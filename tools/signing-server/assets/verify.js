@@ -64,7 +64,7 @@ function namesOf(faulty) {
 const faults = [
   ["direction", (names) =>
     `It holds hidden signs that turn the reading direction around: ${names}. Your mail may show amounts, dates or names in another order than they were signed.`],
-  ["bracket", (names) => `These signs are not part of what was signed, so anyone may have added them: ${names}`],
+  ["bracket", (names) => `These signs are not part of what was signed, so anyone may have added or removed them: ${names}`],
   ["comma", (names) => `A quotation mark in it looks like a comma: ${names}.`],
   ["dash", (names) => `A space in it may be shown as a dash: ${names}.`],
   ["hidden", (names) => `It holds hidden characters: ${names}.`],
@@ -118,6 +118,10 @@ function showMatch({ canonical }, shown) {
   showLong(place("text"), place("text-more"), shown.text);
   const [characters, more] = ["characters", "characters-more"].map(place);
   content.querySelector("details").addEventListener("toggle", () => showLong(characters, more, pieces(canonical)), { once: true });
+  place("legend").textContent = [
+    shown.text.some(({ fault }) => fault) ? "What stands in a frame is hidden in a mail, looks like something else or is not signed." : "",
+    shown.text.some(({ isGap }) => isGap) ? "A space between two digits is marked: it may have stood elsewhere." : "",
+  ].join(" ").trim();
   for (const name of ["identity", "scope"]) show(place(name), shown[name]);
   place("identityNote").textContent = shown.identity.length > 0 ? named : nameless;
   match.replaceChildren(content);

@@ -298,8 +298,8 @@ for (const paste of [plain, copied]) {
 }
 )js";
   const std::string verdict =
-      "The words match  This text was signed with the key of a registered device, and the record "
-      "is sound.";
+      "The words match  This text was signed with the key of a registered device. The record is "
+      "unchanged and has not expired.";
   EXPECT_THAT(reportAt(linkTo(id)), ::testing::ElementsAre(verdict, verdict));
 }
 
@@ -619,6 +619,25 @@ TEST_F(VerifyPageTest, SaysNothingBeforeThePaste) {
   }
 }
 
+TEST_F(VerifyPageTest, ShowsAllOfALongTextWhenAsked) {
+  const std::string base = std::string(19'999, 'a') + "👩" + std::string(1'000, 'b');
+  front_->files["/test/act.js"] = "const text = " + json(base).dump() + R"js(;
+import { report, until } from "/test/help.js";
+const field = document.getElementById("text");
+field.value = text;
+field.dispatchEvent(new Event("input"));
+await until(() => document.querySelector("[data-shows=text]"));
+const shown = document.querySelector("[data-shows=text]");
+const more = document.querySelector("[data-shows=text-more]");
+report(`${more.textContent} ${shown.textContent === text.slice(0, 20001)}`);
+more.click();
+report(`${more.hidden} ${shown.textContent === text}`);
+)js";
+  EXPECT_THAT(reportAt(linkTo(recorded({.base = base}))),
+              ::testing::ElementsAre("Show the rest of the text (1,000 more characters) true",
+                                     "true true"));
+}
+
 TEST_F(VerifyPageTest, AnswersSoonWhateverIsPasted) {
   constexpr int longest = 200'000;
   const std::vector<std::string> units{"『",
@@ -692,8 +711,6 @@ for (const { id, paste, unit, count } of await (await fetch("/test/cases.json"))
 }
 )js";
   const std::vector<std::string> report = reportAt(linkTo(empty), 100'000);
-  for (const std::string& line : report)
-    std::cout << line << '\n';
   ASSERT_EQ(report.size(), list.size());
   for (std::size_t i = 0; i < timed; ++i) {
     // A second, and what a busy machine adds; where time grows with the square, it is minutes.

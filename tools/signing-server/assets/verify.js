@@ -160,7 +160,7 @@ async function compare() {
         const isAlone = part.below.trim() === "";
         showVerdict("good", "The words match", {
           explanation:
-            "This text was signed with the key of a registered device, and the record is sound." +
+            "This text was signed with the key of a registered device. The record is unchanged and has not expired." +
             (isAlone ? " You did not paste the lines below it, so they were not compared." : ""),
         });
       }

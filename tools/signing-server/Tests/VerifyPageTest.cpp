@@ -347,6 +347,7 @@ TEST_F(VerifyPageTest, NamesSignsThatAreNotSignedOrNotSeen) {
       {"Up 12 percent", block("Up >12 percent"), amber, {"not part of what was signed", ">"}},
       {"Up 12 percent", "Up >12 percent", amber, {">"}},
       {">12 percent", "> 12 percent", amber, {">"}},
+      {"12 percent 『net』", "> 12 percent 『net』", amber, {">"}},
       {"Ask <Ada>", block("Ask <Ada>"), amber, {"<, >"}},
       {text, "> 『Pay 1,250.00 EUR\nto Ada by\n14 March.』", amber, {"above the text"}},
       {text, quoted("『Pay > 1,250.00 EUR\nto Ada by\n14 March.』", "> "), amber, {">"}},

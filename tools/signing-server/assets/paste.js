@@ -34,9 +34,7 @@ function unquoted(text) {
   };
   const written = lines.filter((line) => line.trim() !== "");
   const depth = written.reduce((least, line) => Math.min(least, depthOf(line)), Infinity);
-  // "> 12 percent" on a line of its own is more likely "more than".
-  const isOneSign = written.length === 1 && !written[0].includes("『");
-  if (depth === 0 || depth === Infinity || isOneSign) return text;
+  if (depth === 0 || depth === Infinity) return text;
   const without = (line) => {
     let left = depth;
     let index = 0;
@@ -45,6 +43,8 @@ function unquoted(text) {
     }
     return line.slice(index);
   };
+  // "> 12 percent" on a line of its own is more likely "more than".
+  if (written.length === 1 && !without(written[0]).trim().startsWith("『")) return text;
   return lines.map(without).join("\n");
 }
 

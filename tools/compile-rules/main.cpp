@@ -1,58 +1,115 @@
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <exception>
 #include <fstream>
 #include <iostream>
+#include <iterator>
 #include <span>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
+#include "PatternCompiler/ReadingCompiler.h"
 #include "PatternCompiler/RulePatterns.h"
 #include "PatternCompiler/TableCompiler.h"
 #include "Quillseal/StoredTables.h"
 
 namespace {
 
-/// The tables as a string literal: compilers read those many times faster than lists of numbers.
-void writeSource(std::ostream& out, std::span<const std::byte> tables) {
-  out << "#include \"Quillseal/CompiledRules.h\"\n\n"
-         "namespace quillseal::screening {\nnamespace {\n\n"
-         "alignas("
-      << quillseal::screening::tableAlignment << ") constexpr unsigned char tables[] =";
+/// Bytes as a string literal: compilers read those many times faster than lists of numbers.
+void writeLiteral(std::ostream& out, std::span<const std::byte> bytes) {
   constexpr std::size_t bytesOfLine = 32;
-  for (std::size_t start = 0; start < tables.size(); start += bytesOfLine) {
+  for (std::size_t start = 0; start < bytes.size(); start += bytesOfLine) {
     out << "\n    \"";
-    for (const std::byte byte :
-         tables.subspan(start, std::min(bytesOfLine, tables.size() - start))) {
+    for (const std::byte byte : bytes.subspan(start, std::min(bytesOfLine, bytes.size() - start))) {
       const auto value = std::to_integer<unsigned>(byte);
       out << '\\' << value / 64 << value / 8 % 8 << value % 8;
     }
     out << '"';
   }
+}
+
+void writeRules(std::ostream& out, std::span<const std::byte> tables) {
+  out << "#include \"Quillseal/CompiledRules.h\"\n\n"
+         "namespace quillseal::screening {\nnamespace {\n\n"
+         "alignas("
+      << quillseal::screening::tableAlignment << ") constexpr unsigned char tables[] =";
+  writeLiteral(out, tables);
   out << ";\n\n}  // namespace\n\n"
          "std::span<const std::byte> compiledRules() {\n"
          "  return std::as_bytes(std::span(tables)).first<sizeof tables - 1>();\n"
          "}\n\n}  // namespace quillseal::screening\n";
 }
 
+template <typename Numbers>
+void writeArray(std::ostream& out, std::string_view type, std::string_view name,
+                const Numbers& numbers) {
+  constexpr std::size_t numbersOfLine = 16;
+  out << "constexpr " << type << ' ' << name << "[] = {";
+  for (std::size_t i = 0; i < numbers.size(); ++i)
+    out << (i % numbersOfLine == 0 ? "\n    " : " ") << numbers[i] << ',';
+  out << "};\n\n";
+}
+
+void writeReadings(std::ostream& out, const quillseal::reading::CompiledTables& tables) {
+  out << "#include \"Quillseal/ReadingTables.h\"\n\n"
+         "namespace quillseal::reading {\nnamespace {\n\n";
+  writeArray(out, "std::uint16_t", "blocks", tables.blocks);
+  writeArray(out, "std::uint16_t", "readings", tables.readings);
+  writeArray(out, "std::uint32_t", "words", tables.words);
+  out << "constexpr Reading distinctReadings[] = {";
+  for (const quillseal::reading::Reading& reading : tables.distinctReadings) {
+    out << "\n    {static_cast<Reading::Kind>(" << static_cast<int>(reading.kind) << "), {";
+    for (const char character : reading.text)
+      out << static_cast<int>(character) << ", ";
+    out << "}},";
+  }
+  out << "};\n\n}  // namespace\n\n"
+         "const Tables& tables() {\n"
+         "  static constexpr Tables all{blocks, readings, distinctReadings, words};\n"
+         "  return all;\n"
+         "}\n\n}  // namespace quillseal::reading\n";
+}
+
+template <typename Write>
+void writeFile(const std::string& path, Write write) {
+  std::ofstream file(path);
+  write(file);
+  file.close();
+  if (!file) throw std::runtime_error("cannot write " + path);
+}
+
+std::string contentsOf(const std::string& path) {
+  std::ifstream file(path);
+  std::string contents{std::istreambuf_iterator<char>(file), {}};
+  if (!file) throw std::runtime_error("cannot read " + path);
+  return contents;
+}
+
+void compile(const std::string& commonWords, const std::string& rulesPath,
+             const std::string& readingsPath) {
+  const auto patterns = quillseal::screening::rulePatterns();
+  const auto rules = quillseal::screening::compilePatterns(patterns);
+  for (const auto& problem : rules.problems)
+    std::cerr << "warning: pattern " << problem.pattern << " is left out: " << problem.reason
+              << '\n';
+  writeFile(rulesPath, [&](std::ostream& out) { writeRules(out, rules.tables); });
+  const auto readings = quillseal::reading::compileReadings(patterns, contentsOf(commonWords));
+  writeFile(readingsPath, [&](std::ostream& out) { writeReadings(out, readings); });
+}
+
 }  // namespace
 
-/// Writes the tables of all rules as the C++ source named on the command line.
+/// Writes two C++ sources: the tables of all rules, and the tables by which text in disguise is
+/// read. Its own input is a list of common words.
 int main(int argc, char** argv) {
-  if (argc != 2) {
-    std::cerr << "usage: quillseal-compile-rules FILE\n";
+  if (argc != 4) {
+    std::cerr << "usage: quillseal-compile-rules WORDS RULES READINGS\n";
     return 2;
   }
   try {
-    const auto compiled =
-        quillseal::screening::compilePatterns(quillseal::screening::rulePatterns());
-    for (const auto& problem : compiled.problems)
-      std::cerr << "warning: pattern " << problem.pattern << " is left out: " << problem.reason
-                << '\n';
-    std::ofstream file(argv[1]);
-    writeSource(file, compiled.tables);
-    file.close();
-    if (!file) throw std::runtime_error(std::string("cannot write ") + argv[1]);
+    compile(argv[1], argv[2], argv[3]);
   } catch (const std::exception& error) {
     std::cerr << "quillseal-compile-rules: " << error.what() << '\n';
     return 1;

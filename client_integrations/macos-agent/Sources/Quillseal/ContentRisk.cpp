@@ -3,12 +3,14 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <map>
 #include <optional>
 #include <set>
 #include <utility>
 
 #include "Quillseal/CompiledRules.h"
 #include "Quillseal/ContentRules.h"
+#include "Quillseal/ReadableText.h"
 #include "Quillseal/ScreeningEngine.h"
 #include "Quillseal/UnicodeText.h"
 
@@ -73,6 +75,24 @@ struct Found {
   Finding finding;
   Hit hit;
 };
+
+Screening assess(std::vector<Found> found, std::uint64_t steps) {
+  std::stable_sort(found.begin(), found.end(), [](const Found& a, const Found& b) {
+    return a.finding.points > b.finding.points;
+  });
+  Screening result;
+  result.steps = steps;
+  Assessment& assessment = result.assessment;
+  for (Found& one : found) {
+    assessment.score += one.finding.points;
+    assessment.isBlocked = assessment.isBlocked || one.finding.isBlocking;
+    assessment.findings.push_back(std::move(one.finding));
+    result.hits.push_back(one.hit);
+  }
+  assessment.isBlocked = assessment.isBlocked || assessment.score >= refusalScore;
+  assessment.shouldWarn = !assessment.isBlocked && assessment.score >= warningScore;
+  return result;
+}
 
 /// What a match counts for, given the quotations of a report: nothing when it only warns of what is
 /// quoted.
@@ -221,20 +241,34 @@ Screening screen(std::string_view text) {
   for (const screening::PatternMatch& match : matches)
     if (std::optional<Found> weighed = weigh(match, quotations))
       found.push_back(*std::move(weighed));
-  std::stable_sort(found.begin(), found.end(), [](const Found& a, const Found& b) {
-    return a.finding.points > b.finding.points;
-  });
+  return assess(std::move(found), result.steps);
+}
 
-  Assessment& assessment = result.assessment;
-  for (Found& one : found) {
-    assessment.score += one.finding.points;
-    assessment.isBlocked = assessment.isBlocked || one.finding.isBlocking;
-    assessment.findings.push_back(std::move(one.finding));
-    result.hits.push_back(one.hit);
+std::optional<Screening> screenAsRead(std::string_view text, const Screening& asWritten) {
+  const ReadableText readable(screenedPart(text));
+  if (readable.isAsWritten()) return std::nullopt;
+  const Screening asRead = screen(readable.text());
+  std::map<std::string_view, Found> byRule;
+  const auto add = [&](const Screening& screening, std::size_t i, Hit hit) {
+    Found found{.finding = screening.assessment.findings[i], .hit = hit};
+    const auto [other, isNew] = byRule.try_emplace(hit.id, found);
+    if (!isNew && other->second.finding.points < found.finding.points)
+      other->second = std::move(found);
+  };
+  for (std::size_t i = 0; i < asWritten.hits.size(); ++i)
+    add(asWritten, i, asWritten.hits[i]);
+  for (std::size_t i = 0; i < asRead.hits.size(); ++i) {
+    Hit hit = asRead.hits[i];
+    const auto [start, end] = readable.written({.start = hit.start, .end = hit.end});
+    hit.start = start;
+    hit.end = end;
+    add(asRead, i, hit);
   }
-  assessment.isBlocked = assessment.isBlocked || assessment.score >= refusalScore;
-  assessment.shouldWarn = !assessment.isBlocked && assessment.score >= warningScore;
-  return result;
+  std::vector<Found> found;
+  for (const ContentRules::Rule& rule : ContentRules::all)
+    if (const auto one = byRule.find(rule.id); one != byRule.end())
+      found.push_back(std::move(one->second));
+  return assess(std::move(found), asRead.steps);
 }
 
 std::vector<std::string_view> disabledRules() {

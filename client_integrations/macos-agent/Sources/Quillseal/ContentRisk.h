@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -56,6 +57,12 @@ struct Screening {
 };
 
 [[nodiscard]] Screening screen(std::string_view text);
+
+/// What the rules say of the text as a person reads it (`ReadableText`), given what they say of it
+/// as it is written: a rule that hits in either counts, once and with the points that are more.
+/// Hits are bytes of `text`. Nothing when the text reads as it is written.
+[[nodiscard]] std::optional<Screening> screenAsRead(std::string_view text,
+                                                    const Screening& asWritten);
 
 /// The ids of the rules whose pattern did not compile and which are left out. The program logs each
 /// at its start: "[risk] rule ID failed to compile and is disabled".

@@ -1,0 +1,1006 @@
+#include "Quillseal/ReadingSteps.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include <unicode/unorm2.h>
+
+#include "Quillseal/IcuStatus.h"
+
+namespace quillseal::reading {
+namespace {
+
+using Kind = Reading::Kind;
+
+// ---- Cells
+
+bool isLatin(const Cell& cell) {
+  return cell.kind == Kind::letter || cell.kind == Kind::accented;
+}
+
+bool isLetter(const Cell& cell) {
+  return isLatin(cell) || cell.kind == Kind::twin || cell.kind == Kind::foreign ||
+         cell.kind == Kind::mark;
+}
+
+bool isAlphanumeric(const Cell& cell) {
+  return isLetter(cell) || cell.kind == Kind::digit;
+}
+
+bool isSpace(const Cell& cell) {
+  return cell.kind == Kind::blank || cell.kind == Kind::lineBreak;
+}
+
+bool isUpper(const Cell& cell) {
+  return (cell.scalar >= U'A' && cell.scalar <= U'Z') ||
+         (cell.scalar >= U'\u00C0' && cell.scalar <= U'\u00DE' && cell.scalar != U'\u00D7');
+}
+
+void remove(Cell& cell) {
+  cell.kind = Kind::invisible;
+}
+
+void replace(Cell& cell, char32_t scalar) {
+  cell.scalar = scalar;
+  cell.kind = tables().of(scalar).kind;
+}
+
+/// Takes what was removed out of the cells, and puts blanks in.
+void tidy(Cells& cells) {
+  Cells tidied;
+  tidied.reserve(cells.size());
+  for (Cell cell : cells) {
+    if (cell.kind == Kind::invisible) continue;
+    if (cell.isBehindBlank)
+      tidied.push_back(
+          {.scalar = U' ', .start = cell.start, .end = cell.start, .kind = Kind::blank});
+    cell.isBehindBlank = false;
+    tidied.push_back(cell);
+  }
+  cells.swap(tidied);
+}
+
+/// A word in the making, as the table of words has it.
+class Word {
+ public:
+  void add(char32_t scalar) {
+    if ((scalar >= U'A' && scalar <= U'Z') ||
+        (scalar >= U'\u00C0' && scalar <= U'\u00DE' && scalar != U'\u00D7'))
+      scalar += 0x20;
+    if (size_ < letters_.size()) letters_[size_] = static_cast<char>(scalar);
+    isTooMuch_ = isTooMuch_ || scalar >= 0x100 || size_ == letters_.size();
+    ++size_;
+  }
+
+  [[nodiscard]] bool isKnown() const {
+    return !isTooMuch_ && isWord(tables(), {letters_.data(), size_});
+  }
+
+  [[nodiscard]] std::size_t size() const { return size_; }
+
+ private:
+  std::array<char, longestWord> letters_{};
+  std::size_t size_ = 0;
+  bool isTooMuch_ = false;
+};
+
+/// The letter without its marks.
+char32_t plainLetter(const Cell& cell) {
+  return cell.kind == Kind::accented ? static_cast<char32_t>(tables().of(cell.scalar).text[0])
+                                     : cell.scalar;
+}
+
+// ---- Segmenting what was run together
+
+/// Divides letters into known words.
+class Segmenter {
+ public:
+  /// The places behind words, the last one included; empty when it is not made of known words.
+  /// `blanks`, ascending, are the places where a blank was written.
+  const std::vector<std::size_t>& segment(std::string_view letters,
+                                          const std::vector<std::size_t>& blanks = {}) {
+    borders_.clear();
+    const std::size_t size = letters.size();
+    isBlank_.assign(size + 1, 0);
+    for (const std::size_t blank : blanks)
+      isBlank_[blank] = 1;
+    ways_.assign(size + 1, Way{});
+    ways_[0].cost = 0;
+    for (std::size_t start = 0; start < size; ++start) {
+      // A letter that belongs to no word is dear; one word is cheaper than two.
+      relax(start, 1, 30, true);
+      const std::size_t most = std::min(longestWord, size - start);
+      for (std::size_t length = 1; length <= most; ++length) {
+        if (!isWord(tables(), letters.substr(start, length))) continue;
+        constexpr std::array<std::uint32_t, 4> costOfShort{0, 20, 16, 11};
+        relax(start, length, length < costOfShort.size() ? costOfShort[length] : 10, false);
+      }
+    }
+    std::size_t unknown = 0;
+    for (std::size_t end = size; end > 0; end -= ways_[end].length) {
+      borders_.push_back(end);
+      if (ways_[end].isUnknown) ++unknown;
+    }
+    std::reverse(borders_.begin(), borders_.end());
+    constexpr std::size_t knownForOneUnknown = 10;
+    if (unknown * knownForOneUnknown > size) borders_.clear();
+    return borders_;
+  }
+
+ private:
+  struct Way {
+    std::uint32_t cost = UINT32_MAX;
+    std::uint16_t length = 0;
+    bool isUnknown = false;
+  };
+
+  void relax(std::size_t start, std::size_t length, std::uint32_t cost, bool isUnknown) {
+    Way& way = ways_[start + length];
+    // Of two ways that are as good, the one that leaves more blanks where they are.
+    const std::uint32_t total = ways_[start].cost + cost - isBlank_[start + length];
+    if (total <= way.cost) way = {total, static_cast<std::uint16_t>(length), isUnknown};
+  }
+
+  std::vector<Way> ways_;
+  std::vector<std::uint8_t> isBlank_;
+  std::vector<std::size_t> borders_;
+};
+
+// ---- Forms that depend on their neighbours
+
+/// Wide signs beside Latin letters, flags that are letters, and angle brackets within words, which
+/// no digest contains.
+bool readByNeighbours(Cells& cells) {
+  bool isChanged = false;
+  const auto isBeside = [&](std::size_t i) {
+    return (i > 0 && (isLatin(cells[i - 1]) || cells[i - 1].kind == Kind::digit)) ||
+           (i + 1 < cells.size() && (isLatin(cells[i + 1]) || cells[i + 1].kind == Kind::digit));
+  };
+  const auto isAngle = [&](std::size_t i) {
+    return cells[i].scalar == U'<' || cells[i].scalar == U'>';
+  };
+  for (std::size_t i = 0; i < cells.size(); ++i) {
+    if (cells[i].kind == Kind::wideSign && isBeside(i)) {
+      replace(cells[i], static_cast<char32_t>(tables().of(cells[i].scalar).text[0]));
+      isChanged = true;
+    } else if (cells[i].kind == Kind::pictograph) {
+      std::size_t end = i;
+      while (end < cells.size() && cells[end].kind == Kind::pictograph)
+        ++end;
+      const bool isFlag = end - i == 2;
+      for (; i < end; ++i)
+        if (!isFlag)
+          replace(cells[i], static_cast<char32_t>(tables().of(cells[i].scalar).text[0]));
+      isChanged = isChanged || !isFlag;
+      --i;
+    } else if (isAngle(i)) {
+      std::size_t end = i;
+      while (end < cells.size() && isAngle(end))
+        ++end;
+      const bool isWithin =
+          i > 0 && end < cells.size() && isLatin(cells[i - 1]) && isLatin(cells[end]);
+      for (; i < end; ++i)
+        if (isWithin) remove(cells[i]);
+      isChanged = isChanged || isWithin;
+      --i;
+    }
+  }
+  return isChanged;
+}
+
+// ---- Letters of other scripts, and marks
+
+/// How many words are of Latin letters, and how many of others that are like none.
+struct Scripts {
+  std::size_t latin = 0;
+  std::size_t foreign = 0;
+};
+
+/// Reads twins and marks, word by word.
+class LetterReader {
+ public:
+  explicit LetterReader(Cells& cells) : cells_(cells) {}
+
+  bool read() {
+    const Scripts ofText = scriptsOf(0, cells_.size());
+    for (std::size_t start = 0; start < cells_.size();) {
+      std::size_t end = start;
+      while (end < cells_.size() && cells_[end].kind != Kind::lineBreak)
+        ++end;
+      readLine(start, end, ofText);
+      start = end + 1;
+    }
+    return isChanged_;
+  }
+
+ private:
+  [[nodiscard]] std::size_t endOfWord(std::size_t start, std::size_t end) const {
+    while (start < end && isAlphanumeric(cells_[start]))
+      ++start;
+    return start;
+  }
+
+  [[nodiscard]] Scripts scriptsOf(std::size_t start, std::size_t end) const {
+    Scripts scripts;
+    while (start < end) {
+      const std::size_t behind = endOfWord(start, end);
+      bool hasLatin = false;
+      bool hasForeign = false;
+      for (std::size_t i = start; i < behind; ++i) {
+        hasLatin = hasLatin || isLatin(cells_[i]);
+        hasForeign = hasForeign || cells_[i].kind == Kind::foreign;
+      }
+      scripts.latin += hasLatin ? 1 : 0;
+      scripts.foreign += hasForeign ? 1 : 0;
+      start = std::max(behind, start + 1);
+    }
+    return scripts;
+  }
+
+  void readLine(std::size_t start, std::size_t end, const Scripts& ofText) {
+    const Scripts ofLine = scriptsOf(start, end);
+    const bool isLatinLine = ofLine.latin == ofLine.foreign ? ofText.latin >= ofText.foreign
+                                                            : ofLine.latin > ofLine.foreign;
+    while (start < end) {
+      const std::size_t behind = endOfWord(start, end);
+      if (behind > start) readWord(start, behind, isLatinLine);
+      start = std::max(behind, start + 1);
+    }
+  }
+
+  void readWord(std::size_t start, std::size_t end, bool isLatinLine) {
+    bool hasLatin = false;
+    bool hasTwin = false;
+    bool hasForeign = false;
+    for (std::size_t i = start; i < end; ++i) {
+      hasLatin = hasLatin || isLatin(cells_[i]);
+      hasTwin = hasTwin || cells_[i].kind == Kind::twin;
+      hasForeign = hasForeign || cells_[i].kind == Kind::foreign;
+    }
+    if (hasTwin && (hasLatin || (!hasForeign && isLatinLine))) {
+      for (std::size_t i = start; i < end; ++i)
+        if (cells_[i].kind == Kind::twin)
+          replace(cells_[i], static_cast<char32_t>(tables().of(cells_[i].scalar).text[0]));
+      isChanged_ = true;
+    }
+    readMarks(start, end);
+  }
+
+  /// Leaves marks off where that makes a word of what is none, or where they are heaped up.
+  void readMarks(std::size_t start, std::size_t end) {
+    Word marked;
+    Word plain;
+    bool hasMarks = false;
+    bool isHeaped = false;
+    for (std::size_t i = start; i < end; ++i) {
+      const Cell& base = cells_[i];
+      std::size_t marks = 0;
+      while (i + 1 < end && cells_[i + 1].kind == Kind::mark) {
+        ++marks;
+        ++i;
+      }
+      char32_t letter = base.scalar;
+      if (marks > 0 && (isLatin(base) || base.kind == Kind::digit)) {
+        const UChar32 composed =
+            marks == 1 ? unorm2_composePair(composition(), static_cast<UChar32>(base.scalar),
+                                            static_cast<UChar32>(cells_[i].scalar))
+                       : U_SENTINEL;
+        if (composed >= 0) letter = static_cast<char32_t>(composed);
+        isHeaped = isHeaped || composed < 0;
+      }
+      hasMarks = hasMarks || base.kind == Kind::accented || letter != base.scalar;
+      marked.add(letter);
+      plain.add(plainLetter(base));
+    }
+    if (!isHeaped && (!hasMarks || marked.isKnown() || !plain.isKnown())) return;
+    for (std::size_t i = start; i < end; ++i) {
+      Cell& base = cells_[i];
+      if (!isLatin(base) && base.kind != Kind::digit) continue;
+      if (base.kind == Kind::accented) {
+        replace(base, plainLetter(base));
+        isChanged_ = true;
+      }
+      while (i + 1 < end && cells_[i + 1].kind == Kind::mark) {
+        ++i;
+        base.end = cells_[i].end;
+        remove(cells_[i]);
+        isChanged_ = true;
+      }
+    }
+  }
+
+  static const UNormalizer2* composition() {
+    static const UNormalizer2* const instance = [] {
+      UErrorCode status = U_ZERO_ERROR;
+      const UNormalizer2* normalizer = unorm2_getNFCInstance(&status);
+      requireSuccess(status);
+      return normalizer;
+    }();
+    return instance;
+  }
+
+  Cells& cells_;
+  bool isChanged_ = false;
+};
+
+// ---- Letters set apart
+
+/// Joins letters that stand one by one, with the same between all of them.
+class LetterJoiner {
+ public:
+  LetterJoiner(Cells& cells, Segmenter& segmenter) : cells_(cells), segmenter_(segmenter) {}
+
+  bool join() {
+    for (std::size_t i = 0; i + 2 < cells_.size(); ++i) {
+      if (!isUnit(i) || !isBorder(cells_[i + 1]) || (i > 0 && isAlphanumeric(cells_[i - 1])))
+        continue;
+      if (collect(i)) i = joinUnits();
+    }
+    return isChanged_;
+  }
+
+ private:
+  struct Unit {
+    std::size_t at = 0;
+    bool startsWord = false;  ///< behind more blanks than the others
+  };
+
+  /// A letter, or a digit or sign that may stand for one.
+  [[nodiscard]] bool isUnit(std::size_t i) const {
+    const Cell& cell = cells_[i];
+    return isLatin(cell) || cell.kind == Kind::digit || cell.scalar == U'@' || cell.scalar == U'$' ||
+           cell.scalar == U'\u20AC';
+  }
+
+  [[nodiscard]] static bool isBorder(const Cell& cell) {
+    if (cell.kind == Kind::blank || cell.kind == Kind::stop) return true;
+    constexpr std::u32string_view separators =
+        U"-_*/\\~=+,:|^#'\u00B7\u2022\u2024\u2027\u22C5\u30FB\u2013\u2014\u25CF\u2219";
+    return separators.find(cell.scalar) != std::u32string_view::npos;
+  }
+
+  static bool areEqual(const Cell& first, const Cell& second) {
+    return first.scalar == second.scalar ||
+           (first.kind == Kind::blank && second.kind == Kind::blank);
+  }
+
+  /// The cells from `i` on that separate letters; four at most.
+  [[nodiscard]] std::size_t separatorLength(std::size_t i) const {
+    std::size_t length = 0;
+    while (length < 4 && i + length < cells_.size() && isBorder(cells_[i + length]))
+      ++length;
+    return length;
+  }
+
+  [[nodiscard]] bool areBlanks(std::size_t i, std::size_t length) const {
+    for (std::size_t k = 0; k < length; ++k)
+      if (cells_[i + k].kind != Kind::blank) return false;
+    return true;
+  }
+
+  /// Whether two letters or more stand apart from `first` on; notes them.
+  bool collect(std::size_t first) {
+    units_.clear();
+    units_.push_back({.at = first});
+    separator_ = first + 1;
+    separatorLength_ = separatorLength(separator_);
+    areBlanks_ = areBlanks(separator_, separatorLength_);
+    for (;;) {
+      const std::size_t from = units_.back().at + 1;
+      const std::size_t length = separatorLength(from);
+      const std::size_t next = from + length;
+      if (length == 0 || next >= cells_.size() || !isUnit(next)) break;
+      if (next + 1 < cells_.size() && isAlphanumeric(cells_[next + 1])) break;
+      bool isEqual = length == separatorLength_;
+      for (std::size_t k = 0; isEqual && k < length; ++k)
+        isEqual = areEqual(cells_[from + k], cells_[separator_ + k]);
+      const bool isWider = areBlanks_ && length > separatorLength_ && areBlanks(from, length);
+      if (!isEqual && !isWider) break;
+      units_.push_back({.at = next, .startsWord = !isEqual});
+    }
+    return units_.size() > 1;
+  }
+
+  /// Joins what makes words; the cell to go on behind.
+  std::size_t joinUnits() {
+    isJoined_ = false;
+    for (std::size_t start = 0; start < units_.size();) {
+      std::size_t end = start + 1;
+      while (end < units_.size() && !units_[end].startsWord)
+        ++end;
+      joinPiece(start, end);
+      start = end;
+    }
+    // Where nothing was joined, the last may be the first of others.
+    return isJoined_ ? units_.back().at : units_.back().at - 1;
+  }
+
+  void joinPiece(std::size_t start, std::size_t end) {
+    const std::size_t size = end - start;
+    if (size < 2) return;
+    letters_.clear();
+    std::size_t letters = 0;
+    for (std::size_t i = start; i < end; ++i) {
+      const Cell& cell = cells_[units_[i].at];
+      if (isLatin(cell)) ++letters;
+      letters_ += static_cast<char>(plainLetter(cell) | 0x20U);
+    }
+    if (2 * letters < size || letters < 2) return;
+    const std::size_t last = units_[end - 1].at;
+    const bool isPointed = separatorLength_ == 1 && cells_[separator_].kind == Kind::stop;
+    const bool endsWithPoint =
+        isPointed && last + 1 < cells_.size() && cells_[last + 1].kind == Kind::stop;
+    if (endsWithPoint && size <= 3) return joinAbbreviation(start, end);
+
+    constexpr std::size_t longEnough = 5;
+    constexpr std::size_t longEnoughBetweenSigns = 4;
+    const auto& borders = letters == size ? segmenter_.segment(letters_) : noBorders_;
+    const bool isOneWord = size == 2 && borders.size() == 1;
+    if (size == 2 && !isOneWord) return;
+    if (borders.empty() && size < (areBlanks_ ? longEnough : longEnoughBetweenSigns)) return;
+    removeBetween(start, end);
+    for (const std::size_t border : borders)
+      if (border < size) cells_[units_[start + border].at].isBehindBlank = true;
+  }
+
+  /// "e.g." and "U.S.A." lose their points; "a.m." keeps the last where a sentence may end with it.
+  void joinAbbreviation(std::size_t start, std::size_t end) {
+    const std::size_t point = units_[end - 1].at + 1;
+    std::size_t next = point + 1;
+    while (next < cells_.size() && cells_[next].kind == Kind::blank)
+      ++next;
+    const bool isTime = letters_ == "am" || letters_ == "pm";
+    const bool mayEnd = next >= cells_.size() || cells_[next].kind == Kind::lineBreak ||
+                        cells_[next].kind == Kind::stop || (isTime && isUpper(cells_[next]));
+    removeBetween(start, end);
+    if (!mayEnd) remove(cells_[point]);
+  }
+
+  void removeBetween(std::size_t start, std::size_t end) {
+    isChanged_ = true;
+    isJoined_ = true;
+    for (std::size_t i = start; i + 1 < end; ++i)
+      for (std::size_t k = units_[i].at + 1; k < units_[i + 1].at; ++k)
+        remove(cells_[k]);
+  }
+
+  Cells& cells_;
+  Segmenter& segmenter_;
+  std::vector<Unit> units_;
+  std::string letters_;
+  const std::vector<std::size_t> noBorders_;
+  std::size_t separator_ = 0;
+  std::size_t separatorLength_ = 0;
+  bool areBlanks_ = false;
+  bool isJoined_ = false;
+  bool isChanged_ = false;
+};
+
+// ---- Broken words
+
+/// Makes words whole that a hyphen, a sign or the end of a line breaks.
+class WordMender {
+ public:
+  explicit WordMender(Cells& cells) : cells_(cells) {}
+
+  bool mend() {
+    for (std::size_t i = 1; i + 1 < cells_.size(); ++i) {
+      const Cell& cell = cells_[i];
+      const bool mayBreak = cell.kind == Kind::lineBreak || cell.kind == Kind::stop ||
+                            (cell.kind == Kind::sign && isBreakingSign(cell.scalar));
+      if (!mayBreak || !isLatin(cells_[i - 1])) continue;
+      if (cell.kind == Kind::lineBreak) {
+        i = mendLine(i, i, false);
+      } else if (isLatin(cells_[i + 1])) {
+        i = mendWithin(i);
+      } else if (isSpace(cells_[i + 1]) && (cell.scalar == U'-' || cell.scalar == U'=')) {
+        i = mendLine(i, i + 1, true);
+      }
+    }
+    return isChanged_;
+  }
+
+ private:
+  static bool isBreakingSign(char32_t scalar) {
+    constexpr std::u32string_view signs = U"-_*~|=^/\\'";
+    return signs.find(scalar) != std::u32string_view::npos;
+  }
+
+  [[nodiscard]] std::size_t startOfWord(std::size_t end) const {
+    while (end > 0 && isLatin(cells_[end - 1]))
+      --end;
+    return end;
+  }
+
+  [[nodiscard]] std::size_t endOfWord(std::size_t start) const {
+    while (start < cells_.size() && isLatin(cells_[start]))
+      ++start;
+    return start;
+  }
+
+  void add(Word& word, std::size_t start, std::size_t end) const {
+    // What is longer is no word, however long it is.
+    end = std::min(end, start + longestWord + 1);
+    for (std::size_t i = start; i < end; ++i)
+      word.add(cells_[i].scalar);
+  }
+
+  [[nodiscard]] bool isKnown(std::size_t start, std::size_t end) const {
+    Word word;
+    add(word, start, end);
+    return word.isKnown();
+  }
+
+  void removeCells(std::size_t start, std::size_t end) {
+    for (; start < end; ++start)
+      remove(cells_[start]);
+    isChanged_ = true;
+  }
+
+  /// Of a word that a line break, with or without the sign at `sign`, breaks. Where to go on.
+  std::size_t mendLine(std::size_t sign, std::size_t space, bool hasSign) {
+    std::size_t lineBreaks = 0;
+    std::size_t next = space;
+    for (; next < cells_.size(); ++next) {
+      const Cell& cell = cells_[next];
+      const bool isQuoteMark = lineBreaks > 0 && (cell.scalar == U'>' || cell.scalar == U'|');
+      if (cell.kind == Kind::lineBreak) {
+        const bool isPair = cell.scalar == U'\n' && cells_[next - 1].scalar == U'\r';
+        lineBreaks += isPair ? 0 : 1;
+      } else if (cell.kind != Kind::blank && !isQuoteMark) {
+        break;
+      }
+    }
+    const std::size_t goOn = next > 0 ? next - 1 : 0;
+    if (next >= cells_.size() || !isLatin(cells_[next]) || lineBreaks > 1) return goOn;
+
+    const std::size_t first = startOfWord(sign);
+    const std::size_t end = endOfWord(next);
+    Word whole;
+    add(whole, first, sign);
+    add(whole, next, end);
+    const bool areWords = isKnown(first, sign) && isKnown(next, end);
+    if (areWords || (isUpper(cells_[next]) && !isUpper(cells_[sign - 1]))) {
+      // "sign-in" at the end of a line keeps its hyphen.
+      if (hasSign && lineBreaks == 1 && cells_[sign].scalar == U'-' && !whole.isKnown())
+        removeCells(sign + 1, next);
+      else if (hasSign && lineBreaks == 1 && whole.isKnown())
+        removeCells(sign, next);
+      return goOn;
+    }
+    if (whole.isKnown() || (hasSign && lineBreaks == 1)) removeCells(sign, next);
+    return goOn;
+  }
+
+  /// Of a word that the same sign breaks, once or more often. Where to go on.
+  std::size_t mendWithin(std::size_t sign) {
+    const char32_t separator = cells_[sign].scalar;
+    const std::size_t first = startOfWord(sign);
+    std::size_t end = endOfWord(sign + 1);
+    bool areWords = isKnown(first, sign) && isKnown(sign + 1, end);
+    Word whole;
+    add(whole, first, sign);
+    add(whole, sign + 1, end);
+    while (end + 1 < cells_.size() && cells_[end].scalar == separator && isLatin(cells_[end + 1])) {
+      const std::size_t behind = endOfWord(end + 1);
+      areWords = areWords && isKnown(end + 1, behind);
+      if (whole.size() <= longestWord) add(whole, end + 1, behind);
+      end = behind;
+    }
+    if (!areWords && whole.isKnown())
+      for (std::size_t i = sign; i < end; ++i)
+        if (!isLatin(cells_[i])) removeCells(i, i + 1);
+    return end - 1;
+  }
+
+  Cells& cells_;
+  bool isChanged_ = false;
+};
+
+// ---- Digits and signs for letters
+
+class SignReader {
+ public:
+  explicit SignReader(Cells& cells) : cells_(cells) {}
+
+  bool read() {
+    for (std::size_t start = 0; start < cells_.size();) {
+      if (!isPart(cells_[start])) {
+        ++start;
+        continue;
+      }
+      std::size_t end = start;
+      bool hasSigns = false;
+      for (; end < cells_.size() && isPart(cells_[end]); ++end)
+        hasSigns = hasSigns || isSign(cells_[end]);
+      if (hasSigns) readToken(start, end);
+      start = end;
+    }
+    return isChanged_;
+  }
+
+ private:
+  static bool isSign(const Cell& cell) {
+    return cell.kind == Kind::digit || (cell.kind == Kind::sign && !lettersOf(cell).empty());
+  }
+
+  static bool isPart(const Cell& cell) { return isLatin(cell) || isSign(cell); }
+
+  static std::string_view lettersOf(const Cell& cell) { return tables().of(cell.scalar).view(); }
+
+  void readToken(std::size_t start, std::size_t end) {
+    // Exclamation marks end more sentences than they stand for letters at the end of words.
+    for (const bool isWhole : {true, false}) {
+      std::size_t last = end;
+      if (!isWhole)
+        while (last > start && cells_[last - 1].kind == Kind::sign)
+          --last;
+      if (last - start < 2 || last - start > longestWord || isMeasure(start, last)) continue;
+      if (isSpelt(start, last)) return;
+    }
+  }
+
+  /// "100k" and "15th" are numbers.
+  [[nodiscard]] bool isMeasure(std::size_t start, std::size_t end) const {
+    std::size_t digits = start;
+    while (digits < end && cells_[digits].kind == Kind::digit)
+      ++digits;
+    return digits == end || (digits - start >= 2 && end - digits <= 2);
+  }
+
+  /// Tries what the signs may stand for, and writes the first word that comes of it.
+  bool isSpelt(std::size_t start, std::size_t end) {
+    std::size_t letters = 0;
+    std::size_t signs = 0;
+    std::size_t ways = 1;
+    constexpr std::size_t mostWays = 16;
+    for (std::size_t i = start; i < end; ++i) {
+      if (isLatin(cells_[i])) {
+        ++letters;
+      } else {
+        ++signs;
+        ways = std::min(ways * lettersOf(cells_[i]).size(), mostWays);
+      }
+    }
+    if (letters == 0 || signs == 0) return false;
+    for (std::size_t way = 0; way < ways; ++way) {
+      Word word;
+      std::size_t rest = way;
+      for (std::size_t i = start; i < end; ++i)
+        word.add(isLatin(cells_[i]) ? plainLetter(cells_[i]) : letterOf(cells_[i], rest));
+      if (!word.isKnown()) continue;
+      rest = way;
+      for (std::size_t i = start; i < end; ++i)
+        if (!isLatin(cells_[i])) replace(cells_[i], letterOf(cells_[i], rest));
+      return isChanged_ = true;
+    }
+    return false;
+  }
+
+  /// One of the letters; which, is the last digit of `way` in the number system of their number.
+  static char32_t letterOf(const Cell& cell, std::size_t& way) {
+    const std::string_view letters = lettersOf(cell);
+    const char letter = letters[way % letters.size()];
+    way /= letters.size();
+    return static_cast<char32_t>(letter);
+  }
+
+  Cells& cells_;
+  bool isChanged_ = false;
+};
+
+// ---- Blanks that were moved
+
+class BlankMover {
+ public:
+  BlankMover(Cells& cells, Segmenter& segmenter) : cells_(cells), segmenter_(segmenter) {}
+
+  bool move() {
+    for (std::size_t start = 0; start < cells_.size();) {
+      std::size_t end = start;
+      KnownWords words;
+      while (end < cells_.size() && (isPlainLetter(cells_[end]) || cells_[end].kind == Kind::blank)) {
+        Word word;
+        const std::size_t first = end;
+        while (end < cells_.size() && isPlainLetter(cells_[end])) {
+          if (word.size() <= longestWord) word.add(cells_[end].scalar);
+          ++end;
+        }
+        const bool isName = end - first > 1 && isUpper(cells_[first]) && !isUpper(cells_[first + 1]);
+        if (end > first) words.add(end - first, word.isKnown(), isName);
+        while (end < cells_.size() && cells_[end].kind == Kind::blank)
+          ++end;
+      }
+      if (words.mayHaveMovedBlanks()) moveWithin(start, end);
+      start = std::max(end, start + 1);
+    }
+    return isChanged_;
+  }
+
+ private:
+  static bool isPlainLetter(const Cell& cell) { return cell.kind == Kind::letter; }
+
+  void moveWithin(std::size_t start, std::size_t end) {
+    letters_.clear();
+    blanks_.clear();
+    for (std::size_t i = start; i < end; ++i) {
+      if (isPlainLetter(cells_[i]))
+        letters_ += static_cast<char>(cells_[i].scalar | 0x20U);
+      else
+        blanks_.push_back(letters_.size());
+    }
+    const auto& borders = segmenter_.segment(letters_, blanks_);
+    // Short words are found in letters of any kind.
+    constexpr std::size_t meanLength = 3;
+    if (borders.empty() || borders.size() * meanLength > letters_.size()) return;
+    std::size_t letter = 0;
+    auto border = borders.begin();
+    bool isAfterBlank = true;
+    for (std::size_t i = start; i < end; ++i) {
+      if (!isPlainLetter(cells_[i])) {
+        // Blanks at the ends stay.
+        const bool isWithin = letter > 0 && letter < letters_.size();
+        if (isWithin && (letter != *border || isAfterBlank)) {
+          remove(cells_[i]);
+          isChanged_ = true;
+        } else {
+          isAfterBlank = true;
+        }
+        continue;
+      }
+      if (letter > 0 && letter == *border && !isAfterBlank) {
+        cells_[i].isBehindBlank = true;
+        isChanged_ = true;
+      }
+      if (letter == *border) ++border;
+      isAfterBlank = false;
+      ++letter;
+    }
+  }
+
+  Cells& cells_;
+  Segmenter& segmenter_;
+  std::string letters_;
+  std::vector<std::size_t> blanks_;
+  bool isChanged_ = false;
+};
+
+// ---- Points that end no sentence
+
+/// Short words that are written with a point, in English, German, French, Spanish, Portuguese and
+/// Dutch; those of `onlyBeforeNumbers` are words of their own otherwise.
+constexpr auto abbreviations = std::to_array<std::string_view>({
+    "abs",  "acct", "admin", "adv",  "amt",   "anh",   "apt",   "approx", "apr",  "art",  "assoc",
+    "asst", "aug",  "av",    "ave",  "avda",  "betr",  "bijv",  "bldg",   "blvd", "bzgl", "bzw",
+    "capt", "cf",   "cia",   "cie",  "cmdr",  "col",   "cpl",   "ct",     "dec",  "dept", "dhr",
+    "dipl", "dir",  "dr",    "dra",  "drs",   "eg",    "esq",   "est",    "evtl", "excl", "ext",
+    "feb",  "fl",   "fr",    "ft",   "gen",   "ggf",   "gov",   "hon",    "hr",   "hrn",  "ie",
+    "incl", "ing",  "inkl",  "jan",  "jr",    "jul",   "jun",   "lic",    "lt",   "ltda", "maj",
+    "mevr", "mgr",  "min",   "mio",  "mme",   "mr",    "mrd",   "mrs",    "ms",   "mt",   "nov",
+    "oct",  "okt",  "phd",   "prof", "rd",    "rep",   "resp",  "rev",    "rua",  "sen",  "sept",
+    "sgt",  "sr",   "sra",   "sta",  "str",   "supt",  "zzgl",  "vs"});
+constexpr auto onlyBeforeNumbers = std::to_array<std::string_view>({
+    "a",    "acc",  "aprox", "art", "bal", "ca",  "cap",  "ch",  "ed",  "eq",  "fig",
+    "inv",  "iss",  "lit",   "no",  "nos", "nr",  "num",  "op",  "p",   "pag", "para",
+    "pos",  "pp",   "ref",   "sec", "tel", "vol"});
+constexpr auto onlyBeforeSmallLetters = std::to_array<std::string_view>({
+    "bros", "co", "corp", "etc", "inc", "lda", "ltd", "st", "usw", "sq", "univ", "plc"});
+
+template <std::size_t size>
+bool contains(const std::array<std::string_view, size>& words, std::string_view word) {
+  return std::find(words.begin(), words.end(), word) != words.end();
+}
+
+constexpr std::size_t longestAbbreviation = 6;
+
+class PointReader {
+ public:
+  explicit PointReader(Cells& cells) : cells_(cells) {}
+
+  bool read() {
+    for (std::size_t i = 0; i < cells_.size(); ++i)
+      if (cells_[i].kind == Kind::stop) i = readPoint(i);
+    return isChanged_;
+  }
+
+ private:
+  static constexpr char32_t pointOfAddress = U'\u00B7';
+
+  [[nodiscard]] const Cell* at(std::size_t i) const {
+    return i < cells_.size() ? &cells_[i] : nullptr;
+  }
+
+  void change(std::size_t i, char32_t scalar) {
+    replace(cells_[i], scalar);
+    isChanged_ = true;
+  }
+
+  void leaveOut(std::size_t i) {
+    remove(cells_[i]);
+    isChanged_ = true;
+  }
+
+  /// The cell to go on behind.
+  std::size_t readPoint(std::size_t point) {
+    std::size_t end = point;
+    while (end < cells_.size() && cells_[end].kind == Kind::stop)
+      ++end;
+    if (end - point > 1) {
+      readEllipsis(point, end);
+      return end - 1;
+    }
+    const Cell* before = point > 0 ? &cells_[point - 1] : nullptr;
+    const Cell* after = at(point + 1);
+    if (after == nullptr) return point;
+    if (after->kind == Kind::digit && (before == nullptr || before->kind != Kind::letter)) {
+      // A number, a time, a date, a version.
+      change(point, U',');
+    } else if (before != nullptr && isAlphanumeric(*before) && isAlphanumeric(*after)) {
+      return readToken(point);
+    } else if (before != nullptr && isAlphanumeric(*before)) {
+      readAbbreviation(point);
+    }
+    return point;
+  }
+
+  void readEllipsis(std::size_t start, std::size_t end) {
+    std::size_t next = end;
+    while (next < cells_.size() && cells_[next].kind == Kind::blank)
+      ++next;
+    if (next >= cells_.size() || cells_[next].kind == Kind::lineBreak) return;
+    for (std::size_t i = start; i < end; ++i)
+      leaveOut(i);
+    if (end < cells_.size() && !isSpace(cells_[end])) cells_[end].isBehindBlank = true;
+  }
+
+  /// Addresses keep a point that is none; words without a blank between them get one.
+  std::size_t readToken(std::size_t point) {
+    std::size_t start = point;
+    while (start > 0 && !isSpace(cells_[start - 1]) && cells_[start - 1].scalar != U'<' &&
+           cells_[start - 1].scalar != U'(')
+      --start;
+    std::size_t end = point;
+    bool isAddress = false;
+    for (; end < cells_.size() && !isSpace(cells_[end]); ++end) {
+      const char32_t scalar = cells_[end].scalar;
+      isAddress = isAddress || scalar == U'@' || scalar == U'/';
+    }
+    for (std::size_t i = start; i < point; ++i)
+      isAddress = isAddress || cells_[i].scalar == U'@' || cells_[i].scalar == U'/';
+    // What follows it belongs to the sentence.
+    while (end > point + 1 && !isAlphanumeric(cells_[end - 1]))
+      --end;
+    isAddress = isAddress || isHostName(point, end);
+    const bool isNumbered = std::any_of(
+        cells_.begin() + static_cast<std::ptrdiff_t>(start),
+        cells_.begin() + static_cast<std::ptrdiff_t>(end),
+        [](const Cell& cell) { return cell.kind == Kind::digit; });
+    for (std::size_t i = point; i < end; ++i) {
+      const bool isMark = cells_[i].scalar == U'?' || cells_[i].scalar == U'!';
+      if (cells_[i].kind != Kind::stop && !(isAddress && isMark)) continue;
+      if (isAddress || isNumbered)
+        change(i, pointOfAddress);
+      else if (i + 1 < end && !isUpper(cells_[i + 1]))
+        change(i, U' ');
+    }
+    return end - 1;
+  }
+
+  /// Whether the last part is one of the common ends of host names.
+  [[nodiscard]] bool isHostName(std::size_t point, std::size_t end) const {
+    std::size_t start = end;
+    while (start > point && isLatin(cells_[start - 1]))
+      --start;
+    if (start == end || cells_[start - 1].kind != Kind::stop) return false;
+    constexpr auto ends = std::to_array<std::string_view>({
+        "app", "at",  "au",   "be",  "biz",  "br",  "ca",   "cc",   "ch",  "cn",
+        "co",  "com", "de",   "dev", "edu",  "es",  "eu",   "exe",  "fr",  "gov",
+        "in",  "info", "io",  "it",  "jp",   "me",  "net",  "nl",   "online", "org",
+        "pdf", "pt",  "ru",   "shop", "site", "top", "tv",  "uk",   "us",  "xyz"});
+    return contains(ends, smallLetters(start, end));
+  }
+
+  /// Up to `longestAbbreviation` letters.
+  [[nodiscard]] std::string_view smallLetters(std::size_t start, std::size_t end) const {
+    std::size_t size = 0;
+    for (; start < end && size < word_.size(); ++start)
+      word_[size++] = static_cast<char>(plainLetter(cells_[start]) | 0x20U);
+    return {word_.data(), start < end ? 0 : size};
+  }
+
+  void readAbbreviation(std::size_t point) {
+    const Cell& after = cells_[point + 1];
+    if (after.scalar == U',' || after.scalar == U';' || after.scalar == U':' ||
+        after.scalar == U'-') {
+      leaveOut(point);
+      return;
+    }
+    std::size_t next = point + 1;
+    while (next < cells_.size() && (cells_[next].kind == Kind::blank || cells_[next].scalar == U')'))
+      ++next;
+    if (next >= cells_.size() || cells_[next].kind == Kind::lineBreak) {
+      // A line may end behind an abbreviation, but a paragraph does not.
+      const bool goesOn = next + 1 < cells_.size() && isAlphanumeric(cells_[next + 1]);
+      if (!goesOn) return;
+      ++next;
+    }
+    std::size_t start = point;
+    while (start > 0 && point - start <= longestAbbreviation && isAlphanumeric(cells_[start - 1]))
+      --start;
+    if (cells_[point - 1].kind == Kind::digit) {
+      if (isOrdinal(start, next)) leaveOut(point);
+      return;
+    }
+    const std::string_view word = smallLetters(start, point);
+    if (word.empty()) return;
+    const Cell& follower = cells_[next];
+    const bool isNumber = follower.kind == Kind::digit || follower.scalar == U'#' ||
+                          follower.scalar == U'$' || follower.scalar == U'\u20AC';
+    const bool isInitial = word.size() == 1 && isUpper(cells_[start]) && word != "i" &&
+                           isUpper(follower);
+    if (isInitial || contains(abbreviations, word) ||
+        (isNumber && contains(onlyBeforeNumbers, word)) ||
+        ((isNumber || (isLatin(follower) && !isUpper(follower))) &&
+         contains(onlyBeforeSmallLetters, word)))
+      leaveOut(point);
+  }
+
+  /// "14. März" is a date; "der 3. brief" is the third.
+  [[nodiscard]] bool isOrdinal(std::size_t start, std::size_t next) const {
+    // At the start of a line it numbers what follows.
+    if (start == 0 || cells_[start - 1].kind == Kind::lineBreak) return false;
+    if (!isLatin(cells_[next])) return false;
+    if (!isUpper(cells_[next])) return true;
+    std::size_t end = next;
+    while (end < cells_.size() && end - next < 3 && isLatin(cells_[end]))
+      ++end;
+    constexpr auto months = std::to_array<std::string_view>({"jan", "feb", "mar", "apr", "mai", "jun", "jul",
+                                                      "aug", "sep", "okt", "nov", "dez", "quart", "jah"});
+    return contains(months, smallLetters(next, end));
+  }
+
+  Cells& cells_;
+  mutable std::array<char, longestAbbreviation> word_{};
+  bool isChanged_ = false;
+};
+
+}  // namespace
+
+bool mayBeAbbreviation(const char* letters, std::size_t length) {
+  if (length > longestAbbreviation) return false;
+  if (length < 2) return true;
+  std::array<char, longestAbbreviation> small{};
+  for (std::size_t i = 0; i < length; ++i)
+    small[i] = static_cast<char>(letters[i] | 0x20);
+  const std::string_view word(small.data(), length);
+  return contains(abbreviations, word) || contains(onlyBeforeNumbers, word) ||
+         contains(onlyBeforeSmallLetters, word);
+}
+
+bool undoDisguises(Cells& cells, const Contents& contents) {
+  Segmenter segmenter;
+  bool isChanged = false;
+  const auto take = [&](bool changes) {
+    if (changes) tidy(cells);
+    isChanged = isChanged || changes;
+    return changes;
+  };
+  constexpr int mostRounds = 8;
+  for (int round = 0; round < mostRounds; ++round) {
+    bool isChangedNow = false;
+    if (contents.hasFormsByNeighbour) isChangedNow |= take(readByNeighbours(cells));
+    if (contents.hasLettersBeyondAscii) isChangedNow |= take(LetterReader(cells).read());
+    isChangedNow |= take(LetterJoiner(cells, segmenter).join());
+    isChangedNow |= take(WordMender(cells).mend());
+    isChangedNow |= take(SignReader(cells).read());
+    isChangedNow |= take(BlankMover(cells, segmenter).move());
+    isChangedNow |= take(PointReader(cells).read());
+    if (!isChangedNow) break;
+  }
+  return isChanged;
+}
+
+}  // namespace quillseal::reading

@@ -1,0 +1,89 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <span>
+#include <string_view>
+
+/// What `ReadableText` knows about code points and words. Written when the program is built, from
+/// ICU's data and the patterns of the rules.
+namespace quillseal::reading {
+
+/// What a reader makes of a code point.
+struct Reading {
+  enum class Kind : std::uint8_t {
+    other,       ///< what it is
+    invisible,   ///< nothing
+    blank,       ///< white space
+    lineBreak,   ///< the end of a line
+    letter,      ///< an ASCII letter
+    digit,       ///< an ASCII digit
+    stop,        ///< a full stop
+    sign,        ///< ASCII punctuation or symbol, or one that stands for a letter (`text`)
+    separator,   ///< may stand between letters that are set apart, and reads as `text` if any
+    same,        ///< always reads as `text`: a compatibility form
+    wideSign,    ///< reads as `text` beside Latin letters and digits
+    accented,    ///< a Latin letter that may read as `text`
+    twin,        ///< a letter of another script that may read as `text`
+    foreign,     ///< a letter of another script that is like no Latin one
+    mark,        ///< stands on the letter before it
+    pictograph,  ///< reads as `text` unless two stand together: the letters of flags
+  };
+
+  Kind kind = Kind::other;
+  std::array<char, 7> text{};  ///< ASCII, ended by a zero unless all are used
+
+  [[nodiscard]] std::string_view view() const {
+    return {text.data(), ::strnlen(text.data(), text.size())};
+  }
+};
+
+/// Code points in blocks of 64; equal blocks are one.
+inline constexpr std::size_t blockSize = 64;
+
+struct Tables {
+  std::span<const std::uint16_t> blocks;      ///< of every 64 code points, the block
+  std::span<const std::uint16_t> readings;    ///< of every code point of a block, its reading
+  std::span<const Reading> distinctReadings;  ///< the first is `other`
+  std::span<const std::uint32_t> words;       ///< hash table of fingerprints; zero is empty
+
+  [[nodiscard]] const Reading& of(char32_t scalar) const {
+    return distinctReadings[readings[blocks[scalar / blockSize] * blockSize + scalar % blockSize]];
+  }
+};
+
+[[nodiscard]] const Tables& tables();
+
+/// The longest word that is known, in letters.
+inline constexpr std::size_t longestWord = 24;
+
+/// A word in small letters of Latin-1, one byte each, as a number; REQUIRES: 1 to `longestWord`.
+[[nodiscard]] inline std::uint64_t hashOfWord(std::string_view word) {
+  std::array<std::uint64_t, longestWord / 8> parts{};
+  std::memcpy(parts.data(), word.data(), word.size());
+  std::uint64_t hash = parts[0] * 0x9E3779B97F4A7C15;
+  if (word.size() > 8) {
+    hash = (hash ^ parts[1]) * 0xC2B2AE3D27D4EB4F;
+    hash = ((hash ^ hash >> 32) ^ parts[2]) * 0x165667B19E3779F9;
+  }
+  hash ^= hash >> 32;
+  hash *= 0xD6E8FEB86659FD93;
+  return hash ^ hash >> 32;
+}
+
+/// Whether `word` is a word of a rule or a common English one. (One of thousands of millions of
+/// others passes for one.)
+[[nodiscard]] inline bool isWord(const Tables& tables, std::string_view word) {
+  if (word.empty() || word.size() > longestWord) return false;
+  const std::uint64_t hash = hashOfWord(word);
+  const auto fingerprint = static_cast<std::uint32_t>(hash >> 32) | 1U;
+  const std::size_t mask = tables.words.size() - 1;
+  for (std::size_t slot = hash & mask;; slot = (slot + 1) & mask) {
+    if (tables.words[slot] == fingerprint) return true;
+    if (tables.words[slot] == 0) return false;
+  }
+}
+
+}  // namespace quillseal::reading

@@ -35,7 +35,7 @@ constexpr std::pair<char32_t, char> furtherTwins[] = {
 constexpr std::pair<char32_t, std::string_view> lettersOfSigns[] = {
     {U'0', "o"}, {U'1', "il"}, {U'2', "z"},      {U'3', "e"},      {U'4', "a"},      {U'5', "s"},
     {U'6', "gb"}, {U'7', "t"}, {U'8', "b"},      {U'9', "g"},      {U'@', "a"},      {U'$', "s"},
-    {U'!', "il"}, {U'|', "li"}, {U'+', "t"},     {U'(', "c"},      {U'\u00A1', "i"}, {U'\u00A2', "c"},
+    {U'!', "il"}, {U'|', "li"}, {U'+', "t"},     {U'\u00A1', "i"}, {U'\u00A2', "c"},
     {U'\u00A3', "l"}, {U'\u00A5', "y"}, {U'\u00A7', "s"}, {U'\u20AC', "e"}, {U'\u00D7', "x"}};
 
 /// Hyphens and dashes that are read as one.
@@ -172,7 +172,7 @@ class CodePoints {
   }
 
   /// The ASCII letter that Unicode's confusables (UTS #39) lead to, without marks.
-  [[nodiscard]] std::optional<char> confusable(char32_t scalar) const {
+  [[nodiscard]] std::optional<std::string> confusable(char32_t scalar) const {
     const auto point = static_cast<UChar32>(scalar);
     icu::UnicodeString skeleton;
     UErrorCode status = U_ZERO_ERROR;
@@ -185,15 +185,18 @@ class CodePoints {
       if (const UChar32 part = parts.char32At(i);
           (U_GET_GC_MASK(part) & (U_GC_MN_MASK | U_GC_ME_MASK)) == 0)
         bases += static_cast<char32_t>(part);
-    if (bases == U"rn") return 'm';
+    if (bases == U"rn") return "m";
     if (bases.size() != 1) return std::nullopt;
     if (bases[0] == U'l') {
       const UChar32 small = u_tolower(point);
-      const bool isCapitalI = small != point && confusable(static_cast<char32_t>(small)) == 'i';
-      return isCapitalI ? 'I' : 'l';
+      const auto ofSmall = small != point ? confusable(static_cast<char32_t>(small)) : std::nullopt;
+      return ofSmall == "i" || ofSmall == "il" ? "Il" : "li";
     }
-    if (isAsciiLetter(bases[0])) return static_cast<char>(bases[0]);
-    return baseFromName(nameOf(bases[0]));
+    // A stroke that some fonts draw as a small l.
+    if (scalar == U'\u04CF') return "li";
+    if (isAsciiLetter(bases[0])) return std::string(1, static_cast<char>(bases[0]));
+    if (const auto base = baseFromName(nameOf(bases[0]))) return std::string(1, *base);
+    return std::nullopt;
   }
 
   [[nodiscard]] Reading ofLetter(char32_t scalar) const {
@@ -202,7 +205,7 @@ class CodePoints {
     if (u_isalpha(point) == 0) {
       if ((U_GET_GC_MASK(point) & U_GC_S_MASK) == 0) return reading(Kind::other);
       const auto letter = confusable(scalar);
-      return letter ? reading(Kind::sign, std::string_view(&*letter, 1)) : reading(Kind::other);
+      return letter ? reading(Kind::sign, *letter) : reading(Kind::other);
     }
     UErrorCode status = U_ZERO_ERROR;
     switch (uscript_getScript(point, &status)) {
@@ -222,14 +225,14 @@ class CodePoints {
     }
     for (const auto& [further, letter] : furtherTwins)
       if (further == scalar) return reading(Kind::twin, std::string_view(&letter, 1));
-    if (const auto letter = confusable(scalar))
-      return reading(Kind::twin, std::string_view(&*letter, 1));
+    if (const auto letters = confusable(scalar)) return reading(Kind::twin, *letters);
     return reading(Kind::foreign);
   }
 
   [[nodiscard]] std::optional<char> latinBase(char32_t scalar) const {
     if (const auto base = baseFromName(nameOf(scalar))) return base;
-    return confusable(scalar);
+    const auto letters = confusable(scalar);
+    return letters ? std::optional((*letters)[0]) : std::nullopt;
   }
 
   std::unique_ptr<USpoofChecker, Close> spoof_;
@@ -343,7 +346,10 @@ class WordCollector {
   Fragments ofRepetition(const Node& node) {
     const Fragments once = fragmentsOf(node.children[0]);
     Fragments result = once;
-    if (node.max > 1) result.merge(joined(once, once));
+    // Words of which several may follow are not written as one.
+    if (node.max > 1)
+      for (const Fragment& fragment : once)
+        result.insert({.start = fragment.start, .end = fragment.end, .hasBorder = true});
     if (node.min == 0) result.insert(Fragment{});
     return result;
   }
@@ -403,17 +409,20 @@ void addCommonWords(std::string_view list, std::set<std::string>& words) {
   }
 }
 
-std::vector<std::uint32_t> hashTableOf(const std::set<std::string>& words) {
+std::vector<std::uint32_t> hashTableOf(const std::set<std::string>& words,
+                                       const std::set<std::string>& common) {
+  std::set<std::string> all = words;
+  all.insert(common.begin(), common.end());
   std::size_t size = 1;
-  while (size < 3 * words.size())
+  while (size < 3 * all.size())
     size *= 2;
   std::vector<std::uint32_t> table(size);
-  for (const std::string& word : words) {
+  for (const std::string& word : all) {
     const std::uint64_t hash = hashOfWord(word);
     std::size_t slot = hash & (size - 1);
     while (table[slot] != 0)
       slot = (slot + 1) & (size - 1);
-    table[slot] = static_cast<std::uint32_t>(hash >> 32) | 1U;
+    table[slot] = fingerprintOf(hash) | wordBit | (common.contains(word) ? commonWordBit : 0);
   }
   return table;
 }
@@ -456,9 +465,9 @@ CompiledTables compileReadings(std::span<const screening::Pattern> patterns,
     if (isNew) tables.readings.insert(tables.readings.end(), block.begin(), block.end());
     tables.blocks.push_back(found->second);
   }
-  std::set<std::string> words = wordsOf(patterns);
-  addCommonWords(commonWords, words);
-  tables.words = hashTableOf(words);
+  std::set<std::string> common;
+  addCommonWords(commonWords, common);
+  tables.words = hashTableOf(wordsOf(patterns), common);
   return tables;
 }
 

@@ -93,6 +93,19 @@ char32_t plainLetter(const Cell& cell) {
                                      : cell.scalar;
 }
 
+/// The letters that a twin, a digit or a sign may stand for.
+std::string_view lettersOf(const Cell& cell) {
+  return tables().of(cell.scalar).view();
+}
+
+/// One of them; which one, is the last digit of `way` in the number system of their number.
+char32_t letterOf(const Cell& cell, std::size_t& way) {
+  const std::string_view letters = lettersOf(cell);
+  const char letter = letters[way % letters.size()];
+  way /= letters.size();
+  return static_cast<char32_t>(letter);
+}
+
 // ---- Segmenting what was run together
 
 /// Divides letters into known words.
@@ -111,41 +124,53 @@ class Segmenter {
     ways_[0].cost = 0;
     for (std::size_t start = 0; start < size; ++start) {
       // A letter that belongs to no word is dear; one word is cheaper than two.
-      relax(start, 1, 30, true);
+      relax(start, 1, 30, WordClass::unknown);
       const std::size_t most = std::min(longestWord, size - start);
       for (std::size_t length = 1; length <= most; ++length) {
-        if (!isWord(tables(), letters.substr(start, length))) continue;
-        constexpr std::array<std::uint32_t, 4> costOfShort{0, 20, 16, 11};
-        relax(start, length, length < costOfShort.size() ? costOfShort[length] : 10, false);
+        const WordClass word = classOf(tables(), letters.substr(start, length));
+        if (word == WordClass::unknown) continue;
+        // Short words of other languages and abbreviations are found in letters of any kind.
+        constexpr std::array<std::uint32_t, 4> costOfShort{0, 22, 16, 11};
+        if (length < costOfShort.size() && word != WordClass::common) continue;
+        relax(start, length, length < costOfShort.size() ? costOfShort[length] : 10, word);
       }
     }
-    std::size_t unknown = 0;
+    unknown_ = 0;
+    common_ = 0;
     for (std::size_t end = size; end > 0; end -= ways_[end].length) {
       borders_.push_back(end);
-      if (ways_[end].isUnknown) ++unknown;
+      if (ways_[end].word == WordClass::unknown) ++unknown_;
+      if (ways_[end].word == WordClass::common) common_ += ways_[end].length;
     }
     std::reverse(borders_.begin(), borders_.end());
     constexpr std::size_t knownForOneUnknown = 10;
-    if (unknown * knownForOneUnknown > size) borders_.clear();
+    if (unknown_ * knownForOneUnknown > size) borders_.clear();
     return borders_;
   }
+
+  /// Letters of the last segmentation that are in no word.
+  [[nodiscard]] std::size_t unknownLetters() const { return unknown_; }
+  /// Letters of the last segmentation that are in common English words.
+  [[nodiscard]] std::size_t commonLetters() const { return common_; }
 
  private:
   struct Way {
     std::uint32_t cost = UINT32_MAX;
     std::uint16_t length = 0;
-    bool isUnknown = false;
+    WordClass word = WordClass::unknown;
   };
 
-  void relax(std::size_t start, std::size_t length, std::uint32_t cost, bool isUnknown) {
+  void relax(std::size_t start, std::size_t length, std::uint32_t cost, WordClass word) {
     Way& way = ways_[start + length];
     // Of two ways that are as good, the one that leaves more blanks where they are.
     const std::uint32_t total = ways_[start].cost + cost - isBlank_[start + length];
-    if (total <= way.cost) way = {total, static_cast<std::uint16_t>(length), isUnknown};
+    if (total <= way.cost) way = {total, static_cast<std::uint16_t>(length), word};
   }
 
   std::vector<Way> ways_;
   std::vector<std::uint8_t> isBlank_;
+  std::size_t unknown_ = 0;
+  std::size_t common_ = 0;
   std::vector<std::size_t> borders_;
 };
 
@@ -155,6 +180,11 @@ class Segmenter {
 /// no digest contains.
 bool readByNeighbours(Cells& cells) {
   bool isChanged = false;
+  bool areFlags = true;
+  for (std::size_t i = 0, run = 0; i < cells.size(); ++i) {
+    run = cells[i].kind == Kind::pictograph ? run + 1 : 0;
+    areFlags = areFlags && run <= 2;
+  }
   const auto isBeside = [&](std::size_t i) {
     return (i > 0 && (isLatin(cells[i - 1]) || cells[i - 1].kind == Kind::digit)) ||
            (i + 1 < cells.size() && (isLatin(cells[i + 1]) || cells[i + 1].kind == Kind::digit));
@@ -166,16 +196,9 @@ bool readByNeighbours(Cells& cells) {
     if (cells[i].kind == Kind::wideSign && isBeside(i)) {
       replace(cells[i], static_cast<char32_t>(tables().of(cells[i].scalar).text[0]));
       isChanged = true;
-    } else if (cells[i].kind == Kind::pictograph) {
-      std::size_t end = i;
-      while (end < cells.size() && cells[end].kind == Kind::pictograph)
-        ++end;
-      const bool isFlag = end - i == 2;
-      for (; i < end; ++i)
-        if (!isFlag)
-          replace(cells[i], static_cast<char32_t>(tables().of(cells[i].scalar).text[0]));
-      isChanged = isChanged || !isFlag;
-      --i;
+    } else if (cells[i].kind == Kind::pictograph && !areFlags) {
+      replace(cells[i], static_cast<char32_t>(tables().of(cells[i].scalar).text[0]));
+      isChanged = true;
     } else if (isAngle(i)) {
       std::size_t end = i;
       while (end < cells.size() && isAngle(end))
@@ -261,12 +284,49 @@ class LetterReader {
       hasForeign = hasForeign || cells_[i].kind == Kind::foreign;
     }
     if (hasTwin && (hasLatin || (!hasForeign && isLatinLine))) {
-      for (std::size_t i = start; i < end; ++i)
-        if (cells_[i].kind == Kind::twin)
-          replace(cells_[i], static_cast<char32_t>(tables().of(cells_[i].scalar).text[0]));
+      readTwins(start, end);
       isChanged_ = true;
     }
+    composeMarks(start, end);
     readMarks(start, end);
+  }
+
+  /// As the letters that make a word, or else as the likeliest ones.
+  void readTwins(std::size_t start, std::size_t end) {
+    std::size_t ways = 1;
+    constexpr std::size_t mostWays = 16;
+    for (std::size_t i = start; i < end; ++i)
+      if (cells_[i].kind == Kind::twin)
+        ways = std::min(ways * lettersOf(cells_[i]).size(), mostWays);
+    std::size_t best = 0;
+    for (std::size_t way = 0; ways > 1 && way < ways; ++way) {
+      Word word;
+      std::size_t rest = way;
+      for (std::size_t i = start; i < end; ++i)
+        word.add(cells_[i].kind == Kind::twin ? letterOf(cells_[i], rest) : plainLetter(cells_[i]));
+      if (!word.isKnown()) continue;
+      best = way;
+      break;
+    }
+    for (std::size_t i = start; i < end; ++i)
+      if (cells_[i].kind == Kind::twin) replace(cells_[i], letterOf(cells_[i], best));
+  }
+
+  /// Writes a letter and its only mark as the one letter that they are.
+  void composeMarks(std::size_t start, std::size_t end) {
+    for (std::size_t i = start; i + 1 < end; ++i) {
+      const bool isOneMark = isLatin(cells_[i]) && cells_[i + 1].kind == Kind::mark &&
+                             (i + 2 >= end || cells_[i + 2].kind != Kind::mark);
+      if (!isOneMark) continue;
+      const UChar32 composed =
+          unorm2_composePair(composition(), static_cast<UChar32>(cells_[i].scalar),
+                             static_cast<UChar32>(cells_[i + 1].scalar));
+      if (composed < 0) continue;
+      replace(cells_[i], static_cast<char32_t>(composed));
+      cells_[i].end = cells_[i + 1].end;
+      remove(cells_[i + 1]);
+      isChanged_ = true;
+    }
   }
 
   /// Leaves marks off where that makes a word of what is none, or where they are heaped up.
@@ -276,24 +336,16 @@ class LetterReader {
     bool hasMarks = false;
     bool isHeaped = false;
     for (std::size_t i = start; i < end; ++i) {
-      const Cell& base = cells_[i];
-      std::size_t marks = 0;
-      while (i + 1 < end && cells_[i + 1].kind == Kind::mark) {
-        ++marks;
-        ++i;
+      const Cell& cell = cells_[i];
+      if (cell.kind == Kind::invisible) continue;
+      if (cell.kind == Kind::mark) {
+        isHeaped = isHeaped || (i > start && (isLatin(cells_[i - 1]) ||
+                                              cells_[i - 1].kind == Kind::digit));
+        continue;
       }
-      char32_t letter = base.scalar;
-      if (marks > 0 && (isLatin(base) || base.kind == Kind::digit)) {
-        const UChar32 composed =
-            marks == 1 ? unorm2_composePair(composition(), static_cast<UChar32>(base.scalar),
-                                            static_cast<UChar32>(cells_[i].scalar))
-                       : U_SENTINEL;
-        if (composed >= 0) letter = static_cast<char32_t>(composed);
-        isHeaped = isHeaped || composed < 0;
-      }
-      hasMarks = hasMarks || base.kind == Kind::accented || letter != base.scalar;
-      marked.add(letter);
-      plain.add(plainLetter(base));
+      hasMarks = hasMarks || cell.kind == Kind::accented;
+      marked.add(cell.scalar);
+      plain.add(plainLetter(cell));
     }
     if (!isHeaped && (!hasMarks || marked.isKnown() || !plain.isKnown())) return;
     for (std::size_t i = start; i < end; ++i) {
@@ -303,7 +355,7 @@ class LetterReader {
         replace(base, plainLetter(base));
         isChanged_ = true;
       }
-      while (i + 1 < end && cells_[i + 1].kind == Kind::mark) {
+      while (i + 1 < end && (cells_[i + 1].kind == Kind::mark || cells_[i + 1].kind == Kind::invisible)) {
         ++i;
         base.end = cells_[i].end;
         remove(cells_[i]);
@@ -358,7 +410,7 @@ class LetterJoiner {
   [[nodiscard]] static bool isBorder(const Cell& cell) {
     if (cell.kind == Kind::blank || cell.kind == Kind::stop) return true;
     constexpr std::u32string_view separators =
-        U"-_*/\\~=+,:|^#'\u00B7\u2022\u2024\u2027\u22C5\u30FB\u2013\u2014\u25CF\u2219";
+        U"-_*/\\~=+,:|^#'\u00B7\u2022\u2024\u22C5\u30FB\u2013\u2014\u25CF\u2219";
     return separators.find(cell.scalar) != std::u32string_view::npos;
   }
 
@@ -407,6 +459,11 @@ class LetterJoiner {
   /// Joins what makes words; the cell to go on behind.
   std::size_t joinUnits() {
     isJoined_ = false;
+    // With blanks between letters and more of them between words, all of it is set apart.
+    constexpr std::size_t manyUnits = 8;
+    isAllApart_ = units_.size() >= manyUnits &&
+                  std::any_of(units_.begin(), units_.end(),
+                              [](const Unit& unit) { return unit.startsWord; });
     for (std::size_t start = 0; start < units_.size();) {
       std::size_t end = start + 1;
       while (end < units_.size() && !units_[end].startsWord)
@@ -428,6 +485,7 @@ class LetterJoiner {
       if (isLatin(cell)) ++letters;
       letters_ += static_cast<char>(plainLetter(cell) | 0x20U);
     }
+    if (isAllApart_) return removeBetween(start, end);
     if (2 * letters < size || letters < 2) return;
     const std::size_t last = units_[end - 1].at;
     const bool isPointed = separatorLength_ == 1 && cells_[separator_].kind == Kind::stop;
@@ -438,8 +496,7 @@ class LetterJoiner {
     constexpr std::size_t longEnough = 5;
     constexpr std::size_t longEnoughBetweenSigns = 4;
     const auto& borders = letters == size ? segmenter_.segment(letters_) : noBorders_;
-    const bool isOneWord = size == 2 && borders.size() == 1;
-    if (size == 2 && !isOneWord) return;
+    if (size == 2 && (!areBlanks_ || borders.size() != 1)) return;
     if (borders.empty() && size < (areBlanks_ ? longEnough : longEnoughBetweenSigns)) return;
     removeBetween(start, end);
     for (const std::size_t border : borders)
@@ -475,6 +532,7 @@ class LetterJoiner {
   std::size_t separator_ = 0;
   std::size_t separatorLength_ = 0;
   bool areBlanks_ = false;
+  bool isAllApart_ = false;
   bool isJoined_ = false;
   bool isChanged_ = false;
 };
@@ -490,7 +548,7 @@ class WordMender {
     for (std::size_t i = 1; i + 1 < cells_.size(); ++i) {
       const Cell& cell = cells_[i];
       const bool mayBreak = cell.kind == Kind::lineBreak || cell.kind == Kind::stop ||
-                            (cell.kind == Kind::sign && isBreakingSign(cell.scalar));
+                            isBreakingSign(cell.scalar) || isStraySign(cell.scalar);
       if (!mayBreak || !isLatin(cells_[i - 1])) continue;
       if (cell.kind == Kind::lineBreak) {
         i = mendLine(i, i, false);
@@ -505,7 +563,12 @@ class WordMender {
 
  private:
   static bool isBreakingSign(char32_t scalar) {
-    constexpr std::u32string_view signs = U"-_*~|=^/\\'";
+    return scalar == U'-' || scalar == U'_' || scalar == U'=';
+  }
+
+  /// Those that stand between the letters of a word for no honest reason.
+  static bool isStraySign(char32_t scalar) {
+    constexpr std::u32string_view signs = U"*~^\u00B7\u2022\u2024\u22C5\u30FB\u25CF\u2219";
     return signs.find(scalar) != std::u32string_view::npos;
   }
 
@@ -590,7 +653,7 @@ class WordMender {
       if (whole.size() <= longestWord) add(whole, end + 1, behind);
       end = behind;
     }
-    if (!areWords && whole.isKnown())
+    if ((!areWords || isStraySign(separator)) && whole.isKnown())
       for (std::size_t i = sign; i < end; ++i)
         if (!isLatin(cells_[i])) removeCells(i, i + 1);
     return end - 1;
@@ -607,88 +670,129 @@ class SignReader {
   explicit SignReader(Cells& cells) : cells_(cells) {}
 
   bool read() {
-    for (std::size_t start = 0; start < cells_.size();) {
-      if (!isPart(cells_[start])) {
-        ++start;
-        continue;
-      }
-      std::size_t end = start;
-      bool hasSigns = false;
-      for (; end < cells_.size() && isPart(cells_[end]); ++end)
-        hasSigns = hasSigns || isSign(cells_[end]);
-      if (hasSigns) readToken(start, end);
-      start = end;
+    findTokens();
+    std::size_t words = 0;
+    std::size_t spelt = 0;
+    for (const Token& token : tokens_) {
+      if (token.signs == 0)
+        ++words;
+      else if (token.letters > 0 && !isMeasure(token) && isSpelt(token, false))
+        ++spelt;
     }
+    // Where many words are spelt with digits, numbers and names are, too.
+    constexpr std::size_t fewSpelt = 3;
+    if (spelt >= fewSpelt && 3 * spelt >= words)
+      for (const Token& token : tokens_)
+        if (token.signs > 0 && !isAmount(token)) isSpelt(token, token.letters > 0 || isEnding(token));
     return isChanged_;
   }
 
  private:
+  /// Letters, digits and signs in a row.
+  struct Token {
+    std::size_t start = 0;
+    std::size_t end = 0;
+    std::size_t letters = 0;
+    std::size_t signs = 0;
+    bool isSmall = false;  ///< has a small letter
+  };
+
   static bool isSign(const Cell& cell) {
     return cell.kind == Kind::digit || (cell.kind == Kind::sign && !lettersOf(cell).empty());
   }
 
-  static bool isPart(const Cell& cell) { return isLatin(cell) || isSign(cell); }
+  /// Exclamation marks end more sentences than they stand for letters at the end of words.
+  [[nodiscard]] bool isPart(std::size_t i) const {
+    const Cell& cell = cells_[i];
+    if (cell.scalar != U'!' && cell.scalar != U'|') return isLatin(cell) || isSign(cell);
+    return i + 1 < cells_.size() && isLatin(cells_[i + 1]);
+  }
 
-  static std::string_view lettersOf(const Cell& cell) { return tables().of(cell.scalar).view(); }
-
-  void readToken(std::size_t start, std::size_t end) {
-    // Exclamation marks end more sentences than they stand for letters at the end of words.
-    for (const bool isWhole : {true, false}) {
-      std::size_t last = end;
-      if (!isWhole)
-        while (last > start && cells_[last - 1].kind == Kind::sign)
-          --last;
-      if (last - start < 2 || last - start > longestWord || isMeasure(start, last)) continue;
-      if (isSpelt(start, last)) return;
+  void findTokens() {
+    for (std::size_t i = 0; i < cells_.size();) {
+      if (!isPart(i)) {
+        ++i;
+        continue;
+      }
+      Token token{.start = i};
+      for (; i < cells_.size() && isPart(i); ++i) {
+        if (isLatin(cells_[i])) {
+          ++token.letters;
+          token.isSmall = token.isSmall || !isUpper(cells_[i]);
+        } else {
+          ++token.signs;
+        }
+      }
+      token.end = i;
+      if (token.letters + token.signs <= longestWord) tokens_.push_back(token);
     }
   }
 
   /// "100k" and "15th" are numbers.
-  [[nodiscard]] bool isMeasure(std::size_t start, std::size_t end) const {
-    std::size_t digits = start;
-    while (digits < end && cells_[digits].kind == Kind::digit)
+  [[nodiscard]] bool isMeasure(const Token& token) const {
+    std::size_t digits = token.start;
+    while (digits < token.end && cells_[digits].kind == Kind::digit)
       ++digits;
-    return digits == end || (digits - start >= 2 && end - digits <= 2);
+    constexpr std::size_t longestUnit = 2;
+    const std::size_t rest = token.end - digits;
+    return rest > 0 && rest == token.letters && digits - token.start >= 2 && rest <= longestUnit;
   }
 
-  /// Tries what the signs may stand for, and writes the first word that comes of it.
-  bool isSpelt(std::size_t start, std::size_t end) {
-    std::size_t letters = 0;
-    std::size_t signs = 0;
+  /// Whether no letter is in it, and it is a sum of money or a part of a longer number.
+  [[nodiscard]] bool isAmount(const Token& token) const {
+    if (token.letters > 0) return false;
+    const auto isOfNumber = [&](std::size_t i) {
+      constexpr std::u32string_view signs = U".,:/%#-$+@";
+      return signs.find(cells_[i].scalar) != std::u32string_view::npos;
+    };
+    const std::size_t before = token.start;
+    const bool isJoined =
+        before > 1 && isOfNumber(before - 1) && cells_[before - 2].kind == Kind::digit;
+    const bool isContinued = token.end + 1 < cells_.size() && isOfNumber(token.end) &&
+                             cells_[token.end + 1].kind == Kind::digit;
+    return isJoined || isContinued || cells_[before].kind != Kind::digit;
+  }
+
+  /// Whether it stands for the letters behind an apostrophe.
+  [[nodiscard]] bool isEnding(const Token& token) const {
+    return token.end - token.start <= 2 && token.start > 1 &&
+           (cells_[token.start - 1].scalar == U'\'' || cells_[token.start - 1].scalar == U'\u2019') &&
+           isLatin(cells_[token.start - 2]);
+  }
+
+  /// Tries what the signs may stand for, and writes the first word that comes of it, or else, if
+  /// it is to be read `inAnyCase`, the likeliest letters.
+  bool isSpelt(const Token& token, bool inAnyCase) {
     std::size_t ways = 1;
     constexpr std::size_t mostWays = 16;
-    for (std::size_t i = start; i < end; ++i) {
-      if (isLatin(cells_[i])) {
-        ++letters;
-      } else {
-        ++signs;
-        ways = std::min(ways * lettersOf(cells_[i]).size(), mostWays);
-      }
-    }
-    if (letters == 0 || signs == 0) return false;
+    for (std::size_t i = token.start; i < token.end; ++i)
+      if (!isLatin(cells_[i])) ways = std::min(ways * lettersOf(cells_[i]).size(), mostWays);
     for (std::size_t way = 0; way < ways; ++way) {
       Word word;
       std::size_t rest = way;
-      for (std::size_t i = start; i < end; ++i)
+      for (std::size_t i = token.start; i < token.end; ++i)
         word.add(isLatin(cells_[i]) ? plainLetter(cells_[i]) : letterOf(cells_[i], rest));
       if (!word.isKnown()) continue;
-      rest = way;
-      for (std::size_t i = start; i < end; ++i)
-        if (!isLatin(cells_[i])) replace(cells_[i], letterOf(cells_[i], rest));
-      return isChanged_ = true;
+      spell(token, way);
+      return true;
     }
-    return false;
+    if (!inAnyCase) return false;
+    spell(token, 0);
+    return true;
   }
 
-  /// One of the letters; which, is the last digit of `way` in the number system of their number.
-  static char32_t letterOf(const Cell& cell, std::size_t& way) {
-    const std::string_view letters = lettersOf(cell);
-    const char letter = letters[way % letters.size()];
-    way /= letters.size();
-    return static_cast<char32_t>(letter);
+  void spell(const Token& token, std::size_t way) {
+    for (std::size_t i = token.start; i < token.end; ++i) {
+      if (isLatin(cells_[i])) continue;
+      const char32_t letter = letterOf(cells_[i], way);
+      const bool isCapital = !token.isSmall && token.letters > 0;
+      replace(cells_[i], isCapital ? letter - 0x20 : letter);
+    }
+    isChanged_ = true;
   }
 
   Cells& cells_;
+  std::vector<Token> tokens_;
   bool isChanged_ = false;
 };
 
@@ -700,30 +804,63 @@ class BlankMover {
 
   bool move() {
     for (std::size_t start = 0; start < cells_.size();) {
-      std::size_t end = start;
-      KnownWords words;
-      while (end < cells_.size() && (isPlainLetter(cells_[end]) || cells_[end].kind == Kind::blank)) {
-        Word word;
-        const std::size_t first = end;
-        while (end < cells_.size() && isPlainLetter(cells_[end])) {
-          if (word.size() <= longestWord) word.add(cells_[end].scalar);
-          ++end;
-        }
-        const bool isName = end - first > 1 && isUpper(cells_[first]) && !isUpper(cells_[first + 1]);
-        if (end > first) words.add(end - first, word.isKnown(), isName);
-        while (end < cells_.size() && cells_[end].kind == Kind::blank)
-          ++end;
-      }
-      if (words.mayHaveMovedBlanks()) moveWithin(start, end);
+      const std::size_t end = findWords(start);
+      // All of them at once where most are none, or else around each.
+      if (counts_.mayHaveMovedBlanks() && !(counts_.areMostlyUnknown() && isMoved(start, end, true)))
+        moveAroundUnknown();
       start = std::max(end, start + 1);
     }
     return isChanged_;
   }
 
  private:
+  struct Found {
+    std::size_t start = 0;
+    std::size_t end = 0;
+    bool isKnown = false;
+  };
+
   static bool isPlainLetter(const Cell& cell) { return cell.kind == Kind::letter; }
 
-  void moveWithin(std::size_t start, std::size_t end) {
+  /// The words with nothing but blanks between them; the end.
+  std::size_t findWords(std::size_t start) {
+    counts_ = {};
+    words_.clear();
+    std::size_t end = start;
+    while (end < cells_.size() && (isPlainLetter(cells_[end]) || cells_[end].kind == Kind::blank)) {
+      Word word;
+      const std::size_t first = end;
+      while (end < cells_.size() && isPlainLetter(cells_[end])) {
+        if (word.size() <= longestWord) word.add(cells_[end].scalar);
+        ++end;
+      }
+      if (end > first) {
+        const bool isName = end - first > 1 && isUpper(cells_[first]) && !isUpper(cells_[first + 1]);
+        counts_.add(end - first, word.isKnown(), isName);
+        words_.push_back({.start = first, .end = end, .isKnown = word.isKnown()});
+      }
+      while (end < cells_.size() && cells_[end].kind == Kind::blank)
+        ++end;
+    }
+    return end;
+  }
+
+  /// Within what is unknown and the words on both sides, if all of that is made of words.
+  void moveAroundUnknown() {
+    for (std::size_t i = 0; i < words_.size(); ++i) {
+      if (words_[i].isKnown) continue;
+      const std::size_t first = i > 0 ? i - 1 : 0;
+      std::size_t last = i;
+      while (last + 1 < words_.size() &&
+             (!words_[last].isKnown || !words_[last + 1].isKnown ||
+              (last + 2 < words_.size() && !words_[last + 2].isKnown)))
+        ++last;
+      static_cast<void>(isMoved(words_[first].start, words_[last].end, false));
+      i = last;
+    }
+  }
+
+  bool isMoved(std::size_t start, std::size_t end, bool mayHaveUnknown) {
     letters_.clear();
     blanks_.clear();
     for (std::size_t i = start; i < end; ++i) {
@@ -735,7 +872,10 @@ class BlankMover {
     const auto& borders = segmenter_.segment(letters_, blanks_);
     // Short words are found in letters of any kind.
     constexpr std::size_t meanLength = 3;
-    if (borders.empty() || borders.size() * meanLength > letters_.size()) return;
+    if (borders.empty() || borders.size() * meanLength > letters_.size() ||
+        (!mayHaveUnknown && segmenter_.unknownLetters() > 0) ||
+        2 * segmenter_.commonLetters() < letters_.size())
+      return false;
     std::size_t letter = 0;
     auto border = borders.begin();
     bool isAfterBlank = true;
@@ -759,10 +899,13 @@ class BlankMover {
       isAfterBlank = false;
       ++letter;
     }
+    return true;
   }
 
   Cells& cells_;
   Segmenter& segmenter_;
+  KnownWords counts_;
+  std::vector<Found> words_;
   std::string letters_;
   std::vector<std::size_t> blanks_;
   bool isChanged_ = false;
@@ -807,7 +950,8 @@ class PointReader {
   }
 
  private:
-  static constexpr char32_t pointOfAddress = U'\u00B7';
+  /// The hyphenation point, which looks like one and is one to no rule.
+  static constexpr char32_t pointOfAddress = U'\u2027';
 
   [[nodiscard]] const Cell* at(std::size_t i) const {
     return i < cells_.size() ? &cells_[i] : nullptr;
@@ -835,11 +979,21 @@ class PointReader {
     const Cell* before = point > 0 ? &cells_[point - 1] : nullptr;
     const Cell* after = at(point + 1);
     if (after == nullptr) return point;
+    const bool isWithin = isAlphanumeric(*after) && before != nullptr && isAlphanumeric(*before);
+    if (isWithin && point >= endOfToken_) findToken(point);
+    if (isWithin && isAddress_) {
+      if (goesOn_) readAddress(point);
+      return endOfToken_ - 1;
+    }
     if (after->kind == Kind::digit && (before == nullptr || before->kind != Kind::letter)) {
       // A number, a time, a date, a version.
       change(point, U',');
-    } else if (before != nullptr && isAlphanumeric(*before) && isAlphanumeric(*after)) {
-      return readToken(point);
+    } else if (isWithin) {
+      // Words between which a blank was left out, or the name of a thing.
+      if (isNumbered_)
+        change(point, pointOfAddress);
+      else if (!isUpper(*after))
+        change(point, U' ');
     } else if (before != nullptr && isAlphanumeric(*before)) {
       readAbbreviation(point);
     }
@@ -856,37 +1010,50 @@ class PointReader {
     if (end < cells_.size() && !isSpace(cells_[end])) cells_[end].isBehindBlank = true;
   }
 
-  /// Addresses keep a point that is none; words without a blank between them get one.
-  std::size_t readToken(std::size_t point) {
+  /// What stands between blanks around a point.
+  void findToken(std::size_t point) {
     std::size_t start = point;
-    while (start > 0 && !isSpace(cells_[start - 1]) && cells_[start - 1].scalar != U'<' &&
-           cells_[start - 1].scalar != U'(')
+    while (start > 0 && !isSpace(cells_[start - 1]))
       --start;
     std::size_t end = point;
-    bool isAddress = false;
-    for (; end < cells_.size() && !isSpace(cells_[end]); ++end) {
-      const char32_t scalar = cells_[end].scalar;
-      isAddress = isAddress || scalar == U'@' || scalar == U'/';
-    }
-    for (std::size_t i = start; i < point; ++i)
-      isAddress = isAddress || cells_[i].scalar == U'@' || cells_[i].scalar == U'/';
+    while (end < cells_.size() && !isSpace(cells_[end]))
+      ++end;
     // What follows it belongs to the sentence.
     while (end > point + 1 && !isAlphanumeric(cells_[end - 1]))
       --end;
-    isAddress = isAddress || isHostName(point, end);
-    const bool isNumbered = std::any_of(
-        cells_.begin() + static_cast<std::ptrdiff_t>(start),
-        cells_.begin() + static_cast<std::ptrdiff_t>(end),
-        [](const Cell& cell) { return cell.kind == Kind::digit; });
-    for (std::size_t i = point; i < end; ++i) {
-      const bool isMark = cells_[i].scalar == U'?' || cells_[i].scalar == U'!';
-      if (cells_[i].kind != Kind::stop && !(isAddress && isMark)) continue;
-      if (isAddress || isNumbered)
-        change(i, pointOfAddress);
-      else if (i + 1 < end && !isUpper(cells_[i + 1]))
-        change(i, U' ');
+    isAddress_ = isHostName(point, end);
+    isNumbered_ = false;
+    for (std::size_t i = start; i < end; ++i) {
+      isAddress_ = isAddress_ || cells_[i].scalar == U'@' || cells_[i].scalar == U'/';
+      isNumbered_ = isNumbered_ || cells_[i].kind == Kind::digit;
     }
-    return end - 1;
+    endOfToken_ = end;
+    goesOn_ = isAddress_ && goesOn(end);
+  }
+
+  /// The points of an address become what ends no sentence.
+  void readAddress(std::size_t point) {
+    for (std::size_t i = point; i < endOfToken_; ++i) {
+      const char32_t scalar = cells_[i].scalar;
+      if (scalar == U'.' || scalar == U'?' || scalar == U'!') change(i, pointOfAddress);
+    }
+  }
+
+  /// Whether the sentence goes on behind an address.
+  [[nodiscard]] bool goesOn(std::size_t end) const {
+    bool isNextLine = false;
+    while (end < cells_.size() && !isAlphanumeric(cells_[end])) {
+      if (cells_[end].kind == Kind::stop || cells_[end].scalar == U'!' || cells_[end].scalar == U'?')
+        return false;
+      if (cells_[end].kind == Kind::lineBreak) {
+        if (isNextLine && cells_[end - 1].kind == Kind::lineBreak &&
+            cells_[end - 1].scalar != U'\r')
+          return false;
+        isNextLine = true;
+      }
+      ++end;
+    }
+    return end < cells_.size() && !(isNextLine && isUpper(cells_[end]));
   }
 
   /// Whether the last part is one of the common ends of host names.
@@ -964,6 +1131,10 @@ class PointReader {
 
   Cells& cells_;
   mutable std::array<char, longestAbbreviation> word_{};
+  std::size_t endOfToken_ = 0;
+  bool isAddress_ = false;
+  bool isNumbered_ = false;
+  bool goesOn_ = false;
   bool isChanged_ = false;
 };
 

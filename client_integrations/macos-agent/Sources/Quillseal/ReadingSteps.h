@@ -40,14 +40,16 @@ class KnownWords {
     }
   }
 
-  /// Whether blanks may have been moved or taken out: too much is unknown.
+  /// Whether blanks may have been moved, put in or taken out: too much is unknown.
   [[nodiscard]] bool mayHaveMovedBlanks() const {
     constexpr std::size_t fewWords = 2;
     constexpr std::size_t fewLetters = 8;
     const bool isMuch =
         unknownWords_ >= fewWords ? unknown_ >= fewLetters : unknown_ > longestName;
-    return isMuch && 2 * unknown_ >= known_;
+    return isMuch && 8 * unknown_ >= known_;
   }
+
+  [[nodiscard]] bool areMostlyUnknown() const { return 2 * unknown_ >= known_; }
 
  private:
   static constexpr std::size_t longestName = 13;

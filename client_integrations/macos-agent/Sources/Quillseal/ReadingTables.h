@@ -73,17 +73,35 @@ inline constexpr std::size_t longestWord = 24;
   return hash ^ hash >> 32;
 }
 
-/// Whether `word` is a word of a rule or a common English one. (One of thousands of millions of
-/// others passes for one.)
-[[nodiscard]] inline bool isWord(const Tables& tables, std::string_view word) {
-  if (word.empty() || word.size() > longestWord) return false;
+enum class WordClass : std::uint8_t {
+  unknown,
+  ofRules,  ///< in a match of some rule
+  common,   ///< a common English word
+};
+
+/// Of an entry of the table of words, two bits say what kind of word it is, the others which one.
+inline constexpr std::uint32_t commonWordBit = 2;
+inline constexpr std::uint32_t wordBit = 1;
+
+[[nodiscard]] inline std::uint32_t fingerprintOf(std::uint64_t hashOfWord) {
+  return static_cast<std::uint32_t>(hashOfWord >> 32) & ~(commonWordBit | wordBit);
+}
+
+/// What is known of `word`. (One of a thousand million others passes for a word.)
+[[nodiscard]] inline WordClass classOf(const Tables& tables, std::string_view word) {
+  if (word.empty() || word.size() > longestWord) return WordClass::unknown;
   const std::uint64_t hash = hashOfWord(word);
-  const auto fingerprint = static_cast<std::uint32_t>(hash >> 32) | 1U;
   const std::size_t mask = tables.words.size() - 1;
   for (std::size_t slot = hash & mask;; slot = (slot + 1) & mask) {
-    if (tables.words[slot] == fingerprint) return true;
-    if (tables.words[slot] == 0) return false;
+    const std::uint32_t entry = tables.words[slot];
+    if (entry == 0) return WordClass::unknown;
+    if (((entry ^ fingerprintOf(hash)) & ~(commonWordBit | wordBit)) == 0)
+      return (entry & commonWordBit) != 0 ? WordClass::common : WordClass::ofRules;
   }
+}
+
+[[nodiscard]] inline bool isWord(const Tables& tables, std::string_view word) {
+  return classOf(tables, word) != WordClass::unknown;
 }
 
 }  // namespace quillseal::reading

@@ -14,6 +14,7 @@
 #include "Quillseal/CompiledRules.h"
 #include "Quillseal/ContentRisk.h"
 #include "Quillseal/ContentRules.h"
+#include "Quillseal/ReadableText.h"
 #include "Quillseal/ScreeningEngine.h"
 #include "Quillseal/UnicodeText.h"
 #include "RandomText.h"
@@ -95,6 +96,21 @@ void screen(benchmark::State& state, const std::string& text) {
     benchmark::DoNotOptimize(ContentRisk::evaluate(text));
 }
 
+/// Without the screening.
+void read(benchmark::State& state, const std::string& text) {
+  for (auto _ : state)
+    benchmark::DoNotOptimize(ReadableText(text));
+  state.SetLabel(ReadableText(text).isAsWritten() ? "as written" : "read otherwise");
+}
+
+/// As a signature needs it: the text as written, and as it is read.
+void screenTwice(benchmark::State& state, const std::string& text) {
+  for (auto _ : state) {
+    const ContentRisk::Screening asWritten = ContentRisk::screen(text);
+    benchmark::DoNotOptimize(ContentRisk::screenAsRead(text, asWritten));
+  }
+}
+
 /// One search by ICU for each rule, without those that look ahead over the whole text: with them,
 /// the loop does not end on the longer texts.
 void plainLoop(benchmark::State& state, const std::string& text) {
@@ -168,6 +184,8 @@ void screenWorst(benchmark::State& state, const Worst& worst) {
   for (const auto& [name, text] : besideTheLoop) {
     benchmark::RegisterBenchmark(("screen/" + name).c_str(), screen, text);
     benchmark::RegisterBenchmark(("plain_icu_loop/" + name).c_str(), plainLoop, text);
+    benchmark::RegisterBenchmark(("read/" + name).c_str(), read, text);
+    benchmark::RegisterBenchmark(("screen_twice/" + name).c_str(), screenTwice, text);
   }
   // On these the plain loop takes from minutes to for ever.
   std::string joined = "a";
@@ -184,9 +202,41 @@ void screenWorst(benchmark::State& state, const Worst& worst) {
   };
   for (const auto& [name, text] : alone)
     benchmark::RegisterBenchmark(("screen/" + name).c_str(), screen, text);
+  // What gives each step of the reading the most to do.
+  const std::pair<std::string, std::string> inDisguise[] = {
+      {"unknown_letters", repeated("accountx", 200'000)},
+      {"unknown_words", repeated("xyzzy plugh ", 200'000)},
+      {"moved_blanks", repeated("plea sesend thegift cards ", 200'000)},
+      {"apart", repeated("v e r i f y  ", 200'000)},
+      {"apart_unknown", repeated("q x ", 200'000)},
+      {"between_points", repeated("a.", 200'000)},
+      {"hyphens", repeated("a-", 200'000)},
+      {"broken_lines", repeated("acc-\nount ", 200'000)},
+      {"digits_for_letters", repeated("1111111111111a ", 200'000)},
+      {"spelt_with_digits", repeated("v3r1fy y0ur 4cc0un7 ", 200'000)},
+      {"points", repeated("No. 7 of Mr. Webb for $12,499.00 ", 200'000)},
+      {"addresses", repeated("a.b.com ", 200'000)},
+      {"one_address", repeated("a.b@c.d?e", 200'000)},
+      {"look_alikes", repeated("vеrіfу уоur ассоunt ", 200'000)},
+      {"twins_of_two_letters", repeated("ӏӏӏӏӏӏӏӏa ", 200'000)},
+      {"marks", repeated("a\u0301\u0302", 200'000)},
+      {"full_width", repeated("ｖｅｒｉｆｙ　", 200'000)},
+      {"invisible", repeated("\u200B", 200'000) + 'a'},
+      {"angle_brackets", repeated("<", 200'000) + 'a'},
+      {"numbers", repeated("1.", 200'000)},
+      {"ellipses", repeated("a... ", 200'000)},
+  };
+  for (const auto& [name, text] : inDisguise) {
+    benchmark::RegisterBenchmark(("read/" + name).c_str(), read, text);
+    benchmark::RegisterBenchmark(("screen_twice/" + name).c_str(), screenTwice, text);
+  }
   benchmark::RegisterBenchmark("screen/worst_found_200k", [](benchmark::State& state) {
     static const Worst worst = worstOfAll();
     screenWorst(state, worst);
+  });
+  benchmark::RegisterBenchmark("screen_twice/worst_found_200k", [](benchmark::State& state) {
+    static const Worst worst = worstOfAll();
+    screenTwice(state, "p@ypal " + repeated(worst.unit, 200'000).substr(0, 199'990));
   });
   for (std::size_t rule = 0; rule < ContentRules::all.size(); ++rule)
     benchmark::RegisterBenchmark(

@@ -48,7 +48,7 @@ void writeArray(std::ostream& out, std::string_view type, std::string_view name,
   constexpr std::size_t numbersOfLine = 16;
   out << "constexpr " << type << ' ' << name << "[] = {";
   for (std::size_t i = 0; i < numbers.size(); ++i)
-    out << (i % numbersOfLine == 0 ? "\n    " : " ") << numbers[i] << ',';
+    out << (i % numbersOfLine == 0 ? "\n    " : " ") << +numbers[i] << ',';
   out << "};\n\n";
 }
 
@@ -58,6 +58,7 @@ void writeReadings(std::ostream& out, const quillseal::reading::CompiledTables& 
   writeArray(out, "std::uint16_t", "blocks", tables.blocks);
   writeArray(out, "std::uint16_t", "readings", tables.readings);
   writeArray(out, "std::uint32_t", "words", tables.words);
+  writeArray(out, "std::uint8_t", "longest", tables.longest);
   out << "constexpr Reading distinctReadings[] = {";
   for (const quillseal::reading::Reading& reading : tables.distinctReadings) {
     out << "\n    {static_cast<Reading::Kind>(" << static_cast<int>(reading.kind) << "), {";
@@ -66,10 +67,8 @@ void writeReadings(std::ostream& out, const quillseal::reading::CompiledTables& 
     out << "}},";
   }
   out << "};\n\n}  // namespace\n\n"
-         "const Tables& tables() {\n"
-         "  static constexpr Tables all{blocks, readings, distinctReadings, words};\n"
-         "  return all;\n"
-         "}\n\n}  // namespace quillseal::reading\n";
+         "constinit const Tables compiledTables{blocks, readings, distinctReadings, words, longest};\n\n"
+         "}  // namespace quillseal::reading\n";
 }
 
 template <typename Write>

@@ -279,6 +279,11 @@ class WordCollector {
   void add(const std::string& word) {
     const bool isOneLetter = word.size() == 1 && word != "a" && word != "i";
     if (word.empty() || word.size() > longestWord || isOneLetter) return;
+    const auto isRunOfThree = [&](std::size_t i) {
+      return word[i] == word[i + 1] && word[i] == word[i + 2];
+    };
+    for (std::size_t i = 0; i + 2 < word.size(); ++i)
+      if (isRunOfThree(i)) return;
     if (word.find(anyLetter) == std::string::npos) words_.insert(word);
   }
 
@@ -411,14 +416,12 @@ void addCommonWords(std::string_view list, std::set<std::string>& words) {
 
 std::vector<std::uint32_t> hashTableOf(const std::set<std::string>& words,
                                        const std::set<std::string>& common) {
-  std::set<std::string> all = words;
-  all.insert(common.begin(), common.end());
   std::size_t size = 1;
-  while (size < 3 * all.size())
+  while (size < 3 * words.size())
     size *= 2;
   std::vector<std::uint32_t> table(size);
-  for (const std::string& word : all) {
-    const std::uint64_t hash = hashOfWord(word);
+  for (const std::string& word : words) {
+    const std::uint64_t hash = hashOfWord(bytesOfWord(word));
     std::size_t slot = hash & (size - 1);
     while (table[slot] != 0)
       slot = (slot + 1) & (size - 1);
@@ -467,7 +470,16 @@ CompiledTables compileReadings(std::span<const screening::Pattern> patterns,
   }
   std::set<std::string> common;
   addCommonWords(commonWords, common);
-  tables.words = hashTableOf(wordsOf(patterns), common);
+  std::set<std::string> words = wordsOf(patterns);
+  words.insert(common.begin(), common.end());
+  tables.words = hashTableOf(words, common);
+  tables.longest.resize(beginnings);
+  for (const std::string& word : words) {
+    const bool isAscii = std::all_of(word.begin(), word.end(), [](char c) { return c >= 'a' && c <= 'z'; });
+    if (!isAscii || word.size() < 3) continue;
+    std::uint8_t& longest = tables.longest[beginningOf(word.data())];
+    longest = std::max(longest, static_cast<std::uint8_t>(word.size()));
+  }
   return tables;
 }
 

@@ -19,6 +19,7 @@ struct CompiledTables {
   std::vector<std::uint16_t> readings;
   std::vector<Reading> distinctReadings;
   std::vector<std::uint32_t> words;
+  std::vector<std::uint8_t> longest;
 };
 
 /// The words that matches of `patterns` may hold, in small letters of Latin-1, one byte each.

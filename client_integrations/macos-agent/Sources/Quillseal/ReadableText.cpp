@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
+#include <cstring>
 #include <limits>
 
 #include "Quillseal/ReadingSteps.h"
@@ -117,13 +119,29 @@ class PlainText {
       words_.add(length, false, false);
       return false;
     }
-    std::array<char, reading::longestWord> letters{};
-    for (std::size_t i = 0; i < length; ++i)
-      letters[i] = static_cast<char>(text_[start + i] | 0x20);
-    const bool isKnown = reading::isWord(tables_, {letters.data(), length});
+    const bool isKnown =
+        reading::classOf(smallLetters(start, length)) != reading::WordClass::unknown;
     const bool isName = length > 1 && text_[start] < 'a' && text_[start + 1] >= 'a';
     words_.add(length, isKnown, isName);
     return isKnown;
+  }
+
+  [[nodiscard]] reading::WordBytes smallLetters(std::size_t start, std::size_t length) const {
+    constexpr std::uint64_t smallBits = 0x2020202020202020;
+    reading::WordBytes bytes{};
+    if (length <= 8 && start + 8 <= text_.size()) {
+      std::memcpy(bytes.data(), &text_[start], 8);
+      const std::size_t unused = 64 - 8 * length;
+      if constexpr (std::endian::native == std::endian::little)
+        bytes[0] = (bytes[0] | smallBits) << unused >> unused;
+      else
+        bytes[0] = (bytes[0] | smallBits) >> unused << unused;
+      return bytes;
+    }
+    std::array<char, reading::longestWord> letters{};
+    for (std::size_t i = 0; i < length; ++i)
+      letters[i] = static_cast<char>(text_[start + i] | 0x20);
+    return reading::bytesOfWord({letters.data(), length});
   }
 
   [[nodiscard]] bool passesPoint(std::size_t start, std::size_t length) {
@@ -143,7 +161,6 @@ class PlainText {
   }
 
   std::string_view text_;
-  const reading::Tables& tables_ = reading::tables();
   std::size_t position_ = 0;
   std::size_t endOfWord_ = 0;
   reading::KnownWords words_;  ///< with nothing but blanks between them
@@ -153,98 +170,150 @@ class PlainText {
 
 // ---- From bytes to cells and back
 
-/// Code points with what they always read as.
+/// What code points of ASCII are.
+const std::array<Kind, 0x80>& asciiKinds() {
+  static const std::array<Kind, 0x80> kinds = [] {
+    std::array<Kind, 0x80> all{};
+    for (std::size_t c = 0; c < all.size(); ++c)
+      all[c] = reading::compiledTables.of(static_cast<char32_t>(c)).kind;
+    return all;
+  }();
+  return kinds;
+}
+
+/// The code points of a part of a text, with what they always read as.
 class Decoder {
  public:
-  Decoder(std::string_view text, Cells& cells, Contents& contents)
-      : text_(text), cells_(cells), contents_(contents) {
-    for (std::size_t c = 0; c < ascii_.size(); ++c)
-      ascii_[c] = tables_.of(static_cast<char32_t>(c)).kind;
-  }
+  Decoder(std::string_view text, Cells& cells) : text_(text), cells_(cells) {}
 
-  /// Whether any code point reads as something else.
-  bool decode() {
-    cells_.reserve(text_.size());
+  /// Reads the part; whether any code point reads as something else.
+  bool decode(std::size_t start, std::size_t end) {
     bool isChanged = false;
-    for (std::size_t position = 0; position < text_.size();) {
-      const std::size_t start = position;
+    for (std::size_t position = start; position < end;) {
+      const std::size_t first = position;
       const char32_t scalar = unicode::decodeNext(text_, position);
-      const Reading& reading = tables_.of(scalar);
-      const Kind kind = scalar < ascii_.size() ? ascii_[scalar] : reading.kind;
-      note(kind, scalar);
-      if (kind == Kind::same) {
+      if (scalar < ascii_.size() && ascii_[scalar] != Kind::invisible) {
+        contents_.hasFormsByNeighbour =
+            contents_.hasFormsByNeighbour || scalar == U'<' || scalar == U'>';
+        contents_.hasLettersOrStops = contents_.hasLettersOrStops ||
+                                      ascii_[scalar] == Kind::letter || ascii_[scalar] == Kind::stop;
+        add(scalar, first, position, ascii_[scalar], true);
+        continue;
+      }
+      const Reading& reading = reading::compiledTables.of(scalar);
+      note(reading.kind);
+      if (reading.kind == Kind::same) {
         isChanged = true;
         for (const char letter : reading.view())
-          add(static_cast<char32_t>(letter), start, position,
-              ascii_[static_cast<unsigned char>(letter)]);
-      } else if (kind == Kind::invisible) {
+          add(static_cast<char32_t>(letter), first, position,
+              ascii_[static_cast<unsigned char>(letter)], false);
+      } else if (reading.kind == Kind::invisible) {
         isChanged = true;
         // A soft hyphen is drawn where the line ends.
-        const bool isDrawn = scalar == softHyphen && position < text_.size() &&
+        const bool isDrawn = scalar == softHyphen && position < end &&
                              (text_[position] == '\n' || text_[position] == '\r');
-        if (isDrawn) add(U'-', start, position, Kind::sign);
+        if (isDrawn) add(U'-', first, position, Kind::sign, false);
       } else {
-        add(scalar, start, position, kind);
+        // An ill-formed part reads as U+FFFD.
+        add(scalar, first, position, reading.kind, scalar != U'\uFFFD');
       }
     }
     return isChanged;
   }
 
+  [[nodiscard]] const Contents& contents() const { return contents_; }
+
  private:
-  void note(Kind kind, char32_t scalar) {
-    switch (kind) {
-      case Kind::accented:
-      case Kind::twin:
-      case Kind::mark:
-        contents_.hasLettersBeyondAscii = true;
-        break;
-      case Kind::wideSign:
-      case Kind::pictograph:
-        contents_.hasFormsByNeighbour = true;
-        break;
-      default:
-        if (scalar == U'<' || scalar == U'>') contents_.hasFormsByNeighbour = true;
-    }
+  void note(Kind kind) {
+    if (kind == Kind::accented || kind == Kind::twin || kind == Kind::same ||
+        kind == Kind::pictograph)
+      contents_.hasLettersOrStops = true;
+    if (kind == Kind::accented || kind == Kind::twin || kind == Kind::mark)
+      contents_.hasLettersBeyondAscii = true;
+    if (kind == Kind::wideSign || kind == Kind::pictograph) contents_.hasFormsByNeighbour = true;
   }
 
-  void add(char32_t scalar, std::size_t start, std::size_t end, Kind kind) {
+  void add(char32_t scalar, std::size_t start, std::size_t end, Kind kind, bool isCopy) {
     cells_.push_back({.scalar = scalar,
                       .start = static_cast<std::uint32_t>(start),
                       .end = static_cast<std::uint32_t>(end),
-                      .kind = kind});
+                      .kind = kind,
+                      .isCopy = isCopy});
   }
 
   std::string_view text_;
   Cells& cells_;
-  Contents& contents_;
-  const reading::Tables& tables_ = reading::tables();
-  std::array<Kind, 0x80> ascii_{};
+  Contents contents_;
+  const std::array<Kind, 0x80>& ascii_ = asciiKinds();
 };
+
+/// Where a part of `text` that can be read by itself ends: no step looks over a blank line, nor
+/// over the end of a line at which a sentence ends and another begins.
+std::size_t endOfPart(std::string_view text, std::size_t start) {
+  const auto at = [&](std::size_t i) { return i < text.size() ? text[i] : '\0'; };
+  for (std::size_t lineEnd = text.find('\n', start); lineEnd != std::string_view::npos;
+       lineEnd = text.find('\n', lineEnd + 1)) {
+    const char next = at(lineEnd + 1);
+    if (next == '\n' || (next == '\r' && at(lineEnd + 2) == '\n')) return lineEnd + 1;
+    const char before = lineEnd > start ? text[lineEnd - 1] : '\0';
+    const bool endsSentence = before == '.' || before == '!' || before == '?';
+    if (endsSentence && next >= 'A' && next <= 'Z') return lineEnd + 1;
+  }
+  return text.size();
+}
 
 }  // namespace
 
 ReadableText::ReadableText(std::string_view written) : written_(written) {
   if (written.size() > std::numeric_limits<std::uint32_t>::max()) return;
-  if (PlainText(written).isCertain()) return;
-
   Cells cells;
-  Contents contents;
-  bool isChanged = Decoder(written, cells, contents).decode();
-  isChanged = reading::undoDisguises(cells, contents) || isChanged;
-  if (!isChanged) return;
-
-  isAsWritten_ = false;
-  read_.reserve(written.size());
-  for (const Cell& cell : cells) {
-    const std::size_t start = read_.size();
-    unicode::append(read_, cell.scalar);
-    const std::string_view read = std::string_view(read_).substr(start);
-    const bool isCopy = read == written.substr(cell.start, cell.end - cell.start);
-    const bool goesOn = isCopy && !anchors_.empty() && anchors_.back().isRun &&
-                        cell.start - anchors_.back().start == start - anchors_.back().read;
-    if (!goesOn)
-      anchors_.push_back({.read = start, .start = cell.start, .end = cell.end, .isRun = isCopy});
+  std::size_t copied = 0;
+  for (std::size_t start = 0; start < written.size();) {
+    const std::size_t end = endOfPart(written, start);
+    if (!PlainText(written.substr(start, end - start)).isCertain()) {
+      cells.clear();
+      cells.reserve(end - start);
+      Decoder decoder(written, cells);
+      bool isChanged = decoder.decode(start, end);
+      isChanged = reading::undoDisguises(cells, decoder.contents()) || isChanged;
+      if (isChanged) {
+        copy(copied, start);
+        for (std::size_t i = 0; i < cells.size();) {
+          if (!cells[i].isCopy) {
+            add(cells[i].scalar, cells[i].start, cells[i].end);
+            ++i;
+            continue;
+          }
+          const std::size_t first = i++;
+          while (i < cells.size() && cells[i].isCopy && cells[i].start == cells[i - 1].end)
+            ++i;
+          copy(cells[first].start, cells[i - 1].end);
+        }
+        copied = end;
+        isAsWritten_ = false;
+      }
+    }
+    start = end;
   }
+  if (!isAsWritten_) copy(copied, written.size());
+}
+
+void ReadableText::copy(std::size_t start, std::size_t end) {
+  if (start == end) return;
+  goOn(start, end, true);
+  read_.append(written_, start, end - start);
+}
+
+void ReadableText::add(char32_t scalar, std::size_t start, std::size_t end) {
+  goOn(start, end, false);
+  unicode::append(read_, scalar);
+}
+
+void ReadableText::goOn(std::size_t start, std::size_t end, bool isRun) {
+  const bool isNext = isRun && !anchors_.empty() && anchors_.back().isRun &&
+                      start - anchors_.back().start == read_.size() - anchors_.back().read;
+  if (!isNext)
+    anchors_.push_back({.read = read_.size(), .start = start, .end = end, .isRun = isRun});
 }
 
 const ReadableText::Anchor& ReadableText::anchorAt(std::size_t read) const {

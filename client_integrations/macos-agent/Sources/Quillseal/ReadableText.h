@@ -43,6 +43,9 @@ class ReadableText {
     bool isRun = false;
   };
 
+  void copy(std::size_t start, std::size_t end);
+  void add(char32_t scalar, std::size_t start, std::size_t end);
+  void goOn(std::size_t start, std::size_t end, bool isRun);
   [[nodiscard]] const Anchor& anchorAt(std::size_t read) const;
 
   std::string_view written_;

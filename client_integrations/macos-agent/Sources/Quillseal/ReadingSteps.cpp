@@ -45,7 +45,8 @@ void remove(Cell& cell) {
 
 void replace(Cell& cell, char32_t scalar) {
   cell.scalar = scalar;
-  cell.kind = tables().of(scalar).kind;
+  cell.kind = compiledTables.of(scalar).kind;
+  cell.isCopy = false;
 }
 
 /// Takes what was removed out of the cells, and puts blanks in.
@@ -76,7 +77,7 @@ class Word {
   }
 
   [[nodiscard]] bool isKnown() const {
-    return !isTooMuch_ && isWord(tables(), {letters_.data(), size_});
+    return !isTooMuch_ && isWord({letters_.data(), size_});
   }
 
   [[nodiscard]] std::size_t size() const { return size_; }
@@ -89,13 +90,13 @@ class Word {
 
 /// The letter without its marks.
 char32_t plainLetter(const Cell& cell) {
-  return cell.kind == Kind::accented ? static_cast<char32_t>(tables().of(cell.scalar).text[0])
+  return cell.kind == Kind::accented ? static_cast<char32_t>(compiledTables.of(cell.scalar).text[0])
                                      : cell.scalar;
 }
 
 /// The letters that a twin, a digit or a sign may stand for.
 std::string_view lettersOf(const Cell& cell) {
-  return tables().of(cell.scalar).view();
+  return compiledTables.of(cell.scalar).view();
 }
 
 /// One of them; which one, is the last digit of `way` in the number system of their number.
@@ -125,9 +126,12 @@ class Segmenter {
     for (std::size_t start = 0; start < size; ++start) {
       // A letter that belongs to no word is dear; one word is cheaper than two.
       relax(start, 1, 30, WordClass::unknown);
-      const std::size_t most = std::min(longestWord, size - start);
+      std::size_t most = std::min<std::size_t>(2, size - start);
+      if (size - start > 2)
+        most = std::max<std::size_t>(
+            2, std::min<std::size_t>(compiledTables.longest[beginningOf(&letters[start])], size - start));
       for (std::size_t length = 1; length <= most; ++length) {
-        const WordClass word = classOf(tables(), letters.substr(start, length));
+        const WordClass word = classOf(letters.substr(start, length));
         if (word == WordClass::unknown) continue;
         // Short words of other languages and abbreviations are found in letters of any kind.
         constexpr std::array<std::uint32_t, 4> costOfShort{0, 22, 16, 11};
@@ -180,11 +184,10 @@ class Segmenter {
 /// no digest contains.
 bool readByNeighbours(Cells& cells) {
   bool isChanged = false;
+  const auto isLetterOfFlag = [&](std::size_t i) {
+    return i < cells.size() && cells[i].kind == Kind::pictograph;
+  };
   bool areFlags = true;
-  for (std::size_t i = 0, run = 0; i < cells.size(); ++i) {
-    run = cells[i].kind == Kind::pictograph ? run + 1 : 0;
-    areFlags = areFlags && run <= 2;
-  }
   const auto isBeside = [&](std::size_t i) {
     return (i > 0 && (isLatin(cells[i - 1]) || cells[i - 1].kind == Kind::digit)) ||
            (i + 1 < cells.size() && (isLatin(cells[i + 1]) || cells[i + 1].kind == Kind::digit));
@@ -194,11 +197,21 @@ bool readByNeighbours(Cells& cells) {
   };
   for (std::size_t i = 0; i < cells.size(); ++i) {
     if (cells[i].kind == Kind::wideSign && isBeside(i)) {
-      replace(cells[i], static_cast<char32_t>(tables().of(cells[i].scalar).text[0]));
+      replace(cells[i], static_cast<char32_t>(compiledTables.of(cells[i].scalar).text[0]));
       isChanged = true;
-    } else if (cells[i].kind == Kind::pictograph && !areFlags) {
-      replace(cells[i], static_cast<char32_t>(tables().of(cells[i].scalar).text[0]));
-      isChanged = true;
+    } else if (isLetterOfFlag(i)) {
+      std::size_t end = i;
+      while (isLetterOfFlag(end))
+        ++end;
+      // Two are a flag, unless a word of more stands before them in the line.
+      areFlags = areFlags && end - i <= 2;
+      const bool isFlag = areFlags && end - i == 2;
+      for (std::size_t k = i; k < end && !isFlag; ++k)
+        replace(cells[k], static_cast<char32_t>(compiledTables.of(cells[k].scalar).text[0]));
+      isChanged = isChanged || !isFlag;
+      i = end - 1;
+    } else if (cells[i].kind == Kind::lineBreak) {
+      areFlags = true;
     } else if (isAngle(i)) {
       std::size_t end = i;
       while (end < cells.size() && isAngle(end))
@@ -228,12 +241,11 @@ class LetterReader {
   explicit LetterReader(Cells& cells) : cells_(cells) {}
 
   bool read() {
-    const Scripts ofText = scriptsOf(0, cells_.size());
     for (std::size_t start = 0; start < cells_.size();) {
       std::size_t end = start;
       while (end < cells_.size() && cells_[end].kind != Kind::lineBreak)
         ++end;
-      readLine(start, end, ofText);
+      readLine(start, end);
       start = end + 1;
     }
     return isChanged_;
@@ -263,10 +275,9 @@ class LetterReader {
     return scripts;
   }
 
-  void readLine(std::size_t start, std::size_t end, const Scripts& ofText) {
+  void readLine(std::size_t start, std::size_t end) {
     const Scripts ofLine = scriptsOf(start, end);
-    const bool isLatinLine = ofLine.latin == ofLine.foreign ? ofText.latin >= ofText.foreign
-                                                            : ofLine.latin > ofLine.foreign;
+    const bool isLatinLine = ofLine.latin >= ofLine.foreign;
     while (start < end) {
       const std::size_t behind = endOfWord(start, end);
       if (behind > start) readWord(start, behind, isLatinLine);
@@ -358,6 +369,7 @@ class LetterReader {
       while (i + 1 < end && (cells_[i + 1].kind == Kind::mark || cells_[i + 1].kind == Kind::invisible)) {
         ++i;
         base.end = cells_[i].end;
+        base.isCopy = false;
         remove(cells_[i]);
         isChanged_ = true;
       }
@@ -671,6 +683,7 @@ class SignReader {
 
   bool read() {
     findTokens();
+    if (!hasSigns_) return false;
     std::size_t words = 0;
     std::size_t spelt = 0;
     for (const Token& token : tokens_) {
@@ -680,7 +693,7 @@ class SignReader {
         ++spelt;
     }
     // Where many words are spelt with digits, numbers and names are, too.
-    constexpr std::size_t fewSpelt = 3;
+    constexpr std::size_t fewSpelt = 2;
     if (spelt >= fewSpelt && 3 * spelt >= words)
       for (const Token& token : tokens_)
         if (token.signs > 0 && !isAmount(token)) isSpelt(token, token.letters > 0 || isEnding(token));
@@ -724,6 +737,7 @@ class SignReader {
         }
       }
       token.end = i;
+      hasSigns_ = hasSigns_ || token.signs > 0;
       if (token.letters + token.signs <= longestWord) tokens_.push_back(token);
     }
   }
@@ -793,6 +807,7 @@ class SignReader {
 
   Cells& cells_;
   std::vector<Token> tokens_;
+  bool hasSigns_ = false;
   bool isChanged_ = false;
 };
 
@@ -1090,7 +1105,8 @@ class PointReader {
       ++next;
     if (next >= cells_.size() || cells_[next].kind == Kind::lineBreak) {
       // A line may end behind an abbreviation, but a paragraph does not.
-      const bool goesOn = next + 1 < cells_.size() && isAlphanumeric(cells_[next + 1]);
+      const bool goesOn = next + 1 < cells_.size() && isAlphanumeric(cells_[next + 1]) &&
+                          !isUpper(cells_[next + 1]);
       if (!goesOn) return;
       ++next;
     }
@@ -1159,6 +1175,7 @@ bool undoDisguises(Cells& cells, const Contents& contents) {
     isChanged = isChanged || changes;
     return changes;
   };
+  if (!contents.hasLettersOrStops) return false;
   constexpr int mostRounds = 8;
   for (int round = 0; round < mostRounds; ++round) {
     bool isChangedNow = false;

@@ -16,12 +16,14 @@ struct Cell {
   std::uint32_t end = 0;
   Reading::Kind kind = Reading::Kind::other;
   bool isBehindBlank = false;  ///< a blank is to be read before it that was not written
+  bool isCopy = false;         ///< its bytes are read as they were written
 };
 
 using Cells = std::vector<Cell>;
 
 /// What a text contains, so that steps without work are left out.
 struct Contents {
+  bool hasLettersOrStops = false;      ///< of Latin, or that read as such
   bool hasLettersBeyondAscii = false;  ///< accented, of other scripts, or with marks
   bool hasFormsByNeighbour = false;    ///< wide signs, letters of flags, angle brackets
 };

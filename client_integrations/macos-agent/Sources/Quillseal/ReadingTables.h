@@ -48,29 +48,45 @@ struct Tables {
   std::span<const std::uint16_t> readings;    ///< of every code point of a block, its reading
   std::span<const Reading> distinctReadings;  ///< the first is `other`
   std::span<const std::uint32_t> words;       ///< hash table of fingerprints; zero is empty
+  std::span<const std::uint8_t> longest;      ///< word that begins with three given letters
 
   [[nodiscard]] const Reading& of(char32_t scalar) const {
     return distinctReadings[readings[blocks[scalar / blockSize] * blockSize + scalar % blockSize]];
   }
 };
 
-[[nodiscard]] const Tables& tables();
+extern const Tables compiledTables;
 
 /// The longest word that is known, in letters.
 inline constexpr std::size_t longestWord = 24;
 
-/// A word in small letters of Latin-1, one byte each, as a number; REQUIRES: 1 to `longestWord`.
-[[nodiscard]] inline std::uint64_t hashOfWord(std::string_view word) {
-  std::array<std::uint64_t, longestWord / 8> parts{};
-  std::memcpy(parts.data(), word.data(), word.size());
-  std::uint64_t hash = parts[0] * 0x9E3779B97F4A7C15;
-  if (word.size() > 8) {
-    hash = (hash ^ parts[1]) * 0xC2B2AE3D27D4EB4F;
-    hash = ((hash ^ hash >> 32) ^ parts[2]) * 0x165667B19E3779F9;
+/// The index of three small letters of ASCII in `Tables::longest`.
+inline constexpr std::size_t beginnings = 26UL * 26 * 26;
+[[nodiscard]] inline std::size_t beginningOf(const char* letters) {
+  const auto number = [&](int i) { return static_cast<std::size_t>(letters[i] - 'a'); };
+  return (number(0) * 26 + number(1)) * 26 + number(2);
+}
+
+/// Words in small letters of Latin-1, one byte each, filled up with zeros.
+using WordBytes = std::array<std::uint64_t, longestWord / 8>;
+
+/// A word as a number.
+[[nodiscard]] inline std::uint64_t hashOfWord(const WordBytes& bytes) {
+  std::uint64_t hash = bytes[0] * 0x9E3779B97F4A7C15;
+  if (bytes[1] != 0) {
+    hash = (hash ^ bytes[1]) * 0xC2B2AE3D27D4EB4F;
+    hash = ((hash ^ hash >> 32) ^ bytes[2]) * 0x165667B19E3779F9;
   }
   hash ^= hash >> 32;
   hash *= 0xD6E8FEB86659FD93;
   return hash ^ hash >> 32;
+}
+
+/// REQUIRES: at most `longestWord` letters.
+[[nodiscard]] inline WordBytes bytesOfWord(std::string_view word) {
+  WordBytes bytes{};
+  std::memcpy(bytes.data(), word.data(), word.size());
+  return bytes;
 }
 
 enum class WordClass : std::uint8_t {
@@ -87,21 +103,25 @@ inline constexpr std::uint32_t wordBit = 1;
   return static_cast<std::uint32_t>(hashOfWord >> 32) & ~(commonWordBit | wordBit);
 }
 
-/// What is known of `word`. (One of a thousand million others passes for a word.)
-[[nodiscard]] inline WordClass classOf(const Tables& tables, std::string_view word) {
-  if (word.empty() || word.size() > longestWord) return WordClass::unknown;
+/// What is known of a word. (One of a thousand million others passes for one.)
+[[nodiscard]] inline WordClass classOf(const WordBytes& word) {
   const std::uint64_t hash = hashOfWord(word);
-  const std::size_t mask = tables.words.size() - 1;
+  const std::size_t mask = compiledTables.words.size() - 1;
   for (std::size_t slot = hash & mask;; slot = (slot + 1) & mask) {
-    const std::uint32_t entry = tables.words[slot];
+    const std::uint32_t entry = compiledTables.words[slot];
     if (entry == 0) return WordClass::unknown;
     if (((entry ^ fingerprintOf(hash)) & ~(commonWordBit | wordBit)) == 0)
       return (entry & commonWordBit) != 0 ? WordClass::common : WordClass::ofRules;
   }
 }
 
-[[nodiscard]] inline bool isWord(const Tables& tables, std::string_view word) {
-  return classOf(tables, word) != WordClass::unknown;
+[[nodiscard]] inline WordClass classOf(std::string_view word) {
+  if (word.empty() || word.size() > longestWord) return WordClass::unknown;
+  return classOf(bytesOfWord(word));
+}
+
+[[nodiscard]] inline bool isWord(std::string_view word) {
+  return classOf(word) != WordClass::unknown;
 }
 
 }  // namespace quillseal::reading

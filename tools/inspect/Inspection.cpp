@@ -75,14 +75,15 @@ std::string underlined(std::string_view text, const ContentRisk::Hit& hit) {
          line("", std::string(columnsOf(before), ' ') + std::string(columnsOf(matched), '^'));
 }
 
-std::string findingsReport(const Inspection& inspection) {
-  const auto& [findings, score, isBlocked, shouldWarn] = inspection.screening.assessment;
+std::string findingsReport(std::string_view label, std::string_view text,
+                           const ContentRisk::Screening& screening) {
+  const auto& [findings, score, isBlocked, shouldWarn] = screening.assessment;
   const std::string_view verdict = isBlocked ? "refused" : shouldWarn ? "warned" : "passed";
-  std::string report = line("Screening", std::string(verdict) + ", score " + std::to_string(score));
+  std::string report = line(label, std::string(verdict) + ", score " + std::to_string(score));
   for (std::size_t i = 0; i < findings.size(); ++i) {
     report += line("", findings[i].id + " (" + std::to_string(findings[i].points) +
                            (findings[i].isBlocking ? ", blocks): " : "): ") + findings[i].category);
-    report += underlined(inspection.text, inspection.screening.hits[i]);
+    report += underlined(text, screening.hits[i]);
   }
   return report;
 }
@@ -121,7 +122,9 @@ std::string readableReport(const Inspection& inspection) {
   report += line("Expires", inspection.expires.empty() ? "never valid: the issue date is no date"
                                                        : inspection.expires);
   report += line("Prompt", printable(inspection.promptSubject));
-  report += findingsReport(inspection);
+  report += findingsReport("Screening", inspection.text, inspection.screening);
+  if (const auto asRead = ContentRisk::screenAsRead(inspection.text, inspection.screening))
+    report += findingsReport("As read", inspection.text, *asRead);
   return report;
 }
 

@@ -13,6 +13,7 @@
 #include "Quillseal/ContentRisk.h"
 #include "Quillseal/ContentRules.h"
 #include "Quillseal/CryptoManager.h"
+#include "Quillseal/ReadableText.h"
 #include "Quillseal/SignedBlock.h"
 #include "Quillseal/SigningScope.h"
 #include "Quillseal/UnicodeText.h"
@@ -254,27 +255,42 @@ Json toJson(const ContentRisk::Assessment& assessment) {
           {"findings", findings}};
 }
 
-}  // namespace
-
-Json toJson(const Inspection& inspection) {
-  const ContentRisk::Assessment& assessment = inspection.screening.assessment;
+/// An assessment, and the texts that the user would see.
+Json verdict(const ContentRisk::Assessment& assessment) {
   const auto textIf = [&](bool applies, std::string (*text)(const ContentRisk::Assessment&)) {
     return applies ? Json(text(assessment)) : Json(nullptr);
   };
-  return {{"words", inspection.words},
-          {"normalized", inspection.normalized},
-          {"normalized_characters", inspection.normalizedCharacters},
-          {"text_digest", inspection.textDigest},
-          {"distinctive", inspection.distinctive},
-          {"signing_refusal", inspection.signingRefusal},
-          {"image_urls", inspection.imageURLs},
-          {"image_digest", inspection.imageDigest},
-          {"expires", inspection.expires},
-          {"prompt_subject", inspection.promptSubject},
-          {"assessment", toJson(assessment)},
+  return {{"assessment", toJson(assessment)},
           {"refusal_title", textIf(assessment.isBlocked, ContentRisk::refusalTitle)},
           {"explanation", textIf(assessment.isBlocked, ContentRisk::explanation)},
           {"warning", textIf(assessment.shouldWarn, ContentRisk::warning)}};
+}
+
+}  // namespace
+
+Json toJson(const Inspection& inspection) {
+  Json json = {{"words", inspection.words},
+               {"normalized", inspection.normalized},
+               {"normalized_characters", inspection.normalizedCharacters},
+               {"text_digest", inspection.textDigest},
+               {"distinctive", inspection.distinctive},
+               {"signing_refusal", inspection.signingRefusal},
+               {"image_urls", inspection.imageURLs},
+               {"image_digest", inspection.imageDigest},
+               {"expires", inspection.expires},
+               {"prompt_subject", inspection.promptSubject}};
+  json.update(verdict(inspection.screening.assessment));
+  return json;
+}
+
+Json toJsonWithReading(const Inspection& inspection) {
+  Json json = toJson(inspection);
+  json["as_read"] = nullptr;
+  if (const auto asRead = ContentRisk::screenAsRead(inspection.text, inspection.screening)) {
+    json["as_read"] = {{"text", ReadableText(inspection.text).text()}};
+    json["as_read"].update(verdict(asRead->assessment));
+  }
+  return json;
 }
 
 std::string rulesTable() {

@@ -12,6 +12,10 @@ namespace quillseal::inspect {
 /// The inspection as one JSON object.
 [[nodiscard]] nlohmann::ordered_json toJson(const Inspection& inspection);
 
+/// The same, with the key "as_read": how the text reads to a person and what the rules say of that,
+/// or null where it reads as it is written.
+[[nodiscard]] nlohmann::ordered_json toJsonWithReading(const Inspection& inspection);
+
 /// The table of content rules as a JSON array, indented, with a line feed at its end: what
 /// content_rules.json holds.
 [[nodiscard]] std::string rulesTable();

@@ -157,7 +157,7 @@ void printInspection(const Options& options) {
   const auto inspection =
       quillseal::inspect::inspect({.text = text, .html = html, .issued = issued});
   if (options.json) {
-    std::cout << quillseal::inspect::toJson(inspection).dump() << '\n';
+    std::cout << quillseal::inspect::toJsonWithReading(inspection).dump() << '\n';
   } else {
     std::cout << quillseal::inspect::readableReport(inspection);
   }

@@ -156,8 +156,19 @@ class PlainText {
     while (position_ < text_.size() && at(position_) == Byte::digit)
       ++position_;
     const Byte after = atOrBlank(position_);
-    return after != Byte::letter && after != Byte::letterSign &&
+    const bool isOrdinary = after != Byte::blank || !isPartOfAmount(position_ + 1);
+    return isOrdinary && after != Byte::letter && after != Byte::letterSign &&
            (after != Byte::point || position_ + 1 == text_.size());
+  }
+
+  /// Whether what follows a number and a blank may belong to it: digits, or a currency.
+  [[nodiscard]] bool isPartOfAmount(std::size_t position) const {
+    const Byte byte = atOrBlank(position);
+    if (byte == Byte::digit || byte == Byte::letterSign) return true;
+    const std::string_view rest = text_.substr(position);
+    for (const std::string_view name : {"dollar", "euro", "eur", "usd", "gbp", "pounds", "francs"})
+      if (rest.starts_with(name)) return true;
+    return byte == Byte::letter && rest[0] < 'a' && atOrBlank(position + 1) == Byte::letter;
   }
 
   std::string_view text_;

@@ -49,16 +49,34 @@ void replace(Cell& cell, char32_t scalar) {
   cell.isCopy = false;
 }
 
-/// Takes what was removed out of the cells, and puts blanks in.
+std::string_view textOf(Insertion insertion) {
+  switch (insertion) {
+    case Insertion::blank:
+      return " ";
+    case Insertion::currency:
+      return "$";
+    case Insertion::thousands:
+      return ",00";
+    case Insertion::none:
+      break;
+  }
+  return "";
+}
+
+/// Takes what was removed out of the cells, and puts in what is to be inserted.
 void tidy(Cells& cells) {
   Cells tidied;
   tidied.reserve(cells.size());
   for (Cell cell : cells) {
     if (cell.kind == Kind::invisible) continue;
-    if (cell.isBehindBlank)
-      tidied.push_back(
-          {.scalar = U' ', .start = cell.start, .end = cell.start, .kind = Kind::blank});
-    cell.isBehindBlank = false;
+    for (const char inserted : textOf(cell.inserted)) {
+      const auto scalar = static_cast<char32_t>(inserted);
+      tidied.push_back({.scalar = scalar,
+                        .start = cell.start,
+                        .end = cell.start,
+                        .kind = compiledTables.of(scalar).kind});
+    }
+    cell.inserted = Insertion::none;
     tidied.push_back(cell);
   }
   cells.swap(tidied);
@@ -512,7 +530,7 @@ class LetterJoiner {
     if (borders.empty() && size < (areBlanks_ ? longEnough : longEnoughBetweenSigns)) return;
     removeBetween(start, end);
     for (const std::size_t border : borders)
-      if (border < size) cells_[units_[start + border].at].isBehindBlank = true;
+      if (border < size) cells_[units_[start + border].at].inserted = Insertion::blank;
   }
 
   /// "e.g." and "U.S.A." lose their points; "a.m." keeps the last where a sentence may end with it.
@@ -907,7 +925,7 @@ class BlankMover {
         continue;
       }
       if (letter > 0 && letter == *border && !isAfterBlank) {
-        cells_[i].isBehindBlank = true;
+        cells_[i].inserted = Insertion::blank;
         isChanged_ = true;
       }
       if (letter == *border) ++border;
@@ -923,6 +941,185 @@ class BlankMover {
   std::vector<Found> words_;
   std::string letters_;
   std::vector<std::size_t> blanks_;
+  bool isChanged_ = false;
+};
+
+// ---- Sums of money
+
+/// Writes every sum as the rules do that were made for dollars: "$12,499".
+class AmountReader {
+ public:
+  explicit AmountReader(Cells& cells) : cells_(cells) {}
+
+  bool read() {
+    for (std::size_t i = 0; i < cells_.size(); ++i) {
+      const bool isStart =
+          cells_[i].kind == Kind::digit && (i == 0 || !isAlphanumeric(cells_[i - 1]));
+      if (isStart) i = readNumber(i) - 1;
+    }
+    return isChanged_;
+  }
+
+ private:
+  [[nodiscard]] bool isDigit(std::size_t i) const {
+    return i < cells_.size() && cells_[i].kind == Kind::digit;
+  }
+
+  [[nodiscard]] bool isBlank(std::size_t i) const {
+    return i < cells_.size() && cells_[i].kind == Kind::blank;
+  }
+
+  static bool isCurrencySign(const Cell& cell) {
+    constexpr std::u32string_view signs = U"$\u00A3\u00A5\u20AC\u20A9\u20B9\u20BA\u20BD\u20B4\u20AA";
+    return signs.find(cell.scalar) != std::u32string_view::npos;
+  }
+
+  [[nodiscard]] std::size_t endOfDigits(std::size_t i) const {
+    while (isDigit(i))
+      ++i;
+    return i;
+  }
+
+  /// The end of the number. Groups of three digits may stand behind blanks or apostrophes.
+  std::size_t endOfNumber(std::size_t start) {
+    std::size_t end = endOfDigits(start);
+    if (end - start <= group && hasGroups(end)) {
+      const char32_t separator = cells_[end].scalar;
+      while (isDigit(end + 1) && cells_[end].scalar == separator) {
+        replace(cells_[end], U',');
+        isChanged_ = true;
+        end = endOfDigits(end + 1);
+      }
+    }
+    while (isDigit(end + 1) && (cells_[end].scalar == U'.' || cells_[end].scalar == U','))
+      end = endOfDigits(end + 1);
+    return end;
+  }
+
+  /// Whether all groups from a blank or an apostrophe on have three digits: a telephone number is
+  /// no sum.
+  [[nodiscard]] bool hasGroups(std::size_t at) const {
+    if (at >= cells_.size() || !isDigit(at + 1)) return false;
+    const char32_t separator = cells_[at].scalar;
+    if (!isBlank(at) && separator != U'\'' && separator != U'\u2019') return false;
+    while (at < cells_.size() && cells_[at].scalar == separator && isDigit(at + 1)) {
+      const std::size_t end = endOfDigits(at + 1);
+      if (end - at - 1 != group) return false;
+      at = end;
+    }
+    return true;
+  }
+
+  std::size_t readNumber(std::size_t start) {
+    std::size_t end = endOfNumber(start);
+    const bool hasCurrency = readBefore(start) || readBehind(start, end);
+    const bool isThousands = end < cells_.size() && (cells_[end].scalar | 0x20U) == U'k' &&
+                             (end + 1 == cells_.size() || !isAlphanumeric(cells_[end + 1]));
+    if (isThousands && (hasCurrency || isMoved(start))) {
+      replace(cells_[end], U'0');
+      cells_[end].inserted = Insertion::thousands;
+      isChanged_ = true;
+      ++end;
+    }
+    return end;
+  }
+
+  /// A sign or a code before the number.
+  bool readBefore(std::size_t start) {
+    std::size_t end = start;
+    while (end > 0 && isBlank(end - 1) && start - end < 2)
+      --end;
+    if (end == 0) return false;
+    if (isCurrencySign(cells_[end - 1])) {
+      std::size_t first = end - 1;
+      constexpr std::size_t longestCountry = 3;
+      while (first > 0 && isUpper(cells_[first - 1]) && end - 1 - first <= longestCountry)
+        --first;
+      const bool isCountry = end - 1 - first <= longestCountry &&
+                             (first == 0 || !isAlphanumeric(cells_[first - 1]));
+      write(isCountry ? first : end - 1, end - 1, start);
+      return true;
+    }
+    const std::size_t first = startOfWord(end);
+    if (first == end || !isCurrency(first, end)) return false;
+    write(first, first, start);
+    return true;
+  }
+
+  /// Reads what stands from `first` on, before the number, as one currency sign.
+  void write(std::size_t first, std::size_t sign, std::size_t number) {
+    for (std::size_t i = first; i < number; ++i) {
+      if (i == sign) {
+        if (cells_[i].scalar == U'$') continue;
+        replace(cells_[i], U'$');
+      } else {
+        remove(cells_[i]);
+      }
+      isChanged_ = true;
+    }
+  }
+
+  /// A sign, a code or a name behind the number.
+  bool readBehind(std::size_t start, std::size_t end) {
+    std::size_t first = end;
+    while (isBlank(first) && first - end < 2)
+      ++first;
+    if (first >= cells_.size()) return false;
+    std::size_t behind = first + 1;
+    if (!isCurrencySign(cells_[first])) {
+      behind = first;
+      while (behind < cells_.size() && isLatin(cells_[behind]) && behind - first <= longestName)
+        ++behind;
+      if (behind == first || !isCurrency(first, behind)) return false;
+    } else if (behind < cells_.size() && isAlphanumeric(cells_[behind])) {
+      return false;
+    }
+    for (std::size_t i = end; i < behind; ++i)
+      remove(cells_[i]);
+    cells_[start].inserted = Insertion::currency;
+    return isChanged_ = true;
+  }
+
+  [[nodiscard]] std::size_t startOfWord(std::size_t end) const {
+    std::size_t start = end;
+    while (start > 0 && isLatin(cells_[start - 1]) && end - start <= longestName)
+      --start;
+    return start;
+  }
+
+  template <std::size_t size>
+  [[nodiscard]] bool isOneOf(const std::array<std::string_view, size>& words, std::size_t start,
+                             std::size_t end) const {
+    std::array<char, longestName> word{};
+    if (start == end || end - start > word.size()) return false;
+    for (std::size_t i = start; i < end; ++i)
+      word[i - start] = static_cast<char>(plainLetter(cells_[i]) | 0x20U);
+    return std::find(words.begin(), words.end(), std::string_view(word.data(), end - start)) !=
+           words.end();
+  }
+
+  [[nodiscard]] bool isCurrency(std::size_t start, std::size_t end) const {
+    constexpr auto names = std::to_array<std::string_view>(
+        {"eur", "usd", "gbp", "chf", "cad", "aud", "nzd", "jpy", "cny", "inr", "brl", "sek", "nok",
+         "dkk", "pln", "sgd", "hkd", "zar", "ngn", "euro", "euros", "dollar", "dollars", "pounds",
+         "francs", "franken", "reais"});
+    return isOneOf(names, start, end);
+  }
+
+  /// Whether the word before the number moves money.
+  [[nodiscard]] bool isMoved(std::size_t number) const {
+    std::size_t end = number;
+    while (end > 0 && isBlank(end - 1))
+      --end;
+    constexpr auto verbs = std::to_array<std::string_view>(
+        {"wire", "transfer", "remit", "send", "pay", "release", "deposit", "invest"});
+    return isOneOf(verbs, startOfWord(end), end);
+  }
+
+  static constexpr std::size_t longestName = 8;
+  static constexpr std::size_t group = 3;
+
+  Cells& cells_;
   bool isChanged_ = false;
 };
 
@@ -1022,7 +1219,7 @@ class PointReader {
     if (next >= cells_.size() || cells_[next].kind == Kind::lineBreak) return;
     for (std::size_t i = start; i < end; ++i)
       leaveOut(i);
-    if (end < cells_.size() && !isSpace(cells_[end])) cells_[end].isBehindBlank = true;
+    if (end < cells_.size() && !isSpace(cells_[end])) cells_[end].inserted = Insertion::blank;
   }
 
   /// What stands between blanks around a point.
@@ -1185,6 +1382,7 @@ bool undoDisguises(Cells& cells, const Contents& contents) {
     isChangedNow |= take(WordMender(cells).mend());
     isChangedNow |= take(SignReader(cells).read());
     isChangedNow |= take(BlankMover(cells, segmenter).move());
+    isChangedNow |= take(AmountReader(cells).read());
     isChangedNow |= take(PointReader(cells).read());
     if (!isChangedNow) break;
   }

@@ -9,14 +9,17 @@
 /// The steps by which `ReadableText` undoes disguises.
 namespace quillseal::reading {
 
+/// What is to be read before a cell without having been written.
+enum class Insertion : std::uint8_t { none, blank, currency, thousands };
+
 /// A code point that is read, and the bytes that it was written with.
 struct Cell {
   char32_t scalar = 0;
   std::uint32_t start = 0;
   std::uint32_t end = 0;
   Reading::Kind kind = Reading::Kind::other;
-  bool isBehindBlank = false;  ///< a blank is to be read before it that was not written
-  bool isCopy = false;         ///< its bytes are read as they were written
+  Insertion inserted = Insertion::none;
+  bool isCopy = false;  ///< its bytes are read as they were written
 };
 
 using Cells = std::vector<Cell>;

@@ -71,6 +71,18 @@ std::string joinedIds(const std::vector<ContentRisk::Finding>& findings) {
   return ids;
 }
 
+struct TwoScreenings {
+  ContentRisk::Screening asWritten;
+  std::optional<ContentRisk::Screening> asRead;  ///< where it reads otherwise, and was not refused
+};
+
+TwoScreenings screenTwice(const std::string& text) {
+  TwoScreenings screenings{.asWritten = ContentRisk::screen(text), .asRead = {}};
+  if (!screenings.asWritten.assessment.isBlocked)
+    screenings.asRead = ContentRisk::screenAsRead(text, screenings.asWritten);
+  return screenings;
+}
+
 bool isSet(const std::optional<std::string>& text) {
   return text && !text->empty();
 }
@@ -238,6 +250,20 @@ SigningCoordinator::Statement SigningCoordinator::statementOf(const CapturedCont
   return statement;
 }
 
+void SigningCoordinator::logScreening(const ContentRisk::Screening& screening) {
+  for (const ContentRisk::Hit& hit : screening.hits) {
+    if (hit.isEngineFailure) {
+      desktop_.log.write("[risk] rule " + std::string(hit.id) +
+                         " could not be searched for to the end and counts as a hit");
+    }
+  }
+  const ContentRisk::Assessment& assessment = screening.assessment;
+  if (assessment.findings.empty()) return;
+  desktop_.log.write("[risk] score " + std::to_string(assessment.score) + ", " +
+                     std::to_string(assessment.findings.size()) +
+                     " finding(s): " + joinedIds(assessment.findings));
+}
+
 /// Whether the text may be signed, by the rules and by the user where the rules leave it to them.
 Task<bool> SigningCoordinator::passesRefusals(const std::string& text) {
   const std::string refusal = CryptoManager::signingRefusal(text);
@@ -246,20 +272,13 @@ Task<bool> SigningCoordinator::passesRefusals(const std::string& text) {
     co_return false;
   }
   // Screening a very long text takes a while, and the event loop must go on meanwhile.
-  auto screen = [text] { return ContentRisk::screen(text); };
-  const ContentRisk::Screening screening = co_await offload(desktop_.loop, std::move(screen));
-  for (const ContentRisk::Hit& hit : screening.hits) {
-    if (hit.isEngineFailure) {
-      desktop_.log.write("[risk] rule " + std::string(hit.id) +
-                         " could not be searched for to the end and counts as a hit");
-    }
-  }
-  const ContentRisk::Assessment& assessment = screening.assessment;
-  if (!assessment.findings.empty()) {
-    desktop_.log.write("[risk] score " + std::to_string(assessment.score) + ", " +
-                       std::to_string(assessment.findings.size()) +
-                       " finding(s): " + joinedIds(assessment.findings));
-  }
+  auto screen = [text] { return screenTwice(text); };
+  const TwoScreenings screenings = co_await offload(desktop_.loop, std::move(screen));
+  logScreening(screenings.asWritten);
+  if (screenings.asRead) logScreening(*screenings.asRead);
+  // What is read has all the hits of what is written, so it is the stronger of the two.
+  const ContentRisk::Assessment& assessment =
+      (screenings.asRead ? *screenings.asRead : screenings.asWritten).assessment;
   if (assessment.isBlocked) {
     co_await showAlert(ContentRisk::refusalTitle(assessment), ContentRisk::explanation(assessment));
     co_return false;

@@ -10,6 +10,7 @@
 #include "Quillseal/AccessibilityManager.h"
 #include "Quillseal/Async.h"
 #include "Quillseal/ClipboardManager.h"
+#include "Quillseal/ContentRisk.h"
 #include "Quillseal/SecureEnclaveManager.h"
 #include "Quillseal/ServerClient.h"
 #include "Quillseal/Task.h"
@@ -145,6 +146,7 @@ class SigningCoordinator {
   [[nodiscard]] Task<std::optional<CapturedContent>> captureSelection();
   [[nodiscard]] Statement statementOf(const CapturedContent& content);
   [[nodiscard]] Task<bool> passesRefusals(const std::string& text);
+  void logScreening(const ContentRisk::Screening& screening);
   Task<> signInBrowser(const Statement& statement, const CapturedContent& content);
   Task<> signHere(SigningMode mode, const Statement& statement, const CapturedContent& content);
   [[nodiscard]] Task<std::optional<std::string>> demonstrate(Signable signable);

@@ -99,9 +99,11 @@ class PlainText {
     const bool isSingle = length == 1;
     if (isSingle && wasSingle_ && start - endOfWord_ <= 3) return false;
     wasSingle_ = isSingle;
+    const std::size_t endOfLast = endOfWord_;
     endOfWord_ = position_;
     const bool isKnown = countWord(start, length);
-    if (before == Byte::hyphen && !(isKnown && wasKnown_)) return false;
+    const bool isBroken = before == Byte::hyphen || (before == Byte::lineBreak && start - endOfLast <= 2);
+    if (isBroken && !(isKnown && wasKnown_)) return false;
     wasKnown_ = isKnown;
     if (after == Byte::hyphen && !endsLineProperly(position_ + 1)) return false;
     return after != Byte::point || passesPoint(start, length);
@@ -163,7 +165,8 @@ class PlainText {
 
   /// Whether what follows a number and a blank may belong to it: digits, or a currency.
   [[nodiscard]] bool isPartOfAmount(std::size_t position) const {
-    const Byte byte = atOrBlank(position);
+    if (position >= text_.size()) return false;
+    const Byte byte = at(position);
     if (byte == Byte::digit || byte == Byte::letterSign) return true;
     const std::string_view rest = text_.substr(position);
     for (const std::string_view name : {"dollar", "euro", "eur", "usd", "gbp", "pounds", "francs"})

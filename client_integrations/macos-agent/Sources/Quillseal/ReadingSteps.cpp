@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -247,12 +248,6 @@ bool readByNeighbours(Cells& cells) {
 
 // ---- Letters of other scripts, and marks
 
-/// How many words are of Latin letters, and how many of others that are like none.
-struct Scripts {
-  std::size_t latin = 0;
-  std::size_t foreign = 0;
-};
-
 /// Reads twins and marks, word by word.
 class LetterReader {
  public:
@@ -276,69 +271,80 @@ class LetterReader {
     return start;
   }
 
-  [[nodiscard]] Scripts scriptsOf(std::size_t start, std::size_t end) const {
-    Scripts scripts;
-    while (start < end) {
-      const std::size_t behind = endOfWord(start, end);
-      bool hasLatin = false;
-      bool hasForeign = false;
-      for (std::size_t i = start; i < behind; ++i) {
-        hasLatin = hasLatin || isLatin(cells_[i]);
-        hasForeign = hasForeign || cells_[i].kind == Kind::foreign;
-      }
-      scripts.latin += hasLatin ? 1 : 0;
-      scripts.foreign += hasForeign ? 1 : 0;
-      start = std::max(behind, start + 1);
+  /// What the letters of a word are.
+  struct WordScripts {
+    bool hasLatin = false;
+    bool hasTwin = false;
+    bool hasForeign = false;
+  };
+
+  [[nodiscard]] WordScripts scriptsOfWord(std::size_t start, std::size_t end) const {
+    WordScripts scripts;
+    for (std::size_t i = start; i < end; ++i) {
+      scripts.hasLatin = scripts.hasLatin || isLatin(cells_[i]);
+      scripts.hasTwin = scripts.hasTwin || cells_[i].kind == Kind::twin;
+      scripts.hasForeign = scripts.hasForeign || cells_[i].kind == Kind::foreign;
     }
     return scripts;
   }
 
-  void readLine(std::size_t start, std::size_t end) {
-    const Scripts ofLine = scriptsOf(start, end);
-    const bool isLatinLine = ofLine.latin >= ofLine.foreign;
+  /// Whether the line is in Latin letters for the most part. What could be Latin and makes a word
+  /// there counts for neither.
+  [[nodiscard]] bool isLatinLine(std::size_t start, std::size_t end) const {
+    std::size_t latin = 0;
+    std::size_t foreign = 0;
     while (start < end) {
       const std::size_t behind = endOfWord(start, end);
-      if (behind > start) readWord(start, behind, isLatinLine);
+      const auto [hasLatin, hasTwin, hasForeign] = scriptsOfWord(start, behind);
+      if (hasLatin)
+        ++latin;
+      else if (behind - start > 1 && (hasForeign || (hasTwin && !wayToWord(start, behind))))
+        ++foreign;
+      start = std::max(behind, start + 1);
+    }
+    return latin >= foreign && (latin > 0 || foreign == 0);
+  }
+
+  void readLine(std::size_t start, std::size_t end) {
+    const bool isLatin = isLatinLine(start, end);
+    while (start < end) {
+      const std::size_t behind = endOfWord(start, end);
+      if (behind > start) readWord(start, behind, isLatin);
       start = std::max(behind, start + 1);
     }
   }
 
-  void readWord(std::size_t start, std::size_t end, bool isLatinLine) {
-    bool hasLatin = false;
-    bool hasTwin = false;
-    bool hasForeign = false;
-    for (std::size_t i = start; i < end; ++i) {
-      hasLatin = hasLatin || isLatin(cells_[i]);
-      hasTwin = hasTwin || cells_[i].kind == Kind::twin;
-      hasForeign = hasForeign || cells_[i].kind == Kind::foreign;
-    }
-    if (hasTwin && (hasLatin || (!hasForeign && isLatinLine))) {
-      readTwins(start, end);
-      isChanged_ = true;
-    }
+  void readWord(std::size_t start, std::size_t end, bool isInLatinLine) {
+    const auto [hasLatin, hasTwin, hasForeign] = scriptsOfWord(start, end);
+    if (hasTwin && (hasLatin || (!hasForeign && isInLatinLine))) readTwins(start, end);
     composeMarks(start, end);
     readMarks(start, end);
   }
 
-  /// As the letters that make a word, or else as the likeliest ones.
-  void readTwins(std::size_t start, std::size_t end) {
+  /// Which of the letters that the twins may stand for make a word.
+  [[nodiscard]] std::optional<std::size_t> wayToWord(std::size_t start, std::size_t end) const {
+    if (end - start > longestWord) return std::nullopt;
     std::size_t ways = 1;
     constexpr std::size_t mostWays = 16;
     for (std::size_t i = start; i < end; ++i)
       if (cells_[i].kind == Kind::twin)
         ways = std::min(ways * lettersOf(cells_[i]).size(), mostWays);
-    std::size_t best = 0;
-    for (std::size_t way = 0; ways > 1 && way < ways; ++way) {
+    for (std::size_t way = 0; way < ways; ++way) {
       Word word;
       std::size_t rest = way;
       for (std::size_t i = start; i < end; ++i)
         word.add(cells_[i].kind == Kind::twin ? letterOf(cells_[i], rest) : plainLetter(cells_[i]));
-      if (!word.isKnown()) continue;
-      best = way;
-      break;
+      if (word.isKnown()) return way;
     }
+    return std::nullopt;
+  }
+
+  /// As the letters that make a word, or else as the likeliest ones.
+  void readTwins(std::size_t start, std::size_t end) {
+    std::size_t way = wayToWord(start, end).value_or(0);
     for (std::size_t i = start; i < end; ++i)
-      if (cells_[i].kind == Kind::twin) replace(cells_[i], letterOf(cells_[i], best));
+      if (cells_[i].kind == Kind::twin) replace(cells_[i], letterOf(cells_[i], way));
+    isChanged_ = true;
   }
 
   /// Writes a letter and its only mark as the one letter that they are.
@@ -582,7 +588,7 @@ class WordMender {
       if (!mayBreak || !isLatin(cells_[i - 1])) continue;
       if (cell.kind == Kind::lineBreak) {
         i = mendLine(i, i, false);
-      } else if (isLatin(cells_[i + 1])) {
+      } else if (isLatin(cells_[i + 1]) && cell.scalar != U'=') {
         i = mendWithin(i);
       } else if (isSpace(cells_[i + 1]) && (cell.scalar == U'-' || cell.scalar == U'=')) {
         i = mendLine(i, i + 1, true);
@@ -683,10 +689,18 @@ class WordMender {
       if (whole.size() <= longestWord) add(whole, end + 1, behind);
       end = behind;
     }
-    if ((!areWords || isStraySign(separator)) && whole.isKnown())
+    if ((!areWords || isStraySign(separator)) && !isOfAddress(first, end) && whole.isKnown())
       for (std::size_t i = sign; i < end; ++i)
         if (!isLatin(cells_[i])) removeCells(i, i + 1);
     return end - 1;
+  }
+
+  /// Whether what stands next to it makes it a part of an address.
+  [[nodiscard]] bool isOfAddress(std::size_t start, std::size_t end) const {
+    const auto isSign = [&](std::size_t i) {
+      return cells_[i].scalar == U'@' || cells_[i].scalar == U'/';
+    };
+    return (start > 0 && isSign(start - 1)) || (end < cells_.size() && isSign(end));
   }
 
   Cells& cells_;
@@ -1199,7 +1213,7 @@ class PointReader {
     }
     if (after->kind == Kind::digit && (before == nullptr || before->kind != Kind::letter)) {
       // A number, a time, a date, a version.
-      change(point, U',');
+      change(point, isInTelephoneNumber(point) ? U'-' : U',');
     } else if (isWithin) {
       // Words between which a blank was left out, or the name of a thing.
       if (isNumbered_)
@@ -1210,6 +1224,29 @@ class PointReader {
       readAbbreviation(point);
     }
     return point;
+  }
+
+  /// Whether it divides groups of three, three and four digits.
+  [[nodiscard]] bool isInTelephoneNumber(std::size_t point) const {
+    const auto isSeparator = [&](std::size_t i) {
+      return cells_[i].kind == Kind::stop || cells_[i].scalar == U'-';
+    };
+    constexpr std::size_t mostDigits = 16;
+    std::size_t start = point;
+    while (start > 0 && point - start < mostDigits &&
+           (cells_[start - 1].kind == Kind::digit || isSeparator(start - 1)))
+      --start;
+    std::array<std::size_t, 3> lastGroups{};
+    std::size_t i = start;
+    for (; i < cells_.size() && i - start < 2 * mostDigits; ++i) {
+      if (cells_[i].kind == Kind::digit)
+        ++lastGroups[2];
+      else if (isSeparator(i) && i + 1 < cells_.size() && cells_[i + 1].kind == Kind::digit)
+        lastGroups = {lastGroups[1], lastGroups[2], 0};
+      else
+        break;
+    }
+    return lastGroups == std::array<std::size_t, 3>{3, 3, 4};
   }
 
   void readEllipsis(std::size_t start, std::size_t end) {
@@ -1320,12 +1357,19 @@ class PointReader {
     const bool isNumber = follower.kind == Kind::digit || follower.scalar == U'#' ||
                           follower.scalar == U'$' || follower.scalar == U'\u20AC';
     const bool isInitial = word.size() == 1 && isUpper(cells_[start]) && word != "i" &&
-                           isUpper(follower);
+                           isUpper(follower) && !isCommonWord(next);
     if (isInitial || contains(abbreviations, word) ||
         (isNumber && contains(onlyBeforeNumbers, word)) ||
         ((isNumber || (isLatin(follower) && !isUpper(follower))) &&
          contains(onlyBeforeSmallLetters, word)))
       leaveOut(point);
+  }
+
+  [[nodiscard]] bool isCommonWord(std::size_t start) const {
+    std::string word;
+    for (; start < cells_.size() && isLatin(cells_[start]) && word.size() <= longestWord; ++start)
+      word += static_cast<char>(plainLetter(cells_[start]) | 0x20U);
+    return classOf(word) == WordClass::common;
   }
 
   /// "14. März" is a date; "der 3. brief" is the third.

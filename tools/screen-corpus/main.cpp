@@ -5,6 +5,7 @@
 #include <iomanip>
 #include <iostream>
 #include <map>
+#include <random>
 #include <set>
 #include <stdexcept>
 #include <string>
@@ -14,6 +15,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "Disguises.h"
 #include "Quillseal/ContentRisk.h"
 #include "Quillseal/CryptoManager.h"
 #include "Quillseal/UnicodeText.h"
@@ -23,21 +25,24 @@ namespace {
 namespace ContentRisk = quillseal::ContentRisk;
 namespace CryptoManager = quillseal::CryptoManager;
 namespace unicode = quillseal::unicode;
+using quillseal::testing::Disguise;
 
 constexpr int cannotRead = 1;
 constexpr int wrongUsage = 2;
 constexpr std::size_t rulesShown = 25;
 
-constexpr const char* usage = R"(usage: screen-corpus [--list LABEL:VERDICT] FILE...
+constexpr const char* usage = R"(usage: screen-corpus [OPTION]... FILE...
 
-Screens messages and counts what would be refused, warned about and signed, for each source and
-label, to judge the content rules on real mail. A FILE holds one JSON object a line:
+Screens messages, as they are written and as they are read, and counts what would be refused,
+warned about and signed, for each source and label, to judge the content rules on real mail. A FILE holds one JSON object a line:
   {"id": "...", "source": "...", "label": "ham", "text": "..."}
 "-" is standard input (zcat mail.jsonl.gz | screen-corpus -). Texts that are too short or too
 generic to be signed at all are left out of the rates.
 
   --list LABEL:VERDICT  print instead the messages of a label that are refused, warned or clean,
                         each with the rules that hit
+  --as-written          screen the messages as they are written only
+  --disguise NAME       disguise each message first (a NAME that is none lists them)
   --help                print this help
 
 Exit status: 0, or 1 when a file cannot be read, or 2 for a wrong use.
@@ -94,9 +99,15 @@ struct Message {
   std::string text;
 };
 
+struct Options {
+  std::string listed;  ///< "LABEL:VERDICT", or empty
+  bool isAsWritten = false;
+  const Disguise* disguise = nullptr;
+};
+
 class Corpus {
  public:
-  explicit Corpus(std::string listed) : listed_(std::move(listed)) {}
+  explicit Corpus(Options options) : options_(std::move(options)) {}
 
   void read(std::istream& lines, const std::string& name) {
     std::string line;
@@ -116,7 +127,7 @@ class Corpus {
   }
 
   void print() const {
-    if (!listed_.empty()) return;
+    if (!options_.listed.empty()) return;
     std::cout << std::fixed << std::setprecision(2);
     std::cout << std::left << std::setw(8) << "label" << std::setw(24) << "source" << std::right
               << std::setw(9) << "messages" << std::setw(18) << "refused" << std::setw(18)
@@ -131,7 +142,8 @@ class Corpus {
   using Key = std::pair<std::string, std::string>;  ///< label and source; "all" sums a label
 
   void screen(const Message& message) {
-    const std::string text(unicode::trimmed(unicode::wellFormed(message.text)));
+    std::string text(unicode::trimmed(unicode::wellFormed(message.text)));
+    if (options_.disguise != nullptr) text = options_.disguise->apply(text, random_);
     Count& ofSource = counts_[{message.label, message.source}];
     Count& ofLabel = counts_[{message.label, "all"}];
     if (!CryptoManager::signingRefusal(text).empty()) {
@@ -139,7 +151,7 @@ class Corpus {
       ++ofLabel.unsignable;
       return;
     }
-    const ContentRisk::Assessment assessment = ContentRisk::evaluate(text);
+    const ContentRisk::Assessment assessment = assess(text);
     const Verdict verdict = verdictOf(assessment);
     for (Count* count : {&ofSource, &ofLabel}) {
       switch (verdict) {
@@ -161,7 +173,14 @@ class Corpus {
       if (verdict != Verdict::clean && verdictWithout(assessment, finding) == Verdict::clean)
         ++count.alone;
     }
-    if (listed_ == message.label + ':' + std::string(nameOf(verdict))) list(message, assessment);
+    if (options_.listed == message.label + ':' + std::string(nameOf(verdict))) list(message, assessment);
+  }
+
+  [[nodiscard]] ContentRisk::Assessment assess(const std::string& text) const {
+    const ContentRisk::Screening asWritten = ContentRisk::screen(text);
+    if (options_.isAsWritten || asWritten.assessment.isBlocked) return asWritten.assessment;
+    const auto asRead = ContentRisk::screenAsRead(text, asWritten);
+    return asRead ? asRead->assessment : asWritten.assessment;
   }
 
   static void list(const Message& message, const ContentRisk::Assessment& assessment) {
@@ -200,10 +219,20 @@ class Corpus {
     shown("rules without which the message would have passed", &RuleCount::alone);
   }
 
-  std::string listed_;
+  Options options_;
+  std::mt19937 random_;  // NOLINT(cert-msc32-c,cert-msc51-cpp): every run is to be the same.
   std::map<Key, Count> counts_;
   std::map<std::string, std::map<std::string, RuleCount>> rules_;
 };
+
+const Disguise* disguiseNamed(std::string_view name) {
+  const auto disguises = quillseal::testing::disguises();
+  const auto found = std::ranges::find(disguises, name, &Disguise::name);
+  if (found != disguises.end()) return &*found;
+  for (const Disguise& disguise : disguises)
+    std::cerr << disguise.name << '\n';
+  return nullptr;
+}
 
 bool isListing(std::string_view listed) {
   const std::size_t colon = listed.rfind(':');
@@ -217,7 +246,7 @@ bool isListing(std::string_view listed) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  std::string listed;
+  Options options;
   std::vector<std::string> paths;
   for (int i = 1; i < argc; ++i) {
     const std::string argument = argv[i];
@@ -226,7 +255,12 @@ int main(int argc, char** argv) {
       return EXIT_SUCCESS;
     }
     if (argument == "--list" && i + 1 < argc) {
-      listed = argv[++i];
+      options.listed = argv[++i];
+    } else if (argument == "--as-written") {
+      options.isAsWritten = true;
+    } else if (argument == "--disguise" && i + 1 < argc) {
+      options.disguise = disguiseNamed(argv[++i]);
+      if (options.disguise == nullptr) return wrongUsage;
     } else if (argument.starts_with("--")) {
       std::cerr << usage;
       return wrongUsage;
@@ -234,12 +268,12 @@ int main(int argc, char** argv) {
       paths.push_back(argument);
     }
   }
-  if (paths.empty() || (!listed.empty() && !isListing(listed))) {
+  if (paths.empty() || (!options.listed.empty() && !isListing(options.listed))) {
     std::cerr << usage;
     return wrongUsage;
   }
   try {
-    Corpus corpus(listed);
+    Corpus corpus(options);
     for (const std::string& path : paths) {
       if (path == "-") {
         corpus.read(std::cin, "standard input");

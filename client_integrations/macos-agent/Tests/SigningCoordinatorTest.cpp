@@ -295,6 +295,40 @@ TEST_F(SigningCoordinatorTest, ScreensTheText) {
   EXPECT_EQ(desktop_.trace.back(), notification);
 }
 
+TEST_F(SigningCoordinatorTest, ScreensTheTextAsItIsReadUnlessItIsRefusedAsItIsWritten) {
+  const std::string harmless = ", it is for the order of 40 chairs that Grace sent us on 3 May.";
+  const auto isRiskLine = [](const std::string& line) {
+    return line.starts_with("log: [risk] score ");
+  };
+  const auto riskLines = [&] {
+    return std::count_if(desktop_.trace.begin(), desktop_.trace.end(), isRiskLine);
+  };
+
+  desktop_.selection->text = "I ap\u200Bprove the pay\u200Bment" + harmless;
+  sign();
+  EXPECT_THAT(desktop_.trace, Contains("log: [risk] score 100, 1 finding(s): pay-authorise-noun"));
+  EXPECT_EQ(riskLines(), 1);
+  EXPECT_THAT(desktop_.trace.back(),
+              StartsWith("alert: Not signed — payment instructions cannot be signed | •  Payment "
+                         "instruction — authorises a payment"));
+
+  // Refused as it is written: there is nothing more to ask.
+  desktop_.trace.clear();
+  desktop_.selection->text = "I approve the payment" + harmless + " Con\u200Bfirm your pass\u200Bword.";
+  sign();
+  EXPECT_EQ(riskLines(), 1);
+
+  // Both lines, and the question of the stronger.
+  desktop_.trace.clear();
+  desktop_.selection->text =
+      "Our b\u200Bank details have changed, see http://192.168.4.7/a today" + harmless;
+  desktop_.answer = desktop::Answer::cancelled;
+  sign();
+  EXPECT_THAT(desktop_.trace, Contains("log: [risk] score 45, 1 finding(s): url-ip-literal"));
+  EXPECT_EQ(riskLines(), 2);
+  EXPECT_THAT(desktop_.trace.back(), StartsWith("alert: Not signed — this looks like a scam"));
+}
+
 TEST_F(SigningCoordinatorTest, SignsTheScopeThatWasConfirmed) {
   desktop_.flags = {"ConfirmBeforeSigning"};
   desktop_.confirmation =

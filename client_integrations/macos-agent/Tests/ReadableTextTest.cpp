@@ -1,0 +1,211 @@
+#include "Quillseal/ReadableText.h"
+
+#include <array>
+#include <fstream>
+#include <random>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "Disguises.h"
+#include "PatternCompiler/RulePatterns.h"
+#include "PatternText.h"
+#include "Quillseal/ContentRisk.h"
+#include "Quillseal/UnicodeText.h"
+#include "RandomText.h"
+
+namespace quillseal {
+namespace {
+
+using ContentRisk::Screening;
+using testing::escaped;
+
+/// The lines of a file of samples that are neither empty nor comments, with \n, \r and \u{...} read.
+std::vector<std::string> linesOf(const std::string& name) {
+  std::ifstream file(std::string(QUILLSEAL_TESTS) + '/' + name);
+  std::vector<std::string> lines;
+  for (std::string line; std::getline(file, line);) {
+    if (line.empty() || line.starts_with('#')) continue;
+    for (std::size_t at = 0; (at = line.find("\\u{", at)) != std::string::npos;) {
+      std::string scalar;
+      unicode::append(scalar, static_cast<char32_t>(std::stoul(line.substr(at + 3), nullptr, 16)));
+      line.replace(at, line.find('}', at) + 1 - at, scalar);
+    }
+    line = unicode::replacingAll(line, "\\n", "\n");
+    lines.push_back(unicode::replacingAll(line, "\\r", "\r"));
+  }
+  if (lines.empty()) throw std::runtime_error("no lines in " + name);
+  return lines;
+}
+
+/// The parts of a line before and behind a separator; the second is empty without one.
+std::pair<std::string, std::string> divided(const std::string& line, const std::string& separator) {
+  const std::size_t at = line.find(separator);
+  if (at == std::string::npos) return {line, ""};
+  return {line.substr(0, at), line.substr(at + separator.size())};
+}
+
+Screening asSigned(const std::string& text) {
+  Screening screening = ContentRisk::screen(text);
+  if (auto asRead = ContentRisk::screenAsRead(text, screening)) return *std::move(asRead);
+  return screening;
+}
+
+/// 2: refused, 1: warned about, 0: signed.
+int verdictOf(const Screening& screening) {
+  return screening.assessment.isBlocked ? 2 : screening.assessment.shouldWarn ? 1 : 0;
+}
+
+TEST(ReadableText, ReadsWhatAPersonReads) {
+  for (const std::string& line : linesOf("readings.txt")) {
+    const auto [written, expected] = divided(line, " => ");
+    const ReadableText readable(written);
+    EXPECT_EQ(readable.isAsWritten(), expected.empty()) << line;
+    EXPECT_EQ(readable.text(), expected.empty() ? written : expected);
+  }
+}
+
+TEST(ReadableText, HonestTextsStayHonest) {
+  const std::vector<std::string> texts = linesOf("honest-texts.txt");
+  EXPECT_GE(texts.size(), 120U);
+  for (const std::string& text : texts) {
+    const Screening screening = asSigned(text);
+    EXPECT_EQ(verdictOf(screening), 0) << text << "\nreads " << ReadableText(text).text();
+  }
+}
+
+// Each sentence is caught with what has no points in its gap, so it is caught with the points.
+TEST(ReadableText, GapsGoOnOverPointsThatEndNoSentence) {
+  std::vector<std::string> sentences;
+  std::vector<std::pair<std::string, std::string>> fillers;
+  for (const std::string& line : linesOf("sentence-points.txt")) {
+    if (line.starts_with("S ")) sentences.push_back(line.substr(2));
+    if (line.starts_with("F ")) fillers.push_back(divided(line.substr(2), " | "));
+  }
+  EXPECT_GE(sentences.size() * fillers.size(), 90U);
+  for (const std::string& sentence : sentences) {
+    for (const auto& [pointed, plain] : fillers) {
+      const std::string with = unicode::replacingAll(sentence, "{}", pointed);
+      const std::string without = unicode::replacingAll(sentence, "{}", plain);
+      const int expected = verdictOf(ContentRisk::screen(without));
+      EXPECT_GT(expected, 0) << without;
+      EXPECT_LT(verdictOf(ContentRisk::screen(with)), expected) << with << " is no example";
+      EXPECT_EQ(verdictOf(asSigned(with)), expected) << with;
+    }
+  }
+}
+
+TEST(ReadableText, EndsOfSentencesStay) {
+  for (const char* text :
+       {"I approve the plan. The payment is another matter, for the board of 3 May.",
+        "I approve it! Payment comes later.", "I approve option B. It says so in the payment terms.",
+        "I approve\u2026 no. Later, when the payment is due.",
+        "Please wire the fence.\n\nThe money goes into the box.",
+        "I approve the reading list of 1990. Every payment was made."})
+    EXPECT_EQ(verdictOf(asSigned(text)), 0) << text << "\nreads " << ReadableText(text).text();
+}
+
+TEST(ReadableText, DisguisedScamsAreCaught) {
+  std::vector<std::string> caught;
+  for (const std::string& line : linesOf("rule-samples.txt"))
+    if (line.starts_with("+ ") && unicode::isAscii(line) &&
+        verdictOf(ContentRisk::screen(line.substr(2))) > 0)
+      caught.push_back(line.substr(2));
+  ASSERT_GT(caught.size(), 100U);
+  for (const testing::Disguise& disguise : testing::disguises()) {
+    std::mt19937 random(17);
+    std::size_t still = 0;
+    for (const std::string& text : caught)
+      if (verdictOf(asSigned(disguise.apply(text, random))) > 0) ++still;
+    RecordProperty(std::string(disguise.name), static_cast<int>(100 * still / caught.size()));
+    EXPECT_GE(100 * still, caught.size() * static_cast<std::size_t>(disguise.promised))
+        << disguise.name << ": " << still << " of " << caught.size();
+  }
+}
+
+TEST(ReadableText, FindingsStandWhereTheyWereWritten) {
+  struct Case {
+    std::string_view before, words, after;
+  };
+  const Case cases[] = {
+      {"Dear Clara, ", "I ap\u200Bprove the payment", " of 3 May"},
+      {"Да, ", "I аррrоvе the рауmеnt", ""},
+      {"x\u0301\u0302 \u200B", "i a.p.p.r.o.v.e No. 7, a pay-\nment", "\u200B, so"},
+      {"See 1.5. ", "\u200BI approve of $2.99 pa<yment", "!"},
+  };
+  for (const auto& [before, words, after] : cases) {
+    const std::string text = std::string(before) + std::string(words) + std::string(after);
+    const Screening screening = asSigned(text);
+    ASSERT_FALSE(screening.hits.empty()) << text;
+    const auto [id, start, end, failed] = screening.hits.front();
+    EXPECT_EQ(id, "pay-authorise-noun");
+    EXPECT_EQ(unicode::replacingAll(text.substr(start, end - start), "\u200B", ""),
+              unicode::replacingAll(words, "\u200B", ""));
+  }
+}
+
+TEST(ReadableText, TheMapLeadsEveryPartOfTheReadingToItsOwn) {
+  std::mt19937 random(3);
+  for (int round = 0; round < 3000; ++round) {
+    const std::string text = testing::randomText(random, 60);
+    const ReadableText readable(text);
+    const std::string_view read = readable.text();
+    std::size_t last = 0;
+    for (std::size_t at = 0; at < read.size();) {
+      const std::size_t start = at;
+      static_cast<void>(unicode::nextScalar(read, at));
+      const auto [from, to] = readable.written({.start = start, .end = at});
+      ASSERT_LE(last, from) << escaped(text);
+      ASSERT_LE(from, to) << escaped(text);
+      ASSERT_LE(to, text.size()) << escaped(text);
+      ASSERT_TRUE(from == text.size() || (text[from] & 0xC0) != 0x80) << escaped(text);
+      last = from;
+    }
+    ASSERT_EQ(readable.written({.start = 0, .end = 0}).start <= text.size(), true);
+  }
+}
+
+TEST(ReadableText, ReadingWhatIsReadableChangesNothing) {
+  const std::vector<screening::Pattern> patterns = screening::rulePatterns();
+  const testing::PatternText source(patterns);
+  constexpr std::array separators{" ", ".", "-", "-\n", "\n", "\u200B", "<", "  ", ". ", "0", "\u0301"};
+  std::mt19937 random(11);
+  const auto some = [&] { return std::string(separators[random() % separators.size()]); };
+  for (int round = 0; round < 4000; ++round) {
+    std::string text = round % 3 == 0 ? testing::randomText(random, 80)
+                                      : source.mixture(random).substr(0, 300);
+    text = unicode::wellFormed(text);
+    for (int times = 0; times < 2; ++times) {
+      const auto& disguise = testing::disguises()[random() % testing::disguises().size()];
+      if (random() % 3 != 0) text = disguise.apply(text, random);
+      const std::size_t at = random() % (text.size() + 1);
+      if (at == text.size() || (text[at] & 0xC0) != 0x80) text.insert(at, some() + "a" + some());
+    }
+    const std::string once(ReadableText(text).text());
+    ASSERT_EQ(ReadableText(once).text(), once) << escaped(text);
+    ASSERT_EQ(unicode::wellFormed(once), once) << escaped(text);
+  }
+}
+
+TEST(ReadableText, BothScreeningsCount) {
+  // The address is found as it is written only, the wording as it is read only.
+  const std::string text =
+      "Open http://192.168.4.7/pay to v\u200Berify your acc\u200Bount with us before 3 May.";
+  const Screening asWritten = ContentRisk::screen(text);
+  EXPECT_EQ(asWritten.assessment.score, 45);
+  const auto asRead = ContentRisk::screenAsRead(text, asWritten);
+  ASSERT_TRUE(asRead);
+  EXPECT_GE(asRead->assessment.score, 100);
+  EXPECT_TRUE(asRead->assessment.isBlocked);
+
+  const std::string plain = "The choir meets on Tuesday at ten, bring the scores.";
+  EXPECT_FALSE(ContentRisk::screenAsRead(plain, ContentRisk::screen(plain)));
+  EXPECT_TRUE(ReadableText("").isAsWritten());
+  EXPECT_EQ(ReadableText("\u200B\u200B").text(), "");
+}
+
+}  // namespace
+}  // namespace quillseal

@@ -67,7 +67,8 @@ void writeReadings(std::ostream& out, const quillseal::reading::CompiledTables& 
     out << "}},";
   }
   out << "};\n\n}  // namespace\n\n"
-         "constinit const Tables compiledTables{blocks, readings, distinctReadings, words, longest};\n\n"
+         "constinit const Tables compiledTables{blocks, readings, distinctReadings, words, "
+         "longest};\n\n"
          "}  // namespace quillseal::reading\n";
 }
 

@@ -173,7 +173,8 @@ class Corpus {
       if (verdict != Verdict::clean && verdictWithout(assessment, finding) == Verdict::clean)
         ++count.alone;
     }
-    if (options_.listed == message.label + ':' + std::string(nameOf(verdict))) list(message, assessment);
+    if (options_.listed == message.label + ':' + std::string(nameOf(verdict)))
+      list(message, assessment);
   }
 
   [[nodiscard]] ContentRisk::Assessment assess(const std::string& text) const {

@@ -1,5 +1,3 @@
-#include "Quillseal/ReadableText.h"
-
 #include <array>
 #include <fstream>
 #include <random>
@@ -14,6 +12,7 @@
 #include "PatternCompiler/RulePatterns.h"
 #include "PatternText.h"
 #include "Quillseal/ContentRisk.h"
+#include "Quillseal/ReadableText.h"
 #include "Quillseal/UnicodeText.h"
 #include "RandomText.h"
 
@@ -23,7 +22,8 @@ namespace {
 using ContentRisk::Screening;
 using testing::escaped;
 
-/// The lines of a file of samples that are neither empty nor comments, with \n, \r and \u{...} read.
+/// The lines of a file of samples that are neither empty nor comments, with \n, \r and \u{...}
+/// read.
 std::vector<std::string> linesOf(const std::string& name) {
   std::ifstream file(std::string(QUILLSEAL_TESTS) + '/' + name);
   std::vector<std::string> lines;
@@ -101,7 +101,8 @@ TEST(ReadableText, GapsGoOnOverPointsThatEndNoSentence) {
 TEST(ReadableText, EndsOfSentencesStay) {
   for (const char* text :
        {"I approve the plan. The payment is another matter, for the board of 3 May.",
-        "I approve it! Payment comes later.", "I approve option B. It says so in the payment terms.",
+        "I approve it! Payment comes later.",
+        "I approve option B. It says so in the payment terms.",
         "I approve\u2026 no. Later, when the payment is due.",
         "Please wire the fence.\n\nThe money goes into the box.",
         "I approve the reading list of 1990. Every payment was made."})
@@ -171,12 +172,13 @@ TEST(ReadableText, TheMapLeadsEveryPartOfTheReadingToItsOwn) {
 TEST(ReadableText, ReadingWhatIsReadableChangesNothing) {
   const std::vector<screening::Pattern> patterns = screening::rulePatterns();
   const testing::PatternText source(patterns);
-  constexpr std::array separators{" ", ".", "-", "-\n", "\n", "\u200B", "<", "  ", ". ", "0", "\u0301"};
+  constexpr std::array separators{" ", ".",  "-",  "-\n", "\n",    "\u200B",
+                                  "<", "  ", ". ", "0",   "\u0301"};
   std::mt19937 random(11);
   const auto some = [&] { return std::string(separators[random() % separators.size()]); };
   for (int round = 0; round < 4000; ++round) {
-    std::string text = round % 3 == 0 ? testing::randomText(random, 80)
-                                      : source.mixture(random).substr(0, 300);
+    std::string text =
+        round % 3 == 0 ? testing::randomText(random, 80) : source.mixture(random).substr(0, 300);
     text = unicode::wellFormed(text);
     for (int times = 0; times < 2; ++times) {
       const auto& disguise = testing::disguises()[random() % testing::disguises().size()];

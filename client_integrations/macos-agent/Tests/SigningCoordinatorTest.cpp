@@ -314,7 +314,8 @@ TEST_F(SigningCoordinatorTest, ScreensTheTextAsItIsReadUnlessItIsRefusedAsItIsWr
 
   // Refused as it is written: there is nothing more to ask.
   desktop_.trace.clear();
-  desktop_.selection->text = "I approve the payment" + harmless + " Con\u200Bfirm your pass\u200Bword.";
+  desktop_.selection->text =
+      "I approve the payment" + harmless + " Con\u200Bfirm your pass\u200Bword.";
   sign();
   EXPECT_EQ(riskLines(), 1);
 

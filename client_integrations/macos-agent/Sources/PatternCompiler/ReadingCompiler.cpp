@@ -33,14 +33,14 @@ constexpr std::pair<char32_t, char> furtherTwins[] = {
 
 /// What a digit or a sign may stand for within a word, the likeliest first.
 constexpr std::pair<char32_t, std::string_view> lettersOfSigns[] = {
-    {U'0', "o"}, {U'1', "il"}, {U'2', "z"},      {U'3', "e"},      {U'4', "a"},      {U'5', "s"},
-    {U'6', "gb"}, {U'7', "t"}, {U'8', "b"},      {U'9', "g"},      {U'@', "a"},      {U'$', "s"},
-    {U'!', "il"}, {U'|', "li"}, {U'+', "t"},     {U'\u00A1', "i"}, {U'\u00A2', "c"},
-    {U'\u00A3', "l"}, {U'\u00A5', "y"}, {U'\u00A7', "s"}, {U'\u20AC', "e"}, {U'\u00D7', "x"}};
+    {U'0', "o"},      {U'1', "il"},     {U'2', "z"},      {U'3', "e"},      {U'4', "a"},
+    {U'5', "s"},      {U'6', "gb"},     {U'7', "t"},      {U'8', "b"},      {U'9', "g"},
+    {U'@', "a"},      {U'$', "s"},      {U'!', "il"},     {U'|', "li"},     {U'+', "t"},
+    {U'\u00A1', "i"}, {U'\u00A2', "c"}, {U'\u00A3', "l"}, {U'\u00A5', "y"}, {U'\u00A7', "s"},
+    {U'\u20AC', "e"}, {U'\u00D7', "x"}};
 
 /// Hyphens and dashes that are read as one.
-constexpr std::u32string_view hyphens =
-    U"\u2010\u2011\u2012\u2043\u2212\uFE58\uFE63\uFF0D";
+constexpr std::u32string_view hyphens = U"\u2010\u2011\u2012\u2043\u2212\uFE58\uFE63\uFF0D";
 
 Reading reading(Kind kind, std::string_view text = {}) {
   Reading result{.kind = kind};
@@ -152,8 +152,8 @@ class CodePoints {
 
   /// The letter that a Latin letter of this name is a form of.
   static std::optional<char> baseFromName(const std::string& name) {
-    constexpr std::string_view modifiers[] = {"SMALL ",  "CAPITAL ", "LETTER ",  "LATIN ",
-                                              "SCRIPT ", "OPEN ",    "DOTLESS ", "LONG ",
+    constexpr std::string_view modifiers[] = {"SMALL ",  "CAPITAL ",  "LETTER ",  "LATIN ",
+                                              "SCRIPT ", "OPEN ",     "DOTLESS ", "LONG ",
                                               "TURNED ", "REVERSED ", "BARRED "};
     if (!name.starts_with("LATIN ")) return std::nullopt;
     const bool isCapital = name.starts_with("LATIN CAPITAL");
@@ -248,7 +248,7 @@ constexpr char anyLetter = '\x01';
 /// The letters with which texts that match a part of a pattern begin and end.
 struct Fragment {
   std::string start;
-  std::string end;        ///< equal to `start` when there is no border within
+  std::string end;  ///< equal to `start` when there is no border within
   bool hasBorder = false;
 
   auto operator<=>(const Fragment&) const = default;
@@ -475,7 +475,8 @@ CompiledTables compileReadings(std::span<const screening::Pattern> patterns,
   tables.words = hashTableOf(words, common);
   tables.longest.resize(beginnings);
   for (const std::string& word : words) {
-    const bool isAscii = std::all_of(word.begin(), word.end(), [](char c) { return c >= 'a' && c <= 'z'; });
+    const bool isAscii =
+        std::all_of(word.begin(), word.end(), [](char c) { return c >= 'a' && c <= 'z'; });
     if (!isAscii || word.size() < 3) continue;
     std::uint8_t& longest = tables.longest[beginningOf(word.data())];
     longest = std::max(longest, static_cast<std::uint8_t>(word.size()));

@@ -24,22 +24,32 @@ constexpr char32_t softHyphen = U'\u00AD';
 
 // ---- Plain texts
 
-enum class Byte : std::uint8_t { letter, digit, blank, lineBreak, point, hyphen, letterSign, other, odd };
+enum class Byte : std::uint8_t {
+  letter,
+  digit,
+  blank,
+  lineBreak,
+  point,
+  hyphen,
+  letterSign,
+  other,
+  odd
+};
 
 constexpr std::array<Byte, 256> byteClasses = [] {
   std::array<Byte, 256> classes{};
   for (std::size_t i = 0; i < classes.size(); ++i) {
     const auto c = static_cast<char>(i);
     const bool isLetter = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-    classes[i] = isLetter                                          ? Byte::letter
-                 : c >= '0' && c <= '9'                            ? Byte::digit
-                 : c == ' ' || c == '\t'                           ? Byte::blank
-                 : c == '\n' || c == '\r'                          ? Byte::lineBreak
-                 : c == '.'                                        ? Byte::point
-                 : c == '-' || c == '_' || c == '*'                ? Byte::hyphen
+    classes[i] = isLetter                                                   ? Byte::letter
+                 : c >= '0' && c <= '9'                                     ? Byte::digit
+                 : c == ' ' || c == '\t'                                    ? Byte::blank
+                 : c == '\n' || c == '\r'                                   ? Byte::lineBreak
+                 : c == '.'                                                 ? Byte::point
+                 : c == '-' || c == '_' || c == '*'                         ? Byte::hyphen
                  : c == '@' || c == '$' || c == '|' || c == '+' || c == '!' ? Byte::letterSign
-                 : i > ' ' && i < 0x7F && c != '<' && c != '>' && c != '='      ? Byte::other
-                                                                   : Byte::odd;
+                 : i > ' ' && i < 0x7F && c != '<' && c != '>' && c != '='  ? Byte::other
+                                                                            : Byte::odd;
   }
   return classes;
 }();
@@ -102,7 +112,8 @@ class PlainText {
     const std::size_t endOfLast = endOfWord_;
     endOfWord_ = position_;
     const bool isKnown = countWord(start, length);
-    const bool isBroken = before == Byte::hyphen || (before == Byte::lineBreak && start - endOfLast <= 2);
+    const bool isBroken =
+        before == Byte::hyphen || (before == Byte::lineBreak && start - endOfLast <= 2);
     if (isBroken && !(isKnown && wasKnown_)) return false;
     wasKnown_ = isKnown;
     if (after == Byte::hyphen && !endsLineProperly(position_ + 1)) return false;
@@ -210,7 +221,8 @@ class Decoder {
         contents_.hasFormsByNeighbour =
             contents_.hasFormsByNeighbour || scalar == U'<' || scalar == U'>';
         contents_.hasLettersOrStops = contents_.hasLettersOrStops ||
-                                      ascii_[scalar] == Kind::letter || ascii_[scalar] == Kind::stop;
+                                      ascii_[scalar] == Kind::letter ||
+                                      ascii_[scalar] == Kind::stop;
         add(scalar, first, position, ascii_[scalar], true);
         continue;
       }

@@ -95,9 +95,7 @@ class Word {
     ++size_;
   }
 
-  [[nodiscard]] bool isKnown() const {
-    return !isTooMuch_ && isWord({letters_.data(), size_});
-  }
+  [[nodiscard]] bool isKnown() const { return !isTooMuch_ && isWord({letters_.data(), size_}); }
 
   [[nodiscard]] std::size_t size() const { return size_; }
 
@@ -148,7 +146,8 @@ class Segmenter {
       std::size_t most = std::min<std::size_t>(2, size - start);
       if (size - start > 2)
         most = std::max<std::size_t>(
-            2, std::min<std::size_t>(compiledTables.longest[beginningOf(&letters[start])], size - start));
+            2, std::min<std::size_t>(compiledTables.longest[beginningOf(&letters[start])],
+                                     size - start));
       for (std::size_t length = 1; length <= most; ++length) {
         const WordClass word = classOf(letters.substr(start, length));
         if (word == WordClass::unknown) continue;
@@ -374,8 +373,8 @@ class LetterReader {
       const Cell& cell = cells_[i];
       if (cell.kind == Kind::invisible) continue;
       if (cell.kind == Kind::mark) {
-        isHeaped = isHeaped || (i > start && (isLatin(cells_[i - 1]) ||
-                                              cells_[i - 1].kind == Kind::digit));
+        isHeaped = isHeaped ||
+                   (i > start && (isLatin(cells_[i - 1]) || cells_[i - 1].kind == Kind::digit));
         continue;
       }
       hasMarks = hasMarks || cell.kind == Kind::accented;
@@ -390,7 +389,8 @@ class LetterReader {
         replace(base, plainLetter(base));
         isChanged_ = true;
       }
-      while (i + 1 < end && (cells_[i + 1].kind == Kind::mark || cells_[i + 1].kind == Kind::invisible)) {
+      while (i + 1 < end &&
+             (cells_[i + 1].kind == Kind::mark || cells_[i + 1].kind == Kind::invisible)) {
         ++i;
         base.end = cells_[i].end;
         base.isCopy = false;
@@ -439,8 +439,8 @@ class LetterJoiner {
   /// A letter, or a digit or sign that may stand for one.
   [[nodiscard]] bool isUnit(std::size_t i) const {
     const Cell& cell = cells_[i];
-    return isLatin(cell) || cell.kind == Kind::digit || cell.scalar == U'@' || cell.scalar == U'$' ||
-           cell.scalar == U'\u20AC';
+    return isLatin(cell) || cell.kind == Kind::digit || cell.scalar == U'@' ||
+           cell.scalar == U'$' || cell.scalar == U'\u20AC';
   }
 
   [[nodiscard]] static bool isBorder(const Cell& cell) {
@@ -497,9 +497,9 @@ class LetterJoiner {
     isJoined_ = false;
     // With blanks between letters and more of them between words, all of it is set apart.
     constexpr std::size_t manyUnits = 8;
-    isAllApart_ = units_.size() >= manyUnits &&
-                  std::any_of(units_.begin(), units_.end(),
-                              [](const Unit& unit) { return unit.startsWord; });
+    isAllApart_ =
+        units_.size() >= manyUnits &&
+        std::any_of(units_.begin(), units_.end(), [](const Unit& unit) { return unit.startsWord; });
     for (std::size_t start = 0; start < units_.size();) {
       std::size_t end = start + 1;
       while (end < units_.size() && !units_[end].startsWord)
@@ -728,7 +728,8 @@ class SignReader {
     constexpr std::size_t fewSpelt = 2;
     if (spelt >= fewSpelt && 3 * spelt >= words)
       for (const Token& token : tokens_)
-        if (token.signs > 0 && !isAmount(token)) isSpelt(token, token.letters > 0 || isEnding(token));
+        if (token.signs > 0 && !isAmount(token))
+          isSpelt(token, token.letters > 0 || isEnding(token));
     return isChanged_;
   }
 
@@ -802,7 +803,8 @@ class SignReader {
   /// Whether it stands for the letters behind an apostrophe.
   [[nodiscard]] bool isEnding(const Token& token) const {
     return token.end - token.start <= 2 && token.start > 1 &&
-           (cells_[token.start - 1].scalar == U'\'' || cells_[token.start - 1].scalar == U'\u2019') &&
+           (cells_[token.start - 1].scalar == U'\'' ||
+            cells_[token.start - 1].scalar == U'\u2019') &&
            isLatin(cells_[token.start - 2]);
   }
 
@@ -853,7 +855,8 @@ class BlankMover {
     for (std::size_t start = 0; start < cells_.size();) {
       const std::size_t end = findWords(start);
       // All of them at once where most are none, or else around each.
-      if (counts_.mayHaveMovedBlanks() && !(counts_.areMostlyUnknown() && isMoved(start, end, true)))
+      if (counts_.mayHaveMovedBlanks() &&
+          !(counts_.areMostlyUnknown() && isMoved(start, end, true)))
         moveAroundUnknown();
       start = std::max(end, start + 1);
     }
@@ -882,7 +885,8 @@ class BlankMover {
         ++end;
       }
       if (end > first) {
-        const bool isName = end - first > 1 && isUpper(cells_[first]) && !isUpper(cells_[first + 1]);
+        const bool isName =
+            end - first > 1 && isUpper(cells_[first]) && !isUpper(cells_[first + 1]);
         counts_.add(end - first, word.isKnown(), isName);
         words_.push_back({.start = first, .end = end, .isKnown = word.isKnown()});
       }
@@ -898,9 +902,8 @@ class BlankMover {
       if (words_[i].isKnown) continue;
       const std::size_t first = i > 0 ? i - 1 : 0;
       std::size_t last = i;
-      while (last + 1 < words_.size() &&
-             (!words_[last].isKnown || !words_[last + 1].isKnown ||
-              (last + 2 < words_.size() && !words_[last + 2].isKnown)))
+      while (last + 1 < words_.size() && (!words_[last].isKnown || !words_[last + 1].isKnown ||
+                                          (last + 2 < words_.size() && !words_[last + 2].isKnown)))
         ++last;
       static_cast<void>(isMoved(words_[first].start, words_[last].end, false));
       i = last;
@@ -984,7 +987,8 @@ class AmountReader {
   }
 
   static bool isCurrencySign(const Cell& cell) {
-    constexpr std::u32string_view signs = U"$\u00A3\u00A5\u20AC\u20A9\u20B9\u20BA\u20BD\u20B4\u20AA";
+    constexpr std::u32string_view signs =
+        U"$\u00A3\u00A5\u20AC\u20A9\u20B9\u20BA\u20BD\u20B4\u20AA";
     return signs.find(cell.scalar) != std::u32string_view::npos;
   }
 
@@ -1049,8 +1053,8 @@ class AmountReader {
       constexpr std::size_t longestCountry = 3;
       while (first > 0 && isUpper(cells_[first - 1]) && end - 1 - first <= longestCountry)
         --first;
-      const bool isCountry = end - 1 - first <= longestCountry &&
-                             (first == 0 || !isAlphanumeric(cells_[first - 1]));
+      const bool isCountry =
+          end - 1 - first <= longestCountry && (first == 0 || !isAlphanumeric(cells_[first - 1]));
       write(isCountry ? first : end - 1, end - 1, start);
       return true;
     }
@@ -1114,9 +1118,9 @@ class AmountReader {
 
   [[nodiscard]] bool isCurrency(std::size_t start, std::size_t end) const {
     constexpr auto names = std::to_array<std::string_view>(
-        {"eur", "usd", "gbp", "chf", "cad", "aud", "nzd", "jpy", "cny", "inr", "brl", "sek", "nok",
-         "dkk", "pln", "sgd", "hkd", "zar", "ngn", "euro", "euros", "dollar", "dollars", "pounds",
-         "francs", "franken", "reais"});
+        {"eur", "usd",  "gbp",   "chf",    "cad",     "aud",    "nzd",    "jpy",     "cny",
+         "inr", "brl",  "sek",   "nok",    "dkk",     "pln",    "sgd",    "hkd",     "zar",
+         "ngn", "euro", "euros", "dollar", "dollars", "pounds", "francs", "franken", "reais"});
     return isOneOf(names, start, end);
   }
 
@@ -1141,22 +1145,22 @@ class AmountReader {
 
 /// Short words that are written with a point, in English, German, French, Spanish, Portuguese and
 /// Dutch; those of `onlyBeforeNumbers` are words of their own otherwise.
-constexpr auto abbreviations = std::to_array<std::string_view>({
-    "abs",  "acct", "admin", "adv",  "amt",   "anh",   "apt",   "approx", "apr",  "art",  "assoc",
-    "asst", "aug",  "av",    "ave",  "avda",  "betr",  "bijv",  "bldg",   "blvd", "bzgl", "bzw",
-    "capt", "cf",   "cia",   "cie",  "cmdr",  "col",   "cpl",   "ct",     "dec",  "dept", "dhr",
-    "dipl", "dir",  "dr",    "dra",  "drs",   "eg",    "esq",   "est",    "evtl", "excl", "ext",
-    "feb",  "fl",   "fr",    "ft",   "gen",   "ggf",   "gov",   "hon",    "hr",   "hrn",  "ie",
-    "incl", "ing",  "inkl",  "jan",  "jr",    "jul",   "jun",   "lic",    "lt",   "ltda", "maj",
-    "mevr", "mgr",  "min",   "mio",  "mme",   "mr",    "mrd",   "mrs",    "ms",   "mt",   "nov",
-    "oct",  "okt",  "phd",   "prof", "rd",    "rep",   "resp",  "rev",    "rua",  "sen",  "sept",
-    "sgt",  "sr",   "sra",   "sta",  "str",   "supt",  "zzgl",  "vs"});
-constexpr auto onlyBeforeNumbers = std::to_array<std::string_view>({
-    "a",    "acc",  "aprox", "art", "bal", "ca",  "cap",  "ch",  "ed",  "eq",  "fig",
-    "inv",  "iss",  "lit",   "no",  "nos", "nr",  "num",  "op",  "p",   "pag", "para",
-    "pos",  "pp",   "ref",   "sec", "tel", "vol"});
-constexpr auto onlyBeforeSmallLetters = std::to_array<std::string_view>({
-    "bros", "co", "corp", "etc", "inc", "lda", "ltd", "st", "usw", "sq", "univ", "plc"});
+constexpr auto abbreviations = std::to_array<std::string_view>(
+    {"abs",  "acct", "admin", "adv",  "amt",  "anh",  "apt",  "approx", "apr",  "art",  "assoc",
+     "asst", "aug",  "av",    "ave",  "avda", "betr", "bijv", "bldg",   "blvd", "bzgl", "bzw",
+     "capt", "cf",   "cia",   "cie",  "cmdr", "col",  "cpl",  "ct",     "dec",  "dept", "dhr",
+     "dipl", "dir",  "dr",    "dra",  "drs",  "eg",   "esq",  "est",    "evtl", "excl", "ext",
+     "feb",  "fl",   "fr",    "ft",   "gen",  "ggf",  "gov",  "hon",    "hr",   "hrn",  "ie",
+     "incl", "ing",  "inkl",  "jan",  "jr",   "jul",  "jun",  "lic",    "lt",   "ltda", "maj",
+     "mevr", "mgr",  "min",   "mio",  "mme",  "mr",   "mrd",  "mrs",    "ms",   "mt",   "nov",
+     "oct",  "okt",  "phd",   "prof", "rd",   "rep",  "resp", "rev",    "rua",  "sen",  "sept",
+     "sgt",  "sr",   "sra",   "sta",  "str",  "supt", "zzgl", "vs"});
+constexpr auto onlyBeforeNumbers = std::to_array<std::string_view>(
+    {"a",   "acc",  "aprox", "art", "bal", "ca",  "cap", "ch",  "ed", "eq",
+     "fig", "inv",  "iss",   "lit", "no",  "nos", "nr",  "num", "op", "p",
+     "pag", "para", "pos",   "pp",  "ref", "sec", "tel", "vol"});
+constexpr auto onlyBeforeSmallLetters = std::to_array<std::string_view>(
+    {"bros", "co", "corp", "etc", "inc", "lda", "ltd", "st", "usw", "sq", "univ", "plc"});
 
 template <std::size_t size>
 bool contains(const std::array<std::string_view, size>& words, std::string_view word) {
@@ -1292,7 +1296,8 @@ class PointReader {
   [[nodiscard]] bool goesOn(std::size_t end) const {
     bool isNextLine = false;
     while (end < cells_.size() && !isAlphanumeric(cells_[end])) {
-      if (cells_[end].kind == Kind::stop || cells_[end].scalar == U'!' || cells_[end].scalar == U'?')
+      if (cells_[end].kind == Kind::stop || cells_[end].scalar == U'!' ||
+          cells_[end].scalar == U'?')
         return false;
       if (cells_[end].kind == Kind::lineBreak) {
         if (isNextLine && cells_[end - 1].kind == Kind::lineBreak &&
@@ -1311,11 +1316,11 @@ class PointReader {
     while (start > point && isLatin(cells_[start - 1]))
       --start;
     if (start == end || cells_[start - 1].kind != Kind::stop) return false;
-    constexpr auto ends = std::to_array<std::string_view>({
-        "app", "at",  "au",   "be",  "biz",  "br",  "ca",   "cc",   "ch",  "cn",
-        "co",  "com", "de",   "dev", "edu",  "es",  "eu",   "exe",  "fr",  "gov",
-        "in",  "info", "io",  "it",  "jp",   "me",  "net",  "nl",   "online", "org",
-        "pdf", "pt",  "ru",   "shop", "site", "top", "tv",  "uk",   "us",  "xyz"});
+    constexpr auto ends = std::to_array<std::string_view>(
+        {"app", "at",   "au", "be",   "biz",  "br",  "ca",  "cc",  "ch",     "cn",
+         "co",  "com",  "de", "dev",  "edu",  "es",  "eu",  "exe", "fr",     "gov",
+         "in",  "info", "io", "it",   "jp",   "me",  "net", "nl",  "online", "org",
+         "pdf", "pt",   "ru", "shop", "site", "top", "tv",  "uk",  "us",     "xyz"});
     return contains(ends, smallLetters(start, end));
   }
 
@@ -1335,7 +1340,8 @@ class PointReader {
       return;
     }
     std::size_t next = point + 1;
-    while (next < cells_.size() && (cells_[next].kind == Kind::blank || cells_[next].scalar == U')'))
+    while (next < cells_.size() &&
+           (cells_[next].kind == Kind::blank || cells_[next].scalar == U')'))
       ++next;
     if (next >= cells_.size() || cells_[next].kind == Kind::lineBreak) {
       // A line may end behind an abbreviation, but a paragraph does not.
@@ -1381,8 +1387,9 @@ class PointReader {
     std::size_t end = next;
     while (end < cells_.size() && end - next < 3 && isLatin(cells_[end]))
       ++end;
-    constexpr auto months = std::to_array<std::string_view>({"jan", "feb", "mar", "apr", "mai", "jun", "jul",
-                                                      "aug", "sep", "okt", "nov", "dez", "quart", "jah"});
+    constexpr auto months =
+        std::to_array<std::string_view>({"jan", "feb", "mar", "apr", "mai", "jun", "jul", "aug",
+                                         "sep", "okt", "nov", "dez", "quart", "jah"});
     return contains(months, smallLetters(next, end));
   }
 

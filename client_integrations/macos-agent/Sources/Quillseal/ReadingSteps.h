@@ -49,8 +49,7 @@ class KnownWords {
   [[nodiscard]] bool mayHaveMovedBlanks() const {
     constexpr std::size_t fewWords = 2;
     constexpr std::size_t fewLetters = 8;
-    const bool isMuch =
-        unknownWords_ >= fewWords ? unknown_ >= fewLetters : unknown_ > longestName;
+    const bool isMuch = unknownWords_ >= fewWords ? unknown_ >= fewLetters : unknown_ > longestName;
     return isMuch && 8 * unknown_ >= known_;
   }
 

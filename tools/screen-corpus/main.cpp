@@ -221,7 +221,8 @@ class Corpus {
   }
 
   Options options_;
-  std::mt19937 random_;  // NOLINT(cert-msc32-c,cert-msc51-cpp): every run is to be the same.
+  // Every run is to be the same.
+  std::mt19937 random_{std::mt19937::default_seed};  // NOLINT(cert-msc32-c,cert-msc51-cpp)
   std::map<Key, Count> counts_;
   std::map<std::string, std::map<std::string, RuleCount>> rules_;
 };

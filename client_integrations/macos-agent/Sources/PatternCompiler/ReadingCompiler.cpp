@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 #include <stdexcept>
+#include <tuple>
 #include <utility>
 
 #include <unicode/normalizer2.h>
@@ -251,7 +252,9 @@ struct Fragment {
   std::string end;  ///< equal to `start` when there is no border within
   bool hasBorder = false;
 
-  auto operator<=>(const Fragment&) const = default;
+  bool operator<(const Fragment& other) const {
+    return std::tie(start, end, hasBorder) < std::tie(other.start, other.end, other.hasBorder);
+  }
 };
 
 using Fragments = std::set<Fragment>;
@@ -264,9 +267,8 @@ class WordCollector {
   explicit WordCollector(std::set<std::string>& words) : words_(words) {}
 
   void collect(const screening::Pattern& pattern) {
-    screening::SetTable sets;
-    const screening::Node root = screening::parsePattern(pattern, sets);
-    sets_ = &sets;
+    sets_ = {};
+    const screening::Node root = screening::parsePattern(pattern, sets_);
     for (const Fragment& fragment : fragmentsOf(root)) {
       add(fragment.start);
       if (fragment.hasBorder) add(fragment.end);
@@ -362,7 +364,7 @@ class WordCollector {
   Fragments fragmentsOf(const Node& node) {
     switch (node.kind) {
       case Node::Kind::set:
-        return ofSet((*sets_)[node.set]);
+        return ofSet(sets_[node.set]);
       case Node::Kind::foldedText: {
         Fragments fragments{Fragment{}};
         for (const char32_t scalar : node.text) {
@@ -398,7 +400,7 @@ class WordCollector {
   }
 
   std::set<std::string>& words_;
-  const screening::SetTable* sets_ = nullptr;
+  screening::SetTable sets_;
 };
 
 void addCommonWords(std::string_view list, std::set<std::string>& words) {

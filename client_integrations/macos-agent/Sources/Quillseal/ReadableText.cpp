@@ -14,7 +14,6 @@
 namespace quillseal {
 namespace {
 
-using reading::Cell;
 using reading::Cells;
 using reading::Contents;
 using reading::Reading;
@@ -303,17 +302,17 @@ ReadableText::ReadableText(std::string_view written) : written_(written) {
       bool isChanged = decoder.decode(start, end);
       isChanged = reading::undoDisguises(cells, decoder.contents()) || isChanged;
       if (isChanged) {
-        copy(copied, start);
+        copy({.start = copied, .end = start});
         for (std::size_t i = 0; i < cells.size();) {
           if (!cells[i].isCopy) {
-            add(cells[i].scalar, cells[i].start, cells[i].end);
+            add(cells[i].scalar, {.start = cells[i].start, .end = cells[i].end});
             ++i;
             continue;
           }
           const std::size_t first = i++;
           while (i < cells.size() && cells[i].isCopy && cells[i].start == cells[i - 1].end)
             ++i;
-          copy(cells[first].start, cells[i - 1].end);
+          copy({.start = cells[first].start, .end = cells[i - 1].end});
         }
         copied = end;
         isAsWritten_ = false;
@@ -321,25 +320,26 @@ ReadableText::ReadableText(std::string_view written) : written_(written) {
     }
     start = end;
   }
-  if (!isAsWritten_) copy(copied, written.size());
+  if (!isAsWritten_) copy({.start = copied, .end = written.size()});
 }
 
-void ReadableText::copy(std::size_t start, std::size_t end) {
-  if (start == end) return;
-  goOn(start, end, true);
-  read_.append(written_, start, end - start);
+void ReadableText::copy(Range part) {
+  if (part.start == part.end) return;
+  goOn(part, true);
+  read_.append(written_, part.start, part.end - part.start);
 }
 
-void ReadableText::add(char32_t scalar, std::size_t start, std::size_t end) {
-  goOn(start, end, false);
+void ReadableText::add(char32_t scalar, Range part) {
+  goOn(part, false);
   unicode::append(read_, scalar);
 }
 
-void ReadableText::goOn(std::size_t start, std::size_t end, bool isRun) {
+void ReadableText::goOn(Range part, bool isRun) {
   const bool isNext = isRun && !anchors_.empty() && anchors_.back().isRun &&
-                      start - anchors_.back().start == read_.size() - anchors_.back().read;
+                      part.start - anchors_.back().start == read_.size() - anchors_.back().read;
   if (!isNext)
-    anchors_.push_back({.read = read_.size(), .start = start, .end = end, .isRun = isRun});
+    anchors_.push_back(
+        {.read = read_.size(), .start = part.start, .end = part.end, .isRun = isRun});
 }
 
 const ReadableText::Anchor& ReadableText::anchorAt(std::size_t read) const {

@@ -43,9 +43,11 @@ class ReadableText {
     bool isRun = false;
   };
 
-  void copy(std::size_t start, std::size_t end);
-  void add(char32_t scalar, std::size_t start, std::size_t end);
-  void goOn(std::size_t start, std::size_t end, bool isRun);
+  /// Parts of the written text that come next in the reading: as they are, as one character, and
+  /// in the map.
+  void copy(Range part);
+  void add(char32_t scalar, Range part);
+  void goOn(Range part, bool isRun);
   [[nodiscard]] const Anchor& anchorAt(std::size_t read) const;
 
   std::string_view written_;

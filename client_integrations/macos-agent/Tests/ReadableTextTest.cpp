@@ -1,4 +1,5 @@
 #include <array>
+#include <chrono>
 #include <fstream>
 #include <random>
 #include <stdexcept>
@@ -189,6 +190,55 @@ TEST(ReadableText, ReadingWhatIsReadableChangesNothing) {
     const std::string once(ReadableText(text).text());
     ASSERT_EQ(ReadableText(once).text(), once) << escaped(text);
     ASSERT_EQ(unicode::wellFormed(once), once) << escaped(text);
+  }
+}
+
+// Work that grows with the square of the length would take hours.
+TEST(ReadableText, LongTextsTakeNoLongTime) {
+  for (const char* unit : {"a",
+                           "accountx",
+                           "xyzzy plugh ",
+                           "plea sesend thegift ",
+                           "q x ",
+                           "a.",
+                           "a-",
+                           "a=",
+                           "a\n",
+                           "acc-\nount ",
+                           "1111a ",
+                           "111 ",
+                           "1.",
+                           "1,",
+                           "$1 ",
+                           "1 EUR ",
+                           "a.b@c.d?e",
+                           "a.b,",
+                           "a. ",
+                           "a.) ",
+                           "... ",
+                           "<",
+                           "a<",
+                           "\u0430",
+                           "\u04CF",
+                           "\u0430 ",
+                           "a\u0301",
+                           "a\u0301\u0302",
+                           "\U0001F1E6",
+                           "\u200B",
+                           "\uFF01",
+                           "- ",
+                           "-\n",
+                           "=\n> ",
+                           " ",
+                           "!",
+                           "a!",
+                           "a|"}) {
+    std::string text;
+    while (text.size() < 400'000)
+      text += unit;
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_FALSE(ReadableText("x\u200B " + text + "y0ur 4444").isAsWritten());
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20)) << unit;
   }
 }
 

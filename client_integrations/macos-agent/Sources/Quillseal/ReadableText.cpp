@@ -111,8 +111,8 @@ class PlainText {
     const std::size_t endOfLast = endOfWord_;
     endOfWord_ = position_;
     const bool isKnown = countWord(start, length);
-    const bool isBroken =
-        before == Byte::hyphen || (before == Byte::lineBreak && start - endOfLast <= 2);
+    const bool isBroken = before == Byte::hyphen || (before == Byte::lineBreak && endOfLast > 0 &&
+                                                     at(endOfLast) == Byte::lineBreak);
     if (isBroken && !(isKnown && wasKnown_)) return false;
     wasKnown_ = isKnown;
     if (after == Byte::hyphen && !endsLineProperly(position_ + 1)) return false;
@@ -181,7 +181,8 @@ class PlainText {
     const std::string_view rest = text_.substr(position);
     for (const std::string_view name : {"dollar", "euro", "eur", "usd", "gbp", "pounds", "francs"})
       if (rest.starts_with(name)) return true;
-    return byte == Byte::letter && rest[0] < 'a' && atOrBlank(position + 1) == Byte::letter;
+    return byte == Byte::letter && rest[0] < 'a' && atOrBlank(position + 1) == Byte::letter &&
+           rest[1] < 'a';
   }
 
   std::string_view text_;

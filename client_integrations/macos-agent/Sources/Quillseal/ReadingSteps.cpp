@@ -1020,9 +1020,12 @@ class AmountReader {
     if (at >= cells_.size() || !isDigit(at + 1)) return false;
     const char32_t separator = cells_[at].scalar;
     if (!isBlank(at) && separator != U'\'' && separator != U'\u2019') return false;
-    while (at < cells_.size() && cells_[at].scalar == separator && isDigit(at + 1)) {
+    // A sum has few groups; what has more is a list of numbers.
+    constexpr int mostGroups = 5;
+    for (int groups = 0; at < cells_.size() && cells_[at].scalar == separator && isDigit(at + 1);
+         ++groups) {
       const std::size_t end = endOfDigits(at + 1);
-      if (end - at - 1 != group) return false;
+      if (end - at - 1 != group || groups == mostGroups) return false;
       at = end;
     }
     return true;

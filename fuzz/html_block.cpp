@@ -49,7 +49,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   require(count(ofText, stampLink) == 1 && count(ofText, "<!--EndFragment-->") == 1);
 
   if (SignedBlock::isSafeIdentifier(captured)) {
-    require(captured.find_first_of("\"'`<>\\ \n") == std::string::npos);
+    require(unicode::isAscii(captured) &&
+            captured.find_first_of("\"'`<>\\/?#&% \n") == std::string::npos);
     const std::string marked = SignedBlock::htmlDocument({.signatureId = captured,
                                                           .text = "x",
                                                           .html = {},

@@ -7,7 +7,7 @@
 #include "Quillseal/MenuBarManager.h"
 #include "Quillseal/SigningCoordinator.h"
 
-// The agent as built without a key for the server.
+// The agent as built without a server and a key for one.
 namespace quillseal {
 namespace {
 
@@ -28,11 +28,41 @@ TEST(DevelopmentBuild, AsksForItsConfigurationBeforeItMakesAKey) {
                             "key. Open Settings and enter the server URL and native API key, or "
                             "install a packaged build from your provider."));
 
+    desktop.strings["ServerURL"] = "https://own.example";
     desktop.strings["APIKey"] = "s3cret";
     coordinator.startSigning();
     desktop.loop.run();
     EXPECT_THAT(desktop.trace, Contains("POST /api/register_native"));
     EXPECT_TRUE(desktop.hasKey);
+  }
+}
+
+TEST(DevelopmentBuild, SendsNothingToAServerThatNobodyNamed) {
+  const std::string alert =
+      "alert: Quillseal Is Not Configured | This build names no signing server. Enter the server’s "
+      "address under “ServerURL” in Quillseal’s settings, or install a packaged build from your "
+      "provider.";
+  for (const char* server : {"", "\n", " https://quillseal.example"}) {
+    for (const char* mode : {"enclave", "handoff"}) {
+      for (const bool hasKey : {false, true}) {
+        FakeDesktop desktop;
+        desktop.hasKey = hasKey;
+        desktop.strings = {{"APIKey", "k"}, {"ServerURL", server}, {"SigningMode", mode}};
+        desktop.selection = FakeDesktop::Copy{.text =
+                                                  "We meet on 14 March 2026 at ten in the hall "
+                                                  "of the old library with Grace and Ada.",
+                                              .html = {}};
+        SigningCoordinator coordinator(desktop.services());
+        coordinator.startSigning();
+        desktop.loop.run();
+        EXPECT_THAT(desktop.trace, ElementsAre(alert));
+        TaskScope enrolment;
+        enrolment.start(coordinator.enrolDevice());
+        desktop.loop.run();
+        EXPECT_THAT(desktop.trace, ElementsAre(alert, alert));
+        EXPECT_EQ(desktop.hasKey, hasKey);
+      }
+    }
   }
 }
 
@@ -42,7 +72,7 @@ TEST(DevelopmentBuild, LetsTheServerBeEntered) {
   MenuBarManager manager(desktop.services(), coordinator);
   manager.setupMenu();
   manager.configureServer();
-  EXPECT_EQ(desktop.menu.items.at(2).title, "Server: https://seal.example");
+  EXPECT_EQ(desktop.menu.items.at(2).title, "Server: https://quillseal.example");
   EXPECT_EQ(desktop.form.sections.at(0).header, "Server Configuration (development build)");
 }
 

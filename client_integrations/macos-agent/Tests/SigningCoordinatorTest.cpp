@@ -342,7 +342,7 @@ TEST_F(SigningCoordinatorTest, SignsTheScopeThatWasConfirmed) {
 
 TEST_F(SigningCoordinatorTest, RefusesIdentifiersThatCouldBreakOut) {
   const std::string sayings[] = {
-      R"(x\" onclick=\"y)",       R"(a\u0000b)", "<b>", R"(a\\b)", "a b", "",
+      R"(x\" onclick=\"y)",       R"(a\u0000b)", "<b>", R"(a\\b)", "a b", "", "a\u202Eb",
       std::string(1'000'000, 'a')};
   for (const std::string& id : sayings) {
     desktop_.hasKey = true;
@@ -380,6 +380,73 @@ TEST_F(SigningCoordinatorTest, BindsNoNameOfAMegabyte) {
   EXPECT_THAT(desktop_.trace.back(), HasSubstr("a name that is too long to be one. Check"));
   EXPECT_EQ(desktop_.strings["BoundIdentity"], "Ada");
   EXPECT_FALSE(desktop_.hasKey);
+}
+
+TEST_F(SigningCoordinatorTest, BindsNoNameThatCouldPassForAnother) {
+  desktop_.strings["BoundIdentity"] = "Ada";
+  desktop_.strings["SigningMode"] = "enclave";
+  for (const char* name : {R"(Ada\u202Eecarg)", R"(Ada\nSigning as: Grace)", R"(\u200B)", "  "}) {
+    desktop_.hasKey = false;
+    desktop_.answers["/api/register_native"] = {
+        {200, R"({"status":"ok","device_id":"D","identity":")" + std::string(name) + "\"}"}};
+    sign();
+    EXPECT_THAT(desktop_.trace.back(),
+                AllOf(StartsWith("alert: Could Not Set Up This Mac | "),
+                      HasSubstr("a name that holds invisible characters"), HasSubstr("‹U+")));
+    EXPECT_EQ(desktop_.strings["BoundIdentity"], "Ada");
+    EXPECT_FALSE(desktop_.hasKey);
+  }
+}
+
+TEST_F(SigningCoordinatorTest, SpellsOutAStoredNameButSignsItsBytes) {
+  const std::string name = "Ada\u202E\nDate: 1 May";
+  const std::string shown = "Ada‹U+202E›‹U+000A›Date: 1 May";
+  desktop_.strings["BoundIdentity"] = name;
+  desktop_.flags = {"ConfirmBeforeSigning"};
+  desktop_.confirmation = desktop::ConfirmationEntry{.choice = "LinkedIn Post", .field = ""};
+  sign();
+  EXPECT_THAT(desktop_.trace, Contains("prompt: Sign " + subject + " as " + shown));
+  const std::string body = desktop_.sentTo("/api/sign_native").front();
+  const std::string digest = CryptoManager::sha256Hex(CryptoManager::normalizeText(text));
+  const std::string payload = CryptoManager::canonicalV3(
+      {.textDigest = digest,
+       .issued = "2026-03-01",
+       .scope = "LinkedIn Post",
+       .snapshotDigest = "",
+       .identity = name,
+       .signerKey = "MACHINE-1",
+       .expires = "2026-03-08",
+       .nonce = std::string_view(body).substr(body.find("\"nonce\":\"") + 9, 32),
+       .commitment = "statement"});
+  EXPECT_THAT(body, HasSubstr(base64(*SecureEnclaveManager::bytesFromHex(payload))));
+}
+
+TEST_F(SigningCoordinatorTest, TurnsAwayWhatItCannotKeepUpWith) {
+  desktop_.leavesDialogsOpen = true;
+  desktop_.selection->text = "Too short.";
+  const auto count = [this](const std::string& start) {
+    return std::ranges::count_if(desktop_.trace,
+                                 [&](const std::string& line) { return line.starts_with(start); });
+  };
+  for (int call = 0; call < 40; ++call)
+    coordinator_->startSigning();
+  desktop_.loop.run();
+  EXPECT_EQ(count("press ⌘C"), SigningCoordinator::mostRuns);
+  EXPECT_EQ(count("alert: Not signed"), SigningCoordinator::mostRuns) << "each in its alert";
+  EXPECT_EQ(count("notify: Quillseal Is Busy | "), 1);
+  EXPECT_EQ(count("log: [sign] turned away"), 1);
+
+  // Once some have ended there is room, and the next time is told anew.
+  desktop_.forget();
+  coordinator_ = std::make_unique<SigningCoordinator>(desktop_.services());
+  desktop_.leavesDialogsOpen = false;
+  for (int round = 0; round < 2; ++round) {
+    for (int call = 0; call < 40; ++call)
+      coordinator_->startSigning();
+    desktop_.loop.run();
+  }
+  EXPECT_EQ(count("press ⌘C"), 2 * SigningCoordinator::mostRuns);
+  EXPECT_EQ(count("notify: Quillseal Is Busy | "), 2);
 }
 
 TEST_F(SigningCoordinatorTest, LeavesLongHtmlOutOfTheSigningPage) {

@@ -99,6 +99,10 @@ std::string ServerClient::effectiveServerURL(const desktop::Defaults& defaults) 
   return settingOr(defaults, "ServerURL", builtInServer::url());
 }
 
+bool ServerClient::hasServer(const desktop::Defaults& defaults) {
+  return builtInServer::isChosen() || effectiveServerURL(defaults) != builtInServer::url();
+}
+
 std::string ServerClient::effectiveAPIKey(const desktop::Defaults& defaults) {
   return settingOr(defaults, "APIKey", builtInServer::apiKey());
 }
@@ -110,6 +114,11 @@ std::string ServerClient::hardwareUUID(const desktop::MachineIdentity& machine) 
 
 template <typename Response, typename Request>
 Task<Response> ServerClient::post(std::string_view path, Request body) const {
+  if (!hasServer()) {
+    throw Error({.domain = "Quillseal",
+                 .code = 0,
+                 .description = "No signing server is set. Enter its address in the settings."});
+  }
   const desktop::HttpPost request = postOf(effectiveServerURL() + std::string(path), body);
   desktop::HttpTransport& http = services_.http;
   const auto outcome = co_await completionOf<Outcome<desktop::HttpResponse>>(

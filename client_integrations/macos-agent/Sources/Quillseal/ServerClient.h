@@ -17,7 +17,8 @@ namespace quillseal {
 ///
 /// Every task throws Error: with domain "Quillseal", the HTTP status and the server's own words
 /// when the server refused; with the transport's domain when it could not be reached, answered
-/// neither success nor a refusal it explains, or when its URL is none; with domain
+/// neither success nor a refusal it explains, or when its URL is none; with domain "Quillseal" and
+/// code 0 when there is no server, before anything is sent; with domain
 /// "NSCocoaErrorDomain" when its answer cannot be read. Nothing is sent twice.
 class ServerClient {
  public:
@@ -46,6 +47,10 @@ class ServerClient {
   /// blank. A slash at its end is kept.
   [[nodiscard]] static std::string effectiveServerURL(const desktop::Defaults& defaults);
 
+  /// Whether `effectiveServerURL` is a server: false when neither the settings nor the build name
+  /// one. Nothing is sent then.
+  [[nodiscard]] static bool hasServer(const desktop::Defaults& defaults);
+
   /// The key that authorises this build: the trimmed setting "APIKey", or the built-in one.
   [[nodiscard]] static std::string effectiveAPIKey(const desktop::Defaults& defaults);
 
@@ -55,6 +60,7 @@ class ServerClient {
   [[nodiscard]] std::string effectiveServerURL() const {
     return effectiveServerURL(services_.defaults);
   }
+  [[nodiscard]] bool hasServer() const { return hasServer(services_.defaults); }
   [[nodiscard]] std::string effectiveAPIKey() const { return effectiveAPIKey(services_.defaults); }
   [[nodiscard]] std::string hardwareUUID() const { return hardwareUUID(services_.machine); }
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "Quillseal/BuiltInServer.h"
+#include "Quillseal/IdentityName.h"
 #include "Quillseal/SecureEnclaveManager.h"
 #include "Quillseal/ServerClient.h"
 
@@ -89,7 +90,7 @@ desktop::FormSection SettingsView::machineSection() {
                     "readers as \"anonymous human\" — proof that a person signed, but not who. "
                     "That is not a basis for trusting a payment request.",
                     TextColour::orange)
-          : caption("Signatures are attributed to " + identity));
+          : caption("Signatures are attributed to " + IdentityName::shown(identity)));
   section.rows.emplace_back(desktop::FormButton{.label = isEnrolling_  ? "Enrolling…"
                                                          : isEnrolled_ ? "Re-enrol This Mac"
                                                                        : "Enrol This Mac",

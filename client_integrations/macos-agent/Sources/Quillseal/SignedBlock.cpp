@@ -83,17 +83,12 @@ std::string stamp(const Fields& fields) {
 
 bool isSafeIdentifier(std::string_view identifier) {
   constexpr std::size_t longest = 256;
-  constexpr std::string_view breakingOut = "\"'`<>\\";
-  if (identifier.size() > longest) return false;
-  std::size_t position = 0;
-  while (position < identifier.size()) {
-    const char32_t scalar = unicode::nextScalar(identifier, position);
-    const bool isControl = scalar < 0x20 || (scalar >= 0x7F && scalar < 0xA0);
-    if (isControl || unicode::isWhitespaceOrNewline(scalar)) return false;
-    if (scalar < 0x80 && breakingOut.find(static_cast<char>(scalar)) != std::string_view::npos)
-      return false;
-  }
-  return !identifier.empty();
+  constexpr std::string_view allowed =
+      "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~:=";
+  // A path takes the last two for folders.
+  return !identifier.empty() && identifier.size() <= longest &&
+         identifier.find_first_not_of(allowed) == std::string_view::npos && identifier != "." &&
+         identifier != "..";
 }
 
 std::string readableDate(std::string_view date) {

@@ -17,10 +17,9 @@ struct Fields {
   std::string_view server;  ///< origin of the verification page
 };
 
-/// Whether an identifier from the server can stand in a link, an HTML attribute and a script
-/// without breaking out of it: not empty, at most 256 bytes long, and without quotes, angle
-/// brackets, backslashes, controls and white space. Links and scripts are built from such
-/// identifiers only.
+/// Whether an identifier from the server can stand in a link, an HTML attribute and a script, mean
+/// the same in each and look like itself: 1 to 256 ASCII letters, digits and "-._~:=", but neither
+/// "." nor "..". Links and scripts are built from such identifiers only.
 [[nodiscard]] bool isSafeIdentifier(std::string_view identifier);
 
 /// "2025-01-30" as "30 January 2025"; anything that is no date unchanged.

@@ -13,6 +13,7 @@
 #include "Quillseal/ContentRisk.h"
 #include "Quillseal/CryptoManager.h"
 #include "Quillseal/HandoffPage.h"
+#include "Quillseal/IdentityName.h"
 #include "Quillseal/SignedBlock.h"
 #include "Quillseal/SigningScope.h"
 #include "Quillseal/UnicodeText.h"
@@ -41,6 +42,7 @@ constexpr std::string_view demoSigning = "DemoSigning";
 constexpr std::string_view signingMode = "SigningMode";
 }  // namespace setting
 
+constexpr const char* notConfigured = "Quillseal Is Not Configured";
 constexpr std::string_view enclaveWord = "enclave";
 constexpr std::string_view handoffWord = "handoff";
 
@@ -164,7 +166,32 @@ SigningCoordinator::SigningCoordinator(const desktop::Desktop& desktop)
                      .wallClock = desktop.wallClock}) {}
 
 void SigningCoordinator::startSigning() {
-  runs_.start(performSigningWorkflow());
+  if (runCount_ >= mostRuns)
+    turnAway();
+  else
+    runs_.start(countedRun());
+}
+
+Task<> SigningCoordinator::countedRun() {
+  struct End {
+    SigningCoordinator& coordinator;
+    ~End() {
+      --coordinator.runCount_;
+      coordinator.hasTurnedAway_ = false;
+    }
+  };
+  ++runCount_;
+  const End end{*this};
+  co_await performSigningWorkflow();
+}
+
+void SigningCoordinator::turnAway() {
+  if (std::exchange(hasTurnedAway_, true)) return;
+  desktop_.log.write("[sign] turned away: " + std::to_string(mostRuns) + " runs are under way");
+  notify({.title = "Quillseal Is Busy",
+          .body = "It is still waiting for you at " + std::to_string(mostRuns) +
+                  " earlier texts. Answer its questions, or the signing pages in the browser, and "
+                  "then sign this text again."});
 }
 
 // The workflow ------------------------------------------------------------------------------------
@@ -205,6 +232,10 @@ Task<std::optional<SigningMode>> SigningCoordinator::modeReadyToSign() {
   if (!canHoldKey) {
     co_await showAlert("Secure Enclave Required",
                        SecureEnclaveError(SecureEnclaveError::Case::unsupported).what());
+    co_return std::nullopt;
+  }
+  if (!serverClient_.hasServer()) {
+    co_await showAlert(notConfigured, configurationAdvice());
     co_return std::nullopt;
   }
   const SigningMode mode = co_await resolveSigningMode();
@@ -381,9 +412,12 @@ Task<> SigningCoordinator::tellOfSuccess(ClipboardManager::Placement placement,
 }
 
 void SigningCoordinator::notifyOfSuccess() {
+  notify({.title = "✅ Signature Generated!", .body = "Signed content copied and injected."});
+}
+
+void SigningCoordinator::notify(const desktop::Notification& notification) {
   try {
-    desktop_.alerts.notify(
-        {.title = "✅ Signature Generated!", .body = "Signed content copied and injected."});
+    desktop_.alerts.notify(notification);
   } catch (const Error& error) {
     desktop_.log.write(std::string("[inject] no notification could be shown: ") + error.what());
   }
@@ -481,9 +515,7 @@ Task<bool> SigningCoordinator::ensureEnrolled() {
   if (hasKey) co_return true;
   if (serverClient_.effectiveAPIKey().empty()) {
     turn.reset();
-    co_await showAlert("Quillseal Is Not Configured",
-                       "This build has no server API key. Open Settings and enter the server URL "
-                       "and native API key, or install a packaged build from your provider.");
+    co_await showAlert(notConfigured, configurationAdvice());
     co_return false;
   }
   std::string failure;
@@ -502,7 +534,23 @@ Task<bool> SigningCoordinator::ensureEnrolled() {
   co_return false;
 }
 
+/// What to do where the server or its API key is missing.
+std::string SigningCoordinator::configurationAdvice() const {
+  if (serverClient_.effectiveAPIKey().empty()) {
+    return "This build has no server API key. Open Settings and enter the server URL and native "
+           "API "
+           "key, or install a packaged build from your provider.";
+  }
+  return "This build names no signing server. Enter the server’s address under “ServerURL” in "
+         "Quillseal’s settings, or install a packaged build from your provider.";
+}
+
 Task<> SigningCoordinator::enrolDevice() {
+  if (!serverClient_.hasServer()) {
+    // Before a new key takes the place of the one there is.
+    co_await showAlertOrLog(notConfigured, configurationAdvice());
+    co_return;
+  }
   std::optional<std::string> failure;
   try {
     const Turn turn = co_await turnFor(isMakingKey_);
@@ -523,7 +571,7 @@ Task<> SigningCoordinator::enrolDevice() {
   body += identity.empty()
               ? "No verified identity is bound to this Mac yet, so signatures will be reported as "
                 "\"anonymous human\" — proof that a person signed, but not who."
-              : "Signatures will be attributed to " + identity + ".";
+              : "Signatures will be attributed to " + IdentityName::shown(identity) + ".";
   co_await showAlertOrLog("✅ This Mac Is Enrolled", std::move(body));
 }
 
@@ -562,12 +610,20 @@ Task<> SigningCoordinator::registerDevice() {
                                      .publicKey = std::move(publicKey),
                                      .apiKey = serverClient_.effectiveAPIKey()};
   const ServerClient::EnrolResponse response = co_await serverClient_.enrol(std::move(request));
-  if (response.identity && response.identity->size() > longestIdentity) {
+  const std::string identity = response.identity.value_or("");
+  if (identity.size() > longestIdentity) {
     throw quillsealError(
         "The server answered with a name that is too long to be one. Check the server address in "
         "Settings, or ask your provider.");
   }
-  desktop_.defaults.setString(setting::boundIdentity, response.identity.value_or(""));
+  if (!identity.empty() && !IdentityName::isPlain(identity)) {
+    throw quillsealError(
+        "The server answered with a name that holds invisible characters, or nothing else, and "
+        "could pass for another one (" +
+        IdentityName::shown(identity) +
+        "). Check the server address in Settings, or ask your provider.");
+  }
+  desktop_.defaults.setString(setting::boundIdentity, identity);
 }
 
 Task<std::string> SigningCoordinator::signOnce(Signable signable) {
@@ -583,9 +639,10 @@ Task<std::string> SigningCoordinator::signOnce(Signable signable) {
                                                  .expires = signable.expires,
                                                  .nonce = signable.nonce,
                                                  .commitment = signable.commitment}),
-      .prompt = {.reason = "Sign " + signable.subject + " as " +
-                           (identity.empty() ? "an anonymous human" : identity),
-                 .medium = signable.scope}};
+      .prompt = {
+          .reason = "Sign " + signable.subject + " as " +
+                    (identity.empty() ? "an anonymous human" : IdentityName::shown(identity)),
+          .medium = signable.scope}};
   std::string signature = co_await SecureEnclaveManager::sign(keyServices(), std::move(request));
   ServerClient::Content content{.textDigest = std::move(signable.textDigest),
                                 .snapshotDigest = {},
@@ -643,7 +700,7 @@ Task<std::optional<std::string>> SigningCoordinator::scopeForSigning(Confirmable
 
 Task<std::optional<SigningCoordinator::Confirmed>> SigningCoordinator::confirmSigning(
     Confirmable confirmable) {
-  const std::string identity = boundIdentity();
+  const std::string identity = IdentityName::shown(boundIdentity());
   const desktop::ConfirmationForm form{
       .question = {.title = "Sign this content?",
                    .body = confirmationText(

@@ -35,7 +35,12 @@ class SigningCoordinator {
   /// The services outlive the coordinator.
   explicit SigningCoordinator(const desktop::Desktop& desktop);
 
-  /// Starts a run of `performSigningWorkflow`.
+  /// How many runs may be under way at once: far more than a person has open, and few enough that
+  /// a program that asks for signatures without end costs little.
+  static constexpr int mostRuns = 5;
+
+  /// Starts a run of `performSigningWorkflow`, unless `mostRuns` are under way. The user is told of
+  /// the first one that is turned away, and of no other until there is room again.
   void startSigning();
 
   /// One run: capture, refusals, screening, signature, delivery. Tells the user whatever they must
@@ -141,8 +146,11 @@ class SigningCoordinator {
     std::int64_t wordCount = 0;
   };
 
+  Task<> countedRun();
+  void turnAway();
   Task<> signSelectedText();
   [[nodiscard]] Task<std::optional<SigningMode>> modeReadyToSign();
+  [[nodiscard]] std::string configurationAdvice() const;
   [[nodiscard]] Task<std::optional<CapturedContent>> captureSelection();
   [[nodiscard]] Statement statementOf(const CapturedContent& content);
   [[nodiscard]] Task<bool> passesRefusals(const std::string& text);
@@ -159,6 +167,7 @@ class SigningCoordinator {
   Task<> tellOfSuccess(ClipboardManager::Placement placement,
                        const std::optional<desktop::RunningApplication>& source);
   void notifyOfSuccess();
+  void notify(const desktop::Notification& notification);
   Task<> showAlert(std::string title, std::string body);
   Task<> showAlertOrLog(std::string title, std::string body);
   Task<bool> asksToSignAnyway(std::string warning);
@@ -178,6 +187,8 @@ class SigningCoordinator {
 
   desktop::Desktop desktop_;
   ServerClient serverClient_;
+  int runCount_ = 0;
+  bool hasTurnedAway_ = false;  ///< since there was room for another run
   bool isMakingKey_ = false;
   bool isUsingClipboard_ = false;  ///< and the keyboard: capturing or pasting
   TaskScope runs_;                 ///< last: the tasks use all of the above

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <functional>
@@ -180,8 +181,10 @@ TEST_F(LinuxBrowserTabsTest, KnowsNothingOfABrowserThatIsNotConnected) {
     askClose({.browser = browser, .urlContains = "/handoff?h=1", .tab = "1.2"});
     EXPECT_EQ(closed_, false) << browser;
   }
-  askClose({.browser = "chromium", .urlContains = "", .tab = "1.2"});
-  EXPECT_EQ(closed_, false);
+  for (const char* mark : {"", "h", "/handoff?h=", "https://a/handoff?h=1", "/handoff?h=1#t"}) {
+    askClose({.browser = "chromium", .urlContains = mark, .tab = "1.2"});
+    EXPECT_EQ(closed_, false) << mark;
+  }
 }
 
 TEST_F(LinuxBrowserTabsTest, TakesTheProfileThatWasLookedAtLast) {
@@ -336,6 +339,30 @@ TEST_F(LinuxBrowserTabsTest, HoldsNoMoreConnectionsThanAPersonHasBrowsers) {
   another->answerTab(5, 1);
   settle();
   EXPECT_EQ(tab_, "33.5");
+}
+
+TEST_F(LinuxBrowserTabsTest, LetsSilentConnectionsShutNobodyOut) {
+  std::vector<FileDescriptor> silent;
+  for (int i = 0; i < 40; ++i) {
+    silent.push_back(TabSocket::connect().value());
+    descriptors_.serve();
+  }
+  const auto chromium = connected("chromium");
+  askTab("chromium");
+  chromium->answerTab(5, 1);
+  settle();
+  EXPECT_EQ(tab_, "41.5");
+
+  deadline_ += LinuxBrowserTabs::greetingPatience;
+  while (loop_.step())
+    descriptors_.serve();
+  EXPECT_EQ(loop_.elapsed(), LinuxBrowserTabs::greetingPatience);
+  EXPECT_TRUE(std::ranges::all_of(silent, isClosed)) << "the last of them by their time";
+  EXPECT_THAT(log_.text, HasSubstr("a relay: has not said which browser it is for"));
+  askTab("chromium");
+  chromium->answerTab(6, 1);
+  settle();
+  EXPECT_EQ(tab_, "41.6") << "a greeting holds";
 }
 
 TEST_F(LinuxBrowserTabsTest, AsRootHearsNoOtherUserEvenWhereTheFoldersWouldLetOneIn) {

@@ -41,8 +41,8 @@ TEST(TabMessages, RefusesLengthsThatNobodyMaySend) {
 TEST(TabMessages, SayWhatTheExtensionUnderstands) {
   EXPECT_EQ(written(Request{.id = 7, .operation = CurrentTab{}}),
             R"({"id":7,"operation":"currentTab"})");
-  EXPECT_EQ(written(Request{.id = 8, .operation = CloseAndRestore{"/h?h=\"1", 12}}),
-            R"({"id":8,"operation":"closeAndRestore","urlContains":"/h?h=\"1","tab":12})");
+  EXPECT_EQ(written(Request{.id = 8, .operation = CloseAndRestore{"/handoff?h=\"1", 12}}),
+            R"({"id":8,"operation":"closeAndRestore","urlContains":"/handoff?h=\"1","tab":12})");
   EXPECT_EQ(written(Request{.id = 9, .operation = CloseAndRestore{"\xff", std::nullopt}}),
             "{\"id\":9,\"operation\":\"closeAndRestore\",\"urlContains\":\"\uFFFD\",\"tab\":null}");
 }
@@ -50,8 +50,8 @@ TEST(TabMessages, SayWhatTheExtensionUnderstands) {
 TEST(TabMessages, SurviveBeingPassedOn) {
   for (const char* request :
        {R"({"id":7,"operation":"currentTab"})",
-        R"({"id":8,"operation":"closeAndRestore","urlContains":"/h","tab":12})",
-        R"({"id":8,"operation":"closeAndRestore","urlContains":"/h","tab":null})"}) {
+        R"({"id":8,"operation":"closeAndRestore","urlContains":"/handoff?h=1","tab":12})",
+        R"({"id":8,"operation":"closeAndRestore","urlContains":"/handoff?h=1","tab":null})"}) {
     EXPECT_EQ(written(readRequest(request)), request);
   }
   for (const char* answer :
@@ -87,8 +87,13 @@ TEST(TabMessages, RefusesWhatIsNoSuchMessage) {
            R"({"id":7,"operation":"currentTab"}{})",
            R"({"id":7,"operation":"closeAndRestore"})",
            R"({"id":7,"operation":"closeAndRestore","urlContains":""})",
-           R"({"id":7,"operation":"closeAndRestore","urlContains":["/h"]})",
-           R"({"id":7,"operation":"closeAndRestore","urlContains":"/h","tab":"1"})",
+           R"({"id":7,"operation":"closeAndRestore","urlContains":"h"})",
+           R"({"id":7,"operation":"closeAndRestore","urlContains":"/handoff?h="})",
+           R"({"id":7,"operation":"closeAndRestore","urlContains":"https://a/handoff?h=1"})",
+           R"({"id":7,"operation":"closeAndRestore","urlContains":"/handoff?h=1&a"})",
+           R"({"id":7,"operation":"closeAndRestore","urlContains":"/handoff?h=a\u202Eb"})",
+           R"({"id":7,"operation":"closeAndRestore","urlContains":["/handoff?h=1"]})",
+           R"({"id":7,"operation":"closeAndRestore","urlContains":"/handoff?h=1","tab":"1"})",
        }) {
     EXPECT_THROW((void)readRequest(request), ProtocolError) << request;
   }

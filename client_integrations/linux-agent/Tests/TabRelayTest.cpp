@@ -178,7 +178,7 @@ TEST_F(TabRelayTest, PassesMessagesBothWays) {
   connect();
   for (const char* request :
        {R"({"id":1,"operation":"currentTab"})",
-        R"({"id":2,"operation":"closeAndRestore","urlContains":"/h","tab":4})"}) {
+        R"({"id":2,"operation":"closeAndRestore","urlContains":"/handoff?h=1","tab":4})"}) {
     ASSERT_TRUE(TabSocket::send(*agent_, TabMessages::framed(request)));
     EXPECT_EQ(messageFrom(relay_->output()), request);
   }

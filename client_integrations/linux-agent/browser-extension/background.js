@@ -5,6 +5,7 @@
 
 const extensionApi = globalThis.browser ?? globalThis.chrome;
 const hostName = "com.quillseal.tabs";
+const signingPageMark = /^\/handoff\?h=[A-Za-z0-9._~:=-]{1,256}$/;
 const shortestPause = 1000;
 const longestPause = 300_000;
 
@@ -30,9 +31,19 @@ async function show(tab) {
   }
 }
 
-async function closeAndRestore({ urlContains, tab }) {
+// Only the signing page of this identifier: not a page whose address mentions it, and not one whose
+// identifier begins with it.
+function isSigningPage(address, mark) {
+  if (!/^https?:/.test(address)) return false;
+  const { pathname, search } = new URL(address);
+  const [path, query] = mark.split("?");
+  return pathname.endsWith(path) && `${search}&`.startsWith(`?${query}&`);
+}
+
+async function closeAndRestore({ urlContains: mark, tab }) {
+  if (!signingPageMark.test(mark)) return { closed: false, restored: false };
   const isMarked = ({ url, pendingUrl }) =>
-    [url, pendingUrl].some((address) => address?.includes(urlContains));
+    [url, pendingUrl].some((address) => isSigningPage(address, mark));
   const marked = (await extensionApi.tabs.query({})).filter(isMarked);
   await extensionApi.tabs.remove(marked.map(({ id }) => id));
   const restored = tab === null || (await show(tab));

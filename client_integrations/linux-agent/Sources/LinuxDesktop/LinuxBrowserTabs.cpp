@@ -54,6 +54,7 @@ struct Connection {
   FileDescriptor socket;
   std::string program;  ///< empty until it has said so
   TabMessages::Deframer incoming;
+  Ticket greetingTimer;
   Ticket watch;  // last: gone before the socket is
 };
 
@@ -134,6 +135,16 @@ class LinuxBrowserTabs::Hub : public std::enable_shared_from_this<Hub> {
            TabSocket::send(found->second.socket, TabMessages::framed(message));
   }
 
+  /// Makes it, where none is left, at the cost of a connection that has said nothing yet: a relay
+  /// says its greeting at once.
+  [[nodiscard]] bool hasRoom() {
+    if (connections_.size() < mostConnections) return true;
+    const auto silent = std::ranges::find_if(
+        connections_, [](const auto& entry) { return entry.second.program.empty(); });
+    if (silent != connections_.end()) connections_.erase(silent);
+    return connections_.size() < mostConnections;
+  }
+
   void accept() {
     std::optional<FileDescriptor> socket;
     try {
@@ -143,13 +154,15 @@ class LinuxBrowserTabs::Hub : public std::enable_shared_from_this<Hub> {
       listeningWatch_ = {};
       return;
     }
-    if (!socket || connections_.size() >= mostConnections) return;
+    if (!socket || !hasRoom()) return;
     const ConnectionId id = ++lastConnection_;
     const int descriptor = socket->get();
     Connection connection{
         .socket = std::move(*socket),
         .program = {},
         .incoming = {},
+        .greetingTimer = services_.loop.after(
+            greetingPatience, [this, id] { drop(id, "has not said which browser it is for"); }),
         .watch = services_.descriptors.watch(descriptor, Descriptors::Interest::reading,
                                              [this, id](Descriptors::Interest) { receive(id); })};
     connections_.emplace(id, std::move(connection));
@@ -178,6 +191,7 @@ class LinuxBrowserTabs::Hub : public std::enable_shared_from_this<Hub> {
   void greet(Connection& connection, const std::string& message) {
     connection.program = TabMessages::readGreeting(message).program;
     if (connection.program.empty()) throw TabMessages::ProtocolError("A browser has no name.");
+    connection.greetingTimer = {};
     log(connection.program + " is connected");
   }
 
@@ -248,7 +262,7 @@ Ticket LinuxBrowserTabs::currentTab(const std::string& browser,
 Ticket LinuxBrowserTabs::closeAndRestore(const desktop::TabReturn& request,
                                          std::function<void(bool)> done) {
   const auto connections = hub_->connectionsOf(request.browser);
-  if (connections.empty() || request.urlContains.empty()) {
+  if (connections.empty() || !TabMessages::isSigningPageMark(request.urlContains)) {
     done(false);
     return {};
   }

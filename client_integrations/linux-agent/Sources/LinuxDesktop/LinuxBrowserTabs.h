@@ -17,6 +17,9 @@ class LinuxBrowserTabs final : public desktop::BrowserTabs {
  public:
   static constexpr std::chrono::milliseconds longestWait{1500};
 
+  /// How long a connection may stay without having said which browser it is for.
+  static constexpr std::chrono::seconds greetingPatience{5};
+
   struct Services {
     desktop::MainLoop& loop;
     Descriptors& descriptors;

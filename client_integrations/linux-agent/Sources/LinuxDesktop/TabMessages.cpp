@@ -6,6 +6,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "Quillseal/SignedBlock.h"
 #include "Quillseal/StrictJson.h"
 
 namespace quillseal::TabMessages {
@@ -66,6 +67,11 @@ std::optional<std::string> Deframer::next() {
   return message;
 }
 
+bool isSigningPageMark(std::string_view text) {
+  constexpr std::string_view path = "/handoff?h=";
+  return text.starts_with(path) && SignedBlock::isSafeIdentifier(text.substr(path.size()));
+}
+
 std::string written(const Request& request) {
   Json json{{"id", request.id}};
   if (const auto* close = std::get_if<CloseAndRestore>(&request.operation)) {
@@ -103,8 +109,8 @@ Request readRequest(std::string_view message) {
     if (isCurrentTab(object)) return request;
     CloseAndRestore close{.urlContains = object.string("urlContains"),
                           .tab = object.optionalInteger("tab")};
-    // Every URL contains the empty text.
-    if (close.urlContains.empty()) throw ProtocolError("The mark of the tabs to close is empty.");
+    if (!isSigningPageMark(close.urlContains))
+      throw ProtocolError("The tabs to close are marked as no signing page is.");
     request.operation = std::move(close);
     return request;
   });

@@ -38,12 +38,16 @@ class Deframer {
   std::string pending_;
 };
 
+/// Whether a text is "/handoff?h=" and a safe identifier (SignedBlock::isSafeIdentifier): tabs are
+/// closed by such a mark only.
+[[nodiscard]] bool isSigningPageMark(std::string_view text);
+
 /// Which tab is current in the window that was looked at last?
 struct CurrentTab {};
 
-/// Close the tabs whose URL contains the text; then show the tab.
+/// Close the tabs with the marked signing page; then show the tab.
 struct CloseAndRestore {
-  std::string urlContains;
+  std::string urlContains;  ///< see `isSigningPageMark`
   std::optional<std::int64_t> tab;
 };
 

@@ -15,7 +15,10 @@ namespace quillseal::devserver {
 namespace {
 
 constexpr std::size_t largestBody = std::size_t{256} * 1024;
-constexpr std::chrono::seconds patience{10};
+constexpr std::chrono::seconds patience{5};
+
+/// Each has a thread while it sends its request: a few that never finish theirs hold up nobody.
+constexpr std::size_t mostClients = 128;
 
 /// On every answer. Scripts and styles are files of this server; nothing is inline, framed,
 /// submitted or fetched from elsewhere.
@@ -111,6 +114,8 @@ HttpServer::HttpServer(Service& service, const std::function<void(const std::str
   constexpr const char* everyPath = R"([\s\S]*)";
   listener.Get(everyPath, handle).Post(everyPath, handle);
   listener.set_socket_options(setSocketOptions);
+  // The library takes ownership of the queue.
+  listener.new_task_queue = [] { return new httplib::ThreadPool(mostClients); };
   listener.set_default_headers(safetyHeaders());
   listener.set_payload_max_length(largestBody);
   listener.set_read_timeout(patience).set_write_timeout(patience);

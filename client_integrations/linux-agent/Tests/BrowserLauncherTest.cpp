@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <thread>
+#include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -19,8 +20,10 @@ namespace {
 
 using namespace std::chrono_literals;
 namespace fs = std::filesystem;
+using ::testing::Contains;
 using testing::contentsOf;
 using ::testing::HasSubstr;
+using ::testing::Not;
 using testing::TemporaryFolder;
 using testing::VirtualLoop;
 
@@ -66,7 +69,9 @@ class Computer {
       fs::create_directories(root() / folder);
     fs::permissions(root() / "runtime", fs::perms::owner_all);
     install("userapp-Firefox-AB12", "firefox", "");
-    install("com.google.Chrome", "google-chrome-flatpak", "X-Flatpak=com.google.Chrome\n");
+    install("com.google.Chrome", "google-chrome-flatpak", "X-Flatpak=com.google.Chrome\n",
+            "@@u %u @@ --file-forwarding");
+    install("secluded", "secluded", "X-Flatpak=org.secluded\n");
     install("google-chrome", "google-chrome-stable", "");
     install("snapped", "snapped", "X-SnapInstanceName=snapped\n");
     testing::overwrite(
@@ -84,7 +89,8 @@ class Computer {
 
   void putProgram(const std::string& name) const {
     testing::overwrite(root() / name,
-                       "#!/bin/sh\nprintf %s \"$1\" >\"$0.new\"\nmv \"$0.new\" \"$0.opened\"\n");
+                       "#!/bin/sh\n[ \"$1\" = @@u ] && shift\nprintf %s \"$1\" >\"$0.new\"\nmv "
+                       "\"$0.new\" \"$0.opened\"\n");
     fs::permissions(root() / name, fs::perms::owner_all);
   }
 
@@ -100,10 +106,11 @@ class Computer {
   }
 
  private:
-  void install(const std::string& id, const std::string& program, const std::string& more) const {
+  void install(const std::string& id, const std::string& program, const std::string& more,
+               const std::string& arguments = "%u") const {
     testing::overwrite(root() / "data/applications" / (id + ".desktop"),
                        "[Desktop Entry]\nType=Application\nName=" + id +
-                           "\nExec=" + (root() / program).string() + " %u\n" + more +
+                           "\nExec=" + (root() / program).string() + " " + arguments + "\n" + more +
                            "MimeType=x-scheme-handler/https;\n");
   }
 
@@ -125,7 +132,7 @@ class BrowserLauncherTest : public ::testing::Test {
  protected:
   BrowserLauncherTest() {
     for (const char* program :
-         {"firefox", "google-chrome-flatpak", "google-chrome-stable", "snapped"})
+         {"firefox", "google-chrome-flatpak", "google-chrome-stable", "secluded", "snapped"})
       computer().putProgram(program);
   }
 
@@ -144,8 +151,7 @@ class BrowserLauncherTest : public ::testing::Test {
   }
 
   /// GIO turns addresses of files into paths for some desktop files.
-  static fs::path openedPage(const std::string& program) {
-    const std::string address = computer().opened(program);
+  static fs::path pathOf(const std::string& address) {
     const std::string_view scheme = "file://";
     return address.starts_with(scheme) ? address.substr(scheme.size()) : address;
   }
@@ -177,46 +183,73 @@ TEST_F(BrowserLauncherTest, FindsTheDefaultBrowser) {
   EXPECT_EQ(launcher_.defaultFor("gopher://seal.example/"), std::nullopt);
 }
 
-TEST_F(BrowserLauncherTest, HandsShortAddressesOver) {
-  const std::string url = urlOfLength(BrowserLauncher::longestArgument);
-  launcher_.open(url, "google-chrome");
-  EXPECT_EQ(computer().opened("google-chrome-stable"), url);
-  launcher_.open(url, "");
-  EXPECT_EQ(computer().opened("firefox"), url);
-  launcher_.open(url, "snapped");
-  EXPECT_EQ(computer().opened("snapped"), url);
-}
-
-TEST_F(BrowserLauncherTest, LeadsToLongAddressesByAPage) {
-  const std::string url = urlOfLength(BrowserLauncher::longestArgument + 1);
-  launcher_.open(url, "google-chrome");
-  const fs::path page = openedPage("google-chrome-stable");
-  EXPECT_THAT(contentsOf(page), HasSubstr("location.replace(\"" + url + "\")"));
-  EXPECT_EQ(fs::status(page).permissions(), fs::perms::owner_read | fs::perms::owner_write);
-
-  launcher_.open(urlOfLength(300'000), "");
-  const fs::path second = openedPage("firefox");
-  EXPECT_NE(page, second);
+TEST_F(BrowserLauncherTest, HandsAddressesOverInPrivatePages) {
+  const fs::path snapFolder = computer().root() / "home/snap/snapped/common";
+  fs::create_directories(snapFolder);
+  ::setenv("HOME", (computer().root() / "home").c_str(), 1);
+  struct Row {
+    const char* location;
+    const char* program;
+    fs::path folder;
+  };
+  const fs::path runtime = computer().root() / "runtime/quillseal";
+  std::vector<fs::path> pages;
+  for (const std::size_t length : {40U, 300'000U}) {
+    const std::string url = urlOfLength(length);
+    for (const Row& row : {Row{"google-chrome", "google-chrome-stable", runtime},
+                           {"", "firefox", runtime},
+                           {"com.google.Chrome", "google-chrome-flatpak", runtime},
+                           {"snapped", "snapped", snapFolder / "quillseal"}}) {
+      launcher_.open(url, row.location);
+      const std::string address = computer().opened(row.program);
+      EXPECT_THAT(address, Not(HasSubstr("handoff"))) << "all users can read command lines";
+      const fs::path page = pathOf(address);
+      EXPECT_EQ(page.parent_path(), row.folder);
+      EXPECT_THAT(contentsOf(page), HasSubstr("location.replace(\"" + url + "\")"));
+      EXPECT_EQ(fs::status(page).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+      EXPECT_EQ(fs::status(row.folder).permissions(), fs::perms::owner_all);
+      EXPECT_THAT(pages, Not(Contains(page)));
+      pages.push_back(page);
+    }
+  }
   loop_.run();
-  EXPECT_EQ(loop_.elapsed(), BrowserLauncher::pageLife);
-  EXPECT_FALSE(fs::exists(page));
-  EXPECT_FALSE(fs::exists(second));
+  EXPECT_EQ(loop_.elapsed(), LeadingPage::life);
+  for (const fs::path& page : pages)
+    EXPECT_FALSE(fs::exists(page)) << page;
 
   std::optional<BrowserLauncher> shortLived(std::in_place, entries_, loop_);
-  shortLived->open(url, "");
-  const fs::path third = openedPage("firefox");
-  EXPECT_TRUE(fs::exists(third));
+  shortLived->open(urlOfLength(40), "");
+  const fs::path last = pathOf(computer().opened("firefox"));
+  EXPECT_TRUE(fs::exists(last));
   shortLived.reset();
-  EXPECT_FALSE(fs::exists(third));
+  EXPECT_FALSE(fs::exists(last));
+}
+
+TEST_F(BrowserLauncherTest, DeletesThePagesOfAnAgentThatWasKilled) {
+  const fs::path folder = computer().root() / "runtime/quillseal";
+  const fs::path old = folder / "page-old.html";
+  const fs::path fresh = folder / "page-fresh.html";
+  const fs::path other = folder / "tabs";
+  launcher_.open(urlOfLength(40), "");  // which makes the folder
+  for (const fs::path& file : {old, fresh, other})
+    testing::overwrite(file, "x");
+  for (const fs::path& file : {old, other})
+    fs::last_write_time(file, fs::file_time_type::clock::now() - 3 * LeadingPage::life);
+  launcher_.open(urlOfLength(40), "");
+  EXPECT_FALSE(fs::exists(old));
+  EXPECT_TRUE(fs::exists(fresh)) << "another agent may be starting a browser";
+  EXPECT_TRUE(fs::exists(other));
 }
 
 TEST_F(BrowserLauncherTest, TellsWhyNothingOpens) {
-  const std::string longUrl = urlOfLength(BrowserLauncher::longestArgument + 1);
-  EXPECT_THAT(failureOf(longUrl, "snapped"), HasSubstr("too long for “snapped”"));
-  EXPECT_THAT(failureOf("https://seal.example/", "gone"), HasSubstr("“gone” is not installed"));
+  const std::string url = "https://seal.example/";
+  EXPECT_THAT(failureOf(url, "secluded"), HasSubstr("“secluded” runs in a sandbox"));
+  ::setenv("HOME", (computer().root() / "elsewhere").c_str(), 1);
+  EXPECT_THAT(failureOf(url, "snapped"), HasSubstr("elsewhere/snap/snapped/common”: No such file"));
+  EXPECT_THAT(failureOf(url, "gone"), HasSubstr("“gone” is not installed"));
   EXPECT_THAT(failureOf("gopher://seal.example/", ""), HasSubstr("opens web pages"));
   fs::permissions(computer().root() / "runtime", fs::perms::all);
-  EXPECT_THAT(failureOf(longUrl, ""), HasSubstr("of this user alone"));
+  EXPECT_THAT(failureOf(url, ""), HasSubstr("of this user alone"));
   fs::permissions(computer().root() / "runtime", fs::perms::owner_all);
 
   LoadedDesktopEntries missing = entriesAt(computer().root() / "missing.so");

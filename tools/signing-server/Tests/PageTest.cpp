@@ -80,6 +80,7 @@ TEST_F(PageTest, SignsTheTextOfTheFragment) {
 import { report, settled, until } from "/test/help.js";
 const sign = document.getElementById("sign");
 await until(() => !sign.disabled);
+report(location.pathname + location.search + location.hash);
 report(document.getElementById("text").textContent);
 report(document.getElementById("html").textContent);
 report(document.getElementById("text").childElementCount);
@@ -92,13 +93,13 @@ sign.click();
 sign.click();
 await until(() => document.getElementById("actions").hidden);
 report(document.getElementById("heading").textContent);
-report(location.pathname + location.search + location.hash);
 )js";
-  EXPECT_THAT(reportAt(handoff.url + hostileFragment),
-              ::testing::ElementsAre(
-                  "A &lt;img src=x onerror=document.title=1&gt; &amp; “é”",
-                  "&lt;p&gt;A &lt;img src=x onerror=document.title=1&gt;&lt;/p&gt;", "0",
-                  "no inline script", "no other server", "Signed", "/handoff?h=" + handoff.id));
+  EXPECT_THAT(
+      reportAt(handoff.url + hostileFragment),
+      ::testing::ElementsAre("/handoff?h=" + handoff.id,
+                             "A &lt;img src=x onerror=document.title=1&gt; &amp; “é”",
+                             "&lt;p&gt;A &lt;img src=x onerror=document.title=1&gt;&lt;/p&gt;", "0",
+                             "no inline script", "no other server", "Signed"));
   EXPECT_EQ(statusOf(handoff.id), "complete");
   for (const std::string& request : front_->traffic()) {
     EXPECT_THAT(request, AllOf(Not(HasSubstr("onerror")), Not(HasSubstr("QSA8aW1n"))))

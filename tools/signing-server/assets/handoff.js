@@ -1,6 +1,10 @@
 import { textDigest } from "./canonical.js";
 import { showResult } from "./result.js";
 
+// The text need not stay in the address bar, the tab's history and the saved session.
+const fragment = location.hash.slice(1);
+history.replaceState(null, "", location.pathname + location.search);
+
 const page = document.querySelector("main").dataset;
 const sign = document.getElementById("sign");
 const decline = document.getElementById("decline");
@@ -13,7 +17,7 @@ function decoded(encoded) {
 }
 
 function partOfFragment(name) {
-  const part = location.hash.slice(1).split("&").find((pair) => pair.startsWith(`${name}=`));
+  const part = fragment.split("&").find((pair) => pair.startsWith(`${name}=`));
   return part === undefined ? null : decoded(part.slice(name.length + 1));
 }
 
@@ -33,8 +37,6 @@ function finish(heading, explanation) {
   document.title = `${heading} · Quillseal`;
   document.getElementById("explanation").textContent = explanation;
   document.getElementById("actions").hidden = true;
-  // The text has done its work; it need not stay in the address bar and the history.
-  history.replaceState(null, "", location.pathname + location.search);
 }
 
 async function act(path, body, onSuccess) {

@@ -1,10 +1,13 @@
 #include "LinuxDesktop/BrowserLauncher.h"
 
 #include <array>
+#include <cstdlib>
 #include <stdexcept>
 #include <utility>
 
 #include "LinuxDesktop/Browsers.h"
+#include "LinuxDesktop/PrivateFolder.h"
+#include "LinuxDesktop/TabSocket.h"
 
 namespace quillseal {
 namespace {
@@ -20,6 +23,14 @@ std::optional<InstalledApplication> installed(const std::optional<DesktopEntry>&
   return InstalledApplication{.location = entry->id,
                               .bundleIdentifier = Browsers::identifierOf(
                                   {.desktopFile = entry->id, .executable = entry->executable})};
+}
+
+/// Where a Snap's program may read, unlike in the runtime folder; made by its first start.
+std::filesystem::path folderOfSnap(const std::string& snap) {
+  const char* const home = std::getenv("HOME");  // NOLINT(concurrency-mt-unsafe)
+  if (home == nullptr || snap.find('/') != std::string::npos)
+    throw std::runtime_error("the folder of the Snap is not known.");
+  return privateFolderIn(std::filesystem::path(home) / "snap" / snap / "common");
 }
 
 }  // namespace
@@ -43,26 +54,24 @@ void BrowserLauncher::open(const std::string& url, const std::string& location) 
              ? "No application on this computer opens web pages. Install a browser and try again."
              : "“" + location + "” is not installed any more.");
   }
-  const bool isLong = url.size() > longestArgument;
-  if (isLong && entry->isConfined) {
-    fail("The text is too long for “" + entry->name +
-         "”, which runs in a sandbox. Sign a part of it, or make a browser outside of a sandbox "
-         "the default one.");
-  }
-  if (!entries_.open(isLong ? pageFor(url) : url, entry->id))
+  if (!entries_.open(pageFor(url, *entry), entry->id))
     fail("“" + entry->name + "” could not be started.");
 }
 
-std::string BrowserLauncher::pageFor(const std::string& url) {
+std::string BrowserLauncher::pageFor(const std::string& url, const DesktopEntry& browser) {
+  if (!browser.seesOurFiles) {
+    fail("“" + browser.name +
+         "” runs in a sandbox that keeps the signing page from it. Make a browser outside of a "
+         "sandbox the default one.");
+  }
   try {
-    LeadingPage page(url);
+    LeadingPage page(url, browser.snap.empty() ? TabSocket::folder() : folderOfSnap(browser.snap));
     std::string address = page.address();
-    pages_.push_back(
-        {.page = std::move(page), .end = loop_.after(pageLife, [this] { pages_.pop_front(); })});
+    pages_.push_back({.page = std::move(page),
+                      .end = loop_.after(LeadingPage::life, [this] { pages_.pop_front(); })});
     return address;
   } catch (const std::runtime_error& error) {
-    fail("The text is too long to be handed to a browser in any way but a file. " +
-         std::string(error.what()));
+    fail("The signing page could not be opened in “" + browser.name + "”: " + error.what());
   }
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <chrono>
 #include <deque>
 #include <optional>
 #include <string>
@@ -15,14 +14,6 @@ namespace quillseal {
 /// Opens web pages in the browsers that are installed. Main thread.
 class BrowserLauncher {
  public:
-  /// A longer address does not go onto a command line: Chromium that runs already takes 32 KiB with
-  /// all arguments, and is killed by the one that brings more (kMaxMessageLength in its
-  /// process_singleton_posix.cc). It goes by way of a page on this computer.
-  static constexpr std::size_t longestArgument = 24'000;
-
-  /// How long such a page is there for a browser that has to start first.
-  static constexpr std::chrono::minutes pageLife{2};
-
   /// Both outlive this object.
   BrowserLauncher(DesktopEntries& entries, desktop::MainLoop& loop)
       : entries_(entries), loop_(loop) {}
@@ -32,7 +23,8 @@ class BrowserLauncher {
       const std::string& url) const;
 
   /// With the application whose desktop file `location` names, or with the user's choice for such
-  /// addresses when it is empty. Throws Error.
+  /// addresses when it is empty. The address goes by a page on this computer (LeadingPage), never
+  /// on a command line. Throws Error.
   void open(const std::string& url, const std::string& location);
 
  private:
@@ -41,7 +33,7 @@ class BrowserLauncher {
     desktop::Ticket end;
   };
 
-  [[nodiscard]] std::string pageFor(const std::string& url);
+  [[nodiscard]] std::string pageFor(const std::string& url, const DesktopEntry& browser);
 
   DesktopEntries& entries_;
   desktop::MainLoop& loop_;

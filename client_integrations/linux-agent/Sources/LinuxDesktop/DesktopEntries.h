@@ -8,11 +8,12 @@ namespace quillseal {
 
 /// What an installed application says about itself in its desktop file.
 struct DesktopEntry {
-  std::string id;           ///< File name without ".desktop", such as "org.gnome.TextEditor".
-  std::string name;         ///< In the user's language.
-  std::string categories;   ///< As written: "Network;Email;".
-  std::string executable;   ///< File name of the program or script it starts.
-  bool isConfined = false;  ///< A Flatpak or a Snap.
+  std::string id;            ///< File name without ".desktop", such as "org.gnome.TextEditor".
+  std::string name;          ///< In the user's language.
+  std::string categories;    ///< As written: "Network;Email;".
+  std::string executable;    ///< File name of the program or script it starts.
+  std::string snap;          ///< The Snap it belongs to; empty for none.
+  bool seesOurFiles = true;  ///< False for a Flatpak that is started without its files.
 };
 
 /// What can be found out about a window, each empty when it is not known.

@@ -14,6 +14,9 @@ constexpr std::chrono::minutes answerHolds{5};
 struct Unref {
   void operator()(gpointer object) const { g_object_unref(object); }
 };
+struct Free {
+  void operator()(char* text) const { g_free(text); }
+};
 using AppInfo = std::unique_ptr<GDesktopAppInfo, Unref>;
 
 std::string text(const char* value) {
@@ -32,6 +35,11 @@ std::string_view idOf(GDesktopAppInfo* info) {
   return result;
 }
 
+std::string value(GDesktopAppInfo* info, const char* key) {
+  const std::unique_ptr<char, Free> found(g_desktop_app_info_get_string(info, key));
+  return text(found.get());
+}
+
 DesktopEntry entryOf(GDesktopAppInfo* info) {
   return {.id = std::string(idOf(info)),
           .name = text(g_app_info_get_name(G_APP_INFO(info))),
@@ -39,8 +47,11 @@ DesktopEntry entryOf(GDesktopAppInfo* info) {
           .executable = std::filesystem::path(text(g_app_info_get_executable(G_APP_INFO(info))))
                             .filename()
                             .string(),
-          .isConfined = g_desktop_app_info_has_key(info, "X-Flatpak") != FALSE ||
-                        g_desktop_app_info_has_key(info, "X-SnapInstanceName") != FALSE};
+          .snap = value(info, "X-SnapInstanceName"),
+          // With the option, `flatpak run` has the document portal show the program each file that
+          // its command line names.
+          .seesOurFiles = value(info, "X-Flatpak").empty() ||
+                          value(info, "Exec").find("--file-forwarding") != std::string::npos};
 }
 
 AppInfo infoWithId(std::string_view id) {

@@ -14,6 +14,9 @@
 namespace quillseal {
 namespace {
 
+namespace fs = std::filesystem;
+
+constexpr std::string_view prefix = "page-";
 constexpr std::string_view suffix = ".html";
 
 bool writeAll(const FileDescriptor& file, std::string_view bytes) {
@@ -26,10 +29,22 @@ bool writeAll(const FileDescriptor& file, std::string_view bytes) {
   return true;
 }
 
+void removeLeftovers(const fs::path& folder) {
+  std::error_code ignored;
+  const auto now = fs::file_time_type::clock::now();
+  for (const fs::directory_entry& file : fs::directory_iterator(folder, ignored)) {
+    const std::string name = file.path().filename().string();
+    if (!name.starts_with(prefix) || !name.ends_with(suffix)) continue;
+    const fs::file_time_type written = file.last_write_time(ignored);
+    if (!ignored && now - written > 2 * LeadingPage::life) ::unlink(file.path().c_str());
+  }
+}
+
 }  // namespace
 
-LeadingPage::LeadingPage(std::string_view url) {
-  std::string path = TabSocket::folder() / ("page-XXXXXX" + std::string(suffix));
+LeadingPage::LeadingPage(std::string_view url, const fs::path& folder) {
+  removeLeftovers(folder);
+  std::string path = folder / (std::string(prefix) + "XXXXXX" + std::string(suffix));
   const FileDescriptor file(::mkostemps(path.data(), static_cast<int>(suffix.size()), O_CLOEXEC));
   // No URL holds a quotation mark, an angle bracket or a backslash. What is replaced stays out of
   // the history.

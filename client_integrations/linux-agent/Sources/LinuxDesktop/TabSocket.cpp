@@ -12,6 +12,8 @@
 #include <sys/un.h>
 #include <unistd.h>
 
+#include "LinuxDesktop/PrivateFolder.h"
+
 namespace quillseal {
 namespace {
 
@@ -23,13 +25,6 @@ constexpr std::size_t largestPiece = 4096;
 [[noreturn]] void fail(const std::string& action, const fs::path& path) {
   throw std::runtime_error("could not " + action + " “" + path.string() +
                            "”: " + std::generic_category().message(errno) + ".");
-}
-
-void requireOwn(const fs::path& folder, mode_t forbidden) {
-  struct stat status {};
-  if (::lstat(folder.c_str(), &status) != 0) fail("examine", folder);
-  if (!S_ISDIR(status.st_mode) || status.st_uid != ::geteuid() || (status.st_mode & forbidden) != 0)
-    throw std::runtime_error("“" + folder.string() + "” is not a folder of this user alone.");
 }
 
 FileDescriptor newSocket() {
@@ -63,11 +58,7 @@ fs::path folder() {
   const char* runtime = std::getenv("XDG_RUNTIME_DIR");  // NOLINT(concurrency-mt-unsafe)
   if (runtime == nullptr || !fs::path(runtime).is_absolute())
     throw std::runtime_error("XDG_RUNTIME_DIR names no folder.");
-  requireOwn(runtime, S_IWGRP | S_IWOTH);
-  fs::path result = fs::path(runtime) / "quillseal";
-  if (::mkdir(result.c_str(), S_IRWXU) != 0 && errno != EEXIST) fail("make", result);
-  requireOwn(result, S_IRWXG | S_IRWXO);
-  return result;
+  return privateFolderIn(runtime);
 }
 
 FileDescriptor listen() {

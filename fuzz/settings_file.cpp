@@ -3,8 +3,10 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "LinuxDesktop/QtDefaults.h"
 #include "Quillseal/UnicodeText.h"
@@ -46,12 +48,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static_cast<void>(scratch.defaults.boolean("ConfirmBeforeSigning"));
   if (!fs::exists(scratch.file)) require(!server && fs::file_size(scratch.damaged) == size);
 
-  // Qt takes a byte-order mark at the start of a text away.
-  const std::string value = "=" + unicode::wellFormed(bytes.substr(0, 200));
+  const std::string value = unicode::wellFormed(bytes.substr(0, 200));
+  const bool fitsALine = value.find_first_of(std::string_view("\r\n\0", 3)) == std::string::npos;
   scratch.defaults.setString("BoundIdentity", value);
   require(!fs::exists(scratch.file) || fs::file_size(scratch.file) > 0);
   require(scratch.defaults.string("BoundIdentity") == value);
   require(scratch.defaults.string("ServerURL") == server);
+  if (fitsALine) {
+    std::ifstream file(scratch.file, std::ios::binary);
+    const std::string text{std::istreambuf_iterator<char>(file), {}};
+    require(text.find("BoundIdentity=" + value) != std::string::npos);
+  }
   QCoreApplication::processEvents();
   return 0;
 }

@@ -66,7 +66,13 @@ TEST_F(QtDefaultsTest, KeepsValuesForTheirOwnerOnly) {
                                         "\\\"",
                                         "@Invalid()",
                                         "é 日本 🛡️",
-                                        "line\nbreak\ttab",
+                                        "tab\there",
+                                        "a,b",
+                                        "a;b",
+                                        "a\\b",
+                                        "a\\x41b",
+                                        "\"",
+                                        "a=b=",
                                         "%41",
                                         "#",
                                         ";",
@@ -80,7 +86,7 @@ TEST_F(QtDefaultsTest, KeepsValuesForTheirOwnerOnly) {
     EXPECT_EQ(make().string("BoundIdentity"), value);
   }
   EXPECT_EQ(make().string("ServerURL"), std::nullopt);
-  EXPECT_THAT(contentsOf(path_), HasSubstr("[General]\n"));
+  EXPECT_EQ(contentsOf(path_), "[General]\nBoundIdentity=[x]\n");
   EXPECT_EQ(fs::status(path_).permissions(), fs::perms::owner_read | fs::perms::owner_write);
   EXPECT_THAT(warnings_, IsEmpty());
 }
@@ -100,8 +106,59 @@ TEST_F(QtDefaultsTest, ReadsWhatPeopleWrite) {
   EXPECT_FALSE(defaults.boolean("NoSuchKey"));
   EXPECT_EQ(fs::status(path_).permissions() & fs::perms::others_all, fs::perms::none);
 
+  for (const char* value :
+       {"a,b", "a;b", "a\\b", "a\\x41b", "a\\\\b", "\"a, b\"", "\"open", "%41%", "@Invalid()",
+        " two  blanks ", "\u00E9 日本 🛡️", "a=b", "# no comment", "[no section]", ""}) {
+    overwrite(path_, std::string("[General]\nAPIKey=") + value + "\n");
+    EXPECT_EQ(defaults.string("APIKey"), value);
+    overwrite(path_, std::string("APIKey=") + value);
+    EXPECT_EQ(defaults.string("APIKey"), value) << "without a heading, and at the end";
+  }
+
   overwrite(path_, "\xEF\xBB\xBF[General]\r\nServerURL=https://b.example\r\n");
   EXPECT_EQ(defaults.string("ServerURL"), "https://b.example");
+}
+
+TEST_F(QtDefaultsTest, ChangesOneLineOnly) {
+  struct Row {
+    const char* before;
+    const char* after;
+  };
+  fs::create_directories(path_.parent_path());
+  for (const Row& row : {
+           Row{"", "[General]\nAPIKey=new\n"},
+           Row{"# mine", "# mine\n[General]\nAPIKey=new\n"},
+           Row{"[general]\r\n; c\r\nAPIKey = old\r\nX=1,2\r\n\r\n[Other]\r\nAPIKey=other",
+               "[general]\r\n; c\r\nAPIKey=new\r\nX=1,2\r\n\r\n[Other]\r\nAPIKey=other"},
+           Row{"[General]\nX=\"1\n\n# c\n\n[Other]\nAPIKey=other\n",
+               "[General]\nX=\"1\nAPIKey=new\n\n# c\n\n[Other]\nAPIKey=other\n"},
+           Row{"[General]", "[General]\nAPIKey=new"},
+           Row{"APIKey=1\nAPIKey=2\n", "APIKey=1\nAPIKey=new\n"},
+           Row{"[Other]\nAPIKey=other\n", "[Other]\nAPIKey=other\n[General]\nAPIKey=new\n"},
+           Row{"\uFEFFAPIKey=old\n", "\uFEFFAPIKey=new\n"},
+       }) {
+    overwrite(path_, row.before);
+    QtDefaults defaults = make();
+    defaults.setString("APIKey", "new");
+    EXPECT_EQ(contentsOf(path_), row.after);
+    EXPECT_EQ(defaults.string("APIKey"), "new");
+  }
+  EXPECT_THAT(warnings_, IsEmpty());
+}
+
+TEST_F(QtDefaultsTest, KeepsWhatNoLineCanHoldForTheProcess) {
+  QtDefaults defaults = make();
+  defaults.setString("APIKey", "k");
+  for (const std::string& value :
+       {std::string("a\nServerURL=x"), std::string("a\rb"), std::string("a\0b", 3)}) {
+    defaults.setString("BoundIdentity", value);
+    EXPECT_EQ(defaults.string("BoundIdentity"), value);
+    EXPECT_EQ(defaults.string("ServerURL"), std::nullopt);
+    EXPECT_EQ(contentsOf(path_), "[General]\nAPIKey=k\n");
+  }
+  EXPECT_TRUE(eventually([&] { return warnings_.size() == 3; }));
+  defaults.setString("BoundIdentity", "Ada");
+  EXPECT_EQ(make().string("BoundIdentity"), "Ada");
 }
 
 TEST_F(QtDefaultsTest, NoticesEveryonesChanges) {
@@ -114,8 +171,7 @@ TEST_F(QtDefaultsTest, NoticesEveryonesChanges) {
   EXPECT_EQ(changes, 0) << "not from inside the call";
   EXPECT_TRUE(eventually([&] { return changes == 1; }));
 
-  // As an editor saves: in place, then by a new file under the old name. QSettings tells versions
-  // apart by size and time, and the clock of a file system ticks slower than a test.
+  // As an editor saves: in place, then by a new file under the old name.
   overwrite(path_, "[General]\nServerURL=https://second.example\n");
   EXPECT_EQ(defaults.string("ServerURL"), "https://second.example");
   EXPECT_TRUE(eventually([&] { return changes == 2; }));
@@ -139,13 +195,11 @@ TEST_F(QtDefaultsTest, SetsADamagedFileAside) {
   fs::create_directories(path_.parent_path());
   const std::vector<std::string> damages{"no settings here\n",
                                          "[General\nServerURL=x\n",
-                                         "[General]\nServerURL=\"x\n",
                                          std::string("a=\0\n", 4),
                                          "a=\xff\xfe\n",
                                          "=x\n",
-                                         "/=x\n",
-                                         "a\\=x\n",
-                                         "a%2F=x\n",
+                                         " =x\n",
+                                         "[x]y=1\n",
                                          "b=1\r=x\n",
                                          std::string(1024 * 1024, '\n') + "\n"};
   int number = 0;

@@ -1,11 +1,13 @@
 // Answers two questions of the Quillseal agent: which tab is current, and, after a signature in the
-// browser, whether the signing page could be closed and the earlier tab shown again. Nothing about
-// tabs leaves the browser but the number of one tab; no page is read or changed.
+// browser, whether the signing page could be closed and the earlier tab shown again. And it takes
+// the addresses that brought a text to a signing page out of the history. Nothing about tabs leaves
+// the browser but the number of one tab, nothing about the history; no page is read or changed.
 "use strict";
 
 const extensionApi = globalThis.browser ?? globalThis.chrome;
 const hostName = "com.quillseal.tabs";
 const signingPageMark = /^\/handoff\?h=[A-Za-z0-9._~:=-]{1,256}$/;
+const addressWithText = /^https?:\/\/[^?#]*\/handoff\?h=[A-Za-z0-9._~:=-]{1,256}#t=/;
 const shortestPause = 1000;
 const longestPause = 300_000;
 
@@ -71,6 +73,11 @@ function connect() {
     setTimeout(connect, pause);
   });
 }
+
+// The page takes its text out of the address at once, but the browser has written that down by then.
+extensionApi.history.onVisited.addListener(({ url }) => {
+  if (addressWithText.test(url)) extensionApi.history.deleteUrl({ url });
+});
 
 extensionApi.windows.onFocusChanged.addListener((window) => {
   if (window !== extensionApi.windows.WINDOW_ID_NONE) lastFocus = Date.now();

@@ -1,65 +1,22 @@
 #include "LinuxDesktop/QtDefaults.h"
 
-#include <QByteArray>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QMetaObject>
-#include <QSettings>
+#include <QSaveFile>
 #include <QStandardPaths>
-#include <algorithm>
 #include <thread>
 #include <utility>
 #include <vector>
 
+#include "LinuxDesktop/QtText.h"
 #include "Quillseal/UnicodeText.h"
 
 namespace quillseal {
 namespace {
 
 constexpr QFile::Permissions ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
-constexpr qsizetype largestFile = qsizetype{1024} * 1024;
-
-QString fromUtf8(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-/// Whether every quotation ends. A backslash takes the next byte's meaning, in quotes and outside.
-bool isBalanced(const QByteArray& line) {
-  bool isQuoted = false;
-  for (qsizetype i = 0; i < line.size(); ++i) {
-    if (line[i] == '\\') {
-      ++i;
-    } else if (line[i] == '"') {
-      isQuoted = !isQuoted;
-    }
-  }
-  return !isQuoted;
-}
-
-/// QSettings writes nothing before the "=" for what follows the last slash of a key.
-bool isKey(const QByteArray& lowercased) {
-  return !lowercased.isEmpty() && !lowercased.endsWith('/') && !lowercased.endsWith('\\') &&
-         !lowercased.endsWith("%2f");
-}
-
-bool isIniLine(const QByteArray& untrimmed) {
-  const QByteArray line = untrimmed.trimmed();
-  if (line.isEmpty() || line.startsWith(';') || line.startsWith('#')) return true;
-  if (line.startsWith('[')) return line.endsWith(']');
-  const qsizetype equals = line.indexOf('=');
-  return equals > 0 && isKey(line.left(equals).trimmed().toLower()) && isBalanced(line);
-}
-
-/// Whether the bytes are lines of "key=value", "[section]", comments and blanks. QSettings itself
-/// passes over anything else, and drops it when it writes.
-bool isIni(QByteArray bytes) {
-  if (bytes.size() > largestFile || bytes.contains('\0')) return false;
-  if (bytes.startsWith("\xEF\xBB\xBF")) bytes.remove(0, 3);  // a byte-order mark
-  const std::string text = bytes.toStdString();
-  bytes.replace('\r', '\n');  // ends a line, with or without the other
-  return unicode::wellFormed(text) == text && std::ranges::all_of(bytes.split('\n'), isIniLine);
-}
 
 void keepFromOthers(const QString& path) {
   constexpr QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
@@ -68,16 +25,19 @@ void keepFromOthers(const QString& path) {
   if (file.isFile() && (file.permissions() & others) != 0) QFile::setPermissions(path, ownerOnly);
 }
 
-/// A value as text. An unquoted comma makes a list of what was meant as one text.
-QString textOf(const QVariant& value) {
-  return value.typeId() == QMetaType::QStringList ? value.toStringList().join(u", ")
-                                                  : value.toString();
+/// Puts `text` in the place of the file, whole or not at all.
+bool replaceFile(const QString& path, const std::string& text) {
+  QSaveFile file(path);
+  return file.open(QFile::WriteOnly | QFile::Unbuffered) && file.setPermissions(ownerOnly) &&
+         file.write(text.data(), static_cast<qsizetype>(text.size())) ==
+             static_cast<qsizetype>(text.size()) &&
+         file.commit();
 }
 
 }  // namespace
 
 QtDefaults::QtDefaults(Options options)
-    : options_(std::move(options)), path_(fromUtf8(options_.path)) {
+    : options_(std::move(options)), path_(toQString(options_.path)) {
   const QFileInfo file(path_);
   QDir().mkpath(file.absolutePath());
   seen_ = read();
@@ -102,10 +62,10 @@ std::string QtDefaults::settingsFile() {
 }
 
 std::optional<std::string> QtDefaults::string(std::string_view key) const {
-  const Values values = read();
-  const auto found = values.constFind(fromUtf8(key));
-  if (found == values.constEnd()) return std::nullopt;
-  return found->toStdString();
+  const SettingsText::Values values = read();
+  const auto found = values.find(key);
+  if (found == values.end()) return std::nullopt;
+  return found->second;
 }
 
 bool QtDefaults::boolean(std::string_view key) const {
@@ -114,21 +74,15 @@ bool QtDefaults::boolean(std::string_view key) const {
 }
 
 void QtDefaults::setString(std::string_view key, std::string_view value) {
-  const QString name = fromUtf8(key);
-  const QString text = fromUtf8(value);
   {
     const std::scoped_lock lock(mutex_);
-    bool isSaved = false;
-    if (prepareFile() == FileState::usable) {
-      QSettings settings(path_, QSettings::IniFormat);
-      settings.setValue(name, text);
-      settings.sync();
-      isSaved = settings.status() == QSettings::NoError;
-    }
+    std::optional<SettingsText> settings = fileContents();
+    const bool isSaved =
+        settings && settings->set(key, value) && replaceFile(path_, settings->text());
     if (isSaved) {
-      unsaved_.remove(name);
+      unsaved_.erase(std::string(key));
     } else {
-      unsaved_.insert(name, text);
+      unsaved_.insert_or_assign(std::string(key), unicode::wellFormed(value));
       warn(QStringLiteral("The settings could not be saved in %1. They hold until Quillseal ends.")
                .arg(path_));
     }
@@ -143,44 +97,38 @@ desktop::Ticket QtDefaults::observe(std::function<void()> changed) {
   return desktop::Ticket([observers = observers_, id] { observers->erase(id); });
 }
 
-QtDefaults::Values QtDefaults::read() const {
+SettingsText::Values QtDefaults::read() const {
   const std::scoped_lock lock(mutex_);
-  Values values;
-  if (prepareFile() == FileState::usable) {
-    // A new object looks at the file again.
-    const QSettings settings(path_, QSettings::IniFormat);
-    for (const QString& key : settings.childKeys())
-      values[key] = textOf(settings.value(key));
-  }
-  for (auto unsaved = unsaved_.cbegin(); unsaved != unsaved_.cend(); ++unsaved) {
-    values[unsaved.key()] = unsaved.value();
-  }
+  SettingsText::Values values;
+  if (const std::optional<SettingsText> settings = fileContents()) values = settings->values();
+  for (const auto& [key, value] : unsaved_)
+    values.insert_or_assign(key, value);
   return values;
 }
 
-QtDefaults::FileState QtDefaults::prepareFile() const {
+std::optional<SettingsText> QtDefaults::fileContents() const {
   // Each time, since an editor may have put a new file in its place.
   keepFromOthers(path_);
-  QByteArray before;
+  std::string before;
   for (bool isSecondLook = false;; isSecondLook = true) {
     QFile file(path_);
-    if (!file.exists()) return FileState::usable;
+    if (!file.exists()) return SettingsText();
     if (!file.open(QFile::ReadOnly)) {
       if (!std::exchange(isWarned_, true)) {
         warn(QStringLiteral("The settings in %1 cannot be read. Check whose file that is.")
                  .arg(path_));
       }
-      return FileState::unusable;
+      return std::nullopt;
     }
-    const QByteArray bytes = file.read(largestFile + 1);
-    if (isIni(bytes)) return FileState::usable;
+    std::string bytes = file.read(SettingsText::largest + 1).toStdString();
+    if (auto settings = SettingsText::parsed(bytes)) return settings;
     if (isSecondLook && bytes == before) return setAside();
-    before = bytes;
+    before = std::move(bytes);
     std::this_thread::sleep_for(options_.editorsPatience);
   }
 }
 
-QtDefaults::FileState QtDefaults::setAside() const {
+std::optional<SettingsText> QtDefaults::setAside() const {
   constexpr int mostCopies = 100;
   for (int number = 1; number <= mostCopies; ++number) {
     const QString name = path_ + QStringLiteral(".damaged-%1").arg(number);
@@ -188,12 +136,12 @@ QtDefaults::FileState QtDefaults::setAside() const {
     warn(QStringLiteral("The settings file was damaged. It was renamed %1, and the settings are "
                         "empty now.")
              .arg(name));
-    return FileState::usable;
+    return SettingsText();
   }
   if (!std::exchange(isWarned_, true)) {
     warn(QStringLiteral("The settings file %1 is damaged. Rename or mend it.").arg(path_));
   }
-  return FileState::unusable;
+  return std::nullopt;
 }
 
 void QtDefaults::warn(const QString& sentence) const {
@@ -208,7 +156,7 @@ void QtDefaults::watchFile() {
 }
 
 void QtDefaults::compare() {
-  Values values = read();
+  SettingsText::Values values = read();
   if (values == seen_) return;
   seen_ = std::move(values);
   std::vector<std::uint64_t> ids;

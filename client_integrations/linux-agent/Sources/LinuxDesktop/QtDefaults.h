@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QFileSystemWatcher>
-#include <QMap>
 #include <QObject>
 #include <QString>
 #include <chrono>
@@ -10,15 +9,17 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
 
 #include "Desktop/Defaults.h"
+#include "LinuxDesktop/SettingsText.h"
 
 namespace quillseal {
 
-/// The settings as an INI file of Qt's form, group "General", that users and other programs may
-/// edit at any time. Only its owner may read it, since it holds the API key. Created and destroyed
-/// on the main thread. REQUIRES: a QCoreApplication lives longer.
+/// The settings as a file (SettingsText) that users and other programs may edit at any time. Only
+/// its owner may read it, since it holds the API key. Created and destroyed on the main thread.
+/// REQUIRES: a QCoreApplication lives longer.
 ///
 /// A file that cannot be understood is renamed, with ".damaged-" and a number added to its name,
 /// and counts as empty.
@@ -46,14 +47,12 @@ class QtDefaults final : public desktop::Defaults {
   [[nodiscard]] desktop::Ticket observe(std::function<void()> changed) override;
 
  private:
-  using Values = QMap<QString, QString>;
   using Observers = std::map<std::uint64_t, std::function<void()>>;
 
-  enum class FileState { usable, unusable };
-
-  [[nodiscard]] Values read() const;
-  [[nodiscard]] FileState prepareFile() const;
-  [[nodiscard]] FileState setAside() const;
+  [[nodiscard]] SettingsText::Values read() const;
+  /// Nothing when the file cannot be used; the user has then been warned.
+  [[nodiscard]] std::optional<SettingsText> fileContents() const;
+  [[nodiscard]] std::optional<SettingsText> setAside() const;
   void warn(const QString& sentence) const;
   void watchFile();
   void compare();
@@ -62,10 +61,10 @@ class QtDefaults final : public desktop::Defaults {
   QString path_;
   mutable std::mutex mutex_;  // serves reads from any thread; guards what follows
   mutable bool isWarned_ = false;
-  Values unsaved_;  // what could not be written holds for this process
+  SettingsText::Values unsaved_;  // what could not be written holds for this process
 
   // Main thread only.
-  Values seen_;
+  SettingsText::Values seen_;
   std::shared_ptr<Observers> observers_ = std::make_shared<Observers>();
   std::uint64_t lastObserver_ = 0;
   QFileSystemWatcher watcher_;

@@ -1,10 +1,12 @@
 """Real browsers in a private desktop, with the extension installed as a package installs it."""
 
+import contextlib
 import http.server
 import os
 import pathlib
 import re
 import shutil
+import sqlite3
 import subprocess
 import sys
 import tempfile
@@ -91,6 +93,7 @@ document.addEventListener("selectionchange", () => tell("selected", String(getSe
         self.open = []
         self.told = {}  # by what is told and by page
         self.counts = {}
+        self.leads_to = {}  # addresses by the paths that redirect there
         self.write(text, kind)
 
         class Handler(http.server.BaseHTTPRequestHandler):
@@ -98,6 +101,11 @@ document.addEventListener("selectionchange", () => tell("selected", String(getSe
                 url = urllib.parse.urlsplit(self.path)
                 if url.path == "/favicon.ico":
                     self.send_error(404)
+                    return
+                if url.path in site.leads_to:
+                    self.send_response(302)
+                    self.send_header("Location", site.leads_to[url.path])
+                    self.end_headers()
                     return
                 title = urllib.parse.parse_qs(url.query).get("h", ["Untitled"])[0]
                 page = Site.PAGE.format(title=title, query="?" + url.query,
@@ -179,3 +187,11 @@ class Browser:
 
     def quit(self):
         self.session.end(self.process)
+
+    def visited(self):
+        """The addresses in the history of the browser, which has quit."""
+        name, table = ("History", "urls") if self.family == "chromium" else ("places.sqlite",
+                                                                             "moz_places")
+        [file] = self.session.home.rglob(name)
+        with contextlib.closing(sqlite3.connect(file)) as history:
+            return [url for url, in history.execute(f"SELECT url FROM {table}")]

@@ -29,6 +29,11 @@ std::vector<std::string> oneOf(const std::array<const char*, Size>& formats) {
   return {formats.begin(), formats.end()};
 }
 
+/// Some programs send the NUL along that ends their strings: LibreOffice Writer with its HTML.
+QString withoutNuls(QString text) {
+  return text.remove(QChar(u'\0'));
+}
+
 std::unique_ptr<QMimeData> dataOf(const X11Selection::Content& content) {
   auto data = std::make_unique<QMimeData>();
   for (const auto& [format, bytes] : content) {
@@ -105,13 +110,13 @@ bool QtPasteboard::isConcealed() const {
 std::optional<std::string> QtPasteboard::plainText() const {
   const QMimeData* data = offered();
   if (data == nullptr || !data->hasText()) return std::nullopt;
-  return present(data->text().toStdString());
+  return present(withoutNuls(data->text()).toStdString());
 }
 
 std::optional<std::string> QtPasteboard::html() const {
   const QMimeData* data = offered();
   if (data == nullptr || !data->hasHtml()) return std::nullopt;
-  return present(data->html().toStdString());
+  return present(withoutNuls(data->html()).toStdString());
 }
 
 std::optional<std::string> QtPasteboard::rtf() const {
@@ -139,7 +144,7 @@ void QtPasteboard::write(const desktop::PasteboardContent& content) {
 desktop::Ticket QtPasteboard::copyPrimarySelection(std::function<void()> done) {
   QClipboard* const clipboard = QGuiApplication::clipboard();
   const auto arrive = [clipboard, done = std::move(done)](const QString& text) {
-    if (!text.isEmpty()) clipboard->setText(text);
+    if (const QString written = withoutNuls(text); !written.isEmpty()) clipboard->setText(written);
     done();
   };
   if (clipboard->ownsSelection()) {

@@ -166,6 +166,7 @@ class Applications(Story):
         self.assertRegex(document, r'<text:span text:style-name="\w+">draft</text:span>')
         self.assertEqual(document.count("<table:table "), 1)
         self.assertEqual((document.count("『"), document.count("』")), (1, 1))
+        self.assertNotIn("\0", self.desktop.selection(target="text/html"), "Writer's ends in one")
         self.assert_recorded("Word Document (LibreOffice Writer)")
 
     def sign_in_browser(self, kind, text):

@@ -1,0 +1,52 @@
+#include <QGuiApplication>
+#include <QMimeData>
+#include <array>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "LinuxDesktop/QtDescriptors.h"
+#include "LinuxDesktop/QtMainLoop.h"
+#include "LinuxDesktop/QtPasteboard.h"
+
+namespace quillseal {
+namespace {
+
+using namespace std::string_literals;
+
+TEST(QtPasteboard, LeavesOutTheNulsThatEndOtherProgramsStrings) {
+  std::string program = "test";
+  std::string option = "-platform";
+  std::string platform = "minimal";  // which has nothing to do with X
+  std::array<char*, 4> arguments{program.data(), option.data(), platform.data(), nullptr};
+  int count = 3;
+  const QGuiApplication application(count, arguments.data());
+  QtMainLoop loop;
+  QtDescriptors descriptors;
+  const QtPasteboard pasteboard({.loop = loop, .descriptors = descriptors});
+
+  struct Row {
+    std::string offered;
+    std::optional<std::string> read;
+  };
+  for (const Row& row : {
+           Row{"<p>é</p>\n\0"s, "<p>é</p>\n"}, Row{"\0<b>\0\0x\0"s, "<b>x"},
+           Row{"\0"s, std::nullopt},
+           Row{"\xFF\xFE<\0p\0>\0\0\0"s, "<p>"},  // UTF-16, as browsers send it
+       }) {
+    auto data = std::make_unique<QMimeData>();
+    data->setData(QStringLiteral("text/html"), QByteArray::fromStdString(row.offered));
+    if (row.offered.front() != '\xFF')
+      data->setText(QString::fromUtf8(QByteArray::fromStdString(row.offered)));
+    QGuiApplication::clipboard()->setMimeData(data.release());
+    EXPECT_EQ(pasteboard.html(), row.read) << testing::PrintToString(row.offered);
+    if (row.offered.front() != '\xFF') {
+      EXPECT_EQ(pasteboard.plainText(), row.read);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace quillseal

@@ -1,13 +1,14 @@
 // Answers two questions of the Quillseal agent: which tab is current, and, after a signature in the
 // browser, whether the signing page could be closed and the earlier tab shown again. And it takes
-// the addresses that brought a text to a signing page out of the history. Nothing about tabs leaves
+// signing pages, whose addresses bring a text along, out of the history. Nothing about tabs leaves
 // the browser but the number of one tab, nothing about the history; no page is read or changed.
 "use strict";
 
 const extensionApi = globalThis.browser ?? globalThis.chrome;
 const hostName = "com.quillseal.tabs";
 const signingPageMark = /^\/handoff\?h=[A-Za-z0-9._~:=-]{1,256}$/;
-const addressWithText = /^https?:\/\/[^?#]*\/handoff\?h=[A-Za-z0-9._~:=-]{1,256}#t=/;
+const signingPageAddress = /^https?:\/\/[^?#]*\/handoff\?h=[A-Za-z0-9._~:=-]{1,256}(#t=|$)/;
+const untilIconIsNoted = 2000;
 const shortestPause = 1000;
 const longestPause = 300_000;
 
@@ -74,9 +75,12 @@ function connect() {
   });
 }
 
-// The page takes its text out of the address at once, but the browser has written that down by then.
+// The page takes its text out of the address at once, but the browser has written that down by then:
+// as visited, as what led to the address without the text, and a little later as what has an icon.
 extensionApi.history.onVisited.addListener(({ url }) => {
-  if (addressWithText.test(url)) extensionApi.history.deleteUrl({ url });
+  if (!signingPageAddress.test(url)) return;
+  extensionApi.history.deleteUrl({ url });
+  setTimeout(() => extensionApi.history.deleteUrl({ url }), untilIconIsNoted);
 });
 
 extensionApi.windows.onFocusChanged.addListener((window) => {

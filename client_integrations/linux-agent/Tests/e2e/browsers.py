@@ -188,10 +188,15 @@ class Browser:
     def quit(self):
         self.session.end(self.process)
 
-    def visited(self):
-        """The addresses in the history of the browser, which has quit."""
-        name, table = ("History", "urls") if self.family == "chromium" else ("places.sqlite",
-                                                                             "moz_places")
-        [file] = self.session.home.rglob(name)
-        with contextlib.closing(sqlite3.connect(file)) as history:
-            return [url for url, in history.execute(f"SELECT url FROM {table}")]
+    def remembered(self):
+        """Every text in the history of the browser, which has quit, and in what belongs to it."""
+        names = (("History", "Favicons") if self.family == "chromium" else
+                 ("places.sqlite", "favicons.sqlite"))
+        texts = []
+        for file in (file for name in names for file in self.session.home.rglob(name)):
+            with contextlib.closing(sqlite3.connect(file)) as database:
+                tables = database.execute("SELECT name FROM sqlite_master WHERE type = 'table'")
+                for table, in tables.fetchall():
+                    for row in database.execute(f'SELECT * FROM "{table}"'):
+                        texts.extend(value for value in row if isinstance(value, str))
+        return texts

@@ -74,10 +74,11 @@ bool isPlain(std::string_view name) {
 }
 
 std::string shown(std::string_view name) {
-  constexpr const char* isolate = "\u2068";
-  constexpr const char* endOfIsolate = "\u2069";
+  constexpr char32_t isolate = 0x2068;
+  constexpr char32_t endOfIsolate = 0x2069;
   const Traits traits = traitsOf(name);
   std::string result;
+  if (traits.hasRightToLeft) unicode::append(result, isolate);
   for (std::size_t position = 0; position < name.size();) {
     const char32_t scalar = unicode::nextScalar(name, position);
     if (isInvisible(scalar) || !traits.hasSign)
@@ -85,7 +86,8 @@ std::string shown(std::string_view name) {
     else
       unicode::append(result, scalar);
   }
-  return traits.hasRightToLeft ? isolate + result + endOfIsolate : result;
+  if (traits.hasRightToLeft) unicode::append(result, endOfIsolate);
+  return result;
 }
 
 }  // namespace quillseal::IdentityName

@@ -79,6 +79,10 @@ constexpr Row rewritten[] = {
      "key below.",
      "This key authorizes the app build. It is not proof of who you are — that comes from the "
      "signing key below."},
+    {"This build names no signing server. Set “ServerURL” to the address of one with “defaults "
+     "write”, or install a packaged build from your provider.",
+     "This build names no signing server. Write a line “ServerURL=” with the address of one into "
+     "~/.config/Quillseal/Quillseal.conf, or install a packaged build from your provider."},
     {"Enrolled — a signing key exists inside the Secure Enclave.",
      "Enrolled — a signing key exists inside the TPM.",
      "Enrolled — a signing key exists in a key file, encrypted with your passphrase."},

@@ -76,6 +76,13 @@ constexpr Row rows[] = {
      "Re-enrolling creates a NEW key. Signatures already made remain verifiable, but this computer "
      "must be re-enrolled on the server."},
 
+    // Configuration.
+    {Match::whole,
+     "This build names no signing server. Set “ServerURL” to the address of one with “defaults "
+     "write”, or install a packaged build from your provider.",
+     "This build names no signing server. Write a line “ServerURL=” with the address of one into "
+     "~/.config/Quillseal/Quillseal.conf, or install a packaged build from your provider."},
+
     // Enrolment.
     {Match::whole, "Could Not Set Up This Mac", "Could Not Set Up This Computer"},
     {Match::beginning, "Quillseal could not register this Mac with ",

@@ -117,7 +117,7 @@ Task<Response> ServerClient::post(std::string_view path, Request body) const {
   if (!hasServer()) {
     throw Error({.domain = "Quillseal",
                  .code = 0,
-                 .description = "No signing server is set. Enter its address in the settings."});
+                 .description = "No signing server is set: “ServerURL” is missing in the settings."});
   }
   const desktop::HttpPost request = postOf(effectiveServerURL() + std::string(path), body);
   desktop::HttpTransport& http = services_.http;

@@ -541,8 +541,8 @@ std::string SigningCoordinator::configurationAdvice() const {
            "API "
            "key, or install a packaged build from your provider.";
   }
-  return "This build names no signing server. Enter the server’s address under “ServerURL” in "
-         "Quillseal’s settings, or install a packaged build from your provider.";
+  return "This build names no signing server. Set “ServerURL” to the address of one with “defaults "
+         "write”, or install a packaged build from your provider.";
 }
 
 Task<> SigningCoordinator::enrolDevice() {

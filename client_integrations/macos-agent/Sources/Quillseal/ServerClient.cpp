@@ -115,9 +115,10 @@ std::string ServerClient::hardwareUUID(const desktop::MachineIdentity& machine) 
 template <typename Response, typename Request>
 Task<Response> ServerClient::post(std::string_view path, Request body) const {
   if (!hasServer()) {
-    throw Error({.domain = "Quillseal",
-                 .code = 0,
-                 .description = "No signing server is set: “ServerURL” is missing in the settings."});
+    throw Error(
+        {.domain = "Quillseal",
+         .code = 0,
+         .description = "No signing server is set: “ServerURL” is missing in the settings."});
   }
   const desktop::HttpPost request = postOf(effectiveServerURL() + std::string(path), body);
   desktop::HttpTransport& http = services_.http;

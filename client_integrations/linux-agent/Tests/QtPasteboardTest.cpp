@@ -1,3 +1,4 @@
+#include <QClipboard>
 #include <QGuiApplication>
 #include <QMimeData>
 #include <array>

@@ -538,8 +538,7 @@ Task<bool> SigningCoordinator::ensureEnrolled() {
 std::string SigningCoordinator::configurationAdvice() const {
   if (serverClient_.effectiveAPIKey().empty()) {
     return "This build has no server API key. Open Settings and enter the server URL and native "
-           "API "
-           "key, or install a packaged build from your provider.";
+           "API key, or install a packaged build from your provider.";
   }
   return "This build names no signing server. Set “ServerURL” to the address of one with “defaults "
          "write”, or install a packaged build from your provider.";

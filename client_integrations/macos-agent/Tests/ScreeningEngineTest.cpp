@@ -67,7 +67,7 @@ Comparisons compareWithIcu(std::span<const Pattern> patterns, std::size_t texts,
 }
 
 TEST(ScreeningEngine, AgreesWithIcuOnEveryConstruct) {
-  constexpr std::array<std::string_view, 83> expressions{
+  constexpr std::array<std::string_view, 91> expressions{
       // Letters, folding and the splitting of strings by groups, sets and quantifiers
       "strasse", "ss", "s", "as+", "ass?", "a(?:s)s", "[s]s", "s[s]", "[.]fi", "of[f]i", "fi|ff|fl",
       "ſtaff", "K", "kk", "ß", "xß?", "İ", "i", "σς", "e\u0301", "\u0149", "ŉ?t", "ǰ", "^ΐ\\s",
@@ -89,6 +89,10 @@ TEST(ScreeningEngine, AgreesWithIcuOnEveryConstruct) {
       "[^.!?]{0,9}\\s+internationally\\w",
       // Looking around
       "a(?!b)", "(?=\\w{3})e", "t(?![\\s\\S]*x)", "(?<!\\w)e", "(?<=[ .])a",
+      "(?<=\\b[a-z]{1,3})[.]", "(?<=\\b[a-f]{2})\\w", "(?<=\\bx)y",
+      // Loops over one code point, some of which only beside certain neighbours
+      "t(?:[^.!?]|[.](?=\\w)){0,9}e", "t(?:[^.]|[.](?=\\s?\\d)|(?<=\\b[a-z]{1,2})[.])*?e",
+      "(?:[^.]|[.](?=[^\\s.]))+e\\b", "(?:[a-m]|[n-z](?!\\W)){2,5}", "(?:s|[t](?=s)|a|ss){3}",
       "(?=[\\s\\S]*a)(?=[\\s\\S]*\\be)", "^(?![\\s\\S]*x)[\\s\\S]*?(?:e\\w|a)"};
   std::vector<Pattern> patterns;
   for (const std::string_view expression : expressions)

@@ -313,15 +313,32 @@ class Parser {
       node.children.push_back(alternatives());
     } else if (next(U"?<=") || next(U"?<!")) {
       const bool negative = pattern_[at_ - 1] == U'!';
-      node = withoutSequence(alternatives());
-      if (node.kind != Node::Kind::set) fail("only one character can be looked back at");
-      node.kind = Node::Kind::precedingInSet;
-      node.negative = negative;
+      node = preceding(withoutSequence(alternatives()), negative);
     } else {
       fail("this group is not offered");
     }
     if (!next(U")")) fail("missing )");
     return node;
+  }
+
+  /// What is looked back at: one character, or a word of one set such as `\b[a-z]{1,3}`.
+  Node preceding(Node node, bool negative) {
+    if (node.kind == Node::Kind::set)
+      return {.kind = Node::Kind::precedingInSet, .negative = negative, .set = node.set};
+    const auto& parts = node.children;
+    if (!negative && node.kind == Node::Kind::sequence && parts.size() == 2 &&
+        parts[0].kind == Node::Kind::wordBoundary && !parts[0].negative) {
+      const Node& letters = parts[1];
+      if (letters.kind == Node::Kind::set)
+        return {.kind = Node::Kind::precedingWord, .set = letters.set, .min = 1, .max = 1};
+      if (letters.kind == Node::Kind::repetition && letters.max != unbounded && letters.min > 0 &&
+          letters.children.front().kind == Node::Kind::set)
+        return {.kind = Node::Kind::precedingWord,
+                .set = letters.children.front().set,
+                .min = letters.min,
+                .max = letters.max};
+    }
+    fail("only one character or a word of one set can be looked back at");
   }
 
   /// The character an escape stands for; nothing when it stands for a set or a position.

@@ -52,6 +52,7 @@ struct Node {
     absoluteEnd,     ///< \z
     lookAhead,       ///< `children[0]` matches from here, or does not when `negative`
     precedingInSet,  ///< the code point before is one of `set`, or there is none when `negative`
+    precedingWord,   ///< `min` to `max` code points of `set` stand before, and \b before them
   };
 
   Kind kind = Kind::sequence;
@@ -62,6 +63,8 @@ struct Node {
   std::uint32_t max = 0;
   std::u32string text{};
   std::vector<Node> children{};
+
+  bool operator==(const Node&) const = default;
 };
 
 /// Parses `pattern` with the meaning that ICU gives it. Captures group only. Throws PatternError.

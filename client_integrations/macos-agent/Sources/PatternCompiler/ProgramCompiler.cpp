@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 #include <set>
+#include <span>
 #include <tuple>
 #include <utility>
 
@@ -24,7 +25,15 @@ class ProgramCompiler {
   PatternProgram<Owned> compile(const Node& pattern) {
     emit(pattern);
     add({.operation = Operation::accept});
+    // Programs of exceptions may add to the list.
+    for (std::size_t i = 0; i < exceptions_.size(); ++i) {
+      program_.exceptions.push_back({.instruction = here(), .beginning = {}});
+      emit(Node(exceptions_[i]));
+      add({.operation = Operation::accept});
+    }
     known_.resize(program_.code.size());
+    for (ProgramEntry& exception : program_.exceptions)
+      exception.beginning = kept(startAt(exception.instruction));
     for (ProgramEntry& target : program_.targets)
       target.beginning = kept(startAt(target.instruction));
     for (std::size_t i = 0; i < program_.code.size(); ++i) {
@@ -92,6 +101,12 @@ class ProgramCompiler {
         add({.operation = node.negative ? Operation::notPrecededBy : Operation::precededBy,
              .set = setOf(node.set)});
         break;
+      case Node::Kind::precedingWord:
+        add({.operation = Operation::precededByWord,
+             .count = counted(node.min),
+             .max = counted(node.max),
+             .set = setOf(node.set)});
+        break;
     }
   }
 
@@ -131,14 +146,14 @@ class ProgramCompiler {
   void emitRepetition(const Node& node) {
     const Node& body = node.children.front();
     const std::uint32_t optional = node.max == unbounded ? unbounded : node.max - node.min;
-    if (body.kind == Node::Kind::set) {
+    if (const auto round = roundOfOneCodePoint(body)) {
       if (node.min == 1) {
         emit(body);
       } else if (node.min > 1) {
-        addLoop(Operation::greedyLoop, body, node.min, node.min);
+        addLoop(Operation::greedyLoop, *round, node.min, node.min);
       }
       if (optional > 0)
-        addLoop(node.lazy ? Operation::lazyLoop : Operation::greedyLoop, body, 0, optional);
+        addLoop(node.lazy ? Operation::lazyLoop : Operation::greedyLoop, *round, 0, optional);
       return;
     }
     for (std::uint32_t i = 0; i < node.min; ++i)
@@ -155,12 +170,64 @@ class ProgramCompiler {
       targetOf(choice, node.lazy ? 0 : 1) = here();
   }
 
-  void addLoop(Operation operation, const Node& body, std::uint32_t min, std::uint32_t max) {
+  /// What one round of a loop takes when that is always one code point.
+  struct Round {
+    ClassSetId set = 0;
+    std::uint16_t exception = 0;
+  };
+
+  // Whichever alternative takes the code point, the loop goes on behind it: their order does not
+  // matter, and those that ask nothing of the neighbours are one set.
+  std::optional<Round> roundOfOneCodePoint(const Node& body) {
+    if (body.kind == Node::Kind::set) return Round{.set = setOf(body.set)};
+    if (body.kind != Node::Kind::alternatives) return std::nullopt;
+    ClassBits free(sets_.words());
+    Node conditional{.kind = Node::Kind::alternatives};
+    for (const Node& child : body.children) {
+      if (!takesOneCodePoint(child)) return std::nullopt;
+      if (const Node* const only = onlyChild(child); only->kind == Node::Kind::set) {
+        unite(free, sets_.bits(setOf(only->set)));
+      } else {
+        conditional.children.push_back(child);
+      }
+    }
+    Round round{.set = sets_.intern(free)};
+    if (!conditional.children.empty()) round.exception = exceptionOf(std::move(conditional));
+    return round;
+  }
+
+  static const Node* onlyChild(const Node& node) {
+    const bool isWrapped = node.kind == Node::Kind::sequence && node.children.size() == 1;
+    return isWrapped ? &node.children.front() : &node;
+  }
+
+  static bool takesOneCodePoint(const Node& node) {
+    const auto parts =
+        node.kind == Node::Kind::sequence ? std::span(node.children) : std::span(&node, 1);
+    const auto isSet = [](const Node& part) { return part.kind == Node::Kind::set; };
+    const auto takesNone = [](const Node& part) {
+      return part.kind == Node::Kind::lookAhead || part.kind == Node::Kind::wordBoundary ||
+             part.kind == Node::Kind::precedingInSet || part.kind == Node::Kind::precedingWord;
+    };
+    return std::ranges::count_if(parts, isSet) == 1 &&
+           std::ranges::all_of(parts,
+                               [&](const Node& part) { return isSet(part) || takesNone(part); });
+  }
+
+  std::uint16_t exceptionOf(Node conditional) {
+    auto known = std::find(exceptions_.begin(), exceptions_.end(), conditional);
+    if (known == exceptions_.end())
+      known = exceptions_.insert(exceptions_.end(), std::move(conditional));
+    return counted(static_cast<std::size_t>(known - exceptions_.begin()) + 1);
+  }
+
+  void addLoop(Operation operation, const Round& round, std::uint32_t min, std::uint32_t max) {
     add({.operation = operation,
          .count = counted(min),
          .max = max == unbounded ? Instruction::endless : counted(max),
          .memo = memoRows(2),
-         .set = setOf(body.set)});
+         .set = round.set,
+         .exception = round.exception});
   }
 
   static std::uint16_t counted(std::size_t count) {
@@ -218,6 +285,10 @@ class ProgramCompiler {
       case Operation::greedyLoop:
       case Operation::lazyLoop: {
         Start body{.classes = sets_.bits(instruction.set)};
+        if (instruction.exception != 0)
+          unite(body.classes,
+                startAt(program_.exceptions[instruction.exception - std::size_t{1}].instruction)
+                    .classes);
         return instruction.count > 0 ? body : either(std::move(body), startAt(index + 1));
       }
       case Operation::jump:
@@ -265,6 +336,7 @@ class ProgramCompiler {
   const ClassPartition& classes_;
   ClassSetPool& sets_;
   std::vector<std::optional<Start>> known_;
+  std::vector<Node> exceptions_;
 };
 
 /// Goes all ways through a program at once, one code point after the other.
@@ -359,6 +431,9 @@ class LeadingWalk {
     const auto [index, taken] = place;
     const Instruction& loop = program_.code[index];
     unite(step_, sets_.bits(loop.set));
+    if (loop.exception != 0)
+      unite(step_,
+            sets_.bits(program_.exceptions[loop.exception - std::size_t{1}].beginning.classes));
     if (loop.count > taken + 1) {
       behind_.insert({.instruction = index, .taken = taken + 1});
     } else {

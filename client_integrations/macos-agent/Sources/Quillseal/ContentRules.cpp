@@ -1,5 +1,6 @@
 #include "Quillseal/ContentRules.h"
 
+#include <algorithm>
 #include <array>
 
 namespace quillseal::ContentRules {
@@ -9,202 +10,284 @@ namespace {
 //  - One alternative a line. A rule names an idea, so its lines are that idea's usual wordings,
 //    the English ones first, and each line joins an intent with its object: a noun alone would hit
 //    honest mail.
-//  - `[^.!?]{0,40}` is a gap that stays within one sentence. It may cross a line break, as mail is
+//  - `<40>` is a gap that stays within one sentence, see `gap`. It may cross a line break, as mail
+//  is
 //    wrapped anywhere; for the same reason words are joined by `\s+`.
 //  - Every repetition is bounded, or its body cannot begin where the body before it could go on, so
 //    that no text makes a matcher try the same ground again and again.
 //  - The points say how much one hit is worth: most are below the warning threshold, because an
 //    invoice, a delivery notice and a password mail share one wording with the scam that copies
 //    them, but seldom three.
+//  - `[^.!?]{0,40}` ends at any point. It stands in patterns that other programs hold, too, and in
+//    those for bulk mail that would otherwise reach over the addresses at its end.
+
+/// One character of a gap. A point does not end the sentence when the next character shows that it
+/// goes on ("12,499.00", "example.com", "Co., Ltd.", "No. 7"), or when it stands behind one letter
+/// or an abbreviation without vowels ("a.m.", "J. Webb", "Mr.").
+constexpr std::string_view gap =
+    R"((?:[^.!?。！？｡]|[.](?=[\w,;:)]|\s\d)|(?<=\b[b-df-hj-np-tv-z]{1,4})[.]|(?<=\b[aeiou])[.]))";
+
+/// What patterns write in short, and what that stands for.
+struct Shorthand {
+  std::string_view name;
+  std::string_view meaning;
+};
+constexpr std::array<Shorthand, 1> shorthands{{
+    {"<amount>",
+     R"((?:(?:[$€£¥￥₩]|\b(?:usd|eur|gbp|aud|cad|chf|us[$]|r[$]|euros?)\b)\s?\d[\d.,]{0,12}(?:\s?k\b)?|\b\d[\d., ]{0,12}\s?(?:[$€£¥￥₩元円원]|(?:usd|eur|gbp|aud|cad|chf|euros?|dollars?|pounds?|k)\b)))"},
+}};
+
+/// Hands the pieces of `written`, with its shorthands replaced, to `append`, in order.
+constexpr void replaceShorthands(std::string_view written, auto append) {
+  const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+  while (true) {
+    const std::size_t start = written.find('<');
+    append(written.substr(0, start));
+    if (start == std::string_view::npos) return;
+    written.remove_prefix(start);
+    std::size_t length = 1;
+    if (isDigit(written[1])) {
+      length = written.find('>') + 1;
+      append(gap);
+      append("{0,");
+      append(written.substr(1, length - 2));
+      append("}");
+    } else {
+      const auto isNamed = [&](const Shorthand& s) { return written.starts_with(s.name); };
+      const auto known = std::find_if(shorthands.begin(), shorthands.end(), isNamed);
+      if (known != shorthands.end()) length = known->name.size();
+      append(known != shorthands.end() ? known->meaning : written.substr(0, length));
+    }
+    written.remove_prefix(length);
+  }
+}
+
+/// Holds the pattern that a `Source` returns with shorthands.
+template <typename Source>
+class ExpandedPattern {
+  static constexpr std::size_t size = [] {
+    std::size_t sum = 0;
+    replaceShorthands(Source{}(), [&](std::string_view piece) { sum += piece.size(); });
+    return sum;
+  }();
+  static constexpr std::array<char, size> characters = [] {
+    std::array<char, size> all{};
+    auto at = all.begin();
+    replaceShorthands(Source{}(), [&](std::string_view piece) {
+      at = std::copy(piece.begin(), piece.end(), at);
+    });
+    return all;
+  }();
+
+ public:
+  static constexpr std::string_view view{characters.data(), size};
+};
+
+template <typename Source>
+consteval std::string_view pattern(Source) {
+  return ExpandedPattern<Source>::view;
+}
 
 // clang-format off
 constexpr auto table = std::to_array<Rule>({
     // ---- Credential phishing -------------------------------------------------------------------
     {"cred-verify-account", "Credential phishing", "warn", 35,
      "asks the reader to verify an account, the most common phishing opener",
+     pattern([] { return std::string_view(
      R"(\b(?:verify|validate|re-?validate)\s+your\s+e-?mail(?:\s+address|\s+account)?\b|)"
      R"(\b(?:please|must|need\s+to|kindly)\s+update\s+your\s+(?:information|details|account|profile\s+information)\b|)"
      R"(\bconfirm\s+your\s+(?:delivery\s+|shipping\s+|home\s+|mailing\s+)?address\b|)"
-     R"(\b(?:verify|validate|confirm|authenticate|re-?confirm|re-?validate|re-?verify)\b[^.!?]{0,20}\byour\s+(?:\w+\s+){0,3}(?:accounts?|wallet|identity|profile|membership|ownership|mailbox|billing|credentials|log-?in|sign-?in|payment\s+(?:details|method|information)|personal\s+(?:details|information|data))\b|)"
+     R"(\b(?:verify|validate|confirm|authenticate|re-?confirm|re-?validate|re-?verify)\b<20>\byour\s+(?:\w+\s+){0,3}(?:accounts?|wallet|identity|profile|membership|ownership|mailbox|billing|credentials|log-?in|sign-?in|payment\s+(?:details|method|information)|personal\s+(?:details|information|data))\b|)"
      R"(\b(?:account|identity|wallet|mailbox|kyc)\s+(?:verification|validation|confirmation|authentication)\s+(?:is\s+|was\s+)?(?:required|needed|pending|process|failed|incomplete)|)"
-     R"(\b(?:update|review)\b[^.!?]{0,15}\byour\s+(?:billing|payment|account|wallet)\s+(?:details|information|info|method|data|records)\b|)"
+     R"(\b(?:update|review)\b<15>\byour\s+(?:billing|payment|account|wallet)\s+(?:details|information|info|method|data|records)\b|)"
      R"(\bupdate\s+(?:payment|billing)\s+(?:now|method|details|information)\b|)"
-     R"(\b(?:submit|provide|upload)\s+(?:your\s+)?(?:identification|identity\s+documents?|kyc)\b[^.!?]{0,60}\b(?:account|wallet|ledger|service|access|avoid|soon|below)\b|)"
-     R"(\byour\s+(?:\w+\s+){0,2}(?:account|wallet|identity|mailbox)\b[^.!?]{0,25}\b(?:must|needs?\s+to|has\s+to|have\s+to|should|to)\s+be\s+(?:re-?)?(?:verified|validated|confirmed|authenticated|updated)\b|)"
+     R"(\b(?:submit|provide|upload)\s+(?:your\s+)?(?:identification|identity\s+documents?|kyc)\b<60>\b(?:account|wallet|ledger|service|access|avoid|soon|below)\b|)"
+     R"(\byour\s+(?:\w+\s+){0,2}(?:account|wallet|identity|mailbox)\b<25>\b(?:must|needs?\s+to|has\s+to|have\s+to|should|to)\s+be\s+(?:re-?)?(?:verified|validated|confirmed|authenticated|updated)\b|)"
      R"(\byour\s+(?:\w+\s+){0,2}(?:account|wallet|identity|mailbox)\s+(?:has\s+not|hasn['’]t|is\s+not|isn['’]t)(?:\s+yet)?\s+(?:been\s+)?(?:yet\s+)?(?:verified|validated|confirmed)\b|)"
-     R"(\b(?:verifizieren|bestätigen|überprüfen|validieren|aktualisieren|legitimieren)\s+Sie[^.!?]{0,25}\bIhr(?:e[nmrs]?)?\s+(?:[\w-]+\s+){0,2}(?:[\w-]*konto|kontodaten|identität|(?:persönlichen\s+)?daten|angaben|[\w-]*karte|wallet|zugangsdaten|zahlungs\w+|informationen|[\w-]*adress\w*|anschrift)\b|)"
-     R"(\bIhr(?:e[nmrs]?)?\s+(?:[\w-]+\s+){0,2}(?:[\w-]*konto|identität|daten|wallet|[\w-]*karte|zahlungs\w+)[^.!?]{0,40}\b(?:zu\s+)?(?:verifizieren|bestätigen|validieren|verifiziert|bestätigt|validiert)\b|)"
-     R"(\b(?:vérifie[rz]|confirme[rz]|valide[rz]|actualise[rz]|authentifie[rz]|mett(?:re|ez)\s+à\s+jour)\b[^.!?]{0,20}\b(?:votre|vos)\s+(?:\w+\s+){0,2}(?:compte|identité|informations|coordonnées|données|carte|profil)\b|)"
-     R"(\b(?:verifi(?:car|que|ca)|confirm(?:ar|e|a)|valid(?:ar|e|a)|actuali[cz](?:ar|e|a))\b[^.!?]{0,20}\b(?:su|tu|sus|tus)\s+(?:\w+\s+){0,2}(?:cuenta|identidad|datos|información|tarjeta|billetera|dirección)\b|)"
-     R"(\b(?:verifi(?:car|que)|confirm(?:ar|e)|valid(?:ar|e)|atualiz(?:ar|e)|regulariz(?:ar|e))\b[^.!?]{0,20}\b(?:su(?:a|as)|seus?|o|os)\s+(?:\w+\s+){0,2}(?:conta|cadastro|dados|identidade|cpf|token|dispositivo|aparelho)\b|)"
-     R"(\b(?:verifieer|bevestig|controleer|valideer|actualiseer|identificeer)\b[^.!?]{0,20}\buw\s+(?:\w+\s+){0,2}(?:account|rekening|gegevens|identiteit|pas|wallet|betaal\w+)\b|)"
-     R"(\buw\s+(?:\w+\s+){0,2}(?:account|rekening|gegevens|identiteit|wallet)\b[^.!?]{0,30}\b(?:te\s+)?(?:verifi[ëe]ren|bevestigen|valideren|controleren)\b|)"
-     R"((?:验证|驗證|核实|核實|确认|確認)[^。！？.!?]{0,10}(?:账户|帳戶|账号|帳號|身份|个人信息|個人資料|银行卡)|)"
-     R"((?:アカウント|口座|お客様情報|会員情報|カード情報|ご本人様?)[^。！？.!?]{0,20}(?:確認|認証|検証|更新)[^。！？.!?]{0,12}(?:ください|下さい|お願い|必要)|)"
-     R"((?:계정|계좌|본인|신원|카드\s?정보)[^.!?。]{0,15}(?:확인|인증|검증|갱신)[^.!?。]{0,12}(?:하세요|해\s?주세요|바랍니다|하십시오|해\s?주십시오|필요))",
+     R"(\b(?:verifizieren|bestätigen|überprüfen|validieren|aktualisieren|legitimieren)\s+Sie<25>\bIhr(?:e[nmrs]?)?\s+(?:[\w-]+\s+){0,2}(?:[\w-]*konto|kontodaten|identität|(?:persönlichen\s+)?daten|angaben|[\w-]*karte|wallet|zugangsdaten|zahlungs\w+|informationen|[\w-]*adress\w*|anschrift)\b|)"
+     R"(\bIhr(?:e[nmrs]?)?\s+(?:[\w-]+\s+){0,2}(?:[\w-]*konto|identität|daten|wallet|[\w-]*karte|zahlungs\w+)<40>\b(?:zu\s+)?(?:verifizieren|bestätigen|validieren|verifiziert|bestätigt|validiert)\b|)"
+     R"(\b(?:vérifie[rz]|confirme[rz]|valide[rz]|actualise[rz]|authentifie[rz]|mett(?:re|ez)\s+à\s+jour)\b<20>\b(?:votre|vos)\s+(?:\w+\s+){0,2}(?:compte|identité|informations|coordonnées|données|carte|profil)\b|)"
+     R"(\b(?:verifi(?:car|que|ca)|confirm(?:ar|e|a)|valid(?:ar|e|a)|actuali[cz](?:ar|e|a))\b<20>\b(?:su|tu|sus|tus)\s+(?:\w+\s+){0,2}(?:cuenta|identidad|datos|información|tarjeta|billetera|dirección)\b|)"
+     R"(\b(?:verifi(?:car|que)|confirm(?:ar|e)|valid(?:ar|e)|atualiz(?:ar|e)|regulariz(?:ar|e))\b<20>\b(?:su(?:a|as)|seus?|o|os)\s+(?:\w+\s+){0,2}(?:conta|cadastro|dados|identidade|cpf|token|dispositivo|aparelho)\b|)"
+     R"(\b(?:verifieer|bevestig|controleer|valideer|actualiseer|identificeer)\b<20>\buw\s+(?:\w+\s+){0,2}(?:account|rekening|gegevens|identiteit|pas|wallet|betaal\w+)\b|)"
+     R"(\buw\s+(?:\w+\s+){0,2}(?:account|rekening|gegevens|identiteit|wallet)\b<30>\b(?:te\s+)?(?:verifi[ëe]ren|bevestigen|valideren|controleren)\b|)"
+     R"((?:验证|驗證|核实|核實|确认|確認)<10>(?:账户|帳戶|账号|帳號|身份|个人信息|個人資料|银行卡)|)"
+     R"((?:アカウント|口座|お客様情報|会員情報|カード情報|ご本人様?)<20>(?:確認|認証|検証|更新)<12>(?:ください|下さい|お願い|必要)|)"
+     R"((?:계정|계좌|본인|신원|카드\s?정보)<15>(?:확인|인증|검증|갱신)<12>(?:하세요|해\s?주세요|바랍니다|하십시오|해\s?주십시오|필요))"); }),
      true},
     {"cred-suspended", "Credential phishing", "warn", 40,
      "says an account is blocked or about to be, to make the reader act before thinking",
-     R"(\bsaldo\s+bloqueado\b|\bbloqueio\s+preventivo\b|\bconta\b[^.!?]{0,12}\b(?:bloqueada|suspensa)\b|)"
+     pattern([] { return std::string_view(
+     R"(\bsaldo\s+bloqueado\b|\bbloqueio\s+preventivo\b|\bconta\b<12>\b(?:bloqueada|suspensa)\b|)"
      R"(\b(?:we(?:['’]ve|\s+have)?|been)\s+(?:temporarily\s+|now\s+)?(?:limited|restricted|suspended|locked|disabled|blocked)\s+(?:certain|some|access|features|your|the\s+account)\b|)"
      R"(\b(?:bloqueamos|suspendemos|limitamos|hemos\s+(?:bloqueado|suspendido|limitado|restringido)|foi\s+(?:bloquead|suspens)[oa])\s+(?:\w+\s+){0,2}(?:conta|cuenta|acesso|acceso|cart[ãa]o|tarjeta)\b|)"
      R"(\b(?:account|wallet|mailbox|profile|membership|debit\s+card|credit\s+card|bank\s+card|your\s+card|access|service|subscription|e-?mail)s?\s+(?:access\s+)?(?:has\s+been|have\s+been|will\s+be|will\s+soon\s+be|is|is\s+being|are|may\s+be|has|is\s+now|was|is\s+currently|will\s+get|could\s+be|might\s+be|be)\s+(?:\w+\s+){0,2}(?:suspended|locked|blocked|restricted|limited|disabled|frozen|on\s+hold|placed\s+on\s+hold|put\s+on\s+hold|under\s+review|flagged)\b|)"
      R"(\b(?:account|wallet|mailbox|card|e-?mail|service)\s+(?:suspension|restriction|limitation|lock-?out|closure|suspended|locked|restricted|on\s+hold)\b|)"
-     R"(\b(?:suspended|locked|blocked|restricted|limited|disabled|froze|frozen|put\s+(?:a\s+)?hold\s+on|flagged)\b[^.!?]{0,15}\b(?:your|ur)\s+(?:[\w-]+\s+){0,2}(?:account|wallet|mailbox|card|access|profile|payment)\b|)"
+     R"(\b(?:suspended|locked|blocked|restricted|limited|disabled|froze|frozen|put\s+(?:a\s+)?hold\s+on|flagged)\b<15>\b(?:your|ur)\s+(?:[\w-]+\s+){0,2}(?:account|wallet|mailbox|card|access|profile|payment)\b|)"
      R"(\b(?:suspension|restriction|limitation|blocking|locking|deactivation|interruption)s?\s+(?:of|on|to)\s+your\s+(?:[\w-]+\s+){0,2}(?:account|wallet|mailbox|card|access|services?)\b|)"
-     R"(\b(?:ihr|ihre|dein|deine|ihrem|ihren|das|ihres)\s+(?:[\w-]+\s+){0,2}(?:[\w-]*konto|[\w-]*karte|[\w-]*zugang|zugriff|account|wallet|postfach|profil|online-?banking|push-?tan)\b[^.!?]{0,40}\b(?:gesperrt|eingeschränkt|blockiert|deaktiviert|ausgesetzt|suspendiert|eingefroren|stillgelegt|limitiert)\b|)"
+     R"(\b(?:ihr|ihre|dein|deine|ihrem|ihren|das|ihres)\s+(?:[\w-]+\s+){0,2}(?:[\w-]*konto|[\w-]*karte|[\w-]*zugang|zugriff|account|wallet|postfach|profil|online-?banking|push-?tan)\b<40>\b(?:gesperrt|eingeschränkt|blockiert|deaktiviert|ausgesetzt|suspendiert|eingefroren|stillgelegt|limitiert)\b|)"
      R"(\b(?:sperrung|einschränkung|aussetzung|deaktivierung)\s+(?:Ihres|Ihrer|des|deines)\s+(?:[\w-]+\s+){0,2}(?:[\w-]*kontos|[\w-]*karte|zugangs|zugriffs|accounts?)\b|)"
-     R"(\b(?:votre|vos|ton|le)\s+(?:\w+\s+){0,2}(?:compte|carte|accès|ligne|messagerie|espace)\b[^.!?]{0,40}\b(?:suspendue?s?|bloquée?s?|limitée?s?|restreinte?s?|désactivée?s?|résiliée?s?)\b|)"
-     R"(\b(?:su|tu|sus)\s+(?:\w+\s+){0,2}(?:cuenta|tarjeta|acceso|billetera|servicio|suscripci[óo]n)\b[^.!?]{0,40}\b(?:suspendid[oa]s?|bloquead[oa]s?|restringid[oa]s?|limitad[oa]s?|desactivad[oa]s?|inhabilitad[oa]s?)\b|)"
-     R"(\b(?:sua|seu|suas)\s+(?:[\w-]+\s+){0,2}(?:conta|cart[ãa]o|acesso|cadastro|aplicativo|dispositivo|cpf|cnh|assinatura)\b[^.!?]{0,40}\b(?:suspens[oa]s?|bloquead[oa]s?|restrit[oa]s?|limitad[oa]s?|desativad[oa]s?|inativ[oa]s?)\b|)"
+     R"(\b(?:votre|vos|ton|le)\s+(?:\w+\s+){0,2}(?:compte|carte|accès|ligne|messagerie|espace)\b<40>\b(?:suspendue?s?|bloquée?s?|limitée?s?|restreinte?s?|désactivée?s?|résiliée?s?)\b|)"
+     R"(\b(?:su|tu|sus)\s+(?:\w+\s+){0,2}(?:cuenta|tarjeta|acceso|billetera|servicio|suscripci[óo]n)\b<40>\b(?:suspendid[oa]s?|bloquead[oa]s?|restringid[oa]s?|limitad[oa]s?|desactivad[oa]s?|inhabilitad[oa]s?)\b|)"
+     R"(\b(?:sua|seu|suas)\s+(?:[\w-]+\s+){0,2}(?:conta|cart[ãa]o|acesso|cadastro|aplicativo|dispositivo|cpf|cnh|assinatura)\b<40>\b(?:suspens[oa]s?|bloquead[oa]s?|restrit[oa]s?|limitad[oa]s?|desativad[oa]s?|inativ[oa]s?)\b|)"
      R"(\b(?:bloqueio|suspens[ãa]o|cancelamento|bloqueo|cancelaci[óo]n)\s+(?:d[oae]s?|temporári[oa]|imediat[oa]|de\s+su|de\s+tu)\s+(?:\w+\s+){0,3}(?:conta|cart[ãa]o|acesso|cadastro|cpf|cnh|servi[çc]os?|cuenta|tarjeta)\b|)"
-     R"(\buw\s+(?:\w+\s+){0,2}(?:account|rekening|pas|toegang|bankpas|betaalpas|wallet)\b[^.!?]{0,40}\b(?:geblokkeerd|opgeschort|beperkt|gedeactiveerd|bevroren|stopgezet)\b|)"
-     R"((?:账户|帳戶|账号|帳號|银行卡|信用卡)[^。！？.!?]{0,15}(?:冻结|凍結|停用|封锁|封鎖|暂停|暫停|异常|異常|受限)|)"
-     R"((?:アカウント|口座|カード|ご利用)[^。！？.!?]{0,25}(?:を停止|が停止|一時停止|利用停止|制限され|を制限|凍結|ロックされ|無効に)|)"
-     R"((?:계정|계좌|카드)[^.!?。]{0,15}(?:정지|차단|제한|동결|잠금|잠겼|잠겨))",
+     R"(\buw\s+(?:\w+\s+){0,2}(?:account|rekening|pas|toegang|bankpas|betaalpas|wallet)\b<40>\b(?:geblokkeerd|opgeschort|beperkt|gedeactiveerd|bevroren|stopgezet)\b|)"
+     R"((?:账户|帳戶|账号|帳號|银行卡|信用卡)<15>(?:冻结|凍結|停用|封锁|封鎖|暂停|暫停|异常|異常|受限)|)"
+     R"((?:アカウント|口座|カード|ご利用)<25>(?:を停止|が停止|一時停止|利用停止|制限され|を制限|凍結|ロックされ|無効に)|)"
+     R"((?:계정|계좌|카드)<15>(?:정지|차단|제한|동결|잠금|잠겼|잠겨))"); }),
      true},
     {"cred-confirm-password", "Credential phishing", "warn", 45,
      "asks the reader to confirm or hand over a password or PIN",
-     R"(\b(?:confirm|verify|validate|re-?confirm|re-?validate|provide|submit|supply|reply\s+with|tell\s+us|send\s+(?:us|me)|give\s+(?:us|me))\b[^.!?]{0,20}\b(?:your|ur)\s+(?:\w+\s+){0,3}(?:password|passcode|pin(?:\s+code|\s+number)?|security\s+code|log-?in\s+(?:details|credentials|information)|credentials|user\s?name\s+and\s+password)\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:confirm|verify|validate|re-?confirm|re-?validate|provide|submit|supply|reply\s+with|tell\s+us|send\s+(?:us|me)|give\s+(?:us|me))\b<20>\b(?:your|ur)\s+(?:\w+\s+){0,3}(?:password|passcode|pin(?:\s+code|\s+number)?|security\s+code|log-?in\s+(?:details|credentials|information)|credentials|user\s?name\s+and\s+password)\b|)"
      R"(\byour\s+(?:\w+\s+){0,2}(?:e-?mail|mailbox|account|webmail|office\s?365|outlook|network|domain|server|microsoft|outlook|access)?\s?password\s+(?:has\s+expired|is\s+(?:set|about|due|going)\s+to\s+expire|is\s+expiring|will\s+expire\s+(?:today|tomorrow|in|soon|within)|expires\s+(?:today|tomorrow|in|soon|within)|must\s+be\s+(?:updated|confirmed|validated))\b|)"
-     R"(\b(?:keep|maintain|retain|keeping|continue\s+using)\b[^.!?]{0,12}\b(?:my\s+|your\s+|the\s+)?(?:current|same|existing|old)\s+password\b|)"
+     R"(\b(?:keep|maintain|retain|keeping|continue\s+using)\b<12>\b(?:my\s+|your\s+|the\s+)?(?:current|same|existing|old)\s+password\b|)"
      R"(\bpassword\s+(?:expiration|expiry|validation)\s+(?:notice|notification|alert|warning|required)\b|)"
-     R"(\b(?:bestätigen|senden|mitteilen|übermitteln)\s+(?:Sie\s+)?[^.!?]{0,15}\bIhr(?:e[nm]?)?\s+(?:[\w-]+\s+){0,2}(?:[\w-]*passwor\w*|kennwort|[\w-]*pin|tan|zugangsdaten)\b|)"
+     R"(\b(?:bestätigen|senden|mitteilen|übermitteln)\s+(?:Sie\s+)?<15>\bIhr(?:e[nm]?)?\s+(?:[\w-]+\s+){0,2}(?:[\w-]*passwor\w*|kennwort|[\w-]*pin|tan|zugangsdaten)\b|)"
      R"(\bIhr(?:e[nm]?)?\s+(?:[\w-]+\s+){0,2}(?:[\w-]*passwort|kennwort|[\w-]*pin|tan|zugangsdaten)\s+(?:zu\s+bestätigen|läuft|ist\s+abgelaufen|wird\s+ablaufen)\b|)"
-     R"(\b(?:confirme[rz]|communique[rz]|transmett(?:re|ez)|envoye[rz])\b[^.!?]{0,15}\b(?:votre|vos)\s+(?:\w+\s+){0,2}(?:mot\s+de\s+passe|code\s+(?:secret|pin|confidentiel)|identifiants)\b|)"
-     R"(\b(?:confirm(?:ar|e|a)|envi(?:ar|e|a)|inform(?:e|ar)|ingres(?:ar|e|a)|digite)\b[^.!?]{0,15}\b(?:su|tu|sua|a\s+sua)\s+(?:\w+\s+){0,2}(?:contraseña|clave|senha|pin)\b|)"
-     R"(\b(?:bevestig|stuur|geef)\b[^.!?]{0,15}\buw\s+(?:\w+\s+){0,2}(?:wachtwoord|pincode|inloggegevens)\b|)"
-     R"((?:输入|輸入|提供|发送|發送|确认|確認)[^。！？.!?]{0,10}(?:密码|密碼|验证码|驗證碼)|)"
-     R"((?:パスワード|暗証番号)[^。！？.!?]{0,12}(?:入力|送信|教えて|ご返信)[^。！？.!?]{0,6}(?:ください|下さい)|)"
-     R"((?:비밀번호|인증번호)[^.!?。]{0,10}(?:입력|알려|보내)[^.!?。]{0,4}(?:하세요|주세요|주십시오|하십시오))",
+     R"(\b(?:confirme[rz]|communique[rz]|transmett(?:re|ez)|envoye[rz])\b<15>\b(?:votre|vos)\s+(?:\w+\s+){0,2}(?:mot\s+de\s+passe|code\s+(?:secret|pin|confidentiel)|identifiants)\b|)"
+     R"(\b(?:confirm(?:ar|e|a)|envi(?:ar|e|a)|inform(?:e|ar)|ingres(?:ar|e|a)|digite)\b<15>\b(?:su|tu|sua|a\s+sua)\s+(?:\w+\s+){0,2}(?:contraseña|clave|senha|pin)\b|)"
+     R"(\b(?:bevestig|stuur|geef)\b<15>\buw\s+(?:\w+\s+){0,2}(?:wachtwoord|pincode|inloggegevens)\b|)"
+     R"((?:输入|輸入|提供|发送|發送|确认|確認)<10>(?:密码|密碼|验证码|驗證碼)|)"
+     R"((?:パスワード|暗証番号)<12>(?:入力|送信|教えて|ご返信)<6>(?:ください|下さい)|)"
+     R"((?:비밀번호|인증번호)<10>(?:입력|알려|보내)<4>(?:하세요|주세요|주십시오|하십시오))"); }),
      true},
     {"cred-click-verify", "Credential phishing", "warn", 30,
      "tells the reader to follow a link and verify, confirm or unlock something",
+     pattern([] { return std::string_view(
      R"(\b(?:se\s+não\s+foi\s+você|caso\s+não\s+reconheça|não\s+reconhe(?:ço|ce)\s+(?:este|esse|o)\s+(?:acesso|dispositivo))\b|)"
-     R"(\b(?:click|tap|follow|visit|log\s?in|sign\s?in|scan)\b[^.!?]{0,40}\b(?:here|below|link|button|page|portal|account|code)\b[^.!?]{0,15}\band\s+(?:verify|confirm|validate|update|re-?activate|unlock|restore)\b|)"
-     R"(\b(?:click|tap|press|follow|visit|open|use|go\s+to|log\s?in|sign\s?in|scan)\b[^.!?]{0,50}\b(?:to|in\s+order\s+to)\s+(?:\w+\s+){0,2}(?:verify|confirm|validate|authenticate|re-?activate|re-?validate|unlock|restore|secure|recover|resolve|regain|sync|re-?confirm)\b|)"
-     R"(\b(?:click|tap|press|follow)\b[^.!?]{0,30}\b(?:below|here|link|button)\b[^.!?]{0,30}\bto\s+(?:\w+\s+){0,2}(?:update|upgrade|avoid|prevent|release|claim|redeem)\b|)"
-     R"(\b(?:verify|confirm|validate|re-?activate|unlock|restore|secure|recover|authenticate|claim|upgrade|update|reschedule|cancel)\b[^.!?]{0,50}\b(?:click(?:ing)?|tap(?:ping)?|follow(?:ing)?)\b[^.!?]{0,20}\b(?:here|below|(?:this|the|following|secure)\s+(?:\w+\s+){0,2}(?:link|button|page|portal))\b|)"
-     R"(\b(?:kindly|please|simply)\s+(?:verify|confirm|validate)\b[^.!?]{0,15}\b(?:below|here|now)\b|)"
+     R"(\b(?:click|tap|follow|visit|log\s?in|sign\s?in|scan)\b<40>\b(?:here|below|link|button|page|portal|account|code)\b<15>\band\s+(?:verify|confirm|validate|update|re-?activate|unlock|restore)\b|)"
+     R"(\b(?:click|tap|press|follow|visit|open|use|go\s+to|log\s?in|sign\s?in|scan)\b<50>\b(?:to|in\s+order\s+to)\s+(?:\w+\s+){0,2}(?:verify|confirm|validate|authenticate|re-?activate|re-?validate|unlock|restore|secure|recover|resolve|regain|sync|re-?confirm)\b|)"
+     R"(\b(?:click|tap|press|follow)\b<30>\b(?:below|here|link|button)\b<30>\bto\s+(?:\w+\s+){0,2}(?:update|upgrade|avoid|prevent|release|claim|redeem)\b|)"
+     R"(\b(?:verify|confirm|validate|re-?activate|unlock|restore|secure|recover|authenticate|claim|upgrade|update|reschedule|cancel)\b<50>\b(?:click(?:ing)?|tap(?:ping)?|follow(?:ing)?)\b<20>\b(?:here|below|(?:this|the|following|secure)\s+(?:\w+\s+){0,2}(?:link|button|page|portal))\b|)"
+     R"(\b(?:kindly|please|simply)\s+(?:verify|confirm|validate)\b<15>\b(?:below|here|now)\b|)"
      R"(\b(?:verify|validate|confirm|unlock|restore|reactivate|secure|update)\s+(?:my|your)\s+(?:\w+\s+)?(?:account|wallet|identity|access|mailbox|device|information|details)\s+(?:now|here|below)\b|)"
      R"(\b(?:verify|validate|confirm|unlock|restore|re-?activate|update|secure|synchroni[sz]e|check)\s+my\s+(?:\w+\s+)?(?:account|wallet|identity|access|mailbox|e-?mail|information|details|device|password|activity|ledger|trezor)\b|)"
-     R"(\b(?:klicken|tippen|folgen|nutzen|verwenden|besuchen)\s+Sie[^.!?]{0,80}\b(?:um|zur|zum)\b[^.!?]{0,60}\b(?:bestätig\w+|verifizier\w+|überprüf\w+|aktualisier\w+|entsperr\w+|freischalt\w+|wiederherstell\w+|vermeiden|beanspruch\w+|bezahlen|begleichen)\b|)"
+     R"(\b(?:klicken|tippen|folgen|nutzen|verwenden|besuchen)\s+Sie<80>\b(?:um|zur|zum)\b<60>\b(?:bestätig\w+|verifizier\w+|überprüf\w+|aktualisier\w+|entsperr\w+|freischalt\w+|wiederherstell\w+|vermeiden|beanspruch\w+|bezahlen|begleichen)\b|)"
      R"(\b(?:jetzt|hier)\s+(?:bestätigen|verifizieren|aktualisieren|freischalten|entsperren|bezahlen|verlängern)\b|)"
      R"(\b(?:konto|account|zugang|wallet|daten|identität|paket|sendung|lieferung|zahlung)s?daten?\s?(?:jetzt\s+|hier\s+)?(?:bestätigen|verifizieren|aktualisieren|freischalten)\b|)"
-     R"(\b(?:cliquez|cliquer|appuyez|accédez|connectez-vous)\b[^.!?]{0,60}\b(?:pour|afin)\b[^.!?]{0,30}\b(?:confirmer|vérifier|valider|activer|débloquer|régulariser|mettre\s+à\s+jour|éviter|récupérer|actualiser|renouveler|suivre|régler)\b|)"
-     R"(\b(?:haga|haz|hacer|pulse|pulsa|acceda|accede)(?:\s+clic|\s+click)?\b[^.!?]{0,50}\b(?:para|y)\b[^.!?]{0,20}\b(?:confirm\w+|verific\w+|valid\w+|activar|desbloque\w+|actuali\w+|evitar|recuperar|programar|renovar|pagar)\b|)"
-     R"(\b(?:clique|clicar|acesse|clicando|toque)\b[^.!?]{0,50}\b(?:para|e)\b[^.!?]{0,20}\b(?:confirm\w+|verific\w+|valid\w+|ativar|desbloque\w+|atuali\w+|regulariz\w+|evitar|resgat\w+|consult\w+|liberar|realizar|efetu\w+|visualizar|baixar|acompanhar)\b|)"
-     R"(\b(?:klik|klikt|gebruik|volg|bezoek)\b[^.!?]{0,50}\b(?:om|en)\b[^.!?]{0,40}\b(?:bevestig\w+|verifi\w+|valid\w+|activ\w+|deblokk\w+|voorkomen|controleren|herstellen|verlengen|betalen)\b|)"
-     R"((?:点击|點擊|点此|登录|登入)[^。！？.!?]{0,25}(?:验证|驗證|确认|確認|激活|解锁|解鎖|更新|恢复|恢復)|)"
-     R"((?:下記|こちら|リンク|URL)[^。！？.!?]{0,25}(?:クリック|アクセス|ログイン)[^。！？.!?]{0,30}(?:確認|認証|更新|解除|再開)|)"
-     R"((?:링크|버튼|여기|아래)[^.!?。]{0,15}(?:클릭|눌러|접속)[^.!?。]{0,25}(?:확인|인증|해제|갱신|복구))",
+     R"(\b(?:cliquez|cliquer|appuyez|accédez|connectez-vous)\b<60>\b(?:pour|afin)\b<30>\b(?:confirmer|vérifier|valider|activer|débloquer|régulariser|mettre\s+à\s+jour|éviter|récupérer|actualiser|renouveler|suivre|régler)\b|)"
+     R"(\b(?:haga|haz|hacer|pulse|pulsa|acceda|accede)(?:\s+clic|\s+click)?\b<50>\b(?:para|y)\b<20>\b(?:confirm\w+|verific\w+|valid\w+|activar|desbloque\w+|actuali\w+|evitar|recuperar|programar|renovar|pagar)\b|)"
+     R"(\b(?:clique|clicar|acesse|clicando|toque)\b<50>\b(?:para|e)\b<20>\b(?:confirm\w+|verific\w+|valid\w+|ativar|desbloque\w+|atuali\w+|regulariz\w+|evitar|resgat\w+|consult\w+|liberar|realizar|efetu\w+|visualizar|baixar|acompanhar)\b|)"
+     R"(\b(?:klik|klikt|gebruik|volg|bezoek)\b<50>\b(?:om|en)\b<40>\b(?:bevestig\w+|verifi\w+|valid\w+|activ\w+|deblokk\w+|voorkomen|controleren|herstellen|verlengen|betalen)\b|)"
+     R"((?:点击|點擊|点此|登录|登入)<25>(?:验证|驗證|确认|確認|激活|解锁|解鎖|更新|恢复|恢復)|)"
+     R"((?:下記|こちら|リンク|URL)<25>(?:クリック|アクセス|ログイン)<30>(?:確認|認証|更新|解除|再開)|)"
+     R"((?:링크|버튼|여기|아래)<15>(?:클릭|눌러|접속)<25>(?:확인|인증|해제|갱신|복구))"); }),
      true},
     {"cred-unusual-signin", "Credential phishing", "warn", 30,
      "reports an unusual sign-in or transaction, the commonest pretext for stealing a password",
+     pattern([] { return std::string_view(
      R"(\b(?:se\s+n[ãa]o\s+foi\s+voc[êe]|si\s+no\s+(?:has\s+sido|fuiste|fue)\s+(?:t[úu]|usted)|n[ãa]o\s+reconhe[çc]o\s+est[ea]|wenn\s+sie\s+das\s+nicht\s+waren|falls\s+sie\s+(?:das|dies)\s+nicht\s+waren|si\s+ce\s+n\'était\s+pas\s+vous|als\s+u\s+dit\s+niet\s+was)\b|)"
-     R"(\b(?:unusual|suspicious|abnormal)\s+traffic\b[^.!?]{0,20}\b(?:from|on)\s+your\b|)"
-     R"(\b(?:unusual|suspicious|unauthori[sz]ed|unrecogni[sz]ed|unfamiliar|unknown|new|abnormal|irregular|fraudulent|unexpected)\b[^.!?]{0,15}\b(?:sign-?in|log-?in|log-?on|logon|access|activity|activities|attempts?|transactions?|device|connection|charge|purchase|withdrawal)\b[^.!?]{0,40}\b(?:your|ur|from|on|to|detected|noticed|was|were|has|have|attempt)\b|)"
-     R"(\b(?:detected|noticed|identified|observed|recorded|flagged|found)\b[^.!?]{0,25}\b(?:unusual|suspicious|unauthori[sz]ed|unrecogni[sz]ed|unfamiliar|abnormal|irregular|fraudulent|strange|multiple\s+failed)\b[^.!?]{0,25}\b(?:sign-?in|log-?in|logon|access|activity|activities|attempts?|transactions?|movements?|behaviou?r|irregularit(?:y|ies))\b|)"
-     R"(\b(?:someone|somebody|a\s+third\s+party|another\s+(?:device|person)|an\s+unknown\s+(?:device|person|user))\b[^.!?]{0,25}\b(?:tried|attempted|trying|has|have|just)\b[^.!?]{0,15}\b(?:log(?:ged)?\s?in|sign(?:ed)?\s?in|access(?:ed)?|reset)\b[^.!?]{0,25}\byour\b|)"
+     R"(\b(?:unusual|suspicious|abnormal)\s+traffic\b<20>\b(?:from|on)\s+your\b|)"
+     R"(\b(?:unusual|suspicious|unauthori[sz]ed|unrecogni[sz]ed|unfamiliar|unknown|new|abnormal|irregular|fraudulent|unexpected)\b<15>\b(?:sign-?in|log-?in|log-?on|logon|access|activity|activities|attempts?|transactions?|device|connection|charge|purchase|withdrawal)\b<40>\b(?:your|ur|from|on|to|detected|noticed|was|were|has|have|attempt)\b|)"
+     R"(\b(?:detected|noticed|identified|observed|recorded|flagged|found)\b<25>\b(?:unusual|suspicious|unauthori[sz]ed|unrecogni[sz]ed|unfamiliar|abnormal|irregular|fraudulent|strange|multiple\s+failed)\b<25>\b(?:sign-?in|log-?in|logon|access|activity|activities|attempts?|transactions?|movements?|behaviou?r|irregularit(?:y|ies))\b|)"
+     R"(\b(?:someone|somebody|a\s+third\s+party|another\s+(?:device|person)|an\s+unknown\s+(?:device|person|user))\b<25>\b(?:tried|attempted|trying|has|have|just)\b<15>\b(?:log(?:ged)?\s?in|sign(?:ed)?\s?in|access(?:ed)?|reset)\b<25>\byour\b|)"
      R"(\b(?:if|in\s+case)\s+(?:this|it)\s+(?:was\s+not|wasn['’]t|is\s+not|isn['’]t)\s+you\b|)"
      R"(\b(?:did\s+not|didn['’]t|do\s+not|don['’]t)\s+(?:recogni[sz]e|authori[sz]e|make|request|initiate|perform|place)\s+(?:this|the)\s+(?:\w+\s+)?(?:change|login|activity|transaction|charge|sign-?in|log-?in|device|purchase|request|order|payment|transfer)\b|)"
-     R"(\b(?:ungewöhnlich|verdächtig|unbefugt|nicht\s+autorisiert|unbekannt|auffällig)\w*\b[^.!?]{0,25}\b(?:anmeld\w+|aktivität\w*|zugriff\w*|login\w*|transaktion\w*|gerät\w*|zahlung\w*|abbuchung\w*|bewegung\w*)|)"
-     R"(\b(?:inhabituel\w*|suspecte?s?|non\s+autorisée?s?|frauduleu\w+)\b[^.!?]{0,25}\b(?:connexions?|activités?|accès|transactions?|appareil|opérations?|paiements?)\b|)"
+     R"(\b(?:ungewöhnlich|verdächtig|unbefugt|nicht\s+autorisiert|unbekannt|auffällig)\w*\b<25>\b(?:anmeld\w+|aktivität\w*|zugriff\w*|login\w*|transaktion\w*|gerät\w*|zahlung\w*|abbuchung\w*|bewegung\w*)|)"
+     R"(\b(?:inhabituel\w*|suspecte?s?|non\s+autorisée?s?|frauduleu\w+)\b<25>\b(?:connexions?|activités?|accès|transactions?|appareil|opérations?|paiements?)\b|)"
      R"(\b(?:connexions?|activités?|accès|transactions?|opérations?|paiements?)\s+(?:inhabituel\w*|suspecte?s?|non\s+autorisée?s?|frauduleu\w+)\b|)"
      R"(\b(?:actividad|acceso|transacci[óo]n|inicio\s+de\s+sesi[óo]n|movimiento|cargo|atividade|transa[çc][ãa]o|compra|acesso|login|tentativa|dispositivo)(?:es|s)?\s+(?:\w+\s+){0,2}(?:inusual|sospechos[oa]s?|no\s+autorizad[oa]s?|n[ãa]o\s+autorizad[oa]s?|n[ãa]o\s+reconhecid[oa]s?|suspeit[oa]s?|incomu[mn]|extrañ[oa]s?|desconhecid[oa]s?|estranh[oa]s?)\b|)"
-     R"(\b(?:novo|nuevo|recente)\s+(?:acesso|dispositivo|acceso|inicio\s+de\s+sesi[óo]n|login)\b[^.!?]{0,20}\b(?:sua|su|tu|em|na|en)\s+(?:conta|cuenta)\b|)"
-     R"(\b(?:ongebruikelijke|verdachte|onbekende|ongeautoriseerde)\b[^.!?]{0,20}\b(?:activiteit\w*|inlog\w*|aanmeld\w*|transactie\w*|toegang|apparaat|betaling\w*)\b|)"
-     R"((?:异常|異常|可疑|陌生)[^。！？.!?]{0,6}(?:登录|登入|活动|活動|交易|设备|設備)|)"
-     R"((?:不審な|第三者|不正な?|異常な|身に覚えのない|いつもと異なる)[^。！？.!?]{0,10}(?:ログイン|アクセス|利用|取引|サインイン)|)"
-     R"((?:비정상|의심스러운|수상한|알\s+수\s+없는|새로운\s+기기)[^.!?。]{0,10}(?:로그인|접속|활동|거래|결제))",
+     R"(\b(?:novo|nuevo|recente)\s+(?:acesso|dispositivo|acceso|inicio\s+de\s+sesi[óo]n|login)\b<20>\b(?:sua|su|tu|em|na|en)\s+(?:conta|cuenta)\b|)"
+     R"(\b(?:ongebruikelijke|verdachte|onbekende|ongeautoriseerde)\b<20>\b(?:activiteit\w*|inlog\w*|aanmeld\w*|transactie\w*|toegang|apparaat|betaling\w*)\b|)"
+     R"((?:异常|異常|可疑|陌生)<6>(?:登录|登入|活动|活動|交易|设备|設備)|)"
+     R"((?:不審な|第三者|不正な?|異常な|身に覚えのない|いつもと異なる)<10>(?:ログイン|アクセス|利用|取引|サインイン)|)"
+     R"((?:비정상|의심스러운|수상한|알\s+수\s+없는|새로운\s+기기)<10>(?:로그인|접속|활동|거래|결제))"); }),
      true},
     {"cred-session-expire", "Credential phishing", "warn", 25,
      "says a session or access is about to end, to rush the reader to a sign-in page",
-     R"(\b(?:membership|subscription|plan|protection|renewal)\b[^.!?]{0,60}\b(?:set|scheduled|due)\s+(?:to|for)\s+(?:auto-?matic\s+|auto-?)?renew(?:al)?\b|)"
-     R"(\b(?:we\s+will|will\s+be|is\s+going\s+to\s+be)\s+(?:automatically\s+)?(?:debit(?:ed)?|charged?|deducted)\b[^.!?]{0,30}[$€£]\s?\d|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:membership|subscription|plan|protection|renewal)\b<60>\b(?:set|scheduled|due)\s+(?:to|for)\s+(?:auto-?matic\s+|auto-?)?renew(?:al)?\b|)"
+     R"(\b(?:we\s+will|will\s+be|is\s+going\s+to\s+be)\s+(?:automatically\s+)?(?:debit(?:ed)?|charged?|deducted)\b<30>[$€£]\s?\d|)"
      R"(\b(?:automatic|auto)\s+(?:charge|debit|renewal)\s+of\s+[$€£]?\s?\d|)"
-     R"(\b(?:session|access|log-?in|link|token|certificate|authentication|security\s+(?:certificate|token)|2fa|mfa)\b[^.!?]{0,25}\b(?:has\s+expired|have\s+expired|is\s+expired|expired|will\s+expire|expires|is\s+expiring|is\s+about\s+to\s+expire|about\s+to\s+expire|due\s+to\s+expire|timed\s+out|expiring)\b[^.!?]{0,60}\b(?:sign|log|click|verify|renew|re-?authenticate|update|continue|confirm|restore|extend|within|in\s+\d+)\b|)"
-     R"(\b(?:subscription|membership|licen[cs]e|plan|account|domain|mailbox|storage|protection|hosting|antivirus|package)\b[^.!?]{0,20}\b(?:has\s+expired|have\s+expired|has\s+ended|is\s+expired|will\s+expire|expires|is\s+expiring|is\s+about\s+to\s+expire|about\s+to\s+expire|due\s+to\s+expire|will\s+be\s+terminated|has\s+lapsed|could\s+not\s+be\s+renewed|was\s+not\s+renewed)\b|)"
-     R"(\b(?:re-?new|renew|extend|update|reactivate)\b[^.!?]{0,15}\byour\s+(?:\w+\s+){0,3}(?:subscription|membership|licen[cs]e|protection|storage|plan|domain|hosting|access|session)\b|)"
-     R"(\bIhr(?:e[nrs]?)?\s+(?:[\w-]+\s+){0,2}(?:sitzung|abonnement|abo|mitgliedschaft|zugang|zertifikat|lizenz|domain|registrierung|app|verfahren|photoTAN)\b[^.!?]{0,30}\b(?:abgelaufen|läuft|abläuft|abzulaufen|erneuern|verlängern|ungültig|erlischt)\b|)"
+     R"(\b(?:session|access|log-?in|link|token|certificate|authentication|security\s+(?:certificate|token)|2fa|mfa)\b<25>\b(?:has\s+expired|have\s+expired|is\s+expired|expired|will\s+expire|expires|is\s+expiring|is\s+about\s+to\s+expire|about\s+to\s+expire|due\s+to\s+expire|timed\s+out|expiring)\b<60>\b(?:sign|log|click|verify|renew|re-?authenticate|update|continue|confirm|restore|extend|within|in\s+\d+)\b|)"
+     R"(\b(?:subscription|membership|licen[cs]e|plan|account|domain|mailbox|storage|protection|hosting|antivirus|package)\b<20>\b(?:has\s+expired|have\s+expired|has\s+ended|is\s+expired|will\s+expire|expires|is\s+expiring|is\s+about\s+to\s+expire|about\s+to\s+expire|due\s+to\s+expire|will\s+be\s+terminated|has\s+lapsed|could\s+not\s+be\s+renewed|was\s+not\s+renewed)\b|)"
+     R"(\b(?:re-?new|renew|extend|update|reactivate)\b<15>\byour\s+(?:\w+\s+){0,3}(?:subscription|membership|licen[cs]e|protection|storage|plan|domain|hosting|access|session)\b|)"
+     R"(\bIhr(?:e[nrs]?)?\s+(?:[\w-]+\s+){0,2}(?:sitzung|abonnement|abo|mitgliedschaft|zugang|zertifikat|lizenz|domain|registrierung|app|verfahren|photoTAN)\b<30>\b(?:abgelaufen|läuft|abläuft|abzulaufen|erneuern|verlängern|ungültig|erlischt)\b|)"
      R"(\b(?:session|abonnement|licence|accès|certificat|certicode|sécuripass)\s+(?:\w+\s+){0,3}(?:expirée?|expire|arrive\s+à\s+(?:expiration|échéance)|a\s+pris\s+fin)\b|)"
-     R"(\b(?:sesi[óo]n|suscripci[óo]n|membres[íi]a|assinatura|sess[ãa]o|certificado|token|m[óo]dulo|plano|dom[íi]nio)\b[^.!?]{0,20}\b(?:expirad[oa]|expira|vencid[oa]|vence|expirou|caducad[oa]|caduca|desatualizad[oa]|venceu)\b|)"
-     R"(\buw\s+(?:\w+\s+){0,2}(?:sessie|abonnement|bankpas|pas|scanner|licentie|certificaat|digipas)\b[^.!?]{0,25}\b(?:verlopen|verloopt|verlengen|vervalt|vervallen|vernieuwen)\b|)"
-     R"((?:会话|會話|会员|會員|订阅|訂閱|证书|證書)[^。！？.!?]{0,8}(?:已过期|已過期|即将过期|即將過期|到期)|)"
-     R"((?:有効期限|セッション|会員資格)[^。！？.!?]{0,10}(?:切れ|終了|満了|失効))",
+     R"(\b(?:sesi[óo]n|suscripci[óo]n|membres[íi]a|assinatura|sess[ãa]o|certificado|token|m[óo]dulo|plano|dom[íi]nio)\b<20>\b(?:expirad[oa]|expira|vencid[oa]|vence|expirou|caducad[oa]|caduca|desatualizad[oa]|venceu)\b|)"
+     R"(\buw\s+(?:\w+\s+){0,2}(?:sessie|abonnement|bankpas|pas|scanner|licentie|certificaat|digipas)\b<25>\b(?:verlopen|verloopt|verlengen|vervalt|vervallen|vernieuwen)\b|)"
+     R"((?:会话|會話|会员|會員|订阅|訂閱|证书|證書)<8>(?:已过期|已過期|即将过期|即將過期|到期)|)"
+     R"((?:有効期限|セッション|会員資格)<10>(?:切れ|終了|満了|失効))"); }),
      true},
     {"cred-mfa-code", "Credential phishing", "warn", 50,
      "asks for a one-time code, which is never for anyone else",
-     R"(\b(?:send|forward|share|tell|give|read|provide|text|reply\s+with|need|want|get|pass)\b[^.!?]{0,30}\b(?:(?:one[- ]time|verification|security|authentication|confirmation|login|sign-?in|whatsapp|sms|6[- ]digit|six[- ]digit|4[- ]digit|otp|2fa|mfa)\s+(?:pass)?(?:code|password|pin|number)|otp|one-?time\s+passcode)\b|)"
-     R"(\b(?:code|otp|pin)\b[^.!?]{0,20}\b(?:you\s+(?:just\s+)?(?:received|got|get|will\s+receive)|(?:we|i)\s+(?:just\s+)?sent\s+(?:to\s+)?you|sent\s+to\s+your\s+phone)\b[^.!?]{0,30}\b(?:send|share|forward|tell|give|read|reply|back)\b|)"
-     R"(\b(?:send|share|forward|tell|give|read)\b[^.!?]{0,25}\b(?:the|that|your|me)\s+(?:\w+\s+){0,2}code\b[^.!?]{0,20}\b(?:you\s+(?:just\s+)?(?:received|got|get|will\s+receive)|(?:we|i)\s+(?:just\s+)?sent|sent\s+to\s+your\s+phone)\b|)"
-     R"(\b(?:schick|send|gib|nenn|teil|leit)\w*\b[^.!?]{0,30}\b(?:bestätigungs|verifizierungs|sicherheits|sms-?|einmal|tan-?)(?:code|passwort|nummer)\b|)"
-     R"(\b(?:envoyez|transmettez|donnez|communiquez|partagez)\b[^.!?]{0,30}\bcode\s+(?:de\s+(?:vérification|sécurité|confirmation)|sms|reçu)\b|)"
-     R"(\b(?:env[íi][ea]|comparta|dame|d[íi]game|informe|mande|passe|compartilhe)\b[^.!?]{0,30}\bc[óo]digo\s+(?:de\s+(?:verificaci[óo]n|seguridad|verifica[çc][ãa]o|seguran[çc]a|confirma[çc][ãa]o)|sms|que)\b|)"
-     R"(\b(?:stuur|geef|deel)\b[^.!?]{0,30}\b(?:verificatie|beveiligings|sms-?)code\b|)"
-     R"((?:把|将|將|告诉|告訴|发送|發送|提供)[^。！？.!?]{0,12}(?:验证码|驗證碼|动态码|動態碼)|)"
-     R"((?:認証コード|確認コード|ワンタイムパスワード)[^。！？.!?]{0,12}(?:教えて|送って|お知らせ|ご返信|転送)|)"
-     R"((?:인증번호|인증\s?코드|보안\s?코드)[^.!?。]{0,10}(?:알려|보내|전달|불러))",
+     pattern([] { return std::string_view(
+     R"(\b(?:send|forward|share|tell|give|read|provide|text|reply\s+with|need|want|get|pass)\b<30>\b(?:(?:one[- ]time|verification|security|authentication|confirmation|login|sign-?in|whatsapp|sms|6[- ]digit|six[- ]digit|4[- ]digit|otp|2fa|mfa)\s+(?:pass)?(?:code|password|pin|number)|otp|one-?time\s+passcode)\b|)"
+     R"(\b(?:code|otp|pin)\b<20>\b(?:you\s+(?:just\s+)?(?:received|got|get|will\s+receive)|(?:we|i)\s+(?:just\s+)?sent\s+(?:to\s+)?you|sent\s+to\s+your\s+phone)\b<30>\b(?:send|share|forward|tell|give|read|reply|back)\b|)"
+     R"(\b(?:send|share|forward|tell|give|read)\b<25>\b(?:the|that|your|me)\s+(?:\w+\s+){0,2}code\b<20>\b(?:you\s+(?:just\s+)?(?:received|got|get|will\s+receive)|(?:we|i)\s+(?:just\s+)?sent|sent\s+to\s+your\s+phone)\b|)"
+     R"(\b(?:schick|send|gib|nenn|teil|leit)\w*\b<30>\b(?:bestätigungs|verifizierungs|sicherheits|sms-?|einmal|tan-?)(?:code|passwort|nummer)\b|)"
+     R"(\b(?:envoyez|transmettez|donnez|communiquez|partagez)\b<30>\bcode\s+(?:de\s+(?:vérification|sécurité|confirmation)|sms|reçu)\b|)"
+     R"(\b(?:env[íi][ea]|comparta|dame|d[íi]game|informe|mande|passe|compartilhe)\b<30>\bc[óo]digo\s+(?:de\s+(?:verificaci[óo]n|seguridad|verifica[çc][ãa]o|seguran[çc]a|confirma[çc][ãa]o)|sms|que)\b|)"
+     R"(\b(?:stuur|geef|deel)\b<30>\b(?:verificatie|beveiligings|sms-?)code\b|)"
+     R"((?:把|将|將|告诉|告訴|发送|發送|提供)<12>(?:验证码|驗證碼|动态码|動態碼)|)"
+     R"((?:認証コード|確認コード|ワンタイムパスワード)<12>(?:教えて|送って|お知らせ|ご返信|転送)|)"
+     R"((?:인증번호|인증\s?코드|보안\s?코드)<10>(?:알려|보내|전달|불러))"); }),
      true},
     {"cred-mfa-fatigue", "Credential phishing", "warn", 35,
      "asks the reader to approve a sign-in prompt on their phone",
-     R"(\b(?:approve|accept|confirm|allow|tap\s+(?:yes|approve|allow)|press\s+(?:yes|approve))\b[^.!?]{0,30}\b(?:sign-?in|log-?in|authentication|authenticator|mfa|2fa|duo|push|okta|microsoft\s+authenticator)\b[^.!?]{0,15}\b(?:request|prompt|notification|push|attempt|message)\b|)"
-     R"(\b(?:authenticator|mfa|2fa|two[- ]factor|multi[- ]factor|duo)\b[^.!?]{0,40}\b(?:approve|accept|tap\s+(?:yes|approve|allow)|press\s+(?:yes|approve)|re-?enrol+|re-?register|re-?configure|expir\w+|set\s?up\s+again)\b|)"
-     R"(\b(?:notification|prompt|pop-?up)\s+(?:will\s+|should\s+)?(?:appear|pop\s+up|come\s+up|show\s+up)?[^.!?]{0,30}\b(?:just\s+|please\s+)?(?:hit|tap|press|click)\s+(?:yes|approve|accept|allow)\b|)"
-     R"(\b(?:genehmigen|bestätigen|freigeben)\s+Sie[^.!?]{0,40}\b(?:anmeldeanfrage|push-?(?:nachricht|tan|benachrichtigung)|anmeldung\s+in\s+(?:der|ihrer)\s+app|authenticator)\b|)"
-     R"(\b(?:approuvez|acceptez|validez)\b[^.!?]{0,30}\b(?:notification|demande)\s+(?:de\s+connexion|d['’]authentification|sur\s+votre\s+(?:téléphone|mobile|application))\b|)"
-     R"(\b(?:apruebe|acepte|autorize|aprove|aceite)\b[^.!?]{0,30}\b(?:notificaci[óo]n|solicitud|notifica[çc][ãa]o|solicita[çc][ãa]o)\b[^.!?]{0,20}\b(?:inicio\s+de\s+sesi[óo]n|login|celular|tel[ée]fono|aplica\w+)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:approve|accept|confirm|allow|tap\s+(?:yes|approve|allow)|press\s+(?:yes|approve))\b<30>\b(?:sign-?in|log-?in|authentication|authenticator|mfa|2fa|duo|push|okta|microsoft\s+authenticator)\b<15>\b(?:request|prompt|notification|push|attempt|message)\b|)"
+     R"(\b(?:authenticator|mfa|2fa|two[- ]factor|multi[- ]factor|duo)\b<40>\b(?:approve|accept|tap\s+(?:yes|approve|allow)|press\s+(?:yes|approve)|re-?enrol+|re-?register|re-?configure|expir\w+|set\s?up\s+again)\b|)"
+     R"(\b(?:notification|prompt|pop-?up)\s+(?:will\s+|should\s+)?(?:appear|pop\s+up|come\s+up|show\s+up)?<30>\b(?:just\s+|please\s+)?(?:hit|tap|press|click)\s+(?:yes|approve|accept|allow)\b|)"
+     R"(\b(?:genehmigen|bestätigen|freigeben)\s+Sie<40>\b(?:anmeldeanfrage|push-?(?:nachricht|tan|benachrichtigung)|anmeldung\s+in\s+(?:der|ihrer)\s+app|authenticator)\b|)"
+     R"(\b(?:approuvez|acceptez|validez)\b<30>\b(?:notification|demande)\s+(?:de\s+connexion|d['’]authentification|sur\s+votre\s+(?:téléphone|mobile|application))\b|)"
+     R"(\b(?:apruebe|acepte|autorize|aprove|aceite)\b<30>\b(?:notificaci[óo]n|solicitud|notifica[çc][ãa]o|solicita[çc][ãa]o)\b<20>\b(?:inicio\s+de\s+sesi[óo]n|login|celular|tel[ée]fono|aplica\w+)\b)"); }),
      true},
     {"cred-reset-link", "Credential phishing", "warn", 20,
      "offers a link to reset a password",
-     R"(\b(?:reset|change|re-?create|restore)\b[^.!?]{0,20}\b(?:your\s+|the\s+|my\s+)(?:\w+\s+){0,2}password\b[^.!?]{0,60}\b(?:(?:click|link|here|below|button|visit|go\s+to|follow|tap|immediately|within)\b|https?:)|)"
-     R"(\b(?:click|link|tap|visit|follow|go\s+to|use)\b[^.!?]{0,60}\b(?:reset|change|restore|recover)\b[^.!?]{0,15}\b(?:your\s+|the\s+|my\s+)(?:\w+\s+){0,2}password\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:reset|change|re-?create|restore)\b<20>\b(?:your\s+|the\s+|my\s+)(?:\w+\s+){0,2}password\b<60>\b(?:(?:click|link|here|below|button|visit|go\s+to|follow|tap|immediately|within)\b|https?:)|)"
+     R"(\b(?:click|link|tap|visit|follow|go\s+to|use)\b<60>\b(?:reset|change|restore|recover)\b<15>\b(?:your\s+|the\s+|my\s+)(?:\w+\s+){0,2}password\b|)"
      R"(\bpassword\s+(?:reset|change|recovery)\s+(?:request|link|notification|required|alert)\b|)"
-     R"(\b(?:reset|change)\s+(?:my\s+)?password\b[^.!?]{0,5}$|)"
-     R"(\b(?:passwort|kennwort)\b[^.!?]{0,25}\b(?:zurücksetzen|zurückzusetzen|ändern|zu\s+ändern)\b[^.!?]{0,60}\b(?:klick\w+|link|hier|unten|https?)\b|)"
-     R"(\b(?:réinitialise[rz]|modifie[rz]|change[rz]|configurer)\b[^.!?]{0,15}\bvotre\s+mot\s+de\s+passe\b|)"
-     R"(\b(?:restable(?:cer|zca|ce)|cambi(?:ar|e|a)|redefin(?:ir|a)|alter(?:ar|e)|troque)\b[^.!?]{0,15}\b(?:su|tu|sua|a)\s+(?:contraseña|senha)\b|)"
-     R"(\bwachtwoord\b[^.!?]{0,20}\b(?:opnieuw\s+in(?:stellen|te\s+stellen)|resetten|wijzigen|herstellen)\b)",
+     R"(\b(?:reset|change)\s+(?:my\s+)?password\b<5>$|)"
+     R"(\b(?:passwort|kennwort)\b<25>\b(?:zurücksetzen|zurückzusetzen|ändern|zu\s+ändern)\b<60>\b(?:klick\w+|link|hier|unten|https?)\b|)"
+     R"(\b(?:réinitialise[rz]|modifie[rz]|change[rz]|configurer)\b<15>\bvotre\s+mot\s+de\s+passe\b|)"
+     R"(\b(?:restable(?:cer|zca|ce)|cambi(?:ar|e|a)|redefin(?:ir|a)|alter(?:ar|e)|troque)\b<15>\b(?:su|tu|sua|a)\s+(?:contraseña|senha)\b|)"
+     R"(\bwachtwoord\b<20>\b(?:opnieuw\s+in(?:stellen|te\s+stellen)|resetten|wijzigen|herstellen)\b)"); }),
      true},
     {"cred-secure-message", "Credential phishing", "warn", 20,
      "says a protected message or shared document waits behind a link",
-     R"(\b(?:secure|encrypted|protected|confidential|private|new|important|pending|unread|undelivered|quarantined|held|voice|fax|shared)\b[^.!?]{0,12}\b(?:message|document|file|fax|voice\s?mail|e-?mail|mail)s?\b[^.!?]{0,30}\b(?:waiting|awaits?|pending|for\s+you|to\s+you|available|received|on\s+hold|held|in\s+quarantine|ready|attached\s+to\s+your|blocked)\b|)"
-     R"(\b(?:has|have)\s+(?:\w+\s+)?(?:shared|sent)\b[^.!?]{0,15}\b(?:a|an|the|some|you|\d+)\b[^.!?]{0,20}\b(?:secure|encrypted|protected|confidential|onedrive|sharepoint|docusign|dropbox|excel|pdf|adobe|google\s+(?:drive|docs?)|important)\b[^.!?]{0,15}\b(?:document|file|folder|message|link|item|fax)s?\b|)"
-     R"(\b(?:view|review|open|access|read|download|sign|preview)\b[^.!?]{0,15}\b(?:the\s+|your\s+|this\s+)?(?:\w+\s+)?(?:secure|encrypted|shared|protected|completed|pending|quarantined|held)\s+(?:\w+\s+)?(?:documents?|files?|messages?|e-?mails?)\b|)"
-     R"(\b(?:review|view|open|sign)\s+(?:and\s+sign\s+)?(?:the\s+)?document(?:s)?\b[^.!?]{0,25}\b(?:here|below|click|link|button|docusign)\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:secure|encrypted|protected|confidential|private|new|important|pending|unread|undelivered|quarantined|held|voice|fax|shared)\b<12>\b(?:message|document|file|fax|voice\s?mail|e-?mail|mail)s?\b<30>\b(?:waiting|awaits?|pending|for\s+you|to\s+you|available|received|on\s+hold|held|in\s+quarantine|ready|attached\s+to\s+your|blocked)\b|)"
+     R"(\b(?:has|have)\s+(?:\w+\s+)?(?:shared|sent)\b<15>\b(?:a|an|the|some|you|\d+)\b<20>\b(?:secure|encrypted|protected|confidential|onedrive|sharepoint|docusign|dropbox|excel|pdf|adobe|google\s+(?:drive|docs?)|important)\b<15>\b(?:document|file|folder|message|link|item|fax)s?\b|)"
+     R"(\b(?:view|review|open|access|read|download|sign|preview)\b<15>\b(?:the\s+|your\s+|this\s+)?(?:\w+\s+)?(?:secure|encrypted|shared|protected|completed|pending|quarantined|held)\s+(?:\w+\s+)?(?:documents?|files?|messages?|e-?mails?)\b|)"
+     R"(\b(?:review|view|open|sign)\s+(?:and\s+sign\s+)?(?:the\s+)?document(?:s)?\b<25>\b(?:here|below|click|link|button|docusign)\b|)"
      R"((?:\(\d+\)|\b\d+)\s+(?:new\s+|unread\s+|pending\s+|undelivered\s+|incoming\s+|important\s+){1,2}(?:voice\s?mails?|messages?|e-?mails?|documents?|faxe?s|notifications?)\b|)"
      R"(\bSie\s+haben\s+(?:\(?\d{1,4}\)?|eine|ein|einen|neue?)\s+(?:\w+\s+){0,3}(?:nachrichten?|dokumente?|mitteilung\w*|benachrichtigung\w*|aktualisierung\w*)\b|)"
-     R"(\bvous\s+avez\s+(?:\(?\d{1,4}\)?|un|une|des)\s+(?:nouveaux?|nouvelles?)?\s?(?:messages?|documents?|notifications?)\b[^.!?]{0,30}\b(?:sécurisée?s?|important\w*|en\s+attente|non\s+lus?)\b|)"
-     R"(\b(?:tiene|voc[êe]\s+(?:tem|recebeu)|recebeu|ha\s+recibido)\s+(?:\(?\d{1,4}\)?|un|una|uma?|novas?|nuevas?)\s+(?:\w+\s+){0,2}(?:mensaje|mensagem|mensagens|documento|notifica[çc][ãa]o|notificaci[óo]n|comunicado)\w*\b)",
+     R"(\bvous\s+avez\s+(?:\(?\d{1,4}\)?|un|une|des)\s+(?:nouveaux?|nouvelles?)?\s?(?:messages?|documents?|notifications?)\b<30>\b(?:sécurisée?s?|important\w*|en\s+attente|non\s+lus?)\b|)"
+     R"(\b(?:tiene|voc[êe]\s+(?:tem|recebeu)|recebeu|ha\s+recibido)\s+(?:\(?\d{1,4}\)?|un|una|uma?|novas?|nuevas?)\s+(?:\w+\s+){0,2}(?:mensaje|mensagem|mensagens|documento|notifica[çc][ãa]o|notificaci[óo]n|comunicado)\w*\b)"); }),
      true},
     {"cred-mailbox-full", "Credential phishing", "warn", 20,
      "says the mailbox is full or mail is being held back",
-     R"(\b(?:mailbox|inbox|e-?mail|mail|storage|cloud|icloud|google\s+drive|onedrive)\b[^.!?]{0,30}\b(?:is|are|has|have|almost|nearly|now|was)\b[^.!?]{0,20}\b(?:full|exceeded|over\s+(?:the\s+|its\s+)?(?:quota|limit)|reached\s+(?:its|the|your)?[^.!?]{0,15}(?:limit|capacity|quota)|out\s+of\s+(?:space|storage)|run(?:ning)?\s+out)\b|)"
-     R"(\b(?:exceeded|reached|over)\b[^.!?]{0,25}\b(?:mailbox|inbox|e-?mail|mail|storage|cloud|disk)\b[^.!?]{0,15}\b(?:quota|limit|capacity|space|size|plan)\b|)"
-     R"(\b(?:mailbox|e-?mail|mail|storage|account)\s+(?:quota|storage|size\s+limit|capacity)\b[^.!?]{0,25}\b(?:exceeded|full|low|reached|used|upgrade|increase|almost|\d{2,3}\s?%)|)"
-     R"(\b(?:incoming|pending|undelivered|important|new)?\s?(?:messages?|e-?mails?|mails?)\b[^.!?]{0,25}\b(?:are|is|were|was|have\s+been|has\s+been|being|will\s+be|could\s+not\s+be|cannot\s+be|not\s+be)\s+(?:\w+\s+)?(?:held|withheld|suspended|blocked|quarantined|rejected|delayed|delivered|returned|bounced|pending)\b[^.!?]{0,40}\b(?:mailbox|server|storage|quota|inbox|portal|release|release\s+them|e-?mail\s+account|sync\w*|your)\b|)"
-     R"(\b(?:upgrade|increase|expand|clear|free\s+up|clean)\b[^.!?]{0,20}\b(?:your\s+|the\s+)?(?:mailbox|inbox|e-?mail|storage|cloud|quota)\b[^.!?]{0,15}\b(?:storage|quota|space|size|capacity|plan|now)\b|)"
-     R"(\b(?:photos|files|data|documents|videos)\b[^.!?]{0,30}\bwill\s+be\s+(?:deleted|lost|removed|erased)\b|)"
-     R"(\b(?:speicher\w*|postfach|cloud\w*)\b[^.!?]{0,25}\b(?:voll|überschritten|ausgeschöpft|erschöpft|aufgebraucht|begrenzt)\b|)"
-     R"(\b(?:stockage|boîte\s+(?:mail|aux\s+lettres|de\s+réception)|espace)\b[^.!?]{0,25}\b(?:pleine?|saturée?|dépassée?|atteint|insuffisant)\b|)"
-     R"(\b(?:buz[óo]n|almacenamiento|caixa\s+de\s+(?:entrada|correio)|armazenamento)\b[^.!?]{0,25}\b(?:llen[oa]|cheia?|excedid[oa]|esgotad[oa]|lotad[oa]|superado|limite)\b|)"
-     R"(\b(?:mailbox|opslag\w*|postvak)\b[^.!?]{0,25}\b(?:vol|overschreden|bereikt)\b|)"
-     R"((?:邮箱|郵箱|信箱|存储空间|儲存空間)[^。！？.!?]{0,8}(?:已满|已滿|超出|不足|将满)|)"
-     R"((?:メールボックス|ストレージ|受信トレイ)[^。！？.!?]{0,10}(?:いっぱい|超過|不足|上限))",
+     pattern([] { return std::string_view(
+     R"(\b(?:mailbox|inbox|e-?mail|mail|storage|cloud|icloud|google\s+drive|onedrive)\b<30>\b(?:is|are|has|have|almost|nearly|now|was)\b<20>\b(?:full|exceeded|over\s+(?:the\s+|its\s+)?(?:quota|limit)|reached\s+(?:its|the|your)?<15>(?:limit|capacity|quota)|out\s+of\s+(?:space|storage)|run(?:ning)?\s+out)\b|)"
+     R"(\b(?:exceeded|reached|over)\b<25>\b(?:mailbox|inbox|e-?mail|mail|storage|cloud|disk)\b<15>\b(?:quota|limit|capacity|space|size|plan)\b|)"
+     R"(\b(?:mailbox|e-?mail|mail|storage|account)\s+(?:quota|storage|size\s+limit|capacity)\b<25>\b(?:exceeded|full|low|reached|used|upgrade|increase|almost|\d{2,3}\s?%)|)"
+     R"(\b(?:incoming|pending|undelivered|important|new)?\s?(?:messages?|e-?mails?|mails?)\b<25>\b(?:are|is|were|was|have\s+been|has\s+been|being|will\s+be|could\s+not\s+be|cannot\s+be|not\s+be)\s+(?:\w+\s+)?(?:held|withheld|suspended|blocked|quarantined|rejected|delayed|delivered|returned|bounced|pending)\b<40>\b(?:mailbox|server|storage|quota|inbox|portal|release|release\s+them|e-?mail\s+account|sync\w*|your)\b|)"
+     R"(\b(?:upgrade|increase|expand|clear|free\s+up|clean)\b<20>\b(?:your\s+|the\s+)?(?:mailbox|inbox|e-?mail|storage|cloud|quota)\b<15>\b(?:storage|quota|space|size|capacity|plan|now)\b|)"
+     R"(\b(?:photos|files|data|documents|videos)\b<30>\bwill\s+be\s+(?:deleted|lost|removed|erased)\b|)"
+     R"(\b(?:speicher\w*|postfach|cloud\w*)\b<25>\b(?:voll|überschritten|ausgeschöpft|erschöpft|aufgebraucht|begrenzt)\b|)"
+     R"(\b(?:stockage|boîte\s+(?:mail|aux\s+lettres|de\s+réception)|espace)\b<25>\b(?:pleine?|saturée?|dépassée?|atteint|insuffisant)\b|)"
+     R"(\b(?:buz[óo]n|almacenamiento|caixa\s+de\s+(?:entrada|correio)|armazenamento)\b<25>\b(?:llen[oa]|cheia?|excedid[oa]|esgotad[oa]|lotad[oa]|superado|limite)\b|)"
+     R"(\b(?:mailbox|opslag\w*|postvak)\b<25>\b(?:vol|overschreden|bereikt)\b|)"
+     R"((?:邮箱|郵箱|信箱|存储空间|儲存空間)<8>(?:已满|已滿|超出|不足|将满)|)"
+     R"((?:メールボックス|ストレージ|受信トレイ)<10>(?:いっぱい|超過|不足|上限))"); }),
      true},
     {"cred-deactivate", "Credential phishing", "warn", 25,
      "threatens to close or delete an account",
+     pattern([] { return std::string_view(
      R"(\byour\s+(?:\w+\s+)?(?:account|membership|subscription|mailbox)\s+has\s+been\s+(?:closed|terminated|cancell?ed|deactivated)\b|)"
-     R"(\b(?:can\s+no\s+longer|no\s+longer\s+be\s+able\s+to|be\s+unable\s+to|will\s+stop|not\s+be\s+able\s+to)\b[^.!?]{0,8}\b(?:send|sending|receive|receiving)\s+(?:(?:and|or)\s+(?:receive|receiving|send|sending)\s+)?(?:new\s+|any\s+|incoming\s+)?(?:messages|e-?mails?|mails?)\b|)"
-     R"(\b(?:account|mailbox|wallet|profile|e-?mail\s+address|your\s+(?:\w+\s+)?(?:service|access|card|number|line|subscription|membership))\b[^.!?]{0,15}\b(?:will|is\s+going\s+to|shall|is\s+about\s+to|is\s+scheduled\s+to|is\s+due\s+to|has\s+been\s+scheduled\s+to)\s+(?:soon\s+|then\s+|automatically\s+|permanently\s+|also\s+|otherwise\s+)?be\s+(?:\w+ly\s+)?(?:closed|terminated|deactivated|deleted|removed|cancell?ed|discontinued|shut\s?down|disconnected|disabled|erased|suspended)\b|)"
-     R"(\b(?:request|requested|instruction)\b[^.!?]{0,20}\b(?:to|for)\s+(?:the\s+)?(?:terminate|close|delete|de-?activate|shut\s?down|deactivation|termination|deletion|closure)\b[^.!?]{0,15}\b(?:your|of)\b[^.!?]{0,12}\b(?:account|mailbox|e-?mail|service|wallet)\b|)"
-     R"(\b(?:avoid|prevent)\b[^.!?]{0,20}\b(?:(?:account|service|permanent|access)\s+(?:closure|termination|deactivation|deletion|suspension|interruption|disruption|restrictions?|loss)|(?:closure|termination|deactivation|deletion|suspension|interruption|restriction|loss)\s+of\s+(?:your|the|this|access|service|data)|losing\s+access|being\s+(?:closed|locked|suspended|deactivated|disabled))\b|)"
+     R"(\b(?:can\s+no\s+longer|no\s+longer\s+be\s+able\s+to|be\s+unable\s+to|will\s+stop|not\s+be\s+able\s+to)\b<8>\b(?:send|sending|receive|receiving)\s+(?:(?:and|or)\s+(?:receive|receiving|send|sending)\s+)?(?:new\s+|any\s+|incoming\s+)?(?:messages|e-?mails?|mails?)\b|)"
+     R"(\b(?:account|mailbox|wallet|profile|e-?mail\s+address|your\s+(?:\w+\s+)?(?:service|access|card|number|line|subscription|membership))\b<15>\b(?:will|is\s+going\s+to|shall|is\s+about\s+to|is\s+scheduled\s+to|is\s+due\s+to|has\s+been\s+scheduled\s+to)\s+(?:soon\s+|then\s+|automatically\s+|permanently\s+|also\s+|otherwise\s+)?be\s+(?:\w+ly\s+)?(?:closed|terminated|deactivated|deleted|removed|cancell?ed|discontinued|shut\s?down|disconnected|disabled|erased|suspended)\b|)"
+     R"(\b(?:request|requested|instruction)\b<20>\b(?:to|for)\s+(?:the\s+)?(?:terminate|close|delete|de-?activate|shut\s?down|deactivation|termination|deletion|closure)\b<15>\b(?:your|of)\b<12>\b(?:account|mailbox|e-?mail|service|wallet)\b|)"
+     R"(\b(?:avoid|prevent)\b<20>\b(?:(?:account|service|permanent|access)\s+(?:closure|termination|deactivation|deletion|suspension|interruption|disruption|restrictions?|loss)|(?:closure|termination|deactivation|deletion|suspension|interruption|restriction|loss)\s+of\s+(?:your|the|this|access|service|data)|losing\s+access|being\s+(?:closed|locked|suspended|deactivated|disabled))\b|)"
      R"(\b(?:you\s+(?:will|may|could)|your|permanently|risk\s+of)\s+(?:\w+\s+)?(?:lose|losing)\s+(?:access|your\s+(?:account|data|files|photos|wallet|funds|assets))\b|)"
-     R"(\b(?:konto|account|zugang|postfach|abonnement|karte|profil)\b[^.!?]{0,40}\b(?:gelöscht|geschlossen|gekündigt|deaktiviert|abgeschaltet|gesperrt)\s+(?:wird|werden|würde)\b|)"
-     R"(\b(?:wird|werden)\b[^.!?]{0,30}\b(?:konto|account|zugang|postfach|karte|profil)\b[^.!?]{0,30}\b(?:gelöscht|geschlossen|deaktiviert|abgeschaltet|gesperrt)\b|)"
+     R"(\b(?:konto|account|zugang|postfach|abonnement|karte|profil)\b<40>\b(?:gelöscht|geschlossen|gekündigt|deaktiviert|abgeschaltet|gesperrt)\s+(?:wird|werden|würde)\b|)"
+     R"(\b(?:wird|werden)\b<30>\b(?:konto|account|zugang|postfach|karte|profil)\b<30>\b(?:gelöscht|geschlossen|deaktiviert|abgeschaltet|gesperrt)\b|)"
      R"(\b(?:compte|accès|carte|ligne)\s+(?:\w+\s+){0,2}sera\s+(?:\w+\s+){0,2}(?:ferm|supprim|désactiv|résili|clôtur|suspend|bloqu)|)"
-     R"(\b(?:cuenta|conta|acesso|acceso|servi[çc]io?|cadastro|benef[íi]cio)\b[^.!?]{0,20}\b(?:ser[áa]|podr[áa]\s+ser|poder[áa]\s+ser)\s+(?:\w+\s+){0,2}(?:cerrad|eliminad|cancelad|desactivad|encerrad|exclu[íi]d|desativad|deletad|interromp|suspens|suspend|bloquead)|)"
-     R"(\buw\s+(?:\w+\s+){0,2}(?:account|rekening|pas|mailbox)\s+wordt\s+(?:\w+\s+){0,2}(?:gesloten|verwijderd|beëindigd|geblokkeerd|gedeactiveerd|opgeschort)\b)",
+     R"(\b(?:cuenta|conta|acesso|acceso|servi[çc]io?|cadastro|benef[íi]cio)\b<20>\b(?:ser[áa]|podr[áa]\s+ser|poder[áa]\s+ser)\s+(?:\w+\s+){0,2}(?:cerrad|eliminad|cancelad|desactivad|encerrad|exclu[íi]d|desativad|deletad|interromp|suspens|suspend|bloquead)|)"
+     R"(\buw\s+(?:\w+\s+){0,2}(?:account|rekening|pas|mailbox)\s+wordt\s+(?:\w+\s+){0,2}(?:gesloten|verwijderd|beëindigd|geblokkeerd|gedeactiveerd|opgeschort)\b)"); }),
      true},
 
     // ---- Child sexual abuse --------------------------------------------------------------------
@@ -367,241 +450,252 @@ constexpr auto table = std::to_array<Rule>({
     // ---- Payment redirection -------------------------------------------------------------------
     {"bec-bank-change", "Payment redirection", "warn", 55,
      "announces new bank details, the core of payment-redirection fraud",
-     R"(\b(?:are|we['’]re)\s+changing\s+banks\b|\bmoved\s+our\s+banking\b|\bbank\s+has\s+flagged\b|\bchange\s+ach\b|\bright\s+bank\s+details\b|\bresend\b[^.!?]{0,20}\b(?:this|the)\s+(?:other|new)\s+one\b|)"
-     R"(\baccount\s+on\s+(?:file|the\s+invoice)\b[^.!?]{0,60}\b(?:closed|audited|flagged|incorrect)\b|\bnew\s+(?:bank\s+)?details\s+attached\b|\bbank\s+changed\b[^.!?]{0,30}\b(?:notice|invoice|updated|attached|our)\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:are|we['’]re)\s+changing\s+banks\b|\bmoved\s+our\s+banking\b|\bbank\s+has\s+flagged\b|\bchange\s+ach\b|\bright\s+bank\s+details\b|\bresend\b<20>\b(?:this|the)\s+(?:other|new)\s+one\b|)"
+     R"(\baccount\s+on\s+(?:file|the\s+invoice)\b<60>\b(?:closed|audited|flagged|incorrect)\b|\bnew\s+(?:bank\s+)?details\s+attached\b|\bbank\s+changed\b<30>\b(?:notice|invoice|updated|attached|our)\b|)"
      R"(\bhas\s+changed\s+(?:its\s+|their\s+)?banks?\b|\bbank\s+(?:account\s+)?(?:has\s+(?:been\s+)?)?changed\s+to\s+our\b|\bswitch(?:ed|ing)\s+our\s+bank\b|)"
-     R"(\b(?:our|the)\s+(?:\w+\s+){0,2}account\b[^.!?]{0,30}\b(?:can['’]?t|cannot|can\s+not)\s+be\s+(?:used|credited)\b|)"
+     R"(\b(?:our|the)\s+(?:\w+\s+){0,2}account\b<30>\b(?:can['’]?t|cannot|can\s+not)\s+be\s+(?:used|credited)\b|)"
      R"(\buse\s+our\s+(?:alternate|alternative|other|second)\s+account\b|\b(?:put|deposit)\s+100%\s+(?:in|into|of\s+it)\b|\breplace\s+it\s+with\s+the\s+(?:below|following|new)\b|)"
-     R"(\b(?:re-?send|wired|paid)\b[^.!?]{0,30}\b(?:to|into)\s+the\s+account\s+below\b|\bwire\s+instructions\b[^.!?]{0,40}\b(?:earlier|error)\b|\bthe\s+\w+\s+account\s+from\s+now\b|)"
-     R"(\b(?:our|firm['’]s|company['’]s)\s+(?:\w+\s+){0,3}(?:bank|account)s?\b[^.!?]{0,30}\b(?:has|have|is|was|are)\s+(?:been\s+|being\s+|currently\s+|now\s+)*(?:changed?|blocked|moved|migrated|audited|upgrading|updated|replaced|undergoing|bouncing)\b|)"
-     R"(\b(?:transition(?:ed|ing)|moved|chang(?:ed|ing)|updated)\b[^.!?]{0,15}\b(?:to\s+a\s+)?(?:new\s+)?bank(?:ing)?\s+(?:institution|relationships?|partner|provider)s?\b|)"
-     R"(\bold\s+account\b[^.!?]{0,60}\b(?:new\s+one|new\s+account|discharge|lost|recall)\b|\bdo\s+not\s+(?:make|send)\s+(?:any\s+)?payments?\s+to\s+(?:the\s+|our\s+)?old\s+account\b|)"
-     R"(\b(?:account|collect|payments?|paid|pay)\b[^.!?]{0,40}\b(?:sister|associate|associated|factoring)\s+company\b|\b(?:sister|associate|factoring)\s+company\b[^.!?]{0,60}\b(?:account|collect\w*|payments?|paid)\b|)"
-     R"(\b(?:new|interim|updated)\s+account\b[^.!?]{0,25}\b(?:attached|enclosed|below|instead)\b|\b(?:pay|send|wire|re-?issue|disburse\w*|remit)\b[^.!?]{0,60}\baccount\b[^.!?]{0,20}\b(?:in|on)\s+the\s+(?:attached|enclosed)\b|)"
-     R"(\b(?:attached|enclosed)\b[^.!?]{0,25}\bach\s+(?:form|enrol?lment)\b|\bach\s+(?:form|enrol?lment)\b[^.!?]{0,30}\b(?:attached|enclosed|new)\b|)"
-     R"(\b(?:opened|have|got)\s+a\s+new\s+(?:bank\s+)?account\b[^.!?]{0,80}\b(?:salary|payroll|wages)\b|\bnew\s+account\s+for\s+(?:my\s+)?(?:salary|wages|pay)\b|\bpay\s?(?:stub|slip)\b[^.!?]{0,40}\bold\s+(?:account|bank)\b|)"
-     R"(\bwiring\s+instructions?\b[^.!?]{0,60}\b(?:replaced|updated|changed|disregard)\b|\b(?:disregard|ignore)\b[^.!?]{0,20}\b(?:details|instructions?)\b[^.!?]{0,20}\bin\s+(?:our|my)\s+(?:previous|earlier|last)\b|)"
-     R"(\b(?:alterar|mudar|trocar)\s+(?:a\s+)?conta\b[^.!?]{0,60}\b(?:salário|pagamento)\b|)"
-     R"(\bour\s+(?:\w+\s+){0,3}account\b[^.!?]{0,40}\b(?:is|was|has\s+been|remains)\s+(?:currently\s+|temporarily\s+|now\s+)*(?:on\s+hold|frozen|closed|inactive|unavailable|under\s+(?:audit|review)|being\s+audited|restricted)\b|)"
-     R"(\b(?:not\s+to\s+use|stop\s+using|(?:do\s+not|don['’]t|no\s+longer)\s+use)\b[^.!?]{0,12}\b(?:our|my|that|this)\s+(?:\w+\s+)?(?:bank\s+)?account\b|)"
-     R"(\b(?:pay|paid|send|sent|remit|wire|wired|deposit|put)\b[^.!?]{0,60}\b(?:our|an?|the)\s+(?:other|alternate|alternative|different)\s+(?:bank\s+)?account\b|)"
+     R"(\b(?:re-?send|wired|paid)\b<30>\b(?:to|into)\s+the\s+account\s+below\b|\bwire\s+instructions\b<40>\b(?:earlier|error)\b|\bthe\s+\w+\s+account\s+from\s+now\b|)"
+     R"(\b(?:our|firm['’]s|company['’]s)\s+(?:\w+\s+){0,3}(?:bank|account)s?\b<30>\b(?:has|have|is|was|are)\s+(?:been\s+|being\s+|currently\s+|now\s+)*(?:changed?|blocked|moved|migrated|audited|upgrading|updated|replaced|undergoing|bouncing)\b|)"
+     R"(\b(?:transition(?:ed|ing)|moved|chang(?:ed|ing)|updated)\b<15>\b(?:to\s+a\s+)?(?:new\s+)?bank(?:ing)?\s+(?:institution|relationships?|partner|provider)s?\b|)"
+     R"(\bold\s+account\b<60>\b(?:new\s+one|new\s+account|discharge|lost|recall)\b|\bdo\s+not\s+(?:make|send)\s+(?:any\s+)?payments?\s+to\s+(?:the\s+|our\s+)?old\s+account\b|)"
+     R"(\b(?:account|collect|payments?|paid|pay)\b<40>\b(?:sister|associate|associated|factoring)\s+company\b|\b(?:sister|associate|factoring)\s+company\b<60>\b(?:account|collect\w*|payments?|paid)\b|)"
+     R"(\b(?:new|interim|updated)\s+account\b<25>\b(?:attached|enclosed|below|instead)\b|\b(?:pay|send|wire|re-?issue|disburse\w*|remit)\b<60>\baccount\b<20>\b(?:in|on)\s+the\s+(?:attached|enclosed)\b|)"
+     R"(\b(?:attached|enclosed)\b<25>\bach\s+(?:form|enrol?lment)\b|\bach\s+(?:form|enrol?lment)\b<30>\b(?:attached|enclosed|new)\b|)"
+     R"(\b(?:opened|have|got)\s+a\s+new\s+(?:bank\s+)?account\b<80>\b(?:salary|payroll|wages)\b|\bnew\s+account\s+for\s+(?:my\s+)?(?:salary|wages|pay)\b|\bpay\s?(?:stub|slip)\b<40>\bold\s+(?:account|bank)\b|)"
+     R"(\bwiring\s+instructions?\b<60>\b(?:replaced|updated|changed|disregard)\b|\b(?:disregard|ignore)\b<20>\b(?:details|instructions?)\b<20>\bin\s+(?:our|my)\s+(?:previous|earlier|last)\b|)"
+     R"(\b(?:alterar|mudar|trocar)\s+(?:a\s+)?conta\b<60>\b(?:salário|pagamento)\b|)"
+     R"(\bour\s+(?:\w+\s+){0,3}account\b<40>\b(?:is|was|has\s+been|remains)\s+(?:currently\s+|temporarily\s+|now\s+)*(?:on\s+hold|frozen|closed|inactive|unavailable|under\s+(?:audit|review)|being\s+audited|restricted)\b|)"
+     R"(\b(?:not\s+to\s+use|stop\s+using|(?:do\s+not|don['’]t|no\s+longer)\s+use)\b<12>\b(?:our|my|that|this)\s+(?:\w+\s+)?(?:bank\s+)?account\b|)"
+     R"(\b(?:pay|paid|send|sent|remit|wire|wired|deposit|put)\b<60>\b(?:our|an?|the)\s+(?:other|alternate|alternative|different)\s+(?:bank\s+)?account\b|)"
      R"(\b(?:updated|new|revised|amended|corrected)\s+(?:wiring|wire|ach|remittance|banking)\s+(?:transfer\s+)?(?:instructions?|details|information|form)\b|)"
      R"(\b(?:our|my)\s+(?:previous|old|former)\s+bank\s+account\b|)"
-     R"(\bbank\s+gewechselt\b[^.!?]{0,80}\b(?:gehalt|lohn|konto)\b|\b(?:gehalt|lohn|zahlung\w*|rechnung\w*)\b[^.!?]{0,80}\b(?:neues?\s+konto|neue\s+bankverbindung|neuen\s+konto)\b|)"
-     R"(\bcambiado\s+de\s+banco\b[^.!?]{0,80}\b(?:nómina|salario|sueldo|cuenta)\b|\b(?:nómina|salario|sueldo|pagos?|facturas?)\b[^.!?]{0,80}\bnueva\s+cuenta\b|)"
-     R"(\bchangé\s+de\s+banque\b[^.!?]{0,80}\b(?:salaire|paie|compte|virement)\b|\b(?:salaire|paie|paiements?|virements?|factures?|règlements?)\b[^.!?]{0,80}\b(?:nouveau\s+(?:compte|rib)|nouvelles\s+coordonnées\s+bancaires)\b|)"
-     R"(\b(?:bank|banking|payment|remittance|account|wire|ach)\s+(?:account\s+)?(?:details|information|info|instructions?|coordinates|particulars)\b[^.!?]{0,30}\b(?:has|have|had|is|are|was|were)\s+(?:been\s+|now\s+|recently\s+|just\s+|being\s+)*(?:changed|updated|amended|revised|modified|replaced)\b|)"
-     R"(\b(?:we|i|our\s+company|our\s+supplier|the\s+company|vendor|our\s+\w+\s+department)\b[^.!?]{0,25}\b(?:have|has|had|['’]ve|recently|are|am|just)\s+(?:recently\s+|just\s+|now\s+)?(?:chang(?:ed|ing)|switch(?:ed|ing)|mov(?:ed|ing)|updat(?:ed|ing)|migrat(?:ed|ing)|open(?:ed|ing))\b[^.!?]{0,25}\b(?:our\s+|my\s+|a\s+|to\s+a\s+|the\s+|new\s+)(?:new\s+|different\s+|corporate\s+|company\s+|business\s+)?(?:bank(?:ing)?(?:\s+account|\s+accounts|\s+details|\s+information|\s+provider|\s+partner)?|account\s+details|payment\s+details|remittance\s+(?:details|information))\b|)"
+     R"(\bbank\s+gewechselt\b<80>\b(?:gehalt|lohn|konto)\b|\b(?:gehalt|lohn|zahlung\w*|rechnung\w*)\b<80>\b(?:neues?\s+konto|neue\s+bankverbindung|neuen\s+konto)\b|)"
+     R"(\bcambiado\s+de\s+banco\b<80>\b(?:nómina|salario|sueldo|cuenta)\b|\b(?:nómina|salario|sueldo|pagos?|facturas?)\b<80>\bnueva\s+cuenta\b|)"
+     R"(\bchangé\s+de\s+banque\b<80>\b(?:salaire|paie|compte|virement)\b|\b(?:salaire|paie|paiements?|virements?|factures?|règlements?)\b<80>\b(?:nouveau\s+(?:compte|rib)|nouvelles\s+coordonnées\s+bancaires)\b|)"
+     R"(\b(?:bank|banking|payment|remittance|account|wire|ach)\s+(?:account\s+)?(?:details|information|info|instructions?|coordinates|particulars)\b<30>\b(?:has|have|had|is|are|was|were)\s+(?:been\s+|now\s+|recently\s+|just\s+|being\s+)*(?:changed|updated|amended|revised|modified|replaced)\b|)"
+     R"(\b(?:we|i|our\s+company|our\s+supplier|the\s+company|vendor|our\s+\w+\s+department)\b<25>\b(?:have|has|had|['’]ve|recently|are|am|just)\s+(?:recently\s+|just\s+|now\s+)?(?:chang(?:ed|ing)|switch(?:ed|ing)|mov(?:ed|ing)|updat(?:ed|ing)|migrat(?:ed|ing)|open(?:ed|ing))\b<25>\b(?:our\s+|my\s+|a\s+|to\s+a\s+|the\s+|new\s+)(?:new\s+|different\s+|corporate\s+|company\s+|business\s+)?(?:bank(?:ing)?(?:\s+account|\s+accounts|\s+details|\s+information|\s+provider|\s+partner)?|account\s+details|payment\s+details|remittance\s+(?:details|information))\b|)"
      R"(\b(?:our|my|the)\s+(?:new|updated|revised|amended|current|correct)\s+(?:\w+\s+){0,2}(?:bank(?:ing)?\s+(?:account|details|information|info|coordinates|instructions)|account\s+details|payment\s+(?:details|instructions)|remittance\s+(?:details|instructions|information)|wire\s+instructions|ach\s+(?:details|information))\b|)"
      R"(\b(?:change|changes|switch)\s+(?:in|of|to)\s+(?:our|my|the|your|vendor|supplier)\s+(?:\w+\s+)?(?:bank(?:ing)?(?:\s+account)?|payment|remittance|account)\s+(?:details|information|info|instructions|coordinates|account)\b|)"
-     R"(\bnew\s+(?:bank(?:ing)?|remittance|wire|ach|payment)\s+(?:details|information|instructions|coordinates)\b[^.!?]{0,40}\b(?:attached|below|future|invoice|invoices|payments?|effective|going\s+forward|from\s+now)\b|)"
-     R"(\b(?:old|previous|former|existing|usual)\s+(?:bank\s+)?account\b[^.!?]{0,40}\b(?:is|has\s+been|was|currently|under|no\s+longer)\b[^.!?]{0,25}\b(?:closed|audit(?:ed)?|frozen|review|inactive|suspended|unavailable|use|used|accessible|receive|merged)\b|)"
-     R"(\b(?:unsere?|meine?)\b[^.!?]{0,15}\b(?:bankverbindung|bankdaten|kontodaten|kontoverbindung|iban)\b[^.!?]{0,40}\b(?:geändert|gewechselt|aktualisiert|neu|ändert)\b|)"
+     R"(\bnew\s+(?:bank(?:ing)?|remittance|wire|ach|payment)\s+(?:details|information|instructions|coordinates)\b<40>\b(?:attached|below|future|invoice|invoices|payments?|effective|going\s+forward|from\s+now)\b|)"
+     R"(\b(?:old|previous|former|existing|usual)\s+(?:bank\s+)?account\b<40>\b(?:is|has\s+been|was|currently|under|no\s+longer)\b<25>\b(?:closed|audit(?:ed)?|frozen|review|inactive|suspended|unavailable|use|used|accessible|receive|merged)\b|)"
+     R"(\b(?:unsere?|meine?)\b<15>\b(?:bankverbindung|bankdaten|kontodaten|kontoverbindung|iban)\b<40>\b(?:geändert|gewechselt|aktualisiert|neu|ändert)\b|)"
      R"(\b(?:neuen?|geänderten?|aktualisierten?)\s+(?:bankverbindung|bankdaten|kontodaten|kontoverbindung|iban)\b|)"
-     R"(\b(?:nos|mes|nouvelles?|nouveaux?)\s+(?:nouvelles\s+|nouveaux\s+)?coordonnées\s+bancaires\b[^.!?]{0,40}\b(?:chang|modifi|mise\s+à\s+jour|nouvelles?|ci-(?:joint|dessous))|)"
+     R"(\b(?:nos|mes|nouvelles?|nouveaux?)\s+(?:nouvelles\s+|nouveaux\s+)?coordonnées\s+bancaires\b<40>\b(?:chang|modifi|mise\s+à\s+jour|nouvelles?|ci-(?:joint|dessous))|)"
      R"(\b(?:changement|modification)\s+(?:de\s+(?:nos\s+|mes\s+)?|des\s+)(?:coordonnées\s+bancaires|rib|iban|compte\s+bancaire|domiciliation)\b|)"
      R"(\bnouve(?:au|l|lles)\s+(?:rib|iban|coordonnées\s+bancaires|compte\s+bancaire)\b|)"
-     R"(\b(?:nuev[oa]s?|cambi\w+|actualiz\w+)\b[^.!?]{0,20}\b(?:nuestr[oa]s?\s+|mis?\s+)?(?:datos\s+bancarios|cuenta\s+bancaria|datos\s+de\s+pago|n[úu]mero\s+de\s+cuenta)\b|)"
-     R"(\b(?:nov[oa]s?|alter\w+|mudan\w+|atualiz\w+)\b[^.!?]{0,20}\b(?:noss[oa]s?\s+|meus?\s+)?(?:dados\s+banc[áa]rios|conta\s+banc[áa]ria)\b|)"
-     R"(\b(?:nieuwe?|gewijzigde?|ons|onze)\b[^.!?]{0,15}\b(?:bankgegevens|rekeningnummer|bankrekening)\b[^.!?]{0,40}\b(?:gewijzigd|veranderd|nieuwe?|voortaan)\b|)"
-     R"((?:更改|变更|變更|更换|更換|新的)[^。！？.!?]{0,8}(?:银行账户|銀行帳戶|收款账户|收款帳戶|银行账号|銀行帳號|收款账号|银行信息)|)"
-     R"((?:銀行口座|振込先|振込口座)[^。！？.!?]{0,12}(?:変更|新しい)|)"
-     R"((?:입금\s?계좌|은행\s?계좌|계좌\s?정보|계좌번호)[^.!?。]{0,10}(?:변경|바뀌|새로운))",
+     R"(\b(?:nuev[oa]s?|cambi\w+|actualiz\w+)\b<20>\b(?:nuestr[oa]s?\s+|mis?\s+)?(?:datos\s+bancarios|cuenta\s+bancaria|datos\s+de\s+pago|n[úu]mero\s+de\s+cuenta)\b|)"
+     R"(\b(?:nov[oa]s?|alter\w+|mudan\w+|atualiz\w+)\b<20>\b(?:noss[oa]s?\s+|meus?\s+)?(?:dados\s+banc[áa]rios|conta\s+banc[áa]ria)\b|)"
+     R"(\b(?:nieuwe?|gewijzigde?|ons|onze)\b<15>\b(?:bankgegevens|rekeningnummer|bankrekening)\b<40>\b(?:gewijzigd|veranderd|nieuwe?|voortaan)\b|)"
+     R"((?:更改|变更|變更|更换|更換|新的)<8>(?:银行账户|銀行帳戶|收款账户|收款帳戶|银行账号|銀行帳號|收款账号|银行信息)|)"
+     R"((?:銀行口座|振込先|振込口座)<12>(?:変更|新しい)|)"
+     R"((?:입금\s?계좌|은행\s?계좌|계좌\s?정보|계좌번호)<10>(?:변경|바뀌|새로운))"); }),
      true},
     {"bec-update-payment", "Payment redirection", "warn", 50,
      "asks for stored payment or payee details to be changed",
-     R"(\b(?:my|his|her)\s+(?:salary|wages|pay|pay\s?che(?:ck|que)|direct\s+deposit|payroll)\b[^.!?]{0,80}\b(?:new|different|another|other|alternate)\s+(?:\w+\s+)?(?:account|bank)\b|)"
-     R"(\b(?:changed|switched|switching|changing|moved)\s+(?:my\s+|our\s+)?(?:banks?|bank\s+accounts?|to\s+a\s+credit\s+union)\b[^.!?]{0,60}\b(?:direct\s+deposit|salary|wages|pay\s?(?:check|cheque|roll|run|slip|period|day)s?|paid\s+into)\b|)"
-     R"(\b(?:changed|switched|moved)\s+(?:banks?|bank\s+accounts?|to\s+a\s+credit\s+union)\b[^.!?]{0,20}[.!?]\s+[^.!?]{0,60}\b(?:direct\s+deposit|salary|wages|pay\s?(?:check|cheque|roll|run|period|day)s?)\b|)"
-     R"(\b(?:no\s+longer\s+accepts?|can['’]?t\s+accept|moving\s+away\s+from|rather\s+than)\s+(?:paper\s+)?(?:cashier['’]?s?\s+)?(?:checks?|cheques?)\b[^.!?]{0,60}\b(?:ach|electronic|wire|wired|wiring|transfer)\b|\b(?:electronic\s+payments?|ach)\b[^.!?]{0,20}\b(?:only|rather\s+than|from\s+now)\b|)"
-     R"(\b(?:updating|changing|altering|alter|amend)\b[^.!?]{0,15}\b(?:our|my|the)?\s?(?:beneficiary|payee)\b|)"
-     R"(\bremit\b[^.!?]{0,20}\bto\s+my\s+personal\s+account\b|)"
-     R"(\b(?:update|change|amend|replace|revise|switch|modify|edit)\b[^.!?]{0,25}\b(?:our\s+(?:bank|payment|account|remittance|ach)|my\s+(?:bank|payment|account|direct\s+deposit|payroll|salary|pay\s?check)|the\s+(?:bank|banking|beneficiary|payee|remittance|account\s+on\s+file))\b[^.!?]{0,30}\b(?:details|information|info|account|records?|on\s+file|instructions|bank|deposit|with)\b|)"
-     R"(\b(?:update|amend|change)\s+(?:the\s+|our\s+|my\s+|your\s+)?(?:bank(?:ing)?|payment|payee|beneficiary|remittance|direct\s+deposit|payroll|ach|wire)\s+(?:account\s+|bank\s+)?(?:details|information|info|instructions|record|account|file)\b[^.!?]{0,60}\b(?:pay\w*|new|below|attached|invoices?|salary|deposit|effective|on\s+file|records?|before|change[ds]?|bank)\b|)"
-     R"(\b(?:change|update|switch)\b[^.!?]{0,20}\bmy\s+(?:bank\s+(?:account|details|information)|direct\s+deposit|salary\s+account|payroll|pay\s?check|account\s+(?:details|on\s+file))\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:my|his|her)\s+(?:salary|wages|pay|pay\s?che(?:ck|que)|direct\s+deposit|payroll)\b<80>\b(?:new|different|another|other|alternate)\s+(?:\w+\s+)?(?:account|bank)\b|)"
+     R"(\b(?:changed|switched|switching|changing|moved)\s+(?:my\s+|our\s+)?(?:banks?|bank\s+accounts?|to\s+a\s+credit\s+union)\b<60>\b(?:direct\s+deposit|salary|wages|pay\s?(?:check|cheque|roll|run|slip|period|day)s?|paid\s+into)\b|)"
+     R"(\b(?:changed|switched|moved)\s+(?:banks?|bank\s+accounts?|to\s+a\s+credit\s+union)\b<20>[.!?]\s+<60>\b(?:direct\s+deposit|salary|wages|pay\s?(?:check|cheque|roll|run|period|day)s?)\b|)"
+     R"(\b(?:no\s+longer\s+accepts?|can['’]?t\s+accept|moving\s+away\s+from|rather\s+than)\s+(?:paper\s+)?(?:cashier['’]?s?\s+)?(?:checks?|cheques?)\b<60>\b(?:ach|electronic|wire|wired|wiring|transfer)\b|\b(?:electronic\s+payments?|ach)\b<20>\b(?:only|rather\s+than|from\s+now)\b|)"
+     R"(\b(?:updating|changing|altering|alter|amend)\b<15>\b(?:our|my|the)?\s?(?:beneficiary|payee)\b|)"
+     R"(\bremit\b<20>\bto\s+my\s+personal\s+account\b|)"
+     R"(\b(?:update|change|amend|replace|revise|switch|modify|edit)\b<25>\b(?:our\s+(?:bank|payment|account|remittance|ach)|my\s+(?:bank|payment|account|direct\s+deposit|payroll|salary|pay\s?check)|the\s+(?:bank|banking|beneficiary|payee|remittance|account\s+on\s+file))\b<30>\b(?:details|information|info|account|records?|on\s+file|instructions|bank|deposit|with)\b|)"
+     R"(\b(?:update|amend|change)\s+(?:the\s+|our\s+|my\s+|your\s+)?(?:bank(?:ing)?|payment|payee|beneficiary|remittance|direct\s+deposit|payroll|ach|wire)\s+(?:account\s+|bank\s+)?(?:details|information|info|instructions|record|account|file)\b<60>\b(?:pay\w*|new|below|attached|invoices?|salary|deposit|effective|on\s+file|records?|before|change[ds]?|bank)\b|)"
+     R"(\b(?:change|update|switch)\b<20>\bmy\s+(?:bank\s+(?:account|details|information)|direct\s+deposit|salary\s+account|payroll|pay\s?check|account\s+(?:details|on\s+file))\b|)"
      R"(\b(?:replace|change|update)\s+(?:the\s+|my\s+|our\s+)?(?:bank\s+)?account\s+(?:details\s+)?on\s+file\b|)"
-     R"(\b(?:update|change)\s+the\s+(?:beneficiary|payee)\b[^.!?]{0,60}\b(?:pay\w*|account|transfer|wire|run|supplier|vendor|details)\b|)"
-     R"(\b(?:salary|pay\s?check|payroll|direct\s+deposit|wages|my\s+pay)\b[^.!?]{0,40}\b(?:to|into|with)\s+(?:a\s+|my\s+|the\s+)?(?:new|different|another|other)\s+(?:\w+\s+){0,2}(?:account|bank)\b|)"
-     R"(\b(?:direct\s+deposit|payroll|salary)\b[^.!?]{0,60}\b(?:change|update|switch|new)\b[^.!?]{0,40}\b(?:before|effective|for|by|take\s+effect|in\s+time)\b[^.!?]{0,20}\b(?:pay|payroll|pay\s?day|current\s+pay|next|upcoming|friday|this\s+month)\b|)"
-     R"(\b(?:use|note|save|find|adopt|view)\b[^.!?]{0,25}\b(?:the|our|my|these|this|following|corrected)\s+(?:new\s+|updated\s+|revised\s+|amended\s+|correct\s+|corrected\s+)(?:\w+\s+){0,2}(?:account|details|instructions|information)\b[^.!?]{0,40}\b(?:payments?|remit\w*|invoices?|transfers?|deposits?|wires?|transactions?)\b|)"
-     R"(\b(?:please\s+|kindly\s+)(?:update|amend)\s+your\s+(?:records|files?|system|vendor\s+(?:file|record))\b[^.!?]{0,80}\b(?:bank|account|remit\w*|payments?|acknowledge|confirm)\b|)"
-     R"(\b(?:ändern|aktualisieren|hinterlegen|anpassen)\b[^.!?]{0,40}\b(?:bankverbindung|bankdaten|kontodaten|iban|gehaltskonto)\b|)"
-     R"(\b(?:bankverbindung|bankdaten|kontodaten|kontoverbindung|iban|gehaltskonto)\b[^.!?]{0,50}\b(?:gehalt\w*|lohn\w*|hinterleg\w+|aktualisier\w+|anpass\w+)\b|)"
-     R"(\b(?:mett(?:re|ez)\s+à\s+jour|modifie[rz]|remplace[rz]|changer)\b[^.!?]{0,30}\b(?:nos|mes|notre|mon|le)\s+(?:coordonnées\s+bancaires|rib|iban|compte)\b|)"
-     R"(\b(?:actuali[cz]\w+|cambi\w+|atualiz\w+|alter\w+)\b[^.!?]{0,25}\b(?:mis?|nuestr[oa]s?|meus?|minha|noss[oa]s?)\s+(?:datos\s+bancarios|cuenta|dados\s+banc[áa]rios|conta)\b)",
+     R"(\b(?:update|change)\s+the\s+(?:beneficiary|payee)\b<60>\b(?:pay\w*|account|transfer|wire|run|supplier|vendor|details)\b|)"
+     R"(\b(?:salary|pay\s?check|payroll|direct\s+deposit|wages|my\s+pay)\b<40>\b(?:to|into|with)\s+(?:a\s+|my\s+|the\s+)?(?:new|different|another|other)\s+(?:\w+\s+){0,2}(?:account|bank)\b|)"
+     R"(\b(?:direct\s+deposit|payroll|salary)\b<60>\b(?:change|update|switch|new)\b<40>\b(?:before|effective|for|by|take\s+effect|in\s+time)\b<20>\b(?:pay|payroll|pay\s?day|current\s+pay|next|upcoming|friday|this\s+month)\b|)"
+     R"(\b(?:use|note|save|find|adopt|view)\b<25>\b(?:the|our|my|these|this|following|corrected)\s+(?:new\s+|updated\s+|revised\s+|amended\s+|correct\s+|corrected\s+)(?:\w+\s+){0,2}(?:account|details|instructions|information)\b<40>\b(?:payments?|remit\w*|invoices?|transfers?|deposits?|wires?|transactions?)\b|)"
+     R"(\b(?:please\s+|kindly\s+)(?:update|amend)\s+your\s+(?:records|files?|system|vendor\s+(?:file|record))\b<80>\b(?:bank|account|remit\w*|payments?|acknowledge|confirm)\b|)"
+     R"(\b(?:ändern|aktualisieren|hinterlegen|anpassen)\b<40>\b(?:bankverbindung|bankdaten|kontodaten|iban|gehaltskonto)\b|)"
+     R"(\b(?:bankverbindung|bankdaten|kontodaten|kontoverbindung|iban|gehaltskonto)\b<50>\b(?:gehalt\w*|lohn\w*|hinterleg\w+|aktualisier\w+|anpass\w+)\b|)"
+     R"(\b(?:mett(?:re|ez)\s+à\s+jour|modifie[rz]|remplace[rz]|changer)\b<30>\b(?:nos|mes|notre|mon|le)\s+(?:coordonnées\s+bancaires|rib|iban|compte)\b|)"
+     R"(\b(?:actuali[cz]\w+|cambi\w+|atualiz\w+|alter\w+)\b<25>\b(?:mis?|nuestr[oa]s?|meus?|minha|noss[oa]s?)\s+(?:datos\s+bancarios|cuenta|dados\s+banc[áa]rios|conta)\b)"); }),
      true},
     {"bec-redirect-payment", "Payment redirection", "warn", 50,
      "asks for payments to go to a different account than before",
-     R"(\b(?:send|make|direct|redirect|remit|route|re-?route|transfer|wire|pay|forward|deposit|process|issue)\b[^.!?]{0,30}\b(?:all\s+|any\s+|future\s+|outstanding\s+|upcoming\s+|further\s+|pending\s+|subsequent\s+|this\s+|the\s+|open\s+|remaining\s+)(?:\w+\s+){0,3}(?:payments?|invoices?|remittances?|transfers?|wires?|funds|deposits?|balances?)\b[^.!?]{0,50}\b(?:new|different|alternative|alternate|another|following|below|updated|attached|other|designated|subsidiary|nominated|corrected|stated)\b[^.!?]{0,20}\b(?:account|bank|details|instructions|information|beneficiary|iban|coordinates|below)\b|)"
-     R"(\b(?:stop|hold|halt|suspend|do\s+not|don['’]t|cease|refrain\s+from|avoid|no\s+longer|discontinue|disregard|ignore)\b[^.!?]{0,20}\b(?:send|mak|remit|pay|transfer|process|us|wir|the|any|all|be\s+sent)(?:e|ing|ting)?\b[^.!?]{0,40}\b(?:payments?|old|previous|usual|former|earlier|existing|current)\b[^.!?]{0,25}\b(?:account|bank|details|instructions|until)\b|)"
-     R"(\b(?:payments?|transfers?|funds|wires?|remittances?|invoices?|balance|money|deposit)\b[^.!?]{0,25}\b(?:should|must|will|has|have|needs?|can|is)\s+(?:to\s+)?(?:now\s+|only\s+|henceforth\s+|no\s+longer\s+|be\s+)*(?:be\s+)?(?:go|made|sent|paid|remitted|directed|deposited|credited|transferred|wired)\b[^.!?]{0,20}\b(?:to|into)\b[^.!?]{0,20}\b(?:new|different|alternative|another|following|below|updated|our\s+other|subsidiary\w*|escrow|sister\s+company|trust\s+account|factoring|our\s+\w+\s+partner)\b|)"
-     R"(\b(?:pay|payment|transfer|wire|remit|send\s+it|paid)\b[^.!?]{0,30}\b(?:into|to|in)\b[^.!?]{0,12}\b(?:our|my|their|a|the|your)\s+(?:new|alternative|subsidiary['’]?s?|other|sister\s+company['’]?s?|corrected|second|foreign)\s+(?:\w+\s+)?(?:account|bank|company)\b|)"
-     R"(\b(?:process|arrange|initiate|make|send|complete|issue|effect|execute|prioriti[sz]e|handle|set\s+up)\b[^.!?]{0,25}\b(?:fund|funds|wire|bank|ach|swift|money|same-day|international|domestic|outgoing|urgent)?\s?(?:transfer|wire|payment|deposit|remittance)\b[^.!?]{0,40}\b(?:to|into|using|with)\b[^.!?]{0,20}\b(?:bank|account|beneficiary|vendor|payment)\s+(?:account\s+)?(?:details|information|instructions|coordinates)\b[^.!?]{0,15}\b(?:below|attached|following|provided|here|i|given|above)?|)"
-     R"(\b(?:bank|account|wire|payment|beneficiary)\s+(?:account\s+)?(?:details|information|coordinates|instructions)\s+(?:below|attached|as\s+follows|provided|are\s+below|are\s+attached|shortly|once|as\s+soon\s+as|when|right\s+away|after)\b[^.!?]{0,80}\b(?:transfer|wire|payment|remit|pay|confirm\w*|done|ready|available|hear)\b|)"
-     R"(\b(?:i['’]ll|i\s+will|i\s+can|will|let\s+me|shall|can)\s+(?:\w+\s+)?(?:send|forward|provide|give|email)\b[^.!?]{0,15}\b(?:you\s+)?(?:over\s+)?(?:the\s+|with\s+the\s+|you\s+the\s+)?(?:bank|account|wire|payment|beneficiary|payee|transfer|remittance)\s+(?:account\s+)?(?:details|information|info|instructions|coordinates)\b|)"
-     R"(\b(?:künftig|zukünftig|ab\s+sofort)\w*\b[^.!?]{0,40}\b(?:zahlungen|überweis\w+|rechnungen)\b[^.!?]{0,40}\b(?:neue[ns]?|folgende[ns]?|andere[ns]?)\s+(?:konto|bankverbindung|iban)\b|)"
-     R"(\b(?:überweisen|zahlen|leisten|begleichen)\b[^.!?]{0,70}\b(?:neue[ns]?|folgende[ns]?|andere[ns]?)\s+(?:konto|bankverbindung|iban)\b|)"
-     R"(\b(?:effectuer?z?|vire[rz]|verse[rz]|procéde[rz]|paiements?|virements?)\b[^.!?]{0,50}\b(?:nouveau|nouvelle|suivant|autre|ce)\s+(?:compte|rib|iban)\b|)"
-     R"(\b(?:transfi[er]\w+|deposit\w+|envi\w+|realic\w+|pagos?|fa[çc]a|pagamentos?)\b[^.!?]{0,50}\b(?:nueva|siguiente|otra|nova|seguinte|outra)\s+(?:cuenta|conta)\b|)"
-     R"((?:新しい口座|新口座|下記の口座|下記の新しい口座)[^。！？.!?]{0,20}(?:振|送金|支払|お願い)|)"
-     R"((?:下面|以下|新的?)[^。！？.!?]{0,6}(?:账户|帳戶|账号|帳號)[^。！？.!?]{0,15}(?:汇款|匯款|付款|打款|转账|轉帳)|)"
-     R"((?:汇款|匯款|付款|打款|款打|转账|轉帳)[^。！？.!?]{0,10}(?:下面|以下|新的)[^。！？.!?]{0,8}(?:账户|帳戶|账号|帳號)|)"
-     R"((?:새로운|아래의?|변경된)\s?(?:계좌)[^.!?。]{0,8}(?:로|으로)[^.!?。]{0,8}(?:송금|입금|이체))",
+     pattern([] { return std::string_view(
+     R"(\b(?:send|make|direct|redirect|remit|route|re-?route|transfer|wire|pay|forward|deposit|process|issue)\b<30>\b(?:all\s+|any\s+|future\s+|outstanding\s+|upcoming\s+|further\s+|pending\s+|subsequent\s+|this\s+|the\s+|open\s+|remaining\s+)(?:\w+\s+){0,3}(?:payments?|invoices?|remittances?|transfers?|wires?|funds|deposits?|balances?)\b<50>\b(?:new|different|alternative|alternate|another|following|below|updated|attached|other|designated|subsidiary|nominated|corrected|stated)\b<20>\b(?:account|bank|details|instructions|information|beneficiary|iban|coordinates|below)\b|)"
+     R"(\b(?:stop|hold|halt|suspend|do\s+not|don['’]t|cease|refrain\s+from|avoid|no\s+longer|discontinue|disregard|ignore)\b<20>\b(?:send|mak|remit|pay|transfer|process|us|wir|the|any|all|be\s+sent)(?:e|ing|ting)?\b<40>\b(?:payments?|old|previous|usual|former|earlier|existing|current)\b<25>\b(?:account|bank|details|instructions|until)\b|)"
+     R"(\b(?:payments?|transfers?|funds|wires?|remittances?|invoices?|balance|money|deposit)\b<25>\b(?:should|must|will|has|have|needs?|can|is)\s+(?:to\s+)?(?:now\s+|only\s+|henceforth\s+|no\s+longer\s+|be\s+)*(?:be\s+)?(?:go|made|sent|paid|remitted|directed|deposited|credited|transferred|wired)\b<20>\b(?:to|into)\b<20>\b(?:new|different|alternative|another|following|below|updated|our\s+other|subsidiary\w*|escrow|sister\s+company|trust\s+account|factoring|our\s+\w+\s+partner)\b|)"
+     R"(\b(?:pay|payment|transfer|wire|remit|send\s+it|paid)\b<30>\b(?:into|to|in)\b<12>\b(?:our|my|their|a|the|your)\s+(?:new|alternative|subsidiary['’]?s?|other|sister\s+company['’]?s?|corrected|second|foreign)\s+(?:\w+\s+)?(?:account|bank|company)\b|)"
+     R"(\b(?:process|arrange|initiate|make|send|complete|issue|effect|execute|prioriti[sz]e|handle|set\s+up)\b<25>\b(?:fund|funds|wire|bank|ach|swift|money|same-day|international|domestic|outgoing|urgent)?\s?(?:transfer|wire|payment|deposit|remittance)\b<40>\b(?:to|into|using|with)\b<20>\b(?:bank|account|beneficiary|vendor|payment)\s+(?:account\s+)?(?:details|information|instructions|coordinates)\b<15>\b(?:below|attached|following|provided|here|i|given|above)?|)"
+     R"(\b(?:bank|account|wire|payment|beneficiary)\s+(?:account\s+)?(?:details|information|coordinates|instructions)\s+(?:below|attached|as\s+follows|provided|are\s+below|are\s+attached|shortly|once|as\s+soon\s+as|when|right\s+away|after)\b<80>\b(?:transfer|wire|payment|remit|pay|confirm\w*|done|ready|available|hear)\b|)"
+     R"(\b(?:i['’]ll|i\s+will|i\s+can|will|let\s+me|shall|can)\s+(?:\w+\s+)?(?:send|forward|provide|give|email)\b<15>\b(?:you\s+)?(?:over\s+)?(?:the\s+|with\s+the\s+|you\s+the\s+)?(?:bank|account|wire|payment|beneficiary|payee|transfer|remittance)\s+(?:account\s+)?(?:details|information|info|instructions|coordinates)\b|)"
+     R"(\b(?:künftig|zukünftig|ab\s+sofort)\w*\b<40>\b(?:zahlungen|überweis\w+|rechnungen)\b<40>\b(?:neue[ns]?|folgende[ns]?|andere[ns]?)\s+(?:konto|bankverbindung|iban)\b|)"
+     R"(\b(?:überweisen|zahlen|leisten|begleichen)\b<70>\b(?:neue[ns]?|folgende[ns]?|andere[ns]?)\s+(?:konto|bankverbindung|iban)\b|)"
+     R"(\b(?:effectuer?z?|vire[rz]|verse[rz]|procéde[rz]|paiements?|virements?)\b<50>\b(?:nouveau|nouvelle|suivant|autre|ce)\s+(?:compte|rib|iban)\b|)"
+     R"(\b(?:transfi[er]\w+|deposit\w+|envi\w+|realic\w+|pagos?|fa[çc]a|pagamentos?)\b<50>\b(?:nueva|siguiente|otra|nova|seguinte|outra)\s+(?:cuenta|conta)\b|)"
+     R"((?:新しい口座|新口座|下記の口座|下記の新しい口座)<20>(?:振|送金|支払|お願い)|)"
+     R"((?:下面|以下|新的?)<6>(?:账户|帳戶|账号|帳號)<15>(?:汇款|匯款|付款|打款|转账|轉帳)|)"
+     R"((?:汇款|匯款|付款|打款|款打|转账|轉帳)<10>(?:下面|以下|新的)<8>(?:账户|帳戶|账号|帳號)|)"
+     R"((?:새로운|아래의?|변경된)\s?(?:계좌)<8>(?:로|으로)<8>(?:송금|입금|이체))"); }),
      true},
     {"bec-urgent-wire", "Payment redirection", "warn", 45,
      "presses for an urgent payment or transfer",
+     pattern([] { return std::string_view(
      R"(\bprocess\s+(?:the|a|this)\s+payment\s+of\s+\S{1,16}\s+to\b|\binstructions\s+for\s+(?:a|the)\s+(?:wire|bank)\s+transfer\b|\bto\s+be\s+wired\s+by\b|)"
-     R"(\b(?:get|have)\s+(?:it|this|them)\s+paid\b[^.!?]{0,20}\b(?:today|now|asap)\b|\bpay\s+the\s+attached\b[^.!?]{0,20}\b(?:today|now|for\s+me)\b|\bpay\s+(?:this|a)\s+(?:contractor|vendor|supplier|freelancer|consultant)\b[^.!?]{0,20}\btoday\b|)"
+     R"(\b(?:get|have)\s+(?:it|this|them)\s+paid\b<20>\b(?:today|now|asap)\b|\bpay\s+the\s+attached\b<20>\b(?:today|now|for\s+me)\b|\bpay\s+(?:this|a)\s+(?:contractor|vendor|supplier|freelancer|consultant)\b<20>\btoday\b|)"
      R"(\bprocess\s+the\s+attached\s+(?:payment|wire|wiring|transfer)\b|\bget\s+(?:this|it|that)\s+(?:wired|transferred)\b|\bmake\s+an\s+ach\b|\bout\s+in\s+today['’]s\s+(?:batch|run)\b|)"
-     R"(\bwire\s+(?:it|them|this|the\s+\w+)\b[^.!?]{0,30}\b(?:today|this\s+(?:am|morning|afternoon)|now|asap|by\s+\d|to\s+the\s+(?:info|account|details)\s+(?:below|attached))\b|)"
-     R"(\b(?:arrange|make|process|release|settle)\s+(?:the\s+|a\s+|this\s+)?payment\b[^.!?]{0,40}\b(?:by\s+close|today|this\s+morning|immediately|by\s+noon|within\s+\w+\s+hours?)\b|)"
+     R"(\bwire\s+(?:it|them|this|the\s+\w+)\b<30>\b(?:today|this\s+(?:am|morning|afternoon)|now|asap|by\s+\d|to\s+the\s+(?:info|account|details)\s+(?:below|attached))\b|)"
+     R"(\b(?:arrange|make|process|release|settle)\s+(?:the\s+|a\s+|this\s+)?payment\b<40>\b(?:by\s+close|today|this\s+morning|immediately|by\s+noon|within\s+\w+\s+hours?)\b|)"
      R"(\b(?:need|want)\s+[$€£]\s?\d[\d,.]*\s?k?\s+(?:moved|sent|wired|transferred)\b|)"
-     R"(\b(?:send|pay|paid)\b[^.!?]{0,40}\b(?:via|through|by|on)\s+(?:zelle|venmo|cash\s?app)\b|\baccess\s+to\b[^.!?]{0,30}\b(?:zelle|venmo|cash\s?app)\b|)"
+     R"(\b(?:send|pay|paid)\b<40>\b(?:via|through|by|on)\s+(?:zelle|venmo|cash\s?app)\b|\baccess\s+to\b<30>\b(?:zelle|venmo|cash\s?app)\b|)"
      R"(\bwas\s+the\s+(?:wire|transfer)\s+(?:sent|made)\b|\b(?:are|whether)\s+you(?:['’]re|\s+are)?\s+able\s+to\s+make\s+the\s+transfer\b|)"
-     R"(\b(?:must|needs?\s+to|has\s+to)\s+reach\b[^.!?]{0,40}\baccount\b[^.!?]{0,20}\b(?:before|by|today)\b|)"
-     R"(\b(?:need|want|get|have|push|put)\b[^.!?]{0,15}\b(?:that|this|the|a|one)\s+(?:\w+\s+)?(?:transfer|payment|wire)\b[^.!?]{0,20}\b(?:done|out|through|made|sent|released|paid)\b[^.!?]{0,30}\b(?:before|by|today|now|asap|immediately|within|this\s+(?:morning|afternoon))\b|)"
-     R"(\b(?:release|process|make|push\s+through)\b[^.!?]{0,25}\bpayments?\b[^.!?]{0,40}\b(?:as\s+a\s+matter\s+of\s+(?:priority|urgency)|this\s+(?:morning|afternoon)|time[- ]sensitive|before\s+the\s+bank)\b|)"
+     R"(\b(?:must|needs?\s+to|has\s+to)\s+reach\b<40>\baccount\b<20>\b(?:before|by|today)\b|)"
+     R"(\b(?:need|want|get|have|push|put)\b<15>\b(?:that|this|the|a|one)\s+(?:\w+\s+)?(?:transfer|payment|wire)\b<20>\b(?:done|out|through|made|sent|released|paid)\b<30>\b(?:before|by|today|now|asap|immediately|within|this\s+(?:morning|afternoon))\b|)"
+     R"(\b(?:release|process|make|push\s+through)\b<25>\bpayments?\b<40>\b(?:as\s+a\s+matter\s+of\s+(?:priority|urgency)|this\s+(?:morning|afternoon)|time[- ]sensitive|before\s+the\s+bank)\b|)"
      R"(\bmt\s?103\b|\b(?:priority|instant)\s+transfer\b|)"
-     R"(\bcut[- ]?off\s+(?:time\s+)?for\b[^.!?]{0,15}\b(?:chaps|wires?|payments?|transfers?)\b|)"
-     R"(\b(?:must|needs?\s+to|has\s+to)\s+be\s+(?:wired|transferred|remitted)\b[^.!?]{0,40}\b(?:by\s+\d|before|today|within|hours)\b|)"
-     R"(\bnew\s+payee\b[^.!?]{0,30}\b(?:pay|payment)\b|\b(?:pay|payment)\b[^.!?]{0,30}\bnew\s+payee\b|)"
+     R"(\bcut[- ]?off\s+(?:time\s+)?for\b<15>\b(?:chaps|wires?|payments?|transfers?)\b|)"
+     R"(\b(?:must|needs?\s+to|has\s+to)\s+be\s+(?:wired|transferred|remitted)\b<40>\b(?:by\s+\d|before|today|within|hours)\b|)"
+     R"(\bnew\s+payee\b<30>\b(?:pay|payment)\b|\b(?:pay|payment)\b<30>\bnew\s+payee\b|)"
      R"(\b(?:payable|paid)\s+(?:today|immediately)\s+(?:by|via)\s+(?:bank\s+)?(?:wire|transfer|ach)\b|)"
-     R"(\b(?:urgent|urgently|immediate|immediately|asap|a\.s\.a\.p|as\s+soon\s+as\s+possible|right\s+away|today|this\s+morning|this\s+afternoon|same[- ]day|promptly|prioriti[sz]e|prioriti[sz]ing|expedite|before\s+(?:close|the\s+close|end|the\s+end|noon|cob|cut-?off|the\s+cut-?off)|by\s+(?:close|the\s+end|\d+\s?pm)|end\s+of\s+day|eod|cob)\b[^.!?]{0,60}\b(?:the\s+wire|a\s+wire|this\s+wire|wire\s+(?:transfer|payment|it|the|out)|be\s+wired|by\s+wire|fund\s+transfer|funds\s+transfer|bank\s+transfer|wire\s+transfer|ach\s+payment|ach\s+transfer|by\s+ach|swift\s+copy|swift\s+transfer|faster\s+payment|domestic\s+transfer|international\s+transfer|zelle|outgoing\s+(?:payment|transfer)|vendor\s+payment|payment\s+(?:to|for)\s+(?:a|the|our|new)\s+(?:new\s+)?(?:vendor|supplier|contractor|consultant|attorney))\b|)"
-     R"(\b(?:the\s+wire|a\s+wire|this\s+wire|wire\s+payment|fund\s+transfer|funds\s+transfer|bank\s+transfer|wire\s+transfer|ach\s+payment|ach\s+transfer|faster\s+payment|zelle\s+payment|outgoing\s+(?:payment|transfer)|vendor\s+payment|transfer\s+of\s+funds|payments?\s+(?:to|for)\s+(?:a|the|our|new|my)\s+(?:new\s+)?(?:vendor|supplier|contractor|consultant|attorney)|this\s+transfer)\b[^.!?]{0,60}\b(?:urgent|urgently|immediately|asap|as\s+soon\s+as\s+possible|right\s+away|today|this\s+morning|this\s+afternoon|same[- ]day|quickly|priority|prioriti[sz]ed?|before\s+(?:close|the\s+close|end|noon|cob|cut-?off|the\s+cut-?off)|end\s+of\s+day|eod|cob)\b|)"
-     R"(\b(?:process|make|send|set\s+up|initiate|handle|arrange|release|execute|prioriti[sz]e|take\s+care\s+of|effect|push\s+through|do|complete)\w*\b[^.!?]{0,12}\b(?:a|an|the|this|out|processing|two|another)\b[^.!?]{0,8}\b(?:urgent\s+|same[- ]day\s+|immediate\s+|quick\s+|domestic\s+|international\s+|pending\s+|outstanding\s+|outgoing\s+|new\s+)*(?:wire|fund\s+transfer|funds\s+transfer|wire\s+transfer|bank\s+transfer|transfer\s+of\s+funds|ach\s+transfer|ach\s+payment|zelle|zelle\s+payment|swift\s+transfer|faster\s+payment|domestic\s+transfer|international\s+transfer|outgoing\s+(?:payment|transfer|bank\s+transfer|wire))\b|)"
+     R"(\b(?:urgent|urgently|immediate|immediately|asap|a\.s\.a\.p|as\s+soon\s+as\s+possible|right\s+away|today|this\s+morning|this\s+afternoon|same[- ]day|promptly|prioriti[sz]e|prioriti[sz]ing|expedite|before\s+(?:close|the\s+close|end|the\s+end|noon|cob|cut-?off|the\s+cut-?off)|by\s+(?:close|the\s+end|\d+\s?pm)|end\s+of\s+day|eod|cob)\b<60>\b(?:the\s+wire|a\s+wire|this\s+wire|wire\s+(?:transfer|payment|it|the|out)|be\s+wired|by\s+wire|fund\s+transfer|funds\s+transfer|bank\s+transfer|wire\s+transfer|ach\s+payment|ach\s+transfer|by\s+ach|swift\s+copy|swift\s+transfer|faster\s+payment|domestic\s+transfer|international\s+transfer|zelle|outgoing\s+(?:payment|transfer)|vendor\s+payment|payment\s+(?:to|for)\s+(?:a|the|our|new)\s+(?:new\s+)?(?:vendor|supplier|contractor|consultant|attorney))\b|)"
+     R"(\b(?:the\s+wire|a\s+wire|this\s+wire|wire\s+payment|fund\s+transfer|funds\s+transfer|bank\s+transfer|wire\s+transfer|ach\s+payment|ach\s+transfer|faster\s+payment|zelle\s+payment|outgoing\s+(?:payment|transfer)|vendor\s+payment|transfer\s+of\s+funds|payments?\s+(?:to|for)\s+(?:a|the|our|new|my)\s+(?:new\s+)?(?:vendor|supplier|contractor|consultant|attorney)|this\s+transfer)\b<60>\b(?:urgent|urgently|immediately|asap|as\s+soon\s+as\s+possible|right\s+away|today|this\s+morning|this\s+afternoon|same[- ]day|quickly|priority|prioriti[sz]ed?|before\s+(?:close|the\s+close|end|noon|cob|cut-?off|the\s+cut-?off)|end\s+of\s+day|eod|cob)\b|)"
+     R"(\b(?:process|make|send|set\s+up|initiate|handle|arrange|release|execute|prioriti[sz]e|take\s+care\s+of|effect|push\s+through|do|complete)\w*\b<12>\b(?:a|an|the|this|out|processing|two|another)\b<8>\b(?:urgent\s+|same[- ]day\s+|immediate\s+|quick\s+|domestic\s+|international\s+|pending\s+|outstanding\s+|outgoing\s+|new\s+)*(?:wire|fund\s+transfer|funds\s+transfer|wire\s+transfer|bank\s+transfer|transfer\s+of\s+funds|ach\s+transfer|ach\s+payment|zelle|zelle\s+payment|swift\s+transfer|faster\s+payment|domestic\s+transfer|international\s+transfer|outgoing\s+(?:payment|transfer|bank\s+transfer|wire))\b|)"
      R"(\b(?:urgent|immediate|confidential|same[- ]day)\s+(?:\w+\s+)?(?:payment|transfer|wire|remittance)\b|)"
-     R"(\b(?:remit|transfer|wire|pay)\b[^.!?]{0,40}\b(?:today|immediately|asap|right\s+away|same[- ]day)\b[^.!?]{0,40}\b(?:by\s+(?:ach|wire|swift|bank\s+transfer)|swift|proof\s+of\s+payment|confirmation|slip|receipt)\b|)"
-     R"(\b(?:payment|transfer|invoice|balance|deposit)\b[^.!?]{0,30}\b(?:must|has\s+to|needs?\s+to|should|to)\s+(?:be\s+)?(?:go\s+out|sent|made|paid|settled|done|out|processed|completed|released|cleared)\b[^.!?]{0,15}\b(?:today|this\s+morning|this\s+afternoon|asap|before\s+(?:noon|close|the\s+close|end|cob)|by\s+(?:noon|close|the\s+end|\d+\s?pm)|immediately|right\s+away|within\s+the\s+hour)\b|)"
-     R"(\b(?:send|email|forward|let\s+me\s+have|give|get)\b[^.!?]{0,12}\b(?:me\s+|us\s+)?(?:the\s+|a\s+)?(?:swift\s+copy|proof\s+of\s+payment|payment\s+(?:confirmation|receipt|slip)|confirmation\s+(?:page|slip|of\s+(?:the\s+)?(?:payment|transfer|wire))|wire\s+confirmation|remittance\s+(?:slip|copy)|transfer\s+(?:slip|confirmation|receipt)|the\s+swift)\b|)"
-     R"(\b(?:dringend\w*|sofort|umgehend|heute\s+noch|unverzüglich|eilig\w*|eil)\b[^.!?]{0,40}\b(?:überweis\w+|auslandsüberweisung)\b|)"
-     R"(\b(?:überweis\w+|auslandszahlung)\b[^.!?]{0,40}\b(?:dringend|sofort|umgehend|heute\s+noch|unverzüglich)\b|)"
-     R"(\b(?:virement|paiement|transfert)\b[^.!?]{0,30}\b(?:urgent\w*|immédiat\w*|aujourd['’]hui|dans\s+la\s+journée|rapidement|au\s+plus\s+vite)\b|)"
-     R"(\b(?:transferencia|transfer[êe]ncia|pix|pago|pagamento)\b[^.!?]{0,30}\b(?:urgente\w*|inmediat\w+|imediat\w+|cuanto\s+antes|o\s+quanto\s+antes)\b|)"
-     R"(\b(?:spoed\w*|dringende?|vandaag\s+nog)\b[^.!?]{0,30}\b(?:overboeking|betaling|overmaken)\b|)"
-     R"((?:紧急|緊急|马上|馬上|立即|尽快|盡快)[^。！？.!?]{0,10}(?:汇款|匯款|转账|轉帳|转帐|付款|打款)|)"
-     R"((?:至急|緊急|本日中)[^。！？.!?]{0,15}(?:送金|振込|振り込み|支払)|)"
-     R"((?:긴급|급히|지금\s+바로|당장)[^.!?。]{0,12}(?:송금|이체|입금))",
+     R"(\b(?:remit|transfer|wire|pay)\b<40>\b(?:today|immediately|asap|right\s+away|same[- ]day)\b<40>\b(?:by\s+(?:ach|wire|swift|bank\s+transfer)|swift|proof\s+of\s+payment|confirmation|slip|receipt)\b|)"
+     R"(\b(?:payment|transfer|invoice|balance|deposit)\b<30>\b(?:must|has\s+to|needs?\s+to|should|to)\s+(?:be\s+)?(?:go\s+out|sent|made|paid|settled|done|out|processed|completed|released|cleared)\b<15>\b(?:today|this\s+morning|this\s+afternoon|asap|before\s+(?:noon|close|the\s+close|end|cob)|by\s+(?:noon|close|the\s+end|\d+\s?pm)|immediately|right\s+away|within\s+the\s+hour)\b|)"
+     R"(\b(?:send|email|forward|let\s+me\s+have|give|get)\b<12>\b(?:me\s+|us\s+)?(?:the\s+|a\s+)?(?:swift\s+copy|proof\s+of\s+payment|payment\s+(?:confirmation|receipt|slip)|confirmation\s+(?:page|slip|of\s+(?:the\s+)?(?:payment|transfer|wire))|wire\s+confirmation|remittance\s+(?:slip|copy)|transfer\s+(?:slip|confirmation|receipt)|the\s+swift)\b|)"
+     R"(\b(?:dringend\w*|sofort|umgehend|heute\s+noch|unverzüglich|eilig\w*|eil)\b<40>\b(?:überweis\w+|auslandsüberweisung)\b|)"
+     R"(\b(?:überweis\w+|auslandszahlung)\b<40>\b(?:dringend|sofort|umgehend|heute\s+noch|unverzüglich)\b|)"
+     R"(\b(?:virement|paiement|transfert)\b<30>\b(?:urgent\w*|immédiat\w*|aujourd['’]hui|dans\s+la\s+journée|rapidement|au\s+plus\s+vite)\b|)"
+     R"(\b(?:transferencia|transfer[êe]ncia|pix|pago|pagamento)\b<30>\b(?:urgente\w*|inmediat\w+|imediat\w+|cuanto\s+antes|o\s+quanto\s+antes)\b|)"
+     R"(\b(?:spoed\w*|dringende?|vandaag\s+nog)\b<30>\b(?:overboeking|betaling|overmaken)\b|)"
+     R"((?:紧急|緊急|马上|馬上|立即|尽快|盡快)<10>(?:汇款|匯款|转账|轉帳|转帐|付款|打款)|)"
+     R"((?:至急|緊急|本日中)<15>(?:送金|振込|振り込み|支払)|)"
+     R"((?:긴급|급히|지금\s+바로|당장)<12>(?:송금|이체|입금))"); }),
      true},
     {"bec-invoice-attached", "Payment redirection", "warn", 15,
      "sends an invoice or a payment document to open",
-     R"(\b(?:attached|enclosed|find|attaching|herewith|see|below|view|open|download|click)\b[^.!?]{0,40}\b(?:invoices?|bill|purchase\s+order|remittance(?:\s+advice|\s+copy)?|proforma|payment\s+(?:advice|slip|copy|receipt|confirmation|details)|statement\s+of\s+account|swift\s+copy|quotation)\b|)"
-     R"(\b(?:invoices?|remittance(?:\s+advice|\s+copy)?|proforma|purchase\s+order|payment\s+(?:advice|slip|copy|receipt|confirmation)|statement\s+of\s+account|swift\s+copy)\b[^.!?]{0,30}\b(?:attached|enclosed|is\s+ready|below|for\s+your\s+(?:review|records|reference|attention)|for\s+payment|is\s+available|herewith)\b|)"
-     R"(\b(?:rechnung|mahnung|zahlungsbeleg|zahlungsavis)\b[^.!?]{0,30}\b(?:anhang|angehängt|beigefügt|anbei|anlage)\b|)"
-     R"(\b(?:anbei|anhang|anlage|beigefügt)\b[^.!?]{0,40}\b(?:rechnung|mahnung|zahlungsbeleg)\b|)"
-     R"(\b(?:facture|avis\s+de\s+paiement|bon\s+de\s+commande)\b[^.!?]{0,30}\b(?:pièce\s+jointe|ci-jointe?|jointe)\b|)"
-     R"(\b(?:factura|nota\s+fiscal|fatura|boleto|comprovante|comprobante)\b[^.!?]{0,40}\b(?:adjunt[oa]|anex[oa]|em\s+anexo|segunda\s+via|vencimento|dispon[íi]vel)\b|)"
-     R"(\b(?:segue|adjunto|anexo|veja|baixe)\b[^.!?]{0,30}\b(?:factura|nota\s+fiscal|fatura|boleto|comprovante|comprobante)\b|)"
-     R"(\bfactuur\b[^.!?]{0,30}\b(?:bijlage|bijgevoegd|openstaande)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:attached|enclosed|find|attaching|herewith|see|below|view|open|download|click)\b<40>\b(?:invoices?|bill|purchase\s+order|remittance(?:\s+advice|\s+copy)?|proforma|payment\s+(?:advice|slip|copy|receipt|confirmation|details)|statement\s+of\s+account|swift\s+copy|quotation)\b|)"
+     R"(\b(?:invoices?|remittance(?:\s+advice|\s+copy)?|proforma|purchase\s+order|payment\s+(?:advice|slip|copy|receipt|confirmation)|statement\s+of\s+account|swift\s+copy)\b<30>\b(?:attached|enclosed|is\s+ready|below|for\s+your\s+(?:review|records|reference|attention)|for\s+payment|is\s+available|herewith)\b|)"
+     R"(\b(?:rechnung|mahnung|zahlungsbeleg|zahlungsavis)\b<30>\b(?:anhang|angehängt|beigefügt|anbei|anlage)\b|)"
+     R"(\b(?:anbei|anhang|anlage|beigefügt)\b<40>\b(?:rechnung|mahnung|zahlungsbeleg)\b|)"
+     R"(\b(?:facture|avis\s+de\s+paiement|bon\s+de\s+commande)\b<30>\b(?:pièce\s+jointe|ci-jointe?|jointe)\b|)"
+     R"(\b(?:factura|nota\s+fiscal|fatura|boleto|comprovante|comprobante)\b<40>\b(?:adjunt[oa]|anex[oa]|em\s+anexo|segunda\s+via|vencimento|dispon[íi]vel)\b|)"
+     R"(\b(?:segue|adjunto|anexo|veja|baixe)\b<30>\b(?:factura|nota\s+fiscal|fatura|boleto|comprovante|comprobante)\b|)"
+     R"(\bfactuur\b<30>\b(?:bijlage|bijgevoegd|openstaande)\b)"); }),
      true},
     {"bec-overdue", "Payment redirection", "warn", 20,
      "says a payment is overdue or a debt is open",
+     pattern([] { return std::string_view(
      R"(\bunable\s+to\s+(?:charge|bill|renew|process)\s+your\b|)"
      R"(\b(?:payment\s+(?:failed|declined|method\s+(?:isn['’]t|is\s+not|has|was)\s+(?:\w+\s+)?(?:working|expired|declined|rejected))|problem\s+with\s+your\s+(?:\w+\s+)?(?:payment|billing)|trouble\s+with\s+your\s+(?:\w+\s+)?(?:payment|billing)|attempted\s+to\s+charge)\b|)"
-     R"(\b(?:invoice|payment|balance|bill|account|amount|fee|toll|fine|debt|fees|invoices|payments|subscription|tax|charge)s?\b[^.!?]{0,25}\b(?:is|are|was|were|remains?|still|now|being|has\s+been|have\s+been|has\s+become|seems|appears)\b[^.!?]{0,15}\b(?:overdue|past\s+due|outstanding|unpaid|delinquent|in\s+arrears|due\s+now|not\s+(?:yet\s+)?been\s+(?:paid|settled|received))\b|)"
-     R"(\b(?:overdue|past\s+due|outstanding|unpaid|delinquent)\b[^.!?]{0,12}\b(?:invoices?|payments?|balances?|bills?|accounts?|amounts?|fees?|tolls?|fines?|debts?|tax(?:es)?|charges?|dues)\b|)"
-     R"(\b(?:settle|pay|clear|remit|resolve)\b[^.!?]{0,20}\b(?:outstanding|overdue|unpaid|remaining|past[- ]due|open|pending)\b[^.!?]{0,12}\b(?:balance|amount|invoices?|bills?|payments?|fees?|charges?|debts?|tolls?)\b|)"
-     R"(\b(?:payment|transaction|charge|billing|direct\s+debit|card)\b[^.!?]{0,20}\b(?:was|has\s+been|were|could\s+not\s+be|couldn['’]t\s+be|has|is)\b[^.!?]{0,10}\b(?:declined|rejected|unsuccessful|failed|processed|returned|refused)\b[^.!?]{0,60}\b(?:update|retry|again|click|payment|method|billing|avoid|verify|card)\b|)"
+     R"(\b(?:invoice|payment|balance|bill|account|amount|fee|toll|fine|debt|fees|invoices|payments|subscription|tax|charge)s?\b<25>\b(?:is|are|was|were|remains?|still|now|being|has\s+been|have\s+been|has\s+become|seems|appears)\b<15>\b(?:overdue|past\s+due|outstanding|unpaid|delinquent|in\s+arrears|due\s+now|not\s+(?:yet\s+)?been\s+(?:paid|settled|received))\b|)"
+     R"(\b(?:overdue|past\s+due|outstanding|unpaid|delinquent)\b<12>\b(?:invoices?|payments?|balances?|bills?|accounts?|amounts?|fees?|tolls?|fines?|debts?|tax(?:es)?|charges?|dues)\b|)"
+     R"(\b(?:settle|pay|clear|remit|resolve)\b<20>\b(?:outstanding|overdue|unpaid|remaining|past[- ]due|open|pending)\b<12>\b(?:balance|amount|invoices?|bills?|payments?|fees?|charges?|debts?|tolls?)\b|)"
+     R"(\b(?:payment|transaction|charge|billing|direct\s+debit|card)\b<20>\b(?:was|has\s+been|were|could\s+not\s+be|couldn['’]t\s+be|has|is)\b<10>\b(?:declined|rejected|unsuccessful|failed|processed|returned|refused)\b<60>\b(?:update|retry|again|click|payment|method|billing|avoid|verify|card)\b|)"
      R"(\b(?:offene[nrs]?|überfällige[nrs]?|ausstehende[nrs]?|unbezahlte[nrs]?|fällige[nrs]?)\s+(?:rechnung\w*|zahlung\w*|betrag\w*|forderung\w*|gebühr\w*|saldo|beitr\w+)\b|)"
-     R"(\b(?:impayée?s?|en\s+retard|en\s+souffrance|non\s+réglée?s?)\b[^.!?]{0,20}\b(?:factures?|paiements?|amendes?|montants?)\b|)"
-     R"(\b(?:factures?|paiements?|amendes?)\b[^.!?]{0,15}\b(?:impayée?s?|en\s+retard|en\s+souffrance|non\s+réglée?s?|en\s+attente)\b|)"
-     R"(\b(?:factura|pago|deuda|multa|saldo)s?\b[^.!?]{0,20}\b(?:vencid[oa]s?|pendientes?|impagad[oa]s?|atrasad[oa]s?)\b|)"
-     R"(\b(?:fatura|boleto|conta|pagamento|d[íi]vida|d[ée]bito|multa|ped[áa]gio|parcela|tributo|imposto|passage[mn]s?)s?\b[^.!?]{0,20}\b(?:vencid[oa]s?|pendentes?|atrasad[oa]s?|em\s+(?:aberto|atraso)|n[ãa]o\s+pag[oa]s?|vence)\b|)"
-     R"(\b(?:openstaande?|onbetaalde|achterstallige)\b[^.!?]{0,12}\b(?:rekening\w*|factu\w+|bedrag|betaling\w*|boete\w*|schuld)\b)",
+     R"(\b(?:impayée?s?|en\s+retard|en\s+souffrance|non\s+réglée?s?)\b<20>\b(?:factures?|paiements?|amendes?|montants?)\b|)"
+     R"(\b(?:factures?|paiements?|amendes?)\b<15>\b(?:impayée?s?|en\s+retard|en\s+souffrance|non\s+réglée?s?|en\s+attente)\b|)"
+     R"(\b(?:factura|pago|deuda|multa|saldo)s?\b<20>\b(?:vencid[oa]s?|pendientes?|impagad[oa]s?|atrasad[oa]s?)\b|)"
+     R"(\b(?:fatura|boleto|conta|pagamento|d[íi]vida|d[ée]bito|multa|ped[áa]gio|parcela|tributo|imposto|passage[mn]s?)s?\b<20>\b(?:vencid[oa]s?|pendentes?|atrasad[oa]s?|em\s+(?:aberto|atraso)|n[ãa]o\s+pag[oa]s?|vence)\b|)"
+     R"(\b(?:openstaande?|onbetaalde|achterstallige)\b<12>\b(?:rekening\w*|factu\w+|bedrag|betaling\w*|boete\w*|schuld)\b)"); }),
      true},
     {"bec-ceo-request", "Payment redirection", "warn", 35,
      "is a superior's request for a discreet task or payment, the opening of executive impersonation",
+     pattern([] { return std::string_view(
      R"(\bforward\s+(?:me\s+)?the\s+(?:receipt|confirmation)\b|)"
      R"(\b(?:e-?mail|send)\s+me\s+the\s+(?:\w+\s+)?(?:confirmation|receipt|transfer\s+slip)\b|\bif\s+i\s+send\s+(?:you\s+)?the\s+(?:bank\s+)?details\b|)"
-     R"(\bwhat(?:['’]s|\s+is|\s+do\s+you)\s+need(?:ed)?\s+to\s+(?:make|send|set\s+up|process)\b[^.!?]{0,20}\b(?:transfer|wire|payment)\b|)"
-     R"(\bage?ing\s+(?:report|summary)\b[^.!?]{0,80}\b(?:contacts?|e-?mails?)\b|)"
-     R"(\b(?:send|give|text|share|like|reply\s+with|let\s+me\s+have)\b[^.!?]{0,20}\b(?:your|ur|the|a)\s+(?:personal\s+|direct\s+|best\s+)?(?:cell|mobile|whatsapp|personal\s+phone)\s*(?:phone\s+)?(?:number|no|#)?\b|)"
+     R"(\bwhat(?:['’]s|\s+is|\s+do\s+you)\s+need(?:ed)?\s+to\s+(?:make|send|set\s+up|process)\b<20>\b(?:transfer|wire|payment)\b|)"
+     R"(\bage?ing\s+(?:report|summary)\b<80>\b(?:contacts?|e-?mails?)\b|)"
+     R"(\b(?:send|give|text|share|like|reply\s+with|let\s+me\s+have)\b<20>\b(?:your|ur|the|a)\s+(?:personal\s+|direct\s+|best\s+)?(?:cell|mobile|whatsapp|personal\s+phone)\s*(?:phone\s+)?(?:number|no|#)?\b|)"
      R"(\btask\s+(?:that\s+)?(?:i|we)\s+(?:need|want)\s+you\b|\berrand\s+run\b|)"
-     R"(\b(?:can|could)\s+(?:you|we)\s+(?:make|do|set\s+up|arrange|send)\s+(?:a|an|the)\s+(?:\w+\s+){0,2}(?:payment|transfer|wire)\b[^.!?]{0,30}\b(?:today|now|asap|this\s+(?:morning|afternoon))\b|)"
-     R"(\b(?:i['’]ll|i\s+will|i\s+can)\s+(?:give|forward|send|paste|ping)\b[^.!?]{0,20}\b(?:the|you|her|his|their)\s+(?:\w+\s+)?(?:bank|account|iban|coordinates|payment|wire|wiring)\b|\bif\s+i\s+(?:forward|send)\s+(?:you\s+)?the\s+(?:iban|details)\b|\baccount\s+details\s+to\s+follow\b|)"
-     R"(\b(?:w-?2s?|p60s?)\b[^.!?]{0,60}\b(?:all|every\w*|employees?|staff|pdf)\b|\b(?:all|every\w*|employees?|staff)\b[^.!?]{0,40}\b(?:w-?2s?|p60s?)\b|)"
-     R"(\blist\s+of\s+(?:all\s+)?(?:our\s+|the\s+)?(?:employees|staff|vendors|suppliers|customers)\b[^.!?]{0,60}\b(?:e-?mails?|addresses|salary|social|birth|amounts?|phone)\b|\bstaff\s+list\s+with\b|)"
-     R"(\bage?ing\s+report\b[^.!?]{0,60}\b(?:e-?mails?|contacts?)\b|\bcode\s+to\s+(?:misc\w*|admin)\b|)"
-     R"(\b(?:send|e-?mail|forward|share|reply\s+with|let\s+me\s+have)\b[^.!?]{0,10}\b(?:the|a)\s+(?:\w+\s+)?(?:confirmation|slip|screenshot|proof)(?:\s+(?:slip|page|of\s+payment))?\b[^.!?]{0,15}\b(?:once|when|as\s+soon\s+as|after|by\s+return)\b|)"
-     R"(\b(?:get|want|need|send)\b[^.!?]{0,12}\b(?:a|one)\s+(?:\w+\s+)?(?:wire|transfer|payment)\s+(?:out|done|made|sent)\b|)"
-     R"(\b(?:daily\s+)?limit\s+(?:on|for|of)\b[^.!?]{0,20}\b(?:online\s+banking|wires?|transfers?)\b|\bcash\s+position\b[^.!?]{0,60}\b(?:transfer|payments?|accounts)\b|)"
+     R"(\b(?:can|could)\s+(?:you|we)\s+(?:make|do|set\s+up|arrange|send)\s+(?:a|an|the)\s+(?:\w+\s+){0,2}(?:payment|transfer|wire)\b<30>\b(?:today|now|asap|this\s+(?:morning|afternoon))\b|)"
+     R"(\b(?:i['’]ll|i\s+will|i\s+can)\s+(?:give|forward|send|paste|ping)\b<20>\b(?:the|you|her|his|their)\s+(?:\w+\s+)?(?:bank|account|iban|coordinates|payment|wire|wiring)\b|\bif\s+i\s+(?:forward|send)\s+(?:you\s+)?the\s+(?:iban|details)\b|\baccount\s+details\s+to\s+follow\b|)"
+     R"(\b(?:w-?2s?|p60s?)\b<60>\b(?:all|every\w*|employees?|staff|pdf)\b|\b(?:all|every\w*|employees?|staff)\b<40>\b(?:w-?2s?|p60s?)\b|)"
+     R"(\blist\s+of\s+(?:all\s+)?(?:our\s+|the\s+)?(?:employees|staff|vendors|suppliers|customers)\b<60>\b(?:e-?mails?|addresses|salary|social|birth|amounts?|phone)\b|\bstaff\s+list\s+with\b|)"
+     R"(\bage?ing\s+report\b<60>\b(?:e-?mails?|contacts?)\b|\bcode\s+to\s+(?:misc\w*|admin)\b|)"
+     R"(\b(?:send|e-?mail|forward|share|reply\s+with|let\s+me\s+have)\b<10>\b(?:the|a)\s+(?:\w+\s+)?(?:confirmation|slip|screenshot|proof)(?:\s+(?:slip|page|of\s+payment))?\b<15>\b(?:once|when|as\s+soon\s+as|after|by\s+return)\b|)"
+     R"(\b(?:get|want|need|send)\b<12>\b(?:a|one)\s+(?:\w+\s+)?(?:wire|transfer|payment)\s+(?:out|done|made|sent)\b|)"
+     R"(\b(?:daily\s+)?limit\s+(?:on|for|of)\b<20>\b(?:online\s+banking|wires?|transfers?)\b|\bcash\s+position\b<60>\b(?:transfer|payments?|accounts)\b|)"
      R"(\b(?:code|charge|book)\s+(?:it|this)\s+(?:to|under)\b|\bbooked\s+under\b|)"
      R"(\b(?:invoice|inv|paperwork|supporting\s+documents?|documentation|backup)\s+(?:will\s+|to\s+)follow\b|\bi(?:['’]ll|\s+will)\s+(?:do|send|sort)\s+the\s+(?:paperwork|supporting\s+documents?|invoice)\s+(?:later|tomorrow|on\s+\w+day)\b|)"
-     R"(\b(?:send|e-?mail|need|forward|provide)\b[^.!?]{0,40}\b(?:list|copy|register|report|details|records)\b[^.!?]{0,20}\b(?:all\s+(?:our\s+|the\s+)?(?:employees|staff)|employees?\s+with|payroll|overdue\s+customers|customers['’]?\s+overdue)\b|)"
+     R"(\b(?:send|e-?mail|need|forward|provide)\b<40>\b(?:list|copy|register|report|details|records)\b<20>\b(?:all\s+(?:our\s+|the\s+)?(?:employees|staff)|employees?\s+with|payroll|overdue\s+customers|customers['’]?\s+overdue)\b|)"
      R"(\bcould\s+you\s+(?:release|approve)\s+(?:payments?|a\s+wire|by\s+yourself)\b|\bable\s+to\s+(?:release|approve)\s+(?:payments?|by\s+yourself|wires?)\b|)"
      R"(\b(?:add|adding)\s+(?:this\s+|a\s+)?new\s+payee\b|)"
-     R"(\b(?:i|we)\s+(?:need|want|would\s+like|['’]d\s+like|require|am\s+counting\s+on)\b[^.!?]{0,8}\byou\s+to\b[^.!?]{0,30}\b(?:handle|take\s+care\s+of|complete|carry\s+out|run|do|process|execute|make|send|set\s+up|initiate|arrange|pay|purchase)\b[^.!?]{0,25}(?:\b(?:task|errand|assignment|transaction|payments?|transfers?|purchase|wire|new\s+payee|gift\s+cards?|out\s+two)|[$€£]\s?\d)\b|)"
-     R"(\b(?:handle|take\s+care\s+of|complete|carry\s+out|run|attend\s+to|assist\s+(?:me\s+)?(?:with|in|on)|help\s+(?:me\s+)?(?:with|out\s+with)|do|execute)\b[^.!?]{0,15}\b(?:a|an|this|some|one)\b[^.!?]{0,8}\b(?:quick\s+|urgent\s+|small\s+|confidential\s+|personal\s+|discreet\s+|brief\s+|little\s+|sensitive\s+){1,3}(?:task|errand|assignment|matter|favou?r|something|transaction|purchase|payment)\b|)"
+     R"(\b(?:i|we)\s+(?:need|want|would\s+like|['’]d\s+like|require|am\s+counting\s+on)\b<8>\byou\s+to\b<30>\b(?:handle|take\s+care\s+of|complete|carry\s+out|run|do|process|execute|make|send|set\s+up|initiate|arrange|pay|purchase)\b<25>(?:\b(?:task|errand|assignment|transaction|payments?|transfers?|purchase|wire|new\s+payee|gift\s+cards?|out\s+two)|[$€£]\s?\d)\b|)"
+     R"(\b(?:handle|take\s+care\s+of|complete|carry\s+out|run|attend\s+to|assist\s+(?:me\s+)?(?:with|in|on)|help\s+(?:me\s+)?(?:with|out\s+with)|do|execute)\b<15>\b(?:a|an|this|some|one)\b<8>\b(?:quick\s+|urgent\s+|small\s+|confidential\s+|personal\s+|discreet\s+|brief\s+|little\s+|sensitive\s+){1,3}(?:task|errand|assignment|matter|favou?r|something|transaction|purchase|payment)\b|)"
      R"(\b(?:urgent|confidential|personal|discreet|time[- ]sensitive|quick)\s+(?:task|errand|assignment)\b|)"
-     R"(\brun\s+an\s+errand\b[^.!?]{0,30}\b(?:for\s+me|quick\w*|today|now)\b|)"
-     R"(\b(?:can|could|would|will|kindly|please)\b[^.!?]{0,15}\b(?:you\s+)?(?:please\s+|kindly\s+)?(?:be\s+able\s+to\s+)?(?:prioriti[sz]e|process|make|initiate|arrange|set\s+up|do|push|execute|complete|send|get|handle|assist\s+(?:me\s+)?with)\b[^.!?]{0,20}\b(?:the\s+|a\s+|an\s+|this\s+|out\s+)?(?:wire|wire\s+transfer|fund\s+transfer|funds\s+transfer|bank\s+transfer|same[- ]day\s+payment|urgent\s+payment|payment\s+out|payment\s+to\s+(?:a|the)\s+vendor|ach|zelle|faster\s+payment|international\s+wire|international\s+transfer|domestic\s+transfer|outgoing\s+(?:payment|transfer)|transfer\s+to)\b|)"
-     R"(\b(?:what\s+is|what['’]s|tell\s+me|send\s+me|confirm|check|let\s+me\s+know)\b[^.!?]{0,15}\b(?:our\s+|the\s+)(?:current\s+|available\s+|company\s+|account\s+)*(?:account\s+)?balances?\b[^.!?]{0,30}\b(?:account|company|bank|today|now|right\s+away|can\s+we|whether|as\s+of|available|and)\b|)"
-     R"(\b(?:daily|transfer|wire|payment)\s+(?:transfer\s+|payment\s+|wire\s+)?limit\b[^.!?]{0,40}\b(?:company|account|transfers?|today|bank)\b|)"
-     R"(\b(?:what\s+(?:details|information)\s+do\s+you\s+need|which\s+details\s+do\s+you\s+need|let\s+me\s+know\s+what\s+(?:you|details|information))\b[^.!?]{0,30}\b(?:payment|transfer|wire|set\s+up|process|from\s+me|need)\b|)"
-     R"(\b(?:send|give|text|drop|share|reply\s+with|forward|provide|need|confirm)\b[^.!?]{0,20}\b(?:me\s+)?(?:your|ur)\s+(?:\w+\s+){0,2}(?:cell\s?phone|mobile|cell|whats\s?app|personal|phone|telephone)(?:\s+phone)?(?:\s+contact)?\s?(?:number|no|line|#)?\b[^.!?]{0,60}\b(?:task|urgent|assist|handle|text\s+you|quick|immediately|asap|right\s+away|instructions|errand)\b|)"
-     R"(\b(?:ceo|cfo|managing\s+director|chief\s+executive|president|chairman|director)\b[^.!?]{0,40}\b(?:asked\s+me|instructed|wants|requires|approved|authori[sz]ed)\b[^.!?]{0,40}\b(?:payment|transfer|wire|gift)\b|)"
-     R"(\b(?:w-?2s?|w-?2\s+forms?|p60s?|payslips|tax\s+statements)\b[^.!?]{0,30}\b(?:of|for)\s+(?:all|every|our)\b[^.!?]{0,20}\b(?:employees?|staff|personnel)\b|)"
-     R"(\b(?:aging|ageing)\s+report\b[^.!?]{0,80}\b(?:contact|e-?mail|customers?|outstanding)\b|)"
-     R"(\b(?:ich\s+brauche|ich\s+benötige|kannst\s+du|können\s+sie)\b[^.!?]{0,50}\b(?:dringende[nr]?|vertrauliche[nr]?|kurze[nr]?|wichtige[nr]?)\s+(?:aufgabe|zahlung|transaktion|überweisung|sache)\b|)"
-     R"(\b(?:j['’]ai\s+besoin|pouvez-vous|peux-tu|il\s+faut)\b[^.!?]{0,50}\b(?:tâche|opération|transaction|mission|virement)\s+(?:urgente?|confidentielle?|immédiat)\b|)"
-     R"(\b(?:necesito|preciso|puedes?|pode)\b[^.!?]{0,50}\b(?:tarea|tarefa|operaci[óo]n|opera[çc][ãa]o|gesti[óo]n|transacci[óo]n|transfer[êe]ncia|transferencia|pago|pagamento)\s+(?:urgente|confidencial|r[áa]pida|inmediat[oa])\b|)"
-     R"((?:开会|開會)[^。！？.!?]{0,15}(?:不方便|不能)[^。！？.!?]{0,6}(?:接电话|接電話|通话)|)"
-     R"((?:查一下|查询|告诉我|告訴我)[^。！？.!?]{0,10}(?:账户|帳戶|公司)[^。！？.!?]{0,6}(?:余额|餘額))",
+     R"(\brun\s+an\s+errand\b<30>\b(?:for\s+me|quick\w*|today|now)\b|)"
+     R"(\b(?:can|could|would|will|kindly|please)\b<15>\b(?:you\s+)?(?:please\s+|kindly\s+)?(?:be\s+able\s+to\s+)?(?:prioriti[sz]e|process|make|initiate|arrange|set\s+up|do|push|execute|complete|send|get|handle|assist\s+(?:me\s+)?with)\b<20>\b(?:the\s+|a\s+|an\s+|this\s+|out\s+)?(?:wire|wire\s+transfer|fund\s+transfer|funds\s+transfer|bank\s+transfer|same[- ]day\s+payment|urgent\s+payment|payment\s+out|payment\s+to\s+(?:a|the)\s+vendor|ach|zelle|faster\s+payment|international\s+wire|international\s+transfer|domestic\s+transfer|outgoing\s+(?:payment|transfer)|transfer\s+to)\b|)"
+     R"(\b(?:what\s+is|what['’]s|tell\s+me|send\s+me|confirm|check|let\s+me\s+know)\b<15>\b(?:our\s+|the\s+)(?:current\s+|available\s+|company\s+|account\s+)*(?:account\s+)?balances?\b<30>\b(?:account|company|bank|today|now|right\s+away|can\s+we|whether|as\s+of|available|and)\b|)"
+     R"(\b(?:daily|transfer|wire|payment)\s+(?:transfer\s+|payment\s+|wire\s+)?limit\b<40>\b(?:company|account|transfers?|today|bank)\b|)"
+     R"(\b(?:what\s+(?:details|information)\s+do\s+you\s+need|which\s+details\s+do\s+you\s+need|let\s+me\s+know\s+what\s+(?:you|details|information))\b<30>\b(?:payment|transfer|wire|set\s+up|process|from\s+me|need)\b|)"
+     R"(\b(?:send|give|text|drop|share|reply\s+with|forward|provide|need|confirm)\b<20>\b(?:me\s+)?(?:your|ur)\s+(?:\w+\s+){0,2}(?:cell\s?phone|mobile|cell|whats\s?app|personal|phone|telephone)(?:\s+phone)?(?:\s+contact)?\s?(?:number|no|line|#)?\b<60>\b(?:task|urgent|assist|handle|text\s+you|quick|immediately|asap|right\s+away|instructions|errand)\b|)"
+     R"(\b(?:ceo|cfo|managing\s+director|chief\s+executive|president|chairman|director)\b<40>\b(?:asked\s+me|instructed|wants|requires|approved|authori[sz]ed)\b<40>\b(?:payment|transfer|wire|gift)\b|)"
+     R"(\b(?:w-?2s?|w-?2\s+forms?|p60s?|payslips|tax\s+statements)\b<30>\b(?:of|for)\s+(?:all|every|our)\b<20>\b(?:employees?|staff|personnel)\b|)"
+     R"(\b(?:aging|ageing)\s+report\b<80>\b(?:contact|e-?mail|customers?|outstanding)\b|)"
+     R"(\b(?:ich\s+brauche|ich\s+benötige|kannst\s+du|können\s+sie)\b<50>\b(?:dringende[nr]?|vertrauliche[nr]?|kurze[nr]?|wichtige[nr]?)\s+(?:aufgabe|zahlung|transaktion|überweisung|sache)\b|)"
+     R"(\b(?:j['’]ai\s+besoin|pouvez-vous|peux-tu|il\s+faut)\b<50>\b(?:tâche|opération|transaction|mission|virement)\s+(?:urgente?|confidentielle?|immédiat)\b|)"
+     R"(\b(?:necesito|preciso|puedes?|pode)\b<50>\b(?:tarea|tarefa|operaci[óo]n|opera[çc][ãa]o|gesti[óo]n|transacci[óo]n|transfer[êe]ncia|transferencia|pago|pagamento)\s+(?:urgente|confidencial|r[áa]pida|inmediat[oa])\b|)"
+     R"((?:开会|開會)<15>(?:不方便|不能)<6>(?:接电话|接電話|通话)|)"
+     R"((?:查一下|查询|告诉我|告訴我)<10>(?:账户|帳戶|公司)<6>(?:余额|餘額))"); }),
      true},
     {"bec-confidential-pay", "Payment redirection", "warn", 45,
      "asks for a payment to be kept confidential",
-     R"(\bstrictly\s+confidential\s+(?:financial\s+)?(?:operation|transaction)\b|\bchose\s+you\b[^.!?]{0,30}\bdiscretion\b|\b(?:conducted|handled)\s+with\s+(?:great|the\s+utmost|utmost)\s+discretion\b|)"
-     R"(\b(?:confidential|confidentially|confidentiality|discreet|discreetly|discretion|strictly\s+between\s+us|between\s+(?:us|you\s+and\s+me)|keep\s+(?:this|it)\s+(?:quiet|private|secret|between\s+us))\b[^.!?]{0,100}\b(?:payments?|transfers?|wires?|gift\s+cards?|remittances?|deal|down\s+payment|acquisition)\b[^.!?]{0,60}\b(?:process|complete|made|send|handle|today|now|urgent\w*|immediate\w*|until|announce\w*|mention|anyone|proceed|finali[sz]e\w*|execute|first|know|instructions)\b|)"
-     R"(\b(?:payments?|transfers?|wires?|acquisition|transaction|purchase|gift\s+cards?|deal)\b[^.!?]{0,60}\b(?:keep|kept|remain|remains|treat|treated|stays?|handled|must\s+be|needs?\s+to\s+be)\b[^.!?]{0,20}\b(?:confidential|secret|discreet|discreetly|between\s+(?:us|you\s+and\s+me)|quiet|with\s+(?:utmost|the\s+utmost|strict)\s+(?:discretion|confidentiality)|confidentially)\b[^.!?]{0,60}(?:\b(?:until|announce\w*|public\w*|payment|transfer|attorney|lawyer|today|anyone|office|us|instructions)\b|[.!?])|)"
+     pattern([] { return std::string_view(
+     R"(\bstrictly\s+confidential\s+(?:financial\s+)?(?:operation|transaction)\b|\bchose\s+you\b<30>\bdiscretion\b|\b(?:conducted|handled)\s+with\s+(?:great|the\s+utmost|utmost)\s+discretion\b|)"
+     R"(\b(?:confidential|confidentially|confidentiality|discreet|discreetly|discretion|strictly\s+between\s+us|between\s+(?:us|you\s+and\s+me)|keep\s+(?:this|it)\s+(?:quiet|private|secret|between\s+us))\b<100>\b(?:payments?|transfers?|wires?|gift\s+cards?|remittances?|deal|down\s+payment|acquisition)\b<60>\b(?:process|complete|made|send|handle|today|now|urgent\w*|immediate\w*|until|announce\w*|mention|anyone|proceed|finali[sz]e\w*|execute|first|know|instructions)\b|)"
+     R"(\b(?:payments?|transfers?|wires?|acquisition|transaction|purchase|gift\s+cards?|deal)\b<60>\b(?:keep|kept|remain|remains|treat|treated|stays?|handled|must\s+be|needs?\s+to\s+be)\b<20>\b(?:confidential|secret|discreet|discreetly|between\s+(?:us|you\s+and\s+me)|quiet|with\s+(?:utmost|the\s+utmost|strict)\s+(?:discretion|confidentiality)|confidentially)\b<60>(?:\b(?:until|announce\w*|public\w*|payment|transfer|attorney|lawyer|today|anyone|office|us|instructions)\b|[.!?])|)"
      R"(\bconfidential\s+(?:transaction|payment|transfer|assignment|acquisition|deal|purchase)\b|)"
      R"(\b(?:nobody|no\s+one)\s+else\s+(?:should|must|may|is\s+to|needs\s+to)\s+(?:be\s+informed|know|hear)\b|)"
      R"(\b(?:do\s+not|don['’]t)\s+(?:involve|inform)\s+(?:anyone|anybody)(?:\s+else)?\b|)"
      R"(\bonly\s+you\s+and\s+(?:i|me)\b|)"
-     R"(\b(?:vertraulich\w*|diskret\w*|verschwiegen\w*)\b[^.!?]{0,80}\b(?:zahlung\w*|überweisung\w*|transaktion\w*|übernahme|akquisition)\b|)"
-     R"(\b(?:zahlung|überweisung|transaktion|übernahme|sache)\b[^.!?]{0,60}\b(?:vertraulich|diskret|geheim)\b|)"
-     R"(\b(?:confidentiel\w*|discrétion|discrètement)\b[^.!?]{0,80}\b(?:virement|paiement|transaction|acquisition|opération)\b|)"
-     R"(\b(?:virement|paiement|transaction|acquisition|opération)\b[^.!?]{0,40}\b(?:confidentiel\w*|discrétion|discrètement)\b|)"
-     R"(\b(?:confidencial\w*|discreci[óo]n|sigilo\w*|discri[çc][ãa]o)\b[^.!?]{0,80}\b(?:transferencia|pago|transfer[êe]ncia|pagamento|transac\w+|adquisici[óo]n|aquisi[çc][ãa]o)\b)",
+     R"(\b(?:vertraulich\w*|diskret\w*|verschwiegen\w*)\b<80>\b(?:zahlung\w*|überweisung\w*|transaktion\w*|übernahme|akquisition)\b|)"
+     R"(\b(?:zahlung|überweisung|transaktion|übernahme|sache)\b<60>\b(?:vertraulich|diskret|geheim)\b|)"
+     R"(\b(?:confidentiel\w*|discrétion|discrètement)\b<80>\b(?:virement|paiement|transaction|acquisition|opération)\b|)"
+     R"(\b(?:virement|paiement|transaction|acquisition|opération)\b<40>\b(?:confidentiel\w*|discrétion|discrètement)\b|)"
+     R"(\b(?:confidencial\w*|discreci[óo]n|sigilo\w*|discri[çc][ãa]o)\b<80>\b(?:transferencia|pago|transfer[êe]ncia|pagamento|transac\w+|adquisici[óo]n|aquisi[çc][ãa]o)\b)"); }),
      true},
     {"bec-swift-iban", "Payment redirection", "warn", 30,
      "gives bank account coordinates",
-     R"(\b(?:account\s+(?:number|no|name|#)|acct\.?\s?(?:number|no|#)?|a/c\s+(?:no|number)|iban|beneficiary(?:\s+name|\s+account)?|routing(?:\s+number|\s+no)?|sort\s+code|swift(?:/bic)?(?:\s+code)?|bic)\b\.?[^.!?]{0,3}\s?[:#=]\s?[A-Z0-9][^\n.!?]{3,60}(?:\s[^.!?]{0,40})?\b(?:account\s+(?:number|no|name|#)|acct|a/c|iban|beneficiary|routing|sort\s+code|swift|bic|bank\s+name|bank)\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:account\s+(?:number|no|name|#)|acct\.?\s?(?:number|no|#)?|a/c\s+(?:no|number)|iban|beneficiary(?:\s+name|\s+account)?|routing(?:\s+number|\s+no)?|sort\s+code|swift(?:/bic)?(?:\s+code)?|bic)\b\.?<3>\s?[:#=]\s?[A-Z0-9][^\n.!?]{3,60}(?:\s<40>)?\b(?:account\s+(?:number|no|name|#)|acct|a/c|iban|beneficiary|routing|sort\s+code|swift|bic|bank\s+name|bank)\b|)"
      R"(\bIBAN\b.{0,8}\b[A-Z]{2}\d{2}(?:\s?[A-Z0-9]{4}){3,7}|)"
      R"(\b(?:swift|bic)(?:\s+code)?\b.{0,6}\b[A-Z]{6}[A-Z0-9]{2}(?:[A-Z0-9]{3})?\b|)"
      R"(\b(?:routing|sort\s+code|aba)\b(?:\s+number|\s+no\.?|\s+code)?[ :#]{1,3}\d[\d -]{5,10}\b|)"
-     R"(\bchave\s+pix\b[^.!?]{0,10}[:=])",
+     R"(\bchave\s+pix\b<10>[:=])"); }),
      true},
     {"bec-are-you-available", "Payment redirection", "warn", 20,
      "opens with a bare check that the reader is at hand",
+     pattern([] { return std::string_view(
      R"(\bare\s+you\s+(?:\w+\s+)?(?:available|at\s+your\s+desk|free|less\s+busy|on\s+seat|in\s+the\s+office|around)\b\s?(?:\?|(?:right\s+)?now\b|at\s+the\s+moment\b|today\b|currently\b|this\s+(?:morning|afternoon)\b|to\s+(?:assist|handle|help|run|process|make)\b)|)"
-     R"(\b(?:let\s+me\s+know|get\s+back\s+to\s+me|reply|respond|email\s+me|text\s+me)\b[^.!?]{0,12}\b(?:if|when|as\s+soon\s+as|once)\s+you(?:\s+are|['’]re)\b[^.!?]{0,10}\b(?:available|free|at\s+your\s+desk|ready|in\s+the\s+office)\b|)"
-     R"(\b(?:do\s+you\s+have|have\s+you\s+got|got)\s+(?:a|a\s+few|some|any)\s+(?:spare\s+|free\s+|quick\s+)?(?:minutes?|moments?|time|seconds?|sec)\b[^.!?]{0,12}(?:\?|\b(?:now|right\s+now|i\s+need)\b)|)"
-     R"(\b(?:did\s+you\s+(?:get|receive|see)\s+my|i['’]ve\s+been\s+trying\s+to\s+reach\s+you)\b[^.!?]{0,20}(?:e-?mail|message|text|\.|,)|)"
+     R"(\b(?:let\s+me\s+know|get\s+back\s+to\s+me|reply|respond|email\s+me|text\s+me)\b<12>\b(?:if|when|as\s+soon\s+as|once)\s+you(?:\s+are|['’]re)\b<10>\b(?:available|free|at\s+your\s+desk|ready|in\s+the\s+office)\b|)"
+     R"(\b(?:do\s+you\s+have|have\s+you\s+got|got)\s+(?:a|a\s+few|some|any)\s+(?:spare\s+|free\s+|quick\s+)?(?:minutes?|moments?|time|seconds?|sec)\b<12>(?:\?|\b(?:now|right\s+now|i\s+need)\b)|)"
+     R"(\b(?:did\s+you\s+(?:get|receive|see)\s+my|i['’]ve\s+been\s+trying\s+to\s+reach\s+you)\b<20>(?:e-?mail|message|text|\.|,)|)"
      R"(\b(?:sind\s+sie|bist\s+du)\s+(?:gerade\s+|jetzt\s+|heute\s+)?(?:verfügbar|im\s+büro|am\s+platz|erreichbar)\b|)"
      R"(\b(?:êtes-vous|es-tu|tu\s+es|vous\s+êtes)\s+(?:disponible|au\s+bureau)\b|)"
      R"(\b(?:est[áa]s?|voc[êe]\s+est[áa])\s+(?:disponible|dispon[íi]vel|en\s+la\s+oficina|no\s+escrit[óo]rio)\b|)"
-     R"(\bben\s+je\s+(?:beschikbaar|op\s+kantoor)\b)",
+     R"(\bben\s+je\s+(?:beschikbaar|op\s+kantoor)\b)"); }),
      true},
     {"bec-favor", "Payment redirection", "warn", 20,
      "asks for an unnamed favour or for urgent help",
+     pattern([] { return std::string_view(
      R"(\b(?:on\s+my\s+behalf|do\s+it\s+from\s+your\s+side)\b|\bwhat\s+(?:information\s+)?do\s+you\s+need\s+from\s+me\b|\b(?:before|ahead\s+of)\s+(?:the|my)\s+\w+\s+(?:call|meeting)\b|\bby\s+(?:lunch(?:time)?|noon|midday)\b|)"
-     R"(\b(?:effective|in\s+time|changed?)\b[^.!?]{0,30}\b(?:current|next|this|upcoming)\s+(?:pay\s?(?:date|day|period|roll|check|run)|month['’]s\s+pay\w*)\b|)"
-     R"(\b(?:complete|do|run)\s+a\s+(?:\w+\s+)?(?:task|errand)\b[^.!?]{0,20}\b(?:urgently|quickly|now|asap|discre\w+)\b|\bahead\s+of\s+(?:the|my|a)\s+(?:call|meeting)\b|\b(?:send|do\s+it)\s+as\s+soon\s+as\s+you\s+can\b|)"
+     R"(\b(?:effective|in\s+time|changed?)\b<30>\b(?:current|next|this|upcoming)\s+(?:pay\s?(?:date|day|period|roll|check|run)|month['’]s\s+pay\w*)\b|)"
+     R"(\b(?:complete|do|run)\s+a\s+(?:\w+\s+)?(?:task|errand)\b<20>\b(?:urgently|quickly|now|asap|discre\w+)\b|\bahead\s+of\s+(?:the|my|a)\s+(?:call|meeting)\b|\b(?:send|do\s+it)\s+as\s+soon\s+as\s+you\s+can\b|)"
      R"(\bneed\s+(?:it|them|this|these)\s+(?:by|in\s+the\s+next|within|back)\b|\bneed\s+something\s+done\b|)"
-     R"(\b(?:send|get)\b[^.!?]{0,25}\bto\s+me\s+(?:this\s+(?:morning|afternoon)|today|directly)\b|\bbefore\s+(?:the|my)\s+(?:call|meeting)\b|)"
-     R"(\bneed\s+(?:it|them|this|these)\b[^.!?]{0,25}\b(?:now|asap|today|before\s+(?:noon|\d|i|we)|in\s+(?:pdf|one\s+file)|right\s+away|urgent\w*)\b|)"
+     R"(\b(?:send|get)\b<25>\bto\s+me\s+(?:this\s+(?:morning|afternoon)|today|directly)\b|\bbefore\s+(?:the|my)\s+(?:call|meeting)\b|)"
+     R"(\bneed\s+(?:it|them|this|these)\b<25>\b(?:now|asap|today|before\s+(?:noon|\d|i|we)|in\s+(?:pdf|one\s+file)|right\s+away|urgent\w*)\b|)"
      R"(\bquick\s+as\s+you\s+can\b|\bfor\s+a\s+quick\s+review\b|\b(?:do|get)\s+(?:it|this|something)\s+done\s+(?:for\s+me|urgently|discre\w+)\b|)"
-     R"(\b(?:need|ask|asking|want|request)\b[^.!?]{0,15}\b(?:a|an|one|some|your|me\s+a)\s+(?:\w+\s+){0,2}favou?r\b|)"
+     R"(\b(?:need|ask|asking|want|request)\b<15>\b(?:a|an|one|some|your|me\s+a)\s+(?:\w+\s+){0,2}favou?r\b|)"
      R"(\b(?:do|doing)\s+me\s+(?:a|one)\s+(?:\w+\s+)?favou?r\b|)"
-     R"(\b(?:i|we)\s+(?:need|require|want|could\s+use|am\s+in\s+need\s+of|will\s+need)\b[^.!?]{0,10}\b(?:your|some)\s+(?:\w+\s+)?(?:help|assistance|attention|discretion)\b|)"
-     R"(\b(?:can|could|would|will)\s+you\s+(?:please\s+|kindly\s+|be\s+able\s+to\s+)*(?:help|assist)\b[^.!?]{0,8}\b(?:me|us|out)\b[^.!?]{0,25}\b(?:something|urgent\w*|discreet\w*|quick\w*|confidential\w*|right\s+away|real\s+quick|errand|task|favou?r|payment|transfer)\b|)"
+     R"(\b(?:i|we)\s+(?:need|require|want|could\s+use|am\s+in\s+need\s+of|will\s+need)\b<10>\b(?:your|some)\s+(?:\w+\s+)?(?:help|assistance|attention|discretion)\b|)"
+     R"(\b(?:can|could|would|will)\s+you\s+(?:please\s+|kindly\s+|be\s+able\s+to\s+)*(?:help|assist)\b<8>\b(?:me|us|out)\b<25>\b(?:something|urgent\w*|discreet\w*|quick\w*|confidential\w*|right\s+away|real\s+quick|errand|task|favou?r|payment|transfer)\b|)"
      R"(\b(?:need|want)\s+you\s+to\s+(?:do|handle|get|run|take\s+care\s+of)\s+(?:something|a\s+thing)\b|)"
      R"(\bcan\s+i\s+trust\s+you\b|)"
      R"(\bi(?:\s+am|['’]m)?\s+(?:counting|count|rely|relying|depend)\s+on\s+(?:your\s+discretion|you\s+for\s+this|you\s+to)\b|)"
      R"(\b(?:gefallen\s+(?:tun|bitten)|um\s+einen\s+gefallen|ich\s+brauche\s+(?:dringend\s+)?(?:ihre|deine)\s+hilfe)\b|)"
-     R"(\b(?:rends?|rendre|rendez)\b[^.!?]{0,10}\bun\s+(?:petit\s+)?service\b|)"
+     R"(\b(?:rends?|rendre|rendez)\b<10>\bun\s+(?:petit\s+)?service\b|)"
      R"(\b(?:j['’]ai\s+besoin\s+(?:de\s+votre\s+aide|que\s+vous))\b|)"
      R"(\b(?:hazme|me\s+haces|haga|fa[çz]a|faz|preciso\s+de|necesito)\s+(?:un|um)\s+favor\b|)"
-     R"(\b(?:preciso\s+que\s+voc[êe]|necesito\s+que\s+(?:usted|hagas|haga|me))\b)",
+     R"(\b(?:preciso\s+que\s+voc[êe]|necesito\s+que\s+(?:usted|hagas|haga|me))\b)"); }),
      true},
 
     // ---- Gift card fraud -----------------------------------------------------------------------
@@ -611,51 +705,54 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"gift-card-buy", "Gift card fraud", "warn", 60,
      "talks the reader into buying gift cards for somebody else",
-     R"(\b(?:surpris(?:e|ing)|reward(?:ing)?)\b[^.!?]{0,60}\b(?:staff|employees|team|teachers|clients|volunteers)\b[^.!?]{0,30}\bgift\s?cards?\b|\bprepaid\s+(?:visa\s+|debit\s+|gift\s+)?cards\b[^.!?]{0,30}\b(?:bought|codes?|client)\b|)"
-     R"(\b(?:grab|get|buy|order|purchase|pick\s+up|need)\b[^.!?]{0,40}\b\d+\s?(?:x|×)\s?[$€£]\s?\d+\s+(?:\w+\s+){0,2}(?:e-?)?(?:cards?|vouchers?|gift\s?cards?)\b|)"
-     R"(\b(?:get|buy|order|purchase|pick\s+up)\b[^.!?]{0,30}\b(?:google\s+play|itunes|steam|ebay|razer|vanilla)\s+(?:gift\s+)?cards?\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:surpris(?:e|ing)|reward(?:ing)?)\b<60>\b(?:staff|employees|team|teachers|clients|volunteers)\b<30>\bgift\s?cards?\b|\bprepaid\s+(?:visa\s+|debit\s+|gift\s+)?cards\b<30>\b(?:bought|codes?|client)\b|)"
+     R"(\b(?:grab|get|buy|order|purchase|pick\s+up|need)\b<40>\b\d+\s?(?:x|×)\s?[$€£]\s?\d+\s+(?:\w+\s+){0,2}(?:e-?)?(?:cards?|vouchers?|gift\s?cards?)\b|)"
+     R"(\b(?:get|buy|order|purchase|pick\s+up)\b<30>\b(?:google\s+play|itunes|steam|ebay|razer|vanilla)\s+(?:gift\s+)?cards?\b|)"
      R"(\bgift\s?cards?\b[^!?]{0,120}\bface\s+value\b|)"
-     R"(\b(?:need|get|grab|pick\s+up|buy|purchase|send)\b[^.!?]{0,60}\b(?:amazon|apple|itunes|google\s+play|steam|target|walmart|visa|vanilla|ebay|razer|sephora|best\s+buy|nordstrom)\b[^.!?]{0,20}\b(?:gift\s?cards?|cards|vouchers?)\b[^.!?]{0,30}(?:\d\s?(?:x|×|pieces|pcs)\s|[$€£]\s?\d)|)"
-     R"(\b(?:should|must|needs?\s+to)\s+be\s+(?:amazon|apple|itunes|google\s+play|steam|target|walmart|visa|vanilla|ebay|razer)\b[^.!?]{0,20}\bcards\b|)"
-     R"(\b(?:i\s+need|need\s+you|want\s+you|we\s+need|buy|buying|purchase|purchasing|pick(?:ing)?\s+(?:them\s+|some\s+)?up|get|getting|grab|procure|arrange|obtain|surprise|send|present)\b[^.!?]{0,60}\b(?:apple|i-?tunes|google\s+play|steam|amazon|e-?bay|visa|amex|american\s+express|vanilla|razer\s+gold|sephora|nike|walmart|target|best\s+buy|playstation|xbox|neosurf|paysafe(?:card)?|physical|e-?gift|several|different|pieces\s+of|quantities\s+of|a\s+number\s+of|some|few|\d+)\b[^.!?]{0,12}\b(?:gift\s?cards?|e-?gift\s+cards?|gift\s+vouchers?|(?:google\s+play|i-?tunes|steam|apple|amazon|razer\s+gold|vanilla)\s+(?:gift\s+)?cards?|prepaid\s+cards?|cards?\s+at\s+\$?\d|cards?\s+of\s+\$?\d|cards?\s+worth\s+\$?\d)\b[^.!?]{0,100}\b(?:for\s+(?:me|a|our|some|the|my|us|you)|today|now|asap|urgent\w*|reimburs\w*|refund|pay\s+you|client|customer|staff|team|employees?|surprise|partners?|store|how\s+soon|let\s+me\s+know|donat\w+|each|on\s+my\s+behalf)\b|)"
-     R"(\b(?:google\s+play|i-?tunes|steam|apple|razer\s+gold|vanilla)\s+(?:gift\s+)?cards?\b[^.!?]{0,40}\b(?:for\s+(?:a|our|my|some)\s+(?:client|customer|friend|partner|niece|nephew)|today|asap|each|worth|urgent\w*)\b|)"
-     R"(\bgift\s?cards?\b[^.!?]{0,40}\b(?:for|to)\s+(?:our\s+|some\s+|the\s+|my\s+|a\s+few\s+|all\s+|all\s+the\s+|few\s+|the\s+top\s+|our\s+top\s+)*(?:staff|employees?|clients?|team|colleagues?|veterans?|patients?|personnel|members\s+of\s+staff|hospice|niece|nephew|associates?|prospects?|partners?|diligent)\b|)"
-     R"(\b(?:surprise|reward|appreciate)\b[^.!?]{0,40}\b(?:staff|team|employees?|colleagues?|clients?)\b[^.!?]{0,40}\bgift\s?cards?\b|)"
-     R"(\b(?:buy|purchase|pick\s+up|get|grab)\b[^.!?]{0,30}\bgift\s?cards?\b[^.!?]{0,60}\b(?:for\s+me|on\s+my\s+behalf|from\s+(?:any|the\s+nearest|a)\s+(?:\w+\s+)?(?:store|shop)|nearest\s+store|at\s+the\s+store|right\s+away|asap|reimburs\w*|refund\s+you|pay\s+you\s+back|denomination|sent\s+to\s+a\s+friend)\b|)"
-     R"(\bgift\s?cards?\b[^.!?]{0,40}(?:\b(?:in\s+\$?\d+|denominations?|face\s+value|how\s+many\s+can\s+you|how\s+soon\s+can\s+you)|\$?\d+\s+(?:each|value|face\s+value))\b|)"
-     R"(\b(?:kaufen|besorgen|besorge|kauf|kaufst|brauche|benötige)\b[^.!?]{0,50}\b(?:geschenkkarten|gutscheinkarten|guthabenkarten|(?:google[- ]play|itunes|apple|amazon|steam|paysafe)[- ]?(?:karten|gutscheine?|codes?))\b|)"
-     R"(\b(?:achete[rz]|acheter|procure[rz]|besoin\s+de)\b[^.!?]{0,50}\b(?:cartes?\s+cadeaux?|coupons?\s+(?:pcs|transcash|neosurf|toneo)|cartes?\s+(?:google\s+play|itunes|steam|apple))\b|)"
-     R"(\b(?:compr(?:ar|es?|a|e)|consig\w+|necesito|preciso)\b[^.!?]{0,50}\b(?:tarjetas?\s+(?:de\s+)?regalo|cart(?:ão|ões|ao|oes)\s+(?:de\s+)?presente|vales?[- ]presente|gift\s+cards?)\b|)"
-     R"(\b(?:koop|kopen|halen|regelen|nodig)\b[^.!?]{0,50}\b(?:cadeaubonnen|cadeaukaarten|giftcards?)\b|)"
-     R"((?:购买|購買|买|買)[^。！？.!?]{0,12}(?:礼品卡|禮品卡|点卡|點卡|充值卡)|)"
-     R"((?:購入|買って|買ってきて)[^。！？.!?]{0,15}(?:ギフトカード|プリペイドカード|電子マネー)|)"
-     R"((?:ギフトカード|プリペイドカード|電子マネー|iTunesカード)[^。！？.!?]{0,15}(?:購入して|買って)|)"
-     R"((?:기프트\s?카드|상품권|구글\s?플레이\s?카드)[^.!?。]{0,12}(?:구매|사서|사\s?주|사다))",
+     R"(\b(?:need|get|grab|pick\s+up|buy|purchase|send)\b<60>\b(?:amazon|apple|itunes|google\s+play|steam|target|walmart|visa|vanilla|ebay|razer|sephora|best\s+buy|nordstrom)\b<20>\b(?:gift\s?cards?|cards|vouchers?)\b<30>(?:\d\s?(?:x|×|pieces|pcs)\s|[$€£]\s?\d)|)"
+     R"(\b(?:should|must|needs?\s+to)\s+be\s+(?:amazon|apple|itunes|google\s+play|steam|target|walmart|visa|vanilla|ebay|razer)\b<20>\bcards\b|)"
+     R"(\b(?:i\s+need|need\s+you|want\s+you|we\s+need|buy|buying|purchase|purchasing|pick(?:ing)?\s+(?:them\s+|some\s+)?up|get|getting|grab|procure|arrange|obtain|surprise|send|present)\b<60>\b(?:apple|i-?tunes|google\s+play|steam|amazon|e-?bay|visa|amex|american\s+express|vanilla|razer\s+gold|sephora|nike|walmart|target|best\s+buy|playstation|xbox|neosurf|paysafe(?:card)?|physical|e-?gift|several|different|pieces\s+of|quantities\s+of|a\s+number\s+of|some|few|\d+)\b<12>\b(?:gift\s?cards?|e-?gift\s+cards?|gift\s+vouchers?|(?:google\s+play|i-?tunes|steam|apple|amazon|razer\s+gold|vanilla)\s+(?:gift\s+)?cards?|prepaid\s+cards?|cards?\s+at\s+\$?\d|cards?\s+of\s+\$?\d|cards?\s+worth\s+\$?\d)\b<100>\b(?:for\s+(?:me|a|our|some|the|my|us|you)|today|now|asap|urgent\w*|reimburs\w*|refund|pay\s+you|client|customer|staff|team|employees?|surprise|partners?|store|how\s+soon|let\s+me\s+know|donat\w+|each|on\s+my\s+behalf)\b|)"
+     R"(\b(?:google\s+play|i-?tunes|steam|apple|razer\s+gold|vanilla)\s+(?:gift\s+)?cards?\b<40>\b(?:for\s+(?:a|our|my|some)\s+(?:client|customer|friend|partner|niece|nephew)|today|asap|each|worth|urgent\w*)\b|)"
+     R"(\bgift\s?cards?\b<40>\b(?:for|to)\s+(?:our\s+|some\s+|the\s+|my\s+|a\s+few\s+|all\s+|all\s+the\s+|few\s+|the\s+top\s+|our\s+top\s+)*(?:staff|employees?|clients?|team|colleagues?|veterans?|patients?|personnel|members\s+of\s+staff|hospice|niece|nephew|associates?|prospects?|partners?|diligent)\b|)"
+     R"(\b(?:surprise|reward|appreciate)\b<40>\b(?:staff|team|employees?|colleagues?|clients?)\b<40>\bgift\s?cards?\b|)"
+     R"(\b(?:buy|purchase|pick\s+up|get|grab)\b<30>\bgift\s?cards?\b<60>\b(?:for\s+me|on\s+my\s+behalf|from\s+(?:any|the\s+nearest|a)\s+(?:\w+\s+)?(?:store|shop)|nearest\s+store|at\s+the\s+store|right\s+away|asap|reimburs\w*|refund\s+you|pay\s+you\s+back|denomination|sent\s+to\s+a\s+friend)\b|)"
+     R"(\bgift\s?cards?\b<40>(?:\b(?:in\s+\$?\d+|denominations?|face\s+value|how\s+many\s+can\s+you|how\s+soon\s+can\s+you)|\$?\d+\s+(?:each|value|face\s+value))\b|)"
+     R"(\b(?:kaufen|besorgen|besorge|kauf|kaufst|brauche|benötige)\b<50>\b(?:geschenkkarten|gutscheinkarten|guthabenkarten|(?:google[- ]play|itunes|apple|amazon|steam|paysafe)[- ]?(?:karten|gutscheine?|codes?))\b|)"
+     R"(\b(?:achete[rz]|acheter|procure[rz]|besoin\s+de)\b<50>\b(?:cartes?\s+cadeaux?|coupons?\s+(?:pcs|transcash|neosurf|toneo)|cartes?\s+(?:google\s+play|itunes|steam|apple))\b|)"
+     R"(\b(?:compr(?:ar|es?|a|e)|consig\w+|necesito|preciso)\b<50>\b(?:tarjetas?\s+(?:de\s+)?regalo|cart(?:ão|ões|ao|oes)\s+(?:de\s+)?presente|vales?[- ]presente|gift\s+cards?)\b|)"
+     R"(\b(?:koop|kopen|halen|regelen|nodig)\b<50>\b(?:cadeaubonnen|cadeaukaarten|giftcards?)\b|)"
+     R"((?:购买|購買|买|買)<12>(?:礼品卡|禮品卡|点卡|點卡|充值卡)|)"
+     R"((?:購入|買って|買ってきて)<15>(?:ギフトカード|プリペイドカード|電子マネー)|)"
+     R"((?:ギフトカード|プリペイドカード|電子マネー|iTunesカード)<15>(?:購入して|買って)|)"
+     R"((?:기프트\s?카드|상품권|구글\s?플레이\s?카드)<12>(?:구매|사서|사\s?주|사다))"); }),
      true},
     {"gift-card-codes", "Gift card fraud", "warn", 60,
      "asks for the codes of gift cards, which spends them",
-     R"(\bscratch\b[^.!?]{0,40}\b(?:pictures?|pics?|photos?|codes?)\b|\bredemption\s+codes?\b|)"
+     pattern([] { return std::string_view(
+     R"(\bscratch\b<40>\b(?:pictures?|pics?|photos?|codes?)\b|\bredemption\s+codes?\b|)"
      R"(\b(?:pictures?|photos?|pics?|images?)\s+of\s+(?:the\s+)?(?:backs?\s+(?:to|of\s+the\s+(?:gift\s+)?cards?)|codes?)\b|)"
-     R"(\b(?:send|text|e-?mail)\s+(?:me\s+)?the\s+codes?\b[^.!?]{0,20}\b(?:by\s+e-?mail|via|to\s+me|here|asap|now|back)\b|)"
-     R"(\b(?:scratch|peel|scrape)\b[^.!?]{0,40}\b(?:code|codes|back|backs|pin|pins|cards?|silver|panel|strip)\b[^.!?]{0,60}\b(?:send|photo|picture|pictures|photos|snap|image|images|email|text|take|pins?|codes?)\b|)"
-     R"(\b(?:send|text|e-?mail|forward|reply\s+with|snap|give|read|attach)\b[^.!?]{0,30}\b(?:codes?|pins?|pictures?|photos?|pics?|images?|numbers?)\b[^.!?]{0,15}\b(?:on|of|from|at|behind)\b[^.!?]{0,15}\b(?:back\s+of\s+the\s+|back\s+of\s+each\s+)?(?:gift\s?|i-?tunes\s+|steam\s+|google\s+play\s+|prepaid\s+|apple\s+)(?:cards?|vouchers?)\b|)"
-     R"(\b(?:gift\s?card|voucher|i-?tunes|steam|google\s+play|apple\s+card|e-?gift\s+card)s?\b[^.!?]{0,30}\b(?:codes?|pins?|redemption\s+codes?|claim\s+codes?|card\s+numbers?)\b[^.!?]{0,40}\b(?:send|text|e-?mail|photo|picture|to\s+me|reply|forward)\b|)"
-     R"(\b(?:codes?|karten)\b[^.!?]{0,30}\b(?:freirubbeln|rubbeln|freigerubbelt|abfotografier\w+)\b|)"
-     R"(\b(?:gratte[rz]|photographie[rz])\b[^.!?]{0,40}\b(?:codes?|cartes?|coupons?)\b|)"
-     R"(\b(?:raspe|rasque|raspar|rascar)\b[^.!?]{0,40}\b(?:c[óo]digos?|tarjetas?|cart(?:ão|ões))\b|)"
-     R"((?:刮开|刮開|卡密|卡号和密码)[^。！？.!?]{0,20}(?:发|發|拍照|告诉|告訴)|)"
-     R"((?:カード|裏面)[^。！？.!?]{0,12}(?:番号|コード)[^。！？.!?]{0,12}(?:送って|写真|撮って|教えて))",
+     R"(\b(?:send|text|e-?mail)\s+(?:me\s+)?the\s+codes?\b<20>\b(?:by\s+e-?mail|via|to\s+me|here|asap|now|back)\b|)"
+     R"(\b(?:scratch|peel|scrape)\b<40>\b(?:code|codes|back|backs|pin|pins|cards?|silver|panel|strip)\b<60>\b(?:send|photo|picture|pictures|photos|snap|image|images|email|text|take|pins?|codes?)\b|)"
+     R"(\b(?:send|text|e-?mail|forward|reply\s+with|snap|give|read|attach)\b<30>\b(?:codes?|pins?|pictures?|photos?|pics?|images?|numbers?)\b<15>\b(?:on|of|from|at|behind)\b<15>\b(?:back\s+of\s+the\s+|back\s+of\s+each\s+)?(?:gift\s?|i-?tunes\s+|steam\s+|google\s+play\s+|prepaid\s+|apple\s+)(?:cards?|vouchers?)\b|)"
+     R"(\b(?:gift\s?card|voucher|i-?tunes|steam|google\s+play|apple\s+card|e-?gift\s+card)s?\b<30>\b(?:codes?|pins?|redemption\s+codes?|claim\s+codes?|card\s+numbers?)\b<40>\b(?:send|text|e-?mail|photo|picture|to\s+me|reply|forward)\b|)"
+     R"(\b(?:codes?|karten)\b<30>\b(?:freirubbeln|rubbeln|freigerubbelt|abfotografier\w+)\b|)"
+     R"(\b(?:gratte[rz]|photographie[rz])\b<40>\b(?:codes?|cartes?|coupons?)\b|)"
+     R"(\b(?:raspe|rasque|raspar|rascar)\b<40>\b(?:c[óo]digos?|tarjetas?|cart(?:ão|ões))\b|)"
+     R"((?:刮开|刮開|卡密|卡号和密码)<20>(?:发|發|拍照|告诉|告訴)|)"
+     R"((?:カード|裏面)<12>(?:番号|コード)<12>(?:送って|写真|撮って|教えて))"); }),
      true},
     {"gift-card-reimburse", "Gift card fraud", "warn", 35,
      "promises to pay the reader back for a purchase made now",
+     pattern([] { return std::string_view(
      R"(\b(?:put|pay)\s+(?:it|this)\s+(?:on|with)\s+your\s+(?:personal|own)\s+card\b|)"
-     R"(\b(?:reimburse|refund|repay|pay\s+back|compensate|re-?pay)\b[^.!?]{0,12}\byou\b[^.!?]{0,60}\b(?:later|today|tomorrow|soon|as\s+soon\s+as|when|once|end\s+of|by|after|tonight|immediately|back|in\s+full|personally|purchase|cards?|expense|money|out\s+of)\b|)"
-     R"(\b(?:i|we)(?:['’]ll|\s+will|\s+would|\s+shall|\s+can|\s+promise\s+to|\s+am\s+going\s+to|\s+intend\s+to)\b[^.!?]{0,15}\b(?:reimburse|refund|repay|pay)\s+you(?:\s+back)?\b|)"
+     R"(\b(?:reimburse|refund|repay|pay\s+back|compensate|re-?pay)\b<12>\byou\b<60>\b(?:later|today|tomorrow|soon|as\s+soon\s+as|when|once|end\s+of|by|after|tonight|immediately|back|in\s+full|personally|purchase|cards?|expense|money|out\s+of)\b|)"
+     R"(\b(?:i|we)(?:['’]ll|\s+will|\s+would|\s+shall|\s+can|\s+promise\s+to|\s+am\s+going\s+to|\s+intend\s+to)\b<15>\b(?:reimburse|refund|repay|pay)\s+you(?:\s+back)?\b|)"
      R"(\byou(?:['’]ll|\s+will)\s+(?:be|get)\s+(?:fully\s+|personally\s+|promptly\s+)?(?:reimbursed|refunded|repaid|paid\s+back|compensated)\b|)"
-     R"(\b(?:reimbursement|refund)\b[^.!?]{0,25}\b(?:will\s+be|would\s+be|to\s+you|by\s+me|assured|guaranteed)\b[^.!?]{0,25}\b(?:later|today|tomorrow|end\s+of|soon|issued|made|processed|purchase|expense)\b|)"
-     R"(\b(?:erstatte|erstatten|zurückzahlen|zahle)\b[^.!?]{0,25}\b(?:ihnen|dir|es|das)\b[^.!?]{0,15}\b(?:später|heute|zurück|geld|morgen)\b|)"
+     R"(\b(?:reimbursement|refund)\b<25>\b(?:will\s+be|would\s+be|to\s+you|by\s+me|assured|guaranteed)\b<25>\b(?:later|today|tomorrow|end\s+of|soon|issued|made|processed|purchase|expense)\b|)"
+     R"(\b(?:erstatte|erstatten|zurückzahlen|zahle)\b<25>\b(?:ihnen|dir|es|das)\b<15>\b(?:später|heute|zurück|geld|morgen)\b|)"
      R"(\bje\s+(?:te|vous)\s+(?:rembourse|rembourserai)\b|)"
-     R"(\b(?:te|le|lhe)\s+(?:reembols\w+|devuelvo|devolver[eé]|pago\s+depois|reembolso)\b)",
+     R"(\b(?:te|le|lhe)\s+(?:reembols\w+|devuelvo|devolver[eé]|pago\s+depois|reembolso)\b)"); }),
      true},
 
     // ---- Crypto fraud --------------------------------------------------------------------------
@@ -670,80 +767,84 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"crypto-send-to-wallet", "Crypto fraud", "warn", 45,
      "tells the reader to send cryptocurrency to a wallet",
-     R"(\b(?:send|transfer|deposit|pay|remit|make\s+(?:a|the)\s+(?:payment|transfer))\b[^.!?]{0,60}\b(?:btc|bitcoins?|eth|ether(?:eum)?|usdt|tether|usdc|sol|solana|xrp|crypto(?:currency|currencies)?|coins?|monero|xmr|litecoin|ltc|trx|bnb)\b[^.!?]{0,60}\b(?:to|into)\s+(?:the|this|that|my|our|your|below|following|one\s+of|any\s+of)\b[^.!?]{0,25}\b(?:wallets?|address(?:es)?|account|below|following)\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:send|transfer|deposit|pay|remit|make\s+(?:a|the)\s+(?:payment|transfer))\b<60>\b(?:btc|bitcoins?|eth|ether(?:eum)?|usdt|tether|usdc|sol|solana|xrp|crypto(?:currency|currencies)?|coins?|monero|xmr|litecoin|ltc|trx|bnb)\b<60>\b(?:to|into)\s+(?:the|this|that|my|our|your|below|following|one\s+of|any\s+of)\b<25>\b(?:wallets?|address(?:es)?|account|below|following)\b|)"
      R"(\b(?:my|our|the|this|following)\s+(?:\w+\s+)?(?:btc|bitcoin|eth|ethereum|usdt|tether|crypto|monero|litecoin|ltc)\s+(?:wallet|address|wallet\s+address)\b|)"
-     R"(\b(?:wallet|btc|bitcoin|usdt|eth)\s+address\b[^.!?]{0,12}(?::|\bis\b|\bbelow\b)|)"
-     R"(\b(?:send|transfer|pay|deposit)\b[^.!?]{0,15}(?:\$\s?\d[\d,.]*|\d[\d,.]*\s?(?:usd|eur|dollars|euros|btc|eth|usdt))[^.!?]{0,40}\b(?:in|of|worth\s+of|via|using|through)\b[^.!?]{0,12}\b(?:bitcoins?|btc|crypto\w*|usdt|ethereum|monero)\b|)"
-     R"(\b(?:wallet|address)\b[^.!?]{0,30}\b(?:copy\s+(?:and|&)\s+paste|copy[- ]paste|case[- ]sensitive|send\s+(?:the\s+)?(?:payment|funds|coins))\b|)"
-     R"(\b(?:überweis\w+|send\w+|zahl\w+|transferier\w+)\b[^.!?]{0,60}\b(?:bitcoins?|btc|usdt|krypto\w*)\b[^.!?]{0,60}\b(?:wallet|adresse|konto)\b|)"
-     R"(\b(?:envoye[rz]|transfére[rz]|vire[rz]|verse[rz])\b[^.!?]{0,60}\b(?:bitcoins?|btc|usdt|crypto\w*)\b[^.!?]{0,60}\b(?:portefeuille|adresse)\b|)"
-     R"(\b(?:env[íi]\w+|transfi?[er]\w+|deposit\w+|pag\w+|mand\w+)\b[^.!?]{0,60}\b(?:bitcoins?|btc|usdt|cripto\w*)\b[^.!?]{0,60}\b(?:billetera|carteira|direcci[óo]n|endere[çc]o|cartera)\b|)"
-     R"((?:转|轉|汇|匯|发送|發送|充值)[^。！？.!?]{0,12}(?:USDT|BTC|比特币|比特幣|泰达币|以太)[^。！？.!?]{0,15}(?:地址|钱包|錢包)|)"
-     R"((?:ビットコイン|仮想通貨|暗号資産|USDT)[^。！？.!?]{0,20}(?:送金|送って|入金)|)"
-     R"((?:비트코인|코인|가상화폐|테더)[^.!?。]{0,20}(?:보내|송금|입금)[^.!?。]{0,6}(?:하세요|주세요|주십시오|하십시오))",
+     R"(\b(?:wallet|btc|bitcoin|usdt|eth)\s+address\b<12>(?::|\bis\b|\bbelow\b)|)"
+     R"(\b(?:send|transfer|pay|deposit)\b<15>(?:\$\s?\d[\d,.]*|\d[\d,.]*\s?(?:usd|eur|dollars|euros|btc|eth|usdt))<40>\b(?:in|of|worth\s+of|via|using|through)\b<12>\b(?:bitcoins?|btc|crypto\w*|usdt|ethereum|monero)\b|)"
+     R"(\b(?:wallet|address)\b<30>\b(?:copy\s+(?:and|&)\s+paste|copy[- ]paste|case[- ]sensitive|send\s+(?:the\s+)?(?:payment|funds|coins))\b|)"
+     R"(\b(?:überweis\w+|send\w+|zahl\w+|transferier\w+)\b<60>\b(?:bitcoins?|btc|usdt|krypto\w*)\b<60>\b(?:wallet|adresse|konto)\b|)"
+     R"(\b(?:envoye[rz]|transfére[rz]|vire[rz]|verse[rz])\b<60>\b(?:bitcoins?|btc|usdt|crypto\w*)\b<60>\b(?:portefeuille|adresse)\b|)"
+     R"(\b(?:env[íi]\w+|transfi?[er]\w+|deposit\w+|pag\w+|mand\w+)\b<60>\b(?:bitcoins?|btc|usdt|cripto\w*)\b<60>\b(?:billetera|carteira|direcci[óo]n|endere[çc]o|cartera)\b|)"
+     R"((?:转|轉|汇|匯|发送|發送|充值)<12>(?:USDT|BTC|比特币|比特幣|泰达币|以太)<15>(?:地址|钱包|錢包)|)"
+     R"((?:ビットコイン|仮想通貨|暗号資産|USDT)<20>(?:送金|送って|入金)|)"
+     R"((?:비트코인|코인|가상화폐|테더)<20>(?:보내|송금|입금)<6>(?:하세요|주세요|주십시오|하십시오))"); }),
      true},
     {"crypto-double", "Crypto fraud", "warn", 65,
      "promises to send back more cryptocurrency than was sent",
-     R"(\b(?:double|triple|multiply|2x|3x|5x|10x|100x)\b[^.!?]{0,25}\b(?:your|ur|any|all)\s+(?:\w+\s+)?(?:btc|bitcoins?|eth|ethereum|crypto\w*|usdt|xrp|sol|deposit|investment)\b[^.!?]{0,60}\b(?:in|within|back|today|now|hours?|days?|send|guarante\w+|instantly|click|platform)\b|)"
-     R"(\b(?:send|deposit|transfer)\b[^.!?]{0,60}\b(?:receive|get|sent|return|returned|earn)\b[^.!?]{0,25}\b(?:double|twice|triple|2x|back\s+double|\d+\s?(?:btc|eth|xrp|usdt)\s+back|(?:two|three|ten)\s+times|x2)\b|)"
-     R"(\b(?:will|be|automatically)\s+(?:be\s+)?(?:doubled|tripled|multiplied|returned\s+twice|sent\s+back\s+double)\b[^.!?]{0,60}\b(?:btc|bitcoins?|eth|crypto\w*|coins?|usdt|xrp|wallet|hours|deposit)\b|)"
-     R"(\b(?:btc|bitcoins?|eth|crypto\w*|xrp|usdt)\b[^.!?]{0,60}\b(?:be|get|gets|is)\s+(?:instantly\s+|automatically\s+)?(?:doubled|tripled|multiplied)\b|)"
-     R"(\bverdoppel\w+\b[^.!?]{0,30}\b(?:bitcoins?|btc|krypto\w*|einzahlung|einsatz|investition)\b|)"
-     R"(\b(?:doublez|doubler)\b[^.!?]{0,30}\b(?:bitcoins?|btc|crypto\w*|dépôt|mise|investissement)\b|)"
-     R"(\b(?:duplica|duplique|duplicar|dobre|dobrar)\b[^.!?]{0,30}\b(?:bitcoins?|btc|cripto\w*|dep[óo]sito|inversi[óo]n|investimento)\b|)"
-     R"((?:翻倍|双倍返还|雙倍返還)[^。！？.!?]{0,15}(?:币|幣|BTC|USDT|投资|投資))",
+     pattern([] { return std::string_view(
+     R"(\b(?:double|triple|multiply|2x|3x|5x|10x|100x)\b<25>\b(?:your|ur|any|all)\s+(?:\w+\s+)?(?:btc|bitcoins?|eth|ethereum|crypto\w*|usdt|xrp|sol|deposit|investment)\b<60>\b(?:in|within|back|today|now|hours?|days?|send|guarante\w+|instantly|click|platform)\b|)"
+     R"(\b(?:send|deposit|transfer)\b<60>\b(?:receive|get|sent|return|returned|earn)\b<25>\b(?:double|twice|triple|2x|back\s+double|\d+\s?(?:btc|eth|xrp|usdt)\s+back|(?:two|three|ten)\s+times|x2)\b|)"
+     R"(\b(?:will|be|automatically)\s+(?:be\s+)?(?:doubled|tripled|multiplied|returned\s+twice|sent\s+back\s+double)\b<60>\b(?:btc|bitcoins?|eth|crypto\w*|coins?|usdt|xrp|wallet|hours|deposit)\b|)"
+     R"(\b(?:btc|bitcoins?|eth|crypto\w*|xrp|usdt)\b<60>\b(?:be|get|gets|is)\s+(?:instantly\s+|automatically\s+)?(?:doubled|tripled|multiplied)\b|)"
+     R"(\bverdoppel\w+\b<30>\b(?:bitcoins?|btc|krypto\w*|einzahlung|einsatz|investition)\b|)"
+     R"(\b(?:doublez|doubler)\b<30>\b(?:bitcoins?|btc|crypto\w*|dépôt|mise|investissement)\b|)"
+     R"(\b(?:duplica|duplique|duplicar|dobre|dobrar)\b<30>\b(?:bitcoins?|btc|cripto\w*|dep[óo]sito|inversi[óo]n|investimento)\b|)"
+     R"((?:翻倍|双倍返还|雙倍返還)<15>(?:币|幣|BTC|USDT|投资|投資))"); }),
      true},
     {"crypto-giveaway", "Crypto fraud", "warn", 55,
      "lures with a crypto giveaway, airdrop or bonus to claim",
-     R"(\b(?:automatic|cloud)\s+(?:cloud\s+)?(?:bitcoin|btc|crypto\w*)\s+(?:mining|collecting|earnings)\b[^.!?]{0,80}\b(?:days|withdraw|funds|account|balance)\b|)"
-     R"(\btokens?\b[^.!?]{0,60}\bclaim\s+(?:your|now|it|them|rewards?)\b|)"
-     R"(\b(?:claim|collect)\s+(?:your\s+|these\s+|the\s+)?rewards?\b[^.!?]{0,80}\b(?:wallet|tokens?|season|on-?chain)\b|)"
-     R"(\b(?:crypto|bitcoin|btc|eth|ethereum|token|xrp|doge|usdt)\s+(?:air-?drop|giveaway)\b[^.!?]{0,60}\b(?:game|event|participate|claim|join\s+now|win)\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:automatic|cloud)\s+(?:cloud\s+)?(?:bitcoin|btc|crypto\w*)\s+(?:mining|collecting|earnings)\b<80>\b(?:days|withdraw|funds|account|balance)\b|)"
+     R"(\btokens?\b<60>\bclaim\s+(?:your|now|it|them|rewards?)\b|)"
+     R"(\b(?:claim|collect)\s+(?:your\s+|these\s+|the\s+)?rewards?\b<80>\b(?:wallet|tokens?|season|on-?chain)\b|)"
+     R"(\b(?:crypto|bitcoin|btc|eth|ethereum|token|xrp|doge|usdt)\s+(?:air-?drop|giveaway)\b<60>\b(?:game|event|participate|claim|join\s+now|win)\b|)"
      R"(\bwin\s+\d[\d,.]*\s+(?:eth|btc|doge|usdt|xrp|sol)\b|)"
-     R"(\b(?:withdraw(?:al|als|ing)?|recover(?:y|ed)?|claims?|distribution|repayment)\b[^.!?]{0,50}\b(?:digital\s+assets?|crypto(?:currency)?|in-kind|assets|funds)\b[^.!?]{0,60}\b(?:ftx|celsius|voyager|blockfi|mt\.?\s?gox|terraform|creditors?|customers?\s+(?:claim|account)|self-custody|designated\s+wallet|external\s+wallet)\b|)"
-     R"(\b(?:ftx|celsius|voyager|blockfi|mt\.?\s?gox)\b[^.!?]{0,80}\b(?:withdraw\w*|claim|eligible|distribution)\b[^.!?]{0,60}\b(?:your|account|wallet|now|ready)\b|)"
-     R"(\b(?:claim|collect|redeem|withdraw|secure|receive|get|eligible\s+for|qualif\w+\s+for|unlock)\b[^.!?]{0,30}\b(?:your\s+|ur\s+|the\s+|our\s+|this\s+|an?\s+|free\s+|exclusive\s+|special\s+|\d[\d,.]*\s+)+(?:\w+\s+){0,3}(?:air-?drops?|(?:token|coin|crypto|nft|btc|bitcoin|eth|ethereum|xrp|usdt|sol|bnb|defi|staking|claw|genesis|community|rlusd|algo)\s+(?:rewards?|allocations?|bonus(?:es)?|distributions?|giveaways?|drops?|grants?|incentives?|cash\s?back|benefits?))\b|)"
-     R"(\b(?:air-?drop|token\s+(?:distribution|allocation)|reward\s+(?:distribution|program)|allocation|cash\s?back\s+reward)\b[^.!?]{0,60}\b(?:claim\s+(?:your|now|here)|eligible|eligibility|qualified|connect\s+(?:your\s+)?wallet|link\s+below|wallets?\s+(?:is|are)|selected|exclusive(?:ly)?|tailored|loyal\w*|your\s+wallet)\b|)"
-     R"(\b(?:eligible|qualified|selected|chosen|whitelisted)\b[^.!?]{0,45}(?:\b(?:air-?drop|(?:token|coin|crypto)\s+(?:reward|allocation|distribution|bonus)|claw\s+distribution|free\s+(?:tokens?|coins?|crypto|bitcoin|eth|nft)|(?:btc|eth|usdt|xrp|nft)\s+(?:reward|bonus|giveaway|mint))|\$[A-Z]{3,6}\s+(?:allocation|distribution|tokens?))\b|)"
+     R"(\b(?:withdraw(?:al|als|ing)?|recover(?:y|ed)?|claims?|distribution|repayment)\b<50>\b(?:digital\s+assets?|crypto(?:currency)?|in-kind|assets|funds)\b<60>\b(?:ftx|celsius|voyager|blockfi|mt\.?\s?gox|terraform|creditors?|customers?\s+(?:claim|account)|self-custody|designated\s+wallet|external\s+wallet)\b|)"
+     R"(\b(?:ftx|celsius|voyager|blockfi|mt\.?\s?gox)\b<80>\b(?:withdraw\w*|claim|eligible|distribution)\b<60>\b(?:your|account|wallet|now|ready)\b|)"
+     R"(\b(?:claim|collect|redeem|withdraw|secure|receive|get|eligible\s+for|qualif\w+\s+for|unlock)\b<30>\b(?:your\s+|ur\s+|the\s+|our\s+|this\s+|an?\s+|free\s+|exclusive\s+|special\s+|\d[\d,.]*\s+)+(?:\w+\s+){0,3}(?:air-?drops?|(?:token|coin|crypto|nft|btc|bitcoin|eth|ethereum|xrp|usdt|sol|bnb|defi|staking|claw|genesis|community|rlusd|algo)\s+(?:rewards?|allocations?|bonus(?:es)?|distributions?|giveaways?|drops?|grants?|incentives?|cash\s?back|benefits?))\b|)"
+     R"(\b(?:air-?drop|token\s+(?:distribution|allocation)|reward\s+(?:distribution|program)|allocation|cash\s?back\s+reward)\b<60>\b(?:claim\s+(?:your|now|here)|eligible|eligibility|qualified|connect\s+(?:your\s+)?wallet|link\s+below|wallets?\s+(?:is|are)|selected|exclusive(?:ly)?|tailored|loyal\w*|your\s+wallet)\b|)"
+     R"(\b(?:eligible|qualified|selected|chosen|whitelisted)\b<45>(?:\b(?:air-?drop|(?:token|coin|crypto)\s+(?:reward|allocation|distribution|bonus)|claw\s+distribution|free\s+(?:tokens?|coins?|crypto|bitcoin|eth|nft)|(?:btc|eth|usdt|xrp|nft)\s+(?:reward|bonus|giveaway|mint))|\$[A-Z]{3,6}\s+(?:allocation|distribution|tokens?))\b|)"
      R"(\b(?:collect|claim|secure)\s+your\s+(?:\w+\s+)?(?:allocation|tokens?|share|airdrop|crypto|coins?|bitcoins?|btc|usdt|mint|nft)\b|)"
-     R"(\b(?:free|bonus|complimentary)\s+(?:bitcoins?|btc|eth|ethereum|crypto\w*|tokens?|usdt|xrp|nfts?)\b[^.!?]{0,30}\b(?:claim|connect|sign\s?up|limited\s+time)\b|)"
-     R"(\b(?:you\s+(?:have|['’]ve)\s+(?:received|earned|been\s+(?:sent|credited|awarded))|your\s+(?:account\s+)?balance|has\s+been\s+(?:sent|credited|transferred))\b[^.!?]{0,40}(?:\d[\d,.]*\s?(?:btc|eth|usdt|xrp|bitcoins?)\b|\b(?:bitcoins?|btc|usdt|eth)\b)[^.!?]{0,60}\b(?:claim|withdraw\w*|confirm|log\s?in|click|payout)\b|)"
-     R"(\b(?:mining|cloud\s+mining|bitcoin\s+mining|mined\s+bitcoins?)\b[^.!?]{0,60}\b(?:withdraw\w*|payout|accrued|accumulated|inactive|your\s+account|balance)\b|)"
+     R"(\b(?:free|bonus|complimentary)\s+(?:bitcoins?|btc|eth|ethereum|crypto\w*|tokens?|usdt|xrp|nfts?)\b<30>\b(?:claim|connect|sign\s?up|limited\s+time)\b|)"
+     R"(\b(?:you\s+(?:have|['’]ve)\s+(?:received|earned|been\s+(?:sent|credited|awarded))|your\s+(?:account\s+)?balance|has\s+been\s+(?:sent|credited|transferred))\b<40>(?:\d[\d,.]*\s?(?:btc|eth|usdt|xrp|bitcoins?)\b|\b(?:bitcoins?|btc|usdt|eth)\b)<60>\b(?:claim|withdraw\w*|confirm|log\s?in|click|payout)\b|)"
+     R"(\b(?:mining|cloud\s+mining|bitcoin\s+mining|mined\s+bitcoins?)\b<60>\b(?:withdraw\w*|payout|accrued|accumulated|inactive|your\s+account|balance)\b|)"
      R"(\b(?:holders?|xrp|ripple|token|hodl\w*)\s+(?:\w+\s+){0,3}(?:reward|incentive|loyalty|staking|benefit|allocation)\s+(?:program|initiative|event|campaign|distribution)\b|)"
-     R"(\b(?:earn|receive|get)\s+(?:up\s+to\s+)?\d+\s?%[^.!?]{0,20}\b(?:bonus\w*|rewards?|benefits?|apy|yield|returns?)\b[^.!?]{0,25}\b(?:xrp|btc|bitcoin|eth|crypto|holdings?|staking|tokens?|wallet)\b|)"
+     R"(\b(?:earn|receive|get)\s+(?:up\s+to\s+)?\d+\s?%<20>\b(?:bonus\w*|rewards?|benefits?|apy|yield|returns?)\b<25>\b(?:xrp|btc|bitcoin|eth|crypto|holdings?|staking|tokens?|wallet)\b|)"
      R"(\b(?:early|exclusive|community)\s+(?:allocation|airdrop|access\s+allocation)\b|)"
-     R"(\b(?:erhalten|abholen|sichern|beanspruchen|auszahl\w+)\b[^.!?]{0,60}\b(?:airdrop|(?:gratis|kostenlose)[- ](?:token|coins|bitcoins?))\b|)"
+     R"(\b(?:erhalten|abholen|sichern|beanspruchen|auszahl\w+)\b<60>\b(?:airdrop|(?:gratis|kostenlose)[- ](?:token|coins|bitcoins?))\b|)"
      R"(\b(?:bitcoin-?konto|bitcoins?\s+auf\s+ihrem|btc\s+auf\s+ihrem|krypto-?konto)\b|)"
-     R"(\b(?:réclame[rz]|récupére[rz]|recevoir|recevez)\b[^.!?]{0,50}\b(?:airdrop|tokens?\s+gratuits?|bitcoins?\s+gratuits?|récompenses?\s+crypto)\b|)"
-     R"(\b(?:reclam\w+|recib\w+|resgat\w+|receb\w+|reivindi\w+)\b[^.!?]{0,50}\b(?:airdrop|tokens?\s+gratis|tokens?\s+gratuitos?|bitcoins?\s+gr[áa]tis|cripto\w*\s+gr[áa]tis)\b|)"
-     R"((?:领取|領取|免费|免費)[^。！？.!?]{0,15}(?:空投|代币|代幣|USDT|比特币|比特幣)|)"
-     R"((?:エアドロップ)[^。！？.!?]{0,30}(?:受け取|請求|参加)|)"
-     R"((?:에어드랍|에어드롭)[^.!?。]{0,30}(?:받으|신청|참여))",
+     R"(\b(?:réclame[rz]|récupére[rz]|recevoir|recevez)\b<50>\b(?:airdrop|tokens?\s+gratuits?|bitcoins?\s+gratuits?|récompenses?\s+crypto)\b|)"
+     R"(\b(?:reclam\w+|recib\w+|resgat\w+|receb\w+|reivindi\w+)\b<50>\b(?:airdrop|tokens?\s+gratis|tokens?\s+gratuitos?|bitcoins?\s+gr[áa]tis|cripto\w*\s+gr[áa]tis)\b|)"
+     R"((?:领取|領取|免费|免費)<15>(?:空投|代币|代幣|USDT|比特币|比特幣)|)"
+     R"((?:エアドロップ)<30>(?:受け取|請求|参加)|)"
+     R"((?:에어드랍|에어드롭)<30>(?:받으|신청|참여))"); }),
      true},
     {"crypto-wallet-validate", "Crypto fraud", "warn", 55,
      "asks the reader to connect, validate or synchronise a crypto wallet",
+     pattern([] { return std::string_view(
      R"(\b(?:verify|validate)\s+(?:their|all)\s+wallets?\b|)"
      R"(\bback\s?up\s+your\s+(?:recovery|seed|secret)\b|)"
-     R"(\brecovery\s+phrase\b[^.!?]{0,60}\b(?:attention|backed\s+up|back\s+(?:it\s+)?up|expir\w+|reassigned|at\s+risk|update)\b|)"
-     R"(\bhardware\s+wallet\b[^.!?]{0,100}\bupdate\b|)"
-     R"(\b(?:security|data)\s+breach\b[^.!?]{0,120}\b(?:wallet\s+associated\s+with\s+your|your\s+(?:\w+\s+){0,2}(?:wallet|crypto\w*|seed|digital\s+assets))\b|)"
-     R"(\b(?:connect|validate|verify|synchroni[sz]e|sync|re-?connect|link|import|restore|rectify|migrate|authenticate|upgrade|update|unlock|re-?validate|secure|activate|confirm|whitelist)\b[^.!?]{0,12}\b(?:your|ur|my)\s+(?:[\w-]+\s+){0,3}(?:wallet|ledger\s+(?:device|live|wallet|account|nano)|metamask|trezor|phantom|trust\s?wallet|exodus|coinbase|recovery\s+phrase|seed\s+phrase|secret\s+phrase)\b|)"
-     R"(\b(?:wallet|metamask|ledger\s+live|trezor|trust\s?wallet|phantom|coinbase|exodus|kraken|binance)\b[^.!?]{0,30}\b(?:validation|verification|synchroni[sz]ation|migration|authentication|kyc|security\s+update|firmware\s+(?:update|upgrade)|upgrade|suspension)\b[^.!?]{0,30}\b(?:required|needed|process|pending|complete|must|mandatory|alert|notice)\b|)"
-     R"(\b(?:ledger\s+(?:live|device|wallet|nano|recover|user|customer|security)|your\s+ledger|trezor|metamask|crypto\s+wallet|hardware\s+wallet)\b[^.!?]{0,80}\b(?:firmware|security|mandatory|critical|important|urgent)\s+(?:update|upgrade|patch|migration|scan|notice|breach|verification)\b|)"
-     R"(\bfirmware\s+(?:upgrade|update)\b[^.!?]{0,60}\b(?:required|mandatory|access)\b[^.!?]{0,40}\b(?:ledger|trezor|wallet)\b|)"
-     R"(\b(?:ledger|wallet|trezor)\b[^.!?]{0,25}\b(?:scan\s+your\s+device|security\s+scan|identification\s+(?:not|required)|data\s+breach)\b|)"
-     R"(\b(?:update|upgrade|activate|patch)\s+(?:your|the)\s+(?:\w+\s+)?firmware\b[^.!?]{0,80}\b(?:wallet|ledger|trezor|assets|crypto\w*|funds|recovery)\b|)"
-     R"(\byour\s+(?:\w+\s+){0,2}(?:wallet|metamask|ledger|trezor)\b[^.!?]{0,50}\b(?:not\s+(?:yet\s+)?(?:been\s+)?(?:verified|validated|updated|synced)|pending\s+verification|unverified|suspended|restricted|at\s+risk|compromised|deactivated|disabled|limited|locked|due\s+for\s+an\s+update)\b|)"
+     R"(\brecovery\s+phrase\b<60>\b(?:attention|backed\s+up|back\s+(?:it\s+)?up|expir\w+|reassigned|at\s+risk|update)\b|)"
+     R"(\bhardware\s+wallet\b<100>\bupdate\b|)"
+     R"(\b(?:security|data)\s+breach\b<120>\b(?:wallet\s+associated\s+with\s+your|your\s+(?:\w+\s+){0,2}(?:wallet|crypto\w*|seed|digital\s+assets))\b|)"
+     R"(\b(?:connect|validate|verify|synchroni[sz]e|sync|re-?connect|link|import|restore|rectify|migrate|authenticate|upgrade|update|unlock|re-?validate|secure|activate|confirm|whitelist)\b<12>\b(?:your|ur|my)\s+(?:[\w-]+\s+){0,3}(?:wallet|ledger\s+(?:device|live|wallet|account|nano)|metamask|trezor|phantom|trust\s?wallet|exodus|coinbase|recovery\s+phrase|seed\s+phrase|secret\s+phrase)\b|)"
+     R"(\b(?:wallet|metamask|ledger\s+live|trezor|trust\s?wallet|phantom|coinbase|exodus|kraken|binance)\b<30>\b(?:validation|verification|synchroni[sz]ation|migration|authentication|kyc|security\s+update|firmware\s+(?:update|upgrade)|upgrade|suspension)\b<30>\b(?:required|needed|process|pending|complete|must|mandatory|alert|notice)\b|)"
+     R"(\b(?:ledger\s+(?:live|device|wallet|nano|recover|user|customer|security)|your\s+ledger|trezor|metamask|crypto\s+wallet|hardware\s+wallet)\b<80>\b(?:firmware|security|mandatory|critical|important|urgent)\s+(?:update|upgrade|patch|migration|scan|notice|breach|verification)\b|)"
+     R"(\bfirmware\s+(?:upgrade|update)\b<60>\b(?:required|mandatory|access)\b<40>\b(?:ledger|trezor|wallet)\b|)"
+     R"(\b(?:ledger|wallet|trezor)\b<25>\b(?:scan\s+your\s+device|security\s+scan|identification\s+(?:not|required)|data\s+breach)\b|)"
+     R"(\b(?:update|upgrade|activate|patch)\s+(?:your|the)\s+(?:\w+\s+)?firmware\b<80>\b(?:wallet|ledger|trezor|assets|crypto\w*|funds|recovery)\b|)"
+     R"(\byour\s+(?:\w+\s+){0,2}(?:wallet|metamask|ledger|trezor)\b<50>\b(?:not\s+(?:yet\s+)?(?:been\s+)?(?:verified|validated|updated|synced)|pending\s+verification|unverified|suspended|restricted|at\s+risk|compromised|deactivated|disabled|limited|locked|due\s+for\s+an\s+update)\b|)"
      R"(\b(?:unverified|unauthenticated|unvalidated)\s+wallets?\b|)"
-     R"(\b(?:recovery|seed|secret|mnemonic|backup)\s+phrases?\b[^.!?]{0,50}\b(?:exposed|compromised|breach|leaked)\b|)"
+     R"(\b(?:recovery|seed|secret|mnemonic|backup)\s+phrases?\b<50>\b(?:exposed|compromised|breach|leaked)\b|)"
      R"(\b(?:confirm|verify|check|validate|enter|import|restore)\s+(?:\w+\s+){0,3}(?:recovery|seed|secret|mnemonic|backup)\s+phrase\b|)"
-     R"(\b(?:access|log\s?in\s+to|sign\s?in\s+to|open)\s+your\s+(?:\w+\s+)?(?:wallet|metamask)\s+(?:account\s+)?(?:here|below|now|and|to)\b[^.!?]{0,40}\b(?:verify|verification|confirm|link|claim|complete|secure)\b|)"
-     R"(\b(?:verbinden|verifizieren|validieren|synchronisieren|bestätigen|aktualisieren)\s+Sie[^.!?]{0,30}\b(?:wallet|ledger|metamask|trezor)\b|)"
-     R"(\b(?:wallet|ledger|metamask|trezor)\b[^.!?]{0,30}\b(?:verifizieren|validieren|synchronisieren|bestätigen|aktualisieren|verbinden)\b|)"
-     R"(\b(?:connecte[rz]|vérifie[rz]|valide[rz]|synchronise[rz])\b[^.!?]{0,30}\b(?:portefeuille|wallet|ledger|metamask)\b|)"
-     R"(\b(?:conect\w+|verifi\w+|valid\w+|sincroni\w+)\b[^.!?]{0,30}\b(?:su|tu|sua|a|la)\s+(?:\w+\s+)?(?:billetera|carteira|wallet|metamask|ledger)\b|)"
-     R"((?:连接|連接|验证|驗證|同步)[^。！？.!?]{0,8}(?:钱包|錢包)|)"
-     R"((?:ウォレット)[^。！？.!?]{0,12}(?:接続|認証|検証|同期))",
+     R"(\b(?:access|log\s?in\s+to|sign\s?in\s+to|open)\s+your\s+(?:\w+\s+)?(?:wallet|metamask)\s+(?:account\s+)?(?:here|below|now|and|to)\b<40>\b(?:verify|verification|confirm|link|claim|complete|secure)\b|)"
+     R"(\b(?:verbinden|verifizieren|validieren|synchronisieren|bestätigen|aktualisieren)\s+Sie<30>\b(?:wallet|ledger|metamask|trezor)\b|)"
+     R"(\b(?:wallet|ledger|metamask|trezor)\b<30>\b(?:verifizieren|validieren|synchronisieren|bestätigen|aktualisieren|verbinden)\b|)"
+     R"(\b(?:connecte[rz]|vérifie[rz]|valide[rz]|synchronise[rz])\b<30>\b(?:portefeuille|wallet|ledger|metamask)\b|)"
+     R"(\b(?:conect\w+|verifi\w+|valid\w+|sincroni\w+)\b<30>\b(?:su|tu|sua|a|la)\s+(?:\w+\s+)?(?:billetera|carteira|wallet|metamask|ledger)\b|)"
+     R"((?:连接|連接|验证|驗證|同步)<8>(?:钱包|錢包)|)"
+     R"((?:ウォレット)<12>(?:接続|認証|検証|同期))"); }),
      true},
     {"crypto-btc-address", "Crypto fraud", "warn", 30,
      "contains a cryptocurrency address, to which a payment cannot be called back",
@@ -755,369 +856,392 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"crypto-guaranteed", "Crypto fraud", "warn", 50,
      "promises guaranteed returns on an investment",
-     R"(\b(?:guaranteed?|assured|certain|fixed|steady|consistent)\b[^.!?]{0,25}\b(?:returns?|profits?|income|roi|earnings|gains?|payouts?|winnings|daily\s+profit)\b[^.!?]{0,40}\b(?:(?:invest\w*|trad\w*|daily|weekly|monthly|crypto\w*|bitcoin|forex|percent|capital|deposit|day|week|month)\b|\d+\s?%)|)"
-     R"(\b(?:invest\w*|trad\w*|crypto\w*|bitcoin|forex|deposit)\b[^.!?]{0,60}\b(?:guaranteed?|assured)\b[^.!?]{0,25}\b(?:returns?|profits?|income|roi|earnings|gains?|payouts?)\b|)"
-     R"(\b(?:earn|make|profit|returns?|roi|gain|receive|yield)\b[^.!?]{0,25}\b(?:up\s+to\s+|over\s+|at\s+least\s+|of\s+)?\d[\d.,]*\s?(?:%|percent)[^.!?]{0,15}\b(?:daily|per\s+day|a\s+day|every\s+day|weekly|per\s+week|every\s+week|a\s+week|in\s+(?:\d+|24)\s+(?:hours|days)|monthly|per\s+month)\b|)"
-     R"(\b(?:earn|make|making|earning|generate|pocket)\b[^.!?]{0,25}[$€£]\s?\d[\d,.]*k?\b[^.!?]{0,20}\b(?:daily|per\s+day|a\s+day|every\s+day|weekly|per\s+week|a\s+week|every\s+week|in\s+(?:just\s+)?\d+\s+(?:hours?|days?)|per\s+hour|an\s+hour)\b[^.!?]{0,60}\b(?:invest\w*|trad\w*|crypto\w*|bitcoin|forex|platform|app|bot|system|software|ai|automated)\b|)"
-     R"(\b(?:invest\w*|trad\w*|crypto\w*|bitcoin|forex|bot)\b[^.!?]{0,60}\b(?:earn|make|making|earning|generat\w+|pocket\w*)\b[^.!?]{0,25}[$€£]\s?\d[\d,.]*k?\b[^.!?]{0,20}\b(?:daily|per\s+day|a\s+day|every\s+day|weekly|per\s+week|a\s+week|every\s+week|in\s+(?:just\s+)?\d+\s+(?:hours?|days?))\b|)"
-     R"(\b(?:garantiert\w*|sicher\w*)\b[^.!?]{0,20}\b(?:rendite\w*|gewinne?|ertr[aä]g\w*|einkommen)\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:guaranteed?|assured|certain|fixed|steady|consistent)\b<25>\b(?:returns?|profits?|income|roi|earnings|gains?|payouts?|winnings|daily\s+profit)\b<40>\b(?:(?:invest\w*|trad\w*|daily|weekly|monthly|crypto\w*|bitcoin|forex|percent|capital|deposit|day|week|month)\b|\d+\s?%)|)"
+     R"(\b(?:invest\w*|trad\w*|crypto\w*|bitcoin|forex|deposit)\b<60>\b(?:guaranteed?|assured)\b<25>\b(?:returns?|profits?|income|roi|earnings|gains?|payouts?)\b|)"
+     R"(\b(?:earn|make|profit|returns?|roi|gain|receive|yield)\b<25>\b(?:up\s+to\s+|over\s+|at\s+least\s+|of\s+)?\d[\d.,]*\s?(?:%|percent)<15>\b(?:daily|per\s+day|a\s+day|every\s+day|weekly|per\s+week|every\s+week|a\s+week|in\s+(?:\d+|24)\s+(?:hours|days)|monthly|per\s+month)\b|)"
+     R"(\b(?:earn|make|making|earning|generate|pocket)\b<25>[$€£]\s?\d[\d,.]*k?\b<20>\b(?:daily|per\s+day|a\s+day|every\s+day|weekly|per\s+week|a\s+week|every\s+week|in\s+(?:just\s+)?\d+\s+(?:hours?|days?)|per\s+hour|an\s+hour)\b<60>\b(?:invest\w*|trad\w*|crypto\w*|bitcoin|forex|platform|app|bot|system|software|ai|automated)\b|)"
+     R"(\b(?:invest\w*|trad\w*|crypto\w*|bitcoin|forex|bot)\b<60>\b(?:earn|make|making|earning|generat\w+|pocket\w*)\b<25>[$€£]\s?\d[\d,.]*k?\b<20>\b(?:daily|per\s+day|a\s+day|every\s+day|weekly|per\s+week|a\s+week|every\s+week|in\s+(?:just\s+)?\d+\s+(?:hours?|days?))\b|)"
+     R"(\b(?:garantiert\w*|sicher\w*)\b<20>\b(?:rendite\w*|gewinne?|ertr[aä]g\w*|einkommen)\b|)"
      R"(\b(?:rendements?|gains?|bénéfices|revenus?|profits?)\s+(?:\w+\s+)?garantis?\b|)"
      R"(\b(?:ganancias?|rendimientos?|rentabilidad|ingresos|lucros?|ganhos?|retornos?|rendimentos?)\s+(?:\w+\s+)?(?:garantizad[oa]s?|garantid[oa]s?|asegurad[oa]s?)\b|)"
      R"(\bgegarandeerde?\s+(?:rendement|winst|inkomsten|opbrengst)\b|)"
-     R"((?:保证|保證|稳定|穩定|稳赚|穩賺|高额|高額)[^。！？.!?]{0,6}(?:收益|回报|回報|盈利|利润|利潤|不赔|不賠)|)"
-     R"((?:必ず|確実に|絶対に?)[^。！？.!?]{0,8}(?:儲か|稼げ|利益)|)"
+     R"((?:保证|保證|稳定|穩定|稳赚|穩賺|高额|高額)<6>(?:收益|回报|回報|盈利|利润|利潤|不赔|不賠)|)"
+     R"((?:必ず|確実に|絶対に?)<8>(?:儲か|稼げ|利益)|)"
      R"((?:元本保証|月利\d|日利\d)|)"
-     R"((?:수익|원금)[^.!?。]{0,6}(?:보장|확정))",
+     R"((?:수익|원금)<6>(?:보장|확정))"); }),
      true},
     {"crypto-risk-free", "Crypto fraud", "warn", 40,
      "calls an investment free of risk",
-     R"(\b(?:risk[- ]?free|no[- ]risk|zero[- ]risk|without\s+(?:any\s+)?risk|100%\s+(?:safe|secure)|cannot\s+lose|can['’]t\s+lose|never\s+lose)\b[^.!?]{0,60}\b(?:invest\w*|trad(?:e|es|ing)|crypto\w*|bitcoin|forex|profits?|returns?|opportunity|earn\w*|income|bet|betting|business)\b|)"
-     R"(\b(?:invest(?:ment|ing|or|ors)?|trad(?:e|es|ing)|crypto\w*|bitcoin|forex|profits?|returns?|income|transaction|business|deal)\b[^.!?]{0,60}\b(?:risk[- ]?free|no\s+risk|zero\s+risk|without\s+(?:any\s+)?risk|100%\s+(?:safe|secure)|hitch[- ]free)\b|)"
-     R"(\brisiko(?:los|frei)\w*\b[^.!?]{0,40}\b(?:invest\w*|anlage\w*|gewinn\w*|rendite\w*|geld\w*|krypto\w*|verdien\w*)\b|)"
-     R"(\bsans\s+(?:aucun\s+)?risque\b[^.!?]{0,40}\b(?:invest\w*|gain\w*|placement\w*|rendement\w*)\b|)"
-     R"(\b(?:sin|sem)\s+(?:ning[úu]n\s+)?(?:riesgos?|riscos?)\b[^.!?]{0,40}\b(?:inver\w+|invest\w+|gan\w+|rend\w+|lucr\w+)\b|)"
-     R"((?:零风险|零風險|无风险|無風險|ノーリスク|무위험))",
+     pattern([] { return std::string_view(
+     R"(\b(?:risk[- ]?free|no[- ]risk|zero[- ]risk|without\s+(?:any\s+)?risk|100%\s+(?:safe|secure)|cannot\s+lose|can['’]t\s+lose|never\s+lose)\b<60>\b(?:invest\w*|trad(?:e|es|ing)|crypto\w*|bitcoin|forex|profits?|returns?|opportunity|earn\w*|income|bet|betting|business)\b|)"
+     R"(\b(?:invest(?:ment|ing|or|ors)?|trad(?:e|es|ing)|crypto\w*|bitcoin|forex|profits?|returns?|income|transaction|business|deal)\b<60>\b(?:risk[- ]?free|no\s+risk|zero\s+risk|without\s+(?:any\s+)?risk|100%\s+(?:safe|secure)|hitch[- ]free)\b|)"
+     R"(\brisiko(?:los|frei)\w*\b<40>\b(?:invest\w*|anlage\w*|gewinn\w*|rendite\w*|geld\w*|krypto\w*|verdien\w*)\b|)"
+     R"(\bsans\s+(?:aucun\s+)?risque\b<40>\b(?:invest\w*|gain\w*|placement\w*|rendement\w*)\b|)"
+     R"(\b(?:sin|sem)\s+(?:ning[úu]n\s+)?(?:riesgos?|riscos?)\b<40>\b(?:inver\w+|invest\w+|gan\w+|rend\w+|lucr\w+)\b|)"
+     R"((?:零风险|零風險|无风险|無風險|ノーリスク|무위험))"); }),
      true},
     {"crypto-insider", "Crypto fraud", "warn", 40,
      "offers inside knowledge or a mentor for quick trading profits",
-     R"(\b(?:insider|inside|leaked|secret|exclusive|vip|private)\s+(?:tips?|information|info|signals?|knowledge|trading\s+group|investment\s+group|strategy|trading\s+strategy)\b[^.!?]{0,60}\b(?:crypto\w*|bitcoin|forex|stocks?|coins?|trad\w*|invest\w*|profits?|market|returns)\b|)"
-     R"(\b(?:join|add|enter|scan|contact)\b[^.!?]{0,30}\b(?:our|my|the|this)\s+(?:\w+\s+)?(?:vip\s+|private\s+|exclusive\s+|free\s+|investment\s+|trading\s+|stock\s+|crypto\s+|signal\s+)+(?:group|channel|community|club|chat|room|signals)\b|)"
-     R"(\bearn\b[^.!?]{0,15}\b(?:\d\s+figures?|six\s+figures?|seven\s+figures?)\b[^.!?]{0,40}\b(?:crypto\w*|bitcoin|forex|trad\w+|mining)\b|)"
-     R"(\b(?:my|our|a|an|the)\s+(?:\w+\s+){0,2}(?:mentor|account\s+manager|broker|trading\s+expert|trader|analyst|professor|uncle|aunt)\b[^.!?]{0,60}\b(?:crypto\w*|bitcoin|forex|signals?|trad(?:e|es|ing))\b[^.!?]{0,50}\b(?:profits?|earn\w*|returns?|invest\w*|made|grow|teach|help\w*)\b|)"
-     R"(\b(?:trading|crypto|forex|bitcoin|investment|stock)\s+(?:signals?|platform|bot|robot|software|mentor|expert)\b[^.!?]{0,60}\b(?:profits?|accuracy|win\s+rate|earn\w*|returns?|guarantee\w*|automat\w*|whats\s?app|telegram|join|millionaires?)\b|)"
-     R"(\b(?:whats\s?app|telegram)\b[^.!?]{0,40}\b(?:trading|investment|stock|crypto|signal|vip)\b[^.!?]{0,12}\b(?:group|channel|community|signals?)\b|)"
-     R"(\b(?:insider|geheim)\w*\b[^.!?]{0,30}\b(?:tipp\w*|börsen\w*|aktien\w*|krypto\w*)\b[^.!?]{0,40}\b(?:gewinn\w*|rendite\w*|gruppe|kanal)\b|)"
-     R"((?:内幕|內幕|导师|導師|老师带单|带单)[^。！？.!?]{0,15}(?:消息|投资|投資|股票|盈利|收益|群)|)"
-     R"((?:加入|加)[^。！？.!?]{0,8}(?:股票|投资|投資|炒股)[^。！？.!?]{0,4}(?:群|交流)|)"
-     R"((?:投資|株|銘柄)[^。！？.!?]{0,12}(?:グループ|LINE)[^。！？.!?]{0,12}(?:参加|登録|招待|追加)|)"
-     R"((?:리딩방|주식\s?정보방|급등주|투자\s?(?:방|그룹|리딩)))",
+     pattern([] { return std::string_view(
+     R"(\b(?:insider|inside|leaked|secret|exclusive|vip|private)\s+(?:tips?|information|info|signals?|knowledge|trading\s+group|investment\s+group|strategy|trading\s+strategy)\b<60>\b(?:crypto\w*|bitcoin|forex|stocks?|coins?|trad\w*|invest\w*|profits?|market|returns)\b|)"
+     R"(\b(?:join|add|enter|scan|contact)\b<30>\b(?:our|my|the|this)\s+(?:\w+\s+)?(?:vip\s+|private\s+|exclusive\s+|free\s+|investment\s+|trading\s+|stock\s+|crypto\s+|signal\s+)+(?:group|channel|community|club|chat|room|signals)\b|)"
+     R"(\bearn\b<15>\b(?:\d\s+figures?|six\s+figures?|seven\s+figures?)\b<40>\b(?:crypto\w*|bitcoin|forex|trad\w+|mining)\b|)"
+     R"(\b(?:my|our|a|an|the)\s+(?:\w+\s+){0,2}(?:mentor|account\s+manager|broker|trading\s+expert|trader|analyst|professor|uncle|aunt)\b<60>\b(?:crypto\w*|bitcoin|forex|signals?|trad(?:e|es|ing))\b<50>\b(?:profits?|earn\w*|returns?|invest\w*|made|grow|teach|help\w*)\b|)"
+     R"(\b(?:trading|crypto|forex|bitcoin|investment|stock)\s+(?:signals?|platform|bot|robot|software|mentor|expert)\b<60>\b(?:profits?|accuracy|win\s+rate|earn\w*|returns?|guarantee\w*|automat\w*|whats\s?app|telegram|join|millionaires?)\b|)"
+     R"(\b(?:whats\s?app|telegram)\b<40>\b(?:trading|investment|stock|crypto|signal|vip)\b<12>\b(?:group|channel|community|signals?)\b|)"
+     R"(\b(?:insider|geheim)\w*\b<30>\b(?:tipp\w*|börsen\w*|aktien\w*|krypto\w*)\b<40>\b(?:gewinn\w*|rendite\w*|gruppe|kanal)\b|)"
+     R"((?:内幕|內幕|导师|導師|老师带单|带单)<15>(?:消息|投资|投資|股票|盈利|收益|群)|)"
+     R"((?:加入|加)<8>(?:股票|投资|投資|炒股)<4>(?:群|交流)|)"
+     R"((?:投資|株|銘柄)<12>(?:グループ|LINE)<12>(?:参加|登録|招待|追加)|)"
+     R"((?:리딩방|주식\s?정보방|급등주|투자\s?(?:방|그룹|리딩)))"); }),
      true},
     {"crypto-pump", "Crypto fraud", "warn", 45,
      "hypes a coin or share so that others buy before the fall",
-     R"((?:\b(?:coin|token|crypto\w*|stock|shares?|ticker)|\$[a-z]{2,6})\b[^.!?]{0,50}\b(?:about\s+to|going\s+to|will|ready\s+to|set\s+to|poised\s+to)\s+(?:explode|moon|skyrocket|pump|100x|10x|50x|blast\s+off|soar)\b|)"
+     pattern([] { return std::string_view(
+     R"((?:\b(?:coin|token|crypto\w*|stock|shares?|ticker)|\$[a-z]{2,6})\b<50>\b(?:about\s+to|going\s+to|will|ready\s+to|set\s+to|poised\s+to)\s+(?:explode|moon|skyrocket|pump|100x|10x|50x|blast\s+off|soar)\b|)"
      R"(\b(?:next|guaranteed|easy|potential)\s+(?:100x|1000x|50x|10x|moonshot|gem)\b|)"
-     R"(\b(?:pump|pumping|buy|load\s+up|get\s+in)\b[^.!?]{0,25}\b(?:before|now\s+before)\b[^.!?]{0,15}\b(?:it|this|the)\b[^.!?]{0,8}\b(?:moons?|pumps?|explodes?|takes\s+off|skyrockets?|launch(?:es)?|lists?|too\s+late)\b|)"
-     R"(\b(?:presale|pre-sale|ico|private\s+sale)\b[^.!?]{0,60}\b(?:token|coin|crypto\w*|100x|50x|10x|bonus|buy\s+now|don['’]t\s+miss|ends)\b[^.!?]{0,40}\b(?:100x|50x|10x|1000x|bonus|moon|don['’]t\s+miss|last\s+chance|guaranteed|buy\s+now)\b|)"
+     R"(\b(?:pump|pumping|buy|load\s+up|get\s+in)\b<25>\b(?:before|now\s+before)\b<15>\b(?:it|this|the)\b<8>\b(?:moons?|pumps?|explodes?|takes\s+off|skyrockets?|launch(?:es)?|lists?|too\s+late)\b|)"
+     R"(\b(?:presale|pre-sale|ico|private\s+sale)\b<60>\b(?:token|coin|crypto\w*|100x|50x|10x|bonus|buy\s+now|don['’]t\s+miss|ends)\b<40>\b(?:100x|50x|10x|1000x|bonus|moon|don['’]t\s+miss|last\s+chance|guaranteed|buy\s+now)\b|)"
      R"(\b(?:coordinated|group|organi[sz]ed|scheduled)\s+pump\b|)"
      R"(\b(?:pump\s+signal|pump\s+group|pump\s+and\s+dump\s+group)\b|)"
-     R"((?:百倍币|百倍幣|千倍币|拉盘|拉盤))",
+     R"((?:百倍币|百倍幣|千倍币|拉盘|拉盤))"); }),
      true},
 
     // ---- Advance fee ---------------------------------------------------------------------------
     {"afee-lottery", "Advance fee", "warn", 55,
      "says the reader has won or been chosen for a prize",
+     pattern([] { return std::string_view(
      R"(\b(?:claim|unlock|redeem)\s+(?:my\s+|your\s+|the\s+|this\s+)?(?:\w+\s+){0,2}(?:rewards?|gift|prize|surprise|benefit)\b|)"
      R"(\bget\s+(?:my|your)\s+(?:free\s+|exclusive\s+|special\s+)?(?:reward|gift|prize|gift\s+card|sample)\b|)"
      R"(\bexclusive\s+(?:[\w’\'-]+\s+){0,3}reward\b|)"
      R"(\b(?:reward|gift|prize|special\s+offer|surprise|voucher|gift\s+card)s?\s+(?:is|are)\s+(?:still\s+)?(?:waiting|unclaimed|reserved|ready\s+for\s+you)\b|)"
      R"(\bspecial\s+(?:gift|reward|surprise)\s+(?:just\s+|only\s+|exclusively\s+)?for\s+you\b|)"
-     R"(\b(?:produkttester|produkttest|testpaket)\b[^.!?]{0,60}\b(?:kostenlos\w*|gratis|chance|erhalten|gesucht|werden)\b|)"
+     R"(\b(?:produkttester|produkttest|testpaket)\b<60>\b(?:kostenlos\w*|gratis|chance|erhalten|gesucht|werden)\b|)"
      R"(\bfür\s+eine\s+spende\s+(?:von|in\s+höhe)\b|)"
-     R"(\b(?:gewinnen\s+sie|gewinne|gewinn)\s+(?:jetzt\s+|heute\s+|eine[nr]?\s+|ein\s+)[^.!?]{0,30}\b(?:geschenkkarte|[\w-]*gutschein|iphone|mystery\s+box|[\w-]*set|gratis)\b|)"
-     R"(\b(?:unsere[rm]?|an|kurze?|dieser?)\b[^.!?]{0,25}\b(?:umfrage|fragebogen)\b[^.!?]{0,90}\b(?:kostenlos\w*|gehört\s+ihnen|gratis)\b|)"
-     R"(\b(?:kostenlos\w*|gratis|brandneu\w*)\b[^.!?]{0,90}\b(?:umfrage|fragebogen)\b|)"
-     R"(\bmaakt?\s+kans\s+op\b[^.!?]{0,40}\b(?:cadeaukaart|prijs|gratis|iphone|tegoed|waardebon)\b|)"
-     R"(\b(?:you|u|your\s+(?:e-?mail|number|name|e-?mail\s+address|mobile|ticket|entry|household|ip\s+address))(?:\s+have|['’]ve|\s+has|\s+are|['’]re|\s+were|\s+was)?\b[^.!?]{0,8}\b(?:won|awarded|emerged|(?:the|a|our|one\s+of\s+(?:the|our))\s+(?:\w+\s+)?(?:lucky\s+)?winners?|been\s+(?:selected|chosen|drawn|picked)\s+(?:as|to\s+(?:win|receive|get)|for\s+(?:a|an|our|the|this)))\b[^.!?]{0,40}\b(?:prizes?|lottery|lotto|jackpot|sweepstakes?|raffle|rewards?|cash|gift\s?cards?|i-?phone|samsung|galaxy|vouchers?|exclusive|brand\s+new|free|mega\s+millions|powerball|winnings|gift|mystery|offer|\d{3}[\d,.]*)\b|)"
-     R"(\b(?:won|winner\s+of|winners?\s+(?:in|of)\s+the)\b[^.!?]{0,30}\b(?:lottery|lotto|jackpot|mega\s+millions|powerball|e-?mail\s+(?:draw|ballot|lottery)|grand\s+prize|cash\s+prize)\b|)"
+     R"(\b(?:gewinnen\s+sie|gewinne|gewinn)\s+(?:jetzt\s+|heute\s+|eine[nr]?\s+|ein\s+)<30>\b(?:geschenkkarte|[\w-]*gutschein|iphone|mystery\s+box|[\w-]*set|gratis)\b|)"
+     R"(\b(?:unsere[rm]?|an|kurze?|dieser?)\b<25>\b(?:umfrage|fragebogen)\b<90>\b(?:kostenlos\w*|gehört\s+ihnen|gratis)\b|)"
+     R"(\b(?:kostenlos\w*|gratis|brandneu\w*)\b<90>\b(?:umfrage|fragebogen)\b|)"
+     R"(\bmaakt?\s+kans\s+op\b<40>\b(?:cadeaukaart|prijs|gratis|iphone|tegoed|waardebon)\b|)"
+     R"(\b(?:you|u|your\s+(?:e-?mail|number|name|e-?mail\s+address|mobile|ticket|entry|household|ip\s+address))(?:\s+have|['’]ve|\s+has|\s+are|['’]re|\s+were|\s+was)?\b<8>\b(?:won|awarded|emerged|(?:the|a|our|one\s+of\s+(?:the|our))\s+(?:\w+\s+)?(?:lucky\s+)?winners?|been\s+(?:selected|chosen|drawn|picked)\s+(?:as|to\s+(?:win|receive|get)|for\s+(?:a|an|our|the|this)))\b<40>\b(?:prizes?|lottery|lotto|jackpot|sweepstakes?|raffle|rewards?|cash|gift\s?cards?|i-?phone|samsung|galaxy|vouchers?|exclusive|brand\s+new|free|mega\s+millions|powerball|winnings|gift|mystery|offer|\d{3}[\d,.]*)\b|)"
+     R"(\b(?:won|winner\s+of|winners?\s+(?:in|of)\s+the)\b<30>\b(?:lottery|lotto|jackpot|mega\s+millions|powerball|e-?mail\s+(?:draw|ballot|lottery)|grand\s+prize|cash\s+prize)\b|)"
      R"(\b(?:lottery|lotto|sweepstakes?|draw|promo|raffle|prize)\s+(?:winner|winning\s+(?:number|notification|ticket|notice))\b|)"
-     R"(\bcongrat(?:ulation)?s?\b[^.!?]{0,60}\b(?:you(?:['’]ve|\s+have)?\s+(?:\w+\s+)?(?:won|been\s+(?:selected|chosen))|you\s+are\s+(?:\w+\s+){0,4}(?:winner|eligible|qualified)|your\s+(?:\w+\s+)?(?:reward|prize|gift))\b|)"
+     R"(\bcongrat(?:ulation)?s?\b<60>\b(?:you(?:['’]ve|\s+have)?\s+(?:\w+\s+)?(?:won|been\s+(?:selected|chosen))|you\s+are\s+(?:\w+\s+){0,4}(?:winner|eligible|qualified)|your\s+(?:\w+\s+)?(?:reward|prize|gift))\b|)"
      R"(\b(?:you|u)(?:\s+have\s+been|['’]ve\s+been|\s+were|\s+are)\s+(?:\w+\s+)?(?:selected|chosen|picked)\s+(?:as\s+(?:one\s+of\s+(?:the|our)\s+(?:\w+\s+)?(?:winners?|few|lucky)|a\s+(?:\w+\s+)?winner)|to\s+(?:receive|win|get|claim|try|enjoy|join\s+our|complete)|for\s+(?:a|an|our|the|this)\s+(?:\w+\s+){0,2}(?:prize|reward|gift|chance|exclusive|free|giveaway|loyalty))\b|)"
      R"(\b(?:claim|collect|redeem|unlock)\b\s+(?:your|ur|the)\s+(?:[\w$€£'’.-]+\s+){0,4}(?:prize|winnings?|free\s+gift|gift|jackpot|gift\s?card|mystery\s+box|surprise|giveaway|voucher|sample|set|kit)\b|)"
-     R"((?:\b(?:special|exclusive|free|mystery|brand[- ]new|reward|surprise|gift|prize)|\$\d+|€\d+)\b[^.!?]{0,25}\b(?:is|are)\s+(?:\w+\s+)?(?:waiting\s+for\s+you|reserved\s+for\s+you|yours\s+to\s+claim|ready\s+to\s+(?:be\s+)?claim(?:ed)?|set\s+aside\s+for\s+you)\b|)"
+     R"((?:\b(?:special|exclusive|free|mystery|brand[- ]new|reward|surprise|gift|prize)|\$\d+|€\d+)\b<25>\b(?:is|are)\s+(?:\w+\s+)?(?:waiting\s+for\s+you|reserved\s+for\s+you|yours\s+to\s+claim|ready\s+to\s+(?:be\s+)?claim(?:ed)?|set\s+aside\s+for\s+you)\b|)"
      R"(\byou(?:['’]ve|\s+have)\s+(?:been\s+)?(?:won|win)\s+(?:a|an|the|our|\(?1\)?)\s+(?:[\w-]+\s+){0,2}(?:new|free|brand[- ]new|\$\d|prize|gift|voucher|reward|\(\d\))|)"
-     R"(\bmystery\s+box\b[^.!?]{0,80}\b(?:claim|free|chance|receive|won|win|selected|waiting|yours|unclaimed|lost)\b|)"
-     R"(\b(?:Sie|du|ihre\s+e-?mail(?:-adresse)?)\b[^.!?]{0,50}\b(?:[\w-]*gutschein\w*|gewinn|preis|prämie|geschenk\w*|iphone|exklusive\w*|brandneue\w*|belohnung|gratis\w*|kostenlose\w*)\b[^.!?]{0,60}\b(?:gewonnen|ausgewählt|auserwählt|ausgelost)\b|)"
-     R"(\b(?:ausgewählt|auserwählt|ausgelost|nominiert),?\s+(?:worden,?\s+)?um\b[^.!?]{0,60}\b(?:erhalten|gewinnen|teilzunehmen|anzufordern)\b|)"
+     R"(\bmystery\s+box\b<80>\b(?:claim|free|chance|receive|won|win|selected|waiting|yours|unclaimed|lost)\b|)"
+     R"(\b(?:Sie|du|ihre\s+e-?mail(?:-adresse)?)\b<50>\b(?:[\w-]*gutschein\w*|gewinn|preis|prämie|geschenk\w*|iphone|exklusive\w*|brandneue\w*|belohnung|gratis\w*|kostenlose\w*)\b<60>\b(?:gewonnen|ausgewählt|auserwählt|ausgelost)\b|)"
+     R"(\b(?:ausgewählt|auserwählt|ausgelost|nominiert),?\s+(?:worden,?\s+)?um\b<60>\b(?:erhalten|gewinnen|teilzunehmen|anzufordern)\b|)"
      R"(\b(?:Sie|du)\s+(?:\w+\s+){0,3}(?:gewonnen|ausgewählt)\s?(?:!|worden)|)"
      R"(\b(?:Sie|du)\s+(?:sind|bist)\s+(?:\w+\s+){0,3}gewinner\w*\b|)"
-     R"(\b(?:glückwunsch|glückwünsche|gratulier\w+|gratulation)\b[^.!?]{0,90}\b(?:gewonnen|ausgewählt|gewinner\w*|qualifiziert|belohnung|ausgelost|gutschein\w*)\b|)"
-     R"(\b(?:exklusive[nrs]?|kostenlose[nrs]?|gratis|brandneue[nrs]?|ihr(?:e[nr]?)?|dein(?:e[nr]?)?)\b[^.!?]{0,25}\b(?:gewinn|preis|prämie|belohnung|[\w-]*gutschein|überraschung|geschenk)\b[^.!?]{0,25}\b(?:abholen|abzuholen|einlösen|beanspruchen|anfordern|sichern|zu\s+beanspruchen|wartet|zu\s+sichern|anzufordern|abholbereit)\b|)"
-     R"(\b(?:einen|ein|eine)\s+(?:brandneue[nsr]?|kostenlose[nsr]?|exklusive[nsr]?)\b[^.!?]{0,50}\b(?:zu\s+(?:gewinnen|erhalten)|gewinnen|erhalten|anzufordern|beanspruchen|gratis)\b|)"
-     R"(\bvous\s+(?:avez|êtes)\s+(?:\w+\s+){0,3}(?:gagné|gagnante?|sélectionnée?|remporté|l['’]heureu(?:x|se)|tirée?\s+au\s+sort)\b[^.!?]{0,60}(?:!|\b(?:pour|prix|cadeau|lot|chèque|carte|iphone|un|une|recevoir|gagner)\b)|)"
-     R"(\b(?:félicitations?|bravo)\b[^.!?]{0,80}\b(?:gagné\w*|sélectionné\w*|gagnant\w*|remporté\w*|récompense\w*)\b|)"
-     R"(\b(?:ha|has|usted\s+ha|voc[êe]|foi|fue)\s+(?:sido\s+)?(?:\w+\s+)?(?:ganado|ganador|seleccionad[oa]|premiad[oa]|contemplad[oa]|sortead[oa]|selecionad[oa]|ganhou|vencedor[a]?)\b[^.!?]{0,60}(?:!|\b(?:premio|pr[êe]mio|para|sorteo|sorteio|regalo|brinde|gratis|um|uma|un|una|b[ôo]nus|cart[ãa]o|tarjeta|iphone)\b)|)"
-     R"(\b(?:felicidades|felicitaciones|enhorabuena|parab[ée]ns)\b[^.!?]{0,80}\b(?:ganad\w+|ganhou|seleccionad\w+|premiad\w+|contemplad\w+|selecionad\w+|vencedor\w*|recompensa)\b|)"
+     R"(\b(?:glückwunsch|glückwünsche|gratulier\w+|gratulation)\b<90>\b(?:gewonnen|ausgewählt|gewinner\w*|qualifiziert|belohnung|ausgelost|gutschein\w*)\b|)"
+     R"(\b(?:exklusive[nrs]?|kostenlose[nrs]?|gratis|brandneue[nrs]?|ihr(?:e[nr]?)?|dein(?:e[nr]?)?)\b<25>\b(?:gewinn|preis|prämie|belohnung|[\w-]*gutschein|überraschung|geschenk)\b<25>\b(?:abholen|abzuholen|einlösen|beanspruchen|anfordern|sichern|zu\s+beanspruchen|wartet|zu\s+sichern|anzufordern|abholbereit)\b|)"
+     R"(\b(?:einen|ein|eine)\s+(?:brandneue[nsr]?|kostenlose[nsr]?|exklusive[nsr]?)\b<50>\b(?:zu\s+(?:gewinnen|erhalten)|gewinnen|erhalten|anzufordern|beanspruchen|gratis)\b|)"
+     R"(\bvous\s+(?:avez|êtes)\s+(?:\w+\s+){0,3}(?:gagné|gagnante?|sélectionnée?|remporté|l['’]heureu(?:x|se)|tirée?\s+au\s+sort)\b<60>(?:!|\b(?:pour|prix|cadeau|lot|chèque|carte|iphone|un|une|recevoir|gagner)\b)|)"
+     R"(\b(?:félicitations?|bravo)\b<80>\b(?:gagné\w*|sélectionné\w*|gagnant\w*|remporté\w*|récompense\w*)\b|)"
+     R"(\b(?:ha|has|usted\s+ha|voc[êe]|foi|fue)\s+(?:sido\s+)?(?:\w+\s+)?(?:ganado|ganador|seleccionad[oa]|premiad[oa]|contemplad[oa]|sortead[oa]|selecionad[oa]|ganhou|vencedor[a]?)\b<60>(?:!|\b(?:premio|pr[êe]mio|para|sorteo|sorteio|regalo|brinde|gratis|um|uma|un|una|b[ôo]nus|cart[ãa]o|tarjeta|iphone)\b)|)"
+     R"(\b(?:felicidades|felicitaciones|enhorabuena|parab[ée]ns)\b<80>\b(?:ganad\w+|ganhou|seleccionad\w+|premiad\w+|contemplad\w+|selecionad\w+|vencedor\w*|recompensa)\b|)"
      R"(\b(?:u\s+hebt|u\s+heeft|u\s+bent|je\s+hebt|je\s+bent)\s+(?:[\w-]+\s+){0,4}(?:gewonnen|geselecteerd|uitgekozen|winnaar|de\s+gelukkige)\b|)"
-     R"(\bgefeliciteerd\b[^.!?]{0,80}\b(?:gewonnen|geselecteerd|winnaar|gekozen|kans)\b|)"
-     R"((?:恭喜|您已|你已|您的)[^。！？.!?]{0,15}(?:中奖|中獎|获奖|獲獎|抽中)|)"
-     R"((?:おめでとう|ご当選)[^。！？.!?]{0,25}(?:賞金|当選|プレゼント|獲得|選ばれ)|)"
-     R"((?:축하|당첨)[^.!?。]{0,20}(?:당첨|경품|상금|선정되))",
+     R"(\bgefeliciteerd\b<80>\b(?:gewonnen|geselecteerd|winnaar|gekozen|kans)\b|)"
+     R"((?:恭喜|您已|你已|您的)<15>(?:中奖|中獎|获奖|獲獎|抽中)|)"
+     R"((?:おめでとう|ご当選)<25>(?:賞金|当選|プレゼント|獲得|選ばれ)|)"
+     R"((?:축하|당첨)<20>(?:당첨|경품|상금|선정되))"); }),
      true},
     {"afee-lottery2", "Advance fee", "warn", 50,
      "holds out a prize, a reward or a stranger's donation to be claimed",
-     R"(\bdoou\b[^.!?]{0,30}\bmilhões\b|\bdoação\s+de\b[^.!?]{0,30}\bmilhões\b|)"
-     R"(\b(?:balance|payout|winnings)\s+of\s+[$€£]\s?\d[\d.,]*[^.!?]{0,60}\b(?:collect\w*|withdraw\w*|claim\w*|in\s+your\s+name)\b|)"
+     pattern([] { return std::string_view(
+     R"(\bdoou\b<30>\bmilhões\b|\bdoação\s+de\b<30>\bmilhões\b|)"
+     R"(\b(?:balance|payout|winnings)\s+of\s+[$€£]\s?\d[\d.,]*<60>\b(?:collect\w*|withdraw\w*|claim\w*|in\s+your\s+name)\b|)"
      R"(\b(?:grant|donation|award|sum|compensation)\s+of\s+(?:[\w-]+\s+){0,4}(?:million|thousand)\s+(?:[\w.]+\s+){0,3}(?:dollars|euros?|pounds|usd)\b|)"
-     R"(\b(?:e-?mail|name)\s+(?:address\s+)?(?:was|has\s+been|were)\s+(?:\w+\s+)?(?:selected|chosen|picked|drawn)\b[^.!?]{0,40}\b(?:spin|random\w*|ballot|draw|donat\w+|grant|million|receive)\b|)"
-     R"(\b(?:lottery|lotto|sweepstakes?|award|winning|promo|jackpot)\b[^.!?]{0,20}\b(?:claims?\s+(?:agent|department|officer|number|code|form|centre|center)|batch\s+(?:number|no)|serial\s+number|winning\s+(?:number|code))\b|)"
-     R"(\b(?:i|we|my\s+(?:wife|husband|family|foundation))\b[^.!?]{0,40}\b(?:donat(?:e|ed|ing|ion)|bequeath\w*|willed)\b[^.!?]{0,40}(?:\bsum\s+of\b|[$€£]\s?\d[\d,.]{4,}|\b\d[\d.,]*\s?(?:million|m\s+usd)\b|\bmillion\b)[^.!?]{0,80}\b(?:you|random\w*|individuals?|charity|beneficiary)\b|)"
-     R"(\b(?:donat(?:e|ed|ing|ion)|cash\s+(?:grant|aid|donation)|compensation|give\s+you|giving\s+you)\b[^.!?]{0,30}(?:of\s+|sum\s+of\s+|amount\s+of\s+)?[$€£]?\s?\d[\d,.]*[^.!?]{0,8}\b(?:million|m|usd|eur|euros?|dollars|pounds|gbp)\b[^.!?]{0,60}\b(?:you|your|to)\b|)"
+     R"(\b(?:e-?mail|name)\s+(?:address\s+)?(?:was|has\s+been|were)\s+(?:\w+\s+)?(?:selected|chosen|picked|drawn)\b<40>\b(?:spin|random\w*|ballot|draw|donat\w+|grant|million|receive)\b|)"
+     R"(\b(?:lottery|lotto|sweepstakes?|award|winning|promo|jackpot)\b<20>\b(?:claims?\s+(?:agent|department|officer|number|code|form|centre|center)|batch\s+(?:number|no)|serial\s+number|winning\s+(?:number|code))\b|)"
+     R"(\b(?:i|we|my\s+(?:wife|husband|family|foundation))\b<40>\b(?:donat(?:e|ed|ing|ion)|bequeath\w*|willed)\b<40>(?:\bsum\s+of\b|[$€£]\s?\d[\d,.]{4,}|\b\d[\d.,]*\s?(?:million|m\s+usd)\b|\bmillion\b)<80>\b(?:you|random\w*|individuals?|charity|beneficiary)\b|)"
+     R"(\b(?:donat(?:e|ed|ing|ion)|cash\s+(?:grant|aid|donation)|compensation|give\s+you|giving\s+you)\b<30>(?:of\s+|sum\s+of\s+|amount\s+of\s+)?[$€£]?\s?\d[\d,.]*<8>\b(?:million|m|usd|eur|euros?|dollars|pounds|gbp)\b<60>\b(?:you|your|to)\b|)"
      R"(\b(?:donation|compensation)\s+code\b|)"
      R"(\b(?:random(?:ly)?\s+selected\s+(?:individuals?|people|persons|e-?mails?)|selected\s+individuals?\s+(?:worldwide|globally)|lucky\s+(?:individual|beneficiar\w+|recipient))\b|)"
-     R"(\b(?:short|quick|brief|simple|30[- ]second|marketing|satisfaction|shopper|loyalty)\b[^.!?]{0,15}\bsurvey\b[^.!?]{0,80}(?:\b(?:win|reward\w*|free|receive|gift|prize|claim|exclusive|chance|brand[- ]new)|\$\d+)\b|)"
-     R"(\b(?:answer|complete|take|fill|participate|respond)\b[^.!?]{0,25}\b(?:survey|questionnaire|(?:few|\d+|some|simple|short|quick|easy)\s+(?:\w+\s+)?questions)\b[^.!?]{0,80}\b(?:win|reward|free|receive|gift|prize|claim|exclusive|chance|offer|surprise|bonus)\b|)"
-     R"(\b(?:win|receive|get|claim|rewards?|gift|prize|request\s+it|chance)\b[^.!?]{0,60}\b(?:answer(?:ing)?|complet(?:e|ing)|tak(?:e|ing)|fill(?:ing)?(?:\s+out|\s+in)?|participat(?:e|ing))\b[^.!?]{0,25}\b(?:(?:marketing\s+|short\s+|quick\s+|our\s+|this\s+|brief\s+|\d+[- ]second\s+)+survey|questionnaire|(?:few|\d+|some|simple|short|quick|easy)\s+(?:\w+\s+)?questions)\b|)"
+     R"(\b(?:short|quick|brief|simple|30[- ]second|marketing|satisfaction|shopper|loyalty)\b<15>\bsurvey\b<80>(?:\b(?:win|reward\w*|free|receive|gift|prize|claim|exclusive|chance|brand[- ]new)|\$\d+)\b|)"
+     R"(\b(?:answer|complete|take|fill|participate|respond)\b<25>\b(?:survey|questionnaire|(?:few|\d+|some|simple|short|quick|easy)\s+(?:\w+\s+)?questions)\b<80>\b(?:win|reward|free|receive|gift|prize|claim|exclusive|chance|offer|surprise|bonus)\b|)"
+     R"(\b(?:win|receive|get|claim|rewards?|gift|prize|request\s+it|chance)\b<60>\b(?:answer(?:ing)?|complet(?:e|ing)|tak(?:e|ing)|fill(?:ing)?(?:\s+out|\s+in)?|participat(?:e|ing))\b<25>\b(?:(?:marketing\s+|short\s+|quick\s+|our\s+|this\s+|brief\s+|\d+[- ]second\s+)+survey|questionnaire|(?:few|\d+|some|simple|short|quick|easy)\s+(?:\w+\s+)?questions)\b|)"
      R"(\b(?:chance|opportunity|enter)\s+(?:to|of)\s+(?:win|winning|receive|receiving|claim|get|getting)\s+(?:a\s+|an\s+|the\s+|your\s+|our\s+|one\s+of\s+|this\s+)?(?:[\w$€£'’-]+\s+){0,4}(?:brand[- ]?new|free|exclusive|prize|gift\s?card|i-?phone|samsung|voucher|mystery|jackpot|reward|[$€£]\d[\d,.]*|cooler|drill|set|kit|tool)|)"
-     R"(\b(?:enter|click|participate|spin)\b[^.!?]{0,12}\b(?:now\s+|here\s+|today\s+)?(?:to|and)\s+win\b|)"
+     R"(\b(?:enter|click|participate|spin)\b<12>\b(?:now\s+|here\s+|today\s+)?(?:to|and)\s+win\b|)"
      R"(\bbrand[- ]new\s+(?:[\w-]+\s+){0,5}(?:drill|i-?phone|galaxy|macbook|playstation|air\s?fryer|cooler|toolbox|tool\s+set|generator|backpack|vacuum|yeti|dewalt|ninja|oral-?b|emergency\s+kit|mystery\s+box|grill|blender|cookware|tumbler)\b|)"
-     R"(\b(?:reward|bonus|loyalty|cash\s?back)\b[^.!?]{0,20}\bpoints\b[^.!?]{0,40}\b(?:expire\w*|redeem|claim|convert|waiting|available)\b|)"
-     R"(\b(?:umfrage|fragebogen|fragen)\b[^.!?]{0,80}\b(?:gewinn\w*|belohn\w*|geschenk|gutschein\w*|preis|prämie|chance|gratis|anzufordern|sichern)\b|)"
-     R"(\b(?:gewinn\w*|belohn\w*|geschenk|gutschein\w*|prämie|anzufordern|anfordern|beanspruchen|gelegenheit)\b[^.!?]{0,90}\b(?:umfrage|fragebogen|fragen)\b|)"
-     R"(\b(?:chance|gelegenheit|möglichkeit|teilnehmen|teilnahme)\b[^.!?]{0,60}\b(?:zu\s+gewinnen|gewinnen\s+sie|gewinne|brandneue[nsr]?|gutschein\w*)\b|)"
-     R"(\b(?:[\w-]*gutschein|geschenkkarte|belohnung|prämie)\b[^.!?]{0,40}\b(?:im\s+wert\s+von|sichern|gesamtwert|wartet|erhalten|einlösen)\b[^.!?]{0,20}(?:\d|€|\b(?:jetzt|hier|heute)\b)|)"
-     R"(\b(?:sondage|questionnaire|enquête)\b[^.!?]{0,80}\b(?:gagn\w+|cadeau\w*|récompense\w*|chance|prix)\b|)"
-     R"(\b(?:gagn\w+|cadeau\w*|récompense\w*|chance)\b[^.!?]{0,80}\b(?:sondage|questionnaire|enquête)\b|)"
-     R"(\b(?:encuesta|pesquisa|question[áa]rio|cuestionario|vragenlijst|enquête)\b[^.!?]{0,80}\b(?:ganar|gane|regalo|recompensa|premio|pr[êe]mio|brinde|resgat\w+|kans|winn\w+|ontvang\w+)\b|)"
-     R"(\b(?:ganar|gane|ganhe|regalo|recompensa|premio|pr[êe]mio|winn\w+|ontvang\w+)\b[^.!?]{0,80}\b(?:encuesta|pesquisa\s+de\s+satisfa\w+|question[áa]rio|cuestionario|vragenlijst)\b|)"
-     R"(\b(?:pontos|puntos|milhas|b[ôo]nus)\b[^.!?]{0,60}\b(?:resgat\w+|expira\w*|dispon[íi]ve\w+|canje\w+|troca\w*|trocar)\b|)"
-     R"(\b(?:resgat\w+|canje\w+)\b[^.!?]{0,25}\b(?:pontos|puntos|milhas|b[ôo]nus|pr[êe]mio|premio|recompensa)\b|)"
-     R"(\b(?:spende|spenden|schenkung)\b[^.!?]{0,50}\b(?:millionen|mio|million)\b|)"
-     R"(\b(?:don|donation|legs)\b[^.!?]{0,40}\b(?:millions?|\d[\d. ]{5,}\s?(?:€|euros?)))",
+     R"(\b(?:reward|bonus|loyalty|cash\s?back)\b<20>\bpoints\b<40>\b(?:expire\w*|redeem|claim|convert|waiting|available)\b|)"
+     R"(\b(?:umfrage|fragebogen|fragen)\b<80>\b(?:gewinn\w*|belohn\w*|geschenk|gutschein\w*|preis|prämie|chance|gratis|anzufordern|sichern)\b|)"
+     R"(\b(?:gewinn\w*|belohn\w*|geschenk|gutschein\w*|prämie|anzufordern|anfordern|beanspruchen|gelegenheit)\b<90>\b(?:umfrage|fragebogen|fragen)\b|)"
+     R"(\b(?:chance|gelegenheit|möglichkeit|teilnehmen|teilnahme)\b<60>\b(?:zu\s+gewinnen|gewinnen\s+sie|gewinne|brandneue[nsr]?|gutschein\w*)\b|)"
+     R"(\b(?:[\w-]*gutschein|geschenkkarte|belohnung|prämie)\b<40>\b(?:im\s+wert\s+von|sichern|gesamtwert|wartet|erhalten|einlösen)\b<20>(?:\d|€|\b(?:jetzt|hier|heute)\b)|)"
+     R"(\b(?:sondage|questionnaire|enquête)\b<80>\b(?:gagn\w+|cadeau\w*|récompense\w*|chance|prix)\b|)"
+     R"(\b(?:gagn\w+|cadeau\w*|récompense\w*|chance)\b<80>\b(?:sondage|questionnaire|enquête)\b|)"
+     R"(\b(?:encuesta|pesquisa|question[áa]rio|cuestionario|vragenlijst|enquête)\b<80>\b(?:ganar|gane|regalo|recompensa|premio|pr[êe]mio|brinde|resgat\w+|kans|winn\w+|ontvang\w+)\b|)"
+     R"(\b(?:ganar|gane|ganhe|regalo|recompensa|premio|pr[êe]mio|winn\w+|ontvang\w+)\b<80>\b(?:encuesta|pesquisa\s+de\s+satisfa\w+|question[áa]rio|cuestionario|vragenlijst)\b|)"
+     R"(\b(?:pontos|puntos|milhas|b[ôo]nus)\b<60>\b(?:resgat\w+|expira\w*|dispon[íi]ve\w+|canje\w+|troca\w*|trocar)\b|)"
+     R"(\b(?:resgat\w+|canje\w+)\b<25>\b(?:pontos|puntos|milhas|b[ôo]nus|pr[êe]mio|premio|recompensa)\b|)"
+     R"(\b(?:spende|spenden|schenkung)\b<50>\b(?:millionen|mio|million)\b|)"
+     R"(\b(?:don|donation|legs)\b<40>\b(?:millions?|\d[\d. ]{5,}\s?(?:€|euros?)))"); }),
      true},
     {"afee-inheritance", "Advance fee", "warn", 70,
      "offers a share of an inheritance or of a dead stranger's money",
-     R"(\bmeu\s+(?:falecido\s+)?cliente\s+(?:morreu|faleceu)\b|\bmeu\s+último\s+desejo\b|\bfalecido\b[^.!?]{0,60}\b(?:depósito|fundos?|herança)\b|)"
+     pattern([] { return std::string_view(
+     R"(\bmeu\s+(?:falecido\s+)?cliente\s+(?:morreu|faleceu)\b|\bmeu\s+último\s+desejo\b|\bfalecido\b<60>\b(?:depósito|fundos?|herança)\b|)"
      R"(\blate\s+(?:husband|wife|father|client)(?:\'s)?\s+(?:legacy|estate|fund|wealth)\b|)"
-     R"(\b(?:dying|death|sick)\s+bed\b[^.!?]{0,200}\b(?:god|fund\w*|donat\w+|charity|money|million|will)\b|)"
-     R"(\b(?:fundos|fondos|dinheiro|dinero)\b[^.!?]{0,40}\b(?:heran[çc]a|herencia)\b[^.!?]{0,60}\b(?:falecid[oa]|fallecid[oa]|marido|esposo|difunt[oa])\b|)"
-     R"(\b(?:verstorbene[nr]?|verschiedene[nr]?)\s+(?:ehemann\w*|mann\w*|kunden?|klienten?|mandanten?|vater\w*)\b[^.!?]{0,100}\b(?:million\w*|fonds|geld|erbe|spend\w+|konto|vermögen)\b|)"
-     R"(\b(?:late|deceased|dead|died|passed\s+away|demise\s+of)\b[^.!?]{0,80}\b(?:client|customer|husband|father|relative|depositor|investor|engineer|account\s+holder|owner|national|businessman|contractor|merchant|chief|general|dr|mr)\b[^.!?]{0,200}\b(?:next\s+of\s+kin|inherit\w*|fund|funds|deposit(?:ed)?|estate|million|unclaimed|beneficiary|account|left\s+behind|safe\s?keeping)\b|)"
-     R"(\b(?:next\s+of\s+kin|heir|beneficiary)\b[^.!?]{0,120}\b(?:deceased|late\s+(?:client|customer|husband|father|mr|engineer|dr)|million|fund|funds|deposit|inherit\w*|unclaimed|transfer|estate)\b|)"
-     R"(\b(?:inheritance|inherited|estate)\b[^.!?]{0,60}(?:\b(?:fund|funds|million|claim|sum|transfer|beneficiary|unclaimed|next\s+of\s+kin)|[$€£]\s?\d[\d,.]{4,})\b[^.!?]{0,60}\b(?:you|your|me|deceased|bank|transfer\w*|country|late|account|percent|contact|assist\w*)\b|)"
-     R"(\b(?:my|the)\s+late\s+(?:father|husband|wife|client|mother|uncle|boss|customer)\b[^.!?]{0,200}\b(?:deposited|deposit|million|fund|funds|security\s+company|inherit\w*|bank|left)\b[^.!?]{0,60}(?:[$€£]|\b(?:usd|us|million|bank|sum|security|fund|funds|transfer|abroad|consignment|account))|)"
-     R"(\b(?:died|deceased|passed\s+away)\b[^.!?]{0,40}\b(?:without\s+(?:a\s+|any\s+)?(?:will|heir|next\s+of\s+kin)|intestate|no\s+next\s+of\s+kin|leaving\s+(?:no|nobody|behind))\b|)"
-     R"(\b(?:terminally\s+ill|(?:oesophageal|esophageal|breast|lung|brain)\s+cancer|cancer\s+of\s+the|few\s+months\s+to\s+live|doctor\s+(?:told|said))\b[^.!?]{0,200}\b(?:donate|charity|inherit\w*|fund|funds|million|orphanage|less\s+privileged|god|widow)\b|)"
-     R"(\b(?:erbschaft|nachlass|erbe|nächster\s+angehöriger|erbberechtigt\w*)\b[^.!?]{0,100}\b(?:millionen|mio|verstorben\w*|konto|bank|kunde\w*|überweis\w+|fonds)\b|)"
-     R"(\b(?:héritage|succession|défunte?|feue?)\b[^.!?]{0,100}\b(?:millions?|compte|banque|fonds|bénéficiaire|somme)\b|)"
-     R"(\b(?:herencia|heran[çc]a|fallecid[oa]|falecid[oa]|difunt[oa])\b[^.!?]{0,100}\b(?:millones|milh[õo]es|cuenta|conta|banco|fondos?|fundos?|beneficiari[oa]|benefici[áa]ri[oa])\b|)"
-     R"((?:遗产|遺產)[^。！？.!?]{0,30}(?:万|萬|百万|继承|繼承|银行|銀行|受益))",
+     R"(\b(?:dying|death|sick)\s+bed\b<200>\b(?:god|fund\w*|donat\w+|charity|money|million|will)\b|)"
+     R"(\b(?:fundos|fondos|dinheiro|dinero)\b<40>\b(?:heran[çc]a|herencia)\b<60>\b(?:falecid[oa]|fallecid[oa]|marido|esposo|difunt[oa])\b|)"
+     R"(\b(?:verstorbene[nr]?|verschiedene[nr]?)\s+(?:ehemann\w*|mann\w*|kunden?|klienten?|mandanten?|vater\w*)\b<100>\b(?:million\w*|fonds|geld|erbe|spend\w+|konto|vermögen)\b|)"
+     R"(\b(?:late|deceased|dead|died|passed\s+away|demise\s+of)\b<80>\b(?:client|customer|husband|father|relative|depositor|investor|engineer|account\s+holder|owner|national|businessman|contractor|merchant|chief|general|dr|mr)\b<200>\b(?:next\s+of\s+kin|inherit\w*|fund|funds|deposit(?:ed)?|estate|million|unclaimed|beneficiary|account|left\s+behind|safe\s?keeping)\b|)"
+     R"(\b(?:next\s+of\s+kin|heir|beneficiary)\b<120>\b(?:deceased|late\s+(?:client|customer|husband|father|mr|engineer|dr)|million|fund|funds|deposit|inherit\w*|unclaimed|transfer|estate)\b|)"
+     R"(\b(?:inheritance|inherited|estate)\b<60>(?:\b(?:fund|funds|million|claim|sum|transfer|beneficiary|unclaimed|next\s+of\s+kin)|[$€£]\s?\d[\d,.]{4,})\b<60>\b(?:you|your|me|deceased|bank|transfer\w*|country|late|account|percent|contact|assist\w*)\b|)"
+     R"(\b(?:my|the)\s+late\s+(?:father|husband|wife|client|mother|uncle|boss|customer)\b<200>\b(?:deposited|deposit|million|fund|funds|security\s+company|inherit\w*|bank|left)\b<60>(?:[$€£]|\b(?:usd|us|million|bank|sum|security|fund|funds|transfer|abroad|consignment|account))|)"
+     R"(\b(?:died|deceased|passed\s+away)\b<40>\b(?:without\s+(?:a\s+|any\s+)?(?:will|heir|next\s+of\s+kin)|intestate|no\s+next\s+of\s+kin|leaving\s+(?:no|nobody|behind))\b|)"
+     R"(\b(?:terminally\s+ill|(?:oesophageal|esophageal|breast|lung|brain)\s+cancer|cancer\s+of\s+the|few\s+months\s+to\s+live|doctor\s+(?:told|said))\b<200>\b(?:donate|charity|inherit\w*|fund|funds|million|orphanage|less\s+privileged|god|widow)\b|)"
+     R"(\b(?:erbschaft|nachlass|erbe|nächster\s+angehöriger|erbberechtigt\w*)\b<100>\b(?:millionen|mio|verstorben\w*|konto|bank|kunde\w*|überweis\w+|fonds)\b|)"
+     R"(\b(?:héritage|succession|défunte?|feue?)\b<100>\b(?:millions?|compte|banque|fonds|bénéficiaire|somme)\b|)"
+     R"(\b(?:herencia|heran[çc]a|fallecid[oa]|falecid[oa]|difunt[oa])\b<100>\b(?:millones|milh[õo]es|cuenta|conta|banco|fondos?|fundos?|beneficiari[oa]|benefici[áa]ri[oa])\b|)"
+     R"((?:遗产|遺產)<30>(?:万|萬|百万|继承|繼承|银行|銀行|受益))"); }),
      true},
     {"afee-beneficiary", "Advance fee", "warn", 45,
      "says a fund or payment is waiting for the reader as its beneficiary",
-     R"(\bindeniza(?:ção|r)\b[^.!?]{0,80}\b(?:vítimas|beneficiários|fundos|golpes?)\b|\bnew\s+incoming\s+transaction\b[^!?]{0,60}\b(?:withdraw\w*|order)\b|)"
+     pattern([] { return std::string_view(
+     R"(\bindeniza(?:ção|r)\b<80>\b(?:vítimas|beneficiários|fundos|golpes?)\b|\bnew\s+incoming\s+transaction\b[^!?]{0,60}\b(?:withdraw\w*|order)\b|)"
      R"(\ballocated\s+funds?\b|)"
-     R"(\btransfer\b[^.!?]{0,15}\b(?:sum|fund|funds|money|million\w*)\b[^.!?]{0,50}\b(?:into|to)\s+your\s+(?:bank\s+)?account\b|)"
+     R"(\btransfer\b<15>\b(?:sum|fund|funds|money|million\w*)\b<50>\b(?:into|to)\s+your\s+(?:bank\s+)?account\b|)"
      R"(\bas\s+my\s+foreign\s+partner\b|)"
-     R"(\b(?:confidential|mutually\s+beneficial|crave\s+your\s+indulgence)\b[^.!?]{0,60}\b(?:transaction|business|proposal)\b[^.!?]{0,40}(?:[.!]|\b(?:details|get\s+back|reply|contact)\b)|)"
-     R"(\b(?:sum|payment|funds?|transfer|zahlung|summe)\b[^.!?]{0,60}\b(?:united\s+nations|vereinten\s+nationen|generalsekretär)\b|)"
-     R"(\b(?:urgent|important|dringende|wichtige)\s+(?:\w+\s+)?(?:matter|angelegenheit|discussion|discuss[ãa]o)\b[^.!?]{0,40}\b(?:discuss|besprechen|with\s+you|mit\s+ihnen|share)\b|)"
-     R"(\b(?:you|your\s+(?:name|e-?mail))\b[^.!?]{0,30}\b(?:beneficiary|beneficiaries|next\s+of\s+kin|(?:to\s+be|be|been)\s+compensated)\b[^.!?]{0,60}(?:\b(?:funds?|payments?|sum|million|usd|atm|release|inherit\w*|donation)|\$)\b|)"
-     R"(\b(?:beneficiary|compensation|inheritance|unpaid|abandoned)\s+(?:funds?|payments?|sum)\b[^.!?]{0,50}\b(?:release\w*|transfer\w*|approved|your|in\s+your\s+(?:name|favou?r)|million|atm|usd|due\s+to\s+you)\b|)"
+     R"(\b(?:confidential|mutually\s+beneficial|crave\s+your\s+indulgence)\b<60>\b(?:transaction|business|proposal)\b<40>(?:[.!]|\b(?:details|get\s+back|reply|contact)\b)|)"
+     R"(\b(?:sum|payment|funds?|transfer|zahlung|summe)\b<60>\b(?:united\s+nations|vereinten\s+nationen|generalsekretär)\b|)"
+     R"(\b(?:urgent|important|dringende|wichtige)\s+(?:\w+\s+)?(?:matter|angelegenheit|discussion|discuss[ãa]o)\b<40>\b(?:discuss|besprechen|with\s+you|mit\s+ihnen|share)\b|)"
+     R"(\b(?:you|your\s+(?:name|e-?mail))\b<30>\b(?:beneficiary|beneficiaries|next\s+of\s+kin|(?:to\s+be|be|been)\s+compensated)\b<60>(?:\b(?:funds?|payments?|sum|million|usd|atm|release|inherit\w*|donation)|\$)\b|)"
+     R"(\b(?:beneficiary|compensation|inheritance|unpaid|abandoned)\s+(?:funds?|payments?|sum)\b<50>\b(?:release\w*|transfer\w*|approved|your|in\s+your\s+(?:name|favou?r)|million|atm|usd|due\s+to\s+you)\b|)"
      R"(\b(?:release|payment|transfer|remittance|delivery|disbursement)\s+of\s+your\s+(?:\w+\s+){0,3}(?:funds?|inheritance|compensation|consignment|atm\s+card|winnings?)\b|)"
-     R"(\byour\s+(?:\w+\s+){0,3}(?:compensation|inheritance|consignment|fund|funds|atm\s+(?:visa\s+|master\s?|debit\s+)?card|bank\s+draft|cashier['’]?s?\s+che(?:que|ck)|unpaid\s+(?:fund|payment))\b[^.!?]{0,40}\b(?:release|released|transferred|approved|deliver\w*|sum|million|valued|worth)\b|)"
-     R"(\b(?:atm\s+(?:visa\s+|master\s?|debit\s+)?card|bank\s+draft|cashier['’]?s?\s+che(?:que|ck)|consignment\s+box|trunk\s+box)\b[^.!?]{0,60}\b(?:your\s+name|worth|loaded|sum|million|valued|courier|diplomat\w*)\b|)"
-     R"(\b(?:proposal|proposition|transaction|deal|business|investment)\b[^.!?]{0,80}\b(?:mutual(?:ly)?\s+(?:benefi\w+|interest)|(?:benefit|beneficial\s+to|interest\s+to)\s+(?:of\s+)?(?:both|us)|(?:\d+|fifty|forty|thirty)\s?(?:%|percent)[^.!?]{0,30}\b(?:you|share|total))\b|)"
-     R"(\bmutual(?:ly)?\s+beneficial\b[^.!?]{0,40}\b(?:business|investment|proposal|transaction|opportunit\w+|deal|relationship)\b[^.!?]{0,60}\b(?:reply|receiv\w+|details|discuss\w*|contact|respon\w+|interest\w*|get\s+back)\b|)"
-     R"(\b(?:lucrative|profitable|handsome|huge|confidential|important|urgent)\s+(?:\w+\s+)?(?:business\s+(?:proposal|proposition|deal|transaction|offer)|deal|proposal|proposition|transaction)\b[^.!?]{0,60}\b(?:you|details|discuss|reply|contact|share|with\s+you|get\s+back|interest\w*|million)\b|)"
-     R"(\b(?:foreign\s+partner|god[- ]fearing|trustworthy|reputable|reliable)\s+(?:and\s+\w+\s+)?(?:person|partner|individual|foreigner|someone|fellow)\b[^.!?]{0,80}\b(?:fund|funds|million|entrust|charity|claim|orphanage|transfer|assist\s+me)\b|)"
-     R"(\b(?:names?\s+in\s+full|full\s+names?|your\s+names?)\b[^.!?]{0,40}\b(?:address|phone|telephone|mobile|nationality|country)\b[^.!?]{0,80}\b(?:occupation|age|sex|gender|marital\s+status|next\s+of\s+kin|passport|identification|nationality|id\s+card)\b|)"
-     R"(\b(?:i\s+have|there\s+is|i['’]ve\s+got)\b[^.!?]{0,12}\b(?:something|an\s+important|a\s+very\s+important|a\s+business|a\s+vital)\b[^.!?]{0,25}\b(?:disclose|discuss|tell|share|proposal|information|message)\b[^.!?]{0,10}\b(?:to|with|for)\s+you\b|)"
-     R"(\b(?:charity|orphanage|less\s+privileged|humanitarian)\s+(?:work|project|home|foundation|fund|organi[sz]ation)s?\b[^.!?]{0,60}\b(?:your\s+country|on\s+my\s+behalf|you\s+to|donat\w+|fund|sum|million|entrust|with\s+you)\b|)"
-     R"(\b(?:begünstigte[rn]?)\b[^.!?]{0,60}\b(?:fonds|millionen|summe|auszahlung|entschädigung)\b|)"
-     R"(\bbénéficiaire\b[^.!?]{0,60}\b(?:fonds|millions?|somme|indemnisation)\b|)"
-     R"(\b(?:beneficiari[oa]|benefici[áa]ri[oa])\b[^.!?]{0,60}\b(?:fondos?|fundos?|millones|milh[õo]es|suma|compensaci[óo]n|indeniza[çc][ãa]o)\b)",
+     R"(\byour\s+(?:\w+\s+){0,3}(?:compensation|inheritance|consignment|fund|funds|atm\s+(?:visa\s+|master\s?|debit\s+)?card|bank\s+draft|cashier['’]?s?\s+che(?:que|ck)|unpaid\s+(?:fund|payment))\b<40>\b(?:release|released|transferred|approved|deliver\w*|sum|million|valued|worth)\b|)"
+     R"(\b(?:atm\s+(?:visa\s+|master\s?|debit\s+)?card|bank\s+draft|cashier['’]?s?\s+che(?:que|ck)|consignment\s+box|trunk\s+box)\b<60>\b(?:your\s+name|worth|loaded|sum|million|valued|courier|diplomat\w*)\b|)"
+     R"(\b(?:proposal|proposition|transaction|deal|business|investment)\b<80>\b(?:mutual(?:ly)?\s+(?:benefi\w+|interest)|(?:benefit|beneficial\s+to|interest\s+to)\s+(?:of\s+)?(?:both|us)|(?:\d+|fifty|forty|thirty)\s?(?:%|percent)<30>\b(?:you|share|total))\b|)"
+     R"(\bmutual(?:ly)?\s+beneficial\b<40>\b(?:business|investment|proposal|transaction|opportunit\w+|deal|relationship)\b<60>\b(?:reply|receiv\w+|details|discuss\w*|contact|respon\w+|interest\w*|get\s+back)\b|)"
+     R"(\b(?:lucrative|profitable|handsome|huge|confidential|important|urgent)\s+(?:\w+\s+)?(?:business\s+(?:proposal|proposition|deal|transaction|offer)|deal|proposal|proposition|transaction)\b<60>\b(?:you|details|discuss|reply|contact|share|with\s+you|get\s+back|interest\w*|million)\b|)"
+     R"(\b(?:foreign\s+partner|god[- ]fearing|trustworthy|reputable|reliable)\s+(?:and\s+\w+\s+)?(?:person|partner|individual|foreigner|someone|fellow)\b<80>\b(?:fund|funds|million|entrust|charity|claim|orphanage|transfer|assist\s+me)\b|)"
+     R"(\b(?:names?\s+in\s+full|full\s+names?|your\s+names?)\b<40>\b(?:address|phone|telephone|mobile|nationality|country)\b<80>\b(?:occupation|age|sex|gender|marital\s+status|next\s+of\s+kin|passport|identification|nationality|id\s+card)\b|)"
+     R"(\b(?:i\s+have|there\s+is|i['’]ve\s+got)\b<12>\b(?:something|an\s+important|a\s+very\s+important|a\s+business|a\s+vital)\b<25>\b(?:disclose|discuss|tell|share|proposal|information|message)\b<10>\b(?:to|with|for)\s+you\b|)"
+     R"(\b(?:charity|orphanage|less\s+privileged|humanitarian)\s+(?:work|project|home|foundation|fund|organi[sz]ation)s?\b<60>\b(?:your\s+country|on\s+my\s+behalf|you\s+to|donat\w+|fund|sum|million|entrust|with\s+you)\b|)"
+     R"(\b(?:begünstigte[rn]?)\b<60>\b(?:fonds|millionen|summe|auszahlung|entschädigung)\b|)"
+     R"(\bbénéficiaire\b<60>\b(?:fonds|millions?|somme|indemnisation)\b|)"
+     R"(\b(?:beneficiari[oa]|benefici[áa]ri[oa])\b<60>\b(?:fondos?|fundos?|millones|milh[õo]es|suma|compensaci[óo]n|indeniza[çc][ãa]o)\b)"); }),
      true},
     {"afee-processing-fee", "Advance fee", "warn", 50,
      "asks for a fee before money or goods can be released",
-     R"(\b(?:pay|send|remit|paid|payment\s+of|settle|cover|require[sd]?|only)\b[^.!?]{0,30}\b(?:processing|release|clearance|handling|administrative|administration|transfer|activation|legal|registration|insurance|redelivery|re-?delivery|shipping|delivery|customs|courier|unlock|withdrawal|gas|verification|demurrage|security|documentation)\s+(?:fees?|charges?|costs?|tax)\b[^.!?]{0,60}\b(?:release\w*|receive|before|claim\w*|deliver\w*|funds?|parcel|package|prize|winnings?|withdraw\w*|loan|shipment|item|order|consignment|process|your)\b|)"
-     R"(\b(?:processing|release|clearance|handling|administrative|activation|redelivery|re-?delivery|shipping|delivery|customs|courier|withdrawal|unlock|demurrage)\s+(?:fees?|charges?|costs?)\b[^.!?]{0,40}(?:\b(?:of|is|only|may\s+apply|applies|before|required|must|needs?|unpaid|outstanding|to\s+be\s+paid)\b|:)[^.!?]{0,40}(?:[$€£]\s?\d|\d[\d.,]*\s?(?:usd|eur|gbp|€|\$)|\b(?:release\w*|claim\w*|receive|parcel|package|deliver\w*|funds?|withdraw\w*|paid|apply)\b)|)"
-     R"(\b(?:small|nominal|refundable|one[- ]time|minor|upfront|advance|little|token)\s+(?:\w+\s+)?(?:fee|charge|payment|deposit)\b[^.!?]{0,60}\b(?:release\w*|receive|claim\w*|deliver\w*|funds?|parcel|package|prize|loan|unlock|withdraw\w*|process\w*|shipping)\b|)"
-     R"(\b(?:fee|charge|tax|cost)s?\b[^.!?]{0,30}\b(?:before|in\s+order\s+to|to\s+enable|so\s+that|prior\s+to)\b[^.!?]{0,30}\b(?:release|receive|claim|deliver\w*|withdraw\w*|your\s+(?:funds?|parcel|package|prize|money|loan))\b|)"
-     R"(\b(?:zollgebühr\w*|versandgebühr\w*|versandkosten|bearbeitungsgebühr\w*|liefergebühr\w*|zustellgebühr\w*|zustellungsgebühr\w*|freigabegebühr\w*|gebühr(?:en)?)\b[^.!?]{0,60}\b(?:bezahlen|zahlen|begleichen|entrichten|zu\s+zahlen|zu\s+bezahlen|fällig|anfallen|beglichen|bezahlt|ausstehend\w*)\b|)"
-     R"(\bfrais\s+(?:de\s+)?(?:douane|livraison|dossier|traitement|port|réexpédition|dédouanement|\w+)\b[^.!?]{0,50}\b(?:payer|régler|réglés?|payés?|acquitter|d['’]un\s+montant|impayés?|non)\b|)"
-     R"(\b(?:payer|régler|acquitte[rz])\b[^.!?]{0,30}\bfrais\s+de\s+(?:douane|livraison|dossier|traitement|port|réexpédition|dédouanement)\b|)"
-     R"(\b(?:tasas?|gastos?|tarifas?|costos?|costes?|taxas?|imposto|impuestos?|derechos?|frete)\b[^.!?]{0,25}\b(?:aduan\w+|env[íi]o|entrega|procesamiento|liberaci[óo]n|alfandeg\w+|alf[âa]ndeg\w+|libera[çc][ãa]o|desembara[çc]o|importa\w+|administrativ\w+)\b[^.!?]{0,60}\b(?:pag\w+|abon\w+|quit\w+|efet\w+|regulari\w+|pend\w+)\b|)"
-     R"(\b(?:pag\w+|abon\w+|quit\w+|efetu\w+|regulari\w+)\b[^.!?]{0,40}\b(?:tasas?|gastos?|tarifas?|costos?|taxas?|imposto|impuestos?|derechos?|frete)\b[^.!?]{0,25}\b(?:aduan\w+|env[íi]o|entrega|liberaci[óo]n|alfandeg\w+|alf[âa]ndeg\w+|libera[çc][ãa]o|desembara[çc]o|importa\w+)\b|)"
-     R"(\b(?:verzendkosten|douanekosten|invoerkosten|bezorgkosten|inklaringskosten)\b[^.!?]{0,50}\b(?:betaal\w*|betalen|voldoen|betaald)\b|)"
-     R"((?:支付|缴纳|繳納|缴|繳)[^。！？.!?]{0,10}(?:手续费|手續費|关税|關稅|清关费|清關費|运费|運費|保证金|保證金|解冻费)|)"
-     R"((?:手数料|関税|保証金)[^。！？.!?]{0,12}(?:支払|振込|お支払い|送金)|)"
-     R"((?:수수료|관세|통관비|보증금)[^.!?。]{0,10}(?:납부|결제|입금|송금|지불))",
+     pattern([] { return std::string_view(
+     R"(\b(?:pay|send|remit|paid|payment\s+of|settle|cover|require[sd]?|only)\b<30>\b(?:processing|release|clearance|handling|administrative|administration|transfer|activation|legal|registration|insurance|redelivery|re-?delivery|shipping|delivery|customs|courier|unlock|withdrawal|gas|verification|demurrage|security|documentation)\s+(?:fees?|charges?|costs?|tax)\b<60>\b(?:release\w*|receive|before|claim\w*|deliver\w*|funds?|parcel|package|prize|winnings?|withdraw\w*|loan|shipment|item|order|consignment|process|your)\b|)"
+     R"(\b(?:processing|release|clearance|handling|administrative|activation|redelivery|re-?delivery|shipping|delivery|customs|courier|withdrawal|unlock|demurrage)\s+(?:fees?|charges?|costs?)\b<40>(?:\b(?:of|is|only|may\s+apply|applies|before|required|must|needs?|unpaid|outstanding|to\s+be\s+paid)\b|:)<40>(?:[$€£]\s?\d|\d[\d.,]*\s?(?:usd|eur|gbp|€|\$)|\b(?:release\w*|claim\w*|receive|parcel|package|deliver\w*|funds?|withdraw\w*|paid|apply)\b)|)"
+     R"(\b(?:small|nominal|refundable|one[- ]time|minor|upfront|advance|little|token)\s+(?:\w+\s+)?(?:fee|charge|payment|deposit)\b<60>\b(?:release\w*|receive|claim\w*|deliver\w*|funds?|parcel|package|prize|loan|unlock|withdraw\w*|process\w*|shipping)\b|)"
+     R"(\b(?:fee|charge|tax|cost)s?\b<30>\b(?:before|in\s+order\s+to|to\s+enable|so\s+that|prior\s+to)\b<30>\b(?:release|receive|claim|deliver\w*|withdraw\w*|your\s+(?:funds?|parcel|package|prize|money|loan))\b|)"
+     R"(\b(?:zollgebühr\w*|versandgebühr\w*|versandkosten|bearbeitungsgebühr\w*|liefergebühr\w*|zustellgebühr\w*|zustellungsgebühr\w*|freigabegebühr\w*|gebühr(?:en)?)\b<60>\b(?:bezahlen|zahlen|begleichen|entrichten|zu\s+zahlen|zu\s+bezahlen|fällig|anfallen|beglichen|bezahlt|ausstehend\w*)\b|)"
+     R"(\bfrais\s+(?:de\s+)?(?:douane|livraison|dossier|traitement|port|réexpédition|dédouanement|\w+)\b<50>\b(?:payer|régler|réglés?|payés?|acquitter|d['’]un\s+montant|impayés?|non)\b|)"
+     R"(\b(?:payer|régler|acquitte[rz])\b<30>\bfrais\s+de\s+(?:douane|livraison|dossier|traitement|port|réexpédition|dédouanement)\b|)"
+     R"(\b(?:tasas?|gastos?|tarifas?|costos?|costes?|taxas?|imposto|impuestos?|derechos?|frete)\b<25>\b(?:aduan\w+|env[íi]o|entrega|procesamiento|liberaci[óo]n|alfandeg\w+|alf[âa]ndeg\w+|libera[çc][ãa]o|desembara[çc]o|importa\w+|administrativ\w+)\b<60>\b(?:pag\w+|abon\w+|quit\w+|efet\w+|regulari\w+|pend\w+)\b|)"
+     R"(\b(?:pag\w+|abon\w+|quit\w+|efetu\w+|regulari\w+)\b<40>\b(?:tasas?|gastos?|tarifas?|costos?|taxas?|imposto|impuestos?|derechos?|frete)\b<25>\b(?:aduan\w+|env[íi]o|entrega|liberaci[óo]n|alfandeg\w+|alf[âa]ndeg\w+|libera[çc][ãa]o|desembara[çc]o|importa\w+)\b|)"
+     R"(\b(?:verzendkosten|douanekosten|invoerkosten|bezorgkosten|inklaringskosten)\b<50>\b(?:betaal\w*|betalen|voldoen|betaald)\b|)"
+     R"((?:支付|缴纳|繳納|缴|繳)<10>(?:手续费|手續費|关税|關稅|清关费|清關費|运费|運費|保证金|保證金|解冻费)|)"
+     R"((?:手数料|関税|保証金)<12>(?:支払|振込|お支払い|送金)|)"
+     R"((?:수수료|관세|통관비|보증금)<10>(?:납부|결제|입금|송금|지불))"); }),
      true},
     {"afee-million", "Advance fee", "warn", 30,
      "mentions millions that a stranger wants to give or move",
+     pattern([] { return std::string_view(
      R"(\b(?:give|giving|donate|donating|offer)\s+(?:\w+\s+){0,3}(?:[$€£]\s?|usd\s?)\d{1,3}(?:[,.]\d{3}){2,}\b|)"
-     R"(\b(?:secretly|decided\s+to|willing\s+to)\s+(?:\w+\s+){0,3}(?:give|donate)\b[^.!?]{0,30}(?:[$€£]\s?|\b(?:usd|sum\s+of)\s?\$?)\d|)"
-     R"((?:[$€£]\s?|\b(?:usd|eur|gbp|us)\s?\$?\s?)\d{1,3}(?:[,.]\d{3}){2,}(?:[.,]\d{2})?[^.!?]{0,100}\b(?:into\s+your|your\s+(?:bank\s+)?account|to\s+you|for\s+you|partner|beneficiary|donat\w+|charity|inherit\w*|fund|funds|deposited|compensat\w+)\b|)"
-     R"((?:[$€£]\s?\d[\d,.]*\s?(?:million|m\b|mln)|\b(?:usd|us\$?|eur|gbp|euros?|dollars?)\b\s?\$?\s?\d{1,3}(?:[,.]\d{3}){2,}|[$€£]\s?\d{1,3}(?:,\d{3}){2,})[^.!?]{0,150}\b(?:you|your|donat\w+|transfer\w*|beneficiary|deposit(?:ed)?|fund|funds|inherit\w*|compensat\w+|claim|bank\s+account)\b[^.!?]{0,100}\b(?:you|your|assist\w*|partner\w*|contact|late|account|reply|charity|share|percent|transfer\w*|next\s+of\s+kin|deceased)\b|)"
-     R"(\b(?:million|millions\s+of)\s+(?:us\s+|u\.s\.\s+|united\s+states\s+|american\s+)?(?:dollars|usd|euros?|pounds(?:\s+sterling)?)\b[^.!?]{0,150}\b(?:you|your|donat\w+|transfer\w*|beneficiary|deposited|fund|inherit\w*|compensat\w+|claim)\b|)"
-     R"(\b(?:sum|amount|total)\s+of\b[^.!?]{0,60}\b(?:million|[a-z-]+\s+(?:million|thousand)\s+(?:\w+\s+){0,3}(?:dollars|euros?|pounds))\b|)"
-     R"(\b(?:million|mio\.?|millionen)\s+(?:us-?)?(?:dollar|euro)\b[^.!?]{0,100}\b(?:ihnen|sie|spend\w+|überweis\w+|konto)\b|)"
-     R"(\bmillions?\s+(?:de\s+|d['’])(?:dollars|euros)\b[^.!?]{0,100}\b(?:vous|votre|don|fonds)\b|)"
-     R"(\b(?:millones|milh[õo]es)\s+de\s+(?:d[óo]lares|euros|reais)\b[^.!?]{0,100}\b(?:usted|su|voc[êe]|sua|fondos?|fundos?|doa\w+|don\w+)\b)",
+     R"(\b(?:secretly|decided\s+to|willing\s+to)\s+(?:\w+\s+){0,3}(?:give|donate)\b<30>(?:[$€£]\s?|\b(?:usd|sum\s+of)\s?\$?)\d|)"
+     R"((?:[$€£]\s?|\b(?:usd|eur|gbp|us)\s?\$?\s?)\d{1,3}(?:[,.]\d{3}){2,}(?:[.,]\d{2})?<100>\b(?:into\s+your|your\s+(?:bank\s+)?account|to\s+you|for\s+you|partner|beneficiary|donat\w+|charity|inherit\w*|fund|funds|deposited|compensat\w+)\b|)"
+     R"((?:[$€£]\s?\d[\d,.]*\s?(?:million|m\b|mln)|\b(?:usd|us\$?|eur|gbp|euros?|dollars?)\b\s?\$?\s?\d{1,3}(?:[,.]\d{3}){2,}|[$€£]\s?\d{1,3}(?:,\d{3}){2,})<150>\b(?:you|your|donat\w+|transfer\w*|beneficiary|deposit(?:ed)?|fund|funds|inherit\w*|compensat\w+|claim|bank\s+account)\b<100>\b(?:you|your|assist\w*|partner\w*|contact|late|account|reply|charity|share|percent|transfer\w*|next\s+of\s+kin|deceased)\b|)"
+     R"(\b(?:million|millions\s+of)\s+(?:us\s+|u\.s\.\s+|united\s+states\s+|american\s+)?(?:dollars|usd|euros?|pounds(?:\s+sterling)?)\b<150>\b(?:you|your|donat\w+|transfer\w*|beneficiary|deposited|fund|inherit\w*|compensat\w+|claim)\b|)"
+     R"(\b(?:sum|amount|total)\s+of\b<60>\b(?:million|[a-z-]+\s+(?:million|thousand)\s+(?:\w+\s+){0,3}(?:dollars|euros?|pounds))\b|)"
+     R"(\b(?:million|mio\.?|millionen)\s+(?:us-?)?(?:dollar|euro)\b<100>\b(?:ihnen|sie|spend\w+|überweis\w+|konto)\b|)"
+     R"(\bmillions?\s+(?:de\s+|d['’])(?:dollars|euros)\b<100>\b(?:vous|votre|don|fonds)\b|)"
+     R"(\b(?:millones|milh[õo]es)\s+de\s+(?:d[óo]lares|euros|reais)\b<100>\b(?:usted|su|voc[êe]|sua|fondos?|fundos?|doa\w+|don\w+)\b)"); }),
      true},
     {"afee-barrister", "Advance fee", "warn", 35,
      "speaks as a lawyer, banker or official of a faraway estate",
-     R"(\b(?:bank\s+manager|director|manager|auditor)\s+(?:of|at|in|with)\b[^.!?]{0,30}\bbank\s+(?:of|in|plc)\b[^.!?]{0,25}\b(?:nigeria|ghana|benin|togo|burkina|africa|lagos|abidjan|accra|lome|cotonou|london|dubai|hong\s+kong|malaysia)\b|)"
-     R"(\b(?:i\s+am|i\'m|am)\s+(?:a\s+|an\s+|the\s+|mr\.?\s+|mrs\.?\s+|dr\.?\s+)?(?:\w+\s+){0,4}(?:banker|bank\s+manager|regional\s+manager|branch\s+manager|auditor|account\s+officer|director)\b[^.!?]{0,60}\bbank\b|)"
-     R"(\b(?:barrister|solicitor|attorney|advocate|lawyer|notary)\b[^.!?]{0,60}\b(?:late|deceased|client|estate|inherit\w*|next\s+of\s+kin|fund|funds|beneficiary|claim)\b[^.!?]{0,80}\b(?:million|died|next\s+of\s+kin|fund|funds|inherit\w*|transfer|same\s+(?:last\s+name|surname)|nationality|claim|contact|proposal|beneficiary)\b|)"
-     R"(\b(?:i\s+am|i['’]m|my\s+name\s+is|this\s+is|am)\b[^.!?]{0,25}\b(?:barrister|barr\.?|esq|princess|prince|chief|alhaji|engr|rev(?:erend)?|mrs|miss|madam|sgt|sergeant|captain|general|dr|mr)\b[^.!?]{0,100}\b(?:bank|director|manager|auditor|account\s+officer|widow|wife|daughter|son|ministry|remittance|petroleum|foreign\s+operations?|union|minister|central\s+bank|united\s+nations|army|oil)\b[^.!?]{0,150}\b(?:fund|funds|million|transfer\w*|proposal|deposit\w*|charity|assist\w*|confidential\w*|business|inherit\w*|partner\w*|donat\w+|compensat\w+|payment)\b|)"
-     R"(\b(?:director|manager|head|officer|auditor|accountant|chairman|staff|secretary)\b[^.!?]{0,30}\b(?:of|in|with|at|for)\b[^.!?]{0,30}\b(?:bank|audit|credit|foreign\s+(?:operations?|remittance|exchange)|auditing|remittance|ministry|petroleum|security\s+company|eco\s?bank|central\s+bank)\b[^.!?]{0,150}\b(?:abandoned|deceased|next\s+of\s+kin|million|dormant|unclaimed|transfer\s+(?:of\s+)?(?:the\s+|this\s+)?(?:fund|money|sum)|inherit\w*)\b|)"
-     R"(\b(?:nigeria|lagos|abidjan|ivory\s+coast|cote\s+d['’]ivoire|burkina\s+faso|benin\s+republic|republic\s+of\s+benin|togo|ghana|sierra\s+leone|zimbabwe|senegal|liberia|angola|congo|accra|ouagadougou|south\s+africa)\b[^.!?]{0,120}\b(?:inherit\w*|deposited|beneficiary|security\s+company|business\s+proposal|my\s+late|next\s+of\s+kin|consignment|foreign\s+partner)\b|)"
-     R"(\b(?:rechtsanwalt|notar|anwalt)\b[^.!?]{0,80}\b(?:verstorben\w*|erbschaft|nachlass|erbe)\b[^.!?]{0,80}\b(?:millionen|mio|mandant\w*|angehörige\w*|klient\w*)\b|)"
-     R"(\b(?:maître|notaire|avocat)\b[^.!?]{0,80}\b(?:défunt|succession|héritage|feu)\b[^.!?]{0,80}\b(?:millions?|fonds|bénéficiaire|client)\b|)"
-     R"(\b(?:abogado|advogado|notario|not[áa]rio)\b[^.!?]{0,80}\b(?:fallecid[oa]|falecid[oa]|herencia|heran[çc]a)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:bank\s+manager|director|manager|auditor)\s+(?:of|at|in|with)\b<30>\bbank\s+(?:of|in|plc)\b<25>\b(?:nigeria|ghana|benin|togo|burkina|africa|lagos|abidjan|accra|lome|cotonou|london|dubai|hong\s+kong|malaysia)\b|)"
+     R"(\b(?:i\s+am|i\'m|am)\s+(?:a\s+|an\s+|the\s+|mr\.?\s+|mrs\.?\s+|dr\.?\s+)?(?:\w+\s+){0,4}(?:banker|bank\s+manager|regional\s+manager|branch\s+manager|auditor|account\s+officer|director)\b<60>\bbank\b|)"
+     R"(\b(?:barrister|solicitor|attorney|advocate|lawyer|notary)\b<60>\b(?:late|deceased|client|estate|inherit\w*|next\s+of\s+kin|fund|funds|beneficiary|claim)\b<80>\b(?:million|died|next\s+of\s+kin|fund|funds|inherit\w*|transfer|same\s+(?:last\s+name|surname)|nationality|claim|contact|proposal|beneficiary)\b|)"
+     R"(\b(?:i\s+am|i['’]m|my\s+name\s+is|this\s+is|am)\b<25>\b(?:barrister|barr\.?|esq|princess|prince|chief|alhaji|engr|rev(?:erend)?|mrs|miss|madam|sgt|sergeant|captain|general|dr|mr)\b<100>\b(?:bank|director|manager|auditor|account\s+officer|widow|wife|daughter|son|ministry|remittance|petroleum|foreign\s+operations?|union|minister|central\s+bank|united\s+nations|army|oil)\b<150>\b(?:fund|funds|million|transfer\w*|proposal|deposit\w*|charity|assist\w*|confidential\w*|business|inherit\w*|partner\w*|donat\w+|compensat\w+|payment)\b|)"
+     R"(\b(?:director|manager|head|officer|auditor|accountant|chairman|staff|secretary)\b<30>\b(?:of|in|with|at|for)\b<30>\b(?:bank|audit|credit|foreign\s+(?:operations?|remittance|exchange)|auditing|remittance|ministry|petroleum|security\s+company|eco\s?bank|central\s+bank)\b<150>\b(?:abandoned|deceased|next\s+of\s+kin|million|dormant|unclaimed|transfer\s+(?:of\s+)?(?:the\s+|this\s+)?(?:fund|money|sum)|inherit\w*)\b|)"
+     R"(\b(?:nigeria|lagos|abidjan|ivory\s+coast|cote\s+d['’]ivoire|burkina\s+faso|benin\s+republic|republic\s+of\s+benin|togo|ghana|sierra\s+leone|zimbabwe|senegal|liberia|angola|congo|accra|ouagadougou|south\s+africa)\b<120>\b(?:inherit\w*|deposited|beneficiary|security\s+company|business\s+proposal|my\s+late|next\s+of\s+kin|consignment|foreign\s+partner)\b|)"
+     R"(\b(?:rechtsanwalt|notar|anwalt)\b<80>\b(?:verstorben\w*|erbschaft|nachlass|erbe)\b<80>\b(?:millionen|mio|mandant\w*|angehörige\w*|klient\w*)\b|)"
+     R"(\b(?:maître|notaire|avocat)\b<80>\b(?:défunt|succession|héritage|feu)\b<80>\b(?:millions?|fonds|bénéficiaire|client)\b|)"
+     R"(\b(?:abogado|advogado|notario|not[áa]rio)\b<80>\b(?:fallecid[oa]|falecid[oa]|herencia|heran[çc]a)\b)"); }),
      true},
     {"afee-un-imf", "Advance fee", "warn", 40,
      "invokes a world body, a central bank or an anti-fraud office that pays out money",
-     R"(\b(?:united\s+nations|world\s+bank|imf|international\s+monetary\s+fund|federal\s+reserve(?:\s+bank)?|central\s+bank\s+of\s+\w+|european\s+union|efcc|ecowas|fbi|interpol|homeland\s+security|us\s+treasury|treasury\s+department|western\s+union|money\s?gram|federal\s+ministry\s+of\s+finance|reserve\s+bank\s+of\s+\w+|world\s+health\s+organi[sz]ation|federal\s+government)\b[^.!?]{0,150}\b(?:compensat\w+|beneficiary|your\s+(?:fund|funds|payment|inheritance|money)|scam\s+victims?|grant|atm\s+(?:card|visa)|overdue\s+payment|unpaid|release\s+of|outstanding\s+payment|million|contract\s+payment)\b|)"
-     R"(\b(?:compensat\w+|beneficiary|fund|funds|payment|grant|lottery|donation|inheritance)\b[^.!?]{0,120}\b(?:united\s+nations|world\s+bank|imf|international\s+monetary\s+fund|federal\s+reserve\s+bank|central\s+bank\s+of\s+\w+|efcc|ecowas|western\s+union|money\s?gram|federal\s+ministry\s+of\s+finance|reserve\s+bank\s+of\s+\w+)\b[^.!?]{0,60}\b(?:you|your|approved|release\w*|transfer\w*|agreed|mandate\w*|pay|send|instructed)\b|)"
-     R"(\b(?:scam|fraud)\s+victims?\b[^.!?]{0,80}\b(?:compensat\w+|refund\w*|paid|payment|fund|funds)\b|)"
-     R"(\b(?:vereinte\s+nationen|weltbank|iwf)\b[^.!?]{0,80}\b(?:entschädigung|auszahlung|fonds|millionen)\b|)"
-     R"(\b(?:nations\s+unies|banque\s+mondiale|fmi)\b[^.!?]{0,80}\b(?:indemnis\w+|fonds|compensation|millions?)\b|)"
-     R"(\b(?:naciones\s+unidas|na[çc][õo]es\s+unidas|banco\s+mundial|fmi)\b[^.!?]{0,80}\b(?:compensaci[óo]n|indeniza\w+|fondos?|fundos?|millones|milh[õo]es)\b|)"
-     R"(\bvereinten\s+nationen\b[^.!?]{0,100}\b(?:zahlung|entschädigung\w*|freigabe|dollar|fonds|million\w*)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:united\s+nations|world\s+bank|imf|international\s+monetary\s+fund|federal\s+reserve(?:\s+bank)?|central\s+bank\s+of\s+\w+|european\s+union|efcc|ecowas|fbi|interpol|homeland\s+security|us\s+treasury|treasury\s+department|western\s+union|money\s?gram|federal\s+ministry\s+of\s+finance|reserve\s+bank\s+of\s+\w+|world\s+health\s+organi[sz]ation|federal\s+government)\b<150>\b(?:compensat\w+|beneficiary|your\s+(?:fund|funds|payment|inheritance|money)|scam\s+victims?|grant|atm\s+(?:card|visa)|overdue\s+payment|unpaid|release\s+of|outstanding\s+payment|million|contract\s+payment)\b|)"
+     R"(\b(?:compensat\w+|beneficiary|fund|funds|payment|grant|lottery|donation|inheritance)\b<120>\b(?:united\s+nations|world\s+bank|imf|international\s+monetary\s+fund|federal\s+reserve\s+bank|central\s+bank\s+of\s+\w+|efcc|ecowas|western\s+union|money\s?gram|federal\s+ministry\s+of\s+finance|reserve\s+bank\s+of\s+\w+)\b<60>\b(?:you|your|approved|release\w*|transfer\w*|agreed|mandate\w*|pay|send|instructed)\b|)"
+     R"(\b(?:scam|fraud)\s+victims?\b<80>\b(?:compensat\w+|refund\w*|paid|payment|fund|funds)\b|)"
+     R"(\b(?:vereinte\s+nationen|weltbank|iwf)\b<80>\b(?:entschädigung|auszahlung|fonds|millionen)\b|)"
+     R"(\b(?:nations\s+unies|banque\s+mondiale|fmi)\b<80>\b(?:indemnis\w+|fonds|compensation|millions?)\b|)"
+     R"(\b(?:naciones\s+unidas|na[çc][õo]es\s+unidas|banco\s+mundial|fmi)\b<80>\b(?:compensaci[óo]n|indeniza\w+|fondos?|fundos?|millones|milh[õo]es)\b|)"
+     R"(\bvereinten\s+nationen\b<100>\b(?:zahlung|entschädigung\w*|freigabe|dollar|fonds|million\w*)\b)"); }),
      true},
 
     // ---- Impersonation -------------------------------------------------------------------------
     {"imp-irs", "Impersonation", "warn", 50,
      "poses as the tax office with a refund or a debt",
-     R"(\b(?:irs|lrs|internal\s+revenue\s+service|hmrc|hm\s+revenue|inland\s+revenue|ato|australian\s+taxation\s+office|cra|canada\s+revenue\s+agency|tax\s+(?:office|authority|department|authorities|bureau|administration)|gov\.uk|mygov|revenue\s+commissioners|service\s+canada)\b[^.!?]{0,100}\b(?:refund|rebate|eligible|owed?|owing|overpa\w+|penalt\w+|arrest|warrant|lawsuit|final\s+notice|unpaid|stimulus|outstanding|claim\s+your|submit|legal\s+action|audit|verify|irregularit\w+|entitled)\b|)"
-     R"(\b(?:tax|fiscal)\s+(?:refund|rebate|return|relief|overpayment|benefit)s?\b[^.!?]{0,60}\b(?:eligible|entitled|claim|click|submit|pending|of\s+[$€£]|approved|waiting|receive|notification|link|you\s+are\s+due|processed|due\s+to\s+you|application)\b|)"
-     R"(\b(?:eligible|entitled|due|qualify|claim|receive|awaiting)\b[^.!?]{0,40}\b(?:tax|stimulus|council\s+tax|energy|cost\s+of\s+living)\s+(?:refund|rebate|payment|check|cheque|support|relief)\b|)"
-     R"(\b(?:unpaid|outstanding|overdue|owe|back)\b[^.!?]{0,20}\btax(?:es)?\b[^.!?]{0,60}\b(?:arrest|warrant|lawsuit|legal\s+action|police|immediately|seiz\w+|penalt\w+|sheriff|jail)\b|)"
-     R"(\b(?:finanzamt|bundeszentralamt\s+für\s+steuern|elster|steuerverwaltung|finanzministerium|finanzonline|bundesministerium\s+der\s+finanzen)\b[^.!?]{0,100}\b(?:rückerstattung|erstattung|nachzahlung|anspruch|mahnung|pfändung|guthaben|auszahlung|überprüf\w+|frist|letzte)\b|)"
-     R"(\bsteuer(?:rück)?erstattung\b[^.!?]{0,60}\b(?:anspruch|beantragen|klick\w*|auszahl\w*|formular|link|berechtigt|erhalten)\b|)"
-     R"(\b(?:impôts?|direction\s+générale\s+des\s+finances\s+publiques|dgfip|trésor\s+public|caf|assurance\s+maladie|ameli)\b[^.!?]{0,100}\b(?:remboursement|trop-perçu|éligible|régularis\w+|impayée?s?|carte\s+vitale|bénéficie[rz]|dernier\s+rappel)\b|)"
-     R"(\b(?:agencia\s+tributaria|hacienda|sat|receita\s+federal|fazenda|dian|afip|sunat|sefaz|darf|malha\s+fina|imposto\s+de\s+renda|seguridad\s+social|dgt|detran|senatran|ipva)\b[^.!?]{0,100}\b(?:reembolso|devoluci[óo]n|restitui[çc][ãa]o|multas?|deuda|pend[êe]nci\w+|irregularidade\w*|regulariz\w+|cpf|d[ée]bitos?|notifica\w+|embargo|bloque\w+|suspens\w+|apreens\w+)\b|)"
-     R"(\b(?:cpf|cnpj|cnh|mei|malha\s+fina|restitui[çc][ãa]o)\b[^.!?]{0,60}\b(?:irregular\w*|suspens\w+|bloquead\w+|cancelad\w+|pend[êe]ncia\w*|pendente\w*|restri[çc]\w+|regulariz\w+|receita\s+federal|d[íi]vida\s+ativa|inscri[çc][ãa]o|dispon[íi]vel)\b|)"
-     R"(\b(?:belastingdienst|mijnoverheid|digid|cjib)\b[^.!?]{0,100}\b(?:teruggave|terugbetaling|openstaande?|schuld|boete|aanmaning|bevestig\w*|beslag\w*|verlop\w+|dwangbevel|deurwaarder)\b|)"
-     R"((?:税务局|稅務局|国税|國稅|税务机关)[^。！？.!?]{0,20}(?:退税|退稅|欠税|欠稅|补缴|領取|领取)|)"
-     R"((?:国税庁|税務署|e-Tax)[^。！？.!?]{0,30}(?:未払|未納|還付|差押|滞納|お支払い)|)"
-     R"((?:국세청|세무서)[^.!?。]{0,25}(?:환급|미납|체납|압류))",
+     pattern([] { return std::string_view(
+     R"(\b(?:irs|lrs|internal\s+revenue\s+service|hmrc|hm\s+revenue|inland\s+revenue|ato|australian\s+taxation\s+office|cra|canada\s+revenue\s+agency|tax\s+(?:office|authority|department|authorities|bureau|administration)|gov\.uk|mygov|revenue\s+commissioners|service\s+canada)\b<100>\b(?:refund|rebate|eligible|owed?|owing|overpa\w+|penalt\w+|arrest|warrant|lawsuit|final\s+notice|unpaid|stimulus|outstanding|claim\s+your|submit|legal\s+action|audit|verify|irregularit\w+|entitled)\b|)"
+     R"(\b(?:tax|fiscal)\s+(?:refund|rebate|return|relief|overpayment|benefit)s?\b<60>\b(?:eligible|entitled|claim|click|submit|pending|of\s+[$€£]|approved|waiting|receive|notification|link|you\s+are\s+due|processed|due\s+to\s+you|application)\b|)"
+     R"(\b(?:eligible|entitled|due|qualify|claim|receive|awaiting)\b<40>\b(?:tax|stimulus|council\s+tax|energy|cost\s+of\s+living)\s+(?:refund|rebate|payment|check|cheque|support|relief)\b|)"
+     R"(\b(?:unpaid|outstanding|overdue|owe|back)\b<20>\btax(?:es)?\b<60>\b(?:arrest|warrant|lawsuit|legal\s+action|police|immediately|seiz\w+|penalt\w+|sheriff|jail)\b|)"
+     R"(\b(?:finanzamt|bundeszentralamt\s+für\s+steuern|elster|steuerverwaltung|finanzministerium|finanzonline|bundesministerium\s+der\s+finanzen)\b<100>\b(?:rückerstattung|erstattung|nachzahlung|anspruch|mahnung|pfändung|guthaben|auszahlung|überprüf\w+|frist|letzte)\b|)"
+     R"(\bsteuer(?:rück)?erstattung\b<60>\b(?:anspruch|beantragen|klick\w*|auszahl\w*|formular|link|berechtigt|erhalten)\b|)"
+     R"(\b(?:impôts?|direction\s+générale\s+des\s+finances\s+publiques|dgfip|trésor\s+public|caf|assurance\s+maladie|ameli)\b<100>\b(?:remboursement|trop-perçu|éligible|régularis\w+|impayée?s?|carte\s+vitale|bénéficie[rz]|dernier\s+rappel)\b|)"
+     R"(\b(?:agencia\s+tributaria|hacienda|sat|receita\s+federal|fazenda|dian|afip|sunat|sefaz|darf|malha\s+fina|imposto\s+de\s+renda|seguridad\s+social|dgt|detran|senatran|ipva)\b<100>\b(?:reembolso|devoluci[óo]n|restitui[çc][ãa]o|multas?|deuda|pend[êe]nci\w+|irregularidade\w*|regulariz\w+|cpf|d[ée]bitos?|notifica\w+|embargo|bloque\w+|suspens\w+|apreens\w+)\b|)"
+     R"(\b(?:cpf|cnpj|cnh|mei|malha\s+fina|restitui[çc][ãa]o)\b<60>\b(?:irregular\w*|suspens\w+|bloquead\w+|cancelad\w+|pend[êe]ncia\w*|pendente\w*|restri[çc]\w+|regulariz\w+|receita\s+federal|d[íi]vida\s+ativa|inscri[çc][ãa]o|dispon[íi]vel)\b|)"
+     R"(\b(?:belastingdienst|mijnoverheid|digid|cjib)\b<100>\b(?:teruggave|terugbetaling|openstaande?|schuld|boete|aanmaning|bevestig\w*|beslag\w*|verlop\w+|dwangbevel|deurwaarder)\b|)"
+     R"((?:税务局|稅務局|国税|國稅|税务机关)<20>(?:退税|退稅|欠税|欠稅|补缴|領取|领取)|)"
+     R"((?:国税庁|税務署|e-Tax)<30>(?:未払|未納|還付|差押|滞納|お支払い)|)"
+     R"((?:국세청|세무서)<25>(?:환급|미납|체납|압류))"); }),
      true},
     {"imp-police", "Impersonation", "warn", 50,
      "poses as police, a court or a prosecutor threatening consequences",
-     R"(\b(?:fbi|police|interpol|europol|federal\s+bureau|federal\s+agents?|homeland\s+security|dea|cbi|cyber\s?crime|law\s+enforcement|sheriff|county\s+court|federal\s+court|high\s+court|prosecutor|attorney\s+general|customs\s+and\s+border\s+protection|immigration\s+(?:office|department)|ministry\s+of\s+(?:justice|public\s+security)|narcotics)\b[^.!?]{0,120}\b(?:arrest\s+warrant|warrant\s+(?:for|has\s+been)|your\s+arrest|arrest\s+you|case\s+against\s+you|charges\s+against\s+you|legal\s+proceedings\s+against|your\s+(?:identity|name|account|passport|social\s+security)\b[^.!?]{0,30}\b(?:used|involved|linked|connected|suspended)|money\s+laundering|child\s+pornography|summons|digital\s+arrest|under\s+investigation|pay\s+(?:a\s+|the\s+)?(?:fine|bail|bond))|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:fbi|police|interpol|europol|federal\s+bureau|federal\s+agents?|homeland\s+security|dea|cbi|cyber\s?crime|law\s+enforcement|sheriff|county\s+court|federal\s+court|high\s+court|prosecutor|attorney\s+general|customs\s+and\s+border\s+protection|immigration\s+(?:office|department)|ministry\s+of\s+(?:justice|public\s+security)|narcotics)\b<120>\b(?:arrest\s+warrant|warrant\s+(?:for|has\s+been)|your\s+arrest|arrest\s+you|case\s+against\s+you|charges\s+against\s+you|legal\s+proceedings\s+against|your\s+(?:identity|name|account|passport|social\s+security)\b<30>\b(?:used|involved|linked|connected|suspended)|money\s+laundering|child\s+pornography|summons|digital\s+arrest|under\s+investigation|pay\s+(?:a\s+|the\s+)?(?:fine|bail|bond))|)"
      R"(\b(?:arrest\s+warrant|warrant\s+(?:for\s+your\s+arrest|has\s+been\s+issued)|warrant\s+out\s+for)\b|)"
-     R"(\b(?:you|your\s+name|your\s+identity|your\s+account|your\s+passport|your\s+parcel)\b[^.!?]{0,50}\b(?:money\s+laundering|drug\s+trafficking|criminal\s+(?:case|investigation|activity|proceedings)|illegal\s+(?:parcel|package|substances))\b[^.!?]{0,60}\b(?:case|police|investigat\w+|arrest|court|officer|account|involved|number|contact|custom\w*)\b|)"
-     R"(\b(?:notice|summons|subpoena|hearing|complaint)\b[^.!?]{0,30}\b(?:to\s+appear|in\s+court|court|has\s+been\s+filed|case\s+(?:no|number|id))\b[^.!?]{0,60}\b(?:you|your|failure|download|attached|arrest|absence|copy|click)\b|)"
-     R"(\b(?:bundeskriminalamt|bka|europol|interpol|polizei|staatsanwaltschaft|zollfahndung)\b[^.!?]{0,100}\b(?:haftbefehl|ermittlung\w*|strafverfahren|anzeige\s+gegen|vorladung|kinderpornogra\w+|geldwäsche|ihre\s+identität|ihre\s+daten)\b|)"
-     R"(\b(?:police|gendarmerie|interpol|europol|procureur|brigade|tribunal|commissaire)\b[^.!?]{0,100}\b(?:convocation|mandat\s+d['’]arrêt|poursuites?|pédopornograph\w+|infractions?|blanchiment|enquête\s+(?:judiciaire|contre))\b|)"
-     R"(\b(?:polic[íi]a|fiscal[íi]a|interpol|europol|juzgado|guardia\s+civil|pol[íi]cia\s+federal|minist[ée]rio\s+p[úu]blico|tribunal|delegacia|oficial\s+de\s+justi[çc]a)\b[^.!?]{0,100}\b(?:orden\s+de\s+(?:arresto|captura|detenci[óo]n)|mandado|citaci[óo]n|intima[çc][ãa]o|investigaci[óo]n|investiga[çc][ãa]o|blanqueo|lavagem|processo\s+(?:judicial|n)|denuncia|execu[çc][ãa]o)\b|)"
-     R"(\bpolitie\b[^.!?]{0,80}\b(?:arrestatiebevel|dagvaarding|strafbaar|verdacht\w*|onderzoek\s+tegen)\b|)"
-     R"((?:公安|警察|检察院|檢察署|法院|刑警|网警)[^。！？.!?]{0,30}(?:涉嫌|洗钱|洗錢|逮捕|通缉|通緝|立案|案件|拘捕|配合调查|配合調查|冻结)|)"
-     R"((?:涉嫌)[^。！？.!?]{0,12}(?:洗钱|洗錢|诈骗案|詐騙案|犯罪)|)"
-     R"((?:警察|検察|警視庁|裁判所|検事|県警)[^。！？.!?]{0,30}(?:逮捕状|容疑|資金洗浄|マネーロンダリング|差し押さえ|出頭|捜査対象|口座が(?:犯罪|悪用))|)"
-     R"((?:경찰|검찰|법원|금융감독원|금감원|검사|수사관)[^.!?。]{0,30}(?:연루|명의\s?도용|체포|출석|수사|대포통장|구속|자금\s?세탁|범죄))",
+     R"(\b(?:you|your\s+name|your\s+identity|your\s+account|your\s+passport|your\s+parcel)\b<50>\b(?:money\s+laundering|drug\s+trafficking|criminal\s+(?:case|investigation|activity|proceedings)|illegal\s+(?:parcel|package|substances))\b<60>\b(?:case|police|investigat\w+|arrest|court|officer|account|involved|number|contact|custom\w*)\b|)"
+     R"(\b(?:notice|summons|subpoena|hearing|complaint)\b<30>\b(?:to\s+appear|in\s+court|court|has\s+been\s+filed|case\s+(?:no|number|id))\b<60>\b(?:you|your|failure|download|attached|arrest|absence|copy|click)\b|)"
+     R"(\b(?:bundeskriminalamt|bka|europol|interpol|polizei|staatsanwaltschaft|zollfahndung)\b<100>\b(?:haftbefehl|ermittlung\w*|strafverfahren|anzeige\s+gegen|vorladung|kinderpornogra\w+|geldwäsche|ihre\s+identität|ihre\s+daten)\b|)"
+     R"(\b(?:police|gendarmerie|interpol|europol|procureur|brigade|tribunal|commissaire)\b<100>\b(?:convocation|mandat\s+d['’]arrêt|poursuites?|pédopornograph\w+|infractions?|blanchiment|enquête\s+(?:judiciaire|contre))\b|)"
+     R"(\b(?:polic[íi]a|fiscal[íi]a|interpol|europol|juzgado|guardia\s+civil|pol[íi]cia\s+federal|minist[ée]rio\s+p[úu]blico|tribunal|delegacia|oficial\s+de\s+justi[çc]a)\b<100>\b(?:orden\s+de\s+(?:arresto|captura|detenci[óo]n)|mandado|citaci[óo]n|intima[çc][ãa]o|investigaci[óo]n|investiga[çc][ãa]o|blanqueo|lavagem|processo\s+(?:judicial|n)|denuncia|execu[çc][ãa]o)\b|)"
+     R"(\bpolitie\b<80>\b(?:arrestatiebevel|dagvaarding|strafbaar|verdacht\w*|onderzoek\s+tegen)\b|)"
+     R"((?:公安|警察|检察院|檢察署|法院|刑警|网警)<30>(?:涉嫌|洗钱|洗錢|逮捕|通缉|通緝|立案|案件|拘捕|配合调查|配合調查|冻结)|)"
+     R"((?:涉嫌)<12>(?:洗钱|洗錢|诈骗案|詐騙案|犯罪)|)"
+     R"((?:警察|検察|警視庁|裁判所|検事|県警)<30>(?:逮捕状|容疑|資金洗浄|マネーロンダリング|差し押さえ|出頭|捜査対象|口座が(?:犯罪|悪用))|)"
+     R"((?:경찰|검찰|법원|금융감독원|금감원|검사|수사관)<30>(?:연루|명의\s?도용|체포|출석|수사|대포통장|구속|자금\s?세탁|범죄))"); }),
      true},
     {"imp-social-security", "Impersonation", "warn", 45,
      "says a social security or national insurance number is suspended or misused",
-     R"(\byour\s+(?:new\s+|updated\s+)?social\s+security\s+(?:statement|benefit\s+statement|letter)\b[^.!?]{0,60}\b(?:available|review|download|view|ready|access|streamlined|open)\b|)"
-     R"(\b(?:social\s+security|ssn|ssa|social\s+insurance|national\s+insurance|medicare|aadhaa?r|nin)\s+(?:\w+\s+){0,3}(?:number|benefits?|account|card|administration|no)?\b[^.!?]{0,50}\b(?:suspend\w*|block\w*|compromis\w*|suspicious|fraud\w*|illegal\w*|terminat\w*|deactivat\w*|misus\w*|on\s+hold|legal\s+action|expire[sd]?|criminal|verify|warrant)\b|)"
-     R"(\b(?:suspend\w*|compromis\w*|block\w*|misus\w*|suspicious\s+activit\w+|fraudulent\w*)\b[^.!?]{0,40}\b(?:your\s+|ur\s+)(?:social\s+security|ssn|social\s+insurance|national\s+insurance|medicare|aadhaa?r)\b|)"
-     R"(\b(?:give|confirm|provide|verify|send|update|need|enter)\b[^.!?]{0,20}\b(?:your|ur|the\s+last\s+(?:four|4)(?:\s+digits)?\s+of\s+your)\s+(?:social\s+security|ssn|social\s+insurance|national\s+insurance|medicare)(?:\s+(?:number|no|card))?\b|)"
-     R"(\b(?:sozialversicherungs|renten(?:versicherungs)?)(?:nummer|ausweis)\b[^.!?]{0,50}\b(?:gesperrt|missbrauch\w*|ausgesetzt|bestätigen|verdächtig\w*)\b|)"
-     R"(\bnuméro\s+de\s+sécurité\s+sociale\b[^.!?]{0,50}\b(?:suspendu|bloqué|utilisé|frauduleu\w+|confirme[rz])\b|)"
-     R"(\b(?:seguridad\s+social|seguro\s+social|inss)\b[^.!?]{0,50}\b(?:suspend\w+|bloque\w+|fraud\w+|prova\s+de\s+vida|confirm\w+|cancelad\w+)\b|)"
-     R"((?:社保|社会保险|医保|醫保|健保)[^。！？.!?]{0,10}(?:停用|冻结|凍結|异常|異常|暂停|暫停|失效))",
+     pattern([] { return std::string_view(
+     R"(\byour\s+(?:new\s+|updated\s+)?social\s+security\s+(?:statement|benefit\s+statement|letter)\b<60>\b(?:available|review|download|view|ready|access|streamlined|open)\b|)"
+     R"(\b(?:social\s+security|ssn|ssa|social\s+insurance|national\s+insurance|medicare|aadhaa?r|nin)\s+(?:\w+\s+){0,3}(?:number|benefits?|account|card|administration|no)?\b<50>\b(?:suspend\w*|block\w*|compromis\w*|suspicious|fraud\w*|illegal\w*|terminat\w*|deactivat\w*|misus\w*|on\s+hold|legal\s+action|expire[sd]?|criminal|verify|warrant)\b|)"
+     R"(\b(?:suspend\w*|compromis\w*|block\w*|misus\w*|suspicious\s+activit\w+|fraudulent\w*)\b<40>\b(?:your\s+|ur\s+)(?:social\s+security|ssn|social\s+insurance|national\s+insurance|medicare|aadhaa?r)\b|)"
+     R"(\b(?:give|confirm|provide|verify|send|update|need|enter)\b<20>\b(?:your|ur|the\s+last\s+(?:four|4)(?:\s+digits)?\s+of\s+your)\s+(?:social\s+security|ssn|social\s+insurance|national\s+insurance|medicare)(?:\s+(?:number|no|card))?\b|)"
+     R"(\b(?:sozialversicherungs|renten(?:versicherungs)?)(?:nummer|ausweis)\b<50>\b(?:gesperrt|missbrauch\w*|ausgesetzt|bestätigen|verdächtig\w*)\b|)"
+     R"(\bnuméro\s+de\s+sécurité\s+sociale\b<50>\b(?:suspendu|bloqué|utilisé|frauduleu\w+|confirme[rz])\b|)"
+     R"(\b(?:seguridad\s+social|seguro\s+social|inss)\b<50>\b(?:suspend\w+|bloque\w+|fraud\w+|prova\s+de\s+vida|confirm\w+|cancelad\w+)\b|)"
+     R"((?:社保|社会保险|医保|醫保|健保)<10>(?:停用|冻结|凍結|异常|異常|暂停|暫停|失效))"); }),
      true},
     {"imp-support", "Impersonation", "warn", 40,
      "poses as the technical support of a well-known company",
-     R"(\b(?:norton|mcafee|geek\s?squad|paypal|lifelock|totalav|microsoft|windows|quickbooks|best\s+buy|amazon|apple|netflix|premium|maxsecure)\b[^.!?]{0,80}\b(?:membership|subscription|renewal|protection\s+plan|auto-?renew\w*|order|renew)\b[^.!?]{0,100}(?:[$€£]\s?\d|\b(?:charged|debited|debit|help\s?line|help\s?desk|toll[- ]?free)\b)|)"
-     R"(\b(?:membership|subscription|renewal|plan)\b[^.!?]{0,60}\b(?:norton|mcafee|geek\s?squad|paypal|lifelock|totalav|microsoft|windows|quickbooks|maxsecure)\b[^.!?]{0,100}(?:[$€£]\s?\d|\b(?:charged|debited|debit|set\s+to\s+renew|scheduled)\b)|)"
-     R"(\b(?:microsoft|windows|apple|google|amazon|paypal|netflix|facebook|meta|instagram|whats\s?app|coinbase|metamask|ledger|binance|norton|mcafee|geek\s?squad|icloud|outlook|office\s?365|yahoo|dhl|ups|fedex|usps|docusign|trust\s?wallet|blockchain|kraken|exodus|opensea|trezor|linkedin|spotify|webmail|e-?mail|mail|helpdesk|it)\b[^.!?]{0,5}\b(?:technical\s+|customer\s+|account\s+|security\s+|online\s+|wallet\s+|live\s+|e-?mail\s+|help\s+|it\s+|admin\s+)*(?:support|help\s?desk|service\s+desk|security|care|services?|administrator|admin|assistance|account|verification|protection|billing)(?:\s+team|\s+department|\s+center|\s+centre|\s+desk|\s+staff|\s+agent)\b|)"
-     R"(\b(?:this\s+is|i\s+am|i['’]m|we\s+are|calling|writing)\b[^.!?]{0,15}\b(?:from|with)\b[^.!?]{0,15}\b(?:the\s+)?(?:it\s+(?:support|department|help\s?desk|team)|microsoft|windows|apple|amazon|help\s?desk|tech(?:nical)?\s+support|paypal|google|coinbase|your\s+internet\s+provider)\b[^.!?]{0,60}\b(?:support|account|computer|device|noticed|detected|virus|password|verify|migrat\w*|issue|problem|security)\b|)"
-     R"(\b(?:it|system|mail|e-?mail|server|webmail|network|exchange|mailbox)\s+(?:help\s?desk|administrators?|admin|service\s+desk|support(?:\s+team)?)\b[^.!?]{0,100}\b(?:password|mailbox|verify|validate|upgrade|migrat\w+|quota|click|link|credential\w*|update\s+your|log\s?in|deactivat\w*|expire\w*)\b|)"
-     R"(\b(?:dear|hello|hi|attention)\b[^.!?]{0,20}\b(?:valued\s+|esteemed\s+)?(?:microsoft|apple|amazon|paypal|netflix|google|e-?mail|mail|webmail|mailbox|wallet|coinbase|metamask|ledger|binance|trust\s?wallet|tether|blockchain|outlook|office\s?365|icloud|account|domain|facebook|instagram|opensea|uniswap|xrp|crypto|defi)\b[^.!?]{0,12}\b(?:user|customer|client|member|owner|holder|account\s+holder|subscriber|supporter|community|administrator)\b|)"
-     R"(\b(?:apple|microsoft|amazon|paypal|netflix|google|metamask|ledger)[- ](?:support|kundendienst|kundenservice|sicherheitsteam|team|support-team)\b[^.!?]{0,80}\b(?:konto|gesperrt|bestätig\w+|sicherheit\w*|verdächtig\w*)\b|)"
-     R"(\b(?:support\s+technique|service\s+client|soporte\s+t[ée]cnico|suporte\s+t[ée]cnico|servicio\s+al\s+cliente|central\s+de\s+atendimento)\b[^.!?]{0,60}\b(?:microsoft|apple|amazon|paypal|netflix|compte|cuenta|conta)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:norton|mcafee|geek\s?squad|paypal|lifelock|totalav|microsoft|windows|quickbooks|best\s+buy|amazon|apple|netflix|premium|maxsecure)\b<80>\b(?:membership|subscription|renewal|protection\s+plan|auto-?renew\w*|order|renew)\b<100>(?:[$€£]\s?\d|\b(?:charged|debited|debit|help\s?line|help\s?desk|toll[- ]?free)\b)|)"
+     R"(\b(?:membership|subscription|renewal|plan)\b<60>\b(?:norton|mcafee|geek\s?squad|paypal|lifelock|totalav|microsoft|windows|quickbooks|maxsecure)\b<100>(?:[$€£]\s?\d|\b(?:charged|debited|debit|set\s+to\s+renew|scheduled)\b)|)"
+     R"(\b(?:microsoft|windows|apple|google|amazon|paypal|netflix|facebook|meta|instagram|whats\s?app|coinbase|metamask|ledger|binance|norton|mcafee|geek\s?squad|icloud|outlook|office\s?365|yahoo|dhl|ups|fedex|usps|docusign|trust\s?wallet|blockchain|kraken|exodus|opensea|trezor|linkedin|spotify|webmail|e-?mail|mail|helpdesk|it)\b<5>\b(?:technical\s+|customer\s+|account\s+|security\s+|online\s+|wallet\s+|live\s+|e-?mail\s+|help\s+|it\s+|admin\s+)*(?:support|help\s?desk|service\s+desk|security|care|services?|administrator|admin|assistance|account|verification|protection|billing)(?:\s+team|\s+department|\s+center|\s+centre|\s+desk|\s+staff|\s+agent)\b|)"
+     R"(\b(?:this\s+is|i\s+am|i['’]m|we\s+are|calling|writing)\b<15>\b(?:from|with)\b<15>\b(?:the\s+)?(?:it\s+(?:support|department|help\s?desk|team)|microsoft|windows|apple|amazon|help\s?desk|tech(?:nical)?\s+support|paypal|google|coinbase|your\s+internet\s+provider)\b<60>\b(?:support|account|computer|device|noticed|detected|virus|password|verify|migrat\w*|issue|problem|security)\b|)"
+     R"(\b(?:it|system|mail|e-?mail|server|webmail|network|exchange|mailbox)\s+(?:help\s?desk|administrators?|admin|service\s+desk|support(?:\s+team)?)\b<100>\b(?:password|mailbox|verify|validate|upgrade|migrat\w+|quota|click|link|credential\w*|update\s+your|log\s?in|deactivat\w*|expire\w*)\b|)"
+     R"(\b(?:dear|hello|hi|attention)\b<20>\b(?:valued\s+|esteemed\s+)?(?:microsoft|apple|amazon|paypal|netflix|google|e-?mail|mail|webmail|mailbox|wallet|coinbase|metamask|ledger|binance|trust\s?wallet|tether|blockchain|outlook|office\s?365|icloud|account|domain|facebook|instagram|opensea|uniswap|xrp|crypto|defi)\b<12>\b(?:user|customer|client|member|owner|holder|account\s+holder|subscriber|supporter|community|administrator)\b|)"
+     R"(\b(?:apple|microsoft|amazon|paypal|netflix|google|metamask|ledger)[- ](?:support|kundendienst|kundenservice|sicherheitsteam|team|support-team)\b<80>\b(?:konto|gesperrt|bestätig\w+|sicherheit\w*|verdächtig\w*)\b|)"
+     R"(\b(?:support\s+technique|service\s+client|soporte\s+t[ée]cnico|suporte\s+t[ée]cnico|servicio\s+al\s+cliente|central\s+de\s+atendimento)\b<60>\b(?:microsoft|apple|amazon|paypal|netflix|compte|cuenta|conta)\b)"); }),
      true},
     {"imp-bank-security", "Impersonation", "warn", 35,
      "poses as a bank's security department",
-     R"(\b(?:bank|chase|wells\s+fargo|bank\s+of\s+america|citi(?:bank)?|hsbc|barclays|lloyds|natwest|santander|halifax|nationwide|capital\s+one|td\s+bank|rbc|scotiabank|commonwealth\s+bank|anz|westpac|nab|revolut|n26|monzo|american\s+express|amex|visa|mastercard|paypal|venmo|zelle|cash\s?app|wise|usaa|truist|navy\s+federal)\b[^.!?]{0,40}\b(?:fraud\s+(?:department|team|prevention|alert|protection|detection)|security\s+(?:department|team|alert|notice|centre|center|update|system|upgrade)|alerts?|verification\s+(?:team|department)|customer\s+protection|online\s+banking|card\s+services|account\s+(?:services|alert|notification|review))\b[^.!?]{0,100}\b(?:suspicious|verify|confirm|unusual|locked|blocked|suspended|restricted|transaction|transfer|payment|declined|log\s?in|click|call|update|unauthori[sz]ed|access|secure|limited)\b|)"
-     R"(\b(?:fraud\s+(?:department|team|prevention|protection|detection)|security\s+department|anti-?fraud)\b[^.!?]{0,80}\b(?:your\s+(?:account|card|bank)|suspicious|transaction|verify|call\s+(?:us|back)|transfer|unauthori[sz]ed|we\s+(?:have\s+)?(?:noticed|detected))\b|)"
-     R"(\b(?:your|ur)\s+(?:\w+\s+){0,2}(?:bank\s+account|debit\s+card|credit\s+card|online\s+banking|bank\s+card|cash\s?app|zelle|paypal\s+account|bank)\b[^.!?]{0,60}\b(?:suspended|locked|blocked|restricted|limited|compromised|suspicious|unusual|on\s+hold|frozen|deactivated|verify|fraudulent)\b|)"
-     R"(\b(?:sparkasse|volksbank|commerzbank|deutsche\s+bank|postbank|dkb|ing(?:-diba)?|comdirect|targobank|santander|hypovereinsbank|raiffeisen\w*|n26|consorsbank|advanzia|barclays|norisbank|klarna|paypal|mastercard|visa|push-?tan|photo-?tan|s-id-check)\b[^.!?]{0,100}\b(?:bestätig\w+|gesperrt|einschränk\w+|eingeschränkt|aktualisier\w+|sicherheits\w+|verifizier\w+|legitimation\w*|legitimier\w+|freischalt\w+|abgelaufen|läuft\s+ab|abläuft|reaktivier\w+|überprüf\w+)\b|)"
-     R"(\b(?:crédit\s+agricole|bnp\s+paribas|société\s+générale|la\s+banque\s+postale|caisse\s+d['’]épargne|crédit\s+mutuel|lcl|boursorama|cic|ing|fortuneo|bred|certicode)\b[^.!?]{0,100}\b(?:suspend\w+|bloqu\w+|sécurit\w+|confirm\w+|vérifi\w+|activ\w+|mise\s+à\s+jour|authentifi\w+)\b|)"
-     R"(\b(?:bbva|santander|caixabank|sabadell|bankia|ing|itau|itaú|bradesco|banco\s+do\s+brasil|caixa|nubank|mercado\s+pago|picpay|sicredi|sicoob|banrisul|pagbank|banco\s+inter|livelo|esfera|unicaja|ibercaja|bancolombia|banorte|banamex)\b[^.!?]{0,100}\b(?:suspend\w+|bloque\w+|seguran[çc]a|seguridad|confirm\w+|verifi\w+|ativ[ae]\w*|activ[ae]\w*|atualiz\w+|actuali\w+|desativad\w+|expira\w*|resgat\w+|acesso|dispositivo|token|m[óo]dulo|pontos)\b|)"
-     R"(\b(?:ing|rabobank|abn\s+amro|sns|asn|knab|bunq|ics|regiobank)\b[^.!?]{0,100}\b(?:geblokkeerd|bevestig\w*|verifi\w+|beveilig\w*|verlop\w+|activeer\w*|activeren|bijwerken|identific\w+)\b|)"
-     R"((?:银行|銀行)[^。！？.!?]{0,12}(?:风控|風控|安全中心|反诈|客服)[^。！？.!?]{0,25}(?:账户|帳戶|交易|转账|轉帳|异常|異常)|)"
-     R"((?:銀行|カード会社|三井住友|楽天|三菱UFJ|みずほ|ゆうちょ|えきねっと|JCB|アメックス)[^。！？.!?]{0,30}(?:不正利用|利用制限|本人確認|一時停止|セキュリティ強化)|)"
-     R"((?:은행|카드사)[^.!?。]{0,15}(?:보안팀|사고\s?예방|이상\s?거래|부정\s?사용))",
+     pattern([] { return std::string_view(
+     R"(\b(?:bank|chase|wells\s+fargo|bank\s+of\s+america|citi(?:bank)?|hsbc|barclays|lloyds|natwest|santander|halifax|nationwide|capital\s+one|td\s+bank|rbc|scotiabank|commonwealth\s+bank|anz|westpac|nab|revolut|n26|monzo|american\s+express|amex|visa|mastercard|paypal|venmo|zelle|cash\s?app|wise|usaa|truist|navy\s+federal)\b<40>\b(?:fraud\s+(?:department|team|prevention|alert|protection|detection)|security\s+(?:department|team|alert|notice|centre|center|update|system|upgrade)|alerts?|verification\s+(?:team|department)|customer\s+protection|online\s+banking|card\s+services|account\s+(?:services|alert|notification|review))\b<100>\b(?:suspicious|verify|confirm|unusual|locked|blocked|suspended|restricted|transaction|transfer|payment|declined|log\s?in|click|call|update|unauthori[sz]ed|access|secure|limited)\b|)"
+     R"(\b(?:fraud\s+(?:department|team|prevention|protection|detection)|security\s+department|anti-?fraud)\b<80>\b(?:your\s+(?:account|card|bank)|suspicious|transaction|verify|call\s+(?:us|back)|transfer|unauthori[sz]ed|we\s+(?:have\s+)?(?:noticed|detected))\b|)"
+     R"(\b(?:your|ur)\s+(?:\w+\s+){0,2}(?:bank\s+account|debit\s+card|credit\s+card|online\s+banking|bank\s+card|cash\s?app|zelle|paypal\s+account|bank)\b<60>\b(?:suspended|locked|blocked|restricted|limited|compromised|suspicious|unusual|on\s+hold|frozen|deactivated|verify|fraudulent)\b|)"
+     R"(\b(?:sparkasse|volksbank|commerzbank|deutsche\s+bank|postbank|dkb|ing(?:-diba)?|comdirect|targobank|santander|hypovereinsbank|raiffeisen\w*|n26|consorsbank|advanzia|barclays|norisbank|klarna|paypal|mastercard|visa|push-?tan|photo-?tan|s-id-check)\b<100>\b(?:bestätig\w+|gesperrt|einschränk\w+|eingeschränkt|aktualisier\w+|sicherheits\w+|verifizier\w+|legitimation\w*|legitimier\w+|freischalt\w+|abgelaufen|läuft\s+ab|abläuft|reaktivier\w+|überprüf\w+)\b|)"
+     R"(\b(?:crédit\s+agricole|bnp\s+paribas|société\s+générale|la\s+banque\s+postale|caisse\s+d['’]épargne|crédit\s+mutuel|lcl|boursorama|cic|ing|fortuneo|bred|certicode)\b<100>\b(?:suspend\w+|bloqu\w+|sécurit\w+|confirm\w+|vérifi\w+|activ\w+|mise\s+à\s+jour|authentifi\w+)\b|)"
+     R"(\b(?:bbva|santander|caixabank|sabadell|bankia|ing|itau|itaú|bradesco|banco\s+do\s+brasil|caixa|nubank|mercado\s+pago|picpay|sicredi|sicoob|banrisul|pagbank|banco\s+inter|livelo|esfera|unicaja|ibercaja|bancolombia|banorte|banamex)\b<100>\b(?:suspend\w+|bloque\w+|seguran[çc]a|seguridad|confirm\w+|verifi\w+|ativ[ae]\w*|activ[ae]\w*|atualiz\w+|actuali\w+|desativad\w+|expira\w*|resgat\w+|acesso|dispositivo|token|m[óo]dulo|pontos)\b|)"
+     R"(\b(?:ing|rabobank|abn\s+amro|sns|asn|knab|bunq|ics|regiobank)\b<100>\b(?:geblokkeerd|bevestig\w*|verifi\w+|beveilig\w*|verlop\w+|activeer\w*|activeren|bijwerken|identific\w+)\b|)"
+     R"((?:银行|銀行)<12>(?:风控|風控|安全中心|反诈|客服)<25>(?:账户|帳戶|交易|转账|轉帳|异常|異常)|)"
+     R"((?:銀行|カード会社|三井住友|楽天|三菱UFJ|みずほ|ゆうちょ|えきねっと|JCB|アメックス)<30>(?:不正利用|利用制限|本人確認|一時停止|セキュリティ強化)|)"
+     R"((?:은행|카드사)<15>(?:보안팀|사고\s?예방|이상\s?거래|부정\s?사용))"); }),
      true},
     {"imp-courier", "Impersonation", "warn", 30,
      "poses as a parcel service with a delivery that failed or waits",
-     R"(\b(?:vertriebszentrum|distributionszentrum|versandzentrum|verteilzentrum|logistikzentrum|zustellzentrum)\b[^.!?]{0,15}\b(?:angehalten|gestoppt|blockiert|zurückgehalten)\b|)"
-     R"(\b(?:bestätigen|überprüfen|aktualisieren)\b[^.!?]{0,30}\b(?:lieferdetails|lieferadresse|lieferinformationen|versandinformationen|versandadresse|lieferung|zustellung)\b|)"
-     R"(\b(?:parcel|package|shipment|delivery|item|order|courier|consignment|mail\s+piece)\b[^.!?]{0,50}\b(?:could\s+not|couldn['’]t|cannot|can['’]t|was\s+not|wasn['’]t|unable\s+to|failed\s+to|has\s+not|hasn['’]t|were\s+unable\s+to|attempted\s+to|is\s+on\s+hold|on\s+hold|is\s+pending|pending|suspended|held|stuck|waiting|awaiting|undeliver\w+|unsuccessful|failed|stopped|incomplete|delayed|missed|missing)\b[^.!?]{0,60}\b(?:deliver\w*|address|fee|reschedul\w*|confirm\w*|customs?|warehouse|depot|facility|distribution|delivery|sender|instructions?|collect\w*|pick\s?up|track\w*|update|click|link|shipping|postage|house\s+number|hub)\b|)"
-     R"(\b(?:unable\s+to|could\s+not|couldn['’]t|failed\s+to|cannot|attempted\s+to|tried\s+to|attempt(?:ed)?)\b[^.!?]{0,20}\b(?:deliver|delivery|be\s+delivered)\b[^.!?]{0,40}\b(?:parcel|package|shipment|item|order|address|you|mail|confirm|reschedul\w*|courier|today)\b|)"
-     R"(\b(?:schedule|reschedule|arrange|confirm|rearrange|re-?schedule)\b[^.!?]{0,20}\b(?:your\s+|the\s+|a\s+|my\s+)?(?:re-?delivery|delivery|shipment|parcel|package|shipping)\b[^.!?]{0,30}\b(?:here|now|address|link|below|click|within|details|fee|today|appointment|preferences|new|online|information)\b|)"
-     R"(\b(?:incorrect|incomplete|invalid|wrong|missing|insufficient|inaccurate|update\s+(?:your|the)|confirm\s+(?:your|the))\b[^.!?]{0,15}\b(?:delivery\s+|shipping\s+|house\s+|street\s+|postal\s+|destination\s+)(?:address|number|details|information|code|label)\b|)"
-     R"(\b(?:dhl|ups|usps|fedex|royal\s+mail|evri|hermes|dpd|gls|canada\s+post|auspost|australia\s+post|an\s+post|amazon|tnt|aramex|singpost|us\s+postal|post\s+office|correios|posta?e?)\b[^.!?]{0,60}\b(?:failed\s+delivery|delivery\s+(?:attempt|failed|problem|fee|issue|notification|exception|attempted)|(?:parcel|package|shipment)\b[^.!?]{0,25}\b(?:waiting|pending|held|hold|arrived|ready|stopped|undelivered|could\s+not|unable|customs)|redelivery|customs\s+(?:fee|duty|charge)|shipping\s+(?:fee|confirmation)|unpaid|address\s+(?:confirmation|verification))|)"
-     R"((?:\b(?:you\s+have|there\s+is|there['’]s|we\s+have|1|one|(?:a|your)\s+(?:new\s+)?(?:pending|undelivered|waiting|stopped|unclaimed|lost))|\(1\))\b[^.!?]{0,15}(?:\b(?:a\s+|an\s+|your\s+|one\s+)|\(?1\)?\s+)?(?:pending\s+|undelivered\s+|waiting\s+|unclaimed\s+|lost\s+|missed\s+|new\s+)*(?:parcel|package|shipment|delivery)\b[^.!?]{0,20}\b(?:waiting|pending|for\s+you|on\s+hold|undelivered|to\s+(?:collect|receive|confirm|claim|deliver)|delivery|awaits?|in\s+our|at\s+our|under\s+our|is)\b|)"
-     R"(\b(?:paket|sendung|lieferung|zustellung|päckchen|versandpaket|bestellung)\w*\b[^.!?]{0,60}\b(?:konnte\s+nicht|nicht\s+zugestellt|wartet|angehalten|zurückgehalten|fehlgeschlagen|versucht|in\s+den\s+warteschlangen|nicht\s+möglich|gestoppt|aussteh\w+|zoll\w*|zurückgeschickt|zurückgesendet|zurückgesandt|unvollständig\w*|blockiert|in\s+der\s+warteschlange|verzöger\w*|nicht\s+bestätigt|erneut)\b|)"
-     R"(\b(?:colis|livraison|envoi|paquet)\b[^.!?]{0,60}\b(?:en\s+attente|n['’]a\s+pas\s+pu|suspendue?|bloquée?|retenue?|échouée?|frais|douane|reprogramm\w+|incomplète|non\s+livrée?|instructions|confirm\w+|retourné)\b|)"
-     R"(\b(?:paquete|env[íi]o|entrega|encomenda|pacote|objeto|remessa|pedido)\b[^.!?]{0,60}\b(?:pendiente|no\s+pudo|no\s+se\s+pudo|retenid[oa]|aduan\w+|reprogram\w+|pendente|n[ãa]o\s+(?:foi|p[ôo]de)|retid[oa]|alf[âa]ndeg\w+|alfandeg\w+|taxad[oa]|aguardando|bloquead[oa]|suspens[oa]|incomplet[oa]|incorrect[oa]|custodia|devolvid[oa]|tributad[oa]|fiscaliza\w+|esperando|detenid[oa])\b|)"
-     R"(\b(?:pakket|zending|bezorging|pakje|levering)\b[^.!?]{0,60}\b(?:wacht\w*|kon\s+niet|niet\s+(?:bezorgd|geleverd|worden)|douane\w*|vastgehouden|verzendkosten|opnieuw|gestopt|tegengehouden|onvolledig|uitgesteld|aangehouden)\b|)"
-     R"((?:包裹|快递|快遞|快件|邮件包裹)[^。！？.!?]{0,20}(?:无法|無法|未能|滞留|滯留|扣留|海关|海關|派送失败|地址|重新|待领|异常)|)"
-     R"((?:お荷物|荷物|宅配便?|配達)[^。！？.!?]{0,30}(?:不在|持ち帰|お届けできません|住所|再配達|保管|確認|関税)|)"
-     R"((?:택배|소포|배송|화물)[^.!?。]{0,20}(?:주소\s?(?:불일치|오류|확인|불명)|반송|보류|통관|미배송|실패|재배송)|)"
-     R"(\b(?:pacco|consegna|spedizione)\b[^.!?]{0,40}\b(?:fallit\w+|in\s+attesa|sospes\w+|riprogramm\w+|dogana\w*|bloccat\w+)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:vertriebszentrum|distributionszentrum|versandzentrum|verteilzentrum|logistikzentrum|zustellzentrum)\b<15>\b(?:angehalten|gestoppt|blockiert|zurückgehalten)\b|)"
+     R"(\b(?:bestätigen|überprüfen|aktualisieren)\b<30>\b(?:lieferdetails|lieferadresse|lieferinformationen|versandinformationen|versandadresse|lieferung|zustellung)\b|)"
+     R"(\b(?:parcel|package|shipment|delivery|item|order|courier|consignment|mail\s+piece)\b<50>\b(?:could\s+not|couldn['’]t|cannot|can['’]t|was\s+not|wasn['’]t|unable\s+to|failed\s+to|has\s+not|hasn['’]t|were\s+unable\s+to|attempted\s+to|is\s+on\s+hold|on\s+hold|is\s+pending|pending|suspended|held|stuck|waiting|awaiting|undeliver\w+|unsuccessful|failed|stopped|incomplete|delayed|missed|missing)\b<60>\b(?:deliver\w*|address|fee|reschedul\w*|confirm\w*|customs?|warehouse|depot|facility|distribution|delivery|sender|instructions?|collect\w*|pick\s?up|track\w*|update|click|link|shipping|postage|house\s+number|hub)\b|)"
+     R"(\b(?:unable\s+to|could\s+not|couldn['’]t|failed\s+to|cannot|attempted\s+to|tried\s+to|attempt(?:ed)?)\b<20>\b(?:deliver|delivery|be\s+delivered)\b<40>\b(?:parcel|package|shipment|item|order|address|you|mail|confirm|reschedul\w*|courier|today)\b|)"
+     R"(\b(?:schedule|reschedule|arrange|confirm|rearrange|re-?schedule)\b<20>\b(?:your\s+|the\s+|a\s+|my\s+)?(?:re-?delivery|delivery|shipment|parcel|package|shipping)\b<30>\b(?:here|now|address|link|below|click|within|details|fee|today|appointment|preferences|new|online|information)\b|)"
+     R"(\b(?:incorrect|incomplete|invalid|wrong|missing|insufficient|inaccurate|update\s+(?:your|the)|confirm\s+(?:your|the))\b<15>\b(?:delivery\s+|shipping\s+|house\s+|street\s+|postal\s+|destination\s+)(?:address|number|details|information|code|label)\b|)"
+     R"(\b(?:dhl|ups|usps|fedex|royal\s+mail|evri|hermes|dpd|gls|canada\s+post|auspost|australia\s+post|an\s+post|amazon|tnt|aramex|singpost|us\s+postal|post\s+office|correios|posta?e?)\b<60>\b(?:failed\s+delivery|delivery\s+(?:attempt|failed|problem|fee|issue|notification|exception|attempted)|(?:parcel|package|shipment)\b<25>\b(?:waiting|pending|held|hold|arrived|ready|stopped|undelivered|could\s+not|unable|customs)|redelivery|customs\s+(?:fee|duty|charge)|shipping\s+(?:fee|confirmation)|unpaid|address\s+(?:confirmation|verification))|)"
+     R"((?:\b(?:you\s+have|there\s+is|there['’]s|we\s+have|1|one|(?:a|your)\s+(?:new\s+)?(?:pending|undelivered|waiting|stopped|unclaimed|lost))|\(1\))\b<15>(?:\b(?:a\s+|an\s+|your\s+|one\s+)|\(?1\)?\s+)?(?:pending\s+|undelivered\s+|waiting\s+|unclaimed\s+|lost\s+|missed\s+|new\s+)*(?:parcel|package|shipment|delivery)\b<20>\b(?:waiting|pending|for\s+you|on\s+hold|undelivered|to\s+(?:collect|receive|confirm|claim|deliver)|delivery|awaits?|in\s+our|at\s+our|under\s+our|is)\b|)"
+     R"(\b(?:paket|sendung|lieferung|zustellung|päckchen|versandpaket|bestellung)\w*\b<60>\b(?:konnte\s+nicht|nicht\s+zugestellt|wartet|angehalten|zurückgehalten|fehlgeschlagen|versucht|in\s+den\s+warteschlangen|nicht\s+möglich|gestoppt|aussteh\w+|zoll\w*|zurückgeschickt|zurückgesendet|zurückgesandt|unvollständig\w*|blockiert|in\s+der\s+warteschlange|verzöger\w*|nicht\s+bestätigt|erneut)\b|)"
+     R"(\b(?:colis|livraison|envoi|paquet)\b<60>\b(?:en\s+attente|n['’]a\s+pas\s+pu|suspendue?|bloquée?|retenue?|échouée?|frais|douane|reprogramm\w+|incomplète|non\s+livrée?|instructions|confirm\w+|retourné)\b|)"
+     R"(\b(?:paquete|env[íi]o|entrega|encomenda|pacote|objeto|remessa|pedido)\b<60>\b(?:pendiente|no\s+pudo|no\s+se\s+pudo|retenid[oa]|aduan\w+|reprogram\w+|pendente|n[ãa]o\s+(?:foi|p[ôo]de)|retid[oa]|alf[âa]ndeg\w+|alfandeg\w+|taxad[oa]|aguardando|bloquead[oa]|suspens[oa]|incomplet[oa]|incorrect[oa]|custodia|devolvid[oa]|tributad[oa]|fiscaliza\w+|esperando|detenid[oa])\b|)"
+     R"(\b(?:pakket|zending|bezorging|pakje|levering)\b<60>\b(?:wacht\w*|kon\s+niet|niet\s+(?:bezorgd|geleverd|worden)|douane\w*|vastgehouden|verzendkosten|opnieuw|gestopt|tegengehouden|onvolledig|uitgesteld|aangehouden)\b|)"
+     R"((?:包裹|快递|快遞|快件|邮件包裹)<20>(?:无法|無法|未能|滞留|滯留|扣留|海关|海關|派送失败|地址|重新|待领|异常)|)"
+     R"((?:お荷物|荷物|宅配便?|配達)<30>(?:不在|持ち帰|お届けできません|住所|再配達|保管|確認|関税)|)"
+     R"((?:택배|소포|배송|화물)<20>(?:주소\s?(?:불일치|오류|확인|불명)|반송|보류|통관|미배송|실패|재배송)|)"
+     R"(\b(?:pacco|consegna|spedizione)\b<40>\b(?:fallit\w+|in\s+attesa|sospes\w+|riprogramm\w+|dogana\w*|bloccat\w+)\b)"); }),
      true},
     {"imp-customs", "Impersonation", "warn", 30,
      "poses as customs holding a parcel for a payment",
+     pattern([] { return std::string_view(
      R"(\bausstehend\w*\s+(?:zoll|einfuhr)\w*\b|)"
-     R"(\b(?:customs?|border\s+(?:force|protection))\b[^.!?]{0,50}\b(?:fees?|duty|duties|tax(?:es)?|charges?|clearance|import|held|hold|detained|seized|retained|release)\b[^.!?]{0,60}\b(?:pay\w*|paid|unpaid|parcel|package|shipment|consignment|release\w*|deliver\w*|outstanding|item)\b|)"
-     R"(\b(?:parcel|package|shipment|consignment|item|order)\b[^.!?]{0,50}\b(?:held|detained|stopped|seized|stuck|retained|on\s+hold|blocked|hold|arrested)\b[^.!?]{0,20}\b(?:at|by|in|with)\b[^.!?]{0,15}\bcustoms\b|)"
-     R"(\b(?:import|customs)\s+(?:duty|duties|fees?|tax|charges?|vat)\b[^.!?]{0,40}\b(?:unpaid|outstanding|must\s+be\s+paid|to\s+be\s+paid|due|required|pay|settle|needs?)\b|)"
-     R"(\bzoll(?:gebühr\w*|amt|abgabe\w*|abfertigung\w*|verwaltung|kosten|behörde|stelle|freigabe)?\b[^.!?]{0,60}\b(?:paket|sendung|zahl\w+|bezahl\w+|begleich\w+|entricht\w+|zurückgehalten|festgehalten|freigabe|freigegeben|einfuhr\w*|ausstehend\w*)\b|)"
-     R"(\b(?:paket|sendung)\b[^.!?]{0,60}\b(?:vom|beim|im|durch\s+den)\s+zoll\b|)"
-     R"(\b(?:douanes?|dédouanement|frais\s+de\s+douane)\b[^.!?]{0,60}\b(?:colis|paiement|pay[ée]\w*|régl\w+|retenu|bloqué|frais)\b|)"
-     R"(\bcolis\b[^.!?]{0,50}\b(?:douanes?|dédouanement)\b|)"
-     R"(\b(?:aduanas?|aduaner[oa]s?|alf[âa]ndega|alfandeg[áa]ri[oa]s?|taxa\s+de\s+importa[çc][ãa]o|imposto\s+de\s+importa[çc][ãa]o|desembara[çc]o)\b[^.!?]{0,60}\b(?:paquete|env[íi]o|pag\w+|tasa\w*|retenid\w+|retid\w+|encomenda|taxa\w*|tribut\w+|pacote|libera\w+|objeto|despacho)\b|)"
-     R"(\b(?:paquete|env[íi]o|encomenda|pacote|objeto|pedido)\b[^.!?]{0,50}\b(?:aduanas?|aduaner[oa]s?|alf[âa]ndega|alfandeg[áa]ri[oa]s?|taxad[oa]|tributad[oa])\b|)"
-     R"(\b(?:douane\w*|invoerrechten|inklaring\w*)\b[^.!?]{0,60}\b(?:pakket|zending|betal\w+|betaal\w*|vastgehouden|kosten)\b|)"
-     R"((?:海关|海關)[^。！？.!?]{0,15}(?:扣留|扣押|清关|清關|关税|關稅|缴|繳|补税|補稅)|)"
-     R"((?:税関|通関)[^。！？.!?]{0,20}(?:関税|支払|保留|留め置|手数料)|)"
-     R"((?:세관|통관|관세)[^.!?。]{0,15}(?:미납|납부|보류|결제|고유부호))",
+     R"(\b(?:customs?|border\s+(?:force|protection))\b<50>\b(?:fees?|duty|duties|tax(?:es)?|charges?|clearance|import|held|hold|detained|seized|retained|release)\b<60>\b(?:pay\w*|paid|unpaid|parcel|package|shipment|consignment|release\w*|deliver\w*|outstanding|item)\b|)"
+     R"(\b(?:parcel|package|shipment|consignment|item|order)\b<50>\b(?:held|detained|stopped|seized|stuck|retained|on\s+hold|blocked|hold|arrested)\b<20>\b(?:at|by|in|with)\b<15>\bcustoms\b|)"
+     R"(\b(?:import|customs)\s+(?:duty|duties|fees?|tax|charges?|vat)\b<40>\b(?:unpaid|outstanding|must\s+be\s+paid|to\s+be\s+paid|due|required|pay|settle|needs?)\b|)"
+     R"(\bzoll(?:gebühr\w*|amt|abgabe\w*|abfertigung\w*|verwaltung|kosten|behörde|stelle|freigabe)?\b<60>\b(?:paket|sendung|zahl\w+|bezahl\w+|begleich\w+|entricht\w+|zurückgehalten|festgehalten|freigabe|freigegeben|einfuhr\w*|ausstehend\w*)\b|)"
+     R"(\b(?:paket|sendung)\b<60>\b(?:vom|beim|im|durch\s+den)\s+zoll\b|)"
+     R"(\b(?:douanes?|dédouanement|frais\s+de\s+douane)\b<60>\b(?:colis|paiement|pay[ée]\w*|régl\w+|retenu|bloqué|frais)\b|)"
+     R"(\bcolis\b<50>\b(?:douanes?|dédouanement)\b|)"
+     R"(\b(?:aduanas?|aduaner[oa]s?|alf[âa]ndega|alfandeg[áa]ri[oa]s?|taxa\s+de\s+importa[çc][ãa]o|imposto\s+de\s+importa[çc][ãa]o|desembara[çc]o)\b<60>\b(?:paquete|env[íi]o|pag\w+|tasa\w*|retenid\w+|retid\w+|encomenda|taxa\w*|tribut\w+|pacote|libera\w+|objeto|despacho)\b|)"
+     R"(\b(?:paquete|env[íi]o|encomenda|pacote|objeto|pedido)\b<50>\b(?:aduanas?|aduaner[oa]s?|alf[âa]ndega|alfandeg[áa]ri[oa]s?|taxad[oa]|tributad[oa])\b|)"
+     R"(\b(?:douane\w*|invoerrechten|inklaring\w*)\b<60>\b(?:pakket|zending|betal\w+|betaal\w*|vastgehouden|kosten)\b|)"
+     R"((?:海关|海關)<15>(?:扣留|扣押|清关|清關|关税|關稅|缴|繳|补税|補稅)|)"
+     R"((?:税関|通関)<20>(?:関税|支払|保留|留め置|手数料)|)"
+     R"((?:세관|통관|관세)<15>(?:미납|납부|보류|결제|고유부호))"); }),
      true},
     {"imp-tech-remote", "Impersonation", "warn", 50,
      "asks the reader to let somebody control their computer",
-     R"(\b(?:install|download|open|run|launch|use|allow|grant|give|start|connect\s+(?:via|through|with|using))\b[^.!?]{0,40}\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|quick\s?assist|logmein|log\s+me\s+in|ammyy|rust\s?desk|screen\s?connect|supremo|splashtop|zoho\s+assist|remote\s+(?:access|desktop|control|support)(?:\s+software|\s+app|\s+tool|\s+session)?|goto\s?assist|getscreen|connectwise)\b[^.!?]{0,80}\b(?:code|id|technician|fix|help|agent|we|support|me|our|so|access|connect|assist\w*|share|screen|password|refund|expert|engineer|remov\w+|let)\b|)"
-     R"(\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|quick\s?assist|rust\s?desk)\b[^.!?]{0,30}\b(?:code|id|number|address|session)\b[^.!?]{0,30}\b(?:give|send|tell|share|read|me|us|provide|need)\b|)"
-     R"(\b(?:give|send|tell|share|read|provide)\b[^.!?]{0,25}\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|quick\s?assist|rust\s?desk)\b[^.!?]{0,15}\b(?:code|id|number|address|password)\b|)"
-     R"(\b(?:technician|engineer|specialist|expert|agent|i|we|support)\b[^.!?]{0,25}\b(?:take|gain|get|need|have|obtain|require)\s+(?:remote\s+)?(?:control|access)\b[^.!?]{0,15}\b(?:of|to|over)\s+your\s+(?:computer|pc|laptop|device|screen|phone)\b|)"
-     R"(\b(?:grant|give|allow)\b[^.!?]{0,15}\b(?:us|me|our\s+(?:technician|engineer|expert)|the\s+technician|them)\b[^.!?]{0,15}\b(?:remote\s+)?(?:access|control)\b[^.!?]{0,20}\b(?:computer|pc|laptop|device|screen|phone)\b|)"
-     R"(\b(?:anydesk|teamviewer|fernwartung|fernzugriff)\b[^.!?]{0,60}\b(?:installieren|herunterladen|öffnen|starten|code|zugriff|techniker)\b|)"
-     R"(\b(?:install\w+|télécharge[rz]|instal\w+|descarg\w+|baix\w+)\b[^.!?]{0,40}\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|rust\s?desk|quick\s?support|host\s+remoto)\b|)"
-     R"((?:下载|下載|安装|安裝|打开|打開)[^。！？.!?]{0,12}(?:AnyDesk|TeamViewer|向日葵|远程|遠程|遠端|屏幕共享)|)"
-     R"((?:AnyDesk|TeamViewer|リモート|遠隔操作|遠隔サポート)[^。！？.!?]{0,20}(?:インストール|接続|ダウンロード|許可)|)"
-     R"((?:AnyDesk|TeamViewer|팀뷰어|원격\s?(?:제어|접속|조종))[^.!?。]{0,15}(?:설치|다운로드|허용|접속))",
+     pattern([] { return std::string_view(
+     R"(\b(?:install|download|open|run|launch|use|allow|grant|give|start|connect\s+(?:via|through|with|using))\b<40>\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|quick\s?assist|logmein|log\s+me\s+in|ammyy|rust\s?desk|screen\s?connect|supremo|splashtop|zoho\s+assist|remote\s+(?:access|desktop|control|support)(?:\s+software|\s+app|\s+tool|\s+session)?|goto\s?assist|getscreen|connectwise)\b<80>\b(?:code|id|technician|fix|help|agent|we|support|me|our|so|access|connect|assist\w*|share|screen|password|refund|expert|engineer|remov\w+|let)\b|)"
+     R"(\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|quick\s?assist|rust\s?desk)\b<30>\b(?:code|id|number|address|session)\b<30>\b(?:give|send|tell|share|read|me|us|provide|need)\b|)"
+     R"(\b(?:give|send|tell|share|read|provide)\b<25>\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|quick\s?assist|rust\s?desk)\b<15>\b(?:code|id|number|address|password)\b|)"
+     R"(\b(?:technician|engineer|specialist|expert|agent|i|we|support)\b<25>\b(?:take|gain|get|need|have|obtain|require)\s+(?:remote\s+)?(?:control|access)\b<15>\b(?:of|to|over)\s+your\s+(?:computer|pc|laptop|device|screen|phone)\b|)"
+     R"(\b(?:grant|give|allow)\b<15>\b(?:us|me|our\s+(?:technician|engineer|expert)|the\s+technician|them)\b<15>\b(?:remote\s+)?(?:access|control)\b<20>\b(?:computer|pc|laptop|device|screen|phone)\b|)"
+     R"(\b(?:anydesk|teamviewer|fernwartung|fernzugriff)\b<60>\b(?:installieren|herunterladen|öffnen|starten|code|zugriff|techniker)\b|)"
+     R"(\b(?:install\w+|télécharge[rz]|instal\w+|descarg\w+|baix\w+)\b<40>\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|rust\s?desk|quick\s?support|host\s+remoto)\b|)"
+     R"((?:下载|下載|安装|安裝|打开|打開)<12>(?:AnyDesk|TeamViewer|向日葵|远程|遠程|遠端|屏幕共享)|)"
+     R"((?:AnyDesk|TeamViewer|リモート|遠隔操作|遠隔サポート)<20>(?:インストール|接続|ダウンロード|許可)|)"
+     R"((?:AnyDesk|TeamViewer|팀뷰어|원격\s?(?:제어|접속|조종))<15>(?:설치|다운로드|허용|접속))"); }),
      true},
     {"imp-virus-detected", "Impersonation", "warn", 45,
      "claims that a virus was found on the reader's device",
-     R"(\b(?:your|ur|this)\s+(?:\w+\s+){0,2}(?:computer|pc|device|phone|i-?phone|mac|laptop|system|windows|android|browser|ip\s+address)\s+(?:is|has|may|might|was|could|appears|contains)\b[^.!?]{0,25}\b(?:infected|virus(?:es)?|malware|compromised|hacked|trojan|spyware|at\s+risk|unprotected|not\s+protected|no\s+longer\s+protected|vulnerable|blocked|damaged)\b|)"
-     R"(\b(?:virus(?:es)?|malware|trojans?|spyware|threats?|infections?)\b[^.!?]{0,25}\b(?:detected|found|identified|discovered)\b[^.!?]{0,30}\b(?:on|in|your|device|computer|pc|system|phone|immediately|call|scan)\b|)"
-     R"(\b(?:detected|found|identified|discovered)\b[^.!?]{0,25}\b(?:\d+|several|multiple|some|a|dangerous)\b[^.!?]{0,15}\b(?:virus(?:es)?|trojans?|spyware|malware|threats)\b[^.!?]{0,30}\b(?:on|in)\s+(?:your|this)\b|)"
-     R"(\b(?:norton|mcafee|windows\s+defender|antivirus|avast|avg|kaspersky|totalav|bitdefender)\b[^.!?]{0,50}\b(?:expired|has\s+ended|protection|subscription|licen[cs]e|renew\w*)\b[^.!?]{0,60}\b(?:virus\w*|threats?|risk|infected|unprotected|vulnerable|hackers?|expos\w+|protect\w*|renew\w*)\b|)"
-     R"(\b(?:ihr|ihrem|dein)\s+(?:\w+\s+){0,2}(?:computer|pc|gerät|handy|smartphone|system|iphone)\b[^.!?]{0,40}\b(?:infiziert|viren|virus|befallen|gefährdet|gehackt|ungeschützt|nicht\s+geschützt)\b|)"
-     R"(\b(?:votre|ton)\s+(?:\w+\s+){0,2}(?:ordinateur|appareil|téléphone|pc|mac|système)\b[^.!?]{0,40}\b(?:infectée?|virus|piratée?|menacée?|vulnérable)\b|)"
-     R"(\b(?:su|tu|seu)\s+(?:\w+\s+){0,2}(?:ordenador|computadora|equipo|tel[ée]fono|dispositivo|computador|celular)\b[^.!?]{0,40}\b(?:infectad[oa]|virus|v[íi]rus|hackead[oa]|en\s+riesgo|em\s+risco|comprometid[oa])\b|)"
-     R"(\b(?:uw|je)\s+(?:\w+\s+){0,2}(?:computer|apparaat|telefoon|pc)\b[^.!?]{0,40}\b(?:geïnfecteerd|virus(?:sen)?|gehackt|besmet)\b|)"
-     R"((?:您的|你的)(?:电脑|電腦|手机|手機|设备|設備)[^。！？.!?]{0,15}(?:病毒|感染|中毒|木马|木馬)|)"
-     R"((?:お使いの)?(?:パソコン|PC|端末|スマートフォン|iPhone)[^。！？.!?]{0,15}(?:ウイルス|感染|危険))",
+     pattern([] { return std::string_view(
+     R"(\b(?:your|ur|this)\s+(?:\w+\s+){0,2}(?:computer|pc|device|phone|i-?phone|mac|laptop|system|windows|android|browser|ip\s+address)\s+(?:is|has|may|might|was|could|appears|contains)\b<25>\b(?:infected|virus(?:es)?|malware|compromised|hacked|trojan|spyware|at\s+risk|unprotected|not\s+protected|no\s+longer\s+protected|vulnerable|blocked|damaged)\b|)"
+     R"(\b(?:virus(?:es)?|malware|trojans?|spyware|threats?|infections?)\b<25>\b(?:detected|found|identified|discovered)\b<30>\b(?:on|in|your|device|computer|pc|system|phone|immediately|call|scan)\b|)"
+     R"(\b(?:detected|found|identified|discovered)\b<25>\b(?:\d+|several|multiple|some|a|dangerous)\b<15>\b(?:virus(?:es)?|trojans?|spyware|malware|threats)\b<30>\b(?:on|in)\s+(?:your|this)\b|)"
+     R"(\b(?:norton|mcafee|windows\s+defender|antivirus|avast|avg|kaspersky|totalav|bitdefender)\b<50>\b(?:expired|has\s+ended|protection|subscription|licen[cs]e|renew\w*)\b<60>\b(?:virus\w*|threats?|risk|infected|unprotected|vulnerable|hackers?|expos\w+|protect\w*|renew\w*)\b|)"
+     R"(\b(?:ihr|ihrem|dein)\s+(?:\w+\s+){0,2}(?:computer|pc|gerät|handy|smartphone|system|iphone)\b<40>\b(?:infiziert|viren|virus|befallen|gefährdet|gehackt|ungeschützt|nicht\s+geschützt)\b|)"
+     R"(\b(?:votre|ton)\s+(?:\w+\s+){0,2}(?:ordinateur|appareil|téléphone|pc|mac|système)\b<40>\b(?:infectée?|virus|piratée?|menacée?|vulnérable)\b|)"
+     R"(\b(?:su|tu|seu)\s+(?:\w+\s+){0,2}(?:ordenador|computadora|equipo|tel[ée]fono|dispositivo|computador|celular)\b<40>\b(?:infectad[oa]|virus|v[íi]rus|hackead[oa]|en\s+riesgo|em\s+risco|comprometid[oa])\b|)"
+     R"(\b(?:uw|je)\s+(?:\w+\s+){0,2}(?:computer|apparaat|telefoon|pc)\b<40>\b(?:geïnfecteerd|virus(?:sen)?|gehackt|besmet)\b|)"
+     R"((?:您的|你的)(?:电脑|電腦|手机|手機|设备|設備)<15>(?:病毒|感染|中毒|木马|木馬)|)"
+     R"((?:お使いの)?(?:パソコン|PC|端末|スマートフォン|iPhone)<15>(?:ウイルス|感染|危険))"); }),
      true},
     {"imp-call-number", "Impersonation", "warn", 25,
      "urges the reader to call a given number about a charge or an account",
-     R"(\bcall\s+us\s+(?:immediately|now|right\s+away|at\s+once)\b[^.!?]{0,25}\d{3}[\s.)-]{1,3}\d{3}[\s.-]{1,2}\d{3,4}\b|)"
-     R"(\b(?:call|dial|phone|contact|reach|ring|text)\b[^.!?]{0,40}(?:\+?\d{1,3}[\s.-]?)?\(?\d{3,4}\)?[\s.-]{0,2}\d{3}[\s.-]{0,2}\d{3,4}\b[^.!?]{0,60}\b(?:cancel|refund|immediately|dispute|verify|support|unauthori[sz]ed|order|charge\w*|within|subscription|help|stop|avoid|report|account|claim|questions?|if)\b|)"
-     R"(\b(?:cancel|refund|dispute|unauthori[sz]ed|not\s+(?:made|authori[sz]ed|placed)\s+by\s+you|did\s+not\s+(?:make|authori[sz]e|place)|didn['’]t\s+(?:make|authori[sz]e|place)|subscription|auto-?renew\w*|charged|virus|suspended|locked|to\s+claim)\b[^.!?]{0,100}\b(?:call|dial|phone|contact|ring|reach)\b[^.!?]{0,40}(?:\+?\d{1,3}[\s.-]?)?\(?\d{3,4}\)?[\s.-]{0,2}\d{3}[\s.-]{0,2}\d{3,4}\b|)"
-     R"(\b(?:toll[- ]?free|help\s?line|service\s+help\s?desk|customer\s+(?:care|support)|support\s+(?:number|line)|billing\s+department)\b[^.!?]{0,25}(?:\+?\d{1,3}[\s.-]?)?\(?\d{3}\)?[\s.-]{0,2}\d{3}[\s.-]{0,2}\d{4}\b|)"
-     R"(\b(?:rufen\s+Sie|anrufen|telefonisch)\b[^.!?]{0,40}\+?\d[\d /.-]{7,18}[^.!?]{0,60}\b(?:stornier\w+|kündig\w+|sofort|umgehend|erstattung|widerruf\w*|sperr\w+)\b|)"
-     R"(\b(?:appelez|contactez|composez)\b[^.!?]{0,40}\+?\d[\d .-]{7,18}[^.!?]{0,60}\b(?:annul\w+|immédiat\w+|rembours\w+|urgent\w*|opposition)\b|)"
-     R"(\b(?:llame|llama|ligue|entre\s+em\s+contato)\b[^.!?]{0,40}\+?\d[\d .()-]{7,18}[^.!?]{0,60}\b(?:cancel\w+|inmediat\w+|imediat\w+|reembols\w+|bloque\w+|contest\w+|n[ãa]o\s+reconhe\w+)\b)",
+     pattern([] { return std::string_view(
+     R"(\bcall\s+us\s+(?:immediately|now|right\s+away|at\s+once)\b<25>\d{3}[\s.)-]{1,3}\d{3}[\s.-]{1,2}\d{3,4}\b|)"
+     R"(\b(?:call|dial|phone|contact|reach|ring|text)\b<40>(?:\+?\d{1,3}[\s.-]?)?\(?\d{3,4}\)?[\s.-]{0,2}\d{3}[\s.-]{0,2}\d{3,4}\b<60>\b(?:cancel|refund|immediately|dispute|verify|support|unauthori[sz]ed|order|charge\w*|within|subscription|help|stop|avoid|report|account|claim|questions?|if)\b|)"
+     R"(\b(?:cancel|refund|dispute|unauthori[sz]ed|not\s+(?:made|authori[sz]ed|placed)\s+by\s+you|did\s+not\s+(?:make|authori[sz]e|place)|didn['’]t\s+(?:make|authori[sz]e|place)|subscription|auto-?renew\w*|charged|virus|suspended|locked|to\s+claim)\b<100>\b(?:call|dial|phone|contact|ring|reach)\b<40>(?:\+?\d{1,3}[\s.-]?)?\(?\d{3,4}\)?[\s.-]{0,2}\d{3}[\s.-]{0,2}\d{3,4}\b|)"
+     R"(\b(?:toll[- ]?free|help\s?line|service\s+help\s?desk|customer\s+(?:care|support)|support\s+(?:number|line)|billing\s+department)\b<25>(?:\+?\d{1,3}[\s.-]?)?\(?\d{3}\)?[\s.-]{0,2}\d{3}[\s.-]{0,2}\d{4}\b|)"
+     R"(\b(?:rufen\s+Sie|anrufen|telefonisch)\b<40>\+?\d[\d /.-]{7,18}<60>\b(?:stornier\w+|kündig\w+|sofort|umgehend|erstattung|widerruf\w*|sperr\w+)\b|)"
+     R"(\b(?:appelez|contactez|composez)\b<40>\+?\d[\d .-]{7,18}<60>\b(?:annul\w+|immédiat\w+|rembours\w+|urgent\w*|opposition)\b|)"
+     R"(\b(?:llame|llama|ligue|entre\s+em\s+contato)\b<40>\+?\d[\d .()-]{7,18}<60>\b(?:cancel\w+|inmediat\w+|imediat\w+|reembols\w+|bloque\w+|contest\w+|n[ãa]o\s+reconhe\w+)\b)"); }),
      true},
 
     // ---- Pressure ------------------------------------------------------------------------------
     {"urg-act-now", "Pressure", "warn", 25,
      "urges the reader to act at once",
+     pattern([] { return std::string_view(
      R"(\bjetzt\s+(?:[\w-]+\s+){0,2}(?:sichern|anfordern|abholen|einlösen|registrieren|teilnehmen|holen|spielen|bestätigen|aktualisieren)\b|)"
      R"(\b(?:sofort\s+geöffnet|klicken\s+sie\s+hier|hier\s+klicken|clique\s+aqui|haga\s+clic\s+aquí|haz\s+clic\s+aquí|cliquez\s+ici|klik\s+hier)\b|)"
      R"(\b(?:act|respond|reply|click(?:\s+here)?|verify|confirm|claim|order|call|log\s?in|update|register|apply|contact\s+us|proceed|take\s+action|pay|upgrade|renew|activate|enrol+|collect|redeem|withdraw|get\s+started|secure\s+yours)\s+(?:now|immediately|fast|quickly|today|right\s+away|promptly|without\s+delay|asap|urgently)\b|)"
-     R"(\b(?:immediate|urgent|prompt|swift|instant)\s+(?:action|attention|response|reply|assistance|verification|update)\b[^.!?]{0,20}\b(?:required|needed|is|requested|necessary|from\s+you|to|on)\b|)"
-     R"(\b(?:action|attention|response|verification|update)\s+(?:is\s+)?(?:required|needed|requested)\b[^.!?]{0,12}(?:[:!]|\b(?:urgent\w*|immediately|now|today|account|verify|your)\b)|)"
-     R"(\b(?:urgent|important|final|last|action)\b[^.!?]{0,3}\b(?:notice|notification|alert|reminder|warning|security\s+alert|message|update)\b|)"
-     R"(\bas\s+soon\s+as\s+possible\b[^.!?]{0,30}\b(?:to\s+avoid|to\s+prevent|otherwise|or|before|to\s+ensure|to\s+restore)\b|)"
+     R"(\b(?:immediate|urgent|prompt|swift|instant)\s+(?:action|attention|response|reply|assistance|verification|update)\b<20>\b(?:required|needed|is|requested|necessary|from\s+you|to|on)\b|)"
+     R"(\b(?:action|attention|response|verification|update)\s+(?:is\s+)?(?:required|needed|requested)\b<12>(?:[:!]|\b(?:urgent\w*|immediately|now|today|account|verify|your)\b)|)"
+     R"(\b(?:urgent|important|final|last|action)\b<3>\b(?:notice|notification|alert|reminder|warning|security\s+alert|message|update)\b|)"
+     R"(\bas\s+soon\s+as\s+possible\b<30>\b(?:to\s+avoid|to\s+prevent|otherwise|or|before|to\s+ensure|to\s+restore)\b|)"
      R"(\b(?:don['’]t|do\s+not)\s+(?:delay|wait|ignore\s+(?:this|it)|hesitate\s+to\s+(?:claim|act))\b|)"
      R"(\b(?:handeln|reagieren|bestätigen|klicken|antworten|sichern|zahlen)\s+Sie\s+(?:jetzt|sofort|umgehend|schnell|noch\s+heute|unverzüglich)\b|)"
      R"(\b(?:dringend(?:er|e|es)?|sofortige[rs]?|letzte)\s+(?:handlung\w*|handlungsbedarf|aktion|reaktion|maßnahme\w*|mahnung|mitteilung|warnung|erinnerung|hinweis)\b|)"
@@ -1128,96 +1252,102 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:acci[óo]n|a[çc][ãa]o|notifica[çc][ãa]o|notificaci[óo]n|aviso|comunicado)\s+(?:urgente|inmediata|imediata|requerida|necess[áa]ria|importante|final|oficial|extrajudicial)\b|)"
      R"(\b(?:handel|reageer|klik|betaal)\s+(?:nu|direct|onmiddellijk|snel)\b|)"
      R"(\b(?:actie|reactie)\s+(?:vereist|noodzakelijk)\b|)"
-     R"((?:立即|马上|馬上|尽快|盡快|务必|務必)[^。！？.!?]{0,6}(?:处理|處理|操作|点击|點擊|登录|登入|联系|聯繫)|)"
-     R"((?:至急|大至急|直ちに|今すぐ|お早めに)[^。！？.!?]{0,15}(?:ご確認|確認|ご連絡|手続き|クリック|お支払い|ログイン)|)"
-     R"((?:즉시|지금\s+바로|긴급히|빠른\s+시일)[^.!?。]{0,15}(?:확인|연락|조치|클릭|납부|로그인))",
+     R"((?:立即|马上|馬上|尽快|盡快|务必|務必)<6>(?:处理|處理|操作|点击|點擊|登录|登入|联系|聯繫)|)"
+     R"((?:至急|大至急|直ちに|今すぐ|お早めに)<15>(?:ご確認|確認|ご連絡|手続き|クリック|お支払い|ログイン)|)"
+     R"((?:즉시|지금\s+바로|긴급히|빠른\s+시일)<15>(?:확인|연락|조치|클릭|납부|로그인))"); }),
      true},
     {"urg-24-hours", "Pressure", "warn", 25,
      "sets a deadline of hours or a few days",
+     pattern([] { return std::string_view(
      R"(\b(?:within|next|less\s+than|after|exactly|only\s+have|in|the\s+last)\b\s+(?:the\s+)?(?:next\s+|last\s+|coming\s+)?(?:24|48|72|12|6|2|36|twenty[- ]four|forty[- ]eight|seventy[- ]two)[ -]?(?:\([\w -]+\)\s?)?(?:hours?|hrs?)\b|)"
-     R"(\b(?:within|in)\s+(?:the\s+)?(?:next\s+)?(?:2|3|5|7|two|three|five|seven)\s+(?:\(\w+\)\s+)?(?:business\s+|working\s+|calendar\s+)?days\b[^.!?]{0,60}\b(?:or|otherwise|will\s+be|account|suspend\w*|clos\w*|return\w*|terminat\w*|lose|legal|deactivat\w*|delet\w*)\b|)"
-     R"(\b(?:otherwise|or|failure|fail)\b[^.!?]{0,60}\bwithin\s+(?:the\s+)?(?:next\s+)?(?:2|3|5|7|two|three|five|seven)\s+(?:\(\w+\)\s+)?(?:business\s+|working\s+|calendar\s+)?days\b|)"
-     R"(\b(?:innerhalb|binnen|in\s+den\s+nächsten)\b[^.!?]{0,12}\b(?:24|48|72|12)[ -]?(?:stunden|std)\b|)"
-     R"(\b(?:dans\s+les|sous|d['’]ici)\b[^.!?]{0,12}\b(?:24|48|72|12)\s?(?:heures|h)\b|)"
-     R"(\b(?:en|dentro\s+de|em|nas\s+pr[óo]ximas|en\s+las\s+pr[óo]ximas|m[áa]ximo\s+de|at[ée]|prazo\s+de|por)\b[^.!?]{0,12}\b(?:24|48|72|12)\s?(?:horas|h|hs)\b|)"
+     R"(\b(?:within|in)\s+(?:the\s+)?(?:next\s+)?(?:2|3|5|7|two|three|five|seven)\s+(?:\(\w+\)\s+)?(?:business\s+|working\s+|calendar\s+)?days\b<60>\b(?:or|otherwise|will\s+be|account|suspend\w*|clos\w*|return\w*|terminat\w*|lose|legal|deactivat\w*|delet\w*)\b|)"
+     R"(\b(?:otherwise|or|failure|fail)\b<60>\bwithin\s+(?:the\s+)?(?:next\s+)?(?:2|3|5|7|two|three|five|seven)\s+(?:\(\w+\)\s+)?(?:business\s+|working\s+|calendar\s+)?days\b|)"
+     R"(\b(?:innerhalb|binnen|in\s+den\s+nächsten)\b<12>\b(?:24|48|72|12)[ -]?(?:stunden|std)\b|)"
+     R"(\b(?:dans\s+les|sous|d['’]ici)\b<12>\b(?:24|48|72|12)\s?(?:heures|h)\b|)"
+     R"(\b(?:en|dentro\s+de|em|nas\s+pr[óo]ximas|en\s+las\s+pr[óo]ximas|m[áa]ximo\s+de|at[ée]|prazo\s+de|por)\b<12>\b(?:24|48|72|12)\s?(?:horas|h|hs)\b|)"
      R"(\bbinnen\s+(?:24|48|72|12)\s+uur\b|)"
      R"((?:24|48|72|12|二十四|四十八)\s?(?:小时|小時)(?:内|內|之内)|)"
      R"((?:24|48|72|12)\s?時間以内|)"
-     R"((?:24|48|72|12)\s?시간\s?(?:이내|안에|내에))",
+     R"((?:24|48|72|12)\s?시간\s?(?:이내|안에|내에))"); }),
      true},
     {"urg-expires-today", "Pressure", "warn", 25,
      "says an offer or a chance ends today or very soon",
-     R"(\b(?:expires?|expiring|ends?|ending|closes?|closing|valid|available|deadline|good)\b[^.!?]{0,20}\b(?:today|tonight|at\s+midnight|in\s+(?:\d+|a\s+few)\s+(?:hours?|minutes|hrs)|soon|only\s+today|this\s+(?:evening|weekend)|tomorrow)\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:expires?|expiring|ends?|ending|closes?|closing|valid|available|deadline|good)\b<20>\b(?:today|tonight|at\s+midnight|in\s+(?:\d+|a\s+few)\s+(?:hours?|minutes|hrs)|soon|only\s+today|this\s+(?:evening|weekend)|tomorrow)\b|)"
      R"(\b(?:today|tonight)\s+only\b|)"
      R"(\b(?:limited[- ]time|time[- ]limited|for\s+a\s+limited\s+time)\b|)"
-     R"(\b(?:offer|promotion|deal|reward|prize|link|code|bonus|points|claim|discount|voucher|opportunity|spot)\b[^.!?]{0,25}\b(?:expires?|will\s+expire|ends|is\s+expiring|about\s+to\s+expire|expiring)\b|)"
+     R"(\b(?:offer|promotion|deal|reward|prize|link|code|bonus|points|claim|discount|voucher|opportunity|spot)\b<25>\b(?:expires?|will\s+expire|ends|is\s+expiring|about\s+to\s+expire|expiring)\b|)"
      R"(\b(?:before|until)\s+(?:it['’]s\s+too\s+late|it\s+is\s+too\s+late|midnight|it\s+expires|they['’]re\s+gone|stocks?\s+(?:run|last))\b|)"
-     R"(\b(?:läuft|endet|gültig)\b[^.!?]{0,20}\b(?:heute|bald|in\s+kürze|nur\s+heute|um\s+mitternacht|morgen)\b|)"
+     R"(\b(?:läuft|endet|gültig)\b<20>\b(?:heute|bald|in\s+kürze|nur\s+heute|um\s+mitternacht|morgen)\b|)"
      R"(\b(?:nur\s+heute|nur\s+noch\s+heute|nur\s+für\s+kurze\s+zeit|zeitlich\s+begrenzt\w*|begrenzte\s+zeit|solange\s+der\s+vorrat\s+reicht|nur\s+solange)\b|)"
-     R"(\b(?:expire|se\s+termine|valable)\b[^.!?]{0,20}\b(?:aujourd['’]hui|ce\s+soir|bientôt|minuit|demain)\b|)"
-     R"(\b(?:expira|vence|termina|v[áa]lid[oa])\b[^.!?]{0,20}\b(?:hoy|hoje|esta\s+noche|medianoche|meia-noite|amanh[ãa]|mañana|em\s+breve|pronto|somente)\b|)"
-     R"(\b(?:pontos|puntos|milhas|benef[íi]cio)\b[^.!?]{0,20}\b(?:expira\w*|vence\w*|caduca\w*)\b|)"
+     R"(\b(?:expire|se\s+termine|valable)\b<20>\b(?:aujourd['’]hui|ce\s+soir|bientôt|minuit|demain)\b|)"
+     R"(\b(?:expira|vence|termina|v[áa]lid[oa])\b<20>\b(?:hoy|hoje|esta\s+noche|medianoche|meia-noite|amanh[ãa]|mañana|em\s+breve|pronto|somente)\b|)"
+     R"(\b(?:pontos|puntos|milhas|benef[íi]cio)\b<20>\b(?:expira\w*|vence\w*|caduca\w*)\b|)"
      R"(\b(?:por\s+tempo\s+limitado|tiempo\s+limitado|s[óo]\s+hoje|somente\s+hoje|solo\s+hoy|[úu]ltimo\s+dia|[úu]ltimo\s+d[íi]a|durée\s+limitée|beperkte\s+tijd|alleen\s+vandaag|nog\s+maar\s+even)\b|)"
-     R"((?:今天|今日|今晚)[^。！？.!?]{0,6}(?:截止|到期|最后|最後|失效)|)"
+     R"((?:今天|今日|今晚)<6>(?:截止|到期|最后|最後|失效)|)"
      R"((?:本日限り|本日まで|まもなく終了|期間限定)|)"
-     R"((?:오늘만|오늘까지|금일\s?마감|한정\s?기간))",
+     R"((?:오늘만|오늘까지|금일\s?마감|한정\s?기간))"); }),
      true},
     {"urg-last-chance", "Pressure", "warn", 20,
      "speaks of a last chance or a final notice",
+     pattern([] { return std::string_view(
      R"(\b(?:last|final)\s+(?:chance|opportunity|warning|reminder|notice|call|attempt|notification|day|hours)\b|)"
      R"(\b(?:don['’]t|do\s+not)\s+(?:miss\s+(?:out|this|your|the\s+chance)|let\s+(?:this|it)\s+(?:\w+\s+)?(?:slip|pass|expire))\b|)"
-     R"(\b(?:only|just)\s+(?:\d+|a\s+few|one|two|three|limited)\b[^.!?]{0,15}\b(?:left|remaining|spots?|places?|seats?|items?|pieces?|units?|available)\b|)"
+     R"(\b(?:only|just)\s+(?:\d+|a\s+few|one|two|three|limited)\b<15>\b(?:left|remaining|spots?|places?|seats?|items?|pieces?|units?|available)\b|)"
      R"(\b(?:while|as)\s+(?:supplies|stocks?)\s+lasts?\b|)"
      R"(\b(?:hurry\s+up|be\s+quick|before\s+it['’]s\s+gone|once\s+in\s+a\s+lifetime|one[- ]time\s+(?:offer|opportunity|chance))\b|)"
      R"(\bletzte\s+(?:chance|warnung|mahnung|erinnerung|gelegenheit|möglichkeit|aufforderung)\b|)"
-     R"(\b(?:verpassen|versäumen)\s+Sie\b[^.!?]{0,25}\b(?:nicht|keine)\b|)"
+     R"(\b(?:verpassen|versäumen)\s+Sie\b<25>\b(?:nicht|keine)\b|)"
      R"(\b(?:beeilen\s+sie\s+sich|beeil\s+dich|schnell\s+sein|nur\s+noch\s+wenige)\b|)"
      R"(\b(?:dernière|ultime)\s+(?:chance|relance|opportunité|mise\s+en\s+demeure)\b|)"
      R"(\bdernier\s+(?:rappel|avertissement|avis|délai)\b|)"
      R"(\b(?:[úu]ltim[oa])\s+(?:oportunidad|aviso|oportunidade|chamada|chance|recordatorio|advertencia|notifica[çc][ãa]o|notificaci[óo]n)\b|)"
      R"(\b(?:n[ãa]o\s+perca|no\s+pierda|no\s+te\s+pierdas|aproveite|corra|mis\s+(?:het|deze)\s+niet)\b|)"
      R"(\blaatste\s+(?:kans|waarschuwing|herinnering|aanmaning|oproep)\b|)"
-     R"((?:最后机会|最後機會|最后通知|最後通知|最終通知|最終警告|最後の(?:チャンス|機会)|마지막\s?(?:기회|통보|경고|안내)|최종\s?(?:통보|경고)))",
+     R"((?:最后机会|最後機會|最后通知|最後通知|最終通知|最終警告|最後の(?:チャンス|機会)|마지막\s?(?:기회|통보|경고|안내)|최종\s?(?:통보|경고)))"); }),
      true},
     {"urg-do-not-tell", "Pressure", "warn", 55,
      "tells the reader to keep a request from family, bank or colleagues",
+     pattern([] { return std::string_view(
      R"(\bkeep\s+it\s+off\s+the\s+(?:usual|normal)\b|)"
      R"(\bonly\s+communicate\s+with\s+me\b|\bspeak\s+(?:with|to)\s+anyone\s+by\b|\b(?:nobody|no\s+one)\s+else\s+needs\s+to\s+be\s+made\s+aware\b|)"
      R"(\bkein\s+wort\s+zu\b|\bn['’]en\s+parle[rz]?\s+à\s+personne\b|\bno\s+lo\s+comente\b|\bnot\s+raise\s+(?:it|this)\s+with\b|\bdon['’]t\s+tell\s+\w+\s+i\s+asked\b|)"
      R"(\b(?:don['’]t|do\s+not)\s+want\s+(?:\w+\s+){1,3}(?:team|staff|office|department|colleagues)\s+to\s+know\b|\bausschließlich\s+über\s+diese\s+e-?mail\b|\b(?:do\s+not|don['’]t)\s+discuss\s+(?:it|this|the\s+\w+)\s+(?:with|by)\b|)"
-     R"(\b(?:do\s+not|don['’]t|may\s+not|must\s+not|not\s+to)\s+(?:discuss|mention|speak\s+of|talk\s+about)\b[^.!?]{0,25}\b(?:colleagues?|head\s+office|the\s+others|anyone\s+(?:in|at)\s+the\s+office|in\s+person)\b|)"
+     R"(\b(?:do\s+not|don['’]t|may\s+not|must\s+not|not\s+to)\s+(?:discuss|mention|speak\s+of|talk\s+about)\b<25>\b(?:colleagues?|head\s+office|the\s+others|anyone\s+(?:in|at)\s+the\s+office|in\s+person)\b|)"
      R"(\b(?:do\s+not|don['’]t)\s+tell\s+the\s+(?:cashier|clerk|shop|store|teller)\b|)"
-     R"(\bkeep\b[^.!?]{0,20}\b(?:with\s+me\s+only|off\s+the\s+(?:normal\s+|usual\s+)?(?:system|books))\b|\b(?:communicate|correspond)\s+(?:only|solely|exclusively)\s+(?:through|via|by|with)\b|\bjust\s+deal\s+with\s+me\b|)"
-     R"(\b(?:do\s+not|don['’]t|never|without|must\s+not|cannot|should\s+not|shouldn['’]t)\b[^.!?]{0,12}\b(?:tell|telling|inform|informing|mention|discuss|discussing|share|disclose|speak|talk|reveal)\b[^.!?]{0,25}\b(?:your\s+(?:family|wife|husband|spouse|parents|bank|colleagues|friends|boss)|the\s+(?:bank|police|teller)|other\s+(?:staff|employees|colleagues)|anyone\s+(?:else\s+)?(?:in|at)\s+the\s+(?:office|company|bank))\b|)"
-     R"(\b(?:keep|keeping)\s+(?:this|it|the\s+(?:matter|transaction|deal|whole\s+thing|purchase|request)|everything)\s+(?:\w+\s+){0,3}(?:secret|between\s+(?:us|you\s+and\s+me|the\s+two\s+of\s+us)|top\s+secret|to\s+yourself)\b[^.!?]{0,40}(?:\b(?:until|as|because|surprise|transaction|payment|money|deal|transfer|now|fund|process\w*|conclu\w+)\b|[.!])|)"
+     R"(\bkeep\b<20>\b(?:with\s+me\s+only|off\s+the\s+(?:normal\s+|usual\s+)?(?:system|books))\b|\b(?:communicate|correspond)\s+(?:only|solely|exclusively)\s+(?:through|via|by|with)\b|\bjust\s+deal\s+with\s+me\b|)"
+     R"(\b(?:do\s+not|don['’]t|never|without|must\s+not|cannot|should\s+not|shouldn['’]t)\b<12>\b(?:tell|telling|inform|informing|mention|discuss|discussing|share|disclose|speak|talk|reveal)\b<25>\b(?:your\s+(?:family|wife|husband|spouse|parents|bank|colleagues|friends|boss)|the\s+(?:bank|police|teller)|other\s+(?:staff|employees|colleagues)|anyone\s+(?:else\s+)?(?:in|at)\s+the\s+(?:office|company|bank))\b|)"
+     R"(\b(?:keep|keeping)\s+(?:this|it|the\s+(?:matter|transaction|deal|whole\s+thing|purchase|request)|everything)\s+(?:\w+\s+){0,3}(?:secret|between\s+(?:us|you\s+and\s+me|the\s+two\s+of\s+us)|top\s+secret|to\s+yourself)\b<40>(?:\b(?:until|as|because|surprise|transaction|payment|money|deal|transfer|now|fund|process\w*|conclu\w+)\b|[.!])|)"
      R"(\b(?:strictly|only|solely)\s+between\s+(?:us|you\s+and\s+me|the\s+two\s+of\s+us)\b|)"
-     R"(\b(?:speak|tell|mention|say)\b[^.!?]{0,12}\b(?:of\s+)?(?:this\s+|it\s+)?to\s+(?:no\s+one|nobody|anyone\s+in\s+the\s+office)\b|)"
+     R"(\b(?:speak|tell|mention|say)\b<12>\b(?:of\s+)?(?:this\s+|it\s+)?to\s+(?:no\s+one|nobody|anyone\s+in\s+the\s+office)\b|)"
      R"(\b(?:nobody|no\s+one)\s+(?:else\s+)?(?:should|must|may|can|needs\s+to|is\s+to)\s+(?:be\s+informed|know|find\s+out|hear)\b|)"
-     R"(\b(?:erzählen|sagen|sprechen|informieren)\s+Sie\b[^.!?]{0,25}\b(?:niemand\w*|keinem|ihrer\s+bank|ihrer\s+familie)\b|)"
-     R"(\b(?:sag|erzähl|sprich)\b[^.!?]{0,15}\b(?:niemand\w*|keinem)\b[^.!?]{0,25}\b(?:davon|darüber|etwas)\b|)"
-     R"(\b(?:n['’]en\s+parlez|ne\s+(?:le\s+)?dites|ne\s+parlez)\b[^.!?]{0,25}\b(?:personne|à\s+quiconque|votre\s+banque)\b|)"
-     R"(\b(?:no\s+(?:le\s+)?(?:diga|cuente|digas|cuentes|comente)|n[ãa]o\s+(?:conte|diga|fale|comente))\b[^.!?]{0,25}\b(?:nadie|ningu[ée]m|seu\s+banco|su\s+banco)\b|)"
-     R"(\bvertel\b[^.!?]{0,20}\b(?:niemand|aan\s+niemand)\b)",
+     R"(\b(?:erzählen|sagen|sprechen|informieren)\s+Sie\b<25>\b(?:niemand\w*|keinem|ihrer\s+bank|ihrer\s+familie)\b|)"
+     R"(\b(?:sag|erzähl|sprich)\b<15>\b(?:niemand\w*|keinem)\b<25>\b(?:davon|darüber|etwas)\b|)"
+     R"(\b(?:n['’]en\s+parlez|ne\s+(?:le\s+)?dites|ne\s+parlez)\b<25>\b(?:personne|à\s+quiconque|votre\s+banque)\b|)"
+     R"(\b(?:no\s+(?:le\s+)?(?:diga|cuente|digas|cuentes|comente)|n[ãa]o\s+(?:conte|diga|fale|comente))\b<25>\b(?:nadie|ningu[ée]m|seu\s+banco|su\s+banco)\b|)"
+     R"(\bvertel\b<20>\b(?:niemand|aan\s+niemand)\b)"); }),
      true},
     {"urg-no-questions", "Pressure", "warn", 40,
      "wants a request carried out without questions or calls",
+     pattern([] { return std::string_view(
      R"(\bjust\s+push\s+it\s+through\b|\bno\s+need\s+for\s+a\s+po\b|)"
      R"(\byou\s+don['’]t\s+need\s+to\s+(?:wait|ask|check|copy|involve)\b|\bi(?:['’]ll|\s+will)\s+sign\s+the\s+paperwork\b|)"
      R"(\bi(?:['’]ll|\s+will)\s+square\s+it\b|\bi(?:['’]ve|\s+have)\s+(?:already\s+)?(?:cleared|signed)\s+(?:it|this|everything)\s+(?:with|off)\b|\btake\s+this\s+as\s+mine\b|)"
-     R"(\bif\s+the\s+bank\s+(?:calls|rings|asks)\b[^.!?]{0,40}\b(?:tell|say)\b|\bdo\s+as\s+(?:he|she|they)\s+says?\b|)"
-     R"(\b(?:override|bypass)\b[^.!?]{0,20}\b(?:portal|approvals?|signatures?|procedure|dual\s+control)\b|\bskip\s+(?:the\s+)?(?:approvals?|dual\s+control)\b|)"
+     R"(\bif\s+the\s+bank\s+(?:calls|rings|asks)\b<40>\b(?:tell|say)\b|\bdo\s+as\s+(?:he|she|they)\s+says?\b|)"
+     R"(\b(?:override|bypass)\b<20>\b(?:portal|approvals?|signatures?|procedure|dual\s+control)\b|\bskip\s+(?:the\s+)?(?:approvals?|dual\s+control)\b|)"
      R"(\b(?:don['’]t|do\s+not|no\s+need\s+to)\s+(?:need\s+to\s+go\s+through|go\s+through|worry\s+about\s+the\s+(?:two\s+)?(?:signatures?|approvals?|paperwork))\b|)"
-     R"(\b(?:no|without|don['’]t|do\s+not)\b[^.!?]{0,8}\b(?:questions?\s+asked|ask(?:ing)?\s+(?:any\s+|too\s+many\s+|me\s+)?questions?|any\s+questions|further\s+questions)\b|)"
-     R"(\b(?:do\s+not|don['’]t|can['’]t|cannot|unable\s+to|not\s+able\s+to|won['’]t\s+be\s+able\s+to)\b[^.!?]{0,12}\b(?:call|phone|ring|take\s+calls?|talk\s+on\s+the\s+phone|speak\s+on\s+the\s+phone|receive\s+calls?|pick\s+up|make\s+calls?|answer\s+calls?)\b[^.!?]{0,60}\b(?:e-?mail|text|reply|respond|message|meeting|conference|here|only|right\s+now|at\s+the\s+moment|moment|just)\b|)"
-     R"(\b(?:only|just)\s+(?:reply|respond|communicate|correspond|contact\s+me|reach\s+me)\b[^.!?]{0,12}\b(?:by|via|through|to)\b[^.!?]{0,10}\b(?:this\s+)?(?:e-?mail|text|whats\s?app|message)\b|)"
-     R"(\bno\s+(?:phone\s+)?calls?\b[^.!?]{0,25}\b(?:e-?mail|text|reply|message)\b|)"
+     R"(\b(?:no|without|don['’]t|do\s+not)\b<8>\b(?:questions?\s+asked|ask(?:ing)?\s+(?:any\s+|too\s+many\s+|me\s+)?questions?|any\s+questions|further\s+questions)\b|)"
+     R"(\b(?:do\s+not|don['’]t|can['’]t|cannot|unable\s+to|not\s+able\s+to|won['’]t\s+be\s+able\s+to)\b<12>\b(?:call|phone|ring|take\s+calls?|talk\s+on\s+the\s+phone|speak\s+on\s+the\s+phone|receive\s+calls?|pick\s+up|make\s+calls?|answer\s+calls?)\b<60>\b(?:e-?mail|text|reply|respond|message|meeting|conference|here|only|right\s+now|at\s+the\s+moment|moment|just)\b|)"
+     R"(\b(?:only|just)\s+(?:reply|respond|communicate|correspond|contact\s+me|reach\s+me)\b<12>\b(?:by|via|through|to)\b<10>\b(?:this\s+)?(?:e-?mail|text|whats\s?app|message)\b|)"
+     R"(\bno\s+(?:phone\s+)?calls?\b<25>\b(?:e-?mail|text|reply|message)\b|)"
      R"(\b(?:keine\s+fragen|ohne\s+rückfragen|ohne\s+nachfragen|keine\s+rückfragen|nicht\s+telefonisch)\b|)"
      R"(\b(?:sans\s+poser\s+de\s+questions?|ne\s+m['’]appele[rz]\s+pas|pas\s+joignable\s+par\s+téléphone)\b|)"
-     R"(\b(?:sin\s+(?:hacer\s+)?preguntas|sem\s+(?:fazer\s+)?perguntas|no\s+(?:me\s+)?llames?|n[ãa]o\s+me\s+ligue)\b)",
+     R"(\b(?:sin\s+(?:hacer\s+)?preguntas|sem\s+(?:fazer\s+)?perguntas|no\s+(?:me\s+)?llames?|n[ãa]o\s+me\s+ligue)\b)"); }),
      true},
     {"urg-in-a-meeting", "Pressure", "warn", 30,
      "says the sender is in a meeting or cannot be called, a ruse to prevent checking",
-     R"(\b(?:unable\s+to|can['’]?t|cannot|(?:don['’]t\s+have|no)\s+access\s+to)\b[^.!?]{0,20}\b(?:portal|work\s+e-?mail|approvals?\s+system)\b|\bfrom\s+my\s+private\s+(?:one|e-?mail|address)\b|\bmy\s+phone\s+(?:is\s+)?off\b|\bdon['’]t\s+try\s+to\s+call\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:unable\s+to|can['’]?t|cannot|(?:don['’]t\s+have|no)\s+access\s+to)\b<20>\b(?:portal|work\s+e-?mail|approvals?\s+system)\b|\bfrom\s+my\s+private\s+(?:one|e-?mail|address)\b|\bmy\s+phone\s+(?:is\s+)?off\b|\bdon['’]t\s+try\s+to\s+call\b|)"
      R"(\b(?:can['’]?t|cannot)\s+be\s+reached\s+(?:until|by|on|today|right\s+now)\b|\bwon['’]t\s+have\s+(?:reception|signal)\b|)"
      R"(\bcan(?:['’]?t|not)\s+(?:talk|get\s+to\s+a\s+phone)\b|\b(?:don['’]t|do\s+not)\s+(?:bother\s+calling|ring\b)|\bno\s+(?:phone\s+)?signal\b|\bno\s+calls\b|\be-?mail\s+is\s+the\s+best\s+way\b|)"
      R"(\b(?:telephone\s+|phone\s+)?lines\s+(?:will\s+be|are)\s+(?:currently\s+)?down\b|\bunable\s+to\s+reach\s+you\s+by\s+phone\b|\bfrom\s+my\s+(?:own|personal)\s+(?:e-?mail|mailbox)\b|\baccount\s+is(?:n['’]t|\s+not)?\s+(?:acting\s+up|syncing|active\s+yet)\b|)"
@@ -1226,154 +1356,166 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:boarding\s+(?:in|now|a\s+flight)|about\s+to\s+board|before\s+i\s+(?:board|land|fly|take\s+off))\b|)"
      R"(\b(?:only|just)\s+(?:reachable|available|contactable)\s+(?:by|via|on|through)\s+e-?mail\b|\bnur\s+per\s+(?:e-?)?mail\s+erreichbar\b|)"
      R"(\bno\s+need\s+to\s+(?:ring|call|phone)\b|\breply\s+here\s+(?:and\s+)?not\s+(?:on|by)\b|\b(?:our|the)\s+(?:office\s+)?(?:phones|switchboard)\s+(?:are|is|has|have)\s+(?:being\s+|been\s+)?(?:switched|moved|down)\b|)"
-     R"(\b(?:i['’]m|i\s+am|im|am|currently|presently|now|going|heading|be|stuck|will\s+be|busy|tied\s+up)\b[^.!?]{0,20}\b(?:in|into|at)\s+(?:a|an|the|back[- ]to[- ]back|several|some|another|meetings?)\b\s?(?:\w+\s+){0,3}?(?:meetings?|conference(?:\s+call|\s+meeting)?|board\s?room|seminar|session|presentation)\b[^.!?]{0,80}\b(?:call|calls|phone|talk|e-?mail|text|reply|need|available|until|urgent\w*|reach|favou?r|handle|can['’]t|cannot|limited|respond|right\s+now|task|number)\b|)"
-     R"(\b(?:can['’]t|cannot|can\s+not|unable\s+to|won['’]t\s+be\s+able\s+to|not\s+able\s+to|couldn['’]t)\b[^.!?]{0,10}\b(?:talk|call|speak|take\s+calls?|answer|receive\s+calls?|be\s+reached|pick\s+up)\b[^.!?]{0,40}\b(?:right\s+now|at\s+the\s+moment|now|meeting|moment|phone|but|so|reply|text|e-?mail)\b|)"
+     R"(\b(?:i['’]m|i\s+am|im|am|currently|presently|now|going|heading|be|stuck|will\s+be|busy|tied\s+up)\b<20>\b(?:in|into|at)\s+(?:a|an|the|back[- ]to[- ]back|several|some|another|meetings?)\b\s?(?:\w+\s+){0,3}?(?:meetings?|conference(?:\s+call|\s+meeting)?|board\s?room|seminar|session|presentation)\b<80>\b(?:call|calls|phone|talk|e-?mail|text|reply|need|available|until|urgent\w*|reach|favou?r|handle|can['’]t|cannot|limited|respond|right\s+now|task|number)\b|)"
+     R"(\b(?:can['’]t|cannot|can\s+not|unable\s+to|won['’]t\s+be\s+able\s+to|not\s+able\s+to|couldn['’]t)\b<10>\b(?:talk|call|speak|take\s+calls?|answer|receive\s+calls?|be\s+reached|pick\s+up)\b<40>\b(?:right\s+now|at\s+the\s+moment|now|meeting|moment|phone|but|so|reply|text|e-?mail)\b|)"
      R"(\b(?:limited|no|poor|bad)\s+(?:access\s+to\s+(?:my\s+)?(?:phone|calls?|e-?mails?)|phone\s+(?:access|service|signal|reception|calls?))\b|)"
-     R"(\b(?:my|the)\s+phone\b[^.!?]{0,15}\b(?:is|got|has|was)\b[^.!?]{0,10}\b(?:broken|lost|stolen|damaged|not\s+working|dead|faulty|smashed|bad)\b[^.!?]{0,60}\b(?:text|whats\s?app|number|e-?mail|new|this|reply|message)\b|)"
-     R"(\b(?:bin|sitze|befinde\s+mich)\s+(?:gerade\s+|momentan\s+|derzeit\s+|jetzt\s+)?(?:in|auf)\s+(?:einer|einem)\s+(?:\w+\s+)?(?:besprechung|meeting|sitzung|konferenz|termin)\b[^.!?]{0,80}\b(?:nicht|anrufen|telefon\w*|e-?mail|brauche|erreichbar|bitte|kannst|können)\b|)"
-     R"(\b(?:en\s+réunion|en\s+conférence)\b[^.!?]{0,60}\b(?:appel\w*|téléphone|e-?mail|mail|répond\w*|besoin)\b|)"
-     R"(\b(?:en\s+una\s+reuni[óo]n|em\s+(?:uma\s+)?reuni[ãa]o)\b[^.!?]{0,60}\b(?:llam\w+|tel[ée]fono|correo|e-?mail|lig\w+|preciso|necesito)\b|)"
-     R"(\b(?:mijn|meine?|mon|mi|meu)\s+(?:telefoon|telefon|handy|téléphone|tel[ée]fono|celular|móvil)\b[^.!?]{0,25}\b(?:kapot|kaputt|verloren|cassé|perdu|roto|rompió|quebrou|estragou|perdí|perdi)\b[^.!?]{0,60}\b(?:whats\s?app|nummer|numéro|n[úu]mero|sms)\b)",
+     R"(\b(?:my|the)\s+phone\b<15>\b(?:is|got|has|was)\b<10>\b(?:broken|lost|stolen|damaged|not\s+working|dead|faulty|smashed|bad)\b<60>\b(?:text|whats\s?app|number|e-?mail|new|this|reply|message)\b|)"
+     R"(\b(?:bin|sitze|befinde\s+mich)\s+(?:gerade\s+|momentan\s+|derzeit\s+|jetzt\s+)?(?:in|auf)\s+(?:einer|einem)\s+(?:\w+\s+)?(?:besprechung|meeting|sitzung|konferenz|termin)\b<80>\b(?:nicht|anrufen|telefon\w*|e-?mail|brauche|erreichbar|bitte|kannst|können)\b|)"
+     R"(\b(?:en\s+réunion|en\s+conférence)\b<60>\b(?:appel\w*|téléphone|e-?mail|mail|répond\w*|besoin)\b|)"
+     R"(\b(?:en\s+una\s+reuni[óo]n|em\s+(?:uma\s+)?reuni[ãa]o)\b<60>\b(?:llam\w+|tel[ée]fono|correo|e-?mail|lig\w+|preciso|necesito)\b|)"
+     R"(\b(?:mijn|meine?|mon|mi|meu)\s+(?:telefoon|telefon|handy|téléphone|tel[ée]fono|celular|móvil)\b<25>\b(?:kapot|kaputt|verloren|cassé|perdu|roto|rompió|quebrou|estragou|perdí|perdi)\b<60>\b(?:whats\s?app|nummer|numéro|n[úu]mero|sms)\b)"); }),
      true},
     {"urg-consequences", "Pressure", "warn", 30,
      "threatens a loss or legal steps if the reader does not comply",
-     R"(\b(?:failure|fail|failing|refusal|neglect)\b[^.!?]{0,8}\bto\b[^.!?]{0,60}\b(?:will|may|shall|could)\b[^.!?]{0,8}\b(?:result\s+(?:in|to)|lead\s+to|be\s+(?:suspended|closed|considered|charged|terminated|deactivated|disconnected|reported)|cause\s+(?:your|the|an?)|force\s+us|leave\s+us|incur|trigger|mean)\b|)"
-     R"(\b(?:legal|criminal|court|enforcement|collection)\s+(?:action|proceedings|consequences|measures|prosecution|steps)\b[^.!?]{0,25}\b(?:will\s+be|against\s+you|taken|initiated|unless|commence\w*)\b|)"
-     R"(\b(?:avoid|prevent|escape)\b[^.!?]{0,15}\b(?:legal\s+action|penalt\w+|late\s+fees?|arrest|prosecution|additional\s+(?:fees|charges|penalties)|further\s+(?:fees|charges|action|penalties)|being\s+returned|(?:the\s+)?return\s+of\s+(?:your|the)\s+(?:parcel|package|item)|permanent\s+(?:loss|lock\w*|closure|deletion|suspension))\b|)"
-     R"(\bif\s+(?:you|we|no|payment|it|the)\b[^.!?]{0,8}\b(?:do\s+not|don['’]t|fail\s+to|ignore|refuse|does\s+not|have\s+not|is\s+not|are\s+not|action\s+is|not)\b[^.!?]{0,60}\b(?:will\s+be|you\s+will|shall\s+be|will|be\s+forced\s+to|may\s+be)\b[^.!?]{0,25}\b(?:closed|suspended|terminated|deleted|lost|blocked|locked|restricted|disabled|returned|deactivated|lose\s+(?:access|your)|legal|arrest\w*|penalt\w+|destroyed|forfeit\w*)\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:failure|fail|failing|refusal|neglect)\b<8>\bto\b<60>\b(?:will|may|shall|could)\b<8>\b(?:result\s+(?:in|to)|lead\s+to|be\s+(?:suspended|closed|considered|charged|terminated|deactivated|disconnected|reported)|cause\s+(?:your|the|an?)|force\s+us|leave\s+us|incur|trigger|mean)\b|)"
+     R"(\b(?:legal|criminal|court|enforcement|collection)\s+(?:action|proceedings|consequences|measures|prosecution|steps)\b<25>\b(?:will\s+be|against\s+you|taken|initiated|unless|commence\w*)\b|)"
+     R"(\b(?:avoid|prevent|escape)\b<15>\b(?:legal\s+action|penalt\w+|late\s+fees?|arrest|prosecution|additional\s+(?:fees|charges|penalties)|further\s+(?:fees|charges|action|penalties)|being\s+returned|(?:the\s+)?return\s+of\s+(?:your|the)\s+(?:parcel|package|item)|permanent\s+(?:loss|lock\w*|closure|deletion|suspension))\b|)"
+     R"(\bif\s+(?:you|we|no|payment|it|the)\b<8>\b(?:do\s+not|don['’]t|fail\s+to|ignore|refuse|does\s+not|have\s+not|is\s+not|are\s+not|action\s+is|not)\b<60>\b(?:will\s+be|you\s+will|shall\s+be|will|be\s+forced\s+to|may\s+be)\b<25>\b(?:closed|suspended|terminated|deleted|lost|blocked|locked|restricted|disabled|returned|deactivated|lose\s+(?:access|your)|legal|arrest\w*|penalt\w+|destroyed|forfeit\w*)\b|)"
      R"(\byou\s+(?:will|['’]ll|may|could)\s+(?:permanently\s+)?(?:lose\s+(?:access|your|all)|forfeit|be\s+(?:fined|arrested|prosecuted|sued|locked\s+out))\b|)"
-     R"(\bunable\s+to\b[^.!?]{0,40}\band\s+will\s+be\b[^.!?]{0,20}\b(?:lost|deleted|suspended|locked|disabled|incompatible|inaccessible)\b|)"
-     R"(\b(?:andernfalls|ansonsten|sonst)\b[^.!?]{0,60}\b(?:gesperrt|gelöscht|geschlossen|inkasso|zurückgesen\w+|zurückgeschickt|eingeschränkt|deaktiviert|verfallen|verfällt)\b|)"
+     R"(\bunable\s+to\b<40>\band\s+will\s+be\b<20>\b(?:lost|deleted|suspended|locked|disabled|incompatible|inaccessible)\b|)"
+     R"(\b(?:andernfalls|ansonsten|sonst)\b<60>\b(?:gesperrt|gelöscht|geschlossen|inkasso|zurückgesen\w+|zurückgeschickt|eingeschränkt|deaktiviert|verfallen|verfällt)\b|)"
      R"(\b(?:rechtliche|gerichtliche)\s+(?:schritte|maßnahmen|folgen|konsequenzen)\b|)"
      R"(\b(?:inkasso(?:verfahren|büro|unternehmen)|zwangsvollstreckung)\b|)"
-     R"(\b(?:einschränkungen|unterbrechung|sperrung|zusätzliche\s+(?:kosten|gebühren)|rücksendung|mahngebühren)\b[^.!?]{0,25}\b(?:zu\s+)?vermeiden\b|)"
-     R"(\b(?:à\s+défaut|sinon|faute\s+de|sans\s+(?:réponse|régularisation|action)\s+de\s+votre\s+part)\b[^.!?]{0,60}\b(?:suspen\w+|ferm\w+|supprim\w+|poursuites?|pénalité\w*|majoration|bloqu\w+|résili\w+|désactiv\w+|retourné)\b|)"
-     R"(\b(?:de\s+lo\s+contrario|caso\s+contr[áa]rio|caso\s+n[ãa]o|a\s+falta\s+de|el\s+incumplimiento|o\s+n[ãa]o\s+pagamento|sob\s+pena|evitar|evite)\b[^.!?]{0,60}\b(?:suspen\w+|bloque\w+|cancel\w+|legales|judicia\w+|multas?|penhora|embargo|protesto|negativa\w+|devol\w+|penalidade\w*|restri\w+|serasa|spc|apreens\w+|d[íi]vida\s+ativa|encargos|juros)\b|)"
-     R"(\b(?:indien\s+u\s+(?:niet|geen)|voorkom)\b[^.!?]{0,60}\b(?:geblokkeerd|deurwaarder|incasso\w*|boete|opgeschort|afgesloten|teruggestuurd|extra\s+kosten|blokkering|verhoging)\b|)"
-     R"((?:否则|否則|逾期)[^。！？.!?]{0,20}(?:冻结|凍結|法律|起诉|起訴|逮捕|停用|注销|罚款|罰款|关闭|關閉)|)"
-     R"((?:ない場合|期限を過ぎ)[^。！？.!?]{0,25}(?:停止|法的|解約|失効|差し押さえ|制限|無効|没収)|)"
-     R"((?:않을\s?경우|않으면|미납\s?시|불응\s?시)[^.!?。]{0,25}(?:정지|법적|압류|해지|고소|제한|삭제))",
+     R"(\b(?:einschränkungen|unterbrechung|sperrung|zusätzliche\s+(?:kosten|gebühren)|rücksendung|mahngebühren)\b<25>\b(?:zu\s+)?vermeiden\b|)"
+     R"(\b(?:à\s+défaut|sinon|faute\s+de|sans\s+(?:réponse|régularisation|action)\s+de\s+votre\s+part)\b<60>\b(?:suspen\w+|ferm\w+|supprim\w+|poursuites?|pénalité\w*|majoration|bloqu\w+|résili\w+|désactiv\w+|retourné)\b|)"
+     R"(\b(?:de\s+lo\s+contrario|caso\s+contr[áa]rio|caso\s+n[ãa]o|a\s+falta\s+de|el\s+incumplimiento|o\s+n[ãa]o\s+pagamento|sob\s+pena|evitar|evite)\b<60>\b(?:suspen\w+|bloque\w+|cancel\w+|legales|judicia\w+|multas?|penhora|embargo|protesto|negativa\w+|devol\w+|penalidade\w*|restri\w+|serasa|spc|apreens\w+|d[íi]vida\s+ativa|encargos|juros)\b|)"
+     R"(\b(?:indien\s+u\s+(?:niet|geen)|voorkom)\b<60>\b(?:geblokkeerd|deurwaarder|incasso\w*|boete|opgeschort|afgesloten|teruggestuurd|extra\s+kosten|blokkering|verhoging)\b|)"
+     R"((?:否则|否則|逾期)<20>(?:冻结|凍結|法律|起诉|起訴|逮捕|停用|注销|罚款|罰款|关闭|關閉)|)"
+     R"((?:ない場合|期限を過ぎ)<25>(?:停止|法的|解約|失効|差し押さえ|制限|無効|没収)|)"
+     R"((?:않을\s?경우|않으면|미납\s?시|불응\s?시)<25>(?:정지|법적|압류|해지|고소|제한|삭제))"); }),
      true},
 
     // ---- Extortion -----------------------------------------------------------------------------
     {"ext-webcam", "Extortion", "warn", 70,
      "claims to have filmed the reader through the webcam",
-     R"(\b(?:web\s?cam(?:era)?|camera|front\s+camera|your\s+screen|microphone)\b[^.!?]{0,120}\b(?:record\w*|video\w*|footage|filmed|captured|watch(?:ed|ing)|screenshots?)\b[^.!?]{0,120}\b(?:you|yourself)\b[^.!?]{0,80}\b(?:masturbat\w+|pleasur\w+\s+yourself|porn\w*|intimate|jerk\w*|sexual\w*|naked|nude|wank\w*|onanis\w+|dirty|perver\w+|relieving)\b|)"
-     R"(\b(?:record\w*|video|footage|filmed|captured|screenshots?)\b[^.!?]{0,80}\b(?:you|yourself)\b[^.!?]{0,60}\b(?:masturbat\w+|pleasuring\s+yourself|satisfying\s+yourself|jerking|wanking|watching\s+(?:porn\w*|adult)|onanis\w+|self[- ]satisf\w+)\b|)"
-     R"(\b(?:masturbat\w+|pleasuring\s+yourself|satisfying\s+yourself|jerking\s+off|onanis\w+)\b[^.!?]{0,120}\b(?:video|footage|record\w*|web\s?cam|camera|contacts|publish|screen|clip)\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:web\s?cam(?:era)?|camera|front\s+camera|your\s+screen|microphone)\b<120>\b(?:record\w*|video\w*|footage|filmed|captured|watch(?:ed|ing)|screenshots?)\b<120>\b(?:you|yourself)\b<80>\b(?:masturbat\w+|pleasur\w+\s+yourself|porn\w*|intimate|jerk\w*|sexual\w*|naked|nude|wank\w*|onanis\w+|dirty|perver\w+|relieving)\b|)"
+     R"(\b(?:record\w*|video|footage|filmed|captured|screenshots?)\b<80>\b(?:you|yourself)\b<60>\b(?:masturbat\w+|pleasuring\s+yourself|satisfying\s+yourself|jerking|wanking|watching\s+(?:porn\w*|adult)|onanis\w+|self[- ]satisf\w+)\b|)"
+     R"(\b(?:masturbat\w+|pleasuring\s+yourself|satisfying\s+yourself|jerking\s+off|onanis\w+)\b<120>\b(?:video|footage|record\w*|web\s?cam|camera|contacts|publish|screen|clip)\b|)"
      R"(\b(?:turned\s+on|switched\s+on|activated|hijacked|accessed|took\s+control\s+of|gained\s+access\s+to|have\s+access\s+to|access\s+to)\s+your\s+(?:\w+\s+)?(?:web\s?cam(?:era)?|camera|microphone)\b|)"
      R"(\b(?:split|double)[- ]screen\s+(?:video|recording)\b|)"
-     R"(\b(?:web\s?cam|kamera)\b[^.!?]{0,100}\b(?:aufgenommen|gefilmt|aufgezeichnet|aufnahme\w*|mitgeschnitten)\b[^.!?]{0,100}\b(?:masturb\w+|selbstbefried\w+|porno\w*|intim\w*|befriedig\w+|nackt)\b|)"
-     R"(\b(?:masturb\w+|selbstbefriedig\w+|selbst\s+befriedig\w+)\b[^.!?]{0,100}\b(?:video\w*|aufgenommen|gefilmt|kamera|web\s?cam|aufgezeichnet|kontakte\w*)\b|)"
-     R"(\b(?:filmé|enregistré|vidéo|web\s?cam)\b[^.!?]{0,100}\b(?:masturb\w+|plaisir\s+solitaire|porno\w*|site\s+pour\s+adultes)\b|)"
-     R"(\b(?:grabad[oa]|gravei|v[íi]deo|c[áa]mara|c[âa]mera|web\s?cam|filmad[oa])\b[^.!?]{0,100}\b(?:masturb\w+|porno\w*|sitios?\s+(?:para\s+)?adultos?|sites?\s+adultos?)\b|)"
-     R"(\b(?:masturbe\w+|gefilmd|opgenomen)\b[^.!?]{0,100}\b(?:web\s?cam|camera|porno\w*)\b)",
+     R"(\b(?:web\s?cam|kamera)\b<100>\b(?:aufgenommen|gefilmt|aufgezeichnet|aufnahme\w*|mitgeschnitten)\b<100>\b(?:masturb\w+|selbstbefried\w+|porno\w*|intim\w*|befriedig\w+|nackt)\b|)"
+     R"(\b(?:masturb\w+|selbstbefriedig\w+|selbst\s+befriedig\w+)\b<100>\b(?:video\w*|aufgenommen|gefilmt|kamera|web\s?cam|aufgezeichnet|kontakte\w*)\b|)"
+     R"(\b(?:filmé|enregistré|vidéo|web\s?cam)\b<100>\b(?:masturb\w+|plaisir\s+solitaire|porno\w*|site\s+pour\s+adultes)\b|)"
+     R"(\b(?:grabad[oa]|gravei|v[íi]deo|c[áa]mara|c[âa]mera|web\s?cam|filmad[oa])\b<100>\b(?:masturb\w+|porno\w*|sitios?\s+(?:para\s+)?adultos?|sites?\s+adultos?)\b|)"
+     R"(\b(?:masturbe\w+|gefilmd|opgenomen)\b<100>\b(?:web\s?cam|camera|porno\w*)\b)"); }),
      true},
     {"ext-pay-or-release", "Extortion", "warn", 75,
      "demands money to keep something from being published",
-     R"(\b(?:pay|send|transfer|payment|deposit|give\s+me)\b[^.!?]{0,80}(?:\b(?:bitcoins?|btc|usd|eur|money|amount|crypto\w*|monero|dollars)|\$\s?\d|€\s?\d)\b[^.!?]{0,150}\b(?:delete|erase|destroy|remove|won['’]t\s+(?:release|send|share|publish)|will\s+not\s+(?:release|send|share|publish)|keep\s+(?:quiet|silent|your\s+secret)|your\s+secret|forget\s+about|never\s+hear|or\s+(?:else\s+)?(?:i|we)\s+will|otherwise|disappear)\b[^.!?]{0,80}\b(?:video|photos?|footage|recording|files?|data|evidence|secret|contacts|everything|everyone|information|material|you|me|publish|release|all)\b|)"
-     R"(\b(?:if\s+you\s+(?:do\s+not|don['’]t|refuse|fail|ignore)|unless\s+you|if\s+i\s+(?:do\s+not|don['’]t)|otherwise|or\s+else|if\s+(?:the\s+)?payment\s+is\s+not|if\s+no\s+payment)\b[^.!?]{0,100}\b(?:send|publish|release|share|leak|forward|expose|upload|distribut\w+|post|go\s+public|made\s+public|sold|sell|auction)\b[^.!?]{0,60}\b(?:video|photos?|footage|recording|all\s+(?:of\s+)?your\s+(?:contacts|friends|family)|your\s+(?:contacts|friends|family|relatives|colleagues|coworkers|wife|husband|employer|customers|clients|data|files|secrets?|documents)|everyone|data|files|documents|information|internet|dark\s?web)\b|)"
-     R"(\b(?:send|publish|release|share|leak|forward|distribut\w+)\b[^.!?]{0,50}\b(?:video|photos?|footage|recording|clip|screenshots?)\b[^.!?]{0,60}\b(?:all\s+(?:of\s+)?your|your)\s+(?:\w+\s+){0,3}(?:contacts|friends|family|relatives|colleagues|co-?workers|loved\s+ones|address\s+book|acquaintances|followers|social)\b|)"
-     R"(\b(?:i|we)(?:['’]ll|\s+will)\s+(?:immediately\s+|permanently\s+)?(?:delete|erase|destroy|remove)\s+(?:the\s+|all\s+|your\s+|this\s+|every\s+)+(?:\w+\s+)?(?:video|photos?|footage|recording|files?|data|evidence|material|information|records?)\b[^.!?]{0,60}\b(?:pay\w*|once|after|receive\w*|bitcoin|btc|transfer\w*|money|as\s+soon\s+as|immediately|from)\b|)"
-     R"(\b(?:veröffentlich\w+|verschick\w+|verbreit\w+|weiterleit\w+|send\w+)\b[^.!?]{0,60}\b(?:video\w*|aufnahme\w*|fotos?|daten)\b[^.!?]{0,80}\b(?:kontakte\w*|freunde\w*|familie|kollegen|bekannte\w*|bitcoin\w*|zahl\w+)\b|)"
-     R"(\b(?:video\w*|aufnahme\w*|fotos?)\b[^.!?]{0,60}\b(?:an\s+(?:alle\s+)?(?:ihre|deine))\b[^.!?]{0,40}\b(?:kontakte\w*|freunde\w*|familie|kollegen|bekannte\w*|verwandte\w*)\b|)"
-     R"(\b(?:paye[rz]|verse[rz]|virement|envoye[rz])\b[^.!?]{0,80}(?:\b(?:bitcoins?|btc|euros?)\b|€)[^.!?]{0,100}\b(?:vidéo|photos?|publie\w*|diffuse\w*|supprime\w*|contacts)\b|)"
-     R"(\b(?:pag\w+|transfi?[er]\w+|envi\w+)\b[^.!?]{0,80}\b(?:bitcoins?|btc|d[óo]lares|euros?)\b[^.!?]{0,100}\b(?:v[íi]deo|fotos?|public\w+|divulg\w+|borr\w+|apag\w+|contactos|contatos)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:pay|send|transfer|payment|deposit|give\s+me)\b<80>(?:\b(?:bitcoins?|btc|usd|eur|money|amount|crypto\w*|monero|dollars)|\$\s?\d|€\s?\d)\b<150>\b(?:delete|erase|destroy|remove|won['’]t\s+(?:release|send|share|publish)|will\s+not\s+(?:release|send|share|publish)|keep\s+(?:quiet|silent|your\s+secret)|your\s+secret|forget\s+about|never\s+hear|or\s+(?:else\s+)?(?:i|we)\s+will|otherwise|disappear)\b<80>\b(?:video|photos?|footage|recording|files?|data|evidence|secret|contacts|everything|everyone|information|material|you|me|publish|release|all)\b|)"
+     R"(\b(?:if\s+you\s+(?:do\s+not|don['’]t|refuse|fail|ignore)|unless\s+you|if\s+i\s+(?:do\s+not|don['’]t)|otherwise|or\s+else|if\s+(?:the\s+)?payment\s+is\s+not|if\s+no\s+payment)\b<100>\b(?:send|publish|release|share|leak|forward|expose|upload|distribut\w+|post|go\s+public|made\s+public|sold|sell|auction)\b<60>\b(?:video|photos?|footage|recording|all\s+(?:of\s+)?your\s+(?:contacts|friends|family)|your\s+(?:contacts|friends|family|relatives|colleagues|coworkers|wife|husband|employer|customers|clients|data|files|secrets?|documents)|everyone|data|files|documents|information|internet|dark\s?web)\b|)"
+     R"(\b(?:send|publish|release|share|leak|forward|distribut\w+)\b<50>\b(?:video|photos?|footage|recording|clip|screenshots?)\b<60>\b(?:all\s+(?:of\s+)?your|your)\s+(?:\w+\s+){0,3}(?:contacts|friends|family|relatives|colleagues|co-?workers|loved\s+ones|address\s+book|acquaintances|followers|social)\b|)"
+     R"(\b(?:i|we)(?:['’]ll|\s+will)\s+(?:immediately\s+|permanently\s+)?(?:delete|erase|destroy|remove)\s+(?:the\s+|all\s+|your\s+|this\s+|every\s+)+(?:\w+\s+)?(?:video|photos?|footage|recording|files?|data|evidence|material|information|records?)\b<60>\b(?:pay\w*|once|after|receive\w*|bitcoin|btc|transfer\w*|money|as\s+soon\s+as|immediately|from)\b|)"
+     R"(\b(?:veröffentlich\w+|verschick\w+|verbreit\w+|weiterleit\w+|send\w+)\b<60>\b(?:video\w*|aufnahme\w*|fotos?|daten)\b<80>\b(?:kontakte\w*|freunde\w*|familie|kollegen|bekannte\w*|bitcoin\w*|zahl\w+)\b|)"
+     R"(\b(?:video\w*|aufnahme\w*|fotos?)\b<60>\b(?:an\s+(?:alle\s+)?(?:ihre|deine))\b<40>\b(?:kontakte\w*|freunde\w*|familie|kollegen|bekannte\w*|verwandte\w*)\b|)"
+     R"(\b(?:paye[rz]|verse[rz]|virement|envoye[rz])\b<80>(?:\b(?:bitcoins?|btc|euros?)\b|€)<100>\b(?:vidéo|photos?|publie\w*|diffuse\w*|supprime\w*|contacts)\b|)"
+     R"(\b(?:pag\w+|transfi?[er]\w+|envi\w+)\b<80>\b(?:bitcoins?|btc|d[óo]lares|euros?)\b<100>\b(?:v[íi]deo|fotos?|public\w+|divulg\w+|borr\w+|apag\w+|contactos|contatos)\b)"); }),
      true},
     {"ext-i-know-password", "Extortion", "warn", 70,
      "shows the reader an old password to frighten them",
-     R"(\b(?:i|we)\s+(?:do\s+)?(?:know|have|got|obtained|am\s+aware|hacked|cracked|am\s+in\s+possession\s+of)\b[^.!?]{0,20}\b(?:that\s+)?[^.!?]{0,25}\b(?:is\s+)?(?:one\s+of\s+)?your\s+(?:\w+\s+)?(?:passwords?|pass\s?word)\b|)"
-     R"(\b(?:is|was)\s+(?:one\s+of\s+)?your\s+(?:\w+\s+){0,2}(?:password|pass\s?word|pass\s?phrase)\b[^.!?]{0,80}\b(?:i|we|hack\w*|know|account|infect\w*|malware|changed|right)\b|)"
-     R"(\byour\s+(?:\w+\s+)?password\s+(?:is|was|at\s+the\s+(?:time|moment)|from)\b[^.!?]{0,60}\b(?:hack\w*|infect\w*|know|compromis\w*|malware|account|access\w*)\b[^.!?]{0,60}\b(?:i|my|me|we|device|you)\b|)"
-     R"(\b(?:ich\s+kenne|wir\s+kennen|ich\s+habe)\b[^.!?]{0,25}\b(?:ihr|dein)(?:e[ns]?)?\s+(?:\w+\s+)?(?:passwor\w*|kennwort)\b|)"
-     R"(\b(?:je\s+connais|j['’]ai)\b[^.!?]{0,20}\bvotre\s+mot\s+de\s+passe\b|)"
-     R"(\b(?:conozco|tengo|s[ée]|conhe[çc]o|tenho|sei)\b[^.!?]{0,20}\b(?:tu|su|sua|a\s+sua)\s+(?:contraseña|senha)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:i|we)\s+(?:do\s+)?(?:know|have|got|obtained|am\s+aware|hacked|cracked|am\s+in\s+possession\s+of)\b<20>\b(?:that\s+)?<25>\b(?:is\s+)?(?:one\s+of\s+)?your\s+(?:\w+\s+)?(?:passwords?|pass\s?word)\b|)"
+     R"(\b(?:is|was)\s+(?:one\s+of\s+)?your\s+(?:\w+\s+){0,2}(?:password|pass\s?word|pass\s?phrase)\b<80>\b(?:i|we|hack\w*|know|account|infect\w*|malware|changed|right)\b|)"
+     R"(\byour\s+(?:\w+\s+)?password\s+(?:is|was|at\s+the\s+(?:time|moment)|from)\b<60>\b(?:hack\w*|infect\w*|know|compromis\w*|malware|account|access\w*)\b<60>\b(?:i|my|me|we|device|you)\b|)"
+     R"(\b(?:ich\s+kenne|wir\s+kennen|ich\s+habe)\b<25>\b(?:ihr|dein)(?:e[ns]?)?\s+(?:\w+\s+)?(?:passwor\w*|kennwort)\b|)"
+     R"(\b(?:je\s+connais|j['’]ai)\b<20>\bvotre\s+mot\s+de\s+passe\b|)"
+     R"(\b(?:conozco|tengo|s[ée]|conhe[çc]o|tenho|sei)\b<20>\b(?:tu|su|sua|a\s+sua)\s+(?:contraseña|senha)\b)"); }),
      true},
     {"ext-compromising", "Extortion", "warn", 60,
      "threatens with compromising pictures or secrets",
-     R"(\b(?:i|we)(?:['’]ve|\s+have|\s+got|\s+do\s+have|\s+also\s+have|\s+collected|\s+obtained|\s+possess|\s+hold)\b[^.!?]{0,40}\b(?:compromising|embarrassing|incriminating|explicit|intimate|nude|naked|dirty|sensitive|shameful|private|sexual)\b[^.!?]{0,15}\b(?:videos?|photos?|pictures?|footage|images?|materials?|recordings?|information|evidence|content|details|messages|secrets?)\b[^.!?]{0,80}\b(?:you|your)\b|)"
-     R"(\b(?:i|we)(?:['’]ll|\s+will|\s+am\s+going\s+to|\s+can)\b[^.!?]{0,15}\b(?:send|share|publish|release|leak|show|expose|forward|tell)\b[^.!?]{0,40}\b(?:your\s+)?(?:wife|husband|family|employer|boss|friends|contacts|colleagues|everyone|partner|relatives)\b[^.!?]{0,80}\b(?:secret|affair|video|photos?|pictures?|footage|perver\w*|porn\w*|everything|dirty|what\s+you|nude|intimate|cheat\w*)\b|)"
-     R"(\b(?:ruin|destroy)\b[^.!?]{0,10}\b(?:your|ur)\s+(?:\w+\s+)?(?:life|reputation|marriage|career|image|name|relationship|family)\b[^.!?]{0,80}\b(?:unless|if|pay|video|photos?|send|bitcoin\w*|money|release|publish|contacts)\b|)"
-     R"(\b(?:dirty|little|nasty|shameful|dark)\s+secrets?\b[^.!?]{0,60}\b(?:pay|send|family|wife|husband|contacts|exposed?|know|bitcoin\w*|video)\b|)"
-     R"(\b(?:kompromittierend\w*|peinlich\w*|intim\w*)\b[^.!?]{0,20}\b(?:videos?|fotos?|aufnahmen?|bilder|material\w*)\b[^.!?]{0,60}\b(?:von\s+(?:ihnen|dir)|ihre|deine|kontakte\w*|veröffentlich\w+|familie)\b|)"
-     R"(\b(?:vidéos?|photos?|images)\b[^.!?]{0,12}\b(?:compromettantes?|intimes?)\b[^.!?]{0,60}\b(?:vous|vos|publi\w+|diffus\w+|contacts)\b|)"
-     R"(\b(?:v[íi]deos?|fotos?|im[áa]gen[es]*|imagens)\b[^.!?]{0,12}\b(?:comprometedor[ae]?s?|[íi]ntim[oa]s?)\b[^.!?]{0,60}\b(?:contactos|contatos|public\w+|divulg\w+|familia\w*|suyas?|suas)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:i|we)(?:['’]ve|\s+have|\s+got|\s+do\s+have|\s+also\s+have|\s+collected|\s+obtained|\s+possess|\s+hold)\b<40>\b(?:compromising|embarrassing|incriminating|explicit|intimate|nude|naked|dirty|sensitive|shameful|private|sexual)\b<15>\b(?:videos?|photos?|pictures?|footage|images?|materials?|recordings?|information|evidence|content|details|messages|secrets?)\b<80>\b(?:you|your)\b|)"
+     R"(\b(?:i|we)(?:['’]ll|\s+will|\s+am\s+going\s+to|\s+can)\b<15>\b(?:send|share|publish|release|leak|show|expose|forward|tell)\b<40>\b(?:your\s+)?(?:wife|husband|family|employer|boss|friends|contacts|colleagues|everyone|partner|relatives)\b<80>\b(?:secret|affair|video|photos?|pictures?|footage|perver\w*|porn\w*|everything|dirty|what\s+you|nude|intimate|cheat\w*)\b|)"
+     R"(\b(?:ruin|destroy)\b<10>\b(?:your|ur)\s+(?:\w+\s+)?(?:life|reputation|marriage|career|image|name|relationship|family)\b<80>\b(?:unless|if|pay|video|photos?|send|bitcoin\w*|money|release|publish|contacts)\b|)"
+     R"(\b(?:dirty|little|nasty|shameful|dark)\s+secrets?\b<60>\b(?:pay|send|family|wife|husband|contacts|exposed?|know|bitcoin\w*|video)\b|)"
+     R"(\b(?:kompromittierend\w*|peinlich\w*|intim\w*)\b<20>\b(?:videos?|fotos?|aufnahmen?|bilder|material\w*)\b<60>\b(?:von\s+(?:ihnen|dir)|ihre|deine|kontakte\w*|veröffentlich\w+|familie)\b|)"
+     R"(\b(?:vidéos?|photos?|images)\b<12>\b(?:compromettantes?|intimes?)\b<60>\b(?:vous|vos|publi\w+|diffus\w+|contacts)\b|)"
+     R"(\b(?:v[íi]deos?|fotos?|im[áa]gen[es]*|imagens)\b<12>\b(?:comprometedor[ae]?s?|[íi]ntim[oa]s?)\b<60>\b(?:contactos|contatos|public\w+|divulg\w+|familia\w*|suyas?|suas)\b)"); }),
      true},
     {"ext-ransom-deadline", "Extortion", "warn", 60,
      "demands a ransom by a deadline",
-     R"(\b(?:you\s+have|you['’]ve\s+got|i\s+(?:give|am\s+giving)\s+you|we\s+(?:give|are\s+giving)\s+you|deadline|within)\b[^.!?]{0,25}\b(?:24|48|50|72|\d+|two|three|five|seven)\s?(?:hours?|hrs?|days)\b[^.!?]{0,80}\b(?:pay|send|transfer|payment|deposit)\b[^.!?]{0,60}(?:\b(?:bitcoins?|btc|ransom|monero|wallet|crypto\w*|usd)|\$\s?\d)\b|)"
-     R"(\b(?:pay|send|transfer|payment)\b[^.!?]{0,60}\b(?:bitcoins?|btc|ransom|monero|wallet|crypto\w*)\b[^.!?]{0,80}\b(?:you\s+have|you['’]ve\s+got|deadline|within|only|in\s+the\s+next)\b[^.!?]{0,15}\b(?:24|48|50|72|\d+|two|three|five|seven)\s?(?:hours?|hrs?|days)\b|)"
-     R"(\b(?:your\s+)?(?:files|data|network|servers?|documents|computers?|systems?|databases?)\b[^.!?]{0,25}\b(?:have\s+been|has\s+been|are|were|was)\s+(?:\w+\s+)?(?:encrypted|locked|stolen|exfiltrated)\b[^.!?]{0,150}\b(?:pay|decrypt\w*|ransom|bitcoins?|btc|recover\w*|contact\s+us|key|payment|restore)\b|)"
-     R"(\b(?:timer|countdown|clock|time)\b[^.!?]{0,25}\b(?:start(?:ed|s)?|begin[s]?|began|ticking|run(?:s|ning)?)\b[^.!?]{0,60}\b(?:open(?:ed)?|read|letter|e-?mail|message|hours|pay|now)\b|)"
-     R"(\b(?:pay|send)\b[^.!?]{0,15}\b(?:a\s+|the\s+)?ransom\b|)"
-     R"(\bsie\s+haben\b[^.!?]{0,20}\b(?:24|48|50|72|\d+)\s?(?:stunden|tage)\b[^.!?]{0,80}\b(?:zahl\w+|überweis\w+|bitcoins?|btc|lösegeld)\b|)"
-     R"(\bvous\s+avez\b[^.!?]{0,20}\b(?:24|48|50|72|\d+)\s?(?:heures|jours|h)\b[^.!?]{0,80}\b(?:pay\w+|bitcoins?|btc|rançon|virement)\b|)"
-     R"(\b(?:tiene|tienes|voc[êe]\s+tem)\b[^.!?]{0,20}\b(?:24|48|50|72|\d+)\s?(?:horas|d[íi]as)\b[^.!?]{0,80}\b(?:pag\w+|bitcoins?|btc|rescate|resgate)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:you\s+have|you['’]ve\s+got|i\s+(?:give|am\s+giving)\s+you|we\s+(?:give|are\s+giving)\s+you|deadline|within)\b<25>\b(?:24|48|50|72|\d+|two|three|five|seven)\s?(?:hours?|hrs?|days)\b<80>\b(?:pay|send|transfer|payment|deposit)\b<60>(?:\b(?:bitcoins?|btc|ransom|monero|wallet|crypto\w*|usd)|\$\s?\d)\b|)"
+     R"(\b(?:pay|send|transfer|payment)\b<60>\b(?:bitcoins?|btc|ransom|monero|wallet|crypto\w*)\b<80>\b(?:you\s+have|you['’]ve\s+got|deadline|within|only|in\s+the\s+next)\b<15>\b(?:24|48|50|72|\d+|two|three|five|seven)\s?(?:hours?|hrs?|days)\b|)"
+     R"(\b(?:your\s+)?(?:files|data|network|servers?|documents|computers?|systems?|databases?)\b<25>\b(?:have\s+been|has\s+been|are|were|was)\s+(?:\w+\s+)?(?:encrypted|locked|stolen|exfiltrated)\b<150>\b(?:pay|decrypt\w*|ransom|bitcoins?|btc|recover\w*|contact\s+us|key|payment|restore)\b|)"
+     R"(\b(?:timer|countdown|clock|time)\b<25>\b(?:start(?:ed|s)?|begin[s]?|began|ticking|run(?:s|ning)?)\b<60>\b(?:open(?:ed)?|read|letter|e-?mail|message|hours|pay|now)\b|)"
+     R"(\b(?:pay|send)\b<15>\b(?:a\s+|the\s+)?ransom\b|)"
+     R"(\bsie\s+haben\b<20>\b(?:24|48|50|72|\d+)\s?(?:stunden|tage)\b<80>\b(?:zahl\w+|überweis\w+|bitcoins?|btc|lösegeld)\b|)"
+     R"(\bvous\s+avez\b<20>\b(?:24|48|50|72|\d+)\s?(?:heures|jours|h)\b<80>\b(?:pay\w+|bitcoins?|btc|rançon|virement)\b|)"
+     R"(\b(?:tiene|tienes|voc[êe]\s+tem)\b<20>\b(?:24|48|50|72|\d+)\s?(?:horas|d[íi]as)\b<80>\b(?:pag\w+|bitcoins?|btc|rescate|resgate)\b)"); }),
      true},
     {"ext-hacked-device", "Extortion", "warn", 50,
      "claims to have hacked the reader's device or account",
-     R"(\b(?:i|we|my\s+team|our\s+team|hackers?)\b(?:['’]ve|\s+have|\s+had|\s+am|\s+was)?[^.!?]{0,25}\b(?:hacked|infected|gained\s+(?:full\s+|complete\s+|unlimited\s+)?access|got\s+(?:full\s+|complete\s+)?access|obtained\s+(?:full\s+)?access|compromised|cracked|broke\s+into|full\s+access|complete\s+access|complete\s+control|full\s+control|installed\s+(?:a\s+|my\s+)?(?:\w+\s+)?(?:trojan|malware|virus|spyware|rat|software))\b[^.!?]{0,12}\b(?:your|all\s+(?:of\s+)?your|all)\b[^.!?]{0,30}\b(?:devices?|computers?|accounts?|phones?|e-?mails?|system|operating\s+system|router|pc|network|laptop|gadgets?|browser|website|site|databases?|camera)\b|)"
-     R"(\b(?:your\s+)(?:\w+\s+){0,2}(?:device|computer|account|operating\s+system|phone|pc|system|e-?mail|website|laptop)\b[^.!?]{0,20}\b(?:has\s+been|was|is|got|were|have\s+been)\s+(?:\w+\s+)?(?:hacked|infected|compromised|cracked|breached)\b[^.!?]{0,60}\b(?:by\s+(?:me|us)|my|i|trojan|malware|virus|we|full\s+access)\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:i|we|my\s+team|our\s+team|hackers?)\b(?:['’]ve|\s+have|\s+had|\s+am|\s+was)?<25>\b(?:hacked|infected|gained\s+(?:full\s+|complete\s+|unlimited\s+)?access|got\s+(?:full\s+|complete\s+)?access|obtained\s+(?:full\s+)?access|compromised|cracked|broke\s+into|full\s+access|complete\s+access|complete\s+control|full\s+control|installed\s+(?:a\s+|my\s+)?(?:\w+\s+)?(?:trojan|malware|virus|spyware|rat|software))\b<12>\b(?:your|all\s+(?:of\s+)?your|all)\b<30>\b(?:devices?|computers?|accounts?|phones?|e-?mails?|system|operating\s+system|router|pc|network|laptop|gadgets?|browser|website|site|databases?|camera)\b|)"
+     R"(\b(?:your\s+)(?:\w+\s+){0,2}(?:device|computer|account|operating\s+system|phone|pc|system|e-?mail|website|laptop)\b<20>\b(?:has\s+been|was|is|got|were|have\s+been)\s+(?:\w+\s+)?(?:hacked|infected|compromised|cracked|breached)\b<60>\b(?:by\s+(?:me|us)|my|i|trojan|malware|virus|we|full\s+access)\b|)"
      R"(\b(?:i\s+am|i['’]m|we\s+are|am)\s+(?:a\s+|an\s+|the\s+|professional\s+|group\s+of\s+|known\s+)*(?:hacker|hackers|programmer\s+who|cyber\s?criminal)\b|)"
-     R"(\b(?:sent|sending|written|writing|mailed)\b[^.!?]{0,20}\bfrom\s+your\s+(?:own\s+)?(?:e-?mail\s+)?(?:account|address|device|mailbox)\b[^.!?]{0,60}\b(?:hack\w*|access|control|means|notice\w*|see|as\s+you)\b|)"
-     R"(\b(?:trojan|malware|spyware|keylogger|rat|virus|exploit)\b[^.!?]{0,80}\b(?:full\s+access|gave\s+me|gives\s+me|access\s+to\s+(?:all\s+)?your|control\s+(?:of|over)\s+your|your\s+(?:device|screen|camera|contacts|messenger))\b|)"
-     R"(\b(?:ich\s+habe|wir\s+haben|habe\s+ich|ich\s+bin)\b[^.!?]{0,50}\b(?:gehackt|infiziert|zugriff\s+(?:auf|zu)|hacker)\b[^.!?]{0,50}\b(?:gerät\w*|computer\w*|konto|konten|system|account|betriebssystem|e-?mail\w*|programmierer)\b|)"
-     R"(\b(?:ihr|dein|ihre|deine)\s+(?:\w+\s+)?(?:gerät\w*|computer\w*|konto|system|account|betriebssystem)\b[^.!?]{0,30}\b(?:gehackt|infiziert|kompromittiert)\b|)"
-     R"(\b(?:j['’]ai|nous\s+avons)\b[^.!?]{0,30}\b(?:piraté|infecté|accès\s+(?:à|complet))\b[^.!?]{0,40}\b(?:appareil|ordinateur|compte|système|téléphone)\b|)"
-     R"(\b(?:he|hemos|tengo|eu|n[óo]s)\b[^.!?]{0,30}\b(?:hackead[oa]|infectad[oa]|invadi|hackeei|acceso\s+(?:a|completo)|acesso\s+(?:a|ao|total|completo))\b[^.!?]{0,40}\b(?:dispositivo|computadora?|ordenador|cuenta|conta|sistema|tel[ée]fono|celular)\b)",
+     R"(\b(?:sent|sending|written|writing|mailed)\b<20>\bfrom\s+your\s+(?:own\s+)?(?:e-?mail\s+)?(?:account|address|device|mailbox)\b<60>\b(?:hack\w*|access|control|means|notice\w*|see|as\s+you)\b|)"
+     R"(\b(?:trojan|malware|spyware|keylogger|rat|virus|exploit)\b<80>\b(?:full\s+access|gave\s+me|gives\s+me|access\s+to\s+(?:all\s+)?your|control\s+(?:of|over)\s+your|your\s+(?:device|screen|camera|contacts|messenger))\b|)"
+     R"(\b(?:ich\s+habe|wir\s+haben|habe\s+ich|ich\s+bin)\b<50>\b(?:gehackt|infiziert|zugriff\s+(?:auf|zu)|hacker)\b<50>\b(?:gerät\w*|computer\w*|konto|konten|system|account|betriebssystem|e-?mail\w*|programmierer)\b|)"
+     R"(\b(?:ihr|dein|ihre|deine)\s+(?:\w+\s+)?(?:gerät\w*|computer\w*|konto|system|account|betriebssystem)\b<30>\b(?:gehackt|infiziert|kompromittiert)\b|)"
+     R"(\b(?:j['’]ai|nous\s+avons)\b<30>\b(?:piraté|infecté|accès\s+(?:à|complet))\b<40>\b(?:appareil|ordinateur|compte|système|téléphone)\b|)"
+     R"(\b(?:he|hemos|tengo|eu|n[óo]s)\b<30>\b(?:hackead[oa]|infectad[oa]|invadi|hackeei|acceso\s+(?:a|completo)|acesso\s+(?:a|ao|total|completo))\b<40>\b(?:dispositivo|computadora?|ordenador|cuenta|conta|sistema|tel[ée]fono|celular)\b)"); }),
      true},
 
     // ---- Threats -------------------------------------------------------------------------------
     {"thr-violence", "Threats", "warn", 80,
      "threatens physical violence",
-     R"(\b(?:i|we)(?:['’]ll|\s+will|\s+am\s+going\s+to|['’]m\s+going\s+to|\s+are\s+going\s+to|['’]re\s+going\s+to|['’]m\s+gonna|\s+swear\s+i(?:['’]ll|\s+will))\b[^.!?]{0,12}\b(?:kill|murder|shoot|stab|beat\s+(?:the|you|your)|strangle|break\s+(?:your|ur)|smash\s+(?:your|ur)|slit|skin|hunt\s+you|bury|cut\s+(?:your|you)|hang\s+you|gut\s+you)\b[^.!?]{0,12}\b(?:you|your|ur|him|her|them|throat|legs?|neck|face|skull|alive)\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:i|we)(?:['’]ll|\s+will|\s+am\s+going\s+to|['’]m\s+going\s+to|\s+are\s+going\s+to|['’]re\s+going\s+to|['’]m\s+gonna|\s+swear\s+i(?:['’]ll|\s+will))\b<12>\b(?:kill|murder|shoot|stab|beat\s+(?:the|you|your)|strangle|break\s+(?:your|ur)|smash\s+(?:your|ur)|slit|skin|hunt\s+you|bury|cut\s+(?:your|you)|hang\s+you|gut\s+you)\b<12>\b(?:you|your|ur|him|her|them|throat|legs?|neck|face|skull|alive)\b|)"
      R"(\b(?:you|u)(?:['’]re|\s+are|\s+r|['’]ll|\s+will)\s+(?:a\s+|gonna\s+|going\s+to\s+)?(?:dead\s+(?:man|meat|woman)|be\s+killed|die\s+(?:for\s+this|slowly|screaming|tonight|tomorrow)|be\s+sorry\s+you\s+were\s+born|pay\s+(?:for\s+(?:this|it)\s+)?with\s+your\s+life)\b|)"
      R"(\b(?:your\s+days\s+are\s+numbered|you\s+deserve\s+to\s+die|i['’]ll\s+make\s+you\s+(?:suffer|bleed)|i\s+hope\s+you\s+die|put\s+a\s+bullet\s+in\s+(?:you|your)|bullet\s+(?:in|through|with)\s+your\s+(?:head|name))\b|)"
      R"(\b(?:hired|paid)\s+(?:someone\s+|a\s+man\s+|a\s+hitman\s+|me\s+|us\s+)?to\s+(?:kill|assassinate|terminate|eliminate)\s+you\b|)"
-     R"(\bcontract\b[^.!?]{0,20}\bto\s+(?:kill|assassinate|terminate|eliminate)\s+you\b|)"
-     R"(\bich\s+(?:werde|bringe?)\b[^.!?]{0,20}\b(?:dich|euch|sie|ihn)\s+(?:\w+\s+)?(?:umbringen|töten|abstechen|erschießen|totschlagen|umlegen|zusammenschlagen|um)\b|)"
+     R"(\bcontract\b<20>\bto\s+(?:kill|assassinate|terminate|eliminate)\s+you\b|)"
+     R"(\bich\s+(?:werde|bringe?)\b<20>\b(?:dich|euch|sie|ihn)\s+(?:\w+\s+)?(?:umbringen|töten|abstechen|erschießen|totschlagen|umlegen|zusammenschlagen|um)\b|)"
      R"(\bje\s+vais\s+(?:te|vous|le|la)\s+(?:tuer|buter|crever|frapper|massacrer)\b|)"
      R"(\b(?:te\s+voy\s+a\s+matar|vamos\s+a\s+matarte|voy\s+a\s+matarte|vou\s+te\s+matar|te\s+matarei|vamos\s+te\s+matar|te\s+vamos\s+a\s+matar)\b|)"
-     R"((?:杀了你|殺了你|弄死你|要你的命|殺すぞ|殺してやる|ぶっ殺|죽여\s?버릴|죽일\s?거|죽이겠))",
+     R"((?:杀了你|殺了你|弄死你|要你的命|殺すぞ|殺してやる|ぶっ殺|죽여\s?버릴|죽일\s?거|죽이겠))"); }),
      true},
     {"thr-know-where", "Threats", "warn", 70,
      "warns that the sender knows where the reader lives or works",
-     R"(\b(?:i|we)\s+(?:know|have\s+found|found|figured\s+out|['’]ve\s+found|have)\b[^.!?]{0,12}\b(?:exactly\s+)?(?:where\s+(?:you|u|your\s+(?:family|kids|children|wife|mother|parents))\b[^.!?]{0,8}\b(?:live|lives|work|works|sleep|park|go|stay|are|go\s+to\s+school|study)|your\s+(?:home\s+)?address\s+and)\b|)"
-     R"(\b(?:i|we)(?:['’]ll|\s+will|['’]m|\s+am|\s+are)\b[^.!?]{0,15}\b(?:show(?:ing)?\s+up|pay(?:ing)?\s+you\s+a\s+visit|find(?:ing)?\s+you|hunt(?:ing)?\s+you\s+down|come\s+for\s+you|be\s+waiting)\b[^.!?]{0,15}\b(?:to|at|outside|for|you\s+at|in)\s+(?:your|ur)\s+(?:house|home|door|place|work|office|school|address)\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:i|we)\s+(?:know|have\s+found|found|figured\s+out|['’]ve\s+found|have)\b<12>\b(?:exactly\s+)?(?:where\s+(?:you|u|your\s+(?:family|kids|children|wife|mother|parents))\b<8>\b(?:live|lives|work|works|sleep|park|go|stay|are|go\s+to\s+school|study)|your\s+(?:home\s+)?address\s+and)\b|)"
+     R"(\b(?:i|we)(?:['’]ll|\s+will|['’]m|\s+am|\s+are)\b<15>\b(?:show(?:ing)?\s+up|pay(?:ing)?\s+you\s+a\s+visit|find(?:ing)?\s+you|hunt(?:ing)?\s+you\s+down|come\s+for\s+you|be\s+waiting)\b<15>\b(?:to|at|outside|for|you\s+at|in)\s+(?:your|ur)\s+(?:house|home|door|place|work|office|school|address)\b|)"
      R"(\b(?:i|we)\s+know\s+(?:your|what)\s+(?:car\s+you\s+drive|route|routine|school\s+your)\b|)"
-     R"(\bich\s+weiß,?[^.!?]{0,8}\bwo\s+(?:du|sie|deine|ihre)\b[^.!?]{0,20}\b(?:wohn\w+|arbeit\w+|leb\w+|schläf\w+)\b|)"
-     R"(\b(?:je\s+sais|on\s+sait)\s+où\s+(?:tu|vous)\b[^.!?]{0,10}\b(?:habit\w+|viv\w+|travaill\w+)\b|)"
+     R"(\bich\s+weiß,?<8>\bwo\s+(?:du|sie|deine|ihre)\b<20>\b(?:wohn\w+|arbeit\w+|leb\w+|schläf\w+)\b|)"
+     R"(\b(?:je\s+sais|on\s+sait)\s+où\s+(?:tu|vous)\b<10>\b(?:habit\w+|viv\w+|travaill\w+)\b|)"
      R"(\b(?:s[ée]|sabemos|sei)\s+d?onde\s+(?:vives?|viven|trabajas?|mora[s]?|trabalha[s]?|voc[êe]\s+mora)\b|)"
-     R"((?:知道你(?:住|家)在?|我知道你住|家は知って|住所は知って|어디\s?사는지\s?알))",
+     R"((?:知道你(?:住|家)在?|我知道你住|家は知って|住所は知って|어디\s?사는지\s?알))"); }),
      true},
     {"thr-family", "Threats", "warn", 75,
      "threatens the reader's family",
-     R"(\b(?:kill|hurt|harm|touch|visit|get|come\s+for|go\s+after|take|find|burn|happen(?:s)?\s+to|lose|bury|target)\b[^.!?]{0,12}\b(?:your|ur)\s+(?:\w+\s+)?(?:family|kids?|children|child|wife|husband|daughter|son|mother|mom|mum|parents|sister|brother|loved\s+ones)\b[^.!?]{0,50}\b(?:if|unless|or|first|too|suffer|die|pay|one\s+by\s+one|next|bleed|will|dead)\b|)"
-     R"(\b(?:your|ur)\s+(?:\w+\s+)?(?:family|kids?|children|wife|husband|daughter|son|mother|parents|loved\s+ones)\b[^.!?]{0,20}\b(?:will|is\s+going\s+to|are\s+going\s+to|gonna|should)\b[^.!?]{0,12}\b(?:die|suffer|be\s+(?:killed|hurt|harmed|next|dead|in\s+danger)|pay\s+for|burn|bleed|regret)\b|)"
-     R"(\b(?:if\s+you\s+(?:care\s+about|love|value|want\s+to\s+see)|for\s+the\s+(?:safety|sake)\s+of)\s+(?:your\s+|ur\s+)(?:\w+\s+)?(?:family|kids?|children|wife|husband|daughter|son|life|loved\s+ones)\b[^.!?]{0,60}\b(?:pay|do|will|stop|you['’]ll|send|keep|again|alive|leave|comply|cooperate)\b|)"
-     R"(\b(?:deine|deiner|ihre|ihrer)\s+(?:familie|kinder|frau|tochter|mutter)\b[^.!?]{0,30}\b(?:umbring\w+|töt\w+|sterben|büßen|leid\w+|passier\w+|stirbt)\b|)"
-     R"(\b(?:ta|votre)\s+(?:famille|femme|fille|mère)\b[^.!?]{0,25}\b(?:tuer|mourir|mourra|souffrir|paiera)\b|)"
-     R"(\b(?:tu|su|sua)\s+(?:familia|fam[íi]lia|hij[oa]s?|filh[oa]s?|mujer|esposa)\b[^.!?]{0,25}\b(?:matar|morir\w*|morrer|sufrir\w*|sofrer|pagar[áa])\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:kill|hurt|harm|touch|visit|get|come\s+for|go\s+after|take|find|burn|happen(?:s)?\s+to|lose|bury|target)\b<12>\b(?:your|ur)\s+(?:\w+\s+)?(?:family|kids?|children|child|wife|husband|daughter|son|mother|mom|mum|parents|sister|brother|loved\s+ones)\b<50>\b(?:if|unless|or|first|too|suffer|die|pay|one\s+by\s+one|next|bleed|will|dead)\b|)"
+     R"(\b(?:your|ur)\s+(?:\w+\s+)?(?:family|kids?|children|wife|husband|daughter|son|mother|parents|loved\s+ones)\b<20>\b(?:will|is\s+going\s+to|are\s+going\s+to|gonna|should)\b<12>\b(?:die|suffer|be\s+(?:killed|hurt|harmed|next|dead|in\s+danger)|pay\s+for|burn|bleed|regret)\b|)"
+     R"(\b(?:if\s+you\s+(?:care\s+about|love|value|want\s+to\s+see)|for\s+the\s+(?:safety|sake)\s+of)\s+(?:your\s+|ur\s+)(?:\w+\s+)?(?:family|kids?|children|wife|husband|daughter|son|life|loved\s+ones)\b<60>\b(?:pay|do|will|stop|you['’]ll|send|keep|again|alive|leave|comply|cooperate)\b|)"
+     R"(\b(?:deine|deiner|ihre|ihrer)\s+(?:familie|kinder|frau|tochter|mutter)\b<30>\b(?:umbring\w+|töt\w+|sterben|büßen|leid\w+|passier\w+|stirbt)\b|)"
+     R"(\b(?:ta|votre)\s+(?:famille|femme|fille|mère)\b<25>\b(?:tuer|mourir|mourra|souffrir|paiera)\b|)"
+     R"(\b(?:tu|su|sua)\s+(?:familia|fam[íi]lia|hij[oa]s?|filh[oa]s?|mujer|esposa)\b<25>\b(?:matar|morir\w*|morrer|sufrir\w*|sofrer|pagar[áa])\b)"); }),
      true},
     {"thr-watching", "Threats", "warn", 45,
      "says the sender is watching or following the reader",
-     R"(\b(?:i|we)(?:['’]m|\s+am|['’]re|\s+are|['’]ve\s+been|\s+have\s+been|['’]ll\s+be|\s+will\s+be)\b[^.!?]{0,10}\b(?:watching|following|tracking|stalking|monitoring|observing|spying\s+on)\s+(?:you|your\s+(?:every|house|home|family|kids|wife|activit\w+|move|steps|device|internet))\b[^.!?]{0,60}\b(?:long\s+time|every|know|see|always|closely|for\s+(?:a\s+|several\s+|some\s+|\d+\s+)|right\s+now|don['’]t|do\s+not|careful|house|move|home|weeks?|months?|street|stop|everywhere|pay|police|week)\b|)"
-     R"(\b(?:watching|following|tracking)\b[^.!?]{0,5}\byour\s+every\s+(?:move|step)\b|)"
-     R"(\b(?:i|we)\s+(?:can\s+|could\s+)?(?:see|saw)\s+you\s+(?:through|from|in|at|last|leaving|every|undress|sleep)\b[^.!?]{0,40}\b(?:window|house|home|window|alone|camera|night|bedroom|car|street|across)\b|)"
-     R"(\b(?:don['’]t|do\s+not)\s+(?:even\s+)?(?:try|think)\s+(?:of\s+|about\s+|to\s+)?(?:call|calling|contact|contacting|go|going|report|reporting)\b[^.!?]{0,12}\b(?:the\s+)?(?:police|cops|fbi|authorities)\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:i|we)(?:['’]m|\s+am|['’]re|\s+are|['’]ve\s+been|\s+have\s+been|['’]ll\s+be|\s+will\s+be)\b<10>\b(?:watching|following|tracking|stalking|monitoring|observing|spying\s+on)\s+(?:you|your\s+(?:every|house|home|family|kids|wife|activit\w+|move|steps|device|internet))\b<60>\b(?:long\s+time|every|know|see|always|closely|for\s+(?:a\s+|several\s+|some\s+|\d+\s+)|right\s+now|don['’]t|do\s+not|careful|house|move|home|weeks?|months?|street|stop|everywhere|pay|police|week)\b|)"
+     R"(\b(?:watching|following|tracking)\b<5>\byour\s+every\s+(?:move|step)\b|)"
+     R"(\b(?:i|we)\s+(?:can\s+|could\s+)?(?:see|saw)\s+you\s+(?:through|from|in|at|last|leaving|every|undress|sleep)\b<40>\b(?:window|house|home|window|alone|camera|night|bedroom|car|street|across)\b|)"
+     R"(\b(?:don['’]t|do\s+not)\s+(?:even\s+)?(?:try|think)\s+(?:of\s+|about\s+|to\s+)?(?:call|calling|contact|contacting|go|going|report|reporting)\b<12>\b(?:the\s+)?(?:police|cops|fbi|authorities)\b|)"
      R"(\bich\s+(?:beobachte|verfolge|überwache)\s+(?:dich|sie|euch)\b|)"
      R"(\bje\s+(?:te|vous)\s+(?:surveille|observe|suis\s+partout)\b|)"
-     R"(\b(?:te|lo|la)\s+(?:estoy|estamos|estou)\s+(?:vigilando|observando|siguiendo|vigiando|seguindo)\b)",
+     R"(\b(?:te|lo|la)\s+(?:estoy|estamos|estou)\s+(?:vigilando|observando|siguiendo|vigiando|seguindo)\b)"); }),
      true},
     {"thr-self-harm-urge", "Threats", "warn", 80,
      "urges the reader to harm themselves",
+     pattern([] { return std::string_view(
      R"(\b(?:go|just|please|should|u\s+should|you\s+should|why\s+don['’]t\s+you|do\s+(?:everyone|us|the\s+world)\s+a\s+favou?r\s+and)\s+(?:and\s+)?(?:kill\s+yourself|kill\s+urself|hang\s+yourself|off\s+yourself|die\s+in\s+a\s+(?:fire|hole|ditch)|end\s+(?:your|ur)\s+life|jump\s+off|slit\s+your\s+wrists|drink\s+bleach|end\s+it\s+all|neck\s+yourself)\b|)"
-     R"(\b(?:kys|kill\s+your\s?self|kill\s+ur\s?self|go\s+hang\s+yourself|go\s+die)\b[^.!?]{0,20}(?:$|[.!,]|\b(?:now|already|please|loser|you|nobody|no\s+one|everyone|worthless)\b)|)"
-     R"(\b(?:nobody|no\s+one|world)\b[^.!?]{0,25}\b(?:would\s+(?:miss|care)|better\s+(?:off|place))\b[^.!?]{0,20}\b(?:if\s+you\s+(?:died|were\s+dead|killed|die|were\s+gone)|without\s+you|you\s+were\s+(?:dead|gone))\b|)"
+     R"(\b(?:kys|kill\s+your\s?self|kill\s+ur\s?self|go\s+hang\s+yourself|go\s+die)\b<20>(?:$|[.!,]|\b(?:now|already|please|loser|you|nobody|no\s+one|everyone|worthless)\b)|)"
+     R"(\b(?:nobody|no\s+one|world)\b<25>\b(?:would\s+(?:miss|care)|better\s+(?:off|place))\b<20>\b(?:if\s+you\s+(?:died|were\s+dead|killed|die|were\s+gone)|without\s+you|you\s+were\s+(?:dead|gone))\b|)"
      R"(\b(?:bring\s+dich\s+(?:doch\s+)?um|häng\s+dich\s+auf|geh\s+sterben|tue?\s+(?:uns|der\s+welt)\s+einen\s+gefallen\s+und\s+stirb)\b|)"
      R"(\b(?:va\s+(?:te\s+(?:tuer|pendre|suicider)|mourir|crever)|suicide-toi)\b|)"
      R"(\b(?:m[áa]tate|su[íi]cidate|se\s+mata|vai\s+morrer|vete\s+a\s+morir|deber[íi]as\s+morirte)\b|)"
-     R"((?:去死吧|你怎么不去死|死んでしまえ|自殺しろ|死ねばいい|나가\s?죽어|자살해라))",
+     R"((?:去死吧|你怎么不去死|死んでしまえ|自殺しろ|死ねばいい|나가\s?죽어|자살해라))"); }),
      true},
 
     // ---- Exposed secrets -----------------------------------------------------------------------
@@ -1387,9 +1529,10 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"pii-cvv", "Exposed secrets", "warn", 60,
      "contains a card security code",
-     R"(\b(?:cvv2?|cvc2?|cvn|card\s+(?:security|verification)\s+(?:code|number|value)|security\s+code\s+(?:on|of)\s+(?:the\s+|my\s+)?(?:back|card))\b[^.!?]{0,12}(?::|=|#|\bis\b|\bcode\b|\s+)[^.!?]{0,3}\b\d{3,4}\b|)"
-     R"(\b\d{3,4}\b[^.!?]{0,6}\b(?:cvv2?|cvc2?)\b|)"
-     R"(\b(?:kartenprüfnummer|prüfziffer|cryptogramme(?:\s+visuel)?|c[óo]digo\s+de\s+(?:seguridad|segurança))\b[^.!?]{0,10}\b\d{3,4}\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:cvv2?|cvc2?|cvn|card\s+(?:security|verification)\s+(?:code|number|value)|security\s+code\s+(?:on|of)\s+(?:the\s+|my\s+)?(?:back|card))\b<12>(?::|=|#|\bis\b|\bcode\b|\s+)<3>\b\d{3,4}\b|)"
+     R"(\b\d{3,4}\b<6>\b(?:cvv2?|cvc2?)\b|)"
+     R"(\b(?:kartenprüfnummer|prüfziffer|cryptogramme(?:\s+visuel)?|c[óo]digo\s+de\s+(?:seguridad|segurança))\b<10>\b\d{3,4}\b)"); }),
      true},
     {"pii-api-key", "Exposed secrets", "block", 100,
      "contains what looks like a live API key or access token",
@@ -1408,9 +1551,10 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"pii-passport", "Exposed secrets", "warn", 35,
      "contains a passport or identity document number",
+     pattern([] { return std::string_view(
      R"(\b(?:passport|travel\s+document|identity\s+card|national\s+id|id\s+card|driver['’]?s?\s+licen[cs]e|driving\s+licen[cs]e)\b(?:\s?(?:number|no|nr|num|id|#))?\.?\s?(?:is|:|#|=)?\s?[A-Z]{0,3}\s?\d{6,10}\b|)"
-     R"(\b(?:passnummer|reisepass(?:nummer|-nr)?|ausweisnummer|personalausweis(?:nummer|-nr)?|numéro\s+de\s+passeport|pasaporte|passaporte|dni|nie|rg|paspoort(?:nummer)?)\b\.?[^.!?]{0,10}\b[A-Z]{0,3}\s?\d[\dA-Z]{6,9}\b|)"
-     R"((?:护照号?|護照號?|身份证号?|身分證字號|パスポート番号|旅券番号|여권\s?번호|주민등록번호)[^。！？.!?A-Za-z0-9]{0,6}[A-Za-z]{0,2}\d{6,18})",
+     R"(\b(?:passnummer|reisepass(?:nummer|-nr)?|ausweisnummer|personalausweis(?:nummer|-nr)?|numéro\s+de\s+passeport|pasaporte|passaporte|dni|nie|rg|paspoort(?:nummer)?)\b\.?<10>\b[A-Z]{0,3}\s?\d[\dA-Z]{6,9}\b|)"
+     R"((?:护照号?|護照號?|身份证号?|身分證字號|パスポート番号|旅券番号|여권\s?번호|주민등록번호)[^。！？.!?A-Za-z0-9]{0,6}[A-Za-z]{0,2}\d{6,18})"); }),
      true},
     {"pii-dob-full", "Exposed secrets", "warn", 20,
      "contains a full date of birth",
@@ -1498,47 +1642,52 @@ constexpr auto table = std::to_array<Rule>({
     // ---- Malware lure --------------------------------------------------------------------------
     {"mal-enable-macros", "Malware lure", "warn", 60,
      "asks the reader to enable macros or editing in a document",
-     R"(\b(?:enable|allow|turn\s+on|activate|click|press|select)\b[^.!?]{0,20}\b(?:macros?|enable\s+content|enable\s+editing|active\s+content|editing\s+and\s+content|content\s+and\s+editing)\b[^.!?]{0,60}\b(?:view|document|open|file|see|content|display|read|invoice|continue|spreadsheet|button|bar|protected|when)\b|)"
-     R"(\b(?:document|file|spreadsheet|invoice|protected|view|see|content)\b[^.!?]{0,60}\b(?:enable|allow|activate)\s+(?:the\s+)?(?:macros?|content|editing)\b|)"
-     R"(\b(?:makros?|inhalt|bearbeitung)\b[^.!?]{0,12}\b(?:aktivieren|zulassen|einschalten)\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:enable|allow|turn\s+on|activate|click|press|select)\b<20>\b(?:macros?|enable\s+content|enable\s+editing|active\s+content|editing\s+and\s+content|content\s+and\s+editing)\b<60>\b(?:view|document|open|file|see|content|display|read|invoice|continue|spreadsheet|button|bar|protected|when)\b|)"
+     R"(\b(?:document|file|spreadsheet|invoice|protected|view|see|content)\b<60>\b(?:enable|allow|activate)\s+(?:the\s+)?(?:macros?|content|editing)\b|)"
+     R"(\b(?:makros?|inhalt|bearbeitung)\b<12>\b(?:aktivieren|zulassen|einschalten)\b|)"
      R"(\bactive[rz]\s+(?:les\s+macros|le\s+contenu|la\s+modification)\b|)"
      R"(\b(?:habilit\w+|activ\w+|ativ\w+)\s+(?:las?|as?|os?|el)?\s?(?:macros|contenido|conte[úu]do|edici[óo]n|edi[çc][ãa]o)\b|)"
-     R"((?:启用宏|啟用巨集|启用内容|マクロを有効|コンテンツの有効化|매크로(?:를)?\s?(?:사용|활성화)))",
+     R"((?:启用宏|啟用巨集|启用内容|マクロを有効|コンテンツの有効化|매크로(?:를)?\s?(?:사용|활성화)))"); }),
      true},
     {"mal-disable-av", "Malware lure", "warn", 65,
      "asks the reader to switch off their antivirus or firewall",
-     R"(\b(?:disable|turn(?:ing)?\s+off|switch(?:ing)?\s+off|deactivate|disabling|uninstall|pause|whitelist\s+(?:it\s+|this\s+)?(?:in|from)|add\s+an\s+exception\s+(?:to|in)|ignore)\b[^.!?]{0,25}\b(?:anti-?virus|windows\s+defender|defender|firewall|real-?time\s+protection|anti-?malware|smart\s?screen|security\s+software|virus\s+(?:protection|scanner|warnings?)|gatekeeper)\b[^.!?]{0,80}\b(?:before|install\w*|run\w*|download\w*|open\w*|first|otherwise|false\s+positive|work\w*|so|temporarily|to|because|and|while|then)\b|)"
-     R"(\b(?:antivirus|virenscanner|virenschutz|firewall|defender)\b[^.!?]{0,25}\b(?:deaktivieren|ausschalten|abschalten)\b|)"
-     R"(\bdésactive[rz]\b[^.!?]{0,20}\b(?:antivirus|pare-feu|defender)\b|)"
-     R"(\b(?:desactiv\w+|desativ\w+|deshabilit\w+|desabilit\w+)\b[^.!?]{0,20}\b(?:antivirus|antiv[íi]rus|firewall|cortafuegos|defender)\b|)"
-     R"((?:关闭|關閉|禁用|停用)[^。！？.!?]{0,8}(?:杀毒软件|防毒軟體|防火墙|防火牆|Defender)|)"
-     R"((?:ウイルス対策|セキュリティ)ソフト[^。！？.!?]{0,8}(?:無効|停止|オフ))",
+     pattern([] { return std::string_view(
+     R"(\b(?:disable|turn(?:ing)?\s+off|switch(?:ing)?\s+off|deactivate|disabling|uninstall|pause|whitelist\s+(?:it\s+|this\s+)?(?:in|from)|add\s+an\s+exception\s+(?:to|in)|ignore)\b<25>\b(?:anti-?virus|windows\s+defender|defender|firewall|real-?time\s+protection|anti-?malware|smart\s?screen|security\s+software|virus\s+(?:protection|scanner|warnings?)|gatekeeper)\b<80>\b(?:before|install\w*|run\w*|download\w*|open\w*|first|otherwise|false\s+positive|work\w*|so|temporarily|to|because|and|while|then)\b|)"
+     R"(\b(?:antivirus|virenscanner|virenschutz|firewall|defender)\b<25>\b(?:deaktivieren|ausschalten|abschalten)\b|)"
+     R"(\bdésactive[rz]\b<20>\b(?:antivirus|pare-feu|defender)\b|)"
+     R"(\b(?:desactiv\w+|desativ\w+|deshabilit\w+|desabilit\w+)\b<20>\b(?:antivirus|antiv[íi]rus|firewall|cortafuegos|defender)\b|)"
+     R"((?:关闭|關閉|禁用|停用)<8>(?:杀毒软件|防毒軟體|防火墙|防火牆|Defender)|)"
+     R"((?:ウイルス対策|セキュリティ)ソフト<8>(?:無効|停止|オフ))"); }),
      true},
     {"mal-run-command", "Malware lure", "warn", 65,
      "tells the reader to paste and run a command",
-     R"(\b(?:press|hit|hold|open|use)\b[^.!?]{0,15}\b(?:win(?:dows)?(?:\s+key|\s+button)?\s?\+\s?r|windows\s+key\s+and\s+r|run\s+dialog|terminal|command\s+prompt|spotlight)\b[^.!?]{0,80}\b(?:paste|ctrl\s?\+\s?v|cmd\s?\+\s?v|type|enter|run|copy)\b|)"
-     R"(\b(?:paste|copy\s+and\s+paste|copy)\b[^.!?]{0,40}\b(?:into|in|to)\b[^.!?]{0,15}\b(?:run\s+(?:box|dialog|window)|terminal|command\s+(?:prompt|line)|powershell|console|cmd|address\s+bar|developer\s+tools)\b[^.!?]{0,60}\b(?:press|hit|enter|run|verify|fix|human|robot|execute|continue)\b|)"
-     R"(\bctrl\s?\+\s?v\b[^.!?]{0,30}\b(?:press|hit|enter|run)\b[^.!?]{0,40}\b(?:verif\w+|robot|human|captcha|run|windows|fix)\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:press|hit|hold|open|use)\b<15>\b(?:win(?:dows)?(?:\s+key|\s+button)?\s?\+\s?r|windows\s+key\s+and\s+r|run\s+dialog|terminal|command\s+prompt|spotlight)\b<80>\b(?:paste|ctrl\s?\+\s?v|cmd\s?\+\s?v|type|enter|run|copy)\b|)"
+     R"(\b(?:paste|copy\s+and\s+paste|copy)\b<40>\b(?:into|in|to)\b<15>\b(?:run\s+(?:box|dialog|window)|terminal|command\s+(?:prompt|line)|powershell|console|cmd|address\s+bar|developer\s+tools)\b<60>\b(?:press|hit|enter|run|verify|fix|human|robot|execute|continue)\b|)"
+     R"(\bctrl\s?\+\s?v\b<30>\b(?:press|hit|enter|run)\b<40>\b(?:verif\w+|robot|human|captcha|run|windows|fix)\b|)"
      R"(\b(?:curl|wget)\b(?:\s+-[\w-]{1,20}){0,4}\s+["']?https?://[^\s|]{4,200}\s?\|\s?(?:sudo\s+)?(?:ba|z|da)?sh\b|)"
-     R"(\b(?:mshta|certutil|bitsadmin|regsvr32|rundll32)\b(?:\.exe)?\b[^.!?]{0,20}(?:https?:|-urlcache|/transfer|javascript|scrobj)|)"
-     R"(\b(?:win(?:dows)?-?taste|windows-taste)\s?\+\s?r\b[^.!?]{0,80}\b(?:einfügen|strg\s?\+\s?v|eingabe)\b|)"
-     R"(\b(?:ba|z)?sh\s+<\(curl\b)",
+     R"(\b(?:mshta|certutil|bitsadmin|regsvr32|rundll32)\b(?:\.exe)?\b<20>(?:https?:|-urlcache|/transfer|javascript|scrobj)|)"
+     R"(\b(?:win(?:dows)?-?taste|windows-taste)\s?\+\s?r\b<80>\b(?:einfügen|strg\s?\+\s?v|eingabe)\b|)"
+     R"(\b(?:ba|z)?sh\s+<\(curl\b)"); }),
      true},
     {"mal-powershell", "Malware lure", "warn", 60,
      "contains an obfuscated or downloading PowerShell command",
+     pattern([] { return std::string_view(
      R"(\bpowershell(?:\.exe)?\b[^\n]{0,60}?(?:-e(?:nc|ncodedcommand|c)?\b|-w(?:indowstyle)?\s?h(?:idden)?|-nop\b|-noprofile|-ep?\s+bypass|-exec(?:utionpolicy)?\s?bypass|iex\b|invoke-expression|downloadstring|downloadfile|frombase64string|invoke-webrequest|iwr\b|irm\b|start-bitstransfer)|)"
-     R"(\b(?:iex|invoke-expression)\b\s?\([^.!?]{0,20}\b(?:new-object|iwr|irm|invoke-webrequest|invoke-restmethod|net\.webclient)\b|)"
+     R"(\b(?:iex|invoke-expression)\b\s?\(<20>\b(?:new-object|iwr|irm|invoke-webrequest|invoke-restmethod|net\.webclient)\b|)"
      R"(\b(?:irm|iwr|invoke-webrequest|invoke-restmethod)\b[^\n|]{0,200}?\|\s?(?:iex|invoke-expression)\b|)"
-     R"(\bnew-object\s+(?:system\.)?net\.webclient\b)",
+     R"(\bnew-object\s+(?:system\.)?net\.webclient\b)"); }),
      true},
     {"mal-password-archive", "Malware lure", "warn", 40,
      "sends a password-protected archive together with its password",
+     pattern([] { return std::string_view(
      R"(\bsenha\s+(?:do\s+)?(?:pdf|anexo|arquivo)\b|)"
-     R"(\b(?:zip|rar|7z|archive|iso|attachment|attached\s+(?:file|document)|file|download)\b[^.!?]{0,60}\b(?:password|passcode|pass|pwd)\b[^.!?]{0,15}(?:\bis\b|:|=|\bto\s+(?:open|extract|unzip)\b)[^.!?]{0,20}[A-Za-z0-9]{3,}|)"
-     R"(\b(?:password|passcode|pwd)\b[^.!?]{0,25}\b(?:to|for)\b[^.!?]{0,8}\b(?:open|extract|unzip|unlock|access|the)\b[^.!?]{0,15}\b(?:zip|rar|7z|archive|attachment|attached\s+file|attached\s+document|iso)\b|)"
-     R"(\b(?:archivkennwort|archivpasswort|zip-?passwort|passwort\s+(?:für|zum)\s+(?:das|den|die|öffnen)\b[^.!?]{0,20}\b(?:archiv|zip|anhang|datei))\b|)"
+     R"(\b(?:zip|rar|7z|archive|iso|attachment|attached\s+(?:file|document)|file|download)\b<60>\b(?:password|passcode|pass|pwd)\b<15>(?:\bis\b|:|=|\bto\s+(?:open|extract|unzip)\b)<20>[A-Za-z0-9]{3,}|)"
+     R"(\b(?:password|passcode|pwd)\b<25>\b(?:to|for)\b<8>\b(?:open|extract|unzip|unlock|access|the)\b<15>\b(?:zip|rar|7z|archive|attachment|attached\s+file|attached\s+document|iso)\b|)"
+     R"(\b(?:archivkennwort|archivpasswort|zip-?passwort|passwort\s+(?:für|zum)\s+(?:das|den|die|öffnen)\b<20>\b(?:archiv|zip|anhang|datei))\b|)"
      R"(\bmot\s+de\s+passe\s+(?:de\s+l['’]archive|du\s+zip|pour\s+(?:ouvrir|extraire))\b|)"
-     R"(\b(?:contraseña|senha)\s+(?:del?|do|para\s+(?:abrir|extraer|extrair))\s+(?:el\s+|o\s+)?(?:archivo|arquivo|zip|rar|anexo|adjunto)\b)",
+     R"(\b(?:contraseña|senha)\s+(?:del?|do|para\s+(?:abrir|extraer|extrair))\s+(?:el\s+|o\s+)?(?:archivo|arquivo|zip|rar|anexo|adjunto)\b)"); }),
      true},
     {"mal-double-ext", "Malware lure", "warn", 45,
      "names a program disguised as a document",
@@ -1549,115 +1698,125 @@ constexpr auto table = std::to_array<Rule>({
     // ---- Job & goods fraud ---------------------------------------------------------------------
     {"job-overpayment", "Job & goods fraud", "warn", 50,
      "sends too much money and asks for the rest back",
-     R"(\b(?:overpa(?:id|yment|y)|excess|extra\s+(?:money|funds|amount)|surplus|more\s+than\s+(?:the\s+)?(?:agreed|asking)|balance|remaining\s+(?:funds|money|balance)|remainder|difference)\b[^.!?]{0,80}\b(?:send|wire|refund|return|forward|transfer|pay|give|western\s+union|money\s?gram|zelle)\b[^.!?]{0,50}\b(?:back|difference|remaining|rest|balance|shipper|mover|agent|driver|vendor|courier|shipping\s+(?:company|agent))\b[^.!?]{0,60}\b(?:che(?:que|ck)|deposit|deducted?|bank|payment|pick\s?up|item|car|cash|western\s+union|money\s?gram|zelle|cashed|cleared?|you)\b|)"
-     R"(\b(?:che(?:que|ck)|money\s+order|payment|cashier['’]?s\s+che(?:que|ck))\b[^.!?]{0,80}\b(?:deposit\w*|cash(?:ed)?|clear\w*)\b[^.!?]{0,80}\b(?:send|wire|refund|return|forward|transfer|western\s+union|zelle)\b[^.!?]{0,30}\b(?:back|difference|remaining|rest|balance|excess|shipper|mover|agent|remainder)\b|)"
-     R"(\b(?:deduct|keep|take)\b[^.!?]{0,40}\b(?:your|the)\b[^.!?]{0,15}\b(?:(?:commission|salary|pay|wage|money|percentage|cost)\b|\d+\s?%)[^.!?]{0,60}\b(?:and|then)\b[^.!?]{0,15}\b(?:send|wire|transfer|forward|deposit|remit|western\s+union)\b|)"
-     R"(\b(?:accidentally|mistakenly|by\s+mistake|in\s+error)\b[^.!?]{0,40}\b(?:sent|paid|transferred|deposited|refunded)\b[^.!?]{0,60}\b(?:back|return|refund|send|too\s+much|extra|difference)\b[^.!?]{0,30}\b(?:zelle|cash\s?app|venmo|gift|bitcoin|wire|western\s+union|paypal|transfer)\b|)"
-     R"(\b(?:zu\s+viel|überzahl\w+|zuviel)\b[^.!?]{0,60}\b(?:überwiesen|bezahlt|scheck)\b[^.!?]{0,60}\b(?:zurück|differenz|rest|spediteur)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:overpa(?:id|yment|y)|excess|extra\s+(?:money|funds|amount)|surplus|more\s+than\s+(?:the\s+)?(?:agreed|asking)|balance|remaining\s+(?:funds|money|balance)|remainder|difference)\b<80>\b(?:send|wire|refund|return|forward|transfer|pay|give|western\s+union|money\s?gram|zelle)\b<50>\b(?:back|difference|remaining|rest|balance|shipper|mover|agent|driver|vendor|courier|shipping\s+(?:company|agent))\b<60>\b(?:che(?:que|ck)|deposit|deducted?|bank|payment|pick\s?up|item|car|cash|western\s+union|money\s?gram|zelle|cashed|cleared?|you)\b|)"
+     R"(\b(?:che(?:que|ck)|money\s+order|payment|cashier['’]?s\s+che(?:que|ck))\b<80>\b(?:deposit\w*|cash(?:ed)?|clear\w*)\b<80>\b(?:send|wire|refund|return|forward|transfer|western\s+union|zelle)\b<30>\b(?:back|difference|remaining|rest|balance|excess|shipper|mover|agent|remainder)\b|)"
+     R"(\b(?:deduct|keep|take)\b<40>\b(?:your|the)\b<15>\b(?:(?:commission|salary|pay|wage|money|percentage|cost)\b|\d+\s?%)<60>\b(?:and|then)\b<15>\b(?:send|wire|transfer|forward|deposit|remit|western\s+union)\b|)"
+     R"(\b(?:accidentally|mistakenly|by\s+mistake|in\s+error)\b<40>\b(?:sent|paid|transferred|deposited|refunded)\b<60>\b(?:back|return|refund|send|too\s+much|extra|difference)\b<30>\b(?:zelle|cash\s?app|venmo|gift|bitcoin|wire|western\s+union|paypal|transfer)\b|)"
+     R"(\b(?:zu\s+viel|überzahl\w+|zuviel)\b<60>\b(?:überwiesen|bezahlt|scheck)\b<60>\b(?:zurück|differenz|rest|spediteur)\b)"); }),
      true},
     {"job-no-interview", "Job & goods fraud", "warn", 35,
      "offers a job without any interview",
+     pattern([] { return std::string_view(
      R"(\b(?:no|without\s+(?:an?|any)|don['’]t\s+need\s+an?)\s+(?:\w+\s+)?(?:interview|experience|resume|cv|qualifications?|skills?)(?:s)?\s+(?:is\s+|are\s+)?(?:required|needed|necessary|necessary|process)\b|)"
-     R"(\b(?:hired|job|position|start)\b[^.!?]{0,40}\b(?:without|no)\b[^.!?]{0,10}\b(?:an?\s+)?(?:interview|experience|background\s+check)\b|)"
-     R"(\b(?:interview|hiring|onboarding)\b[^.!?]{0,30}\b(?:via|through|on|over|conducted)\b[^.!?]{0,15}\b(?:whats\s?app|telegram|signal|google\s+(?:chat|hangouts)|hangouts|text\s+message|wire\s+app|skype\s+chat)\b|)"
-     R"(\b(?:reviewed|found|received|saw|recommended)\b[^.!?]{0,20}\byour\s+(?:resume|cv|profile)\b[^.!?]{0,100}\b(?:part[- ]time|remote|online|flexible|whats\s?app|telegram|per\s+day|daily|salary|hour|work\s+from\s+home|earn)\b|)"
-     R"(\b(?:hiring|recruit(?:er|ing|ment)|hr)\b[^.!?]{0,60}\b(?:whats\s?app|telegram)\b|)"
-     R"(\b(?:keine\s+(?:erfahrung|vorkenntnisse|bewerbung|vorstellungsgespräch)|ohne\s+(?:erfahrung|vorkenntnisse|vorstellungsgespräch))\b[^.!?]{0,25}\b(?:nötig|erforderlich|notwendig|job|arbeit|verdien\w+)\b|)"
-     R"(\bsans\s+(?:expérience|entretien|diplôme)\b[^.!?]{0,30}\b(?:emploi|travail|gagn\w+|job|requis\w*|poste)\b|)"
-     R"(\b(?:sin|sem)\s+(?:experiencia|experi[êe]ncia|entrevista)\b[^.!?]{0,30}\b(?:trabaj\w+|trabalh\w+|empleo|emprego|vaga|gan\w+|previa|necess[áa]ri\w+)\b)",
+     R"(\b(?:hired|job|position|start)\b<40>\b(?:without|no)\b<10>\b(?:an?\s+)?(?:interview|experience|background\s+check)\b|)"
+     R"(\b(?:interview|hiring|onboarding)\b<30>\b(?:via|through|on|over|conducted)\b<15>\b(?:whats\s?app|telegram|signal|google\s+(?:chat|hangouts)|hangouts|text\s+message|wire\s+app|skype\s+chat)\b|)"
+     R"(\b(?:reviewed|found|received|saw|recommended)\b<20>\byour\s+(?:resume|cv|profile)\b<100>\b(?:part[- ]time|remote|online|flexible|whats\s?app|telegram|per\s+day|daily|salary|hour|work\s+from\s+home|earn)\b|)"
+     R"(\b(?:hiring|recruit(?:er|ing|ment)|hr)\b<60>\b(?:whats\s?app|telegram)\b|)"
+     R"(\b(?:keine\s+(?:erfahrung|vorkenntnisse|bewerbung|vorstellungsgespräch)|ohne\s+(?:erfahrung|vorkenntnisse|vorstellungsgespräch))\b<25>\b(?:nötig|erforderlich|notwendig|job|arbeit|verdien\w+)\b|)"
+     R"(\bsans\s+(?:expérience|entretien|diplôme)\b<30>\b(?:emploi|travail|gagn\w+|job|requis\w*|poste)\b|)"
+     R"(\b(?:sin|sem)\s+(?:experiencia|experi[êe]ncia|entrevista)\b<30>\b(?:trabaj\w+|trabalh\w+|empleo|emprego|vaga|gan\w+|previa|necess[áa]ri\w+)\b)"); }),
      true},
     {"job-work-from-home", "Job & goods fraud", "warn", 30,
      "promises easy money for work from home",
-     R"(\b(?:work(?:ing)?|jobs?|earn|income|business|position)\b[^.!?]{0,25}\b(?:from|at)\s+home\b[^.!?]{0,80}(?:\b(?:earn|income|per\s+(?:hour|day|week|month)|weekly|daily|easy|extra|money|guaranteed|no\s+experience)|\$\s?\d)\b|)"
-     R"(\b(?:earn|make|making|earning|income\s+of|salary|get\s+paid)\b[^.!?]{0,25}[$€£]\s?\d[\d,.]*k?[^.!?]{0,15}\b(?:per|a|an|every|each)\b\s+(?:hour|day|week|month)\b[^.!?]{0,80}\b(?:home|online|part[- ]time|remote\w*|spare\s+time|flexible|no\s+experience|phone|internet|easy|tasks?)\b|)"
-     R"(\b(?:home|online|part[- ]time|remote\w*|spare\s+time|flexible|tasks?|from\s+anywhere)\b[^.!?]{0,80}\b(?:earn|make|salary|get\s+paid|income)\b[^.!?]{0,25}[$€£]\s?\d[\d,.]*k?[^.!?]{0,15}\b(?:per|a|an|every|each|daily|weekly)\b|)"
-     R"(\b(?:extra|additional|passive|second|residual|unlimited|easy)\s+(?:income|money|cash)\b[^.!?]{0,60}\b(?:home|online|part[- ]time|internet|spare\s+time|system|opportunity|month|week|start)\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:work(?:ing)?|jobs?|earn|income|business|position)\b<25>\b(?:from|at)\s+home\b<80>(?:\b(?:earn|income|per\s+(?:hour|day|week|month)|weekly|daily|easy|extra|money|guaranteed|no\s+experience)|\$\s?\d)\b|)"
+     R"(\b(?:earn|make|making|earning|income\s+of|salary|get\s+paid)\b<25>[$€£]\s?\d[\d,.]*k?<15>\b(?:per|a|an|every|each)\b\s+(?:hour|day|week|month)\b<80>\b(?:home|online|part[- ]time|remote\w*|spare\s+time|flexible|no\s+experience|phone|internet|easy|tasks?)\b|)"
+     R"(\b(?:home|online|part[- ]time|remote\w*|spare\s+time|flexible|tasks?|from\s+anywhere)\b<80>\b(?:earn|make|salary|get\s+paid|income)\b<25>[$€£]\s?\d[\d,.]*k?<15>\b(?:per|a|an|every|each|daily|weekly)\b|)"
+     R"(\b(?:extra|additional|passive|second|residual|unlimited|easy)\s+(?:income|money|cash)\b<60>\b(?:home|online|part[- ]time|internet|spare\s+time|system|opportunity|month|week|start)\b|)"
      R"(\b(?:be\s+your\s+own\s+boss|quit\s+your\s+(?:day\s+)?job|fire\s+your\s+boss|home[- ]based\s+business|make\s+money\s+(?:online|fast|from\s+home))\b|)"
-     R"(\b(?:like|liking|subscribe|rate|rating|review|optimi[sz]\w+|simple\s+(?:online\s+)?tasks)\b[^.!?]{0,40}\b(?:youtube|videos|hotels?|products|apps?|merchants?|google\s+maps?)\b[^.!?]{0,60}(?:\b(?:earn|paid|commission|daily|per|income|salary)|\$)\b|)"
-     R"(\b(?:von\s+zu\s+hause|von\s+zuhause|nebenjob|nebenverdienst|heimarbeit)\b[^.!?]{0,60}\b(?:verdien\w+|einkommen|täglich|pro\s+(?:tag|woche|stunde)|geld\s+verdienen)\b|)"
-     R"(\b(?:travail|travaille[rz]?|emploi|revenus?)\b[^.!?]{0,20}\b(?:à\s+domicile|depuis\s+(?:chez\s+vous|votre\s+domicile)|complémentaires?)\b[^.!?]{0,60}(?:\b(?:gagn\w+|euros?|par\s+(?:jour|mois|semaine)|facile)\b|€)|)"
-     R"(\b(?:trabaj\w+|trabalh\w+|ingresos?|renda|gan\w+)\b[^.!?]{0,20}\b(?:desde\s+casa|em\s+casa|de\s+casa|en\s+l[íi]nea|online|extra)\b[^.!?]{0,60}\b(?:gan\w+|por\s+(?:d[íi]a|semana|mes|hora)|diari\w+|f[áa]cil)\b|)"
-     R"((?:兼职|兼職|在家工作|刷单|刷單|居家赚钱|点赞)[^。！？.!?]{0,25}(?:元|赚|賺|收入|工资|薪|佣金)|)"
-     R"((?:在宅|副業|スマホだけ|簡単な作業)[^。！？.!?]{0,25}(?:万円|稼げ|収入|日給|報酬)|)"
-     R"((?:재택|부업|알바|단순\s?작업)[^.!?。]{0,25}(?:만원|수익|수입|일당))",
+     R"(\b(?:like|liking|subscribe|rate|rating|review|optimi[sz]\w+|simple\s+(?:online\s+)?tasks)\b<40>\b(?:youtube|videos|hotels?|products|apps?|merchants?|google\s+maps?)\b<60>(?:\b(?:earn|paid|commission|daily|per|income|salary)|\$)\b|)"
+     R"(\b(?:von\s+zu\s+hause|von\s+zuhause|nebenjob|nebenverdienst|heimarbeit)\b<60>\b(?:verdien\w+|einkommen|täglich|pro\s+(?:tag|woche|stunde)|geld\s+verdienen)\b|)"
+     R"(\b(?:travail|travaille[rz]?|emploi|revenus?)\b<20>\b(?:à\s+domicile|depuis\s+(?:chez\s+vous|votre\s+domicile)|complémentaires?)\b<60>(?:\b(?:gagn\w+|euros?|par\s+(?:jour|mois|semaine)|facile)\b|€)|)"
+     R"(\b(?:trabaj\w+|trabalh\w+|ingresos?|renda|gan\w+)\b<20>\b(?:desde\s+casa|em\s+casa|de\s+casa|en\s+l[íi]nea|online|extra)\b<60>\b(?:gan\w+|por\s+(?:d[íi]a|semana|mes|hora)|diari\w+|f[áa]cil)\b|)"
+     R"((?:兼职|兼職|在家工作|刷单|刷單|居家赚钱|点赞)<25>(?:元|赚|賺|收入|工资|薪|佣金)|)"
+     R"((?:在宅|副業|スマホだけ|簡単な作業)<25>(?:万円|稼げ|収入|日給|報酬)|)"
+     R"((?:재택|부업|알바|단순\s?작업)<25>(?:만원|수익|수입|일당))"); }),
      true},
     {"job-mystery-shopper", "Job & goods fraud", "warn", 45,
      "recruits mystery shoppers or car-advert drivers",
-     R"(\b(?:mystery|secret)\s+(?:shopp(?:er|ers|ing)|evaluator|customer|store\s+evaluation)\b[^.!?]{0,150}(?:\b(?:paid|earn|che(?:que|ck)|assignment|gift\s+cards?|western\s+union|money\s?gram|apply|per|hired|position|program|weekly|task|survey|sign)|\$)\b|)"
-     R"(\b(?:paid|earn|assignment|position|hiring|recruit\w*|become)\b[^.!?]{0,60}\b(?:mystery|secret)\s+(?:shopp(?:er|ers|ing)|evaluator)\b|)"
-     R"(\b(?:car|vehicle|auto|truck|bike)\b[^.!?]{0,15}\b(?:wrap|wrapped|advert\w*|decal|sticker)\b[^.!?]{0,80}(?:\$\s?\d|\b(?:paid|earn|weekly|per\s+week|week|che(?:que|ck)))\b|)"
-     R"(\b(?:evaluat\w+|assess)\b[^.!?]{0,30}\b(?:western\s+union|money\s?gram|walmart|best\s+buy|store)\b[^.!?]{0,60}\b(?:che(?:que|ck)|gift\s+cards?|transfer|assignment|paid|report)\b|)"
-     R"(\b(?:testkäufer|mystery\s?shopper|testkauf)\b[^.!?]{0,60}(?:\b(?:verdien\w+|euro|bezahlt|gesucht)\b|€)|)"
-     R"(\b(?:client[e]?s?\s+myst[èe]re|comprador(?:es)?\s+misterioso|cliente\s+(?:misterioso|oculto))\b[^.!?]{0,60}(?:\b(?:pay\w+|gan\w+|rémun\w+|pag\w+)\b|€|\$\b))",
+     pattern([] { return std::string_view(
+     R"(\b(?:mystery|secret)\s+(?:shopp(?:er|ers|ing)|evaluator|customer|store\s+evaluation)\b<150>(?:\b(?:paid|earn|che(?:que|ck)|assignment|gift\s+cards?|western\s+union|money\s?gram|apply|per|hired|position|program|weekly|task|survey|sign)|\$)\b|)"
+     R"(\b(?:paid|earn|assignment|position|hiring|recruit\w*|become)\b<60>\b(?:mystery|secret)\s+(?:shopp(?:er|ers|ing)|evaluator)\b|)"
+     R"(\b(?:car|vehicle|auto|truck|bike)\b<15>\b(?:wrap|wrapped|advert\w*|decal|sticker)\b<80>(?:\$\s?\d|\b(?:paid|earn|weekly|per\s+week|week|che(?:que|ck)))\b|)"
+     R"(\b(?:evaluat\w+|assess)\b<30>\b(?:western\s+union|money\s?gram|walmart|best\s+buy|store)\b<60>\b(?:che(?:que|ck)|gift\s+cards?|transfer|assignment|paid|report)\b|)"
+     R"(\b(?:testkäufer|mystery\s?shopper|testkauf)\b<60>(?:\b(?:verdien\w+|euro|bezahlt|gesucht)\b|€)|)"
+     R"(\b(?:client[e]?s?\s+myst[èe]re|comprador(?:es)?\s+misterioso|cliente\s+(?:misterioso|oculto))\b<60>(?:\b(?:pay\w+|gan\w+|rémun\w+|pag\w+)\b|€|\$\b))"); }),
      true},
     {"job-money-mule", "Job & goods fraud", "warn", 60,
      "recruits somebody to pass money or goods on through their own account",
-     R"(\b(?:receiv\w+|accept\w*|process\w*|collect\w*)\b[^.!?]{0,30}\b(?:payments?|funds|money|transfers?|deposits?|che(?:ques|cks))\b[^.!?]{0,60}\b(?:your|personal|own)\b[^.!?]{0,15}\b(?:bank\s+)?(?:account|paypal|zelle|cash\s?app)\b[^.!?]{0,100}\b(?:(?:forward|transfer|send|keep|commission|percent|convert|remit|withdraw|pass)\b|\d+\s?%)|)"
-     R"(\b(?:forward|transfer|send|withdraw|remit|wire)\b[^.!?]{0,50}\b(?:rest|remaining|balance|remainder|money|funds|bitcoin)\b[^.!?]{0,60}\b(?:keep|retain|minus|less|deduct\w*)\b[^.!?]{0,25}\b(?:(?:commission|percent|your\s+(?:share|cut|fee|pay))\b|\d+\s?%)|)"
-     R"(\b(?:keep|retain|take|earn|get|receive)\b[^.!?]{0,15}\b\d{1,2}\s?(?:%|percent\b)[^.!?]{0,40}\b(?:of\s+(?:each|every|the|all)|commission|per|as)\b[^.!?]{0,30}\b(?:transfer|transaction|payment|amount|deposit|funds|money|che(?:que|ck)|total)\b[^.!?]{0,80}\b(?:account|forward|bank|client|customer|send|rest|balance|you)\b|)"
-     R"(\b(?:payment|financial|transfer|collection|accounts?\s+receivable|money|representative)\s+(?:processing\s+)?(?:agent|representative|officer|manager|assistant|clerk)\b[^.!?]{0,100}\b(?:(?:commission|your\s+(?:bank\s+)?account|work\s+from\s+home|percent|receive\s+payments?|north\s+america|part[- ]time|company['’]s\s+behalf|che(?:ques|cks))\b|\d+\s?%)|)"
-     R"(\b(?:company|firm)['’]?s?\s+(?:representative|rep|agent)\b[^.!?]{0,60}\b(?:receive|collect|process)\b[^.!?]{0,40}\b(?:payments?|che(?:ques|cks)|funds)\b|)"
-     R"(\b(?:receive|re-?ship|forward|repackage|inspect)\b[^.!?]{0,30}\b(?:packages?|parcels?|goods)\b[^.!?]{0,40}\b(?:at|to|from)\s+(?:your|their)\s+(?:home|address|house)\b[^.!?]{0,80}\b(?:re-?ship\w*|forward\w*|label\w*|paid|salary|job|per\s+(?:package|parcel)|earn|work)\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:receiv\w+|accept\w*|process\w*|collect\w*)\b<30>\b(?:payments?|funds|money|transfers?|deposits?|che(?:ques|cks))\b<60>\b(?:your|personal|own)\b<15>\b(?:bank\s+)?(?:account|paypal|zelle|cash\s?app)\b<100>\b(?:(?:forward|transfer|send|keep|commission|percent|convert|remit|withdraw|pass)\b|\d+\s?%)|)"
+     R"(\b(?:forward|transfer|send|withdraw|remit|wire)\b<50>\b(?:rest|remaining|balance|remainder|money|funds|bitcoin)\b<60>\b(?:keep|retain|minus|less|deduct\w*)\b<25>\b(?:(?:commission|percent|your\s+(?:share|cut|fee|pay))\b|\d+\s?%)|)"
+     R"(\b(?:keep|retain|take|earn|get|receive)\b<15>\b\d{1,2}\s?(?:%|percent\b)<40>\b(?:of\s+(?:each|every|the|all)|commission|per|as)\b<30>\b(?:transfer|transaction|payment|amount|deposit|funds|money|che(?:que|ck)|total)\b<80>\b(?:account|forward|bank|client|customer|send|rest|balance|you)\b|)"
+     R"(\b(?:payment|financial|transfer|collection|accounts?\s+receivable|money|representative)\s+(?:processing\s+)?(?:agent|representative|officer|manager|assistant|clerk)\b<100>\b(?:(?:commission|your\s+(?:bank\s+)?account|work\s+from\s+home|percent|receive\s+payments?|north\s+america|part[- ]time|company['’]s\s+behalf|che(?:ques|cks))\b|\d+\s?%)|)"
+     R"(\b(?:company|firm)['’]?s?\s+(?:representative|rep|agent)\b<60>\b(?:receive|collect|process)\b<40>\b(?:payments?|che(?:ques|cks)|funds)\b|)"
+     R"(\b(?:receive|re-?ship|forward|repackage|inspect)\b<30>\b(?:packages?|parcels?|goods)\b<40>\b(?:at|to|from)\s+(?:your|their)\s+(?:home|address|house)\b<80>\b(?:re-?ship\w*|forward\w*|label\w*|paid|salary|job|per\s+(?:package|parcel)|earn|work)\b|)"
      R"(\b(?:finanzagent|warenagent|paketagent|zahlungsagent)\b|)"
-     R"(\b(?:geld|zahlungen|beträge)\b[^.!?]{0,40}\b(?:ihr|ihrem|dein|deinem)\s+konto\b[^.!?]{0,60}\b(?:weiterleiten|weiterüberweisen|provision|prozent|behalten)\b|)"
-     R"(\b(?:recevoir|recevez|reciba|recibir|receber|receba)\b[^.!?]{0,40}\b(?:paiements?|virements?|pagos?|pagamentos?|transfer[êe]ncias?|transferencias?)\b[^.!?]{0,60}\b(?:(?:commission|comisi[óo]n|comiss[ãa]o)\b|\d+\s?%)|)"
-     R"((?:出租|出售|收购|收購|借用)[^。！？.!?]{0,8}(?:银行卡|銀行卡|银行账户|支付宝|微信号)|)"
-     R"((?:口座|通帳|キャッシュカード)[^。！？.!?]{0,10}(?:買取|売って|譲渡|貸して)|)"
-     R"((?:통장|계좌|체크카드)[^.!?。]{0,8}(?:대여|삽니다|매입|임대|빌려))",
+     R"(\b(?:geld|zahlungen|beträge)\b<40>\b(?:ihr|ihrem|dein|deinem)\s+konto\b<60>\b(?:weiterleiten|weiterüberweisen|provision|prozent|behalten)\b|)"
+     R"(\b(?:recevoir|recevez|reciba|recibir|receber|receba)\b<40>\b(?:paiements?|virements?|pagos?|pagamentos?|transfer[êe]ncias?|transferencias?)\b<60>\b(?:(?:commission|comisi[óo]n|comiss[ãa]o)\b|\d+\s?%)|)"
+     R"((?:出租|出售|收购|收購|借用)<8>(?:银行卡|銀行卡|银行账户|支付宝|微信号)|)"
+     R"((?:口座|通帳|キャッシュカード)<10>(?:買取|売って|譲渡|貸して)|)"
+     R"((?:통장|계좌|체크카드)<8>(?:대여|삽니다|매입|임대|빌려))"); }),
      true},
     {"job-upfront-fee", "Job & goods fraud", "warn", 40,
      "asks an applicant or buyer to pay before anything is delivered",
-     R"(\b(?:pay|send|transfer|deposit|cover|fee\s+of|payment\s+of)\b[^.!?]{0,40}\b(?:registration|training|application|background\s+check|visa|processing|equipment|starter\s+kit|onboarding|certification|uniform|holding|security|refundable|work\s+permit|insurance|membership|booking|reservation)\s+(?:fees?|costs?|deposit|charges?|kit)\b[^.!?]{0,80}\b(?:job|position|employment|start|hired|work|offer|apply|application|secure|before|apartment|keys|rent|viewing|loan|interview|property|refund\w*|puppy|delivery)\b|)"
-     R"(\b(?:job|position|employment|hired|offer|apartment|rental|house|property|loan|puppy|vehicle|landlord|keys|rent)\b[^.!?]{0,80}\b(?:pay|send|transfer|deposit|requires?|need)\b[^.!?]{0,40}\b(?:registration|training|application|background\s+check|visa|processing|equipment|starter\s+kit|security|refundable|work\s+permit|holding|insurance|first\s+month['’]s|upfront|booking|reservation)\s+(?:fees?|costs?|deposit|charges?|rent|payment|kit)\b|)"
-     R"(\b(?:deposit|payment|fee)\b[^.!?]{0,30}\b(?:before|prior\s+to|to\s+(?:secure|hold|reserve))\b[^.!?]{0,20}\b(?:viewing|keys|see(?:ing)?\s+the\s+(?:apartment|house|property)|the\s+(?:apartment|house|property|job|position|puppy|car|loan|visa))\b|)"
-     R"(\b(?:keys?|apartment|house|property)\b[^.!?]{0,60}\b(?:abroad|out\s+of\s+(?:the\s+)?(?:country|town|state)|overseas|missionary|mail(?:ed)?\s+(?:you|to\s+you)\s+the\s+keys)\b[^.!?]{0,80}\b(?:deposit|rent|payment|keys|western\s+union|transfer)\b|)"
-     R"(\b(?:loan|kredit|darlehen|prêt|pr[ée]stamo|empr[ée]stimo|cr[ée]dito)\b[^.!?]{0,60}\b(?:\d+(?:[.,]\d+)?\s?%|(?:no\s+collateral|no\s+credit\s+check|without\s+collateral|bad\s+credit|any\s+amount|interest\s+rate|apply\s+(?:now|today)|ohne\s+schufa|sans\s+justificatif|sin\s+aval|sem\s+consulta|pr[ée]-?aprovad\w+|liberad[oa])\b)|)"
-     R"(\b(?:vorkasse|vorauszahlung|kaution)\b[^.!?]{0,60}\b(?:schlüssel|wohnung|ausland|besichtigung|stelle|job)\b|)"
-     R"(\b(?:caution|acompte|mandat\s+cash)\b[^.!?]{0,60}\b(?:clés|appartement|logement|visite|étranger)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:pay|send|transfer|deposit|cover|fee\s+of|payment\s+of)\b<40>\b(?:registration|training|application|background\s+check|visa|processing|equipment|starter\s+kit|onboarding|certification|uniform|holding|security|refundable|work\s+permit|insurance|membership|booking|reservation)\s+(?:fees?|costs?|deposit|charges?|kit)\b<80>\b(?:job|position|employment|start|hired|work|offer|apply|application|secure|before|apartment|keys|rent|viewing|loan|interview|property|refund\w*|puppy|delivery)\b|)"
+     R"(\b(?:job|position|employment|hired|offer|apartment|rental|house|property|loan|puppy|vehicle|landlord|keys|rent)\b<80>\b(?:pay|send|transfer|deposit|requires?|need)\b<40>\b(?:registration|training|application|background\s+check|visa|processing|equipment|starter\s+kit|security|refundable|work\s+permit|holding|insurance|first\s+month['’]s|upfront|booking|reservation)\s+(?:fees?|costs?|deposit|charges?|rent|payment|kit)\b|)"
+     R"(\b(?:deposit|payment|fee)\b<30>\b(?:before|prior\s+to|to\s+(?:secure|hold|reserve))\b<20>\b(?:viewing|keys|see(?:ing)?\s+the\s+(?:apartment|house|property)|the\s+(?:apartment|house|property|job|position|puppy|car|loan|visa))\b|)"
+     R"(\b(?:keys?|apartment|house|property)\b<60>\b(?:abroad|out\s+of\s+(?:the\s+)?(?:country|town|state)|overseas|missionary|mail(?:ed)?\s+(?:you|to\s+you)\s+the\s+keys)\b<80>\b(?:deposit|rent|payment|keys|western\s+union|transfer)\b|)"
+     R"(\b(?:loan|kredit|darlehen|prêt|pr[ée]stamo|empr[ée]stimo|cr[ée]dito)\b<60>\b(?:\d+(?:[.,]\d+)?\s?%|(?:no\s+collateral|no\s+credit\s+check|without\s+collateral|bad\s+credit|any\s+amount|interest\s+rate|apply\s+(?:now|today)|ohne\s+schufa|sans\s+justificatif|sin\s+aval|sem\s+consulta|pr[ée]-?aprovad\w+|liberad[oa])\b)|)"
+     R"(\b(?:vorkasse|vorauszahlung|kaution)\b<60>\b(?:schlüssel|wohnung|ausland|besichtigung|stelle|job)\b|)"
+     R"(\b(?:caution|acompte|mandat\s+cash)\b<60>\b(?:clés|appartement|logement|visite|étranger)\b)"); }),
      true},
 
     // ---- Romance fraud -------------------------------------------------------------------------
     {"rom-love-fast", "Romance fraud", "warn", 35,
      "declares love to somebody hardly known",
-     R"(\b(?:i(?:['’]m|\s+am|\s+have|\s+think\s+i(?:['’]m|\s+am))?|i['’]ve)\s+(?:\w+\s+){0,2}(?:falling|fallen|fell)\s+(?:\w+\s+)?in\s+love\s+with\s+(?:you|your)\b[^.!?]{0,80}\b(?:profile|online|photo|picture|never|soon|meet|first|chat\w*|messages?|already|although|though|far|since|deeply|soul|god|heart)\b|)"
-     R"(\b(?:soul\s?mate|love\s+of\s+my\s+life|my\s+(?:dear|sweet|darling)\s+(?:love|husband|wife)|god\s+(?:brought|sent)\s+(?:us|you)|meant\s+to\s+be|destin(?:y|ed))\b[^.!?]{0,80}\b(?:profile|online|photo|picture|met\s+on|dating|site|app|chat\w*|internet|facebook|instagram|tinder|money|visa|ticket)\b|)"
-     R"(\b(?:saw|found|came\s+across|viewed|read|got|see)\b[^.!?]{0,10}\byour\s+(?:\w+\s+)?(?:profile|picture|photo|contact|e-?mail)\b[^.!?]{0,100}\b(?:attracted|interested\s+in\s+(?:you|knowing)|get\s+to\s+know|beautiful|love|relationship|friendship|friends?|soul\s?mate|honest|know\s+(?:you|more\s+about\s+you)|like\s+to\s+know|romantic|partner|lonely|single)\b|)"
-     R"(\b(?:looking|searching|seeking)\b[^.!?]{0,12}\bfor\s+(?:a\s+|an\s+|my\s+|true\s+|real\s+|serious\s+|honest\s+|long[- ]term\s+)*(?:soul\s?mate|relationship|love|man|woman|husband|wife|life\s+partner|companion|gentleman|friendship|romance|serious)\b[^.!?]{0,80}\b(?:honest|caring|profile|write|reply|photos?|single|widow\w*|pictures?|trust|god|distance|age|e-?mail|divorced|me|alone|kind)\b|)"
-     R"(\b(?:russian|ukrainian|asian|lonely|single|hot|beautiful|sexy|mature)\s+(?:girls?|women|ladies|woman|lady|singles|brides?)\b[^.!?]{0,60}\b(?:waiting|want|looking|meet|chat|near\s+you|your\s+area|dating|interested|message|love|marriage|husband|photos?|nearby|online)\b|)"
-     R"(\b(?:einsam\w*|verliebt|seelenverwandt\w*|traummann|traumfrau)\b[^.!?]{0,60}\b(?:profil|foto|online|kennenlernen|schreib\w*|bekanntschaft|treffen)\b|)"
-     R"(\b(?:âme\s+sœur|amour|relation\s+sérieuse)\b[^.!?]{0,60}\b(?:profil|photo|en\s+ligne|rencontre|écri\w+)\b|)"
-     R"(\b(?:alma\s+gemela|alma\s+g[êe]mea|relaci[óo]n\s+seria|relacionamento\s+s[ée]rio)\b[^.!?]{0,60}\b(?:perfil|foto|en\s+l[íi]nea|online|conoc\w+|conhec\w+)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:i(?:['’]m|\s+am|\s+have|\s+think\s+i(?:['’]m|\s+am))?|i['’]ve)\s+(?:\w+\s+){0,2}(?:falling|fallen|fell)\s+(?:\w+\s+)?in\s+love\s+with\s+(?:you|your)\b<80>\b(?:profile|online|photo|picture|never|soon|meet|first|chat\w*|messages?|already|although|though|far|since|deeply|soul|god|heart)\b|)"
+     R"(\b(?:soul\s?mate|love\s+of\s+my\s+life|my\s+(?:dear|sweet|darling)\s+(?:love|husband|wife)|god\s+(?:brought|sent)\s+(?:us|you)|meant\s+to\s+be|destin(?:y|ed))\b<80>\b(?:profile|online|photo|picture|met\s+on|dating|site|app|chat\w*|internet|facebook|instagram|tinder|money|visa|ticket)\b|)"
+     R"(\b(?:saw|found|came\s+across|viewed|read|got|see)\b<10>\byour\s+(?:\w+\s+)?(?:profile|picture|photo|contact|e-?mail)\b<100>\b(?:attracted|interested\s+in\s+(?:you|knowing)|get\s+to\s+know|beautiful|love|relationship|friendship|friends?|soul\s?mate|honest|know\s+(?:you|more\s+about\s+you)|like\s+to\s+know|romantic|partner|lonely|single)\b|)"
+     R"(\b(?:looking|searching|seeking)\b<12>\bfor\s+(?:a\s+|an\s+|my\s+|true\s+|real\s+|serious\s+|honest\s+|long[- ]term\s+)*(?:soul\s?mate|relationship|love|man|woman|husband|wife|life\s+partner|companion|gentleman|friendship|romance|serious)\b<80>\b(?:honest|caring|profile|write|reply|photos?|single|widow\w*|pictures?|trust|god|distance|age|e-?mail|divorced|me|alone|kind)\b|)"
+     R"(\b(?:russian|ukrainian|asian|lonely|single|hot|beautiful|sexy|mature)\s+(?:girls?|women|ladies|woman|lady|singles|brides?)\b<60>\b(?:waiting|want|looking|meet|chat|near\s+you|your\s+area|dating|interested|message|love|marriage|husband|photos?|nearby|online)\b|)"
+     R"(\b(?:einsam\w*|verliebt|seelenverwandt\w*|traummann|traumfrau)\b<60>\b(?:profil|foto|online|kennenlernen|schreib\w*|bekanntschaft|treffen)\b|)"
+     R"(\b(?:âme\s+sœur|amour|relation\s+sérieuse)\b<60>\b(?:profil|photo|en\s+ligne|rencontre|écri\w+)\b|)"
+     R"(\b(?:alma\s+gemela|alma\s+g[êe]mea|relaci[óo]n\s+seria|relacionamento\s+s[ée]rio)\b<60>\b(?:perfil|foto|en\s+l[íi]nea|online|conoc\w+|conhec\w+)\b)"); }),
      true},
     {"rom-stuck-abroad", "Romance fraud", "warn", 50,
      "says the sender is stranded abroad and needs money",
-     R"(\b(?:stuck|stranded|trapped|detained|robbed|mugged|hospital\w*|lost\s+my\s+(?:wallet|passport|bag|luggage|phone|money)|stolen|arrested|held)\b[^.!?]{0,120}\b(?:abroad|overseas|airport|embassy|hotel|country|vacation|trip|malaysia|ukraine|turkey|nigeria|ghana|philippines|london|spain|cyprus|dubai|immigration|customs|rig|passport|wallet|credit\s+cards?)\b[^.!?]{0,150}\b(?:send|lend|loan|help|need|wire|transfer|western\s+union|money\s?gram|pay\s+(?:you\s+)?back|refund|borrow)\b[^.!?]{0,60}(?:\b(?:money|me|funds|cash|hotel\s+bill|ticket|western\s+union|you|bills?|quick\s+loan)\b|\$\b|€|£)|)"
-     R"(\b(?:need|send|lend|borrow|wire|loan)\b[^.!?]{0,40}(?:\b(?:money|cash|funds)|\$\s?\d|€\s?\d|£\s?\d)\b[^.!?]{0,60}\b(?:flight|ticket|visa|hospital|hotel\s+bill|get\s+home|come\s+home|fly\s+home|passport|embassy|stranded|stuck|release|lawyer|surgery)\b[^.!?]{0,60}\b(?:back|pay|home|you|soon|meet|return|promise|love|can['’]t|baby|dear|honey)\b|)"
-     R"(\b(?:trip|vacation|conference|visit|holiday)\b[^.!?]{0,40}\b(?:mugged|robbed|stolen|stranded)\b|)"
-     R"(\b(?:festsitz\w*|gestrandet|ausgeraubt|überfallen|bestohlen)\b[^.!?]{0,100}\b(?:ausland|flughafen|hotel|pass|botschaft)\b[^.!?]{0,100}\b(?:geld|überweis\w+|leih\w*|euro)\b|)"
-     R"(\b(?:coincée?|bloquée?|agressée?|volée?)\b[^.!?]{0,80}\b(?:étranger|aéroport|hôtel|passeport|ambassade)\b[^.!?]{0,80}\b(?:argent|prêt\w*|virement|mandat|aide)\b|)"
-     R"(\b(?:varad[oa]|atrapad[oa]|asaltad[oa]|robad[oa]|pres[oa]|assaltad[oa])\b[^.!?]{0,80}\b(?:extranjero|exterior|aeropuerto|aeroporto|hotel|pasaporte|passaporte|embajada|embaixada)\b[^.!?]{0,80}\b(?:dinero|dinheiro|env[íi]\w+|prest\w+|emprest\w+)\b|)"
-     R"(\b(?:hi|hello|hey|hallo|hola|oi|olá|salut)\b[^.!?]{0,5}\b(?:mum|mom|dad|mama|papa|m[ãa]e|pai|maman|mamá|papá|pap[áa]i|m[ãa]m[ãa]e)\b[^.!?]{0,80}\b(?:new\s+(?:phone|number)|neue\s+(?:nummer|handynummer)|neues\s+handy|nouveau\s+numéro|nuevo\s+n[úu]mero|novo\s+n[úu]mero|nieuw(?:e)?\s+(?:nummer|telefoon)|lost\s+my\s+phone|phone\s+(?:broke|is\s+broken)|handy\s+(?:ist\s+)?kaputt)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:stuck|stranded|trapped|detained|robbed|mugged|hospital\w*|lost\s+my\s+(?:wallet|passport|bag|luggage|phone|money)|stolen|arrested|held)\b<120>\b(?:abroad|overseas|airport|embassy|hotel|country|vacation|trip|malaysia|ukraine|turkey|nigeria|ghana|philippines|london|spain|cyprus|dubai|immigration|customs|rig|passport|wallet|credit\s+cards?)\b<150>\b(?:send|lend|loan|help|need|wire|transfer|western\s+union|money\s?gram|pay\s+(?:you\s+)?back|refund|borrow)\b<60>(?:\b(?:money|me|funds|cash|hotel\s+bill|ticket|western\s+union|you|bills?|quick\s+loan)\b|\$\b|€|£)|)"
+     R"(\b(?:need|send|lend|borrow|wire|loan)\b<40>(?:\b(?:money|cash|funds)|\$\s?\d|€\s?\d|£\s?\d)\b<60>\b(?:flight|ticket|visa|hospital|hotel\s+bill|get\s+home|come\s+home|fly\s+home|passport|embassy|stranded|stuck|release|lawyer|surgery)\b<60>\b(?:back|pay|home|you|soon|meet|return|promise|love|can['’]t|baby|dear|honey)\b|)"
+     R"(\b(?:trip|vacation|conference|visit|holiday)\b<40>\b(?:mugged|robbed|stolen|stranded)\b|)"
+     R"(\b(?:festsitz\w*|gestrandet|ausgeraubt|überfallen|bestohlen)\b<100>\b(?:ausland|flughafen|hotel|pass|botschaft)\b<100>\b(?:geld|überweis\w+|leih\w*|euro)\b|)"
+     R"(\b(?:coincée?|bloquée?|agressée?|volée?)\b<80>\b(?:étranger|aéroport|hôtel|passeport|ambassade)\b<80>\b(?:argent|prêt\w*|virement|mandat|aide)\b|)"
+     R"(\b(?:varad[oa]|atrapad[oa]|asaltad[oa]|robad[oa]|pres[oa]|assaltad[oa])\b<80>\b(?:extranjero|exterior|aeropuerto|aeroporto|hotel|pasaporte|passaporte|embajada|embaixada)\b<80>\b(?:dinero|dinheiro|env[íi]\w+|prest\w+|emprest\w+)\b|)"
+     R"(\b(?:hi|hello|hey|hallo|hola|oi|olá|salut)\b<5>\b(?:mum|mom|dad|mama|papa|m[ãa]e|pai|maman|mamá|papá|pap[áa]i|m[ãa]m[ãa]e)\b<80>\b(?:new\s+(?:phone|number)|neue\s+(?:nummer|handynummer)|neues\s+handy|nouveau\s+numéro|nuevo\s+n[úu]mero|novo\s+n[úu]mero|nieuw(?:e)?\s+(?:nummer|telefoon)|lost\s+my\s+phone|phone\s+(?:broke|is\s+broken)|handy\s+(?:ist\s+)?kaputt)\b)"); }),
      true},
     {"rom-never-met", "Romance fraud", "warn", 30,
      "speaks of love and money between people who have never met",
-     R"(\b(?:never\s+met|haven['’]t\s+met|have\s+not\s+met|not\s+met\s+in\s+person|can['’]t\s+wait\s+to\s+(?:meet|hold|be\s+with)\s+you|when\s+we\s+(?:finally\s+)?meet)\b[^.!?]{0,100}\b(?:love|money|ticket|visa|send|heart|trust|darling|baby|honey|dear|marry|forever|wife|husband|dream\w*)\b[^.!?]{0,60}\b(?:you|me|us|together|money|ticket|visa)\b|)"
-     R"(\b(?:know|met)\s+(?:each\s+other\s+)?(?:only\s+)?(?:online|through\s+(?:the\s+)?(?:internet|facebook|chat))\b[^.!?]{0,80}\b(?:love|marry|trust|money|heart|feel\w*)\b|)"
-     R"(\b(?:chat|talk|write|reply|contact|add|message)\b[^.!?]{0,20}\b(?:me\s+)?(?:on|via|through|at|to)\b[^.!?]{0,10}\b(?:my\s+)?(?:private\s+|personal\s+|direct\s+)?(?:whats\s?app|telegram|hangouts|google\s+chat|e-?mail(?:\s+address)?|signal|viber|line|wechat)\b[^.!?]{0,80}\b(?:photos?|pictures?|know\s+(?:each\s+other|more|you)|love|dear|honey|beautiful|lonely|relationship|friend(?:ship)?|single|handsome|tell\s+you\s+more)\b|)"
-     R"(\b(?:nie\s+getroffen|noch\s+nie\s+begegnet)\b[^.!?]{0,60}\b(?:liebe|geld|vertrau\w*|ticket)\b|)"
-     R"(\b(?:jamais\s+rencontrés?)\b[^.!?]{0,60}\b(?:amour|argent|billet|confiance)\b|)"
-     R"(\b(?:nunca\s+nos\s+(?:hemos\s+visto|conocimos|vimos))\b[^.!?]{0,60}\b(?:amor|dinero|dinheiro|confian\w+)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:never\s+met|haven['’]t\s+met|have\s+not\s+met|not\s+met\s+in\s+person|can['’]t\s+wait\s+to\s+(?:meet|hold|be\s+with)\s+you|when\s+we\s+(?:finally\s+)?meet)\b<100>\b(?:love|money|ticket|visa|send|heart|trust|darling|baby|honey|dear|marry|forever|wife|husband|dream\w*)\b<60>\b(?:you|me|us|together|money|ticket|visa)\b|)"
+     R"(\b(?:know|met)\s+(?:each\s+other\s+)?(?:only\s+)?(?:online|through\s+(?:the\s+)?(?:internet|facebook|chat))\b<80>\b(?:love|marry|trust|money|heart|feel\w*)\b|)"
+     R"(\b(?:chat|talk|write|reply|contact|add|message)\b<20>\b(?:me\s+)?(?:on|via|through|at|to)\b<10>\b(?:my\s+)?(?:private\s+|personal\s+|direct\s+)?(?:whats\s?app|telegram|hangouts|google\s+chat|e-?mail(?:\s+address)?|signal|viber|line|wechat)\b<80>\b(?:photos?|pictures?|know\s+(?:each\s+other|more|you)|love|dear|honey|beautiful|lonely|relationship|friend(?:ship)?|single|handsome|tell\s+you\s+more)\b|)"
+     R"(\b(?:nie\s+getroffen|noch\s+nie\s+begegnet)\b<60>\b(?:liebe|geld|vertrau\w*|ticket)\b|)"
+     R"(\b(?:jamais\s+rencontrés?)\b<60>\b(?:amour|argent|billet|confiance)\b|)"
+     R"(\b(?:nunca\s+nos\s+(?:hemos\s+visto|conocimos|vimos))\b<60>\b(?:amor|dinero|dinheiro|confian\w+)\b)"); }),
      true},
     {"rom-military", "Romance fraud", "warn", 30,
      "poses as a soldier or contractor on deployment",
-     R"(\b(?:i\s+am|i['’]m|am|my\s+name\s+is|this\s+is)\b[^.!?]{0,40}\b(?:sgt|sergeant|captain|major|general|lieutenant|colonel|soldier|army\s+officer|marine|us\s+army|u\.s\.\s+army|military\s+(?:officer|doctor|nurse|surgeon)|peace\s?keep(?:er|ing)|surgeon|petroleum\s+engineer|oil\s+rig|offshore\s+engineer|war\s+doctor)\b[^.!?]{0,120}\b(?:deployed|deployment|stationed|serving|syria|afghanistan|iraq|yemen|ukraine|kabul|baghdad|somalia|peace\s?keeping|base|camp|united\s+nations|mission|rig|offshore|widow\w*|retire)\b[^.!?]{0,120}\b(?:you|your|money|box|package|fund|leave|love|trust|consignment|retire\w*|assist\w*|met|friend\w*|relationship|help)\b|)"
-     R"(\b(?:deployed|stationed|serving|mission)\b[^.!?]{0,25}\b(?:in|at)\s+(?:syria|afghanistan|iraq|yemen|ukraine|kabul|baghdad|somalia|libya|a\s+war\s+zone)\b[^.!?]{0,150}\b(?:love|leave\s+(?:fee|request)|trunk|consignment|box|million|fund|dear|honey|trust\s+you|relationship|retire\w*|safe\s?keeping|money\s+out)\b|)"
-     R"(\b(?:us\s+army|u\.s\.\s+army|american\s+soldier|peace\s?keeping|military)\b[^.!?]{0,120}(?:\b(?:consignment|trunk\s+box|box\s+of|safe\s?keeping|found\s+(?:some\s+)?money|million)|\$\s?\d[\d,.]*\s?m\w*)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:i\s+am|i['’]m|am|my\s+name\s+is|this\s+is)\b<40>\b(?:sgt|sergeant|captain|major|general|lieutenant|colonel|soldier|army\s+officer|marine|us\s+army|u\.s\.\s+army|military\s+(?:officer|doctor|nurse|surgeon)|peace\s?keep(?:er|ing)|surgeon|petroleum\s+engineer|oil\s+rig|offshore\s+engineer|war\s+doctor)\b<120>\b(?:deployed|deployment|stationed|serving|syria|afghanistan|iraq|yemen|ukraine|kabul|baghdad|somalia|peace\s?keeping|base|camp|united\s+nations|mission|rig|offshore|widow\w*|retire)\b<120>\b(?:you|your|money|box|package|fund|leave|love|trust|consignment|retire\w*|assist\w*|met|friend\w*|relationship|help)\b|)"
+     R"(\b(?:deployed|stationed|serving|mission)\b<25>\b(?:in|at)\s+(?:syria|afghanistan|iraq|yemen|ukraine|kabul|baghdad|somalia|libya|a\s+war\s+zone)\b<150>\b(?:love|leave\s+(?:fee|request)|trunk|consignment|box|million|fund|dear|honey|trust\s+you|relationship|retire\w*|safe\s?keeping|money\s+out)\b|)"
+     R"(\b(?:us\s+army|u\.s\.\s+army|american\s+soldier|peace\s?keeping|military)\b<120>(?:\b(?:consignment|trunk\s+box|box\s+of|safe\s?keeping|found\s+(?:some\s+)?money|million)|\$\s?\d[\d,.]*\s?m\w*)\b)"); }),
      true},
 
     // ---- Bulk mail -----------------------------------------------------------------------------
     {"spam-unsubscribe-bulk", "Bulk mail", "warn", 15,
      "carries the unsubscribe wording of bulk mail",
-     R"(\b(?:unsubscribe|opt[- ]?out|be\s+removed|remove\s+(?:me|yourself|your\s+(?:e-?mail|name|address)))\b[^.!?]{0,60}\b(?:click|here|link|reply|e-?mail|mailing|list|future|receive|below|anytime|any\s+time|instantly|communications?|newsletter|preferences)\b|)"
+          R"(\b(?:unsubscribe|opt[- ]?out|be\s+removed|remove\s+(?:me|yourself|your\s+(?:e-?mail|name|address)))\b[^.!?]{0,60}\b(?:click|here|link|reply|e-?mail|mailing|list|future|receive|below|anytime|any\s+time|instantly|communications?|newsletter|preferences)\b|)"
      R"(\b(?:click|here|link|reply|follow|visit)\b[^.!?]{0,60}\b(?:to\s+|and\s+)?(?:unsubscribe|opt[- ]?out|be\s+removed|remove\s+(?:me|yourself))\b|)"
      R"(\b(?:no\s+longer\s+(?:wish|want)|do\s+not\s+(?:wish|want)|don['’]t\s+want|prefer\s+not|if\s+you['’]d\s+rather\s+not|not\s+wish)\b[^.!?]{0,15}\bto\s+(?:receive|get|hear)\b[^.!?]{0,50}\b(?:e-?mails?|mailings?|messages?|newsletters?|offers?|communications?|promotions?|notifications?|updates|from\s+us|alerts)\b|)"
      R"(\bunsubscribe\b[^.!?]{0,8}$|)"
@@ -1672,33 +1831,36 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"spam-viagra", "Bulk mail", "warn", 45,
      "advertises potency drugs",
-     R"(\b(?:viagra|cialis|levitra|kamagra|sildenafil|tadalafil|vardenafil)\b[^.!?]{0,40}(?:\b(?:buy|order|cheap\w*|price\w*|online|discount\w*|free|generic|shipping|save|sale|super|soft|mg)|\$\s?\d)\b|)"
-     R"(\b(?:buy|order|cheap\w*|online|discount\w*|free|generic|herbal)\b[^.!?]{0,30}\b(?:viagra|cialis|levitra|kamagra|sildenafil|tadalafil|vardenafil)\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:viagra|cialis|levitra|kamagra|sildenafil|tadalafil|vardenafil)\b<40>(?:\b(?:buy|order|cheap\w*|price\w*|online|discount\w*|free|generic|shipping|save|sale|super|soft|mg)|\$\s?\d)\b|)"
+     R"(\b(?:buy|order|cheap\w*|online|discount\w*|free|generic|herbal)\b<30>\b(?:viagra|cialis|levitra|kamagra|sildenafil|tadalafil|vardenafil)\b|)"
      R"(\bv[1!|l]agra\b|)"
      R"(\bv[1!|il][@4]gra\b|)"
      R"(\bc[1!|l][a@]l[1!|l]s\b|)"
-     R"((?:伟哥|威而钢|威而鋼|壮阳药|壯陽藥|비아그라|バイアグラ))",
+     R"((?:伟哥|威而钢|威而鋼|壮阳药|壯陽藥|비아그라|バイアグラ))"); }),
      true},
     {"spam-casino", "Bulk mail", "warn", 35,
      "advertises online gambling",
-     R"(\b(?:online|live|internet|virtual|crypto|mobile|best|top|new|our|vegas)\b[^.!?]{0,20}\b(?:casinos?|slots?|poker|roulette|betting|sportsbook|gambling)\b[^.!?]{0,60}(?:\b(?:bonus\w*|free|win|play|deposit|jackpot\w*|sign\s?up|join|spins?|odds|register|welcome)\b|\$\b|€|£)|)"
-     R"(\b(?:casinos?|slots?|poker|roulette|betting|sportsbook|jackpots?)\b[^.!?]{0,40}\b(?:bonus\w*|free\s+spins?|no\s+deposit|welcome\s+(?:offer|pack\w*|bonus)|sign\s?up|deposit|payouts?|vip|chips|match\w*|play\s+now)\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:online|live|internet|virtual|crypto|mobile|best|top|new|our|vegas)\b<20>\b(?:casinos?|slots?|poker|roulette|betting|sportsbook|gambling)\b<60>(?:\b(?:bonus\w*|free|win|play|deposit|jackpot\w*|sign\s?up|join|spins?|odds|register|welcome)\b|\$\b|€|£)|)"
+     R"(\b(?:casinos?|slots?|poker|roulette|betting|sportsbook|jackpots?)\b<40>\b(?:bonus\w*|free\s+spins?|no\s+deposit|welcome\s+(?:offer|pack\w*|bonus)|sign\s?up|deposit|payouts?|vip|chips|match\w*|play\s+now)\b|)"
      R"(\b(?:free|bonus|gratis)\s?-?spins?\b|)"
-     R"(\b(?:bonus|welcome\s+(?:pack|package|offer)|willkommens(?:paket|bonus))\b[^.!?]{0,30}\b\d{2,4}\s?(?:fs|free\s+spins|freispiele|spins)\b|)"
+     R"(\b(?:bonus|welcome\s+(?:pack|package|offer)|willkommens(?:paket|bonus))\b<30>\b\d{2,4}\s?(?:fs|free\s+spins|freispiele|spins)\b|)"
      R"(\b(?:höchsten?\s+auszahlungs(?:quoten?|rate)|highest\s+pay(?:out|ing)|live\s+dealers?|big\s+wins|spinnin\w*\s+those\s+reels|keine\s+einzahlung)\b|)"
      R"(\b(?:\d{2,3}%\s+(?:\w+\s+)?(?:deposit\s+|welcome\s+|match\s+)?bonus|no[- ]deposit\s+bonus|welcome\s+bonus|deposit\s+bonus|match\s+bonus)\b|)"
-     R"(\b(?:play|bet|wager|gamble)\b[^.!?]{0,20}\b(?:now|today|online|here|and\s+win|to\s+win)\b[^.!?]{0,30}\b(?:casino|jackpot|win|bonus|slots?|real\s+money|spins?)\b|)"
+     R"(\b(?:play|bet|wager|gamble)\b<20>\b(?:now|today|online|here|and\s+win|to\s+win)\b<30>\b(?:casino|jackpot|win|bonus|slots?|real\s+money|spins?)\b|)"
      R"(\b(?:online-?casino|spielautomaten|freispiele|willkommensbonus|einzahlungsbonus|giros\s+gratis|tours\s+gratuits|rodadas\s+gr[áa]tis|tiradas\s+gratis|gratis\s+spins|casa\s+de\s+apuestas|apostas\s+online|tigrinho)\b|)"
-     R"((?:真人娱乐|在线赌场|線上賭場|博彩|首存|百家乐|百家樂|六合彩|時時彩|时时彩|体育投注|オンラインカジノ|바카라|카지노|토토\s?사이트|첫충))",
+     R"((?:真人娱乐|在线赌场|線上賭場|博彩|首存|百家乐|百家樂|六合彩|時時彩|时时彩|体育投注|オンラインカジノ|바카라|카지노|토토\s?사이트|첫충))"); }),
      true},
     {"spam-seo", "Bulk mail", "warn", 30,
      "offers search-engine ranking, links or web design unasked",
-     R"(\b(?:seo|search\s+engine\s+(?:optimi[sz]ation|ranking)|google\s+(?:ranking|rankings|first\s+page|page\s+one|top)|first\s+page\s+of\s+google|top\s+of\s+google|backlinks?|link\s+building|guest\s+post(?:s|ing)?|domain\s+authority|organic\s+traffic|web\s?site\s+traffic|keyword\s+ranking)\b[^.!?]{0,100}(?:\b(?:your|we|offer\w*|services?|package|price|rank\w*|increase|boost|improve|guarantee\w*|affordable|quote|proposal|website|site|cost|cheap)|\$)\b|)"
-     R"(\b(?:rank|boost|improve|increase|get|list(?:ed)?|submit|promote|place|put)\b[^.!?]{0,30}\byour\s+(?:\w+\s+)?(?:web\s?site|site|business|page|ranking|traffic|sales|listing)\b[^.!?]{0,60}\b(?:google|search\s+engines?|yahoo|bing|first\s+page|top\s+(?:10|ten|of)|ranking\w*|traffic|visitors)\b|)"
-     R"(\b(?:redesign|design|develop\w*|build|errors|issues)\b[^.!?]{0,30}\byour\s+(?:\w+\s+)?(?:web\s?site|mobile\s+app|web\s?page)\b[^.!?]{0,80}\b(?:affordable|price\w*|quote|proposal|cost|package|portfolio|services?|interested|free\s+(?:audit|report|analysis)|ranking)\b|)"
-     R"(\b(?:million|thousands?|\d[\d,]{3,})\b[^.!?]{0,20}\b(?:e-?mail\s+addresses|e-?mails|leads|visitors|hits|followers|targeted\s+(?:contacts|visitors))\b[^.!?]{0,60}(?:\$\s?\d|\b(?:only|price|buy|database|cd|list|sent|per|guaranteed|bulk|send|advertis\w+|lists?))\b|)"
-     R"(\b(?:e-?mail\s+(?:list|database|marketing|leads)|bulk\s+e-?mail|mailing\s+list|contact\s+list|data\s?base)\s+of\b[^.!?]{0,60}\b(?:decision\s+makers|users|attendees|companies|professionals|contacts|customers|executives|clients)\b|)"
-     R"(\b(?:suchmaschinenoptimierung|referenzierung|référencement\s+(?:naturel|google)|posicionamiento\s+(?:web|seo)|otimiza[çc][ãa]o\s+de\s+sites)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:seo|search\s+engine\s+(?:optimi[sz]ation|ranking)|google\s+(?:ranking|rankings|first\s+page|page\s+one|top)|first\s+page\s+of\s+google|top\s+of\s+google|backlinks?|link\s+building|guest\s+post(?:s|ing)?|domain\s+authority|organic\s+traffic|web\s?site\s+traffic|keyword\s+ranking)\b<100>(?:\b(?:your|we|offer\w*|services?|package|price|rank\w*|increase|boost|improve|guarantee\w*|affordable|quote|proposal|website|site|cost|cheap)|\$)\b|)"
+     R"(\b(?:rank|boost|improve|increase|get|list(?:ed)?|submit|promote|place|put)\b<30>\byour\s+(?:\w+\s+)?(?:web\s?site|site|business|page|ranking|traffic|sales|listing)\b<60>\b(?:google|search\s+engines?|yahoo|bing|first\s+page|top\s+(?:10|ten|of)|ranking\w*|traffic|visitors)\b|)"
+     R"(\b(?:redesign|design|develop\w*|build|errors|issues)\b<30>\byour\s+(?:\w+\s+)?(?:web\s?site|mobile\s+app|web\s?page)\b<80>\b(?:affordable|price\w*|quote|proposal|cost|package|portfolio|services?|interested|free\s+(?:audit|report|analysis)|ranking)\b|)"
+     R"(\b(?:million|thousands?|\d[\d,]{3,})\b<20>\b(?:e-?mail\s+addresses|e-?mails|leads|visitors|hits|followers|targeted\s+(?:contacts|visitors))\b<60>(?:\$\s?\d|\b(?:only|price|buy|database|cd|list|sent|per|guaranteed|bulk|send|advertis\w+|lists?))\b|)"
+     R"(\b(?:e-?mail\s+(?:list|database|marketing|leads)|bulk\s+e-?mail|mailing\s+list|contact\s+list|data\s?base)\s+of\b<60>\b(?:decision\s+makers|users|attendees|companies|professionals|contacts|customers|executives|clients)\b|)"
+     R"(\b(?:suchmaschinenoptimierung|referenzierung|référencement\s+(?:naturel|google)|posicionamiento\s+(?:web|seo)|otimiza[çc][ãa]o\s+de\s+sites)\b)"); }),
      true},
     {"spam-all-caps", "Bulk mail", "warn", 20,
      "long stretches of capitals",
@@ -1711,65 +1873,72 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"spam-100-free", "Bulk mail", "warn", 25,
      "advertises something as free of charge and of obligation",
+     pattern([] { return std::string_view(
      R"(\b(?:100%|one\s+hundred\s+percent|hundred\s+percent|completely|totally|absolutely|entirely|all)\s+free\b|)"
-     R"(\bfree\s+(?:gift|trial|access|sample|bonus|membership|money|quote|shipping|report|video|info(?:rmation)?|offer|download|consultation|preview|delivery|estimate|sign\s?up|registration|cash|vacation|cd|dvd|phone|installation|of\s+charge|month|entry|demo|credit\s+report|spins?|book|e-?book|guide|kit)\b[^.!?]{0,60}\b(?:click\s+here|call\s+now|order\s+now|claim|no\s+(?:obligation|cost|charge|strings|risk|credit\s+card)|limited|act\s+now|sign\s?up)\b|)"
+     R"(\bfree\s+(?:gift|trial|access|sample|bonus|membership|money|quote|shipping|report|video|info(?:rmation)?|offer|download|consultation|preview|delivery|estimate|sign\s?up|registration|cash|vacation|cd|dvd|phone|installation|of\s+charge|month|entry|demo|credit\s+report|spins?|book|e-?book|guide|kit)\b<60>\b(?:click\s+here|call\s+now|order\s+now|claim|no\s+(?:obligation|cost|charge|strings|risk|credit\s+card)|limited|act\s+now|sign\s?up)\b|)"
      R"(\b(?:no\s+(?:obligation|cost\s+to\s+you|strings\s+attached|hidden\s+(?:fees|costs|charges)|credit\s+card\s+(?:required|needed)|catch|gimmicks?))\b|)"
-     R"(\b(?:get|claim|receive|grab|order|win|try|take)\b[^.!?]{0,20}\b(?:your\s+|a\s+|it\s+|them\s+|one\s+|our\s+|the\s+)?(?:\w+\s+)?(?:free|for\s+free|freebie|complimentary)\b[^.!?]{0,40}\b(?:now|today|gift|sample|click|limited|prize|card|kit|box)\b|)"
+     R"(\b(?:get|claim|receive|grab|order|win|try|take)\b<20>\b(?:your\s+|a\s+|it\s+|them\s+|one\s+|our\s+|the\s+)?(?:\w+\s+)?(?:free|for\s+free|freebie|complimentary)\b<40>\b(?:now|today|gift|sample|click|limited|prize|card|kit|box)\b|)"
      R"(\b(?:100\s?%\s+(?:kostenlos|gratis)|völlig\s+kostenlos|komplett\s+kostenlos|gratis\s+testen|kostenlos\s+testen|kostenlos\s+und\s+unverbindlich|jetzt\s+kostenlos|ganz\s+kostenlos|unverbindlich\s+und\s+kostenlos)\b|)"
      R"(\b(?:100\s?%\s+gratuit|totalement\s+gratuit|entièrement\s+gratuit|sans\s+engagement|gratuit\s+et\s+sans)\b|)"
      R"(\b(?:100\s?%\s+(?:gratis|gratuit[oa])|totalmente\s+(?:gratis|gratuit[oa])|completamente\s+gratis|sin\s+compromiso|sem\s+compromisso|consulta\s+gratuita|gr[áa]tis\s+agora|sem\s+custo|frete\s+gr[áa]tis)\b|)"
      R"(\b(?:100\s?%\s+gratis|helemaal\s+gratis|volledig\s+gratis|geheel\s+gratis|vrijblijvend)\b|)"
      R"((?:免费领取|免費領取|完全免费|完全免費|完全無料|登録無料|무료\s?(?:체험|증정|나눔))|)"
-     R"(\b(?:erhalten\s+sie|sichern\s+sie\s+sich|hol\s+dir|get|receive|claim)\b[^.!?]{0,15}[$€£]?\s?\d[\d.,]*\s?[$€£]?[^.!?]{0,8}\b(?:gratis|kostenlos|free|bonus)\b|)"
-     R"(\b\d{2,3}\s?%\s+(?:\w+\s+){0,2}(?:bonus|cash\s?back)\b)",
+     R"(\b(?:erhalten\s+sie|sichern\s+sie\s+sich|hol\s+dir|get|receive|claim)\b<15>[$€£]?\s?\d[\d.,]*\s?[$€£]?<8>\b(?:gratis|kostenlos|free|bonus)\b|)"
+     R"(\b\d{2,3}\s?%\s+(?:\w+\s+){0,2}(?:bonus|cash\s?back)\b)"); }),
      true},
 
     // ---- Abuse ---------------------------------------------------------------------------------
     {"hate-generic-group", "Abuse", "warn", 60,
      "attacks a whole group of people",
+     pattern([] { return std::string_view(
      R"(\b(?:i|we)\s+(?:really\s+|fucking\s+|absolutely\s+)?(?:hate|despise|loathe|detest|can['’]t\s+stand)\s+(?:all\s+|these\s+|those\s+|the\s+|every\s+)?(?:jews?|muslims?|christians?|hindus?|blacks?|whites?|asians?|mexicans?|arabs?|gays?|lesbians?|homosexuals?|transgenders?|trannies|immigrants?|refugees?|foreigners|gypsies|migrants|africans|indians|chinese|women|niggers?|faggots?)\b|)"
-     R"(\b(?:all|those|these|the|dirty|filthy|fucking|damn|bloody)\s+(?:\w+\s+)?(?:jews?|muslims?|blacks?|asians?|mexicans?|arabs?|gays?|homosexuals?|immigrants?|refugees?|foreigners|gypsies|migrants|africans)\b[^.!?]{0,12}\b(?:are|is)\s+(?:\w+\s+)?(?:criminals|thieves|terrorists|rapists|animals|stupid|inferior|disgusting|evil|lazy|dirty|the\s+(?:problem|enemy)|a\s+(?:plague|disease|cancer)|ruining|destroying|liars|savages|parasites)\b|)"
+     R"(\b(?:all|those|these|the|dirty|filthy|fucking|damn|bloody)\s+(?:\w+\s+)?(?:jews?|muslims?|blacks?|asians?|mexicans?|arabs?|gays?|homosexuals?|immigrants?|refugees?|foreigners|gypsies|migrants|africans)\b<12>\b(?:are|is)\s+(?:\w+\s+)?(?:criminals|thieves|terrorists|rapists|animals|stupid|inferior|disgusting|evil|lazy|dirty|the\s+(?:problem|enemy)|a\s+(?:plague|disease|cancer)|ruining|destroying|liars|savages|parasites)\b|)"
      R"(\b(?:send|ship|kick|throw|get\s+rid\s+of|deport|keep|ban)\s+(?:\w+\s+){0,3}(?:jews?|muslims?|blacks?|asians?|mexicans?|arabs?|gays?|immigrants?|refugees?|foreigners|gypsies|migrants|africans)\s+(?:back|out|away|home|off)\b|)"
      R"(\b(?:niggers?|kikes?|spics?|chinks?|gooks?|wetbacks?|ragheads?|towelheads?|sandniggers?|faggots?)\b|)"
-     R"(\b(?:ausländer\s+raus|scheiß\s+(?:ausländer|juden|moslems|türken|flüchtlinge)|judenschwein\w*|kanaken|sales?\s+(?:arabes?|juifs?|noirs?)|putos\s+(?:moros|negros|judíos|inmigrantes)|malditos\s+(?:inmigrantes|judíos|imigrantes|judeus))\b)",
+     R"(\b(?:ausländer\s+raus|scheiß\s+(?:ausländer|juden|moslems|türken|flüchtlinge)|judenschwein\w*|kanaken|sales?\s+(?:arabes?|juifs?|noirs?)|putos\s+(?:moros|negros|judíos|inmigrantes)|malditos\s+(?:inmigrantes|judíos|imigrantes|judeus))\b)"); }),
      true},
     {"hate-subhuman", "Abuse", "warn", 60,
      "calls people inferior by birth",
-     R"(\b(?:inferior|lesser|subhuman|sub-human|degenerate|mongrel|filthy|mud|master|superior)\s+(?:race|races|species|people|breed|blood|beings?|humans?)\b[^.!?]{0,60}\b(?:are|is|should|must|will|they|we|our|jews?|blacks?|muslims?|them|white|immigrants?)\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:inferior|lesser|subhuman|sub-human|degenerate|mongrel|filthy|mud|master|superior)\s+(?:race|races|species|people|breed|blood|beings?|humans?)\b<60>\b(?:are|is|should|must|will|they|we|our|jews?|blacks?|muslims?|them|white|immigrants?)\b|)"
      R"(\b(?:are|is|they['’]re)\s+(?:all\s+|just\s+|nothing\s+but\s+|like\s+|no\s+better\s+than\s+|genetically\s+|intellectually\s+|biologically\s+)+(?:inferior|sub-?humans?|animals|apes|monkeys|savages|insects|dogs|pigs|a\s+disease|a\s+cancer|vermin|cockroaches)\b|)"
      R"(\b(?:white\s+(?:power|genocide|supremacy\s+is)|great\s+replacement|racial\s+purity|racially\s+pure|ethnic\s+cleansing\s+is|gas\s+the|heil\s+hitler|sieg\s+heil|14\s?/\s?88|blood\s+and\s+soil|untermensch\w*)\b|)"
-     R"(\b(?:minderwertige\s+rasse|herrenrasse|race\s+inférieure|sous-hommes?|raza\s+inferior|ra[çc]a\s+inferior)\b)",
+     R"(\b(?:minderwertige\s+rasse|herrenrasse|race\s+inférieure|sous-hommes?|raza\s+inferior|ra[çc]a\s+inferior)\b)"); }),
      true},
     {"abuse-doxx", "Abuse", "warn", 55,
      "publishes or threatens to publish somebody's private details",
-     R"(\b(?:here(?:['’]s|\s+is|\s+are)|this\s+is|post(?:ing|ed)?|publish(?:ing|ed)?|leak(?:ing|ed)?|dox+(?:ed|ing)?|releas(?:e|ing|ed)|expos(?:e|ing|ed)|got|found)\b[^.!?]{0,20}\b(?:his|her|their|this\s+(?:guy|woman|person|idiot|bitch|creep)['’]s)\s+(?:\w+\s+)?(?:home\s+address|address|phone\s+number|real\s+name|workplace|personal\s+(?:info|information|details)|employer|house|school|private\s+(?:info|details))\b[^.!?]{0,80}\b(?:go|make|call|visit|let|show|know|pay|everyone|spread|share|flood|harass|him|her|them|online|internet|twitter)\b|)"
-     R"(\b(?:i|we)(?:['’]ll|\s+will|['’]m\s+going\s+to|\s+am\s+going\s+to|['’]m\s+gonna|\s+are\s+going\s+to)\b[^.!?]{0,10}\b(?:dox+|post|publish|leak|release|put)\b[^.!?]{0,10}\b(?:you|your|his|her|their)\b[^.!?]{0,12}\b(?:address|phone\s+number|real\s+name|workplace|personal\s+(?:info|information|details)|number|private|home|identity|everything)\b[^.!?]{0,40}\b(?:online|internet|twitter|public\w*|everyone|everywhere|forums?|reddit|facebook|web|telegram)\b|)"
-     R"(\b(?:dox+\s+(?:him|her|them|this|that|you)|(?:full|complete)\s+dox+|doxxed\s+(?:him|her|them))\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:here(?:['’]s|\s+is|\s+are)|this\s+is|post(?:ing|ed)?|publish(?:ing|ed)?|leak(?:ing|ed)?|dox+(?:ed|ing)?|releas(?:e|ing|ed)|expos(?:e|ing|ed)|got|found)\b<20>\b(?:his|her|their|this\s+(?:guy|woman|person|idiot|bitch|creep)['’]s)\s+(?:\w+\s+)?(?:home\s+address|address|phone\s+number|real\s+name|workplace|personal\s+(?:info|information|details)|employer|house|school|private\s+(?:info|details))\b<80>\b(?:go|make|call|visit|let|show|know|pay|everyone|spread|share|flood|harass|him|her|them|online|internet|twitter)\b|)"
+     R"(\b(?:i|we)(?:['’]ll|\s+will|['’]m\s+going\s+to|\s+am\s+going\s+to|['’]m\s+gonna|\s+are\s+going\s+to)\b<10>\b(?:dox+|post|publish|leak|release|put)\b<10>\b(?:you|your|his|her|their)\b<12>\b(?:address|phone\s+number|real\s+name|workplace|personal\s+(?:info|information|details)|number|private|home|identity|everything)\b<40>\b(?:online|internet|twitter|public\w*|everyone|everywhere|forums?|reddit|facebook|web|telegram)\b|)"
+     R"(\b(?:dox+\s+(?:him|her|them|this|that|you)|(?:full|complete)\s+dox+|doxxed\s+(?:him|her|them))\b)"); }),
      true},
     {"abuse-brigade", "Abuse", "warn", 45,
      "calls on others to harass somebody",
-     R"(\b(?:let['’]s|lets|everyone|everybody|guys|all\s+of\s+you|we\s+should|we\s+need\s+to|you\s+all|go|please)\s+(?:all\s+|go\s+)?(?:mass[- ])?(?:report|spam|flood|raid|brigade|harass|bombard|attack|swarm|troll|downvote|review[- ]bomb|dogpile)\b[^.!?]{0,30}\b(?:him|her|their|his|them|this\s+(?:guy|account|channel|page|user|person|business|restaurant|woman|stream|server)|the\s+(?:account|channel|page|comments|inbox|stream|server)|inbox|page|profile|account|channel|until)\b|)"
-     R"(\b(?:mass[- ]report|review[- ]bomb|raid|brigade|swat)\b[^.!?]{0,8}\b(?:him|her|them|his|their|this)\b|)"
-     R"(\b(?:leave|post|write|drop)\b[^.!?]{0,20}\b(?:one[- ]star|1[- ]star|fake|negative|bad)\b[^.!?]{0,8}\breviews?\b[^.!?]{0,40}\b(?:everyone|all|ruin|destroy|bury|business|shut|together|until|their)\b|)"
-     R"(\b(?:make|let['’]s\s+make)\s+(?:his|her|their)\s+(?:life|lives)\s+(?:a\s+)?(?:hell|miserable|unbearable)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:let['’]s|lets|everyone|everybody|guys|all\s+of\s+you|we\s+should|we\s+need\s+to|you\s+all|go|please)\s+(?:all\s+|go\s+)?(?:mass[- ])?(?:report|spam|flood|raid|brigade|harass|bombard|attack|swarm|troll|downvote|review[- ]bomb|dogpile)\b<30>\b(?:him|her|their|his|them|this\s+(?:guy|account|channel|page|user|person|business|restaurant|woman|stream|server)|the\s+(?:account|channel|page|comments|inbox|stream|server)|inbox|page|profile|account|channel|until)\b|)"
+     R"(\b(?:mass[- ]report|review[- ]bomb|raid|brigade|swat)\b<8>\b(?:him|her|them|his|their|this)\b|)"
+     R"(\b(?:leave|post|write|drop)\b<20>\b(?:one[- ]star|1[- ]star|fake|negative|bad)\b<8>\breviews?\b<40>\b(?:everyone|all|ruin|destroy|bury|business|shut|together|until|their)\b|)"
+     R"(\b(?:make|let['’]s\s+make)\s+(?:his|her|their)\s+(?:life|lives)\s+(?:a\s+)?(?:hell|miserable|unbearable)\b)"); }),
      true},
     {"abuse-revenge", "Abuse", "warn", 55,
      "threatens to take revenge on somebody",
-     R"(\b(?:i|we)(?:['’]ll|\s+will|['’]m\s+going\s+to|\s+am\s+going\s+to|['’]m\s+gonna|\s+shall|['’]re\s+going\s+to)\b[^.!?]{0,15}\b(?:get\s+(?:my\s+|our\s+)?revenge|take\s+(?:my\s+|our\s+)?revenge|get\s+(?:back\s+at|even\s+with)|make\s+(?:you|him|her|them)\s+(?:pay|suffer|regret|sorry)|ruin\s+(?:you|him|her|them|your|his|her|their)|destroy\s+(?:you|him|her|them|your\s+(?:life|career|reputation|business|marriage))|teach\s+(?:you|him|her|them)\s+a\s+lesson|end\s+(?:you|your\s+career|him|her))\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:i|we)(?:['’]ll|\s+will|['’]m\s+going\s+to|\s+am\s+going\s+to|['’]m\s+gonna|\s+shall|['’]re\s+going\s+to)\b<15>\b(?:get\s+(?:my\s+|our\s+)?revenge|take\s+(?:my\s+|our\s+)?revenge|get\s+(?:back\s+at|even\s+with)|make\s+(?:you|him|her|them)\s+(?:pay|suffer|regret|sorry)|ruin\s+(?:you|him|her|them|your|his|her|their)|destroy\s+(?:you|him|her|them|your\s+(?:life|career|reputation|business|marriage))|teach\s+(?:you|him|her|them)\s+a\s+lesson|end\s+(?:you|your\s+career|him|her))\b|)"
      R"(\b(?:you|he|she|they)(?:['’]ll|\s+will|\s+are\s+going\s+to|['’]re\s+going\s+to)\s+(?:pay\s+(?:dearly\s+)?for\s+(?:this|what|that)|regret\s+(?:this|ever|what|messing|crossing)|be\s+sorry|wish\s+you(?:['’]d|\s+had)\s+never)\b|)"
-     R"(\b(?:revenge|payback|vengeance)\b[^.!?]{0,30}\b(?:ex|boss|cheat\w*|him|her|them|you|coming|on)\b[^.!?]{0,25}\b(?:pay|suffer|ruin|destroy|nudes?|photos?|cold|life|will|post)\b|)"
-     R"(\b(?:das\s+wirst\s+du\s+(?:bereuen|büßen)|ich\s+mach(?:e)?\s+dich\s+fertig|tu\s+vas\s+le\s+(?:regretter|payer)|te\s+vas\s+a\s+arrepentir|vas\s+a\s+pagar\s+por\s+esto|voc[êe]\s+vai\s+(?:se\s+arrepender|pagar\s+por\s+isso))\b)",
+     R"(\b(?:revenge|payback|vengeance)\b<30>\b(?:ex|boss|cheat\w*|him|her|them|you|coming|on)\b<25>\b(?:pay|suffer|ruin|destroy|nudes?|photos?|cold|life|will|post)\b|)"
+     R"(\b(?:das\s+wirst\s+du\s+(?:bereuen|büßen)|ich\s+mach(?:e)?\s+dich\s+fertig|tu\s+vas\s+le\s+(?:regretter|payer)|te\s+vas\s+a\s+arrepentir|vas\s+a\s+pagar\s+por\s+esto|voc[êe]\s+vai\s+(?:se\s+arrepender|pagar\s+por\s+isso))\b)"); }),
      true},
 
     // ---- Misuse --------------------------------------------------------------------------------
     {"misc-chain", "Misuse", "warn", 30,
      "is a chain letter that wants to be passed on",
-     R"(\b(?:forward|send|pass|share|repost|copy\s+and\s+paste|re-?post|fwd)\b[^.!?]{0,20}\b(?:this|it)\b[^.!?]{0,25}\b(?:to|with|on\s+to)\b[^.!?]{0,15}\b(?:all|everyone|everybody|at\s+least|\d+|ten|five|seven|fifteen|twenty|as\s+many|every)\b[^.!?]{0,25}\b(?:people|friends|contacts|you\s+know|groups?|others?|persons?|list|your|love|care)\b|)"
-     R"(\b(?:break|broke|breaking)\b[^.!?]{0,8}\b(?:the|this)\s+chain\b|)"
-     R"(\b(?:bad\s+luck|good\s+luck|a\s+miracle|something\s+(?:good|wonderful|bad)|your\s+wish|money|blessing)\b[^.!?]{0,40}\b(?:will\s+(?:come|happen|follow)|if\s+you\s+(?:don['’]t|do\s+not|forward|send|break))\b[^.!?]{0,40}\b(?:forward|send|days?|minutes|hours|people|chain|tomorrow|years)\b|)"
-     R"(\b(?:schick\w*|leite\w*|send\w*)\b[^.!?]{0,20}\b(?:diese\s+nachricht|das|dies|es)\b[^.!?]{0,20}\b(?:an\s+(?:alle|\d+|mindestens)|weiter\s+an)\b|)"
-     R"(\b(?:transfère[sz]?|envoye[sz]?|partage[sz]?)\b[^.!?]{0,20}\b(?:ce\s+message|ceci)\b[^.!?]{0,15}\bà\s+(?:tous|\d+|toutes)\b|)"
-     R"(\b(?:reenv[íi]\w*|comparte|compartilhe|repasse|mande|envie)\b[^.!?]{0,20}\b(?:este\s+mensaje|esta\s+mensagem|isto|esto)\b[^.!?]{0,15}\b(?:a|para|con|com)\s+(?:todos|\d+|tus|seus)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:forward|send|pass|share|repost|copy\s+and\s+paste|re-?post|fwd)\b<20>\b(?:this|it)\b<25>\b(?:to|with|on\s+to)\b<15>\b(?:all|everyone|everybody|at\s+least|\d+|ten|five|seven|fifteen|twenty|as\s+many|every)\b<25>\b(?:people|friends|contacts|you\s+know|groups?|others?|persons?|list|your|love|care)\b|)"
+     R"(\b(?:break|broke|breaking)\b<8>\b(?:the|this)\s+chain\b|)"
+     R"(\b(?:bad\s+luck|good\s+luck|a\s+miracle|something\s+(?:good|wonderful|bad)|your\s+wish|money|blessing)\b<40>\b(?:will\s+(?:come|happen|follow)|if\s+you\s+(?:don['’]t|do\s+not|forward|send|break))\b<40>\b(?:forward|send|days?|minutes|hours|people|chain|tomorrow|years)\b|)"
+     R"(\b(?:schick\w*|leite\w*|send\w*)\b<20>\b(?:diese\s+nachricht|das|dies|es)\b<20>\b(?:an\s+(?:alle|\d+|mindestens)|weiter\s+an)\b|)"
+     R"(\b(?:transfère[sz]?|envoye[sz]?|partage[sz]?)\b<20>\b(?:ce\s+message|ceci)\b<15>\bà\s+(?:tous|\d+|toutes)\b|)"
+     R"(\b(?:reenv[íi]\w*|comparte|compartilhe|repasse|mande|envie)\b<20>\b(?:este\s+mensaje|esta\s+mensagem|isto|esto)\b<15>\b(?:a|para|con|com)\s+(?:todos|\d+|tus|seus)\b)"); }),
      true},
     {"misc-fake-signature", "Misuse", "warn", 50,
      "claims a Quillseal verification inside the text itself — the verification link is the only thing that proves this, and text saying so is exactly what a forger would write",
@@ -1777,29 +1946,32 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"misc-ai-disclaim", "Misuse", "warn", 25,
      "carries the boilerplate of a text generator",
+     pattern([] { return std::string_view(
      R"(\bas\s+an?\s+(?:ai|artificial\s+intelligence|large\s+language|ai\s+language|language)[- ]?(?:language\s+)?(?:model|assistant|chatbot)\b|)"
      R"(\b(?:i\s+am|i['’]m)\s+(?:just\s+|only\s+|merely\s+)?an?\s+(?:ai|artificial\s+intelligence|language\s+model|large\s+language\s+model)(?:\s+language)?(?:\s+model|\s+assistant|\s+chatbot)?\b|)"
-     R"(\b(?:certainly|sure|of\s+course)!\s+here(?:['’]s|\s+is|\s+are)\s+(?:a|an|the|your|some)\b[^.!?]{0,40}\b(?:e-?mail|letter|draft|message|version|post|essay|response|rewrite|revised|polished|statement)\b|)"
+     R"(\b(?:certainly|sure|of\s+course)!\s+here(?:['’]s|\s+is|\s+are)\s+(?:a|an|the|your|some)\b<40>\b(?:e-?mail|letter|draft|message|version|post|essay|response|rewrite|revised|polished|statement)\b|)"
      R"(\b(?:regenerate\s+response|my\s+knowledge\s+cut-?off|as\s+of\s+my\s+last\s+(?:update|training)|i\s+cannot\s+(?:fulfil+|assist\s+with|complete)\s+(?:this|that)\s+request|i\s+hope\s+this\s+(?:draft|version)\s+(?:helps|meets))\b|)"
      R"(\[(?:your|recipient['’]s|recipient|company|sender['’]s|insert|client|customer|manager['’]s)\s+(?:full\s+|first\s+|last\s+)?(?:name|company|position|title|date|address|job\s+title|contact\s+information|email|phone\s+number)\]|)"
-     R"(\b(?:als\s+(?:ki|künstliche\s+intelligenz|ki-sprachmodell|sprachmodell)|en\s+tant\s+qu(?:e|['’])\s?(?:modèle\s+de\s+langage|ia|intelligence\s+artificielle)|como\s+(?:un\s+)?modelo\s+de\s+lengua?j?e|como\s+(?:uma\s+)?ia|作为(?:一个)?(?:AI|人工智能)|AI言語モデルとして|AI\s+언어\s?모델)\b)",
+     R"(\b(?:als\s+(?:ki|künstliche\s+intelligenz|ki-sprachmodell|sprachmodell)|en\s+tant\s+qu(?:e|['’])\s?(?:modèle\s+de\s+langage|ia|intelligence\s+artificielle)|como\s+(?:un\s+)?modelo\s+de\s+lengua?j?e|como\s+(?:uma\s+)?ia|作为(?:一个)?(?:AI|人工智能)|AI言語モデルとして|AI\s+언어\s?모델)\b)"); }),
      true},
     {"misc-blank-cheque", "Misuse", "warn", 40,
      "gives somebody unlimited authority in advance",
-     R"(\b(?:blank|open)\s+che(?:que|ck)\b[^.!?]{0,60}\b(?:give|gives|given|you|sign\w*|have|authori\w+|hereby|enclosed|attached|spend)\b|)"
-     R"(\b(?:sign\w*|give|giving|enclos\w+|issue|write|send)\b[^.!?]{0,20}\b(?:a\s+|the\s+|you\s+a\s+|several\s+)?(?:blank|open|undated|pre-?signed)\s+che(?:ques?|cks?)\b|)"
-     R"(\b(?:i|we)\s+(?:hereby\s+)?(?:approve|authori[sz]e|agree\s+to|accept|consent\s+to|give\s+(?:you\s+)?(?:full\s+|my\s+|our\s+)?(?:permission|authority|approval|consent|authori[sz]ation)\s+(?:for|to))\b[^.!?]{0,25}\b(?:any|all|whatever|everything|anything|every)\b[^.!?]{0,25}\b(?:you|future|charges?|expenses?|costs?|amounts?|payments?|changes|terms|decisions?|purchases?|documents|requests?|actions?)\b[^.!?]{0,40}\b(?:without\s+(?:further|limit\w*|asking|any|prior|restriction)|unconditional\w*|in\s+advance|you\s+(?:decide|want|choose|need|see\s+fit|make|like|propose|wish)|no\s+matter|regardless|whatsoever|of\s+any\s+(?:kind|amount|size)|on\s+my\s+behalf|in\s+my\s+name|in\s+the\s+future)\b|)"
-     R"(\b(?:whatever|any\s+amount|any\s+sum|everything|anything)\b[^.!?]{0,15}\b(?:you\s+(?:decide|want|choose|need|see\s+fit|propose|ask))\b[^.!?]{0,30}\b(?:i\s+(?:approve|agree|accept|authori[sz]e|consent)|is\s+(?:approved|authori[sz]ed|fine\s+with\s+me)|approved\s+in\s+advance)\b|)"
-     R"(\b(?:blankoscheck|blankovollmacht|chèque\s+en\s+blanc|cheque\s+en\s+blanco|cheque\s+em\s+branco|blanco\s+cheque)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:blank|open)\s+che(?:que|ck)\b<60>\b(?:give|gives|given|you|sign\w*|have|authori\w+|hereby|enclosed|attached|spend)\b|)"
+     R"(\b(?:sign\w*|give|giving|enclos\w+|issue|write|send)\b<20>\b(?:a\s+|the\s+|you\s+a\s+|several\s+)?(?:blank|open|undated|pre-?signed)\s+che(?:ques?|cks?)\b|)"
+     R"(\b(?:i|we)\s+(?:hereby\s+)?(?:approve|authori[sz]e|agree\s+to|accept|consent\s+to|give\s+(?:you\s+)?(?:full\s+|my\s+|our\s+)?(?:permission|authority|approval|consent|authori[sz]ation)\s+(?:for|to))\b<25>\b(?:any|all|whatever|everything|anything|every)\b<25>\b(?:you|future|charges?|expenses?|costs?|amounts?|payments?|changes|terms|decisions?|purchases?|documents|requests?|actions?)\b<40>\b(?:without\s+(?:further|limit\w*|asking|any|prior|restriction)|unconditional\w*|in\s+advance|you\s+(?:decide|want|choose|need|see\s+fit|make|like|propose|wish)|no\s+matter|regardless|whatsoever|of\s+any\s+(?:kind|amount|size)|on\s+my\s+behalf|in\s+my\s+name|in\s+the\s+future)\b|)"
+     R"(\b(?:whatever|any\s+amount|any\s+sum|everything|anything)\b<15>\b(?:you\s+(?:decide|want|choose|need|see\s+fit|propose|ask))\b<30>\b(?:i\s+(?:approve|agree|accept|authori[sz]e|consent)|is\s+(?:approved|authori[sz]ed|fine\s+with\s+me)|approved\s+in\s+advance)\b|)"
+     R"(\b(?:blankoscheck|blankovollmacht|chèque\s+en\s+blanc|cheque\s+en\s+blanco|cheque\s+em\s+branco|blanco\s+cheque)\b)"); }),
      true},
     {"misc-power-attorney", "Misuse", "warn", 35,
      "grants a power of attorney or authority to act in one's name",
-     R"(\b(?:i|we)\b[^.!?]{0,15}\b(?:hereby\s+)?(?:grant|give|appoint|authori[sz]e|empower|designate|nominate|confer)\b[^.!?]{0,60}\b(?:power\s+of\s+attorney|attorney[- ]in[- ]fact|my\s+(?:attorney|agent|proxy|legal\s+representative)|act\s+(?:on\s+my\s+behalf|in\s+my\s+name|for\s+me)|sign\s+(?:on\s+my\s+behalf|in\s+my\s+name|for\s+me|documents?\s+(?:on|in))|full\s+authority|manage\s+my\s+(?:bank\s+)?accounts?|access\s+my\s+(?:bank\s+)?accounts?)\b|)"
-     R"(\b(?:full|general|durable|unlimited|limited|special|irrevocable|lasting)\s+powers?\s+of\s+attorney\b[^.!?]{0,60}\b(?:to|over|hereby|granted?|give|for|my|sign\w*)\b|)"
-     R"(\b(?:power\s+of\s+attorney)\b[^.!?]{0,30}\b(?:to|over)\b[^.!?]{0,25}\b(?:you|my\s+(?:bank|accounts?|finances|property|estate|assets|affairs))\b|)"
-     R"(\b(?:ich|wir)\b[^.!?]{0,15}\b(?:erteile\w*|bevollmächtige\w*)\b[^.!?]{0,40}\b(?:vollmacht|generalvollmacht|in\s+meinem\s+namen|mich\s+zu\s+vertreten|meine\s+konten)\b|)"
-     R"(\b(?:je|nous)\s+(?:donne|donnons|soussigné\w*)\b[^.!?]{0,30}\b(?:procuration|pouvoir\s+de\s+signer|mandat\s+(?:général|pour))\b|)"
-     R"(\b(?:otorgo|confiero|concedo|outorgo)\b[^.!?]{0,20}\b(?:poder(?:es)?|procura[çc][ãa]o|plenos\s+poderes)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:i|we)\b<15>\b(?:hereby\s+)?(?:grant|give|appoint|authori[sz]e|empower|designate|nominate|confer)\b<60>\b(?:power\s+of\s+attorney|attorney[- ]in[- ]fact|my\s+(?:attorney|agent|proxy|legal\s+representative)|act\s+(?:on\s+my\s+behalf|in\s+my\s+name|for\s+me)|sign\s+(?:on\s+my\s+behalf|in\s+my\s+name|for\s+me|documents?\s+(?:on|in))|full\s+authority|manage\s+my\s+(?:bank\s+)?accounts?|access\s+my\s+(?:bank\s+)?accounts?)\b|)"
+     R"(\b(?:full|general|durable|unlimited|limited|special|irrevocable|lasting)\s+powers?\s+of\s+attorney\b<60>\b(?:to|over|hereby|granted?|give|for|my|sign\w*)\b|)"
+     R"(\b(?:power\s+of\s+attorney)\b<30>\b(?:to|over)\b<25>\b(?:you|my\s+(?:bank|accounts?|finances|property|estate|assets|affairs))\b|)"
+     R"(\b(?:ich|wir)\b<15>\b(?:erteile\w*|bevollmächtige\w*)\b<40>\b(?:vollmacht|generalvollmacht|in\s+meinem\s+namen|mich\s+zu\s+vertreten|meine\s+konten)\b|)"
+     R"(\b(?:je|nous)\s+(?:donne|donnons|soussigné\w*)\b<30>\b(?:procuration|pouvoir\s+de\s+signer|mandat\s+(?:général|pour))\b|)"
+     R"(\b(?:otorgo|confiero|concedo|outorgo)\b<20>\b(?:poder(?:es)?|procura[çc][ãa]o|plenos\s+poderes)\b)"); }),
      true},
 
     // ---- Callback phishing ---------------------------------------------------------------------
@@ -1814,13 +1986,14 @@ constexpr auto table = std::to_array<Rule>({
     // ---- Crypto fraud --------------------------------------------------------------------------
     {"crypto-drainer", "Crypto fraud", "warn", 80,
      "leads to a page that empties a wallet once it is connected",
-     R"(\b(?:connect|link|sync|synchroni[sz]e|authori[sz]e|approve|sign)\b[^.!?]{0,25}\b(?:your\s+|ur\s+|a\s+|the\s+)?(?:\w+\s+){0,2}(?:wallet|metamask|phantom|trust\s?wallet|ledger|walletconnect)\b[^.!?]{0,100}\b(?:claim|air-?drop|mint|reward\w*|allocation|bonus|eligible|eligibility|receive|token\w*|refund|migrat\w+|unlock|withdraw|compensation|giveaway|whitelist|free)\b|)"
-     R"(\b(?:claim|air-?drop|mint|reward\w*|allocation|bonus|eligible|eligibility|receive|migrat\w+|compensation|giveaway|refund)\b[^.!?]{0,100}\b(?:connect(?:ing)?|link(?:ing)?|sync(?:ing)?|synchroni[sz]\w+|approv(?:e|ing)|add|import|enter|submit|bind)\b[^.!?]{0,25}\b(?:your\s+|ur\s+|a\s+|the\s+)?(?:\w+\s+){0,2}(?:wallet|metamask|phantom|walletconnect)\b|)"
-     R"(\b(?:set\s?approval\s?for\s?all|increase\s?allowance|permit2?|unlimited\s+(?:token\s+)?(?:approval|allowance))\b[^.!?]{0,80}\b(?:wallet|sign|claim|transaction|token)\b|)"
-     R"(\b(?:wallet|ledger|metamask|trezor|recovery|seed)\s?(?:phrase)?\b[^.!?]{0,60}\b(?:enter|import|type|provide|input|confirm|verify|submit)\b[^.!?]{0,25}\b(?:12|24|twelve|twenty[- ]four)[- ]?(?:words?|word\s+phrase)\b|)"
-     R"(\b(?:wallet\s+verbinden|verbinden\s+sie\s+ihre?\s+(?:\w+\s+)?wallet|connecte[rz]\s+votre\s+(?:portefeuille|wallet)|conect[ea]r?\s+(?:su|tu|sua|a)\s+(?:billetera|carteira|wallet))\b[^.!?]{0,100}\b(?:airdrop|token\w*|belohnung\w*|récompense\w*|recompensa\w*|claim|beanspruch\w+|reclam\w+|réclame\w*|resgat\w+)\b|)"
-     R"((?:连接|連接|绑定|授权|授權)[^。！？.!?]{0,6}(?:钱包|錢包)[^。！？.!?]{0,30}(?:空投|领取|領取|奖励|獎勵|代币)|)"
-     R"((?:空投|领取|領取|奖励|獎勵)[^。！？.!?]{0,30}(?:连接|連接|绑定|授权|授權)[^。！？.!?]{0,6}(?:钱包|錢包))",
+     pattern([] { return std::string_view(
+     R"(\b(?:connect|link|sync|synchroni[sz]e|authori[sz]e|approve|sign)\b<25>\b(?:your\s+|ur\s+|a\s+|the\s+)?(?:\w+\s+){0,2}(?:wallet|metamask|phantom|trust\s?wallet|ledger|walletconnect)\b<100>\b(?:claim|air-?drop|mint|reward\w*|allocation|bonus|eligible|eligibility|receive|token\w*|refund|migrat\w+|unlock|withdraw|compensation|giveaway|whitelist|free)\b|)"
+     R"(\b(?:claim|air-?drop|mint|reward\w*|allocation|bonus|eligible|eligibility|receive|migrat\w+|compensation|giveaway|refund)\b<100>\b(?:connect(?:ing)?|link(?:ing)?|sync(?:ing)?|synchroni[sz]\w+|approv(?:e|ing)|add|import|enter|submit|bind)\b<25>\b(?:your\s+|ur\s+|a\s+|the\s+)?(?:\w+\s+){0,2}(?:wallet|metamask|phantom|walletconnect)\b|)"
+     R"(\b(?:set\s?approval\s?for\s?all|increase\s?allowance|permit2?|unlimited\s+(?:token\s+)?(?:approval|allowance))\b<80>\b(?:wallet|sign|claim|transaction|token)\b|)"
+     R"(\b(?:wallet|ledger|metamask|trezor|recovery|seed)\s?(?:phrase)?\b<60>\b(?:enter|import|type|provide|input|confirm|verify|submit)\b<25>\b(?:12|24|twelve|twenty[- ]four)[- ]?(?:words?|word\s+phrase)\b|)"
+     R"(\b(?:wallet\s+verbinden|verbinden\s+sie\s+ihre?\s+(?:\w+\s+)?wallet|connecte[rz]\s+votre\s+(?:portefeuille|wallet)|conect[ea]r?\s+(?:su|tu|sua|a)\s+(?:billetera|carteira|wallet))\b<100>\b(?:airdrop|token\w*|belohnung\w*|récompense\w*|recompensa\w*|claim|beanspruch\w+|reclam\w+|réclame\w*|resgat\w+)\b|)"
+     R"((?:连接|連接|绑定|授权|授權)<6>(?:钱包|錢包)<30>(?:空投|领取|領取|奖励|獎勵|代币)|)"
+     R"((?:空投|领取|領取|奖励|獎勵)<30>(?:连接|連接|绑定|授权|授權)<6>(?:钱包|錢包))"); }),
      true},
 
     // ---- Payment redirection -------------------------------------------------------------------
@@ -1883,15 +2056,16 @@ constexpr auto table = std::to_array<Rule>({
     // ---- Credential phishing -------------------------------------------------------------------
     {"pivot-scan-device", "Credential phishing", "warn", 70,
      "asks the reader to scan a code with another device, which leaves the protected one",
-     R"(\b(?:scan|use|point)\b[^.!?]{0,25}\b(?:the\s+|this\s+|our\s+)?(?:\w+\s+){0,2}(?:qr|q\.r\.|bar)[- ]?code\b[^.!?]{0,100}\b(?:phone|mobile|camera|smartphone|device|verify|authenticat\w+|mfa|2fa|sign\s?in|log\s?in|password|account|review\s+(?:the\s+)?document|access\s+(?:the\s+)?(?:document|file)|re-?enrol\w*|update|secure|payroll|salary)\b|)"
-     R"(\b(?:phone|mobile|camera|smartphone|mfa|2fa|multi-?factor|authenticat\w+|verify|re-?authenticate|password|secure\s+document|payroll|salary)\b[^.!?]{0,100}\b(?:scan|scanning)\b[^.!?]{0,20}\b(?:the\s+|this\s+|our\s+)?(?:\w+\s+){0,2}(?:qr|q\.r\.|bar)[- ]?code\b|)"
-     R"(\b(?:open|use|continue\s+on|switch\s+to|view\s+(?:it\s+|this\s+)?on|log\s?in\s+(?:on|from))\b[^.!?]{0,25}\b(?:your\s+)?(?:personal|own|private|other|another|mobile)\s+(?:phone|device|mobile|smartphone)\b[^.!?]{0,60}\b(?:verify|authenticat\w+|scan|sign\s?in|log\s?in|link|complete|access)\b|)"
-     R"(\b(?:scannen|scanne)\b[^.!?]{0,30}\bqr-?code\b[^.!?]{0,60}\b(?:smartphone|handy|mobil\w*|anmeld\w+|bestätig\w+|verifizier\w+|konto|photoTAN|pushTAN|gerät)\b|)"
-     R"(\b(?:qr-?code)\b[^.!?]{0,40}\b(?:scannen|einscannen)\b[^.!?]{0,60}\b(?:anmeld\w+|bestätig\w+|verifizier\w+|konto|gerät)\b|)"
-     R"(\bscanne[rz]\b[^.!?]{0,20}\b(?:le\s+)?(?:qr\s?code|code\s+qr)\b[^.!?]{0,60}\b(?:téléphone|mobile|compte|vérif\w+|authentif\w+|connex\w+)\b|)"
-     R"(\b(?:escane[ea]r?|escanear|leia|escaneie|scan)\b[^.!?]{0,20}\b(?:el\s+|o\s+)?(?:c[óo]digo\s+qr|qr\s?code)\b[^.!?]{0,60}\b(?:tel[ée]fono|celular|m[óo]vil|cuenta|conta|verific\w+|autentic\w+)\b|)"
-     R"((?:扫描|掃描|扫码|掃碼)[^。！？.!?]{0,15}(?:二维码|二維碼|QR)[^。！？.!?]{0,20}(?:登录|登入|验证|驗證|领取|領取|补贴|認證)|)"
-     R"((?:QRコード)[^。！？.!?]{0,12}(?:スキャン|読み取)[^。！？.!?]{0,20}(?:ログイン|認証|確認))",
+     pattern([] { return std::string_view(
+     R"(\b(?:scan|use|point)\b<25>\b(?:the\s+|this\s+|our\s+)?(?:\w+\s+){0,2}(?:qr|q\.r\.|bar)[- ]?code\b<100>\b(?:phone|mobile|camera|smartphone|device|verify|authenticat\w+|mfa|2fa|sign\s?in|log\s?in|password|account|review\s+(?:the\s+)?document|access\s+(?:the\s+)?(?:document|file)|re-?enrol\w*|update|secure|payroll|salary)\b|)"
+     R"(\b(?:phone|mobile|camera|smartphone|mfa|2fa|multi-?factor|authenticat\w+|verify|re-?authenticate|password|secure\s+document|payroll|salary)\b<100>\b(?:scan|scanning)\b<20>\b(?:the\s+|this\s+|our\s+)?(?:\w+\s+){0,2}(?:qr|q\.r\.|bar)[- ]?code\b|)"
+     R"(\b(?:open|use|continue\s+on|switch\s+to|view\s+(?:it\s+|this\s+)?on|log\s?in\s+(?:on|from))\b<25>\b(?:your\s+)?(?:personal|own|private|other|another|mobile)\s+(?:phone|device|mobile|smartphone)\b<60>\b(?:verify|authenticat\w+|scan|sign\s?in|log\s?in|link|complete|access)\b|)"
+     R"(\b(?:scannen|scanne)\b<30>\bqr-?code\b<60>\b(?:smartphone|handy|mobil\w*|anmeld\w+|bestätig\w+|verifizier\w+|konto|photoTAN|pushTAN|gerät)\b|)"
+     R"(\b(?:qr-?code)\b<40>\b(?:scannen|einscannen)\b<60>\b(?:anmeld\w+|bestätig\w+|verifizier\w+|konto|gerät)\b|)"
+     R"(\bscanne[rz]\b<20>\b(?:le\s+)?(?:qr\s?code|code\s+qr)\b<60>\b(?:téléphone|mobile|compte|vérif\w+|authentif\w+|connex\w+)\b|)"
+     R"(\b(?:escane[ea]r?|escanear|leia|escaneie|scan)\b<20>\b(?:el\s+|o\s+)?(?:c[óo]digo\s+qr|qr\s?code)\b<60>\b(?:tel[ée]fono|celular|m[óo]vil|cuenta|conta|verific\w+|autentic\w+)\b|)"
+     R"((?:扫描|掃描|扫码|掃碼)<15>(?:二维码|二維碼|QR)<20>(?:登录|登入|验证|驗證|领取|領取|补贴|認證)|)"
+     R"((?:QRコード)<12>(?:スキャン|読み取)<20>(?:ログイン|認証|確認))"); }),
      true},
 
     // ---- Bulk mail -----------------------------------------------------------------------------
@@ -1921,21 +2095,24 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"sa-drug-ed-generic", "Bulk mail", "warn", 12,
      "offers a generic potency drug",
+     pattern([] { return std::string_view(
      R"(\bgeneric\s+(?:viagra|cialis|levitra|sildenafil|tadalafil|vardenafil)\b|)"
-     R"(\b(?:viagra|cialis|levitra)\b[^.!?]{0,15}\bgenerics?\b)",
+     R"(\b(?:viagra|cialis|levitra)\b<15>\bgenerics?\b)"); }),
      true},
     {"sa-drug-ed-online", "Bulk mail", "warn", 12,
      "sells a potency drug online",
-     R"(\b(?:buy|order|get|purchase|shop)\b[^.!?]{0,25}\b(?:viagra|cialis|levitra|sildenafil|tadalafil)\b[^.!?]{0,25}\b(?:on-?line|internet|web|here|now)\b|)"
-     R"(\b(?:on-?line|internet)\b[^.!?]{0,25}\b(?:viagra|cialis|levitra|sildenafil|tadalafil)\b|)"
-     R"(\b(?:viagra|cialis|levitra|sildenafil|tadalafil)\s+(?:on-?line|without)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:buy|order|get|purchase|shop)\b<25>\b(?:viagra|cialis|levitra|sildenafil|tadalafil)\b<25>\b(?:on-?line|internet|web|here|now)\b|)"
+     R"(\b(?:on-?line|internet)\b<25>\b(?:viagra|cialis|levitra|sildenafil|tadalafil)\b|)"
+     R"(\b(?:viagra|cialis|levitra|sildenafil|tadalafil)\s+(?:on-?line|without)\b)"); }),
      true},
     {"sa-online-pharmacy", "Bulk mail", "warn", 28,
      "advertises an online pharmacy",
+     pattern([] { return std::string_view(
      R"(\b(?:on-?line|internet|web|canadian|canada|discount|overseas|offshore|mexican|cheap|licensed|trusted|world['’]?s?\s+(?:best|leading))\s+(?:\w+\s+)?(?:pharmac(?:y|ies)|drug\s?stores?|meds|apotheke)\b|)"
-     R"(\b(?:pharmac(?:y|ies)|drug\s?store|meds|medications?)\b[^.!?]{0,20}\bon-?line\b|)"
-     R"(\b(?:cheap|discount|affordable|low[- ]cost)\b[^.!?]{0,15}\b(?:meds|medications?|prescription\s+drugs|prescriptions)\b|)"
-     R"(\b(?:online-?apotheke|versandapotheke|pharmacie\s+en\s+ligne|farmacia\s+(?:en\s+l[íi]nea|online))\b)",
+     R"(\b(?:pharmac(?:y|ies)|drug\s?store|meds|medications?)\b<20>\bon-?line\b|)"
+     R"(\b(?:cheap|discount|affordable|low[- ]cost)\b<15>\b(?:meds|medications?|prescription\s+drugs|prescriptions)\b|)"
+     R"(\b(?:online-?apotheke|versandapotheke|pharmacie\s+en\s+ligne|farmacia\s+(?:en\s+l[íi]nea|online))\b)"); }),
      true},
     {"sa-no-prescription", "Bulk mail", "warn", 29,
      "offers medicines without a prescription",
@@ -1957,29 +2134,32 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"sa-remove-before-link", "Bulk mail", "warn", 10,
      "tells the reader to take something out of a link before using it",
-     R"(\b(?:remove|delete|take\s+out|drop|erase)\b[^.!?]{0,30}\b(?:space|spaces|dots?|stars?|asterisk|brackets?|characters?|letters?|xx+|the\s+word|underscores?)\b[^.!?]{0,40}\b(?:link|url|address|domain|web\s?site|browser|site)\b|)"
-     R"(\b(?:link|url|address|site)\b[^.!?]{0,40}\b(?:remove|delete|take\s+out|without)\s+(?:the\s+|all\s+|any\s+)?(?:space|spaces|dots?|stars?|asterisks?|brackets?)\b|)"
-     R"(\b(?:copy|type)\b[^.!?]{0,30}\b(?:link|url|address|site)\b[^.!?]{0,30}\b(?:without|remove|removing)\s+(?:the\s+)?(?:spaces?|stars?|brackets?)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:remove|delete|take\s+out|drop|erase)\b<30>\b(?:space|spaces|dots?|stars?|asterisk|brackets?|characters?|letters?|xx+|the\s+word|underscores?)\b<40>\b(?:link|url|address|domain|web\s?site|browser|site)\b|)"
+     R"(\b(?:link|url|address|site)\b<40>\b(?:remove|delete|take\s+out|without)\s+(?:the\s+|all\s+|any\s+)?(?:space|spaces|dots?|stars?|asterisks?|brackets?)\b|)"
+     R"(\b(?:copy|type)\b<30>\b(?:link|url|address|site)\b<30>\b(?:without|remove|removing)\s+(?:the\s+)?(?:spaces?|stars?|brackets?)\b)"); }),
      true},
     {"sa-guaranteed-100-percent", "Bulk mail", "warn", 32,
      "promises a hundred per cent guarantee",
+     pattern([] { return std::string_view(
      R"(\b(?:100\s?(?:%|percent|per\s+cent)|one\s+hundred\s+(?:percent|per\s+cent)|hundred\s+percent)\s+(?:\w+\s+)?(?:guarante\w+|satisfaction|money[- ]?back|success\s+rate|risk[- ]free|legal|legit(?:imate)?|safe\s+and\s+(?:secure|legal)|proven|effective|anonymous|discreet)\b|)"
-     R"(\b(?:guarante\w+|satisfaction)\b[^.!?]{0,12}\b(?:100\s?(?:%|percent|per\s+cent)|one\s+hundred\s+percent)|)"
-     R"(\b(?:100\s?%\s+(?:garant\w+|sicher|legal|zufriedenheit\w*)|garanti\s+à\s+100\s?%|garantizado\s+al\s+100\s?%|100\s?%\s+garantizado|100\s?%\s+garantido))",
+     R"(\b(?:guarante\w+|satisfaction)\b<12>\b(?:100\s?(?:%|percent|per\s+cent)|one\s+hundred\s+percent)|)"
+     R"(\b(?:100\s?%\s+(?:garant\w+|sicher|legal|zufriedenheit\w*)|garanti\s+à\s+100\s?%|garantizado\s+al\s+100\s?%|100\s?%\s+garantizado|100\s?%\s+garantido))"); }),
      true},
     {"sa-dear-something", "Bulk mail", "warn", 24,
      "opens with a form of address that fits anybody",
+     pattern([] { return std::string_view(
      R"(\bdear\s+(?:[\w.]+\s+){0,2}(?:community|holders?|supporters?|enthusiasts?|participants?|recipients?|account\s+holder)\b|)"
      R"(\bdear\s+(?:valued\s+|esteemed\s+|respected\s+|beloved\s+|our\s+|my\s+|most\s+|sir\s?/\s?|sir\s+or\s+|e-?mail\s+|mail\s+|account\s+|bank\s+|web\s?mail\s+|mailbox\s+|online\s+|paypal\s+|amazon\s+|apple\s+|netflix\s+|facebook\s+|crypto\s+|wallet\s+|lucky\s+|good\s+|prospective\s+|potential\s+|loyal\s+|home\s?|web\s?site\s+|domain\s+|business\s+|internet\s+|fellow\s+|card\s?|credit\s+|premium\s+|intended\s+|investment\s+|trading\s+|[\w.+-]{1,40}\s+)?(?:sir(?:\s?/\s?|\s+or\s+)?(?:madam|ma['’]?am)?|madam|friend|customer|client|user|member|account\s?(?:owner|holder|user)|beneficiary|subscriber|winner|owner|sir\(s\)|valued|sirs?|investor|applicant|e-?mail\s+(?:user|owner)|recipient|candidate|card\s?holder|purchaser|buyer|consumer|homeowner|webmaster|partner|shopper|taxpayer|citizen|entrepreneur|one|beloved|in\s+christ|good\s+day|participant|guest|tax\s?payer|supporter|holder|participant)\b|)"
      R"(\bdear\s+[\w.+-]{1,40}@[\w.-]{2,40}|)"
-     R"(\b(?:hello|hi|hey|greetings|attention|attn|good\s+day)\s+(?:dear\b[^.!?]{0,2}$|dear,|(?:valued\s+customer|customer|beneficiary|user|friend|my\s+friend|dear\s+friend|sir|winner|beloved|account\s+(?:owner|holder)|e-?mail\s+(?:user|owner)|[\w.+-]{1,40}@[\w.-]{2,40})\b)|)"
+     R"(\b(?:hello|hi|hey|greetings|attention|attn|good\s+day)\s+(?:dear\b<2>$|dear,|(?:valued\s+customer|customer|beneficiary|user|friend|my\s+friend|dear\s+friend|sir|winner|beloved|account\s+(?:owner|holder)|e-?mail\s+(?:user|owner)|[\w.+-]{1,40}@[\w.-]{2,40})\b)|)"
      R"(\b(?:sehr\s+geehrte(?:r|/r|\(r\))?|lieber?|hallo|guten\s+tag)\s+(?:geschätzte[r]?\s+|liebe[r]?\s+|verehrte[r]?\s+)?(?:kunde|kundin|kunden|nutzer|nutzerin|benutzer|kontoinhaber\w*|gewinner\w*|mitglied\w*|teilnehmer\w*|freund|empfänger\w*|kundinnen|karteninhaber\w*|begünstigte\S*|[\w.+-]{1,40}@[\w.-]{2,40})\b|)"
      R"(\b(?:cher|chère|bonjour|chers?)\s+(?:\w+\s+)?(?:client|cliente|clients|utilisateur|utilisatrice|membre|ami|amie|bénéficiaire|abonnée?|titulaire|allocataire)\b|)"
      R"(\b(?:estimad[oa]|querid[oa]|prezad[oa]|car[oa]|ol[áa]|hola)s?\s?(?:\([ao]\))?,?\s+(?:se[ñn]hor(?:\(a\))?\s+)?(?:cliente|usuari[oa]|usu[áa]ri[oa]|amig[oa]|membro|miembro|benefici[áa]ri[oa]|beneficiari[oa]|titular|contribuinte|cidad[ãa]o|consumidor|socio|assinante|correntista|associado|motorista|condutor|[\w.+-]{1,40}@[\w.-]{2,40})\b|)"
      R"(\b(?:beste|geachte|hallo)\s+(?:heer\s?/\s?mevrouw|klant|gebruiker|relatie|lid|cliënt|rekeninghouder|winnaar|[\w.+-]{1,40}@[\w.-]{2,40})\b|)"
      R"((?:尊敬的|亲爱的|親愛的)(?:客户|客戶|用户|用戶|会员|會員|朋友)|)"
      R"(お客様各位|)"
-     R"((?:고객님|회원님|존경하는))",
+     R"((?:고객님|회원님|존경하는))"); }),
      true},
     {"sa-billion-dollars", "Bulk mail", "warn", 20,
      "mentions billions of dollars",
@@ -1989,33 +2169,36 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"sa-excuse-4", "Bulk mail", "warn", 29,
      "excuses itself for coming unasked and offers removal",
-     R"(\bunsubscribe\b[^.!?]{0,60}\bby\s+writing\s+to\b|)"
+     pattern([] { return std::string_view(
+     R"(\bunsubscribe\b<60>\bby\s+writing\s+to\b|)"
      R"(\byou\s+may\s+also\s+write\s+to\s+us\s+at\b|)"
      R"(\bthis\s+is\s+a\s+marketing\s+message\b|)"
-     R"(\b(?:to|if\s+you\s+(?:wish|want|would\s+like|prefer|choose))\s+(?:to\s+)?(?:be\s+)?(?:removed|remove\s+yourself|remove\s+your\s+(?:name|address|e-?mail)|taken\s+off)\b[^.!?]{0,25}\b(?:from|off)\b[^.!?]{0,25}\b(?:e-?mails?\s+list|mailing\s+list|mailings?|database|lists?)\b|)"
+     R"(\b(?:to|if\s+you\s+(?:wish|want|would\s+like|prefer|choose))\s+(?:to\s+)?(?:be\s+)?(?:removed|remove\s+yourself|remove\s+your\s+(?:name|address|e-?mail)|taken\s+off)\b<25>\b(?:from|off)\b<25>\b(?:e-?mails?\s+list|mailing\s+list|mailings?|database|lists?)\b|)"
      R"(\b(?:you\s+may|please|to)\s+follow\s+this\s+link\s+to\s+be\s+removed\b|)"
-     R"(\b(?:removed|removal|opt[- ]?out)\b[^.!?]{0,20}\b(?:reply|send|e-?mail|simply|visit|type)\b[^.!?]{0,20}\b(?:with|word|subject|remove|to)\b|)"
-     R"(\b(?:reply|respond|e-?mail|send)\b[^.!?]{0,25}\b(?:with|word|subject)\b[^.!?]{0,20}(?:"?remove"?|\btake\s+me\s+off)\b|)"
+     R"(\b(?:removed|removal|opt[- ]?out)\b<20>\b(?:reply|send|e-?mail|simply|visit|type)\b<20>\b(?:with|word|subject|remove|to)\b|)"
+     R"(\b(?:reply|respond|e-?mail|send)\b<25>\b(?:with|word|subject)\b<20>(?:"?remove"?|\btake\s+me\s+off)\b|)"
      R"(\bunsubscribe\s+from\s+all\s+e-?mail\s+lists?\b|)"
-     R"(\bthis\s+is\s+an\s+advertisement\b)",
+     R"(\bthis\s+is\s+an\s+advertisement\b)"); }),
      true},
     {"sa-excuse-remove", "Bulk mail", "warn", 40,
      "excuses a mass mailing as wanted and harmless",
+     pattern([] { return std::string_view(
      R"(\bremove\s+(?:yourself|your\s+(?:name|e-?mail|address|e-?mail\s+address))\s+from\s+(?:our|all|any)\s+(?:\w+\s+)?(?:e-?mails?|mails?|mailing)\s?lists?\b|)"
      R"(\bunsubscribe\s+from\s+all\s+e-?mails?\s+lists?\b|)"
      R"(\b(?:this|our)\s+(?:e-?mail|message|mailing|mail)\s+(?:is\s+not|isn['’]t|cannot\s+be\s+considered|can\s+not\s+be\s+considered|may\s+not\s+be\s+considered|is\s+never|was\s+not\s+sent\s+as)\s+(?:\w+\s+){0,2}(?:spam|unsolicited|junk)\b|)"
-     R"(\b(?:not\s+spam|is\s+no\s+spam|not\s+unsolicited)\b[^.!?]{0,60}\b(?:remove|opt|requested|address|bill|law|compliance|partner)\b|)"
-     R"(\byou\s+(?:are|were|have|['’]re)\b[^.!?]{0,20}\b(?:receiv(?:ed|ing)|sent|getting)\b[^.!?]{0,40}\b(?:because|since|as)\b[^.!?]{0,40}\b(?:opted[- ]?in|our\s+(?:\w+\s+)?(?:affiliates?|partners?)|partner\s+sites?|affiliate|have\s+(?:inquired|expressed|submitted)|requested\s+(?:more\s+)?information)\b|)"
+     R"(\b(?:not\s+spam|is\s+no\s+spam|not\s+unsolicited)\b<60>\b(?:remove|opt|requested|address|bill|law|compliance|partner)\b|)"
+     R"(\byou\s+(?:are|were|have|['’]re)\b<20>\b(?:receiv(?:ed|ing)|sent|getting)\b<40>\b(?:because|since|as)\b<40>\b(?:opted[- ]?in|our\s+(?:\w+\s+)?(?:affiliates?|partners?)|partner\s+sites?|affiliate|have\s+(?:inquired|expressed|submitted)|requested\s+(?:more\s+)?information)\b|)"
      R"(\b(?:follow|use|click)\s+(?:this|the)\s+link\s+to\s+be\s+removed\b|)"
-     R"(\b(?:we|i)\s+(?:apologi[sz]e|are\s+sorry|am\s+sorry)\b[^.!?]{0,30}\b(?:for\s+)?(?:this|the|any)\b[^.!?]{0,15}\b(?:intrusion|unsolicited|unwanted\s+e-?mail|received\s+(?:this|it)\s+in\s+error)\b|)"
+     R"(\b(?:we|i)\s+(?:apologi[sz]e|are\s+sorry|am\s+sorry)\b<30>\b(?:for\s+)?(?:this|the|any)\b<15>\b(?:intrusion|unsolicited|unwanted\s+e-?mail|received\s+(?:this|it)\s+in\s+error)\b|)"
      R"(\b(?:bill\s+s\.?\s?1618|section\s+301|murkowski|105th\s+(?:u\.?s\.?\s+)?congress)\b|)"
-     R"(\b(?:your\s+)?(?:e-?mail\s+)?address\s+(?:was|has\s+been)\s+(?:obtained|taken|purchased|collected)\b[^.!?]{0,40}\b(?:opt-?in|list|database|third\s+party|purchased|public|internet|source|directory)\b)",
+     R"(\b(?:your\s+)?(?:e-?mail\s+)?address\s+(?:was|has\s+been)\s+(?:obtained|taken|purchased|collected)\b<40>\b(?:opt-?in|list|database|third\s+party|purchased|public|internet|source|directory)\b)"); }),
      true},
     {"sa-strong-buy", "Bulk mail", "warn", 12,
      "recommends a share as a strong buy",
+     pattern([] { return std::string_view(
      R"(\bstrong\s+buy\b|)"
-     R"(\b(?:hot|undervalued|explosive|red[- ]hot|micro\s?cap|penny|small\s?cap)\s+(?:\w+\s+)?(?:stocks?|pick|picks|shares|play)\b[^.!?]{0,60}(?:\b(?:buy|target|gain\w*|watch|alert|profits?|explode|soar|now|week|move)\b|%)|)"
-     R"(\b(?:target\s+price|price\s+target|projected\s+(?:price|gain)|short[- ]term\s+target)\b[^.!?]{0,40}(?:\b(?:buy|strong|stock)\b|\$\s?\d\b|%)[^.!?]{0,40}\b(?:stock|shares?|alert|buy|otc|symbol|ticker|watch)\b)",
+     R"(\b(?:hot|undervalued|explosive|red[- ]hot|micro\s?cap|penny|small\s?cap)\s+(?:\w+\s+)?(?:stocks?|pick|picks|shares|play)\b<60>(?:\b(?:buy|target|gain\w*|watch|alert|profits?|explode|soar|now|week|move)\b|%)|)"
+     R"(\b(?:target\s+price|price\s+target|projected\s+(?:price|gain)|short[- ]term\s+target)\b<40>(?:\b(?:buy|strong|stock)\b|\$\s?\d\b|%)<40>\b(?:stock|shares?|alert|buy|otc|symbol|ticker|watch)\b)"); }),
      true},
     {"sa-stock-alert", "Bulk mail", "warn", 12,
      "is a share tip dressed as an alert",
@@ -2025,100 +2208,116 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"sa-not-advisor", "Bulk mail", "warn", 12,
      "disclaims being a registered investment adviser",
-     R"(\b(?:not|neither)\b[^.!?]{0,25}\b(?:a\s+|an\s+)?(?:registered|licensed|qualified|certified)?[^.!?]{0,20}\b(?:investment|financial|broker|securities)[^.!?]{0,20}\b(?:advis[eo]rs?|broker|dealer|counsel\w*|planner)\b|)"
-     R"(\b(?:nor|not)\s+(?:a\s+)?(?:broker|dealer)\b[^.!?]{0,20}\b(?:advis[eo]rs?|dealer)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:not|neither)\b<25>\b(?:a\s+|an\s+)?(?:registered|licensed|qualified|certified)?<20>\b(?:investment|financial|broker|securities)<20>\b(?:advis[eo]rs?|broker|dealer|counsel\w*|planner)\b|)"
+     R"(\b(?:nor|not)\s+(?:a\s+)?(?:broker|dealer)\b<20>\b(?:advis[eo]rs?|dealer)\b)"); }),
      true},
     {"sa-prest-non-accredited", "Bulk mail", "warn", 12,
      "offers degrees from universities without accreditation",
-     R"(\b(?:prestigious|recogni[sz]ed|leading|reputable)\b[^.!?]{0,15}\bnon[- ]?accredited\b|)"
-     R"(\b(?:university|college|bachelor['’]?s?|master['’]?s?|mba|doctorate|phd|ph\.d)\b[^.!?]{0,15}\b(?:diplomas?|degrees?)\b[^.!?]{0,60}\b(?:no\s+(?:required\s+)?(?:tests?|classes|books|exams?|interviews?|study)|life\s+experience|without\s+(?:study\w*|exams?|attending)|days|call|within|non[- ]?accredited|confidential\w*|buy)\b|)"
-     R"(\bdiplomas?\b[^.!?]{0,40}\b(?:life\s+experience|work\s+experience|no\s+(?:tests?|classes|exams?|books)|non[- ]?accredited)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:prestigious|recogni[sz]ed|leading|reputable)\b<15>\bnon[- ]?accredited\b|)"
+     R"(\b(?:university|college|bachelor['’]?s?|master['’]?s?|mba|doctorate|phd|ph\.d)\b<15>\b(?:diplomas?|degrees?)\b<60>\b(?:no\s+(?:required\s+)?(?:tests?|classes|books|exams?|interviews?|study)|life\s+experience|without\s+(?:study\w*|exams?|attending)|days|call|within|non[- ]?accredited|confidential\w*|buy)\b|)"
+     R"(\bdiplomas?\b<40>\b(?:life\s+experience|work\s+experience|no\s+(?:tests?|classes|exams?|books)|non[- ]?accredited)\b)"); }),
      true},
     {"sa-body-enhancement", "Bulk mail", "warn", 19,
      "advertises the enlargement of a body part",
-     R"(\b(?:penis|breasts?|bust|manhood|member|cock|dick|butt|booty)\b[^.!?]{0,25}\b(?:enlarge\w*|enhanc\w+|bigger|larger|growth|grow|longer|thicker|increase|extension|gain|size|lift)\b|)"
-     R"(\b(?:enlarge\w*|enhanc\w+|bigger|larger|grow|longer|thicker|increase|add\s+\d+\s+inches)\b[^.!?]{0,25}\b(?:penis|breasts?|bust|manhood|cock|dick|cup\s+size)\b|)"
-     R"(\b(?:penisverlängerung|penisvergrößerung|brustvergrößerung|agrandissement\s+du\s+pénis|alargamiento\s+de\s+pene|aumento\s+peniano)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:penis|breasts?|bust|manhood|member|cock|dick|butt|booty)\b<25>\b(?:enlarge\w*|enhanc\w+|bigger|larger|growth|grow|longer|thicker|increase|extension|gain|size|lift)\b|)"
+     R"(\b(?:enlarge\w*|enhanc\w+|bigger|larger|grow|longer|thicker|increase|add\s+\d+\s+inches)\b<25>\b(?:penis|breasts?|bust|manhood|cock|dick|cup\s+size)\b|)"
+     R"(\b(?:penisverlängerung|penisvergrößerung|brustvergrößerung|agrandissement\s+du\s+pénis|alargamiento\s+de\s+pene|aumento\s+peniano)\b)"); }),
      true},
     {"sa-body-enhancement2", "Bulk mail", "warn", 10,
      "advertises pills or creams that change the body",
-     R"(\b(?:pills?|patch|cream|herbal|formula|supplement|exercise|pump|gel|capsules?)\b[^.!?]{0,40}\b(?:bigger|larger|longer|thicker|firmer|fuller|enlarge\w*|enhance\w*|grow)\b[^.!?]{0,25}\b(?:penis|breasts?|bust|manhood|erections?|size|inches|muscles?|butt|hair)\b|)"
-     R"(\b(?:gain|add|grow|increase)\b[^.!?]{0,15}\b(?:\d|one|two|three|four|several|extra|up\s+to)\b[^.!?]{0,12}\binch(?:es)?\b[^.!?]{0,30}\b(?:penis|length|size|weeks?|days|manhood|naturally|girth|pills?)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:pills?|patch|cream|herbal|formula|supplement|exercise|pump|gel|capsules?)\b<40>\b(?:bigger|larger|longer|thicker|firmer|fuller|enlarge\w*|enhance\w*|grow)\b<25>\b(?:penis|breasts?|bust|manhood|erections?|size|inches|muscles?|butt|hair)\b|)"
+     R"(\b(?:gain|add|grow|increase)\b<15>\b(?:\d|one|two|three|four|several|extra|up\s+to)\b<12>\binch(?:es)?\b<30>\b(?:penis|length|size|weeks?|days|manhood|naturally|girth|pills?)\b)"); }),
      true},
     {"sa-impotence", "Bulk mail", "warn", 36,
      "advertises a remedy for impotence",
-     R"(\b(?:impotence|impotent|erectile\s+dysfunction|erection\s+problems?|premature\s+ejaculation|sexual\s+dysfunction|low\s+libido)\b[^.!?]{0,60}\b(?:cure[sd]?|treat\w*|solution|remedy|pills?|drug|natural|no\s+more|fix|medication|suffer\w*|formula|online|order|overcome|supplement)\b|)"
-     R"(\b(?:cure|treat|solution|remedy|end|fix|overcome|suffer\w*|beat|reverse)\b[^.!?]{0,25}\b(?:impotence|impotent|erectile\s+dysfunction|erection\s+problems?|premature\s+ejaculation|sexual\s+dysfunction)\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:impotence|impotent|erectile\s+dysfunction|erection\s+problems?|premature\s+ejaculation|sexual\s+dysfunction|low\s+libido)\b<60>\b(?:cure[sd]?|treat\w*|solution|remedy|pills?|drug|natural|no\s+more|fix|medication|suffer\w*|formula|online|order|overcome|supplement)\b|)"
+     R"(\b(?:cure|treat|solution|remedy|end|fix|overcome|suffer\w*|beat|reverse)\b<25>\b(?:impotence|impotent|erectile\s+dysfunction|erection\s+problems?|premature\s+ejaculation|sexual\s+dysfunction)\b|)"
      R"(\b(?:harder|stronger|rock[- ]?hard|longer[- ]lasting|firmer|powerful)\s+(?:\w+\s+)?erections?\b|)"
-     R"(\b(?:potenzmittel|erektionsstörung\w*)\b[^.!?]{0,40}\b(?:rezeptfrei|bestell\w+|kauf\w+|online|günstig\w*|natürlich\w*)\b|)"
-     R"(\b(?:impuissance|disfunci[óo]n\s+er[ée]ctil|disfun[çc][ãa]o\s+er[ée]til|impot[êe]ncia)\b[^.!?]{0,40}\b(?:trait\w+|solu\w+|remed\w+|tratamiento|tratamento|natural)\b)",
+     R"(\b(?:potenzmittel|erektionsstörung\w*)\b<40>\b(?:rezeptfrei|bestell\w+|kauf\w+|online|günstig\w*|natürlich\w*)\b|)"
+     R"(\b(?:impuissance|disfunci[óo]n\s+er[ée]ctil|disfun[çc][ãa]o\s+er[ée]til|impot[êe]ncia)\b<40>\b(?:trait\w+|solu\w+|remed\w+|tratamiento|tratamento|natural)\b)"); }),
      true},
     {"sa-money-back", "Bulk mail", "warn", 12,
      "offers money back in advertising style",
-     R"(\bmoney[- ]?back\b[^.!?]{0,15}\bguarantee\w*|)"
-     R"(\b(?:guarantee\w*|full|complete|\d+[- ]day|unconditional|lifetime)\b[^.!?]{0,25}\bmoney[- ]?back\b|)"
-     R"(\b(?:full|complete|100\s?%)\s+refund\b[^.!?]{0,30}\b(?:guarantee\w*|no\s+questions|days|not\s+(?:completely\s+|fully\s+|100%\s+)?satisfied|if\s+you)\b|)"
-     R"(\b(?:geld-?zurück-?garantie|satisfait\s+ou\s+remboursé|garant[íi]a\s+de\s+devoluci[óo]n|garantia\s+de\s+devolu[çc][ãa]o|dinheiro\s+de\s+volta|niet[- ]goed[- ]geld[- ]terug)\b)",
+     pattern([] { return std::string_view(
+     R"(\bmoney[- ]?back\b<15>\bguarantee\w*|)"
+     R"(\b(?:guarantee\w*|full|complete|\d+[- ]day|unconditional|lifetime)\b<25>\bmoney[- ]?back\b|)"
+     R"(\b(?:full|complete|100\s?%)\s+refund\b<30>\b(?:guarantee\w*|no\s+questions|days|not\s+(?:completely\s+|fully\s+|100%\s+)?satisfied|if\s+you)\b|)"
+     R"(\b(?:geld-?zurück-?garantie|satisfait\s+ou\s+remboursé|garant[íi]a\s+de\s+devoluci[óo]n|garantia\s+de\s+devolu[çc][ãa]o|dinheiro\s+de\s+volta|niet[- ]goed[- ]geld[- ]terug)\b)"); }),
      true},
     {"sa-free-quote-instant", "Bulk mail", "warn", 12,
      "offers a free or instant quote",
-     R"(\b(?:free|instant|no[- ]obligation|fast|quick|complimentary)\b[^.!?]{0,12}\b(?:\w+\s+)?(?:quotes?|quotation|rate\s+quote|estimates?)\b|)"
-     R"(\bquotes?\b[^.!?]{0,12}\b(?:for\s+free|free\s+of\s+charge|instantly|in\s+(?:seconds|minutes)|no\s+obligation|within\s+minutes)\b|)"
-     R"(\b(?:kostenloses?\s+angebot|unverbindliches?\s+angebot|devis\s+gratuit|cotizaci[óo]n\s+gratuita|cota[çc][ãa]o\s+gr[áa]tis|simula[çc][ãa]o\s+gr[áa]tis|gratis\s+offerte)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:free|instant|no[- ]obligation|fast|quick|complimentary)\b<12>\b(?:\w+\s+)?(?:quotes?|quotation|rate\s+quote|estimates?)\b|)"
+     R"(\bquotes?\b<12>\b(?:for\s+free|free\s+of\s+charge|instantly|in\s+(?:seconds|minutes)|no\s+obligation|within\s+minutes)\b|)"
+     R"(\b(?:kostenloses?\s+angebot|unverbindliches?\s+angebot|devis\s+gratuit|cotizaci[óo]n\s+gratuita|cota[çc][ãa]o\s+gr[áa]tis|simula[çc][ãa]o\s+gr[áa]tis|gratis\s+offerte)\b)"); }),
      true},
     {"sa-refinance-your-home", "Bulk mail", "warn", 12,
      "offers to refinance the reader's home",
-     R"(\b(?:re-?financ\w+|re-?mortgag\w+|lower|reduce|consolidate|mortgage)\b[^.!?]{0,25}\byour\s+(?:current\s+|existing\s+|own\s+)?(?:home|house|mortgage|property|home\s+loan|mortgage\s+payments?|mortgage\s+rate)\b|)"
-     R"(\b(?:your\s+)(?:home|house|mortgage)\b[^.!?]{0,25}\b(?:re-?financ\w+|re-?mortgag\w+)\b|)"
-     R"(\b(?:mortgage|refinanc\w+|home\s+equity)\b[^.!?]{0,30}\b(?:rates?\s+(?:are|have|as\s+low)|lenders\s+compete|low(?:est)?\s+rates?|bad\s+credit|approv\w+)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:re-?financ\w+|re-?mortgag\w+|lower|reduce|consolidate|mortgage)\b<25>\byour\s+(?:current\s+|existing\s+|own\s+)?(?:home|house|mortgage|property|home\s+loan|mortgage\s+payments?|mortgage\s+rate)\b|)"
+     R"(\b(?:your\s+)(?:home|house|mortgage)\b<25>\b(?:re-?financ\w+|re-?mortgag\w+)\b|)"
+     R"(\b(?:mortgage|refinanc\w+|home\s+equity)\b<30>\b(?:rates?\s+(?:are|have|as\s+low)|lenders\s+compete|low(?:est)?\s+rates?|bad\s+credit|approv\w+)\b)"); }),
      true},
     {"sa-refinance-now", "Bulk mail", "warn", 12,
      "presses the reader to refinance now",
-     R"(\b(?:re-?financ\w+|re-?mortgag\w+|mortgage)\b[^.!?]{0,40}\b(?:now|today|before\s+rates|lowest\s+(?:rates?|in)|immediately|while\s+rates|apply|don['’]t\s+wait|record\s+low|historic)\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:re-?financ\w+|re-?mortgag\w+|mortgage)\b<40>\b(?:now|today|before\s+rates|lowest\s+(?:rates?|in)|immediately|while\s+rates|apply|don['’]t\s+wait|record\s+low|historic)\b|)"
      R"(\b(?:now|today|time)\s+(?:is\s+the\s+(?:best\s+|perfect\s+)?time\s+)?to\s+(?:re-?finance|consolidate)\b|)"
-     R"(\brates?\b[^.!?]{0,20}\b(?:lowest|never\s+been\s+lower|record\s+low|historic\w*|drop\w*|fallen)\b[^.!?]{0,40}\b(?:re-?financ\w+|mortgage|home|loan)\b)",
+     R"(\brates?\b<20>\b(?:lowest|never\s+been\s+lower|record\s+low|historic\w*|drop\w*|fallen)\b<40>\b(?:re-?financ\w+|mortgage|home|loan)\b)"); }),
      true},
     {"sa-diet-1", "Bulk mail", "warn", 10,
      "advertises effortless loss of weight",
-     R"(\b(?:lose|shed|drop|burn|melt|losing|burning)\b[^.!?]{0,20}\b(?:weight|pounds|lbs|kilos?|kg|fat|inches|belly\s+fat)\b[^.!?]{0,50}\b(?:fast|quick\w*|easy|easily|without|effortless\w*|days?|weeks?|guaranteed|naturally|overnight|diet\w*|pills?|while\s+you\s+sleep|exercise|free|metabolism|now)\b|)"
-     R"(\b(?:weight[- ]loss|fat[- ]burn\w*|diet|slimming|keto|appetite)\b[^.!?]{0,25}\b(?:pills?|patch|miracle|supplement|gummies|secret|formula|breakthrough|product|drops|program|system|tea|plan|hack|suppress\w*)\b|)"
-     R"(\b(?:abnehmen\s+ohne|kilo\s+abnehmen|fettverbrenn\w+|schlank\s+ohne|perdre\s+du\s+poids|br[ûu]le-graisse|perder\s+peso|bajar\s+de\s+peso|quemar?\s+grasa|emagre[cç]\w+|afvallen\s+zonder)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:lose|shed|drop|burn|melt|losing|burning)\b<20>\b(?:weight|pounds|lbs|kilos?|kg|fat|inches|belly\s+fat)\b<50>\b(?:fast|quick\w*|easy|easily|without|effortless\w*|days?|weeks?|guaranteed|naturally|overnight|diet\w*|pills?|while\s+you\s+sleep|exercise|free|metabolism|now)\b|)"
+     R"(\b(?:weight[- ]loss|fat[- ]burn\w*|diet|slimming|keto|appetite)\b<25>\b(?:pills?|patch|miracle|supplement|gummies|secret|formula|breakthrough|product|drops|program|system|tea|plan|hack|suppress\w*)\b|)"
+     R"(\b(?:abnehmen\s+ohne|kilo\s+abnehmen|fettverbrenn\w+|schlank\s+ohne|perdre\s+du\s+poids|br[ûu]le-graisse|perder\s+peso|bajar\s+de\s+peso|quemar?\s+grasa|emagre[cç]\w+|afvallen\s+zonder)\b)"); }),
      true},
     {"sa-fin-free", "Bulk mail", "warn", 10,
      "promises financial freedom",
+     pattern([] { return std::string_view(
      R"(\bfinancial(?:ly)?\s+(?:freedom|independen\w+|free|security\s+for\s+life)\b|)"
-     R"(\b(?:debt[- ]free|out\s+of\s+debt|eliminate\s+(?:your\s+|all\s+)?(?:\w+\s+)?debts?|get\s+rid\s+of\s+(?:your\s+)?debts?)\b[^.!?]{0,60}\b(?:you|your|today|now|month\w*|year\w*|fast|call|credit|free)\b|)"
-     R"(\b(?:finanzielle\s+(?:freiheit|unabhängigkeit)|liberté\s+financière|libertad\s+financiera|liberdade\s+financeira|financiële\s+vrijheid|财务自由|財務自由|財富自由|财富自由|経済的自由|경제적\s?자유))",
+     R"(\b(?:debt[- ]free|out\s+of\s+debt|eliminate\s+(?:your\s+|all\s+)?(?:\w+\s+)?debts?|get\s+rid\s+of\s+(?:your\s+)?debts?)\b<60>\b(?:you|your|today|now|month\w*|year\w*|fast|call|credit|free)\b|)"
+     R"(\b(?:finanzielle\s+(?:freiheit|unabhängigkeit)|liberté\s+financière|libertad\s+financiera|liberdade\s+financeira|financiële\s+vrijheid|财务自由|財務自由|財富自由|财富自由|経済的自由|경제적\s?자유))"); }),
      true},
     {"sa-forward-looking", "Bulk mail", "warn", 12,
      "carries the forward-looking-statements disclaimer of share promoters",
+     pattern([] { return std::string_view(
      R"(\bforward[- ]looking\s+statements?\b|)"
-     R"(\bsafe\s+harbou?r\b[^.!?]{0,40}\b(?:statements?|act|provisions?)\b)",
+     R"(\bsafe\s+harbou?r\b<40>\b(?:statements?|act|provisions?)\b)"); }),
      true},
     {"sa-one-time", "Bulk mail", "warn", 12,
      "says the mail is sent once only",
+     pattern([] { return std::string_view(
      R"(\b(?:this\s+is\s+a|is\s+a)\s+(?:one|1)[- ]?time[- ](?:only\s+)?(?:mailing|e-?mail|message|mail|offer|opportunity|posting)\b|)"
      R"(\b(?:one|1)[- ]time\s+(?:mailing|e-?mail|message|mail)\b|)"
-     R"(\b(?:you\s+(?:will|['’]ll)\s+(?:not|never)\s+(?:receive|hear|be\s+contacted|get)|will\s+not\s+be\s+(?:mailed|contacted|e-?mailed))\b[^.!?]{0,30}\b(?:again|another|further|in\s+(?:the\s+)?future|any\s+more)\b|)"
-     R"(\b(?:never|not)\s+(?:be\s+)?(?:contact(?:ed)?|e-?mail(?:ed)?|mail(?:ed)?)\s+(?:you\s+)?again\b)",
+     R"(\b(?:you\s+(?:will|['’]ll)\s+(?:not|never)\s+(?:receive|hear|be\s+contacted|get)|will\s+not\s+be\s+(?:mailed|contacted|e-?mailed))\b<30>\b(?:again|another|further|in\s+(?:the\s+)?future|any\s+more)\b|)"
+     R"(\b(?:never|not)\s+(?:be\s+)?(?:contact(?:ed)?|e-?mail(?:ed)?|mail(?:ed)?)\s+(?:you\s+)?again\b)"); }),
      true},
     {"sa-join-millions", "Bulk mail", "warn", 10,
      "asks the reader to join millions of others",
-     R"(\bjoin\b[^.!?]{0,12}\b(?:the\s+)?(?:over\s+|more\s+than\s+|thousands\s+and\s+|hundreds\s+of\s+)?(?:millions?|thousands|\d[\d,.]*(?:\s+million|k|\+)?)\b[^.!?]{0,40}\b(?:people|users?|members?|subscribers?|others|of|who|investors?|traders?|customers?|men|women|players|readers)\b|)"
-     R"(\b(?:millions|thousands)\s+(?:of\s+(?:people|others|users|men|women|customers|investors|traders|players|happy\s+\w+|satisfied\s+\w+)\s+)?(?:have|are|who)\s+(?:already\s+|now\s+)?(?:joined|using|earning|making|discovered|switched|tried|making\s+money|benefit\w*)\b)",
+     pattern([] { return std::string_view(
+     R"(\bjoin\b<12>\b(?:the\s+)?(?:over\s+|more\s+than\s+|thousands\s+and\s+|hundreds\s+of\s+)?(?:millions?|thousands|\d[\d,.]*(?:\s+million|k|\+)?)\b<40>\b(?:people|users?|members?|subscribers?|others|of|who|investors?|traders?|customers?|men|women|players|readers)\b|)"
+     R"(\b(?:millions|thousands)\s+(?:of\s+(?:people|others|users|men|women|customers|investors|traders|players|happy\s+\w+|satisfied\s+\w+)\s+)?(?:have|are|who)\s+(?:already\s+|now\s+)?(?:joined|using|earning|making|discovered|switched|tried|making\s+money|benefit\w*)\b)"); }),
      true},
     {"sa-marketing-partners", "Bulk mail", "warn", 10,
      "says the address came from marketing partners",
-     R"(\b(?:our|its|their|one\s+of\s+our|through|from|via|by)\b[^.!?]{0,20}\b(?:marketing|advertising|affiliate|opt-?in|promotional|e-?mail|network|web\s?site|trusted)\s+(?:and\s+\w+\s+)?partners?\b|)"
-     R"(\b(?:partner|affiliate|member)\s+(?:web\s?)?sites?\b[^.!?]{0,50}\b(?:opt\w*|registered|sign\w*|subscri\w*|agreed|offers?|e-?mail|receiv\w+)\b|)"
-     R"(\b(?:third[- ]part(?:y|ies))\b[^.!?]{0,15}\b(?:offers?|promotions?|advertis\w+|marketing)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:our|its|their|one\s+of\s+our|through|from|via|by)\b<20>\b(?:marketing|advertising|affiliate|opt-?in|promotional|e-?mail|network|web\s?site|trusted)\s+(?:and\s+\w+\s+)?partners?\b|)"
+     R"(\b(?:partner|affiliate|member)\s+(?:web\s?)?sites?\b<50>\b(?:opt\w*|registered|sign\w*|subscri\w*|agreed|offers?|e-?mail|receiv\w+)\b|)"
+     R"(\b(?:third[- ]part(?:y|ies))\b<15>\b(?:offers?|promotions?|advertis\w+|marketing)\b)"); }),
      true},
     {"sa-unclaimed-money", "Bulk mail", "warn", 32,
      "says unclaimed money is waiting",
-     R"(\b(?:unclaimed|abandoned|forgotten|dormant|hidden|missing|uncollected|lost)\b[^.!?]{0,12}\b(?:money|funds?|cash|assets?|property|account|prize|estate|inheritance|refunds?|balance|winnings?|benefits|sum|deposits?)\b[^.!?]{0,60}\b(?:you|your|name|claim\w*|waiting|owed?|search|find|million|billion|deceased|government|transfer\w*|release\w*|account)\b|)"
-     R"(\b(?:cash|money|funds?)\s+(?:is\s+|are\s+)?(?:waiting|owed|sitting|held)\b[^.!?]{0,20}\b(?:for|to)\s+you\b|)"
-     R"(\b(?:government|state|federal)\b[^.!?]{0,25}\b(?:owes\s+you|grant\s+money|free\s+money|grants?)\b[^.!?]{0,40}\b(?:free|you|never|qualify|apply|claim|repay)\b|)"
-     R"(\b(?:nicht\s+beanspruchte\w*|herrenlose\w*|argent\s+non\s+réclamé|fonds\s+non\s+réclamés|dinero\s+no\s+reclamado|valores\s+a\s+receber|dinheiro\s+esquecido|valores\s+esquecidos)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:unclaimed|abandoned|forgotten|dormant|hidden|missing|uncollected|lost)\b<12>\b(?:money|funds?|cash|assets?|property|account|prize|estate|inheritance|refunds?|balance|winnings?|benefits|sum|deposits?)\b<60>\b(?:you|your|name|claim\w*|waiting|owed?|search|find|million|billion|deceased|government|transfer\w*|release\w*|account)\b|)"
+     R"(\b(?:cash|money|funds?)\s+(?:is\s+|are\s+)?(?:waiting|owed|sitting|held)\b<20>\b(?:for|to)\s+you\b|)"
+     R"(\b(?:government|state|federal)\b<25>\b(?:owes\s+you|grant\s+money|free\s+money|grants?)\b<40>\b(?:free|you|never|qualify|apply|claim|repay)\b|)"
+     R"(\b(?:nicht\s+beanspruchte\w*|herrenlose\w*|argent\s+non\s+réclamé|fonds\s+non\s+réclamés|dinero\s+no\s+reclamado|valores\s+a\s+receber|dinheiro\s+esquecido|valores\s+esquecidos)\b)"); }),
      true},
     {"sa-obscured-email", "Bulk mail", "warn", 12,
      "writes an e-mail address in a way that machines cannot read",
@@ -2133,10 +2332,11 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"sa-more-sex", "Bulk mail", "warn", 34,
      "promises a better or busier sex life",
-     R"(\b(?:more|better|great|amazing|incredible|hot|improve\w*|boost|spice\s+up|enhance\w*|increase\w*)\b[^.!?]{0,12}\b(?:sex(?:ual)?(?:\s+life|\s+drive|\s+performance|\s+pleasure|\s+desire|\s+stamina|\s+partners)?|libido|orgasms?|love\s?making)\b[^.!?]{0,50}\b(?:you|your|her|pills?|naturally|night|longer|try|order|natural|formula|all\s+night|guaranteed|women|men|partner|today|now)\b|)"
-     R"(\b(?:satisfy|please|drive)\b[^.!?]{0,12}\b(?:her|your\s+(?:woman|wife|girlfriend|lover|partner)|women)\b[^.!?]{0,30}\b(?:bed|sexual\w*|night|wild|every\s+time|crazy|more)\b|)"
-     R"(\b(?:last\s+longer|sexual\s+(?:performance|stamina|power|health)|sex\s+drive|staying\s+power)\b[^.!?]{0,40}\b(?:bed|you|your|her|increase\w*|boost|improve\w*|natural\w*|pills?)\b|)"
-     R"(\b(?:meet|fuck|bang|hook\s?up\s+with|date|find|chat\s+with)\b[^.!?]{0,15}\b(?:hot|horny|sexy|local|single|naughty|lonely|real|married)\b[^.!?]{0,10}\b(?:girls?|women|singles|milfs?|moms?|housewives|wives|ladies|babes)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:more|better|great|amazing|incredible|hot|improve\w*|boost|spice\s+up|enhance\w*|increase\w*)\b<12>\b(?:sex(?:ual)?(?:\s+life|\s+drive|\s+performance|\s+pleasure|\s+desire|\s+stamina|\s+partners)?|libido|orgasms?|love\s?making)\b<50>\b(?:you|your|her|pills?|naturally|night|longer|try|order|natural|formula|all\s+night|guaranteed|women|men|partner|today|now)\b|)"
+     R"(\b(?:satisfy|please|drive)\b<12>\b(?:her|your\s+(?:woman|wife|girlfriend|lover|partner)|women)\b<30>\b(?:bed|sexual\w*|night|wild|every\s+time|crazy|more)\b|)"
+     R"(\b(?:last\s+longer|sexual\s+(?:performance|stamina|power|health)|sex\s+drive|staying\s+power)\b<40>\b(?:bed|you|your|her|increase\w*|boost|improve\w*|natural\w*|pills?)\b|)"
+     R"(\b(?:meet|fuck|bang|hook\s?up\s+with|date|find|chat\s+with)\b<15>\b(?:hot|horny|sexy|local|single|naughty|lonely|real|married)\b<10>\b(?:girls?|women|singles|milfs?|moms?|housewives|wives|ladies|babes)\b)"); }),
      true},
     {"sa-bang-guar", "Bulk mail", "warn", 12,
      "shouts a guarantee",
@@ -2145,56 +2345,64 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"sa-investment-advice", "Bulk mail", "warn", 10,
      "carries the no-investment-advice disclaimer",
-     R"(\b(?:not|no|nor|isn['’]t|never)\b[^.!?]{0,30}\b(?:investment|financial|trading)\s+advice\b|)"
-     R"(\b(?:investment|financial)\s+advice\b[^.!?]{0,30}\b(?:not|no|purposes|consult|disclaimer)\b|)"
-     R"(\b(?:keine\s+anlageberatung|pas\s+un\s+conseil\s+en\s+investissement|no\s+es\s+(?:un\s+)?consejo\s+(?:financiero|de\s+inversi[óo]n)|n[ãa]o\s+[ée]\s+(?:recomenda[çc][ãa]o|conselho)\s+de\s+investimento)\b)",
+     pattern([] { return std::string_view(
+     R"(\b(?:not|no|nor|isn['’]t|never)\b<30>\b(?:investment|financial|trading)\s+advice\b|)"
+     R"(\b(?:investment|financial)\s+advice\b<30>\b(?:not|no|purposes|consult|disclaimer)\b|)"
+     R"(\b(?:keine\s+anlageberatung|pas\s+un\s+conseil\s+en\s+investissement|no\s+es\s+(?:un\s+)?consejo\s+(?:financiero|de\s+inversi[óo]n)|n[ãa]o\s+[ée]\s+(?:recomenda[çc][ãa]o|conselho)\s+de\s+investimento)\b)"); }),
      true},
     {"sa-male-enhance", "Bulk mail", "warn", 37,
      "advertises male enhancement",
-     R"(\b(?:male|men['’]?s?|penile|natural|herbal)\b[^.!?]{0,12}\b(?:enhance(?:ment|r|rs)?|enlarge(?:ment|r)?|virility|potency|performance\s+(?:pill|supplement|enhancer)|sexual\s+(?:enhance\w+|performance|health)|stamina)\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:male|men['’]?s?|penile|natural|herbal)\b<12>\b(?:enhance(?:ment|r|rs)?|enlarge(?:ment|r)?|virility|potency|performance\s+(?:pill|supplement|enhancer)|sexual\s+(?:enhance\w+|performance|health)|stamina)\b|)"
      R"(\b(?:enhance|enlarge|increase|improve)\s+your\s+(?:manhood|penis|virility|male|size|erection\w*|potency|sexual)\b|)"
      R"(\b(?:penis|manhood)\s+(?:enlarge\w*|growth|size|patch|pills?|extender)\b|)"
-     R"(\b(?:testosterone|t-level|t\s+level)\b[^.!?]{0,25}\b(?:boost\w*|booster|increase|supplement|naturally)\b|)"
-     R"(\b(?:männliche\s+potenz|virilité\s+masculine|potencia\s+masculina|virilidad|virilidade)\b)",
+     R"(\b(?:testosterone|t-level|t\s+level)\b<25>\b(?:boost\w*|booster|increase|supplement|naturally)\b|)"
+     R"(\b(?:männliche\s+potenz|virilité\s+masculine|potencia\s+masculina|virilidad|virilidade)\b)"); }),
      true},
     {"sa-prices-are-affordable", "Bulk mail", "warn", 13,
      "praises its own low prices",
-     R"(\b(?:prices?|rates?|costs?|fees?|packages?|services?)\s+(?:are|is|start\w*)\b[^.!?]{0,15}\b(?:very\s+|so\s+|extremely\s+|really\s+|quite\s+|more\s+)?(?:affordable|unbeatable|the\s+(?:lowest|cheapest|best)|low(?:est|er)?|cheap(?:er|est)?|reasonable|competitive|incredibl\w+|unbelievabl\w+)\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:prices?|rates?|costs?|fees?|packages?|services?)\s+(?:are|is|start\w*)\b<15>\b(?:very\s+|so\s+|extremely\s+|really\s+|quite\s+|more\s+)?(?:affordable|unbeatable|the\s+(?:lowest|cheapest|best)|low(?:est|er)?|cheap(?:er|est)?|reasonable|competitive|incredibl\w+|unbelievabl\w+)\b|)"
      R"(\b(?:affordable|unbeatable|rock[- ]bottom|lowest|wholesale|incredible|unbelievable|best|factory|discount(?:ed)?|dirt[- ]cheap|competitive)\s+(?:and\s+\w+\s+)?(?:prices?|rates?|pricing)\b|)"
-     R"(\b(?:unschlagbare\w*\s+preis\w*|günstigste\w*\s+preis\w*|prix\s+imbattables?|prix\s+abordables?|precios?\s+(?:imbatibles?|bajos|asequibles)|pre[çc]os?\s+(?:imbat[íi]ve[il]s?|baixos|acess[íi]ve[il]s?))\b)",
+     R"(\b(?:unschlagbare\w*\s+preis\w*|günstigste\w*\s+preis\w*|prix\s+imbattables?|prix\s+abordables?|precios?\s+(?:imbatibles?|bajos|asequibles)|pre[çc]os?\s+(?:imbat[íi]ve[il]s?|baixos|acess[íi]ve[il]s?))\b)"); }),
      true},
     {"sa-replica-watch", "Bulk mail", "warn", 49,
      "sells replica watches or bags",
-     R"(\b(?:replicas?|imitation|knock-?offs?|fake|copies\s+of|identical)\b[^.!?]{0,25}\b(?:watch(?:es)?|rolex(?:es)?|handbags?|bags|purses?|timepieces?|omega|cartier|breitling|louis\s+vuitton|gucci|jewel(?:le)?ry|sneakers|designer)\b|)"
-     R"(\b(?:watch(?:es)?|rolex(?:es)?|handbags?|timepieces?|omega|cartier|breitling|louis\s+vuitton|gucci)\b[^.!?]{0,20}\b(?:replicas?|imitations?|knock-?offs?|copies)\b|)"
-     R"(\b(?:luxury|swiss|designer|brand[- ]name)\s+(?:watch(?:es)?|timepieces?)\b[^.!?]{0,40}(?:\$\s?\d|\b(?:cheap\w*|discount\w*|sale|fraction|wholesale|off|order|from|price\w*))\b|)"
+     pattern([] { return std::string_view(
+     R"(\b(?:replicas?|imitation|knock-?offs?|fake|copies\s+of|identical)\b<25>\b(?:watch(?:es)?|rolex(?:es)?|handbags?|bags|purses?|timepieces?|omega|cartier|breitling|louis\s+vuitton|gucci|jewel(?:le)?ry|sneakers|designer)\b|)"
+     R"(\b(?:watch(?:es)?|rolex(?:es)?|handbags?|timepieces?|omega|cartier|breitling|louis\s+vuitton|gucci)\b<20>\b(?:replicas?|imitations?|knock-?offs?|copies)\b|)"
+     R"(\b(?:luxury|swiss|designer|brand[- ]name)\s+(?:watch(?:es)?|timepieces?)\b<40>(?:\$\s?\d|\b(?:cheap\w*|discount\w*|sale|fraction|wholesale|off|order|from|price\w*))\b|)"
      R"(\b(?:replica-?uhren|uhrenreplik\w*|montres?\s+répliques?|relojes?\s+réplicas?|réplicas?\s+de\s+relógios?)\b|)"
-     R"((?:高仿|精仿|复刻|複刻)[^。！？.!?]{0,8}(?:手表|手錶|名表|包包|鞋))",
+     R"((?:高仿|精仿|复刻|複刻)<8>(?:手表|手錶|名表|包包|鞋))"); }),
      true},
     {"sa-em-rolex", "Bulk mail", "warn", 12,
      "advertises a famous make of watch",
-     R"(\brolex(?:es)?\b[^.!?]{0,50}(?:\$\s?\d|\b(?:cheap\w*|sale|buy|order|price\w*|discount\w*|free|replicas?|only|off|win|genuine|online|watch(?:es)?|swiss))\b|)"
-     R"(\b(?:cheap\w*|sale|buy|order|discount\w*|free|win|genuine|get|own|wear)\b[^.!?]{0,25}\brolex(?:es)?\b)",
+     pattern([] { return std::string_view(
+     R"(\brolex(?:es)?\b<50>(?:\$\s?\d|\b(?:cheap\w*|sale|buy|order|price\w*|discount\w*|free|replicas?|only|off|win|genuine|online|watch(?:es)?|swiss))\b|)"
+     R"(\b(?:cheap\w*|sale|buy|order|discount\w*|free|win|genuine|get|own|wear)\b<25>\brolex(?:es)?\b)"); }),
      true},
 
     // ---- Adult spam ----------------------------------------------------------------------------
     {"sa-free-porn", "Adult spam", "warn", 12,
      "advertises free pornography",
-     R"(\bfree\b[^.!?]{0,20}\b(?:porn\w*|xxx|sex\s+(?:videos?|pics?|movies?|cams?|site)|adult\s+(?:videos?|pics?|movies?|site|content|chat)|hardcore|nude\s+(?:pics?|photos?|cams?)|live\s+sex)\b|)"
-     R"(\b(?:porn\w*|xxx|hardcore|adult\s+(?:videos?|site|movies?))\b[^.!?]{0,25}\b(?:free|for\s+free|no\s+charge|trial|gratis|membership|pass(?:word)?s?)\b)",
+     pattern([] { return std::string_view(
+     R"(\bfree\b<20>\b(?:porn\w*|xxx|sex\s+(?:videos?|pics?|movies?|cams?|site)|adult\s+(?:videos?|pics?|movies?|site|content|chat)|hardcore|nude\s+(?:pics?|photos?|cams?)|live\s+sex)\b|)"
+     R"(\b(?:porn\w*|xxx|hardcore|adult\s+(?:videos?|site|movies?))\b<25>\b(?:free|for\s+free|no\s+charge|trial|gratis|membership|pass(?:word)?s?)\b)"); }),
      true},
     {"sa-cum-shot", "Adult spam", "warn", 12,
      "advertises explicit sexual pictures",
+     pattern([] { return std::string_view(
      R"(\bcum[- ]?shots?\b|)"
-     R"(\b(?:cum(?:ming)?|facials?|blow\s?jobs?|gang\s?bangs?|creampies?|deep\s?throat|anal)\b[^.!?]{0,30}\b(?:pics?|pictures?|videos?|movies?|galler\w+|site|girls?|teens?|sluts?|whores?|action|scenes?|hardcore|amateurs?)\b|)"
-     R"(\b(?:horny|slutty|nasty|naughty|wet|busty)\s+(?:\w+\s+)?(?:teens?|sluts?|whores?|girls?|housewives|milfs?|babes|amateurs?|lesbians?|pussy|pussies)\b)",
+     R"(\b(?:cum(?:ming)?|facials?|blow\s?jobs?|gang\s?bangs?|creampies?|deep\s?throat|anal)\b<30>\b(?:pics?|pictures?|videos?|movies?|galler\w+|site|girls?|teens?|sluts?|whores?|action|scenes?|hardcore|amateurs?)\b|)"
+     R"(\b(?:horny|slutty|nasty|naughty|wet|busty)\s+(?:\w+\s+)?(?:teens?|sluts?|whores?|girls?|housewives|milfs?|babes|amateurs?|lesbians?|pussy|pussies)\b)"); }),
      true},
     {"sa-live-porn", "Adult spam", "warn", 12,
      "advertises live sex shows",
-     R"(\blive\b[^.!?]{0,15}\b(?:porn\w*|sex|xxx|nude|naked|adult|cam\s?girls?|girls?|strip\w*|web\s?cams?)\b[^.!?]{0,15}\b(?:cams?|shows?|chat|girls?|video|on|now|sex|action|web\s?cams?|free|24|nude|online)\b|)"
+     pattern([] { return std::string_view(
+     R"(\blive\b<15>\b(?:porn\w*|sex|xxx|nude|naked|adult|cam\s?girls?|girls?|strip\w*|web\s?cams?)\b<15>\b(?:cams?|shows?|chat|girls?|video|on|now|sex|action|web\s?cams?|free|24|nude|online)\b|)"
      R"(\b(?:sex|adult|nude|cam|xxx)\s+(?:cams?|cam\s?girls?|web\s?cams?|chat(?:s|\s+rooms?)?|shows?)\b|)"
      R"(\b(?:web\s?cam|cam)\s+(?:girls?|sex|models?|babes)\b|)"
-     R"(\b(?:live-?(?:sex|cams?|strip)|sexcam\w*|telefonsex|camgirls?|sexo\s+(?:ao\s+vivo|en\s+vivo)|sexe\s+en\s+direct)\b)",
+     R"(\b(?:live-?(?:sex|cams?|strip)|sexcam\w*|telefonsex|camgirls?|sexo\s+(?:ao\s+vivo|en\s+vivo)|sexe\s+en\s+direct)\b)"); }),
      true},
 });
 // clang-format on

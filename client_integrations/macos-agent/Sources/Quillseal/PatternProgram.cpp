@@ -32,6 +32,24 @@ bool Matcher::looksAhead(std::uint32_t instruction, std::size_t position, Backtr
   return run(instruction, position, Purpose::lookAhead, stack).has_value();
 }
 
+bool Matcher::loopTakes(const Instruction& loop, std::size_t position, BacktrackStack& stack) {
+  if (sets_->contains(loop.set, text_->classAt(position))) return true;
+  if (loop.exception == 0 || position == text_->size()) return false;
+  const ProgramEntry& exception = program_->exceptions[loop.exception - std::size_t{1}];
+  return exception.beginning.allows(*text_, position, *sets_) &&
+         looksAhead(exception.instruction, position, stack);
+}
+
+bool Matcher::isPrecededByWord(const Instruction& instruction, std::size_t position) const {
+  for (std::size_t length = 1; length <= std::min<std::size_t>(instruction.max, position);
+       ++length) {
+    const std::size_t start = position - length;
+    if (!sets_->contains(instruction.set, text_->classAt(start))) return false;
+    if (length >= instruction.count && text_->isWordBoundary(start)) return true;
+  }
+  return false;
+}
+
 std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t position,
                                         Purpose purpose, BacktrackStack& stack) {
   const PatternProgram<Stored>& program = *program_;
@@ -86,7 +104,7 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
   const auto leaveFromFirst = [&](std::uint32_t index, std::size_t at, std::uint32_t rest) {
     const auto& loop = program.code[index];
     while (!mayLeaveLoop(index, at)) {
-      if (rest == 0 || !sets.contains(loop.set, text.classAt(at))) return false;
+      if (rest == 0 || !loopTakes(loop, at, stack)) return false;
       ++at;
       if (rest != unbounded) --rest;
       if (remembering_ && rest == unbounded && known(loop.memo, at) == Known::fails) return false;
@@ -151,13 +169,18 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
                    (current.operation == Operation::precededBy);
         ++instruction;
         break;
+      case Operation::precededByWord:
+        advanced = isPrecededByWord(current, position);
+        ++instruction;
+        break;
       case Operation::choice:
       case Operation::greedyLoop:
       case Operation::lazyLoop: {
         const std::uint32_t index = instruction;
         const bool isLoop = current.operation != Operation::choice;
         const bool isEndless = isLoop && current.max == Instruction::endless;
-        if (remembering_) {
+        const bool remembers = remembering_;  // an exception of the loop may begin to
+        if (remembers) {
           const Known outcome = known(current.memo, position);
           if (outcome == Known::succeeds) {
             stack.resize(base);
@@ -181,16 +204,16 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
         std::size_t high = position;
         const std::size_t limit = isEndless ? text.size() : position + current.max;
         bool failsFromHigh = false;
-        while (high < limit && sets.contains(current.set, text.classAt(high))) {
+        while (high < limit && loopTakes(current, high, stack)) {
           ++high;
-          if (remembering_ && isEndless && known(current.memo, high) == Known::fails) {
+          if (remembers && isEndless && known(current.memo, high) == Known::fails) {
             failsFromHigh = true;
             break;
           }
         }
         steps_ += high - position;
         if (failsFromHigh) --high;
-        if (remembering_ && isEndless) stack.back().rest = static_cast<std::uint32_t>(high);
+        if (remembers && isEndless) stack.back().rest = static_cast<std::uint32_t>(high);
         advanced = high >= low && leaveFromLast(index, low, high);
         break;
       }
@@ -208,7 +231,7 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
       }
       if ((frame.instruction & instructionFailed) != 0) {
         remember(tried.memo, frame.position, Known::fails);
-        if (tried.max == Instruction::endless) rememberRestOfRun(tried, frame);
+        if (tried.max == Instruction::endless) rememberRestOfRun(tried, frame, stack);
         continue;
       }
       position = frame.position;
@@ -216,7 +239,7 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
         advanced = choose(index, frame.rest);
       } else if (tried.operation == Operation::greedyLoop) {
         advanced = leaveFromLast(index, frame.rest, frame.position);
-      } else if (frame.rest > 0 && sets.contains(tried.set, text.classAt(position))) {
+      } else if (frame.rest > 0 && loopTakes(tried, position, stack)) {
         const std::uint32_t rest = frame.rest == unbounded ? unbounded : frame.rest - 1;
         advanced = leaveFromFirst(index, position + 1, rest);
       }
@@ -282,14 +305,14 @@ void Matcher::rememberPath(std::span<const BacktrackFrame> path) {
 }
 
 /// An endless loop that fails somewhere fails from the rest of the same run, too.
-void Matcher::rememberRestOfRun(const Instruction& loop, const BacktrackFrame& frame) {
+void Matcher::rememberRestOfRun(const Instruction& loop, const BacktrackFrame& frame,
+                                BacktrackStack& stack) {
   if (loop.operation == Operation::greedyLoop) {
     for (std::size_t at = frame.position + 1; at <= frame.rest; ++at)
       remember(loop.memo, at, Known::fails);
   } else if (loop.operation == Operation::lazyLoop) {
     for (std::size_t at = frame.position;
-         sets_->contains(loop.set, text_->classAt(at)) && known(loop.memo, at + 1) != Known::fails;
-         ++at)
+         loopTakes(loop, at, stack) && known(loop.memo, at + 1) != Known::fails; ++at)
       remember(loop.memo, at + 1, Known::fails);
   }
 }

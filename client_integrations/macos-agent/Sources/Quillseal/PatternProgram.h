@@ -45,6 +45,7 @@ enum class Operation : std::uint16_t {
   negativeLookAhead,  ///< likewise
   precededBy,
   notPrecededBy,
+  precededByWord,  ///< `count` to `max` code points of `set` behind a word boundary
 };
 
 /// Continues with the next one unless it says otherwise.
@@ -55,6 +56,8 @@ struct Instruction {
   std::uint16_t memo = 0;  ///< row in the memory of failures
   ClassSetId set = 0;
   std::uint16_t first = 0;  ///< for a loop: what follows it begins with, in `beginnings`
+  /// For a loop: which of `exceptions`, counted from 1, takes code points that are not of `set`.
+  std::uint16_t exception = 0;
 
   static constexpr std::uint16_t endless = 0xFFFF;  ///< as `max`
 };
@@ -73,9 +76,13 @@ struct PatternProgram {
   Array<ProgramEntry> targets;
   Array<Beginning> beginnings;
   Array<ProgramEntry> entries;  ///< the whole, then the alternatives that it is a choice of
-  std::uint16_t memoRows = 0;   ///< of the memory of failures
+  /// Programs that match one code point where its neighbours allow it.
+  Array<ProgramEntry> exceptions;
+  std::uint16_t memoRows = 0;  ///< of the memory of failures
 
-  void transfer(auto& archive) { archive(code, letters, targets, beginnings, entries, memoRows); }
+  void transfer(auto& archive) {
+    archive(code, letters, targets, beginnings, entries, exceptions, memoRows);
+  }
 
   [[nodiscard]] const ProgramEntry& whole() const { return entries.front(); }
   /// The alternative of that index; the whole when the pattern is no choice of alternatives.
@@ -123,6 +130,10 @@ class Matcher {
                                  BacktrackStack& stack);
   [[nodiscard]] bool looksAhead(std::uint32_t instruction, std::size_t position,
                                 BacktrackStack& stack);
+  /// Whether a round of the loop takes the code point at `position`.
+  [[nodiscard]] bool loopTakes(const Instruction& loop, std::size_t position,
+                               BacktrackStack& stack);
+  [[nodiscard]] bool isPrecededByWord(const Instruction& instruction, std::size_t position) const;
   [[nodiscard]] std::optional<std::size_t> foldedTextEnd(const Instruction& instruction,
                                                          std::size_t position) const;
   [[nodiscard]] bool atTextEnd(std::size_t position) const;
@@ -131,7 +142,8 @@ class Matcher {
   void remember(std::uint32_t row, std::size_t position, Known what);
   void rememberPath(std::span<const BacktrackFrame> path);
   /// `frame`: met when everything that the loop led to from there has failed.
-  void rememberRestOfRun(const Instruction& loop, const BacktrackFrame& frame);
+  void rememberRestOfRun(const Instruction& loop, const BacktrackFrame& frame,
+                         BacktrackStack& stack);
   void forgetBefore(std::size_t position);
 
   const PatternProgram<Stored>* program_;

@@ -198,7 +198,7 @@ constexpr auto table = std::to_array<Rule>({
      "says a session or access is about to end, to rush the reader to a sign-in page",
      pattern([] { return std::string_view(
      R"(\b(?:membership|subscription|plan|protection|renewal)\b<60>\b(?:set|scheduled|due)\s+(?:to|for)\s+(?:auto-?matic\s+|auto-?)?renew(?:al)?\b|)"
-     R"(\b(?:we\s+will|will\s+be|is\s+going\s+to\s+be)\s+(?:automatically\s+)?(?:debit(?:ed)?|charged?|deducted)\b<30>[$€£]\s?\d|)"
+     R"(\b(?:we\s+will|will\s+be|is\s+going\s+to\s+be)\s+(?:automatically\s+)?(?:debit(?:ed)?|charged?|deducted)\b<30><amount>|)"
      R"(\b(?:automatic|auto)\s+(?:charge|debit|renewal)\s+of\s+[$€£]?\s?\d|)"
      R"(\b(?:session|access|log-?in|link|token|certificate|authentication|security\s+(?:certificate|token)|2fa|mfa)\b<25>\b(?:has\s+expired|have\s+expired|is\s+expired|expired|will\s+expire|expires|is\s+expiring|is\s+about\s+to\s+expire|about\s+to\s+expire|due\s+to\s+expire|timed\s+out|expiring)\b<60>\b(?:sign|log|click|verify|renew|re-?authenticate|update|continue|confirm|restore|extend|within|in\s+\d+)\b|)"
      R"(\b(?:subscription|membership|licen[cs]e|plan|account|domain|mailbox|storage|protection|hosting|antivirus|package)\b<20>\b(?:has\s+expired|have\s+expired|has\s+ended|is\s+expired|will\s+expire|expires|is\s+expiring|is\s+about\s+to\s+expire|about\s+to\s+expire|due\s+to\s+expire|will\s+be\s+terminated|has\s+lapsed|could\s+not\s+be\s+renewed|was\s+not\s+renewed)\b|)"
@@ -521,6 +521,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:send|make|direct|redirect|remit|route|re-?route|transfer|wire|pay|forward|deposit|process|issue)\b<30>\b(?:all\s+|any\s+|future\s+|outstanding\s+|upcoming\s+|further\s+|pending\s+|subsequent\s+|this\s+|the\s+|open\s+|remaining\s+)(?:\w+\s+){0,3}(?:payments?|invoices?|remittances?|transfers?|wires?|funds|deposits?|balances?)\b<50>\b(?:new|different|alternative|alternate|another|following|below|updated|attached|other|designated|subsidiary|nominated|corrected|stated)\b<20>\b(?:account|bank|details|instructions|information|beneficiary|iban|coordinates|below)\b|)"
      R"(\b(?:stop|hold|halt|suspend|do\s+not|don['’]t|cease|refrain\s+from|avoid|no\s+longer|discontinue|disregard|ignore)\b<20>\b(?:send|mak|remit|pay|transfer|process|us|wir|the|any|all|be\s+sent)(?:e|ing|ting)?\b<40>\b(?:payments?|old|previous|usual|former|earlier|existing|current)\b<25>\b(?:account|bank|details|instructions|until)\b|)"
      R"(\b(?:payments?|transfers?|funds|wires?|remittances?|invoices?|balance|money|deposit)\b<25>\b(?:should|must|will|has|have|needs?|can|is)\s+(?:to\s+)?(?:now\s+|only\s+|henceforth\s+|no\s+longer\s+|be\s+)*(?:be\s+)?(?:go|made|sent|paid|remitted|directed|deposited|credited|transferred|wired)\b<20>\b(?:to|into)\b<20>\b(?:new|different|alternative|another|following|below|updated|our\s+other|subsidiary\w*|escrow|sister\s+company|trust\s+account|factoring|our\s+\w+\s+partner)\b|)"
+     R"(\b(?:wire|transfer|remit|send|pay)\s+(?:out\s+|over\s+|us\s+|them\s+)?<amount><40>\b(?:to|into)\b<15>\b(?:following|below|new|attached|this|another|different|alternative)\b<20>\b(?:account|beneficiary|iban|bank|details|payee)\b|)"
      R"(\b(?:pay|payment|transfer|wire|remit|send\s+it|paid)\b<30>\b(?:into|to|in)\b<12>\b(?:our|my|their|a|the|your)\s+(?:new|alternative|subsidiary['’]?s?|other|sister\s+company['’]?s?|corrected|second|foreign)\s+(?:\w+\s+)?(?:account|bank|company)\b|)"
      R"(\b(?:process|arrange|initiate|make|send|complete|issue|effect|execute|prioriti[sz]e|handle|set\s+up)\b<25>\b(?:fund|funds|wire|bank|ach|swift|money|same-day|international|domestic|outgoing|urgent)?\s?(?:transfer|wire|payment|deposit|remittance)\b<40>\b(?:to|into|using|with)\b<20>\b(?:bank|account|beneficiary|vendor|payment)\s+(?:account\s+)?(?:details|information|instructions|coordinates)\b<15>\b(?:below|attached|following|provided|here|i|given|above)?|)"
      R"(\b(?:bank|account|wire|payment|beneficiary)\s+(?:account\s+)?(?:details|information|coordinates|instructions)\s+(?:below|attached|as\s+follows|provided|are\s+below|are\s+attached|shortly|once|as\s+soon\s+as|when|right\s+away|after)\b<80>\b(?:transfer|wire|payment|remit|pay|confirm\w*|done|ready|available|hear)\b|)"
@@ -537,12 +538,13 @@ constexpr auto table = std::to_array<Rule>({
     {"bec-urgent-wire", "Payment redirection", "warn", 45,
      "presses for an urgent payment or transfer",
      pattern([] { return std::string_view(
+     R"(\b(?:wire|transfer|remit|send|pay|wiring|transferring|sending)\s+(?:out\s+|over\s+|us\s+|them\s+|him\s+|me\s+)?<amount><80>\b(?:today|urgent\w*|immediately|asap|at\s+once|straight\s+away|right\s+away|before\s+(?:noon|close|the\s+bank)|within\s+the\s+hour|by\s+(?:noon|close|\d+\s?[ap]m))\b|)"
      R"(\bprocess\s+(?:the|a|this)\s+payment\s+of\s+\S{1,16}\s+to\b|\binstructions\s+for\s+(?:a|the)\s+(?:wire|bank)\s+transfer\b|\bto\s+be\s+wired\s+by\b|)"
      R"(\b(?:get|have)\s+(?:it|this|them)\s+paid\b<20>\b(?:today|now|asap)\b|\bpay\s+the\s+attached\b<20>\b(?:today|now|for\s+me)\b|\bpay\s+(?:this|a)\s+(?:contractor|vendor|supplier|freelancer|consultant)\b<20>\btoday\b|)"
      R"(\bprocess\s+the\s+attached\s+(?:payment|wire|wiring|transfer)\b|\bget\s+(?:this|it|that)\s+(?:wired|transferred)\b|\bmake\s+an\s+ach\b|\bout\s+in\s+today['’]s\s+(?:batch|run)\b|)"
      R"(\bwire\s+(?:it|them|this|the\s+\w+)\b<30>\b(?:today|this\s+(?:am|morning|afternoon)|now|asap|by\s+\d|to\s+the\s+(?:info|account|details)\s+(?:below|attached))\b|)"
      R"(\b(?:arrange|make|process|release|settle)\s+(?:the\s+|a\s+|this\s+)?payment\b<40>\b(?:by\s+close|today|this\s+morning|immediately|by\s+noon|within\s+\w+\s+hours?)\b|)"
-     R"(\b(?:need|want)\s+[$€£]\s?\d[\d,.]*\s?k?\s+(?:moved|sent|wired|transferred)\b|)"
+     R"(\b(?:need|want)\s+<amount>\s+(?:moved|sent|wired|transferred)\b|)"
      R"(\b(?:send|pay|paid)\b<40>\b(?:via|through|by|on)\s+(?:zelle|venmo|cash\s?app)\b|\baccess\s+to\b<30>\b(?:zelle|venmo|cash\s?app)\b|)"
      R"(\bwas\s+the\s+(?:wire|transfer)\s+(?:sent|made)\b|\b(?:are|whether)\s+you(?:['’]re|\s+are)?\s+able\s+to\s+make\s+the\s+transfer\b|)"
      R"(\b(?:must|needs?\s+to|has\s+to)\s+reach\b<40>\baccount\b<20>\b(?:before|by|today)\b|)"
@@ -619,7 +621,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:send|e-?mail|need|forward|provide)\b<40>\b(?:list|copy|register|report|details|records)\b<20>\b(?:all\s+(?:our\s+|the\s+)?(?:employees|staff)|employees?\s+with|payroll|overdue\s+customers|customers['’]?\s+overdue)\b|)"
      R"(\bcould\s+you\s+(?:release|approve)\s+(?:payments?|a\s+wire|by\s+yourself)\b|\bable\s+to\s+(?:release|approve)\s+(?:payments?|by\s+yourself|wires?)\b|)"
      R"(\b(?:add|adding)\s+(?:this\s+|a\s+)?new\s+payee\b|)"
-     R"(\b(?:i|we)\s+(?:need|want|would\s+like|['’]d\s+like|require|am\s+counting\s+on)\b<8>\byou\s+to\b<30>\b(?:handle|take\s+care\s+of|complete|carry\s+out|run|do|process|execute|make|send|set\s+up|initiate|arrange|pay|purchase)\b<25>(?:\b(?:task|errand|assignment|transaction|payments?|transfers?|purchase|wire|new\s+payee|gift\s+cards?|out\s+two)|[$€£]\s?\d)\b|)"
+     R"(\b(?:i|we)\s+(?:need|want|would\s+like|['’]d\s+like|require|am\s+counting\s+on)\b<8>\byou\s+to\b<30>\b(?:handle|take\s+care\s+of|complete|carry\s+out|run|do|process|execute|make|send|set\s+up|initiate|arrange|pay|purchase)\b<25>(?:\b(?:task|errand|assignment|transaction|payments?|transfers?|purchase|wire|new\s+payee|gift\s+cards?|out\s+two)\b|<amount>)|)"
      R"(\b(?:handle|take\s+care\s+of|complete|carry\s+out|run|attend\s+to|assist\s+(?:me\s+)?(?:with|in|on)|help\s+(?:me\s+)?(?:with|out\s+with)|do|execute)\b<15>\b(?:a|an|this|some|one)\b<8>\b(?:quick\s+|urgent\s+|small\s+|confidential\s+|personal\s+|discreet\s+|brief\s+|little\s+|sensitive\s+){1,3}(?:task|errand|assignment|matter|favou?r|something|transaction|purchase|payment)\b|)"
      R"(\b(?:urgent|confidential|personal|discreet|time[- ]sensitive|quick)\s+(?:task|errand|assignment)\b|)"
      R"(\brun\s+an\s+errand\b<30>\b(?:for\s+me|quick\w*|today|now)\b|)"
@@ -707,17 +709,17 @@ constexpr auto table = std::to_array<Rule>({
      "talks the reader into buying gift cards for somebody else",
      pattern([] { return std::string_view(
      R"(\b(?:surpris(?:e|ing)|reward(?:ing)?)\b<60>\b(?:staff|employees|team|teachers|clients|volunteers)\b<30>\bgift\s?cards?\b|\bprepaid\s+(?:visa\s+|debit\s+|gift\s+)?cards\b<30>\b(?:bought|codes?|client)\b|)"
-     R"(\b(?:grab|get|buy|order|purchase|pick\s+up|need)\b<40>\b\d+\s?(?:x|×)\s?[$€£]\s?\d+\s+(?:\w+\s+){0,2}(?:e-?)?(?:cards?|vouchers?|gift\s?cards?)\b|)"
+     R"(\b(?:grab|get|buy|order|purchase|pick\s+up|need)\b<40>\b\d+\s?(?:x|×)\s?<amount>\s+(?:\w+\s+){0,2}(?:e-?)?(?:cards?|vouchers?|gift\s?cards?)\b|)"
      R"(\b(?:get|buy|order|purchase|pick\s+up)\b<30>\b(?:google\s+play|itunes|steam|ebay|razer|vanilla)\s+(?:gift\s+)?cards?\b|)"
      R"(\bgift\s?cards?\b[^!?]{0,120}\bface\s+value\b|)"
-     R"(\b(?:need|get|grab|pick\s+up|buy|purchase|send)\b<60>\b(?:amazon|apple|itunes|google\s+play|steam|target|walmart|visa|vanilla|ebay|razer|sephora|best\s+buy|nordstrom)\b<20>\b(?:gift\s?cards?|cards|vouchers?)\b<30>(?:\d\s?(?:x|×|pieces|pcs)\s|[$€£]\s?\d)|)"
+     R"(\b(?:need|get|grab|pick\s+up|buy|purchase|send)\b<60>\b(?:amazon|apple|itunes|google\s+play|steam|target|walmart|visa|vanilla|ebay|razer|sephora|best\s+buy|nordstrom)\b<20>\b(?:gift\s?cards?|cards|vouchers?)\b<30>(?:\d\s?(?:x|×|pieces|pcs)\s|<amount>)|)"
      R"(\b(?:should|must|needs?\s+to)\s+be\s+(?:amazon|apple|itunes|google\s+play|steam|target|walmart|visa|vanilla|ebay|razer)\b<20>\bcards\b|)"
-     R"(\b(?:i\s+need|need\s+you|want\s+you|we\s+need|buy|buying|purchase|purchasing|pick(?:ing)?\s+(?:them\s+|some\s+)?up|get|getting|grab|procure|arrange|obtain|surprise|send|present)\b<60>\b(?:apple|i-?tunes|google\s+play|steam|amazon|e-?bay|visa|amex|american\s+express|vanilla|razer\s+gold|sephora|nike|walmart|target|best\s+buy|playstation|xbox|neosurf|paysafe(?:card)?|physical|e-?gift|several|different|pieces\s+of|quantities\s+of|a\s+number\s+of|some|few|\d+)\b<12>\b(?:gift\s?cards?|e-?gift\s+cards?|gift\s+vouchers?|(?:google\s+play|i-?tunes|steam|apple|amazon|razer\s+gold|vanilla)\s+(?:gift\s+)?cards?|prepaid\s+cards?|cards?\s+at\s+\$?\d|cards?\s+of\s+\$?\d|cards?\s+worth\s+\$?\d)\b<100>\b(?:for\s+(?:me|a|our|some|the|my|us|you)|today|now|asap|urgent\w*|reimburs\w*|refund|pay\s+you|client|customer|staff|team|employees?|surprise|partners?|store|how\s+soon|let\s+me\s+know|donat\w+|each|on\s+my\s+behalf)\b|)"
+     R"(\b(?:i\s+need|need\s+you|want\s+you|we\s+need|buy|buying|purchase|purchasing|pick(?:ing)?\s+(?:them\s+|some\s+)?up|get|getting|grab|procure|arrange|obtain|surprise|send|present)\b<60>\b(?:apple|i-?tunes|google\s+play|steam|amazon|e-?bay|visa|amex|american\s+express|vanilla|razer\s+gold|sephora|nike|walmart|target|best\s+buy|playstation|xbox|neosurf|paysafe(?:card)?|physical|e-?gift|several|different|pieces\s+of|quantities\s+of|a\s+number\s+of|some|few|\d+)\b<12>\b(?:gift\s?cards?|e-?gift\s+cards?|gift\s+vouchers?|(?:google\s+play|i-?tunes|steam|apple|amazon|razer\s+gold|vanilla)\s+(?:gift\s+)?cards?|prepaid\s+cards?|cards?\s+(?:at|of|worth)\s+(?:<amount>|\d))\b<100>\b(?:for\s+(?:me|a|our|some|the|my|us|you)|today|now|asap|urgent\w*|reimburs\w*|refund|pay\s+you|client|customer|staff|team|employees?|surprise|partners?|store|how\s+soon|let\s+me\s+know|donat\w+|each|on\s+my\s+behalf)\b|)"
      R"(\b(?:google\s+play|i-?tunes|steam|apple|razer\s+gold|vanilla)\s+(?:gift\s+)?cards?\b<40>\b(?:for\s+(?:a|our|my|some)\s+(?:client|customer|friend|partner|niece|nephew)|today|asap|each|worth|urgent\w*)\b|)"
      R"(\bgift\s?cards?\b<40>\b(?:for|to)\s+(?:our\s+|some\s+|the\s+|my\s+|a\s+few\s+|all\s+|all\s+the\s+|few\s+|the\s+top\s+|our\s+top\s+)*(?:staff|employees?|clients?|team|colleagues?|veterans?|patients?|personnel|members\s+of\s+staff|hospice|niece|nephew|associates?|prospects?|partners?|diligent)\b|)"
      R"(\b(?:surprise|reward|appreciate)\b<40>\b(?:staff|team|employees?|colleagues?|clients?)\b<40>\bgift\s?cards?\b|)"
      R"(\b(?:buy|purchase|pick\s+up|get|grab)\b<30>\bgift\s?cards?\b<60>\b(?:for\s+me|on\s+my\s+behalf|from\s+(?:any|the\s+nearest|a)\s+(?:\w+\s+)?(?:store|shop)|nearest\s+store|at\s+the\s+store|right\s+away|asap|reimburs\w*|refund\s+you|pay\s+you\s+back|denomination|sent\s+to\s+a\s+friend)\b|)"
-     R"(\bgift\s?cards?\b<40>(?:\b(?:in\s+\$?\d+|denominations?|face\s+value|how\s+many\s+can\s+you|how\s+soon\s+can\s+you)|\$?\d+\s+(?:each|value|face\s+value))\b|)"
+     R"(\bgift\s?cards?\b<40>(?:\b(?:in\s+[$€£]?\d+|denominations?|face\s+value|how\s+many\s+can\s+you|how\s+soon\s+can\s+you)|(?:<amount>|\b\d+)\s+(?:each|value|face\s+value))\b|)"
      R"(\b(?:kaufen|besorgen|besorge|kauf|kaufst|brauche|benötige)\b<50>\b(?:geschenkkarten|gutscheinkarten|guthabenkarten|(?:google[- ]play|itunes|apple|amazon|steam|paysafe)[- ]?(?:karten|gutscheine?|codes?))\b|)"
      R"(\b(?:achete[rz]|acheter|procure[rz]|besoin\s+de)\b<50>\b(?:cartes?\s+cadeaux?|coupons?\s+(?:pcs|transcash|neosurf|toneo)|cartes?\s+(?:google\s+play|itunes|steam|apple))\b|)"
      R"(\b(?:compr(?:ar|es?|a|e)|consig\w+|necesito|preciso)\b<50>\b(?:tarjetas?\s+(?:de\s+)?regalo|cart(?:ão|ões|ao|oes)\s+(?:de\s+)?presente|vales?[- ]presente|gift\s+cards?)\b|)"
@@ -771,7 +773,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:send|transfer|deposit|pay|remit|make\s+(?:a|the)\s+(?:payment|transfer))\b<60>\b(?:btc|bitcoins?|eth|ether(?:eum)?|usdt|tether|usdc|sol|solana|xrp|crypto(?:currency|currencies)?|coins?|monero|xmr|litecoin|ltc|trx|bnb)\b<60>\b(?:to|into)\s+(?:the|this|that|my|our|your|below|following|one\s+of|any\s+of)\b<25>\b(?:wallets?|address(?:es)?|account|below|following)\b|)"
      R"(\b(?:my|our|the|this|following)\s+(?:\w+\s+)?(?:btc|bitcoin|eth|ethereum|usdt|tether|crypto|monero|litecoin|ltc)\s+(?:wallet|address|wallet\s+address)\b|)"
      R"(\b(?:wallet|btc|bitcoin|usdt|eth)\s+address\b<12>(?::|\bis\b|\bbelow\b)|)"
-     R"(\b(?:send|transfer|pay|deposit)\b<15>(?:\$\s?\d[\d,.]*|\d[\d,.]*\s?(?:usd|eur|dollars|euros|btc|eth|usdt))<40>\b(?:in|of|worth\s+of|via|using|through)\b<12>\b(?:bitcoins?|btc|crypto\w*|usdt|ethereum|monero)\b|)"
+     R"(\b(?:send|transfer|pay|deposit)\b<15>(?:<amount>|\d[\d,.]*\s?(?:btc|eth|usdt))<40>\b(?:in|of|worth\s+of|via|using|through)\b<12>\b(?:bitcoins?|btc|crypto\w*|usdt|ethereum|monero)\b|)"
      R"(\b(?:wallet|address)\b<30>\b(?:copy\s+(?:and|&)\s+paste|copy[- ]paste|case[- ]sensitive|send\s+(?:the\s+)?(?:payment|funds|coins))\b|)"
      R"(\b(?:überweis\w+|send\w+|zahl\w+|transferier\w+)\b<60>\b(?:bitcoins?|btc|usdt|krypto\w*)\b<60>\b(?:wallet|adresse|konto)\b|)"
      R"(\b(?:envoye[rz]|transfére[rz]|vire[rz]|verse[rz])\b<60>\b(?:bitcoins?|btc|usdt|crypto\w*)\b<60>\b(?:portefeuille|adresse)\b|)"
@@ -860,8 +862,8 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:guaranteed?|assured|certain|fixed|steady|consistent)\b<25>\b(?:returns?|profits?|income|roi|earnings|gains?|payouts?|winnings|daily\s+profit)\b<40>\b(?:(?:invest\w*|trad\w*|daily|weekly|monthly|crypto\w*|bitcoin|forex|percent|capital|deposit|day|week|month)\b|\d+\s?%)|)"
      R"(\b(?:invest\w*|trad\w*|crypto\w*|bitcoin|forex|deposit)\b<60>\b(?:guaranteed?|assured)\b<25>\b(?:returns?|profits?|income|roi|earnings|gains?|payouts?)\b|)"
      R"(\b(?:earn|make|profit|returns?|roi|gain|receive|yield)\b<25>\b(?:up\s+to\s+|over\s+|at\s+least\s+|of\s+)?\d[\d.,]*\s?(?:%|percent)<15>\b(?:daily|per\s+day|a\s+day|every\s+day|weekly|per\s+week|every\s+week|a\s+week|in\s+(?:\d+|24)\s+(?:hours|days)|monthly|per\s+month)\b|)"
-     R"(\b(?:earn|make|making|earning|generate|pocket)\b<25>[$€£]\s?\d[\d,.]*k?\b<20>\b(?:daily|per\s+day|a\s+day|every\s+day|weekly|per\s+week|a\s+week|every\s+week|in\s+(?:just\s+)?\d+\s+(?:hours?|days?)|per\s+hour|an\s+hour)\b<60>\b(?:invest\w*|trad\w*|crypto\w*|bitcoin|forex|platform|app|bot|system|software|ai|automated)\b|)"
-     R"(\b(?:invest\w*|trad\w*|crypto\w*|bitcoin|forex|bot)\b<60>\b(?:earn|make|making|earning|generat\w+|pocket\w*)\b<25>[$€£]\s?\d[\d,.]*k?\b<20>\b(?:daily|per\s+day|a\s+day|every\s+day|weekly|per\s+week|a\s+week|every\s+week|in\s+(?:just\s+)?\d+\s+(?:hours?|days?))\b|)"
+     R"(\b(?:earn|make|making|earning|generate|pocket)\b<25><amount>\b<20>\b(?:daily|per\s+day|a\s+day|every\s+day|weekly|per\s+week|a\s+week|every\s+week|in\s+(?:just\s+)?\d+\s+(?:hours?|days?)|per\s+hour|an\s+hour)\b<60>\b(?:invest\w*|trad\w*|crypto\w*|bitcoin|forex|platform|app|bot|system|software|ai|automated)\b|)"
+     R"(\b(?:invest\w*|trad\w*|crypto\w*|bitcoin|forex|bot)\b<60>\b(?:earn|make|making|earning|generat\w+|pocket\w*)\b<25><amount>\b<20>\b(?:daily|per\s+day|a\s+day|every\s+day|weekly|per\s+week|a\s+week|every\s+week|in\s+(?:just\s+)?\d+\s+(?:hours?|days?))\b|)"
      R"(\b(?:garantiert\w*|sicher\w*)\b<20>\b(?:rendite\w*|gewinne?|ertr[aä]g\w*|einkommen)\b|)"
      R"(\b(?:rendements?|gains?|bénéfices|revenus?|profits?)\s+(?:\w+\s+)?garantis?\b|)"
      R"(\b(?:ganancias?|rendimientos?|rentabilidad|ingresos|lucros?|ganhos?|retornos?|rendimentos?)\s+(?:\w+\s+)?(?:garantizad[oa]s?|garantid[oa]s?|asegurad[oa]s?)\b|)"
@@ -929,7 +931,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\bcongrat(?:ulation)?s?\b<60>\b(?:you(?:['’]ve|\s+have)?\s+(?:\w+\s+)?(?:won|been\s+(?:selected|chosen))|you\s+are\s+(?:\w+\s+){0,4}(?:winner|eligible|qualified)|your\s+(?:\w+\s+)?(?:reward|prize|gift))\b|)"
      R"(\b(?:you|u)(?:\s+have\s+been|['’]ve\s+been|\s+were|\s+are)\s+(?:\w+\s+)?(?:selected|chosen|picked)\s+(?:as\s+(?:one\s+of\s+(?:the|our)\s+(?:\w+\s+)?(?:winners?|few|lucky)|a\s+(?:\w+\s+)?winner)|to\s+(?:receive|win|get|claim|try|enjoy|join\s+our|complete)|for\s+(?:a|an|our|the|this)\s+(?:\w+\s+){0,2}(?:prize|reward|gift|chance|exclusive|free|giveaway|loyalty))\b|)"
      R"(\b(?:claim|collect|redeem|unlock)\b\s+(?:your|ur|the)\s+(?:[\w$€£'’.-]+\s+){0,4}(?:prize|winnings?|free\s+gift|gift|jackpot|gift\s?card|mystery\s+box|surprise|giveaway|voucher|sample|set|kit)\b|)"
-     R"((?:\b(?:special|exclusive|free|mystery|brand[- ]new|reward|surprise|gift|prize)|\$\d+|€\d+)\b<25>\b(?:is|are)\s+(?:\w+\s+)?(?:waiting\s+for\s+you|reserved\s+for\s+you|yours\s+to\s+claim|ready\s+to\s+(?:be\s+)?claim(?:ed)?|set\s+aside\s+for\s+you)\b|)"
+     R"((?:\b(?:special|exclusive|free|mystery|brand[- ]new|reward|surprise|gift|prize)\b|<amount>)<25>\b(?:is|are)\s+(?:\w+\s+)?(?:waiting\s+for\s+you|reserved\s+for\s+you|yours\s+to\s+claim|ready\s+to\s+(?:be\s+)?claim(?:ed)?|set\s+aside\s+for\s+you)\b|)"
      R"(\byou(?:['’]ve|\s+have)\s+(?:been\s+)?(?:won|win)\s+(?:a|an|the|our|\(?1\)?)\s+(?:[\w-]+\s+){0,2}(?:new|free|brand[- ]new|\$\d|prize|gift|voucher|reward|\(\d\))|)"
      R"(\bmystery\s+box\b<80>\b(?:claim|free|chance|receive|won|win|selected|waiting|yours|unclaimed|lost)\b|)"
      R"(\b(?:Sie|du|ihre\s+e-?mail(?:-adresse)?)\b<50>\b(?:[\w-]*gutschein\w*|gewinn|preis|prämie|geschenk\w*|iphone|exklusive\w*|brandneue\w*|belohnung|gratis\w*|kostenlose\w*)\b<60>\b(?:gewonnen|ausgewählt|auserwählt|ausgelost)\b|)"
@@ -953,7 +955,7 @@ constexpr auto table = std::to_array<Rule>({
      "holds out a prize, a reward or a stranger's donation to be claimed",
      pattern([] { return std::string_view(
      R"(\bdoou\b<30>\bmilhões\b|\bdoação\s+de\b<30>\bmilhões\b|)"
-     R"(\b(?:balance|payout|winnings)\s+of\s+[$€£]\s?\d[\d.,]*<60>\b(?:collect\w*|withdraw\w*|claim\w*|in\s+your\s+name)\b|)"
+     R"(\b(?:balance|payout|winnings)\s+of\s+<amount><60>\b(?:collect\w*|withdraw\w*|claim\w*|in\s+your\s+name)\b|)"
      R"(\b(?:grant|donation|award|sum|compensation)\s+of\s+(?:[\w-]+\s+){0,4}(?:million|thousand)\s+(?:[\w.]+\s+){0,3}(?:dollars|euros?|pounds|usd)\b|)"
      R"(\b(?:e-?mail|name)\s+(?:address\s+)?(?:was|has\s+been|were)\s+(?:\w+\s+)?(?:selected|chosen|picked|drawn)\b<40>\b(?:spin|random\w*|ballot|draw|donat\w+|grant|million|receive)\b|)"
      R"(\b(?:lottery|lotto|sweepstakes?|award|winning|promo|jackpot)\b<20>\b(?:claims?\s+(?:agent|department|officer|number|code|form|centre|center)|batch\s+(?:number|no)|serial\s+number|winning\s+(?:number|code))\b|)"
@@ -961,7 +963,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:donat(?:e|ed|ing|ion)|cash\s+(?:grant|aid|donation)|compensation|give\s+you|giving\s+you)\b<30>(?:of\s+|sum\s+of\s+|amount\s+of\s+)?[$€£]?\s?\d[\d,.]*<8>\b(?:million|m|usd|eur|euros?|dollars|pounds|gbp)\b<60>\b(?:you|your|to)\b|)"
      R"(\b(?:donation|compensation)\s+code\b|)"
      R"(\b(?:random(?:ly)?\s+selected\s+(?:individuals?|people|persons|e-?mails?)|selected\s+individuals?\s+(?:worldwide|globally)|lucky\s+(?:individual|beneficiar\w+|recipient))\b|)"
-     R"(\b(?:short|quick|brief|simple|30[- ]second|marketing|satisfaction|shopper|loyalty)\b<15>\bsurvey\b<80>(?:\b(?:win|reward\w*|free|receive|gift|prize|claim|exclusive|chance|brand[- ]new)|\$\d+)\b|)"
+     R"(\b(?:short|quick|brief|simple|30[- ]second|marketing|satisfaction|shopper|loyalty)\b<15>\bsurvey\b<80>(?:\b(?:win|reward\w*|free|receive|gift|prize|claim|exclusive|chance|brand[- ]new)\b|<amount>)|)"
      R"(\b(?:answer|complete|take|fill|participate|respond)\b<25>\b(?:survey|questionnaire|(?:few|\d+|some|simple|short|quick|easy)\s+(?:\w+\s+)?questions)\b<80>\b(?:win|reward|free|receive|gift|prize|claim|exclusive|chance|offer|surprise|bonus)\b|)"
      R"(\b(?:win|receive|get|claim|rewards?|gift|prize|request\s+it|chance)\b<60>\b(?:answer(?:ing)?|complet(?:e|ing)|tak(?:e|ing)|fill(?:ing)?(?:\s+out|\s+in)?|participat(?:e|ing))\b<25>\b(?:(?:marketing\s+|short\s+|quick\s+|our\s+|this\s+|brief\s+|\d+[- ]second\s+)+survey|questionnaire|(?:few|\d+|some|simple|short|quick|easy)\s+(?:\w+\s+)?questions)\b|)"
      R"(\b(?:chance|opportunity|enter)\s+(?:to|of)\s+(?:win|winning|receive|receiving|claim|get|getting)\s+(?:a\s+|an\s+|the\s+|your\s+|our\s+|one\s+of\s+|this\s+)?(?:[\w$€£'’-]+\s+){0,4}(?:brand[- ]?new|free|exclusive|prize|gift\s?card|i-?phone|samsung|voucher|mystery|jackpot|reward|[$€£]\d[\d,.]*|cooler|drill|set|kit|tool)|)"
@@ -1030,7 +1032,7 @@ constexpr auto table = std::to_array<Rule>({
      "asks for a fee before money or goods can be released",
      pattern([] { return std::string_view(
      R"(\b(?:pay|send|remit|paid|payment\s+of|settle|cover|require[sd]?|only)\b<30>\b(?:processing|release|clearance|handling|administrative|administration|transfer|activation|legal|registration|insurance|redelivery|re-?delivery|shipping|delivery|customs|courier|unlock|withdrawal|gas|verification|demurrage|security|documentation)\s+(?:fees?|charges?|costs?|tax)\b<60>\b(?:release\w*|receive|before|claim\w*|deliver\w*|funds?|parcel|package|prize|winnings?|withdraw\w*|loan|shipment|item|order|consignment|process|your)\b|)"
-     R"(\b(?:processing|release|clearance|handling|administrative|activation|redelivery|re-?delivery|shipping|delivery|customs|courier|withdrawal|unlock|demurrage)\s+(?:fees?|charges?|costs?)\b<40>(?:\b(?:of|is|only|may\s+apply|applies|before|required|must|needs?|unpaid|outstanding|to\s+be\s+paid)\b|:)<40>(?:[$€£]\s?\d|\d[\d.,]*\s?(?:usd|eur|gbp|€|\$)|\b(?:release\w*|claim\w*|receive|parcel|package|deliver\w*|funds?|withdraw\w*|paid|apply)\b)|)"
+     R"(\b(?:processing|release|clearance|handling|administrative|activation|redelivery|re-?delivery|shipping|delivery|customs|courier|withdrawal|unlock|demurrage)\s+(?:fees?|charges?|costs?)\b<40>(?:\b(?:of|is|only|may\s+apply|applies|before|required|must|needs?|unpaid|outstanding|to\s+be\s+paid)\b|:)<40>(?:<amount>|\b(?:release\w*|claim\w*|receive|parcel|package|deliver\w*|funds?|withdraw\w*|paid|apply)\b)|)"
      R"(\b(?:small|nominal|refundable|one[- ]time|minor|upfront|advance|little|token)\s+(?:\w+\s+)?(?:fee|charge|payment|deposit)\b<60>\b(?:release\w*|receive|claim\w*|deliver\w*|funds?|parcel|package|prize|loan|unlock|withdraw\w*|process\w*|shipping)\b|)"
      R"(\b(?:fee|charge|tax|cost)s?\b<30>\b(?:before|in\s+order\s+to|to\s+enable|so\s+that|prior\s+to)\b<30>\b(?:release|receive|claim|deliver\w*|withdraw\w*|your\s+(?:funds?|parcel|package|prize|money|loan))\b|)"
      R"(\b(?:zollgebühr\w*|versandgebühr\w*|versandkosten|bearbeitungsgebühr\w*|liefergebühr\w*|zustellgebühr\w*|zustellungsgebühr\w*|freigabegebühr\w*|gebühr(?:en)?)\b<60>\b(?:bezahlen|zahlen|begleichen|entrichten|zu\s+zahlen|zu\s+bezahlen|fällig|anfallen|beglichen|bezahlt|ausstehend\w*)\b|)"
@@ -1130,8 +1132,8 @@ constexpr auto table = std::to_array<Rule>({
     {"imp-support", "Impersonation", "warn", 40,
      "poses as the technical support of a well-known company",
      pattern([] { return std::string_view(
-     R"(\b(?:norton|mcafee|geek\s?squad|paypal|lifelock|totalav|microsoft|windows|quickbooks|best\s+buy|amazon|apple|netflix|premium|maxsecure)\b<80>\b(?:membership|subscription|renewal|protection\s+plan|auto-?renew\w*|order|renew)\b<100>(?:[$€£]\s?\d|\b(?:charged|debited|debit|help\s?line|help\s?desk|toll[- ]?free)\b)|)"
-     R"(\b(?:membership|subscription|renewal|plan)\b<60>\b(?:norton|mcafee|geek\s?squad|paypal|lifelock|totalav|microsoft|windows|quickbooks|maxsecure)\b<100>(?:[$€£]\s?\d|\b(?:charged|debited|debit|set\s+to\s+renew|scheduled)\b)|)"
+     R"(\b(?:norton|mcafee|geek\s?squad|paypal|lifelock|totalav|microsoft|windows|quickbooks|best\s+buy|amazon|apple|netflix|premium|maxsecure)\b<80>\b(?:membership|subscription|renewal|protection\s+plan|auto-?renew\w*|order|renew)\b<100>(?:<amount>|\b(?:charged|debited|debit|help\s?line|help\s?desk|toll[- ]?free)\b)|)"
+     R"(\b(?:membership|subscription|renewal|plan)\b<60>\b(?:norton|mcafee|geek\s?squad|paypal|lifelock|totalav|microsoft|windows|quickbooks|maxsecure)\b<100>(?:<amount>|\b(?:charged|debited|debit|set\s+to\s+renew|scheduled)\b)|)"
      R"(\b(?:microsoft|windows|apple|google|amazon|paypal|netflix|facebook|meta|instagram|whats\s?app|coinbase|metamask|ledger|binance|norton|mcafee|geek\s?squad|icloud|outlook|office\s?365|yahoo|dhl|ups|fedex|usps|docusign|trust\s?wallet|blockchain|kraken|exodus|opensea|trezor|linkedin|spotify|webmail|e-?mail|mail|helpdesk|it)\b<5>\b(?:technical\s+|customer\s+|account\s+|security\s+|online\s+|wallet\s+|live\s+|e-?mail\s+|help\s+|it\s+|admin\s+)*(?:support|help\s?desk|service\s+desk|security|care|services?|administrator|admin|assistance|account|verification|protection|billing)(?:\s+team|\s+department|\s+center|\s+centre|\s+desk|\s+staff|\s+agent)\b|)"
      R"(\b(?:this\s+is|i\s+am|i['’]m|we\s+are|calling|writing)\b<15>\b(?:from|with)\b<15>\b(?:the\s+)?(?:it\s+(?:support|department|help\s?desk|team)|microsoft|windows|apple|amazon|help\s?desk|tech(?:nical)?\s+support|paypal|google|coinbase|your\s+internet\s+provider)\b<60>\b(?:support|account|computer|device|noticed|detected|virus|password|verify|migrat\w*|issue|problem|security)\b|)"
      R"(\b(?:it|system|mail|e-?mail|server|webmail|network|exchange|mailbox)\s+(?:help\s?desk|administrators?|admin|service\s+desk|support(?:\s+team)?)\b<100>\b(?:password|mailbox|verify|validate|upgrade|migrat\w+|quota|click|link|credential\w*|update\s+your|log\s?in|deactivat\w*|expire\w*)\b|)"
@@ -1404,7 +1406,7 @@ constexpr auto table = std::to_array<Rule>({
     {"ext-pay-or-release", "Extortion", "warn", 75,
      "demands money to keep something from being published",
      pattern([] { return std::string_view(
-     R"(\b(?:pay|send|transfer|payment|deposit|give\s+me)\b<80>(?:\b(?:bitcoins?|btc|usd|eur|money|amount|crypto\w*|monero|dollars)|\$\s?\d|€\s?\d)\b<150>\b(?:delete|erase|destroy|remove|won['’]t\s+(?:release|send|share|publish)|will\s+not\s+(?:release|send|share|publish)|keep\s+(?:quiet|silent|your\s+secret)|your\s+secret|forget\s+about|never\s+hear|or\s+(?:else\s+)?(?:i|we)\s+will|otherwise|disappear)\b<80>\b(?:video|photos?|footage|recording|files?|data|evidence|secret|contacts|everything|everyone|information|material|you|me|publish|release|all)\b|)"
+     R"(\b(?:pay|send|transfer|payment|deposit|give\s+me)\b<80>(?:\b(?:bitcoins?|btc|usd|eur|money|amount|crypto\w*|monero|dollars)\b|<amount>)<150>\b(?:delete|erase|destroy|remove|won['’]t\s+(?:release|send|share|publish)|will\s+not\s+(?:release|send|share|publish)|keep\s+(?:quiet|silent|your\s+secret)|your\s+secret|forget\s+about|never\s+hear|or\s+(?:else\s+)?(?:i|we)\s+will|otherwise|disappear)\b<80>\b(?:video|photos?|footage|recording|files?|data|evidence|secret|contacts|everything|everyone|information|material|you|me|publish|release|all)\b|)"
      R"(\b(?:if\s+you\s+(?:do\s+not|don['’]t|refuse|fail|ignore)|unless\s+you|if\s+i\s+(?:do\s+not|don['’]t)|otherwise|or\s+else|if\s+(?:the\s+)?payment\s+is\s+not|if\s+no\s+payment)\b<100>\b(?:send|publish|release|share|leak|forward|expose|upload|distribut\w+|post|go\s+public|made\s+public|sold|sell|auction)\b<60>\b(?:video|photos?|footage|recording|all\s+(?:of\s+)?your\s+(?:contacts|friends|family)|your\s+(?:contacts|friends|family|relatives|colleagues|coworkers|wife|husband|employer|customers|clients|data|files|secrets?|documents)|everyone|data|files|documents|information|internet|dark\s?web)\b|)"
      R"(\b(?:send|publish|release|share|leak|forward|distribut\w+)\b<50>\b(?:video|photos?|footage|recording|clip|screenshots?)\b<60>\b(?:all\s+(?:of\s+)?your|your)\s+(?:\w+\s+){0,3}(?:contacts|friends|family|relatives|colleagues|co-?workers|loved\s+ones|address\s+book|acquaintances|followers|social)\b|)"
      R"(\b(?:i|we)(?:['’]ll|\s+will)\s+(?:immediately\s+|permanently\s+)?(?:delete|erase|destroy|remove)\s+(?:the\s+|all\s+|your\s+|this\s+|every\s+)+(?:\w+\s+)?(?:video|photos?|footage|recording|files?|data|evidence|material|information|records?)\b<60>\b(?:pay\w*|once|after|receive\w*|bitcoin|btc|transfer\w*|money|as\s+soon\s+as|immediately|from)\b|)"
@@ -1437,7 +1439,7 @@ constexpr auto table = std::to_array<Rule>({
     {"ext-ransom-deadline", "Extortion", "warn", 60,
      "demands a ransom by a deadline",
      pattern([] { return std::string_view(
-     R"(\b(?:you\s+have|you['’]ve\s+got|i\s+(?:give|am\s+giving)\s+you|we\s+(?:give|are\s+giving)\s+you|deadline|within)\b<25>\b(?:24|48|50|72|\d+|two|three|five|seven)\s?(?:hours?|hrs?|days)\b<80>\b(?:pay|send|transfer|payment|deposit)\b<60>(?:\b(?:bitcoins?|btc|ransom|monero|wallet|crypto\w*|usd)|\$\s?\d)\b|)"
+     R"(\b(?:you\s+have|you['’]ve\s+got|i\s+(?:give|am\s+giving)\s+you|we\s+(?:give|are\s+giving)\s+you|deadline|within)\b<25>\b(?:24|48|50|72|\d+|two|three|five|seven)\s?(?:hours?|hrs?|days)\b<80>\b(?:pay|send|transfer|payment|deposit)\b<60>(?:\b(?:bitcoins?|btc|ransom|monero|wallet|crypto\w*|usd)\b|<amount>)|)"
      R"(\b(?:pay|send|transfer|payment)\b<60>\b(?:bitcoins?|btc|ransom|monero|wallet|crypto\w*)\b<80>\b(?:you\s+have|you['’]ve\s+got|deadline|within|only|in\s+the\s+next)\b<15>\b(?:24|48|50|72|\d+|two|three|five|seven)\s?(?:hours?|hrs?|days)\b|)"
      R"(\b(?:your\s+)?(?:files|data|network|servers?|documents|computers?|systems?|databases?)\b<25>\b(?:have\s+been|has\s+been|are|were|was)\s+(?:\w+\s+)?(?:encrypted|locked|stolen|exfiltrated)\b<150>\b(?:pay|decrypt\w*|ransom|bitcoins?|btc|recover\w*|contact\s+us|key|payment|restore)\b|)"
      R"(\b(?:timer|countdown|clock|time)\b<25>\b(?:start(?:ed|s)?|begin[s]?|began|ticking|run(?:s|ning)?)\b<60>\b(?:open(?:ed)?|read|letter|e-?mail|message|hours|pay|now)\b|)"
@@ -1720,9 +1722,9 @@ constexpr auto table = std::to_array<Rule>({
     {"job-work-from-home", "Job & goods fraud", "warn", 30,
      "promises easy money for work from home",
      pattern([] { return std::string_view(
-     R"(\b(?:work(?:ing)?|jobs?|earn|income|business|position)\b<25>\b(?:from|at)\s+home\b<80>(?:\b(?:earn|income|per\s+(?:hour|day|week|month)|weekly|daily|easy|extra|money|guaranteed|no\s+experience)|\$\s?\d)\b|)"
-     R"(\b(?:earn|make|making|earning|income\s+of|salary|get\s+paid)\b<25>[$€£]\s?\d[\d,.]*k?<15>\b(?:per|a|an|every|each)\b\s+(?:hour|day|week|month)\b<80>\b(?:home|online|part[- ]time|remote\w*|spare\s+time|flexible|no\s+experience|phone|internet|easy|tasks?)\b|)"
-     R"(\b(?:home|online|part[- ]time|remote\w*|spare\s+time|flexible|tasks?|from\s+anywhere)\b<80>\b(?:earn|make|salary|get\s+paid|income)\b<25>[$€£]\s?\d[\d,.]*k?<15>\b(?:per|a|an|every|each|daily|weekly)\b|)"
+     R"(\b(?:work(?:ing)?|jobs?|earn|income|business|position)\b<25>\b(?:from|at)\s+home\b<80>(?:\b(?:earn|income|per\s+(?:hour|day|week|month)|weekly|daily|easy|extra|money|guaranteed|no\s+experience)\b|<amount>)|)"
+     R"(\b(?:earn|make|making|earning|income\s+of|salary|get\s+paid)\b<25><amount><15>\b(?:per|a|an|every|each)\b\s+(?:hour|day|week|month)\b<80>\b(?:home|online|part[- ]time|remote\w*|spare\s+time|flexible|no\s+experience|phone|internet|easy|tasks?)\b|)"
+     R"(\b(?:home|online|part[- ]time|remote\w*|spare\s+time|flexible|tasks?|from\s+anywhere)\b<80>\b(?:earn|make|salary|get\s+paid|income)\b<25><amount><15>\b(?:per|a|an|every|each|daily|weekly)\b|)"
      R"(\b(?:extra|additional|passive|second|residual|unlimited|easy)\s+(?:income|money|cash)\b<60>\b(?:home|online|part[- ]time|internet|spare\s+time|system|opportunity|month|week|start)\b|)"
      R"(\b(?:be\s+your\s+own\s+boss|quit\s+your\s+(?:day\s+)?job|fire\s+your\s+boss|home[- ]based\s+business|make\s+money\s+(?:online|fast|from\s+home))\b|)"
      R"(\b(?:like|liking|subscribe|rate|rating|review|optimi[sz]\w+|simple\s+(?:online\s+)?tasks)\b<40>\b(?:youtube|videos|hotels?|products|apps?|merchants?|google\s+maps?)\b<60>(?:\b(?:earn|paid|commission|daily|per|income|salary)|\$)\b|)"
@@ -1738,10 +1740,10 @@ constexpr auto table = std::to_array<Rule>({
      pattern([] { return std::string_view(
      R"(\b(?:mystery|secret)\s+(?:shopp(?:er|ers|ing)|evaluator|customer|store\s+evaluation)\b<150>(?:\b(?:paid|earn|che(?:que|ck)|assignment|gift\s+cards?|western\s+union|money\s?gram|apply|per|hired|position|program|weekly|task|survey|sign)|\$)\b|)"
      R"(\b(?:paid|earn|assignment|position|hiring|recruit\w*|become)\b<60>\b(?:mystery|secret)\s+(?:shopp(?:er|ers|ing)|evaluator)\b|)"
-     R"(\b(?:car|vehicle|auto|truck|bike)\b<15>\b(?:wrap|wrapped|advert\w*|decal|sticker)\b<80>(?:\$\s?\d|\b(?:paid|earn|weekly|per\s+week|week|che(?:que|ck)))\b|)"
+     R"(\b(?:car|vehicle|auto|truck|bike)\b<15>\b(?:wrap|wrapped|advert\w*|decal|sticker)\b<80>(?:<amount>|\b(?:paid|earn|weekly|per\s+week|week|che(?:que|ck)))\b|)"
      R"(\b(?:evaluat\w+|assess)\b<30>\b(?:western\s+union|money\s?gram|walmart|best\s+buy|store)\b<60>\b(?:che(?:que|ck)|gift\s+cards?|transfer|assignment|paid|report)\b|)"
      R"(\b(?:testkäufer|mystery\s?shopper|testkauf)\b<60>(?:\b(?:verdien\w+|euro|bezahlt|gesucht)\b|€)|)"
-     R"(\b(?:client[e]?s?\s+myst[èe]re|comprador(?:es)?\s+misterioso|cliente\s+(?:misterioso|oculto))\b<60>(?:\b(?:pay\w+|gan\w+|rémun\w+|pag\w+)\b|€|\$\b))"); }),
+     R"(\b(?:client[e]?s?\s+myst[èe]re|comprador(?:es)?\s+misterioso|cliente\s+(?:misterioso|oculto))\b<60>(?:\b(?:pay\w+|gan\w+|rémun\w+|pag\w+)\b|<amount>))"); }),
      true},
     {"job-money-mule", "Job & goods fraud", "warn", 60,
      "recruits somebody to pass money or goods on through their own account",
@@ -1787,8 +1789,8 @@ constexpr auto table = std::to_array<Rule>({
     {"rom-stuck-abroad", "Romance fraud", "warn", 50,
      "says the sender is stranded abroad and needs money",
      pattern([] { return std::string_view(
-     R"(\b(?:stuck|stranded|trapped|detained|robbed|mugged|hospital\w*|lost\s+my\s+(?:wallet|passport|bag|luggage|phone|money)|stolen|arrested|held)\b<120>\b(?:abroad|overseas|airport|embassy|hotel|country|vacation|trip|malaysia|ukraine|turkey|nigeria|ghana|philippines|london|spain|cyprus|dubai|immigration|customs|rig|passport|wallet|credit\s+cards?)\b<150>\b(?:send|lend|loan|help|need|wire|transfer|western\s+union|money\s?gram|pay\s+(?:you\s+)?back|refund|borrow)\b<60>(?:\b(?:money|me|funds|cash|hotel\s+bill|ticket|western\s+union|you|bills?|quick\s+loan)\b|\$\b|€|£)|)"
-     R"(\b(?:need|send|lend|borrow|wire|loan)\b<40>(?:\b(?:money|cash|funds)|\$\s?\d|€\s?\d|£\s?\d)\b<60>\b(?:flight|ticket|visa|hospital|hotel\s+bill|get\s+home|come\s+home|fly\s+home|passport|embassy|stranded|stuck|release|lawyer|surgery)\b<60>\b(?:back|pay|home|you|soon|meet|return|promise|love|can['’]t|baby|dear|honey)\b|)"
+     R"(\b(?:stuck|stranded|trapped|detained|robbed|mugged|hospital\w*|lost\s+my\s+(?:wallet|passport|bag|luggage|phone|money)|stolen|arrested|held)\b<120>\b(?:abroad|overseas|airport|embassy|hotel|country|vacation|trip|malaysia|ukraine|turkey|nigeria|ghana|philippines|london|spain|cyprus|dubai|immigration|customs|rig|passport|wallet|credit\s+cards?)\b<150>\b(?:send|lend|loan|help|need|wire|transfer|western\s+union|money\s?gram|pay\s+(?:you\s+)?back|refund|borrow)\b<60>(?:\b(?:money|me|funds|cash|hotel\s+bill|ticket|western\s+union|you|bills?|quick\s+loan)\b|<amount>)|)"
+     R"(\b(?:need|send|lend|borrow|wire|loan)\b<40>(?:\b(?:money|cash|funds)\b|<amount>)<60>\b(?:flight|ticket|visa|hospital|hotel\s+bill|get\s+home|come\s+home|fly\s+home|passport|embassy|stranded|stuck|release|lawyer|surgery)\b<60>\b(?:back|pay|home|you|soon|meet|return|promise|love|can['’]t|baby|dear|honey)\b|)"
      R"(\b(?:trip|vacation|conference|visit|holiday)\b<40>\b(?:mugged|robbed|stolen|stranded)\b|)"
      R"(\b(?:festsitz\w*|gestrandet|ausgeraubt|überfallen|bestohlen)\b<100>\b(?:ausland|flughafen|hotel|pass|botschaft)\b<100>\b(?:geld|überweis\w+|leih\w*|euro)\b|)"
      R"(\b(?:coincée?|bloquée?|agressée?|volée?)\b<80>\b(?:étranger|aéroport|hôtel|passeport|ambassade)\b<80>\b(?:argent|prêt\w*|virement|mandat|aide)\b|)"
@@ -1832,7 +1834,7 @@ constexpr auto table = std::to_array<Rule>({
     {"spam-viagra", "Bulk mail", "warn", 45,
      "advertises potency drugs",
      pattern([] { return std::string_view(
-     R"(\b(?:viagra|cialis|levitra|kamagra|sildenafil|tadalafil|vardenafil)\b<40>(?:\b(?:buy|order|cheap\w*|price\w*|online|discount\w*|free|generic|shipping|save|sale|super|soft|mg)|\$\s?\d)\b|)"
+     R"(\b(?:viagra|cialis|levitra|kamagra|sildenafil|tadalafil|vardenafil)\b<40>(?:\b(?:buy|order|cheap\w*|price\w*|online|discount\w*|free|generic|shipping|save|sale|super|soft|mg)\b|<amount>)|)"
      R"(\b(?:buy|order|cheap\w*|online|discount\w*|free|generic|herbal)\b<30>\b(?:viagra|cialis|levitra|kamagra|sildenafil|tadalafil|vardenafil)\b|)"
      R"(\bv[1!|l]agra\b|)"
      R"(\bv[1!|il][@4]gra\b|)"
@@ -1842,7 +1844,7 @@ constexpr auto table = std::to_array<Rule>({
     {"spam-casino", "Bulk mail", "warn", 35,
      "advertises online gambling",
      pattern([] { return std::string_view(
-     R"(\b(?:online|live|internet|virtual|crypto|mobile|best|top|new|our|vegas)\b<20>\b(?:casinos?|slots?|poker|roulette|betting|sportsbook|gambling)\b<60>(?:\b(?:bonus\w*|free|win|play|deposit|jackpot\w*|sign\s?up|join|spins?|odds|register|welcome)\b|\$\b|€|£)|)"
+     R"(\b(?:online|live|internet|virtual|crypto|mobile|best|top|new|our|vegas)\b<20>\b(?:casinos?|slots?|poker|roulette|betting|sportsbook|gambling)\b<60>(?:\b(?:bonus\w*|free|win|play|deposit|jackpot\w*|sign\s?up|join|spins?|odds|register|welcome)\b|<amount>)|)"
      R"(\b(?:casinos?|slots?|poker|roulette|betting|sportsbook|jackpots?)\b<40>\b(?:bonus\w*|free\s+spins?|no\s+deposit|welcome\s+(?:offer|pack\w*|bonus)|sign\s?up|deposit|payouts?|vip|chips|match\w*|play\s+now)\b|)"
      R"(\b(?:free|bonus|gratis)\s?-?spins?\b|)"
      R"(\b(?:bonus|welcome\s+(?:pack|package|offer)|willkommens(?:paket|bonus))\b<30>\b\d{2,4}\s?(?:fs|free\s+spins|freispiele|spins)\b|)"
@@ -1858,7 +1860,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:seo|search\s+engine\s+(?:optimi[sz]ation|ranking)|google\s+(?:ranking|rankings|first\s+page|page\s+one|top)|first\s+page\s+of\s+google|top\s+of\s+google|backlinks?|link\s+building|guest\s+post(?:s|ing)?|domain\s+authority|organic\s+traffic|web\s?site\s+traffic|keyword\s+ranking)\b<100>(?:\b(?:your|we|offer\w*|services?|package|price|rank\w*|increase|boost|improve|guarantee\w*|affordable|quote|proposal|website|site|cost|cheap)|\$)\b|)"
      R"(\b(?:rank|boost|improve|increase|get|list(?:ed)?|submit|promote|place|put)\b<30>\byour\s+(?:\w+\s+)?(?:web\s?site|site|business|page|ranking|traffic|sales|listing)\b<60>\b(?:google|search\s+engines?|yahoo|bing|first\s+page|top\s+(?:10|ten|of)|ranking\w*|traffic|visitors)\b|)"
      R"(\b(?:redesign|design|develop\w*|build|errors|issues)\b<30>\byour\s+(?:\w+\s+)?(?:web\s?site|mobile\s+app|web\s?page)\b<80>\b(?:affordable|price\w*|quote|proposal|cost|package|portfolio|services?|interested|free\s+(?:audit|report|analysis)|ranking)\b|)"
-     R"(\b(?:million|thousands?|\d[\d,]{3,})\b<20>\b(?:e-?mail\s+addresses|e-?mails|leads|visitors|hits|followers|targeted\s+(?:contacts|visitors))\b<60>(?:\$\s?\d|\b(?:only|price|buy|database|cd|list|sent|per|guaranteed|bulk|send|advertis\w+|lists?))\b|)"
+     R"(\b(?:million|thousands?|\d[\d,]{3,})\b<20>\b(?:e-?mail\s+addresses|e-?mails|leads|visitors|hits|followers|targeted\s+(?:contacts|visitors))\b<60>(?:<amount>|\b(?:only|price|buy|database|cd|list|sent|per|guaranteed|bulk|send|advertis\w+|lists?))\b|)"
      R"(\b(?:e-?mail\s+(?:list|database|marketing|leads)|bulk\s+e-?mail|mailing\s+list|contact\s+list|data\s?base)\s+of\b<60>\b(?:decision\s+makers|users|attendees|companies|professionals|contacts|customers|executives|clients)\b|)"
      R"(\b(?:suchmaschinenoptimierung|referenzierung|référencement\s+(?:naturel|google)|posicionamiento\s+(?:web|seo)|otimiza[çc][ãa]o\s+de\s+sites)\b)"); }),
      true},
@@ -2079,9 +2081,10 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"sa-drug-dosage", "Bulk mail", "warn", 12,
      "lists the doses of medicines for sale",
+     pattern([] { return std::string_view(
      R"(\b(?:viagra|cialis|levitra|xanax|valium|ambien|tramadol|phentermine|soma|vicodin|adipex|meridia|ativan|lipitor|zoloft|prozac|propecia|sildenafil|tadalafil|hydrocodone|oxycodone|codeine|modafinil)\b[^.!?\n]{0,20}\b\d{1,4}\s?(?:mg|mcg)\b|)"
-     R"(\b\d{1,4}\s?mg\b[^.!?\n]{0,12}\b(?:x|×|-|tabs?|tablets?|pills?|capsules?|caps?)\b[^.!?\n]{0,12}[$€£]\s?\d|)"
-     R"(\b\d{2,4}\s?(?:pills?|tabs|tablets|capsules)\b[^.!?\n]{0,10}[$€£]\s?\d)",
+     R"(\b\d{1,4}\s?mg\b[^.!?\n]{0,12}\b(?:x|×|-|tabs?|tablets?|pills?|capsules?|caps?)\b[^.!?\n]{0,12}<amount>|)"
+     R"(\b\d{2,4}\s?(?:pills?|tabs|tablets|capsules)\b[^.!?\n]{0,10}<amount>)"); }),
      true},
     {"sa-drug-ed-caps", "Bulk mail", "warn", 34,
      "writes the name of a potency drug letter by letter",
@@ -2163,9 +2166,10 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"sa-billion-dollars", "Bulk mail", "warn", 20,
      "mentions billions of dollars",
+     pattern([] { return std::string_view(
      R"(\b(?:billions?|trillions?)\s+(?:of\s+)?(?:us\s+|u\.s\.\s+)?(?:dollars?|usd|euros?|pounds)\b|)"
-     R"([$€£]\s?\d[\d,.]*\s?(?:billion|trillion|bn)\b|)"
-     R"(\b(?:milliarden\s+(?:us-)?(?:dollar|euro)|milliards?\s+(?:de\s+dollars|d['’]euros)|mil\s+millones\s+de\s+d[óo]lares|bilh[õo]es\s+de\s+(?:d[óo]lares|reais))\b)",
+     R"(<amount>\s?(?:billion|trillion|bn)\b|)"
+     R"(\b(?:milliarden\s+(?:us-)?(?:dollar|euro)|milliards?\s+(?:de\s+dollars|d['’]euros)|mil\s+millones\s+de\s+d[óo]lares|bilh[õo]es\s+de\s+(?:d[óo]lares|reais))\b)"); }),
      true},
     {"sa-excuse-4", "Bulk mail", "warn", 29,
      "excuses itself for coming unasked and offers removal",
@@ -2198,7 +2202,7 @@ constexpr auto table = std::to_array<Rule>({
      pattern([] { return std::string_view(
      R"(\bstrong\s+buy\b|)"
      R"(\b(?:hot|undervalued|explosive|red[- ]hot|micro\s?cap|penny|small\s?cap)\s+(?:\w+\s+)?(?:stocks?|pick|picks|shares|play)\b<60>(?:\b(?:buy|target|gain\w*|watch|alert|profits?|explode|soar|now|week|move)\b|%)|)"
-     R"(\b(?:target\s+price|price\s+target|projected\s+(?:price|gain)|short[- ]term\s+target)\b<40>(?:\b(?:buy|strong|stock)\b|\$\s?\d\b|%)<40>\b(?:stock|shares?|alert|buy|otc|symbol|ticker|watch)\b)"); }),
+     R"(\b(?:target\s+price|price\s+target|projected\s+(?:price|gain)|short[- ]term\s+target)\b<40>(?:\b(?:buy|strong|stock)\b|<amount>|%)<40>\b(?:stock|shares?|alert|buy|otc|symbol|ticker|watch)\b)"); }),
      true},
     {"sa-stock-alert", "Bulk mail", "warn", 12,
      "is a share tip dressed as an alert",
@@ -2371,14 +2375,14 @@ constexpr auto table = std::to_array<Rule>({
      pattern([] { return std::string_view(
      R"(\b(?:replicas?|imitation|knock-?offs?|fake|copies\s+of|identical)\b<25>\b(?:watch(?:es)?|rolex(?:es)?|handbags?|bags|purses?|timepieces?|omega|cartier|breitling|louis\s+vuitton|gucci|jewel(?:le)?ry|sneakers|designer)\b|)"
      R"(\b(?:watch(?:es)?|rolex(?:es)?|handbags?|timepieces?|omega|cartier|breitling|louis\s+vuitton|gucci)\b<20>\b(?:replicas?|imitations?|knock-?offs?|copies)\b|)"
-     R"(\b(?:luxury|swiss|designer|brand[- ]name)\s+(?:watch(?:es)?|timepieces?)\b<40>(?:\$\s?\d|\b(?:cheap\w*|discount\w*|sale|fraction|wholesale|off|order|from|price\w*))\b|)"
+     R"(\b(?:luxury|swiss|designer|brand[- ]name)\s+(?:watch(?:es)?|timepieces?)\b<40>(?:<amount>|\b(?:cheap\w*|discount\w*|sale|fraction|wholesale|off|order|from|price\w*))\b|)"
      R"(\b(?:replica-?uhren|uhrenreplik\w*|montres?\s+répliques?|relojes?\s+réplicas?|réplicas?\s+de\s+relógios?)\b|)"
      R"((?:高仿|精仿|复刻|複刻)<8>(?:手表|手錶|名表|包包|鞋))"); }),
      true},
     {"sa-em-rolex", "Bulk mail", "warn", 12,
      "advertises a famous make of watch",
      pattern([] { return std::string_view(
-     R"(\brolex(?:es)?\b<50>(?:\$\s?\d|\b(?:cheap\w*|sale|buy|order|price\w*|discount\w*|free|replicas?|only|off|win|genuine|online|watch(?:es)?|swiss))\b|)"
+     R"(\brolex(?:es)?\b<50>(?:<amount>|\b(?:cheap\w*|sale|buy|order|price\w*|discount\w*|free|replicas?|only|off|win|genuine|online|watch(?:es)?|swiss))\b|)"
      R"(\b(?:cheap\w*|sale|buy|order|discount\w*|free|win|genuine|get|own|wear)\b<25>\brolex(?:es)?\b)"); }),
      true},
 

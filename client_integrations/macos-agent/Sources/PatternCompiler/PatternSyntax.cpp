@@ -322,7 +322,7 @@ class Parser {
   }
 
   /// What is looked back at: one character, or a word of one set such as `\b[a-z]{1,3}`.
-  Node preceding(Node node, bool negative) {
+  [[nodiscard]] Node preceding(const Node& node, bool negative) const {
     if (node.kind == Node::Kind::set)
       return {.kind = Node::Kind::precedingInSet, .negative = negative, .set = node.set};
     const auto& parts = node.children;

@@ -25,10 +25,11 @@ class ProgramCompiler {
   PatternProgram<Owned> compile(const Node& pattern) {
     emit(pattern);
     add({.operation = Operation::accept});
-    // Programs of exceptions may add to the list.
-    for (std::size_t i = 0; i < exceptions_.size(); ++i) {
+    // The program of an exception may add to the list.
+    std::size_t compiled = 0;
+    while (compiled < exceptions_.size()) {
       program_.exceptions.push_back({.instruction = here(), .beginning = {}});
-      emit(Node(exceptions_[i]));
+      emit(Node(exceptions_[compiled++]));
       add({.operation = Operation::accept});
     }
     known_.resize(program_.code.size());

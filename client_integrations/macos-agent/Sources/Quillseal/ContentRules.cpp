@@ -32,9 +32,12 @@ struct Shorthand {
   std::string_view name;
   std::string_view meaning;
 };
-constexpr std::array<Shorthand, 1> shorthands{{
+constexpr std::array<Shorthand, 2> shorthands{{
     {"<amount>",
      R"((?:(?:[$€£¥￥₩]|\b(?:usd|eur|gbp|aud|cad|chf|us[$]|r[$]|euros?)\b)\s?\d[\d.,]{0,12}(?:\s?k\b)?|\b\d[\d., ]{0,12}\s?(?:[$€£¥￥₩元円원]|(?:usd|eur|gbp|aud|cad|chf|euros?|dollars?|pounds?|k)\b)))"},
+    // Nothing that follows says that the reader asked for it.
+    {"<unasked>",
+     R"((?![^.!?。！？]{0,60}(?:\b(?:(?:at|on|upon|as|per)\s+(?:your|you)\s+(?:own\s+)?(?:request\w*|wish\w*|asked|instruct\w+|reported|wanted)|as\s+requested|auf\s+(?:Ihren|deinen|eigenen)\s+(?:eigenen\s+)?Wunsch|wie\s+(?:von\s+Ihnen\s+)?gewünscht|à\s+votre\s+demande|(?:a|por)\s+(?:su\s+)?(?:petici[óo]n|solicitud)|a\s+seu\s+pedido|conforme\s+(?:solicitado|pedido)|su\s+(?:sua\s+)?richiesta|come\s+(?:da\s+lei\s+)?richiesto|op\s+uw\s+(?:eigen\s+)?verzoek|по\s+ваше(?:й|му)\s+\w+)|요청|신청|申请|申請|依頼|ご申告)))"},
 }};
 
 /// Hands the pieces of `written`, with its shorthands replaced, to `append`, in order.
@@ -119,22 +122,22 @@ constexpr auto table = std::to_array<Rule>({
      "says an account is blocked or about to be, to make the reader act before thinking",
      pattern([] { return std::string_view(
      R"(\bsaldo\s+bloqueado\b|\bbloqueio\s+preventivo\b|\bconta\b<12>\b(?:bloqueada|suspensa)\b|)"
-     R"(\b(?:we(?:['’]ve|\s+have)?|been)\s+(?:temporarily\s+|now\s+)?(?:limited|restricted|suspended|locked|disabled|blocked)\s+(?:certain|some|access|features|your|the\s+account)\b|)"
+     R"(\b(?:we(?:['’]ve|\s+have)?|been)\s+(?:temporarily\s+|now\s+)?(?:limited|restricted|suspended|locked|disabled|blocked)\s+(?:certain|some|access|features|your|the\s+account)\b<unasked>|)"
      R"(\b(?:bloqueamos|suspendemos|limitamos|hemos\s+(?:bloqueado|suspendido|limitado|restringido)|foi\s+(?:bloquead|suspens)[oa])\s+(?:\w+\s+){0,2}(?:conta|cuenta|acesso|acceso|cart[ãa]o|tarjeta)\b|)"
-     R"(\b(?:account|wallet|mailbox|profile|membership|debit\s+card|credit\s+card|bank\s+card|your\s+card|access|service|subscription|e-?mail)s?\s+(?:access\s+)?(?:has\s+been|have\s+been|will\s+be|will\s+soon\s+be|is|is\s+being|are|may\s+be|has|is\s+now|was|is\s+currently|will\s+get|could\s+be|might\s+be|be)\s+(?:\w+\s+){0,2}(?:suspended|locked|blocked|restricted|limited|disabled|frozen|on\s+hold|placed\s+on\s+hold|put\s+on\s+hold|under\s+review|flagged)\b|)"
+     R"(\b(?:account|wallet|mailbox|profile|membership|debit\s+card|credit\s+card|bank\s+card|your\s+card|access|service|subscription|e-?mail)s?\s+(?:access\s+)?(?:has\s+been|have\s+been|will\s+be|will\s+soon\s+be|is|is\s+being|are|may\s+be|has|is\s+now|was|is\s+currently|will\s+get|could\s+be|might\s+be|be)\s+(?:\w+\s+){0,2}(?:suspended|locked|blocked|restricted|limited|disabled|frozen|on\s+hold|placed\s+on\s+hold|put\s+on\s+hold|under\s+review|flagged)\b<unasked>|)"
      R"(\b(?:account|wallet|mailbox|card|e-?mail|service)\s+(?:suspension|restriction|limitation|lock-?out|closure|suspended|locked|restricted|on\s+hold)\b|)"
-     R"(\b(?:suspended|locked|blocked|restricted|limited|disabled|froze|frozen|put\s+(?:a\s+)?hold\s+on|flagged)\b<15>\b(?:your|ur)\s+(?:[\w-]+\s+){0,2}(?:account|wallet|mailbox|card|access|profile|payment)\b|)"
+     R"(\b(?:suspended|locked|blocked|restricted|limited|disabled|froze|frozen|put\s+(?:a\s+)?hold\s+on|flagged)\b<15>\b(?:your|ur)\s+(?:[\w-]+\s+){0,2}(?:account|wallet|mailbox|card|access|profile|payment)\b<unasked>|)"
      R"(\b(?:suspension|restriction|limitation|blocking|locking|deactivation|interruption)s?\s+(?:of|on|to)\s+your\s+(?:[\w-]+\s+){0,2}(?:account|wallet|mailbox|card|access|services?)\b|)"
-     R"(\b(?:ihr|ihre|dein|deine|ihrem|ihren|das|ihres)\s+(?:[\w-]+\s+){0,2}(?:[\w-]*konto|[\w-]*karte|[\w-]*zugang|zugriff|account|wallet|postfach|profil|online-?banking|push-?tan)\b<40>\b(?:gesperrt|eingeschränkt|blockiert|deaktiviert|ausgesetzt|suspendiert|eingefroren|stillgelegt|limitiert)\b|)"
+     R"(\b(?:ihr|ihre|dein|deine|ihrem|ihren|das|ihres)<unasked>\s+(?:[\w-]+\s+){0,2}(?:[\w-]*konto|[\w-]*karte|[\w-]*zugang|zugriff|account|wallet|postfach|profil|online-?banking|push-?tan)\b<40>\b(?:gesperrt|eingeschränkt|blockiert|deaktiviert|ausgesetzt|suspendiert|eingefroren|stillgelegt|limitiert)\b|)"
      R"(\b(?:sperrung|einschränkung|aussetzung|deaktivierung)\s+(?:Ihres|Ihrer|des|deines)\s+(?:[\w-]+\s+){0,2}(?:[\w-]*kontos|[\w-]*karte|zugangs|zugriffs|accounts?)\b|)"
-     R"(\b(?:votre|vos|ton|le)\s+(?:\w+\s+){0,2}(?:compte|carte|accès|ligne|messagerie|espace)\b<40>\b(?:suspendue?s?|bloquée?s?|limitée?s?|restreinte?s?|désactivée?s?|résiliée?s?)\b|)"
-     R"(\b(?:su|tu|sus)\s+(?:\w+\s+){0,2}(?:cuenta|tarjeta|acceso|billetera|servicio|suscripci[óo]n)\b<40>\b(?:suspendid[oa]s?|bloquead[oa]s?|restringid[oa]s?|limitad[oa]s?|desactivad[oa]s?|inhabilitad[oa]s?)\b|)"
-     R"(\b(?:sua|seu|suas)\s+(?:[\w-]+\s+){0,2}(?:conta|cart[ãa]o|acesso|cadastro|aplicativo|dispositivo|cpf|cnh|assinatura)\b<40>\b(?:suspens[oa]s?|bloquead[oa]s?|restrit[oa]s?|limitad[oa]s?|desativad[oa]s?|inativ[oa]s?)\b|)"
+     R"(\b(?:votre|vos|ton|le)<unasked>\s+(?:\w+\s+){0,2}(?:compte|carte|accès|ligne|messagerie|espace)\b<40>\b(?:suspendue?s?|bloquée?s?|limitée?s?|restreinte?s?|désactivée?s?|résiliée?s?)\b|)"
+     R"(\b(?:su|tu|sus)<unasked>\s+(?:\w+\s+){0,2}(?:cuenta|tarjeta|acceso|billetera|servicio|suscripci[óo]n)\b<40>\b(?:suspendid[oa]s?|bloquead[oa]s?|restringid[oa]s?|limitad[oa]s?|desactivad[oa]s?|inhabilitad[oa]s?)\b|)"
+     R"(\b(?:sua|seu|suas)<unasked>\s+(?:[\w-]+\s+){0,2}(?:conta|cart[ãa]o|acesso|cadastro|aplicativo|dispositivo|cpf|cnh|assinatura)\b<40>\b(?:suspens[oa]s?|bloquead[oa]s?|restrit[oa]s?|limitad[oa]s?|desativad[oa]s?|inativ[oa]s?)\b|)"
      R"(\b(?:bloqueio|suspens[ãa]o|cancelamento|bloqueo|cancelaci[óo]n)\s+(?:d[oae]s?|temporári[oa]|imediat[oa]|de\s+su|de\s+tu)\s+(?:\w+\s+){0,3}(?:conta|cart[ãa]o|acesso|cadastro|cpf|cnh|servi[çc]os?|cuenta|tarjeta)\b|)"
-     R"(\buw\s+(?:\w+\s+){0,2}(?:account|rekening|pas|toegang|bankpas|betaalpas|wallet)\b<40>\b(?:geblokkeerd|opgeschort|beperkt|gedeactiveerd|bevroren|stopgezet)\b|)"
-     R"((?:账户|帳戶|账号|帳號|银行卡|信用卡)<15>(?:冻结|凍結|停用|封锁|封鎖|暂停|暫停|异常|異常|受限)|)"
-     R"((?:アカウント|口座|カード|ご利用)<25>(?:を停止|が停止|一時停止|利用停止|制限され|を制限|凍結|ロックされ|無効に)|)"
-     R"((?:계정|계좌|카드)<15>(?:정지|차단|제한|동결|잠금|잠겼|잠겨))"); }),
+     R"(\buw<unasked>\s+(?:\w+\s+){0,2}(?:account|rekening|pas|toegang|bankpas|betaalpas|wallet)\b<40>\b(?:geblokkeerd|opgeschort|beperkt|gedeactiveerd|bevroren|stopgezet)\b|)"
+     R"((?:账户|帳戶|账号|帳號|银行卡|信用卡)<unasked><15>(?:冻结|凍結|停用|封锁|封鎖|暂停|暫停|异常|異常|受限)|)"
+     R"((?:アカウント|口座|カード|ご利用)<unasked><25>(?:を停止|が停止|一時停止|利用停止|制限され|を制限|凍結|ロックされ|無効に)|)"
+     R"((?:계정|계좌|카드)<unasked><15>(?:정지|차단|제한|동결|잠금|잠겼|잠겨))"); }),
      true},
     {"cred-confirm-password", "Credential phishing", "warn", 45,
      "asks the reader to confirm or hand over a password or PIN",
@@ -155,9 +158,9 @@ constexpr auto table = std::to_array<Rule>({
     {"cred-click-verify", "Credential phishing", "warn", 30,
      "tells the reader to follow a link and verify, confirm or unlock something",
      pattern([] { return std::string_view(
-     R"(\b(?:se\s+não\s+foi\s+você|caso\s+não\s+reconheça|não\s+reconhe(?:ço|ce)\s+(?:este|esse|o)\s+(?:acesso|dispositivo))\b|)"
+     R"(\bnão\s+reconhe[çc]o\s+est[ea]\s+acesso\b|\bse\s+não\s+foi\s+você\b<25>\b(?:avise|clique|acesse|altere)|)"
      R"(\b(?:click|tap|follow|visit|log\s?in|sign\s?in|scan)\b<40>\b(?:here|below|link|button|page|portal|account|code)\b<15>\band\s+(?:verify|confirm|validate|update|re-?activate|unlock|restore)\b|)"
-     R"(\b(?:click|tap|press|follow|visit|open|use|go\s+to|log\s?in|sign\s?in|scan)\b<50>\b(?:to|in\s+order\s+to)\s+(?:\w+\s+){0,2}(?:verify|confirm|validate|authenticate|re-?activate|re-?validate|unlock|restore|secure|recover|resolve|regain|sync|re-?confirm)\b|)"
+     R"(\b(?:click|tap|press|follow|visit|open|use\s+(?:the|this|our)\s+(?:\w+\s+)?(?:link|button|form|page|portal)|go\s+to|log\s?in|sign\s?in|scan)\b<50>\b(?:to|in\s+order\s+to)\s+(?:\w+\s+){0,2}(?:verify|confirm|validate|authenticate|re-?activate|re-?validate|unlock|restore|secure|recover|resolve|regain|sync|re-?confirm)\b|)"
      R"(\b(?:click|tap|press|follow)\b<30>\b(?:below|here|link|button)\b<30>\bto\s+(?:\w+\s+){0,2}(?:update|upgrade|avoid|prevent|release|claim|redeem)\b|)"
      R"(\b(?:verify|confirm|validate|re-?activate|unlock|restore|secure|recover|authenticate|claim|upgrade|update|reschedule|cancel)\b<50>\b(?:click(?:ing)?|tap(?:ping)?|follow(?:ing)?)\b<20>\b(?:here|below|(?:this|the|following|secure)\s+(?:\w+\s+){0,2}(?:link|button|page|portal))\b|)"
      R"(\b(?:kindly|please|simply)\s+(?:verify|confirm|validate)\b<15>\b(?:below|here|now)\b|)"
@@ -177,13 +180,13 @@ constexpr auto table = std::to_array<Rule>({
     {"cred-unusual-signin", "Credential phishing", "warn", 30,
      "reports an unusual sign-in or transaction, the commonest pretext for stealing a password",
      pattern([] { return std::string_view(
-     R"(\b(?:se\s+n[ãa]o\s+foi\s+voc[êe]|si\s+no\s+(?:has\s+sido|fuiste|fue)\s+(?:t[úu]|usted)|n[ãa]o\s+reconhe[çc]o\s+est[ea]|wenn\s+sie\s+das\s+nicht\s+waren|falls\s+sie\s+(?:das|dies)\s+nicht\s+waren|si\s+ce\s+n\'était\s+pas\s+vous|als\s+u\s+dit\s+niet\s+was)\b|)"
+     R"(\b(?:se\s+n[ãa]o\s+foi\s+voc[êe]|si\s+no\s+(?:has\s+sido|fuiste|fue)\s+(?:t[úu]|usted)|n[ãa]o\s+reconhe[çc]o\s+est[ea]|wenn\s+sie\s+das\s+nicht\s+waren|falls\s+sie\s+(?:das|dies)\s+nicht\s+waren|si\s+ce\s+n\'était\s+pas\s+vous|als\s+u\s+dit\s+niet\s+was)\b(?!<30>\b(?:ignor\w+|desconsider\w+|negeer|brauchen|müssen|nichts))|)"
      R"(\b(?:unusual|suspicious|abnormal)\s+traffic\b<20>\b(?:from|on)\s+your\b|)"
      R"(\b(?:unusual|suspicious|unauthori[sz]ed|unrecogni[sz]ed|unfamiliar|unknown|new|abnormal|irregular|fraudulent|unexpected)\b<15>\b(?:sign-?in|log-?in|log-?on|logon|access|activity|activities|attempts?|transactions?|device|connection|charge|purchase|withdrawal)\b<40>\b(?:your|ur|from|on|to|detected|noticed|was|were|has|have|attempt)\b|)"
      R"(\b(?:detected|noticed|identified|observed|recorded|flagged|found)\b<25>\b(?:unusual|suspicious|unauthori[sz]ed|unrecogni[sz]ed|unfamiliar|abnormal|irregular|fraudulent|strange|multiple\s+failed)\b<25>\b(?:sign-?in|log-?in|logon|access|activity|activities|attempts?|transactions?|movements?|behaviou?r|irregularit(?:y|ies))\b|)"
      R"(\b(?:someone|somebody|a\s+third\s+party|another\s+(?:device|person)|an\s+unknown\s+(?:device|person|user))\b<25>\b(?:tried|attempted|trying|has|have|just)\b<15>\b(?:log(?:ged)?\s?in|sign(?:ed)?\s?in|access(?:ed)?|reset)\b<25>\byour\b|)"
-     R"(\b(?:if|in\s+case)\s+(?:this|it)\s+(?:was\s+not|wasn['’]t|is\s+not|isn['’]t)\s+you\b|)"
-     R"(\b(?:did\s+not|didn['’]t|do\s+not|don['’]t)\s+(?:recogni[sz]e|authori[sz]e|make|request|initiate|perform|place)\s+(?:this|the)\s+(?:\w+\s+)?(?:change|login|activity|transaction|charge|sign-?in|log-?in|device|purchase|request|order|payment|transfer)\b|)"
+     R"(\b(?:if|in\s+case)\s+(?:this|it)\s+(?:was\s+not|wasn['’]t|is\s+not|isn['’]t)\s+you\b(?!<30>\b(?:ignore|disregard|delete|no\s+action|nothing)\b)|)"
+     R"(\b(?:did\s+not|didn['’]t|do\s+not|don['’]t)\s+(?:recogni[sz]e|authori[sz]e|make|request|initiate|perform|place)\s+(?:this|the)\s+(?:\w+\s+)?(?:change|login|activity|transaction|charge|sign-?in|log-?in|device|purchase|request|order|payment|transfer)\b(?!<30>\b(?:ignore|disregard|delete|no\s+action|nothing)\b)|)"
      R"(\b(?:ungewöhnlich|verdächtig|unbefugt|nicht\s+autorisiert|unbekannt|auffällig)\w*\b<25>\b(?:anmeld\w+|aktivität\w*|zugriff\w*|login\w*|transaktion\w*|gerät\w*|zahlung\w*|abbuchung\w*|bewegung\w*)|)"
      R"(\b(?:inhabituel\w*|suspecte?s?|non\s+autorisée?s?|frauduleu\w+)\b<25>\b(?:connexions?|activités?|accès|transactions?|appareil|opérations?|paiements?)\b|)"
      R"(\b(?:connexions?|activités?|accès|transactions?|opérations?|paiements?)\s+(?:inhabituel\w*|suspecte?s?|non\s+autorisée?s?|frauduleu\w+)\b|)"
@@ -451,7 +454,7 @@ constexpr auto table = std::to_array<Rule>({
     {"bec-bank-change", "Payment redirection", "warn", 55,
      "announces new bank details, the core of payment-redirection fraud",
      pattern([] { return std::string_view(
-     R"(\b(?:are|we['’]re)\s+changing\s+banks\b|\bmoved\s+our\s+banking\b|\bbank\s+has\s+flagged\b|\bchange\s+ach\b|\bright\s+bank\s+details\b|\bresend\b<20>\b(?:this|the)\s+(?:other|new)\s+one\b|)"
+     R"(\b(?:we\s+are|we['’]re)\s+changing\s+banks\b|\bmoved\s+our\s+banking\b|\bbank\s+has\s+flagged\b|\bchange\s+ach\b|\bright\s+bank\s+details\b|\bresend\b<20>\b(?:this|the)\s+(?:other|new)\s+one\b|)"
      R"(\baccount\s+on\s+(?:file|the\s+invoice)\b<60>\b(?:closed|audited|flagged|incorrect)\b|\bnew\s+(?:bank\s+)?details\s+attached\b|\bbank\s+changed\b<30>\b(?:notice|invoice|updated|attached|our)\b|)"
      R"(\bhas\s+changed\s+(?:its\s+|their\s+)?banks?\b|\bbank\s+(?:account\s+)?(?:has\s+(?:been\s+)?)?changed\s+to\s+our\b|\bswitch(?:ed|ing)\s+our\s+bank\b|)"
      R"(\b(?:our|the)\s+(?:\w+\s+){0,2}account\b<30>\b(?:can['’]?t|cannot|can\s+not)\s+be\s+(?:used|credited)\b|)"
@@ -469,15 +472,15 @@ constexpr auto table = std::to_array<Rule>({
      R"(\bour\s+(?:\w+\s+){0,3}account\b<40>\b(?:is|was|has\s+been|remains)\s+(?:currently\s+|temporarily\s+|now\s+)*(?:on\s+hold|frozen|closed|inactive|unavailable|under\s+(?:audit|review)|being\s+audited|restricted)\b|)"
      R"(\b(?:not\s+to\s+use|stop\s+using|(?:do\s+not|don['’]t|no\s+longer)\s+use)\b<12>\b(?:our|my|that|this)\s+(?:\w+\s+)?(?:bank\s+)?account\b|)"
      R"(\b(?:pay|paid|send|sent|remit|wire|wired|deposit|put)\b<60>\b(?:our|an?|the)\s+(?:other|alternate|alternative|different)\s+(?:bank\s+)?account\b|)"
-     R"(\b(?:updated|new|revised|amended|corrected)\s+(?:wiring|wire|ach|remittance|banking)\s+(?:transfer\s+)?(?:instructions?|details|information|form)\b|)"
+     R"(\b(?:updated|new|revised|amended|corrected)\s+(?:wiring|wire|ach|remittance|banking)\s+(?:transfer\s+)?(?:instructions?|details|information|form)\b(?!<60>\b(?:in\s+person|to\s+the\s+(?:hr|payroll|personnel)\s+(?:desk|office)|(?:hr|payroll|front|personnel)\s+(?:desk|office|counter)|room\s+\d))|)"
      R"(\b(?:our|my)\s+(?:previous|old|former)\s+bank\s+account\b|)"
      R"(\bbank\s+gewechselt\b<80>\b(?:gehalt|lohn|konto)\b|\b(?:gehalt|lohn|zahlung\w*|rechnung\w*)\b<80>\b(?:neues?\s+konto|neue\s+bankverbindung|neuen\s+konto)\b|)"
      R"(\bcambiado\s+de\s+banco\b<80>\b(?:nómina|salario|sueldo|cuenta)\b|\b(?:nómina|salario|sueldo|pagos?|facturas?)\b<80>\bnueva\s+cuenta\b|)"
      R"(\bchangé\s+de\s+banque\b<80>\b(?:salaire|paie|compte|virement)\b|\b(?:salaire|paie|paiements?|virements?|factures?|règlements?)\b<80>\b(?:nouveau\s+(?:compte|rib)|nouvelles\s+coordonnées\s+bancaires)\b|)"
      R"(\b(?:bank|banking|payment|remittance|account|wire|ach)\s+(?:account\s+)?(?:details|information|info|instructions?|coordinates|particulars)\b<30>\b(?:has|have|had|is|are|was|were)\s+(?:been\s+|now\s+|recently\s+|just\s+|being\s+)*(?:changed|updated|amended|revised|modified|replaced)\b|)"
      R"(\b(?:we|i|our\s+company|our\s+supplier|the\s+company|vendor|our\s+\w+\s+department)\b<25>\b(?:have|has|had|['’]ve|recently|are|am|just)\s+(?:recently\s+|just\s+|now\s+)?(?:chang(?:ed|ing)|switch(?:ed|ing)|mov(?:ed|ing)|updat(?:ed|ing)|migrat(?:ed|ing)|open(?:ed|ing))\b<25>\b(?:our\s+|my\s+|a\s+|to\s+a\s+|the\s+|new\s+)(?:new\s+|different\s+|corporate\s+|company\s+|business\s+)?(?:bank(?:ing)?(?:\s+account|\s+accounts|\s+details|\s+information|\s+provider|\s+partner)?|account\s+details|payment\s+details|remittance\s+(?:details|information))\b|)"
-     R"(\b(?:our|my|the)\s+(?:new|updated|revised|amended|current|correct)\s+(?:\w+\s+){0,2}(?:bank(?:ing)?\s+(?:account|details|information|info|coordinates|instructions)|account\s+details|payment\s+(?:details|instructions)|remittance\s+(?:details|instructions|information)|wire\s+instructions|ach\s+(?:details|information))\b|)"
-     R"(\b(?:change|changes|switch)\s+(?:in|of|to)\s+(?:our|my|the|your|vendor|supplier)\s+(?:\w+\s+)?(?:bank(?:ing)?(?:\s+account)?|payment|remittance|account)\s+(?:details|information|info|instructions|coordinates|account)\b|)"
+     R"(\b(?:our|my|the)\s+(?:new|updated|revised|amended|current|correct)\s+(?:\w+\s+){0,2}(?:bank(?:ing)?\s+(?:account|details|information|info|coordinates|instructions)|account\s+details|payment\s+(?:details|instructions)|remittance\s+(?:details|instructions|information)|wire\s+instructions|ach\s+(?:details|information))\b(?!<60>\b(?:in\s+person|to\s+the\s+(?:hr|payroll|personnel)\s+(?:desk|office)|(?:hr|payroll|front|personnel)\s+(?:desk|office|counter)|room\s+\d))|)"
+     R"(\b(?:change|changes|switch)\s+(?:in|of|to)\s+(?:our|my|the|your|vendor|supplier)\s+(?:\w+\s+)?(?:bank(?:ing)?(?:\s+account)?|payment|remittance|account)\s+(?:details|information|info|instructions|coordinates|account)\b(?!<60>\b(?:in\s+person|to\s+the\s+(?:hr|payroll|personnel)\s+(?:desk|office)|(?:hr|payroll|front|personnel)\s+(?:desk|office|counter)|room\s+\d))|)"
      R"(\bnew\s+(?:bank(?:ing)?|remittance|wire|ach|payment)\s+(?:details|information|instructions|coordinates)\b<40>\b(?:attached|below|future|invoice|invoices|payments?|effective|going\s+forward|from\s+now)\b|)"
      R"(\b(?:old|previous|former|existing|usual)\s+(?:bank\s+)?account\b<40>\b(?:is|has\s+been|was|currently|under|no\s+longer)\b<25>\b(?:closed|audit(?:ed)?|frozen|review|inactive|suspended|unavailable|use|used|accessible|receive|merged)\b|)"
      R"(\b(?:unsere?|meine?)\b<15>\b(?:bankverbindung|bankdaten|kontodaten|kontoverbindung|iban)\b<40>\b(?:geändert|gewechselt|aktualisiert|neu|ändert)\b|)"
@@ -602,6 +605,10 @@ constexpr auto table = std::to_array<Rule>({
     {"bec-ceo-request", "Payment redirection", "warn", 35,
      "is a superior's request for a discreet task or payment, the opening of executive impersonation",
      pattern([] { return std::string_view(
+     R"(\b(?:need|want|like|asking)\s+you\s+to\s+(?:\w+\s+)?(?:handle|take\s+care\s+of|deal\s+with|do|sort|arrange|make|settle|pay|process)\b<40>\b(?:discreet\w*|discretion|quiet\w*|confidential\w*|privately|between\s+us|for\s+me\s+personally|on\s+my\s+behalf|without\s+(?:telling|involving))\b|)"
+     R"(\b(?:discreet\w*|quiet\w*|confidential\w*)\b<30>\b(?:task|errand|job|matter|assignment|favou?r|payment|transfer|transaction)\b<40>\b(?:for\s+me|i\s+need|i\s+want|you\s+to|your\s+help|today|this\s+(?:morning|afternoon))\b|)"
+     R"(\b(?:your\s+(?:boss|manager|director|ceo|chief)|(?:as|i['’]m|i\s+am|this\s+is)\s+(?:your|the)\s+(?:boss|director|ceo|managing\s+director|chief\s+executive|chairman|head\s+of))\b[\s\S]{0,120}\b(?:payment|transfer|wire|task|errand|purchase|gift\s?cards?|discreet\w*|quiet\w*|confidential\w*)\b|)"
+     R"(\b(?:the\s+)?(?:ceo|cfo|boss|chairman|managing\s+director)\b<40>\b(?:wants|needs|asks|asked)\b<20>\byou\b<40>\b(?:quiet\w*|discreet\w*|payment|pay|transfer|wire|purchase|buy|task)\b|)"
      R"(\bforward\s+(?:me\s+)?the\s+(?:receipt|confirmation)\b|)"
      R"(\b(?:e-?mail|send)\s+me\s+the\s+(?:\w+\s+)?(?:confirmation|receipt|transfer\s+slip)\b|\bif\s+i\s+send\s+(?:you\s+)?the\s+(?:bank\s+)?details\b|)"
      R"(\bwhat(?:['’]s|\s+is|\s+do\s+you)\s+need(?:ed)?\s+to\s+(?:make|send|set\s+up|process)\b<20>\b(?:transfer|wire|payment)\b|)"
@@ -679,11 +686,11 @@ constexpr auto table = std::to_array<Rule>({
     {"bec-favor", "Payment redirection", "warn", 20,
      "asks for an unnamed favour or for urgent help",
      pattern([] { return std::string_view(
-     R"(\b(?:on\s+my\s+behalf|do\s+it\s+from\s+your\s+side)\b|\bwhat\s+(?:information\s+)?do\s+you\s+need\s+from\s+me\b|\b(?:before|ahead\s+of)\s+(?:the|my)\s+\w+\s+(?:call|meeting)\b|\bby\s+(?:lunch(?:time)?|noon|midday)\b|)"
+     R"(\b(?:on\s+my\s+behalf|do\s+it\s+from\s+your\s+side)\b|\bwhat\s+(?:information\s+)?do\s+you\s+need\s+from\s+me\b|)"
      R"(\b(?:effective|in\s+time|changed?)\b<30>\b(?:current|next|this|upcoming)\s+(?:pay\s?(?:date|day|period|roll|check|run)|month['’]s\s+pay\w*)\b|)"
-     R"(\b(?:complete|do|run)\s+a\s+(?:\w+\s+)?(?:task|errand)\b<20>\b(?:urgently|quickly|now|asap|discre\w+)\b|\bahead\s+of\s+(?:the|my|a)\s+(?:call|meeting)\b|\b(?:send|do\s+it)\s+as\s+soon\s+as\s+you\s+can\b|)"
+     R"(\b(?:complete|do|run)\s+a\s+(?:\w+\s+)?(?:task|errand)\b<20>\b(?:urgently|quickly|now|asap|discre\w+)\b|\b(?:send|do\s+it)\s+as\s+soon\s+as\s+you\s+can\b|)"
      R"(\bneed\s+(?:it|them|this|these)\s+(?:by|in\s+the\s+next|within|back)\b|\bneed\s+something\s+done\b|)"
-     R"(\b(?:send|get)\b<25>\bto\s+me\s+(?:this\s+(?:morning|afternoon)|today|directly)\b|\bbefore\s+(?:the|my)\s+(?:call|meeting)\b|)"
+     R"(\b(?:send|get)\b<25>\bto\s+me\s+(?:this\s+(?:morning|afternoon)|today|directly)\b|\b(?:need|want|send|pay|wire|transfer|do|get)\s+(?:it|this|them|that)\b<25>\b(?:before|ahead\s+of)\s+(?:the|my)\s+(?:\w+\s+)?(?:call|meeting)\b|\b(?:need|want|send|pay|wire|transfer)\b<25>\bby\s+(?:lunch(?:time)?|noon|midday)\b|)"
      R"(\bneed\s+(?:it|them|this|these)\b<25>\b(?:now|asap|today|before\s+(?:noon|\d|i|we)|in\s+(?:pdf|one\s+file)|right\s+away|urgent\w*)\b|)"
      R"(\bquick\s+as\s+you\s+can\b|\bfor\s+a\s+quick\s+review\b|\b(?:do|get)\s+(?:it|this|something)\s+done\s+(?:for\s+me|urgently|discre\w+)\b|)"
      R"(\b(?:need|ask|asking|want|request)\b<15>\b(?:a|an|one|some|your|me\s+a)\s+(?:\w+\s+){0,2}favou?r\b|)"
@@ -797,6 +804,11 @@ constexpr auto table = std::to_array<Rule>({
     {"crypto-giveaway", "Crypto fraud", "warn", 55,
      "lures with a crypto giveaway, airdrop or bonus to claim",
      pattern([] { return std::string_view(
+     R"(\b(?:claim|grab|collect|get|receive|redeem|take)\b<25>(?:\b(?:free|bonus)\b<12>|\d[\d.,]*\s?)\b(?:btc|bitcoins?|eth|ethereum|crypto\w*|tokens?|coins|usdt|xrp|sol|doge|nfts?)\b|)"
+     R"(\b(?:btc|bitcoin|eth|ethereum|crypto\w*|xrp|doge|token|coin|usdt|solana)\s+(?:\w+\s+)?(?:give-?aways?|air-?drops?|bonus(?:es)?|promo(?:tion)?)\b<60>\b(?:claim|join|join|take\s+part|participate|live|ends|now|today|register|connect|open|wallet|for\s+you)\b|)"
+     R"(\b(?:give-?away|air-?drop)\b<60>\b(?:btc|bitcoins?|eth|ethereum|crypto\w*|xrp|doge|tokens?|coins|usdt|solana)\b<60>\b(?:claim|join|take\s+part|participate|live|ends|now|today|register|connect|wallet|first)\b|)"
+     R"(\b(?:claim|connect)\b<60>\bair-?drop\b|\bair-?drop\b<40>\b(?:live|open|ends|waiting|claim\w*)\b|)"
+     R"(\b(?:sign\s?up|register|join|open\s+an\s+account|deposit)\b<40>\b(?:bonus|reward)\b<25>\b(?:in|of)\b<10>\b(?:btc|bitcoins?|eth|crypto\w*|usdt|tokens?)\b|)"
      R"(\b(?:automatic|cloud)\s+(?:cloud\s+)?(?:bitcoin|btc|crypto\w*)\s+(?:mining|collecting|earnings)\b<80>\b(?:days|withdraw|funds|account|balance)\b|)"
      R"(\btokens?\b<60>\bclaim\s+(?:your|now|it|them|rewards?)\b|)"
      R"(\b(?:claim|collect)\s+(?:your\s+|these\s+|the\s+)?rewards?\b<80>\b(?:wallet|tokens?|season|on-?chain)\b|)"
@@ -914,6 +926,7 @@ constexpr auto table = std::to_array<Rule>({
     {"afee-lottery", "Advance fee", "warn", 55,
      "says the reader has won or been chosen for a prize",
      pattern([] { return std::string_view(
+     R"(\b(?:preis|geschenk|gewinn|belohnung|prämie)\b<15>\b(?:einlösen|anfordern|abholen|sichern)\b|\b(?:fordern|holen|sichern)\s+Sie\s+(?:sich\s+)?<25>\b(?:geschenk|preis|belohnung|gewinn|prämie)\b|\bje\s+bent\s+geselecteerd\s+om\b|)"
      R"(\b(?:claim|unlock|redeem)\s+(?:my\s+|your\s+|the\s+|this\s+)?(?:\w+\s+){0,2}(?:rewards?|gift|prize|surprise|benefit)\b|)"
      R"(\bget\s+(?:my|your)\s+(?:free\s+|exclusive\s+|special\s+)?(?:reward|gift|prize|gift\s+card|sample)\b|)"
      R"(\bexclusive\s+(?:[\w’\'-]+\s+){0,3}reward\b|)"
@@ -925,35 +938,39 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:unsere[rm]?|an|kurze?|dieser?)\b<25>\b(?:umfrage|fragebogen)\b<90>\b(?:kostenlos\w*|gehört\s+ihnen|gratis)\b|)"
      R"(\b(?:kostenlos\w*|gratis|brandneu\w*)\b<90>\b(?:umfrage|fragebogen)\b|)"
      R"(\bmaakt?\s+kans\s+op\b<40>\b(?:cadeaukaart|prijs|gratis|iphone|tegoed|waardebon)\b|)"
-     R"(\b(?:you|u|your\s+(?:e-?mail|number|name|e-?mail\s+address|mobile|ticket|entry|household|ip\s+address))(?:\s+have|['’]ve|\s+has|\s+are|['’]re|\s+were|\s+was)?\b<8>\b(?:won|awarded|emerged|(?:the|a|our|one\s+of\s+(?:the|our))\s+(?:\w+\s+)?(?:lucky\s+)?winners?|been\s+(?:selected|chosen|drawn|picked)\s+(?:as|to\s+(?:win|receive|get)|for\s+(?:a|an|our|the|this)))\b<40>\b(?:prizes?|lottery|lotto|jackpot|sweepstakes?|raffle|rewards?|cash|gift\s?cards?|i-?phone|samsung|galaxy|vouchers?|exclusive|brand\s+new|free|mega\s+millions|powerball|winnings|gift|mystery|offer|\d{3}[\d,.]*)\b|)"
+     R"(\b(?:you|u|your\s+(?:e-?mail|number|name|e-?mail\s+address|mobile|ticket|entry|household|ip\s+address))(?:\s+have|['’]ve|\s+has|\s+are|['’]re|\s+were|\s+was)?\b<8>\b(?:won|awarded|emerged|(?:the|a|our|one\s+of\s+(?:the|our))\s+(?:\w+\s+)?(?:lucky\s+)?winners?|been\s+(?:selected|chosen|drawn|picked)\s+(?:as|to\s+(?:win|receive|get)|for\s+(?:a|an|our|the|this)))\b<40>\b(?:(?:lottery|lotto|jackpot|sweepstakes?|cash|gift\s?cards?|i-?phone|samsung|galaxy|vouchers?|mega\s+millions|powerball|winnings|mystery|\d{3}[\d,.]*)\b|(?:prizes?|raffle|rewards?|exclusive|brand\s+new|free|gift|offer)\b[\s\S]{0,200}(?:\b(?:click|tap|link|http\w*|www|call|reply|text\s+(?:us|back|yes)|whats\s?app|telegram|e-?mail\s+us|fees?|full\s+name|bank|claim|redeem|expir\w*|\d{1,2}\s+hours)\b))|)"
      R"(\b(?:won|winner\s+of|winners?\s+(?:in|of)\s+the)\b<30>\b(?:lottery|lotto|jackpot|mega\s+millions|powerball|e-?mail\s+(?:draw|ballot|lottery)|grand\s+prize|cash\s+prize)\b|)"
      R"(\b(?:lottery|lotto|sweepstakes?|draw|promo|raffle|prize)\s+(?:winner|winning\s+(?:number|notification|ticket|notice))\b|)"
-     R"(\bcongrat(?:ulation)?s?\b<60>\b(?:you(?:['’]ve|\s+have)?\s+(?:\w+\s+)?(?:won|been\s+(?:selected|chosen))|you\s+are\s+(?:\w+\s+){0,4}(?:winner|eligible|qualified)|your\s+(?:\w+\s+)?(?:reward|prize|gift))\b|)"
+     R"(\bcongrat(?:ulation)?s?\b[\s\S]{0,60}\b(?:you(?:['’]ve|\s+have)?\s+(?:\w+\s+)?(?:won|been\s+(?:selected|chosen))|you\s+are\s+(?:\w+\s+){0,4}(?:winner|eligible|qualified)|your\s+(?:\w+\s+)?(?:reward|prize|gift))\b[\s\S]{0,200}(?:\b(?:click|tap|link|http\w*|www|call|reply|text\s+(?:us|back|yes)|whats\s?app|telegram|e-?mail\s+us|fees?|full\s+name|bank|claim|redeem|expir\w*|\d{1,2}\s+hours)\b)|)"
      R"(\b(?:you|u)(?:\s+have\s+been|['’]ve\s+been|\s+were|\s+are)\s+(?:\w+\s+)?(?:selected|chosen|picked)\s+(?:as\s+(?:one\s+of\s+(?:the|our)\s+(?:\w+\s+)?(?:winners?|few|lucky)|a\s+(?:\w+\s+)?winner)|to\s+(?:receive|win|get|claim|try|enjoy|join\s+our|complete)|for\s+(?:a|an|our|the|this)\s+(?:\w+\s+){0,2}(?:prize|reward|gift|chance|exclusive|free|giveaway|loyalty))\b|)"
      R"(\b(?:claim|collect|redeem|unlock)\b\s+(?:your|ur|the)\s+(?:[\w$€£'’.-]+\s+){0,4}(?:prize|winnings?|free\s+gift|gift|jackpot|gift\s?card|mystery\s+box|surprise|giveaway|voucher|sample|set|kit)\b|)"
      R"((?:\b(?:special|exclusive|free|mystery|brand[- ]new|reward|surprise|gift|prize)\b|<amount>)<25>\b(?:is|are)\s+(?:\w+\s+)?(?:waiting\s+for\s+you|reserved\s+for\s+you|yours\s+to\s+claim|ready\s+to\s+(?:be\s+)?claim(?:ed)?|set\s+aside\s+for\s+you)\b|)"
-     R"(\byou(?:['’]ve|\s+have)\s+(?:been\s+)?(?:won|win)\s+(?:a|an|the|our|\(?1\)?)\s+(?:[\w-]+\s+){0,2}(?:new|free|brand[- ]new|\$\d|prize|gift|voucher|reward|\(\d\))|)"
+     R"(\byou(?:['’]ve|\s+have)\s+(?:been\s+)?(?:won|win)\s+(?:a|an|the|our|\(?1\)?)\s+(?:[\w-]+\s+){0,2}(?:new|free|brand[- ]new|\$\d|voucher|\(\d\)|(?:prize|gift|reward)[\s\S]{0,200}(?:\b(?:click|tap|link|http\w*|www|call|reply|text\s+(?:us|back|yes)|whats\s?app|telegram|e-?mail\s+us|fees?|full\s+name|bank|claim|redeem|expir\w*|\d{1,2}\s+hours)\b))|)"
      R"(\bmystery\s+box\b<80>\b(?:claim|free|chance|receive|won|win|selected|waiting|yours|unclaimed|lost)\b|)"
      R"(\b(?:Sie|du|ihre\s+e-?mail(?:-adresse)?)\b<50>\b(?:[\w-]*gutschein\w*|gewinn|preis|prämie|geschenk\w*|iphone|exklusive\w*|brandneue\w*|belohnung|gratis\w*|kostenlose\w*)\b<60>\b(?:gewonnen|ausgewählt|auserwählt|ausgelost)\b|)"
      R"(\b(?:ausgewählt|auserwählt|ausgelost|nominiert),?\s+(?:worden,?\s+)?um\b<60>\b(?:erhalten|gewinnen|teilzunehmen|anzufordern)\b|)"
-     R"(\b(?:Sie|du)\s+(?:\w+\s+){0,3}(?:gewonnen|ausgewählt)\s?(?:!|worden)|)"
-     R"(\b(?:Sie|du)\s+(?:sind|bist)\s+(?:\w+\s+){0,3}gewinner\w*\b|)"
-     R"(\b(?:glückwunsch|glückwünsche|gratulier\w+|gratulation)\b<90>\b(?:gewonnen|ausgewählt|gewinner\w*|qualifiziert|belohnung|ausgelost|gutschein\w*)\b|)"
+     R"(\b(?:Sie|du)\s+(?:\w+\s+){0,3}(?:gewonnen|ausgewählt)\s?(?:!|worden)[\s\S]{0,200}(?:\b(?:klick\w*|link|https?|hier|bestätig\w*|abholen|anford\w*|einlösen|versandkosten|gebühr\w*|bankdaten|whats\s?app|jetzt)\b)|)"
+     R"(\b(?:Sie|du)\s+(?:sind|bist)\s+(?:\w+\s+){0,3}gewinner\w*\b[\s\S]{0,200}(?:\b(?:klick\w*|link|https?|hier|bestätig\w*|abholen|anford\w*|einlösen|versandkosten|gebühr\w*|bankdaten|whats\s?app|jetzt)\b)|)"
+     R"(\b(?:glückwunsch|glückwünsche|gratulier\w+|gratulation)\b<90>\b(?:gewonnen|ausgewählt|gewinner\w*|qualifiziert|belohnung|ausgelost|gutschein\w*)\b[\s\S]{0,200}(?:\b(?:klick\w*|link|https?|hier|bestätig\w*|abholen|anford\w*|einlösen|versandkosten|gebühr\w*|bankdaten|whats\s?app|jetzt)\b)|)"
      R"(\b(?:exklusive[nrs]?|kostenlose[nrs]?|gratis|brandneue[nrs]?|ihr(?:e[nr]?)?|dein(?:e[nr]?)?)\b<25>\b(?:gewinn|preis|prämie|belohnung|[\w-]*gutschein|überraschung|geschenk)\b<25>\b(?:abholen|abzuholen|einlösen|beanspruchen|anfordern|sichern|zu\s+beanspruchen|wartet|zu\s+sichern|anzufordern|abholbereit)\b|)"
      R"(\b(?:einen|ein|eine)\s+(?:brandneue[nsr]?|kostenlose[nsr]?|exklusive[nsr]?)\b<50>\b(?:zu\s+(?:gewinnen|erhalten)|gewinnen|erhalten|anzufordern|beanspruchen|gratis)\b|)"
-     R"(\bvous\s+(?:avez|êtes)\s+(?:\w+\s+){0,3}(?:gagné|gagnante?|sélectionnée?|remporté|l['’]heureu(?:x|se)|tirée?\s+au\s+sort)\b<60>(?:!|\b(?:pour|prix|cadeau|lot|chèque|carte|iphone|un|une|recevoir|gagner)\b)|)"
-     R"(\b(?:félicitations?|bravo)\b<80>\b(?:gagné\w*|sélectionné\w*|gagnant\w*|remporté\w*|récompense\w*)\b|)"
+     R"(\bvous\s+(?:avez|êtes)\s+(?:\w+\s+){0,3}(?:gagné|gagnante?|sélectionnée?|remporté|l['’]heureu(?:x|se)|tirée?\s+au\s+sort)\b<60>(?:\b(?:chèque|carte|iphone|bon\s+d['’]achat|samsung|€|euros?)\b|[\s\S]{0,200}(?:\b(?:clique[rz]|lien|https?|ici|réclame[rz]|récupére[rz]|frais|whats\s?app|coordonnées|bancaires?|expire\w*)\b))|)"
+     R"(\b(?:félicitations?|bravo)\b[\s\S]{0,80}\b(?:gagné\w*|sélectionné\w*|gagnant\w*|remporté\w*|récompense\w*)\b[\s\S]{0,200}(?:\b(?:clique[rz]|lien|https?|ici|réclame[rz]|récupére[rz]|frais|whats\s?app|coordonnées|bancaires?|expire\w*)\b)|)"
      R"(\b(?:ha|has|usted\s+ha|voc[êe]|foi|fue)\s+(?:sido\s+)?(?:\w+\s+)?(?:ganado|ganador|seleccionad[oa]|premiad[oa]|contemplad[oa]|sortead[oa]|selecionad[oa]|ganhou|vencedor[a]?)\b<60>(?:!|\b(?:premio|pr[êe]mio|para|sorteo|sorteio|regalo|brinde|gratis|um|uma|un|una|b[ôo]nus|cart[ãa]o|tarjeta|iphone)\b)|)"
-     R"(\b(?:felicidades|felicitaciones|enhorabuena|parab[ée]ns)\b<80>\b(?:ganad\w+|ganhou|seleccionad\w+|premiad\w+|contemplad\w+|selecionad\w+|vencedor\w*|recompensa)\b|)"
-     R"(\b(?:u\s+hebt|u\s+heeft|u\s+bent|je\s+hebt|je\s+bent)\s+(?:[\w-]+\s+){0,4}(?:gewonnen|geselecteerd|uitgekozen|winnaar|de\s+gelukkige)\b|)"
-     R"(\bgefeliciteerd\b<80>\b(?:gewonnen|geselecteerd|winnaar|gekozen|kans)\b|)"
-     R"((?:恭喜|您已|你已|您的)<15>(?:中奖|中獎|获奖|獲獎|抽中)|)"
-     R"((?:おめでとう|ご当選)<25>(?:賞金|当選|プレゼント|獲得|選ばれ)|)"
-     R"((?:축하|당첨)<20>(?:당첨|경품|상금|선정되))"); }),
+     R"(\b(?:felicidades|felicitaciones|enhorabuena|parab[ée]ns)\b<80>\b(?:ganad\w+|ganhou|seleccionad\w+|premiad\w+|contemplad\w+|selecionad\w+|vencedor\w*|recompensa)\b[\s\S]{0,200}(?:\b(?:clic|clique|haga|haz|pulse|enlace|link|https?|aqu[íi]|reclam\w+|resgat\w+|retir\w+|costos?|gastos?|taxas?|frete|whats\s?app|dados|datos|expira\w*|liga\w*|llam\w+)\b)|)"
+     R"(\b(?:u\s+hebt|u\s+heeft|u\s+bent|je\s+hebt|je\s+bent)\s+(?:[\w-]+\s+){0,4}(?:gewonnen|geselecteerd|uitgekozen|winnaar|de\s+gelukkige)\b[\s\S]{0,200}(?:\b(?:klik\w*|link|https?|hier|claim\w*|opeisen|ophalen|verzendkosten|kosten|whats\s?app|gegevens|bevestig\w*)\b)|)"
+     R"(\bgefeliciteerd\b[\s\S]{0,80}\b(?:gewonnen|geselecteerd|winnaar|gekozen|kans)\b[\s\S]{0,200}(?:\b(?:klik\w*|link|https?|hier|claim\w*|opeisen|ophalen|verzendkosten|kosten|whats\s?app|gegevens|bevestig\w*)\b)|)"
+     R"((?:恭喜|您已|你已|您的)<25>(?:中[奖獎]|抽中|[获獲]得?(?:大|一等|二等|三等)?[奖獎])[\s\S]{0,80}(?:点击|點擊|http|领取|領取|兑[奖換换]|兌[獎換]|客服|手[续續][费費]|税|稅|加微信|加LINE|[电電][话話])|)"
+     R"((?:おめでとう|ご当選|当選)[^。]{0,40}(?:賞金|当選|プレゼント|獲得|選ばれ)[\s\S]{0,100}(?:http|クリック|タップ|受け取|手数料|振込|LINE|こちら|登録)|)"
+     R"((?:축하|당첨)[^.!?]{0,30}(?:당첨|경품|상금|선정되)[\s\S]{0,100}(?:http|클릭|링크|수수료|제세공과금|세금|입금|카톡|연락|수령))"); }),
      true},
     {"afee-lottery2", "Advance fee", "warn", 50,
      "holds out a prize, a reward or a stranger's donation to be claimed",
      pattern([] { return std::string_view(
+     R"(\b(?:claim|collect|redeem|pick\s+up)\s+(?:your|ur|this|the)\s+(?:\w+\s+){0,2}(?:reward|prize|donation|grant|award|winnings|bonus|cash)\b<60>\b(?:before|by|within|now|today|here|link|contact|reply|agent|click|expires?)\b|)"
+     R"(\b(?:prize|reward|award|donation|grant)\b<40>\b(?:is|are|has\s+been)\s+(?:still\s+)?(?:waiting|reserved|set\s+aside|held|kept|ready|unclaimed|earmarked|allocated)\b<30>\b(?:you|your|claim\w*|collect\w*)\b|)"
+     R"(\b(?:wants?|wish(?:es)?|decided|would\s+like|intends?|going|willing)\s+to\s+(?:donate|give\s+away|give|share|hand\s+(?:out|over))\b<60>\b(?:million|thousand|fortune|winnings|jackpot|money|wealth|[\d,.]{5,})\b<60>\b(?:you|strangers?|people|lucky)\b|)"
+     R"(\b(?:donat\w+|giv\w+)\s+(?:you|to\s+you|to\s+\w+\s+lucky)\b<60>\b(?:million|thousand|fortune|winnings|jackpot|[\d,.]{5,})\b|)"
      R"(\bdoou\b<30>\bmilhões\b|\bdoação\s+de\b<30>\bmilhões\b|)"
      R"(\b(?:balance|payout|winnings)\s+of\s+<amount><60>\b(?:collect\w*|withdraw\w*|claim\w*|in\s+your\s+name)\b|)"
      R"(\b(?:grant|donation|award|sum|compensation)\s+of\s+(?:[\w-]+\s+){0,4}(?:million|thousand)\s+(?:[\w.]+\s+){0,3}(?:dollars|euros?|pounds|usd)\b|)"
@@ -1061,6 +1078,9 @@ constexpr auto table = std::to_array<Rule>({
     {"afee-barrister", "Advance fee", "warn", 35,
      "speaks as a lawyer, banker or official of a faraway estate",
      pattern([] { return std::string_view(
+     R"(\b(?:i\s+am|i['’]m|my\s+name\s+is|this\s+is|write\s+to\s+you\s+as|writing\s+as)\b<50>\b(?:barrister|solicitor|attorney|lawyer|advocate|notary|executor|legal\s+adviser|bank(?:er|\s+manager|\s+official|\s+officer|\s+director)|auditor|account\s+officer|minister(?:ial)?|government\s+official)\b[\s\S]{0,140}\b(?:late|deceased|estate|inherit\w*|died|next\s+of\s+kin|will\s+of|left\s+behind|unclaimed|dormant|abandoned|of\s+the\s+same\s+name|your\s+relative|your\s+namesake|overseas|your\s+surname|last\s+name|fund)\b|)"
+     R"(\b(?:barrister|solicitor|attorney|lawyer|advocate|notary|executor)\s+(?:to|of|for|handling|representing)\b<25>\b(?:late|deceased|estate|client\s+who\s+died|foreign|will)\b|)"
+     R"(\b(?:law\s+(?:firm|office|chambers?)|chambers)\b<50>\b(?:estate|late|deceased|inherit\w*|next\s+of\s+kin)\b|)"
      R"(\b(?:bank\s+manager|director|manager|auditor)\s+(?:of|at|in|with)\b<30>\bbank\s+(?:of|in|plc)\b<25>\b(?:nigeria|ghana|benin|togo|burkina|africa|lagos|abidjan|accra|lome|cotonou|london|dubai|hong\s+kong|malaysia)\b|)"
      R"(\b(?:i\s+am|i\'m|am)\s+(?:a\s+|an\s+|the\s+|mr\.?\s+|mrs\.?\s+|dr\.?\s+)?(?:\w+\s+){0,4}(?:banker|bank\s+manager|regional\s+manager|branch\s+manager|auditor|account\s+officer|director)\b<60>\bbank\b|)"
      R"(\b(?:barrister|solicitor|attorney|advocate|lawyer|notary)\b<60>\b(?:late|deceased|client|estate|inherit\w*|next\s+of\s+kin|fund|funds|beneficiary|claim)\b<80>\b(?:million|died|next\s+of\s+kin|fund|funds|inherit\w*|transfer|same\s+(?:last\s+name|surname)|nationality|claim|contact|proposal|beneficiary)\b|)"
@@ -1132,6 +1152,8 @@ constexpr auto table = std::to_array<Rule>({
     {"imp-support", "Impersonation", "warn", 40,
      "poses as the technical support of a well-known company",
      pattern([] { return std::string_view(
+     R"(\b(?:this\s+is|i\s+am|i['’]m|my\s+name\s+is|we\s+are|calling|call(?:ing)?\s+you|writing|here\s+is|on\s+behalf\s+of|speaking|hello|hi)\b<40>\b(?:microsoft|windows|apple|google|amazon|norton|mcafee|geek\s?squad|dell|hp|paypal|facebook|meta|netflix|icloud|outlook|office\s?365|telekom|vodafone|bt|comcast|verizon)(?:['’]s)?\s+(?:\w+\s+)?(?:technical|tech|customer|computer|security|it)?\s?(?:support|help\s?desk|service|care|technician|engineer|security)\b|)"
+     R"(\b(?:technician|engineer|agent|specialist|support|expert|representative)\s+(?:from|at|with|of)\s+(?:microsoft|windows|apple|google|amazon|norton|mcafee|geek\s?squad|dell|hp|paypal|facebook|meta|icloud)\b|)"
      R"(\b(?:norton|mcafee|geek\s?squad|paypal|lifelock|totalav|microsoft|windows|quickbooks|best\s+buy|amazon|apple|netflix|premium|maxsecure)\b<80>\b(?:membership|subscription|renewal|protection\s+plan|auto-?renew\w*|order|renew)\b<100>(?:<amount>|\b(?:charged|debited|debit|help\s?line|help\s?desk|toll[- ]?free)\b)|)"
      R"(\b(?:membership|subscription|renewal|plan)\b<60>\b(?:norton|mcafee|geek\s?squad|paypal|lifelock|totalav|microsoft|windows|quickbooks|maxsecure)\b<100>(?:<amount>|\b(?:charged|debited|debit|set\s+to\s+renew|scheduled)\b)|)"
      R"(\b(?:microsoft|windows|apple|google|amazon|paypal|netflix|facebook|meta|instagram|whats\s?app|coinbase|metamask|ledger|binance|norton|mcafee|geek\s?squad|icloud|outlook|office\s?365|yahoo|dhl|ups|fedex|usps|docusign|trust\s?wallet|blockchain|kraken|exodus|opensea|trezor|linkedin|spotify|webmail|e-?mail|mail|helpdesk|it)\b<5>\b(?:technical\s+|customer\s+|account\s+|security\s+|online\s+|wallet\s+|live\s+|e-?mail\s+|help\s+|it\s+|admin\s+)*(?:support|help\s?desk|service\s+desk|security|care|services?|administrator|admin|assistance|account|verification|protection|billing)(?:\s+team|\s+department|\s+center|\s+centre|\s+desk|\s+staff|\s+agent)\b|)"
@@ -1144,13 +1166,13 @@ constexpr auto table = std::to_array<Rule>({
     {"imp-bank-security", "Impersonation", "warn", 35,
      "poses as a bank's security department",
      pattern([] { return std::string_view(
-     R"(\b(?:bank|chase|wells\s+fargo|bank\s+of\s+america|citi(?:bank)?|hsbc|barclays|lloyds|natwest|santander|halifax|nationwide|capital\s+one|td\s+bank|rbc|scotiabank|commonwealth\s+bank|anz|westpac|nab|revolut|n26|monzo|american\s+express|amex|visa|mastercard|paypal|venmo|zelle|cash\s?app|wise|usaa|truist|navy\s+federal)\b<40>\b(?:fraud\s+(?:department|team|prevention|alert|protection|detection)|security\s+(?:department|team|alert|notice|centre|center|update|system|upgrade)|alerts?|verification\s+(?:team|department)|customer\s+protection|online\s+banking|card\s+services|account\s+(?:services|alert|notification|review))\b<100>\b(?:suspicious|verify|confirm|unusual|locked|blocked|suspended|restricted|transaction|transfer|payment|declined|log\s?in|click|call|update|unauthori[sz]ed|access|secure|limited)\b|)"
+     R"(\b(?:bank|chase|wells\s+fargo|bank\s+of\s+america|citi(?:bank)?|hsbc|barclays|lloyds|natwest|santander|halifax|nationwide|capital\s+one|td\s+bank|rbc|scotiabank|commonwealth\s+bank|anz|westpac|nab|revolut|n26|monzo|american\s+express|amex|visa|mastercard|paypal|venmo|zelle|cash\s?app|wise|usaa|truist|navy\s+federal)\b<unasked><40>\b(?:fraud\s+(?:department|team|prevention|alert|protection|detection)|security\s+(?:department|team|alert|notice|centre|center|update|system|upgrade)|alerts?|verification\s+(?:team|department)|customer\s+protection|online\s+banking|card\s+services|account\s+(?:services|alert|notification|review))\b<100>\b(?:suspicious|verify|confirm|unusual|locked|blocked|suspended|restricted|transaction|transfer|payment|declined|log\s?in|click|call|update|unauthori[sz]ed|access|secure|limited)\b|)"
      R"(\b(?:fraud\s+(?:department|team|prevention|protection|detection)|security\s+department|anti-?fraud)\b<80>\b(?:your\s+(?:account|card|bank)|suspicious|transaction|verify|call\s+(?:us|back)|transfer|unauthori[sz]ed|we\s+(?:have\s+)?(?:noticed|detected))\b|)"
-     R"(\b(?:your|ur)\s+(?:\w+\s+){0,2}(?:bank\s+account|debit\s+card|credit\s+card|online\s+banking|bank\s+card|cash\s?app|zelle|paypal\s+account|bank)\b<60>\b(?:suspended|locked|blocked|restricted|limited|compromised|suspicious|unusual|on\s+hold|frozen|deactivated|verify|fraudulent)\b|)"
-     R"(\b(?:sparkasse|volksbank|commerzbank|deutsche\s+bank|postbank|dkb|ing(?:-diba)?|comdirect|targobank|santander|hypovereinsbank|raiffeisen\w*|n26|consorsbank|advanzia|barclays|norisbank|klarna|paypal|mastercard|visa|push-?tan|photo-?tan|s-id-check)\b<100>\b(?:bestätig\w+|gesperrt|einschränk\w+|eingeschränkt|aktualisier\w+|sicherheits\w+|verifizier\w+|legitimation\w*|legitimier\w+|freischalt\w+|abgelaufen|läuft\s+ab|abläuft|reaktivier\w+|überprüf\w+)\b|)"
-     R"(\b(?:crédit\s+agricole|bnp\s+paribas|société\s+générale|la\s+banque\s+postale|caisse\s+d['’]épargne|crédit\s+mutuel|lcl|boursorama|cic|ing|fortuneo|bred|certicode)\b<100>\b(?:suspend\w+|bloqu\w+|sécurit\w+|confirm\w+|vérifi\w+|activ\w+|mise\s+à\s+jour|authentifi\w+)\b|)"
-     R"(\b(?:bbva|santander|caixabank|sabadell|bankia|ing|itau|itaú|bradesco|banco\s+do\s+brasil|caixa|nubank|mercado\s+pago|picpay|sicredi|sicoob|banrisul|pagbank|banco\s+inter|livelo|esfera|unicaja|ibercaja|bancolombia|banorte|banamex)\b<100>\b(?:suspend\w+|bloque\w+|seguran[çc]a|seguridad|confirm\w+|verifi\w+|ativ[ae]\w*|activ[ae]\w*|atualiz\w+|actuali\w+|desativad\w+|expira\w*|resgat\w+|acesso|dispositivo|token|m[óo]dulo|pontos)\b|)"
-     R"(\b(?:ing|rabobank|abn\s+amro|sns|asn|knab|bunq|ics|regiobank)\b<100>\b(?:geblokkeerd|bevestig\w*|verifi\w+|beveilig\w*|verlop\w+|activeer\w*|activeren|bijwerken|identific\w+)\b|)"
+     R"(\b(?:your|ur)\s+(?:\w+\s+){0,2}(?:bank\s+account|debit\s+card|credit\s+card|online\s+banking|bank\s+card|cash\s?app|zelle|paypal\s+account|bank)\b<unasked><60>\b(?:suspended|locked|blocked|restricted|limited|compromised|suspicious|unusual|on\s+hold|frozen|deactivated|verify|fraudulent)\b|)"
+     R"(\b(?:sparkasse|volksbank|commerzbank|deutsche\s+bank|postbank|dkb|ing(?:-diba)?|comdirect|targobank|santander|hypovereinsbank|raiffeisen\w*|n26|consorsbank|advanzia|barclays|norisbank|klarna|paypal|mastercard|visa|push-?tan|photo-?tan|s-id-check)\b<unasked><100>\b(?:bestätig\w+|gesperrt|einschränk\w+|eingeschränkt|aktualisier\w+|sicherheits\w+|verifizier\w+|legitimation\w*|legitimier\w+|freischalt\w+|abgelaufen|läuft\s+ab|abläuft|reaktivier\w+|überprüf\w+)\b|)"
+     R"(\b(?:crédit\s+agricole|bnp\s+paribas|société\s+générale|la\s+banque\s+postale|caisse\s+d['’]épargne|crédit\s+mutuel|lcl|boursorama|cic|ing|fortuneo|bred|certicode)\b<unasked><100>\b(?:suspend\w+|bloqu\w+|sécurit\w+|confirm\w+|vérifi\w+|activ\w+|mise\s+à\s+jour|authentifi\w+)\b|)"
+     R"(\b(?:bbva|santander|caixabank|sabadell|bankia|ing|itau|itaú|bradesco|banco\s+do\s+brasil|caixa|nubank|mercado\s+pago|picpay|sicredi|sicoob|banrisul|pagbank|banco\s+inter|livelo|esfera|unicaja|ibercaja|bancolombia|banorte|banamex)\b<unasked><100>\b(?:suspend\w+|bloque\w+|seguran[çc]a|seguridad|confirm\w+|verifi\w+|ativ[ae]\w*|activ[ae]\w*|atualiz\w+|actuali\w+|desativad\w+|expira\w*|resgat\w+|acesso|dispositivo|token|m[óo]dulo|pontos)\b|)"
+     R"(\b(?:ing|rabobank|abn\s+amro|sns|asn|knab|bunq|ics|regiobank)\b<unasked><100>\b(?:geblokkeerd|bevestig\w*|verifi\w+|beveilig\w*|verlop\w+|activeer\w*|activeren|bijwerken|identific\w+)\b|)"
      R"((?:银行|銀行)<12>(?:风控|風控|安全中心|反诈|客服)<25>(?:账户|帳戶|交易|转账|轉帳|异常|異常)|)"
      R"((?:銀行|カード会社|三井住友|楽天|三菱UFJ|みずほ|ゆうちょ|えきねっと|JCB|アメックス)<30>(?:不正利用|利用制限|本人確認|一時停止|セキュリティ強化)|)"
      R"((?:은행|카드사)<15>(?:보안팀|사고\s?예방|이상\s?거래|부정\s?사용))"); }),
@@ -1224,6 +1246,8 @@ constexpr auto table = std::to_array<Rule>({
     {"imp-call-number", "Impersonation", "warn", 25,
      "urges the reader to call a given number about a charge or an account",
      pattern([] { return std::string_view(
+     R"(\b(?:call|dial|phone|ring|telephone)\b<40>\+?\(?\d[\d ().\/-]{6,16}\d<80>\b(?:cancel\w*|refund\w*|immediately|dispute|verify|unauthori[sz]ed|order|charge\w*|charged|account|card|payment|transaction|debit\w*|subscription|stop|block\w*)\b|)"
+     R"(\b(?:charge\w*|charged|account|card|payment|transaction|debit\w*|subscription|invoice|renewal|purchase|refund)\b[\s\S]{0,120}\b(?:call|dial|phone|ring|telephone)\s+(?:us\s+|me\s+|our\s+\w+\s+|the\s+\w+\s+|now\s+|back\s+|immediately\s+)*(?:team\s+|line\s+|desk\s+|department\s+|number\s+)?(?:on|at|under)?\s?:?\s?\+?\(?\d[\d ().\/-]{6,16}\d|)"
      R"(\bcall\s+us\s+(?:immediately|now|right\s+away|at\s+once)\b<25>\d{3}[\s.)-]{1,3}\d{3}[\s.-]{1,2}\d{3,4}\b|)"
      R"(\b(?:call|dial|phone|contact|reach|ring|text)\b<40>(?:\+?\d{1,3}[\s.-]?)?\(?\d{3,4}\)?[\s.-]{0,2}\d{3}[\s.-]{0,2}\d{3,4}\b<60>\b(?:cancel|refund|immediately|dispute|verify|support|unauthori[sz]ed|order|charge\w*|within|subscription|help|stop|avoid|report|account|claim|questions?|if)\b|)"
      R"(\b(?:cancel|refund|dispute|unauthori[sz]ed|not\s+(?:made|authori[sz]ed|placed)\s+by\s+you|did\s+not\s+(?:make|authori[sz]e|place)|didn['’]t\s+(?:make|authori[sz]e|place)|subscription|auto-?renew\w*|charged|virus|suspended|locked|to\s+claim)\b<100>\b(?:call|dial|phone|contact|ring|reach)\b<40>(?:\+?\d{1,3}[\s.-]?)?\(?\d{3,4}\)?[\s.-]{0,2}\d{3}[\s.-]{0,2}\d{3,4}\b|)"
@@ -1392,6 +1416,9 @@ constexpr auto table = std::to_array<Rule>({
     {"ext-webcam", "Extortion", "warn", 70,
      "claims to have filmed the reader through the webcam",
      pattern([] { return std::string_view(
+     R"(\b(?:record\w*|film\w*|video\w*|tap(?:ed|ing)|captur\w*|watch(?:ed|ing))\b<20>\byou\b<60>\b(?:through|via|with|by|using|from|on)\b<12>\b(?:your|the)\s+(?:\w+\s+){0,2}(?:web\s?cam(?:era)?|camera|cam|microphone)\b|)"
+     R"(\b(?:your|the)\s+(?:\w+\s+){0,2}(?:web\s?cam(?:era)?|camera|cam)\b<30>\b(?:record\w*|film\w*|captur\w*|tap(?:ed|ing)|show(?:s|ed)|caught)\b<15>\b(?:you|everything|what\s+you|your)\b|)"
+     R"(\b(?:video|footage|recording|clip|film|pictures)\b<15>\bof\s+you\b<40>\b(?:web\s?cam(?:era)?|camera)\b|)"
      R"(\b(?:web\s?cam(?:era)?|camera|front\s+camera|your\s+screen|microphone)\b<120>\b(?:record\w*|video\w*|footage|filmed|captured|watch(?:ed|ing)|screenshots?)\b<120>\b(?:you|yourself)\b<80>\b(?:masturbat\w+|pleasur\w+\s+yourself|porn\w*|intimate|jerk\w*|sexual\w*|naked|nude|wank\w*|onanis\w+|dirty|perver\w+|relieving)\b|)"
      R"(\b(?:record\w*|video|footage|filmed|captured|screenshots?)\b<80>\b(?:you|yourself)\b<60>\b(?:masturbat\w+|pleasuring\s+yourself|satisfying\s+yourself|jerking|wanking|watching\s+(?:porn\w*|adult)|onanis\w+|self[- ]satisf\w+)\b|)"
      R"(\b(?:masturbat\w+|pleasuring\s+yourself|satisfying\s+yourself|jerking\s+off|onanis\w+)\b<120>\b(?:video|footage|record\w*|web\s?cam|camera|contacts|publish|screen|clip)\b|)"
@@ -1810,6 +1837,8 @@ constexpr auto table = std::to_array<Rule>({
     {"rom-military", "Romance fraud", "warn", 30,
      "poses as a soldier or contractor on deployment",
      pattern([] { return std::string_view(
+     R"(\b(?:i\s+am|i['’]m|my\s+name\s+is|this\s+is)\b<60>\b(?:sgt|sergeant|captain|major|general|lieutenant|colonel|soldier|army|marine|navy|military|peace\s?keep\w+|surgeon|contractor|engineer)\b<80>\b(?:deployed|deployment|stationed|serving\s+in|on\s+(?:a\s+)?(?:secret\s+)?mission|war\s+zone|(?:oil\s+)?rig|offshore|peace\s?keeping|base\s+in|camp\s+in|syria|afghanistan|iraq|yemen|kabul|baghdad|somalia|libya)\b|)"
+     R"(\b(?:deployed|stationed|serving|deployment)\b<40>\b(?:syria|afghanistan|iraq|yemen|kabul|baghdad|somalia|libya|ukraine|oil\s+rig|offshore|overseas|peace\s?keeping)\b<80>\b(?:you|love|alone|widow\w*|chat|meet|heart|leave)\b|)"
      R"(\b(?:i\s+am|i['’]m|am|my\s+name\s+is|this\s+is)\b<40>\b(?:sgt|sergeant|captain|major|general|lieutenant|colonel|soldier|army\s+officer|marine|us\s+army|u\.s\.\s+army|military\s+(?:officer|doctor|nurse|surgeon)|peace\s?keep(?:er|ing)|surgeon|petroleum\s+engineer|oil\s+rig|offshore\s+engineer|war\s+doctor)\b<120>\b(?:deployed|deployment|stationed|serving|syria|afghanistan|iraq|yemen|ukraine|kabul|baghdad|somalia|peace\s?keeping|base|camp|united\s+nations|mission|rig|offshore|widow\w*|retire)\b<120>\b(?:you|your|money|box|package|fund|leave|love|trust|consignment|retire\w*|assist\w*|met|friend\w*|relationship|help)\b|)"
      R"(\b(?:deployed|stationed|serving|mission)\b<25>\b(?:in|at)\s+(?:syria|afghanistan|iraq|yemen|ukraine|kabul|baghdad|somalia|libya|a\s+war\s+zone)\b<150>\b(?:love|leave\s+(?:fee|request)|trunk|consignment|box|million|fund|dear|honey|trust\s+you|relationship|retire\w*|safe\s?keeping|money\s+out)\b|)"
      R"(\b(?:us\s+army|u\.s\.\s+army|american\s+soldier|peace\s?keeping|military)\b<120>(?:\b(?:consignment|trunk\s+box|box\s+of|safe\s?keeping|found\s+(?:some\s+)?money|million)|\$\s?\d[\d,.]*\s?m\w*)\b)"); }),
@@ -1902,6 +1931,9 @@ constexpr auto table = std::to_array<Rule>({
     {"hate-subhuman", "Abuse", "warn", 60,
      "calls people inferior by birth",
      pattern([] { return std::string_view(
+     R"(\b(?:born|by\s+(?:birth|nature|blood|descent)|genetic\w*|biological\w*|racial\w*|inherently|naturally)\b<15>\b(?:inferior|lesser|lower|beneath\s+us|stupid|worthless|unfit|defective|less\s+(?:intelligent|human|worthy|than)|criminals?|slaves?|to\s+serve)\b|)"
+     R"(\b(?:inferior|lesser|worth\s+less|beneath\s+us|not\s+(?:fully\s+|really\s+)?human|less\s+than\s+human)\b<15>\b(?:by\s+(?:birth|nature|blood|descent)|from\s+birth|race|blood|genes|stock|breed)\b|)"
+     R"(\b(?:people|those|these|they|them|immigrants|foreigners)\s+(?:\w+\s+){0,2}(?:are|is)\s+(?:\w+\s+){0,2}(?:inferior|subhuman|sub-human)\b|)"
      R"(\b(?:inferior|lesser|subhuman|sub-human|degenerate|mongrel|filthy|mud|master|superior)\s+(?:race|races|species|people|breed|blood|beings?|humans?)\b<60>\b(?:are|is|should|must|will|they|we|our|jews?|blacks?|muslims?|them|white|immigrants?)\b|)"
      R"(\b(?:are|is|they['’]re)\s+(?:all\s+|just\s+|nothing\s+but\s+|like\s+|no\s+better\s+than\s+|genetically\s+|intellectually\s+|biologically\s+)+(?:inferior|sub-?humans?|animals|apes|monkeys|savages|insects|dogs|pigs|a\s+disease|a\s+cancer|vermin|cockroaches)\b|)"
      R"(\b(?:white\s+(?:power|genocide|supremacy\s+is)|great\s+replacement|racial\s+purity|racially\s+pure|ethnic\s+cleansing\s+is|gas\s+the|heil\s+hitler|sieg\s+heil|14\s?/\s?88|blood\s+and\s+soil|untermensch\w*)\b|)"
@@ -2090,7 +2122,10 @@ constexpr auto table = std::to_array<Rule>({
      "writes the name of a potency drug letter by letter",
      R"(\bv[\W_]{1,3}i[\W_]{1,3}a[\W_]{1,3}g[\W_]{1,3}r[\W_]{1,3}a\b|)"
      R"(\bc[\W_]{1,3}i[\W_]{1,3}a[\W_]{1,3}l[\W_]{1,3}i[\W_]{1,3}s\b|)"
-     R"(\bl[\W_]{1,3}e[\W_]{1,3}v[\W_]{1,3}i[\W_]{1,3}t[\W_]{1,3}r[\W_]{1,3}a\b)",
+     R"(\bl[\W_]{1,3}e[\W_]{1,3}v[\W_]{1,3}i[\W_]{1,3}t[\W_]{1,3}r[\W_]{1,3}a\b|)"
+     R"(\bk[\W_]{1,3}a[\W_]{1,3}m[\W_]{1,3}a[\W_]{1,3}g[\W_]{1,3}r[\W_]{1,3}a\b|)"
+     R"(\bs[\W_]{1,3}i[\W_]{1,3}l[\W_]{1,3}d[\W_]{1,3}e[\W_]{1,3}n[\W_]{1,3}a[\W_]{1,3}f[\W_]{1,3}i[\W_]{1,3}l\b|)"
+     R"(\bv[\W_]{0,3}[i1!|l][\W_]{1,3}a[\W_]{1,3}g[\W_]{1,3}r[\W_]{0,3}[a@4]\b)",
      true},
     {"sa-drug-ed-sild", "Bulk mail", "warn", 10,
      "names the active substance of a potency drug",
@@ -2133,11 +2168,15 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"sa-drugs-smear1", "Bulk mail", "warn", 12,
      "runs the names of several medicines together",
+     R"((?:viagra|cialis|levitra|xanax|valium|ambien|tramadol|phentermine|vicodin|prozac|zoloft|propecia|meridia|adipex)[\W_]{0,5}(?:viagra|cialis|levitra|xanax|valium|ambien|tramadol|phentermine|vicodin|prozac|zoloft|propecia|meridia|adipex)|)"
      R"(\b(?:viagra|cialis|levitra|xanax|valium|ambien|tramadol|phentermine|soma|vicodin|prozac|zoloft|propecia|meridia|adipex|zyban|celebrex|hydrocodone|percocet|oxycontin|paxil)\b[\W_]{1,5}(?:and\s+|or\s+|&\s+)?(?:viagra|cialis|levitra|xanax|valium|ambien|tramadol|phentermine|soma|vicodin|prozac|zoloft|propecia|meridia|adipex|zyban|celebrex|hydrocodone|percocet|oxycontin|paxil)\b)",
      true},
     {"sa-remove-before-link", "Bulk mail", "warn", 10,
      "tells the reader to take something out of a link before using it",
      pattern([] { return std::string_view(
+     R"(\b(?:remove|delete|take|drop|erase|strip|cut|leave|replace)\b<40>\b(?:out\s+of|from|in|inside|within)\s+(?:the|this|our)\s+(?:\w+\s+)?(?:link|url|address|domain|hyperlink|site\s+name)\b|)"
+     R"(\b(?:link|url|address|domain)\b<40>\b(?:remove|delete|take|drop|erase|strip|cut|leave)\b<25>\b(?:out|first|before|spaces?|dots?|stars?|characters?|brackets?|letters?|word)\b|)"
+     R"(\b(?:without|minus)\s+the\s+(?:spaces?|stars?|asterisks?|brackets?|dots?|underscores?|quotes?)\b<40>\b(?:link|url|address|browser)\b|)"
      R"(\b(?:remove|delete|take\s+out|drop|erase)\b<30>\b(?:space|spaces|dots?|stars?|asterisk|brackets?|characters?|letters?|xx+|the\s+word|underscores?)\b<40>\b(?:link|url|address|domain|web\s?site|browser|site)\b|)"
      R"(\b(?:link|url|address|site)\b<40>\b(?:remove|delete|take\s+out|without)\s+(?:the\s+|all\s+|any\s+)?(?:space|spaces|dots?|stars?|asterisks?|brackets?)\b|)"
      R"(\b(?:copy|type)\b<30>\b(?:link|url|address|site)\b<30>\b(?:without|remove|removing)\s+(?:the\s+)?(?:spaces?|stars?|brackets?)\b)"); }),
@@ -2160,9 +2199,9 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:cher|chère|bonjour|chers?)\s+(?:\w+\s+)?(?:client|cliente|clients|utilisateur|utilisatrice|membre|ami|amie|bénéficiaire|abonnée?|titulaire|allocataire)\b|)"
      R"(\b(?:estimad[oa]|querid[oa]|prezad[oa]|car[oa]|ol[áa]|hola)s?\s?(?:\([ao]\))?,?\s+(?:se[ñn]hor(?:\(a\))?\s+)?(?:cliente|usuari[oa]|usu[áa]ri[oa]|amig[oa]|membro|miembro|benefici[áa]ri[oa]|beneficiari[oa]|titular|contribuinte|cidad[ãa]o|consumidor|socio|assinante|correntista|associado|motorista|condutor|[\w.+-]{1,40}@[\w.-]{2,40})\b|)"
      R"(\b(?:beste|geachte|hallo)\s+(?:heer\s?/\s?mevrouw|klant|gebruiker|relatie|lid|cliënt|rekeninghouder|winnaar|[\w.+-]{1,40}@[\w.-]{2,40})\b|)"
-     R"((?:尊敬的|亲爱的|親愛的)(?:客户|客戶|用户|用戶|会员|會員|朋友)|)"
-     R"(お客様各位|)"
-     R"((?:고객님|회원님|존경하는))"); }),
+     R"((?:尊敬的|亲爱的|親愛的)(?:朋友|受益人|幸[运運]|中[奖獎]|投[资資]者)|)"
+     R"(親愛なる(?:友人?|受益者|お客様|投資家)|)"
+     R"((?:존경하는|친애하는|사랑하는)\s?(?:고객|회원|친구|투자자|수혜자))"); }),
      true},
     {"sa-billion-dollars", "Bulk mail", "warn", 20,
      "mentions billions of dollars",
@@ -2187,6 +2226,10 @@ constexpr auto table = std::to_array<Rule>({
     {"sa-excuse-remove", "Bulk mail", "warn", 40,
      "excuses a mass mailing as wanted and harmless",
      pattern([] { return std::string_view(
+     R"(\b(?:this\s+(?:\w+\s+)?(?:is|was)\s+not|not\s+(?:a\s+)?|isn['’]t|never\s+send|do\s+not\s+send)\s?(?:spam|junk\s+mail|unsolicited)\b<80>\b(?:you|your|because|as|since|but|simply|signed|subscribed|agreed|partner|list)\b|)"
+     R"(\b(?:receiv(?:e|ed|ing)|got|getting|sent)\b<30>\b(?:this|our)\s+(?:\w+\s+)?(?:e-?mail|message|mailing|offer|mail|newsletter)\b<20>\b(?:because|since|as)\s+you\s+(?:\w+\s+)?(?:opted|signed\s+up|subscribed|registered|agreed|requested|asked|expressed|visited|indicated)\b<60>\b(?:partner\w*|affiliate\w*|third\s+part\w+)\b|)"
+     R"(\b(?:you\s+(?:asked|agreed|opted|signed\s+up|consented|requested))\b<25>\bto\s+(?:receive|get|be\s+sent|hear)\b<40>\b(?:offers?|promotions?|mailings?|partners?|advertis\w*)\b|)"
+     R"(\b(?:if\s+(?:you|this)\b<30>\b(?:in\s+error|by\s+mistake|do\s+not\s+want|no\s+longer\s+want|were\s+not\s+expecting|bothers?\s+you|disturb\w*))\b<40>\b(?:remove|removed|delete|simply|just|sorry|apologi[sz]e)\b|)"
      R"(\bremove\s+(?:yourself|your\s+(?:name|e-?mail|address|e-?mail\s+address))\s+from\s+(?:our|all|any)\s+(?:\w+\s+)?(?:e-?mails?|mails?|mailing)\s?lists?\b|)"
      R"(\bunsubscribe\s+from\s+all\s+e-?mails?\s+lists?\b|)"
      R"(\b(?:this|our)\s+(?:e-?mail|message|mailing|mail)\s+(?:is\s+not|isn['’]t|cannot\s+be\s+considered|can\s+not\s+be\s+considered|may\s+not\s+be\s+considered|is\s+never|was\s+not\s+sent\s+as)\s+(?:\w+\s+){0,2}(?:spam|unsolicited|junk)\b|)"
@@ -2233,6 +2276,9 @@ constexpr auto table = std::to_array<Rule>({
     {"sa-body-enhancement2", "Bulk mail", "warn", 10,
      "advertises pills or creams that change the body",
      pattern([] { return std::string_view(
+     R"(\b(?:pills?|tablets?|cream|capsules?|supplement|formula|gel)\b<30>\b(?:make|makes|give|gives|help|helps)\s+(?:your|you)\b<25>\b(?:grow|bigger|larger|firmer|fuller|taller|slimmer|thicker|stronger)\b|)"
+     R"(\b(?:pills?|tablets?|patch|cream|lotion|serum|gel|drops|capsules?|herbal|supplement|formula|oil|powder|spray)\b<60>\b(?:firm\w*|lift\w*|tighten\w*|enlarge\w*|grow\w*|bigger|larger|fuller|taller|thicker|longer|slim\w*|shrink\w*|smooth\w*|build\w*|reshape\w*|erase\w*|remove\w*|melt\w*)\b<30>\b(?:breasts?|bust|bottom|butt|skin|wrinkles?|muscles?|hair|body|belly|waist|height|inches|lips|penis|size|thighs?|cellulite|curves)\b|)"
+     R"(\b(?:breasts?|bust|muscles?|hair|body|belly|waist|height|lips|skin|wrinkles?|curves)\b<40>\b(?:with|from|thanks\s+to|by\s+using|using|using\s+our|after)\b<20>\b(?:pills?|tablets?|patch|cream|lotion|serum|gel|drops|capsules?|supplement|formula)\b|)"
      R"(\b(?:pills?|patch|cream|herbal|formula|supplement|exercise|pump|gel|capsules?)\b<40>\b(?:bigger|larger|longer|thicker|firmer|fuller|enlarge\w*|enhance\w*|grow)\b<25>\b(?:penis|breasts?|bust|manhood|erections?|size|inches|muscles?|butt|hair)\b|)"
      R"(\b(?:gain|add|grow|increase)\b<15>\b(?:\d|one|two|three|four|several|extra|up\s+to)\b<12>\binch(?:es)?\b<30>\b(?:penis|length|size|weeks?|days|manhood|naturally|girth|pills?)\b)"); }),
      true},
@@ -2337,6 +2383,9 @@ constexpr auto table = std::to_array<Rule>({
     {"sa-more-sex", "Bulk mail", "warn", 34,
      "promises a better or busier sex life",
      pattern([] { return std::string_view(
+     R"(\b(?:have|enjoy|get|want|having|need|wanting|crave)\b<12>\b(?:more|better|great|hot|amazing|wild|incredible|longer|unforgettable)\b<12>\b(?:sex|love\s?making|orgasms?|intimacy|nights?\s+in\s+bed|nights?\s+of\s+passion)\b|)"
+     R"(\b(?:better|hotter|busier|exciting|richer|new|great)\s+(?:sex|love)\s?(?:life|lives)\b|)"
+     R"(\b(?:women|girls|men|partners?|singles|wives)\b<25>\b(?:will\s+)?(?:want|beg|crave|desire|wait\w*|lust)\b<15>\b(?:you|more|for\s+you|sex)\b<30>\b(?:tonight|bed|night|sex|near\s+you|your\s+area|hook\s?up)\b|)"
      R"(\b(?:more|better|great|amazing|incredible|hot|improve\w*|boost|spice\s+up|enhance\w*|increase\w*)\b<12>\b(?:sex(?:ual)?(?:\s+life|\s+drive|\s+performance|\s+pleasure|\s+desire|\s+stamina|\s+partners)?|libido|orgasms?|love\s?making)\b<50>\b(?:you|your|her|pills?|naturally|night|longer|try|order|natural|formula|all\s+night|guaranteed|women|men|partner|today|now)\b|)"
      R"(\b(?:satisfy|please|drive)\b<12>\b(?:her|your\s+(?:woman|wife|girlfriend|lover|partner)|women)\b<30>\b(?:bed|sexual\w*|night|wild|every\s+time|crazy|more)\b|)"
      R"(\b(?:last\s+longer|sexual\s+(?:performance|stamina|power|health)|sex\s+drive|staying\s+power)\b<40>\b(?:bed|you|your|her|increase\w*|boost|improve\w*|natural\w*|pills?)\b|)"

@@ -116,7 +116,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\buw\s+(?:\w+\s+){0,2}(?:account|rekening|gegevens|identiteit|wallet)\b<30>\b(?:te\s+)?(?:verifi[ëe]ren|bevestigen|valideren|controleren)\b|)"
      R"((?:验证|驗證|核实|核實|确认|確認)<10>(?:账户|帳戶|账号|帳號|身份|个人信息|個人資料|银行卡)|)"
      R"((?:アカウント|口座|お客様情報|会員情報|カード情報|ご本人様?)<20>(?:確認|認証|検証|更新)<12>(?:ください|下さい|お願い|必要)|)"
-     R"((?:계정|계좌|본인|신원|카드\s?정보)<15>(?:확인|인증|검증|갱신)<12>(?:하세요|해\s?주세요|바랍니다|하십시오|해\s?주십시오|필요))"); }),
+     R"((?:계정|계좌|본인|신원|카드\s?정보)<15>(?:확인|인증|검증|갱신)<12>(?:하세요|해\s?주세요|바랍니다|하십시오|해\s?주십시오|필요)|)"
+     R"(\b(?:geben\s+sie|gib|tragen\s+sie|hinterlegen\s+sie|senden\s+sie|füllen\s+sie)\b<40>\b(?:kartendaten|bankdaten|kontodaten|kreditkart\w+|kontonummer|zugangsdaten|persönlichen?\s+daten|iban|formular)\b<50>\b(?:ein|an|aus|erhalten|zu\s+bekommen|gutschrift)\b|\b(?:aktualisieren|bestätigen|erneuern|ergänzen|prüfen|überprüfen)\b\s+(?:sie\s+)?<15>\b(?:zahlungsdaten|zahlungsinformationen|zahlungsmethode|bankverbindung|daten|angaben|adresse|kundendaten)\b|\b(?:melden\s+sie\s+sich\s+an|loggen\s+sie\s+sich\s+ein|anmelden)\b<30>\b(?:verifizier\w+|bestätig\w+)\b|)"
+     R"(\b(?:vul|voer|geef|stuur)\b<40>\b(?:formulier|gegevens|bankgegevens|kaartgegevens|rekeningnummer)\b<50>\b(?:in|ontvangen|teruggave|bankgegevens|geld|door)\b|\b(?:werk|pas)\b<20>\b(?:gegevens|adres|betaalgegevens|betaalmethode)\b<12>\b(?:bij|aan)\b|\bbevestig\s+(?:uw|je)\b<12>\b(?:gegevens|identiteit|adres|rekening)\b|)"
+     R"(\b(?:indique[rz]|saisi(?:r|s|ssez)|renseigne[rz]|entre[rz]|remplir|remplisse[rz]|communique[rz]|fourni(?:r|ssez))\b<40>\b(?:carte|coordonnées|formulaire|informations|rib|iban|données)\b<50>\b(?:recevoir|percevoir|remboursement|virement|argent|bancaires?|afin|pour|continuer|personnelles)\b|\b(?:remplisse[rz]|remplir|complét\w+)\b<20>\bformulaire\b|\b(?:mett(?:re|ez|s))\s+à\s+jour\b<20>\b(?:vos|votre)\b<20>\b(?:coordonnées|informations|adresse|paiement|données|moyen\s+de\s+paiement)\b|)"
+     R"(\b(?:compil\w+|inser\w+|indic\w+|forn\w+|invi(?!t|sib|nc|gor)\w+)\b<40>\b(?:modulo|dati|carta|iban|coordinate)\b<50>\b(?:ricever\w+|rimborso|accredito|soldi|bancari\w*|carta|premio)\b|\b(?:verific(?:hi|a|are)|conferm(?:i|a|are)|aggiorn(?:i|a|are)|valid(?:i|a|are))\b<12>\b(?:i\s+|l['’]|la\s+)?(?:suoi\s+|tuoi\s+|sua\s+|tua\s+)?(?:dati|identità|informazioni|profilo|account|indirizzo|metodo\s+di\s+pagamento|accesso)\b|\bwallet\b<15>\bva\s+verificat[oa]\b|)"
+     R"(\b(?:complet[ea]|rellen[ea]|llen[ea]|ingres[ea]|introdu(?:zca|ce)|indique|indica|pon|ponga)\b<40>\b(?:formulario|datos|tarjeta|cuenta|n[úu]mero)\b<50>\b(?:cobrar\w*|recibir\w*|reembolso|devoluci[óo]n|tarjeta|dinero|bancari[oa]s?|enlace)\b|\b(?:actuali[cz][ea]|verifique|verifica|confirme|confirma)\b<15>\b(?:sus?|tus?)\s+(?:datos|informaci[óo]n|direcci[óo]n|identidad|forma\s+de\s+pago|m[ée]todo\s+de\s+pago)\b|)"
+     R"(\b(?:preench\w+|informe|inform[ea]r|insira|digite|coloque|envie)\b<40>\b(?:formul[áa]rio|dados|cart[ãa]o|conta|documento)\b<50>\b(?:receber|reembolso|restitui[çc][ãa]o|bancári[oa]s?|cart[ãa]o|dinheiro|link|formul[áa]rio)\b|\batualize\b<12>\b(?:seus?|sua|os|a|o)?<4>\b(?:dados|cadastro|endere[çc]o|forma\s+de\s+pagamento|informa[çc][õo]es)\b|)"
+     R"(\b(?:подтвердите|обновите|проверьте|укажите|заполните|введите)\b<20>\b(?:данные|личность|реквизиты|форму|паспортные\s+данные|данные\s+карты|карту|аккаунт)\b<50>\b(?:по\s+ссылке|получени\w+|получить|карт\w+|ссылк\w+|иначе|деньги)\b|\bподтвердите\s+(?:свою\s+)?личность\b|)"
+     R"((?:填[写寫]|登[记記]|[输輸]入|提交|[补補]充|完善|更新)[\s\S]{0,8}(?:[银銀]行卡|[资資]料|身[份分][证證信]|卡[号號]|地址|信息|收款)|(?:完成|办理|辦理|重新)[\s\S]{0,4}(?:[实實]名)?(?:[认認][证證]|[验驗][证證])|)"
+     R"((?:支払い情報|お支払い方法|カード情報|住所|口座情報|個人情報)[\s\S]{0,14}(?:更新|入力|登録|確認)[\s\S]{0,12}(?:ください|すると|しない|お願い)|(?:認証|手続き|本人確認)[\s\S]{0,4}(?:を)?(?:完了|お願い|お手続き)|)"
+     R"((?:본인|계정|결제 ?정보|계좌|카드)[\s\S]{0,8}(?:입력|업데이트|인증)[\s\S]{0,6}(?:하시면|하세요|해 ?주세요|하고|후))"); }),
      true},
     {"cred-suspended", "Credential phishing", "warn", 40,
      "says an account is blocked or about to be, to make the reader act before thinking",
@@ -137,7 +147,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\buw<unasked>\s+(?:\w+\s+){0,2}(?:account|rekening|pas|toegang|bankpas|betaalpas|wallet)\b<40>\b(?:geblokkeerd|opgeschort|beperkt|gedeactiveerd|bevroren|stopgezet)\b|)"
      R"((?:账户|帳戶|账号|帳號|银行卡|信用卡)<unasked><15>(?:冻结|凍結|停用|封锁|封鎖|暂停|暫停|异常|異常|受限)|)"
      R"((?:アカウント|口座|カード|ご利用)<unasked><25>(?:を停止|が停止|一時停止|利用停止|制限され|を制限|凍結|ロックされ|無効に)|)"
-     R"((?:계정|계좌|카드)<unasked><15>(?:정지|차단|제한|동결|잠금|잠겼|잠겨))"); }),
+     R"((?:계정|계좌|카드)<unasked><15>(?:정지|차단|제한|동결|잠금|잠겼|잠겨)|)"
+     R"(\b(?:konto|zugang|karte|account|profil|online-?banking|kundenkonto)\b<40>\b(?:vorübergehend|aus\s+sicherheitsgründen|vorläufig|sofort)<25>\b(?:gesperrt|eingeschränkt|blockiert|limitiert|deaktiviert|stillgelegt)\b|\b(?:sonst|andernfalls|ansonsten|um)\b<40>\b(?:eine?\s+)?(?:sperrung|kontosperrung|deaktivierung|einschränkung)\b|)"
+     R"(\b(?:rekening|pas|account|digid|toegang)\b<15>\b(?:is|wordt|werd)\b<15>\b(?:tijdelijk\s+|direct\s+)?(?:geblokkeerd|beperkt|opgeschort|gedeactiveerd)\b|\bom\s+(?:een\s+)?(?:blokkering|blokkade|deactivering)\s+te\s+voorkomen\b|\bdeblokker\w+\b<20>\b(?:account|rekening|pas)\b|)"
+     R"(\b(?:compte|carte|accès|espace\s+client|ligne)\b<40>\b(?:temporairement\s+|provisoirement\s+)?(?:suspendu|bloqué|limité|restreint|désactivé)e?s?\b<50>\b(?:suite|raison|sécurité|confirm\w+|activité|inhabituel\w*|régularis\w+)\b|\béviter<20>\b(?:le\s+blocage|la\s+suspension|la\s+désactivation|la\s+fermeture|la\s+résiliation)\b|)"
+     R"(\b(?:conto|carta|postepay|utenza|accesso|profilo|account|home\s+banking)\b<30>\b(?:è\s+stat[oa]|verrà|sarà|risulta)\b<15>\b(?:bloccat|sospes|limitat|disattivat|disabilitat|congelat)[oa]\b|\b(?:per\s+)?evitare\s+(?:la\s+|il\s+)?(?:sospensione|blocco|disattivazione|chiusura)\b|\bsblocc(?:are|hi|a)\s+(?:il\s+|la\s+)?(?:suo\s+|tuo\s+|sua\s+)?(?:conto|carta|account)\b|)"
+     R"(\b(?:cuenta|tarjeta|acceso|banca)\b<20>\b(?:ha\s+sido|fue|ser[áa]|est[áa]|queda)\b<15>\b(?:bloquead|suspendid|restringid|limitad|desactivad|inhabilitad)[oa]s?\b<60>\b(?:seguridad|verific\w+|confirm\w+|motivos|evit\w+|activ\w+|desbloque\w+|regulari\w+)\b|\bno\s+podr[áa]\s+(?:usar|utilizar)\s+(?:su|tu)\s+(?:tarjeta|cuenta|banca)\b|\bpara\s+evitar\s+(?:la\s+suspensi[óo]n|el\s+bloqueo|la\s+cancelaci[óo]n)\b|\bdesbloquear\s+(?:su|tu)\s+cuenta\b|)"
+     R"(\b(?:conta|cart[ãa]o|acesso|cpf|cnh|cadastro)\b<20>\b(?:foi|ser[áa]|est[áa]|encontra-se|vai\s+ser)\b<15>\b(?:bloquead|suspens|restrit|limitad|desativad|cancelad|irregular)\w*\b<60>\b(?:seguran[çc]a|atualiz\w+|confirm\w+|regulari\w+|evit\w+|link|valid\w+|horas|agora)\b|\b(?:evitar|evite)\s+(?:o\s+|a\s+)?(?:bloqueio|cancelamento|suspens[ãa]o)\b|)"
+     R"(\b(?:карта|сч[её]т|аккаунт|кабинет|доступ|кошел[её]к|профиль|учётная\s+запись)\b<25>\b(?:заблокирован\w?|будет\s+заблокирован\w?|приостановлен\w?|ограничен\w?|взломан\w?|арестован\w?)\b(?!<30>\bпо\s+вашей\b)|\b(?:для|чтобы)\s+(?:разблокировки|разблокировать|снять\s+блокировку|избежать\s+блокировки)\b|)"
+     R"((?:[账賬帐帳][户戶号號]|信用卡|[银銀]行卡|网银|網銀|ETC|微信|支付宝|支付寶|[会會]员|[会會]員)[\s\S]{0,14}(?:[异異]常|[冻凍][结結]|停用|限制|[过過]期失效|失效|封停|封[号號])<40>(?:[点點][击擊]|[链連][接結]|登[录入錄]|[认認][证證]|更新|[验驗][证證]|否[则則]|立即|http)|)"
+     R"((?:アカウント|口座|カード|会員資格|ご利用|取引)[\s\S]{0,16}(?:停止|制限|凍結|規制|失効)[\s\S]{0,40}(?:こちら|下記|ログイン|URL|認証|確認をお願い|更新|手続き|http)|)"
+     R"((?:계정|계좌|카드|아이디|서비스)[\s\S]{0,14}(?:정지|차단|제한|동결|잠금|삭제될)<40>(?:링크|인증|해제|확인|클릭|하세요|http))"); }),
      true},
     {"cred-confirm-password", "Credential phishing", "warn", 45,
      "asks the reader to confirm or hand over a password or PIN",
@@ -151,9 +171,19 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:confirme[rz]|communique[rz]|transmett(?:re|ez)|envoye[rz])\b<15>\b(?:votre|vos)\s+(?:\w+\s+){0,2}(?:mot\s+de\s+passe|code\s+(?:secret|pin|confidentiel)|identifiants)\b|)"
      R"(\b(?:confirm(?:ar|e|a)|envi(?:ar|e|a)|inform(?:e|ar)|ingres(?:ar|e|a)|digite)\b<15>\b(?:su|tu|sua|a\s+sua)\s+(?:\w+\s+){0,2}(?:contraseña|clave|senha|pin)\b|)"
      R"(\b(?:bevestig|stuur|geef)\b<15>\buw\s+(?:\w+\s+){0,2}(?:wachtwoord|pincode|inloggegevens)\b|)"
-     R"((?:输入|輸入|提供|发送|發送|确认|確認)<10>(?:密码|密碼|验证码|驗證碼)|)"
+     R"((?<![勿不别別])(?:输入|輸入|提供|发送|發送|确认|確認)[^。！？.!?勿不，,]{0,10}(?:密码|密碼)|)"
      R"((?:パスワード|暗証番号)<12>(?:入力|送信|教えて|ご返信)<6>(?:ください|下さい)|)"
-     R"((?:비밀번호|인증번호)<10>(?:입력|알려|보내)<4>(?:하세요|주세요|주십시오|하십시오))"); }),
+     R"((?:비밀번호<10>입력|(?:비밀번호|인증번호)<10>(?:알려|보내))<4>(?:하세요|주세요|주십시오|하십시오)|)"
+     R"(\b(?:nennen|sagen|geben|schicken|teilen)\s+sie\s+(?:mir|uns)\b<25>\b(?:tan|code|pin|passwort|kennwort)\b|\b(?:code|tan)\b<50>\b(?:mir|uns)\s+(?:bitte\s+)?(?:kurz\s+)?(?:weiterleiten|schicken|nennen|sagen|geben|durchgeben)\b|)"
+     R"(\bgeef\s+(?:mij|me|ons)\b<10>\b(?:de\s+)?\w*code\b|\bcode\b<60>\bkun\s+je\s+die\s+(?:even\s+)?(?:doorsturen|sturen|geven)\b|\b1\s+cent\b<20>\bovermaken\b<25>\blink\b|)"
+     R"(\b(?:communique[rz]|donne[rz]|dicte[rz]|transmette[rz]|envoie|envoye[rz])(?:-|\s+)(?:moi|nous)\b<20>\b(?:le\s+|les\s+|votre\s+|vos\s+)?(?:codes?|mot\s+de\s+passe|identifiants?)\b(?!<20>\b(?:carte|coupon|recharge)s?\b)|\bcode\b<40>\b(?:par\s+erreur|vérification|sms)\b<40>\b(?:me\s+le|le\s+transférer|l['’]envoyer|renvoyer|transférer)\b|)"
+     R"(\b(?:mi|ci)\s+(?:comunichi|invii|dica|fornisca|mandi|detti)\b<12>\b(?:il\s+)?codice\b|\bcodice\b<60>\bme\s+lo\s+(?:puoi|giri|mandi|invii|inoltri)\b|\bcodice\b<40>\b(?:puoi\s+)?(?:girarmelo|mandarmelo|inviarmelo)\b|)"
+     R"(\b(?:d[íi]ganos|d[íi]game|p[áa]s[ea]me|env[íi]enos|facil[íi]tenos|ind[íi]quenos)\b<20>\bel? ?c[óo]digo\b(?!<20>\b(?:tarjeta|regalo)s?\b)|\bc[óo]digo\b<50>\b(?:me\s+lo|nos\s+lo)\s+(?:puedes?|pasas?|mandas?|env[íi]as?|reenv[íi]as?)\b|\bd[íi]ganos\s+el\s+c[óo]digo\b|)"
+     R"(\b(?:confirma|confirme|informe|passe|passa|diga|mande|envie)\b<10>\b(?:o\s+|seu\s+)?c[óo]digo\s+(?:que|de\s+verifica[çc][ãa]o|do\s+sms)\b|\bc[óo]digo\b<60>\b(?:pode|podes|consegue)\s+me\s+(?:passar|mandar|enviar|dizer|encaminhar)\b|)"
+     R"(\b(?:назовите|продиктуйте|сообщите\s+нам|сообщите\s+мне|перешли\s+(?:его\s+)?мне|скажите)\b<10>\b(?:мне\s+|нам\s+)?(?:код|пароль|пин)\b|\bкод\b<60>\bперешли\s+(?:его\s+)?мне\b|)"
+     R"((?:告[诉訴]我|[发發][给給]我|提供[给給]|[报報][给給])[\s\S]{0,12}(?:[验驗][证證][码碼]|六位|位[数數]字|密[码碼])|[验驗][证證][码碼][\s\S]{0,20}(?:告[诉訴]我|[发發][给給]我|提供[给給](?:客服|工作|我))|)"
+     R"((?:暗証番号|認証番号|認証コード|6桁の番号)[\s\S]{0,16}(?:教えてください|教えてもらえ|返信してください|送ってください)|)"
+     R"((?:인증 ?번호|비밀 ?번호|6자리 ?번호)[\s\S]{0,14}(?:불러|알려 ?주세요|좀 ?알려|보내 ?주세요|말씀해))"); }),
      true},
     {"cred-click-verify", "Credential phishing", "warn", 30,
      "tells the reader to follow a link and verify, confirm or unlock something",
@@ -175,7 +205,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:klik|klikt|gebruik|volg|bezoek)\b<50>\b(?:om|en)\b<40>\b(?:bevestig\w+|verifi\w+|valid\w+|activ\w+|deblokk\w+|voorkomen|controleren|herstellen|verlengen|betalen)\b|)"
      R"((?:点击|點擊|点此|登录|登入)<25>(?:验证|驗證|确认|確認|激活|解锁|解鎖|更新|恢复|恢復)|)"
      R"((?:下記|こちら|リンク|URL)<25>(?:クリック|アクセス|ログイン)<30>(?:確認|認証|更新|解除|再開)|)"
-     R"((?:링크|버튼|여기|아래)<15>(?:클릭|눌러|접속)<25>(?:확인|인증|해제|갱신|복구))"); }),
+     R"((?:링크|버튼|여기|아래)<15>(?:클릭|눌러|접속)<25>(?:확인|인증|해제|갱신|복구)|)"
+     R"(\b(?:aktualisier\w*|bestätig\w*|verlänger\w*|verifizier\w*|zahle?n?|bezahle?n?|begleiche?n?|erneuer\w*|einlös\w*|lös\w*)\b<50>\b(?:über\s+(?:den|folgenden|diesen|unten\w*)\s+(?:\w+\s+)?link|unter|hier|link)\b\s?:?<20>(?:\w[\w-]+[.](?:de|com|info|top|shop|net|org|xyz|online|site|cc|me|ly|to)\b|\blink\b|https?)|\b(?:öffnen|nutzen|folgen|verwenden)\s+sie\s+(?:den|dem|diesen|diesem|folgenden|bitte)\s+(?:\w+\s+)?link\b|\bwidrigenfalls\b|\bjetzt\s+(?:über|unter)\s+(?:folgende[nm]|diese[nm])\s+link\b|)"
+     R"(\b(?:via|met|op|open)\s+(?:de|onderstaande|deze)\s+(?:\w+\s+)?link\b|\bklik\s+hier\b|\b(?:bevestig|verleng|betaal|wissel|vraag|werk|claim)\b<60>\b[\w-]+[.](?:com|info|top|shop|net|org|nl|xyz|online|site|me|ly)\b|)"
+     R"(\b(?:via|sur|par|avec|depuis)\s+(?:le|ce)\s+(?:\w+\s+)?lien\b|\blien\s+(?:suivant|ci-dessous)\b|\b(?:confirme[rz]|régle[rz]|régularise[rz]|renouvele[rz]|mette[rz]|payez|choisissez|échange[rz]|réclame[rz])\b<60>\b(?:ici\b|[\w-]+[.](?:com|info|top|shop|net|org|fr|xyz|online|site|me|ly|cc)\b)|\b(?:clique[rz])\b<30>\b(?:ici|lien)\b<40>\b(?:récupérer|réclamer|recevoir|payer|mettre|éviter)\b|)"
+     R"(\bclicca(?:ndo|re)?\b<20>\b(?:qui|link|sul)\b|\bcliccando\b|\b(?:al|sul|il|dal|questo|seguente)\s+(?:seguente\s+)?link\b|\b(?:verific(?:a|hi|are|ate)|conferm\w+|aggiorn\w+|paga|paghi|pagare|salda|saldi|saldare|riscatt\w+)\b<60>\b[\w-]+[.](?:com|info|top|shop|net|org|it|xyz|online|site|me|ly)\b|)"
+     R"(\b(?:actual[íi](?:ce|za|cela|cel[oa])\w*|verif[íi](?:que|ca)\w*|conf[íi]rm(?:e|a|ela|elo)|pague|paga|pagar|act[íi]vel[oa]|active\s+(?:su|el|la)|canj[ée]\w+|realice|indique|reclame|complete\s+(?:el|su))\b<60>\b(?:aqu[íi]\b|(?:en\s+)?(?:el|este|siguiente)\s+(?:siguiente\s+)?enlace|[\w-]+[.](?:com|info|top|shop|net|org|es|mx|xyz|online|site|me|ly)\b)|\b(?:haga|haz|hacer|pulse|entra|entre|ingrese)\s+(?:clic\s+|click\s+)?<25>\b(?:aqu[íi]|enlace|link)\b<40>\b(?:reclamar|cobrar|recibir|pagar|poner|pon|evitar)\b|\ben\s+el\s+siguiente\s+enlace\b|)"
+     R"(\b(?:atualize|confirme|regularize|pague|valide|resgate|acesse|informe|verifique|libere)\b<60>\b(?:(?:no|pelo|neste|esse|este|nesse)\s+link|aqui\b|link\s+abaixo|[\w-]+[.](?:com|info|top|shop|net|org|br|pt|xyz|online|site|me|ly)\b)|\b(?:entre|entra|abra|clique)\s+(?:no|nesse|neste|o|em)? ?link\b|\bclique\s+aqui\b|\b(?:pelo|no)\s+link\s+(?:abaixo|seguinte)\b|)"
+     R"(\b(?:перейдите|пройдите|нажмите|заходите|авторизуйтесь)\b<15>\b(?:по|на)\s+(?:этой\s+|данной\s+|следующей\s+)?(?:ссылк\w+|кнопк\w+)\b|\b(?:оплатите|обновите|подтвердите|обменяйте|проголосу\w+|оформите|получите)\b<50>\bпо\s+ссылке\b|\bвойти\s+через\s+(?:телеграм\w*|госуслуги|вк)\b|)"
+     R"((?:登[录陆入錄陸]|[点點][击擊]|[进進]入|[访訪][问問])[\s\S]{0,5}(?:https?|www|wap|[a-z0-9-]{2,20}[.](?:com|cc|cn|tk|top|net|xyz|vip|club|ltd|shop))|(?:[点點點][击擊选此]|登[录入錄]|打[开開]|扫描|掃描)[\s\S]{0,6}(?:[链連][接結]|以下|下方|此|网址|網址|网站|網站|二[维維][码碼])|)"
+     R"((?:こちら|下記|リンク|URL|以下)[\s\S]{0,10}(?:より|から|の|にて)[\s\S]{0,14}(?:認証|本人確認|支払|入力|交換|手続|ログイン)|(?:至急|直ちに|すぐに)[\s\S]{0,12}(?:下記|URL|こちら)[\s\S]{0,10}確認|ログインして[\s\S]{0,10}(?:更新|手続き|お手続き|確認)|)"
+     R"((?:링크|아래|URL)[\s\S]{0,10}(?:눌러|클릭|접속|에서|로그인)[\s\S]{0,20}(?:변경|수정|입력|해제|신청|인증|교환|결제|확인|조회)|(?:링크)[\s\S]{0,10}(?:보내|드리)[\s\S]{0,16}(?:로그인|입력|결제)|앱 ?설치 ?후)"); }),
      true},
     {"cred-unusual-signin", "Credential phishing", "warn", 30,
      "reports an unusual sign-in or transaction, the commonest pretext for stealing a password",
@@ -195,7 +235,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:ongebruikelijke|verdachte|onbekende|ongeautoriseerde)\b<20>\b(?:activiteit\w*|inlog\w*|aanmeld\w*|transactie\w*|toegang|apparaat|betaling\w*)\b|)"
      R"((?:异常|異常|可疑|陌生)<6>(?:登录|登入|活动|活動|交易|设备|設備)|)"
      R"((?:不審な|第三者|不正な?|異常な|身に覚えのない|いつもと異なる)<10>(?:ログイン|アクセス|利用|取引|サインイン)|)"
-     R"((?:비정상|의심스러운|수상한|알\s+수\s+없는|새로운\s+기기)<10>(?:로그인|접속|활동|거래|결제))"); }),
+     R"((?:비정상|의심스러운|수상한|알\s+수\s+없는|새로운\s+기기)<10>(?:로그인|접속|활동|거래|결제)|)"
+     R"(\b(?:verdächtig|ungewöhnlich|auffällig|unbekannt|unberechtigt|nicht\s+autorisiert)\w*\b<25>\b(?:aktivität\w*|anmeld\w*|buchung\w*|abbuchung\w*|zahlung\w*|zugriff\w*|login\w*|überweisung\w*)|\b(?:läuft\s+gerade|wurde\s+gerade|wird\s+gerade|versucht\s+gerade)\b<25>\b(?:abbuchung|zahlung|überweisung|buchung|jemand)|)"
+     R"(\b(?:wordt|werd|is)\s+(?:nu|zojuist|net)\b<25>\b(?:afgeschreven|ingelogd|geprobeerd|overgemaakt)\b|\b(?:verdachte|ongebruikelijke|onbekende)\b<15>\b(?:transactie|betaling|overboeking|inlogpoging|afschrijving)\b|)"
+     R"(\b(?:activité|connexion|opération|paiement|débit|transaction|achat)\b<15>\b(?:inhabituel\w*|suspecte?|frauduleu\w+|non\s+autorisée?|inconnue?|en\s+cours)\b|)"
+     R"(\b(?:access[oi]|bonifico|transazione|operazione|pagamento|attività|addebito)\b<10>\b(?:anomal[oaie]|sospett[oaie]|non\s+autorizzat[oaie]|insolit[oaie]|fraudolent[oaie])\b|\b(?:nuovo\s+dispositivo)\b<30>\b(?:access\w+|collegat\w+|conto)\b|)"
+     R"(\b(?:cargo|compra|transferencia|movimiento|operaci[óo]n|acceso)\b<15>\b(?:no\s+autorizad|sospechos|no\s+reconocid|inusual|irregular)\w*\b|\b(?:alguien|terceros)\b<20>\b(?:intenta|intent[óo]|est[áa]\s+intentando)\b<30>\b(?:cargo|cuenta|acced\w+|compra|transfer\w+)\b|)"
+     R"(\b(?:pix|compra|acesso|transa[çc][ãa]o|transfer[êe]ncia|login)\b<25>\b(?:suspeit[oa]|n[ãa]o\s+reconhecid[oa]|n[ãa]o\s+autorizad[oa]|indevid[oa]|estranh[oa])\b|\bse\s+(?:voc[êe]\s+)?n[ãa]o\s+reconhece\b|\bcompra\s+aprovada\b<60>\b(?:ligue|reconhece|cancel\w+)\b|)"
+     R"(\b(?:обнаружен|зафиксирован|выполнен|замечен)\w?\b<15>\b(?:вход|подозрительн\w+|попытк\w+|несанкционированн\w+)\b<60>\b(?:если\s+это\s+не\s+вы|смените|подтвердите|код|отмен\w+|перейдите|позвоните)\b|)"
+     R"((?:盗刷|盜刷|[异異]地登[录入錄])[\s\S]{0,20}(?:立即|致[电電]|[拨撥]打|[验驗][证證][码碼]|[点點][击擊])|)"
+     R"((?:不正(?:利用|アクセス|に使)|第三者)[\s\S]{0,14}(?:検知|疑い|確認|使われ)|)"
+     R"((?:새로운|다른) ?기기[\s\S]{0,6}로그인[\s\S]{0,20}(?:링크|변경|즉시|본인이 ?아)|(?:결제|승인|출금)[\s\S]{0,16}본인 ?(?:이)? ?아(?:닐|니)[\s\S]{0,12}(?:문의|연락|전화|인증|신고))"); }),
      true},
     {"cred-session-expire", "Credential phishing", "warn", 25,
      "says a session or access is about to end, to rush the reader to a sign-in page",
@@ -211,7 +261,13 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:sesi[óo]n|suscripci[óo]n|membres[íi]a|assinatura|sess[ãa]o|certificado|token|m[óo]dulo|plano|dom[íi]nio)\b<20>\b(?:expirad[oa]|expira|vencid[oa]|vence|expirou|caducad[oa]|caduca|desatualizad[oa]|venceu)\b|)"
      R"(\buw\s+(?:\w+\s+){0,2}(?:sessie|abonnement|bankpas|pas|scanner|licentie|certificaat|digipas)\b<25>\b(?:verlopen|verloopt|verlengen|vervalt|vervallen|vernieuwen)\b|)"
      R"((?:会话|會話|会员|會員|订阅|訂閱|证书|證書)<8>(?:已过期|已過期|即将过期|即將過期|到期)|)"
-     R"((?:有効期限|セッション|会員資格)<10>(?:切れ|終了|満了|失効))"); }),
+     R"((?:有効期限|セッション|会員資格)<10>(?:切れ|終了|満了|失効)|)"
+     R"(\b(?:push-?tan|photo-?tan|tan-?verfahren|s-?push|registrierung|zugang|sicherungsverfahren|sicherheitsverfahren)\b<30>\b(?:läuft|endet|verfällt|erlischt)\b|)"
+     R"(\b(?:digid|bankpas|betaalpas|digipas|scanner|identificatie)\b<20>\b(?:verlopen|verloopt|vervalt)\b|)"
+     R"(\b(?:sécuripass|certicode|clé\s+digitale|pass\s+sécurité|m?token|application\s+bancaire|carte\s+vitale|droits?(?:\s+cpf)?)\b<25>\b(?:expire\w*|arrive\w*\s+à)\b|)"
+     R"(\b(?:spid|utenza|app|certificato|abbonamento|firma\s+digitale|password)\b<15>\b(?:in\s+scadenza|scade|scadut[oa]|scadrà)\b|)"
+     R"(\b(?:договор|сим-?карт\w+|полис|подписк\w+)\b<20>\b(?:истекает|заканчивается|не\s+продлен\w?|закончился)\b<50>\b(?:код|продиктуйте|обновите|смс|ссылк\w+)\b|)"
+     R"((?:密[码碼]器|口令卡|[动動][态態]口令|[电電]子[银銀]行|手[机機][银銀]行|U盾)[\s\S]{0,14}(?:[过過]期|到期|失效|作[废廢]|升[级級])|(?:即将|即將|将于今日|將於今日|今日|已)(?:到期|[过過]期|失效|清零)[\s\S]{0,20}(?:[点點][击擊]|更新|[认認][证證]|登[录入]|[兑兌]))"); }),
      true},
     {"cred-mfa-code", "Credential phishing", "warn", 50,
      "asks for a one-time code, which is never for anyone else",
@@ -223,9 +279,19 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:envoyez|transmettez|donnez|communiquez|partagez)\b<30>\bcode\s+(?:de\s+(?:vérification|sécurité|confirmation)|sms|reçu)\b|)"
      R"(\b(?:env[íi][ea]|comparta|dame|d[íi]game|informe|mande|passe|compartilhe)\b<30>\bc[óo]digo\s+(?:de\s+(?:verificaci[óo]n|seguridad|verifica[çc][ãa]o|seguran[çc]a|confirma[çc][ãa]o)|sms|que)\b|)"
      R"(\b(?:stuur|geef|deel)\b<30>\b(?:verificatie|beveiligings|sms-?)code\b|)"
-     R"((?:把|将|將|告诉|告訴|发送|發送|提供)<12>(?:验证码|驗證碼|动态码|動態碼)|)"
+     R"((?<![勿不别別])(?:把|将|將|告诉|告訴|发送|發送|提供)[^。！？.!?勿不]{0,12}(?:验证码|驗證碼|动态码|動態碼)|)"
      R"((?:認証コード|確認コード|ワンタイムパスワード)<12>(?:教えて|送って|お知らせ|ご返信|転送)|)"
-     R"((?:인증번호|인증\s?코드|보안\s?코드)<10>(?:알려|보내|전달|불러))"); }),
+     R"((?:인증번호|인증\s?코드|보안\s?코드)<10>(?:알려(?!\s?주지|\s?드리지|지)|보내(?!지)|전달(?!하지)|불러)|)"
+     R"(\b(?:nenn|sag|gib|geb|schick|leit|send|les|lies|teil)\w*\b<40>\b(?:tan|code|sms-?code|bestätigungscode|freischaltcode|prüfcode|sechsstellige[nr]?\s+(?:code|nummer|zahl))\b(?!<40>\b(?:niemand|nicht|keinesfalls|nie)\b)|\bcode\b<40>\b(?:per\s+sms|aus\s+versehen|versehentlich)\b<50>\b(?:weiterleiten|schicken|nennen|sagen|geben|durchgeben)\b|)"
+     R"(\b(?:geef|noem|stuur|zeg|lees|deel)\b<30>\b(?:de\s+|die\s+)?(?:verificatie|beveiligings|sms-?)?code\b<40>\b(?:sms|kreeg|ontv\w+|zojuist|cijfers)\b(?!<25>\bniemand\b)|\bcode\b<30>\b(?:cijfers|per\s+ongeluk|sms)\b<50>\b(?:doorsturen|sturen|geven|noemen)\b|)"
+     R"(\b(?:communique[rz]|donne[rz]|envoie|envoye[rz]|transfère|transférer|transmet\w*|dicte[rz]|lis(?:ez)?|indique[rz])\b<30>\bcodes?\b<40>\b(?:sms|reçu|recevoir|vérification|chiffres|texto)\b(?!<30>\bpersonne\b)|\bcode\b<30>\b(?:chiffres|sms|vérification|par\s+erreur)\b<40>\b(?:transférer|renvoyer|envoyer|donner|me\s+le)\b|)"
+     R"(\b(?:comunic\w+|invi(?!t|sib|nc|gor)\w+|mand(?!at|ar|y\b)\w+|gir\w+|dimmi|dica|detti|fornisc\w+|inoltr\w+)\b<30>\bcodice\b<40>\b(?:sms|ricevut\w+|verifica|cifre|arrivat\w+)\b(?!<25>\bnessuno\b)|\bcodice\b<30>\b(?:cifre|sms|verifica|sbaglio)\b<40>\b(?:girare|mandare|inviare|inoltrare|me\s+lo)\b|)"
+     R"(\b(?:d[íi]ganos|d[íi]game|dime|env[íi](?!ron|ous|sion|able)\w+|pas[aá]\w*|pasar|m[áa]nd\w+|dict\w+|facil[íi]\w+|comunique)\b<30>\bc[óo]digo\b<40>\b(?:sms|lleg[óo]|recib\w+|verificaci[óo]n|seis|6|d[íi]gitos)\b(?!<25>\bnadie\b)|\bc[óo]digo\b<30>\b(?:d[íi]gitos|sms|verificaci[óo]n|por\s+error)\b<40>\b(?:pasar|mandar|enviar|reenviar|decir)\b|)"
+     R"(\b(?:confirma|confirme|informe|informa|passa|passar|manda|mande|envia|envie|diga|fala)\b<30>\bc[óo]digo\b<40>\b(?:sms|chegou|receb\w+|verifica[çc][ãa]o|d[íi]gitos|enviamos)\b(?!<25>\bningu[ée]m\b)|\bc[óo]digo\b<30>\b(?:d[íi]gitos|sms|sem\s+querer|por\s+engano)\b<50>\b(?:passar|mandar|enviar|me\s+dizer|encaminhar)\b|)"
+     R"(\b(?:назовите|продиктуйте|сообщите|пришлите|перешли\w*|скинь\w*|скажи\w*|отправьте)\b<25>\bкод\w?\b<25>\b(?:смс|sms|из|цифр\w*|сообщени\w+|который)\b(?!<20>\bникому\b)|\bкод\b<25>\b(?:цифр|по\s+смс|случайно|по\s+ошибке)\b<40>\b(?:перешли|пришли|скинь|отправь|продиктуй)\b|\bслучайно\b<20>\bкод\b<50>\b(?:перешли|пришли|скинь|отправь)\b|)"
+     R"((?:(?:请|請|麻[烦煩]|[把将將])[\s\S]{0,20}|发|發)(?:短信)?[验驗][证證][码碼][\s\S]{0,16}(?:告[诉訴]我|[发發][给給]我|提供[给給]|[报報][给給]|[转轉][发發][给給]|念[给給])|(?:并|並|請|请)?提供[验驗][证證][码碼](?![\s\S]{0,6}(?:[给給]任何|他人))|[验驗][证證][码碼][\s\S]{0,10}(?:[发發]到|[发發]错|[发發]錯)[\s\S]{0,20}(?:告[诉訴]|[发發][给給]|位)|)"
+     R"((?:認証コード|認証番号|6桁の番号|確認コード)[\s\S]{0,30}(?:教えてもら|教えてくだ|返信して|送って|転送)(?![\s\S]{0,4}ない)|)"
+     R"((?:인증 ?번호|인증 ?코드|6자리)[\s\S]{0,20}(?:불러|알려 ?(?:주세요|줘|주시|달라)|보내 ?(?:주세요|줘|주시)|좀)(?![\s\S]{0,4}(?:마세요|말)))"); }),
      true},
     {"cred-mfa-fatigue", "Credential phishing", "warn", 35,
      "asks the reader to approve a sign-in prompt on their phone",
@@ -247,7 +313,8 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:passwort|kennwort)\b<25>\b(?:zurücksetzen|zurückzusetzen|ändern|zu\s+ändern)\b<60>\b(?:klick\w+|link|hier|unten|https?)\b|)"
      R"(\b(?:réinitialise[rz]|modifie[rz]|change[rz]|configurer)\b<15>\bvotre\s+mot\s+de\s+passe\b|)"
      R"(\b(?:restable(?:cer|zca|ce)|cambi(?:ar|e|a)|redefin(?:ir|a)|alter(?:ar|e)|troque)\b<15>\b(?:su|tu|sua|a)\s+(?:contraseña|senha)\b|)"
-     R"(\bwachtwoord\b<20>\b(?:opnieuw\s+in(?:stellen|te\s+stellen)|resetten|wijzigen|herstellen)\b)"); }),
+     R"(\bwachtwoord\b<20>\b(?:opnieuw\s+in(?:stellen|te\s+stellen)|resetten|wijzigen|herstellen)\b|)"
+     R"(\b(?:reimpost\w+|cambi\w+)\b<12>\b(?:la\s+)?(?:sua\s+|tua\s+)?password\b<40>\blink\b)"); }),
      true},
     {"cred-secure-message", "Credential phishing", "warn", 20,
      "says a protected message or shared document waits behind a link",
@@ -290,7 +357,16 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:wird|werden)\b<30>\b(?:konto|account|zugang|postfach|karte|profil)\b<30>\b(?:gelöscht|geschlossen|deaktiviert|abgeschaltet|gesperrt)\b|)"
      R"(\b(?:compte|accès|carte|ligne)\s+(?:\w+\s+){0,2}sera\s+(?:\w+\s+){0,2}(?:ferm|supprim|désactiv|résili|clôtur|suspend|bloqu)|)"
      R"(\b(?:cuenta|conta|acesso|acceso|servi[çc]io?|cadastro|benef[íi]cio)\b<20>\b(?:ser[áa]|podr[áa]\s+ser|poder[áa]\s+ser)\s+(?:\w+\s+){0,2}(?:cerrad|eliminad|cancelad|desactivad|encerrad|exclu[íi]d|desativad|deletad|interromp|suspens|suspend|bloquead)|)"
-     R"(\buw\s+(?:\w+\s+){0,2}(?:account|rekening|pas|mailbox)\s+wordt\s+(?:\w+\s+){0,2}(?:gesloten|verwijderd|beëindigd|geblokkeerd|gedeactiveerd|opgeschort)\b)"); }),
+     R"(\buw\s+(?:\w+\s+){0,2}(?:account|rekening|pas|mailbox)\s+wordt\s+(?:\w+\s+){0,2}(?:gesloten|verwijderd|beëindigd|geblokkeerd|gedeactiveerd|opgeschort)\b|)"
+     R"(\b(?:konto|abo|abonnement|mitgliedschaft|zugang)\b<40>\b(?:in|innerhalb\s+von)\s+(?:24|48|72)\s+stunden\b<20>\b(?:gekündigt|gelöscht|geschlossen|gesperrt|deaktiviert)\b|)"
+     R"(\babonnement\b<10>\bwordt\b<15>\b(?:stopgezet|opgezegd|beëindigd)\b|)"
+     R"(\b(?:abonnement|compte|accès)\b<15>\bsera\b<15>\b(?:résilié|supprimé|clôturé|fermé|suspendu|bloqué)\b|)"
+     R"(\b(?:carta|conto|abbonamento|account|postepay|utenza)\b<20>\b(?:verrà|sarà)\b<15>\b(?:disattivat|cancellat|sospes|chius|bloccat|eliminat)[oa]\b|)"
+     R"(\b(?:suscripci[óo]n|cuenta|tarjeta|l[íi]nea)\b<10>\bser[áa]\b<12>\b(?:cancelada|suspendida|bloqueada|eliminada)\b<20>\b(?:en|dentro\s+de)\s+(?:24|48|72)\s+horas\b|)"
+     R"(\bassinatura\b<10>\bser[áa]\s+(?:cancelada|suspensa|encerrada)\b|)"
+     R"((?:取消|[关關][闭閉]|[办辦]理[关關][闭閉])[\s\S]{0,6}(?:请|請)?[联聯][系繫]客服|)"
+     R"(会員資格[がを]?(?:失効|停止)|)"
+     R"((?:구독|계정|서비스)[\s\S]{0,6}(?:이|가)? ?(?:해지|삭제)(?:됩|될))"); }),
      true},
 
     // ---- Child sexual abuse --------------------------------------------------------------------
@@ -492,8 +568,18 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:nov[oa]s?|alter\w+|mudan\w+|atualiz\w+)\b<20>\b(?:noss[oa]s?\s+|meus?\s+)?(?:dados\s+banc[áa]rios|conta\s+banc[áa]ria)\b|)"
      R"(\b(?:nieuwe?|gewijzigde?|ons|onze)\b<15>\b(?:bankgegevens|rekeningnummer|bankrekening)\b<40>\b(?:gewijzigd|veranderd|nieuwe?|voortaan)\b|)"
      R"((?:更改|变更|變更|更换|更換|新的)<8>(?:银行账户|銀行帳戶|收款账户|收款帳戶|银行账号|銀行帳號|收款账号|银行信息)|)"
-     R"((?:銀行口座|振込先|振込口座)<12>(?:変更|新しい)|)"
-     R"((?:입금\s?계좌|은행\s?계좌|계좌\s?정보|계좌번호)<10>(?:변경|바뀌|새로운))"); }),
+     R"((?:銀行口座|振込先|振込口座)<12>(?:変更(?!する|を希望|され|届|の(?:場合|方|際))|新しい)|)"
+     R"((?:입금\s?계좌|은행\s?계좌|계좌\s?정보|계좌번호)<10>(?:변경(?!\s?(?:은|을|하실|하시려|원하|신청))|바뀌|새로운)|)"
+     R"(\b(?:unsere|meine)\s+(?:bankverbindung|iban|kontoverbindung|bankdaten)\b<25>\b(?:geändert|gewechselt|neu)\b|\b(?:gehaltskonto|gehalt|lohn)\b<50>\b(?:ändern|neue[ns]?\s+(?:konto|iban)|umstellen)\b|)"
+     R"(\b(?:rekeningnummer|bankgegevens|iban|bankrekening)\b<12>\b(?:is|zijn)\b<10>\b(?:gewijzigd|veranderd|aangepast)\b|\bnieuwe\s+(?:rekening|iban|bankrekening)\b<30>\b(?:storten|salaris|overmaken|betal\w+)\b|\bsalaris\b<50>\bnieuwe\s+rekening\b|\bnieuwe\s+iban\b|)"
+     R"(\b(?:nouveau|nouvelle)\s+(?:rib|iban|compte|coordonnées)\b<60>\b(?:salaire|paie|versement|virement|règlement)\b|\bcoordonnées\s+bancaires\s+ont\s+(?:changé|été\s+modifiées)\b|)"
+     R"(\b(?:coordinate\s+bancarie|iban|conto\s+corrente)\b<20>\b(?:sono\s+cambiat[ie]|è\s+cambiato|modificat[oaie]|variat[oaie])\b|\bnuov[oe]\s+(?:iban|conto|coordinate\s+bancarie)\b|)"
+     R"(\bcambiado\s+(?:de|nuestra|la)\s+(?:cuenta|banco)\b|\bnueva\s+cuenta\b<40>\b(?:adjunta|indicada|siguiente|n[óo]mina|pago)\b|\b(?:n[óo]mina|salario|sueldo)\b<40>\bnueva\s+cuenta\b|)"
+     R"(\b(?:alteramos|mudamos|trocamos|alterou|mudou)\b<20>\bconta\s+banc[áa]ria\b|\b(?:sal[áa]rio|ordenado)\b<50>\bnov(?:a\s+conta|os\s+dados\s+banc[áa]rios|o\s+iban)\b|\bnova\s+conta\b<20>\b(?:em\s+anexo|abaixo|indicada)\b|)"
+     R"(\b(?:изменились|сменились|новые)\b<15>\b(?:банковские\s+реквизиты|платежные\s+реквизиты|платёжные\s+реквизиты|реквизиты)\b|\bна\s+новый\s+расч[её]тный\s+сч[её]т\b|\b(?:зарплат\w+|заработн\w+)\b<25>\bна\s+(?:новую|другую)\s+карт\w+\b|)"
+     R"(房[东東租][\s\S]{0,30}(?:打到|[转轉]到|[汇匯]到|存到)[\s\S]{0,20}(?:[爱愛]人|老婆|老公|妻子|卡|[账賬帐帳][号號])|(?:收款|[汇匯]款|公司)?[账賬帐帳][户戶号號][\s\S]{0,4}(?:已)?(?:[变變]更|更[换換改])[\s\S]{0,30}(?:[货貨]款|[汇匯]|付款|新[账賬帐帳])|(?:工[资資]|薪[资資水])[\s\S]{0,10}(?:打到|[转轉]到|[汇匯]到|[发發]到)[\s\S]{0,4}新的?(?:卡|[账賬帐帳])|)"
+     R"((?:振込先|お振込先|口座)[\s\S]{0,10}(?:変更になり|変わりました|変更いたし|変更のお知らせ)|(?:給与|給料)[\s\S]{0,8}(?:を|は)?新しい口座|)"
+     R"((?:입금|거래|결제|급여)? ?계좌[\s\S]{0,6}(?:변경|바뀌)[\s\S]{0,40}(?:새로운|아래|송금|입금|대금)|(?:급여|월급)[\s\S]{0,12}(?:새|다른|변경된) ?계좌[\s\S]{0,12}(?:입금|보내|지급|이체))"); }),
      true},
     {"bec-update-payment", "Payment redirection", "warn", 50,
      "asks for stored payment or payee details to be changed",
@@ -516,7 +602,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:ändern|aktualisieren|hinterlegen|anpassen)\b<40>\b(?:bankverbindung|bankdaten|kontodaten|iban|gehaltskonto)\b|)"
      R"(\b(?:bankverbindung|bankdaten|kontodaten|kontoverbindung|iban|gehaltskonto)\b<50>\b(?:gehalt\w*|lohn\w*|hinterleg\w+|aktualisier\w+|anpass\w+)\b|)"
      R"(\b(?:mett(?:re|ez)\s+à\s+jour|modifie[rz]|remplace[rz]|changer)\b<30>\b(?:nos|mes|notre|mon|le)\s+(?:coordonnées\s+bancaires|rib|iban|compte)\b|)"
-     R"(\b(?:actuali[cz]\w+|cambi\w+|atualiz\w+|alter\w+)\b<25>\b(?:mis?|nuestr[oa]s?|meus?|minha|noss[oa]s?)\s+(?:datos\s+bancarios|cuenta|dados\s+banc[áa]rios|conta)\b)"); }),
+     R"(\b(?:actuali[cz]\w+|cambi\w+|atualiz\w+|alter\w+)\b<25>\b(?:mis?|nuestr[oa]s?|meus?|minha|noss[oa]s?)\s+(?:datos\s+bancarios|cuenta|dados\s+banc[áa]rios|conta)\b|)"
+     R"(\b(?:bank\s+gewechselt|neue[ns]?\s+(?:konto|iban|bankverbindung))\b[\s\S]{0,80}\b(?:gehalt\w*|lohn|abrechnung)\b|\b(?:gehaltskonto|gehalt|lohn)\b[\s\S]{0,80}\bneue[ns]?\s+(?:konto|iban|bankverbindung)\b|)"
+     R"(\bvan\s+bank\s+veranderd\b[\s\S]{0,80}\b(?:salaris|rekening|loon)\b|\b(?:salaris|loon)\b<60>\bnieuwe\s+(?:rekening|bank|iban)\b|)"
+     R"(\bchangé\s+de\s+banque\b[\s\S]{0,80}\b(?:salaire|paie|rib|virement)\b|\b(?:salaire|paie)\b<60>\bnouveau\s+(?:rib|compte|iban)\b|)"
+     R"(\bcambiato\s+banca\b[\s\S]{0,80}\b(?:stipendio|iban|accredit\w+)\b|\bstipendio\b<60>\bnuov[oe]\s+(?:iban|conto|coordinate)\b|)"
+     R"(\bcambiado\s+de\s+banco\b<80>\b(?:n[óo]mina|salario|sueldo|ingresar)\b|\b(?:n[óo]mina|salario|sueldo)\b<50>\b(?:nueva|otra)\s+cuenta\b|)"
+     R"(\b(?:mudei|troquei)\s+de\s+banco\b<80>\b(?:sal[áa]rio|ordenado|conta)\b|\b(?:alterar|mudar|trocar)\b<15>\bconta\b<20>\b(?:sal[áa]rio|ordenado|recebimento)\b|)"
+     R"(\bсменил\w?\s+банк\b<60>\b(?:зарплат\w+|карт\w+|перечисл\w+)\b|\bперечислять\s+зарплату\b<20>\bнов\w+\b|)"
+     R"((?:[换換]|更[换換])(?:了)?[银銀]行卡?[\s\S]{0,20}(?:工[资資]|薪[资資水])|)"
+     R"(銀行を変え[\s\S]{0,20}(?:給与|給料|振り?込)|)"
+     R"(은행을? ?바꿔[\s\S]{0,24}(?:급여|월급))"); }),
      true},
     {"bec-redirect-payment", "Payment redirection", "warn", 50,
      "asks for payments to go to a different account than before",
@@ -536,7 +632,11 @@ constexpr auto table = std::to_array<Rule>({
      R"((?:新しい口座|新口座|下記の口座|下記の新しい口座)<20>(?:振|送金|支払|お願い)|)"
      R"((?:下面|以下|新的?)<6>(?:账户|帳戶|账号|帳號)<15>(?:汇款|匯款|付款|打款|转账|轉帳)|)"
      R"((?:汇款|匯款|付款|打款|款打|转账|轉帳)<10>(?:下面|以下|新的)<8>(?:账户|帳戶|账号|帳號)|)"
-     R"((?:새로운|아래의?|변경된)\s?(?:계좌)<8>(?:로|으로)<8>(?:송금|입금|이체))"); }),
+     R"((?:새로운|아래의?|변경된)\s?(?:계좌)<8>(?:로|으로)<8>(?:송금|입금|이체)|)"
+     R"(\b(?:effettu\w+|pag(?!e\b|es\b|ed\b|er\b|ing)\w+|bonific\w+|vers(?!ion|us|es?\b|atil)\w+)\b<60>\bnuovo\s+(?:iban|conto)\b|)"
+     R"(\bdevolver?\b<30>\b(?:para|nesta|nessa|neste)\b<8>\b(?:esta\s+|essa\s+|outra\s+)?(?:chave|conta|pix)\b|)"
+     R"(差額をこの口座|)"
+     R"(차액[\s\S]{0,10}이 ?계좌로)"); }),
      true},
     {"bec-urgent-wire", "Payment redirection", "warn", 45,
      "presses for an urgent payment or transfer",
@@ -572,7 +672,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:spoed\w*|dringende?|vandaag\s+nog)\b<30>\b(?:overboeking|betaling|overmaken)\b|)"
      R"((?:紧急|緊急|马上|馬上|立即|尽快|盡快)<10>(?:汇款|匯款|转账|轉帳|转帐|付款|打款)|)"
      R"((?:至急|緊急|本日中)<15>(?:送金|振込|振り込み|支払)|)"
-     R"((?:긴급|급히|지금\s+바로|당장)<12>(?:송금|이체|입금))"); }),
+     R"((?:긴급|급히|지금\s+바로|당장)<12>(?:송금|이체|입금)|)"
+     R"(\b(?:veranlassen|ausführen|tätigen|erledigen|machen|überweisen)\b<40>\b(?:dringend\w*|sofort\w*|heute\s+noch|eil\w*)\b<20>\b(?:überweisung|zahlung)\b|\b(?:heute\s+noch|noch\s+heute|sofort|dringend\w*)\b<40>\b(?:überweisung|zahlung|überweisen)\b|\b(?:spenden|spende)\s+(?:sie\s+)?(?:noch\s+heute|jetzt|sofort|schnell)\b|)"
+     R"(\bspoed(?:betaling|overboeking|overschrijving)\b|\b(?:betaling|overboeking|overschrijving)\b<30>\b(?:vandaag\s+nog|spoed|direct|dringend)\b|\bdoneer\s+(?:nu|direct|vandaag)\b|)"
+     R"(\b(?:virement|paiement|règlement)\b<20>\b(?:urgent|immédiat|à\s+faire\s+(?:aujourd['’]hui|tout\s+de\s+suite))\b|\b(?:il\s+faut|faire|effectue[rz]|faites)\b<30>\bvirement\b<60>\b(?:aujourd['’]hui|urgent|tout\s+de\s+suite|immédiat\w*)\b|\b(?:don|dons)\s+immédiats?\b|\b(?:faites|faire)\s+un\s+don\b<30>\b(?:immédiat|urgent|maintenant|tout\s+de\s+suite)\b|)"
+     R"(\b(?:bonifico|pagamento)\b<10>\b(?:urgente|istantaneo|immediato)\b|\bdon(?:a|i)\s+(?:subito|ora|adesso)\b|)"
+     R"(\btransferencia\b<15>\b(?:urgente|inmediata)\b|\b(?:haga|hagas|hacer|realice)\b<25>\btransferencia\b<40>\b(?:hoy|urgente|inmediat\w+|ya)\b|\bdon[ae]\s+(?:ahora|ya|hoy)\b|)"
+     R"(\b(?:transfer[êe]ncia|pix|pagamento)\b<10>\b(?:urgente|imediat[oa])\b|\bfa[çc]a\b<20>\b(?:transfer[êe]ncia|pix|pagamento)\b<40>\b(?:hoje|urgente|agora)\b|\b(?:doe|doa)\s+(?:agora|j[áa]|hoje)\b|)"
+     R"(\bсрочно\s+(?:провед\w+|оплат\w+|перевед\w+|перечисл\w+)\b<30>\b(?:плат[её]ж\w*|сч[её]т|деньги|контрагент\w*|сумм\w+)?|\bпроведите\s+плат[её]ж\b|\bсрочный\s+(?:сбор|плат[её]ж|перевод)\b<60>\bперевед\w+\b|)"
+     R"((?:[紧緊]急付款|[马馬]上[转轉]|急需[汇匯转轉]|立即[汇匯转轉捐])|)"
+     R"((?:至急|緊急|本日中)[\s\S]{0,6}(?:送金|振り?込)[\s\S]{0,6}(?:必要|願|して)|)"
+     R"(긴급 ?(?:송금|이체|입금|결제)|오늘 ?중으로[\s\S]{0,16}(?:송금|이체|입금))"); }),
      true},
     {"bec-invoice-attached", "Payment redirection", "warn", 15,
      "sends an invoice or a payment document to open",
@@ -600,7 +710,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:factures?|paiements?|amendes?)\b<15>\b(?:impayée?s?|en\s+retard|en\s+souffrance|non\s+réglée?s?|en\s+attente)\b|)"
      R"(\b(?:factura|pago|deuda|multa|saldo)s?\b<20>\b(?:vencid[oa]s?|pendientes?|impagad[oa]s?|atrasad[oa]s?)\b|)"
      R"(\b(?:fatura|boleto|conta|pagamento|d[íi]vida|d[ée]bito|multa|ped[áa]gio|parcela|tributo|imposto|passage[mn]s?)s?\b<20>\b(?:vencid[oa]s?|pendentes?|atrasad[oa]s?|em\s+(?:aberto|atraso)|n[ãa]o\s+pag[oa]s?|vence)\b|)"
-     R"(\b(?:openstaande?|onbetaalde|achterstallige)\b<12>\b(?:rekening\w*|factu\w+|bedrag|betaling\w*|boete\w*|schuld)\b)"); }),
+     R"(\b(?:openstaande?|onbetaalde|achterstallige)\b<12>\b(?:rekening\w*|factu\w+|bedrag|betaling\w*|boete\w*|schuld)\b|)"
+     R"(\b(?:maut\w*|forderung|rechnung|betrag|zahlung|gebühr\w*|bußgeld)\b<30>\b(?:noch\s+offen|ist\s+offen|unbezahlt\w*|offen|nicht\s+bezahlt|fehlgeschlagen|überfällig|ausstehend)\b|\bunbezahlte?n?\s+(?:maut\w*|rechnung\w*|forderung\w*|gebühr\w*)\b|\b(?:zahlung|abbuchung|lastschrift)\b<20>\b(?:fehlgeschlagen|abgelehnt|zurückgewiesen|nicht\s+erfolgreich|nicht\s+verarbeitet)\b|)"
+     R"(\b(?:schuld|boete|factuur|betaling|tol)\b<25>\b(?:niet\s+(?:betaald|voldaan)|mislukt|openstaand)\b|\bopenstaande\s+(?:boete|schuld|rekening|tol)\b|)"
+     R"(\b(?:amende|contravention|péage|trajet|facture|dette|abonnement)\b<30>\b(?:impayée?|non\s+réglée?|pas\s+été\s+(?:réglée?|payée?)|refusée?)\b|\b(?:votre\s+)?paiement\s+(?:a\s+été\s+)?(?:refusé|rejeté|échoué)\b|\bvous\s+devez\b<15><amount>|)"
+     R"(\b(?:multa|pedaggio|debito|fattura|pagamento|canone)\b<25>\b(?:non\s+(?:risulta\s+)?pagat[oa]|in\s+sospeso|insolut[oa]|scadut[oa]|non\s+è\s+andato\s+a\s+buon\s+fine|rifiutato)\b|)"
+     R"(\b(?:multa|deuda|pago|factura|peaje)\b<25>\b(?:pendiente|no\s+ha\s+sido\s+pagad[oa]|impagad[oa]|vencid[oa]|rechazad[oa])\b|\bno\s+pudimos\s+procesar\s+(?:su|tu)\s+pago\b|)"
+     R"(\b(?:d[íi]vida|multas?|ped[áa]gio|passagem|fatura|pagamento)\b<20>\b(?:n[ãa]o\s+paga?o?|vencid[oa]s?|em\s+aberto|protestad[oa]|atrasad[oa])\b|\bn[ãa]o\s+conseguimos\s+processar\s+seu\s+pagamento\b|)"
+     R"(\b(?:неоплаченн\w+|просроченн\w+)\s+(?:штраф|сч[её]т|долг|задолженност\w+)\b|\bплат[её]ж\s+(?:отклон[её]н|не\s+прош[её]л)\b<50>\b(?:обновите|карт\w+|доступ)\b|\bдолг\s+передан\b|)"
+     R"((?:您|你)的?(?:欠款|[贷貸]款|[账賬帐帳][单單]|通行[费費])[\s\S]{0,6}(?:已)?逾期|(?:[违違]章|欠[费費])[\s\S]{0,8}(?:未[处處缴繳]|\d)|自[动動]扣[费費][\s\S]{0,14}(?:取消|[关關][闭閉])[\s\S]{0,6}(?:[联聯][系繫]|客服)|)"
+     R"((?:未納料金|未払い料金|支払いに失敗|お支払いに失敗|滞納)[\s\S]{0,10}(?:が|し|お|ござ)|)"
+     R"((?:미납|연체|결제)[\s\S]{0,6}(?:실패|금액|안내|[\d,]{3,}원)[\s\S]{0,30}(?:해지|부과|업데이트|납부|확인))"); }),
      true},
     {"bec-ceo-request", "Payment redirection", "warn", 35,
      "is a superior's request for a discreet task or payment, the opening of executive impersonation",
@@ -644,7 +764,11 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:j['’]ai\s+besoin|pouvez-vous|peux-tu|il\s+faut)\b<50>\b(?:tâche|opération|transaction|mission|virement)\s+(?:urgente?|confidentielle?|immédiat)\b|)"
      R"(\b(?:necesito|preciso|puedes?|pode)\b<50>\b(?:tarea|tarefa|operaci[óo]n|opera[çc][ãa]o|gesti[óo]n|transacci[óo]n|transfer[êe]ncia|transferencia|pago|pagamento)\s+(?:urgente|confidencial|r[áa]pida|inmediat[oa])\b|)"
      R"((?:开会|開會)<15>(?:不方便|不能)<6>(?:接电话|接電話|通话)|)"
-     R"((?:查一下|查询|告诉我|告訴我)<10>(?:账户|帳戶|公司)<6>(?:余额|餘額))"); }),
+     R"((?:查一下|查询|告诉我|告訴我)<10>(?:账户|帳戶|公司)<6>(?:余额|餘額)|)"
+     R"(\b(?:это|пишет|я)\s+(?:ваш\s+)?(?:генеральный\s+директор|директор|руководитель|начальник)\b<60>\b(?:свяжется|разговор|плат[её]ж|перевод|поручени\w+|конфиденциальн\w+)\b|\b(?:с\s+вами|вам)\s+(?:свяжется|позвонит)\b<30>\b(?:куратор|фсб|сотрудник|министерств\w+)\b|)"
+     R"(我是你(?:的)?(?:[领領][导導]|老板|老闆)|到我[办辦]公室[\s\S]{0,30}(?:[转轉]|[账賬帐帳][户戶]|急事)|我是.{0,3}(?:总|總|董|老板|老闆|[经經]理)[\s\S]{0,30}(?:付款|[转轉][账賬帐帳]|[汇匯]款|保密|[买買])|)"
+     R"((?:社長|代表|専務|部長)の?[\s\S]{0,6}です[\s\S]{0,40}(?:送金|振り?込|極秘|内密|購入)|)"
+     R"((?:대표|사장|이사|본부장) ?(?:이다|입니다|인데|야)[\s\S]{0,40}(?:송금|이체|결제|비밀|기프트|구매))"); }),
      true},
     {"bec-confidential-pay", "Payment redirection", "warn", 45,
      "asks for a payment to be kept confidential",
@@ -660,7 +784,14 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:zahlung|überweisung|transaktion|übernahme|sache)\b<60>\b(?:vertraulich|diskret|geheim)\b|)"
      R"(\b(?:confidentiel\w*|discrétion|discrètement)\b<80>\b(?:virement|paiement|transaction|acquisition|opération)\b|)"
      R"(\b(?:virement|paiement|transaction|acquisition|opération)\b<40>\b(?:confidentiel\w*|discrétion|discrètement)\b|)"
-     R"(\b(?:confidencial\w*|discreci[óo]n|sigilo\w*|discri[çc][ãa]o)\b<80>\b(?:transferencia|pago|transfer[êe]ncia|pagamento|transac\w+|adquisici[óo]n|aquisi[çc][ãa]o)\b)"); }),
+     R"(\b(?:confidencial\w*|discreci[óo]n|sigilo\w*|discri[çc][ãa]o)\b<80>\b(?:transferencia|pago|transfer[êe]ncia|pagamento|transac\w+|adquisici[óo]n|aquisi[çc][ãa]o)\b|)"
+     R"(\b(?:überweisung|zahlung|transaktion)\b[\s\S]{0,120}\b(?:vertraulich|diskret|geheim)\b|)"
+     R"(\b\w*(?:betaling|overboeking)\b[\s\S]{0,80}\b(?:vertrouwelijk|geheim|discreet)\b|)"
+     R"(\bvirement\b<30>\bconfidentiel\b|\bconfidentiel\w*\b<60>\bvirement\b|)"
+     R"(\b(?:bonifico|pagamento|operazione)\b<25>\b(?:riservat[oa]|confidenziale)\b|)"
+     R"(\b(?:transferencia|pago)\b<25>\bconfidencial\b|)"
+     R"(\b(?:transfer[êe]ncia|pagamento)\b<25>\b(?:confidencial|sigilos[oa])\b|)"
+     R"((?:極秘|内密|機密)[\s\S]{0,20}(?:送金|振り?込|案件|支払))"); }),
      true},
     {"bec-swift-iban", "Payment redirection", "warn", 30,
      "gives bank account coordinates",
@@ -680,7 +811,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:did\s+you\s+(?:get|receive|see)\s+my|i['’]ve\s+been\s+trying\s+to\s+reach\s+you)\b<20>(?:e-?mail|message|text|\.|,)|)"
      R"(\b(?:sind\s+sie|bist\s+du)\s+(?:gerade\s+|jetzt\s+|heute\s+)?(?:verfügbar|im\s+büro|am\s+platz|erreichbar)\b|)"
      R"(\b(?:êtes-vous|es-tu|tu\s+es|vous\s+êtes)\s+(?:disponible|au\s+bureau)\b|)"
-     R"(\b(?:est[áa]s?|voc[êe]\s+est[áa])\s+(?:disponible|dispon[íi]vel|en\s+la\s+oficina|no\s+escrit[óo]rio)\b|)"
+     R"(\b(?:est[áa]s|usted\s+est[áa]|voc[êe]\s+est[áa])\s+(?:disponible|dispon[íi]vel|en\s+la\s+oficina|no\s+escrit[óo]rio)\b|)"
      R"(\bben\s+je\s+(?:beschikbaar|op\s+kantoor)\b)"); }),
      true},
     {"bec-favor", "Payment redirection", "warn", 20,
@@ -704,7 +835,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:rends?|rendre|rendez)\b<10>\bun\s+(?:petit\s+)?service\b|)"
      R"(\b(?:j['’]ai\s+besoin\s+(?:de\s+votre\s+aide|que\s+vous))\b|)"
      R"(\b(?:hazme|me\s+haces|haga|fa[çz]a|faz|preciso\s+de|necesito)\s+(?:un|um)\s+favor\b|)"
-     R"(\b(?:preciso\s+que\s+voc[êe]|necesito\s+que\s+(?:usted|hagas|haga|me))\b)"); }),
+     R"(\b(?:preciso\s+que\s+voc[êe]|necesito\s+que\s+(?:usted|hagas|haga|me))\b|)"
+     R"(\b(?:kannst|könntest|können)\s+(?:du|sie)\s+(?:mir|für\s+mich)\s+(?:bitte\s+|kurz\s+|heute\s+)*<30>\b(?:überweis\w+|zahlen|bezahlen|auslegen|vorstrecken|begleichen)\b|\b(?:zahle?|gebe?|überweise?)\s+(?:ich\s+)?(?:es|dir|das|ihnen)\s+(?:dir\s+|ihnen\s+)?(?:morgen|übermorgen|nächste\s+woche|sofort|gleich)<12>\b(?:zurück|wieder)\b|)"
+     R"(\b(?:kun|kan|zou)\s+(?:je|jij|u)\b<30>\b(?:voor\s+me|voor\s+mij)?<15>\b(?:betalen|overmaken|voorschieten|lenen)\b|\b(?:morgen|later|straks)\s+krijg\s+je\s+het\s+terug\b|\bmaak\s+het\s+(?:morgen|later)\s+(?:terug|over)\b|)"
+     R"(\b(?:tu\s+peux|peux-tu|pouvez-vous|pourrais-tu)\s+(?:me\s+|m['’])?\s?<25>\b(?:dépanner|avancer|prêter|virer|transférer|payer)\b|)"
+     R"(\b(?:puoi|potresti|può)\s+(?:farmi|fare|prestarmi|inviarmi|pagarmi)\b<25>\b(?:bonifico|ricarica|favore|soldi|pagamento)\b|\b(?:domani|stasera|dopo)\s+te\s+li\s+(?:ridò|rendo|restituisco)\b|)"
+     R"(\bme\s+(?:puedes|podr[íi]as|puede)\b<30>\b(?:hacer|prestar|mandar|pasar)\b<25>\b(?:transferencia|dinero|pago|dep[óo]sito|bizum)\b|\b(?:te|se)\s+l[oa]\s+(?:devuelvo|pago|regreso)\b<20>\b(?:ma[ñn]ana|hoy|luego|viernes|lunes)\b|\b(?:ma[ñn]ana|luego)\s+te\s+l[oa]\s+(?:devuelvo|pago|regreso)\b|)"
+     R"(\b(?:consegues?|pode|podes|poderia|d[áa]\s+pra)\b<20>\b(?:fazer|pagar|transferir|emprestar)\b<20>\b(?:transfer[êe]ncia|pix|boleto|dinheiro|conta)\b|\bpaga\s+(?:um|uma|esse|essa)\s+(?:boleto|conta)\b|\bamanh[ãa]\b<15>\b(?:te\s+|lhe\s+)?(?:devolvo|pago)\b|)"
+     R"(\b(?:можешь|сможешь|можете)\s+(?:мне\s+)?(?:занять|одолжить|перекинуть|скинуть)\b|\b(?:завтра|вечером|утром)\s+(?:утром\s+|вечером\s+)?(?:верну|отдам)\b|\bденьги\s+верну\b|)"
+     R"((?:[帮幫]我|[帮幫]忙|先|可以|麻[烦煩])[\s\S]{0,8}(?:[转轉][账賬帐帳点點]?|垫付|墊付|代付)[\s\S]{0,12}(?:[钱錢万萬块塊]|[账賬帐帳])|(?:明天|晚上|晚点|晚點|回头|回來|回来)[\s\S]{0,4}(?:就)?(?:还[你您]|還[你您])|)"
+     R"((?:急ぎで|至急|今日中に|どうしても)[\s\S]{0,10}(?:お金|万円)[\s\S]{0,6}(?:必要|いる)|必ず返し|)"
+     R"((?:대신|급하게|급히)[\s\S]{0,12}(?:이체|송금|결제|입금)[\s\S]{0,8}(?:해|좀|줄)|(?:나중에|내일|가서|이따가|한국 ?가면) ?(?:줄게|갚을게|보내줄게|드릴게요))"); }),
      true},
 
     // ---- Gift card fraud -----------------------------------------------------------------------
@@ -734,7 +875,17 @@ constexpr auto table = std::to_array<Rule>({
      R"((?:购买|購買|买|買)<12>(?:礼品卡|禮品卡|点卡|點卡|充值卡)|)"
      R"((?:購入|買って|買ってきて)<15>(?:ギフトカード|プリペイドカード|電子マネー)|)"
      R"((?:ギフトカード|プリペイドカード|電子マネー|iTunesカード)<15>(?:購入して|買って)|)"
-     R"((?:기프트\s?카드|상품권|구글\s?플레이\s?카드)<12>(?:구매|사서|사\s?주|사다))"); }),
+     R"((?:기프트\s?카드|상품권|구글\s?플레이\s?카드)<12>(?:구매|사서|사\s?주|사다)|)"
+     R"(\b(?:kauf\w*|besorg\w*|hol\w*|brauche?n?)\b<50>\b(?:google[- ]?play|paysafe|steam|itunes|apple|amazon|guthaben|gutschein)-?\s?(?:karten?|codes?|gutscheine?)\b|)"
+     R"(\b(?:koop|kopen|halen|nodig|regelen|haal)\b<50>\b(?:cadeaukaart\w*|cadeaubon\w*|giftcards?|google\s+play|paysafe\w*|steam)\b|\b(?:cadeaukaart\w*|cadeaubon\w*|giftcards?)\b<40>\bnodig\b|)"
+     R"(\b(?:achète[rs]?|acheter|achetez|besoin|prends)\b<50>\b(?:cartes?\s+(?:cadeaux?|google\s+play|itunes|steam|apple|amazon)|coupons?\s+(?:pcs|transcash|neosurf|toneo)|(?:pcs|transcash|neosurf|toneo))\b|)"
+     R"(\b(?:compr\w+|acquist\w+|serv\w+|prend\w+)\b<50>\b(?:carte\s+regalo|gift\s+card|(?:carte|buoni)\s+(?:google\s+play|amazon|itunes|steam)|ricariche?\s+(?:postepay|paysafecard))\b|)"
+     R"(\b(?:compr\w+|necesito)\b<50>\b(?:tarjetas?\s+(?:de\s+regalo|regalo|prepago|google\s+play|itunes|steam|amazon)|gift\s+cards?)\b|)"
+     R"(\b(?:compr\w+|preciso)\b<50>\b(?:cart[õo]es?\s+(?:presente|oferta|google\s+play|itunes|steam)|gift\s+cards?|vales?[- ]presente)\b|)"
+     R"(\b(?:купи\w*|приобрети\w*)\b<20>\b(?:подарочн\w+|предоплаченн\w+)\s+(?:карт\w*|сертификат\w*)\b<60>\b(?:код\w*|деньги|верну|партн[её]р\w*|клиент\w*)\b|)"
+     R"((?:[买買]|[购購][买買])[\s\S]{0,14}(?:[礼禮]品卡|[点點][数數]卡|[点點]卡|充值卡|[苹蘋]果卡|遊戲[点點][数數])|)"
+     R"((?:コンビニ)?[\s\S]{0,4}(?:iTunes|ギフト|プリペイド|Apple|Amazon|グーグルプレイ|Google ?Play|電子マネー)[\s\S]{0,6}カード?[\s\S]{0,16}(?:買って|購入|分買|支払)|)"
+     R"((?:기프트 ?카드|문화 ?상품권|구글 ?카드|상품권|컬쳐랜드)[\s\S]{0,20}(?:사서|구매|사다|구입)[\s\S]{0,24}(?:번호|핀|사진|보내))"); }),
      true},
     {"gift-card-codes", "Gift card fraud", "warn", 60,
      "asks for the codes of gift cards, which spends them",
@@ -749,7 +900,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:gratte[rz]|photographie[rz])\b<40>\b(?:codes?|cartes?|coupons?)\b|)"
      R"(\b(?:raspe|rasque|raspar|rascar)\b<40>\b(?:c[óo]digos?|tarjetas?|cart(?:ão|ões))\b|)"
      R"((?:刮开|刮開|卡密|卡号和密码)<20>(?:发|發|拍照|告诉|告訴)|)"
-     R"((?:カード|裏面)<12>(?:番号|コード)<12>(?:送って|写真|撮って|教えて))"); }),
+     R"((?:カード|裏面)<12>(?:番号|コード)<12>(?:送って|写真|撮って|教えて)|)"
+     R"(\b(?:rubbel\w*|kratz\w*)\b<30>\bcodes?\b|\bcodes?\b<30>\b(?:durchgeb\w+|durchsag\w+|schick\w*|foto\w*|abfotograf\w+)\b|)"
+     R"(\b(?:kras|stuur|foto\w*)\b<40>\bcodes?\b<40>\b(?:foto\w*|stuur|open|door)\b|)"
+     R"(\b(?:gratte|envoie|envoye[rz]|donne[rz])\b<30>\bcodes?\b<40>\b(?:photos?|carte|rembours\w+|coupon)\b|\bcoupons?\s+(?:pcs|transcash|neosurf)\b<60>\bcodes?\b|)"
+     R"(\b(?:gratta\w*|foto|invi(?!t|sib|nc|gor)\w+|mand(?!at|ar|y\b)\w+)\b<30>\b(?:i\s+|il\s+)?codic[ei]\b<40>\b(?:foto|rimbors\w+|mand(?!at|ar|y\b)\w+|carte|invi(?!t|sib|nc|gor)\w+)\b|)"
+     R"(\b(?:rasp\w+|foto|m[áa]nd\w+|env[íi](?!ron|ous|sion|able)\w+)\b<40>\bc[óo]digos\b|\btarjetas?\b<40>\bc[óo]digos\b|)"
+     R"(\b(?:foto|fotos|mande|manda|envie|raspe)\b<30>\b(?:dos\s+|os\s+)?c[óo]digos\b|\bcart[õo]es\b<60>\bc[óo]digos\b|)"
+     R"(\b(?:карт\w*|сертификат\w*)\b<50>\b(?:пришли|скинь|отправь|вышли|пришлите)\b<10>\b(?:мне\s+)?(?:код\w*|фото)\b|)"
+     R"((?:卡[号號]密[码碼]|序[号號]|卡密)[\s\S]{0,10}(?:拍照|[发發传傳][给給]|告[诉訴])|)"
+     R"((?:カード|裏)[\s\S]{0,30}番号[\s\S]{0,8}(?:写真|送って|教えて|知らせ)|)"
+     R"((?:핀 ?번호|상품권|카드)[\s\S]{0,20}(?:번호|사진)[\s\S]{0,10}(?:보내|찍어|전송)[\s\S]{0,4}(?:줘|주세요|주시))"); }),
      true},
     {"gift-card-reimburse", "Gift card fraud", "warn", 35,
      "promises to pay the reader back for a purchase made now",
@@ -761,7 +922,8 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:reimbursement|refund)\b<25>\b(?:will\s+be|would\s+be|to\s+you|by\s+me|assured|guaranteed)\b<25>\b(?:later|today|tomorrow|end\s+of|soon|issued|made|processed|purchase|expense)\b|)"
      R"(\b(?:erstatte|erstatten|zurückzahlen|zahle)\b<25>\b(?:ihnen|dir|es|das)\b<15>\b(?:später|heute|zurück|geld|morgen)\b|)"
      R"(\bje\s+(?:te|vous)\s+(?:rembourse|rembourserai)\b|)"
-     R"(\b(?:te|le|lhe)\s+(?:reembols\w+|devuelvo|devolver[eé]|pago\s+depois|reembolso)\b)"); }),
+     R"(\b(?:te|le|lhe)\s+(?:reembols\w+|devuelvo|devolver[eé]|pago\s+depois|reembolso)\b|)"
+     R"(\b(?:la|ti|vi)\s+rimborso\b)"); }),
      true},
 
     // ---- Crypto fraud --------------------------------------------------------------------------
@@ -787,7 +949,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:env[íi]\w+|transfi?[er]\w+|deposit\w+|pag\w+|mand\w+)\b<60>\b(?:bitcoins?|btc|usdt|cripto\w*)\b<60>\b(?:billetera|carteira|direcci[óo]n|endere[çc]o|cartera)\b|)"
      R"((?:转|轉|汇|匯|发送|發送|充值)<12>(?:USDT|BTC|比特币|比特幣|泰达币|以太)<15>(?:地址|钱包|錢包)|)"
      R"((?:ビットコイン|仮想通貨|暗号資産|USDT)<20>(?:送金|送って|入金)|)"
-     R"((?:비트코인|코인|가상화폐|테더)<20>(?:보내|송금|입금)<6>(?:하세요|주세요|주십시오|하십시오))"); }),
+     R"((?:비트코인|코인|가상화폐|테더)<20>(?:보내|송금|입금)<6>(?:하세요|주세요|주십시오|하십시오)|)"
+     R"(\b(?:spend\w+|send\w+|überweis\w+|zahl\w+|schick\w+)\b<40>\b(?:bitcoin|btc|krypto\w*|usdt|eth)\b<40>\b(?:wallet|adresse|konto|an)\b|)"
+     R"(\b(?:doneer|stuur|betaal|maak)\b<30>\b(?:bitcoins?|btc|usdt|crypto\w*)\b<30>\b(?:wallet|adres|op|naar)\b|)"
+     R"(\b(?:don|donne[rz]|envoye[rz]|payez|verse[rz])\b<30>\b(?:bitcoins?|btc|crypto\w*|usdt)\b<40>\b(?:adresse|association|portefeuille|coupon|compte)\b|)"
+     R"(\b(?:don(?!e\b|t\b|ald|key)\w+|invi(?!t|sib|nc|gor)\w+|vers(?!ion|us|es?\b|atil)\w+|mand(?!at|ar|y\b)\w+)\b<40>\b(?:bitcoins?|btc|usdt|cripto\w*)\b<30>\b(?:wallet|indirizzo|portafoglio|o\s+su|questa)\b|)"
+     R"(\b(?:don(?!e\b|t\b|ald|key)\w+|env[íi](?!ron|ous|sion|able)\w+|pag(?!e\b|es\b|ed\b|er\b|ing)\w+|transfier\w+)\b<40>\b(?:bitcoins?|btc|usdt|cripto\w*|eth)\b<40>\b(?:billetera|wallet|direcci[óo]n)\b|)"
+     R"(\b(?:doe|envi(?!ron|ous|sion|able)\w+|pag(?!e\b|es\b|ed\b|er\b|ing)\w+|mand(?!at|ar|y\b)\w+)\b<40>\b(?:bitcoins?|btc|usdt|cripto\w*)\b<40>\b(?:carteira|endere[çc]o|wallet)\b|)"
+     R"(\b(?:отправ\w+|перевед\w+|заплат\w+)\b<30>\b(?:btc|биткоин\w*|usdt|крипт\w+|эфир\w*)\b<30>\b(?:адрес|кошел[её]к)\b|)"
+     R"((?:[转轉]|打|付|捐)[\s\S]{0,12}(?:BTC|比特[币幣]|USDT|泰[达達][币幣]|ETH)|)"
+     R"((?:ビットコイン|BTC|USDT|仮想通貨)[\s\S]{0,6}で?[\s\S]{0,6}(?:寄付|払|お支払い|送る|送って)[\s\S]{0,8}(?:お願い|ないと|ください|と)|)"
+     R"((?:비트코인|코인|BTC|USDT|테더)[\s\S]{0,10}(?:으로|를|을)?[\s\S]{0,6}(?:후원|보내|송금|기부)[\s\S]{0,6}(?:하시면|시면|세요|주세요|않으면|지 ?않))"); }),
      true},
     {"crypto-double", "Crypto fraud", "warn", 65,
      "promises to send back more cryptocurrency than was sent",
@@ -799,7 +971,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\bverdoppel\w+\b<30>\b(?:bitcoins?|btc|krypto\w*|einzahlung|einsatz|investition)\b|)"
      R"(\b(?:doublez|doubler)\b<30>\b(?:bitcoins?|btc|crypto\w*|dépôt|mise|investissement)\b|)"
      R"(\b(?:duplica|duplique|duplicar|dobre|dobrar)\b<30>\b(?:bitcoins?|btc|cripto\w*|dep[óo]sito|inversi[óo]n|investimento)\b|)"
-     R"((?:翻倍|双倍返还|雙倍返還)<15>(?:币|幣|BTC|USDT|投资|投資))"); }),
+     R"((?:翻倍|双倍返还|雙倍返還)<15>(?:币|幣|BTC|USDT|投资|投資)|)"
+     R"(\b(?:send\w*|schick\w*|überweis\w*|einzahl\w*)\b<40>\b(?:btc|bitcoin\w*|eth|usdt|krypto\w*)\b<60>\b(?:doppelt\w*|zurück|zweifach\w*|verdoppel\w*)\b|)"
+     R"(\b(?:stuur|stort)\b<30>\b(?:btc|bitcoins?|eth|usdt|crypto\w*)\b<60>\b(?:dubbele?|verdubbel\w+|tweevoud)\b|)"
+     R"(\b(?:envoye[rz]|verse[rz]|dépose[rz])\b<30>\b(?:btc|bitcoins?|eth|usdt|crypto\w*)\b<60>\b(?:doubles?|deux\s+fois|triple)\b|)"
+     R"(\b(?:invi(?!t|sib|nc|gor)\w+|mand(?!at|ar|y\b)\w+|deposit\w+|vers(?!ion|us|es?\b|atil)\w+)\b<30>\b(?:btc|bitcoins?|eth|usdt|cripto\w*)\b<60>\b(?:doppio|raddoppi\w+|triplo)\b|)"
+     R"(\b(?:env[íi](?!ron|ous|sion|able)\w+|deposit\w+|mand(?!at|ar|y\b)\w+)\b<30>\b(?:btc|bitcoins?|eth|usdt|cripto\w*)\b<60>\b(?:doble|duplic\w+|el\s+triple)\b|)"
+     R"(\b(?:envi(?!ron|ous|sion|able)\w+|deposit\w+|mand(?!at|ar|y\b)\w+)\b<30>\b(?:btc|bitcoins?|eth|usdt|cripto\w*)\b<60>\b(?:dobro|dobrado|triplo)\b|\binvista\b<20>\d+<20>\breceba\b<20>\d|)"
+     R"(\b(?:отправ\w+|перевед\w+|внес\w+)\b<25>\b(?:btc|биткоин\w*|usdt|eth|крипт\w+)\b<50>\b(?:вдвое|в\s+два\s+раза|удво\w+|двойн\w+)\b|)"
+     R"((?:BTC|比特[币幣]|USDT|ETH|[币幣])[\s\S]{0,12}(?:返[还還]|送|得到)?[\s\S]{0,4}(?:[双雙]倍|翻倍|[两兩]倍)|)"
+     R"((?:BTC|ビットコイン|USDT|ETH|仮想通貨)[\s\S]{0,14}(?:2倍|二倍|倍にして|倍返)|)"
+     R"((?:BTC|비트코인|코인|USDT)[\s\S]{0,16}(?:두 ?배|2배|배로))"); }),
      true},
     {"crypto-giveaway", "Crypto fraud", "warn", 55,
      "lures with a crypto giveaway, airdrop or bonus to claim",
@@ -858,7 +1040,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:connecte[rz]|vérifie[rz]|valide[rz]|synchronise[rz])\b<30>\b(?:portefeuille|wallet|ledger|metamask)\b|)"
      R"(\b(?:conect\w+|verifi\w+|valid\w+|sincroni\w+)\b<30>\b(?:su|tu|sua|a|la)\s+(?:\w+\s+)?(?:billetera|carteira|wallet|metamask|ledger)\b|)"
      R"((?:连接|連接|验证|驗證|同步)<8>(?:钱包|錢包)|)"
-     R"((?:ウォレット)<12>(?:接続|認証|検証|同期))"); }),
+     R"((?:ウォレット)<12>(?:接続|認証|検証|同期)|)"
+     R"(\b(?:wallet|ledger|trezor|metamask)\b<40>\b(?:verifiziert|bestätigt|validiert|aktualisiert|synchronisiert|überprüft)\b<15>\bwerden\b|\b(?:geben\s+sie|gib|tragen\s+sie)\b<40>\b(?:12|24|zwölf|vierundzwanzig)\b<12>\b(?:wörter|worte|wort)\b|\b(?:wiederherstellungs|seed)-?(?:phrase|wörter)\b<40>\b(?:ein|eingeben|bestätig\w+)\b|)"
+     R"(\b(?:herstelzin|herstelwoorden|12\s+woorden|24\s+woorden|geheime\s+zin)\b|\bwallet\b<20>\b(?:geverifieerd|gevalideerd|bijgewerkt)\s+worden\b|)"
+     R"(\b(?:phrase\s+de\s+récupération|phrase\s+secrète)\b|\b(?:12|24)\s+mots\b|\b(?:portefeuille|wallet|ledger|metamask)\b<40>\b(?:doit\s+être|vérifiée?|validée?|synchronis\w+)\b|)"
+     R"(\b(?:frase\s+di\s+recupero|frase\s+segreta)\b|\binser\w+\b<40>\b(?:12|24)\s+parole\b|\bwallet\b<15>\bva\s+(?:verificato|aggiornato|validato)\b|)"
+     R"(\b(?:frase\s+(?:de\s+recuperaci[óo]n|semilla|secreta)|12\s+palabras|24\s+palabras)\b|\b(?:billetera|wallet|metamask|ledger)\b<40>\b(?:ser[áa]|debe)\b<20>\b(?:suspendida|bloqueada|verific\w+)\b|)"
+     R"(\b(?:frase\s+de\s+recupera[çc][ãa]o|frase\s+secreta|frase\s+semente|12\s+palavras|24\s+palavras)\b|\bcarteira\b<25>\b(?:bloqueada|suspensa|validada|verificada)\b|)"
+     R"(\b(?:сид-?фраз\w+|seed-?фраз\w+|фраз\w+\s+восстановления|мнемоническ\w+\s+фраз\w+)\b<30>\b(?:введ\w+|12|24|слов|подтверд\w+)\b|\b(?:введ\w+|подтверд\w+)\b<20>\b(?:сид-?фраз\w+|фраз\w+\s+восстановления)\b|)"
+     R"((?:助[记記][词詞]|恢[复復][词詞]|私[钥鑰])[\s\S]{0,16}(?:[验驗][证證]|[输輸]入|[备備]份|否[则則])|(?:[验驗][证證]|[输輸]入)[\s\S]{0,4}助[记記][词詞]|)"
+     R"((?:リカバリーフレーズ|シードフレーズ|秘密鍵|復元フレーズ)[\s\S]{0,14}(?:入力|確認|必要)|)"
+     R"((?:복구 ?(?:문구|구문)|니모닉|시드 ?(?:문구|구문)|지갑)[\s\S]{0,16}(?:입력|인증)[\s\S]{0,16}(?:않으면|하세요|필요|단어))"); }),
      true},
     {"crypto-btc-address", "Crypto fraud", "warn", 30,
      "contains a cryptocurrency address, to which a payment cannot be called back",
@@ -880,10 +1072,20 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:rendements?|gains?|bénéfices|revenus?|profits?)\s+(?:\w+\s+)?garantis?\b|)"
      R"(\b(?:ganancias?|rendimientos?|rentabilidad|ingresos|lucros?|ganhos?|retornos?|rendimentos?)\s+(?:\w+\s+)?(?:garantizad[oa]s?|garantid[oa]s?|asegurad[oa]s?)\b|)"
      R"(\bgegarandeerde?\s+(?:rendement|winst|inkomsten|opbrengst)\b|)"
-     R"((?:保证|保證|稳定|穩定|稳赚|穩賺|高额|高額)<6>(?:收益|回报|回報|盈利|利润|利潤|不赔|不賠)|)"
+     R"((?<![不没無无未])(?:保证|保證|稳定|穩定|稳赚|穩賺|高额|高額)<6>(?:收益|回报|回報|盈利|利润|利潤|不赔|不賠)|)"
      R"((?:必ず|確実に|絶対に?)<8>(?:儲か|稼げ|利益)|)"
-     R"((?:元本保証|月利\d|日利\d)|)"
-     R"((?:수익|원금)<6>(?:보장|확정))"); }),
+     R"((?:元本保証(?!では|は|され|の\w{0,4}ない)|月利\d|日利\d)|)"
+     R"((?:수익|원금)<6>(?:보장(?!하지|되지|이|은|을)|확정)|)"
+     R"(\b(?:täglich|pro\s+tag|am\s+tag|monatlich|pro\s+monat|im\s+monat|wöchentlich)\b<25>\b\d+\s?(?:%|prozent)<20>\b(?:gewinn\w*|rendite|zinsen|profit)\b|\b(?:gewinn\w*|rendite|profit|einkommen)\b(?!<20>\b(?:nicht|keine)\b)<20>\bgarantiert\b|\bgarantierte[nrs]?\s+(?:\w+\s+)?(?:gewinn\w*|rendite|zinsen|einkommen|profit)\b|\b(?:verdien\w+|verdient)\b<20>(?:<amount>|\beuro\b)<20>\b(?:im\s+monat|pro\s+monat|am\s+tag|pro\s+tag|die\s+woche|täglich)\b<50>\b(?:krypto\w*|plattform|trading|bitcoin|invest\w*|system|bot)\b|)"
+     R"(\bverdien\b<15>\d+\s?%<10>\bper\s+(?:dag|week|maand)\b|\b(?:winst|rendement|inkomen)\b(?!<12>\b(?:niet|geen)\b)<12>\bgegarandeerd\b|\bgegarandeerde?\s+(?:\w+\s+)?(?:winst|rendement|inkomen)\b|\bvast\s+rendement\b<40>\bgegarandeerd\b|)"
+     R"(\b(?:gagne[rz]?|gains?|rendement|rapporte)\b<20>\d+\s?%<15>\b(?:par\s+(?:jour|mois|semaine)|quotidien\w*|garanti\w*)|\b(?:gains?|profits?|bénéfices?|rendement|capital|placement)\b(?!<25>\b(?:pas|non|ni)\b)<25>\b(?:garantis?|assurée?)\b|)"
+     R"(\bguadagn\w+\b<15>\d+\s?%<10>\b(?:al\s+giorno|al\s+mese|giornalier\w+|a\s+settimana)\b|\b(?:profitti|guadagni|rendita|rendimento|rendimenti)\b(?!<15>\bnon\b)<15>\bgarantit[aioe]\b|)"
+     R"(\bgan[ae]?r?\b<20>\d+\s?%<15>\b(?:diari\w+|al\s+d[íi]a|al\s+mes|semanal\w*|mensual\w*)\b|\b(?:ganancias?|ingresos|rendimientos?|rentabilidad|beneficios)\b<15>\b(?:fij[oa]s\s+)?garantizad[oa]s?\b|)"
+     R"(\bganhe\b<20>\d+\s?%<12>\b(?:ao\s+dia|por\s+dia|ao\s+m[êe]s|di[áa]ri\w+|semanal\w*)\b|\b(?:lucros?|ganhos?|rendimentos?|retorno)\b<12>\bgarantid[oa]s?\b|\binvista\b<50>\b(?:garantid[oa]|em\s+uma\s+hora|na\s+hora)\b|)"
+     R"(\b(?:гарантированн\w+\s+(?:доход|прибыль|доходность)|(?:доход|прибыль)\s+гарантирован\w*)\b|\d+\s?%<10>\b(?:в\s+день|в\s+месяц|в\s+неделю|ежедневно)\b<40>\b(?:доход|прибыль|пассивн\w+|гарант\w+|инвест\w+)\b|\b(?:получай|приносит)\b<10>\d+\s?%|)"
+     R"((?:[稳穩][赚賺]不[赔賠]|保[证證][获獲]利|日收益\d|月入百[万萬]|[稳穩][赚賺]的?投[资資])|)"
+     R"((?:必ず儲か|元本保証|確実に稼|月利\d|毎日\d+万円)|)"
+     R"((?:수익|원금|수익률)[\s\S]{0,10}보장(?!하지|되지|이|은|을))"); }),
      true},
     {"crypto-risk-free", "Crypto fraud", "warn", 40,
      "calls an investment free of risk",
@@ -893,7 +1095,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\brisiko(?:los|frei)\w*\b<40>\b(?:invest\w*|anlage\w*|gewinn\w*|rendite\w*|geld\w*|krypto\w*|verdien\w*)\b|)"
      R"(\bsans\s+(?:aucun\s+)?risque\b<40>\b(?:invest\w*|gain\w*|placement\w*|rendement\w*)\b|)"
      R"(\b(?:sin|sem)\s+(?:ning[úu]n\s+)?(?:riesgos?|riscos?)\b<40>\b(?:inver\w+|invest\w+|gan\w+|rend\w+|lucr\w+)\b|)"
-     R"((?:零风险|零風險|无风险|無風險|ノーリスク|무위험))"); }),
+     R"((?:零风险|零風險|无风险|無風險|ノーリスク|무위험)|)"
+     R"(\bohne\s+(?:jedes\s+)?risiko\b|\brisikofrei\w*\b<40>\b(?:gewinn\w*|anlage|rendite|verdien\w*|invest\w*)\b|)"
+     R"(\bzonder\s+(?:enig\s+)?risico\b|)"
+     R"(\bsans\s+(?:aucun\s+)?risque\b|\bcapital\s+(?:assuré|garanti)\b|)"
+     R"(\bsenza\s+(?:alcun\s+)?risch(?:io|i)\b|)"
+     R"(\bsin\s+(?:ning[úu]n\s+)?riesgos?\b|)"
+     R"(\bsem\s+(?:nenhum\s+)?riscos?\b|)"
+     R"(\bбез\s+(?:всякого\s+)?риска\b|)"
+     R"([稳穩][赚賺](?:不[赔賠])?|保本(?:保息)?|零[风風][险險]|)"
+     R"((?:元本保証|リスクなし|損しない|絶対に損)|)"
+     R"((?:무위험|원금 ?보장|손실 ?없))"); }),
      true},
     {"crypto-insider", "Crypto fraud", "warn", 40,
      "offers inside knowledge or a mentor for quick trading profits",
@@ -908,7 +1120,17 @@ constexpr auto table = std::to_array<Rule>({
      R"((?:内幕|內幕|导师|導師|老师带单|带单)<15>(?:消息|投资|投資|股票|盈利|收益|群)|)"
      R"((?:加入|加)<8>(?:股票|投资|投資|炒股)<4>(?:群|交流)|)"
      R"((?:投資|株|銘柄)<12>(?:グループ|LINE)<12>(?:参加|登録|招待|追加)|)"
-     R"((?:리딩방|주식\s?정보방|급등주|투자\s?(?:방|그룹|리딩)))"); }),
+     R"((?:리딩방|주식\s?정보방|급등주|투자\s?(?:방|그룹|리딩))|)"
+     R"(\b(?:trading|börsen|aktien|krypto|investment|signal)-?\w*\s?-?gruppe\b<60>\b(?:whats\s?app|telegram|gewinn\w*|täglich|beitreten)\b|\b(?:persönliche[rn]?\s+(?:berater|betreuer|broker))\b<40>\b(?:ruft|anruf\w*|meldet|kontakt\w*)\b|)"
+     R"(\btrading-?bot\b|\bword\s+lid\b<20>\bgroep\b|\been\s+adviseur\s+belt\s+u\b|\bbeleg\s+in\s+dit\s+platform\b|)"
+     R"(\b(?:robot|bot)\s+de\s+trading\b|\brejoigne[rz]\b<30>\b(?:groupe|canal)\b<20>\b(?:whats\s?app|telegram|trading|vip|privé)\b|\bun\s+conseiller\s+vous\s+(?:rappelle\w*|contactera|appellera)\b|)"
+     R"(\bbot\s+di\s+trading\b|\b(?:unisciti|entra)\b<10>\bgruppo\b|\bun\s+consulente\s+(?:ti|la)\s+(?:chiamerà|contatterà)\b|\bcon\s+soli\b<10><amount>|)"
+     R"(\b(?:bot|robot|grupo|se[ñn]ales)\s+de\s+(?:trading|inversi[óo]n|cripto)\b|\b[úu]nete\b<20>\b(?:grupo|canal)\b|\bun\s+asesor\s+(?:le|te)\s+(?:llamar[áa]|contactar[áa])\b|)"
+     R"(\b(?:rob[ôo]|grupo|sinais)\s+(?:de\s+|vip)\s?(?:trading|investimento|trader|cripto)?\b<30>\b(?:lucro|vip|garantid\w+|grupo|entre)\b|\bentre\s+no\s+grupo\b|)"
+     R"(\bторговый\s+бот\b|\b(?:вступайте|заходите|переходи\w*)\b<10>\b(?:закрытый\s+)?(?:канал|чат|группу)\b|\bменеджер\s+перезвонит\b|\bинвестируй\w*\s+в\s+(?:газпром|нефть|акции)\b|)"
+     R"((?:老[师師][带帶]|[内內]幕|[飙飆]股|跟[着著]老[师師]|股票交流群|LINE群)|)"
+     R"((?:投資グループ|自動売買|銘柄を教え|投資家の先生|LINEグループ)|)"
+     R"((?:리딩 ?방|급등주|자동 ?매매|종목 ?추천|오픈 ?채팅)[\s\S]{0,24}(?:수익|입장|추천|무료|들어오))"); }),
      true},
     {"crypto-pump", "Crypto fraud", "warn", 45,
      "hypes a coin or share so that others buy before the fall",
@@ -956,13 +1178,23 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:einen|ein|eine)\s+(?:brandneue[nsr]?|kostenlose[nsr]?|exklusive[nsr]?)\b<50>\b(?:zu\s+(?:gewinnen|erhalten)|gewinnen|erhalten|anzufordern|beanspruchen|gratis)\b|)"
      R"(\bvous\s+(?:avez|êtes)\s+(?:\w+\s+){0,3}(?:gagné|gagnante?|sélectionnée?|remporté|l['’]heureu(?:x|se)|tirée?\s+au\s+sort)\b<60>(?:\b(?:chèque|carte|iphone|bon\s+d['’]achat|samsung|€|euros?)\b|[\s\S]{0,200}(?:\b(?:clique[rz]|lien|https?|ici|réclame[rz]|récupére[rz]|frais|whats\s?app|coordonnées|bancaires?|expire\w*)\b))|)"
      R"(\b(?:félicitations?|bravo)\b[\s\S]{0,80}\b(?:gagné\w*|sélectionné\w*|gagnant\w*|remporté\w*|récompense\w*)\b[\s\S]{0,200}(?:\b(?:clique[rz]|lien|https?|ici|réclame[rz]|récupére[rz]|frais|whats\s?app|coordonnées|bancaires?|expire\w*)\b)|)"
-     R"(\b(?:ha|has|usted\s+ha|voc[êe]|foi|fue)\s+(?:sido\s+)?(?:\w+\s+)?(?:ganado|ganador|seleccionad[oa]|premiad[oa]|contemplad[oa]|sortead[oa]|selecionad[oa]|ganhou|vencedor[a]?)\b<60>(?:!|\b(?:premio|pr[êe]mio|para|sorteo|sorteio|regalo|brinde|gratis|um|uma|un|una|b[ôo]nus|cart[ãa]o|tarjeta|iphone)\b)|)"
+     R"(\b(?:ha|has|usted\s+ha|voc[êe]|foi|fue)\s+(?:sido\s+)?(?:\w+\s+)?(?:ganado|ganador|seleccionad[oa]|premiad[oa]|contemplad[oa]|sortead[oa]|selecionad[oa]|ganhou|vencedor[a]?)\b<60>(?:\b(?:b[ôo]nus|cart[ãa]o|tarjeta|iphone)\b|(?:!|\b(?:premio|pr[êe]mio|para|sorteo|sorteio|regalo|brinde|gratis|um|uma|un|una)\b)[\s\S]{0,200}(?:\b(?:clic|clique|haga|haz|pulse|enlace|link|https?|aqu[íi]|reclam\w+|resgat\w+|retir\w+|costos?|gastos?|taxas?|frete|whats\s?app|dados|datos|expira\w*|liga\w*|llam\w+)\b))|)"
      R"(\b(?:felicidades|felicitaciones|enhorabuena|parab[ée]ns)\b<80>\b(?:ganad\w+|ganhou|seleccionad\w+|premiad\w+|contemplad\w+|selecionad\w+|vencedor\w*|recompensa)\b[\s\S]{0,200}(?:\b(?:clic|clique|haga|haz|pulse|enlace|link|https?|aqu[íi]|reclam\w+|resgat\w+|retir\w+|costos?|gastos?|taxas?|frete|whats\s?app|dados|datos|expira\w*|liga\w*|llam\w+)\b)|)"
      R"(\b(?:u\s+hebt|u\s+heeft|u\s+bent|je\s+hebt|je\s+bent)\s+(?:[\w-]+\s+){0,4}(?:gewonnen|geselecteerd|uitgekozen|winnaar|de\s+gelukkige)\b[\s\S]{0,200}(?:\b(?:klik\w*|link|https?|hier|claim\w*|opeisen|ophalen|verzendkosten|kosten|whats\s?app|gegevens|bevestig\w*)\b)|)"
      R"(\bgefeliciteerd\b[\s\S]{0,80}\b(?:gewonnen|geselecteerd|winnaar|gekozen|kans)\b[\s\S]{0,200}(?:\b(?:klik\w*|link|https?|hier|claim\w*|opeisen|ophalen|verzendkosten|kosten|whats\s?app|gegevens|bevestig\w*)\b)|)"
      R"((?:恭喜|您已|你已|您的)<25>(?:中[奖獎]|抽中|[获獲]得?(?:大|一等|二等|三等)?[奖獎])[\s\S]{0,80}(?:点击|點擊|http|领取|領取|兑[奖換换]|兌[獎換]|客服|手[续續][费費]|税|稅|加微信|加LINE|[电電][话話])|)"
      R"((?:おめでとう|ご当選|当選)[^。]{0,40}(?:賞金|当選|プレゼント|獲得|選ばれ)[\s\S]{0,100}(?:http|クリック|タップ|受け取|手数料|振込|LINE|こちら|登録)|)"
-     R"((?:축하|당첨)[^.!?]{0,30}(?:당첨|경품|상금|선정되)[\s\S]{0,100}(?:http|클릭|링크|수수료|제세공과금|세금|입금|카톡|연락|수령))"); }),
+     R"((?:축하|당첨)[^.!?]{0,30}(?:당첨|경품|상금|선정되)[\s\S]{0,100}(?:http|클릭|링크|수수료|제세공과금|세금|입금|카톡|연락|수령)|)"
+     R"(\b(?:telefonnummer|handynummer|e-?mail-?adresse|los)\b<20>\b(?:gezogen|ausgelost|gewonnen|ausgewählt)\b[\s\S]{0,100}\b(?:euro|lotterie|gewinn|million\w*|€)|\b(?:gewinner|gewonnen|gewinn)\b[\s\S]{0,100}\b(?:abholen|abzuholen|versand|klicken|senden\s+sie\s+uns|kontonummer|anspruch)\b|)"
+     R"(\b(?:telefoonnummer|e-?mailadres|nummer|lot)\b<15>\bheeft\b<30>\bgewonnen\b|\b(?:bent|ben)\s+(?:u\s+|je\s+)?(?:geselecteerd|uitgekozen|gekozen)\b<60>\b(?:iphone|prijs|cadeau\w*|tegoed|waardebon)\b|)"
+     R"(\b(?:adresse|numéro|e-?mail|compte)\b<20>\b(?:a\s+(?:été\s+)?(?:gagné|tirée?|sélectionnée?|remporté))\b<60>(?:<amount>|\b(?:euros?|loterie|lot|prix|tirage))\b|\bvous\s+avez\s+été\s+(?:sélectionnée?|choisie?|tirée?)\b<80>\b(?:recevoir|gagner|iphone|cadeau|bon\s+d['’]achat|chèque)\b[\s\S]{0,120}\b(?:clique[rz]|réclame[rz]|frais|lien|ici)\b|)"
+     R"(\b(?:congratulazioni|complimenti)\b[\s\S]{0,80}\b(?:selezionat[oa]|vinto|vincitore|vincitrice|estratt[oa])\b[\s\S]{0,120}\b(?:clicca|link|qui|ritirare|riscuoter\w+|spese|dati|premio\s+al)\b|\b(?:hai|ha|è\s+stat[oa]|sei\s+stat[oa])\b<15>\b(?:vinto|estratt[oa]|selezionat[oa])\b<50>(?:<amount>|\b(?:iphone|euro|lotteria|buono|gift\s+card|smartphone))|)"
+     R"(\b(?:n[úu]mero|correo|usted|su\s+n[úu]mero)\b<25>\b(?:result[óo]|ganador\w*|premiad\w+|seleccionad\w+|ganado)\b<60>(?:<amount>|\b(?:d[óo]lares|euros|pesos|loter[íi]a|iphone|sorteo))\b|\b(?:seleccionad[oa]|ganador[a]?|elegid[oa])\b<40>\b(?:ganar|recibir|premio|iphone|tarjeta)\b[\s\S]{0,100}\b(?:clic|aqu[íi]|reclam\w+|enlace|datos|cobro)\b|)"
+     R"(\b(?:n[úu]mero|cpf|e-?mail)\b<20>\b(?:sortead[oa]|premiad[oa]|contemplad[oa]|ganhou|selecionad[oa])\b|\b(?:selecionad[oa]|sortead[oa]|ganhou|contemplad[oa])\b<60>\b(?:iphone|pr[êe]mio|reais|<amount>)[\s\S]{0,100}\b(?:clique|resgate|taxa|link|envie|dados)\b|)"
+     R"(\b(?:вы|ваш\s+номер|ваш\s+билет)\b<20>\b(?:выиграли|стал\s+победителем|победитель|выиграл)\b[\s\S]{0,80}\b(?:ссылк\w+|забрать|получ\w+|комисси\w+|оплат\w+|доставк\w+|приз)\b(?!<20>\bбиблиотек\w+\b)|)"
+     R"((?:手[机機]|微信|QQ)?[号號][码碼]?[\s\S]{0,6}被[\s\S]{0,20}(?:抽[选選取]|[选選][为為中])[\s\S]{0,12}(?:幸[运運]|[观觀][众眾]|[场場]外)|(?:抽中|中[奖獎]|[获獲](?:得|奖|獎)|一等[奖獎])[\s\S]{0,40}(?:[领領]取|[点點][击擊]|手[续續][费費]|登[录入錄]|[链連][接結]|客服)(?![\s\S]{0,10}(?:[图圖][书書]|[学學]校))|)"
+     R"(当選[\s\S]{0,30}(?:リンク|こちら|送料|手数料|お振込|受け取|譲渡)(?![\s\S]{0,6}(?:図書|学校))|)"
+     R"(당첨[\s\S]{0,30}(?:링크|클릭|배송비|제세공과금|입금|수령|신청|결제))"); }),
      true},
     {"afee-lottery2", "Advance fee", "warn", 50,
      "holds out a prize, a reward or a stranger's donation to be claimed",
@@ -998,7 +1230,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:pontos|puntos|milhas|b[ôo]nus)\b<60>\b(?:resgat\w+|expira\w*|dispon[íi]ve\w+|canje\w+|troca\w*|trocar)\b|)"
      R"(\b(?:resgat\w+|canje\w+)\b<25>\b(?:pontos|puntos|milhas|b[ôo]nus|pr[êe]mio|premio|recompensa)\b|)"
      R"(\b(?:spende|spenden|schenkung)\b<50>\b(?:millionen|mio|million)\b|)"
-     R"(\b(?:don|donation|legs)\b<40>\b(?:millions?|\d[\d. ]{5,}\s?(?:€|euros?)))"); }),
+     R"(\b(?:don|donation|legs)\b<40>\b(?:millions?|\d[\d. ]{5,}\s?(?:€|euros?))|)"
+     R"(\b(?:punkte|bonuspunkte|prämienpunkte|payback|meilen|guthaben)\b<40>\b(?:verfallen|verfällt|laufen\s+(?:heute\s+|morgen\s+)?ab|ablaufen|erlöschen)\b|\b(?:punkte|guthaben)\b[\s\S]{0,60}\b(?:lösen|einlösen|tauschen)\b<40>\b(?:prämie|gutschein|geschenk|gewinn)\b|)"
+     R"(\bpunten\b<15>\b(?:vervallen|verlopen)\b|\b(?:wissel|verzilver)\b<20>\b(?:punten|in)\b<30>\b(?:cadeau|prijs|korting|geschenk)\b|)"
+     R"(\bpoints?\b<30>\b(?:fidélité\s+)?(?:expire\w*|arrivent\s+à\s+expiration|perdus)\b|\b(?:échange[rz]|convertisse[rz])\b<30>\b(?:points?|cadeau)\b|\b(?:droits?|solde|cagnotte)\b<30>\bexpire\w*\b<60>\b(?:récupére[rz]|réclame[rz]|<amount>)|)"
+     R"(\bpunti\b<15>\b(?:scadono|scadranno|in\s+scadenza)\b|\briscatt\w+\b<25>\b(?:punti|premio|regalo|bonus)\b|)"
+     R"(\bpuntos\b<25>\b(?:vencen|caducan|expiran|vencer[áa]n)\b|\b(?:canj[ée]\w+|redim\w+)\b<30>\b(?:premio|regalo|puntos|recompensa)\b|)"
+     R"(\b(?:pontos|milhas)\b<20>\b(?:expiram|vencem|expira|ser[ãa]o)\b|\bresgate\b<20>\b(?:agora|pontos|pr[êe]mio|hoje|j[áa])\b|)"
+     R"(\b(?:бонус\w*|балл\w*|мил\w+)\b<15>\b(?:сгорают|сгорят|истекают|аннулиру\w+)\b|\bобменяйте\b<25>\b(?:подарок|приз|бонус\w*|балл\w*)\b|)"
+     R"([积積]分[\s\S]{0,10}(?:[兑兌][换換]|抵扣)[\s\S]{0,8}(?:[现現]金|\d+元)|(?:[积積]分|[点點][数數]|[红紅]利)[\s\S]{0,16}(?:[过過]期|到期|清零|失效|[兑兌][换換])[\s\S]{0,16}(?:[点點][击擊]|[链連]|http|www|wap|清零|[现現]金)|)"
+     R"(ポイント[\s\S]{0,12}(?:失効|期限切れ|消滅)[\s\S]{0,20}(?:下記|交換|こちら|リンク)?|)"
+     R"((?:포인트|마일리지)[\s\S]{0,14}(?:소멸|만료)[\s\S]{0,16}(?:링크|교환|상품|사용|http)?|환급금[\s\S]{0,20}(?:조회|신청|소멸)[\s\S]{0,10}(?:링크|않으면|하세요|오늘))"); }),
      true},
     {"afee-inheritance", "Advance fee", "warn", 70,
      "offers a share of an inheritance or of a dead stranger's money",
@@ -1060,7 +1302,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:verzendkosten|douanekosten|invoerkosten|bezorgkosten|inklaringskosten)\b<50>\b(?:betaal\w*|betalen|voldoen|betaald)\b|)"
      R"((?:支付|缴纳|繳納|缴|繳)<10>(?:手续费|手續費|关税|關稅|清关费|清關費|运费|運費|保证金|保證金|解冻费)|)"
      R"((?:手数料|関税|保証金)<12>(?:支払|振込|お支払い|送金)|)"
-     R"((?:수수료|관세|통관비|보증금)<10>(?:납부|결제|입금|송금|지불))"); }),
+     R"((?:수수료|관세|통관비|보증금)<10>(?:납부|결제|입금|송금|지불)|)"
+     R"(\b(?:zollgebühr\w*|zoll|versandkosten|porto|liefergebühr\w*|gebühr\w*|einfuhrabgaben|bearbeitungsgebühr\w*)\b<30>\b(?:von|in\s+höhe\s+von|über|offen|noch\s+offen|ausstehend)\b<40>\b(?:bezahl\w*|zahl\w*|begleich\w*|entricht\w*|ausliefern|zustell\w+|link)\b|\b(?:noch|es\s+sind|sind\s+noch)\b<15><amount><20>\b(?:versandkosten|zoll|gebühr\w*|porto)\b|\b(?:kaution|erste\s+miete|miete|anzahlung)\b<60>\b(?:vorab|im\s+voraus|vorher|überweis\w+)\b[\s\S]{0,80}\b(?:schlüssel|mietvertrag|vertrag)\b|\b(?:nach|sobald)\b<20>\b(?:zahlung|eingang|überweisung|zahlen)\b<40>\b(?:kaution|miete)\b<60>\b(?:schlüssel|vertrag)\b|)"
+     R"(\b(?:invoerkosten|verzendkosten|douanekosten|inklaringskosten|bezorgkosten)\b|\bbetaal\b<10><amount><20>\b(?:invoerkosten|verzendkosten|kosten|bezorg\w+)|\b(?:borg|maand\s+huur|aanbetaling|huur)\b[\s\S]{0,80}\b(?:sleutels?|bezichtiging|buitenland)\b<40>\b(?:post|airbnb|stuur|komen|koerier|opsturen)\b|\bmaak\b<15>\bborg\b<10>\bover\b|)"
+     R"(\b(?:frais|droits|taxes?)\b<30>(?:<amount>|\beuros?\b)<30>\b(?:restent|à\s+régler|à\s+payer|impayés?|dus|régl\w+|pay\w+)\b|\b(?:caution|premier\s+mois|acompte|loyer|dépôt\s+de\s+garantie)\b<80>\b(?:mandat|avance|avant|verse\w*|virement|payer)\b[\s\S]{0,100}\b(?:clés|clefs|poste|courrier|visite)\b|\b(?:verse[rz]|payer|payez|envoye[rz]|régler)\b<40>\b(?:caution|premier\s+mois|acompte|loyer)\b[\s\S]{0,100}\b(?:clés|clefs|visite)\b|)"
+     R"(\b(?:spese|oneri|dazi|tassa|costi|diritti)\b<25>\b(?:doganali|consegna|spedizione|sdoganamento)\b|\b(?:paga|paghi|saldare|saldi|versa|versi)\b<30>\b(?:spese|oneri|dazi|consegna)\b|\bpaga\b<8><amount><15>\b(?:spese|consegna)|\b(?:caparra|mensilità\s+anticipata|mensilità|acconto|deposito)\b[\s\S]{0,80}\b(?:chiavi|estero|airbnb|prima\s+di\s+vedere)\b<40>\b(?:corriere|consegna|posta|mando|spedisco|airbnb|invio)\b|\b(?:vers(?!ion|us|es?\b|atil)\w+|pag(?!e\b|es\b|ed\b|er\b|ing)\w+|bonifico)\b<30>\b(?:caparra|mensilità|acconto)\b[\s\S]{0,80}\bchiavi\b|)"
+     R"(\b(?:tasas?|gastos|aranceles|costos?|cargos?|impuestos)\b<25>\b(?:de\s+)?(?:env[íi]o|aduana\w*|entrega|importaci[óo]n)?<30>\b(?:recibir|entrega|pago|enlace|pague|pendientes?|liberar)\b|\b(?:pag[au]e?|abone)\b<10><amount><20>\b(?:gastos|tasas?|env[íi]o|aduana|recibir)\b|\bfaltan\b<12><amount>|\b(?:fianza|mes\s+por\s+adelantado|dep[óo]sito|anticipo|apartar|reservar)\b<80>\b(?:llaves|antes\s+de\s+ver|adelantad\w+|mensajer[íi]a)\b|\b(?:transferencia|pague|pagar|abone|deposite)\b<30>\b(?:fianza|anticipo|dep[óo]sito|un\s+mes)\b[\s\S]{0,100}\bllaves\b|)"
+     R"(\b(?:taxa|despesas?|imposto|tarifa)\b<30>\b(?:libera\w+|entrega|receber|alf[âa]ndega|importa[çc][ãa]o|pagamento)\b|\bpague\b<10><amount><20>\b(?:despesas|taxa|receber|entrega)\b|\bpague\s+(?:a\s+)?taxa\b|\b(?:cau[çc][ãa]o|m[êe]s\s+adiantado|dep[óo]sito|sinal)\b[\s\S]{0,80}\b(?:chaves|antes\s+de\s+ver|visita|correio)\b|\b(?:visita|reservar)\b<60>\b(?:adiantad\w+|sinal|dep[óo]sito|cau[çc][ãa]o)\b|)"
+     R"(\b(?:оплатите|внесите|оплатить|оплатив)\b<25>\b(?:пошлин\w+|комисси\w+|доставк\w+|повторн\w+\s+доставк\w+|сбор|страховк\w+|таможенн\w+)\b|\b(?:переведите|внесите|оплатите)\b<15>\b(?:залог|предоплат\w+|аванс)\b[\s\S]{0,80}\b(?:ключи|карту|просмотр\w*|курьер\w*|бронь)\b|)"
+     R"((?:派送|配送|投[递遞]|[关關]税|[关關]稅|手[续續]|清[关關]|解[冻凍]|保[证證])[费費金]?[\s\S]{0,16}(?:支付|付款|[缴繳][纳納]?|[点點][击擊]|[链連])|(?:支付|[缴繳][纳納]?|需[缴繳])[\s\S]{0,8}\d[\d.]*元?[\s\S]{0,6}(?:派送|配送|[关關][税稅]|手[续續]|[费費])|(?:押金|[订訂定]金|[预預]付|[报報]名[费費])[\s\S]{0,30}(?:[钥鑰]匙|看房|保留|[锁鎖]定|入[职職])|(?:先付|先[汇匯转轉]|先交)[\s\S]{0,12}(?:押金|[订訂定]金|[预預]付)|)"
+     R"((?:再配達料|送料|関税|手数料|保証金|敷金|予約金|税金)[\s\S]{0,12}(?:を)?(?:お支払い|振り?込|入金|支払う|だけ)[\s\S]{0,12}(?:ください|必要|だけ|いただ|で)?|(?:先に|内見の前に)[\s\S]{0,14}(?:振り?込|入金|送金|お支払い)|)"
+     R"(먼저 ?(?:입금|상환)[\s\S]{0,14}(?:한도|승인|대출|신용)|(?:배송비|관세|제세공과금|예약금|보증금|선납금|수수료|보험료)[\s\S]{0,14}(?:납부|결제|입금|송금|내시면|먼저)|(?:먼저|선)[\s\S]{0,4}(?:입금|송금|납부|상환)[\s\S]{0,16}(?:열쇠|택배|승인|지급|대출))"); }),
      true},
     {"afee-million", "Advance fee", "warn", 30,
      "mentions millions that a stranger wants to give or move",
@@ -1119,7 +1371,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:belastingdienst|mijnoverheid|digid|cjib)\b<100>\b(?:teruggave|terugbetaling|openstaande?|schuld|boete|aanmaning|bevestig\w*|beslag\w*|verlop\w+|dwangbevel|deurwaarder)\b|)"
      R"((?:税务局|稅務局|国税|國稅|税务机关)<20>(?:退税|退稅|欠税|欠稅|补缴|領取|领取)|)"
      R"((?:国税庁|税務署|e-Tax)<30>(?:未払|未納|還付|差押|滞納|お支払い)|)"
-     R"((?:국세청|세무서)<25>(?:환급|미납|체납|압류))"); }),
+     R"((?:국세청|세무서)<25>(?:환급|미납|체납|압류)|)"
+     R"(\b(?:finanzamt|elster|steuerbehörde|zoll|bundeskasse|beitragsservice)\b[\s\S]{0,100}\b(?:anspruch\s+auf|erstattung|rückerstattung|guthaben)\b[\s\S]{0,100}\b(?:formular|link|bestätig\w+|bankverbindung|kartendaten|klick\w+)\b|\b(?:maut\w*|bußgeld\w*|strafzettel|parkgebühr\w*)\b<50>\b(?:offen|unbezahlt\w*|ausstehend\w*|nicht\s+bezahlt|begleichen)\b|)"
+     R"(\b(?:belastingdienst|toeslagen)\b[\s\S]{0,100}\b(?:teruggave|recht\s+op|schuld|aanmaning)\b[\s\S]{0,100}\b(?:formulier|link|betaal|deurwaarder|beslag|gegevens)\b|\b(?:boete|cjib|tol|parkeerboete|verkeersboete)\b<40>\b(?:openstaande?|onbetaalde?|verhoging|niet\s+betaald)\b|\bopenstaande\s+(?:boete|tol)\b|)"
+     R"(\b(?:impôts?|dgfip|fiscale?|trésor\s+public|finances\s+publiques)\b[\s\S]{0,120}\b(?:remboursement|trop-perçu|restitu\w+|crédit\s+d['’]impôt)\b[\s\S]{0,100}\b(?:formulaire|carte|lien|cliqu\w+|indique[rz]|iban|remplisse[rz])\b|\b(?:amende|contravention|péage|antai|stationnement|trajet)\b<60>\b(?:impayée?|non\s+réglée?|pas\s+(?:été\s+)?(?:réglée?|payée?)|en\s+attente|majoration)\b|)"
+     R"(\b(?:agenzia\s+delle\s+entrate|inps|fisco|agenzia\s+entrate|equitalia)\b[\s\S]{0,100}\b(?:rimborso|bonus|credito|debito|cartella)\b[\s\S]{0,120}\b(?:modulo|carta|link|dati|compil\w+|iban|clicc\w+)\b|\b(?:multa|pedaggio|sanzione|pagopa|verbale)\b<40>\b(?:in\s+sospeso|non\s+pagat[oa]|maggiorazion\w+|da\s+saldare|insolut[oa])\b|)"
+     R"(\b(?:agencia\s+tributaria|hacienda|sat|dian|sunat|afip|sii)\b[\s\S]{0,100}\b(?:reembolso|devoluci[óo]n|saldo\s+a\s+favor|deuda)\b[\s\S]{0,100}\b(?:formulario|tarjeta|enlace|cuenta|datos|complete|clic)\b|\b(?:multa|dgt|peaje|tag)\b<40>\b(?:pendiente|impagad\w+|sin\s+pagar|vencid\w+|recargo|recargos)\b|)"
+     R"(\b(?:receita\s+federal|autoridade\s+tribut[áa]ria|finan[çc]as|inss)\b[\s\S]{0,100}\b(?:restitui[çc][ãa]o|reembolso|saldo)\b[\s\S]{0,100}\b(?:formul[áa]rio|cart[ãa]o|link|dados\s+banc[áa]rios|informe|preench\w+)\b|\b(?:multas?|detran|ped[áa]gio|portagem|portagens|free\s+flow|passagem)\b<40>\b(?:vencid\w+|n[ãa]o\s+pag(?!e\b|es\b|ed\b|er\b|ing)\w+|em\s+aberto|pendentes?|em\s+d[íi]vida)\b|)"
+     R"(\b(?:фнс|налогов\w+|соцфонд|пфр|госуслуги)\b[\s\S]{0,60}\b(?:положен\w?|вычет|выплат\w+|компенсаци\w+|задолженност\w+)\b[\s\S]{0,80}\b(?:форм\w+|данные\s+карты|ссылк\w+|иначе|арест\w+|в\s+течение\s+(?:24|48|72|суток))\b|\b(?:гибдд|штраф|парковк\w+|проезд)\b<40>\b(?:неоплаченн\w+|не\s+оплачен\w?)\b|\bнеоплаченн\w+\s+(?:штраф|проезд)\b|)"
+     R"((?:税[务務]|稅務|社保|医保|醫保|人社|财政|勞保|健保)[\s\S]{0,20}(?:退[税稅]|[补補][贴貼助]|[领領]取|津[贴貼])[\s\S]{0,30}(?:[点點][击擊]|[链連]|[银銀]行卡|二[维維][码碼]|填|逾期)|(?:[补補][贴貼助])[\s\S]{0,12}[领領]取[\s\S]{0,24}(?:二[维維][码碼]|[链連]|[银銀]行卡|作[废廢])|(?:[违違]章|交管|通行[费費]|罚款|罰款|[欠缴繳][费費]|ETC)[\s\S]{0,24}(?:[点點][击擊]|[链連][接結]|[处處]罚|滞[纳納]|滯納|[罚罰][锾鍰])|)"
+     R"((?:国税庁|税務署|年金事務所|市役所|医療費|保険料)[\s\S]{0,20}(?:未払|滞納|差し押さえ|還付)[\s\S]{0,40}(?:ATM|電話|執行|期限|お支払い|下記|本日中)|(?:還付金)[\s\S]{0,14}(?:ATM|本日|電話)|(?:通行料金|ETC|反則金|違反金)[\s\S]{0,14}(?:未払|未納|滞納)|(?:未払い|未納)[\s\S]{0,6}(?:通行料金|反則金)|)"
+     R"((?:국세청|세무서|건강 ?보험 ?공단|국민연금|정부)[\s\S]{0,16}(?:환급|지원금|미수령|보조금)[\s\S]{0,30}(?:링크|신청|조회|입력|소멸)|(?:과태료|통행료|범칙금|하이패스|교통법규)[\s\S]{0,16}(?:미납|위반))"); }),
      true},
     {"imp-police", "Impersonation", "warn", 50,
      "poses as police, a court or a prosecutor threatening consequences",
@@ -1135,7 +1397,17 @@ constexpr auto table = std::to_array<Rule>({
      R"((?:公安|警察|检察院|檢察署|法院|刑警|网警)<30>(?:涉嫌|洗钱|洗錢|逮捕|通缉|通緝|立案|案件|拘捕|配合调查|配合調查|冻结)|)"
      R"((?:涉嫌)<12>(?:洗钱|洗錢|诈骗案|詐騙案|犯罪)|)"
      R"((?:警察|検察|警視庁|裁判所|検事|県警)<30>(?:逮捕状|容疑|資金洗浄|マネーロンダリング|差し押さえ|出頭|捜査対象|口座が(?:犯罪|悪用))|)"
-     R"((?:경찰|검찰|법원|금융감독원|금감원|검사|수사관)<30>(?:연루|명의\s?도용|체포|출석|수사|대포통장|구속|자금\s?세탁|범죄))"); }),
+     R"((?:경찰|검찰|법원|금융감독원|금감원|검사|수사관)<30>(?:연루|명의\s?도용|체포|출석|수사|대포통장|구속|자금\s?세탁|범죄)|)"
+     R"(\b(?:hier\s+spricht|mein\s+name\s+ist|ich\s+bin|hier\s+ist)\b<30>\b(?:kommissar\w*|kriminal\w+|hauptkommissar\w*|polizei|staatsanwalt\w*|lka|bka|oberkommissar\w*)\b|\b(?:einbrecher|täter|bande|eingebrochen)\b[\s\S]{0,100}\b(?:ihr(?:e[nm]?)?\s+(?:name|adresse|wohnung|haus|geld|schmuck)|zettel)\b|\bgegen\s+(?:sie|dich)\b<40>\b(?:ermittlung\w*|ermittlungsverfahren|strafverfahren|verfahren|haftbefehl|anzeige)\b|)"
+     R"(\b(?:politie|justitie|openbaar\s+ministerie|europol|interpol|rechtbank)\b[\s\S]{0,100}\b(?:verdachte|witwassen|arrestatiebevel|inbrekers|sieraden|onderzoek\s+naar|aanhouding)\b|)"
+     R"(\b(?:gendarmerie|commissariat|police|brigade|europol|interpol|procureur)\b[\s\S]{0,120}\b(?:poursuites?|mandat|pédopornograph\w+|malfaiteurs?|cambrioleurs?|bijoux|convocation|blanchiment|infractions?)\b|\b(?:vous\s+faites|faites)\s+l['’]objet\s+(?:de\s+poursuites|d['’]une\s+(?:enquête|plainte|procédure))\b|)"
+     R"(\b(?:polizia|carabinieri|maresciallo|guardia\s+di\s+finanza|procura|interpol|europol|tribunale)\b[\s\S]{0,100}\b(?:indagat[oa]|pedopornografia|mandato|arresto|cauzione|riciclaggio|incidente|gioielli|contanti|denuncia)\b|)"
+     R"(\b(?:polic[íi]a|guardia\s+civil|fiscal[íi]a|interpol|ministerio\s+p[úu]blico|juzgado|carabineros)\b[\s\S]{0,120}\b(?:orden\s+de|arresto|detenci[óo]n|blanqueo|lavado|delincuentes|cuenta\s+segura|investigad\w+|denuncia)\b|)"
+     R"(\b(?:pol[íi]cia\s+(?:federal|civil|judici[áa]ria)|pj|gnr|minist[ée]rio\s+p[úu]blico|tribunal|justi[çc]a)\b[\s\S]{0,100}\b(?:mandado|pris[ãa]o|lavagem|r[ée]u|intima[çc][ãa]o|investigad\w+)\b|\bintima[çc][ãa]o\b<40>\b(?:r[ée]u|processo|audi[êe]ncia|documento|bloqueio)\b|\bvoc[êe]\s+[ée]\s+r[ée]u\b|)"
+     R"(\b(?:майор|капитан|следователь|лейтенант|полковник|сотрудник)\b<15>\b(?:фсб|мвд|полиции|прокуратуры|следственного\s+комитета|росфинмониторинга|скр?)\b|\b(?:против\s+вас|на\s+вас|в\s+отношении\s+вас)\b<20>\b(?:возбужден\w?|возбуждено|заведено|уголовн\w+)\b|\bфинансир\w+\b<20>\b(?:преступник\w+|террорист\w+|всу)\b|\bкуратор\s+из\b|)"
+     R"((?:法院|法庭)[\s\S]{0,6}[传傳]票[\s\S]{0,40}(?:[拨撥]打|致[电電]|逾期|[领領]取|[强強]制)|(?:检察官|檢察官|警官|公安局|刑警|派出所|[监監]管局|[银銀]保[监監])[\s\S]{0,30}(?:涉[嫌及]|[诈詐][骗騙]案|洗[钱錢]|[冻凍][结結]|保全|[监監]管[账賬帐帳]|逮捕|拘)|(?:你|您)的?[\s\S]{0,8}(?:身[份分][证證]|[账賬帐帳][户戶]|[银銀]行卡)[\s\S]{0,6}涉[嫌及]|)"
+     R"((?:警視庁|検察庁|警察|県警|検事|刑事)[\s\S]{0,8}(?:の|です|と申)[\s\S]{0,40}(?:名義の口座|逮捕状|マネーロンダリング|捜査に協力|資産を調査|預金|送金)|資産を調査|)"
+     R"((?:명의 ?도용|대포 ?통장|자금 ?세탁|불법 ?(?:자금|계좌))[\s\S]{0,30}(?:사건|연루|접수|개설|발견|압수|조사|수사)|통장[\s\S]{0,16}(?:압수|발견)[\s\S]{0,20}(?:개설|본인|직접)|(?:검찰|지검|검사|수사관|경찰청|경찰|금융감독원|금감원|사이버 ?수사)[\s\S]{0,50}(?:대포 ?통장|범죄|연루|명의|자금 ?세탁|영장|구속|과태료|벌점|협조))"); }),
      true},
     {"imp-social-security", "Impersonation", "warn", 45,
      "says a social security or national insurance number is suspended or misused",
@@ -1161,7 +1433,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:it|system|mail|e-?mail|server|webmail|network|exchange|mailbox)\s+(?:help\s?desk|administrators?|admin|service\s+desk|support(?:\s+team)?)\b<100>\b(?:password|mailbox|verify|validate|upgrade|migrat\w+|quota|click|link|credential\w*|update\s+your|log\s?in|deactivat\w*|expire\w*)\b|)"
      R"(\b(?:dear|hello|hi|attention)\b<20>\b(?:valued\s+|esteemed\s+)?(?:microsoft|apple|amazon|paypal|netflix|google|e-?mail|mail|webmail|mailbox|wallet|coinbase|metamask|ledger|binance|trust\s?wallet|tether|blockchain|outlook|office\s?365|icloud|account|domain|facebook|instagram|opensea|uniswap|xrp|crypto|defi)\b<12>\b(?:user|customer|client|member|owner|holder|account\s+holder|subscriber|supporter|community|administrator)\b|)"
      R"(\b(?:apple|microsoft|amazon|paypal|netflix|google|metamask|ledger)[- ](?:support|kundendienst|kundenservice|sicherheitsteam|team|support-team)\b<80>\b(?:konto|gesperrt|bestätig\w+|sicherheit\w*|verdächtig\w*)\b|)"
-     R"(\b(?:support\s+technique|service\s+client|soporte\s+t[ée]cnico|suporte\s+t[ée]cnico|servicio\s+al\s+cliente|central\s+de\s+atendimento)\b<60>\b(?:microsoft|apple|amazon|paypal|netflix|compte|cuenta|conta)\b)"); }),
+     R"(\b(?:support\s+technique|service\s+client|soporte\s+t[ée]cnico|suporte\s+t[ée]cnico|servicio\s+al\s+cliente|central\s+de\s+atendimento)\b<60>\b(?:microsoft|apple|amazon|paypal|netflix|compte|cuenta|conta)\b|)"
+     R"(\b(?:windows|microsoft|apple|google|amazon|telekom|norton|mcafee)[- ](?:support|kundendienst|technik\w*|kundenservice|sicherheit\w*)\b|\b(?:technische[rn]?\s+(?:dienst|support|kundendienst)|support|mitarbeiter\w*|techniker\w*)\b<12>\b(?:von|bei|der)\s+(?:microsoft|windows|apple|google|amazon|paypal)\b|)"
+     R"(\b(?:helpdesk|klantenservice|ondersteuning|support)\s+(?:van\s+)?(?:microsoft|windows|apple|google|amazon|kpn|ziggo)\b|\b(?:windows|microsoft)[- ](?:waarschuwing|helpdesk|support)\b|)"
+     R"(\b(?:support|assistance|service)(?:\s+technique)?\s+(?:de\s+)?(?:microsoft|windows|apple|google|orange|amazon)\b|\balerte\s+(?:windows|microsoft|sécurité)\b|)"
+     R"(\b(?:supporto|assistenza)(?:\s+tecnic[oa])?\s+(?:di\s+|della\s+)?(?:microsoft|windows|apple|google|amazon|tim)\b|\bavviso\s+(?:di\s+)?(?:windows|microsoft)\b|)"
+     R"(\b(?:soporte|servicio|asistencia)(?:\s+t[ée]cnic[oa])?\s+(?:de\s+)?(?:microsoft|windows|apple|google|amazon)\b|\balerta\s+de\s+(?:windows|microsoft)\b|)"
+     R"(\b(?:suporte|assist[êe]ncia)(?:\s+t[ée]cnic[oa])?\s+(?:da\s+|do\s+)?(?:microsoft|windows|apple|google|amazon)\b|)"
+     R"(\b(?:техподдержк\w+|техническ\w+\s+поддержк\w+|служба\s+поддержки)\s+(?:microsoft|windows|apple|google|телеграм\w*|госуслуг)\b|)"
+     R"(航班[\s\S]{0,20}(?:取消|故障)[\s\S]{0,30}(?:改[签簽]|退票|客服)[\s\S]{0,30}(?:[补補][偿償]|工本[费費]|[赔賠])|我是?(?:微[软軟]|[苹蘋]果|谷歌|京[东東]|淘[宝寶]|支付[宝寶]|[银銀]行|圆通|[顺順][丰豐]|[电電]商)[\s\S]{0,4}(?:客服|技[术術]支持|[专專][员員])|)"
+     R"((?:マイクロソフト|Microsoft|ウィンドウズ|アップル|アマゾン|Amazon)の?(?:サポート|カスタマー|セキュリティ)|)"
+     R"((?:마이크로소프트|윈도우|애플|구글|네이버|카카오)[\s\S]{0,4}(?:기술 ?지원|고객 ?센터|보안|상담))"); }),
      true},
     {"imp-bank-security", "Impersonation", "warn", 35,
      "poses as a bank's security department",
@@ -1175,7 +1457,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:ing|rabobank|abn\s+amro|sns|asn|knab|bunq|ics|regiobank)\b<unasked><100>\b(?:geblokkeerd|bevestig\w*|verifi\w+|beveilig\w*|verlop\w+|activeer\w*|activeren|bijwerken|identific\w+)\b|)"
      R"((?:银行|銀行)<12>(?:风控|風控|安全中心|反诈|客服)<25>(?:账户|帳戶|交易|转账|轉帳|异常|異常)|)"
      R"((?:銀行|カード会社|三井住友|楽天|三菱UFJ|みずほ|ゆうちょ|えきねっと|JCB|アメックス)<30>(?:不正利用|利用制限|本人確認|一時停止|セキュリティ強化)|)"
-     R"((?:은행|카드사)<15>(?:보안팀|사고\s?예방|이상\s?거래|부정\s?사용))"); }),
+     R"((?:은행|카드사)<15>(?:보안팀|사고\s?예방|이상\s?거래|부정\s?사용)|)"
+     R"(\b(?:sicherheitsabteilung|sicherheitsteam|betrugsabteilung|sperrabteilung|kundensicherheit|sicherheitsdienst)\b<30>\b(?:ihrer|der|deiner|von)\b<15>(?:bank|sparkasse|volksbank|\w*bank)\b|\b(?:zur|zum)\s+(?:stornierung|rückbuchung|stoppen|sperren)\b<50>\b(?:freigeben|freigabe|frei|tan|app|bestätig\w+)\b|\b(?:übergeben|überreichen|aushändigen|deponieren)\s+sie\b<60>\b(?:geld|bargeld|schmuck|wertsachen|ersparte\w*|gold)\b|\b(?:geld|bargeld|schmuck|wertsachen|gold|ersparte\w*)\b<60>\b(?:in\s+sicherheit|sicherheit)\b<40>\b(?:bringen|kolleg\w+|beamte\w*|abhol\w+|übergeben|konto)\b|)"
+     R"(\b(?:fraude-?afdeling|fraudehelpdesk|afdeling\s+(?:fraude|veiligheid)|beveiligingsafdeling|afdeling\s+fraudebestrijding)\b<30>\b(?:bank|uw|ing|rabo\w*|abn)\b|\b(?:veilig ?te ?stellen|veiligstellen|kluisrekening|veilige\s+rekening)\b|\b(?:leg|geef|overhandig)\b<25>\b(?:sieraden|geld|contant\w*|goud|bankpas)\b<40>\b(?:klaar|collega|agent|mee|af)\b|)"
+     R"(\b(?:service|département|cellule|équipe|conseiller)\b<10>\b(?:fraudes?|anti-?fraude|sécurité|opposition)\b<30>\b(?:banque|bancaire|carte|crédit|bnp|postale|lcl|société\s+générale|compte)\b|\b(?:valide[rz]|approuve[rz]|accepte[rz])\b<25>\b(?:opération|notification|demande|paiement)\b<60>\b(?:annuler|annulation|stopper|bloquer|frauduleu\w+)\b|\b(?:bijoux|argent|espèces|économies|objets\s+de\s+valeur)\b<80>\b(?:en\s+sécurité|mettre\s+à\s+l['’]abri|sécuriser|collègue|agent)\b<30>\b(?:pass\w+|récupér\w+|mettre|viendra)?|\b(?:vire[rz]|virement|transfére[rz]|mettre)\b<50>\b(?:compte\s+(?:sécurisé|de\s+sécurité|sécurité)|à\s+l['’]abri)\b|)"
+     R"(\b(?:ufficio|servizio|reparto|centro|operatore)\b<10>\b(?:antifrodi?|frodi|sicurezza)\b<30>\b(?:banca|carta|conto|sua|poste)\b|\b(?:mettere|metta|metti)\b<10>\bal\s+sicuro\b<40>\b(?:risparmi|soldi|denaro|conto)\b|\bconto\b<40>\b(?:sicuro|di\s+sicurezza|intestato)\b<30>\b(?:bonifico|trasfer\w+|abbiamo)?|\b(?:intesa\s+sanpaolo|unicredit|poste\s+italiane|bper|bnl|postepay|fineco|nexi|mps|banco\s+bpm)\b<100>\b(?:bloccat\w+|sospes\w+|verific\w+|conferm\w+|anomal\w+|disattivat\w+|sicurezza)\b|\b(?:prepar\w+|consegn\w+)\b<25>\b(?:contanti|gioielli|oro|soldi)\b|)"
+     R"(\b(?:departamento|equipo|unidad|central|servicio|área)\b<10>\b(?:de\s+)?(?:fraudes?|antifraude|seguridad|prevenci[óo]n)\b<30>\b(?:banco|bancari\w+|tarjeta|cuenta|su)\b|\b(?:apruebe|acepte|autorice|valide)\b<25>\b(?:notificaci[óo]n|operaci[óo]n|solicitud)\b<60>\b(?:aplicaci[óo]n|app|cancelar|anular|l[íi]nea)\b|\b(?:banco|bbva|santander|caixabank|bancomer|banorte|bancolombia)\b<10>\bseguridad\b<60>\b(?:cancelar|anular|no\s+autorizada|bloque\w+)\b|\b(?:pase|transfiera|mueva|pasar|transferir)\b<25>\b(?:dinero|ahorros|fondos)\b<30>\bcuenta\s+(?:segura|de\s+seguridad|protegida)\b|)"
+     R"(\b(?:central|departamento|setor|equipe|[áa]rea)\b<10>\b(?:de\s+)?(?:seguran[çc]a|fraudes?|antifraude|preven[çc][ãa]o)\b<30>\b(?:banco|cart[ãa]o|conta|seu)\b|\b(?:bradesco|ita[úu]|nubank|caixa|santander|banco)\b<12>\b(?:compra|pix|transa[çc][ãa]o)\b<60>\b(?:ligue|cancel\w+|reconhece)\b|)"
+     R"(\b(?:служба\s+безопасности|отдел\s+безопасности|сотрудник\s+безопасности|специалист)\b<20>\b(?:банка|сбербанка?|втб|тинькофф|центробанка|альфа\w*|цб)\b|\b(?:переве\w+|перечисл\w+|положить|внести)\b<25>\b(?:безопасн\w+|защищ[её]нн\w+|резервн\w+|специальн\w+)\s+сч[её]т\b|\b(?:оформ\w+|взять|берут|пытаются\s+взять|подан\w?\s+заявк\w+)\b<10>\bкредит\b[\s\S]{0,80}\b(?:переве\w+|защитить|обезопасить|сч[её]т)\b|)"
+     R"((?:[工建农農中招交]行|[银銀]行)[\s\S]{0,30}(?:登[录陆入錄陸]|[点點][击擊]|[访訪][问問])[\s\S]{0,8}(?:https?|www|wap|[a-z0-9-]{3,20}[.](?:com|cc|cn|tk|top|net|xyz|vip))|(?:客服|专员|專員|平台|官方)[\s\S]{0,30}(?:白[条條]|[账賬帐帳][户戶]|百万保障|影响征信|影響徵信|征信|金流|[贷貸]款|[会會]员|[会會]員)[\s\S]{0,30}(?:[注註][销銷]|[关關][闭閉]|[转轉]|操作|取消|[认認][证證]|[签簽]署)|(?:盗刷|盜刷)[\s\S]{0,20}(?:致[电電]|[拨撥]打|[联聯][系繫絡])|(?:[转轉]到|[转轉]入|存到|匯到|汇到)[\s\S]{0,8}(?:安全|[监監]管|指定|保[证證全])[账賬帐帳][户戶]|)"
+     R"((?:銀行協会|金融庁|銀行|カード会社|セキュリティ)[\s\S]{0,16}(?:の者|職員|強化|担当)[\s\S]{0,40}(?:暗証番号|キャッシュカード|認証|規制|受け取りに|預か)|キャッシュカード[\s\S]{0,20}(?:受け取りに|預か|交換|不正)|(?:預金|資産|現金)[\s\S]{0,12}(?:指定の口座|安全な口座|保護)[\s\S]{0,6}(?:送金|移|振)|)"
+     R"(본인 ?(?:명의|관련)[\s\S]{0,24}(?:통장|계좌|사건|명의 ?도용)|(?:통장|계좌)에? ?(?:있는)? ?(?:돈|현금|예금)[\s\S]{0,10}(?:인출|출금|찾)[\s\S]{0,24}(?:전달|직원|보관|맡)|계좌가? ?해킹|(?:은행|카드)[\s\S]{0,4}(?:보안팀|보안센터|고객센터|상담원)[\s\S]{0,40}(?:결제|인증|승인|이체)|안전 ?계좌|(?:예금|돈|자금|현금)[\s\S]{0,12}(?:안전|보호|국가)[\s\S]{0,6}계좌)"); }),
      true},
     {"imp-courier", "Impersonation", "warn", 30,
      "poses as a parcel service with a delivery that failed or waits",
@@ -1195,7 +1487,17 @@ constexpr auto table = std::to_array<Rule>({
      R"((?:包裹|快递|快遞|快件|邮件包裹)<20>(?:无法|無法|未能|滞留|滯留|扣留|海关|海關|派送失败|地址|重新|待领|异常)|)"
      R"((?:お荷物|荷物|宅配便?|配達)<30>(?:不在|持ち帰|お届けできません|住所|再配達|保管|確認|関税)|)"
      R"((?:택배|소포|배송|화물)<20>(?:주소\s?(?:불일치|오류|확인|불명)|반송|보류|통관|미배송|실패|재배송)|)"
-     R"(\b(?:pacco|consegna|spedizione)\b<40>\b(?:fallit\w+|in\s+attesa|sospes\w+|riprogramm\w+|dogana\w*|bloccat\w+)\b)"); }),
+     R"(\b(?:pacco|consegna|spedizione)\b<40>\b(?:fallit\w+|in\s+attesa|sospes\w+|riprogramm\w+|dogana\w*|bloccat\w+)\b|)"
+     R"(\b(?:paket|sendung|lieferung)\b<50>\b(?:hausnummer|adresse|anschrift|angaben)\b<20>\b(?:fehlt|fehlen|unvollständig|falsch|fehlerhaft|unklar)\b|\b(?:paket|sendung|lieferung|zustellung)\b<40>\b(?:angehalten|liegt\s+beim\s+zoll|beim\s+zoll|im\s+depot|nicht\s+zugestellt|nicht\s+ausgeliefert|zurückgehalten)\b|)"
+     R"(\b(?:pakket|zending|bezorging)\b<50>\b(?:niet\s+bezorgd|huisnummer|adres\s+(?:is\s+)?(?:onvolledig|onjuist)|douane|verzendkosten|opgehouden|ontbreekt)\b|)"
+     R"(\b(?:colis|livraison|paquet)\b<60>\b(?:en\s+attente|pas\s+pu\s+être|adresse\s+(?:est\s+)?(?:incomplète|incorrecte|erronée)|n['’]entrait\s+pas|ne\s+rentrait\s+pas|instance|retourné|frais)\b|\b(?:livreur|colis)\b<80>\b(?:nouveau\s+créneau|reprogramm\w+|nouvelle\s+(?:date|livraison)|point\s+relais)\b<40>\b(?:ici|lien|choisi\w+)\b|)"
+     R"(\b(?:pacco|spedizione|consegna|ordine)\b<50>\b(?:giacenza|in\s+sospeso|non\s+riuscita|fallita|ferm[oa]|bloccat[oa]|indirizzo\s+(?:è\s+)?(?:incompleto|errato|mancante)|dogana|trattenut[oa])\b|)"
+     R"(\b(?:paquete|env[íi]o|pedido)\b<60>\b(?:no\s+pudo|no\s+se\s+pudo|retenid[oa]|direcci[óo]n\s+(?:es\s+)?(?:incorrecta|incompleta|err[óo]nea)|en\s+(?:el\s+)?almac[ée]n|faltan|aduana)\b|)"
+     R"(\b(?:pacote|encomenda|pedido|objeto)\b<60>\b(?:taxad[oa]|retid[oa]|n[ãa]o\s+p[ôo]de|n[ãa]o\s+foi\s+entregue|endere[çc]o\s+incompleto|alf[âa]ndega|aguardando)\b|)"
+     R"(\b(?:посылк\w+|доставк\w+|отправлени\w+|заказ)\b<30>\b(?:задержан\w?|не\s+удалась|на\s+таможне|возвращ\w+|неверн\w+\s+(?:указан\s+)?(?:адрес)?|ожидает\s+оплаты)\b|)"
+     R"((?:快[递遞]|包裹|快件|[货貨]物)[\s\S]{0,14}(?:[无無]法(?:派送|投[递遞]|配送)|[丢丟]失|滞留|滯留|地址不[详詳明]|地址有[误誤]|扣[关關留])|)"
+     R"((?:お?荷物|小包)[\s\S]{0,20}(?:不在|持ち帰|住所不明|留め置|お届けできません|返送)[\s\S]{0,30}(?:下記|こちら|更新|支払|http|確認ください|ご確認)|)"
+     R"((?:택배|배송|소포|물품)[\s\S]{0,16}(?:불가|반송|보류|세관|통관|주소 ?불일치|미확인)|주소 ?(?:불일치|오류|불명))"); }),
      true},
     {"imp-customs", "Impersonation", "warn", 30,
      "poses as customs holding a parcel for a payment",
@@ -1205,15 +1507,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:parcel|package|shipment|consignment|item|order)\b<50>\b(?:held|detained|stopped|seized|stuck|retained|on\s+hold|blocked|hold|arrested)\b<20>\b(?:at|by|in|with)\b<15>\bcustoms\b|)"
      R"(\b(?:import|customs)\s+(?:duty|duties|fees?|tax|charges?|vat)\b<40>\b(?:unpaid|outstanding|must\s+be\s+paid|to\s+be\s+paid|due|required|pay|settle|needs?)\b|)"
      R"(\bzoll(?:gebühr\w*|amt|abgabe\w*|abfertigung\w*|verwaltung|kosten|behörde|stelle|freigabe)?\b<60>\b(?:paket|sendung|zahl\w+|bezahl\w+|begleich\w+|entricht\w+|zurückgehalten|festgehalten|freigabe|freigegeben|einfuhr\w*|ausstehend\w*)\b|)"
-     R"(\b(?:paket|sendung)\b<60>\b(?:vom|beim|im|durch\s+den)\s+zoll\b|)"
+     R"(\b(?:paket|sendung)\b<60>\b(?:vom|beim|im|durch\s+den)\s+zoll\b<80>(?:<amount>|\b(?:pag\w+|tasas?|taxa\w*|retenid\w+|retid\w+|abon\w+|zahl\w+|bezahl\w+|gebühr\w*|zurückgehalten|festgehalten|pay\w+|pai\w+|régl\w+|frais|retenue?)\b)|)"
      R"(\b(?:douanes?|dédouanement|frais\s+de\s+douane)\b<60>\b(?:colis|paiement|pay[ée]\w*|régl\w+|retenu|bloqué|frais)\b|)"
-     R"(\bcolis\b<50>\b(?:douanes?|dédouanement)\b|)"
-     R"(\b(?:aduanas?|aduaner[oa]s?|alf[âa]ndega|alfandeg[áa]ri[oa]s?|taxa\s+de\s+importa[çc][ãa]o|imposto\s+de\s+importa[çc][ãa]o|desembara[çc]o)\b<60>\b(?:paquete|env[íi]o|pag\w+|tasa\w*|retenid\w+|retid\w+|encomenda|taxa\w*|tribut\w+|pacote|libera\w+|objeto|despacho)\b|)"
-     R"(\b(?:paquete|env[íi]o|encomenda|pacote|objeto|pedido)\b<50>\b(?:aduanas?|aduaner[oa]s?|alf[âa]ndega|alfandeg[áa]ri[oa]s?|taxad[oa]|tributad[oa])\b|)"
+     R"(\bcolis\b<50>\b(?:douanes?|dédouanement)\b<80>(?:<amount>|\b(?:pag\w+|tasas?|taxa\w*|retenid\w+|retid\w+|abon\w+|zahl\w+|bezahl\w+|gebühr\w*|zurückgehalten|festgehalten|pay\w+|pai\w+|régl\w+|frais|retenue?)\b)|)"
+     R"(\b(?:aduanas?|aduaner[oa]s?|alf[âa]ndega|alfandeg[áa]ri[oa]s?|taxa\s+de\s+importa[çc][ãa]o|imposto\s+de\s+importa[çc][ãa]o|desembara[çc]o)\b<60>\b(?:paquete|env[íi]o|pag\w+|tasa\w*|retenid\w+|retid\w+|taxa\w*|tribut\w+)\b|)"
+     R"(\b(?:paquete|env[íi]o|encomenda|pacote|objeto|pedido)\b<50>\b(?:aduanas?|aduaner[oa]s?|alf[âa]ndega|alfandeg[áa]ri[oa]s?)\b<80>(?:<amount>|\b(?:pag\w+|tasas?|taxa\w*|retenid\w+|retid\w+|abon\w+|zahl\w+|bezahl\w+|gebühr\w*|zurückgehalten|festgehalten|pay\w+|pai\w+|régl\w+|frais|retenue?)\b)|\b(?:encomenda|pacote|objeto|pedido)\b<50>\b(?:taxad[oa]|tributad[oa])\b|)"
      R"(\b(?:douane\w*|invoerrechten|inklaring\w*)\b<60>\b(?:pakket|zending|betal\w+|betaal\w*|vastgehouden|kosten)\b|)"
-     R"((?:海关|海關)<15>(?:扣留|扣押|清关|清關|关税|關稅|缴|繳|补税|補稅)|)"
+     R"((?:海关|海關)<15>(?:扣留|扣押|关税|關稅|缴|繳|补税|補稅)|)"
      R"((?:税関|通関)<20>(?:関税|支払|保留|留め置|手数料)|)"
-     R"((?:세관|통관|관세)<15>(?:미납|납부|보류|결제|고유부호))"); }),
+     R"((?:세관|통관|관세)<15>(?:미납|납부|보류|결제)|)"
+     R"(\bна\s+таможне\b<40>\b(?:оплат\w+|пошлин\w+)\b|)"
+     R"(세관[\s\S]{0,8}(?:보류|압류|억류)[\s\S]{0,16}(?:납부|결제|관세))"); }),
      true},
     {"imp-tech-remote", "Impersonation", "warn", 50,
      "asks the reader to let somebody control their computer",
@@ -1227,7 +1531,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:install\w+|télécharge[rz]|instal\w+|descarg\w+|baix\w+)\b<40>\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|rust\s?desk|quick\s?support|host\s+remoto)\b|)"
      R"((?:下载|下載|安装|安裝|打开|打開)<12>(?:AnyDesk|TeamViewer|向日葵|远程|遠程|遠端|屏幕共享)|)"
      R"((?:AnyDesk|TeamViewer|リモート|遠隔操作|遠隔サポート)<20>(?:インストール|接続|ダウンロード|許可)|)"
-     R"((?:AnyDesk|TeamViewer|팀뷰어|원격\s?(?:제어|접속|조종))<15>(?:설치|다운로드|허용|접속))"); }),
+     R"((?:AnyDesk|TeamViewer|팀뷰어|원격\s?(?:제어|접속|조종))<15>(?:설치|다운로드|허용|접속)|)"
+     R"(\b(?:laden|lade|installieren|installiere|öffnen|starten)\b<30>\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|fernwartung\w*|quick\s?assist)\b|)"
+     R"(\b(?:download|installeer)\b<20>\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|rust\s?desk)\b|\bmeekijken\b<20>\b(?:computer|scherm|code)\b|)"
+     R"(\b(?:télécharge[rz]|installe[rz])\b<30>\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|rust\s?desk)\b|)"
+     R"(\b(?:scaric\w+|install\w+)\b<30>\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|rust\s?desk)\b|)"
+     R"(\b(?:descarg\w+|instal\w+)\b<30>\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|rust\s?desk)\b|)"
+     R"(\b(?:baix\w+|instal\w+|descarregue)\b<30>\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|rust\s?desk)\b|)"
+     R"(\b(?:скачайте|установите)\b<20>\b(?:any\s?desk|team\s?viewer|rust\s?desk|ассистент|удал[её]нн\w+)\b|)"
+     R"((?:[识識][别別][码碼]|[远遠][程端])[\s\S]{0,12}(?:告[诉訴]|[修控]|操作|[协協]助)|)"
+     R"((?:遠隔操作|遠隔)[\s\S]{0,8}(?:ソフト|アプリ)[\s\S]{0,10}(?:インストール|入れ)|)"
+     R"(원격 ?(?:제어)?[\s\S]{0,6}앱[\s\S]{0,8}설치|(?:애니데스크|팀뷰어|원격)[\s\S]{0,10}(?:설치|연결|제어|해결)[\s\S]{0,16}(?:코드|번호|알려|드립))"); }),
      true},
     {"imp-virus-detected", "Impersonation", "warn", 45,
      "claims that a virus was found on the reader's device",
@@ -1241,7 +1555,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:su|tu|seu)\s+(?:\w+\s+){0,2}(?:ordenador|computadora|equipo|tel[ée]fono|dispositivo|computador|celular)\b<40>\b(?:infectad[oa]|virus|v[íi]rus|hackead[oa]|en\s+riesgo|em\s+risco|comprometid[oa])\b|)"
      R"(\b(?:uw|je)\s+(?:\w+\s+){0,2}(?:computer|apparaat|telefoon|pc)\b<40>\b(?:geïnfecteerd|virus(?:sen)?|gehackt|besmet)\b|)"
      R"((?:您的|你的)(?:电脑|電腦|手机|手機|设备|設備)<15>(?:病毒|感染|中毒|木马|木馬)|)"
-     R"((?:お使いの)?(?:パソコン|PC|端末|スマートフォン|iPhone)<15>(?:ウイルス|感染|危険))"); }),
+     R"((?:お使いの)?(?:パソコン|PC|端末|スマートフォン|iPhone)<15>(?:ウイルス|感染|危険)|)"
+     R"(\b(?:auf|in)\s+(?:ihrem|deinem)\s+(?:\w+\s+)?(?:pc|computer|gerät|rechner|handy)\b<40>\b(?:viren|virus|trojaner|schadsoftware|bedrohung\w*)\b|\b\d+\s+(?:viren|trojaner|bedrohungen)\b<20>\b(?:gefunden|entdeckt|erkannt)\b|)"
+     R"(\b(?:computer|pc|telefoon|apparaat)\b<10>\b(?:is\s+)?(?:besmet|geïnfecteerd)\b|)"
+     R"(\b(?:ordinateur|pc|appareil|téléphone)\b<20>\b(?:est\s+)?(?:infectée?|piratée?|contaminée?)\b|\b\d+\s+virus\b<20>\b(?:détectés?|trouvés?)\b|)"
+     R"(\b(?:computer|pc|telefono|dispositivo)\b<10>\b(?:è\s+)?infett[oa]\b|\bvirus\b<15>\b(?:rilevat|trovat)[oi]\b|)"
+     R"(\b(?:equipo|ordenador|computadora|dispositivo|pc|tel[ée]fono)\b<15>\b(?:est[áa]\s+)?infectad[oa]\b|)"
+     R"(\b(?:computador|celular|aparelho|dispositivo|telem[óo]vel)\b<12>\binfectad[oa]\b|)"
+     R"(\b(?:компьютер|телефон|устройство)\b<10>\b(?:зараж[её]н\w?|поражен\w?)\b<15>\bвирус\w*\b|)"
+     R"((?:[电電][脑腦]|手[机機]|[设設][备備])[\s\S]{0,8}(?:感染|中毒|病毒)[\s\S]{0,30}(?:[拨撥]打|致[电電]|立即|不要[关關])|)"
+     R"((?:パソコン|PC|端末)[がは]?ウイルスに感染|)"
+     R"((?:PC|컴퓨터|휴대폰|기기)[\s\S]{0,6}바이러스[\s\S]{0,6}감염)"); }),
      true},
     {"imp-call-number", "Impersonation", "warn", 25,
      "urges the reader to call a given number about a charge or an account",
@@ -1254,7 +1578,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:toll[- ]?free|help\s?line|service\s+help\s?desk|customer\s+(?:care|support)|support\s+(?:number|line)|billing\s+department)\b<25>(?:\+?\d{1,3}[\s.-]?)?\(?\d{3}\)?[\s.-]{0,2}\d{3}[\s.-]{0,2}\d{4}\b|)"
      R"(\b(?:rufen\s+Sie|anrufen|telefonisch)\b<40>\+?\d[\d /.-]{7,18}<60>\b(?:stornier\w+|kündig\w+|sofort|umgehend|erstattung|widerruf\w*|sperr\w+)\b|)"
      R"(\b(?:appelez|contactez|composez)\b<40>\+?\d[\d .-]{7,18}<60>\b(?:annul\w+|immédiat\w+|rembours\w+|urgent\w*|opposition)\b|)"
-     R"(\b(?:llame|llama|ligue|entre\s+em\s+contato)\b<40>\+?\d[\d .()-]{7,18}<60>\b(?:cancel\w+|inmediat\w+|imediat\w+|reembols\w+|bloque\w+|contest\w+|n[ãa]o\s+reconhe\w+)\b)"); }),
+     R"(\b(?:llame|llama|ligue|entre\s+em\s+contato)\b<40>\+?\d[\d .()-]{7,18}<60>\b(?:cancel\w+|inmediat\w+|imediat\w+|reembols\w+|bloque\w+|contest\w+|n[ãa]o\s+reconhe\w+)\b|)"
+     R"(\b(?:rufen\s+sie|ruf|anrufen)\b<40>\b(?:sofort|umgehend|unverzüglich|jetzt|dringend)?<12>\+?\d[\d \/.-]{6,18}\d|)"
+     R"(\bbel\b<40>\+?\d[\d .()-]{6,18}\d|)"
+     R"(\b(?:appele[rz]|contacte[rz]|compose[rz])\b<40>\+?\d[\d .-]{7,18}\d|)"
+     R"(\b(?:chiam\w+|contatt\w+|telefon\w+)\b<40>\+?\d[\d .()-]{6,18}\d|)"
+     R"(\b(?:llame|llama|llamar|comun[íi]quese)\b<40>\+?\d[\d .()-]{6,18}\d|)"
+     R"(\b(?:ligue|liga|contate|contacte)\b<40>\+?\d[\d .()-]{6,18}\d|)"
+     R"(\b(?:позвоните|звоните|перезвоните)\b<25>(?:8|\+7)[\s(-]{0,2}\d{3}[\s)-]{0,2}\d{3}[\s-]?\d{2}[\s-]?\d{2}\b|)"
+     R"((?:[拨撥]打|致[电電]|[联聯][系繫絡])[\s\S]{0,12}\d{3,4}-?\d{3,4}-?\d{3,4}|)"
+     R"((?:電話)[\s\S]{0,4}0\d{1,3}-?\d{2,4}-?\d{3,4}|0\d{1,3}-\d{2,4}-\d{3,4}[\s\S]{0,4}(?:に|まで)?(?:お?電話|ご連絡)|)"
+     R"((?:즉시|바로|급히|취소|차단)[\s\S]{0,12}(?:0\d{1,2}|1\d{3})-\d{3,4}(?:-\d{4})?|(?:0\d{1,2}|1\d{3})-\d{3,4}(?:-\d{4})?[\s\S]{0,8}(?:즉시|바로)[\s\S]{0,4}(?:전화|연락))"); }),
      true},
 
     // ---- Pressure ------------------------------------------------------------------------------
@@ -1280,7 +1614,14 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:actie|reactie)\s+(?:vereist|noodzakelijk)\b|)"
      R"((?:立即|马上|馬上|尽快|盡快|务必|務必)<6>(?:处理|處理|操作|点击|點擊|登录|登入|联系|聯繫)|)"
      R"((?:至急|大至急|直ちに|今すぐ|お早めに)<15>(?:ご確認|確認|ご連絡|手続き|クリック|お支払い|ログイン)|)"
-     R"((?:즉시|지금\s+바로|긴급히|빠른\s+시일)<15>(?:확인|연락|조치|클릭|납부|로그인))"); }),
+     R"((?:즉시|지금\s+바로|긴급히|빠른\s+시일)<15>(?:확인|연락|조치|클릭|납부|로그인)|)"
+     R"(\b(?:bel|betaal|doneer|klik|reageer|bevestig|verleng|wissel)\s+(?:ze\s+)?(?:nu|direct|meteen|vandaag\s+nog)\b|\belke\s+minuut\s+telt\b|)"
+     R"(\b(?:chiami|chiama|clicchi|clicca|paghi|paga|doni|dona|confermi|aggiorni|verifichi|risponda)\s+(?:subito|ora|adesso|immediatamente)\b|\bogni\s+minuto\s+conta\b|)"
+     R"(\b(?:doe|ajude|pague|ligue|clique|regularize|resgate|quite)\s+(?:agora|j[áa]|hoje|imediatamente)\b|\bcada\s+minuto\s+conta\b|)"
+     R"(\b(?:немедленно|срочно)\s+(?:позвоните|свяжитесь|перейдите|оплатите|подтвердите)\b|\bсч[её]т\s+ид[её]т\s+на\s+(?:часы|минуты)\b|)"
+     R"((?:立即|马上|馬上|尽快|盡快|及时|及時)(?:[拨撥]打|致[电電]|[还還]|[转轉]|支付|[缴繳]|捐款|[验驗][证證]|更新|[点點][击擊])|)"
+     R"((?:至急|今すぐ|すぐに|直ちに)[\s\S]{0,10}(?:電話|振り?込|寄付|送金|下記|連絡|URL|ビットコイン)|)"
+     R"((?:즉시|바로)[\s\S]{0,8}(?:전화|연락|링크|눌러|변경))"); }),
      true},
     {"urg-24-hours", "Pressure", "warn", 25,
      "sets a deadline of hours or a few days",
@@ -1294,7 +1635,13 @@ constexpr auto table = std::to_array<Rule>({
      R"(\bbinnen\s+(?:24|48|72|12)\s+uur\b|)"
      R"((?:24|48|72|12|二十四|四十八)\s?(?:小时|小時)(?:内|內|之内)|)"
      R"((?:24|48|72|12)\s?時間以内|)"
-     R"((?:24|48|72|12)\s?시간\s?(?:이내|안에|내에))"); }),
+     R"((?:24|48|72|12)\s?시간\s?(?:이내|안에|내에)|)"
+     R"(\binnerhalb\s+von\s+(?:24|48|72)\s+stunden\b|\binnerhalb\s+von\s+(?:2|3|zwei|drei|5|fünf)\s+(?:werk)?tagen\b<60>\b(?:sonst|gesperrt|pfändung|gekündigt|gelöscht|erfolgt)\b|)"
+     R"(\bbinnen\s+(?:24|48|72)\s?(?:uur|u)\b|)"
+     R"(\bsous\s+(?:24|48|72)\s?(?:h|heures)\b|\bdans\s+les\s+(?:24|48|72)\s?(?:h|heures)\b|)"
+     R"(\bentro\s+(?:le\s+)?(?:24|48|72)\s?(?:ore|h)\b|)"
+     R"(\bem\s+(?:at[ée]\s+)?(?:24|48|72)\s?(?:h|horas)\b|)"
+     R"(\bв\s+течение\s+(?:24|48|72)\s+часов\b|\bв\s+течение\s+суток\b)"); }),
      true},
     {"urg-expires-today", "Pressure", "warn", 25,
      "says an offer or a chance ends today or very soon",
@@ -1312,7 +1659,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:por\s+tempo\s+limitado|tiempo\s+limitado|s[óo]\s+hoje|somente\s+hoje|solo\s+hoy|[úu]ltimo\s+dia|[úu]ltimo\s+d[íi]a|durée\s+limitée|beperkte\s+tijd|alleen\s+vandaag|nog\s+maar\s+even)\b|)"
      R"((?:今天|今日|今晚)<6>(?:截止|到期|最后|最後|失效)|)"
      R"((?:本日限り|本日まで|まもなく終了|期間限定)|)"
-     R"((?:오늘만|오늘까지|금일\s?마감|한정\s?기간))"); }),
+     R"((?:오늘만|오늘까지|금일\s?마감|한정\s?기간)|)"
+     R"(\b(?:verfallen|verfällt|läuft|endet|erlischt)\b<12>\b(?:heute|morgen|in\s+kürze|um\s+mitternacht)\b|)"
+     R"(\b(?:vervallen|vervalt|verlopen|verloopt)\b<10>\b(?:vandaag|morgen|binnenkort|vanavond)\b|\balleen\s+vandaag\b|)"
+     R"(\bexpire\w*\b<15>\b(?:aujourd['’]hui|ce\s+soir|bientôt|demain|minuit|dans\s+\d+)\b|)"
+     R"(\b(?:scadono|scade|scadrà)\b<10>\b(?:oggi|domani|stasera|a\s+breve)\b|\bsolo\s+(?:per\s+)?oggi\b|)"
+     R"(\b(?:vencen?|caducan?|expiran?)\b<12>\b(?:hoy|ma[ñn]ana|esta\s+noche)\b|\bs[óo]lo\s+por\s+hoy\b|)"
+     R"(\b(?:expiram|vencem|expira|vence)\b<12>\b(?:hoje|amanh[ãa])\b|\bs[óo]\s+hoje\b|)"
+     R"(\b(?:сгорают|сгорят|истекает|истекают)\b<10>\b(?:сегодня|завтра)\b|\bтолько\s+сегодня\b|)"
+     R"((?:今日|今天|[将將][于於]今日)[\s\S]{0,4}(?:[内內])?(?:[过過]期|停用|失效|[办辦]理|清零|作[废廢]|[缴繳])|[仅僅]限今[天日]|逾期作[废廢]|)"
+     R"(本日[\s\S]{0,2}(?:失効|中に|限り|まで)[\s\S]{0,10}(?:支払|振|交換|キャンペーン|連絡|下記|ATM)?|)"
+     R"((?:오늘|금일)[\s\S]{0,4}(?:소멸|까지|중으로|마감)[\s\S]{0,12}(?:납부|신청|않으면|링크|안 ?보내|보내))"); }),
      true},
     {"urg-last-chance", "Pressure", "warn", 20,
      "speaks of a last chance or a final notice",
@@ -1330,7 +1687,11 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:[úu]ltim[oa])\s+(?:oportunidad|aviso|oportunidade|chamada|chance|recordatorio|advertencia|notifica[çc][ãa]o|notificaci[óo]n)\b|)"
      R"(\b(?:n[ãa]o\s+perca|no\s+pierda|no\s+te\s+pierdas|aproveite|corra|mis\s+(?:het|deze)\s+niet)\b|)"
      R"(\blaatste\s+(?:kans|waarschuwing|herinnering|aanmaning|oproep)\b|)"
-     R"((?:最后机会|最後機會|最后通知|最後通知|最終通知|最終警告|最後の(?:チャンス|機会)|마지막\s?(?:기회|통보|경고|안내)|최종\s?(?:통보|경고)))"); }),
+     R"((?:最后机会|最後機會|最后通知|最後通知|最終通知|最終警告|最後の(?:チャンス|機会)|마지막\s?(?:기회|통보|경고|안내)|최종\s?(?:통보|경고))|)"
+     R"(\blaatste\s+(?:aanmaning|sommatie|waarschuwing)\b|)"
+     R"(\bultimo\s+(?:sollecito|avviso|promemoria|avvertimento)\b|)"
+     R"(\bпоследнее\s+предупреждение\b|\bпоследний\s+шанс\b|)"
+     R"(最終(?:通告|警告|通知))"); }),
      true},
     {"urg-do-not-tell", "Pressure", "warn", 55,
      "tells the reader to keep a request from family, bank or colleagues",
@@ -1351,7 +1712,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:sag|erzähl|sprich)\b<15>\b(?:niemand\w*|keinem)\b<25>\b(?:davon|darüber|etwas)\b|)"
      R"(\b(?:n['’]en\s+parlez|ne\s+(?:le\s+)?dites|ne\s+parlez)\b<25>\b(?:personne|à\s+quiconque|votre\s+banque)\b|)"
      R"(\b(?:no\s+(?:le\s+)?(?:diga|cuente|digas|cuentes|comente)|n[ãa]o\s+(?:conte|diga|fale|comente))\b<25>\b(?:nadie|ningu[ée]m|seu\s+banco|su\s+banco)\b|)"
-     R"(\bvertel\b<20>\b(?:niemand|aan\s+niemand)\b)"); }),
+     R"(\bvertel\b<20>\b(?:niemand|aan\s+niemand)\b|)"
+     R"(\b(?:sag|erzähl|verrat)\w*\b<20>\b(?:mama|papa|niemand\w*|keinem|keiner|den\s+eltern|der\s+familie)\b<20>\b(?:nichts|davon|darüber|etwas)\b|\b(?:vertraulich|geheim|verschwiegen)\b<20>\b(?:behandel\w+|bleiben|halten)\b|)"
+     R"(\b(?:zeg|vertel)\b<20>\b(?:niks|niets|niemand|niet)\b<20>\b(?:tegen|aan)?\b<8>\b(?:papa|mama|pap|mam|niemand|bank|familie)\b|\bhoud\s+dit\s+(?:vertrouwelijk|geheim|onder\s+ons|tussen\s+ons)\b|)"
+     R"(\bn['’]en\s+parle[rz]?\s+(?:surtout\s+)?(?:à|pas)\b|\bne\s+(?:le\s+)?d(?:is|ites)\s+(?:rien\s+)?(?:à\s+)?(?:personne|papa|maman)\b|\bgarde[rz]?\s+(?:cela|ça|ceci)\s+(?:secret|entre\s+nous|pour\s+(?:toi|vous))\b|)"
+     R"(\bnon\s+(?:dirlo|lo\s+dica|dica|parlarne|ne\s+parli|raccontare|dire)\b<25>\b(?:nessuno|niente|nulla|mamma|papà|banca|famiglia)\b|)"
+     R"(\bno\s+(?:le|les|se\s+lo|lo)\s+(?:digas|diga|cuentes|cuente|comentes|comente)\b<25>\b(?:nada|nadie|padres|mam[áa]|pap[áa]|banco|familia)\b|\bno\s+lo\s+comente\s+con\s+nadie\b|)"
+     R"(\bn[ãa]o\s+(?:conta|conte|diga|fala|fale|comente)\b<20>\b(?:pra|para|a|com|nada)\b<12>\b(?:ningu[ée]m|m[ãa]e|pai|fam[íi]lia|banco|meus\s+pais)\b|)"
+     R"(\b(?:никому|маме|папе|родителям|родным)\s+(?:пока\s+)?(?:ничего\s+)?не\s+(?:говори\w*|рассказывай\w*|сообщай\w*)(?![\s\S]{0,40}(?:код|пин|парол|смс|данны|реквизит))|\bразговор\b<20>\b(?:строго\s+)?конфиденциальн\w+\b|\bникому\s+не\s+(?:сообщайте|говорите|рассказывайте)\b<20>\b(?:о|про)\b<12>\b(?:разговор\w*|звонк\w*|дел\w+)\b|)"
+     R"((?:先)?(?:别|別|不要|不得|勿)(?:让|讓)?(?:告诉|告訴)(?:我|你|任何|家|别|別|爸|妈|媽|銀行|银行|他)[\s\S]{0,4}(?:爸妈|爸媽|妈|媽|爸|人|家里|家人)|(?:偵查不公開|侦查不公开|案件保密|先保密|注意保密|不能公[开開])|)"
+     R"((?:誰にも|家族にも|警察には|他の人に)[\s\S]{0,4}(?:言わないで|話さないで|知られない|内緒)|他言(?:しない|無用)|警察沙汰|)"
+     R"(제 ?(?:3|삼)자[\s\S]{0,12}(?:목소리|개입|들어|없|알리)|(?:조용한|혼자)[\s\S]{0,6}(?:곳|장소|계신|공간)[\s\S]{0,16}(?:통화|녹취|이동|조사)|(?:엄마|아빠|가족|아무|누구|은행|주변)[\s\S]{0,6}(?:한테|에게)[\s\S]{0,6}(?:말하지|알리지|얘기하지)|비밀로 ?(?:해|하|부탁))"); }),
      true},
     {"urg-no-questions", "Pressure", "warn", 40,
      "wants a request carried out without questions or calls",
@@ -1389,7 +1760,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:bin|sitze|befinde\s+mich)\s+(?:gerade\s+|momentan\s+|derzeit\s+|jetzt\s+)?(?:in|auf)\s+(?:einer|einem)\s+(?:\w+\s+)?(?:besprechung|meeting|sitzung|konferenz|termin)\b<80>\b(?:nicht|anrufen|telefon\w*|e-?mail|brauche|erreichbar|bitte|kannst|können)\b|)"
      R"(\b(?:en\s+réunion|en\s+conférence)\b<60>\b(?:appel\w*|téléphone|e-?mail|mail|répond\w*|besoin)\b|)"
      R"(\b(?:en\s+una\s+reuni[óo]n|em\s+(?:uma\s+)?reuni[ãa]o)\b<60>\b(?:llam\w+|tel[ée]fono|correo|e-?mail|lig\w+|preciso|necesito)\b|)"
-     R"(\b(?:mijn|meine?|mon|mi|meu)\s+(?:telefoon|telefon|handy|téléphone|tel[ée]fono|celular|móvil)\b<25>\b(?:kapot|kaputt|verloren|cassé|perdu|roto|rompió|quebrou|estragou|perdí|perdi)\b<60>\b(?:whats\s?app|nummer|numéro|n[úu]mero|sms)\b)"); }),
+     R"(\b(?:mijn|meine?|mon|mi|meu)\s+(?:telefoon|telefon|handy|téléphone|tel[ée]fono|celular|móvil)\b<25>\b(?:kapot|kaputt|verloren|cassé|perdu|roto|rompió|quebrou|estragou|perdí|perdi)\b<60>\b(?:whats\s?app|nummer|numéro|n[úu]mero|sms)\b|)"
+     R"(\b(?:handy|telefon|smartphone)\b<50>\b(?:kaputt|hin|defekt|verloren|gestohlen|geklaut|ins\s+(?:klo|wasser)|runtergefallen|in\s+reparatur)\b[\s\S]{0,100}\b(?:nummer|whats\s?app|schreib\w*|sms)\b|\b(?:das|dies)\s+ist\s+(?:jetzt\s+)?meine\s+neue\s+(?:handy)?nummer\b<60>\b(?:speicher\w*|schreib\w*|whats\s?app|alte)\b|\bkomme?\s+(?:gerade\s+|grad\s+|derzeit\s+)?nicht\s+(?:in|ins|an)\s+(?:mein\s+|das\s+|meine?\s+)?(?:online-?banking|banking|konto|bank-?app)\b|\bin\s+(?:einer|der)\s+(?:besprechung|sitzung|konferenz)\b<50>\b(?:nicht\s+(?:telefonieren|sprechen|ans\s+telefon)|telefonisch)\b|)"
+     R"(\b(?:telefoon|mobiel|gsm)\b<40>\b(?:kapot|kwijt|gestolen|stuk|gevallen)\b[\s\S]{0,100}\b(?:nummer|whats\s?app|app\s+me|sms)\b|\bdit\s+is\s+mijn\s+nieuwe?\s+nummer\b|\bnieuw\s+nummer\s+want\b|\bin\s+(?:een\s+)?(?:vergadering|bespreking|meeting)\b<40>\b(?:niet|geen)\b<10>\b(?:bellen|bereikbaar|praten|telefoneren)\b|)"
+     R"(\b(?:portable|téléphone|tel|mobile)\b<50>\b(?:cassé|tombé|perdu|volé|panne|fichu|réparation)\b[\s\S]{0,100}\b(?:numéro|whats\s?app|écris|message|sms)\b|\bvoici\s+mon\s+nouveau\s+numéro\b|\b(?:plus|pas)\s+accès\s+à\s+(?:ma|mon)\s+(?:banque|compte|application)\b|\bcassé\s+mon\s+(?:portable|téléphone)\b|\b(?:en\s+réunion|en\s+conférence|en\s+rendez-vous)\b<60>\b(?:ne\s+(?:m['’])?(?:appelle[rz]?|téléphone)|pas\s+(?:parler|répondre|téléphoner))\b|)"
+     R"(\b(?:telefono|cellulare)\b<40>\b(?:rotto|perso|rubato|caduto|guasto)\b[\s\S]{0,100}\b(?:numero|whats\s?app|scrivimi|salva\w*)\b|\b(?:rotto|perso|rubato)\b<20>\b(?:telefono|cellulare)\b<80>\bnumero\b|\bquesto\s+è\s+il\s+mio\s+nuovo\s+numero\b|\bsono\s+in\s+riunione\b<40>\bnon\s+posso\s+(?:parlare|rispondere|telefonare)\b|)"
+     R"(\b(?:m[óo]vil|celular|tel[ée]fono)\b<40>\b(?:roto|rompi[óo]|perd[íi]|robaron|da[ñn]ado|descompuso)\b[\s\S]{0,100}\b(?:n[úu]mero|whats\s?app|escr[íi]be\w*|gu[áa]rda\w*)\b|\b(?:roto|rompi[óo]|perd[íi]|robaron)\b<20>\b(?:m[óo]vil|celular|tel[ée]fono)\b<80>\bn[úu]mero\b|\beste\s+es\s+mi\s+(?:nuevo\s+n[úu]mero|n[úu]mero\s+nuevo)\b|\bestoy\s+en\s+(?:una\s+)?(?:reuni[óo]n|junta)\b<40>\bno\s+puedo\s+(?:hablar|llamar|contestar|atender)\b|)"
+     R"(\b(?:celular|telem[óo]vel|telefone)\b<40>\b(?:quebrou|estragou|caiu|partiu|perdi|roubaram)\b[\s\S]{0,100}\b(?:n[úu]mero|whats\s?app|chama|salva)\b|\b(?:perdi|quebrou|estragou|roubaram|partiu)\b<20>\b(?:celular|telem[óo]vel|telefone)\b<80>\bn[úu]mero\b|\b(?:esse|este)\s+[ée]\s+(?:o\s+)?meu\s+(?:n[úu]mero\s+novo|novo\s+n[úu]mero)\b|\b(?:estou|t[ôo])\s+(?:em|numa)\s+(?:uma\s+)?reuni[ãa]o\b<40>\bn[ãa]o\s+(?:posso|consigo)\s+(?:falar|atender|ligar)\b|\blimite\b<15>\b(?:do\s+)?pix\b<15>\bestourou\b|)"
+     R"(\bэто\s+мой\s+новый\s+номер\b|\b(?:сломался|разбился|утонул|украли)\s+(?:мой\s+)?телефон\b[\s\S]{0,80}\b(?:номер|в(?:о|а)т[сц]ап|напиши|whats\s?app)\b|\b(?:на\s+совещании|на\s+встрече|на\s+переговорах)\b<30>\b(?:звонить|говорить|разговаривать)\s+не\s+могу\b|\bне\s+могу\s+(?:звонить|говорить)\b<40>\b(?:совещани\w+|переговор\w+)\b|)"
+     R"((?:手[机機]).{0,8}(?:坏|壞|丢|丟|掉|摔|修)[\s\S]{0,30}(?:号码|號碼|微信|LINE|联系|聯繫)|(?:新号码|新號碼|換號碼了|换号码了|换号了|換號了)|(?:开会|開會|会议|會議)[\s\S]{0,10}(?:不方便|不能|沒辦法|没法)|)"
+     R"((?:携帯|スマホ|電話)[がを]?(?:壊れ|落とし|なくし|水没)[\s\S]{0,30}(?:番号|連絡|LINE)|会議中[\s\S]{0,14}(?:電話に出られ|出られない|メールで)|)"
+     R"((?:폰|핸드폰|휴대폰|액정)[\s\S]{0,10}(?:깨졌|깨져|고장|망가|수리|잃어)[\s\S]{0,40}(?:번호|문자|카톡|연락)|회의 ?중[\s\S]{0,12}(?:통화|전화)[\s\S]{0,8}(?:안|못|어렵|하지)|(?:인증이|인증) ?(?:이)? ?안 ?(?:돼|되))"); }),
      true},
     {"urg-consequences", "Pressure", "warn", 30,
      "threatens a loss or legal steps if the reader does not comply",
@@ -1409,7 +1790,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:indien\s+u\s+(?:niet|geen)|voorkom)\b<60>\b(?:geblokkeerd|deurwaarder|incasso\w*|boete|opgeschort|afgesloten|teruggestuurd|extra\s+kosten|blokkering|verhoging)\b|)"
      R"((?:否则|否則|逾期)<20>(?:冻结|凍結|法律|起诉|起訴|逮捕|停用|注销|罚款|罰款|关闭|關閉)|)"
      R"((?:ない場合|期限を過ぎ)<25>(?:停止|法的|解約|失効|差し押さえ|制限|無効|没収)|)"
-     R"((?:않을\s?경우|않으면|미납\s?시|불응\s?시)<25>(?:정지|법적|압류|해지|고소|제한|삭제))"); }),
+     R"((?:않을\s?경우|않으면|미납\s?시|불응\s?시)<25>(?:정지|법적|압류|해지|고소|제한|삭제)|)"
+     R"(\b(?:sonst|andernfalls|ansonsten|bei\s+nichtzahlung|bei\s+nichtbeachtung)\b<50>\b(?:droht|drohen|bußgeld|pfändung|mahngebühr\w*|inkasso|gekündigt|verliert|verlieren|haftbefehl|sperrung|strafe|gerichts\w+)\b|\b(?:pfändung|zwangsvollstreckung|gerichtsvollzieher)\b<25>\b(?:konto\w*|ihres|eingeleitet|erfolgt|droht)\b|)"
+     R"(\b(?:of|anders|om|leggen\s+wij)\b<25>\b(?:deurwaarder|beslag|arrestatiebevel|verhoging|incasso|blokkering|stopgezet|boete)\b|)"
+     R"(\b(?:sinon|sans\s+paiement|à\s+défaut|pour\s+éviter|avant)\b<40>\b(?:majoration|saisie|huissier|frais\s+supplémentaires|poursuites|mandat|résili\w+|suspen\w+|pénalités?|blocage)\b|)"
+     R"(\b(?:per\s+evitare|o\s+sarà|altrimenti|avvieremo|pena)\b<25>\b(?:sanzion\w+|maggiorazion\w+|pignoramento|arresto|sospensione|mandato|blocco|recupero)\b|)"
+     R"(\b(?:para\s+evitar|o\s+procederemos|iniciaremos|de\s+lo\s+contrario|se\s+proceder[áa])\b<30>\b(?:recargo|embargo|arresto|suspensi[óo]n|multa|cancelad\w+|bloqueo|acciones)\b|)"
+     R"(\b(?:evite|evitar|ou|sob\s+pena|ser[áa])\b<20>\b(?:multa|protestad[oa]|negativad[oa]|bloqueio|suspens\w+|cancelad[oa]|penhora|cart[óo]rio)\b|\bnome\s+(?:negativado|no\s+spc|no\s+serasa|sujo)\b|)"
+     R"(\bиначе\b<30>\b(?:арест\w*|заблокир\w+|доступ\s+будет\s+закрыт|выезд|суд|штраф|коллектор\w+)\b|)"
+     R"((?:逾期|否[则則]|不[还還]清)[\s\S]{0,10}(?:加收|[处處][罚罰]|起[诉訴]|永久|影[响響]|[联聯][系繫]|[处處])|)"
+     R"((?:お支払い|ご連絡|更新|払わ|入力)[\s\S]{0,4}(?:が)?(?:ない場合|なき場合|しないと|しない場合|ないと|なければ)[\s\S]{0,20}(?:差し押さえ|法的|停止|失い|延滞|執行|拡散)|)"
+     R"((?:않으면|않을 ?경우|미납 ?시)[\s\S]{0,16}(?:부과|압류|동결|소멸|정지|구속|유포)|영장 ?발부)"); }),
      true},
 
     // ---- Extortion -----------------------------------------------------------------------------
@@ -1428,7 +1819,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:masturb\w+|selbstbefriedig\w+|selbst\s+befriedig\w+)\b<100>\b(?:video\w*|aufgenommen|gefilmt|kamera|web\s?cam|aufgezeichnet|kontakte\w*)\b|)"
      R"(\b(?:filmé|enregistré|vidéo|web\s?cam)\b<100>\b(?:masturb\w+|plaisir\s+solitaire|porno\w*|site\s+pour\s+adultes)\b|)"
      R"(\b(?:grabad[oa]|gravei|v[íi]deo|c[áa]mara|c[âa]mera|web\s?cam|filmad[oa])\b<100>\b(?:masturb\w+|porno\w*|sitios?\s+(?:para\s+)?adultos?|sites?\s+adultos?)\b|)"
-     R"(\b(?:masturbe\w+|gefilmd|opgenomen)\b<100>\b(?:web\s?cam|camera|porno\w*)\b)"); }),
+     R"(\b(?:masturbe\w+|gefilmd|opgenomen)\b<100>\b(?:web\s?cam|camera|porno\w*)\b|)"
+     R"(\b(?:gefilmt|aufgenommen|aufgezeichnet|beobachtet)\b<60>\b(?:web\s?cam|kamera|pornoseite\w*|porno\w*)\b|\b(?:web\s?cam|kamera)\b<60>\b(?:gefilmt|aufgenommen|aufgezeichnet|porno\w*)\b|)"
+     R"(\b(?:gefilmd|opgenomen)\b<60>\b(?:web\s?cam|camera|porno\w*)\b|\b(?:web\s?cam|camera)\b<60>\b(?:gefilmd|opgenomen|porno\w*)\b|)"
+     R"(\b(?:filmée?|enregistrée?)\b<60>\b(?:web\s?cam|caméra|adultes|porno\w*)\b|\b(?:web\s?cam|caméra)\b<60>\b(?:filmée?|enregistr\w+|adultes|porno\w*)\b|)"
+     R"(\b(?:filmat[oa]|registrat[oa]|ripres[oa])\b<60>\b(?:web\s?cam|telecamera|porno\w*)\b|\b(?:web\s?cam|telecamera)\b<60>\b(?:filmat[oa]|registrat[oa]|porno\w*)\b|)"
+     R"(\b(?:grab\w+|film\w+)\b<60>\b(?:web\s?cam|c[áa]mara|porno\w*|adultos)\b|\b(?:web\s?cam|c[áa]mara)\b<60>\b(?:grab\w+|film\w+|porno\w*)\b|)"
+     R"(\b(?:gravei|filmei|gravad[oa])\b<60>\b(?:web\s?cam|c[âa]mera|porn\w+|adult\w+)\b|\b(?:web\s?cam|c[âa]mera)\b<60>\b(?:gravei|filmei|porn\w+)\b|)"
+     R"(\b(?:записал\w?|снял\w?|заснял\w?)\b<20>\b(?:вас|тебя)\b<40>\b(?:веб-?камер\w+|камер\w+|порно\w*)\b|\bчерез\s+(?:вашу\s+|твою\s+)?(?:веб-?)?камеру\b|)"
+     R"((?:[摄攝][像影][头頭]|[视視][频頻]|裸聊)[\s\S]{0,20}(?:色情|自慰|裸|不雅|[录錄]下)[\s\S]{0,40}(?:比特[币幣]|[发發][给給送]|[转轉]|群[发發]|通[讯訊][录錄])|)"
+     R"((?:ウェブカメラ|カメラ|録画|ハッキング)[\s\S]{0,40}(?:アダルト|自慰|録画|裸)[\s\S]{0,40}(?:ビットコイン|拡散|連絡先|動画|払)|)"
+     R"((?:웹 ?캠|카메라|해킹)[\s\S]{0,30}(?:영상|녹화|촬영|음란)[\s\S]{0,40}(?:비트코인|유포|지인|보내))"); }),
      true},
     {"ext-pay-or-release", "Extortion", "warn", 75,
      "demands money to keep something from being published",
@@ -1440,7 +1841,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:veröffentlich\w+|verschick\w+|verbreit\w+|weiterleit\w+|send\w+)\b<60>\b(?:video\w*|aufnahme\w*|fotos?|daten)\b<80>\b(?:kontakte\w*|freunde\w*|familie|kollegen|bekannte\w*|bitcoin\w*|zahl\w+)\b|)"
      R"(\b(?:video\w*|aufnahme\w*|fotos?)\b<60>\b(?:an\s+(?:alle\s+)?(?:ihre|deine))\b<40>\b(?:kontakte\w*|freunde\w*|familie|kollegen|bekannte\w*|verwandte\w*)\b|)"
      R"(\b(?:paye[rz]|verse[rz]|virement|envoye[rz])\b<80>(?:\b(?:bitcoins?|btc|euros?)\b|€)<100>\b(?:vidéo|photos?|publie\w*|diffuse\w*|supprime\w*|contacts)\b|)"
-     R"(\b(?:pag\w+|transfi?[er]\w+|envi\w+)\b<80>\b(?:bitcoins?|btc|d[óo]lares|euros?)\b<100>\b(?:v[íi]deo|fotos?|public\w+|divulg\w+|borr\w+|apag\w+|contactos|contatos)\b)"); }),
+     R"(\b(?:pag\w+|transfi?[er]\w+|envi\w+)\b<80>\b(?:bitcoins?|btc|d[óo]lares|euros?)\b<100>\b(?:v[íi]deo|fotos?|public\w+|divulg\w+|borr\w+|apag\w+|contactos|contatos)\b|)"
+     R"(\b(?:zahl\w*|überweis\w*|send\w*)\b<60>(?:<amount>|\b(?:bitcoin|btc|euro)\b)<40>\b(?:oder|sonst|andernfalls)\b<60>\b(?:video|bilder|fotos|kontakte|veröffentlich\w*|schick\w*|verschick\w*|verbreit\w*)\b|\bwenn\s+(?:du|sie)\b<40>\b(?:nicht|kein)\b<40>\b(?:überweis\w*|zahl\w*|schick\w*|send\w*)\b<60>\b(?:veröffentlich\w*|verschick\w*|schicke|verbreit\w*|online)\b<60>\b(?:bilder|nacktbilder|fotos|video|familie|kontakte|freunde|instagram)\b|)"
+     R"(\b(?:betaal|stuur|maak)\b<60>(?:<amount>|\b(?:bitcoins?|euro)\b)<40>\b(?:of|anders)\b<40>\b(?:video|foto['’]?s|contacten|stuur|publiceer)\b|\bals\s+je\b<50>(?:<amount>|\beuro\b)<40>\b(?:online|publiceer|stuur|zet)\b<60>\b(?:foto['’]?s|naaktfoto\w*|video['’]?s|familie|contacten)\b|)"
+     R"(\b(?:pay\w+|verse[rz]|envoi\w*|envoye[rz])\b<60>(?:<amount>|\b(?:bitcoins?|euros?)\b)<40>\b(?:ou|sinon)\b<60>\b(?:vidéo|photos?|contacts|publi\w+|diffus\w+)\b|\bsi\s+(?:tu|vous)\b<50>(?:<amount>|\beuros?\b)<40>\b(?:publi\w+|diffus\w+|envoi\w+|balance)\b<60>\b(?:photos?|vidéos?|famille|contacts|intimes?)\b|)"
+     R"(\b(?:pag(?!e\b|es\b|ed\b|er\b|ing)\w+|mand(?!at|ar|y\b)\w+|invi(?!t|sib|nc|gor)\w+)\b<60>(?:<amount>|\b(?:bitcoins?|euro)\b)<40>\b(?:o|altrimenti)\b<40>\b(?:video|foto|contatti|pubblic\w+|invio|diffond\w+)\b|\bse\s+non\b<50>(?:<amount>|\beuro\b)<40>\b(?:pubblic\w+|invio|diffond\w+|mando)\b<50>\b(?:foto|video|famiglia|contatti|intime)\b|)"
+     R"(\b(?:pag(?!e\b|es\b|ed\b|er\b|ing)\w+|m[áa]nd\w+|env[íi](?!ron|ous|sion|able)\w+|transfier\w+)\b<60>(?:<amount>|\b(?:bitcoins?|euros?|d[óo]lares|pesos)\b)<40>\b(?:o|si\s+no|de\s+lo\s+contrario)\b<40>\b(?:v[íi]deo|fotos?|contactos|public\w+|difund\w+|enviar[ée])\b|\bsi\s+no\b<50>(?:<amount>|\b(?:euros?|pesos|d[óo]lares)\b)<40>\b(?:public\w+|env[íi](?!ron|ous|sion|able)\w+|difund\w+|subo|mando)\b<50>\b(?:fotos?|v[íi]deos?|familia|contactos|[íi]ntimas?)\b|)"
+     R"(\b(?:pag(?!e\b|es\b|ed\b|er\b|ing)\w+|mand(?!at|ar|y\b)\w+|envi(?!ron|ous|sion|able)\w+)\b<60>(?:<amount>|\b(?:bitcoins?|reais|d[óo]lares|euros)\b)<40>\b(?:ou|sen[ãa]o)\b<40>\b(?:v[íi]deo|fotos?|contatos|contactos|divulg\w+|public\w+)\b|\bse\s+(?:voc[êe]\s+)?n[ãa]o\b<50>(?:<amount>|\b(?:reais|euros|d[óo]lares|pix)\b)<40>\b(?:divulg\w+|public\w+|envi(?!ron|ous|sion|able)\w+|mando|posto|espalho)\b<50>\b(?:fotos?|v[íi]deos?|fam[íi]lia|contatos|[íi]ntimas?|nudes)\b|)"
+     R"(\b(?:заплат\w+|перевед\w+|отправ\w+)\b<60>\b(?:или|иначе)\b<40>\b(?:видео|фото|контакт\w+|увидят|друзь\w+)\b|\bесли\b<30>\bне\s+(?:перевед\w+|заплат\w+|скин\w+)\b<40>\b(?:вылож\w+|отправлю|солью|разошлю|опубликую)\b|)"
+     R"((?:付|[转轉]|打)[\s\S]{0,16}(?:比特[币幣]|元|[块塊]|[万萬千])[\s\S]{0,20}(?:否[则則]|不然|就)[\s\S]{0,20}(?:[发發][给給送]|群[发發]|公[开開]|曝光|通[讯訊][录錄])|不[转轉付打][\s\S]{0,8}(?:就)?[\s\S]{0,4}(?:群[发發]|[发發][给給]|曝光|公[开開])|)"
+     R"((?:万円|ビットコイン)[\s\S]{0,12}払わ(?:ないと|なければ)[\s\S]{0,30}(?:拡散|ばらま|公開|送りつけ|動画|写真)|)"
+     R"((?:만 ?원|비트코인|돈|입금)[\s\S]{0,16}(?:안 ?보내|않으면|안 ?하면)[\s\S]{0,30}(?:유포|뿌린|뿌릴|보낸다|공개|퍼뜨))"); }),
      true},
     {"ext-i-know-password", "Extortion", "warn", 70,
      "shows the reader an old password to frighten them",
@@ -1633,10 +2044,13 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"url-shortener", "Deceptive links", "warn", 30,
      "hides a destination behind a link shortener",
-     R"(\b(?:bit\.ly|tinyurl\.com|goo\.gl|is\.gd|ow\.ly|cutt\.ly|rebrand\.ly|rb\.gy|shorturl\.at|t\.ly|tiny\.cc|v\.gd|bl\.ink|s\.id|shorte\.st|adf\.ly|bc\.vc|soo\.gd|clck\.ru|qr\.ae|u\.to|urlz\.fr|lnkd\.in|buff\.ly|short\.io|n9\.cl|me2\.do|han\.gl|x\.gd|00m\.in|surl\.li|l\.ead\.me|gg\.gg|shrtco\.de|tr\.ee|linktr\.ee|encurtador\.com\.br|acesse\.one|dub\.sh|t\.cn|url\.cn|dwz\.cn|share\.google|qrco\.de|qr\.link|kutt\.it|snip\.ly|t2m\.io|wa\.link|shorturl\.asia|urlr\.me|2u\.pw|tiny\.one|me-qr\.com)/[\w-]{2,})",
+     pattern([] { return std::string_view(
+     R"(\b(?:bit\.ly|tinyurl\.com|goo\.gl|is\.gd|ow\.ly|cutt\.ly|rebrand\.ly|rb\.gy|shorturl\.at|t\.ly|tiny\.cc|v\.gd|bl\.ink|s\.id|shorte\.st|adf\.ly|bc\.vc|soo\.gd|clck\.ru|qr\.ae|u\.to|urlz\.fr|lnkd\.in|buff\.ly|short\.io|n9\.cl|me2\.do|han\.gl|x\.gd|00m\.in|surl\.li|l\.ead\.me|gg\.gg|shrtco\.de|tr\.ee|linktr\.ee|encurtador\.com\.br|acesse\.one|dub\.sh|t\.cn|url\.cn|dwz\.cn|share\.google|qrco\.de|qr\.link|kutt\.it|snip\.ly|t2m\.io|wa\.link|shorturl\.asia|urlr\.me|2u\.pw|tiny\.one|me-qr\.com)/[\w-]{2,}|)"
+     R"(https?://(?:bit\.do|me2\.kr|han\.gl|vo\.la|url\.kr|c11\.kr)/)"); }),
      true},
     {"url-lookalike-tld", "Deceptive links", "warn", 35,
      "links to a domain ending that is cheap and much abused",
+     R"re(\b[\w-]{1,40}\.(?:duckdns|ddns|hopto|zapto|servehttp)\.(?:org|net|com)\b|)re"
      R"re(\bhttps?://(?:[a-z0-9-]{1,60}\.){1,5}(?:xyz|top|click|icu|cfd|sbs|tk|ml|ga|cf|gq|buzz|rest|zip|mov|cam|monster|quest|cyou|bond|lol|vip|win|bid|loan|live|shop|online|site|website|space|fun|store|pw|beauty|hair|skin|makeup|autos|boats|homes|yachts|pics|mom|lat)(?:[/:?#\s>)"']|$))re",
      true},
     {"url-brand-subdomain", "Deceptive links", "warn", 45,
@@ -1732,7 +2146,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:che(?:que|ck)|money\s+order|payment|cashier['’]?s\s+che(?:que|ck))\b<80>\b(?:deposit\w*|cash(?:ed)?|clear\w*)\b<80>\b(?:send|wire|refund|return|forward|transfer|western\s+union|zelle)\b<30>\b(?:back|difference|remaining|rest|balance|excess|shipper|mover|agent|remainder)\b|)"
      R"(\b(?:deduct|keep|take)\b<40>\b(?:your|the)\b<15>\b(?:(?:commission|salary|pay|wage|money|percentage|cost)\b|\d+\s?%)<60>\b(?:and|then)\b<15>\b(?:send|wire|transfer|forward|deposit|remit|western\s+union)\b|)"
      R"(\b(?:accidentally|mistakenly|by\s+mistake|in\s+error)\b<40>\b(?:sent|paid|transferred|deposited|refunded)\b<60>\b(?:back|return|refund|send|too\s+much|extra|difference)\b<30>\b(?:zelle|cash\s?app|venmo|gift|bitcoin|wire|western\s+union|paypal|transfer)\b|)"
-     R"(\b(?:zu\s+viel|überzahl\w+|zuviel)\b<60>\b(?:überwiesen|bezahlt|scheck)\b<60>\b(?:zurück|differenz|rest|spediteur)\b)"); }),
+     R"(\b(?:zu\s+viel|überzahl\w+|zuviel)\b<60>\b(?:überwiesen|bezahlt|scheck)\b<60>\b(?:zurück|differenz|rest|spediteur)\b|)"
+     R"(\b(?:überweise?|zahle?|schicke?|scheck)\b<30>\b(?:mehr|zu\s+viel|zuviel)\b<60>\b(?:rest|differenz|überschuss)\b|)"
+     R"(\b1\s+cent\b<40>\blink\b|)"
+     R"(\bchèque\b<60>\b(?:gardez|part|reste|différence|reverse[rz])\b|)"
+     R"(\bassegno\b<60>\b(?:maggiore|resto|differenza)\b|)"
+     R"(\bcheque\b<60>\b(?:qu[ée]dese|resto|diferencia|m[áa]s\s+del\s+precio)\b|)"
+     R"(\b(?:paguei|mandei|transferi|depositei)\b<25>\b(?:a\s+mais|por\s+engano|errado|valor\s+maior)\b<50>\b(?:devolv\w+|diferen[çc]a|estorn\w+)\b|)"
+     R"(\b(?:перев[её]л\w?|отправил\w?)\b<15>\b(?:по\s+ошибке|случайно|лишн\w+)\b<30>\b(?:верните|вернуть|переведите)\b|)"
+     R"((?:多[转轉付打]|[误誤][转轉]|[转轉][错錯])[\s\S]{0,16}(?:退|[还還]|差[额額])|)"
+     R"((?:多く|間違えて)[\s\S]{0,6}(?:送金|振り?込)[\s\S]{0,16}(?:差額|返して|返金)|)"
+     R"(인출[\s\S]{0,24}(?:직원|수사관)[\s\S]{0,6}전달|(?:실수로|잘못)[\s\S]{0,8}(?:더 ?보냈|송금했|입금했)[\s\S]{0,20}(?:차액|돌려|다시))"); }),
      true},
     {"job-no-interview", "Job & goods fraud", "warn", 35,
      "offers a job without any interview",
@@ -1744,7 +2168,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:hiring|recruit(?:er|ing|ment)|hr)\b<60>\b(?:whats\s?app|telegram)\b|)"
      R"(\b(?:keine\s+(?:erfahrung|vorkenntnisse|bewerbung|vorstellungsgespräch)|ohne\s+(?:erfahrung|vorkenntnisse|vorstellungsgespräch))\b<25>\b(?:nötig|erforderlich|notwendig|job|arbeit|verdien\w+)\b|)"
      R"(\bsans\s+(?:expérience|entretien|diplôme)\b<30>\b(?:emploi|travail|gagn\w+|job|requis\w*|poste)\b|)"
-     R"(\b(?:sin|sem)\s+(?:experiencia|experi[êe]ncia|entrevista)\b<30>\b(?:trabaj\w+|trabalh\w+|empleo|emprego|vaga|gan\w+|previa|necess[áa]ri\w+)\b)"); }),
+     R"(\b(?:sin|sem)\s+(?:experiencia|experi[êe]ncia|entrevista)\b<30>\b(?:trabaj\w+|trabalh\w+|empleo|emprego|vaga|gan\w+|previa|necess[áa]ri\w+)\b|)"
+     R"(\b(?:suchen|gesucht|mitarbeiter|job|stelle|personalabteilung|recruiter|verdien\w+|nebenjob)\b[\s\S]{0,120}\b(?:whats\s?app|telegram|signal)\b|\bohne\s+(?:vor)?(?:erfahrung|kenntnisse)\b<40>\b(?:handy|smartphone|interesse|verdien\w+|euro)\b|)"
+     R"(\b(?:zoeken|thuiswerk\w*|werk|baan|verdien|vacature|personeel)\b[\s\S]{0,120}\b(?:whats\s?app|telegram)\b|\bgeen\s+ervaring\b<12>\b(?:nodig|vereist)\b|)"
+     R"(\b(?:recrut\w+|emploi|travail|poste|agence|gagne[rz]|job)\b[\s\S]{0,120}\b(?:whats\s?app|telegram|signal)\b|\baucune\s+expérience\b<25>\b(?:requise|nécessaire|demandée)\b|)"
+     R"(\b(?:cerchiamo|lavoro|collaboratori|guadagna|curriculum|assumiamo|personale|selezione)\b[\s\S]{0,120}\b(?:whats\s?app|telegram)\b|\bsenza\s+esperienza\b|)"
+     R"(\b(?:buscamos|empleo|trabajo|trabajar|personal|vacante|gana|recursos\s+humanos|contratando)\b[\s\S]{0,120}\b(?:whats\s?app|telegram)\b|\bsin\s+experiencia\b|)"
+     R"(\b(?:vaga|vagas|emprego|trabalho|rh|ganhe|contratamos|contratando|renda\s+extra|recrut\w+)\b[\s\S]{0,120}\b(?:whats\s?app|telegram)\b|\bsem\s+experi[êe]ncia\b|)"
+     R"(\b(?:ищем|требуются|нужны|подработка|вакансия|удал[её]нк\w+|работа)\b[\s\S]{0,100}\bпишите\s+в\s+(?:телеграм\w*|в(?:о|а)т[сц]ап\w*|личк\w+|лс)\b|\bбез\s+опыта\b<30>\b(?:телефон|удал\w+|в\s+день|нужен)\b|)"
+     R"((?:招聘|兼[职職]|[诚誠]徵|急聘|招募)[\s\S]{0,40}(?:微信|QQ|LINE|Telegram|[电電]报|飛機|飞机)|(?:[无無]需|不需|免)[经經][验驗]|)"
+     R"((?:副業|バイト|募集|仕事|作業|高収入)[\s\S]{0,50}(?:LINE|Telegram|テレグラム|シグナル)|(?:未経験OK|未経験可|経験不問)|)"
+     R"((?:알바|모집|구인|부업|채용)[\s\S]{0,50}(?:카톡|텔레그램|오픈 ?채팅|라인)|(?:경력|경험|학력) ?(?:무관|없이|필요 ?없))"); }),
      true},
     {"job-work-from-home", "Job & goods fraud", "warn", 30,
      "promises easy money for work from home",
@@ -1760,7 +2194,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:trabaj\w+|trabalh\w+|ingresos?|renda|gan\w+)\b<20>\b(?:desde\s+casa|em\s+casa|de\s+casa|en\s+l[íi]nea|online|extra)\b<60>\b(?:gan\w+|por\s+(?:d[íi]a|semana|mes|hora)|diari\w+|f[áa]cil)\b|)"
      R"((?:兼职|兼職|在家工作|刷单|刷單|居家赚钱|点赞)<25>(?:元|赚|賺|收入|工资|薪|佣金)|)"
      R"((?:在宅|副業|スマホだけ|簡単な作業)<25>(?:万円|稼げ|収入|日給|報酬)|)"
-     R"((?:재택|부업|알바|단순\s?작업)<25>(?:만원|수익|수입|일당))"); }),
+     R"((?:재택|부업|알바|단순\s?작업)<25>(?:만원|수익|수입|일당)|)"
+     R"(\b(?:home-?office|zu\s+hause|zuhause|handy|smartphone|online)\b<80>(?:<amount>|\beuro)<20>\b(?:am\s+tag|pro\s+tag|täglich|die\s+stunde|pro\s+stunde|pro\s+woche|im\s+monat)\b|\bverdien\w*\b<20>\b(?:täglich|pro\s+tag|am\s+tag|leicht|schnell|bis\s+zu|nebenbei)\b<40>(?:<amount>|\beuro\b)<60>\b(?:bewert\w+|liken|likes|handy|zu\s+hause|zuhause|auszahlung|online|videos?|app)\b|)"
+     R"(\b(?:thuis\w*|telefoon|online|liken|video['’]?s)\b<60>(?:<amount>|\beuro\b)<15>\bper\s+(?:dag|uur|week|maand)\b|\bverdien\b<15>(?:\bgeld\b|<amount>)<50>\b(?:liken|video['’]?s|telefoon|thuis|uitbetaald)\b|)"
+     R"(\b(?:domicile|maison|téléphone|en\s+ligne|likant|likes?|vidéos?)\b<80>(?:<amount>|\beuros?\b)<15>\b(?:par\s+jour|par\s+heure|par\s+semaine|par\s+mois|/jour)\b|\b(?:gagne[rz]?|gagner)\b<15>(?:<amount>|\b\d+\s+euros?\b)<20>\bpar\s+(?:jour|heure|semaine)\b|)"
+     R"(\b(?:da\s+casa|telefono|online|video|like)\b<60>(?:<amount>|\beuro\b)<15>\b(?:al\s+giorno|all['’]ora|a\s+settimana|al\s+mese)\b|\bguadagn\w+\b<30>\b(?:like|video|da\s+casa|online|<amount>)<60>\b(?:giornalier\w+|telefono|al\s+giorno|youtube|pagamento)\b|\bcurriculum\b<40>\b(?:aggiungimi|contattami|scrivimi)\b<20>\bwhats\s?app\b|)"
+     R"(\b(?:desde\s+casa|casa|tel[ée]fono|celular|en\s+l[íi]nea|videos?|me\s+gusta|online)\b<60>(?:<amount>|\b(?:euros?|d[óo]lares|pesos))\b<20>\b(?:al\s+d[íi]a|por\s+d[íi]a|diari\w+|por\s+(?:hora|semana|video|tarea))\b|\bgan[ae]\b<25>\b(?:dinero|<amount>)<60>\b(?:me\s+gusta|likes?|videos?|desde\s+casa|pago\s+diario|tareas)\b|)"
+     R"(\b(?:home\s+office|em\s+casa|celular|telem[óo]vel|v[íi]deos|online)\b<60>(?:<amount>|\b(?:reais|euros|r[$]))<30>\b(?:por\s+dia|ao\s+dia|di[áa]ri\w+|por\s+(?:hora|semana))\b|\bganhe\b<30>(?:<amount>|\br[$] ?\d+|\bdinheiro\b)<60>\b(?:por\s+dia|curtindo|v[íi]deos|celular|avaliando|di[áa]rio|em\s+casa)\b|)"
+     R"(\b(?:удал[её]нк\w+|лайк\w+|телефон|из\s+дома|на\s+дому|маркетплейс\w*|подработк\w+)\b<60>\b(?:в\s+день|ежедневн\w+|в\s+час)\b|\b(?:получай|зарабатывай|доход)\b<20>\bот\s+\d+\b<12>\bв\s+(?:день|час|неделю)\b|\d+\s?(?:рублей|руб|₽)\s+в\s+день\b|)"
+     R"((?:在家|居家|手[机機])[\s\S]{0,20}(?:日[赚賺薪结結]|每天|月入|[赚賺][钱錢])|日[赚賺薪][\s\S]{0,4}\d|(?:刷[单單]|点赞|點讚|[关關]注).{0,10}(?:日[结結]|佣金|[赚賺]|返)|)"
+     R"((?:副業|スマホだけ|在宅|バイト|いいね)[\s\S]{0,20}(?:日給|日払い|月収|時給)[\s\S]{0,4}\d|運ぶだけ|いいねを押すだけ|)"
+     R"((?:재택|휴대폰|핸드폰|집에서|알바|고수익)[\s\S]{0,30}(?:일당|하루|건당|당일 ?지급|월 ?\d)|좋아요[\s\S]{0,8}누르)"); }),
      true},
     {"job-mystery-shopper", "Job & goods fraud", "warn", 45,
      "recruits mystery shoppers or car-advert drivers",
@@ -1786,7 +2230,16 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:recevoir|recevez|reciba|recibir|receber|receba)\b<40>\b(?:paiements?|virements?|pagos?|pagamentos?|transfer[êe]ncias?|transferencias?)\b<60>\b(?:(?:commission|comisi[óo]n|comiss[ãa]o)\b|\d+\s?%)|)"
      R"((?:出租|出售|收购|收購|借用)<8>(?:银行卡|銀行卡|银行账户|支付宝|微信号)|)"
      R"((?:口座|通帳|キャッシュカード)<10>(?:買取|売って|譲渡|貸して)|)"
-     R"((?:통장|계좌|체크카드)<8>(?:대여|삽니다|매입|임대|빌려))"); }),
+     R"((?:통장|계좌|체크카드)<8>(?:대여|삽니다|매입|임대|빌려)|)"
+     R"(\b(?:behalten|gebe?n?|abziehen)\b<40>\b(?:anteil|rest|provision|differenz)\b<50>\b(?:spediteur|transporteur|western\s+union|weiter\w*|fahrer|bitcoin)\b|\b(?:überweise?|zahle?|schicke?)\b<30>\bmehr\b<60>\b(?:rest|differenz)\b|)"
+     R"(\b(?:garde[rz]|gardez)\b<20>\b(?:votre|ta)\s+(?:part|commission)\b<40>\b(?:reverse[rz]|envoye[rz]|transfér\w+|reste)\b|)"
+     R"(\b(?:trattenga|tieni|trattieni|tenga)\b<20>\b(?:parte|commissione|percentuale)\b<40>\b(?:resto|vers(?!ion|us|es?\b|atil)\w+|invi(?!t|sib|nc|gor)\w+|trasferisc\w+)\b|)"
+     R"(\bqu[ée]de(?:se|te)\b<20>\b(?:parte|comisi[óo]n)\b<40>\b(?:transfier\w+|env[íi](?!ron|ous|sion|able)\w+|resto)\b|)"
+     R"(\bfique\s+com\b<20>\b(?:parte|comiss[ãa]o)\b<40>\b(?:resto|transfira|envie)\b|)"
+     R"(\b(?:получать|принимать)\b<15>\bпереводы\b<30>\b(?:снимать|обналич\w+|переводить|процент)\b|\bнужны\s+люди\s+с\s+картами\b|\b(?:купим|сдай|аренда)\s+(?:вашу\s+)?карт[уы]\b|)"
+     R"((?:高[价價])?(?:收[购購]|收|出租|租借)[\s\S]{0,4}(?:[银銀]行卡|手[机機]卡|[电電][话話]卡|存摺|提款卡|[账賬帐帳][户戶])|)"
+     R"((?:銀行)?口座[\s\S]{0,6}(?:買い取|売って|貸して|譲)|荷物を受け取って運ぶ|身分証を送って|)"
+     R"((?:현금|돈)[\s\S]{0,4}(?:전달|수거|인출)[\s\S]{0,16}(?:건당|당일|일당|지급)|(?:통장|체크카드|계좌)[\s\S]{0,12}(?:빌려|대여|임대|삽니다))"); }),
      true},
     {"job-upfront-fee", "Job & goods fraud", "warn", 40,
      "asks an applicant or buyer to pay before anything is delivered",
@@ -1797,7 +2250,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:keys?|apartment|house|property)\b<60>\b(?:abroad|out\s+of\s+(?:the\s+)?(?:country|town|state)|overseas|missionary|mail(?:ed)?\s+(?:you|to\s+you)\s+the\s+keys)\b<80>\b(?:deposit|rent|payment|keys|western\s+union|transfer)\b|)"
      R"(\b(?:loan|kredit|darlehen|prêt|pr[ée]stamo|empr[ée]stimo|cr[ée]dito)\b<60>\b(?:\d+(?:[.,]\d+)?\s?%|(?:no\s+collateral|no\s+credit\s+check|without\s+collateral|bad\s+credit|any\s+amount|interest\s+rate|apply\s+(?:now|today)|ohne\s+schufa|sans\s+justificatif|sin\s+aval|sem\s+consulta|pr[ée]-?aprovad\w+|liberad[oa])\b)|)"
      R"(\b(?:vorkasse|vorauszahlung|kaution)\b<60>\b(?:schlüssel|wohnung|ausland|besichtigung|stelle|job)\b|)"
-     R"(\b(?:caution|acompte|mandat\s+cash)\b<60>\b(?:clés|appartement|logement|visite|étranger)\b)"); }),
+     R"(\b(?:caution|acompte|mandat\s+cash)\b<60>\b(?:clés|appartement|logement|visite|étranger)\b|)"
+     R"(\b(?:kredit|darlehen|geld\s+leihen|privatkredit)\w*\b<60>\b(?:ohne\s+(?:schufa|bonität\w*|sicherheit\w*)|keine?\s+(?:schufa|sicherheiten|bonität\w*)|sofort\w*|zinsen|\d+\s?%|private[rnm]?)\b|\b(?:geldgeber|kreditgeber|darlehensgeber)\b<60>\b(?:kredit|darlehen|zinsen|person\w*|vergebe)\b|\b(?:kaution|anzahlung|erste\s+miete|miete)\b[\s\S]{0,100}\b(?:schlüssel|besichtigung|ausland|airbnb)\b[\s\S]{0,60}\b(?:post|kurier|ausland|airbnb|london|england|erhalten|schick\w*|nicht\s+möglich|überweis\w*)\b|\b(?:besichtigung|wohnung)\b[\s\S]{0,80}\b(?:im\s+ausland|in\s+london|in\s+england|beruflich)\b[\s\S]{0,120}\b(?:kaution|anzahlung|miete)\b|)"
+     R"(\b(?:lening|krediet|geld\s+lenen)\b<60>\b(?:zonder\s+(?:bkr|toetsing|onderpand)|direct\s+uitbetaald|geen\s+onderpand|particuliere?|rente)\b|\bgeldschieter\b|\b(?:borg|maand\s+huur|aanbetaling)\b[\s\S]{0,100}\b(?:buitenland|sleutels?|airbnb|bezichtiging)\b|\b(?:woning|appartement|kamer|bezichtiging)\b[\s\S]{0,80}\b(?:buitenland|vooraf)\b[\s\S]{0,100}\b(?:borg|huur|sleutels?)\b|)"
+     R"(\b(?:prêts?|crédits?)\b<50>\b(?:entre\s+particuliers?|particulier|sans\s+justificatif|sans\s+garantie|interdit\s+bancaire|rapide|taux|toute\s+personne|\d+\s?%)|\binterdits?\s+bancaires?\b|\bparticulier\b<30>\b(?:octroie|offre|accorde|prête)\b<30>\b(?:prêts?|crédits?|argent)\b|\b(?:caution|acompte|premier\s+mois|loyer)\b[\s\S]{0,100}\b(?:étranger|clés|clefs|airbnb|mission|angleterre)\b|\b(?:appartement|logement|maison|visite)\b[\s\S]{0,80}\b(?:étranger|angleterre|mission)\b[\s\S]{0,100}\b(?:caution|acompte|verse\w*|mandat|loyer)\b|)"
+     R"(\bprestit[io]\b<60>\b(?:senza\s+(?:busta\s+paga|garanzie)|veloc[ei]|cattivi\s+pagatori|privato|persone\s+serie|al\s+\d|\d+\s?%|protestati)\b|\b(?:privato)\b<15>\boffr\w+\s+prestiti\b|\b(?:caparra|mensilità|acconto|deposito)\b[\s\S]{0,100}\b(?:estero|chiavi|airbnb|corriere)\b|\b(?:appartamento|stanza|casa)\b[\s\S]{0,60}\bestero\b[\s\S]{0,100}\b(?:caparra|chiavi|bonifico)\b|)"
+     R"(\b(?:pr[ée]stamos?|cr[ée]ditos?)\b<60>\b(?:sin\s+(?:aval|bur[óo]|garant[íi]a|requisitos)|r[áa]pidos?|inmediat\w+|prestamista|particular|personas\s+serias|al\s+\d)\b|\bprestamista\b<30>\b(?:particular|privado|ofrezco)\b|\b(?:fianza|dep[óo]sito|mes\s+por\s+adelantado|anticipo|apartar)\b[\s\S]{0,100}\b(?:extranjero|llaves|airbnb|mensajer[íi]a|antes\s+de\s+ver)\b|\b(?:piso|apartamento|departamento|casa)\b[\s\S]{0,60}\b(?:extranjero|fuera\s+del\s+pa[íi]s|antes\s+de\s+verlo)\b[\s\S]{0,100}\b(?:fianza|dep[óo]sito|pagar|transferencia)\b|)"
+     R"(\b(?:empr[ée]stimos?|cr[ée]dito)\b<60>\b(?:negativado|sem\s+consulta|sem\s+garantias?|na\s+hora|particular|juros|spc|serasa|imediat\w+)\b|\b(?:empresto|particular\s+para\s+particular)\b<50>\b(?:juros|garantias?|particular|dinheiro)\b|\b(?:cau[çc][ãa]o|m[êe]s\s+adiantado|sinal|dep[óo]sito)\b[\s\S]{0,100}\b(?:exterior|estrangeiro|chaves|airbnb|correio)\b|\b(?:apartamento|casa|quarto|visita)\b[\s\S]{0,80}\b(?:moro\s+(?:no|fora)|exterior|estrangeiro|adiantado)\b[\s\S]{0,100}\b(?:cau[çc][ãa]o|dep[óo]sito|chaves|pagar)\b|)"
+     R"(\b(?:деньги\s+в\s+долг|дам\s+в\s+долг|даст\s+в\s+долг|займ\w?|кредит)\b<50>\b(?:без\s+отказа|без\s+залога|без\s+поручителей|плох\w+\s+кредитн\w+|без\s+предоплат\w+|без\s+справок|частный\s+инвестор|под\s+\d)\b|\bчастный\s+(?:инвестор|кредитор|займ)\b|\b(?:залог|предоплат\w+|аванс)\b[\s\S]{0,80}\b(?:ключи|за\s+границей|до\s+просмотра|курьер\w+)\b|\b(?:за\s+границей|до\s+просмотра)\b[\s\S]{0,80}\b(?:залог|предоплат\w+)\b|)"
+     R"((?:急用[钱錢]|[贷貸]款)[\s\S]{0,20}(?:[凭憑]身份[证證]|利息低|放款快|手[续續][简簡][单單]|利率低)|[凭憑]身份[证證][\s\S]{0,6}(?:即可)?(?:[办辦]理|[贷貸])|(?:[贷貸]款|借[款钱錢]|融[资資]|[额額]度)[\s\S]{0,20}(?:[无無]抵押|免抵押|[无無][担擔]保|免[担擔]保|[当當]天放款|秒[到批]|黑[户戶]|不看征信|[审審]批通[过過])|(?:[无無]抵押|[无無][担擔]保|黑[户戶]|秒到[账賬]|[当當]天放款)|(?:押金|[订訂定]金)[\s\S]{0,30}(?:[国國]外|[钥鑰]匙.{0,4}(?:快[递遞]|寄)|看房前)|(?:[国國]外|看房前)[\s\S]{0,24}(?:押金|[订訂定]金)|)"
+     R"((?:融資|貸付|借り|ローン)[\s\S]{0,24}(?:無担保|保証人不要|ブラックOK|審査なし|即日|誰でも|先に保証金)|(?:無担保|審査なし|ブラックOK|即日融資)|(?:敷金|予約金|前家賃)[\s\S]{0,30}(?:鍵を|海外|内見の前)|(?:海外|内見の前)[\s\S]{0,24}(?:敷金|予約金|前家賃)|)"
+     R"((?:보증 ?보험료|선수금|공탁금|예치금)[\s\S]{0,16}(?:입금|납부)[\s\S]{0,12}(?:한도|대출|승인)|기존 ?대출[\s\S]{0,14}상환[\s\S]{0,20}(?:신용|승인|한도)|대출[\s\S]{0,30}(?:무담보|무보증|저금리|당일|신용 ?등급|승인|대환|정부 ?지원)|(?:무담보|저금리|정부 ?지원|무직자)[\s\S]{0,10}대출|(?:보증금|예약금|계약금)[\s\S]{0,30}(?:열쇠|해외|보시기 ?전|보기 ?전)|(?:해외|보시기 ?전|보기 ?전)[\s\S]{0,24}(?:보증금|예약금|계약금))"); }),
      true},
 
     // ---- Romance fraud -------------------------------------------------------------------------
@@ -1811,7 +2274,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:russian|ukrainian|asian|lonely|single|hot|beautiful|sexy|mature)\s+(?:girls?|women|ladies|woman|lady|singles|brides?)\b<60>\b(?:waiting|want|looking|meet|chat|near\s+you|your\s+area|dating|interested|message|love|marriage|husband|photos?|nearby|online)\b|)"
      R"(\b(?:einsam\w*|verliebt|seelenverwandt\w*|traummann|traumfrau)\b<60>\b(?:profil|foto|online|kennenlernen|schreib\w*|bekanntschaft|treffen)\b|)"
      R"(\b(?:âme\s+sœur|amour|relation\s+sérieuse)\b<60>\b(?:profil|photo|en\s+ligne|rencontre|écri\w+)\b|)"
-     R"(\b(?:alma\s+gemela|alma\s+g[êe]mea|relaci[óo]n\s+seria|relacionamento\s+s[ée]rio)\b<60>\b(?:perfil|foto|en\s+l[íi]nea|online|conoc\w+|conhec\w+)\b)"); }),
+     R"(\b(?:alma\s+gemela|alma\s+g[êe]mea|relaci[óo]n\s+seria|relacionamento\s+s[ée]rio)\b<60>\b(?:perfil|foto|en\s+l[íi]nea|online|conoc\w+|conhec\w+)\b|)"
+     R"(\b(?:schatz|liebling|mein\s+herz|engel)\b[\s\S]{0,60}\bliebe\s+dich\b[\s\S]{0,120}\b(?:geld|ticket|euro|schick|überweis\w*|leih\w*)\b|\b(?:dein|ihr)\s+profil\b<40>\b(?:verzaubert|gefällt|gesehen|berührt|angezogen|beeindruckt|gefunden)\b[\s\S]{0,80}\b(?:schreib\w*|whats\s?app|kennen\w*|telegram|hangouts|antwort\w*)\b|)"
+     R"(\b(?:lieverd|schat|schatje|liefste)\b[\s\S]{0,160}\b(?:geld|ticket|overmaken|sturen|lenen|<amount>)|\bje\s+profiel\b<40>\b(?:verliefd|mooi|geraakt|leuk)\b|)"
+     R"(\b(?:mon\s+(?:amour|cœur|chéri)|ma\s+(?:chérie|vie|belle))\b[\s\S]{0,160}\b(?:argent|mandat|billet|envoy\w+)\b|\bvotre\s+profil\b<30>\b(?:touché|plu|attiré|séduit)\w*\b|\b(?:faire|mieux)\s+(?:votre\s+)?connaissance\b<60>\b(?:écri\w+|whats\s?app|hangouts|e-?mail|telegram)\b|)"
+     R"(\b(?:amore\s+mio|tesoro|amore)\b[\s\S]{0,160}\b(?:soldi|biglietto|mandami|inviami|prestami|<amount>)|\b(?:tuo|suo)\s+profilo\b<40>\b(?:innamorat\w+|colpit\w+|piaciut\w+)\b|)"
+     R"(\bmi\s+(?:amor|vida|cielo|reina|rey)\b[\s\S]{0,160}\b(?:dinero|boleto|billete|env[íi](?!ron|ous|sion|able)\w+|m[áa]nd\w+|western\s+union|<amount>)|\b(?:tu|su)\s+perfil\b<40>\b(?:enamor\w+|gust\w+|cautiv\w+|llam[óo])\b|)"
+     R"(\bmeu\s+(?:amor|bem|anjo)\b[\s\S]{0,160}\b(?:dinheiro|passagem|bilhete|manda|envia|mande|<amount>)|\bseu\s+perfil\b<40>\b(?:apaixon\w+|encant\w+|gost\w+)\b|\bteu\s+perfil\b<40>\bapaixon\w+\b|)"
+     R"(\b(?:увидел\w?|наш[её]л|нашла)\b<15>\b(?:твою|вашу|твой|ваш)\b<8>\b(?:анкету|фото|профиль|страницу)\b<30>\b(?:влюбил\w+|понравил\w+|познаком\w+)\b|\b(?:любимая|любимый|дорогая|милая)\b[\s\S]{0,120}\b(?:перевед\w+|деньг\w+|билет)\b<40>\b(?:увидимся|верну|скоро)\b|)"
+     R"((?:看到|[网網]上)[\s\S]{0,8}(?:你|您)的?(?:照片|[头頭]像|主[页頁])[\s\S]{0,12}(?:好感|[认認][识識]|心[动動]|喜[欢歡])|(?:[亲親][爱愛]的|[宝寶][贝貝])[\s\S]{0,40}(?:借我|[转轉][给給]?我|[机機]票)|(?:加[错錯]人|打[错錯]了|[发發][错錯]人)[\s\S]{0,24}(?:[缘緣]分|交[个個]?朋友|[认認][识識])|)"
+     R"((?:愛しています|プロフィール[\s\S]{0,6}惹かれ|写真[\s\S]{0,6}惹かれ)[\s\S]{0,60}(?:送って|盗まれ|LINE|お話し|万円|返します)?|(?:番号を間違え|間違えて(?:連絡|登録|追加))[\s\S]{0,24}(?:ご縁|友達|お友達)|)"
+     R"((?:사진|프로필)[\s\S]{0,8}(?:보고)?[\s\S]{0,6}(?:반했|마음에 ?들|끌렸|호감)|자기야[\s\S]{0,50}(?:보내|돈|갚)|번호[\s\S]{0,6}(?:잘못|틀리)[\s\S]{0,24}(?:인연|친구))"); }),
      true},
     {"rom-stuck-abroad", "Romance fraud", "warn", 50,
      "says the sender is stranded abroad and needs money",
@@ -1822,7 +2295,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:festsitz\w*|gestrandet|ausgeraubt|überfallen|bestohlen)\b<100>\b(?:ausland|flughafen|hotel|pass|botschaft)\b<100>\b(?:geld|überweis\w+|leih\w*|euro)\b|)"
      R"(\b(?:coincée?|bloquée?|agressée?|volée?)\b<80>\b(?:étranger|aéroport|hôtel|passeport|ambassade)\b<80>\b(?:argent|prêt\w*|virement|mandat|aide)\b|)"
      R"(\b(?:varad[oa]|atrapad[oa]|asaltad[oa]|robad[oa]|pres[oa]|assaltad[oa])\b<80>\b(?:extranjero|exterior|aeropuerto|aeroporto|hotel|pasaporte|passaporte|embajada|embaixada)\b<80>\b(?:dinero|dinheiro|env[íi]\w+|prest\w+|emprest\w+)\b|)"
-     R"(\b(?:hi|hello|hey|hallo|hola|oi|olá|salut)\b<5>\b(?:mum|mom|dad|mama|papa|m[ãa]e|pai|maman|mamá|papá|pap[áa]i|m[ãa]m[ãa]e)\b<80>\b(?:new\s+(?:phone|number)|neue\s+(?:nummer|handynummer)|neues\s+handy|nouveau\s+numéro|nuevo\s+n[úu]mero|novo\s+n[úu]mero|nieuw(?:e)?\s+(?:nummer|telefoon)|lost\s+my\s+phone|phone\s+(?:broke|is\s+broken)|handy\s+(?:ist\s+)?kaputt)\b)"); }),
+     R"(\b(?:hi|hello|hey|hallo|hola|oi|olá|salut)\b<5>\b(?:mum|mom|dad|mama|papa|m[ãa]e|pai|maman|mamá|papá|pap[áa]i|m[ãa]m[ãa]e)\b<80>\b(?:new\s+(?:phone|number)|neue\s+(?:nummer|handynummer)|neues\s+handy|nouveau\s+numéro|nuevo\s+n[úu]mero|novo\s+n[úu]mero|nieuw(?:e)?\s+(?:nummer|telefoon)|lost\s+my\s+phone|phone\s+(?:broke|is\s+broken)|handy\s+(?:ist\s+)?kaputt)\b|)"
+     R"(\b(?:hallo|hi|hey|liebe[r]?|guten\s+tag)?\s?\b(?:mama|mami|mutti|papa|papi|vati|oma|opa)\b[\s\S]{0,120}\b(?:neue\s+(?:handy|telefon)?nummer|neue\s+nummer|neues\s+(?:handy|telefon)|anderen?\s+nummer|handy\b<40>\b(?:kaputt|hin|defekt|verloren|gestohlen|geklaut|gefallen|geschrottet|reparatur))\b|\b(?:mama|papa|oma|opa)\b[\s\S]{0,120}\b(?:unfall|klemme|verhaftet|festgenommen|krankenhaus|polizei)\b[\s\S]{0,100}\b(?:geld|kaution|euro|überweis\w*)\b|\b(?:mama|papa|oma|opa)\b[\s\S]{0,100}\b(?:überweisung\s+(?:von|für\s+mich)|überweis(?:en|t|e)?\b<30>\b(?:für\s+mich|mir)|rechnung\s+(?:zahlen|bezahlen|überweisen))\b|\b(?:sitze|bin|stecke|hänge)\b<20>\b(?:am\s+flughafen|im\s+ausland|in\s+der\s+botschaft|im\s+krankenhaus|im\s+gefängnis|in\s+\w+)\b<20>\bfest\b[\s\S]{0,120}\b(?:geld|euro|überweis\w*|ticket|leih\w*)\b|\b(?:geld|geldbörse|brieftasche|portemonnaie|pass|koffer)\b<25>\b(?:gestohlen|geklaut|verloren|geraubt)\b[\s\S]{0,100}\b(?:schick|überweis\w*|leih\w*|send)\w*\b<40>\b(?:euro|geld|ticket|<amount>)|)"
+     R"(\b(?:mam|mama|pap|papa|oma|opa|pa|ma)\b[\s\S]{0,120}\b(?:nieuw(?:e)?\s+nummer|nieuwe\s+(?:telefoon|mobiel)|ander\s+nummer|(?:telefoon|mobiel|gsm)\b<40>\b(?:kapot|kwijt|gestolen|gevallen|stuk|verloren))\b|\b(?:oma|opa|mam|pap|mama|papa)\b[\s\S]{0,80}\b(?:ongeluk|ziekenhuis|politie|opgepakt|problemen)\b[\s\S]{0,100}\b(?:geld|borg|euro|overmaken)\b|\b(?:zit|sta)\s+vast\b<25>\b(?:vliegveld|buitenland|ziekenhuis|douane|luchthaven|op|in)\b[\s\S]{0,120}\b(?:stuur|sturen|overmaken|leen|lenen|geld|ticket|<amount>)|\b(?:portemonnee|paspoort|tas|koffer)\b<25>\b(?:gestolen|kwijt|verloren)\b[\s\S]{0,100}\b(?:sturen|stuur|overmaken|lenen|ticket)\b|)"
+     R"(\b(?:maman|papa|mamie|papi|papy|mamy)\b[\s\S]{0,120}\b(?:nouveau\s+numéro|nouveau\s+(?:portable|téléphone)|ce\s+numéro|changé\s+de\s+numéro|(?:portable|téléphone|tel)\b<40>\b(?:cassé|perdu|volé|tombé|panne|réparation|fichu))\b|\b(?:cassé|perdu|tombé|volé)\b<25>\b(?:portable|téléphone|tel)\b[\s\S]{0,80}\b(?:numéro|message|whats\s?app)\b|\b(?:maman|papa|mamie|papi|papy)\b[\s\S]{0,100}\b(?:accident|garde\s+à\s+vue|hôpital|police|ennuis)\b[\s\S]{0,100}\b(?:euros?|argent|caution|avocat|virement|<amount>)|\b(?:bloquée?|coincée?|retenue?)\b<20>\b(?:à\s+l['’]aéroport|à\s+l['’]étranger|à\s+l['’]hôpital|en\s+\w+|au\s+\w+)\b[\s\S]{0,140}\b(?:argent|euros?|virement|mandat|billet|<amount>)|\b(?:volé|perdu)\b<25>\b(?:portefeuille|passeport|sac|argent)\b[\s\S]{0,100}\b(?:envoy\w+|prêt\w+|mandat|virement|billet)\b|)"
+     R"(\b(?:mamma|papà|nonn[ao]|zi[ao]|babbo|ma)\b[\s\S]{0,120}\b(?:nuovo\s+numero|numero\s+nuovo|altro\s+numero|cambiato\s+numero|(?:telefono|cellulare)\b<40>\b(?:rotto|perso|rubato|caduto|guasto|riparazione))\b|\b(?:rotto|perso|rubato|caduto)\b<20>\b(?:telefono|cellulare)\b[\s\S]{0,80}\b(?:numero|whats\s?app|bonifico)\b|\b(?:nonn[ao]|mamma|papà|figlio|figlia|nipote)\b[\s\S]{0,80}\b(?:incidente|arrestat[oa]|ospedale|carabinieri|polizia|guai)\b[\s\S]{0,100}\b(?:euro|soldi|cauzione|contanti|avvocato|gioielli)\b|\b(?:bloccat[oa]|trattenut[oa])\b<25>\b(?:aeroporto|estero|dogana|ospedale)\b[\s\S]{0,120}\b(?:mand(?!at|ar|y\b)\w+|invi(?!t|sib|nc|gor)\w+|prest\w+|soldi|biglietto|<amount>)|\b(?:rubato|perso)\b<25>\b(?:portafogli\w*|passaporto|borsa|valigia)\b[\s\S]{0,100}\b(?:mand(?!at|ar|y\b)\w+|invi(?!t|sib|nc|gor)\w+|prest\w+|biglietto)\b|)"
+     R"(\b(?:mam[áa]|pap[áa]|abuel[oa]|t[íi][oa]|mami|papi|ma|pa)\b[\s\S]{0,120}\b(?:nuevo\s+n[úu]mero|nuevo\s+tel[ée]fono|n[úu]mero\s+(?:nuevo|prestado)|otro\s+n[úu]mero|cambi[ée]\s+de\s+n[úu]mero|(?:m[óo]vil|celular|tel[ée]fono)\b<40>\b(?:roto|rompi[óo]|perd[íi]|robaron|da[ñn]ado|da[ñn]ó|descompuso|cay[óo]))\b|\b(?:perd[íi]|rompi[óo]|robaron|roto)\b<20>\b(?:m[óo]vil|celular|tel[ée]fono)\b[\s\S]{0,80}\b(?:n[úu]mero|whats\s?app|escr[íi]beme|transferencia)\b|\b(?:abuel[oa]|mam[áa]|pap[áa]|t[íi][oa])\b[\s\S]{0,80}\b(?:accidente|detenid[oa]|hospital|polic[íi]a|problema)\b[\s\S]{0,100}\b(?:dinero|fianza|euros?|pesos|d[óo]lares|abogado|transfer\w+)\b|\b(?:atrapad[oa]|varad[oa]|detenid[oa]|retenid[oa])\b<25>\b(?:aeropuerto|extranjero|aduana|hospital)\b[\s\S]{0,120}\b(?:m[áa]nd\w+|env[íi](?!ron|ous|sion|able)\w+|prest\w+|dinero|boleto|billete|western\s+union|<amount>)|\b(?:robaron|perd[íi])\b<25>\b(?:cartera|billetera|pasaporte|maleta|dinero)\b[\s\S]{0,100}\b(?:m[áa]nd\w+|env[íi](?!ron|ous|sion|able)\w+|prest\w+|boleto|billete)\b|)"
+     R"(\b(?:m[ãa]e|pai|v[óo]|av[óoô]|tia|tio|filho|mam[ãa]e|papai)\b[\s\S]{0,120}\b(?:n[úu]mero\s+novo|novo\s+n[úu]mero|outro\s+n[úu]mero|mudei\s+de\s+n[úu]mero|troquei\s+de\s+n[úu]mero|(?:celular|telem[óo]vel|telefone)\b<40>\b(?:quebrou|estragou|caiu|partiu|perdi|roubaram|avari\w+))\b|\b(?:perdi|quebrou|estragou|roubaram|partiu)\b<20>\b(?:celular|telem[óo]vel|telefone)\b[\s\S]{0,80}\b(?:n[úu]mero|whats\s?app|transfer[êe]ncia)\b|\b(?:m[ãa]e|pai|v[óo]|av[óoô]|tia|tio)\b[\s\S]{0,100}\b(?:pix|boleto|transfer[êe]ncia)\b[\s\S]{0,60}\b(?:devolvo|pago|pra\s+mim|para\s+mim|hoje)\b|\b(?:v[óo]|av[óoô]|m[ãa]e|pai)\b[\s\S]{0,80}\b(?:acidente|pres[oa]|hospital|pol[íi]cia)\b[\s\S]{0,100}\b(?:dinheiro|fian[çc]a|pix|reais|euros)\b|\b(?:pres[oa]|ret[io]d[oa]|detid[oa])\b<25>\b(?:aeroporto|exterior|alf[âa]ndega|hospital|estrangeiro)\b[\s\S]{0,120}\b(?:manda|envia|envie|mande|empresta|dinheiro|passagem|bilhete|<amount>)|\b(?:roubaram|perdi)\b<25>\b(?:carteira|passaporte|mala|bolsa)\b[\s\S]{0,100}\b(?:manda|envia|mande|empresta|passagem|bilhete)\b|)"
+     R"(\b(?:мам|мама|мамочка|пап|папа|папуль|бабушка|бабуль|дедушка|дед|тёт|сынок)\b[\s\S]{0,120}\b(?:нов(?:ый|ого)\s+номер|друг(?:ой|ого)\s+номера?|с\s+чужого\s+(?:телефона|номера)|(?:сломал\w*|разбил\w*|потерял\w*|украли|утопил\w*)\b<20>\b(?:телефон\w*|мобильн\w*|номер)|телефон\b<20>\b(?:сломал\w*|разбил\w*|украли|утонул))\b|\b(?:мам|мама|пап|папа|бабушка|дедушка|сын|внук|дочь)\b[\s\S]{0,80}\b(?:авари\w+|дтп|сбил\w?|задержали|полици\w+|больниц\w+|следовател\w+)\b[\s\S]{0,120}\b(?:деньг\w*|тысяч|передать|перевед\w+|курьер\w*|залог)\b|\bзастрял\w?\b<30>\b(?:аэропорт\w*|за\s+границей|таможн\w+|в\s+другой\s+стране)\b[\s\S]{0,120}\b(?:перевед\w+|вышли|пришли|одолжи|билет|деньг\w*)\b|\b(?:украли|потерял\w?)\b<25>\b(?:деньги|кошел[её]к|паспорт|сумку|документы)\b[\s\S]{0,80}\b(?:перевед\w+|вышли|пришли|одолжи|займи)\b|)"
+     R"((?:妈|媽|爸|奶奶|爷爷|爺爺|外婆|姥姥|阿姨|叔叔)[\s\S]{0,40}(?:换号|換號|新号码|新號碼|新的号码|新的號碼|手[机機].{0,8}(?:坏|壞|丢|掉|摔|屏|修))|(?:妈|媽|爸|奶奶|爷爷|爺爺|外婆|姥姥)[\s\S]{0,40}(?:车祸|車禍|被抓|撞人|住院|出事|派出所)[\s\S]{0,40}(?:[万萬]|急需|[钱錢]|打到|[转轉]|[汇匯])|(?:国外|國外|机场|機場|海外|出差)[\s\S]{0,20}(?:被偷|丢了|丟了|被抢|被搶|被扣)[\s\S]{0,30}(?:借|[转轉]|[汇匯]|机票|機票|[钱錢])|)"
+     R"((?:お?母さん|お?父さん|ママ|パパ|じいちゃん|ばあちゃん|おじいちゃん|おばあちゃん|オレだけど|俺だけど)[\s\S]{0,60}(?:番号[がを]?変わ|新しい番号|携帯[がを](?:壊|落と|なくし|水没)|スマホ[がを](?:壊|落と|なくし))|(?:お?母さん|お?父さん|じいちゃん|ばあちゃん|オレだけど|俺だけど|オレオレ)[\s\S]{0,60}(?:事故|示談|会社の金|なくして|使い込|妊娠させ|逮捕|横領)[\s\S]{0,60}(?:万円|振り込|渡して|お金|示談金|必要)|(?:空港|海外|外国)[\s\S]{0,20}(?:盗まれ|足止め|なくし|拘束)[\s\S]{0,40}(?:送って|振り込|貸して|万円|チケット代)|)"
+     R"((?:엄마|아빠|어머니|아버지|할머니|할아버지|이모|삼촌|고모)[\s\S]{0,60}(?:(?:폰|핸드폰|휴대폰|액정|전화기)[\s\S]{0,10}(?:깨졌|깨져|고장|망가|파손|떨어|수리|잃어)|번호[\s\S]{0,4}바뀌|이\s?번호로|새\s?번호|친구\s?폰)|(?:엄마|아빠|어머니|아버지|할머니|할아버지)[\s\S]{0,60}(?:사고|합의금|경찰서|병원비|납치|다쳤)[\s\S]{0,60}(?:만 ?원|돈|입금|송금|급해|보내|말하지)|(?:엄마|아빠|어머니|아버지)[\s\S]{0,60}(?:신분증|민증|주민증|카드)[\s\S]{0,12}(?:사진|찍어|보내)|(?:공항|해외|외국)[\s\S]{0,20}(?:도둑|잃어버|뺏|억류|갇)[\s\S]{0,40}(?:돈|보내|송금|표))"); }),
      true},
     {"rom-never-met", "Romance fraud", "warn", 30,
      "speaks of love and money between people who have never met",
@@ -1832,7 +2315,16 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:chat|talk|write|reply|contact|add|message)\b<20>\b(?:me\s+)?(?:on|via|through|at|to)\b<10>\b(?:my\s+)?(?:private\s+|personal\s+|direct\s+)?(?:whats\s?app|telegram|hangouts|google\s+chat|e-?mail(?:\s+address)?|signal|viber|line|wechat)\b<80>\b(?:photos?|pictures?|know\s+(?:each\s+other|more|you)|love|dear|honey|beautiful|lonely|relationship|friend(?:ship)?|single|handsome|tell\s+you\s+more)\b|)"
      R"(\b(?:nie\s+getroffen|noch\s+nie\s+begegnet)\b<60>\b(?:liebe|geld|vertrau\w*|ticket)\b|)"
      R"(\b(?:jamais\s+rencontrés?)\b<60>\b(?:amour|argent|billet|confiance)\b|)"
-     R"(\b(?:nunca\s+nos\s+(?:hemos\s+visto|conocimos|vimos))\b<60>\b(?:amor|dinero|dinheiro|confian\w+)\b)"); }),
+     R"(\b(?:nunca\s+nos\s+(?:hemos\s+visto|conocimos|vimos))\b<60>\b(?:amor|dinero|dinheiro|confian\w+)\b|)"
+     R"(\bschrijf\s+me\b<15>\b(?:op|via|privé\w*|e-?mail)\b|\bwedu(?:we|wnaar)\b<60>\b(?:profiel|verliefd|kennis)\b|)"
+     R"(\b(?:veuf|veuve|divorcée?|célibataire)\b<60>\b(?:connaissance|profil|relation|âme\s+sœur|rencontr\w+)\b|\bécri(?:s|vez)-moi\b<15>\b(?:hangouts|whats\s?app|telegram|adresse|e-?mail)\b|)"
+     R"(\bscrivimi\b<10>\b(?:in\s+privato|su|via|e-?mail)\b|\bvedov[oa]\b<60>\b(?:profilo|conoscer\w+|innamorat\w+)\b|)"
+     R"(\bescr[íi]be(?:me)?\b<20>\b(?:correo|whats\s?app|telegram|hangouts)\b<40>\b(?:conoc\w+|amistad|privado)\b|\b(?:viud[oa]|divorciad[oa])\b<60>\b(?:perfil|conoc\w+|amor|enamor\w+)\b|)"
+     R"(\bescreve\b<15>\b(?:no|para\s+o|e-?mail|whats\s?app|telegram)\b|\b(?:vi[úu]v[oa]|divorciad[oa])\b<60>\b(?:perfil|conhec\w+|apaixon\w+)\b|)"
+     R"(\bнапиши\w*\s+мне\s+в\s+(?:в(?:о|а)т[сц]ап|телеграм\w*)\b<1>|)"
+     R"((?:加我|加)(?:微信|LINE|QQ)[\s\S]{0,4}(?:[慢细詳]|聊|[认認][识識])|(?:[缘緣]分)[\s\S]{0,12}(?:朋友|[认認][识識])|回[来來]就[还還]你|)"
+     R"(LINEでお話し|これも(?:何かの)?ご縁|お友達になり|)"
+     R"((?:인연|친구)[\s\S]{0,8}친구|(?:카톡|라인|텔레그램)[\s\S]{0,4}으?로[\s\S]{0,4}친구|갚을게|친구 ?할까요|친구하고 ?싶)"); }),
      true},
     {"rom-military", "Romance fraud", "warn", 30,
      "poses as a soldier or contractor on deployment",
@@ -1841,7 +2333,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:deployed|stationed|serving|deployment)\b<40>\b(?:syria|afghanistan|iraq|yemen|kabul|baghdad|somalia|libya|ukraine|oil\s+rig|offshore|overseas|peace\s?keeping)\b<80>\b(?:you|love|alone|widow\w*|chat|meet|heart|leave)\b|)"
      R"(\b(?:i\s+am|i['’]m|am|my\s+name\s+is|this\s+is)\b<40>\b(?:sgt|sergeant|captain|major|general|lieutenant|colonel|soldier|army\s+officer|marine|us\s+army|u\.s\.\s+army|military\s+(?:officer|doctor|nurse|surgeon)|peace\s?keep(?:er|ing)|surgeon|petroleum\s+engineer|oil\s+rig|offshore\s+engineer|war\s+doctor)\b<120>\b(?:deployed|deployment|stationed|serving|syria|afghanistan|iraq|yemen|ukraine|kabul|baghdad|somalia|peace\s?keeping|base|camp|united\s+nations|mission|rig|offshore|widow\w*|retire)\b<120>\b(?:you|your|money|box|package|fund|leave|love|trust|consignment|retire\w*|assist\w*|met|friend\w*|relationship|help)\b|)"
      R"(\b(?:deployed|stationed|serving|mission)\b<25>\b(?:in|at)\s+(?:syria|afghanistan|iraq|yemen|ukraine|kabul|baghdad|somalia|libya|a\s+war\s+zone)\b<150>\b(?:love|leave\s+(?:fee|request)|trunk|consignment|box|million|fund|dear|honey|trust\s+you|relationship|retire\w*|safe\s?keeping|money\s+out)\b|)"
-     R"(\b(?:us\s+army|u\.s\.\s+army|american\s+soldier|peace\s?keeping|military)\b<120>(?:\b(?:consignment|trunk\s+box|box\s+of|safe\s?keeping|found\s+(?:some\s+)?money|million)|\$\s?\d[\d,.]*\s?m\w*)\b)"); }),
+     R"(\b(?:us\s+army|u\.s\.\s+army|american\s+soldier|peace\s?keeping|military)\b<120>(?:\b(?:consignment|trunk\s+box|box\s+of|safe\s?keeping|found\s+(?:some\s+)?money|million)|\$\s?\d[\d,.]*\s?m\w*)\b|)"
+     R"(\b(?:ich\s+bin|bin|als)\b<30>\b(?:offizier|soldat\w*|general|major|oberst|sergeant|arzt|ärztin|ingenieur\w*)\b<60>\b(?:us-?armee|armee|syrien|afghanistan|jemen|irak|bohrinsel|ölplattform|uno|un-mission|stationiert|einsatz)\b|)"
+     R"(\b(?:militair|soldaat|generaal|arts|sergeant|kapitein|ingenieur)\b<40>\b(?:syrië|afghanistan|jemen|irak|missie|leger|booreiland|vn)\b|)"
+     R"(\b(?:militaire|soldat|officier|ingénieur|médecin|chirurgien|capitaine|général)\b<60>\b(?:plateforme\s+pétrolière|syrie|mission|armée|afghanistan|yémen|onu|déployée?)\b|)"
+     R"(\b(?:militare|soldato|generale|medico|ufficiale|sergente|capitano|ingegnere)\b<40>\b(?:siria|afghanistan|yemen|iraq|missione|onu|esercito|piattaforma)\b|)"
+     R"(\b(?:militar|soldado|general|m[ée]dico|sargento|capit[áa]n|ingeniero|cirujano)\b<60>\b(?:siria|afganist[áa]n|yemen|irak|ej[ée]rcito|misi[óo]n|onu|plataforma\s+petrolera)\b|)"
+     R"(\b(?:militar|soldado|m[ée]dico|general|sargento|capit[ãa]o|engenheiro)\b<60>\b(?:s[íi]ria|afeganist[ãa]o|i[êe]men|iraque|ex[ée]rcito|miss[ãa]o|onu|plataforma)\b|)"
+     R"(\bя\b<10>\b(?:военный|солдат|генерал|хирург|врач|инженер)\b<30>\b(?:сири\w+|йемен\w*|миротвор\w+|оон|нефтян\w+|афганистан\w*)\b|)"
+     R"((?:我是)[\s\S]{0,10}(?:美[国國军軍]|[军軍][医醫官人]|工程[师師]|[维維]和)[\s\S]{0,16}(?:[叙敘]利[亚亞]|也[门門]|阿富汗|[维維]和|石油|派[驻駐])|)"
+     R"((?:シリア|イエメン|アフガニスタン|国連|派遣)[\s\S]{0,20}(?:軍の?(?:医師|医)|軍人|将軍|兵士|エンジニア)|)"
+     R"((?:시리아|예멘|아프간|이라크|유엔|파병)[\s\S]{0,12}(?:군인|군의관|미군|의사|장교)|(?:군인|군의관|미군|장교)[\s\S]{0,20}(?:시리아|예멘|파병))"); }),
      true},
 
     // ---- Bulk mail -----------------------------------------------------------------------------
@@ -1915,7 +2417,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:100\s?%\s+gratis|helemaal\s+gratis|volledig\s+gratis|geheel\s+gratis|vrijblijvend)\b|)"
      R"((?:免费领取|免費領取|完全免费|完全免費|完全無料|登録無料|무료\s?(?:체험|증정|나눔))|)"
      R"(\b(?:erhalten\s+sie|sichern\s+sie\s+sich|hol\s+dir|get|receive|claim)\b<15>[$€£]?\s?\d[\d.,]*\s?[$€£]?<8>\b(?:gratis|kostenlos|free|bonus)\b|)"
-     R"(\b\d{2,3}\s?%\s+(?:\w+\s+){0,2}(?:bonus|cash\s?back)\b)"); }),
+     R"(\b\d{2,3}\s?%\s+(?:\w+\s+){0,2}(?:bonus|cash\s?back)\b|)"
+     R"(\b(?:kredit|darlehen)\w*\b<60>\b(?:ohne|keine)\b<12>\b(?:schufa|sicherheit\w*|bürgen|bonität\w*|vorkosten|einkommensnachweis)\b|\b(?:schnelle|sofortige|feste)\s+(?:zusage|auszahlung|genehmigung)\b|)"
+     R"(\b(?:lening|krediet)\b<60>\b(?:zonder|geen)\b<8>\b(?:bkr|onderpand|toetsing|borg)\b|\bgeldschieter\b<60>\b(?:binnen\s+24\s+uur|antwoord|rente)\b|)"
+     R"(\b(?:prêts?|crédits?)\b<60>\bsans\s+(?:justificatif|garantie|frais|caution|enquête)\b|\bréponse\s+rapide\b|\b(?:prêts?|crédits?)\s+à\s+toute\s+personne\b|)"
+     R"(\bprestit[io]\b<60>\b(?:senza\s+(?:busta\s+paga|garanzie|garante|spese)|anche\s+(?:a\s+)?cattivi\s+pagatori)\b|\brisposta\s+in\s+24\s+ore\b|)"
+     R"(\b(?:pr[ée]stamos?|cr[ée]ditos?)\b<60>\bsin\s+(?:aval|bur[óo]|garant[íi]as?|requisitos|historial)\b|\b(?:dep[óo]sito|aprobaci[óo]n|respuesta)\s+(?:inmediat[oa]|en\s+24\s+horas)\b|)"
+     R"(\b(?:empr[ée]stimo|empresto|cr[ée]dito)\b<80>\b(?:sem\s+(?:consulta|garantias?|burocracia|fiador|comprova[çc][ãa]o)|mesmo\s+negativado)\b|)"
+     R"(\b(?:долг|займ\w?|кредит|деньги)\b<40>\bбез\s+(?:отказа|залога|поручителей|предоплаты|справок|проверок)\b|)"
+     R"([凭憑]身份[证證]即可|放款快|秒批|(?:[无無]抵押|[无無][担擔]保|免[担擔]保|免息|不[查看]征信|黑[户戶]也)|秒到[账賬]|)"
+     R"((?:無担保|保証人不要|審査なし|ブラックOK|誰でも借りられ)|)"
+     R"(무담보|무보증|무서류|신용 ?등급 ?(?:상관|무관|관계)|(?:당일|즉시) ?(?:입금|대출|승인)|기존 ?대출[\s\S]{0,8}상환)"); }),
      true},
 
     // ---- Abuse ---------------------------------------------------------------------------------
@@ -2226,10 +2738,9 @@ constexpr auto table = std::to_array<Rule>({
     {"sa-excuse-remove", "Bulk mail", "warn", 40,
      "excuses a mass mailing as wanted and harmless",
      pattern([] { return std::string_view(
-     R"(\b(?:this\s+(?:\w+\s+)?(?:is|was)\s+not|not\s+(?:a\s+)?|isn['’]t|never\s+send|do\s+not\s+send)\s?(?:spam|junk\s+mail|unsolicited)\b<80>\b(?:you|your|because|as|since|but|simply|signed|subscribed|agreed|partner|list)\b|)"
+     R"(\b(?:this\s+(?:\w+\s+)?(?:is|was)\s+not|not\s+(?:a\s+)?|isn['’]t|never\s+send|do\s+not\s+send)\s?(?:spam|junk\s+mail|unsolicited)\b<80>\b(?:opted|signed\s+up|agreed|partners?|opt-?in|our\s+list|requested\s+(?:it|this))\b|)"
      R"(\b(?:receiv(?:e|ed|ing)|got|getting|sent)\b<30>\b(?:this|our)\s+(?:\w+\s+)?(?:e-?mail|message|mailing|offer|mail|newsletter)\b<20>\b(?:because|since|as)\s+you\s+(?:\w+\s+)?(?:opted|signed\s+up|subscribed|registered|agreed|requested|asked|expressed|visited|indicated)\b<60>\b(?:partner\w*|affiliate\w*|third\s+part\w+)\b|)"
      R"(\b(?:you\s+(?:asked|agreed|opted|signed\s+up|consented|requested))\b<25>\bto\s+(?:receive|get|be\s+sent|hear)\b<40>\b(?:offers?|promotions?|mailings?|partners?|advertis\w*)\b|)"
-     R"(\b(?:if\s+(?:you|this)\b<30>\b(?:in\s+error|by\s+mistake|do\s+not\s+want|no\s+longer\s+want|were\s+not\s+expecting|bothers?\s+you|disturb\w*))\b<40>\b(?:remove|removed|delete|simply|just|sorry|apologi[sz]e)\b|)"
      R"(\bremove\s+(?:yourself|your\s+(?:name|e-?mail|address|e-?mail\s+address))\s+from\s+(?:our|all|any)\s+(?:\w+\s+)?(?:e-?mails?|mails?|mailing)\s?lists?\b|)"
      R"(\bunsubscribe\s+from\s+all\s+e-?mails?\s+lists?\b|)"
      R"(\b(?:this|our)\s+(?:e-?mail|message|mailing|mail)\s+(?:is\s+not|isn['’]t|cannot\s+be\s+considered|can\s+not\s+be\s+considered|may\s+not\s+be\s+considered|is\s+never|was\s+not\s+sent\s+as)\s+(?:\w+\s+){0,2}(?:spam|unsolicited|junk)\b|)"
@@ -2318,7 +2829,8 @@ constexpr auto table = std::to_array<Rule>({
      pattern([] { return std::string_view(
      R"(\b(?:re-?financ\w+|re-?mortgag\w+|mortgage)\b<40>\b(?:now|today|before\s+rates|lowest\s+(?:rates?|in)|immediately|while\s+rates|apply|don['’]t\s+wait|record\s+low|historic)\b|)"
      R"(\b(?:now|today|time)\s+(?:is\s+the\s+(?:best\s+|perfect\s+)?time\s+)?to\s+(?:re-?finance|consolidate)\b|)"
-     R"(\brates?\b<20>\b(?:lowest|never\s+been\s+lower|record\s+low|historic\w*|drop\w*|fallen)\b<40>\b(?:re-?financ\w+|mortgage|home|loan)\b)"); }),
+     R"(\brates?\b<20>\b(?:lowest|never\s+been\s+lower|record\s+low|historic\w*|drop\w*|fallen)\b<40>\b(?:re-?financ\w+|mortgage|home|loan)\b|)"
+     R"(대환 ?대출|저금리[\s\S]{0,6}(?:전환|대환))"); }),
      true},
     {"sa-diet-1", "Bulk mail", "warn", 10,
      "advertises effortless loss of weight",

@@ -109,16 +109,26 @@ class Stretches {
 }  // namespace
 
 ClassSetId ClassSetPool::intern(const ClassBits& bits) {
-  const std::size_t count = table_.bits.size() / words_;
+  const std::size_t count = table_.wordsOf.size() / words_;
   if (count == std::numeric_limits<ClassSetId>::max()) throw PatternError("too many sets");
   const auto [known, isNew] = indexes_.try_emplace(bits, static_cast<ClassSetId>(count));
-  if (isNew) table_.bits.insert(table_.bits.end(), bits.begin(), bits.end());
+  if (!isNew) return known->second;
+  for (const std::uint64_t word : bits) {
+    if (table_.words.size() > std::numeric_limits<std::uint16_t>::max())
+      throw PatternError("too many sets");
+    const auto [same, isOther] =
+        wordIndexes_.try_emplace(word, static_cast<std::uint16_t>(table_.words.size()));
+    if (isOther) table_.words.push_back(word);
+    table_.wordsOf.push_back(same->second);
+  }
   return known->second;
 }
 
 ClassBits ClassSetPool::bits(ClassSetId set) const {
-  const auto first = table_.bits.begin() + static_cast<std::ptrdiff_t>(std::size_t{set} * words_);
-  return {first, first + static_cast<std::ptrdiff_t>(words_)};
+  ClassBits bits;
+  for (std::size_t i = 0; i < words_; ++i)
+    bits.push_back(table_.words[table_.wordsOf[std::size_t{set} * words_ + i]]);
+  return bits;
 }
 
 ClassPartition::ClassPartition(const SetTable& sets, std::vector<char32_t> alphabet)

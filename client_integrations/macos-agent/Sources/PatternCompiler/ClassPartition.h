@@ -30,6 +30,7 @@ class ClassSetPool {
   std::size_t words_;
   ClassSetTable<Owned> table_;
   std::map<ClassBits, ClassSetId> indexes_;
+  std::map<std::uint64_t, std::uint16_t> wordIndexes_;
 };
 
 /// Divides the code points into classes, so that a set of code points becomes a set of classes,

@@ -9,7 +9,7 @@ namespace quillseal::screening {
 namespace {
 
 /// Letters of a literal; of longer ones only the beginning is asked for.
-constexpr std::size_t longestLiteral = 8;
+constexpr std::size_t longestLiteral = 9;
 
 std::uint32_t sum(std::uint32_t a, std::uint32_t b) {
   return a > unbounded - b ? unbounded : a + b;

@@ -67,9 +67,11 @@ using ClassSetId = std::uint16_t;
 /// The bits of sets of classes, 64 classes to a word and as many words for each set.
 template <template <typename> typename Array>
 struct ClassSetTable {
-  Array<std::uint64_t> bits;
+  // Sets differ in few classes, so most of their words are alike and kept once.
+  Array<std::uint64_t> words;    ///< 64 classes each
+  Array<std::uint16_t> wordsOf;  ///< by set: which of `words` it consists of
 
-  void transfer(auto& archive) { archive(bits); }
+  void transfer(auto& archive) { archive(words, wordsOf); }
 };
 
 class ClassSets {
@@ -79,7 +81,8 @@ class ClassSets {
   }
 
   [[nodiscard]] bool contains(ClassSetId set, ClassId id) const {
-    return hasBit(table_.bits.subspan(set * words_), id);
+    const std::uint64_t word = table_.words[table_.wordsOf[set * words_ + id / 64]];
+    return (word >> (id % 64) & 1) != 0;
   }
 
   static constexpr std::size_t wordsFor(std::size_t classCount) { return classCount / 64 + 1; }

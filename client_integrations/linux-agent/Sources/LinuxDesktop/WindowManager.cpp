@@ -68,7 +68,8 @@ std::vector<std::uint32_t> WindowManager::numbers(xcb_window_t window, const cha
                                                   xcb_atom_t type) const {
   const std::string bytes = property(window, name, type);
   std::vector<std::uint32_t> values(bytes.size() / sizeof(std::uint32_t));
-  std::memcpy(values.data(), bytes.data(), values.size() * sizeof(std::uint32_t));
+  if (!values.empty())
+    std::memcpy(values.data(), bytes.data(), values.size() * sizeof(std::uint32_t));
   return values;
 }
 

@@ -13,11 +13,11 @@ import time
 
 import stories
 from applications import Terminal
-from session import LETTER, wait_for
+from session import HOTKEY, LETTER, wait_for
 from stories import Story
 from xclient import XClient
 
-CHAT = "Lunch at one? The new place by the river has a table for five of us, says Tom."
+CHAT = "Lunch on 14 March? The new place by the river has a table for five of us, says Tom Hill."
 PASTE_YOURSELF = "Signed — Paste It Into Your Message"
 
 
@@ -175,15 +175,27 @@ class Windows(Story):
         self.make_key()
         chat = self.open_chat()
         letter = self.open_letter()
-        held = self.desktop.start(self.desktop.held_keys, 1500, *stories.session.HOTKEY)
-        self.desktop.wait_for_output(held, "pressed", "the keys are down")
-        time.sleep(0.2)  # the agent, which looked what is in front, waits for the keys' release
-        self.x.focus(chat.window)
-        self.desktop.close("Not Signed")
+        # An agent that gets no processor for so long sees the other window only: that is signed then.
+        self.assertTrue(any(self.is_refused_after_switch(letter, chat) for _ in range(4)))
         self.assertEqual(self.desktop.recorded(), [])
-        self.assertEqual(self.desktop.selection(), "")
         self.assert_untouched(chat, CHAT)
         self.assert_untouched(letter, LETTER)
+
+    def is_refused_after_switch(self, letter, chat):
+        self.switch_to(letter.window)
+        self.desktop.wait_for_window(re.escape(letter.file.name))
+        before = self.desktop.selection()
+        held = self.desktop.start(self.desktop.held_keys, 1500, *HOTKEY)
+        self.desktop.wait_for_output(held, "pressed", "the keys are down")
+        time.sleep(0.2)  # the agent has looked what is in front, and waits for the keys' release
+        self.x.focus(chat.window)
+        if self.desktop.wait_for_window("Not Signed|Enter the passphrase")[0] == "Not Signed":
+            self.desktop.close("Not Signed")
+            self.assertEqual(self.desktop.selection(), before)
+            return True
+        self.desktop.close("Enter the passphrase", "Escape")
+        self.desktop.close("Signing Error")
+        return False
 
     def test_a_stopped_agent_signs_no_more_than_the_selection(self):
         self.make_key()

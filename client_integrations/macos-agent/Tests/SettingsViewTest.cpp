@@ -21,6 +21,7 @@ namespace {
 using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::ElementsAreArray;
+using ::testing::EndsWith;
 using testing::FakeDesktop;
 using ::testing::Not;
 using ::testing::StartsWith;
@@ -176,8 +177,11 @@ TEST_F(SettingsViewTest, SaysWhyItCannotTellWhetherThereIsAKey) {
   desktop_.hasKey = true;
   desktop_.loadFailure = Error({.domain = "TPM", .code = 1, .description = "No reader."});
   open();
-  EXPECT_EQ(machine().front(), notSetUp);
-  EXPECT_EQ(desktop_.trace.back(), "log: [sign] the key store cannot be read: No reader.");
+  EXPECT_THAT(machine().front(), EndsWith("whether this Mac has a signing key: No reader."));
+  EXPECT_EQ(desktop_.trace.back(), "log: [sign] key store failed to look the key up: TPM 1");
+  desktop_.loadFailure.reset();
+  open();
+  EXPECT_EQ(machine().front(), enrolled);
 }
 
 TEST_F(SettingsViewTest, EnrolsOnceHoweverOftenTheButtonIsPressed) {

@@ -9,9 +9,12 @@ namespace quillseal::mac {
 /// in the data-protection keychain, for which the program needs a keychain access group.
 class MacKeyStore final : public desktop::KeyStore {
  public:
-  /// Failures are logged with the status that the system gave. `log` outlives this object and its
-  /// keys.
+  /// `log`, which outlives this object, learns of a key that could not be deleted.
   explicit MacKeyStore(desktop::Log& log) : log_(log) {}
+
+  /// Whether a lookup that ended with `status` has shown that there is no key. All but success and
+  /// this mean that it is not known.
+  [[nodiscard]] static bool meansNoKey(std::int64_t status) noexcept;
 
   [[nodiscard]] bool isAvailable() const override;
   [[nodiscard]] std::unique_ptr<desktop::DeviceKey> create() override;

@@ -28,11 +28,6 @@ NSMutableDictionary* keyQuery() {
   } mutableCopy];
 }
 
-void logFailure(desktop::Log& log, const std::string& operation, const Error& error) {
-  log.write("[sign] " + operation + " failed: " + error.domain() + " " +
-            std::to_string(error.code()) + " " + error.what());
-}
-
 /// Takes over what a function of the Security framework left in its error parameter.
 Error errorFrom(CfHandle<CFErrorRef> error) {
   return mac::errorFrom((__bridge_transfer NSError*)error.release());
@@ -41,28 +36,31 @@ Error errorFrom(CfHandle<CFErrorRef> error) {
 class EnclaveKey final : public desktop::DeviceKey {
  public:
   /// `context`, possibly nil, is the one that the key was found with: it holds the prompt's text.
-  EnclaveKey(desktop::Log& log, CfHandle<SecKeyRef> key, LAContext* context)
-      : log_(log), key_(std::move(key)), context_(context) {}
+  EnclaveKey(CfHandle<SecKeyRef> key, LAContext* context)
+      : key_(std::move(key)), context_(context) {}
 
   [[nodiscard]] std::optional<std::vector<std::uint8_t>> publicKey() const override {
-    const CfHandle<SecKeyRef> key(::SecKeyCopyPublicKey(key_.get()));
-    if (!key) return std::nullopt;
-    const CfHandle<CFDataRef> data(::SecKeyCopyExternalRepresentation(key.get(), nullptr));
-    if (!data) return std::nullopt;
-    return bytes(data.get());
+    return callSystem([this]() -> std::optional<std::vector<std::uint8_t>> {
+      const CfHandle<SecKeyRef> key(::SecKeyCopyPublicKey(key_.get()));
+      if (!key) return std::nullopt;
+      const CfHandle<CFDataRef> data(::SecKeyCopyExternalRepresentation(key.get(), nullptr));
+      if (!data) return std::nullopt;
+      return bytes(data.get());
+    });
   }
 
   [[nodiscard]] std::vector<std::uint8_t> sign(
       const std::array<std::uint8_t, 32>& digest) override {
-    const CfHandle<CFDataRef> data(
-        ::CFDataCreate(kCFAllocatorDefault, digest.data(), static_cast<CFIndex>(digest.size())));
-    CfHandle<CFErrorRef> failure;
-    const CfHandle<CFDataRef> signature(::SecKeyCreateSignature(
-        key_.get(), kSecKeyAlgorithmECDSASignatureDigestX962SHA256, data.get(), failure.receive()));
-    if (signature) return bytes(signature.get());
-    const Error error = errorFrom(std::move(failure));
-    logFailure(log_, "signing", error);
-    throw error;
+    return callSystem([&] {
+      const CfHandle<CFDataRef> data(
+          ::CFDataCreate(kCFAllocatorDefault, digest.data(), static_cast<CFIndex>(digest.size())));
+      CfHandle<CFErrorRef> failure;
+      const CfHandle<CFDataRef> signature(
+          ::SecKeyCreateSignature(key_.get(), kSecKeyAlgorithmECDSASignatureDigestX962SHA256,
+                                  data.get(), failure.receive()));
+      if (!signature) throw errorFrom(std::move(failure));
+      return bytes(signature.get());
+    });
   }
 
  private:
@@ -71,83 +69,88 @@ class EnclaveKey final : public desktop::DeviceKey {
     return {first, first + ::CFDataGetLength(data)};
   }
 
-  desktop::Log& log_;
   CfHandle<SecKeyRef> key_;
   [[maybe_unused]] LAContext* context_;  // lives as long as the key that prompts with it
 };
 
 }  // namespace
 
+bool MacKeyStore::meansNoKey(std::int64_t status) noexcept {
+  // A build without the entitlement has no keychain in which a key of its own could be.
+  return status == errSecItemNotFound || status == missingEntitlement;
+}
+
 bool MacKeyStore::isAvailable() const {
-  // The Enclave is a token; the identifiers of its kinds begin with this one.
-  NSString* enclave = (__bridge NSString*)kSecAttrTokenIDSecureEnclave;
-  for (NSString* token in [[TKTokenWatcher alloc] init].tokenIDs) {
-    if ([token hasPrefix:enclave]) return true;
-  }
-  return false;
+  return callSystem([] {
+    // The Enclave is a token; the identifiers of its kinds begin with this one.
+    NSString* enclave = (__bridge NSString*)kSecAttrTokenIDSecureEnclave;
+    for (NSString* token in [[TKTokenWatcher alloc] init].tokenIDs) {
+      if ([token hasPrefix:enclave]) return true;
+    }
+    return false;
+  });
 }
 
 std::unique_ptr<desktop::DeviceKey> MacKeyStore::create() {
   remove();
-  CfHandle<CFErrorRef> failure;
-  const CfHandle<SecAccessControlRef> access(::SecAccessControlCreateWithFlags(
-      kCFAllocatorDefault, kSecAttrAccessibleWhenUnlockedThisDeviceOnly,
-      kSecAccessControlPrivateKeyUsage | kSecAccessControlBiometryCurrentSet, failure.receive()));
-  if (!access) {
-    const Error error = errorFrom(std::move(failure));
-    logFailure(log_, "building the access control", error);
-    throw Error({.domain = error.domain(),
-                 .code = error.code(),
-                 .description = "could not build access control"});
-  }
-  NSDictionary* attributes = @{
-    (__bridge id)kSecAttrKeyType : (__bridge id)kSecAttrKeyTypeECSECPrimeRandom,
-    (__bridge id)kSecAttrKeySizeInBits : @256,
-    (__bridge id)kSecAttrTokenID : (__bridge id)kSecAttrTokenIDSecureEnclave,
-    (__bridge id)kSecUseDataProtectionKeychain : @YES,
-    (__bridge id)kSecPrivateKeyAttrs : @{
-      (__bridge id)kSecAttrIsPermanent : @YES,
-      (__bridge id)kSecAttrApplicationTag : tagData(),
-      (__bridge id)kSecAttrAccessControl : (__bridge id)access.get(),
-    },
-  };
-  CfHandle<SecKeyRef> key(
-      ::SecKeyCreateRandomKey((__bridge CFDictionaryRef)attributes, failure.receive()));
-  if (!key) {
-    const Error error = errorFrom(std::move(failure));
-    logFailure(log_, "creating the signing key", error);
-    throw error;
-  }
-  return std::make_unique<EnclaveKey>(log_, std::move(key), nil);
+  return callSystem([] {
+    CfHandle<CFErrorRef> failure;
+    const CfHandle<SecAccessControlRef> access(::SecAccessControlCreateWithFlags(
+        kCFAllocatorDefault, kSecAttrAccessibleWhenUnlockedThisDeviceOnly,
+        kSecAccessControlPrivateKeyUsage | kSecAccessControlBiometryCurrentSet, failure.receive()));
+    if (!access) {
+      const Error error = errorFrom(std::move(failure));
+      throw Error({.domain = error.domain(),
+                   .code = error.code(),
+                   .description = "could not build access control"});
+    }
+    NSDictionary* attributes = @{
+      (__bridge id)kSecAttrKeyType : (__bridge id)kSecAttrKeyTypeECSECPrimeRandom,
+      (__bridge id)kSecAttrKeySizeInBits : @256,
+      (__bridge id)kSecAttrTokenID : (__bridge id)kSecAttrTokenIDSecureEnclave,
+      (__bridge id)kSecUseDataProtectionKeychain : @YES,
+      (__bridge id)kSecPrivateKeyAttrs : @{
+        (__bridge id)kSecAttrIsPermanent : @YES,
+        (__bridge id)kSecAttrApplicationTag : tagData(),
+        (__bridge id)kSecAttrAccessControl : (__bridge id)access.get(),
+      },
+    };
+    CfHandle<SecKeyRef> key(
+        ::SecKeyCreateRandomKey((__bridge CFDictionaryRef)attributes, failure.receive()));
+    if (!key) throw errorFrom(std::move(failure));
+    return std::make_unique<EnclaveKey>(std::move(key), nil);
+  });
 }
 
 std::unique_ptr<desktop::DeviceKey> MacKeyStore::load(std::optional<desktop::Prompt> prompt) const {
-  NSMutableDictionary* query = keyQuery();
-  query[(__bridge id)kSecAttrKeyType] = (__bridge id)kSecAttrKeyTypeECSECPrimeRandom;
-  query[(__bridge id)kSecReturnRef] = @YES;
-  LAContext* context = nil;
-  if (prompt) {
-    context = [[LAContext alloc] init];
-    context.localizedReason = nsString(prompt->reason);
-    query[(__bridge id)kSecUseAuthenticationContext] = context;
-  }
-  CfHandle<CFTypeRef> found;
-  const OSStatus status = ::SecItemCopyMatching((__bridge CFDictionaryRef)query, found.receive());
-  if (status != errSecSuccess || !found) {
-    if (status != errSecItemNotFound) {
-      logFailure(log_, "looking the signing key up", errorFromStatus(status));
+  return callSystem([&]() -> std::unique_ptr<desktop::DeviceKey> {
+    NSMutableDictionary* query = keyQuery();
+    query[(__bridge id)kSecAttrKeyType] = (__bridge id)kSecAttrKeyTypeECSECPrimeRandom;
+    query[(__bridge id)kSecReturnRef] = @YES;
+    LAContext* context = nil;
+    if (prompt) {
+      context = [[LAContext alloc] init];
+      context.localizedReason = nsString(prompt->reason);
+      query[(__bridge id)kSecUseAuthenticationContext] = context;
     }
-    return nullptr;
-  }
-  CfHandle<SecKeyRef> key((SecKeyRef) const_cast<void*>(found.release()));
-  return std::make_unique<EnclaveKey>(log_, std::move(key), context);
+    CfHandle<CFTypeRef> found;
+    const OSStatus status = ::SecItemCopyMatching((__bridge CFDictionaryRef)query, found.receive());
+    if (meansNoKey(status)) return nullptr;
+    if (status != errSecSuccess) throw errorFromStatus(status);
+    if (!found) return nullptr;
+    CfHandle<SecKeyRef> key((SecKeyRef) const_cast<void*>(found.release()));
+    return std::make_unique<EnclaveKey>(std::move(key), context);
+  });
 }
 
 void MacKeyStore::remove() noexcept {
-  const OSStatus status = ::SecItemDelete((__bridge CFDictionaryRef)keyQuery());
-  if (status == errSecSuccess || status == errSecItemNotFound) return;
-  callGuarded(
-      [this, status] { logFailure(log_, "deleting the signing key", errorFromStatus(status)); });
+  callGuarded([this] {
+    const OSStatus status = ::SecItemDelete((__bridge CFDictionaryRef)keyQuery());
+    if (status == errSecSuccess || meansNoKey(status)) return;
+    const Error error = errorFromStatus(status);
+    log_.write("[sign] deleting the signing key failed: " + error.domain() + " " +
+               std::to_string(error.code()) + " " + error.what());
+  });
 }
 
 }  // namespace quillseal::mac

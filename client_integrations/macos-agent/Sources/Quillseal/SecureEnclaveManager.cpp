@@ -62,6 +62,20 @@ void logFailure(desktop::Log& log, std::string_view act, const Error& error) {
                 .append(std::to_string(error.code())));
 }
 
+/// The key, or null when there is none. A store that cannot tell throws: to take that for no key
+/// would have the key replaced.
+Key lookUp(const desktop::KeyStore& store, desktop::Log& log,
+           std::optional<desktop::Prompt> prompt = std::nullopt) {
+  try {
+    return store.load(std::move(prompt));
+  } catch (const Cancelled&) {
+    throw;
+  } catch (const Error& error) {
+    logFailure(log, "look the key up", error);
+    throw;
+  }
+}
+
 std::optional<Digest> digestFromHex(std::string_view text) {
   Digest digest{};
   const auto bytes = bytesFromHex(text);
@@ -98,8 +112,9 @@ Task<Key> createKey(Services services) {
 
 Task<Key> loadKey(Services services) {
   const desktop::KeyStore& store = services.keyStore;
-  return offload(services.loop, [&store]() -> Key {
-    Key key = store.load(std::nullopt);
+  desktop::Log& log = services.log;
+  return offload(services.loop, [&store, &log]() -> Key {
+    Key key = lookUp(store, log);
     if (!key) throw SecureEnclaveError(Case::keyMissing);
     return key;
   });
@@ -107,7 +122,8 @@ Task<Key> loadKey(Services services) {
 
 Task<bool> hasKey(Services services) {
   const desktop::KeyStore& store = services.keyStore;
-  return offload(services.loop, [&store] { return store.load(std::nullopt) != nullptr; });
+  desktop::Log& log = services.log;
+  return offload(services.loop, [&store, &log] { return lookUp(store, log) != nullptr; });
 }
 
 Task<std::string> exportPublicKey(Services services, Key key) {
@@ -125,7 +141,7 @@ Task<std::string> sign(Services services, SigningRequest request) {
   const desktop::KeyStore& store = services.keyStore;
   desktop::Log& log = services.log;
   auto work = [&store, &log, digest = *digest, prompt = std::move(request.prompt)] {
-    const Key key = store.load(prompt);
+    const Key key = lookUp(store, log, prompt);
     if (!key) throw SecureEnclaveError(Case::keyMissing);
     try {
       return base64(key->sign(digest));

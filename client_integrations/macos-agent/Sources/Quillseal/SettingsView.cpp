@@ -71,7 +71,13 @@ desktop::FormField SettingsView::field(std::string label, std::string key, std::
 
 desktop::FormSection SettingsView::machineSection() {
   desktop::FormSection section{.header = "This Mac", .rows = {}};
-  if (isEnrolled_) {
+  if (!lookupFailure_.empty()) {
+    section.rows.emplace_back(desktop::FormStatus{
+        .symbol = "exclamationmark.triangle.fill",
+        .symbolColour = TextColour::orange,
+        .text = callout("Quillseal could not find out whether this Mac has a signing key: " +
+                        lookupFailure_)});
+  } else if (isEnrolled_) {
     section.rows.emplace_back(desktop::FormStatus{
         .symbol = "checkmark.seal.fill",
         .symbolColour = TextColour::green,
@@ -120,12 +126,14 @@ Task<> SettingsView::enrolDevice() {
 }
 
 Task<> SettingsView::readEnrolled() {
+  lookupFailure_.clear();
   try {
     isEnrolled_ = co_await SecureEnclaveManager::hasKey(
         {.keyStore = services_.keyStore, .log = services_.log, .loop = services_.loop});
   } catch (const std::exception& error) {
     isEnrolled_ = false;
-    services_.log.write(std::string("[sign] the key store cannot be read: ") + error.what());
+    const std::string_view words = error.what();
+    lookupFailure_ = words.empty() ? "the system gave no reason." : words;
   }
   render();
 }

@@ -51,6 +51,7 @@ class SettingsView {
   desktop::Window& window_;
   Build build_;
   bool isEnrolled_ = false;
+  std::string lookupFailure_;  ///< why it is not known whether there is a key; else empty
   bool isEnrolling_ = false;
   desktop::Ticket defaultsObserver_;
   TaskScope tasks_;  ///< last: the tasks use all of the above

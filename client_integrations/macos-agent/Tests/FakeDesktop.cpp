@@ -317,6 +317,11 @@ desktop::Ticket FakeDesktop::fetch(std::function<void()> fetched) {
   });
 }
 
+desktop::Ticket FakeDesktop::beginActivity(const std::string& /*reason*/) {
+  ++activities;
+  return desktop::Ticket([this] { --activities; });
+}
+
 void FakeDesktop::write(const desktop::PasteboardContent& content) {
   mayFail("write clipboard");
   trace.emplace_back("write clipboard");

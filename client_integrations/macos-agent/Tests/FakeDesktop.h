@@ -121,6 +121,8 @@ class FakeDesktop final : public desktop::Alerts,
   /// The key press with this number is declined, counting from 1; none for 0.
   int declinedPress = 0;
   int presses = 0;
+  int activities = 0;  ///< begun and not ended
+  std::string clipboardObstacle, keyObstacle;
 
   // What was registered.
   std::function<void()> hotkeyPressed;
@@ -166,6 +168,7 @@ class FakeDesktop final : public desktop::Alerts,
   void activate() override { trace.emplace_back("activate Quillseal"); }
   void showAbout() override { trace.emplace_back("about"); }
   void terminate() override { trace.emplace_back("terminate"); }
+  desktop::Ticket beginActivity(const std::string& reason) override;
   void show(const desktop::StatusMenu& shown) override;
   void setItemTitle(std::size_t index, const std::string& title) override;
   std::string today() const override { return date; }
@@ -185,6 +188,8 @@ class FakeDesktop final : public desktop::Alerts,
                         std::function<void()> aboutToPress,
                         std::function<void(desktop::Delivery)> done) override;
 
+  std::string obstacle() const override { return keyObstacle; }
+
   // KeyStore
   bool isAvailable() const override { return canHoldKey; }
   std::unique_ptr<desktop::DeviceKey> create() override;
@@ -196,6 +201,7 @@ class FakeDesktop final : public desktop::Alerts,
   std::int64_t changeCount() const override { return changeCount_; }
   desktop::Ticket onNextChange(std::function<void()> changed) override;
   desktop::Ticket fetch(std::function<void()> fetched) override;
+  std::string readingObstacle() const override { return clipboardObstacle; }
   bool isConcealed() const override { return fetched_.isConcealed; }
   std::optional<std::string> plainText() const override { return fetched_.text; }
   std::optional<std::string> html() const override { return fetched_.html; }

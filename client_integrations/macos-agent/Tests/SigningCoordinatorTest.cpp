@@ -23,6 +23,7 @@ namespace quillseal {
 namespace {
 
 using namespace std::chrono_literals;
+using ::testing::AnyOf;
 using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::EndsWith;
@@ -235,6 +236,12 @@ TEST_F(SigningCoordinatorTest, StopsEarlyAndTellsWhy) {
          d.answers["/api/sign_native"] = {{403, R"({"error":"No."})"}};
        },
        "alert: Signing Error | No."},
+      {"unreadable key store",
+       [](FakeDesktop& d) {
+         d.loadFailure =
+             Error({.domain = "OSStatus", .code = -25291, .description = "No keychain."});
+       },
+       "alert: Signing Error | No keychain."},
       {"cancelled key creation",
        [](FakeDesktop& d) {
          d.hasKey = false;
@@ -272,7 +279,30 @@ TEST_F(SigningCoordinatorTest, StopsEarlyAndTellsWhy) {
     desktop.loop.run();
     EXPECT_EQ(desktop.trace.back(), c.lastLine) << c.name;
     EXPECT_THAT(desktop.trace, Not(Contains("write clipboard"))) << c.name;
+    EXPECT_THAT(desktop.trace, Not(Contains(AnyOf("create key", "delete key")))) << c.name;
+    EXPECT_EQ(desktop.activities, 0) << c.name;
   }
+}
+
+TEST_F(SigningCoordinatorTest, KeepsTheSystemFromSlowingItDownForTheLengthOfARun) {
+  desktop_.flags = {"ConfirmBeforeSigning"};
+  desktop_.leavesDialogsOpen = true;
+  sign();
+  sign();
+  EXPECT_EQ(desktop_.activities, 2);
+  coordinator_.reset();
+  EXPECT_EQ(desktop_.activities, 0);
+}
+
+TEST_F(SigningCoordinatorTest, LogsWhatMayHaveKeptTheTextFromIt) {
+  desktop_.selection.reset();
+  desktop_.keyObstacle = "secure input is on";
+  desktop_.clipboardObstacle = "access is denied";
+  sign();
+  EXPECT_THAT(desktop_.trace,
+              Contains("log: [capture] key presses are held up: secure input is on"));
+  EXPECT_THAT(desktop_.trace,
+              Contains("log: [capture] the clipboard may not be readable: access is denied"));
 }
 
 TEST_F(SigningCoordinatorTest, ScreensTheText) {

@@ -25,6 +25,7 @@ TEST(DetectAppScope, NamesTheMediumBySubstrings) {
       {"WordPages Mail", "", "Email Message (WordPages Mail)"},
       {"Thunderbird", "thunderbird Network;Email;", "Email Message (Thunderbird)"},
       {"Safari", "com.apple.Safari", "Public Broadcast"},
+      {"Terminal", "com.apple.Terminal TerminalEmulator;", "Public Broadcast"},
       {std::nullopt, "com.example.mail", "Email Message (Desktop App)"},
       {"", "", "Public Broadcast"},
   };

@@ -39,6 +39,10 @@ class Pasteboard {
     return {};
   }
 
+  /// What keeps this program from reading the clipboard, such as a setting of the system, in words
+  /// for the log; empty when nothing is known to.
+  [[nodiscard]] virtual std::string readingObstacle() const { return {}; }
+
   /// Whether the one who copied marked it as a secret, as password managers do.
   [[nodiscard]] virtual bool isConcealed() const = 0;
 

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <string>
+
+#include "Desktop/Ticket.h"
+
 namespace quillseal::desktop {
 
 /// This program's own standing on the desktop. Main thread.
@@ -19,6 +23,10 @@ class Program {
   /// Ends the program once the present event has been dealt with. Objects of the agent are
   /// destroyed from the event loop's outside, never from inside one of their calls.
   virtual void terminate() = 0;
+
+  /// Keeps the system from slowing this program down while the ticket lives, as some do with one
+  /// that has no window. `reason` is for the system's own tools. Several may live at once.
+  [[nodiscard]] virtual Ticket beginActivity(const std::string& /*reason*/) { return {}; }
 };
 
 }  // namespace quillseal::desktop

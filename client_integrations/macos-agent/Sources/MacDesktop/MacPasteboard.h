@@ -9,6 +9,7 @@ class MacPasteboard final : public desktop::Pasteboard {
  public:
   [[nodiscard]] std::int64_t changeCount() const override;
   [[nodiscard]] desktop::Ticket onNextChange(std::function<void()> changed) override;
+  [[nodiscard]] std::string readingObstacle() const override;
   [[nodiscard]] bool isConcealed() const override;
   [[nodiscard]] std::optional<std::string> plainText() const override;
   [[nodiscard]] std::optional<std::string> html() const override;

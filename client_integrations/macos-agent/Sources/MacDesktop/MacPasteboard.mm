@@ -3,47 +3,87 @@
 #import <AppKit/AppKit.h>
 
 #include "Desktop/Error.h"
+#include "MacDesktop/MacError.h"
 #include "MacDesktop/MacText.h"
 
 namespace quillseal::mac {
+namespace {
+
+/// How the system answers when this program reads the pasteboard, NSPasteboardAccessBehavior of
+/// macOS 15.4: as the system likes (0), by asking the user (1), always yes (2), always no (3).
+enum AccessBehavior : NSInteger { systemDefault = 0, asks = 1, allows = 2, denies = 3 };
+
+/// Asked for by name, so that the program also builds with headers of an earlier macOS.
+std::optional<NSInteger> accessBehavior() {
+  NSString* const property = @"accessBehavior";
+  NSPasteboard* pasteboard = NSPasteboard.generalPasteboard;
+  if (![pasteboard respondsToSelector:NSSelectorFromString(property)]) return std::nullopt;
+  id value = [pasteboard valueForKey:property];
+  if (![value isKindOfClass:NSNumber.class]) return std::nullopt;
+  return [value integerValue];
+}
+
+std::optional<std::string> stringOf(NSPasteboardType type) {
+  return callSystem(
+      [&] { return optionalUtf8([NSPasteboard.generalPasteboard stringForType:type]); });
+}
+
+}  // namespace
 
 std::int64_t MacPasteboard::changeCount() const {
-  return NSPasteboard.generalPasteboard.changeCount;
+  return callSystem([] { return std::int64_t{NSPasteboard.generalPasteboard.changeCount}; });
 }
 
 // macOS tells nobody when the pasteboard changes.
 desktop::Ticket MacPasteboard::onNextChange(std::function<void()> /*changed*/) { return {}; }
 
+std::string MacPasteboard::readingObstacle() const {
+  const std::optional<NSInteger> behavior = callSystem(accessBehavior);
+  if (behavior == AccessBehavior::denies) {
+    return "System Settings does not let Quillseal paste from other applications";
+  }
+  if (behavior == AccessBehavior::asks) {
+    return "System Settings asks each time whether Quillseal may paste from other applications";
+  }
+  return {};
+}
+
 bool MacPasteboard::isConcealed() const {
-  // The mark that password managers agreed on: http://nspasteboard.org
-  NSArray<NSPasteboardType>* types = NSPasteboard.generalPasteboard.types;
-  return [types containsObject:@"org.nspasteboard.ConcealedType"];
+  return callSystem([] {
+    // The mark that password managers agreed on: http://nspasteboard.org
+    NSArray<NSPasteboardType>* types = NSPasteboard.generalPasteboard.types;
+    return static_cast<bool>([types containsObject:@"org.nspasteboard.ConcealedType"]);
+  });
 }
 
 std::optional<std::string> MacPasteboard::plainText() const {
-  return optionalUtf8([NSPasteboard.generalPasteboard stringForType:NSPasteboardTypeString]);
+  return stringOf(NSPasteboardTypeString);
 }
 
-std::optional<std::string> MacPasteboard::html() const {
-  return optionalUtf8([NSPasteboard.generalPasteboard stringForType:NSPasteboardTypeHTML]);
-}
+std::optional<std::string> MacPasteboard::html() const { return stringOf(NSPasteboardTypeHTML); }
 
 std::optional<std::string> MacPasteboard::rtf() const {
-  NSData* data = [NSPasteboard.generalPasteboard dataForType:NSPasteboardTypeRTF];
-  if (data == nil) return std::nullopt;
-  return std::string(static_cast<const char*>(data.bytes), data.length);
+  return callSystem([]() -> std::optional<std::string> {
+    NSData* data = [NSPasteboard.generalPasteboard dataForType:NSPasteboardTypeRTF];
+    if (data == nil) return std::nullopt;
+    return std::string(static_cast<const char*>(data.bytes), data.length);
+  });
 }
 
 void MacPasteboard::write(const desktop::PasteboardContent& content) {
-  // One item with both flavours: no reader can see the first without the second.
-  NSPasteboardItem* item = [[NSPasteboardItem alloc] init];
-  const bool prepared = [item setString:nsString(content.plainText)
-                                forType:NSPasteboardTypeString] &&
-                        [item setString:nsString(content.html) forType:NSPasteboardTypeHTML];
-  NSPasteboard* pasteboard = NSPasteboard.generalPasteboard;
-  [pasteboard clearContents];
-  if (prepared && [pasteboard writeObjects:@[ item ]]) return;
-  [pasteboard clearContents];
+  const bool isWritten = callSystem([&] {
+    // One item with both flavours: no reader can see the first without the second.
+    NSPasteboardItem* item = [[NSPasteboardItem alloc] init];
+    const bool isPrepared = [item setString:nsString(content.plainText)
+                                    forType:NSPasteboardTypeString] &&
+                            [item setString:nsString(content.html) forType:NSPasteboardTypeHTML];
+    NSPasteboard* pasteboard = NSPasteboard.generalPasteboard;
+    [pasteboard clearContents];
+    if (isPrepared && [pasteboard writeObjects:@[ item ]]) return true;
+    [pasteboard clearContents];
+    return false;
+  });
+  if (isWritten) return;
   throw Error({.domain = "Pasteboard",
                .code = 1,
                .description = "The signed text could not be put on the clipboard."});

@@ -15,6 +15,7 @@ class MacProgram final : public desktop::Program {
   void activate() override;
   void showAbout() override;
   void terminate() override;
+  [[nodiscard]] desktop::Ticket beginActivity(const std::string& reason) override;
 
  private:
   desktop::MainLoop& loop_;

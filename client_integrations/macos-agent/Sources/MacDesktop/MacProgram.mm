@@ -2,6 +2,9 @@
 
 #import <AppKit/AppKit.h>
 
+#include "MacDesktop/MacError.h"
+#include "MacDesktop/MacText.h"
+
 namespace quillseal::mac {
 
 void activateProgram() {
@@ -11,15 +14,27 @@ void activateProgram() {
 }
 
 void MacProgram::becomeAccessory() {
-  [NSApp setActivationPolicy:NSApplicationActivationPolicyAccessory];
+  callSystem([] { [NSApp setActivationPolicy:NSApplicationActivationPolicyAccessory]; });
 }
 
-void MacProgram::activate() { activateProgram(); }
+void MacProgram::activate() { callSystem(activateProgram); }
 
-void MacProgram::showAbout() { [NSApp orderFrontStandardAboutPanel:nil]; }
+void MacProgram::showAbout() {
+  callSystem([] { [NSApp orderFrontStandardAboutPanel:nil]; });
+}
 
 void MacProgram::terminate() {
   loop_.post([] { [NSApp terminate:nil]; });
+}
+
+desktop::Ticket MacProgram::beginActivity(const std::string& reason) {
+  return callSystem([&] {
+    // The Mac may fall asleep over a run that waits for its user; only App Nap is kept off.
+    id<NSObject> activity = [NSProcessInfo.processInfo
+        beginActivityWithOptions:NSActivityUserInitiatedAllowingIdleSystemSleep
+                          reason:nsString(reason)];
+    return desktop::Ticket([activity] { [NSProcessInfo.processInfo endActivity:activity]; });
+  });
 }
 
 }  // namespace quillseal::mac

@@ -175,6 +175,8 @@ Task<Capture> captureSelectedContent(Services services) {
   }
   const std::string obstacle = services.keys.obstacle();
   if (!obstacle.empty()) services.log.write("[capture] key presses are held up: " + obstacle);
+  const std::string lock = services.pasteboard.readingObstacle();
+  if (!lock.empty()) services.log.write("[capture] the clipboard may not be readable: " + lock);
   co_return capture;
 }
 

@@ -198,7 +198,9 @@ void SigningCoordinator::turnAway() {
 
 Task<> SigningCoordinator::performSigningWorkflow() {
   std::optional<std::string> failure;
+  desktop::Ticket activity;
   try {
+    activity = desktop_.program.beginActivity("Signing a text");
     co_await signSelectedText();
   } catch (const Cancelled&) {
     desktop_.log.write("[sign] called off by the user");

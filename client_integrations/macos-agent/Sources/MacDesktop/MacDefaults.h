@@ -6,7 +6,7 @@
 
 #include "Desktop/Defaults.h"
 #include "Desktop/Log.h"
-#include "Desktop/MainLoop.h"
+#include "MacDesktop/MacMainLoop.h"
 
 namespace quillseal::mac {
 
@@ -14,14 +14,14 @@ namespace quillseal::mac {
 class MacDefaults final : public desktop::Defaults {
  public:
   struct Services {
-    desktop::MainLoop& loop;
+    const MacMainLoop& loop;
     desktop::Log& log;
   };
 
   /// Changes that other programs make are noticed for `watchedKeys` only: the system announces them
-  /// key by key. The services outlive this object and its observers.
+  /// key by key. The log outlives this object.
   MacDefaults(Services services, std::vector<std::string> watchedKeys)
-      : services_(services), watchedKeys_(std::move(watchedKeys)) {}
+      : poster_(services.loop.poster()), log_(services.log), watchedKeys_(std::move(watchedKeys)) {}
 
   [[nodiscard]] std::optional<std::string> string(std::string_view key) const override;
   [[nodiscard]] bool boolean(std::string_view key) const override;
@@ -29,7 +29,8 @@ class MacDefaults final : public desktop::Defaults {
   [[nodiscard]] desktop::Ticket observe(std::function<void()> changed) override;
 
  private:
-  Services services_;
+  MacMainLoop::Poster poster_;
+  desktop::Log& log_;
   std::vector<std::string> watchedKeys_;
 };
 

@@ -1,7 +1,10 @@
 #import "MacDesktop/MacDefaults.h"
 
+#include <memory>
+
 #import <Foundation/Foundation.h>
 
+#include "MacDesktop/MacError.h"
 #include "MacDesktop/MacText.h"
 
 /// Calls a block, on any thread, whenever the defaults change.
@@ -55,38 +58,45 @@
 namespace quillseal::mac {
 
 std::optional<std::string> MacDefaults::string(std::string_view key) const {
-  id value = [NSUserDefaults.standardUserDefaults objectForKey:nsString(key)];
-  if (![value isKindOfClass:NSString.class]) return std::nullopt;
-  return utf8(value);
+  return callSystem([&]() -> std::optional<std::string> {
+    id value = [NSUserDefaults.standardUserDefaults objectForKey:nsString(key)];
+    if (![value isKindOfClass:NSString.class]) return std::nullopt;
+    return utf8(value);
+  });
 }
 
 bool MacDefaults::boolean(std::string_view key) const {
-  return [NSUserDefaults.standardUserDefaults boolForKey:nsString(key)];
+  return callSystem([&] {
+    return static_cast<bool>([NSUserDefaults.standardUserDefaults boolForKey:nsString(key)]);
+  });
 }
 
 void MacDefaults::setString(std::string_view key, std::string_view value) {
-  [NSUserDefaults.standardUserDefaults setObject:nsString(value) forKey:nsString(key)];
-  if (!::CFPreferencesAppSynchronize(kCFPreferencesCurrentApplication)) {
-    services_.log.write("[settings] the setting " + std::string(key) + " could not be stored");
-  }
+  const bool isStored = callSystem([&] {
+    [NSUserDefaults.standardUserDefaults setObject:nsString(value) forKey:nsString(key)];
+    return ::CFPreferencesAppSynchronize(kCFPreferencesCurrentApplication) != 0;
+  });
+  if (!isStored) log_.write("[settings] the setting " + std::string(key) + " could not be stored");
 }
 
 desktop::Ticket MacDefaults::observe(std::function<void()> changed) {
-  NSMutableArray<NSString*>* keys = [NSMutableArray array];
-  for (const std::string& key : watchedKeys_) {
-    [keys addObject:nsString(key)];
-  }
-  const auto observer = std::make_shared<std::function<void()>>(std::move(changed));
-  desktop::MainLoop* loop = &services_.loop;
-  QSDefaultsObserver* source = [[QSDefaultsObserver alloc] initWithKeys:keys
-                                                                changed:^{
-                                                                  loop->post([observer] {
-                                                                    if (*observer) (*observer)();
-                                                                  });
-                                                                }];
-  return desktop::Ticket([observer, source] {
-    [source stop];
-    *observer = nullptr;
+  return callSystem([&] {
+    NSMutableArray<NSString*>* keys = [NSMutableArray array];
+    for (const std::string& key : watchedKeys_) {
+      [keys addObject:nsString(key)];
+    }
+    const auto observer = std::make_shared<std::function<void()>>(std::move(changed));
+    const MacMainLoop::Poster poster = poster_;
+    void (^notice)(void) = ^{
+      poster.post([observer] {
+        if (*observer) (*observer)();
+      });
+    };
+    QSDefaultsObserver* source = [[QSDefaultsObserver alloc] initWithKeys:keys changed:notice];
+    return desktop::Ticket([observer, source] {
+      [source stop];
+      *observer = nullptr;
+    });
   });
 }
 

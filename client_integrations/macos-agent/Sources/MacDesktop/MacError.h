@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <type_traits>
 
 #import <Foundation/Foundation.h>
 
@@ -14,8 +15,23 @@ namespace quillseal::mac {
 /// The same for a status code of the Security framework, Carbon or I/O Kit.
 [[nodiscard]] Error errorFromStatus(OSStatus status);
 
-/// Calls `work` where the caller is the system, which knows no C++ exceptions: one that comes out
-/// of `work` is logged as a fault and goes no further.
+/// The same for an exception; its name is the domain.
+[[nodiscard]] Error errorFromException(NSException* _Nonnull exception);
+
+/// Gives what `work` gives, which calls the system; an NSException that comes out of it is thrown
+/// as Error. Every port makes its calls to Foundation and AppKit in here: coroutines know C++
+/// exceptions only. No `co_await` in `work`.
+template <typename Work>
+std::invoke_result_t<const Work&> callSystem(const Work& work) {
+  @try {
+    return work();
+  } @catch (NSException* exception) {
+    throw errorFromException(exception);
+  }
+}
+
+/// Calls `work` where the caller is the system, which knows no exceptions of ours: one that comes
+/// out of `work` is logged as a fault and goes no further.
 void callGuarded(const std::function<void()>& work) noexcept;
 
 }  // namespace quillseal::mac

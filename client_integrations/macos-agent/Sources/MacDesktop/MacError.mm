@@ -24,9 +24,16 @@ Error errorFromStatus(OSStatus status) {
                 .description = utf8((__bridge NSString*)message.get())});
 }
 
+Error errorFromException(NSException* exception) {
+  NSString* words = exception.reason;
+  return Error({.domain = utf8(exception.name),
+                .code = 0,
+                .description = words.length > 0 ? utf8(words) : utf8(exception.name)});
+}
+
 void callGuarded(const std::function<void()>& work) noexcept {
   try {
-    work();
+    callSystem(work);
   } catch (const std::exception& error) {
     os_log_fault(OS_LOG_DEFAULT, "An exception reached the event loop: %{public}s", error.what());
   } catch (...) {

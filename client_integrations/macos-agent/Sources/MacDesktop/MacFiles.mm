@@ -7,6 +7,7 @@
 
 #import <Foundation/Foundation.h>
 
+#include "MacDesktop/MacError.h"
 #include "MacDesktop/MacText.h"
 
 namespace quillseal::mac {
@@ -22,18 +23,22 @@ bool writeAll(int file, std::string_view contents) {
   return ::fsync(file) == 0;
 }
 
+bool createFolderOf(const std::string& path) {
+  NSString* folder = nsString(path).stringByDeletingLastPathComponent;
+  return [NSFileManager.defaultManager createDirectoryAtPath:folder
+                                 withIntermediateDirectories:YES
+                                                  attributes:nil
+                                                       error:nil];
+}
+
 }  // namespace
 
-std::string MacFiles::homeDirectory() const { return utf8(NSHomeDirectory()); }
+std::string MacFiles::homeDirectory() const {
+  return callSystem([] { return utf8(NSHomeDirectory()); });
+}
 
 bool MacFiles::replace(const std::string& path, std::string_view contents) {
-  NSString* folder = nsString(path).stringByDeletingLastPathComponent;
-  if (![NSFileManager.defaultManager createDirectoryAtPath:folder
-                               withIntermediateDirectories:YES
-                                                attributes:nil
-                                                     error:nil]) {
-    return false;
-  }
+  if (!callSystem([&] { return createFolderOf(path); })) return false;
   // mkstemp makes a file that only its owner can read, which NSData's atomic writing does not.
   std::string temporary = path + ".XXXXXX";
   const int file = ::mkstemp(temporary.data());

@@ -1,20 +1,20 @@
 #pragma once
 
 #include "Desktop/Hotkey.h"
-#include "Desktop/MainLoop.h"
+#include "MacDesktop/MacMainLoop.h"
 
 namespace quillseal::mac {
 
 /// A hot key of the Carbon event manager, which needs no permission of the user.
 class MacHotkey final : public desktop::Hotkey {
  public:
-  /// `loop` and this object must outlive the event loop.
-  explicit MacHotkey(desktop::MainLoop& loop) : loop_(loop) {}
+  /// This object outlives the application's event loop.
+  explicit MacHotkey(const MacMainLoop& loop) : poster_(loop.poster()) {}
 
   void registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) override;
 
  private:
-  desktop::MainLoop& loop_;
+  MacMainLoop::Poster poster_;
   std::function<void()> pressed_;
 };
 

@@ -38,7 +38,7 @@ void MacHotkey::registerHotkey(desktop::KeyPress combination, std::function<void
   const EventHandlerUPP handler = [](EventHandlerCallRef, EventRef, void* self) -> OSStatus {
     callGuarded([self] {
       auto& hotkey = *static_cast<MacHotkey*>(self);
-      hotkey.loop_.post(hotkey.pressed_);
+      hotkey.poster_.post(hotkey.pressed_);
     });
     return noErr;
   };

@@ -4,7 +4,7 @@
 #include <map>
 
 #include "Desktop/HttpTransport.h"
-#include "Desktop/MainLoop.h"
+#include "MacDesktop/MacMainLoop.h"
 
 @class NSURLSession;
 
@@ -13,8 +13,7 @@ namespace quillseal::mac {
 /// The URL loading system. An answer of more than 8 MiB is `dataLengthExceedsMaximum`.
 class MacHttpTransport final : public desktop::HttpTransport {
  public:
-  /// `loop` outlives this object and its requests.
-  explicit MacHttpTransport(desktop::MainLoop& loop);
+  explicit MacHttpTransport(const MacMainLoop& loop);
   ~MacHttpTransport() override;
   MacHttpTransport(const MacHttpTransport&) = delete;
   MacHttpTransport& operator=(const MacHttpTransport&) = delete;
@@ -28,7 +27,7 @@ class MacHttpTransport final : public desktop::HttpTransport {
   /// The time limit of an exchange as a whole is a property of its session.
   [[nodiscard]] NSURLSession* sessionFor(std::chrono::seconds limit);
 
-  desktop::MainLoop& loop_;
+  MacMainLoop::Poster poster_;
   std::map<std::chrono::seconds, NSURLSession*> sessions_;
 };
 

@@ -120,7 +120,7 @@ Answer answerFrom(NSData* body, NSURLResponse* response, NSError* error) {
 
 }  // namespace
 
-MacHttpTransport::MacHttpTransport(desktop::MainLoop& loop) : loop_(loop) {}
+MacHttpTransport::MacHttpTransport(const MacMainLoop& loop) : poster_(loop.poster()) {}
 
 MacHttpTransport::~MacHttpTransport() {
   for (const auto& [limit, session] : sessions_) {
@@ -145,20 +145,23 @@ NSURLSession* MacHttpTransport::sessionFor(std::chrono::seconds limit) {
 desktop::Ticket MacHttpTransport::send(const desktop::HttpPost& post,
                                        std::function<void(Answer)> done) {
   const Completion<Answer> completion(std::move(done));
-  NSURL* url = urlFrom(post.url);
+  NSURL* url = callSystem([&] { return urlFrom(post.url); });
   if (url == nil) {
     completion(transportError(desktop::transport::badUrl));
     return {};
   }
-  desktop::MainLoop* loop = &loop_;
-  NSURLSession* session = sessionFor(post.timeout);
-  NSURLSessionDataTask* task = [session dataTaskWithRequest:requestFrom(post, url)];
-  [(QSExchanges*)session.delegate start:task
-                               finished:^(NSData* body, NSURLResponse* response, NSError* error) {
-                                 const Answer answer = answerFrom(body, response, error);
-                                 loop->post([completion, answer] { completion(answer); });
-                               }];
-  return completion.ticket([task] { [task cancel]; });
+  const MacMainLoop::Poster poster = poster_;
+  void (^finished)(NSData*, NSURLResponse*, NSError*) =
+      ^(NSData* body, NSURLResponse* response, NSError* error) {
+        const Answer answer = answerFrom(body, response, error);
+        poster.post([completion, answer] { completion(answer); });
+      };
+  return callSystem([&] {
+    NSURLSession* session = sessionFor(post.timeout);
+    NSURLSessionDataTask* task = [session dataTaskWithRequest:requestFrom(post, url)];
+    [(QSExchanges*)session.delegate start:task finished:finished];
+    return completion.ticket([task] { [task cancel]; });
+  });
 }
 
 Error MacHttpTransport::error(desktop::transport::ErrorCode code) const {

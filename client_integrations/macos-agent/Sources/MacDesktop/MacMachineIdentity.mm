@@ -4,6 +4,7 @@
 #import <IOKit/IOKitLib.h>
 
 #include "MacDesktop/CfHandle.h"
+#include "MacDesktop/MacError.h"
 #include "MacDesktop/MacText.h"
 
 namespace quillseal::mac {
@@ -16,7 +17,7 @@ std::optional<std::string> MacMachineIdentity::platformUuid() const {
   const CfHandle<CFTypeRef> property(::IORegistryEntryCreateCFProperty(
       expert.get(), CFSTR(kIOPlatformUUIDKey), kCFAllocatorDefault, 0));
   if (!property || ::CFGetTypeID(property.get()) != ::CFStringGetTypeID()) return std::nullopt;
-  return utf8((__bridge NSString*)property.get());
+  return callSystem([&] { return utf8((__bridge NSString*)property.get()); });
 }
 
 }  // namespace quillseal::mac

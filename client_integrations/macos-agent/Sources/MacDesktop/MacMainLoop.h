@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <utility>
 
 #include "Desktop/MainLoop.h"
 
@@ -9,7 +10,22 @@ namespace quillseal::mac {
 /// The main run loop. Posted work also runs while an alert is modal or a menu is open, including
 /// when the alert was itself opened by posted work.
 class MacMainLoop final : public desktop::MainLoop {
+  class Queue;
+
  public:
+  /// Posts to a loop that may be gone by then, for blocks that the system calls when it likes.
+  class Poster {
+   public:
+    /// Like `MainLoop::post`, and nothing once the loop has ended. Any thread.
+    void post(std::function<void()> work) const;
+
+   private:
+    friend class MacMainLoop;
+    explicit Poster(std::shared_ptr<Queue> queue) : queue_(std::move(queue)) {}
+
+    std::shared_ptr<Queue> queue_;
+  };
+
   /// Main thread.
   MacMainLoop();
   ~MacMainLoop() override;
@@ -23,8 +39,9 @@ class MacMainLoop final : public desktop::MainLoop {
   [[nodiscard]] desktop::Ticket runBlocking(std::function<void()> work,
                                             std::function<void()> finished) override;
 
+  [[nodiscard]] Poster poster() const { return Poster(queue_); }
+
  private:
-  class Queue;
   std::shared_ptr<Queue> queue_;  ///< shared with timers and workers that end after the loop
 };
 

@@ -70,6 +70,8 @@ class MacMainLoop::Queue {
   CfHandle<CFRunLoopSourceRef> source_;
 };
 
+void MacMainLoop::Poster::post(std::function<void()> work) const { queue_->push(std::move(work)); }
+
 MacMainLoop::MacMainLoop() : queue_(std::make_shared<Queue>()) {}
 
 MacMainLoop::~MacMainLoop() { queue_->close(); }

@@ -1,15 +1,14 @@
 #pragma once
 
-#include "Desktop/MainLoop.h"
 #include "Desktop/Presence.h"
+#include "MacDesktop/MacMainLoop.h"
 
 namespace quillseal::mac {
 
 /// The LocalAuthentication framework, with a fresh context for every question.
 class MacPresence final : public desktop::Presence {
  public:
-  /// `loop` outlives this object and its prompts.
-  explicit MacPresence(desktop::MainLoop& loop) : loop_(loop) {}
+  explicit MacPresence(const MacMainLoop& loop) : poster_(loop.poster()) {}
 
   [[nodiscard]] desktop::PresenceCapability canEvaluate(
       desktop::PresencePolicy policy) const override;
@@ -19,7 +18,7 @@ class MacPresence final : public desktop::Presence {
                                          std::function<void(Outcome<bool>)> done) override;
 
  private:
-  desktop::MainLoop& loop_;
+  MacMainLoop::Poster poster_;
 };
 
 }  // namespace quillseal::mac

@@ -21,42 +21,49 @@ LAPolicy policyFrom(desktop::PresencePolicy policy) {
 }  // namespace
 
 desktop::PresenceCapability MacPresence::canEvaluate(desktop::PresencePolicy policy) const {
-  LAContext* context = [[LAContext alloc] init];
-  NSError* error = nil;
-  desktop::PresenceCapability capability;
-  capability.available = [context canEvaluatePolicy:policyFrom(policy) error:&error];
-  if (!capability.available && error != nil) capability.reason = errorFrom(error);
-  return capability;
+  return callSystem([&] {
+    LAContext* context = [[LAContext alloc] init];
+    NSError* error = nil;
+    desktop::PresenceCapability capability;
+    capability.available = [context canEvaluatePolicy:policyFrom(policy) error:&error];
+    if (!capability.available && error != nil) capability.reason = errorFrom(error);
+    return capability;
+  });
 }
 
 desktop::Biometry MacPresence::biometry() const {
-  LAContext* context = [[LAContext alloc] init];
-  // The context knows the type only after this call, whatever the call's result.
-  [context canEvaluatePolicy:LAPolicyDeviceOwnerAuthenticationWithBiometrics error:nil];
-  const LABiometryType type = context.biometryType;
-  if (type == LABiometryTypeNone) return desktop::Biometry::none;
-  if (type == LABiometryTypeTouchID) return desktop::Biometry::touchId;
-  if (type == LABiometryTypeFaceID) return desktop::Biometry::faceId;
-  return desktop::Biometry::other;
+  return callSystem([] {
+    LAContext* context = [[LAContext alloc] init];
+    // The context knows the type only after this call, whatever the call's result.
+    [context canEvaluatePolicy:LAPolicyDeviceOwnerAuthenticationWithBiometrics error:nil];
+    const LABiometryType type = context.biometryType;
+    if (type == LABiometryTypeNone) return desktop::Biometry::none;
+    if (type == LABiometryTypeTouchID) return desktop::Biometry::touchId;
+    if (type == LABiometryTypeFaceID) return desktop::Biometry::faceId;
+    return desktop::Biometry::other;
+  });
 }
 
 desktop::Ticket MacPresence::evaluate(desktop::PresencePolicy policy, const desktop::Prompt& prompt,
                                       std::function<void(Outcome<bool>)> done) {
   const Completion<Outcome<bool>> completion(std::move(done));
-  LAContext* context = [[LAContext alloc] init];
-  if (policy == desktop::PresencePolicy::biometrics) {
-    context.localizedFallbackTitle = @"";  // no password button, which could only fail here
-  }
-  desktop::MainLoop* loop = &loop_;
-  [context evaluatePolicy:policyFrom(policy)
-          localizedReason:nsString(prompt.reason)
-                    reply:^(BOOL success, NSError* error) {
-                      Outcome<bool> outcome = static_cast<bool>(success);
-                      if (!success && error != nil) outcome = errorFrom(error);
-                      loop->post([completion, outcome] { completion(outcome); });
-                    }];
-  // The ticket keeps the context: one that is released takes its prompt away.
-  return completion.ticket([context] { [context invalidate]; });
+  return callSystem([&] {
+    LAContext* context = [[LAContext alloc] init];
+    if (policy == desktop::PresencePolicy::biometrics) {
+      context.localizedFallbackTitle = @"";  // no password button, which could only fail here
+    }
+    const MacMainLoop::Poster poster = poster_;
+    const auto answered = completion;
+    [context evaluatePolicy:policyFrom(policy)
+            localizedReason:nsString(prompt.reason)
+                      reply:^(BOOL success, NSError* error) {
+                        Outcome<bool> outcome = static_cast<bool>(success);
+                        if (!success && error != nil) outcome = errorFrom(error);
+                        poster.post([answered, outcome] { answered(outcome); });
+                      }];
+    // The ticket keeps the context: one that is released takes its prompt away.
+    return completion.ticket([context] { [context invalidate]; });
+  });
 }
 
 }  // namespace quillseal::mac

@@ -2,6 +2,7 @@
 
 #import <Foundation/Foundation.h>
 
+#include "MacDesktop/MacError.h"
 #include "MacDesktop/MacText.h"
 
 namespace quillseal::mac {
@@ -16,16 +17,21 @@ NSTimeZone* currentTimeZone() {
 }  // namespace
 
 std::string MacWallClock::today() const {
-  NSDateFormatter* formatter = [[NSDateFormatter alloc] init];
-  formatter.locale = NSLocale.currentLocale;
-  formatter.timeZone = currentTimeZone();
-  formatter.dateFormat = @"yyyy-MM-dd";
-  return utf8([formatter stringFromDate:NSDate.date]);
+  return callSystem([] {
+    NSDateFormatter* formatter = [[NSDateFormatter alloc] init];
+    formatter.locale = NSLocale.currentLocale;
+    formatter.timeZone = currentTimeZone();
+    formatter.dateFormat = @"yyyy-MM-dd";
+    return utf8([formatter stringFromDate:NSDate.date]);
+  });
 }
 
 desktop::TimeZone MacWallClock::timeZone() const {
-  NSTimeZone* zone = currentTimeZone();
-  return {.identifier = utf8(zone.name), .secondsFromGmt = static_cast<int>(zone.secondsFromGMT)};
+  return callSystem([] {
+    NSTimeZone* zone = currentTimeZone();
+    return desktop::TimeZone{.identifier = utf8(zone.name),
+                             .secondsFromGmt = static_cast<int>(zone.secondsFromGMT)};
+  });
 }
 
 }  // namespace quillseal::mac

@@ -1,25 +1,24 @@
 #pragma once
 
-#import <dispatch/dispatch.h>
-
-#include "Desktop/MainLoop.h"
 #include "Desktop/ScriptRunner.h"
+#include "MacDesktop/MacMainLoop.h"
 
 namespace quillseal::mac {
 
-/// AppleScript on a serial queue of its own.
+/// AppleScript on the main thread, the only one on which Foundation allows it. An application that
+/// does not answer holds it up for `longestWait` at most, then the script fails.
 class MacScriptRunner final : public desktop::ScriptRunner {
  public:
-  /// `loop` outlives this object and its scripts.
-  explicit MacScriptRunner(desktop::MainLoop& loop);
+  static constexpr int longestWait = 5;  ///< for each answer of an application, in seconds
+
+  explicit MacScriptRunner(const MacMainLoop& loop) : poster_(loop.poster()) {}
 
   [[nodiscard]] desktop::Ticket run(
       const std::string& source,
       std::function<void(Outcome<std::optional<std::string>>)> done) override;
 
  private:
-  desktop::MainLoop& loop_;
-  dispatch_queue_t queue_;
+  MacMainLoop::Poster poster_;
 };
 
 }  // namespace quillseal::mac

@@ -11,6 +11,12 @@ namespace {
 
 using Result = Outcome<std::optional<std::string>>;
 
+/// `source` with a limit to each wait for an application; AppleScript's own is two minutes.
+NSString* bounded(const std::string& source) {
+  return [NSString stringWithFormat:@"with timeout of %d seconds\n%@\nend timeout",
+                                    MacScriptRunner::longestWait, nsString(source)];
+}
+
 Result execute(NSString* source) {
   NSDictionary<NSString*, id>* failure = nil;
   NSAppleScript* script = [[NSAppleScript alloc] initWithSource:source];
@@ -22,22 +28,21 @@ Result execute(NSString* source) {
                 .description = utf8(failure.description)});
 }
 
-}  // namespace
+Result outcomeOf(NSString* source) {
+  try {
+    return callSystem([&] { return execute(source); });
+  } catch (const Error& error) {
+    return error;
+  }
+}
 
-MacScriptRunner::MacScriptRunner(desktop::MainLoop& loop)
-    : loop_(loop),
-      queue_(::dispatch_queue_create(
-          "ai.kestle.quillseal.scripts",
-          ::dispatch_queue_attr_make_with_qos_class(DISPATCH_QUEUE_SERIAL_WITH_AUTORELEASE_POOL,
-                                                    QOS_CLASS_USER_INITIATED, 0))) {}
+}  // namespace
 
 desktop::Ticket MacScriptRunner::run(const std::string& source, std::function<void(Result)> done) {
   const Completion<Result> completion(std::move(done));
-  NSString* text = nsString(source);
-  desktop::MainLoop* loop = &loop_;
-  ::dispatch_async(queue_, ^{
-    const Result result = execute(text);
-    loop->post([completion, result] { completion(result); });
+  NSString* text = callSystem([&] { return bounded(source); });
+  poster_.post([completion, text] {
+    if (completion.isPending()) completion(outcomeOf(text));
   });
   return completion.ticket();
 }

@@ -1,20 +1,25 @@
 #pragma once
 
 #include "Desktop/Applications.h"
-#include "Desktop/MainLoop.h"
+#include "MacDesktop/MacMainLoop.h"
 
 @class QSFrontApplicationObserver;
 
 namespace quillseal::mac {
 
-/// The applications that NSWorkspace knows. `RunningApplication::instance` is the process id.
+/// The applications that NSWorkspace knows. `RunningApplication::instance` is the process id. When
+/// the last of this program's own windows goes, the application that was active before it becomes
+/// active again: a program without windows that stays active would get the keys itself.
 class MacApplications final : public desktop::Applications {
  public:
-  /// `loop` outlives this object and its requests. Main thread.
-  explicit MacApplications(desktop::MainLoop& loop);
+  /// Main thread.
+  explicit MacApplications(const MacMainLoop& loop);
   ~MacApplications() override;
   MacApplications(const MacApplications&) = delete;
   MacApplications& operator=(const MacApplications&) = delete;
+
+  /// What `RunningApplication::categories` says of an application with this identifier.
+  [[nodiscard]] static std::string categoriesOf(const std::optional<std::string>& bundleIdentifier);
 
   [[nodiscard]] std::optional<desktop::RunningApplication> frontmost() const override;
   [[nodiscard]] bool isActive(const desktop::RunningApplication& application) const override;
@@ -29,7 +34,7 @@ class MacApplications final : public desktop::Applications {
   void open(const std::string& url) override;
 
  private:
-  desktop::MainLoop& loop_;
+  MacMainLoop::Poster poster_;
   QSFrontApplicationObserver* observer_;
 };
 

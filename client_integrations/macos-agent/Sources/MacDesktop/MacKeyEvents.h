@@ -7,7 +7,8 @@
 
 namespace quillseal::mac {
 
-/// Keyboard events of Core Graphics, posted where the hardware's own arrive.
+/// Keyboard events of Core Graphics, posted where the hardware's own arrive. A press is declined
+/// only where another application than its target is known to be active.
 class MacKeyEvents final : public desktop::KeyEvents {
  public:
   /// `loop` outlives this object and its presses.

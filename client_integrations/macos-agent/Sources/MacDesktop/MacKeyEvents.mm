@@ -6,13 +6,14 @@
 #include <string>
 #include <utility>
 
+#import <AppKit/AppKit.h>
 #import <ApplicationServices/ApplicationServices.h>
 #import <Carbon/Carbon.h>
-#import <Foundation/Foundation.h>
 #import <IOKit/IOKitLib.h>
 
 #include "MacDesktop/CfHandle.h"
 #include "MacDesktop/Completion.h"
+#include "MacDesktop/MacError.h"
 
 namespace quillseal::mac {
 namespace {
@@ -34,15 +35,33 @@ void post(desktop::KeyPress press) {
   }
 }
 
+/// What becomes of a key that is posted now for `target`. It is declined only where another
+/// application is known to be active, not where the system does not say which one is.
+desktop::Delivery prospectOf(const desktop::RunningApplication& target) {
+  return callSystem([&] {
+    const auto process = static_cast<pid_t>(target.instance);
+    NSRunningApplication* active = NSWorkspace.sharedWorkspace.frontmostApplication;
+    if (active == nil || active.processIdentifier == process) return desktop::Delivery::delivered;
+    NSRunningApplication* wanted =
+        [NSRunningApplication runningApplicationWithProcessIdentifier:process];
+    return wanted == nil || wanted.terminated ? desktop::Delivery::targetClosed
+                                              : desktop::Delivery::declined;
+  });
+}
+
 /// A press that waits for the user's fingers to leave the modifiers of the hotkey. The events carry
 /// their own flags, but some applications look at the keyboard itself.
 class WaitingPress : public std::enable_shared_from_this<WaitingPress> {
  public:
-  WaitingPress(desktop::MainLoop& loop, desktop::KeyPress press, std::function<void()> aboutToPress,
-               Completion<desktop::Delivery> completion)
+  struct Plan {
+    desktop::KeyPress press;
+    std::optional<desktop::RunningApplication> target;
+    std::function<void()> aboutToPress;
+  };
+
+  WaitingPress(desktop::MainLoop& loop, Plan plan, Completion<desktop::Delivery> completion)
       : loop_(loop),
-        press_(press),
-        aboutToPress_(std::move(aboutToPress)),
+        plan_(std::move(plan)),
         completion_(std::move(completion)),
         deadline_(loop.now() + 400ms) {}
 
@@ -54,39 +73,38 @@ class WaitingPress : public std::enable_shared_from_this<WaitingPress> {
       timer_ = loop_.after(10ms, [self = shared_from_this()] { self->run(); });
       return;
     }
-    if (aboutToPress_) aboutToPress_();
-    post(press_);
-    completion_(desktop::Delivery::delivered);
+    completion_(deliver());
   }
 
   void cancel() { timer_ = {}; }
 
  private:
+  desktop::Delivery deliver() {
+    try {
+      const desktop::Delivery prospect =
+          plan_.target ? prospectOf(*plan_.target) : desktop::Delivery::delivered;
+      if (prospect != desktop::Delivery::delivered) return prospect;
+      if (plan_.aboutToPress) plan_.aboutToPress();
+    } catch (const Error&) {
+      return desktop::Delivery::declined;
+    }
+    post(plan_.press);
+    return desktop::Delivery::delivered;
+  }
+
   desktop::MainLoop& loop_;
-  desktop::KeyPress press_;
-  std::function<void()> aboutToPress_;
+  Plan plan_;
   Completion<desktop::Delivery> completion_;
   desktop::MainLoop::TimePoint deadline_;
   desktop::Ticket timer_;
 };
 
-}  // namespace
-
-bool MacKeyEvents::isTrusted() const { return ::AXIsProcessTrusted(); }
-
-void MacKeyEvents::askForTrust() {
-  NSDictionary* options = @{(__bridge NSString*)kAXTrustedCheckOptionPrompt : @YES};
-  ::AXIsProcessTrustedWithOptions((__bridge CFDictionaryRef)options);
-}
-
-std::string MacKeyEvents::obstacle() const {
-  // While a password field has the keyboard, or a program forgot to give Secure Input back, the
-  // system swallows posted keys; the holder's process id is the one clue for the user.
-  if (!::IsSecureEventInputEnabled()) return {};
-  std::string text = "secure input is on";
+/// The processes that hold secure input, to be appended to a line; empty when that is not known.
+std::string holdersOfSecureInput() {
   const IoHandle root(::IORegistryGetRootEntry(kIOMainPortDefault));
   const CfHandle<CFTypeRef> property(::IORegistryEntryCreateCFProperty(
       root.get(), CFSTR("IOConsoleUsers"), kCFAllocatorDefault, 0));
+  std::string text;
   id users = (__bridge id)property.get();
   if (![users isKindOfClass:NSArray.class]) return text;
   for (id user in (NSArray*)users) {
@@ -98,13 +116,33 @@ std::string MacKeyEvents::obstacle() const {
   return text;
 }
 
+}  // namespace
+
+bool MacKeyEvents::isTrusted() const { return ::AXIsProcessTrusted(); }
+
+void MacKeyEvents::askForTrust() {
+  callSystem([] {
+    NSDictionary* options = @{(__bridge NSString*)kAXTrustedCheckOptionPrompt : @YES};
+    ::AXIsProcessTrustedWithOptions((__bridge CFDictionaryRef)options);
+  });
+}
+
+std::string MacKeyEvents::obstacle() const {
+  // While a password field has the keyboard, or a program forgot to give Secure Input back, the
+  // system swallows posted keys; the holder's process id is the one clue for the user.
+  if (!::IsSecureEventInputEnabled()) return {};
+  return "secure input is on" + callSystem(holdersOfSecureInput);
+}
+
 desktop::Ticket MacKeyEvents::press(desktop::KeyPress press,
-                                    const std::optional<desktop::RunningApplication>& /*target*/,
+                                    const std::optional<desktop::RunningApplication>& target,
                                     std::function<void()> aboutToPress,
                                     std::function<void(desktop::Delivery)> done) {
   const Completion<desktop::Delivery> completion(std::move(done));
-  const auto waiting =
-      std::make_shared<WaitingPress>(loop_, press, std::move(aboutToPress), completion);
+  const auto waiting = std::make_shared<WaitingPress>(
+      loop_,
+      WaitingPress::Plan{.press = press, .target = target, .aboutToPress = std::move(aboutToPress)},
+      completion);
   loop_.post([waiting] { waiting->run(); });
   return completion.ticket([waiting] { waiting->cancel(); });
 }

@@ -6,24 +6,26 @@
 
 #include "Desktop/Alerts.h"
 #include "Desktop/Log.h"
-#include "Desktop/MainLoop.h"
+#include "MacDesktop/MacMainLoop.h"
 
 @class NSAlert;
+@class NSView;
+@class QSMenuWatcher;
 @class QSNotificationPresenter;
 
 namespace quillseal::mac {
 
 /// Alerts of AppKit and notifications of the user notification center. An alert is modal in a
 /// nested event loop, which goes on with the agent's other work; of several open alerts the newest
-/// is answered first.
+/// is answered first. One that comes while a menu of this program is open closes the menu first.
 class MacAlerts final : public desktop::Alerts {
  public:
   struct Services {
-    desktop::MainLoop& loop;
+    const MacMainLoop& loop;
     desktop::Log& log;
   };
 
-  /// Main thread. The services outlive this object, and this object the event loop.
+  /// Main thread. The log outlives this object, and this object the application's event loop.
   explicit MacAlerts(Services services);
   ~MacAlerts() override;
   MacAlerts(const MacAlerts&) = delete;
@@ -41,14 +43,20 @@ class MacAlerts final : public desktop::Alerts {
  private:
   struct OpenAlert;
 
-  /// Opens `alert` soon; `answered` learns whether the first button was pressed.
-  [[nodiscard]] desktop::Ticket open(NSAlert* alert, std::function<void(bool)> answered);
+  /// Opens `alert` soon, with the keyboard in `field` unless that is nil; `answered` learns whether
+  /// the first button was pressed.
+  [[nodiscard]] desktop::Ticket open(NSAlert* alert, NSView* field,
+                                     std::function<void(bool)> answered);
   void run(const std::shared_ptr<OpenAlert>& open);
+  void runAfterMenu();
   void stopWithdrawn();
 
-  Services services_;
-  std::vector<std::shared_ptr<OpenAlert>> open_;  ///< the newest last
-  QSNotificationPresenter* presenter_;            ///< the notification center does not keep it
+  MacMainLoop::Poster poster_;
+  std::shared_ptr<desktop::Log*> log_;  ///< null once this object is gone, for late answers
+  std::vector<std::shared_ptr<OpenAlert>> open_;     ///< the newest last
+  std::vector<std::shared_ptr<OpenAlert>> waiting_;  ///< for a menu to close
+  QSMenuWatcher* menus_;
+  QSNotificationPresenter* presenter_;  ///< the notification center does not keep it
 };
 
 }  // namespace quillseal::mac

@@ -7,6 +7,7 @@
 #import <UserNotifications/UserNotifications.h>
 
 #include "MacDesktop/Completion.h"
+#include "MacDesktop/MacError.h"
 #include "MacDesktop/MacProgram.h"
 #include "MacDesktop/MacText.h"
 
@@ -20,6 +21,50 @@
        willPresentNotification:(UNNotification*)__unused notification
          withCompletionHandler:(void (^)(UNNotificationPresentationOptions))completionHandler {
   completionHandler(UNNotificationPresentationOptionBanner | UNNotificationPresentationOptionList);
+}
+
+@end
+
+/// Knows which menu of this program is open.
+@interface QSMenuWatcher : NSObject
+@property(nonatomic, readonly, weak, nullable) NSMenu* openMenu;
+/// `closed` is called on the main thread whenever a menu has closed.
+- (instancetype)initWithBlock:(void (^)(void))closed;
+- (void)stop;
+@end
+
+@implementation QSMenuWatcher {
+  void (^_closed)(void);
+}
+
+- (instancetype)initWithBlock:(void (^)(void))closed {
+  self = [super init];
+  if (self != nil) {
+    _closed = [closed copy];
+    NSNotificationCenter* center = NSNotificationCenter.defaultCenter;
+    [center addObserver:self
+               selector:@selector(menuDidOpen:)
+                   name:NSMenuDidBeginTrackingNotification
+                 object:nil];
+    [center addObserver:self
+               selector:@selector(menuDidClose:)
+                   name:NSMenuDidEndTrackingNotification
+                 object:nil];
+  }
+  return self;
+}
+
+- (void)stop {
+  [NSNotificationCenter.defaultCenter removeObserver:self];
+}
+
+- (void)menuDidOpen:(NSNotification*)notification {
+  _openMenu = notification.object;
+}
+
+- (void)menuDidClose:(NSNotification*)__unused notification {
+  _openMenu = nil;
+  _closed();
 }
 
 @end
@@ -101,6 +146,7 @@ NSPopUpButton* choiceOf(const ConfirmationForm& form) {
   if (form.selectedChoice < form.choices.size()) {
     [choice selectItemAtIndex:static_cast<NSInteger>(form.selectedChoice)];
   }
+  choice.accessibilityLabel = @"Medium";  // the form shows no labels
   return choice;
 }
 
@@ -110,6 +156,7 @@ NSTextField* fieldOf(const ConfirmationForm& form) {
   field.usesSingleLineMode = YES;
   field.cell.wraps = NO;
   field.cell.scrollable = YES;
+  field.accessibilityLabel = @"Recipient";
   return field;
 }
 
@@ -123,6 +170,29 @@ NSTextField* noteOf(const ConfirmationForm& form) {
   return note;
 }
 
+/// Shows `alert`, with the keyboard in `field` unless that is nil, until it is answered or stopped.
+NSModalResponse runModal(NSAlert* alert, NSView* field) {
+  activateProgram();
+  [alert layout];  // else done by runModal only, after the window was shown
+  NSWindow* window = alert.window;
+  if (field != nil) window.initialFirstResponder = field;
+  window.preventsApplicationTerminationWhenModal = NO;  // quitting and logging out need no answer
+  // In case the system does not let this program become active: at least on top of all windows.
+  window.level = NSModalPanelWindowLevel;
+  [window center];
+  [window orderFrontRegardless];
+  return [alert runModal];
+}
+
+UNNotificationRequest* requestFor(const desktop::Notification& notification) {
+  UNMutableNotificationContent* content = [[UNMutableNotificationContent alloc] init];
+  content.title = nsString(notification.title);
+  content.body = nsString(notification.body);
+  return [UNNotificationRequest requestWithIdentifier:NSUUID.UUID.UUIDString
+                                              content:content
+                                              trigger:nil];
+}
+
 /// For the end of a line of the log; nothing for nil.
 std::string codeOf(NSError* error) {
   return error == nil ? "" : " (error " + std::to_string(error.code) + ")";
@@ -132,27 +202,40 @@ std::string codeOf(NSError* error) {
 
 struct MacAlerts::OpenAlert {
   NSAlert* alert;
+  NSView* field;
   Completion<bool> completion;
 };
 
 MacAlerts::MacAlerts(Services services)
-    : services_(services), presenter_([[QSNotificationPresenter alloc] init]) {
+    : poster_(services.loop.poster()),
+      log_(std::make_shared<desktop::Log*>(&services.log)),
+      menus_([[QSMenuWatcher alloc] initWithBlock:^{
+        runAfterMenu();
+      }]),
+      presenter_([[QSNotificationPresenter alloc] init]) {
   // Outside of a bundle, where the center has nobody to speak for, it throws.
   if (NSBundle.mainBundle.bundleIdentifier == nil) return;
   UNUserNotificationCenter.currentNotificationCenter.delegate = presenter_;
 }
 
-MacAlerts::~MacAlerts() = default;
+MacAlerts::~MacAlerts() {
+  *log_ = nullptr;
+  [menus_ stop];
+}
 
 desktop::Ticket MacAlerts::show(const desktop::Alert& alert, std::function<void()> dismissed) {
-  NSAlert* shown = alertFrom(alert.title, alert.body, alert.style, nil);
-  [shown addButtonWithTitle:@"OK"];
-  return open(shown, [dismissed = std::move(dismissed)](bool) { dismissed(); });
+  NSAlert* shown = callSystem([&] {
+    NSAlert* made = alertFrom(alert.title, alert.body, alert.style, nil);
+    [made addButtonWithTitle:@"OK"];
+    return made;
+  });
+  return open(shown, nil, [dismissed = std::move(dismissed)](bool) { dismissed(); });
 }
 
 desktop::Ticket MacAlerts::ask(const desktop::Question& question,
                                std::function<void(desktop::Answer)> answered) {
-  return open(alertFrom(question, nil), [answered = std::move(answered)](bool first) {
+  NSAlert* shown = callSystem([&] { return alertFrom(question, nil); });
+  return open(shown, nil, [answered = std::move(answered)](bool first) {
     answered(first ? desktop::Answer::confirmed : desktop::Answer::cancelled);
   });
 }
@@ -160,14 +243,14 @@ desktop::Ticket MacAlerts::ask(const desktop::Question& question,
 desktop::Ticket MacAlerts::confirm(
     const ConfirmationForm& form,
     std::function<void(std::optional<desktop::ConfirmationEntry>)> answered) {
-  NSPopUpButton* choice = choiceOf(form);
-  NSTextField* field = fieldOf(form);
-  NSView* view = [[NSView alloc] initWithFrame:band(0, ConfirmationForm::height)];
-  view.subviews = @[ choice, field, noteOf(form) ];
-  NSAlert* alert = alertFrom(form.question, view);
-  [alert layout];
-  alert.window.initialFirstResponder = field;
-  return open(alert, [choice, field, answered = std::move(answered)](bool first) {
+  NSPopUpButton* choice = callSystem([&] { return choiceOf(form); });
+  NSTextField* field = callSystem([&] { return fieldOf(form); });
+  NSAlert* alert = callSystem([&] {
+    NSView* view = [[NSView alloc] initWithFrame:band(0, ConfirmationForm::height)];
+    view.subviews = @[ choice, field, noteOf(form) ];
+    return alertFrom(form.question, view);
+  });
+  return open(alert, field, [choice, field, answered = std::move(answered)](bool first) {
     if (!first) {
       answered(std::nullopt);
       return;
@@ -179,53 +262,66 @@ desktop::Ticket MacAlerts::confirm(
 
 void MacAlerts::notify(const desktop::Notification& notification) {
   if (NSBundle.mainBundle.bundleIdentifier == nil) return;
-  UNMutableNotificationContent* content = [[UNMutableNotificationContent alloc] init];
-  content.title = nsString(notification.title);
-  content.body = nsString(notification.body);
-  UNNotificationRequest* request =
-      [UNNotificationRequest requestWithIdentifier:NSUUID.UUID.UUIDString
-                                           content:content
-                                           trigger:nil];
-  UNUserNotificationCenter* center = UNUserNotificationCenter.currentNotificationCenter;
-  desktop::Log* log = &services_.log;
-  // The system asks the user the first time and answers at once from then on.
-  [center requestAuthorizationWithOptions:UNAuthorizationOptionAlert
-                        completionHandler:^(BOOL granted, NSError* refusal) {
-                          if (!granted) {
-                            log->write("[sign] notifications are not allowed" + codeOf(refusal));
-                            return;
-                          }
-                          [center addNotificationRequest:request
-                                   withCompletionHandler:^(NSError* failure) {
-                                     if (failure == nil) return;
-                                     log->write("[sign] the notification was not shown" +
-                                                codeOf(failure));
-                                   }];
-                        }];
+  const MacMainLoop::Poster poster = poster_;
+  const std::shared_ptr<desktop::Log*> log = log_;
+  void (^report)(const char*, NSError*) = ^(const char* what, NSError* error) {
+    const std::string line = "[sign] " + std::string(what) + codeOf(error);
+    poster.post([log, line] {
+      if (*log != nullptr) (*log)->write(line);
+    });
+  };
+  UNUserNotificationCenter* center =
+      callSystem([] { return UNUserNotificationCenter.currentNotificationCenter; });
+  UNNotificationRequest* request = callSystem([&] { return requestFor(notification); });
+  void (^authorised)(BOOL, NSError*) = ^(BOOL granted, NSError* refusal) {
+    if (!granted) {
+      report("notifications are not allowed", refusal);
+      return;
+    }
+    [center addNotificationRequest:request
+             withCompletionHandler:^(NSError* failure) {
+               if (failure != nil) report("the notification was not shown", failure);
+             }];
+  };
+  callSystem([&] {
+    // The system asks the user the first time and answers at once from then on.
+    [center requestAuthorizationWithOptions:UNAuthorizationOptionAlert
+                          completionHandler:authorised];
+  });
 }
 
-desktop::Ticket MacAlerts::open(NSAlert* alert, std::function<void(bool)> answered) {
-  const auto open = std::make_shared<OpenAlert>(
-      OpenAlert{.alert = alert, .completion = Completion<bool>(std::move(answered))});
-  services_.loop.post([this, open] { run(open); });
+desktop::Ticket MacAlerts::open(NSAlert* alert, NSView* field, std::function<void(bool)> answered) {
+  const auto open = std::make_shared<OpenAlert>(OpenAlert{
+      .alert = alert, .field = field, .completion = Completion<bool>(std::move(answered))});
+  poster_.post([this, open] { run(open); });
   return open->completion.ticket([this] { stopWithdrawn(); });
 }
 
 void MacAlerts::run(const std::shared_ptr<OpenAlert>& open) {
   if (!open->completion.isPending()) return;
+  if (NSMenu* menu = menus_.openMenu) {
+    // A modal loop inside the menu's would leave the menu on the screen and the alert without keys.
+    waiting_.push_back(open);
+    [menu cancelTracking];
+    return;
+  }
   open_.push_back(open);
-  activateProgram();
-  [open->alert layout];  // else done by runModal only, after the window was shown
-  NSWindow* window = open->alert.window;
-  window.preventsApplicationTerminationWhenModal = NO;  // quitting and logging out need no answer
-  // In case the system does not let this program become active: at least on top of all windows.
-  window.level = NSModalPanelWindowLevel;
-  [window center];
-  [window orderFrontRegardless];
-  const NSModalResponse response = [open->alert runModal];
+  bool isFirstButton = false;
+  try {
+    isFirstButton =
+        callSystem([&] { return runModal(open->alert, open->field); }) == NSAlertFirstButtonReturn;
+  } catch (const Error& error) {
+    (*log_)->write(std::string("[sign] an alert could not be shown: ") + error.what());
+  }
   open_.pop_back();
   stopWithdrawn();
-  open->completion(response == NSAlertFirstButtonReturn);
+  open->completion(isFirstButton);
+}
+
+void MacAlerts::runAfterMenu() {
+  for (const std::shared_ptr<OpenAlert>& open : std::exchange(waiting_, {})) {
+    poster_.post([this, open] { run(open); });
+  }
 }
 
 void MacAlerts::stopWithdrawn() {

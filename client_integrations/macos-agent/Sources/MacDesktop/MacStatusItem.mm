@@ -71,6 +71,19 @@ MacStatusItem::~MacStatusItem() {
 }
 
 void MacStatusItem::show(const desktop::StatusMenu& menu) {
+  callSystem([&] { render(menu); });
+}
+
+void MacStatusItem::setItemTitle(std::size_t index, const std::string& title) {
+  callSystem([&] {
+    if (index >= static_cast<std::size_t>(item_.menu.numberOfItems)) return;
+    [item_.menu itemAtIndex:static_cast<NSInteger>(index)].title = nsString(title);
+  });
+}
+
+NSMenu* MacStatusItem::menu() const { return item_.menu; }
+
+void MacStatusItem::render(const desktop::StatusMenu& menu) {
   if (item_ == nil) {
     item_ = [NSStatusBar.systemStatusBar statusItemWithLength:NSVariableStatusItemLength];
   }
@@ -93,11 +106,6 @@ void MacStatusItem::show(const desktop::StatusMenu& menu) {
     ++tag;
   }
   item_.menu = shown;
-}
-
-void MacStatusItem::setItemTitle(std::size_t index, const std::string& title) {
-  if (index >= static_cast<std::size_t>(item_.menu.numberOfItems)) return;
-  [item_.menu itemAtIndex:static_cast<NSInteger>(index)].title = nsString(title);
 }
 
 }  // namespace quillseal::mac

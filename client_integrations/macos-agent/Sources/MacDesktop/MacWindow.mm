@@ -101,10 +101,14 @@ NSStackView* stack(NSUserInterfaceLayoutOrientation orientation, CGFloat spacing
 }
 
 void show(NSTextField* label, const FormText& text) {
-  label.stringValue = nsString(text.text);
-  label.font = fontFrom(text.font);
-  label.textColor = colourFrom(text.colour);
-  label.selectable = text.selectable;
+  // Only what changed is assigned: the user may be about to copy from it.
+  NSString* string = nsString(text.text);
+  if (![label.stringValue isEqualToString:string]) label.stringValue = string;
+  NSFont* font = fontFrom(text.font);
+  if (![label.font isEqual:font]) label.font = font;
+  NSColor* colour = colourFrom(text.colour);
+  if (![label.textColor isEqual:colour]) label.textColor = colour;
+  if ([label isSelectable] != text.selectable) label.selectable = text.selectable;
 }
 
 NSTextField* wrappingLabel(CGFloat width) {
@@ -126,6 +130,9 @@ class Row {
   [[nodiscard]] virtual bool update(const FormRow& description) = 0;
 
   [[nodiscard]] virtual NSView* view() const = 0;
+
+  /// What the user types in; nil in a row without such a control.
+  [[nodiscard]] virtual NSView* field() const { return nil; }
 };
 
 class TextRow final : public Row {
@@ -210,6 +217,8 @@ class FieldRow final : public Row {
 
   NSView* view() const override { return view_; }
 
+  NSView* field() const override { return field_; }
+
  private:
   NSStackView* view_;
   NSTextField* label_;
@@ -289,6 +298,14 @@ class Section {
 
   [[nodiscard]] NSView* view() const { return view_; }
 
+  /// The first one of its rows; nil when there is none.
+  [[nodiscard]] NSView* field() const {
+    for (const std::unique_ptr<Row>& row : rows_) {
+      if (NSView* field = row->field()) return field;
+    }
+    return nil;
+  }
+
  private:
   CGFloat width_;
   NSStackView* view_;
@@ -320,6 +337,15 @@ class MacWindow final : public desktop::Window {
   ~MacWindow() override { [window_ close]; }
 
   void render(const desktop::Form& form) override {
+    callSystem([&] { show(form); });
+  }
+
+  void bringToFront() override {
+    callSystem([this] { open(); });
+  }
+
+ private:
+  void show(const desktop::Form& form) {
     const NSSize size = NSMakeSize(form.width, form.height);
     if (!NSEqualSizes(size, window_.contentView.frame.size)) {
       [window_ setContentSize:size];
@@ -338,23 +364,33 @@ class MacWindow final : public desktop::Window {
     }
   }
 
-  void bringToFront() override {
+  void open() {
     [window_ makeKeyAndOrderFront:nil];
+    if (!std::exchange(wasOpened_, true)) [window_ makeFirstResponder:firstField()];
     // In case the system does not let this program become active: at least where it is seen.
     [window_ orderFrontRegardless];
     activateProgram();
   }
 
- private:
+  /// Where the keyboard is at first. Left to itself, AppKit also takes a text that can only be
+  /// selected.
+  [[nodiscard]] NSView* firstField() const {
+    for (const std::unique_ptr<Section>& section : sections_) {
+      if (NSView* field = section->field()) return field;
+    }
+    return nil;
+  }
+
   NSWindow* window_;
   NSStackView* sectionStack_;
   std::vector<std::unique_ptr<Section>> sections_;
+  bool wasOpened_ = false;
 };
 
 }  // namespace
 
 std::unique_ptr<desktop::Window> MacWindows::make(const desktop::WindowDescription& description) {
-  return std::make_unique<MacWindow>(description);
+  return callSystem([&] { return std::make_unique<MacWindow>(description); });
 }
 
 }  // namespace quillseal::mac

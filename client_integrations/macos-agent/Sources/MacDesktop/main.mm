@@ -25,6 +25,11 @@
 #include "Quillseal/AppDelegate.h"
 #include "Quillseal/BrowserTabReturn.h"
 
+/// Hands the application's life over to `QuillsealApp`.
+@interface QSApplicationDelegate : NSObject <NSApplicationDelegate>
+- (void)showSettings:(id)sender;
+@end
+
 namespace quillseal::mac {
 namespace {
 
@@ -103,7 +108,11 @@ NSMenuItem* command(NSString* title, SEL action, NSString* key) {
 NSMenu* mainMenu() {
   NSMenu* menu = [[NSMenu alloc] init];
   menu.itemArray = @[
-    submenu(@"Quill Seal", @[ command(@"Quit Quill Seal", @selector(terminate:), @"q") ]),
+    submenu(@"Quill Seal",
+            @[
+              command(@"Settings…", @selector(showSettings:), @","),
+              command(@"Quit Quill Seal", @selector(terminate:), @"q"),
+            ]),
     submenu(@"Edit",
             @[
               command(@"Undo", NSSelectorFromString(@"undo:"), @"z"),
@@ -122,10 +131,6 @@ NSMenu* mainMenu() {
 }  // namespace
 }  // namespace quillseal::mac
 
-/// Hands the application's life over to `QuillsealApp`.
-@interface QSApplicationDelegate : NSObject <NSApplicationDelegate>
-@end
-
 @implementation QSApplicationDelegate {
   std::unique_ptr<quillseal::mac::QuillsealApp> _app;
 }
@@ -141,11 +146,15 @@ NSMenu* mainMenu() {
   });
 }
 
-- (BOOL)applicationShouldHandleReopen:(NSApplication*)__unused application
-                    hasVisibleWindows:(BOOL)__unused visible {
+- (void)showSettings:(id)__unused sender {
   quillseal::mac::callGuarded([self] {
     if (self->_app) self->_app->showSettings();
   });
+}
+
+- (BOOL)applicationShouldHandleReopen:(NSApplication*)__unused application
+                    hasVisibleWindows:(BOOL)__unused visible {
+  [self showSettings:nil];
   return NO;
 }
 

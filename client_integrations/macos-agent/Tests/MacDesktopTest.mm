@@ -1,25 +1,65 @@
+// The desktop services against macOS itself. The tests run unattended: they ask for no permission,
+// and what a machine lacks (an Enclave, a keychain entitlement, the right to come to the front) is
+// skipped with a message. They replace what is on the clipboard.
+#include <atomic>
 #include <chrono>
+#include <csignal>
+#include <ctime>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <thread>
+#include <utility>
 #include <variant>
 #include <vector>
 
 #include <gtest/gtest.h>
 #include <netinet/in.h>
+#include <poll.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#import <Foundation/Foundation.h>
+#import <AppKit/AppKit.h>
+#import <Carbon/Carbon.h>
+#import <LocalAuthentication/LocalAuthentication.h>
+#import <objc/runtime.h>
 
+#include "MacDesktop/MacAlerts.h"
+#include "MacDesktop/MacApplications.h"
+#include "MacDesktop/MacDefaults.h"
 #include "MacDesktop/MacError.h"
 #include "MacDesktop/MacFiles.h"
+#include "MacDesktop/MacHotkey.h"
 #include "MacDesktop/MacHttpTransport.h"
+#include "MacDesktop/MacKeyEvents.h"
+#include "MacDesktop/MacKeyStore.h"
 #include "MacDesktop/MacMachineIdentity.h"
 #include "MacDesktop/MacMainLoop.h"
+#include "MacDesktop/MacPasteboard.h"
+#include "MacDesktop/MacPresence.h"
+#include "MacDesktop/MacProgram.h"
+#include "MacDesktop/MacScriptRunner.h"
+#include "MacDesktop/MacStatusItem.h"
 #include "MacDesktop/MacText.h"
+#include "MacDesktop/MacWallClock.h"
+#include "MacDesktop/MacWindow.h"
+#include "Quillseal/AccessibilityManager.h"
+
+/// Counts how often its tracking was to be cancelled.
+@interface QSTestMenu : NSMenu
+@property(nonatomic) int cancellations;
+@end
+
+@implementation QSTestMenu
+
+- (void)cancelTracking {
+  ++_cancellations;
+}
+
+@end
 
 namespace quillseal::mac {
 namespace {
@@ -27,76 +67,194 @@ namespace {
 using std::chrono_literals::operator""ms;
 using std::chrono_literals::operator""s;
 
-/// Runs the main run loop until `done`; false when that takes more than ten seconds.
-bool runUntil(const bool& done) {
-  NSDate* limit = [NSDate dateWithTimeIntervalSinceNow:10];
-  while (!done && limit.timeIntervalSinceNow > 0) {
-    ::CFRunLoopRunInMode(kCFRunLoopDefaultMode, 0.05, true);
+class Application : public testing::Environment {
+ public:
+  void SetUp() override {
+    ::signal(SIGPIPE, SIG_IGN);  // of requests that are cancelled
+    [NSApplication.sharedApplication setActivationPolicy:NSApplicationActivationPolicyAccessory];
+    [NSApp finishLaunching];
   }
-  return done;
+};
+
+const testing::Environment* const application =
+    testing::AddGlobalTestEnvironment(new Application);  // owned by the framework
+
+/// Handles events as the application's own loop does until `done`; false when that takes longer
+/// than `seconds`.
+bool runUntil(const std::function<bool()>& done, double seconds = 10) {
+  NSDate* limit = [NSDate dateWithTimeIntervalSinceNow:seconds];
+  while (!done() && limit.timeIntervalSinceNow > 0) {
+    @autoreleasepool {
+      NSEvent* event = [NSApp nextEventMatchingMask:NSEventMaskAny
+                                          untilDate:[NSDate dateWithTimeIntervalSinceNow:0.02]
+                                             inMode:NSDefaultRunLoopMode
+                                            dequeue:YES];
+      if (event != nil) [NSApp sendEvent:event];
+    }
+  }
+  return done();
 }
 
-TEST(MacMainLoopTest, RunsPostedWorkLaterAndInOrder) {
-  MacMainLoop loop;
+void runFor(double seconds) {
+  static_cast<void>(runUntil([] { return false; }, seconds));
+}
+
+/// What `work` throws; nothing when it throws nothing.
+template <typename Work>
+std::optional<Error> errorOf(const Work& work) {
+  try {
+    work();
+  } catch (const Error& error) {
+    return error;
+  }
+  return std::nullopt;
+}
+
+/// Has objects of one class answer a message with a block, for as long as it lives.
+class Replaced {
+ public:
+  Replaced(Class kind, SEL selector, id block)
+      : method_(::class_getInstanceMethod(kind, selector)),
+        original_(::method_setImplementation(method_, ::imp_implementationWithBlock(block))) {}
+  Replaced(const Replaced&) = delete;
+  Replaced& operator=(const Replaced&) = delete;
+  ~Replaced() { ::method_setImplementation(method_, original_); }
+
+ private:
+  Method method_;
+  IMP original_;
+};
+
+[[noreturn]] void raise() {
+  @throw [NSException exceptionWithName:@"TestException" reason:@"deliberate" userInfo:nil];
+}
+
+class RecordingLog final : public desktop::Log {
+ public:
+  void write(std::string_view line) override { lines.emplace_back(line); }
+
+  std::vector<std::string> lines;
+};
+
+class MacDesktopTest : public testing::Test {
+ protected:
+  MacMainLoop loop_;
+  RecordingLog log_;
+};
+
+// Errors ------------------------------------------------------------------------------------------
+
+TEST(MacErrorTest, TurnsWhatTheSystemRaisesIntoAnError) {
+  const auto error = errorOf([] { callSystem([] { raise(); }); });
+  ASSERT_TRUE(error.has_value());
+  EXPECT_EQ(error->domain(), "TestException");
+  EXPECT_STREQ(error->what(), "deliberate");
+  const auto own = errorOf([] {
+    callSystem([] { throw Error({.domain = "own", .code = 7, .description = "words"}); });
+  });
+  ASSERT_TRUE(own.has_value());
+  EXPECT_EQ(own->code(), 7);
+  EXPECT_EQ(callSystem([] { return 3; }), 3);
+  callGuarded([] { raise(); });
+  callGuarded([] { throw std::runtime_error("deliberate"); });
+  EXPECT_STREQ(errorFrom(nil).what(), "");
+  EXPECT_EQ(errorFromStatus(-25308).code(), -25308);
+}
+
+// Event loop --------------------------------------------------------------------------------------
+
+using MacMainLoopTest = MacDesktopTest;
+
+TEST_F(MacMainLoopTest, RunsPostedWorkLaterAndInOrder) {
   std::string order;
   bool done = false;
-  loop.post([&] { order += "a"; });
-  loop.post([&] {
+  loop_.post([&] { order += "a"; });
+  loop_.post([&] {
     order += "b";
-    loop.post([&] { done = true; });
+    loop_.post([&] { done = true; });
   });
   EXPECT_EQ(order, "");
-  ASSERT_TRUE(runUntil(done));
+  ASSERT_TRUE(runUntil([&] { return done; }));
   EXPECT_EQ(order, "ab");
 }
 
 // What an open alert does: it keeps posted work on the stack while it runs a loop of its own.
-TEST(MacMainLoopTest, GoesOnInsideALoopThatPostedWorkRuns) {
-  MacMainLoop loop;
+TEST_F(MacMainLoopTest, GoesOnInsideALoopThatPostedWorkRuns) {
   bool inner = false;
   bool outer = false;
-  loop.post([&] {
-    EXPECT_TRUE(runUntil(inner));
+  loop_.post([&] {
+    EXPECT_TRUE(runUntil([&] { return inner; }));
     outer = true;
   });
-  loop.post([&] { inner = true; });
-  EXPECT_TRUE(runUntil(outer));
+  loop_.post([&] { inner = true; });
+  EXPECT_TRUE(runUntil([&] { return outer; }));
 }
 
-TEST(MacMainLoopTest, SurvivesWorkThatThrows) {
-  MacMainLoop loop;
+TEST_F(MacMainLoopTest, SurvivesWorkThatThrows) {
   bool done = false;
-  loop.post([] { throw std::runtime_error("deliberate"); });
-  loop.post([&] { done = true; });
-  EXPECT_TRUE(runUntil(done));
+  loop_.post([] { throw std::runtime_error("deliberate"); });
+  loop_.post([] { raise(); });
+  loop_.post([&] { done = true; });
+  EXPECT_TRUE(runUntil([&] { return done; }));
 }
 
-TEST(MacMainLoopTest, StopsATimerWhoseTicketWasDropped) {
-  MacMainLoop loop;
+TEST_F(MacMainLoopTest, StopsATimerWhoseTicketWasDropped) {
   bool stopped = true;
   bool done = false;
   {
-    const desktop::Ticket dropped = loop.after(10ms, [&] { stopped = false; });
+    const desktop::Ticket dropped = loop_.after(10ms, [&] { stopped = false; });
   }
-  const desktop::Ticket kept = loop.after(50ms, [&] { done = true; });
-  ASSERT_TRUE(runUntil(done));
+  const desktop::Ticket kept = loop_.after(50ms, [&] { done = true; });
+  ASSERT_TRUE(runUntil([&] { return done; }));
   EXPECT_TRUE(stopped);
 }
 
-TEST(MacMainLoopTest, BlocksOnAWorkerAndFinishesOnTheMainThread) {
-  MacMainLoop loop;
+TEST_F(MacMainLoopTest, RunsOverdueTimersOnceAfterItStoodStill) {
+  int runs = 0;
+  const desktop::Ticket timer = loop_.after(10ms, [&] { ++runs; });
+  std::this_thread::sleep_for(100ms);
+  EXPECT_EQ(runs, 0);
+  runFor(0.2);
+  EXPECT_EQ(runs, 1);
+}
+
+TEST_F(MacMainLoopTest, BlocksOnAWorkerAndFinishesOnTheMainThread) {
   bool workedOnMain = true;
   bool finishedOnMain = false;
   bool done = false;
-  const desktop::Ticket ticket = loop.runBlocking([&] { workedOnMain = NSThread.isMainThread; },
-                                                  [&] {
-                                                    finishedOnMain = NSThread.isMainThread;
-                                                    done = true;
-                                                  });
-  ASSERT_TRUE(runUntil(done));
+  const desktop::Ticket ticket = loop_.runBlocking([&] { workedOnMain = NSThread.isMainThread; },
+                                                   [&] {
+                                                     finishedOnMain = NSThread.isMainThread;
+                                                     done = true;
+                                                   });
+  ASSERT_TRUE(runUntil([&] { return done; }));
   EXPECT_FALSE(workedOnMain);
   EXPECT_TRUE(finishedOnMain);
 }
+
+TEST_F(MacMainLoopTest, TakesPostsFromManyThreadsAndFromSomeThatOutliveIt) {
+  auto loop = std::make_unique<MacMainLoop>();
+  const MacMainLoop::Poster poster = loop->poster();
+  int runs = 0;
+  std::vector<std::thread> threads;
+  for (int i = 0; i < 4; ++i) {
+    threads.emplace_back([poster, &runs] {
+      for (int post = 0; post < 100; ++post) poster.post([&runs] { ++runs; });
+    });
+  }
+  for (std::thread& thread : threads) thread.join();
+  EXPECT_TRUE(runUntil([&] { return runs == 400; }));
+  const desktop::Ticket timer = loop->after(20ms, [&] { ++runs; });
+  const desktop::Ticket worker =
+      loop->runBlocking([] { std::this_thread::sleep_for(20ms); }, [&] { ++runs; });
+  poster.post([&] { ++runs; });
+  loop.reset();
+  std::thread([poster, &runs] { poster.post([&runs] { ++runs; }); }).join();
+  runFor(0.2);
+  EXPECT_EQ(runs, 400);
+}
+
+// Text, files, machine, clock ---------------------------------------------------------------------
 
 TEST(MacTextTest, KeepsWellFormedTextAndMendsTheRest) {
   for (const std::string& text : {std::string("Hi"), std::string("『Zoë』 🛡️"),
@@ -146,43 +304,942 @@ TEST(MacMachineIdentityTest, StaysTheSame) {
   EXPECT_EQ(machine.platformUuid(), identifier);
 }
 
-class MacHttpTransportTest : public testing::Test {
+TEST(MacWallClockTest, GivesTheDayAndTheZoneOfTheSystem) {
+  const MacWallClock clock;
+  const std::time_t now = std::time(nullptr);
+  struct tm local {};
+  ::localtime_r(&now, &local);
+  char day[11];
+  ASSERT_EQ(std::strftime(day, sizeof day, "%Y-%m-%d", &local), 10U);
+  EXPECT_EQ(clock.today(), day);  // not at midnight
+  EXPECT_EQ(clock.timeZone().secondsFromGmt, static_cast<int>(local.tm_gmtoff));
+  EXPECT_FALSE(clock.timeZone().identifier.empty());
+}
+
+// Pasteboard --------------------------------------------------------------------------------------
+
+class MacPasteboardTest : public testing::Test {
  protected:
-  std::int64_t errorOf(const std::string& url, std::chrono::seconds timeout = 60s) {
-    std::optional<Outcome<desktop::HttpResponse>> answer;
-    bool done = false;
-    const desktop::Ticket ticket =
-        transport_.send({.url = url, .headers = {}, .body = "{}", .timeout = timeout},
-                        [&](Outcome<desktop::HttpResponse> outcome) {
-                          answer = std::move(outcome);
-                          done = true;
-                        });
-    if (!runUntil(done) || !std::holds_alternative<Error>(*answer)) return 0;
-    EXPECT_EQ(std::get<Error>(*answer).domain(), desktop::transport::errorDomain);
-    return std::get<Error>(*answer).code();
+  NSPasteboard* general_ = NSPasteboard.generalPasteboard;
+  MacPasteboard pasteboard_;
+};
+
+TEST_F(MacPasteboardTest, OffersBothFlavoursAndNoOther) {
+  [general_ declareTypes:@[ NSPasteboardTypeRTF ] owner:nil];
+  [general_ setData:[NSData dataWithBytes:"{}" length:2] forType:NSPasteboardTypeRTF];
+  const auto before = pasteboard_.changeCount();
+  pasteboard_.write(
+      {.plainText = "『Zoë』 🛡️\nline 2", .html = "<p>『Zoë』 🛡️</p>"});
+  EXPECT_NE(pasteboard_.changeCount(), before);
+  EXPECT_EQ(pasteboard_.plainText(), "『Zoë』 🛡️\nline 2");
+  EXPECT_EQ(pasteboard_.html(), "<p>『Zoë』 🛡️</p>");
+  EXPECT_EQ(pasteboard_.rtf(), std::nullopt);
+  EXPECT_FALSE(pasteboard_.isConcealed());
+}
+
+TEST_F(MacPasteboardTest, ReadsWhatOthersOffer) {
+  NSString* concealed = @"org.nspasteboard.ConcealedType";
+  [general_ declareTypes:@[ NSPasteboardTypeString, NSPasteboardTypeRTF, concealed ] owner:nil];
+  [general_ setString:@"secret" forType:NSPasteboardTypeString];
+  [general_ setData:[NSData dataWithBytes:"{\\rtf1 x\0y}" length:11] forType:NSPasteboardTypeRTF];
+  [general_ setData:[NSData data] forType:concealed];
+  EXPECT_TRUE(pasteboard_.isConcealed());
+  EXPECT_EQ(pasteboard_.plainText(), "secret");
+  EXPECT_EQ(pasteboard_.html(), std::nullopt);
+  EXPECT_EQ(pasteboard_.rtf(), std::string("{\\rtf1 x\0y}", 11));
+  [general_ clearContents];
+  EXPECT_EQ(pasteboard_.plainText(), std::nullopt);
+  EXPECT_EQ(pasteboard_.rtf(), std::nullopt);
+  EXPECT_FALSE(pasteboard_.isConcealed());
+}
+
+TEST_F(MacPasteboardTest, OffersNothingWhenItCannotOfferAll) {
+  Class kind = object_getClass(general_);
+  pasteboard_.write({.plainText = "before", .html = ""});
+  {
+    const Replaced refusing(kind, @selector(writeObjects:), ^BOOL(id, NSArray*) {
+      return NO;
+    });
+    const auto error = errorOf([&] { pasteboard_.write({.plainText = "x", .html = ""}); });
+    ASSERT_TRUE(error.has_value());
+    EXPECT_STREQ(error->what(), "The signed text could not be put on the clipboard.");
+  }
+  EXPECT_EQ(pasteboard_.plainText(), std::nullopt);
+  const Replaced raising(kind, @selector(stringForType:), ^NSString*(id, NSString*) {
+    raise();
+  });
+  EXPECT_TRUE(errorOf([&] { static_cast<void>(pasteboard_.plainText()); }).has_value());
+  EXPECT_TRUE(errorOf([&] { static_cast<void>(pasteboard_.html()); }).has_value());
+}
+
+TEST_F(MacPasteboardTest, NamesTheSettingThatKeepsItFromReading) {
+  Class kind = object_getClass(general_);
+  const SEL selector = NSSelectorFromString(@"accessBehavior");  // of macOS 15.4
+  __block NSInteger behavior = 0;
+  NSInteger (^answer)(id) = ^NSInteger(id) {
+    return behavior;
+  };
+  if (![general_ respondsToSelector:selector]) {
+    EXPECT_EQ(pasteboard_.readingObstacle(), "");
+    ASSERT_TRUE(::class_addMethod(kind, selector, ::imp_implementationWithBlock(answer), "q@:"));
+  }
+  const Replaced settings(kind, selector, answer);
+  const std::pair<NSInteger, std::string> cases[] = {
+      {0, ""},
+      {1, "System Settings asks each time whether Quillseal may paste from other applications"},
+      {2, ""},
+      {3, "System Settings does not let Quillseal paste from other applications"},
+  };
+  for (const auto& [value, words] : cases) {
+    behavior = value;
+    EXPECT_EQ(pasteboard_.readingObstacle(), words);
+  }
+}
+
+// Status item -------------------------------------------------------------------------------------
+
+desktop::MenuItem command(const std::string& title, std::function<void()> action) {
+  desktop::MenuItem item;
+  item.title = title;
+  item.action = std::move(action);
+  return item;
+}
+
+desktop::StatusMenu statusMenu(std::vector<desktop::MenuItem> items) {
+  return {.symbol = "shield.fill",
+          .symbolDescription = "Quill Seal",
+          .title = " Quill",
+          .items = std::move(items)};
+}
+
+TEST(MacStatusItemTest, ShowsItsMenuAndRunsTheChosenAction) {
+  using Kind = desktop::MenuItem::Kind;
+  using desktop::Modifiers;
+  std::string ran;
+  MacStatusItem item;
+  item.setItemTitle(0, "nothing is shown yet");
+  EXPECT_EQ(item.menu(), nil);
+  desktop::MenuItem sign = command("Sign", [&] { ran += "s"; });
+  sign.keyEquivalent = "h";
+  sign.keyModifiers = Modifiers::command | Modifiers::option | Modifiers::control;
+  desktop::MenuItem separator = command("", nullptr);
+  separator.kind = Kind::separator;
+  desktop::MenuItem label = command("a label", nullptr);
+  label.kind = Kind::label;
+  item.show(statusMenu({sign, separator, label,
+                        command("Throws", [] { throw std::runtime_error("deliberate"); }),
+                        command("Replaces", [&] {
+                          item.show(statusMenu({command("only", [&] { ran += "o"; })}));
+                          ran += "r";
+                        })}));
+  NSMenu* menu = item.menu();
+  ASSERT_EQ(menu.numberOfItems, 5);
+  EXPECT_TRUE([menu itemAtIndex:0].isEnabled);
+  EXPECT_EQ([menu itemAtIndex:0].keyEquivalentModifierMask,
+            NSEventModifierFlagCommand | NSEventModifierFlagOption | NSEventModifierFlagControl);
+  EXPECT_TRUE([menu itemAtIndex:1].isSeparatorItem);
+  EXPECT_FALSE([menu itemAtIndex:2].isEnabled);
+  item.setItemTitle(2, "another label");
+  item.setItemTitle(99, "none");
+  EXPECT_EQ(utf8([menu itemAtIndex:2].title), "another label");
+  for (const NSInteger index : {0, 3, 4}) [menu performActionForItemAtIndex:index];
+  EXPECT_EQ(ran, "sr");
+  ASSERT_EQ(item.menu().numberOfItems, 1);
+  [item.menu() performActionForItemAtIndex:0];
+  EXPECT_EQ(ran, "sro");
+}
+
+// Windows -----------------------------------------------------------------------------------------
+
+/// The first view below `root` of class `kind` that `matches`.
+NSView* find(NSView* root, Class kind, const std::function<bool(id)>& matches) {
+  if ([root isKindOfClass:kind] && matches(root)) return root;
+  for (NSView* view in root.subviews) {
+    if (NSView* found = find(view, kind, matches)) return found;
+  }
+  return nil;
+}
+
+NSTextField* fieldLabelled(NSWindow* window, NSString* label) {
+  return (NSTextField*)find(window.contentView, NSTextField.class, [label](NSTextField* field) {
+    return [field isEditable] && [field.accessibilityLabel isEqual:label];
+  });
+}
+
+NSTextField* textShowing(NSWindow* window, NSString* text) {
+  return (NSTextField*)find(window.contentView, NSTextField.class, [text](NSTextField* field) {
+    return ![field isEditable] && [field.stringValue isEqual:text];
+  });
+}
+
+NSButton* buttonTitled(NSWindow* window, NSString* title) {
+  return (NSButton*)find(window.contentView, NSButton.class,
+                         [title](NSButton* button) { return [button.title isEqual:title]; });
+}
+
+NSWindow* windowTitled(NSString* title) {
+  for (NSWindow* window in NSApp.windows) {
+    if ([window.title isEqual:title]) return window;
+  }
+  return nil;
+}
+
+void type(NSTextField* field, NSString* text) {
+  [(NSTextView*)field.currentEditor insertText:text replacementRange:NSMakeRange(NSNotFound, 0)];
+}
+
+class MacWindowTest : public testing::Test {
+ protected:
+  std::unique_ptr<desktop::Window> make(const std::string& title) {
+    return MacWindows().make({.title = title, .width = 460, .height = 400});
   }
 
-  MacMainLoop loop_;
+  static desktop::Form form(std::vector<decltype(desktop::FormSection::rows)::value_type> rows) {
+    return {.width = 460, .height = 400, .sections = {{.header = "h", .rows = std::move(rows)}}};
+  }
+};
+
+TEST_F(MacWindowTest, EditsClosesAndReopens) {
+  std::string address = "https://a.example";
+  std::string key = "k";
+  int pressed = 0;
+  const auto window = make("Edits");
+  const auto rows = [&](const std::string& label) {
+    return form({desktop::FormField{.label = "Server URL",
+                                    .value = address,
+                                    .changed = [&](const std::string& text) { address = text; }},
+                 desktop::FormField{.label = "API Key",
+                                    .value = key,
+                                    .masked = true,
+                                    .changed = [&](const std::string& text) { key = text; }},
+                 desktop::FormStatus{.symbol = "checkmark.seal.fill", .text = {.text = "Enrolled"}},
+                 desktop::FormButton{.label = label, .pressed = [&] { ++pressed; }}});
+  };
+  window->render(rows("Enrol"));
+  window->bringToFront();
+  NSWindow* shown = windowTitled(@"Edits");
+  ASSERT_TRUE(runUntil([&] { return shown.isVisible; }));
+  NSTextField* field = fieldLabelled(shown, @"Server URL");
+  ASSERT_NE(field, nil);
+  EXPECT_NE(field.currentEditor, nil) << "the first field has the keyboard";
+
+  field.currentEditor.selectedRange = NSMakeRange(field.stringValue.length, 0);
+  type(field, @"/x");
+  EXPECT_EQ(address, "https://a.example/x");
+  field.currentEditor.selectedRange = NSMakeRange(5, 0);
+  window->render(rows("Re-enrol"));  // as when the settings were observed to change
+  EXPECT_EQ(fieldLabelled(shown, @"Server URL"), field);
+  EXPECT_EQ(field.currentEditor.selectedRange.location, 5U);
+  EXPECT_TRUE([fieldLabelled(shown, @"API Key") isKindOfClass:NSSecureTextField.class]);
+  [buttonTitled(shown, @"Re-enrol") performClick:nil];
+  EXPECT_EQ(pressed, 1);
+
+  [shown performClose:nil];
+  EXPECT_FALSE(shown.isVisible);
+  window->render(form({desktop::FormText{.text = "alone"}}));
+  EXPECT_EQ(buttonTitled(shown, @"Re-enrol"), nil);
+  window->bringToFront();
+  EXPECT_TRUE(shown.isVisible);
+  EXPECT_NE(textShowing(shown, @"alone"), nil);
+}
+
+TEST_F(MacWindowTest, LeavesTextAloneThatCanOnlyBeCopied) {
+  const auto window = make("Selects");
+  const auto address = form({desktop::FormText{.text = "https://a.example", .selectable = true}});
+  window->render(address);
+  window->bringToFront();
+  NSWindow* shown = windowTitled(@"Selects");
+  ASSERT_TRUE(runUntil([&] { return shown.isVisible; }));
+  EXPECT_EQ(shown.firstResponder, shown) << "no text has the keyboard unless it is clicked";
+  NSTextField* text = textShowing(shown, @"https://a.example");
+  [text selectText:nil];
+  text.currentEditor.selectedRange = NSMakeRange(8, 9);
+  window->render(address);
+  ASSERT_NE(text.currentEditor, nil);
+  EXPECT_EQ(text.currentEditor.selectedRange.length, 9U);
+}
+
+TEST_F(MacWindowTest, SurvivesActionsThatReplaceTheirOwnRowOrWindow) {
+  auto window = make("Replaces");
+  window->render(form({desktop::FormButton{.label = "go", .pressed = [&] {
+                                             window->render(
+                                                 form({desktop::FormText{.text = "gone"}}));
+                                           }}}));
+  window->bringToFront();
+  NSWindow* shown = windowTitled(@"Replaces");
+  [buttonTitled(shown, @"go") performClick:nil];
+  EXPECT_EQ(buttonTitled(shown, @"go"), nil);
+  window->render(form({desktop::FormButton{.label = "end", .pressed = [&] { window.reset(); }}}));
+  [buttonTitled(shown, @"end") performClick:nil];
+  EXPECT_EQ(window, nullptr);
+  EXPECT_FALSE(shown.isVisible);
+}
+
+// Alerts ------------------------------------------------------------------------------------------
+
+class MacAlertsTest : public MacDesktopTest {
+ protected:
+  /// Calls `work` once an alert is open that was not open before, again and again for nested ones.
+  void onAlert(std::function<void(NSWindow*)> work) {
+    timers_.push_back(loop_.after(20ms, [this, work = std::move(work)] {
+      NSWindow* window = NSApp.modalWindow;
+      if (window == nil || [seen_ containsObject:window] || !window.isVisible) {
+        onAlert(work);
+        return;
+      }
+      [seen_ addObject:window];
+      work(window);
+    }));
+  }
+
+  static void press(NSWindow* window, NSString* title) {
+    NSButton* button = buttonTitled(window, title);
+    EXPECT_NE(button, nil) << utf8(title);
+    [button performClick:nil];
+    // A modal loop looks whether it was ended after each event; a timer is none.
+    post([NSEvent otherEventWithType:NSEventTypeApplicationDefined
+                            location:NSZeroPoint
+                       modifierFlags:0
+                           timestamp:0
+                        windowNumber:0
+                             context:nil
+                             subtype:0
+                               data1:0
+                               data2:0]);
+  }
+
+  static void strike(NSWindow* window, NSString* key) {
+    [window makeKeyWindow];
+    for (const NSEventType kind : {NSEventTypeKeyDown, NSEventTypeKeyUp}) {
+      post([NSEvent keyEventWithType:kind
+                             location:NSZeroPoint
+                        modifierFlags:0
+                            timestamp:0
+                         windowNumber:window.windowNumber
+                              context:nil
+                           characters:key
+          charactersIgnoringModifiers:key
+                            isARepeat:NO
+                              keyCode:0]);
+    }
+  }
+
+  static void post(NSEvent* event) {
+    if (event != nil) [NSApp postEvent:event atStart:NO];
+  }
+
+  std::vector<desktop::Ticket> timers_;
+  NSMutableArray<NSWindow*>* seen_ = [NSMutableArray array];
+  MacAlerts alerts_{{.loop = loop_, .log = log_}};
+  desktop::Question question_{
+      .title = "Sign?", .body = "A body", .confirm = "Sign", .cancel = "Cancel"};
+};
+
+TEST_F(MacAlertsTest, IsAnsweredByButtonsAndKeys) {
+  const struct {
+    std::function<void(NSWindow*)> act;
+    desktop::Answer answer;
+  } cases[] = {
+      {[](NSWindow* window) { press(window, @"Sign"); }, desktop::Answer::confirmed},
+      {[](NSWindow* window) { press(window, @"Cancel"); }, desktop::Answer::cancelled},
+      {[](NSWindow* window) { strike(window, @"\r"); }, desktop::Answer::confirmed},
+      {[](NSWindow* window) { strike(window, @"\033"); }, desktop::Answer::cancelled},
+  };
+  for (const auto& c : cases) {
+    std::optional<desktop::Answer> answer;
+    const desktop::Ticket asked =
+        alerts_.ask(question_, [&](desktop::Answer given) { answer = given; });
+    onAlert(c.act);
+    ASSERT_TRUE(runUntil([&] { return answer.has_value(); }));
+    EXPECT_EQ(answer, c.answer);
+  }
+}
+
+TEST_F(MacAlertsTest, ConfirmationGivesChoiceAndFieldAndNamesThem) {
+  std::optional<std::optional<desktop::ConfirmationEntry>> entry;
+  const desktop::ConfirmationForm form{.question = question_,
+                                       .choices = {"Email", "Chat", "Document"},
+                                       .selectedChoice = 1,
+                                       .fieldPlaceholder = "where to",
+                                       .note = "small"};
+  const desktop::Ticket asked = alerts_.confirm(form, [&](auto given) { entry = given; });
+  onAlert([](NSWindow* window) {
+    NSTextField* field = fieldLabelled(window, @"Recipient");
+    ASSERT_NE(field, nil);
+    EXPECT_NE(field.currentEditor, nil) << "the field has the keyboard";
+    type(field, @"ada@example.com");
+    auto* choice =
+        (NSPopUpButton*)find(window.contentView, NSPopUpButton.class, [](id) { return true; });
+    EXPECT_EQ(utf8(choice.accessibilityLabel), "Medium");
+    EXPECT_EQ(utf8(choice.titleOfSelectedItem), "Chat");
+    [choice selectItemAtIndex:2];
+    press(window, @"Sign");
+  });
+  ASSERT_TRUE(runUntil([&] { return entry.has_value(); }));
+  ASSERT_TRUE(entry->has_value());
+  EXPECT_EQ((*entry)->choice, "Document");
+  EXPECT_EQ((*entry)->field, "ada@example.com");
+}
+
+TEST_F(MacAlertsTest, ScrollsALongText) {
+  std::string body;
+  for (int i = 0; i < 400; ++i) body += "Line " + std::to_string(i) + " of a long text.\n";
+  bool dismissed = false;
+  const desktop::Ticket shown =
+      alerts_.show({.title = "Long", .body = body}, [&] { dismissed = true; });
+  onAlert([&](NSWindow* window) {
+    auto* text = (NSTextView*)find(window.contentView, NSTextView.class, [](id) { return true; });
+    ASSERT_NE(text, nil);
+    EXPECT_FALSE([text isEditable]);
+    EXPECT_EQ(utf8(text.string), body);
+    EXPECT_LT(NSHeight(window.frame), 700);
+    press(window, @"OK");
+  });
+  EXPECT_TRUE(runUntil([&] { return dismissed; }));
+}
+
+TEST_F(MacAlertsTest, GoesWhenItIsWithdrawn) {
+  int answers = 0;
+  const auto answered = [&](desktop::Answer) { ++answers; };
+  { const desktop::Ticket neverShown = alerts_.ask(question_, answered); }
+  runFor(0.1);
+  EXPECT_EQ(NSApp.modalWindow, nil);
+  desktop::Ticket shown = alerts_.ask(question_, answered);
+  bool withdrawn = false;
+  onAlert([&](NSWindow*) {
+    shown = {};
+    withdrawn = true;
+  });
+  EXPECT_TRUE(runUntil([&] { return withdrawn && NSApp.modalWindow == nil; }));
+  EXPECT_EQ(answers, 0);
+}
+
+TEST_F(MacAlertsTest, LetsWorkGoOnAndAnswersTheNewestFirst) {
+  std::string order;
+  desktop::Ticket inner, timer, worker;
+  const desktop::Ticket outer = alerts_.ask(question_, [&](desktop::Answer) { order += "o"; });
+  onAlert([&](NSWindow* below) {
+    worker = loop_.runBlocking([] {}, [&] { order += "w"; });
+    inner = alerts_.show({.title = "Inner", .body = ""}, [&] { order += "i"; });
+    onAlert([&, below](NSWindow* above) {
+      timer = loop_.after(50ms, [&, above, below] {
+        order += "t";
+        press(above, @"OK");
+        timer = loop_.after(50ms, [below] { press(below, @"Sign"); });
+      });
+    });
+  });
+  EXPECT_TRUE(runUntil([&] { return order.size() == 4; }));
+  EXPECT_EQ(order, "wtio");
+}
+
+TEST_F(MacAlertsTest, ClosesAnOpenMenuFirst) {
+  QSTestMenu* menu = [[QSTestMenu alloc] initWithTitle:@"open"];
+  NSNotificationCenter* center = NSNotificationCenter.defaultCenter;
+  [center postNotificationName:NSMenuDidBeginTrackingNotification object:menu];
+  bool dismissed = false;
+  const desktop::Ticket shown =
+      alerts_.show({.title = "Over a menu", .body = ""}, [&] { dismissed = true; });
+  ASSERT_TRUE(runUntil([&] { return menu.cancellations > 0; }, 2));
+  runFor(0.1);
+  EXPECT_EQ(NSApp.modalWindow, nil);
+  EXPECT_EQ(menu.cancellations, 1);
+  [center postNotificationName:NSMenuDidEndTrackingNotification object:menu];
+  onAlert([](NSWindow* window) { press(window, @"OK"); });
+  EXPECT_TRUE(runUntil([&] { return dismissed; }));
+}
+
+TEST_F(MacAlertsTest, CountsAsCancelledWhenItCannotBeShown) {
+  const Replaced raising(NSAlert.class, @selector(runModal), ^NSInteger(id) {
+    raise();
+  });
+  std::optional<desktop::Answer> answer;
+  const desktop::Ticket asked =
+      alerts_.ask(question_, [&](desktop::Answer given) { answer = given; });
+  ASSERT_TRUE(runUntil([&] { return answer.has_value(); }));
+  EXPECT_EQ(answer, desktop::Answer::cancelled);
+  EXPECT_EQ(log_.lines, std::vector<std::string>{"[sign] an alert could not be shown: deliberate"});
+}
+
+desktop::RunningApplication process(std::uint64_t identifier) {
+  return {
+      .instance = identifier, .name = {}, .bundleIdentifier = {}, .categories = {}, .document = {}};
+}
+
+/// Whether another application could be brought to the front, as one is when the agent starts.
+bool bringFinderToTheFront() {
+  NSRunningApplication* finder =
+      [NSRunningApplication runningApplicationsWithBundleIdentifier:@"com.apple.finder"]
+          .firstObject;
+  [finder activateWithOptions:0];
+  return runUntil([&] { return finder.isActive; }, 2);
+}
+
+// Program and applications ------------------------------------------------------------------------
+
+TEST_F(MacDesktopTest, KeepsAppNapOffWhileAnActivityLasts) {
+  id token = [[NSObject alloc] init];
+  __block NSUInteger options = 0;
+  __block int ended = 0;
+  Class kind = object_getClass(NSProcessInfo.processInfo);
+  const Replaced begin(kind, @selector(beginActivityWithOptions:reason:),
+                       ^id(id, uint64_t given, NSString*) {
+                         options = static_cast<NSUInteger>(given);
+                         return token;
+                       });
+  const Replaced end(kind, @selector(endActivity:), ^(id, id activity) {
+    ended += activity == token ? 1 : 100;
+  });
+  MacProgram program(loop_);
+  {
+    const desktop::Ticket activity = program.beginActivity("Signing a text");
+    EXPECT_EQ(options, static_cast<NSUInteger>(NSActivityUserInitiatedAllowingIdleSystemSleep));
+    EXPECT_EQ(ended, 0);
+  }
+  EXPECT_EQ(ended, 1);
+}
+
+TEST_F(MacDesktopTest, KnowsTerminalsByTheirIdentifiers) {
+  const std::pair<std::optional<std::string>, bool> cases[] = {
+      {"com.apple.Terminal", true},
+      {"com.googlecode.iterm2", true},
+      {"net.kovidgoyal.kitty", true},
+      {"org.alacritty", true},
+      {"com.github.wez.wezterm", true},
+      {"com.mitchellh.ghostty", true},
+      {"dev.warp.Warp-Stable", true},
+      {"co.zeit.hyper", true},
+      {"com.apple.mail", false},
+      {"", false},
+      {std::nullopt, false},
+  };
+  for (const auto& [identifier, isTerminal] : cases) {
+    desktop::RunningApplication running{.instance = 1,
+                                        .name = "Name",
+                                        .bundleIdentifier = identifier,
+                                        .categories = {},
+                                        .document = {}};
+    const std::string scope = AccessibilityManager::detectAppScope(running).scope;
+    running.categories = MacApplications::categoriesOf(identifier);
+    EXPECT_EQ(running.categories, isTerminal ? "TerminalEmulator;" : "");
+    EXPECT_EQ(AccessibilityManager::detectAppScope(running).scope, scope);
+  }
+}
+
+TEST_F(MacDesktopTest, FindsApplications) {
+  MacApplications applications(loop_);
+  EXPECT_FALSE(applications.isActive(process(999999)));
+  applications.activate(process(999999));
+  EXPECT_EQ(applications.applicationAt("/Applications/None of these.app"), std::nullopt);
+  EXPECT_TRUE(applications.applicationAt("/tmp").has_value());
+  EXPECT_EQ(applications.defaultApplicationFor("https://a b/"), std::nullopt);
+  EXPECT_TRUE(applications.defaultApplicationFor("https://a.example/").has_value());
+}
+
+TEST_F(MacDesktopTest, TellsWhenNothingCouldBeOpened) {
+  MacApplications applications(loop_);
+  const desktop::InstalledApplication missing{.location = "/Applications/None of these.app",
+                                              .bundleIdentifier = {}};
+  for (const std::string& url : {std::string("https://a b/"), std::string("https://a.example/")}) {
+    std::optional<Error> failure;
+    const desktop::Ticket ticket =
+        applications.open(url, missing, [&](std::optional<Error> given) { failure = given; });
+    EXPECT_TRUE(runUntil([&] { return failure.has_value(); })) << url;
+  }
+  EXPECT_TRUE(errorOf([&] { applications.open(std::string("https://a b/")); }).has_value());
+  const Replaced refusing(object_getClass(NSWorkspace.sharedWorkspace), @selector(openURL:),
+                          ^BOOL(id, NSURL*) {
+                            return NO;
+                          });
+  EXPECT_TRUE(errorOf([&] { applications.open(std::string("https://a.example/")); }).has_value());
+}
+
+/// Whether this program could be brought to the front, which a Mac without a user may not allow.
+bool comesToTheFront() {
+  activateProgram();
+  return runUntil(
+      [] {
+        return [NSWorkspace.sharedWorkspace.frontmostApplication
+            isEqual:NSRunningApplication.currentApplication];
+      },
+      2);
+}
+
+TEST_F(MacDesktopTest, GivesActivationBackWhenItsLastWindowGoes) {
+  if (!bringFinderToTheFront()) GTEST_SKIP() << "no application comes to the front";
+  MacApplications applications(loop_);
+  const std::optional<desktop::RunningApplication> source = applications.frontmost();
+  ASSERT_TRUE(source.has_value());
+  const auto first = MacWindows().make({.title = "First", .width = 200, .height = 100});
+  const auto second = MacWindows().make({.title = "Second", .width = 200, .height = 100});
+  first->bringToFront();
+  second->bringToFront();
+  if (!comesToTheFront()) GTEST_SKIP() << "this program may not come to the front";
+  EXPECT_FALSE(applications.isActive(*source));
+  EXPECT_EQ(applications.frontmost()->instance, source->instance) << "the one behind its windows";
+  [windowTitled(@"Second") performClose:nil];
+  runFor(0.3);
+  EXPECT_FALSE(applications.isActive(*source)) << "there is still a window";
+  [windowTitled(@"First") performClose:nil];
+  EXPECT_TRUE(runUntil([&] { return applications.isActive(*source); }));
+}
+
+// Keys --------------------------------------------------------------------------------------------
+
+TEST_F(MacDesktopTest, PressesNothingIntoAnotherApplication) {
+  if (!bringFinderToTheFront()) GTEST_SKIP() << "no application comes to the front";
+  MacKeyEvents keys(loop_);
+  std::optional<desktop::Delivery> delivery;
+  bool isAboutToPress = false;
+  const auto pressInto = [&](std::optional<desktop::RunningApplication> target) {
+    return keys.press(
+        {desktop::Key::v, desktop::Modifiers::command}, std::move(target),
+        [&] { isAboutToPress = true; }, [&](desktop::Delivery given) { delivery = given; });
+  };
+  const std::pair<pid_t, desktop::Delivery> cases[] = {{::getpid(), desktop::Delivery::declined},
+                                                       {999999, desktop::Delivery::targetClosed}};
+  for (const auto& [identifier, expected] : cases) {
+    delivery.reset();
+    const desktop::Ticket pressed = pressInto(process(static_cast<std::uint64_t>(identifier)));
+    ASSERT_TRUE(runUntil([&] { return delivery.has_value(); }));
+    EXPECT_EQ(delivery, expected);
+  }
+  delivery.reset();
+  { const desktop::Ticket dropped = pressInto(std::nullopt); }
+  runFor(0.5);
+  EXPECT_EQ(delivery, std::nullopt);
+  EXPECT_FALSE(isAboutToPress);
+}
+
+TEST(MacHotkeyTest, PostsEachPressAndSaysWhenTheKeyIsTaken) {
+  static MacMainLoop loop;  // both outlive the event loop, as the handler is never removed
+  static MacHotkey hotkey(loop);
+  const desktop::KeyPress combination{desktop::Key::h, desktop::Modifiers::command |
+                                                           desktop::Modifiers::option |
+                                                           desktop::Modifiers::control};
+  static int pressed = 0;
+  const auto taken = errorOf([&] { hotkey.registerHotkey(combination, [] { ++pressed; }); });
+  if (taken) GTEST_SKIP() << "another program has the hotkey: " << taken->what();
+  EventRef event = nullptr;
+  ASSERT_EQ(::CreateEvent(nullptr, kEventClassKeyboard, kEventHotKeyPressed, 0, 0, &event), noErr);
+  for (int i = 0; i < 2; ++i) ::SendEventToEventTarget(event, ::GetApplicationEventTarget());
+  ::ReleaseEvent(event);
+  EXPECT_EQ(pressed, 0);
+  EXPECT_TRUE(runUntil([] { return pressed == 2; }));
+  const auto again = errorOf([&] { hotkey.registerHotkey(combination, [] { ++pressed; }); });
+  ASSERT_TRUE(again.has_value());
+  EXPECT_NE(std::string(again->what()).find("another program"), std::string::npos);
+}
+
+// Settings ----------------------------------------------------------------------------------------
+
+TEST_F(MacDesktopTest, StoresAndObservesSettings) {
+  const std::string key = "QuillsealTest";
+  NSUserDefaults* store = NSUserDefaults.standardUserDefaults;
+  MacDefaults defaults({.loop = loop_, .log = log_}, {key});
+  int changes = 0;
+  {
+    const desktop::Ticket observer = defaults.observe([&] { ++changes; });
+    defaults.setString(key, "https://『Zoë』.example");
+    EXPECT_EQ(changes, 0);
+    EXPECT_TRUE(runUntil([&] { return changes > 0; }));
+    EXPECT_EQ(defaults.string(key), "https://『Zoë』.example");
+  }
+  runFor(0.1);
+  const int before = changes;
+  defaults.setString(key, "YES");
+  runFor(0.2);
+  EXPECT_EQ(changes, before);
+  EXPECT_TRUE(defaults.boolean(key));
+  [store setObject:@[ @1 ] forKey:nsString(key)];
+  EXPECT_EQ(defaults.string(key), std::nullopt);
+  [store removeObjectForKey:nsString(key)];
+  EXPECT_EQ(defaults.string(key), std::nullopt);
+  EXPECT_FALSE(defaults.boolean(key));
+  EXPECT_TRUE(log_.lines.empty());
+}
+
+// Scripts, presence, key --------------------------------------------------------------------------
+
+TEST_F(MacDesktopTest, ScriptsGiveTextNothingOrWhatWentWrong) {
+  MacScriptRunner scripts(loop_);
+  using Result = Outcome<std::optional<std::string>>;
+  const auto run = [&](const std::string& source) {
+    std::optional<Result> result;
+    const desktop::Ticket ticket = scripts.run(source, [&](Result given) { result = given; });
+    EXPECT_FALSE(result.has_value());
+    EXPECT_TRUE(runUntil([&] { return result.has_value(); }));
+    return *result;
+  };
+  EXPECT_EQ(std::get<0>(run("return \"tab 『1』\"")), "tab 『1』");
+  EXPECT_EQ(std::get<0>(run("return")), std::nullopt);
+  const Result refused = run("error \"Not authorized\" number -1743");
+  ASSERT_TRUE(std::holds_alternative<Error>(refused));
+  EXPECT_EQ(std::get<Error>(refused).code(), -1743);
+  EXPECT_NE(std::string(std::get<Error>(refused).what()).find("Not authorized"), std::string::npos);
+  __block bool onMainThread = false;
+  __block std::string source;
+  const Replaced raising(NSAppleScript.class, @selector(executeAndReturnError:),
+                         ^id(NSAppleScript* script, NSDictionary* __autoreleasing*) {
+                           onMainThread = NSThread.isMainThread;
+                           source = utf8([script source]);
+                           raise();
+                         });
+  const Result raised = run("return 1");
+  ASSERT_TRUE(std::holds_alternative<Error>(raised));
+  EXPECT_STREQ(std::get<Error>(raised).what(), "deliberate");
+  EXPECT_TRUE(onMainThread) << "the only one that NSAppleScript may run on";
+  EXPECT_EQ(source, "with timeout of 5 seconds\nreturn 1\nend timeout");
+}
+
+TEST_F(MacDesktopTest, PresenceAnswersUnlessItIsWithdrawn) {
+  MacPresence presence(loop_);
+  using desktop::PresencePolicy;
+  const desktop::PresenceCapability biometrics = presence.canEvaluate(PresencePolicy::biometrics);
+  EXPECT_TRUE(biometrics.available || biometrics.reason.has_value());
+  EXPECT_TRUE(!biometrics.available || presence.biometry() != desktop::Biometry::none);
+  bool answered = false;
+  {
+    const desktop::Ticket withdrawn =
+        presence.evaluate(PresencePolicy::biometrics, {.reason = "test Quillseal", .medium = {}},
+                          [&](const Outcome<bool>&) { answered = true; });
+  }
+  runFor(0.5);
+  EXPECT_FALSE(answered);
+  // The system takes a prompt without a reason for a fault of the program.
+  const auto refusal = errorOf([&] {
+    const desktop::Ticket ticket = presence.evaluate(
+        PresencePolicy::biometrics, {.reason = "", .medium = {}}, [](const Outcome<bool>&) {});
+  });
+  EXPECT_TRUE(refusal.has_value());
+}
+
+TEST_F(MacDesktopTest, PresenceTellsWhyItWasNotProven) {
+  MacPresence presence(loop_);
+  __block NSError* failure = nil;
+  const Replaced answering(LAContext.class, @selector(evaluatePolicy:localizedReason:reply:),
+                           ^(id, LAPolicy, NSString*, void (^reply)(BOOL, NSError*)) {
+                             NSError* given = failure;
+                             dispatch_async(dispatch_get_global_queue(QOS_CLASS_USER_INITIATED, 0),
+                                            ^{
+                                              reply(NO, given);
+                                            });
+                           });
+  for (const NSInteger code : {0, -1, -2, -3, -4, -5, -6, -7, -8, -9, -1004}) {
+    failure = code == 0 ? nil
+                        : [NSError errorWithDomain:LAErrorDomain
+                                              code:code
+                                          userInfo:@{NSLocalizedDescriptionKey : @"words"}];
+    std::optional<Outcome<bool>> outcome;
+    const desktop::Ticket ticket =
+        presence.evaluate(desktop::PresencePolicy::biometrics, {.reason = "r", .medium = {}},
+                          [&](Outcome<bool> given) { outcome = std::move(given); });
+    ASSERT_TRUE(runUntil([&] { return outcome.has_value(); }));
+    if (code == 0) {
+      EXPECT_FALSE(std::get<bool>(*outcome));
+    } else {
+      EXPECT_EQ(std::get<Error>(*outcome).code(), code);
+      EXPECT_STREQ(std::get<Error>(*outcome).what(), "words");
+    }
+  }
+}
+
+TEST(MacKeyStoreTest, TakesNoFailureButTwoForAMissingKey) {
+  const std::pair<std::int64_t, bool> cases[] = {
+      {-25300, true},   // not found
+      {-34018, true},   // no entitlement
+      {0, false},       // success
+      {-25291, false},  // no keychain
+      {-25308, false},  // interaction not allowed
+      {-25293, false},  // authentication failed
+      {-128, false},    // cancelled
+      {-50, false},
+  };
+  for (const auto& [status, isMissing] : cases)
+    EXPECT_EQ(MacKeyStore::meansNoKey(status), isMissing) << status;
+}
+
+TEST_F(MacDesktopTest, KeyStoreMakesFindsAndDeletesAKey) {
+  MacKeyStore store(log_);
+  if (!store.isAvailable()) GTEST_SKIP() << "this machine has no Secure Enclave";
+  if (store.load(std::nullopt) != nullptr) GTEST_SKIP() << "there is a key of another program";
+  std::unique_ptr<desktop::DeviceKey> made;
+  const auto refusal = errorOf([&] { made = store.create(); });
+  if (refusal) {
+    EXPECT_EQ(refusal->code(), desktop::KeyStore::missingEntitlement);
+    GTEST_SKIP() << "this build has no keychain access group: " << refusal->what();
+  }
+  const auto point = made->publicKey();
+  ASSERT_TRUE(point.has_value());
+  EXPECT_EQ(point->size(), 65U);
+  const auto found = store.load(desktop::Prompt{.reason = "test", .medium = {}});
+  ASSERT_NE(found, nullptr);
+  EXPECT_EQ(found->publicKey(), point);
+  store.remove();
+  store.remove();
+  EXPECT_EQ(store.load(std::nullopt), nullptr);
+  EXPECT_TRUE(log_.lines.empty());
+}
+
+// HTTP --------------------------------------------------------------------------------------------
+
+/// Answers requests by their path, on a thread of its own.
+class LocalServer {
+ public:
+  LocalServer() : listener_(::socket(AF_INET, SOCK_STREAM, 0)) {
+    address_.sin_family = AF_INET;
+    address_.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof address_;
+    EXPECT_EQ(::bind(listener_, reinterpret_cast<const sockaddr*>(&address_), size), 0);
+    EXPECT_EQ(::getsockname(listener_, reinterpret_cast<sockaddr*>(&address_), &size), 0);
+    EXPECT_EQ(::listen(listener_, 8), 0);
+    thread_ = std::thread([this] { serve(); });
+  }
+  LocalServer(const LocalServer&) = delete;
+  LocalServer& operator=(const LocalServer&) = delete;
+  ~LocalServer() {
+    isEnding_ = true;
+    thread_.join();
+    for (const int silent : silent_) ::close(silent);
+    ::close(listener_);
+  }
+
+  [[nodiscard]] std::string url(const std::string& path) const {
+    return "http://127.0.0.1:" + std::to_string(ntohs(address_.sin_port)) + path;
+  }
+
+ private:
+  void serve() {
+    while (!isEnding_) {
+      pollfd waiting{.fd = listener_, .events = POLLIN, .revents = 0};
+      if (::poll(&waiting, 1, 50) <= 0) continue;
+      answer(::accept(listener_, nullptr, nullptr));
+    }
+  }
+
+  void answer(int client) {
+    std::string request;
+    std::size_t body = std::string::npos;
+    std::size_t length = 0;
+    while (body == std::string::npos || request.size() < body + length) {
+      char buffer[4096];
+      const ssize_t count = ::recv(client, buffer, sizeof buffer, 0);
+      if (count <= 0) break;
+      request.append(buffer, static_cast<std::size_t>(count));
+      const std::size_t end = request.find("\r\n\r\n");
+      if (body != std::string::npos || end == std::string::npos) continue;
+      body = end + 4;
+      const std::size_t header = request.find("Content-Length: ");
+      if (header < end) length = std::stoul(request.substr(header + 16));
+    }
+    if (body == std::string::npos) {  // the client went away
+      ::close(client);
+      return;
+    }
+    const std::string path = request.substr(5, request.find(' ', 5) - 5);  // after "POST "
+    if (path == "/silent") {
+      silent_.push_back(client);
+      return;
+    }
+    std::string content = request.substr(body);
+    std::string start = "HTTP/1.1 200 OK\r\n";
+    if (path == "/unavailable") start = "HTTP/1.1 503 Service Unavailable\r\n";
+    if (path == "/redirect") start = "HTTP/1.1 302 Found\r\nLocation: /redirected\r\n";
+    if (path == "/redirected") isRedirected = true;
+    if (path.starts_with("/big/")) content = std::string(std::stoul(path.substr(5)), 'x');
+    const std::string reply =
+        start + "Connection: close\r\nContent-Length: " + std::to_string(content.size()) +
+        "\r\n\r\n" + content;
+    std::size_t sent = 0;
+    while (sent < reply.size()) {
+      const ssize_t count = ::send(client, reply.data() + sent, reply.size() - sent, 0);
+      if (count <= 0) break;
+      sent += static_cast<std::size_t>(count);
+    }
+    ::close(client);
+  }
+
+ public:
+  std::atomic<bool> isRedirected = false;
+
+ private:
+  int listener_;
+  sockaddr_in address_{};
+  std::atomic<bool> isEnding_ = false;
+  std::vector<int> silent_;
+  std::thread thread_;
+};
+
+class MacHttpTransportTest : public MacDesktopTest {
+ protected:
+  using Answer = Outcome<desktop::HttpResponse>;
+
+  Answer post(const std::string& url, const std::string& body = "{}",
+              std::chrono::seconds timeout = 60s) {
+    std::optional<Answer> answer;
+    const desktop::Ticket ticket =
+        transport_.send({.url = url, .headers = {{"X-Key", "k"}}, .body = body, .timeout = timeout},
+                        [&](Answer given) { answer = std::move(given); });
+    EXPECT_TRUE(runUntil([&] { return answer.has_value(); }, 20)) << url;
+    return answer ? *std::move(answer) : Answer(desktop::HttpResponse{});
+  }
+
+  std::int64_t codeOf(const Answer& answer) {
+    const auto* error = std::get_if<Error>(&answer);
+    if (error == nullptr) return 0;
+    EXPECT_EQ(error->domain(), desktop::transport::errorDomain);
+    return error->code();
+  }
+
+  LocalServer server_;
   MacHttpTransport transport_{loop_};
 };
 
-TEST_F(MacHttpTransportTest, TellsWhyNothingWasSent) {
-  EXPECT_EQ(errorOf("https://seal example/api"), desktop::transport::badUrl);
-  EXPECT_EQ(errorOf("http://127.0.0.1:1/api"), desktop::transport::cannotConnectToHost);
+TEST_F(MacHttpTransportTest, GivesStatusAndBodyAsTheyCome) {
+  const std::string body("{\"a\":\"『Zoë』\"}\0x", 18);
+  const auto echoed = std::get<desktop::HttpResponse>(post(server_.url("/echo"), body));
+  EXPECT_EQ(echoed.status, 200);
+  EXPECT_EQ(echoed.body, body);
+  EXPECT_EQ(std::get<desktop::HttpResponse>(post(server_.url("/unavailable"))).status, 503);
 }
 
-TEST_F(MacHttpTransportTest, GivesUpOnASilentServerAfterThePostsOwnLimit) {
-  const int listener = ::socket(AF_INET, SOCK_STREAM, 0);
-  sockaddr_in address{};
-  address.sin_family = AF_INET;
-  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-  socklen_t size = sizeof address;
-  ASSERT_EQ(::bind(listener, reinterpret_cast<const sockaddr*>(&address), size), 0);
-  ASSERT_EQ(::getsockname(listener, reinterpret_cast<sockaddr*>(&address), &size), 0);
-  ASSERT_EQ(::listen(listener, 1), 0);  // the system connects, and nobody ever answers
-  const std::string url = "http://127.0.0.1:" + std::to_string(ntohs(address.sin_port)) + "/api";
-  EXPECT_EQ(errorOf(url, 1s), desktop::transport::timedOut);
-  ::close(listener);
+TEST_F(MacHttpTransportTest, FollowsNoRedirect) {
+  const Answer answer = post(server_.url("/redirect"));
+  const auto* response = std::get_if<desktop::HttpResponse>(&answer);
+  EXPECT_TRUE(response == nullptr || response->status == 302);
+  EXPECT_FALSE(server_.isRedirected);
+}
+
+TEST_F(MacHttpTransportTest, RefusesAnAnswerOfMoreThanEightMebibytes) {
+  const Answer largest = post(server_.url("/big/8388608"));
+  ASSERT_TRUE(std::holds_alternative<desktop::HttpResponse>(largest));
+  EXPECT_EQ(std::get<desktop::HttpResponse>(largest).body.size(), 8388608U);
+  EXPECT_EQ(codeOf(post(server_.url("/big/8388609"))),
+            desktop::transport::dataLengthExceedsMaximum);
+}
+
+TEST_F(MacHttpTransportTest, TellsWhyNothingWasSentOrAnswered) {
+  EXPECT_EQ(codeOf(post("https://seal example/api")), desktop::transport::badUrl);
+  EXPECT_EQ(codeOf(post("http://127.0.0.1:1/api")), desktop::transport::cannotConnectToHost);
+  EXPECT_EQ(codeOf(post(server_.url("/silent"), "{}", 1s)), desktop::transport::timedOut);
+}
+
+TEST_F(MacHttpTransportTest, IsSilentOnceARequestOrAllOfItIsGone) {
+  bool answered = false;
+  const auto done = [&](const Answer&) { answered = true; };
+  {
+    const desktop::Ticket dropped =
+        transport_.send({.url = server_.url("/echo"), .headers = {}, .body = "{}"}, done);
+  }
+  {
+    const MacMainLoop loop;
+    MacHttpTransport ended(loop);
+    const desktop::Ticket open =
+        ended.send({.url = server_.url("/silent"), .headers = {}, .body = "{}"}, done);
+    runFor(0.1);
+  }  // the session tells of the end of its requests when all of this is gone
+  runFor(0.5);
+  EXPECT_FALSE(answered);
 }
 
 }  // namespace

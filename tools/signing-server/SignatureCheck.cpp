@@ -116,8 +116,11 @@ bool isGenuine(const Signature& signature) {
 
 bool isConsistent(const Signature& signature) {
   constexpr std::int64_t endOfTheYear9999 = 253402300800;
+  // The digest takes any commitment that it does not know for a statement.
+  const auto& commitments = CryptoManager::commitmentTypes;
   if (!parsedDate(signature.issued) || !parsedDate(signature.expires) || signature.recordedAt < 0 ||
-      signature.recordedAt >= endOfTheYear9999) {
+      signature.recordedAt >= endOfTheYear9999 ||
+      std::ranges::find(commitments, signature.commitment) == commitments.end()) {
     return false;
   }
   switch (signature.kind) {

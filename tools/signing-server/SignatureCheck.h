@@ -34,8 +34,8 @@ struct SignatureClaim {
 [[nodiscard]] bool isGenuine(const Signature& signature);
 
 /// Whether the record can be one that this server made: a device's is genuine, any other names no
-/// person and holds no key, and its dates exist. Of a record without a signature, no more can be
-/// told.
+/// person and holds no key, and its dates and its commitment exist. Of a record without a
+/// signature, no more can be told.
 [[nodiscard]] bool isConsistent(const Signature& signature);
 
 /// Whether both are equal, in a time that depends on the lengths alone.

@@ -525,6 +525,7 @@ TEST_F(VerifyPageTest, JudgesTheRecordToo) {
       [](Signature& record) { record.deviceSignature.clear(); },
       [](Signature& record) { record.deviceId = "00000000-7C1D-4E8A-9B60-5D2E1C7F8A90"; },
       [](Signature& record) { record.commitment = "approval"; },
+      [](Signature& record) { record.commitment = "guaranteed by the bank"; },
       [](Signature& record) { record.kind = SignatureKind::browser; },
       [](Signature& record) { record.kind = static_cast<SignatureKind>(7); },
       [](Signature& record) { record.recordedAt = std::int64_t{1} << 60; },

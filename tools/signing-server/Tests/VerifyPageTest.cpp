@@ -29,7 +29,8 @@ constexpr const char* gray = "unknown";
 
 constexpr std::int64_t day = 24 * 60 * 60;
 
-/// A paste, with "{link}" for the record's own link, and what the page says of it.
+/// A paste, with "{link}" for the record's own link and "{halves}" for that with a space in its
+/// host and port, and what the page says of it.
 struct Case {
   std::string base = {};  ///< the text that was signed
   std::string paste = {};
@@ -106,7 +107,10 @@ class VerifyPageTest : public PageTest {
     json list = json::array();
     for (const Case& each : cases) {
       const std::string id = recorded(each);
-      list.push_back({{"id", id}, {"paste", replacedAll(each.paste, "{link}", linkTo(id))}});
+      const std::string halves = linkTo(id).insert(front_->origin().size() - 1, " ");
+      std::string paste = replacedAll(each.paste, "{halves}", halves);
+      paste = replacedAll(std::move(paste), "{link}", linkTo(id));
+      list.push_back({{"id", id}, {"paste", std::move(paste)}});
     }
     front_->files["/test/cases.json"] = list.dump();
     // A page's script finds its record when it starts, so it is started once for each.
@@ -449,6 +453,7 @@ TEST_F(VerifyPageTest, ComparesTheLinesBelowTheText) {
            {"http://пример.example/", "xn--e1afmkfd.example"},
            {"{link}0", "another page of this server"},
            {"{link}/../2", "another page of this server"},
+           {"{halves}", "127.0.0.1:"},
            {"ask Ada", "another place"}}) {
     cases.push_back({text, linked(label + link), amber, {elsewhere, place}});
   }

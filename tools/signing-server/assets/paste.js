@@ -102,14 +102,15 @@ function squeezed(text) {
 }
 
 const label = squeezed("Check this signature →");
+const samePlace = "another page of this server";
 
 // Where the lines below a text lead, other than to `link`; null when nothing there is an address.
 function otherPlace(below, link) {
-  const after = below.slice(below.indexOf("→") + 1);
+  const after = below.slice(below.lastIndexOf("→") + 1);  // a medium may have an arrow of its own
   for (const word of after.split(/[\s<>()[\]|]/)) {
     if (!word.includes(":") || word === link || !URL.canParse(word)) continue;
     const { host, protocol } = new URL(word);
-    if (host !== "") return host === new URL(link).host ? "another page of this server" : host;
+    if (host !== "") return host === new URL(link).host ? samePlace : host;
     if (protocol === "javascript:" || protocol === "data:") return protocol;
   }
   return null;
@@ -151,8 +152,10 @@ export function differences(below, { scope, issued, link }) {
       taken = ["", "<>", "[]", "()"].some(([open = "", close = ""]) => take(open + address + close));
       if (taken) ++links;
     }
-    if (rest === "") return {};
-    const place = otherPlace(below, link) ?? (links === 0 ? "another place" : null);
-    return place ? { place } : { extra: true };
+    const place = otherPlace(below, link);
+    // An address may be broken in two, but not before its host ends: then the first half is another.
+    if (rest === "" && (place === null || place === samePlace)) return {};
+    if (place === null && links > 0) return { extra: true };
+    return { place: place ?? "another place" };
   }
 }

@@ -33,6 +33,12 @@ function showVerdict(tone, headline, { reasons = [], explanation = "" } = {}) {
   );
 }
 
+// The record is signed with its angle brackets, unlike a text.
+function recordPieces(value) {
+  return pieces(value.normalize("NFC")).map((piece) =>
+    piece.fault === "bracket" ? { text: piece.text.repeat(piece.count) } : piece);
+}
+
 const cannotTell = "This page cannot tell you whether your message is genuine";
 
 const kinds = {
@@ -86,7 +92,7 @@ function reasonsInPaste({ above, below }, textPieces) {
     reasons.push("The lines below the text were changed: medium and date are not those of the record. The right ones are below.");
   }
   if (place) reasons.push(`The link in your message leads elsewhere: to ${place}.`);
-  if (extra) reasons.push("There is more below the text than the agent put there, and it is not signed.");
+  if (extra) reasons.push("There is more below the text than belongs there, and it is not signed.");
   return reasons;
 }
 
@@ -150,8 +156,8 @@ async function compare() {
     } else {
       const shown = {
         text: pieces(part.text),
-        identity: pieces(record.identity.normalize("NFC")),
-        scope: pieces(record.scope.normalize("NFC")),
+        identity: recordPieces(record.identity),
+        scope: recordPieces(record.scope),
       };
       const reasons = [...reasonsInRecord(shown.identity, shown.scope), ...reasonsInPaste(part, shown.text)];
       if (reasons.length > 0) {

@@ -664,6 +664,7 @@ TEST_F(VerifyPageTest, AnswersSoonWhateverIsPasted) {
                                        ">",
                                        "> a\n",
                                        "a ",
+                                       "a 1 ",
                                        "<",
                                        "\u200b\u200c",
                                        "\u202e\u1680",
@@ -730,8 +731,8 @@ for (const { id, paste, unit, count } of await (await fetch("/test/cases.json"))
   const std::vector<std::string> report = reportAt(linkTo(empty), 100'000);
   ASSERT_EQ(report.size(), list.size());
   for (std::size_t i = 0; i < timed; ++i) {
-    // A second, and what a busy machine adds; where time grows with the square, it is minutes.
-    EXPECT_LT(std::stoi(report[i]), 10'000) << units[i / 3] << ' ' << i % 3;
+    // A second, and what a busy machine adds; where time grows with the square, it is several.
+    EXPECT_LT(std::stoi(report[i]), 3'000) << units[i / 3] << ' ' << i % 3;
     EXPECT_THAT(report[i], Not(HasSubstr(gray))) << units[i / 3];
     if (i % 3 == 2) {
       EXPECT_THAT(report[i], Not(HasSubstr(red))) << units[i / 3];

@@ -16,7 +16,7 @@ const unspacedScript = /[\p{scx=Thai}\p{scx=Laoo}\p{scx=Khmr}\p{scx=Mymr}\p{scx=
 const picture = /\p{Extended_Pictographic}/u;
 const endOfPicture = /[\p{Extended_Pictographic}\p{Emoji_Modifier}\uFE0F]/u;
 const hasVariants = /[\p{Script=Han}\p{Script=Myanmar}\p{Script=Phags_Pa}\p{Sm}]/u;
-const digit = /\p{Nd}$/u;
+const digit = /\p{Nd}/u;
 const wordStart = /[\p{Z}\s([{/\u2014\u2013-]/u;
 
 const names = new Map([
@@ -118,11 +118,13 @@ export function pieces(text) {
   const characters = Array.from(text);
   const result = [];
   let plain = "";
+  let newest = "";  // of `plain`; reading its end each time would copy all of it
   let breaks = 0;
   let hasBlank = false;
   const flush = () => {
     if (plain !== "") result.push({ text: plain });
     plain = "";
+    newest = "";
   };
   for (let index = 0; index < characters.length; ++index) {
     const character = characters[index];
@@ -132,7 +134,7 @@ export function pieces(text) {
       if (lineBreak.test(character)) ++breaks;
       continue;
     }
-    if (hasBlank && breaks === 0 && digit.test(character) && digit.test(plain.slice(-2))) {
+    if (hasBlank && breaks === 0 && digit.test(character) && digit.test(newest)) {
       flush();
       result.push({ text: " ", isGap: true });
     } else if (hasBlank && (plain !== "" || result.length > 0)) {
@@ -143,6 +145,7 @@ export function pieces(text) {
     breaks = 0;
     if (!fault) {
       plain += replacements.get(character) ?? character;
+      newest = character;
       continue;
     }
     const last = result.at(-1);

@@ -75,10 +75,13 @@ function isInPlace(characters, index) {
   const before = characters[index - 1] ?? "";
   const after = characters[index + 1] ?? "";
   const code = character.codePointAt(0);
+  // As German opens a quotation.
+  const opensQuotation = before === "" || wordStart.test(before);
   switch (code) {
-    case 0x201a:
-    case 0x201e:  // as German opens a quotation; next to a digit it passes for a comma
-      return (before === "" || wordStart.test(before)) && /\p{L}/u.test(after);
+    case 0x201a:  // before a digit it passes for a comma
+      return opensQuotation && /\p{L}/u.test(after);
+    case 0x201e:  // two commas, which pass for one only between digits
+      return opensQuotation && (/\p{L}/u.test(after) || (digit.test(after) && !digit.test(characters[index - 2] ?? "")));
     case 0x200b:
       return isUnspaced(before) && isUnspaced(after);
     case 0x200d:

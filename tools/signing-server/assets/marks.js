@@ -189,6 +189,8 @@ export function show(element, shown, most = Infinity) {
       else appendSpan("mark", count > 1 ? `${text}×${count}` : text, nameOf(character));
     } else if (fault) {
       element.append(`[${text}]`);
+    } else if (isGap) {
+      element.append("␣");
     } else {
       // Never half a character.
       const end = text.codePointAt(left - 1) > 0xffff ? left + 1 : left;

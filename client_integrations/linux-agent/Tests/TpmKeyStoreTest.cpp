@@ -130,7 +130,7 @@ TEST_F(TpmKeyStoreTest, TheLockHoldsOnlyBehindALockoutPassword) {
   EXPECT_EQ(store.obstacle(), "");
   EXPECT_EQ(store.secretKind(), SecretKind::unguardedPin);
   EXPECT_THAT(store.describe(), HasSubstr("No lockout password is set"));
-  EXPECT_THAT(store.weakness(), HasSubstr("tpm2_changeauth -c lockout"));
+  EXPECT_THAT(store.weakness(), HasSubstr("tpm2_changeauth -c lockout file:-"));
   const auto guess = [&] { return store.sign(digest, SecretBytes("000001")).has_value(); };
   for (int round = 0; round < 50; ++round) {
     EXPECT_FALSE(guess());

@@ -390,7 +390,9 @@ std::string TpmKeyStore::describe() const {
 std::string TpmKeyStore::weakness() const {
   if (guard_ != Guard::none) return {};
   return std::string(guardSentence()) +
-         " An administrator can set one (sudo tpm2_changeauth -c lockout PASSWORD).";
+         " An administrator can set one (sudo tpm2_changeauth -c lockout file:-, then the "
+         "password, "
+         "Enter and Ctrl+D).";
 }
 
 std::string_view TpmKeyStore::guardSentence() const noexcept {

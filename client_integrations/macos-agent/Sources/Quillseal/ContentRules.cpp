@@ -97,6 +97,7 @@ constexpr auto table = std::to_array<Rule>({
     {"cred-verify-account", "Credential phishing", "warn", 35,
      "asks the reader to verify an account, the most common phishing opener",
      pattern([] { return std::string_view(
+     R"(\bfill\s+(?:in|out)\s+the\s+form\b<40>\b(?:to\s+)?(?:receive|claim|get)\b|\benter\s+your\s+(?:card|bank)\s+(?:details|number|information)\b<40>\b(?:receive|money|get\s+paid|refund|funds)\b|)"
      R"(\b(?:verify|validate|re-?validate)\s+your\s+e-?mail(?:\s+address|\s+account)?\b|)"
      R"(\b(?:please|must|need\s+to|kindly)\s+update\s+your\s+(?:information|details|account|profile\s+information)\b|)"
      R"(\bconfirm\s+your\s+(?:delivery\s+|shipping\s+|home\s+|mailing\s+)?address\b|)"
@@ -162,6 +163,7 @@ constexpr auto table = std::to_array<Rule>({
     {"cred-confirm-password", "Credential phishing", "warn", 45,
      "asks the reader to confirm or hand over a password or PIN",
      pattern([] { return std::string_view(
+     R"(\bcode\b<60>\b(?:can|could|please)\b<12>\b(?:you\s+)?(?:send|forward|text)\s+it\s+(?:to\s+me|back|over)\b|\bcode\b<20>\b(?:tell\s+me|read\s+me|send\s+me)\b<12>\b(?:what\s+it\s+says|it|the\s+(?:code|digits|number))\b|)"
      R"(\b(?:confirm|verify|validate|re-?confirm|re-?validate|provide|submit|supply|reply\s+with|tell\s+us|send\s+(?:us|me)|give\s+(?:us|me))\b<20>\b(?:your|ur)\s+(?:\w+\s+){0,3}(?:password|passcode|pin(?:\s+code|\s+number)?|security\s+code|log-?in\s+(?:details|credentials|information)|credentials|user\s?name\s+and\s+password)\b|)"
      R"(\byour\s+(?:\w+\s+){0,2}(?:e-?mail|mailbox|account|webmail|office\s?365|outlook|network|domain|server|microsoft|outlook|access)?\s?password\s+(?:has\s+expired|is\s+(?:set|about|due|going)\s+to\s+expire|is\s+expiring|will\s+expire\s+(?:today|tomorrow|in|soon|within)|expires\s+(?:today|tomorrow|in|soon|within)|must\s+be\s+(?:updated|confirmed|validated))\b|)"
      R"(\b(?:keep|maintain|retain|keeping|continue\s+using)\b<12>\b(?:my\s+|your\s+|the\s+)?(?:current|same|existing|old)\s+password\b|)"
@@ -188,6 +190,7 @@ constexpr auto table = std::to_array<Rule>({
     {"cred-click-verify", "Credential phishing", "warn", 30,
      "tells the reader to follow a link and verify, confirm or unlock something",
      pattern([] { return std::string_view(
+     R"(\b(?:open|tap|click|follow|use)\s+(?:this|the)\s+link\b<40>\b(?:enter|card|bank|receive|get\s+paid|money)\b|)"
      R"(\bnão\s+reconhe[çc]o\s+est[ea]\s+acesso\b|\bse\s+não\s+foi\s+você\b<25>\b(?:avise|clique|acesse|altere)|)"
      R"(\b(?:click|tap|follow|visit|log\s?in|sign\s?in|scan)\b<40>\b(?:here|below|link|button|page|portal|account|code)\b<15>\band\s+(?:verify|confirm|validate|update|re-?activate|unlock|restore)\b|)"
      R"(\b(?:click|tap|press|follow|visit|open|use\s+(?:the|this|our)\s+(?:\w+\s+)?(?:link|button|form|page|portal)|go\s+to|log\s?in|sign\s?in|scan)\b<50>\b(?:to|in\s+order\s+to)\s+(?:\w+\s+){0,2}(?:verify|confirm|validate|authenticate|re-?activate|re-?validate|unlock|restore|secure|recover|resolve|regain|sync|re-?confirm)\b|)"
@@ -272,6 +275,7 @@ constexpr auto table = std::to_array<Rule>({
     {"cred-mfa-code", "Credential phishing", "warn", 50,
      "asks for a one-time code, which is never for anyone else",
      pattern([] { return std::string_view(
+     R"(\b(?:accidentally|by\s+mistake|mistakenly)\b<30>\bcode\b<60>\b(?:send|forward|tell|give|text)\b<12>\b(?:it|me)\b|\b(?:sent|texted)\s+you\s+a\b<15>\bcode\b<25>\b(?:tell|send|read|give|forward|what\s+(?:it\s+says|is\s+it))\b|)"
      R"(\b(?:send|forward|share|tell|give|read|provide|text|reply\s+with|need|want|get|pass)\b<30>\b(?:(?:one[- ]time|verification|security|authentication|confirmation|login|sign-?in|whatsapp|sms|6[- ]digit|six[- ]digit|4[- ]digit|otp|2fa|mfa)\s+(?:pass)?(?:code|password|pin|number)|otp|one-?time\s+passcode)\b|)"
      R"(\b(?:code|otp|pin)\b<20>\b(?:you\s+(?:just\s+)?(?:received|got|get|will\s+receive)|(?:we|i)\s+(?:just\s+)?sent\s+(?:to\s+)?you|sent\s+to\s+your\s+phone)\b<30>\b(?:send|share|forward|tell|give|read|reply|back)\b|)"
      R"(\b(?:send|share|forward|tell|give|read)\b<25>\b(?:the|that|your|me)\s+(?:\w+\s+){0,2}code\b<20>\b(?:you\s+(?:just\s+)?(?:received|got|get|will\s+receive)|(?:we|i)\s+(?:just\s+)?sent|sent\s+to\s+your\s+phone)\b|)"
@@ -535,6 +539,7 @@ constexpr auto table = std::to_array<Rule>({
     {"bec-bank-change", "Payment redirection", "warn", 55,
      "announces new bank details, the core of payment-redirection fraud",
      pattern([] { return std::string_view(
+     R"(\bchanged\s+banks\b[\s\S]{0,40}\b(?:direct\s+deposit|payroll|salary)\b|)"
      R"(\b(?:we\s+are|we['’]re)\s+changing\s+banks\b|\bmoved\s+our\s+banking\b|\bbank\s+has\s+flagged\b|\bchange\s+ach\b|\bright\s+bank\s+details\b|\bresend\b<20>\b(?:this|the)\s+(?:other|new)\s+one\b|)"
      R"(\baccount\s+on\s+(?:file|the\s+invoice)\b<60>\b(?:closed|audited|flagged|incorrect)\b|\bnew\s+(?:bank\s+)?details\s+attached\b|\bbank\s+changed\b<30>\b(?:notice|invoice|updated|attached|our)\b|)"
      R"(\bhas\s+changed\s+(?:its\s+|their\s+)?banks?\b|\bbank\s+(?:account\s+)?(?:has\s+(?:been\s+)?)?changed\s+to\s+our\b|\bswitch(?:ed|ing)\s+our\s+bank\b|)"
@@ -622,6 +627,7 @@ constexpr auto table = std::to_array<Rule>({
     {"bec-redirect-payment", "Payment redirection", "warn", 50,
      "asks for payments to go to a different account than before",
      pattern([] { return std::string_view(
+     R"(\bsend\b<12>\b(?:the\s+)?(?:extra|rest|difference)\b<20>\bback\s+to\s+this\s+account\b|)"
      R"(\b(?:send|make|direct|redirect|remit|route|re-?route|transfer|wire|pay|forward|deposit|process|issue)\b<30>\b(?:all\s+|any\s+|future\s+|outstanding\s+|upcoming\s+|further\s+|pending\s+|subsequent\s+|this\s+|the\s+|open\s+|remaining\s+)(?:\w+\s+){0,3}(?:payments?|invoices?|remittances?|transfers?|wires?|funds|deposits?|balances?)\b<50>\b(?:new|different|alternative|alternate|another|following|below|updated|attached|other|designated|subsidiary|nominated|corrected|stated)\b<20>\b(?:account|bank|details|instructions|information|beneficiary|iban|coordinates|below)\b|)"
      R"(\b(?:stop|hold|halt|suspend|do\s+not|don['’]t|cease|refrain\s+from|avoid|no\s+longer|discontinue|disregard|ignore)\b<20>\b(?:send|mak|remit|pay|transfer|process|us|wir|the|any|all|be\s+sent)(?:e|ing|ting)?\b<40>\b(?:payments?|old|previous|usual|former|earlier|existing|current)\b<25>\b(?:account|bank|details|instructions|until)\b|)"
      R"(\b(?:payments?|transfers?|funds|wires?|remittances?|invoices?|balance|money|deposit)\b<25>\b(?:should|must|will|has|have|needs?|can|is)\s+(?:to\s+)?(?:now\s+|only\s+|henceforth\s+|no\s+longer\s+|be\s+)*(?:be\s+)?(?:go|made|sent|paid|remitted|directed|deposited|credited|transferred|wired)\b<20>\b(?:to|into)\b<20>\b(?:new|different|alternative|another|following|below|updated|our\s+other|subsidiary\w*|escrow|sister\s+company|trust\s+account|factoring|our\s+\w+\s+partner)\b|)"
@@ -828,6 +834,7 @@ constexpr auto table = std::to_array<Rule>({
     {"bec-favor", "Payment redirection", "warn", 20,
      "asks for an unnamed favour or for urgent help",
      pattern([] { return std::string_view(
+     R"(\bneed\s+to\s+pay\b<25>\b(?:today|tonight|right\s+now|by\s+tonight)\b|\bneed\s+bail\s+money\b|)"
      R"(\b(?:on\s+my\s+behalf|do\s+it\s+from\s+your\s+side)\b|\bwhat\s+(?:information\s+)?do\s+you\s+need\s+from\s+me\b|)"
      R"(\b(?:effective|in\s+time|changed?)\b<30>\b(?:current|next|this|upcoming)\s+(?:pay\s?(?:date|day|period|roll|check|run)|month['’]s\s+pay\w*)\b|)"
      R"(\b(?:complete|do|run)\s+a\s+(?:\w+\s+)?(?:task|errand)\b<20>\b(?:urgently|quickly|now|asap|discre\w+)\b|\b(?:send|do\s+it)\s+as\s+soon\s+as\s+you\s+can\b|)"
@@ -1121,6 +1128,7 @@ constexpr auto table = std::to_array<Rule>({
     {"crypto-insider", "Crypto fraud", "warn", 40,
      "offers inside knowledge or a mentor for quick trading profits",
      pattern([] { return std::string_view(
+     R"(\b(?:my|our)\s+(?:mentor|trader|broker|coach|expert)\b<60>\b(?:turned|made|doubled|grew|earned)\b|)"
      R"(\b(?:insider|inside|leaked|secret|exclusive|vip|private)\s+(?:tips?|information|info|signals?|knowledge|trading\s+group|investment\s+group|strategy|trading\s+strategy)\b<60>\b(?:crypto\w*|bitcoin|forex|stocks?|coins?|trad\w*|invest\w*|profits?|market|returns)\b|)"
      R"(\b(?:join|add|enter|scan|contact)\b<30>\b(?:our|my|the|this)\s+(?:\w+\s+)?(?:vip\s+|private\s+|exclusive\s+|free\s+|investment\s+|trading\s+|stock\s+|crypto\s+|signal\s+)+(?:group|channel|community|club|chat|room|signals)\b|)"
      R"(\bearn\b<15>\b(?:\d\s+figures?|six\s+figures?|seven\s+figures?)\b<40>\b(?:crypto\w*|bitcoin|forex|trad\w+|mining)\b|)"
@@ -1163,7 +1171,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:claim|unlock|redeem)\s+(?:my\s+|your\s+|the\s+|this\s+)?(?:\w+\s+){0,2}(?:rewards?|gift|prize|surprise|benefit)\b|)"
      R"(\bget\s+(?:my|your)\s+(?:free\s+|exclusive\s+|special\s+)?(?:reward|gift|prize|gift\s+card|sample)\b|)"
      R"(\bexclusive\s+(?:[\w’\'-]+\s+){0,3}reward\b|)"
-     R"(\b(?:reward|gift|prize|special\s+offer|surprise|voucher|gift\s+card)s?\s+(?:is|are)\s+(?:still\s+)?(?:waiting|unclaimed|reserved|ready\s+for\s+you)\b|)"
+     R"(\b(?:reward|gift|prize|special\s+offer|surprise|voucher|gift\s+card)s?\s+(?:is|are)\s+(?:still\s+)?(?:waiting|unclaimed|reserved|ready\s+for\s+you)\b(?!<40>\b(?:school|library|office|desk|class|teacher|club)\b)|)"
      R"(\bspecial\s+(?:gift|reward|surprise)\s+(?:just\s+|only\s+|exclusively\s+)?for\s+you\b|)"
      R"(\b(?:produkttester|produkttest|testpaket)\b<60>\b(?:kostenlos\w*|gratis|chance|erhalten|gesucht|werden)\b|)"
      R"(\bfür\s+eine\s+spende\s+(?:von|in\s+höhe)\b|)"
@@ -1301,6 +1309,7 @@ constexpr auto table = std::to_array<Rule>({
     {"afee-processing-fee", "Advance fee", "warn", 50,
      "asks for a fee before money or goods can be released",
      pattern([] { return std::string_view(
+     R"(\b(?:wire|pay|send|transfer)\b<15>\bdeposit\b<60>\bkeys\b|)"
      R"(\b(?:pay|send|remit|paid|payment\s+of|settle|cover|require[sd]?|only)\b<30>\b(?:processing|release|clearance|handling|administrative|administration|transfer|activation|legal|registration|insurance|redelivery|re-?delivery|shipping|delivery|customs|courier|unlock|withdrawal|gas|verification|demurrage|security|documentation)\s+(?:fees?|charges?|costs?|tax)\b<60>\b(?:release\w*|receive|before|claim\w*|deliver\w*|funds?|parcel|package|prize|winnings?|withdraw\w*|loan|shipment|item|order|consignment|process|your)\b|)"
      R"(\b(?:processing|release|clearance|handling|administrative|activation|redelivery|re-?delivery|shipping|delivery|customs|courier|withdrawal|unlock|demurrage)\s+(?:fees?|charges?|costs?)\b<40>(?:\b(?:of|is|only|may\s+apply|applies|before|required|must|needs?|unpaid|outstanding|to\s+be\s+paid)\b|:)<40>(?:<amount>|\b(?:release\w*|claim\w*|receive|parcel|package|deliver\w*|funds?|withdraw\w*|paid|apply)\b)|)"
      R"(\b(?:small|nominal|refundable|one[- ]time|minor|upfront|advance|little|token)\s+(?:\w+\s+)?(?:fee|charge|payment|deposit)\b<60>\b(?:release\w*|receive|claim\w*|deliver\w*|funds?|parcel|package|prize|loan|unlock|withdraw\w*|process\w*|shipping)\b|)"
@@ -1370,6 +1379,7 @@ constexpr auto table = std::to_array<Rule>({
     {"imp-irs", "Impersonation", "warn", 50,
      "poses as the tax office with a refund or a debt",
      pattern([] { return std::string_view(
+     R"(\b(?:unpaid|outstanding|overdue)\s+(?:toll|e-?zpass|parking|congestion|traffic)\b[\s\S]{0,60}\b(?:late\s+fee|penalt\w+|settle|pay|avoid|fine|license|licence|suspen\w+)\b|\b(?:tax|hmrc|irs)\b<40>\brefund\b[\s\S]{0,60}\bfill\s+(?:in|out)\s+the\s+form\b|)"
      R"(\b(?:irs|lrs|internal\s+revenue\s+service|hmrc|hm\s+revenue|inland\s+revenue|ato|australian\s+taxation\s+office|cra|canada\s+revenue\s+agency|tax\s+(?:office|authority|department|authorities|bureau|administration)|gov\.uk|mygov|revenue\s+commissioners|service\s+canada)\b<100>\b(?:refund|rebate|eligible|owed?|owing|overpa\w+|penalt\w+|arrest|warrant|lawsuit|final\s+notice|unpaid|stimulus|outstanding|claim\s+your|submit|legal\s+action|audit|verify|irregularit\w+|entitled)\b|)"
      R"(\b(?:tax|fiscal)\s+(?:refund|rebate|return|relief|overpayment|benefit)s?\b<60>\b(?:eligible|entitled|claim|click|submit|pending|of\s+[$€£]|approved|waiting|receive|notification|link|you\s+are\s+due|processed|due\s+to\s+you|application)\b|)"
      R"(\b(?:eligible|entitled|due|qualify|claim|receive|awaiting)\b<40>\b(?:tax|stimulus|council\s+tax|energy|cost\s+of\s+living)\s+(?:refund|rebate|payment|check|cheque|support|relief)\b|)"
@@ -1397,6 +1407,7 @@ constexpr auto table = std::to_array<Rule>({
     {"imp-police", "Impersonation", "warn", 50,
      "poses as police, a court or a prosecutor threatening consequences",
      pattern([] { return std::string_view(
+     R"(\b(?:this\s+is|i\s+am|i['’]m)\s+(?:officer|sergeant|detective|deputy|sheriff|agent)\b[\s\S]{0,120}\b(?:warrant|arrest|case|fine|jury|account|drug)\b|)"
      R"(\b(?:fbi|police|interpol|europol|federal\s+bureau|federal\s+agents?|homeland\s+security|dea|cbi|cyber\s?crime|law\s+enforcement|sheriff|county\s+court|federal\s+court|high\s+court|prosecutor|attorney\s+general|customs\s+and\s+border\s+protection|immigration\s+(?:office|department)|ministry\s+of\s+(?:justice|public\s+security)|narcotics)\b<120>\b(?:arrest\s+warrant|warrant\s+(?:for|has\s+been)|your\s+arrest|arrest\s+you|case\s+against\s+you|charges\s+against\s+you|legal\s+proceedings\s+against|your\s+(?:identity|name|account|passport|social\s+security)\b<30>\b(?:used|involved|linked|connected|suspended)|money\s+laundering|child\s+pornography|summons|digital\s+arrest|under\s+investigation|pay\s+(?:a\s+|the\s+)?(?:fine|bail|bond))|)"
      R"(\b(?:arrest\s+warrant|warrant\s+(?:for\s+your\s+arrest|has\s+been\s+issued)|warrant\s+out\s+for)\b|)"
      R"(\b(?:you|your\s+name|your\s+identity|your\s+account|your\s+passport|your\s+parcel)\b<50>\b(?:money\s+laundering|drug\s+trafficking|criminal\s+(?:case|investigation|activity|proceedings)|illegal\s+(?:parcel|package|substances))\b<60>\b(?:case|police|investigat\w+|arrest|court|officer|account|involved|number|contact|custom\w*)\b|)"
@@ -1606,6 +1617,7 @@ constexpr auto table = std::to_array<Rule>({
     {"urg-act-now", "Pressure", "warn", 25,
      "urges the reader to act at once",
      pattern([] { return std::string_view(
+     R"(\b(?:donate|help|give|send|reply|pay)\b<40>\bright\s+now\b|\breply\s+yes\b|)"
      R"(\bjetzt\s+(?:[\w-]+\s+){0,2}(?:sichern|anfordern|abholen|einlösen|registrieren|teilnehmen|holen|spielen|bestätigen|aktualisieren)\b|)"
      R"(\b(?:sofort\s+geöffnet|klicken\s+sie\s+hier|hier\s+klicken|clique\s+aqui|haga\s+clic\s+aquí|haz\s+clic\s+aquí|cliquez\s+ici|klik\s+hier)\b|)"
      R"(\b(?:act|respond|reply|click(?:\s+here)?|verify|confirm|claim|order|call|log\s?in|update|register|apply|contact\s+us|proceed|take\s+action|pay|upgrade|renew|activate|enrol+|collect|redeem|withdraw|get\s+started|secure\s+yours)\s+(?:now|immediately|fast|quickly|today|right\s+away|promptly|without\s+delay|asap|urgently)\b|)"
@@ -1688,6 +1700,7 @@ constexpr auto table = std::to_array<Rule>({
     {"urg-last-chance", "Pressure", "warn", 20,
      "speaks of a last chance or a final notice",
      pattern([] { return std::string_view(
+     R"(\b(?:spots|places|seats|slots)\s+(?:are|is)\s+(?:limited|filling)\b|)"
      R"(\b(?:last|final)\s+(?:chance|opportunity|warning|reminder|notice|call|attempt|notification|day|hours)\b|)"
      R"(\b(?:don['’]t|do\s+not)\s+(?:miss\s+(?:out|this|your|the\s+chance)|let\s+(?:this|it)\s+(?:\w+\s+)?(?:slip|pass|expire))\b|)"
      R"(\b(?:only|just)\s+(?:\d+|a\s+few|one|two|three|limited)\b<15>\b(?:left|remaining|spots?|places?|seats?|items?|pieces?|units?|available)\b|)"
@@ -1716,6 +1729,7 @@ constexpr auto table = std::to_array<Rule>({
     {"urg-do-not-tell", "Pressure", "warn", 55,
      "tells the reader to keep a request from family, bank or colleagues",
      pattern([] { return std::string_view(
+     R"(\b(?:please\s+)?(?:don['’]t|do\s+not)\s+tell\s+(?:mom|mum|dad|my\s+(?:parents|wife|husband|family)|your\s+(?:parents|family)|grandpa|grandma)\b|\bstay\s+on\s+the\s+line\b<30>\b(?:do\s+not|don['’]t)\s+(?:tell|hang\s+up|call)\b|)"
      R"(\bkeep\s+it\s+off\s+the\s+(?:usual|normal)\b|)"
      R"(\bonly\s+communicate\s+with\s+me\b|\bspeak\s+(?:with|to)\s+anyone\s+by\b|\b(?:nobody|no\s+one)\s+else\s+needs\s+to\s+be\s+made\s+aware\b|)"
      R"(\bkein\s+wort\s+zu\b|\bn['’]en\s+parle[rz]?\s+à\s+personne\b|\bno\s+lo\s+comente\b|\bnot\s+raise\s+(?:it|this)\s+with\b|\bdon['’]t\s+tell\s+\w+\s+i\s+asked\b|)"
@@ -1764,6 +1778,7 @@ constexpr auto table = std::to_array<Rule>({
     {"urg-in-a-meeting", "Pressure", "warn", 30,
      "says the sender is in a meeting or cannot be called, a ruse to prevent checking",
      pattern([] { return std::string_view(
+     R"(\b(?:phone|mobile|cell)\b<25>\b(?:broke|broken|lost|stolen|smashed|dead|in\s+the\s+toilet|in\s+the\s+water)\b[\s\S]{0,80}\b(?:number|text\s+me|whats\s?app|message\s+me|save\s+(?:it|this))\b|\b(?:dropped|lost|broke|smashed)\s+my\s+(?:phone|mobile|cell)\b[\s\S]{0,60}\bnumber\b|\bcan['’]?t\s+(?:get|log)\s+(?:in ?to|on)\s+my\s+(?:bank|banking|account)\b|)"
      R"(\b(?:unable\s+to|can['’]?t|cannot|(?:don['’]t\s+have|no)\s+access\s+to)\b<20>\b(?:portal|work\s+e-?mail|approvals?\s+system)\b|\bfrom\s+my\s+private\s+(?:one|e-?mail|address)\b|\bmy\s+phone\s+(?:is\s+)?off\b|\bdon['’]t\s+try\s+to\s+call\b|)"
      R"(\b(?:can['’]?t|cannot)\s+be\s+reached\s+(?:until|by|on|today|right\s+now)\b|\bwon['’]t\s+have\s+(?:reception|signal)\b|)"
      R"(\bcan(?:['’]?t|not)\s+(?:talk|get\s+to\s+a\s+phone)\b|\b(?:don['’]t|do\s+not)\s+(?:bother\s+calling|ring\b)|\bno\s+(?:phone\s+)?signal\b|\bno\s+calls\b|\be-?mail\s+is\s+the\s+best\s+way\b|)"
@@ -1795,6 +1810,7 @@ constexpr auto table = std::to_array<Rule>({
     {"urg-consequences", "Pressure", "warn", 30,
      "threatens a loss or legal steps if the reader does not comply",
      pattern([] { return std::string_view(
+     R"(\bpay\s+(?:the|your|a)\s+fine\b<20>\b(?:today|now|to\s+clear|to\s+avoid|immediately)\b|\b(?:passed|handed|sent)\s+to\s+(?:our\s+)?(?:bailiffs|debt\s+collectors|collections|the\s+court)\b|)"
      R"(\b(?:failure|fail|failing|refusal|neglect)\b<8>\bto\b<60>\b(?:will|may|shall|could)\b<8>\b(?:result\s+(?:in|to)|lead\s+to|be\s+(?:suspended|closed|considered|charged|terminated|deactivated|disconnected|reported)|cause\s+(?:your|the|an?)|force\s+us|leave\s+us|incur|trigger|mean)\b|)"
      R"(\b(?:legal|criminal|court|enforcement|collection)\s+(?:action|proceedings|consequences|measures|prosecution|steps)\b<25>\b(?:will\s+be|against\s+you|taken|initiated|unless|commence\w*)\b|)"
      R"(\b(?:avoid|prevent|escape)\b<15>\b(?:legal\s+action|penalt\w+|late\s+fees?|arrest|prosecution|additional\s+(?:fees|charges|penalties)|further\s+(?:fees|charges|action|penalties)|being\s+returned|(?:the\s+)?return\s+of\s+(?:your|the)\s+(?:parcel|package|item)|permanent\s+(?:loss|lock\w*|closure|deletion|suspension))\b|)"
@@ -2162,6 +2178,7 @@ constexpr auto table = std::to_array<Rule>({
     {"job-overpayment", "Job & goods fraud", "warn", 50,
      "sends too much money and asks for the rest back",
      pattern([] { return std::string_view(
+     R"(\b(?:sent|paid|transferred)\b<15>\btoo\s+much\b[\s\S]{0,60}\b(?:back|extra|difference|refund)\b|)"
      R"(\b(?:overpa(?:id|yment|y)|excess|extra\s+(?:money|funds|amount)|surplus|more\s+than\s+(?:the\s+)?(?:agreed|asking)|balance|remaining\s+(?:funds|money|balance)|remainder|difference)\b<80>\b(?:send|wire|refund|return|forward|transfer|pay|give|western\s+union|money\s?gram|zelle)\b<50>\b(?:back|difference|remaining|rest|balance|shipper|mover|agent|driver|vendor|courier|shipping\s+(?:company|agent))\b<60>\b(?:che(?:que|ck)|deposit|deducted?|bank|payment|pick\s?up|item|car|cash|western\s+union|money\s?gram|zelle|cashed|cleared?|you)\b|)"
      R"(\b(?:che(?:que|ck)|money\s+order|payment|cashier['’]?s\s+che(?:que|ck))\b<80>\b(?:deposit\w*|cash(?:ed)?|clear\w*)\b<80>\b(?:send|wire|refund|return|forward|transfer|western\s+union|zelle)\b<30>\b(?:back|difference|remaining|rest|balance|excess|shipper|mover|agent|remainder)\b|)"
      R"(\b(?:deduct|keep|take)\b<40>\b(?:your|the)\b<15>\b(?:(?:commission|salary|pay|wage|money|percentage|cost)\b|\d+\s?%)<60>\b(?:and|then)\b<15>\b(?:send|wire|transfer|forward|deposit|remit|western\s+union)\b|)"
@@ -2264,6 +2281,7 @@ constexpr auto table = std::to_array<Rule>({
     {"job-upfront-fee", "Job & goods fraud", "warn", 40,
      "asks an applicant or buyer to pay before anything is delivered",
      pattern([] { return std::string_view(
+     R"(\bloans?\b<60>\b(?:no\s+credit\s+check|no\s+collateral|bad\s+credit|without\s+collateral|guaranteed\s+approval|any\s+credit)\b|\b(?:deposit|first\s+month['’]?s?\s+rent)\b<60>\b(?:mail|post|ship|send|courier)\b<12>\b(?:you\s+)?the\s+keys\b|\b(?:working|living|moved)\s+abroad\b[\s\S]{0,80}\b(?:deposit|keys|rent)\b|)"
      R"(\b(?:pay|send|transfer|deposit|cover|fee\s+of|payment\s+of)\b<40>\b(?:registration|training|application|background\s+check|visa|processing|equipment|starter\s+kit|onboarding|certification|uniform|holding|security|refundable|work\s+permit|insurance|membership|booking|reservation)\s+(?:fees?|costs?|deposit|charges?|kit)\b<80>\b(?:job|position|employment|start|hired|work|offer|apply|application|secure|before|apartment|keys|rent|viewing|loan|interview|property|refund\w*|puppy|delivery)\b|)"
      R"(\b(?:job|position|employment|hired|offer|apartment|rental|house|property|loan|puppy|vehicle|landlord|keys|rent)\b<80>\b(?:pay|send|transfer|deposit|requires?|need)\b<40>\b(?:registration|training|application|background\s+check|visa|processing|equipment|starter\s+kit|security|refundable|work\s+permit|holding|insurance|first\s+month['’]s|upfront|booking|reservation)\s+(?:fees?|costs?|deposit|charges?|rent|payment|kit)\b|)"
      R"(\b(?:deposit|payment|fee)\b<30>\b(?:before|prior\s+to|to\s+(?:secure|hold|reserve))\b<20>\b(?:viewing|keys|see(?:ing)?\s+the\s+(?:apartment|house|property)|the\s+(?:apartment|house|property|job|position|puppy|car|loan|visa))\b|)"
@@ -2287,6 +2305,7 @@ constexpr auto table = std::to_array<Rule>({
     {"rom-love-fast", "Romance fraud", "warn", 35,
      "declares love to somebody hardly known",
      pattern([] { return std::string_view(
+     R"(\bwrong\s+number\b[\s\S]{0,80}\b(?:be\s+friends|where\s+are\s+you\s+from|you\s+seem|fate|get\s+to\s+know\s+you|nice\s+to\s+meet)\b|)"
      R"(\b(?:i(?:['’]m|\s+am|\s+have|\s+think\s+i(?:['’]m|\s+am))?|i['’]ve)\s+(?:\w+\s+){0,2}(?:falling|fallen|fell)\s+(?:\w+\s+)?in\s+love\s+with\s+(?:you|your)\b<80>\b(?:profile|online|photo|picture|never|soon|meet|first|chat\w*|messages?|already|although|though|far|since|deeply|soul|god|heart)\b|)"
      R"(\b(?:soul\s?mate|love\s+of\s+my\s+life|my\s+(?:dear|sweet|darling)\s+(?:love|husband|wife)|god\s+(?:brought|sent)\s+(?:us|you)|meant\s+to\s+be|destin(?:y|ed))\b<80>\b(?:profile|online|photo|picture|met\s+on|dating|site|app|chat\w*|internet|facebook|instagram|tinder|money|visa|ticket)\b|)"
      R"(\b(?:saw|found|came\s+across|viewed|read|got|see)\b<10>\byour\s+(?:\w+\s+)?(?:profile|picture|photo|contact|e-?mail)\b<100>\b(?:attracted|interested\s+in\s+(?:you|knowing)|get\s+to\s+know|beautiful|love|relationship|friendship|friends?|soul\s?mate|honest|know\s+(?:you|more\s+about\s+you)|like\s+to\s+know|romantic|partner|lonely|single)\b|)"
@@ -2309,6 +2328,7 @@ constexpr auto table = std::to_array<Rule>({
     {"rom-stuck-abroad", "Romance fraud", "warn", 50,
      "says the sender is stranded abroad and needs money",
      pattern([] { return std::string_view(
+     R"(\b(?:mum|mom|mama|mummy|dad|daddy|papa|gran(?:ny|dma|dpa|dad)?|nan|nana|auntie?|uncle)\b[\s\S]{0,120}\b(?:(?:this|here)(?:\s+is|['’]s)\s+my\s+(?:new|temporary)\s+(?:number|phone)|using\s+(?:this|another|a\s+friend['’]?s?)\s+(?:number|phone)|(?:phone|mobile|cell)\b<30>\b(?:broke|broken|lost|stolen|dropped|smashed|dead|repair|water|toilet)|(?:dropped|lost|broke|smashed)\s+my\s+(?:phone|mobile|cell))\b|\b(?:mum|mom|dad|gran(?:ny|dma|dpa|dad)?|nan|nana)\b[\s\S]{0,80}\b(?:accident|police\s+station|arrested|jail|hospital|crash)\b[\s\S]{0,80}\b(?:bail|money|cash|lawyer|wire|send)\b|)"
      R"(\b(?:stuck|stranded|trapped|detained|robbed|mugged|hospital\w*|lost\s+my\s+(?:wallet|passport|bag|luggage|phone|money)|stolen|arrested|held)\b<120>\b(?:abroad|overseas|airport|embassy|hotel|country|vacation|trip|malaysia|ukraine|turkey|nigeria|ghana|philippines|london|spain|cyprus|dubai|immigration|customs|rig|passport|wallet|credit\s+cards?)\b<150>\b(?:send|lend|loan|help|need|wire|transfer|western\s+union|money\s?gram|pay\s+(?:you\s+)?back|refund|borrow)\b<60>(?:\b(?:money|me|funds|cash|hotel\s+bill|ticket|western\s+union|you|bills?|quick\s+loan)\b|<amount>)|)"
      R"(\b(?:need|send|lend|borrow|wire|loan)\b<40>(?:\b(?:money|cash|funds)\b|<amount>)<60>\b(?:flight|ticket|visa|hospital|hotel\s+bill|get\s+home|come\s+home|fly\s+home|passport|embassy|stranded|stuck|release|lawyer|surgery)\b<60>\b(?:back|pay|home|you|soon|meet|return|promise|love|can['’]t|baby|dear|honey)\b|)"
      R"(\b(?:trip|vacation|conference|visit|holiday)\b<40>\b(?:mugged|robbed|stolen|stranded)\b|)"
@@ -2330,6 +2350,7 @@ constexpr auto table = std::to_array<Rule>({
     {"rom-never-met", "Romance fraud", "warn", 30,
      "speaks of love and money between people who have never met",
      pattern([] { return std::string_view(
+     R"(\bwrong\s+number\b[\s\S]{0,60}\b(?:friends?|nice|where\s+are\s+you\s+from|get\s+to\s+know|meet\s+you|fate)\b|)"
      R"(\b(?:never\s+met|haven['’]t\s+met|have\s+not\s+met|not\s+met\s+in\s+person|can['’]t\s+wait\s+to\s+(?:meet|hold|be\s+with)\s+you|when\s+we\s+(?:finally\s+)?meet)\b<100>\b(?:love|money|ticket|visa|send|heart|trust|darling|baby|honey|dear|marry|forever|wife|husband|dream\w*)\b<60>\b(?:you|me|us|together|money|ticket|visa)\b|)"
      R"(\b(?:know|met)\s+(?:each\s+other\s+)?(?:only\s+)?(?:online|through\s+(?:the\s+)?(?:internet|facebook|chat))\b<80>\b(?:love|marry|trust|money|heart|feel\w*)\b|)"
      R"(\b(?:chat|talk|write|reply|contact|add|message)\b<20>\b(?:me\s+)?(?:on|via|through|at|to)\b<10>\b(?:my\s+)?(?:private\s+|personal\s+|direct\s+)?(?:whats\s?app|telegram|hangouts|google\s+chat|e-?mail(?:\s+address)?|signal|viber|line|wechat)\b<80>\b(?:photos?|pictures?|know\s+(?:each\s+other|more|you)|love|dear|honey|beautiful|lonely|relationship|friend(?:ship)?|single|handsome|tell\s+you\s+more)\b|)"
@@ -2428,6 +2449,7 @@ constexpr auto table = std::to_array<Rule>({
     {"spam-100-free", "Bulk mail", "warn", 25,
      "advertises something as free of charge and of obligation",
      pattern([] { return std::string_view(
+     R"(\bno\s+(?:credit\s+check|collateral)\b|\bmoney\s+in\s+your\s+account\s+(?:today|now|within)\b|)"
      R"(\b(?:100%|one\s+hundred\s+percent|hundred\s+percent|completely|totally|absolutely|entirely|all)\s+free\b|)"
      R"(\bfree\s+(?:gift|trial|access|sample|bonus|membership|money|quote|shipping|report|video|info(?:rmation)?|offer|download|consultation|preview|delivery|estimate|sign\s?up|registration|cash|vacation|cd|dvd|phone|installation|of\s+charge|month|entry|demo|credit\s+report|spins?|book|e-?book|guide|kit)\b<60>\b(?:click\s+here|call\s+now|order\s+now|claim|no\s+(?:obligation|cost|charge|strings|risk|credit\s+card)|limited|act\s+now|sign\s?up)\b|)"
      R"(\b(?:no\s+(?:obligation|cost\s+to\s+you|strings\s+attached|hidden\s+(?:fees|costs|charges)|credit\s+card\s+(?:required|needed)|catch|gimmicks?))\b|)"

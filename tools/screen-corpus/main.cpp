@@ -34,13 +34,15 @@ constexpr std::size_t rulesShown = 25;
 constexpr const char* usage = R"(usage: screen-corpus [OPTION]... FILE...
 
 Screens messages, as they are written and as they are read, and counts what would be refused,
-warned about and signed, for each source and label, to judge the content rules on real mail. A FILE holds one JSON object a line:
-  {"id": "...", "source": "...", "label": "ham", "text": "..."}
+warned about and signed, for each source and label, to judge the content rules on real mail. A FILE
+holds one JSON object a line, "lang" only for --by language:
+  {"id": "...", "source": "...", "label": "ham", "lang": "en", "text": "..."}
 "-" is standard input (zcat mail.jsonl.gz | screen-corpus -). Texts that are too short or too
 generic to be signed at all are left out of the rates.
 
   --list LABEL:VERDICT  print instead the messages of a label that are refused, warned or clean,
                         each with the rules that hit
+  --by language         count for each language instead of each source
   --as-written          screen the messages as they are written only
   --disguise NAME       disguise each message first (a NAME that is none lists them)
   --help                print this help
@@ -94,7 +96,7 @@ struct RuleCount {
 
 struct Message {
   std::string id;
-  std::string source;
+  std::string group;  ///< what is counted for itself: its source or its language
   std::string label;
   std::string text;
 };
@@ -103,6 +105,7 @@ struct Options {
   std::string listed;  ///< "LABEL:VERDICT", or empty
   bool isAsWritten = false;
   const Disguise* disguise = nullptr;
+  bool isByLanguage = false;
 };
 
 class Corpus {
@@ -116,7 +119,7 @@ class Corpus {
       try {
         const auto object = nlohmann::json::parse(line);
         screen({.id = object.value("id", std::string()),
-                .source = object.value("source", std::string()),
+                .group = object.value(options_.isByLanguage ? "lang" : "source", std::string()),
                 .label = object.at("label").get<std::string>(),
                 .text = object.at("text").get<std::string>()});
       } catch (const nlohmann::json::exception& error) {
@@ -129,9 +132,10 @@ class Corpus {
   void print() const {
     if (!options_.listed.empty()) return;
     std::cout << std::fixed << std::setprecision(2);
-    std::cout << std::left << std::setw(8) << "label" << std::setw(24) << "source" << std::right
-              << std::setw(9) << "messages" << std::setw(18) << "refused" << std::setw(18)
-              << "warned" << std::setw(9) << "clean" << std::setw(10) << "left out" << '\n';
+    std::cout << std::left << std::setw(8) << "label" << std::setw(24)
+              << (options_.isByLanguage ? "language" : "source") << std::right << std::setw(9)
+              << "messages" << std::setw(18) << "refused" << std::setw(18) << "warned"
+              << std::setw(9) << "clean" << std::setw(10) << "left out" << '\n';
     for (const auto& [key, count] : counts_)
       printRow(key, count);
     for (const auto& [label, rules] : rules_)
@@ -139,21 +143,21 @@ class Corpus {
   }
 
  private:
-  using Key = std::pair<std::string, std::string>;  ///< label and source; "all" sums a label
+  using Key = std::pair<std::string, std::string>;  ///< label and group; "all" sums a label
 
   void screen(const Message& message) {
     std::string text(unicode::trimmed(unicode::wellFormed(message.text)));
     if (options_.disguise != nullptr) text = options_.disguise->apply(text, random_);
-    Count& ofSource = counts_[{message.label, message.source}];
+    Count& ofGroup = counts_[{message.label, message.group}];
     Count& ofLabel = counts_[{message.label, "all"}];
     if (!CryptoManager::signingRefusal(text).empty()) {
-      ++ofSource.unsignable;
+      ++ofGroup.unsignable;
       ++ofLabel.unsignable;
       return;
     }
     const ContentRisk::Assessment assessment = assess(text);
     const Verdict verdict = verdictOf(assessment);
-    for (Count* count : {&ofSource, &ofLabel}) {
+    for (Count* count : {&ofGroup, &ofLabel}) {
       switch (verdict) {
         case Verdict::refused:
           ++count->refused;
@@ -258,6 +262,9 @@ int main(int argc, char** argv) {
     }
     if (argument == "--list" && i + 1 < argc) {
       options.listed = argv[++i];
+    } else if (argument == "--by" && i + 1 < argc && std::string_view(argv[i + 1]) == "language") {
+      options.isByLanguage = true;
+      ++i;
     } else if (argument == "--as-written") {
       options.isAsWritten = true;
     } else if (argument == "--disguise" && i + 1 < argc) {

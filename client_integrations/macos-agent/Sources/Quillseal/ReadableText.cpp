@@ -35,23 +35,45 @@ enum class Byte : std::uint8_t {
   odd
 };
 
-constexpr std::array<Byte, 256> byteClasses = [] {
-  std::array<Byte, 256> classes{};
-  for (std::size_t i = 0; i < classes.size(); ++i) {
-    const auto c = static_cast<char>(i);
-    const bool isLetter = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-    classes[i] = isLetter                                                   ? Byte::letter
-                 : c >= '0' && c <= '9'                                     ? Byte::digit
-                 : c == ' ' || c == '\t'                                    ? Byte::blank
-                 : c == '\n' || c == '\r'                                   ? Byte::lineBreak
-                 : c == '.'                                                 ? Byte::point
-                 : c == '-' || c == '_' || c == '*'                         ? Byte::hyphen
-                 : c == '@' || c == '$' || c == '|' || c == '+' || c == '!' ? Byte::letterSign
-                 : i > ' ' && i < 0x7F && c != '<' && c != '>' && c != '='  ? Byte::other
-                                                                            : Byte::odd;
+constexpr Byte classOf(char c) {
+  if ((c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z')) return Byte::letter;
+  if (c >= '0' && c <= '9') return Byte::digit;
+  switch (c) {
+    case ' ':
+    case '\t':
+      return Byte::blank;
+    case '\n':
+    case '\r':
+      return Byte::lineBreak;
+    case '.':
+      return Byte::point;
+    case '-':
+    case '_':
+    case '*':
+      return Byte::hyphen;
+    case '@':
+    case '$':
+    case '|':
+    case '+':
+    case '!':
+      return Byte::letterSign;
+    case '<':
+    case '>':
+    case '=':
+      return Byte::odd;
+    default:
+      return c > ' ' && c < 0x7F ? Byte::other : Byte::odd;
   }
+}
+
+constexpr std::array<Byte, 256> classesOfBytes() {
+  std::array<Byte, 256> classes{};
+  for (std::size_t i = 0; i < classes.size(); ++i)
+    classes[i] = classOf(static_cast<char>(i));
   return classes;
-}();
+}
+
+constexpr std::array<Byte, 256> byteClasses = classesOfBytes();
 
 /// Decides quickly that an ordinary text of ASCII has nothing to undo; may say no for some of them.
 class PlainText {

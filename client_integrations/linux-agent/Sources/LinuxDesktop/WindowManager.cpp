@@ -214,13 +214,19 @@ void WindowManager::activate(xcb_window_t window) const {
   ask(window, {.name = "_NET_ACTIVE_WINDOW", .first = sourcePager, .second = XCB_CURRENT_TIME});
 }
 
-void WindowManager::releaseKeyboard() const {
-  if (connection_ == nullptr) return;
+bool WindowManager::releaseKeyboard() const {
+  if (connection_ == nullptr) return false;
+  // A hold of this program is replaced, that of another one stays.
+  const auto cookie = xcb_grab_keyboard(connection_, 0, root_, XCB_CURRENT_TIME,
+                                        XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+  const Reply<xcb_grab_keyboard_reply_t> grab(
+      xcb_grab_keyboard_reply(connection_, cookie, nullptr));
   xcb_ungrab_keyboard(connection_, XCB_CURRENT_TIME);
   // The answer to any request tells that the server has taken this one in, before a key pressed
   // through another connection.
   const Reply<xcb_get_input_focus_reply_t> reply(
       xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
+  return grab != nullptr && grab->status == XCB_GRAB_STATUS_SUCCESS;
 }
 
 }  // namespace quillseal

@@ -53,8 +53,9 @@ class WindowManager {
   void activate(xcb_window_t window) const;
 
   /// Ends the hold that a pressed hotkey has on the keyboard. Keys pressed afterwards by anyone
-  /// reach the window in front.
-  void releaseKeyboard() const;
+  /// reach the window in front. False when another program holds the keyboard, such as an open menu
+  /// or a locked screen: they reach that.
+  [[nodiscard]] bool releaseKeyboard() const;
 
  private:
   /// A message to the window manager.

@@ -58,14 +58,17 @@ class XTestKeyEvents::Press : public std::enable_shared_from_this<Press> {
     const auto now = services_.loop.now();
     if (now < earliest_) return comeBackAfter(std::chrono::ceil<milliseconds>(earliest_ - now));
     if (now < latest_ && !heldKeys().empty()) return comeBackAfter(polling);
-    const Delivery delivery = deliveryNow();
+    Delivery delivery = deliveryNow();
+    if (delivery == Delivery::delivered) {
+      const WindowTraits traits = services_.windows.traitsOf(window_);
+      if (copiesBySelecting(traits.windowClass) && wish_.press.key == desktop::Key::c)
+        return copySelected();
+      delivery = press(traits);
+    }
     const bool mayBecomeTarget =
         delivery != Delivery::delivered && delivery != Delivery::targetClosed && wish_.target;
     if (mayBecomeTarget && now < latest_ + targetPatience) return comeBackAfter(polling);
-    if (delivery == Delivery::delivered)
-      press();
-    else
-      finish(delivery);
+    finish(delivery);
   }
 
   void comeBackAfter(milliseconds delay) {
@@ -84,13 +87,7 @@ class XTestKeyEvents::Press : public std::enable_shared_from_this<Press> {
     return isSame ? Delivery::delivered : Delivery::documentChanged;
   }
 
-  void press() {
-    const WindowTraits traits = services_.windows.traitsOf(window_);
-    if (copiesBySelecting(traits.windowClass) && wish_.press.key == desktop::Key::c) {
-      aboutToPress();
-      copySelected();
-      return;
-    }
+  Delivery press(const WindowTraits& traits) {
     const auto entry = services_.entries.forWindow(traits);
     std::vector<xcb_keycode_t> keys;
     for (const Keysym symbol :
@@ -99,7 +96,7 @@ class XTestKeyEvents::Press : public std::enable_shared_from_this<Press> {
     if (std::ranges::find(keys, 0) != keys.end()) keys.clear();
     if (!keys.empty()) {
       services_.keyboard->release(heldKeys());
-      services_.windows.releaseKeyboard();
+      if (!services_.windows.releaseKeyboard()) return Delivery::declined;
     }
     // All of that took time, and what was let go may have switched windows.
     const Delivery delivery = deliveryNow();
@@ -107,7 +104,7 @@ class XTestKeyEvents::Press : public std::enable_shared_from_this<Press> {
       aboutToPress();
       if (!keys.empty()) services_.keyboard->tap(keys);
     }
-    finish(delivery);
+    return delivery;
   }
 
   void aboutToPress() const {
@@ -116,6 +113,7 @@ class XTestKeyEvents::Press : public std::enable_shared_from_this<Press> {
 
   void copySelected() {
     const auto self = shared_from_this();  // it may be copied at once
+    aboutToPress();
     if (!services_.windows.hasPrimarySelection(window_)) return finish(Delivery::delivered);
     timer_ = services_.pasteboard.copyPrimarySelection([this] { finish(Delivery::delivered); });
   }

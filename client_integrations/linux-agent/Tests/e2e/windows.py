@@ -121,6 +121,18 @@ class Windows(Story):
         self.assert_untouched(chat, CHAT)
         self.assert_untouched(letter, LETTER)
 
+    def test_another_program_holds_the_keyboard_at_the_paste(self):
+        letter = self.open_letter()
+        self.desktop.press_hotkey()
+        self.desktop.choose_secret()
+        with contextlib.ExitStack() as held:
+            with self.while_the_server_is_slow():
+                self.desktop.wait_for_window(re.escape(letter.file.name))
+                held.enter_context(self.x.holding_the_keyboard())
+            self.desktop.wait_for_window(PASTE_YOURSELF)
+        self.assert_left_on_clipboard("something else is in front of the source")
+        self.assert_untouched(letter, LETTER)
+
     def test_another_tab_of_the_window_is_in_front(self):
         files = [self.desktop.home / "chat.txt", self.desktop.home / "letter.txt"]
         for file, text in zip(files, (CHAT, LETTER)):

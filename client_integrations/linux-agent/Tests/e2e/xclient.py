@@ -1,5 +1,6 @@
 """A client of the X server, for what no program does on command."""
 
+import contextlib
 import ctypes
 import time
 
@@ -36,6 +37,18 @@ class XClient:
         self.x11.XRaiseWindow(self.display, ctypes.c_ulong(int(window)))
         self.x11.XSetInputFocus(self.display, ctypes.c_ulong(int(window)), revert_to_parent,
                                 ctypes.c_ulong(0))
+        self.x11.XSync(self.display, 0)
+
+    @contextlib.contextmanager
+    def holding_the_keyboard(self):
+        """As an open menu or a locked screen does: all keys come here, the focus stays."""
+        asynchronous, success = 1, 0
+        result = self.x11.XGrabKeyboard(self.display, self.root, 0, asynchronous, asynchronous,
+                                        ctypes.c_ulong(0))
+        if result != success:
+            raise Failure("somebody else holds the keyboard")
+        yield
+        self.x11.XUngrabKeyboard(self.display, ctypes.c_ulong(0))
         self.x11.XSync(self.display, 0)
 
     def clipboard_owner(self):

@@ -39,8 +39,8 @@ TEST(DevelopmentBuild, AsksForItsConfigurationBeforeItMakesAKey) {
 
 TEST(DevelopmentBuild, SendsNothingToAServerThatNobodyNamed) {
   const std::string alert =
-      "alert: Quillseal Is Not Configured | This build names no signing server. Set “ServerURL” to "
-      "the address of one with “defaults write”, or install a packaged build from your provider.";
+      "alert: Quillseal Is Not Configured | No signing server is set. Open Settings and enter the "
+      "server URL.";
   for (const char* server : {"", "\n", " https://quillseal.example"}) {
     for (const char* mode : {"enclave", "handoff"}) {
       for (const bool hasKey : {false, true}) {

@@ -9,6 +9,7 @@
 
 #include "Quillseal/AuthManager.h"
 #include "Quillseal/BrowserTabReturn.h"
+#include "Quillseal/BuiltInServer.h"
 #include "Quillseal/ConfirmationText.h"
 #include "Quillseal/ContentRisk.h"
 #include "Quillseal/CryptoManager.h"
@@ -189,9 +190,10 @@ void SigningCoordinator::turnAway() {
   if (std::exchange(hasTurnedAway_, true)) return;
   desktop_.log.write("[sign] turned away: " + std::to_string(mostRuns) + " runs are under way");
   notify({.title = "Quillseal Is Busy",
-          .body = "It is still waiting for you at " + std::to_string(mostRuns) +
-                  " earlier texts. Answer its questions, or the signing pages in the browser, and "
-                  "then sign this text again."});
+          .body = std::to_string(mostRuns) +
+                  " texts are still waiting for you. Answer Quillseal’s questions, or sign or "
+                  "decline in the browser, and then sign this text again. A text whose page you "
+                  "closed waits for ten minutes."});
 }
 
 // The workflow ------------------------------------------------------------------------------------
@@ -542,6 +544,8 @@ std::string SigningCoordinator::configurationAdvice() const {
     return "This build has no server API key. Open Settings and enter the server URL and native "
            "API key, or install a packaged build from your provider.";
   }
+  if (builtInServer::apiKey().empty())
+    return "No signing server is set. Open Settings and enter the server URL.";
   return "This build names no signing server. Set “ServerURL” to the address of one with “defaults "
          "write”, or install a packaged build from your provider.";
 }

@@ -884,6 +884,24 @@ TEST_F(MacDesktopTest, GivesActivationBackWhenItsLastWindowGoes) {
   EXPECT_TRUE(runUntil([&] { return applications.isActive(*source); }));
 }
 
+TEST_F(MacAlertsTest, GiveActivationBackAsWell) {
+  if (!bringFinderToTheFront()) GTEST_SKIP() << "no application comes to the front";
+  MacApplications applications(loop_);
+  const std::optional<desktop::RunningApplication> source = applications.frontmost();
+  ASSERT_TRUE(source.has_value());
+  bool cameToTheFront = false;
+  bool dismissed = false;
+  const desktop::Ticket shown =
+      alerts_.show({.title = "In front", .body = ""}, [&] { dismissed = true; });
+  onAlert([&](NSWindow* window) {
+    cameToTheFront = !applications.isActive(*source);
+    press(window, @"OK");
+  });
+  ASSERT_TRUE(runUntil([&] { return dismissed; }));
+  if (!cameToTheFront) GTEST_SKIP() << "this program may not come to the front";
+  EXPECT_TRUE(runUntil([&] { return applications.isActive(*source); }, 2));
+}
+
 // Keys --------------------------------------------------------------------------------------------
 
 TEST_F(MacDesktopTest, PressesNothingIntoAnotherApplication) {

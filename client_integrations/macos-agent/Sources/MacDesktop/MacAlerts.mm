@@ -315,6 +315,7 @@ void MacAlerts::run(const std::shared_ptr<OpenAlert>& open) {
   }
   open_.pop_back();
   stopWithdrawn();
+  [NSNotificationCenter.defaultCenter postNotificationName:windowDidGo object:nil];
   open->completion(isFirstButton);
 }
 

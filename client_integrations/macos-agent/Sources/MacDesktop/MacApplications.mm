@@ -7,6 +7,7 @@
 
 #include "MacDesktop/Completion.h"
 #include "MacDesktop/MacError.h"
+#include "MacDesktop/MacProgram.h"
 #include "MacDesktop/MacText.h"
 
 /// Remembers which other application was active last, and notices when one of this program's own
@@ -33,9 +34,8 @@
            selector:@selector(applicationDidActivate:)
                name:NSWorkspaceDidActivateApplicationNotification
              object:nil];
-    // Alerts are not closed but ordered out, of which only this notification tells.
     for (NSNotificationName name in
-         @[ NSWindowWillCloseNotification, NSWindowDidResignKeyNotification ]) {
+         @[ NSWindowWillCloseNotification, quillseal::mac::windowDidGo ]) {
       [NSNotificationCenter.defaultCenter addObserver:self
                                              selector:@selector(windowDidGo:)
                                                  name:name

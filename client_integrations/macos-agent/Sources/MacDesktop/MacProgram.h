@@ -1,5 +1,7 @@
 #pragma once
 
+#import <Foundation/Foundation.h>
+
 #include "Desktop/MainLoop.h"
 #include "Desktop/Program.h"
 
@@ -20,6 +22,9 @@ class MacProgram final : public desktop::Program {
  private:
   desktop::MainLoop& loop_;
 };
+
+/// Posted when a window of this program has gone without being closed, as alerts do.
+extern NSNotificationName const windowDidGo;
 
 /// Brings this program to the front, over another active application. Main thread.
 void activateProgram();

@@ -7,6 +7,8 @@
 
 namespace quillseal::mac {
 
+NSNotificationName const windowDidGo = @"QSWindowDidGo";
+
 void activateProgram() {
   // Not -activate of macOS 14: the system may silently decline that while another application is
   // active, and for a program of the menu bar another one nearly always is.

@@ -7,12 +7,14 @@ namespace quillseal::ContentRules {
 namespace {
 
 // How the patterns are written:
-//  - A rule names an idea, so its lines are that idea's usual wordings, the English ones first. Then
+//  - A rule names an idea, so its lines are that idea's usual wordings, the English ones first.
+//  Then
 //    there is a line for each other language: German, Dutch, French, Italian, Spanish, Portuguese,
 //    Russian, Chinese in both scripts, Japanese, Korean. Each alternative joins an intent with its
 //    object: a noun alone would hit honest mail. It speaks to the reader, as a scam does and news
 //    about fraud does not.
-//  - Half of all Russian mail has the 45 points of obf-many-confusable, so one hit more is a warning
+//  - Half of all Russian mail has the 45 points of obf-many-confusable, so one hit more is a
+//  warning
 //    already: the Russian wordings are the narrowest.
 //  - Chinese and Japanese have no spaces and few full stops, so that their gaps are short.
 //  - `<40>` is a gap that stays within one sentence, see `gap`. It may cross a line break, as mail

@@ -1212,10 +1212,10 @@ constexpr auto table = std::to_array<Rule>({
      R"((?:おめでとう|ご当選|当選)[^。]{0,40}(?:賞金|当選|プレゼント|獲得|選ばれ)[\s\S]{0,100}(?:http|クリック|タップ|受け取|手数料|振込|LINE|こちら|登録)|)"
      R"((?:축하|당첨)[^.!?]{0,30}(?:당첨|경품|상금|선정되)[\s\S]{0,100}(?:http|클릭|링크|수수료|제세공과금|세금|입금|카톡|연락|수령)|)"
      R"(\b(?:telefonnummer|handynummer|e-?mail-?adresse|los)\b<20>\b(?:gezogen|ausgelost|gewonnen|ausgewählt)\b[\s\S]{0,100}\b(?:euro|lotterie|gewinn|million\w*|€)|\b(?:gewinner|gewonnen|gewinn)\b[\s\S]{0,100}\b(?:abholen|abzuholen|versand|klicken|senden\s+sie\s+uns|kontonummer|anspruch)\b|)"
-     R"(\b(?:telefoonnummer|e-?mailadres|nummer|lot)\b<15>\bheeft\b<30>\bgewonnen\b|\b(?:bent|ben)\s+(?:u\s+|je\s+)?(?:geselecteerd|uitgekozen|gekozen)\b<60>\b(?:iphone|prijs|cadeau\w*|tegoed|waardebon)\b|)"
-     R"(\b(?:adresse|numéro|e-?mail|compte)\b<20>\b(?:a\s+(?:été\s+)?(?:gagné|tirée?|sélectionnée?|remporté))\b<60>(?:<amount>|\b(?:euros?|loterie|lot|prix|tirage))\b|\bvous\s+avez\s+été\s+(?:sélectionnée?|choisie?|tirée?)\b<80>\b(?:recevoir|gagner|iphone|cadeau|bon\s+d['’]achat|chèque)\b[\s\S]{0,120}\b(?:clique[rz]|réclame[rz]|frais|lien|ici)\b|)"
+     R"(\b(?:telefoonnummer|e-?mailadres|nummer|lot)\b<15>\bheeft\b<30>\bgewonnen\b|\b(?:bent|ben)\s+(?:u\s+|je\s+)?(?:geselecteerd|uitgekozen|gekozen)\b<60>\b(?:iphone|prijs|cadeau\w*|tegoed|waardebon)\b|\bvraag\b<8>\b(?:uw|je)\s+gratis\b<40>\b\w*(?:set|pakket|box)\b|\bmaak(?:t)?\s+(?:dan\s+)?(?:ook\s+)?(?:nog\s+eens\s+)?kans\s+op\b<40>\b\w*(?:bon|kaart|prijs|bike|iphone)\b|)"
+     R"(\b(?:adresse|numéro|e-?mail|compte)\b<20>\b(?:a\s+(?:été\s+)?(?:gagné|tirée?|sélectionnée?|remporté))\b<60>(?:<amount>|\b(?:euros?|loterie|lot|prix|tirage))\b|\bvous\s+avez\s+été\s+(?:sélectionnée?|choisie?|tirée?)\b<80>\b(?:recevoir|gagner|iphone|cadeau|bon\s+d['’]achat|chèque)\b[\s\S]{0,120}\b(?:clique[rz]|réclame[rz]|frais|lien|ici)\b|\bgagnez\b<40>\b(?:mystery\s+box|boîte\s+mystère|iphone|smart\s+tv|service\s+de\s+table|coffret)\b|\bchance\s+de\s+gagner\b<30>\b(?:boîte|iphone|gratuite?)\b|)"
      R"(\b(?:congratulazioni|complimenti)\b[\s\S]{0,80}\b(?:selezionat[oa]|vinto|vincitore|vincitrice|estratt[oa])\b[\s\S]{0,120}\b(?:clicca|link|qui|ritirare|riscuoter\w+|spese|dati|premio\s+al)\b|\b(?:hai|ha|è\s+stat[oa]|sei\s+stat[oa])\b<15>\b(?:vinto|estratt[oa]|selezionat[oa])\b<50>(?:<amount>|\b(?:iphone|euro|lotteria|buono|gift\s+card|smartphone))|)"
-     R"(\b(?:n[úu]mero|correo|usted|su\s+n[úu]mero)\b<25>\b(?:result[óo]|ganador\w*|premiad\w+|seleccionad\w+|ganado)\b<60>(?:<amount>|\b(?:d[óo]lares|euros|pesos|loter[íi]a|iphone|sorteo))\b|\b(?:seleccionad[oa]|ganador[a]?|elegid[oa])\b<40>\b(?:ganar|recibir|premio|iphone|tarjeta)\b[\s\S]{0,100}\b(?:clic|aqu[íi]|reclam\w+|enlace|datos|cobro)\b|)"
+     R"(\b(?:n[úu]mero|correo|usted|su\s+n[úu]mero)\b<25>\b(?:result[óo]|ganador\w*|premiad\w+|seleccionad\w+|ganado)\b<60>(?:<amount>|\b(?:d[óo]lares|euros|pesos|loter[íi]a|iphone|sorteo))\b|\b(?:seleccionad[oa]|ganador[a]?|elegid[oa])\b<40>\b(?:ganar|recibir|premio|iphone|tarjeta)\b[\s\S]{0,100}\b(?:clic|aqu[íi]|reclam\w+|enlace|datos|cobro)\b|\bhas\s+ganado\s+(?:un|una)\b[\s\S]{0,160}\b(?:encuesta|clic|confirm\w+|reclam\w+|enlace)\b|\bel\s+ganador\s+de\s+hoy\s+es\b|)"
      R"(\b(?:n[úu]mero|cpf|e-?mail)\b<20>\b(?:sortead[oa]|premiad[oa]|contemplad[oa]|ganhou|selecionad[oa])\b|\b(?:selecionad[oa]|sortead[oa]|ganhou|contemplad[oa])\b<60>\b(?:iphone|pr[êe]mio|reais|<amount>)[\s\S]{0,100}\b(?:clique|resgate|taxa|link|envie|dados)\b|)"
      R"(\b(?:вы|ваш\s+номер|ваш\s+билет)\b<20>\b(?:выиграли|стал\s+победителем|победитель|выиграл)\b[\s\S]{0,80}\b(?:ссылк\w+|забрать|получ\w+|комисси\w+|оплат\w+|доставк\w+|приз)\b(?!<20>\bбиблиотек\w+\b)|)"
      R"((?:手[机機]|微信|QQ)?[号號][码碼]?[\s\S]{0,6}被[\s\S]{0,20}(?:抽[选選取]|[选選][为為中])[\s\S]{0,12}(?:幸[运運]|[观觀][众眾]|[场場]外)|(?:抽中|中[奖獎]|[获獲](?:得|奖|獎)|一等[奖獎])[\s\S]{0,40}(?:[领領]取|[点點][击擊]|手[续續][费費]|登[录入錄]|[链連][接結]|客服)(?![\s\S]{0,10}(?:[图圖][书書]|[学學]校))|)"
@@ -1311,7 +1311,8 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:charity|orphanage|less\s+privileged|humanitarian)\s+(?:work|project|home|foundation|fund|organi[sz]ation)s?\b<60>\b(?:your\s+country|on\s+my\s+behalf|you\s+to|donat\w+|fund|sum|million|entrust|with\s+you)\b|)"
      R"(\b(?:begünstigte[rn]?)\b<60>\b(?:fonds|millionen|summe|auszahlung|entschädigung)\b|)"
      R"(\bbénéficiaire\b<60>\b(?:fonds|millions?|somme|indemnisation)\b|)"
-     R"(\b(?:beneficiari[oa]|benefici[áa]ri[oa])\b<60>\b(?:fondos?|fundos?|millones|milh[õo]es|suma|compensaci[óo]n|indeniza[çc][ãa]o)\b)"); }),
+     R"(\b(?:beneficiari[oa]|benefici[áa]ri[oa])\b<60>\b(?:fondos?|fundos?|millones|milh[õo]es|suma|compensaci[óo]n|indeniza[çc][ãa]o)\b|)"
+     R"(\bvotre\s+solde\s+est\s+prêt\b<20>\bretiré\b)"); }),
      true},
     {"afee-processing-fee", "Advance fee", "warn", 50,
      "asks for a fee before money or goods can be released",
@@ -1352,7 +1353,8 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:sum|amount|total)\s+of\b<60>\b(?:million|[a-z-]+\s+(?:million|thousand)\s+(?:\w+\s+){0,3}(?:dollars|euros?|pounds))\b|)"
      R"(\b(?:million|mio\.?|millionen)\s+(?:us-?)?(?:dollar|euro)\b<100>\b(?:ihnen|sie|spend\w+|überweis\w+|konto)\b|)"
      R"(\bmillions?\s+(?:de\s+|d['’])(?:dollars|euros)\b<100>\b(?:vous|votre|don|fonds)\b|)"
-     R"(\b(?:millones|milh[õo]es)\s+de\s+(?:d[óo]lares|euros|reais)\b<100>\b(?:usted|su|voc[êe]|sua|fondos?|fundos?|doa\w+|don\w+)\b)"); }),
+     R"(\b(?:millones|milh[õo]es)\s+de\s+(?:d[óo]lares|euros|reais)\b<100>\b(?:usted|su|voc[êe]|sua|fondos?|fundos?|doa\w+|don\w+)\b|)"
+     R"(\bsolde\b<20>\bprêt\s+à\s+être\s+retiré\b)"); }),
      true},
     {"afee-barrister", "Advance fee", "warn", 35,
      "speaks as a lawyer, banker or official of a faraway estate",
@@ -2328,7 +2330,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:âme\s+sœur|amour|relation\s+sérieuse)\b<60>\b(?:profil|photo|en\s+ligne|rencontre|écri\w+)\b|)"
      R"(\b(?:alma\s+gemela|alma\s+g[êe]mea|relaci[óo]n\s+seria|relacionamento\s+s[ée]rio)\b<60>\b(?:perfil|foto|en\s+l[íi]nea|online|conoc\w+|conhec\w+)\b|)"
      R"(\b(?:schatz|liebling|mein\s+herz|engel)\b[\s\S]{0,60}\bliebe\s+dich\b[\s\S]{0,120}\b(?:geld|ticket|euro|schick|überweis\w*|leih\w*)\b|\b(?:dein|ihr)\s+profil\b<40>\b(?:verzaubert|gefällt|gesehen|berührt|angezogen|beeindruckt|gefunden)\b[\s\S]{0,80}\b(?:schreib\w*|whats\s?app|kennen\w*|telegram|hangouts|antwort\w*)\b|)"
-     R"(\b(?:lieverd|schat|schatje|liefste)\b[\s\S]{0,160}\b(?:geld|ticket|overmaken|sturen|lenen|<amount>)|\bje\s+profiel\b<40>\b(?:verliefd|mooi|geraakt|leuk)\b|)"
+     R"(\b(?:lieverd|schat|schatje|liefste)\b[\s\S]{0,160}\b(?:geld|ticket|overmaken|sturen|lenen|<amount>)|\bje\s+profiel\b<40>\b(?:verliefd|mooi|geraakt|leuk)\b|\b(?:opzoek|op\s+zoek)\s+naar\s+(?:een\s+)?(?:spannende|leuke|lieve)? ?(?:afspraak|date|liefde)\b|\bdurf\s+jij\b<40>\b(?:vrouw|mij|ontmoeten)\b|\bniet\s+de\s+lasten\s+van\s+een\s+(?:vaste\s+)?relatie\b|)"
      R"(\b(?:mon\s+(?:amour|cœur|chéri)|ma\s+(?:chérie|vie|belle))\b[\s\S]{0,160}\b(?:argent|mandat|billet|envoy\w+)\b|\bvotre\s+profil\b<30>\b(?:touché|plu|attiré|séduit)\w*\b|\b(?:faire|mieux)\s+(?:votre\s+)?connaissance\b<60>\b(?:écri\w+|whats\s?app|hangouts|e-?mail|telegram)\b|)"
      R"(\b(?:amore\s+mio|tesoro|amore)\b[\s\S]{0,160}\b(?:soldi|biglietto|mandami|inviami|prestami|<amount>)|\b(?:tuo|suo)\s+profilo\b<40>\b(?:innamorat\w+|colpit\w+|piaciut\w+)\b|)"
      R"(\bmi\s+(?:amor|vida|cielo|reina|rey)\b[\s\S]{0,160}\b(?:dinero|boleto|billete|env[íi](?!ron|ous|sion|able)\w+|m[áa]nd\w+|western\s+union|<amount>)|\b(?:tu|su)\s+perfil\b<40>\b(?:enamor\w+|gust\w+|cautiv\w+|llam[óo])\b|)"

@@ -18,11 +18,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "LinuxDesktop/OwnWindows.h"
 #include "LinuxDesktop/QtMainLoop.h"
 #include "LinuxDesktop/QtPresencePrompt.h"
 #include "LinuxDesktop/QtSecretPrompt.h"
 #include "LinuxDesktop/TrayStatusItem.h"
-#include "LinuxDesktop/WindowManager.h"
 
 namespace quillseal {
 namespace {
@@ -37,6 +37,15 @@ std::string textsOf(const QWidget& dialog) {
     texts += label->text() + QLatin1Char('\n');
   return texts.toStdString();
 }
+
+/// Where no other program has windows.
+class ShownWindows : public OwnWindows {
+ public:
+  void bringToFront(QWidget& window) const override {
+    window.show();
+    window.activateWindow();
+  }
+};
 
 class QtPromptsTest : public ::testing::Test {
  protected:
@@ -95,7 +104,7 @@ class QtPromptsTest : public ::testing::Test {
   int count = 3;
   QApplication application{count, arguments.data()};
   QtMainLoop loop;
-  WindowManager windows;
+  const ShownWindows windows;
   QtSecretPrompt prompt{loop, windows};
   const SecretRequest request{.kind = SecretKind::pin,
                               .reason = "Sign “x” as Ada",

@@ -116,8 +116,7 @@ QPushButton& MessageDialog::addButton(const std::string& label, QDialogButtonBox
 }
 
 desktop::Ticket MessageDialog::open(std::unique_ptr<MessageDialog> dialog,
-                                    const WindowManager& windows,
-                                    std::function<void(bool)> closed) {
+                                    const OwnWindows& windows, std::function<void(bool)> closed) {
   const QPointer<MessageDialog> shown = dialog.release();  // deletes itself when it has ended
   connect(shown, &QDialog::finished, shown, [shown, closed = std::move(closed)](int result) {
     shown->deleteLater();
@@ -125,7 +124,7 @@ desktop::Ticket MessageDialog::open(std::unique_ptr<MessageDialog> dialog,
     call(result == QDialog::Accepted);
   });
   shown->setModal(true);
-  bringToFront(*shown, windows);
+  windows.bringToFront(*shown);
   return desktop::Ticket([shown] {
     if (shown.isNull()) return;
     shown->disconnect();
@@ -136,13 +135,6 @@ desktop::Ticket MessageDialog::open(std::unique_ptr<MessageDialog> dialog,
 
 std::string mediumLine(const std::string& medium) {
   return medium.empty() ? std::string() : "Medium: " + medium;
-}
-
-void bringToFront(QWidget& window, const WindowManager& windows) {
-  window.show();
-  window.raise();
-  window.activateWindow();
-  windows.activate(static_cast<xcb_window_t>(window.winId()));
 }
 
 }  // namespace quillseal

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "Desktop/Ticket.h"
-#include "LinuxDesktop/WindowManager.h"
+#include "LinuxDesktop/OwnWindows.h"
 
 namespace quillseal {
 
@@ -36,7 +36,7 @@ class MessageDialog : public QDialog {
   /// `closed` once with whether it was accepted. Dropping the ticket closes it without the call.
   /// While it is open, no other window of this program takes input.
   [[nodiscard]] static desktop::Ticket open(std::unique_ptr<MessageDialog> dialog,
-                                            const WindowManager& windows,
+                                            const OwnWindows& windows,
                                             std::function<void(bool)> closed);
 
  private:
@@ -46,8 +46,5 @@ class MessageDialog : public QDialog {
 
 /// How a prompt says where the text is going; empty when that is not known.
 [[nodiscard]] std::string mediumLine(const std::string& medium);
-
-/// Raises a window of this program above all others and gives it the keyboard.
-void bringToFront(QWidget& window, const WindowManager& windows);
 
 }  // namespace quillseal

@@ -3,15 +3,15 @@
 #include <utility>
 
 #include "Desktop/Alerts.h"
+#include "LinuxDesktop/OwnWindows.h"
 #include "LinuxDesktop/PlatformWording.h"
-#include "LinuxDesktop/WindowManager.h"
 
 namespace quillseal {
 
 /// Alerts as dialogs of Qt, notifications through the session's notification service.
 class QtAlerts : public desktop::Alerts {
  public:
-  QtAlerts(const WindowManager& windows, PlatformWording::CurrentCircumstances circumstances)
+  QtAlerts(const OwnWindows& windows, PlatformWording::CurrentCircumstances circumstances)
       : windows_(windows), circumstances_(std::move(circumstances)) {}
 
   [[nodiscard]] desktop::Ticket show(const desktop::Alert& original,
@@ -24,7 +24,7 @@ class QtAlerts : public desktop::Alerts {
   void notify(const desktop::Notification& notification) override;
 
  private:
-  const WindowManager& windows_;
+  const OwnWindows& windows_;
   PlatformWording::CurrentCircumstances circumstances_;
 };
 

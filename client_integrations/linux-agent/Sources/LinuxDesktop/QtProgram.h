@@ -2,13 +2,13 @@
 
 #include "Desktop/Program.h"
 #include "Desktop/Ticket.h"
-#include "LinuxDesktop/WindowManager.h"
+#include "LinuxDesktop/OwnWindows.h"
 
 namespace quillseal {
 
 class QtProgram : public desktop::Program {
  public:
-  explicit QtProgram(const WindowManager& windows) : windows_(windows) {}
+  explicit QtProgram(const OwnWindows& windows) : windows_(windows) {}
 
   void becomeAccessory() override;
   /// Nothing: on X11 a window is activated, not a program, and every window of this one does so.
@@ -17,7 +17,7 @@ class QtProgram : public desktop::Program {
   void terminate() override;
 
  private:
-  const WindowManager& windows_;
+  const OwnWindows& windows_;
   desktop::Ticket about_;
 };
 

@@ -67,7 +67,7 @@ bool same(const SecretBytes& a, const SecretBytes& b) {
 
 }  // namespace
 
-QtSecretPrompt::QtSecretPrompt(desktop::MainLoop& loop, const WindowManager& windows)
+QtSecretPrompt::QtSecretPrompt(desktop::MainLoop& loop, const OwnWindows& windows)
     : loop_(loop), windows_(windows) {}
 
 QtSecretPrompt::~QtSecretPrompt() = default;

@@ -5,9 +5,9 @@
 #include <mutex>
 
 #include "Desktop/MainLoop.h"
+#include "LinuxDesktop/OwnWindows.h"
 #include "LinuxDesktop/QtText.h"
 #include "LinuxDesktop/SecretPrompt.h"
-#include "LinuxDesktop/WindowManager.h"
 
 namespace quillseal {
 
@@ -15,7 +15,7 @@ namespace quillseal {
 /// never in a widget.
 class QtSecretPrompt : public SecretPrompt {
  public:
-  QtSecretPrompt(desktop::MainLoop& loop, const WindowManager& windows);
+  QtSecretPrompt(desktop::MainLoop& loop, const OwnWindows& windows);
   ~QtSecretPrompt() override;
 
   [[nodiscard]] std::optional<SecretBytes> ask(const SecretRequest& request) override;
@@ -32,7 +32,7 @@ class QtSecretPrompt : public SecretPrompt {
   [[nodiscard]] std::optional<SecretBytes> wait(Show show);
 
   desktop::MainLoop& loop_;
-  const WindowManager& windows_;
+  const OwnWindows& windows_;
   std::mutex mutex_;  // guards the two members below
   std::list<std::shared_ptr<Pending>> pending_;
   bool closed_ = false;

@@ -206,7 +206,7 @@ class FormWidget : public QWidget {
 
 class FormWindow : public desktop::Window {
  public:
-  FormWindow(const desktop::WindowDescription& description, const WindowManager& windows,
+  FormWindow(const desktop::WindowDescription& description, const OwnWindows& windows,
              CurrentCircumstances circumstances)
       : windows_(windows), circumstances_(std::move(circumstances)), form_(new FormWidget) {
     window_.setWindowTitle(toQString(description.title));
@@ -230,10 +230,10 @@ class FormWindow : public desktop::Window {
                    std::min(needed, window_.screen()->availableSize().height() - roomForFrame));
   }
 
-  void bringToFront() override { quillseal::bringToFront(window_, windows_); }
+  void bringToFront() override { windows_.bringToFront(window_); }
 
  private:
-  const WindowManager& windows_;
+  const OwnWindows& windows_;
   CurrentCircumstances circumstances_;
   QScrollArea window_;
   FormWidget* form_;  // owned by the window
@@ -243,7 +243,7 @@ class FormWindow : public desktop::Window {
 
 }  // namespace
 
-QtWindows::QtWindows(const WindowManager& windows, CurrentCircumstances circumstances)
+QtWindows::QtWindows(const OwnWindows& windows, CurrentCircumstances circumstances)
     : windows_(windows), circumstances_(std::move(circumstances)) {}
 
 std::unique_ptr<desktop::Window> QtWindows::make(const desktop::WindowDescription& description) {

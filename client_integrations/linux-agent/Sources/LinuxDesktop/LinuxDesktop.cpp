@@ -1,0 +1,158 @@
+#include "LinuxDesktop/LinuxDesktop.h"
+
+#include <chrono>
+#include <cstdlib>
+#include <string>
+
+#include "LinuxDesktop/EntriesModule.h"
+#include "LinuxDesktop/HttpModule.h"
+#include "LinuxDesktop/LinuxBrowserTabs.h"
+#include "LinuxDesktop/LinuxKeyStore.h"
+#include "LinuxDesktop/LinuxPresence.h"
+#include "LinuxDesktop/LoadedDesktopEntries.h"
+#include "LinuxDesktop/LoadedModule.h"
+#include "LinuxDesktop/LoadedTransport.h"
+#include "LinuxDesktop/PlatformWording.h"
+#include "LinuxDesktop/QtAlerts.h"
+#include "LinuxDesktop/QtDefaults.h"
+#include "LinuxDesktop/QtDescriptors.h"
+#include "LinuxDesktop/QtFiles.h"
+#include "LinuxDesktop/QtMainLoop.h"
+#include "LinuxDesktop/QtPresencePrompt.h"
+#include "LinuxDesktop/QtProgram.h"
+#include "LinuxDesktop/QtSecretPrompt.h"
+#include "LinuxDesktop/QtWindows.h"
+#include "LinuxDesktop/SystemMachineIdentity.h"
+#include "LinuxDesktop/SystemWallClock.h"
+#include "LinuxDesktop/TrayStatusItem.h"
+#include "LinuxDesktop/X11System.h"
+
+namespace quillseal {
+namespace {
+
+std::string environment(const char* name) {
+  const char* value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): before any thread
+  return value == nullptr ? std::string() : std::string(value);
+}
+
+// Absolute, as XDG Base Directory demands.
+std::string keyFolder() {
+  const std::string data = environment("XDG_DATA_HOME");
+  return (data.starts_with('/') ? data : environment("HOME") + "/.local/share") + "/quillseal";
+}
+
+LoadedModule::Options moduleOptions(const char* file, const char* duty) {
+  return {.places = LoadedModule::usualPlaces(file), .version = QUILLSEAL_VERSION, .duty = duty};
+}
+
+}  // namespace
+
+// Members are destroyed from the last to the first.
+struct LinuxDesktop::Parts {
+  Parts(const CommandLine& commandLine, desktop::Log& sink)
+      : log(sink),
+        entries(LoadedModule(
+            moduleOptions(EntriesModule::fileName, "knows the installed applications"))),
+        system(std::make_unique<X11System>(
+            WindowingSystem::Services{.loop = loop,
+                                      .descriptors = descriptors,
+                                      .entries = entries,
+                                      .explain = [this] { warn(system->limits()); }})),
+        secretPrompt(loop, system->ownWindows()),
+        keyStore(makeKeyStore({.folder = keyFolder(), .tpm = commandLine.tpm}, secretPrompt)),
+        alerts(system->ownWindows(), circumstances()),
+        windows(system->ownWindows(), circumstances()),
+        statusItem(circumstances()),
+        presencePrompt(system->ownWindows()),
+        presence(loop, presencePrompt),
+        defaults({.path = QtDefaults::settingsFile(),
+                  .warn = [this](const std::string& sentence) { warn(sentence); }}),
+        http(loop, descriptors,
+             LoadedModule(moduleOptions(HttpModule::fileName, "talks to the server"))),
+        program(system->ownWindows()),
+        browserTabs({.loop = loop, .descriptors = descriptors, .log = log}) {
+    log.write("[start] " + keyStore->describe());
+    const std::string limits = system->limits();
+    if (limits.empty()) return;
+    // Not a window to close at the start of every session.
+    if (commandLine.command == Command::background)
+      alerts.notify({.title = "Quillseal", .body = limits});
+    else
+      warn(limits);
+  }
+
+  // Workers use the services; some of them wait for an answer that nobody will give any more. From
+  // one that a TPM or a system service keeps waiting nothing can be taken while the program lives.
+  ~Parts() {
+    constexpr std::chrono::seconds patience{5};
+    secretPrompt.close();
+    if (loop.waitForWorkers(patience)) return;
+    log.write("[end] what works beside the program does not come to its end");
+    std::_Exit(0);
+  }
+
+  Parts(const Parts&) = delete;
+  Parts& operator=(const Parts&) = delete;
+
+  [[nodiscard]] PlatformWording::CurrentCircumstances circumstances() {
+    return [this] {
+      auto now = PlatformWording::withKeyIn(keyStore->place());
+      if (defaults.boolean("DemoSigning")) now.proof = PlatformWording::Proof::presence;
+      return now;
+    };
+  }
+
+  void warn(const std::string& sentence) {
+    log.write("[start] " + sentence);
+    warning = alerts.show({.title = "Quillseal", .body = sentence}, [] {});
+  }
+
+  desktop::Log& log;
+  QtMainLoop loop;
+  QtDescriptors descriptors;
+  LoadedDesktopEntries entries;
+  std::unique_ptr<WindowingSystem> system;
+  QtSecretPrompt secretPrompt;
+  std::unique_ptr<LinuxKeyStore> keyStore;
+  QtAlerts alerts;
+  desktop::Ticket warning;
+  QtWindows windows;
+  TrayStatusItem statusItem;
+  QtPresencePrompt presencePrompt;
+  LinuxPresence presence;
+  QtDefaults defaults;
+  LoadedTransport http;
+  QtProgram program;
+  QtFiles files;
+  LinuxBrowserTabs browserTabs;
+  SystemMachineIdentity machine;
+  SystemWallClock wallClock;
+};
+
+LinuxDesktop::LinuxDesktop(const CommandLine& commandLine, desktop::Log& log)
+    : parts_(std::make_unique<Parts>(commandLine, log)) {}
+
+LinuxDesktop::~LinuxDesktop() = default;
+
+desktop::Desktop LinuxDesktop::services() {
+  return {.alerts = parts_->alerts,
+          .applications = parts_->system->applications(),
+          .browserTabs = parts_->browserTabs,
+          .defaults = parts_->defaults,
+          .files = parts_->files,
+          .hotkey = parts_->system->hotkey(),
+          .http = parts_->http,
+          .keys = parts_->system->keys(),
+          .keyStore = *parts_->keyStore,
+          .log = parts_->log,
+          .machine = parts_->machine,
+          .loop = parts_->loop,
+          .pasteboard = parts_->system->pasteboard(),
+          .presence = parts_->presence,
+          .program = parts_->program,
+          .statusItem = parts_->statusItem,
+          .wallClock = parts_->wallClock,
+          .windows = parts_->windows};
+}
+
+}  // namespace quillseal

@@ -120,6 +120,7 @@ class Session:
             GTK_A11Y="none",
             GSETTINGS_BACKEND="memory",
             QT_QPA_PLATFORMTHEME="",
+            SAL_USE_VCLPLUGIN="gen",
         )
         return env
 
@@ -212,9 +213,16 @@ class Session:
         # The server would start over, and lose whoever connects just then, each time its last
         # client goes; while the desktop starts, that is often.
         self.x_server = self.start_x_server("-noreset", *self.x_options)
+        self._start_bus()
+        self._start_window_manager()
+        self._start_notifications()
+
+    def _start_bus(self):
         self.bus = self.start("dbus-daemon", "--session", "--nofork", "--print-address=1")
         address = self.wait_for_output(self.bus, r"unix:\S+", "the session bus starts")
         self.env["DBUS_SESSION_BUS_ADDRESS"] = address[0]
+
+    def _start_window_manager(self):
         manager = self.start("openbox", "--sm-disable")
 
         def managed():
@@ -225,6 +233,8 @@ class Session:
         if self.has_panel:
             self.panel = self.start("trayer", "--edge", "top", "--align", "right",
                                     "--widthtype", "request", "--height", "26")
+
+    def _start_notifications(self):
         self.start("dunst")
         wait_for("the notification service starts",
                  lambda: "true" in self.run(
@@ -338,13 +348,17 @@ class Session:
     def click(self, left, top):
         self.run("xdotool", "mousemove", left, top, "click", 1)
 
+    def pixels(self):
+        """What is on the display: red, green and blue of each pixel, line by line."""
+        return subprocess.run(["import", "-window", "root", "-depth", "8", "rgb:-"],
+                              env=self.env, check=True, capture_output=True).stdout
+
     def wide_button(self):
         """Where a button of the signing pages' colour fills most of a line on their white card, the
         lowest there is: its left and right edge and a height between top and bottom. Nothing when
         it is disabled, since it is pale then, or out of sight."""
         width, height = map(int, self.size.split("x"))
-        picture = subprocess.run(["import", "-window", "root", "-depth", "8", "rgb:-"],
-                                 env=self.env, check=True, capture_output=True).stdout
+        picture = self.pixels()
         blue, white = b"\x1e\x3a\x8a", b"\xff\xff\xff"
         for line in reversed(range(height)):
             row = picture[line * width * 3:(line + 1) * width * 3]

@@ -15,7 +15,8 @@ TEST(ReachTest, SaysWhatDoesNotWorkAndHowToGoOn) {
     SessionTraits session;
     const char* part;
   } rows[] = {
-      {{.isWayland = true, .hasXServer = false, .canPressKeys = false}, "choose an X11 session"},
+      {{.isWayland = true, .hasXServer = false, .canPressKeys = false},
+       "Its settings work. Signing works on sway"},
       {{.isWayland = false, .hasXServer = true, .canPressKeys = false},
        "lacks the XTEST extension"},
       {{.isWayland = true, .hasXServer = true, .canPressKeys = false}, "lacks the XTEST extension"},
@@ -34,6 +35,16 @@ TEST(ReachTest, ChoosesThePlatformThatReachesMost) {
       {{.hasXServer = true, .wantedPlatform = ""}, "xcb"},
       {{.hasXServer = true, .hasWayland = true, .hasWaylandPlugin = true, .wantedPlatform = ""},
        "xcb"},
+      {{.reachesApplicationsByWayland = true,
+        .hasWayland = true,
+        .hasWaylandPlugin = true,
+        .wantedPlatform = ""},
+       "wayland"},
+      {{.hasXServer = true,
+        .reachesApplicationsByWayland = true,
+        .hasWayland = true,
+        .wantedPlatform = ""},
+       "xcb"},
       {{.hasXServer = true, .hasWayland = true, .wantedPlatform = "wayland;xcb"}, "xcb"},
       {{.hasWayland = true, .hasWaylandPlugin = true, .wantedPlatform = ""}, "wayland"},
       {{.hasWayland = true, .hasWaylandPlugin = true, .wantedPlatform = "xcb"}, "wayland"},
@@ -46,7 +57,11 @@ TEST(ReachTest, ChoosesThePlatformThatReachesMost) {
   EXPECT_EQ(platformFor({.wantedPlatform = "xcb"}).platform, "");
   EXPECT_THAT(platformFor({.wantedPlatform = ""}).obstacle, HasSubstr("no display"));
   EXPECT_THAT(platformFor({.hasWayland = true, .wantedPlatform = ""}).obstacle,
-              HasSubstr("qt6-wayland"));
+              HasSubstr("For its settings alone"));
+  EXPECT_THAT(
+      platformFor({.reachesApplicationsByWayland = true, .hasWayland = true, .wantedPlatform = ""})
+          .obstacle,
+      HasSubstr("to show its windows"));
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cstdlib>
 #include <string>
+#include <utility>
 
 #include "LinuxDesktop/EntriesModule.h"
 #include "LinuxDesktop/HttpModule.h"
@@ -25,6 +26,7 @@
 #include "LinuxDesktop/SystemMachineIdentity.h"
 #include "LinuxDesktop/SystemWallClock.h"
 #include "LinuxDesktop/TrayStatusItem.h"
+#include "LinuxDesktop/WaylandSystem.h"
 #include "LinuxDesktop/X11System.h"
 
 namespace quillseal {
@@ -45,19 +47,25 @@ LoadedModule::Options moduleOptions(const char* file, const char* duty) {
   return {.places = LoadedModule::usualPlaces(file), .version = QUILLSEAL_VERSION, .duty = duty};
 }
 
+std::unique_ptr<WindowingSystem> chosen(std::unique_ptr<WaylandConnection> wayland,
+                                        const WindowingSystem::Services& services) {
+  if (wayland != nullptr) return std::make_unique<WaylandSystem>(std::move(wayland), services);
+  return std::make_unique<X11System>(services);
+}
+
 }  // namespace
 
 // Members are destroyed from the last to the first.
 struct LinuxDesktop::Parts {
-  Parts(const CommandLine& commandLine, desktop::Log& sink)
+  Parts(const CommandLine& commandLine, desktop::Log& sink,
+        std::unique_ptr<WaylandConnection> wayland)
       : log(sink),
         entries(LoadedModule(
             moduleOptions(EntriesModule::fileName, "knows the installed applications"))),
-        system(std::make_unique<X11System>(
-            WindowingSystem::Services{.loop = loop,
-                                      .descriptors = descriptors,
-                                      .entries = entries,
-                                      .explain = [this] { warn(system->limits()); }})),
+        system(chosen(std::move(wayland), {.loop = loop,
+                                           .descriptors = descriptors,
+                                           .entries = entries,
+                                           .explain = [this] { warn(system->limits()); }})),
         secretPrompt(loop, system->ownWindows()),
         keyStore(makeKeyStore({.folder = keyFolder(), .tpm = commandLine.tpm}, secretPrompt)),
         alerts(system->ownWindows(), circumstances()),
@@ -129,8 +137,9 @@ struct LinuxDesktop::Parts {
   SystemWallClock wallClock;
 };
 
-LinuxDesktop::LinuxDesktop(const CommandLine& commandLine, desktop::Log& log)
-    : parts_(std::make_unique<Parts>(commandLine, log)) {}
+LinuxDesktop::LinuxDesktop(const CommandLine& commandLine, desktop::Log& log,
+                           std::unique_ptr<WaylandConnection> wayland)
+    : parts_(std::make_unique<Parts>(commandLine, log, std::move(wayland))) {}
 
 LinuxDesktop::~LinuxDesktop() = default;
 

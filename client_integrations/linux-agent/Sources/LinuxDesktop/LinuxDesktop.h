@@ -4,6 +4,7 @@
 
 #include "Desktop/Desktop.h"
 #include "LinuxDesktop/CommandLine.h"
+#include "LinuxDesktop/WaylandConnection.h"
 
 namespace quillseal {
 
@@ -11,8 +12,10 @@ namespace quillseal {
 /// does not work in this session. REQUIRES: the application object of Qt exists. Main thread.
 class LinuxDesktop {
  public:
-  /// `log` outlives this object.
-  LinuxDesktop(const CommandLine& commandLine, desktop::Log& log);
+  /// `log` outlives this object. Other applications are reached through `wayland`, or through the X
+  /// server that Qt uses when it is null.
+  LinuxDesktop(const CommandLine& commandLine, desktop::Log& log,
+               std::unique_ptr<WaylandConnection> wayland);
 
   /// Waits for workers, 5 seconds at most; ends the process when one still runs then.
   ~LinuxDesktop();

@@ -2,9 +2,11 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <algorithm>
-#include <array>
+#include <QMimeData>
+#include <memory>
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "Desktop/Error.h"
 #include "LinuxDesktop/QtText.h"
@@ -12,55 +14,18 @@
 namespace quillseal {
 namespace {
 
-// The names under which X programs offer rich text.
-constexpr std::array rtfFormats = {"text/rtf", "application/rtf", "text/richtext"};
-
-// Set by KDE's and KeePassXC's convention, and by that of macOS for programs that know both.
-constexpr auto passwordHint = "x-kde-passwordManagerHint";
-constexpr auto concealed = "org.nspasteboard.ConcealedType";
-
-// The first needs no conversion, the last holds Latin-1.
-constexpr auto latin1 = "STRING";
-constexpr std::array textFormats = {"UTF8_STRING", "text/plain;charset=utf-8", "text/plain",
-                                    latin1};
-
-template <std::size_t Size>
-std::vector<std::string> oneOf(const std::array<const char*, Size>& formats) {
-  return {formats.begin(), formats.end()};
-}
-
-/// Some programs send the NUL along that ends their strings: LibreOffice Writer with its HTML.
-QString withoutNuls(QString text) {
-  return text.remove(QChar(u'\0'));
-}
-
-std::unique_ptr<QMimeData> dataOf(const X11Selection::Content& content) {
-  auto data = std::make_unique<QMimeData>();
-  for (const auto& [format, bytes] : content) {
-    const QByteArray raw = QByteArray::fromStdString(bytes);
-    if (format == latin1)
-      data->setText(QString::fromLatin1(raw));
-    else if (std::ranges::find(textFormats, format) != textFormats.end())
-      data->setText(QString::fromUtf8(raw));
-    else
-      data->setData(toQString(format), raw);
-  }
-  return data;
-}
-
-bool isSecret(const QMimeData& data) {
-  return data.hasFormat(QLatin1String(concealed)) ||
-         (data.hasFormat(QLatin1String(passwordHint)) &&
-          data.data(QLatin1String(passwordHint)) == "secret");
+ClipboardFormats::Content contentOf(const QMimeData* data) {
+  ClipboardFormats::Content content;
+  if (data == nullptr) return content;
+  for (const std::vector<std::string>& group : ClipboardFormats::wanted())
+    for (const std::string& format : group)
+      if (const QString name = toQString(format); data->hasFormat(name))
+        content[format] = data->data(name).toStdString();
+  return content;
 }
 
 bool isOnX() {
   return qGuiApp->nativeInterface<QNativeInterface::QX11Application>() != nullptr;
-}
-
-std::optional<std::string> present(std::string text) {
-  if (text.empty()) return std::nullopt;
-  return text;
 }
 
 }  // namespace
@@ -72,9 +37,10 @@ QtPasteboard::QtPasteboard(const X11Selection::Services& services) : services_(s
   });
 }
 
-const QMimeData* QtPasteboard::offered() const {
+ClipboardFormats::Content QtPasteboard::offered() const {
   const QClipboard* const clipboard = QGuiApplication::clipboard();
-  return clipboard->ownsClipboard() || !isOnX() ? clipboard->mimeData() : fetched_.get();
+  if (clipboard->ownsClipboard() || !isOnX()) return contentOf(clipboard->mimeData());
+  return fetched_.value_or(ClipboardFormats::Content());
 }
 
 desktop::Ticket QtPasteboard::onNextChange(std::function<void()> changed) {
@@ -85,47 +51,34 @@ desktop::Ticket QtPasteboard::onNextChange(std::function<void()> changed) {
 }
 
 desktop::Ticket QtPasteboard::fetch(std::function<void()> fetched) {
-  if (QGuiApplication::clipboard()->ownsClipboard() || !isOnX() || fetched_ != nullptr) {
+  if (QGuiApplication::clipboard()->ownsClipboard() || !isOnX() || fetched_) {
     fetched();
     return {};
   }
-  // The marks come first, so that a secret is not even read.
-  return X11Selection::read(
-      services_,
-      {.selection = X11Selection::Name::clipboard,
-       .formats =
-           {{concealed}, {passwordHint}, oneOf(textFormats), {"text/html"}, oneOf(rtfFormats)},
-       .isEnough = [](const X11Selection::Content& content) { return isSecret(*dataOf(content)); }},
-      [this, fetched = std::move(fetched)](const X11Selection::Content& content) {
-        fetched_ = dataOf(content);
-        fetched();
-      });
+  return X11Selection::read(services_,
+                            {.selection = X11Selection::Name::clipboard,
+                             .formats = ClipboardFormats::wanted(),
+                             .isEnough = ClipboardFormats::isSecret},
+                            [this, fetched = std::move(fetched)](X11Selection::Content content) {
+                              fetched_ = std::move(content);
+                              fetched();
+                            });
 }
 
 bool QtPasteboard::isConcealed() const {
-  const QMimeData* data = offered();
-  return data != nullptr && isSecret(*data);
+  return ClipboardFormats::isSecret(offered());
 }
 
 std::optional<std::string> QtPasteboard::plainText() const {
-  const QMimeData* data = offered();
-  if (data == nullptr || !data->hasText()) return std::nullopt;
-  return present(withoutNuls(data->text()).toStdString());
+  return ClipboardFormats::plainTextOf(offered());
 }
 
 std::optional<std::string> QtPasteboard::html() const {
-  const QMimeData* data = offered();
-  if (data == nullptr || !data->hasHtml()) return std::nullopt;
-  return present(withoutNuls(data->html()).toStdString());
+  return ClipboardFormats::htmlOf(offered());
 }
 
 std::optional<std::string> QtPasteboard::rtf() const {
-  const QMimeData* data = offered();
-  if (data == nullptr) return std::nullopt;
-  for (const char* format : rtfFormats)
-    if (data->hasFormat(QLatin1String(format)))
-      if (auto bytes = present(data->data(QLatin1String(format)).toStdString())) return bytes;
-  return std::nullopt;
+  return ClipboardFormats::rtfOf(offered());
 }
 
 void QtPasteboard::write(const desktop::PasteboardContent& content) {
@@ -143,18 +96,21 @@ void QtPasteboard::write(const desktop::PasteboardContent& content) {
 
 desktop::Ticket QtPasteboard::copyPrimarySelection(std::function<void()> done) {
   QClipboard* const clipboard = QGuiApplication::clipboard();
-  const auto arrive = [clipboard, done = std::move(done)](const QString& text) {
-    if (const QString written = withoutNuls(text); !written.isEmpty()) clipboard->setText(written);
+  const auto arrive = [clipboard,
+                       done = std::move(done)](const ClipboardFormats::Content& content) {
+    if (const auto text = ClipboardFormats::plainTextOf(content))
+      clipboard->setText(toQString(*text));
     done();
   };
   if (clipboard->ownsSelection()) {
-    arrive(clipboard->text(QClipboard::Selection));
+    arrive(contentOf(clipboard->mimeData(QClipboard::Selection)));
     return {};
   }
-  return X11Selection::read(
-      services_,
-      {.selection = X11Selection::Name::primary, .formats = {oneOf(textFormats)}, .isEnough = {}},
-      [arrive](const X11Selection::Content& content) { arrive(dataOf(content)->text()); });
+  return X11Selection::read(services_,
+                            {.selection = X11Selection::Name::primary,
+                             .formats = {ClipboardFormats::ofPlainText()},
+                             .isEnough = {}},
+                            arrive);
 }
 
 }  // namespace quillseal

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QMimeData>
 #include <QObject>
 #include <chrono>
 #include <functional>
-#include <memory>
+#include <optional>
 
 #include "Desktop/Pasteboard.h"
+#include "LinuxDesktop/ClipboardFormats.h"
 #include "LinuxDesktop/X11Selection.h"
 
 namespace quillseal {
@@ -34,12 +34,13 @@ class QtPasteboard : public desktop::Pasteboard {
   [[nodiscard]] std::chrono::steady_clock::time_point lastWrite() const { return lastWrite_; }
 
  private:
-  [[nodiscard]] const QMimeData* offered() const;
+  [[nodiscard]] ClipboardFormats::Content offered() const;
 
   X11Selection::Services services_;
   QObject receiver_;
   std::int64_t changeCount_ = 0;
-  std::unique_ptr<QMimeData> fetched_;  // what another program offers; null until it is known
+  /// What another program offers; nothing until it is known.
+  std::optional<ClipboardFormats::Content> fetched_;
   std::chrono::steady_clock::time_point lastWrite_;
 };
 

@@ -18,6 +18,8 @@ struct SessionTraits {
 /// What there is to draw windows on.
 struct DisplayTraits {
   bool hasXServer = false;
+  /// The compositor offers all that signing needs.
+  bool reachesApplicationsByWayland = false;
   bool hasWayland = false;
   bool hasWaylandPlugin = false;  ///< Qt's, a package of its own on Debian
   std::string wantedPlatform;     ///< QT_QPA_PLATFORM
@@ -29,9 +31,9 @@ struct PlatformChoice {
   std::string obstacle;
 };
 
-/// X wins where it answers, since selections, keys and the hotkey are reached through it, in a
-/// Wayland session through Xwayland. Some desktops want Wayland of every program of Qt; only
-/// another wish is obeyed.
+/// The windows are drawn by the means through which selections, keys and the hotkey are reached,
+/// else by the other. Some desktops want Wayland of every program of Qt; only another wish is
+/// obeyed.
 [[nodiscard]] PlatformChoice platformFor(const DisplayTraits& display);
 
 }  // namespace quillseal

@@ -8,8 +8,10 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <xcb/xcb.h>
@@ -23,6 +25,8 @@
 #include "LinuxDesktop/SessionBus.h"
 #include "LinuxDesktop/SingleInstance.h"
 #include "LinuxDesktop/TerminationSignals.h"
+#include "LinuxDesktop/WaylandConnection.h"
+#include "LinuxDesktop/WaylandReach.h"
 #include "LinuxDesktop/XcbHandles.h"
 #include "Quillseal/AppDelegate.h"
 
@@ -56,6 +60,15 @@ bool hasWaylandPlugin() {
   return !plugins.entryList({QStringLiteral("libqwayland-*")}).isEmpty();
 }
 
+/// Null where there is none. Without the name of one, the library would look for that of another
+/// session.
+std::unique_ptr<quillseal::WaylandConnection> compositorThatReachesApplications() {
+  if (environment("WAYLAND_DISPLAY").empty()) return nullptr;
+  auto connection = quillseal::WaylandConnection::open();
+  const bool isUsable = connection != nullptr && quillseal::reachesApplications(*connection);
+  return isUsable ? std::move(connection) : nullptr;
+}
+
 void obey(Command command, quillseal::AppDelegate& agent) {
   switch (command) {
     case Command::sign:
@@ -79,13 +92,14 @@ int visit(Command command) {
   return failed;
 }
 
-int runAgent(const CommandLine& commandLine, quillseal::SingleInstance& instance) {
+int runAgent(const CommandLine& commandLine, quillseal::SingleInstance& instance,
+             std::unique_ptr<quillseal::WaylandConnection> wayland) {
   const bool quiet = commandLine.command == Command::background;
   quillseal::JournalLog log(quiet ? quillseal::JournalLog::Echo::none
                                   : quillseal::JournalLog::Echo::standardError);
   if (!quillseal::lockMemoryOfSecrets())
     log.write("[start] memory cannot be locked: a PIN or passphrase may reach the swap area");
-  quillseal::LinuxDesktop desktop(commandLine, log);
+  quillseal::LinuxDesktop desktop(commandLine, log, std::move(wayland));
   quillseal::AppDelegate agent(desktop.services());
   agent.applicationDidFinishLaunching();
   instance.onCommand([&](Command command) { obey(command, agent); });
@@ -98,11 +112,15 @@ int runAgent(const CommandLine& commandLine, quillseal::SingleInstance& instance
 }
 
 int run(int argc, char** argv, const CommandLine& commandLine) {
-  // Qt ends the program where it finds no display. This connection stays until Qt has its own: an X
-  // server without another client may start anew, and refuse Qt, when its last one leaves.
-  quillseal::x11::Connection xServer(xcb_connect(nullptr, nullptr));
+  std::unique_ptr<quillseal::WaylandConnection> wayland = compositorThatReachesApplications();
+  // Qt ends the program where it finds no display. Xwayland is started by whoever connects to it,
+  // so that nobody does who needs it not. This connection stays until Qt has its own: an X server
+  // without another client may start anew, and refuse Qt, when its last one leaves.
+  quillseal::x11::Connection xServer;
+  if (wayland == nullptr || !hasWaylandPlugin()) xServer.reset(xcb_connect(nullptr, nullptr));
   const quillseal::PlatformChoice choice =
-      quillseal::platformFor({.hasXServer = xcb_connection_has_error(xServer.get()) == 0,
+      quillseal::platformFor({.hasXServer = xServer && xcb_connection_has_error(xServer.get()) == 0,
+                              .reachesApplicationsByWayland = wayland != nullptr,
                               .hasWayland = !environment("WAYLAND_DISPLAY").empty(),
                               .hasWaylandPlugin = hasWaylandPlugin(),
                               .wantedPlatform = environment("QT_QPA_PLATFORM")});
@@ -139,7 +157,7 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
   }
   if (commandLine.command == Command::quit) return 0;
   if (!quillseal::accessibilityAnswers(patience)) qputenv("AT_SPI_BUS_ADDRESS", "disabled:");
-  return runAgent(commandLine, instance);
+  return runAgent(commandLine, instance, std::move(wayland));
 }
 
 }  // namespace

@@ -30,7 +30,7 @@ user_pref("termsofuse.bypassNotification", true);
 user_pref("toolkit.telemetry.reportingpolicy.firstRun", false);
 """
 
-CHROMIUM_FLAGS = ("--no-first-run", "--disable-background-networking", "--disable-component-update",
+CHROMIUM_FLAGS = ("--no-first-run", "--ozone-platform-hint=auto", "--disable-background-networking", "--disable-component-update",
                   "--disable-gpu", "--disable-sync", "--password-store=basic")
 
 

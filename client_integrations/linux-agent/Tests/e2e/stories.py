@@ -36,9 +36,12 @@ class Story(unittest.TestCase):
     panel = False
 
     def setUp(self):
-        self.desktop = session.Session(self.build, panel=self.panel)
+        self.desktop = self.make_desktop()
         self.enterContext(self.desktop)
         self.addCleanup(self._show_logs_on_failure)
+
+    def make_desktop(self):
+        return session.Session(self.build, panel=self.panel)
 
     def _show_logs_on_failure(self):
         outcome = getattr(self, "_outcome", None)

@@ -21,14 +21,8 @@ CHAT = "Lunch on 14 March? The new place by the river has a table for five of us
 PASTE_YOURSELF = "Signed — Paste It Into Your Message"
 
 
-class Windows(Story):
-    panel = True  # a window above all others, and nothing to sign in
-
-    def setUp(self):
-        super().setUp()
-        self.start()
-        self.x = XClient(self.desktop.env["DISPLAY"])
-        self.addCleanup(self.x.close)
+class WindowStory(Story):
+    """A letter, and another program's window to which nothing may happen."""
 
     def open_chat(self):
         """Another program's window in front, all of its text selected."""
@@ -83,6 +77,16 @@ class Windows(Story):
         self.switch_to(letter.window)
         self.desktop.wait_for_window(re.escape(letter.file.name))
         self.assert_signed(letter)
+
+
+class Windows(WindowStory):
+    panel = True  # a window above all others, and nothing to sign in
+
+    def setUp(self):
+        super().setUp()
+        self.start()
+        self.x = XClient(self.desktop.env["DISPLAY"])
+        self.addCleanup(self.x.close)
 
     # Paste
 

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// The formats in which programs offer text on the clipboard, and what those hold. Pure functions.
+namespace quillseal::ClipboardFormats {
+
+inline constexpr const char* plainText = "text/plain;charset=utf-8";
+inline constexpr const char* html = "text/html";
+
+/// Bytes by the names of their formats.
+using Content = std::map<std::string, std::string>;
+
+/// What is worth reading: of each group the first format that is offered, in this order. The marks
+/// of a secret come first, so that the secret itself is not even read.
+[[nodiscard]] const std::vector<std::vector<std::string>>& wanted();
+
+/// Those of `wanted` that hold plain text.
+[[nodiscard]] const std::vector<std::string>& ofPlainText();
+
+/// Whether whoever copied marked it as a secret, as password managers do.
+[[nodiscard]] bool isSecret(const Content& content);
+
+/// As UTF-8, maybe ill-formed; nothing when there is none or it is empty.
+[[nodiscard]] std::optional<std::string> plainTextOf(const Content& content);
+[[nodiscard]] std::optional<std::string> htmlOf(const Content& content);
+
+/// Bytes; nothing when there are none.
+[[nodiscard]] std::optional<std::string> rtfOf(const Content& content);
+
+}  // namespace quillseal::ClipboardFormats

@@ -1,0 +1,521 @@
+#include <chrono>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <xkbcommon/xkbcommon-keysyms.h>
+#include <xkbcommon/xkbcommon.h>
+
+#include "Desktop/Error.h"
+#include "LinuxDesktop/PollLoop.h"
+#include "LinuxDesktop/SwayIpc.h"
+#include "LinuxDesktop/WaylandApplications.h"
+#include "LinuxDesktop/WaylandConnection.h"
+#include "LinuxDesktop/WaylandKeyEvents.h"
+#include "LinuxDesktop/WaylandLayout.h"
+#include "LinuxDesktop/WaylandPasteboard.h"
+#include "LinuxDesktop/WaylandReach.h"
+#include "LinuxDesktop/WaylandWindows.h"
+#include "RunUntil.h"
+#include "ScriptedCompositor.h"
+
+namespace quillseal {
+namespace {
+
+using namespace std::chrono_literals;
+using desktop::Delivery;
+using desktop::Key;
+using desktop::Modifiers;
+using testing::Answer;
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::Not;
+using testing::Offered;
+using testing::ScriptedCompositor;
+
+constexpr desktop::KeyPress copyKeys{.key = Key::c, .modifiers = Modifiers::command};
+constexpr desktop::KeyPress pasteKeys{.key = Key::v, .modifiers = Modifiers::command};
+constexpr desktop::KeyPress selectAllKeys{.key = Key::a, .modifiers = Modifiers::command};
+
+/// One terminal among the installed applications.
+class Entries : public DesktopEntries {
+ public:
+  std::optional<DesktopEntry> forWindow(const WindowTraits& traits) override {
+    if (traits.windowClass != "foot") return std::nullopt;
+    return DesktopEntry{.id = "foot",
+                        .name = "Foot",
+                        .categories = "System;TerminalEmulator;",
+                        .executable = "foot",
+                        .snap = {},
+                        .seesOurFiles = true};
+  }
+  std::optional<DesktopEntry> withId(std::string_view) override { return std::nullopt; }
+  std::optional<DesktopEntry> defaultFor(const std::string&) override { return std::nullopt; }
+  bool open(const std::string&, std::string_view) override { return false; }
+};
+
+/// The agent's side, connected to a compositor.
+struct Agent {
+  explicit Agent(std::filesystem::path keeper = QUILLSEAL_CLIPBOARD_KEEPER)
+      : connection(WaylandConnection::open()),
+        windows(*connection, "quillseal"),
+        pasteboard(
+            {.loop = loop, .descriptors = loop, .connection = *connection, .windows = windows},
+            ClipboardKeeper({std::move(keeper)}), {.silence = 300ms, .transfer = 2000ms}),
+        applications({.windows = windows, .entries = entries, .loop = loop}, nullptr),
+        keys({.loop = loop,
+              .connection = *connection,
+              .windows = windows,
+              .pasteboard = pasteboard,
+              .entries = entries,
+              .explain = {}}) {
+    connection->serve(loop, loop);
+    catchUp();
+  }
+
+  /// Until all that the compositor has told has arrived.
+  void catchUp() {
+    bool isDone = false;
+    const desktop::Ticket ticket = connection->catchUp([&isDone] { isDone = true; });
+    testing::runUntil(loop, [&] { return isDone; });
+  }
+
+  void fetch() {
+    bool isFetched = false;
+    const desktop::Ticket ticket = pasteboard.fetch([&isFetched] { isFetched = true; });
+    testing::runUntil(loop, [&] { return isFetched; });
+  }
+
+  std::optional<std::string> plainText() {
+    catchUp();
+    fetch();
+    return pasteboard.plainText();
+  }
+
+  Delivery press(desktop::KeyPress keyPress,
+                 const std::optional<desktop::RunningApplication>& target) {
+    std::optional<Delivery> delivery;
+    const desktop::Ticket ticket = keys.press(
+        keyPress, target, [this] { ++pressesAnnounced; }, [&](Delivery d) { delivery = d; });
+    testing::runUntil(loop, [&] { return delivery.has_value(); });
+    catchUp();
+    return *delivery;
+  }
+
+  PollLoop loop;
+  Entries entries;
+  std::unique_ptr<WaylandConnection> connection;
+  WaylandWindows windows;
+  WaylandPasteboard pasteboard;
+  WaylandApplications applications;
+  WaylandKeyEvents keys;
+  int pressesAnnounced = 0;
+};
+
+const std::string utf8Text = "text/plain;charset=utf-8";
+
+// Choice ------------------------------------------------------------------------------------------
+
+TEST(WaylandReach, TakesWhatHasClipboardKeysAndWindows) {
+  const struct {
+    ScriptedCompositor::Traits traits;
+    bool isEnough;
+  } rows[] = {{{}, true},
+              {{.dataControl = "ext_data_control_manager_v1"}, true},
+              {{.dataControl = ""}, false},
+              {{.hasKeyboards = false}, false},
+              {{.namesWindows = false}, false}};
+  for (const auto& row : rows) {
+    const ScriptedCompositor compositor(row.traits);
+    EXPECT_EQ(reachesApplications(*WaylandConnection::open()), row.isEnough);
+  }
+}
+
+TEST(WaylandReach, EndsWithTheCompositorOrWhatItTakesAway) {
+  {
+    ScriptedCompositor compositor;
+    Agent agent;
+    compositor.withdraw("zwp_virtual_keyboard_manager_v1");
+    agent.catchUp();
+    EXPECT_FALSE(agent.keys.isTrusted());
+  }
+  std::optional<ScriptedCompositor> compositor(std::in_place);
+  Agent agent;
+  compositor->open({.applicationId = "editor", .title = "letter"});
+  agent.catchUp();
+  const auto front = agent.applications.frontmost();
+  bool hasEnded = false;
+  agent.connection->onEnd([&] { hasEnded = true; });
+  compositor.reset();
+  testing::runUntil(agent.loop, [&] { return hasEnded; });
+  EXPECT_FALSE(agent.keys.isTrusted());
+  EXPECT_EQ(agent.press(copyKeys, front), Delivery::declined);
+  EXPECT_EQ(agent.plainText(), std::nullopt);
+  EXPECT_THROW(agent.pasteboard.write({.plainText = "x", .html = "x"}), Error);
+}
+
+TEST(WaylandReach, WaitsForNoCompositorThatHangs) {
+  ScriptedCompositor compositor;
+  compositor.hang();
+  EXPECT_EQ(WaylandConnection::open(), nullptr);
+}
+
+// Clipboard ---------------------------------------------------------------------------------------
+
+class Flavours : public ::testing::TestWithParam<const char*> {};
+INSTANTIATE_TEST_SUITE_P(Protocols, Flavours,
+                         ::testing::Values("zwlr_data_control_manager_v1",
+                                           "ext_data_control_manager_v1"));
+
+TEST_P(Flavours, AreReadAndWrittenByEitherProtocol) {
+  ScriptedCompositor compositor({.dataControl = GetParam()});
+  Agent agent;
+  const auto before = agent.pasteboard.changeCount();
+  compositor.copy({.formats = {{"UTF8_STRING", "Zoë\n"},
+                               {utf8Text, "Zoë\r\n"},
+                               {"text/html", "<b>Zoë</b>"},
+                               {"text/rtf", "{\\rtf1}"}}});
+  EXPECT_EQ(agent.plainText(), "Zoë\n");
+  EXPECT_GT(agent.pasteboard.changeCount(), before);
+  EXPECT_EQ(agent.pasteboard.html(), "<b>Zoë</b>");
+  EXPECT_EQ(agent.pasteboard.rtf(), "{\\rtf1}");
+  EXPECT_FALSE(agent.pasteboard.isConcealed());
+
+  agent.pasteboard.write({.plainText = "『Zoë』", .html = "<p>『Zoë』</p>"});
+  EXPECT_EQ(compositor.pasted(utf8Text), "『Zoë』");
+  EXPECT_EQ(compositor.pasted("text/html"), "<p>『Zoë』</p>");
+  compositor.copy({});  // and the keeper ends
+}
+
+TEST(WaylandPasteboard, ReadsTheFormatsThatProgramsUse) {
+  const struct {
+    std::map<std::string, std::string> formats;
+    std::optional<std::string> plain;
+    std::optional<std::string> html;
+  } rows[] = {
+      {{{utf8Text, "a"}, {"text/plain", "\xE9"}}, "a", std::nullopt},
+      {{{"text/plain", "a"}}, "a", std::nullopt},
+      {{{"STRING", "caf\xE9"}}, "café", std::nullopt},
+      {{{"text/html", std::string("\xFF\xFE<\0b\0>\0", 8)}}, std::nullopt, "<b>"},
+      {{{"text/html", "<meta charset=\"iso-8859-1\">\xE9"}},
+       std::nullopt,
+       "<meta charset=\"iso-8859-1\">é"},
+      {{{utf8Text, std::string("a\0", 2)}, {"text/html", std::string("<b>\0", 4)}}, "a", "<b>"},
+      {{{utf8Text, ""}, {"text/html", std::string(1, '\0')}}, std::nullopt, std::nullopt},
+      {{{"image/png", "x"}}, std::nullopt, std::nullopt},
+      {{}, std::nullopt, std::nullopt},
+  };
+  ScriptedCompositor compositor;
+  Agent agent;
+  for (const auto& row : rows) {
+    compositor.copy({.formats = row.formats});
+    EXPECT_EQ(agent.plainText(), row.plain);
+    EXPECT_EQ(agent.pasteboard.html(), row.html);
+  }
+}
+
+TEST(WaylandPasteboard, DoesNotEvenReadASecret) {
+  for (const auto& [format, text] : {std::pair("x-kde-passwordManagerHint", "secret"),
+                                     std::pair("org.nspasteboard.ConcealedType", "")}) {
+    ScriptedCompositor compositor;
+    Agent agent;
+    compositor.copy({.formats = {{format, text}, {utf8Text, "hunter2"}}});
+    EXPECT_EQ(agent.plainText(), std::nullopt);
+    EXPECT_TRUE(agent.pasteboard.isConcealed());
+    EXPECT_THAT(compositor.asked(), ElementsAre(format));
+  }
+}
+
+TEST(WaylandPasteboard, TakesNothingForAChangeUntilThereIsSomething) {
+  ScriptedCompositor compositor;
+  Agent agent;
+  const auto before = agent.pasteboard.changeCount();
+  int changes = 0;
+  const desktop::Ticket watch = agent.pasteboard.onNextChange([&] { ++changes; });
+  compositor.clear();
+  agent.catchUp();
+  EXPECT_EQ(agent.pasteboard.changeCount(), before);
+  compositor.copy({.formats = {{utf8Text, "a"}}});
+  testing::runUntil(agent.loop, [&] { return changes > 0; });
+  EXPECT_EQ(agent.pasteboard.changeCount(), before + 1);
+}
+
+TEST(WaylandPasteboard, OutlivesEveryOwner) {
+  const std::string piece(100'000, 'x');
+  const struct {
+    Answer answer;
+    std::string text;
+  } rows[] = {{Answer::nothing, ""},
+              {Answer::part, "Half of a sen"},
+              {Answer::thenLeaves, "Half of a sen"},
+              {Answer::endless, piece}};
+  for (const auto& row : rows) {
+    ScriptedCompositor compositor;
+    Agent agent;
+    compositor.copy({.formats = {{utf8Text, row.text}}, .answer = row.answer});
+    EXPECT_EQ(agent.plainText(), std::nullopt) << static_cast<int>(row.answer);
+    compositor.copy({.formats = {{utf8Text, "the next one"}}});
+    EXPECT_EQ(agent.plainText(), "the next one");
+  }
+}
+
+TEST(WaylandPasteboard, ReadsWhatIsCopiedMeanwhileInstead) {
+  ScriptedCompositor compositor;
+  Agent agent;
+  compositor.copy({.formats = {{utf8Text, "old"}}, .answer = Answer::part});
+  agent.catchUp();
+  bool isFetched = false;
+  const desktop::Ticket ticket = agent.pasteboard.fetch([&] { isFetched = true; });
+  compositor.copy({.formats = {{utf8Text, "new"}}});
+  testing::runUntil(agent.loop, [&] { return isFetched; });
+  EXPECT_EQ(agent.pasteboard.plainText(), "new");
+}
+
+TEST(WaylandPasteboard, ThrowsUnlessTheBlockIsReallyOffered) {
+  const desktop::PasteboardContent block{.plainText = "block", .html = "<p>block</p>"};
+  {
+    ScriptedCompositor compositor({.takesSelections = false});
+    EXPECT_THROW(Agent().pasteboard.write(block), Error);
+  }
+  ScriptedCompositor compositor;
+  EXPECT_THROW(Agent("/nowhere/quillseal-clipboard-keeper").pasteboard.write(block), Error);
+  EXPECT_THROW(Agent("/bin/false").pasteboard.write(block), Error);
+  EXPECT_EQ(compositor.pasted(utf8Text), "");
+}
+
+TEST(KeptContent, IsReadOnlyAsItWasWritten) {
+  const desktop::PasteboardContent content{.plainText = "7\nlines", .html = "<p>"};
+  const auto read = KeptContent::read(KeptContent::written(content));
+  ASSERT_TRUE(read);
+  EXPECT_EQ(read->plainText, content.plainText);
+  EXPECT_EQ(read->html, content.html);
+  for (const char* text :
+       {"", "4", "x\n", "4\nabc", "4abcdefg", "-1\nabc", "99999999999999999999\nabc"})
+    EXPECT_EQ(KeptContent::read(text), std::nullopt) << text;
+}
+
+// Keys --------------------------------------------------------------------------------------------
+
+TEST(WaylandKeyEvents, PressesWhatTheApplicationExpects) {
+  const std::vector<std::string> copied = {"29+", "mods 4", "46+", "46-", "29-", "mods 0"};
+  const std::vector<std::string> copiedInTerminal = {"29+", "mods 4", "42+",    "mods 5", "46+",
+                                                     "46-", "42-",    "mods 4", "29-",    "mods 0"};
+  const struct {
+    const char* applicationId;
+    desktop::KeyPress press;
+    std::vector<std::string> keys;
+  } rows[] = {{"editor", copyKeys, copied},
+              {"editor", pasteKeys, {"29+", "mods 4", "47+", "47-", "29-", "mods 0"}},
+              {"editor", selectAllKeys, {"29+", "mods 4", "30+", "30-", "29-", "mods 0"}},
+              {"foot", copyKeys, copiedInTerminal},
+              {"foot", pasteKeys, {}},
+              {"foot", selectAllKeys, {}},
+              {"XTerm", copyKeys, {}}};
+  for (const auto& row : rows) {
+    ScriptedCompositor compositor;
+    Agent agent;
+    compositor.open({.applicationId = row.applicationId, .title = "x"});
+    agent.catchUp();
+    EXPECT_EQ(agent.press(row.press, agent.applications.frontmost()), Delivery::delivered);
+    EXPECT_EQ(compositor.keys(), row.keys) << row.applicationId;
+    EXPECT_EQ(agent.pressesAnnounced, 1);
+  }
+}
+
+TEST(WaylandKeyEvents, PressNothingInAnotherWindowThanTheTarget) {
+  ScriptedCompositor compositor;
+  Agent agent;
+  const std::size_t letter = compositor.open({.applicationId = "editor", .title = "letter"});
+  agent.catchUp();
+  const auto target = agent.applications.frontmost();
+  const std::size_t chat = compositor.open({.applicationId = "editor", .title = "letter"});
+  EXPECT_EQ(agent.press(pasteKeys, target), Delivery::declined);
+  compositor.makeActive(99);  // the screen lock, or a launcher
+  EXPECT_EQ(agent.press(pasteKeys, target), Delivery::declined);
+  EXPECT_EQ(agent.press(pasteKeys, std::nullopt), Delivery::declined);
+  compositor.makeActive(letter);
+  compositor.retitle(letter, "another letter");
+  EXPECT_EQ(agent.press(pasteKeys, target), Delivery::documentChanged);
+  compositor.retitle(letter, "*letter");
+  EXPECT_EQ(agent.press(pasteKeys, target), Delivery::delivered);
+  const std::vector<std::string> pressedOnce = compositor.keys();
+  compositor.close(letter);
+  compositor.makeActive(chat);
+  EXPECT_EQ(agent.press(pasteKeys, target), Delivery::targetClosed);
+  EXPECT_EQ(compositor.keys(), pressedOnce);
+  EXPECT_EQ(agent.pressesAnnounced, 1);
+}
+
+TEST(WaylandKeyEvents, LooksAgainImmediatelyBeforeThePress) {
+  ScriptedCompositor compositor;
+  Agent agent;
+  compositor.open({.applicationId = "editor", .title = "letter"});
+  agent.catchUp();
+  std::optional<Delivery> delivery;
+  const desktop::Ticket ticket = agent.keys.press(pasteKeys, agent.applications.frontmost(), {},
+                                                  [&](Delivery d) { delivery = d; });
+  // Before a turn of the loop: the agent has been told nothing of it.
+  compositor.open({.applicationId = "chat", .title = "chat"});
+  testing::runUntil(agent.loop, [&] { return delivery.has_value(); });
+  EXPECT_EQ(delivery, Delivery::declined);
+  EXPECT_THAT(compositor.keys(), IsEmpty());
+
+  compositor.hang();  // what it would tell is not known
+  bool isAboutToPress = false;
+  const desktop::Ticket second = agent.keys.press(
+      pasteKeys, agent.applications.frontmost(), [&] { isAboutToPress = true; }, [](Delivery) {});
+  const desktop::Ticket end = agent.loop.after(200ms, [&] { agent.loop.stop(); });
+  agent.loop.run();
+  EXPECT_FALSE(isAboutToPress);
+}
+
+TEST(WaylandKeyEvents, CopyWhatIsSelectedInATerminalOfX11) {
+  ScriptedCompositor compositor;
+  Agent agent;
+  const std::size_t terminal = compositor.open({.applicationId = "XTerm", .title = "Notes"});
+  compositor.select({.formats = {{utf8Text, "selected here"}}});
+  agent.catchUp();
+  const auto target = agent.applications.frontmost();
+  const auto before = agent.pasteboard.changeCount();
+  EXPECT_EQ(agent.press(copyKeys, target), Delivery::delivered);
+  EXPECT_EQ(agent.pasteboard.changeCount(), before + 1);
+  EXPECT_EQ(agent.plainText(), "selected here");
+
+  compositor.open({.applicationId = "editor", .title = "letter"});
+  compositor.select({.formats = {{utf8Text, "selected elsewhere"}}});
+  compositor.makeActive(terminal);
+  EXPECT_EQ(agent.press(copyKeys, target), Delivery::delivered);
+  EXPECT_EQ(agent.pasteboard.changeCount(), before + 1);
+  compositor.copy({.formats = {{utf8Text, "copied"}}});
+  EXPECT_EQ(agent.plainText(), "copied");
+}
+
+// Windows -----------------------------------------------------------------------------------------
+
+TEST(WaylandApplications, LooksBehindTheWindowsOfTheAgent) {
+  ScriptedCompositor compositor;
+  Agent agent;
+  compositor.open({.applicationId = "chat", .title = "chat"});
+  compositor.open({.applicationId = "foot", .title = "(3) Notes"});
+  compositor.open({.applicationId = "quillseal", .title = "Enter the PIN"});
+  agent.catchUp();
+  const auto front = agent.applications.frontmost();
+  ASSERT_TRUE(front);
+  EXPECT_EQ(front->name, "Foot");
+  EXPECT_THAT(front->categories, HasSubstr("TerminalEmulator"));
+  EXPECT_FALSE(agent.applications.isActive(*front));
+  agent.applications.activate(*front);
+  testing::runUntil(agent.loop, [&] { return agent.applications.isActive(*front); });
+  compositor.makeActive(99);
+  agent.catchUp();
+  EXPECT_EQ(agent.applications.frontmost(), std::nullopt);
+}
+
+TEST(WaylandWindows, RaisesAnOwnWindowThatIsThereOrComes) {
+  ScriptedCompositor compositor;
+  Agent agent;
+  const auto activeTitle = [&] {
+    agent.catchUp();
+    const auto active = agent.windows.active();
+    return active ? active->title : std::string();
+  };
+  agent.windows.activateOwn("Settings");
+  compositor.open({.applicationId = "stranger", .title = "Settings"});
+  EXPECT_EQ(activeTitle(), "Settings");
+  compositor.open({.applicationId = "quillseal", .title = "Settings"});
+  compositor.open({.applicationId = "editor", .title = "chat"});
+  testing::runUntil(agent.loop, [&] { return activeTitle() == "Settings"; });
+  EXPECT_EQ(agent.windows.active()->applicationId, "quillseal");
+  compositor.open({.applicationId = "editor", .title = "letter"});
+  EXPECT_EQ(activeTitle(), "letter");
+  agent.windows.activateOwn("Settings");
+  testing::runUntil(agent.loop, [&] { return activeTitle() == "Settings"; });
+  EXPECT_EQ(agent.windows.active()->applicationId, "quillseal");
+}
+
+// Layout and hotkey -------------------------------------------------------------------------------
+
+std::string layoutText(const char* layout) {
+  xkb_context* const context = xkb_context_new(XKB_CONTEXT_NO_FLAGS);
+  const xkb_rule_names names{
+      .rules = nullptr, .model = nullptr, .layout = layout, .variant = nullptr, .options = nullptr};
+  xkb_keymap* const keymap =
+      xkb_keymap_new_from_names(context, &names, XKB_KEYMAP_COMPILE_NO_FLAGS);
+  char* const text = xkb_keymap_get_as_string(keymap, XKB_KEYMAP_FORMAT_TEXT_V1);
+  std::string result(text);
+  std::free(text);
+  xkb_keymap_unref(keymap);
+  xkb_context_unref(context);
+  return result;
+}
+
+TEST(WaylandLayout, FindsTheKeyInEachOfTheLayouts) {
+  const struct {
+    std::string layout;
+    std::optional<std::uint32_t> h;
+  } rows[] = {{layoutText("us"), 43U},
+              {layoutText("fr"), 43U},
+              {layoutText("ru,us"), 43U},
+              {layoutText("us(dvorak)"), 44U},
+              {layoutText("ru"), {}},
+              {"no layout", {}},
+              {"", {}}};
+  for (const auto& row : rows) {
+    const ScriptedCompositor compositor({.layout = row.layout});
+    const auto connection = WaylandConnection::open();
+    const WaylandLayout layout(*connection, [] {});
+    EXPECT_TRUE(connection->roundTrip() && connection->roundTrip());
+    EXPECT_EQ(layout.keyFor(XKB_KEY_h), row.h);
+  }
+}
+
+TEST(SwayTree, NamesTheApplicationOfATitle) {
+  const std::string tree = R"({"type": "root", "name": "root", "nodes": [
+      {"type": "output", "name": "letter", "nodes": [{"type": "workspace", "nodes": [
+        {"pid": 1, "name": "letter", "app_id": "writer"},
+        {"pid": 2, "name": "twice", "app_id": "editor"}],
+       "floating_nodes": [
+        {"pid": 3, "name": "twice", "app_id": "chat"},
+        {"pid": 4, "name": null, "app_id": "untitled"},
+        {"pid": 5, "name": "old", "app_id": null, "window_properties": {"class": "XTerm"}}]}]}]})";
+  EXPECT_EQ(applicationIdIn(tree, "letter"), "writer");
+  EXPECT_EQ(applicationIdIn(tree, "old"), "XTerm");
+  EXPECT_EQ(applicationIdIn(tree, "twice"), std::nullopt);
+  EXPECT_EQ(applicationIdIn(tree, "none"), std::nullopt);
+  for (const char* text : {"", "[]", "{\"nodes\": 1}", "{"})
+    EXPECT_EQ(applicationIdIn(text, ""), std::nullopt);
+}
+
+TEST(SwayConfiguration, IsSearchedForTheKeys) {
+  const struct {
+    const char* text;
+    bool binds;
+  } rows[] = {
+      {"", false},
+      {"bindsym Ctrl+Alt+Super+h exec x", true},
+      {"  bindsym --to-code --release Mod4+control+Mod1+H exec x", true},
+      {"set $mod Mod4\nset $moder Shift\nbindsym $mod+Ctrl+Mod1+h nop", true},
+      {"set $moder Mod4\nset $mod Shift\nbindsym $moder+Ctrl+Mod1+h nop", true},
+      {"bindcode Logo+Ctrl+Alt+43 nop", true},
+      {"bindsym {\n  Ctrl+Alt+Super+h nop\n}", true},
+      {"bindsym \\\n  Ctrl+Alt+Super+h nop", true},
+      {"# bindsym Ctrl+Alt+Super+h nop", false},
+      {"bindsym Ctrl+Alt+Super+j nop", false},
+      {"bindsym Ctrl+Alt+h nop", false},
+      {"bindsym Shift+Ctrl+Alt+Super+h nop", false},
+      {"mode \"resize\" {\n  bindsym Ctrl+Alt+Super+h nop\n}", false},
+      {"mode \"resize\" {\n  bindsym x nop\n}\nbindsym Ctrl+Alt+Super+h nop", true},
+      {"bindsym", false},
+      {"}\n}\nbindsym --", false},
+  };
+  for (const auto& row : rows)
+    EXPECT_EQ(bindsAlready(row.text, {.symbol = "h", .code = 43}), row.binds) << row.text;
+}
+
+}  // namespace
+}  // namespace quillseal

@@ -9,15 +9,15 @@
 #include <benchmark/benchmark.h>
 
 #include "IcuReference.h"
-#include "PatternCompiler/RulePatterns.h"
 #include "PatternText.h"
 #include "Quillseal/CompiledRules.h"
 #include "Quillseal/ContentRisk.h"
 #include "Quillseal/ContentRules.h"
-#include "Quillseal/ReadableText.h"
-#include "Quillseal/ScreeningEngine.h"
-#include "Quillseal/UnicodeText.h"
 #include "RandomText.h"
+#include "RulePatterns.h"
+#include "core/reading/ReadableText.h"
+#include "core/screening/match/ScreeningEngine.h"
+#include "core/text/UnicodeText.h"
 
 namespace quillseal {
 namespace {

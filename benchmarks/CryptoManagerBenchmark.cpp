@@ -7,8 +7,8 @@
 #include <benchmark/benchmark.h>
 
 #include "Quillseal/CryptoManager.h"
-#include "Quillseal/Digest.h"
-#include "Quillseal/UnicodeText.h"
+#include "core/text/Digest.h"
+#include "core/text/UnicodeText.h"
 
 namespace quillseal {
 namespace {

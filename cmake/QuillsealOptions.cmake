@@ -23,6 +23,7 @@ endif()
 add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=)
 
 add_library(quillseal_options INTERFACE)
+target_include_directories(quillseal_options INTERFACE ${PROJECT_SOURCE_DIR})
 target_compile_options(quillseal_options INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
 

@@ -3,9 +3,9 @@
 #include <string>
 #include <string_view>
 
-#include "Quillseal/HandoffPage.h"
-#include "Quillseal/SignedBlock.h"
-#include "Quillseal/UnicodeText.h"
+#include "core/signing/HandoffPage.h"
+#include "core/signing/SignedBlock.h"
+#include "core/text/UnicodeText.h"
 
 namespace {
 

@@ -8,9 +8,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "LinuxDesktop/FileKeyStore.h"
-#include "LinuxDesktop/KeyFile.h"
 #include "Quillseal/CryptoManager.h"
+#include "keys/FileKeyStore.h"
+#include "keys/KeyFile.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 #include <cstdlib>
 
 #include "Quillseal/CryptoManager.h"
-#include "Quillseal/UnicodeText.h"
+#include "core/text/UnicodeText.h"
 
 /// The canonical form of a well-formed text is well-formed and holds nothing that it drops.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

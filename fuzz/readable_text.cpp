@@ -2,8 +2,8 @@
 #include <cstdlib>
 #include <string>
 
-#include "Quillseal/ReadableText.h"
-#include "Quillseal/UnicodeText.h"
+#include "core/reading/ReadableText.h"
+#include "core/text/UnicodeText.h"
 
 /// A reading of any bytes reads as itself, and each of its characters leads back to a part of the
 /// text, in the same order.

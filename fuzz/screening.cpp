@@ -3,11 +3,11 @@
 #include <vector>
 
 #include "IcuReference.h"
-#include "PatternCompiler/RulePatterns.h"
 #include "Quillseal/CompiledRules.h"
 #include "Quillseal/ContentRisk.h"
-#include "Quillseal/ScreeningEngine.h"
-#include "Quillseal/UnicodeText.h"
+#include "RulePatterns.h"
+#include "core/screening/match/ScreeningEngine.h"
+#include "core/text/UnicodeText.h"
 
 namespace {
 

@@ -8,8 +8,8 @@
 #include <string>
 #include <string_view>
 
-#include "LinuxDesktop/QtDefaults.h"
-#include "Quillseal/UnicodeText.h"
+#include "core/text/UnicodeText.h"
+#include "session/QtDefaults.h"
 
 namespace {
 

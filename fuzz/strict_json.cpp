@@ -3,7 +3,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "Quillseal/StrictJson.h"
+#include "core/text/StrictJson.h"
 
 namespace {
 

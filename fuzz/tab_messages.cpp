@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "LinuxDesktop/TabMessages.h"
+#include "browsers/TabMessages.h"
 
 namespace {
 

@@ -6,9 +6,9 @@
 
 #include <nlohmann/json.hpp>
 
-#include "Quillseal/HandoffPage.h"
-#include "Quillseal/StrictJson.h"
-#include "Quillseal/WireMessages.h"
+#include "core/signing/HandoffPage.h"
+#include "core/signing/WireMessages.h"
+#include "core/text/StrictJson.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 #include <cstdlib>
 
 #include "Quillseal/CryptoManager.h"
-#include "Quillseal/UnicodeText.h"
+#include "core/text/UnicodeText.h"
 
 /// Word counting, distinctiveness and the refusal agree with each other on any bytes.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

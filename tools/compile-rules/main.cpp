@@ -10,10 +10,10 @@
 #include <string>
 #include <string_view>
 
-#include "PatternCompiler/ReadingCompiler.h"
-#include "PatternCompiler/RulePatterns.h"
-#include "PatternCompiler/TableCompiler.h"
-#include "Quillseal/StoredTables.h"
+#include "RulePatterns.h"
+#include "core/reading/compile/ReadingCompiler.h"
+#include "core/screening/compile/TableCompiler.h"
+#include "core/screening/match/StoredTables.h"
 
 namespace {
 
@@ -53,7 +53,7 @@ void writeArray(std::ostream& out, std::string_view type, std::string_view name,
 }
 
 void writeReadings(std::ostream& out, const quillseal::reading::CompiledTables& tables) {
-  out << "#include \"Quillseal/ReadingTables.h\"\n\n"
+  out << "#include \"core/reading/ReadingTables.h\"\n\n"
          "namespace quillseal::reading {\nnamespace {\n\n";
   writeArray(out, "std::uint16_t", "blocks", tables.blocks);
   writeArray(out, "std::uint16_t", "readings", tables.readings);

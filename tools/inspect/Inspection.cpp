@@ -6,9 +6,9 @@
 
 #include <unicode/uchar.h>
 
-#include "Quillseal/ConfirmationText.h"
 #include "Quillseal/CryptoManager.h"
-#include "Quillseal/UnicodeText.h"
+#include "core/signing/ConfirmationText.h"
+#include "core/text/UnicodeText.h"
 
 namespace quillseal::inspect {
 namespace {

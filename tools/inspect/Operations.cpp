@@ -8,15 +8,15 @@
 #include <optional>
 #include <stdexcept>
 
-#include "Quillseal/BrowserScripts.h"
-#include "Quillseal/ConfirmationText.h"
 #include "Quillseal/ContentRisk.h"
 #include "Quillseal/ContentRules.h"
 #include "Quillseal/CryptoManager.h"
-#include "Quillseal/ReadableText.h"
-#include "Quillseal/SignedBlock.h"
-#include "Quillseal/SigningScope.h"
-#include "Quillseal/UnicodeText.h"
+#include "core/reading/ReadableText.h"
+#include "core/signing/BrowserScripts.h"
+#include "core/signing/ConfirmationText.h"
+#include "core/signing/SignedBlock.h"
+#include "core/signing/SigningScope.h"
+#include "core/text/UnicodeText.h"
 
 namespace quillseal::inspect {
 namespace {

@@ -12,7 +12,7 @@
 
 #include "Inspection.h"
 #include "Operations.h"
-#include "Quillseal/UnicodeText.h"
+#include "core/text/UnicodeText.h"
 
 namespace {
 

@@ -18,7 +18,7 @@
 #include "Disguises.h"
 #include "Quillseal/ContentRisk.h"
 #include "Quillseal/CryptoManager.h"
-#include "Quillseal/UnicodeText.h"
+#include "core/text/UnicodeText.h"
 
 namespace {
 

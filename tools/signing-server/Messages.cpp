@@ -6,8 +6,8 @@
 
 #include "Pages.h"
 #include "Quillseal/CryptoManager.h"
-#include "Quillseal/UnicodeText.h"
 #include "SignatureCheck.h"
+#include "core/text/UnicodeText.h"
 
 namespace quillseal::devserver {
 namespace {

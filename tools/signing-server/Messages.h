@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "Quillseal/StrictJson.h"
+#include "core/text/StrictJson.h"
 
 /// The request bodies, read strictly: each function throws JsonError with a sentence that names the
 /// key which is missing, of the wrong type or of a value that cannot be right. Pure functions.

@@ -12,9 +12,9 @@
 #include <nlohmann/json.hpp>
 
 #include "Assets.h"
-#include "Quillseal/CalendarDate.h"
 #include "Quillseal/CryptoManager.h"
 #include "SignatureCheck.h"
+#include "core/text/CalendarDate.h"
 
 namespace quillseal::devserver {
 namespace {

@@ -14,9 +14,9 @@
 #include "Messages.h"
 #include "Pages.h"
 #include "Quillseal/CryptoManager.h"
-#include "Quillseal/StrictJson.h"
-#include "Quillseal/UnicodeText.h"
 #include "SignatureCheck.h"
+#include "core/text/StrictJson.h"
+#include "core/text/UnicodeText.h"
 
 namespace quillseal::devserver {
 namespace {

@@ -11,8 +11,8 @@
 #include <openssl/evp.h>
 #include <openssl/params.h>
 
-#include "Quillseal/CalendarDate.h"
 #include "Quillseal/CryptoManager.h"
+#include "core/text/CalendarDate.h"
 
 namespace quillseal::devserver {
 namespace {

@@ -17,9 +17,9 @@
 
 #include "HttpServer.h"
 #include "Quillseal/CryptoManager.h"
-#include "Quillseal/UnicodeText.h"
 #include "Registry.h"
 #include "Service.h"
+#include "core/text/UnicodeText.h"
 
 namespace {
 

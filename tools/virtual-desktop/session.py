@@ -86,7 +86,7 @@ class Session:
     def __init__(self, build, size="1280x800", panel=False, x_options=()):
         self.build = pathlib.Path(build).resolve()
         linux_agent = self.build / "client_integrations/linux-agent"
-        self.quillseal = linux_agent / "Sources/LinuxDesktop/quillseal"
+        self.quillseal = linux_agent / "Sources/quillseal"
         self.held_keys = self.build / "tools/virtual-desktop/held-keys"
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="quillseal-session-"))
         self.home = self.folder / "home"

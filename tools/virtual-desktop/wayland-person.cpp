@@ -20,8 +20,8 @@
 #include <unistd.h>
 #include <xkbcommon/xkbcommon.h>
 
-#include "LinuxDesktop/WaylandConnection.h"
 #include "virtual-keyboard-unstable-v1-client-protocol.h"
+#include "wayland/WaylandConnection.h"
 #include "wlr-virtual-pointer-unstable-v1-client-protocol.h"
 
 namespace {

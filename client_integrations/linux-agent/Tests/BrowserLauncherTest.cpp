@@ -9,11 +9,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "LinuxDesktop/BrowserLauncher.h"
-#include "LinuxDesktop/Browsers.h"
-#include "LinuxDesktop/LoadedDesktopEntries.h"
 #include "TemporaryFolder.h"
 #include "VirtualLoop.h"
+#include "applications/LoadedDesktopEntries.h"
+#include "browsers/BrowserLauncher.h"
+#include "browsers/Browsers.h"
 
 namespace quillseal {
 namespace {

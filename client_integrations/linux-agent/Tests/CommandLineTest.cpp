@@ -4,7 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "LinuxDesktop/CommandLine.h"
+#include "session/CommandLine.h"
 
 namespace quillseal {
 namespace {

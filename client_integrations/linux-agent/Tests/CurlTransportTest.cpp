@@ -12,12 +12,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "LinuxDesktop/CurlTransport.h"
-#include "LinuxDesktop/PollLoop.h"
 #include "RunUntil.h"
 #include "ScriptedServer.h"
 #include "TemporaryFolder.h"
 #include "TestCertificate.h"
+#include "network/CurlTransport.h"
+#include "session/PollLoop.h"
 
 namespace quillseal {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "LinuxDesktop/KeyFailure.h"
+#include "keys/KeyFailure.h"
 
 namespace quillseal::testing {
 

@@ -13,10 +13,10 @@
 #include <unistd.h>
 
 #include "FailureOf.h"
-#include "LinuxDesktop/FileKeyStore.h"
-#include "LinuxDesktop/KeyFile.h"
 #include "ServerVerdict.h"
 #include "TemporaryFolder.h"
+#include "keys/FileKeyStore.h"
+#include "keys/KeyFile.h"
 
 namespace quillseal {
 namespace {

@@ -8,8 +8,8 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include "LinuxDesktop/IdleMemory.h"
 #include "Quillseal/ContentRisk.h"
+#include "session/IdleMemory.h"
 
 namespace quillseal {
 namespace {

@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include "LinuxDesktop/JournalLog.h"
+#include "session/JournalLog.h"
 
 namespace quillseal {
 namespace {

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 #include <xkbcommon/xkbcommon-keysyms.h>
 
-#include "LinuxDesktop/KeyChords.h"
+#include "x11/KeyChords.h"
 
 namespace quillseal {
 namespace {

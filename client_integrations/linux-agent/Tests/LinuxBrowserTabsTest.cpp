@@ -17,11 +17,11 @@
 #include <sys/un.h>
 #include <unistd.h>
 
-#include "LinuxDesktop/LinuxBrowserTabs.h"
-#include "LinuxDesktop/TabMessages.h"
-#include "LinuxDesktop/TabSocket.h"
 #include "TemporaryFolder.h"
 #include "VirtualLoop.h"
+#include "browsers/LinuxBrowserTabs.h"
+#include "browsers/TabMessages.h"
+#include "browsers/TabSocket.h"
 
 namespace quillseal {
 namespace {

@@ -11,10 +11,10 @@
 #include <gtest/gtest.h>
 
 #include "FailureOf.h"
-#include "LinuxDesktop/FileKeyStore.h"
-#include "LinuxDesktop/KeyFailure.h"
-#include "LinuxDesktop/LinuxKeyStore.h"
 #include "TemporaryFolder.h"
+#include "keys/FileKeyStore.h"
+#include "keys/KeyFailure.h"
+#include "keys/LinuxKeyStore.h"
 
 namespace quillseal {
 namespace {

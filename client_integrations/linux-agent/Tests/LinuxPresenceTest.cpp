@@ -9,11 +9,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "LinuxDesktop/FingerprintReader.h"
-#include "LinuxDesktop/LinuxPresence.h"
-#include "LinuxDesktop/PollLoop.h"
 #include "RunUntil.h"
 #include "SystemBusFake.h"
+#include "presence/FingerprintReader.h"
+#include "presence/LinuxPresence.h"
+#include "session/PollLoop.h"
 
 namespace quillseal {
 namespace {

@@ -6,9 +6,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "LinuxDesktop/LoadedTransport.h"
-#include "LinuxDesktop/PollLoop.h"
 #include "TemporaryFolder.h"
+#include "network/LoadedTransport.h"
+#include "session/PollLoop.h"
 
 namespace quillseal {
 namespace {

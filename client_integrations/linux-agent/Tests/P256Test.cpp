@@ -6,8 +6,8 @@
 #include <gtest/gtest.h>
 
 #include "EcdsaVectors.h"
-#include "LinuxDesktop/P256.h"
-#include "Quillseal/Digest.h"
+#include "core/text/Digest.h"
+#include "keys/P256.h"
 
 namespace quillseal::p256 {
 namespace {

@@ -6,8 +6,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "LinuxDesktop/PlatformWording.h"
-#include "Quillseal/UnicodeText.h"
+#include "core/text/UnicodeText.h"
+#include "session/PlatformWording.h"
 
 namespace quillseal::PlatformWording {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "LinuxDesktop/PollLoop.h"
+#include "session/PollLoop.h"
 
 namespace quillseal {
 namespace {

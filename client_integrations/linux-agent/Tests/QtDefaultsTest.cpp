@@ -14,9 +14,9 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-#include "LinuxDesktop/QtDefaults.h"
-#include "LinuxDesktop/QtDescriptors.h"
 #include "TemporaryFolder.h"
+#include "session/QtDefaults.h"
+#include "session/QtDescriptors.h"
 
 namespace quillseal {
 namespace {

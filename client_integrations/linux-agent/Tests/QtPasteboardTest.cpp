@@ -8,9 +8,9 @@
 
 #include <gtest/gtest.h>
 
-#include "LinuxDesktop/QtDescriptors.h"
-#include "LinuxDesktop/QtMainLoop.h"
-#include "LinuxDesktop/QtPasteboard.h"
+#include "session/QtDescriptors.h"
+#include "session/QtMainLoop.h"
+#include "x11/QtPasteboard.h"
 
 namespace quillseal {
 namespace {

@@ -18,11 +18,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "LinuxDesktop/OwnWindows.h"
-#include "LinuxDesktop/QtMainLoop.h"
-#include "LinuxDesktop/QtPresencePrompt.h"
-#include "LinuxDesktop/QtSecretPrompt.h"
-#include "LinuxDesktop/TrayStatusItem.h"
+#include "session/QtMainLoop.h"
+#include "windows/OwnWindows.h"
+#include "windows/QtPresencePrompt.h"
+#include "windows/QtSecretPrompt.h"
+#include "windows/TrayStatusItem.h"
 
 namespace quillseal {
 namespace {

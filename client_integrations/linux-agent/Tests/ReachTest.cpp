@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "LinuxDesktop/Reach.h"
+#include "session/Reach.h"
 
 namespace quillseal {
 namespace {

@@ -4,7 +4,7 @@
 #include <functional>
 #include <stdexcept>
 
-#include "LinuxDesktop/PollLoop.h"
+#include "session/PollLoop.h"
 
 namespace quillseal::testing {
 

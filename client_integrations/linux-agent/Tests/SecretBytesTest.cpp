@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 #include <openssl/crypto.h>
 
-#include "LinuxDesktop/SecretBytes.h"
+#include "keys/SecretBytes.h"
 
 namespace quillseal {
 namespace {

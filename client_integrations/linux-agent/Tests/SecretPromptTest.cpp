@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "LinuxDesktop/SecretPrompt.h"
+#include "keys/SecretPrompt.h"
 
 namespace quillseal {
 namespace {

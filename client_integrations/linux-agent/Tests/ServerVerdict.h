@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "LinuxDesktop/P256.h"
 #include "SignatureCheck.h"
+#include "keys/P256.h"
 
 namespace quillseal::testing {
 

@@ -9,7 +9,7 @@
 
 #include <sys/types.h>
 
-#include "LinuxDesktop/SystemBus.h"
+#include "presence/SystemBus.h"
 
 namespace quillseal::testing {
 

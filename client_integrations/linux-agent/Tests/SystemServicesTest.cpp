@@ -6,8 +6,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "LinuxDesktop/SystemMachineIdentity.h"
-#include "LinuxDesktop/SystemWallClock.h"
+#include "session/SystemMachineIdentity.h"
+#include "session/SystemWallClock.h"
 
 namespace quillseal {
 namespace {

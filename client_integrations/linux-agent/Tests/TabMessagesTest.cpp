@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "LinuxDesktop/TabMessages.h"
+#include "browsers/TabMessages.h"
 
 namespace quillseal::TabMessages {
 namespace {

@@ -13,9 +13,9 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "LinuxDesktop/TabMessages.h"
-#include "LinuxDesktop/TabSocket.h"
 #include "TemporaryFolder.h"
+#include "browsers/TabMessages.h"
+#include "browsers/TabSocket.h"
 
 namespace quillseal {
 namespace {

@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "LinuxDesktop/TpmFailure.h"
+#include "keys/TpmFailure.h"
 
 namespace quillseal {
 namespace {

@@ -8,11 +8,11 @@
 #include <gtest/gtest.h>
 
 #include "FailureOf.h"
-#include "LinuxDesktop/KeyFailure.h"
-#include "LinuxDesktop/TpmKeyStore.h"
 #include "ServerVerdict.h"
 #include "SoftwareTpm.h"
 #include "TemporaryFolder.h"
+#include "keys/KeyFailure.h"
+#include "keys/TpmKeyStore.h"
 
 namespace quillseal {
 namespace {

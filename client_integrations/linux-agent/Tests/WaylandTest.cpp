@@ -9,18 +9,18 @@
 #include <xkbcommon/xkbcommon-keysyms.h>
 #include <xkbcommon/xkbcommon.h>
 
-#include "Desktop/Error.h"
-#include "LinuxDesktop/PollLoop.h"
-#include "LinuxDesktop/SwayIpc.h"
-#include "LinuxDesktop/WaylandApplications.h"
-#include "LinuxDesktop/WaylandConnection.h"
-#include "LinuxDesktop/WaylandKeyEvents.h"
-#include "LinuxDesktop/WaylandLayout.h"
-#include "LinuxDesktop/WaylandPasteboard.h"
-#include "LinuxDesktop/WaylandReach.h"
-#include "LinuxDesktop/WaylandWindows.h"
 #include "RunUntil.h"
 #include "ScriptedCompositor.h"
+#include "core/text/Error.h"
+#include "session/PollLoop.h"
+#include "wayland/SwayIpc.h"
+#include "wayland/WaylandApplications.h"
+#include "wayland/WaylandConnection.h"
+#include "wayland/WaylandKeyEvents.h"
+#include "wayland/WaylandLayout.h"
+#include "wayland/WaylandPasteboard.h"
+#include "wayland/WaylandReach.h"
+#include "wayland/WaylandWindows.h"
 
 namespace quillseal {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "LinuxDesktop/WindowDocument.h"
+#include "x11/WindowDocument.h"
 
 namespace quillseal {
 namespace {

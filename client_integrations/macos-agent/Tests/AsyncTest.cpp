@@ -5,8 +5,8 @@
 
 #include <gtest/gtest.h>
 
-#include "Quillseal/Async.h"
 #include "VirtualLoop.h"
+#include "core/tasks/Async.h"
 
 namespace quillseal {
 namespace {

@@ -7,12 +7,12 @@
 #include <gtest/gtest.h>
 
 #include "IcuReference.h"
-#include "PatternCompiler/RulePatterns.h"
 #include "PatternText.h"
 #include "Quillseal/ContentRisk.h"
 #include "Quillseal/ContentRules.h"
-#include "Quillseal/UnicodeText.h"
 #include "RandomText.h"
+#include "RulePatterns.h"
+#include "core/text/UnicodeText.h"
 
 namespace quillseal {
 namespace {

@@ -14,7 +14,7 @@
 #include "Quillseal/ContentRisk.h"
 #include "Quillseal/ContentRules.h"
 #include "Quillseal/CryptoManager.h"
-#include "Quillseal/UnicodeText.h"
+#include "core/text/UnicodeText.h"
 
 namespace quillseal {
 namespace {

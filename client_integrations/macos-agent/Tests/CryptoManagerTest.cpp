@@ -11,8 +11,8 @@
 #include <unicode/unistr.h>
 
 #include "Quillseal/CryptoManager.h"
-#include "Quillseal/UnicodeText.h"
 #include "RandomText.h"
+#include "core/text/UnicodeText.h"
 
 namespace quillseal::CryptoManager {
 namespace {

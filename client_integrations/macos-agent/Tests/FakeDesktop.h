@@ -12,10 +12,10 @@
 #include <string_view>
 #include <vector>
 
-#include "Desktop/Desktop.h"
-#include "Desktop/ScriptRunner.h"
 #include "Quillseal/BrowserTabReturn.h"
 #include "VirtualLoop.h"
+#include "desktop/Desktop.h"
+#include "desktop/ScriptRunner.h"
 
 namespace quillseal::testing {
 

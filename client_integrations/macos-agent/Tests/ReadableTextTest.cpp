@@ -10,12 +10,12 @@
 #include <gtest/gtest.h>
 
 #include "Disguises.h"
-#include "PatternCompiler/RulePatterns.h"
 #include "PatternText.h"
 #include "Quillseal/ContentRisk.h"
-#include "Quillseal/ReadableText.h"
-#include "Quillseal/UnicodeText.h"
 #include "RandomText.h"
+#include "RulePatterns.h"
+#include "core/reading/ReadableText.h"
+#include "core/text/UnicodeText.h"
 
 namespace quillseal {
 namespace {

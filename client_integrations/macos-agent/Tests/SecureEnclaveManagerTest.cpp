@@ -9,9 +9,9 @@
 #include <gtest/gtest.h>
 
 #include "FakeDesktop.h"
-#include "Quillseal/Base64.h"
 #include "Quillseal/SecureEnclaveManager.h"
 #include "TaskResult.h"
+#include "core/text/Base64.h"
 
 namespace quillseal {
 namespace {

@@ -12,12 +12,12 @@
 #include <gtest/gtest.h>
 
 #include "FakeDesktop.h"
-#include "Quillseal/Base64.h"
 #include "Quillseal/CryptoManager.h"
-#include "Quillseal/HandoffPage.h"
 #include "Quillseal/SecureEnclaveManager.h"
-#include "Quillseal/SignedBlock.h"
 #include "Quillseal/SigningCoordinator.h"
+#include "core/signing/HandoffPage.h"
+#include "core/signing/SignedBlock.h"
+#include "core/text/Base64.h"
 
 namespace quillseal {
 namespace {

@@ -3,10 +3,10 @@
 #include <optional>
 #include <utility>
 
-#include "Desktop/Error.h"
-#include "Quillseal/Async.h"
-#include "Quillseal/Task.h"
 #include "VirtualLoop.h"
+#include "core/tasks/Async.h"
+#include "core/tasks/Task.h"
+#include "core/text/Error.h"
 
 namespace quillseal::testing {
 

@@ -9,10 +9,10 @@
 
 #include "PageFixture.h"
 #include "Quillseal/CryptoManager.h"
-#include "Quillseal/SignedBlock.h"
 #include "RandomText.h"
 #include "SignatureCheck.h"
 #include "TestDevice.h"
+#include "core/signing/SignedBlock.h"
 
 /// What a reader is told by the page that a signed block's link leads to.
 namespace quillseal::devserver {

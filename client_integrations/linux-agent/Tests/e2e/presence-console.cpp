@@ -8,8 +8,8 @@
 
 #include <unistd.h>
 
-#include "LinuxDesktop/FingerprintReader.h"
-#include "LinuxDesktop/PolkitAuthority.h"
+#include "presence/FingerprintReader.h"
+#include "presence/PolkitAuthority.h"
 
 namespace {
 

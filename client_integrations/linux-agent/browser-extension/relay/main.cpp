@@ -20,8 +20,8 @@
 #include <sys/inotify.h>
 #include <unistd.h>
 
-#include "LinuxDesktop/TabMessages.h"
-#include "LinuxDesktop/TabSocket.h"
+#include "browsers/TabMessages.h"
+#include "browsers/TabSocket.h"
 
 namespace quillseal {
 namespace {

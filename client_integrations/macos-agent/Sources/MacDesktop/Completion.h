@@ -4,7 +4,7 @@
 #include <memory>
 #include <utility>
 
-#include "Desktop/Ticket.h"
+#include "desktop/Ticket.h"
 
 namespace quillseal::mac {
 

@@ -4,9 +4,9 @@
 #include <memory>
 #include <vector>
 
-#include "Desktop/Alerts.h"
-#include "Desktop/Log.h"
 #include "MacDesktop/MacMainLoop.h"
+#include "desktop/Alerts.h"
+#include "desktop/Log.h"
 
 @class NSAlert;
 @class NSView;

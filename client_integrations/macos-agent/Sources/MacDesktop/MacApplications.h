@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Desktop/Applications.h"
 #include "MacDesktop/MacMainLoop.h"
+#include "desktop/Applications.h"
 
 @class QSFrontApplicationObserver;
 

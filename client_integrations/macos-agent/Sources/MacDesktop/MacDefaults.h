@@ -4,9 +4,9 @@
 #include <utility>
 #include <vector>
 
-#include "Desktop/Defaults.h"
-#include "Desktop/Log.h"
 #include "MacDesktop/MacMainLoop.h"
+#include "desktop/Defaults.h"
+#include "desktop/Log.h"
 
 namespace quillseal::mac {
 

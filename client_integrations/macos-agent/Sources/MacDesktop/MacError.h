@@ -5,7 +5,7 @@
 
 #import <Foundation/Foundation.h>
 
-#include "Desktop/Error.h"
+#include "core/text/Error.h"
 
 namespace quillseal::mac {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Desktop/Files.h"
+#include "desktop/Files.h"
 
 namespace quillseal::mac {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Desktop/Hotkey.h"
 #include "MacDesktop/MacMainLoop.h"
+#include "desktop/Hotkey.h"
 
 namespace quillseal::mac {
 

@@ -3,8 +3,8 @@
 #include <chrono>
 #include <map>
 
-#include "Desktop/HttpTransport.h"
 #include "MacDesktop/MacMainLoop.h"
+#include "desktop/HttpTransport.h"
 
 @class NSURLSession;
 

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "Desktop/KeyEvents.h"
-#include "Desktop/MainLoop.h"
+#include "desktop/KeyEvents.h"
+#include "desktop/MainLoop.h"
 
 namespace quillseal::mac {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Desktop/KeyStore.h"
-#include "Desktop/Log.h"
+#include "desktop/KeyStore.h"
+#include "desktop/Log.h"
 
 namespace quillseal::mac {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Desktop/Log.h"
+#include "desktop/Log.h"
 
 namespace quillseal::mac {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Desktop/MachineIdentity.h"
+#include "desktop/MachineIdentity.h"
 
 namespace quillseal::mac {
 

@@ -3,7 +3,7 @@
 #include <memory>
 #include <utility>
 
-#include "Desktop/MainLoop.h"
+#include "desktop/MainLoop.h"
 
 namespace quillseal::mac {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Desktop/Pasteboard.h"
+#include "desktop/Pasteboard.h"
 
 namespace quillseal::mac {
 

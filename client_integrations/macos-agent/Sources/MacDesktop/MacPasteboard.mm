@@ -2,9 +2,9 @@
 
 #import <AppKit/AppKit.h>
 
-#include "Desktop/Error.h"
 #include "MacDesktop/MacError.h"
 #include "MacDesktop/MacText.h"
+#include "core/text/Error.h"
 
 namespace quillseal::mac {
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Desktop/Presence.h"
 #include "MacDesktop/MacMainLoop.h"
+#include "desktop/Presence.h"
 
 namespace quillseal::mac {
 

@@ -2,8 +2,8 @@
 
 #import <Foundation/Foundation.h>
 
-#include "Desktop/MainLoop.h"
-#include "Desktop/Program.h"
+#include "desktop/MainLoop.h"
+#include "desktop/Program.h"
 
 namespace quillseal::mac {
 

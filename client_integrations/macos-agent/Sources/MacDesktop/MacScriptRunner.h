@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Desktop/ScriptRunner.h"
 #include "MacDesktop/MacMainLoop.h"
+#include "desktop/ScriptRunner.h"
 
 namespace quillseal::mac {
 

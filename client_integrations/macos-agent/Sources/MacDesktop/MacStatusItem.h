@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Desktop/StatusItem.h"
+#include "desktop/StatusItem.h"
 
 @class NSMenu;
 @class NSStatusItem;

@@ -1,6 +1,6 @@
 #import "MacDesktop/MacText.h"
 
-#include "Quillseal/UnicodeText.h"
+#include "core/text/UnicodeText.h"
 
 namespace quillseal::mac {
 

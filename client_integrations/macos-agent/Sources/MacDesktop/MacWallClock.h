@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Desktop/WallClock.h"
+#include "desktop/WallClock.h"
 
 namespace quillseal::mac {
 

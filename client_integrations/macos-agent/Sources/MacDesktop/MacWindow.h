@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Desktop/Window.h"
+#include "desktop/Window.h"
 
 namespace quillseal::mac {
 

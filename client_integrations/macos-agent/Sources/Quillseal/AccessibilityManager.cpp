@@ -6,8 +6,8 @@
 #include <memory>
 #include <utility>
 
-#include "Quillseal/Async.h"
-#include "Quillseal/UnicodeText.h"
+#include "core/tasks/Async.h"
+#include "core/text/UnicodeText.h"
 
 namespace quillseal::AccessibilityManager {
 namespace {

@@ -4,13 +4,13 @@
 #include <optional>
 #include <string>
 
-#include "Desktop/Applications.h"
-#include "Desktop/KeyEvents.h"
-#include "Desktop/Log.h"
-#include "Desktop/MainLoop.h"
-#include "Desktop/Pasteboard.h"
-#include "Quillseal/SigningScope.h"
-#include "Quillseal/Task.h"
+#include "core/signing/SigningScope.h"
+#include "core/tasks/Task.h"
+#include "desktop/Applications.h"
+#include "desktop/KeyEvents.h"
+#include "desktop/Log.h"
+#include "desktop/MainLoop.h"
+#include "desktop/Pasteboard.h"
 
 namespace quillseal {
 

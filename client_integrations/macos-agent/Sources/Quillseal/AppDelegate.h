@@ -2,11 +2,11 @@
 
 #include <memory>
 
-#include "Desktop/Desktop.h"
-#include "Desktop/Ticket.h"
 #include "Quillseal/HotkeyManager.h"
 #include "Quillseal/MenuBarManager.h"
 #include "Quillseal/SigningCoordinator.h"
+#include "desktop/Desktop.h"
+#include "desktop/Ticket.h"
 
 namespace quillseal {
 

@@ -3,8 +3,8 @@
 #include <functional>
 #include <variant>
 
-#include "Desktop/Error.h"
-#include "Quillseal/Async.h"
+#include "core/tasks/Async.h"
+#include "core/text/Error.h"
 
 namespace quillseal::AuthManager {
 namespace {

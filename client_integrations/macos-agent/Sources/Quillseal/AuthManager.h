@@ -2,10 +2,10 @@
 
 #include <string>
 
-#include "Desktop/MainLoop.h"
-#include "Desktop/Presence.h"
-#include "Desktop/Prompt.h"
-#include "Quillseal/Task.h"
+#include "core/tasks/Task.h"
+#include "desktop/MainLoop.h"
+#include "desktop/Presence.h"
+#include "desktop/Prompt.h"
 
 /// Proof that the owner sits at the machine, where the device key does not ask for it itself.
 namespace quillseal::AuthManager {

@@ -3,9 +3,9 @@
 #include <utility>
 #include <variant>
 
-#include "Desktop/Error.h"
-#include "Quillseal/Async.h"
-#include "Quillseal/BrowserScripts.h"
+#include "core/signing/BrowserScripts.h"
+#include "core/tasks/Async.h"
+#include "core/text/Error.h"
 
 namespace quillseal::BrowserTabReturn {
 

@@ -3,10 +3,10 @@
 #include <optional>
 #include <string>
 
-#include "Desktop/BrowserTabs.h"
-#include "Desktop/Log.h"
-#include "Desktop/ScriptRunner.h"
-#include "Quillseal/Task.h"
+#include "core/tasks/Task.h"
+#include "desktop/BrowserTabs.h"
+#include "desktop/Log.h"
+#include "desktop/ScriptRunner.h"
 
 /// Brings the user back from a signing page to the browser tab they came from.
 namespace quillseal::BrowserTabReturn {

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "Quillseal/Async.h"
+#include "core/tasks/Async.h"
 
 namespace quillseal::ClipboardManager {
 namespace {

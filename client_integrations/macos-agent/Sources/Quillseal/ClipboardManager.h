@@ -2,14 +2,14 @@
 
 #include <string>
 
-#include "Desktop/Applications.h"
-#include "Desktop/KeyEvents.h"
-#include "Desktop/Log.h"
-#include "Desktop/MainLoop.h"
-#include "Desktop/Pasteboard.h"
 #include "Quillseal/AccessibilityManager.h"
-#include "Quillseal/SignedBlock.h"
-#include "Quillseal/Task.h"
+#include "core/signing/SignedBlock.h"
+#include "core/tasks/Task.h"
+#include "desktop/Applications.h"
+#include "desktop/KeyEvents.h"
+#include "desktop/Log.h"
+#include "desktop/MainLoop.h"
+#include "desktop/Pasteboard.h"
 
 /// Puts the signed block where the text came from.
 namespace quillseal::ClipboardManager {

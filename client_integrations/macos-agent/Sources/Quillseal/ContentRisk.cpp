@@ -10,9 +10,9 @@
 
 #include "Quillseal/CompiledRules.h"
 #include "Quillseal/ContentRules.h"
-#include "Quillseal/ReadableText.h"
-#include "Quillseal/ScreeningEngine.h"
-#include "Quillseal/UnicodeText.h"
+#include "core/reading/ReadableText.h"
+#include "core/screening/match/ScreeningEngine.h"
+#include "core/text/UnicodeText.h"
 
 namespace quillseal::ContentRisk {
 namespace {

@@ -6,12 +6,12 @@
 #include <cstdlib>
 #include <utility>
 
-#include "Quillseal/CalendarDate.h"
-#include "Quillseal/Digest.h"
-#include "Quillseal/ImageReferences.h"
-#include "Quillseal/NormalForm.h"
-#include "Quillseal/UnicodeText.h"
-#include "Quillseal/Words.h"
+#include "core/signing/ImageReferences.h"
+#include "core/text/CalendarDate.h"
+#include "core/text/Digest.h"
+#include "core/text/NormalForm.h"
+#include "core/text/UnicodeText.h"
+#include "core/text/Words.h"
 
 namespace quillseal::CryptoManager {
 namespace {

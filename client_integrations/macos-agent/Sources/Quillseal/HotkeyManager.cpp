@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "Desktop/Error.h"
+#include "core/text/Error.h"
 
 namespace quillseal {
 

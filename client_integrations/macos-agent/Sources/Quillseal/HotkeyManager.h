@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Desktop/Alerts.h"
-#include "Desktop/Hotkey.h"
-#include "Desktop/Log.h"
 #include "Quillseal/SigningCoordinator.h"
+#include "desktop/Alerts.h"
+#include "desktop/Hotkey.h"
+#include "desktop/Log.h"
 
 namespace quillseal {
 

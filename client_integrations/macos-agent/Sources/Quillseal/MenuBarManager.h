@@ -4,11 +4,11 @@
 #include <memory>
 #include <string>
 
-#include "Desktop/Desktop.h"
-#include "Desktop/Ticket.h"
-#include "Desktop/Window.h"
 #include "Quillseal/SettingsView.h"
 #include "Quillseal/SigningCoordinator.h"
+#include "desktop/Desktop.h"
+#include "desktop/Ticket.h"
+#include "desktop/Window.h"
 
 namespace quillseal {
 

@@ -4,8 +4,8 @@
 #include <array>
 #include <utility>
 
-#include "Quillseal/Async.h"
-#include "Quillseal/Base64.h"
+#include "core/tasks/Async.h"
+#include "core/text/Base64.h"
 
 namespace quillseal {
 namespace {

@@ -7,12 +7,12 @@
 #include <string_view>
 #include <vector>
 
-#include "Desktop/Error.h"
-#include "Desktop/KeyStore.h"
-#include "Desktop/Log.h"
-#include "Desktop/MainLoop.h"
-#include "Desktop/Prompt.h"
-#include "Quillseal/Task.h"
+#include "core/tasks/Task.h"
+#include "core/text/Error.h"
+#include "desktop/KeyStore.h"
+#include "desktop/Log.h"
+#include "desktop/MainLoop.h"
+#include "desktop/Prompt.h"
 
 namespace quillseal {
 

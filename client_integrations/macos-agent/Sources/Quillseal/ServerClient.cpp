@@ -8,12 +8,12 @@
 #include <utility>
 #include <variant>
 
-#include "Desktop/Error.h"
-#include "Quillseal/Async.h"
 #include "Quillseal/BuiltInServer.h"
 #include "Quillseal/CryptoManager.h"
-#include "Quillseal/StrictJson.h"
-#include "Quillseal/UnicodeText.h"
+#include "core/tasks/Async.h"
+#include "core/text/Error.h"
+#include "core/text/StrictJson.h"
+#include "core/text/UnicodeText.h"
 
 namespace quillseal {
 namespace {

@@ -3,12 +3,12 @@
 #include <string>
 #include <string_view>
 
-#include "Desktop/Defaults.h"
-#include "Desktop/HttpTransport.h"
-#include "Desktop/MachineIdentity.h"
-#include "Desktop/WallClock.h"
-#include "Quillseal/Task.h"
-#include "Quillseal/WireMessages.h"
+#include "core/signing/WireMessages.h"
+#include "core/tasks/Task.h"
+#include "desktop/Defaults.h"
+#include "desktop/HttpTransport.h"
+#include "desktop/MachineIdentity.h"
+#include "desktop/WallClock.h"
 
 namespace quillseal {
 

@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "Quillseal/BuiltInServer.h"
-#include "Quillseal/IdentityName.h"
 #include "Quillseal/SecureEnclaveManager.h"
 #include "Quillseal/ServerClient.h"
+#include "core/signing/IdentityName.h"
 
 namespace quillseal {
 namespace {

@@ -2,15 +2,15 @@
 
 #include <string>
 
-#include "Desktop/Defaults.h"
-#include "Desktop/KeyStore.h"
-#include "Desktop/Log.h"
-#include "Desktop/MainLoop.h"
-#include "Desktop/Ticket.h"
-#include "Desktop/Window.h"
-#include "Quillseal/Async.h"
 #include "Quillseal/SigningCoordinator.h"
-#include "Quillseal/Task.h"
+#include "core/tasks/Async.h"
+#include "core/tasks/Task.h"
+#include "desktop/Defaults.h"
+#include "desktop/KeyStore.h"
+#include "desktop/Log.h"
+#include "desktop/MainLoop.h"
+#include "desktop/Ticket.h"
+#include "desktop/Window.h"
 
 namespace quillseal {
 

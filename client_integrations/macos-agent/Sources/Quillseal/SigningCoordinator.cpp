@@ -10,14 +10,14 @@
 #include "Quillseal/AuthManager.h"
 #include "Quillseal/BrowserTabReturn.h"
 #include "Quillseal/BuiltInServer.h"
-#include "Quillseal/ConfirmationText.h"
 #include "Quillseal/ContentRisk.h"
 #include "Quillseal/CryptoManager.h"
-#include "Quillseal/HandoffPage.h"
-#include "Quillseal/IdentityName.h"
-#include "Quillseal/SignedBlock.h"
-#include "Quillseal/SigningScope.h"
-#include "Quillseal/UnicodeText.h"
+#include "core/signing/ConfirmationText.h"
+#include "core/signing/HandoffPage.h"
+#include "core/signing/IdentityName.h"
+#include "core/signing/SignedBlock.h"
+#include "core/signing/SigningScope.h"
+#include "core/text/UnicodeText.h"
 
 namespace quillseal {
 namespace {

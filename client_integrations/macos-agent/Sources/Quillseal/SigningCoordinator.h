@@ -6,14 +6,14 @@
 #include <string>
 #include <string_view>
 
-#include "Desktop/Desktop.h"
 #include "Quillseal/AccessibilityManager.h"
-#include "Quillseal/Async.h"
 #include "Quillseal/ClipboardManager.h"
 #include "Quillseal/ContentRisk.h"
 #include "Quillseal/SecureEnclaveManager.h"
 #include "Quillseal/ServerClient.h"
-#include "Quillseal/Task.h"
+#include "core/tasks/Async.h"
+#include "core/tasks/Task.h"
+#include "desktop/Desktop.h"
 
 namespace quillseal {
 

@@ -1,0 +1,167 @@
+#include "LinuxDesktop.h"
+
+#include <chrono>
+#include <cstdlib>
+#include <string>
+#include <utility>
+
+#include "applications/EntriesModule.h"
+#include "applications/LoadedDesktopEntries.h"
+#include "browsers/LinuxBrowserTabs.h"
+#include "keys/LinuxKeyStore.h"
+#include "network/HttpModule.h"
+#include "network/LoadedTransport.h"
+#include "presence/LinuxPresence.h"
+#include "session/LoadedModule.h"
+#include "session/PlatformWording.h"
+#include "session/QtDefaults.h"
+#include "session/QtDescriptors.h"
+#include "session/QtFiles.h"
+#include "session/QtMainLoop.h"
+#include "session/SystemMachineIdentity.h"
+#include "session/SystemWallClock.h"
+#include "wayland/WaylandSystem.h"
+#include "windows/QtAlerts.h"
+#include "windows/QtPresencePrompt.h"
+#include "windows/QtProgram.h"
+#include "windows/QtSecretPrompt.h"
+#include "windows/QtWindows.h"
+#include "windows/TrayStatusItem.h"
+#include "x11/X11System.h"
+
+namespace quillseal {
+namespace {
+
+std::string environment(const char* name) {
+  const char* value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): before any thread
+  return value == nullptr ? std::string() : std::string(value);
+}
+
+// Absolute, as XDG Base Directory demands.
+std::string keyFolder() {
+  const std::string data = environment("XDG_DATA_HOME");
+  return (data.starts_with('/') ? data : environment("HOME") + "/.local/share") + "/quillseal";
+}
+
+LoadedModule::Options moduleOptions(const char* file, const char* duty) {
+  return {.places = LoadedModule::usualPlaces(file), .version = QUILLSEAL_VERSION, .duty = duty};
+}
+
+std::unique_ptr<WindowingSystem> chosen(std::unique_ptr<WaylandConnection> wayland,
+                                        const WindowingSystem::Services& services) {
+  if (wayland != nullptr) return std::make_unique<WaylandSystem>(std::move(wayland), services);
+  return std::make_unique<X11System>(services);
+}
+
+}  // namespace
+
+// Members are destroyed from the last to the first.
+struct LinuxDesktop::Parts {
+  Parts(const CommandLine& commandLine, desktop::Log& sink,
+        std::unique_ptr<WaylandConnection> wayland)
+      : log(sink),
+        entries(LoadedModule(
+            moduleOptions(EntriesModule::fileName, "knows the installed applications"))),
+        system(chosen(std::move(wayland), {.loop = loop,
+                                           .descriptors = descriptors,
+                                           .entries = entries,
+                                           .explain = [this] { warn(system->limits()); }})),
+        secretPrompt(loop, system->ownWindows()),
+        keyStore(makeKeyStore({.folder = keyFolder(), .tpm = commandLine.tpm}, secretPrompt)),
+        alerts(system->ownWindows(), circumstances()),
+        windows(system->ownWindows(), circumstances()),
+        statusItem(circumstances()),
+        presencePrompt(system->ownWindows()),
+        presence(loop, presencePrompt),
+        defaults({.path = QtDefaults::settingsFile(),
+                  .warn = [this](const std::string& sentence) { warn(sentence); }}),
+        http(loop, descriptors,
+             LoadedModule(moduleOptions(HttpModule::fileName, "talks to the server"))),
+        program(system->ownWindows()),
+        browserTabs({.loop = loop, .descriptors = descriptors, .log = log}) {
+    log.write("[start] " + keyStore->describe());
+    const std::string limits = system->limits();
+    if (limits.empty()) return;
+    // Not a window to close at the start of every session.
+    if (commandLine.command == Command::background)
+      alerts.notify({.title = "Quillseal", .body = limits});
+    else
+      warn(limits);
+  }
+
+  // Workers use the services; some of them wait for an answer that nobody will give any more. From
+  // one that a TPM or a system service keeps waiting nothing can be taken while the program lives.
+  ~Parts() {
+    constexpr std::chrono::seconds patience{5};
+    secretPrompt.close();
+    if (loop.waitForWorkers(patience)) return;
+    log.write("[end] what works beside the program does not come to its end");
+    std::_Exit(0);
+  }
+
+  Parts(const Parts&) = delete;
+  Parts& operator=(const Parts&) = delete;
+
+  [[nodiscard]] PlatformWording::CurrentCircumstances circumstances() {
+    return [this] {
+      auto now = PlatformWording::withKeyIn(keyStore->place());
+      if (defaults.boolean("DemoSigning")) now.proof = PlatformWording::Proof::presence;
+      return now;
+    };
+  }
+
+  void warn(const std::string& sentence) {
+    log.write("[start] " + sentence);
+    warning = alerts.show({.title = "Quillseal", .body = sentence}, [] {});
+  }
+
+  desktop::Log& log;
+  QtMainLoop loop;
+  QtDescriptors descriptors;
+  LoadedDesktopEntries entries;
+  std::unique_ptr<WindowingSystem> system;
+  QtSecretPrompt secretPrompt;
+  std::unique_ptr<LinuxKeyStore> keyStore;
+  QtAlerts alerts;
+  desktop::Ticket warning;
+  QtWindows windows;
+  TrayStatusItem statusItem;
+  QtPresencePrompt presencePrompt;
+  LinuxPresence presence;
+  QtDefaults defaults;
+  LoadedTransport http;
+  QtProgram program;
+  QtFiles files;
+  LinuxBrowserTabs browserTabs;
+  SystemMachineIdentity machine;
+  SystemWallClock wallClock;
+};
+
+LinuxDesktop::LinuxDesktop(const CommandLine& commandLine, desktop::Log& log,
+                           std::unique_ptr<WaylandConnection> wayland)
+    : parts_(std::make_unique<Parts>(commandLine, log, std::move(wayland))) {}
+
+LinuxDesktop::~LinuxDesktop() = default;
+
+desktop::Desktop LinuxDesktop::services() {
+  return {.alerts = parts_->alerts,
+          .applications = parts_->system->applications(),
+          .browserTabs = parts_->browserTabs,
+          .defaults = parts_->defaults,
+          .files = parts_->files,
+          .hotkey = parts_->system->hotkey(),
+          .http = parts_->http,
+          .keys = parts_->system->keys(),
+          .keyStore = *parts_->keyStore,
+          .log = parts_->log,
+          .machine = parts_->machine,
+          .loop = parts_->loop,
+          .pasteboard = parts_->system->pasteboard(),
+          .presence = parts_->presence,
+          .program = parts_->program,
+          .statusItem = parts_->statusItem,
+          .wallClock = parts_->wallClock,
+          .windows = parts_->windows};
+}
+
+}  // namespace quillseal

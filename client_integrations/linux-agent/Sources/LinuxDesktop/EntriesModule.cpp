@@ -1,8 +1,0 @@
-#include "LinuxDesktop/EntriesModule.h"
-
-#include "LinuxDesktop/GioDesktopEntries.h"
-
-extern "C" __attribute__((visibility("default"))) void quillseal_make_desktop_entries(
-    std::unique_ptr<quillseal::DesktopEntries>& made) {
-  made = std::make_unique<quillseal::GioDesktopEntries>();
-}

@@ -1,0 +1,8 @@
+#include "applications/EntriesModule.h"
+
+#include "applications/GioDesktopEntries.h"
+
+extern "C" __attribute__((visibility("default"))) void quillseal_make_desktop_entries(
+    std::unique_ptr<quillseal::DesktopEntries>& made) {
+  made = std::make_unique<quillseal::GioDesktopEntries>();
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <memory>
+
+#include "applications/DesktopEntries.h"
+
+/// The module that holds the desktop entries: GIO and its libraries.
+namespace quillseal::EntriesModule {
+
+inline constexpr const char* fileName = "quillseal-entries.so";
+
+/// Its one function, and the name that it has there.
+using Make = void(std::unique_ptr<DesktopEntries>& made);
+inline constexpr const char* make = "quillseal_make_desktop_entries";
+
+}  // namespace quillseal::EntriesModule

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "applications/DesktopEntries.h"
+#include "browsers/BrowserLauncher.h"
+#include "desktop/Applications.h"
+#include "desktop/MainLoop.h"
+
+namespace quillseal {
+
+/// What holds for applications under X11 and Wayland alike. An instance is a window; a location is
+/// the id of a desktop file, and so is a bundle identifier, but that of a browser is the same under
+/// all the names that it may have.
+class LinuxApplications : public desktop::Applications {
+ public:
+  /// Both outlive this object.
+  LinuxApplications(DesktopEntries& entries, desktop::MainLoop& loop)
+      : entries_(entries), launcher_(entries, loop) {}
+
+  [[nodiscard]] std::optional<desktop::InstalledApplication> applicationAt(
+      const std::string& path) const override;
+  [[nodiscard]] std::optional<desktop::InstalledApplication> defaultApplicationFor(
+      const std::string& url) const override;
+  [[nodiscard]] desktop::Ticket open(const std::string& url,
+                                     const desktop::InstalledApplication& application,
+                                     std::function<void(std::optional<Error>)> done) override;
+  void open(const std::string& url) override;
+
+ protected:
+  struct Window {
+    std::uint64_t instance;
+    WindowTraits traits;
+    std::string document;  ///< made by `documentName`
+  };
+  /// The application that the window belongs to.
+  [[nodiscard]] desktop::RunningApplication applicationOf(const Window& window) const;
+
+ private:
+  DesktopEntries& entries_;
+  BrowserLauncher launcher_;
+};
+
+}  // namespace quillseal

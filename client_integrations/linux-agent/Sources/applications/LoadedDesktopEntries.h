@@ -1,0 +1,27 @@
+#pragma once
+
+#include <memory>
+
+#include "applications/DesktopEntries.h"
+#include "session/LoadedModule.h"
+
+namespace quillseal {
+
+/// The entries of `EntriesModule`, which is loaded with the first question.
+class LoadedDesktopEntries final : public DesktopEntries {
+ public:
+  explicit LoadedDesktopEntries(LoadedModule module);
+
+  [[nodiscard]] std::optional<DesktopEntry> forWindow(const WindowTraits& traits) override;
+  [[nodiscard]] std::optional<DesktopEntry> withId(std::string_view id) override;
+  [[nodiscard]] std::optional<DesktopEntry> defaultFor(const std::string& url) override;
+  [[nodiscard]] bool open(const std::string& url, std::string_view id) override;
+
+ private:
+  [[nodiscard]] DesktopEntries& entries();
+
+  LoadedModule module_;
+  std::unique_ptr<DesktopEntries> entries_;
+};
+
+}  // namespace quillseal

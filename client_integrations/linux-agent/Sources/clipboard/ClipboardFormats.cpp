@@ -1,0 +1,83 @@
+#include "clipboard/ClipboardFormats.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QStringDecoder>
+
+namespace quillseal::ClipboardFormats {
+namespace {
+
+// Set by KDE's and KeePassXC's convention, and by that of macOS for programs that know both.
+constexpr auto passwordHint = "x-kde-passwordManagerHint";
+constexpr auto concealed = "org.nspasteboard.ConcealedType";
+
+constexpr auto latin1 = "STRING";
+
+enum Group { concealedMark, hint, text, markup, richText };
+
+const std::string* find(const Content& content, Group group, std::string& format) {
+  for (const std::string& name : wanted()[group]) {
+    const auto found = content.find(name);
+    if (found == content.end() || found->second.empty()) continue;
+    format = name;
+    return &found->second;
+  }
+  return nullptr;
+}
+
+/// Some programs send the NUL along that ends their strings.
+std::optional<std::string> present(std::string text) {
+  std::erase(text, '\0');
+  if (text.empty()) return std::nullopt;
+  return text;
+}
+
+}  // namespace
+
+const std::vector<std::vector<std::string>>& wanted() {
+  // Of the plain texts the first has line feeds where the second has CR LF, in some programs; the
+  // third is Latin-1 with escapes in one browser.
+  static const std::vector<std::vector<std::string>> groups = {
+      {concealed},
+      {passwordHint},
+      {"UTF8_STRING", plainText, "text/plain", latin1},
+      {html},
+      {"text/rtf", "application/rtf", "text/richtext"}};
+  return groups;
+}
+
+const std::vector<std::string>& ofPlainText() {
+  return wanted()[text];
+}
+
+bool isSecret(const Content& content) {
+  const auto mark = content.find(passwordHint);
+  return content.contains(concealed) || (mark != content.end() && mark->second == "secret");
+}
+
+std::optional<std::string> plainTextOf(const Content& content) {
+  std::string format;
+  const std::string* bytes = find(content, text, format);
+  if (bytes == nullptr) return std::nullopt;
+  const QByteArray raw = QByteArray::fromStdString(*bytes);
+  return present(format == latin1 ? QString::fromLatin1(raw).toStdString() : *bytes);
+}
+
+std::optional<std::string> htmlOf(const Content& content) {
+  std::string format;
+  const std::string* bytes = find(content, markup, format);
+  if (bytes == nullptr) return std::nullopt;
+  // By its first bytes or what it says of itself.
+  const QByteArray raw = QByteArray::fromStdString(*bytes);
+  const QString decoded = QStringDecoder::decoderForHtml(raw)(raw);
+  return present(decoded.toStdString());
+}
+
+std::optional<std::string> rtfOf(const Content& content) {
+  std::string format;
+  const std::string* bytes = find(content, richText, format);
+  if (bytes == nullptr) return std::nullopt;
+  return *bytes;
+}
+
+}  // namespace quillseal::ClipboardFormats

@@ -1,0 +1,105 @@
+#include "clipboard/ClipboardKeeper.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <csignal>
+#include <utility>
+
+#include <fcntl.h>
+#include <poll.h>
+#include <spawn.h>
+#include <sys/mman.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "core/text/Error.h"
+
+namespace quillseal {
+namespace {
+
+constexpr std::chrono::milliseconds patience{5000};
+
+[[noreturn]] void fail(const std::string& reason) {
+  throw Error({.domain = "ClipboardKeeper",
+               .code = 1,
+               .description = "The clipboard could not be written: " + reason});
+}
+
+class Descriptor {
+ public:
+  explicit Descriptor(int number) : number_(number) {}
+  ~Descriptor() {
+    if (number_ >= 0) close(number_);
+  }
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  [[nodiscard]] int get() const { return number_; }
+
+ private:
+  int number_;
+};
+
+class FileActions {
+ public:
+  FileActions() { posix_spawn_file_actions_init(&actions_); }
+  ~FileActions() { posix_spawn_file_actions_destroy(&actions_); }
+  FileActions(const FileActions&) = delete;
+  FileActions& operator=(const FileActions&) = delete;
+  [[nodiscard]] posix_spawn_file_actions_t* get() { return &actions_; }
+
+ private:
+  posix_spawn_file_actions_t actions_{};
+};
+
+void writeAll(int file, std::string_view text) {
+  while (!text.empty()) {
+    const ssize_t written = write(file, text.data(), text.size());
+    if (written <= 0) fail("there is not enough memory. Close some programs and try again.");
+    text.remove_prefix(static_cast<std::size_t>(written));
+  }
+}
+
+pid_t start(const std::filesystem::path& file, int input) {
+  FileActions actions;
+  posix_spawn_file_actions_adddup2(actions.get(), input, STDIN_FILENO);
+  // It outlives the agent, whose output somebody may read to its end.
+  for (const int output : {STDOUT_FILENO, STDERR_FILENO})
+    posix_spawn_file_actions_addopen(actions.get(), output, "/dev/null", O_WRONLY, 0);
+  std::string name = file.filename().string();
+  const std::array<char*, 2> arguments = {name.data(), nullptr};
+  pid_t process = 0;
+  if (posix_spawn(&process, file.c_str(), actions.get(), nullptr, arguments.data(), environ) != 0)
+    fail(file.string() + " could not be started. Install Quillseal again.");
+  return process;
+}
+
+}  // namespace
+
+ClipboardKeeper::ClipboardKeeper(std::vector<std::filesystem::path> places)
+    : places_(std::move(places)) {}
+
+void ClipboardKeeper::keep(const desktop::PasteboardContent& content) const {
+  const auto place = std::ranges::find_if(places_, [](const std::filesystem::path& candidate) {
+    return access(candidate.c_str(), X_OK) == 0;
+  });
+  if (place == places_.end())
+    fail("the program " + std::string(program) + " is missing. Install Quillseal again.");
+  const Descriptor input(memfd_create("quillseal-clipboard", MFD_CLOEXEC));
+  writeAll(input.get(), KeptContent::written(content));
+  lseek(input.get(), 0, SEEK_SET);
+
+  // It leaves this process's care by a fork of its own, once the compositor has taken the offer.
+  const pid_t process = start(*place, input.get());
+  const Descriptor running(static_cast<int>(syscall(SYS_pidfd_open, process, 0)));
+  pollfd ended{.fd = running.get(), .events = POLLIN, .revents = 0};
+  const bool isInTime = poll(&ended, 1, static_cast<int>(patience.count())) == 1;
+  if (!isInTime) kill(process, SIGKILL);
+  int status = 0;
+  waitpid(process, &status, 0);
+  if (!isInTime || status != 0)
+    fail("the desktop did not take it. Try again; if that does not help, log out and in.");
+}
+
+}  // namespace quillseal

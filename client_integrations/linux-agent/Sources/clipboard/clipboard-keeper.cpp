@@ -1,0 +1,153 @@
+// Offers on the clipboard what it reads from its standard input, until somebody else copies. Ends
+// with status 0 once the compositor has taken the offer, which a child goes on to hold.
+
+#include <csignal>
+#include <iterator>
+#include <list>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include "clipboard/ClipboardFormats.h"
+#include "clipboard/ClipboardKeeper.h"
+#include "session/PollLoop.h"
+#include "wayland/WaylandConnection.h"
+#include "wayland/WaylandDataControl.h"
+
+namespace {
+
+namespace wayland = quillseal::wayland;
+using quillseal::Descriptors;
+using quillseal::desktop::PasteboardContent;
+using quillseal::desktop::Ticket;
+
+constexpr std::chrono::seconds patience{5};
+
+std::string everythingFrom(int file) {
+  std::string text;
+  std::vector<char> piece(std::size_t{64} * 1024);
+  for (ssize_t count = 0; (count = read(file, piece.data(), piece.size())) > 0;)
+    text.append(piece.data(), static_cast<std::size_t>(count));
+  return text;
+}
+
+class Offer {
+ public:
+  Offer(quillseal::WaylandConnection& connection, PasteboardContent content)
+      : connection_(connection),
+        content_(std::move(content)),
+        manager_(wayland::bindDataControl(connection)) {}
+
+  /// Whether the compositor has taken it.
+  [[nodiscard]] bool make();
+
+  /// Until somebody else copies, or the compositor ends.
+  void hold() {
+    connection_.onEnd([this] { loop_.stop(); });
+    connection_.serve(loop_, loop_);
+    if (!isReplaced_) loop_.run();
+  }
+
+ private:
+  struct Transfer {
+    int file;
+    std::string_view left;
+    Ticket watch;
+  };
+
+  void send(std::string_view format, int file) {
+    fcntl(file, F_SETFL, fcntl(file, F_GETFL) | O_NONBLOCK);
+    const bool isHtml = format == quillseal::ClipboardFormats::html;
+    Transfer& transfer = transfers_.emplace_back(
+        Transfer{.file = file, .left = isHtml ? content_.html : content_.plainText, .watch = {}});
+    transfer.watch = loop_.watch(file, Descriptors::Interest::writing,
+                                 [this, &transfer](Descriptors::Interest) { goOn(transfer); });
+  }
+
+  void goOn(Transfer& transfer) {
+    const ssize_t written = write(transfer.file, transfer.left.data(), transfer.left.size());
+    if (written > 0) transfer.left.remove_prefix(static_cast<std::size_t>(written));
+    if (written >= 0 && !transfer.left.empty()) return;
+    if (written < 0 && (errno == EAGAIN || errno == EINTR)) return;
+    transfer.watch = {};
+    close(transfer.file);
+    transfers_.remove_if([&](const Transfer& other) { return &other == &transfer; });
+    if (isReplaced_ && transfers_.empty()) loop_.stop();
+  }
+
+  void replaced() {
+    isReplaced_ = true;
+    if (transfers_.empty()) return loop_.stop();
+    end_ = loop_.after(patience, [this] { loop_.stop(); });  // those who read it already
+  }
+
+  static Offer& of(void* data) { return *static_cast<Offer*>(data); }
+  struct Listeners;
+
+  quillseal::WaylandConnection& connection_;
+  PasteboardContent content_;
+  quillseal::PollLoop loop_;
+  wayland::DataControlManager manager_;
+  wayland::DataControlDevice device_;
+  wayland::DataControlSource source_;
+  wayland::DataControlOffer latest_;  ///< of anybody; the compositor refers to it once more
+  bool isOffered_ = false;
+  bool isTaken_ = false;
+  bool isReplaced_ = false;
+  std::list<Transfer> transfers_;
+  Ticket end_;
+};
+
+struct Offer::Listeners {
+  static constexpr zwlr_data_control_source_v1_listener ofSource = {
+      .send = [](void* data, zwlr_data_control_source_v1*, const char* format,
+                 std::int32_t file) { of(data).send(format, file); },
+      .cancelled = [](void* data, zwlr_data_control_source_v1*) { of(data).replaced(); }};
+  static constexpr zwlr_data_control_device_v1_listener ofDevice = {
+      .data_offer = [](void* data, zwlr_data_control_device_v1*,
+                       zwlr_data_control_offer_v1* offer) { of(data).latest_.reset(offer); },
+      .selection =
+          [](void* data, zwlr_data_control_device_v1*, zwlr_data_control_offer_v1* offer) {
+            of(data).isTaken_ = of(data).isTaken_ || (of(data).isOffered_ && offer != nullptr);
+          },
+      .finished = [](void* data, zwlr_data_control_device_v1*) { of(data).replaced(); },
+      .primary_selection = [](void*, zwlr_data_control_device_v1*, zwlr_data_control_offer_v1*) {}};
+};
+
+bool Offer::make() {
+  if (manager_ == nullptr) return false;
+  device_.reset(zwlr_data_control_manager_v1_get_data_device(manager_.get(), connection_.seat()));
+  zwlr_data_control_device_v1_add_listener(device_.get(), &Listeners::ofDevice, this);
+  source_.reset(zwlr_data_control_manager_v1_create_data_source(manager_.get()));
+  zwlr_data_control_source_v1_add_listener(source_.get(), &Listeners::ofSource, this);
+  for (const char* format : {quillseal::ClipboardFormats::plainText, "text/plain", "UTF8_STRING",
+                             quillseal::ClipboardFormats::html})
+    zwlr_data_control_source_v1_offer(source_.get(), format);
+  if (!connection_.roundTrip()) return false;
+  isOffered_ = true;
+  zwlr_data_control_device_v1_set_selection(device_.get(), source_.get());
+  return connection_.roundTrip() && isTaken_ && !isReplaced_;
+}
+
+}  // namespace
+
+int main() {
+  static_cast<void>(std::signal(SIGPIPE, SIG_IGN));  // whoever pastes may go in the middle
+  const std::optional<PasteboardContent> content =
+      quillseal::KeptContent::read(everythingFrom(STDIN_FILENO));
+  if (!content) return 2;
+  const auto connection = quillseal::WaylandConnection::open();
+  if (connection == nullptr) return 1;
+  Offer offer(*connection, *content);
+  if (!offer.make()) return 1;
+  const pid_t child = fork();
+  if (child != 0) _exit(child < 0 ? 1 : 0);
+  // Not ended with the agent, nor by what ends its terminal.
+  setsid();
+  close(STDIN_FILENO);
+  offer.hold();
+}

@@ -1,0 +1,200 @@
+#include "keys/PrivateFile.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <system_error>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "keys/KeyFailure.h"
+
+namespace quillseal {
+
+namespace {
+
+constexpr std::size_t maximumSize = 64UL * 1024;
+
+class Descriptor {
+ public:
+  explicit Descriptor(int number) noexcept : number_(number) {}
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  ~Descriptor() {
+    if (number_ >= 0) ::close(number_);
+  }
+  [[nodiscard]] bool valid() const noexcept { return number_ >= 0; }
+  [[nodiscard]] int get() const noexcept { return number_; }
+
+ private:
+  int number_;
+};
+
+std::string quoted(const std::filesystem::path& path) {
+  return "“" + path.string() + "”";
+}
+
+std::string reasonOf(int error) {
+  return std::generic_category().message(error);
+}
+
+[[noreturn]] void fail(const std::string& action, const std::filesystem::path& path, int error) {
+  throw KeyFailure("could not " + action + " " + quoted(path) + ": " + reasonOf(error) + ".");
+}
+
+void createFolders(const std::filesystem::path& folder) {
+  if (::mkdir(folder.c_str(), 0700) == 0 || errno == EEXIST) return;
+  if (errno == ENOENT && folder.has_parent_path() && folder.parent_path() != folder) {
+    createFolders(folder.parent_path());
+    if (::mkdir(folder.c_str(), 0700) == 0 || errno == EEXIST) return;
+  }
+  fail("create the folder", folder, errno);
+}
+
+// Negative, with errno set, when it does not exist or cannot be opened.
+int openFolder(const std::filesystem::path& folder) {
+  const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+  if (descriptor < 0 && (errno == ENOTDIR || errno == ELOOP))
+    throw KeyFailure(quoted(folder) +
+                     " is no folder or only a link. Move it away, then enrol again in Settings.");
+  return descriptor;
+}
+
+// The folder is opened once and everything inside is named relative to it, so that nobody can swap
+// it between a check and a use.
+void checkFolder(const Descriptor& folder, const std::filesystem::path& path) {
+  struct stat status {};
+  if (::fstat(folder.get(), &status) != 0) fail("examine", path, errno);
+  if (status.st_uid != ::geteuid())
+    throw KeyFailure("the folder " + quoted(path) +
+                     " belongs to another user. Move it away, then enrol again in Settings.");
+  if ((status.st_mode & 077U) != 0 && ::fchmod(folder.get(), 0700) != 0)
+    fail("protect the folder", path, errno);
+}
+
+void writeAll(const Descriptor& file, std::string_view contents,
+              const std::filesystem::path& path) {
+  while (!contents.empty()) {
+    const ssize_t written = ::write(file.get(), contents.data(), contents.size());
+    if (written < 0 && errno == EINTR) continue;
+    if (written < 0) fail("write", path, errno);
+    contents.remove_prefix(static_cast<std::size_t>(written));
+  }
+  if (::fsync(file.get()) != 0) fail("write", path, errno);
+}
+
+std::string readAll(const Descriptor& file, const std::filesystem::path& path) {
+  std::string contents(maximumSize + 1, '\0');
+  std::size_t length = 0;
+  while (length < contents.size()) {
+    const ssize_t got = ::read(file.get(), contents.data() + length, contents.size() - length);
+    if (got < 0 && errno == EINTR) continue;
+    if (got < 0) fail("read", path, errno);
+    if (got == 0) break;
+    length += static_cast<std::size_t>(got);
+  }
+  if (length > maximumSize)
+    throw KeyFailure("the file " + quoted(path) +
+                     " is far too large for a key. Move it away, then enrol again in Settings.");
+  contents.resize(length);
+  return contents;
+}
+
+}  // namespace
+
+std::filesystem::path userDataFolder() {
+  // Read before any thread could change the environment; nothing here does.
+  const char* data = std::getenv("XDG_DATA_HOME");  // NOLINT(concurrency-mt-unsafe)
+  if (data != nullptr && *data == '/') return std::filesystem::path(data) / "quillseal";
+  const char* home = std::getenv("HOME");  // NOLINT(concurrency-mt-unsafe)
+  const std::filesystem::path base = home != nullptr && *home == '/' ? home : "/";
+  return base / ".local/share/quillseal";
+}
+
+PrivateFile::PrivateFile(std::filesystem::path path) : path_(std::move(path)) {}
+
+bool PrivateFile::exists() const noexcept {
+  struct stat status {};
+  return ::lstat(path_.c_str(), &status) == 0 || (errno != ENOENT && errno != ENOTDIR);
+}
+
+std::optional<std::string> PrivateFile::read() const {
+  const std::filesystem::path folderPath = path_.parent_path();
+  const Descriptor folder(openFolder(folderPath));
+  if (!folder.valid()) {
+    if (errno == ENOENT) return std::nullopt;
+    fail("open the folder", folderPath, errno);
+  }
+  checkFolder(folder, folderPath);
+
+  const std::string name = path_.filename().string();
+  // Without O_NONBLOCK a named pipe in the file's place would hang the caller.
+  const Descriptor file(
+      ::openat(folder.get(), name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+  if (!file.valid()) {
+    if (errno == ENOENT) return std::nullopt;
+    if (errno == ELOOP)
+      throw KeyFailure(
+          "the file " + quoted(path_) +
+          " is only a link to another one. Remove the link, then enrol again in Settings.");
+    fail("open", path_, errno);
+  }
+  struct stat status {};
+  if (::fstat(file.get(), &status) != 0) fail("examine", path_, errno);
+  if (!S_ISREG(status.st_mode))
+    throw KeyFailure(quoted(path_) + " is not a file. Move it away, then enrol again in Settings.");
+  if (status.st_uid != ::geteuid())
+    throw KeyFailure("the file " + quoted(path_) +
+                     " belongs to another user. Move it away, then enrol again in Settings.");
+  if ((status.st_mode & 077U) != 0)
+    throw KeyFailure(
+        "the file " + quoted(path_) +
+        " was opened to other users. If they may have copied it, enrol again in Settings; "
+        "otherwise run: chmod 600 '" +
+        path_.string() + "'");
+  return readAll(file, path_);
+}
+
+void PrivateFile::requireWritable() const {
+  const std::filesystem::path folderPath = path_.parent_path();
+  createFolders(folderPath);
+  const Descriptor folder(openFolder(folderPath));
+  if (!folder.valid()) fail("open the folder", folderPath, errno);
+  checkFolder(folder, folderPath);
+  if (::faccessat(folder.get(), ".", W_OK | X_OK, 0) != 0) fail("write in", folderPath, errno);
+}
+
+void PrivateFile::replace(std::string_view contents) const {
+  const std::filesystem::path folderPath = path_.parent_path();
+  createFolders(folderPath);
+  const Descriptor folder(openFolder(folderPath));
+  if (!folder.valid()) fail("open the folder", folderPath, errno);
+  checkFolder(folder, folderPath);
+
+  const std::string name = path_.filename().string();
+  const std::string fresh = "." + name + ".new";
+  // What an interrupted run left; O_EXCL then makes sure that the file written is a new one.
+  ::unlinkat(folder.get(), fresh.c_str(), 0);
+  try {
+    {
+      const Descriptor file(::openat(folder.get(), fresh.c_str(),
+                                     O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
+      if (!file.valid()) fail("create", folderPath / fresh, errno);
+      writeAll(file, contents, path_);
+    }
+    if (::renameat(folder.get(), fresh.c_str(), folder.get(), name.c_str()) != 0)
+      fail("replace", path_, errno);
+  } catch (...) {
+    ::unlinkat(folder.get(), fresh.c_str(), 0);
+    throw;
+  }
+  if (::fsync(folder.get()) != 0) fail("write the folder", folderPath, errno);
+}
+
+void PrivateFile::remove() const noexcept {
+  ::unlink(path_.c_str());
+}
+
+}  // namespace quillseal

@@ -1,0 +1,189 @@
+// The agent for Linux desktops: chooses and joins its parts, and runs the event loop.
+
+#include <QApplication>
+#include <QDir>
+#include <QIcon>
+#include <QLibraryInfo>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include <xcb/xcb.h>
+
+#include "LinuxDesktop.h"
+#include "Quillseal/AppDelegate.h"
+#include "keys/SecretBytes.h"
+#include "session/CommandLine.h"
+#include "session/IdleMemory.h"
+#include "session/JournalLog.h"
+#include "session/Reach.h"
+#include "session/SessionBus.h"
+#include "session/SingleInstance.h"
+#include "session/TerminationSignals.h"
+#include "wayland/WaylandConnection.h"
+#include "wayland/WaylandReach.h"
+#include "x11/XcbHandles.h"
+
+namespace {
+
+using quillseal::Command;
+using quillseal::CommandLine;
+
+constexpr int failed = 1;
+constexpr int wrongArguments = 2;
+
+std::string environment(const char* name) {
+  const char* value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): before any thread
+  return value == nullptr ? std::string() : std::string(value);
+}
+
+QIcon productIcon() {
+  QIcon icon;
+  for (const int size : {22, 24, 32, 48, 128})
+    icon.addFile(QStringLiteral(":/icons/quillseal-%1.png").arg(size), {size, size});
+  return icon;
+}
+
+void report(std::string_view sentence) {
+  static_cast<void>(std::fprintf(stderr, "quillseal: %.*s\n", static_cast<int>(sentence.size()),
+                                 sentence.data()));
+}
+
+bool hasWaylandPlugin() {
+  const QDir plugins(QLibraryInfo::path(QLibraryInfo::PluginsPath) + QLatin1String("/platforms"));
+  return !plugins.entryList({QStringLiteral("libqwayland-*")}).isEmpty();
+}
+
+/// Null where there is none. Without the name of one, the library would look for that of another
+/// session.
+std::unique_ptr<quillseal::WaylandConnection> compositorThatReachesApplications() {
+  if (environment("WAYLAND_DISPLAY").empty()) return nullptr;
+  auto connection = quillseal::WaylandConnection::open();
+  const bool isUsable = connection != nullptr && quillseal::reachesApplications(*connection);
+  return isUsable ? std::move(connection) : nullptr;
+}
+
+void obey(Command command, quillseal::AppDelegate& agent) {
+  switch (command) {
+    case Command::sign:
+      agent.menuBarManager().signText();
+      break;
+    case Command::settings:
+      agent.menuBarManager().configureServer();
+      break;
+    case Command::quit:
+      agent.menuBarManager().quitApp();
+      break;
+    default:
+      break;
+  }
+}
+
+int visit(Command command) {
+  if (command == Command::background) return 0;
+  if (quillseal::SingleInstance::handOver(command)) return 0;
+  report("the agent that runs in this session does not answer. End it and start again.");
+  return failed;
+}
+
+int runAgent(const CommandLine& commandLine, quillseal::SingleInstance& instance,
+             std::unique_ptr<quillseal::WaylandConnection> wayland) {
+  const bool quiet = commandLine.command == Command::background;
+  quillseal::JournalLog log(quiet ? quillseal::JournalLog::Echo::none
+                                  : quillseal::JournalLog::Echo::standardError);
+  if (!quillseal::lockMemoryOfSecrets())
+    log.write("[start] memory cannot be locked: a PIN or passphrase may reach the swap area");
+  quillseal::LinuxDesktop desktop(commandLine, log, std::move(wayland));
+  quillseal::AppDelegate agent(desktop.services());
+  agent.applicationDidFinishLaunching();
+  instance.onCommand([&](Command command) { obey(command, agent); });
+  const quillseal::TerminationSignals signals([] { QApplication::quit(); });
+  obey(commandLine.command, agent);
+  log.write("[start] ready");
+  const int status = QApplication::exec();
+  instance.onCommand({});
+  return status;
+}
+
+int run(int argc, char** argv, const CommandLine& commandLine) {
+  std::unique_ptr<quillseal::WaylandConnection> wayland = compositorThatReachesApplications();
+  // Qt ends the program where it finds no display. Xwayland is started by whoever connects to it,
+  // so that nobody does who needs it not. This connection stays until Qt has its own: an X server
+  // without another client may start anew, and refuse Qt, when its last one leaves.
+  quillseal::x11::Connection xServer;
+  if (wayland == nullptr || !hasWaylandPlugin()) xServer.reset(xcb_connect(nullptr, nullptr));
+  const quillseal::PlatformChoice choice =
+      quillseal::platformFor({.hasXServer = xServer && xcb_connection_has_error(xServer.get()) == 0,
+                              .reachesApplicationsByWayland = wayland != nullptr,
+                              .hasWayland = !environment("WAYLAND_DISPLAY").empty(),
+                              .hasWaylandPlugin = hasWaylandPlugin(),
+                              .wantedPlatform = environment("QT_QPA_PLATFORM")});
+  if (choice.platform.empty()) {
+    report(choice.obstacle);
+    return failed;
+  }
+  qputenv("QT_QPA_PLATFORM", QByteArray::fromStdString(choice.platform));
+  // The library of the TPM would write of every wrong PIN and, on request, all that it sends.
+  qputenv("TSS2_LOG", "all+none");
+
+  constexpr std::chrono::seconds patience{5};
+  if (!quillseal::sessionBusAnswers(patience)) qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+  // It has nothing to say to the agent, and Qt would wait for its first word without end.
+  QApplication::setAttribute(Qt::AA_DisableSessionManager);
+
+  QApplication application(argc, argv);
+  xServer.reset();
+  QApplication::setApplicationName(QStringLiteral("quillseal"));
+  QApplication::setDesktopFileName(QStringLiteral("quillseal"));
+  QApplication::setWindowIcon(productIcon());
+
+  quillseal::SingleInstance instance;
+  switch (instance.claim()) {
+    case quillseal::SingleInstance::Role::visitor:
+      return visit(commandLine.command);
+    case quillseal::SingleInstance::Role::alone:
+      report(
+          "there is no session bus that answers: notifications and commands from other starts do "
+          "not work.");
+      break;
+    case quillseal::SingleInstance::Role::agent:
+      break;
+  }
+  if (commandLine.command == Command::quit) return 0;
+  if (!quillseal::accessibilityAnswers(patience)) qputenv("AT_SPI_BUS_ADDRESS", "disabled:");
+  return runAgent(commandLine, instance, std::move(wayland));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  quillseal::shieldProcess();
+  quillseal::returnLargeBlocks();
+  const std::vector<std::string_view> arguments(argv + 1, argv + argc);
+  const CommandLine commandLine = quillseal::parseCommandLine(arguments);
+  switch (commandLine.command) {
+    case Command::help:
+      static_cast<void>(std::fputs(std::string(quillseal::helpText()).c_str(), stdout));
+      return 0;
+    case Command::version:
+      std::puts("quillseal " QUILLSEAL_VERSION);
+      return 0;
+    case Command::wrong:
+      report(commandLine.problem + "; see quillseal --help");
+      return wrongArguments;
+    default:
+      break;
+  }
+  try {
+    return run(argc, argv, commandLine);
+  } catch (const std::exception& failure) {
+    report(failure.what());
+    return failed;
+  }
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include <curl/curl.h>
+
+#include "desktop/HttpTransport.h"
+#include "desktop/MainLoop.h"
+#include "session/Descriptors.h"
+
+namespace quillseal {
+
+/// HTTP by libcurl, driven by the main loop: no call blocks, names are looked up on libcurl's own
+/// threads. No redirect is followed, since every request is a POST that carries a key. An answer of
+/// more than 8 MiB is refused.
+class CurlTransport final : public desktop::HttpTransport {
+ public:
+  struct Options {
+    /// A file of certificates (PEM) to trust instead of the system's; empty for the system's.
+    std::string certificateAuthorities;
+  };
+
+  /// `loop` and `descriptors` outlive the transport.
+  CurlTransport(desktop::MainLoop& loop, Descriptors& descriptors, Options options);
+  ~CurlTransport() override;
+
+  [[nodiscard]] desktop::Ticket send(
+      const desktop::HttpPost& post,
+      std::function<void(Outcome<desktop::HttpResponse>)> done) override;
+
+  [[nodiscard]] Error error(desktop::transport::ErrorCode code) const override;
+
+  /// What a failure of libcurl means to the user. `systemError` is the `errno` that went with it,
+  /// or 0.
+  [[nodiscard]] static desktop::transport::ErrorCode errorCodeOf(CURLcode failure,
+                                                                 long systemError) noexcept;
+
+ private:
+  class Engine;
+
+  [[nodiscard]] Engine& engine();
+
+  desktop::MainLoop& loop_;
+  Descriptors& descriptors_;
+  Options options_;
+  std::shared_ptr<Engine> engine_;
+};
+
+}  // namespace quillseal

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <memory>
+
+#include "desktop/HttpTransport.h"
+#include "desktop/MainLoop.h"
+#include "session/Descriptors.h"
+
+/// The module that holds the transport: libcurl brings some thirty libraries.
+namespace quillseal::HttpModule {
+
+inline constexpr const char* fileName = "quillseal-http.so";
+
+/// Its one function, and the name that it has there.
+using Make = void(desktop::MainLoop&, Descriptors&, std::unique_ptr<desktop::HttpTransport>& made);
+inline constexpr const char* make = "quillseal_make_http_transport";
+
+}  // namespace quillseal::HttpModule

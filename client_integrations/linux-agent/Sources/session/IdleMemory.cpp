@@ -1,0 +1,47 @@
+#include "session/IdleMemory.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+#include <link.h>
+#include <malloc.h>
+#include <sys/mman.h>
+#include <unistd.h>
+
+namespace quillseal {
+
+namespace {
+
+// Code stays: a debugger's breakpoints are in it. Data that is written to, and what the loader
+// wrote to before it made it read-only, is in segments of another kind.
+int giveBackConstants(dl_phdr_info* object, std::size_t /*size*/, void* /*unused*/) {
+  const auto pageSize = static_cast<std::uintptr_t>(::sysconf(_SC_PAGESIZE));
+  const std::span<const ElfW(Phdr)> segments(object->dlpi_phdr, object->dlpi_phnum);
+  for (const auto& segment : segments) {
+    if (segment.p_type != PT_LOAD || segment.p_flags != PF_R) continue;
+    const std::uintptr_t begin = object->dlpi_addr + segment.p_vaddr;
+    const std::uintptr_t firstPage = begin / pageSize * pageSize;
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): that is how the loader tells addresses.
+    ::madvise(reinterpret_cast<void*>(firstPage), begin + segment.p_memsz - firstPage,
+              MADV_DONTNEED);
+  }
+  return 0;
+}
+
+}  // namespace
+
+bool returnLargeBlocks() noexcept {
+  // By default the C library raises the limit once it has seen a large block freed, and keeps those
+  // that come later, for each thread by itself.
+  constexpr int largeBlock = 1 << 20;
+  // NOLINTNEXTLINE(concurrency-mt-unsafe): before any thread
+  return ::mallopt(M_MMAP_THRESHOLD, largeBlock) == 1;
+}
+
+void giveBackUnusedMemory() noexcept {
+  ::malloc_trim(0);
+  ::dl_iterate_phdr(giveBackConstants, nullptr);
+}
+
+}  // namespace quillseal

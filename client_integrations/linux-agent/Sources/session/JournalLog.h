@@ -1,0 +1,21 @@
+#pragma once
+
+#include "desktop/Log.h"
+
+namespace quillseal {
+
+/// Writes to the journal, or to syslog where no journal runs. The echo leaves out what nobody
+/// takes.
+class JournalLog : public desktop::Log {
+ public:
+  enum class Echo { none, standardError };
+
+  explicit JournalLog(Echo echo) : echo_(echo) {}
+
+  void write(std::string_view line) override;
+
+ private:
+  Echo echo_;
+};
+
+}  // namespace quillseal

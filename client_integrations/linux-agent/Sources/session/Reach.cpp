@@ -1,0 +1,45 @@
+#include "session/Reach.h"
+
+namespace quillseal {
+
+std::string limitsOf(const SessionTraits& session) {
+  if (!session.hasXServer)
+    return "This Wayland desktop lets no program read what is selected in another or press keys "
+           "there, so that Quillseal cannot sign selected text here. Its settings work. Signing "
+           "works on sway and other desktops built on wlroots, and in an X11 session.";
+  if (!session.canPressKeys)
+    return "This X server lacks the XTEST extension, by which Quillseal copies the selection and "
+           "pastes the signed text. Its settings work; signing does not. Start the X server with "
+           "XTEST enabled.";
+  if (session.isWayland)
+    return "This Wayland desktop lets Quillseal reach only applications that run through Xwayland, "
+           "and the hotkey works only while one of them is in front. Bind the command “quillseal "
+           "--sign” to a shortcut in the keyboard settings of your desktop instead. Every "
+           "application is reached on sway and other desktops built on wlroots, and in an X11 "
+           "session.";
+  return {};
+}
+
+PlatformChoice platformFor(const DisplayTraits& display) {
+  const std::string& wanted = display.wantedPlatform;
+  if (!wanted.empty() && !wanted.starts_with("wayland") && !wanted.starts_with("xcb"))
+    return {.platform = wanted, .obstacle = {}};
+  if (display.reachesApplicationsByWayland && display.hasWaylandPlugin)
+    return {.platform = "wayland", .obstacle = {}};
+  if (display.hasXServer) return {.platform = "xcb", .obstacle = {}};
+  if (!display.hasWayland)
+    return {.platform = {},
+            .obstacle = "There is no display. Start Quillseal within a desktop session."};
+  if (display.hasWaylandPlugin) return {.platform = "wayland", .obstacle = {}};
+  if (display.reachesApplicationsByWayland)
+    return {.platform = {},
+            .obstacle =
+                "Quillseal needs the package qt6-wayland to show its windows here. Install "
+                "it and start Quillseal again."};
+  return {.platform = {},
+          .obstacle =
+              "This Wayland desktop lets no program reach another, so that Quillseal cannot "
+              "sign here. For its settings alone, install the package qt6-wayland."};
+}
+
+}  // namespace quillseal

@@ -1,0 +1,127 @@
+#include "session/SessionBus.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdint>
+#include <initializer_list>
+#include <memory>
+
+#include <systemd/sd-bus.h>
+
+namespace quillseal {
+namespace {
+
+using std::chrono::microseconds;
+
+// As many as it lets stand there wait at the door of a bus that hangs.
+constexpr int isCrowded = -EAGAIN;
+
+struct Close {
+  void operator()(sd_bus* bus) const { ::sd_bus_close_unref(bus); }
+};
+using Bus = std::unique_ptr<sd_bus, Close>;
+
+struct Unref {
+  void operator()(sd_bus_message* message) const { ::sd_bus_message_unref(message); }
+};
+using Message = std::unique_ptr<sd_bus_message, Unref>;
+
+struct Method {
+  const char* service;
+  const char* path;
+  const char* interface;
+  const char* name;
+};
+
+struct Answer {
+  Message message;  ///< null for an error, and when there is none in time
+  bool isInTime = true;
+};
+
+bool letsIn(sd_bus& bus, microseconds patience) {
+  using Clock = std::chrono::steady_clock;
+  const Clock::time_point deadline = Clock::now() + patience;
+  while (::sd_bus_is_ready(&bus) == 0) {
+    const int handled = ::sd_bus_process(&bus, nullptr);
+    if (handled < 0) return true;
+    if (handled > 0) continue;
+    const auto left = std::chrono::ceil<microseconds>(deadline - Clock::now());
+    if (left <= microseconds{0}) return false;
+    ::sd_bus_wait(&bus, static_cast<std::uint64_t>(left.count()));
+  }
+  return true;
+}
+
+/// Starts no service. The arguments are texts.
+Answer ask(sd_bus& bus, const Method& method, microseconds patience,
+           std::initializer_list<const char*> arguments = {}) {
+  sd_bus_message* made = nullptr;
+  if (::sd_bus_message_new_method_call(&bus, &made, method.service, method.path, method.interface,
+                                       method.name) < 0)
+    return {};
+  const Message question(made);
+  for (const char* text : arguments)
+    ::sd_bus_message_append_basic(made, SD_BUS_TYPE_STRING, text);
+  ::sd_bus_message_set_auto_start(made, 0);
+  sd_bus_message* reply = nullptr;
+  const int result =
+      ::sd_bus_call(&bus, made, static_cast<std::uint64_t>(patience.count()), nullptr, &reply);
+  return {.message = Message(reply), .isInTime = result != -ETIMEDOUT};
+}
+
+/// The bus of its own on which screen readers are, and their registry there.
+bool answersOnItsBus(const char* address, microseconds patience) {
+  sd_bus* made = nullptr;
+  if (::sd_bus_new(&made) < 0) return true;
+  const Bus bus(made);
+  ::sd_bus_set_address(made, address);
+  ::sd_bus_set_bus_client(made, 1);
+  if (const int result = ::sd_bus_start(made); result < 0) return result != isCrowded;
+  const Method ping{.service = "org.a11y.atspi.Registry",
+                    .path = "/org/a11y/atspi/registry",
+                    .interface = "org.freedesktop.DBus.Peer",
+                    .name = "Ping"};
+  return letsIn(*bus, patience) && ask(*bus, ping, patience).isInTime;
+}
+
+bool answersOnSessionBus(sd_bus& bus, microseconds patience) {
+  Method method{.service = "org.a11y.Bus",
+                .path = "/org/a11y/bus",
+                .interface = "org.freedesktop.DBus.Properties",
+                .name = "Get"};
+  int isEnabled = 0;
+  for (const char* property : {"ScreenReaderEnabled", "IsEnabled"}) {
+    const Answer answer = ask(bus, method, patience, {"org.a11y.Status", property});
+    int isTrue = 0;
+    if (!answer.isInTime) return false;
+    if (answer.message) ::sd_bus_message_read(answer.message.get(), "v", "b", &isTrue);
+    isEnabled = std::max(isEnabled, isTrue);
+  }
+  // Their bus is started by the question for it.
+  if (isEnabled == 0) return true;
+  method.interface = "org.a11y.Bus";
+  method.name = "GetAddress";
+  const Answer answer = ask(bus, method, patience);
+  const char* address = nullptr;
+  if (!answer.message || ::sd_bus_message_read(answer.message.get(), "s", &address) <= 0)
+    return answer.isInTime;
+  return answersOnItsBus(address, patience);
+}
+
+}  // namespace
+
+bool sessionBusAnswers(std::chrono::milliseconds patience) {
+  sd_bus* opened = nullptr;
+  const int result = ::sd_bus_open_user(&opened);
+  const Bus bus(opened);
+  return result < 0 ? result != isCrowded : letsIn(*bus, patience);
+}
+
+bool accessibilityAnswers(std::chrono::milliseconds patience) {
+  sd_bus* opened = nullptr;
+  if (::sd_bus_open_user(&opened) < 0) return true;
+  const Bus bus(opened);
+  return answersOnSessionBus(*bus, patience);
+}
+
+}  // namespace quillseal

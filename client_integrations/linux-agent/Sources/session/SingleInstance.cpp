@@ -1,0 +1,77 @@
+#include "session/SingleInstance.h"
+
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
+#include <QString>
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace quillseal {
+namespace {
+
+constexpr auto busName = "com.quillseal.Agent";
+constexpr auto objectPath = "/com/quillseal/Agent";
+constexpr int answerMilliseconds = 5000;
+constexpr std::array wireCommands = {Command::sign, Command::settings, Command::quit};
+
+QString wire(Command command) {
+  const std::string_view name = wireName(command);
+  return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+}  // namespace
+
+// A virtual object needs no generated code for three methods without arguments.
+class SingleInstance::Receiver : public QDBusVirtualObject {
+ public:
+  std::function<void(Command)> handler;
+
+  [[nodiscard]] QString introspect(const QString& /*path*/) const override {
+    QString methods;
+    for (const Command command : wireCommands)
+      methods += QStringLiteral("<method name=\"%1\"/>").arg(wire(command));
+    return QStringLiteral("<interface name=\"%1\">%2</interface>")
+        .arg(QLatin1String(busName), methods);
+  }
+
+  bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override {
+    if (message.interface() != QLatin1String(busName)) return false;
+    const auto* const command =
+        std::find_if(wireCommands.begin(), wireCommands.end(),
+                     [&](Command known) { return message.member() == wire(known); });
+    if (command == wireCommands.end()) return false;
+    connection.send(message.createReply());
+    if (handler) handler(*command);
+    return true;
+  }
+};
+
+SingleInstance::SingleInstance() : receiver_(std::make_unique<Receiver>()) {}
+
+SingleInstance::~SingleInstance() {
+  QDBusConnection::sessionBus().unregisterObject(QLatin1String(objectPath));
+}
+
+SingleInstance::Role SingleInstance::claim() {
+  QDBusConnection bus = QDBusConnection::sessionBus();
+  if (!bus.isConnected()) return Role::alone;
+  // The object comes first: whoever finds the name must find it too.
+  bus.registerVirtualObject(QLatin1String(objectPath), receiver_.get());
+  return bus.registerService(QLatin1String(busName)) ? Role::agent : Role::visitor;
+}
+
+void SingleInstance::onCommand(std::function<void(Command)> handler) {
+  receiver_->handler = std::move(handler);
+}
+
+bool SingleInstance::handOver(Command command) {
+  const QDBusMessage call = QDBusMessage::createMethodCall(
+      QLatin1String(busName), QLatin1String(objectPath), QLatin1String(busName), wire(command));
+  return QDBusConnection::sessionBus().call(call, QDBus::Block, answerMilliseconds).type() ==
+         QDBusMessage::ReplyMessage;
+}
+
+}  // namespace quillseal

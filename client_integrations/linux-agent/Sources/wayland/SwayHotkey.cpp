@@ -1,0 +1,169 @@
+#include "wayland/SwayHotkey.h"
+
+#include <exception>
+#include <utility>
+#include <vector>
+
+#include <linux/input-event-codes.h>
+#include <nlohmann/json.hpp>
+#include <unistd.h>
+#include <xkbcommon/xkbcommon-keysyms.h>
+
+#include "core/text/Error.h"
+#include "x11/KeyChords.h"
+
+namespace quillseal {
+namespace {
+
+using nlohmann::json;
+
+// XKB's numbers of keys are higher by 8 than those of evdev.
+constexpr std::uint32_t usualKey = KEY_H + 8;
+
+/// What sway tells of. Another agent has other words, so that one press starts one run.
+std::string commandFor(std::string_view event) {
+  return "nop quillseal " + std::to_string(getpid()) + " " + std::string(event);
+}
+constexpr std::string_view pressEvent = "pressed";
+constexpr std::string_view releaseEvent = "released";
+
+// Of bindings to the same keys, sway obeys the one with fewer of these: any of the person's own
+// wins.
+constexpr std::string_view options = "--no-warn --locked --inhibited ";
+
+/// Sway repeats a binding while the keys are held; the release is not told when another key was
+/// pressed meanwhile. Desktops let people choose delays up to this.
+constexpr std::chrono::milliseconds longestRepeatDelay{1000};
+
+std::string textOf(const json& object, const char* key) {
+  const auto found = object.find(key);
+  return found != object.end() && found->is_string() ? found->get<std::string>() : std::string();
+}
+
+std::string_view nameInSway(Keysym modifier) {
+  switch (modifier) {
+    case XKB_KEY_Control_L:
+      return "Control+";
+    case XKB_KEY_Alt_L:
+      return "Mod1+";
+    default:
+      return "Mod4+";
+  }
+}
+
+[[noreturn]] void fail(int code, const std::string& description) {
+  throw Error({.domain = "SwayHotkey", .code = code, .description = description});
+}
+
+std::string otherWays(std::string_view place) {
+  return "bind the command “quillseal --sign” to a shortcut in " + std::string(place) +
+         ". The menu item works in any case.";
+}
+
+}  // namespace
+
+SwayHotkey::SwayHotkey(Services services)
+    : services_(std::move(services)),
+      commands_(SwayIpc::open(services_.socket)),
+      events_(SwayIpc::open(services_.socket)),
+      key_(usualKey) {}
+
+SwayHotkey::~SwayHotkey() {
+  watch_ = {};
+  if (!isBound_) return;
+  try {
+    unbind();
+  } catch (const std::exception&) {
+    // The binding stays, and does nothing.
+  }
+}
+
+void SwayHotkey::registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) {
+  if (commands_ == nullptr || events_ == nullptr)
+    fail(1, "This desktop gives programs no hotkey. To sign by keyboard, " +
+                otherWays("the settings of your desktop"));
+  chord_ = combination;
+  pressed_ = std::move(pressed);
+  layout_ = std::make_unique<WaylandLayout>(services_.connection, [this] {
+    following_ = services_.loop.after({}, [this] { followLayout(); });
+  });
+  // The seat first, then its keyboard.
+  if (services_.connection.roundTrip() && services_.connection.roundTrip())
+    key_ = layout_->keyFor(XKB_KEY_h).value_or(usualKey);
+  const auto configuration = commands_->ask(SwayIpc::Request::getConfig, "");
+  const json parsed = json::parse(configuration.value_or(""), nullptr, false);
+  if (parsed.is_object() && bindsAlready(textOf(parsed, "config"), {.symbol = "h", .code = key_}))
+    fail(2, "Sway’s configuration already uses " + nameOf(chord_) +
+                ". Free it there and start Quillseal again, or " +
+                otherWays("the configuration too"));
+  if (!events_->ask(SwayIpc::Request::subscribe, R"(["binding","workspace"])") || !bind())
+    fail(3, "Sway does not bind " + nameOf(chord_) + " for Quillseal. To sign by keyboard, " +
+                otherWays("its configuration"));
+  watch_ = services_.descriptors.watch(events_->descriptor(), Descriptors::Interest::reading,
+                                       [this](Descriptors::Interest) { receive(); });
+}
+
+bool SwayHotkey::command(const std::string& text) {
+  const auto answer = commands_->ask(SwayIpc::Request::runCommand, text);
+  const json parsed = json::parse(answer.value_or(""), nullptr, false);
+  return parsed.is_array() && parsed.size() == 1 && parsed[0].is_object() &&
+         parsed[0].value("success", json()) == true;
+}
+
+std::string SwayHotkey::combination() const {
+  std::string text;
+  std::vector<Keysym> chord = chordOf(chord_);
+  chord.pop_back();
+  for (const Keysym modifier : chord)
+    text += nameInSway(modifier);
+  return text + std::to_string(key_);
+}
+
+bool SwayHotkey::bind() {
+  const std::string press = "bindcode " + std::string(options) + combination() + " ";
+  const std::string release = "bindcode --release " + std::string(options) + combination() + " ";
+  isBound_ = command(press + commandFor(pressEvent)) && command(release + commandFor(releaseEvent));
+  return isBound_;
+}
+
+void SwayHotkey::unbind() {
+  for (const char* kind : {"unbindcode ", "unbindcode --release "})
+    static_cast<void>(command(kind + std::string(options) + combination()));
+}
+
+void SwayHotkey::followLayout() {
+  const std::uint32_t now = layout_->keyFor(XKB_KEY_h).value_or(usualKey);
+  if (now == key_) return;
+  if (isBound_) unbind();
+  key_ = now;
+  static_cast<void>(bind());
+}
+
+void SwayHotkey::receive() {
+  const auto messages = events_->receive();
+  if (!messages) watch_ = {};
+  for (const SwayIpc::Message& message : messages.value_or(std::vector<SwayIpc::Message>()))
+    handle(message);
+}
+
+void SwayHotkey::handle(const SwayIpc::Message& message) {
+  const json event = json::parse(message.text, nullptr, false);
+  if (!event.is_object()) return;
+  // A configuration that is read anew takes all bindings away.
+  if (textOf(event, "change") == "reload") static_cast<void>(bind());
+  const auto binding = event.find("binding");
+  if (binding == event.end() || !binding->is_object()) return;
+  const std::string told = textOf(*binding, "command");
+  if (told == commandFor(pressEvent)) pressedKey();
+  if (told == commandFor(releaseEvent)) isDown_ = false;
+}
+
+void SwayHotkey::pressedKey() {
+  const auto now = services_.loop.now();
+  const bool isRepeated = isDown_ && now - lastPress_ < longestRepeatDelay;
+  isDown_ = true;
+  lastPress_ = now;
+  if (!isRepeated) services_.loop.post(pressed_);
+}
+
+}  // namespace quillseal

@@ -1,0 +1,62 @@
+#include "wayland/WaylandApplications.h"
+
+#include <chrono>
+#include <utility>
+
+#include "x11/WindowDocument.h"
+
+namespace quillseal {
+namespace {
+
+using desktop::RunningApplication;
+
+/// A browser that has to start brings its window to the front by itself, later.
+constexpr std::chrono::milliseconds takesAddress{300};
+
+}  // namespace
+
+WindowTraits traitsOf(const WaylandWindow& window) {
+  // Of these three the compositor knows one, which is often equal to another.
+  return {.windowClass = window.applicationId,
+          .gtkApplicationId = window.applicationId,
+          .executable = window.applicationId};
+}
+
+std::optional<RunningApplication> WaylandApplications::frontmost() const {
+  std::optional<WaylandWindow> window = services_.windows.frontForeign();
+  if (!window) return std::nullopt;
+  if (sway_ != nullptr) {
+    const std::string tree = sway_->ask(SwayIpc::Request::getTree, "").value_or("");
+    window->applicationId = applicationIdIn(tree, window->title).value_or(window->applicationId);
+  }
+  return applicationOf({.instance = window->id,
+                        .traits = traitsOf(*window),
+                        .document = documentName({.title = window->title, .focus = 0})});
+}
+
+bool WaylandApplications::isActive(const RunningApplication& application) const {
+  const std::optional<WaylandWindow> window = services_.windows.withId(application.instance);
+  return window && window->isActive;
+}
+
+void WaylandApplications::activate(const RunningApplication& application) {
+  services_.windows.activate(application.instance);
+}
+
+desktop::Ticket WaylandApplications::open(const std::string& url,
+                                          const desktop::InstalledApplication& application,
+                                          std::function<void(std::optional<Error>)> done) {
+  bringing_ = services_.loop.after(
+      takesAddress, [this, location = application.location] { bringToFront(location); });
+  return LinuxApplications::open(url, application, std::move(done));
+}
+
+void WaylandApplications::bringToFront(const std::string& location) {
+  const auto window = services_.windows.lastActiveOf([&](const WaylandWindow& candidate) {
+    const auto entry = services_.entries.forWindow(traitsOf(candidate));
+    return entry && entry->id == location;
+  });
+  if (window && !window->isActive) services_.windows.activate(window->id);
+}
+
+}  // namespace quillseal

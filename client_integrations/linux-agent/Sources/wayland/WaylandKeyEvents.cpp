@@ -1,0 +1,134 @@
+#include "wayland/WaylandKeyEvents.h"
+
+#include <chrono>
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include "wayland/WaylandApplications.h"
+#include "wayland/WaylandReach.h"
+#include "x11/KeyChords.h"
+#include "x11/WindowDocument.h"
+
+namespace quillseal {
+namespace {
+
+using desktop::Delivery;
+using std::chrono::milliseconds;
+
+constexpr milliseconds polling{8};
+// Windows take their time to come to the front, and pages to show their title again.
+constexpr milliseconds targetPatience{1000};
+// For programs under Xwayland, whose clipboard is the X server's; the others learn of a new one
+// before they get the next key.
+constexpr milliseconds clipboardPropagation{40};
+
+}  // namespace
+
+/// One press, which waits in turns of the main loop: clipboard and hotkey are served meanwhile. It
+/// lives until its ticket is dropped.
+class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
+ public:
+  struct Wish {
+    desktop::KeyPress press;
+    std::optional<desktop::RunningApplication> target;
+    std::function<void()> aboutToPress;
+    std::function<void(Delivery)> done;
+  };
+
+  Press(const Services& services, WaylandKeyboard& keyboard, Wish wish)
+      : services_(services),
+        keyboard_(keyboard),
+        wish_(std::move(wish)),
+        earliest_(services.pasteboard.lastWrite() + clipboardPropagation),
+        latest_(std::max(services.loop.now(), earliest_) + targetPatience) {}
+
+  void begin() {
+    const auto now = services_.loop.now();
+    const auto delay =
+        now < earliest_ ? std::chrono::ceil<milliseconds>(earliest_ - now) : milliseconds{0};
+    comeBackAfter(delay);
+  }
+
+  void withdraw() {
+    wish_.done = nullptr;
+    waiting_ = {};
+  }
+
+ private:
+  void comeBackAfter(milliseconds delay) {
+    // What is decided on is what the compositor has told last.
+    waiting_ = services_.loop.after(
+        delay, [this] { waiting_ = services_.connection.catchUp([this] { step(); }); });
+  }
+
+  void step() {
+    const Delivery delivery = deliveryNow();
+    const bool mayBecomeTarget =
+        delivery != Delivery::delivered && delivery != Delivery::targetClosed && wish_.target;
+    if (mayBecomeTarget && services_.loop.now() < latest_) return comeBackAfter(polling);
+    if (delivery == Delivery::delivered) press();
+    finish(delivery);
+  }
+
+  /// Whom a key would reach that is pressed now.
+  [[nodiscard]] Delivery deliveryNow() const {
+    if (!wish_.target || !services_.connection.isAlive()) return Delivery::declined;
+    const std::optional<WaylandWindow> window = services_.windows.withId(wish_.target->instance);
+    if (!window) return Delivery::targetClosed;
+    if (!window->isActive) return Delivery::declined;
+    const std::string document = documentName({.title = window->title, .focus = 0});
+    return isSameDocument(wish_.target->document, document) ? Delivery::delivered
+                                                            : Delivery::documentChanged;
+  }
+
+  void press() {
+    const auto window = services_.windows.withId(wish_.target->instance);
+    if (!window) return;
+    const auto entry = services_.entries.forWindow(traitsOf(*window));
+    const std::vector<Keysym> chord =
+        chordFor(wish_.press, entry ? entry->categories : std::string(), window->applicationId);
+    if (wish_.aboutToPress) wish_.aboutToPress();
+    if (!chord.empty())
+      keyboard_.tap(chord);
+    else if (wish_.press.key == desktop::Key::c && copiesBySelecting(window->applicationId))
+      services_.pasteboard.takePrimarySelectionOf(window->id);
+  }
+
+  void finish(Delivery delivery) {
+    const auto self = shared_from_this();  // the completion may drop the ticket
+    if (const auto done = std::exchange(wish_.done, nullptr)) done(delivery);
+  }
+
+  const Services& services_;
+  WaylandKeyboard& keyboard_;
+  Wish wish_;
+  desktop::MainLoop::TimePoint earliest_;
+  desktop::MainLoop::TimePoint latest_;
+  desktop::Ticket waiting_;
+};
+
+WaylandKeyEvents::WaylandKeyEvents(Services services)
+    : services_(std::move(services)), keyboard_(services_.connection) {}
+
+bool WaylandKeyEvents::isTrusted() const {
+  return reachesApplications(services_.connection);
+}
+
+desktop::Ticket WaylandKeyEvents::press(desktop::KeyPress press,
+                                        const std::optional<desktop::RunningApplication>& target,
+                                        std::function<void()> aboutToPress,
+                                        std::function<void(Delivery)> done) {
+  // Without the entries nobody can tell which keys to press. A failure reaches the caller from
+  // here, but not from a turn of the loop.
+  static_cast<void>(services_.entries.withId({}));
+  const auto pressing = std::make_shared<Press>(services_, keyboard_,
+                                                Press::Wish{.press = press,
+                                                            .target = target,
+                                                            .aboutToPress = std::move(aboutToPress),
+                                                            .done = std::move(done)});
+  pressing->begin();
+  return desktop::Ticket([pressing] { pressing->withdraw(); });
+}
+
+}  // namespace quillseal

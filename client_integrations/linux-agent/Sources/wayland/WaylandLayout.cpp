@@ -1,0 +1,97 @@
+#include "wayland/WaylandLayout.h"
+
+#include <cstring>
+#include <string>
+#include <utility>
+
+#include <sys/mman.h>
+#include <unistd.h>
+#include <xkbcommon/xkbcommon.h>
+
+#include "wayland/WaylandHandles.h"
+#include "wayland/WaylandKeyboard.h"
+
+namespace quillseal {
+namespace {
+
+using Context = wayland::Handle<xkb_context, xkb_context_unref>;
+using Keymap = wayland::Handle<xkb_keymap, xkb_keymap_unref>;
+
+std::string textOf(int file, std::uint32_t size) {
+  void* const memory = mmap(nullptr, size, PROT_READ, MAP_PRIVATE, file, 0);
+  if (memory == MAP_FAILED) return {};
+  const auto* const text = static_cast<const char*>(memory);
+  std::string result(text, ::strnlen(text, size));
+  munmap(memory, size);
+  return result;
+}
+
+}  // namespace
+
+struct WaylandLayout::State {
+  std::function<void()> changed;
+  wayland::Handle<wl_seat, wl_seat_destroy> seat{};
+  wayland::Handle<wl_keyboard, wl_keyboard_destroy> keyboard{};
+  std::string text{};
+
+  void take(std::string layout) {
+    // Whoever pressed the last key has the say: the agent's own keyboard is no one's layout.
+    if (layout.empty() || layout == text || WaylandKeyboard::isOwnLayout(layout)) return;
+    text = std::move(layout);
+    changed();
+  }
+
+  static void able(void* data, wl_seat* seat, std::uint32_t capabilities) {
+    auto& state = *static_cast<State*>(data);
+    if ((capabilities & WL_SEAT_CAPABILITY_KEYBOARD) == 0 || state.keyboard != nullptr) return;
+    state.keyboard.reset(wl_seat_get_keyboard(seat));
+    wl_keyboard_add_listener(state.keyboard.get(), &ofKeyboard, &state);
+  }
+  static constexpr wl_seat_listener ofSeat = {.capabilities = able,
+                                              .name = [](void*, wl_seat*, const char*) {}};
+
+  static void mapped(void* data, wl_keyboard* /*keyboard*/, std::uint32_t format, std::int32_t file,
+                     std::uint32_t size) {
+    std::string layout =
+        format == WL_KEYBOARD_KEYMAP_FORMAT_XKB_V1 ? textOf(file, size) : std::string();
+    close(file);
+    static_cast<State*>(data)->take(std::move(layout));
+  }
+  // The keyboard is never with this connection, which has no window.
+  static constexpr wl_keyboard_listener ofKeyboard = {
+      .keymap = mapped,
+      .enter = [](void*, wl_keyboard*, std::uint32_t, wl_surface*, wl_array*) {},
+      .leave = [](void*, wl_keyboard*, std::uint32_t, wl_surface*) {},
+      .key = [](void*, wl_keyboard*, std::uint32_t, std::uint32_t, std::uint32_t, std::uint32_t) {},
+      .modifiers = [](void*, wl_keyboard*, std::uint32_t, std::uint32_t, std::uint32_t,
+                      std::uint32_t, std::uint32_t) {},
+      .repeat_info = [](void*, wl_keyboard*, std::int32_t, std::int32_t) {}};
+};
+
+WaylandLayout::WaylandLayout(WaylandConnection& connection, std::function<void()> changed)
+    : state_(new State{.changed = std::move(changed)}) {
+  constexpr std::uint32_t withRepeatInfo = 4;
+  state_->seat.reset(connection.bind<wl_seat>(wl_seat_interface, withRepeatInfo));
+  if (state_->seat != nullptr)
+    wl_seat_add_listener(state_->seat.get(), &State::ofSeat, state_.get());
+}
+
+WaylandLayout::~WaylandLayout() = default;
+
+std::optional<std::uint32_t> WaylandLayout::keyFor(Keysym symbol) const {
+  const Context context(xkb_context_new(XKB_CONTEXT_NO_FLAGS));
+  const Keymap keymap(xkb_keymap_new_from_string(
+      context.get(), state_->text.c_str(), XKB_KEYMAP_FORMAT_TEXT_V1, XKB_KEYMAP_COMPILE_NO_FLAGS));
+  if (keymap == nullptr) return std::nullopt;
+  for (xkb_layout_index_t layout = 0; layout < xkb_keymap_num_layouts(keymap.get()); ++layout) {
+    for (xkb_keycode_t key = xkb_keymap_min_keycode(keymap.get());
+         key <= xkb_keymap_max_keycode(keymap.get()); ++key) {
+      const xkb_keysym_t* symbols = nullptr;
+      const int count = xkb_keymap_key_get_syms_by_level(keymap.get(), key, layout, 0, &symbols);
+      if (count == 1 && *symbols == symbol) return key;
+    }
+  }
+  return std::nullopt;
+}
+
+}  // namespace quillseal

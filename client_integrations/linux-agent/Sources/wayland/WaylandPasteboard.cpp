@@ -1,0 +1,278 @@
+#include "wayland/WaylandPasteboard.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <utility>
+#include <vector>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include "wayland/WaylandDataControl.h"
+
+namespace quillseal {
+namespace {
+
+using std::chrono::milliseconds;
+
+constexpr std::size_t mostFormats = 1000;
+
+/// What a program offers.
+struct Offer {
+  wayland::DataControlOffer offer;
+  std::vector<std::string> formats;
+};
+
+}  // namespace
+
+struct WaylandPasteboard::State {
+  Services services;
+  ClipboardKeeper keeper;
+  Patience patience;
+  wayland::DataControlManager manager{};
+  wayland::DataControlDevice device{};
+  std::shared_ptr<Offer> latest{};  ///< not yet said of what
+  std::shared_ptr<Offer> clipboard{};
+  std::shared_ptr<Offer> primary{};
+  std::uint64_t primaryWindow = 0;  ///< that was active when the primary selection was made
+  bool isPrimaryTaken = false;
+  std::int64_t changeCount = 0;
+  std::map<std::uint64_t, std::function<void()>> watches{};
+  std::uint64_t lastWatch = 0;
+  desktop::Ticket telling{};
+  ClipboardFormats::Content fetched{};
+  std::chrono::steady_clock::time_point lastWrite{};
+
+  [[nodiscard]] const std::shared_ptr<Offer>& current() const {
+    return isPrimaryTaken ? primary : clipboard;
+  }
+
+  void change() {
+    ++changeCount;
+    fetched.clear();
+    telling = services.loop.after({}, [this] {
+      // One of them may drop others, or wait anew.
+      for (auto& [id, unused] : std::map(watches))
+        if (const auto watch = watches.extract(id); !watch.empty()) watch.mapped()();
+    });
+  }
+
+  std::shared_ptr<Offer> taken(zwlr_data_control_offer_v1* offer) {
+    const bool isLatest = offer != nullptr && latest != nullptr && latest->offer.get() == offer;
+    return isLatest ? std::exchange(latest, nullptr) : nullptr;
+  }
+
+  static State& of(void* data) { return *static_cast<State*>(data); }
+
+  static void named(void* data, zwlr_data_control_offer_v1* /*offer*/, const char* format) {
+    auto& formats = static_cast<Offer*>(data)->formats;
+    if (formats.size() < mostFormats) formats.emplace_back(format);
+  }
+  static constexpr zwlr_data_control_offer_v1_listener ofOffer = {.offer = named};
+
+  static void offered(void* data, zwlr_data_control_device_v1* /*device*/,
+                      zwlr_data_control_offer_v1* offer) {
+    of(data).latest = std::make_shared<Offer>();
+    of(data).latest->offer.reset(offer);
+    zwlr_data_control_offer_v1_add_listener(offer, &ofOffer, of(data).latest.get());
+  }
+  static void copied(void* data, zwlr_data_control_device_v1* /*device*/,
+                     zwlr_data_control_offer_v1* offer) {
+    State& state = of(data);
+    state.clipboard = state.taken(offer);
+    state.isPrimaryTaken = false;
+    if (state.clipboard != nullptr) state.change();
+  }
+  static void selected(void* data, zwlr_data_control_device_v1* /*device*/,
+                       zwlr_data_control_offer_v1* offer) {
+    State& state = of(data);
+    state.primary = state.taken(offer);
+    const auto window = state.services.windows.active();
+    state.primaryWindow = window ? window->id : 0;
+  }
+  static void finished(void* data, zwlr_data_control_device_v1* /*device*/) {
+    of(data).clipboard = nullptr;
+    of(data).primary = nullptr;
+  }
+  static constexpr zwlr_data_control_device_v1_listener ofDevice = {.data_offer = offered,
+                                                                    .selection = copied,
+                                                                    .finished = finished,
+                                                                    .primary_selection = selected};
+};
+
+/// One fetch. It lives until its ticket is dropped.
+class WaylandPasteboard::Reading : public std::enable_shared_from_this<Reading> {
+ public:
+  Reading(State& state, std::function<void()> done)
+      : state_(state), done_(std::move(done)), end_(loop().now() + state.patience.transfer) {}
+
+  void begin() {
+    offer_ = state_.current();
+    content_.clear();
+    chosen_.clear();
+    if (offer_ == nullptr) return finishLater();
+    for (const std::vector<std::string>& group : ClipboardFormats::wanted()) {
+      const auto found = std::ranges::find_if(group, [this](const std::string& format) {
+        return std::ranges::find(offer_->formats, format) != offer_->formats.end();
+      });
+      if (found != group.end()) chosen_.push_back(*found);
+    }
+    std::ranges::reverse(chosen_);  // the next one is the last
+    ask();
+  }
+
+  void withdraw() {
+    done_ = nullptr;
+    timer_ = {};
+    closePipe();
+  }
+
+ private:
+  [[nodiscard]] desktop::MainLoop& loop() const { return state_.services.loop; }
+
+  void ask() {
+    if (chosen_.empty() || ClipboardFormats::isSecret(content_)) return check();
+    std::array<int, 2> ends{};
+    if (pipe2(ends.data(), O_CLOEXEC) != 0) return check();
+    pipe_ = ends[0];
+    fcntl(pipe_, F_SETFL, O_NONBLOCK);  // the other end is for a program that may not expect it
+    bytes_.clear();
+    zwlr_data_control_offer_v1_receive(offer_->offer.get(), chosen_.back().c_str(), ends[1]);
+    state_.services.connection.flush();
+    close(ends[1]);
+    watch_ = state_.services.descriptors.watch(pipe_, Descriptors::Interest::reading,
+                                               [this](Descriptors::Interest) { receive(); });
+    awaitAnswer();
+  }
+
+  void awaitAnswer() {
+    const auto left = std::chrono::ceil<milliseconds>(end_ - loop().now());
+    const auto wait = std::clamp<milliseconds>(left, milliseconds{0}, state_.patience.silence);
+    timer_ = loop().after(wait, [this] {
+      closePipe();
+      check();
+    });
+  }
+
+  void receive() {
+    const auto self = shared_from_this();
+    std::array<char, std::size_t{64} * 1024> piece{};
+    const ssize_t count = read(pipe_, piece.data(), piece.size());
+    if (count < 0 && (errno == EAGAIN || errno == EINTR)) return;
+    if (count > 0) {
+      bytes_.append(piece.data(), static_cast<std::size_t>(count));
+      if (bytes_.size() <= state_.patience.largest) return awaitAnswer();
+      closePipe();
+      return check();
+    }
+    closePipe();
+    content_.insert_or_assign(std::move(chosen_.back()), std::move(bytes_));
+    chosen_.pop_back();
+    ask();
+  }
+
+  // A program that ends while it writes looks like one that has written everything; only the
+  // compositor tells that it has gone.
+  void check() {
+    timer_ = state_.services.connection.catchUp([this] {
+      const auto self = shared_from_this();
+      if (state_.current() == offer_) {
+        state_.fetched = std::move(content_);
+        finish();
+      } else if (state_.current() != nullptr && loop().now() < end_) {
+        begin();
+      } else {
+        finish();
+      }
+    });
+  }
+
+  void finishLater() {
+    timer_ = loop().after({}, [this] { finish(); });
+  }
+
+  void finish() {
+    const auto self = shared_from_this();  // the completion may drop the ticket
+    const auto done = std::exchange(done_, nullptr);
+    withdraw();
+    if (done) done();
+  }
+
+  void closePipe() {
+    watch_ = {};
+    if (pipe_ >= 0) close(std::exchange(pipe_, -1));
+  }
+
+  State& state_;
+  std::function<void()> done_;
+  desktop::MainLoop::TimePoint end_;
+  std::shared_ptr<Offer> offer_;
+  std::vector<std::string> chosen_;
+  ClipboardFormats::Content content_;
+  std::string bytes_;
+  int pipe_ = -1;
+  desktop::Ticket watch_;
+  desktop::Ticket timer_;
+};
+
+WaylandPasteboard::WaylandPasteboard(const Services& services, ClipboardKeeper keeper,
+                                     Patience patience)
+    : state_(new State{.services = services, .keeper = std::move(keeper), .patience = patience}) {
+  state_->manager = wayland::bindDataControl(services.connection);
+  if (state_->manager == nullptr) return;
+  state_->device.reset(zwlr_data_control_manager_v1_get_data_device(state_->manager.get(),
+                                                                    services.connection.seat()));
+  zwlr_data_control_device_v1_add_listener(state_->device.get(), &State::ofDevice, state_.get());
+}
+
+WaylandPasteboard::~WaylandPasteboard() = default;
+
+std::int64_t WaylandPasteboard::changeCount() const {
+  return state_->changeCount;
+}
+
+desktop::Ticket WaylandPasteboard::onNextChange(std::function<void()> changed) {
+  const std::uint64_t id = ++state_->lastWatch;
+  state_->watches[id] = std::move(changed);
+  return desktop::Ticket([this, id] { state_->watches.erase(id); });
+}
+
+desktop::Ticket WaylandPasteboard::fetch(std::function<void()> fetched) {
+  const auto reading = std::make_shared<Reading>(*state_, std::move(fetched));
+  reading->begin();
+  return desktop::Ticket([reading] { reading->withdraw(); });
+}
+
+bool WaylandPasteboard::isConcealed() const {
+  return ClipboardFormats::isSecret(state_->fetched);
+}
+
+std::optional<std::string> WaylandPasteboard::plainText() const {
+  return ClipboardFormats::plainTextOf(state_->fetched);
+}
+
+std::optional<std::string> WaylandPasteboard::html() const {
+  return ClipboardFormats::htmlOf(state_->fetched);
+}
+
+std::optional<std::string> WaylandPasteboard::rtf() const {
+  return ClipboardFormats::rtfOf(state_->fetched);
+}
+
+void WaylandPasteboard::write(const desktop::PasteboardContent& content) {
+  state_->keeper.keep(content);
+  state_->lastWrite = std::chrono::steady_clock::now();
+}
+
+void WaylandPasteboard::takePrimarySelectionOf(std::uint64_t window) {
+  if (state_->primary == nullptr || state_->primaryWindow != window) return;
+  state_->isPrimaryTaken = true;
+  state_->change();
+}
+
+std::chrono::steady_clock::time_point WaylandPasteboard::lastWrite() const {
+  return state_->lastWrite;
+}
+
+}  // namespace quillseal

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "session/WindowingSystem.h"
+#include "wayland/SwayHotkey.h"
+#include "wayland/WaylandApplications.h"
+#include "wayland/WaylandConnection.h"
+#include "wayland/WaylandKeyEvents.h"
+#include "wayland/WaylandPasteboard.h"
+#include "wayland/WaylandWindows.h"
+
+namespace quillseal {
+
+/// Clipboard, keys and windows through the compositor, for native applications and those under
+/// Xwayland alike. REQUIRES: `reachesApplications(*connection)`.
+class WaylandSystem : public WindowingSystem, private OwnWindows {
+ public:
+  WaylandSystem(std::unique_ptr<WaylandConnection> connection, const Services& services);
+
+  [[nodiscard]] std::string limits() const override;
+  [[nodiscard]] desktop::Applications& applications() override { return applications_; }
+  [[nodiscard]] desktop::Hotkey& hotkey() override { return hotkey_; }
+  [[nodiscard]] desktop::KeyEvents& keys() override { return keys_; }
+  [[nodiscard]] desktop::Pasteboard& pasteboard() override { return pasteboard_; }
+  [[nodiscard]] const OwnWindows& ownWindows() const override { return *this; }
+
+ private:
+  void bringToFront(QWidget& window) const override;
+
+  std::unique_ptr<WaylandConnection> connection_;
+  std::unique_ptr<WaylandWindows> windows_;
+  WaylandPasteboard pasteboard_;
+  WaylandApplications applications_;
+  SwayHotkey hotkey_;
+  WaylandKeyEvents keys_;
+};
+
+}  // namespace quillseal

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "wayland/WaylandConnection.h"
+
+namespace quillseal {
+
+/// A window as the compositor describes it.
+struct WaylandWindow {
+  std::uint64_t id = 0;       ///< never given to two windows; no window has 0
+  std::string applicationId;  ///< under Xwayland the class part of WM_CLASS
+  std::string title;
+  bool isActive = false;  ///< has the keyboard
+};
+
+/// The windows of all programs, by wlr-foreign-toplevel-management. Main thread.
+class WaylandWindows {
+ public:
+  /// Windows with `ownApplicationId` are this program's. The connection outlives this object.
+  WaylandWindows(WaylandConnection& connection, std::string ownApplicationId);
+  ~WaylandWindows();
+  WaylandWindows(const WaylandWindows&) = delete;
+  WaylandWindows& operator=(const WaylandWindows&) = delete;
+
+  /// Whether the compositor offers what this needs.
+  [[nodiscard]] static bool areOfferedBy(const WaylandConnection& connection);
+
+  /// The window that has the keyboard. None when something has it that is no window, such as a
+  /// launcher or the screen lock.
+  [[nodiscard]] std::optional<WaylandWindow> active() const;
+
+  /// The active window, or when that is one of this program the one that was active before it.
+  [[nodiscard]] std::optional<WaylandWindow> frontForeign() const;
+
+  /// Nothing when it has closed.
+  [[nodiscard]] std::optional<WaylandWindow> withId(std::uint64_t id) const;
+
+  /// The window of another program that was last active of those for which `matches` holds.
+  [[nodiscard]] std::optional<WaylandWindow> lastActiveOf(
+      const std::function<bool(const WaylandWindow&)>& matches) const;
+
+  /// Asks for the window to be raised and given the keyboard.
+  void activate(std::uint64_t id);
+
+  /// The same for this program's own window with this title, once it is there.
+  void activateOwn(const std::string& title);
+
+ private:
+  struct State;
+  std::unique_ptr<State> state_;
+};
+
+}  // namespace quillseal

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <list>
+#include <memory>
+#include <mutex>
+
+#include "desktop/MainLoop.h"
+#include "keys/SecretPrompt.h"
+#include "windows/OwnWindows.h"
+#include "windows/QtText.h"
+
+namespace quillseal {
+
+/// Asks for PINs and passphrases in dialogs of Qt. What is typed is kept in wiped memory only,
+/// never in a widget.
+class QtSecretPrompt : public SecretPrompt {
+ public:
+  QtSecretPrompt(desktop::MainLoop& loop, const OwnWindows& windows);
+  ~QtSecretPrompt() override;
+
+  [[nodiscard]] std::optional<SecretBytes> ask(const SecretRequest& request) override;
+  [[nodiscard]] std::optional<SecretBytes> askForNew(const NewSecretRequest& request) override;
+
+  /// Answers every open question, and every later one, with nothing. Main thread, when the agent
+  /// ends.
+  void close();
+
+ private:
+  class Pending;
+  using Show = std::function<desktop::Ticket(const std::shared_ptr<Pending>&)>;
+
+  [[nodiscard]] std::optional<SecretBytes> wait(Show show);
+
+  desktop::MainLoop& loop_;
+  const OwnWindows& windows_;
+  std::mutex mutex_;  // guards the two members below
+  std::list<std::shared_ptr<Pending>> pending_;
+  bool closed_ = false;
+};
+
+}  // namespace quillseal

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QMenu>
+#include <QString>
+#include <QSystemTrayIcon>
+#include <optional>
+#include <vector>
+
+#include "desktop/StatusItem.h"
+#include "session/PlatformWording.h"
+
+namespace quillseal {
+
+/// The status item as an icon in the tray of the panel. It appears whenever a panel with a tray
+/// starts, and once that panel answers; some desktops have none.
+class TrayStatusItem : public desktop::StatusItem {
+ public:
+  explicit TrayStatusItem(PlatformWording::CurrentCircumstances circumstances);
+
+  void show(const desktop::StatusMenu& original) override;
+  void setItemTitle(std::size_t index, const std::string& title) override;
+
+ private:
+  void awaitPanel();
+  void showIcon();
+
+  PlatformWording::CurrentCircumstances circumstances_;
+  QString toolTip_;
+  std::optional<QSystemTrayIcon> icon_;
+  QMenu menu_;
+  std::vector<QAction*> actions_;  // owned by the menu
+};
+
+}  // namespace quillseal

@@ -1,0 +1,114 @@
+#include "x11/KeyChords.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <iterator>
+
+#include <xkbcommon/xkbcommon-keysyms.h>
+
+namespace quillseal {
+namespace {
+
+using desktop::contains;
+using desktop::Key;
+using desktop::KeyPress;
+using desktop::Modifiers;
+
+// Terminals whose desktop file lacks the category, or that come without one.
+constexpr std::array<std::string_view, 9> terminalClasses = {"alacritty",
+                                                             "com.mitchellh.ghostty",
+                                                             "kitty",
+                                                             "konsole",
+                                                             "org.wezfurlong.wezterm",
+                                                             "st-256color",
+                                                             "terminator",
+                                                             "urxvt",
+                                                             "xfce4-terminal"};
+
+// These keep to the ways of the first X terminals.
+constexpr std::array<std::string_view, 3> selectingClasses = {"uxterm", "xterm", "urxvt"};
+
+struct ModifierKey {
+  Keysym symbol;
+  std::string_view name;
+};
+constexpr std::array modifierKeys = {ModifierKey{XKB_KEY_Control_L, "Ctrl"},
+                                     ModifierKey{XKB_KEY_Alt_L, "Alt"},
+                                     ModifierKey{XKB_KEY_Super_L, "Super"}};
+
+bool isHeld(Keysym modifier, Modifiers modifiers) {
+  const bool control = contains(modifiers, Modifiers::control);
+  const bool command = contains(modifiers, Modifiers::command);
+  switch (modifier) {
+    case XKB_KEY_Control_L:
+      return control || command;
+    case XKB_KEY_Alt_L:
+      return contains(modifiers, Modifiers::option);
+    default:
+      return control && command;
+  }
+}
+
+Keysym symbolOf(Key key) {
+  switch (key) {
+    case Key::a:
+      return XKB_KEY_a;
+    case Key::c:
+      return XKB_KEY_c;
+    case Key::h:
+      return XKB_KEY_h;
+    case Key::v:
+      return XKB_KEY_v;
+  }
+  return XKB_KEY_NoSymbol;
+}
+
+bool isOneOf(std::string_view windowClass, const auto& classes) {
+  return std::ranges::any_of(classes, [&](std::string_view candidate) {
+    return std::ranges::equal(windowClass, candidate, {},
+                              [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  });
+}
+
+}  // namespace
+
+bool isTerminal(std::string_view categories, std::string_view windowClass) {
+  return categories.find("TerminalEmulator") != std::string_view::npos ||
+         isOneOf(windowClass, terminalClasses) || copiesBySelecting(windowClass);
+}
+
+bool copiesBySelecting(std::string_view windowClass) {
+  return isOneOf(windowClass, selectingClasses);
+}
+
+std::vector<Keysym> chordOf(KeyPress press) {
+  std::vector<Keysym> chord;
+  for (const auto& [symbol, name] : modifierKeys)
+    if (isHeld(symbol, press.modifiers)) chord.push_back(symbol);
+  chord.push_back(symbolOf(press.key));
+  return chord;
+}
+
+std::vector<Keysym> chordFor(KeyPress press, std::string_view categories,
+                             std::string_view windowClass) {
+  if (!isTerminal(categories, windowClass)) return chordOf(press);
+  if (press.key != Key::c || copiesBySelecting(windowClass)) return {};
+  return {XKB_KEY_Control_L, XKB_KEY_Shift_L, XKB_KEY_c};
+}
+
+std::string nameOf(KeyPress press) {
+  const auto letter = static_cast<char>('a' + (symbolOf(press.key) - XKB_KEY_a));
+  return nameOf(press.modifiers, std::string_view(&letter, 1));
+}
+
+std::string nameOf(Modifiers modifiers, std::string_view key) {
+  std::string result;
+  for (const auto& [symbol, name] : modifierKeys)
+    if (isHeld(symbol, modifiers)) result.append(name) += '+';
+  std::ranges::transform(key, std::back_inserter(result),
+                         [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+  return result;
+}
+
+}  // namespace quillseal

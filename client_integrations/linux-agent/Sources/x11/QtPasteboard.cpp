@@ -1,0 +1,116 @@
+#include "x11/QtPasteboard.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/text/Error.h"
+#include "windows/QtText.h"
+
+namespace quillseal {
+namespace {
+
+ClipboardFormats::Content contentOf(const QMimeData* data) {
+  ClipboardFormats::Content content;
+  if (data == nullptr) return content;
+  for (const std::vector<std::string>& group : ClipboardFormats::wanted())
+    for (const std::string& format : group)
+      if (const QString name = toQString(format); data->hasFormat(name))
+        content[format] = data->data(name).toStdString();
+  return content;
+}
+
+bool isOnX() {
+  return qGuiApp->nativeInterface<QNativeInterface::QX11Application>() != nullptr;
+}
+
+}  // namespace
+
+QtPasteboard::QtPasteboard(const X11Selection::Services& services) : services_(services) {
+  QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &receiver_, [this] {
+    ++changeCount_;
+    fetched_.reset();
+  });
+}
+
+ClipboardFormats::Content QtPasteboard::offered() const {
+  const QClipboard* const clipboard = QGuiApplication::clipboard();
+  if (clipboard->ownsClipboard() || !isOnX()) return contentOf(clipboard->mimeData());
+  return fetched_.value_or(ClipboardFormats::Content());
+}
+
+desktop::Ticket QtPasteboard::onNextChange(std::function<void()> changed) {
+  // Qt drops the connection before it calls, and keeps `changed` until the call has returned.
+  const auto watch = QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged,
+                                      &receiver_, std::move(changed), Qt::SingleShotConnection);
+  return desktop::Ticket([watch] { QObject::disconnect(watch); });
+}
+
+desktop::Ticket QtPasteboard::fetch(std::function<void()> fetched) {
+  if (QGuiApplication::clipboard()->ownsClipboard() || !isOnX() || fetched_) {
+    fetched();
+    return {};
+  }
+  return X11Selection::read(services_,
+                            {.selection = X11Selection::Name::clipboard,
+                             .formats = ClipboardFormats::wanted(),
+                             .isEnough = ClipboardFormats::isSecret},
+                            [this, fetched = std::move(fetched)](X11Selection::Content content) {
+                              fetched_ = std::move(content);
+                              fetched();
+                            });
+}
+
+bool QtPasteboard::isConcealed() const {
+  return ClipboardFormats::isSecret(offered());
+}
+
+std::optional<std::string> QtPasteboard::plainText() const {
+  return ClipboardFormats::plainTextOf(offered());
+}
+
+std::optional<std::string> QtPasteboard::html() const {
+  return ClipboardFormats::htmlOf(offered());
+}
+
+std::optional<std::string> QtPasteboard::rtf() const {
+  return ClipboardFormats::rtfOf(offered());
+}
+
+void QtPasteboard::write(const desktop::PasteboardContent& content) {
+  auto data = std::make_unique<QMimeData>();
+  data->setText(toQString(content.plainText));
+  data->setHtml(toQString(content.html));
+  QClipboard* const clipboard = QGuiApplication::clipboard();
+  clipboard->setMimeData(data.release());  // the clipboard owns it from here
+  lastWrite_ = std::chrono::steady_clock::now();
+  if (!clipboard->ownsClipboard())
+    throw Error({.domain = "QtPasteboard",
+                 .code = 1,
+                 .description = "The clipboard could not be written: another program holds it."});
+}
+
+desktop::Ticket QtPasteboard::copyPrimarySelection(std::function<void()> done) {
+  QClipboard* const clipboard = QGuiApplication::clipboard();
+  const auto arrive = [clipboard,
+                       done = std::move(done)](const ClipboardFormats::Content& content) {
+    if (const auto text = ClipboardFormats::plainTextOf(content))
+      clipboard->setText(toQString(*text));
+    done();
+  };
+  if (clipboard->ownsSelection()) {
+    arrive(contentOf(clipboard->mimeData(QClipboard::Selection)));
+    return {};
+  }
+  return X11Selection::read(services_,
+                            {.selection = X11Selection::Name::primary,
+                             .formats = {ClipboardFormats::ofPlainText()},
+                             .isEnough = {}},
+                            arrive);
+}
+
+}  // namespace quillseal

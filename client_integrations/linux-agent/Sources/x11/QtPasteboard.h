@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QObject>
+#include <chrono>
+#include <functional>
+#include <optional>
+
+#include "clipboard/ClipboardFormats.h"
+#include "desktop/Pasteboard.h"
+#include "x11/X11Selection.h"
+
+namespace quillseal {
+
+/// The clipboard through QClipboard, whose change signal covers every program of the X session;
+/// what the other programs offer is read by X11Selection.
+class QtPasteboard : public desktop::Pasteboard {
+ public:
+  explicit QtPasteboard(const X11Selection::Services& services);
+
+  [[nodiscard]] std::int64_t changeCount() const override { return changeCount_; }
+  [[nodiscard]] desktop::Ticket onNextChange(std::function<void()> changed) override;
+  [[nodiscard]] desktop::Ticket fetch(std::function<void()> fetched) override;
+  [[nodiscard]] bool isConcealed() const override;
+  [[nodiscard]] std::optional<std::string> plainText() const override;
+  [[nodiscard]] std::optional<std::string> html() const override;
+  [[nodiscard]] std::optional<std::string> rtf() const override;
+  void write(const desktop::PasteboardContent& content) override;
+
+  /// Copies what is selected anywhere on the desktop, its plain text, as the program could that it
+  /// is selected in. Leaves the clipboard alone when that is nothing. `done` is called in the end.
+  [[nodiscard]] desktop::Ticket copyPrimarySelection(std::function<void()> done);
+
+  /// When `write` was last called; the epoch when it never was.
+  [[nodiscard]] std::chrono::steady_clock::time_point lastWrite() const { return lastWrite_; }
+
+ private:
+  [[nodiscard]] ClipboardFormats::Content offered() const;
+
+  X11Selection::Services services_;
+  QObject receiver_;
+  std::int64_t changeCount_ = 0;
+  /// What another program offers; nothing until it is known.
+  std::optional<ClipboardFormats::Content> fetched_;
+  std::chrono::steady_clock::time_point lastWrite_;
+};
+
+}  // namespace quillseal

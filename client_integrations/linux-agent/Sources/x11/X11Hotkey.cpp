@@ -1,0 +1,146 @@
+#include "x11/X11Hotkey.h"
+
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <algorithm>
+#include <chrono>
+#include <cstdlib>
+#include <memory>
+#include <utility>
+
+#include <xcb/xcb.h>
+#include <xkbcommon/xkbcommon-keysyms.h>
+
+#include "core/text/Error.h"
+#include "x11/KeyChords.h"
+
+namespace quillseal {
+namespace {
+
+// Kinds of XKEYBOARD events; they stand where other events have padding.
+constexpr std::uint8_t newKeyboardNotify = 0;
+constexpr std::uint8_t mapNotify = 1;
+
+/// Milliseconds. X servers repeat a held key after 660, desktops let people choose up to this.
+constexpr std::uint32_t longestRepeatDelay = 1000;
+/// Quicker than anybody lets a key go and presses it again.
+constexpr std::chrono::milliseconds releasePolling{40};
+/// Changes come in bursts, and one whenever another keyboard is typed on than before: each
+/// signature brings some, since the agent's own presses come from another one.
+constexpr std::chrono::milliseconds layoutSettles{150};
+
+}  // namespace
+
+X11Hotkey::X11Hotkey(desktop::MainLoop& loop, X11Keyboard* keyboard, std::string obstacle)
+    : loop_(loop), keyboard_(keyboard), obstacle_(std::move(obstacle)) {
+  const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+  if (keyboard_ == nullptr || x11 == nullptr) return;
+  connection_ = x11->connection();
+  root_ = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data->root;
+}
+
+X11Hotkey::~X11Hotkey() {
+  QCoreApplication::instance()->removeNativeEventFilter(this);
+}
+
+void X11Hotkey::registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) {
+  if (connection_ == nullptr)
+    throw Error({.domain = "X11Hotkey", .code = 1, .description = obstacle_});
+  combination_ = combination;
+  pressed_ = std::move(pressed);
+  QCoreApplication::instance()->installNativeEventFilter(this);
+  if (const auto where = place()) isGrabbed_ = grab(*where);
+  if (!isGrabbed_)
+    throw Error(
+        {.domain = "X11Hotkey",
+         .code = 2,
+         .description = "Another program already uses " + nameOf(combination_) +
+                        ". Free it there and start Quillseal again, or bind the command "
+                        "“quillseal --sign” to another shortcut in the keyboard settings of "
+                        "your desktop. The menu item works in any case."});
+}
+
+std::optional<X11Hotkey::Place> X11Hotkey::place() const {
+  const X11Keyboard::Layout layout = keyboard_->layout();
+  std::vector<Keysym> chord = chordOf(combination_);
+  Place place{.key = layout.keyFor(chord.back()),
+              .modifiers = 0,
+              .numLock = layout.modifierMaskOf(XKB_KEY_Num_Lock)};
+  chord.pop_back();
+  bool isKnown = place.key != 0;
+  for (const Keysym modifier : chord) {
+    const unsigned mask = layout.modifierMaskOf(modifier);
+    place.modifiers |= mask;
+    isKnown = isKnown && mask != 0;
+  }
+  // With modifiers missing, the bare key would be taken from every program.
+  return isKnown ? std::optional(place) : std::nullopt;
+}
+
+bool X11Hotkey::grab(const Place& place) {
+  if (place_.key != 0) xcb_ungrab_key(connection_, place_.key, root_, XCB_MOD_MASK_ANY);
+  place_ = place;
+  const unsigned lock = XCB_MOD_MASK_LOCK;
+  bool granted = true;
+  for (const unsigned ignored : {0U, lock, place.numLock, lock | place.numLock}) {
+    const auto cookie = xcb_grab_key_checked(connection_, 1, root_,
+                                             static_cast<std::uint16_t>(place.modifiers | ignored),
+                                             place.key, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    if (xcb_generic_error_t* error = xcb_request_check(connection_, cookie)) {
+      std::free(error);
+      granted = false;
+    }
+  }
+  return granted;
+}
+
+void X11Hotkey::awaitRelease() {
+  releasePolling_ = loop_.after(releasePolling, [this] {
+    const std::vector<xcb_keycode_t> held = keyboard_->heldKeys(place_.key);
+    down_ = down_ && std::ranges::find(held, place_.key) != held.end();
+    if (down_) awaitRelease();
+  });
+}
+
+void X11Hotkey::followLayout() {
+  following_ = loop_.after(layoutSettles, [this] {
+    const std::optional<Place> now = place();
+    if (now && (*now != place_ || !isGrabbed_)) isGrabbed_ = grab(*now);
+  });
+}
+
+bool X11Hotkey::nativeEventFilter(const QByteArray& /*eventType*/, void* message,
+                                  qintptr* /*result*/) {
+  const auto* event = static_cast<const xcb_generic_event_t*>(message);
+  const std::uint8_t type = event->response_type & 0x7FU;
+  if (type == XCB_KEY_PRESS || type == XCB_KEY_RELEASE) {
+    // Presses and releases have the same shape.
+    const auto* key = reinterpret_cast<const xcb_key_press_event_t*>(event);
+    if (key->detail != place_.key || key->event != root_) return false;
+    if (type == XCB_KEY_RELEASE) {
+      down_ = false;
+      lastRelease_ = key->time;
+    } else {
+      // A held key repeats: as presses alone, or as releases and presses at the same instant. The
+      // release itself never comes when a run gives the keyboard free while the key is held, so the
+      // server is asked until the key is up; and a key that has not repeated for long was let go.
+      const bool repeated =
+          key->time == lastRelease_ || (down_ && key->time - lastPress_ < longestRepeatDelay);
+      down_ = true;
+      lastPress_ = key->time;
+      if (!repeated) {
+        loop_.post(pressed_);
+        awaitRelease();
+      }
+    }
+    return true;
+  }
+  // The layout has changed, and with it perhaps the place of the key.
+  const bool newLayout = type == XCB_MAPPING_NOTIFY ||
+                         (type == keyboard_->xkbEventType() &&
+                          (event->pad0 == newKeyboardNotify || event->pad0 == mapNotify));
+  if (newLayout) followLayout();
+  return false;
+}
+
+}  // namespace quillseal

@@ -1,0 +1,43 @@
+#include "x11/X11System.h"
+
+#include <QGuiApplication>
+#include <QWidget>
+
+#include "session/Reach.h"
+
+namespace quillseal {
+namespace {
+
+bool isOnX() {
+  return QGuiApplication::platformName() == QLatin1String("xcb");
+}
+
+// A compositor that was started from a console leaves the type of the session at "tty".
+bool isWayland() {
+  return qgetenv("XDG_SESSION_TYPE") == "wayland" || !qgetenv("WAYLAND_DISPLAY").isEmpty();
+}
+
+}  // namespace
+
+X11System::X11System(const Services& services)
+    : keyboard_(isOnX() ? X11Keyboard::open() : nullptr),
+      limits_(limitsOf(
+          {.isWayland = isWayland(), .hasXServer = isOnX(), .canPressKeys = keyboard_ != nullptr})),
+      pasteboard_({.loop = services.loop, .descriptors = services.descriptors}),
+      applications_(windows_, services.entries, services.loop),
+      hotkey_(services.loop, keyboard_.get(), limits_),
+      keys_({.loop = services.loop,
+             .windows = windows_,
+             .entries = services.entries,
+             .keyboard = keyboard_.get(),
+             .pasteboard = pasteboard_,
+             .explain = services.explain}) {}
+
+void X11System::bringToFront(QWidget& window) const {
+  window.show();
+  window.raise();
+  window.activateWindow();
+  windows_.activate(static_cast<xcb_window_t>(window.winId()));
+}
+
+}  // namespace quillseal

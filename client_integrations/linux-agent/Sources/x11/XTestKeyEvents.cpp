@@ -1,0 +1,169 @@
+#include "x11/XTestKeyEvents.h"
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include <xkbcommon/xkbcommon-keysyms.h>
+
+#include "x11/KeyChords.h"
+#include "x11/WindowDocument.h"
+
+namespace quillseal {
+namespace {
+
+using desktop::Delivery;
+using std::chrono::milliseconds;
+
+constexpr milliseconds releasePatience{400};
+constexpr milliseconds polling{8};
+// LibreOffice Writer pastes its own earlier copy when the key follows the clipboard more closely.
+constexpr milliseconds clipboardPropagation{150};
+// Windows take their time to come to the front, and pages to show their title again.
+constexpr milliseconds targetPatience{1000};
+
+}  // namespace
+
+/// One press, which waits in turns of the main loop: the clipboard and the hotkey are served
+/// meanwhile. It lives until its ticket is dropped.
+class XTestKeyEvents::Press : public std::enable_shared_from_this<Press> {
+ public:
+  struct Wish {
+    desktop::KeyPress press;
+    std::optional<desktop::RunningApplication> target;
+    std::function<void()> aboutToPress;
+    std::function<void(Delivery)> done;
+  };
+
+  Press(const Services& services, Wish wish)
+      : services_(services),
+        wish_(std::move(wish)),
+        window_(wish_.target ? static_cast<xcb_window_t>(wish_.target->instance) : 0),
+        layout_(services.keyboard->layout()),
+        earliest_(services.pasteboard.lastWrite() + clipboardPropagation),
+        latest_(std::max(services.loop.now() + releasePatience, earliest_)) {}
+
+  void begin() {
+    timer_ = services_.loop.after(milliseconds{0}, [this] { step(); });
+  }
+
+  void withdraw() {
+    wish_.done = nullptr;
+    timer_ = {};
+  }
+
+ private:
+  void step() {
+    const auto now = services_.loop.now();
+    if (now < earliest_) return comeBackAfter(std::chrono::ceil<milliseconds>(earliest_ - now));
+    if (now < latest_ && !heldKeys().empty()) return comeBackAfter(polling);
+    Delivery delivery = deliveryNow();
+    if (delivery == Delivery::delivered) {
+      const WindowTraits traits = services_.windows.traitsOf(window_);
+      if (copiesBySelecting(traits.windowClass) && wish_.press.key == desktop::Key::c)
+        return copySelected();
+      delivery = press(traits);
+    }
+    const bool mayBecomeTarget =
+        delivery != Delivery::delivered && delivery != Delivery::targetClosed && wish_.target;
+    if (mayBecomeTarget && now < latest_ + targetPatience) return comeBackAfter(polling);
+    finish(delivery);
+  }
+
+  void comeBackAfter(milliseconds delay) {
+    timer_ = services_.loop.after(delay, [this] { step(); });
+  }
+
+  /// Whom a key would reach that is pressed now.
+  [[nodiscard]] Delivery deliveryNow() const {
+    const WindowManager& windows = services_.windows;
+    // Nothing was in front when the target was looked for: what is now is not what was meant.
+    if (!wish_.target)
+      return windows.namesActiveWindow() ? Delivery::declined : Delivery::delivered;
+    if (!windows.exists(window_)) return Delivery::targetClosed;
+    if (!windows.hasKeyboard(window_)) return Delivery::declined;
+    const bool isSame = isSameDocument(wish_.target->document, windows.documentOf(window_));
+    return isSame ? Delivery::delivered : Delivery::documentChanged;
+  }
+
+  Delivery press(const WindowTraits& traits) {
+    const auto entry = services_.entries.forWindow(traits);
+    std::vector<xcb_keycode_t> keys;
+    for (const Keysym symbol :
+         chordFor(wish_.press, entry ? entry->categories : std::string(), traits.windowClass))
+      keys.push_back(layout_.keyFor(symbol));
+    if (std::ranges::find(keys, 0) != keys.end()) keys.clear();
+    if (!keys.empty()) {
+      services_.keyboard->release(heldKeys());
+      if (!services_.windows.releaseKeyboard()) return Delivery::declined;
+    }
+    // All of that took time, and what was let go may have switched windows.
+    const Delivery delivery = deliveryNow();
+    if (delivery == Delivery::delivered) {
+      aboutToPress();
+      if (!keys.empty()) services_.keyboard->tap(keys);
+    }
+    return delivery;
+  }
+
+  void aboutToPress() const {
+    if (wish_.aboutToPress) wish_.aboutToPress();
+  }
+
+  void copySelected() {
+    const auto self = shared_from_this();  // it may be copied at once
+    aboutToPress();
+    if (!services_.windows.hasPrimarySelection(window_)) return finish(Delivery::delivered);
+    timer_ = services_.pasteboard.copyPrimarySelection([this] { finish(Delivery::delivered); });
+  }
+
+  [[nodiscard]] std::vector<xcb_keycode_t> heldKeys() const {
+    return services_.keyboard->heldKeys(layout_.keyFor(XKB_KEY_h));
+  }
+
+  void finish(Delivery delivery) {
+    const auto self = shared_from_this();  // the completion may drop the ticket
+    if (const auto done = std::exchange(wish_.done, nullptr)) done(delivery);
+  }
+
+  const Services& services_;
+  Wish wish_;
+  xcb_window_t window_;
+  X11Keyboard::Layout layout_;
+  desktop::MainLoop::TimePoint earliest_;
+  desktop::MainLoop::TimePoint latest_;
+  desktop::Ticket timer_;  // and then what is read of a selection
+};
+
+XTestKeyEvents::XTestKeyEvents(Services services) : services_(std::move(services)) {}
+
+bool XTestKeyEvents::isTrusted() const {
+  return services_.keyboard != nullptr;
+}
+
+void XTestKeyEvents::askForTrust() {
+  services_.explain();
+}
+
+desktop::Ticket XTestKeyEvents::press(desktop::KeyPress press,
+                                      const std::optional<desktop::RunningApplication>& target,
+                                      std::function<void()> aboutToPress,
+                                      std::function<void(Delivery)> done) {
+  if (!isTrusted()) {
+    done(Delivery::delivered);
+    return {};
+  }
+  // Without the entries nobody can tell which keys to press. A failure reaches the caller from
+  // here, but not from a turn of the loop.
+  static_cast<void>(services_.entries.withId({}));
+  const auto pressing =
+      std::make_shared<Press>(services_, Press::Wish{.press = press,
+                                                     .target = target,
+                                                     .aboutToPress = std::move(aboutToPress),
+                                                     .done = std::move(done)});
+  pressing->begin();
+  return desktop::Ticket([pressing] { pressing->withdraw(); });
+}
+
+}  // namespace quillseal

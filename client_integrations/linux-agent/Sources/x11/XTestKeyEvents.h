@@ -1,0 +1,44 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "applications/DesktopEntries.h"
+#include "desktop/KeyEvents.h"
+#include "desktop/MainLoop.h"
+#include "x11/QtPasteboard.h"
+#include "x11/WindowManager.h"
+#include "x11/X11Keyboard.h"
+
+namespace quillseal {
+
+/// Synthesised key presses by the XTEST extension. A press is declined unless its target is the
+/// active window and shows what it showed when the target was named, for which it waits a second.
+class XTestKeyEvents : public desktop::KeyEvents {
+ public:
+  struct Services {
+    desktop::MainLoop& loop;
+    const WindowManager& windows;
+    DesktopEntries& entries;
+    X11Keyboard* keyboard;  ///< null where keys cannot be pressed
+    QtPasteboard& pasteboard;
+    /// Tells the person why keys cannot be pressed in this session.
+    std::function<void()> explain;
+  };
+
+  explicit XTestKeyEvents(Services services);
+
+  [[nodiscard]] bool isTrusted() const override;
+  void askForTrust() override;
+  [[nodiscard]] desktop::Ticket press(desktop::KeyPress press,
+                                      const std::optional<desktop::RunningApplication>& target,
+                                      std::function<void()> aboutToPress,
+                                      std::function<void(desktop::Delivery)> done) override;
+
+ private:
+  class Press;
+
+  Services services_;
+};
+
+}  // namespace quillseal

@@ -1,0 +1,189 @@
+#include <array>
+#include <random>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "IcuReference.h"
+#include "PatternText.h"
+#include "RandomText.h"
+#include "RulePatterns.h"
+#include "core/screening/compile/TableCompiler.h"
+#include "core/screening/match/ScreeningEngine.h"
+
+namespace quillseal {
+namespace {
+
+using screening::Pattern;
+using screening::PatternMatch;
+using screening::ScreeningEngine;
+using testing::IcuReference;
+using testing::PatternText;
+
+std::vector<IcuReference::Answer> answersOf(const ScreeningEngine& engine, std::size_t patterns,
+                                            std::string_view text) {
+  std::vector<IcuReference::Answer> answers(patterns);
+  for (const PatternMatch& match : engine.firstMatches(text))
+    answers[match.pattern] = {.matched = true, .start = match.start, .end = match.end};
+  return answers;
+}
+
+struct Comparisons {
+  std::size_t compared = 0;
+  std::size_t matched = 0;
+};
+
+/// Compares all patterns on `texts` texts; one disagreement of each pattern is reported.
+Comparisons compareWithIcu(std::span<const Pattern> patterns, std::size_t texts, unsigned seed) {
+  const auto compiled = screening::compilePatterns(patterns);
+  const ScreeningEngine engine(compiled.tables);
+  const IcuReference reference(patterns);
+  const PatternText source(patterns);
+  std::mt19937 random(seed);
+  std::vector<bool> reported(patterns.size());
+  Comparisons total;
+  EXPECT_TRUE(compiled.problems.empty());
+  for (std::size_t i = 0; i < texts; ++i) {
+    std::string text = source.mixture(random);
+    // Long texts are screened in stretches, and what is known of them is kept in pages.
+    const std::size_t leastSize = i % 50 == 0 ? 5000 : 0;
+    while (text.size() < leastSize)
+      text += source.mixture(random);
+    const auto expected = reference.firstMatches(text);
+    const auto actual = answersOf(engine, patterns.size(), text);
+    for (std::size_t p = 0; p < patterns.size(); ++p) {
+      if (expected[p].gaveUp) continue;
+      ++total.compared;
+      total.matched += expected[p].matched ? 1 : 0;
+      if (actual[p] == expected[p] || reported[p]) continue;
+      reported[p] = true;
+      ADD_FAILURE() << patterns[p].expression << "\n on " << testing::escaped(text) << "\n ICU "
+                    << expected[p].matched << ' ' << expected[p].start << '-' << expected[p].end
+                    << ", engine " << actual[p].matched << ' ' << actual[p].start << '-'
+                    << actual[p].end;
+    }
+  }
+  return total;
+}
+
+TEST(ScreeningEngine, AgreesWithIcuOnEveryConstruct) {
+  constexpr std::array<std::string_view, 91> expressions{
+      // Letters, folding and the splitting of strings by groups, sets and quantifiers
+      "strasse", "ss", "s", "as+", "ass?", "a(?:s)s", "[s]s", "s[s]", "[.]fi", "of[f]i", "fi|ff|fl",
+      "ſtaff", "K", "kk", "ß", "xß?", "İ", "i", "σς", "e\u0301", "\u0149", "ŉ?t", "ǰ", "^ΐ\\s",
+      "ẖ+", "j\u030C", "ὒ",
+      // Sets
+      "[a-f]+", "[^a-z]{2,5}", "[\\s.\\-]\\d", "[\\w-]{3}", "[ -]x?", "[^\\W\\d]{4}", "[\\u00e9ß]",
+      "\\p{Lu}{2}", "[k\\x{1F600}-\\x{1F64F}]", ".{3}x", "[\\S\\s]t", "[]a]+",
+      // Quantifiers
+      "a{2}", "a{2,}?b", "(?:ab){2,3}", "(?:a|ab)(?:c|bcd)?d?", "\\w*?e\\b", "(?:\\w+\\s)+\\d",
+      "(?:a{0,2}b)*c", "[^.]{0,20}?e", "\\d{1,3}(?:,\\d{3})*", "(?:\\w+ ){0,2}?a", "x*", "(?:)",
+      // Positions
+      "^a|e$", "\\s*$", "^\\s*\\w+\\s*$", "\\bt", "t\\B", "\\B\\W\\b", "\\Ax?\\z", "\\r$", "$",
+      // White space in and about literals, and literals longer than those that are looked for
+      "end\\s+of\\s*the", "\\s+the\\s", "\\sof\\s\\s", "a  b", "[- ]the\\b", "\\s*\\bsend",
+      "of[ \\t]\\n", "to\\s+\\b\\w", "(?:our|my)\\s(?:\\w+\\s+){0,2}?end\\b", "\\s?\\n\\s?of",
+      "(?:sub-?|the )account\\s+number\\b", "\\b\\s+account\\s+settings\\b",
+      "mot\\s+de\\s+passe\\s+de", "\\bnext\\s+staff\\s+office\\b",
+      "(?:\\w+s|people)\\s+of\\s+(?:all\\s+)?(?:colours|nations)\\b",
+      "[^.!?]{0,9}\\s+internationally\\w",
+      // Looking around
+      "a(?!b)", "(?=\\w{3})e", "t(?![\\s\\S]*x)", "(?<!\\w)e", "(?<=[ .])a",
+      "(?<=\\b[a-z]{1,3})[.]", "(?<=\\b[a-f]{2})\\w", "(?<=\\bx)y",
+      // Loops over one code point, some of which only beside certain neighbours
+      "t(?:[^.!?]|[.](?=\\w)){0,9}e", "t(?:[^.]|[.](?=\\s?\\d)|(?<=\\b[a-z]{1,2})[.])*?e",
+      "(?:[^.]|[.](?=[^\\s.]))+e\\b", "(?:[a-m]|[n-z](?!\\W)){2,5}", "(?:s|[t](?=s)|a|ss){3}",
+      "(?=[\\s\\S]*a)(?=[\\s\\S]*\\be)", "^(?![\\s\\S]*x)[\\s\\S]*?(?:e\\w|a)"};
+  std::vector<Pattern> patterns;
+  for (const std::string_view expression : expressions)
+    for (const bool caseInsensitive : {true, false})
+      patterns.push_back({.expression = expression, .caseInsensitive = caseInsensitive});
+  const Comparisons total = compareWithIcu(patterns, 3000, 17);
+  EXPECT_GT(total.matched, total.compared / 20);
+}
+
+TEST(ScreeningEngine, AgreesWithIcuOnEveryRule) {
+  const Comparisons total = compareWithIcu(screening::rulePatterns(), 600, 4711);
+  EXPECT_GT(total.compared, 100'000U);
+  EXPECT_GT(total.matched, total.compared / 1000);
+}
+
+TEST(ScreeningEngine, ReportsPatternsItCannotUseAndKeepsTheOthers) {
+  constexpr std::array<std::string_view, 12> faulty{
+      "(?:(?=a))+", "(?:(?!x)a?)*b", "(",      "a)",  "[z",     "a**",
+      "*a",         "(?:a?)*",       "(a)\\1", "a++", "x{3,2}", "(?>a)"};
+  std::vector<Pattern> patterns;
+  for (const std::string_view expression : faulty)
+    patterns.push_back({.expression = expression});
+  patterns.push_back({.expression = "plain"});
+  const auto compiled = screening::compilePatterns(patterns);
+  const ScreeningEngine engine(compiled.tables);
+  EXPECT_EQ(compiled.problems.size(), faulty.size());
+  EXPECT_EQ(ScreeningEngine::unusablePatterns(compiled.tables).size(), faulty.size());
+  const auto matches = engine.firstMatches("a plain text");
+  ASSERT_EQ(matches.size(), 1U);
+  EXPECT_EQ(matches.front().pattern, faulty.size());
+  EXPECT_EQ(matches.front().start, 2U);
+}
+
+TEST(ScreeningEngine, IllFormedBytesCountAsReplacementCharacters) {
+  const std::array<Pattern, 2> patterns{Pattern{.expression = "a\\uFFFD+b"},
+                                        Pattern{.expression = "c$"}};
+  const auto compiled = screening::compilePatterns(patterns);
+  const auto matches = ScreeningEngine(compiled.tables)
+                           .firstMatches(
+                               "xa\xFF\xE2\x82"
+                               "bc");
+  ASSERT_EQ(matches.size(), 2U);
+  EXPECT_EQ(matches[0].start, 1U);
+  EXPECT_EQ(matches[0].end, 6U);
+  EXPECT_EQ(matches[1].end, 7U);
+}
+
+std::string repeated(std::string_view unit, std::size_t size) {
+  std::string text;
+  while (text.size() < size)
+    text += unit;
+  return text;
+}
+
+// Steps are counted, not time, so that the test means the same on every machine.
+TEST(ScreeningEngine, WorkGrowsLinearlyWithWhateverIsRepeated) {
+  const std::vector<Pattern> patterns = screening::rulePatterns();
+  const PatternText source(patterns);
+  constexpr std::array<std::string_view, 12> separators{
+      "", " ", "\n", "\r\n", ".", ",", "1", "a", "\u200D", "\u0301", "  \n", " a "};
+  for (std::size_t p = 0; p < patterns.size(); ++p) {
+    const auto compiled = screening::compilePatterns({&patterns[p], 1});
+    const ScreeningEngine engine(compiled.tables);
+    std::mt19937 random(static_cast<unsigned>(p));
+    std::vector<std::string> units = source.parts(p);
+    std::shuffle(units.begin(), units.end(), random);
+    units.resize(std::min<std::size_t>(units.size(), 12));
+    for (int i = 0; i < 6; ++i)
+      units.push_back(source.along(p, random).substr(0, 400));
+    units.emplace_back();
+    for (std::size_t i = 0; i < units.size(); ++i) {
+      const std::string& other = units[random() % units.size()];
+      const std::string_view separator = separators[random() % separators.size()];
+      for (const std::string& unit :
+           {units[i] + std::string(separators[i % separators.size()]),
+            units[i] + std::string(separator) + other + std::string(separator)}) {
+        if (unit.empty()) continue;
+        const std::string lead = unit.size() % 2 == 0 ? std::string() : source.along(p, random);
+        const auto stepsOf = [&](std::size_t size) {
+          std::uint64_t steps = 0;
+          static_cast<void>(engine.firstMatches(lead + repeated(unit, size) + '#', &steps));
+          return steps;
+        };
+        const std::uint64_t once = stepsOf(12'000);
+        const std::uint64_t twice = stepsOf(24'000);
+        EXPECT_LT(twice, 3 * once) << patterns[p].expression << "\n repeating "
+                                   << testing::escaped(unit) << " after " << testing::escaped(lead);
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace quillseal

@@ -1,0 +1,101 @@
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "core/text/StrictJson.h"
+
+namespace quillseal {
+namespace {
+
+using ::testing::HasSubstr;
+
+std::string failureOf(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const JsonError& error) {
+    return error.what();
+  }
+  return "";
+}
+
+std::string repeated(const std::string& text, std::size_t count) {
+  std::string result;
+  for (std::size_t i = 0; i < count; ++i)
+    result += text;
+  return result;
+}
+
+TEST(StrictJson, ReadsMembersWithTheirTypes) {
+  const JsonObject object = JsonObject::parse(
+      R"( {"text":"a\/b é \u00e9 😀","number":-210,"flag":true,"none":null,"deep":{"text":1}} )");
+  EXPECT_EQ(object.string("text"), "a/b é é 😀");
+  EXPECT_EQ(object.integer("number"), -210);
+  EXPECT_TRUE(object.boolean("flag"));
+  EXPECT_EQ(object.optionalString("none"), std::nullopt);
+  EXPECT_EQ(object.optionalString("absent"), std::nullopt);
+  EXPECT_EQ(object.optionalString("text"), "a/b é é 😀");
+  EXPECT_EQ(object.optionalInteger("none"), std::nullopt);
+  EXPECT_EQ(object.optionalInteger("number"), -210);
+}
+
+TEST(StrictJson, NamesTheKeyOfAWrongMember) {
+  const JsonObject object = JsonObject::parse(
+      R"({"text":"x","number":5,"flag":false,"none":null,"list":[],"object":{},
+          "fraction":1.0,"huge":9223372036854775808})");
+  EXPECT_THAT(failureOf([&] { (void)object.string("absent"); }), HasSubstr("“absent” is missing"));
+  for (const char* key : {"number", "flag", "none", "list", "object", "fraction", "huge"}) {
+    EXPECT_THAT(failureOf([&] { (void)object.string(key); }), HasSubstr(key));
+  }
+  for (const char* key : {"text", "flag", "none", "list", "object", "fraction", "huge"}) {
+    EXPECT_THAT(failureOf([&] { (void)object.integer(key); }), HasSubstr(key));
+  }
+  for (const char* key : {"text", "number", "none", "list", "object"}) {
+    EXPECT_THAT(failureOf([&] { (void)object.boolean(key); }), HasSubstr(key));
+  }
+  for (const char* key : {"number", "flag", "list", "object"}) {
+    EXPECT_THAT(failureOf([&] { (void)object.optionalString(key); }), HasSubstr(key));
+  }
+}
+
+TEST(StrictJson, RefusesWhatIsNotOneObject) {
+  const std::vector<std::string> texts{"",
+                                       " ",
+                                       "5",
+                                       "null",
+                                       "\"text\"",
+                                       "[]",
+                                       "[{}]",
+                                       "{",
+                                       "{\"a\"}",
+                                       "{\"a\":1,}",
+                                       "{}{}",
+                                       "{} x",
+                                       "{'a':1}",
+                                       "{\"a\":01}",
+                                       "{\"a\":NaN}",
+                                       "{\"a\":\"\x80\"}",
+                                       "{\"a\":\"\xed\xa0\x80\"}",
+                                       R"({"a":"\ud800"})",
+                                       "{\"a\":\"\n\"}",
+                                       "<html></html>",
+                                       std::string("{}\0", 3),
+                                       "\xef\xbb\xbf"};
+  for (const std::string& text : texts) {
+    EXPECT_NE(failureOf([&] { (void)JsonObject::parse(text); }), "") << text;
+  }
+  EXPECT_THAT(failureOf([] { (void)JsonObject::parse(R"({"a":1,"a":2})"); }), HasSubstr("“a”"));
+}
+
+TEST(StrictJson, NestingCostsNothing) {
+  const std::size_t depth = 1'000'000;
+  const std::string bomb =
+      R"({"bomb":)" + repeated("[", depth) + repeated("]", depth) + R"(,"text":"x"})";
+  EXPECT_EQ(JsonObject::parse(bomb).string("text"), "x");
+  EXPECT_NE(failureOf([&] { (void)JsonObject::parse(repeated(R"({"a":)", depth)); }), "");
+}
+
+}  // namespace
+}  // namespace quillseal

@@ -1,0 +1,387 @@
+#include "core/reading/ReadableText.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cstring>
+#include <limits>
+
+#include "core/reading/ReadingSteps.h"
+#include "core/reading/ReadingTables.h"
+#include "core/text/UnicodeText.h"
+#include "core/text/Utf8.h"
+
+namespace quillseal {
+namespace {
+
+using reading::Cells;
+using reading::Contents;
+using reading::Reading;
+using Kind = Reading::Kind;
+
+constexpr char32_t softHyphen = U'\u00AD';
+
+// ---- Plain texts
+
+enum class Byte : std::uint8_t {
+  letter,
+  digit,
+  blank,
+  lineBreak,
+  point,
+  hyphen,
+  letterSign,
+  other,
+  odd
+};
+
+constexpr Byte classOf(char c) {
+  if ((c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z')) return Byte::letter;
+  if (c >= '0' && c <= '9') return Byte::digit;
+  switch (c) {
+    case ' ':
+    case '\t':
+      return Byte::blank;
+    case '\n':
+    case '\r':
+      return Byte::lineBreak;
+    case '.':
+      return Byte::point;
+    case '-':
+    case '_':
+    case '*':
+      return Byte::hyphen;
+    case '@':
+    case '$':
+    case '|':
+    case '+':
+    case '!':
+      return Byte::letterSign;
+    case '<':
+    case '>':
+    case '=':
+      return Byte::odd;
+    default:
+      return c > ' ' && c < 0x7F ? Byte::other : Byte::odd;
+  }
+}
+
+constexpr std::array<Byte, 256> classesOfBytes() {
+  std::array<Byte, 256> classes{};
+  for (std::size_t i = 0; i < classes.size(); ++i)
+    classes[i] = classOf(static_cast<char>(i));
+  return classes;
+}
+
+constexpr std::array<Byte, 256> byteClasses = classesOfBytes();
+
+/// Decides quickly that an ordinary text of ASCII has nothing to undo; may say no for some of them.
+class PlainText {
+ public:
+  explicit PlainText(std::string_view text) : text_(text) {}
+
+  [[nodiscard]] bool isCertain() {
+    while (position_ < text_.size()) {
+      const Byte byte = at(position_);
+      if (byte != Byte::letter && byte != Byte::blank) {
+        if (words_.mayHaveMovedBlanks()) return false;
+        words_ = {};
+      }
+      switch (byte) {
+        case Byte::letter:
+          if (!passesWord()) return false;
+          break;
+        case Byte::digit:
+          if (!passesNumber()) return false;
+          break;
+        case Byte::point:
+          // Behind a word or a number it is looked at with them.
+          if (position_ + 1 < text_.size() && !isSpace(at(position_ + 1))) return false;
+          ++position_;
+          break;
+        case Byte::odd:
+          return false;
+        default:
+          ++position_;
+      }
+    }
+    return !words_.mayHaveMovedBlanks();
+  }
+
+ private:
+  [[nodiscard]] Byte at(std::size_t position) const {
+    return byteClasses[static_cast<unsigned char>(text_[position])];
+  }
+  [[nodiscard]] Byte atOrBlank(std::size_t position) const {
+    return position < text_.size() ? at(position) : Byte::blank;
+  }
+  static bool isSpace(Byte byte) { return byte == Byte::blank || byte == Byte::lineBreak; }
+
+  bool passesWord() {
+    const std::size_t start = position_;
+    while (position_ < text_.size() && at(position_) == Byte::letter)
+      ++position_;
+    const std::size_t length = position_ - start;
+    const bool isFirst = start == 0;
+    const Byte before = isFirst ? Byte::blank : at(start - 1);
+    const Byte after = atOrBlank(position_);
+    if (before == Byte::letterSign || after == Byte::digit) return false;
+    if (after == Byte::letterSign && atOrBlank(position_ + 1) == Byte::letter) return false;
+    const bool isSingle = length == 1;
+    if (isSingle && wasSingle_ && start - endOfWord_ <= 3) return false;
+    wasSingle_ = isSingle;
+    const std::size_t endOfLast = endOfWord_;
+    endOfWord_ = position_;
+    const bool isKnown = countWord(start, length);
+    const bool isBroken = before == Byte::hyphen || (before == Byte::lineBreak && endOfLast > 0 &&
+                                                     at(endOfLast) == Byte::lineBreak);
+    if (isBroken && !(isKnown && wasKnown_)) return false;
+    wasKnown_ = isKnown;
+    if (after == Byte::hyphen && !endsLineProperly(position_ + 1)) return false;
+    return after != Byte::point || passesPoint(start, length);
+  }
+
+  /// The line must not end behind a hyphen.
+  [[nodiscard]] bool endsLineProperly(std::size_t position) const {
+    while (position < text_.size() && at(position) == Byte::blank)
+      ++position;
+    return position >= text_.size() || at(position) != Byte::lineBreak;
+  }
+
+  bool countWord(std::size_t start, std::size_t length) {
+    if (length > reading::longestWord) {
+      words_.add(length, false, false);
+      return false;
+    }
+    const bool isKnown =
+        reading::classOf(smallLetters(start, length)) != reading::WordClass::unknown;
+    const bool isName = length > 1 && text_[start] < 'a' && text_[start + 1] >= 'a';
+    words_.add(length, isKnown, isName);
+    return isKnown;
+  }
+
+  [[nodiscard]] reading::WordBytes smallLetters(std::size_t start, std::size_t length) const {
+    constexpr std::uint64_t smallBits = 0x2020202020202020;
+    reading::WordBytes bytes{};
+    if (length <= 8 && start + 8 <= text_.size()) {
+      std::memcpy(bytes.data(), &text_[start], 8);
+      const std::size_t unused = 64 - 8 * length;
+      if constexpr (std::endian::native == std::endian::little)
+        bytes[0] = (bytes[0] | smallBits) << unused >> unused;
+      else
+        bytes[0] = (bytes[0] | smallBits) >> unused << unused;
+      return bytes;
+    }
+    std::array<char, reading::longestWord> letters{};
+    for (std::size_t i = 0; i < length; ++i)
+      letters[i] = static_cast<char>(text_[start + i] | 0x20);
+    return reading::bytesOfWord({letters.data(), length});
+  }
+
+  [[nodiscard]] bool passesPoint(std::size_t start, std::size_t length) {
+    const Byte next = atOrBlank(position_ + 1);
+    if (!isSpace(next) && text_[position_ + 1] != '"') return false;
+    if (reading::mayBeAbbreviation(text_.data() + start, length)) return false;
+    ++position_;
+    return true;
+  }
+
+  bool passesNumber() {
+    while (position_ < text_.size() && at(position_) == Byte::digit)
+      ++position_;
+    const Byte after = atOrBlank(position_);
+    const bool isOrdinary = after != Byte::blank || !isPartOfAmount(position_ + 1);
+    return isOrdinary && after != Byte::letter && after != Byte::letterSign &&
+           (after != Byte::point || position_ + 1 == text_.size());
+  }
+
+  /// Whether what follows a number and a blank may belong to it: digits, or a currency.
+  [[nodiscard]] bool isPartOfAmount(std::size_t position) const {
+    if (position >= text_.size()) return false;
+    const Byte byte = at(position);
+    if (byte == Byte::digit || byte == Byte::letterSign) return true;
+    const std::string_view rest = text_.substr(position);
+    for (const std::string_view name : {"dollar", "euro", "eur", "usd", "gbp", "pounds", "francs"})
+      if (rest.starts_with(name)) return true;
+    return byte == Byte::letter && rest[0] < 'a' && atOrBlank(position + 1) == Byte::letter &&
+           rest[1] < 'a';
+  }
+
+  std::string_view text_;
+  std::size_t position_ = 0;
+  std::size_t endOfWord_ = 0;
+  reading::KnownWords words_;  ///< with nothing but blanks between them
+  bool wasSingle_ = false;
+  bool wasKnown_ = false;
+};
+
+// ---- From bytes to cells and back
+
+/// What code points of ASCII are.
+const std::array<Kind, 0x80>& asciiKinds() {
+  static const std::array<Kind, 0x80> kinds = [] {
+    std::array<Kind, 0x80> all{};
+    for (std::size_t c = 0; c < all.size(); ++c)
+      all[c] = reading::compiledTables.of(static_cast<char32_t>(c)).kind;
+    return all;
+  }();
+  return kinds;
+}
+
+/// The code points of a part of a text, with what they always read as.
+class Decoder {
+ public:
+  Decoder(std::string_view text, Cells& cells) : text_(text), cells_(cells) {}
+
+  /// Reads the part; whether any code point reads as something else.
+  bool decode(std::size_t start, std::size_t end) {
+    bool isChanged = false;
+    for (std::size_t position = start; position < end;) {
+      const std::size_t first = position;
+      const char32_t scalar = unicode::decodeNext(text_, position);
+      if (scalar < ascii_.size() && ascii_[scalar] != Kind::invisible) {
+        contents_.hasFormsByNeighbour =
+            contents_.hasFormsByNeighbour || scalar == U'<' || scalar == U'>';
+        contents_.hasLettersOrStops = contents_.hasLettersOrStops ||
+                                      ascii_[scalar] == Kind::letter ||
+                                      ascii_[scalar] == Kind::stop;
+        add(scalar, first, position, ascii_[scalar], true);
+        continue;
+      }
+      const Reading& reading = reading::compiledTables.of(scalar);
+      note(reading.kind);
+      if (reading.kind == Kind::same) {
+        isChanged = true;
+        for (const char letter : reading.view())
+          add(static_cast<char32_t>(letter), first, position,
+              ascii_[static_cast<unsigned char>(letter)], false);
+      } else if (reading.kind == Kind::invisible) {
+        isChanged = true;
+        // A soft hyphen is drawn where the line ends.
+        const bool isDrawn = scalar == softHyphen && position < end &&
+                             (text_[position] == '\n' || text_[position] == '\r');
+        if (isDrawn) add(U'-', first, position, Kind::sign, false);
+      } else {
+        // An ill-formed part reads as U+FFFD.
+        add(scalar, first, position, reading.kind, scalar != U'\uFFFD');
+      }
+    }
+    return isChanged;
+  }
+
+  [[nodiscard]] const Contents& contents() const { return contents_; }
+
+ private:
+  void note(Kind kind) {
+    if (kind == Kind::accented || kind == Kind::twin || kind == Kind::same ||
+        kind == Kind::pictograph)
+      contents_.hasLettersOrStops = true;
+    if (kind == Kind::accented || kind == Kind::twin || kind == Kind::mark)
+      contents_.hasLettersBeyondAscii = true;
+    if (kind == Kind::wideSign || kind == Kind::pictograph) contents_.hasFormsByNeighbour = true;
+  }
+
+  void add(char32_t scalar, std::size_t start, std::size_t end, Kind kind, bool isCopy) {
+    cells_.push_back({.scalar = scalar,
+                      .start = static_cast<std::uint32_t>(start),
+                      .end = static_cast<std::uint32_t>(end),
+                      .kind = kind,
+                      .isCopy = isCopy});
+  }
+
+  std::string_view text_;
+  Cells& cells_;
+  Contents contents_;
+  const std::array<Kind, 0x80>& ascii_ = asciiKinds();
+};
+
+/// Where a part of `text` that can be read by itself ends: no step looks over a blank line, nor
+/// over the end of a line at which a sentence ends and another begins.
+std::size_t endOfPart(std::string_view text, std::size_t start) {
+  const auto at = [&](std::size_t i) { return i < text.size() ? text[i] : '\0'; };
+  for (std::size_t lineEnd = text.find('\n', start); lineEnd != std::string_view::npos;
+       lineEnd = text.find('\n', lineEnd + 1)) {
+    const char next = at(lineEnd + 1);
+    if (next == '\n' || (next == '\r' && at(lineEnd + 2) == '\n')) return lineEnd + 1;
+    const char before = lineEnd > start ? text[lineEnd - 1] : '\0';
+    const bool endsSentence = before == '.' || before == '!' || before == '?';
+    if (endsSentence && next >= 'A' && next <= 'Z') return lineEnd + 1;
+  }
+  return text.size();
+}
+
+}  // namespace
+
+ReadableText::ReadableText(std::string_view written) : written_(written) {
+  if (written.size() > std::numeric_limits<std::uint32_t>::max()) return;
+  Cells cells;
+  std::size_t copied = 0;
+  for (std::size_t start = 0; start < written.size();) {
+    const std::size_t end = endOfPart(written, start);
+    if (!PlainText(written.substr(start, end - start)).isCertain()) {
+      cells.clear();
+      cells.reserve(end - start);
+      Decoder decoder(written, cells);
+      bool isChanged = decoder.decode(start, end);
+      isChanged = reading::undoDisguises(cells, decoder.contents()) || isChanged;
+      if (isChanged) {
+        copy({.start = copied, .end = start});
+        for (std::size_t i = 0; i < cells.size();) {
+          if (!cells[i].isCopy) {
+            add(cells[i].scalar, {.start = cells[i].start, .end = cells[i].end});
+            ++i;
+            continue;
+          }
+          const std::size_t first = i++;
+          while (i < cells.size() && cells[i].isCopy && cells[i].start == cells[i - 1].end)
+            ++i;
+          copy({.start = cells[first].start, .end = cells[i - 1].end});
+        }
+        copied = end;
+        isAsWritten_ = false;
+      }
+    }
+    start = end;
+  }
+  if (!isAsWritten_) copy({.start = copied, .end = written.size()});
+}
+
+void ReadableText::copy(Range part) {
+  if (part.start == part.end) return;
+  goOn(part, true);
+  read_.append(written_, part.start, part.end - part.start);
+}
+
+void ReadableText::add(char32_t scalar, Range part) {
+  goOn(part, false);
+  unicode::append(read_, scalar);
+}
+
+void ReadableText::goOn(Range part, bool isRun) {
+  const bool isNext = isRun && !anchors_.empty() && anchors_.back().isRun &&
+                      part.start - anchors_.back().start == read_.size() - anchors_.back().read;
+  if (!isNext)
+    anchors_.push_back(
+        {.read = read_.size(), .start = part.start, .end = part.end, .isRun = isRun});
+}
+
+const ReadableText::Anchor& ReadableText::anchorAt(std::size_t read) const {
+  const auto behind = std::upper_bound(
+      anchors_.begin(), anchors_.end(), read,
+      [](std::size_t position, const Anchor& anchor) { return position < anchor.read; });
+  return *std::prev(behind);
+}
+
+ReadableText::Range ReadableText::written(Range read) const {
+  if (isAsWritten_) return read;
+  if (anchors_.empty()) return {.start = 0, .end = written_.size()};
+  if (read.start >= read_.size()) return {.start = written_.size(), .end = written_.size()};
+  const Anchor& first = anchorAt(read.start);
+  const std::size_t start = first.isRun ? first.start + (read.start - first.read) : first.start;
+  if (read.end <= read.start) return {.start = start, .end = start};
+  const Anchor& last = anchorAt(read.end - 1);
+  const std::size_t end = last.isRun ? last.start + (read.end - last.read) : last.end;
+  return {.start = start, .end = std::max(start, end)};
+}
+
+}  // namespace quillseal

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "core/reading/ReadingTables.h"
+
+/// The steps by which `ReadableText` undoes disguises.
+namespace quillseal::reading {
+
+/// What is to be read before a cell without having been written.
+enum class Insertion : std::uint8_t { none, blank, currency, thousands };
+
+/// A code point that is read, and the bytes that it was written with.
+struct Cell {
+  char32_t scalar = 0;
+  std::uint32_t start = 0;
+  std::uint32_t end = 0;
+  Reading::Kind kind = Reading::Kind::other;
+  Insertion inserted = Insertion::none;
+  bool isCopy = false;  ///< its bytes are read as they were written
+};
+
+using Cells = std::vector<Cell>;
+
+/// What a text contains, so that steps without work are left out.
+struct Contents {
+  bool hasLettersOrStops = false;      ///< of Latin, or that read as such
+  bool hasLettersBeyondAscii = false;  ///< accented, of other scripts, or with marks
+  bool hasFormsByNeighbour = false;    ///< wide signs, letters of flags, angle brackets
+};
+
+/// How many of the words in a row are known.
+class KnownWords {
+ public:
+  /// `isName`: it begins with a capital and goes on in small letters, as names do, which are known
+  /// to nobody.
+  void add(std::size_t letters, bool isKnown, bool isName) {
+    if (isKnown) {
+      known_ += letters;
+    } else if (!isName || letters > longestName) {
+      unknown_ += letters;
+      ++unknownWords_;
+    }
+  }
+
+  /// Whether blanks may have been moved, put in or taken out: too much is unknown.
+  [[nodiscard]] bool mayHaveMovedBlanks() const {
+    constexpr std::size_t fewWords = 2;
+    constexpr std::size_t fewLetters = 8;
+    const bool isMuch = unknownWords_ >= fewWords ? unknown_ >= fewLetters : unknown_ > longestName;
+    return isMuch && 8 * unknown_ >= known_;
+  }
+
+  [[nodiscard]] bool areMostlyUnknown() const { return 2 * unknown_ >= known_; }
+
+ private:
+  static constexpr std::size_t longestName = 13;
+
+  std::size_t known_ = 0;
+  std::size_t unknown_ = 0;
+  std::size_t unknownWords_ = 0;
+};
+
+/// Takes all steps in turn until none changes anything; whether any did. A step that has changed
+/// something can give work to another one; chains of that have few links in texts of any kind, and
+/// are cut off where somebody made one that is longer.
+bool undoDisguises(Cells& cells, const Contents& contents);
+
+/// Whether the `length` letters of ASCII before a full stop may be an abbreviation.
+[[nodiscard]] bool mayBeAbbreviation(const char* letters, std::size_t length);
+
+}  // namespace quillseal::reading

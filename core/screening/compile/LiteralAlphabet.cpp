@@ -1,0 +1,148 @@
+#include "core/screening/compile/LiteralAlphabet.h"
+
+#include <algorithm>
+#include <string>
+
+#include "core/screening/compile/TextFrequency.h"
+
+namespace quillseal::screening {
+namespace {
+
+/// Letters of a literal; of longer ones only the beginning is asked for.
+constexpr std::size_t longestLiteral = 9;
+
+std::uint32_t sum(std::uint32_t a, std::uint32_t b) {
+  return a > unbounded - b ? unbounded : a + b;
+}
+
+std::uint32_t product(std::uint32_t a, std::uint32_t b) {
+  if (a == 0 || b == 0) return 0;
+  return a > unbounded / b ? unbounded : a * b;
+}
+
+}  // namespace
+
+Distance plus(const Distance& a, const Distance& b) {
+  return {.steps = sum(a.steps, b.steps), .runs = sum(a.runs, b.runs)};
+}
+
+Distance times(std::uint32_t count, const Distance& distance) {
+  return {.steps = product(count, distance.steps), .runs = product(count, distance.runs)};
+}
+
+Distance larger(const Distance& a, const Distance& b) {
+  return {.steps = std::max(a.steps, b.steps), .runs = std::max(a.runs, b.runs)};
+}
+
+void LiteralAlphabet::append(Literal& literal, Letter letter) const {
+  if (!isSpaceLetter(letter)) {
+    literal.push_back(letter);
+  } else if (literal.empty() || literal.back() != space_) {
+    literal.push_back(space_);
+  }
+}
+
+Literals LiteralAlphabet::product(const Literals& heads, const Literals& tails) const {
+  Literals all;
+  for (const Literal& head : heads) {
+    for (const Literal& tail : tails) {
+      all.push_back(head);
+      for (const Letter letter : tail)
+        append(all.back(), letter);
+    }
+  }
+  return all;
+}
+
+Distance LiteralAlphabet::longest(const Literals& literals) const {
+  Distance length;
+  for (const Literal& literal : literals) {
+    std::uint32_t runs = 0;
+    bool afterWord = false;
+    for (const Letter letter : literal) {
+      const bool isWord = isWordLetter(letter);
+      runs += isWord && afterWord ? 0U : 1U;
+      afterWord = isWord;
+    }
+    length = larger(length, {.steps = static_cast<std::uint32_t>(literal.size()), .runs = runs});
+  }
+  return length;
+}
+
+bool LiteralAlphabet::isTelling(const Literals& literals) const {
+  return std::all_of(literals.begin(), literals.end(), [this](const Literal& literal) {
+    return std::any_of(literal.begin(), literal.end(),
+                       [this](Letter letter) { return !isSpaceLetter(letter); });
+  });
+}
+
+double LiteralAlphabet::frequencyOf(const Literals& literals) const {
+  double sum = 0;
+  for (const Literal& literal : literals) {
+    std::u32string text;
+    for (const Letter letter : literal)
+      text.push_back(classes_.codePointOf(letter));
+    sum += expectedFrequency(text);
+  }
+  return std::min(sum, 1.0);
+}
+
+bool LiteralAlphabet::anyStartsWithSpace(const Literals& literals) const {
+  return std::any_of(literals.begin(), literals.end(),
+                     [this](const Literal& literal) { return startsWithSpace(literal); });
+}
+
+bool LiteralAlphabet::anyEndsInSpace(const Literals& literals) const {
+  return std::any_of(literals.begin(), literals.end(), [this](const Literal& literal) {
+    return !literal.empty() && literal.back() == space_;
+  });
+}
+
+bool LiteralAlphabet::dropLeadingSpace(Literals& literals) const {
+  bool any = false;
+  for (Literal& literal : literals) {
+    if (!startsWithSpace(literal)) continue;
+    literal.erase(literal.begin());
+    any = true;
+  }
+  return any;
+}
+
+Distance LiteralAlphabet::shorten(Literals& literals) const {
+  Distance cut;
+  for (Literal& literal : literals) {
+    std::size_t length = std::min(literal.size(), longestLiteral);
+    while (length > 0 && isWithinExpansion(literal[length - 1]))
+      --length;
+    if (length == 0 || literal.size() <= longestLiteral) continue;
+    const auto end = literal.begin() + static_cast<std::ptrdiff_t>(length);
+    cut = larger(cut, longest({Literal(end, literal.end())}));
+    literal.erase(end, literal.end());
+  }
+  std::sort(literals.begin(), literals.end());
+  literals.erase(std::unique(literals.begin(), literals.end()), literals.end());
+  return cut;
+}
+
+bool LiteralAlphabet::isSpaceLetter(Letter letter) const {
+  return letter != otherLetter && classes_.isSpace(classes_.classOf(classes_.codePointOf(letter)));
+}
+
+/// Whether everything that folds to it is a word character.
+bool LiteralAlphabet::isWordLetter(Letter letter) const {
+  const auto ids = classes_.classesWith(letter);
+  return !ids.empty() &&
+         std::all_of(ids.begin(), ids.end(), [this](ClassId id) { return classes_.isWord(id); });
+}
+
+/// Whether one code point may fold to this letter and more behind it, as ß does to s. A literal
+/// that ended there would end within a code point, where no hit is noticed.
+bool LiteralAlphabet::isWithinExpansion(Letter letter) const {
+  const auto ids = classes_.classesWith(letter);
+  return std::any_of(ids.begin(), ids.end(), [&](ClassId id) {
+    const auto folding = classes_.folding(id);
+    return std::find(folding.begin(), folding.end() - 1, letter) != folding.end() - 1;
+  });
+}
+
+}  // namespace quillseal::screening

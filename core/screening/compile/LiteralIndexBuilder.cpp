@@ -1,0 +1,224 @@
+#include "core/screening/compile/LiteralIndexBuilder.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace quillseal::screening {
+namespace {
+
+using Table = LiteralIndexTable<Owned>;
+using State = Table::State;
+using Symbol = Table::Symbol;
+
+/// Most of a text leads to states no deeper than this.
+constexpr std::uint32_t fullDepth = 2;
+
+/// The symbols of the letters, by descending frequency in the literals.
+class SymbolCode {
+ public:
+  explicit SymbolCode(const std::map<Letter, std::size_t>& frequencies) {
+    std::vector<std::pair<std::size_t, Letter>> byFrequency;
+    byFrequency.reserve(frequencies.size());
+    for (const auto& [letter, frequency] : frequencies)
+      byFrequency.emplace_back(frequency, letter);
+    std::sort(byFrequency.rbegin(), byFrequency.rend());
+    for (const auto& [frequency, letter] : byFrequency)
+      symbols_.emplace(letter, static_cast<Symbol>(symbols_.size() + 1));
+  }
+
+  [[nodiscard]] Symbol symbolOf(Letter letter) const {
+    const auto symbol = symbols_.find(letter);
+    return symbol == symbols_.end() ? Symbol{0} : symbol->second;
+  }
+  /// With that of every other character.
+  [[nodiscard]] std::size_t count() const { return symbols_.size() + 1; }
+
+ private:
+  std::map<Letter, Symbol> symbols_;
+};
+
+/// The trie of the literals, with the links by which a failed search goes on.
+class Trie {
+ public:
+  struct Node {
+    std::vector<std::pair<Symbol, std::uint32_t>> children;
+    std::vector<std::uint16_t> values;
+    std::uint32_t failure = 0;
+    std::uint32_t depth = 0;
+    bool isFull = true;
+
+    [[nodiscard]] std::uint32_t child(Symbol symbol) const {
+      for (const auto& [own, node] : children)
+        if (own == symbol) return node;
+      return 0;
+    }
+    [[nodiscard]] bool isHit() const { return !values.empty(); }
+  };
+
+  void add(std::span<const Symbol> symbols, std::uint16_t value) {
+    std::uint32_t at = 0;
+    for (const Symbol symbol : symbols) {
+      std::uint32_t next = nodes_[at].child(symbol);
+      if (next == 0) {
+        next = static_cast<std::uint32_t>(nodes_.size());
+        if (next >= std::numeric_limits<State>::max()) throw PatternError("too many literals");
+        nodes_[at].children.emplace_back(symbol, next);
+        nodes_.emplace_back();
+        nodes_[next].depth = nodes_[at].depth + 1;
+        nodes_[next].isFull =
+            nodes_[at].isFull && symbol < Table::columns && nodes_[next].depth <= fullDepth;
+      }
+      at = next;
+    }
+    auto& values = nodes_[at].values;
+    if (std::find(values.begin(), values.end(), value) == values.end()) values.push_back(value);
+  }
+
+  /// Links the nodes; all of them, in the order in which the states are to be numbered.
+  std::vector<std::uint32_t> finish() {
+    link();
+    // Depth first, so that the states along a literal lie side by side.
+    std::vector<std::uint32_t> order;
+    std::vector<std::uint32_t> open{0};
+    while (!open.empty()) {
+      order.push_back(open.back());
+      open.pop_back();
+      for (const auto& [symbol, child] : nodes_[order.back()].children)
+        open.push_back(child);
+    }
+    const auto rank = [this](std::uint32_t node) {
+      const bool isHit = nodes_[node].isHit();
+      return nodes_[node].isFull ? (isHit ? 1 : 0) : (isHit ? 2 : 3);
+    };
+    std::stable_sort(order.begin(), order.end(),
+                     [&](std::uint32_t a, std::uint32_t b) { return rank(a) < rank(b); });
+    return order;
+  }
+
+  [[nodiscard]] std::uint32_t after(std::uint32_t node, Symbol symbol) const {
+    for (;; node = nodes_[node].failure) {
+      const std::uint32_t child = nodes_[node].child(symbol);
+      if (child != 0 || node == 0) return child;
+    }
+  }
+
+  [[nodiscard]] const Node& node(std::uint32_t number) const { return nodes_[number]; }
+  [[nodiscard]] std::size_t size() const { return nodes_.size(); }
+
+ private:
+  void link() {
+    // Breadth first, so that the failure of a node is complete before the node.
+    std::vector<std::uint32_t> order{0};
+    for (std::size_t i = 0; i < order.size(); ++i) {
+      const std::uint32_t node = order[i];
+      for (const auto& [symbol, child] : nodes_[node].children) {
+        if (node != 0) nodes_[child].failure = after(nodes_[node].failure, symbol);
+        const auto& inherited = nodes_[nodes_[child].failure].values;
+        auto& values = nodes_[child].values;
+        values.insert(values.end(), inherited.begin(), inherited.end());
+        order.push_back(child);
+      }
+    }
+  }
+
+  std::vector<Node> nodes_ = std::vector<Node>(1);
+};
+
+void fillSymbols(Table& table, const SymbolCode& code, const ClassPartition& classes) {
+  for (std::size_t i = 0; i < classes.count(); ++i) {
+    const auto id = static_cast<ClassId>(i);
+    const Letter space[] = {classes.spaceLetter()};
+    const auto letters = classes.isSpace(id) ? std::span<const Letter>(space) : classes.folding(id);
+    table.symbols.push_back(letters.size() == 1 ? code.symbolOf(letters.front()) : Table::several);
+    if (letters.size() == 1) continue;
+    table.sequences.push_back({.id = id,
+                               .first = static_cast<std::uint16_t>(table.letters.size()),
+                               .count = static_cast<std::uint16_t>(letters.size())});
+    for (const Letter letter : letters)
+      table.letters.push_back(code.symbolOf(letter));
+  }
+}
+
+/// The edges of the node and of all it falls back on, down to one with a row that has the rest.
+/// Those of the root for symbols without a column are in a row of their own.
+void addEdges(Table& table, const Trie& trie, std::uint32_t number,
+              const std::vector<State>& numbers) {
+  std::map<Symbol, State> edges;
+  std::uint32_t fallback = 0;
+  for (std::uint32_t at = number; at != 0; at = trie.node(at).failure) {
+    if (fallback == 0 && trie.node(at).isFull) fallback = at;
+    for (const auto& [symbol, child] : trie.node(at).children)
+      if (fallback == 0 || symbol >= Table::columns) edges.emplace(symbol, numbers[child]);
+  }
+  const auto& children = trie.node(number).children;
+  auto onward = children.empty() ? edges.begin() : edges.find(children.front().first);
+  if (onward == edges.end()) onward = edges.begin();
+  Table::Edges state{.onward = {.symbol = Table::several, .target = 0},
+                     .fallback = numbers[fallback],
+                     .count = 0,
+                     .first = static_cast<std::uint32_t>(table.edges.size())};
+  if (onward != edges.end()) {
+    state.onward = {.symbol = onward->first, .target = onward->second};
+    edges.erase(onward);
+  }
+  state.count = static_cast<std::uint16_t>(edges.size());
+  for (const auto& [symbol, target] : edges)
+    table.edges.push_back({.symbol = symbol, .target = target});
+  table.states.push_back(state);
+}
+
+void fillStates(Table& table, Trie& trie, std::size_t symbolCount) {
+  const std::vector<std::uint32_t> order = trie.finish();
+  std::vector<State> numbers(trie.size());
+  for (std::size_t i = 0; i < order.size(); ++i)
+    numbers[order[i]] = static_cast<State>(i);
+  auto& layout = table.layout;
+  layout.root = numbers[0];
+  const auto stateAfter = [&](std::uint32_t node, std::size_t symbol) {
+    return numbers[trie.after(node, static_cast<Symbol>(symbol))];
+  };
+  for (std::size_t symbol = 0; symbol < symbolCount; ++symbol)
+    table.rootRow.push_back(stateAfter(0, symbol));
+  for (const std::uint32_t number : order) {
+    const Trie::Node& node = trie.node(number);
+    if (node.isFull) {
+      ++layout.fullCount;
+      for (std::size_t symbol = 0; symbol < Table::columns; ++symbol)
+        table.rows.push_back(stateAfter(number, symbol));
+    }
+    addEdges(table, trie, number, numbers);
+    if (!node.isHit()) continue;
+    if (layout.hitCount++ == 0) layout.firstHit = numbers[number];
+    table.valueStarts.push_back(static_cast<std::uint32_t>(table.values.size()));
+    table.values.insert(table.values.end(), node.values.begin(), node.values.end());
+  }
+  table.valueStarts.push_back(static_cast<std::uint32_t>(table.values.size()));
+}
+
+}  // namespace
+
+void LiteralIndexBuilder::add(std::span<const Letter> literal, std::uint16_t value) {
+  literals_.push_back({.letters = {literal.begin(), literal.end()}, .value = value});
+}
+
+LiteralIndexTable<Owned> LiteralIndexBuilder::build(const ClassPartition& classes) const {
+  std::map<Letter, std::size_t> frequencies;
+  for (const Literal& literal : literals_)
+    for (const Letter letter : literal.letters)
+      ++frequencies[letter];
+  const SymbolCode code(frequencies);
+  Table table;
+  fillSymbols(table, code, classes);
+  Trie trie;
+  for (const auto& [letters, value] : literals_) {
+    std::vector<Symbol> symbols;
+    symbols.reserve(letters.size());
+    for (const Letter letter : letters)
+      symbols.push_back(code.symbolOf(letter));
+    trie.add(symbols, value);
+  }
+  fillStates(table, trie, code.count());
+  return table;
+}
+
+}  // namespace quillseal::screening

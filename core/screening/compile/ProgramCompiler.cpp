@@ -1,0 +1,469 @@
+#include "core/screening/compile/ProgramCompiler.h"
+
+#include <algorithm>
+#include <optional>
+#include <set>
+#include <span>
+#include <tuple>
+#include <utility>
+
+#include "core/screening/match/WordBits.h"
+
+namespace quillseal::screening {
+namespace {
+
+void unite(ClassBits& bits, const ClassBits& others) {
+  for (std::size_t i = 0; i < bits.size(); ++i)
+    bits[i] |= others[i];
+}
+
+class ProgramCompiler {
+ public:
+  ProgramCompiler(const ClassPartition& classes, ClassSetPool& sets)
+      : classes_(classes), sets_(sets) {}
+
+  PatternProgram<Owned> compile(const Node& pattern) {
+    emit(pattern);
+    add({.operation = Operation::accept});
+    // The program of an exception may add to the list.
+    std::size_t compiled = 0;
+    while (compiled < exceptions_.size()) {
+      program_.exceptions.push_back({.instruction = here(), .beginning = {}});
+      emit(Node(exceptions_[compiled++]));
+      add({.operation = Operation::accept});
+    }
+    known_.resize(program_.code.size());
+    for (ProgramEntry& exception : program_.exceptions)
+      exception.beginning = kept(startAt(exception.instruction));
+    for (ProgramEntry& target : program_.targets)
+      target.beginning = kept(startAt(target.instruction));
+    for (std::size_t i = 0; i < program_.code.size(); ++i) {
+      Instruction& instruction = program_.code[i];
+      if (instruction.operation == Operation::greedyLoop ||
+          instruction.operation == Operation::lazyLoop)
+        instruction.first = numberOf(kept(startAt(static_cast<std::uint32_t>(i + 1))));
+    }
+    program_.entries.push_back({.instruction = 0, .beginning = kept(startAt(0))});
+    if (pattern.kind == Node::Kind::alternatives)
+      for (std::size_t i = 0; i < pattern.children.size(); ++i)
+        program_.entries.push_back(program_.targets[i]);
+    return std::move(program_);
+  }
+
+ private:
+  [[nodiscard]] std::uint16_t here() const { return counted(program_.code.size()); }
+
+  std::uint32_t add(const Instruction& instruction) {
+    program_.code.push_back(instruction);
+    return here() - 1U;
+  }
+
+  void emit(const Node& node) {
+    switch (node.kind) {
+      case Node::Kind::set:
+        add({.operation = Operation::set, .set = setOf(node.set)});
+        break;
+      case Node::Kind::foldedText:
+        add({.operation = Operation::foldedText,
+             .count = counted(node.text.size()),
+             .first = lettersOf(node.text)});
+        break;
+      case Node::Kind::sequence:
+        for (const Node& child : node.children)
+          emit(child);
+        break;
+      case Node::Kind::alternatives:
+        emitAlternatives(node);
+        break;
+      case Node::Kind::repetition:
+        emitRepetition(node);
+        break;
+      case Node::Kind::wordBoundary:
+        add({.operation = node.negative ? Operation::noWordBoundary : Operation::wordBoundary});
+        break;
+      case Node::Kind::textStart:
+        add({.operation = Operation::textStart});
+        break;
+      case Node::Kind::textEnd:
+        add({.operation = Operation::textEnd});
+        break;
+      case Node::Kind::absoluteEnd:
+        add({.operation = Operation::absoluteEnd});
+        break;
+      case Node::Kind::lookAhead: {
+        const std::uint32_t look =
+            add({.operation = node.negative ? Operation::negativeLookAhead : Operation::lookAhead});
+        emit(node.children.front());
+        add({.operation = Operation::accept});
+        program_.code[look].first = here();
+        break;
+      }
+      case Node::Kind::precedingInSet:
+        add({.operation = node.negative ? Operation::notPrecededBy : Operation::precededBy,
+             .set = setOf(node.set)});
+        break;
+      case Node::Kind::precedingWord:
+        add({.operation = Operation::precededByWord,
+             .count = counted(node.min),
+             .max = counted(node.max),
+             .set = setOf(node.set)});
+        break;
+    }
+  }
+
+  /// Where the letters stand, which are kept once.
+  std::uint16_t lettersOf(const std::u32string& text) {
+    std::vector<Letter> letters;
+    for (const char32_t c : text)
+      letters.push_back(classes_.letterOf(c));
+    auto& all = program_.letters;
+    const auto known = std::search(all.begin(), all.end(), letters.begin(), letters.end());
+    const std::uint16_t first = counted(static_cast<std::size_t>(known - all.begin()));
+    if (known == all.end()) all.insert(all.end(), letters.begin(), letters.end());
+    return first;
+  }
+
+  void emitAlternatives(const Node& node) {
+    const std::uint32_t choice = addChoice(node.children.size());
+    std::vector<std::uint32_t> jumps;
+    for (std::size_t i = 0; i < node.children.size(); ++i) {
+      program_.targets[program_.code[choice].first + i].instruction = here();
+      emit(node.children[i]);
+      if (i + 1 < node.children.size()) jumps.push_back(add({.operation = Operation::jump}));
+    }
+    for (const std::uint32_t jump : jumps)
+      program_.code[jump].first = here();
+  }
+
+  std::uint32_t addChoice(std::size_t targets) {
+    const std::uint16_t first = counted(program_.targets.size());
+    program_.targets.resize(first + targets);
+    return add({.operation = Operation::choice,
+                .count = counted(targets),
+                .memo = memoRows(1),
+                .first = first});
+  }
+
+  void emitRepetition(const Node& node) {
+    const Node& body = node.children.front();
+    const std::uint32_t optional = node.max == unbounded ? unbounded : node.max - node.min;
+    if (const auto round = roundOfOneCodePoint(body)) {
+      if (node.min == 1) {
+        emit(body);
+      } else if (node.min > 1) {
+        addLoop(Operation::greedyLoop, *round, node.min, node.min);
+      }
+      if (optional > 0)
+        addLoop(node.lazy ? Operation::lazyLoop : Operation::greedyLoop, *round, 0, optional);
+      return;
+    }
+    for (std::uint32_t i = 0; i < node.min; ++i)
+      emit(body);
+    std::vector<std::uint32_t> choices;
+    for (std::uint32_t i = 0; i < (optional == unbounded ? 1 : optional); ++i) {
+      choices.push_back(addChoice(2));
+      targetOf(choices.back(), node.lazy ? 1 : 0) = here();
+      emit(body);
+    }
+    if (optional == unbounded)
+      add({.operation = Operation::jump, .first = counted(choices.front())});
+    for (const std::uint32_t choice : choices)
+      targetOf(choice, node.lazy ? 0 : 1) = here();
+  }
+
+  /// What one round of a loop takes when that is always one code point.
+  struct Round {
+    ClassSetId set = 0;
+    std::uint16_t exception = 0;
+  };
+
+  // Whichever alternative takes the code point, the loop goes on behind it: their order does not
+  // matter, and those that ask nothing of the neighbours are one set.
+  std::optional<Round> roundOfOneCodePoint(const Node& body) {
+    if (body.kind == Node::Kind::set) return Round{.set = setOf(body.set)};
+    if (body.kind != Node::Kind::alternatives) return std::nullopt;
+    ClassBits free(sets_.words());
+    Node conditional{.kind = Node::Kind::alternatives};
+    for (const Node& child : body.children) {
+      if (!takesOneCodePoint(child)) return std::nullopt;
+      if (const Node* const only = onlyChild(child); only->kind == Node::Kind::set) {
+        unite(free, sets_.bits(setOf(only->set)));
+      } else {
+        conditional.children.push_back(child);
+      }
+    }
+    Round round{.set = sets_.intern(free)};
+    if (!conditional.children.empty()) round.exception = exceptionOf(std::move(conditional));
+    return round;
+  }
+
+  static const Node* onlyChild(const Node& node) {
+    const bool isWrapped = node.kind == Node::Kind::sequence && node.children.size() == 1;
+    return isWrapped ? &node.children.front() : &node;
+  }
+
+  static bool takesOneCodePoint(const Node& node) {
+    const auto parts =
+        node.kind == Node::Kind::sequence ? std::span(node.children) : std::span(&node, 1);
+    const auto isSet = [](const Node& part) { return part.kind == Node::Kind::set; };
+    const auto takesNone = [](const Node& part) {
+      return part.kind == Node::Kind::lookAhead || part.kind == Node::Kind::wordBoundary ||
+             part.kind == Node::Kind::precedingInSet || part.kind == Node::Kind::precedingWord;
+    };
+    return std::ranges::count_if(parts, isSet) == 1 &&
+           std::ranges::all_of(parts,
+                               [&](const Node& part) { return isSet(part) || takesNone(part); });
+  }
+
+  std::uint16_t exceptionOf(Node conditional) {
+    auto known = std::find(exceptions_.begin(), exceptions_.end(), conditional);
+    if (known == exceptions_.end())
+      known = exceptions_.insert(exceptions_.end(), std::move(conditional));
+    return counted(static_cast<std::size_t>(known - exceptions_.begin()) + 1);
+  }
+
+  void addLoop(Operation operation, const Round& round, std::uint32_t min, std::uint32_t max) {
+    add({.operation = operation,
+         .count = counted(min),
+         .max = max == unbounded ? Instruction::endless : counted(max),
+         .memo = memoRows(2),
+         .set = round.set,
+         .exception = round.exception});
+  }
+
+  static std::uint16_t counted(std::size_t count) {
+    if (count >= Instruction::endless) throw PatternError("pattern too long");
+    return static_cast<std::uint16_t>(count);
+  }
+
+  std::uint16_t memoRows(std::size_t count) {
+    const std::uint16_t first = program_.memoRows;
+    program_.memoRows = counted(first + count);
+    return first;
+  }
+
+  std::uint16_t& targetOf(std::uint32_t choice, std::uint32_t which) {
+    return program_.targets[program_.code[choice].first + which].instruction;
+  }
+
+  ClassSetId setOf(std::size_t tableIndex) {
+    const auto bits = classes_.classesOf(tableIndex);
+    return sets_.intern({bits.begin(), bits.end()});
+  }
+
+  /// A `Beginning` whose set need not be kept.
+  struct Start {
+    ClassBits classes;
+    bool anything = false;
+    bool atBoundary = false;
+  };
+
+  // No cycle is followed: the body of a loop takes at least one code point.
+  const Start& startAt(std::uint32_t index) {
+    if (!known_[index]) known_[index] = startOf(index);
+    return *known_[index];
+  }
+
+  Start startOf(std::uint32_t index) {
+    const Instruction& instruction = program_.code[index];
+    switch (instruction.operation) {
+      case Operation::set:
+        return {.classes = sets_.bits(instruction.set)};
+      case Operation::foldedText: {
+        Start start{.classes = ClassBits(sets_.words())};
+        for (const ClassId id : classes_.classesWith(program_.letters[instruction.first]))
+          if (classes_.folding(id).front() == program_.letters[instruction.first])
+            setBit(start.classes, id);
+        return start;
+      }
+      case Operation::choice: {
+        Start all{.classes = ClassBits(sets_.words()), .atBoundary = true};
+        for (std::uint32_t i = 0; i < instruction.count; ++i)
+          all =
+              either(std::move(all), startAt(program_.targets[instruction.first + i].instruction));
+        return all;
+      }
+      case Operation::greedyLoop:
+      case Operation::lazyLoop: {
+        Start body{.classes = sets_.bits(instruction.set)};
+        if (instruction.exception != 0)
+          unite(body.classes,
+                startAt(program_.exceptions[instruction.exception - std::size_t{1}].instruction)
+                    .classes);
+        return instruction.count > 0 ? body : either(std::move(body), startAt(index + 1));
+      }
+      case Operation::jump:
+      case Operation::lookAhead:
+      case Operation::negativeLookAhead:
+        return startAt(instruction.first);
+      case Operation::wordBoundary: {
+        Start start = startAt(index + 1);
+        start.atBoundary = true;
+        return start;
+      }
+      case Operation::accept:
+      case Operation::textEnd:
+      case Operation::absoluteEnd:
+        return {.classes = ClassBits(sets_.words()), .anything = true};
+      default:
+        return startAt(index + 1);
+    }
+  }
+
+  static Start either(Start one, const Start& other) {
+    unite(one.classes, other.classes);
+    one.anything = one.anything || other.anything;
+    one.atBoundary = one.atBoundary && other.atBoundary;
+    return one;
+  }
+
+  Beginning kept(const Start& start) {
+    const ClassBits& classes = start.anything ? ClassBits(sets_.words()) : start.classes;
+    return {.classes = sets_.intern(classes),
+            .anything = start.anything,
+            .atBoundary = start.atBoundary};
+  }
+
+  /// Its place in `beginnings`.
+  std::uint16_t numberOf(const Beginning& beginning) {
+    auto& all = program_.beginnings;
+    const auto found = std::find(all.begin(), all.end(), beginning);
+    if (found != all.end()) return static_cast<std::uint16_t>(found - all.begin());
+    all.push_back(beginning);
+    return counted(all.size() - 1);
+  }
+
+  PatternProgram<Owned> program_;
+  const ClassPartition& classes_;
+  ClassSetPool& sets_;
+  std::vector<std::optional<Start>> known_;
+  std::vector<Node> exceptions_;
+};
+
+/// Goes all ways through a program at once, one code point after the other.
+class LeadingWalk {
+ public:
+  LeadingWalk(const PatternProgram<Owned>& program, const ClassPartition& classes,
+              const ClassSetPool& sets)
+      : program_(program), classes_(classes), sets_(sets) {}
+
+  std::vector<ClassBits> from(const ProgramEntry& entry, std::size_t longest) {
+    std::vector<ClassBits> leading;
+    behind_ = {{.instruction = entry.instruction}};
+    while (leading.size() < longest) {
+      here_ = std::exchange(behind_, {});
+      step_.assign(sets_.words(), 0);
+      std::vector<Place> open(here_.begin(), here_.end());
+      while (!open.empty()) {
+        const Place place = open.back();
+        open.pop_back();
+        if (!passes(place)) return leading;
+        for (const std::uint32_t instruction : std::exchange(reached_, {}))
+          if (const Place next{.instruction = instruction}; here_.insert(next).second)
+            open.push_back(next);
+      }
+      leading.push_back(step_);
+    }
+    return leading;
+  }
+
+ private:
+  struct Place {
+    std::uint32_t instruction = 0;
+    std::uint32_t taken = 0;  ///< letters or rounds of it that lie behind
+
+    bool operator<(const Place& other) const {
+      return std::tie(instruction, taken) < std::tie(other.instruction, other.taken);
+    }
+  };
+
+  /// Notes what code points lead on from here and where to. False when the match may end here, or
+  /// when it is not certain that one code point is taken.
+  bool passes(const Place& place) {
+    const auto [index, taken] = place;
+    const Instruction& instruction = program_.code[index];
+    switch (instruction.operation) {
+      case Operation::accept:
+      case Operation::textEnd:
+      case Operation::absoluteEnd:
+        return false;
+      case Operation::set:
+        unite(step_, sets_.bits(instruction.set));
+        behind_.insert({.instruction = index + 1});
+        break;
+      case Operation::foldedText:
+        return passesLetter(place);
+      case Operation::greedyLoop:
+      case Operation::lazyLoop:
+        passesRound(place);
+        break;
+      case Operation::choice:
+        for (std::uint32_t i = 0; i < instruction.count; ++i)
+          reached_.push_back(program_.targets[instruction.first + i].instruction);
+        break;
+      case Operation::jump:
+      case Operation::lookAhead:
+      case Operation::negativeLookAhead:
+        reached_.push_back(instruction.first);
+        break;
+      default:
+        reached_.push_back(index + 1);
+        break;
+    }
+    return true;
+  }
+
+  bool passesLetter(const Place& place) {
+    const auto [index, taken] = place;
+    const Instruction& text = program_.code[index];
+    const Letter letter = program_.letters[text.first + taken];
+    for (const ClassId id : classes_.classesWith(letter)) {
+      if (classes_.folding(id).front() != letter) continue;
+      if (classes_.folding(id).size() > 1) return false;
+      setBit(step_, id);
+    }
+    behind_.insert(taken + 1 < text.count ? Place{.instruction = index, .taken = taken + 1}
+                                          : Place{.instruction = index + 1});
+    return true;
+  }
+
+  // A counted loop stays a few rounds; then it may go on after any of them.
+  void passesRound(const Place& place) {
+    const auto [index, taken] = place;
+    const Instruction& loop = program_.code[index];
+    unite(step_, sets_.bits(loop.set));
+    if (loop.exception != 0)
+      unite(step_,
+            sets_.bits(program_.exceptions[loop.exception - std::size_t{1}].beginning.classes));
+    if (loop.count > taken + 1) {
+      behind_.insert({.instruction = index, .taken = taken + 1});
+    } else {
+      behind_.insert({.instruction = index + 1});
+      if (loop.max > loop.count) behind_.insert(place);
+    }
+    if (loop.count == 0) reached_.push_back(index + 1);
+  }
+
+  const PatternProgram<Owned>& program_;
+  const ClassPartition& classes_;
+  const ClassSetPool& sets_;
+  std::set<Place> here_;                ///< before the next code point
+  std::set<Place> behind_;              ///< behind it
+  std::vector<std::uint32_t> reached_;  ///< from the latest place, without a code point
+  ClassBits step_;                      ///< what the next code point can be of
+};
+
+}  // namespace
+
+PatternProgram<Owned> compileProgram(const Node& pattern, const ClassPartition& classes,
+                                     ClassSetPool& sets) {
+  return ProgramCompiler(classes, sets).compile(pattern);
+}
+
+std::vector<ClassBits> leadingClasses(const PatternProgram<Owned>& program,
+                                      const ProgramEntry& entry, std::size_t longest,
+                                      const ClassPartition& classes, const ClassSetPool& sets) {
+  return LeadingWalk(program, classes, sets).from(entry, longest);
+}
+
+}  // namespace quillseal::screening

@@ -1,0 +1,131 @@
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+#include "core/screening/match/CharacterClasses.h"
+#include "core/screening/match/StoredTables.h"
+
+namespace quillseal::screening {
+
+/// An automaton over symbols: the letters of the literals, commonest first, behind 0 for any other
+/// character.
+template <template <typename> typename Array>
+struct LiteralIndexTable {
+  using State = std::uint16_t;
+  using Symbol = std::uint16_t;
+
+  /// Symbols below this have a column in the rows of full states.
+  static constexpr std::size_t columns = 64;
+  /// In `symbols`: more than one, which `sequences` has.
+  static constexpr Symbol several = 0xFFFF;
+
+  /// The symbols of a class that folds to several letters.
+  struct Sequence {
+    ClassId id;
+    std::uint16_t first;  ///< in `letters`
+    std::uint16_t count;
+  };
+  // Full states come first, and states with hits stand together where the two kinds meet.
+  struct Layout {
+    State root = 0;
+    State fullCount = 0;
+    State firstHit = 0;
+    State hitCount = 0;
+  };
+  struct Edge {
+    Symbol symbol;
+    State target;
+  };
+  /// What a state knows by itself. A full state has a row besides, so that its edges are those of
+  /// symbols without a column.
+  struct Edges {
+    Edge onward;     ///< along a literal, so met most; its symbol is `several` when there is none
+    State fallback;  ///< the full state whose row has the other symbols with a column
+    std::uint16_t count;
+    std::uint32_t first;  ///< of the other edges
+  };
+
+  Layout layout;
+  Array<Symbol> symbols;      ///< by class
+  Array<Sequence> sequences;  ///< by ascending class
+  Array<Symbol> letters;
+  Array<State> rows;     ///< the successors of each full state
+  Array<State> rootRow;  ///< those of the root, for every symbol
+  Array<Edges> states;
+  Array<Edge> edges;
+  Array<std::uint32_t> valueStarts;  ///< by hit, and the end
+  Array<std::uint16_t> values;
+
+  void transfer(auto& archive) {
+    archive(layout, symbols, sequences, letters, rows, rootRow, states, edges, valueStarts, values);
+  }
+};
+
+/// Finds all occurrences of many literals in one pass over a classified text (Aho and Corasick,
+/// "Efficient string matching", 1975). Literals are over folded letters; a code point that folds to
+/// several letters counts as all of them. The blank in a literal stands for any run of white space:
+/// of such a run, only the first code point is to be passed to `advance`. States near the root have
+/// a full row of successors; the many others have few that are not those of such a state, too.
+class LiteralIndex {
+ public:
+  using Table = LiteralIndexTable<Stored>;
+  using State = Table::State;
+
+  explicit LiteralIndex(TableReader& tables) { table_.transfer(tables); }
+
+  /// Where a pass begins.
+  [[nodiscard]] State root() const { return table_.layout.root; }
+
+  /// Whether a code point of class `id` is several letters.
+  [[nodiscard]] bool isSeveral(ClassId id) const { return table_.symbols[id] == Table::several; }
+
+  /// The state after a code point of class `id`.
+  [[nodiscard]] State advance(State state, ClassId id) const {
+    const Table::Symbol symbol = table_.symbols[id];
+    return symbol != Table::several ? after(state, symbol) : afterSeveral(state, id);
+  }
+
+  /// Whether a literal ends in this state.
+  [[nodiscard]] bool isHit(State state) const {
+    return static_cast<State>(state - table_.layout.firstHit) < table_.layout.hitCount;
+  }
+
+  /// The values of the literals that end here. REQUIRES: isHit(state).
+  [[nodiscard]] std::span<const std::uint16_t> values(State state) const {
+    const std::size_t hit = state - table_.layout.firstHit;
+    const std::uint32_t start = table_.valueStarts[hit];
+    return table_.values.subspan(start, table_.valueStarts[hit + 1] - start);
+  }
+
+ private:
+  [[nodiscard]] State after(State state, Table::Symbol symbol) const {
+    if (state == table_.layout.root || symbol == 0) return table_.rootRow[symbol];
+    const bool hasColumn = symbol < Table::columns;
+    if (!hasColumn || state >= table_.layout.fullCount) {
+      const Table::Edges& edges = table_.states[state];
+      if (edges.onward.symbol == symbol) return edges.onward.target;
+      const Table::Edge* edge = table_.edges.data() + edges.first;
+      for (const Table::Edge* const end = edge + edges.count; edge != end; ++edge)
+        if (edge->symbol == symbol) return edge->target;
+      if (!hasColumn) return table_.rootRow[symbol];
+      state = edges.fallback;
+    }
+    return table_.rows[state * Table::columns + symbol];
+  }
+
+  [[nodiscard]] State afterSeveral(State state, ClassId id) const {
+    const auto sequence =
+        std::lower_bound(table_.sequences.begin(), table_.sequences.end(), id,
+                         [](const Table::Sequence& one, ClassId other) { return one.id < other; });
+    for (const Table::Symbol symbol : table_.letters.subspan(sequence->first, sequence->count))
+      state = after(state, symbol);
+    return state;
+  }
+
+  Table table_;
+};
+
+}  // namespace quillseal::screening

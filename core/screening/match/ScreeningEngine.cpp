@@ -1,0 +1,446 @@
+#include "core/screening/match/ScreeningEngine.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <limits>
+#include <new>
+#include <optional>
+#include <utility>
+
+#include "core/screening/match/ScreeningTables.h"
+#include "core/screening/match/WordBits.h"
+#include "core/text/UnicodeText.h"
+
+namespace quillseal::screening {
+namespace {
+
+/// What stands before all other tables.
+std::span<const std::uint16_t> readUnusable(TableReader& reader) {
+  std::span<const std::uint16_t> patterns;
+  reader(patterns);
+  return patterns;
+}
+
+}  // namespace
+
+struct ScreeningEngine::Tables {
+  explicit Tables(TableReader reader)
+      : classes(reader), sets(reader, classes.count()), index(reader) {
+    table.transfer(reader);
+    programs.resize(table.searches.size());
+    for (PatternProgram<Stored>& program : programs)
+      program.transfer(reader);
+  }
+
+  CharacterClasses classes;
+  ClassSets sets;
+  LiteralIndex index;
+  ScreeningTable<Stored> table;
+  std::vector<PatternProgram<Stored>> programs;  ///< by search
+};
+
+// ---------------------------------------------------------------------------------------------
+// One screening
+
+class ScreeningEngine::Screening {
+ public:
+  Screening(const Tables& tables, std::string_view text)
+      : tables_(tables), table_(tables.table), text_(tables.classes.classify(text)) {
+    outcomes_.resize(table_.searches.size());
+    progress_.resize(table_.chains.size());
+    place_.state = tables.index.root();
+    leading_.resize(table_.leadingInitial.size());
+    armed_.assign(table_.firstHits.begin(), table_.firstHits.end());
+    reached_.resize(table_.linkCount);
+  }
+
+  void run() {
+    for (std::uint32_t search = 0; search < table_.searches.size(); ++search)
+      if (table_.searches[search].atTextStart)
+        tryAt(search, 0, tables_.programs[search].whole(), 0);
+    for (std::size_t start = 0; start < text_.size(); start += stretch) {
+      const std::size_t end = std::min(start + stretch, text_.size());
+      findLeadingClasses(start, end);
+      findLiterals(start, end);
+    }
+    // An empty match behind the last code point has no code point to be found by.
+    for (const LeadingEnd& end : table_.maybeEmpty)
+      tryAlternative(end.search, end.alternative, static_cast<std::uint32_t>(text_.size()));
+  }
+
+  [[nodiscard]] std::vector<PatternMatch> matches() const {
+    std::vector<PatternMatch> matches;
+    for (std::size_t pattern = 0; pattern < table_.forms.size(); ++pattern) {
+      const Form& form = table_.forms[pattern];
+      if (!form.isUsable) continue;
+      const auto searches = table_.formSearches.subspan(form.firstSearch);
+      const auto required = searches.first(form.required);
+      const auto forbidden = searches.subspan(form.required, form.forbidden);
+      const auto isFound = [&](std::size_t search) { return outcomes_[search].start != none; };
+      if (!std::all_of(required.begin(), required.end(), isFound)) continue;
+      PatternMatch match{.pattern = pattern};
+      const auto failed = [&](std::size_t search) { return outcomes_[search].failed; };
+      const auto forbids = [&](std::size_t search) { return isFound(search) && !failed(search); };
+      if (std::any_of(forbidden.begin(), forbidden.end(), forbids)) continue;
+      match.failed = std::any_of(required.begin(), required.end(), failed) ||
+                     std::any_of(forbidden.begin(), forbidden.end(), failed);
+      if (form.main != Form::noMain) {
+        const Outcome& outcome = outcomes_[form.main];
+        if (outcome.start == none) continue;
+        match.start = form.fromTextStart ? 0 : outcome.start;
+        match.end = outcome.end;
+        match.failed = match.failed || outcome.failed;
+      }
+      matches.push_back(match);
+    }
+    return matches;
+  }
+
+  [[nodiscard]] std::uint64_t steps() const {
+    std::uint64_t steps = steps_ + text_.size();
+    for (const Matcher& matcher : matchers_)
+      steps += matcher.steps();
+    return steps;
+  }
+
+  [[nodiscard]] std::size_t size() const { return text_.size(); }
+
+ private:
+  /// So many code points are searched for leading classes, then for literals, so that starts keep
+  /// ascending, more or less.
+  static constexpr std::size_t stretch = 1024;
+
+  static constexpr std::size_t atOnce = 32;  ///< hits that are looked at together
+
+  /// How far the pass has come, in the two measures of `Distance`.
+  struct Progressed {
+    std::uint32_t steps = 0;
+    std::uint32_t runs = 0;
+  };
+
+  struct Outcome {
+    std::uint32_t matcher = none;  ///< made when it is first needed
+    std::uint32_t start = none;    ///< of the leftmost match so far
+    std::uint32_t alternative = 0;
+    std::uint32_t end = 0;
+    bool failed = false;
+  };
+
+  /// Where the search for literals stands.
+  struct Place {
+    LiteralIndex::State state = 0;
+    std::uint32_t skipped = 0;         ///< code points that continue a run of white space
+    std::uint32_t continuedWords = 0;  ///< code points that continue a run of word characters
+  };
+
+  /// A first link that waits for the rest of its chain.
+  struct Waiting {
+    std::uint32_t start = 0;
+    Progressed at{};
+    std::uint32_t chain = 0;
+  };
+
+  struct Progress {
+    std::uint32_t completedAt = 0;  ///< steps, when it was last completed
+    // Starts within [triedLow, triedHigh] have been tried.
+    std::uint32_t triedLow = none;
+    std::uint32_t triedHigh = 0;
+  };
+
+  void findLiterals(std::size_t from, std::size_t to) {
+    const LiteralIndex& index = tables_.index;
+    Place place = place_;
+    for (std::size_t i = from; i < to; ++i) {
+      if (text_.continuesSpace(i)) {
+        ++place.skipped;
+        regularFrom_ = i + 1;
+        continue;
+      }
+      place.continuedWords += text_.continuesWord(i) ? 1 : 0;
+      const ClassId id = text_.classAt(i);
+      if (index.isSeveral(id)) regularFrom_ = i + 1;
+      place.state = index.advance(place.state, id);
+      if (!index.isHit(place.state)) continue;
+      now_.steps = static_cast<std::uint32_t>(i + 1) - place.skipped;
+      now_.runs = now_.steps - place.continuedWords;
+      for (auto values = index.values(place.state); !values.empty();
+           values = values.subspan(std::min(values.size(), atOnce)))
+        onHits(values.first(std::min(values.size(), atOnce)), i + 1);
+    }
+    place_ = place;
+  }
+
+  /// Those that are armed are set apart first, since which ones are cannot be foreseen and guessing
+  /// wrong costs more than looking.
+  void onHits(std::span<const std::uint16_t> hits, std::size_t end) {
+    std::array<std::uint16_t, atOnce> armed;  // NOLINT(*-member-init): filled from the start on
+    std::size_t count = 0;
+    for (const std::uint16_t hit : hits) {
+      armed[count] = hit;
+      count += hasBit(armed_, hit) ? 1 : 0;
+    }
+    for (std::size_t i = 0; i < count; ++i)
+      onHit(armed[i], end);
+  }
+
+  void findLeadingClasses(std::size_t from, std::size_t to) {
+    // Two words at a time, since neither has to wait for the other.
+    for (std::size_t word = 0; word < leading_.size(); word += 2) {
+      const std::uint64_t* const masks =
+          table_.leadingMasks.data() + word * tables_.classes.count();
+      const std::uint64_t* const initial = table_.leadingInitial.data() + word;
+      const std::uint64_t* const final = table_.leadingFinal.data() + word;
+      std::uint64_t one = leading_[word];
+      std::uint64_t other = leading_[word + 1];
+      for (std::size_t i = from; i < to;) {
+        std::uint64_t ends = 0;
+        while (i < to && ends == 0) {
+          const std::uint64_t* const mask = masks + std::size_t{text_.classAt(i++)} * 2;
+          one = (one << 1 | initial[0]) & mask[0];
+          other = (other << 1 | initial[1]) & mask[1];
+          ends = (one & final[0]) | (other & final[1]);
+        }
+        tryLeading(word, one & final[0], i);
+        tryLeading(word + 1, other & final[1], i);
+      }
+      leading_[word] = one;
+      leading_[word + 1] = other;
+    }
+  }
+
+  void tryLeading(std::size_t word, std::uint64_t ends, std::size_t position) {
+    for (; ends != 0; ends &= ends - 1) {
+      const auto bit = word * 64 + static_cast<std::size_t>(std::countr_zero(ends));
+      const LeadingEnd& end = table_.leadingEnds[bit];
+      tryAlternative(end.search, end.alternative,
+                     static_cast<std::uint32_t>(position - end.length));
+    }
+  }
+
+  [[nodiscard]] bool isWithin(const Distance& distance, const Progressed& since) const {
+    static_assert(unbounded == std::numeric_limits<decltype(distance.steps)>::max());
+    return now_.steps - since.steps <= distance.steps && now_.runs - since.runs <= distance.runs;
+  }
+  [[nodiscard]] bool isWithin(const ShortDistance& distance, const Progressed& since) const {
+    return isWithin({.steps = distance.steps(), .runs = distance.runs()}, since);
+  }
+
+  /// Whether all starts that this hit of a first link could lead to lie behind a known match.
+  [[nodiscard]] bool isBehindMatch(const LinkHit& hit) const {
+    // There are at least as many code points before the match as there are steps.
+    return now_.steps >
+           std::uint64_t{outcomes_[hit.search].start} + hit.distance.steps() + hit.length;
+  }
+
+  void onHit(std::size_t number, std::size_t end) {
+    ++steps_;
+    const LinkHit& hit = table_.hits[number];
+    const bool isFirst = hit.has(LinkHit::first);
+    if (isFirst ? isBehindMatch(hit) : !isWithin(hit.distance, reached_[hit.reach - 1])) {
+      clearBit(armed_, number);
+      return;
+    }
+    if (hit.has(LinkHit::boundaryAfter) && !text_.isWordBoundary(end)) return;
+    std::uint32_t start = 0;
+    if (isFirst || hit.has(LinkHit::boundaryBefore)) {
+      start = startOf(hit.length, end);
+      if (hit.has(LinkHit::boundaryBefore) && !text_.isWordBoundary(start)) return;
+    }
+    reached_[hit.reach] = now_;
+    setBits(armed_, hit.nextHit, hit.nextCount);
+    const bool isLast = hit.nextCount == 0;
+    if (isFirst && isLast) {
+      tryBefore(hit.chain, start);
+    } else if (isFirst) {
+      wait(hit.chain, start);
+    } else if (isLast) {
+      complete(hit.chain);
+    }
+  }
+
+  /// Where the literal of `letters` letters that ends at `end` starts.
+  [[nodiscard]] std::uint32_t startOf(std::size_t letters, std::size_t end) const {
+    if (letters <= end - regularFrom_) return static_cast<std::uint32_t>(end - letters);
+    std::size_t start = end;
+    const CharacterClasses& classes = tables_.classes;
+    for (std::size_t taken = 0; taken < letters && start > 0;) {
+      const ClassId id = text_.classAt(--start);
+      if (!classes.isSpace(id)) {
+        taken += classes.folding(id).size();
+        continue;
+      }
+      ++taken;
+      while (start > 0 && classes.isSpace(text_.classAt(start - 1)))
+        --start;
+    }
+    return static_cast<std::uint32_t>(start);
+  }
+
+  void wait(std::uint32_t chain, std::uint32_t start) {
+    if (waiting_.size() == waitingLimit_) {
+      std::erase_if(waiting_, [this](const Waiting& waiting) {
+        return !isWithin(table_.chains[waiting.chain].span, waiting.at);
+      });
+      steps_ += waitingLimit_;
+      waitingLimit_ = std::max(waitingLimit_, 2 * waiting_.size());
+    }
+    waiting_.push_back({.start = start, .at = now_, .chain = chain});
+  }
+
+  /// Tries all first links since the chain was last completed that are near enough.
+  void complete(std::uint32_t chain) {
+    const Distance& span = table_.chains[chain].span;
+    const std::uint32_t since = std::exchange(progress_[chain].completedAt, now_.steps);
+    std::size_t first = waiting_.size();
+    while (first > 0 && waiting_[first - 1].at.steps >= since &&
+           isWithin(span, waiting_[first - 1].at))
+      --first;
+    steps_ += waiting_.size() - first;
+    for (; first < waiting_.size(); ++first)
+      if (waiting_[first].chain == chain) tryBefore(chain, waiting_[first].start);
+  }
+
+  /// Tries all starts from which the first link at `literalStart` may be reached.
+  void tryBefore(std::uint32_t chainNumber, std::uint32_t literalStart) {
+    const Chain& chain = table_.chains[chainNumber];
+    if (chain.lead == 0) {
+      tryAlternative(chain.search, chain.alternative, literalStart);
+      return;
+    }
+    Progress& progress = progress_[chainNumber];
+    // An earlier walk has been further down, unless it set out from further up and ran out of
+    // steps; then this one goes all the way.
+    const bool mayStop = progress.triedLow != none &&
+                         (literalStart >= progress.triedHigh || chain.lead == unbounded);
+    const Outcome& outcome = outcomes_[chain.search];
+    // Down to the earlier walk, all starts lie behind the match that is known.
+    if (mayStop && literalStart >= progress.triedHigh && outcome.start <= progress.triedHigh)
+      return;
+    const auto isLead = [&](std::uint32_t at) {
+      return tables_.sets.contains(chain.leadClasses, text_.classAt(at));
+    };
+    std::uint32_t low = literalStart;
+    bool metEarlierWalk = false;
+    for (std::uint32_t walked = 0; low > 0 && isLead(low - 1) && !metEarlierWalk; ++steps_) {
+      const bool continuesRun = low < literalStart && text_.continuesSpace(low);
+      if (!continuesRun && walked++ == chain.lead) break;
+      --low;
+      metEarlierWalk = mayStop && low >= progress.triedLow && low <= progress.triedHigh;
+    }
+    const ProgramEntry& entry = tables_.programs[chain.search].alternative(chain.alternative);
+    for (std::uint32_t at = low; at <= literalStart && at <= outcome.start; ++at)
+      tryAt(chain.search, chain.alternative, entry, at);
+    progress.triedLow = metEarlierWalk ? progress.triedLow : low;
+    progress.triedHigh = literalStart;
+  }
+
+  void tryAlternative(std::uint32_t search, std::uint32_t alternative, std::uint32_t start) {
+    tryAt(search, alternative, tables_.programs[search].alternative(alternative), start);
+  }
+
+  // The first match is the leftmost, and of those at one start that of the first alternative.
+  void tryAt(std::uint32_t search, std::uint32_t alternative, const ProgramEntry& entry,
+             std::uint32_t start) {
+    ++steps_;
+    const Outcome& outcome = outcomes_[search];
+    const bool isBetter =
+        start < outcome.start || (start == outcome.start && alternative < outcome.alternative);
+    if (isBetter && entry.beginning.allows(text_, start, tables_.sets))
+      match(search, alternative, entry, start);
+  }
+
+  void match(std::uint32_t search, std::uint32_t alternative, const ProgramEntry& entry,
+             std::uint32_t start) {
+    Outcome& outcome = outcomes_[search];
+    try {
+      const auto end = matcherOf(search).matchAt(entry, start, stack_);
+      if (!end) return;
+      outcome.end = static_cast<std::uint32_t>(*end);
+    } catch (const std::bad_alloc&) {
+      stack_.clear();
+      outcome.end = static_cast<std::uint32_t>(text_.size());
+      outcome.failed = true;
+    }
+    outcome.start = start;
+    outcome.alternative = alternative;
+    if (table_.searches[search].anyMatch) {
+      // Nothing comes before this, so nothing more is tried.
+      outcome.start = 0;
+      outcome.alternative = 0;
+    }
+  }
+
+  Matcher& matcherOf(std::uint32_t search) {
+    Outcome& outcome = outcomes_[search];
+    if (outcome.matcher == none) {
+      outcome.matcher = static_cast<std::uint32_t>(matchers_.size());
+      matchers_.emplace_back(tables_.programs[search], tables_.classes, tables_.sets, text_);
+    }
+    return matchers_[outcome.matcher];
+  }
+
+  const Tables& tables_;
+  const ScreeningTable<Stored>& table_;
+  ClassifiedText text_;
+  std::vector<Outcome> outcomes_;
+  std::vector<Matcher> matchers_;
+  std::vector<Progress> progress_;
+  std::vector<std::uint64_t> leading_;
+  Place place_;
+  /// By hit. Most cannot matter: those of a link whose predecessor has not been met or is too far
+  /// behind, and first links behind the match that is known already. They are disarmed until that
+  /// changes.
+  std::vector<std::uint64_t> armed_;
+  std::vector<Progressed> reached_;  ///< by link
+  std::vector<Waiting> waiting_;     ///< in the order in which they were met
+  std::size_t waitingLimit_ = 4096;  ///< when those too far behind are dropped
+  BacktrackStack stack_;
+  Progressed now_;
+  std::size_t regularFrom_ = 0;  ///< from here on every code point has been one letter
+  std::uint64_t steps_ = 0;
+};
+
+// ---------------------------------------------------------------------------------------------
+
+ScreeningEngine::ScreeningEngine(std::span<const std::byte> tables) {
+  TableReader reader(tables);
+  static_cast<void>(readUnusable(reader));
+  tables_ = std::make_unique<const Tables>(reader);
+}
+
+ScreeningEngine::~ScreeningEngine() = default;
+
+std::span<const std::uint16_t> ScreeningEngine::unusablePatterns(
+    std::span<const std::byte> tables) {
+  TableReader reader(tables);
+  return readUnusable(reader);
+}
+
+std::vector<PatternMatch> ScreeningEngine::firstMatches(std::string_view text,
+                                                        std::uint64_t* steps) const {
+  Screening screening(*tables_, text);
+  screening.run();
+  if (steps != nullptr) *steps = screening.steps();
+  std::vector<PatternMatch> matches = screening.matches();
+  if (screening.size() == text.size()) return matches;
+
+  // From code points to bytes, in one pass.
+  std::vector<std::size_t*> positions;
+  for (PatternMatch& match : matches) {
+    positions.push_back(&match.start);
+    positions.push_back(&match.end);
+  }
+  std::sort(positions.begin(), positions.end(),
+            [](const std::size_t* a, const std::size_t* b) { return *a < *b; });
+  std::size_t codePoint = 0;
+  std::size_t byte = 0;
+  for (std::size_t* position : positions) {
+    for (; codePoint < *position; ++codePoint)
+      static_cast<void>(unicode::nextScalar(text, byte));
+    *position = byte;
+  }
+  return matches;
+}
+
+}  // namespace quillseal::screening

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "desktop/Ticket.h"
+
+namespace quillseal::desktop {
+
+/// What is put on the pasteboard: one thing in two flavours.
+struct PasteboardContent {
+  std::string plainText;  ///< UTF-8
+  std::string html;       ///< a whole document, UTF-8
+};
+
+/// The general clipboard. Main thread.
+///
+/// What is read was written by another program: bytes of any kind and size. Readers see the
+/// flavours that were offered when they were last fetched; one that is offered but cannot be
+/// delivered counts as absent.
+class Pasteboard {
+ public:
+  virtual ~Pasteboard() = default;
+
+  /// Changes with every change of the clipboard's owner or content, whoever made it.
+  [[nodiscard]] virtual std::int64_t changeCount() const = 0;
+
+  /// Calls `changed` at the next change of the count, never from inside this call; not at all where
+  /// the desktop does not tell of changes. Whoever waits looks at the count now and then as well.
+  [[nodiscard]] virtual Ticket onNextChange(std::function<void()> changed) = 0;
+
+  /// Has the flavours delivered for the functions below and calls `fetched`, also when nobody
+  /// delivers them. Only for desktops on which that takes a program that may hang.
+  // NOLINTNEXTLINE(performance-unnecessary-value-param): others keep it.
+  [[nodiscard]] virtual Ticket fetch(std::function<void()> fetched) {
+    fetched();
+    return {};
+  }
+
+  /// What keeps this program from reading the clipboard, such as a setting of the system, in words
+  /// for the log; empty when nothing is known to.
+  [[nodiscard]] virtual std::string readingObstacle() const { return {}; }
+
+  /// Whether the one who copied marked it as a secret, as password managers do.
+  [[nodiscard]] virtual bool isConcealed() const = 0;
+
+  [[nodiscard]] virtual std::optional<std::string> plainText() const = 0;
+  [[nodiscard]] virtual std::optional<std::string> html() const = 0;
+  [[nodiscard]] virtual std::optional<std::string> rtf() const = 0;
+
+  /// Replaces the content by `content`, both flavours at once, and no other flavour. It stays until
+  /// replaced, also when the agent ends. On failure throws Error and offers none of `content`.
+  virtual void write(const PasteboardContent& content) = 0;
+};
+
+}  // namespace quillseal::desktop

@@ -243,6 +243,9 @@ TEST(WaylandPasteboard, TakesNothingForAChangeUntilThereIsSomething) {
   compositor.copy({.formats = {{utf8Text, "a"}}});
   testing::runUntil(agent.loop, [&] { return changes > 0; });
   EXPECT_EQ(agent.pasteboard.changeCount(), before + 1);
+  EXPECT_EQ(agent.plainText(), "a");
+  compositor.clear();
+  EXPECT_EQ(agent.plainText(), std::nullopt);
 }
 
 TEST(WaylandPasteboard, OutlivesEveryOwner) {

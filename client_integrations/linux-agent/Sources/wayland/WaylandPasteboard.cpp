@@ -109,6 +109,7 @@ class WaylandPasteboard::Reading : public std::enable_shared_from_this<Reading> 
 
   void begin() {
     offer_ = state_.current();
+    state_.fetched.clear();
     content_.clear();
     chosen_.clear();
     if (offer_ == nullptr) return finishLater();

@@ -13,7 +13,6 @@
 #include "ScriptedCompositor.h"
 #include "core/text/Error.h"
 #include "session/PollLoop.h"
-#include "wayland/SwayIpc.h"
 #include "wayland/WaylandApplications.h"
 #include "wayland/WaylandConnection.h"
 #include "wayland/WaylandKeyEvents.h"
@@ -441,7 +440,7 @@ TEST(WaylandWindows, RaisesAnOwnWindowThatIsThereOrComes) {
   EXPECT_EQ(agent.windows.active()->applicationId, "quillseal");
 }
 
-// Layout and hotkey -------------------------------------------------------------------------------
+// Layout -----------------------------------------------------------------------------------------
 
 std::string layoutText(const char* layout) {
   xkb_context* const context = xkb_context_new(XKB_CONTEXT_NO_FLAGS);
@@ -475,49 +474,6 @@ TEST(WaylandLayout, FindsTheKeyInEachOfTheLayouts) {
     EXPECT_TRUE(connection->roundTrip() && connection->roundTrip());
     EXPECT_EQ(layout.keyFor(XKB_KEY_h), row.h);
   }
-}
-
-TEST(SwayTree, NamesTheApplicationOfATitle) {
-  const std::string tree = R"({"type": "root", "name": "root", "nodes": [
-      {"type": "output", "name": "letter", "nodes": [{"type": "workspace", "nodes": [
-        {"pid": 1, "name": "letter", "app_id": "writer"},
-        {"pid": 2, "name": "twice", "app_id": "editor"}],
-       "floating_nodes": [
-        {"pid": 3, "name": "twice", "app_id": "chat"},
-        {"pid": 4, "name": null, "app_id": "untitled"},
-        {"pid": 5, "name": "old", "app_id": null, "window_properties": {"class": "XTerm"}}]}]}]})";
-  EXPECT_EQ(applicationIdIn(tree, "letter"), "writer");
-  EXPECT_EQ(applicationIdIn(tree, "old"), "XTerm");
-  EXPECT_EQ(applicationIdIn(tree, "twice"), std::nullopt);
-  EXPECT_EQ(applicationIdIn(tree, "none"), std::nullopt);
-  for (const char* text : {"", "[]", "{\"nodes\": 1}", "{"})
-    EXPECT_EQ(applicationIdIn(text, ""), std::nullopt);
-}
-
-TEST(SwayConfiguration, IsSearchedForTheKeys) {
-  const struct {
-    const char* text;
-    bool binds;
-  } rows[] = {
-      {"", false},
-      {"bindsym Ctrl+Alt+Super+h exec x", true},
-      {"  bindsym --to-code --release Mod4+control+Mod1+H exec x", true},
-      {"set $mod Mod4\nset $moder Shift\nbindsym $mod+Ctrl+Mod1+h nop", true},
-      {"set $moder Mod4\nset $mod Shift\nbindsym $moder+Ctrl+Mod1+h nop", true},
-      {"bindcode Logo+Ctrl+Alt+43 nop", true},
-      {"bindsym {\n  Ctrl+Alt+Super+h nop\n}", true},
-      {"bindsym \\\n  Ctrl+Alt+Super+h nop", true},
-      {"# bindsym Ctrl+Alt+Super+h nop", false},
-      {"bindsym Ctrl+Alt+Super+j nop", false},
-      {"bindsym Ctrl+Alt+h nop", false},
-      {"bindsym Shift+Ctrl+Alt+Super+h nop", false},
-      {"mode \"resize\" {\n  bindsym Ctrl+Alt+Super+h nop\n}", false},
-      {"mode \"resize\" {\n  bindsym x nop\n}\nbindsym Ctrl+Alt+Super+h nop", true},
-      {"bindsym", false},
-      {"}\n}\nbindsym --", false},
-  };
-  for (const auto& row : rows)
-    EXPECT_EQ(bindsAlready(row.text, {.symbol = "h", .code = 43}), row.binds) << row.text;
 }
 
 }  // namespace

@@ -115,20 +115,24 @@ void appendCanonical(std::string& result, char32_t scalar, std::string_view sour
     case 0x2026:  // horizontal ellipsis
       result += "...";
       return;
-    case 0x00AD:  // soft hyphen
-    case 0x034F:  // combining grapheme joiner
-    case 0xFEFF:  // zero-width no-break space
-      return;
     default:
       break;
   }
-  const bool invisible = (scalar >= 0x200B && scalar <= 0x200F) ||  // zero-width and marks
-                         (scalar >= 0x202A && scalar <= 0x202E) ||  // bidirectional controls
-                         (scalar >= 0x2060 && scalar <= 0x206F);    // joiners and format controls
-  if (!invisible && !unicode::isWhitespaceOrNewline(scalar)) result += source;
+  if (!isLeftOut(scalar)) result += source;
 }
 
 }  // namespace
+
+bool isLeftOut(char32_t scalar) noexcept {
+  if (scalar < asciiKept.size()) return !asciiKept[scalar];
+  const bool isInvisible = scalar == 0x00AD ||                        // soft hyphen
+                           scalar == 0x034F ||                        // combining grapheme joiner
+                           scalar == 0xFEFF ||                        // zero-width no-break space
+                           (scalar >= 0x200B && scalar <= 0x200F) ||  // zero-width and marks
+                           (scalar >= 0x202A && scalar <= 0x202E) ||  // bidirectional controls
+                           (scalar >= 0x2060 && scalar <= 0x206F);    // joiners and format controls
+  return isInvisible || unicode::isWhitespaceOrNewline(scalar);
+}
 
 std::string normalForm(std::string_view text) {
   std::string nfc;

@@ -259,5 +259,18 @@ TEST(ReadableText, BothScreeningsCount) {
   EXPECT_EQ(ReadableText("\u200B\u200B").text(), "");
 }
 
+// What the digest does not contain fills no place of the characters that are screened.
+TEST(ReadableText, NothingUnsignedPushesAScamOutOfSight) {
+  for (const char* unit : {" ", "\n", " \u2064", "\u00A0\u200B", "<"}) {
+    std::string text = "Dear Ada, ";
+    for (std::size_t i = 0; i <= ContentRisk::maximumScreenedCharacters; ++i)
+      text += unit;
+    text += "please wire $12,499 to the following account today, it is for the invoice.";
+    EXPECT_EQ(verdictOf(asSigned(text)), 2) << escaped(unit);
+  }
+  const std::string prose(ContentRisk::maximumScreenedCharacters, 'x');
+  EXPECT_EQ(verdictOf(asSigned(prose + " I approve the payment.")), 0);
+}
+
 }  // namespace
 }  // namespace quillseal

@@ -12,6 +12,7 @@
 #include "Quillseal/ContentRules.h"
 #include "core/reading/ReadableText.h"
 #include "core/screening/match/ScreeningEngine.h"
+#include "core/text/NormalForm.h"
 #include "core/text/UnicodeText.h"
 
 namespace quillseal::ContentRisk {
@@ -42,6 +43,16 @@ std::string_view screenedPart(std::string_view text) {
   // No character is shorter than a byte.
   if (text.size() <= maximumScreenedCharacters) return text;
   return unicode::firstCharacters(text, maximumScreenedCharacters);
+}
+
+/// As much of the text as is screened, not counting what its digest does not contain.
+std::string_view partToRead(std::string_view text) {
+  const std::string_view screened = screenedPart(text);
+  if (screened.size() == text.size()) return text;
+  std::size_t position = 0;
+  for (std::size_t counted = 0; position < text.size() && counted < maximumScreenedCharacters;)
+    if (!isLeftOut(unicode::nextScalar(text, position))) ++counted;
+  return text.substr(0, std::max(position, screened.size()));
 }
 
 /// Removes the matches that start or end inside a character.
@@ -186,6 +197,24 @@ bool occurs(char32_t scalar, std::vector<QuoteMark>::const_iterator from,
   return std::any_of(from, to, [&](const QuoteMark& mark) { return mark.scalar == scalar; });
 }
 
+// ---- Screening
+
+Screening screenAll(std::string_view text) {
+  Screening result;
+  if (text.empty()) return result;
+  std::vector<screening::PatternMatch> matches = engine().firstMatches(text, &result.steps);
+
+  std::vector<QuotedSpan> quotations;
+  if (takeReportingCue(matches) && !matches.empty()) quotations = quotedSpans(text);
+  keepWholeCharacters(text, matches);
+
+  std::vector<Found> found;
+  for (const screening::PatternMatch& match : matches)
+    if (std::optional<Found> weighed = weigh(match, quotations))
+      found.push_back(*std::move(weighed));
+  return assess(std::move(found), result.steps);
+}
+
 // ---- Texts
 
 std::string_view shortWhy(std::string_view why) {
@@ -228,26 +257,14 @@ Assessment evaluate(std::string_view text) {
 }
 
 Screening screen(std::string_view text) {
-  Screening result;
-  if (text.empty()) return result;
-  const std::string_view screened = screenedPart(text);
-  std::vector<screening::PatternMatch> matches = engine().firstMatches(screened, &result.steps);
-
-  std::vector<QuotedSpan> quotations;
-  if (takeReportingCue(matches) && !matches.empty()) quotations = quotedSpans(screened);
-  keepWholeCharacters(screened, matches);
-
-  std::vector<Found> found;
-  for (const screening::PatternMatch& match : matches)
-    if (std::optional<Found> weighed = weigh(match, quotations))
-      found.push_back(*std::move(weighed));
-  return assess(std::move(found), result.steps);
+  return screenAll(screenedPart(text));
 }
 
 std::optional<Screening> screenAsRead(std::string_view text, const Screening& asWritten) {
-  const ReadableText readable(screenedPart(text));
-  if (readable.isAsWritten()) return std::nullopt;
-  const Screening asRead = screen(readable.text());
+  const std::string_view part = partToRead(text);
+  const ReadableText readable(part);
+  if (readable.isAsWritten() && part.size() == screenedPart(text).size()) return std::nullopt;
+  const Screening asRead = screenAll(readable.text());
   std::map<std::string_view, Found> byRule;
   const auto add = [&](const Screening& screening, std::size_t i, Hit hit) {
     Found found{.finding = screening.assessment.findings[i], .hit = hit};

@@ -99,6 +99,10 @@ class PlainText {
           if (position_ + 1 < text_.size() && !isSpace(at(position_ + 1))) return false;
           ++position_;
           break;
+        case Byte::blank:
+        case Byte::lineBreak:
+          if (!passesSpace()) return false;
+          break;
         case Byte::odd:
           return false;
         default:
@@ -116,6 +120,34 @@ class PlainText {
     return position < text_.size() ? at(position) : Byte::blank;
   }
   static bool isSpace(Byte byte) { return byte == Byte::blank || byte == Byte::lineBreak; }
+
+  /// White space that is one blank, or that may stay as it is.
+  bool passesSpace() {
+    const std::size_t start = position_;
+    bool hasLineBreak = false;
+    for (; position_ < text_.size() && isSpace(at(position_)); ++position_)
+      hasLineBreak = hasLineBreak || at(position_) == Byte::lineBreak;
+    const bool isOneBlank = position_ - start == 1 && text_[start] == ' ';
+    if (!hasLineBreak) {
+      startsLine_ = false;
+      return isOneBlank || start == 0 || position_ == text_.size() ||
+             at(start - 1) == Byte::point || text_[start - 1] == '!' || text_[start - 1] == '?';
+    }
+    if (words_.mayHaveMovedBlanks()) return false;
+    words_ = {};
+    const bool areWordsOfLines = startsLine_ && position_ < text_.size() && isLineOfOneWord();
+    startsLine_ = true;
+    return !areWordsOfLines;
+  }
+
+  [[nodiscard]] bool isLineOfOneWord() const {
+    std::size_t end = position_;
+    while (end < text_.size() && !isSpace(at(end)))
+      ++end;
+    while (end < text_.size() && at(end) == Byte::blank)
+      ++end;
+    return end == text_.size() || at(end) == Byte::lineBreak;
+  }
 
   bool passesWord() {
     const std::size_t start = position_;
@@ -211,6 +243,7 @@ class PlainText {
   std::size_t position_ = 0;
   std::size_t endOfWord_ = 0;
   reading::KnownWords words_;  ///< with nothing but blanks between them
+  bool startsLine_ = true;     ///< nothing but a word stands before in the line
   bool wasSingle_ = false;
   bool wasKnown_ = false;
 };

@@ -314,6 +314,13 @@ class LetterReader {
   }
 
   void readWord(std::size_t start, std::size_t end, bool isInLatinLine) {
+    // What strikes words out stands over the blanks and signs between them, too.
+    for (; start > 0 && start < end && cells_[start].kind == Kind::mark &&
+           (cells_[start - 1].scalar < 0x80 || cells_[start - 1].kind == Kind::invisible);
+         ++start) {
+      remove(cells_[start]);
+      isChanged_ = true;
+    }
     const auto [hasLatin, hasTwin, hasForeign] = scriptsOfWord(start, end);
     if (hasTwin && (hasLatin || (!hasForeign && isInLatinLine))) readTwins(start, end);
     composeMarks(start, end);
@@ -775,14 +782,18 @@ class SignReader {
     }
   }
 
-  /// "100k" and "15th" are numbers.
+  /// "100k", "15th" and "2.5k" are numbers.
   [[nodiscard]] bool isMeasure(const Token& token) const {
     std::size_t digits = token.start;
     while (digits < token.end && cells_[digits].kind == Kind::digit)
       ++digits;
     constexpr std::size_t longestUnit = 2;
     const std::size_t rest = token.end - digits;
-    return rest > 0 && rest == token.letters && digits - token.start >= 2 && rest <= longestUnit;
+    const bool isFraction =
+        token.start > 1 && cells_[token.start - 2].kind == Kind::digit &&
+        (cells_[token.start - 1].scalar == U'.' || cells_[token.start - 1].scalar == U',');
+    return rest > 0 && rest == token.letters && rest <= longestUnit &&
+           (digits - token.start >= 2 || (isFraction && digits > token.start));
   }
 
   /// Whether no letter is in it, and it is a sum of money or a part of a longer number.
@@ -971,7 +982,8 @@ class AmountReader {
   bool read() {
     for (std::size_t i = 0; i < cells_.size(); ++i) {
       const bool isStart =
-          cells_[i].kind == Kind::digit && (i == 0 || !isAlphanumeric(cells_[i - 1]));
+          cells_[i].kind == Kind::digit &&
+          (i == 0 || !isAlphanumeric(cells_[i - 1]) || isCurrency(startOfWord(i), i));
       if (isStart) i = readNumber(i) - 1;
     }
     return isChanged_;
@@ -987,9 +999,10 @@ class AmountReader {
   }
 
   static bool isCurrencySign(const Cell& cell) {
-    constexpr std::u32string_view signs =
-        U"$\u00A3\u00A5\u20AC\u20A9\u20B9\u20BA\u20BD\u20B4\u20AA";
-    return signs.find(cell.scalar) != std::u32string_view::npos;
+    constexpr std::u32string_view signs = U"$\u00A3\u00A5\u0E3F";
+    // A block of Unicode holds all others.
+    return (cell.scalar >= U'\u20A0' && cell.scalar <= U'\u20C0') ||
+           signs.find(cell.scalar) != std::u32string_view::npos;
   }
 
   [[nodiscard]] std::size_t endOfDigits(std::size_t i) const {
@@ -1139,6 +1152,81 @@ class AmountReader {
 
   static constexpr std::size_t longestName = 8;
   static constexpr std::size_t group = 3;
+
+  Cells& cells_;
+  bool isChanged_ = false;
+};
+
+// ---- White space
+
+/// Reads blanks in a row as one, and the line breaks between words that have a line each as blanks.
+/// No digest contains them. Other line breaks stay, as a sentence may begin there, and so do the
+/// blanks behind the end of a sentence.
+class WhiteSpaceReader {
+ public:
+  explicit WhiteSpaceReader(Cells& cells) : cells_(cells) {}
+
+  bool read() {
+    bool startsLine = true;
+    for (std::size_t i = 0; i < cells_.size();) {
+      if (!isSpace(cells_[i])) {
+        ++i;
+        continue;
+      }
+      const std::size_t start = i;
+      i = endOfSpace(start);
+      if (i == cells_.size()) break;
+      const std::size_t lineBreaks = lineBreaksIn(start, i);
+      const bool isOneBlank = lineBreaks == 0 ? start > 0 && !endsSentence(cells_[start - 1])
+                                              : lineBreaks == 1 && startsLine && divides(start, i);
+      if (isOneBlank) write(start, i);
+      startsLine = lineBreaks > 0;
+    }
+    return isChanged_;
+  }
+
+ private:
+  [[nodiscard]] std::size_t endOfSpace(std::size_t i) const {
+    while (i < cells_.size() && isSpace(cells_[i]))
+      ++i;
+    return i;
+  }
+
+  [[nodiscard]] std::size_t lineBreaksIn(std::size_t start, std::size_t end) const {
+    std::size_t lineBreaks = 0;
+    for (std::size_t i = start; i < end; ++i) {
+      const bool isPair = cells_[i].scalar == U'\n' && i > start && cells_[i - 1].scalar == U'\r';
+      if (cells_[i].kind == Kind::lineBreak && !isPair) ++lineBreaks;
+    }
+    return lineBreaks;
+  }
+
+  static bool endsSentence(const Cell& cell) {
+    return cell.kind == Kind::stop || cell.scalar == U'!' || cell.scalar == U'?';
+  }
+
+  /// Whether a word ends before the line break and the next one has its line for itself.
+  [[nodiscard]] bool divides(std::size_t start, std::size_t end) const {
+    const auto isPart = [](const Cell& cell) {
+      return isLatin(cell) || cell.kind == Kind::digit || cell.scalar == U'$';
+    };
+    if (start == 0 || !isPart(cells_[end])) return false;
+    if (!isPart(cells_[start - 1]) && cells_[start - 1].scalar != U',') return false;
+    std::size_t next = end;
+    while (next < cells_.size() && !isSpace(cells_[next]))
+      ++next;
+    const std::size_t behind = endOfSpace(next);
+    return behind == cells_.size() || lineBreaksIn(next, behind) > 0;
+  }
+
+  void write(std::size_t start, std::size_t end) {
+    if (end - start == 1 && cells_[start].scalar == U' ') return;
+    replace(cells_[start], U' ');
+    cells_[start].end = cells_[end - 1].end;
+    for (std::size_t i = start + 1; i < end; ++i)
+      remove(cells_[i]);
+    isChanged_ = true;
+  }
 
   Cells& cells_;
   bool isChanged_ = false;
@@ -1338,7 +1426,7 @@ class PointReader {
   void readAbbreviation(std::size_t point) {
     const Cell& after = cells_[point + 1];
     if (after.scalar == U',' || after.scalar == U';' || after.scalar == U':' ||
-        after.scalar == U'-') {
+        after.scalar == U'-' || after.scalar == U'\u2013' || after.scalar == U'\u2014') {
       leaveOut(point);
       return;
     }
@@ -1438,6 +1526,7 @@ bool undoDisguises(Cells& cells, const Contents& contents) {
     isChangedNow |= take(BlankMover(cells, segmenter).move());
     isChangedNow |= take(AmountReader(cells).read());
     isChangedNow |= take(PointReader(cells).read());
+    isChangedNow |= take(WhiteSpaceReader(cells).read());
     if (!isChangedNow) break;
   }
   return isChanged;

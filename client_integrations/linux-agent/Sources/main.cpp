@@ -5,6 +5,7 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -163,6 +164,9 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  // A program that ignores this signal has it ignored in those that it starts, which cannot tell
+  // then how their own ended.
+  static_cast<void>(std::signal(SIGCHLD, SIG_DFL));
   quillseal::shieldProcess();
   quillseal::returnLargeBlocks();
   const std::vector<std::string_view> arguments(argv + 1, argv + argc);

@@ -1,4 +1,5 @@
 #include <chrono>
+#include <csignal>
 #include <memory>
 #include <optional>
 #include <string>
@@ -6,6 +7,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/time.h>
 #include <xkbcommon/xkbcommon-keysyms.h>
 #include <xkbcommon/xkbcommon.h>
 
@@ -287,7 +289,25 @@ TEST(WaylandPasteboard, ThrowsUnlessTheBlockIsReallyOffered) {
   ScriptedCompositor compositor;
   EXPECT_THROW(Agent("/nowhere/quillseal-clipboard-keeper").pasteboard.write(block), Error);
   EXPECT_THROW(Agent("/bin/false").pasteboard.write(block), Error);
+  const auto former = std::signal(SIGCHLD, SIG_IGN);  // nobody can tell how a child ended
+  EXPECT_THROW(Agent("/bin/false").pasteboard.write(block), Error);
+  static_cast<void>(std::signal(SIGCHLD, former));
   EXPECT_EQ(compositor.pasted(utf8Text), "");
+}
+
+TEST(WaylandPasteboard, WritesAlthoughSignalsArrive) {
+  ScriptedCompositor compositor;
+  Agent agent;
+  const auto former = std::signal(SIGALRM, [](int) {});
+  constexpr timeval millisecond{.tv_sec = 0, .tv_usec = 1000};
+  const itimerval often{.it_interval = millisecond, .it_value = millisecond};
+  setitimer(ITIMER_REAL, &often, nullptr);
+  EXPECT_NO_THROW(agent.pasteboard.write({.plainText = "block", .html = "<p>block</p>"}));
+  constexpr itimerval never{};
+  setitimer(ITIMER_REAL, &never, nullptr);
+  static_cast<void>(std::signal(SIGALRM, former));
+  EXPECT_EQ(compositor.pasted(utf8Text), "block");
+  compositor.copy({});  // and the keeper ends
 }
 
 TEST(KeptContent, IsReadOnlyAsItWasWritten) {

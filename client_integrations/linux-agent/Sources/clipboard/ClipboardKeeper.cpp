@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <chrono>
 #include <csignal>
 #include <utility>
@@ -19,7 +20,10 @@
 namespace quillseal {
 namespace {
 
-constexpr std::chrono::milliseconds patience{5000};
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+constexpr std::chrono::seconds patience{5};
 
 [[noreturn]] void fail(const std::string& reason) {
   throw Error({.domain = "ClipboardKeeper",
@@ -75,6 +79,20 @@ pid_t start(const std::filesystem::path& file, int input) {
   return process;
 }
 
+bool endsInTime(pid_t process) {
+  const Descriptor running(static_cast<int>(syscall(SYS_pidfd_open, process, 0)));
+  if (running.get() < 0) return false;
+  pollfd ended{.fd = running.get(), .events = POLLIN, .revents = 0};
+  const auto deadline = steady_clock::now() + patience;
+  int count = 0;
+  do {
+    const auto left =
+        std::max(milliseconds{0}, std::chrono::ceil<milliseconds>(deadline - steady_clock::now()));
+    count = poll(&ended, 1, static_cast<int>(left.count()));
+  } while (count < 0 && errno == EINTR);
+  return count == 1;
+}
+
 }  // namespace
 
 ClipboardKeeper::ClipboardKeeper(std::vector<std::filesystem::path> places)
@@ -92,13 +110,9 @@ void ClipboardKeeper::keep(const desktop::PasteboardContent& content) const {
 
   // It leaves this process's care by a fork of its own, once the compositor has taken the offer.
   const pid_t process = start(*place, input.get());
-  const Descriptor running(static_cast<int>(syscall(SYS_pidfd_open, process, 0)));
-  pollfd ended{.fd = running.get(), .events = POLLIN, .revents = 0};
-  const bool isInTime = poll(&ended, 1, static_cast<int>(patience.count())) == 1;
-  if (!isInTime) kill(process, SIGKILL);
+  if (!endsInTime(process)) kill(process, SIGKILL);
   int status = 0;
-  waitpid(process, &status, 0);
-  if (!isInTime || status != 0)
+  if (waitpid(process, &status, 0) != process || status != 0)
     fail("the desktop did not take it. Try again; if that does not help, log out and in.");
 }
 

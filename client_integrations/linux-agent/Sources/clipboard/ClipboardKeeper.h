@@ -19,7 +19,8 @@ class ClipboardKeeper {
   explicit ClipboardKeeper(std::vector<std::filesystem::path> places);
 
   /// Has `content` offered, and returns once the compositor has taken the offer. Throws Error when
-  /// it did not within five seconds; nothing is offered then.
+  /// it did not within five seconds; nothing is offered then. REQUIRES: SIGCHLD is not ignored,
+  /// else nobody can tell that it did.
   void keep(const desktop::PasteboardContent& content) const;
 
  private:

@@ -417,6 +417,26 @@ TEST(WaylandKeyEvents, CopyWhatIsSelectedInATerminalOfX11) {
   EXPECT_EQ(agent.plainText(), "copied");
 }
 
+TEST(WaylandKeyEvents, CopyNothingOfWhichNobodyKnowsTheWindow) {
+  ScriptedCompositor compositor;
+  compositor.select({.formats = {{utf8Text, "selected in a window before the agent started"}}});
+  compositor.open({.applicationId = "XTerm", .title = "Notes"});
+  Agent agent;
+  const auto target = agent.applications.frontmost();
+  EXPECT_EQ(agent.press(copyKeys, target), Delivery::delivered);
+  EXPECT_EQ(agent.plainText(), std::nullopt);
+
+  compositor.select({.formats = {{utf8Text, "Half of a sen"}}, .answer = Answer::part});
+  agent.catchUp();
+  EXPECT_EQ(agent.press(copyKeys, target), Delivery::delivered);
+  bool isFetched = false;
+  const desktop::Ticket ticket = agent.pasteboard.fetch([&] { isFetched = true; });
+  compositor.open({.applicationId = "editor", .title = "letter"});
+  compositor.select({.formats = {{utf8Text, "selected elsewhere meanwhile"}}});
+  testing::runUntil(agent.loop, [&] { return isFetched; });
+  EXPECT_EQ(agent.pasteboard.plainText(), std::nullopt);
+}
+
 // Windows -----------------------------------------------------------------------------------------
 
 TEST(WaylandApplications, LooksBehindTheWindowsOfTheAgent) {

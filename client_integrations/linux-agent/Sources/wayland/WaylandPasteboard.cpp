@@ -35,8 +35,10 @@ struct WaylandPasteboard::State {
   std::shared_ptr<Offer> latest{};  ///< not yet said of what
   std::shared_ptr<Offer> clipboard{};
   std::shared_ptr<Offer> primary{};
-  std::uint64_t primaryWindow = 0;  ///< that was active when the primary selection was made
-  bool isPrimaryTaken = false;
+  std::uint64_t primaryWindow = 0;  ///< that was active when it was made; 0 when that is not known
+  bool isPrimaryKnown = false;      ///< the compositor has told of one, or that there is none
+  /// The window whose primary selection counts as what was copied last.
+  std::optional<std::uint64_t> takenFrom{};
   std::int64_t changeCount = 0;
   std::map<std::uint64_t, std::function<void()>> watches{};
   std::uint64_t lastWatch = 0;
@@ -44,8 +46,9 @@ struct WaylandPasteboard::State {
   ClipboardFormats::Content fetched{};
   std::chrono::steady_clock::time_point lastWrite{};
 
-  [[nodiscard]] const std::shared_ptr<Offer>& current() const {
-    return isPrimaryTaken ? primary : clipboard;
+  [[nodiscard]] std::shared_ptr<Offer> current() const {
+    if (!takenFrom) return clipboard;
+    return primaryWindow == *takenFrom ? primary : nullptr;
   }
 
   void change() {
@@ -81,15 +84,17 @@ struct WaylandPasteboard::State {
                      zwlr_data_control_offer_v1* offer) {
     State& state = of(data);
     state.clipboard = state.taken(offer);
-    state.isPrimaryTaken = false;
+    state.takenFrom.reset();
     if (state.clipboard != nullptr) state.change();
   }
   static void selected(void* data, zwlr_data_control_device_v1* /*device*/,
                        zwlr_data_control_offer_v1* offer) {
     State& state = of(data);
     state.primary = state.taken(offer);
+    // The first is told when this program starts, whenever and wherever it was made.
+    const bool isNew = std::exchange(state.isPrimaryKnown, true);
     const auto window = state.services.windows.active();
-    state.primaryWindow = window ? window->id : 0;
+    state.primaryWindow = isNew && window ? window->id : 0;
   }
   static void finished(void* data, zwlr_data_control_device_v1* /*device*/) {
     of(data).clipboard = nullptr;
@@ -268,7 +273,7 @@ void WaylandPasteboard::write(const desktop::PasteboardContent& content) {
 
 void WaylandPasteboard::takePrimarySelectionOf(std::uint64_t window) {
   if (state_->primary == nullptr || state_->primaryWindow != window) return;
-  state_->isPrimaryTaken = true;
+  state_->takenFrom = window;
   state_->change();
 }
 

@@ -56,7 +56,8 @@ class WaylandPasteboard : public desktop::Pasteboard {
   void write(const desktop::PasteboardContent& content) override;
 
   /// Takes what is selected in that window as if it had been copied, when the primary selection was
-  /// made there: for programs without a key that copies. The clipboard itself is left alone.
+  /// made there while this program ran: for programs without a key that copies. The clipboard
+  /// itself is left alone.
   void takePrimarySelectionOf(std::uint64_t window);
 
   /// When `write` was last called; the epoch when it never was.

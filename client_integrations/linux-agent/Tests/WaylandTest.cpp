@@ -73,7 +73,6 @@ struct Agent {
               .connection = *connection,
               .windows = windows,
               .pasteboard = pasteboard,
-              .entries = entries,
               .explain = {}}) {
     connection->serve(loop, loop);
     catchUp();
@@ -347,6 +346,17 @@ TEST(WaylandKeyEvents, PressesWhatTheApplicationExpects) {
     EXPECT_EQ(compositor.keys(), row.keys) << row.applicationId;
     EXPECT_EQ(agent.pressesAnnounced, 1);
   }
+}
+
+TEST(WaylandKeyEvents, PressWhatATerminalExpectsThatTheCompositorNamesOtherwise) {
+  ScriptedCompositor compositor;
+  Agent agent;
+  compositor.open({.applicationId = "not-yet-named", .title = "x"});
+  agent.catchUp();
+  auto target = agent.applications.frontmost();
+  target->categories = "TerminalEmulator";  // as sway's tree has it
+  EXPECT_EQ(agent.press(copyKeys, target), Delivery::delivered);
+  EXPECT_THAT(compositor.keys(), Contains("42+"));  // Shift: Ctrl+C alone ends what runs in it
 }
 
 TEST(WaylandKeyEvents, PressNothingInAnotherWindowThanTheTarget) {

@@ -5,7 +5,6 @@
 #include <utility>
 #include <vector>
 
-#include "wayland/WaylandApplications.h"
 #include "wayland/WaylandReach.h"
 #include "x11/KeyChords.h"
 #include "x11/WindowDocument.h"
@@ -85,9 +84,9 @@ class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
   void press() {
     const auto window = services_.windows.withId(wish_.target->instance);
     if (!window) return;
-    const auto entry = services_.entries.forWindow(traitsOf(*window));
+    // As it was found out when the target was named: sway knows more of it than this connection.
     const std::vector<Keysym> chord =
-        chordFor(wish_.press, entry ? entry->categories : std::string(), window->applicationId);
+        chordFor(wish_.press, wish_.target->categories, window->applicationId);
     if (wish_.aboutToPress) wish_.aboutToPress();
     if (!chord.empty())
       keyboard_.tap(chord);
@@ -119,9 +118,6 @@ desktop::Ticket WaylandKeyEvents::press(desktop::KeyPress press,
                                         const std::optional<desktop::RunningApplication>& target,
                                         std::function<void()> aboutToPress,
                                         std::function<void(Delivery)> done) {
-  // Without the entries nobody can tell which keys to press. A failure reaches the caller from
-  // here, but not from a turn of the loop.
-  static_cast<void>(services_.entries.withId({}));
   const auto pressing = std::make_shared<Press>(services_, keyboard_,
                                                 Press::Wish{.press = press,
                                                             .target = target,

@@ -3,7 +3,6 @@
 #include <functional>
 #include <optional>
 
-#include "applications/DesktopEntries.h"
 #include "desktop/KeyEvents.h"
 #include "desktop/MainLoop.h"
 #include "wayland/WaylandConnection.h"
@@ -24,7 +23,6 @@ class WaylandKeyEvents : public desktop::KeyEvents {
     WaylandConnection& connection;
     const WaylandWindows& windows;
     WaylandPasteboard& pasteboard;
-    DesktopEntries& entries;
     /// Tells the person why keys cannot be pressed in this session.
     std::function<void()> explain;
   };

@@ -36,7 +36,6 @@ WaylandSystem::WaylandSystem(std::unique_ptr<WaylandConnection> connection,
              .connection = *connection_,
              .windows = *windows_,
              .pasteboard = pasteboard_,
-             .entries = services.entries,
              .explain = services.explain}) {
   connection_->serve(services.loop, services.descriptors);
 }

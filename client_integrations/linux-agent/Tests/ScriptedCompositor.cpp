@@ -52,6 +52,8 @@ struct ScriptedCompositor::Server {
   std::vector<wl_resource*> managers{};
   std::vector<Handle> handles{};
 
+  std::vector<wl_resource*> seatKeyboards{};
+
   std::vector<wl_resource*> devices{};
   std::array<Offering*, 2> offered{};
   std::list<Offering> everOffered{};  ///< clients may still read older ones
@@ -283,15 +285,21 @@ struct ScriptedCompositor::Server {
   // The seat
   static void noPointer(wl_client*, wl_resource*, std::uint32_t) {}
   static constexpr struct wl_keyboard_interface seatKeyboardRequests = {.release = ends_};
-  static void getKeyboard(wl_client* client, wl_resource* seat, std::uint32_t id) {
-    const std::string& layout = of(seat).traits.layout;
-    wl_resource* keyboard =
-        make(client, &wl_keyboard_interface, seat, id, &seatKeyboardRequests, &of(seat));
+  void tellLayout(wl_resource* keyboard) const {
+    const std::string& layout = traits.layout;
     const int file = memfd_create("layout", MFD_CLOEXEC);
     static_cast<void>(!write(file, layout.c_str(), layout.size() + 1));
     wl_keyboard_send_keymap(keyboard, WL_KEYBOARD_KEYMAP_FORMAT_XKB_V1, file,
                             static_cast<std::uint32_t>(layout.size() + 1));
     ::close(file);
+  }
+  static void getKeyboard(wl_client* client, wl_resource* seat, std::uint32_t id) {
+    Server& server = of(seat);
+    wl_resource* keyboard =
+        make(client, &wl_keyboard_interface, seat, id, &seatKeyboardRequests, &server);
+    wl_resource_set_destructor(keyboard, forget<&Server::seatKeyboards>);
+    server.seatKeyboards.push_back(keyboard);
+    server.tellLayout(keyboard);
   }
   static constexpr struct wl_seat_interface seatRequests = {.get_pointer = noPointer,
                                                             .get_keyboard = getKeyboard,
@@ -478,6 +486,14 @@ std::string ScriptedCompositor::pasted(const std::string& format) {
     text.append(piece.data(), static_cast<std::size_t>(count));
   ::close(ends[0]);
   return text;
+}
+
+void ScriptedCompositor::setLayout(const std::string& layout) {
+  perform([&](Server& server) {
+    server.traits.layout = layout;
+    for (wl_resource* keyboard : server.seatKeyboards)
+      server.tellLayout(keyboard);
+  });
 }
 
 void ScriptedCompositor::withdraw(std::string_view interface) {

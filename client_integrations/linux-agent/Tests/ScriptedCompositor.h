@@ -65,6 +65,9 @@ class ScriptedCompositor {
   /// What a program gets that pastes from the one that has set the clipboard last.
   [[nodiscard]] std::string pasted(const std::string& format);
 
+  /// The person chooses another layout for the keyboard that they have.
+  void setLayout(const std::string& layout);
+
   void withdraw(std::string_view interface);
   /// Answers nobody until the end.
   void hang();

@@ -34,6 +34,7 @@ using desktop::Modifiers;
 using ::testing::AllOf;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
+using ::testing::IsEmpty;
 using testing::ScriptedCompositor;
 
 constexpr desktop::KeyPress hotkey{
@@ -46,6 +47,7 @@ class ScriptedSway {
   struct Script {
     std::string configuration{};
     bool binds = true;
+    bool bindsReleases = true;
     bool answers = true;
   };
 
@@ -124,8 +126,11 @@ class ScriptedSway {
     switch (numbers[1]) {
       case 0:
         commands_.push_back(text);
-        return send(client, 0,
-                    script_.binds ? R"([{"success": true}])" : R"([{"success": false}])");
+        return send(
+            client, 0,
+            script_.binds && (script_.bindsReleases || text.find("--release") == std::string::npos)
+                ? R"([{"success": true}])"
+                : R"([{"success": false}])");
       case 2:
         subscriber_ = client;
         return send(client, 2, R"({"success": true})");
@@ -147,6 +152,12 @@ class ScriptedSway {
 std::string bindingEvent(const std::string& what) {
   return R"({"change": "run", "binding": {"command": "nop quillseal )" + std::to_string(getpid()) +
          " " + what + R"("}})";
+}
+
+std::string layoutWithH(int key) {
+  return "xkb_keymap { xkb_keycodes { <H> = " + std::to_string(key) +
+         R"(; }; xkb_types { include "complete" }; xkb_compat { include "complete" };
+             xkb_symbols { key <H> { [ h ] }; }; };)";
 }
 
 struct Agent {
@@ -208,6 +219,28 @@ TEST(SwayHotkeyTest, SaysWhyThereIsNone) {
       EXPECT_THAT(error.what(), AllOf(HasSubstr(row.part), HasSubstr("quillseal --sign")));
     }
   }
+}
+
+TEST(SwayHotkeyTest, LeavesNothingBoundAfterItWasRefused) {
+  ScriptedCompositor compositor({.layout = layoutWithH(43)});
+  ScriptedSway sway({.configuration = "bindsym Ctrl+Alt+Super+h exec x"});
+  ScriptedSway halfWilling({.bindsReleases = false});
+  Agent agent;
+  for (ScriptedSway* refusing : {&sway, &halfWilling}) {
+    SwayHotkey keys({.loop = agent.loop,
+                     .descriptors = agent.loop,
+                     .connection = *agent.connection,
+                     .socket = refusing->path()});
+    EXPECT_THROW(keys.registerHotkey(hotkey, [] {}), Error);
+    const auto atOnce = refusing->commands();
+    compositor.setLayout(layoutWithH(refusing == &sway ? 44 : 45));
+    EXPECT_TRUE(agent.connection->roundTrip());
+    const desktop::Ticket end = agent.loop.after(50ms, [&] { agent.loop.stop(); });
+    agent.loop.run();
+    EXPECT_EQ(refusing->commands(), atOnce);
+  }
+  EXPECT_THAT(sway.commands(), IsEmpty());
+  EXPECT_THAT(halfWilling.commands().back(), HasSubstr("unbindcode --release"));
 }
 
 TEST(SwayTree, NamesTheApplicationOfATitle) {

@@ -123,6 +123,7 @@ bool SwayHotkey::bind() {
   const std::string press = "bindcode " + std::string(options) + combination() + " ";
   const std::string release = "bindcode --release " + std::string(options) + combination() + " ";
   isBound_ = command(press + commandFor(pressEvent)) && command(release + commandFor(releaseEvent));
+  if (!isBound_) unbind();
   return isBound_;
 }
 
@@ -133,8 +134,8 @@ void SwayHotkey::unbind() {
 
 void SwayHotkey::followLayout() {
   const std::uint32_t now = layout_->keyFor(XKB_KEY_h).value_or(usualKey);
-  if (now == key_) return;
-  if (isBound_) unbind();
+  if (now == key_ || !isBound_) return;
+  unbind();
   key_ = now;
   static_cast<void>(bind());
 }

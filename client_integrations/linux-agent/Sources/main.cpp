@@ -114,9 +114,9 @@ int runAgent(const CommandLine& commandLine, quillseal::SingleInstance& instance
 
 int run(int argc, char** argv, const CommandLine& commandLine) {
   std::unique_ptr<quillseal::WaylandConnection> wayland = compositorThatReachesApplications();
-  // Qt ends the program where it finds no display. Xwayland is started by whoever connects to it,
-  // so that nobody does who needs it not. This connection stays until Qt has its own: an X server
-  // without another client may start anew, and refuse Qt, when its last one leaves.
+  // Qt ends the program where it finds no display. A connection starts Xwayland, so none is made
+  // where it is not needed. This connection stays until Qt has its own: an X server without another
+  // client may start anew, and refuse Qt, when its last one leaves.
   quillseal::x11::Connection xServer;
   if (wayland == nullptr || !hasWaylandPlugin()) xServer.reset(xcb_connect(nullptr, nullptr));
   const quillseal::PlatformChoice choice =

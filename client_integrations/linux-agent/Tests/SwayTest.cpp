@@ -71,7 +71,7 @@ class ScriptedSway {
 
   [[nodiscard]] std::string path() const { return (folder_.path() / "sway").string(); }
 
-  /// To whoever has subscribed.
+  /// To the program that has subscribed.
   void tell(const std::string& event) {
     constexpr std::uint32_t bindingEvent = 0x80000005;
     const std::lock_guard lock(mutex_);

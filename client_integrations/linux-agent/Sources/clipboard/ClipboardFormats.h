@@ -21,7 +21,7 @@ using Content = std::map<std::string, std::string>;
 /// Those of `wanted` that hold plain text.
 [[nodiscard]] const std::vector<std::string>& ofPlainText();
 
-/// Whether whoever copied marked it as a secret, as password managers do.
+/// Whether the program that copied it marked it as a secret, as password managers do.
 [[nodiscard]] bool isSecret(const Content& content);
 
 /// As UTF-8, maybe ill-formed; nothing when there is none or it is empty.

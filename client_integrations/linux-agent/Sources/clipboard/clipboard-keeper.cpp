@@ -82,7 +82,7 @@ class Offer {
   void replaced() {
     isReplaced_ = true;
     if (transfers_.empty()) return loop_.stop();
-    end_ = loop_.after(patience, [this] { loop_.stop(); });  // those who read it already
+    end_ = loop_.after(patience, [this] { loop_.stop(); });  // for programs that read already
   }
 
   static Offer& of(void* data) { return *static_cast<Offer*>(data); }
@@ -136,7 +136,7 @@ bool Offer::make() {
 }  // namespace
 
 int main() {
-  static_cast<void>(std::signal(SIGPIPE, SIG_IGN));  // whoever pastes may go in the middle
+  static_cast<void>(std::signal(SIGPIPE, SIG_IGN));  // a program may end while it pastes
   const std::optional<PasteboardContent> content =
       quillseal::KeptContent::read(everythingFrom(STDIN_FILENO));
   if (!content) return 2;

@@ -20,7 +20,7 @@ using nlohmann::json;
 // XKB's numbers of keys are higher by 8 than those of evdev.
 constexpr std::uint32_t usualKey = KEY_H + 8;
 
-/// What sway tells of. Another agent has other words, so that one press starts one run.
+/// The command that sway reports. Each agent has its own, so that one press starts one run.
 std::string commandFor(std::string_view event) {
   return "nop quillseal " + std::to_string(getpid()) + " " + std::string(event);
 }
@@ -31,8 +31,8 @@ constexpr std::string_view releaseEvent = "released";
 // wins.
 constexpr std::string_view options = "--no-warn --locked --inhibited ";
 
-/// Sway repeats a binding while the keys are held; the release is not told when another key was
-/// pressed meanwhile. Desktops let people choose delays up to this.
+/// Sway repeats a binding while the keys are held, and does not report the release when another key
+/// was pressed meanwhile. Desktops let people choose delays up to this.
 constexpr std::chrono::milliseconds longestRepeatDelay{1000};
 
 std::string textOf(const json& object, const char* key) {

@@ -15,7 +15,7 @@
 
 namespace quillseal {
 
-/// The global hotkey by a binding of sway's that does nothing, and of which sway tells. It gives
+/// The global hotkey by a binding of sway's that does nothing, and whose use sway reports. It gives
 /// way to any other binding of the same keys. Without sway there is none.
 class SwayHotkey : public desktop::Hotkey {
  public:
@@ -33,7 +33,7 @@ class SwayHotkey : public desktop::Hotkey {
   void registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) override;
 
  private:
-  /// What the keys do is told by these words.
+  /// Has sway run a command; false when it did not, or did not say so.
   [[nodiscard]] bool command(const std::string& text);
   [[nodiscard]] std::string combination() const;
   [[nodiscard]] bool bind();

@@ -25,9 +25,8 @@ class SwayIpc {
   SwayIpc(const SwayIpc&) = delete;
   SwayIpc& operator=(const SwayIpc&) = delete;
 
-  /// The answer to a request; nothing when none comes within a second, nor ever after that.
-  /// REQUIRES: nothing was
-  /// subscribed to on this connection.
+  /// The answer to a request; nothing when none comes within a second, and to every later request.
+  /// REQUIRES: nothing was subscribed to on this connection.
   [[nodiscard]] std::optional<std::string> ask(Request request, std::string_view text);
 
   /// What is readable while there are messages to receive, or sway has gone.

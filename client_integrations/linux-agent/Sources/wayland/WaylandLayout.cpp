@@ -35,7 +35,7 @@ struct WaylandLayout::State {
   std::string text{};
 
   void take(std::string layout) {
-    // Whoever pressed the last key has the say: the agent's own keyboard is no one's layout.
+    // The compositor gives the layout of the keyboard that was used last, also of the agent's own.
     if (layout.empty() || layout == text || WaylandKeyboard::isOwnLayout(layout)) return;
     text = std::move(layout);
     changed();

@@ -305,6 +305,14 @@ TEST_F(SigningCoordinatorTest, LogsWhatMayHaveKeptTheTextFromIt) {
               Contains("log: [capture] the clipboard may not be readable: access is denied"));
 }
 
+TEST_F(SigningCoordinatorTest, SelectsNothingMoreWhenTheCopyMayNotBeRead) {
+  desktop_.selection->text.reset();
+  desktop_.clipboardObstacle = "the user is asked each time";
+  sign();
+  EXPECT_THAT(desktop_.trace, Not(Contains("press ⌘A")));
+  EXPECT_THAT(desktop_.trace.back(), StartsWith("alert: No Text Found"));
+}
+
 TEST_F(SigningCoordinatorTest, ScreensTheText) {
   desktop_.selection->text =
       "Please wire the money to the new account today, IBAN DE89 3704 0044 0532 0130 00, thank "

@@ -132,6 +132,8 @@ Task<Copy> copySelection(Services services,
   });
   if (pasteboard.isConcealed()) co_return failed(CopyOutcome::secret);
   std::optional<std::string> text = wellFormed(pasteboard.plainText());
+  // A copy that may not be read is no sign that nothing was selected.
+  if (!text && !pasteboard.readingObstacle().empty()) co_return failed(CopyOutcome::unreadable);
   if (!text || unicode::trimmed(*text).empty()) co_return failed(CopyOutcome::noText);
   co_return Copy{.outcome = CopyOutcome::copied,
                  .plainText = *std::move(text),
@@ -147,7 +149,8 @@ Task<Capture> captureSelectedContent(Services services) {
   }
   const std::optional<desktop::RunningApplication> source = co_await sourceInFront(services);
   Copy copy = co_await copySelection(services, source);
-  // Whoever selected a secret did not mean to sign the whole document instead.
+  // Whoever selected a secret, or a text that the system kept from this program, did not mean to
+  // sign the whole document instead.
   if (copy.outcome == CopyOutcome::unchanged || copy.outcome == CopyOutcome::noText) {
     services.log.write("[capture] no selection; selecting all");
     const desktop::KeyPress selectAll{.key = Key::a, .modifiers = Modifiers::command};

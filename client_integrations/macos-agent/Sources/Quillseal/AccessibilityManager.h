@@ -52,6 +52,7 @@ enum class CopyOutcome {
   copied,
   unchanged,        ///< the clipboard did not change within 1.2 s
   noText,           ///< it holds no text, or only white space
+  unreadable,       ///< the system may have kept this program from reading it
   secret,           ///< whoever copied marked it as a secret
   declined,         ///< no key was pressed: something else than the source would have got it
   documentChanged,  ///< no key was pressed: the source shows another document
@@ -79,7 +80,7 @@ struct Capture {
 /// The selection of the front application; all of its text when nothing is selected. When a window
 /// of this program has the keyboard, the application behind it is called to the front first: what
 /// is named as the source is what is asked to copy. Nothing is pressed in anything else, and all is
-/// selected only after a copy that yielded no text.
+/// selected only after a copy that is known to have yielded no text.
 [[nodiscard]] Task<Capture> captureSelectedContent(Services services);
 
 }  // namespace AccessibilityManager

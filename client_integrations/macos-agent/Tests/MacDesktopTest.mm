@@ -902,6 +902,59 @@ TEST_F(MacAlertsTest, GiveActivationBackAsWell) {
   EXPECT_TRUE(runUntil([&] { return applications.isActive(*source); }, 2));
 }
 
+TEST_F(MacAlertsTest, KeepActivationForOneThatFollows) {
+  if (!bringFinderToTheFront()) GTEST_SKIP() << "no application comes to the front";
+  MacApplications applications(loop_);
+  const std::optional<desktop::RunningApplication> source = applications.frontmost();
+  ASSERT_TRUE(source.has_value());
+  bool cameToTheFront = false;
+  bool cameBackBetween = false;
+  bool* const cameBack = &cameBackBetween;  // a block would copy the variable
+  bool dismissed = false;
+  desktop::Ticket following;
+  const desktop::Ticket shown = alerts_.ask(question_, [&](desktop::Answer) {
+    following = alerts_.show({.title = "Follows", .body = ""}, [&] { dismissed = true; });
+  });
+  id observer = nil;
+  onAlert([&](NSWindow* question) {
+    cameToTheFront = !applications.isActive(*source);
+    observer = [NSWorkspace.sharedWorkspace.notificationCenter
+        addObserverForName:NSWorkspaceDidActivateApplicationNotification
+                    object:nil
+                     queue:nil
+                usingBlock:^(NSNotification* __unused activation) {
+                  *cameBack = true;
+                }];
+    press(question, @"Sign");
+    onAlert([&](NSWindow* above) {
+      timers_.push_back(loop_.after(200ms, [&, above] {
+        [NSWorkspace.sharedWorkspace.notificationCenter removeObserver:observer];
+        press(above, @"OK");
+      }));
+    });
+  });
+  ASSERT_TRUE(runUntil([&] { return dismissed; }));
+  if (!cameToTheFront) GTEST_SKIP() << "this program may not come to the front";
+  EXPECT_FALSE(cameBackBetween);
+  EXPECT_TRUE(runUntil([&] { return applications.isActive(*source); }, 2));
+}
+
+TEST_F(MacDesktopTest, TakesNoAgentOfTheSystemForTheSource) {
+  if (!bringFinderToTheFront()) GTEST_SKIP() << "no application comes to the front";
+  NSRunningApplication* agent =
+      [NSRunningApplication runningApplicationsWithBundleIdentifier:@"com.apple.dock"].firstObject;
+  if (agent == nil) GTEST_SKIP() << "no Dock is running";
+  MacApplications applications(loop_);
+  const std::optional<desktop::RunningApplication> source = applications.frontmost();
+  ASSERT_TRUE(source.has_value());
+  [NSWorkspace.sharedWorkspace.notificationCenter
+      postNotificationName:NSWorkspaceDidActivateApplicationNotification
+                    object:NSWorkspace.sharedWorkspace
+                  userInfo:@{NSWorkspaceApplicationKey : agent}];
+  if (!comesToTheFront()) GTEST_SKIP() << "this program may not come to the front";
+  EXPECT_EQ(applications.frontmost()->instance, source->instance);
+}
+
 // Keys --------------------------------------------------------------------------------------------
 
 TEST_F(MacDesktopTest, PressesNothingIntoAnotherApplication) {
@@ -926,6 +979,11 @@ TEST_F(MacDesktopTest, PressesNothingIntoAnotherApplication) {
   { const desktop::Ticket dropped = pressInto(std::nullopt); }
   runFor(0.5);
   EXPECT_EQ(delivery, std::nullopt);
+  if (!comesToTheFront()) GTEST_SKIP() << "this program may not come to the front";
+  EXPECT_FALSE(MacApplications(loop_).frontmost().has_value()) << "only its own windows are there";
+  const desktop::Ticket pressed = pressInto(std::nullopt);
+  ASSERT_TRUE(runUntil([&] { return delivery.has_value(); }));
+  EXPECT_EQ(delivery, desktop::Delivery::declined);
   EXPECT_FALSE(isAboutToPress);
 }
 

@@ -315,8 +315,10 @@ void MacAlerts::run(const std::shared_ptr<OpenAlert>& open) {
   }
   open_.pop_back();
   stopWithdrawn();
-  [NSNotificationCenter.defaultCenter postNotificationName:windowDidGo object:nil];
   open->completion(isFirstButton);
+  // Last, so that an alert which the answer calls for is there when activation would be given back:
+  // it would lose the keyboard to the other application, and the user would type into that.
+  [NSNotificationCenter.defaultCenter postNotificationName:windowDidGo object:nil];
 }
 
 void MacAlerts::runAfterMenu() {

@@ -11,7 +11,7 @@
 #include "MacDesktop/MacText.h"
 
 /// Remembers which other application was active last, and notices when one of this program's own
-/// windows may have gone.
+/// windows may have gone. Agents of the system do not count.
 @interface QSFrontApplicationObserver : NSObject
 @property(nonatomic, readonly, nullable) NSRunningApplication* lastOther;
 /// `windowMayHaveGone` is called on the main thread, while the window may still be there, with
@@ -19,6 +19,17 @@
 - (instancetype)initWithBlock:(void (^)(NSRunningApplication*))windowMayHaveGone;
 - (void)stop;
 @end
+
+namespace {
+
+/// Whether `application` is one like the prompt for Touch ID or the lock screen, which is active
+/// for a moment only and has no text of the user's.
+bool isSystemAgent(NSRunningApplication* application) {
+  return application.activationPolicy != NSApplicationActivationPolicyRegular &&
+         [application.bundleURL.path hasPrefix:@"/System/"];
+}
+
+}  // namespace
 
 @implementation QSFrontApplicationObserver {
   void (^_windowMayHaveGone)(NSRunningApplication*);
@@ -59,9 +70,9 @@
 }
 
 - (void)remember:(NSRunningApplication*)application {
-  if (application != nil && ![application isEqual:NSRunningApplication.currentApplication]) {
-    _lastOther = application;
-  }
+  if (application == nil || isSystemAgent(application)) return;
+  if ([application isEqual:NSRunningApplication.currentApplication]) return;
+  _lastOther = application;
 }
 
 @end
@@ -140,10 +151,9 @@ std::optional<desktop::RunningApplication> MacApplications::frontmost() const {
   return callSystem([this]() -> std::optional<desktop::RunningApplication> {
     NSRunningApplication* front = NSWorkspace.sharedWorkspace.frontmostApplication;
     if ([front isEqual:NSRunningApplication.currentApplication]) {
-      NSRunningApplication* other = observer_.lastOther;
-      if (other != nil && !other.terminated) front = other;
+      front = observer_.lastOther;
     }
-    if (front == nil) return std::nullopt;
+    if (front == nil || front.terminated) return std::nullopt;
     std::optional<std::string> bundleIdentifier = optionalUtf8(front.bundleIdentifier);
     std::string categories = categoriesOf(bundleIdentifier);
     return desktop::RunningApplication{

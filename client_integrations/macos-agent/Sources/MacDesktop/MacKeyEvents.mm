@@ -36,11 +36,17 @@ void post(desktop::KeyPress press) {
 }
 
 /// What becomes of a key that is posted now for `target`. It is declined only where another
-/// application is known to be active, not where the system does not say which one is.
-desktop::Delivery prospectOf(const desktop::RunningApplication& target) {
+/// application is known to be active, not where the system does not say which one is. Nothing is
+/// pressed in a window of this program for want of a target.
+desktop::Delivery prospectOf(const std::optional<desktop::RunningApplication>& target) {
   return callSystem([&] {
-    const auto process = static_cast<pid_t>(target.instance);
     NSRunningApplication* active = NSWorkspace.sharedWorkspace.frontmostApplication;
+    if (!target) {
+      return [active isEqual:NSRunningApplication.currentApplication]
+                 ? desktop::Delivery::declined
+                 : desktop::Delivery::delivered;
+    }
+    const auto process = static_cast<pid_t>(target->instance);
     if (active == nil || active.processIdentifier == process) return desktop::Delivery::delivered;
     NSRunningApplication* wanted =
         [NSRunningApplication runningApplicationWithProcessIdentifier:process];
@@ -81,8 +87,7 @@ class WaitingPress : public std::enable_shared_from_this<WaitingPress> {
  private:
   desktop::Delivery deliver() {
     try {
-      const desktop::Delivery prospect =
-          plan_.target ? prospectOf(*plan_.target) : desktop::Delivery::delivered;
+      const desktop::Delivery prospect = prospectOf(plan_.target);
       if (prospect != desktop::Delivery::delivered) return prospect;
       if (plan_.aboutToPress) plan_.aboutToPress();
     } catch (const Error&) {

@@ -6,9 +6,8 @@
 #include <iomanip>
 #include <sstream>
 #include <stdexcept>
-#include <utility>
 
-#include <kainjow/mustache.hpp>
+#include <mstch/mstch.hpp>
 #include <nlohmann/json.hpp>
 
 #include "Assets.h"
@@ -19,8 +18,7 @@
 namespace quillseal::devserver {
 namespace {
 
-using kainjow::mustache::data;
-using kainjow::mustache::mustache;
+using namespace std::string_literals;
 
 constexpr std::array<const char*, 12> monthNames{"January",   "February", "March",    "April",
                                                  "May",       "June",     "July",     "August",
@@ -32,13 +30,10 @@ std::string templateText(std::string_view name) {
   return std::string(*text);
 }
 
-std::string rendered(std::string_view name, data values) {
-  values.set("frame_top",
-             data{kainjow::mustache::partial{[] { return templateText("frame_top.mustache"); }}});
-  values.set("frame_end",
-             data{kainjow::mustache::partial{[] { return templateText("frame_end.mustache"); }}});
-  mustache page(templateText(name));
-  return page.render(values);
+std::string rendered(std::string_view name, const mstch::map& values) {
+  return mstch::render(templateText(name), values,
+                       {{"frame_top", templateText("frame_top.mustache")},
+                        {"frame_end", templateText("frame_end.mustache")}});
 }
 
 std::chrono::sys_seconds instant(std::int64_t seconds) {
@@ -126,39 +121,38 @@ std::string browserExpiry(std::string_view issued) {
 std::string verifyPage(const Signature& signature, std::int64_t now) {
   // Whoever can write to the database can change a record, and a file can be damaged.
   const bool isSound = isConsistent(signature);
-  data values;
-  values.set("title", "Check a message");
-  values.set("script", "verify.js");
+  mstch::map values;
+  values["title"] = "Check a message"s;
+  values["script"] = "verify.js"s;
   if (isSound) {
-    values.set("record", recordOf(signature, now));
-    values.set("tone", "unknown");
-    values.set("verdict", "This page cannot tell you whether your message is genuine");
-    values.set("explanation", "Comparing needs JavaScript, which is off in this browser.");
-    values.set("issued", longDate(signature.issued));
-    values.set("expires", longDate(signature.expires));
-    values.set("recorded", utcTime(signature.recordedAt));
+    values["record"] = recordOf(signature, now);
+    values["tone"] = "unknown"s;
+    values["verdict"] = "This page cannot tell you whether your message is genuine"s;
+    values["explanation"] = "Comparing needs JavaScript, which is off in this browser."s;
+    values["issued"] = longDate(signature.issued);
+    values["expires"] = longDate(signature.expires);
+    values["recorded"] = utcTime(signature.recordedAt);
   } else {
-    values.set("record", "null");
-    values.set("tone", "bad");
-    values.set("verdict", "This record was changed after it was made");
-    values.set("explanation",
-               "Do not rely on a message whose link leads here. Nothing is compared.");
-    values.set("recorded", "unknown");
+    values["record"] = "null"s;
+    values["tone"] = "bad"s;
+    values["verdict"] = "This record was changed after it was made"s;
+    values["explanation"] = "Do not rely on a message whose link leads here. Nothing is compared."s;
+    values["recorded"] = "unknown"s;
   }
-  values.set("is_device", signature.kind == SignatureKind::device);
-  values.set("commitment", signature.commitment);
-  values.set("has_device", !signature.deviceId.empty());
-  values.set("device", signature.deviceId);
-  values.set("has_zone", !signature.timezone.empty());
-  values.set("zone", zone(signature));
-  values.set("id", signature.id);
-  values.set("text_digest", signature.textDigest);
-  values.set("image_digest", signature.imageDigest);
-  values.set("nonce", signature.nonce);
-  values.set("canonical_digest", canonicalDigest(signature));
-  values.set("public_key", signature.publicKey);
-  values.set("device_signature", signature.deviceSignature);
-  return rendered("verify.mustache", std::move(values));
+  values["is_device"] = signature.kind == SignatureKind::device;
+  values["commitment"] = signature.commitment;
+  values["has_device"] = !signature.deviceId.empty();
+  values["device"] = signature.deviceId;
+  values["has_zone"] = !signature.timezone.empty();
+  values["zone"] = zone(signature);
+  values["id"] = signature.id;
+  values["text_digest"] = signature.textDigest;
+  values["image_digest"] = signature.imageDigest;
+  values["nonce"] = signature.nonce;
+  values["canonical_digest"] = canonicalDigest(signature);
+  values["public_key"] = signature.publicKey;
+  values["device_signature"] = signature.deviceSignature;
+  return rendered("verify.mustache", values);
 }
 
 std::string handoffPage(const Handoff& handoff, std::int64_t secondsLeft) {
@@ -177,23 +171,23 @@ std::string handoffPage(const Handoff& handoff, std::int64_t secondsLeft) {
                        .text = "This request was not signed in time. Nothing was signed. Select "
                                "your text and start again."});
   }
-  data values;
-  values.set("title", "Sign this text?");
-  values.set("script", "handoff.js");
-  values.set("id", handoff.id);
-  values.set("text_digest", handoff.textDigest);
-  values.set("seconds_left", std::to_string(secondsLeft));
-  values.set("scope", handoff.scope);
-  values.set("issued", longDate(handoff.issued));
-  values.set("expires", longDate(browserExpiry(handoff.issued)));
-  return rendered("handoff.mustache", std::move(values));
+  mstch::map values;
+  values["title"] = "Sign this text?"s;
+  values["script"] = "handoff.js"s;
+  values["id"] = handoff.id;
+  values["text_digest"] = handoff.textDigest;
+  values["seconds_left"] = std::to_string(secondsLeft);
+  values["scope"] = handoff.scope;
+  values["issued"] = longDate(handoff.issued);
+  values["expires"] = longDate(browserExpiry(handoff.issued));
+  return rendered("handoff.mustache", values);
 }
 
 std::string noticePage(const Notice& notice) {
-  data values;
-  values.set("title", notice.title);
-  values.set("text", notice.text);
-  return rendered("notice.mustache", std::move(values));
+  mstch::map values;
+  values["title"] = notice.title;
+  values["text"] = notice.text;
+  return rendered("notice.mustache", values);
 }
 
 }  // namespace quillseal::devserver

@@ -150,7 +150,7 @@ TEST_F(ServiceTest, RecordsTheSignatureOfAnEnrolledDevice) {
   EXPECT_THAT(page, HasSubstr("&quot;isExpired&quot;:false"));
   for (const char* shown :
        {"Ada Lovelace", "1 January 2026", "31 January 2026", "statement",
-        "Email Message (Writer &lt;b&gt;)", deviceId, "Asia/Kolkata (UTC+05:30)"}) {
+        "Email Message (Writer &lt;b&gt;)", deviceId, "Asia&#x2F;Kolkata (UTC+05:30)"}) {
     EXPECT_THAT(page, HasSubstr(shown));
   }
   now_ += std::int64_t{31} * 24 * 60 * 60;

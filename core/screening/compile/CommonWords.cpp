@@ -1,3 +1,9 @@
+// Common English words with their frequencies, for the cost model of the prefilters.
+//
+// Words of business letters weigh more, since a text full of them meets the most literals.
+// Only the speed of a search depends on this table, never its result.
+// Tests: none for the figures; the benchmarks `screen/…` show their effect.
+
 #include "core/screening/compile/CommonWords.h"
 
 #include <algorithm>

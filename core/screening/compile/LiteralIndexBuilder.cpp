@@ -1,3 +1,14 @@
+// Builds the Aho-Corasick automaton of `LiteralIndex`.
+//
+// Algorithm: a trie of the literals; failure links in breadth-first order; then the layout. States
+// of depth two or less whose letters are common are dense. Each other state stores the edges that
+// differ from those of its nearest dense ancestor along the failure links. States are numbered so
+// that dense states come first, match states are adjacent, and the states of one literal lie side
+// by side.
+// Bound: time O(letters of all literals * symbols); at most 65,535 states, more throws
+// PatternError.
+// Tests: ScreeningEngine.AgreesWithIcuOnEveryConstruct, ScreeningEngine.AgreesWithIcuOnEveryRule.
+
 #include "core/screening/compile/LiteralIndexBuilder.h"
 
 #include <algorithm>

@@ -1,3 +1,13 @@
+// Parses regular expressions in ICU's syntax, with ICU's meaning, into a tree.
+//
+// Algorithm: recursive descent. Adjacent literal characters are one string for full case folding,
+// as in ICU; a single one is folded simply. Sets are ICU's own (`UnicodeSet`), closed over case
+// first and negated then. Captures only group. What the engine does not offer (back references,
+// possessive quantifiers, loops over an empty body) throws PatternError.
+// Bound: linear in the pattern, except that nested quantifiers are copied by the program compiler.
+// Tests: ScreeningEngine.AgreesWithIcuOnEveryConstruct,
+// ScreeningEngine.ReportsPatternsItCannotUseAndKeepsTheOthers.
+
 #include "core/screening/compile/PatternSyntax.h"
 
 #include <algorithm>

@@ -1,3 +1,14 @@
+// Compiles a parsed pattern into instructions, their first sets and its prefix classes.
+//
+// Algorithm: one pass over the tree emits code. A loop whose body always takes one code point
+// becomes one instruction over a set; other counted loops are unrolled. Then each branch and loop
+// exit gets its first set: the classes with which the rest can begin. The prefix classes follow
+// from simulating all paths through the program for up to eight code points.
+// Bound: code is linear in the unrolled pattern, at most 65,534 instructions; more throws
+// PatternError.
+// Tests: ScreeningEngine.AgreesWithIcuOnEveryConstruct (quantifiers, loops over one code point),
+// ScreeningEngine.AgreesWithIcuOnEveryRule.
+
 #include "core/screening/compile/ProgramCompiler.h"
 
 #include <algorithm>

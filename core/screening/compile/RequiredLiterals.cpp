@@ -1,3 +1,14 @@
+// Derives required-literal sequences: literals that every match contains, in order, with the
+// greatest distance between neighbours (compare the Prefilter class of RE2).
+//
+// Algorithm: for each path through a pattern, nodes that match only a few strings are multiplied
+// out and joined to literals; other nodes add to the distance. Several limits of frequency are
+// tried, and the sequence with the lowest expected cost is kept. Leaving out a requirement lets
+// more candidates through and never loses a match.
+// Bound: at most two paths for each alternative, four elements for each sequence, 128 literals for
+// each element; results are cached by node.
+// Tests: ScreeningEngine.AgreesWithIcuOnEveryConstruct, ScreeningEngine.AgreesWithIcuOnEveryRule.
+
 #include "core/screening/compile/RequiredLiterals.h"
 
 #include <algorithm>

@@ -1,3 +1,11 @@
+// Estimates how often a literal occurs in an ordinary text, for the cost model of the prefilters.
+//
+// Algorithm: the product of the frequencies of its letters, or the sum over the common words that
+// contain it, whichever is more.
+// Only the speed of a search depends on these estimates, never its result.
+// Bound: letters of the literal * common words.
+// Tests: none for the figures; the benchmarks `screen/…` show their effect.
+
 #include "core/screening/compile/TextFrequency.h"
 
 #include <algorithm>

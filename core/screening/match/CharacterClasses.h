@@ -12,7 +12,8 @@
 #include "core/screening/match/WordBits.h"
 
 /// The screening engine: regular expressions in ICU's syntax, many at once over one text, with
-/// exactly the matches of ICU's own engine and in linear time. docs/screening.md has the reasoning.
+/// exactly the matches of ICU's own engine and in linear time.
+/// core/screening/README.md explains it.
 namespace quillseal::screening {
 
 /// A class of code points that no pattern tells apart.

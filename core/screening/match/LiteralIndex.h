@@ -1,3 +1,15 @@
+// Finds every occurrence of many literals in one pass (Aho and Corasick, "Efficient string
+// matching", 1975). It is the engine's main prefilter.
+//
+// Algorithm: a deterministic automaton over symbols. States near the root are dense: a row has the
+// successor for each common symbol. The others keep only the edges that differ from those of the
+// dense state they fall back on, the one along the literal first. A code point that folds to
+// several letters (ß, ﬁ) is a multi-symbol edge: the automaton takes as many transitions.
+// Bound: one transition for each letter of the folded text, which is at most three for each code
+// point.
+// Tests: ScreeningEngine.AgreesWithIcuOnEveryConstruct (foldings, white space in literals),
+// ScreeningEngine.AgreesWithIcuOnEveryRule.
+
 #pragma once
 
 #include <algorithm>

@@ -1,3 +1,16 @@
+// Finds the first match of each pattern: prefilters propose starts, the matcher verifies them.
+//
+// Algorithm: two prefilters take turns over stretches of the text. The literal index reports
+// literals; when all literals of a required-literal sequence stand in order and near enough to each
+// other, the starts before the first one are tried. Patterns without a selective literal are found
+// by the classes of their first code points, all advanced by one shift and one mask (Baeza-Yates
+// and Gonnet, "A new approach to text searching", 1992). The leftmost match wins, then the earliest
+// alternative.
+// Bound: O(n) for a given set of patterns. A scan back over the text or over the candidates stops
+// where an earlier one began, and all starts of a search share the memo table.
+// Tests: ScreeningEngine.AgreesWithIcuOnEveryRule, .WorkGrowsLinearlyWithWhateverIsRepeated;
+// `scripts/fuzz 60 screening` compares the engine with ICU on any bytes.
+
 #include "core/screening/match/ScreeningEngine.h"
 
 #include <algorithm>

@@ -1,3 +1,13 @@
+// The format of compiled tables: arrays one after the other, each preceded by its length and
+// aligned.
+//
+// Algorithm: one `transfer` function names the arrays of a table, for writing and for reading.
+// Reading makes spans over the stored bytes and copies nothing, so the tables can be constant data
+// of the program. They are trusted: they come from the compiler of the same build, in this
+// machine's byte order, and are not checked.
+// Bound: opening takes one step for each array, whatever its size.
+// Tests: every test of ScreeningEngine compiles tables and reads them back.
+
 #pragma once
 
 #include <cstddef>

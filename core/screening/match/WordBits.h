@@ -1,3 +1,8 @@
+// Bit operations on arrays of 64-bit words.
+//
+// Bound: one word access for a bit; `setBits` takes one step for each word that it touches.
+// Tests: ScreeningEngine.AgreesWithIcuOnEveryRule, which activates elements with `setBits`.
+
 #pragma once
 
 #include <algorithm>

@@ -22,7 +22,7 @@
 namespace quillseal::screening {
 namespace {
 
-constexpr char32_t behindLast = 0x110000;
+constexpr char32_t pastLast = 0x110000;
 
 /// A larger set says too little about what stands in a match.
 constexpr std::size_t largestLetterSet = 16;
@@ -41,7 +41,7 @@ const std::vector<std::pair<ClassTrait, CodePointRanges>>& traitRanges() {
   static const std::vector<std::pair<ClassTrait, CodePointRanges>> ranges{
       {isWordTrait, codePointsOf(wordSet)},
       // ICU's \b looks through these (RegexMatcher::isWordBoundary).
-      {isUnnoticedTrait, codePointsOf(R"([\p{Grapheme_Extend}\p{Cf}])")},
+      {isTransparentTrait, codePointsOf(R"([\p{Grapheme_Extend}\p{Cf}])")},
       {isSpaceTrait, codePointsOf(spaceSet)},
       {isTerminatorTrait, {{0x0A, 0x0D}, {0x85, 0x85}, {0x2028, 0x2029}}},
       {isLineFeedTrait, {{'\n', '\n'}}},
@@ -65,11 +65,11 @@ struct Features {
   }
 };
 
-/// Divides the code points into stretches of the same features.
-class Stretches {
+/// Divides the code points into intervals of the same features.
+class Intervals {
  public:
-  Stretches(const SetTable& sets, const std::map<char32_t, std::vector<Letter>>& foldings)
-      : starts_{0, behindLast} {
+  Intervals(const SetTable& sets, const std::map<char32_t, std::vector<Letter>>& foldings)
+      : starts_{0, pastLast} {
     for (std::size_t set = 0; set < sets.size(); ++set)
       cutAt(sets[set]);
     for (const auto& [trait, ranges] : traitRanges())
@@ -145,15 +145,15 @@ ClassPartition::ClassPartition(const SetTable& sets, std::vector<char32_t> alpha
   alphabet_.push_back(U' ');
   sortAndUnite(alphabet_);
 
-  const Stretches stretches(sets, foldingsIntoAlphabet());
+  const Intervals intervals(sets, foldingsIntoAlphabet());
   static_assert(ClassifiedText::endClass == 0);  // so the first class is that of the end
   std::vector<Features> classes(1);
   std::map<Features, ClassId> known;
   std::vector<std::pair<char32_t, ClassId>> classFrom;
-  for (std::size_t i = 0; i < stretches.count(); ++i) {
+  for (std::size_t i = 0; i < intervals.count(); ++i) {
     const auto [entry, isNew] =
-        known.try_emplace(stretches.features(i), static_cast<ClassId>(classes.size()));
-    classFrom.emplace_back(stretches.start(i), entry->second);
+        known.try_emplace(intervals.features(i), static_cast<ClassId>(classes.size()));
+    classFrom.emplace_back(intervals.start(i), entry->second);
     if (isNew) classes.push_back(entry->first);
     if (classes.size() > ClassifiedText::classMask) throw PatternError("too many classes");
   }
@@ -200,13 +200,13 @@ std::map<char32_t, std::vector<Letter>> ClassPartition::foldingsIntoAlphabet() c
 void ClassPartition::fillPages(std::span<const std::pair<char32_t, ClassId>> classFrom) {
   constexpr std::size_t pageSize = CharacterClassTable<Owned>::pageSize;
   std::map<std::vector<std::uint16_t>, std::uint16_t> pages;
-  std::size_t stretch = 0;
-  for (std::size_t page = 0; page < behindLast / pageSize; ++page) {
+  std::size_t interval = 0;
+  for (std::size_t page = 0; page < pastLast / pageSize; ++page) {
     std::vector<std::uint16_t> content(pageSize);
     for (std::size_t i = 0; i < pageSize; ++i) {
-      if (stretch + 1 < classFrom.size() && classFrom[stretch + 1].first == page * pageSize + i)
-        ++stretch;
-      content[i] = entryOf(classFrom[stretch].second);
+      if (interval + 1 < classFrom.size() && classFrom[interval + 1].first == page * pageSize + i)
+        ++interval;
+      content[i] = entryOf(classFrom[interval].second);
     }
     const auto [known, isNew] =
         pages.try_emplace(std::move(content), static_cast<std::uint16_t>(pages.size()));
@@ -217,10 +217,10 @@ void ClassPartition::fillPages(std::span<const std::pair<char32_t, ClassId>> cla
 
 std::uint16_t ClassPartition::entryOf(ClassId id) const {
   using Table = CharacterClassTable<Owned>;
-  const bool isUnnoticed = (table_.traits[id] & isUnnoticedTrait) != 0;
+  const bool isTransparent = (table_.traits[id] & isTransparentTrait) != 0;
   return static_cast<std::uint16_t>(id | (isWord(id) ? Table::wordFlag : 0) |
                                     (isSpace(id) ? Table::spaceFlag : 0) |
-                                    (isUnnoticed ? 0 : Table::noticedFlag));
+                                    (isTransparent ? 0 : Table::opaqueFlag));
 }
 
 Letter ClassPartition::letterOf(char32_t c) const {

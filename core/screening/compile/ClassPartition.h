@@ -67,7 +67,7 @@ class ClassPartition {
  private:
   /// How each code point folds whose folding contains a letter of the alphabet.
   [[nodiscard]] std::map<char32_t, std::vector<Letter>> foldingsIntoAlphabet() const;
-  /// `classFrom`: where stretches of code points begin, ascending from 0, and their classes.
+  /// `classFrom`: where intervals of code points begin, ascending from 0, and their classes.
   /// What the pages say of a class.
   [[nodiscard]] std::uint16_t entryOf(ClassId id) const;
   void fillPages(std::span<const std::pair<char32_t, ClassId>> classFrom);

@@ -17,7 +17,7 @@ namespace quillseal::screening {
 namespace {
 
 /// Letters of a literal; of longer ones only the beginning is asked for.
-constexpr std::size_t longestLiteral = 9;
+constexpr std::size_t maxLiteralLength = 9;
 
 std::uint32_t sum(std::uint32_t a, std::uint32_t b) {
   return a > unbounded - b ? unbounded : a + b;
@@ -77,7 +77,7 @@ Distance LiteralAlphabet::longest(const Literals& literals) const {
   return length;
 }
 
-bool LiteralAlphabet::isTelling(const Literals& literals) const {
+bool LiteralAlphabet::isSelective(const Literals& literals) const {
   return std::all_of(literals.begin(), literals.end(), [this](const Literal& literal) {
     return std::any_of(literal.begin(), literal.end(),
                        [this](Letter letter) { return !isSpaceLetter(letter); });
@@ -119,10 +119,10 @@ bool LiteralAlphabet::dropLeadingSpace(Literals& literals) const {
 Distance LiteralAlphabet::shorten(Literals& literals) const {
   Distance cut;
   for (Literal& literal : literals) {
-    std::size_t length = std::min(literal.size(), longestLiteral);
+    std::size_t length = std::min(literal.size(), maxLiteralLength);
     while (length > 0 && isWithinExpansion(literal[length - 1]))
       --length;
-    if (length == 0 || literal.size() <= longestLiteral) continue;
+    if (length == 0 || literal.size() <= maxLiteralLength) continue;
     const auto end = literal.begin() + static_cast<std::ptrdiff_t>(length);
     cut = larger(cut, longest({Literal(end, literal.end())}));
     literal.erase(end, literal.end());
@@ -144,7 +144,7 @@ bool LiteralAlphabet::isWordLetter(Letter letter) const {
 }
 
 /// Whether one code point may fold to this letter and more behind it, as ß does to s. A literal
-/// that ended there would end within a code point, where no hit is noticed.
+/// that ended there would end within a code point, where the index is in no match state.
 bool LiteralAlphabet::isWithinExpansion(Letter letter) const {
   const auto ids = classes_.classesWith(letter);
   return std::any_of(ids.begin(), ids.end(), [&](ClassId id) {

@@ -33,12 +33,12 @@ class LiteralAlphabet {
   [[nodiscard]] Literals product(const Literals& heads, const Literals& tails) const;
   [[nodiscard]] Distance longest(const Literals& literals) const;
   /// Whether a literal says anything: not when it is empty or white space alone.
-  [[nodiscard]] bool isTelling(const Literals& literals) const;
+  [[nodiscard]] bool isSelective(const Literals& literals) const;
   /// How often one of them is met, for each code point of an ordinary text.
   [[nodiscard]] double frequencyOf(const Literals& literals) const;
 
-  // A hit knows only where a run of white space begins, not where in it the match does, nor where
-  // the run ends.
+  // The literal index knows only where a run of white space begins, not where in it the match does,
+  // nor where the run ends.
 
   [[nodiscard]] bool anyStartsWithSpace(const Literals& literals) const;
   [[nodiscard]] bool anyEndsInSpace(const Literals& literals) const;

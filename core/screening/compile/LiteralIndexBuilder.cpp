@@ -22,7 +22,7 @@ using State = Table::State;
 using Symbol = Table::Symbol;
 
 /// Most of a text leads to states no deeper than this.
-constexpr std::uint32_t fullDepth = 2;
+constexpr std::uint32_t denseDepth = 2;
 
 /// The symbols of the letters, by descending frequency in the literals.
 class SymbolCode {
@@ -56,14 +56,14 @@ class Trie {
     std::vector<std::uint16_t> values;
     std::uint32_t failure = 0;
     std::uint32_t depth = 0;
-    bool isFull = true;
+    bool isDense = true;
 
     [[nodiscard]] std::uint32_t child(Symbol symbol) const {
       for (const auto& [own, node] : children)
         if (own == symbol) return node;
       return 0;
     }
-    [[nodiscard]] bool isHit() const { return !values.empty(); }
+    [[nodiscard]] bool isMatch() const { return !values.empty(); }
   };
 
   void add(std::span<const Symbol> symbols, std::uint16_t value) {
@@ -76,8 +76,8 @@ class Trie {
         nodes_[at].children.emplace_back(symbol, next);
         nodes_.emplace_back();
         nodes_[next].depth = nodes_[at].depth + 1;
-        nodes_[next].isFull =
-            nodes_[at].isFull && symbol < Table::columns && nodes_[next].depth <= fullDepth;
+        nodes_[next].isDense =
+            nodes_[at].isDense && symbol < Table::columns && nodes_[next].depth <= denseDepth;
       }
       at = next;
     }
@@ -98,15 +98,15 @@ class Trie {
         open.push_back(child);
     }
     const auto rank = [this](std::uint32_t node) {
-      const bool isHit = nodes_[node].isHit();
-      return nodes_[node].isFull ? (isHit ? 1 : 0) : (isHit ? 2 : 3);
+      const bool isMatch = nodes_[node].isMatch();
+      return nodes_[node].isDense ? (isMatch ? 1 : 0) : (isMatch ? 2 : 3);
     };
     std::stable_sort(order.begin(), order.end(),
                      [&](std::uint32_t a, std::uint32_t b) { return rank(a) < rank(b); });
     return order;
   }
 
-  [[nodiscard]] std::uint32_t after(std::uint32_t node, Symbol symbol) const {
+  [[nodiscard]] std::uint32_t successor(std::uint32_t node, Symbol symbol) const {
     for (;; node = nodes_[node].failure) {
       const std::uint32_t child = nodes_[node].child(symbol);
       if (child != 0 || node == 0) return child;
@@ -123,7 +123,7 @@ class Trie {
     for (std::size_t i = 0; i < order.size(); ++i) {
       const std::uint32_t node = order[i];
       for (const auto& [symbol, child] : nodes_[node].children) {
-        if (node != 0) nodes_[child].failure = after(nodes_[node].failure, symbol);
+        if (node != 0) nodes_[child].failure = successor(nodes_[node].failure, symbol);
         const auto& inherited = nodes_[nodes_[child].failure].values;
         auto& values = nodes_[child].values;
         values.insert(values.end(), inherited.begin(), inherited.end());
@@ -140,11 +140,12 @@ void fillSymbols(Table& table, const SymbolCode& code, const ClassPartition& cla
     const auto id = static_cast<ClassId>(i);
     const Letter space[] = {classes.spaceLetter()};
     const auto letters = classes.isSpace(id) ? std::span<const Letter>(space) : classes.folding(id);
-    table.symbols.push_back(letters.size() == 1 ? code.symbolOf(letters.front()) : Table::several);
+    table.symbols.push_back(letters.size() == 1 ? code.symbolOf(letters.front())
+                                                : Table::multiSymbol);
     if (letters.size() == 1) continue;
-    table.sequences.push_back({.id = id,
-                               .first = static_cast<std::uint16_t>(table.letters.size()),
-                               .count = static_cast<std::uint16_t>(letters.size())});
+    table.expansions.push_back({.id = id,
+                                .first = static_cast<std::uint16_t>(table.letters.size()),
+                                .count = static_cast<std::uint16_t>(letters.size())});
     for (const Letter letter : letters)
       table.letters.push_back(code.symbolOf(letter));
   }
@@ -157,14 +158,14 @@ void addEdges(Table& table, const Trie& trie, std::uint32_t number,
   std::map<Symbol, State> edges;
   std::uint32_t fallback = 0;
   for (std::uint32_t at = number; at != 0; at = trie.node(at).failure) {
-    if (fallback == 0 && trie.node(at).isFull) fallback = at;
+    if (fallback == 0 && trie.node(at).isDense) fallback = at;
     for (const auto& [symbol, child] : trie.node(at).children)
       if (fallback == 0 || symbol >= Table::columns) edges.emplace(symbol, numbers[child]);
   }
   const auto& children = trie.node(number).children;
   auto onward = children.empty() ? edges.begin() : edges.find(children.front().first);
   if (onward == edges.end()) onward = edges.begin();
-  Table::Edges state{.onward = {.symbol = Table::several, .target = 0},
+  Table::Edges state{.onward = {.symbol = Table::multiSymbol, .target = 0},
                      .fallback = numbers[fallback],
                      .count = 0,
                      .first = static_cast<std::uint32_t>(table.edges.size())};
@@ -185,21 +186,21 @@ void fillStates(Table& table, Trie& trie, std::size_t symbolCount) {
     numbers[order[i]] = static_cast<State>(i);
   auto& layout = table.layout;
   layout.root = numbers[0];
-  const auto stateAfter = [&](std::uint32_t node, std::size_t symbol) {
-    return numbers[trie.after(node, static_cast<Symbol>(symbol))];
+  const auto successorOf = [&](std::uint32_t node, std::size_t symbol) {
+    return numbers[trie.successor(node, static_cast<Symbol>(symbol))];
   };
   for (std::size_t symbol = 0; symbol < symbolCount; ++symbol)
-    table.rootRow.push_back(stateAfter(0, symbol));
+    table.rootRow.push_back(successorOf(0, symbol));
   for (const std::uint32_t number : order) {
     const Trie::Node& node = trie.node(number);
-    if (node.isFull) {
-      ++layout.fullCount;
+    if (node.isDense) {
+      ++layout.denseCount;
       for (std::size_t symbol = 0; symbol < Table::columns; ++symbol)
-        table.rows.push_back(stateAfter(number, symbol));
+        table.rows.push_back(successorOf(number, symbol));
     }
     addEdges(table, trie, number, numbers);
-    if (!node.isHit()) continue;
-    if (layout.hitCount++ == 0) layout.firstHit = numbers[number];
+    if (!node.isMatch()) continue;
+    if (layout.matchCount++ == 0) layout.firstMatch = numbers[number];
     table.valueStarts.push_back(static_cast<std::uint32_t>(table.values.size()));
     table.values.insert(table.values.end(), node.values.begin(), node.values.end());
   }

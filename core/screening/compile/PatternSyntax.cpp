@@ -20,8 +20,9 @@
 namespace quillseal::screening {
 namespace {
 
-/// Rounds of a counted loop. Unless its body is a single set, it is compiled once for each round.
-constexpr std::uint32_t mostRounds = 5000;
+/// Iterations of a counted loop. Unless its body is a single set, it is compiled once for each
+/// iteration.
+constexpr std::uint32_t maxIterations = 5000;
 
 CodePointRanges rangesOf(const icu::UnicodeSet& set) {
   CodePointRanges ranges;
@@ -242,7 +243,7 @@ class Parser {
       while (!ended() && pattern_[at_] >= U'0' && pattern_[at_] <= U'9') {
         value = value * 10 + (take() - U'0');
         any = true;
-        if (value > mostRounds) fail("repetition too long");
+        if (value > maxIterations) fail("repetition too long");
       }
       if (!any) fail("number expected");
       return value;

@@ -39,22 +39,22 @@ class ProgramCompiler {
     // The program of an exception may add to the list.
     std::size_t compiled = 0;
     while (compiled < exceptions_.size()) {
-      program_.exceptions.push_back({.instruction = here(), .beginning = {}});
+      program_.exceptions.push_back({.instruction = here(), .firstSet = {}});
       emit(Node(exceptions_[compiled++]));
       add({.operation = Operation::accept});
     }
-    known_.resize(program_.code.size());
+    firstBits_.resize(program_.code.size());
     for (ProgramEntry& exception : program_.exceptions)
-      exception.beginning = kept(startAt(exception.instruction));
+      exception.firstSet = kept(firstAt(exception.instruction));
     for (ProgramEntry& target : program_.targets)
-      target.beginning = kept(startAt(target.instruction));
+      target.firstSet = kept(firstAt(target.instruction));
     for (std::size_t i = 0; i < program_.code.size(); ++i) {
       Instruction& instruction = program_.code[i];
       if (instruction.operation == Operation::greedyLoop ||
           instruction.operation == Operation::lazyLoop)
-        instruction.first = numberOf(kept(startAt(static_cast<std::uint32_t>(i + 1))));
+        instruction.first = numberOf(kept(firstAt(static_cast<std::uint32_t>(i + 1))));
     }
-    program_.entries.push_back({.instruction = 0, .beginning = kept(startAt(0))});
+    program_.entries.push_back({.instruction = 0, .firstSet = kept(firstAt(0))});
     if (pattern.kind == Node::Kind::alternatives)
       for (std::size_t i = 0; i < pattern.children.size(); ++i)
         program_.entries.push_back(program_.targets[i]);
@@ -158,14 +158,14 @@ class ProgramCompiler {
   void emitRepetition(const Node& node) {
     const Node& body = node.children.front();
     const std::uint32_t optional = node.max == unbounded ? unbounded : node.max - node.min;
-    if (const auto round = roundOfOneCodePoint(body)) {
+    if (const auto iteration = oneCodePointIteration(body)) {
       if (node.min == 1) {
         emit(body);
       } else if (node.min > 1) {
-        addLoop(Operation::greedyLoop, *round, node.min, node.min);
+        addLoop(Operation::greedyLoop, *iteration, node.min, node.min);
       }
       if (optional > 0)
-        addLoop(node.lazy ? Operation::lazyLoop : Operation::greedyLoop, *round, 0, optional);
+        addLoop(node.lazy ? Operation::lazyLoop : Operation::greedyLoop, *iteration, 0, optional);
       return;
     }
     for (std::uint32_t i = 0; i < node.min; ++i)
@@ -182,16 +182,16 @@ class ProgramCompiler {
       targetOf(choice, node.lazy ? 0 : 1) = here();
   }
 
-  /// What one round of a loop takes when that is always one code point.
-  struct Round {
+  /// What one iteration of a loop takes when that is always one code point.
+  struct Iteration {
     ClassSetId set = 0;
     std::uint16_t exception = 0;
   };
 
   // Whichever alternative takes the code point, the loop goes on behind it: their order does not
   // matter, and those that ask nothing of the neighbours are one set.
-  std::optional<Round> roundOfOneCodePoint(const Node& body) {
-    if (body.kind == Node::Kind::set) return Round{.set = setOf(body.set)};
+  std::optional<Iteration> oneCodePointIteration(const Node& body) {
+    if (body.kind == Node::Kind::set) return Iteration{.set = setOf(body.set)};
     if (body.kind != Node::Kind::alternatives) return std::nullopt;
     ClassBits free(sets_.words());
     Node conditional{.kind = Node::Kind::alternatives};
@@ -203,9 +203,9 @@ class ProgramCompiler {
         conditional.children.push_back(child);
       }
     }
-    Round round{.set = sets_.intern(free)};
-    if (!conditional.children.empty()) round.exception = exceptionOf(std::move(conditional));
-    return round;
+    Iteration iteration{.set = sets_.intern(free)};
+    if (!conditional.children.empty()) iteration.exception = exceptionOf(std::move(conditional));
+    return iteration;
   }
 
   static const Node* onlyChild(const Node& node) {
@@ -233,13 +233,14 @@ class ProgramCompiler {
     return counted(static_cast<std::size_t>(known - exceptions_.begin()) + 1);
   }
 
-  void addLoop(Operation operation, const Round& round, std::uint32_t min, std::uint32_t max) {
+  void addLoop(Operation operation, const Iteration& iteration, std::uint32_t min,
+               std::uint32_t max) {
     add({.operation = operation,
          .count = counted(min),
          .max = max == unbounded ? Instruction::endless : counted(max),
          .memo = memoRows(2),
-         .set = round.set,
-         .exception = round.exception});
+         .set = iteration.set,
+         .exception = iteration.exception});
   }
 
   static std::uint16_t counted(std::size_t count) {
@@ -262,126 +263,126 @@ class ProgramCompiler {
     return sets_.intern({bits.begin(), bits.end()});
   }
 
-  /// A `Beginning` whose set need not be kept.
-  struct Start {
+  /// A `FirstSet` whose set need not be kept.
+  struct FirstBits {
     ClassBits classes;
-    bool anything = false;
+    bool isNullable = false;
     bool atBoundary = false;
   };
 
   // No cycle is followed: the body of a loop takes at least one code point.
-  const Start& startAt(std::uint32_t index) {
-    if (!known_[index]) known_[index] = startOf(index);
-    return *known_[index];
+  const FirstBits& firstAt(std::uint32_t index) {
+    if (!firstBits_[index]) firstBits_[index] = firstOf(index);
+    return *firstBits_[index];
   }
 
-  Start startOf(std::uint32_t index) {
+  FirstBits firstOf(std::uint32_t index) {
     const Instruction& instruction = program_.code[index];
     switch (instruction.operation) {
       case Operation::set:
         return {.classes = sets_.bits(instruction.set)};
       case Operation::foldedText: {
-        Start start{.classes = ClassBits(sets_.words())};
+        FirstBits first{.classes = ClassBits(sets_.words())};
         for (const ClassId id : classes_.classesWith(program_.letters[instruction.first]))
           if (classes_.folding(id).front() == program_.letters[instruction.first])
-            setBit(start.classes, id);
-        return start;
+            setBit(first.classes, id);
+        return first;
       }
       case Operation::choice: {
-        Start all{.classes = ClassBits(sets_.words()), .atBoundary = true};
+        FirstBits all{.classes = ClassBits(sets_.words()), .atBoundary = true};
         for (std::uint32_t i = 0; i < instruction.count; ++i)
           all =
-              either(std::move(all), startAt(program_.targets[instruction.first + i].instruction));
+              either(std::move(all), firstAt(program_.targets[instruction.first + i].instruction));
         return all;
       }
       case Operation::greedyLoop:
       case Operation::lazyLoop: {
-        Start body{.classes = sets_.bits(instruction.set)};
+        FirstBits body{.classes = sets_.bits(instruction.set)};
         if (instruction.exception != 0)
           unite(body.classes,
-                startAt(program_.exceptions[instruction.exception - std::size_t{1}].instruction)
+                firstAt(program_.exceptions[instruction.exception - std::size_t{1}].instruction)
                     .classes);
-        return instruction.count > 0 ? body : either(std::move(body), startAt(index + 1));
+        return instruction.count > 0 ? body : either(std::move(body), firstAt(index + 1));
       }
       case Operation::jump:
       case Operation::lookAhead:
       case Operation::negativeLookAhead:
-        return startAt(instruction.first);
+        return firstAt(instruction.first);
       case Operation::wordBoundary: {
-        Start start = startAt(index + 1);
-        start.atBoundary = true;
-        return start;
+        FirstBits first = firstAt(index + 1);
+        first.atBoundary = true;
+        return first;
       }
       case Operation::accept:
       case Operation::textEnd:
       case Operation::absoluteEnd:
-        return {.classes = ClassBits(sets_.words()), .anything = true};
+        return {.classes = ClassBits(sets_.words()), .isNullable = true};
       default:
-        return startAt(index + 1);
+        return firstAt(index + 1);
     }
   }
 
-  static Start either(Start one, const Start& other) {
+  static FirstBits either(FirstBits one, const FirstBits& other) {
     unite(one.classes, other.classes);
-    one.anything = one.anything || other.anything;
+    one.isNullable = one.isNullable || other.isNullable;
     one.atBoundary = one.atBoundary && other.atBoundary;
     return one;
   }
 
-  Beginning kept(const Start& start) {
-    const ClassBits& classes = start.anything ? ClassBits(sets_.words()) : start.classes;
+  FirstSet kept(const FirstBits& first) {
+    const ClassBits& classes = first.isNullable ? ClassBits(sets_.words()) : first.classes;
     return {.classes = sets_.intern(classes),
-            .anything = start.anything,
-            .atBoundary = start.atBoundary};
+            .isNullable = first.isNullable,
+            .atBoundary = first.atBoundary};
   }
 
-  /// Its place in `beginnings`.
-  std::uint16_t numberOf(const Beginning& beginning) {
-    auto& all = program_.beginnings;
-    const auto found = std::find(all.begin(), all.end(), beginning);
+  /// Its place in `firstSets`.
+  std::uint16_t numberOf(const FirstSet& firstSet) {
+    auto& all = program_.firstSets;
+    const auto found = std::find(all.begin(), all.end(), firstSet);
     if (found != all.end()) return static_cast<std::uint16_t>(found - all.begin());
-    all.push_back(beginning);
+    all.push_back(firstSet);
     return counted(all.size() - 1);
   }
 
   PatternProgram<Owned> program_;
   const ClassPartition& classes_;
   ClassSetPool& sets_;
-  std::vector<std::optional<Start>> known_;
+  std::vector<std::optional<FirstBits>> firstBits_;
   std::vector<Node> exceptions_;
 };
 
-/// Goes all ways through a program at once, one code point after the other.
-class LeadingWalk {
+/// Follows all paths through a program at once, one code point after the other.
+class PrefixWalk {
  public:
-  LeadingWalk(const PatternProgram<Owned>& program, const ClassPartition& classes,
-              const ClassSetPool& sets)
+  PrefixWalk(const PatternProgram<Owned>& program, const ClassPartition& classes,
+             const ClassSetPool& sets)
       : program_(program), classes_(classes), sets_(sets) {}
 
   std::vector<ClassBits> from(const ProgramEntry& entry, std::size_t longest) {
-    std::vector<ClassBits> leading;
+    std::vector<ClassBits> prefix;
     behind_ = {{.instruction = entry.instruction}};
-    while (leading.size() < longest) {
+    while (prefix.size() < longest) {
       here_ = std::exchange(behind_, {});
       step_.assign(sets_.words(), 0);
       std::vector<Place> open(here_.begin(), here_.end());
       while (!open.empty()) {
         const Place place = open.back();
         open.pop_back();
-        if (!passes(place)) return leading;
+        if (!passes(place)) return prefix;
         for (const std::uint32_t instruction : std::exchange(reached_, {}))
           if (const Place next{.instruction = instruction}; here_.insert(next).second)
             open.push_back(next);
       }
-      leading.push_back(step_);
+      prefix.push_back(step_);
     }
-    return leading;
+    return prefix;
   }
 
  private:
   struct Place {
     std::uint32_t instruction = 0;
-    std::uint32_t taken = 0;  ///< letters or rounds of it that lie behind
+    std::uint32_t taken = 0;  ///< letters or iterations of it that lie behind
 
     bool operator<(const Place& other) const {
       return std::tie(instruction, taken) < std::tie(other.instruction, other.taken);
@@ -406,7 +407,7 @@ class LeadingWalk {
         return passesLetter(place);
       case Operation::greedyLoop:
       case Operation::lazyLoop:
-        passesRound(place);
+        passesIteration(place);
         break;
       case Operation::choice:
         for (std::uint32_t i = 0; i < instruction.count; ++i)
@@ -438,14 +439,14 @@ class LeadingWalk {
     return true;
   }
 
-  // A counted loop stays a few rounds; then it may go on after any of them.
-  void passesRound(const Place& place) {
+  // A counted loop stays a few iterations; then it may go on after any of them.
+  void passesIteration(const Place& place) {
     const auto [index, taken] = place;
     const Instruction& loop = program_.code[index];
     unite(step_, sets_.bits(loop.set));
     if (loop.exception != 0)
       unite(step_,
-            sets_.bits(program_.exceptions[loop.exception - std::size_t{1}].beginning.classes));
+            sets_.bits(program_.exceptions[loop.exception - std::size_t{1}].firstSet.classes));
     if (loop.count > taken + 1) {
       behind_.insert({.instruction = index, .taken = taken + 1});
     } else {
@@ -471,10 +472,10 @@ PatternProgram<Owned> compileProgram(const Node& pattern, const ClassPartition& 
   return ProgramCompiler(classes, sets).compile(pattern);
 }
 
-std::vector<ClassBits> leadingClasses(const PatternProgram<Owned>& program,
-                                      const ProgramEntry& entry, std::size_t longest,
-                                      const ClassPartition& classes, const ClassSetPool& sets) {
-  return LeadingWalk(program, classes, sets).from(entry, longest);
+std::vector<ClassBits> prefixClasses(const PatternProgram<Owned>& program,
+                                     const ProgramEntry& entry, std::size_t longest,
+                                     const ClassPartition& classes, const ClassSetPool& sets) {
+  return PrefixWalk(program, classes, sets).from(entry, longest);
 }
 
 }  // namespace quillseal::screening

@@ -17,9 +17,9 @@ namespace quillseal::screening {
 /// For each of the first code points of every match from `entry`, the classes it can be of; ends
 /// early where a match may end or the number of code points is not certain. At most `longest`
 /// elements.
-[[nodiscard]] std::vector<ClassBits> leadingClasses(const PatternProgram<Owned>& program,
-                                                    const ProgramEntry& entry, std::size_t longest,
-                                                    const ClassPartition& classes,
-                                                    const ClassSetPool& sets);
+[[nodiscard]] std::vector<ClassBits> prefixClasses(const PatternProgram<Owned>& program,
+                                                   const ProgramEntry& entry, std::size_t longest,
+                                                   const ClassPartition& classes,
+                                                   const ClassSetPool& sets);
 
 }  // namespace quillseal::screening

@@ -22,24 +22,24 @@
 namespace quillseal::screening {
 namespace {
 
-/// One way through a pattern: nodes that follow one another.
-using Way = std::vector<const Node*>;
+/// One path through a pattern: nodes that follow one another.
+using Path = std::vector<const Node*>;
 
-constexpr std::size_t mostLiterals = 128;
+constexpr std::size_t maxLiterals = 128;
 /// Neighbouring texts are joined to longer literals while these are at most so many.
-constexpr std::size_t mostJoined = 64;
+constexpr std::size_t maxJoined = 64;
 /// Ways that are told apart within one alternative of a pattern.
-constexpr std::size_t mostWays = 2;
-constexpr std::size_t mostLinks = 4;
+constexpr std::size_t maxPaths = 2;
+constexpr std::size_t maxElements = 4;
 
 /// Literals that occur more often than this, for each code point of a text, are passed over for
 /// rarer ones further on. Which limit is best differs from pattern to pattern, so all are tried.
 constexpr double frequencyLimits[] = {1, 0.01, 0.003, 0.001, 0.0003};
 
 // What finding a match costs, in units of one literal met in the text.
-constexpr double costOfFirstLink = 3;  ///< which has to be remembered
-constexpr double costOfChain = 2;      ///< a chain that is complete
-constexpr double costOfStart = 2;      ///< a place where a match might start
+constexpr double costOfFirstElement = 3;  ///< which becomes a candidate
+constexpr double costOfSequence = 2;      ///< a sequence that is complete
+constexpr double costOfStart = 2;         ///< a place where a match might start
 /// Code points that a lead without limit is expected to go back.
 constexpr double longestWalk = 5000;
 
@@ -50,23 +50,23 @@ std::size_t shortest(const Literals& literals) {
   return length;
 }
 
-/// A link within a node, and how far it lies from the node's ends.
-struct InnerLink {
-  LiteralLink link;
+/// An element within a node, and how far it lies from the node's ends.
+struct InnerElement {
+  RequiredElement element;
   Distance before{};  ///< to the start of the literal
   Distance after{};
 };
 
-/// Puts a chain together from the parts of a way, in order. Literals side by side become one link;
-/// those that are met more often than `frequencyLimit` are passed over.
-class ChainBuilder {
+/// Puts a sequence together from the parts of a path, in order. Literals side by side become one
+/// element; those that are met more often than `frequencyLimit` are passed over.
+class SequenceBuilder {
  public:
-  ChainBuilder(const LiteralAlphabet& alphabet, double frequencyLimit)
+  SequenceBuilder(const LiteralAlphabet& alphabet, double frequencyLimit)
       : alphabet_(alphabet), frequencyLimit_(frequencyLimit) {}
 
-  /// Whether no link is complete, so that what comes belongs to the lead.
-  [[nodiscard]] bool isInLead() const { return links_.empty(); }
-  /// Whether nothing that follows can be a link any more.
+  /// Whether no element is complete, so that what comes belongs to the lead.
+  [[nodiscard]] bool isInLead() const { return elements_.empty(); }
+  /// Whether nothing that follows can be an element any more.
   [[nodiscard]] bool isDone() const { return isDone_; }
 
   void addBoundary() {
@@ -78,8 +78,8 @@ class ChainBuilder {
   }
 
   void addLiterals(const Literals& literals) {
-    if (!isOpen() && literals.size() * current_.size() > mostJoined) {
-      endLink();
+    if (!isOpen() && literals.size() * current_.size() > maxJoined) {
+      endElement();
       current_ = literals;
     } else {
       if (alphabet_.longest(literals).steps > 0) boundaryAfter_ = false;
@@ -87,14 +87,15 @@ class ChainBuilder {
     }
   }
 
-  /// Ends the link that literals side by side make up so far.
-  void endLink() {
+  /// Ends the element that literals side by side make up so far.
+  void endElement() {
     if (!isOpen()) {
-      LiteralLink link{.literals = current_,
-                       .boundaryBefore = boundaryBefore_ && !alphabet_.anyStartsWithSpace(current_),
-                       .boundaryAfter = boundaryAfter_};
-      if (alphabet_.isTelling(current_) && isRareEnough(current_)) {
-        append(std::move(link), {});
+      RequiredElement element{
+          .literals = current_,
+          .boundaryBefore = boundaryBefore_ && !alphabet_.anyStartsWithSpace(current_),
+          .boundaryAfter = boundaryAfter_};
+      if (alphabet_.isSelective(current_) && isRareEnough(current_)) {
+        append(std::move(element), {});
       } else {
         addGap(alphabet_.longest(current_));
       }
@@ -104,54 +105,55 @@ class ChainBuilder {
     boundaryAfter_ = false;
   }
 
-  /// Something that contains a link. REQUIRES: the link before is ended.
-  void addInner(const InnerLink& inner) {
-    append(inner.link, inner.before);
+  /// Something that contains an element. REQUIRES: the element before is ended.
+  void addInner(const InnerElement& inner) {
+    append(inner.element, inner.before);
     addGap(inner.after);
   }
 
-  /// Something without a link. REQUIRES: the link before is ended.
+  /// Something without an element. REQUIRES: the element before is ended.
   void addGap(const Distance& width) {
     gap_ = plus(gap_, width);
     // Behind a gap without limit nothing is known to be near.
-    if (gap_.isUnbounded() && !links_.empty()) isDone_ = true;
+    if (gap_.isUnbounded() && !elements_.empty()) isDone_ = true;
   }
 
   [[nodiscard]] bool isRareEnough(const Literals& literals) const {
     return alphabet_.frequencyOf(literals) <= frequencyLimit_;
   }
 
-  [[nodiscard]] LiteralChain finish(std::vector<std::uint64_t> leadClasses) {
-    if (!isDone_) endLink();
-    return {.lead = lead_, .leadClasses = std::move(leadClasses), .links = std::move(links_)};
+  [[nodiscard]] RequiredSequence finish(std::vector<std::uint64_t> leadClasses) {
+    if (!isDone_) endElement();
+    return {.lead = lead_, .leadClasses = std::move(leadClasses), .elements = std::move(elements_)};
   }
 
  private:
   [[nodiscard]] bool isOpen() const { return current_.size() == 1 && current_.front().empty(); }
 
   /// Goes on with the gap of what is cut off.
-  void append(LiteralLink link, const Distance& before) {
+  void append(RequiredElement element, const Distance& before) {
     if (isDone_) return;
-    if (links_.empty()) {
+    if (elements_.empty()) {
       lead_ = plus(gap_, before);
-      if (alphabet_.dropLeadingSpace(link.literals)) lead_ = plus(lead_, {.steps = 1, .runs = 1});
+      if (alphabet_.dropLeadingSpace(element.literals))
+        lead_ = plus(lead_, {.steps = 1, .runs = 1});
     }
-    const Distance cut = alphabet_.shorten(link.literals);
-    if (cut.steps > 0) link.boundaryAfter = false;
-    if (!links_.empty()) {
-      link.distance = plus(plus(gap_, before), alphabet_.longest(link.literals));
-      isDone_ = link.distance.isUnbounded() || links_.size() == mostLinks;
+    const Distance cut = alphabet_.shorten(element.literals);
+    if (cut.steps > 0) element.boundaryAfter = false;
+    if (!elements_.empty()) {
+      element.distance = plus(plus(gap_, before), alphabet_.longest(element.literals));
+      isDone_ = element.distance.isUnbounded() || elements_.size() == maxElements;
       if (isDone_) return;
     }
-    links_.push_back(std::move(link));
+    elements_.push_back(std::move(element));
     gap_ = cut;
   }
 
   const LiteralAlphabet& alphabet_;
   double frequencyLimit_;
-  std::vector<LiteralLink> links_;
+  std::vector<RequiredElement> elements_;
   Distance lead_;
-  Distance gap_;  ///< since the last link
+  Distance gap_;  ///< since the last element
   Literals current_{{}};
   bool boundaryBefore_ = false;
   bool boundaryAfter_ = false;
@@ -167,19 +169,19 @@ class Analysis {
     const bool isChoice = pattern.kind == Node::Kind::alternatives;
     const auto alternatives = isChoice ? std::span(pattern.children) : std::span(&pattern, 1);
     for (std::size_t i = 0; i < alternatives.size(); ++i) {
-      std::vector<LiteralChain> chains;
+      std::vector<RequiredSequence> sequences;
       bool suffice = true;
-      for (const Way& way : waysThrough(alternatives[i], mostWays)) {
-        if (!way.empty() && way.front()->kind == Node::Kind::textStart) {
+      for (const Path& path : pathsThrough(alternatives[i], maxPaths)) {
+        if (!path.empty() && path.front()->kind == Node::Kind::textStart) {
           required.atTextStart = true;
           continue;
         }
-        chains.push_back(cheapestChain(way));
-        chains.back().alternative = i;
-        suffice = suffice && !chains.back().links.empty();
+        sequences.push_back(cheapestSequence(path));
+        sequences.back().alternative = i;
+        suffice = suffice && !sequences.back().elements.empty();
       }
       if (suffice) {
-        required.chains.insert(required.chains.end(), chains.begin(), chains.end());
+        required.sequences.insert(required.sequences.end(), sequences.begin(), sequences.end());
       } else {
         required.withoutLiterals.push_back(i);
       }
@@ -188,30 +190,30 @@ class Analysis {
   }
 
  private:
-  /// The ways through `node`; all of its alternatives where that makes at most `most`.
-  std::vector<Way> waysThrough(const Node& node, std::size_t most) {
+  /// The paths through `node`; all of its alternatives where that makes at most `most`.
+  std::vector<Path> pathsThrough(const Node& node, std::size_t most) {
     if (node.kind == Node::Kind::alternatives && !literalsOf(node)) {
-      std::vector<Way> ways;
+      std::vector<Path> paths;
       for (const Node& child : node.children) {
-        std::vector<Way> more = waysThrough(child, most);
-        ways.insert(ways.end(), more.begin(), more.end());
+        std::vector<Path> more = pathsThrough(child, most);
+        paths.insert(paths.end(), more.begin(), more.end());
       }
-      if (ways.size() <= most) return ways;
+      if (paths.size() <= most) return paths;
     } else if (node.kind == Node::Kind::sequence) {
-      std::vector<Way> ways{{}};
+      std::vector<Path> paths{{}};
       for (const Node& child : node.children) {
-        std::vector<Way> tails = waysThrough(child, most);
-        if (ways.size() * tails.size() > most) tails = {{&child}};
-        std::vector<Way> longer;
-        for (const Way& way : ways) {
-          for (const Way& tail : tails) {
-            longer.push_back(way);
+        std::vector<Path> tails = pathsThrough(child, most);
+        if (paths.size() * tails.size() > most) tails = {{&child}};
+        std::vector<Path> longer;
+        for (const Path& path : paths) {
+          for (const Path& tail : tails) {
+            longer.push_back(path);
             longer.back().insert(longer.back().end(), tail.begin(), tail.end());
           }
         }
-        ways = std::move(longer);
+        paths = std::move(longer);
       }
-      return ways;
+      return paths;
     }
     return {{&node}};
   }
@@ -249,14 +251,14 @@ class Analysis {
         literals.emplace_back();
         for (const Node& child : node.children) {
           const auto& more = literalsOf(child);
-          if (!more || more->size() * literals.size() > mostJoined) return std::nullopt;
+          if (!more || more->size() * literals.size() > maxJoined) return std::nullopt;
           literals = alphabet_.product(literals, *more);
         }
         return literals;
       case Node::Kind::alternatives:
         for (const Node& child : node.children) {
           const auto& more = literalsOf(child);
-          if (!more || more->size() + literals.size() > mostLiterals) return std::nullopt;
+          if (!more || more->size() + literals.size() > maxLiterals) return std::nullopt;
           literals.insert(literals.end(), more->begin(), more->end());
         }
         return literals;
@@ -272,10 +274,10 @@ class Analysis {
         Literals power{{}};
         for (std::uint32_t count = 0; count <= node.max; ++count) {
           if (count >= node.min) literals.insert(literals.end(), power.begin(), power.end());
-          if (power.size() * once->size() > mostLiterals) return std::nullopt;
+          if (power.size() * once->size() > maxLiterals) return std::nullopt;
           power = alphabet_.product(power, *once);
         }
-        if (literals.size() > mostLiterals) return std::nullopt;
+        if (literals.size() > maxLiterals) return std::nullopt;
         return literals;
       }
       default:
@@ -351,13 +353,14 @@ class Analysis {
       addClasses(child, bits);
   }
 
-  LiteralChain cheapestChain(const Way& way) {
-    LiteralChain cheapest;
+  RequiredSequence cheapestSequence(const Path& path) {
+    RequiredSequence cheapest;
     for (const double limit : frequencyLimits) {
-      LiteralChain chain = chainOf(way, limit);
-      if (chain.links.empty()) break;
-      chain.cost = costOf(chain);
-      if (cheapest.links.empty() || chain.cost < cheapest.cost) cheapest = std::move(chain);
+      RequiredSequence sequence = sequenceOf(path, limit);
+      if (sequence.elements.empty()) break;
+      sequence.cost = costOf(sequence);
+      if (cheapest.elements.empty() || sequence.cost < cheapest.cost)
+        cheapest = std::move(sequence);
     }
     return cheapest;
   }
@@ -368,94 +371,95 @@ class Analysis {
     return std::min<double>(distance.steps, charactersOfRun * distance.runs);
   }
 
-  [[nodiscard]] double costOf(const LiteralChain& chain) const {
+  [[nodiscard]] double costOf(const RequiredSequence& sequence) const {
     double cost = 0;
     double complete = 1;
-    for (const LiteralLink& link : chain.links) {
-      const double frequency = alphabet_.frequencyOf(link.literals);
-      const bool isFirst = &link == &chain.links.front();
-      cost += isFirst ? costOfFirstLink * frequency : frequency;
-      complete *= isFirst ? frequency : std::min(1.0, frequency * charactersOf(link.distance));
+    for (const RequiredElement& element : sequence.elements) {
+      const double frequency = alphabet_.frequencyOf(element.literals);
+      const bool isFirst = &element == &sequence.elements.front();
+      cost += isFirst ? costOfFirstElement * frequency : frequency;
+      complete *= isFirst ? frequency : std::min(1.0, frequency * charactersOf(element.distance));
     }
-    return cost + complete * (costOfChain + costOfMatch +
-                              costOfStart * std::min<double>(chain.lead.steps, longestWalk));
+    return cost + complete * (costOfSequence + costOfMatch +
+                              costOfStart * std::min<double>(sequence.lead.steps, longestWalk));
   }
 
-  LiteralChain chainOf(const Way& way, double frequencyLimit) {
-    ChainBuilder chain(alphabet_, frequencyLimit);
+  RequiredSequence sequenceOf(const Path& path, double frequencyLimit) {
+    SequenceBuilder sequence(alphabet_, frequencyLimit);
     std::vector<std::uint64_t> leadClasses(ClassSets::wordsFor(classes_.count()));
-    for (const Node* node : way) {
-      if (chain.isDone()) break;
+    for (const Node* node : path) {
+      if (sequence.isDone()) break;
       if (node->kind == Node::Kind::wordBoundary && !node->negative) {
-        chain.addBoundary();
+        sequence.addBoundary();
         continue;
       }
       const auto& literals = literalsOf(*node);
       if (literals) {
-        chain.addLiterals(*literals);
+        sequence.addLiterals(*literals);
       } else {
-        chain.endLink();
+        sequence.endElement();
       }
-      if (chain.isInLead()) addClasses(*node, leadClasses);
+      if (sequence.isInLead()) addClasses(*node, leadClasses);
       if (literals) continue;
-      const auto& inner = innerLink(*node);
-      if (inner && chain.isRareEnough(inner->link.literals)) {
-        chain.addInner(*inner);
+      const auto& inner = innerElement(*node);
+      if (inner && sequence.isRareEnough(inner->element.literals)) {
+        sequence.addInner(*inner);
       } else {
-        chain.addGap(width(*node));
+        sequence.addGap(width(*node));
       }
     }
-    return chain.finish(std::move(leadClasses));
+    return sequence.finish(std::move(leadClasses));
   }
 
-  /// A link that every match of `node` contains somewhere.
-  const std::optional<InnerLink>& innerLink(const Node& node) {
-    if (const auto known = innerLinks_.find(&node); known != innerLinks_.end())
+  /// An element that every match of `node` contains somewhere.
+  const std::optional<InnerElement>& innerElement(const Node& node) {
+    if (const auto known = innerElements_.find(&node); known != innerElements_.end())
       return known->second;
-    return innerLinks_.emplace(&node, findInnerLink(node)).first->second;
+    return innerElements_.emplace(&node, findInnerElement(node)).first->second;
   }
 
-  std::optional<InnerLink> findInnerLink(const Node& node) {
+  std::optional<InnerElement> findInnerElement(const Node& node) {
     if (const auto& literals = literalsOf(node)) {
-      if (literals->empty() || !alphabet_.isTelling(*literals)) return std::nullopt;
-      return InnerLink{.link = {.literals = *literals}};
+      if (literals->empty() || !alphabet_.isSelective(*literals)) return std::nullopt;
+      return InnerElement{.element = {.literals = *literals}};
     }
     switch (node.kind) {
       case Node::Kind::sequence: {
-        Way way;
+        Path path;
         for (const Node& child : node.children)
-          way.push_back(&child);
-        const LiteralChain chain = chainOf(way, 1);
-        if (chain.links.empty()) return std::nullopt;
+          path.push_back(&child);
+        const RequiredSequence sequence = sequenceOf(path, 1);
+        if (sequence.elements.empty()) return std::nullopt;
         std::size_t best = 0;
-        for (std::size_t i = 1; i < chain.links.size(); ++i)
-          if (alphabet_.frequencyOf(chain.links[i].literals) <
-              alphabet_.frequencyOf(chain.links[best].literals))
+        for (std::size_t i = 1; i < sequence.elements.size(); ++i)
+          if (alphabet_.frequencyOf(sequence.elements[i].literals) <
+              alphabet_.frequencyOf(sequence.elements[best].literals))
             best = i;
-        InnerLink inner{.link = chain.links[best], .before = chain.lead, .after = width(node)};
+        InnerElement inner{
+            .element = sequence.elements[best], .before = sequence.lead, .after = width(node)};
         for (std::size_t i = 0; i < best; ++i)
-          inner.before = plus(plus(inner.before, alphabet_.longest(chain.links[i].literals)),
-                              chain.links[i + 1].distance);
+          inner.before = plus(plus(inner.before, alphabet_.longest(sequence.elements[i].literals)),
+                              sequence.elements[i + 1].distance);
         return inner;
       }
       case Node::Kind::alternatives: {
-        InnerLink all{.link = {.boundaryBefore = true, .boundaryAfter = true}};
+        InnerElement all{.element = {.boundaryBefore = true, .boundaryAfter = true}};
         for (const Node& child : node.children) {
-          const auto& inner = innerLink(child);
+          const auto& inner = innerElement(child);
           if (!inner) return std::nullopt;
-          all.link.boundaryBefore = all.link.boundaryBefore && inner->link.boundaryBefore;
-          all.link.boundaryAfter = all.link.boundaryAfter && inner->link.boundaryAfter;
-          all.link.literals.insert(all.link.literals.end(), inner->link.literals.begin(),
-                                   inner->link.literals.end());
+          all.element.boundaryBefore = all.element.boundaryBefore && inner->element.boundaryBefore;
+          all.element.boundaryAfter = all.element.boundaryAfter && inner->element.boundaryAfter;
+          all.element.literals.insert(all.element.literals.end(), inner->element.literals.begin(),
+                                      inner->element.literals.end());
           all.before = larger(all.before, inner->before);
           all.after = larger(all.after, inner->after);
         }
-        if (all.link.literals.size() > mostLiterals) return std::nullopt;
+        if (all.element.literals.size() > maxLiterals) return std::nullopt;
         return all;
       }
       case Node::Kind::repetition: {
         if (node.min == 0) return std::nullopt;
-        auto inner = innerLink(node.children.front());
+        auto inner = innerElement(node.children.front());
         if (inner) inner->after = width(node);
         return inner;
       }
@@ -469,7 +473,7 @@ class Analysis {
   const LiteralAlphabet alphabet_{classes_};
   // What has been asked for once is asked for again, by every limit that is tried.
   std::unordered_map<const Node*, std::optional<Literals>> literalsOfNode_;
-  std::unordered_map<const Node*, std::optional<InnerLink>> innerLinks_;
+  std::unordered_map<const Node*, std::optional<InnerElement>> innerElements_;
   std::unordered_map<const Node*, Distance> widths_;
 };
 

@@ -12,26 +12,27 @@ namespace quillseal::screening {
 /// What a run of the matcher costs, in units of one literal met in the text.
 inline constexpr double costOfMatch = 20;
 
-struct LiteralLink {
+struct RequiredElement {
   Literals literals{};          ///< one of them stands in every match
   bool boundaryBefore = false;  ///< \b holds before it
   bool boundaryAfter = false;   ///< behind it
-  Distance distance{};          ///< from the end of the link before to the end of this one
+  Distance distance{};          ///< from the end of the element before to the end of this one
 };
 
-/// What every match of one way through a pattern contains, in order. Never empty.
-struct LiteralChain {
+/// What every match of one path through a pattern contains, in order. Never empty.
+struct RequiredSequence {
   std::size_t alternative = 0;  ///< of the pattern, when it is a choice
-  Distance lead{};              ///< from the start of the match to that of the first link
+  Distance lead{};              ///< from the start of the match to that of the first element
   std::vector<std::uint64_t> leadClasses;  ///< all that may stand there, 64 to a word
-  std::vector<LiteralLink> links;
+  std::vector<RequiredElement> elements;
   double cost = 0;  ///< of looking for it, for each code point of a text, on an arbitrary scale
 };
 
-/// How the starts of a pattern's matches can be found: every match starts before a completed chain,
-/// or, with `atTextStart`, at the start of the text, or is one of an alternative without literals.
+/// How the starts of a pattern's matches can be found: every match starts before a completed
+/// sequence, or, with `atTextStart`, at the start of the text, or is one of an alternative without
+/// literals.
 struct RequiredLiterals {
-  std::vector<LiteralChain> chains;
+  std::vector<RequiredSequence> sequences;
   bool atTextStart = false;
   std::vector<std::size_t> withoutLiterals;  ///< alternatives that need no literal
 };

@@ -30,11 +30,11 @@
 namespace quillseal::screening {
 namespace {
 
-/// How many of a match's first code points the leading-class search looks at.
-constexpr std::size_t longestLeading = 8;
+/// How many of a match's first code points the prefix-class search looks at.
+constexpr std::size_t maxPrefixLength = 8;
 
 // In units of one literal met in the text.
-constexpr double costOfLeadingBit = 0.002;  ///< of advancing one first class at each code point
+constexpr double costOfPrefixBit = 0.002;  ///< of advancing one first class at each code point
 /// Expected frequency of a class beyond ASCII.
 constexpr double rareClass = 0.0001;
 
@@ -112,39 +112,39 @@ std::optional<Composition> lookAheadsOf(const Node& node, const SetTable& sets) 
 
 // ---- The literals that lead to a search
 
-/// Collects the chains of all searches and the index of their literals.
-class ChainTables {
+/// Collects the sequences of all searches and the index of their literals.
+class SequenceTables {
  public:
-  explicit ChainTables(ClassSetPool& sets) : sets_(sets) {}
+  explicit SequenceTables(ClassSetPool& sets) : sets_(sets) {}
 
-  void add(std::uint32_t search, const LiteralChain& chain) {
-    const auto number = narrowed<std::uint16_t>(chains_.size());
-    chains_.emplace_back();
-    Chain added{.search = search,
-                .lead = chain.lead.steps,
-                .alternative = narrowed<std::uint16_t>(chain.alternative),
-                .leadClasses = sets_.intern(chain.leadClasses)};
-    std::size_t linkBefore = hits_.size();  // where its hits begin
-    for (std::size_t i = 0; i < chain.links.size(); ++i) {
-      const LiteralLink& link = chain.links[i];
+  void add(std::uint32_t search, const RequiredSequence& sequence) {
+    const auto number = narrowed<std::uint16_t>(sequences_.size());
+    sequences_.emplace_back();
+    LiteralSequence added{.search = search,
+                          .lead = sequence.lead.steps,
+                          .alternative = narrowed<std::uint16_t>(sequence.alternative),
+                          .leadClasses = sets_.intern(sequence.leadClasses)};
+    std::size_t previousElements = variants_.size();  // where its variants begin
+    for (std::size_t i = 0; i < sequence.elements.size(); ++i) {
+      const RequiredElement& element = sequence.elements[i];
       const bool isFirst = i == 0;
-      if (!isFirst) added.span = plus(added.span, link.distance);
-      const std::size_t hits = hits_.size();
-      addLink(link, {.distance = ShortDistance(isFirst ? chain.lead : link.distance),
-                     .chain = number,
-                     .search = narrowed<std::uint16_t>(search),
-                     .reach = narrowed<std::uint16_t>(linkCount_++),
-                     .properties = static_cast<std::uint8_t>(
-                         (isFirst ? LinkHit::first : 0) |
-                         (link.boundaryBefore ? LinkHit::boundaryBefore : 0) |
-                         (link.boundaryAfter ? LinkHit::boundaryAfter : 0))});
-      for (std::size_t hit = linkBefore; hit < hits; ++hit) {
-        hits_[hit].nextHit = narrowed<std::uint16_t>(hits);
-        hits_[hit].nextCount = narrowed<std::uint16_t>(hits_.size() - hits);
+      if (!isFirst) added.span = plus(added.span, element.distance);
+      const std::size_t variants = variants_.size();
+      addElement(element, {.distance = ShortDistance(isFirst ? sequence.lead : element.distance),
+                           .sequence = number,
+                           .search = narrowed<std::uint16_t>(search),
+                           .element = narrowed<std::uint16_t>(elementCount_++),
+                           .properties = static_cast<std::uint8_t>(
+                               (isFirst ? ElementVariant::first : 0) |
+                               (element.boundaryBefore ? ElementVariant::boundaryBefore : 0) |
+                               (element.boundaryAfter ? ElementVariant::boundaryAfter : 0))});
+      for (std::size_t variant = previousElements; variant < variants; ++variant) {
+        variants_[variant].nextVariant = narrowed<std::uint16_t>(variants);
+        variants_[variant].nextCount = narrowed<std::uint16_t>(variants_.size() - variants);
       }
-      linkBefore = hits;
+      previousElements = variants;
     }
-    chains_[number] = added;
+    sequences_[number] = added;
   }
 
   [[nodiscard]] LiteralIndexTable<Owned> index(const ClassPartition& classes) const {
@@ -152,24 +152,24 @@ class ChainTables {
   }
 
   void moveInto(ScreeningTable<Owned>& table) {
-    table.firstHits.resize(hits_.size() / 64 + 1);
-    for (std::size_t hit = 0; hit < hits_.size(); ++hit)
-      if (hits_[hit].has(LinkHit::first)) setBit(table.firstHits, hit);
-    table.hits = std::move(hits_);
-    table.chains = std::move(chains_);
-    table.linkCount = linkCount_;
+    table.firstVariants.resize(variants_.size() / 64 + 1);
+    for (std::size_t variant = 0; variant < variants_.size(); ++variant)
+      if (variants_[variant].has(ElementVariant::first)) setBit(table.firstVariants, variant);
+    table.variants = std::move(variants_);
+    table.sequences = std::move(sequences_);
+    table.elementCount = elementCount_;
   }
 
  private:
-  /// Literals of one length share a hit.
-  void addLink(const LiteralLink& link, LinkHit hit) {
-    std::map<std::size_t, std::uint16_t> hitOfLength;
-    for (const Literal& literal : link.literals) {
+  /// Literals of one length share a variant.
+  void addElement(const RequiredElement& element, ElementVariant variant) {
+    std::map<std::size_t, std::uint16_t> variantOfLength;
+    for (const Literal& literal : element.literals) {
       const auto [known, isNew] =
-          hitOfLength.try_emplace(literal.size(), narrowed<std::uint16_t>(hits_.size()));
+          variantOfLength.try_emplace(literal.size(), narrowed<std::uint16_t>(variants_.size()));
       if (isNew) {
-        hit.length = narrowed<std::uint8_t>(literal.size());
-        hits_.push_back(hit);
+        variant.length = narrowed<std::uint8_t>(literal.size());
+        variants_.push_back(variant);
       }
       index_.add(literal, known->second);
     }
@@ -177,82 +177,82 @@ class ChainTables {
 
   ClassSetPool& sets_;
   LiteralIndexBuilder index_;
-  std::vector<LinkHit> hits_;
-  std::vector<Chain> chains_;
-  std::size_t linkCount_ = 0;
+  std::vector<ElementVariant> variants_;
+  std::vector<LiteralSequence> sequences_;
+  std::size_t elementCount_ = 0;
 };
 
 // ---- The first classes of those that no literal leads to
 
-class LeadingTables {
+class PrefixTables {
  public:
-  LeadingTables(const ClassPartition& classes, const ClassSetPool& sets)
+  PrefixTables(const ClassPartition& classes, const ClassSetPool& sets)
       : classes_(classes), sets_(sets) {
     frequencies_.assign(classes.count(), rareClass);
     for (char32_t c = 0; c < 0x80; ++c)
       frequencies_[classes.classOf(c)] += expectedFrequency(c);
   }
 
-  /// Whether an alternative is found more cheaply by its first classes than by these chains.
+  /// Whether an alternative is found more cheaply by its first classes than by these sequences.
   [[nodiscard]] bool isCheaper(const PatternProgram<Owned>& program,
-                               std::span<const LiteralChain> chains) const {
-    const auto leading = leadingClasses(program, program.alternative(chains.front().alternative),
-                                        longestLeading, classes_, sets_);
-    if (leading.empty()) return false;
+                               std::span<const RequiredSequence> sequences) const {
+    const auto prefix = prefixClasses(program, program.alternative(sequences.front().alternative),
+                                      maxPrefixLength, classes_, sets_);
+    if (prefix.empty()) return false;
     const double cost =
-        costOfMatch * frequencyOf(leading) + costOfLeadingBit * static_cast<double>(leading.size());
-    double costOfChains = 0;
-    for (const LiteralChain& chain : chains)
-      costOfChains += chain.cost;
-    return cost < costOfChains;
+        costOfMatch * frequencyOf(prefix) + costOfPrefixBit * static_cast<double>(prefix.size());
+    double costOfSequences = 0;
+    for (const RequiredSequence& sequence : sequences)
+      costOfSequences += sequence.cost;
+    return cost < costOfSequences;
   }
 
   void add(std::uint32_t search, std::uint32_t alternative, const PatternProgram<Owned>& program) {
     const ProgramEntry& entry = program.alternative(alternative);
-    auto leading = leadingClasses(program, entry, longestLeading, classes_, sets_);
-    if (leading.empty()) {
-      leading.push_back(sets_.bits(entry.beginning.classes));
-      if (entry.beginning.anything) {
-        std::fill(leading.front().begin(), leading.front().end(), ~std::uint64_t{0});
+    auto prefix = prefixClasses(program, entry, maxPrefixLength, classes_, sets_);
+    if (prefix.empty()) {
+      prefix.push_back(sets_.bits(entry.firstSet.classes));
+      if (entry.firstSet.isNullable) {
+        std::fill(prefix.front().begin(), prefix.front().end(), ~std::uint64_t{0});
         maybeEmpty_.push_back({.search = search, .alternative = alternative});
       }
     }
     std::size_t bit = ends_.size();
-    if (bit % 64 + leading.size() > 64) bit += 64 - bit % 64;
-    ends_.resize(bit + leading.size());
+    if (bit % 64 + prefix.size() > 64) bit += 64 - bit % 64;
+    ends_.resize(bit + prefix.size());
     classesOfBits_.resize(ends_.size());
     initial_.resize(words());
     final_.resize(words());
     setBit(initial_, bit);
-    std::move(leading.begin(), leading.end(),
+    std::move(prefix.begin(), prefix.end(),
               classesOfBits_.begin() + static_cast<std::ptrdiff_t>(bit));
-    bit += leading.size() - 1;
+    bit += prefix.size() - 1;
     setBit(final_, bit);
     ends_[bit] = {.search = search,
                   .alternative = alternative,
-                  .length = static_cast<std::uint32_t>(leading.size())};
+                  .length = static_cast<std::uint32_t>(prefix.size())};
   }
 
   void moveInto(ScreeningTable<Owned>& table) {
-    table.leadingMasks.resize(classes_.count() * words());
+    table.prefixMasks.resize(classes_.count() * words());
     for (std::size_t bit = 0; bit < classesOfBits_.size(); ++bit) {
       const ClassBits& members = classesOfBits_[bit];
       if (members.empty()) continue;
       for (std::size_t id = 0; id < classes_.count(); ++id)
         if (hasBit(members, id))
-          setBit(table.leadingMasks, (bit / 128 * classes_.count() + id) * 128 + bit % 128);
+          setBit(table.prefixMasks, (bit / 128 * classes_.count() + id) * 128 + bit % 128);
     }
-    table.leadingInitial = std::move(initial_);
-    table.leadingFinal = std::move(final_);
-    table.leadingEnds = std::move(ends_);
+    table.prefixInitial = std::move(initial_);
+    table.prefixFinal = std::move(final_);
+    table.prefixEnds = std::move(ends_);
     table.maybeEmpty = std::move(maybeEmpty_);
   }
 
  private:
   /// How often a text has these classes side by side, by letters and by common words.
-  [[nodiscard]] double frequencyOf(std::span<const ClassBits> leading) const {
+  [[nodiscard]] double frequencyOf(std::span<const ClassBits> prefix) const {
     std::vector<double> each;
-    for (const ClassBits& bits : leading) {
+    for (const ClassBits& bits : prefix) {
       double frequency = 0;
       for (std::size_t id = 0; id < classes_.count(); ++id)
         if (hasBit(bits, id)) frequency += frequencies_[id];
@@ -264,9 +264,9 @@ class LeadingTables {
     };
     double sum = timesRest(1, 0);
     for (const CommonWord& word : commonWords()) {
-      const std::u32string_view start = word.word.substr(0, leading.size());
+      const std::u32string_view start = word.word.substr(0, prefix.size());
       const bool isMet = std::ranges::equal(
-          start, leading.first(start.size()),
+          start, prefix.first(start.size()),
           [this](char32_t c, const ClassBits& bits) { return hasBit(bits, classes_.classOf(c)); });
       if (isMet) sum += timesRest(word.frequency, start.size());
     }
@@ -282,8 +282,8 @@ class LeadingTables {
   std::vector<ClassBits> classesOfBits_;
   std::vector<std::uint64_t> initial_;
   std::vector<std::uint64_t> final_;
-  std::vector<LeadingEnd> ends_;
-  std::vector<LeadingEnd> maybeEmpty_;
+  std::vector<PrefixEnd> ends_;
+  std::vector<PrefixEnd> maybeEmpty_;
 };
 
 // ---- All together
@@ -304,22 +304,22 @@ class TableCompiler {
       collectAlphabet(part.node, sets_, alphabet);
     ClassPartition classes(sets_, std::move(alphabet));
     ClassSetPool classSets(classes.count());
-    ChainTables chains(classSets);
-    LeadingTables leading(classes, classSets);
+    SequenceTables sequences(classSets);
+    PrefixTables prefix(classes, classSets);
     for (const Part& part : parts_) {
       table_.searches.push_back({.anyMatch = part.anyMatch});
       programs_.emplace_back();
       try {
         programs_.back() = compileProgram(part.node, classes, classSets);
-        addWaysToFind(part.node, classes, chains, leading);
+        addWaysToFind(part.node, classes, sequences, prefix);
       } catch (const PatternError& error) {
         leaveOut(part.pattern, error);
       }
     }
 
-    LiteralIndexTable<Owned> index = chains.index(classes);
-    chains.moveInto(table_);
-    leading.moveInto(table_);
+    LiteralIndexTable<Owned> index = sequences.index(classes);
+    sequences.moveInto(table_);
+    prefix.moveInto(table_);
     // First of all: who asks for these only reads no further.
     TableWriter writer;
     writer(unusable());
@@ -368,24 +368,24 @@ class TableCompiler {
   }
 
   /// Of the latest search.
-  void addWaysToFind(const Node& node, const ClassPartition& classes, ChainTables& chains,
-                     LeadingTables& leading) {
+  void addWaysToFind(const Node& node, const ClassPartition& classes, SequenceTables& sequences,
+                     PrefixTables& prefix) {
     const auto search = static_cast<std::uint32_t>(programs_.size() - 1);
     const PatternProgram<Owned>& program = programs_.back();
     const RequiredLiterals required = requiredLiterals(node, sets_, classes);
     for (const std::size_t alternative : required.withoutLiterals)
-      leading.add(search, static_cast<std::uint32_t>(alternative), program);
+      prefix.add(search, static_cast<std::uint32_t>(alternative), program);
     table_.searches.back().atTextStart = required.atTextStart;
-    for (auto first = required.chains.begin(); first != required.chains.end();) {
-      const auto isOther = [&](const LiteralChain& chain) {
-        return chain.alternative != first->alternative;
+    for (auto first = required.sequences.begin(); first != required.sequences.end();) {
+      const auto isOther = [&](const RequiredSequence& sequence) {
+        return sequence.alternative != first->alternative;
       };
-      const auto last = std::find_if(first, required.chains.end(), isOther);
-      if (leading.isCheaper(program, {first, last})) {
-        leading.add(search, static_cast<std::uint32_t>(first->alternative), program);
+      const auto last = std::find_if(first, required.sequences.end(), isOther);
+      if (prefix.isCheaper(program, {first, last})) {
+        prefix.add(search, static_cast<std::uint32_t>(first->alternative), program);
       } else {
-        for (const LiteralChain& chain : std::span(first, last))
-          chains.add(search, chain);
+        for (const RequiredSequence& sequence : std::span(first, last))
+          sequences.add(search, sequence);
       }
       first = last;
     }

@@ -21,15 +21,15 @@ ClassifiedText CharacterClasses::classify(std::string_view text) const {
   constexpr unsigned runFlags = Table::wordFlag | Table::spaceFlag;
   constexpr unsigned boundaryShift = 2;
   static_assert(Table::wordFlag << boundaryShift == ClassifiedText::boundaryFlag &&
-                Table::noticedFlag == ClassifiedText::boundaryFlag);
+                Table::opaqueFlag == ClassifiedText::boundaryFlag);
   // No code point is shorter than a byte.
   auto elements = std::make_unique_for_overwrite<ClassId[]>(text.size() + 1);
   std::size_t count = 0;
   unsigned before = 0;     // the run flags of the code point before
-  unsigned afterWord = 0;  // where a boundary is flagged: whether the last noticed one was a word's
+  unsigned afterWord = 0;  // where a boundary is flagged: whether the last opaque one was a word's
   // Without branches, for which a text would give no pattern.
   const auto append = [&](unsigned entry) {
-    const unsigned boundary = (entry << boundaryShift ^ afterWord) & entry & Table::noticedFlag;
+    const unsigned boundary = (entry << boundaryShift ^ afterWord) & entry & Table::opaqueFlag;
     elements[count++] =
         static_cast<ClassId>((entry & (ClassifiedText::classMask | before)) | boundary);
     before = entry & runFlags;

@@ -96,7 +96,7 @@ class ClassSets {
 /// What is known of a class, as bits.
 enum ClassTrait : std::uint8_t {
   isWordTrait = 1,
-  isUnnoticedTrait = 2,  ///< \b looks through it
+  isTransparentTrait = 2,  ///< \b looks through it
   isSpaceTrait = 4,
   isTerminatorTrait = 8,
   isLineFeedTrait = 16,
@@ -114,7 +114,7 @@ struct CharacterClassTable {
   static constexpr std::size_t pageSize = 64;
   static constexpr std::uint16_t wordFlag = ClassifiedText::continuesWordFlag;
   static constexpr std::uint16_t spaceFlag = ClassifiedText::continuesSpaceFlag;
-  static constexpr std::uint16_t noticedFlag = 0x8000;
+  static constexpr std::uint16_t opaqueFlag = 0x8000;
 
   void transfer(auto& archive) { archive(pageOf, pages, traits, foldingStarts, foldings); }
 };

@@ -29,50 +29,51 @@ struct LiteralIndexTable {
   using State = std::uint16_t;
   using Symbol = std::uint16_t;
 
-  /// Symbols below this have a column in the rows of full states.
+  /// Symbols below this have a column in the rows of dense states.
   static constexpr std::size_t columns = 64;
-  /// In `symbols`: more than one, which `sequences` has.
-  static constexpr Symbol several = 0xFFFF;
+  /// In `symbols`: more than one, which `expansions` has.
+  static constexpr Symbol multiSymbol = 0xFFFF;
 
   /// The symbols of a class that folds to several letters.
-  struct Sequence {
+  struct Expansion {
     ClassId id;
     std::uint16_t first;  ///< in `letters`
     std::uint16_t count;
   };
-  // Full states come first, and states with hits stand together where the two kinds meet.
+  // Dense states come first, and match states stand together where the two kinds meet.
   struct Layout {
     State root = 0;
-    State fullCount = 0;
-    State firstHit = 0;
-    State hitCount = 0;
+    State denseCount = 0;
+    State firstMatch = 0;
+    State matchCount = 0;
   };
   struct Edge {
     Symbol symbol;
     State target;
   };
-  /// What a state knows by itself. A full state has a row besides, so that its edges are those of
+  /// What a state knows by itself. A dense state has a row besides, so that its edges are those of
   /// symbols without a column.
   struct Edges {
-    Edge onward;     ///< along a literal, so met most; its symbol is `several` when there is none
-    State fallback;  ///< the full state whose row has the other symbols with a column
+    Edge onward;  ///< along a literal, so met most; its symbol is `multiSymbol` when there is none
+    State fallback;  ///< the dense state whose row has the other symbols with a column
     std::uint16_t count;
     std::uint32_t first;  ///< of the other edges
   };
 
   Layout layout;
-  Array<Symbol> symbols;      ///< by class
-  Array<Sequence> sequences;  ///< by ascending class
+  Array<Symbol> symbols;        ///< by class
+  Array<Expansion> expansions;  ///< by ascending class
   Array<Symbol> letters;
-  Array<State> rows;     ///< the successors of each full state
+  Array<State> rows;     ///< the successors of each dense state
   Array<State> rootRow;  ///< those of the root, for every symbol
   Array<Edges> states;
   Array<Edge> edges;
-  Array<std::uint32_t> valueStarts;  ///< by hit, and the end
+  Array<std::uint32_t> valueStarts;  ///< by match, and the end
   Array<std::uint16_t> values;
 
   void transfer(auto& archive) {
-    archive(layout, symbols, sequences, letters, rows, rootRow, states, edges, valueStarts, values);
+    archive(layout, symbols, expansions, letters, rows, rootRow, states, edges, valueStarts,
+            values);
   }
 };
 
@@ -91,32 +92,34 @@ class LiteralIndex {
   /// Where a pass begins.
   [[nodiscard]] State root() const { return table_.layout.root; }
 
-  /// Whether a code point of class `id` is several letters.
-  [[nodiscard]] bool isSeveral(ClassId id) const { return table_.symbols[id] == Table::several; }
+  /// Whether a code point of class `id` is several symbols.
+  [[nodiscard]] bool isMultiSymbol(ClassId id) const {
+    return table_.symbols[id] == Table::multiSymbol;
+  }
 
   /// The state after a code point of class `id`.
   [[nodiscard]] State advance(State state, ClassId id) const {
     const Table::Symbol symbol = table_.symbols[id];
-    return symbol != Table::several ? after(state, symbol) : afterSeveral(state, id);
+    return symbol != Table::multiSymbol ? successor(state, symbol) : successorAlong(state, id);
   }
 
   /// Whether a literal ends in this state.
-  [[nodiscard]] bool isHit(State state) const {
-    return static_cast<State>(state - table_.layout.firstHit) < table_.layout.hitCount;
+  [[nodiscard]] bool isMatch(State state) const {
+    return static_cast<State>(state - table_.layout.firstMatch) < table_.layout.matchCount;
   }
 
-  /// The values of the literals that end here. REQUIRES: isHit(state).
+  /// The values of the literals that end here. REQUIRES: isMatch(state).
   [[nodiscard]] std::span<const std::uint16_t> values(State state) const {
-    const std::size_t hit = state - table_.layout.firstHit;
-    const std::uint32_t start = table_.valueStarts[hit];
-    return table_.values.subspan(start, table_.valueStarts[hit + 1] - start);
+    const std::size_t match = state - table_.layout.firstMatch;
+    const std::uint32_t start = table_.valueStarts[match];
+    return table_.values.subspan(start, table_.valueStarts[match + 1] - start);
   }
 
  private:
-  [[nodiscard]] State after(State state, Table::Symbol symbol) const {
+  [[nodiscard]] State successor(State state, Table::Symbol symbol) const {
     if (state == table_.layout.root || symbol == 0) return table_.rootRow[symbol];
     const bool hasColumn = symbol < Table::columns;
-    if (!hasColumn || state >= table_.layout.fullCount) {
+    if (!hasColumn || state >= table_.layout.denseCount) {
       const Table::Edges& edges = table_.states[state];
       if (edges.onward.symbol == symbol) return edges.onward.target;
       const Table::Edge* edge = table_.edges.data() + edges.first;
@@ -128,12 +131,12 @@ class LiteralIndex {
     return table_.rows[state * Table::columns + symbol];
   }
 
-  [[nodiscard]] State afterSeveral(State state, ClassId id) const {
-    const auto sequence =
-        std::lower_bound(table_.sequences.begin(), table_.sequences.end(), id,
-                         [](const Table::Sequence& one, ClassId other) { return one.id < other; });
-    for (const Table::Symbol symbol : table_.letters.subspan(sequence->first, sequence->count))
-      state = after(state, symbol);
+  [[nodiscard]] State successorAlong(State state, ClassId id) const {
+    const auto expansion =
+        std::lower_bound(table_.expansions.begin(), table_.expansions.end(), id,
+                         [](const Table::Expansion& one, ClassId other) { return one.id < other; });
+    for (const Table::Symbol symbol : table_.letters.subspan(expansion->first, expansion->count))
+      state = successor(state, symbol);
     return state;
   }
 

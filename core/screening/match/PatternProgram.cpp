@@ -48,7 +48,7 @@ bool Matcher::loopTakes(const Instruction& loop, std::size_t position, Backtrack
   if (sets_->contains(loop.set, text_->classAt(position))) return true;
   if (loop.exception == 0 || position == text_->size()) return false;
   const ProgramEntry& exception = program_->exceptions[loop.exception - std::size_t{1}];
-  return exception.beginning.allows(*text_, position, *sets_) &&
+  return exception.firstSet.allows(*text_, position, *sets_) &&
          looksAhead(exception.instruction, position, stack);
 }
 
@@ -78,7 +78,7 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
     const auto& choice = program.code[index];
     const auto nextAllowed = [&](std::uint32_t from) {
       while (from < choice.count &&
-             !program.targets[choice.first + from].beginning.allows(text, position, sets))
+             !program.targets[choice.first + from].firstSet.allows(text, position, sets))
         ++from;
       return from;
     };
@@ -98,7 +98,7 @@ std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t p
   const auto mayLeaveLoop = [&](std::uint32_t index, std::size_t at) {
     const auto& loop = program.code[index];
     ++steps_;
-    return program.beginnings[loop.first].allows(text, at, sets) &&
+    return program.firstSets[loop.first].allows(text, at, sets) &&
            !(remembering_ && known(loop.memo + 1, at) == Known::fails);
   };
   // A greedy loop leaves at the last place between the two from which the rest may match.

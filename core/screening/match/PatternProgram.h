@@ -13,18 +13,18 @@
 namespace quillseal::screening {
 
 /// What a match can begin with at some place of a pattern.
-struct Beginning {
+struct FirstSet {
   ClassSetId classes = 0;   ///< of the first code point
-  bool anything = false;    ///< may match without a code point: no restriction
+  bool isNullable = false;  ///< may match without a code point: no restriction
   bool atBoundary = false;  ///< only where \b holds
 
-  bool operator==(const Beginning&) const = default;
+  bool operator==(const FirstSet&) const = default;
 
   /// Whether a match may begin at `position`.
   [[nodiscard]] bool allows(const ClassifiedText& text, std::size_t position,
                             const ClassSets& sets) const {
     if (atBoundary && !text.isWordBoundary(position)) return false;
-    return anything || sets.contains(classes, text.classAt(position));
+    return isNullable || sets.contains(classes, text.classAt(position));
   }
 };
 
@@ -51,11 +51,11 @@ enum class Operation : std::uint16_t {
 /// Continues with the next one unless it says otherwise.
 struct Instruction {
   Operation operation;
-  std::uint16_t count = 0;  ///< of letters or targets; for a loop the least number of rounds
+  std::uint16_t count = 0;  ///< of letters or targets; for a loop the least number of iterations
   std::uint16_t max = 0;
   std::uint16_t memo = 0;  ///< row in the memory of failures
   ClassSetId set = 0;
-  std::uint16_t first = 0;  ///< for a loop: what follows it begins with, in `beginnings`
+  std::uint16_t first = 0;  ///< for a loop: what follows it begins with, in `firstSets`
   /// For a loop: which of `exceptions`, counted from 1, takes code points that are not of `set`.
   std::uint16_t exception = 0;
 
@@ -65,7 +65,7 @@ struct Instruction {
 /// A place to start from.
 struct ProgramEntry {
   std::uint16_t instruction = 0;
-  Beginning beginning;
+  FirstSet firstSet;
 };
 
 /// A compiled pattern for `Matcher`.
@@ -74,14 +74,14 @@ struct PatternProgram {
   Array<Instruction> code;
   Array<Letter> letters;
   Array<ProgramEntry> targets;
-  Array<Beginning> beginnings;
+  Array<FirstSet> firstSets;
   Array<ProgramEntry> entries;  ///< the whole, then the alternatives that it is a choice of
   /// Programs that match one code point where its neighbours allow it.
   Array<ProgramEntry> exceptions;
   std::uint16_t memoRows = 0;  ///< of the memory of failures
 
   void transfer(auto& archive) {
-    archive(code, letters, targets, beginnings, entries, exceptions, memoRows);
+    archive(code, letters, targets, firstSets, entries, exceptions, memoRows);
   }
 
   [[nodiscard]] const ProgramEntry& whole() const { return entries.front(); }
@@ -96,7 +96,7 @@ struct BacktrackFrame {
   std::uint32_t instruction;  ///< a choice or a loop; with the matcher's own marks in the top bits
   std::uint32_t position;     ///< of a code point
   /// Of a choice: the next target to try. Of a greedy loop: the first place where it may be left.
-  /// Of a lazy loop: how many more rounds are allowed.
+  /// Of a lazy loop: how many more iterations are allowed.
   std::uint32_t rest;
 };
 /// Shared by the matchers of one screening; each leaves it as it was.
@@ -130,7 +130,7 @@ class Matcher {
                                  BacktrackStack& stack);
   [[nodiscard]] bool looksAhead(std::uint32_t instruction, std::size_t position,
                                 BacktrackStack& stack);
-  /// Whether a round of the loop takes the code point at `position`.
+  /// Whether an iteration of the loop takes the code point at `position`.
   [[nodiscard]] bool loopTakes(const Instruction& loop, std::size_t position,
                                BacktrackStack& stack);
   [[nodiscard]] bool isPrecededByWord(const Instruction& instruction, std::size_t position) const;

@@ -61,24 +61,24 @@ class ScreeningEngine::Screening {
   Screening(const Tables& tables, std::string_view text)
       : tables_(tables), table_(tables.table), text_(tables.classes.classify(text)) {
     outcomes_.resize(table_.searches.size());
-    progress_.resize(table_.chains.size());
-    place_.state = tables.index.root();
-    leading_.resize(table_.leadingInitial.size());
-    armed_.assign(table_.firstHits.begin(), table_.firstHits.end());
-    reached_.resize(table_.linkCount);
+    sequenceStates_.resize(table_.sequences.size());
+    scan_.state = tables.index.root();
+    prefix_.resize(table_.prefixInitial.size());
+    active_.assign(table_.firstVariants.begin(), table_.firstVariants.end());
+    satisfied_.resize(table_.elementCount);
   }
 
   void run() {
     for (std::uint32_t search = 0; search < table_.searches.size(); ++search)
       if (table_.searches[search].atTextStart)
         tryAt(search, 0, tables_.programs[search].whole(), 0);
-    for (std::size_t start = 0; start < text_.size(); start += stretch) {
-      const std::size_t end = std::min(start + stretch, text_.size());
-      findLeadingClasses(start, end);
-      findLiterals(start, end);
+    for (std::size_t start = 0; start < text_.size(); start += chunkSize) {
+      const std::size_t end = std::min(start + chunkSize, text_.size());
+      runPrefixPrefilter(start, end);
+      runLiteralPrefilter(start, end);
     }
     // An empty match behind the last code point has no code point to be found by.
-    for (const LeadingEnd& end : table_.maybeEmpty)
+    for (const PrefixEnd& end : table_.maybeEmpty)
       tryAlternative(end.search, end.alternative, static_cast<std::uint32_t>(text_.size()));
   }
 
@@ -120,14 +120,14 @@ class ScreeningEngine::Screening {
   [[nodiscard]] std::size_t size() const { return text_.size(); }
 
  private:
-  /// So many code points are searched for leading classes, then for literals, so that starts keep
+  /// So many code points are searched for prefix classes, then for literals, so that starts keep
   /// ascending, more or less.
-  static constexpr std::size_t stretch = 1024;
+  static constexpr std::size_t chunkSize = 1024;
 
-  static constexpr std::size_t atOnce = 32;  ///< hits that are looked at together
+  static constexpr std::size_t batchSize = 32;  ///< variants that are looked at together
 
   /// How far the pass has come, in the two measures of `Distance`.
-  struct Progressed {
+  struct Progress {
     std::uint32_t steps = 0;
     std::uint32_t runs = 0;
   };
@@ -141,71 +141,70 @@ class ScreeningEngine::Screening {
   };
 
   /// Where the search for literals stands.
-  struct Place {
+  struct ScanState {
     LiteralIndex::State state = 0;
     std::uint32_t skipped = 0;         ///< code points that continue a run of white space
     std::uint32_t continuedWords = 0;  ///< code points that continue a run of word characters
   };
 
-  /// A first link that waits for the rest of its chain.
-  struct Waiting {
+  /// Where a first element was satisfied whose sequence is not complete yet.
+  struct Candidate {
     std::uint32_t start = 0;
-    Progressed at{};
-    std::uint32_t chain = 0;
+    Progress at{};
+    std::uint32_t sequence = 0;
   };
 
-  struct Progress {
+  struct SequenceState {
     std::uint32_t completedAt = 0;  ///< steps, when it was last completed
     // Starts within [triedLow, triedHigh] have been tried.
     std::uint32_t triedLow = none;
     std::uint32_t triedHigh = 0;
   };
 
-  void findLiterals(std::size_t from, std::size_t to) {
+  void runLiteralPrefilter(std::size_t from, std::size_t to) {
     const LiteralIndex& index = tables_.index;
-    Place place = place_;
+    ScanState scan = scan_;
     for (std::size_t i = from; i < to; ++i) {
       if (text_.continuesSpace(i)) {
-        ++place.skipped;
+        ++scan.skipped;
         regularFrom_ = i + 1;
         continue;
       }
-      place.continuedWords += text_.continuesWord(i) ? 1 : 0;
+      scan.continuedWords += text_.continuesWord(i) ? 1 : 0;
       const ClassId id = text_.classAt(i);
-      if (index.isSeveral(id)) regularFrom_ = i + 1;
-      place.state = index.advance(place.state, id);
-      if (!index.isHit(place.state)) continue;
-      now_.steps = static_cast<std::uint32_t>(i + 1) - place.skipped;
-      now_.runs = now_.steps - place.continuedWords;
-      for (auto values = index.values(place.state); !values.empty();
-           values = values.subspan(std::min(values.size(), atOnce)))
-        onHits(values.first(std::min(values.size(), atOnce)), i + 1);
+      if (index.isMultiSymbol(id)) regularFrom_ = i + 1;
+      scan.state = index.advance(scan.state, id);
+      if (!index.isMatch(scan.state)) continue;
+      now_.steps = static_cast<std::uint32_t>(i + 1) - scan.skipped;
+      now_.runs = now_.steps - scan.continuedWords;
+      for (auto values = index.values(scan.state); !values.empty();
+           values = values.subspan(std::min(values.size(), batchSize)))
+        onLiterals(values.first(std::min(values.size(), batchSize)), i + 1);
     }
-    place_ = place;
+    scan_ = scan;
   }
 
-  /// Those that are armed are set apart first, since which ones are cannot be foreseen and guessing
-  /// wrong costs more than looking.
-  void onHits(std::span<const std::uint16_t> hits, std::size_t end) {
-    std::array<std::uint16_t, atOnce> armed;  // NOLINT(*-member-init): filled from the start on
+  /// Those that are active are set apart first, since which ones are cannot be foreseen and
+  /// guessing wrong costs more than looking.
+  void onLiterals(std::span<const std::uint16_t> variants, std::size_t end) {
+    std::array<std::uint16_t, batchSize> active;  // NOLINT(*-member-init): filled from the start on
     std::size_t count = 0;
-    for (const std::uint16_t hit : hits) {
-      armed[count] = hit;
-      count += hasBit(armed_, hit) ? 1 : 0;
+    for (const std::uint16_t variant : variants) {
+      active[count] = variant;
+      count += hasBit(active_, variant) ? 1 : 0;
     }
     for (std::size_t i = 0; i < count; ++i)
-      onHit(armed[i], end);
+      onVariant(active[i], end);
   }
 
-  void findLeadingClasses(std::size_t from, std::size_t to) {
+  void runPrefixPrefilter(std::size_t from, std::size_t to) {
     // Two words at a time, since neither has to wait for the other.
-    for (std::size_t word = 0; word < leading_.size(); word += 2) {
-      const std::uint64_t* const masks =
-          table_.leadingMasks.data() + word * tables_.classes.count();
-      const std::uint64_t* const initial = table_.leadingInitial.data() + word;
-      const std::uint64_t* const final = table_.leadingFinal.data() + word;
-      std::uint64_t one = leading_[word];
-      std::uint64_t other = leading_[word + 1];
+    for (std::size_t word = 0; word < prefix_.size(); word += 2) {
+      const std::uint64_t* const masks = table_.prefixMasks.data() + word * tables_.classes.count();
+      const std::uint64_t* const initial = table_.prefixInitial.data() + word;
+      const std::uint64_t* const final = table_.prefixFinal.data() + word;
+      std::uint64_t one = prefix_[word];
+      std::uint64_t other = prefix_[word + 1];
       for (std::size_t i = from; i < to;) {
         std::uint64_t ends = 0;
         while (i < to && ends == 0) {
@@ -214,61 +213,62 @@ class ScreeningEngine::Screening {
           other = (other << 1 | initial[1]) & mask[1];
           ends = (one & final[0]) | (other & final[1]);
         }
-        tryLeading(word, one & final[0], i);
-        tryLeading(word + 1, other & final[1], i);
+        tryPrefixes(word, one & final[0], i);
+        tryPrefixes(word + 1, other & final[1], i);
       }
-      leading_[word] = one;
-      leading_[word + 1] = other;
+      prefix_[word] = one;
+      prefix_[word + 1] = other;
     }
   }
 
-  void tryLeading(std::size_t word, std::uint64_t ends, std::size_t position) {
+  void tryPrefixes(std::size_t word, std::uint64_t ends, std::size_t position) {
     for (; ends != 0; ends &= ends - 1) {
       const auto bit = word * 64 + static_cast<std::size_t>(std::countr_zero(ends));
-      const LeadingEnd& end = table_.leadingEnds[bit];
+      const PrefixEnd& end = table_.prefixEnds[bit];
       tryAlternative(end.search, end.alternative,
                      static_cast<std::uint32_t>(position - end.length));
     }
   }
 
-  [[nodiscard]] bool isWithin(const Distance& distance, const Progressed& since) const {
+  [[nodiscard]] bool isWithin(const Distance& distance, const Progress& since) const {
     static_assert(unbounded == std::numeric_limits<decltype(distance.steps)>::max());
     return now_.steps - since.steps <= distance.steps && now_.runs - since.runs <= distance.runs;
   }
-  [[nodiscard]] bool isWithin(const ShortDistance& distance, const Progressed& since) const {
+  [[nodiscard]] bool isWithin(const ShortDistance& distance, const Progress& since) const {
     return isWithin({.steps = distance.steps(), .runs = distance.runs()}, since);
   }
 
-  /// Whether all starts that this hit of a first link could lead to lie behind a known match.
-  [[nodiscard]] bool isBehindMatch(const LinkHit& hit) const {
+  /// Whether all starts that this first element could lead to lie behind a known match.
+  [[nodiscard]] bool isBehindMatch(const ElementVariant& variant) const {
     // There are at least as many code points before the match as there are steps.
-    return now_.steps >
-           std::uint64_t{outcomes_[hit.search].start} + hit.distance.steps() + hit.length;
+    return now_.steps > std::uint64_t{outcomes_[variant.search].start} + variant.distance.steps() +
+                            variant.length;
   }
 
-  void onHit(std::size_t number, std::size_t end) {
+  void onVariant(std::size_t number, std::size_t end) {
     ++steps_;
-    const LinkHit& hit = table_.hits[number];
-    const bool isFirst = hit.has(LinkHit::first);
-    if (isFirst ? isBehindMatch(hit) : !isWithin(hit.distance, reached_[hit.reach - 1])) {
-      clearBit(armed_, number);
+    const ElementVariant& variant = table_.variants[number];
+    const bool isFirst = variant.has(ElementVariant::first);
+    if (isFirst ? isBehindMatch(variant)
+                : !isWithin(variant.distance, satisfied_[variant.element - 1])) {
+      clearBit(active_, number);
       return;
     }
-    if (hit.has(LinkHit::boundaryAfter) && !text_.isWordBoundary(end)) return;
+    if (variant.has(ElementVariant::boundaryAfter) && !text_.isWordBoundary(end)) return;
     std::uint32_t start = 0;
-    if (isFirst || hit.has(LinkHit::boundaryBefore)) {
-      start = startOf(hit.length, end);
-      if (hit.has(LinkHit::boundaryBefore) && !text_.isWordBoundary(start)) return;
+    if (isFirst || variant.has(ElementVariant::boundaryBefore)) {
+      start = startOf(variant.length, end);
+      if (variant.has(ElementVariant::boundaryBefore) && !text_.isWordBoundary(start)) return;
     }
-    reached_[hit.reach] = now_;
-    setBits(armed_, hit.nextHit, hit.nextCount);
-    const bool isLast = hit.nextCount == 0;
+    satisfied_[variant.element] = now_;
+    setBits(active_, variant.nextVariant, variant.nextCount);
+    const bool isLast = variant.nextCount == 0;
     if (isFirst && isLast) {
-      tryBefore(hit.chain, start);
+      tryBefore(variant.sequence, start);
     } else if (isFirst) {
-      wait(hit.chain, start);
+      addCandidate(variant.sequence, start);
     } else if (isLast) {
-      complete(hit.chain);
+      complete(variant.sequence);
     }
   }
 
@@ -290,62 +290,61 @@ class ScreeningEngine::Screening {
     return static_cast<std::uint32_t>(start);
   }
 
-  void wait(std::uint32_t chain, std::uint32_t start) {
-    if (waiting_.size() == waitingLimit_) {
-      std::erase_if(waiting_, [this](const Waiting& waiting) {
-        return !isWithin(table_.chains[waiting.chain].span, waiting.at);
+  void addCandidate(std::uint32_t sequence, std::uint32_t start) {
+    if (candidates_.size() == candidateLimit_) {
+      std::erase_if(candidates_, [this](const Candidate& candidate) {
+        return !isWithin(table_.sequences[candidate.sequence].span, candidate.at);
       });
-      steps_ += waitingLimit_;
-      waitingLimit_ = std::max(waitingLimit_, 2 * waiting_.size());
+      steps_ += candidateLimit_;
+      candidateLimit_ = std::max(candidateLimit_, 2 * candidates_.size());
     }
-    waiting_.push_back({.start = start, .at = now_, .chain = chain});
+    candidates_.push_back({.start = start, .at = now_, .sequence = sequence});
   }
 
-  /// Tries all first links since the chain was last completed that are near enough.
-  void complete(std::uint32_t chain) {
-    const Distance& span = table_.chains[chain].span;
-    const std::uint32_t since = std::exchange(progress_[chain].completedAt, now_.steps);
-    std::size_t first = waiting_.size();
-    while (first > 0 && waiting_[first - 1].at.steps >= since &&
-           isWithin(span, waiting_[first - 1].at))
+  /// Tries all first elements since the sequence was last completed that are near enough.
+  void complete(std::uint32_t sequence) {
+    const Distance& span = table_.sequences[sequence].span;
+    const std::uint32_t since = std::exchange(sequenceStates_[sequence].completedAt, now_.steps);
+    std::size_t first = candidates_.size();
+    while (first > 0 && candidates_[first - 1].at.steps >= since &&
+           isWithin(span, candidates_[first - 1].at))
       --first;
-    steps_ += waiting_.size() - first;
-    for (; first < waiting_.size(); ++first)
-      if (waiting_[first].chain == chain) tryBefore(chain, waiting_[first].start);
+    steps_ += candidates_.size() - first;
+    for (; first < candidates_.size(); ++first)
+      if (candidates_[first].sequence == sequence) tryBefore(sequence, candidates_[first].start);
   }
 
-  /// Tries all starts from which the first link at `literalStart` may be reached.
-  void tryBefore(std::uint32_t chainNumber, std::uint32_t literalStart) {
-    const Chain& chain = table_.chains[chainNumber];
-    if (chain.lead == 0) {
-      tryAlternative(chain.search, chain.alternative, literalStart);
+  /// Tries all starts from which the first element at `literalStart` may be reached.
+  void tryBefore(std::uint32_t sequenceNumber, std::uint32_t literalStart) {
+    const LiteralSequence& sequence = table_.sequences[sequenceNumber];
+    if (sequence.lead == 0) {
+      tryAlternative(sequence.search, sequence.alternative, literalStart);
       return;
     }
-    Progress& progress = progress_[chainNumber];
+    SequenceState& state = sequenceStates_[sequenceNumber];
     // An earlier walk has been further down, unless it set out from further up and ran out of
     // steps; then this one goes all the way.
-    const bool mayStop = progress.triedLow != none &&
-                         (literalStart >= progress.triedHigh || chain.lead == unbounded);
-    const Outcome& outcome = outcomes_[chain.search];
+    const bool mayStop =
+        state.triedLow != none && (literalStart >= state.triedHigh || sequence.lead == unbounded);
+    const Outcome& outcome = outcomes_[sequence.search];
     // Down to the earlier walk, all starts lie behind the match that is known.
-    if (mayStop && literalStart >= progress.triedHigh && outcome.start <= progress.triedHigh)
-      return;
+    if (mayStop && literalStart >= state.triedHigh && outcome.start <= state.triedHigh) return;
     const auto isLead = [&](std::uint32_t at) {
-      return tables_.sets.contains(chain.leadClasses, text_.classAt(at));
+      return tables_.sets.contains(sequence.leadClasses, text_.classAt(at));
     };
     std::uint32_t low = literalStart;
     bool metEarlierWalk = false;
     for (std::uint32_t walked = 0; low > 0 && isLead(low - 1) && !metEarlierWalk; ++steps_) {
       const bool continuesRun = low < literalStart && text_.continuesSpace(low);
-      if (!continuesRun && walked++ == chain.lead) break;
+      if (!continuesRun && walked++ == sequence.lead) break;
       --low;
-      metEarlierWalk = mayStop && low >= progress.triedLow && low <= progress.triedHigh;
+      metEarlierWalk = mayStop && low >= state.triedLow && low <= state.triedHigh;
     }
-    const ProgramEntry& entry = tables_.programs[chain.search].alternative(chain.alternative);
+    const ProgramEntry& entry = tables_.programs[sequence.search].alternative(sequence.alternative);
     for (std::uint32_t at = low; at <= literalStart && at <= outcome.start; ++at)
-      tryAt(chain.search, chain.alternative, entry, at);
-    progress.triedLow = metEarlierWalk ? progress.triedLow : low;
-    progress.triedHigh = literalStart;
+      tryAt(sequence.search, sequence.alternative, entry, at);
+    state.triedLow = metEarlierWalk ? state.triedLow : low;
+    state.triedHigh = literalStart;
   }
 
   void tryAlternative(std::uint32_t search, std::uint32_t alternative, std::uint32_t start) {
@@ -359,7 +358,7 @@ class ScreeningEngine::Screening {
     const Outcome& outcome = outcomes_[search];
     const bool isBetter =
         start < outcome.start || (start == outcome.start && alternative < outcome.alternative);
-    if (isBetter && entry.beginning.allows(text_, start, tables_.sets))
+    if (isBetter && entry.firstSet.allows(text_, start, tables_.sets))
       match(search, alternative, entry, start);
   }
 
@@ -398,18 +397,17 @@ class ScreeningEngine::Screening {
   ClassifiedText text_;
   std::vector<Outcome> outcomes_;
   std::vector<Matcher> matchers_;
-  std::vector<Progress> progress_;
-  std::vector<std::uint64_t> leading_;
-  Place place_;
-  /// By hit. Most cannot matter: those of a link whose predecessor has not been met or is too far
-  /// behind, and first links behind the match that is known already. They are disarmed until that
-  /// changes.
-  std::vector<std::uint64_t> armed_;
-  std::vector<Progressed> reached_;  ///< by link
-  std::vector<Waiting> waiting_;     ///< in the order in which they were met
-  std::size_t waitingLimit_ = 4096;  ///< when those too far behind are dropped
+  std::vector<SequenceState> sequenceStates_;
+  std::vector<std::uint64_t> prefix_;
+  ScanState scan_;
+  /// By variant: whether it can matter. Most cannot: those whose predecessor is not satisfied or is
+  /// too far behind, and first ones behind the match that is known already.
+  std::vector<std::uint64_t> active_;
+  std::vector<Progress> satisfied_;    ///< by element: where it was last satisfied
+  std::vector<Candidate> candidates_;  ///< in the order in which they were met
+  std::size_t candidateLimit_ = 4096;  ///< when those too far behind are dropped
   BacktrackStack stack_;
-  Progressed now_;
+  Progress now_;
   std::size_t regularFrom_ = 0;  ///< from here on every code point has been one letter
   std::uint64_t steps_ = 0;
 };

@@ -53,16 +53,17 @@ class ShortDistance {
   std::uint16_t runs_ = 0;
 };
 
-/// One link of one chain of literals, as the literal index reports it. A text dense in literals
-/// reads them in no order, so that each should lie in one line of the cache.
-struct alignas(16) LinkHit {
-  ShortDistance distance{};  ///< from the end of the link before, or from the start of the match
-  std::uint16_t chain = 0;
+/// An element of a required-literal sequence, for those of its literals that have one length. The
+/// literal index reports its number. A text dense in literals reads them in no order, so that each
+/// should lie in one line of the cache.
+struct alignas(16) ElementVariant {
+  ShortDistance distance{};  ///< from the end of the element before, or from the start of the match
+  std::uint16_t sequence = 0;
   std::uint16_t search = 0;
-  std::uint16_t reach = 0;      ///< its place among the links of all chains
-  std::uint16_t nextHit = 0;    ///< the first of the hits of the next link
-  std::uint16_t nextCount = 0;  ///< how many there are: none for the last link
-  std::uint8_t length = 0;      ///< letters of the literal
+  std::uint16_t element = 0;      ///< among those of all sequences
+  std::uint16_t nextVariant = 0;  ///< the first variant of the next element
+  std::uint16_t nextCount = 0;    ///< how many there are: none for the last element
+  std::uint8_t length = 0;        ///< letters of the literal
   std::uint8_t properties = 0;
 
   /// Bits of `properties`.
@@ -72,19 +73,20 @@ struct alignas(16) LinkHit {
 
   [[nodiscard]] bool has(std::uint8_t property) const { return (properties & property) != 0; }
 };
-static_assert(sizeof(LinkHit) == 16);
+static_assert(sizeof(ElementVariant) == 16);
 
-/// Literals in order that every match of an alternative contains.
-struct Chain {
+/// A required-literal sequence: every match of an alternative contains one literal of each element,
+/// in order.
+struct LiteralSequence {
   std::uint32_t search = 0;
-  std::uint32_t lead = 0;  ///< code points from the start of a match to the first link
-  Distance span{};         ///< from the end of the first link to that of the last
+  std::uint32_t lead = 0;  ///< code points from the start of a match to the first element
+  Distance span{};         ///< from the end of the first element to that of the last
   std::uint16_t alternative = 0;
   ClassSetId leadClasses = 0;  ///< all that may stand in the lead
 };
 
-/// Where the leading classes of an alternative have all been met.
-struct LeadingEnd {
+/// Where the prefix classes of an alternative have all been met.
+struct PrefixEnd {
   std::uint32_t search = 0;
   std::uint32_t alternative = 0;
   std::uint32_t length = 0;
@@ -112,25 +114,25 @@ struct Form {
 /// All that a screening reads.
 template <template <typename> typename Array>
 struct ScreeningTable {
-  Array<LinkHit> hits;             ///< the values of the literal index
-  Array<std::uint64_t> firstHits;  ///< a bit for each of them: those of first links
-  Array<Chain> chains;
-  std::uint64_t linkCount = 0;
+  Array<ElementVariant> variants;      ///< the values of the literal index
+  Array<std::uint64_t> firstVariants;  ///< a bit for each variant: whether it is of a first element
+  Array<LiteralSequence> sequences;
+  std::uint64_t elementCount = 0;
   Array<SearchTraits> searches;
   Array<Form> forms;  ///< by pattern
   Array<std::uint16_t> formSearches;
 
-  // Searches without a required literal: a bit for each of their leading classes, all advanced at
+  // Searches without a required literal: a bit for each of their prefix classes, all advanced at
   // once by a shift (Baeza-Yates and Gonnet, "A new approach to text searching", 1992).
-  Array<std::uint64_t> leadingInitial;  ///< an even number of words
-  Array<std::uint64_t> leadingMasks;    ///< by pair of words, two for each class
-  Array<std::uint64_t> leadingFinal;
-  Array<LeadingEnd> leadingEnds;  ///< by bit
-  Array<LeadingEnd> maybeEmpty;   ///< those that may match without a code point
+  Array<std::uint64_t> prefixInitial;  ///< an even number of words
+  Array<std::uint64_t> prefixMasks;    ///< by pair of words, two for each class
+  Array<std::uint64_t> prefixFinal;
+  Array<PrefixEnd> prefixEnds;  ///< by bit
+  Array<PrefixEnd> maybeEmpty;  ///< those that may match without a code point
 
   void transfer(auto& archive) {
-    archive(hits, firstHits, chains, linkCount, searches, forms, formSearches);
-    archive(leadingInitial, leadingMasks, leadingFinal, leadingEnds, maybeEmpty);
+    archive(variants, firstVariants, sequences, elementCount, searches, forms, formSearches);
+    archive(prefixInitial, prefixMasks, prefixFinal, prefixEnds, maybeEmpty);
   }
 };
 

@@ -14,327 +14,366 @@
 
 #include <algorithm>
 
-#include "core/screening/match/WordBits.h"
-
 namespace quillseal::screening {
 namespace {
 
-// Marks in a frame's instruction. Such a frame is met when everything the instruction led to, or
-// what follows the loop, has failed: it says so to the memory.
+// Marks in a frame's instruction. Such a frame is popped when everything the instruction led to, or
+// what follows the loop, has failed; the failure is then stored in the memo table.
 constexpr std::uint32_t instructionFailed = 0x8000'0000;
 constexpr std::uint32_t afterLoopFailed = 0x4000'0000;
 constexpr std::uint32_t marks = instructionFailed | afterLoopFailed;
 
-/// Most searches end within so many steps, and are spared what remembering costs.
-constexpr std::uint64_t forgetfulSteps = 2048;
-constexpr std::uint64_t forgetfulStepsPerCodePoint = 2;
+// Memoization starts after this many steps; most searches finish earlier.
+constexpr std::uint64_t freeSteps = 2048;
+constexpr std::uint64_t freeStepsPerCodePoint = 2;
 
-/// Memory is claimed for one row and this many positions at a time.
-constexpr std::size_t pagePositions = 4096;
+/// One run of the program: to the end of a match, or of the body of a look-ahead.
+class Backtracker {
+ public:
+  enum class Purpose : std::uint8_t { match, lookAhead };
+
+  Backtracker(MatcherState& state, BacktrackStack& stack, Purpose purpose)
+      : state_(state),
+        program_(state.program),
+        sets_(state.sets),
+        text_(state.text),
+        stack_(stack),
+        base_(stack.size()),
+        purpose_(purpose) {}
+
+  /// Where the preferred match ends. To be called once.
+  std::optional<std::size_t> run(std::uint32_t instruction, std::size_t position) {
+    instruction_ = instruction;
+    position_ = position;
+    for (;;) {
+      countStep();
+      Step step = execute(program_.code[instruction_]);
+      while (step == Step::failed) {
+        if (stack_.size() == base_) return std::nullopt;
+        step = backtrack();
+      }
+      if (step == Step::accepted) {
+        stack_.resize(base_);
+        return position_;
+      }
+    }
+  }
+
+ private:
+  enum class Step : std::uint8_t { advanced, failed, accepted };
+
+  void countStep() {
+    if (++state_.steps > state_.stepsBeforeMemo && program_.memoRows > 0) state_.isMemoizing = true;
+  }
+
+  Step execute(const Instruction& current) {
+    switch (current.operation) {
+      case Operation::accept:
+        return accept();
+      case Operation::set:
+        return matchSet(current);
+      case Operation::foldedText:
+        return matchFoldedText(current);
+      case Operation::jump:
+        instruction_ = current.first;
+        return Step::advanced;
+      case Operation::wordBoundary:
+        return assertThat(text_.isWordBoundary(position_));
+      case Operation::noWordBoundary:
+        return assertThat(!text_.isWordBoundary(position_));
+      case Operation::textStart:
+        return assertThat(position_ == 0);
+      case Operation::textEnd:
+        return assertThat(isAtTextEnd());
+      case Operation::absoluteEnd:
+        return assertThat(position_ == text_.size());
+      case Operation::lookAhead:
+        return lookAhead(current, true);
+      case Operation::negativeLookAhead:
+        return lookAhead(current, false);
+      case Operation::precededBy:
+        return assertThat(isPrecededBy(current.set));
+      case Operation::notPrecededBy:
+        return assertThat(!isPrecededBy(current.set));
+      case Operation::precededByWord:
+        return assertThat(isPrecededByWord(current));
+      case Operation::choice:
+      case Operation::greedyLoop:
+      case Operation::lazyLoop:
+        return branch(current);
+    }
+    return Step::failed;
+  }
+
+  // ---- Instructions that go one way
+
+  Step accept() {
+    if (state_.isMemoizing && purpose_ == Purpose::lookAhead) storePath();
+    return Step::accepted;
+  }
+
+  Step matchSet(const Instruction& current) {
+    if (!sets_.contains(current.set, text_.classAt(position_))) return Step::failed;
+    ++position_;
+    ++instruction_;
+    return Step::advanced;
+  }
+
+  Step matchFoldedText(const Instruction& current) {
+    state_.steps += current.count;
+    const Letter* letter = program_.letters.data() + current.first;
+    const Letter* const end = letter + current.count;
+    std::size_t position = position_;
+    while (letter != end) {
+      for (const Letter folded : state_.classes.folding(text_.classAt(position))) {
+        if (letter == end || *letter != folded) return Step::failed;
+        ++letter;
+      }
+      ++position;
+    }
+    position_ = position;
+    ++instruction_;
+    return Step::advanced;
+  }
+
+  Step assertThat(bool holds) {
+    ++instruction_;
+    return holds ? Step::advanced : Step::failed;
+  }
+
+  Step lookAhead(const Instruction& current, bool expected) {
+    if (matchesAhead(instruction_ + 1, position_) != expected) return Step::failed;
+    instruction_ = current.first;
+    return Step::advanced;
+  }
+
+  // ---- Instructions that may go several ways
+
+  Step branch(const Instruction& current) {
+    // Sampled once: a look-ahead of the loop may begin to memoize.
+    const bool isMemoized = state_.isMemoizing;
+    if (isMemoized) {
+      switch (state_.memo.outcome(current.memo, position_)) {
+        case Memo::Outcome::succeeds:
+          return Step::accepted;
+        case Memo::Outcome::fails:
+          return Step::failed;
+        case Memo::Outcome::unknown:
+          push(instruction_ | instructionFailed, position_, position_);
+      }
+    }
+    if (current.operation == Operation::choice) return choose(instruction_, 0);
+    const bool isEndless = current.max == Instruction::endless;
+    if (current.operation == Operation::lazyLoop)
+      return exitFromFirst(instruction_, position_, isEndless ? unbounded : current.max);
+    return enterGreedyLoop(current, isMemoized && isEndless);
+  }
+
+  /// Goes to the first target from `which` on that may match here.
+  Step choose(std::uint32_t index, std::uint32_t which) {
+    const Instruction& choice = program_.code[index];
+    which = nextTarget(choice, which);
+    if (which == choice.count) return Step::failed;
+    const std::uint32_t later = nextTarget(choice, which + 1);
+    state_.steps += later - which;
+    if (later < choice.count) push(index, position_, later);
+    instruction_ = program_.targets[choice.first + which].instruction;
+    return Step::advanced;
+  }
+
+  [[nodiscard]] std::uint32_t nextTarget(const Instruction& choice, std::uint32_t from) const {
+    while (from < choice.count &&
+           !program_.targets[choice.first + from].firstSet.allows(text_, position_, sets_))
+      ++from;
+    return from;
+  }
+
+  Step enterGreedyLoop(const Instruction& loop, bool usesMemo) {
+    const std::uint32_t index = instruction_;
+    const std::size_t low = position_ + loop.count;
+    const std::size_t limit =
+        loop.max == Instruction::endless ? text_.size() : position_ + loop.max;
+    std::size_t high = position_;
+    bool failsFromHigh = false;
+    while (high < limit && !failsFromHigh && loopTakes(loop, high)) {
+      ++high;
+      failsFromHigh = usesMemo && state_.memo.hasFailed(loop.memo, high);
+    }
+    state_.steps += high - position_;
+    if (failsFromHigh) --high;
+    if (usesMemo) stack_.back().rest = static_cast<std::uint32_t>(high);
+    return high >= low ? exitFromLast(index, low, high) : Step::failed;
+  }
+
+  /// A greedy loop exits at the last place between the two from which the rest may match.
+  Step exitFromLast(std::uint32_t index, std::size_t low, std::size_t high) {
+    for (std::size_t at = high;; --at) {
+      if (mayExit(index, at)) {
+        if (at > low) push(index, at - 1, low);
+        exitLoop(index, at);
+        return Step::advanced;
+      }
+      if (at == low) return Step::failed;
+    }
+  }
+
+  /// A lazy loop exits at the first such place; `rest`: how many more iterations are allowed.
+  Step exitFromFirst(std::uint32_t index, std::size_t at, std::uint32_t rest) {
+    const Instruction& loop = program_.code[index];
+    while (!mayExit(index, at)) {
+      if (rest == 0 || !loopTakes(loop, at)) return Step::failed;
+      ++at;
+      if (rest != unbounded) --rest;
+      if (state_.isMemoizing && rest == unbounded && state_.memo.hasFailed(loop.memo, at))
+        return Step::failed;
+    }
+    push(index, at, rest);
+    exitLoop(index, at);
+    return Step::advanced;
+  }
+
+  bool mayExit(std::uint32_t index, std::size_t at) {
+    const Instruction& loop = program_.code[index];
+    ++state_.steps;
+    return program_.firstSets[loop.first].allows(text_, at, sets_) &&
+           !(state_.isMemoizing && state_.memo.hasFailed(loop.memo + 1U, at));
+  }
+
+  void exitLoop(std::uint32_t index, std::size_t at) {
+    if (state_.isMemoizing) push(index | afterLoopFailed, at, at);
+    instruction_ = index + 1;
+    position_ = at;
+  }
+
+  /// Whether an iteration of the loop takes the code point at `position`.
+  [[nodiscard]] bool loopTakes(const Instruction& loop, std::size_t position) {
+    if (sets_.contains(loop.set, text_.classAt(position))) return true;
+    if (loop.exception == 0 || position == text_.size()) return false;
+    const ProgramEntry& exception = program_.exceptions[loop.exception - std::size_t{1}];
+    return exception.firstSet.allows(text_, position, sets_) &&
+           matchesAhead(exception.instruction, position);
+  }
+
+  // ---- Backtracking
+
+  /// Pops a frame and goes on from there. REQUIRES: there is a frame of this run.
+  Step backtrack() {
+    const BacktrackFrame frame = stack_.back();
+    stack_.pop_back();
+    ++state_.steps;
+    const std::uint32_t index = frame.instruction & ~marks;
+    const Instruction& tried = program_.code[index];
+    if ((frame.instruction & marks) != 0) {
+      storeFailure(tried, frame);
+      return Step::failed;
+    }
+    position_ = frame.position;
+    if (tried.operation == Operation::choice) return choose(index, frame.rest);
+    if (tried.operation == Operation::greedyLoop)
+      return exitFromLast(index, frame.rest, frame.position);
+    if (frame.rest == 0 || !loopTakes(tried, position_)) return Step::failed;
+    const std::uint32_t rest = frame.rest == unbounded ? unbounded : frame.rest - 1;
+    return exitFromFirst(index, position_ + 1, rest);
+  }
+
+  void push(std::uint32_t instruction, std::size_t position, std::size_t rest) {
+    stack_.push_back(
+        {instruction, static_cast<std::uint32_t>(position), static_cast<std::uint32_t>(rest)});
+  }
+
+  void storeFailure(const Instruction& tried, const BacktrackFrame& frame) {
+    if ((frame.instruction & afterLoopFailed) != 0) {
+      state_.memo.storeFailure(tried.memo + 1U, frame.position);
+      return;
+    }
+    state_.memo.storeFailure(tried.memo, frame.position);
+    if (tried.max == Instruction::endless) storeRestOfRun(tried, frame);
+  }
+
+  /// An endless loop that fails somewhere fails from the rest of the same run, too.
+  void storeRestOfRun(const Instruction& loop, const BacktrackFrame& frame) {
+    Memo& memo = state_.memo;
+    if (loop.operation == Operation::greedyLoop) {
+      for (std::size_t at = frame.position + 1; at <= frame.rest; ++at)
+        memo.storeFailure(loop.memo, at);
+    } else if (loop.operation == Operation::lazyLoop) {
+      for (std::size_t at = frame.position;
+           loopTakes(loop, at) && !memo.hasFailed(loop.memo, at + 1); ++at)
+        memo.storeFailure(loop.memo, at + 1);
+    }
+  }
+
+  /// What stands on the stack when a look-ahead has succeeded is the path that led there.
+  void storePath() {
+    for (std::size_t i = base_; i < stack_.size(); ++i) {
+      const BacktrackFrame& frame = stack_[i];
+      if ((frame.instruction & marks) == 0) continue;
+      const std::uint32_t row = program_.code[frame.instruction & ~marks].memo;
+      const bool isAfterLoop = (frame.instruction & afterLoopFailed) != 0;
+      state_.memo.storeSuccess(row + (isAfterLoop ? 1 : 0), frame.position);
+    }
+  }
+
+  // ---- Conditions
+
+  [[nodiscard]] bool matchesAhead(std::uint32_t instruction, std::size_t position) {
+    return Backtracker(state_, stack_, Purpose::lookAhead).run(instruction, position).has_value();
+  }
+
+  [[nodiscard]] bool isPrecededBy(ClassSetId set) const {
+    return position_ > 0 && sets_.contains(set, text_.classAt(position_ - 1));
+  }
+
+  [[nodiscard]] bool isPrecededByWord(const Instruction& current) const {
+    for (std::size_t length = 1; length <= std::min<std::size_t>(current.max, position_);
+         ++length) {
+      const std::size_t start = position_ - length;
+      if (!sets_.contains(current.set, text_.classAt(start))) return false;
+      if (length >= current.count && text_.isWordBoundary(start)) return true;
+    }
+    return false;
+  }
+
+  // Before a line terminator at the end, and never between CR and LF (RegexMatcher, URX_DOLLAR).
+  [[nodiscard]] bool isAtTextEnd() const {
+    const CharacterClasses& classes = state_.classes;
+    const std::size_t size = text_.size();
+    if (position_ == size) return true;
+    const auto isLineFeed = [&](std::size_t at) { return classes.isLineFeed(text_.classAt(at)); };
+    const auto isCarriageReturn = [&](std::size_t at) {
+      return classes.isCarriageReturn(text_.classAt(at));
+    };
+    if (position_ + 1 == size && classes.isLineTerminator(text_.classAt(position_)))
+      return !(position_ > 0 && isLineFeed(position_) && isCarriageReturn(position_ - 1));
+    return position_ + 2 == size && isCarriageReturn(position_) && isLineFeed(position_ + 1);
+  }
+
+  MatcherState& state_;
+  const PatternProgram<Stored>& program_;
+  const ClassSets& sets_;
+  const ClassifiedText& text_;
+  BacktrackStack& stack_;
+  const std::size_t base_;  ///< frames below belong to the runs around this one
+  const Purpose purpose_;
+  std::uint32_t instruction_ = 0;
+  std::size_t position_ = 0;
+};
 
 }  // namespace
 
+Matcher::Matcher(const PatternProgram<Stored>& program, const CharacterClasses& classes,
+                 const ClassSets& sets, const ClassifiedText& text)
+    : state_{.program = program,
+             .classes = classes,
+             .sets = sets,
+             .text = text,
+             .stepsBeforeMemo = freeSteps + freeStepsPerCodePoint * text.size(),
+             .memo = Memo(program.memoRows)} {}
+
 std::optional<std::size_t> Matcher::matchAt(const ProgramEntry& entry, std::size_t start,
                                             BacktrackStack& stack) {
-  if (remembering_) forgetBefore(start);
-  return run(entry.instruction, start, Purpose::match, stack);
-}
-
-bool Matcher::looksAhead(std::uint32_t instruction, std::size_t position, BacktrackStack& stack) {
-  return run(instruction, position, Purpose::lookAhead, stack).has_value();
-}
-
-bool Matcher::loopTakes(const Instruction& loop, std::size_t position, BacktrackStack& stack) {
-  if (sets_->contains(loop.set, text_->classAt(position))) return true;
-  if (loop.exception == 0 || position == text_->size()) return false;
-  const ProgramEntry& exception = program_->exceptions[loop.exception - std::size_t{1}];
-  return exception.firstSet.allows(*text_, position, *sets_) &&
-         looksAhead(exception.instruction, position, stack);
-}
-
-bool Matcher::isPrecededByWord(const Instruction& instruction, std::size_t position) const {
-  for (std::size_t length = 1; length <= std::min<std::size_t>(instruction.max, position);
-       ++length) {
-    const std::size_t start = position - length;
-    if (!sets_->contains(instruction.set, text_->classAt(start))) return false;
-    if (length >= instruction.count && text_->isWordBoundary(start)) return true;
-  }
-  return false;
-}
-
-std::optional<std::size_t> Matcher::run(std::uint32_t instruction, std::size_t position,
-                                        Purpose purpose, BacktrackStack& stack) {
-  const PatternProgram<Stored>& program = *program_;
-  const ClassSets& sets = *sets_;
-  const ClassifiedText& text = *text_;
-  const std::size_t base = stack.size();
-  const std::uint64_t allowance = forgetfulSteps + forgetfulStepsPerCodePoint * text.size();
-
-  const auto push = [&](std::uint32_t index, std::size_t at, std::size_t rest) {
-    stack.push_back({index, static_cast<std::uint32_t>(at), static_cast<std::uint32_t>(rest)});
-  };
-  // Goes to the first target from `which` on that may match here; false when there is none.
-  const auto choose = [&](std::uint32_t index, std::uint32_t which) {
-    const auto& choice = program.code[index];
-    const auto nextAllowed = [&](std::uint32_t from) {
-      while (from < choice.count &&
-             !program.targets[choice.first + from].firstSet.allows(text, position, sets))
-        ++from;
-      return from;
-    };
-    which = nextAllowed(which);
-    if (which == choice.count) return false;
-    const std::uint32_t later = nextAllowed(which + 1);
-    steps_ += later - which;
-    if (later < choice.count) push(index, position, later);
-    instruction = program.targets[choice.first + which].instruction;
-    return true;
-  };
-  const auto leaveLoop = [&](std::uint32_t index, std::size_t at) {
-    if (remembering_) push(index | afterLoopFailed, at, at);
-    instruction = index + 1;
-    position = at;
-  };
-  const auto mayLeaveLoop = [&](std::uint32_t index, std::size_t at) {
-    const auto& loop = program.code[index];
-    ++steps_;
-    return program.firstSets[loop.first].allows(text, at, sets) &&
-           !(remembering_ && known(loop.memo + 1, at) == Known::fails);
-  };
-  // A greedy loop leaves at the last place between the two from which the rest may match.
-  const auto leaveFromLast = [&](std::uint32_t index, std::size_t low, std::size_t high) {
-    for (std::size_t at = high;; --at) {
-      if (mayLeaveLoop(index, at)) {
-        if (at > low) push(index, at - 1, low);
-        leaveLoop(index, at);
-        return true;
-      }
-      if (at == low) return false;
-    }
-  };
-  // A lazy loop leaves at the first such place.
-  const auto leaveFromFirst = [&](std::uint32_t index, std::size_t at, std::uint32_t rest) {
-    const auto& loop = program.code[index];
-    while (!mayLeaveLoop(index, at)) {
-      if (rest == 0 || !loopTakes(loop, at, stack)) return false;
-      ++at;
-      if (rest != unbounded) --rest;
-      if (remembering_ && rest == unbounded && known(loop.memo, at) == Known::fails) return false;
-    }
-    push(index, at, rest);
-    leaveLoop(index, at);
-    return true;
-  };
-
-  for (;;) {
-    if (++steps_ > allowance && program.memoRows > 0) remembering_ = true;
-    const auto& current = program.code[instruction];
-    bool advanced = true;
-    switch (current.operation) {
-      case Operation::accept:
-        if (remembering_ && purpose == Purpose::lookAhead)
-          rememberPath(std::span(stack).subspan(base));
-        stack.resize(base);
-        return position;
-      case Operation::set:
-        advanced = sets.contains(current.set, text.classAt(position));
-        ++position;
-        ++instruction;
-        break;
-      case Operation::foldedText: {
-        const auto end = foldedTextEnd(current, position);
-        steps_ += current.count;
-        advanced = end.has_value();
-        position = end.value_or(position);
-        ++instruction;
-        break;
-      }
-      case Operation::jump:
-        instruction = current.first;
-        break;
-      case Operation::wordBoundary:
-      case Operation::noWordBoundary:
-        advanced = text.isWordBoundary(position) == (current.operation == Operation::wordBoundary);
-        ++instruction;
-        break;
-      case Operation::textStart:
-        advanced = position == 0;
-        ++instruction;
-        break;
-      case Operation::textEnd:
-        advanced = atTextEnd(position);
-        ++instruction;
-        break;
-      case Operation::absoluteEnd:
-        advanced = position == text.size();
-        ++instruction;
-        break;
-      case Operation::lookAhead:
-      case Operation::negativeLookAhead:
-        advanced = looksAhead(instruction + 1, position, stack) ==
-                   (current.operation == Operation::lookAhead);
-        instruction = current.first;
-        break;
-      case Operation::precededBy:
-      case Operation::notPrecededBy:
-        advanced = (position > 0 && sets.contains(current.set, text.classAt(position - 1))) ==
-                   (current.operation == Operation::precededBy);
-        ++instruction;
-        break;
-      case Operation::precededByWord:
-        advanced = isPrecededByWord(current, position);
-        ++instruction;
-        break;
-      case Operation::choice:
-      case Operation::greedyLoop:
-      case Operation::lazyLoop: {
-        const std::uint32_t index = instruction;
-        const bool isLoop = current.operation != Operation::choice;
-        const bool isEndless = isLoop && current.max == Instruction::endless;
-        const bool remembers = remembering_;  // an exception of the loop may begin to
-        if (remembers) {
-          const Known outcome = known(current.memo, position);
-          if (outcome == Known::succeeds) {
-            stack.resize(base);
-            return position;
-          }
-          if (outcome == Known::fails) {
-            advanced = false;
-            break;
-          }
-          push(index | instructionFailed, position, position);
-        }
-        if (!isLoop) {
-          advanced = choose(index, 0);
-          break;
-        }
-        if (current.operation == Operation::lazyLoop) {
-          advanced = leaveFromFirst(index, position, isEndless ? unbounded : current.max);
-          break;
-        }
-        const std::size_t low = position + current.count;
-        std::size_t high = position;
-        const std::size_t limit = isEndless ? text.size() : position + current.max;
-        bool failsFromHigh = false;
-        while (high < limit && loopTakes(current, high, stack)) {
-          ++high;
-          if (remembers && isEndless && known(current.memo, high) == Known::fails) {
-            failsFromHigh = true;
-            break;
-          }
-        }
-        steps_ += high - position;
-        if (failsFromHigh) --high;
-        if (remembers && isEndless) stack.back().rest = static_cast<std::uint32_t>(high);
-        advanced = high >= low && leaveFromLast(index, low, high);
-        break;
-      }
-    }
-    while (!advanced) {
-      if (stack.size() == base) return std::nullopt;
-      const BacktrackFrame frame = stack.back();
-      stack.pop_back();
-      ++steps_;
-      const std::uint32_t index = frame.instruction & ~marks;
-      const auto& tried = program.code[index];
-      if ((frame.instruction & afterLoopFailed) != 0) {
-        remember(tried.memo + 1, frame.position, Known::fails);
-        continue;
-      }
-      if ((frame.instruction & instructionFailed) != 0) {
-        remember(tried.memo, frame.position, Known::fails);
-        if (tried.max == Instruction::endless) rememberRestOfRun(tried, frame, stack);
-        continue;
-      }
-      position = frame.position;
-      if (tried.operation == Operation::choice) {
-        advanced = choose(index, frame.rest);
-      } else if (tried.operation == Operation::greedyLoop) {
-        advanced = leaveFromLast(index, frame.rest, frame.position);
-      } else if (frame.rest > 0 && loopTakes(tried, position, stack)) {
-        const std::uint32_t rest = frame.rest == unbounded ? unbounded : frame.rest - 1;
-        advanced = leaveFromFirst(index, position + 1, rest);
-      }
-    }
-  }
-}
-
-std::optional<std::size_t> Matcher::foldedTextEnd(const Instruction& instruction,
-                                                  std::size_t position) const {
-  const Letter* letter = program_->letters.data() + instruction.first;
-  const Letter* const end = letter + instruction.count;
-  while (letter != end) {
-    for (const Letter folded : classes_->folding(text_->classAt(position))) {
-      if (letter == end || *letter != folded) return std::nullopt;
-      ++letter;
-    }
-    ++position;
-  }
-  return position;
-}
-
-// Before a line terminator at the end, and never between CR and LF (RegexMatcher, URX_DOLLAR).
-bool Matcher::atTextEnd(std::size_t position) const {
-  const std::size_t size = text_->size();
-  if (position == size) return true;
-  const auto isLineFeed = [&](std::size_t at) { return classes_->isLineFeed(text_->classAt(at)); };
-  const auto isCarriageReturn = [&](std::size_t at) {
-    return classes_->isCarriageReturn(text_->classAt(at));
-  };
-  if (position + 1 == size && classes_->isLineTerminator(text_->classAt(position)))
-    return !(position > 0 && isLineFeed(position) && isCarriageReturn(position - 1));
-  return position + 2 == size && isCarriageReturn(position) && isLineFeed(position + 1);
-}
-
-std::size_t Matcher::pageOf(std::uint32_t row, std::size_t position) const {
-  return position / pagePositions * program_->memoRows + row;
-}
-
-Matcher::Known Matcher::known(std::uint32_t row, std::size_t position) const {
-  const std::size_t page = pageOf(row, position);
-  if (page >= pages_.size() || !pages_[page]) return Known::nothing;
-  const std::size_t bit = position % pagePositions;
-  if (hasBit(pages_[page], bit)) return Known::fails;
-  return hasBit(pages_[page], bit + pagePositions) ? Known::succeeds : Known::nothing;
-}
-
-void Matcher::remember(std::uint32_t row, std::size_t position, Known what) {
-  const std::size_t page = pageOf(row, position);
-  if (page >= pages_.size()) pages_.resize(page + 1);
-  if (!pages_[page]) pages_[page] = std::make_unique<std::uint64_t[]>(2 * pagePositions / 64);
-  const std::size_t bit = position % pagePositions + (what == Known::succeeds ? pagePositions : 0);
-  setBit(pages_[page], bit);
-}
-
-/// What stands on the stack when a look-ahead has succeeded is the path that led there.
-void Matcher::rememberPath(std::span<const BacktrackFrame> path) {
-  for (const BacktrackFrame& frame : path) {
-    if ((frame.instruction & marks) == 0) continue;
-    const std::uint32_t memo = program_->code[frame.instruction & ~marks].memo;
-    const bool afterLoop = (frame.instruction & afterLoopFailed) != 0;
-    remember(memo + (afterLoop ? 1 : 0), frame.position, Known::succeeds);
-  }
-}
-
-/// An endless loop that fails somewhere fails from the rest of the same run, too.
-void Matcher::rememberRestOfRun(const Instruction& loop, const BacktrackFrame& frame,
-                                BacktrackStack& stack) {
-  if (loop.operation == Operation::greedyLoop) {
-    for (std::size_t at = frame.position + 1; at <= frame.rest; ++at)
-      remember(loop.memo, at, Known::fails);
-  } else if (loop.operation == Operation::lazyLoop) {
-    for (std::size_t at = frame.position;
-         loopTakes(loop, at, stack) && known(loop.memo, at + 1) != Known::fails; ++at)
-      remember(loop.memo, at + 1, Known::fails);
-  }
-}
-
-// Only speed depends on what is remembered, and starts go back by a few sentences at most.
-void Matcher::forgetBefore(std::size_t position) {
-  const std::size_t before = std::max(position, pagePositions) - pagePositions;
-  for (const std::size_t end = pageOf(0, before); firstPage_ < std::min(end, pages_.size());
-       ++firstPage_)
-    pages_[firstPage_].reset();
+  if (state_.isMemoizing) state_.memo.freeBefore(start);
+  return Backtracker(state_, stack, Backtracker::Purpose::match).run(entry.instruction, start);
 }
 
 }  // namespace quillseal::screening

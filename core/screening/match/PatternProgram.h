@@ -2,12 +2,11 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <optional>
-#include <span>
 #include <vector>
 
 #include "core/screening/match/CharacterClasses.h"
+#include "core/screening/match/Memo.h"
 #include "core/screening/match/StoredTables.h"
 
 namespace quillseal::screening {
@@ -53,7 +52,7 @@ struct Instruction {
   Operation operation;
   std::uint16_t count = 0;  ///< of letters or targets; for a loop the least number of iterations
   std::uint16_t max = 0;
-  std::uint16_t memo = 0;  ///< row in the memory of failures
+  std::uint16_t memo = 0;  ///< first row in the memo table
   ClassSetId set = 0;
   std::uint16_t first = 0;  ///< for a loop: what follows it begins with, in `firstSets`
   /// For a loop: which of `exceptions`, counted from 1, takes code points that are not of `set`.
@@ -78,7 +77,7 @@ struct PatternProgram {
   Array<ProgramEntry> entries;  ///< the whole, then the alternatives that it is a choice of
   /// Programs that match one code point where its neighbours allow it.
   Array<ProgramEntry> exceptions;
-  std::uint16_t memoRows = 0;  ///< of the memory of failures
+  std::uint16_t memoRows = 0;  ///< rows of the memo table
 
   void transfer(auto& archive) {
     archive(code, letters, targets, firstSets, entries, exceptions, memoRows);
@@ -102,15 +101,26 @@ struct BacktrackFrame {
 /// Shared by the matchers of one screening; each leaves it as it was.
 using BacktrackStack = std::vector<BacktrackFrame>;
 
-/// Runs one program over one text. Tries alternatives in order and goes back on failure, as ICU
-/// does; once it has taken more steps than a text of this size should need, it remembers which
-/// (instruction, position) cannot lead to a match, so that no text takes more than linear time.
+/// What the runs of one program over one text share.
+struct MatcherState {
+  const PatternProgram<Stored>& program;
+  const CharacterClasses& classes;
+  const ClassSets& sets;
+  const ClassifiedText& text;
+  std::uint64_t stepsBeforeMemo;
+  Memo memo;
+  std::uint64_t steps = 0;
+  bool isMemoizing = false;
+};
+
+/// Runs one program over one text. Tries alternatives in order and backtracks on failure, as ICU
+/// does; once it has taken more steps than most searches need, it memoizes which (instruction,
+/// position) cannot lead to a match, so that no text takes more than linear time.
 class Matcher {
  public:
   /// All four must outlive the matcher.
   Matcher(const PatternProgram<Stored>& program, const CharacterClasses& classes,
-          const ClassSets& sets, const ClassifiedText& text)
-      : program_(&program), classes_(&classes), sets_(&sets), text_(&text) {}
+          const ClassSets& sets, const ClassifiedText& text);
 
   /// Where the preferred match that starts at `start` ends, if there is one; `entry` belongs to the
   /// program. Cheapest when called with mostly ascending starts.
@@ -118,42 +128,10 @@ class Matcher {
                                                    BacktrackStack& stack);
 
   /// Steps taken so far.
-  [[nodiscard]] std::uint64_t steps() const { return steps_; }
+  [[nodiscard]] std::uint64_t steps() const { return state_.steps; }
 
  private:
-  enum class Purpose : std::uint8_t { match, lookAhead };
-  enum class Known : std::uint8_t { nothing, fails, succeeds };
-  /// Of one row: a bit for each position that fails, then one for each that succeeds.
-  using Page = std::unique_ptr<std::uint64_t[]>;
-
-  std::optional<std::size_t> run(std::uint32_t instruction, std::size_t position, Purpose purpose,
-                                 BacktrackStack& stack);
-  [[nodiscard]] bool looksAhead(std::uint32_t instruction, std::size_t position,
-                                BacktrackStack& stack);
-  /// Whether an iteration of the loop takes the code point at `position`.
-  [[nodiscard]] bool loopTakes(const Instruction& loop, std::size_t position,
-                               BacktrackStack& stack);
-  [[nodiscard]] bool isPrecededByWord(const Instruction& instruction, std::size_t position) const;
-  [[nodiscard]] std::optional<std::size_t> foldedTextEnd(const Instruction& instruction,
-                                                         std::size_t position) const;
-  [[nodiscard]] bool atTextEnd(std::size_t position) const;
-  [[nodiscard]] std::size_t pageOf(std::uint32_t row, std::size_t position) const;
-  [[nodiscard]] Known known(std::uint32_t row, std::size_t position) const;
-  void remember(std::uint32_t row, std::size_t position, Known what);
-  void rememberPath(std::span<const BacktrackFrame> path);
-  /// `frame`: met when everything that the loop led to from there has failed.
-  void rememberRestOfRun(const Instruction& loop, const BacktrackFrame& frame,
-                         BacktrackStack& stack);
-  void forgetBefore(std::size_t position);
-
-  const PatternProgram<Stored>* program_;
-  const CharacterClasses* classes_;
-  const ClassSets* sets_;
-  const ClassifiedText* text_;
-  std::uint64_t steps_ = 0;
-  bool remembering_ = false;
-  std::size_t firstPage_ = 0;
-  std::vector<Page> pages_;  ///< by positions, then by row
+  MatcherState state_;
 };
 
 }  // namespace quillseal::screening

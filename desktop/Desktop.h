@@ -18,6 +18,7 @@
 #include "desktop/StatusItem.h"
 #include "desktop/WallClock.h"
 #include "desktop/Window.h"
+#include "desktop/Wording.h"
 
 namespace quillseal::desktop {
 
@@ -43,6 +44,7 @@ struct Desktop {
   StatusItem& statusItem;
   WallClock& wallClock;
   Windows& windows;
+  Words& words;
 };
 
 }  // namespace quillseal::desktop

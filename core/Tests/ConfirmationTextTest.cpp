@@ -32,7 +32,8 @@ TEST(ConfirmationText, TellsWhatIsSigned) {
   EXPECT_EQ(confirmationText({.text = "I owe <Ada> & \"Bob\" 5 €.",
                               .scope = "Email Message (Mail)",
                               .issued = "2025-01-30",
-                              .identity = "Ada Lovelace"}),
+                              .identity = "Ada Lovelace",
+                              .proof = "fingerprint"}),
             "You are about to cryptographically authorize the following text with your "
             "fingerprint.\n\nI owe <Ada> & \"Bob\" 5 €.\n\nContext: Email Message (Mail)\nDate: "
             "2025-01-30\nSigning as: Ada Lovelace\n\nOnly the text above is covered. Anything "
@@ -41,8 +42,8 @@ TEST(ConfirmationText, TellsWhatIsSigned) {
 
 TEST(ConfirmationText, CutsLongTextsByCharacters) {
   const auto shown = [](const std::string& text) {
-    const std::string whole =
-        confirmationText({.text = text, .scope = "", .issued = "", .identity = "", .isDemo = true});
+    const std::string whole = confirmationText(
+        {.text = text, .scope = "", .issued = "", .identity = "", .proof = "", .isDemo = true});
     const std::size_t start = whole.find("\n\n") + 2;
     return whole.substr(start, whole.find("\n\nContext: \nDate: \nSigning as: anonymous human (no "
                                           "verified identity)\n\nOnly") -

@@ -33,9 +33,8 @@ std::string promptSubject(std::string_view text) {
 }
 
 std::string confirmationText(const ConfirmationFields& fields) {
-  std::string text =
-      "You are about to cryptographically authorize the following text with your fingerprint.\n\n";
-  text += shownText(fields.text);
+  std::string text = "You are about to cryptographically authorize the following text with your ";
+  text.append(fields.proof).append(".\n\n").append(shownText(fields.text));
   text.append("\n\nContext: ").append(fields.scope);
   text.append("\nDate: ").append(fields.issued);
   text.append("\nSigning as: ")

@@ -14,6 +14,7 @@ struct ConfirmationFields {
   std::string_view scope;
   std::string_view issued;
   std::string_view identity;  ///< empty when none is bound to this machine
+  std::string_view proof;     ///< what the person signs with, such as "fingerprint"
   bool isDemo = false;
 };
 

@@ -137,6 +137,7 @@ Json confirmOperation(const Request& request) {
                                             .scope = scope,
                                             .issued = issued,
                                             .identity = identity,
+                                            .proof = "fingerprint",
                                             .isDemo = request.boolean("demo")})}};
 }
 

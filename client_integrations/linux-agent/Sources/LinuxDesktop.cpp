@@ -12,8 +12,8 @@
 #include "network/HttpModule.h"
 #include "network/LoadedTransport.h"
 #include "presence/LinuxPresence.h"
+#include "session/LinuxWording.h"
 #include "session/LoadedModule.h"
-#include "session/PlatformWording.h"
 #include "session/QtDefaults.h"
 #include "session/QtDescriptors.h"
 #include "session/QtFiles.h"
@@ -53,6 +53,21 @@ std::unique_ptr<WindowingSystem> chosen(std::unique_ptr<WaylandConnection> wayla
   return std::make_unique<X11System>(services);
 }
 
+/// By the key there is now, or would be made.
+class LinuxWords final : public desktop::Words {
+ public:
+  LinuxWords(const LinuxKeyStore& keyStore, const desktop::Defaults& defaults)
+      : keyStore_(keyStore), defaults_(defaults) {}
+
+  [[nodiscard]] desktop::Wording current() const override {
+    return linuxWording({.key = keyStore_.place(), .isDemo = defaults_.boolean("DemoSigning")});
+  }
+
+ private:
+  const LinuxKeyStore& keyStore_;
+  const desktop::Defaults& defaults_;
+};
+
 }  // namespace
 
 // Members are destroyed from the last to the first.
@@ -68,9 +83,8 @@ struct LinuxDesktop::Parts {
                                            .explain = [this] { warn(system->limits()); }})),
         secretPrompt(loop, system->ownWindows()),
         keyStore(makeKeyStore({.folder = keyFolder(), .tpm = commandLine.tpm}, secretPrompt)),
-        alerts(system->ownWindows(), circumstances()),
-        windows(system->ownWindows(), circumstances()),
-        statusItem(circumstances()),
+        alerts(system->ownWindows()),
+        windows(system->ownWindows()),
         presencePrompt(system->ownWindows()),
         presence(loop, presencePrompt),
         defaults({.path = QtDefaults::settingsFile(),
@@ -78,7 +92,8 @@ struct LinuxDesktop::Parts {
         http(loop, descriptors,
              LoadedModule(moduleOptions(HttpModule::fileName, "talks to the server"))),
         program(system->ownWindows()),
-        browserTabs({.loop = loop, .descriptors = descriptors, .log = log}) {
+        browserTabs({.loop = loop, .descriptors = descriptors, .log = log}),
+        words(*keyStore, defaults) {
     log.write("[start] " + keyStore->describe());
     const std::string limits = system->limits();
     if (limits.empty()) return;
@@ -101,14 +116,6 @@ struct LinuxDesktop::Parts {
 
   Parts(const Parts&) = delete;
   Parts& operator=(const Parts&) = delete;
-
-  [[nodiscard]] PlatformWording::CurrentCircumstances circumstances() {
-    return [this] {
-      auto now = PlatformWording::withKeyIn(keyStore->place());
-      if (defaults.boolean("DemoSigning")) now.proof = PlatformWording::Proof::presence;
-      return now;
-    };
-  }
 
   void warn(const std::string& sentence) {
     log.write("[start] " + sentence);
@@ -133,6 +140,7 @@ struct LinuxDesktop::Parts {
   QtProgram program;
   QtFiles files;
   LinuxBrowserTabs browserTabs;
+  LinuxWords words;
   SystemMachineIdentity machine;
   SystemWallClock wallClock;
 };
@@ -161,7 +169,8 @@ desktop::Desktop LinuxDesktop::services() {
           .program = parts_->program,
           .statusItem = parts_->statusItem,
           .wallClock = parts_->wallClock,
-          .windows = parts_->windows};
+          .windows = parts_->windows,
+          .words = parts_->words};
 }
 
 }  // namespace quillseal

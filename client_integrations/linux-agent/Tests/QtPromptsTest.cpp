@@ -197,9 +197,9 @@ TEST_F(QtPromptsTest, TheMenuOfTheShieldIsShownAsItIsDescribed) {
                     .keyModifiers = Modifiers::command,
                     .action = [&chosen, title] { chosen.emplace_back(title); }};
   };
-  MenuItem sign = item(MenuItem::Kind::action, "Sign Selected Text (⌘⌥⌃H)", "h");
+  MenuItem sign = item(MenuItem::Kind::action, "Sign Selected Text (Ctrl+Alt+Super+H)", "h");
   sign.keyModifiers = Modifiers::command | Modifiers::option | Modifiers::control;
-  TrayStatusItem tray([] { return PlatformWording::withKeyIn(KeyPlace::tpm); });
+  TrayStatusItem tray;
   tray.show({.symbol = "shield.fill",
              .symbolDescription = "Quill Seal",
              .title = " 🛡️ Quillseal",
@@ -225,7 +225,7 @@ TEST_F(QtPromptsTest, TheMenuOfTheShieldIsShownAsItIsDescribed) {
   EXPECT_THAT(lines, ElementsAre("Sign Selected Text (Ctrl+Alt+Super+H) []", "---",
                                  "Server: https://b.example/?x&&y [] disabled",
                                  "Quit Quill Seal [Ctrl+Q]"));
-  EXPECT_THAT(chosen, ElementsAre("Sign Selected Text (⌘⌥⌃H)", "Quit Quill Seal"));
+  EXPECT_THAT(chosen, ElementsAre("Sign Selected Text (Ctrl+Alt+Super+H)", "Quit Quill Seal"));
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "MacDesktop/MacWords.h"
+
 namespace quillseal::testing {
 namespace {
 
@@ -29,10 +31,31 @@ class FakeKey final : public desktop::DeviceKey {
   std::optional<desktop::Prompt> prompt_;
 };
 
+std::string textOf(const desktop::FormText& text) {
+  return text.text;
+}
+
+std::string textOf(const desktop::FormStatus& status) {
+  return status.text.text;
+}
+
+template <typename Labelled>
+std::string textOf(const Labelled& row) {
+  return row.label;
+}
+
 class FakeWindow final : public desktop::Window {
  public:
   explicit FakeWindow(FakeDesktop& desktop) : desktop_(desktop) {}
-  void render(const desktop::Form& form) override { desktop_.form = form; }
+  void render(const desktop::Form& form) override {
+    desktop_.form = form;
+    for (const desktop::FormSection& section : form.sections) {
+      desktop_.shown += section.header + '\n';
+      for (const auto& row : section.rows)
+        desktop_.shown +=
+            std::visit([](const auto& content) { return textOf(content); }, row) + '\n';
+    }
+  }
   void bringToFront() override { desktop_.trace.emplace_back("window to front"); }
 
  private:
@@ -45,7 +68,7 @@ std::string pathOf(const std::string& url) {
 
 }  // namespace
 
-FakeDesktop::FakeDesktop() {
+FakeDesktop::FakeDesktop() : wording(mac::MacWords().current()) {
   answers["/api/register_native"] = {{200, R"({"status":"ok","device_id":"d","identity":"Ada"})"}};
   answers["/api/sign_native"] = {{200, R"({"signature_id":"sig-1"})"}};
   answers["/api/sign_demo"] = {{200, R"({"signature_id":"demo-1","demo":true})"}};
@@ -73,7 +96,8 @@ desktop::Desktop FakeDesktop::services() {
           .program = *this,
           .statusItem = *this,
           .wallClock = *this,
-          .windows = *this};
+          .windows = *this,
+          .words = *this};
 }
 
 std::vector<std::string> FakeDesktop::userTrace() const {
@@ -108,6 +132,7 @@ desktop::Ticket FakeDesktop::finish(std::function<void()> completion) {
 
 desktop::Ticket FakeDesktop::show(const desktop::Alert& alert, std::function<void()> dismissed) {
   mayFail("alert");
+  shown += alert.title + "\n" + alert.body + "\n";
   trace.push_back("alert: " + alert.title + " | " + alert.body);
   if (leavesDialogsOpen) return {};
   return finish(std::move(dismissed));
@@ -116,6 +141,8 @@ desktop::Ticket FakeDesktop::show(const desktop::Alert& alert, std::function<voi
 desktop::Ticket FakeDesktop::ask(const desktop::Question& question,
                                  std::function<void(desktop::Answer)> answered) {
   mayFail("ask");
+  shown += question.title + "\n" + question.body + "\n" + question.confirm + "\n" +
+           question.cancel + "\n";
   trace.push_back("ask: " + question.title + " | " + question.body + " [" + question.confirm +
                   "] [" + question.cancel + "]");
   if (leavesDialogsOpen) return {};
@@ -123,17 +150,20 @@ desktop::Ticket FakeDesktop::ask(const desktop::Question& question,
 }
 
 desktop::Ticket FakeDesktop::confirm(
-    const desktop::ConfirmationForm& shown,
+    const desktop::ConfirmationForm& asked,
     std::function<void(std::optional<desktop::ConfirmationEntry>)> answered) {
   mayFail("confirm");
-  trace.push_back("confirm: " + shown.question.title + " [" + shown.question.confirm + "] [" +
-                  shown.question.cancel + "], preset " + shown.choices.at(shown.selectedChoice));
+  shown += asked.question.title + "\n" + asked.question.body + "\n" + asked.question.confirm +
+           "\n" + asked.question.cancel + "\n" + asked.fieldPlaceholder + "\n" + asked.note + "\n";
+  trace.push_back("confirm: " + asked.question.title + " [" + asked.question.confirm + "] [" +
+                  asked.question.cancel + "], preset " + asked.choices.at(asked.selectedChoice));
   if (leavesDialogsOpen) return {};
   return finish([this, answered = std::move(answered)] { answered(confirmation); });
 }
 
 void FakeDesktop::notify(const desktop::Notification& notification) {
   mayFail("notify");
+  shown += notification.title + "\n" + notification.body + "\n";
   trace.push_back("notify: " + notification.title + " | " + notification.body);
 }
 
@@ -222,9 +252,11 @@ void FakeDesktop::registerHotkey(desktop::KeyPress combination, std::function<vo
   hotkeyPressed = std::move(pressed);
 }
 
-void FakeDesktop::show(const desktop::StatusMenu& shown) {
+void FakeDesktop::show(const desktop::StatusMenu& description) {
   trace.emplace_back("menu");
-  menu = shown;
+  menu = description;
+  for (const desktop::MenuItem& item : description.items)
+    shown += item.title + "\n";
 }
 
 void FakeDesktop::setItemTitle(std::size_t index, const std::string& title) {
@@ -232,6 +264,7 @@ void FakeDesktop::setItemTitle(std::size_t index, const std::string& title) {
 }
 
 std::unique_ptr<desktop::Window> FakeDesktop::make(const desktop::WindowDescription& description) {
+  shown += description.title + "\n";
   trace.push_back("window " + description.title);
   return std::make_unique<FakeWindow>(*this);
 }

@@ -37,7 +37,8 @@ class FakeDesktop final : public desktop::Alerts,
                           public desktop::ScriptRunner,
                           public desktop::StatusItem,
                           public desktop::WallClock,
-                          public desktop::Windows {
+                          public desktop::Windows,
+                          public desktop::Words {
  public:
   FakeDesktop();
 
@@ -124,6 +125,11 @@ class FakeDesktop final : public desktop::Alerts,
   int activities = 0;  ///< begun and not ended
   std::string clipboardObstacle, keyObstacle;
 
+  desktop::Wording wording;  ///< as on macOS
+
+  /// Every text that was put before the person, between line feeds.
+  std::string shown = "\n";
+
   // What was registered.
   std::function<void()> hotkeyPressed;
   std::optional<Error> hotkeyFailure;
@@ -158,7 +164,7 @@ class FakeDesktop final : public desktop::Alerts,
   void setString(std::string_view key, std::string_view value) override;
   desktop::Ticket observe(std::function<void()> changed) override;
 
-  // Files, Hotkey, Log, MachineIdentity, Program, StatusItem, WallClock, Windows
+  // Files, Hotkey, Log, MachineIdentity, Program, StatusItem, WallClock, Windows, Words
   std::string homeDirectory() const override { return "/home/ada"; }
   bool replace(const std::string& path, std::string_view contents) override;
   void registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) override;
@@ -169,11 +175,13 @@ class FakeDesktop final : public desktop::Alerts,
   void showAbout() override { trace.emplace_back("about"); }
   void terminate() override { trace.emplace_back("terminate"); }
   desktop::Ticket beginActivity(const std::string& reason) override;
-  void show(const desktop::StatusMenu& shown) override;
+  void show(const desktop::StatusMenu& description) override;
   void setItemTitle(std::size_t index, const std::string& title) override;
   std::string today() const override { return date; }
   desktop::TimeZone timeZone() const override { return zone; }
   std::unique_ptr<desktop::Window> make(const desktop::WindowDescription& description) override;
+
+  desktop::Wording current() const override { return wording; }
 
   // HttpTransport
   desktop::Ticket send(const desktop::HttpPost& post,

@@ -34,7 +34,7 @@ const std::string digest = "00ff10a0" + std::string(56, '3');
 class SecureEnclaveManagerTest : public ::testing::Test {
  protected:
   [[nodiscard]] SecureEnclaveManager::Services services() {
-    return {.keyStore = desktop_, .log = desktop_, .loop = desktop_.loop};
+    return {.keyStore = desktop_, .log = desktop_, .loop = desktop_.loop, .words = desktop_};
   }
 
   Outcome<SecureEnclaveManager::Key> create() {

@@ -67,10 +67,12 @@ class SettingsViewTest : public ::testing::Test {
   SettingsViewTest() { desktop_.hasKey = false; }
 
   void open(Build build = Build::packaged) {
-    view_ = std::make_unique<SettingsView>(
-        SettingsView::Services{
-            .defaults = desktop_, .keyStore = desktop_, .log = desktop_, .loop = desktop_.loop},
-        coordinator_, *window_, build);
+    view_ = std::make_unique<SettingsView>(SettingsView::Services{.defaults = desktop_,
+                                                                  .keyStore = desktop_,
+                                                                  .log = desktop_,
+                                                                  .loop = desktop_.loop,
+                                                                  .words = desktop_},
+                                           coordinator_, *window_, build);
     desktop_.loop.run();
   }
 
@@ -232,9 +234,12 @@ TEST_F(SettingsViewTest, ShowsWhatAFailedEnrolmentLeft) {
     c.given(desktop);
     SigningCoordinator coordinator(desktop.services());
     const auto window = desktop.make({.title = "Settings", .width = 440, .height = 200});
-    SettingsView view(
-        {.defaults = desktop, .keyStore = desktop, .log = desktop, .loop = desktop.loop},
-        coordinator, *window, Build::packaged);
+    SettingsView view({.defaults = desktop,
+                       .keyStore = desktop,
+                       .log = desktop,
+                       .loop = desktop.loop,
+                       .words = desktop},
+                      coordinator, *window, Build::packaged);
     desktop.loop.run();
     const auto row = [&](std::size_t index) { return desktop.form.sections.at(1).rows.at(index); };
     for (int press = 1; press <= 2; ++press) {

@@ -36,8 +36,7 @@ QString escaped(const std::string& text) {
 
 }  // namespace
 
-desktop::Ticket QtAlerts::show(const desktop::Alert& original, std::function<void()> dismissed) {
-  const desktop::Alert alert = PlatformWording::adapted(original, circumstances_());
+desktop::Ticket QtAlerts::show(const desktop::Alert& alert, std::function<void()> dismissed) {
   auto dialog = std::make_unique<MessageDialog>(MessageDialog::Look{
       .picture = pictureOf(alert.style), .title = alert.title, .text = alert.body});
   dialog->addButton("OK", QDialogButtonBox::AcceptRole).setFocus();
@@ -45,9 +44,8 @@ desktop::Ticket QtAlerts::show(const desktop::Alert& original, std::function<voi
                              [dismissed = std::move(dismissed)](bool) { dismissed(); });
 }
 
-desktop::Ticket QtAlerts::ask(const desktop::Question& original,
+desktop::Ticket QtAlerts::ask(const desktop::Question& question,
                               std::function<void(desktop::Answer)> answered) {
-  const desktop::Question question = PlatformWording::adapted(original, circumstances_());
   return MessageDialog::open(
       questionDialog(question, pictureOf(question.style)), windows_,
       [answered = std::move(answered)](bool confirmed) {
@@ -56,9 +54,8 @@ desktop::Ticket QtAlerts::ask(const desktop::Question& original,
 }
 
 desktop::Ticket QtAlerts::confirm(
-    const desktop::ConfirmationForm& original,
+    const desktop::ConfirmationForm& form,
     std::function<void(std::optional<desktop::ConfirmationEntry>)> answered) {
-  const desktop::ConfirmationForm form = PlatformWording::adapted(original, circumstances_());
   auto dialog = questionDialog(form.question, MessageDialog::Picture::product);
 
   auto* choice = new QComboBox;

@@ -1,9 +1,6 @@
 #pragma once
 
-#include <utility>
-
 #include "desktop/Alerts.h"
-#include "session/PlatformWording.h"
 #include "windows/OwnWindows.h"
 
 namespace quillseal {
@@ -11,21 +8,19 @@ namespace quillseal {
 /// Alerts as dialogs of Qt, notifications through the session's notification service.
 class QtAlerts : public desktop::Alerts {
  public:
-  QtAlerts(const OwnWindows& windows, PlatformWording::CurrentCircumstances circumstances)
-      : windows_(windows), circumstances_(std::move(circumstances)) {}
+  explicit QtAlerts(const OwnWindows& windows) : windows_(windows) {}
 
-  [[nodiscard]] desktop::Ticket show(const desktop::Alert& original,
+  [[nodiscard]] desktop::Ticket show(const desktop::Alert& alert,
                                      std::function<void()> dismissed) override;
-  [[nodiscard]] desktop::Ticket ask(const desktop::Question& original,
+  [[nodiscard]] desktop::Ticket ask(const desktop::Question& question,
                                     std::function<void(desktop::Answer)> answered) override;
   [[nodiscard]] desktop::Ticket confirm(
-      const desktop::ConfirmationForm& original,
+      const desktop::ConfirmationForm& form,
       std::function<void(std::optional<desktop::ConfirmationEntry>)> answered) override;
   void notify(const desktop::Notification& notification) override;
 
  private:
   const OwnWindows& windows_;
-  PlatformWording::CurrentCircumstances circumstances_;
 };
 
 }  // namespace quillseal

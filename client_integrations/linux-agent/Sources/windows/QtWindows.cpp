@@ -27,7 +27,6 @@ using desktop::FormStatus;
 using desktop::FormText;
 using desktop::TextColour;
 using desktop::TextFont;
-using PlatformWording::CurrentCircumstances;
 
 constexpr auto green = "#15803d";
 constexpr auto orange = "#b45309";
@@ -206,9 +205,8 @@ class FormWidget : public QWidget {
 
 class FormWindow : public desktop::Window {
  public:
-  FormWindow(const desktop::WindowDescription& description, const OwnWindows& windows,
-             CurrentCircumstances circumstances)
-      : windows_(windows), circumstances_(std::move(circumstances)), form_(new FormWidget) {
+  FormWindow(const desktop::WindowDescription& description, const OwnWindows& windows)
+      : windows_(windows), form_(new FormWidget) {
     window_.setWindowTitle(toQString(description.title));
     window_.resize(description.width, description.height);
     window_.setFrameShape(QFrame::NoFrame);
@@ -217,8 +215,7 @@ class FormWindow : public desktop::Window {
     window_.setWidget(form_);
   }
 
-  void render(const Form& original) override {
-    const Form form = PlatformWording::adapted(original, circumstances_());
+  void render(const Form& form) override {
     form_->render(form);
     if (form.width == width_ && form.height == height_) return;
     width_ = form.width;
@@ -234,7 +231,6 @@ class FormWindow : public desktop::Window {
 
  private:
   const OwnWindows& windows_;
-  CurrentCircumstances circumstances_;
   QScrollArea window_;
   FormWidget* form_;  // owned by the window
   int width_ = 0;
@@ -243,11 +239,8 @@ class FormWindow : public desktop::Window {
 
 }  // namespace
 
-QtWindows::QtWindows(const OwnWindows& windows, CurrentCircumstances circumstances)
-    : windows_(windows), circumstances_(std::move(circumstances)) {}
-
 std::unique_ptr<desktop::Window> QtWindows::make(const desktop::WindowDescription& description) {
-  return std::make_unique<FormWindow>(description, windows_, circumstances_);
+  return std::make_unique<FormWindow>(description, windows_);
 }
 
 }  // namespace quillseal

@@ -25,8 +25,7 @@ QKeySequence shortcutOf(const std::string& combination) {
 
 }  // namespace
 
-TrayStatusItem::TrayStatusItem(PlatformWording::CurrentCircumstances circumstances)
-    : circumstances_(std::move(circumstances)) {
+TrayStatusItem::TrayStatusItem() {
   awaitPanel();
 }
 
@@ -58,8 +57,7 @@ void TrayStatusItem::showIcon() {
   icon_->show();
 }
 
-void TrayStatusItem::show(const desktop::StatusMenu& original) {
-  const desktop::StatusMenu menu = PlatformWording::adapted(original, circumstances_());
+void TrayStatusItem::show(const desktop::StatusMenu& menu) {
   menu_.clear();
   actions_.clear();
   for (const desktop::MenuItem& item : menu.items) {
@@ -82,7 +80,7 @@ void TrayStatusItem::show(const desktop::StatusMenu& original) {
 }
 
 void TrayStatusItem::setItemTitle(std::size_t index, const std::string& title) {
-  actions_.at(index)->setText(menuText(PlatformWording::adapted(title, circumstances_())));
+  actions_.at(index)->setText(menuText(title));
 }
 
 }  // namespace quillseal

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "desktop/StatusItem.h"
-#include "session/PlatformWording.h"
 
 namespace quillseal {
 
@@ -15,16 +14,15 @@ namespace quillseal {
 /// starts, and once that panel answers; some desktops have none.
 class TrayStatusItem : public desktop::StatusItem {
  public:
-  explicit TrayStatusItem(PlatformWording::CurrentCircumstances circumstances);
+  TrayStatusItem();
 
-  void show(const desktop::StatusMenu& original) override;
+  void show(const desktop::StatusMenu& menu) override;
   void setItemTitle(std::size_t index, const std::string& title) override;
 
  private:
   void awaitPanel();
   void showIcon();
 
-  PlatformWording::CurrentCircumstances circumstances_;
   QString toolTip_;
   std::optional<QSystemTrayIcon> icon_;
   QMenu menu_;

@@ -22,6 +22,7 @@
 #include "MacDesktop/MacStatusItem.h"
 #include "MacDesktop/MacWallClock.h"
 #include "MacDesktop/MacWindow.h"
+#include "MacDesktop/MacWords.h"
 #include "Quillseal/AppDelegate.h"
 #include "Quillseal/BrowserTabReturn.h"
 
@@ -67,6 +68,7 @@ class QuillsealApp {
   MacStatusItem statusItem_;
   MacWallClock wallClock_;
   MacWindows windows_;
+  MacWords words_;
   BrowserTabReturn::ScriptedBrowserTabs browserTabs_{scripts_, log_};
   desktop::Desktop desktop_{
       .alerts = alerts_,
@@ -87,6 +89,7 @@ class QuillsealApp {
       .statusItem = statusItem_,
       .wallClock = wallClock_,
       .windows = windows_,
+      .words = words_,
   };
   std::optional<AppDelegate> agent_;
 };

@@ -18,7 +18,8 @@ void MenuBarManager::setupMenu() {
                     .keyModifiers = Modifiers::command,
                     .action = std::move(perform)};
   };
-  MenuItem sign = action("Sign Selected Text (⌘⌥⌃H)", "h", [this] { signText(); });
+  MenuItem sign = action("Sign Selected Text (" + desktop_.words.current().hotkey + ")", "h",
+                         [this] { signText(); });
   sign.keyModifiers = Modifiers::command | Modifiers::option | Modifiers::control;
   const MenuItem separator{.kind = MenuItem::Kind::separator,
                            .title = {},
@@ -57,7 +58,8 @@ void MenuBarManager::configureServer() {
         SettingsView::Services{.defaults = desktop_.defaults,
                                .keyStore = desktop_.keyStore,
                                .log = desktop_.log,
-                               .loop = desktop_.loop},
+                               .loop = desktop_.loop,
+                               .words = desktop_.words},
         coordinator_, *settingsWindow_,
         builtInServer::apiKey().empty() ? SettingsView::Build::development
                                         : SettingsView::Build::packaged);

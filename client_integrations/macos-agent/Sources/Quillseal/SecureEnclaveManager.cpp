@@ -10,29 +10,31 @@
 namespace quillseal {
 namespace {
 
-std::string described(SecureEnclaveError::Case kind, std::string_view message) {
+std::string described(SecureEnclaveError::Case kind, const desktop::Wording& words,
+                      std::string_view message) {
   switch (kind) {
     case SecureEnclaveError::Case::keyGenerationFailed:
-      return std::string("Could not create the Secure Enclave signing key: ").append(message);
+      return "Could not create the " + words.signingKey + ": " + std::string(message);
     case SecureEnclaveError::Case::signingFailed:
-      return std::string("Secure Enclave signing failed: ").append(message);
+      return words.signingFailed + ": " + std::string(message);
     case SecureEnclaveError::Case::unsupported:
-      return "This Mac has no Secure Enclave, so content cannot be signed in a way that proves a "
-             "person authorized it.";
+      return words.keyUnsupported;
     case SecureEnclaveError::Case::keyMissing:
-      return "No Secure Enclave signing key is enrolled. Enrol this Mac in Quillseal Settings.";
+      return "No " + words.signingKey + " is enrolled. Enrol this " + words.machine +
+             " in Quillseal Settings.";
     case SecureEnclaveError::Case::publicKeyExportFailed:
       break;
   }
-  return "Could not export the Secure Enclave public key.";
+  return words.publicKeyFailed;
 }
 
 }  // namespace
 
-SecureEnclaveError::SecureEnclaveError(Case kind, std::string_view message)
+SecureEnclaveError::SecureEnclaveError(Case kind, const desktop::Wording& words,
+                                       std::string_view message)
     : Error({.domain = "Quillseal.SecureEnclaveError",
              .code = static_cast<std::int64_t>(kind),
-             .description = described(kind, message)}),
+             .description = described(kind, words, message)}),
       kind_(kind) {}
 
 namespace SecureEnclaveManager {
@@ -94,15 +96,15 @@ Task<bool> isAvailable(Services services) {
 Task<Key> createKey(Services services) {
   desktop::KeyStore& store = services.keyStore;
   desktop::Log& log = services.log;
-  return offload(services.loop, [&store, &log]() -> Key {
-    if (!store.isAvailable()) throw SecureEnclaveError(Case::unsupported);
+  return offload(services.loop, [&store, &log, words = services.words.current()]() -> Key {
+    if (!store.isAvailable()) throw SecureEnclaveError(Case::unsupported, words);
     try {
       return store.create();
     } catch (const Cancelled&) {
       throw;
     } catch (const Error& error) {
       logFailure(log, "create the key", error);
-      throw SecureEnclaveError(Case::keyGenerationFailed,
+      throw SecureEnclaveError(Case::keyGenerationFailed, words,
                                error.code() == desktop::KeyStore::missingEntitlement
                                    ? missingEntitlementMessage
                                    : wordsOf(error, "unknown error"));
@@ -113,9 +115,9 @@ Task<Key> createKey(Services services) {
 Task<Key> loadKey(Services services) {
   const desktop::KeyStore& store = services.keyStore;
   desktop::Log& log = services.log;
-  return offload(services.loop, [&store, &log]() -> Key {
+  return offload(services.loop, [&store, &log, words = services.words.current()]() -> Key {
     Key key = lookUp(store, log);
-    if (!key) throw SecureEnclaveError(Case::keyMissing);
+    if (!key) throw SecureEnclaveError(Case::keyMissing, words);
     return key;
   });
 }
@@ -127,28 +129,31 @@ Task<bool> hasKey(Services services) {
 }
 
 Task<std::string> exportPublicKey(Services services, Key key) {
-  return offload(services.loop, [key = std::move(key)] {
+  return offload(services.loop, [key = std::move(key), words = services.words.current()] {
     const auto point = key->publicKey();
-    if (!point) throw SecureEnclaveError(Case::publicKeyExportFailed);
+    if (!point) throw SecureEnclaveError(Case::publicKeyExportFailed, words);
     return base64(*point);
   });
 }
 
 Task<std::string> sign(Services services, SigningRequest request) {
   const std::optional<Digest> digest = digestFromHex(request.textHashHex);
-  if (!digest)
-    throw SecureEnclaveError(Case::signingFailed, "content hash is not a 64-char hex digest");
+  desktop::Wording words = services.words.current();
+  if (!digest) {
+    throw SecureEnclaveError(Case::signingFailed, words,
+                             "content hash is not a 64-char hex digest");
+  }
   const desktop::KeyStore& store = services.keyStore;
   desktop::Log& log = services.log;
-  auto work = [&store, &log, digest = *digest, prompt = std::move(request.prompt)] {
+  auto work = [&store, &log, digest = *digest, prompt = std::move(request.prompt),
+               words = std::move(words)] {
     const Key key = lookUp(store, log, prompt);
-    if (!key) throw SecureEnclaveError(Case::keyMissing);
+    if (!key) throw SecureEnclaveError(Case::keyMissing, words);
     try {
       return base64(key->sign(digest));
     } catch (const Error& error) {
       logFailure(log, "sign", error);
-      throw SecureEnclaveError(Case::signingFailed,
-                               wordsOf(error, "user cancelled or biometric failed"));
+      throw SecureEnclaveError(Case::signingFailed, words, wordsOf(error, words.unnamedReason));
     }
   };
   std::string signature = co_await offload(services.loop, std::move(work));

@@ -13,6 +13,7 @@
 #include "desktop/Log.h"
 #include "desktop/MainLoop.h"
 #include "desktop/Prompt.h"
+#include "desktop/Wording.h"
 
 namespace quillseal {
 
@@ -28,7 +29,7 @@ class SecureEnclaveError : public Error {
   };
 
   /// `message` completes the description of the first two cases; the others have none.
-  explicit SecureEnclaveError(Case kind, std::string_view message = {});
+  SecureEnclaveError(Case kind, const desktop::Wording& words, std::string_view message = {});
 
   [[nodiscard]] Case kind() const noexcept { return kind_; }
 
@@ -45,6 +46,7 @@ struct Services {
   desktop::KeyStore& keyStore;
   desktop::Log& log;
   desktop::MainLoop& loop;
+  desktop::Words& words;
 };
 
 using Key = std::shared_ptr<desktop::DeviceKey>;

@@ -57,7 +57,8 @@ desktop::FormSection SettingsView::serverSection() {
       .header = "Server Configuration (development build)",
       .rows = {field("Server URL", "ServerURL", std::string(builtInServer::url())), std::move(key),
                caption("This key authorizes the app build. It is not proof of who you are — "
-                       "that comes from the Secure Enclave key below.")}};
+                       "that comes from the " +
+                       services_.words.current().deviceKey + " below.")}};
 }
 
 desktop::FormField SettingsView::field(std::string label, std::string key, std::string fallback) {
@@ -70,42 +71,43 @@ desktop::FormField SettingsView::field(std::string label, std::string key, std::
 }
 
 desktop::FormSection SettingsView::machineSection() {
-  desktop::FormSection section{.header = "This Mac", .rows = {}};
+  const desktop::Wording words = services_.words.current();
+  desktop::FormSection section{.header = "This " + words.machineInTitle, .rows = {}};
   if (!lookupFailure_.empty()) {
     section.rows.emplace_back(desktop::FormStatus{
         .symbol = "exclamationmark.triangle.fill",
         .symbolColour = TextColour::orange,
-        .text = callout("Quillseal could not find out whether this Mac has a signing key: " +
-                        lookupFailure_)});
+        .text = callout("Quillseal could not find out whether this " + words.machine +
+                        " has a signing key: " + lookupFailure_)});
   } else if (isEnrolled_) {
-    section.rows.emplace_back(desktop::FormStatus{
-        .symbol = "checkmark.seal.fill",
-        .symbolColour = TextColour::green,
-        .text = callout("Enrolled — a signing key exists inside the Secure Enclave.")});
+    section.rows.emplace_back(desktop::FormStatus{.symbol = "checkmark.seal.fill",
+                                                  .symbolColour = TextColour::green,
+                                                  .text = callout(words.keyExists)});
   } else {
     section.rows.emplace_back(desktop::FormStatus{
         .symbol = "exclamationmark.triangle.fill",
         .symbolColour = TextColour::orange,
-        .text = callout("Not set up yet. This happens automatically the first time you press "
-                        "⌘⌥⌃H — there is nothing to do here.")});
+        .text = callout("Not set up yet. This happens automatically the first time you press " +
+                        words.hotkey + " — there is nothing to do here.")});
   }
   const std::string identity = services_.defaults.string("BoundIdentity").value_or("");
   section.rows.emplace_back(
-      identity.empty()
-          ? caption("No verified identity is bound to this Mac. Signatures will be shown to "
-                    "readers as \"anonymous human\" — proof that a person signed, but not who. "
-                    "That is not a basis for trusting a payment request.",
-                    TextColour::orange)
-          : caption("Signatures are attributed to " + IdentityName::shown(identity)));
-  section.rows.emplace_back(desktop::FormButton{.label = isEnrolling_  ? "Enrolling…"
-                                                         : isEnrolled_ ? "Re-enrol This Mac"
-                                                                       : "Enrol This Mac",
-                                                .enabled = !isEnrolling_,
-                                                .pressed = [this] { enrol(); }});
+      identity.empty() ? caption("No verified identity is bound to this " + words.machine +
+                                     ". Signatures will be shown to readers as \"anonymous human\" "
+                                     "— proof that a person signed, but not who. "
+                                     "That is not a basis for trusting a payment request.",
+                                 TextColour::orange)
+                       : caption("Signatures are attributed to " + IdentityName::shown(identity)));
+  section.rows.emplace_back(
+      desktop::FormButton{.label = isEnrolling_  ? "Enrolling…"
+                                   : isEnrolled_ ? "Re-enrol This " + words.machineInTitle
+                                                 : "Enrol This " + words.machineInTitle,
+                          .enabled = !isEnrolling_,
+                          .pressed = [this] { enrol(); }});
   if (isEnrolled_) {
-    section.rows.emplace_back(
-        caption("Re-enrolling creates a NEW key. Signatures already made remain verifiable, but "
-                "this Mac must be re-enrolled on the server."));
+    section.rows.emplace_back(caption(
+        "Re-enrolling creates a NEW key. Signatures already made remain verifiable, but this " +
+        words.machine + " must be re-enrolled on the server."));
   }
   std::string advice = services_.keyStore.advice();
   if (!advice.empty()) section.rows.emplace_back(caption(std::move(advice), TextColour::orange));
@@ -128,8 +130,10 @@ Task<> SettingsView::enrolDevice() {
 Task<> SettingsView::readEnrolled() {
   lookupFailure_.clear();
   try {
-    isEnrolled_ = co_await SecureEnclaveManager::hasKey(
-        {.keyStore = services_.keyStore, .log = services_.log, .loop = services_.loop});
+    isEnrolled_ = co_await SecureEnclaveManager::hasKey({.keyStore = services_.keyStore,
+                                                         .log = services_.log,
+                                                         .loop = services_.loop,
+                                                         .words = services_.words});
   } catch (const std::exception& error) {
     isEnrolled_ = false;
     const std::string_view words = error.what();

@@ -11,6 +11,7 @@
 #include "desktop/MainLoop.h"
 #include "desktop/Ticket.h"
 #include "desktop/Window.h"
+#include "desktop/Wording.h"
 
 namespace quillseal {
 
@@ -24,6 +25,7 @@ class SettingsView {
     desktop::KeyStore& keyStore;
     desktop::Log& log;
     desktop::MainLoop& loop;
+    desktop::Words& words;
   };
 
   /// Users of a development build enter the server; a packaged one brings its own.

@@ -91,7 +91,8 @@ bool isSet(const std::optional<std::string>& text) {
 }
 
 /// Why there is nothing to sign.
-desktop::Alert alertWithoutText(AccessibilityManager::CopyOutcome outcome) {
+desktop::Alert alertWithoutText(AccessibilityManager::CopyOutcome outcome,
+                                const desktop::Wording& words) {
   using AccessibilityManager::CopyOutcome;
   std::string reason;
   switch (outcome) {
@@ -109,23 +110,24 @@ desktop::Alert alertWithoutText(AccessibilityManager::CopyOutcome outcome) {
   }
   if (reason.empty()) {
     return {.title = "No Text Found",
-            .body =
-                "Please type or highlight some text in Outlook (or any app) before pressing "
-                "⌘⌥⌃H."};
+            .body = "Please type or highlight some text in " + words.exampleApplication +
+                    " (or any app) before pressing " + words.hotkey + "."};
   }
   return {.title = "Not Signed",
           .body = "Nothing was signed: " + reason +
-                  ".\n\nGo back to your text, select it and press ⌘⌥⌃H again."};
+                  ".\n\nGo back to your text, select it and press " + words.hotkey + " again."};
 }
 
 /// How the person pastes what Quillseal did not.
 desktop::Alert alertToPaste(ClipboardManager::Placement placement,
-                            const std::optional<desktop::RunningApplication>& source) {
+                            const std::optional<desktop::RunningApplication>& source,
+                            const std::string& pasteKey) {
   using ClipboardManager::Placement;
   const bool hasName = source && isSet(source->name);
   const std::string name = hasName ? *source->name : "the application it came from";
   const std::string switchBack = "Switch back to your message in ";
-  const std::string selectAndPaste = ", select the text you signed, and press ⌘V.\n\n";
+  const std::string selectAndPaste =
+      ", select the text you signed, and press " + pasteKey + ".\n\n";
   std::string steps;
   switch (placement) {
     case Placement::sourceNotInFront:
@@ -234,8 +236,8 @@ Task<std::optional<SigningMode>> SigningCoordinator::modeReadyToSign() {
   }
   const bool canHoldKey = co_await SecureEnclaveManager::isAvailable(keyServices());
   if (!canHoldKey) {
-    co_await showAlert("Secure Enclave Required",
-                       SecureEnclaveError(SecureEnclaveError::Case::unsupported).what());
+    desktop::Wording words = desktop_.words.current();
+    co_await showAlert(std::move(words.keyRequired), std::move(words.keyUnsupported));
     co_return std::nullopt;
   }
   if (!serverClient_.hasServer()) {
@@ -261,7 +263,7 @@ Task<std::optional<CapturedContent>> SigningCoordinator::captureSelection() {
       co_await AccessibilityManager::captureSelectedContent(services);
   turn.reset();
   if (!capture.content) {
-    desktop::Alert alert = alertWithoutText(capture.outcome);
+    desktop::Alert alert = alertWithoutText(capture.outcome, desktop_.words.current());
     co_await showAlert(std::move(alert.title), std::move(alert.body));
   }
   co_return std::move(capture.content);
@@ -411,7 +413,7 @@ Task<> SigningCoordinator::tellOfSuccess(ClipboardManager::Placement placement,
     notifyOfSuccess();
     co_return;
   }
-  desktop::Alert alert = alertToPaste(placement, source);
+  desktop::Alert alert = alertToPaste(placement, source, desktop_.words.current().pasteKey);
   co_await showAlert(std::move(alert.title), std::move(alert.body));
 }
 
@@ -532,9 +534,11 @@ Task<bool> SigningCoordinator::ensureEnrolled() {
     failure = describe(error);
   }
   turn.reset();
-  co_await showAlert("Could Not Set Up This Mac", "Quillseal could not register this Mac with " +
-                                                      serverClient_.effectiveServerURL() + ".\n\n" +
-                                                      failure);
+  const desktop::Wording words = desktop_.words.current();
+  std::string title = "Could Not Set Up This " + words.machineInTitle;
+  std::string body = "Quillseal could not register this " + words.machine + " with " +
+                     serverClient_.effectiveServerURL() + ".\n\n" + failure;
+  co_await showAlert(std::move(title), std::move(body));
   co_return false;
 }
 
@@ -546,8 +550,7 @@ std::string SigningCoordinator::configurationAdvice() const {
   }
   if (builtInServer::apiKey().empty())
     return "No signing server is set. Open Settings and enter the server URL.";
-  return "This build names no signing server. Set “ServerURL” to the address of one with “defaults "
-         "write”, or install a packaged build from your provider.";
+  return desktop_.words.current().serverAdvice;
 }
 
 Task<> SigningCoordinator::enrolDevice() {
@@ -570,14 +573,15 @@ Task<> SigningCoordinator::enrolDevice() {
     co_return;
   }
   const std::string identity = boundIdentity();
-  std::string body =
-      "A signing key was created inside the Secure Enclave. It cannot be copied off this Mac, and "
-      "every signature requires Touch ID.\n\n";
+  const desktop::Wording words = desktop_.words.current();
+  std::string body = words.keyCreated + "\n\n";
   body += identity.empty()
-              ? "No verified identity is bound to this Mac yet, so signatures will be reported as "
-                "\"anonymous human\" — proof that a person signed, but not who."
+              ? "No verified identity is bound to this " + words.machine +
+                    " yet, so signatures will be reported as \"anonymous human\" — proof that a "
+                    "person signed, but not who."
               : "Signatures will be attributed to " + IdentityName::shown(identity) + ".";
-  co_await showAlertOrLog("✅ This Mac Is Enrolled", std::move(body));
+  std::string title = "✅ This " + words.machineInTitle + " Is Enrolled";
+  co_await showAlertOrLog(std::move(title), std::move(body));
 }
 
 /// Some steps must not be interrupted by another task's. Two that made a key side by side could
@@ -689,7 +693,10 @@ std::string SigningCoordinator::boundIdentity() const {
 }
 
 SecureEnclaveManager::Services SigningCoordinator::keyServices() const {
-  return {.keyStore = desktop_.keyStore, .log = desktop_.log, .loop = desktop_.loop};
+  return {.keyStore = desktop_.keyStore,
+          .log = desktop_.log,
+          .loop = desktop_.loop,
+          .words = desktop_.words};
 }
 
 // Confirmation ------------------------------------------------------------------------------------
@@ -706,6 +713,7 @@ Task<std::optional<std::string>> SigningCoordinator::scopeForSigning(Confirmable
 Task<std::optional<SigningCoordinator::Confirmed>> SigningCoordinator::confirmSigning(
     Confirmable confirmable) {
   const std::string identity = IdentityName::shown(boundIdentity());
+  const desktop::Wording words = desktop_.words.current();
   const desktop::ConfirmationForm form{
       .question = {.title = "Sign this content?",
                    .body = confirmationText(
@@ -713,16 +721,15 @@ Task<std::optional<SigningCoordinator::Confirmed>> SigningCoordinator::confirmSi
                         .scope = confirmable.scope,
                         .issued = confirmable.issued,
                         .identity = identity,
+                        .proof = words.proof,
                         .isDemo = desktop_.defaults.boolean(setting::demoSigning)}),
                    .style = desktop::AlertStyle::informational,
-                   .confirm = "Sign with Touch ID",
+                   .confirm = "Sign with " + words.proofInTitle,
                    .cancel = "Cancel"},
       .choices = {SigningScope::mediumOptions.begin(), SigningScope::mediumOptions.end()},
       .selectedChoice = SigningScope::defaultMediumIndex(confirmable.scope),
       .fieldPlaceholder = "Recipient, e.g. ada@example.com (optional)",
-      .note =
-          "The medium and recipient are covered by your fingerprint, so this signature does "
-          "not verify cleanly if the text is moved elsewhere."};
+      .note = words.scopeNote};
   using Entry = std::optional<desktop::ConfirmationEntry>;
   const Entry entry =
       co_await completionOf<Entry>([this, &form](std::function<void(Entry)> answered) {
@@ -789,16 +796,20 @@ Task<std::optional<SigningCoordinator::HandoffResult>> SigningCoordinator::signV
       co_return result;
     }
     if (answer.status == "expired") {
-      co_await showAlert("Signing Request Expired",
-                         "The request timed out before it was signed. Nothing was signed. Select "
-                         "your text and press ⌘⌥⌃H again.");
+      std::string advice =
+          "The request timed out before it was signed. Nothing was signed. Select your text and "
+          "press " +
+          desktop_.words.current().hotkey + " again.";
+      co_await showAlert("Signing Request Expired", std::move(advice));
       co_return std::nullopt;
     }
   }
-  co_await showAlert("Still Waiting",
-                     "Quillseal stopped waiting for the browser. If you did sign, the signature "
-                     "exists and is valid — press ⌘⌥⌃H again to insert a fresh one, or copy the "
-                     "link from the browser tab.");
+  std::string advice =
+      "Quillseal stopped waiting for the browser. If you did sign, the signature exists and is "
+      "valid — press " +
+      desktop_.words.current().hotkey +
+      " again to insert a fresh one, or copy the link from the browser tab.";
+  co_await showAlert("Still Waiting", std::move(advice));
   co_return std::nullopt;
 }
 

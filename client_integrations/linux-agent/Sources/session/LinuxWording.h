@@ -1,0 +1,17 @@
+#pragma once
+
+#include "desktop/Wording.h"
+#include "keys/KeyMedium.h"
+
+namespace quillseal {
+
+/// What the agent's words depend on.
+struct WordingCircumstances {
+  KeyPlace key;         ///< where the key is or would be made
+  bool isDemo = false;  ///< no key is used, but a presence check
+};
+
+/// The words of Linux desktops. Pure.
+[[nodiscard]] desktop::Wording linuxWording(const WordingCircumstances& circumstances);
+
+}  // namespace quillseal

@@ -1,0 +1,36 @@
+#include "MacDesktop/MacWords.h"
+
+namespace quillseal::mac {
+
+desktop::Wording MacWords::current() const {
+  return {
+      .hotkey = "⌘⌥⌃H",
+      .pasteKey = "⌘V",
+      .machine = "Mac",
+      .machineInTitle = "Mac",
+      .proof = "fingerprint",
+      .proofInTitle = "Touch ID",
+      .exampleApplication = "Outlook",
+      .deviceKey = "Secure Enclave key",
+      .signingKey = "Secure Enclave signing key",
+      .keyRequired = "Secure Enclave Required",
+      .keyUnsupported =
+          "This Mac has no Secure Enclave, so content cannot be signed in a way that proves a "
+          "person authorized it.",
+      .keyExists = "Enrolled — a signing key exists inside the Secure Enclave.",
+      .keyCreated =
+          "A signing key was created inside the Secure Enclave. It cannot be copied off this Mac, "
+          "and every signature requires Touch ID.",
+      .publicKeyFailed = "Could not export the Secure Enclave public key.",
+      .signingFailed = "Secure Enclave signing failed",
+      .unnamedReason = "user cancelled or biometric failed",
+      .scopeNote =
+          "The medium and recipient are covered by your fingerprint, so this signature does not "
+          "verify cleanly if the text is moved elsewhere.",
+      .serverAdvice =
+          "This build names no signing server. Set “ServerURL” to the address of one with "
+          "“defaults write”, or install a packaged build from your provider.",
+  };
+}
+
+}  // namespace quillseal::mac

@@ -2,9 +2,11 @@
 
 #include <chrono>
 #include <coroutine>
+#include <cstdint>
 #include <exception>
 #include <functional>
 #include <list>
+#include <map>
 #include <memory>
 #include <optional>
 #include <type_traits>
@@ -126,6 +128,71 @@ template <typename Work, typename Result = std::invoke_result_t<Work&>>
   if (shared->failure) std::rethrow_exception(shared->failure);
   if constexpr (!std::is_void_v<Result>) co_return std::move(*shared->result);
 }
+
+/// Lets one task at a time through, in the order in which they asked:
+///
+///     AsyncMutex::Lock lock = co_await mutex.lock();
+///
+/// The next task goes on from the event loop, not from inside the one that lets go, so that a
+/// scope which is being destroyed runs none of its tasks. A task that is cancelled leaves the
+/// queue, or lets go. Locks and waiting tasks may outlive the mutex; the loop outlives them all.
+class AsyncMutex {
+  struct Queue;
+  struct Release {
+    std::shared_ptr<Queue> queue;
+    void operator()(Queue*) const { queue->release(); }
+  };
+
+ public:
+  /// Held until it is destroyed or reset.
+  using Lock = std::unique_ptr<Queue, Release>;
+
+  explicit AsyncMutex(desktop::MainLoop& loop) : queue_(std::make_shared<Queue>(loop)) {}
+
+  [[nodiscard]] Task<Lock> lock() { return lockOf(queue_); }
+
+ private:
+  struct Queue {
+    explicit Queue(desktop::MainLoop& l) : loop(l) {}
+
+    [[nodiscard]] bool takeAtOnce() {
+      if (isHeld || !waiting.empty()) return false;
+      return isHeld = true;
+    }
+
+    void release() {
+      isHeld = false;
+      if (!waiting.empty()) waking = loop.after({}, [this] { letNextThrough(); });
+    }
+
+    /// The one that was first when the lock was let go may have left since, and another have it.
+    void letNextThrough() {
+      if (isHeld || waiting.empty()) return;
+      isHeld = true;
+      const auto next = waiting.extract(waiting.begin());
+      next.mapped()();
+    }
+
+    desktop::MainLoop& loop;
+    bool isHeld = false;
+    std::uint64_t count = 0;
+    std::map<std::uint64_t, std::function<void()>> waiting;  ///< in the order in which they came
+    desktop::Ticket waking;
+  };
+
+  static Task<Lock> lockOf(std::shared_ptr<Queue> queue) {
+    if (!queue->takeAtOnce()) {
+      co_await completionOf<void>([&queue](std::function<void()> done) {
+        const std::uint64_t number = queue->count++;
+        queue->waiting.emplace(number, std::move(done));
+        return desktop::Ticket([queue, number] { queue->waiting.erase(number); });
+      });
+    }
+    co_return Lock(queue.get(), Release{queue});
+  }
+
+  std::shared_ptr<Queue> queue_;
+};
 
 /// Owns tasks that nobody awaits. Each is gone as soon as it has ended; those that have not are
 /// cancelled when the scope is destroyed, which must not happen from inside one of them.

@@ -133,6 +133,75 @@ TEST(CompletionOf, TakesACompletionThatComesWhileStarting) {
   EXPECT_EQ(trace, (Trace{"at once"}));
 }
 
+Task<> hold(VirtualLoop& loop, AsyncMutex& mutex, Trace& trace, std::string name) {
+  const Leaving leaving(trace, name);
+  const AsyncMutex::Lock lock = co_await mutex.lock();
+  trace.push_back("has " + name);
+  co_await sleep(loop, 10ms);
+}
+
+TEST(AsyncMutex, LetsTasksThroughOneByOneInTheOrderTheyCame) {
+  VirtualLoop loop;
+  Trace trace;
+  AsyncMutex mutex(loop);
+  TaskScope scope;
+  scope.start(hold(loop, mutex, trace, "a"));
+  scope.start(hold(loop, mutex, trace, "b"));
+  while (trace.back() != "left a")
+    loop.step();
+  scope.start(hold(loop, mutex, trace, "c"));  // free, and promised to b
+  loop.run();
+  EXPECT_EQ(trace, (Trace{"has a", "left a", "has b", "left b", "has c", "left c"}));
+  EXPECT_EQ(loop.elapsed(), 30ms) << "it is passed on at once";
+}
+
+TEST(AsyncMutex, PassesOverThoseThatAreCancelled) {
+  VirtualLoop loop;
+  Trace trace;
+  AsyncMutex mutex(loop);
+  TaskScope scope;
+  {
+    TaskScope cancelled;
+    scope.start(hold(loop, mutex, trace, "a"));
+    cancelled.start(hold(loop, mutex, trace, "b"));
+    cancelled.start(hold(loop, mutex, trace, "c"));
+    scope.start(hold(loop, mutex, trace, "d"));
+    while (trace.back() != "left a")
+      loop.step();
+  }
+  loop.run();
+  EXPECT_EQ(trace, (Trace{"has a", "left a", "left b", "left c", "has d", "left d"}));
+}
+
+TEST(AsyncMutex, RunsNoTaskOfAScopeThatIsDestroyed) {
+  VirtualLoop loop;
+  Trace trace;
+  AsyncMutex mutex(loop);
+  {
+    TaskScope scope;
+    scope.start(hold(loop, mutex, trace, "a"));
+    scope.start(hold(loop, mutex, trace, "b"));
+  }
+  EXPECT_EQ(trace, (Trace{"has a", "left a", "left b"}));
+  TaskScope scope;
+  scope.start(hold(loop, mutex, trace, "c"));
+  EXPECT_EQ(trace.back(), "has c");
+  loop.run();  // with what the lock of a left in the loop
+  EXPECT_EQ(trace.back(), "left c");
+}
+
+TEST(AsyncMutex, MayBeDestroyedWhileItIsHeldAndAwaited) {
+  VirtualLoop loop;
+  Trace trace;
+  auto mutex = std::make_unique<AsyncMutex>(loop);
+  TaskScope scope;
+  scope.start(hold(loop, *mutex, trace, "a"));
+  scope.start(hold(loop, *mutex, trace, "b"));
+  mutex.reset();
+  loop.run();
+  EXPECT_EQ(trace, (Trace{"has a", "left a", "has b", "left b"}));
+}
+
 Task<> offloadAndFail(VirtualLoop& loop, Trace& trace) {
   const auto text = co_await offload(loop, [] { return std::make_unique<std::string>("worked"); });
   trace.push_back(*text);

@@ -31,7 +31,6 @@ constexpr auto longestWaitForBrowser = 570s;
 constexpr auto tabSwitchTime = 500ms;
 constexpr std::size_t longestIdentity = 1000;     // bytes
 constexpr std::size_t longestPageAddress = 2000;  // bytes
-constexpr auto turnPollInterval = 50ms;
 constexpr const char* preferredBrowser = "/Applications/Google Chrome.app";
 constexpr const char* debugCapturePath = "/Library/Logs/Quillseal-signed-text.txt";
 
@@ -258,10 +257,10 @@ Task<std::optional<CapturedContent>> SigningCoordinator::captureSelection() {
                                                 .log = desktop_.log,
                                                 .loop = desktop_.loop,
                                                 .pasteboard = desktop_.pasteboard};
-  Turn turn = co_await turnFor(isUsingClipboard_);
+  AsyncMutex::Lock lock = co_await clipboard_.lock();
   AccessibilityManager::Capture capture =
       co_await AccessibilityManager::captureSelectedContent(services);
-  turn.reset();
+  lock.reset();
   if (!capture.content) {
     desktop::Alert alert = alertWithoutText(capture.outcome, desktop_.words.current());
     co_await showAlert(std::move(alert.title), std::move(alert.body));
@@ -400,10 +399,10 @@ Task<std::optional<std::string>> SigningCoordinator::demonstrate(Signable signab
 }
 
 Task<> SigningCoordinator::deliver(Delivery delivery, const CapturedContent& content) {
-  Turn turn = co_await turnFor(isUsingClipboard_);
+  AsyncMutex::Lock lock = co_await clipboard_.lock();
   const auto placement =
       co_await inject(std::move(delivery), content, ClipboardManager::AutoPaste::yes);
-  turn.reset();
+  lock.reset();
   co_await tellOfSuccess(placement, content.sourceApplication);
 }
 
@@ -429,7 +428,7 @@ void SigningCoordinator::notify(const desktop::Notification& notification) {
   }
 }
 
-/// For the task that has the turn at the clipboard.
+/// The caller holds `clipboard_`.
 Task<ClipboardManager::Placement> SigningCoordinator::inject(
     Delivery delivery, const CapturedContent& content, ClipboardManager::AutoPaste autoPaste) {
   const ClipboardManager::Services services{.applications = desktop_.applications,
@@ -490,7 +489,7 @@ Task<SigningMode> SigningCoordinator::resolveSigningMode() {
   if (desktop_.defaults.boolean(setting::demoSigning)) co_return SigningMode::demo;
   const bool hasKey = co_await SecureEnclaveManager::hasKey(keyServices());
   if (hasKey) co_return SigningMode::enclave;
-  const Turn turn = co_await turnFor(isMakingKey_);
+  const AsyncMutex::Lock lock = co_await keyCreation_.lock();
   // Another task may have made a key, or a run have decided, while this one waited.
   const bool hasKeyNow = co_await SecureEnclaveManager::hasKey(keyServices());
   if (hasKeyNow) co_return SigningMode::enclave;
@@ -516,11 +515,11 @@ Task<SigningMode> SigningCoordinator::resolveSigningMode() {
 }
 
 Task<bool> SigningCoordinator::ensureEnrolled() {
-  Turn turn = co_await turnFor(isMakingKey_);
+  AsyncMutex::Lock lock = co_await keyCreation_.lock();
   const bool hasKey = co_await SecureEnclaveManager::hasKey(keyServices());
   if (hasKey) co_return true;
   if (serverClient_.effectiveAPIKey().empty()) {
-    turn.reset();
+    lock.reset();
     co_await showAlert(notConfigured, configurationAdvice());
     co_return false;
   }
@@ -533,7 +532,7 @@ Task<bool> SigningCoordinator::ensureEnrolled() {
   } catch (const std::exception& error) {
     failure = describe(error);
   }
-  turn.reset();
+  lock.reset();
   const desktop::Wording words = desktop_.words.current();
   std::string title = "Could Not Set Up This " + words.machineInTitle;
   std::string body = "Quillseal could not register this " + words.machine + " with " +
@@ -561,7 +560,7 @@ Task<> SigningCoordinator::enrolDevice() {
   }
   std::optional<std::string> failure;
   try {
-    const Turn turn = co_await turnFor(isMakingKey_);
+    const AsyncMutex::Lock lock = co_await keyCreation_.lock();
     co_await makeAndRegisterKey();
   } catch (const Cancelled&) {
     co_return;
@@ -584,18 +583,8 @@ Task<> SigningCoordinator::enrolDevice() {
   co_await showAlertOrLog(std::move(title), std::move(body));
 }
 
-/// Some steps must not be interrupted by another task's. Two that made a key side by side could
-/// leave one on this machine and the other's public half on the server; a copy between writing the
-/// block and pasting it would have the copy pasted. Each waits for its turn, and has it until it
-/// lets go.
-Task<SigningCoordinator::Turn> SigningCoordinator::turnFor(bool& isTaken) {
-  while (isTaken)
-    co_await sleep(desktop_.loop, turnPollInterval);
-  isTaken = true;
-  co_return Turn(&isTaken);
-}
-
-/// For who has the turn. Leaves no key behind when it fails, so that the next run starts clean.
+/// The caller holds `keyCreation_`. Leaves no key behind when it fails, so that the next run starts
+/// clean.
 Task<> SigningCoordinator::makeAndRegisterKey() {
   std::exception_ptr failure;
   try {
@@ -674,9 +663,9 @@ Task<std::string> SigningCoordinator::signWithRecovery(Signable signable) {
     if (!isDeviceNotEnrolled(error.what())) throw;
   }
   if (!signatureId) {
-    Turn turn = co_await turnFor(isMakingKey_);
+    AsyncMutex::Lock lock = co_await keyCreation_.lock();
     co_await registerDevice();
-    turn.reset();
+    lock.reset();
     signatureId = co_await signOnce(std::move(signable));
   }
   co_return *std::move(signatureId);
@@ -848,7 +837,7 @@ Task<> SigningCoordinator::deliverFromBrowser(Delivery delivery, HandoffResult h
     co_await deliver(std::move(delivery), content);
     co_return;
   }
-  Turn turn = co_await turnFor(isUsingClipboard_);
+  AsyncMutex::Lock lock = co_await clipboard_.lock();
   BrowserTabReturn::SigningTab tab{.bundleID = handoff.signingBrowserBundleID,
                                    .urlContains = std::move(handoff.handoffMarker),
                                    .tabID = std::move(handoff.sourceTabID)};
@@ -862,7 +851,7 @@ Task<> SigningCoordinator::deliverFromBrowser(Delivery delivery, HandoffResult h
   const auto placement = co_await inject(
       std::move(delivery), content,
       isRestored ? ClipboardManager::AutoPaste::yes : ClipboardManager::AutoPaste::no);
-  turn.reset();
+  lock.reset();
   co_await tellOfSuccess(placement, source);
 }
 

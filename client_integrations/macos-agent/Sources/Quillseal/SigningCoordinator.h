@@ -172,12 +172,6 @@ class SigningCoordinator {
   Task<> showAlertOrLog(std::string title, std::string body);
   Task<bool> asksToSignAnyway(std::string warning);
 
-  struct EndTurn {
-    void operator()(bool* isTaken) const { *isTaken = false; }
-  };
-  using Turn = std::unique_ptr<bool, EndTurn>;
-
-  [[nodiscard]] Task<Turn> turnFor(bool& isTaken);
   Task<> makeAndRegisterKey();
   Task<> registerDevice();
 
@@ -189,9 +183,12 @@ class SigningCoordinator {
   ServerClient serverClient_;
   int runCount_ = 0;
   bool hasTurnedAway_ = false;  ///< since there was room for another run
-  bool isMakingKey_ = false;
-  bool isUsingClipboard_ = false;  ///< and the keyboard: capturing or pasting
-  TaskScope runs_;                 ///< last: the tasks use all of the above
+  // Some steps must not be interrupted by another task's. Two that made a key side by side could
+  // leave one on this machine and the other's public half on the server; a copy between writing the
+  // block and pasting it would have the copy pasted.
+  AsyncMutex keyCreation_{desktop_.loop};
+  AsyncMutex clipboard_{desktop_.loop};  ///< and the keyboard: capturing or pasting
+  TaskScope runs_;                       ///< last: the tasks use all of the above
 };
 
 }  // namespace quillseal

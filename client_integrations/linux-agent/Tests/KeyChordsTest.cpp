@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 #include <xkbcommon/xkbcommon-keysyms.h>
 
+#include "desktop/SigningHotkey.h"
+#include "session/LinuxWording.h"
 #include "x11/KeyChords.h"
 
 namespace quillseal {
@@ -16,14 +18,14 @@ using testing::IsEmpty;
 constexpr KeyPress copy{.key = Key::c, .modifiers = Modifiers::command};
 constexpr KeyPress paste{.key = Key::v, .modifiers = Modifiers::command};
 constexpr KeyPress selectAll{.key = Key::a, .modifiers = Modifiers::command};
-constexpr KeyPress hotkey{.key = Key::h,
-                          .modifiers = Modifiers::control | Modifiers::option | Modifiers::command};
+constexpr KeyPress hotkey = desktop::signingHotkey;
 
 TEST(KeyChordsTest, CommandIsControlUnlessControlIsThereToo) {
   EXPECT_THAT(chordOf(copy), ElementsAre(XKB_KEY_Control_L, XKB_KEY_c));
   EXPECT_THAT(chordOf(hotkey),
               ElementsAre(XKB_KEY_Control_L, XKB_KEY_Alt_L, XKB_KEY_Super_L, XKB_KEY_h));
   EXPECT_EQ(nameOf(hotkey), "Ctrl+Alt+Super+H");
+  EXPECT_EQ(nameOf(hotkey), linuxWording({.key = KeyPlace::tpm}).hotkey);
   EXPECT_EQ(nameOf(Modifiers::command, ","), "Ctrl+,");
 }
 

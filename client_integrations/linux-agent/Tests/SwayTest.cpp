@@ -21,6 +21,7 @@
 #include "ScriptedCompositor.h"
 #include "TemporaryFolder.h"
 #include "core/text/Error.h"
+#include "desktop/SigningHotkey.h"
 #include "session/PollLoop.h"
 #include "wayland/SwayHotkey.h"
 #include "wayland/SwayIpc.h"
@@ -30,16 +31,13 @@ namespace quillseal {
 namespace {
 
 using namespace std::chrono_literals;
-using desktop::Modifiers;
 using ::testing::AllOf;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using testing::ScriptedCompositor;
 
-constexpr desktop::KeyPress hotkey{
-    .key = desktop::Key::h,
-    .modifiers = Modifiers::control | Modifiers::option | Modifiers::command};
+constexpr desktop::KeyPress hotkey = desktop::signingHotkey;
 
 /// The side of sway that programs talk to, on a thread of its own.
 class ScriptedSway {

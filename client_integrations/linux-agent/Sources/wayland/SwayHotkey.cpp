@@ -89,7 +89,7 @@ void SwayHotkey::registerHotkey(desktop::KeyPress combination, std::function<voi
   });
   // The seat first, then its keyboard.
   if (services_.connection.roundTrip() && services_.connection.roundTrip())
-    key_ = layout_->keyFor(XKB_KEY_h).value_or(usualKey);
+    key_ = layout_->keyFor(chordOf(chord_).back()).value_or(usualKey);
   const auto configuration = commands_->ask(SwayIpc::Request::getConfig, "");
   const json parsed = json::parse(configuration.value_or(""), nullptr, false);
   if (parsed.is_object() && bindsAlready(textOf(parsed, "config"), {.symbol = "h", .code = key_}))
@@ -133,7 +133,7 @@ void SwayHotkey::unbind() {
 }
 
 void SwayHotkey::followLayout() {
-  const std::uint32_t now = layout_->keyFor(XKB_KEY_h).value_or(usualKey);
+  const std::uint32_t now = layout_->keyFor(chordOf(chord_).back()).value_or(usualKey);
   if (now == key_ || !isBound_) return;
   unbind();
   key_ = now;

@@ -5,8 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include <xkbcommon/xkbcommon-keysyms.h>
-
+#include "desktop/SigningHotkey.h"
 #include "x11/KeyChords.h"
 #include "x11/WindowDocument.h"
 
@@ -119,7 +118,7 @@ class XTestKeyEvents::Press : public std::enable_shared_from_this<Press> {
   }
 
   [[nodiscard]] std::vector<xcb_keycode_t> heldKeys() const {
-    return services_.keyboard->heldKeys(layout_.keyFor(XKB_KEY_h));
+    return services_.keyboard->heldKeys(layout_.keyFor(chordOf(desktop::signingHotkey).back()));
   }
 
   void finish(Delivery delivery) {

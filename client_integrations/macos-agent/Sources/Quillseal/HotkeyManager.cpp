@@ -3,16 +3,13 @@
 #include <string>
 
 #include "core/text/Error.h"
+#include "desktop/SigningHotkey.h"
 
 namespace quillseal {
 
 void HotkeyManager::registerHotkey() {
-  using desktop::Modifiers;
-  const desktop::KeyPress combination{
-      .key = desktop::Key::h,
-      .modifiers = Modifiers::command | Modifiers::option | Modifiers::control};
   try {
-    services_.hotkey.registerHotkey(combination,
+    services_.hotkey.registerHotkey(desktop::signingHotkey,
                                     [&coordinator = coordinator_] { coordinator.startSigning(); });
   } catch (const Error& error) {
     // A notification: at log-in an alert would stand in the way of somebody who signs by the menu.

@@ -1,6 +1,7 @@
 #include "Quillseal/MenuBarManager.h"
 
 #include "Quillseal/BuiltInServer.h"
+#include "desktop/SigningHotkey.h"
 
 namespace quillseal {
 
@@ -20,7 +21,7 @@ void MenuBarManager::setupMenu() {
   };
   MenuItem sign = action("Sign Selected Text (" + desktop_.words.current().hotkey + ")", "h",
                          [this] { signText(); });
-  sign.keyModifiers = Modifiers::command | Modifiers::option | Modifiers::control;
+  sign.keyModifiers = desktop::signingHotkey.modifiers;
   const MenuItem separator{.kind = MenuItem::Kind::separator,
                            .title = {},
                            .keyEquivalent = {},

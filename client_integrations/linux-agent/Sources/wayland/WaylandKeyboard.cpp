@@ -32,6 +32,7 @@ constexpr std::array knownKeys = {
     KnownKey{XKB_KEY_a, KEY_A, 0},
     KnownKey{XKB_KEY_c, KEY_C, 0},
     KnownKey{XKB_KEY_v, KEY_V, 0},
+    KnownKey{XKB_KEY_Insert, KEY_INSERT, 0},
 };
 
 constexpr std::string_view layoutName = "Quillseal";
@@ -40,7 +41,7 @@ constexpr std::string_view layoutName = "Quillseal";
 constexpr std::string_view layout = R"(xkb_keymap {
 xkb_keycodes "quillseal" {
   minimum = 8; maximum = 255;
-  <LCTL> = 37; <AC01> = 38; <LFSH> = 50; <AB03> = 54; <AB04> = 55;
+  <LCTL> = 37; <AC01> = 38; <LFSH> = 50; <AB03> = 54; <AB04> = 55; <INS> = 118;
 };
 xkb_types "quillseal" { include "complete" };
 xkb_compatibility "quillseal" { include "complete" };
@@ -51,6 +52,7 @@ xkb_symbols "quillseal" {
   key <AC01> { [ a, A ] };
   key <AB03> { [ c, C ] };
   key <AB04> { [ v, V ] };
+  key <INS> { [ Insert ] };
   modifier_map Control { <LCTL> };
   modifier_map Shift { <LFSH> };
 };

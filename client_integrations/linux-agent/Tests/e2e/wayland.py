@@ -119,8 +119,14 @@ class SwayClipboard(OnSway):
 
     def keepers(self):
         """Those of this session, whose home is where it is started."""
+        def is_at_home(pid):
+            try:
+                return pathlib.Path(f"/proc/{pid}/cwd").resolve() == self.desktop.home
+            except OSError:  # it has ended meanwhile
+                return False
+
         found = self.desktop.run("pgrep", "-f", "quillseal-clipboard-keeper", check=False).split()
-        return [pid for pid in found if pathlib.Path(f"/proc/{pid}/cwd").resolve() == self.desktop.home]
+        return [pid for pid in found if is_at_home(pid)]
 
 
 class SwayHotkey(OnSway):

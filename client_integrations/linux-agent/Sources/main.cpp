@@ -135,7 +135,7 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
 
   constexpr std::chrono::seconds patience{5};
   if (!quillseal::sessionBusAnswers(patience)) qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
-  // It has nothing to say to the agent, and Qt would wait for its first word without end.
+  // The session manager is not needed, and Qt would wait for its first answer without a time-out.
   QApplication::setAttribute(Qt::AA_DisableSessionManager);
 
   QApplication application(argc, argv);

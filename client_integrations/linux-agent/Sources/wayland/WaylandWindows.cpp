@@ -112,7 +112,7 @@ struct WaylandWindows::State {
     Entry& entry = state.entries.emplace_back(state, handle, ++state.lastId);
     zwlr_foreign_toplevel_handle_v1_add_listener(handle, &ofWindow, &entry);
   }
-  // The compositor tells of no window any more: what it told last would be trusted for ever.
+  // The compositor reports windows no longer, and its last report would be trusted from now on.
   static void finished(void* data, zwlr_foreign_toplevel_manager_v1* /*manager*/) {
     static_cast<State*>(data)->entries.clear();
   }

@@ -53,7 +53,7 @@ enum class CopyOutcome {
   unchanged,        ///< the clipboard did not change within 1.2 s
   noText,           ///< it holds no text, or only white space
   unreadable,       ///< the system may have kept this program from reading it
-  secret,           ///< whoever copied marked it as a secret
+  secret,           ///< it was marked as a secret
   declined,         ///< no key was pressed: something else than the source would have got it
   documentChanged,  ///< no key was pressed: the source shows another document
   sourceClosed,     ///< no key was pressed: the source has ended

@@ -50,12 +50,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
   const std::size_t publicSize = std::clamp<std::size_t>(data[0], 1, size - 2);
   const std::uint8_t* const parts = data + 1;
-  const keyfile::Block blocks[] = {
+  const KeyFile::Block blocks[] = {
       {.label = "PUBLIC KEY", .bytes = {parts, parts + publicSize}},
       {.label = "ENCRYPTED PRIVATE KEY", .bytes = {parts + publicSize, data + size}}};
-  const std::string file = keyfile::write("", blocks);
+  const std::string file = KeyFile::write("", blocks);
   constexpr std::string_view labels[] = {"PUBLIC KEY", "ENCRYPTED PRIVATE KEY"};
-  const auto read = keyfile::read(file, labels);
+  const auto read = KeyFile::read(file, labels);
   if (!read || (*read)[0].bytes != blocks[0].bytes || (*read)[1].bytes != blocks[1].bytes)
     std::abort();
   sign(scratch, file);

@@ -34,7 +34,7 @@ struct Unref {
 
 class Keyboard {
  public:
-  Keyboard(quillseal::WaylandConnection& connection, const char* layout)
+  Keyboard(quillseal::linux::WaylandConnection& connection, const char* layout)
       : connection_(connection), context_(xkb_context_new(XKB_CONTEXT_NO_FLAGS)) {
     const xkb_rule_names names{.rules = nullptr,
                                .model = nullptr,
@@ -112,7 +112,7 @@ class Keyboard {
         xkb_state_serialize_layout(state_.get(), XKB_STATE_LAYOUT_EFFECTIVE));
   }
 
-  quillseal::WaylandConnection& connection_;
+  quillseal::linux::WaylandConnection& connection_;
   std::unique_ptr<xkb_context, Unref> context_;
   std::unique_ptr<xkb_keymap, Unref> keymap_;
   std::unique_ptr<xkb_state, Unref> state_;
@@ -123,7 +123,7 @@ class Keyboard {
 
 class Mouse {
  public:
-  explicit Mouse(quillseal::WaylandConnection& connection) : connection_(connection) {
+  explicit Mouse(quillseal::linux::WaylandConnection& connection) : connection_(connection) {
     auto* manager = connection.bind<zwlr_virtual_pointer_manager_v1>(
         zwlr_virtual_pointer_manager_v1_interface, 1);
     if (manager != nullptr)
@@ -146,7 +146,7 @@ class Mouse {
   }
 
  private:
-  quillseal::WaylandConnection& connection_;
+  quillseal::linux::WaylandConnection& connection_;
   zwlr_virtual_pointer_v1* device_ = nullptr;
   std::uint32_t time_ = 0;
 };
@@ -177,7 +177,7 @@ bool obey(Keyboard& keyboard, Mouse& mouse, const std::string& line) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  const auto connection = argc == 2 ? quillseal::WaylandConnection::open() : nullptr;
+  const auto connection = argc == 2 ? quillseal::linux::WaylandConnection::open() : nullptr;
   if (connection == nullptr) {
     std::cerr << "usage: wayland-person LAYOUT, in a Wayland session\n";
     return 2;

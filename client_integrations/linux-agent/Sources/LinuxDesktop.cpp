@@ -29,7 +29,7 @@
 #include "windows/TrayStatusItem.h"
 #include "x11/X11System.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 std::string environment(const char* name) {
@@ -173,4 +173,4 @@ desktop::Desktop LinuxDesktop::services() {
           .words = parts_->words};
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

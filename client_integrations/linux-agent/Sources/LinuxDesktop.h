@@ -6,7 +6,7 @@
 #include "session/CommandLine.h"
 #include "wayland/WaylandConnection.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// Everything that the agent asks of a Linux desktop, put together. Tells the person at once what
 /// does not work in this session. REQUIRES: the application object of Qt exists. Main thread.
@@ -29,4 +29,4 @@ class LinuxDesktop {
   std::unique_ptr<Parts> parts_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -33,8 +33,8 @@
 
 namespace {
 
-using quillseal::Command;
-using quillseal::CommandLine;
+using quillseal::linux::Command;
+using quillseal::linux::CommandLine;
 
 constexpr int failed = 1;
 constexpr int wrongArguments = 2;
@@ -63,10 +63,10 @@ bool hasWaylandPlugin() {
 
 /// Null where there is none. Without the name of one, the library would look for that of another
 /// session.
-std::unique_ptr<quillseal::WaylandConnection> compositorThatReachesApplications() {
+std::unique_ptr<quillseal::linux::WaylandConnection> compositorThatReachesApplications() {
   if (environment("WAYLAND_DISPLAY").empty()) return nullptr;
-  auto connection = quillseal::WaylandConnection::open();
-  const bool isUsable = connection != nullptr && quillseal::reachesApplications(*connection);
+  auto connection = quillseal::linux::WaylandConnection::open();
+  const bool isUsable = connection != nullptr && quillseal::linux::reachesApplications(*connection);
   return isUsable ? std::move(connection) : nullptr;
 }
 
@@ -88,23 +88,23 @@ void obey(Command command, quillseal::AppDelegate& agent) {
 
 int visit(Command command) {
   if (command == Command::background) return 0;
-  if (quillseal::SingleInstance::handOver(command)) return 0;
+  if (quillseal::linux::SingleInstance::handOver(command)) return 0;
   report("the agent that runs in this session does not answer. End it and start again.");
   return failed;
 }
 
-int runAgent(const CommandLine& commandLine, quillseal::SingleInstance& instance,
-             std::unique_ptr<quillseal::WaylandConnection> wayland) {
+int runAgent(const CommandLine& commandLine, quillseal::linux::SingleInstance& instance,
+             std::unique_ptr<quillseal::linux::WaylandConnection> wayland) {
   const bool quiet = commandLine.command == Command::background;
-  quillseal::JournalLog log(quiet ? quillseal::JournalLog::Echo::none
-                                  : quillseal::JournalLog::Echo::standardError);
-  if (!quillseal::lockMemoryOfSecrets())
+  quillseal::linux::JournalLog log(quiet ? quillseal::linux::JournalLog::Echo::none
+                                         : quillseal::linux::JournalLog::Echo::standardError);
+  if (!quillseal::linux::lockMemoryOfSecrets())
     log.write("[start] memory cannot be locked: a PIN or passphrase may reach the swap area");
-  quillseal::LinuxDesktop desktop(commandLine, log, std::move(wayland));
+  quillseal::linux::LinuxDesktop desktop(commandLine, log, std::move(wayland));
   quillseal::AppDelegate agent(desktop.services());
   agent.applicationDidFinishLaunching();
   instance.onCommand([&](Command command) { obey(command, agent); });
-  const quillseal::TerminationSignals signals([] { QApplication::quit(); });
+  const quillseal::linux::TerminationSignals signals([] { QApplication::quit(); });
   obey(commandLine.command, agent);
   log.write("[start] ready");
   const int status = QApplication::exec();
@@ -113,18 +113,19 @@ int runAgent(const CommandLine& commandLine, quillseal::SingleInstance& instance
 }
 
 int run(int argc, char** argv, const CommandLine& commandLine) {
-  std::unique_ptr<quillseal::WaylandConnection> wayland = compositorThatReachesApplications();
+  std::unique_ptr<quillseal::linux::WaylandConnection> wayland =
+      compositorThatReachesApplications();
   // Qt ends the program where it finds no display. A connection starts Xwayland, so none is made
   // where it is not needed. This connection stays until Qt has its own: an X server without another
   // client may start anew, and refuse Qt, when its last one leaves.
-  quillseal::x11::Connection xServer;
+  quillseal::linux::x11::Connection xServer;
   if (wayland == nullptr || !hasWaylandPlugin()) xServer.reset(xcb_connect(nullptr, nullptr));
-  const quillseal::PlatformChoice choice =
-      quillseal::platformFor({.hasXServer = xServer && xcb_connection_has_error(xServer.get()) == 0,
-                              .reachesApplicationsByWayland = wayland != nullptr,
-                              .hasWayland = !environment("WAYLAND_DISPLAY").empty(),
-                              .hasWaylandPlugin = hasWaylandPlugin(),
-                              .wantedPlatform = environment("QT_QPA_PLATFORM")});
+  const quillseal::linux::PlatformChoice choice = quillseal::linux::platformFor(
+      {.hasXServer = xServer && xcb_connection_has_error(xServer.get()) == 0,
+       .reachesApplicationsByWayland = wayland != nullptr,
+       .hasWayland = !environment("WAYLAND_DISPLAY").empty(),
+       .hasWaylandPlugin = hasWaylandPlugin(),
+       .wantedPlatform = environment("QT_QPA_PLATFORM")});
   if (choice.platform.empty()) {
     report(choice.obstacle);
     return failed;
@@ -134,7 +135,8 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
   qputenv("TSS2_LOG", "all+none");
 
   constexpr std::chrono::seconds patience{5};
-  if (!quillseal::sessionBusAnswers(patience)) qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+  if (!quillseal::linux::sessionBusAnswers(patience))
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
   // The session manager is not needed, and Qt would wait for its first answer without a time-out.
   QApplication::setAttribute(Qt::AA_DisableSessionManager);
 
@@ -144,20 +146,20 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
   QApplication::setDesktopFileName(QStringLiteral("quillseal"));
   QApplication::setWindowIcon(productIcon());
 
-  quillseal::SingleInstance instance;
+  quillseal::linux::SingleInstance instance;
   switch (instance.claim()) {
-    case quillseal::SingleInstance::Role::visitor:
+    case quillseal::linux::SingleInstance::Role::visitor:
       return visit(commandLine.command);
-    case quillseal::SingleInstance::Role::alone:
+    case quillseal::linux::SingleInstance::Role::alone:
       report(
           "there is no session bus that answers: notifications and commands from other starts do "
           "not work.");
       break;
-    case quillseal::SingleInstance::Role::agent:
+    case quillseal::linux::SingleInstance::Role::agent:
       break;
   }
   if (commandLine.command == Command::quit) return 0;
-  if (!quillseal::accessibilityAnswers(patience)) qputenv("AT_SPI_BUS_ADDRESS", "disabled:");
+  if (!quillseal::linux::accessibilityAnswers(patience)) qputenv("AT_SPI_BUS_ADDRESS", "disabled:");
   return runAgent(commandLine, instance, std::move(wayland));
 }
 
@@ -167,13 +169,13 @@ int main(int argc, char** argv) {
   // A program that ignores this signal has it ignored in those that it starts, which cannot tell
   // then how their own ended.
   static_cast<void>(std::signal(SIGCHLD, SIG_DFL));
-  quillseal::shieldProcess();
-  quillseal::returnLargeBlocks();
+  quillseal::linux::shieldProcess();
+  quillseal::linux::returnLargeBlocks();
   const std::vector<std::string_view> arguments(argv + 1, argv + argc);
-  const CommandLine commandLine = quillseal::parseCommandLine(arguments);
+  const CommandLine commandLine = quillseal::linux::parseCommandLine(arguments);
   switch (commandLine.command) {
     case Command::help:
-      static_cast<void>(std::fputs(std::string(quillseal::helpText()).c_str(), stdout));
+      static_cast<void>(std::fputs(std::string(quillseal::linux::helpText()).c_str(), stdout));
       return 0;
     case Command::version:
       std::puts("quillseal " QUILLSEAL_VERSION);

@@ -15,7 +15,7 @@
 #include "browsers/BrowserLauncher.h"
 #include "browsers/Browsers.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using namespace std::chrono_literals;
@@ -259,4 +259,4 @@ TEST_F(BrowserLauncherTest, TellsWhyNothingOpens) {
 }
 
 }  // namespace
-}  // namespace quillseal
+}  // namespace quillseal::linux

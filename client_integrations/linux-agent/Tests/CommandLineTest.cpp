@@ -6,7 +6,7 @@
 
 #include "session/CommandLine.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using testing::HasSubstr;
@@ -72,4 +72,4 @@ TEST(CommandLineTest, ASecondStartOpensTheSettings) {
 }
 
 }  // namespace
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -19,7 +19,7 @@
 #include "network/CurlTransport.h"
 #include "session/PollLoop.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using desktop::HttpPost;
@@ -267,4 +267,4 @@ TEST(CurlTransportErrors, AreToldAsWhatTheyMeanToTheUser) {
 }
 
 }  // namespace
-}  // namespace quillseal
+}  // namespace quillseal::linux

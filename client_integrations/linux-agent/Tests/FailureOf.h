@@ -12,7 +12,7 @@ std::string failureOf(const auto& action) {
     action();
   } catch (const Cancelled& cancelled) {
     return std::string("cancelled: ") + cancelled.what();
-  } catch (const KeyFailure& failure) {
+  } catch (const linux::KeyFailure& failure) {
     return failure.what();
   }
   return "(no failure)";

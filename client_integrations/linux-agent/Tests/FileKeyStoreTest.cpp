@@ -18,7 +18,7 @@
 #include "keys/FileKeyStore.h"
 #include "keys/KeyFile.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using testing::failureOf;
@@ -27,7 +27,7 @@ using ::testing::StartsWith;
 namespace fs = std::filesystem;
 
 constexpr ScryptCost cheap{.n = 16, .r = 8, .p = 1};
-constexpr p256::Digest digest{0x9f, 0x86, 0xd0, 0x81, 0x88, 0x4c, 0x7d, 0x65, 0x9a, 0x2f, 0xea,
+constexpr P256::Digest digest{0x9f, 0x86, 0xd0, 0x81, 0x88, 0x4c, 0x7d, 0x65, 0x9a, 0x2f, 0xea,
                               0xa0, 0xc5, 0x5a, 0xd0, 0x15, 0xa3, 0xbf, 0x4f, 0x1b, 0x2b, 0x0b,
                               0x82, 0x2c, 0xd1, 0x5d, 0x6c, 0x15, 0xb0, 0xf0, 0x0a, 0x08};
 
@@ -53,8 +53,8 @@ TEST_F(FileKeyStoreTest, SignsSoThatThePublicKeyVerifies) {
   ASSERT_TRUE(store.holdsKey());
   EXPECT_THAT(store.describe(), StartsWith("The key is in the file “"));
 
-  const p256::Point publicKey = store.publicKey();
-  p256::Digest other = digest;
+  const P256::Point publicKey = store.publicKey();
+  P256::Digest other = digest;
   other.back() ^= 1U;
   // Enough to meet integers with leading zero bytes, which DER leaves out.
   for (int round = 0; round < 200; ++round) {
@@ -84,7 +84,7 @@ TEST_F(FileKeyStoreTest, AnotherSecretOpensNothing) {
 
 TEST_F(FileKeyStoreTest, CreatingReplacesTheKey) {
   store.create(passphrase());
-  const p256::Point first = store.publicKey();
+  const P256::Point first = store.publicKey();
   store.create(SecretBytes("another passphrase"));
   EXPECT_NE(store.publicKey(), first);
   EXPECT_FALSE(store.sign(digest, passphrase()));
@@ -130,10 +130,10 @@ TEST_F(FileKeyStoreTest, AnExchangedPublicHalfIsNoticed) {
   other.create(passphrase());
 
   constexpr std::array<std::string_view, 2> labels{"PUBLIC KEY", "ENCRYPTED PRIVATE KEY"};
-  const auto own = keyfile::read(testing::contentsOf(path), labels);
-  const auto foreign = keyfile::read(testing::contentsOf(otherPath), labels);
+  const auto own = KeyFile::read(testing::contentsOf(path), labels);
+  const auto foreign = KeyFile::read(testing::contentsOf(otherPath), labels);
   ASSERT_TRUE(own && foreign);
-  testing::overwrite(path, keyfile::write("", std::array{foreign->front(), own->back()}));
+  testing::overwrite(path, KeyFile::write("", std::array{foreign->front(), own->back()}));
   EXPECT_THAT(signFailure(), HasSubstr("tampered with"));
 }
 
@@ -141,7 +141,7 @@ TEST_F(FileKeyStoreTest, AnExchangedPublicHalfIsNoticed) {
 TEST_F(FileKeyStoreTest, AFileThatTakesTooLongIsNotOpened) {
   store.create(passphrase());
   constexpr std::array<std::string_view, 2> labels{"PUBLIC KEY", "ENCRYPTED PRIVATE KEY"};
-  auto blocks = keyfile::read(testing::contentsOf(path), labels);
+  auto blocks = KeyFile::read(testing::contentsOf(path), labels);
   ASSERT_TRUE(blocks);
   std::vector<std::uint8_t>& key = blocks->back().bytes;
   // The INTEGERs N, r and p (RFC 7914, section 7.1).
@@ -150,7 +150,7 @@ TEST_F(FileKeyStoreTest, AFileThatTakesTooLongIsNotOpened) {
   const auto found = std::search(key.begin(), key.end(), asked.begin(), asked.end());
   ASSERT_NE(found, key.end());
   std::copy(more.begin(), more.end(), found);
-  testing::overwrite(path, keyfile::write("", *blocks));
+  testing::overwrite(path, KeyFile::write("", *blocks));
   EXPECT_THAT(signFailure(), HasSubstr("is damaged"));
 }
 
@@ -183,7 +183,7 @@ TEST_F(FileKeyStoreTest, WhatSomebodyElsePutThereIsNotUsed) {
 // A full disk, as far as a process can have its own: the file may not grow beyond 100 bytes.
 TEST_F(FileKeyStoreTest, AFullDiskKeepsTheOldKey) {
   store.create(passphrase());
-  const p256::Point before = store.publicKey();
+  const P256::Point before = store.publicKey();
   rlimit usual{};
   ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &usual), 0);
   const auto handler = std::signal(SIGXFSZ, SIG_IGN);
@@ -219,4 +219,4 @@ TEST(UserDataFolder, FollowsTheBaseDirectoryRules) {
 }
 
 }  // namespace
-}  // namespace quillseal
+}  // namespace quillseal::linux

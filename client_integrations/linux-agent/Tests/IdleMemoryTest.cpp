@@ -11,7 +11,7 @@
 #include "Quillseal/ContentRisk.h"
 #include "session/IdleMemory.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 constexpr std::size_t mebibyte = 1U << 20U;
@@ -60,4 +60,4 @@ TEST(IdleMemory, ConstantsAreThereAgainWhenTheyAreNeeded) {
 }
 
 }  // namespace
-}  // namespace quillseal
+}  // namespace quillseal::linux

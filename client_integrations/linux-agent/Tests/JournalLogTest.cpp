@@ -9,7 +9,7 @@
 
 #include "session/JournalLog.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 TEST(JournalLogTest, DoesNotWaitUntilSomebodyReadsItsOutput) {
@@ -39,4 +39,4 @@ TEST(JournalLogTest, DoesNotWaitUntilSomebodyReadsItsOutput) {
 }
 
 }  // namespace
-}  // namespace quillseal
+}  // namespace quillseal::linux

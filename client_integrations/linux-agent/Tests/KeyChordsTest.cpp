@@ -6,7 +6,7 @@
 #include "session/LinuxWording.h"
 #include "x11/KeyChords.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using desktop::Key;
@@ -62,4 +62,4 @@ TEST(KeyChordsTest, OtherApplicationsGetTheUsualChords) {
 }
 
 }  // namespace
-}  // namespace quillseal
+}  // namespace quillseal::linux

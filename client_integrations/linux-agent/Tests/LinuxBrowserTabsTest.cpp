@@ -23,7 +23,7 @@
 #include "browsers/TabMessages.h"
 #include "browsers/TabSocket.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using desktop::TabReturn;
@@ -444,4 +444,4 @@ TEST(TabSocketTest, AsRootRecognisesAnotherUser) {
 }
 
 }  // namespace
-}  // namespace quillseal
+}  // namespace quillseal::linux

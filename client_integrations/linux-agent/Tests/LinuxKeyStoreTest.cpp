@@ -16,7 +16,7 @@
 #include "keys/KeyFailure.h"
 #include "keys/LinuxKeyStore.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using ::testing::ElementsAre;
@@ -24,7 +24,7 @@ using testing::failureOf;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
-constexpr p256::Digest digest{7, 7, 7};
+constexpr P256::Digest digest{7, 7, 7};
 constexpr auto cancel = std::nullopt;
 
 /// Answers from a list and keeps the questions. One that is not expected is cancelled.
@@ -83,7 +83,7 @@ class ScriptedTpm final : public KeyMedium {
   std::string evidentObstacle() const override { return state_.obstacle; }
   bool holdsKey() const noexcept override { return file_.holdsKey(); }
   void create(const SecretBytes& secret) override { file_.create(secret); }
-  p256::Point publicKey() const override {
+  P256::Point publicKey() const override {
     ++state_.uses;
     return file_.publicKey();
   }
@@ -92,7 +92,7 @@ class ScriptedTpm final : public KeyMedium {
     ++state_.kept;
     return {this, [this](const void*) { --state_.kept; }};
   }
-  std::optional<std::vector<std::uint8_t>> sign(const p256::Digest& message,
+  std::optional<std::vector<std::uint8_t>> sign(const P256::Digest& message,
                                                 const SecretBytes& secret) const override {
     if (!state_.foreignSignatures) return file_.sign(message, secret);
     other_.create(secret);
@@ -124,9 +124,9 @@ class LinuxKeyStoreTest : public ::testing::Test {
     return store->load(desktop::Prompt{.reason = "Sign “x” as y", .medium = "LinkedIn Post"})
         ->sign(digest);
   }
-  p256::Point publicKey() {
+  P256::Point publicKey() {
     const auto bytes = store->load(std::nullopt)->publicKey();
-    p256::Point point{};
+    P256::Point point{};
     if (bytes && bytes->size() == point.size())
       std::copy(bytes->begin(), bytes->end(), point.begin());
     return point;
@@ -150,7 +150,7 @@ TEST_F(LinuxKeyStoreTest, SignsWithTheTpmWhereItIsUsable) {
 
   prompt.answers = {pin};
   const auto signature = sign();
-  EXPECT_TRUE(p256::verifies({.publicKey = publicKey(), .digest = digest, .signature = signature}));
+  EXPECT_TRUE(P256::verifies({.publicKey = publicKey(), .digest = digest, .signature = signature}));
   EXPECT_EQ(prompt.asked.back().reason, "Sign “x” as y");
   EXPECT_EQ(prompt.asked.back().destination, "LinkedIn Post");
   EXPECT_EQ(prompt.asked.back().medium, "The key is in the TPM.");
@@ -197,7 +197,7 @@ TEST_F(LinuxKeyStoreTest, ThreeWrongTriesEndTheMatter) {
 
 TEST_F(LinuxKeyStoreTest, CancellingIsNoFailureAndCostsNothing) {
   createWith(pin);
-  const p256::Point before = publicKey();
+  const P256::Point before = publicKey();
   prompt.answers = {"wrong1", cancel};
   EXPECT_EQ(failureOf([&] { sign(); }), "cancelled: no PIN was entered.");
   prompt.answers = {cancel};
@@ -245,7 +245,7 @@ TEST_F(LinuxKeyStoreTest, AKeyThatCannotSignIsReportedBeforeAnybodyIsAsked) {
 TEST_F(LinuxKeyStoreTest, NoMediumTakesOverSilently) {
   tpm.obstacle = "there is no TPM.";
   createWith(passphrase);
-  const p256::Point inFile = publicKey();
+  const P256::Point inFile = publicKey();
 
   tpm.obstacle.clear();
   EXPECT_EQ(publicKey(), inFile);
@@ -259,7 +259,7 @@ TEST_F(LinuxKeyStoreTest, NoMediumTakesOverSilently) {
 
   createWith(pin);
   EXPECT_EQ(store->place(), KeyPlace::tpm);
-  const p256::Point inTpm = publicKey();
+  const P256::Point inTpm = publicKey();
   EXPECT_NE(inTpm, inFile);
   EXPECT_FALSE(std::filesystem::exists(folder.path() / "file" / "key"));
 
@@ -323,4 +323,4 @@ TEST(MakeKeyStore, TakesASimulatorOnlyByName) {
 }
 
 }  // namespace
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -15,7 +15,7 @@
 #include "presence/LinuxPresence.h"
 #include "session/PollLoop.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using desktop::PresencePolicy;
@@ -193,4 +193,4 @@ TEST(FingerprintTouch, UnknownWordsAreAFailure) {
 }
 
 }  // namespace
-}  // namespace quillseal
+}  // namespace quillseal::linux

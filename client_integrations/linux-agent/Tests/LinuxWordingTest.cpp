@@ -16,7 +16,7 @@
 #include "session/LinuxWording.h"
 
 // The agent with the words of each desktop. This build has a server key and names no server.
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using testing::FakeDesktop;
@@ -282,4 +282,4 @@ TEST(LinuxWording, NamesASimulatorAndADemonstration) {
 }
 
 }  // namespace
-}  // namespace quillseal
+}  // namespace quillseal::linux

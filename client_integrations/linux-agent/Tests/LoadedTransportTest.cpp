@@ -10,7 +10,7 @@
 #include "network/LoadedTransport.h"
 #include "session/PollLoop.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using desktop::HttpResponse;
@@ -45,4 +45,4 @@ TEST(LoadedTransport, SendsThroughTheModuleOrTellsWhatIsWrongWithIt) {
 }
 
 }  // namespace
-}  // namespace quillseal
+}  // namespace quillseal::linux

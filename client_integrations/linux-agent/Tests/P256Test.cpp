@@ -9,7 +9,7 @@
 #include "core/text/Digest.h"
 #include "keys/P256.h"
 
-namespace quillseal::p256 {
+namespace quillseal::linux::P256 {
 namespace {
 
 std::vector<std::uint8_t> bytesOf(std::string_view text) {
@@ -79,4 +79,4 @@ TEST(P256, PadsCoordinates) {
 }
 
 }  // namespace
-}  // namespace quillseal::p256
+}  // namespace quillseal::linux::P256

@@ -4,7 +4,7 @@
 
 #include "session/PollLoop.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 TEST(PollLoop, RunsWhatManyThreadsPostInTheirOrder) {
@@ -30,4 +30,4 @@ TEST(PollLoop, RunsWhatManyThreadsPostInTheirOrder) {
 }
 
 }  // namespace
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -18,7 +18,7 @@
 #include "session/QtDefaults.h"
 #include "session/QtDescriptors.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using testing::contentsOf;
@@ -308,4 +308,4 @@ TEST_F(QtDescriptorsTest, TellsReadinessUntilTheTicketIsDropped) {
 }
 
 }  // namespace
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -12,7 +12,7 @@
 #include "session/QtMainLoop.h"
 #include "x11/QtPasteboard.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using namespace std::string_literals;
@@ -50,4 +50,4 @@ TEST(QtPasteboard, LeavesOutTheNulsThatEndOtherProgramsStrings) {
 }
 
 }  // namespace
-}  // namespace quillseal
+}  // namespace quillseal::linux

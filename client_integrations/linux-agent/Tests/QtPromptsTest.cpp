@@ -24,7 +24,7 @@
 #include "windows/QtSecretPrompt.h"
 #include "windows/TrayStatusItem.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using ::testing::ElementsAre;
@@ -229,4 +229,4 @@ TEST_F(QtPromptsTest, TheMenuOfTheShieldIsShownAsItIsDescribed) {
 }
 
 }  // namespace
-}  // namespace quillseal
+}  // namespace quillseal::linux

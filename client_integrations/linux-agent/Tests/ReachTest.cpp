@@ -5,7 +5,7 @@
 
 #include "session/Reach.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using testing::HasSubstr;
@@ -65,4 +65,4 @@ TEST(ReachTest, ChoosesThePlatformThatReachesMost) {
 }
 
 }  // namespace
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -9,7 +9,7 @@
 namespace quillseal::testing {
 
 /// Serves the loop until `condition` holds. Throws when it never does.
-inline void runUntil(PollLoop& loop, const std::function<bool()>& condition) {
+inline void runUntil(linux::PollLoop& loop, const std::function<bool()>& condition) {
   constexpr std::chrono::milliseconds pause{2};
   const auto end = loop.now() + std::chrono::seconds(20);
   while (!condition()) {

@@ -8,7 +8,7 @@
 
 #include "keys/SecretBytes.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 TEST(SecretBytes, AreInLockedMemoryThatHoldsMoreThanASignatureNeeds) {
@@ -32,4 +32,4 @@ TEST(SecretBytes, AreInLockedMemoryThatHoldsMoreThanASignatureNeeds) {
 }
 
 }  // namespace
-}  // namespace quillseal
+}  // namespace quillseal::linux

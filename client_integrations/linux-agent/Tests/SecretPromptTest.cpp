@@ -5,7 +5,7 @@
 
 #include "keys/SecretPrompt.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 TEST(SecretPrompt, ObjectsToSecretsThatAreSoonGuessed) {
@@ -57,4 +57,4 @@ TEST(SecretBytes, LeavesNothingBehind) {
 }
 
 }  // namespace
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -10,8 +10,10 @@ namespace quillseal::testing {
 
 /// Whether a server, which shares nothing with the key stores, accepts the signature: made with
 /// this key, over these bytes taken as a finished digest, in strict DER.
-inline bool isAcceptedByServer(const p256::Claim& claim) {
-  const auto text = [](p256::Bytes bytes) { return std::string(bytes.begin(), bytes.end()); };
+inline bool isAcceptedByServer(const linux::P256::Claim& claim) {
+  const auto text = [](linux::P256::Bytes bytes) {
+    return std::string(bytes.begin(), bytes.end());
+  };
   std::string digestHex;
   for (const std::uint8_t byte : claim.digest)
     for (const int digit : {byte / 16, byte % 16})

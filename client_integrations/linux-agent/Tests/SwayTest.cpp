@@ -27,7 +27,7 @@
 #include "wayland/SwayIpc.h"
 #include "wayland/WaylandConnection.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using namespace std::chrono_literals;
@@ -285,4 +285,4 @@ TEST(SwayConfiguration, IsSearchedForTheKeys) {
 }
 
 }  // namespace
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -49,8 +49,8 @@ PrivateBus::~PrivateBus() {
 
 PresenceServices::PresenceServices(Script script) : script_(std::move(script)) {
   for (const char* name : {"net.reactivated.Fprint", "org.freedesktop.PolicyKit1"})
-    SystemBus::check(::sd_bus_request_name(bus_.get(), name, 0));
-  SystemBus::check(::sd_bus_add_fallback(bus_.get(), nullptr, "/", handle, this));
+    linux::SystemBus::check(::sd_bus_request_name(bus_.get(), name, 0));
+  linux::SystemBus::check(::sd_bus_add_fallback(bus_.get(), nullptr, "/", handle, this));
   thread_ = std::thread([this] {
     static_cast<void>(bus_.wait(
         {.interrupt = stop_, .limit = std::chrono::minutes(1), .isDone = [] { return false; }}));

@@ -58,8 +58,8 @@ class PresenceServices {
 
   Script script_;
   std::vector<std::string> calls_;
-  SystemBus bus_;
-  Interrupt stop_;
+  linux::SystemBus bus_;
+  linux::Interrupt stop_;
   std::thread thread_;
 };
 

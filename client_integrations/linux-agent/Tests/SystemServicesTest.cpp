@@ -9,7 +9,7 @@
 #include "session/SystemMachineIdentity.h"
 #include "session/SystemWallClock.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using ::testing::MatchesRegex;
@@ -79,4 +79,4 @@ TEST(SystemMachineIdentity, IsAStableUuidOrNothing) {
 }
 
 }  // namespace
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -4,7 +4,7 @@
 
 #include "browsers/TabMessages.h"
 
-namespace quillseal::TabMessages {
+namespace quillseal::linux::TabMessages {
 namespace {
 
 std::string withLength(std::uint32_t length, std::string_view bytes) {
@@ -112,4 +112,4 @@ TEST(TabMessages, RefusesWhatIsNoSuchMessage) {
 }
 
 }  // namespace
-}  // namespace quillseal::TabMessages
+}  // namespace quillseal::linux::TabMessages

@@ -17,7 +17,7 @@
 #include "browsers/TabMessages.h"
 #include "browsers/TabSocket.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using namespace std::chrono_literals;
@@ -271,4 +271,4 @@ TEST_F(TabRelayTest, DoesNotWaitForABrowserThatReadsNothing) {
 }
 
 }  // namespace
-}  // namespace quillseal
+}  // namespace quillseal::linux

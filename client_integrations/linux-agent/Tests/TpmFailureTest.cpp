@@ -5,7 +5,7 @@
 
 #include "keys/TpmFailure.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using ::testing::HasSubstr;
@@ -64,4 +64,4 @@ TEST(TpmFailure, SaysWhyTheDeviceDoesNotOpen) {
 }
 
 }  // namespace
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -14,14 +14,14 @@
 #include "keys/KeyFailure.h"
 #include "keys/TpmKeyStore.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using testing::failureOf;
 using ::testing::HasSubstr;
 namespace fs = std::filesystem;
 
-constexpr p256::Digest digest{1, 2, 3, 4, 5};
+constexpr P256::Digest digest{1, 2, 3, 4, 5};
 
 SecretBytes pin() {
   return SecretBytes("271828");
@@ -64,7 +64,7 @@ TEST_F(TpmKeyStoreTest, SignsSoThatThePublicKeyVerifies) {
 
 TEST_F(TpmKeyStoreTest, SurvivesARestartOfTheTpm) {
   store.create(pin());
-  const p256::Point publicKey = store.publicKey();
+  const P256::Point publicKey = store.publicKey();
   tpm.reset();
   EXPECT_THAT(store.obstacle(), HasSubstr("cannot be reached"));
   EXPECT_TRUE(store.holdsKey());
@@ -186,4 +186,4 @@ TEST_F(TpmKeyStoreTest, OnlyASimulatorIsCalledOne) {
 }
 
 }  // namespace
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -23,7 +23,7 @@
 #include "wayland/WaylandReach.h"
 #include "wayland/WaylandWindows.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using namespace std::chrono_literals;
@@ -527,4 +527,4 @@ TEST(WaylandLayout, FindsTheKeyInEachOfTheLayouts) {
 }
 
 }  // namespace
-}  // namespace quillseal
+}  // namespace quillseal::linux

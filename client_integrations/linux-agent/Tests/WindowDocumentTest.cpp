@@ -4,7 +4,7 @@
 
 #include "x11/WindowDocument.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 struct Change {
@@ -57,4 +57,4 @@ TEST(WindowDocumentTest, DiffersWhenTheDocumentDoes) {
 }
 
 }  // namespace
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -67,13 +67,13 @@ TEST_F(ServerClientTest, ReadsTheSettingsAfreshAndTrimmed) {
     const char* setting;
     std::string expected;
   };
-  const std::string fallback(builtInServer::url());
+  const std::string fallback(BuiltInServer::url());
   for (const Case& each : {Case{"", fallback}, Case{"   ", fallback}, Case{"\n", fallback},
                            Case{" https://a.example/ ", "https://a.example/"}}) {
     desktop_.strings["ServerURL"] = each.setting;
     EXPECT_EQ(client_.effectiveServerURL(), each.expected);
   }
-  EXPECT_EQ(client_.effectiveAPIKey(), builtInServer::apiKey());
+  EXPECT_EQ(client_.effectiveAPIKey(), BuiltInServer::apiKey());
   desktop_.strings["APIKey"] = " abc ";
   EXPECT_EQ(client_.effectiveAPIKey(), "abc");
 }

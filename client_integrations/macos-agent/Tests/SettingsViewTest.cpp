@@ -116,7 +116,7 @@ class SettingsViewTest : public ::testing::Test {
 TEST_F(SettingsViewTest, OfAPackagedBuildShowsTheServerOnly) {
   open();
   EXPECT_THAT(section("Server"),
-              ElementsAre("callout secondary selectable: " + std::string(builtInServer::url())));
+              ElementsAre("callout secondary selectable: " + std::string(BuiltInServer::url())));
   EXPECT_EQ(desktop_.form.sections.size(), 2U);
   EXPECT_EQ(desktop_.form.width, 460);
   EXPECT_EQ(desktop_.form.height, 400);
@@ -130,7 +130,7 @@ TEST_F(SettingsViewTest, OfADevelopmentBuildStoresWhatIsTyped) {
   const std::string url = "Server URL", key = "Native API Key (from server log)";
   open(Build::development);
   EXPECT_THAT(section(header),
-              ElementsAre("field " + url + " = " + std::string(builtInServer::url()),
+              ElementsAre("field " + url + " = " + std::string(BuiltInServer::url()),
                           "field " + key + " =  (masked)", caption));
 
   row<desktop::FormField>(url).changed("http://localhost:1 ");

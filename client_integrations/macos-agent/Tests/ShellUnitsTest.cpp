@@ -67,7 +67,7 @@ class MenuBarManagerTest : public ::testing::Test {
   SigningCoordinator coordinator_{desktop_.services()};
   std::unique_ptr<MenuBarManager> manager_ =
       std::make_unique<MenuBarManager>(desktop_.services(), coordinator_);
-  const std::string builtInLine_ = "Server: " + std::string(builtInServer::url());
+  const std::string builtInLine_ = "Server: " + std::string(BuiltInServer::url());
 };
 
 TEST_F(MenuBarManagerTest, ShowsItsItemsInOrder) {

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// What an installed application says about itself in its desktop file.
 struct DesktopEntry {
@@ -46,4 +46,4 @@ class DesktopEntries {
   [[nodiscard]] virtual bool open(const std::string& url, std::string_view id) = 0;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

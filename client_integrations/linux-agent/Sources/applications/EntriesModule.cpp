@@ -3,6 +3,6 @@
 #include "applications/GioDesktopEntries.h"
 
 extern "C" __attribute__((visibility("default"))) void quillseal_make_desktop_entries(
-    std::unique_ptr<quillseal::DesktopEntries>& made) {
-  made = std::make_unique<quillseal::GioDesktopEntries>();
+    std::unique_ptr<quillseal::linux::DesktopEntries>& made) {
+  made = std::make_unique<quillseal::linux::GioDesktopEntries>();
 }

@@ -5,7 +5,7 @@
 #include "applications/DesktopEntries.h"
 
 /// The module that holds the desktop entries: GIO and its libraries.
-namespace quillseal::EntriesModule {
+namespace quillseal::linux::EntriesModule {
 
 inline constexpr const char* fileName = "quillseal-entries.so";
 
@@ -13,4 +13,4 @@ inline constexpr const char* fileName = "quillseal-entries.so";
 using Make = void(std::unique_ptr<DesktopEntries>& made);
 inline constexpr const char* make = "quillseal_make_desktop_entries";
 
-}  // namespace quillseal::EntriesModule
+}  // namespace quillseal::linux::EntriesModule

@@ -6,7 +6,7 @@
 
 #include <gio/gdesktopappinfo.h>
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 constexpr std::chrono::minutes answerHolds{5};
@@ -119,4 +119,4 @@ bool GioDesktopEntries::open(const std::string& url, std::string_view id) {
   return g_app_info_launch_uris(G_APP_INFO(info.get()), &uris, nullptr, nullptr) != FALSE;
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -7,7 +7,7 @@
 
 #include "applications/DesktopEntries.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// Desktop files as GIO reads them, which keeps itself up to date. One signature asks several times
 /// about a window, and every installed application is looked at, so the last answer about one holds
@@ -29,4 +29,4 @@ class GioDesktopEntries final : public DesktopEntries {
   std::optional<Answer> lastAnswer_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

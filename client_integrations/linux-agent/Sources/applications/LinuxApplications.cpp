@@ -3,7 +3,7 @@
 #include "browsers/Browsers.h"
 #include "x11/KeyChords.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using desktop::InstalledApplication;
@@ -65,4 +65,4 @@ void LinuxApplications::open(const std::string& url) {
   launcher_.open(url, {});
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

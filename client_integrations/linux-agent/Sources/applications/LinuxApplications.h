@@ -9,7 +9,7 @@
 #include "desktop/Applications.h"
 #include "desktop/MainLoop.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// What holds for applications under X11 and Wayland alike. An instance is a window; a location is
 /// the id of a desktop file, and so is a bundle identifier, but that of a browser is the same under
@@ -43,4 +43,4 @@ class LinuxApplications : public desktop::Applications {
   BrowserLauncher launcher_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -6,7 +6,7 @@
 #include "applications/EntriesModule.h"
 #include "core/text/Error.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 LoadedDesktopEntries::LoadedDesktopEntries(LoadedModule module) : module_(std::move(module)) {}
 
@@ -35,4 +35,4 @@ bool LoadedDesktopEntries::open(const std::string& url, std::string_view id) {
   return entries().open(url, id);
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -5,7 +5,7 @@
 #include "applications/DesktopEntries.h"
 #include "session/LoadedModule.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// The entries of `EntriesModule`, which is loaded with the first question.
 class LoadedDesktopEntries final : public DesktopEntries {
@@ -24,4 +24,4 @@ class LoadedDesktopEntries final : public DesktopEntries {
   std::unique_ptr<DesktopEntries> entries_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -9,7 +9,7 @@
 #include "browsers/TabSocket.h"
 #include "session/PrivateFolder.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using desktop::InstalledApplication;
@@ -75,4 +75,4 @@ std::string BrowserLauncher::pageFor(const std::string& url, const DesktopEntry&
   }
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

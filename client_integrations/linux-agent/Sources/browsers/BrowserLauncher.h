@@ -9,7 +9,7 @@
 #include "desktop/Applications.h"
 #include "desktop/MainLoop.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// Opens web pages in the browsers that are installed. Main thread.
 class BrowserLauncher {
@@ -40,4 +40,4 @@ class BrowserLauncher {
   std::deque<OpenedPage> pages_;  ///< oldest first
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

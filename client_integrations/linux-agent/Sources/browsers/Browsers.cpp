@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-namespace quillseal::Browsers {
+namespace quillseal::linux::Browsers {
 namespace {
 
 struct Row {
@@ -59,4 +59,4 @@ bool isProgramOf(std::string_view identifier, std::string_view program) {
       rows, [&](const Row& row) { return row.identifier == identifier && row.program == program; });
 }
 
-}  // namespace quillseal::Browsers
+}  // namespace quillseal::linux::Browsers

@@ -4,7 +4,7 @@
 #include <string_view>
 
 /// The browsers that are known by name, in one table. Pure functions.
-namespace quillseal::Browsers {
+namespace quillseal::linux::Browsers {
 
 /// What a browser may be recognised by, each empty when it is not known.
 struct Traits {
@@ -20,4 +20,4 @@ struct Traits {
 /// Whether the browser with this identifier runs as this program, by its file name.
 [[nodiscard]] bool isProgramOf(std::string_view identifier, std::string_view program);
 
-}  // namespace quillseal::Browsers
+}  // namespace quillseal::linux::Browsers

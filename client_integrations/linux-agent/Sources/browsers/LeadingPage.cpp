@@ -11,7 +11,7 @@
 
 #include "browsers/TabSocket.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 namespace fs = std::filesystem;
@@ -66,4 +66,4 @@ LeadingPage::~LeadingPage() {
 LeadingPage::LeadingPage(LeadingPage&& other) noexcept
     : path_(std::exchange(other.path_, std::filesystem::path())) {}
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

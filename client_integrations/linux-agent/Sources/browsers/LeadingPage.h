@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// A page on this computer that leads the browser which opens it on to another address: a file that
 /// only this user may read, deleted at the end of this object's life. Command lines are open to all
@@ -32,4 +32,4 @@ class LeadingPage {
   std::filesystem::path path_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -13,7 +13,7 @@
 #include "browsers/TabMessages.h"
 #include "browsers/TabSocket.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using desktop::Ticket;
@@ -288,4 +288,4 @@ Ticket LinuxBrowserTabs::closeAndRestore(const desktop::TabReturn& request,
       [done = std::move(done), isDone](const Answers& answers) { done(isDone(answers)); });
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -8,7 +8,7 @@
 #include "desktop/MainLoop.h"
 #include "session/Descriptors.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// The tabs of browsers in which the Quillseal extension is installed: each connects by way of its
 /// relay, once for every profile in use. A browser is named as `Browsers` identifies it. One that
@@ -40,4 +40,4 @@ class LinuxBrowserTabs final : public desktop::BrowserTabs {
   std::shared_ptr<Hub> hub_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -9,7 +9,7 @@
 #include "core/signing/SignedBlock.h"
 #include "core/text/StrictJson.h"
 
-namespace quillseal::TabMessages {
+namespace quillseal::linux::TabMessages {
 namespace {
 
 using Json = nlohmann::ordered_json;
@@ -135,4 +135,4 @@ Greeting readGreeting(std::string_view message) {
                 [](const JsonObject& object) { return Greeting{object.string("program")}; });
 }
 
-}  // namespace quillseal::TabMessages
+}  // namespace quillseal::linux::TabMessages

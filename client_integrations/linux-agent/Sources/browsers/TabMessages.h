@@ -11,7 +11,7 @@
 /// What the agent and the browser extension say to each other, by way of the relay: JSON objects,
 /// each behind its length in four bytes of the machine's order, as browsers frame native messages
 /// (https://developer.chrome.com/docs/extensions/develop/concepts/native-messaging).
-namespace quillseal::TabMessages {
+namespace quillseal::linux::TabMessages {
 
 /// No message is longer; browsers themselves would send up to 64 MiB.
 inline constexpr std::size_t longestMessage = 4096;
@@ -86,4 +86,4 @@ struct Greeting {
 [[nodiscard]] Answer readAnswer(std::string_view message);
 [[nodiscard]] Greeting readGreeting(std::string_view message);
 
-}  // namespace quillseal::TabMessages
+}  // namespace quillseal::linux::TabMessages

@@ -14,7 +14,7 @@
 
 #include "session/PrivateFolder.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 namespace fs = std::filesystem;
@@ -120,4 +120,4 @@ std::string receive(const FileDescriptor& readable) {
 }
 
 }  // namespace TabSocket
-}  // namespace quillseal
+}  // namespace quillseal::linux

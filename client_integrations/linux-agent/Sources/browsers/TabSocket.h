@@ -6,7 +6,7 @@
 #include <string_view>
 #include <utility>
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// An open file descriptor; closed at the end of its life.
 class FileDescriptor {
@@ -64,4 +64,4 @@ inline constexpr std::string_view name = "tabs";
 [[nodiscard]] std::string receive(const FileDescriptor& readable);
 
 }  // namespace TabSocket
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QStringDecoder>
 
-namespace quillseal::ClipboardFormats {
+namespace quillseal::linux::ClipboardFormats {
 namespace {
 
 // Set by KDE's and KeePassXC's convention, and by that of macOS for programs that know both.
@@ -80,4 +80,4 @@ std::optional<std::string> rtfOf(const Content& content) {
   return *bytes;
 }
 
-}  // namespace quillseal::ClipboardFormats
+}  // namespace quillseal::linux::ClipboardFormats

@@ -6,7 +6,7 @@
 #include <vector>
 
 /// The formats in which programs offer text on the clipboard, and what those hold. Pure functions.
-namespace quillseal::ClipboardFormats {
+namespace quillseal::linux::ClipboardFormats {
 
 inline constexpr const char* plainText = "text/plain;charset=utf-8";
 inline constexpr const char* html = "text/html";
@@ -31,4 +31,4 @@ using Content = std::map<std::string, std::string>;
 /// Bytes; nothing when there are none.
 [[nodiscard]] std::optional<std::string> rtfOf(const Content& content);
 
-}  // namespace quillseal::ClipboardFormats
+}  // namespace quillseal::linux::ClipboardFormats

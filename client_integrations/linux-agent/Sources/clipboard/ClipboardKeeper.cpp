@@ -17,7 +17,7 @@
 
 #include "core/text/Error.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using std::chrono::milliseconds;
@@ -116,4 +116,4 @@ void ClipboardKeeper::keep(const desktop::PasteboardContent& content) const {
     fail("the desktop did not take it. Try again; if that does not help, log out and in.");
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -7,7 +7,7 @@
 
 #include "desktop/Pasteboard.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// Under Wayland what is on the clipboard is gone when the program ends that offers it. So a
 /// process of its own offers it, and ends when somebody else copies.
@@ -37,4 +37,4 @@ namespace KeptContent {
 
 }  // namespace KeptContent
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

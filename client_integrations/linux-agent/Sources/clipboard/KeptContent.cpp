@@ -3,7 +3,7 @@
 
 #include "clipboard/ClipboardKeeper.h"
 
-namespace quillseal::KeptContent {
+namespace quillseal::linux::KeptContent {
 
 // The length of the plain text, a line feed, the plain text, the HTML.
 std::string written(const desktop::PasteboardContent& content) {
@@ -20,4 +20,4 @@ std::optional<desktop::PasteboardContent> read(std::string_view text) {
                                     .html = std::string(text.substr(begin + length))};
 }
 
-}  // namespace quillseal::KeptContent
+}  // namespace quillseal::linux::KeptContent

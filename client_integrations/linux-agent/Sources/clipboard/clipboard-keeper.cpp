@@ -20,10 +20,10 @@
 
 namespace {
 
-namespace wayland = quillseal::wayland;
-using quillseal::Descriptors;
+namespace wayland = quillseal::linux::wayland;
 using quillseal::desktop::PasteboardContent;
 using quillseal::desktop::Ticket;
+using quillseal::linux::Descriptors;
 
 constexpr std::chrono::seconds patience{5};
 
@@ -37,7 +37,7 @@ std::string everythingFrom(int file) {
 
 class Offer {
  public:
-  Offer(quillseal::WaylandConnection& connection, PasteboardContent content)
+  Offer(quillseal::linux::WaylandConnection& connection, PasteboardContent content)
       : connection_(connection),
         content_(std::move(content)),
         manager_(wayland::bindDataControl(connection)) {}
@@ -61,7 +61,7 @@ class Offer {
 
   void send(std::string_view format, int file) {
     fcntl(file, F_SETFL, fcntl(file, F_GETFL) | O_NONBLOCK);
-    const bool isHtml = format == quillseal::ClipboardFormats::html;
+    const bool isHtml = format == quillseal::linux::ClipboardFormats::html;
     Transfer& transfer = transfers_.emplace_back(
         Transfer{.file = file, .left = isHtml ? content_.html : content_.plainText, .watch = {}});
     transfer.watch = loop_.watch(file, Descriptors::Interest::writing,
@@ -88,9 +88,9 @@ class Offer {
   static Offer& of(void* data) { return *static_cast<Offer*>(data); }
   struct Listeners;
 
-  quillseal::WaylandConnection& connection_;
+  quillseal::linux::WaylandConnection& connection_;
   PasteboardContent content_;
-  quillseal::PollLoop loop_;
+  quillseal::linux::PollLoop loop_;
   wayland::DataControlManager manager_;
   wayland::DataControlDevice device_;
   wayland::DataControlSource source_;
@@ -124,8 +124,8 @@ bool Offer::make() {
   zwlr_data_control_device_v1_add_listener(device_.get(), &Listeners::ofDevice, this);
   source_.reset(zwlr_data_control_manager_v1_create_data_source(manager_.get()));
   zwlr_data_control_source_v1_add_listener(source_.get(), &Listeners::ofSource, this);
-  for (const char* format : {quillseal::ClipboardFormats::plainText, "text/plain", "UTF8_STRING",
-                             quillseal::ClipboardFormats::html})
+  for (const char* format : {quillseal::linux::ClipboardFormats::plainText, "text/plain",
+                             "UTF8_STRING", quillseal::linux::ClipboardFormats::html})
     zwlr_data_control_source_v1_offer(source_.get(), format);
   if (!connection_.roundTrip()) return false;
   isOffered_ = true;
@@ -138,9 +138,9 @@ bool Offer::make() {
 int main() {
   static_cast<void>(std::signal(SIGPIPE, SIG_IGN));  // a program may end while it pastes
   const std::optional<PasteboardContent> content =
-      quillseal::KeptContent::read(everythingFrom(STDIN_FILENO));
+      quillseal::linux::KeptContent::read(everythingFrom(STDIN_FILENO));
   if (!content) return 2;
-  const auto connection = quillseal::WaylandConnection::open();
+  const auto connection = quillseal::linux::WaylandConnection::open();
   if (connection == nullptr) return 1;
   Offer offer(*connection, *content);
   if (!offer.make()) return 1;

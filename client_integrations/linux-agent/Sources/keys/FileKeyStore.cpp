@@ -15,7 +15,7 @@
 #include "keys/KeyFile.h"
 #include "keys/OpenSslHandles.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 namespace {
 
@@ -42,10 +42,10 @@ std::vector<std::uint8_t> encoded(Function encode, Object* object) {
   return {bytes, bytes + length};
 }
 
-std::optional<p256::Point> pointOf(EVP_PKEY* key) {
+std::optional<P256::Point> pointOf(EVP_PKEY* key) {
   std::array<char, 32> group{};
   std::size_t length = 0;
-  p256::Point point{};
+  P256::Point point{};
   if (::EVP_PKEY_get_group_name(key, group.data(), group.size(), &length) != 1 ||
       std::string_view(group.data(), length) != SN_X9_62_prime256v1 ||
       ::EVP_PKEY_get_octet_string_param(key, OSSL_PKEY_PARAM_PUB_KEY, point.data(), point.size(),
@@ -57,7 +57,7 @@ std::optional<p256::Point> pointOf(EVP_PKEY* key) {
 
 /// What a key file holds, as far as it can be read without the passphrase.
 struct StoredKey {
-  p256::Point publicKey;
+  P256::Point publicKey;
   openssl::EncryptedKey privateKey;
 };
 
@@ -98,12 +98,12 @@ StoredKey readKey(const PrivateFile& file) {
   const std::optional<std::string> contents = file.read();
   if (!contents)
     throw KeyFailure("the key file " + place + " is gone. Enrol this computer again in Settings.");
-  const auto blocks = keyfile::read(*contents, labels);
+  const auto blocks = KeyFile::read(*contents, labels);
   if (!blocks) failDamaged(place);
   const auto& [publicBlock, privateBlock] = std::tie((*blocks)[0].bytes, (*blocks)[1].bytes);
   const unsigned char* position = publicBlock.data();
   const openssl::Key key(::d2i_PUBKEY(nullptr, &position, static_cast<long>(publicBlock.size())));
-  const std::optional<p256::Point> point = key ? pointOf(key.get()) : std::nullopt;
+  const std::optional<P256::Point> point = key ? pointOf(key.get()) : std::nullopt;
   position = privateBlock.data();
   openssl::EncryptedKey encrypted(
       ::d2i_X509_SIG(nullptr, &position, static_cast<long>(privateBlock.size())));
@@ -169,13 +169,13 @@ void FileKeyStore::create(const SecretBytes& secret) {
   const openssl::Key key(::EVP_EC_gen(SN_X9_62_prime256v1));
   if (!key) throw KeyFailure("the key could not be generated.");
   const openssl::EncryptedKey encrypted = encrypt(key.get(), secret, cost_);
-  const std::array<keyfile::Block, 2> blocks{
-      keyfile::Block{.label = labels[0], .bytes = encoded(::i2d_PUBKEY, key.get())},
-      keyfile::Block{.label = labels[1], .bytes = encoded(::i2d_X509_SIG, encrypted.get())}};
-  file_.replace(keyfile::write(headline, blocks));
+  const std::array<KeyFile::Block, 2> blocks{
+      KeyFile::Block{.label = labels[0], .bytes = encoded(::i2d_PUBKEY, key.get())},
+      KeyFile::Block{.label = labels[1], .bytes = encoded(::i2d_X509_SIG, encrypted.get())}};
+  file_.replace(KeyFile::write(headline, blocks));
 }
 
-p256::Point FileKeyStore::publicKey() const {
+P256::Point FileKeyStore::publicKey() const {
   const ErrorQueueScope errors;
   return readKey(file_).publicKey;
 }
@@ -186,7 +186,7 @@ KeyMedium::Readiness FileKeyStore::requireUsableKey() const {
   return {};
 }
 
-std::optional<std::vector<std::uint8_t>> FileKeyStore::sign(const p256::Digest& digest,
+std::optional<std::vector<std::uint8_t>> FileKeyStore::sign(const P256::Digest& digest,
                                                             const SecretBytes& secret) const {
   const ErrorQueueScope errors;
   const StoredKey stored = readKey(file_);
@@ -219,4 +219,4 @@ void FileKeyStore::remove() noexcept {
   file_.remove();
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

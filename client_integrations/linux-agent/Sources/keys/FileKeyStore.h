@@ -9,7 +9,7 @@
 #include "keys/KeyMedium.h"
 #include "keys/PrivateFile.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// How hard a passphrase guess is made (RFC 7914). The standing choice takes 16 MiB and 0.2 to 0.8
 /// seconds, as OWASP advises for passwords kept on a server; OpenSSL refuses to open a file that
@@ -38,10 +38,10 @@ class FileKeyStore final : public KeyMedium {
   [[nodiscard]] std::string evidentObstacle() const override;
   [[nodiscard]] bool holdsKey() const noexcept override;
   void create(const SecretBytes& secret) override;
-  [[nodiscard]] p256::Point publicKey() const override;
+  [[nodiscard]] P256::Point publicKey() const override;
   [[nodiscard]] Readiness requireUsableKey() const override;
   [[nodiscard]] std::optional<std::vector<std::uint8_t>> sign(
-      const p256::Digest& digest, const SecretBytes& secret) const override;
+      const P256::Digest& digest, const SecretBytes& secret) const override;
   void remove() noexcept override;
 
  private:
@@ -49,4 +49,4 @@ class FileKeyStore final : public KeyMedium {
   ScryptCost cost_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -4,7 +4,7 @@
 
 #include "core/text/Error.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// A key operation that failed: what is wrong and what to do about it, in sentences for the user.
 /// Never holds a secret.
@@ -14,4 +14,4 @@ class KeyFailure : public Error {
       : Error({.domain = "Quillseal.Key", .code = 0, .description = description}) {}
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -8,7 +8,7 @@
 #include "Quillseal/CryptoManager.h"
 #include "keys/OpenSslHandles.h"
 
-namespace quillseal::keyfile {
+namespace quillseal::linux::KeyFile {
 
 namespace {
 
@@ -69,4 +69,4 @@ std::optional<std::vector<Block>> read(std::string_view file,
   return blocks;
 }
 
-}  // namespace quillseal::keyfile
+}  // namespace quillseal::linux::KeyFile

@@ -10,7 +10,7 @@
 /// The text form in which both key stores keep a key: a line that says what it is, a line with the
 /// SHA-256 of the rest, then PEM blocks (RFC 7468). The sum tells accidental damage apart from a
 /// wrong secret; it is no protection against tampering.
-namespace quillseal::keyfile {
+namespace quillseal::linux::KeyFile {
 
 /// One PEM block.
 struct Block {
@@ -26,4 +26,4 @@ struct Block {
 [[nodiscard]] std::optional<std::vector<Block>> read(std::string_view file,
                                                      std::span<const std::string_view> labels);
 
-}  // namespace quillseal::keyfile
+}  // namespace quillseal::linux::KeyFile

@@ -10,7 +10,7 @@
 #include "keys/P256.h"
 #include "keys/SecretPrompt.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// What kind of place a key is in.
 enum class KeyPlace { tpm, tpmSimulator, keyFile };
@@ -58,7 +58,7 @@ class KeyMedium {
   virtual void create(const SecretBytes& secret) = 0;
 
   /// The public half; needs no secret. Throws KeyFailure.
-  [[nodiscard]] virtual p256::Point publicKey() const = 0;
+  [[nodiscard]] virtual P256::Point publicKey() const = 0;
 
   /// Keeps a key at hand; dropped like every other call, one at a time and before the medium goes.
   using Readiness = std::shared_ptr<const void>;
@@ -71,10 +71,10 @@ class KeyMedium {
   /// The signature (DER) over a finished digest; nothing when `secret` is wrong. Throws KeyFailure
   /// on everything else.
   [[nodiscard]] virtual std::optional<std::vector<std::uint8_t>> sign(
-      const p256::Digest& digest, const SecretBytes& secret) const = 0;
+      const P256::Digest& digest, const SecretBytes& secret) const = 0;
 
   /// Deletes the key for good. Harmless when there is none.
   virtual void remove() noexcept = 0;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

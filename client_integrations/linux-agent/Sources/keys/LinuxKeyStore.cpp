@@ -8,7 +8,7 @@
 #include "keys/FileKeyStore.h"
 #include "keys/TpmKeyStore.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 namespace {
 
@@ -65,17 +65,17 @@ class LinuxKeyStore::Key final : public desktop::DeviceKey {
   [[nodiscard]] std::optional<std::vector<std::uint8_t>> publicKey() const override {
     const std::lock_guard lock(store_.device_);
     try {
-      const p256::Point point = medium_.publicKey();
+      const P256::Point point = medium_.publicKey();
       return std::vector<std::uint8_t>(point.begin(), point.end());
     } catch (const KeyFailure&) {
       return std::nullopt;
     }
   }
 
-  [[nodiscard]] std::vector<std::uint8_t> sign(const p256::Digest& digest) override {
+  [[nodiscard]] std::vector<std::uint8_t> sign(const P256::Digest& digest) override {
     std::unique_lock lock(store_.device_);
     const KeyMedium::Readiness kept = medium_.requireUsableKey();
-    const p256::Point publicKey = medium_.publicKey();
+    const P256::Point publicKey = medium_.publicKey();
     const std::string secretName(nameOf(medium_.secretKind()));
     SecretRequest request{.kind = medium_.secretKind(),
                           .reason = prompt_ ? prompt_->reason : std::string(),
@@ -95,7 +95,7 @@ class LinuxKeyStore::Key final : public desktop::DeviceKey {
                          .description = "no " + secretName + " was entered."});
       if (auto signature = medium_.sign(digest, *secret)) {
         // Also finds a key that was exchanged while the question was open.
-        if (!p256::verifies({.publicKey = publicKey, .digest = digest, .signature = *signature}))
+        if (!P256::verifies({.publicKey = publicKey, .digest = digest, .signature = *signature}))
           throw KeyFailure(
               "the signature does not match the key. Enrol this computer again in "
               "Settings.");
@@ -218,4 +218,4 @@ std::unique_ptr<LinuxKeyStore> makeKeyStore(const KeyStoreOptions& options, Secr
   return std::make_unique<LinuxKeyStore>(std::move(media), prompt);
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -11,7 +11,7 @@
 #include "keys/KeyMedium.h"
 #include "keys/SecretPrompt.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// The device key of a Linux desktop. Chooses where a new key goes (the first usable medium), finds
 /// the one there is, and puts the questions: three tries for a PIN or passphrase, a new one before
@@ -63,4 +63,4 @@ struct KeyStoreOptions {
 [[nodiscard]] std::unique_ptr<LinuxKeyStore> makeKeyStore(const KeyStoreOptions& options,
                                                           SecretPrompt& prompt);
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -10,7 +10,7 @@
 #include <openssl/x509.h>
 
 /// Owning handles for the OpenSSL objects that the key stores use.
-namespace quillseal::openssl {
+namespace quillseal::linux::openssl {
 
 template <auto release>
 struct Releaser {
@@ -36,4 +36,4 @@ using Pbes2Parameters = std::unique_ptr<PBE2PARAM, Releaser<::PBE2PARAM_free>>;
 using ScryptParameters = std::unique_ptr<SCRYPT_PARAMS, Releaser<::SCRYPT_PARAMS_free>>;
 using Stream = std::unique_ptr<BIO, Releaser<::BIO_free>>;
 
-}  // namespace quillseal::openssl
+}  // namespace quillseal::linux::openssl

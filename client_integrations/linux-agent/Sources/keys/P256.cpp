@@ -12,7 +12,7 @@
 
 #include "keys/OpenSslHandles.h"
 
-namespace quillseal::p256 {
+namespace quillseal::linux::P256 {
 
 std::optional<Point> pointOf(const Pair& coordinates) {
   const auto [x, y] = coordinates;
@@ -64,4 +64,4 @@ bool verifies(const Claim& claim) {
                            claim.digest.data(), claim.digest.size()) == 1;
 }
 
-}  // namespace quillseal::p256
+}  // namespace quillseal::linux::P256

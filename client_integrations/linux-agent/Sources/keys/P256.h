@@ -7,7 +7,7 @@
 #include <vector>
 
 /// The few forms in which a NIST P-256 public key and its signatures leave a key store.
-namespace quillseal::p256 {
+namespace quillseal::linux::P256 {
 
 inline constexpr std::size_t coordinateSize = 32;
 
@@ -39,4 +39,4 @@ struct Claim {
 /// too when the point is none of the curve.
 [[nodiscard]] bool verifies(const Claim& claim);
 
-}  // namespace quillseal::p256
+}  // namespace quillseal::linux::P256

@@ -11,7 +11,7 @@
 
 #include "keys/KeyFailure.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 namespace {
 
@@ -197,4 +197,4 @@ void PrivateFile::remove() const noexcept {
   ::unlink(path_.c_str());
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// The folder for this user's data: `$XDG_DATA_HOME`, or `.local/share` in the home directory when
 /// that is unset or relative (XDG Base Directory 0.8), then "quillseal".
@@ -43,4 +43,4 @@ class PrivateFile {
   std::filesystem::path path_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

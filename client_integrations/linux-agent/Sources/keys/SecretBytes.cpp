@@ -7,7 +7,7 @@
 #include <openssl/crypto.h>
 #include <sys/prctl.h>
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 /// Of the locked memory: many times what one signature needs, and little of what a user may lock.
@@ -63,12 +63,12 @@ SecretBytes::~SecretBytes() {
 }
 
 void SecretBytes::shorten(std::size_t size) noexcept {
-  quillseal::wipe(bytes().subspan(size));
+  quillseal::linux::wipe(bytes().subspan(size));
   size_ = size;
 }
 
 void SecretBytes::wipe() noexcept {
-  quillseal::wipe(bytes());
+  quillseal::linux::wipe(bytes());
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

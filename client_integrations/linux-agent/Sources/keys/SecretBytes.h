@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// Keeps the memory of all secrets that are made from now on out of the swap area and of core
 /// dumps. False where the system does not allow that. To be called once, at the start of the
@@ -58,4 +58,4 @@ class SecretBytes {
 /// Overwrites memory in a way that no optimiser removes.
 void wipe(std::span<unsigned char> bytes) noexcept;
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

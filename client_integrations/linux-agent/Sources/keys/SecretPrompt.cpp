@@ -4,7 +4,7 @@
 #include <array>
 #include <cstddef>
 
-namespace quillseal {
+namespace quillseal::linux {
 
 namespace {
 
@@ -105,4 +105,4 @@ std::string_view objectionTo(SecretKind kind, const SecretBytes& secret) noexcep
   return {};
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -6,7 +6,7 @@
 
 #include "keys/SecretBytes.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// What opens a device key. A PIN is checked by the TPM, which locks itself after a few wrong ones.
 /// An unguarded PIN is checked by a TPM without a lockout password: every program with access to it
@@ -60,4 +60,4 @@ class SecretPrompt {
   [[nodiscard]] virtual std::optional<SecretBytes> askForNew(const NewSecretRequest& request) = 0;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -9,7 +9,7 @@
 #include <tss2/tss2_common.h>
 #include <tss2/tss2_tpm2_types.h>
 
-namespace quillseal {
+namespace quillseal::linux {
 
 namespace {
 
@@ -133,4 +133,4 @@ TpmFailure tpmFailureOf(const DeviceError& error) {
   }
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

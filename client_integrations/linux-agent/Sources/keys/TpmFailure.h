@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// What a failed TPM operation means for the person at the machine.
 enum class TpmProblem {
@@ -36,4 +36,4 @@ struct DeviceError {
 };
 [[nodiscard]] TpmFailure tpmFailureOf(const DeviceError& error);
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

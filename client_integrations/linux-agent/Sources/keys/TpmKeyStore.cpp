@@ -18,7 +18,7 @@
 #include "keys/KeyFile.h"
 #include "keys/TpmFailure.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 namespace {
 
@@ -167,8 +167,8 @@ TPM2B_PUBLIC parentTemplate() {
   parameters.scheme.scheme = TPM2_ALG_NULL;
   parameters.curveID = TPM2_ECC_NIST_P256;
   parameters.kdf.scheme = TPM2_ALG_NULL;
-  key.unique.ecc.x.size = p256::coordinateSize;
-  key.unique.ecc.y.size = p256::coordinateSize;
+  key.unique.ecc.x.size = P256::coordinateSize;
+  key.unique.ecc.y.size = P256::coordinateSize;
   return area;
 }
 
@@ -244,7 +244,7 @@ struct StoredKey {
   std::vector<std::uint8_t> parentName;
   TPM2B_PUBLIC publicArea{};
   TPM2B_PRIVATE privateArea{};
-  p256::Point publicKey{};
+  P256::Point publicKey{};
 };
 
 StoredKey readKey(const PrivateFile& file) {
@@ -253,14 +253,14 @@ StoredKey readKey(const PrivateFile& file) {
   if (!contents)
     throw KeyFailure("the TPM key’s file " + place +
                      " is gone. Enrol this computer again in Settings.");
-  const auto blocks = keyfile::read(*contents, labels);
+  const auto blocks = KeyFile::read(*contents, labels);
   StoredKey key;
-  std::optional<p256::Point> point;
+  std::optional<P256::Point> point;
   if (blocks && unmarshal(::Tss2_MU_TPM2B_PUBLIC_Unmarshal, (*blocks)[1].bytes, key.publicArea) &&
       unmarshal(::Tss2_MU_TPM2B_PRIVATE_Unmarshal, (*blocks)[2].bytes, key.privateArea) &&
       key.publicArea.publicArea.type == TPM2_ALG_ECC) {
     const TPMS_ECC_POINT& unique = key.publicArea.publicArea.unique.ecc;
-    point = p256::pointOf(
+    point = P256::pointOf(
         {.first = {unique.x.buffer, unique.x.size}, .second = {unique.y.buffer, unique.y.size}});
   }
   if (!point)
@@ -319,7 +319,7 @@ struct TpmKeyStore::OpenedKey {
         parent(parentOf(tpm, stored)),
         key(load(tpm, parent, startSession(tpm, parent), stored)) {}
 
-  [[nodiscard]] Attempt sign(const p256::Digest& digest, const SecretBytes& secret) const;
+  [[nodiscard]] Attempt sign(const P256::Digest& digest, const SecretBytes& secret) const;
 
   std::string contents;  ///< of the key's file
   Tpm tpm;
@@ -327,7 +327,7 @@ struct TpmKeyStore::OpenedKey {
   Loaded key;
 };
 
-TpmKeyStore::OpenedKey::Attempt TpmKeyStore::OpenedKey::sign(const p256::Digest& digest,
+TpmKeyStore::OpenedKey::Attempt TpmKeyStore::OpenedKey::sign(const P256::Digest& digest,
                                                              const SecretBytes& secret) const {
   TPM2B_DIGEST message{};
   message.size = static_cast<UINT16>(digest.size());
@@ -354,7 +354,7 @@ TpmKeyStore::OpenedKey::Attempt TpmKeyStore::OpenedKey::sign(const p256::Digest&
   const TPMS_SIGNATURE_ECDSA& parts = signature->signature.ecdsa;
   return {.code = code,
           .signature =
-              p256::derSignature({.first = {parts.signatureR.buffer, parts.signatureR.size},
+              P256::derSignature({.first = {parts.signatureR.buffer, parts.signatureR.size},
                                   .second = {parts.signatureS.buffer, parts.signatureS.size}})};
 }
 
@@ -461,16 +461,16 @@ void TpmKeyStore::create(const SecretBytes& secret) {
   const Owned<TPM2B_PUBLIC> ownedPublic(publicArea);
   require(code);
 
-  const std::array<keyfile::Block, 3> blocks{
-      keyfile::Block{.label = labels[0], .bytes = nameOf(tpm, parent)},
-      keyfile::Block{.label = labels[1],
+  const std::array<KeyFile::Block, 3> blocks{
+      KeyFile::Block{.label = labels[0], .bytes = nameOf(tpm, parent)},
+      KeyFile::Block{.label = labels[1],
                      .bytes = marshalled(::Tss2_MU_TPM2B_PUBLIC_Marshal, *publicArea)},
-      keyfile::Block{.label = labels[2],
+      KeyFile::Block{.label = labels[2],
                      .bytes = marshalled(::Tss2_MU_TPM2B_PRIVATE_Marshal, *privateArea)}};
-  file_.replace(keyfile::write(headline, blocks));
+  file_.replace(KeyFile::write(headline, blocks));
 }
 
-p256::Point TpmKeyStore::publicKey() const {
+P256::Point TpmKeyStore::publicKey() const {
   return readKey(file_).publicKey;
 }
 
@@ -490,7 +490,7 @@ KeyMedium::Readiness TpmKeyStore::requireUsableKey() const {
   return readiness;
 }
 
-std::optional<std::vector<std::uint8_t>> TpmKeyStore::sign(const p256::Digest& digest,
+std::optional<std::vector<std::uint8_t>> TpmKeyStore::sign(const P256::Digest& digest,
                                                            const SecretBytes& secret) const {
   const StoredKey stored = readKey(file_);
   const auto isWrong = [](TSS2_RC code) {
@@ -521,4 +521,4 @@ void TpmKeyStore::remove() noexcept {
   file_.remove();
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -12,7 +12,7 @@
 #include "keys/KeyMedium.h"
 #include "keys/PrivateFile.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// The device key in the TPM 2.0: a P-256 key made by the TPM under its storage root key. What is
 /// kept outside is a blob that only this TPM can load, and only until it is cleared. The TPM asks
@@ -45,10 +45,10 @@ class TpmKeyStore final : public KeyMedium {
   [[nodiscard]] std::string evidentObstacle() const override;
   [[nodiscard]] bool holdsKey() const noexcept override;
   void create(const SecretBytes& secret) override;
-  [[nodiscard]] p256::Point publicKey() const override;
+  [[nodiscard]] P256::Point publicKey() const override;
   [[nodiscard]] Readiness requireUsableKey() const override;
   [[nodiscard]] std::optional<std::vector<std::uint8_t>> sign(
-      const p256::Digest& digest, const SecretBytes& secret) const override;
+      const P256::Digest& digest, const SecretBytes& secret) const override;
   void remove() noexcept override;
 
  private:
@@ -67,4 +67,4 @@ class TpmKeyStore final : public KeyMedium {
   mutable std::weak_ptr<const void> readiness_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

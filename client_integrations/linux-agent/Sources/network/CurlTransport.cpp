@@ -14,7 +14,7 @@
 
 #include "network/TransportErrors.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using desktop::HttpPost;
@@ -348,4 +348,4 @@ transport::ErrorCode CurlTransport::errorCodeOf(CURLcode failure, long systemErr
   }
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

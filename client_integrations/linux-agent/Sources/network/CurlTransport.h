@@ -10,7 +10,7 @@
 #include "desktop/MainLoop.h"
 #include "session/Descriptors.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// HTTP by libcurl, driven by the main loop: no call blocks, names are looked up on libcurl's own
 /// threads. No redirect is followed, since every request is a POST that carries a key. An answer of
@@ -48,4 +48,4 @@ class CurlTransport final : public desktop::HttpTransport {
   std::shared_ptr<Engine> engine_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

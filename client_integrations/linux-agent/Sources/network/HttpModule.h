@@ -7,7 +7,7 @@
 #include "session/Descriptors.h"
 
 /// The module that holds the transport: libcurl brings some thirty libraries.
-namespace quillseal::HttpModule {
+namespace quillseal::linux::HttpModule {
 
 inline constexpr const char* fileName = "quillseal-http.so";
 
@@ -15,4 +15,4 @@ inline constexpr const char* fileName = "quillseal-http.so";
 using Make = void(desktop::MainLoop&, Descriptors&, std::unique_ptr<desktop::HttpTransport>& made);
 inline constexpr const char* make = "quillseal_make_http_transport";
 
-}  // namespace quillseal::HttpModule
+}  // namespace quillseal::linux::HttpModule

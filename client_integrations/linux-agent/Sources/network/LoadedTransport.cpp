@@ -6,7 +6,7 @@
 #include "network/HttpModule.h"
 #include "network/TransportErrors.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 LoadedTransport::LoadedTransport(desktop::MainLoop& loop, Descriptors& descriptors,
                                  LoadedModule module)
@@ -30,4 +30,4 @@ Error LoadedTransport::error(desktop::transport::ErrorCode code) const {
   return transportError(code);
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

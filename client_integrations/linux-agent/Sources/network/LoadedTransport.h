@@ -7,7 +7,7 @@
 #include "session/Descriptors.h"
 #include "session/LoadedModule.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// The transport of `HttpModule`, which is loaded with the first request.
 class LoadedTransport final : public desktop::HttpTransport {
@@ -29,4 +29,4 @@ class LoadedTransport final : public desktop::HttpTransport {
   std::unique_ptr<desktop::HttpTransport> transport_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

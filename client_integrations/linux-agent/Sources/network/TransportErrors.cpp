@@ -2,7 +2,7 @@
 
 #include <array>
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 namespace transport = desktop::transport;
@@ -54,4 +54,4 @@ Error transportError(desktop::transport::ErrorCode code) {
   return Error({.domain = transport::errorDomain, .code = code, .description = text});
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

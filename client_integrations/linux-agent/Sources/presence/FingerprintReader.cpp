@@ -5,7 +5,7 @@
 
 #include "core/text/Error.h"
 
-namespace quillseal::FingerprintReader {
+namespace quillseal::linux::FingerprintReader {
 
 namespace {
 
@@ -162,4 +162,4 @@ bool verify(const Interrupt& interrupt, const Instruct& instruct) {
   return false;
 }
 
-}  // namespace quillseal::FingerprintReader
+}  // namespace quillseal::linux::FingerprintReader

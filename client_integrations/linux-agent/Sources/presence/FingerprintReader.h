@@ -7,7 +7,7 @@
 #include "presence/SystemBus.h"
 
 /// The fingerprint service of Linux (fprintd, net.reactivated.Fprint). Everything blocks.
-namespace quillseal::FingerprintReader {
+namespace quillseal::linux::FingerprintReader {
 
 /// Whether there is a reader and this user has enrolled a finger. False as well when the service is
 /// missing or does not answer.
@@ -28,4 +28,4 @@ using Instruct = std::function<void(std::string_view)>;
 /// interrupted, Error when the reader fails or nobody touches it for a minute.
 [[nodiscard]] bool verify(const Interrupt& interrupt, const Instruct& instruct);
 
-}  // namespace quillseal::FingerprintReader
+}  // namespace quillseal::linux::FingerprintReader

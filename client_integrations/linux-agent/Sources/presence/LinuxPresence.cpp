@@ -8,7 +8,7 @@
 #include "presence/FingerprintReader.h"
 #include "presence/PolkitAuthority.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 namespace {
 
@@ -126,4 +126,4 @@ Ticket LinuxPresence::evaluate(PresencePolicy policy, const desktop::Prompt& pro
   return Ticket([evaluation] { evaluation->withdraw(); });
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -4,7 +4,7 @@
 #include "desktop/Presence.h"
 #include "presence/PresencePrompt.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// Presence on a Linux desktop: a finger on the reader where one is enrolled, else the password
 /// through polkit. Both are preceded by a window of our own with the reason.
@@ -28,4 +28,4 @@ class LinuxPresence final : public desktop::Presence {
   PresencePrompt& prompt_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -5,7 +5,7 @@
 
 #include "core/text/Error.h"
 
-namespace quillseal::PolkitAuthority {
+namespace quillseal::linux::PolkitAuthority {
 
 namespace {
 
@@ -82,4 +82,4 @@ bool ask(const Interrupt& interrupt) {
   return decision.authorized;
 }
 
-}  // namespace quillseal::PolkitAuthority
+}  // namespace quillseal::linux::PolkitAuthority

@@ -4,7 +4,7 @@
 
 /// The password question of Linux (polkit, org.freedesktop.PolicyKit1) for an action of Quillseal's
 /// own, which the package installs. Everything blocks.
-namespace quillseal::PolkitAuthority {
+namespace quillseal::linux::PolkitAuthority {
 
 inline constexpr const char* presenceAction = "com.quillseal.agent.prove-presence";
 
@@ -17,4 +17,4 @@ inline constexpr const char* presenceAction = "com.quillseal.agent.prove-presenc
 /// ask.
 [[nodiscard]] bool ask(const Interrupt& interrupt);
 
-}  // namespace quillseal::PolkitAuthority
+}  // namespace quillseal::linux::PolkitAuthority

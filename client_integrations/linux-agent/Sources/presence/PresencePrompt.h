@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// What the person is asked to prove their presence for.
 struct PresenceRequest {
@@ -41,4 +41,4 @@ class PresencePrompt {
       const PresenceRequest& request, std::function<void(bool)> answered) = 0;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -13,7 +13,7 @@
 
 #include "core/text/Error.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 namespace {
 
@@ -128,4 +128,4 @@ bool SystemBus::wait(const Wait& wait) {
   return true;
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -7,7 +7,7 @@
 
 #include <systemd/sd-bus.h>
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// Something that a thread may be waiting for in vain: raising it ends the wait.
 class Interrupt {
@@ -94,4 +94,4 @@ class SystemBus {
   std::unique_ptr<sd_bus, Release> bus_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

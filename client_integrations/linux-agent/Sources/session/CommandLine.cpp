@@ -4,7 +4,7 @@
 #include <array>
 #include <iterator>
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 struct Option {
@@ -89,4 +89,4 @@ std::string_view wireName(Command command) {
   }
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// What a start of `quillseal` asks for.
 enum class Command {
@@ -34,4 +34,4 @@ struct CommandLine {
 /// never do.
 [[nodiscard]] std::string_view wireName(Command command);
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

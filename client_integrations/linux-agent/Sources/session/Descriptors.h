@@ -4,7 +4,7 @@
 
 #include "desktop/Ticket.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// Watches file descriptors in the main loop, for libraries that do their own input and output.
 /// Main thread.
@@ -21,4 +21,4 @@ class Descriptors {
                                               std::function<void(Interest)> ready) = 0;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

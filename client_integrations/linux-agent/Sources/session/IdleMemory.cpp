@@ -9,7 +9,7 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
-namespace quillseal {
+namespace quillseal::linux {
 
 namespace {
 
@@ -44,4 +44,4 @@ void giveBackUnusedMemory() noexcept {
   ::dl_iterate_phdr(giveBackConstants, nullptr);
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

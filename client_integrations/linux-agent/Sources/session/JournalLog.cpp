@@ -11,7 +11,7 @@
 #include <systemd/sd-journal.h>
 #include <unistd.h>
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 constexpr auto journalSocket = "/run/systemd/journal/socket";
@@ -61,4 +61,4 @@ void JournalLog::write(std::string_view line) {
   sd_journal_sendv(fields.data(), static_cast<int>(fields.size()));
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

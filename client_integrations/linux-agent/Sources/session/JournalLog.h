@@ -2,7 +2,7 @@
 
 #include "desktop/Log.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// Writes to the journal, or to syslog where no journal runs. The echo leaves out what nobody
 /// takes.
@@ -18,4 +18,4 @@ class JournalLog : public desktop::Log {
   Echo echo_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 /// The sentences that differ between a chip and a file.
@@ -71,4 +71,4 @@ desktop::Wording linuxWording(const WordingCircumstances& circumstances) {
   return words;
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

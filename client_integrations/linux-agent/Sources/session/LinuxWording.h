@@ -3,7 +3,7 @@
 #include "desktop/Wording.h"
 #include "keys/KeyMedium.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// What the agent's words depend on.
 struct WordingCircumstances {
@@ -14,4 +14,4 @@ struct WordingCircumstances {
 /// The words of Linux desktops. Pure.
 [[nodiscard]] desktop::Wording linuxWording(const WordingCircumstances& circumstances);
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -7,7 +7,7 @@
 
 #include <dlfcn.h>
 
-namespace quillseal {
+namespace quillseal::linux {
 
 namespace fs = std::filesystem;
 
@@ -49,4 +49,4 @@ std::vector<fs::path> LoadedModule::usualPlaces(std::string_view fileName) {
   return {(folder / moduleFolderFromProgram / fileName).lexically_normal(), folder / fileName};
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

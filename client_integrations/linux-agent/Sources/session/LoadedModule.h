@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// A relative path, from the folder of the installed program to that of its modules.
 extern const char moduleFolderFromProgram[];
@@ -43,4 +43,4 @@ class LoadedModule {
   Options options_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

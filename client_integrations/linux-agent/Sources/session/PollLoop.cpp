@@ -11,7 +11,7 @@
 #include <sys/eventfd.h>
 #include <unistd.h>
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 short eventsOf(Descriptors::Interest interest) {
@@ -151,4 +151,4 @@ void PollLoop::runPosted() {
     work();
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

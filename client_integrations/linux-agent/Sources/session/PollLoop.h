@@ -10,7 +10,7 @@
 #include "desktop/MainLoop.h"
 #include "session/Descriptors.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// A main loop on poll(2), for tools and tests that have no toolkit.
 class PollLoop final : public desktop::MainLoop, public Descriptors {
@@ -59,4 +59,4 @@ class PollLoop final : public desktop::MainLoop, public Descriptors {
   std::vector<std::function<void()>> posted_;  // guarded by mutex_
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -8,7 +8,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 namespace fs = std::filesystem;
@@ -35,4 +35,4 @@ fs::path privateFolderIn(const fs::path& parent) {
   return folder;
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -2,10 +2,10 @@
 
 #include <filesystem>
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// "quillseal" in `parent`, of mode 0700, made when it is missing. Throws std::runtime_error with a
 /// sentence when it cannot be made, or when either folder could be changed by another user.
 [[nodiscard]] std::filesystem::path privateFolderIn(const std::filesystem::path& parent);
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

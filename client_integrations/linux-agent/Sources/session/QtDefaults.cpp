@@ -13,7 +13,7 @@
 #include "core/text/UnicodeText.h"
 #include "windows/QtText.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 constexpr QFile::Permissions ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
@@ -171,4 +171,4 @@ void QtDefaults::compare() {
   }
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

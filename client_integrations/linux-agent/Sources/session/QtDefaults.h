@@ -15,7 +15,7 @@
 #include "desktop/Defaults.h"
 #include "session/SettingsText.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// The settings as a file (SettingsText) that users and other programs may edit at any time. Only
 /// its owner may read it, since it holds the API key. Created and destroyed on the main thread.
@@ -71,4 +71,4 @@ class QtDefaults final : public desktop::Defaults {
   std::unique_ptr<QObject> receiver_ = std::make_unique<QObject>();
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

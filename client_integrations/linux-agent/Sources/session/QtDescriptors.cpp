@@ -6,7 +6,7 @@
 #include <memory>
 #include <utility>
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using Interest = Descriptors::Interest;
@@ -47,4 +47,4 @@ desktop::Ticket QtDescriptors::watch(int descriptor, Interest interest,
   });
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

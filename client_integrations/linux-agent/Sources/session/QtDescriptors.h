@@ -2,7 +2,7 @@
 
 #include "session/Descriptors.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// Watches descriptors in Qt's event loop. REQUIRES: a QCoreApplication lives longer.
 class QtDescriptors final : public Descriptors {
@@ -11,4 +11,4 @@ class QtDescriptors final : public Descriptors {
                                       std::function<void(Interest)> ready) override;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

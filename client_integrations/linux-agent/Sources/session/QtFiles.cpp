@@ -6,7 +6,7 @@
 
 #include "windows/QtText.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 std::string QtFiles::homeDirectory() const {
   return QDir::homePath().toStdString();
@@ -22,4 +22,4 @@ bool QtFiles::replace(const std::string& path, std::string_view contents) {
   return file.write(contents.data(), size) == size && file.commit();
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

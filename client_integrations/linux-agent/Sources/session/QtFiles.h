@@ -2,7 +2,7 @@
 
 #include "desktop/Files.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 class QtFiles : public desktop::Files {
  public:
@@ -10,4 +10,4 @@ class QtFiles : public desktop::Files {
   bool replace(const std::string& path, std::string_view contents) override;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -6,7 +6,7 @@
 
 #include "session/IdleMemory.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 // Workers wait for people (a PIN) and for the network more than for the processor.
@@ -69,4 +69,4 @@ desktop::Ticket QtMainLoop::runBlocking(std::function<void()> work,
   return desktop::Ticket([wanted] { *wanted = nullptr; });
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -7,7 +7,7 @@
 
 #include "desktop/MainLoop.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// The main loop on Qt's event loop. REQUIRES: a QCoreApplication lives longer.
 class QtMainLoop : public desktop::MainLoop {
@@ -32,4 +32,4 @@ class QtMainLoop : public desktop::MainLoop {
   QTimer idle_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

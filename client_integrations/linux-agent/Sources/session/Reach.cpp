@@ -1,6 +1,6 @@
 #include "session/Reach.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 std::string limitsOf(const SessionTraits& session) {
   if (!session.hasXServer)
@@ -42,4 +42,4 @@ PlatformChoice platformFor(const DisplayTraits& display) {
               "sign here. For its settings alone, install the package qt6-wayland."};
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// What decides whether the agent can reach other applications.
 struct SessionTraits {
@@ -36,4 +36,4 @@ struct PlatformChoice {
 /// obeyed.
 [[nodiscard]] PlatformChoice platformFor(const DisplayTraits& display);
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

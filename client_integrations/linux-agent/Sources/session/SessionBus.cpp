@@ -8,7 +8,7 @@
 
 #include <systemd/sd-bus.h>
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using std::chrono::microseconds;
@@ -124,4 +124,4 @@ bool accessibilityAnswers(std::chrono::milliseconds patience) {
   return answersOnSessionBus(*bus, patience);
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

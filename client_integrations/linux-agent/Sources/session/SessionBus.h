@@ -2,7 +2,7 @@
 
 #include <chrono>
 
-namespace quillseal {
+namespace quillseal::linux {
 
 // What Qt waits for on the main thread. What does not exist counts as answering, since nobody waits
 // for that.
@@ -15,4 +15,4 @@ namespace quillseal {
 /// seconds or without end for it, when the event loop begins.
 [[nodiscard]] bool accessibilityAnswers(std::chrono::milliseconds patience);
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -5,7 +5,7 @@
 
 #include "core/text/UnicodeText.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
@@ -140,4 +140,4 @@ bool SettingsText::set(std::string_view key, std::string_view value) {
   return true;
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

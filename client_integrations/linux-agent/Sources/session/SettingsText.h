@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// The text of a settings file that people edit: lines "Key=Value", taken literally. Nothing is
 /// quoted or escaped: whatever stands behind the first "=" is the value, to the end of the line.
@@ -38,4 +38,4 @@ class SettingsText {
   std::string text_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

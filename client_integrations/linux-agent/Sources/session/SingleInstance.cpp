@@ -9,7 +9,7 @@
 #include <array>
 #include <utility>
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 constexpr auto busName = "com.quillseal.Agent";
@@ -74,4 +74,4 @@ bool SingleInstance::handOver(Command command) {
          QDBusMessage::ReplyMessage;
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

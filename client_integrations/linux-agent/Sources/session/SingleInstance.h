@@ -5,7 +5,7 @@
 
 #include "session/CommandLine.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// One agent per session, by a name on the session bus; later starts hand their command to it.
 /// Main thread only.
@@ -36,4 +36,4 @@ class SingleInstance {
   std::unique_ptr<Receiver> receiver_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -6,7 +6,7 @@
 
 #include "core/text/UnicodeText.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 /// Never to be changed: enrolled devices are known by what comes of it.
@@ -22,4 +22,4 @@ std::optional<std::string> SystemMachineIdentity::platformUuid() const {
   return unicode::uppercased(sd_id128_to_uuid_string(id, text.data()));
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -9,7 +9,7 @@
 
 #include "core/text/UnicodeText.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 constexpr std::string_view zoneFolder = "zoneinfo/";
@@ -94,4 +94,4 @@ desktop::TimeZone SystemWallClock::timeZone() const {
   return {.identifier = timeZoneIdentifier(sources), .secondsFromGmt = sources.secondsFromGmt};
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -7,7 +7,7 @@
 
 #include "desktop/WallClock.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// The system's date in the Gregorian calendar and its time zone.
 class SystemWallClock final : public desktop::WallClock {
@@ -30,4 +30,4 @@ struct TimeZoneSources {
 /// names a zone, a fixed one of the same offset stands for it, or "UTC" where there is none.
 [[nodiscard]] std::string timeZoneIdentifier(const TimeZoneSources& sources);
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

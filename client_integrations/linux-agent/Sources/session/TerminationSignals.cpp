@@ -10,7 +10,7 @@
 #include <sys/eventfd.h>
 #include <unistd.h>
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 constexpr std::initializer_list<int> endingSignals = {SIGHUP, SIGINT, SIGTERM};
@@ -50,4 +50,4 @@ TerminationSignals::~TerminationSignals() {
   close(signalled.exchange(-1));
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -4,7 +4,7 @@
 #include <functional>
 #include <memory>
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// Turns the signals by which a session or a person ends a program (SIGHUP, SIGINT, SIGTERM) into
 /// a call on the main loop. One at a time, on the main thread.
@@ -19,4 +19,4 @@ class TerminationSignals {
   std::unique_ptr<QSocketNotifier> notifier_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -12,7 +12,7 @@
 #include "session/Descriptors.h"
 #include "windows/OwnWindows.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// What is done by other means under X11 than under Wayland. One is chosen when the program starts,
 /// by what the display offers. Main thread.
@@ -40,4 +40,4 @@ class WindowingSystem {
   [[nodiscard]] virtual const OwnWindows& ownWindows() const = 0;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -12,7 +12,7 @@
 #include "core/text/Error.h"
 #include "x11/KeyChords.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using nlohmann::json;
@@ -167,4 +167,4 @@ void SwayHotkey::pressedKey() {
   if (!isRepeated) services_.loop.post(pressed_);
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

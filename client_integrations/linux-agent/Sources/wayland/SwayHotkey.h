@@ -13,7 +13,7 @@
 #include "wayland/WaylandConnection.h"
 #include "wayland/WaylandLayout.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// The global hotkey by a binding of sway's that does nothing, and whose use sway reports. It gives
 /// way to any other binding of the same keys. Without sway there is none.
@@ -57,4 +57,4 @@ class SwayHotkey : public desktop::Hotkey {
   desktop::Ticket watch_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

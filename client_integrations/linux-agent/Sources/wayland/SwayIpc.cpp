@@ -15,7 +15,7 @@
 #include <sys/un.h>
 #include <unistd.h>
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using nlohmann::json;
@@ -229,4 +229,4 @@ bool bindsAlready(std::string_view configuration, const SwayChord& chord) {
   return false;
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// A connection to sway by the protocol that it shares with i3 (sway-ipc(7)). Main thread.
 class SwayIpc {
@@ -59,4 +59,4 @@ struct SwayChord {
 };
 [[nodiscard]] bool bindsAlready(std::string_view configuration, const SwayChord& chord);
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

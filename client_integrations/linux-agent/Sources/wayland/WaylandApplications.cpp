@@ -5,7 +5,7 @@
 
 #include "x11/WindowDocument.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using desktop::RunningApplication;
@@ -59,4 +59,4 @@ void WaylandApplications::bringToFront(const std::string& location) {
   if (window && !window->isActive) services_.windows.activate(window->id);
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -9,7 +9,7 @@
 #include "wayland/SwayIpc.h"
 #include "wayland/WaylandWindows.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// What identifies the window's application among the installed ones.
 [[nodiscard]] WindowTraits traitsOf(const WaylandWindow& window);
@@ -50,4 +50,4 @@ class WaylandApplications : public LinuxApplications {
   desktop::Ticket bringing_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -8,7 +8,7 @@
 
 #include "wayland/WaylandHandles.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using std::chrono::steady_clock;
@@ -165,4 +165,4 @@ void WaylandConnection::end() {
     waiting.isReady = true;
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -14,7 +14,7 @@
 #include "desktop/Ticket.h"
 #include "session/Descriptors.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// A connection of the agent's own to the Wayland compositor, beside that of the toolkit. Its
 /// events are dealt with in turns of the main loop. Main thread.
@@ -93,4 +93,4 @@ class WaylandConnection {
   desktop::Ticket later_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace quillseal::wayland {
+namespace quillseal::linux::wayland {
 namespace {
 
 // That of the older protocol which the newer one's first version equals.
@@ -45,4 +45,4 @@ DataControlManager bindDataControl(const WaylandConnection& connection) {
   return DataControlManager(manager);
 }
 
-}  // namespace quillseal::wayland
+}  // namespace quillseal::linux::wayland

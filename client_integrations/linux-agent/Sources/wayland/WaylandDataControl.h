@@ -8,7 +8,7 @@
 /// Access to the clipboard without a window. There are two protocols for it, the older one of
 /// wlroots and ext-data-control: the same requests and events in the same order under other names,
 /// so that the objects of the older one stand for both.
-namespace quillseal::wayland {
+namespace quillseal::linux::wayland {
 
 struct DestroyDataControl {
   void operator()(zwlr_data_control_manager_v1* manager) const;
@@ -27,4 +27,4 @@ using DataControlSource = std::unique_ptr<zwlr_data_control_source_v1, DestroyDa
 /// Null where none is.
 [[nodiscard]] DataControlManager bindDataControl(const WaylandConnection& connection);
 
-}  // namespace quillseal::wayland
+}  // namespace quillseal::linux::wayland

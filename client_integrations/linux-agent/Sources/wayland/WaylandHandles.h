@@ -2,7 +2,7 @@
 
 #include <memory>
 
-namespace quillseal::wayland {
+namespace quillseal::linux::wayland {
 
 /// Ends an object by the function that it has for that. Only for source files: most of those
 /// functions are static ones of headers, and so is a type that names them.
@@ -14,4 +14,4 @@ struct Destroyer {
 template <typename Object, auto destroy>
 using Handle = std::unique_ptr<Object, Destroyer<destroy>>;
 
-}  // namespace quillseal::wayland
+}  // namespace quillseal::linux::wayland

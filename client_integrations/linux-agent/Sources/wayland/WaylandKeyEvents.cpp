@@ -9,7 +9,7 @@
 #include "x11/KeyChords.h"
 #include "x11/WindowDocument.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using desktop::Delivery;
@@ -127,4 +127,4 @@ desktop::Ticket WaylandKeyEvents::press(desktop::KeyPress press,
   return desktop::Ticket([pressing] { pressing->withdraw(); });
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -10,7 +10,7 @@
 #include "wayland/WaylandPasteboard.h"
 #include "wayland/WaylandWindows.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// Synthesised key presses on a keyboard of the agent's own. A press is declined unless its target
 /// is the active window and shows what it showed when the target was named, for which it waits a
@@ -43,4 +43,4 @@ class WaylandKeyEvents : public desktop::KeyEvents {
   WaylandKeyboard keyboard_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -14,7 +14,7 @@
 #include "virtual-keyboard-unstable-v1-client-protocol.h"
 #include "wayland/WaylandHandles.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 struct KnownKey {
@@ -123,4 +123,4 @@ void WaylandKeyboard::tap(std::span<const Keysym> chord) {
   connection_.flush();
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -8,7 +8,7 @@
 #include "wayland/WaylandConnection.h"
 #include "x11/KeyChords.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// A keyboard of the agent's own, by virtual-keyboard: what the person holds down on theirs takes
 /// no part. It has a layout of its own too, so that a chord is the same in every application
@@ -36,4 +36,4 @@ class WaylandKeyboard {
   std::unique_ptr<Device> device_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

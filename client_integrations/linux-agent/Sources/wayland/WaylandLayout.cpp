@@ -11,7 +11,7 @@
 #include "wayland/WaylandHandles.h"
 #include "wayland/WaylandKeyboard.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using Context = wayland::Handle<xkb_context, xkb_context_unref>;
@@ -94,4 +94,4 @@ std::optional<std::uint32_t> WaylandLayout::keyFor(Keysym symbol) const {
   return std::nullopt;
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -8,7 +8,7 @@
 #include "wayland/WaylandConnection.h"
 #include "x11/KeyChords.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// The layout of the person's keyboard. Main thread.
 class WaylandLayout {
@@ -29,4 +29,4 @@ class WaylandLayout {
   std::unique_ptr<State> state_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

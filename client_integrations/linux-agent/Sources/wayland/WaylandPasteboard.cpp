@@ -11,7 +11,7 @@
 
 #include "wayland/WaylandDataControl.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using std::chrono::milliseconds;
@@ -281,4 +281,4 @@ std::chrono::steady_clock::time_point WaylandPasteboard::lastWrite() const {
   return state_->lastWrite;
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -16,7 +16,7 @@
 #include "wayland/WaylandConnection.h"
 #include "wayland/WaylandWindows.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// The clipboard by data-control, which needs no window and no focus. That a program has gone which
 /// offered something is no change: it is how a copy of the next one may begin.
@@ -70,4 +70,4 @@ class WaylandPasteboard : public desktop::Pasteboard {
   std::unique_ptr<State> state_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

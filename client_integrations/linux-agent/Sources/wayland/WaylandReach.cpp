@@ -4,11 +4,11 @@
 #include "wayland/WaylandKeyboard.h"
 #include "wayland/WaylandWindows.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 bool reachesApplications(const WaylandConnection& connection) {
   return connection.isAlive() && wayland::offersDataControl(connection) &&
          WaylandKeyboard::isOfferedBy(connection) && WaylandWindows::areOfferedBy(connection);
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -7,7 +7,7 @@
 #include "session/LoadedModule.h"
 #include "wayland/WaylandReach.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 std::string swaySocket() {
@@ -53,4 +53,4 @@ void WaylandSystem::bringToFront(QWidget& window) const {
   windows_->activateOwn(window.windowTitle().toStdString());
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

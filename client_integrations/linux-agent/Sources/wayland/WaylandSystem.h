@@ -11,7 +11,7 @@
 #include "wayland/WaylandPasteboard.h"
 #include "wayland/WaylandWindows.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// Clipboard, keys and windows through the compositor, for native applications and those under
 /// Xwayland alike. REQUIRES: `reachesApplications(*connection)`.
@@ -37,4 +37,4 @@ class WaylandSystem : public WindowingSystem, private OwnWindows {
   WaylandKeyEvents keys_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

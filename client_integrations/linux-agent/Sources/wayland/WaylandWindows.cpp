@@ -7,7 +7,7 @@
 #include "wayland/WaylandHandles.h"
 #include "wlr-foreign-toplevel-management-unstable-v1-client-protocol.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 constexpr std::uint32_t newestVersion = 3;
@@ -173,4 +173,4 @@ void WaylandWindows::activateOwn(const std::string& title) {
     state_->awaited = title;
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

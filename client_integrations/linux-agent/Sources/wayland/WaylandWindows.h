@@ -7,7 +7,7 @@
 
 #include "wayland/WaylandConnection.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// A window as the compositor describes it.
 struct WaylandWindow {
@@ -54,4 +54,4 @@ class WaylandWindows {
   std::unique_ptr<State> state_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -14,7 +14,7 @@
 
 #include "windows/QtText.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 constexpr int textWidth = 420;
@@ -137,4 +137,4 @@ std::string mediumLine(const std::string& medium) {
   return medium.empty() ? std::string() : "Medium: " + medium;
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

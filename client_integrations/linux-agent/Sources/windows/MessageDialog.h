@@ -10,7 +10,7 @@
 #include "desktop/Ticket.h"
 #include "windows/OwnWindows.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// A dialog of the agent: a picture, a title in bold, a text, then rows that its maker adds, and
 /// buttons. All text is plain. Long text scrolls, so that the buttons stay on a small screen.
@@ -47,4 +47,4 @@ class MessageDialog : public QDialog {
 /// How a prompt says where the text is going; empty when that is not known.
 [[nodiscard]] std::string mediumLine(const std::string& medium);
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -2,7 +2,7 @@
 
 class QWidget;
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// The windows of this program among those of others. Main thread.
 class OwnWindows {
@@ -13,4 +13,4 @@ class OwnWindows {
   virtual void bringToFront(QWidget& window) const = 0;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

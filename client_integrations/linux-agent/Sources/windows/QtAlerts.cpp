@@ -12,7 +12,7 @@
 #include "windows/MessageDialog.h"
 #include "windows/QtText.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 MessageDialog::Picture pictureOf(desktop::AlertStyle style) {
@@ -100,4 +100,4 @@ void QtAlerts::notify(const desktop::Notification& notification) {
   QDBusConnection::sessionBus().send(call);
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -3,7 +3,7 @@
 #include "desktop/Alerts.h"
 #include "windows/OwnWindows.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// Alerts as dialogs of Qt, notifications through the session's notification service.
 class QtAlerts : public desktop::Alerts {
@@ -23,4 +23,4 @@ class QtAlerts : public desktop::Alerts {
   const OwnWindows& windows_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

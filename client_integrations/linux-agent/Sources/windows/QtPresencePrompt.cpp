@@ -7,7 +7,7 @@
 #include "windows/MessageDialog.h"
 #include "windows/QtText.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 class Window : public PresenceWindow {
@@ -42,4 +42,4 @@ std::unique_ptr<PresenceWindow> QtPresencePrompt::open(const PresenceRequest& re
       MessageDialog::open(std::move(dialog), windows_, std::move(answered)), instruction);
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -3,7 +3,7 @@
 #include "presence/PresencePrompt.h"
 #include "windows/OwnWindows.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// The windows that say why presence is asked for, as dialogs of Qt.
 class QtPresencePrompt : public PresencePrompt {
@@ -17,4 +17,4 @@ class QtPresencePrompt : public PresencePrompt {
   const OwnWindows& windows_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

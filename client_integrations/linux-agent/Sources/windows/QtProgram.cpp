@@ -4,7 +4,7 @@
 
 #include "windows/MessageDialog.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 void QtProgram::becomeAccessory() {
   QApplication::setQuitOnLastWindowClosed(false);
@@ -25,4 +25,4 @@ void QtProgram::terminate() {
   QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -4,7 +4,7 @@
 #include "desktop/Ticket.h"
 #include "windows/OwnWindows.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 class QtProgram : public desktop::Program {
  public:
@@ -21,4 +21,4 @@ class QtProgram : public desktop::Program {
   desktop::Ticket about_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

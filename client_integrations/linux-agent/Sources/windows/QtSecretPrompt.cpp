@@ -9,7 +9,7 @@
 #include "windows/MessageDialog.h"
 #include "windows/SecretField.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 // One question: shown and answered once, from the main thread.
 class QtSecretPrompt::Pending {
@@ -167,4 +167,4 @@ void QtSecretPrompt::close() {
   }
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -9,7 +9,7 @@
 #include "windows/OwnWindows.h"
 #include "windows/QtText.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// Asks for PINs and passphrases in dialogs of Qt. What is typed is kept in wiped memory only,
 /// never in a widget.
@@ -38,4 +38,4 @@ class QtSecretPrompt : public SecretPrompt {
   bool closed_ = false;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -16,7 +16,7 @@
 #include "windows/MessageDialog.h"
 #include "windows/QtText.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using desktop::Form;
@@ -243,4 +243,4 @@ std::unique_ptr<desktop::Window> QtWindows::make(const desktop::WindowDescriptio
   return std::make_unique<FormWindow>(description, windows_);
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

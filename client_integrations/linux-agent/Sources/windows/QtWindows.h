@@ -3,7 +3,7 @@
 #include "desktop/Window.h"
 #include "windows/OwnWindows.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// Windows of Qt that show a form.
 class QtWindows : public desktop::Windows {
@@ -17,4 +17,4 @@ class QtWindows : public desktop::Windows {
   const OwnWindows& windows_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 constexpr std::size_t largest = 1024;
@@ -80,4 +80,4 @@ void SecretField::edited() {
   if (onEdit) onEdit();
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

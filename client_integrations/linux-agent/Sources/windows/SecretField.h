@@ -6,7 +6,7 @@
 
 #include "keys/SecretBytes.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// A line for a secret. The widget itself holds bullets only; the secret stays in memory that is
 /// wiped. It is edited at its end: typing, pasting, Backspace, and Ctrl+U for all of it.
@@ -35,4 +35,4 @@ class SecretField : public QLineEdit {
   std::vector<std::size_t> lengths_;  // of each character typed, in bytes
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -10,7 +10,7 @@
 #include "windows/QtText.h"
 #include "x11/KeyChords.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 // Menus read "&" as the mark of a mnemonic.
@@ -83,4 +83,4 @@ void TrayStatusItem::setItemTitle(std::size_t index, const std::string& title) {
   actions_.at(index)->setText(menuText(title));
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -8,7 +8,7 @@
 
 #include "desktop/StatusItem.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// The status item as an icon in the tray of the panel. It appears whenever a panel with a tray
 /// starts, and once that panel answers; some desktops have none.
@@ -29,4 +29,4 @@ class TrayStatusItem : public desktop::StatusItem {
   std::vector<QAction*> actions_;  // owned by the menu
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

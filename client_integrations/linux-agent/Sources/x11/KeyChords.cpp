@@ -7,7 +7,7 @@
 
 #include <xkbcommon/xkbcommon-keysyms.h>
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using desktop::contains;
@@ -111,4 +111,4 @@ std::string nameOf(Modifiers modifiers, std::string_view key) {
   return result;
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

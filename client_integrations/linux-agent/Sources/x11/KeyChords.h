@@ -7,7 +7,7 @@
 #include "desktop/KeyEvents.h"
 #include "x11/X11Keyboard.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// The keys of a Linux keyboard that stand for a key press of the agent: modifiers first.
 ///
@@ -36,4 +36,4 @@ namespace quillseal {
 /// The same for a key by its character, given in lower case.
 [[nodiscard]] std::string nameOf(desktop::Modifiers modifiers, std::string_view key);
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

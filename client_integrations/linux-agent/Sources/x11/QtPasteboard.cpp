@@ -11,7 +11,7 @@
 #include "core/text/Error.h"
 #include "windows/QtText.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 ClipboardFormats::Content contentOf(const QMimeData* data) {
@@ -113,4 +113,4 @@ desktop::Ticket QtPasteboard::copyPrimarySelection(std::function<void()> done) {
                             arrive);
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -9,7 +9,7 @@
 #include "desktop/Pasteboard.h"
 #include "x11/X11Selection.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// The clipboard through QClipboard, whose change signal covers every program of the X session;
 /// what the other programs offer is read by X11Selection.
@@ -44,4 +44,4 @@ class QtPasteboard : public desktop::Pasteboard {
   std::chrono::steady_clock::time_point lastWrite_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -4,7 +4,7 @@
 
 #include "core/text/UnicodeText.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 constexpr char separator = ' ';
@@ -60,4 +60,4 @@ bool isSameDocument(std::string_view before, std::string_view now) {
          (then.title.empty() || then.title == current.title);
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

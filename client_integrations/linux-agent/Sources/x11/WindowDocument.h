@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// What a window shows, as far as X tells.
 struct WindowView {
@@ -22,4 +22,4 @@ struct WindowView {
 /// `documentName`. What was not known before is passed over.
 [[nodiscard]] bool isSameDocument(std::string_view before, std::string_view now);
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

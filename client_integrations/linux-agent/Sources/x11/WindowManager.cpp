@@ -11,7 +11,7 @@
 #include "x11/WindowDocument.h"
 #include "x11/XcbHandles.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 using x11::Reply;
@@ -229,4 +229,4 @@ bool WindowManager::releaseKeyboard() const {
   return grab != nullptr && grab->status == XCB_GRAB_STATUS_SUCCESS;
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

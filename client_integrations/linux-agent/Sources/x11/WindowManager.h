@@ -11,7 +11,7 @@
 
 #include "applications/DesktopEntries.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// The windows of the X session, asked and told by the conventions of the EWMH. Uses Qt's own
 /// connection; main thread only. Works without an X server: nothing is found then.
@@ -84,4 +84,4 @@ class WindowManager {
   xcb_window_t root_ = 0;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

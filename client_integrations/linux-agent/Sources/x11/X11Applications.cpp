@@ -1,6 +1,6 @@
 #include "x11/X11Applications.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 using desktop::RunningApplication;
 
@@ -21,4 +21,4 @@ void X11Applications::activate(const RunningApplication& application) {
   if (windows_.exists(window)) windows_.activate(window);
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

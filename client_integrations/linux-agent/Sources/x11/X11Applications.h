@@ -5,7 +5,7 @@
 #include "applications/LinuxApplications.h"
 #include "x11/WindowManager.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// Applications by the windows of the X session and the desktop files of the machine.
 class X11Applications : public LinuxApplications {
@@ -22,4 +22,4 @@ class X11Applications : public LinuxApplications {
   const WindowManager& windows_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -14,7 +14,7 @@
 #include "core/text/Error.h"
 #include "x11/KeyChords.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 // Kinds of XKEYBOARD events; they stand where other events have padding.
@@ -143,4 +143,4 @@ bool X11Hotkey::nativeEventFilter(const QByteArray& /*eventType*/, void* message
   return false;
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

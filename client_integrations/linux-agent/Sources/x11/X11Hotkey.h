@@ -8,7 +8,7 @@
 #include "desktop/MainLoop.h"
 #include "x11/X11Keyboard.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// The global hotkey by a passive grab of the key on the root window.
 class X11Hotkey : public desktop::Hotkey, private QAbstractNativeEventFilter {
@@ -51,4 +51,4 @@ class X11Hotkey : public desktop::Hotkey, private QAbstractNativeEventFilter {
   desktop::Ticket following_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

@@ -10,7 +10,7 @@
 
 #include "x11/XcbHandles.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 // Some browsers drop a key that goes down and up in the same instant.
@@ -202,4 +202,4 @@ std::uint8_t X11Keyboard::xkbEventType() const {
   return state_->xkbEventType;
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

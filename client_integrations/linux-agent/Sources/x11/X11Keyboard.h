@@ -7,7 +7,7 @@
 
 #include <xcb/xcb.h>
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// An X keysym, as in X11/keysymdef.h.
 using Keysym = std::uint32_t;
@@ -64,4 +64,4 @@ class X11Keyboard {
   std::unique_ptr<State> state_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

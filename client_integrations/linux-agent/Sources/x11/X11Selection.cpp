@@ -11,7 +11,7 @@
 
 #include "x11/XcbHandles.h"
 
-namespace quillseal::X11Selection {
+namespace quillseal::linux::X11Selection {
 namespace {
 
 using std::chrono::milliseconds;
@@ -240,4 +240,4 @@ desktop::Ticket read(const Services& services, Wish wish, std::function<void(Con
   return desktop::Ticket([reading] { reading->withdraw(); });
 }
 
-}  // namespace quillseal::X11Selection
+}  // namespace quillseal::linux::X11Selection

@@ -10,7 +10,7 @@
 
 /// What another program offers to paste, read in turns of the main loop: the toolkit's clipboard
 /// holds up the whole program, five seconds for each format, while the other one does not answer.
-namespace quillseal::X11Selection {
+namespace quillseal::linux::X11Selection {
 
 enum class Name { primary, clipboard };
 
@@ -36,4 +36,4 @@ struct Services {
 [[nodiscard]] desktop::Ticket read(const Services& services, Wish wish,
                                    std::function<void(Content)> done);
 
-}  // namespace quillseal::X11Selection
+}  // namespace quillseal::linux::X11Selection

@@ -5,7 +5,7 @@
 
 #include "session/Reach.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 bool isOnX() {
@@ -40,4 +40,4 @@ void X11System::bringToFront(QWidget& window) const {
   windows_.activate(static_cast<xcb_window_t>(window.winId()));
 }
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

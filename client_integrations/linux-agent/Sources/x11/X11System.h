@@ -11,7 +11,7 @@
 #include "x11/X11Keyboard.h"
 #include "x11/XTestKeyEvents.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// Selections, keys and windows through the X server that Qt uses. Without one it does nothing, and
 /// says so.
@@ -38,4 +38,4 @@ class X11System : public WindowingSystem, private OwnWindows {
   XTestKeyEvents keys_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

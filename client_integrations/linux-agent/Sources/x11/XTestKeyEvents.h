@@ -10,7 +10,7 @@
 #include "x11/WindowManager.h"
 #include "x11/X11Keyboard.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 
 /// Synthesised key presses by the XTEST extension. A press is declined unless its target is the
 /// active window and shows what it showed when the target was named, for which it waits a second.
@@ -41,4 +41,4 @@ class XTestKeyEvents : public desktop::KeyEvents {
   Services services_;
 };
 
-}  // namespace quillseal
+}  // namespace quillseal::linux

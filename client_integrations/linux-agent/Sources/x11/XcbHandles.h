@@ -6,7 +6,7 @@
 #include <xcb/xcb.h>
 
 /// Owning handles for what xcb gives.
-namespace quillseal::x11 {
+namespace quillseal::linux::x11 {
 
 struct Disconnect {
   void operator()(xcb_connection_t* connection) const noexcept { xcb_disconnect(connection); }
@@ -20,4 +20,4 @@ struct Free {
 template <typename T>
 using Reply = std::unique_ptr<T, Free>;
 
-}  // namespace quillseal::x11
+}  // namespace quillseal::linux::x11

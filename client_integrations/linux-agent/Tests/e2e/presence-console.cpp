@@ -18,15 +18,15 @@ void say(std::string_view text) {
 }
 
 void answer(std::string_view question) {
-  const quillseal::Interrupt interrupt;
+  const quillseal::linux::Interrupt interrupt;
   if (question == "finger") {
-    const bool passed = quillseal::FingerprintReader::verify(interrupt, say);
+    const bool passed = quillseal::linux::FingerprintReader::verify(interrupt, say);
     say(passed ? "yes" : "no");
   } else if (question == "password") {
-    say(quillseal::PolkitAuthority::ask(interrupt) ? "yes" : "no");
+    say(quillseal::linux::PolkitAuthority::ask(interrupt) ? "yes" : "no");
   } else {
-    say(quillseal::FingerprintReader::isEnrolled() ? "finger" : "no finger");
-    say(quillseal::PolkitAuthority::canAsk() ? "password" : "no password");
+    say(quillseal::linux::FingerprintReader::isEnrolled() ? "finger" : "no finger");
+    say(quillseal::linux::PolkitAuthority::canAsk() ? "password" : "no password");
   }
 }
 

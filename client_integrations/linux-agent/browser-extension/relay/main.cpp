@@ -23,7 +23,7 @@
 #include "browsers/TabMessages.h"
 #include "browsers/TabSocket.h"
 
-namespace quillseal {
+namespace quillseal::linux {
 namespace {
 
 constexpr int exitProtocol = 1;
@@ -144,13 +144,13 @@ int relay(std::span<char*> arguments) {
 }
 
 }  // namespace
-}  // namespace quillseal
+}  // namespace quillseal::linux
 
 int main(int count, char** arguments) {
   try {
-    return quillseal::relay({arguments, static_cast<std::size_t>(count)});
+    return quillseal::linux::relay({arguments, static_cast<std::size_t>(count)});
   } catch (const std::exception& error) {
     std::cerr << "quillseal-tab-relay: " << error.what() << '\n';
-    return quillseal::exitProtocol;
+    return quillseal::linux::exitProtocol;
   }
 }

@@ -3,7 +3,7 @@
 #include <string_view>
 
 /// The server that this build uses when the settings name none; chosen when it is configured.
-namespace quillseal::builtInServer {
+namespace quillseal::BuiltInServer {
 
 /// An https origin without a slash at its end. A placeholder, which leads nowhere, when the build
 /// names no server.
@@ -15,4 +15,4 @@ namespace quillseal::builtInServer {
 /// Empty in a development build, whose users enter server and key in the settings.
 [[nodiscard]] std::string_view apiKey() noexcept;
 
-}  // namespace quillseal::builtInServer
+}  // namespace quillseal::BuiltInServer

@@ -62,7 +62,7 @@ void MenuBarManager::configureServer() {
                                .loop = desktop_.loop,
                                .words = desktop_.words},
         coordinator_, *settingsWindow_,
-        builtInServer::apiKey().empty() ? SettingsView::Build::development
+        BuiltInServer::apiKey().empty() ? SettingsView::Build::development
                                         : SettingsView::Build::packaged);
   }
   settingsWindow_->bringToFront();
@@ -82,7 +82,7 @@ void MenuBarManager::serverUrlChanged() {
 }
 
 std::string MenuBarManager::serverLine() const {
-  const std::string builtIn{builtInServer::url()};
+  const std::string builtIn{BuiltInServer::url()};
   return "Server: " + desktop_.defaults.string("ServerURL").value_or(builtIn);
 }
 

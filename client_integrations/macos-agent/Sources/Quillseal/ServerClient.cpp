@@ -96,15 +96,15 @@ Response readAnswer(const desktop::HttpResponse& answer, const desktop::HttpTran
 }  // namespace
 
 std::string ServerClient::effectiveServerURL(const desktop::Defaults& defaults) {
-  return settingOr(defaults, "ServerURL", builtInServer::url());
+  return settingOr(defaults, "ServerURL", BuiltInServer::url());
 }
 
 bool ServerClient::hasServer(const desktop::Defaults& defaults) {
-  return builtInServer::isChosen() || effectiveServerURL(defaults) != builtInServer::url();
+  return BuiltInServer::isChosen() || effectiveServerURL(defaults) != BuiltInServer::url();
 }
 
 std::string ServerClient::effectiveAPIKey(const desktop::Defaults& defaults) {
-  return settingOr(defaults, "APIKey", builtInServer::apiKey());
+  return settingOr(defaults, "APIKey", BuiltInServer::apiKey());
 }
 
 std::string ServerClient::hardwareUUID(const desktop::MachineIdentity& machine) {

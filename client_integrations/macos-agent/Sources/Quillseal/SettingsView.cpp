@@ -55,7 +55,7 @@ desktop::FormSection SettingsView::serverSection() {
   key.masked = true;
   return {
       .header = "Server Configuration (development build)",
-      .rows = {field("Server URL", "ServerURL", std::string(builtInServer::url())), std::move(key),
+      .rows = {field("Server URL", "ServerURL", std::string(BuiltInServer::url())), std::move(key),
                caption("This key authorizes the app build. It is not proof of who you are — "
                        "that comes from the " +
                        services_.words.current().deviceKey + " below.")}};

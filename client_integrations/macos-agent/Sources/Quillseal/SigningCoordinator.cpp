@@ -547,7 +547,7 @@ std::string SigningCoordinator::configurationAdvice() const {
     return "This build has no server API key. Open Settings and enter the server URL and native "
            "API key, or install a packaged build from your provider.";
   }
-  if (builtInServer::apiKey().empty())
+  if (BuiltInServer::apiKey().empty())
     return "No signing server is set. Open Settings and enter the server URL.";
   return desktop_.words.current().serverAdvice;
 }

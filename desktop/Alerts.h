@@ -60,8 +60,7 @@ struct Notification {
 /// Messages to the user. Main thread; no call waits for the user. Dialogs are modal to this program
 /// only, come up in front of other windows with the keyboard, and hold plain text, of which any
 /// part may come from an untrusted source and must not be read as markup. Long texts scroll.
-/// Several may be open at once. Closing one by any other way than a button counts as its last
-/// button.
+/// Several may be open at once. Closing one without a button counts as its last button.
 class Alerts {
  public:
   virtual ~Alerts() = default;

@@ -23,8 +23,8 @@
 namespace quillseal::desktop {
 
 /// Everything the agent asks of a desktop. A shell supplies one of each, in one place, and keeps
-/// them until the agent's objects are gone and no worker runs any more. Any call may throw Error
-/// when the desktop fails it, unless its contract gives another way to say so.
+/// them until the agent's objects are gone and no worker runs. Any call may throw Error when the
+/// desktop fails, unless its contract reports failures in another way.
 struct Desktop {
   Alerts& alerts;
   Applications& applications;

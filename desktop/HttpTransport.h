@@ -51,7 +51,7 @@ class HttpTransport {
   virtual ~HttpTransport() = default;
 
   /// Sends `post`. `done` gets the answer, whatever its status, or an Error of `transport`'s domain
-  /// in words for the user. A URL that is none is `badUrl`, and nothing is sent.
+  /// in words for the user. A malformed URL gives `badUrl`, and nothing is sent.
   [[nodiscard]] virtual Ticket send(const HttpPost& post,
                                     std::function<void(Outcome<HttpResponse>)> done) = 0;
 

@@ -36,7 +36,7 @@ struct KeyPress {
   friend bool operator==(const KeyPress&, const KeyPress&) = default;
 };
 
-/// Whether a key press reached the application it was meant for; if not, why no key was pressed.
+/// Whether a key press reached its target; if not, why no key was pressed.
 enum class Delivery {
   delivered,
   declined,         ///< something else than the target would have got it

@@ -28,11 +28,11 @@ class Pasteboard {
   [[nodiscard]] virtual std::int64_t changeCount() const = 0;
 
   /// Calls `changed` at the next change of the count, never from inside this call; not at all where
-  /// the desktop does not tell of changes. Whoever waits looks at the count now and then as well.
+  /// the desktop does not report changes. Callers must also poll changeCount().
   [[nodiscard]] virtual Ticket onNextChange(std::function<void()> changed) = 0;
 
-  /// Has the flavours delivered for the functions below and calls `fetched`, also when nobody
-  /// delivers them. Only for desktops on which that takes a program that may hang.
+  /// Fetches the flavours for the functions below from the program that owns them, which may hang,
+  /// and calls `fetched`, also when they do not come. Needed on some desktops only.
   // NOLINTNEXTLINE(performance-unnecessary-value-param): others keep it.
   [[nodiscard]] virtual Ticket fetch(std::function<void()> fetched) {
     fetched();
@@ -43,7 +43,7 @@ class Pasteboard {
   /// for the log; empty when nothing is known to.
   [[nodiscard]] virtual std::string readingObstacle() const { return {}; }
 
-  /// Whether the one who copied marked it as a secret, as password managers do.
+  /// Whether the program that copied marked it as a secret, as password managers do.
   [[nodiscard]] virtual bool isConcealed() const = 0;
 
   [[nodiscard]] virtual std::optional<std::string> plainText() const = 0;

@@ -5,8 +5,8 @@
 namespace quillseal::desktop {
 
 /// The words in which the agent speaks of this desktop, its keys and the place of the device key.
-/// What is said alike everywhere is the agent's own; where desktops say different things, a whole
-/// sentence is here. Examples are those of macOS.
+/// Sentences that are the same everywhere are the agent's own; those that differ are here as a
+/// whole. Examples are those of macOS.
 struct Wording {
   std::string hotkey;              ///< "⌘⌥⌃H"
   std::string pasteKey;            ///< "⌘V"

@@ -75,7 +75,7 @@ constexpr std::array<Byte, 256> classesOfBytes() {
 
 constexpr std::array<Byte, 256> byteClasses = classesOfBytes();
 
-/// Decides quickly that an ordinary text of ASCII has nothing to undo; may say no for some of them.
+/// A quick test for ordinary ASCII text with nothing to undo. May say no to some of it.
 class PlainText {
  public:
   explicit PlainText(std::string_view text) : text_(text) {}
@@ -95,7 +95,7 @@ class PlainText {
           if (!passesNumber()) return false;
           break;
         case Byte::point:
-          // Behind a word or a number it is looked at with them.
+          // Behind a word or a number it belongs to that.
           if (position_ + 1 < text_.size() && !isSpace(at(position_ + 1))) return false;
           ++position_;
           break;
@@ -121,7 +121,7 @@ class PlainText {
   }
   static bool isSpace(Byte byte) { return byte == Byte::blank || byte == Byte::lineBreak; }
 
-  /// White space that is one blank, or that may stay as it is.
+  /// White space that is one blank or needs no change.
   bool passesSpace() {
     const std::size_t start = position_;
     bool hasLineBreak = false;
@@ -250,7 +250,7 @@ class PlainText {
 
 // ---- From bytes to cells and back
 
-/// What code points of ASCII are.
+/// The kinds of ASCII code points.
 const std::array<Kind, 0x80>& asciiKinds() {
   static const std::array<Kind, 0x80> kinds = [] {
     std::array<Kind, 0x80> all{};
@@ -261,12 +261,12 @@ const std::array<Kind, 0x80>& asciiKinds() {
   return kinds;
 }
 
-/// The code points of a part of a text, with what they always read as.
+/// Decodes a part of a text into cells and replaces code points that always read as something else.
 class Decoder {
  public:
   Decoder(std::string_view text, Cells& cells) : text_(text), cells_(cells) {}
 
-  /// Reads the part; whether any code point reads as something else.
+  /// Returns whether any code point reads as something else.
   bool decode(std::size_t start, std::size_t end) {
     bool isChanged = false;
     for (std::size_t position = start; position < end;) {
@@ -290,7 +290,7 @@ class Decoder {
               ascii_[static_cast<unsigned char>(letter)], false);
       } else if (reading.kind == Kind::invisible) {
         isChanged = true;
-        // A soft hyphen is drawn where the line ends.
+        // A soft hyphen is visible at the end of a line.
         const bool isDrawn = scalar == softHyphen && position < end &&
                              (text_[position] == '\n' || text_[position] == '\r');
         if (isDrawn) add(U'-', first, position, Kind::sign, false);
@@ -328,8 +328,8 @@ class Decoder {
   const std::array<Kind, 0x80>& ascii_ = asciiKinds();
 };
 
-/// Where a part of `text` that can be read by itself ends: no step looks over a blank line, nor
-/// over the end of a line at which a sentence ends and another begins.
+/// The end of the part of `text` that can be read alone: no step looks across a blank line, nor
+/// across the end of a line where one sentence ends and the next begins.
 std::size_t endOfPart(std::string_view text, std::size_t start) {
   const auto at = [&](std::size_t i) { return i < text.size() ? text[i] : '\0'; };
   for (std::size_t lineEnd = text.find('\n', start); lineEnd != std::string_view::npos;

@@ -64,7 +64,7 @@ std::string_view textOf(Insertion insertion) {
   return "";
 }
 
-/// Takes what was removed out of the cells, and puts in what is to be inserted.
+/// Deletes the cells marked as removed and adds those to be inserted.
 void tidy(Cells& cells) {
   Cells tidied;
   tidied.reserve(cells.size());
@@ -83,7 +83,7 @@ void tidy(Cells& cells) {
   cells.swap(tidied);
 }
 
-/// A word in the making, as the table of words has it.
+/// A word while it is built up, in the form of the table of words.
 class Word {
  public:
   void add(char32_t scalar) {
@@ -116,7 +116,7 @@ std::string_view lettersOf(const Cell& cell) {
   return compiledTables.of(cell.scalar).view();
 }
 
-/// One of them; which one, is the last digit of `way` in the number system of their number.
+/// One of them: the last digit of `way` in base `n`, for `n` letters, selects it.
 char32_t letterOf(const Cell& cell, std::size_t& way) {
   const std::string_view letters = lettersOf(cell);
   const char letter = letters[way % letters.size()];
@@ -126,7 +126,7 @@ char32_t letterOf(const Cell& cell, std::size_t& way) {
 
 // ---- Segmenting what was run together
 
-/// Divides letters into known words.
+/// Divides letters without blanks into known words.
 class Segmenter {
  public:
   /// The places behind words, the last one included; empty when it is not made of known words.
@@ -141,7 +141,7 @@ class Segmenter {
     ways_.assign(size + 1, Way{});
     ways_[0].cost = 0;
     for (std::size_t start = 0; start < size; ++start) {
-      // A letter that belongs to no word is dear; one word is cheaper than two.
+      // A letter outside all words costs most, and one word costs less than two.
       relax(start, 1, 30, WordClass::unknown);
       std::size_t most = std::min<std::size_t>(2, size - start);
       if (size - start > 2)
@@ -151,7 +151,7 @@ class Segmenter {
       for (std::size_t length = 1; length <= most; ++length) {
         const WordClass word = classOf(letters.substr(start, length));
         if (word == WordClass::unknown) continue;
-        // Short words of other languages and abbreviations are found in letters of any kind.
+        // Any letters contain short words of other languages and abbreviations by chance.
         constexpr std::array<std::uint32_t, 4> costOfShort{0, 22, 16, 11};
         if (length < costOfShort.size() && word != WordClass::common) continue;
         relax(start, length, length < costOfShort.size() ? costOfShort[length] : 10, word);
@@ -184,7 +184,7 @@ class Segmenter {
 
   void relax(std::size_t start, std::size_t length, std::uint32_t cost, WordClass word) {
     Way& way = ways_[start + length];
-    // Of two ways that are as good, the one that leaves more blanks where they are.
+    // Of two equal ways, the one that moves fewer blanks.
     const std::uint32_t total = ways_[start].cost + cost - isBlank_[start + length];
     if (total <= way.cost) way = {total, static_cast<std::uint16_t>(length), word};
   }
@@ -270,7 +270,7 @@ class LetterReader {
     return start;
   }
 
-  /// What the letters of a word are.
+  /// Which scripts the letters of a word belong to.
   struct WordScripts {
     bool hasLatin = false;
     bool hasTwin = false;
@@ -287,8 +287,8 @@ class LetterReader {
     return scripts;
   }
 
-  /// Whether the line is in Latin letters for the most part. What could be Latin and makes a word
-  /// there counts for neither.
+  /// Whether most letters of the line are Latin. Those that could be Latin and make a word
+  /// count for neither side.
   [[nodiscard]] bool isLatinLine(std::size_t start, std::size_t end) const {
     std::size_t latin = 0;
     std::size_t foreign = 0;
@@ -314,7 +314,7 @@ class LetterReader {
   }
 
   void readWord(std::size_t start, std::size_t end, bool isInLatinLine) {
-    // What strikes words out stands over the blanks and signs between them, too.
+    // Marks that strike words out also stand on the blanks and signs between them.
     for (; start > 0 && start < end && cells_[start].kind == Kind::mark &&
            (cells_[start - 1].scalar < 0x80 || cells_[start - 1].kind == Kind::invisible);
          ++start) {
@@ -345,7 +345,7 @@ class LetterReader {
     return std::nullopt;
   }
 
-  /// As the letters that make a word, or else as the likeliest ones.
+  /// Reads them as letters that make a word, or else as the likeliest ones.
   void readTwins(std::size_t start, std::size_t end) {
     std::size_t way = wayToWord(start, end).value_or(0);
     for (std::size_t i = start; i < end; ++i)
@@ -370,7 +370,7 @@ class LetterReader {
     }
   }
 
-  /// Leaves marks off where that makes a word of what is none, or where they are heaped up.
+  /// Removes marks where that turns an unknown word into a known one, or where many are stacked.
   void readMarks(std::size_t start, std::size_t end) {
     Word marked;
     Word plain;
@@ -423,7 +423,7 @@ class LetterReader {
 
 // ---- Letters set apart
 
-/// Joins letters that stand one by one, with the same between all of them.
+/// Joins single letters that have the same separator between all of them.
 class LetterJoiner {
  public:
   LetterJoiner(Cells& cells, Segmenter& segmenter) : cells_(cells), segmenter_(segmenter) {}
@@ -476,7 +476,7 @@ class LetterJoiner {
     return true;
   }
 
-  /// Whether two letters or more stand apart from `first` on; notes them.
+  /// Collects the single letters from `first` on; whether there are two or more.
   bool collect(std::size_t first) {
     units_.clear();
     units_.push_back({.at = first});
@@ -499,10 +499,10 @@ class LetterJoiner {
     return units_.size() > 1;
   }
 
-  /// Joins what makes words; the cell to go on behind.
+  /// Joins the letters that make words. Returns the cell to go on behind.
   std::size_t joinUnits() {
     isJoined_ = false;
-    // With blanks between letters and more of them between words, all of it is set apart.
+    // With one blank between letters and more between words, the whole text is set apart.
     constexpr std::size_t manyUnits = 8;
     isAllApart_ =
         units_.size() >= manyUnits &&
@@ -514,7 +514,7 @@ class LetterJoiner {
       joinPiece(start, end);
       start = end;
     }
-    // Where nothing was joined, the last may be the first of others.
+    // If nothing was joined, the last letter may begin the next group.
     return isJoined_ ? units_.back().at : units_.back().at - 1;
   }
 
@@ -609,7 +609,7 @@ class WordMender {
     return scalar == U'-' || scalar == U'_' || scalar == U'=';
   }
 
-  /// Those that stand between the letters of a word for no honest reason.
+  /// Signs that have no ordinary use between the letters of a word.
   static bool isStraySign(char32_t scalar) {
     constexpr std::u32string_view signs = U"*~^\u00B7\u2022\u2024\u22C5\u30FB\u25CF\u2219";
     return signs.find(scalar) != std::u32string_view::npos;
@@ -628,7 +628,7 @@ class WordMender {
   }
 
   void add(Word& word, std::size_t start, std::size_t end) const {
-    // What is longer is no word, however long it is.
+    // Nothing longer is a word.
     end = std::min(end, start + longestWord + 1);
     for (std::size_t i = start; i < end; ++i)
       word.add(cells_[i].scalar);
@@ -646,7 +646,8 @@ class WordMender {
     isChanged_ = true;
   }
 
-  /// Of a word that a line break, with or without the sign at `sign`, breaks. Where to go on.
+  /// Mends a word that a line break divides, with or without the sign at `sign`. Returns where to
+  /// go on.
   std::size_t mendLine(std::size_t sign, std::size_t space, bool hasSign) {
     std::size_t lineBreaks = 0;
     std::size_t next = space;
@@ -681,7 +682,7 @@ class WordMender {
     return goOn;
   }
 
-  /// Of a word that the same sign breaks, once or more often. Where to go on.
+  /// Mends a word that one sign divides, once or more often. Returns where to go on.
   std::size_t mendWithin(std::size_t sign) {
     const char32_t separator = cells_[sign].scalar;
     const std::size_t first = startOfWord(sign);
@@ -702,7 +703,7 @@ class WordMender {
     return end - 1;
   }
 
-  /// Whether what stands next to it makes it a part of an address.
+  /// Whether its neighbours make it a part of an address.
   [[nodiscard]] bool isOfAddress(std::size_t start, std::size_t end) const {
     const auto isSign = [&](std::size_t i) {
       return cells_[i].scalar == U'@' || cells_[i].scalar == U'/';
@@ -731,7 +732,7 @@ class SignReader {
       else if (token.letters > 0 && !isMeasure(token) && isSpelt(token, false))
         ++spelt;
     }
-    // Where many words are spelt with digits, numbers and names are, too.
+    // Where many words are spelt with digits, so may be numbers and names.
     constexpr std::size_t fewSpelt = 2;
     if (spelt >= fewSpelt && 3 * spelt >= words)
       for (const Token& token : tokens_)
@@ -819,8 +820,8 @@ class SignReader {
            isLatin(cells_[token.start - 2]);
   }
 
-  /// Tries what the signs may stand for, and writes the first word that comes of it, or else, if
-  /// it is to be read `inAnyCase`, the likeliest letters.
+  /// Tries the letters that the signs may stand for and writes the first word found, or else, if
+  /// `inAnyCase`, the likeliest letters.
   bool isSpelt(const Token& token, bool inAnyCase) {
     std::size_t ways = 1;
     constexpr std::size_t mostWays = 16;
@@ -865,7 +866,7 @@ class BlankMover {
   bool move() {
     for (std::size_t start = 0; start < cells_.size();) {
       const std::size_t end = findWords(start);
-      // All of them at once where most are none, or else around each.
+      // All words at once where most are unknown, or else around each unknown one.
       if (counts_.mayHaveMovedBlanks() &&
           !(counts_.areMostlyUnknown() && isMoved(start, end, true)))
         moveAroundUnknown();
@@ -883,7 +884,7 @@ class BlankMover {
 
   static bool isPlainLetter(const Cell& cell) { return cell.kind == Kind::letter; }
 
-  /// The words with nothing but blanks between them; the end.
+  /// Collects the words that only blanks separate. Returns their end.
   std::size_t findWords(std::size_t start) {
     counts_ = {};
     words_.clear();
@@ -907,7 +908,7 @@ class BlankMover {
     return end;
   }
 
-  /// Within what is unknown and the words on both sides, if all of that is made of words.
+  /// Divides each unknown word with its two neighbours anew, if all of it is known words.
   void moveAroundUnknown() {
     for (std::size_t i = 0; i < words_.size(); ++i) {
       if (words_[i].isKnown) continue;
@@ -931,7 +932,7 @@ class BlankMover {
         blanks_.push_back(letters_.size());
     }
     const auto& borders = segmenter_.segment(letters_, blanks_);
-    // Short words are found in letters of any kind.
+    // Any letters contain short words by chance.
     constexpr std::size_t meanLength = 3;
     if (borders.empty() || borders.size() * meanLength > letters_.size() ||
         (!mayHaveUnknown && segmenter_.unknownLetters() > 0) ||
@@ -974,7 +975,7 @@ class BlankMover {
 
 // ---- Sums of money
 
-/// Writes every sum as the rules do that were made for dollars: "$12,499".
+/// Writes every sum in the form that rules made for dollars know: "$12,499".
 class AmountReader {
  public:
   explicit AmountReader(Cells& cells) : cells_(cells) {}
@@ -1000,7 +1001,7 @@ class AmountReader {
 
   static bool isCurrencySign(const Cell& cell) {
     constexpr std::u32string_view signs = U"$\u00A3\u00A5\u0E3F";
-    // A block of Unicode holds all others.
+    // All other currency signs are in one block of Unicode.
     return (cell.scalar >= U'\u20A0' && cell.scalar <= U'\u20C0') ||
            signs.find(cell.scalar) != std::u32string_view::npos;
   }
@@ -1033,7 +1034,7 @@ class AmountReader {
     if (at >= cells_.size() || !isDigit(at + 1)) return false;
     const char32_t separator = cells_[at].scalar;
     if (!isBlank(at) && separator != U'\'' && separator != U'\u2019') return false;
-    // A sum has few groups; what has more is a list of numbers.
+    // More groups than this are a list of numbers.
     constexpr int mostGroups = 5;
     for (int groups = 0; at < cells_.size() && cells_[at].scalar == separator && isDigit(at + 1);
          ++groups) {
@@ -1080,7 +1081,7 @@ class AmountReader {
     return true;
   }
 
-  /// Reads what stands from `first` on, before the number, as one currency sign.
+  /// Replaces the currency from `first` up to the number by one sign.
   void write(std::size_t first, std::size_t sign, std::size_t number) {
     for (std::size_t i = first; i < number; ++i) {
       if (i == sign) {
@@ -1140,7 +1141,7 @@ class AmountReader {
     return isOneOf(names, start, end);
   }
 
-  /// Whether the word before the number moves money.
+  /// Whether the word before the number is a verb that moves money.
   [[nodiscard]] bool isMoved(std::size_t number) const {
     std::size_t end = number;
     while (end > 0 && isBlank(end - 1))
@@ -1234,8 +1235,8 @@ class WhiteSpaceReader {
 
 // ---- Points that end no sentence
 
-/// Short words that are written with a point, in English, German, French, Spanish, Portuguese and
-/// Dutch; those of `onlyBeforeNumbers` are words of their own otherwise.
+/// Abbreviations that end with a point, in English, German, French, Spanish, Portuguese and
+/// Dutch. Those of `onlyBeforeNumbers` are ordinary words elsewhere.
 constexpr auto abbreviations = std::to_array<std::string_view>(
     {"abs",  "acct", "admin", "adv",  "amt",  "anh",  "apt",  "approx", "apr",  "art",  "assoc",
      "asst", "aug",  "av",    "ave",  "avda", "betr", "bijv", "bldg",   "blvd", "bzgl", "bzw",
@@ -1271,7 +1272,7 @@ class PointReader {
   }
 
  private:
-  /// The hyphenation point, which looks like one and is one to no rule.
+  /// The hyphenation point: looks like a full stop, and no rule takes it for one.
   static constexpr char32_t pointOfAddress = U'\u2027';
 
   [[nodiscard]] const Cell* at(std::size_t i) const {
@@ -1310,7 +1311,7 @@ class PointReader {
       // A number, a time, a date, a version.
       change(point, isInTelephoneNumber(point) ? U'-' : U',');
     } else if (isWithin) {
-      // Words between which a blank was left out, or the name of a thing.
+      // Two words without a blank between them, or a name with a point in it.
       if (isNumbered_)
         change(point, pointOfAddress);
       else if (!isUpper(*after))
@@ -1354,7 +1355,7 @@ class PointReader {
     if (end < cells_.size() && !isSpace(cells_[end])) cells_[end].inserted = Insertion::blank;
   }
 
-  /// What stands between blanks around a point.
+  /// Finds the characters around the point, up to the next blank on each side.
   void findToken(std::size_t point) {
     std::size_t start = point;
     while (start > 0 && !isSpace(cells_[start - 1]))
@@ -1362,7 +1363,7 @@ class PointReader {
     std::size_t end = point;
     while (end < cells_.size() && !isSpace(cells_[end]))
       ++end;
-    // What follows it belongs to the sentence.
+    // Punctuation at its end belongs to the sentence.
     while (end > point + 1 && !isAlphanumeric(cells_[end - 1]))
       --end;
     isAddress_ = isHostName(point, end);
@@ -1375,7 +1376,7 @@ class PointReader {
     goesOn_ = isAddress_ && goesOn(end);
   }
 
-  /// The points of an address become what ends no sentence.
+  /// Replaces the points of an address by a character that ends no sentence.
   void readAddress(std::size_t point) {
     for (std::size_t i = point; i < endOfToken_; ++i) {
       const char32_t scalar = cells_[i].scalar;

@@ -9,10 +9,10 @@
 /// The steps by which `ReadableText` undoes disguises.
 namespace quillseal::reading {
 
-/// What is to be read before a cell without having been written.
+/// What is read before a cell although it was not written.
 enum class Insertion : std::uint8_t { none, blank, currency, thousands };
 
-/// A code point that is read, and the bytes that it was written with.
+/// A code point as it is read, with the bytes it was written in.
 struct Cell {
   char32_t scalar = 0;
   std::uint32_t start = 0;
@@ -31,11 +31,10 @@ struct Contents {
   bool hasFormsByNeighbour = false;    ///< wide signs, letters of flags, angle brackets
 };
 
-/// How many of the words in a row are known.
+/// Counts known and unknown words in a row.
 class KnownWords {
  public:
-  /// `isName`: it begins with a capital and goes on in small letters, as names do, which are known
-  /// to nobody.
+  /// `isName`: a capital followed by small letters. Names are in no table of words.
   void add(std::size_t letters, bool isKnown, bool isName) {
     if (isKnown) {
       known_ += letters;
@@ -45,7 +44,7 @@ class KnownWords {
     }
   }
 
-  /// Whether blanks may have been moved, put in or taken out: too much is unknown.
+  /// Whether so many words are unknown that blanks may have been moved, added or removed.
   [[nodiscard]] bool mayHaveMovedBlanks() const {
     constexpr std::size_t fewWords = 2;
     constexpr std::size_t fewLetters = 8;
@@ -63,9 +62,8 @@ class KnownWords {
   std::size_t unknownWords_ = 0;
 };
 
-/// Takes all steps in turn until none changes anything; whether any did. A step that has changed
-/// something can give work to another one; chains of that have few links in texts of any kind, and
-/// are cut off where somebody made one that is longer.
+/// Repeats all steps until none changes anything, or a fixed number of rounds is reached. Returns
+/// whether any did.
 bool undoDisguises(Cells& cells, const Contents& contents);
 
 /// Whether the `length` letters of ASCII before a full stop may be an abbreviation.

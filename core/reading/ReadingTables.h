@@ -70,7 +70,7 @@ inline constexpr std::size_t beginnings = 26UL * 26 * 26;
 /// Words in small letters of Latin-1, one byte each, filled up with zeros.
 using WordBytes = std::array<std::uint64_t, longestWord / 8>;
 
-/// A word as a number.
+/// The hash of a word.
 [[nodiscard]] inline std::uint64_t hashOfWord(const WordBytes& bytes) {
   std::uint64_t hash = bytes[0] * 0x9E3779B97F4A7C15;
   if (bytes[1] != 0) {
@@ -103,7 +103,7 @@ inline constexpr std::uint32_t wordBit = 1;
   return static_cast<std::uint32_t>(hashOfWord >> 32) & ~(commonWordBit | wordBit);
 }
 
-/// What is known of a word. (One of a thousand million others passes for one.)
+/// Looks a word up. (One of a thousand million unknown words passes for a known one.)
 [[nodiscard]] inline WordClass classOf(const WordBytes& word) {
   const std::uint64_t hash = hashOfWord(word);
   const std::size_t mask = compiledTables.words.size() - 1;

@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-/// The address of a signing page, which carries the text in its fragment: browsers send a fragment
-/// to nobody. Pure functions.
+/// The address of a signing page, which carries the text in its fragment: browsers do not send
+/// fragments. Pure functions.
 namespace quillseal::HandoffPage {
 
 /// HTML that takes more characters than this in the fragment is left out.

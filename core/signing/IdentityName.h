@@ -7,14 +7,14 @@
 /// functions are for what is shown. Pure functions.
 namespace quillseal::IdentityName {
 
-/// Whether what one sees of a name is all of it, in its order: it has a visible sign, and no
+/// Whether a name is what it looks like: it has a visible character, and no
 /// control, line break, directional control or other invisible scalar. Joiners and variation
 /// selectors, which names in many scripts need, are allowed.
 [[nodiscard]] bool isPlain(std::string_view name);
 
 /// A name for the middle of a sentence. What `isPlain` does not allow is spelled out, as in
-/// "Ada‹U+202E›", and a name that is written from right to left leaves the order of the words
-/// around it alone. Any other name is returned as it is.
+/// "Ada‹U+202E›", and a name that is written from right to left does not change the order of the
+/// words around it. Any other name is returned as it is.
 [[nodiscard]] std::string shown(std::string_view name);
 
 }  // namespace quillseal::IdentityName

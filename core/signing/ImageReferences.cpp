@@ -105,7 +105,7 @@ class ImageTagScanner {
     return html_.substr(at, 2) == "\xC5\xBF" ? 2 : 0;
   }
 
-  /// Where the value of an attribute starts whose name goes on with "rc" at `at`, or npos.
+  /// Where the value of `src` starts, given that "rc" is expected at `at`; npos if it is not there.
   std::size_t valueBehind(std::size_t at) const {
     if (at + 2 > html_.size() || !equalsAsciiLetter(html_[at], 'r') ||
         !equalsAsciiLetter(html_[at + 1], 'c'))

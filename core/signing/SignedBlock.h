@@ -22,7 +22,7 @@ struct Fields {
 /// "." nor "..". Links and scripts are built from such identifiers only.
 [[nodiscard]] bool isSafeIdentifier(std::string_view identifier);
 
-/// "2025-01-30" as "30 January 2025"; anything that is no date unchanged.
+/// "2025-01-30" as "30 January 2025". Anything but a date is returned as it is.
 [[nodiscard]] std::string readableDate(std::string_view date);
 
 /// The block as plain text.

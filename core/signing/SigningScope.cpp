@@ -11,7 +11,7 @@ bool contains(std::string_view text, std::string_view part) {
   return text.find(part) != std::string_view::npos;
 }
 
-/// A hit in the bundle identifier and then one in the name is looked for, kind after kind.
+/// Kinds are tried in order, each first in the bundle identifier and then in the name.
 struct Kind {
   std::string_view word;
   std::string_view medium;

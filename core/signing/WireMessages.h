@@ -91,15 +91,15 @@ struct ErrorResponse {
 };
 
 /// The request as compact JSON, every key present and in the order of the fields. Throws Error when
-/// a value is no well-formed UTF-8.
+/// a value is not well-formed UTF-8.
 [[nodiscard]] std::string encoded(const EnrolRequest& request);
 [[nodiscard]] std::string encoded(const SignRequest& request);
 [[nodiscard]] std::string encoded(const DemoSignRequest& request);
 [[nodiscard]] std::string encoded(const HandoffCreateRequest& request);
 [[nodiscard]] std::string encoded(const HandoffPollRequest& request);
 
-/// The response that `json` is. Throws JsonError, which names the key at fault, when it is none;
-/// keys that are not asked for do not matter. One specialisation for each response.
+/// Parses a response. Throws JsonError, which names the key at fault. Unknown keys are ignored. One
+/// specialisation for each response.
 template <typename Response>
 [[nodiscard]] Response decoded(std::string_view json);
 

@@ -165,7 +165,7 @@ class AsyncMutex {
       if (!waiting.empty()) waking = loop.after({}, [this] { letNextThrough(); });
     }
 
-    /// The one that was first when the lock was let go may have left since, and another have it.
+    /// The first in the queue may have left since the lock was released.
     void letNextThrough() {
       if (isHeld || waiting.empty()) return;
       isHeld = true;
@@ -194,8 +194,8 @@ class AsyncMutex {
   std::shared_ptr<Queue> queue_;
 };
 
-/// Owns tasks that nobody awaits. Each is gone as soon as it has ended; those that have not are
-/// cancelled when the scope is destroyed, which must not happen from inside one of them.
+/// Owns tasks that nobody awaits. Each is destroyed when it has ended. The others are cancelled
+/// with the scope, which must not be destroyed from inside one of them.
 class TaskScope {
  public:
   TaskScope() = default;

@@ -74,8 +74,8 @@ constexpr auto independentOfBasicPlane = [] {
   return bits;
 }();
 
-/// Whether two of these, side by side, always belong to two characters. Only the great blocks
-/// count, whose members Unicode will not change: they spare long texts the look-up. (Of break class
+/// Whether two of these, side by side, always belong to two characters. Only large, stable blocks
+/// count; they spare long texts the look-up. (Of break class
 /// Other, Control, LF, LV or LVT; CR is left out for the sake of CR LF.)
 inline bool isIndependent(std::uint32_t block, std::uint32_t offset) {
   return (independentOfBasicPlane[block] >> offset & 1) != 0;

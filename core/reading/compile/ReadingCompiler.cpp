@@ -23,8 +23,8 @@ using Kind = Reading::Kind;
 
 // ---- Code points
 
-/// Letters that are drawn alike in most fonts, but that Unicode's list of confusables takes for
-/// those of phonetic alphabets, or not at all.
+/// Letters that look alike in most fonts, but that Unicode's list of confusables lacks or
+/// assigns to letters of phonetic alphabets.
 constexpr std::pair<char32_t, char> furtherTwins[] = {
     {U'\u03B2', 'b'}, {U'\u03B5', 'e'}, {U'\u03BA', 'k'}, {U'\u03BC', 'u'}, {U'\u03C0', 'n'},
     {U'\u03C7', 'x'}, {U'\u03C9', 'w'}, {U'\u03A3', 'E'}, {U'\u0418', 'N'}, {U'\u0438', 'n'},
@@ -40,7 +40,7 @@ constexpr std::pair<char32_t, std::string_view> lettersOfSigns[] = {
     {U'\u00A1', "i"}, {U'\u00A2', "c"}, {U'\u00A3', "l"}, {U'\u00A5', "y"}, {U'\u00A7', "s"},
     {U'\u20AC', "e"}, {U'\u00D7', "x"}};
 
-/// Hyphens and dashes that are read as one.
+/// Read as a hyphen.
 constexpr std::u32string_view hyphens = U"\u2010\u2011\u2012\u2043\u2212\uFE58\uFE63\uFF0D";
 
 Reading reading(Kind kind, std::string_view text = {}) {
@@ -58,7 +58,7 @@ bool isAsciiDigit(char32_t scalar) {
   return scalar >= U'0' && scalar <= U'9';
 }
 
-/// Asks ICU.
+/// Derives the readings of code points from ICU's data.
 class CodePoints {
  public:
   CodePoints() {
@@ -193,7 +193,7 @@ class CodePoints {
       const auto ofSmall = small != point ? confusable(static_cast<char32_t>(small)) : std::nullopt;
       return ofSmall == "i" || ofSmall == "il" ? "Il" : "li";
     }
-    // A stroke that some fonts draw as a small l.
+    // PALOCHKA: a stroke that many fonts draw as a small l.
     if (scalar == U'\u04CF') return "li";
     if (isAsciiLetter(bases[0])) return std::string(1, static_cast<char>(bases[0]));
     if (const auto base = baseFromName(nameOf(bases[0]))) return std::string(1, *base);
@@ -243,7 +243,7 @@ class CodePoints {
 
 // ---- Words
 
-/// Stands where a pattern allows any letter: what contains it is no word.
+/// A place where a pattern allows any letter. What contains it is not a word.
 constexpr char anyLetter = '\x01';
 
 /// The letters with which texts that match a part of a pattern begin and end.
@@ -259,7 +259,7 @@ struct Fragment {
 
 using Fragments = std::set<Fragment>;
 
-/// More ways than any honest word has; what a pattern can be beyond them is not a word.
+/// More variants than an ordinary word has. A larger set is not one of words.
 constexpr std::size_t mostFragments = 4000;
 
 class WordCollector {
@@ -317,7 +317,7 @@ class WordCollector {
     Fragments fragments;
     constexpr std::size_t mostMembers = 12;
     if (size > mostMembers) {
-      // Of what excludes little, such as the rest of a sentence, words are not expected.
+      // A set that excludes little, such as the rest of a sentence, holds no words.
       constexpr std::size_t mostOfOneKind = 0x100000;
       if (!hasLetters || size > mostOfOneKind) return border();
       return {{.start = {anyLetter}, .end = {anyLetter}}};
@@ -353,7 +353,7 @@ class WordCollector {
   Fragments ofRepetition(const Node& node) {
     const Fragments once = fragmentsOf(node.children[0]);
     Fragments result = once;
-    // Words of which several may follow are not written as one.
+    // Words that may repeat are not written as one.
     if (node.max > 1)
       for (const Fragment& fragment : once)
         result.insert({.start = fragment.start, .end = fragment.end, .hasBorder = true});
@@ -441,7 +441,7 @@ std::set<std::string> wordsOf(std::span<const screening::Pattern> patterns) {
     try {
       collector.collect(pattern);
     } catch (const screening::PatternError&) {
-      // The compiler of the patterns tells of it.
+      // Reported by the compiler of the patterns.
       continue;
     }
   }

@@ -24,7 +24,7 @@ namespace {
 
 constexpr char32_t pastLast = 0x110000;
 
-/// A larger set says too little about what stands in a match.
+/// A larger set is too unselective for literals.
 constexpr std::size_t largestLetterSet = 16;
 
 std::u32string fullFolding(char32_t c) {
@@ -36,7 +36,7 @@ std::u32string fullFolding(char32_t c) {
   return folded;
 }
 
-/// What the traits stand for.
+/// The code points with each trait.
 const std::vector<std::pair<ClassTrait, CodePointRanges>>& traitRanges() {
   static const std::vector<std::pair<ClassTrait, CodePointRanges>> ranges{
       {isWordTrait, codePointsOf(wordSet)},
@@ -54,7 +54,7 @@ void sortAndUnite(std::vector<char32_t>& codePoints) {
   codePoints.erase(std::unique(codePoints.begin(), codePoints.end()), codePoints.end());
 }
 
-/// All that patterns can tell of a code point.
+/// The features of a code point that patterns can tell apart.
 struct Features {
   std::vector<std::uint64_t> sets{};  ///< a bit for each set: whether it is a member
   std::uint8_t traits = 0;

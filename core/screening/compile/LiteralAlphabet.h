@@ -10,7 +10,7 @@ namespace quillseal::screening {
 
 /// Folded letters that stand in a row somewhere in a match. A blank is any run of white space.
 using Literal = std::vector<Letter>;
-/// Of which one stands there.
+/// Alternatives, of which one stands there.
 using Literals = std::vector<Literal>;
 
 /// The bounds of two stretches that follow one another.
@@ -19,7 +19,7 @@ using Literals = std::vector<Literal>;
 /// The larger bound in each measure.
 [[nodiscard]] Distance larger(const Distance& a, const Distance& b);
 
-/// What can be done with literals when it is known what their letters are.
+/// Operations on literals that need to know what their letters are.
 class LiteralAlphabet {
  public:
   explicit LiteralAlphabet(const ClassPartition& classes)
@@ -45,7 +45,7 @@ class LiteralAlphabet {
   /// Whether there was any.
   [[nodiscard]] bool dropLeadingSpace(Literals& literals) const;
 
-  /// Leaves the beginnings of long literals, and says how much was cut off at most.
+  /// Cuts long literals. Returns how much was cut off at most.
   [[nodiscard]] Distance shorten(Literals& literals) const;
 
  private:

@@ -15,7 +15,7 @@ namespace quillseal::screening {
 /// Code points as ascending, disjoint, non-adjacent inclusive ranges.
 using CodePointRanges = std::vector<std::pair<char32_t, char32_t>>;
 
-/// Where a pattern cannot be used: malformed, or a construct that the engine does not offer.
+/// A pattern is malformed, or uses a construct that the engine does not offer.
 class PatternError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;

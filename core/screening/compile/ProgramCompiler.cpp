@@ -36,7 +36,7 @@ class ProgramCompiler {
   PatternProgram<Owned> compile(const Node& pattern) {
     emit(pattern);
     add({.operation = Operation::accept});
-    // The program of an exception may add to the list.
+    // Compiling an exception may add to the list.
     std::size_t compiled = 0;
     while (compiled < exceptions_.size()) {
       program_.exceptions.push_back({.instruction = here(), .firstSet = {}});
@@ -122,7 +122,7 @@ class ProgramCompiler {
     }
   }
 
-  /// Where the letters stand, which are kept once.
+  /// The place of the letters; equal strings are stored once.
   std::uint16_t lettersOf(const std::u32string& text) {
     std::vector<Letter> letters;
     for (const char32_t c : text)
@@ -182,7 +182,7 @@ class ProgramCompiler {
       targetOf(choice, node.lazy ? 0 : 1) = here();
   }
 
-  /// What one iteration of a loop takes when that is always one code point.
+  /// An iteration that always takes exactly one code point.
   struct Iteration {
     ClassSetId set = 0;
     std::uint16_t exception = 0;
@@ -336,7 +336,7 @@ class ProgramCompiler {
             .atBoundary = first.atBoundary};
   }
 
-  /// Its place in `firstSets`.
+  /// Its index in `firstSets`; equal sets are stored once.
   std::uint16_t numberOf(const FirstSet& firstSet) {
     auto& all = program_.firstSets;
     const auto found = std::find(all.begin(), all.end(), firstSet);

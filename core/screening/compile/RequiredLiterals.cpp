@@ -28,7 +28,7 @@ using Path = std::vector<const Node*>;
 constexpr std::size_t maxLiterals = 128;
 /// Neighbouring texts are joined to longer literals while these are at most so many.
 constexpr std::size_t maxJoined = 64;
-/// Ways that are told apart within one alternative of a pattern.
+/// Paths that are kept apart within one alternative.
 constexpr std::size_t maxPaths = 2;
 constexpr std::size_t maxElements = 4;
 
@@ -57,7 +57,7 @@ struct InnerElement {
   Distance after{};
 };
 
-/// Puts a sequence together from the parts of a path, in order. Literals side by side become one
+/// Builds a sequence from the parts of a path, in order. Adjacent literals become one
 /// element; those that are met more often than `frequencyLimit` are passed over.
 class SequenceBuilder {
  public:
@@ -471,7 +471,7 @@ class Analysis {
   const SetTable& sets_;
   const ClassPartition& classes_;
   const LiteralAlphabet alphabet_{classes_};
-  // What has been asked for once is asked for again, by every limit that is tried.
+  // Cached, since every limit that is tried asks for the same nodes.
   std::unordered_map<const Node*, std::optional<Literals>> literalsOfNode_;
   std::unordered_map<const Node*, std::optional<InnerElement>> innerElements_;
   std::unordered_map<const Node*, Distance> widths_;

@@ -320,7 +320,7 @@ class TableCompiler {
     LiteralIndexTable<Owned> index = sequences.index(classes);
     sequences.moveInto(table_);
     prefix.moveInto(table_);
-    // First of all: who asks for these only reads no further.
+    // These come first, so that `unusablePatterns` reads nothing else.
     TableWriter writer;
     writer(unusable());
     classes.table().transfer(writer);

@@ -16,7 +16,7 @@ namespace quillseal::screening {
 namespace {
 
 constexpr double blankFrequency = .170;
-/// What somebody searches for is not as rare as its letters would have it.
+/// A literal of a rule is never rarer than this, whatever its letters suggest.
 constexpr double rarest = 1e-6;
 
 double frequencyOfLetters(std::u32string_view letters) {

@@ -28,7 +28,7 @@
 namespace quillseal::screening {
 namespace {
 
-/// What stands before all other tables.
+/// The first of the stored tables.
 std::span<const std::uint16_t> readUnusable(TableReader& reader) {
   std::span<const std::uint16_t> patterns;
   reader(patterns);
@@ -120,8 +120,8 @@ class ScreeningEngine::Screening {
   [[nodiscard]] std::size_t size() const { return text_.size(); }
 
  private:
-  /// So many code points are searched for prefix classes, then for literals, so that starts keep
-  /// ascending, more or less.
+  /// The two prefilters take turns after this many code points, so that starts keep
+  /// ascending for the most part.
   static constexpr std::size_t chunkSize = 1024;
 
   static constexpr std::size_t batchSize = 32;  ///< variants that are looked at together

@@ -18,7 +18,7 @@
 
 namespace quillseal::screening {
 
-/// Instead of a number or a position.
+/// No number or position.
 inline constexpr std::uint32_t none = std::numeric_limits<std::uint32_t>::max();
 
 /// How much text there is at most between two places, in two measures; either may be `unbounded`.

@@ -37,7 +37,7 @@ std::optional<desktop::RunningApplication> frontApplication(
   return front;
 }
 
-/// Ends early when the desktop tells that the clipboard has changed.
+/// Ends early when the desktop reports a change of the clipboard.
 Task<> pollingPause(Services services) {
   co_await completionOf<void>([&services](const std::function<void()>& done) {
     const auto watch = std::make_shared<desktop::Ticket>(services.pasteboard.onNextChange(done));
@@ -60,7 +60,7 @@ Task<bool> waitForChange(Services services, std::int64_t changeCount) {
   co_return services.pasteboard.changeCount() != changeCount;
 }
 
-/// The application in which the text is selected, with the keyboard if that could be had.
+/// The application in which the text is selected, brought to the front if possible.
 Task<std::optional<desktop::RunningApplication>> sourceInFront(Services services) {
   std::optional<desktop::RunningApplication> source = frontApplication(services.applications);
   if (source && services.applications.isActive(*source)) co_return source;
@@ -68,7 +68,7 @@ Task<std::optional<desktop::RunningApplication>> sourceInFront(Services services
   if (source) services.applications.activate(*source);
   co_await sleep(services.loop, activationTime);
   std::optional<desktop::RunningApplication> front = frontApplication(services.applications);
-  // Asked again, since more can be told of an application that has the keyboard.
+  // Asked again, since the desktop knows more about an application that has the keyboard.
   if (!source || (front && front->instance == source->instance)) co_return front;
   co_return source;
 }
@@ -132,7 +132,7 @@ Task<Copy> copySelection(Services services,
   });
   if (pasteboard.isConcealed()) co_return failed(CopyOutcome::secret);
   std::optional<std::string> text = wellFormed(pasteboard.plainText());
-  // A copy that may not be read is no sign that nothing was selected.
+  // A copy that may not be read does not mean that nothing was selected.
   if (!text && !pasteboard.readingObstacle().empty()) co_return failed(CopyOutcome::unreadable);
   if (!text || unicode::trimmed(*text).empty()) co_return failed(CopyOutcome::noText);
   co_return Copy{.outcome = CopyOutcome::copied,
@@ -162,7 +162,7 @@ Task<Capture> captureSelectedContent(Services services) {
       copy = co_await copySelection(services, source);
     }
   }
-  // Declined, since there was nothing to press a key in.
+  // Declined because no application was in front.
   if (!source && copy.outcome == CopyOutcome::declined) copy.outcome = CopyOutcome::unchanged;
   Capture capture;
   capture.outcome = copy.outcome;

@@ -76,7 +76,7 @@ void keepWholeCharacters(std::string_view text, std::vector<screening::PatternMa
 /// Takes the match of the reporting cue out of the others, and says whether the text is a report.
 bool takeReportingCue(std::vector<screening::PatternMatch>& matches) {
   if (matches.empty() || matches.back().pattern != ContentRules::all.size()) return false;
-  // A search that failed says nothing, and must not soften anything.
+  // A failed search proves nothing, so it softens nothing.
   const bool isReport = !matches.back().failed;
   matches.pop_back();
   return isReport;
@@ -191,7 +191,7 @@ std::vector<QuoteMark> quoteMarksOf(std::string_view text) {
   return marks;
 }
 
-/// Whether there is such a mark, whatever it may do: one that does nothing is a stray one.
+/// Whether there is such a mark, even one that neither opens nor closes.
 bool occurs(char32_t scalar, std::vector<QuoteMark>::const_iterator from,
             std::vector<QuoteMark>::const_iterator to) {
   return std::any_of(from, to, [&](const QuoteMark& mark) { return mark.scalar == scalar; });

@@ -79,7 +79,7 @@ struct SigningRequest {
 /// Deletes the key, if there is one. Never fails.
 [[nodiscard]] Task<> deleteKey(Services services);
 
-/// The bytes that `text` writes in hexadecimal; nothing when it is no such text.
+/// Decodes hexadecimal; nothing when `text` is malformed.
 [[nodiscard]] std::optional<std::vector<std::uint8_t>> bytesFromHex(std::string_view text);
 
 }  // namespace SecureEnclaveManager

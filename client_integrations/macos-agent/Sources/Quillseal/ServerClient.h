@@ -17,7 +17,7 @@ namespace quillseal {
 ///
 /// Every task throws Error: with domain "Quillseal", the HTTP status and the server's own words
 /// when the server refused; with the transport's domain when it could not be reached, answered
-/// neither success nor a refusal it explains, or when its URL is none; with domain "Quillseal" and
+/// neither success nor an explained refusal, or has a malformed URL; with domain "Quillseal" and
 /// code 0 when there is no server, before anything is sent; with domain
 /// "NSCocoaErrorDomain" when its answer cannot be read. Nothing is sent twice.
 class ServerClient {

@@ -227,7 +227,7 @@ Task<> SigningCoordinator::signSelectedText() {
     co_await signHere(*mode, statement, *content);
 }
 
-/// Nothing when this machine cannot sign; the user has then been told.
+/// Nothing when this machine cannot sign; an alert has then said so.
 Task<std::optional<SigningMode>> SigningCoordinator::modeReadyToSign() {
   if (!desktop_.keys.isTrusted()) {
     desktop_.keys.askForTrust();
@@ -312,7 +312,7 @@ Task<bool> SigningCoordinator::passesRefusals(const std::string& text) {
   const TwoScreenings screenings = co_await offload(desktop_.loop, std::move(screen));
   logScreening(screenings.asWritten);
   if (screenings.asRead) logScreening(*screenings.asRead);
-  // What is read has all the hits of what is written, so it is the stronger of the two.
+  // The second assessment includes all hits of the first, so it decides.
   const ContentRisk::Assessment& assessment =
       (screenings.asRead ? *screenings.asRead : screenings.asWritten).assessment;
   if (assessment.isBlocked) {
@@ -377,7 +377,7 @@ Task<> SigningCoordinator::signHere(SigningMode mode, const Statement& statement
   co_await deliver(std::move(delivery), content);
 }
 
-/// A record without a real signature. Nothing when nobody proved to be present.
+/// A record without a real signature. Nothing without proof of presence.
 Task<std::optional<std::string>> SigningCoordinator::demonstrate(Signable signable) {
   const AuthManager::Services presence{.loop = desktop_.loop, .presence = desktop_.presence};
   desktop::Prompt prompt{.reason = "Sign " + signable.subject, .medium = signable.scope};
@@ -478,7 +478,7 @@ Task<bool> SigningCoordinator::asksToSignAnyway(std::string warning) {
 
 void SigningCoordinator::writeDebugCapture(std::string_view text) {
   const std::string path = desktop_.files.homeDirectory() + debugCapturePath;
-  // Nobody depends on this file; a failure is not worth a word.
+  // Nothing depends on this file, so a failure is not reported.
   static_cast<void>(desktop_.files.replace(path, text));
   desktop_.log.write("[sign] captured text written to " + path);
 }
@@ -554,7 +554,7 @@ std::string SigningCoordinator::configurationAdvice() const {
 
 Task<> SigningCoordinator::enrolDevice() {
   if (!serverClient_.hasServer()) {
-    // Before a new key takes the place of the one there is.
+    // Checked before a new key replaces the present one.
     co_await showAlertOrLog(notConfigured, configurationAdvice());
     co_return;
   }
@@ -600,7 +600,7 @@ Task<> SigningCoordinator::makeAndRegisterKey() {
   std::rethrow_exception(failure);
 }
 
-/// Tells the server the key there is, and stores the identity that it binds to it.
+/// Registers the present key with the server and stores the identity that it binds.
 Task<> SigningCoordinator::registerDevice() {
   const SecureEnclaveManager::Key key = co_await SecureEnclaveManager::loadKey(keyServices());
   std::string publicKey = co_await SecureEnclaveManager::exportPublicKey(keyServices(), key);

@@ -24,7 +24,7 @@ class Pasteboard {
  public:
   virtual ~Pasteboard() = default;
 
-  /// Changes with every change of the clipboard's owner or content, whoever made it.
+  /// Changes with every change of the clipboard's owner or content.
   [[nodiscard]] virtual std::int64_t changeCount() const = 0;
 
   /// Calls `changed` at the next change of the count, never from inside this call; not at all where

@@ -14,7 +14,7 @@ std::string written(const nlohmann::ordered_json& object) {
   } catch (const nlohmann::json::type_error&) {
     throw Error({.domain = "Quillseal",
                  .code = 0,
-                 .description = "The request cannot be sent, because a part of it is no text."});
+                 .description = "The request cannot be sent, because it contains invalid UTF-8."});
   }
 }
 

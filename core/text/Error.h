@@ -9,7 +9,7 @@
 namespace quillseal {
 
 /// A failure that a user can be told: `what()` is a sentence in UTF-8, shown as it stands. It may
-/// be empty when the platform gave no words; whoever shows it then supplies some.
+/// be empty when the platform gave no words; the caller then supplies some.
 class Error : public std::runtime_error {
  public:
   struct Fields {

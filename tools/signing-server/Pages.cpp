@@ -119,7 +119,7 @@ std::string browserExpiry(std::string_view issued) {
 }
 
 std::string verifyPage(const Signature& signature, std::int64_t now) {
-  // Whoever can write to the database can change a record, and a file can be damaged.
+  // Records can be changed in the database, and a file can be damaged.
   const bool isSound = isConsistent(signature);
   mstch::map values;
   values["title"] = "Check a message"s;

@@ -97,20 +97,20 @@ struct LinuxDesktop::Parts {
     log.write("[start] " + keyStore->describe());
     const std::string limits = system->limits();
     if (limits.empty()) return;
-    // Not a window to close at the start of every session.
+    // At log-in, a window would have to be closed every time.
     if (commandLine.command == Command::background)
       alerts.notify({.title = "Quillseal", .body = limits});
     else
       warn(limits);
   }
 
-  // Workers use the services; some of them wait for an answer that nobody will give any more. From
-  // one that a TPM or a system service keeps waiting nothing can be taken while the program lives.
+  // Workers use the services. One that waits for a TPM or a system service cannot be stopped while
+  // the process lives.
   ~Parts() {
     constexpr std::chrono::seconds patience{5};
     secretPrompt.close();
     if (loop.waitForWorkers(patience)) return;
-    log.write("[end] what works beside the program does not come to its end");
+    log.write("[end] a worker is still running");
     std::_Exit(0);
   }
 

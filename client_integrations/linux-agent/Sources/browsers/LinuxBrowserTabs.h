@@ -10,9 +10,9 @@
 
 namespace quillseal::linux {
 
-/// The tabs of browsers in which the Quillseal extension is installed: each connects by way of its
+/// The tabs of browsers in which the Quillseal extension is installed: each connects through its
 /// relay, once for every profile in use. A browser is named as `Browsers` identifies it. One that
-/// is not connected, or does not answer in time, has no tabs to tell of.
+/// is not connected, or does not answer in time, has no tabs.
 class LinuxBrowserTabs final : public desktop::BrowserTabs {
  public:
   static constexpr std::chrono::milliseconds longestWait{1500};

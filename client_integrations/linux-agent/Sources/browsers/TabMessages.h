@@ -8,7 +8,7 @@
 #include <string_view>
 #include <variant>
 
-/// What the agent and the browser extension say to each other, by way of the relay: JSON objects,
+/// What the agent and the browser extension say to each other, through the relay: JSON objects,
 /// each behind its length in four bytes of the machine's order, as browsers frame native messages
 /// (https://developer.chrome.com/docs/extensions/develop/concepts/native-messaging).
 namespace quillseal::linux::TabMessages {

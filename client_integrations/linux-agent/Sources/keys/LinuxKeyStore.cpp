@@ -30,7 +30,7 @@ std::string noticeFor(const KeyMedium& target, const KeyMedium* present,
   return obstacles.empty() ? notice : obstacles + ' ' + notice;
 }
 
-/// Leaves the device to others for as long as it lives.
+/// Releases the device's lock during its lifetime.
 class Unlocked {
  public:
   explicit Unlocked(std::unique_lock<std::mutex>& lock) : lock_(lock) { lock_.unlock(); }

@@ -24,7 +24,7 @@ class SecretBytes {
   SecretBytes() noexcept = default;
   /// `size` zero bytes, to be filled in place. Throws std::bad_alloc.
   explicit SecretBytes(std::size_t size);
-  /// A copy of `text`. Whoever owns `text` wipes it.
+  /// A copy of `text`, which its owner wipes.
   explicit SecretBytes(std::string_view text);
   SecretBytes(SecretBytes&& other) noexcept;
   SecretBytes& operator=(SecretBytes&& other) noexcept;

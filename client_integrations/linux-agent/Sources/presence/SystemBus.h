@@ -9,7 +9,7 @@
 
 namespace quillseal::linux {
 
-/// Something that a thread may be waiting for in vain: raising it ends the wait.
+/// Ends another thread's wait when it is raised.
 class Interrupt {
  public:
   Interrupt();

@@ -33,8 +33,7 @@ std::string printable(std::string_view line) {
   return result;
 }
 
-// A terminal that was stopped takes nothing, nor a pipe that nobody reads; whoever writes there
-// waits.
+// Writing to a stopped terminal, or to a full pipe that nobody reads, blocks.
 bool takesOutput(int descriptor) {
   pollfd output{.fd = descriptor, .events = POLLOUT, .revents = 0};
   return poll(&output, 1, 0) > 0;

@@ -4,8 +4,8 @@
 
 namespace quillseal::linux {
 
-/// Writes to the journal, or to syslog where no journal runs. The echo leaves out what nobody
-/// takes.
+/// Writes to the journal, or to syslog where no journal runs. Echoed lines that would block are
+/// dropped.
 class JournalLog : public desktop::Log {
  public:
   enum class Echo { none, standardError };

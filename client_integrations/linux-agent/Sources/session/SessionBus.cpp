@@ -13,7 +13,7 @@ namespace {
 
 using std::chrono::microseconds;
 
-// As many as it lets stand there wait at the door of a bus that hangs.
+// The hung bus's accept queue is full.
 constexpr int isCrowded = -EAGAIN;
 
 struct Close {
@@ -69,7 +69,7 @@ Answer ask(sd_bus& bus, const Method& method, microseconds patience,
   return {.message = Message(reply), .isInTime = result != -ETIMEDOUT};
 }
 
-/// The bus of its own on which screen readers are, and their registry there.
+/// The bus that screen readers use, and their registry there.
 bool answersOnItsBus(const char* address, microseconds patience) {
   sd_bus* made = nullptr;
   if (::sd_bus_new(&made) < 0) return true;
@@ -97,7 +97,7 @@ bool answersOnSessionBus(sd_bus& bus, microseconds patience) {
     if (answer.message) ::sd_bus_message_read(answer.message.get(), "v", "b", &isTrue);
     isEnabled = std::max(isEnabled, isTrue);
   }
-  // Their bus is started by the question for it.
+  // Asking for their bus would start it.
   if (isEnabled == 0) return true;
   method.interface = "org.a11y.Bus";
   method.name = "GetAddress";

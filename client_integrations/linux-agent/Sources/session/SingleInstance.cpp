@@ -58,7 +58,7 @@ SingleInstance::~SingleInstance() {
 SingleInstance::Role SingleInstance::claim() {
   QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) return Role::alone;
-  // The object comes first: whoever finds the name must find it too.
+  // Register the object first: a program that finds the name must find the object too.
   bus.registerVirtualObject(QLatin1String(objectPath), receiver_.get());
   return bus.registerService(QLatin1String(busName)) ? Role::agent : Role::visitor;
 }

@@ -24,8 +24,8 @@ class WaylandApplications : public LinuxApplications {
     desktop::MainLoop& loop;
   };
 
-  /// `sway` is null where it does not run. It knows applications that change their app id, which it
-  /// does not tell of by the Wayland protocol (1.7).
+  /// `sway` is null where it does not run. Sway reports changes of an app
+  /// id there only, not by the Wayland protocol (1.7).
   WaylandApplications(const Services& services, std::unique_ptr<SwayIpc> sway)
       : LinuxApplications(services.entries, services.loop),
         services_(services),

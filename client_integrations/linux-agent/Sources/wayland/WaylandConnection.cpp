@@ -29,7 +29,7 @@ struct WaylandConnection::Listeners {
   static void answered(void* data, wl_callback* /*callback*/, std::uint32_t /*serial*/) {
     *static_cast<bool*>(data) = true;
   }
-  // Only marked: what is called may call `roundTrip`, which must not happen inside an event.
+  // Only marks it: the callback may call `roundTrip`, which is not allowed inside an event.
   static void caughtUp(void* data, wl_callback* /*callback*/, std::uint32_t /*serial*/) {
     static_cast<Waiting*>(data)->isReady = true;
   }

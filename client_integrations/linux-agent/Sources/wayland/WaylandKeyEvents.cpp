@@ -56,7 +56,7 @@ class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
 
  private:
   void comeBackAfter(milliseconds delay) {
-    // What is decided on is what the compositor has told last.
+    // Decide on the compositor's latest state.
     waiting_ = services_.loop.after(
         delay, [this] { waiting_ = services_.connection.catchUp([this] { step(); }); });
   }
@@ -70,7 +70,7 @@ class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
     finish(delivery);
   }
 
-  /// Whom a key would reach that is pressed now.
+  /// Where a key pressed now would go.
   [[nodiscard]] Delivery deliveryNow() const {
     if (!wish_.target || !services_.connection.isAlive()) return Delivery::declined;
     const std::optional<WaylandWindow> window = services_.windows.withId(wish_.target->instance);
@@ -84,7 +84,7 @@ class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
   void press() {
     const auto window = services_.windows.withId(wish_.target->instance);
     if (!window) return;
-    // As it was found out when the target was named: sway knows more of it than this connection.
+    // As found when the target was named: sway knows more about it than this connection.
     const std::vector<Keysym> chord =
         chordFor(wish_.press, wish_.target->categories, window->applicationId);
     if (wish_.aboutToPress) wish_.aboutToPress();

@@ -18,8 +18,8 @@
 
 namespace quillseal::linux {
 
-/// The clipboard by data-control, which needs no window and no focus. That a program has gone which
-/// offered something is no change: it is how a copy of the next one may begin.
+/// The clipboard by data-control, which needs no window and no focus. The end of the program that
+/// owns it is not a change: it may be the first step of the next copy.
 class WaylandPasteboard : public desktop::Pasteboard {
  public:
   /// All outlive this object.

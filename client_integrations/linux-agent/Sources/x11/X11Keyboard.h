@@ -41,7 +41,7 @@ class X11Keyboard {
   X11Keyboard(const X11Keyboard&) = delete;
   X11Keyboard& operator=(const X11Keyboard&) = delete;
 
-  /// The modifier keys that are down now, whoever holds them, and `also` when it is down too.
+  /// The modifier keys that are down now, on any keyboard, and `also` when it is down too.
   /// Lock keys that are merely latched are not down.
   [[nodiscard]] std::vector<xcb_keycode_t> heldKeys(xcb_keycode_t also);
 

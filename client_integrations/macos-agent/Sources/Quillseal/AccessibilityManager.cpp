@@ -149,8 +149,8 @@ Task<Capture> captureSelectedContent(Services services) {
   }
   const std::optional<desktop::RunningApplication> source = co_await sourceInFront(services);
   Copy copy = co_await copySelection(services, source);
-  // Whoever selected a secret, or a text that the system kept from this program, did not mean to
-  // sign the whole document instead.
+  // A person who selected a secret, or a text that this program may not read, did not mean to sign
+  // the whole document instead.
   if (copy.outcome == CopyOutcome::unchanged || copy.outcome == CopyOutcome::noText) {
     services.log.write("[capture] no selection; selecting all");
     const desktop::KeyPress selectAll{.key = Key::a, .modifiers = Modifiers::command};

@@ -36,7 +36,7 @@ class SigningCoordinator {
   explicit SigningCoordinator(const desktop::Desktop& desktop);
 
   /// How many runs may be under way at once: far more than a person has open, and few enough that
-  /// a program that asks for signatures without end costs little.
+  /// a program that keeps asking for signatures costs little.
   static constexpr int mostRuns = 5;
 
   /// Starts a run of `performSigningWorkflow`, unless `mostRuns` are under way. The user is told of

@@ -7,26 +7,21 @@ namespace quillseal::ContentRules {
 namespace {
 
 // How the patterns are written:
-//  - A rule names an idea, so its lines are that idea's usual wordings, the English ones first.
-//  Then
-//    there is a line for each other language: German, Dutch, French, Italian, Spanish, Portuguese,
-//    Russian, Chinese in both scripts, Japanese, Korean. Each alternative joins an intent with its
-//    object: a noun alone would hit honest mail. It speaks to the reader, as a scam does and news
-//    about fraud does not.
-//  - Half of all Russian mail has the 45 points of obf-many-confusable, so one hit more is a
-//  warning
-//    already: the Russian wordings are the narrowest.
-//  - Chinese and Japanese have no spaces and few full stops, so that their gaps are short.
-//  - `<40>` is a gap that stays within one sentence, see `gap`. It may cross a line break, as mail
-//  is
-//    wrapped anywhere; for the same reason words are joined by `\s+`.
-//  - Every repetition is bounded, or its body cannot begin where the body before it could go on, so
+//  - A rule names an idea, and its lines are the usual wordings of that idea: English first, then a
+//    line for each other language (German, Dutch, French, Italian, Spanish, Portuguese, Russian,
+//    Chinese in both scripts, Japanese, Korean). Each alternative joins an intent with its object,
+//    because a noun alone hits honest mail, and speaks to the reader, as news about fraud does not.
+//  - Half of all Russian mail has the 45 points of obf-many-confusable, and one more hit makes a
+//    warning. So the Russian wordings are the narrowest.
+//  - Chinese and Japanese have no spaces and few full stops, so their gaps are short.
+//  - `<40>` is a gap that stays within one sentence, see `gap`. It may cross a line break, because
+//    mail is wrapped anywhere; for the same reason `\s+` joins words.
+//  - Every repetition is bounded, or its body cannot begin where the one before it could go on, so
 //    that no text makes a matcher try the same ground again and again.
-//  - The points say how much one hit is worth: most are below the warning threshold, because an
-//    invoice, a delivery notice and a password mail share one wording with the scam that copies
-//    them, but seldom three.
+//  - Most rules have fewer points than the warning threshold: an invoice or a password mail shares
+//    one wording with the scam that copies it, but seldom three.
 //  - `[^.!?]{0,40}` ends at any point. It stands in patterns that other programs hold, too, and in
-//    those for bulk mail that would otherwise reach over the addresses at its end.
+//    those for bulk mail, which would otherwise reach over the addresses at its end.
 
 /// One character of a gap. A point does not end the sentence when the next character shows that it
 /// goes on ("12,499.00", "example.com", "Co., Ltd.", "No. 7"), or when it stands behind one letter
@@ -3032,5 +3027,11 @@ constexpr auto table = std::to_array<Rule>({
 }  // namespace
 
 const std::span<const Rule> all = table;
+
+std::string expanded(std::string_view written) {
+  std::string pieces;
+  replaceShorthands(written, [&](std::string_view piece) { pieces += piece; });
+  return pieces;
+}
 
 }  // namespace quillseal::ContentRules

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <span>
+#include <string>
 #include <string_view>
 
 /// The fixed table that a text is screened against before it is signed. It is compiled in: nothing
@@ -21,5 +22,8 @@ struct Rule {
 
 /// Every rule in the order in which findings of equal points are reported.
 extern const std::span<const Rule> all;
+
+/// A line of a pattern as the table's source text holds it, with its shorthands replaced.
+[[nodiscard]] std::string expanded(std::string_view written);
 
 }  // namespace quillseal::ContentRules

@@ -806,7 +806,6 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:confidencial\w*|discreci[óo]n|sigilo\w*|discri[çc][ãa]o)\b<80>\b(?:transferencia|pago|transfer[êe]ncia|pagamento|transac\w+|adquisici[óo]n|aquisi[çc][ãa]o)\b|)"
      R"(\b(?:überweisung|zahlung|transaktion)\b[\s\S]{0,120}\b(?:vertraulich|diskret|geheim)\b|)"
      R"(\b\w*(?:betaling|overboeking)\b[\s\S]{0,80}\b(?:vertrouwelijk|geheim|discreet)\b|)"
-     R"(\bvirement\b<30>\bconfidentiel\b|\bconfidentiel\w*\b<60>\bvirement\b|)"
      R"(\b(?:bonifico|pagamento|operazione)\b<25>\b(?:riservat[oa]|confidenziale)\b|)"
      R"(\b(?:transferencia|pago)\b<25>\bconfidencial\b|)"
      R"(\b(?:transfer[êe]ncia|pagamento)\b<25>\b(?:confidencial|sigilos[oa])\b|)"
@@ -891,8 +890,6 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:kaufen|besorgen|besorge|kauf|kaufst|brauche|benötige)\b<50>\b(?:geschenkkarten|gutscheinkarten|guthabenkarten|(?:google[- ]play|itunes|apple|amazon|steam|paysafe)[- ]?(?:karten|gutscheine?|codes?))\b|)"
      R"(\b(?:achete[rz]|acheter|procure[rz]|besoin\s+de)\b<50>\b(?:cartes?\s+cadeaux?|coupons?\s+(?:pcs|transcash|neosurf|toneo)|cartes?\s+(?:google\s+play|itunes|steam|apple))\b|)"
      R"(\b(?:compr(?:ar|es?|a|e)|consig\w+|necesito|preciso)\b<50>\b(?:tarjetas?\s+(?:de\s+)?regalo|cart(?:ão|ões|ao|oes)\s+(?:de\s+)?presente|vales?[- ]presente|gift\s+cards?)\b|)"
-     R"(\b(?:koop|kopen|halen|regelen|nodig)\b<50>\b(?:cadeaubonnen|cadeaukaarten|giftcards?)\b|)"
-     R"((?:购买|購買|买|買)<12>(?:礼品卡|禮品卡|点卡|點卡|充值卡)|)"
      R"((?:購入|買って|買ってきて)<15>(?:ギフトカード|プリペイドカード|電子マネー)|)"
      R"((?:ギフトカード|プリペイドカード|電子マネー|iTunesカード)[^。！？送贈]{0,15}(?:購入して|買って)|)"
      R"((?:기프트\s?카드|상품권|구글\s?플레이\s?카드)<12>(?:구매|사서|사\s?주|사다)|)"
@@ -1113,8 +1110,6 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:risk[- ]?free|no[- ]risk|zero[- ]risk|without\s+(?:any\s+)?risk|100%\s+(?:safe|secure)|cannot\s+lose|can['’]t\s+lose|never\s+lose)\b<60>\b(?:invest\w*|trad(?:e|es|ing)|crypto\w*|bitcoin|forex|profits?|returns?|opportunity|earn\w*|income|bet|betting|business)\b|)"
      R"(\b(?:invest(?:ment|ing|or|ors)?|trad(?:e|es|ing)|crypto\w*|bitcoin|forex|profits?|returns?|income|transaction|business|deal)\b<60>\b(?:risk[- ]?free|no\s+risk|zero\s+risk|without\s+(?:any\s+)?risk|100%\s+(?:safe|secure)|hitch[- ]free)\b|)"
      R"(\brisiko(?:los|frei)\w*\b<40>\b(?:invest\w*|anlage\w*|gewinn\w*|rendite\w*|geld\w*|krypto\w*|verdien\w*)\b|)"
-     R"(\bsans\s+(?:aucun\s+)?risque\b<40>\b(?:invest\w*|gain\w*|placement\w*|rendement\w*)\b|)"
-     R"(\b(?:sin|sem)\s+(?:ning[úu]n\s+)?(?:riesgos?|riscos?)\b<40>\b(?:inver\w+|invest\w+|gan\w+|rend\w+|lucr\w+)\b|)"
      R"((?:零风险|零風險|无风险|無風險|ノーリスク|무위험)|)"
      R"(\bohne\s+(?:jedes\s+)?risiko\b|\brisikofrei\w*\b<40>\b(?:gewinn\w*|anlage|rendite|verdien\w*|invest\w*)\b|)"
      R"(\bzonder\s+(?:enig\s+)?risico\b|)"
@@ -1322,7 +1317,6 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:payer|régler|acquitte[rz])\b<30>\bfrais\s+de\s+(?:douane|livraison|dossier|traitement|port|réexpédition|dédouanement)\b|)"
      R"(\b(?:tasas?|gastos?|tarifas?|costos?|costes?|taxas?|imposto|impuestos?|derechos?|frete)\b<25>\b(?:aduan\w+|env[íi]o|entrega|procesamiento|liberaci[óo]n|alfandeg\w+|alf[âa]ndeg\w+|libera[çc][ãa]o|desembara[çc]o|importa\w+|administrativ\w+)\b<60>\b(?:pag\w+|abon\w+|quit\w+|efet\w+|regulari\w+|pend\w+)\b|)"
      R"(\b(?:pag\w+|abon\w+|quit\w+|efetu\w+|regulari\w+)\b<40>\b(?:tasas?|gastos?|tarifas?|costos?|taxas?|imposto|impuestos?|derechos?|frete)\b<25>\b(?:aduan\w+|env[íi]o|entrega|liberaci[óo]n|alfandeg\w+|alf[âa]ndeg\w+|libera[çc][ãa]o|desembara[çc]o|importa\w+)\b|)"
-     R"(\b(?:verzendkosten|douanekosten|invoerkosten|bezorgkosten|inklaringskosten)\b<50>\b(?:betaal\w*|betalen|voldoen|betaald)\b|)"
      R"((?:支付|缴纳|繳納|缴|繳)<10>(?:手续费|手續費|关税|關稅|清关费|清關費|运费|運費|保证金|保證金|解冻费)|)"
      R"((?:手数料|関税|保証金)<12>(?:支払|振込|お支払い|送金)|)"
      R"((?:수수료|관세|통관비|보증금)<10>(?:납부|결제|입금|송금|지불)|)"
@@ -1560,10 +1554,8 @@ constexpr auto table = std::to_array<Rule>({
      R"((?:AnyDesk|TeamViewer|팀뷰어|원격\s?(?:제어|접속|조종))<15>(?:설치|다운로드|허용|접속)|)"
      R"(\b(?:laden|lade|installieren|installiere|öffnen|starten)\b<30>\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|fernwartung\w*|quick\s?assist)\b|)"
      R"(\b(?:download|installeer)\b<20>\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|rust\s?desk)\b|\bmeekijken\b<20>\b(?:computer|scherm|code)\b|)"
-     R"(\b(?:télécharge[rz]|installe[rz])\b<30>\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|rust\s?desk)\b|)"
-     R"(\b(?:scaric\w+|install\w+)\b<30>\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|rust\s?desk)\b|)"
-     R"(\b(?:descarg\w+|instal\w+)\b<30>\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|rust\s?desk)\b|)"
-     R"(\b(?:baix\w+|instal\w+|descarregue)\b<30>\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|rust\s?desk)\b|)"
+     R"(\bscaric\w+\b<30>\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|rust\s?desk)\b|)"
+     R"(\bdescarregue\b<30>\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|rust\s?desk)\b|)"
      R"(\b(?:скачайте|установите)\b<20>\b(?:any\s?desk|team\s?viewer|rust\s?desk|ассистент|удал[её]нн\w+)\b|)"
      R"((?:[识識][别別][码碼]|[远遠][程端])[\s\S]{0,12}(?:告[诉訴]|[修控]|操作|[协協]助)|)"
      R"((?:遠隔操作|遠隔)[\s\S]{0,8}(?:ソフト|アプリ)[\s\S]{0,10}(?:インストール|入れ)|)"
@@ -1590,7 +1582,6 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:computador|celular|aparelho|dispositivo|telem[óo]vel)\b<12>\binfectad[oa]\b|)"
      R"(\b(?:компьютер|телефон|устройство)\b<10>\b(?:зараж[её]н\w?|поражен\w?)\b<15>\bвирус\w*\b|)"
      R"((?:[电電][脑腦]|手[机機]|[设設][备備])[\s\S]{0,8}(?:感染|中毒|病毒)[\s\S]{0,30}(?:[拨撥]打|致[电電]|立即|不要[关關])|)"
-     R"((?:パソコン|PC|端末)[がは]?ウイルスに感染|)"
      R"((?:PC|컴퓨터|휴대폰|기기)[\s\S]{0,6}바이러스[\s\S]{0,6}감염)"); }),
      true},
     {"imp-call-number", "Impersonation", "warn", 25,
@@ -1668,9 +1659,7 @@ constexpr auto table = std::to_array<Rule>({
      R"((?:24|48|72|12)\s?시간\s?(?:이내|안에|내에)|)"
      R"(\binnerhalb\s+von\s+(?:24|48|72)\s+stunden\b|\binnerhalb\s+von\s+(?:2|3|zwei|drei|5|fünf)\s+(?:werk)?tagen\b<60>\b(?:sonst|gesperrt|pfändung|gekündigt|gelöscht|erfolgt)\b|)"
      R"(\bbinnen\s+(?:24|48|72)\s?(?:uur|u)\b|)"
-     R"(\bsous\s+(?:24|48|72)\s?(?:h|heures)\b|\bdans\s+les\s+(?:24|48|72)\s?(?:h|heures)\b|)"
      R"(\bentro\s+(?:le\s+)?(?:24|48|72)\s?(?:ore|h)\b|)"
-     R"(\bem\s+(?:at[ée]\s+)?(?:24|48|72)\s?(?:h|horas)\b|)"
      R"(\bв\s+течение\s+(?:24|48|72)\s+часов\b<40>\b(?:иначе|арест\w*|заблокир\w+|коллектор\w*)\b)"); }),
      true},
     {"urg-expires-today", "Pressure", "warn", 25,

@@ -2673,7 +2673,6 @@ constexpr auto table = std::to_array<Rule>({
      true},
     {"sa-drug-ed-caps", "Bulk mail", "warn", 34,
      "writes the name of a potency drug letter by letter",
-     R"(\bv[\W_]{1,3}i[\W_]{1,3}a[\W_]{1,3}g[\W_]{1,3}r[\W_]{1,3}a\b|)"
      R"(\bc[\W_]{1,3}i[\W_]{1,3}a[\W_]{1,3}l[\W_]{1,3}i[\W_]{1,3}s\b|)"
      R"(\bl[\W_]{1,3}e[\W_]{1,3}v[\W_]{1,3}i[\W_]{1,3}t[\W_]{1,3}r[\W_]{1,3}a\b|)"
      R"(\bk[\W_]{1,3}a[\W_]{1,3}m[\W_]{1,3}a[\W_]{1,3}g[\W_]{1,3}r[\W_]{1,3}a\b|)"

@@ -210,8 +210,6 @@ class TaskScope {
   /// task ends the program.
   void start(Task<> task) { run(*this, std::move(task)); }
 
-  [[nodiscard]] bool isIdle() const noexcept { return running_.empty(); }
-
  private:
   using Running = std::list<std::coroutine_handle<>>;
 

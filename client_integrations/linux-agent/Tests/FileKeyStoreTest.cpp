@@ -206,17 +206,5 @@ TEST_F(FileKeyStoreTest, AFolderThatCannotBeMadeIsReported) {
   EXPECT_FALSE(store.holdsKey());
 }
 
-TEST(UserDataFolder, FollowsTheBaseDirectoryRules) {
-  ::setenv("HOME", "/home/somebody", 1);
-  ::setenv("XDG_DATA_HOME", "/somewhere", 1);
-  EXPECT_EQ(userDataFolder(), "/somewhere/quillseal");
-  for (const char* unusable : {"", "relative/path"}) {
-    ::setenv("XDG_DATA_HOME", unusable, 1);
-    EXPECT_EQ(userDataFolder(), "/home/somebody/.local/share/quillseal") << unusable;
-  }
-  ::unsetenv("XDG_DATA_HOME");
-  EXPECT_EQ(userDataFolder(), "/home/somebody/.local/share/quillseal");
-}
-
 }  // namespace
 }  // namespace quillseal::linux

@@ -133,13 +133,12 @@ TEST_F(SecureEnclaveManagerTest, ExportsThePublicHalf) {
 }
 
 TEST_F(SecureEnclaveManagerTest, DeletesAKeyThatMayBeGoneAlready) {
-  TaskScope scope;
   for (int i = 0; i < 2; ++i) {
+    TaskScope scope;
     scope.start(SecureEnclaveManager::deleteKey(services()));
     desktop_.loop.run();
     EXPECT_EQ(failureOf(resultOf(desktop_.loop, SecureEnclaveManager::loadKey(services()))), noKey);
   }
-  EXPECT_TRUE(scope.isIdle());
 }
 
 TEST_F(SecureEnclaveManagerTest, LeavesACancelledCreationWhatItIs) {

@@ -1,7 +1,6 @@
 #include "keys/PrivateFile.h"
 
 #include <cerrno>
-#include <cstdlib>
 #include <system_error>
 #include <utility>
 
@@ -103,15 +102,6 @@ std::string readAll(const Descriptor& file, const std::filesystem::path& path) {
 }
 
 }  // namespace
-
-std::filesystem::path userDataFolder() {
-  // Read before any thread could change the environment; nothing here does.
-  const char* data = std::getenv("XDG_DATA_HOME");  // NOLINT(concurrency-mt-unsafe)
-  if (data != nullptr && *data == '/') return std::filesystem::path(data) / "quillseal";
-  const char* home = std::getenv("HOME");  // NOLINT(concurrency-mt-unsafe)
-  const std::filesystem::path base = home != nullptr && *home == '/' ? home : "/";
-  return base / ".local/share/quillseal";
-}
 
 PrivateFile::PrivateFile(std::filesystem::path path) : path_(std::move(path)) {}
 

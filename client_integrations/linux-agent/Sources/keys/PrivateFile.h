@@ -7,10 +7,6 @@
 
 namespace quillseal::linux {
 
-/// The folder for this user's data: `$XDG_DATA_HOME`, or `.local/share` in the home directory when
-/// that is unset or relative (XDG Base Directory 0.8), then "quillseal".
-[[nodiscard]] std::filesystem::path userDataFolder();
-
 /// One small file that only this user may read (0600) in a folder that only this user may enter
 /// (0700). Links are never followed in the last two components of the path: a file that somebody
 /// else put there is reported, not used. Holds a path and nothing else.

@@ -48,7 +48,6 @@ class Pasteboard {
 
   [[nodiscard]] virtual std::optional<std::string> plainText() const = 0;
   [[nodiscard]] virtual std::optional<std::string> html() const = 0;
-  [[nodiscard]] virtual std::optional<std::string> rtf() const = 0;
 
   /// Replaces the content by `content`, both flavours at once, and no other flavour. It stays until
   /// replaced, also when the agent ends. On failure throws Error and offers none of `content`.

@@ -181,9 +181,9 @@ TEST_P(Flavours, AreReadAndWrittenByEitherProtocol) {
                                {"text/html", "<b>Zoë</b>"},
                                {"text/rtf", "{\\rtf1}"}}});
   EXPECT_EQ(agent.plainText(), "Zoë\n");
+  EXPECT_EQ(compositor.asked(), (std::vector<std::string>{"UTF8_STRING", "text/html"}));
   EXPECT_GT(agent.pasteboard.changeCount(), before);
   EXPECT_EQ(agent.pasteboard.html(), "<b>Zoë</b>");
-  EXPECT_EQ(agent.pasteboard.rtf(), "{\\rtf1}");
   EXPECT_FALSE(agent.pasteboard.isConcealed());
 
   agent.pasteboard.write({.plainText = "『Zoë』", .html = "<p>『Zoë』</p>"});

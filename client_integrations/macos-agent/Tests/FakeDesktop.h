@@ -213,7 +213,6 @@ class FakeDesktop final : public desktop::Alerts,
   bool isConcealed() const override { return fetched_.isConcealed; }
   std::optional<std::string> plainText() const override { return fetched_.text; }
   std::optional<std::string> html() const override { return fetched_.html; }
-  std::optional<std::string> rtf() const override { return std::nullopt; }
   void write(const desktop::PasteboardContent& content) override;
 
   // Presence

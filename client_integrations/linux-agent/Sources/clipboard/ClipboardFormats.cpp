@@ -13,7 +13,7 @@ constexpr auto concealed = "org.nspasteboard.ConcealedType";
 
 constexpr auto latin1 = "STRING";
 
-enum Group { concealedMark, hint, text, markup, richText };
+enum Group { concealedMark, hint, text, markup };
 
 const std::string* find(const Content& content, Group group, std::string& format) {
   for (const std::string& name : wanted()[group]) {
@@ -38,11 +38,7 @@ const std::vector<std::vector<std::string>>& wanted() {
   // Of the plain texts the first has line feeds where the second has CR LF, in some programs; the
   // third is Latin-1 with escapes in one browser.
   static const std::vector<std::vector<std::string>> groups = {
-      {concealed},
-      {passwordHint},
-      {"UTF8_STRING", plainText, "text/plain", latin1},
-      {html},
-      {"text/rtf", "application/rtf", "text/richtext"}};
+      {concealed}, {passwordHint}, {"UTF8_STRING", plainText, "text/plain", latin1}, {html}};
   return groups;
 }
 
@@ -71,13 +67,6 @@ std::optional<std::string> htmlOf(const Content& content) {
   const QByteArray raw = QByteArray::fromStdString(*bytes);
   const QString decoded = QStringDecoder::decoderForHtml(raw)(raw);
   return present(decoded.toStdString());
-}
-
-std::optional<std::string> rtfOf(const Content& content) {
-  std::string format;
-  const std::string* bytes = find(content, richText, format);
-  if (bytes == nullptr) return std::nullopt;
-  return *bytes;
 }
 
 }  // namespace quillseal::linux::ClipboardFormats

@@ -15,7 +15,8 @@ inline constexpr const char* html = "text/html";
 using Content = std::map<std::string, std::string>;
 
 /// What is worth reading: of each group the first format that is offered, in this order. The marks
-/// of a secret come first, so that the secret itself is not even read.
+/// of a secret come first, so that the secret itself is not even read. No other format is asked
+/// for: a word processor lays the selection out anew for each.
 [[nodiscard]] const std::vector<std::vector<std::string>>& wanted();
 
 /// Those of `wanted` that hold plain text.
@@ -27,8 +28,5 @@ using Content = std::map<std::string, std::string>;
 /// As UTF-8, maybe ill-formed; nothing when there is none or it is empty.
 [[nodiscard]] std::optional<std::string> plainTextOf(const Content& content);
 [[nodiscard]] std::optional<std::string> htmlOf(const Content& content);
-
-/// Bytes; nothing when there are none.
-[[nodiscard]] std::optional<std::string> rtfOf(const Content& content);
 
 }  // namespace quillseal::linux::ClipboardFormats

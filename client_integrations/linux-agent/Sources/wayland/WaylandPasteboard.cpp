@@ -262,10 +262,6 @@ std::optional<std::string> WaylandPasteboard::html() const {
   return ClipboardFormats::htmlOf(state_->fetched);
 }
 
-std::optional<std::string> WaylandPasteboard::rtf() const {
-  return ClipboardFormats::rtfOf(state_->fetched);
-}
-
 void WaylandPasteboard::write(const desktop::PasteboardContent& content) {
   state_->keeper.keep(content);
   state_->lastWrite = std::chrono::steady_clock::now();

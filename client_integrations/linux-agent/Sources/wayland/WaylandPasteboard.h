@@ -52,7 +52,6 @@ class WaylandPasteboard : public desktop::Pasteboard {
   [[nodiscard]] bool isConcealed() const override;
   [[nodiscard]] std::optional<std::string> plainText() const override;
   [[nodiscard]] std::optional<std::string> html() const override;
-  [[nodiscard]] std::optional<std::string> rtf() const override;
   void write(const desktop::PasteboardContent& content) override;
 
   /// Takes what is selected in that window as if it had been copied, when the primary selection was

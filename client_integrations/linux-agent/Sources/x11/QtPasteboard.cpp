@@ -77,10 +77,6 @@ std::optional<std::string> QtPasteboard::html() const {
   return ClipboardFormats::htmlOf(offered());
 }
 
-std::optional<std::string> QtPasteboard::rtf() const {
-  return ClipboardFormats::rtfOf(offered());
-}
-
 void QtPasteboard::write(const desktop::PasteboardContent& content) {
   auto data = std::make_unique<QMimeData>();
   data->setText(toQString(content.plainText));

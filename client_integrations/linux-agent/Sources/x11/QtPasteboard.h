@@ -23,7 +23,6 @@ class QtPasteboard : public desktop::Pasteboard {
   [[nodiscard]] bool isConcealed() const override;
   [[nodiscard]] std::optional<std::string> plainText() const override;
   [[nodiscard]] std::optional<std::string> html() const override;
-  [[nodiscard]] std::optional<std::string> rtf() const override;
   void write(const desktop::PasteboardContent& content) override;
 
   /// Copies what is selected anywhere on the desktop, its plain text, as the program could that it

@@ -13,7 +13,6 @@ class MacPasteboard final : public desktop::Pasteboard {
   [[nodiscard]] bool isConcealed() const override;
   [[nodiscard]] std::optional<std::string> plainText() const override;
   [[nodiscard]] std::optional<std::string> html() const override;
-  [[nodiscard]] std::optional<std::string> rtf() const override;
   void write(const desktop::PasteboardContent& content) override;
 };
 

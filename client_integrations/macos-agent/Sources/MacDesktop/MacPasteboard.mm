@@ -62,14 +62,6 @@ std::optional<std::string> MacPasteboard::plainText() const {
 
 std::optional<std::string> MacPasteboard::html() const { return stringOf(NSPasteboardTypeHTML); }
 
-std::optional<std::string> MacPasteboard::rtf() const {
-  return callSystem([]() -> std::optional<std::string> {
-    NSData* data = [NSPasteboard.generalPasteboard dataForType:NSPasteboardTypeRTF];
-    if (data == nil) return std::nullopt;
-    return std::string(static_cast<const char*>(data.bytes), data.length);
-  });
-}
-
 void MacPasteboard::write(const desktop::PasteboardContent& content) {
   const bool isWritten = callSystem([&] {
     // One item with both flavours: no reader can see the first without the second.

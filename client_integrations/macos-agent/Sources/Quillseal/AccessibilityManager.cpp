@@ -137,8 +137,7 @@ Task<Copy> copySelection(Services services,
   if (!text || unicode::trimmed(*text).empty()) co_return failed(CopyOutcome::noText);
   co_return Copy{.outcome = CopyOutcome::copied,
                  .plainText = *std::move(text),
-                 .html = wellFormed(pasteboard.html()),
-                 .rtf = pasteboard.rtf()};
+                 .html = wellFormed(pasteboard.html())};
 }
 
 Task<Capture> captureSelectedContent(Services services) {
@@ -170,7 +169,6 @@ Task<Capture> captureSelectedContent(Services services) {
     SigningScope::AppScope detected = detectAppScope(source);
     capture.content = CapturedContent{.plainText = std::move(copy.plainText),
                                       .htmlContent = std::move(copy.html),
-                                      .rtfData = std::move(copy.rtf),
                                       .sourceApp = std::move(detected.app),
                                       .scope = std::move(detected.scope),
                                       .sourceApplication = source};

@@ -14,13 +14,13 @@
 
 namespace quillseal {
 
-/// A selection with the application it was made in. All texts are well-formed UTF-8.
+/// A selection with the application it was made in. All texts are well-formed UTF-8. A copy's RTF
+/// is left where it is: a signed block is pasted as plain text or HTML.
 struct CapturedContent {
   std::string plainText;  ///< as copied, not trimmed
   std::optional<std::string> htmlContent;
-  std::optional<std::string> rtfData;  ///< bytes
-  std::string sourceApp;               ///< display name
-  std::string scope;                   ///< the medium
+  std::string sourceApp;  ///< display name
+  std::string scope;      ///< the medium
   std::optional<desktop::RunningApplication> sourceApplication;
 };
 
@@ -64,7 +64,6 @@ struct Copy {
   CopyOutcome outcome = CopyOutcome::unchanged;
   std::string plainText;
   std::optional<std::string> html;
-  std::optional<std::string> rtf;
 };
 
 /// Has `source` copy its selection.

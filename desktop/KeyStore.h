@@ -31,15 +31,27 @@ class DeviceKey {
       const std::array<std::uint8_t, 32>& digest) = 0;
 };
 
+/// Why a store made no key, where that is for the agent to explain. The fields are the platform's.
+class KeyStoreError : public Error {
+ public:
+  enum class Reason {
+    missingEntitlement,  ///< the build is not signed with a developer identity
+  };
+
+  KeyStoreError(Reason reason, const Fields& fields) : Error(fields), reason_(reason) {}
+
+  [[nodiscard]] Reason reason() const noexcept { return reason_; }
+
+ private:
+  Reason reason_;
+};
+
 /// Where the device key lives. All functions may block and are called on worker threads, also side
 /// by side; every answer is evaluated anew, since readers come and go and lids are closed.
 class KeyStore {
  public:
   /// The attributes by which the key is found and made.
   static constexpr std::string_view applicationTag = "ai.kestle.quillseal.signingkey";
-  /// OSStatus errSecMissingEntitlement (Security/SecBase.h), the code of the Error that `create`
-  /// throws when the build is not signed with a developer identity.
-  static constexpr std::int64_t missingEntitlement = -34018;
 
   virtual ~KeyStore() = default;
 
@@ -48,9 +60,9 @@ class KeyStore {
 
   /// Makes the key, in the place of an earlier one. A store whose keys have a PIN or a passphrase
   /// asks for the new one first; when the person cancels, it throws Cancelled, and the earlier key
-  /// is still there. Otherwise throws Error with the platform's code, and its words or an empty
-  /// description. A store that cannot tie the key to the person's presence throws "could not build
-  /// access control".
+  /// is still there. Otherwise throws KeyStoreError where it has a reason for that, or Error with
+  /// the platform's code, and its words or an empty description. A store that cannot tie the key to
+  /// the person's presence throws "could not build access control".
   [[nodiscard]] virtual std::unique_ptr<DeviceKey> create() = 0;
 
   /// The key, or null when there is none. `prompt` is shown when it signs; without one the key is

@@ -364,6 +364,9 @@ void FakeDesktop::write(const desktop::PasteboardContent& content) {
 std::unique_ptr<desktop::DeviceKey> FakeDesktop::create() {
   mayFail("create key");
   if (cancelsCreation) throw Cancelled(Error::Fields{});
+  if (lacksEntitlement)
+    throw desktop::KeyStoreError(desktop::KeyStoreError::Reason::missingEntitlement,
+                                 {.domain = "OSStatus", .code = -34018, .description = "x"});
   if (createFailure) throw Error(*createFailure);
   trace.emplace_back("create key");
   hasKey = true;

@@ -101,6 +101,7 @@ class FakeDesktop final : public desktop::Alerts,
   std::optional<std::string> machineUuid = "MACHINE-1";
   bool canHoldKey = true, hasKey = true, exportsKey = true;
   std::optional<Error> createFailure;
+  bool lacksEntitlement = false;
   bool cancelsCreation = false;
   std::optional<Error> signFailure;
   std::optional<Error> loadFailure;

@@ -1137,10 +1137,11 @@ TEST_F(MacDesktopTest, KeyStoreMakesFindsAndDeletesAKey) {
   if (!store.isAvailable()) GTEST_SKIP() << "this machine has no Secure Enclave";
   if (store.load(std::nullopt) != nullptr) GTEST_SKIP() << "there is a key of another program";
   std::unique_ptr<desktop::DeviceKey> made;
-  const auto refusal = errorOf([&] { made = store.create(); });
-  if (refusal) {
-    EXPECT_EQ(refusal->code(), desktop::KeyStore::missingEntitlement);
-    GTEST_SKIP() << "this build has no keychain access group: " << refusal->what();
+  try {
+    made = store.create();
+  } catch (const desktop::KeyStoreError& refusal) {
+    EXPECT_EQ(refusal.reason(), desktop::KeyStoreError::Reason::missingEntitlement);
+    GTEST_SKIP() << "this build has no keychain access group: " << refusal.what();
   }
   const auto point = made->publicKey();
   ASSERT_TRUE(point.has_value());

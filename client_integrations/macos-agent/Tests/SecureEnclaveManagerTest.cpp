@@ -62,7 +62,7 @@ TEST_F(SecureEnclaveManagerTest, TellsWhyNoKeyCouldBeMade) {
     std::int64_t code;
     std::string platform, user;
   } cases[] = {
-      {-34018, "A required entitlement isn't present.",
+      {-34018, "",
        "this build is not code-signed with an Apple Developer identity, so macOS will not create a "
        "biometric-protected Secure Enclave key (OSStatus -34018). Quillseal will not sign without "
        "one, because it could not prove a person was present. A build signed with a Developer ID "
@@ -73,6 +73,7 @@ TEST_F(SecureEnclaveManagerTest, TellsWhyNoKeyCouldBeMade) {
   };
   for (const auto& c : cases) {
     desktop_.trace.clear();
+    desktop_.lacksEntitlement = c.code == -34018;
     desktop_.createFailure =
         Error({.domain = "OSStatus", .code = c.code, .description = c.platform});
     EXPECT_EQ(failureOf(create()), creationFailed + c.user);

@@ -217,11 +217,8 @@ TEST_F(SettingsViewTest, ShowsWhatAFailedEnrolmentLeft) {
          d.answers["/api/register_native"] = {{503, R"({"error":"Closed."})"}};
        },
        notSetUp, "Enrol This Mac"},
-      {"no key made", false,
-       [](FakeDesktop& d) {
-         d.createFailure = Error({.domain = "OSStatus", .code = -34018, .description = ""});
-       },
-       notSetUp, "Enrol This Mac"},
+      {"no key made", false, [](FakeDesktop& d) { d.lacksEntitlement = true; }, notSetUp,
+       "Enrol This Mac"},
       {"no enclave", false, [](FakeDesktop& d) { d.canHoldKey = false; }, notSetUp,
        "Enrol This Mac"},
       {"called off", true, [](FakeDesktop& d) { d.cancelsCreation = true; }, enrolled,

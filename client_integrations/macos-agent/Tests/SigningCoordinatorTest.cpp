@@ -698,7 +698,7 @@ TEST_F(SigningCoordinatorTest, RetriesOnceOnly) {
 
 TEST_F(SigningCoordinatorTest, FallsBackToTheBrowserForGood) {
   desktop_.hasKey = false;
-  desktop_.createFailure = Error({.domain = "OSStatus", .code = -34018, .description = "x"});
+  desktop_.lacksEntitlement = true;
   sign();
   EXPECT_EQ(desktop_.strings["SigningMode"], "handoff");
   EXPECT_THAT(desktop_.userTrace(), Contains("delete key"));
@@ -724,7 +724,7 @@ TEST_F(SigningCoordinatorTest, EnrolsOnRequest) {
             "alert: ✅ This Mac Is Enrolled | A signing key was created inside the Secure Enclave. "
             "It cannot be copied off this Mac, and every signature requires Touch ID.\n\n"
             "Signatures will be attributed to Ada.");
-  desktop_.createFailure = Error({.domain = "OSStatus", .code = -34018, .description = "x"});
+  desktop_.lacksEntitlement = true;
   scope.start(coordinator_->enrolDevice());
   desktop_.loop.run();
   EXPECT_THAT(desktop_.trace.back(),

@@ -33,6 +33,13 @@ Error errorFrom(CfHandle<CFErrorRef> error) {
   return mac::errorFrom((__bridge_transfer NSError*)error.release());
 }
 
+[[noreturn]] void throwCreationFailure(const Error& error) {
+  if (error.code() != errSecMissingEntitlement) throw error;
+  throw desktop::KeyStoreError(
+      desktop::KeyStoreError::Reason::missingEntitlement,
+      {.domain = error.domain(), .code = error.code(), .description = error.what()});
+}
+
 class EnclaveKey final : public desktop::DeviceKey {
  public:
   /// `context`, possibly nil, is the one that the key was found with: it holds the prompt's text.
@@ -77,7 +84,7 @@ class EnclaveKey final : public desktop::DeviceKey {
 
 bool MacKeyStore::meansNoKey(std::int64_t status) noexcept {
   // A build without the entitlement has no keychain in which a key of its own could be.
-  return status == errSecItemNotFound || status == missingEntitlement;
+  return status == errSecItemNotFound || status == errSecMissingEntitlement;
 }
 
 bool MacKeyStore::isAvailable() const {
@@ -117,7 +124,7 @@ std::unique_ptr<desktop::DeviceKey> MacKeyStore::create() {
     };
     CfHandle<SecKeyRef> key(
         ::SecKeyCreateRandomKey((__bridge CFDictionaryRef)attributes, failure.receive()));
-    if (!key) throw errorFrom(std::move(failure));
+    if (!key) throwCreationFailure(errorFrom(std::move(failure)));
     return std::make_unique<EnclaveKey>(std::move(key), nil);
   });
 }

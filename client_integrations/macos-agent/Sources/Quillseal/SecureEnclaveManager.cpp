@@ -55,6 +55,13 @@ std::string_view wordsOf(const Error& error, std::string_view otherwise) {
   return words.empty() ? otherwise : words;
 }
 
+std::string_view whyNoKeyWasMade(const Error& error) {
+  const auto* refusal = dynamic_cast<const desktop::KeyStoreError*>(&error);
+  if (refusal && refusal->reason() == desktop::KeyStoreError::Reason::missingEntitlement)
+    return missingEntitlementMessage;
+  return wordsOf(error, "unknown error");
+}
+
 void logFailure(desktop::Log& log, std::string_view act, const Error& error) {
   log.write(std::string("[sign] key store failed to ")
                 .append(act)
@@ -104,10 +111,7 @@ Task<Key> createKey(Services services) {
       throw;
     } catch (const Error& error) {
       logFailure(log, "create the key", error);
-      throw SecureEnclaveError(Case::keyGenerationFailed, words,
-                               error.code() == desktop::KeyStore::missingEntitlement
-                                   ? missingEntitlementMessage
-                                   : wordsOf(error, "unknown error"));
+      throw SecureEnclaveError(Case::keyGenerationFailed, words, whyNoKeyWasMade(error));
     }
   });
 }

@@ -46,6 +46,7 @@
 #include "MacDesktop/MacText.h"
 #include "MacDesktop/MacWallClock.h"
 #include "MacDesktop/MacWindow.h"
+#include "MacViews.h"
 #include "Quillseal/AccessibilityManager.h"
 
 /// Counts how often its tracking was to be cancelled.
@@ -109,21 +110,6 @@ std::optional<Error> errorOf(const Work& work) {
   }
   return std::nullopt;
 }
-
-/// Has objects of one class answer a message with a block, for as long as it lives.
-class Replaced {
- public:
-  Replaced(Class kind, SEL selector, id block)
-      : method_(::class_getInstanceMethod(kind, selector)),
-        original_(::method_setImplementation(method_, ::imp_implementationWithBlock(block))) {}
-  Replaced(const Replaced&) = delete;
-  Replaced& operator=(const Replaced&) = delete;
-  ~Replaced() { ::method_setImplementation(method_, original_); }
-
- private:
-  Method method_;
-  IMP original_;
-};
 
 [[noreturn]] void raise() {
   @throw [NSException exceptionWithName:@"TestException" reason:@"deliberate" userInfo:nil];
@@ -448,43 +434,6 @@ TEST(MacStatusItemTest, ShowsItsMenuAndRunsTheChosenAction) {
 
 // Windows -----------------------------------------------------------------------------------------
 
-/// The first view below `root` of class `kind` that `matches`.
-NSView* find(NSView* root, Class kind, const std::function<bool(id)>& matches) {
-  if ([root isKindOfClass:kind] && matches(root)) return root;
-  for (NSView* view in root.subviews) {
-    if (NSView* found = find(view, kind, matches)) return found;
-  }
-  return nil;
-}
-
-NSTextField* fieldLabelled(NSWindow* window, NSString* label) {
-  return (NSTextField*)find(window.contentView, NSTextField.class, [label](NSTextField* field) {
-    return [field isEditable] && [field.accessibilityLabel isEqual:label];
-  });
-}
-
-NSTextField* textShowing(NSWindow* window, NSString* text) {
-  return (NSTextField*)find(window.contentView, NSTextField.class, [text](NSTextField* field) {
-    return ![field isEditable] && [field.stringValue isEqual:text];
-  });
-}
-
-NSButton* buttonTitled(NSWindow* window, NSString* title) {
-  return (NSButton*)find(window.contentView, NSButton.class,
-                         [title](NSButton* button) { return [button.title isEqual:title]; });
-}
-
-NSWindow* windowTitled(NSString* title) {
-  for (NSWindow* window in NSApp.windows) {
-    if ([window.title isEqual:title]) return window;
-  }
-  return nil;
-}
-
-void type(NSTextField* field, NSString* text) {
-  [(NSTextView*)field.currentEditor insertText:text replacementRange:NSMakeRange(NSNotFound, 0)];
-}
-
 class MacWindowTest : public testing::Test {
  protected:
   std::unique_ptr<desktop::Window> make(const std::string& title) {
@@ -593,16 +542,7 @@ class MacAlertsTest : public MacDesktopTest {
     NSButton* button = buttonTitled(window, title);
     EXPECT_NE(button, nil) << utf8(title);
     [button performClick:nil];
-    // A modal loop looks whether it was ended after each event; a timer is none.
-    post([NSEvent otherEventWithType:NSEventTypeApplicationDefined
-                            location:NSZeroPoint
-                       modifierFlags:0
-                           timestamp:0
-                        windowNumber:0
-                             context:nil
-                             subtype:0
-                               data1:0
-                               data2:0]);
+    wakeModalLoop();
   }
 
   static void strike(NSWindow* window, NSString* key) {

@@ -1,0 +1,733 @@
+// A whole run of the application, told as its user goes through it: the application with its own
+// main(), a development server, another application that has the text, and a user, who is a thread
+// of the same process: it looks at windows, presses buttons and keys, and chooses from menus.
+//
+// The settings are those of this program's own bundle identifier. The clipboard is replaced. The
+// environment names the two other programs:
+//   QUILLSEAL_DEV_SERVER      the development server
+//   QUILLSEAL_STORY_DOCUMENT  the application that has the text
+// What a Mac lacks or does not allow is skipped with a message: without the right to press keys
+// (Accessibility) or without a Secure Enclave nothing can be signed; without a keychain access
+// group no device key can be made, and demonstrations are signed in its place, by a finger that is
+// not there.
+#include <atomic>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <thread>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#import <AppKit/AppKit.h>
+#import <ApplicationServices/ApplicationServices.h>
+#import <Carbon/Carbon.h>
+#import <LocalAuthentication/LocalAuthentication.h>
+
+#include "MacDesktop/MacKeyStore.h"
+#include "MacDesktop/MacLog.h"
+#include "MacDesktop/MacText.h"
+#include "MacViews.h"
+#include "Quillseal/CryptoManager.h"
+
+/// Work for the main thread.
+@interface QSErrand : NSObject
+@property(nonatomic, copy) void (^work)(void);
+- (void)run;
+@end
+
+@implementation QSErrand
+
+- (void)run {
+  _work();
+}
+
+@end
+
+namespace quillseal::mac {
+namespace {
+
+constexpr const char* letter =
+    "Dear Ms Whitcombe, thank you for the visit on 14 March. The second draft suits us well. Zoë";
+constexpr const char* scam =
+    "Your account has been suspended. Verify your account within 24 hours and send me the "
+    "verification code you just got, or it will be closed.";
+
+// The user ----------------------------------------------------------------------------------------
+
+/// What `work` gives, run on the main thread, also while an alert is open there.
+template <typename Work>
+auto onMain(const Work& work) {
+  using Result = std::invoke_result_t<Work>;
+  const Work* const given = &work;  // a block would copy it
+  QSErrand* errand = [[QSErrand alloc] init];
+  const auto run = [errand] {
+    [errand performSelectorOnMainThread:@selector(run)
+                             withObject:nil
+                          waitUntilDone:YES
+                                  modes:@[
+                                    NSDefaultRunLoopMode, NSModalPanelRunLoopMode,
+                                    NSEventTrackingRunLoopMode
+                                  ]];
+  };
+  if constexpr (std::is_void_v<Result>) {
+    errand.work = ^{
+      (*given)();
+    };
+    run();
+  } else {
+    std::optional<Result> result;
+    std::optional<Result>* const out = &result;
+    errand.work = ^{
+      out->emplace((*given)());
+    };
+    run();
+    return *std::move(result);
+  }
+}
+
+/// Whether `condition`, which is asked on the main thread, comes true within `seconds`.
+bool await(const std::function<bool()>& condition, double seconds = 20) {
+  NSDate* limit = [NSDate dateWithTimeIntervalSinceNow:seconds];
+  while (limit.timeIntervalSinceNow > 0) {
+    @autoreleasepool {
+      if (onMain(condition)) return true;
+    }
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+  }
+  return false;
+}
+
+NSMenu* statusMenu = nil;  ///< main thread; noticed while it was filled
+
+NSMenuItem* itemStarting(NSString* start) {
+  for (NSMenuItem* item in statusMenu.itemArray) {
+    if ([item.title hasPrefix:start]) return item;
+  }
+  return nil;
+}
+
+void choose(NSString* start) {
+  onMain([&] {
+    [statusMenu performActionForItemAtIndex:[statusMenu indexOfItem:itemStarting(start)]];
+  });
+}
+
+void pressHotkey() {
+  onMain([] {
+    EventRef event = nullptr;
+    ::CreateEvent(nullptr, kEventClassKeyboard, kEventHotKeyPressed, 0, 0, &event);
+    ::SendEventToEventTarget(event, ::GetApplicationEventTarget());
+    ::ReleaseEvent(event);
+  });
+}
+
+/// One of the shortcuts of the main menu; false when it has none like that.
+bool pressShortcut(NSString* key) {
+  return onMain([&] {
+    NSEvent* event = [NSEvent keyEventWithType:NSEventTypeKeyDown
+                                      location:NSZeroPoint
+                                 modifierFlags:NSEventModifierFlagCommand
+                                     timestamp:0
+                                  windowNumber:NSApp.keyWindow.windowNumber
+                                       context:nil
+                                    characters:key
+                   charactersIgnoringModifiers:key
+                                     isARepeat:NO
+                                       keyCode:0];
+    return static_cast<bool>([NSApp.mainMenu performKeyEquivalent:event]);
+  });
+}
+
+NSWindow* settings() { return windowTitled(@"Quill Seal Server Settings"); }
+
+bool awaitSettings(bool isOpen) {
+  return await([isOpen] { return static_cast<bool>(settings().isVisible) == isOpen; });
+}
+
+bool isShown(NSString* title) {
+  return NSApp.modalWindow != nil && textShowing(NSApp.modalWindow, title) != nil;
+}
+
+bool awaitAlert(NSString* title) {
+  return await([title] { return isShown(title); });
+}
+
+/// All that the open alert says, for messages and comparisons.
+std::string alertText() {
+  return onMain([] {
+    std::string text;
+    static_cast<void>(
+        find(NSApp.modalWindow.contentView, NSTextField.class, [&](NSTextField* field) {
+          text += utf8(field.stringValue) + "\n";
+          return false;
+        }));
+    return text;
+  });
+}
+
+/// Presses a button of the open alert, and waits until that is gone.
+bool press(NSString* title) {
+  NSWindow* alert = onMain([] { return NSApp.modalWindow; });
+  onMain([&] {
+    [buttonTitled(alert, title) performClick:nil];
+    wakeModalLoop();
+  });
+  return await([&] { return NSApp.modalWindow != alert; });
+}
+
+template <typename Value>
+void set(NSString* key, Value value) {
+  onMain([&] { [NSUserDefaults.standardUserDefaults setObject:value forKey:key]; });
+}
+
+std::optional<std::string> clipboard(NSPasteboardType type) {
+  return onMain([&] { return optionalUtf8([NSPasteboard.generalPasteboard stringForType:type]); });
+}
+
+// Other programs ----------------------------------------------------------------------------------
+
+NSString* environment(const char* name) {
+  const char* value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): nothing changes it
+  return value == nullptr ? @"" : @(value);
+}
+
+NSTask* taskOf(NSString* program, NSArray<NSString*>* arguments) {
+  NSTask* task = [[NSTask alloc] init];
+  task.launchPath = program;
+  task.arguments = arguments;
+  return task;
+}
+
+/// What a page of the server answers to `body`, or to a look at it; nothing when it refuses.
+std::optional<std::string> answerOf(NSString* url, NSString* body) {
+  NSMutableArray* arguments = [@[ @"-sf", url ] mutableCopy];
+  if (body != nil)
+    [arguments addObjectsFromArray:@[ @"-H", @"Content-Type: application/json", @"-d", body ]];
+  NSTask* curl = taskOf(@"/usr/bin/curl", arguments);
+  NSPipe* output = [NSPipe pipe];
+  curl.standardOutput = output;
+  [curl launch];
+  NSData* data = [output.fileHandleForReading readDataToEndOfFile];
+  [curl waitUntilExit];
+  if (curl.terminationStatus != 0) return std::nullopt;
+  return utf8([[NSString alloc] initWithData:data encoding:NSUTF8StringEncoding]);
+}
+
+/// Runs as long as this program.
+class Server {
+ public:
+  void start() {
+    NSString* folder =
+        [NSTemporaryDirectory() stringByAppendingPathComponent:NSUUID.UUID.UUIDString];
+    [NSFileManager.defaultManager createDirectoryAtPath:folder
+                            withIntermediateDirectories:YES
+                                             attributes:nil
+                                                  error:nil];
+    task_ = taskOf(environment("QUILLSEAL_DEV_SERVER"), @[
+      @"--port", @"0", @"--database", [folder stringByAppendingPathComponent:@"registry.sqlite"]
+    ]);
+    NSPipe* output = [NSPipe pipe];
+    task_.standardOutput = output;
+    [task_ launch];
+    NSString* line = [[NSString alloc] initWithData:output.fileHandleForReading.availableData
+                                           encoding:NSUTF8StringEncoding];
+    const NSRange address = [line rangeOfString:@"http://"];
+    if (address.location == NSNotFound) return;
+    url_ = [[line substringFromIndex:address.location]
+        stringByTrimmingCharactersInSet:NSCharacterSet.whitespaceAndNewlineCharacterSet];
+  }
+
+  void stop() { [task_ terminate]; }
+
+  [[nodiscard]] NSString* url() const { return url_; }
+
+ private:
+  NSTask* task_ = nil;
+  NSString* url_ = nil;
+};
+
+Server& server() {
+  static Server only;
+  return only;
+}
+
+/// A text in another application, all of it selected, as long as this lives.
+class Document {
+ public:
+  explicit Document(const std::string& text)
+      : path_([NSTemporaryDirectory() stringByAppendingPathComponent:NSUUID.UUID.UUIDString]),
+        task_(taskOf(environment("QUILLSEAL_STORY_DOCUMENT"), @[])) {
+    [nsString(text) writeToFile:path_ atomically:YES encoding:NSUTF8StringEncoding error:nil];
+    NSMutableDictionary* own = [NSProcessInfo.processInfo.environment mutableCopy];
+    own[@"QUILLSEAL_STORY_FILE"] = path_;
+    task_.environment = own;
+    task_.standardInput = [NSPipe pipe];
+    [task_ launch];
+  }
+  Document(const Document&) = delete;
+  Document& operator=(const Document&) = delete;
+  ~Document() {
+    [task_ terminate];
+    [task_ waitUntilExit];
+    [NSFileManager.defaultManager removeItemAtPath:path_ error:nil];
+  }
+
+  [[nodiscard]] bool comesToTheFront() const {
+    return await([this] {
+      return NSWorkspace.sharedWorkspace.frontmostApplication.processIdentifier ==
+             task_.processIdentifier;
+    });
+  }
+
+  [[nodiscard]] std::string text() const {
+    return utf8([NSString stringWithContentsOfFile:path_ encoding:NSUTF8StringEncoding error:nil]);
+  }
+
+  /// Whether the text is soon a signed block with `part` in it.
+  [[nodiscard]] bool becomesSigned(const std::string& part) const {
+    return await([&] {
+      return text().find("Check this signature → ") != std::string::npos &&
+             text().find(part) != std::string::npos;
+    });
+  }
+
+ private:
+  NSString* path_;
+  NSTask* task_;
+};
+
+// The stories, in their order ---------------------------------------------------------------------
+
+class Story : public testing::Test {
+ protected:
+  void TearDown() override {
+    set(@"ConfirmBeforeSigning", @NO);
+    set(@"ServerURL", server().url());
+  }
+
+  /// Why nothing can be signed on this Mac; empty when it can.
+  static std::string obstacle() {
+    if (!::AXIsProcessTrusted())
+      return "this program may not press keys: System Settings → Privacy & Security → "
+             "Accessibility";
+    MacLog log;
+    if (!MacKeyStore(log).isAvailable()) return "this Mac has no Secure Enclave";
+    return "";
+  }
+
+  /// Opens an application with `text`, for a run that has no alert yet.
+  void open(const std::string& text) {
+    const std::string why = obstacle();
+    if (!why.empty()) GTEST_SKIP() << why;
+    document_.emplace(text);
+    if (!document_->comesToTheFront()) GTEST_SKIP() << "no application comes to the front here";
+    onMain([] { [NSPasteboard.generalPasteboard clearContents]; });
+  }
+
+  /// The text is as it was, and no block is on the clipboard.
+  void expectNothingSigned(const std::string& text) const {
+    EXPECT_EQ(document_->text(), text);
+    EXPECT_EQ(clipboard(NSPasteboardTypeString).value_or("").find("QUILLSEAL"), std::string::npos);
+    EXPECT_EQ(clipboard(NSPasteboardTypeHTML).value_or("").find("QUILLSEAL"), std::string::npos);
+  }
+
+  /// The link at the end of the signed text.
+  [[nodiscard]] NSString* link() const {
+    const std::string text = document_->text();
+    return nsString(text.substr(text.rfind("http://")));
+  }
+
+  std::optional<Document> document_;
+};
+
+TEST_F(Story, StartsInTheMenuBarAlone) {
+  ASSERT_TRUE(await([] { return itemStarting(@"Sign Selected Text") != nil; }));
+  EXPECT_EQ(utf8(onMain([] { return itemStarting(@"Server: ").title; })),
+            "Server: " + utf8(server().url()));
+  EXPECT_EQ(onMain([] { return settings(); }), nil);
+  EXPECT_EQ(onMain([] { return NSApp.modalWindow; }), nil);
+}
+
+TEST_F(Story, OpensSettingsFromTheMenuByKeyAndAnew) {
+  choose(@"Configure Server");
+  ASSERT_TRUE(awaitSettings(true));
+  onMain([] { [settings() makeKeyWindow]; });
+  EXPECT_TRUE(pressShortcut(@"w"));
+  ASSERT_TRUE(awaitSettings(false));
+  EXPECT_TRUE(pressShortcut(@","));
+  ASSERT_TRUE(awaitSettings(true));
+  onMain([] { [settings() performClose:nil]; });
+  ASSERT_TRUE(awaitSettings(false));
+  // As when its icon is opened while it runs.
+  onMain([] { [NSApp.delegate applicationShouldHandleReopen:NSApp hasVisibleWindows:NO]; });
+  ASSERT_TRUE(awaitSettings(true));
+  onMain([] { [settings() performClose:nil]; });
+}
+
+/// The browser, which is not started: the user acts on the page that it would show.
+class Browser {
+ public:
+  explicit Browser(BOOL canBeOpened = YES)
+      : withApplication_(object_getClass(NSWorkspace.sharedWorkspace),
+                         @selector(openURLs:withApplicationAtURL:configuration:completionHandler:),
+                         ^(id, NSArray<NSURL*>* urls, NSURL*, id,
+                           void (^done)(NSRunningApplication*, NSError*)) {
+                           opened = canBeOpened ? [urls.firstObject absoluteString] : nil;
+                           done(nil, canBeOpened ? nil : failure());
+                         }),
+        alone_(object_getClass(NSWorkspace.sharedWorkspace), @selector(openURL:),
+               ^BOOL(id, NSURL* url) {
+                 opened = canBeOpened ? url.absoluteString : nil;
+                 return canBeOpened;
+               }) {
+    opened = nil;
+  }
+
+  [[nodiscard]] bool awaitPage() const {
+    return await([] { return opened != nil; });
+  }
+
+  /// Does on the page what its button `act` ("sign", "decline") does.
+  [[nodiscard]] bool actOnPage(NSString* act, const std::string& text) const {
+    NSString* page = [opened componentsSeparatedByString:@"#"].firstObject;
+    NSString* handoff = [page componentsSeparatedByString:@"?h="].lastObject;
+    const std::string digest = CryptoManager::sha256Hex(CryptoManager::normalizeText(text));
+    NSString* body = [NSString stringWithFormat:@"{\"handoff_id\":\"%@\",\"text_digest\":\"%s\"}",
+                                                handoff, digest.c_str()];
+    return answerOf(page, nil).has_value() &&
+           answerOf([server().url() stringByAppendingFormat:@"/handoff/%@", act], body).has_value();
+  }
+
+ private:
+  static NSError* failure() {
+    return [NSError errorWithDomain:NSCocoaErrorDomain
+                               code:NSFileNoSuchFileError
+                           userInfo:@{NSLocalizedDescriptionKey : @"no such browser"}];
+  }
+
+  static inline NSString* opened = nil;
+  Replaced withApplication_;
+  Replaced alone_;
+};
+
+// Before there is a device key: with one, it signs.
+TEST_F(Story, SignsInTheBrowser) {
+  open(letter);
+  if (IsSkipped()) return;
+  const Browser browser;
+  pressHotkey();
+  ASSERT_TRUE(browser.awaitPage());
+  expectNothingSigned(letter);
+  ASSERT_TRUE(browser.actOnPage(@"sign", letter));
+  ASSERT_TRUE(document_->becomesSigned(letter)) << alertText();
+  EXPECT_TRUE(answerOf(link(), nil).has_value());
+}
+
+TEST_F(Story, SignsNothingThatIsDeclinedInTheBrowser) {
+  open(letter);
+  if (IsSkipped()) return;
+  const Browser browser;
+  pressHotkey();
+  ASSERT_TRUE(browser.awaitPage());
+  ASSERT_TRUE(browser.actOnPage(@"decline", letter));
+  ASSERT_TRUE(awaitAlert(@"Signing Request Expired"));
+  EXPECT_TRUE(press(@"OK"));
+  expectNothingSigned(letter);
+}
+
+TEST_F(Story, TellsThatNoBrowserOpens) {
+  open(letter);
+  if (IsSkipped()) return;
+  const Browser browser(NO);
+  pressHotkey();
+  ASSERT_TRUE(awaitAlert(@"Signing Error"));
+  EXPECT_NE(alertText().find("No browser could be opened."), std::string::npos) << alertText();
+  EXPECT_TRUE(press(@"OK"));
+  expectNothingSigned(letter);
+}
+
+bool hasDeviceKey = false;
+
+TEST_F(Story, EnrolsThisMac) {
+  choose(@"Configure Server");
+  ASSERT_TRUE(await([] { return buttonTitled(settings(), @"Enrol This Mac") != nil; }));
+  onMain([] { [buttonTitled(settings(), @"Enrol This Mac") performClick:nil]; });
+  ASSERT_TRUE(await([] { return NSApp.modalWindow != nil; }));
+  const std::string told = alertText();
+  EXPECT_TRUE(press(@"OK"));
+  hasDeviceKey = told.find("✅ This Mac Is Enrolled") != std::string::npos;
+  const auto close = [] { [settings() performClose:nil]; };
+  if (!hasDeviceKey) {
+    EXPECT_NE(told.find("Enrolment Failed"), std::string::npos) << told;
+    EXPECT_TRUE(await([] { return buttonTitled(settings(), @"Enrol This Mac") != nil; }));
+    onMain(close);
+    GTEST_SKIP() << "no device key can be made here: " << told;
+  }
+  EXPECT_TRUE(await([] { return buttonTitled(settings(), @"Re-enrol This Mac") != nil; }));
+  onMain(close);
+}
+
+/// With the device key or, where there is none, a demonstration.
+class SigningHere : public Story {
+ protected:
+  void SetUp() override { set(@"DemoSigning", hasDeviceKey ? @NO : @YES); }
+  void TearDown() override {
+    set(@"DemoSigning", @NO);
+    Story::TearDown();
+  }
+
+  static inline NSError* refusal = nil;  ///< of the prompt for a finger
+
+ private:
+  Replaced usable_ {
+    LAContext.class, @selector(canEvaluatePolicy:error:),
+        ^BOOL(id, LAPolicy, NSError* __autoreleasing*) {
+          return YES;
+        }
+  };
+  Replaced finger_ {
+    LAContext.class, @selector(evaluatePolicy:localizedReason:reply:),
+        ^(id, LAPolicy, NSString*, void (^reply)(BOOL, NSError*)) {
+          reply(refusal == nil, refusal);
+        }
+  };
+  Replaced kind_ {
+    LAContext.class, @selector(biometryType), ^NSInteger(id) {
+      return LABiometryTypeTouchID;
+    }
+  };
+};
+
+TEST_F(SigningHere, PastesTheSignedText) {
+  open(letter);
+  if (IsSkipped()) return;
+  pressHotkey();
+  ASSERT_TRUE(document_->becomesSigned(letter)) << alertText();
+  EXPECT_EQ(clipboard(NSPasteboardTypeString), document_->text());
+  EXPECT_NE(clipboard(NSPasteboardTypeHTML).value_or("").find("QUILLSEAL"), std::string::npos);
+  EXPECT_TRUE(answerOf(link(), nil).has_value());
+}
+
+TEST_F(SigningHere, AsksWhereToAndSignsThat) {
+  set(@"ConfirmBeforeSigning", @YES);
+  open(letter);
+  if (IsSkipped()) return;
+  pressHotkey();
+  ASSERT_TRUE(awaitAlert(@"Sign this content?"));
+  onMain([] { type(fieldLabelled(NSApp.modalWindow, @"Recipient"), @"ada@example.com"); });
+  EXPECT_TRUE(press(@"Sign with Touch ID"));
+  EXPECT_TRUE(document_->becomesSigned("ada@example.com"));
+}
+
+TEST_F(SigningHere, SignsNothingThatIsNotConfirmed) {
+  set(@"ConfirmBeforeSigning", @YES);
+  open(letter);
+  if (IsSkipped()) return;
+  pressHotkey();
+  ASSERT_TRUE(awaitAlert(@"Sign this content?"));
+  EXPECT_TRUE(press(@"Cancel"));
+  // The run ends where the next one can begin.
+  pressHotkey();
+  ASSERT_TRUE(awaitAlert(@"Sign this content?"));
+  EXPECT_TRUE(press(@"Cancel"));
+  expectNothingSigned(letter);
+}
+
+TEST_F(SigningHere, RefusesWhatNobodyShouldSign) {
+  open(scam);
+  if (IsSkipped()) return;
+  pressHotkey();
+  ASSERT_TRUE(await([] { return NSApp.modalWindow != nil; }));
+  EXPECT_NE(alertText().find("Not signed — "), std::string::npos) << alertText();
+  EXPECT_TRUE(press(@"OK"));
+  expectNothingSigned(scam);
+}
+
+TEST_F(SigningHere, TellsWhenThereIsNoText) {
+  open("");
+  if (IsSkipped()) return;
+  pressHotkey();
+  ASSERT_TRUE(awaitAlert(@"No Text Found"));
+  EXPECT_TRUE(press(@"OK"));
+  expectNothingSigned("");
+}
+
+[[noreturn]] void raise() {
+  @throw [NSException exceptionWithName:@"TestException" reason:@"deliberate" userInfo:nil];
+}
+
+// Each call that can fail, once in a run: the alert has the system's words, nothing is signed, and
+// the next run is not affected.
+TEST_F(SigningHere, TellsTheSystemsWordsAndGoesOn) {
+  open(letter);
+  if (IsSkipped()) return;
+  set(@"DemoSigning", @YES);
+  Class pasteboard = object_getClass(NSPasteboard.generalPasteboard);
+  Class workspace = object_getClass(NSWorkspace.sharedWorkspace);
+  using Fault = std::unique_ptr<Replaced>;
+  const struct {
+    const char* what;
+    std::function<Fault()> arrange;
+    NSString* title;
+    std::string words;
+  } cases[] = {
+      {"the pasteboard raises",
+       [&] {
+         __block bool hasRaised = false;  // once: windows that come up look at it, too
+         return std::make_unique<Replaced>(pasteboard, @selector(stringForType:),
+                                           ^NSString*(id, NSString*) {
+                                             if (!std::exchange(hasRaised, true)) raise();
+                                             return nil;
+                                           });
+       },
+       @"Signing Error", "deliberate"},
+      {"the pasteboard gives nothing",
+       [&] {
+         return std::make_unique<Replaced>(pasteboard, @selector(stringForType:),
+                                           ^NSString*(id, NSString*) {
+                                             return nil;
+                                           });
+       },
+       @"No Text Found", "Please type or highlight"},
+      {"the pasteboard takes nothing",
+       [&] {
+         return std::make_unique<Replaced>(pasteboard, @selector(writeObjects:),
+                                           ^BOOL(id, NSArray*) {
+                                             return NO;
+                                           });
+       },
+       @"Signing Error", "The signed text could not be put on the clipboard."},
+      {"the system does not say what is in front",
+       [&] {
+         __block bool hasRaised = false;
+         return std::make_unique<Replaced>(workspace, @selector(frontmostApplication),
+                                           ^NSRunningApplication*(id) {
+                                             if (!std::exchange(hasRaised, true)) raise();
+                                             return nil;
+                                           });
+       },
+       @"Signing Error", "deliberate"},
+      {"the finger is locked out",
+       [&]() -> Fault {
+         refusal = [NSError errorWithDomain:LAErrorDomain
+                                       code:-8  // locked out
+                                   userInfo:@{NSLocalizedDescriptionKey : @"Biometry is locked."}];
+         return nullptr;
+       },
+       @"Signing Error", "Biometry is locked."},
+      {"the server is not there",
+       [&]() -> Fault {
+         set(@"ServerURL", @"http://127.0.0.1:1");
+         return nullptr;
+       },
+       @"Signing Error", "connect"},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.what);
+    Fault fault = onMain([&] { return c.arrange(); });
+    pressHotkey();
+    ASSERT_TRUE(await([] { return NSApp.modalWindow != nil; }));
+    const std::string told = alertText();
+    EXPECT_TRUE(onMain([&] { return isShown(c.title); })) << told;
+    EXPECT_NE(told.find(c.words), std::string::npos) << told;
+    onMain([&] { fault.reset(); });
+    refusal = nil;
+    set(@"ServerURL", server().url());
+    EXPECT_TRUE(press(@"OK"));
+    expectNothingSigned(letter);
+    EXPECT_TRUE(document_->comesToTheFront()) << "given back";
+  }
+  pressHotkey();
+  EXPECT_TRUE(document_->becomesSigned(letter)) << alertText();
+}
+
+// The last: the program is quit while this alert is open, where there can be one.
+TEST_F(SigningHere, LeavesAnAlertOpen) {
+  open("Hi");
+  if (IsSkipped()) return;
+  pressHotkey();
+  EXPECT_TRUE(awaitAlert(@"Not signed — too short"));
+}
+
+// The program -------------------------------------------------------------------------------------
+
+std::atomic<bool> isTold = false;
+std::atomic<int> status = 1;
+
+/// Plays the stories and quits, as a user does.
+void tell() {
+  @autoreleasepool {
+    int count = 1;
+    char name[] = "quillseal_mac_story";
+    char* arguments[] = {name, nullptr};
+    testing::InitGoogleTest(&count, arguments);
+    status = RUN_ALL_TESTS();
+    isTold = true;
+    choose(@"Quit");
+  }
+  std::this_thread::sleep_for(std::chrono::seconds(20));
+  std::fprintf(stderr, "the application did not quit\n");
+  std::_Exit(1);
+}
+
+}  // namespace
+}  // namespace quillseal::mac
+
+/// Begins the story with the application, which knows nothing of it.
+@interface QSStory : NSObject
+@end
+
+@implementation QSStory
+
++ (void)load {
+  @autoreleasepool {
+    NSNotificationCenter* center = NSNotificationCenter.defaultCenter;
+    [center addObserver:self
+               selector:@selector(willLaunch:)
+                   name:NSApplicationWillFinishLaunchingNotification
+                 object:nil];
+    [center addObserver:self
+               selector:@selector(didLaunch:)
+                   name:NSApplicationDidFinishLaunchingNotification
+                 object:nil];
+    [center addObserver:self
+               selector:@selector(menuDidAddItem:)
+                   name:NSMenuDidAddItemNotification
+                 object:nil];
+  }
+  // The application ends with status 0, whatever the stories were like.
+  std::atexit([] {
+    quillseal::mac::server().stop();
+    if (!quillseal::mac::isTold) std::fprintf(stderr, "the application ended early\n");
+    const int status = quillseal::mac::isTold ? quillseal::mac::status.load() : 1;
+    if (status != 0) std::_Exit(status);
+  });
+}
+
++ (void)willLaunch:(NSNotification*)__unused notification {
+  quillseal::mac::server().start();
+  NSUserDefaults* store = NSUserDefaults.standardUserDefaults;
+  [store removePersistentDomainForName:NSBundle.mainBundle.bundleIdentifier];
+  [store setObject:quillseal::mac::server().url() forKey:@"ServerURL"];
+  [store setObject:@"handoff" forKey:@"SigningMode"];
+}
+
++ (void)didLaunch:(NSNotification*)__unused notification {
+  std::thread(quillseal::mac::tell).detach();
+}
+
++ (void)menuDidAddItem:(NSNotification*)notification {
+  NSMenu* menu = notification.object;
+  if ([[menu itemAtIndex:0].title hasPrefix:@"Sign Selected Text"])
+    quillseal::mac::statusMenu = menu;
+}
+
+@end

@@ -179,7 +179,8 @@ TEST_F(SettingsViewTest, SaysWhyItCannotTellWhetherThereIsAKey) {
   desktop_.hasKey = true;
   desktop_.loadFailure = Error({.domain = "TPM", .code = 1, .description = "No reader."});
   open();
-  EXPECT_THAT(machine().front(), EndsWith("whether this Mac has a signing key: No reader."));
+  EXPECT_THAT(machine(), ElementsAre(EndsWith("whether this Mac has a signing key: No reader."),
+                                     anonymous, "button Re-enrol This Mac", reenrolling));
   EXPECT_EQ(desktop_.trace.back(), "log: [sign] key store failed to look the key up: TPM 1");
   desktop_.loadFailure.reset();
   open();

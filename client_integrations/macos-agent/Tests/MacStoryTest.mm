@@ -51,6 +51,20 @@
 
 @end
 
+/// What Safari's bundle and its scripts say.
+@interface QSBrowser : NSObject
+@property(nonatomic, readonly) NSString* bundleIdentifier;
+@property(nonatomic, copy) NSString* stringValue;
+@end
+
+@implementation QSBrowser
+
+- (NSString*)bundleIdentifier {
+  return @"com.apple.Safari";
+}
+
+@end
+
 namespace quillseal::mac {
 namespace {
 
@@ -454,6 +468,70 @@ TEST_F(Story, TellsThatNoBrowserOpens) {
   expectNothingSigned(letter);
 }
 
+[[noreturn]] void raise() {
+  @throw [NSException exceptionWithName:@"TestException" reason:@"deliberate" userInfo:nil];
+}
+
+// The text is in the browser that signs it, so where it is pasted hangs on the browser's scripts.
+TEST_F(Story, ReturnsToTheTabOfTheTextOrLeavesThePastingToTheUser) {
+  const auto failing = [](NSInteger number, NSString* words) {
+    return @{NSAppleScriptErrorNumber : @(number), @"NSAppleScriptErrorMessage" : words};
+  };
+  const struct {
+    const char* what;
+    NSString* answer;  // of each script
+    NSDictionary* failure;
+    bool raises;
+  } cases[] = {
+      {"the tab is back", @"true", nil, false},
+      {"nothing is answered", nil, nil, false},
+      {"another thing is answered", @"missing value", nil, false},
+      {"automation is refused", nil, failing(-1743, @"Not authorized to send Apple events."),
+       false},
+      {"the browser hangs", nil, failing(-1712, @"AppleEvent timed out."), false},
+      {"the system raises", nil, nil, true},
+  };
+  open(letter);
+  if (IsSkipped()) return;
+  QSBrowser* safari = [[QSBrowser alloc] init];
+  const Replaced bundle(object_getClass(NSBundle.class), @selector(bundleWithURL:),
+                        ^id(id, NSURL*) {
+                          return safari;
+                        });
+  Class running =
+      onMain([] { return object_getClass(NSWorkspace.sharedWorkspace.frontmostApplication); });
+  const Replaced source(running, @selector(bundleIdentifier), ^NSString*(id) {
+    return safari.bundleIdentifier;
+  });
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.what);
+    document_.reset();
+    document_.emplace(letter);
+    ASSERT_TRUE(document_->comesToTheFront());
+    safari.stringValue = c.answer;
+    NSDictionary* failure = c.failure;
+    const bool raises = c.raises;
+    const Replaced scripts(NSAppleScript.class, @selector(executeAndReturnError:),
+                           ^id(id, NSDictionary* __autoreleasing* error) {
+                             if (raises) raise();
+                             if (failure != nil) *error = failure;
+                             return failure == nil ? safari : nil;
+                           });
+    const Browser browser;
+    pressHotkey();
+    ASSERT_TRUE(browser.awaitPage());
+    ASSERT_TRUE(browser.actOnPage(@"sign", letter));
+    if ([c.answer isEqual:@"true"]) {
+      EXPECT_TRUE(document_->becomesSigned(letter)) << alertText();
+      continue;
+    }
+    ASSERT_TRUE(awaitAlert(@"Signed — Paste It Into Your Message"));
+    EXPECT_TRUE(press(@"OK"));
+    EXPECT_EQ(document_->text(), letter);
+    EXPECT_NE(clipboard(NSPasteboardTypeString).value_or("").find("QUILLSEAL"), std::string::npos);
+  }
+}
+
 bool hasDeviceKey = false;
 
 TEST_F(Story, EnrolsThisMac) {
@@ -558,10 +636,6 @@ TEST_F(SigningHere, TellsWhenThereIsNoText) {
   ASSERT_TRUE(awaitAlert(@"No Text Found"));
   EXPECT_TRUE(press(@"OK"));
   expectNothingSigned("");
-}
-
-[[noreturn]] void raise() {
-  @throw [NSException exceptionWithName:@"TestException" reason:@"deliberate" userInfo:nil];
 }
 
 // Each call that can fail, once in a run: the alert has the system's words, nothing is signed, and
@@ -715,7 +789,8 @@ void tell() {
 + (void)willLaunch:(NSNotification*)__unused notification {
   quillseal::mac::server().start();
   NSUserDefaults* store = NSUserDefaults.standardUserDefaults;
-  [store removePersistentDomainForName:NSBundle.mainBundle.bundleIdentifier];
+  NSString* domain = NSBundle.mainBundle.bundleIdentifier;
+  if (domain != nil) [store removePersistentDomainForName:domain];
   [store setObject:quillseal::mac::server().url() forKey:@"ServerURL"];
   [store setObject:@"handoff" forKey:@"SigningMode"];
 }

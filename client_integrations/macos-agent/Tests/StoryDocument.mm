@@ -31,7 +31,10 @@
   _text = [[NSTextView alloc] initWithFrame:frame];
   _text.richText = NO;
   _text.delegate = self;
-  _text.string = [NSString stringWithContentsOfFile:_path encoding:NSUTF8StringEncoding error:nil];
+  NSString* contents = [NSString stringWithContentsOfFile:_path
+                                                 encoding:NSUTF8StringEncoding
+                                                    error:nil];
+  if (contents != nil) _text.string = contents;
   _window.contentView = _text;
   [_window makeFirstResponder:_text];
   [_text selectAll:nil];

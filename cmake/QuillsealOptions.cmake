@@ -54,14 +54,31 @@ if(CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT QUILLSEAL_SANITIZERS)
   endif()
 endif()
 
-# One test program from its sources, registered with CTest.
-#   quillseal_add_test(NAME SOURCES... [LIBRARIES...])
+# One test program from its sources; each file *Test.cpp or *Test.mm is a CTest entry of its own, "NAME.FILE".
+#   quillseal_add_test(NAME SOURCES... [LIBRARIES...] [EXCEPT FILTER] [PROPERTIES...])
+# EXCEPT names the tests to leave out, as --gtest_filter does; PROPERTIES are those of every entry.
 function(quillseal_add_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "SOURCES;LIBRARIES")
+  cmake_parse_arguments(PARSE_ARGV 1 ARG "" "EXCEPT" "SOURCES;LIBRARIES;PROPERTIES")
   find_package(GTest REQUIRED)
   add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE quillseal_options ${ARG_LIBRARIES} GTest::gmock GTest::gtest_main)
-  add_test(NAME ${name} COMMAND ${name})
+  list(FILTER ARG_SOURCES INCLUDE REGEX "Test\\.(cpp|mm)$")
+  foreach(source ${ARG_SOURCES})
+    # A suite may be new.
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${source})
+    file(STRINGS ${source} suites REGEX "^TEST(_F)?\\(")
+    list(TRANSFORM suites REPLACE "^[^(]*\\(([A-Za-z0-9]+),.*" "\\1.*")
+    list(REMOVE_DUPLICATES suites)
+    if(NOT suites)
+      message(FATAL_ERROR "${source} holds no test.")
+    endif()
+    list(JOIN suites ":" filter)
+    get_filename_component(file ${source} NAME_WE)
+    add_test(NAME ${name}.${file} COMMAND ${name} --gtest_brief --gtest_filter=${filter}-${ARG_EXCEPT})
+    if(ARG_PROPERTIES)
+      set_tests_properties(${name}.${file} PROPERTIES ${ARG_PROPERTIES})
+    endif()
+  endforeach()
 endfunction()
 
 # Installs a manual page or the like as Debian wants it.

@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "Quillseal/Settings.h"
 #include "applications/EntriesModule.h"
 #include "applications/LoadedDesktopEntries.h"
 #include "browsers/LinuxBrowserTabs.h"
@@ -60,7 +61,8 @@ class LinuxWords final : public desktop::Words {
       : keyStore_(keyStore), defaults_(defaults) {}
 
   [[nodiscard]] desktop::Wording current() const override {
-    return linuxWording({.key = keyStore_.place(), .isDemo = defaults_.boolean("DemoSigning")});
+    return linuxWording(
+        {.key = keyStore_.place(), .isDemo = Settings::demoSigning.isOn(defaults_)});
   }
 
  private:

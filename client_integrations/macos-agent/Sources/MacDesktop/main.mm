@@ -25,6 +25,7 @@
 #include "MacDesktop/MacWords.h"
 #include "Quillseal/AppDelegate.h"
 #include "Quillseal/BrowserTabReturn.h"
+#include "Quillseal/Settings.h"
 
 /// Hands the application's life over to `QuillsealApp`.
 @interface QSApplicationDelegate : NSObject <NSApplicationDelegate>
@@ -54,7 +55,9 @@ class QuillsealApp {
   MacMainLoop loop_;
   MacAlerts alerts_{{.loop = loop_, .log = log_}};
   MacApplications applications_{loop_};
-  MacDefaults defaults_{{.loop = loop_, .log = log_}, {"ServerURL", "APIKey", "BoundIdentity"}};
+  MacDefaults defaults_{{.loop = loop_, .log = log_}, {std::string(Settings::serverURL.key),
+                                                       std::string(Settings::apiKey.key),
+                                                       std::string(Settings::boundIdentity.key)}};
   MacFiles files_;
   MacHotkey hotkey_{loop_};
   MacHttpTransport http_{loop_};

@@ -1,6 +1,7 @@
 #include "Quillseal/MenuBarManager.h"
 
 #include "Quillseal/BuiltInServer.h"
+#include "Quillseal/Settings.h"
 #include "desktop/SigningHotkey.h"
 
 namespace quillseal {
@@ -82,8 +83,7 @@ void MenuBarManager::serverUrlChanged() {
 }
 
 std::string MenuBarManager::serverLine() const {
-  const std::string builtIn{BuiltInServer::url()};
-  return "Server: " + desktop_.defaults.string("ServerURL").value_or(builtIn);
+  return "Server: " + Settings::serverURL.value(desktop_.defaults);
 }
 
 }  // namespace quillseal

@@ -10,6 +10,7 @@
 
 #include "Quillseal/BuiltInServer.h"
 #include "Quillseal/CryptoManager.h"
+#include "Quillseal/Settings.h"
 #include "core/tasks/Async.h"
 #include "core/text/Error.h"
 #include "core/text/StrictJson.h"
@@ -25,11 +26,10 @@ constexpr const char* signingMethod = "Touch ID";
 /// NSCoderReadCorruptError of Foundation (FoundationErrors.h).
 constexpr std::int64_t unreadableAnswer = 4864;
 
-std::string settingOr(const desktop::Defaults& defaults, std::string_view key,
-                      std::string_view fallback) {
-  const std::string setting = defaults.string(key).value_or("");
-  const std::string_view trimmed = unicode::trimmed(setting);
-  return std::string(trimmed.empty() ? fallback : trimmed);
+std::string trimmedOrFallback(const Settings::Text& setting, const desktop::Defaults& defaults) {
+  const std::string stored = setting.value(defaults);
+  const std::string_view trimmed = unicode::trimmed(stored);
+  return std::string(trimmed.empty() ? setting.fallback() : trimmed);
 }
 
 /// A UUID of version 4 (RFC 9562) in upper case.
@@ -96,7 +96,7 @@ Response readAnswer(const desktop::HttpResponse& answer, const desktop::HttpTran
 }  // namespace
 
 std::string ServerClient::effectiveServerURL(const desktop::Defaults& defaults) {
-  return settingOr(defaults, "ServerURL", BuiltInServer::url());
+  return trimmedOrFallback(Settings::serverURL, defaults);
 }
 
 bool ServerClient::hasServer(const desktop::Defaults& defaults) {
@@ -104,7 +104,7 @@ bool ServerClient::hasServer(const desktop::Defaults& defaults) {
 }
 
 std::string ServerClient::effectiveAPIKey(const desktop::Defaults& defaults) {
-  return settingOr(defaults, "APIKey", BuiltInServer::apiKey());
+  return trimmedOrFallback(Settings::apiKey, defaults);
 }
 
 std::string ServerClient::hardwareUUID(const desktop::MachineIdentity& machine) {

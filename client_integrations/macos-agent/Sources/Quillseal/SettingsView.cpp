@@ -3,7 +3,6 @@
 #include <exception>
 #include <utility>
 
-#include "Quillseal/BuiltInServer.h"
 #include "Quillseal/SecureEnclaveManager.h"
 #include "Quillseal/ServerClient.h"
 #include "core/signing/IdentityName.h"
@@ -51,23 +50,24 @@ desktop::FormSection SettingsView::serverSection() {
     url.selectable = true;
     return {.header = "Server", .rows = {std::move(url)}};
   }
-  desktop::FormField key = field("Native API Key (from server log)", "APIKey", "");
+  desktop::FormField url = field("Server URL", Settings::serverURL);
+  url.value = Settings::serverURL.value(services_.defaults);
+  desktop::FormField key = field("Native API Key (from server log)", Settings::apiKey);
   key.masked = true;
-  return {
-      .header = "Server Configuration (development build)",
-      .rows = {field("Server URL", "ServerURL", std::string(BuiltInServer::url())), std::move(key),
-               caption("This key authorizes the app build. It is not proof of who you are — "
-                       "that comes from the " +
-                       services_.words.current().deviceKey + " below.")}};
+  return {.header = "Server Configuration (development build)",
+          .rows = {std::move(url), std::move(key),
+                   caption("This key authorizes the app build. It is not proof of who you are — "
+                           "that comes from the " +
+                           services_.words.current().deviceKey + " below.")}};
 }
 
-desktop::FormField SettingsView::field(std::string label, std::string key, std::string fallback) {
-  std::string value = services_.defaults.string(key).value_or(std::move(fallback));
+desktop::FormField SettingsView::field(std::string label, Settings::Text setting) {
   return {.label = std::move(label),
-          .value = std::move(value),
+          .value = setting.stored(services_.defaults).value_or(""),
           .masked = false,
-          .changed = [&defaults = services_.defaults, key = std::move(key)](
-                         const std::string& text) { defaults.setString(key, text); }};
+          .changed = [&defaults = services_.defaults, setting](const std::string& text) {
+            setting.store(defaults, text);
+          }};
 }
 
 desktop::FormSection SettingsView::machineSection() {
@@ -90,7 +90,7 @@ desktop::FormSection SettingsView::machineSection() {
         .text = callout("Not set up yet. This happens automatically the first time you press " +
                         words.hotkey + " — there is nothing to do here.")});
   }
-  const std::string identity = services_.defaults.string("BoundIdentity").value_or("");
+  const std::string identity = Settings::boundIdentity.value(services_.defaults);
   section.rows.emplace_back(
       identity.empty() ? caption("No verified identity is bound to this " + words.machine +
                                      ". Signatures will be shown to readers as \"anonymous human\" "

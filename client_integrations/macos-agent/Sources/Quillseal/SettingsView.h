@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "Quillseal/Settings.h"
 #include "Quillseal/SigningCoordinator.h"
 #include "core/tasks/Async.h"
 #include "core/tasks/Task.h"
@@ -46,7 +47,7 @@ class SettingsView {
 
   [[nodiscard]] desktop::FormSection serverSection();
   [[nodiscard]] desktop::FormSection machineSection();
-  [[nodiscard]] desktop::FormField field(std::string label, std::string key, std::string fallback);
+  [[nodiscard]] desktop::FormField field(std::string label, Settings::Text setting);
 
   Services services_;
   SigningCoordinator& coordinator_;

@@ -12,6 +12,7 @@
 #include "Quillseal/BuiltInServer.h"
 #include "Quillseal/ContentRisk.h"
 #include "Quillseal/CryptoManager.h"
+#include "Quillseal/Settings.h"
 #include "core/signing/ConfirmationText.h"
 #include "core/signing/HandoffPage.h"
 #include "core/signing/IdentityName.h"
@@ -33,14 +34,6 @@ constexpr std::size_t longestIdentity = 1000;     // bytes
 constexpr std::size_t longestPageAddress = 2000;  // bytes
 constexpr const char* preferredBrowser = "/Applications/Google Chrome.app";
 constexpr const char* debugCapturePath = "/Library/Logs/Quillseal-signed-text.txt";
-
-namespace setting {
-constexpr std::string_view boundIdentity = "BoundIdentity";
-constexpr std::string_view confirmBeforeSigning = "ConfirmBeforeSigning";
-constexpr std::string_view debugCapture = "QuillsealDebugCapture";
-constexpr std::string_view demoSigning = "DemoSigning";
-constexpr std::string_view signingMode = "SigningMode";
-}  // namespace setting
 
 constexpr const char* notConfigured = "Quillseal Is Not Configured";
 constexpr std::string_view enclaveWord = "enclave";
@@ -282,7 +275,7 @@ SigningCoordinator::Statement SigningCoordinator::statementOf(const CapturedCont
   desktop_.log.write("[sign] " + std::to_string(statement.wordCount) + " words / " +
                      std::to_string(unicode::characterCount(normalized)) +
                      " normalized characters / digest " + statement.textDigest);
-  if (desktop_.defaults.boolean(setting::debugCapture)) writeDebugCapture(statement.text);
+  if (Settings::debugCapture.isOn(desktop_.defaults)) writeDebugCapture(statement.text);
   return statement;
 }
 
@@ -486,14 +479,14 @@ void SigningCoordinator::writeDebugCapture(std::string_view text) {
 // Modes, enrolment and recovery -------------------------------------------------------------------
 
 Task<SigningMode> SigningCoordinator::resolveSigningMode() {
-  if (desktop_.defaults.boolean(setting::demoSigning)) co_return SigningMode::demo;
+  if (Settings::demoSigning.isOn(desktop_.defaults)) co_return SigningMode::demo;
   const bool hasKey = co_await SecureEnclaveManager::hasKey(keyServices());
   if (hasKey) co_return SigningMode::enclave;
   const AsyncMutex::Lock lock = co_await keyCreation_.lock();
   // Another task may have made a key, or a run have decided, while this one waited.
   const bool hasKeyNow = co_await SecureEnclaveManager::hasKey(keyServices());
   if (hasKeyNow) co_return SigningMode::enclave;
-  if (const auto remembered = desktop_.defaults.string(setting::signingMode))
+  if (const auto remembered = Settings::signingMode.stored(desktop_.defaults))
     co_return *remembered == handoffWord ? SigningMode::handoff : SigningMode::enclave;
 
   bool isMade = false;
@@ -506,11 +499,11 @@ Task<SigningMode> SigningCoordinator::resolveSigningMode() {
     desktop_.log.write(std::string("[sign] signing in the browser from now on: ") + error.what());
   }
   if (isMade) {
-    desktop_.defaults.setString(setting::signingMode, enclaveWord);
+    Settings::signingMode.store(desktop_.defaults, enclaveWord);
     co_return SigningMode::enclave;
   }
   co_await SecureEnclaveManager::deleteKey(keyServices());
-  desktop_.defaults.setString(setting::signingMode, handoffWord);
+  Settings::signingMode.store(desktop_.defaults, handoffWord);
   co_return SigningMode::handoff;
 }
 
@@ -621,7 +614,7 @@ Task<> SigningCoordinator::registerDevice() {
         IdentityName::shown(identity) +
         "). Check the server address in Settings, or ask your provider.");
   }
-  desktop_.defaults.setString(setting::boundIdentity, identity);
+  Settings::boundIdentity.store(desktop_.defaults, identity);
 }
 
 Task<std::string> SigningCoordinator::signOnce(Signable signable) {
@@ -678,7 +671,7 @@ bool SigningCoordinator::isDeviceNotEnrolled(std::string_view description) {
 }
 
 std::string SigningCoordinator::boundIdentity() const {
-  return unicode::wellFormed(desktop_.defaults.string(setting::boundIdentity).value_or(""));
+  return unicode::wellFormed(Settings::boundIdentity.value(desktop_.defaults));
 }
 
 SecureEnclaveManager::Services SigningCoordinator::keyServices() const {
@@ -691,7 +684,7 @@ SecureEnclaveManager::Services SigningCoordinator::keyServices() const {
 // Confirmation ------------------------------------------------------------------------------------
 
 Task<std::optional<std::string>> SigningCoordinator::scopeForSigning(Confirmable confirmable) {
-  if (!desktop_.defaults.boolean(setting::confirmBeforeSigning))
+  if (!Settings::confirmBeforeSigning.isOn(desktop_.defaults))
     co_return std::move(confirmable.scope);
   const std::optional<Confirmed> confirmed = co_await confirmSigning(std::move(confirmable));
   if (!confirmed) co_return std::nullopt;
@@ -705,13 +698,13 @@ Task<std::optional<SigningCoordinator::Confirmed>> SigningCoordinator::confirmSi
   const desktop::Wording words = desktop_.words.current();
   const desktop::ConfirmationForm form{
       .question = {.title = "Sign this content?",
-                   .body = confirmationText(
-                       {.text = confirmable.text,
-                        .scope = confirmable.scope,
-                        .issued = confirmable.issued,
-                        .identity = identity,
-                        .proof = words.proof,
-                        .isDemo = desktop_.defaults.boolean(setting::demoSigning)}),
+                   .body =
+                       confirmationText({.text = confirmable.text,
+                                         .scope = confirmable.scope,
+                                         .issued = confirmable.issued,
+                                         .identity = identity,
+                                         .proof = words.proof,
+                                         .isDemo = Settings::demoSigning.isOn(desktop_.defaults)}),
                    .style = desktop::AlertStyle::informational,
                    .confirm = "Sign with " + words.proofInTitle,
                    .cancel = "Cancel"},

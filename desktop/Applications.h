@@ -43,9 +43,8 @@ class Applications {
   /// Asks for `application` to be brought to the front; nothing happens when it has ended.
   virtual void activate(const RunningApplication& application) = 0;
 
-  /// The application whose bundle is at `path`, if a file exists there.
-  [[nodiscard]] virtual std::optional<InstalledApplication> applicationAt(
-      const std::string& path) const = 0;
+  /// Google Chrome, in which pages of the server are opened where it is installed.
+  [[nodiscard]] virtual std::optional<InstalledApplication> preferredBrowser() const = 0;
 
   /// The application that opens `url` unless told otherwise.
   [[nodiscard]] virtual std::optional<InstalledApplication> defaultApplicationFor(

@@ -181,11 +181,6 @@ void FakeDesktop::activate(const desktop::RunningApplication& application) {
   if (ended.find(application.instance) == ended.end()) active = application;
 }
 
-std::optional<desktop::InstalledApplication> FakeDesktop::applicationAt(
-    const std::string& path) const {
-  return path == "/Applications/Google Chrome.app" ? chrome : std::nullopt;
-}
-
 std::optional<desktop::InstalledApplication> FakeDesktop::defaultApplicationFor(
     const std::string& /*url*/) const {
   return defaultBrowser;

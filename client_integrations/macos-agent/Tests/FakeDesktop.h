@@ -151,8 +151,7 @@ class FakeDesktop final : public desktop::Alerts,
   std::optional<desktop::RunningApplication> frontmost() const override;
   bool isActive(const desktop::RunningApplication& application) const override;
   void activate(const desktop::RunningApplication& application) override;
-  std::optional<desktop::InstalledApplication> applicationAt(
-      const std::string& path) const override;
+  std::optional<desktop::InstalledApplication> preferredBrowser() const override { return chrome; }
   std::optional<desktop::InstalledApplication> defaultApplicationFor(
       const std::string& url) const override;
   desktop::Ticket open(const std::string& url, const desktop::InstalledApplication& application,

@@ -9,9 +9,6 @@ namespace {
 using desktop::InstalledApplication;
 using desktop::RunningApplication;
 
-// The agent knows its preferred browser by the place of its bundle on macOS.
-constexpr std::string_view chromeBundle = "/Applications/Google Chrome.app";
-
 }  // namespace
 
 RunningApplication LinuxApplications::applicationOf(const Window& window) const {
@@ -38,9 +35,8 @@ RunningApplication LinuxApplications::applicationOf(const Window& window) const 
   return application;
 }
 
-std::optional<InstalledApplication> LinuxApplications::applicationAt(
-    const std::string& path) const {
-  return path == chromeBundle ? launcher_.chrome() : std::nullopt;
+std::optional<InstalledApplication> LinuxApplications::preferredBrowser() const {
+  return launcher_.chrome();
 }
 
 std::optional<InstalledApplication> LinuxApplications::defaultApplicationFor(

@@ -20,8 +20,7 @@ class LinuxApplications : public desktop::Applications {
   LinuxApplications(DesktopEntries& entries, desktop::MainLoop& loop)
       : entries_(entries), launcher_(entries, loop) {}
 
-  [[nodiscard]] std::optional<desktop::InstalledApplication> applicationAt(
-      const std::string& path) const override;
+  [[nodiscard]] std::optional<desktop::InstalledApplication> preferredBrowser() const override;
   [[nodiscard]] std::optional<desktop::InstalledApplication> defaultApplicationFor(
       const std::string& url) const override;
   [[nodiscard]] desktop::Ticket open(const std::string& url,

@@ -24,8 +24,7 @@ class MacApplications final : public desktop::Applications {
   [[nodiscard]] std::optional<desktop::RunningApplication> frontmost() const override;
   [[nodiscard]] bool isActive(const desktop::RunningApplication& application) const override;
   void activate(const desktop::RunningApplication& application) override;
-  [[nodiscard]] std::optional<desktop::InstalledApplication> applicationAt(
-      const std::string& path) const override;
+  [[nodiscard]] std::optional<desktop::InstalledApplication> preferredBrowser() const override;
   [[nodiscard]] std::optional<desktop::InstalledApplication> defaultApplicationFor(
       const std::string& url) const override;
   [[nodiscard]] desktop::Ticket open(const std::string& url,

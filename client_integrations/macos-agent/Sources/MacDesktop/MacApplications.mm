@@ -176,10 +176,9 @@ void MacApplications::activate(const desktop::RunningApplication& application) {
   });
 }
 
-std::optional<desktop::InstalledApplication> MacApplications::applicationAt(
-    const std::string& path) const {
-  return callSystem([&]() -> std::optional<desktop::InstalledApplication> {
-    NSString* location = nsString(path);
+std::optional<desktop::InstalledApplication> MacApplications::preferredBrowser() const {
+  return callSystem([]() -> std::optional<desktop::InstalledApplication> {
+    NSString* location = @"/Applications/Google Chrome.app";
     if (![NSFileManager.defaultManager fileExistsAtPath:location]) return std::nullopt;
     return installedAt([NSURL fileURLWithPath:location]);
   });

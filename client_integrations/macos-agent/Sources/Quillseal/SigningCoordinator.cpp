@@ -32,7 +32,6 @@ constexpr auto longestWaitForBrowser = 570s;
 constexpr auto tabSwitchTime = 500ms;
 constexpr std::size_t longestIdentity = 1000;     // bytes
 constexpr std::size_t longestPageAddress = 2000;  // bytes
-constexpr const char* preferredBrowser = "/Applications/Google Chrome.app";
 constexpr const char* debugCapturePath = "/Library/Logs/Quillseal-signed-text.txt";
 
 constexpr const char* notConfigured = "Quillseal Is Not Configured";
@@ -797,8 +796,7 @@ Task<std::optional<SigningCoordinator::HandoffResult>> SigningCoordinator::signV
 
 SigningCoordinator::BrowserOpening SigningCoordinator::openInSigningBrowser(
     const std::string& url) {
-  std::optional<desktop::InstalledApplication> browser =
-      desktop_.applications.applicationAt(preferredBrowser);
+  std::optional<desktop::InstalledApplication> browser = desktop_.applications.preferredBrowser();
   if (!browser) browser = desktop_.applications.defaultApplicationFor(url);
   if (!browser) {
     desktop_.applications.open(url);

@@ -38,13 +38,6 @@ struct ConfirmationForm {
   std::size_t selectedChoice = 0;
   std::string fieldPlaceholder;
   std::string note;  ///< small, in the secondary colour
-
-  /// The block of choice, field and note as macOS lays it out, in points from its lower left
-  /// corner. Other desktops may choose their own measures.
-  static constexpr int width = 320, height = 74;
-  static constexpr int choiceY = 50, choiceHeight = 26;
-  static constexpr int fieldY = 22, fieldHeight = 24;
-  static constexpr int noteY = 0, noteHeight = 18, noteFontSize = 10;
 };
 
 struct ConfirmationEntry {

@@ -15,6 +15,8 @@
 namespace quillseal::linux {
 namespace {
 
+constexpr int noteFontSize = 8;  // points
+
 MessageDialog::Picture pictureOf(desktop::AlertStyle style) {
   return style == desktop::AlertStyle::warning ? MessageDialog::Picture::warning
                                                : MessageDialog::Picture::information;
@@ -71,7 +73,7 @@ desktop::Ticket QtAlerts::confirm(
   note->setWordWrap(true);
   note->setForegroundRole(QPalette::PlaceholderText);
   QFont small = note->font();
-  small.setPointSize(desktop::ConfirmationForm::noteFontSize - 2);
+  small.setPointSize(noteFontSize);
   note->setFont(small);
 
   dialog->rows().addWidget(choice);

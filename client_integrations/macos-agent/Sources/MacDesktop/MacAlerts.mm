@@ -82,6 +82,12 @@ constexpr CGFloat plainTextWidth = 250;
 constexpr CGFloat scrollingTextHeight = 240;
 constexpr CGFloat gap = 8;
 
+/// The block of choice, field and note, in points from its lower left corner.
+constexpr CGFloat formWidth = 320, formHeight = 74;
+constexpr CGFloat choiceY = 50, choiceHeight = 26;
+constexpr CGFloat fieldY = 22, fieldHeight = 24;
+constexpr CGFloat noteY = 0, noteHeight = 18, noteFontSize = 10;
+
 bool needsScrolling(NSString* text) {
   if (text.length > longestPlainText) return true;
   const NSRect bounds =
@@ -95,7 +101,7 @@ bool needsScrolling(NSString* text) {
 
 NSView* scrollingText(NSString* text, CGFloat y) {
   NSScrollView* scroller = [NSTextView scrollableTextView];
-  scroller.frame = NSMakeRect(0, y, ConfirmationForm::width, scrollingTextHeight);
+  scroller.frame = NSMakeRect(0, y, formWidth, scrollingTextHeight);
   scroller.borderType = NSBezelBorder;
   NSTextView* view = scroller.documentView;
   view.richText = NO;
@@ -121,7 +127,7 @@ NSAlert* alertFrom(const std::string& title, const std::string& body, desktop::A
   const CGFloat below = form != nil ? NSHeight(form.frame) + gap : 0;
   NSView* scroller = scrollingText(text, below);
   NSView* both = [[NSView alloc]
-      initWithFrame:NSMakeRect(0, 0, ConfirmationForm::width, NSMaxY(scroller.frame))];
+      initWithFrame:NSMakeRect(0, 0, formWidth, NSMaxY(scroller.frame))];
   [both addSubview:scroller];
   if (form != nil) [both addSubview:form];
   alert.accessoryView = both;
@@ -135,10 +141,10 @@ NSAlert* alertFrom(const desktop::Question& question, NSView* form) {
   return alert;
 }
 
-NSRect band(int y, int height) { return NSMakeRect(0, y, ConfirmationForm::width, height); }
+NSRect band(CGFloat y, CGFloat height) { return NSMakeRect(0, y, formWidth, height); }
 
 NSPopUpButton* choiceOf(const ConfirmationForm& form) {
-  NSPopUpButton* choice = [[NSPopUpButton alloc] initWithFrame:band(form.choiceY, form.choiceHeight)
+  NSPopUpButton* choice = [[NSPopUpButton alloc] initWithFrame:band(choiceY, choiceHeight)
                                                      pullsDown:NO];
   for (const std::string& title : form.choices) {
     [choice addItemWithTitle:nsString(title)];
@@ -151,7 +157,7 @@ NSPopUpButton* choiceOf(const ConfirmationForm& form) {
 }
 
 NSTextField* fieldOf(const ConfirmationForm& form) {
-  NSTextField* field = [[NSTextField alloc] initWithFrame:band(form.fieldY, form.fieldHeight)];
+  NSTextField* field = [[NSTextField alloc] initWithFrame:band(fieldY, fieldHeight)];
   field.placeholderString = nsString(form.fieldPlaceholder);
   field.usesSingleLineMode = YES;
   field.cell.wraps = NO;
@@ -162,8 +168,8 @@ NSTextField* fieldOf(const ConfirmationForm& form) {
 
 NSTextField* noteOf(const ConfirmationForm& form) {
   NSTextField* note = [NSTextField labelWithString:nsString(form.note)];
-  note.frame = band(form.noteY, form.noteHeight);
-  note.font = [NSFont systemFontOfSize:form.noteFontSize];
+  note.frame = band(noteY, noteHeight);
+  note.font = [NSFont systemFontOfSize:noteFontSize];
   note.textColor = NSColor.secondaryLabelColor;
   note.lineBreakMode = NSLineBreakByTruncatingTail;
   note.toolTip = nsString(form.note);  // one line rarely holds it
@@ -246,7 +252,7 @@ desktop::Ticket MacAlerts::confirm(
   NSPopUpButton* choice = callSystem([&] { return choiceOf(form); });
   NSTextField* field = callSystem([&] { return fieldOf(form); });
   NSAlert* alert = callSystem([&] {
-    NSView* view = [[NSView alloc] initWithFrame:band(0, ConfirmationForm::height)];
+    NSView* view = [[NSView alloc] initWithFrame:band(0, formHeight)];
     view.subviews = @[ choice, field, noteOf(form) ];
     return alertFrom(form.question, view);
   });

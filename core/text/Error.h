@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <exception>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -31,9 +32,9 @@ class Error : public std::runtime_error {
 
 /// The person called off what they were asked to agree to. Not a failure: nothing has changed, and
 /// there is nothing to tell them.
-class Cancelled : public Error {
+class Cancelled : public std::exception {
  public:
-  using Error::Error;
+  [[nodiscard]] const char* what() const noexcept override { return "cancelled"; }
 };
 
 /// How an asynchronous request ended.

@@ -11,7 +11,7 @@ std::string failureOf(const auto& action) {
   try {
     action();
   } catch (const Cancelled& cancelled) {
-    return std::string("cancelled: ") + cancelled.what();
+    return cancelled.what();
   } catch (const linux::KeyFailure& failure) {
     return failure.what();
   }

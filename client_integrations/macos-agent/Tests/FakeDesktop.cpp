@@ -358,7 +358,7 @@ void FakeDesktop::write(const desktop::PasteboardContent& content) {
 
 std::unique_ptr<desktop::DeviceKey> FakeDesktop::create() {
   mayFail("create key");
-  if (cancelsCreation) throw Cancelled(Error::Fields{});
+  if (cancelsCreation) throw Cancelled();
   if (lacksEntitlement)
     throw desktop::KeyStoreError(desktop::KeyStoreError::Reason::missingEntitlement,
                                  {.domain = "OSStatus", .code = -34018, .description = "x"});

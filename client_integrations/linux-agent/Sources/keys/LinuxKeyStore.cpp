@@ -45,10 +45,7 @@ class Unlocked {
 SecretBytes askForNew(SecretPrompt& prompt, NewSecretRequest request) {
   for (;;) {
     std::optional<SecretBytes> secret = prompt.askForNew(request);
-    if (!secret)
-      throw Cancelled({.domain = "Quillseal.Key",
-                       .code = 0,
-                       .description = "no " + std::string(nameOf(request.kind)) + " was chosen."});
+    if (!secret) throw Cancelled();
     request.problem = objectionTo(request.kind, *secret);
     if (request.problem.empty()) return std::move(*secret);
   }
@@ -89,10 +86,7 @@ class LinuxKeyStore::Key final : public desktop::DeviceKey {
         const Unlocked free(lock);
         return store_.prompt_.ask(request);
       }();
-      if (!secret)
-        throw Cancelled({.domain = "Quillseal.Key",
-                         .code = 0,
-                         .description = "no " + secretName + " was entered."});
+      if (!secret) throw KeyFailure("no " + secretName + " was entered.");
       if (auto signature = medium_.sign(digest, *secret)) {
         // Also finds a key that was exchanged while the question was open.
         if (!P256::verifies({.publicKey = publicKey, .digest = digest, .signature = *signature}))

@@ -134,10 +134,7 @@ bool verify(const Interrupt& interrupt, const Instruct& instruct) {
   const auto nextTouch = [&] {
     const auto hasStatus = [&statuses] { return !statuses.empty(); };
     if (!bus.wait({.interrupt = interrupt, .limit = patience, .isDone = hasStatus})) {
-      if (interrupt.isRaised())
-        throw Cancelled({.domain = "Quillseal.Presence",
-                         .code = 0,
-                         .description = "Authentication was cancelled."});
+      if (interrupt.isRaised()) fail("Authentication was cancelled.");
       fail("Nobody touched the fingerprint reader.");
     }
     const Touch touch = touchOf(statuses.front());

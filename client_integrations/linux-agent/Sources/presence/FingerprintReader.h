@@ -24,8 +24,8 @@ struct Touch {
 /// Called with what the person shall do next.
 using Instruct = std::function<void(std::string_view)>;
 
-/// Waits for a finger, three tries at most. Whether it was the right one; throws Cancelled when
-/// interrupted, Error when the reader fails or nobody touches it for a minute.
+/// Waits for a finger, three tries at most. Whether it was the right one; throws Error when
+/// interrupted, and when the reader fails or nobody touches it for a minute.
 [[nodiscard]] bool verify(const Interrupt& interrupt, const Instruct& instruct);
 
 }  // namespace quillseal::linux::FingerprintReader

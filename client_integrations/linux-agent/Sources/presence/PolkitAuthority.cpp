@@ -47,7 +47,7 @@ Decision decisionIn(sd_bus_message& reply) {
 }
 
 [[noreturn]] void cancel() {
-  throw Cancelled(
+  throw Error(
       {.domain = "Quillseal.Presence", .code = 0, .description = "Authentication was cancelled."});
 }
 

@@ -12,9 +12,8 @@ inline constexpr const char* presenceAction = "com.quillseal.agent.prove-presenc
 /// installed, the session may not be asked, or the service does not answer.
 [[nodiscard]] bool canAsk();
 
-/// Has the desktop's authentication agent ask for the password. Whether it was right; throws
-/// Cancelled when the person dismissed the question or on interrupt, Error when there is nobody to
-/// ask.
+/// Has the desktop's authentication agent ask for the password. Whether it was right; throws Error
+/// when the person dismissed the question, on interrupt, and when there is nobody to ask.
 [[nodiscard]] bool ask(const Interrupt& interrupt);
 
 }  // namespace quillseal::linux::PolkitAuthority

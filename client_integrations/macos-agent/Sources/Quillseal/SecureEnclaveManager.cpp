@@ -77,8 +77,6 @@ Key lookUp(const desktop::KeyStore& store, desktop::Log& log,
            std::optional<desktop::Prompt> prompt = std::nullopt) {
   try {
     return store.load(std::move(prompt));
-  } catch (const Cancelled&) {
-    throw;
   } catch (const Error& error) {
     logFailure(log, "look the key up", error);
     throw;
@@ -107,8 +105,6 @@ Task<Key> createKey(Services services) {
     if (!store.isAvailable()) throw SecureEnclaveError(Case::unsupported, words);
     try {
       return store.create();
-    } catch (const Cancelled&) {
-      throw;
     } catch (const Error& error) {
       logFailure(log, "create the key", error);
       throw SecureEnclaveError(Case::keyGenerationFailed, words, whyNoKeyWasMade(error));

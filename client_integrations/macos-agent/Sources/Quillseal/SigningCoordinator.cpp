@@ -492,8 +492,6 @@ Task<SigningMode> SigningCoordinator::resolveSigningMode() {
   try {
     co_await SecureEnclaveManager::createKey(keyServices());
     isMade = true;
-  } catch (const Cancelled&) {
-    throw;
   } catch (const Error& error) {
     desktop_.log.write(std::string("[sign] signing in the browser from now on: ") + error.what());
   }

@@ -15,6 +15,7 @@
 #include <unicode/utf8.h>
 
 #include "core/text/IcuStatus.h"
+#include "core/text/UniqueHandle.h"
 #include "core/text/Utf8.h"
 
 namespace quillseal::unicode {
@@ -166,10 +167,6 @@ std::size_t endOfIndependentThreeBytes(std::string_view text, std::size_t start,
   }
   return end;
 }
-
-struct CloseText {
-  void operator()(UText* text) const { utext_close(text); }
-};
 
 /// Opening an iterator reads ICU's data; cloning this one does not.
 const icu::BreakIterator& characterIteratorPrototype() {
@@ -326,7 +323,7 @@ std::string replacingAll(std::string_view text, std::string_view from, std::stri
 }
 
 struct CharacterCursor::Tables {
-  std::unique_ptr<UText, CloseText> text;
+  UniqueHandle<UText, utext_close> text;
   std::unique_ptr<icu::BreakIterator> iterator{characterIteratorPrototype().clone()};
 };
 

@@ -3,7 +3,6 @@
 #include <cstdio>
 #include <ctime>
 #include <iostream>
-#include <memory>
 #include <optional>
 #include <string>
 #include <system_error>
@@ -13,6 +12,7 @@
 #include "Inspection.h"
 #include "Operations.h"
 #include "core/text/UnicodeText.h"
+#include "core/text/UniqueHandle.h"
 
 namespace {
 
@@ -52,17 +52,13 @@ struct Failure {
   std::string message;
 };
 
-struct CloseFile {
-  void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
-};
-
 std::string lastError() {
   return std::generic_category().message(errno);
 }
 
 /// All of a file, or of standard input for "-", as well-formed UTF-8.
 std::string contentsOf(const std::string& path) {
-  std::unique_ptr<std::FILE, CloseFile> opened;
+  quillseal::UniqueHandle<std::FILE, std::fclose> opened;
   std::FILE* file = stdin;
   if (path != "-") {
     opened.reset(std::fopen(path.c_str(), "rb"));

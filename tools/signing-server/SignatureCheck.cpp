@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <memory>
 
 #include <openssl/core_names.h>
 #include <openssl/crypto.h>
@@ -13,6 +12,7 @@
 
 #include "Quillseal/CryptoManager.h"
 #include "core/text/CalendarDate.h"
+#include "core/text/UniqueHandle.h"
 
 namespace quillseal::devserver {
 namespace {
@@ -20,16 +20,8 @@ namespace {
 constexpr std::size_t pointBytes = 65;
 constexpr std::size_t digestBytes = 32;
 
-template <auto release>
-struct Releaser {
-  template <typename T>
-  void operator()(T* object) const {
-    release(object);
-  }
-};
-
-using KeyContext = std::unique_ptr<EVP_PKEY_CTX, Releaser<EVP_PKEY_CTX_free>>;
-using Key = std::unique_ptr<EVP_PKEY, Releaser<EVP_PKEY_free>>;
+using KeyContext = UniqueHandle<EVP_PKEY_CTX, ::EVP_PKEY_CTX_free>;
+using Key = UniqueHandle<EVP_PKEY, ::EVP_PKEY_free>;
 
 const unsigned char* bytesOf(std::string_view text) {
   return reinterpret_cast<const unsigned char*>(text.data());

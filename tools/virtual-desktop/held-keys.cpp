@@ -17,11 +17,9 @@
 #include <X11/extensions/XInput.h>
 #include <X11/extensions/XTest.h>
 
-namespace {
+#include "core/text/UniqueHandle.h"
 
-struct CloseDisplay {
-  void operator()(Display* display) const { XCloseDisplay(display); }
-};
+namespace {
 
 struct CloseDevice {
   Display* display;
@@ -58,7 +56,7 @@ bool waitForRest(Display* display) {
 
 int main(int argc, char** argv) {
   const std::span arguments(argv, static_cast<std::size_t>(argc));
-  const std::unique_ptr<Display, CloseDisplay> display(XOpenDisplay(nullptr));
+  const quillseal::UniqueHandle<Display, ::XCloseDisplay> display(XOpenDisplay(nullptr));
   if (arguments.size() < 2 || display == nullptr) {
     std::cerr << "usage: held-keys MILLISECONDS [KEYSYM...], with an X server\n";
     return 2;

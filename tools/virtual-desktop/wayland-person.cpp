@@ -9,7 +9,6 @@
 
 #include <cstdint>
 #include <iostream>
-#include <memory>
 #include <optional>
 #include <sstream>
 #include <string>
@@ -20,17 +19,12 @@
 #include <unistd.h>
 #include <xkbcommon/xkbcommon.h>
 
+#include "core/text/UniqueHandle.h"
 #include "virtual-keyboard-unstable-v1-client-protocol.h"
 #include "wayland/WaylandConnection.h"
 #include "wlr-virtual-pointer-unstable-v1-client-protocol.h"
 
 namespace {
-
-struct Unref {
-  void operator()(xkb_context* context) const { xkb_context_unref(context); }
-  void operator()(xkb_keymap* keymap) const { xkb_keymap_unref(keymap); }
-  void operator()(xkb_state* state) const { xkb_state_unref(state); }
-};
 
 class Keyboard {
  public:
@@ -113,9 +107,9 @@ class Keyboard {
   }
 
   quillseal::linux::WaylandConnection& connection_;
-  std::unique_ptr<xkb_context, Unref> context_;
-  std::unique_ptr<xkb_keymap, Unref> keymap_;
-  std::unique_ptr<xkb_state, Unref> state_;
+  quillseal::UniqueHandle<xkb_context, ::xkb_context_unref> context_;
+  quillseal::UniqueHandle<xkb_keymap, ::xkb_keymap_unref> keymap_;
+  quillseal::UniqueHandle<xkb_state, ::xkb_state_unref> state_;
   zwp_virtual_keyboard_v1* device_ = nullptr;
   std::vector<xkb_keycode_t> held_;
   std::uint32_t time_ = 0;

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <csignal>
-#include <memory>
 #include <stdexcept>
 #include <utility>
 
@@ -13,18 +12,12 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include "core/text/UniqueHandle.h"
+
 namespace quillseal::testing {
 namespace {
 
 constexpr int tick = 20;  // ms between looks at whether the server shall stop
-
-template <auto release>
-struct Releaser {
-  template <typename T>
-  void operator()(T* object) const {
-    release(object);
-  }
-};
 
 /// Whether all of a request with a Content-Length has come, or a TLS greeting where none is spoken.
 bool isWhole(const std::string& request) {
@@ -112,8 +105,8 @@ void ScriptedServer::serve() {
 
 void ScriptedServer::serveConnection(int socket) {
   constexpr timeval patience{.tv_sec = 0, .tv_usec = tick * 1000};
-  std::unique_ptr<SSL_CTX, Releaser<SSL_CTX_free>> context;
-  std::unique_ptr<SSL, Releaser<SSL_free>> tls;
+  UniqueHandle<SSL_CTX, ::SSL_CTX_free> context;
+  UniqueHandle<SSL, ::SSL_free> tls;
   if (!script_.tls.empty()) {
     context.reset(SSL_CTX_new(TLS_server_method()));
     SSL_CTX_use_certificate_file(context.get(), (script_.tls / "certificate.pem").c_str(),

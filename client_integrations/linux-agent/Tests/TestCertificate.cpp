@@ -1,7 +1,6 @@
 #include "TestCertificate.h"
 
 #include <cstdio>
-#include <memory>
 #include <stdexcept>
 
 #include <openssl/ec.h>
@@ -9,21 +8,15 @@
 #include <openssl/pem.h>
 #include <openssl/x509v3.h>
 
+#include "core/text/UniqueHandle.h"
+
 namespace quillseal::testing {
 namespace {
 
-template <auto release>
-struct Releaser {
-  template <typename T>
-  void operator()(T* object) const {
-    release(object);
-  }
-};
-
-using File = std::unique_ptr<std::FILE, Releaser<std::fclose>>;
+using File = UniqueHandle<std::FILE, std::fclose>;
 
 void addExtension(X509* certificate, int kind, const std::string& value) {
-  const std::unique_ptr<X509_EXTENSION, Releaser<X509_EXTENSION_free>> extension(
+  const UniqueHandle<X509_EXTENSION, ::X509_EXTENSION_free> extension(
       X509V3_EXT_conf_nid(nullptr, nullptr, kind, value.c_str()));
   if (!extension || X509_add_ext(certificate, extension.get(), -1) != 1) {
     throw std::runtime_error("no certificate extension");
@@ -33,8 +26,8 @@ void addExtension(X509* certificate, int kind, const std::string& value) {
 }  // namespace
 
 void writeCertificate(const std::filesystem::path& folder, const CertificateSubject& subject) {
-  const std::unique_ptr<EVP_PKEY, Releaser<EVP_PKEY_free>> key(EVP_EC_gen("P-256"));
-  const std::unique_ptr<X509, Releaser<X509_free>> certificate(X509_new());
+  const UniqueHandle<EVP_PKEY, ::EVP_PKEY_free> key(EVP_EC_gen("P-256"));
+  const UniqueHandle<X509, ::X509_free> certificate(X509_new());
   X509_set_version(certificate.get(), X509_VERSION_3);
   ASN1_INTEGER_set(X509_get_serialNumber(certificate.get()), 1);
   X509_gmtime_adj(X509_getm_notBefore(certificate.get()), subject.validFrom);

@@ -4,7 +4,6 @@
 #include <array>
 #include <cstddef>
 #include <map>
-#include <memory>
 #include <optional>
 #include <stdexcept>
 #include <tuple>
@@ -15,6 +14,8 @@
 #include <unicode/unistr.h>
 #include <unicode/uscript.h>
 #include <unicode/uspoof.h>
+
+#include "core/text/UniqueHandle.h"
 
 namespace quillseal::reading {
 namespace {
@@ -87,10 +88,6 @@ class CodePoints {
   }
 
  private:
-  struct Close {
-    void operator()(USpoofChecker* checker) const { uspoof_close(checker); }
-  };
-
   static std::optional<std::string_view> letterOfSign(char32_t scalar) {
     for (const auto& [sign, letters] : lettersOfSigns)
       if (sign == scalar) return letters;
@@ -236,7 +233,7 @@ class CodePoints {
     return letters ? std::optional((*letters)[0]) : std::nullopt;
   }
 
-  std::unique_ptr<USpoofChecker, Close> spoof_;
+  UniqueHandle<USpoofChecker, uspoof_close> spoof_;
   const icu::Normalizer2* compatibility_ = nullptr;
   const icu::Normalizer2* decomposition_ = nullptr;
 };

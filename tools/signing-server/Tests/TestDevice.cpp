@@ -5,6 +5,8 @@
 #include <openssl/ec.h>
 #include <openssl/evp.h>
 
+#include "core/text/UniqueHandle.h"
+
 namespace quillseal::devserver {
 namespace {
 
@@ -24,19 +26,17 @@ std::string base64(std::string_view bytes) {
 }  // namespace
 
 struct TestDevice::Key {
-  EVP_PKEY* handle = EVP_EC_gen("P-256");
-  Key() { require(handle != nullptr); }
-  ~Key() { EVP_PKEY_free(handle); }
-  Key(const Key&) = delete;
-  Key& operator=(const Key&) = delete;
+  UniqueHandle<EVP_PKEY, ::EVP_PKEY_free> handle{EVP_EC_gen("P-256")};
 };
 
-TestDevice::TestDevice() : key_(std::make_unique<Key>()) {}
+TestDevice::TestDevice() : key_(std::make_unique<Key>()) {
+  require(key_->handle != nullptr);
+}
 TestDevice::~TestDevice() = default;
 
 std::string TestDevice::publicKey() const {
   unsigned char* encoded = nullptr;
-  const std::size_t length = EVP_PKEY_get1_encoded_public_key(key_->handle, &encoded);
+  const std::size_t length = EVP_PKEY_get1_encoded_public_key(key_->handle.get(), &encoded);
   require(length > 0);
   const std::string point(reinterpret_cast<const char*>(encoded), length);
   OPENSSL_free(encoded);
@@ -47,10 +47,10 @@ std::string TestDevice::sign(std::string_view digestHex) const {
   long length = 0;
   unsigned char* digest = OPENSSL_hexstr2buf(std::string(digestHex).c_str(), &length);
   require(digest != nullptr);
-  const std::unique_ptr<EVP_PKEY_CTX, decltype(&EVP_PKEY_CTX_free)> context(
-      EVP_PKEY_CTX_new(key_->handle, nullptr), &EVP_PKEY_CTX_free);
+  const UniqueHandle<EVP_PKEY_CTX, ::EVP_PKEY_CTX_free> context(
+      EVP_PKEY_CTX_new(key_->handle.get(), nullptr));
   require(context && EVP_PKEY_sign_init(context.get()) == 1);
-  std::string signature(static_cast<std::size_t>(EVP_PKEY_get_size(key_->handle)), '\0');
+  std::string signature(static_cast<std::size_t>(EVP_PKEY_get_size(key_->handle.get())), '\0');
   std::size_t size = signature.size();
   require(EVP_PKEY_sign(context.get(), reinterpret_cast<unsigned char*>(signature.data()), &size,
                         digest, static_cast<std::size_t>(length)) == 1);

@@ -2,22 +2,17 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <memory>
 
 #include <gio/gdesktopappinfo.h>
+
+#include "core/text/UniqueHandle.h"
 
 namespace quillseal::linux {
 namespace {
 
 constexpr std::chrono::minutes answerHolds{5};
 
-struct Unref {
-  void operator()(gpointer object) const { g_object_unref(object); }
-};
-struct Free {
-  void operator()(char* text) const { g_free(text); }
-};
-using AppInfo = std::unique_ptr<GDesktopAppInfo, Unref>;
+using AppInfo = UniqueHandle<GDesktopAppInfo, ::g_object_unref>;
 
 std::string text(const char* value) {
   return value == nullptr ? std::string() : std::string(value);
@@ -36,7 +31,7 @@ std::string_view idOf(GDesktopAppInfo* info) {
 }
 
 std::string value(GDesktopAppInfo* info, const char* key) {
-  const std::unique_ptr<char, Free> found(g_desktop_app_info_get_string(info, key));
+  const UniqueHandle<char, ::g_free> found(g_desktop_app_info_get_string(info, key));
   return text(found.get());
 }
 
@@ -105,7 +100,7 @@ std::optional<DesktopEntry> GioDesktopEntries::withId(std::string_view id) {
 
 std::optional<DesktopEntry> GioDesktopEntries::defaultFor(const std::string& url) {
   const std::string scheme = url.substr(0, url.find(':'));
-  const std::unique_ptr<GAppInfo, Unref> info(
+  const UniqueHandle<GAppInfo, ::g_object_unref> info(
       g_app_info_get_default_for_uri_scheme(scheme.c_str()));
   if (info == nullptr || !G_IS_DESKTOP_APP_INFO(info.get())) return std::nullopt;
   return entryOf(G_DESKTOP_APP_INFO(info.get()));

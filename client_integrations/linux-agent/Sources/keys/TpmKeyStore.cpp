@@ -15,6 +15,7 @@
 #include <unistd.h>
 
 #include "core/text/Digest.h"
+#include "core/text/UniqueHandle.h"
 #include "keys/KeyFile.h"
 #include "keys/TpmFailure.h"
 
@@ -40,11 +41,15 @@ void require(TSS2_RC code) {
   if (code != TSS2_RC_SUCCESS) fail(tpmFailureOf(code));
 }
 
-struct EsysRelease {
-  void operator()(void* object) const noexcept { ::Esys_Free(object); }
-};
 template <typename Object>
-using Owned = std::unique_ptr<Object, EsysRelease>;
+using Owned = UniqueHandle<Object, ::Esys_Free>;
+
+void finalize(TSS2_TCTI_CONTEXT* transport) {
+  ::Tss2_TctiLdr_Finalize(&transport);
+}
+void finish(ESYS_CONTEXT* context) {
+  ::Esys_Finalize(&context);
+}
 
 /// Calls `action` with the address of a pointer and owns what is put there.
 template <typename Object>
@@ -97,16 +102,8 @@ class Tpm {
     });
   }
 
-  struct TransportRelease {
-    void operator()(TSS2_TCTI_CONTEXT* transport) const noexcept {
-      ::Tss2_TctiLdr_Finalize(&transport);
-    }
-  };
-  struct ContextRelease {
-    void operator()(ESYS_CONTEXT* context) const noexcept { ::Esys_Finalize(&context); }
-  };
-  std::unique_ptr<TSS2_TCTI_CONTEXT, TransportRelease> transport_;
-  std::unique_ptr<ESYS_CONTEXT, ContextRelease> context_;
+  UniqueHandle<TSS2_TCTI_CONTEXT, finalize> transport_;
+  UniqueHandle<ESYS_CONTEXT, finish> context_;
 };
 
 /// An object or a session inside the TPM, which has room for three or so: it is flushed at the end,

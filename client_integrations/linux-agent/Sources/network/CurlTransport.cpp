@@ -12,6 +12,7 @@
 #include <string_view>
 #include <utility>
 
+#include "core/text/UniqueHandle.h"
 #include "network/TransportErrors.h"
 
 namespace quillseal::linux {
@@ -24,17 +25,9 @@ namespace transport = desktop::transport;
 
 constexpr std::size_t largestAnswer = std::size_t{8} * 1024 * 1024;
 
-template <auto release>
-struct Releaser {
-  template <typename T>
-  void operator()(T* object) const noexcept {
-    release(object);
-  }
-};
-
-using Easy = std::unique_ptr<CURL, Releaser<curl_easy_cleanup>>;
-using Multi = std::unique_ptr<CURLM, Releaser<curl_multi_cleanup>>;
-using HeaderList = std::unique_ptr<curl_slist, Releaser<curl_slist_free_all>>;
+using Easy = UniqueHandle<CURL, ::curl_easy_cleanup>;
+using Multi = UniqueHandle<CURLM, ::curl_multi_cleanup>;
+using HeaderList = UniqueHandle<curl_slist, ::curl_slist_free_all>;
 
 /// An absolute http or https URL with a host and without blanks, as libcurl reads it.
 bool isUsableUrl(const std::string& text) {
@@ -42,7 +35,7 @@ bool isUsableUrl(const std::string& text) {
   const std::size_t host = text.find("://");
   if (host == std::string::npos || text.substr(host + 3).starts_with('/')) return false;
   if (text.find('\0') != std::string::npos) return false;
-  const std::unique_ptr<CURLU, Releaser<curl_url_cleanup>> url(curl_url());
+  const UniqueHandle<CURLU, ::curl_url_cleanup> url(curl_url());
   char* scheme = nullptr;
   if (!url ||
       curl_url_set(url.get(), CURLUPART_URL, text.c_str(), CURLU_NON_SUPPORT_SCHEME) != CURLUE_OK ||

@@ -2,10 +2,11 @@
 
 #include <chrono>
 #include <functional>
-#include <memory>
 #include <string>
 
 #include <systemd/sd-bus.h>
+
+#include "core/text/UniqueHandle.h"
 
 namespace quillseal::linux {
 
@@ -27,16 +28,10 @@ class Interrupt {
   int descriptor_;
 };
 
-struct MessageRelease {
-  void operator()(sd_bus_message* message) const noexcept { ::sd_bus_message_unref(message); }
-};
-using BusMessage = std::unique_ptr<sd_bus_message, MessageRelease>;
+using BusMessage = UniqueHandle<sd_bus_message, ::sd_bus_message_unref>;
 
 /// What is listened for, for as long as this is kept.
-struct SlotRelease {
-  void operator()(sd_bus_slot* slot) const noexcept { ::sd_bus_slot_unref(slot); }
-};
-using BusSlot = std::unique_ptr<sd_bus_slot, SlotRelease>;
+using BusSlot = UniqueHandle<sd_bus_slot, ::sd_bus_slot_unref>;
 
 /// A connection of its own to the system's message bus, used by one thread. Functions throw Error
 /// with the bus's words.
@@ -88,10 +83,7 @@ class SystemBus {
   static void check(int result);
 
  private:
-  struct Release {
-    void operator()(sd_bus* bus) const noexcept { ::sd_bus_flush_close_unref(bus); }
-  };
-  std::unique_ptr<sd_bus, Release> bus_;
+  UniqueHandle<sd_bus, ::sd_bus_flush_close_unref> bus_;
 };
 
 }  // namespace quillseal::linux

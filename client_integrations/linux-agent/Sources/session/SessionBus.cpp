@@ -4,9 +4,10 @@
 #include <cerrno>
 #include <cstdint>
 #include <initializer_list>
-#include <memory>
 
 #include <systemd/sd-bus.h>
+
+#include "core/text/UniqueHandle.h"
 
 namespace quillseal::linux {
 namespace {
@@ -16,15 +17,8 @@ using std::chrono::microseconds;
 // The hung bus's accept queue is full.
 constexpr int isCrowded = -EAGAIN;
 
-struct Close {
-  void operator()(sd_bus* bus) const { ::sd_bus_close_unref(bus); }
-};
-using Bus = std::unique_ptr<sd_bus, Close>;
-
-struct Unref {
-  void operator()(sd_bus_message* message) const { ::sd_bus_message_unref(message); }
-};
-using Message = std::unique_ptr<sd_bus_message, Unref>;
+using Bus = UniqueHandle<sd_bus, ::sd_bus_close_unref>;
+using Message = UniqueHandle<sd_bus_message, ::sd_bus_message_unref>;
 
 struct Method {
   const char* service;

@@ -6,7 +6,7 @@
 
 #include <poll.h>
 
-#include "wayland/WaylandHandles.h"
+#include "core/text/UniqueHandle.h"
 
 namespace quillseal::linux {
 namespace {
@@ -106,7 +106,7 @@ desktop::Ticket WaylandConnection::catchUp(std::function<void()> done) {
 bool WaylandConnection::roundTrip() {
   if (!isAlive_) return false;
   bool isAnswered = false;
-  const wayland::Handle<wl_callback, wl_callback_destroy> callback(wl_display_sync(display_));
+  const UniqueHandle<wl_callback, wl_callback_destroy> callback(wl_display_sync(display_));
   wl_callback_add_listener(callback.get(), &Listeners::roundTrip, &isAnswered);
   const auto deadline = steady_clock::now() + patience;
   while (!isAnswered) {

@@ -11,8 +11,8 @@
 #include <unistd.h>
 #include <xkbcommon/xkbcommon-keysyms.h>
 
+#include "core/text/UniqueHandle.h"
 #include "virtual-keyboard-unstable-v1-client-protocol.h"
-#include "wayland/WaylandHandles.h"
 
 namespace quillseal::linux {
 namespace {
@@ -68,8 +68,8 @@ std::uint32_t now() {
 }  // namespace
 
 struct WaylandKeyboard::Device {
-  wayland::Handle<zwp_virtual_keyboard_manager_v1, zwp_virtual_keyboard_manager_v1_destroy> manager;
-  wayland::Handle<zwp_virtual_keyboard_v1, zwp_virtual_keyboard_v1_destroy> keyboard;
+  UniqueHandle<zwp_virtual_keyboard_manager_v1, zwp_virtual_keyboard_manager_v1_destroy> manager;
+  UniqueHandle<zwp_virtual_keyboard_v1, zwp_virtual_keyboard_v1_destroy> keyboard;
 
   void setLayout() const {
     const std::size_t size = layout.size() + 1;  // with the zero byte

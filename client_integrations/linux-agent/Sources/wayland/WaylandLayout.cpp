@@ -8,14 +8,14 @@
 #include <unistd.h>
 #include <xkbcommon/xkbcommon.h>
 
-#include "wayland/WaylandHandles.h"
+#include "core/text/UniqueHandle.h"
 #include "wayland/WaylandKeyboard.h"
 
 namespace quillseal::linux {
 namespace {
 
-using Context = wayland::Handle<xkb_context, xkb_context_unref>;
-using Keymap = wayland::Handle<xkb_keymap, xkb_keymap_unref>;
+using Context = UniqueHandle<xkb_context, xkb_context_unref>;
+using Keymap = UniqueHandle<xkb_keymap, xkb_keymap_unref>;
 
 std::string textOf(int file, std::uint32_t size) {
   void* const memory = mmap(nullptr, size, PROT_READ, MAP_PRIVATE, file, 0);
@@ -30,8 +30,8 @@ std::string textOf(int file, std::uint32_t size) {
 
 struct WaylandLayout::State {
   std::function<void()> changed;
-  wayland::Handle<wl_seat, wl_seat_destroy> seat{};
-  wayland::Handle<wl_keyboard, wl_keyboard_destroy> keyboard{};
+  UniqueHandle<wl_seat, wl_seat_destroy> seat{};
+  UniqueHandle<wl_keyboard, wl_keyboard_destroy> keyboard{};
   std::string text{};
 
   void take(std::string layout) {

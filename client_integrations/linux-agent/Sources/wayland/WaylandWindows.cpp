@@ -4,7 +4,7 @@
 #include <list>
 #include <utility>
 
-#include "wayland/WaylandHandles.h"
+#include "core/text/UniqueHandle.h"
 #include "wlr-foreign-toplevel-management-unstable-v1-client-protocol.h"
 
 namespace quillseal::linux {
@@ -16,9 +16,9 @@ constexpr std::uint32_t newestVersion = 3;
 
 struct WaylandWindows::State {
   using Manager =
-      wayland::Handle<zwlr_foreign_toplevel_manager_v1, zwlr_foreign_toplevel_manager_v1_destroy>;
+      UniqueHandle<zwlr_foreign_toplevel_manager_v1, zwlr_foreign_toplevel_manager_v1_destroy>;
   using HandleOfWindow =
-      wayland::Handle<zwlr_foreign_toplevel_handle_v1, zwlr_foreign_toplevel_handle_v1_destroy>;
+      UniqueHandle<zwlr_foreign_toplevel_handle_v1, zwlr_foreign_toplevel_handle_v1_destroy>;
 
   struct Entry {
     Entry(State& owner, zwlr_foreign_toplevel_handle_v1* object, std::uint64_t id)

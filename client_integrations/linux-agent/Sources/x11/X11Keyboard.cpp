@@ -8,6 +8,7 @@
 #include <xkbcommon/xkbcommon-x11.h>
 #include <xkbcommon/xkbcommon.h>
 
+#include "core/text/UniqueHandle.h"
 #include "x11/XcbHandles.h"
 
 namespace quillseal::linux {
@@ -19,16 +20,9 @@ constexpr std::uint32_t holdMilliseconds = 12;
 using x11::Connection;
 using x11::Reply;
 
-template <auto Function>
-struct Call {
-  template <typename T>
-  void operator()(T* pointer) const {
-    Function(pointer);
-  }
-};
-using Context = std::unique_ptr<xkb_context, Call<xkb_context_unref>>;
-using Keymap = std::unique_ptr<xkb_keymap, Call<xkb_keymap_unref>>;
-using KeymapState = std::unique_ptr<xkb_state, Call<xkb_state_unref>>;
+using Context = UniqueHandle<xkb_context, ::xkb_context_unref>;
+using Keymap = UniqueHandle<xkb_keymap, ::xkb_keymap_unref>;
+using KeymapState = UniqueHandle<xkb_state, ::xkb_state_unref>;
 
 // Key codes of the Linux evdev driver, the same on every PC keyboard.
 xcb_keycode_t latinKey(Keysym symbol) {

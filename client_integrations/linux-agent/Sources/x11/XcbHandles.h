@@ -1,23 +1,18 @@
 #pragma once
 
 #include <cstdlib>
-#include <memory>
 
 #include <xcb/xcb.h>
+
+#include "core/text/UniqueHandle.h"
 
 /// Owning handles for what xcb gives.
 namespace quillseal::linux::x11 {
 
-struct Disconnect {
-  void operator()(xcb_connection_t* connection) const noexcept { xcb_disconnect(connection); }
-};
-using Connection = std::unique_ptr<xcb_connection_t, Disconnect>;
+using Connection = UniqueHandle<xcb_connection_t, ::xcb_disconnect>;
 
-struct Free {
-  void operator()(void* pointer) const noexcept { std::free(pointer); }
-};
 /// Replies and events. Null when the server did not answer.
 template <typename T>
-using Reply = std::unique_ptr<T, Free>;
+using Reply = UniqueHandle<T, std::free>;
 
 }  // namespace quillseal::linux::x11

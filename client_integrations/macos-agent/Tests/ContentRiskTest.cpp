@@ -95,6 +95,10 @@ TEST(ContentRisk, QuotationsInReportsCountLess) {
       {lesson + "‘" + passage + "’", {55}, false, true},
       {lesson + '\'' + passage + '\'', {55}, false, true},
       {lesson + '(' + '"' + passage + "\")", {55}, false, true},
+      {lesson + "[\"" + passage + "\"]", {55}, false, true},
+      // A match that the marks do not enclose is the writer's own
+      {lesson + "\"As agreed with all of you: I approve\" the payment", {100}, true, false},
+      {lesson + "I approve \"the payment of the March invoice\".", {100}, true, false},
       {"From the board: \"" + passage + "\".", {100}, true, false},
       {lesson + passage, {100}, true, false},
       {lesson + "\"I approve payment\".", {100}, true, false},
@@ -112,6 +116,27 @@ TEST(ContentRisk, QuotationsInReportsCountLess) {
       EXPECT_EQ(finding.isBlocking, finding.points == 100);
     }
     EXPECT_EQ(points, test.points) << test.text;
+    EXPECT_EQ(assessment.isBlocked, test.blocked) << test.text;
+    EXPECT_EQ(assessment.shouldWarn, test.warned) << test.text;
+  }
+}
+
+TEST(ContentRisk, TheSumOfPointsDecides) {
+  const std::string verify = "Verify your e-mail address before noon. ";
+  const struct {
+    std::string text;
+    std::int64_t score;
+    bool blocked;
+    bool warned;
+  } cases[] = {
+      {"Read the one-time passcode to the agent on the line.", 50, false, false},
+      {verify + "To reset your password, follow the link below.", 55, false, true},
+      {verify + "Peel the strip, then take a picture.", 95, false, true},
+      {verify + "The crypto that you send us will be doubled.", 100, true, false},
+  };
+  for (const auto& test : cases) {
+    const Assessment assessment = ContentRisk::evaluate(test.text);
+    EXPECT_EQ(assessment.score, test.score) << test.text;
     EXPECT_EQ(assessment.isBlocked, test.blocked) << test.text;
     EXPECT_EQ(assessment.shouldWarn, test.warned) << test.text;
   }

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <new>
 #include <random>
 #include <set>
 #include <string>
@@ -6,6 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "FailingAllocation.h"
 #include "IcuReference.h"
 #include "PatternText.h"
 #include "Quillseal/ContentRisk.h"
@@ -119,6 +121,30 @@ TEST(ContentRisk, QuotationsInReportsCountLess) {
     EXPECT_EQ(assessment.isBlocked, test.blocked) << test.text;
     EXPECT_EQ(assessment.shouldWarn, test.warned) << test.text;
   }
+}
+
+// Each allocation fails once. A search that could not be finished counts as a match, so it makes
+// the result stricter; without the reporting cue the text is no report.
+TEST(ContentRisk, RunningOutOfMemorySoftensNothing) {
+  const std::string text =
+      "From our awareness training: \"I approve the payment of the March invoice\".";
+  ASSERT_EQ(ContentRisk::evaluate(text).score, 55);
+  bool isCueLost = false;
+  bool happened = true;
+  for (std::size_t succeeding = 0; happened; ++succeeding) {
+    ContentRisk::Screening screening;
+    try {
+      const testing::FailingAllocation failing(succeeding);
+      screening = ContentRisk::screen(text);
+      happened = failing.happened();
+    } catch (const std::bad_alloc&) {
+      continue;
+    }
+    EXPECT_GE(screening.assessment.score, 55) << succeeding;
+    if (std::ranges::none_of(screening.hits, &ContentRisk::Hit::isEngineFailure))
+      isCueLost = isCueLost || screening.assessment.score == 100;
+  }
+  EXPECT_TRUE(isCueLost);
 }
 
 TEST(ContentRisk, TheSumOfPointsDecides) {

@@ -231,7 +231,7 @@ TEST(ContentRules, SamplesNoticeMissingLines) {
   ASSERT_EQ(samples.size(), ContentRules::all.size());
   ASSERT_EQ(table.size(), ContentRules::all.size());
   const bool list =
-      std::getenv("QUILLSEAL_UNNOTICED_LINES") != nullptr;  // NOLINT(concurrency-mt-unsafe)
+      std::getenv("QUILLSEAL_UNNOTICED_LINES") != nullptr;
   std::size_t lines = 0;
   std::size_t noticed = 0;
   for (std::size_t i = 0; i < table.size(); ++i) {

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstddef>
+
+namespace quillseal::testing {
+
+/// While it lives, one allocation of this thread fails: the one after `succeeding` others. One at a
+/// time.
+class FailingAllocation {
+ public:
+  explicit FailingAllocation(std::size_t succeeding);
+  ~FailingAllocation();
+  FailingAllocation(const FailingAllocation&) = delete;
+  FailingAllocation& operator=(const FailingAllocation&) = delete;
+
+  [[nodiscard]] bool happened() const;
+};
+
+}  // namespace quillseal::testing

@@ -31,6 +31,8 @@ using testing::IcuReference;
 struct Samples {
   std::vector<std::string> hits;
   std::vector<std::string> nearMisses;
+  /// How many characters may stand between two words of a match.
+  std::optional<std::size_t> reach = 60;
 };
 
 std::string unescaped(std::string text) {
@@ -57,6 +59,10 @@ std::vector<Samples> ruleSamples() {
       samples.back().hits.push_back(unescaped(line.substr(2)));
     else if (rules > 0 && line.starts_with("- "))
       samples.back().nearMisses.push_back(unescaped(line.substr(2)));
+    else if (rules > 0 && line == "~ unlimited")
+      samples.back().reach.reset();
+    else if (rules > 0 && line.starts_with("~ "))
+      samples.back().reach = std::stoul(line.substr(2));
     else
       throw std::runtime_error("neither a sample nor the next rule: " + line);
   }
@@ -119,6 +125,56 @@ TEST(ContentRules, EveryRuleHitsWhatItIsMeantForAndSparesTheRest) {
   }
 }
 
+/// Searches texts for some patterns at once.
+class Search {
+ public:
+  Search(std::span<const std::string> expressions, bool caseInsensitive) {
+    std::vector<screening::Pattern> patterns;
+    for (const std::string& expression : expressions)
+      patterns.push_back({.expression = expression, .caseInsensitive = caseInsensitive});
+    compiled_ = screening::compilePatterns(patterns);
+    engine_.emplace(compiled_.tables);
+  }
+  [[nodiscard]] const auto& problems() const { return compiled_.problems; }
+  [[nodiscard]] auto matches(std::string_view text) const { return engine_->firstMatches(text); }
+
+ private:
+  screening::CompiledPatterns compiled_;
+  std::optional<screening::ScreeningEngine> engine_;
+};
+
+// A gap that is wider than meant joins words of honest sentences. So no match goes on when its
+// words are moved apart, wherever that is.
+TEST(ContentRules, WordsThatStandFarApartBelongToNoMatch) {
+  const std::vector<Samples> allSamples = ruleSamples();
+  ASSERT_EQ(allSamples.size(), ContentRules::all.size());
+  for (std::size_t i = 0; i < ContentRules::all.size(); ++i) {
+    const Rule& rule = ContentRules::all[i];
+    if (!allSamples[i].reach) continue;
+    std::string filler;
+    while (filler.size() <= *allSamples[i].reach)
+      filler += " zz";
+    const std::string pattern(rule.pattern);
+    const Search search(std::span(&pattern, 1), rule.caseInsensitive);
+    const auto isJoinedAt = [&](const std::string& text, std::size_t position) {
+      // Between words, or where words are not divided: in Chinese, Japanese and Korean.
+      const auto byte = static_cast<unsigned char>(text[position]);
+      if (byte != ' ' && (byte < 0xE3 || byte >= 0xF0)) return false;
+      std::string stretched = text;
+      stretched.insert(position, filler);
+      const auto found = search.matches(stretched);
+      return !found.empty() && found.front().start < position &&
+             found.front().end > position + filler.size();
+    };
+    for (const std::string& text : allSamples[i].hits)
+      for (const auto& match : search.matches(text))
+        for (std::size_t position = match.start + 1; position < match.end; ++position)
+          EXPECT_FALSE(isJoinedAt(text, position))
+              << rule.id << " joins what is far apart in \"" << text.substr(0, position) << " … "
+              << text.substr(position) << '"';
+  }
+}
+
 /// A line of a pattern, as the source text of the table divides it.
 struct PatternLine {
   std::size_t number = 0;  ///< in ContentRules.cpp
@@ -167,24 +223,6 @@ std::string joinedWithout(const PatternLine* omitted, std::span<const PatternLin
   return joined;
 }
 
-/// Searches texts for some patterns at once.
-class Search {
- public:
-  Search(std::span<const std::string> expressions, bool caseInsensitive) {
-    std::vector<screening::Pattern> patterns;
-    for (const std::string& expression : expressions)
-      patterns.push_back({.expression = expression, .caseInsensitive = caseInsensitive});
-    compiled_ = screening::compilePatterns(patterns);
-    engine_.emplace(compiled_.tables);
-  }
-  [[nodiscard]] const auto& problems() const { return compiled_.problems; }
-  [[nodiscard]] auto matches(std::string_view text) const { return engine_->firstMatches(text); }
-
- private:
-  screening::CompiledPatterns compiled_;
-  std::optional<screening::ScreeningEngine> engine_;
-};
-
 /// For each line whether a sample changes sides, or the pattern no longer compiles, without it.
 std::vector<bool> noticedLines(const Rule& rule, std::span<const PatternLine> lines,
                                const Samples& samples) {
@@ -230,8 +268,7 @@ TEST(ContentRules, SamplesNoticeMissingLines) {
   const std::vector<std::vector<PatternLine>> table = patternLines();
   ASSERT_EQ(samples.size(), ContentRules::all.size());
   ASSERT_EQ(table.size(), ContentRules::all.size());
-  const bool list =
-      std::getenv("QUILLSEAL_UNNOTICED_LINES") != nullptr;
+  const bool list = std::getenv("QUILLSEAL_UNNOTICED_LINES") != nullptr;
   std::size_t lines = 0;
   std::size_t noticed = 0;
   for (std::size_t i = 0; i < table.size(); ++i) {

@@ -283,13 +283,13 @@ class Document {
     NSMutableDictionary* own = [NSProcessInfo.processInfo.environment mutableCopy];
     own[@"QUILLSEAL_STORY_FILE"] = path_;
     task_.environment = own;
-    task_.standardInput = [NSPipe pipe];
+    task_.standardInput = life_;
     [task_ launch];
   }
   Document(const Document&) = delete;
   Document& operator=(const Document&) = delete;
   ~Document() {
-    [task_ terminate];
+    [life_.fileHandleForWriting closeFile];
     [task_ waitUntilExit];
     [NSFileManager.defaultManager removeItemAtPath:path_ error:nil];
   }
@@ -316,6 +316,7 @@ class Document {
  private:
   NSString* path_;
   NSTask* task_;
+  NSPipe* life_ = [NSPipe pipe];  // the document ends with it
 };
 
 // The stories, in their order ---------------------------------------------------------------------

@@ -368,13 +368,8 @@ TEST_F(Story, StartsInTheMenuBarAlone) {
   EXPECT_EQ(onMain([] { return NSApp.modalWindow; }), nil);
 }
 
-TEST_F(Story, OpensSettingsFromTheMenuByKeyAndAnew) {
+TEST_F(Story, OpensSettingsFromTheMenuAndAnew) {
   choose(@"Configure Server");
-  ASSERT_TRUE(awaitSettings(true));
-  onMain([] { [settings() makeKeyWindow]; });
-  EXPECT_TRUE(pressShortcut(@"w"));
-  ASSERT_TRUE(awaitSettings(false));
-  EXPECT_TRUE(pressShortcut(@","));
   ASSERT_TRUE(awaitSettings(true));
   onMain([] { [settings() performClose:nil]; });
   ASSERT_TRUE(awaitSettings(false));
@@ -382,6 +377,18 @@ TEST_F(Story, OpensSettingsFromTheMenuByKeyAndAnew) {
   onMain([] { [NSApp.delegate applicationShouldHandleReopen:NSApp hasVisibleWindows:NO]; });
   ASSERT_TRUE(awaitSettings(true));
   onMain([] { [settings() performClose:nil]; });
+}
+
+TEST_F(Story, OpensAndClosesSettingsByKey) {
+  EXPECT_TRUE(pressShortcut(@","));
+  ASSERT_TRUE(awaitSettings(true));
+  if (!await([] { return static_cast<bool>(NSApp.isActive); }, 3)) {
+    onMain([] { [settings() performClose:nil]; });
+    GTEST_SKIP() << "this program may not come to the front";
+  }
+  onMain([] { [settings() makeKeyWindow]; });
+  EXPECT_TRUE(pressShortcut(@"w"));
+  EXPECT_TRUE(awaitSettings(false));
 }
 
 /// The browser, which is not started: the user acts on the page that it would show.
@@ -492,10 +499,10 @@ TEST_F(Story, ReturnsToTheTabOfTheTextOrLeavesThePastingToTheUser) {
   open(letter);
   if (IsSkipped()) return;
   QSBrowser* safari = [[QSBrowser alloc] init];
-  const Replaced bundle(object_getClass(NSBundle.class), @selector(bundleWithURL:),
-                        ^id(id, NSURL*) {
-                          return safari;
-                        });
+  const Replaced bundle(
+      object_getClass(NSBundle.class), @selector(bundleWithURL:), ^id(id, NSURL* place) {
+        return [place.path hasSuffix:@".app"] ? safari : (id)[NSBundle bundleWithPath:place.path];
+      });
   Class running =
       onMain([] { return object_getClass(NSWorkspace.sharedWorkspace.frontmostApplication); });
   const Replaced source(running, @selector(bundleIdentifier), ^NSString*(id) {

@@ -93,17 +93,18 @@ TEST_F(RegistryTest, OfManyThreadsOneEndsAHandoff) {
     registry.open(handoff);
   }
   std::atomic<int> ended = 0;
-  {
-    std::vector<std::jthread> workers;
-    for (int worker = 0; worker < threads; ++worker)
-      workers.emplace_back([&, worker] {
-        for (int i = 0; i < handoffs; ++i) {
-          Signature signature;
-          signature.id = std::to_string(worker) + '/' + std::to_string(i);
-          if (registry.complete(std::to_string(i), signature)) ++ended;
-        }
-      });
+  std::vector<std::thread> workers;
+  for (int worker = 0; worker < threads; ++worker) {
+    workers.emplace_back([&, worker] {
+      for (int i = 0; i < handoffs; ++i) {
+        Signature signature;
+        signature.id = std::to_string(worker) + '/' + std::to_string(i);
+        if (registry.complete(std::to_string(i), signature)) ++ended;
+      }
+    });
   }
+  for (std::thread& worker : workers)
+    worker.join();
   EXPECT_EQ(ended, handoffs);
   for (int i = 0; i < handoffs; ++i)
     EXPECT_TRUE(registry.signature(registry.handoff(std::to_string(i))->signatureId).has_value());

@@ -1,12 +1,16 @@
 #include "Inspection.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstdio>
 
 #include <unicode/uchar.h>
 
+#include "PatternTrial.h"
+#include "Quillseal/ContentRules.h"
 #include "Quillseal/CryptoManager.h"
+#include "core/reading/ReadableText.h"
 #include "core/signing/ConfirmationText.h"
 #include "core/text/UnicodeText.h"
 
@@ -65,12 +69,12 @@ std::string headOf(std::string_view text, std::size_t count) {
   return printable(text.substr(0, end)) + (end < text.size() ? "…" : "");
 }
 
-/// The matched words within what surrounds them, and a line that underlines them.
-std::string underlined(std::string_view text, const ContentRisk::Hit& hit) {
-  if (hit.start == hit.end) return line("", "(by what stands anywhere in the text)");
-  const std::string before = tailOf(text.substr(0, hit.start), 24);
-  const std::string matched = headOf(text.substr(hit.start, hit.end - hit.start), 60);
-  const std::string after = headOf(text.substr(hit.end), 24);
+/// The words from `start` to `end` within what surrounds them, and a line that underlines them.
+std::string underlined(std::string_view text, std::size_t start, std::size_t end) {
+  if (start == end) return line("", "(by what stands anywhere in the text)");
+  const std::string before = tailOf(text.substr(0, start), 24);
+  const std::string matched = headOf(text.substr(start, end - start), 60);
+  const std::string after = headOf(text.substr(end), 24);
   return line("", before + matched + after) +
          line("", std::string(columnsOf(before), ' ') + std::string(columnsOf(matched), '^'));
 }
@@ -83,7 +87,34 @@ std::string findingsReport(std::string_view label, std::string_view text,
   for (std::size_t i = 0; i < findings.size(); ++i) {
     report += line("", findings[i].id + " (" + std::to_string(findings[i].points) +
                            (findings[i].isBlocking ? ", blocks): " : "): ") + findings[i].category);
-    report += underlined(text, screening.hits[i]);
+    report += underlined(text, screening.hits[i].start, screening.hits[i].end);
+  }
+  return report;
+}
+
+std::string severityOf(const ContentRules::Rule& rule) {
+  return std::to_string(rule.points) + (rule.severity == "block" ? ", blocks" : "");
+}
+
+std::string trialReport(std::string_view label, const TriedPattern& pattern,
+                        std::string_view text) {
+  constexpr std::size_t longest = 100;
+  const PatternTrial trial = tryPattern(pattern, text);
+  const auto nameOf = [&](const Approach& approach) {
+    return "alternative " + std::to_string(approach.number) + " of " +
+           std::to_string(trial.alternatives);
+  };
+  std::string report = line(label, trial.isMatch ? "matches" : "matches nowhere");
+  for (const Approach& approach : trial.approaches) {
+    if (trial.isMatch) {
+      if (approach.number > 0) report += line("", nameOf(approach));
+      return report + underlined(text, approach.start, approach.end);
+    }
+    const auto percent = static_cast<int>(100 * approach.share);
+    report += line("Nearest", nameOf(approach) + ", " + std::to_string(percent) + " % of it");
+    report += line("  satisfied", tailOf(approach.satisfied, longest));
+    report += underlined(text, approach.start, approach.end);
+    report += line("  missing", headOf(approach.missing, longest));
   }
   return report;
 }
@@ -125,6 +156,32 @@ std::string readableReport(const Inspection& inspection) {
   report += findingsReport("Screening", inspection.text, inspection.screening);
   if (const auto asRead = ContentRisk::screenAsRead(inspection.text, inspection.screening))
     report += findingsReport("As read", inspection.text, *asRead);
+  return report;
+}
+
+std::string ruleReport(const RuleQuestion& question) {
+  TriedPattern tried{.written = question.pattern.value_or("")};
+  std::string report;
+  std::string ofRule;
+  if (question.rule) {
+    const auto rule = std::ranges::find(ContentRules::all, *question.rule, &ContentRules::Rule::id);
+    if (rule == ContentRules::all.end())
+      throw PatternTrialError("there is no rule \"" + std::string(*question.rule) + '"');
+    report += line("Rule", std::string(rule->id) + " (" + severityOf(*rule) +
+                               "): " + std::string(rule->category));
+    ofRule = ContentRules::abbreviated(rule->pattern);
+    tried.caseInsensitive = rule->caseInsensitive;
+    if (!question.pattern) tried.written = ofRule;
+  }
+  const std::string text(unicode::trimmed(question.text));
+  report += trialReport("As written", tried, text);
+  const auto hits = ContentRisk::screen(text).hits;
+  if (question.rule && !question.pattern && report.find("matches nowhere") == std::string::npos &&
+      std::ranges::find(hits, *question.rule, &ContentRisk::Hit::id) == hits.end())
+    report += line(
+        "", "but does not count: it is quoted in a report, or begins or ends within a character");
+  const ReadableText reading(text);
+  if (!reading.isAsWritten()) report += trialReport("As read", tried, std::string(reading.text()));
   return report;
 }
 

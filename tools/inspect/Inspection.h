@@ -39,4 +39,16 @@ struct Inspection {
 /// The inspection as text for a person to read, with a line feed at its end.
 [[nodiscard]] std::string readableReport(const Inspection& inspection);
 
+/// Why a rule does or does not find a text.
+struct RuleQuestion {
+  std::optional<std::string_view> rule{};     ///< its id
+  std::optional<std::string_view> pattern{};  ///< to be tried in the place of the rule's own
+  std::string_view text;                      ///< well-formed UTF-8
+};
+
+/// Where the pattern matches, or how far the nearest alternatives came, in the text as it is
+/// written and, where that differs, as it is read. Throws PatternTrialError, also for an unknown
+/// rule.
+[[nodiscard]] std::string ruleReport(const RuleQuestion& question);
+
 }  // namespace quillseal::inspect

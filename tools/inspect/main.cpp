@@ -1,16 +1,18 @@
 #include <array>
 #include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 #include <ctime>
 #include <iostream>
 #include <optional>
 #include <string>
 #include <system_error>
 
-#include <getopt.h>
+#include <CLI/CLI.hpp>
 
 #include "Inspection.h"
 #include "Operations.h"
+#include "PatternTrial.h"
 #include "core/text/UnicodeText.h"
 #include "core/text/UniqueHandle.h"
 
@@ -19,32 +21,14 @@ namespace {
 constexpr int cannotReadOrWrite = 1;
 constexpr int wrongUsage = 2;
 
-constexpr const char* usage = R"(usage: quillseal-inspect [OPTION]... [FILE]
-       quillseal-inspect --jsonl
-       quillseal-inspect rules
-
-Shows what Quillseal would sign for a text, without signing anything.
-FILE is the text in UTF-8; standard input when it is left out or "-".
-"rules" prints the table of content rules (a file of that name: ./rules).
-
-  --json           print one JSON object instead of the report
-  --html FILE      the HTML form of the same text, for its images
-  --issued DATE    the issue date, yyyy-MM-dd (today when left out)
-  --jsonl          answer requests, one JSON object a line, on standard input
-  --help           print this help
-  --version        print the version
-
-Exit status: 0, or 1 when a file cannot be read or the output not written, or 2 for a wrong use.
-Example: printf '%s' "I met Ada on 3 May." | quillseal-inspect
-)";
-
 struct Options {
   std::string textPath = "-";
   std::optional<std::string> htmlPath;
   std::optional<std::string> issued;
+  std::optional<std::string> rule;
+  std::optional<std::string> pattern;
   bool json = false;
   bool jsonl = false;
-  bool rules = false;
 };
 
 struct Failure {
@@ -88,52 +72,49 @@ std::string today() {
   return {text, length};
 }
 
-/// Nothing when the answer has been printed already (help and version).
-std::optional<Options> parsed(int argc, char** argv) {
-  enum Long { json = 256, html, issued, jsonl, help, version };
-  static const option longOptions[] = {{"json", no_argument, nullptr, json},
-                                       {"html", required_argument, nullptr, html},
-                                       {"issued", required_argument, nullptr, issued},
-                                       {"jsonl", no_argument, nullptr, jsonl},
-                                       {"help", no_argument, nullptr, help},
-                                       {"version", no_argument, nullptr, version},
-                                       {nullptr, 0, nullptr, 0}};
-  Options options;
-  int found = 0;
-  // NOLINTNEXTLINE(concurrency-mt-unsafe): there is one thread.
-  while ((found = getopt_long(argc, argv, "", longOptions, nullptr)) != -1) {
-    switch (found) {
-      case json:
-        options.json = true;
-        break;
-      case html:
-        options.htmlPath = optarg;
-        break;
-      case issued:
-        options.issued = optarg;
-        break;
-      case jsonl:
-        options.jsonl = true;
-        break;
-      case help:
-        std::cout << usage;
-        return std::nullopt;
-      case version:
-        std::cout << "quillseal-inspect " << QUILLSEAL_VERSION << '\n';
-        return std::nullopt;
-      default:
-        throw Failure{wrongUsage, "see quillseal-inspect --help"};
-    }
+constexpr const char* description =
+    R"(Shows what Quillseal would sign for a text, without signing anything.
+"quillseal-inspect rules" prints the table of content rules (a file of that name: ./rules).)";
+
+constexpr const char* footer =
+    R"(Exit status: 0, or 1 when a file cannot be read or the output not written, or 2 for a wrong use.
+Example: printf '%s' "I met Ada on 3 May." | quillseal-inspect)";
+
+/// The options, or the status to exit with.
+std::optional<int> read(Options& options, int argc, char** argv) {
+  CLI::App app(description, "quillseal-inspect");
+  app.footer(footer);
+  app.add_option("FILE", options.textPath, "the text in UTF-8; standard input when it is \"-\"")
+      ->type_name("")
+      ->capture_default_str();
+  app.add_flag("--json", options.json, "print one JSON object instead of the report");
+  app.add_option("--html", options.htmlPath, "the HTML form of the same text, for its images")
+      ->type_name("FILE");
+  app.add_option("--issued", options.issued, "the issue date, yyyy-MM-dd (today when left out)")
+      ->type_name("DATE");
+  app.add_option("--rule", options.rule,
+                 "show where this rule matches, or how far the nearest\n"
+                 "alternatives of its pattern came")
+      ->type_name("ID");
+  app.add_option("--pattern", options.pattern, "the same for a pattern, tried as the rule's")
+      ->type_name("PATTERN");
+  app.add_flag("--jsonl", options.jsonl,
+               "answer requests, one JSON object a line, on standard input");
+  app.set_version_flag("--version", "quillseal-inspect " QUILLSEAL_VERSION);
+  app.set_help_flag("--help", "print this help");
+  try {
+    app.parse(argc, argv);
+    const bool isTable = options.textPath == "rules";
+    if (argc != 2 && (isTable || options.jsonl))
+      throw CLI::ValidationError(isTable ? "rules" : "--jsonl", "stands alone");
+    if (options.json && (options.rule || options.pattern))
+      throw CLI::ValidationError("--json", "has no form for --rule and --pattern");
+    if (options.textPath == "-" && options.htmlPath == "-")
+      throw CLI::ValidationError("--html", "only one of text and HTML can be standard input");
+  } catch (const CLI::ParseError& error) {
+    return app.exit(error) == 0 ? EXIT_SUCCESS : wrongUsage;
   }
-  if (argc - optind > 1) throw Failure{wrongUsage, "one file at a time; see --help"};
-  if (argc - optind == 1) options.textPath = argv[optind];
-  options.rules = options.textPath == "rules";
-  if (options.rules && argc != 2) throw Failure{wrongUsage, "rules stands alone; see --help"};
-  if (options.jsonl && (options.json || options.htmlPath || options.issued || optind < argc))
-    throw Failure{wrongUsage, "--jsonl takes its input from the requests alone; see --help"};
-  if (options.textPath == "-" && options.htmlPath == "-")
-    throw Failure{wrongUsage, "only one of the text and the HTML can be standard input"};
-  return options;
+  return std::nullopt;
 }
 
 void answerRequests() {
@@ -147,6 +128,11 @@ void answerRequests() {
 
 void printInspection(const Options& options) {
   const std::string text = contentsOf(options.textPath);
+  if (options.rule || options.pattern) {
+    std::cout << quillseal::inspect::ruleReport(
+        {.rule = options.rule, .pattern = options.pattern, .text = text});
+    return;
+  }
   std::optional<std::string> html;
   if (options.htmlPath) html = contentsOf(*options.htmlPath);
   const std::string issued = options.issued.value_or(today());
@@ -164,23 +150,26 @@ void printInspection(const Options& options) {
 int main(int argc, char** argv) {
   std::ios::sync_with_stdio(false);
   try {
-    const std::optional<Options> options = parsed(argc, argv);
-    if (!options) {
+    Options options;
+    if (const std::optional<int> status = read(options, argc, argv)) {
       requireWritten();
-      return 0;
+      return *status;
     }
-    if (options->rules) {
+    if (options.textPath == "rules") {
       std::cout << quillseal::inspect::rulesTable();
-    } else if (options->jsonl) {
+    } else if (options.jsonl) {
       answerRequests();
     } else {
-      printInspection(*options);
+      printInspection(options);
     }
     requireWritten();
     return 0;
   } catch (const Failure& failure) {
     std::cerr << "quillseal-inspect: " << failure.message << '\n';
     return failure.status;
+  } catch (const quillseal::inspect::PatternTrialError& error) {
+    std::cerr << "quillseal-inspect: " << error.what() << '\n';
+    return wrongUsage;
   } catch (const std::exception& error) {
     std::cerr << "quillseal-inspect: " << error.what() << '\n';
     return cannotReadOrWrite;

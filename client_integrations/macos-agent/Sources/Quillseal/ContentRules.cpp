@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
 
 namespace quillseal::ContentRules {
 namespace {
@@ -44,15 +45,15 @@ constexpr std::array<Shorthand, 2> shorthands{{
 
 /// Hands the pieces of `written`, with its shorthands replaced, to `append`, in order.
 constexpr void replaceShorthands(std::string_view written, auto append) {
-  const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
   while (true) {
     const std::size_t start = written.find('<');
     append(written.substr(0, start));
     if (start == std::string_view::npos) return;
     written.remove_prefix(start);
     std::size_t length = 1;
-    if (isDigit(written[1])) {
-      length = written.find('>') + 1;
+    const std::size_t gapEnd = written.find_first_not_of("0123456789", 1);
+    if (gapEnd != 1 && gapEnd != std::string_view::npos && written[gapEnd] == '>') {
+      length = gapEnd + 1;
       append(gap);
       append("{0,");
       append(written.substr(1, length - 2));
@@ -3020,6 +3021,19 @@ std::string expanded(std::string_view written) {
   std::string pieces;
   replaceShorthands(written, [&](std::string_view piece) { pieces += piece; });
   return pieces;
+}
+
+std::string abbreviated(std::string_view pattern) {
+  std::string written(pattern);
+  const std::string gapStart = std::string(gap) + "{0,";
+  for (std::size_t at = 0; (at = written.find(gapStart, at)) != std::string::npos; ++at) {
+    written.replace(at, gapStart.size(), "<");
+    written[written.find('}', at)] = '>';
+  }
+  for (const auto& [name, meaning] : shorthands)
+    for (std::size_t at = 0; (at = written.find(meaning, at)) != std::string::npos; ++at)
+      written.replace(at, meaning.size(), name);
+  return written;
 }
 
 }  // namespace quillseal::ContentRules

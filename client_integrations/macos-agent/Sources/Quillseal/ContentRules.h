@@ -23,7 +23,11 @@ struct Rule {
 /// Every rule in the order in which findings of equal points are reported.
 extern const std::span<const Rule> all;
 
-/// A line of a pattern as the table's source text holds it, with its shorthands replaced.
+/// `written` with what its shorthands stand for, such as `<40>`, a gap that stays within a
+/// sentence.
 [[nodiscard]] std::string expanded(std::string_view written);
+
+/// `pattern` as its author wrote it, with the shorthands: what `expanded` turns into `pattern`.
+[[nodiscard]] std::string abbreviated(std::string_view pattern);
 
 }  // namespace quillseal::ContentRules

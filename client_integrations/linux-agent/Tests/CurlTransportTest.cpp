@@ -151,6 +151,15 @@ TEST_F(CurlTransportTest, TakesAnAnswerOfJustEightMegabytes) {
   EXPECT_TRUE(endingOf(postTo(server)).body == body);
 }
 
+TEST_F(CurlTransportTest, EveryRequestHasItsOwnConnection) {
+  const ScriptedServer server(
+      {.answer = answerOf("200 OK", ""), .end = ServerScript::End::linger, .tls = {}});
+  for (int number = 1; number <= 2; ++number) {
+    EXPECT_EQ(endingOf(postTo(server)).status, 200);
+    EXPECT_EQ(server.connections(), number);
+  }
+}
+
 TEST_F(CurlTransportTest, NeverFollowsARedirect) {
   const ScriptedServer target({.answer = answerOf("200 OK", "{}"), .tls = {}});
   for (const int status : {301, 302, 303, 307, 308}) {
@@ -172,10 +181,14 @@ TEST_F(CurlTransportTest, ServersOutOfReach) {
 }
 
 TEST_F(CurlTransportTest, SendsNothingToWhatIsNoUrl) {
+  const ScriptedServer server({.answer = answerOf("200 OK", ""), .tls = {}});
+  std::vector<std::string> urls{postTo(server).url + '\0'};
   for (const char* url :
        {"http://a b", "http://", "https://", "nonsense", "127.0.0.1:80", "localhost:80",
         "ftp://127.0.0.1", "file:///etc", "http://127.0.0.1:99999", "http://127.0.0.1:x",
         "http://127.0.0.1/a b", "http://127.0.0.1\r\nX: y", "javascript:alert(1)"})
+    urls.emplace_back(url);
+  for (const std::string& url : urls)
     EXPECT_EQ(endingOf(postTo(url)).code, transport::badUrl) << url;
 }
 

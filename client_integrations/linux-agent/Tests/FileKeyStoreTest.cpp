@@ -68,6 +68,10 @@ TEST_F(FileKeyStoreTest, SignsSoThatThePublicKeyVerifies) {
 }
 
 TEST_F(FileKeyStoreTest, OnlyThisUserMayRead) {
+  fs::create_directories(path.parent_path());
+  // An earlier run was interrupted.
+  testing::overwrite(path.parent_path() / ".key.pem.new", "half a key");
+  ASSERT_EQ(::chmod(path.parent_path().c_str(), 0755), 0);
   store.create(passphrase());
   struct stat status {};
   ASSERT_EQ(::stat(path.c_str(), &status), 0);
@@ -80,6 +84,9 @@ TEST_F(FileKeyStoreTest, AnotherSecretOpensNothing) {
   store.create(passphrase());
   for (const std::string_view wrong : {"", "correct horse batterz", "correct horse battery "})
     EXPECT_FALSE(store.sign(digest, SecretBytes(wrong))) << wrong;
+  // One in 256 of them decrypts to what looks whole and is no key.
+  for (int number = 0; number < 2000; ++number)
+    EXPECT_FALSE(store.sign(digest, SecretBytes(std::to_string(number)))) << number;
 }
 
 TEST_F(FileKeyStoreTest, CreatingReplacesTheKey) {
@@ -137,6 +144,24 @@ TEST_F(FileKeyStoreTest, AnExchangedPublicHalfIsNoticed) {
   EXPECT_THAT(signFailure(), HasSubstr("tampered with"));
 }
 
+TEST_F(FileKeyStoreTest, AsRootAnotherUsersKeyIsNotUsed) {
+  constexpr uid_t nobody = 65534;
+  store.create(passphrase());
+  ASSERT_EQ(::chown(path.c_str(), nobody, nobody), 0);
+  EXPECT_THAT(signFailure(), HasSubstr("the file “" + path.string() + "” belongs to another user"));
+  ASSERT_EQ(::chown(path.parent_path().c_str(), nobody, nobody), 0);
+  EXPECT_THAT(signFailure(), HasSubstr("the folder “"));
+}
+
+TEST_F(FileKeyStoreTest, ClosesItsFiles) {
+  const auto open = [] { return std::distance(fs::directory_iterator("/proc/self/fd"), {}); };
+  const auto before = open();
+  store.create(passphrase());
+  EXPECT_TRUE(store.sign(digest, passphrase()));
+  EXPECT_EQ(store.obstacle(), "");
+  EXPECT_EQ(open(), before);
+}
+
 // With as much work as such a file can ask for, OpenSSL would not be done in a lifetime.
 TEST_F(FileKeyStoreTest, AFileThatTakesTooLongIsNotOpened) {
   store.create(passphrase());
@@ -149,6 +174,11 @@ TEST_F(FileKeyStoreTest, AFileThatTakesTooLongIsNotOpened) {
   constexpr std::array<std::uint8_t, 9> more{0x02, 0x01, 64, 0x02, 0x01, 127, 0x02, 0x01, 127};
   const auto found = std::search(key.begin(), key.end(), asked.begin(), asked.end());
   ASSERT_NE(found, key.end());
+  // Before them a salt of 16 bytes, and somewhere the cipher AES-256-CBC (2.16.840.1.101.3.4.1.42).
+  ASSERT_GT(found - key.begin(), 18);
+  EXPECT_THAT(std::vector(found - 18, found - 16), ::testing::ElementsAre(0x04, 16));
+  constexpr std::array<std::uint8_t, 11> cipher{0x06, 9, 0x60, 0x86, 0x48, 1, 101, 3, 4, 1, 42};
+  EXPECT_NE(std::search(key.begin(), key.end(), cipher.begin(), cipher.end()), key.end());
   std::copy(more.begin(), more.end(), found);
   testing::overwrite(path, KeyFile::write("", *blocks));
   EXPECT_THAT(signFailure(), HasSubstr("is damaged"));
@@ -165,8 +195,10 @@ TEST_F(FileKeyStoreTest, WhatSomebodyElsePutThereIsNotUsed) {
   EXPECT_FALSE(fs::is_symlink(path));
   EXPECT_TRUE(fs::exists(elsewhere));
 
-  ASSERT_EQ(::chmod(path.c_str(), 0644), 0);
-  EXPECT_THAT(signFailure(), HasSubstr("opened to other users"));
+  for (const mode_t mode : {0640U, 0620U, 0604U, 0602U}) {
+    ASSERT_EQ(::chmod(path.c_str(), mode), 0);
+    EXPECT_THAT(signFailure(), HasSubstr("opened to other users")) << mode;
+  }
 
   fs::remove(path);
   ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);

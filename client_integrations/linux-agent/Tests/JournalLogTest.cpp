@@ -12,6 +12,12 @@
 namespace quillseal::linux {
 namespace {
 
+TEST(JournalLogTest, ALineStaysALine) {
+  ::testing::internal::CaptureStderr();
+  JournalLog(JournalLog::Echo::standardError).write("a\nb\x1b[1m\x7f é");
+  EXPECT_EQ(::testing::internal::GetCapturedStderr(), "a\\x0ab\\x1b[1m\\x7f é\n");
+}
+
 TEST(JournalLogTest, DoesNotWaitUntilSomebodyReadsItsOutput) {
   std::array<int, 2> pipe{};
   ASSERT_EQ(::pipe2(pipe.data(), O_CLOEXEC | O_NONBLOCK), 0);

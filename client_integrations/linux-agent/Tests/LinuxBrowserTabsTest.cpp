@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <csignal>
+#include <filesystem>
 #include <functional>
 #include <map>
 #include <memory>
@@ -406,6 +408,8 @@ TEST_F(LinuxBrowserTabsTest, TakesThePlaceOfAnAgentThatHasGoneButNotOfOneThatRun
   const LinuxBrowserTabs second({loop_, descriptors_, log_});
   EXPECT_THAT(log_.text, HasSubstr("browsers cannot connect: another agent"));
   tabs_.reset();
+  // What an agent that was killed may leave behind.
+  testing::overwrite(runtime_.path() / "quillseal" / ("tabs." + std::to_string(::getpid())), "");
   tabs_.emplace(LinuxBrowserTabs::Services{loop_, descriptors_, log_});
   const auto chromium = connected("chromium");
   askTab("chromium");
@@ -420,6 +424,10 @@ TEST_F(LinuxBrowserTabsTest, TrustsNoFolderThatOthersCouldChange) {
     EXPECT_THROW((void)TabSocket::folder(), std::runtime_error) << mode;
   }
   ASSERT_EQ(::chmod((runtime_.path() / "quillseal").c_str(), 0700), 0);
+  std::filesystem::rename(runtime_.path() / "quillseal", runtime_.path() / "other");
+  std::filesystem::create_directory_symlink("other", runtime_.path() / "quillseal");
+  EXPECT_THROW((void)TabSocket::folder(), std::runtime_error);
+  std::filesystem::remove(runtime_.path() / "quillseal");
   ASSERT_EQ(::chmod(runtime_.path().c_str(), 0777), 0);
   EXPECT_THROW((void)TabSocket::folder(), std::runtime_error);
   ::setenv("XDG_RUNTIME_DIR", "relative", 1);
@@ -432,6 +440,33 @@ TEST(TabSocketTest, RecognisesItsOwnUser) {
   const FileDescriptor own(pair[0]), ownPeer(pair[1]);
   EXPECT_TRUE(TabSocket::isPeerThisUser(own));
   EXPECT_FALSE(TabSocket::isPeerThisUser(FileDescriptor(-1)));
+}
+
+TEST(TabSocketTest, SendsAWholeMessageOrFails) {
+  std::array<int, 2> pair{};
+  ASSERT_EQ(::socketpair(AF_UNIX, SOCK_STREAM, 0, pair.data()), 0);
+  const FileDescriptor own(pair[0]);
+  {
+    const FileDescriptor peer(pair[1]);
+    EXPECT_TRUE(TabSocket::send(own, "x"));
+    EXPECT_FALSE(TabSocket::send(own, std::string(10'000'000, 'x')));
+  }
+  (void)std::signal(SIGPIPE, SIG_DFL);
+  EXPECT_FALSE(TabSocket::send(own, "x"));
+}
+
+TEST_F(LinuxBrowserTabsTest, AcceptsNothingWhereNobodyConnects) {
+  tabs_.reset();
+  EXPECT_FALSE(TabSocket::accept(TabSocket::listen()));
+}
+
+TEST_F(LinuxBrowserTabsTest, AsRootConnectsToNoOtherUsersAgent) {
+  tabs_.reset();
+  const FileDescriptor listening = TabSocket::listen();
+  EXPECT_TRUE(TabSocket::connect());
+  // A listening socket belongs to whoever has called listen() last.
+  EXPECT_EQ(asAnotherUser([&] { return ::listen(listening.get(), 1); }), 0);
+  EXPECT_FALSE(TabSocket::connect());
 }
 
 TEST(TabSocketTest, AsRootRecognisesAnotherUser) {

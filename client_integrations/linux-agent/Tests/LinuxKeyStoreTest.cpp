@@ -1,5 +1,8 @@
+#include <chrono>
 #include <deque>
 #include <filesystem>
+#include <functional>
+#include <future>
 #include <memory>
 #include <optional>
 #include <string>
@@ -32,6 +35,7 @@ class ScriptedPrompt final : public SecretPrompt {
  public:
   std::optional<SecretBytes> ask(const SecretRequest& request) override {
     asked.push_back(request);
+    if (whileAsked) whileAsked();
     return answer();
   }
   std::optional<SecretBytes> askForNew(const NewSecretRequest& request) override {
@@ -42,6 +46,7 @@ class ScriptedPrompt final : public SecretPrompt {
   std::deque<std::optional<std::string>> answers;
   std::vector<SecretRequest> asked;
   std::vector<NewSecretRequest> askedForNew;
+  std::function<void()> whileAsked;
 
  private:
   std::optional<SecretBytes> answer() {
@@ -61,6 +66,7 @@ class ScriptedTpm final : public KeyMedium {
     std::string obstacle;
     std::string weakness;
     std::string defect;  ///< of the key
+    std::function<void()> whileCreating;
     bool foreignSignatures = false;
     int uses = 0;  ///< a plain number: a medium need not stand two threads
     int kept = 0;  ///< keys at hand
@@ -82,7 +88,10 @@ class ScriptedTpm final : public KeyMedium {
   }
   std::string evidentObstacle() const override { return state_.obstacle; }
   bool holdsKey() const noexcept override { return file_.holdsKey(); }
-  void create(const SecretBytes& secret) override { file_.create(secret); }
+  void create(const SecretBytes& secret) override {
+    if (state_.whileCreating) state_.whileCreating();
+    file_.create(secret);
+  }
   P256::Point publicKey() const override {
     ++state_.uses;
     return file_.publicKey();
@@ -256,6 +265,11 @@ TEST_F(LinuxKeyStoreTest, NoMediumTakesOverSilently) {
             "this computer.");
   EXPECT_EQ(publicKey(), inFile);
 
+  tpm.whileCreating = [] { throw KeyFailure("the TPM has failed."); };
+  EXPECT_EQ(failureOf([&] { createWith(pin); }), "the TPM has failed.");
+  EXPECT_EQ(publicKey(), inFile);
+
+  tpm.whileCreating = nullptr;
   createWith(pin);
   EXPECT_EQ(store->place(), KeyPlace::tpm);
   const P256::Point inTpm = publicKey();
@@ -304,6 +318,22 @@ TEST_F(LinuxKeyStoreTest, AMediumWorksForOneThreadAtATime) {
       });
   }
   EXPECT_EQ(tpm.uses, 2 * threads * rounds);
+}
+
+TEST_F(LinuxKeyStoreTest, AMediumIsFreeWhileThePersonIsAskedButNotWhileItWorks) {
+  std::future<bool> other;
+  std::future_status status{};
+  const auto look = [&](std::chrono::milliseconds patience) {
+    other = std::async(std::launch::async, [&] { return store->isAvailable(); });
+    status = other.wait_for(patience);
+  };
+  tpm.whileCreating = [&] { look(std::chrono::milliseconds(50)); };
+  createWith(pin);
+  EXPECT_EQ(status, std::future_status::timeout);
+  prompt.whileAsked = [&] { look(std::chrono::seconds(5)); };
+  prompt.answers = {pin};
+  EXPECT_FALSE(sign().empty());
+  EXPECT_EQ(status, std::future_status::ready);
 }
 
 TEST(MakeKeyStore, TakesASimulatorOnlyByName) {

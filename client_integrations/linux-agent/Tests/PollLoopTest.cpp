@@ -9,7 +9,7 @@ namespace {
 
 TEST(PollLoop, RunsWhatManyThreadsPostInTheirOrder) {
   constexpr int workers = 4;
-  constexpr int posts = 200;
+  constexpr int posts = 20'000;
   PollLoop loop;
   std::vector<int> seen(workers);
   int finished = 0;

@@ -3,6 +3,7 @@
 #include <array>
 #include <csignal>
 #include <filesystem>
+#include <fstream>
 #include <functional>
 #include <string>
 #include <thread>
@@ -96,7 +97,7 @@ TEST_F(QtDefaultsTest, ReadsWhatPeopleWrite) {
   overwrite(path_,
             "# mine\n\n[General]\nServerURL = https://a.example \nBoundIdentity=Lovelace, Ada\r\n"
             "DemoSigning=YES\nConfirmBeforeSigning=0\nQuillsealDebugCapture=maybe\n[Other]\nx=1\n");
-  fs::permissions(path_, fs::perms::others_read, fs::perm_options::add);
+  fs::permissions(path_, fs::perms::group_read, fs::perm_options::add);
   const QtDefaults defaults = make();
   EXPECT_EQ(defaults.string("ServerURL"), "https://a.example");
   EXPECT_EQ(defaults.string("BoundIdentity"), "Lovelace, Ada");
@@ -104,7 +105,7 @@ TEST_F(QtDefaultsTest, ReadsWhatPeopleWrite) {
   EXPECT_FALSE(defaults.boolean("ConfirmBeforeSigning"));
   EXPECT_FALSE(defaults.boolean("QuillsealDebugCapture"));
   EXPECT_FALSE(defaults.boolean("NoSuchKey"));
-  EXPECT_EQ(fs::status(path_).permissions() & fs::perms::others_all, fs::perms::none);
+  EXPECT_EQ(fs::status(path_).permissions() & fs::perms::group_all, fs::perms::none);
 
   for (const char* value :
        {"a,b", "a;b", "a\\b", "a\\x41b", "a\\\\b", "\"a, b\"", "\"open", "%41%", "@Invalid()",
@@ -158,6 +159,7 @@ TEST_F(QtDefaultsTest, KeepsWhatNoLineCanHoldForTheProcess) {
   }
   EXPECT_TRUE(eventually([&] { return warnings_.size() == 3; }));
   defaults.setString("BoundIdentity", "Ada");
+  EXPECT_EQ(defaults.string("BoundIdentity"), "Ada");
   EXPECT_EQ(make().string("BoundIdentity"), "Ada");
 }
 
@@ -165,7 +167,12 @@ TEST_F(QtDefaultsTest, NoticesEveryonesChanges) {
   QtDefaults defaults = make();
   int changes = 0;
   const desktop::Ticket observer = defaults.observe([&] { ++changes; });
-  desktop::Ticket once = defaults.observe([&] { once = {}; });
+  desktop::Ticket ended;
+  desktop::Ticket once = defaults.observe([&] {
+    ended = {};
+    once = {};
+  });
+  ended = defaults.observe([] { ADD_FAILURE() << "this observer has ended"; });
 
   defaults.setString("ServerURL", "https://a.example");
   EXPECT_EQ(changes, 0) << "not from inside the call";
@@ -217,6 +224,20 @@ TEST_F(QtDefaultsTest, SetsADamagedFileAside) {
   }
 }
 
+TEST_F(QtDefaultsTest, WaitsForAnEditorThatIsStillWriting) {
+  fs::create_directories(path_.parent_path());
+  overwrite(path_, "no settings ");
+  std::jthread editor([&] {
+    for (int i = 0; i < 15; ++i) {
+      std::this_thread::sleep_for(std::chrono::milliseconds(20));
+      std::ofstream(path_, std::ios::app) << i;
+    }
+    overwrite(path_, "APIKey=k\n");
+  });
+  EXPECT_EQ(make().string("APIKey"), "k");
+  EXPECT_THAT(warnings_, IsEmpty());
+}
+
 TEST_F(QtDefaultsTest, ValuesThatCannotBeSavedHoldForTheProcess) {
   fs::create_directories(path_);  // a folder where the file should be
   overwrite(path_ / "kept", "x");
@@ -225,7 +246,10 @@ TEST_F(QtDefaultsTest, ValuesThatCannotBeSavedHoldForTheProcess) {
   const desktop::Ticket observer = defaults.observe([&] { ++changes; });
   defaults.setString("SigningMode", "handoff");
   EXPECT_EQ(defaults.string("SigningMode"), "handoff");
-  EXPECT_TRUE(eventually([&] { return changes == 1 && !warnings_.empty(); }));
+  for (int i = 0; i < 3; ++i)
+    EXPECT_EQ(defaults.string("APIKey"), std::nullopt);
+  EXPECT_TRUE(eventually([&] { return changes == 1 && warnings_.size() >= 2; }));
+  EXPECT_THAT(warnings_, ElementsAre(HasSubstr("cannot be read"), HasSubstr("could not be saved")));
   EXPECT_TRUE(fs::exists(path_ / "kept"));
 }
 

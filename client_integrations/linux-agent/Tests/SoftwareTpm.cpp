@@ -2,7 +2,9 @@
 
 #include <array>
 #include <csignal>
+#include <fstream>
 #include <functional>
+#include <sstream>
 #include <stdexcept>
 
 #include <spawn.h>
@@ -47,7 +49,7 @@ void with(const std::string& device, const std::function<TSS2_RC(ESYS_CONTEXT*)>
 }  // namespace
 
 SoftwareTpm::SoftwareTpm(const std::filesystem::path& folder)
-    : socket_(folder / "tpm"), process_(0) {
+    : socket_(folder / "tpm"), log_(folder / "log"), process_(0) {
   const int server = listeningSocket(socket_);
   const int control = listeningSocket(socket_.string() + ".ctrl");
   std::array<std::string, 11> words{"swtpm",
@@ -60,7 +62,7 @@ SoftwareTpm::SoftwareTpm(const std::filesystem::path& folder)
                                     "--ctrl",
                                     "type=unixio,fd=" + std::to_string(control),
                                     "--flags=not-need-init,startup-clear",
-                                    "--log=file=" + (folder / "log").string()};
+                                    "--log=level=2,file=" + log_.string()};
   std::array<char*, words.size() + 1> arguments{};
   for (std::size_t i = 0; i < words.size(); ++i)
     arguments[i] = words[i].data();
@@ -76,13 +78,30 @@ SoftwareTpm::~SoftwareTpm() {
   ::waitpid(process_, nullptr, 0);
 }
 
-void SoftwareTpm::setLockoutPassword(std::string_view password) const {
+void SoftwareTpm::setPassword(std::uint32_t hierarchy, std::string_view password) const {
   TPM2B_AUTH value{};
   value.size = static_cast<UINT16>(password.copy(reinterpret_cast<char*>(value.buffer), 32));
   with(device(), [&](ESYS_CONTEXT* context) {
-    return ::Esys_HierarchyChangeAuth(context, ESYS_TR_RH_LOCKOUT, ESYS_TR_PASSWORD, ESYS_TR_NONE,
+    return ::Esys_HierarchyChangeAuth(context, hierarchy, ESYS_TR_PASSWORD, ESYS_TR_NONE,
                                       ESYS_TR_NONE, &value);
   });
+}
+
+std::vector<std::string> SoftwareTpm::commands() const {
+  std::ifstream log(log_);
+  std::vector<std::string> commands;
+  bool isCommand = false;
+  for (std::string line; std::getline(log, line);) {
+    if (line.find("length") != std::string::npos) {
+      isCommand = line.find("SWTPM_IO_Read") != std::string::npos;
+      if (isCommand) commands.emplace_back();
+    } else if (isCommand) {
+      std::istringstream bytes(line);
+      for (unsigned byte = 0; bytes >> std::hex >> byte;)
+        commands.back() += static_cast<char>(byte);
+    }
+  }
+  return commands;
 }
 
 bool SoftwareTpm::undoLock() const {

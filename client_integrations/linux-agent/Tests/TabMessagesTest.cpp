@@ -82,7 +82,7 @@ TEST(TabMessages, RefusesWhatIsNoSuchMessage) {
            R"({"id":"7","operation":"currentTab"})",
            R"({"id":7.5,"operation":"currentTab"})",
            R"({"id":18446744073709551615,"operation":"currentTab"})",
-           R"({"id":7,"operation":"currenttab"})",
+           R"({"id":7,"operation":"close","urlContains":"/handoff?h=1","tab":1})",
            R"({"id":7,"id":8,"operation":"currentTab"})",
            R"({"id":7,"operation":"currentTab"}{})",
            R"({"id":7,"operation":"closeAndRestore"})",

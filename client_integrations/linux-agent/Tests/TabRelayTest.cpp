@@ -102,6 +102,7 @@ class Relay {
   }
 
   void closeInput() { input_ = FileDescriptor(-1); }
+  void closeOutput() { output_ = FileDescriptor(-1); }
 
   /// Exit status; 128 and more for a signal, -1 when it does not end.
   int status() {
@@ -209,6 +210,13 @@ TEST_F(TabRelayTest, EndsWithTheBrowserAndWithTheAgent) {
   relay_->closeInput();
   EXPECT_EQ(relay_->status(), 0);
   EXPECT_EQ(messageFrom(*agent_), std::nullopt);
+
+  listening_.reset();
+  connect();
+  relay_->closeOutput();
+  ASSERT_TRUE(
+      TabSocket::send(*agent_, TabMessages::framed(R"({"id":1,"operation":"currentTab"})")));
+  EXPECT_EQ(relay_->status(), 0);
 
   listening_.reset();
   connect();

@@ -1,4 +1,6 @@
 #include <cerrno>
+#include <utility>
+#include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -11,34 +13,29 @@ namespace {
 using ::testing::HasSubstr;
 
 // Codes as they come: 0x0C0000 is the resource manager's layer, 0x0A0000 the transport's; bits 6
-// and 8 to 11 of a format-one code number the parameter, session or handle it is about.
+// and 8 to 11 of a format-one code number the parameter, session or handle it is about (TPM 2.0
+// Library Part 2, 6.6; TCG TSS 2.0 Overview, 4.3).
 TEST(TpmFailure, UnderstandsEveryLayer) {
-  struct Row {
-    std::uint32_t code;
-    TpmProblem problem;
+  const std::pair<TpmProblem, std::vector<std::uint32_t>> rows[] = {
+      {TpmProblem::wrongSecret, {0x98e, 0x08e, 0xc098e}},
+      {TpmProblem::lockedOut, {0x921}},
+      {TpmProblem::busy,
+       {0x922, 0x908, 0x909, 0x90a, 0x920, 0x923, 0x904, 0x902, 0x903, 0x905, 0x906, 0x901, 0xc0902,
+        0xa0009}},
+      {TpmProblem::foreignKey, {0x1df, 0x155, 0x1e5}},
+      {TpmProblem::ownerPassword, {0x9a2, 0x12f}},
+      {TpmProblem::disabled, {0x101, 0x100, 0x130, 0x12d, 0x120, 0x153, 0x185}},
+      {TpmProblem::unsupported, {0x2e6, 0x2c1, 0x2d2, 0x2c3, 0x143}},
+      {TpmProblem::noDevice, {0xa0008, 0xa000a}},
+      {TpmProblem::noPermission, {0xa000c}},
+      {TpmProblem::unknown, {0x70001, 0x1c4, 0xa0921}},
   };
-  constexpr Row rows[] = {
-      {0x0000098e, TpmProblem::wrongSecret},  // session 1, AUTH_FAIL
-      {0x0000008e, TpmProblem::wrongSecret},
-      {0x000c098e, TpmProblem::wrongSecret},
-      {0x00000921, TpmProblem::lockedOut},
-      {0x00000922, TpmProblem::busy},  // RETRY
-      {0x00000902, TpmProblem::busy},  // OBJECT_MEMORY
-      {0x000c0902, TpmProblem::busy},
-      {0x000001df, TpmProblem::foreignKey},     // parameter 1, INTEGRITY
-      {0x000009a2, TpmProblem::ownerPassword},  // session 1, BAD_AUTH
-      {0x00000101, TpmProblem::disabled},       // FAILURE
-      {0x00000185, TpmProblem::disabled},       // handle 1, HIERARCHY
-      {0x000002e6, TpmProblem::unsupported},    // parameter 2, CURVE
-      {0x000a0009, TpmProblem::busy},           // TRY_AGAIN
-      {0x000a000a, TpmProblem::noDevice},       // IO_ERROR
-      {0x00070001, TpmProblem::unknown},
-      {0x000001c4, TpmProblem::unknown},  // parameter 1, VALUE
-  };
-  for (const Row& row : rows) {
-    const TpmFailure failure = tpmFailureOf(row.code);
-    EXPECT_EQ(failure.problem, row.problem) << std::hex << row.code << ' ' << failure.message;
-    EXPECT_EQ(failure.message.back(), '.') << failure.message;
+  for (const auto& [problem, codes] : rows) {
+    for (const std::uint32_t code : codes) {
+      const TpmFailure failure = tpmFailureOf(code);
+      EXPECT_EQ(failure.problem, problem) << std::hex << code << ' ' << failure.message;
+      EXPECT_EQ(failure.message.back(), '.') << failure.message;
+    }
   }
   EXPECT_THAT(tpmFailureOf(0x00070001).message, HasSubstr("(0x00070001)"));
 }
@@ -51,7 +48,10 @@ TEST(TpmFailure, SaysWhyTheDeviceDoesNotOpen) {
   };
   constexpr Row rows[] = {
       {ENOENT, TpmProblem::noDevice, "/dev/tpmrm0 does not exist"},
+      {ENODEV, TpmProblem::noDevice, "/dev/tpmrm0 does not exist"},
+      {ENXIO, TpmProblem::noDevice, "/dev/tpmrm0 does not exist"},
       {EACCES, TpmProblem::noPermission, "group"},
+      {EPERM, TpmProblem::noPermission, "group"},
       {EBUSY, TpmProblem::busy, "busy"},
       {EIO, TpmProblem::unknown, "Input/output error"},
   };

@@ -6,11 +6,13 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <tss2/tss2_esys.h>
 
 #include "FailureOf.h"
 #include "ServerVerdict.h"
 #include "SoftwareTpm.h"
 #include "TemporaryFolder.h"
+#include "core/text/Digest.h"
 #include "keys/KeyFailure.h"
 #include "keys/TpmKeyStore.h"
 
@@ -21,7 +23,7 @@ using testing::failureOf;
 using ::testing::HasSubstr;
 namespace fs = std::filesystem;
 
-constexpr P256::Digest digest{1, 2, 3, 4, 5};
+constexpr P256::Digest message{1, 2, 3, 4, 5};
 
 SecretBytes pin() {
   return SecretBytes("271828");
@@ -55,10 +57,10 @@ TEST_F(TpmKeyStoreTest, SignsSoThatThePublicKeyVerifies) {
   // Enough to meet integers with leading zero bytes now and then, and to fill the TPM if objects or
   // sessions were left behind.
   for (int round = 0; round < 50; ++round) {
-    const auto signature = store.sign(digest, pin());
+    const auto signature = store.sign(message, pin());
     ASSERT_TRUE(signature);
     EXPECT_TRUE(testing::isAcceptedByServer(
-        {.publicKey = store.publicKey(), .digest = digest, .signature = *signature}));
+        {.publicKey = store.publicKey(), .digest = message, .signature = *signature}));
   }
 }
 
@@ -69,10 +71,10 @@ TEST_F(TpmKeyStoreTest, SurvivesARestartOfTheTpm) {
   EXPECT_THAT(store.obstacle(), HasSubstr("cannot be reached"));
   EXPECT_TRUE(store.holdsKey());
   tpm.emplace(state.path());
-  const auto signature = store.sign(digest, pin());
+  const auto signature = store.sign(message, pin());
   ASSERT_TRUE(signature);
   EXPECT_TRUE(testing::isAcceptedByServer(
-      {.publicKey = publicKey, .digest = digest, .signature = *signature}));
+      {.publicKey = publicKey, .digest = message, .signature = *signature}));
 }
 
 // What is kept at hand while somebody types must not be what a signature depends on.
@@ -81,12 +83,12 @@ TEST_F(TpmKeyStoreTest, SignsWithAKeyAtHandWhateverHappensMeanwhile) {
   KeyMedium::Readiness first = store.requireUsableKey();
   const KeyMedium::Readiness second = store.requireUsableKey();
   const auto signs = [&] {
-    const auto signature = store.sign(digest, pin());
+    const auto signature = store.sign(message, pin());
     return signature &&
            testing::isAcceptedByServer(
-               {.publicKey = store.publicKey(), .digest = digest, .signature = *signature});
+               {.publicKey = store.publicKey(), .digest = message, .signature = *signature});
   };
-  EXPECT_FALSE(store.sign(digest, SecretBytes("271829")));
+  EXPECT_FALSE(store.sign(message, SecretBytes("271829")));
   EXPECT_TRUE(signs());
   EXPECT_EQ(store.obstacle(), "");
   first.reset();
@@ -97,7 +99,7 @@ TEST_F(TpmKeyStoreTest, SignsWithAKeyAtHandWhateverHappensMeanwhile) {
   const KeyMedium::Readiness third = store.requireUsableKey();
   const std::string earlier = testing::contentsOf(path);
   store.create(SecretBytes("314159"));
-  EXPECT_TRUE(store.sign(digest, SecretBytes("314159")));
+  EXPECT_TRUE(store.sign(message, SecretBytes("314159")));
   const KeyMedium::Readiness fourth = store.requireUsableKey();
   testing::overwrite(path, earlier);
   EXPECT_TRUE(signs());
@@ -107,20 +109,20 @@ TEST_F(TpmKeyStoreTest, SignsWithAKeyAtHandWhateverHappensMeanwhile) {
 
 TEST_F(TpmKeyStoreTest, LocksItselfAfterWrongPins) {
   store.create(pin());
-  EXPECT_FALSE(store.sign(digest, SecretBytes("271829")));
-  EXPECT_TRUE(store.sign(digest, pin()));
+  EXPECT_FALSE(store.sign(message, SecretBytes("271829")));
+  EXPECT_TRUE(store.sign(message, pin()));
   std::string lockout;
   for (int tries = 0; tries < 40 && lockout.empty(); ++tries) {
     try {
-      EXPECT_FALSE(store.sign(digest, SecretBytes("000001")));
+      EXPECT_FALSE(store.sign(message, SecretBytes("000001")));
     } catch (const KeyFailure& failure) {
       lockout = failure.what();
     }
   }
   EXPECT_THAT(lockout, HasSubstr("locked itself after too many wrong PINs"));
-  EXPECT_THAT(lockout, HasSubstr("minutes at most"));
+  EXPECT_THAT(lockout, HasSubstr("in 17 minutes at most"));  // of 1000 seconds
   // Not even the right one is listened to, and nobody is asked for it.
-  EXPECT_EQ(failureOf([&] { static_cast<void>(store.sign(digest, pin())); }), lockout);
+  EXPECT_EQ(failureOf([&] { static_cast<void>(store.sign(message, pin())); }), lockout);
   EXPECT_EQ(failureOf([&] { static_cast<void>(store.requireUsableKey()); }), lockout);
 }
 
@@ -131,14 +133,14 @@ TEST_F(TpmKeyStoreTest, TheLockHoldsOnlyBehindALockoutPassword) {
   EXPECT_EQ(store.secretKind(), SecretKind::unguardedPin);
   EXPECT_THAT(store.describe(), HasSubstr("No lockout password is set"));
   EXPECT_THAT(store.weakness(), HasSubstr("tpm2_changeauth -c lockout file:-"));
-  const auto guess = [&] { return store.sign(digest, SecretBytes("000001")).has_value(); };
+  const auto guess = [&] { return store.sign(message, SecretBytes("000001")).has_value(); };
   for (int round = 0; round < 50; ++round) {
     EXPECT_FALSE(guess());
     EXPECT_TRUE(round % 2 == 0 || tpm->undoLock());
   }
-  EXPECT_TRUE(store.sign(digest, pin()));
+  EXPECT_TRUE(store.sign(message, pin()));
 
-  tpm->setLockoutPassword("of the administrator");
+  tpm->setPassword(ESYS_TR_RH_LOCKOUT, "of the administrator");
   static_cast<void>(store.requireUsableKey());
   EXPECT_EQ(store.secretKind(), SecretKind::pin);
   EXPECT_THAT(store.describe(), HasSubstr("locks itself after too many wrong PINs."));
@@ -151,16 +153,38 @@ TEST_F(TpmKeyStoreTest, TheLockHoldsOnlyBehindALockoutPassword) {
   EXPECT_THAT(failureOf(guessOn), HasSubstr("locked itself"));
 }
 
+// What passes between the processor and the chip can be read there.
+TEST_F(TpmKeyStoreTest, ThePinIsEncryptedOnTheBus) {
+  store.create(pin());
+  EXPECT_TRUE(store.sign(message, pin()));
+  const auto value = digest::sha256(pin().text());
+  int sessions = 0;
+  for (const std::string& command : tpm->commands()) {
+    EXPECT_EQ(command.find({reinterpret_cast<const char*>(value.data()), value.size() - 1}),
+              std::string::npos);
+    if (command.substr(6, 4) != std::string("\0\0\x01\x76", 4)) continue;  // TPM2_StartAuthSession
+    ++sessions;
+    EXPECT_NE(command.substr(10, 4), std::string("\x40\0\0\x07", 4))
+        << "without a key, whoever listens knows the session's secret";
+  }
+  EXPECT_GE(sessions, 2);
+}
+
+TEST_F(TpmKeyStoreTest, AnOwnersPasswordIsNoticed) {
+  tpm->setPassword(ESYS_TR_RH_OWNER, "of the owner");
+  EXPECT_THAT(store.obstacle(), HasSubstr("storage hierarchy has a password"));
+}
+
 TEST_F(TpmKeyStoreTest, AClearedTpmIsNamedAndANewKeyHeals) {
   store.create(pin());
   clearTpm();
   EXPECT_TRUE(store.holdsKey());
   for (const auto& action :
        std::vector<std::function<void()>>{[&] { static_cast<void>(store.requireUsableKey()); },
-                                          [&] { static_cast<void>(store.sign(digest, pin())); }})
+                                          [&] { static_cast<void>(store.sign(message, pin())); }})
     EXPECT_THAT(failureOf(action), HasSubstr("the TPM was cleared, or the key comes from another"));
   store.create(pin());
-  EXPECT_TRUE(store.sign(digest, pin()));
+  EXPECT_TRUE(store.sign(message, pin()));
 }
 
 TEST_F(TpmKeyStoreTest, ADamagedFileIsNamed) {
@@ -183,6 +207,11 @@ TEST_F(TpmKeyStoreTest, OnlyASimulatorIsCalledOne) {
   EXPECT_EQ(real.describe().find("simulator"), std::string::npos);
   EXPECT_THAT(real.obstacle(), HasSubstr("/nonexistent/tpmrm0 does not exist"));
   EXPECT_EQ(real.evidentObstacle(), real.obstacle());
+  // A device that stays open is busy for the next one.
+  const auto open = [] { return std::distance(fs::directory_iterator("/proc/self/fd"), {}); };
+  const auto before = open();
+  EXPECT_NE(TpmKeyStore({.path = path, .device = "device:/dev/null"}).obstacle(), "");
+  EXPECT_EQ(open(), before);
 }
 
 }  // namespace

@@ -74,8 +74,14 @@ TEST_F(RegistryTest, AHandoffEndsOnce) {
   registry.open(handoff);
   Signature signature;
   signature.id = "s";
+  // What cannot be recorded ends nothing.
+  ASSERT_TRUE(registry.record(signature));
+  EXPECT_THROW((void)registry.complete("h", signature), RegistryError);
+  EXPECT_EQ(registry.handoff("h")->state, HandoffState::open);
+  signature.id = "u";
+  signature.nonce = "n2";
   EXPECT_TRUE(registry.complete("h", signature));
-  EXPECT_EQ(registry.handoff("h")->signatureId, "s");
+  EXPECT_EQ(registry.handoff("h")->signatureId, "u");
   signature.id = "t";
   EXPECT_FALSE(registry.complete("h", signature));
   EXPECT_FALSE(registry.signature("t").has_value());

@@ -143,17 +143,22 @@ TEST_F(ServiceTest, RecordsTheSignatureOfAnEnrolledDevice) {
   EXPECT_EQ(
       enrolled.body,
       json({{"status", "registered"}, {"device_id", deviceId}, {"identity", "Ada Lovelace"}}));
-  const Answer answer = post("/api/sign_native", signedRequest(request(), "ada lovelace"));
+  json fields = request();
+  fields["tz_offset"] = -210;
+  const Answer answer = post("/api/sign_native", signedRequest(fields, "ada lovelace"));
   ASSERT_EQ(answer.status, 200) << answer.body;
 
   const std::string page = verifyPageOf(answer);
   EXPECT_THAT(page, HasSubstr("&quot;isExpired&quot;:false"));
-  for (const char* shown :
-       {"Ada Lovelace", "1 January 2026", "31 January 2026", "statement",
-        "Email Message (Writer &lt;b&gt;)", deviceId, "Asia&#x2F;Kolkata (UTC+05:30)"}) {
+  for (const char* shown : {"Ada Lovelace", "1 January 2026", "31 January 2026", "statement",
+                            "Email Message (Writer &lt;b&gt;)", deviceId,
+                            "Asia&#x2F;Kolkata (UTC-03:30)", "1 January 2026, 00:00 UTC"}) {
     EXPECT_THAT(page, HasSubstr(shown));
   }
-  now_ += std::int64_t{31} * 24 * 60 * 60;
+  constexpr std::int64_t day = std::int64_t{24} * 60 * 60;
+  now_ += 30 * day;
+  EXPECT_THAT(verifyPageOf(answer), HasSubstr("&quot;isExpired&quot;:false")) << "its last day";
+  now_ += day;
   EXPECT_THAT(verifyPageOf(answer), HasSubstr("&quot;isExpired&quot;:true"));
 }
 
@@ -206,7 +211,8 @@ TEST_F(ServiceTest, DemonstrationsAreShownAsSuch) {
 TEST_F(ServiceTest, RefusesAWrongApiKeyEverywhere) {
   for (const char* path : {"/api/register_native", "/api/sign_native", "/api/sign_demo",
                            "/api/handoff/create", "/api/handoff/poll"}) {
-    EXPECT_EQ(post(path, {{"api_key", "the wrong one"}}).status, 401) << path;
+    for (const char* wrong : {"the wrong one", "", "the right ke", "the right keyy"})
+      EXPECT_EQ(post(path, {{"api_key", wrong}}).status, 401) << path << wrong;
     EXPECT_EQ(post(path, json::object()).status, 400) << path;
   }
 }

@@ -5,6 +5,7 @@
 #include <iomanip>
 #include <iostream>
 #include <map>
+#include <optional>
 #include <random>
 #include <set>
 #include <stdexcept>
@@ -13,6 +14,7 @@
 #include <utility>
 #include <vector>
 
+#include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
 #include "Disguises.h"
@@ -31,24 +33,16 @@ constexpr int cannotRead = 1;
 constexpr int wrongUsage = 2;
 constexpr std::size_t rulesShown = 25;
 
-constexpr const char* usage = R"(usage: screen-corpus [OPTION]... FILE...
+constexpr const char* description =
+    R"(Screens messages, as they are written and as they are read, and counts what would be refused,
+warned about and signed, for each source and label, to judge the content rules on real mail.
+Texts that are too short or too generic to be signed at all are left out of the rates.)";
 
-Screens messages, as they are written and as they are read, and counts what would be refused,
-warned about and signed, for each source and label, to judge the content rules on real mail. A FILE
-holds one JSON object a line, "lang" only for --by language:
+constexpr const char* footer =
+    R"(A FILE holds one JSON object a line, "lang" only for --by language:
   {"id": "...", "source": "...", "label": "ham", "lang": "en", "text": "..."}
-"-" is standard input (zcat mail.jsonl.gz | screen-corpus -). Texts that are too short or too
-generic to be signed at all are left out of the rates.
-
-  --list LABEL:VERDICT  print instead the messages of a label that are refused, warned or clean,
-                        each with the rules that hit
-  --by language         count for each language instead of each source
-  --as-written          screen the messages as they are written only
-  --disguise NAME       disguise each message first (a NAME that is none lists them)
-  --help                print this help
-
-Exit status: 0, or 1 when a file cannot be read, or 2 for a wrong use.
-)";
+"-" is standard input: zcat mail.jsonl.gz | screen-corpus -
+Exit status: 0, or 1 when a file cannot be read, or 2 for a wrong use.)";
 
 enum class Verdict : std::uint8_t { refused, warned, clean };
 
@@ -231,22 +225,47 @@ class Corpus {
   std::map<std::string, std::map<std::string, RuleCount>> rules_;
 };
 
-const Disguise* disguiseNamed(std::string_view name) {
-  const auto disguises = quillseal::testing::disguises();
-  const auto found = std::ranges::find(disguises, name, &Disguise::name);
-  if (found != disguises.end()) return &*found;
-  for (const Disguise& disguise : disguises)
-    std::cerr << disguise.name << '\n';
-  return nullptr;
+/// What is wrong with a "LABEL:VERDICT"; empty when nothing is.
+std::string listingFault(const std::string& listed) {
+  const std::size_t colon = listed.rfind(':');
+  for (const Verdict verdict : {Verdict::refused, Verdict::warned, Verdict::clean})
+    if (colon != 0 && colon != std::string::npos && listed.substr(colon + 1) == nameOf(verdict))
+      return "";
+  return "must be a label, a colon, and refused, warned or clean";
 }
 
-bool isListing(std::string_view listed) {
-  const std::size_t colon = listed.rfind(':');
-  if (colon == 0 || colon == std::string_view::npos) return false;
-  const std::string_view verdict = listed.substr(colon + 1);
-  return std::ranges::any_of(
-      std::initializer_list<Verdict>{Verdict::refused, Verdict::warned, Verdict::clean},
-      [&](Verdict known) { return nameOf(known) == verdict; });
+/// The options, or the status to exit with.
+std::optional<int> read(Options& options, std::vector<std::string>& paths, int argc, char** argv) {
+  CLI::App app(description, "screen-corpus");
+  app.footer(footer);
+  std::map<std::string, const Disguise*> disguises;
+  for (const Disguise& disguise : quillseal::testing::disguises())
+    disguises.emplace(disguise.name, &disguise);
+  std::string disguise;
+  app.add_option("FILE", paths, "messages to screen")->type_name("")->required();
+  app.add_option("--list", options.listed,
+                 "print instead the messages of a label that are refused,\n"
+                 "warned or clean, each with the rules that hit")
+      ->type_name("LABEL:VERDICT")
+      ->check(listingFault);
+  app.add_option_function<std::string>(
+         "--by", [&](const std::string&) { options.isByLanguage = true; },
+         "count for each language instead of each source")
+      ->type_name("language")
+      ->check(CLI::IsMember({"language"}).description(""));
+  app.add_flag("--as-written", options.isAsWritten, "screen the messages as they are written only");
+  app.add_option("--disguise", disguise,
+                 "disguise each message first (a NAME that is none lists them)")
+      ->type_name("NAME")
+      ->check(CLI::IsMember(&disguises).description(""));
+  app.set_help_flag("--help", "print this help");
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    return app.exit(error) == 0 ? EXIT_SUCCESS : wrongUsage;
+  }
+  if (!disguise.empty()) options.disguise = disguises.at(disguise);
+  return std::nullopt;
 }
 
 }  // namespace
@@ -254,33 +273,7 @@ bool isListing(std::string_view listed) {
 int main(int argc, char** argv) {
   Options options;
   std::vector<std::string> paths;
-  for (int i = 1; i < argc; ++i) {
-    const std::string argument = argv[i];
-    if (argument == "--help") {
-      std::cout << usage;
-      return EXIT_SUCCESS;
-    }
-    if (argument == "--list" && i + 1 < argc) {
-      options.listed = argv[++i];
-    } else if (argument == "--by" && i + 1 < argc && std::string_view(argv[i + 1]) == "language") {
-      options.isByLanguage = true;
-      ++i;
-    } else if (argument == "--as-written") {
-      options.isAsWritten = true;
-    } else if (argument == "--disguise" && i + 1 < argc) {
-      options.disguise = disguiseNamed(argv[++i]);
-      if (options.disguise == nullptr) return wrongUsage;
-    } else if (argument.starts_with("--")) {
-      std::cerr << usage;
-      return wrongUsage;
-    } else {
-      paths.push_back(argument);
-    }
-  }
-  if (paths.empty() || (!options.listed.empty() && !isListing(options.listed))) {
-    std::cerr << usage;
-    return wrongUsage;
-  }
+  if (const std::optional<int> status = read(options, paths, argc, argv)) return *status;
   try {
     Corpus corpus(options);
     for (const std::string& path : paths) {

@@ -58,12 +58,6 @@ TEST(CommandLineTest, SaysWhatItDoesNotUnderstand) {
   }
 }
 
-TEST(CommandLineTest, HelpNamesEveryOption) {
-  for (const char* option :
-       {"--sign", "--settings", "--quit", "--background", "--tpm", "--help", "--version"})
-    EXPECT_THAT(std::string(helpText()), HasSubstr(option));
-}
-
 // A second start without an option shows the settings: where the panel has no tray, that is the way
 // to them.
 TEST(CommandLineTest, ASecondStartOpensTheSettings) {

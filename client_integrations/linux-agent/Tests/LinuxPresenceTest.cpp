@@ -108,10 +108,12 @@ TEST_F(LinuxPresenceTest, TellsWhatTheMachineOffers) {
 
 TEST_F(LinuxPresenceTest, TheRightFingerPasses) {
   PresenceServices services({.touches = {{"verify-retry-scan", "verify-no-match"},
+                                         {"verify-no-match"},
                                          {"verify-swipe-too-short", "verify-match"}}});
   EXPECT_EQ(evaluate(biometrics), "yes");
-  EXPECT_THAT(services.end(), ElementsAre("GetDefaultDevice", "Claim", "VerifyStart", "VerifyStop",
-                                          "VerifyStart", "VerifyStop", "Release"));
+  EXPECT_THAT(services.end(),
+              ElementsAre("GetDefaultDevice", "Claim", "VerifyStart", "VerifyStop", "VerifyStart",
+                          "VerifyStop", "VerifyStart", "VerifyStop", "Release"));
   ASSERT_EQ(prompt.requests.size(), 1U);
   EXPECT_EQ(prompt.requests[0].reason, "Sign “x”");
   EXPECT_EQ(prompt.requests[0].medium, "LinkedIn Post");

@@ -31,24 +31,26 @@ const std::string selection =
 enum class Act { sign, enrol, settings, developmentSettings, menu };
 
 struct Story {
-  std::function<void(FakeDesktop&)> given;
   Act act;
   std::string mac;  ///< part of what the person is shown
+  std::function<void(FakeDesktop&)> given = [](FakeDesktop&) {};
   /// The same on Linux. Where it is empty, only machine and keys have other names.
   std::string tpm = {};
   std::string keyFile = tpm;
 };
 
-std::function<void(FakeDesktop&)> whilePasting(std::function<void(FakeDesktop&)> happening) {
-  return [happening = std::move(happening)](FakeDesktop& d) {
+using Desktop = FakeDesktop&;
+
+std::function<void(Desktop)> whilePasting(std::function<void(Desktop)> happening) {
+  return [happening = std::move(happening)](Desktop d) {
     d.beforePress = [&d, happening](desktop::Key key) {
       if (key == desktop::Key::v) happening(d);
     };
   };
 }
 
-std::function<void(FakeDesktop&)> inTheBrowser(const std::string& answer) {
-  return [answer](FakeDesktop& d) {
+std::function<void(Desktop)> inTheBrowser(const std::string& answer) {
+  return [answer](Desktop d) {
     d.hasKey = false;
     d.strings["SigningMode"] = "handoff";
     d.front->bundleIdentifier = d.active->bundleIdentifier = "browser";
@@ -59,141 +61,110 @@ std::function<void(FakeDesktop&)> inTheBrowser(const std::string& answer) {
   };
 }
 
-void nothing(FakeDesktop&) {}
+std::function<void(Desktop)> with(const char* flag) {
+  return [flag](Desktop d) { d.flags = {flag}; };
+}
+
+std::function<void(Desktop)> selecting(const std::string& text) {
+  return [text](Desktop d) { d.selection->text = text + selection; };
+}
+
+Error failing(const char* description) {
+  return Error({.domain = "", .code = 0, .description = description});
+}
 
 std::vector<Story> stories() {
   const std::string switchBack =
-      "Switch back to your message in Mail, select the text you signed, and press "
-      "⌘V.\n\nQuillseal ";
+      "Switch back to your message in Mail, select the text you signed, and press ⌘V.";
+  const std::string confirm =
+      "You are about to cryptographically authorize the following text with your ";
   return {
       // A run.
-      {nothing, Act::sign, "Signature Generated!"},
-      {[](FakeDesktop& d) { d.canHoldKey = false; }, Act::sign,
-       "Secure Enclave Required\nThis Mac has no Secure Enclave, so content cannot be signed in a "
-       "way that proves a person authorized it.",
+      {Act::sign, "Signature Generated!"},
+      {Act::sign, "Signature Generated!", with("DemoSigning")},
+      {Act::sign, "This Mac has no Secure Enclave, so content",
+       [](Desktop d) { d.canHoldKey = false; },
        "Signing Key Required\nThis computer has no usable TPM and no place for a key file, so "
-       "content cannot be signed in a way that proves a person authorized it."},
-      {[](FakeDesktop& d) { d.strings.erase("ServerURL"); }, Act::sign,
-       "This build names no signing server. Set “ServerURL” to the address of one with “defaults "
-       "write”, or install a packaged build from your provider.",
-       "This build names no signing server. Write a line “ServerURL=” with the address of one into "
-       "~/.config/Quillseal/Quillseal.conf, or install a packaged build from your provider."},
-      {[](FakeDesktop& d) { d.selection.reset(); }, Act::sign,
-       "Please type or highlight some text in Outlook (or any app) before pressing ⌘⌥⌃H.",
-       "Please type or highlight some text in Thunderbird (or any app) before pressing "
-       "Ctrl+Alt+Super+H."},
-      {[](FakeDesktop& d) { d.beforePress = [&d](desktop::Key) { d.ended = {1}; }; }, Act::sign,
-       "Go back to your text, select it and press ⌘⌥⌃H again."},
-      {[](FakeDesktop& d) { d.selection->text = "Too few"; }, Act::sign, "too short"},
-      {[](FakeDesktop& d) { d.selection->text = "I approve the payment. " + selection; }, Act::sign,
-       "payment instructions cannot be signed"},
-      {[](FakeDesktop& d) {
-         d.selection->text = "Our bank details have changed since the last order. " + selection;
-       },
-       Act::sign, "Sign this anyway?"},
-      {[](FakeDesktop& d) {
+       "content"},
+      {Act::sign, "with “defaults write”", [](Desktop d) { d.strings.erase("ServerURL"); },
+       "into ~/.config/Quillseal/Quillseal.conf"},
+      {Act::sign, "some text in Outlook (or any app) before pressing ⌘⌥⌃H.",
+       [](Desktop d) { d.selection.reset(); },
+       "some text in Thunderbird (or any app) before pressing Ctrl+Alt+Super+H."},
+      {Act::sign, "select it and press ⌘⌥⌃H again.",
+       [](Desktop d) { d.beforePress = [&d](desktop::Key) { d.ended = {1}; }; }},
+      {Act::sign, "too short", [](Desktop d) { d.selection->text = "Too few"; }},
+      {Act::sign, "payment instructions cannot be signed", selecting("I approve the payment. ")},
+      {Act::sign, "Sign this anyway?",
+       selecting("Our bank details have changed since the last order. ")},
+      {Act::sign, "Quillseal Is Busy",
+       [](Desktop d) {
          d.leavesDialogsOpen = true;
          d.flags = {"ConfirmBeforeSigning"};
-       },
-       Act::sign, "Quillseal Is Busy"},
-      {[](FakeDesktop& d) { d.flags = {"ConfirmBeforeSigning"}; }, Act::sign,
-       "You are about to cryptographically authorize the following text with your "
-       "fingerprint.\n\n" +
-           selection + "\n\nContext: ",
-       "You are about to cryptographically authorize the following text with your PIN.\n\n" +
-           selection + "\n\nContext: ",
-       "You are about to cryptographically authorize the following text with your "
-       "passphrase.\n\n" +
-           selection + "\n\nContext: "},
-      {[](FakeDesktop& d) { d.flags = {"ConfirmBeforeSigning"}; }, Act::sign,
-       "\nSign with Touch ID\n", "\nSign with PIN\n", "\nSign with Passphrase\n"},
-      {[](FakeDesktop& d) { d.flags = {"ConfirmBeforeSigning"}; }, Act::sign,
-       "The medium and recipient are covered by your fingerprint, so this signature does not "
-       "verify cleanly if the text is moved elsewhere.",
-       "The medium and recipient are covered by your signature, so it does not verify cleanly if "
-       "the text is moved elsewhere."},
-      {[](FakeDesktop& d) { d.flags = {"DemoSigning"}; }, Act::sign, "Signature Generated!"},
-      {[](FakeDesktop& d) {
-         d.signFailure = Error({.domain = "", .code = 0, .description = "No."});
-       },
-       Act::sign, "Secure Enclave signing failed: No.", "Signing with the TPM failed: No.",
+       }},
+      {Act::sign, confirm + "fingerprint.\n\n" + selection, with("ConfirmBeforeSigning"),
+       confirm + "PIN.\n\n" + selection, confirm + "passphrase.\n\n" + selection},
+      {Act::sign, "\nSign with Touch ID\n", with("ConfirmBeforeSigning"), "\nSign with PIN\n",
+       "\nSign with Passphrase\n"},
+      {Act::sign, "covered by your fingerprint, so this signature", with("ConfirmBeforeSigning"),
+       "covered by your signature, so it"},
+      {Act::sign, "Secure Enclave signing failed: No.",
+       [](Desktop d) { d.signFailure = failing("No."); }, "Signing with the TPM failed: No.",
        "Signing with the key file failed: No."},
-      {[](FakeDesktop& d) { d.signFailure = Error(Error::Fields{}); }, Act::sign,
-       "Secure Enclave signing failed: user cancelled or biometric failed",
+      {Act::sign, "Secure Enclave signing failed: user cancelled or biometric failed",
+       [](Desktop d) { d.signFailure = failing(""); },
        "Signing with the TPM failed: it was cancelled, or the PIN was wrong.",
        "Signing with the key file failed: it was cancelled, or the passphrase was wrong."},
-      {whilePasting([](FakeDesktop& d) { d.ended = {1}; }), Act::sign,
-       "Open your message again in Mail, select the text you signed, and press ⌘V.\n\nQuillseal "},
-      {whilePasting([](FakeDesktop& d) { d.active.reset(); }), Act::sign,
-       switchBack + "did not paste it for you: another window"},
-      {whilePasting([](FakeDesktop& d) { d.active->document = "Rent"; }), Act::sign,
-       switchBack + "did not paste it for you: the window shows"},
-      {[](FakeDesktop& d) { d.front->categories = d.active->categories = "TerminalEmulator;"; },
-       Act::sign, "does not paste into a terminal"},
-
+      {Act::sign, "Open your message again in Mail, select the text you signed, and press ⌘V.",
+       whilePasting([](Desktop d) { d.ended = {1}; })},
+      {Act::sign, switchBack, whilePasting([](Desktop d) { d.active.reset(); })},
+      {Act::sign, switchBack, whilePasting([](Desktop d) { d.active->document = "Rent"; })},
+      {Act::sign, "does not paste into a terminal",
+       [](Desktop d) { d.front->categories = d.active->categories = "TerminalEmulator;"; }},
       // In the browser.
-      {inTheBrowser(R"({"status":"complete","signature_id":"s"})"), Act::sign,
-       switchBack + "cannot paste it for you here: the signing page"},
-      {inTheBrowser(R"({"status":"expired"})"), Act::sign,
-       "The request timed out before it was signed. Nothing was signed. Select your text and press "
-       "⌘⌥⌃H again."},
-      {inTheBrowser(R"({"status":"waiting"})"), Act::sign,
-       "Quillseal stopped waiting for the browser. If you did sign, the signature exists and is "
-       "valid — press ⌘⌥⌃H again to insert a fresh one, or copy the link from the browser tab."},
-
+      {Act::sign, switchBack, inTheBrowser(R"({"status":"complete","signature_id":"s"})")},
+      {Act::sign, "Select your text and press ⌘⌥⌃H again.",
+       inTheBrowser(R"({"status":"expired"})")},
+      {Act::sign, "press ⌘⌥⌃H again to insert a fresh one",
+       inTheBrowser(R"({"status":"waiting"})")},
       // Enrolment.
-      {[](FakeDesktop& d) {
+      {Act::sign,
+       "Could Not Set Up This Mac\nQuillseal could not register this Mac with "
+       "https://seal.example.\n\nCould not create the Secure Enclave signing key: Full.",
+       [](Desktop d) {
          d.hasKey = false;
          d.strings["SigningMode"] = "enclave";
-         d.createFailure = Error({.domain = "", .code = 0, .description = "The disk is full."});
+         d.createFailure = failing("Full.");
        },
-       Act::sign,
-       "Could Not Set Up This Mac\nQuillseal could not register this Mac with "
-       "https://seal.example.\n\nCould not create the Secure Enclave signing key: The disk is "
-       "full.",
        "Could Not Set Up This Computer\nQuillseal could not register this computer with "
-       "https://seal.example.\n\nCould not create the signing key: The disk is full."},
-      {nothing, Act::enrol,
-       "✅ This Mac Is Enrolled\nA signing key was created inside the Secure Enclave. It cannot be "
-       "copied off this Mac, and every signature requires Touch ID.\n\nSignatures will be",
-       "✅ This Computer Is Enrolled\nA signing key was created inside the TPM. It cannot be copied "
-       "off this computer, and every signature requires your PIN.\n\nSignatures will be",
-       "✅ This Computer Is Enrolled\nA signing key was created in a key file on this computer. "
-       "Every signature requires your passphrase: whoever copies the file and learns it can sign "
-       "in your name.\n\nSignatures will be"},
-      {[](FakeDesktop& d) {
+       "https://seal.example.\n\nCould not create the signing key: Full."},
+      {Act::enrol, "✅ This Mac Is Enrolled\nA signing key was created inside the Secure Enclave.",
+       [](Desktop) {}, "✅ This Computer Is Enrolled\nA signing key was created inside the TPM.",
+       "✅ This Computer Is Enrolled\nA signing key was created in a key file on this computer."},
+      {Act::enrol, "is bound to this Mac yet",
+       [](Desktop d) {
          d.answers["/api/register_native"] = {{200, R"({"status":"ok","device_id":"d"})"}};
-       },
-       Act::enrol, "No verified identity is bound to this Mac yet, so signatures"},
-      {[](FakeDesktop& d) { d.exportsKey = false; }, Act::enrol,
-       "Enrolment Failed\nCould not export the Secure Enclave public key.",
-       "Enrolment Failed\nCould not export the public key of the key in the TPM.",
-       "Enrolment Failed\nCould not export the public key from the key file."},
-
-      // The settings.
-      {[](FakeDesktop& d) { d.hasKey = false; }, Act::settings,
-       "\nThis Mac\nNot set up yet. This happens automatically the first time you press ⌘⌥⌃H — "
-       "there is nothing to do here.\nNo verified identity is bound to this Mac. Signatures"},
-      {[](FakeDesktop& d) { d.hasKey = false; }, Act::settings, "\nEnrol This Mac\n"},
-      {nothing, Act::settings, "Enrolled — a signing key exists inside the Secure Enclave.",
-       "Enrolled — a signing key exists inside the TPM.",
-       "Enrolled — a signing key exists in a key file, encrypted with your passphrase."},
-      {nothing, Act::settings,
-       "\nRe-enrol This Mac\nRe-enrolling creates a NEW key. Signatures already made remain "
-       "verifiable, but this Mac must be re-enrolled on the server.\n"},
-      {[](FakeDesktop& d) { d.loadFailure = Error(Error::Fields{}); }, Act::settings,
-       "Quillseal could not find out whether this Mac has a signing key: the"},
-      {nothing, Act::developmentSettings,
-       "not proof of who you are — that comes from the Secure Enclave key below.",
-       "not proof of who you are — that comes from the TPM key below.",
-       "not proof of who you are — that comes from the signing key below."},
-
-      // The menu and the hotkey.
-      {nothing, Act::menu, "\nSign Selected Text (⌘⌥⌃H)\n"},
-      {[](FakeDesktop& d) {
-         d.hotkeyFailure = Error({.domain = "", .code = 0, .description = "X"});
-       },
-       Act::menu, "Hotkey Is Not Available"},
+       }},
+      {Act::enrol, "Could not export the Secure Enclave public key.",
+       [](Desktop d) { d.exportsKey = false; },
+       "Could not export the public key of the key in the TPM.",
+       "Could not export the public key from the key file."},
+      // Settings, menu and hotkey.
+      {Act::settings,
+       "the first time you press ⌘⌥⌃H — there is nothing to do here.\nNo verified identity is "
+       "bound to this Mac.",
+       [](Desktop d) { d.hasKey = false; }},
+      {Act::settings, "\nEnrol This Mac\n", [](Desktop d) { d.hasKey = false; }},
+      {Act::settings, "key exists inside the Secure Enclave.", [](Desktop) {},
+       "key exists inside the TPM.", "key exists in a key file, encrypted with your passphrase."},
+      {Act::settings, "\nRe-enrol This Mac\n"},
+      {Act::settings, "this Mac must be re-enrolled"},
+      {Act::settings, "find out whether this Mac has a signing key",
+       [](Desktop d) { d.loadFailure = Error(Error::Fields{}); }},
+      {Act::developmentSettings, "from the Secure Enclave key below.", [](Desktop) {},
+       "from the TPM key below.", "from the signing key below."},
+      {Act::menu, "\nSign Selected Text (⌘⌥⌃H)\n"},
+      {Act::menu, "Hotkey Is Not Available", [](Desktop d) { d.hotkeyFailure = failing("X"); }},
   };
 }
 

@@ -5,8 +5,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "EcdsaVectors.h"
-#include "core/text/Digest.h"
 #include "keys/P256.h"
 
 namespace quillseal::linux::P256 {
@@ -21,21 +19,6 @@ std::vector<std::uint8_t> integer(std::size_t zeros, std::uint8_t first, std::si
   bytes.push_back(first);
   bytes.resize(length, 0x11);
   return bytes;
-}
-
-// The check that every signature passes before it leaves the agent.
-TEST(P256, VerifiesAsPublished) {
-  for (const devserver::EcdsaVector& vector : devserver::ecdsaVectors()) {
-    Point point{};
-    ASSERT_EQ(vector.publicKey.size(), point.size());
-    std::ranges::copy(bytesOf(vector.publicKey), point.begin());
-    const auto signature = bytesOf(vector.signature);
-    EXPECT_EQ(
-        verifies(
-            {.publicKey = point, .digest = digest::sha256(vector.message), .signature = signature}),
-        vector.isValid)
-        << vector.name;
-  }
 }
 
 // X.690, 8.3: as few bytes as hold the number and, since it is none below zero, a clear first bit.

@@ -97,7 +97,7 @@ TEST_F(QtDefaultsTest, ReadsWhatPeopleWrite) {
   overwrite(path_,
             "# mine\n\n[General]\nServerURL = https://a.example \nBoundIdentity=Lovelace, Ada\r\n"
             "DemoSigning=YES\nConfirmBeforeSigning=0\nQuillsealDebugCapture=maybe\n[Other]\nx=1\n");
-  fs::permissions(path_, fs::perms::group_read, fs::perm_options::add);
+  fs::permissions(path_, fs::perms::owner_all | fs::perms::group_read);
   const QtDefaults defaults = make();
   EXPECT_EQ(defaults.string("ServerURL"), "https://a.example");
   EXPECT_EQ(defaults.string("BoundIdentity"), "Lovelace, Ada");

@@ -1,5 +1,4 @@
 #include <string>
-#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -39,21 +38,6 @@ TEST(SecretPrompt, ObjectsToSecretsThatAreSoonGuessed) {
   };
   for (const Row& row : rows)
     EXPECT_EQ(objectionTo(row.kind, SecretBytes(row.secret)).empty(), row.acceptable) << row.secret;
-}
-
-TEST(SecretBytes, LeavesNothingBehind) {
-  SecretBytes secret("a passphrase");
-  const auto* bytes = secret.bytes().data();
-  secret.shorten(2);
-  EXPECT_EQ(secret.text(), "a ");
-  EXPECT_EQ(bytes[2], 0);
-  EXPECT_EQ(bytes[11], 0);
-
-  SecretBytes moved(std::move(secret));
-  EXPECT_EQ(moved.text(), "a ");
-  EXPECT_TRUE(secret.empty());  // NOLINT(bugprone-use-after-move,clang-analyzer-cplusplus.Move)
-  moved = SecretBytes("other");
-  EXPECT_EQ(moved.text(), "other");
 }
 
 }  // namespace

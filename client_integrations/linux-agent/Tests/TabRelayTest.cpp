@@ -53,6 +53,7 @@ class Relay {
       throw std::runtime_error("pipe");
     process_ = ::fork();
     if (process_ == 0) {
+      ::signal(SIGPIPE, SIG_DFL);
       ::dup2(toRelay[0], STDIN_FILENO);
       ::dup2(fromRelay[1], STDOUT_FILENO);
       for (const int end : {toRelay[0], toRelay[1], fromRelay[0], fromRelay[1]})

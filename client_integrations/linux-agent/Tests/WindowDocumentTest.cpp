@@ -43,6 +43,8 @@ TEST(WindowDocumentTest, DiffersWhenTheDocumentDoes) {
       {{"letter (2).txt - Mousepad"}, {"letter (3).txt - Mousepad"}},
       {{"Report (2) - Docs"}, {"Report - Docs"}},
       {{"(3) Inbox"}, {"(3) Drafts"}},
+      {{"Report"}, {"Report 2"}},
+      {{"Report 2"}, {"Report"}},
       {{"(draft) Inbox"}, {"(final) Inbox"}},
       {{"(2026) Taxes"}, {"() Taxes"}},
       {{"Inbox"}, {""}},

@@ -1,27 +1,15 @@
 #include <gtest/gtest.h>
 
-#include "EcdsaVectors.h"
 #include "Quillseal/CryptoManager.h"
 #include "SignatureCheck.h"
+#include "TestDevice.h"
 
 namespace quillseal::devserver {
 namespace {
 
-TEST(SignatureCheck, AnswersAsPublished) {
-  const std::vector<EcdsaVector> vectors = ecdsaVectors();
-  EXPECT_EQ(vectors.size(), 159U);
-  for (const EcdsaVector& vector : vectors) {
-    EXPECT_TRUE(isPublicKey(vector.publicKey)) << vector.name;
-    EXPECT_EQ(isSignedBy({.publicKey = vector.publicKey,
-                          .digestHex = CryptoManager::sha256Hex(vector.message),
-                          .signature = vector.signature}),
-              vector.isValid)
-        << vector.name;
-  }
-}
-
 TEST(SignatureCheck, TakesOnlyUncompressedPointsOfTheCurve) {
-  const std::string point = ecdsaVectors().front().publicKey;
+  const std::string point = decodedBase64(TestDevice().publicKey()).value();
+  EXPECT_TRUE(isPublicKey(point));
   const auto with = [&point](std::size_t at, char byte) {
     return std::string(point).replace(at, 1, 1, byte);
   };
@@ -41,18 +29,27 @@ TEST(SignatureCheck, TakesOnlyUncompressedPointsOfTheCurve) {
     EXPECT_FALSE(isPublicKey(other)) << testing::PrintToString(other);
 }
 
-// A digest is 32 bytes and nothing else; OpenSSL itself would cut a longer one.
-TEST(SignatureCheck, TakesOnlyWholeDigests) {
-  const EcdsaVector vector = ecdsaVectors().front();
-  const std::string digest = CryptoManager::sha256Hex(vector.message);
-  const auto check = [&vector](const std::string& digestHex) {
-    return isSignedBy(
-        {.publicKey = vector.publicKey, .digestHex = digestHex, .signature = vector.signature});
+TEST(SignatureCheck, TakesOnlyWholeDigestsAndStrictDer) {
+  const TestDevice device;
+  const std::string point = decodedBase64(device.publicKey()).value();
+  const std::string digest = CryptoManager::sha256Hex("message");
+  const std::string signature = decodedBase64(device.sign(digest)).value();
+  const auto check = [&point](const std::string& digestHex, const std::string& der) {
+    return isSignedBy({.publicKey = point, .digestHex = digestHex, .signature = der});
   };
-  EXPECT_EQ(check(digest), vector.isValid);
+  EXPECT_TRUE(check(digest, signature));
+  EXPECT_FALSE(isSignedBy({.publicKey = decodedBase64(TestDevice().publicKey()).value(),
+                           .digestHex = digest,
+                           .signature = signature}));
+  // A digest is 32 bytes and nothing else; OpenSSL itself would cut a longer one.
   for (const std::string& other : {std::string(), digest.substr(2), digest + "00", digest + "0",
                                    ' ' + digest, digest.substr(0, 62) + "zz"})
-    EXPECT_FALSE(check(other)) << other;
+    EXPECT_FALSE(check(other, signature)) << other;
+  std::string longForm = signature;
+  longForm.insert(1, "\x81");  // the length in two bytes, which BER allows
+  for (const std::string& other :
+       {std::string(), signature + '\0', longForm, signature.substr(0, signature.size() - 1)})
+    EXPECT_FALSE(check(digest, other)) << testing::PrintToString(other);
 }
 
 TEST(SignatureCheck, ReadsBase64Strictly) {

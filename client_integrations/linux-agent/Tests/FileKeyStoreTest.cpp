@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <array>
-#include <csignal>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -8,7 +7,6 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -209,20 +207,11 @@ TEST_F(FileKeyStoreTest, WhatSomebodyElsePutThereIsNotUsed) {
   EXPECT_TRUE(fs::is_empty(folder.path() / "real"));
 }
 
-// A full disk, as far as a process can have its own: the file may not grow beyond 100 bytes.
 TEST_F(FileKeyStoreTest, AFullDiskKeepsTheOldKey) {
   store.create(passphrase());
   const P256::Point before = store.publicKey();
-  rlimit usual{};
-  ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &usual), 0);
-  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-  rlimit small = usual;
-  small.rlim_cur = 100;
-  ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
-  const std::string failure = failureOf([&] { store.create(passphrase()); });
-  ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &usual), 0);
-  std::signal(SIGXFSZ, handler);
-
+  std::string failure;
+  testing::onFullDisk(100, [&] { failure = failureOf([&] { store.create(passphrase()); }); });
   EXPECT_THAT(failure, StartsWith("could not write"));
   EXPECT_EQ(store.publicKey(), before);
   EXPECT_TRUE(store.sign(digest, passphrase()));

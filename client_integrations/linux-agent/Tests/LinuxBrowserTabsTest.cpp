@@ -136,6 +136,15 @@ class LinuxBrowserTabsTest : public ::testing::Test {
     ticket_ = tabs_->closeAndRestore(request, [this](bool closed) { closed_ = closed; });
   }
 
+  /// What the agent is told when the browser answers that it shows this tab.
+  std::optional<std::string> tabShownBy(Browser& browser, const std::string& program,
+                                        std::int64_t tab) {
+    askTab(program);
+    browser.answerTab(tab, 1);
+    settle();
+    return tab_;
+  }
+
   void settle() {
     descriptors_.serve();
     while (loop_.elapsed() < deadline_ && loop_.step())
@@ -164,14 +173,8 @@ TEST_F(LinuxBrowserTabsTest, KeepsTheSocketToItself) {
 TEST_F(LinuxBrowserTabsTest, AsksOnlyTheBrowserInQuestion) {
   const auto chromium = connected("chromium");
   const auto firefox = connected("firefox-esr");
-  askTab("chromium");
-  chromium->answerTab(12, 1);
-  settle();
-  EXPECT_EQ(tab_, "1.12");
-  askTab("firefox-esr");
-  firefox->answerTab(1, 1);
-  settle();
-  EXPECT_EQ(tab_, "2.1");
+  EXPECT_EQ(tabShownBy(*chromium, "chromium", 12), "1.12");
+  EXPECT_EQ(tabShownBy(*firefox, "firefox-esr", 1), "2.1");
   EXPECT_LT(loop_.elapsed(), LinuxBrowserTabs::longestWait);
 }
 
@@ -246,10 +249,7 @@ TEST_F(LinuxBrowserTabsTest, IsDoneOnlyWhenClosedAndRestored) {
 TEST_F(LinuxBrowserTabsTest, GivesUpAfterTheLongestWait) {
   const auto hanging = connected("chromium");
   const auto working = connected("chromium");
-  askTab("chromium");
-  working->answerTab(7, 1);
-  settle();
-  EXPECT_EQ(tab_, "2.7");
+  EXPECT_EQ(tabShownBy(*working, "chromium", 7), "2.7");
   EXPECT_EQ(loop_.elapsed(), LinuxBrowserTabs::longestWait);
 
   askClose({.browser = "chromium", .urlContains = "/handoff?h=1", .tab = "1.5"});
@@ -337,10 +337,7 @@ TEST_F(LinuxBrowserTabsTest, HoldsNoMoreConnectionsThanAPersonHasBrowsers) {
   browsers.pop_back();
   descriptors_.serve();
   const auto another = connected("firefox-esr");
-  askTab("firefox-esr");
-  another->answerTab(5, 1);
-  settle();
-  EXPECT_EQ(tab_, "33.5");
+  EXPECT_EQ(tabShownBy(*another, "firefox-esr", 5), "33.5");
 }
 
 TEST_F(LinuxBrowserTabsTest, LetsSilentConnectionsShutNobodyOut) {
@@ -350,10 +347,7 @@ TEST_F(LinuxBrowserTabsTest, LetsSilentConnectionsShutNobodyOut) {
     descriptors_.serve();
   }
   const auto chromium = connected("chromium");
-  askTab("chromium");
-  chromium->answerTab(5, 1);
-  settle();
-  EXPECT_EQ(tab_, "41.5");
+  EXPECT_EQ(tabShownBy(*chromium, "chromium", 5), "41.5");
 
   deadline_ += LinuxBrowserTabs::greetingPatience;
   while (loop_.step())
@@ -361,10 +355,7 @@ TEST_F(LinuxBrowserTabsTest, LetsSilentConnectionsShutNobodyOut) {
   EXPECT_EQ(loop_.elapsed(), LinuxBrowserTabs::greetingPatience);
   EXPECT_TRUE(std::ranges::all_of(silent, isClosed)) << "the last of them by their time";
   EXPECT_THAT(log_.text, HasSubstr("a relay: has not said which browser it is for"));
-  askTab("chromium");
-  chromium->answerTab(6, 1);
-  settle();
-  EXPECT_EQ(tab_, "41.6") << "a greeting holds";
+  EXPECT_EQ(tabShownBy(*chromium, "chromium", 6), "41.6") << "a greeting holds";
 }
 
 TEST_F(LinuxBrowserTabsTest, AsRootHearsNoOtherUserEvenWhereTheFoldersWouldLetOneIn) {
@@ -412,10 +403,7 @@ TEST_F(LinuxBrowserTabsTest, TakesThePlaceOfAnAgentThatHasGoneButNotOfOneThatRun
   testing::overwrite(runtime_.path() / "quillseal" / ("tabs." + std::to_string(::getpid())), "");
   tabs_.emplace(LinuxBrowserTabs::Services{loop_, descriptors_, log_});
   const auto chromium = connected("chromium");
-  askTab("chromium");
-  chromium->answerTab(5, 1);
-  settle();
-  EXPECT_EQ(tab_, "1.5");
+  EXPECT_EQ(tabShownBy(*chromium, "chromium", 5), "1.5");
 }
 
 TEST_F(LinuxBrowserTabsTest, TrustsNoFolderThatOthersCouldChange) {

@@ -1,7 +1,6 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <array>
-#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -11,7 +10,6 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -57,28 +55,27 @@ class QtDefaultsTest : public ::testing::Test {
 };
 
 TEST_F(QtDefaultsTest, KeepsValuesForTheirOwnerOnly) {
-  const std::vector<std::string> values{"https://a.example:8443/",
-                                        "",
-                                        " two  blanks ",
-                                        "a, b; c = d",
-                                        "\"quoted\" \\ back",
-                                        "a;b\\",
-                                        "Smith, X\\",
-                                        "\\\"",
-                                        "@Invalid()",
-                                        "é 日本 🛡️",
-                                        "tab\there",
-                                        "a,b",
-                                        "a;b",
-                                        "a\\b",
-                                        "a\\x41b",
-                                        "\"",
-                                        "a=b=",
-                                        "%41",
-                                        "#",
-                                        ";",
-                                        "[x]"};
-  for (const std::string& value : values) {
+  for (const char* value : {"https://a.example:8443/",
+                            "",
+                            " two  blanks ",
+                            "a, b; c = d",
+                            "\"quoted\" \\ back",
+                            "a;b\\",
+                            "Smith, X\\",
+                            "\\\"",
+                            "@Invalid()",
+                            "é 日本 🛡️",
+                            "tab\there",
+                            "a,b",
+                            "a;b",
+                            "a\\b",
+                            "a\\x41b",
+                            "\"",
+                            "a=b=",
+                            "%41",
+                            "#",
+                            ";",
+                            "[x]"}) {
     {
       QtDefaults defaults = make();
       defaults.setString("BoundIdentity", value);
@@ -275,21 +272,11 @@ TEST_F(QtDefaultsTest, ServesOtherThreadsWhileItIsChanged) {
   EXPECT_EQ(defaults.string("APIKey"), std::to_string(rounds));
 }
 
-// A full disk, as far as a process can have its own: no file may grow beyond 10 bytes.
 TEST_F(QtDefaultsTest, AFullDiskKeepsTheEarlierSettings) {
   make().setString("ServerURL", "https://a.example");
   const std::string before = contentsOf(path_);
   QtDefaults defaults = make();
-  rlimit usual{};
-  ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &usual), 0);
-  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-  rlimit small = usual;
-  small.rlim_cur = 10;
-  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
-  defaults.setString("BoundIdentity", "Ada");
-  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &usual), 0);
-  std::signal(SIGXFSZ, handler);
-
+  testing::onFullDisk(10, [&] { defaults.setString("BoundIdentity", "Ada"); });
   EXPECT_EQ(contentsOf(path_), before);
   EXPECT_EQ(defaults.string("BoundIdentity"), "Ada") << "for as long as the agent runs";
   EXPECT_TRUE(eventually([&] { return !warnings_.empty(); }));

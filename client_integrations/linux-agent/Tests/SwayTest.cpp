@@ -159,6 +159,10 @@ std::string layoutWithH(int key) {
 }
 
 struct Agent {
+  [[nodiscard]] SwayHotkey::Services services(const std::string& socket) {
+    return {.loop = loop, .descriptors = loop, .connection = *connection, .socket = socket};
+  }
+
   PollLoop loop;
   std::unique_ptr<WaylandConnection> connection = WaylandConnection::open();
 };
@@ -169,10 +173,7 @@ TEST(SwayHotkeyTest, IsPressedOnceHoweverLongItIsHeld) {
   Agent agent;
   int presses = 0;
   {
-    SwayHotkey keys({.loop = agent.loop,
-                     .descriptors = agent.loop,
-                     .connection = *agent.connection,
-                     .socket = sway.path()});
+    SwayHotkey keys(agent.services(sway.path()));
     keys.registerHotkey(hotkey, [&] { ++presses; });
     const auto bound = [](const char* kind) {
       return AllOf(HasSubstr(kind), HasSubstr(" Control+Mod1+Mod4+43 nop quillseal "));
@@ -206,10 +207,7 @@ TEST(SwayHotkeyTest, SaysWhyThereIsNone) {
   for (const auto& row : rows) {
     ScriptedSway sway(row.script);
     Agent agent;
-    SwayHotkey keys({.loop = agent.loop,
-                     .descriptors = agent.loop,
-                     .connection = *agent.connection,
-                     .socket = row.isSway ? sway.path() : ""});
+    SwayHotkey keys(agent.services(row.isSway ? sway.path() : ""));
     try {
       keys.registerHotkey(hotkey, [] {});
       ADD_FAILURE() << row.part;
@@ -225,10 +223,7 @@ TEST(SwayHotkeyTest, LeavesNothingBoundAfterItWasRefused) {
   ScriptedSway halfWilling({.bindsReleases = false});
   Agent agent;
   for (ScriptedSway* refusing : {&sway, &halfWilling}) {
-    SwayHotkey keys({.loop = agent.loop,
-                     .descriptors = agent.loop,
-                     .connection = *agent.connection,
-                     .socket = refusing->path()});
+    SwayHotkey keys(agent.services(refusing->path()));
     EXPECT_THROW(keys.registerHotkey(hotkey, [] {}), Error);
     const auto atOnce = refusing->commands();
     compositor.setLayout(layoutWithH(refusing == &sway ? 44 : 45));

@@ -135,6 +135,7 @@ class TabRelayTest : public ::testing::Test {
 
   /// A relay that has found the agent and said its greeting.
   void connect() {
+    listening_.reset();
     listening_.emplace(TabSocket::listen());
     relay_.emplace(chromiumCall);
     accept();
@@ -190,20 +191,14 @@ TEST_F(TabRelayTest, PassesMessagesBothWays) {
   EXPECT_EQ(messageFrom(*agent_), answer);
 }
 
-TEST_F(TabRelayTest, WaitsForTheAgent) {
-  relay_.emplace(chromiumCall);
-  relay_->awaitWatching();
-  listening_.emplace(TabSocket::listen());
-  accept();
-}
-
-TEST_F(TabRelayTest, WaitsWhereAnAgentHasDied) {
-  listening_.emplace(TabSocket::listen());
-  listening_.reset();
-  relay_.emplace(chromiumCall);
-  relay_->awaitWatching();
-  listening_.emplace(TabSocket::listen());
-  accept();
+TEST_F(TabRelayTest, WaitsForTheAgentAlsoWhereOneHasDied) {
+  for (int agents = 0; agents < 2; ++agents) {
+    listening_.reset();
+    relay_.emplace(chromiumCall);
+    relay_->awaitWatching();
+    listening_.emplace(TabSocket::listen());
+    accept();
+  }
 }
 
 TEST_F(TabRelayTest, EndsWithTheBrowserAndWithTheAgent) {
@@ -212,14 +207,12 @@ TEST_F(TabRelayTest, EndsWithTheBrowserAndWithTheAgent) {
   EXPECT_EQ(relay_->status(), 0);
   EXPECT_EQ(messageFrom(*agent_), std::nullopt);
 
-  listening_.reset();
   connect();
   relay_->closeOutput();
   ASSERT_TRUE(
       TabSocket::send(*agent_, TabMessages::framed(R"({"id":1,"operation":"currentTab"})")));
   EXPECT_EQ(relay_->status(), 0);
 
-  listening_.reset();
   connect();
   agent_.reset();
   EXPECT_EQ(relay_->status(), 0);
@@ -229,13 +222,11 @@ TEST_F(TabRelayTest, EndsWhenEitherSideBreaksTheProtocol) {
   const std::string wellFormed = TabMessages::framed(R"({"id":1})");
   for (const std::string& bytes : {std::string(4, '\0'), std::string(4, '\xff'),
                                    TabMessages::framed("nonsense"), wellFormed}) {
-    listening_.reset();
     connect();
     relay_->write(bytes);
     EXPECT_EQ(relay_->status(), 1);
     EXPECT_EQ(messageFrom(*agent_), std::nullopt);
 
-    listening_.reset();
     connect();
     ASSERT_TRUE(TabSocket::send(*agent_, bytes));
     EXPECT_EQ(relay_->status(), 1);
@@ -258,13 +249,10 @@ TEST_F(TabRelayTest, PassesOnNothingThatIsNoPartOfAMessage) {
   EXPECT_EQ(relay_->status(), 1);
 }
 
-TEST_F(TabRelayTest, HearsNoBrowserThatWasNotAsked) {
+TEST_F(TabRelayTest, HearsNoBrowserThatWasNotAskedAndTrustsNoFolderThatOthersCouldChange) {
   relay_.emplace(chromiumCall);
   relay_->write(TabMessages::framed(R"({"id":1,"operation":"currentTab","tab":4,"focusedAt":9})"));
   EXPECT_EQ(relay_->status(), 1);
-}
-
-TEST_F(TabRelayTest, TrustsNoFolderThatOthersCouldChange) {
   std::filesystem::permissions(runtime_.path(), std::filesystem::perms::all);
   relay_.emplace(chromiumCall);
   EXPECT_EQ(relay_->status(), 1);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -7,6 +8,8 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+
+#include <sys/resource.h>
 
 namespace quillseal::testing {
 
@@ -38,6 +41,19 @@ inline std::string contentsOf(const std::filesystem::path& path) {
 
 inline void overwrite(const std::filesystem::path& path, std::string_view contents) {
   std::ofstream(path, std::ios::binary | std::ios::trunc) << contents;
+}
+
+/// Runs `action` with a full disk, as far as a process can have its own: no file may grow beyond
+/// `bytes`.
+inline void onFullDisk(rlim_t bytes, const auto& action) {
+  rlimit usual{};
+  if (::getrlimit(RLIMIT_FSIZE, &usual) != 0) throw std::runtime_error("no limits");
+  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+  const rlimit small{.rlim_cur = bytes, .rlim_max = usual.rlim_max};
+  ::setrlimit(RLIMIT_FSIZE, &small);
+  action();
+  ::setrlimit(RLIMIT_FSIZE, &usual);
+  static_cast<void>(std::signal(SIGXFSZ, handler));
 }
 
 }  // namespace quillseal::testing

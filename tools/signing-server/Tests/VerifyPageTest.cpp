@@ -309,26 +309,28 @@ report(`${more.hidden} ${shown.textContent === text}`);
 
 TEST_F(VerifyPageTest, AnswersSoonWhateverIsPasted) {
   constexpr int longest = 200'000;
-  const std::vector<std::string> units{"『",
-                                       "『』",
-                                       "』QUILLSEAL",
-                                       "🛡─",
-                                       ">",
-                                       "> a\n",
-                                       "a ",
-                                       "a 1 ",
-                                       "<",
-                                       "\u200b\u200c",
-                                       "\u202e\u1680",
-                                       "Check this signature → ",
-                                       "http://a ",
-                                       "({link})",
-                                       "a\u0301\u0323",
-                                       "字",
-                                       "👩\u200d",
-                                       "ب\u200c",
-                                       "\U000E0041",
-                                       "a"};
+  std::vector<std::string> units;
+  for (const char* unit : {"『",
+                           "『』",
+                           "』QUILLSEAL",
+                           "🛡─",
+                           ">",
+                           "> a\n",
+                           "a ",
+                           "a 1 ",
+                           "<",
+                           "\u200b\u200c",
+                           "\u202e\u1680",
+                           "Check this signature → ",
+                           "http://a ",
+                           "({link})",
+                           "a\u0301\u0323",
+                           "字",
+                           "👩\u200d",
+                           "ب\u200c",
+                           "\U000E0041",
+                           "a"})
+    units.emplace_back(unit);
   const std::string empty = recorded("");
   json list = json::array();
   for (const std::string& unit : units) {

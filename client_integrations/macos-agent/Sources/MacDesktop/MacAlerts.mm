@@ -126,8 +126,7 @@ NSAlert* alertFrom(const std::string& title, const std::string& body, desktop::A
   }
   const CGFloat below = form != nil ? NSHeight(form.frame) + gap : 0;
   NSView* scroller = scrollingText(text, below);
-  NSView* both = [[NSView alloc]
-      initWithFrame:NSMakeRect(0, 0, formWidth, NSMaxY(scroller.frame))];
+  NSView* both = [[NSView alloc] initWithFrame:NSMakeRect(0, 0, formWidth, NSMaxY(scroller.frame))];
   [both addSubview:scroller];
   if (form != nil) [both addSubview:form];
   alert.accessoryView = both;

@@ -55,9 +55,9 @@ class QuillsealApp {
   MacMainLoop loop_;
   MacAlerts alerts_{{.loop = loop_, .log = log_}};
   MacApplications applications_{loop_};
-  MacDefaults defaults_{{.loop = loop_, .log = log_}, {std::string(Settings::serverURL.key),
-                                                       std::string(Settings::apiKey.key),
-                                                       std::string(Settings::boundIdentity.key)}};
+  MacDefaults defaults_{{.loop = loop_, .log = log_},
+                        {std::string(Settings::serverURL.key), std::string(Settings::apiKey.key),
+                         std::string(Settings::boundIdentity.key)}};
   MacFiles files_;
   MacHotkey hotkey_{loop_};
   MacHttpTransport http_{loop_};

@@ -14,6 +14,7 @@
 namespace quillseal {
 namespace {
 
+using reading::Cell;
 using reading::Cells;
 using reading::Contents;
 using reading::Reading;
@@ -261,57 +262,218 @@ const std::array<Kind, 0x80>& asciiKinds() {
   return kinds;
 }
 
+/// Words of wide letters with nothing but single blanks between them.
+struct WideRun {
+  std::size_t end = 0;
+  std::size_t firstBlank = 0;  ///< zero when there is none
+  std::size_t lastBlank = 0;
+  reading::WideWords words;
+};
+
 /// Decodes a part of a text into cells and replaces code points that always read as something else.
 class Decoder {
  public:
-  Decoder(std::string_view text, Cells& cells) : text_(text), cells_(cells) {}
+  /// `mergesWords`: words of wide letters need no cells of their own.
+  Decoder(std::string_view text, Cells& cells, bool mergesWords)
+      : text_(text), cells_(cells), mergesWords_(mergesWords) {}
 
   /// Returns whether any code point reads as something else.
   bool decode(std::size_t start, std::size_t end) {
-    bool isChanged = false;
+    end_ = end;
     for (std::size_t position = start; position < end;) {
+      if (takeWideLetters(position)) continue;
       const std::size_t first = position;
       const char32_t scalar = unicode::decodeNext(text_, position);
       if (scalar < ascii_.size() && ascii_[scalar] != Kind::invisible) {
         contents_.hasFormsByNeighbour =
             contents_.hasFormsByNeighbour || scalar == U'<' || scalar == U'>';
-        contents_.hasLettersOrStops = contents_.hasLettersOrStops ||
-                                      ascii_[scalar] == Kind::letter ||
-                                      ascii_[scalar] == Kind::stop;
-        add(scalar, first, position, ascii_[scalar], true);
+        const Kind kind = ascii_[scalar];
+        contents_.hasLettersOrStops =
+            contents_.hasLettersOrStops || kind == Kind::letter || kind == Kind::stop;
+        contents_.hasLettersOrDigits =
+            contents_.hasLettersOrDigits || kind == Kind::letter || kind == Kind::digit;
+        add(scalar, first, position, kind, true);
         continue;
       }
       const Reading& reading = reading::compiledTables.of(scalar);
       note(reading.kind);
       if (reading.kind == Kind::same) {
-        isChanged = true;
-        for (const char letter : reading.view())
-          add(static_cast<char32_t>(letter), first, position,
-              ascii_[static_cast<unsigned char>(letter)], false);
+        isChanged_ = true;
+        addForm(reading.view(), first, position);
       } else if (reading.kind == Kind::invisible) {
-        isChanged = true;
-        // A soft hyphen is visible at the end of a line.
-        const bool isDrawn = scalar == softHyphen && position < end &&
-                             (text_[position] == '\n' || text_[position] == '\r');
-        if (isDrawn) add(U'-', first, position, Kind::sign, false);
-      } else {
+        readInvisible(scalar, first, position);
+      } else if (!isJoined(reading.kind, scalar) || !compose(scalar, position)) {
         // An ill-formed part reads as U+FFFD.
         add(scalar, first, position, reading.kind, scalar != U'\uFFFD');
+        if (isPicture(scalar)) endOfPicture_ = position;
       }
     }
-    return isChanged;
+    // What was left out may have stood between letters that are set apart.
+    if (isChanged_ || !mergesWords_)
+      contents_.hasWideApart = contents_.hasWideApart || contents_.hasWideLetters;
+    return isChanged_;
   }
 
   [[nodiscard]] const Contents& contents() const { return contents_; }
 
  private:
+  [[nodiscard]] char32_t scalarAt(std::size_t position) const {
+    return unicode::decodeNext(text_, position);
+  }
+
+  // ---- Wide letters
+
+  /// Whether a wide letter starts here that reads as itself.
+  [[nodiscard]] bool isWideLetterAt(std::size_t position) const {
+    using unicode::ThreeBytes;
+    if (position + ThreeBytes::size > end_) return false;
+    const ThreeBytes three(text_.data() + position);
+    constexpr std::uint32_t firstBlock = reading::firstWideLetter / reading::blockSize;
+    constexpr std::uint32_t lastBlock = reading::lastWideLetter / reading::blockSize;
+    const auto& tables = reading::compiledTables;
+    return three.isScalar() && three.block() - firstBlock <= lastBlock - firstBlock &&
+           tables.readings[tables.blocks[three.block()] * reading::blockSize + three.offset()] == 0;
+  }
+
+  [[nodiscard]] WideRun wideRunAt(std::size_t position) const {
+    WideRun run;
+    for (;;) {
+      const std::size_t word = position;
+      while (isWideLetterAt(position))
+        position += unicode::ThreeBytes::size;
+      run.words.add((position - word) / unicode::ThreeBytes::size,
+                    reading::isHangul(scalarAt(word)));
+      if (position >= end_ || text_[position] != ' ' || !isWideLetterAt(position + 1)) break;
+      if (run.firstBlank == 0) run.firstBlank = position;
+      run.lastBlank = position++;
+    }
+    run.end = position;
+    return run;
+  }
+
+  /// Takes wide letters in as few cells as the steps need: none asks which letters they are, and
+  /// none looks at a blank between them unless they are set apart.
+  bool takeWideLetters(std::size_t& position) {
+    if (!isWideLetterAt(position)) return false;
+    const WideRun run = wideRunAt(position);
+    contents_.hasWideLetters = true;
+    const bool isOneLetter = run.end - position == unicode::ThreeBytes::size;
+    if (run.words.haveUnits() || run.words.haveManyBlanks() || (isOneLetter && isOneOfMany()))
+      contents_.hasWideApart = true;
+    if (mergesWords_ && run.lastBlank != run.firstBlank) {
+      addWide(position, run.firstBlank);
+      addBlank(run.firstBlank);
+      addWide(run.firstBlank + 1, run.lastBlank);
+      addBlank(run.lastBlank);
+      position = run.lastBlank + 1;
+    }
+    while (position < run.end) {
+      const std::size_t word = position;
+      while (position < run.end && text_[position] != ' ')
+        position += unicode::ThreeBytes::size;
+      addWide(word, position);
+      if (position < run.end) addBlank(position++);
+    }
+    return true;
+  }
+
+  /// A few letters by themselves may be what signs set apart.
+  bool isOneOfMany() {
+    constexpr std::size_t few = 2;
+    return ++lettersAlone_ > few;
+  }
+
+  void addWide(std::size_t start, std::size_t end) {
+    add(scalarAt(start), start, end, Kind::other, true);
+  }
+
+  void addBlank(std::size_t at) { add(U' ', at, at + 1, Kind::blank, true); }
+
+  // ---- Letters of several code points
+
+  /// Whether a code point belongs to the letter before it: marks, and the later parts of a
+  /// syllable of Hangul.
+  [[nodiscard]] static bool isJoined(Kind kind, char32_t scalar) {
+    return kind == Kind::mark || (scalar >= 0x1161 && scalar <= 0x11C2);
+  }
+
+  /// Writes a letter and what belongs to it as the one letter that they are. Marks on Latin letters
+  /// may be there to hide a word, so they are left to a step.
+  bool compose(char32_t joined, std::size_t end) {
+    if (cells_.empty()) return false;
+    const Cell last = cells_.back();
+    const bool mayCompose =
+        last.kind == Kind::other || last.kind == Kind::foreign || last.kind == Kind::twin;
+    if (!mayCompose) return false;
+    // A cell of wide letters has one or more.
+    constexpr auto size = static_cast<std::uint32_t>(unicode::ThreeBytes::size);
+    const bool hasMore =
+        last.isCopy && reading::isWideLetter(last.scalar) && last.end - last.start > size;
+    const std::uint32_t start = hasMore ? last.end - size : last.start;
+    const auto letter = reading::composed(hasMore ? scalarAt(start) : last.scalar, joined);
+    if (!letter) return false;
+    if (hasMore)
+      cells_.back().end = start;
+    else
+      cells_.pop_back();
+    const Kind kind = reading::compiledTables.of(*letter).kind;
+    add(*letter, start, end, kind, false);
+    note(kind);
+    noteWide(*letter);
+    return isChanged_ = true;
+  }
+
+  void addForm(std::string_view form, std::size_t start, std::size_t end) {
+    for (std::size_t at = 0; at < form.size();) {
+      const char32_t scalar = unicode::decodeNext(form, at);
+      const Kind kind = reading::compiledTables.of(scalar).kind;
+      if (isJoined(kind, scalar) && compose(scalar, end)) continue;
+      add(scalar, start, end, kind, false);
+      note(kind);
+      noteWide(scalar);
+    }
+  }
+
+  // ---- Pictures, and what nobody sees
+
+  [[nodiscard]] static bool isPicture(char32_t scalar) {
+    return ((scalar >= 0x2300 && scalar < 0x27C0) || (scalar >= 0x2B00 && scalar < 0x2C00) ||
+            (scalar >= 0x1F300 && scalar < 0x1FB00)) &&
+           reading::compiledTables.of(scalar).kind == Kind::other;
+  }
+
+  void readInvisible(char32_t scalar, std::size_t first, std::size_t position) {
+    constexpr char32_t joiner = U'\u200D';
+    constexpr char32_t colours = U'\uFE0F';
+    // What joins pictures to one, or asks for their colours, is a part of the picture.
+    const bool isBehindPicture = first > 0 && first == endOfPicture_;
+    if (isBehindPicture && scalar == colours && cells_.back().scalar != colours) {
+      add(scalar, first, position, Kind::other, true);
+      endOfPicture_ = position;
+      return;
+    }
+    if (isBehindPicture && scalar == joiner && position < end_ && isPicture(scalarAt(position))) {
+      add(scalar, first, position, Kind::other, true);
+      return;
+    }
+    isChanged_ = true;
+    // A soft hyphen is visible at the end of a line.
+    const bool isDrawn = scalar == softHyphen && position < end_ &&
+                         (text_[position] == '\n' || text_[position] == '\r');
+    if (isDrawn) add(U'-', first, position, Kind::sign, false);
+  }
+
   void note(Kind kind) {
-    if (kind == Kind::accented || kind == Kind::twin || kind == Kind::same ||
-        kind == Kind::pictograph)
-      contents_.hasLettersOrStops = true;
+    if (kind == Kind::accented || kind == Kind::twin || kind == Kind::same)
+      contents_.hasLettersOrStops = contents_.hasLettersOrDigits = true;
+    if (kind == Kind::pictograph) contents_.hasLettersOrStops = true;
     if (kind == Kind::accented || kind == Kind::twin || kind == Kind::mark)
       contents_.hasLettersBeyondAscii = true;
     if (kind == Kind::wideSign || kind == Kind::pictograph) contents_.hasFormsByNeighbour = true;
+  }
+
+  void noteWide(char32_t scalar) {
+    contents_.hasWideLetters = contents_.hasWideLetters || reading::isWideLetter(scalar);
   }
 
   void add(char32_t scalar, std::size_t start, std::size_t end, Kind kind, bool isCopy) {
@@ -324,9 +486,30 @@ class Decoder {
 
   std::string_view text_;
   Cells& cells_;
+  bool mergesWords_;
   Contents contents_;
+  std::size_t end_ = 0;
+  std::size_t lettersAlone_ = 0;
+  std::size_t endOfPicture_ = 0;
+  bool isChanged_ = false;
   const std::array<Kind, 0x80>& ascii_ = asciiKinds();
 };
+
+/// Reads the part of a text; whether it reads otherwise than it is written.
+bool readPart(std::string_view text, std::size_t start, std::size_t end, Cells& cells) {
+  for (const bool mergesWords : {true, false}) {
+    cells.clear();
+    cells.reserve(end - start);
+    Decoder decoder(text, cells, mergesWords);
+    const bool isDecoded = decoder.decode(start, end);
+    const Contents& contents = decoder.contents();
+    if (mergesWords && contents.hasWideApart) continue;
+    const bool isUndone = reading::undoDisguises(cells, contents);
+    if (mergesWords && contents.hasWideLetters && isUndone) continue;
+    return isDecoded || isUndone;
+  }
+  return false;
+}
 
 /// The end of the part of `text` that can be read alone: no step looks across a blank line, nor
 /// across the end of a line where one sentence ends and the next begins.
@@ -352,12 +535,7 @@ ReadableText::ReadableText(std::string_view written) : written_(written) {
   for (std::size_t start = 0; start < written.size();) {
     const std::size_t end = endOfPart(written, start);
     if (!PlainText(written.substr(start, end - start)).isCertain()) {
-      cells.clear();
-      cells.reserve(end - start);
-      Decoder decoder(written, cells);
-      bool isChanged = decoder.decode(start, end);
-      isChanged = reading::undoDisguises(cells, decoder.contents()) || isChanged;
-      if (isChanged) {
+      if (readPart(written, start, end, cells)) {
         copy({.start = copied, .end = start});
         for (std::size_t i = 0; i < cells.size();) {
           if (!cells[i].isCopy) {

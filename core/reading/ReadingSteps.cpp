@@ -359,11 +359,9 @@ class LetterReader {
       const bool isOneMark = isLatin(cells_[i]) && cells_[i + 1].kind == Kind::mark &&
                              (i + 2 >= end || cells_[i + 2].kind != Kind::mark);
       if (!isOneMark) continue;
-      const UChar32 composed =
-          unorm2_composePair(composition(), static_cast<UChar32>(cells_[i].scalar),
-                             static_cast<UChar32>(cells_[i + 1].scalar));
-      if (composed < 0) continue;
-      replace(cells_[i], static_cast<char32_t>(composed));
+      const auto letter = composed(cells_[i].scalar, cells_[i + 1].scalar);
+      if (!letter) continue;
+      replace(cells_[i], *letter);
       cells_[i].end = cells_[i + 1].end;
       remove(cells_[i + 1]);
       isChanged_ = true;
@@ -407,21 +405,95 @@ class LetterReader {
     }
   }
 
-  static const UNormalizer2* composition() {
-    static const UNormalizer2* const instance = [] {
-      UErrorCode status = U_ZERO_ERROR;
-      const UNormalizer2* normalizer = unorm2_getNFCInstance(&status);
-      requireSuccess(status);
-      return normalizer;
-    }();
-    return instance;
-  }
-
   Cells& cells_;
   bool isChanged_ = false;
 };
 
 // ---- Letters set apart
+
+bool isWide(const Cell& cell) {
+  return cell.kind == Kind::other && isWideLetter(cell.scalar);
+}
+
+/// In Chinese, Japanese and Korean: joins letters that stand one by one, with the same between all
+/// of them, and leaves out blanks that are too many to divide words.
+class WideJoiner {
+ public:
+  explicit WideJoiner(Cells& cells) : cells_(cells) {}
+
+  bool join() {
+    for (std::size_t i = 0; i < cells_.size();)
+      i = isWide(cells_[i]) ? joinBlanks(i) : i + 1;
+    for (std::size_t i = 0; i + 2 < cells_.size(); ++i)
+      if (isUnit(i)) i = joinUnits(i, WideWords::fewestUnits);
+    // What stands between many letters stands between two for the same reason.
+    for (std::size_t i = 0; i + 2 < cells_.size() && !signs_.empty(); ++i)
+      if (isUnit(i) && signs_.find(cells_[i + 1].scalar) != std::u32string::npos)
+        i = joinUnits(i, 2);
+    return isChanged_;
+  }
+
+ private:
+  static constexpr std::size_t bytesOfLetter = 3;
+
+  [[nodiscard]] static std::size_t lettersOf(const Cell& cell) {
+    return cell.isCopy ? (cell.end - cell.start) / bytesOfLetter : 1;
+  }
+
+  /// A letter with no other one beside it.
+  [[nodiscard]] bool isUnit(std::size_t i) const {
+    return isWide(cells_[i]) && lettersOf(cells_[i]) == 1 && (i == 0 || !isWide(cells_[i - 1])) &&
+           (i + 1 == cells_.size() || !isWide(cells_[i + 1]));
+  }
+
+  [[nodiscard]] static bool isSeparator(const Cell& cell) {
+    constexpr std::u32string_view signs = U"-_*/\\~=+|^#\u00B7\u2022\u2024\u22C5\u30FB\u25CF\u2219";
+    return cell.kind == Kind::blank || cell.kind == Kind::stop ||
+           signs.find(cell.scalar) != std::u32string_view::npos;
+  }
+
+  /// The words from `start` on that have one blank between them; where to go on.
+  std::size_t joinBlanks(std::size_t start) {
+    WideWords words;
+    std::size_t end = start;
+    for (;;) {
+      std::size_t letters = 0;
+      const bool isOfHangul = isHangul(cells_[end].scalar);
+      for (; end < cells_.size() && isWide(cells_[end]); ++end)
+        letters += lettersOf(cells_[end]);
+      words.add(letters, isOfHangul);
+      if (end + 1 >= cells_.size() || cells_[end].scalar != U' ' || !isWide(cells_[end + 1])) break;
+      ++end;
+    }
+    if (words.haveManyBlanks())
+      for (std::size_t i = start; i < end; ++i)
+        if (cells_[i].scalar == U' ') leaveOut(i);
+    return end;
+  }
+
+  /// The letters from `first` on that the same sign sets apart; where to go on.
+  std::size_t joinUnits(std::size_t first, std::size_t fewest) {
+    const char32_t sign = cells_[first + 1].scalar;
+    if (!isSeparator(cells_[first + 1])) return first;
+    std::size_t last = first;
+    while (last + 2 < cells_.size() && cells_[last + 1].scalar == sign && isUnit(last + 2))
+      last += 2;
+    if ((last - first) / 2 + 1 < fewest) return last > first ? last - 1 : first;
+    if (sign != U' ') signs_ += sign;
+    for (std::size_t i = first + 1; i < last; i += 2)
+      leaveOut(i);
+    return last;
+  }
+
+  void leaveOut(std::size_t i) {
+    remove(cells_[i]);
+    isChanged_ = true;
+  }
+
+  Cells& cells_;
+  std::u32string signs_;  ///< that were left out
+  bool isChanged_ = false;
+};
 
 /// Joins single letters that have the same separator between all of them.
 class LetterJoiner {
@@ -1496,6 +1568,18 @@ class PointReader {
 
 }  // namespace
 
+std::optional<char32_t> composed(char32_t letter, char32_t joined) {
+  static const UNormalizer2* const normalizer = [] {
+    UErrorCode status = U_ZERO_ERROR;
+    const UNormalizer2* instance = unorm2_getNFCInstance(&status);
+    requireSuccess(status);
+    return instance;
+  }();
+  const UChar32 one =
+      unorm2_composePair(normalizer, static_cast<UChar32>(letter), static_cast<UChar32>(joined));
+  return one < 0 ? std::nullopt : std::optional(static_cast<char32_t>(one));
+}
+
 bool mayBeAbbreviation(const char* letters, std::size_t length) {
   if (length > longestAbbreviation) return false;
   if (length < 2) return true;
@@ -1515,17 +1599,22 @@ bool undoDisguises(Cells& cells, const Contents& contents) {
     isChanged = isChanged || changes;
     return changes;
   };
-  if (!contents.hasLettersOrStops) return false;
+  if (!contents.hasLettersOrStops && !contents.hasWideApart) return false;
+  bool hasLettersOrDigits = contents.hasLettersOrDigits;
   constexpr int mostRounds = 8;
   for (int round = 0; round < mostRounds; ++round) {
     bool isChangedNow = false;
-    if (contents.hasFormsByNeighbour) isChangedNow |= take(readByNeighbours(cells));
+    if (contents.hasFormsByNeighbour && take(readByNeighbours(cells)))
+      isChangedNow = hasLettersOrDigits = true;
     if (contents.hasLettersBeyondAscii) isChangedNow |= take(LetterReader(cells).read());
-    isChangedNow |= take(LetterJoiner(cells, segmenter).join());
-    isChangedNow |= take(WordMender(cells).mend());
-    isChangedNow |= take(SignReader(cells).read());
-    isChangedNow |= take(BlankMover(cells, segmenter).move());
-    isChangedNow |= take(AmountReader(cells).read());
+    if (contents.hasWideLetters) isChangedNow |= take(WideJoiner(cells).join());
+    if (hasLettersOrDigits) {
+      isChangedNow |= take(LetterJoiner(cells, segmenter).join());
+      isChangedNow |= take(WordMender(cells).mend());
+      isChangedNow |= take(SignReader(cells).read());
+      isChangedNow |= take(BlankMover(cells, segmenter).move());
+      isChangedNow |= take(AmountReader(cells).read());
+    }
     isChangedNow |= take(PointReader(cells).read());
     isChangedNow |= take(WhiteSpaceReader(cells).read());
     if (!isChangedNow) break;

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "core/reading/ReadingTables.h"
@@ -27,8 +29,11 @@ using Cells = std::vector<Cell>;
 /// What a text contains, so that steps without work are left out.
 struct Contents {
   bool hasLettersOrStops = false;      ///< of Latin, or that read as such
+  bool hasLettersOrDigits = false;     ///< of Latin, or that read as such
   bool hasLettersBeyondAscii = false;  ///< accented, of other scripts, or with marks
   bool hasFormsByNeighbour = false;    ///< wide signs, letters of flags, angle brackets
+  bool hasWideLetters = false;
+  bool hasWideApart = false;  ///< wide letters that may be set apart
 };
 
 /// Counts known and unknown words in a row.
@@ -61,6 +66,45 @@ class KnownWords {
   std::size_t unknown_ = 0;
   std::size_t unknownWords_ = 0;
 };
+
+/// Words of wide letters in a row, with a blank between them.
+class WideWords {
+ public:
+  void add(std::size_t letters, bool isHangul) {
+    letters_ += letters;
+    ++count_;
+    hasHangul_ = hasHangul_ || isHangul;
+    singles_ = letters == 1 ? singles_ + 1 : 0;
+    mostSingles_ = std::max(mostSingles_, singles_);
+  }
+
+  [[nodiscard]] std::size_t count() const { return count_; }
+  [[nodiscard]] std::size_t letters() const { return letters_; }
+
+  /// Whether letters stand one by one.
+  [[nodiscard]] bool haveUnits() const { return mostSingles_ >= fewestUnits; }
+
+  /// Whether the blanks are too many to divide words: words of Korean have three letters on
+  /// average, and Chinese and Japanese put no blanks between words.
+  [[nodiscard]] bool haveManyBlanks() const {
+    const std::size_t few = hasHangul_ ? 5 : 3;
+    const std::size_t meanLength = hasHangul_ ? 2 : 4;
+    return count_ >= few && letters_ < meanLength * count_;
+  }
+
+  /// So many letters, one by one, are set apart.
+  static constexpr std::size_t fewestUnits = 3;
+
+ private:
+  std::size_t count_ = 0;
+  std::size_t letters_ = 0;
+  std::size_t singles_ = 0;
+  std::size_t mostSingles_ = 0;
+  bool hasHangul_ = false;
+};
+
+/// The letter that two code points are equal to, if any (canonical composition of Unicode).
+[[nodiscard]] std::optional<char32_t> composed(char32_t letter, char32_t joined);
 
 /// Repeats all steps until none changes anything, or a fixed number of rounds is reached. Returns
 /// whether any did.

@@ -22,7 +22,7 @@ struct Reading {
     digit,       ///< an ASCII digit
     stop,        ///< a full stop
     sign,        ///< ASCII punctuation or symbol, or one that stands for a letter (`text`)
-    separator,   ///< may stand between letters that are set apart, and reads as `text` if any
+    separator,   ///< a sign among the letters of Japanese
     same,        ///< always reads as `text`: a compatibility form
     wideSign,    ///< reads as `text` beside Latin letters and digits
     accented,    ///< a Latin letter that may read as `text`
@@ -33,12 +33,22 @@ struct Reading {
   };
 
   Kind kind = Kind::other;
-  std::array<char, 7> text{};  ///< ASCII, ended by a zero unless all are used
+  std::array<char, 7> text{};  ///< ended by a zero unless all are used
 
   [[nodiscard]] std::string_view view() const {
     return {text.data(), ::strnlen(text.data(), text.size())};
   }
 };
+
+/// Letters of Chinese, Japanese and Korean, which have three bytes each, are wide ones here.
+inline constexpr char32_t firstWideLetter = U'\u3041';
+inline constexpr char32_t lastWideLetter = U'\uD7A3';
+[[nodiscard]] constexpr bool isWideLetter(char32_t scalar) {
+  return scalar >= firstWideLetter && scalar <= lastWideLetter;
+}
+[[nodiscard]] constexpr bool isHangul(char32_t scalar) {
+  return scalar >= U'\uAC00' && scalar <= lastWideLetter;
+}
 
 /// Code points in blocks of 64; equal blocks are one.
 inline constexpr std::size_t blockSize = 64;

@@ -8,6 +8,8 @@
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <unicode/normalizer2.h>
+#include <unicode/unistr.h>
 
 #include "Disguises.h"
 #include "PatternText.h"
@@ -15,6 +17,7 @@
 #include "RandomText.h"
 #include "RulePatterns.h"
 #include "core/reading/ReadableText.h"
+#include "core/reading/ReadingTables.h"
 #include "core/text/UnicodeText.h"
 
 namespace quillseal {
@@ -128,6 +131,50 @@ TEST(ReadableText, DisguisedScamsAreCaught) {
   }
 }
 
+/// With a sign between letters that stand side by side.
+std::string apart(const std::string& text, std::string_view sign) {
+  std::string result;
+  bool isBehindLetter = false;
+  for (std::size_t at = 0; at < text.size();) {
+    const std::size_t start = at;
+    const bool isLetter = reading::isWideLetter(unicode::nextScalar(text, at));
+    if (isLetter && isBehindLetter) result += sign;
+    result += text.substr(start, at - start);
+    isBehindLetter = isLetter;
+  }
+  return result;
+}
+
+std::string decomposed(const std::string& text) {
+  UErrorCode status = U_ZERO_ERROR;
+  std::string result;
+  icu::Normalizer2::getNFDInstance(status)
+      ->normalize(icu::UnicodeString::fromUTF8(text), status)
+      .toUTF8String(result);
+  return result;
+}
+
+TEST(ReadableText, DisguisedScamsInOtherScriptsAreCaught) {
+  std::vector<std::string> caught;
+  for (const std::string& line : linesOf("rule-samples.txt"))
+    if (line.starts_with("+ ") && decomposed(apart(line, "|")) != line &&
+        verdictOf(ContentRisk::screen(line.substr(2))) > 0)
+      caught.push_back(line.substr(2));
+  ASSERT_GT(caught.size(), 100U);
+  const std::pair<const char*, std::string (*)(const std::string&)> disguises[] = {
+      {"zero-width", [](const std::string& text) { return apart(text, "\u200B"); }},
+      {"points", [](const std::string& text) { return apart(text, "."); }},
+      {"blanks", [](const std::string& text) { return apart(text, " "); }},
+      {"decomposed", decomposed}};
+  for (const auto& [name, disguise] : disguises) {
+    std::size_t still = 0;
+    for (const std::string& text : caught)
+      if (verdictOf(asSigned(disguise(text))) > 0) ++still;
+    RecordProperty(name, static_cast<int>(100 * still / caught.size()));
+    EXPECT_GE(100 * still, 95 * caught.size()) << name << ": " << still << " of " << caught.size();
+  }
+}
+
 TEST(ReadableText, FindingsStandWhereTheyWereWritten) {
   struct Case {
     std::string_view before, words, after;
@@ -170,6 +217,47 @@ TEST(ReadableText, TheMapLeadsEveryPartOfTheReadingToItsOwn) {
   }
 }
 
+/// Wide letters and what may stand between them.
+std::string wideText(std::mt19937& random) {
+  constexpr std::array pieces{"\uAC00",
+                              "\uB098\uB2E4",
+                              "\uACC4\uC88C\uAC00",
+                              "\u8D26",
+                              "\u6237\u53F7",
+                              "\u304B",
+                              "\u3099",
+                              "\u1100",
+                              "\u1161",
+                              "\u11A8",
+                              "\u2F00",
+                              "\uFF76",
+                              "\uFF9E",
+                              "\u30FB",
+                              "\u00B7",
+                              "\u200B",
+                              "\uFE0F",
+                              "\u200D",
+                              "\U0001F469",
+                              "\u0438",
+                              "\u0306",
+                              " ",
+                              " ",
+                              " ",
+                              " ",
+                              "  ",
+                              ".",
+                              "-",
+                              "\n",
+                              "\uFF01",
+                              "a",
+                              "\u3000",
+                              "1"};
+  std::string text;
+  for (std::size_t size = 3 + random() % 30; size > 0; --size)
+    text += pieces[random() % pieces.size()];
+  return text;
+}
+
 TEST(ReadableText, ReadingWhatIsReadableChangesNothing) {
   const std::vector<screening::Pattern> patterns = screening::rulePatterns();
   const testing::PatternText source(patterns);
@@ -177,9 +265,10 @@ TEST(ReadableText, ReadingWhatIsReadableChangesNothing) {
                                   "<", "  ", ". ", "0",   "\u0301"};
   std::mt19937 random(11);
   const auto some = [&] { return std::string(separators[random() % separators.size()]); };
-  for (int round = 0; round < 4000; ++round) {
-    std::string text =
-        round % 3 == 0 ? testing::randomText(random, 80) : source.mixture(random).substr(0, 300);
+  for (int round = 0; round < 8000; ++round) {
+    std::string text = round % 2 == 0   ? wideText(random)
+                       : round % 3 == 0 ? testing::randomText(random, 80)
+                                        : source.mixture(random).substr(0, 300);
     text = unicode::wellFormed(text);
     for (int times = 0; times < 2; ++times) {
       const auto& disguise = testing::disguises()[random() % testing::disguises().size()];

@@ -82,6 +82,7 @@ class CodePoints {
     if (u_isUWhiteSpace(point) != 0 || scalar == U'\u2800') return reading(Kind::same, " ");
     if (u_charType(point) == U_CONTROL_CHAR) return reading(Kind::invisible);
     if (hyphens.find(scalar) != std::u32string_view::npos) return reading(Kind::same, "-");
+    if (scalar == U'\u30FB') return reading(Kind::separator);
     if (const auto sign = letterOfSign(scalar)) return reading(Kind::sign, *sign);
     if (auto form = compatibilityForm(scalar)) return *form;
     return ofLetter(scalar);
@@ -118,6 +119,13 @@ class CodePoints {
     constexpr std::string_view flagLetter = "REGIONAL INDICATOR SYMBOL LETTER ";
     if (name.starts_with(flagLetter))
       return reading(Kind::pictograph, name.substr(flagLetter.size()));
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::UnicodeString form = compatibility_->normalize(icu::UnicodeString(point), status);
+    std::string text;
+    form.toUTF8String(text);
+    // Radicals, circled letters, and letters of half the width or of old character sets.
+    const UChar32 one = form.countChar32() == 1 ? form.char32At(0) : point;
+    if (one != point && isWideLetter(static_cast<char32_t>(one))) return reading(Kind::same, text);
     const auto type = u_charType(point);
     if (type == U_OTHER_SYMBOL) {
       // Circled and squared letters, also the negative ones that have no decomposition.
@@ -133,10 +141,6 @@ class CodePoints {
     if (compatibility_->getRawDecomposition(point, raw) == 0) return std::nullopt;
     const auto kind = u_getIntPropertyValue(point, UCHAR_DECOMPOSITION_TYPE);
     if ((kind == U_DT_SUPER || kind == U_DT_SUB) && u_isalpha(point) == 0) return std::nullopt;
-    UErrorCode status = U_ZERO_ERROR;
-    const icu::UnicodeString form = compatibility_->normalize(icu::UnicodeString(point), status);
-    std::string text;
-    form.toUTF8String(text);
     if (scalar >= U'\uFF01' && scalar <= U'\uFF5E' && u_isalnum(point) == 0)
       return text.size() == 1 ? std::optional(reading(Kind::wideSign, text)) : std::nullopt;
     if (kind == U_DT_COMPAT) std::erase_if(text, [](char c) { return c == '(' || c == ')'; });

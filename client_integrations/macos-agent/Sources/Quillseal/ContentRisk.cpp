@@ -46,13 +46,12 @@ std::string_view screenedPart(std::string_view text) {
 }
 
 /// As much of the text as is screened, not counting what its digest does not contain.
-std::string_view partToRead(std::string_view text) {
-  const std::string_view screened = screenedPart(text);
-  if (screened.size() == text.size()) return text;
+std::string_view partToRead(std::string_view text, std::size_t screenedBytes) {
+  if (screenedBytes == text.size()) return text;
   std::size_t position = 0;
   for (std::size_t counted = 0; position < text.size() && counted < maximumScreenedCharacters;)
     if (!isLeftOut(unicode::nextScalar(text, position))) ++counted;
-  return text.substr(0, std::max(position, screened.size()));
+  return text.substr(0, std::max(position, screenedBytes));
 }
 
 /// Removes the matches that start or end inside a character.
@@ -257,13 +256,16 @@ Assessment evaluate(std::string_view text) {
 }
 
 Screening screen(std::string_view text) {
-  return screenAll(screenedPart(text));
+  const std::string_view part = screenedPart(text);
+  Screening screening = screenAll(part);
+  screening.screenedBytes = part.size();
+  return screening;
 }
 
 std::optional<Screening> screenAsRead(std::string_view text, const Screening& asWritten) {
-  const std::string_view part = partToRead(text);
+  const std::string_view part = partToRead(text, asWritten.screenedBytes);
   const ReadableText readable(part);
-  if (readable.isAsWritten() && part.size() == screenedPart(text).size()) return std::nullopt;
+  if (readable.isAsWritten() && part.size() == asWritten.screenedBytes) return std::nullopt;
   const Screening asRead = screenAll(readable.text());
   std::map<std::string_view, Found> byRule;
   const auto add = [&](const Screening& screening, std::size_t i, Hit hit) {

@@ -54,13 +54,15 @@ struct Screening {
   Assessment assessment;
   std::vector<Hit> hits;    ///< one for each finding, in the order of the findings
   std::uint64_t steps = 0;  ///< work done, a measure that no clock disturbs
+  /// The bytes of the text that were screened: all but those behind the last character that counts.
+  std::size_t screenedBytes = 0;
 };
 
 [[nodiscard]] Screening screen(std::string_view text);
 
 /// What the rules say of the text as a person reads it (`ReadableText`), given what they say of it
-/// as it is written: a rule that hits in either counts, once and with the points that are more.
-/// Hits are bytes of `text`. Nothing when the text reads as it is written.
+/// as it is written (`screen(text)`): a rule that hits in either counts, once and with the points
+/// that are more. Hits are bytes of `text`. Nothing when the text reads as it is written.
 [[nodiscard]] std::optional<Screening> screenAsRead(std::string_view text,
                                                     const Screening& asWritten);
 

@@ -12,6 +12,7 @@
 #include "core/screening/compile/ProgramCompiler.h"
 
 #include <algorithm>
+#include <limits>
 #include <optional>
 #include <set>
 #include <span>
@@ -185,7 +186,7 @@ class ProgramCompiler {
   /// An iteration that always takes exactly one code point.
   struct Iteration {
     ClassSetId set = 0;
-    std::uint16_t exception = 0;
+    std::uint8_t exception = 0;
   };
 
   // Whichever alternative takes the code point, the loop goes on behind it: their order does not
@@ -226,21 +227,23 @@ class ProgramCompiler {
                                [&](const Node& part) { return isSet(part) || takesNone(part); });
   }
 
-  std::uint16_t exceptionOf(Node conditional) {
+  std::uint8_t exceptionOf(Node conditional) {
     auto known = std::find(exceptions_.begin(), exceptions_.end(), conditional);
     if (known == exceptions_.end())
       known = exceptions_.insert(exceptions_.end(), std::move(conditional));
-    return counted(static_cast<std::size_t>(known - exceptions_.begin()) + 1);
+    const auto number = static_cast<std::size_t>(known - exceptions_.begin()) + 1;
+    if (number > std::numeric_limits<std::uint8_t>::max()) throw PatternError("pattern too long");
+    return static_cast<std::uint8_t>(number);
   }
 
   void addLoop(Operation operation, const Iteration& iteration, std::uint32_t min,
                std::uint32_t max) {
     add({.operation = operation,
+         .exception = iteration.exception,
          .count = counted(min),
          .max = max == unbounded ? Instruction::endless : counted(max),
          .memo = memoRows(2),
-         .set = iteration.set,
-         .exception = iteration.exception});
+         .set = iteration.set});
   }
 
   static std::uint16_t counted(std::size_t count) {

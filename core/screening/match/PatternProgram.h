@@ -27,7 +27,7 @@ struct FirstSet {
   }
 };
 
-enum class Operation : std::uint16_t {
+enum class Operation : std::uint8_t {
   accept,
   set,
   foldedText,  ///< `count` letters from `first`
@@ -50,13 +50,13 @@ enum class Operation : std::uint16_t {
 /// Continues with the next one unless it says otherwise.
 struct Instruction {
   Operation operation;
+  /// For a loop: which of `exceptions`, counted from 1, takes code points that are not of `set`.
+  std::uint8_t exception = 0;
   std::uint16_t count = 0;  ///< of letters or targets; for a loop the least number of iterations
   std::uint16_t max = 0;
   std::uint16_t memo = 0;  ///< first row in the memo table
   ClassSetId set = 0;
   std::uint16_t first = 0;  ///< for a loop: what follows it begins with, in `firstSets`
-  /// For a loop: which of `exceptions`, counted from 1, takes code points that are not of `set`.
-  std::uint16_t exception = 0;
 
   static constexpr std::uint16_t endless = 0xFFFF;  ///< as `max`
 };

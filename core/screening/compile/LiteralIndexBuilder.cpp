@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace quillseal::screening {
 namespace {
@@ -151,9 +152,13 @@ void fillSymbols(Table& table, const SymbolCode& code, const ClassPartition& cla
   }
 }
 
+/// Where lists of edges begin in the table.
+using EdgeLists = std::map<std::vector<std::pair<Symbol, State>>, std::uint32_t>;
+
 /// The edges of the node and of all it falls back on, down to one with a row that has the rest.
-/// Those of the root for symbols without a column are in a row of their own.
-void addEdges(Table& table, const Trie& trie, std::uint32_t number,
+/// Those of the root for symbols without a column are in a row of their own. States that fall back
+/// on the same one mostly share a list.
+void addEdges(Table& table, EdgeLists& lists, const Trie& trie, std::uint32_t number,
               const std::vector<State>& numbers) {
   std::map<Symbol, State> edges;
   std::uint32_t fallback = 0;
@@ -168,14 +173,18 @@ void addEdges(Table& table, const Trie& trie, std::uint32_t number,
   Table::Edges state{.onward = {.symbol = Table::multiSymbol, .target = 0},
                      .fallback = numbers[fallback],
                      .count = 0,
-                     .first = static_cast<std::uint32_t>(table.edges.size())};
+                     .first = 0};
   if (onward != edges.end()) {
     state.onward = {.symbol = onward->first, .target = onward->second};
     edges.erase(onward);
   }
   state.count = static_cast<std::uint16_t>(edges.size());
-  for (const auto& [symbol, target] : edges)
-    table.edges.push_back({.symbol = symbol, .target = target});
+  const auto [list, isNew] = lists.try_emplace({edges.begin(), edges.end()},
+                                               static_cast<std::uint32_t>(table.edges.size()));
+  state.first = list->second;
+  if (isNew)
+    for (const auto& [symbol, target] : edges)
+      table.edges.push_back({.symbol = symbol, .target = target});
   table.states.push_back(state);
 }
 
@@ -186,6 +195,7 @@ void fillStates(Table& table, Trie& trie, std::size_t symbolCount) {
     numbers[order[i]] = static_cast<State>(i);
   auto& layout = table.layout;
   layout.root = numbers[0];
+  EdgeLists lists;
   const auto successorOf = [&](std::uint32_t node, std::size_t symbol) {
     return numbers[trie.successor(node, static_cast<Symbol>(symbol))];
   };
@@ -198,7 +208,7 @@ void fillStates(Table& table, Trie& trie, std::size_t symbolCount) {
       for (std::size_t symbol = 0; symbol < Table::columns; ++symbol)
         table.rows.push_back(successorOf(number, symbol));
     }
-    addEdges(table, trie, number, numbers);
+    addEdges(table, lists, trie, number, numbers);
     if (!node.isMatch()) continue;
     if (layout.matchCount++ == 0) layout.firstMatch = numbers[number];
     table.valueStarts.push_back(static_cast<std::uint32_t>(table.values.size()));

@@ -688,7 +688,9 @@ TEST_F(MacAlertsTest, ClosesAnOpenMenuFirst) {
 }
 
 TEST_F(MacAlertsTest, CountsAsCancelledWhenItCannotBeShown) {
-  const Replaced raising(NSAlert.class, @selector(runModal), ^NSInteger(id) {
+  __block NSWindow* window = nil;
+  const Replaced raising(NSAlert.class, @selector(runModal), ^NSInteger(NSAlert* alert) {
+    window = alert.window;
     raise();
   });
   std::optional<desktop::Answer> answer;
@@ -696,6 +698,7 @@ TEST_F(MacAlertsTest, CountsAsCancelledWhenItCannotBeShown) {
       alerts_.ask(question_, [&](desktop::Answer given) { answer = given; });
   ASSERT_TRUE(runUntil([&] { return answer.has_value(); }));
   EXPECT_EQ(answer, desktop::Answer::cancelled);
+  EXPECT_FALSE(window.isVisible);
   EXPECT_EQ(log_.lines, std::vector<std::string>{"[sign] an alert could not be shown: deliberate"});
 }
 

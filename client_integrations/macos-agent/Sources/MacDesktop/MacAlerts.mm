@@ -317,6 +317,8 @@ void MacAlerts::run(const std::shared_ptr<OpenAlert>& open) {
         callSystem([&] { return runModal(open->alert, open->field); }) == NSAlertFirstButtonReturn;
   } catch (const Error& error) {
     (*log_)->write(std::string("[sign] an alert could not be shown: ") + error.what());
+    // Its window may have come up before that, and nothing else would take it away.
+    callGuarded([&] { [open->alert.window orderOut:nil]; });
   }
   open_.pop_back();
   stopWithdrawn();

@@ -728,12 +728,20 @@ TEST_F(SigningHere, TellsTheSystemsWordsAndGoesOn) {
   EXPECT_TRUE(document_->becomesSigned(letter)) << alertText();
 }
 
-// The last: the program is quit while this alert is open, where there can be one.
+std::atomic<bool> hasOpenRun = false;
+
+// The last: the program is quit while this alert is open, where there can be one, and calls the run
+// off.
 TEST_F(SigningHere, LeavesAnAlertOpen) {
   open("Hi");
   if (IsSkipped()) return;
   pressHotkey();
-  EXPECT_TRUE(awaitAlert(@"Not signed — too short"));
+  ASSERT_TRUE(awaitAlert(@"Not signed — too short"));
+  hasOpenRun = true;
+  static const Replaced end(object_getClass(NSProcessInfo.processInfo), @selector(endActivity:),
+                            ^(id, id) {
+                              hasOpenRun = false;
+                            });
 }
 
 // The program -------------------------------------------------------------------------------------
@@ -785,8 +793,9 @@ void tell() {
   // The application ends with status 0, whatever the stories were like.
   std::atexit([] {
     if (!quillseal::mac::isTold) std::fprintf(stderr, "the application ended early\n");
-    const int status = quillseal::mac::isTold ? quillseal::mac::status.load() : 1;
-    if (status != 0) std::_Exit(status);
+    if (quillseal::mac::hasOpenRun) std::fprintf(stderr, "a run was not called off\n");
+    const bool isWell = quillseal::mac::isTold && !quillseal::mac::hasOpenRun;
+    if (!isWell || quillseal::mac::status != 0) std::_Exit(1);
   });
 }
 

@@ -51,13 +51,21 @@ TEST(Browsers, HaveOneIdentifierUnderAllTheirNames) {
 }
 
 TEST(Browsers, RunAsTheirPrograms) {
-  EXPECT_TRUE(Browsers::isProgramOf("google-chrome", "chrome"));
-  EXPECT_TRUE(Browsers::isProgramOf("firefox", "firefox-bin"));
-  EXPECT_TRUE(Browsers::isProgramOf("firefox-esr", "firefox-esr"));
-  EXPECT_FALSE(Browsers::isProgramOf("firefox", "firefox-esr"));
-  EXPECT_FALSE(Browsers::isProgramOf("chromium", "chrome"));
-  EXPECT_FALSE(Browsers::isProgramOf("Chromium", "chromium"));
-  EXPECT_FALSE(Browsers::isProgramOf("", ""));
+  for (const auto& [identifier, program] : {std::pair{"google-chrome", "chrome"},
+                                            {"google-chrome-beta", "chrome"},
+                                            {"brave-browser", "brave"},
+                                            {"microsoft-edge", "msedge"},
+                                            {"opera", "opera"},
+                                            {"vivaldi", "vivaldi-bin"},
+                                            {"chromium", "chromium-browser"},
+                                            {"firefox", "firefox-bin"},
+                                            {"firefox-esr", "firefox-esr"}})
+    EXPECT_TRUE(Browsers::isProgramOf(identifier, program)) << identifier;
+  for (const auto& [identifier, program] : {std::pair{"firefox", "firefox-esr"},
+                                            {"chromium", "chrome"},
+                                            {"Chromium", "chromium"},
+                                            {"", ""}})
+    EXPECT_FALSE(Browsers::isProgramOf(identifier, program)) << identifier;
 }
 
 /// A computer with browsers that only write down what they are to open. GIO reads where

@@ -28,6 +28,7 @@ TEST(SystemWallClock, NamesTheZoneAsUsersExpect) {
            Case{"Asia/Kolkata", berlinLink, "", 19800, "Asia/Kolkata"},
            Case{":Asia/Kolkata", berlinLink, "", 19800, "Asia/Kolkata"},
            Case{":/usr/share/zoneinfo/posix/Asia/Kolkata", "", "", 19800, "Asia/Kolkata"},
+           Case{":/usr/share/zoneinfo/right/Asia/Kolkata", "", "", 19800, "Asia/Kolkata"},
            Case{"EST5EDT", berlinLink, "", -18000, "EST5EDT"},
            // Set to what is no name: still what the user's clocks show, not what the links say.
            Case{"CET-1", berlinLink, "Europe/Berlin", 3600, "Etc/GMT-1"},
@@ -43,6 +44,10 @@ TEST(SystemWallClock, NamesTheZoneAsUsersExpect) {
            Case{std::nullopt, "", " Asia/Kolkata \n# note", 19800, "Asia/Kolkata"},
            Case{std::nullopt, "", "", 0, "UTC"},
            Case{std::nullopt, "", "", 7200, "Etc/GMT-2"},
+           Case{std::nullopt, "", "", 14 * 3600, "Etc/GMT-14"},
+           Case{std::nullopt, "", "", 15 * 3600, "UTC"},
+           Case{std::nullopt, "", "", -12 * 3600, "Etc/GMT+12"},
+           Case{std::nullopt, "", "", -13 * 3600, "UTC"},
            // Set to what is in force without it.
            Case{":/etc/localtime", berlinLink, "", 3600, "Europe/Berlin"},
            Case{"/etc/localtime", "", "Asia/Kolkata\n", 19800, "Asia/Kolkata"},

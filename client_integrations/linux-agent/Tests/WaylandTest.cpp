@@ -60,6 +60,8 @@ class Entries : public DesktopEntries {
   bool open(const std::string&, std::string_view) override { return false; }
 };
 
+constexpr std::size_t largest = 200'000;
+
 /// The agent's side, connected to a compositor.
 struct Agent {
   explicit Agent(std::filesystem::path keeper = QUILLSEAL_CLIPBOARD_KEEPER)
@@ -67,7 +69,8 @@ struct Agent {
         windows(*connection, "quillseal"),
         pasteboard(
             {.loop = loop, .descriptors = loop, .connection = *connection, .windows = windows},
-            ClipboardKeeper({std::move(keeper)}), {.silence = 300ms, .transfer = 2000ms}),
+            ClipboardKeeper({std::move(keeper)}),
+            {.silence = 300ms, .transfer = 2000ms, .largest = largest}),
         applications({.windows = windows, .entries = entries, .loop = loop}, nullptr),
         keys({.loop = loop,
               .connection = *connection,
@@ -256,14 +259,16 @@ TEST(WaylandPasteboard, OutlivesEveryOwner) {
   } rows[] = {{Answer::nothing, ""},
               {Answer::part, "Half of a sen"},
               {Answer::thenLeaves, "Half of a sen"},
-              {Answer::endless, piece}};
+              {Answer::endless, piece},
+              {Answer::all, std::string(largest + 1, 'x')}};
   for (const auto& row : rows) {
     ScriptedCompositor compositor;
     Agent agent;
     compositor.copy({.formats = {{utf8Text, row.text}}, .answer = row.answer});
     EXPECT_EQ(agent.plainText(), std::nullopt) << static_cast<int>(row.answer);
-    compositor.copy({.formats = {{utf8Text, "the next one"}}});
-    EXPECT_EQ(agent.plainText(), "the next one");
+    const std::string next(largest, 'y');
+    compositor.copy({.formats = {{utf8Text, next}}});
+    EXPECT_EQ(agent.plainText(), next);
   }
 }
 

@@ -109,7 +109,7 @@ class ServiceTest : public ::testing::Test {
 
   Answer createHandoff(const char* issued = "2026-01-01") {
     return post("/api/handoff/create", {{"text_digest", CryptoManager::sha256Hex("text")},
-                                        {"snapshot_digest", ""},
+                                        {"snapshot_digest", CryptoManager::sha256Hex("snapshot")},
                                         {"issued", issued},
                                         {"scope", "Web Form (Browser)"},
                                         {"image_digest", CryptoManager::sha256Hex("images")},
@@ -280,6 +280,11 @@ TEST_F(ServiceTest, AHandoffIsSignedInTheBrowser) {
   const Answer answer = pressSign(id);
   ASSERT_EQ(answer.status, 200) << answer.body;
   const std::string signatureId = answer.body.at("signature_id");
+  const Signature kept = registry_.signature(signatureId).value();
+  EXPECT_EQ(kept.imageDigest, CryptoManager::sha256Hex("images"));
+  EXPECT_EQ(kept.snapshotDigest, CryptoManager::sha256Hex("snapshot"));
+  EXPECT_EQ(kept.scope, "Web Form (Browser)");
+  EXPECT_EQ(kept.commitment, "statement");
   EXPECT_EQ(pressSign(id).body.at("signature_id"), signatureId) << "a second click";
   EXPECT_EQ(post("/handoff/decline", {{"handoff_id", id}}).status, 409);
   now_ += 3600;

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <thread>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -191,6 +192,24 @@ TEST(SwayHotkeyTest, IsPressedOnceHoweverLongItIsHeld) {
   }
   EXPECT_EQ(presses, 2);
   EXPECT_THAT(sway.commands().back(), HasSubstr("unbindcode --release"));
+}
+
+TEST(SwayHotkeyTest, FollowsTheLayout) {
+  ScriptedCompositor compositor({.layout = layoutWithH(43)});
+  ScriptedSway sway({});
+  Agent agent;
+  agent.connection->serve(agent.loop, agent.loop);
+  SwayHotkey keys(agent.services(sway.path()));
+  keys.registerHotkey(hotkey, [] {});
+  compositor.setLayout(layoutWithH(44));
+  testing::runUntil(agent.loop, [&] { return sway.commands().size() == 6; });
+  const std::vector<std::string> commands = sway.commands();
+  for (const auto& [number, start, key] : {std::tuple{2, "unbindcode --no", "+43"},
+                                           {3, "unbindcode --release", "+43"},
+                                           {4, "bindcode --no", "+44 nop"},
+                                           {5, "bindcode --release", "+44 nop"}})
+    EXPECT_THAT(commands[static_cast<std::size_t>(number)],
+                AllOf(::testing::StartsWith(start), HasSubstr(key)));
 }
 
 TEST(SwayHotkeyTest, SaysWhyThereIsNone) {

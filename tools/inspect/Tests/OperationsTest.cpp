@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "Operations.h"
+#include "Quillseal/CryptoManager.h"
 
 namespace quillseal::inspect {
 namespace {
@@ -76,7 +77,7 @@ TEST(Operations, InspectATrimmedText) {
       {"distinctive", true},
       {"signing_refusal", "Only 6 words. Write at least 10."},
       {"image_urls", {"b.png", "a.png"}},
-      {"image_digest", result.at("image_digest")},
+      {"image_digest", CryptoManager::imageManifestDigest({"b.png", "a.png"})},
       {"expires", "2025-02-06"},
       {"prompt_subject", "“We met “Ada” — on 3 May…” (6 words)"},
       {"assessment",
@@ -98,6 +99,7 @@ TEST(Operations, InspectATrimmedText) {
 TEST(Report, UnderlinesWhatMatched) {
   const std::string report = readableReport(
       inspect({.text = "会議: see javascript:x now", .html = {}, .issued = "2025-01-30"}));
+  EXPECT_THAT(report, HasSubstr("Image digest  " + CryptoManager::imageManifestDigest({}) + '\n'));
   EXPECT_THAT(report, HasSubstr("Screening     refused, score 100\n"
                                 "              url-javascript (100, blocks): Deceptive links\n"
                                 "              会議: see javascript:x now\n"
@@ -115,6 +117,7 @@ TEST(Operations, ReplaceIllFormedTextOnce) {
   const std::pair<std::string, std::string> cases[] = {
       {"a\xFF\xE2\x82z", "a\uFFFD\uFFFDz"},
       {R"(a\ud83d-\udc00)", "a\uFFFD-\uFFFD"},
+      {R"(\ud800\udbff\udc00\udfff)", "\uFFFD\U0010FC00\uFFFD"},
       {R"(\ud83d\ude00)", "😀"},
       {R"(\\ud83d)", "\\ud83d"},
       {R"(a\u0000b)", {"a\0b", 3}},

@@ -141,7 +141,9 @@ class ServiceTest : public ::testing::Test {
 
 TEST_F(ServiceTest, RecordsTheSignatureOfAnEnrolledDevice) {
   identity_ = "Ada Lovelace";
-  const Answer enrolled = post("/api/register_native", enrolment());
+  json lowerCase = enrolment();  // one device, however its identifier is written
+  lowerCase["device_id"] = "0f4b3a52-7c1d-4e8a-9b60-5d2e1c7f8a90";
+  const Answer enrolled = post("/api/register_native", lowerCase);
   EXPECT_EQ(enrolled.status, 200);
   EXPECT_EQ(
       enrolled.body,

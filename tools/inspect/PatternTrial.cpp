@@ -168,6 +168,7 @@ class Trial {
     for (const std::string& each : written)
       expressions.push_back(ContentRules::expanded(each));
     std::vector<screening::Pattern> patterns;
+    patterns.reserve(expressions.size());
     for (const std::string& each : expressions)
       patterns.push_back({.expression = each, .caseInsensitive = caseInsensitive_});
     const auto compiled = screening::compilePatterns(patterns);

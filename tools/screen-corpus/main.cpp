@@ -271,10 +271,10 @@ std::optional<int> read(Options& options, std::vector<std::string>& paths, int a
 }  // namespace
 
 int main(int argc, char** argv) {
-  Options options;
-  std::vector<std::string> paths;
-  if (const std::optional<int> status = read(options, paths, argc, argv)) return *status;
   try {
+    Options options;
+    std::vector<std::string> paths;
+    if (const std::optional<int> status = read(options, paths, argc, argv)) return *status;
     Corpus corpus(options);
     for (const std::string& path : paths) {
       if (path == "-") {

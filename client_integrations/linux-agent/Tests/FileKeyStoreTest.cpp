@@ -107,7 +107,7 @@ TEST_F(FileKeyStoreTest, EveryDamagedByteIsNoticed) {
   const std::string whole = testing::contentsOf(path);
   const std::size_t start = whole.find("SHA-256");
   ASSERT_NE(start, std::string::npos);
-  for (std::size_t at = start; at < whole.size(); at += 7) {
+  for (std::size_t at = start; at < whole.size(); ++at) {
     std::string damaged = whole;
     damaged[at] = damaged[at] == 'A' ? 'B' : 'A';
     testing::overwrite(path, damaged);
@@ -135,6 +135,8 @@ TEST_F(FileKeyStoreTest, AnExchangedPublicHalfIsNoticed) {
   const auto own = KeyFile::read(testing::contentsOf(path), labels);
   const auto foreign = KeyFile::read(testing::contentsOf(otherPath), labels);
   ASSERT_TRUE(own && foreign);
+  constexpr std::array<std::string_view, 2> others{"PUBLIC KEY", "PRIVATE KEY"};
+  EXPECT_FALSE(KeyFile::read(testing::contentsOf(path), others));
   testing::overwrite(path, KeyFile::write("", std::array{foreign->front(), own->back()}));
   EXPECT_THAT(signFailure(), HasSubstr("tampered with"));
 }

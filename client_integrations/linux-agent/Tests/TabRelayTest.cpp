@@ -199,6 +199,14 @@ TEST_F(TabRelayTest, WaitsForTheAgentAlsoWhereOneHasDied) {
     listening_.emplace(TabSocket::listen());
     accept();
   }
+  // An agent's socket comes to its place when it listens already.
+  const std::filesystem::path place = TabSocket::folder() / TabSocket::name;
+  const std::filesystem::path earlier = TabSocket::folder() / "earlier";
+  std::filesystem::rename(place, earlier);
+  relay_.emplace(chromiumCall);
+  relay_->awaitWatching();
+  std::filesystem::rename(earlier, place);
+  accept();
 }
 
 TEST_F(TabRelayTest, EndsWithTheBrowserAndWithTheAgent) {

@@ -511,17 +511,17 @@ std::string layoutText(const char* layout) {
   return result;
 }
 
-TEST(WaylandLayout, FindsTheKeyInEachOfTheLayouts) {
+TEST(WaylandLayout, FindsTheKeyInEachOfThePersonsLayouts) {
+  const std::string_view name = "English (US)";
+  std::string ofTheAgent = layoutText("us");
+  ofTheAgent.replace(ofTheAgent.find(name), name.size(), "Quillseal");
   const struct {
     std::string layout;
     std::optional<std::uint32_t> h;
-  } rows[] = {{layoutText("us"), 43U},
-              {layoutText("fr"), 43U},
-              {layoutText("ru,us"), 43U},
-              {layoutText("us(dvorak)"), 44U},
-              {layoutText("ru"), {}},
-              {"no layout", {}},
-              {"", {}}};
+  } rows[] = {{layoutText("us"), 43U},    {layoutText("fr"), 43U},
+              {layoutText("ru,us"), 43U}, {layoutText("us(dvorak)"), 44U},
+              {layoutText("ru"), {}},     {ofTheAgent, {}},
+              {"no layout", {}},          {"", {}}};
   for (const auto& row : rows) {
     const ScriptedCompositor compositor({.layout = row.layout});
     const auto connection = WaylandConnection::open();

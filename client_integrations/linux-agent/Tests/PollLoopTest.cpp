@@ -1,6 +1,9 @@
+#include <array>
+#include <chrono>
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include "session/PollLoop.h"
 
@@ -27,6 +30,26 @@ TEST(PollLoop, RunsWhatManyThreadsPostInTheirOrder) {
   withdrawn = {};
   loop.run();
   EXPECT_EQ(seen, std::vector<int>(workers, posts));
+}
+
+TEST(PollLoop, AnEarlierTicketEndsNoNewWatch) {
+  using Interest = Descriptors::Interest;
+  std::array<int, 2> ends{};
+  ASSERT_EQ(::pipe(ends.data()), 0);
+  PollLoop loop;
+  bool isReady = false;
+  desktop::Ticket old = loop.watch(ends[0], Interest::reading, [](Interest) { ADD_FAILURE(); });
+  const desktop::Ticket current = loop.watch(ends[0], Interest::reading, [&](Interest) {
+    isReady = true;
+    loop.stop();
+  });
+  old = {};
+  const desktop::Ticket end = loop.after(std::chrono::seconds(5), [&] { loop.stop(); });
+  EXPECT_EQ(::write(ends[1], "x", 1), 1);
+  loop.run();
+  EXPECT_TRUE(isReady);
+  for (const int descriptor : ends)
+    ::close(descriptor);
 }
 
 }  // namespace

@@ -24,6 +24,7 @@
 #include "browsers/LinuxBrowserTabs.h"
 #include "browsers/TabMessages.h"
 #include "browsers/TabSocket.h"
+#include "session/PrivateFolder.h"
 
 namespace quillseal::linux {
 namespace {
@@ -409,7 +410,7 @@ TEST_F(LinuxBrowserTabsTest, TakesThePlaceOfAnAgentThatHasGoneButNotOfOneThatRun
 TEST_F(LinuxBrowserTabsTest, TrustsNoFolderThatOthersCouldChange) {
   for (const mode_t mode : {0755U, 0701U}) {
     ASSERT_EQ(::chmod((runtime_.path() / "quillseal").c_str(), mode), 0);
-    EXPECT_THROW((void)TabSocket::folder(), std::runtime_error) << mode;
+    EXPECT_THROW((void)runtimeFolder(), std::runtime_error) << mode;
   }
   ASSERT_EQ(::chmod((runtime_.path() / "quillseal").c_str(), 0700), 0);
   std::filesystem::rename(runtime_.path() / "quillseal", runtime_.path() / "other");
@@ -417,9 +418,9 @@ TEST_F(LinuxBrowserTabsTest, TrustsNoFolderThatOthersCouldChange) {
   EXPECT_THROW((void)TabSocket::folder(), std::runtime_error);
   std::filesystem::remove(runtime_.path() / "quillseal");
   ASSERT_EQ(::chmod(runtime_.path().c_str(), 0777), 0);
-  EXPECT_THROW((void)TabSocket::folder(), std::runtime_error);
+  EXPECT_THROW((void)runtimeFolder(), std::runtime_error);
   ::setenv("XDG_RUNTIME_DIR", "relative", 1);
-  EXPECT_THROW((void)TabSocket::folder(), std::runtime_error);
+  EXPECT_THROW((void)runtimeFolder(), std::runtime_error);
 }
 
 TEST(TabSocketTest, RecognisesItsOwnUser) {

@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "browsers/Browsers.h"
-#include "browsers/TabSocket.h"
 #include "session/PrivateFolder.h"
 
 namespace quillseal::linux {
@@ -65,7 +64,7 @@ std::string BrowserLauncher::pageFor(const std::string& url, const DesktopEntry&
          "sandbox the default one.");
   }
   try {
-    LeadingPage page(url, browser.snap.empty() ? TabSocket::folder() : folderOfSnap(browser.snap));
+    LeadingPage page(url, browser.snap.empty() ? runtimeFolder() : folderOfSnap(browser.snap));
     std::string address = page.address();
     pages_.push_back({.page = std::move(page),
                       .end = loop_.after(LeadingPage::life, [this] { pages_.pop_front(); })});

@@ -9,7 +9,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include "browsers/TabSocket.h"
+#include "session/FileDescriptor.h"
 
 namespace quillseal::linux {
 namespace {
@@ -18,16 +18,6 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view prefix = "page-";
 constexpr std::string_view suffix = ".html";
-
-bool writeAll(const FileDescriptor& file, std::string_view bytes) {
-  while (!bytes.empty()) {
-    const ssize_t written = ::write(file.get(), bytes.data(), bytes.size());
-    if (written < 0 && errno == EINTR) continue;
-    if (written <= 0) return false;
-    bytes.remove_prefix(static_cast<std::size_t>(written));
-  }
-  return true;
-}
 
 void removeLeftovers(const fs::path& folder) {
   std::error_code ignored;

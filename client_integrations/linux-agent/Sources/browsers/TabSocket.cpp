@@ -2,8 +2,8 @@
 
 #include <array>
 #include <cerrno>
-#include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <stdexcept>
 #include <system_error>
 
@@ -48,22 +48,11 @@ bool callWithAddress(AddressCall call, const FileDescriptor& socket, const fs::p
 
 }  // namespace
 
-FileDescriptor::~FileDescriptor() {
-  if (number_ >= 0) ::close(number_);
-}
-
 namespace TabSocket {
-
-fs::path folder() {
-  const char* runtime = std::getenv("XDG_RUNTIME_DIR");  // NOLINT(concurrency-mt-unsafe)
-  if (runtime == nullptr || !fs::path(runtime).is_absolute())
-    throw std::runtime_error("XDG_RUNTIME_DIR names no folder.");
-  return privateFolderIn(runtime);
-}
 
 FileDescriptor listen() {
   if (connect()) throw std::runtime_error("another agent of this user listens already.");
-  const fs::path place = folder();
+  const fs::path place = runtimeFolder();
   const fs::path final = place / name;
   const fs::path provisional = place / (std::string(name) + "." + std::to_string(::getpid()));
   FileDescriptor socket = newSocket();
@@ -82,7 +71,7 @@ FileDescriptor listen() {
 
 std::optional<FileDescriptor> connect() {
   FileDescriptor socket = newSocket();
-  if (!callWithAddress(&::connect, socket, folder() / name)) return std::nullopt;
+  if (!callWithAddress(&::connect, socket, runtimeFolder() / name)) return std::nullopt;
   if (!isPeerThisUser(socket)) return std::nullopt;
   return socket;
 }

@@ -1,51 +1,27 @@
 #pragma once
 
-#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
+
+#include "session/FileDescriptor.h"
 
 namespace quillseal::linux {
-
-/// An open file descriptor; closed at the end of its life.
-class FileDescriptor {
- public:
-  explicit FileDescriptor(int number) noexcept : number_(number) {}
-  FileDescriptor(FileDescriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
-  FileDescriptor& operator=(FileDescriptor&& other) noexcept {
-    std::swap(number_, other.number_);
-    return *this;
-  }
-  FileDescriptor(const FileDescriptor&) = delete;
-  FileDescriptor& operator=(const FileDescriptor&) = delete;
-  ~FileDescriptor();
-
-  [[nodiscard]] int get() const noexcept { return number_; }
-  [[nodiscard]] bool isOpen() const noexcept { return number_ >= 0; }
-
- private:
-  int number_;
-};
 
 /// The socket at which the agent awaits the relays of the user's browsers:
 /// `$XDG_RUNTIME_DIR/quillseal/tabs`, of mode 0600 in a folder of mode 0700. Functions that throw
 /// throw std::runtime_error with a sentence.
 namespace TabSocket {
 
-/// File name of the socket in `folder()`.
+/// File name of the socket in `runtimeFolder()`.
 inline constexpr std::string_view name = "tabs";
-
-/// The socket's folder, made when it is missing. Throws when there is no runtime folder or when
-/// either folder could be changed by somebody else.
-[[nodiscard]] std::filesystem::path folder();
 
 /// Listens there, non-blocking, in the place of a socket that nobody answers any more. The socket
 /// appears, by renaming, only once it takes connections. Throws, also when another agent listens.
 [[nodiscard]] FileDescriptor listen();
 
-/// A connection to the agent; nothing while no agent of this user listens. Throws when `folder`
-/// does.
+/// A connection to the agent; nothing while no agent of this user listens. Throws when
+/// `runtimeFolder` does.
 [[nodiscard]] std::optional<FileDescriptor> connect();
 
 /// The next relay that waits at the listening socket, non-blocking; nothing when there is none that

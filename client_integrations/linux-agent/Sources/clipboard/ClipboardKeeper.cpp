@@ -16,6 +16,7 @@
 #include <unistd.h>
 
 #include "core/text/Error.h"
+#include "session/FileDescriptor.h"
 
 namespace quillseal::linux {
 namespace {
@@ -31,20 +32,6 @@ constexpr std::chrono::seconds patience{5};
                .description = "The clipboard could not be written: " + reason});
 }
 
-class Descriptor {
- public:
-  explicit Descriptor(int number) : number_(number) {}
-  ~Descriptor() {
-    if (number_ >= 0) close(number_);
-  }
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  [[nodiscard]] int get() const { return number_; }
-
- private:
-  int number_;
-};
-
 class FileActions {
  public:
   FileActions() { posix_spawn_file_actions_init(&actions_); }
@@ -56,14 +43,6 @@ class FileActions {
  private:
   posix_spawn_file_actions_t actions_{};
 };
-
-void writeAll(int file, std::string_view text) {
-  while (!text.empty()) {
-    const ssize_t written = write(file, text.data(), text.size());
-    if (written <= 0) fail("there is not enough memory. Close some programs and try again.");
-    text.remove_prefix(static_cast<std::size_t>(written));
-  }
-}
 
 pid_t start(const std::filesystem::path& file, int input) {
   FileActions actions;
@@ -80,8 +59,8 @@ pid_t start(const std::filesystem::path& file, int input) {
 }
 
 bool endsInTime(pid_t process) {
-  const Descriptor running(static_cast<int>(syscall(SYS_pidfd_open, process, 0)));
-  if (running.get() < 0) return false;
+  const FileDescriptor running(static_cast<int>(syscall(SYS_pidfd_open, process, 0)));
+  if (!running.isOpen()) return false;
   pollfd ended{.fd = running.get(), .events = POLLIN, .revents = 0};
   const auto deadline = steady_clock::now() + patience;
   int count = 0;
@@ -104,8 +83,9 @@ void ClipboardKeeper::keep(const desktop::PasteboardContent& content) const {
   });
   if (place == places_.end())
     fail("the program " + std::string(program) + " is missing. Install Quillseal again.");
-  const Descriptor input(memfd_create("quillseal-clipboard", MFD_CLOEXEC));
-  writeAll(input.get(), KeptContent::written(content));
+  const FileDescriptor input(memfd_create("quillseal-clipboard", MFD_CLOEXEC));
+  if (!writeAll(input, KeptContent::written(content)))
+    fail("there is not enough memory. Close some programs and try again.");
   lseek(input.get(), 0, SEEK_SET);
 
   // It leaves this process's care by a fork of its own, once the compositor has taken the offer.

@@ -14,6 +14,7 @@
 
 #include "clipboard/ClipboardFormats.h"
 #include "clipboard/ClipboardKeeper.h"
+#include "session/FileDescriptor.h"
 #include "session/PollLoop.h"
 #include "wayland/WaylandConnection.h"
 #include "wayland/WaylandDataControl.h"
@@ -54,7 +55,7 @@ class Offer {
 
  private:
   struct Transfer {
-    int file;
+    quillseal::linux::FileDescriptor file;
     std::string_view left;
     Ticket watch;
   };
@@ -62,19 +63,20 @@ class Offer {
   void send(std::string_view format, int file) {
     fcntl(file, F_SETFL, fcntl(file, F_GETFL) | O_NONBLOCK);
     const bool isHtml = format == quillseal::linux::ClipboardFormats::html;
-    Transfer& transfer = transfers_.emplace_back(
-        Transfer{.file = file, .left = isHtml ? content_.html : content_.plainText, .watch = {}});
+    Transfer& transfer =
+        transfers_.emplace_back(Transfer{.file = quillseal::linux::FileDescriptor(file),
+                                         .left = isHtml ? content_.html : content_.plainText,
+                                         .watch = {}});
     transfer.watch = loop_.watch(file, Descriptors::Interest::writing,
                                  [this, &transfer](Descriptors::Interest) { goOn(transfer); });
   }
 
   void goOn(Transfer& transfer) {
-    const ssize_t written = write(transfer.file, transfer.left.data(), transfer.left.size());
+    const ssize_t written = write(transfer.file.get(), transfer.left.data(), transfer.left.size());
     if (written > 0) transfer.left.remove_prefix(static_cast<std::size_t>(written));
     if (written >= 0 && !transfer.left.empty()) return;
     if (written < 0 && (errno == EAGAIN || errno == EINTR)) return;
     transfer.watch = {};
-    close(transfer.file);
     transfers_.remove_if([&](const Transfer& other) { return &other == &transfer; });
     if (isReplaced_ && transfers_.empty()) loop_.stop();
   }

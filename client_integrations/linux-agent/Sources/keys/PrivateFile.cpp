@@ -9,27 +9,13 @@
 #include <unistd.h>
 
 #include "keys/KeyFailure.h"
+#include "session/FileDescriptor.h"
 
 namespace quillseal::linux {
 
 namespace {
 
 constexpr std::size_t maximumSize = 64UL * 1024;
-
-class Descriptor {
- public:
-  explicit Descriptor(int number) noexcept : number_(number) {}
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  ~Descriptor() {
-    if (number_ >= 0) ::close(number_);
-  }
-  [[nodiscard]] bool valid() const noexcept { return number_ >= 0; }
-  [[nodiscard]] int get() const noexcept { return number_; }
-
- private:
-  int number_;
-};
 
 std::string quoted(const std::filesystem::path& path) {
   return "“" + path.string() + "”";
@@ -63,7 +49,7 @@ int openFolder(const std::filesystem::path& folder) {
 
 // The folder is opened once and everything inside is named relative to it, so that nobody can swap
 // it between a check and a use.
-void checkFolder(const Descriptor& folder, const std::filesystem::path& path) {
+void checkFolder(const FileDescriptor& folder, const std::filesystem::path& path) {
   struct stat status {};
   if (::fstat(folder.get(), &status) != 0) fail("examine", path, errno);
   if (status.st_uid != ::geteuid())
@@ -73,18 +59,7 @@ void checkFolder(const Descriptor& folder, const std::filesystem::path& path) {
     fail("protect the folder", path, errno);
 }
 
-void writeAll(const Descriptor& file, std::string_view contents,
-              const std::filesystem::path& path) {
-  while (!contents.empty()) {
-    const ssize_t written = ::write(file.get(), contents.data(), contents.size());
-    if (written < 0 && errno == EINTR) continue;
-    if (written < 0) fail("write", path, errno);
-    contents.remove_prefix(static_cast<std::size_t>(written));
-  }
-  if (::fsync(file.get()) != 0) fail("write", path, errno);
-}
-
-std::string readAll(const Descriptor& file, const std::filesystem::path& path) {
+std::string readAll(const FileDescriptor& file, const std::filesystem::path& path) {
   std::string contents(maximumSize + 1, '\0');
   std::size_t length = 0;
   while (length < contents.size()) {
@@ -112,8 +87,8 @@ bool PrivateFile::exists() const noexcept {
 
 std::optional<std::string> PrivateFile::read() const {
   const std::filesystem::path folderPath = path_.parent_path();
-  const Descriptor folder(openFolder(folderPath));
-  if (!folder.valid()) {
+  const FileDescriptor folder(openFolder(folderPath));
+  if (!folder.isOpen()) {
     if (errno == ENOENT) return std::nullopt;
     fail("open the folder", folderPath, errno);
   }
@@ -121,9 +96,9 @@ std::optional<std::string> PrivateFile::read() const {
 
   const std::string name = path_.filename().string();
   // Without O_NONBLOCK a named pipe in the file's place would hang the caller.
-  const Descriptor file(
+  const FileDescriptor file(
       ::openat(folder.get(), name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-  if (!file.valid()) {
+  if (!file.isOpen()) {
     if (errno == ENOENT) return std::nullopt;
     if (errno == ELOOP)
       throw KeyFailure(
@@ -150,8 +125,8 @@ std::optional<std::string> PrivateFile::read() const {
 void PrivateFile::requireWritable() const {
   const std::filesystem::path folderPath = path_.parent_path();
   createFolders(folderPath);
-  const Descriptor folder(openFolder(folderPath));
-  if (!folder.valid()) fail("open the folder", folderPath, errno);
+  const FileDescriptor folder(openFolder(folderPath));
+  if (!folder.isOpen()) fail("open the folder", folderPath, errno);
   checkFolder(folder, folderPath);
   if (::faccessat(folder.get(), ".", W_OK | X_OK, 0) != 0) fail("write in", folderPath, errno);
 }
@@ -159,8 +134,8 @@ void PrivateFile::requireWritable() const {
 void PrivateFile::replace(std::string_view contents) const {
   const std::filesystem::path folderPath = path_.parent_path();
   createFolders(folderPath);
-  const Descriptor folder(openFolder(folderPath));
-  if (!folder.valid()) fail("open the folder", folderPath, errno);
+  const FileDescriptor folder(openFolder(folderPath));
+  if (!folder.isOpen()) fail("open the folder", folderPath, errno);
   checkFolder(folder, folderPath);
 
   const std::string name = path_.filename().string();
@@ -169,10 +144,10 @@ void PrivateFile::replace(std::string_view contents) const {
   ::unlinkat(folder.get(), fresh.c_str(), 0);
   try {
     {
-      const Descriptor file(::openat(folder.get(), fresh.c_str(),
-                                     O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
-      if (!file.valid()) fail("create", folderPath / fresh, errno);
-      writeAll(file, contents, path_);
+      const FileDescriptor file(::openat(
+          folder.get(), fresh.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
+      if (!file.isOpen()) fail("create", folderPath / fresh, errno);
+      if (!writeAll(file, contents) || ::fsync(file.get()) != 0) fail("write", path_, errno);
     }
     if (::renameat(folder.get(), fresh.c_str(), folder.get(), name.c_str()) != 0)
       fail("replace", path_, errno);

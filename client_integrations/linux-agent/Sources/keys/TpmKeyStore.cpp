@@ -18,6 +18,7 @@
 #include "core/text/UniqueHandle.h"
 #include "keys/KeyFile.h"
 #include "keys/TpmFailure.h"
+#include "session/FileDescriptor.h"
 
 namespace quillseal::linux {
 
@@ -66,9 +67,8 @@ class Tpm {
     // The loader only says that something failed; the kernel says what.
     if (!isSimulator(device)) {
       const std::string path = device.substr(devicePrefix.size());
-      const int descriptor = ::open(path.c_str(), O_RDWR | O_CLOEXEC);
-      if (descriptor < 0) fail(tpmFailureOf(DeviceError{.device = path, .number = errno}));
-      ::close(descriptor);
+      const FileDescriptor probe(::open(path.c_str(), O_RDWR | O_CLOEXEC));
+      if (!probe.isOpen()) fail(tpmFailureOf(DeviceError{.device = path, .number = errno}));
     }
     TSS2_TCTI_CONTEXT* transport = nullptr;
     if (::Tss2_TctiLdr_Initialize(device.c_str(), &transport) != TSS2_RC_SUCCESS)

@@ -9,7 +9,6 @@
 
 #include <poll.h>
 #include <sys/eventfd.h>
-#include <unistd.h>
 
 #include "core/text/Error.h"
 
@@ -42,19 +41,15 @@ class BusError {
 }  // namespace
 
 Interrupt::Interrupt() : descriptor_(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {
-  if (descriptor_ < 0) throw std::system_error(errno, std::generic_category());
-}
-
-Interrupt::~Interrupt() {
-  ::close(descriptor_);
+  if (!descriptor_.isOpen()) throw std::system_error(errno, std::generic_category());
 }
 
 void Interrupt::raise() const noexcept {
-  ::eventfd_write(descriptor_, 1);
+  ::eventfd_write(descriptor_.get(), 1);
 }
 
 bool Interrupt::isRaised() const noexcept {
-  pollfd raised{.fd = descriptor_, .events = POLLIN, .revents = 0};
+  pollfd raised{.fd = descriptor_.get(), .events = POLLIN, .revents = 0};
   return ::poll(&raised, 1, 0) > 0;
 }
 

@@ -7,6 +7,7 @@
 #include <systemd/sd-bus.h>
 
 #include "core/text/UniqueHandle.h"
+#include "session/FileDescriptor.h"
 
 namespace quillseal::linux {
 
@@ -14,18 +15,15 @@ namespace quillseal::linux {
 class Interrupt {
  public:
   Interrupt();
-  Interrupt(const Interrupt&) = delete;
-  Interrupt& operator=(const Interrupt&) = delete;
-  ~Interrupt();
 
   /// Any thread. Cannot be undone.
   void raise() const noexcept;
   [[nodiscard]] bool isRaised() const noexcept;
   /// Readable once raised.
-  [[nodiscard]] int descriptor() const noexcept { return descriptor_; }
+  [[nodiscard]] int descriptor() const noexcept { return descriptor_.get(); }
 
  private:
-  int descriptor_;
+  FileDescriptor descriptor_;
 };
 
 using BusMessage = UniqueHandle<sd_bus_message, ::sd_bus_message_unref>;

@@ -9,7 +9,6 @@
 
 #include <poll.h>
 #include <sys/eventfd.h>
-#include <unistd.h>
 
 namespace quillseal::linux {
 namespace {
@@ -36,13 +35,12 @@ Descriptors::Interest readinessOf(int events) {
 }  // namespace
 
 PollLoop::PollLoop() : wakeUp_(eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC)) {
-  if (wakeUp_ < 0) throw std::system_error(errno, std::generic_category(), "eventfd");
+  if (!wakeUp_.isOpen()) throw std::system_error(errno, std::generic_category(), "eventfd");
 }
 
 PollLoop::~PollLoop() {
   for (std::thread& worker : workers_)
     worker.join();
-  close(wakeUp_);
 }
 
 void PollLoop::post(std::function<void()> work) {
@@ -100,11 +98,11 @@ void PollLoop::stop() {
 
 void PollLoop::wake() const {
   // Fails only when a wake-up is pending already.
-  (void)eventfd_write(wakeUp_, 1);
+  (void)eventfd_write(wakeUp_.get(), 1);
 }
 
 void PollLoop::waitForEvents() {
-  std::vector<pollfd> descriptors{{.fd = wakeUp_, .events = POLLIN, .revents = 0}};
+  std::vector<pollfd> descriptors{{.fd = wakeUp_.get(), .events = POLLIN, .revents = 0}};
   std::vector<std::uint64_t> ids{0};
   for (const auto& [descriptor, watch] : watches_) {
     descriptors.push_back({.fd = descriptor, .events = eventsOf(watch.interest), .revents = 0});
@@ -121,7 +119,7 @@ void PollLoop::waitForEvents() {
     throw std::system_error(errno, std::generic_category(), "poll");
   }
   eventfd_t ignored = 0;
-  (void)eventfd_read(wakeUp_, &ignored);
+  (void)eventfd_read(wakeUp_.get(), &ignored);
   for (std::size_t i = 1; i < descriptors.size(); ++i) {
     if (descriptors[i].revents == 0) continue;
     // An earlier call may have ended this watch or begun another of the same descriptor.

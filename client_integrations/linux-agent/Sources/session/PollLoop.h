@@ -9,6 +9,7 @@
 
 #include "desktop/MainLoop.h"
 #include "session/Descriptors.h"
+#include "session/FileDescriptor.h"
 
 namespace quillseal::linux {
 
@@ -49,7 +50,7 @@ class PollLoop final : public desktop::MainLoop, public Descriptors {
   void runTimers();
   void runPosted();
 
-  int wakeUp_;  // an eventfd
+  FileDescriptor wakeUp_;  // an eventfd
   std::atomic<bool> stopped_ = false;
   std::uint64_t lastId_ = 0;
   std::map<TimerKey, std::function<void()>> timers_;

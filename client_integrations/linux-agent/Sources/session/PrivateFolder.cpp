@@ -1,6 +1,7 @@
 #include "session/PrivateFolder.h"
 
 #include <cerrno>
+#include <cstdlib>
 #include <stdexcept>
 #include <string>
 #include <system_error>
@@ -33,6 +34,13 @@ fs::path privateFolderIn(const fs::path& parent) {
   if (::mkdir(folder.c_str(), S_IRWXU) != 0 && errno != EEXIST) fail("make", folder);
   requireOwn(folder, S_IRWXG | S_IRWXO);
   return folder;
+}
+
+fs::path runtimeFolder() {
+  const char* runtime = std::getenv("XDG_RUNTIME_DIR");  // NOLINT(concurrency-mt-unsafe)
+  if (runtime == nullptr || !fs::path(runtime).is_absolute())
+    throw std::runtime_error("XDG_RUNTIME_DIR names no folder.");
+  return privateFolderIn(runtime);
 }
 
 }  // namespace quillseal::linux

@@ -8,4 +8,8 @@ namespace quillseal::linux {
 /// sentence when it cannot be made, or when either folder could be changed by another user.
 [[nodiscard]] std::filesystem::path privateFolderIn(const std::filesystem::path& parent);
 
+/// The one in `$XDG_RUNTIME_DIR`, for what ends with the session. Throws also when there is no
+/// such folder.
+[[nodiscard]] std::filesystem::path runtimeFolder();
+
 }  // namespace quillseal::linux

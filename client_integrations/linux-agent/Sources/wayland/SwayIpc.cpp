@@ -13,7 +13,6 @@
 #include <poll.h>
 #include <sys/socket.h>
 #include <sys/un.h>
-#include <unistd.h>
 
 namespace quillseal::linux {
 namespace {
@@ -101,14 +100,10 @@ std::unique_ptr<SwayIpc> SwayIpc::open(const std::string& path) {
   address.sun_family = AF_UNIX;
   if (path.empty() || path.size() >= sizeof address.sun_path) return nullptr;
   path.copy(address.sun_path, path.size());
-  const int descriptor = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-  std::unique_ptr<SwayIpc> connection(new SwayIpc(descriptor));
+  FileDescriptor descriptor(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
   const auto* generic = reinterpret_cast<const sockaddr*>(&address);
-  return connect(descriptor, generic, sizeof address) == 0 ? std::move(connection) : nullptr;
-}
-
-SwayIpc::~SwayIpc() {
-  close(socket_);
+  if (connect(descriptor.get(), generic, sizeof address) != 0) return nullptr;
+  return std::unique_ptr<SwayIpc>(new SwayIpc(std::move(descriptor)));
 }
 
 std::optional<std::string> SwayIpc::ask(Request request, std::string_view text) {
@@ -117,14 +112,14 @@ std::optional<std::string> SwayIpc::ask(Request request, std::string_view text) 
   append(message, static_cast<std::uint32_t>(text.size()));
   append(message, static_cast<std::uint32_t>(request));
   message += text;
-  answers_ = send(socket_, message.data(), message.size(), MSG_NOSIGNAL) ==
+  answers_ = send(socket_.get(), message.data(), message.size(), MSG_NOSIGNAL) ==
              static_cast<ssize_t>(message.size());
   const auto deadline = std::chrono::steady_clock::now() + patience;
   while (answers_) {
     if (auto answer = next()) return std::move(answer->text);
     const auto left =
         std::chrono::ceil<milliseconds>(deadline - std::chrono::steady_clock::now()).count();
-    pollfd ready{.fd = socket_, .events = POLLIN, .revents = 0};
+    pollfd ready{.fd = socket_.get(), .events = POLLIN, .revents = 0};
     // What is answered later would be taken for the answer to something else.
     answers_ = left > 0 && poll(&ready, 1, static_cast<int>(left)) > 0 && read();
   }
@@ -141,7 +136,7 @@ std::optional<std::vector<SwayIpc::Message>> SwayIpc::receive() {
 
 bool SwayIpc::read() {
   std::array<char, std::size_t{16} * 1024> piece{};
-  const ssize_t count = recv(socket_, piece.data(), piece.size(), MSG_DONTWAIT);
+  const ssize_t count = recv(socket_.get(), piece.data(), piece.size(), MSG_DONTWAIT);
   if (count < 0) return errno == EAGAIN || errno == EINTR;
   received_.append(piece.data(), static_cast<std::size_t>(count));
   const bool isSane =

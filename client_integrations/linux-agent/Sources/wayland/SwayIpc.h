@@ -5,7 +5,10 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
+
+#include "session/FileDescriptor.h"
 
 namespace quillseal::linux {
 
@@ -21,26 +24,23 @@ class SwayIpc {
 
   /// Null when nobody answers at the socket with this path.
   [[nodiscard]] static std::unique_ptr<SwayIpc> open(const std::string& path);
-  ~SwayIpc();
-  SwayIpc(const SwayIpc&) = delete;
-  SwayIpc& operator=(const SwayIpc&) = delete;
 
   /// The answer to a request; nothing when none comes within a second, and to every later request.
   /// REQUIRES: nothing was subscribed to on this connection.
   [[nodiscard]] std::optional<std::string> ask(Request request, std::string_view text);
 
   /// What is readable while there are messages to receive, or sway has gone.
-  [[nodiscard]] int descriptor() const { return socket_; }
+  [[nodiscard]] int descriptor() const { return socket_.get(); }
 
   /// The messages that have arrived since the last call; nothing when sway has gone.
   [[nodiscard]] std::optional<std::vector<Message>> receive();
 
  private:
-  explicit SwayIpc(int socket) : socket_(socket) {}
+  explicit SwayIpc(FileDescriptor socket) : socket_(std::move(socket)) {}
   [[nodiscard]] bool read();
   [[nodiscard]] std::optional<Message> next();
 
-  int socket_;
+  FileDescriptor socket_;
   bool answers_ = true;
   std::string received_;
 };

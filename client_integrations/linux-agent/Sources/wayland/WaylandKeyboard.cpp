@@ -12,6 +12,7 @@
 #include <xkbcommon/xkbcommon-keysyms.h>
 
 #include "core/text/UniqueHandle.h"
+#include "session/FileDescriptor.h"
 #include "virtual-keyboard-unstable-v1-client-protocol.h"
 
 namespace quillseal::linux {
@@ -73,11 +74,10 @@ struct WaylandKeyboard::Device {
 
   void setLayout() const {
     const std::size_t size = layout.size() + 1;  // with the zero byte
-    const int file = memfd_create("quillseal-layout", MFD_CLOEXEC);
-    if (write(file, layout.data(), size) == static_cast<ssize_t>(size))
-      zwp_virtual_keyboard_v1_keymap(keyboard.get(), WL_KEYBOARD_KEYMAP_FORMAT_XKB_V1, file,
+    const FileDescriptor file(memfd_create("quillseal-layout", MFD_CLOEXEC));
+    if (writeAll(file, {layout.data(), size}))
+      zwp_virtual_keyboard_v1_keymap(keyboard.get(), WL_KEYBOARD_KEYMAP_FORMAT_XKB_V1, file.get(),
                                      static_cast<std::uint32_t>(size));
-    close(file);
   }
 
   void set(const KnownKey& key, wl_keyboard_key_state state, std::uint32_t modifiers) const {

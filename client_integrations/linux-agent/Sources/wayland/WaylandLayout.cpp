@@ -9,6 +9,7 @@
 #include <xkbcommon/xkbcommon.h>
 
 #include "core/text/UniqueHandle.h"
+#include "session/FileDescriptor.h"
 #include "wayland/WaylandKeyboard.h"
 
 namespace quillseal::linux {
@@ -52,9 +53,9 @@ struct WaylandLayout::State {
 
   static void mapped(void* data, wl_keyboard* /*keyboard*/, std::uint32_t format, std::int32_t file,
                      std::uint32_t size) {
+    const FileDescriptor owner(file);
     std::string layout =
         format == WL_KEYBOARD_KEYMAP_FORMAT_XKB_V1 ? textOf(file, size) : std::string();
-    close(file);
     static_cast<State*>(data)->take(std::move(layout));
   }
   // The keyboard is never with this connection, which has no window.

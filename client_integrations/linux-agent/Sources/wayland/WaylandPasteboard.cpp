@@ -9,6 +9,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include "session/FileDescriptor.h"
 #include "wayland/WaylandDataControl.h"
 
 namespace quillseal::linux {
@@ -141,13 +142,14 @@ class WaylandPasteboard::Reading : public std::enable_shared_from_this<Reading> 
     if (chosen_.empty() || ClipboardFormats::isSecret(content_)) return check();
     std::array<int, 2> ends{};
     if (pipe2(ends.data(), O_CLOEXEC) != 0) return check();
-    pipe_ = ends[0];
-    fcntl(pipe_, F_SETFL, O_NONBLOCK);  // the other end is for a program that may not expect it
+    pipe_ = FileDescriptor(ends[0]);
+    const FileDescriptor otherEnd(ends[1]);
+    fcntl(pipe_.get(), F_SETFL,
+          O_NONBLOCK);  // the other end is for a program that may not expect it
     bytes_.clear();
-    zwlr_data_control_offer_v1_receive(offer_->offer.get(), chosen_.back().c_str(), ends[1]);
+    zwlr_data_control_offer_v1_receive(offer_->offer.get(), chosen_.back().c_str(), otherEnd.get());
     state_.services.connection.flush();
-    close(ends[1]);
-    watch_ = state_.services.descriptors.watch(pipe_, Descriptors::Interest::reading,
+    watch_ = state_.services.descriptors.watch(pipe_.get(), Descriptors::Interest::reading,
                                                [this](Descriptors::Interest) { receive(); });
     awaitAnswer();
   }
@@ -164,7 +166,7 @@ class WaylandPasteboard::Reading : public std::enable_shared_from_this<Reading> 
   void receive() {
     const auto self = shared_from_this();
     std::array<char, std::size_t{64} * 1024> piece{};
-    const ssize_t count = read(pipe_, piece.data(), piece.size());
+    const ssize_t count = read(pipe_.get(), piece.data(), piece.size());
     if (count < 0 && (errno == EAGAIN || errno == EINTR)) return;
     if (count > 0) {
       bytes_.append(piece.data(), static_cast<std::size_t>(count));
@@ -207,7 +209,7 @@ class WaylandPasteboard::Reading : public std::enable_shared_from_this<Reading> 
 
   void closePipe() {
     watch_ = {};
-    if (pipe_ >= 0) close(std::exchange(pipe_, -1));
+    pipe_ = {};
   }
 
   State& state_;
@@ -217,7 +219,7 @@ class WaylandPasteboard::Reading : public std::enable_shared_from_this<Reading> 
   std::vector<std::string> chosen_;
   ClipboardFormats::Content content_;
   std::string bytes_;
-  int pipe_ = -1;
+  FileDescriptor pipe_;
   desktop::Ticket watch_;
   desktop::Ticket timer_;
 };

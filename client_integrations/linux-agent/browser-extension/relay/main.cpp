@@ -22,6 +22,7 @@
 
 #include "browsers/TabMessages.h"
 #include "browsers/TabSocket.h"
+#include "session/PrivateFolder.h"
 
 namespace quillseal::linux {
 namespace {
@@ -112,7 +113,7 @@ class Relay {
     const FileDescriptor changes(::inotify_init1(IN_CLOEXEC | IN_NONBLOCK));
     // Watched before the first try: an agent that starts in between is not missed.
     if (!changes.isOpen() ||
-        ::inotify_add_watch(changes.get(), TabSocket::folder().c_str(), IN_MOVED_TO) < 0)
+        ::inotify_add_watch(changes.get(), runtimeFolder().c_str(), IN_MOVED_TO) < 0)
       throw std::system_error(errno, std::generic_category(), "inotify");
     while (true) {
       if (auto agent = TabSocket::connect()) return agent;

@@ -13,6 +13,21 @@ namespace quillseal::desktop {
 /// Virtual key codes of the ANSI layout, as Carbon's Events.h numbers them.
 enum class Key : std::uint16_t { a = 0, h = 4, c = 8, v = 9 };
 
+/// The letter on the key, in lower case.
+[[nodiscard]] constexpr char letterOf(Key key) {
+  switch (key) {
+    case Key::a:
+      return 'a';
+    case Key::c:
+      return 'c';
+    case Key::h:
+      return 'h';
+    case Key::v:
+      return 'v';
+  }
+  return '?';
+}
+
 /// Modifiers, combined with `|`. The values are Core Graphics' event flags. `command` stands for
 /// the key that shortcuts of applications use: Control on Linux.
 enum class Modifiers : std::uint32_t {

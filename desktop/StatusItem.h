@@ -33,8 +33,8 @@ class StatusItem {
  public:
   virtual ~StatusItem() = default;
 
-  /// Shows `menu`, now or as soon as the desktop has a status bar. Key equivalents are shown; the
-  /// first item's combination is also the global hotkey. Actions run on the main thread.
+  /// Shows `menu`, now or as soon as the desktop has a status bar. Key equivalents are
+  /// shown; one of them may be a global hotkey as well. Actions run on the main thread.
   virtual void show(const StatusMenu& menu) = 0;
 
   /// Changes the title of the item at `index` of the menu shown last.

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "MacDesktop/MacWords.h"
+#include "desktop/SigningHotkey.h"
 
 namespace quillseal::testing {
 namespace {
@@ -238,12 +239,8 @@ bool FakeDesktop::replace(const std::string& path, std::string_view contents) {
 }
 
 void FakeDesktop::registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) {
-  using desktop::Modifiers;
   if (hotkeyFailure) throw Error(*hotkeyFailure);
-  const bool isOurs =
-      combination.key == desktop::Key::h &&
-      combination.modifiers == (Modifiers::command | Modifiers::option | Modifiers::control);
-  trace.emplace_back(isOurs ? "hotkey ⌘⌥⌃H" : "another hotkey");
+  trace.emplace_back(combination == desktop::signingHotkey ? "hotkey ⌘⌥⌃H" : "another hotkey");
   hotkeyPressed = std::move(pressed);
 }
 

@@ -49,6 +49,7 @@
 #include "MacDesktop/MacWindow.h"
 #include "MacViews.h"
 #include "Quillseal/AccessibilityManager.h"
+#include "desktop/SigningHotkey.h"
 
 /// Counts how often its tracking was to be cancelled.
 @interface QSTestMenu : NSMenu
@@ -931,11 +932,8 @@ TEST_F(MacDesktopTest, PressesNothingIntoAnotherApplication) {
 TEST(MacHotkeyTest, PostsEachPressAndSaysWhenTheKeyIsTaken) {
   static MacMainLoop loop;  // both outlive the event loop, as the handler is never removed
   static MacHotkey hotkey(loop);
-  const desktop::KeyPress combination{desktop::Key::h, desktop::Modifiers::command |
-                                                           desktop::Modifiers::option |
-                                                           desktop::Modifiers::control};
   static int pressed = 0;
-  const auto taken = errorOf([&] { hotkey.registerHotkey(combination, [] { ++pressed; }); });
+  const auto taken = errorOf([&] { hotkey.registerHotkey(desktop::signingHotkey, [] { ++pressed; }); });
   if (taken) GTEST_SKIP() << "another program has the hotkey: " << taken->what();
   EventRef event = nullptr;
   ASSERT_EQ(::CreateEvent(nullptr, kEventClassKeyboard, kEventHotKeyPressed, 0, 0, &event), noErr);
@@ -943,7 +941,7 @@ TEST(MacHotkeyTest, PostsEachPressAndSaysWhenTheKeyIsTaken) {
   ::ReleaseEvent(event);
   EXPECT_EQ(pressed, 0);
   EXPECT_TRUE(runUntil([] { return pressed == 2; }));
-  const auto again = errorOf([&] { hotkey.registerHotkey(combination, [] { ++pressed; }); });
+  const auto again = errorOf([&] { hotkey.registerHotkey(desktop::signingHotkey, [] { ++pressed; }); });
   ASSERT_TRUE(again.has_value());
   EXPECT_NE(std::string(again->what()).find("another program"), std::string::npos);
 }

@@ -2,6 +2,9 @@
 
 #include <string>
 
+#include "desktop/SigningHotkey.h"
+#include "x11/KeyChords.h"
+
 namespace quillseal::linux {
 namespace {
 
@@ -36,7 +39,7 @@ void speakOfKeyFile(desktop::Wording& words) {
 
 desktop::Wording linuxWording(const WordingCircumstances& circumstances) {
   desktop::Wording words;
-  words.hotkey = "Ctrl+Alt+Super+H";
+  words.hotkey = nameOf(desktop::signingHotkey);
   words.pasteKey = "Ctrl+V";
   words.machine = "computer";
   words.machineInTitle = "Computer";

@@ -4,7 +4,6 @@
 #include <utility>
 #include <vector>
 
-#include <linux/input-event-codes.h>
 #include <nlohmann/json.hpp>
 #include <unistd.h>
 #include <xkbcommon/xkbcommon-keysyms.h>
@@ -16,9 +15,6 @@ namespace quillseal::linux {
 namespace {
 
 using nlohmann::json;
-
-// XKB's numbers of keys are higher by 8 than those of evdev.
-constexpr std::uint32_t usualKey = KEY_H + 8;
 
 /// The command that sway reports. Each agent has its own, so that one press starts one run.
 std::string commandFor(std::string_view event) {
@@ -65,8 +61,7 @@ std::string otherWays(std::string_view place) {
 SwayHotkey::SwayHotkey(Services services)
     : services_(std::move(services)),
       commands_(SwayIpc::open(services_.socket)),
-      events_(SwayIpc::open(services_.socket)),
-      key_(usualKey) {}
+      events_(SwayIpc::open(services_.socket)) {}
 
 SwayHotkey::~SwayHotkey() {
   watch_ = {};
@@ -88,11 +83,13 @@ void SwayHotkey::registerHotkey(desktop::KeyPress combination, std::function<voi
     following_ = services_.loop.after({}, [this] { followLayout(); });
   });
   // The seat first, then its keyboard.
-  if (services_.connection.roundTrip() && services_.connection.roundTrip())
-    key_ = layout_->keyFor(chordOf(chord_).back()).value_or(usualKey);
+  static_cast<void>(services_.connection.roundTrip() && services_.connection.roundTrip());
+  key_ = keyInLayout();
+  const std::string letter(1, desktop::letterOf(chord_.key));
   const auto configuration = commands_->ask(SwayIpc::Request::getConfig, "");
   const json parsed = json::parse(configuration.value_or(""), nullptr, false);
-  if (parsed.is_object() && bindsAlready(textOf(parsed, "config"), {.symbol = "h", .code = key_}))
+  if (parsed.is_object() &&
+      bindsAlready(textOf(parsed, "config"), {.symbol = letter, .code = key_}))
     fail(2, "Sway’s configuration already uses " + nameOf(chord_) +
                 ". Free it there and start Quillseal again, or " +
                 otherWays("the configuration too"));
@@ -108,6 +105,11 @@ bool SwayHotkey::command(const std::string& text) {
   const json parsed = json::parse(answer.value_or(""), nullptr, false);
   return parsed.is_array() && parsed.size() == 1 && parsed[0].is_object() &&
          parsed[0].value("success", json()) == true;
+}
+
+std::uint32_t SwayHotkey::keyInLayout() const {
+  const Keysym symbol = chordOf(chord_).back();
+  return layout_->keyFor(symbol).value_or(usualKeyOf(symbol));
 }
 
 std::string SwayHotkey::combination() const {
@@ -133,7 +135,7 @@ void SwayHotkey::unbind() {
 }
 
 void SwayHotkey::followLayout() {
-  const std::uint32_t now = layout_->keyFor(chordOf(chord_).back()).value_or(usualKey);
+  const std::uint32_t now = keyInLayout();
   if (now == key_ || !isBound_) return;
   unbind();
   key_ = now;

@@ -35,6 +35,7 @@ class SwayHotkey : public desktop::Hotkey {
  private:
   /// Has sway run a command; false when it did not, or did not say so.
   [[nodiscard]] bool command(const std::string& text);
+  [[nodiscard]] std::uint32_t keyInLayout() const;
   [[nodiscard]] std::string combination() const;
   [[nodiscard]] bool bind();
   void unbind();
@@ -48,7 +49,7 @@ class SwayHotkey : public desktop::Hotkey {
   std::unique_ptr<SwayIpc> events_;
   std::function<void()> pressed_;
   desktop::KeyPress chord_{};
-  std::uint32_t key_;
+  std::uint32_t key_ = 0;
   bool isBound_ = false;
   bool isDown_ = false;
   desktop::MainLoop::TimePoint lastPress_;

@@ -51,17 +51,7 @@ bool isHeld(Keysym modifier, Modifiers modifiers) {
 }
 
 Keysym symbolOf(Key key) {
-  switch (key) {
-    case Key::a:
-      return XKB_KEY_a;
-    case Key::c:
-      return XKB_KEY_c;
-    case Key::h:
-      return XKB_KEY_h;
-    case Key::v:
-      return XKB_KEY_v;
-  }
-  return XKB_KEY_NoSymbol;
+  return XKB_KEY_a + static_cast<Keysym>(desktop::letterOf(key) - 'a');
 }
 
 bool isOneOf(std::string_view windowClass, const auto& classes) {
@@ -90,6 +80,21 @@ std::vector<Keysym> chordOf(KeyPress press) {
   return chord;
 }
 
+std::uint8_t usualKeyOf(Keysym symbol) {
+  switch (symbol) {
+    case XKB_KEY_a:
+      return 38;
+    case XKB_KEY_c:
+      return 54;
+    case XKB_KEY_h:
+      return 43;
+    case XKB_KEY_v:
+      return 55;
+    default:
+      return 0;
+  }
+}
+
 std::vector<Keysym> chordFor(KeyPress press, std::string_view categories,
                              std::string_view windowClass) {
   if (!isTerminal(categories, windowClass)) return chordOf(press);
@@ -98,7 +103,7 @@ std::vector<Keysym> chordFor(KeyPress press, std::string_view categories,
 }
 
 std::string nameOf(KeyPress press) {
-  const auto letter = static_cast<char>('a' + (symbolOf(press.key) - XKB_KEY_a));
+  const char letter = desktop::letterOf(press.key);
   return nameOf(press.modifiers, std::string_view(&letter, 1));
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,6 +15,10 @@ namespace quillseal::linux {
 /// Command is Control, as in the shortcuts of applications. Where Control is asked for beside it,
 /// Command is the key with the logo of the desktop (Super), since one key cannot be both.
 [[nodiscard]] std::vector<Keysym> chordOf(desktop::KeyPress press);
+
+/// The key that a letter of the agent's is on, on every PC keyboard, in the numbering of X and XKB,
+/// which is that of evdev plus 8; 0 for other symbols.
+[[nodiscard]] std::uint8_t usualKeyOf(Keysym symbol);
 
 /// Whether an application of this kind is a terminal, by the categories of its desktop file or
 /// because it is known as one.

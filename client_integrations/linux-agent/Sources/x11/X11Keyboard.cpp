@@ -9,6 +9,7 @@
 #include <xkbcommon/xkbcommon.h>
 
 #include "core/text/UniqueHandle.h"
+#include "x11/KeyChords.h"
 #include "x11/XcbHandles.h"
 
 namespace quillseal::linux {
@@ -23,22 +24,6 @@ using x11::Reply;
 using Context = UniqueHandle<xkb_context, ::xkb_context_unref>;
 using Keymap = UniqueHandle<xkb_keymap, ::xkb_keymap_unref>;
 using KeymapState = UniqueHandle<xkb_state, ::xkb_state_unref>;
-
-// Key codes of the Linux evdev driver, the same on every PC keyboard.
-xcb_keycode_t latinKey(Keysym symbol) {
-  switch (symbol) {
-    case XKB_KEY_a:
-      return 38;
-    case XKB_KEY_c:
-      return 54;
-    case XKB_KEY_h:
-      return 43;
-    case XKB_KEY_v:
-      return 55;
-    default:
-      return 0;
-  }
-}
 
 bool givesSymbol(xkb_keymap* keymap, xkb_keycode_t key, xkb_layout_index_t layout, Keysym symbol) {
   const xkb_keysym_t* symbols = nullptr;
@@ -171,12 +156,12 @@ X11Keyboard::Layout X11Keyboard::layout() {
 }
 
 xcb_keycode_t X11Keyboard::Layout::keyFor(Keysym symbol) const {
-  if (map_ == nullptr) return latinKey(symbol);
+  if (map_ == nullptr) return usualKeyOf(symbol);
   xkb_keymap* const keymap = map_->keymap.get();
   if (const xcb_keycode_t key = keyInLayout(keymap, map_->inUse, symbol); key != 0) return key;
   for (xkb_layout_index_t layout = 0; layout < xkb_keymap_num_layouts(keymap); ++layout)
     if (const xcb_keycode_t key = keyInLayout(keymap, layout, symbol); key != 0) return key;
-  return latinKey(symbol);
+  return usualKeyOf(symbol);
 }
 
 std::uint16_t X11Keyboard::Layout::modifierMaskOf(Keysym symbol) const {

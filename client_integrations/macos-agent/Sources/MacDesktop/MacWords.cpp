@@ -1,10 +1,25 @@
 #include "MacDesktop/MacWords.h"
 
+#include "desktop/SigningHotkey.h"
+
 namespace quillseal::mac {
+namespace {
+
+/// As menus show it.
+std::string nameOf(desktop::KeyPress press) {
+  using desktop::Modifiers;
+  std::string name;
+  if (desktop::contains(press.modifiers, Modifiers::command)) name += "⌘";
+  if (desktop::contains(press.modifiers, Modifiers::option)) name += "⌥";
+  if (desktop::contains(press.modifiers, Modifiers::control)) name += "⌃";
+  return name + static_cast<char>(desktop::letterOf(press.key) - 'a' + 'A');
+}
+
+}  // namespace
 
 desktop::Wording MacWords::current() const {
   return {
-      .hotkey = "⌘⌥⌃H",
+      .hotkey = nameOf(desktop::signingHotkey),
       .pasteKey = "⌘V",
       .machine = "Mac",
       .machineInTitle = "Mac",

@@ -20,8 +20,9 @@ void MenuBarManager::setupMenu() {
                     .keyModifiers = Modifiers::command,
                     .action = std::move(perform)};
   };
-  MenuItem sign = action("Sign Selected Text (" + desktop_.words.current().hotkey + ")", "h",
-                         [this] { signText(); });
+  MenuItem sign =
+      action("Sign Selected Text (" + desktop_.words.current().hotkey + ")",
+             std::string(1, desktop::letterOf(desktop::signingHotkey.key)), [this] { signText(); });
   sign.keyModifiers = desktop::signingHotkey.modifiers;
   const MenuItem separator{.kind = MenuItem::Kind::separator,
                            .title = {},

@@ -499,10 +499,12 @@ TEST_F(Story, ReturnsToTheTabOfTheTextOrLeavesThePastingToTheUser) {
   open(letter);
   if (IsSkipped()) return;
   QSBrowser* safari = [[QSBrowser alloc] init];
-  const Replaced bundle(
-      object_getClass(NSBundle.class), @selector(bundleWithURL:), ^id(id, NSURL* place) {
-        return [place.path hasSuffix:@".app"] ? safari : (id)[NSBundle bundleWithPath:place.path];
-      });
+  const Replaced bundle(object_getClass(NSBundle.class), @selector(bundleWithURL:),
+                        ^id(id, NSURL* place) {
+                          NSString* path = place.path;
+                          if (path == nil || [path hasSuffix:@".app"]) return safari;
+                          return [NSBundle bundleWithPath:path];
+                        });
   Class running =
       onMain([] { return object_getClass(NSWorkspace.sharedWorkspace.frontmostApplication); });
   const Replaced source(running, @selector(bundleIdentifier), ^NSString*(id) {

@@ -933,7 +933,8 @@ TEST(MacHotkeyTest, PostsEachPressAndSaysWhenTheKeyIsTaken) {
   static MacMainLoop loop;  // both outlive the event loop, as the handler is never removed
   static MacHotkey hotkey(loop);
   static int pressed = 0;
-  const auto taken = errorOf([&] { hotkey.registerHotkey(desktop::signingHotkey, [] { ++pressed; }); });
+  const auto taken =
+      errorOf([&] { hotkey.registerHotkey(desktop::signingHotkey, [] { ++pressed; }); });
   if (taken) GTEST_SKIP() << "another program has the hotkey: " << taken->what();
   EventRef event = nullptr;
   ASSERT_EQ(::CreateEvent(nullptr, kEventClassKeyboard, kEventHotKeyPressed, 0, 0, &event), noErr);
@@ -941,7 +942,8 @@ TEST(MacHotkeyTest, PostsEachPressAndSaysWhenTheKeyIsTaken) {
   ::ReleaseEvent(event);
   EXPECT_EQ(pressed, 0);
   EXPECT_TRUE(runUntil([] { return pressed == 2; }));
-  const auto again = errorOf([&] { hotkey.registerHotkey(desktop::signingHotkey, [] { ++pressed; }); });
+  const auto again =
+      errorOf([&] { hotkey.registerHotkey(desktop::signingHotkey, [] { ++pressed; }); });
   ASSERT_TRUE(again.has_value());
   EXPECT_NE(std::string(again->what()).find("another program"), std::string::npos);
 }

@@ -415,7 +415,7 @@ TEST_F(LinuxBrowserTabsTest, TrustsNoFolderThatOthersCouldChange) {
   ASSERT_EQ(::chmod((runtime_.path() / "quillseal").c_str(), 0700), 0);
   std::filesystem::rename(runtime_.path() / "quillseal", runtime_.path() / "other");
   std::filesystem::create_directory_symlink("other", runtime_.path() / "quillseal");
-  EXPECT_THROW((void)TabSocket::folder(), std::runtime_error);
+  EXPECT_THROW((void)runtimeFolder(), std::runtime_error);
   std::filesystem::remove(runtime_.path() / "quillseal");
   ASSERT_EQ(::chmod(runtime_.path().c_str(), 0777), 0);
   EXPECT_THROW((void)runtimeFolder(), std::runtime_error);

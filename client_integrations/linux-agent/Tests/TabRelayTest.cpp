@@ -16,6 +16,7 @@
 #include "TemporaryFolder.h"
 #include "browsers/TabMessages.h"
 #include "browsers/TabSocket.h"
+#include "session/PrivateFolder.h"
 
 namespace quillseal::linux {
 namespace {
@@ -200,8 +201,8 @@ TEST_F(TabRelayTest, WaitsForTheAgentAlsoWhereOneHasDied) {
     accept();
   }
   // An agent's socket comes to its place when it listens already.
-  const std::filesystem::path place = TabSocket::folder() / TabSocket::name;
-  const std::filesystem::path earlier = TabSocket::folder() / "earlier";
+  const std::filesystem::path place = runtimeFolder() / TabSocket::name;
+  const std::filesystem::path earlier = runtimeFolder() / "earlier";
   std::filesystem::rename(place, earlier);
   relay_.emplace(chromiumCall);
   relay_->awaitWatching();

@@ -11,9 +11,9 @@ namespace {
 
 using namespace quillseal::devserver;
 
-constexpr std::array<std::string_view, 8> paths{
-    "/api/register_native", "/api/sign_native", "/api/sign_demo", "/api/handoff/create",
-    "/api/handoff/poll",    "/handoff",         "/verify/0a1b",   ""};
+constexpr auto paths = std::to_array<std::string_view>(
+    {"/api/register_native", "/api/sign_native", "/api/sign_demo", "/api/handoff/create",
+     "/api/handoff/poll", "/handoff", "/verify/0a1b", ""});
 
 std::string_view cut(std::string_view& rest) {
   const std::string_view field = rest.substr(0, rest.find('\0'));

@@ -152,7 +152,7 @@ class Segmenter {
         const WordClass word = classOf(letters.substr(start, length));
         if (word == WordClass::unknown) continue;
         // Any letters contain short words of other languages and abbreviations by chance.
-        constexpr std::array<std::uint32_t, 4> costOfShort{0, 22, 16, 11};
+        constexpr auto costOfShort = std::to_array<std::uint32_t>({0, 22, 16, 11});
         if (length < costOfShort.size() && word != WordClass::common) continue;
         relax(start, length, length < costOfShort.size() ? costOfShort[length] : 10, word);
       }

@@ -9,9 +9,9 @@
 namespace quillseal::SignedBlock {
 namespace {
 
-constexpr std::array<std::string_view, 12> monthNames{
-    "January", "February", "March",     "April",   "May",      "June",
-    "July",    "August",   "September", "October", "November", "December"};
+constexpr auto monthNames =
+    std::to_array<std::string_view>({"January", "February", "March", "April", "May", "June", "July",
+                                     "August", "September", "October", "November", "December"});
 
 std::string verificationLink(const Fields& fields) {
   return std::string{fields.server}.append("/verify/").append(fields.signatureId);

@@ -26,14 +26,10 @@ struct AppScope {
 [[nodiscard]] AppScope detectAppScope(const ApplicationNames& application);
 
 /// The media a user can choose from; the last stands for everything else.
-inline constexpr std::array<std::string_view, 8> mediumOptions{"Email Message (Microsoft Outlook)",
-                                                               "Email Message (Apple Mail)",
-                                                               "LinkedIn Post",
-                                                               "X / Twitter Post",
-                                                               "Facebook Post",
-                                                               "Instagram Post",
-                                                               "Word Document",
-                                                               "Other / Unspecified"};
+inline constexpr auto mediumOptions = std::to_array<std::string_view>(
+    {"Email Message (Microsoft Outlook)", "Email Message (Apple Mail)", "LinkedIn Post",
+     "X / Twitter Post", "Facebook Post", "Instagram Post", "Word Document",
+     "Other / Unspecified"});
 
 /// The index in `mediumOptions` that fits `scope`.
 [[nodiscard]] std::size_t defaultMediumIndex(std::string_view scope);

@@ -23,14 +23,14 @@ struct ScalarRange {
 };
 
 /// Scripts written without spaces between words: each of these characters is a word.
-constexpr std::array<ScalarRange, 6> cjkRanges{{
+constexpr auto cjkRanges = std::to_array<ScalarRange>({
     {0x3040, 0x30FF},    // Hiragana and Katakana
     {0x3400, 0x4DBF},    // CJK Unified Ideographs Extension A
     {0x4E00, 0x9FFF},    // CJK Unified Ideographs
     {0xF900, 0xFAFF},    // CJK Compatibility Ideographs
     {0xAC00, 0xD7AF},    // Hangul Syllables
     {0x20000, 0x2FA1F},  // Supplementary Ideographic Plane to CJK Compatibility Supplement
-}};
+});
 
 enum class AsciiKind : std::uint8_t { other, space, letterOrNumber };
 

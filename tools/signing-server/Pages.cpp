@@ -20,9 +20,9 @@ namespace {
 
 using namespace std::string_literals;
 
-constexpr std::array<const char*, 12> monthNames{"January",   "February", "March",    "April",
-                                                 "May",       "June",     "July",     "August",
-                                                 "September", "October",  "November", "December"};
+constexpr auto monthNames =
+    std::to_array<const char*>({"January", "February", "March", "April", "May", "June", "July",
+                                "August", "September", "October", "November", "December"});
 
 std::string templateText(std::string_view name) {
   const std::optional<std::string_view> text = asset(name);

@@ -51,7 +51,7 @@ pid_t start(const std::filesystem::path& file, int input) {
   for (const int output : {STDOUT_FILENO, STDERR_FILENO})
     posix_spawn_file_actions_addopen(actions.get(), output, "/dev/null", O_WRONLY, 0);
   std::string name = file.filename().string();
-  const std::array<char*, 2> arguments = {name.data(), nullptr};
+  const auto arguments = std::to_array<char*>({name.data(), nullptr});
   pid_t process = 0;
   if (posix_spawn(&process, file.c_str(), actions.get(), nullptr, arguments.data(), environ) != 0)
     fail(file.string() + " could not be started. Install Quillseal again.");

@@ -21,7 +21,7 @@ namespace {
 
 constexpr std::string_view headline =
     "Quillseal signing key, private half encrypted with your passphrase.";
-constexpr std::array<std::string_view, 2> labels{"PUBLIC KEY", "ENCRYPTED PRIVATE KEY"};
+constexpr auto labels = std::to_array<std::string_view>({"PUBLIC KEY", "ENCRYPTED PRIVATE KEY"});
 constexpr int saltSize = 16;
 
 /// Empties OpenSSL's error queue at the end of a scope, so that one operation's errors are not
@@ -169,9 +169,9 @@ void FileKeyStore::create(const SecretBytes& secret) {
   const openssl::Key key(::EVP_EC_gen(SN_X9_62_prime256v1));
   if (!key) throw KeyFailure("the key could not be generated.");
   const openssl::EncryptedKey encrypted = encrypt(key.get(), secret, cost_);
-  const std::array<KeyFile::Block, 2> blocks{
-      KeyFile::Block{.label = labels[0], .bytes = encoded(::i2d_PUBKEY, key.get())},
-      KeyFile::Block{.label = labels[1], .bytes = encoded(::i2d_X509_SIG, encrypted.get())}};
+  const auto blocks = std::to_array<KeyFile::Block>(
+      {{.label = labels[0], .bytes = encoded(::i2d_PUBKEY, key.get())},
+       {.label = labels[1], .bytes = encoded(::i2d_X509_SIG, encrypted.get())}});
   file_.replace(KeyFile::write(headline, blocks));
 }
 

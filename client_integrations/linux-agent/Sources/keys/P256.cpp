@@ -46,10 +46,10 @@ std::vector<std::uint8_t> derSignature(const Pair& signature) {
 bool verifies(const Claim& claim) {
   char group[] = "prime256v1";
   Point point = claim.publicKey;
-  const std::array<OSSL_PARAM, 3> parameters{
-      ::OSSL_PARAM_construct_utf8_string(OSSL_PKEY_PARAM_GROUP_NAME, group, 0),
-      ::OSSL_PARAM_construct_octet_string(OSSL_PKEY_PARAM_PUB_KEY, point.data(), point.size()),
-      ::OSSL_PARAM_construct_end()};
+  const auto parameters = std::to_array<OSSL_PARAM>(
+      {::OSSL_PARAM_construct_utf8_string(OSSL_PKEY_PARAM_GROUP_NAME, group, 0),
+       ::OSSL_PARAM_construct_octet_string(OSSL_PKEY_PARAM_PUB_KEY, point.data(), point.size()),
+       ::OSSL_PARAM_construct_end()});
   const openssl::KeyContext import(::EVP_PKEY_CTX_new_from_name(nullptr, "EC", nullptr));
   EVP_PKEY* imported = nullptr;
   if (!import || ::EVP_PKEY_fromdata_init(import.get()) != 1 ||

@@ -26,8 +26,8 @@ namespace {
 
 constexpr std::string_view headline =
     "Quillseal signing key, wrapped by the TPM of this computer. Useless anywhere else.";
-constexpr std::array<std::string_view, 3> labels{"QUILLSEAL TPM PARENT", "QUILLSEAL TPM PUBLIC",
-                                                 "QUILLSEAL TPM PRIVATE"};
+constexpr auto labels = std::to_array<std::string_view>(
+    {"QUILLSEAL TPM PARENT", "QUILLSEAL TPM PUBLIC", "QUILLSEAL TPM PRIVATE"});
 constexpr std::string_view devicePrefix = "device:";
 
 bool isSimulator(std::string_view device) {
@@ -458,12 +458,10 @@ void TpmKeyStore::create(const SecretBytes& secret) {
   const Owned<TPM2B_PUBLIC> ownedPublic(publicArea);
   require(code);
 
-  const std::array<KeyFile::Block, 3> blocks{
-      KeyFile::Block{.label = labels[0], .bytes = nameOf(tpm, parent)},
-      KeyFile::Block{.label = labels[1],
-                     .bytes = marshalled(::Tss2_MU_TPM2B_PUBLIC_Marshal, *publicArea)},
-      KeyFile::Block{.label = labels[2],
-                     .bytes = marshalled(::Tss2_MU_TPM2B_PRIVATE_Marshal, *privateArea)}};
+  const auto blocks = std::to_array<KeyFile::Block>(
+      {{.label = labels[0], .bytes = nameOf(tpm, parent)},
+       {.label = labels[1], .bytes = marshalled(::Tss2_MU_TPM2B_PUBLIC_Marshal, *publicArea)},
+       {.label = labels[2], .bytes = marshalled(::Tss2_MU_TPM2B_PRIVATE_Marshal, *privateArea)}});
   file_.replace(KeyFile::write(headline, blocks));
 }
 

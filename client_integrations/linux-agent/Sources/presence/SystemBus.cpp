@@ -112,10 +112,9 @@ bool SystemBus::wait(const Wait& wait) {
     if (left.count() <= 0 || wait.interrupt.isRaised()) return false;
     const int events = ::sd_bus_get_events(bus_.get());
     check(events);
-    std::array<pollfd, 2> sources{
-        pollfd{
-            .fd = ::sd_bus_get_fd(bus_.get()), .events = static_cast<short>(events), .revents = 0},
-        pollfd{.fd = wait.interrupt.descriptor(), .events = POLLIN, .revents = 0}};
+    auto sources = std::to_array<pollfd>(
+        {{.fd = ::sd_bus_get_fd(bus_.get()), .events = static_cast<short>(events), .revents = 0},
+         {.fd = wait.interrupt.descriptor(), .events = POLLIN, .revents = 0}});
     if (::poll(sources.data(), sources.size(), static_cast<int>(left.count())) < 0 &&
         errno != EINTR)
       check(-errno);

@@ -16,18 +16,12 @@ using desktop::KeyPress;
 using desktop::Modifiers;
 
 // Terminals whose desktop file lacks the category, or that come without one.
-constexpr std::array<std::string_view, 9> terminalClasses = {"alacritty",
-                                                             "com.mitchellh.ghostty",
-                                                             "kitty",
-                                                             "konsole",
-                                                             "org.wezfurlong.wezterm",
-                                                             "st-256color",
-                                                             "terminator",
-                                                             "urxvt",
-                                                             "xfce4-terminal"};
+constexpr auto terminalClasses = std::to_array<std::string_view>(
+    {"alacritty", "com.mitchellh.ghostty", "kitty", "konsole", "org.wezfurlong.wezterm",
+     "st-256color", "terminator", "urxvt", "xfce4-terminal"});
 
 // These keep to the ways of the first X terminals.
-constexpr std::array<std::string_view, 3> selectingClasses = {"uxterm", "xterm", "urxvt"};
+constexpr auto selectingClasses = std::to_array<std::string_view>({"uxterm", "xterm", "urxvt"});
 
 struct ModifierKey {
   Keysym symbol;

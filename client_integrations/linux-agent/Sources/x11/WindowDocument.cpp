@@ -9,7 +9,7 @@ namespace {
 
 constexpr char separator = ' ';
 // With the blanks that set them apart.
-constexpr std::array<std::string_view, 7> marks = {" ", "*", "●", "•", "○", "◦", "⏺"};
+constexpr auto marks = std::to_array<std::string_view>({" ", "*", "●", "•", "○", "◦", "⏺"});
 
 bool isDigit(char c) {
   return c >= '0' && c <= '9';

@@ -88,8 +88,9 @@ class Relay {
   };
 
   [[nodiscard]] Readiness wait(const FileDescriptor& other) const {
-    std::array<pollfd, 2> descriptors{pollfd{.fd = browser_.get(), .events = POLLIN, .revents = 0},
-                                      pollfd{.fd = other.get(), .events = POLLIN, .revents = 0}};
+    auto descriptors =
+        std::to_array<pollfd>({{.fd = browser_.get(), .events = POLLIN, .revents = 0},
+                               {.fd = other.get(), .events = POLLIN, .revents = 0}});
     while (::poll(descriptors.data(), descriptors.size(), -1) < 0) {
       if (errno != EINTR) throw std::system_error(errno, std::generic_category(), "poll");
     }

@@ -29,9 +29,9 @@ constexpr std::int64_t softenedPoints = warningScore;
 constexpr std::size_t reasonLimit = 3;
 
 /// The categories that are illegal in most countries; they choose the words of a refusal.
-constexpr std::array<std::string_view, 8> illegalCategories{
-    "Child sexual abuse", "Terrorism",        "Hate speech",  "Human trafficking",
-    "Illegal goods",      "Illegal services", "Sexual abuse", "Self-harm"};
+constexpr auto illegalCategories = std::to_array<std::string_view>(
+    {"Child sexual abuse", "Terrorism", "Hate speech", "Human trafficking", "Illegal goods",
+     "Illegal services", "Sexual abuse", "Self-harm"});
 
 /// Searches for the rules in table order, and for the reporting cue as the last pattern.
 const screening::ScreeningEngine& engine() {
@@ -134,12 +134,8 @@ struct QuotePair {
   [[nodiscard]] constexpr bool isSymmetric() const { return opening == closing; }
 };
 
-constexpr std::array<QuotePair, 4> quotePairs{{
-    {U'"', U'"'},
-    {U'\u201C', U'\u201D'},
-    {U'\u2018', U'\u2019'},
-    {U'\'', U'\''},
-}};
+constexpr auto quotePairs = std::to_array<QuotePair>(
+    {{U'"', U'"'}, {U'\u201C', U'\u201D'}, {U'\u2018', U'\u2019'}, {U'\'', U'\''}});
 
 /// A quotation mark that is a character by itself.
 struct QuoteMark {

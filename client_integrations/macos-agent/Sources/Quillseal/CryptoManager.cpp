@@ -21,7 +21,7 @@ struct ExpiryTier {
   std::int64_t days;
 };
 
-constexpr std::array<ExpiryTier, 3> expiryTiers{{{50, 7}, {200, 30}, {1000, 90}}};
+constexpr auto expiryTiers = std::to_array<ExpiryTier>({{50, 7}, {200, 30}, {1000, 90}});
 constexpr std::int64_t longestExpiryDays = 365;
 
 constexpr std::string_view payloadTag = "quillseal/v3\n";

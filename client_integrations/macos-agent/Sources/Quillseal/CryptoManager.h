@@ -53,8 +53,8 @@ struct CanonicalFields {
 [[nodiscard]] std::string canonicalV3(const CanonicalFields& fields);
 
 /// The commitments a signer can make; the first is the default.
-inline constexpr std::array<std::string_view, 5> commitmentTypes{"statement", "approval",
-                                                                 "authorship", "receipt", "draft"};
+inline constexpr auto commitmentTypes =
+    std::to_array<std::string_view>({"statement", "approval", "authorship", "receipt", "draft"});
 
 /// For how many days a signature over a text of `wordCount` words is valid.
 [[nodiscard]] std::int64_t expiryDaysFor(std::int64_t wordCount);

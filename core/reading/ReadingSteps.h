@@ -78,9 +78,6 @@ class WideWords {
     mostSingles_ = std::max(mostSingles_, singles_);
   }
 
-  [[nodiscard]] std::size_t count() const { return count_; }
-  [[nodiscard]] std::size_t letters() const { return letters_; }
-
   /// Whether letters stand one by one.
   [[nodiscard]] bool haveUnits() const { return mostSingles_ >= fewestUnits; }
 

@@ -321,7 +321,12 @@ TEST(ReadableText, LongTextsTakeNoLongTime) {
                            " ",
                            "!",
                            "a!",
-                           "a|"}) {
+                           "a|",
+                           "\uAC00 ",
+                           "\uAC00.",
+                           "\uAC00\uB098 ",
+                           "\u304B\u3099",
+                           "\u1100\u1161"}) {
     std::string text;
     while (text.size() < 400'000)
       text += unit;

@@ -148,6 +148,8 @@ TEST_F(ServiceTest, RecordsTheSignatureOfAnEnrolledDevice) {
   EXPECT_EQ(
       enrolled.body,
       json({{"status", "registered"}, {"device_id", deviceId}, {"identity", "Ada Lovelace"}}));
+  identity_ = "Somebody Else";  // of the devices that enrol from now on
+  restart();
   json fields = request();
   fields["tz_offset"] = -210;
   const Answer answer = post("/api/sign_native", signedRequest(fields, "ada lovelace"));
@@ -207,6 +209,19 @@ TEST_F(ServiceTest, DemonstrationsAreShownAsSuch) {
   ASSERT_EQ(answer.status, 200) << answer.body;
   EXPECT_EQ(answer.body.at("demo"), true);
   EXPECT_THAT(verifyPageOf(answer), HasSubstr("&quot;kind&quot;:&quot;demonstration&quot;"));
+
+  // Somewhere on earth it is yesterday or tomorrow.
+  for (const auto& [issued, isOff] : {std::pair{"2025-12-30", "true"},
+                                      {"2025-12-31", "false"},
+                                      {"2026-01-02", "false"},
+                                      {"2026-01-03", "true"}}) {
+    json dated = request();
+    dated["issued"] = dated["expires"] = issued;
+    dated["nonce"] = CryptoManager::sha256Hex(issued);
+    EXPECT_THAT(verifyPageOf(post("/api/sign_demo", dated)),
+                HasSubstr("&quot;isOffDate&quot;:" + std::string(isOff)))
+        << issued;
+  }
 }
 
 TEST_F(ServiceTest, RefusesAWrongApiKeyEverywhere) {

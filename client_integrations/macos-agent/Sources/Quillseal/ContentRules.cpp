@@ -2134,7 +2134,7 @@ constexpr auto table = std::to_array<Rule>({
      "contains a link that passes through another site's redirect",
      R"(\bhttps?://[^\s?#]{3,200}\?[^\s]{0,200}?(?:url|u|q|redirect|redirect_uri|redir|next|goto|target|dest|destination|continue|return|returnurl|link|to|adurl|out)=https?(?:://|%3a%2f%2f)|)"
      R"(\bhttps?://(?:www\.)?google\.[a-z.]{2,6}/(?:url|amp|interstitial)\b|)"
-     R"(\bhttps?://[^\s]{4,300}https?(?://|%3a%2f%2f)[^\s]{4,300}https?(?://|%3a%2f%2f)|)"
+     R"(\bhttps?://[^\s]{4,300}https?(?:://|%3a%2f%2f)[^\s]{4,300}https?(?:://|%3a%2f%2f)|)"
      R"(\bhttps?://(?:l\.facebook\.com/l\.php|www\.youtube\.com/redirect|lnkd\.in|t\.umblr\.com/redirect|[a-z0-9-]{1,30}\.safelinks\.protection\.outlook\.com|googleads\.g\.doubleclick\.net|ad\.doubleclick\.net|www\.bing\.com/ck/a|duckduckgo\.com/l/))",
      true},
 
@@ -2262,7 +2262,7 @@ constexpr auto table = std::to_array<Rule>({
      R"((?:在家|居家|手[机機])[\s\S]{0,20}(?:日[赚賺薪结結]|每天|月入|[赚賺][钱錢])|日[赚賺薪][\s\S]{0,4}\d|(?:刷[单單]|点赞|點讚|[关關]注).{0,10}(?:日[结結]|佣金|[赚賺]|返)|[简簡][单單]任[务務]|(?:一天|每天|日)[\s\S]{0,2}[一二三四五六七八九\d][\s\S]{0,6}(?:元|百)[\s\S]{0,6}(?:[当當][晚天日]|日)[结結]|[当當]晚[结結]清|每天半?[小个個]?[时時]?[\s\S]{0,6}最高|在家[\s\S]{0,16}(?:每月|日[结結]|每天)[\s\S]{0,4}(?:最高|[\d一二三四五六七八九十])|)"
      R"((?:副業|スマホだけ|在宅|いいね|高収入)[\s\S]{0,20}(?:日給|日払い|月収)[\s\S]{0,4}\d|運ぶだけ|いいねを押すだけ|簡単な作業|一日\d+万円|(?:いいね|スマホ)[\s\S]{0,14}だけ[\s\S]{0,16}(?:日給|日払い)|(?:一日|1日)[\s\S]{0,5}分[\s\S]{0,6}(?:最大|万円)|在宅[\s\S]{0,24}(?:月|日)[\s\S]{0,3}(?:最大|万円|円)|)"
      R"((?:재택|휴대폰|핸드폰|집에서|알바|고수익)[\s\S]{0,30}(?:일당|하루|건당|당일 ?지급|월 ?\d)|좋아요[\s\S]{0,8}누르|좋아요만?[\s\S]{0,8}(?:누르면|누르고)[\s\S]{0,16}(?:일당|만 ?원)|하루 ?\d+분[\s\S]{0,8}만 ?원|(?:집에서|재택)[\s\S]{0,20}(?:급구|모집|구인)[\s\S]{0,12}만 ?원|)"
-     R"(\b(?:minuten|stunden)\s+am\s+tag|täglich\b<30>\b\d{2,}|)"
+     R"(\b(?:(?:minuten|stunden)\s+am\s+tag|täglich)\b<30>\b\d{2,}|)"
      R"(\b(?:minuten|uur)\s+per\s+dag\b<30>\b\d{2,}|)"
      R"(\b(?:minutos|horas)\s+por\s+dia\b<30>\b\d{2,}|)"
      R"(\b(?:suchen|gesucht|heimarbeit\w*|nebenjob|homeoffice|minijob)\b[^!?]{0,70}\b(?:verdienst|verdienen|bis\s+zu|bis|lohn)\b[^!?]{0,8}\d[^!?]{0,15}\b(?:im\s+monat|pro\s+(?:tag|woche|monat)|monatlich|täglich|am\s+tag)\b|)"

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Measures the agent on sway from outside: start-up, memory and wake-ups while idle, the time from the
+"""Measures the agent on sway, or KWin, from outside: start-up, memory and wake-ups while idle, the time from the
 hotkey to the captured text, and from the block on the clipboard to the block in the editor.
 """
 
@@ -8,9 +8,10 @@ import statistics
 import time
 
 import session
-import wayland_session
+from kwin_session import KwinSession
 from measure import Watch, enrol, memory, start_up, wake_ups
 from session import LETTER, SECRET
+from wayland_session import WaylandSession
 
 
 def milliseconds(values):
@@ -49,7 +50,7 @@ def sign(desktop, number, captures, windows, copies):
     entered = time.monotonic()
     desktop.key("Return")
     offered = copies.time_of("the block is offered", "copied", entered)
-    pasted = windows.time_of("the block is pasted", rf'"name": "\*[^"]*letter-{number}', offered)
+    pasted = windows.time_of("the block is pasted", rf'"name": ?"\*[^"]*letter-{number}', offered)
     desktop.saved_text(editor, "Check this signature")
     desktop.end(editor)
     return captured, pasted - offered
@@ -60,9 +61,10 @@ def main():
     parser.add_argument("--seconds", type=int, default=30, help="how long to watch it idle")
     parser.add_argument("--runs", type=int, default=21,
                         help="how often to start it, and how many signatures to make")
+    parser.add_argument("--kwin", action="store_true", help="on KWin instead of sway")
     arguments = parser.parse_args()
-    with (session.failing_with_a_sentence("measure_wayland"),
-          wayland_session.WaylandSession(arguments.build) as desktop):
+    kind = KwinSession if arguments.kwin else WaylandSession
+    with session.failing_with_a_sentence("measure_wayland"), kind(arguments.build) as desktop:
         desktop.write_settings(ServerURL=desktop.start_server(), SigningMode="enclave")
         print(f"load of the machine  {os.getloadavg()[0]:6.1f}, {os.cpu_count()} processors")
         times = []
@@ -86,7 +88,7 @@ def main():
         desktop.start_agent(tpm=desktop.start_software_tpm())
         enrol(desktop)
         captures = Captures(desktop)
-        windows = Watch(desktop, "swaymsg", "-m", "-r", "-t", "subscribe", '["window"]')
+        windows = Watch(desktop, *desktop.tell_of_windows())
         copies = Watch(desktop, "wl-paste", "--watch", "echo", "copied")
         runs = [sign(desktop, number, captures, windows, copies)
                 for number in range(arguments.runs)]

@@ -1,11 +1,11 @@
-// A person's keyboard and mouse under Wayland, by virtual-keyboard and wlr-virtual-pointer. Reads
-// commands, one a line, from standard input and writes "done" for each:
+// A person's keyboard and mouse under Wayland, by virtual-keyboard and wlr-virtual-pointer, or
+// KWin's fake-input. Reads commands, one a line, from standard input and writes "done" for each:
 //   down KEYSYM...   presses the keys in order and holds them
 //   up               lets them go, the last one first
 //   type TEXT        types the rest of the line
 //   click X Y W H    presses the left button there, on a display of that width and height
 // usage: wayland-person LAYOUT, as xkeyboard-config(7) names it: us, de, fr, or ru,us for two of
-// which the first is in use.
+// which the first is in use. KWin has to have the same one.
 
 #include <cstdint>
 #include <iostream>
@@ -20,16 +20,28 @@
 #include <xkbcommon/xkbcommon.h>
 
 #include "core/text/UniqueHandle.h"
+#include "fake-input-client-protocol.h"
 #include "virtual-keyboard-unstable-v1-client-protocol.h"
 #include "wayland/WaylandConnection.h"
 #include "wlr-virtual-pointer-unstable-v1-client-protocol.h"
 
 namespace {
 
+/// Null where it is not offered.
+org_kde_kwin_fake_input* bindFakeInput(const quillseal::linux::WaylandConnection& connection) {
+  constexpr std::uint32_t pressesKeys = 4;
+  auto* input =
+      connection.bind<org_kde_kwin_fake_input>(org_kde_kwin_fake_input_interface, pressesKeys);
+  if (input != nullptr) org_kde_kwin_fake_input_authenticate(input, "person", "tests");
+  return input;
+}
+
 class Keyboard {
  public:
   Keyboard(quillseal::linux::WaylandConnection& connection, const char* layout)
-      : connection_(connection), context_(xkb_context_new(XKB_CONTEXT_NO_FLAGS)) {
+      : connection_(connection),
+        context_(xkb_context_new(XKB_CONTEXT_NO_FLAGS)),
+        fakeInput_(bindFakeInput(connection)) {
     const xkb_rule_names names{.rules = nullptr,
                                .model = nullptr,
                                .layout = layout,
@@ -38,8 +50,9 @@ class Keyboard {
     keymap_.reset(xkb_keymap_new_from_names(context_.get(), &names, XKB_KEYMAP_COMPILE_NO_FLAGS));
     auto* manager = connection.bind<zwp_virtual_keyboard_manager_v1>(
         zwp_virtual_keyboard_manager_v1_interface, 1);
-    if (keymap_ == nullptr || manager == nullptr) return;
+    if (keymap_ == nullptr) return;
     state_.reset(xkb_state_new(keymap_.get()));
+    if (manager == nullptr) return;
     device_ = zwp_virtual_keyboard_manager_v1_create_virtual_keyboard(manager, connection.seat());
     char* const text = xkb_keymap_get_as_string(keymap_.get(), XKB_KEYMAP_FORMAT_TEXT_V1);
     const std::string layoutText(text);
@@ -51,7 +64,10 @@ class Keyboard {
     close(file);
   }
 
-  [[nodiscard]] bool isReady() { return device_ != nullptr && connection_.roundTrip(); }
+  [[nodiscard]] bool isReady() {
+    const bool hasDevice = device_ != nullptr || fakeInput_ != nullptr;
+    return state_ != nullptr && hasDevice && connection_.roundTrip();
+  }
 
   /// False when no key gives the symbol.
   bool press(xkb_keysym_t symbol) {
@@ -95,6 +111,8 @@ class Keyboard {
       held_.push_back(key);
     else
       std::erase(held_, key);
+    if (fakeInput_ != nullptr)
+      return org_kde_kwin_fake_input_keyboard_key(fakeInput_, key - evdevOffset, isDown ? 1 : 0);
     zwp_virtual_keyboard_v1_key(
         device_, ++time_, key - evdevOffset,
         isDown ? WL_KEYBOARD_KEY_STATE_PRESSED : WL_KEYBOARD_KEY_STATE_RELEASED);
@@ -111,13 +129,15 @@ class Keyboard {
   quillseal::UniqueHandle<xkb_keymap, ::xkb_keymap_unref> keymap_;
   quillseal::UniqueHandle<xkb_state, ::xkb_state_unref> state_;
   zwp_virtual_keyboard_v1* device_ = nullptr;
+  org_kde_kwin_fake_input* fakeInput_ = nullptr;
   std::vector<xkb_keycode_t> held_;
   std::uint32_t time_ = 0;
 };
 
 class Mouse {
  public:
-  explicit Mouse(quillseal::linux::WaylandConnection& connection) : connection_(connection) {
+  explicit Mouse(quillseal::linux::WaylandConnection& connection)
+      : connection_(connection), fakeInput_(bindFakeInput(connection)) {
     auto* manager = connection.bind<zwlr_virtual_pointer_manager_v1>(
         zwlr_virtual_pointer_manager_v1_interface, 1);
     if (manager != nullptr)
@@ -129,7 +149,16 @@ class Mouse {
     std::uint32_t y = 0;
     std::uint32_t width = 0;
     std::uint32_t height = 0;
-    if (device_ == nullptr || !(place >> x >> y >> width >> height)) return false;
+    if (!(place >> x >> y >> width >> height)) return false;
+    if (fakeInput_ != nullptr) {
+      org_kde_kwin_fake_input_pointer_motion_absolute(fakeInput_,
+                                                      wl_fixed_from_int(static_cast<int>(x)),
+                                                      wl_fixed_from_int(static_cast<int>(y)));
+      for (const std::uint32_t state : {1U, 0U})
+        org_kde_kwin_fake_input_button(fakeInput_, BTN_LEFT, state);
+      return connection_.roundTrip();
+    }
+    if (device_ == nullptr) return false;
     zwlr_virtual_pointer_v1_motion_absolute(device_, ++time_, x, y, width, height);
     zwlr_virtual_pointer_v1_frame(device_);
     for (const auto state : {WL_POINTER_BUTTON_STATE_PRESSED, WL_POINTER_BUTTON_STATE_RELEASED}) {
@@ -142,6 +171,7 @@ class Mouse {
  private:
   quillseal::linux::WaylandConnection& connection_;
   zwlr_virtual_pointer_v1* device_ = nullptr;
+  org_kde_kwin_fake_input* fakeInput_ = nullptr;
   std::uint32_t time_ = 0;
 };
 

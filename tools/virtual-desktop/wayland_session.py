@@ -28,10 +28,10 @@ workspace_layout tabbed
 class Person:
     """Keyboard and mouse, the keyboard with a layout as xkeyboard-config(7) names it."""
 
-    def __init__(self, desktop, layout):
+    def __init__(self, desktop, layout, **options):
         self.process = subprocess.Popen(
             [desktop.build / "tools/virtual-desktop/wayland-person", layout], env=desktop.env,
-            text=True, bufsize=1, stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+            text=True, bufsize=1, stdin=subprocess.PIPE, stdout=subprocess.PIPE, **options)
         self._expect("ready", f"a keyboard with the layout {layout}")
 
     def _expect(self, answer, what):
@@ -81,14 +81,14 @@ class WaylandSession(session.Session):
         for name in ("XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME", "XDG_CACHE_HOME"):
             del self.env[name]
         try:
-            self.sway = self.start(*command)
+            self.compositor = self.start(*command)
         finally:
             self.env = kept
 
         def socket(pattern):
             found = [path for path in self.runtime.glob(pattern) if path.is_socket()]
-            if self.sway.poll() is not None:
-                raise Failure(f"sway ended: {self.output_of(self.sway)}")
+            if self.compositor.poll() is not None:
+                raise Failure(f"sway ended: {self.output_of(self.compositor)}")
             return found and str(found[0])
         self.env["WAYLAND_DISPLAY"] = wait_for("sway starts", lambda: socket("wayland-*"))
         self.env["SWAYSOCK"] = wait_for("sway listens", lambda: socket("sway-ipc.*"))
@@ -118,6 +118,10 @@ class WaylandSession(session.Session):
                 shutil.rmtree(self.runtime, ignore_errors=True)
 
     # Windows
+
+    def tell_of_windows(self):
+        """A command that prints a line whenever a window changes."""
+        return "swaymsg", "-m", "-r", "-t", "subscribe", '["window"]'
 
     def windows(self):
         """All of them, as sway describes them: name, app_id, focused, shell and so on."""

@@ -113,8 +113,11 @@ int runAgent(const CommandLine& commandLine, quillseal::linux::SingleInstance& i
 }
 
 int run(int argc, char** argv, const CommandLine& commandLine) {
+  // KWin offers windows and keys by what the program of a new client is, which it cannot see behind
+  // the shield. Until then there is nothing secret in memory.
   std::unique_ptr<quillseal::linux::WaylandConnection> wayland =
       compositorThatReachesApplications();
+  quillseal::linux::shieldProcess();
   // Qt ends the program where it finds no display. A connection starts Xwayland, so none is made
   // where it is not needed. This connection stays until Qt has its own: an X server without another
   // client may start anew, and refuse Qt, when its last one leaves.
@@ -169,7 +172,6 @@ int main(int argc, char** argv) {
   // A program that ignores this signal has it ignored in those that it starts, which cannot tell
   // then how their own ended.
   static_cast<void>(std::signal(SIGCHLD, SIG_DFL));
-  quillseal::linux::shieldProcess();
   quillseal::linux::returnLargeBlocks();
   const std::vector<std::string_view> arguments(argv + 1, argv + argc);
   const CommandLine commandLine = quillseal::linux::parseCommandLine(arguments);

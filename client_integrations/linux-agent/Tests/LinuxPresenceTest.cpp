@@ -9,6 +9,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "PrivateBus.h"
 #include "RunUntil.h"
 #include "SystemBusFake.h"
 #include "presence/FingerprintReader.h"
@@ -72,7 +73,7 @@ class LinuxPresenceTest : public ::testing::Test {
   }
   bool can(PresencePolicy policy) { return presence.canEvaluate(policy).available; }
 
-  testing::PrivateBus bus;
+  testing::PrivateBus bus{"DBUS_SYSTEM_BUS_ADDRESS"};
   PollLoop loop;
   ScriptedPrompt prompt{loop};
   LinuxPresence presence{loop, prompt};

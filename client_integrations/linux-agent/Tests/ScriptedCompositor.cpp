@@ -17,6 +17,8 @@
 #include <unistd.h>
 #include <wayland-server.h>
 
+#include "fake-input-server-protocol.h"
+#include "plasma-window-management-server-protocol.h"
 #include "virtual-keyboard-unstable-v1-server-protocol.h"
 #include "wlr-data-control-unstable-v1-server-protocol.h"
 #include "wlr-foreign-toplevel-management-unstable-v1-server-protocol.h"
@@ -62,6 +64,7 @@ struct ScriptedCompositor::Server {
   std::vector<int> openEnds{};
   std::vector<std::thread> writers{};
   std::vector<std::string> keys{};
+  bool isAuthenticated = false;  ///< by a program that presses keys of KWin's
   std::vector<std::string> asked{};
   std::thread thread{};
 
@@ -197,8 +200,8 @@ struct ScriptedCompositor::Server {
         make(client, &zwlr_data_control_device_v1_interface, manager, id, &deviceRequests, &server);
     wl_resource_set_destructor(device, forget<&Server::devices>);
     server.devices.push_back(device);
-    server.tell(clipboard, device);
-    server.tell(primary, device);
+    for (const Kind kind : {clipboard, primary})
+      if (!server.traits.isKwin || server.offered[kind] != nullptr) server.tell(kind, device);
   }
   static constexpr struct zwlr_data_control_manager_v1_interface managerRequests = {
       .create_data_source = createSource, .get_data_device = getDevice, .destroy = ends_};
@@ -224,8 +227,25 @@ struct ScriptedCompositor::Server {
   static constexpr struct zwp_virtual_keyboard_manager_v1_interface keyboardManagerRequests = {
       .create_virtual_keyboard = createKeyboard};
 
+  // Keys of KWin
+  static void authenticate(wl_client*, wl_resource* input, const char*, const char*) {
+    of(input).isAuthenticated = true;
+  }
+  static void fakeKey(wl_client*, wl_resource* input, std::uint32_t code, std::uint32_t state) {
+    if (of(input).isAuthenticated)
+      of(input).keys.push_back(std::to_string(code) + (state == 1 ? "+" : "-"));
+  }
+  // Only what the agent asks for: the rest differs with the age of the description.
+  static constexpr auto fakeInputRequests = [] {
+    struct org_kde_kwin_fake_input_interface requests {};
+    requests.authenticate = authenticate;
+    requests.keyboard_key = fakeKey;
+    return requests;
+  }();
+
   // Windows
   void describe(const Handle& handle) {
+    if (traits.isKwin) return describePlasma(handle);
     const WindowState& state = windows[handle.window];
     zwlr_foreign_toplevel_handle_v1_send_title(handle.resource, state.window.title.c_str());
     zwlr_foreign_toplevel_handle_v1_send_app_id(handle.resource,
@@ -243,7 +263,47 @@ struct ScriptedCompositor::Server {
     for (const Handle& handle : handles)
       if (handle.window == window) describe(handle);
   }
+  void describePlasma(const Handle& handle) const {
+    const WindowState& state = windows[handle.window];
+    org_kde_plasma_window_send_app_id_changed(handle.resource, state.window.applicationId.c_str());
+    org_kde_plasma_window_send_title_changed(handle.resource, state.window.title.c_str());
+    constexpr std::uint32_t closeable = ORG_KDE_PLASMA_WINDOW_MANAGEMENT_STATE_CLOSEABLE;
+    constexpr std::uint32_t active = ORG_KDE_PLASMA_WINDOW_MANAGEMENT_STATE_ACTIVE;
+    org_kde_plasma_window_send_state_changed(handle.resource,
+                                             closeable | (state.isActive ? active : 0U));
+  }
+  static void getPlasmaWindow(wl_client* client, wl_resource* manager, std::uint32_t id,
+                              std::uint32_t number) {
+    Server& server = of(manager);
+    wl_resource* resource =
+        make(client, &org_kde_plasma_window_interface, manager, id, &plasmaRequests, &server);
+    wl_resource_set_destructor(resource, [](wl_resource* gone) {
+      std::erase_if(of(gone).handles, [gone](const Handle& h) { return h.resource == gone; });
+    });
+    server.describe(server.handles.emplace_back(Handle{.resource = resource, .window = number}));
+    org_kde_plasma_window_send_initial_state(resource);
+  }
+  static void setPlasmaState(wl_client*, wl_resource* handle, std::uint32_t flags,
+                             std::uint32_t state) {
+    constexpr std::uint32_t active = ORG_KDE_PLASMA_WINDOW_MANAGEMENT_STATE_ACTIVE;
+    if ((flags & state & active) != 0) activationAsked(nullptr, handle, nullptr);
+  }
+  static constexpr auto plasmaRequests = [] {
+    struct org_kde_plasma_window_interface requests {};
+    requests.set_state = setPlasmaState;
+    requests.destroy = ends_;
+    return requests;
+  }();
+  static constexpr auto plasmaManagerRequests = [] {
+    struct org_kde_plasma_window_management_interface requests {};
+    requests.get_window = getPlasmaWindow;
+    return requests;
+  }();
+
   void announce(std::size_t window, wl_resource* manager) {
+    if (traits.isKwin)
+      return org_kde_plasma_window_management_send_window(manager,
+                                                          static_cast<std::uint32_t>(window));
     wl_resource* resource =
         make(wl_resource_get_client(manager), &zwlr_foreign_toplevel_handle_v1_interface, manager,
              0, &handleRequests, this);
@@ -319,6 +379,43 @@ struct ScriptedCompositor::Server {
     globals[interface.name] = wl_global_create(display, &interface, version, this, bind);
   }
 
+  void addWindows(const wl_interface& interface, int version, wl_global_bind_func_t bind) {
+    if (traits.namesWindows) add(interface, version, bind);
+  }
+  static void follow(wl_resource* manager) {
+    wl_resource_set_destructor(manager, forget<&Server::managers>);
+    Server& server = of(manager);
+    server.managers.push_back(manager);
+    for (std::size_t i = 0; i < server.windows.size(); ++i)
+      if (server.windows[i].isOpen) server.announce(i, manager);
+  }
+
+  void addWlroots() {
+    if (traits.hasKeyboards)
+      add(zwp_virtual_keyboard_manager_v1_interface, 1,
+          [](wl_client* client, void* data, std::uint32_t version, std::uint32_t id) {
+            bound<zwp_virtual_keyboard_manager_v1_interface, keyboardManagerRequests>(client, data,
+                                                                                      version, id);
+          });
+    addWindows(zwlr_foreign_toplevel_manager_v1_interface, 3,
+               [](wl_client* client, void* data, std::uint32_t version, std::uint32_t id) {
+                 follow(bound<zwlr_foreign_toplevel_manager_v1_interface, windowRequests>(
+                     client, data, version, id));
+               });
+  }
+  void addKwin() {
+    if (traits.hasKeyboards)
+      add(org_kde_kwin_fake_input_interface, 4,
+          [](wl_client* client, void* data, std::uint32_t version, std::uint32_t id) {
+            bound<org_kde_kwin_fake_input_interface, fakeInputRequests>(client, data, version, id);
+          });
+    addWindows(org_kde_plasma_window_management_interface, 16,
+               [](wl_client* client, void* data, std::uint32_t version, std::uint32_t id) {
+                 follow(bound<org_kde_plasma_window_management_interface, plasmaManagerRequests>(
+                     client, data, version, id));
+               });
+  }
+
   void addGlobals() {
     add(wl_seat_interface, 4,
         [](wl_client* client, void* data, std::uint32_t version, std::uint32_t id) {
@@ -336,24 +433,10 @@ struct ScriptedCompositor::Server {
                                                                            bindVersion, id);
           });
     }
-    if (traits.hasKeyboards)
-      add(zwp_virtual_keyboard_manager_v1_interface, 1,
-          [](wl_client* client, void* data, std::uint32_t version, std::uint32_t id) {
-            bound<zwp_virtual_keyboard_manager_v1_interface, keyboardManagerRequests>(client, data,
-                                                                                      version, id);
-          });
-    if (traits.namesWindows)
-      add(zwlr_foreign_toplevel_manager_v1_interface, 3,
-          [](wl_client* client, void* data, std::uint32_t version, std::uint32_t id) {
-            wl_resource* manager =
-                bound<zwlr_foreign_toplevel_manager_v1_interface, windowRequests>(client, data,
-                                                                                  version, id);
-            wl_resource_set_destructor(manager, forget<&Server::managers>);
-            Server& server = of(manager);
-            server.managers.push_back(manager);
-            for (std::size_t i = 0; i < server.windows.size(); ++i)
-              if (server.windows[i].isOpen) server.announce(i, manager);
-          });
+    if (traits.isKwin)
+      addKwin();
+    else
+      addWlroots();
   }
 
   void run() {
@@ -442,7 +525,10 @@ void ScriptedCompositor::close(std::size_t window) {
   perform([&](Server& server) {
     server.windows[window].isOpen = false;
     for (const auto& handle : server.handles)
-      if (handle.window == window) zwlr_foreign_toplevel_handle_v1_send_closed(handle.resource);
+      if (handle.window == window && server.traits.isKwin)
+        org_kde_plasma_window_send_unmapped(handle.resource);
+      else if (handle.window == window)
+        zwlr_foreign_toplevel_handle_v1_send_closed(handle.resource);
   });
 }
 

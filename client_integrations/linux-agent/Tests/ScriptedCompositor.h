@@ -32,8 +32,10 @@ struct Offered {
 class ScriptedCompositor {
  public:
   struct Traits {
+    /// Names windows and takes keys by the protocols of KWin, else by those of wlroots.
+    bool isKwin = false;
     std::string dataControl = "zwlr_data_control_manager_v1";
-    bool hasKeyboards = true;  ///< virtual ones
+    bool hasKeyboards = true;  ///< for programs
     bool namesWindows = true;
     std::string layout{};         ///< text of the person's; no keyboard when empty
     bool takesSelections = true;  ///< else it cancels them at once

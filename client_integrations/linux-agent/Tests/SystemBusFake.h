@@ -7,24 +7,9 @@
 #include <thread>
 #include <vector>
 
-#include <sys/types.h>
-
 #include "presence/SystemBus.h"
 
 namespace quillseal::testing {
-
-/// A message bus in a process of its own, which this process takes for the system's while the
-/// object lives. Nobody is on it at first.
-class PrivateBus {
- public:
-  PrivateBus();
-  PrivateBus(const PrivateBus&) = delete;
-  PrivateBus& operator=(const PrivateBus&) = delete;
-  ~PrivateBus();
-
- private:
-  pid_t process_ = 0;
-};
 
 /// What the services on the bus do.
 struct Script {

@@ -9,8 +9,8 @@
 #include <gtest/gtest.h>
 #include <sys/time.h>
 #include <xkbcommon/xkbcommon-keysyms.h>
-#include <xkbcommon/xkbcommon.h>
 
+#include "KeymapText.h"
 #include "RunUntil.h"
 #include "ScriptedCompositor.h"
 #include "core/text/Error.h"
@@ -72,20 +72,25 @@ struct Agent {
             ClipboardKeeper({std::move(keeper)}),
             {.silence = 300ms, .transfer = 2000ms, .largest = largest}),
         applications({.windows = windows, .entries = entries, .loop = loop}, nullptr),
+        keyboard(makeKeyboard(*connection, nullptr)),
         keys({.loop = loop,
               .connection = *connection,
               .windows = windows,
               .pasteboard = pasteboard,
+              .keyboard = *keyboard,
               .explain = {}}) {
     connection->serve(loop, loop);
     catchUp();
   }
 
-  /// Until all that the compositor has told has arrived.
+  /// Until all that the compositor has told has arrived. KWin describes a window when it is asked
+  /// to.
   void catchUp() {
-    bool isDone = false;
-    const desktop::Ticket ticket = connection->catchUp([&isDone] { isDone = true; });
-    testing::runUntil(loop, [&] { return isDone; });
+    for (int round = 0; round < 2; ++round) {
+      bool isDone = false;
+      const desktop::Ticket ticket = connection->catchUp([&isDone] { isDone = true; });
+      testing::runUntil(loop, [&] { return isDone; });
+    }
   }
 
   void fetch() {
@@ -116,11 +121,16 @@ struct Agent {
   WaylandWindows windows;
   WaylandPasteboard pasteboard;
   WaylandApplications applications;
+  std::unique_ptr<AgentKeyboard> keyboard;
   WaylandKeyEvents keys;
   int pressesAnnounced = 0;
 };
 
 const std::string utf8Text = "text/plain;charset=utf-8";
+
+class EitherDesktop : public ::testing::TestWithParam<bool> {};
+INSTANTIATE_TEST_SUITE_P(Compositors, EitherDesktop, ::testing::Bool(),
+                         [](const auto& isKwin) { return isKwin.param ? "Kwin" : "Wlroots"; });
 
 // Choice ------------------------------------------------------------------------------------------
 
@@ -132,7 +142,10 @@ TEST(WaylandReach, TakesWhatHasClipboardKeysAndWindows) {
               {{.dataControl = "ext_data_control_manager_v1"}, true},
               {{.dataControl = ""}, false},
               {{.hasKeyboards = false}, false},
-              {{.namesWindows = false}, false}};
+              {{.namesWindows = false}, false},
+              {{.isKwin = true}, true},
+              {{.isKwin = true, .hasKeyboards = false}, false},
+              {{.isKwin = true, .namesWindows = false}, false}};
   for (const auto& row : rows) {
     const ScriptedCompositor compositor(row.traits);
     EXPECT_EQ(reachesApplications(*WaylandConnection::open()), row.isEnough);
@@ -140,10 +153,11 @@ TEST(WaylandReach, TakesWhatHasClipboardKeysAndWindows) {
 }
 
 TEST(WaylandReach, EndsWithTheCompositorOrWhatItTakesAway) {
-  {
-    ScriptedCompositor compositor;
+  for (const bool isKwin : {false, true}) {
+    ScriptedCompositor compositor({.isKwin = isKwin});
     Agent agent;
-    compositor.withdraw("zwp_virtual_keyboard_manager_v1");
+    EXPECT_TRUE(agent.keys.isTrusted());
+    compositor.withdraw(isKwin ? "org_kde_kwin_fake_input" : "zwp_virtual_keyboard_manager_v1");
     agent.catchUp();
     EXPECT_FALSE(agent.keys.isTrusted());
   }
@@ -364,8 +378,8 @@ TEST(WaylandKeyEvents, PressWhatATerminalExpectsThatTheCompositorNamesOtherwise)
   EXPECT_THAT(compositor.keys(), Contains("42+"));  // Shift: Ctrl+C alone ends what runs in it
 }
 
-TEST(WaylandKeyEvents, PressNothingInAnotherWindowThanTheTarget) {
-  ScriptedCompositor compositor;
+TEST_P(EitherDesktop, GetsNoKeysInAnotherWindowThanTheTarget) {
+  ScriptedCompositor compositor({.isKwin = GetParam()});
   Agent agent;
   const std::size_t letter = compositor.open({.applicationId = "editor", .title = "letter"});
   agent.catchUp();
@@ -388,8 +402,8 @@ TEST(WaylandKeyEvents, PressNothingInAnotherWindowThanTheTarget) {
   EXPECT_EQ(agent.pressesAnnounced, 1);
 }
 
-TEST(WaylandKeyEvents, LooksAgainImmediatelyBeforeThePress) {
-  ScriptedCompositor compositor;
+TEST_P(EitherDesktop, IsLookedAtAgainImmediatelyBeforeThePress) {
+  ScriptedCompositor compositor({.isKwin = GetParam()});
   Agent agent;
   compositor.open({.applicationId = "editor", .title = "letter"});
   agent.catchUp();
@@ -411,10 +425,11 @@ TEST(WaylandKeyEvents, LooksAgainImmediatelyBeforeThePress) {
   EXPECT_FALSE(isAboutToPress);
 }
 
-TEST(WaylandKeyEvents, CopyWhatIsSelectedInATerminalOfX11) {
-  ScriptedCompositor compositor;
+TEST_P(EitherDesktop, CopiesWhatIsSelectedInATerminalOfX11) {
+  ScriptedCompositor compositor({.isKwin = GetParam()});
   Agent agent;
   const std::size_t terminal = compositor.open({.applicationId = "XTerm", .title = "Notes"});
+  agent.catchUp();
   compositor.select({.formats = {{utf8Text, "selected here"}}});
   agent.catchUp();
   const auto target = agent.applications.frontmost();
@@ -432,8 +447,8 @@ TEST(WaylandKeyEvents, CopyWhatIsSelectedInATerminalOfX11) {
   EXPECT_EQ(agent.plainText(), "copied");
 }
 
-TEST(WaylandKeyEvents, CopyNothingOfWhichNobodyKnowsTheWindow) {
-  ScriptedCompositor compositor;
+TEST_P(EitherDesktop, CopiesNothingOfWhichNobodyKnowsTheWindow) {
+  ScriptedCompositor compositor({.isKwin = GetParam()});
   compositor.select({.formats = {{utf8Text, "selected in a window before the agent started"}}});
   compositor.open({.applicationId = "XTerm", .title = "Notes"});
   Agent agent;
@@ -454,11 +469,12 @@ TEST(WaylandKeyEvents, CopyNothingOfWhichNobodyKnowsTheWindow) {
 
 // Windows -----------------------------------------------------------------------------------------
 
-TEST(WaylandApplications, LooksBehindTheWindowsOfTheAgent) {
-  ScriptedCompositor compositor;
+TEST_P(EitherDesktop, ShowsWhatIsBehindTheWindowsOfTheAgent) {
+  ScriptedCompositor compositor({.isKwin = GetParam()});
   Agent agent;
   compositor.open({.applicationId = "chat", .title = "chat"});
   compositor.open({.applicationId = "foot", .title = "(3) Notes"});
+  agent.catchUp();
   compositor.open({.applicationId = "quillseal", .title = "Enter the PIN"});
   agent.catchUp();
   const auto front = agent.applications.frontmost();
@@ -473,8 +489,8 @@ TEST(WaylandApplications, LooksBehindTheWindowsOfTheAgent) {
   EXPECT_EQ(agent.applications.frontmost(), std::nullopt);
 }
 
-TEST(WaylandWindows, RaisesAnOwnWindowThatIsThereOrComes) {
-  ScriptedCompositor compositor;
+TEST_P(EitherDesktop, RaisesAWindowOfTheAgentThatIsThereOrComes) {
+  ScriptedCompositor compositor({.isKwin = GetParam()});
   Agent agent;
   const auto activeTitle = [&] {
     agent.catchUp();
@@ -497,31 +513,21 @@ TEST(WaylandWindows, RaisesAnOwnWindowThatIsThereOrComes) {
 
 // Layout -----------------------------------------------------------------------------------------
 
-std::string layoutText(const char* layout) {
-  xkb_context* const context = xkb_context_new(XKB_CONTEXT_NO_FLAGS);
-  const xkb_rule_names names{
-      .rules = nullptr, .model = nullptr, .layout = layout, .variant = nullptr, .options = nullptr};
-  xkb_keymap* const keymap =
-      xkb_keymap_new_from_names(context, &names, XKB_KEYMAP_COMPILE_NO_FLAGS);
-  char* const text = xkb_keymap_get_as_string(keymap, XKB_KEYMAP_FORMAT_TEXT_V1);
-  std::string result(text);
-  std::free(text);
-  xkb_keymap_unref(keymap);
-  xkb_context_unref(context);
-  return result;
-}
-
 TEST(WaylandLayout, FindsTheKeyInEachOfThePersonsLayouts) {
   const std::string_view name = "English (US)";
-  std::string ofTheAgent = layoutText("us");
+  std::string ofTheAgent = testing::keymapText("us");
   ofTheAgent.replace(ofTheAgent.find(name), name.size(), "Quillseal");
   const struct {
     std::string layout;
     std::optional<std::uint32_t> h;
-  } rows[] = {{layoutText("us"), 43U},    {layoutText("fr"), 43U},
-              {layoutText("ru,us"), 43U}, {layoutText("us(dvorak)"), 44U},
-              {layoutText("ru"), {}},     {ofTheAgent, {}},
-              {"no layout", {}},          {"", {}}};
+  } rows[] = {{testing::keymapText("us"), 43U},
+              {testing::keymapText("fr"), 43U},
+              {testing::keymapText("ru,us"), 43U},
+              {testing::keymapText("us(dvorak)"), 44U},
+              {testing::keymapText("ru"), {}},
+              {ofTheAgent, {}},
+              {"no layout", {}},
+              {"", {}}};
   for (const auto& row : rows) {
     const ScriptedCompositor compositor({.layout = row.layout});
     const auto connection = WaylandConnection::open();

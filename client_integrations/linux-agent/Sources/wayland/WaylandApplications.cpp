@@ -3,6 +3,7 @@
 #include <chrono>
 #include <utility>
 
+#include "applications/ProcessExecutable.h"
 #include "x11/WindowDocument.h"
 
 namespace quillseal::linux {
@@ -16,10 +17,11 @@ constexpr std::chrono::milliseconds takesAddress{300};
 }  // namespace
 
 WindowTraits traitsOf(const WaylandWindow& window) {
-  // Of these three the compositor knows one, which is often equal to another.
+  // Most compositors know one of these three, which is often equal to another.
+  const std::string executable = window.process == 0 ? "" : executableOf(window.process);
   return {.windowClass = window.applicationId,
           .gtkApplicationId = window.applicationId,
-          .executable = window.applicationId};
+          .executable = executable.empty() ? window.applicationId : executable};
 }
 
 std::optional<RunningApplication> WaylandApplications::frontmost() const {

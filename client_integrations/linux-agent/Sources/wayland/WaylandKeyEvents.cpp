@@ -35,9 +35,8 @@ class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
     std::function<void(Delivery)> done;
   };
 
-  Press(const Services& services, WaylandKeyboard& keyboard, Wish wish)
+  Press(const Services& services, Wish wish)
       : services_(services),
-        keyboard_(keyboard),
         wish_(std::move(wish)),
         earliest_(services.pasteboard.lastWrite() + clipboardPropagation),
         latest_(std::max(services.loop.now(), earliest_) + targetPatience) {}
@@ -77,8 +76,8 @@ class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
     if (!window) return Delivery::targetClosed;
     if (!window->isActive) return Delivery::declined;
     const std::string document = documentName({.title = window->title, .focus = 0});
-    return isSameDocument(wish_.target->document, document) ? Delivery::delivered
-                                                            : Delivery::documentChanged;
+    if (!isSameDocument(wish_.target->document, document)) return Delivery::documentChanged;
+    return services_.keyboard.reachesActiveWindow() ? Delivery::delivered : Delivery::declined;
   }
 
   void press() {
@@ -89,7 +88,7 @@ class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
         chordFor(wish_.press, wish_.target->categories, window->applicationId);
     if (wish_.aboutToPress) wish_.aboutToPress();
     if (!chord.empty())
-      keyboard_.tap(chord);
+      services_.keyboard.tap(chord);
     else if (wish_.press.key == desktop::Key::c && copiesBySelecting(window->applicationId))
       services_.pasteboard.takePrimarySelectionOf(window->id);
   }
@@ -100,15 +99,11 @@ class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
   }
 
   const Services& services_;
-  WaylandKeyboard& keyboard_;
   Wish wish_;
   desktop::MainLoop::TimePoint earliest_;
   desktop::MainLoop::TimePoint latest_;
   desktop::Ticket waiting_;
 };
-
-WaylandKeyEvents::WaylandKeyEvents(Services services)
-    : services_(std::move(services)), keyboard_(services_.connection) {}
 
 bool WaylandKeyEvents::isTrusted() const {
   return reachesApplications(services_.connection);
@@ -118,11 +113,11 @@ desktop::Ticket WaylandKeyEvents::press(desktop::KeyPress press,
                                         const std::optional<desktop::RunningApplication>& target,
                                         std::function<void()> aboutToPress,
                                         std::function<void(Delivery)> done) {
-  const auto pressing = std::make_shared<Press>(services_, keyboard_,
-                                                Press::Wish{.press = press,
-                                                            .target = target,
-                                                            .aboutToPress = std::move(aboutToPress),
-                                                            .done = std::move(done)});
+  const auto pressing =
+      std::make_shared<Press>(services_, Press::Wish{.press = press,
+                                                     .target = target,
+                                                     .aboutToPress = std::move(aboutToPress),
+                                                     .done = std::move(done)});
   pressing->begin();
   return desktop::Ticket([pressing] { pressing->withdraw(); });
 }

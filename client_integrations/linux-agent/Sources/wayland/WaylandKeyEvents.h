@@ -2,19 +2,20 @@
 
 #include <functional>
 #include <optional>
+#include <utility>
 
 #include "desktop/KeyEvents.h"
 #include "desktop/MainLoop.h"
+#include "wayland/AgentKeyboard.h"
 #include "wayland/WaylandConnection.h"
-#include "wayland/WaylandKeyboard.h"
 #include "wayland/WaylandPasteboard.h"
 #include "wayland/WaylandWindows.h"
 
 namespace quillseal::linux {
 
-/// Synthesised key presses on a keyboard of the agent's own. A press is declined unless its target
-/// is the active window and shows what it showed when the target was named, for which it waits a
-/// second. What the person still holds down is of the other keyboard, so that nothing waits for it.
+/// Synthesised key presses. A press is declined unless its target is the active window and shows
+/// what it showed when the target was named, for which it waits a second. Nothing waits for what
+/// the person still holds down, which takes no part on either kind of keyboard.
 class WaylandKeyEvents : public desktop::KeyEvents {
  public:
   /// All outlive this object.
@@ -23,11 +24,12 @@ class WaylandKeyEvents : public desktop::KeyEvents {
     WaylandConnection& connection;
     const WaylandWindows& windows;
     WaylandPasteboard& pasteboard;
+    AgentKeyboard& keyboard;
     /// Tells the person why keys cannot be pressed in this session.
     std::function<void()> explain;
   };
 
-  explicit WaylandKeyEvents(Services services);
+  explicit WaylandKeyEvents(Services services) : services_(std::move(services)) {}
 
   [[nodiscard]] bool isTrusted() const override;
   void askForTrust() override { services_.explain(); }
@@ -40,7 +42,6 @@ class WaylandKeyEvents : public desktop::KeyEvents {
   class Press;
 
   Services services_;
-  WaylandKeyboard keyboard_;
 };
 
 }  // namespace quillseal::linux

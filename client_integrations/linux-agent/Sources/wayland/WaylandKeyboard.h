@@ -5,6 +5,7 @@
 #include <span>
 #include <string_view>
 
+#include "wayland/AgentKeyboard.h"
 #include "wayland/WaylandConnection.h"
 #include "x11/KeyChords.h"
 
@@ -13,11 +14,11 @@ namespace quillseal::linux {
 /// A keyboard of the agent's own, by virtual-keyboard: what the person holds down on theirs takes
 /// no part. It has a layout of its own too, so that a chord is the same in every application
 /// whatever layout the person uses. Main thread.
-class WaylandKeyboard {
+class WaylandKeyboard : public AgentKeyboard {
  public:
   /// The connection outlives this object.
   explicit WaylandKeyboard(WaylandConnection& connection);
-  ~WaylandKeyboard();
+  ~WaylandKeyboard() override;
   WaylandKeyboard(const WaylandKeyboard&) = delete;
   WaylandKeyboard& operator=(const WaylandKeyboard&) = delete;
 
@@ -26,9 +27,9 @@ class WaylandKeyboard {
   /// Whether a layout that the compositor names is the one of this keyboard.
   [[nodiscard]] static bool isOwnLayout(std::string_view text);
 
-  /// Presses the keys in order and lets them go in reverse order. Knows the keys that copy, paste
-  /// and select all.
-  void tap(std::span<const Keysym> chord);
+  /// A window of the compositor's own takes the keyboard from the active one.
+  [[nodiscard]] bool reachesActiveWindow() const override { return true; }
+  void tap(std::span<const Keysym> chord) override;
 
  private:
   struct Device;

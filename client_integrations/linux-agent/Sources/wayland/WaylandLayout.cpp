@@ -1,5 +1,6 @@
 #include "wayland/WaylandLayout.h"
 
+#include <algorithm>
 #include <cstring>
 #include <string>
 #include <utility>
@@ -80,19 +81,29 @@ WaylandLayout::WaylandLayout(WaylandConnection& connection, std::function<void()
 WaylandLayout::~WaylandLayout() = default;
 
 std::optional<std::uint32_t> WaylandLayout::keyFor(Keysym symbol) const {
+  const auto keys = keysFor(symbol);
+  const auto first = std::ranges::find_if(keys, [](const auto& key) { return key.has_value(); });
+  return first == keys.end() ? std::nullopt : *first;
+}
+
+std::vector<std::optional<std::uint32_t>> WaylandLayout::keysFor(Keysym symbol) const {
   const Context context(xkb_context_new(XKB_CONTEXT_NO_FLAGS));
   const Keymap keymap(xkb_keymap_new_from_string(
       context.get(), state_->text.c_str(), XKB_KEYMAP_FORMAT_TEXT_V1, XKB_KEYMAP_COMPILE_NO_FLAGS));
-  if (keymap == nullptr) return std::nullopt;
-  for (xkb_layout_index_t layout = 0; layout < xkb_keymap_num_layouts(keymap.get()); ++layout) {
+  if (keymap == nullptr) return {};
+  const auto keyIn = [&](xkb_layout_index_t layout) -> std::optional<std::uint32_t> {
     for (xkb_keycode_t key = xkb_keymap_min_keycode(keymap.get());
          key <= xkb_keymap_max_keycode(keymap.get()); ++key) {
       const xkb_keysym_t* symbols = nullptr;
       const int count = xkb_keymap_key_get_syms_by_level(keymap.get(), key, layout, 0, &symbols);
       if (count == 1 && *symbols == symbol) return key;
     }
-  }
-  return std::nullopt;
+    return std::nullopt;
+  };
+  std::vector<std::optional<std::uint32_t>> keys;
+  for (xkb_layout_index_t layout = 0; layout < xkb_keymap_num_layouts(keymap.get()); ++layout)
+    keys.push_back(keyIn(layout));
+  return keys;
 }
 
 }  // namespace quillseal::linux

@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 #include "wayland/WaylandConnection.h"
 #include "x11/KeyChords.h"
@@ -23,6 +24,9 @@ class WaylandLayout {
   /// The key, in XKB's numbering, that gives `symbol` without a modifier in one of the layouts that
   /// the person has, the first of them that does. Nothing when none does, or there is no keyboard.
   [[nodiscard]] std::optional<std::uint32_t> keyFor(Keysym symbol) const;
+
+  /// The same in each of them. Empty when there is no keyboard.
+  [[nodiscard]] std::vector<std::optional<std::uint32_t>> keysFor(Keysym symbol) const;
 
  private:
   struct State;

@@ -37,7 +37,8 @@ struct WaylandPasteboard::State {
   std::shared_ptr<Offer> clipboard{};
   std::shared_ptr<Offer> primary{};
   std::uint64_t primaryWindow = 0;  ///< that was active when it was made; 0 when that is not known
-  bool isPrimaryKnown = false;      ///< the compositor has told of one, or that there is none
+  bool isPrimaryKnown = false;      ///< the one that there was at the start has been told, if any
+  desktop::Ticket starting{};
   /// The window whose primary selection counts as what was copied last.
   std::optional<std::uint64_t> takenFrom{};
   std::int64_t changeCount = 0;
@@ -232,6 +233,10 @@ WaylandPasteboard::WaylandPasteboard(const Services& services, ClipboardKeeper k
   state_->device.reset(zwlr_data_control_manager_v1_get_data_device(state_->manager.get(),
                                                                     services.connection.seat()));
   zwlr_data_control_device_v1_add_listener(state_->device.get(), &State::ofDevice, state_.get());
+  // Not every compositor says that there is none.
+  state_->starting = services.loop.after({}, [state = state_.get()] {
+    state->starting = state->services.connection.catchUp([state] { state->isPrimaryKnown = true; });
+  });
 }
 
 WaylandPasteboard::~WaylandPasteboard() = default;

@@ -5,6 +5,8 @@
 #include <utility>
 
 #include "session/LoadedModule.h"
+#include "wayland/KwinHotkey.h"
+#include "wayland/SwayHotkey.h"
 #include "wayland/WaylandReach.h"
 
 namespace quillseal::linux {
@@ -14,11 +16,23 @@ std::string swaySocket() {
   return qgetenv("SWAYSOCK").toStdString();
 }
 
+/// Sway's own comes first: KDE's may have been left on the bus by another session.
+std::unique_ptr<desktop::Hotkey> offeredHotkey(const WindowingSystem::Services& services,
+                                               WaylandConnection& connection, DesktopBus* bus) {
+  if (swaySocket().empty() && bus != nullptr && KwinHotkey::isOfferedBy(*bus))
+    return std::make_unique<KwinHotkey>(KwinHotkey::Services{.loop = services.loop, .bus = *bus});
+  return std::make_unique<SwayHotkey>(SwayHotkey::Services{.loop = services.loop,
+                                                           .descriptors = services.descriptors,
+                                                           .connection = connection,
+                                                           .socket = swaySocket()});
+}
+
 }  // namespace
 
 WaylandSystem::WaylandSystem(std::unique_ptr<WaylandConnection> connection,
                              const Services& services)
     : connection_(std::move(connection)),
+      bus_(DesktopBus::open()),
       windows_(std::make_unique<WaylandWindows>(*connection_,
                                                 QGuiApplication::desktopFileName().toStdString())),
       pasteboard_({.loop = services.loop,
@@ -28,16 +42,16 @@ WaylandSystem::WaylandSystem(std::unique_ptr<WaylandConnection> connection,
                   ClipboardKeeper(LoadedModule::usualPlaces(ClipboardKeeper::program))),
       applications_({.windows = *windows_, .entries = services.entries, .loop = services.loop},
                     SwayIpc::open(swaySocket())),
-      hotkey_({.loop = services.loop,
-               .descriptors = services.descriptors,
-               .connection = *connection_,
-               .socket = swaySocket()}),
+      hotkey_(offeredHotkey(services, *connection_, bus_.get())),
+      keyboard_(makeKeyboard(*connection_, bus_.get())),
       keys_({.loop = services.loop,
              .connection = *connection_,
              .windows = *windows_,
              .pasteboard = pasteboard_,
+             .keyboard = *keyboard_,
              .explain = services.explain}) {
   connection_->serve(services.loop, services.descriptors);
+  if (bus_ != nullptr) bus_->serve(services.loop, services.descriptors);
 }
 
 std::string WaylandSystem::limits() const {

@@ -4,7 +4,8 @@
 #include <string>
 
 #include "session/WindowingSystem.h"
-#include "wayland/SwayHotkey.h"
+#include "wayland/AgentKeyboard.h"
+#include "wayland/DesktopBus.h"
 #include "wayland/WaylandApplications.h"
 #include "wayland/WaylandConnection.h"
 #include "wayland/WaylandKeyEvents.h"
@@ -21,7 +22,7 @@ class WaylandSystem : public WindowingSystem, private OwnWindows {
 
   [[nodiscard]] std::string limits() const override;
   [[nodiscard]] desktop::Applications& applications() override { return applications_; }
-  [[nodiscard]] desktop::Hotkey& hotkey() override { return hotkey_; }
+  [[nodiscard]] desktop::Hotkey& hotkey() override { return *hotkey_; }
   [[nodiscard]] desktop::KeyEvents& keys() override { return keys_; }
   [[nodiscard]] desktop::Pasteboard& pasteboard() override { return pasteboard_; }
   [[nodiscard]] const OwnWindows& ownWindows() const override { return *this; }
@@ -30,10 +31,12 @@ class WaylandSystem : public WindowingSystem, private OwnWindows {
   void bringToFront(QWidget& window) const override;
 
   std::unique_ptr<WaylandConnection> connection_;
+  std::unique_ptr<DesktopBus> bus_;
   std::unique_ptr<WaylandWindows> windows_;
   WaylandPasteboard pasteboard_;
   WaylandApplications applications_;
-  SwayHotkey hotkey_;
+  std::unique_ptr<desktop::Hotkey> hotkey_;
+  std::unique_ptr<AgentKeyboard> keyboard_;
   WaylandKeyEvents keys_;
 };
 

@@ -4,58 +4,51 @@
 #include <list>
 #include <utility>
 
-#include "core/text/UniqueHandle.h"
-#include "wlr-foreign-toplevel-management-unstable-v1-client-protocol.h"
+#include "wayland/WindowProtocol.h"
 
 namespace quillseal::linux {
-namespace {
 
-constexpr std::uint32_t newestVersion = 3;
-
-}  // namespace
-
-struct WaylandWindows::State {
-  using Manager =
-      UniqueHandle<zwlr_foreign_toplevel_manager_v1, zwlr_foreign_toplevel_manager_v1_destroy>;
-  using HandleOfWindow =
-      UniqueHandle<zwlr_foreign_toplevel_handle_v1, zwlr_foreign_toplevel_handle_v1_destroy>;
-
+struct WaylandWindows::State : WindowObserver {
   struct Entry {
-    Entry(State& owner, zwlr_foreign_toplevel_handle_v1* object, std::uint64_t id)
-        : state(owner), handle(object) {
-      window.id = next.id = id;
-    }
-
-    State& state;
-    HandleOfWindow handle;
     WaylandWindow window;
-    WaylandWindow next;          ///< holds once the compositor has told all of it
     std::uint64_t activity = 0;  ///< the higher the later it was active
   };
 
+  State(WaylandConnection& itsConnection, std::string itsApplicationId)
+      : connection(itsConnection),
+        ownApplicationId(std::move(itsApplicationId)),
+        protocol(bindWlrootsWindows(connection, *this)) {
+    if (protocol == nullptr) protocol = bindPlasmaWindows(connection, *this);
+  }
+
   WaylandConnection& connection;
   std::string ownApplicationId;
-  Manager manager{};
-  std::list<Entry> entries{};
-  std::string awaited{};  ///< title of an own window to activate
-  std::uint64_t lastId = 0;
+  std::unique_ptr<WindowProtocol> protocol;  ///< null where there is none
+  std::list<Entry> entries;
+  std::string awaited;  ///< title of an own window to activate
   std::uint64_t lastActivity = 0;
 
   [[nodiscard]] bool isOwn(const WaylandWindow& window) const {
     return window.applicationId == ownApplicationId;
   }
 
-  void apply(Entry& entry) {
-    if (entry.next.isActive && !entry.window.isActive) entry.activity = ++lastActivity;
-    entry.window = entry.next;
-    if (!awaited.empty() && isOwn(entry.window) && entry.window.title == awaited) {
-      awaited.clear();
-      activate(entry);
-    }
+  void told(const WaylandWindow& window) override {
+    auto found =
+        std::ranges::find(entries, window.id, [](const Entry& entry) { return entry.window.id; });
+    if (found == entries.end()) found = entries.emplace(found);
+    if (window.isActive && !found->window.isActive) found->activity = ++lastActivity;
+    found->window = window;
+    if (awaited.empty() || !isOwn(window) || window.title != awaited) return;
+    awaited.clear();
+    activate(*found);
+  }
+
+  void closed(std::uint64_t id) override {
+    entries.remove_if([id](const Entry& entry) { return entry.window.id == id; });
   }
 
   void activate(const Entry& entry) const {
-    zwlr_foreign_toplevel_handle_v1_activate(entry.handle.get(), connection.seat());
+    protocol->activate(entry.window.id);
     connection.flush();
   }
 
@@ -71,68 +64,15 @@ struct WaylandWindows::State {
     if (entry == nullptr) return std::nullopt;
     return entry->window;
   }
-
-  static Entry& entryOf(void* data) { return *static_cast<Entry*>(data); }
-
-  using Toplevel = zwlr_foreign_toplevel_handle_v1;
-  static void retitled(void* data, Toplevel* /*handle*/, const char* title) {
-    entryOf(data).next.title = title;
-  }
-  static void named(void* data, Toplevel* /*handle*/, const char* applicationId) {
-    entryOf(data).next.applicationId = applicationId;
-  }
-  static void moved(void* /*data*/, Toplevel* /*handle*/, wl_output* /*output*/) {}
-  static void changed(void* data, Toplevel* /*handle*/, wl_array* states) {
-    const auto* const first = static_cast<const std::uint32_t*>(states->data);
-    const auto* const end = first + states->size / sizeof(std::uint32_t);
-    entryOf(data).next.isActive =
-        std::find(first, end, ZWLR_FOREIGN_TOPLEVEL_HANDLE_V1_STATE_ACTIVATED) != end;
-  }
-  static void told(void* data, Toplevel* /*handle*/) {
-    Entry& entry = entryOf(data);
-    entry.state.apply(entry);
-  }
-  static void closed(void* data, Toplevel* handle) {
-    entryOf(data).state.entries.remove_if(
-        [handle](const Entry& entry) { return entry.handle.get() == handle; });
-  }
-  static void parented(void* /*data*/, Toplevel* /*handle*/, Toplevel* /*parent*/) {}
-  static constexpr zwlr_foreign_toplevel_handle_v1_listener ofWindow = {.title = retitled,
-                                                                        .app_id = named,
-                                                                        .output_enter = moved,
-                                                                        .output_leave = moved,
-                                                                        .state = changed,
-                                                                        .done = told,
-                                                                        .closed = closed,
-                                                                        .parent = parented};
-
-  static void opened(void* data, zwlr_foreign_toplevel_manager_v1* /*manager*/,
-                     zwlr_foreign_toplevel_handle_v1* handle) {
-    auto& state = *static_cast<State*>(data);
-    Entry& entry = state.entries.emplace_back(state, handle, ++state.lastId);
-    zwlr_foreign_toplevel_handle_v1_add_listener(handle, &ofWindow, &entry);
-  }
-  // The compositor reports windows no longer, and its last report would be trusted from now on.
-  static void finished(void* data, zwlr_foreign_toplevel_manager_v1* /*manager*/) {
-    static_cast<State*>(data)->entries.clear();
-  }
-  static constexpr zwlr_foreign_toplevel_manager_v1_listener ofManager = {.toplevel = opened,
-                                                                          .finished = finished};
 };
 
 WaylandWindows::WaylandWindows(WaylandConnection& connection, std::string ownApplicationId)
-    : state_(new State{.connection = connection, .ownApplicationId = std::move(ownApplicationId)}) {
-  state_->manager.reset(connection.bind<zwlr_foreign_toplevel_manager_v1>(
-      zwlr_foreign_toplevel_manager_v1_interface, newestVersion));
-  if (state_->manager == nullptr) return;
-  zwlr_foreign_toplevel_manager_v1_add_listener(state_->manager.get(), &State::ofManager,
-                                                state_.get());
-}
+    : state_(std::make_unique<State>(connection, std::move(ownApplicationId))) {}
 
 WaylandWindows::~WaylandWindows() = default;
 
 bool WaylandWindows::areOfferedBy(const WaylandConnection& connection) {
-  return connection.versionOf(zwlr_foreign_toplevel_manager_v1_interface.name) > 0;
+  return offersWlrootsWindows(connection) || offersPlasmaWindows(connection);
 }
 
 std::optional<WaylandWindow> WaylandWindows::active() const {

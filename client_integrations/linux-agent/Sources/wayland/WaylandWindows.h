@@ -14,10 +14,11 @@ struct WaylandWindow {
   std::uint64_t id = 0;       ///< never given to two windows; no window has 0
   std::string applicationId;  ///< under Xwayland the class part of WM_CLASS
   std::string title;
-  bool isActive = false;  ///< has the keyboard
+  std::uint32_t process = 0;  ///< 0 where the compositor does not say
+  bool isActive = false;      ///< has the keyboard
 };
 
-/// The windows of all programs, by wlr-foreign-toplevel-management. Main thread.
+/// The windows of all programs. Main thread.
 class WaylandWindows {
  public:
   /// Windows with `ownApplicationId` are this program's. The connection outlives this object.

@@ -8,6 +8,7 @@
 
 #include <unistd.h>
 
+#include "applications/ProcessExecutable.h"
 #include "x11/WindowDocument.h"
 #include "x11/XcbHandles.h"
 
@@ -26,13 +27,6 @@ std::string classOf(const std::string& property) {
   const std::size_t end = property.find('\0');
   if (end == std::string::npos) return {};
   return property.c_str() + end + 1;
-}
-
-std::string executableOf(std::uint32_t process) {
-  std::error_code error;
-  const auto path =
-      std::filesystem::read_symlink("/proc/" + std::to_string(process) + "/exe", error);
-  return error ? std::string() : path.filename().string();
 }
 
 }  // namespace

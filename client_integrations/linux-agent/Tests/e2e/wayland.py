@@ -210,7 +210,7 @@ class SwayLimits(OnSway):
         self.desktop.press_in_editor()
         self.desktop.choose_secret()
         self.desktop.wait_for_window("Enter the passphrase")
-        os.kill(self.desktop.sway.pid, signal.SIGKILL)
+        os.kill(self.desktop.compositor.pid, signal.SIGKILL)
         wait_for("the agent ends", lambda: self.desktop.agent.poll() is not None)
         key = list((self.desktop.home / ".local/share/quillseal").glob("*.pem"))
         self.assertEqual(len(key), 1)

@@ -1,0 +1,80 @@
+#include "wayland/DesktopBus.h"
+
+#include <cstdint>
+#include <string>
+
+namespace quillseal::linux {
+namespace {
+
+constexpr std::uint64_t callMicroseconds = 1'000'000;
+
+}  // namespace
+
+std::unique_ptr<DesktopBus> DesktopBus::open() {
+  sd_bus* opened = nullptr;
+  if (::sd_bus_open_user(&opened) < 0) return nullptr;
+  return std::unique_ptr<DesktopBus>(new DesktopBus(opened));
+}
+
+DesktopBus::~DesktopBus() {
+  watch_ = {};
+}
+
+void DesktopBus::serve(desktop::MainLoop& loop, Descriptors& descriptors) {
+  loop_ = &loop;
+  watch_ = descriptors.watch(::sd_bus_get_fd(bus_.get()), Descriptors::Interest::reading,
+                             [this](Descriptors::Interest) { process(); });
+  // What came while nobody watched.
+  later_ = loop.after({}, [this] { process(); });
+}
+
+bool DesktopBus::knows(const char* name) {
+  const Message answer = call({.service = "org.freedesktop.DBus",
+                               .path = "/org/freedesktop/DBus",
+                               .interface = "org.freedesktop.DBus",
+                               .name = "NameHasOwner"},
+                              "s", name);
+  int has = 0;
+  return answer != nullptr && ::sd_bus_message_read(answer.get(), "b", &has) > 0 && has != 0;
+}
+
+DesktopBus::Message DesktopBus::newCall(const Method& method) {
+  sd_bus_message* made = nullptr;
+  if (::sd_bus_message_new_method_call(bus_.get(), &made, method.service, method.path,
+                                       method.interface, method.name) < 0)
+    return nullptr;
+  ::sd_bus_message_set_auto_start(made, 0);
+  return Message(made);
+}
+
+DesktopBus::Message DesktopBus::send(sd_bus_message& request) {
+  sd_bus_message* answer = nullptr;
+  const int result = ::sd_bus_call(bus_.get(), &request, callMicroseconds, nullptr, &answer);
+  // Signals that came before the answer are in memory, where nobody watches for them.
+  std::uint64_t waiting = 0;
+  if (loop_ != nullptr && ::sd_bus_get_n_queued_read(bus_.get(), &waiting) >= 0 && waiting > 0)
+    later_ = loop_->after({}, [this] { process(); });
+  return Message(result < 0 ? nullptr : answer);
+}
+
+DesktopBus::Subscription DesktopBus::subscribe(const Signal& signal, Receiver& received) {
+  const auto receive = [](sd_bus_message* message, void* data, sd_bus_error*) {
+    (*static_cast<Receiver*>(data))(*message);
+    return 0;
+  };
+  const std::string rule = std::string("type='signal',sender='") + signal.sender + "',path='" +
+                           signal.path + "',interface='" + signal.interface + "',member='" +
+                           signal.name + "',arg0='" + signal.firstArgument + "'";
+  sd_bus_slot* slot = nullptr;
+  if (::sd_bus_add_match(bus_.get(), &slot, rule.c_str(), receive, &received) < 0) return nullptr;
+  return Subscription(slot);
+}
+
+void DesktopBus::process() {
+  int handled = 1;
+  while (handled > 0)
+    handled = ::sd_bus_process(bus_.get(), nullptr);
+  if (handled < 0) watch_ = {};  // the bus has gone
+}
+
+}  // namespace quillseal::linux

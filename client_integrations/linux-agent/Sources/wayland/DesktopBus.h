@@ -1,0 +1,83 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include <systemd/sd-bus.h>
+
+#include "desktop/MainLoop.h"
+#include "desktop/Ticket.h"
+#include "session/Descriptors.h"
+
+namespace quillseal::linux {
+
+/// A connection of its own to the session's message bus, for what a compositor offers there.
+/// Nothing is started by a call, and none takes longer than a second. Main thread.
+class DesktopBus {
+ public:
+  struct Unref {
+    void operator()(sd_bus_message* message) const noexcept { ::sd_bus_message_unref(message); }
+    void operator()(sd_bus_slot* slot) const noexcept { ::sd_bus_slot_unref(slot); }
+  };
+  using Message = std::unique_ptr<sd_bus_message, Unref>;
+  /// What is listened for, for as long as this is kept.
+  using Subscription = std::unique_ptr<sd_bus_slot, Unref>;
+
+  struct Method {
+    const char* service;
+    const char* path;
+    const char* interface;
+    const char* name;
+  };
+  struct Signal {
+    const char* sender;
+    const char* path;
+    const char* interface;
+    const char* name;
+    const char* firstArgument;
+  };
+
+  /// Null where there is no session bus.
+  [[nodiscard]] static std::unique_ptr<DesktopBus> open();
+  ~DesktopBus();
+  DesktopBus(const DesktopBus&) = delete;
+  DesktopBus& operator=(const DesktopBus&) = delete;
+
+  /// From now on signals arrive. Both outlive this object.
+  void serve(desktop::MainLoop& loop, Descriptors& descriptors);
+
+  /// Whether somebody has this name.
+  [[nodiscard]] bool knows(const char* name);
+
+  /// The answer, null when there is none or an error. `types` and `arguments` as for
+  /// sd_bus_message_append.
+  template <typename... Arguments>
+  [[nodiscard]] Message call(const Method& method, const char* types, Arguments... arguments) {
+    const Message request = newCall(method);
+    if (request == nullptr || ::sd_bus_message_append(request.get(), types, arguments...) < 0)
+      return nullptr;
+    return send(*request);
+  }
+
+  /// Has `received` called for each signal of this kind, from inside the bus's events. The function
+  /// outlives the subscription. Null when the bus does not take it.
+  using Receiver = std::function<void(sd_bus_message&)>;
+  [[nodiscard]] Subscription subscribe(const Signal& signal, Receiver& received);
+
+ private:
+  struct Close {
+    void operator()(sd_bus* bus) const noexcept { ::sd_bus_flush_close_unref(bus); }
+  };
+
+  explicit DesktopBus(sd_bus* bus) : bus_(bus) {}
+  [[nodiscard]] Message newCall(const Method& method);
+  [[nodiscard]] Message send(sd_bus_message& request);
+  void process();
+
+  std::unique_ptr<sd_bus, Close> bus_;
+  desktop::MainLoop* loop_ = nullptr;
+  desktop::Ticket watch_;
+  desktop::Ticket later_;
+};
+
+}  // namespace quillseal::linux

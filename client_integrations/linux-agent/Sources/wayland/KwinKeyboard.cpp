@@ -1,0 +1,133 @@
+#include "wayland/KwinKeyboard.h"
+
+#include <algorithm>
+#include <array>
+
+#include <linux/input-event-codes.h>
+#include <xkbcommon/xkbcommon-keysyms.h>
+
+#include "fake-input-client-protocol.h"
+#include "wayland/ProxyHandle.h"
+
+namespace quillseal::linux {
+namespace {
+
+// The first that presses keys.
+constexpr std::uint32_t version = 4;
+
+// XKB's numbers of keys are higher by 8 than those of evdev.
+constexpr std::uint32_t evdevOffset = 8;
+
+// What takes part in the hotkey, and what else changes the meaning of a key.
+constexpr std::array holdable = {KEY_H,         KEY_LEFTCTRL,  KEY_RIGHTCTRL,
+                                 KEY_LEFTALT,   KEY_RIGHTALT,  KEY_LEFTMETA,
+                                 KEY_RIGHTMETA, KEY_LEFTSHIFT, KEY_RIGHTSHIFT};
+
+/// Keys that are at the same place in every layout, and where a Latin one has the others.
+std::optional<std::uint32_t> placeOf(Keysym symbol) {
+  switch (symbol) {
+    case XKB_KEY_Control_L:
+      return KEY_LEFTCTRL;
+    case XKB_KEY_Shift_L:
+      return KEY_LEFTSHIFT;
+    case XKB_KEY_Insert:
+      return KEY_INSERT;
+    default:
+      return std::nullopt;
+  }
+}
+
+}  // namespace
+
+struct KwinKeyboard::Device {
+  wayland::ProxyHandle<org_kde_kwin_fake_input> input;
+};
+
+KwinKeyboard::KwinKeyboard(WaylandConnection& connection, DesktopBus* bus)
+    : connection_(connection), bus_(bus), layout_(connection, [this] { known_.clear(); }) {}
+
+KwinKeyboard::~KwinKeyboard() = default;
+
+bool KwinKeyboard::isOfferedBy(const WaylandConnection& connection) {
+  return connection.versionOf(org_kde_kwin_fake_input_interface.name) >= version;
+}
+
+bool KwinKeyboard::reachesActiveWindow() const {
+  if (bus_ == nullptr) return true;
+  // Windows stay active behind a locked screen.
+  const DesktopBus::Message answer = bus_->call({.service = "org.freedesktop.ScreenSaver",
+                                                 .path = "/ScreenSaver",
+                                                 .interface = "org.freedesktop.ScreenSaver",
+                                                 .name = "GetActive"},
+                                                "");
+  int isLocked = 0;
+  if (answer != nullptr) ::sd_bus_message_read(answer.get(), "b", &isLocked);
+  return isLocked == 0;
+}
+
+std::optional<std::uint32_t> KwinKeyboard::keyFor(Keysym symbol) {
+  if (const auto place = placeOf(symbol)) return place;
+  auto found = known_.find(symbol);
+  if (found == known_.end()) found = known_.emplace(symbol, layout_.keysFor(symbol)).first;
+  const std::vector<std::optional<std::uint32_t>>& keys = found->second;
+  const auto first = std::ranges::find_if(keys, [](const auto& key) { return key.has_value(); });
+  if (first == keys.end()) return std::nullopt;
+  // A layout without the letter is used with the keys of one that has it.
+  const bool isOne =
+      std::ranges::all_of(keys, [&](const auto& key) { return !key.has_value() || key == *first; });
+  if (isOne) return **first - evdevOffset;
+  if (bus_ == nullptr) return std::nullopt;
+  const DesktopBus::Message answer = bus_->call({.service = "org.kde.keyboard",
+                                                 .path = "/Layouts",
+                                                 .interface = "org.kde.KeyboardLayouts",
+                                                 .name = "getLayout"},
+                                                "");
+  std::uint32_t used = 0;
+  if (answer == nullptr || ::sd_bus_message_read(answer.get(), "u", &used) <= 0 ||
+      used >= keys.size())
+    return std::nullopt;
+  return keys[used].value_or(**first) - evdevOffset;
+}
+
+std::vector<std::uint32_t> KwinKeyboard::keysFor(std::span<const Keysym> chord) {
+  std::vector<std::uint32_t> keys;
+  for (const Keysym symbol : chord) {
+    if (const auto key = keyFor(symbol)) {
+      keys.push_back(*key);
+      continue;
+    }
+    if (symbol == XKB_KEY_c) return {KEY_LEFTCTRL, KEY_INSERT};
+    if (symbol == XKB_KEY_v) return {KEY_LEFTSHIFT, KEY_INSERT};
+    // Without Latin letters nothing else can be meant by the key.
+    const bool isNowhere = std::ranges::none_of(
+        known_[symbol], [](const auto& candidate) { return candidate.has_value(); });
+    if (!isNowhere || symbol != XKB_KEY_a) return {};
+    keys.push_back(KEY_A);
+  }
+  return keys;
+}
+
+void KwinKeyboard::tap(std::span<const Keysym> chord) {
+  if (device_ == nullptr) {
+    device_ = std::make_unique<Device>();
+    device_->input.reset(
+        connection_.bind<org_kde_kwin_fake_input>(org_kde_kwin_fake_input_interface, version));
+    if (device_->input == nullptr) return device_.reset();
+    org_kde_kwin_fake_input_authenticate(device_->input.get(), "Quillseal",
+                                         "copies the selection and pastes the signed text");
+  }
+  const auto set = [this](std::uint32_t key, wl_keyboard_key_state state) {
+    org_kde_kwin_fake_input_keyboard_key(device_->input.get(), key, state);
+  };
+  std::vector<std::uint32_t> keys = keysFor(chord);
+  for (const int key : holdable)
+    set(static_cast<std::uint32_t>(key), WL_KEYBOARD_KEY_STATE_RELEASED);
+  for (const std::uint32_t key : keys)
+    set(key, WL_KEYBOARD_KEY_STATE_PRESSED);
+  std::ranges::reverse(keys);
+  for (const std::uint32_t key : keys)
+    set(key, WL_KEYBOARD_KEY_STATE_RELEASED);
+  connection_.flush();
+}
+
+}  // namespace quillseal::linux

@@ -1,0 +1,299 @@
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <chrono>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <systemd/sd-bus.h>
+#include <xkbcommon/xkbcommon-keysyms.h>
+
+#include "KeymapText.h"
+#include "PrivateBus.h"
+#include "RunUntil.h"
+#include "ScriptedCompositor.h"
+#include "core/text/Error.h"
+#include "desktop/SigningHotkey.h"
+#include "session/PollLoop.h"
+#include "wayland/DesktopBus.h"
+#include "wayland/KwinHotkey.h"
+#include "wayland/KwinKeyboard.h"
+#include "wayland/WaylandConnection.h"
+
+namespace quillseal::linux {
+namespace {
+
+using namespace std::chrono_literals;
+using ::testing::AllOf;
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using testing::PrivateBus;
+using testing::ScriptedCompositor;
+
+constexpr int controlAltMetaH = 0x1C000048;  // as Qt numbers it
+
+/// What KDE has on the session bus, on a thread of its own.
+class ScriptedKde {
+ public:
+  struct Script {
+    std::optional<std::uint32_t> layout{};  ///< nobody tells when there is none
+    bool isLocked = false;
+    bool answers = true;
+    int granted = controlAltMetaH;  ///< 0 when the keys are refused
+    std::string owner{};            ///< component that has them
+  };
+
+  explicit ScriptedKde(Script script) : script_(std::move(script)) {
+    sd_bus* opened = nullptr;
+    ::sd_bus_open_user(&opened);
+    bus_.reset(opened);
+    ::sd_bus_add_fallback(bus_.get(), nullptr, "/", handle, this);
+    for (const char* name :
+         {"org.kde.kglobalaccel", "org.kde.keyboard", "org.freedesktop.ScreenSaver"})
+      ::sd_bus_request_name(bus_.get(), name, 0);
+    thread_ = std::thread([this] { serve(); });
+  }
+  ~ScriptedKde() {
+    ends_ = true;
+    thread_.join();
+  }
+  ScriptedKde(const ScriptedKde&) = delete;
+  ScriptedKde& operator=(const ScriptedKde&) = delete;
+
+  /// To whom it may concern: "globalShortcutPressed" and so on, of an action of Quillseal's.
+  void tell(const std::string& signal, const std::string& action = "sign") {
+    const std::lock_guard lock(mutex_);
+    signals_.emplace_back(signal, action);
+  }
+  [[nodiscard]] std::vector<std::string> calls() {
+    const std::lock_guard lock(mutex_);
+    return calls_;
+  }
+
+ private:
+  struct Close {
+    void operator()(sd_bus* bus) const { ::sd_bus_flush_close_unref(bus); }
+  };
+
+  void serve() {
+    while (!ends_) {
+      while (::sd_bus_process(bus_.get(), nullptr) > 0) {
+      }
+      std::vector<std::pair<std::string, std::string>> signals;
+      {
+        const std::lock_guard lock(mutex_);
+        signals.swap(signals_);
+      }
+      for (const auto& [signal, action] : signals)
+        ::sd_bus_emit_signal(bus_.get(), "/component/quillseal", "org.kde.kglobalaccel.Component",
+                             signal.c_str(), "ssx", "quillseal", action.c_str(),
+                             static_cast<std::int64_t>(0));
+      ::sd_bus_flush(bus_.get());
+      ::sd_bus_wait(bus_.get(), 2000);
+    }
+  }
+
+  static int handle(sd_bus_message* message, void* self, sd_bus_error* error) {
+    return static_cast<ScriptedKde*>(self)->answer(message, error);
+  }
+
+  int answer(sd_bus_message* message, sd_bus_error* error) {
+    const std::string member = ::sd_bus_message_get_member(message);
+    {
+      const std::lock_guard lock(mutex_);
+      calls_.push_back(member);
+    }
+    if (!script_.answers) return 1;
+    if (member == "GetActive")
+      return ::sd_bus_reply_method_return(message, "b", static_cast<int>(script_.isLocked));
+    if (member == "getLayout" && script_.layout)
+      return ::sd_bus_reply_method_return(message, "u", *script_.layout);
+    if (member == "setShortcutKeys" && script_.granted != 0)
+      return ::sd_bus_reply_method_return(message, "a(ai)", 2, 4, 0, 0, 0, 0, 4, script_.granted, 0,
+                                          0, 0);
+    if (member == "setShortcutKeys")
+      return ::sd_bus_reply_method_return(message, "a(ai)", 1, 4, 0, 0, 0, 0);
+    if (member == "actionList" && !script_.owner.empty())
+      return ::sd_bus_reply_method_return(message, "as", 2, script_.owner.c_str(), "act");
+    if (member == "actionList") return ::sd_bus_reply_method_return(message, "as", 0);
+    if (member == "unregister") return ::sd_bus_reply_method_return(message, "b", 1);
+    if (member == "doRegister" || member == "setInactive")
+      return ::sd_bus_reply_method_return(message, "");
+    return ::sd_bus_error_set(error, "org.freedesktop.DBus.Error.UnknownMethod", member.c_str());
+  }
+
+  Script script_;
+  std::unique_ptr<sd_bus, Close> bus_;
+  std::mutex mutex_;
+  std::vector<std::string> calls_;                            // guarded by mutex_
+  std::vector<std::pair<std::string, std::string>> signals_;  // guarded by mutex_
+  std::atomic<bool> ends_ = false;
+  std::thread thread_;
+};
+
+class Kwin : public ::testing::Test {
+ protected:
+  PrivateBus sessionBus{"DBUS_SESSION_BUS_ADDRESS"};
+};
+
+// Keys --------------------------------------------------------------------------------------------
+
+/// What is pressed after what the person may hold has been let go.
+std::vector<std::string> chordIn(const std::vector<std::string>& keys) {
+  const auto first = std::ranges::find_if(keys, [](const auto& key) { return key.back() == '+'; });
+  return {first, keys.end()};
+}
+
+using KwinKeys = Kwin;
+
+TEST_F(KwinKeys, AreThoseOfTheLayoutInUse) {
+  using Keys = std::vector<std::string>;
+  constexpr std::array<Keysym, 2> copy{XKB_KEY_Control_L, XKB_KEY_c};
+  constexpr std::array<Keysym, 2> paste{XKB_KEY_Control_L, XKB_KEY_v};
+  constexpr std::array<Keysym, 2> all{XKB_KEY_Control_L, XKB_KEY_a};
+  constexpr std::array<Keysym, 3> copyInTerminal{XKB_KEY_Control_L, XKB_KEY_Shift_L, XKB_KEY_c};
+  const Keys copied{"29+", "46+", "46-", "29-"};
+  const Keys copiedByInsert{"29+", "110+", "110-", "29-"};
+  const Keys pastedByInsert{"42+", "110+", "110-", "42-"};
+  const struct {
+    const char* layout;
+    std::optional<std::uint32_t> used;
+    std::span<const Keysym> chord;
+    Keys keys;
+  } rows[] = {{"us", {}, copy, copied},
+              {"us", {}, copyInTerminal, {"29+", "42+", "46+", "46-", "42-", "29-"}},
+              {"fr", {}, all, {"29+", "16+", "16-", "29-"}},
+              {"us,fr", 0U, all, {"29+", "30+", "30-", "29-"}},
+              {"us,fr", 1U, all, {"29+", "16+", "16-", "29-"}},
+              {"us,fr", 2U, all, {}},  // Ctrl+Q ends applications
+              {"us,fr", {}, all, {}},
+              {"us,fr", {}, copy, copied},
+              {"us,us(dvorak)", {}, copy, copiedByInsert},
+              {"us,us(dvorak)", {}, paste, pastedByInsert},
+              {"us,us(dvorak)", 1U, copy, {"29+", "23+", "23-", "29-"}},
+              {"ru,us", 0U, copy, copied},
+              {"ru", {}, copy, copiedByInsert},
+              {"ru", {}, paste, pastedByInsert},
+              {"ru", {}, all, {"29+", "30+", "30-", "29-"}},
+              {"", {}, copy, copiedByInsert}};
+  for (const auto& row : rows) {
+    const std::string layout = row.layout;
+    ScriptedCompositor compositor(
+        {.isKwin = true, .layout = layout.empty() ? "" : testing::keymapText(row.layout)});
+    const ScriptedKde kde({.layout = row.used});
+    const auto connection = WaylandConnection::open();
+    const auto bus = DesktopBus::open();
+    KwinKeyboard keyboard(*connection, bus.get());
+    EXPECT_TRUE(connection->roundTrip() && connection->roundTrip());
+    keyboard.tap(row.chord);
+    EXPECT_TRUE(connection->roundTrip());
+    EXPECT_EQ(chordIn(compositor.keys()), row.keys) << layout << " with " << row.keys.size();
+    for (const char* held : {"35-", "29-", "97-", "56-", "100-", "125-", "126-", "42-", "54-"})
+      EXPECT_THAT(compositor.keys(), Contains(held));
+  }
+}
+
+TEST_F(KwinKeys, ReachNoWindowBehindALockedScreen) {
+  const ScriptedCompositor compositor({.isKwin = true});
+  const auto connection = WaylandConnection::open();
+  const auto bus = DesktopBus::open();
+  const KwinKeyboard keyboard(*connection, bus.get());
+  EXPECT_TRUE(keyboard.reachesActiveWindow());  // nobody locks screens here
+  for (const bool isLocked : {true, false}) {
+    const ScriptedKde kde({.isLocked = isLocked});
+    EXPECT_EQ(keyboard.reachesActiveWindow(), !isLocked);
+  }
+}
+
+// Hotkey ------------------------------------------------------------------------------------------
+
+using KwinHotkeys = Kwin;
+
+TEST_F(KwinHotkeys, ArePressedOnceHoweverLongTheyAreHeld) {
+  std::optional<ScriptedKde> kde(std::in_place, ScriptedKde::Script{});
+  PollLoop loop;
+  const auto bus = DesktopBus::open();
+  bus->serve(loop, loop);
+  ASSERT_TRUE(KwinHotkey::isOfferedBy(*bus));
+  int presses = 0;
+  {
+    KwinHotkey keys({.loop = loop, .bus = *bus});
+    keys.registerHotkey(desktop::signingHotkey, [&] { ++presses; });
+    const auto registered = kde->calls();
+    for (const char* signal : {"globalShortcutPressed", "globalShortcutPressed",
+                               "globalShortcutReleased", "globalShortcutPressed"})
+      kde->tell(signal);
+    kde->tell("globalShortcutReleased", "other");
+    kde->tell("globalShortcutPressed");
+    testing::runUntil(loop, [&] { return presses == 2; });
+
+    kde.reset();
+    kde.emplace(ScriptedKde::Script{});
+    testing::runUntil(loop, [&] { return kde->calls().size() >= registered.size(); });
+    EXPECT_EQ(kde->calls(), registered);
+    kde->tell("globalShortcutPressed");
+    testing::runUntil(loop, [&] { return presses == 3; });
+  }
+  EXPECT_EQ(kde->calls().back(), "setInactive");
+}
+
+TEST_F(KwinHotkeys, SayWhyThereAreNone) {
+  PollLoop loop;
+  const auto bus = DesktopBus::open();
+  bus->serve(loop, loop);
+  EXPECT_FALSE(KwinHotkey::isOfferedBy(*bus));
+  const struct {
+    ScriptedKde::Script script;
+    const char* part;
+    const char* lastCall;
+  } rows[] = {{{.granted = 0, .owner = "other"},
+               "Another program already uses Ctrl+Alt+Super+H",
+               "unregister"},
+              {{.granted = 0}, "give Quillseal no keys", "actionList"},
+              {{.granted = 0, .owner = "quillseal"}, "give Quillseal no keys", "actionList"},
+              {{.answers = false}, "do not answer", "setShortcutKeys"}};
+  for (const auto& row : rows) {
+    ScriptedKde kde(row.script);
+    KwinHotkey keys({.loop = loop, .bus = *bus});
+    try {
+      keys.registerHotkey(desktop::signingHotkey, [] {});
+      ADD_FAILURE() << row.part;
+    } catch (const Error& error) {
+      EXPECT_THAT(error.what(), AllOf(HasSubstr(row.part), HasSubstr("quillseal --sign")));
+    }
+    EXPECT_EQ(kde.calls().back(), row.lastCall);
+  }
+}
+
+TEST_F(KwinHotkeys, EndWithTheBus) {
+  std::optional<PrivateBus> dying(std::in_place, "DBUS_SESSION_BUS_ADDRESS");
+  std::optional<ScriptedKde> kde(std::in_place, ScriptedKde::Script{});
+  PollLoop loop;
+  const auto bus = DesktopBus::open();
+  bus->serve(loop, loop);
+  KwinHotkey keys({.loop = loop, .bus = *bus});
+  keys.registerHotkey(desktop::signingHotkey, [] {});
+  kde.reset();
+  dying.reset();
+  int turns = 0;
+  testing::runUntil(loop, [&] { return ++turns == 5; });
+  EXPECT_FALSE(KwinHotkey::isOfferedBy(*bus));
+}
+
+TEST(KwinBus, IsNoneWhereTheSessionHasNone) {
+  setenv("DBUS_SESSION_BUS_ADDRESS", "disabled:", 1);
+  EXPECT_EQ(DesktopBus::open(), nullptr);
+  unsetenv("DBUS_SESSION_BUS_ADDRESS");
+}
+
+}  // namespace
+}  // namespace quillseal::linux

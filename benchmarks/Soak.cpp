@@ -17,6 +17,7 @@
 
 namespace {
 
+using quillseal::testing::Copy;
 using quillseal::testing::FakeDesktop;
 
 constexpr std::size_t usualCount = 10'000;
@@ -36,7 +37,7 @@ struct Holdings {
 };
 
 /// From a short message to a long letter, some with HTML.
-FakeDesktop::Copy textOf(std::size_t number) {
+Copy textOf(std::size_t number) {
   constexpr std::size_t kinds = 7;
   std::string text = "Message " + std::to_string(number) + " of Grace to the fair in June.";
   for (std::size_t i = 0; i < (std::size_t{1} << (number % kinds)); ++i)
@@ -49,12 +50,12 @@ FakeDesktop::Copy textOf(std::size_t number) {
 /// With the device key, in the browser, or as a demonstration.
 void prepare(FakeDesktop& desktop, std::size_t number) {
   desktop.forget();
-  desktop.selection = textOf(number);
-  desktop.hasKey = number % 3 != 1;
-  desktop.flags.clear();
-  if (number % 3 == 2) desktop.flags.insert("DemoSigning");
-  desktop.answers["/api/handoff/poll"] = {{200, R"({"status":"waiting"})"},
-                                          {200, R"({"status":"complete","signature_id":"w"})"}};
+  desktop.keys.selection = textOf(number);
+  desktop.keyStore.hasKey = number % 3 != 1;
+  desktop.defaults.flags.clear();
+  if (number % 3 == 2) desktop.defaults.flags.insert("DemoSigning");
+  desktop.http.answers["/api/handoff/poll"] = {
+      {200, R"({"status":"waiting"})"}, {200, R"({"status":"complete","signature_id":"w"})"}};
 }
 
 }  // namespace
@@ -63,13 +64,13 @@ int main(int count, char** arguments) {
   const std::size_t runs =
       count > 1 ? std::strtoul(arguments[1], nullptr, 10) : usualCount;  // NOLINT(cert-err34-c)
   FakeDesktop desktop;
-  desktop.front = desktop.active =
+  desktop.applications.front = desktop.applications.active =
       quillseal::desktop::RunningApplication{.instance = 1,
                                              .name = "Mail",
                                              .bundleIdentifier = "com.apple.mail",
                                              .categories = "",
                                              .document = {}};
-  desktop.strings["SigningMode"] = "handoff";
+  desktop.defaults.strings["SigningMode"] = "handoff";
   quillseal::AppDelegate agent(desktop.services());
   agent.applicationDidFinishLaunching();
 
@@ -79,7 +80,7 @@ int main(int count, char** arguments) {
     if (number == std::min(settled, runs / 2)) before = {};
     prepare(desktop, number);
     const double begun = microsecondsUsed();
-    desktop.hotkeyPressed();
+    desktop.hotkey.pressed();
     desktop.loop.run();
     microseconds[number] = microsecondsUsed() - begun;
     if (desktop.trace.empty() || !desktop.trace.back().starts_with("notify: ✅")) {

@@ -19,6 +19,7 @@
 namespace quillseal::linux {
 namespace {
 
+using testing::Copy;
 using testing::FakeDesktop;
 using ::testing::HasSubstr;
 using ::testing::Not;
@@ -43,7 +44,7 @@ using Desktop = FakeDesktop&;
 
 std::function<void(Desktop)> whilePasting(std::function<void(Desktop)> happening) {
   return [happening = std::move(happening)](Desktop d) {
-    d.beforePress = [&d, happening](desktop::Key key) {
+    d.keys.beforePress = [&d, happening](desktop::Key key) {
       if (key == desktop::Key::v) happening(d);
     };
   };
@@ -51,22 +52,22 @@ std::function<void(Desktop)> whilePasting(std::function<void(Desktop)> happening
 
 std::function<void(Desktop)> inTheBrowser(const std::string& answer) {
   return [answer](Desktop d) {
-    d.hasKey = false;
-    d.strings["SigningMode"] = "handoff";
-    d.front->bundleIdentifier = d.active->bundleIdentifier = "browser";
-    d.defaultBrowser =
+    d.keyStore.hasKey = false;
+    d.defaults.strings["SigningMode"] = "handoff";
+    d.applications.front->bundleIdentifier = d.applications.active->bundleIdentifier = "browser";
+    d.applications.defaultBrowser =
         desktop::InstalledApplication{.location = "b", .bundleIdentifier = "browser"};
-    d.scriptResults = {std::optional<std::string>("42"), std::optional<std::string>("false")};
-    d.answers["/api/handoff/poll"] = {{200, answer}};
+    d.scripts.results = {std::optional<std::string>("42"), std::optional<std::string>("false")};
+    d.http.answers["/api/handoff/poll"] = {{200, answer}};
   };
 }
 
 std::function<void(Desktop)> with(const char* flag) {
-  return [flag](Desktop d) { d.flags = {flag}; };
+  return [flag](Desktop d) { d.defaults.flags = {flag}; };
 }
 
 std::function<void(Desktop)> selecting(const std::string& text) {
-  return [text](Desktop d) { d.selection->text = text + selection; };
+  return [text](Desktop d) { d.keys.selection->text = text + selection; };
 }
 
 Error failing(const char* description) {
@@ -83,24 +84,24 @@ std::vector<Story> stories() {
       {Act::sign, "Signature Generated!"},
       {Act::sign, "Signature Generated!", with("DemoSigning")},
       {Act::sign, "This Mac has no Secure Enclave, so content",
-       [](Desktop d) { d.canHoldKey = false; },
+       [](Desktop d) { d.keyStore.canHoldKey = false; },
        "Signing Key Required\nThis computer has no usable TPM and no place for a key file, so "
        "content"},
-      {Act::sign, "with “defaults write”", [](Desktop d) { d.strings.erase("ServerURL"); },
+      {Act::sign, "with “defaults write”", [](Desktop d) { d.defaults.strings.erase("ServerURL"); },
        "into ~/.config/Quillseal/Quillseal.conf"},
       {Act::sign, "some text in Outlook (or any app) before pressing ⌘⌥⌃H.",
-       [](Desktop d) { d.selection.reset(); },
+       [](Desktop d) { d.keys.selection.reset(); },
        "some text in Thunderbird (or any app) before pressing Ctrl+Alt+Super+H."},
       {Act::sign, "select it and press ⌘⌥⌃H again.",
-       [](Desktop d) { d.beforePress = [&d](desktop::Key) { d.ended = {1}; }; }},
-      {Act::sign, "too short", [](Desktop d) { d.selection->text = "Too few"; }},
+       [](Desktop d) { d.keys.beforePress = [&d](desktop::Key) { d.applications.ended = {1}; }; }},
+      {Act::sign, "too short", [](Desktop d) { d.keys.selection->text = "Too few"; }},
       {Act::sign, "payment instructions cannot be signed", selecting("I approve the payment. ")},
       {Act::sign, "Sign this anyway?",
        selecting("Our bank details have changed since the last order. ")},
       {Act::sign, "Quillseal Is Busy",
        [](Desktop d) {
-         d.leavesDialogsOpen = true;
-         d.flags = {"ConfirmBeforeSigning"};
+         d.alerts.leavesDialogsOpen = true;
+         d.defaults.flags = {"ConfirmBeforeSigning"};
        }},
       {Act::sign, confirm + "fingerprint.\n\n" + selection, with("ConfirmBeforeSigning"),
        confirm + "PIN.\n\n" + selection, confirm + "passphrase.\n\n" + selection},
@@ -109,18 +110,21 @@ std::vector<Story> stories() {
       {Act::sign, "covered by your fingerprint, so this signature", with("ConfirmBeforeSigning"),
        "covered by your signature, so it"},
       {Act::sign, "Secure Enclave signing failed: No.",
-       [](Desktop d) { d.signFailure = failing("No."); }, "Signing with the TPM failed: No.",
-       "Signing with the key file failed: No."},
+       [](Desktop d) { d.keyStore.signFailure = failing("No."); },
+       "Signing with the TPM failed: No.", "Signing with the key file failed: No."},
       {Act::sign, "Secure Enclave signing failed: user cancelled or biometric failed",
-       [](Desktop d) { d.signFailure = failing(""); },
+       [](Desktop d) { d.keyStore.signFailure = failing(""); },
        "Signing with the TPM failed: it was cancelled, or the PIN was wrong.",
        "Signing with the key file failed: it was cancelled, or the passphrase was wrong."},
       {Act::sign, "Open your message again in Mail, select the text you signed, and press ⌘V.",
-       whilePasting([](Desktop d) { d.ended = {1}; })},
-      {Act::sign, switchBack, whilePasting([](Desktop d) { d.active.reset(); })},
-      {Act::sign, switchBack, whilePasting([](Desktop d) { d.active->document = "Rent"; })},
+       whilePasting([](Desktop d) { d.applications.ended = {1}; })},
+      {Act::sign, switchBack, whilePasting([](Desktop d) { d.applications.active.reset(); })},
+      {Act::sign, switchBack,
+       whilePasting([](Desktop d) { d.applications.active->document = "Rent"; })},
       {Act::sign, "does not paste into a terminal",
-       [](Desktop d) { d.front->categories = d.active->categories = "TerminalEmulator;"; }},
+       [](Desktop d) {
+         d.applications.front->categories = d.applications.active->categories = "TerminalEmulator;";
+       }},
       // In the browser.
       {Act::sign, switchBack, inTheBrowser(R"({"status":"complete","signature_id":"s"})")},
       {Act::sign, "Select your text and press ⌘⌥⌃H again.",
@@ -132,9 +136,9 @@ std::vector<Story> stories() {
        "Could Not Set Up This Mac\nQuillseal could not register this Mac with "
        "https://seal.example.\n\nCould not create the Secure Enclave signing key: Full.",
        [](Desktop d) {
-         d.hasKey = false;
-         d.strings["SigningMode"] = "enclave";
-         d.createFailure = failing("Full.");
+         d.keyStore.hasKey = false;
+         d.defaults.strings["SigningMode"] = "enclave";
+         d.keyStore.createFailure = failing("Full.");
        },
        "Could Not Set Up This Computer\nQuillseal could not register this computer with "
        "https://seal.example.\n\nCould not create the signing key: Full."},
@@ -143,48 +147,48 @@ std::vector<Story> stories() {
        "✅ This Computer Is Enrolled\nA signing key was created in a key file on this computer."},
       {Act::enrol, "is bound to this Mac yet",
        [](Desktop d) {
-         d.answers["/api/register_native"] = {{200, R"({"status":"ok","device_id":"d"})"}};
+         d.http.answers["/api/register_native"] = {{200, R"({"status":"ok","device_id":"d"})"}};
        }},
       {Act::enrol, "Could not export the Secure Enclave public key.",
-       [](Desktop d) { d.exportsKey = false; },
+       [](Desktop d) { d.keyStore.exportsKey = false; },
        "Could not export the public key of the key in the TPM.",
        "Could not export the public key from the key file."},
       // Settings, menu and hotkey.
       {Act::settings,
        "the first time you press ⌘⌥⌃H — there is nothing to do here.\nNo verified identity is "
        "bound to this Mac.",
-       [](Desktop d) { d.hasKey = false; }},
-      {Act::settings, "\nEnrol This Mac\n", [](Desktop d) { d.hasKey = false; }},
+       [](Desktop d) { d.keyStore.hasKey = false; }},
+      {Act::settings, "\nEnrol This Mac\n", [](Desktop d) { d.keyStore.hasKey = false; }},
       {Act::settings, "key exists inside the Secure Enclave.", [](Desktop) {},
        "key exists inside the TPM.", "key exists in a key file, encrypted with your passphrase."},
       {Act::settings, "\nRe-enrol This Mac\n"},
       {Act::settings, "this Mac must be re-enrolled"},
       {Act::settings, "find out whether this Mac has a signing key",
-       [](Desktop d) { d.loadFailure = Error(Error::Fields{}); }},
+       [](Desktop d) { d.keyStore.loadFailure = Error(Error::Fields{}); }},
       {Act::developmentSettings, "from the Secure Enclave key below.", [](Desktop) {},
        "from the TPM key below.", "from the signing key below."},
       {Act::menu, "\nSign Selected Text (⌘⌥⌃H)\n"},
-      {Act::menu, "Hotkey Is Not Available", [](Desktop d) { d.hotkeyFailure = failing("X"); }},
+      {Act::menu, "Hotkey Is Not Available", [](Desktop d) { d.hotkey.failure = failing("X"); }},
   };
 }
 
 /// All that the person is shown in the story.
 std::string shownIn(const Story& story, const desktop::Wording& wording) {
   FakeDesktop desktop;
-  desktop.wording = wording;
-  desktop.front = desktop.active = desktop::RunningApplication{
+  desktop.words.wording = wording;
+  desktop.applications.front = desktop.applications.active = desktop::RunningApplication{
       .instance = 1, .name = "Mail", .bundleIdentifier = "mail", .categories = "", .document = ""};
-  desktop.strings["ServerURL"] = "https://seal.example";
-  desktop.selection = FakeDesktop::Copy{.text = selection, .html = {}};
-  desktop.confirmation = desktop::ConfirmationEntry{.choice = "Email Message", .field = ""};
+  desktop.defaults.strings["ServerURL"] = "https://seal.example";
+  desktop.keys.selection = Copy{.text = selection, .html = {}};
+  desktop.alerts.confirmation = desktop::ConfirmationEntry{.choice = "Email Message", .field = ""};
   story.given(desktop);
   SigningCoordinator coordinator(desktop.services());
   MenuBarManager menu(desktop.services(), coordinator);
-  const auto window = desktop.make({.title = "Settings", .width = 1, .height = 1});
+  const auto window = desktop.windows.make({.title = "Settings", .width = 1, .height = 1});
   TaskScope tasks;
   switch (story.act) {
     case Act::sign:
-      for (int i = 0; i <= SigningCoordinator::mostRuns * desktop.leavesDialogsOpen; ++i)
+      for (int i = 0; i <= SigningCoordinator::mostRuns * desktop.alerts.leavesDialogsOpen; ++i)
         coordinator.startSigning();
       desktop.loop.run();
       break;
@@ -196,11 +200,11 @@ std::string shownIn(const Story& story, const desktop::Wording& wording) {
     case Act::developmentSettings: {
       const bool isPackaged = story.act == Act::settings;
       SettingsView view(
-          {.defaults = desktop,
-           .keyStore = desktop,
-           .log = desktop,
+          {.defaults = desktop.defaults,
+           .keyStore = desktop.keyStore,
+           .log = desktop.log,
            .loop = desktop.loop,
-           .words = desktop},
+           .words = desktop.words},
           coordinator, *window,
           isPackaged ? SettingsView::Build::packaged : SettingsView::Build::development);
       desktop.loop.run();
@@ -208,7 +212,8 @@ std::string shownIn(const Story& story, const desktop::Wording& wording) {
     }
     case Act::menu:
       menu.setupMenu();
-      HotkeyManager({.alerts = desktop, .hotkey = desktop, .log = desktop}, coordinator)
+      HotkeyManager({.alerts = desktop.alerts, .hotkey = desktop.hotkey, .log = desktop.log},
+                    coordinator)
           .registerHotkey();
       break;
   }

@@ -26,7 +26,7 @@ PresenceCapability refusing(const std::string& words) {
 /// "passed", "not passed", or the failure.
 std::string attempt(FakeDesktop& desktop) {
   desktop::Prompt prompt{.reason = "Sign this", .medium = {}};
-  const AuthManager::Services services{.loop = desktop.loop, .presence = desktop};
+  const AuthManager::Services services{.loop = desktop.loop, .presence = desktop.presence};
   const Outcome<bool> outcome =
       resultOf(desktop.loop, AuthManager::authenticate(services, std::move(prompt)));
   if (const Error* error = std::get_if<Error>(&outcome))
@@ -51,9 +51,9 @@ TEST(AuthManager, FallsBackFromBiometricsToThePassword) {
   };
   for (const auto& c : cases) {
     FakeDesktop desktop;
-    desktop.biometrics = c.biometrics;
-    desktop.biometricsOrPassword = c.biometricsOrPassword;
-    desktop.presence = c.presence;
+    desktop.presence.biometrics = c.biometrics;
+    desktop.presence.biometricsOrPassword = c.biometricsOrPassword;
+    desktop.presence.outcome = c.presence;
     EXPECT_EQ(attempt(desktop), c.result);
     EXPECT_EQ(desktop.trace.empty() ? "" : desktop.trace.back(), c.prompt) << c.result;
     EXPECT_LE(desktop.trace.size(), 1U) << "asked twice";
@@ -72,9 +72,9 @@ TEST(AuthManager, NamesTheBiometryThatCanBeUsed) {
   };
   for (const auto& c : cases) {
     FakeDesktop desktop;
-    desktop.biometrics = c.biometrics;
-    desktop.biometryOfMachine = c.biometry;
-    const AuthManager::Services services{.loop = desktop.loop, .presence = desktop};
+    desktop.presence.biometrics = c.biometrics;
+    desktop.presence.ofMachine = c.biometry;
+    const AuthManager::Services services{.loop = desktop.loop, .presence = desktop.presence};
     const auto method = resultOf(desktop.loop, AuthManager::biometryMethod(services));
     EXPECT_EQ(std::get<std::string>(method), c.name);
   }

@@ -12,6 +12,7 @@ namespace quillseal {
 namespace {
 
 using ::testing::Contains;
+using testing::Copy;
 using ::testing::ElementsAre;
 using testing::FakeDesktop;
 using ::testing::Field;
@@ -19,8 +20,8 @@ using ::testing::Field;
 TEST(DevelopmentBuild, AsksForItsConfigurationBeforeItMakesAKey) {
   for (const char* key : {"", " \n"}) {
     FakeDesktop desktop;
-    desktop.hasKey = false;
-    desktop.strings = {{"SigningMode", "enclave"}, {"APIKey", key}};
+    desktop.keyStore.hasKey = false;
+    desktop.defaults.strings = {{"SigningMode", "enclave"}, {"APIKey", key}};
     SigningCoordinator coordinator(desktop.services());
     coordinator.startSigning();
     desktop.loop.run();
@@ -29,12 +30,12 @@ TEST(DevelopmentBuild, AsksForItsConfigurationBeforeItMakesAKey) {
                             "key. Open Settings and enter the server URL and native API key, or "
                             "install a packaged build from your provider."));
 
-    desktop.strings["ServerURL"] = "https://own.example";
-    desktop.strings["APIKey"] = "s3cret";
+    desktop.defaults.strings["ServerURL"] = "https://own.example";
+    desktop.defaults.strings["APIKey"] = "s3cret";
     coordinator.startSigning();
     desktop.loop.run();
     EXPECT_THAT(desktop.trace, Contains("POST /api/register_native"));
-    EXPECT_TRUE(desktop.hasKey);
+    EXPECT_TRUE(desktop.keyStore.hasKey);
   }
 }
 
@@ -46,12 +47,12 @@ TEST(DevelopmentBuild, SendsNothingToAServerThatNobodyNamed) {
     for (const char* mode : {"enclave", "handoff"}) {
       for (const bool hasKey : {false, true}) {
         FakeDesktop desktop;
-        desktop.hasKey = hasKey;
-        desktop.strings = {{"APIKey", "k"}, {"ServerURL", server}, {"SigningMode", mode}};
-        desktop.selection = FakeDesktop::Copy{.text =
-                                                  "We meet on 14 March 2026 at ten in the hall "
-                                                  "of the old library with Grace and Ada.",
-                                              .html = {}};
+        desktop.keyStore.hasKey = hasKey;
+        desktop.defaults.strings = {{"APIKey", "k"}, {"ServerURL", server}, {"SigningMode", mode}};
+        desktop.keys.selection = Copy{.text =
+                                          "We meet on 14 March 2026 at ten in the hall "
+                                          "of the old library with Grace and Ada.",
+                                      .html = {}};
         SigningCoordinator coordinator(desktop.services());
         coordinator.startSigning();
         desktop.loop.run();
@@ -60,7 +61,7 @@ TEST(DevelopmentBuild, SendsNothingToAServerThatNobodyNamed) {
         enrolment.start(coordinator.enrolDevice());
         desktop.loop.run();
         EXPECT_THAT(desktop.trace, ElementsAre(alert, alert));
-        EXPECT_EQ(desktop.hasKey, hasKey);
+        EXPECT_EQ(desktop.keyStore.hasKey, hasKey);
       }
     }
   }
@@ -72,9 +73,9 @@ TEST(DevelopmentBuild, LetsTheServerBeEntered) {
   MenuBarManager manager(desktop.services(), coordinator);
   manager.setupMenu();
   manager.configureServer();
-  EXPECT_THAT(desktop.menu.items,
+  EXPECT_THAT(desktop.statusItem.menu.items,
               Contains(Field(&desktop::MenuItem::title, "Server: https://quillseal.example")));
-  EXPECT_EQ(desktop.form.sections.at(0).header, "Server Configuration (development build)");
+  EXPECT_EQ(desktop.windows.form.sections.at(0).header, "Server Configuration (development build)");
 }
 
 }  // namespace

@@ -34,7 +34,10 @@ const std::string digest = "00ff10a0" + std::string(56, '3');
 class SecureEnclaveManagerTest : public ::testing::Test {
  protected:
   [[nodiscard]] SecureEnclaveManager::Services services() {
-    return {.keyStore = desktop_, .log = desktop_, .loop = desktop_.loop, .words = desktop_};
+    return {.keyStore = desktop_.keyStore,
+            .log = desktop_.log,
+            .loop = desktop_.loop,
+            .words = desktop_.words};
   }
 
   Outcome<SecureEnclaveManager::Key> create() {
@@ -73,15 +76,15 @@ TEST_F(SecureEnclaveManagerTest, TellsWhyNoKeyCouldBeMade) {
   };
   for (const auto& c : cases) {
     desktop_.trace.clear();
-    desktop_.lacksEntitlement = c.code == -34018;
-    desktop_.createFailure =
+    desktop_.keyStore.lacksEntitlement = c.code == -34018;
+    desktop_.keyStore.createFailure =
         Error({.domain = "OSStatus", .code = c.code, .description = c.platform});
     EXPECT_EQ(failureOf(create()), creationFailed + c.user);
     EXPECT_THAT(desktop_.trace, ElementsAre("log: [sign] key store failed to create the key: "
                                             "OSStatus " +
                                             std::to_string(c.code)));
   }
-  desktop_.canHoldKey = false;
+  desktop_.keyStore.canHoldKey = false;
   EXPECT_EQ(failureOf(create()), noEnclave);
 }
 
@@ -113,13 +116,13 @@ TEST_F(SecureEnclaveManagerTest, SignsTheBytesOfTheDigestWhateverItsCase) {
 }
 
 TEST_F(SecureEnclaveManagerTest, TellsWhyNothingWasSigned) {
-  desktop_.signFailure =
+  desktop_.keyStore.signFailure =
       Error({.domain = "LA", .code = -1, .description = "Fingerprints changed."});
   EXPECT_EQ(failureOf(sign(digest)), signingFailed + "Fingerprints changed.");
   EXPECT_EQ(desktop_.trace.back(), "log: [sign] key store failed to sign: LA -1");
-  desktop_.signFailure = Error({.domain = "LA", .code = -2, .description = ""});
+  desktop_.keyStore.signFailure = Error({.domain = "LA", .code = -2, .description = ""});
   EXPECT_EQ(failureOf(sign(digest)), signingFailed + "user cancelled or biometric failed");
-  desktop_.hasKey = false;
+  desktop_.keyStore.hasKey = false;
   EXPECT_EQ(failureOf(sign(digest)), noKey);
 }
 
@@ -129,7 +132,7 @@ TEST_F(SecureEnclaveManagerTest, ExportsThePublicHalf) {
     return resultOf(desktop_.loop, SecureEnclaveManager::exportPublicKey(services(), key));
   };
   EXPECT_EQ(std::get<std::string>(exported()), "BAEC");
-  desktop_.exportsKey = false;
+  desktop_.keyStore.exportsKey = false;
   EXPECT_EQ(failureOf(exported()), "Could not export the Secure Enclave public key.");
 }
 
@@ -143,7 +146,7 @@ TEST_F(SecureEnclaveManagerTest, DeletesAKeyThatMayBeGoneAlready) {
 }
 
 TEST_F(SecureEnclaveManagerTest, LeavesACancelledCreationWhatItIs) {
-  desktop_.cancelsCreation = true;
+  desktop_.keyStore.cancelsCreation = true;
   const auto isCancelled = [](SecureEnclaveManager::Services given) -> Task<bool> {
     try {
       co_await SecureEnclaveManager::createKey(given);

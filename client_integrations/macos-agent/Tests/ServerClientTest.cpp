@@ -32,7 +32,7 @@ class ServerClientTest : public ::testing::Test {
 
   /// What the server says to everything.
   void answer(int status, const std::string& body) {
-    for (auto& [path, queue] : desktop_.answers)
+    for (auto& [path, queue] : desktop_.http.answers)
       queue = {{status, body}};
   }
 
@@ -58,8 +58,10 @@ class ServerClientTest : public ::testing::Test {
   }
 
   FakeDesktop desktop_;
-  ServerClient client_{
-      {.defaults = desktop_, .http = desktop_, .machine = desktop_, .wallClock = desktop_}};
+  ServerClient client_{{.defaults = desktop_.defaults,
+                        .http = desktop_.http,
+                        .machine = desktop_.machine,
+                        .wallClock = desktop_.wallClock}};
 };
 
 TEST_F(ServerClientTest, ReadsTheSettingsAfreshAndTrimmed) {
@@ -70,17 +72,17 @@ TEST_F(ServerClientTest, ReadsTheSettingsAfreshAndTrimmed) {
   const std::string fallback(BuiltInServer::url());
   for (const Case& each : {Case{"", fallback}, Case{"   ", fallback}, Case{"\n", fallback},
                            Case{" https://a.example/ ", "https://a.example/"}}) {
-    desktop_.strings["ServerURL"] = each.setting;
+    desktop_.defaults.strings["ServerURL"] = each.setting;
     EXPECT_EQ(client_.effectiveServerURL(), each.expected);
   }
   EXPECT_EQ(client_.effectiveAPIKey(), BuiltInServer::apiKey());
-  desktop_.strings["APIKey"] = " abc ";
+  desktop_.defaults.strings["APIKey"] = " abc ";
   EXPECT_EQ(client_.effectiveAPIKey(), "abc");
 }
 
 TEST_F(ServerClientTest, MakesUpADifferentIdentifierForAMachineWithoutOne) {
-  EXPECT_EQ(client_.hardwareUUID(), *desktop_.machineUuid);
-  desktop_.machineUuid.reset();
+  EXPECT_EQ(client_.hardwareUUID(), *desktop_.machine.uuid);
+  desktop_.machine.uuid.reset();
   const std::string first = client_.hardwareUUID();
   EXPECT_THAT(first, MatchesRegex("[0-9A-F]{8}-[0-9A-F]{4}-4[0-9A-F]{3}-[89AB][0-9A-F]{3}-"
                                   "[0-9A-F]{12}"));
@@ -88,7 +90,7 @@ TEST_F(ServerClientTest, MakesUpADifferentIdentifierForAMachineWithoutOne) {
 }
 
 TEST_F(ServerClientTest, SendsEveryBodyByteForByte) {
-  desktop_.strings = {{"ServerURL", "https://a.example/"}, {"APIKey", "K"}};
+  desktop_.defaults.strings = {{"ServerURL", "https://a.example/"}, {"APIKey", "K"}};
   struct Case {
     std::string path;
     std::function<void()> call;
@@ -135,15 +137,15 @@ TEST_F(ServerClientTest, SendsEveryBodyByteForByte) {
   };
   for (const Case& each : cases) {
     desktop_.forget();
-    desktop_.answers["/" + each.path] = desktop_.answers.at(each.path);
+    desktop_.http.answers["/" + each.path] = desktop_.http.answers.at(each.path);
     each.call();
-    ASSERT_EQ(desktop_.sent.size(), 1U);
-    EXPECT_EQ(desktop_.sent[0].url, "https://a.example/" + each.path);
-    EXPECT_EQ(desktop_.sent[0].body, each.body);
+    ASSERT_EQ(desktop_.http.sent.size(), 1U);
+    EXPECT_EQ(desktop_.http.sent[0].url, "https://a.example/" + each.path);
+    EXPECT_EQ(desktop_.http.sent[0].body, each.body);
     EXPECT_EQ(
-        desktop_.sent[0].headers,
+        desktop_.http.sent[0].headers,
         (std::vector<std::pair<std::string, std::string>>{{"Content-Type", "application/json"}}));
-    EXPECT_EQ(desktop_.sent[0].timeout, std::chrono::seconds(60));
+    EXPECT_EQ(desktop_.http.sent[0].timeout, std::chrono::seconds(60));
   }
 }
 
@@ -151,9 +153,9 @@ TEST_F(ServerClientTest, WritesTheZonesOffsetInWholeMinutes) {
   const std::map<int, std::string> cases{{19800, "330"}, {20700, "345"},   {-12600, "-210"},
                                          {-59, "0"},     {-12630, "-210"}, {0, "0"}};
   for (const auto& [seconds, minutes] : cases) {
-    desktop_.zone.secondsFromGmt = seconds;
+    desktop_.wallClock.zone.secondsFromGmt = seconds;
     valueOf(client_.signContent(content()));
-    EXPECT_THAT(desktop_.sent.back().body, HasSubstr("\"tz_offset\":" + minutes + ","));
+    EXPECT_THAT(desktop_.http.sent.back().body, HasSubstr("\"tz_offset\":" + minutes + ","));
   }
 }
 
@@ -185,7 +187,7 @@ TEST_F(ServerClientTest, ShortensARefusalOfAMegabyte) {
 }
 
 TEST_F(ServerClientTest, PassesTransportErrorsOn) {
-  desktop_.sendFailure = Error({.domain = "D", .code = 7, .description = "no network"});
+  desktop_.http.failure = Error({.domain = "D", .code = 7, .description = "no network"});
   const Error failure = failureOf(client_.signContent(content()));
   EXPECT_EQ(failure.domain(), "D");
   EXPECT_EQ(failure.code(), 7);
@@ -237,7 +239,7 @@ TEST_F(ServerClientTest, SendsNothingThatIsNoText) {
   ServerClient::Content damaged = content();
   damaged.scope = "\xff";
   EXPECT_EQ(failureOf(client_.signContent(damaged)).domain(), "Quillseal");
-  EXPECT_TRUE(desktop_.sent.empty());
+  EXPECT_TRUE(desktop_.http.sent.empty());
 }
 
 }  // namespace

@@ -64,14 +64,14 @@ std::string lineOf(const desktop::FormButton& button) {
 
 class SettingsViewTest : public ::testing::Test {
  protected:
-  SettingsViewTest() { desktop_.hasKey = false; }
+  SettingsViewTest() { desktop_.keyStore.hasKey = false; }
 
   void open(Build build = Build::packaged) {
-    view_ = std::make_unique<SettingsView>(SettingsView::Services{.defaults = desktop_,
-                                                                  .keyStore = desktop_,
-                                                                  .log = desktop_,
+    view_ = std::make_unique<SettingsView>(SettingsView::Services{.defaults = desktop_.defaults,
+                                                                  .keyStore = desktop_.keyStore,
+                                                                  .log = desktop_.log,
                                                                   .loop = desktop_.loop,
-                                                                  .words = desktop_},
+                                                                  .words = desktop_.words},
                                            coordinator_, *window_, build);
     desktop_.loop.run();
   }
@@ -79,7 +79,7 @@ class SettingsViewTest : public ::testing::Test {
   /// What the window shows of a section.
   [[nodiscard]] Lines section(const std::string& header) const {
     Lines lines;
-    for (const desktop::FormSection& section : desktop_.form.sections) {
+    for (const desktop::FormSection& section : desktop_.windows.form.sections) {
       if (section.header != header) continue;
       for (const auto& row : section.rows)
         lines.push_back(std::visit([](const auto& shown) { return lineOf(shown); }, row));
@@ -92,7 +92,7 @@ class SettingsViewTest : public ::testing::Test {
   /// A copy: acting on a row may replace the form it belongs to.
   template <typename Row>
   [[nodiscard]] Row row(const std::string& label) const {
-    for (const desktop::FormSection& section : desktop_.form.sections) {
+    for (const desktop::FormSection& section : desktop_.windows.form.sections) {
       for (const auto& row : section.rows) {
         const Row* wanted = std::get_if<Row>(&row);
         if (wanted && wanted->label == label) return *wanted;
@@ -109,7 +109,7 @@ class SettingsViewTest : public ::testing::Test {
   FakeDesktop desktop_;
   SigningCoordinator coordinator_{desktop_.services()};
   std::unique_ptr<desktop::Window> window_ =
-      desktop_.make({.title = "Settings", .width = 440, .height = 200});
+      desktop_.windows.make({.title = "Settings", .width = 440, .height = 200});
   std::unique_ptr<SettingsView> view_;
 };
 
@@ -117,9 +117,9 @@ TEST_F(SettingsViewTest, OfAPackagedBuildShowsTheServerOnly) {
   open();
   EXPECT_THAT(section("Server"),
               ElementsAre("callout secondary selectable: " + std::string(BuiltInServer::url())));
-  EXPECT_EQ(desktop_.form.sections.size(), 2U);
-  EXPECT_EQ(desktop_.form.width, 460);
-  EXPECT_EQ(desktop_.form.height, 400);
+  EXPECT_EQ(desktop_.windows.form.sections.size(), 2U);
+  EXPECT_EQ(desktop_.windows.form.width, 460);
+  EXPECT_EQ(desktop_.windows.form.height, 400);
 }
 
 TEST_F(SettingsViewTest, OfADevelopmentBuildStoresWhatIsTyped) {
@@ -135,8 +135,9 @@ TEST_F(SettingsViewTest, OfADevelopmentBuildStoresWhatIsTyped) {
 
   row<desktop::FormField>(url).changed("http://localhost:1 ");
   row<desktop::FormField>(key).changed("s3cret");
-  EXPECT_EQ(desktop_.strings["ServerURL"], "http://localhost:1 ") << "while it is being typed";
-  EXPECT_EQ(desktop_.strings["APIKey"], "s3cret");
+  EXPECT_EQ(desktop_.defaults.strings["ServerURL"], "http://localhost:1 ")
+      << "while it is being typed";
+  EXPECT_EQ(desktop_.defaults.strings["APIKey"], "s3cret");
   desktop_.loop.run();
   EXPECT_THAT(section(header), ElementsAre("field " + url + " = http://localhost:1 ",
                                            "field " + key + " = s3cret (masked)", caption));
@@ -165,9 +166,9 @@ TEST_F(SettingsViewTest, TellsHowThisMachineSigns) {
        {notSetUp, attributed, "button Enrol This Mac", "caption orange: Plug it in."}},
   };
   for (const auto& c : cases) {
-    desktop_.hasKey = c.hasKey;
-    desktop_.strings["BoundIdentity"] = c.identity;
-    desktop_.keyAdvice = c.advice;
+    desktop_.keyStore.hasKey = c.hasKey;
+    desktop_.defaults.strings["BoundIdentity"] = c.identity;
+    desktop_.keyStore.keyAdvice = c.advice;
     for (const Build build : {Build::packaged, Build::development}) {
       open(build);
       EXPECT_THAT(machine(), ElementsAreArray(c.shown));
@@ -176,13 +177,13 @@ TEST_F(SettingsViewTest, TellsHowThisMachineSigns) {
 }
 
 TEST_F(SettingsViewTest, SaysWhyItCannotTellWhetherThereIsAKey) {
-  desktop_.hasKey = true;
-  desktop_.loadFailure = Error({.domain = "TPM", .code = 1, .description = "No reader."});
+  desktop_.keyStore.hasKey = true;
+  desktop_.keyStore.loadFailure = Error({.domain = "TPM", .code = 1, .description = "No reader."});
   open();
   EXPECT_THAT(machine(), ElementsAre(EndsWith("whether this Mac has a signing key: No reader."),
                                      anonymous, "button Re-enrol This Mac", reenrolling));
   EXPECT_EQ(desktop_.trace.back(), "log: [sign] key store failed to look the key up: TPM 1");
-  desktop_.loadFailure.reset();
+  desktop_.keyStore.loadFailure.reset();
   open();
   EXPECT_EQ(machine().front(), enrolled);
 }
@@ -215,31 +216,33 @@ TEST_F(SettingsViewTest, ShowsWhatAFailedEnrolmentLeft) {
   } cases[] = {
       {"refused by the server", false,
        [](FakeDesktop& d) {
-         d.answers["/api/register_native"] = {{503, R"({"error":"Closed."})"}};
+         d.http.answers["/api/register_native"] = {{503, R"({"error":"Closed."})"}};
        },
        notSetUp, "Enrol This Mac"},
-      {"no key made", false, [](FakeDesktop& d) { d.lacksEntitlement = true; }, notSetUp,
+      {"no key made", false, [](FakeDesktop& d) { d.keyStore.lacksEntitlement = true; }, notSetUp,
        "Enrol This Mac"},
-      {"no enclave", false, [](FakeDesktop& d) { d.canHoldKey = false; }, notSetUp,
+      {"no enclave", false, [](FakeDesktop& d) { d.keyStore.canHoldKey = false; }, notSetUp,
        "Enrol This Mac"},
-      {"called off", true, [](FakeDesktop& d) { d.cancelsCreation = true; }, enrolled,
+      {"called off", true, [](FakeDesktop& d) { d.keyStore.cancelsCreation = true; }, enrolled,
        "Re-enrol This Mac"},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
     FakeDesktop desktop;
-    desktop.hasKey = c.hasKey;
+    desktop.keyStore.hasKey = c.hasKey;
     c.given(desktop);
     SigningCoordinator coordinator(desktop.services());
-    const auto window = desktop.make({.title = "Settings", .width = 440, .height = 200});
-    SettingsView view({.defaults = desktop,
-                       .keyStore = desktop,
-                       .log = desktop,
+    const auto window = desktop.windows.make({.title = "Settings", .width = 440, .height = 200});
+    SettingsView view({.defaults = desktop.defaults,
+                       .keyStore = desktop.keyStore,
+                       .log = desktop.log,
                        .loop = desktop.loop,
-                       .words = desktop},
+                       .words = desktop.words},
                       coordinator, *window, Build::packaged);
     desktop.loop.run();
-    const auto row = [&](std::size_t index) { return desktop.form.sections.at(1).rows.at(index); };
+    const auto row = [&](std::size_t index) {
+      return desktop.windows.form.sections.at(1).rows.at(index);
+    };
     for (int press = 1; press <= 2; ++press) {
       std::get<desktop::FormButton>(row(2)).pressed();
       desktop.loop.run();
@@ -253,13 +256,13 @@ TEST_F(SettingsViewTest, ShowsWhatAFailedEnrolmentLeft) {
 
 TEST_F(SettingsViewTest, FollowsTheSettings) {
   open();
-  desktop_.setString("BoundIdentity", "Ada");
-  desktop_.setString("ServerURL", "https://own.example");
+  desktop_.defaults.setString("BoundIdentity", "Ada");
+  desktop_.defaults.setString("ServerURL", "https://own.example");
   desktop_.loop.run();
   EXPECT_THAT(machine(), Contains(attributed));
   EXPECT_THAT(section("Server"), Contains("callout secondary selectable: https://own.example"));
   view_.reset();
-  desktop_.setString("BoundIdentity", "");
+  desktop_.defaults.setString("BoundIdentity", "");
   desktop_.loop.run();
   EXPECT_THAT(machine(), Not(Contains(anonymous))) << "drawn by a view that is gone";
 }

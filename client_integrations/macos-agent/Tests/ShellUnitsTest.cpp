@@ -21,6 +21,7 @@ namespace {
 using desktop::MenuItem;
 using desktop::Modifiers;
 using ::testing::Contains;
+using testing::Copy;
 using ::testing::ElementsAre;
 using testing::FakeDesktop;
 using ::testing::Not;
@@ -49,13 +50,13 @@ class MenuBarManagerTest : public ::testing::Test {
 
   [[nodiscard]] Lines lines() const {
     Lines lines;
-    for (const MenuItem& item : desktop_.menu.items)
+    for (const MenuItem& item : desktop_.statusItem.menu.items)
       lines.push_back(lineOf(item));
     return lines;
   }
 
   void choose(const std::string& title) {
-    const auto& items = desktop_.menu.items;
+    const auto& items = desktop_.statusItem.menu.items;
     const auto item = std::find_if(items.begin(), items.end(),
                                    [&](const MenuItem& i) { return i.title == title; });
     ASSERT_NE(item, items.end()) << title;
@@ -71,26 +72,26 @@ class MenuBarManagerTest : public ::testing::Test {
 };
 
 TEST_F(MenuBarManagerTest, ShowsItsItemsInOrder) {
-  EXPECT_EQ(desktop_.menu.symbol, "shield.fill");
-  EXPECT_EQ(desktop_.menu.symbolDescription, "Quill Seal");
-  EXPECT_EQ(desktop_.menu.title, " 🛡\uFE0F Quillseal");
+  EXPECT_EQ(desktop_.statusItem.menu.symbol, "shield.fill");
+  EXPECT_EQ(desktop_.statusItem.menu.symbolDescription, "Quill Seal");
+  EXPECT_EQ(desktop_.statusItem.menu.title, " 🛡\uFE0F Quillseal");
   EXPECT_THAT(lines(), ElementsAre("Sign Selected Text (⌘⌥⌃H) [⌘⌥⌃h]", "---",
                                    builtInLine_ + " (label)", "Configure Server... [⌘,]", "---",
                                    "About Quill Seal", "Quit Quill Seal [⌘q]"));
-  for (const MenuItem& item : desktop_.menu.items)
+  for (const MenuItem& item : desktop_.statusItem.menu.items)
     EXPECT_EQ(static_cast<bool>(item.action), item.kind == MenuItem::Kind::action) << item.title;
 }
 
 TEST_F(MenuBarManagerTest, FollowsTheServerSetting) {
-  desktop_.setString("ServerURL", "https://own.example");
+  desktop_.defaults.setString("ServerURL", "https://own.example");
   desktop_.loop.run();
   EXPECT_THAT(lines(), Contains("Server: https://own.example (label)"));
-  desktop_.strings.erase("ServerURL");
-  desktop_.setString("Another", "setting");
+  desktop_.defaults.strings.erase("ServerURL");
+  desktop_.defaults.setString("Another", "setting");
   desktop_.loop.run();
   EXPECT_THAT(lines(), Contains(builtInLine_ + " (label)"));
   manager_.reset();
-  desktop_.setString("ServerURL", "https://late.example");
+  desktop_.defaults.setString("ServerURL", "https://late.example");
   desktop_.loop.run();
   EXPECT_THAT(lines(), Contains(builtInLine_ + " (label)")) << "changed by a manager that is gone";
 }
@@ -101,12 +102,12 @@ TEST_F(MenuBarManagerTest, OpensOneSettingsWindowHoweverOftenItIsAskedFor) {
   choose("Configure Server...");
   EXPECT_THAT(desktop_.trace, ElementsAre("window Quill Seal Server Settings", "window to front",
                                           "window to front"));
-  const std::string header = desktop_.form.sections.at(0).header;
+  const std::string header = desktop_.windows.form.sections.at(0).header;
   EXPECT_EQ(header, "Server") << "this build has a key of its own";
 }
 
 TEST_F(MenuBarManagerTest, DoesWhatItsItemsSay) {
-  desktop_.isPersonTrusting = false;
+  desktop_.keys.isPersonTrusting = false;
   const std::pair<std::string, Lines> cases[] = {
       {"Sign Selected Text (⌘⌥⌃H)", {"ask for trust"}},
       {"About Quill Seal", {"activate Quillseal", "about"}},
@@ -121,13 +122,14 @@ TEST_F(MenuBarManagerTest, DoesWhatItsItemsSay) {
 
 TEST(HotkeyManager, StartsARunPerPressAndStaysInTheBackground) {
   FakeDesktop desktop;
-  desktop.selection = FakeDesktop::Copy{.text = "Only four words here", .html = {}};
+  desktop.keys.selection = Copy{.text = "Only four words here", .html = {}};
   SigningCoordinator coordinator(desktop.services());
-  HotkeyManager manager({.alerts = desktop, .hotkey = desktop, .log = desktop}, coordinator);
+  HotkeyManager manager({.alerts = desktop.alerts, .hotkey = desktop.hotkey, .log = desktop.log},
+                        coordinator);
   manager.registerHotkey();
   EXPECT_THAT(desktop.trace, ElementsAre("hotkey ⌘⌥⌃H"));
-  desktop.hotkeyPressed();
-  desktop.hotkeyPressed();
+  desktop.hotkey.pressed();
+  desktop.hotkey.pressed();
   desktop.loop.run();
   const std::string refusal = "alert: Not signed — too short | Only 4 words. Write at least 10.";
   EXPECT_EQ(countIn(desktop.trace, refusal), 2);
@@ -136,7 +138,7 @@ TEST(HotkeyManager, StartsARunPerPressAndStaysInTheBackground) {
 
 TEST(AppDelegate, StartsInOrderAndAsksForNothing) {
   FakeDesktop desktop;
-  desktop.isPersonTrusting = false;
+  desktop.keys.isPersonTrusting = false;
   AppDelegate delegate(desktop.services());
   delegate.applicationDidFinishLaunching();
   desktop.loop.run();
@@ -145,8 +147,8 @@ TEST(AppDelegate, StartsInOrderAndAsksForNothing) {
 
 TEST(AppDelegate, StartsAlsoWhenAnotherProgramHoldsTheKeys) {
   FakeDesktop desktop;
-  desktop.hotkeyFailure = Error({.domain = "x", .code = 1, .description = "Held by another."});
-  desktop.isPersonTrusting = false;
+  desktop.hotkey.failure = Error({.domain = "x", .code = 1, .description = "Held by another."});
+  desktop.keys.isPersonTrusting = false;
   AppDelegate delegate(desktop.services());
   delegate.applicationDidFinishLaunching();
   delegate.menuBarManager().signText();
@@ -159,11 +161,11 @@ TEST(AppDelegate, StartsAlsoWhenAnotherProgramHoldsTheKeys) {
 
 TEST(AppDelegate, SharesOneCoordinatorBetweenMenuAndHotkey) {
   FakeDesktop desktop;
-  desktop.hasKey = false;
+  desktop.keyStore.hasKey = false;
   AppDelegate delegate(desktop.services());
   delegate.applicationDidFinishLaunching();
   delegate.menuBarManager().signText();
-  desktop.hotkeyPressed();
+  desktop.hotkey.pressed();
   desktop.loop.run();
   EXPECT_EQ(countIn(desktop.trace, "create key"), 1);
 }
@@ -174,11 +176,11 @@ TEST(AppDelegate, LeavesNothingBehindWhenTheProgramEnds) {
     AppDelegate delegate(desktop.services());
     delegate.applicationDidFinishLaunching();
     delegate.menuBarManager().configureServer();
-    desktop.hotkeyPressed();
+    desktop.hotkey.pressed();
     desktop.loop.step();
   }
   desktop.trace.clear();
-  desktop.setString("ServerURL", "https://late.example");
+  desktop.defaults.setString("ServerURL", "https://late.example");
   desktop.loop.run();
   EXPECT_THAT(desktop.trace, ElementsAre("set ServerURL = https://late.example"));
 }

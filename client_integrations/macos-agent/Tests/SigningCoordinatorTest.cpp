@@ -25,6 +25,7 @@ namespace {
 using namespace std::chrono_literals;
 using ::testing::AnyOf;
 using ::testing::Contains;
+using testing::Copy;
 using ::testing::ElementsAre;
 using ::testing::EndsWith;
 using testing::FakeDesktop;
@@ -54,15 +55,15 @@ const desktop::InstalledApplication chromeInstalled{.location = "Chrome.app",
                                                     .bundleIdentifier = "com.google.Chrome"};
 
 bool wroteBlock(const FakeDesktop& desktop) {
-  return desktop.clipboard.text && desktop.clipboard.text->starts_with("『");
+  return desktop.pasteboard.clipboard.text && desktop.pasteboard.clipboard.text->starts_with("『");
 }
 
 class SigningCoordinatorTest : public ::testing::Test {
  protected:
   SigningCoordinatorTest() {
-    desktop_.front = desktop_.active = mail;
-    desktop_.selection = FakeDesktop::Copy{.text = "\n" + text + "\n", .html = {}};
-    desktop_.defaultBrowser = chromeInstalled;
+    desktop_.applications.front = desktop_.applications.active = mail;
+    desktop_.keys.selection = Copy{.text = "\n" + text + "\n", .html = {}};
+    desktop_.applications.defaultBrowser = chromeInstalled;
   }
 
   /// Whoever wants to read a story as it went asks for it through the environment.
@@ -80,8 +81,8 @@ class SigningCoordinatorTest : public ::testing::Test {
   }
 
   void signInBrowser() {
-    desktop_.hasKey = false;
-    desktop_.strings["SigningMode"] = "handoff";
+    desktop_.keyStore.hasKey = false;
+    desktop_.defaults.strings["SigningMode"] = "handoff";
     sign();
   }
 
@@ -92,7 +93,7 @@ class SigningCoordinatorTest : public ::testing::Test {
 
 TEST_F(SigningCoordinatorTest, SignsWithTheDeviceKey) {
   const std::string digest = CryptoManager::sha256Hex(CryptoManager::normalizeText(text));
-  desktop_.strings["BoundIdentity"] = "Ada";
+  desktop_.defaults.strings["BoundIdentity"] = "Ada";
   sign();
   EXPECT_THAT(desktop_.trace,
               ElementsAre("press ⌘C",
@@ -101,11 +102,12 @@ TEST_F(SigningCoordinatorTest, SignsWithTheDeviceKey) {
                           "log: [sign] 18 words / 70 normalized characters / digest " + digest,
                           "prompt: Sign " + subject + " as Ada", "POST /api/sign_native",
                           "write clipboard", "press ⌘V", notification));
-  EXPECT_THAT(*desktop_.clipboard.text, StartsWith("『" + text + "』\n\n"));
-  EXPECT_THAT(*desktop_.clipboard.text, HasSubstr("· Email Message (Mail) · 1 March 2026\n"));
-  EXPECT_THAT(*desktop_.clipboard.text, EndsWith("/verify/sig-1"));
+  EXPECT_THAT(*desktop_.pasteboard.clipboard.text, StartsWith("『" + text + "』\n\n"));
+  EXPECT_THAT(*desktop_.pasteboard.clipboard.text,
+              HasSubstr("· Email Message (Mail) · 1 March 2026\n"));
+  EXPECT_THAT(*desktop_.pasteboard.clipboard.text, EndsWith("/verify/sig-1"));
 
-  const std::string body = desktop_.sentTo("/api/sign_native").front();
+  const std::string body = desktop_.http.sentTo("/api/sign_native").front();
   const std::size_t nonce = body.find("\"nonce\":\"") + 9;
   const std::string payload =
       CryptoManager::canonicalV3({.textDigest = digest,
@@ -122,20 +124,20 @@ TEST_F(SigningCoordinatorTest, SignsWithTheDeviceKey) {
 }
 
 TEST_F(SigningCoordinatorTest, MakesADemonstrationRecord) {
-  desktop_.flags = {"DemoSigning"};
+  desktop_.defaults.flags = {"DemoSigning"};
   sign();
   EXPECT_THAT(desktop_.userTrace(),
               ElementsAre("press ⌘C", "presence: Sign " + subject, "POST /api/sign_demo",
                           "write clipboard", "press ⌘V", notification));
   EXPECT_THAT(desktop_.trace,
               Contains("log: [demo] simulated signature demo-1 — not evidence of anything"));
-  EXPECT_THAT(desktop_.sentTo("/api/sign_demo").front(), HasSubstr("\"method\":\"Touch ID\""));
+  EXPECT_THAT(desktop_.http.sentTo("/api/sign_demo").front(), HasSubstr("\"method\":\"Touch ID\""));
 }
 
 TEST_F(SigningCoordinatorTest, SignsInTheBrowserAndPastesElsewhere) {
   // Long enough to be on the heap, where a string that is destroyed twice does harm.
   const std::string html = "<p>x</p><p>long enough</p>";
-  desktop_.selection->html = html;
+  desktop_.keys.selection->html = html;
   signInBrowser();
   EXPECT_THAT(desktop_.userTrace(),
               ElementsAre("press ⌘C", "POST /api/handoff/create",
@@ -144,12 +146,12 @@ TEST_F(SigningCoordinatorTest, SignsInTheBrowserAndPastesElsewhere) {
                           "POST /api/handoff/poll", "POST /api/handoff/poll", "write clipboard",
                           "press ⌘V", notification));
   EXPECT_THAT(desktop_.trace, Contains("log: [handoff] fragment 156 chars (text 87, html 26)"));
-  EXPECT_THAT(*desktop_.clipboard.html, HasSubstr("</span>" + html + "<span"));
+  EXPECT_THAT(*desktop_.pasteboard.clipboard.html, HasSubstr("</span>" + html + "<span"));
 }
 
 TEST_F(SigningCoordinatorTest, ReturnsToTheTabTheTextCameFrom) {
-  desktop_.front = desktop_.active = chromeRunning;
-  desktop_.scriptResults = {std::optional<std::string>("42"), std::optional<std::string>("true")};
+  desktop_.applications.front = desktop_.applications.active = chromeRunning;
+  desktop_.scripts.results = {std::optional<std::string>("42"), std::optional<std::string>("true")};
   signInBrowser();
   EXPECT_THAT(desktop_.trace,
               Contains("script: tell application \"Google Chrome\" to return id of active tab of "
@@ -163,9 +165,10 @@ TEST_F(SigningCoordinatorTest, ReturnsToTheTabTheTextCameFrom) {
 }
 
 TEST_F(SigningCoordinatorTest, LeavesTheBlockOnTheClipboardWhenTheTabIsLost) {
-  desktop_.front = desktop_.active = chromeRunning;
-  desktop_.scriptResults = {Error({.domain = "AS", .code = -1743, .description = "Not authorised"}),
-                            std::optional<std::string>("false")};
+  desktop_.applications.front = desktop_.applications.active = chromeRunning;
+  desktop_.scripts.results = {
+      Error({.domain = "AS", .code = -1743, .description = "Not authorised"}),
+      std::optional<std::string>("false")};
   signInBrowser();
   EXPECT_THAT(desktop_.trace, Contains("log: [tabreturn] AppleScript failed: Not authorised"));
   EXPECT_EQ(desktop_.trace.back(),
@@ -178,28 +181,28 @@ TEST_F(SigningCoordinatorTest, LeavesTheBlockOnTheClipboardWhenTheTabIsLost) {
 }
 
 TEST_F(SigningCoordinatorTest, StopsWaitingForTheBrowser) {
-  desktop_.answers["/api/handoff/poll"] = {{200, R"({"status":"complete"})"}};
+  desktop_.http.answers["/api/handoff/poll"] = {{200, R"({"status":"complete"})"}};
   signInBrowser();
   EXPECT_THAT(desktop_.trace.back(),
               StartsWith("alert: Still Waiting | Quillseal stopped waiting"));
-  EXPECT_EQ(desktop_.sentTo("/api/handoff/poll").size(), 285U);
+  EXPECT_EQ(desktop_.http.sentTo("/api/handoff/poll").size(), 285U);
   EXPECT_GE(desktop_.loop.elapsed(), 570s);
   EXPECT_FALSE(wroteBlock(desktop_));
 }
 
 TEST_F(SigningCoordinatorTest, OpensWhicheverBrowserThereIs) {
-  desktop_.chrome =
+  desktop_.applications.chrome =
       desktop::InstalledApplication{.location = "Preferred.app", .bundleIdentifier = {}};
-  desktop_.browserOpens = false;
+  desktop_.applications.browserOpens = false;
   signInBrowser();
   EXPECT_THAT(desktop_.trace, Contains(EndsWith(" with Preferred.app")));
   EXPECT_THAT(desktop_.trace,
               Contains("open https://seal.example/handoff?h=H1#t=" + base64Url(text)));
-  desktop_.anyBrowserOpens = false;
+  desktop_.applications.anyBrowserOpens = false;
   signInBrowser();
   EXPECT_EQ(desktop_.trace.back(), "alert: Signing Error | There is no browser.");
-  desktop_.anyBrowserOpens = true;
-  desktop_.chrome = desktop_.defaultBrowser = std::nullopt;
+  desktop_.applications.anyBrowserOpens = true;
+  desktop_.applications.chrome = desktop_.applications.defaultBrowser = std::nullopt;
   desktop_.trace.clear();
   signInBrowser();
   EXPECT_THAT(desktop_.trace,
@@ -214,65 +217,68 @@ struct EarlyStop {
 
 TEST_F(SigningCoordinatorTest, StopsEarlyAndTellsWhy) {
   const EarlyStop cases[] = {
-      {"no trust", [](FakeDesktop& d) { d.isPersonTrusting = false; }, "ask for trust"},
-      {"no enclave", [](FakeDesktop& d) { d.canHoldKey = false; },
+      {"no trust", [](FakeDesktop& d) { d.keys.isPersonTrusting = false; }, "ask for trust"},
+      {"no enclave", [](FakeDesktop& d) { d.keyStore.canHoldKey = false; },
        "alert: Secure Enclave Required | This Mac has no Secure Enclave, so content cannot be "
        "signed in a way that proves a person authorized it."},
-      {"no text", [](FakeDesktop& d) { d.selection = std::nullopt; },
+      {"no text", [](FakeDesktop& d) { d.keys.selection = std::nullopt; },
        "alert: No Text Found | Please type or highlight some text in Outlook (or any app) before "
        "pressing ⌘⌥⌃H."},
-      {"secret", [](FakeDesktop& d) { d.selection->isConcealed = true; },
+      {"secret", [](FakeDesktop& d) { d.keys.selection->isConcealed = true; },
        "alert: No Text Found | Please type or highlight some text in Outlook (or any app) before "
        "pressing ⌘⌥⌃H."},
-      {"too short", [](FakeDesktop& d) { d.selection->text = "Only four words here"; },
+      {"too short", [](FakeDesktop& d) { d.keys.selection->text = "Only four words here"; },
        "alert: Not signed — too short | Only 4 words. Write at least 10."},
-      {"cancelled confirmation", [](FakeDesktop& d) { d.flags = {"ConfirmBeforeSigning"}; },
+      {"cancelled confirmation",
+       [](FakeDesktop& d) { d.defaults.flags = {"ConfirmBeforeSigning"}; },
        "confirm: Sign this content? [Sign with Touch ID] [Cancel], preset Email Message (Apple "
        "Mail)"},
-      {"refused by the key", [](FakeDesktop& d) { d.signFailure = Error(Error::Fields{}); },
+      {"refused by the key",
+       [](FakeDesktop& d) { d.keyStore.signFailure = Error(Error::Fields{}); },
        "alert: Signing Error | Secure Enclave signing failed: user cancelled or biometric failed"},
       {"refused by the server",
        [](FakeDesktop& d) {
-         d.answers["/api/sign_native"] = {{403, R"({"error":"No."})"}};
+         d.http.answers["/api/sign_native"] = {{403, R"({"error":"No."})"}};
        },
        "alert: Signing Error | No."},
       {"unreadable key store",
        [](FakeDesktop& d) {
-         d.loadFailure =
+         d.keyStore.loadFailure =
              Error({.domain = "OSStatus", .code = -25291, .description = "No keychain."});
        },
        "alert: Signing Error | No keychain."},
       {"cancelled key creation",
        [](FakeDesktop& d) {
-         d.hasKey = false;
-         d.cancelsCreation = true;
+         d.keyStore.hasKey = false;
+         d.keyStore.cancelsCreation = true;
        },
        "log: [sign] called off by the user"},
       {"demonstration without presence",
        [](FakeDesktop& d) {
-         d.flags = {"DemoSigning"};
-         d.presence = false;
+         d.defaults.flags = {"DemoSigning"};
+         d.presence.outcome = false;
        },
        "presence: Sign " + subject},
       {"demonstration called off",
        [](FakeDesktop& d) {
-         d.flags = {"DemoSigning"};
-         d.presence = Error({.domain = "LA", .code = -2, .description = "Canceled by user."});
+         d.defaults.flags = {"DemoSigning"};
+         d.presence.outcome =
+             Error({.domain = "LA", .code = -2, .description = "Canceled by user."});
        },
        "alert: Signing Error | Canceled by user."},
       {"expired in the browser",
        [](FakeDesktop& d) {
-         d.strings["SigningMode"] = "handoff";
-         d.hasKey = false;
-         d.answers["/api/handoff/poll"] = {{200, R"({"status":"expired"})"}};
+         d.defaults.strings["SigningMode"] = "handoff";
+         d.keyStore.hasKey = false;
+         d.http.answers["/api/handoff/poll"] = {{200, R"({"status":"expired"})"}};
        },
        "alert: Signing Request Expired | The request timed out before it was signed. Nothing was "
        "signed. Select your text and press ⌘⌥⌃H again."},
   };
   for (const EarlyStop& c : cases) {
     FakeDesktop desktop;
-    desktop.front = desktop.active = mail;
-    desktop.selection = FakeDesktop::Copy{.text = text, .html = {}};
+    desktop.applications.front = desktop.applications.active = mail;
+    desktop.keys.selection = Copy{.text = text, .html = {}};
     c.given(desktop);
     SigningCoordinator coordinator(desktop.services());
     coordinator.startSigning();
@@ -280,24 +286,24 @@ TEST_F(SigningCoordinatorTest, StopsEarlyAndTellsWhy) {
     EXPECT_EQ(desktop.trace.back(), c.lastLine) << c.name;
     EXPECT_THAT(desktop.trace, Not(Contains("write clipboard"))) << c.name;
     EXPECT_THAT(desktop.trace, Not(Contains(AnyOf("create key", "delete key")))) << c.name;
-    EXPECT_EQ(desktop.activities, 0) << c.name;
+    EXPECT_EQ(desktop.program.activities, 0) << c.name;
   }
 }
 
 TEST_F(SigningCoordinatorTest, KeepsTheSystemFromSlowingItDownForTheLengthOfARun) {
-  desktop_.flags = {"ConfirmBeforeSigning"};
-  desktop_.leavesDialogsOpen = true;
+  desktop_.defaults.flags = {"ConfirmBeforeSigning"};
+  desktop_.alerts.leavesDialogsOpen = true;
   sign();
   sign();
-  EXPECT_EQ(desktop_.activities, 2);
+  EXPECT_EQ(desktop_.program.activities, 2);
   coordinator_.reset();
-  EXPECT_EQ(desktop_.activities, 0);
+  EXPECT_EQ(desktop_.program.activities, 0);
 }
 
 TEST_F(SigningCoordinatorTest, LogsWhatMayHaveKeptTheTextFromIt) {
-  desktop_.selection.reset();
-  desktop_.keyObstacle = "secure input is on";
-  desktop_.clipboardObstacle = "access is denied";
+  desktop_.keys.selection.reset();
+  desktop_.keys.heldUpBy = "secure input is on";
+  desktop_.pasteboard.obstacle = "access is denied";
   sign();
   EXPECT_THAT(desktop_.trace,
               Contains("log: [capture] key presses are held up: secure input is on"));
@@ -306,29 +312,29 @@ TEST_F(SigningCoordinatorTest, LogsWhatMayHaveKeptTheTextFromIt) {
 }
 
 TEST_F(SigningCoordinatorTest, SelectsNothingMoreWhenTheCopyMayNotBeRead) {
-  desktop_.selection->text.reset();
-  desktop_.clipboardObstacle = "the user is asked each time";
+  desktop_.keys.selection->text.reset();
+  desktop_.pasteboard.obstacle = "the user is asked each time";
   sign();
   EXPECT_THAT(desktop_.trace, Not(Contains("press ⌘A")));
   EXPECT_THAT(desktop_.trace.back(), StartsWith("alert: No Text Found"));
 }
 
 TEST_F(SigningCoordinatorTest, ScreensTheText) {
-  desktop_.selection->text =
+  desktop_.keys.selection->text =
       "Please wire the money to the new account today, IBAN DE89 3704 0044 0532 0130 00, thank "
       "you.";
   sign();
   EXPECT_THAT(desktop_.trace, Contains(StartsWith("log: [risk] score ")));
   EXPECT_THAT(desktop_.trace.back(), StartsWith("alert: Not signed"));
 
-  desktop_.selection->text =
+  desktop_.keys.selection->text =
       "Our bank details have changed since the last order of 40 chairs; ask Grace about the rest.";
-  desktop_.answer = desktop::Answer::cancelled;
+  desktop_.alerts.answer = desktop::Answer::cancelled;
   sign();
   EXPECT_THAT(desktop_.trace.back(), StartsWith("ask: Sign this anyway? | •  "));
   EXPECT_THAT(desktop_.trace.back(),
               EndsWith("Signing says YOU wrote this. [Sign Anyway] [Cancel]"));
-  desktop_.answer = desktop::Answer::confirmed;
+  desktop_.alerts.answer = desktop::Answer::confirmed;
   sign();
   EXPECT_EQ(desktop_.trace.back(), notification);
 }
@@ -342,7 +348,7 @@ TEST_F(SigningCoordinatorTest, ScreensTheTextAsItIsReadUnlessItIsRefusedAsItIsWr
     return std::count_if(desktop_.trace.begin(), desktop_.trace.end(), isRiskLine);
   };
 
-  desktop_.selection->text = "I ap\u200Bprove the pay\u200Bment" + harmless;
+  desktop_.keys.selection->text = "I ap\u200Bprove the pay\u200Bment" + harmless;
   sign();
   EXPECT_THAT(desktop_.trace, Contains("log: [risk] score 100, 1 finding(s): pay-authorise-noun"));
   EXPECT_EQ(riskLines(), 1);
@@ -352,16 +358,16 @@ TEST_F(SigningCoordinatorTest, ScreensTheTextAsItIsReadUnlessItIsRefusedAsItIsWr
 
   // Refused as it is written: there is nothing more to ask.
   desktop_.trace.clear();
-  desktop_.selection->text =
+  desktop_.keys.selection->text =
       "I approve the payment" + harmless + " Con\u200Bfirm your pass\u200Bword.";
   sign();
   EXPECT_EQ(riskLines(), 1);
 
   // Both lines, and the question of the stronger.
   desktop_.trace.clear();
-  desktop_.selection->text =
+  desktop_.keys.selection->text =
       "Our b\u200Bank details have changed, see http://192.168.4.7/a today" + harmless;
-  desktop_.answer = desktop::Answer::cancelled;
+  desktop_.alerts.answer = desktop::Answer::cancelled;
   sign();
   EXPECT_THAT(desktop_.trace, Contains("log: [risk] score 45, 1 finding(s): url-ip-literal"));
   EXPECT_EQ(riskLines(), 2);
@@ -369,13 +375,14 @@ TEST_F(SigningCoordinatorTest, ScreensTheTextAsItIsReadUnlessItIsRefusedAsItIsWr
 }
 
 TEST_F(SigningCoordinatorTest, SignsTheScopeThatWasConfirmed) {
-  desktop_.flags = {"ConfirmBeforeSigning"};
-  desktop_.confirmation =
+  desktop_.defaults.flags = {"ConfirmBeforeSigning"};
+  desktop_.alerts.confirmation =
       desktop::ConfirmationEntry{.choice = "LinkedIn Post", .field = " Ada\xFF "};
   sign();
-  EXPECT_THAT(desktop_.sentTo("/api/sign_native").front(),
+  EXPECT_THAT(desktop_.http.sentTo("/api/sign_native").front(),
               HasSubstr("\"scope\":\"LinkedIn Post → Ada\uFFFD\""));
-  EXPECT_THAT(*desktop_.clipboard.text, HasSubstr("· LinkedIn Post → Ada\uFFFD · 1 March 2026"));
+  EXPECT_THAT(*desktop_.pasteboard.clipboard.text,
+              HasSubstr("· LinkedIn Post → Ada\uFFFD · 1 March 2026"));
 }
 
 TEST_F(SigningCoordinatorTest, RefusesIdentifiersThatCouldBreakOut) {
@@ -383,11 +390,11 @@ TEST_F(SigningCoordinatorTest, RefusesIdentifiersThatCouldBreakOut) {
       R"(x\" onclick=\"y)",       R"(a\u0000b)", "<b>", R"(a\\b)", "a b", "", "a\u202Eb",
       std::string(1'000'000, 'a')};
   for (const std::string& id : sayings) {
-    desktop_.hasKey = true;
-    desktop_.answers["/api/sign_native"] = {{200, R"({"signature_id":")" + id + "\"}"}};
+    desktop_.keyStore.hasKey = true;
+    desktop_.http.answers["/api/sign_native"] = {{200, R"({"signature_id":")" + id + "\"}"}};
     sign();
     EXPECT_THAT(desktop_.trace.back(), StartsWith("alert: Signing Error | The server answered"));
-    desktop_.answers["/api/handoff/create"] = {
+    desktop_.http.answers["/api/handoff/create"] = {
         {200, R"({"url":"https://s/h","handoff_id":")" + id + "\"}"}};
     signInBrowser();
     EXPECT_THAT(desktop_.trace.back(), StartsWith("alert: Signing Error | The server answered"));
@@ -399,7 +406,8 @@ TEST_F(SigningCoordinatorTest, RefusesIdentifiersThatCouldBreakOut) {
 TEST_F(SigningCoordinatorTest, RefusesASigningPageThatIsNone) {
   for (const std::string& url :
        {std::string("javascript:alert(1)"), "https://s/" + std::string(1'000'000, 'a')}) {
-    desktop_.answers["/api/handoff/create"] = {{200, R"({"handoff_id":"H","url":")" + url + "\"}"}};
+    desktop_.http.answers["/api/handoff/create"] = {
+        {200, R"({"handoff_id":"H","url":")" + url + "\"}"}};
     signInBrowser();
     EXPECT_EQ(desktop_.trace.back(), "alert: Signing Error | Could not build the signing URL.");
   }
@@ -407,44 +415,44 @@ TEST_F(SigningCoordinatorTest, RefusesASigningPageThatIsNone) {
 }
 
 TEST_F(SigningCoordinatorTest, BindsNoNameOfAMegabyte) {
-  desktop_.strings["BoundIdentity"] = "Ada";
-  desktop_.hasKey = false;
-  desktop_.strings["SigningMode"] = "enclave";
-  desktop_.answers["/api/register_native"] = {
+  desktop_.defaults.strings["BoundIdentity"] = "Ada";
+  desktop_.keyStore.hasKey = false;
+  desktop_.defaults.strings["SigningMode"] = "enclave";
+  desktop_.http.answers["/api/register_native"] = {
       {200,
        R"({"status":"ok","device_id":"D","identity":")" + std::string(1'000'000, 'a') + "\"}"}};
   sign();
   EXPECT_THAT(desktop_.trace.back(), StartsWith("alert: Could Not Set Up This Mac | "));
   EXPECT_THAT(desktop_.trace.back(), HasSubstr("a name that is too long to be one. Check"));
-  EXPECT_EQ(desktop_.strings["BoundIdentity"], "Ada");
-  EXPECT_FALSE(desktop_.hasKey);
+  EXPECT_EQ(desktop_.defaults.strings["BoundIdentity"], "Ada");
+  EXPECT_FALSE(desktop_.keyStore.hasKey);
 }
 
 TEST_F(SigningCoordinatorTest, BindsNoNameThatCouldPassForAnother) {
-  desktop_.strings["BoundIdentity"] = "Ada";
-  desktop_.strings["SigningMode"] = "enclave";
+  desktop_.defaults.strings["BoundIdentity"] = "Ada";
+  desktop_.defaults.strings["SigningMode"] = "enclave";
   for (const char* name : {R"(Ada\u202Eecarg)", R"(Ada\nSigning as: Grace)", R"(\u200B)", "  "}) {
-    desktop_.hasKey = false;
-    desktop_.answers["/api/register_native"] = {
+    desktop_.keyStore.hasKey = false;
+    desktop_.http.answers["/api/register_native"] = {
         {200, R"({"status":"ok","device_id":"D","identity":")" + std::string(name) + "\"}"}};
     sign();
     EXPECT_THAT(desktop_.trace.back(),
                 AllOf(StartsWith("alert: Could Not Set Up This Mac | "),
                       HasSubstr("a name that holds invisible characters"), HasSubstr("‹U+")));
-    EXPECT_EQ(desktop_.strings["BoundIdentity"], "Ada");
-    EXPECT_FALSE(desktop_.hasKey);
+    EXPECT_EQ(desktop_.defaults.strings["BoundIdentity"], "Ada");
+    EXPECT_FALSE(desktop_.keyStore.hasKey);
   }
 }
 
 TEST_F(SigningCoordinatorTest, SpellsOutAStoredNameButSignsItsBytes) {
   const std::string name = "Ada\u202E\nDate: 1 May";
   const std::string shown = "Ada‹U+202E›‹U+000A›Date: 1 May";
-  desktop_.strings["BoundIdentity"] = name;
-  desktop_.flags = {"ConfirmBeforeSigning"};
-  desktop_.confirmation = desktop::ConfirmationEntry{.choice = "LinkedIn Post", .field = ""};
+  desktop_.defaults.strings["BoundIdentity"] = name;
+  desktop_.defaults.flags = {"ConfirmBeforeSigning"};
+  desktop_.alerts.confirmation = desktop::ConfirmationEntry{.choice = "LinkedIn Post", .field = ""};
   sign();
   EXPECT_THAT(desktop_.trace, Contains("prompt: Sign " + subject + " as " + shown));
-  const std::string body = desktop_.sentTo("/api/sign_native").front();
+  const std::string body = desktop_.http.sentTo("/api/sign_native").front();
   const std::string digest = CryptoManager::sha256Hex(CryptoManager::normalizeText(text));
   const std::string payload = CryptoManager::canonicalV3(
       {.textDigest = digest,
@@ -460,8 +468,8 @@ TEST_F(SigningCoordinatorTest, SpellsOutAStoredNameButSignsItsBytes) {
 }
 
 TEST_F(SigningCoordinatorTest, TurnsAwayWhatItCannotKeepUpWith) {
-  desktop_.leavesDialogsOpen = true;
-  desktop_.selection->text = "Too short.";
+  desktop_.alerts.leavesDialogsOpen = true;
+  desktop_.keys.selection->text = "Too short.";
   const auto count = [this](const std::string& start) {
     return std::ranges::count_if(desktop_.trace,
                                  [&](const std::string& line) { return line.starts_with(start); });
@@ -477,7 +485,7 @@ TEST_F(SigningCoordinatorTest, TurnsAwayWhatItCannotKeepUpWith) {
   // Once some have ended there is room, and the next time is told anew.
   desktop_.forget();
   coordinator_ = std::make_unique<SigningCoordinator>(desktop_.services());
-  desktop_.leavesDialogsOpen = false;
+  desktop_.alerts.leavesDialogsOpen = false;
   for (int round = 0; round < 2; ++round) {
     for (int call = 0; call < 40; ++call)
       coordinator_->startSigning();
@@ -488,7 +496,7 @@ TEST_F(SigningCoordinatorTest, TurnsAwayWhatItCannotKeepUpWith) {
 }
 
 TEST_F(SigningCoordinatorTest, LeavesLongHtmlOutOfTheSigningPage) {
-  desktop_.selection->html = std::string(5'000'000, 'a');
+  desktop_.keys.selection->html = std::string(5'000'000, 'a');
   signInBrowser();
   EXPECT_THAT(desktop_.trace,
               Contains("log: [handoff] formatting omitted: 6666667 encoded chars exceeds the 60000 "
@@ -499,62 +507,61 @@ TEST_F(SigningCoordinatorTest, LeavesLongHtmlOutOfTheSigningPage) {
 // Capture -----------------------------------------------------------------------------------------
 
 TEST_F(SigningCoordinatorTest, SelectsAllWhenOnlyBlanksAreCopied) {
-  desktop_.selection->text = " \n\u00A0";
-  desktop_.everything = FakeDesktop::Copy{.text = text, .html = {}};
+  desktop_.keys.selection->text = " \n\u00A0";
+  desktop_.keys.everything = Copy{.text = text, .html = {}};
   sign();
   EXPECT_THAT(desktop_.trace, Contains("log: [capture] no selection; selecting all"));
   EXPECT_THAT(desktop_.userTrace(), ::testing::IsSupersetOf({"press ⌘A", notification.c_str()}));
 }
 
 TEST_F(SigningCoordinatorTest, TakesTheLastOfTwoQuickChanges) {
-  desktop_.secondThought = FakeDesktop::Copy{.text = text + " Indeed.", .html = {}};
+  desktop_.keys.secondThought = Copy{.text = text + " Indeed.", .html = {}};
   sign();
-  EXPECT_THAT(*desktop_.clipboard.text, StartsWith("『" + text + " Indeed.』"));
+  EXPECT_THAT(*desktop_.pasteboard.clipboard.text, StartsWith("『" + text + " Indeed.』"));
 }
 
 TEST_F(SigningCoordinatorTest, NoticesACopyAtOnceOnlyWhereTheDesktopTells) {
   sign();
   const auto told = desktop_.loop.elapsed();
-  desktop_.tellsOfClipboardChanges = false;
+  desktop_.pasteboard.tellsOfChanges = false;
   sign();
   const auto polled = desktop_.loop.elapsed() - told;
   EXPECT_EQ(polled - told, 20ms);  // the copy comes after 40 ms, and every 30 ms somebody looks
 }
 
 TEST_F(SigningCoordinatorTest, TakesACopyThatComesWithTheLastLook) {
-  desktop_.copyTime = 1190ms;
-  desktop_.tellsOfClipboardChanges = false;
-  desktop_.everything =
-      FakeDesktop::Copy{.text = text + " And nobody else's business.", .html = {}};
+  desktop_.keys.copyTime = 1190ms;
+  desktop_.pasteboard.tellsOfChanges = false;
+  desktop_.keys.everything = Copy{.text = text + " And nobody else's business.", .html = {}};
   sign();
-  EXPECT_THAT(*desktop_.clipboard.text, StartsWith("『" + text + "』"));
+  EXPECT_THAT(*desktop_.pasteboard.clipboard.text, StartsWith("『" + text + "』"));
 }
 
 TEST_F(SigningCoordinatorTest, TakesNothingThatWasCopiedBeforeItPressedTheKeys) {
-  desktop_.copiedElsewhere = FakeDesktop::Copy{.text = text + " So says another.", .html = {}};
-  desktop_.fingersLeave = 300ms;
-  desktop_.selection = std::nullopt;
+  desktop_.keys.copiedElsewhere = Copy{.text = text + " So says another.", .html = {}};
+  desktop_.keys.fingersLeave = 300ms;
+  desktop_.keys.selection = std::nullopt;
   sign();
   EXPECT_THAT(desktop_.trace.back(), StartsWith("alert: No Text Found"));
 }
 
 TEST_F(SigningCoordinatorTest, MendsIllFormedTextOnce) {
-  desktop_.selection = FakeDesktop::Copy{.text = text + "\xC3", .html = "<p>\xFF</p>"};
+  desktop_.keys.selection = Copy{.text = text + "\xC3", .html = "<p>\xFF</p>"};
   sign();
-  EXPECT_THAT(*desktop_.clipboard.text, StartsWith("『" + text + "\uFFFD』"));
-  EXPECT_THAT(*desktop_.clipboard.html, HasSubstr("<p>\uFFFD</p>"));
+  EXPECT_THAT(*desktop_.pasteboard.clipboard.text, StartsWith("『" + text + "\uFFFD』"));
+  EXPECT_THAT(*desktop_.pasteboard.clipboard.html, HasSubstr("<p>\uFFFD</p>"));
 }
 
 TEST_F(SigningCoordinatorTest, BringsTheSourceBackBeforeItPastes) {
-  desktop_.active = chromeRunning;
+  desktop_.applications.active = chromeRunning;
   sign();
   EXPECT_THAT(desktop_.userTrace(),
               ::testing::IsSupersetOf({"write clipboard", "activate Mail", "press ⌘V"}));
-  EXPECT_THAT(desktop_.pastedInto, ElementsAre("Mail"));
-  desktop_.front = std::nullopt;
+  EXPECT_THAT(desktop_.keys.pastedInto, ElementsAre("Mail"));
+  desktop_.applications.front = std::nullopt;
   desktop_.trace.clear();
   sign();
-  EXPECT_THAT(*desktop_.clipboard.text, HasSubstr("QUILLSEAL · Public Broadcast · "));
+  EXPECT_THAT(*desktop_.pasteboard.clipboard.text, HasSubstr("QUILLSEAL · Public Broadcast · "));
   EXPECT_THAT(desktop_.trace, Not(Contains("activate Mail")));
 }
 
@@ -566,15 +573,16 @@ struct Interference {
 
 TEST_F(SigningCoordinatorTest, PastesNowhereElse) {
   const Interference cases[] = {
-      {"closed", [](FakeDesktop& d) { d.ended = {mail.instance}; },
+      {"closed", [](FakeDesktop& d) { d.applications.ended = {mail.instance}; },
        "Open your message again in Mail, select the text you signed, and press ⌘V.\n\nQuillseal "
        "did not paste it for you: the window that you signed in is closed."},
-      {"switched", [](FakeDesktop& d) { d.front = d.active = chromeRunning; },
+      {"switched",
+       [](FakeDesktop& d) { d.applications.front = d.applications.active = chromeRunning; },
        "Switch back to your message in Mail, select the text you signed, and press "
        "⌘V.\n\nQuillseal "
        "did not paste it for you: another window is in front, so it would land in the wrong "
        "place."},
-      {"another document", [](FakeDesktop& d) { d.active->document = "Re: Rent"; },
+      {"another document", [](FakeDesktop& d) { d.applications.active->document = "Re: Rent"; },
        "Switch back to your message in Mail, select the text you signed, and press "
        "⌘V.\n\nQuillseal "
        "did not paste it for you: the window shows another document or tab than the one you signed "
@@ -583,11 +591,11 @@ TEST_F(SigningCoordinatorTest, PastesNowhereElse) {
   for (const Interference& c : cases) {
     for (const char* mode : {"enclave", "handoff"}) {
       FakeDesktop desktop;
-      desktop.front = desktop.active = mail;
-      desktop.selection = FakeDesktop::Copy{.text = text, .html = {}};
-      desktop.strings["SigningMode"] = mode;
-      desktop.hasKey = mode == std::string("enclave");
-      desktop.beforePress = [&](desktop::Key key) {
+      desktop.applications.front = desktop.applications.active = mail;
+      desktop.keys.selection = Copy{.text = text, .html = {}};
+      desktop.defaults.strings["SigningMode"] = mode;
+      desktop.keyStore.hasKey = mode == std::string("enclave");
+      desktop.keys.beforePress = [&](desktop::Key key) {
         if (key == desktop::Key::v) c.happening(desktop);
       };
       SigningCoordinator coordinator(desktop.services());
@@ -598,7 +606,7 @@ TEST_F(SigningCoordinatorTest, PastesNowhereElse) {
                 "clipboard.\n\n" +
                     c.words)
           << c.name;
-      EXPECT_THAT(desktop.pastedInto, ElementsAre()) << c.name;
+      EXPECT_THAT(desktop.keys.pastedInto, ElementsAre()) << c.name;
       EXPECT_TRUE(wroteBlock(desktop)) << c.name;
     }
   }
@@ -606,19 +614,21 @@ TEST_F(SigningCoordinatorTest, PastesNowhereElse) {
 
 TEST_F(SigningCoordinatorTest, CopiesNowhereElse) {
   const Interference cases[] = {
-      {"closed", [](FakeDesktop& d) { d.ended = {mail.instance}; }, "the window was closed"},
-      {"switched", [](FakeDesktop& d) { d.front = d.active = chromeRunning; },
+      {"closed", [](FakeDesktop& d) { d.applications.ended = {mail.instance}; },
+       "the window was closed"},
+      {"switched",
+       [](FakeDesktop& d) { d.applications.front = d.applications.active = chromeRunning; },
        "another window came to the front"},
-      {"another document", [](FakeDesktop& d) { d.active->document = "Re: Rent"; },
+      {"another document", [](FakeDesktop& d) { d.applications.active->document = "Re: Rent"; },
        "the window showed another document or tab"},
   };
   for (const Interference& c : cases) {
     for (const desktop::Key pressed : {desktop::Key::c, desktop::Key::a}) {
       FakeDesktop desktop;
-      desktop.front = desktop.active = mail;
-      desktop.everything = FakeDesktop::Copy{.text = text, .html = {}};
-      if (pressed == desktop::Key::c) desktop.selection = desktop.everything;
-      desktop.beforePress = [&](desktop::Key key) {
+      desktop.applications.front = desktop.applications.active = mail;
+      desktop.keys.everything = Copy{.text = text, .html = {}};
+      if (pressed == desktop::Key::c) desktop.keys.selection = desktop.keys.everything;
+      desktop.keys.beforePress = [&](desktop::Key key) {
         if (key == pressed) c.happening(desktop);
       };
       SigningCoordinator coordinator(desktop.services());
@@ -634,18 +644,19 @@ TEST_F(SigningCoordinatorTest, CopiesNowhereElse) {
 }
 
 TEST_F(SigningCoordinatorTest, PastesIntoNoTerminal) {
-  desktop_.front->categories = desktop_.active->categories = "System;TerminalEmulator;";
+  desktop_.applications.front->categories = desktop_.applications.active->categories =
+      "System;TerminalEmulator;";
   sign();
   EXPECT_THAT(desktop_.trace.back(), EndsWith("a shell there would run each line as a command."));
   EXPECT_THAT(desktop_.trace, Contains("log: [inject] signed block left on the clipboard; the "
                                        "source is a terminal"));
-  EXPECT_THAT(desktop_.pastedInto, ElementsAre());
+  EXPECT_THAT(desktop_.keys.pastedInto, ElementsAre());
   EXPECT_TRUE(wroteBlock(desktop_));
 }
 
 TEST_F(SigningCoordinatorTest, TakesTheApplicationBehindItsOwnWindows) {
-  desktop_.active = std::nullopt;
-  desktop_.everything = FakeDesktop::Copy{.text = "Settings", .html = {}};
+  desktop_.applications.active = std::nullopt;
+  desktop_.keys.everything = Copy{.text = "Settings", .html = {}};
   sign();
   EXPECT_THAT(
       desktop_.userTrace(),
@@ -653,19 +664,21 @@ TEST_F(SigningCoordinatorTest, TakesTheApplicationBehindItsOwnWindows) {
                   "POST /api/sign_native", "write clipboard", "press ⌘V", notification));
 
   // When a window has just closed, the one behind it takes a moment to come to the front.
-  desktop_.front = desktop_.active = std::nullopt;
+  desktop_.applications.front = desktop_.applications.active = std::nullopt;
   desktop_.forget();
-  const auto arrival =
-      desktop_.loop.after(200ms, [this] { desktop_.front = desktop_.active = mail; });
+  const auto arrival = desktop_.loop.after(
+      200ms, [this] { desktop_.applications.front = desktop_.applications.active = mail; });
   sign();
-  EXPECT_THAT(*desktop_.clipboard.text, HasSubstr("QUILLSEAL · Email Message (Mail) · "));
+  EXPECT_THAT(*desktop_.pasteboard.clipboard.text,
+              HasSubstr("QUILLSEAL · Email Message (Mail) · "));
 }
 
 TEST_F(SigningCoordinatorTest, KeepsACopyForDebuggingEvenOfWhatIsRefused) {
-  desktop_.flags = {"QuillsealDebugCapture"};
-  desktop_.selection->text = "  too short ";
+  desktop_.defaults.flags = {"QuillsealDebugCapture"};
+  desktop_.keys.selection->text = "  too short ";
   sign();
-  EXPECT_EQ(desktop_.files["/home/ada/Library/Logs/Quillseal-signed-text.txt"], "too short");
+  EXPECT_EQ(desktop_.files.contents["/home/ada/Library/Logs/Quillseal-signed-text.txt"],
+            "too short");
   EXPECT_THAT(desktop_.trace, Contains("log: [sign] captured text written to "
                                        "/home/ada/Library/Logs/Quillseal-signed-text.txt"));
 }
@@ -673,9 +686,9 @@ TEST_F(SigningCoordinatorTest, KeepsACopyForDebuggingEvenOfWhatIsRefused) {
 // Modes, enrolment and recovery -------------------------------------------------------------------
 
 TEST_F(SigningCoordinatorTest, MakesAKeyOnTheFirstRun) {
-  desktop_.hasKey = false;
-  desktop_.answers["/api/sign_native"] = {{404, R"({"error":"Device NOT Registered."})"},
-                                          {200, R"({"signature_id":"sig-2"})"}};
+  desktop_.keyStore.hasKey = false;
+  desktop_.http.answers["/api/sign_native"] = {{404, R"({"error":"Device NOT Registered."})"},
+                                               {200, R"({"signature_id":"sig-2"})"}};
   sign();
   EXPECT_THAT(desktop_.userTrace(),
               ElementsAre("create key", "set SigningMode = enclave", "press ⌘C",
@@ -686,29 +699,29 @@ TEST_F(SigningCoordinatorTest, MakesAKeyOnTheFirstRun) {
 }
 
 TEST_F(SigningCoordinatorTest, RetriesOnceOnly) {
-  desktop_.answers["/api/sign_native"] = {{404, R"({"error":"device not enrolled"})"}};
+  desktop_.http.answers["/api/sign_native"] = {{404, R"({"error":"device not enrolled"})"}};
   sign();
-  EXPECT_EQ(desktop_.sentTo("/api/sign_native").size(), 2U);
+  EXPECT_EQ(desktop_.http.sentTo("/api/sign_native").size(), 2U);
   EXPECT_EQ(desktop_.trace.back(), "alert: Signing Error | device not enrolled");
-  desktop_.answers["/api/register_native"] = {{500, R"({"error":"unenrolled"})"}};
+  desktop_.http.answers["/api/register_native"] = {{500, R"({"error":"unenrolled"})"}};
   sign();
   EXPECT_EQ(desktop_.trace.back(), "alert: Signing Error | unenrolled");
   EXPECT_FALSE(SigningCoordinator::isDeviceNotEnrolled("unenrolled"));
 }
 
 TEST_F(SigningCoordinatorTest, FallsBackToTheBrowserForGood) {
-  desktop_.hasKey = false;
-  desktop_.lacksEntitlement = true;
+  desktop_.keyStore.hasKey = false;
+  desktop_.keyStore.lacksEntitlement = true;
   sign();
-  EXPECT_EQ(desktop_.strings["SigningMode"], "handoff");
+  EXPECT_EQ(desktop_.defaults.strings["SigningMode"], "handoff");
   EXPECT_THAT(desktop_.userTrace(), Contains("delete key"));
   EXPECT_EQ(desktop_.trace.back(), notification);
 }
 
 TEST_F(SigningCoordinatorTest, TellsWhenThisMachineCannotBeSetUp) {
-  desktop_.hasKey = false;
-  desktop_.strings = {{"SigningMode", "enclave"}, {"ServerURL", " https://own.example "}};
-  desktop_.answers["/api/register_native"] = {{503, R"({"error":"Closed."})"}};
+  desktop_.keyStore.hasKey = false;
+  desktop_.defaults.strings = {{"SigningMode", "enclave"}, {"ServerURL", " https://own.example "}};
+  desktop_.http.answers["/api/register_native"] = {{503, R"({"error":"Closed."})"}};
   sign();
   EXPECT_THAT(desktop_.userTrace(),
               ElementsAre("create key", "POST /api/register_native", "delete key",
@@ -724,25 +737,26 @@ TEST_F(SigningCoordinatorTest, EnrolsOnRequest) {
             "alert: ✅ This Mac Is Enrolled | A signing key was created inside the Secure Enclave. "
             "It cannot be copied off this Mac, and every signature requires Touch ID.\n\n"
             "Signatures will be attributed to Ada.");
-  desktop_.lacksEntitlement = true;
+  desktop_.keyStore.lacksEntitlement = true;
   scope.start(coordinator_->enrolDevice());
   desktop_.loop.run();
   EXPECT_THAT(desktop_.trace.back(),
               StartsWith("alert: Enrolment Failed | Could not create the Secure Enclave signing "
                          "key: this build is not code-signed"));
-  EXPECT_FALSE(desktop_.hasKey);
+  EXPECT_FALSE(desktop_.keyStore.hasKey);
 }
 
 // Several runs, quitting and failing desktops -----------------------------------------------------
 
 TEST_F(SigningCoordinatorTest, TwoRunsKeepToTheirOwnTabs) {
-  desktop_.hasKey = false;
-  desktop_.strings["SigningMode"] = "handoff";
-  desktop_.front = desktop_.active = chromeRunning;
-  desktop_.answers["/api/handoff/create"] = {
+  desktop_.keyStore.hasKey = false;
+  desktop_.defaults.strings["SigningMode"] = "handoff";
+  desktop_.applications.front = desktop_.applications.active = chromeRunning;
+  desktop_.http.answers["/api/handoff/create"] = {
       {200, R"({"handoff_id":"H1","url":"https://s/handoff?h=H1"})"},
       {200, R"({"handoff_id":"H2","url":"https://s/handoff?h=H2"})"}};
-  desktop_.answers["/api/handoff/poll"] = {{200, R"({"status":"complete","signature_id":"w"})"}};
+  desktop_.http.answers["/api/handoff/poll"] = {
+      {200, R"({"status":"complete","signature_id":"w"})"}};
   coordinator_->startSigning();
   coordinator_->startSigning();
   desktop_.loop.run();
@@ -752,7 +766,7 @@ TEST_F(SigningCoordinatorTest, TwoRunsKeepToTheirOwnTabs) {
 }
 
 TEST_F(SigningCoordinatorTest, TwoFirstRunsMakeOneKey) {
-  desktop_.hasKey = false;
+  desktop_.keyStore.hasKey = false;
   coordinator_->startSigning();
   coordinator_->startSigning();
   desktop_.loop.run();
@@ -761,8 +775,8 @@ TEST_F(SigningCoordinatorTest, TwoFirstRunsMakeOneKey) {
 }
 
 TEST_F(SigningCoordinatorTest, AFirstRunUsesNoKeyWhoseEnrolmentMayFail) {
-  desktop_.hasKey = false;
-  desktop_.answers["/api/register_native"] = {{500, R"({"error":"Not now."})"}};
+  desktop_.keyStore.hasKey = false;
+  desktop_.http.answers["/api/register_native"] = {{500, R"({"error":"Not now."})"}};
   TaskScope settings;
   settings.start(coordinator_->enrolDevice());
   sign();
@@ -772,17 +786,18 @@ TEST_F(SigningCoordinatorTest, AFirstRunUsesNoKeyWhoseEnrolmentMayFail) {
 
 /// Everything a run can do, in one: enrolment, recovery, dialogs, the way back to the tab.
 void makeEventful(FakeDesktop& desktop, int kind) {
-  desktop.front = desktop.active = chromeRunning;
-  desktop.defaultBrowser = chromeInstalled;
-  desktop.selection = FakeDesktop::Copy{.text = text, .html = {}};
-  desktop.everything = FakeDesktop::Copy{.text = text + " The rest is private.", .html = {}};
-  desktop.flags = {"ConfirmBeforeSigning"};
-  desktop.confirmation = desktop::ConfirmationEntry{.choice = "LinkedIn Post", .field = "Ada"};
-  desktop.hasKey = false;
-  desktop.answers["/api/sign_native"] = {{404, R"({"error":"device not enrolled"})"},
-                                         {200, R"({"signature_id":"sig-2"})"}};
-  if (kind == 1) desktop.strings["SigningMode"] = "handoff";
-  if (kind == 2) desktop.flags.insert("DemoSigning");
+  desktop.applications.front = desktop.applications.active = chromeRunning;
+  desktop.applications.defaultBrowser = chromeInstalled;
+  desktop.keys.selection = Copy{.text = text, .html = {}};
+  desktop.keys.everything = Copy{.text = text + " The rest is private.", .html = {}};
+  desktop.defaults.flags = {"ConfirmBeforeSigning"};
+  desktop.alerts.confirmation =
+      desktop::ConfirmationEntry{.choice = "LinkedIn Post", .field = "Ada"};
+  desktop.keyStore.hasKey = false;
+  desktop.http.answers["/api/sign_native"] = {{404, R"({"error":"device not enrolled"})"},
+                                              {200, R"({"signature_id":"sig-2"})"}};
+  if (kind == 1) desktop.defaults.strings["SigningMode"] = "handoff";
+  if (kind == 2) desktop.defaults.flags.insert("DemoSigning");
 }
 
 /// What a run of each kind does when `happening` comes after each of its steps in turn.
@@ -819,15 +834,15 @@ TEST(SigningRuns, EndWhereTheyWaitWhenTheAgentQuits) {
 TEST(SigningRuns, NameOneDayWhateverTheClockDoes) {
   for (const char* date : {"2026-03-02", "1999-12-31"}) {
     interruptEverywhere(
-        [&](FakeDesktop& desktop, auto&) { desktop.date = date; },
+        [&](FakeDesktop& desktop, auto&) { desktop.wallClock.date = date; },
         [&](FakeDesktop& desktop) {
           std::set<std::string> days;
           for (const char* path : {"/api/sign_native", "/api/sign_demo", "/api/handoff/create"}) {
-            for (const std::string& body : desktop.sentTo(path))
+            for (const std::string& body : desktop.http.sentTo(path))
               days.insert(body.substr(body.find("\"issued\":\"") + 10, 10));
           }
           ASSERT_EQ(days.size(), 1U);
-          EXPECT_THAT(*desktop.clipboard.text,
+          EXPECT_THAT(*desktop.pasteboard.clipboard.text,
                       HasSubstr("· " + SignedBlock::readableDate(*days.begin()) + "\n"));
         });
   }
@@ -851,9 +866,10 @@ TEST(SigningRuns, DoNotCopyOverEachOthersBlock) {
   int paired = 0;
   for (int steps = 0; steps < 200; ++steps) {
     FakeDesktop desktop;
-    desktop.front = chromeRunning;
-    desktop.active = mail;  // so that the paste waits for the application to come to the front
-    desktop.selection = FakeDesktop::Copy{.text = text, .html = {}};
+    desktop.applications.front = chromeRunning;
+    desktop.applications.active =
+        mail;  // so that the paste waits for the application to come to the front
+    desktop.keys.selection = Copy{.text = text, .html = {}};
     SigningCoordinator coordinator(desktop.services());
     coordinator.startSigning();
     for (int i = 0; i < steps; ++i)
@@ -901,15 +917,15 @@ TEST(SigningRuns, TellTheUserWhicheverPressIsDeclined) {
     for (int declined = 1;; ++declined) {
       FakeDesktop desktop;
       makeEventful(desktop, kind);
-      desktop.selection = std::nullopt;  // so that all is selected
-      desktop.declinedPress = declined;
+      desktop.keys.selection = std::nullopt;  // so that all is selected
+      desktop.keys.declinedPress = declined;
       SigningCoordinator coordinator(desktop.services());
       coordinator.startSigning();
       desktop.loop.run();
-      if (desktop.presses < declined) break;
+      if (desktop.keys.presses < declined) break;
       const std::string where =
           "kind " + std::to_string(kind) + ", press " + std::to_string(declined);
-      EXPECT_EQ(desktop.presses, declined) << where << ": no other is tried";
+      EXPECT_EQ(desktop.keys.presses, declined) << where << ": no other is tried";
       EXPECT_THAT(desktop.trace.back(), StartsWith("alert: ")) << where;
       EXPECT_EQ(wroteBlock(desktop), declined == 4) << where << ": after C, A and C comes V";
       EXPECT_THAT(desktop.trace, Not(Contains(notification))) << where;

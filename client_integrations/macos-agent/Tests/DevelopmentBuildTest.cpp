@@ -21,7 +21,9 @@ TEST(DevelopmentBuild, AsksForItsConfigurationBeforeItMakesAKey) {
   for (const char* key : {"", " \n"}) {
     FakeDesktop desktop;
     desktop.keyStore.hasKey = false;
-    desktop.defaults.strings = {{"SigningMode", "enclave"}, {"APIKey", key}};
+    desktop.defaults.strings = {
+        {"SigningMode", "enclave"}, {"APIKey", key}, {"ServerURL", "https://own.example"}};
+    desktop.alerts.leavesDialogsOpen = true;
     SigningCoordinator coordinator(desktop.services());
     coordinator.startSigning();
     desktop.loop.run();
@@ -30,7 +32,7 @@ TEST(DevelopmentBuild, AsksForItsConfigurationBeforeItMakesAKey) {
                             "key. Open Settings and enter the server URL and native API key, or "
                             "install a packaged build from your provider."));
 
-    desktop.defaults.strings["ServerURL"] = "https://own.example";
+    // The alert is still open.
     desktop.defaults.strings["APIKey"] = "s3cret";
     coordinator.startSigning();
     desktop.loop.run();

@@ -222,6 +222,7 @@ struct FakeHttp final : Fake<desktop::HttpTransport> {
        {{200, R"({"status":"waiting"})"},
         {200, R"({"status":"complete","signature_id":"web-1"})"}}}};
   std::optional<Error> failure;  ///< in place of every answer
+  std::chrono::milliseconds takes{0};
   std::vector<desktop::HttpPost> sent;
 
   /// The bodies of what was sent to `path`.
@@ -235,11 +236,12 @@ struct FakeHttp final : Fake<desktop::HttpTransport> {
     const std::string path = pathOf(post.url);
     record.add("send", "POST " + path);
     sent.push_back(post);
-    if (failure) return record.soon([this, done = std::move(done)] { done(*failure); });
+    if (failure)
+      return record.loop.after(takes, [this, done = std::move(done)] { done(*failure); });
     std::deque<Answer>& queue = answers.at(path);
     const Answer answer = queue.front();
     if (queue.size() > 1) queue.pop_front();
-    return record.soon([done = std::move(done), answer] {
+    return record.loop.after(takes, [done = std::move(done), answer] {
       done(desktop::HttpResponse{.status = answer.status, .body = answer.body});
     });
   }
@@ -355,8 +357,11 @@ struct FakeKeyEvents final : Fake<desktop::KeyEvents> {
     if (press.key == Key::v && applications_.active)
       pastedInto.push_back(applications_.active->name.value_or("?"));
     isAllSelected_ = isAllSelected_ || press.key == Key::a;
-    const std::optional<Copy> copied = isAllSelected_ ? everything : selection;
-    if (press.key != Key::c || !copied) return;
+    if (press.key != Key::c) return;
+    const std::optional<Copy> copied =
+        std::exchange(isAllSelected_, false) ? everything : selection;
+    if (!copied) return;
+    if (copyTime.count() == 0) return pasteboard_.put(*copied);
     copying_ = record.loop.after(copyTime, [this, copied] { pasteboard_.put(*copied); });
     if (secondThought)
       secondCopying_ = record.loop.after(copyTime + std::chrono::milliseconds(50),

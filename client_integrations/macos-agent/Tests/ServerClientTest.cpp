@@ -231,8 +231,16 @@ TEST_F(ServerClientTest, NamesWhatAnAnswerLacks) {
     EXPECT_EQ(failure.domain(), "NSCocoaErrorDomain");
     EXPECT_THAT(failure.what(), HasSubstr(each.named)) << each.body;
   }
-  answer(200, R"({"signature_id":"s"})");
-  EXPECT_THAT(failureOf(client_.signDemo({})).what(), HasSubstr("“demo”"));
+  const auto lacks = [&](auto task, const char* body, const char* named) {
+    answer(200, body);
+    EXPECT_THAT(std::get<Error>(resultOf(desktop_.loop, std::move(task))).what(), HasSubstr(named));
+  };
+  lacks(client_.signDemo({}), R"({"signature_id":"s"})", "“demo”");
+  lacks(client_.enrol({}), R"({"status":"s"})", "“device_id”");
+  lacks(client_.enrol({}), R"({"device_id":"d"})", "“status”");
+  lacks(client_.createHandoff({}), R"({"handoff_id":"h"})", "“url”");
+  lacks(client_.createHandoff({}), R"({"url":"u"})", "“handoff_id”");
+  lacks(client_.pollHandoff({}), R"({"signature_id":"s"})", "“status”");
 }
 
 TEST_F(ServerClientTest, SendsNothingThatIsNoText) {

@@ -1,11 +1,16 @@
 #include <string>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "core/signing/BrowserScripts.h"
 
 namespace quillseal::BrowserScripts {
 namespace {
+
+using ::testing::AllOf;
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
 
 TEST(CurrentTab, AsksEachFamilyInItsWay) {
   const auto chromium = [](const std::string& application) {
@@ -28,71 +33,33 @@ TEST(CurrentTab, AsksEachFamilyInItsWay) {
     EXPECT_EQ(currentTab(bundle), script) << bundle;
 }
 
-TEST(CloseAndRestore, FillsTheSafariProgram) {
-  const auto program = [](const std::string& tab, const std::string& index) {
-    return R"(tell application "Safari"
-    repeat with w in windows
-        repeat with t in tabs of w
-            if URL of t contains "/handoff?h=$#%@" then close t
-        end repeat
-    end repeat
-    if ")" +
-           tab +
-           R"(" is not "" then
-        try
-            set current tab of front window to tab ()" +
-           index + R"( as integer) of front window
-        end try
-    end if
-    activate
-    return "true"
-end tell)";
+TEST(CloseAndRestore, PutsMarkerAndTabIntoTheProgramOfTheFamily) {
+  const std::string marker = "/handoff?h=$#%@";
+  const auto program = [&](const char* browser, std::optional<std::string> tab) {
+    return closeAndRestore({.bundleIdentifier = browser, .urlContains = marker, .tabId = tab});
   };
-  CloseAndRestore request{
-      .bundleIdentifier = "com.apple.Safari", .urlContains = "/handoff?h=$#%@", .tabId = "3"};
-  EXPECT_EQ(closeAndRestore(request), program("3", "3"));
-  request.tabId = std::nullopt;
-  EXPECT_EQ(closeAndRestore(request), program("", "1"));
-  request.tabId = "";
-  EXPECT_EQ(closeAndRestore(request), program("", ""));
-}
-
-TEST(CloseAndRestore, FillsTheChromiumProgram) {
-  EXPECT_EQ(closeAndRestore({.bundleIdentifier = "com.google.Chrome.canary",
-                             .urlContains = "/handoff?h=1",
-                             .tabId = "42"}),
-            R"(tell application "Google Chrome"
-    set closed to false
-    repeat with w in windows
-        set i to 1
-        repeat with t in tabs of w
-            if URL of t contains "/handoff?h=1" then
-                close t
-                set closed to true
-                exit repeat
-            end if
-            set i to i + 1
-        end repeat
-    end repeat
-    if "42" is not "" then
-        repeat with w in windows
-            set n to count of tabs of w
-            repeat with j from 1 to n
-                if (id of tab j of w) as string is "42" then
-                    set active tab index of w to j
-                    set index of w to 1
-                end if
-            end repeat
-        end repeat
-    end if
-    activate
-    return closed as string
-end tell)");
+  const std::string close = "URL of t contains \"" + marker + "\" then";
+  const std::string guard = "if \"3\" is not \"\" then";
+  const std::string safari = program("com.apple.Safari", "3").value();
+  EXPECT_THAT(safari, AllOf(StartsWith("tell application \"Safari\"\n"), HasSubstr(close),
+                            HasSubstr(guard), HasSubstr("to tab (3 as integer) of front window"),
+                            HasSubstr("activate\n    return \"true\"\nend tell")));
+  const std::string chrome = program("com.google.Chrome.canary", "3").value();
+  EXPECT_THAT(chrome,
+              AllOf(StartsWith("tell application \"Google Chrome\"\n"), HasSubstr(close),
+                    HasSubstr(guard), HasSubstr("(id of tab j of w) as string is \"3\" then"),
+                    HasSubstr("activate\n    return closed as string\nend tell")));
+  for (const std::string& text : {safari, chrome})
+    EXPECT_EQ(text.find_first_of("%@", text.find(marker) + marker.size()), std::string::npos);
+  // Without a tab nothing is restored.
+  for (const std::optional<std::string>& tab : {std::optional<std::string>(), {""}})
+    for (const char* browser : {"com.apple.Safari", "com.google.Chrome"})
+      EXPECT_THAT(program(browser, tab).value(), HasSubstr("if \"\" is not \"\" then"));
+  EXPECT_THAT(program("com.apple.Safari", std::nullopt).value(), HasSubstr("tab (1 as integer)"));
 }
 
 TEST(CloseAndRestore, HasNoProgramWithoutBrowserOrMarker) {
-  EXPECT_EQ(closeAndRestore(
-                {.bundleIdentifier = "org.mozilla.firefox", .urlContains = "x", .tabId = "1"}),
+  EXPECT_EQ(closeAndRestore({.bundleIdentifier = "a.b", .urlContains = "x", .tabId = "1"}),
             std::nullopt);
   EXPECT_EQ(
       closeAndRestore({.bundleIdentifier = "com.apple.Safari", .urlContains = "", .tabId = "1"}),

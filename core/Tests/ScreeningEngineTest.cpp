@@ -102,6 +102,54 @@ TEST(ScreeningEngine, AgreesWithIcuOnEveryConstruct) {
   EXPECT_GT(total.matched, total.compared / 20);
 }
 
+// What random texts rarely meet: orders of alternatives, elements and memo rows.
+TEST(ScreeningEngine, AgreesWithIcuWhereItIsHard) {
+  const struct {
+    std::string_view expression, text;
+  } cases[] = {
+      // A later alternative is found first.
+      {"account[ a-z]{0,20}settings|account", "the account of all settings"},
+      {"[a-z0-9 ]{0,5}internationally|\\d\\d", "ab 12internationally"},
+      {"(?:[a-z]{0,9}zebra|quilts|walrus)!", "abcdefzebra!"},
+      {"(?:walrus|quilts|[a-z]{0,9}zebra)!", "abcdefzebra!"},
+      // A first element where the last sequence ended.
+      {"zebra[^!]{1,9}zebra", "zebra!zebra zebra"},
+      {"zebra[^!]{1,9}quilts", "zebra!quilts zebra quilts"},
+      // Look-aheads over the whole text
+      {"(?![\\s\\S]*x)", "a x y"},
+      {"(?![\\s\\S]*x)(?=[\\s\\S]*y)", "a x y"},
+      {"^(?=[\\s\\S]*a)[\\s\\S]*e", "e a e e x"},
+      {"^(?=[\\s\\S]*a)[\\s\\S]*?e", "e a e e x"},
+      {"^(?=[\\s\\S]*a)(?![\\s\\S]*z)[\\s\\S]*?e", "e a z e"},
+      // Word boundaries beside white space
+      {"\\b\\s+zebra", "a \n zebra"},
+      {"\\b\\s+zebra", ". zebra"},
+      {"zebra\\s+\\b", "zebra  a"},
+      {"zebra\\s+\\b", "zebra  ."},
+  };
+  for (const auto& [expression, text] : cases) {
+    const Pattern pattern{.expression = expression};
+    const auto compiled = screening::compilePatterns({&pattern, 1});
+    const ScreeningEngine engine(compiled.tables);
+    EXPECT_EQ(answersOf(engine, 1, text), IcuReference({&pattern, 1}).firstMatches(text))
+        << expression << " on " << text;
+  }
+}
+
+// A first element that is met again and again before the second.
+TEST(ScreeningEngine, ForgetsNoCandidateAndCountsEachOnce) {
+  const Pattern pattern{.expression = "zebra (?:\\w+ ){0,5000}quilts"};
+  const auto compiled = screening::compilePatterns({&pattern, 1});
+  std::string text;
+  while (text.size() < 29'000)
+    text += "zebra ";
+  std::uint64_t steps = 0;
+  const auto matches = ScreeningEngine(compiled.tables).firstMatches(text + "quilts", &steps);
+  ASSERT_EQ(matches.size(), 1U);
+  EXPECT_EQ(matches.front().start, 0U);
+  EXPECT_LT(steps, 50 * text.size());
+}
+
 TEST(ScreeningEngine, AgreesWithIcuOnEveryRule) {
   const Comparisons total = compareWithIcu(screening::rulePatterns(), 600, 4711);
   EXPECT_GT(total.compared, 100'000U);

@@ -35,6 +35,9 @@ TEST(UnicodeText, TrimsTheWhitespaceAndNewlineSetOnly) {
   EXPECT_EQ(trimmed("\x1Cx\x1F"), "\x1Cx\x1F");
   EXPECT_EQ(trimmed(" \n\u2029"), "");
   EXPECT_EQ(trimmed(""), "");
+  std::size_t position = std::string_view("a\U0001F600").size();
+  EXPECT_EQ(previousScalar("a\U0001F600", position), U'\U0001F600');
+  EXPECT_EQ(position, 1U);
 }
 
 TEST(UnicodeText, ChangesCaseFullyAndInTheRootLocale) {

@@ -119,6 +119,7 @@ Task<> awaitAtOnce(Trace& trace) {
   const std::string text =
       co_await completionOf<std::string>([](std::function<void(std::string)> done) {
         done("at once");
+        done("again");
         return desktop::Ticket();
       });
   trace.push_back(text);

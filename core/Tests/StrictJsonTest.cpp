@@ -46,46 +46,40 @@ TEST(StrictJson, NamesTheKeyOfAWrongMember) {
       R"({"text":"x","number":5,"flag":false,"none":null,"list":[],"object":{},
           "fraction":1.0,"huge":9223372036854775808})");
   EXPECT_THAT(failureOf([&] { (void)object.string("absent"); }), HasSubstr("“absent” is missing"));
-  for (const char* key : {"number", "flag", "none", "list", "object", "fraction", "huge"}) {
-    EXPECT_THAT(failureOf([&] { (void)object.string(key); }), HasSubstr(key));
-  }
-  for (const char* key : {"text", "flag", "none", "list", "object", "fraction", "huge"}) {
-    EXPECT_THAT(failureOf([&] { (void)object.integer(key); }), HasSubstr(key));
-  }
-  for (const char* key : {"text", "number", "none", "list", "object"}) {
-    EXPECT_THAT(failureOf([&] { (void)object.boolean(key); }), HasSubstr(key));
-  }
-  for (const char* key : {"number", "flag", "list", "object"}) {
-    EXPECT_THAT(failureOf([&] { (void)object.optionalString(key); }), HasSubstr(key));
+  for (const std::string key :
+       {"text", "number", "flag", "none", "list", "object", "fraction", "huge"}) {
+    const auto fails = [&](auto read) { return failureOf(read).find(key) != std::string::npos; };
+    EXPECT_EQ(fails([&] { (void)object.string(key); }), key != "text");
+    EXPECT_EQ(fails([&] { (void)object.integer(key); }), key != "number");
+    EXPECT_EQ(fails([&] { (void)object.boolean(key); }), key != "flag");
+    EXPECT_EQ(fails([&] { (void)object.optionalString(key); }), key != "text" && key != "none");
   }
 }
 
 TEST(StrictJson, RefusesWhatIsNotOneObject) {
-  const std::vector<std::string> texts{"",
-                                       " ",
-                                       "5",
-                                       "null",
-                                       "\"text\"",
-                                       "[]",
-                                       "[{}]",
-                                       "{",
-                                       "{\"a\"}",
-                                       "{\"a\":1,}",
-                                       "{}{}",
-                                       "{} x",
-                                       "{'a':1}",
-                                       "{\"a\":01}",
-                                       "{\"a\":NaN}",
-                                       "{\"a\":\"\x80\"}",
-                                       "{\"a\":\"\xed\xa0\x80\"}",
-                                       R"({"a":"\ud800"})",
-                                       "{\"a\":\"\n\"}",
-                                       "<html></html>",
-                                       std::string("{}\0", 3),
-                                       "\xef\xbb\xbf"};
-  for (const std::string& text : texts) {
+  for (const std::string_view text : {"",
+                                      " ",
+                                      "5",
+                                      "null",
+                                      "\"text\"",
+                                      "[]",
+                                      "[{}]",
+                                      "{",
+                                      "{\"a\"}",
+                                      "{\"a\":1,}",
+                                      "{}{}",
+                                      "{} x",
+                                      "{'a':1}",
+                                      "{\"a\":01}",
+                                      "{\"a\":NaN}",
+                                      "{\"a\":\"\x80\"}",
+                                      "{\"a\":\"\xed\xa0\x80\"}",
+                                      "{\"a\":\"\\ud800\"}",
+                                      "{\"a\":\"\n\"}",
+                                      "<html></html>",
+                                      "\xef\xbb\xbf"})
     EXPECT_NE(failureOf([&] { (void)JsonObject::parse(text); }), "") << text;
-  }
+  EXPECT_NE(failureOf([] { (void)JsonObject::parse(std::string_view("{}\0", 3)); }), "");
   EXPECT_THAT(failureOf([] { (void)JsonObject::parse(R"({"a":1,"a":2})"); }), HasSubstr("“a”"));
 }
 

@@ -159,13 +159,5 @@ TEST_F(SecureEnclaveManagerTest, LeavesACancelledCreationWhatItIs) {
   EXPECT_THAT(desktop_.trace, IsEmpty());
 }
 
-TEST(BytesFromHex, ReadsPairsOfDigitsOnly) {
-  using Bytes = std::vector<std::uint8_t>;
-  EXPECT_EQ(SecureEnclaveManager::bytesFromHex(""), Bytes{});
-  EXPECT_EQ(SecureEnclaveManager::bytesFromHex("0aFf"), (Bytes{0x0A, 0xFF}));
-  for (const char* text : {"0", "0aF", "0x", "-1", " 1", "1 ", "g0", "0G"})
-    EXPECT_EQ(SecureEnclaveManager::bytesFromHex(text), std::nullopt) << text;
-}
-
 }  // namespace
 }  // namespace quillseal

@@ -170,20 +170,5 @@ TEST(AppDelegate, SharesOneCoordinatorBetweenMenuAndHotkey) {
   EXPECT_EQ(countIn(desktop.trace, "create key"), 1);
 }
 
-TEST(AppDelegate, LeavesNothingBehindWhenTheProgramEnds) {
-  FakeDesktop desktop;
-  {
-    AppDelegate delegate(desktop.services());
-    delegate.applicationDidFinishLaunching();
-    delegate.menuBarManager().configureServer();
-    desktop.hotkey.pressed();
-    desktop.loop.step();
-  }
-  desktop.trace.clear();
-  desktop.defaults.setString("ServerURL", "https://late.example");
-  desktop.loop.run();
-  EXPECT_THAT(desktop.trace, ElementsAre("set ServerURL = https://late.example"));
-}
-
 }  // namespace
 }  // namespace quillseal

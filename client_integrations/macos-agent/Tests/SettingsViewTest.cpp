@@ -215,7 +215,10 @@ TEST_F(SettingsViewTest, ShowsWhatAFailedEnrolmentLeft) {
       [](FakeDesktop& d) { d.keyStore.lacksEntitlement = true; },
       [](FakeDesktop& d) { d.keyStore.canHoldKey = false; },
       // Called off, which the person knows.
-      [](FakeDesktop& d) { d.keyStore.hasKey = d.keyStore.cancelsCreation = true; },
+      [](FakeDesktop& d) {
+        d.keyStore.lacksEntitlement = false;
+        d.keyStore.canHoldKey = d.keyStore.hasKey = d.keyStore.cancelsCreation = true;
+      },
   };
   int told = 0;
   for (const auto& failure : failures) {

@@ -350,6 +350,12 @@ TEST_F(SigningCoordinatorTest, StopsEarlyAndTellsWhy) {
          d.keys.selection->isConcealed = true;
        },
        noText},
+      {"nothing in front",
+       [](Story& d) {
+         d.applications.front = d.applications.active = std::nullopt;
+         d.keys.declinedPress = 1;
+       },
+       noText},
       {"too short", [](Story& d) { d.keys.selection->text = "Only four words here"; },
        "alert: Not signed — too short | Only 4 words. Write at least 10."},
       {"cancelled confirmation", [](Story& d) { d.defaults.flags = {"ConfirmBeforeSigning"}; },
@@ -508,6 +514,7 @@ TEST_F(SigningCoordinatorTest, RefusesIdentifiersThatCouldBreakOut) {
                                                        : "alert: Signing Error | The server answ"))
           << path << id.substr(0, 99);
       EXPECT_EQ(d.count("open "), path == "/api/handoff/poll");
+      EXPECT_EQ(d.count("log: [demo]"), 0);
       EXPECT_FALSE(d.wroteBlock());
     }
   }
@@ -947,11 +954,14 @@ TEST(SigningRuns, DoNotCopyOverEachOthersBlock) {
         static_cast<void>(d.loop.step());
       d.coordinator->startSigning();
       d.loop.run();
-      bool isBlockOnClipboard = false;
+      bool isBlockOnClipboard = false, isReturning = false;
       for (const std::string& line : d.trace) {
+        if (line.find("contains \"/handoff") != std::string::npos) isReturning = true;
+        EXPECT_FALSE(isReturning && line == "press ⌘C") << "copied from the signing tab";
         if (line == "write clipboard") isBlockOnClipboard = true;
         if (line == "press ⌘C") isBlockOnClipboard = false;
         if (line != "press ⌘V") continue;
+        isReturning = false;
         EXPECT_TRUE(isBlockOnClipboard) << "second press after " << steps << " steps";
         ++paired;
       }

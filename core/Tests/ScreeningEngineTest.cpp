@@ -136,20 +136,6 @@ TEST(ScreeningEngine, AgreesWithIcuWhereItIsHard) {
   }
 }
 
-// A first element that is met again and again before the second.
-TEST(ScreeningEngine, ForgetsNoCandidateAndCountsEachOnce) {
-  const Pattern pattern{.expression = "zebra (?:\\w+ ){0,5000}quilts"};
-  const auto compiled = screening::compilePatterns({&pattern, 1});
-  std::string text;
-  while (text.size() < 29'000)
-    text += "zebra ";
-  std::uint64_t steps = 0;
-  const auto matches = ScreeningEngine(compiled.tables).firstMatches(text + "quilts", &steps);
-  ASSERT_EQ(matches.size(), 1U);
-  EXPECT_EQ(matches.front().start, 0U);
-  EXPECT_LT(steps, 50 * text.size());
-}
-
 TEST(ScreeningEngine, AgreesWithIcuOnEveryRule) {
   const Comparisons total = compareWithIcu(screening::rulePatterns(), 600, 4711);
   EXPECT_GT(total.compared, 100'000U);

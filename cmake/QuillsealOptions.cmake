@@ -66,8 +66,10 @@ function(quillseal_add_test name)
   foreach(source ${ARG_SOURCES})
     # A suite may be new.
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${source})
-    file(STRINGS ${source} suites REGEX "^TEST(_F)?\\(")
-    list(TRANSFORM suites REPLACE "^[^(]*\\(([A-Za-z0-9]+),.*" "\\1.*")
+    file(STRINGS ${source} suites REGEX "^TEST(_F|_P)?\\(")
+    # A suite with parameters has a prefix.
+    list(TRANSFORM suites REPLACE "^TEST_P\\(([A-Za-z0-9]+),.*" "*/\\1.*")
+    list(TRANSFORM suites REPLACE "^TEST[^(]*\\(([A-Za-z0-9]+),.*" "\\1.*")
     list(REMOVE_DUPLICATES suites)
     if(NOT suites)
       message(FATAL_ERROR "${source} holds no test.")

@@ -23,6 +23,9 @@ namespace {
 /// Iterations of a counted loop. Unless its body is a single set, it is compiled once for each
 /// iteration.
 constexpr std::uint32_t maxIterations = 5000;
+// What compiles a pattern recurses into it.
+constexpr int maxOpenGroups = 100;
+constexpr int maxQuantifiers = 3;  ///< in a row
 
 CodePointRanges rangesOf(const icu::UnicodeSet& set) {
   CodePointRanges ranges;
@@ -212,7 +215,8 @@ class Parser {
 
   Node quantified(Node node) {
     node = withoutSequence(std::move(node));
-    while (atQuantifier()) {
+    for (int count = 1; atQuantifier(); ++count) {
+      if (count > maxQuantifiers) fail("too many quantifiers in a row");
       Node repetition{.kind = Node::Kind::repetition, .min = 0, .max = unbounded};
       switch (take()) {
         case U'+':
@@ -315,6 +319,7 @@ class Parser {
   }
 
   Node group() {
+    if (++openGroups_ > maxOpenGroups) fail("groups nested too deeply");
     Node node;
     if (next(U"?:") || ended() || pattern_[at_] != U'?') {
       node = alternatives();
@@ -329,6 +334,7 @@ class Parser {
       fail("this group is not offered");
     }
     if (!next(U")")) fail("missing )");
+    --openGroups_;
     return node;
   }
 
@@ -470,6 +476,7 @@ class Parser {
 
   std::u32string pattern_;
   std::size_t at_ = 0;
+  int openGroups_ = 0;
   bool caseInsensitive_;
   SetTable& sets_;
 };

@@ -96,10 +96,8 @@ std::string severityOf(const ContentRules::Rule& rule) {
   return std::to_string(rule.points) + (rule.severity == "block" ? ", blocks" : "");
 }
 
-std::string trialReport(std::string_view label, const TriedPattern& pattern,
-                        std::string_view text) {
+std::string trialReport(std::string_view label, const PatternTrial& trial, std::string_view text) {
   constexpr std::size_t longest = 100;
-  const PatternTrial trial = tryPattern(pattern, text);
   const auto nameOf = [&](const Approach& approach) {
     return "alternative " + std::to_string(approach.number) + " of " +
            std::to_string(trial.alternatives);
@@ -174,14 +172,20 @@ std::string ruleReport(const RuleQuestion& question) {
     if (!question.pattern) tried.written = ofRule;
   }
   const std::string text(unicode::trimmed(question.text));
-  report += trialReport("As written", tried, text);
-  const auto hits = ContentRisk::screen(text).hits;
-  if (question.rule && !question.pattern && report.find("matches nowhere") == std::string::npos &&
-      std::ranges::find(hits, *question.rule, &ContentRisk::Hit::id) == hits.end())
-    report += line(
-        "", "but does not count: it is quoted in a report, or begins or ends within a character");
+  const PatternTrial asWritten = tryPattern(tried, text);
+  report += trialReport("As written", asWritten, text);
+  if (asWritten.isMatch && question.rule && !question.pattern) {
+    const auto hits = ContentRisk::screen(text).hits;
+    if (std::ranges::find(hits, *question.rule, &ContentRisk::Hit::id) == hits.end())
+      report += line("",
+                     "but does not count: it is quoted in a report, begins or ends within a "
+                     "character, or stands behind what is screened");
+  }
   const ReadableText reading(text);
-  if (!reading.isAsWritten()) report += trialReport("As read", tried, std::string(reading.text()));
+  if (!reading.isAsWritten()) {
+    const std::string read(reading.text());
+    report += trialReport("As read", tryPattern(tried, read), read);
+  }
   return report;
 }
 

@@ -66,7 +66,7 @@ TEST(PatternTrial, RulesAreShownAsTheyAreWritten) {
 
 TEST(RuleReport, ExplainsARule) {
   const std::string quotation =
-      "The lure said “Please verify your account before noon” and nobody replied.";
+      "The lure said “It matches nowhere. Verify your account before noon” and nobody replied.";
   const struct {
     RuleQuestion question;
     std::vector<const char*> parts;

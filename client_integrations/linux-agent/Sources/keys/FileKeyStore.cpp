@@ -143,8 +143,8 @@ std::string FileKeyStore::name() const {
 std::string FileKeyStore::describe() const {
   return std::string(holdsKey() ? "The key is" : "The key will be") + " in the file “" +
          file_.path().string() +
-         "”, encrypted with a passphrase that is asked for at every signature. Whoever copies the "
-         "file and learns the passphrase can sign in your name.";
+         "”, encrypted with a passphrase that is asked for at every signature. Anyone who copies "
+         "the file and learns the passphrase can sign in your name.";
 }
 
 std::string FileKeyStore::obstacle() const {

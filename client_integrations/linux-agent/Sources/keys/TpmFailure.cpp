@@ -22,8 +22,8 @@ constexpr std::string_view foreign =
     "The key does not belong to this computer’s TPM as it is now: the TPM was cleared, or the key "
     "comes from another computer. Enrol this computer again in Settings.";
 constexpr std::string_view ownerPassword =
-    "The TPM’s storage hierarchy has a password, so Quillseal cannot use it. Whoever manages this "
-    "computer can remove it (tpm2_changeauth -c owner -p PASSWORD).";
+    "The TPM’s storage hierarchy has a password, so Quillseal cannot use it. The administrator of "
+    "this computer can remove it (tpm2_changeauth -c owner -p PASSWORD).";
 constexpr std::string_view disabled =
     "The TPM is switched off or has failed. Restart the computer; if that does not help, look for "
     "the TPM in its firmware settings.";

@@ -36,7 +36,7 @@ constexpr std::array sentences{
              "settings."},
     Sentence{transport::secureConnectionFailed,
              "A secure connection to the server could not be made. Check the server address in the "
-             "settings, or ask whoever runs the server."},
+             "settings, or ask the people who run the server."},
     Sentence{transport::serverCertificateUntrusted,
              "The server’s certificate is not trusted, so nothing was sent. Check the date of this "
              "computer and the server address in the settings; somebody may be intercepting the "

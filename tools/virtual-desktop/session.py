@@ -1,5 +1,5 @@
 """A private desktop for one agent: X server, session bus, window manager, panel, notifications,
-development server. Nothing of it touches the desktop, the home or the settings of whoever runs it.
+development server. Nothing of it touches the desktop, the home or the settings of its user.
 
 Waiting is always for a condition, with a limit and a sentence that says what did not happen.
 """
@@ -210,7 +210,7 @@ class Session:
         return server
 
     def _start_desktop(self):
-        # The server would start over, and lose whoever connects just then, each time its last
+        # The server would start over, and lose a client that connects just then, each time its last
         # client goes; while the desktop starts, that is often.
         self.x_server = self.start_x_server("-noreset", *self.x_options)
         self._start_bus()

@@ -64,7 +64,7 @@ class WaylandSession(session.Session):
         return env
 
     def _start_sway(self):
-        """Sway refuses to run as root, and its sockets are for whoever runs it, and root."""
+        """Sway refuses to run as root, and its sockets are for its own user and root."""
         self.runtime = pathlib.Path(tempfile.mkdtemp(prefix="quillseal-sway-"))
         (self.runtime / "config").write_text(CONFIGURATION)
         command = ["sway", "--config", self.runtime / "config"]
@@ -98,7 +98,7 @@ class WaylandSession(session.Session):
         self.run("swaymsg", "exec", f"echo $DISPLAY > {told}")
         self.env["DISPLAY"] = wait_for("sway names its X display",
                                        lambda: told.exists() and told.read_text().strip())
-        if os.geteuid() == 0:  # the X server lets in whoever sway runs as
+        if os.geteuid() == 0:  # the X server lets in sway's user
             self.run("swaymsg", "exec", "xhost +si:localuser:root")
         wait_for("Xwayland starts", lambda: self.run("xprop", "-root", check=False))
 

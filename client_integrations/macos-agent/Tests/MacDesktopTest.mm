@@ -1255,7 +1255,7 @@ TEST_F(MacHttpTransportTest, IsSilentOnceARequestOrAllOfItIsGone) {
     const desktop::Ticket open =
         ended.send({.url = server_.url("/silent"), .headers = {}, .body = "{}"}, done);
     runFor(0.1);
-  }  // the session tells of the end of its requests when all of this is gone
+  }  // the session reports the end of its requests when all of this is gone
   runFor(0.5);
   EXPECT_FALSE(answered);
 }

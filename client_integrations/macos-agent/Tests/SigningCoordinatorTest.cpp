@@ -110,7 +110,7 @@ class SigningCoordinatorTest : public ::testing::Test, protected Story {
     EXPECT_THAT(body, HasSubstr("\"enclave_signature\":\"" + signature + "\""));
   }
 
-  /// Whoever wants to read a story as it went asks for it through the environment.
+  /// Prints a story as it went when the environment asks for it.
   void TearDown() override {
     // NOLINTNEXTLINE(concurrency-mt-unsafe): there is one thread
     if (std::getenv("QUILLSEAL_PRINT_TRACES") == nullptr) return;

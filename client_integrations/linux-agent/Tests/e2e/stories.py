@@ -249,7 +249,7 @@ class SoftwareTpm(Story):
         self.enter_wrong_secret("PIN")
         self.desktop.enter_secret(kind="PIN")
         self.assert_signed(editor)
-        # Nothing of the TPM's own software, which tells of every command that failed.
+        # Nothing of the TPM's own software, which reports every command that failed.
         for line in self.desktop.output_of(self.desktop.agent).splitlines():
             self.assertRegex(line, r"^\[\w+\] ")
 

@@ -245,8 +245,9 @@ class Server {
                                              attributes:nil
                                                   error:nil];
     // The shell ends the server, and removes its records, when this program ends, however it ends.
+    // Only the server writes into the pipe, so that reading ends where it did not start.
     NSString* commands = @"\"$1\" --port 0 --database \"$0/registry.sqlite\" & "
-                         @"cat >/dev/null; kill $!; wait; rm -r \"$0\"";
+                         @"exec >/dev/null; cat; kill $!; wait; rm -r \"$0\"";
     task_ = taskOf(@"/bin/sh", @[ @"-c", commands, folder, environment("QUILLSEAL_DEV_SERVER") ]);
     task_.standardInput = [NSPipe pipe];
     NSPipe* output = [NSPipe pipe];

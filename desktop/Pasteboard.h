@@ -49,6 +49,11 @@ class Pasteboard {
   [[nodiscard]] virtual std::optional<std::string> plainText() const = 0;
   [[nodiscard]] virtual std::optional<std::string> html() const = 0;
 
+  /// Fetches the RTF of what is on the clipboard from the program that owns it, which may hang, and
+  /// calls `done` with its bytes as offered; with nothing when none is offered or comes, or when it
+  /// is concealed.
+  [[nodiscard]] virtual Ticket fetchRtf(std::function<void(std::optional<std::string>)> done) = 0;
+
   /// Replaces the content by `content`, both flavours at once, and no other flavour. It stays until
   /// replaced, also when the agent ends. On failure throws Error and offers none of `content`.
   virtual void write(const PasteboardContent& content) = 0;

@@ -17,7 +17,7 @@ namespace {
 
 using namespace std::string_literals;
 
-TEST(QtPasteboard, LeavesOutTheNulsThatEndOtherProgramsStrings) {
+TEST(QtPasteboard, ReadsWhatProgramsOffer) {
   std::string program = "test";
   std::string option = "-platform";
   std::string platform = "minimal";  // which has nothing to do with X
@@ -26,7 +26,7 @@ TEST(QtPasteboard, LeavesOutTheNulsThatEndOtherProgramsStrings) {
   const QGuiApplication application(count, arguments.data());
   QtMainLoop loop;
   QtDescriptors descriptors;
-  const QtPasteboard pasteboard({.loop = loop, .descriptors = descriptors});
+  QtPasteboard pasteboard({.loop = loop, .descriptors = descriptors});
 
   struct Row {
     std::string offered;
@@ -46,6 +46,17 @@ TEST(QtPasteboard, LeavesOutTheNulsThatEndOtherProgramsStrings) {
     if (row.offered.front() != '\xFF') {
       EXPECT_EQ(pasteboard.plainText(), row.read);
     }
+  }
+
+  for (const char* hint : {"", "secret"}) {
+    auto data = std::make_unique<QMimeData>();
+    data->setData(QStringLiteral("x-kde-passwordManagerHint"), hint);
+    data->setData(QStringLiteral("text/rtf"), QByteArray("{\0}", 3));
+    QGuiApplication::clipboard()->setMimeData(data.release());
+    std::optional<std::string> rtf = "not called";
+    const auto ticket =
+        pasteboard.fetchRtf([&](std::optional<std::string> bytes) { rtf = std::move(bytes); });
+    EXPECT_EQ(rtf, *hint == 0 ? std::optional("{\0}"s) : std::nullopt);
   }
 }
 

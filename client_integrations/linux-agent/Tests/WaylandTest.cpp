@@ -99,6 +99,14 @@ struct Agent {
     testing::runUntil(loop, [&] { return isFetched; });
   }
 
+  std::optional<std::string> rtf() {
+    std::optional<std::optional<std::string>> rtf;
+    const desktop::Ticket ticket =
+        pasteboard.fetchRtf([&rtf](std::optional<std::string> bytes) { rtf = std::move(bytes); });
+    testing::runUntil(loop, [&] { return rtf.has_value(); });
+    return *rtf;
+  }
+
   std::optional<std::string> plainText() {
     catchUp();
     fetch();
@@ -202,6 +210,9 @@ TEST_P(Flavours, AreReadAndWrittenByEitherProtocol) {
   EXPECT_GT(agent.pasteboard.changeCount(), before);
   EXPECT_EQ(agent.pasteboard.html(), "<b>Zoë</b>");
   EXPECT_FALSE(agent.pasteboard.isConcealed());
+  EXPECT_EQ(agent.rtf(), "{\\rtf1}");
+  EXPECT_THAT(compositor.asked(), ElementsAre("UTF8_STRING", "text/html", "text/rtf"));
+  EXPECT_EQ(agent.pasteboard.html(), "<b>Zoë</b>");
 
   agent.pasteboard.write({.plainText = "『Zoë』", .html = "<p>『Zoë』</p>"});
   EXPECT_EQ(compositor.pasted(utf8Text), "『Zoë』");
@@ -214,8 +225,13 @@ TEST(WaylandPasteboard, ReadsTheFormatsThatProgramsUse) {
     std::map<std::string, std::string> formats;
     std::optional<std::string> plain;
     std::optional<std::string> html;
+    std::optional<std::string> rtf{};
   } rows[] = {
       {{{utf8Text, "a"}, {"text/plain", "\xE9"}}, "a", std::nullopt},
+      {{{"application/rtf", std::string("{\0\xE9}", 4)}},
+       std::nullopt,
+       std::nullopt,
+       std::string("{\0\xE9}", 4)},
       {{{"text/plain", "a"}}, "a", std::nullopt},
       {{{"STRING", "caf\xE9"}}, "café", std::nullopt},
       {{{"text/html", std::string("\xFF\xFE<\0b\0>\0", 8)}}, std::nullopt, "<b>"},
@@ -233,6 +249,7 @@ TEST(WaylandPasteboard, ReadsTheFormatsThatProgramsUse) {
     compositor.copy({.formats = row.formats});
     EXPECT_EQ(agent.plainText(), row.plain);
     EXPECT_EQ(agent.pasteboard.html(), row.html);
+    EXPECT_EQ(agent.rtf(), row.rtf);
   }
 }
 
@@ -241,10 +258,12 @@ TEST(WaylandPasteboard, DoesNotEvenReadASecret) {
                                      std::pair("org.nspasteboard.ConcealedType", "")}) {
     ScriptedCompositor compositor;
     Agent agent;
-    compositor.copy({.formats = {{format, text}, {utf8Text, "hunter2"}}});
+    compositor.copy(
+        {.formats = {{format, text}, {utf8Text, "hunter2"}, {"text/rtf", "{hunter2}"}}});
     EXPECT_EQ(agent.plainText(), std::nullopt);
     EXPECT_TRUE(agent.pasteboard.isConcealed());
-    EXPECT_THAT(compositor.asked(), ElementsAre(format));
+    EXPECT_EQ(agent.rtf(), std::nullopt);
+    EXPECT_THAT(compositor.asked(), ElementsAre(format, format));
   }
 }
 
@@ -278,8 +297,10 @@ TEST(WaylandPasteboard, OutlivesEveryOwner) {
   for (const auto& row : rows) {
     ScriptedCompositor compositor;
     Agent agent;
-    compositor.copy({.formats = {{utf8Text, row.text}}, .answer = row.answer});
+    compositor.copy(
+        {.formats = {{utf8Text, row.text}, {"text/rtf", row.text}}, .answer = row.answer});
     EXPECT_EQ(agent.plainText(), std::nullopt) << static_cast<int>(row.answer);
+    EXPECT_EQ(agent.rtf(), std::nullopt) << static_cast<int>(row.answer);
     const std::string next(largest, 'y');
     compositor.copy({.formats = {{utf8Text, next}}});
     EXPECT_EQ(agent.plainText(), next);

@@ -262,6 +262,7 @@ struct Copy {
   Text text;
   Text html;
   bool isConcealed = false;
+  Text rtf{};
 };
 
 struct FakePasteboard final : Fake<desktop::Pasteboard> {
@@ -290,6 +291,10 @@ struct FakePasteboard final : Fake<desktop::Pasteboard> {
   bool isConcealed() const override { return fetched_.isConcealed; }
   Text plainText() const override { return fetched_.text; }
   Text html() const override { return fetched_.html; }
+  Ticket fetchRtf(std::function<void(Text)> done) override {
+    record.add("fetch RTF", "fetch RTF");
+    return record.soon([this, done = std::move(done)] { done(clipboard.rtf); });
+  }
   void write(const desktop::PasteboardContent& content) override {
     record.add("write clipboard", "write clipboard");
     put({.text = content.plainText, .html = content.html});

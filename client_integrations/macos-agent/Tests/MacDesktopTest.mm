@@ -309,6 +309,12 @@ TEST(MacWallClockTest, GivesTheDayAndTheZoneOfTheSystem) {
 class MacPasteboardTest : public testing::Test {
  protected:
   NSPasteboard* general_ = NSPasteboard.generalPasteboard;
+  [[nodiscard]] std::optional<std::string> rtf() {
+    std::optional<std::string> rtf = "not called";
+    const auto ticket =
+        pasteboard_.fetchRtf([&](std::optional<std::string> bytes) { rtf = std::move(bytes); });
+    return rtf;
+  }
   MacPasteboard pasteboard_;
 };
 
@@ -327,14 +333,21 @@ TEST_F(MacPasteboardTest, OffersBothFlavoursAndNoOther) {
 
 TEST_F(MacPasteboardTest, ReadsWhatOthersOffer) {
   NSString* concealed = @"org.nspasteboard.ConcealedType";
-  [general_ declareTypes:@[ NSPasteboardTypeString, concealed ] owner:nil];
+  NSData* copied = [NSData dataWithBytes:"{\\rtf1 x\0y}" length:11];
+  [general_ declareTypes:@[ NSPasteboardTypeRTF ] owner:nil];
+  [general_ setData:copied forType:NSPasteboardTypeRTF];
+  EXPECT_EQ(rtf(), std::string("{\\rtf1 x\0y}", 11));
+  [general_ declareTypes:@[ NSPasteboardTypeString, NSPasteboardTypeRTF, concealed ] owner:nil];
   [general_ setString:@"secret" forType:NSPasteboardTypeString];
+  [general_ setData:copied forType:NSPasteboardTypeRTF];
   [general_ setData:[NSData data] forType:concealed];
   EXPECT_TRUE(pasteboard_.isConcealed());
+  EXPECT_EQ(rtf(), std::nullopt);
   EXPECT_EQ(pasteboard_.plainText(), "secret");
   EXPECT_EQ(pasteboard_.html(), std::nullopt);
   [general_ clearContents];
   EXPECT_EQ(pasteboard_.plainText(), std::nullopt);
+  EXPECT_EQ(rtf(), std::nullopt);
   EXPECT_FALSE(pasteboard_.isConcealed());
 }
 

@@ -12,9 +12,11 @@
 #include <gtest/gtest.h>
 
 #include "FakeDesktop.h"
+#include "Quillseal/AccessibilityManager.h"
 #include "Quillseal/CryptoManager.h"
 #include "Quillseal/SecureEnclaveManager.h"
 #include "Quillseal/SigningCoordinator.h"
+#include "TaskResult.h"
 #include "core/signing/HandoffPage.h"
 #include "core/signing/SignedBlock.h"
 #include "core/text/Base64.h"
@@ -600,6 +602,26 @@ TEST_F(SigningCoordinatorTest, LeavesLongHtmlOutOfTheSigningPage) {
 }
 
 // Capture -----------------------------------------------------------------------------------------
+
+TEST_F(SigningCoordinatorTest, GivesTheRtfOfItsOwnCopyWhenAskedForIt) {
+  keys.selection->rtf = "{\\rtf1 copied}";
+  const auto capture = std::get<AccessibilityManager::Capture>(testing::resultOf(
+      loop, AccessibilityManager::captureSelectedContent({.applications = applications,
+                                                          .keys = keys,
+                                                          .log = log,
+                                                          .loop = loop,
+                                                          .pasteboard = pasteboard})));
+  EXPECT_THAT(trace, ElementsAre("press ⌘C"));
+  const auto rtf = [&] {
+    return std::get<Text>(testing::resultOf(loop, capture.content->rtfData()));
+  };
+  EXPECT_EQ(rtf(), "{\\rtf1 copied}");
+  const Copy other{.text = "x", .html = {}, .rtf = "{\\rtf1 of something else}"};
+  later = loop.after(1ms, [&] { pasteboard.put(other); });
+  EXPECT_EQ(rtf(), std::nullopt);
+  EXPECT_EQ(rtf(), std::nullopt);
+  EXPECT_THAT(trace, ElementsAre("press ⌘C", "fetch RTF", "fetch RTF"));
+}
 
 TEST_F(SigningCoordinatorTest, SignsTheSelectionOrElseAll) {
   const std::string more = text + " The rest.";

@@ -15,8 +15,9 @@ constexpr auto latin1 = "STRING";
 
 enum Group { concealedMark, hint, text, markup };
 
-const std::string* find(const Content& content, Group group, std::string& format) {
-  for (const std::string& name : wanted()[group]) {
+const std::string* find(const Content& content, const std::vector<std::string>& group,
+                        std::string& format) {
+  for (const std::string& name : group) {
     const auto found = content.find(name);
     if (found == content.end() || found->second.empty()) continue;
     format = name;
@@ -34,11 +35,16 @@ std::optional<std::string> present(std::string text) {
 
 }  // namespace
 
-const std::vector<std::vector<std::string>>& wanted() {
+const Groups& wanted() {
   // Of the plain texts the first has line feeds where the second has CR LF, in some programs; the
   // third is Latin-1 with escapes in one browser.
-  static const std::vector<std::vector<std::string>> groups = {
+  static const Groups groups = {
       {concealed}, {passwordHint}, {"UTF8_STRING", plainText, "text/plain", latin1}, {html}};
+  return groups;
+}
+
+const Groups& wantedForRtf() {
+  static const Groups groups = {{concealed}, {passwordHint}, {"text/rtf", "application/rtf"}};
   return groups;
 }
 
@@ -53,7 +59,7 @@ bool isSecret(const Content& content) {
 
 std::optional<std::string> plainTextOf(const Content& content) {
   std::string format;
-  const std::string* bytes = find(content, text, format);
+  const std::string* bytes = find(content, ofPlainText(), format);
   if (bytes == nullptr) return std::nullopt;
   const QByteArray raw = QByteArray::fromStdString(*bytes);
   return present(format == latin1 ? QString::fromLatin1(raw).toStdString() : *bytes);
@@ -61,12 +67,19 @@ std::optional<std::string> plainTextOf(const Content& content) {
 
 std::optional<std::string> htmlOf(const Content& content) {
   std::string format;
-  const std::string* bytes = find(content, markup, format);
+  const std::string* bytes = find(content, wanted()[markup], format);
   if (bytes == nullptr) return std::nullopt;
   // By its first bytes or what it says of itself.
   const QByteArray raw = QByteArray::fromStdString(*bytes);
   const QString decoded = QStringDecoder::decoderForHtml(raw)(raw);
   return present(decoded.toStdString());
+}
+
+std::optional<std::string> rtfOf(const Content& content) {
+  std::string format;
+  const std::string* bytes = find(content, wantedForRtf().back(), format);
+  if (bytes == nullptr || isSecret(content)) return std::nullopt;
+  return *bytes;
 }
 
 }  // namespace quillseal::linux::ClipboardFormats

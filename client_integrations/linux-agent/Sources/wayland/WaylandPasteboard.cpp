@@ -111,16 +111,28 @@ struct WaylandPasteboard::State {
 /// One fetch. It lives until its ticket is dropped.
 class WaylandPasteboard::Reading : public std::enable_shared_from_this<Reading> {
  public:
-  Reading(State& state, std::function<void()> done)
-      : state_(state), done_(std::move(done)), end_(loop().now() + state.patience.transfer) {}
+  using Done = std::function<void(ClipboardFormats::Content)>;
 
+  [[nodiscard]] static desktop::Ticket start(State& state, const ClipboardFormats::Groups& wanted,
+                                             Done done) {
+    const auto reading = std::make_shared<Reading>(state, wanted, std::move(done));
+    reading->begin();
+    return desktop::Ticket([reading] { reading->withdraw(); });
+  }
+
+  Reading(State& state, const ClipboardFormats::Groups& wanted, Done done)
+      : state_(state),
+        wanted_(wanted),
+        done_(std::move(done)),
+        end_(loop().now() + state.patience.transfer) {}
+
+ private:
   void begin() {
     offer_ = state_.current();
-    state_.fetched.clear();
     content_.clear();
     chosen_.clear();
     if (offer_ == nullptr) return finishLater();
-    for (const std::vector<std::string>& group : ClipboardFormats::wanted()) {
+    for (const std::vector<std::string>& group : wanted_) {
       const auto found = std::ranges::find_if(group, [this](const std::string& format) {
         return std::ranges::find(offer_->formats, format) != offer_->formats.end();
       });
@@ -136,7 +148,6 @@ class WaylandPasteboard::Reading : public std::enable_shared_from_this<Reading> 
     closePipe();
   }
 
- private:
   [[nodiscard]] desktop::MainLoop& loop() const { return state_.services.loop; }
 
   void ask() {
@@ -186,14 +197,10 @@ class WaylandPasteboard::Reading : public std::enable_shared_from_this<Reading> 
   void check() {
     timer_ = state_.services.connection.catchUp([this] {
       const auto self = shared_from_this();
-      if (state_.current() == offer_) {
-        state_.fetched = std::move(content_);
-        finish();
-      } else if (state_.current() != nullptr && loop().now() < end_) {
-        begin();
-      } else {
-        finish();
-      }
+      if (state_.current() == offer_) return finish();
+      if (state_.current() != nullptr && loop().now() < end_) return begin();
+      content_.clear();
+      finish();
     });
   }
 
@@ -205,7 +212,7 @@ class WaylandPasteboard::Reading : public std::enable_shared_from_this<Reading> 
     const auto self = shared_from_this();  // the completion may drop the ticket
     const auto done = std::exchange(done_, nullptr);
     withdraw();
-    if (done) done();
+    if (done) done(std::move(content_));
   }
 
   void closePipe() {
@@ -214,7 +221,8 @@ class WaylandPasteboard::Reading : public std::enable_shared_from_this<Reading> 
   }
 
   State& state_;
-  std::function<void()> done_;
+  const ClipboardFormats::Groups& wanted_;
+  Done done_;
   desktop::MainLoop::TimePoint end_;
   std::shared_ptr<Offer> offer_;
   std::vector<std::string> chosen_;
@@ -252,9 +260,12 @@ desktop::Ticket WaylandPasteboard::onNextChange(std::function<void()> changed) {
 }
 
 desktop::Ticket WaylandPasteboard::fetch(std::function<void()> fetched) {
-  const auto reading = std::make_shared<Reading>(*state_, std::move(fetched));
-  reading->begin();
-  return desktop::Ticket([reading] { reading->withdraw(); });
+  state_->fetched.clear();
+  return Reading::start(*state_, ClipboardFormats::wanted(),
+                        [this, fetched = std::move(fetched)](ClipboardFormats::Content content) {
+                          state_->fetched = std::move(content);
+                          fetched();
+                        });
 }
 
 bool WaylandPasteboard::isConcealed() const {
@@ -267,6 +278,13 @@ std::optional<std::string> WaylandPasteboard::plainText() const {
 
 std::optional<std::string> WaylandPasteboard::html() const {
   return ClipboardFormats::htmlOf(state_->fetched);
+}
+
+desktop::Ticket WaylandPasteboard::fetchRtf(std::function<void(std::optional<std::string>)> done) {
+  return Reading::start(*state_, ClipboardFormats::wantedForRtf(),
+                        [done = std::move(done)](const ClipboardFormats::Content& content) {
+                          done(ClipboardFormats::rtfOf(content));
+                        });
 }
 
 void WaylandPasteboard::write(const desktop::PasteboardContent& content) {

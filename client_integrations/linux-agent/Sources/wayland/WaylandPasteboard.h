@@ -47,11 +47,14 @@ class WaylandPasteboard : public desktop::Pasteboard {
   [[nodiscard]] desktop::Ticket onNextChange(std::function<void()> changed) override;
 
   /// Asks for one format after the other, as long as the owner keeps within `Patience`. When
-  /// somebody else copies meanwhile, that is fetched; when the owner goes, nothing counts.
+  /// somebody else copies meanwhile, that is fetched; when the owner goes, nothing counts. The same
+  /// holds for `fetchRtf`.
   [[nodiscard]] desktop::Ticket fetch(std::function<void()> fetched) override;
   [[nodiscard]] bool isConcealed() const override;
   [[nodiscard]] std::optional<std::string> plainText() const override;
   [[nodiscard]] std::optional<std::string> html() const override;
+  [[nodiscard]] desktop::Ticket fetchRtf(
+      std::function<void(std::optional<std::string>)> done) override;
   void write(const desktop::PasteboardContent& content) override;
 
   /// Takes what is selected in that window as if it had been copied, when the primary selection was

@@ -14,18 +14,21 @@
 namespace quillseal::linux {
 namespace {
 
-ClipboardFormats::Content contentOf(const QMimeData* data) {
+ClipboardFormats::Content contentOf(const QMimeData* data,
+                                    const ClipboardFormats::Groups& formats) {
   ClipboardFormats::Content content;
   if (data == nullptr) return content;
-  for (const std::vector<std::string>& group : ClipboardFormats::wanted())
+  for (const std::vector<std::string>& group : formats)
     for (const std::string& format : group)
       if (const QString name = toQString(format); data->hasFormat(name))
         content[format] = data->data(name).toStdString();
   return content;
 }
 
-bool isOnX() {
-  return qGuiApp->nativeInterface<QNativeInterface::QX11Application>() != nullptr;
+/// Whether no other program has to be asked for what is on the clipboard.
+bool isAtHand() {
+  return QGuiApplication::clipboard()->ownsClipboard() ||
+         qGuiApp->nativeInterface<QNativeInterface::QX11Application>() == nullptr;
 }
 
 }  // namespace
@@ -38,8 +41,8 @@ QtPasteboard::QtPasteboard(const X11Selection::Services& services) : services_(s
 }
 
 ClipboardFormats::Content QtPasteboard::offered() const {
-  const QClipboard* const clipboard = QGuiApplication::clipboard();
-  if (clipboard->ownsClipboard() || !isOnX()) return contentOf(clipboard->mimeData());
+  if (isAtHand())
+    return contentOf(QGuiApplication::clipboard()->mimeData(), ClipboardFormats::wanted());
   return fetched_.value_or(ClipboardFormats::Content());
 }
 
@@ -51,18 +54,35 @@ desktop::Ticket QtPasteboard::onNextChange(std::function<void()> changed) {
 }
 
 desktop::Ticket QtPasteboard::fetch(std::function<void()> fetched) {
-  if (QGuiApplication::clipboard()->ownsClipboard() || !isOnX() || fetched_) {
+  if (isAtHand() || fetched_) {
     fetched();
+    return {};
+  }
+  return read(ClipboardFormats::wanted(),
+              [this, fetched = std::move(fetched)](ClipboardFormats::Content content) {
+                fetched_ = std::move(content);
+                fetched();
+              });
+}
+
+desktop::Ticket QtPasteboard::fetchRtf(std::function<void(std::optional<std::string>)> done) {
+  return read(ClipboardFormats::wantedForRtf(),
+              [done = std::move(done)](const ClipboardFormats::Content& content) {
+                done(ClipboardFormats::rtfOf(content));
+              });
+}
+
+desktop::Ticket QtPasteboard::read(const ClipboardFormats::Groups& formats,
+                                   std::function<void(ClipboardFormats::Content)> done) {
+  if (isAtHand()) {
+    done(contentOf(QGuiApplication::clipboard()->mimeData(), formats));
     return {};
   }
   return X11Selection::read(services_,
                             {.selection = X11Selection::Name::clipboard,
-                             .formats = ClipboardFormats::wanted(),
+                             .formats = formats,
                              .isEnough = ClipboardFormats::isSecret},
-                            [this, fetched = std::move(fetched)](X11Selection::Content content) {
-                              fetched_ = std::move(content);
-                              fetched();
-                            });
+                            std::move(done));
 }
 
 bool QtPasteboard::isConcealed() const {
@@ -99,7 +119,8 @@ desktop::Ticket QtPasteboard::copyPrimarySelection(std::function<void()> done) {
     done();
   };
   if (clipboard->ownsSelection()) {
-    arrive(contentOf(clipboard->mimeData(QClipboard::Selection)));
+    arrive(
+        contentOf(clipboard->mimeData(QClipboard::Selection), {ClipboardFormats::ofPlainText()}));
     return {};
   }
   return X11Selection::read(services_,

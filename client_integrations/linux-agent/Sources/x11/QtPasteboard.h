@@ -23,6 +23,8 @@ class QtPasteboard : public desktop::Pasteboard {
   [[nodiscard]] bool isConcealed() const override;
   [[nodiscard]] std::optional<std::string> plainText() const override;
   [[nodiscard]] std::optional<std::string> html() const override;
+  [[nodiscard]] desktop::Ticket fetchRtf(
+      std::function<void(std::optional<std::string>)> done) override;
   void write(const desktop::PasteboardContent& content) override;
 
   /// Copies what is selected anywhere on the desktop, its plain text, as the program could that it
@@ -34,6 +36,8 @@ class QtPasteboard : public desktop::Pasteboard {
 
  private:
   [[nodiscard]] ClipboardFormats::Content offered() const;
+  [[nodiscard]] desktop::Ticket read(const ClipboardFormats::Groups& formats,
+                                     std::function<void(ClipboardFormats::Content)> done);
 
   X11Selection::Services services_;
   QObject receiver_;

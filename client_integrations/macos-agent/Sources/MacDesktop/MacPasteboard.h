@@ -13,6 +13,8 @@ class MacPasteboard final : public desktop::Pasteboard {
   [[nodiscard]] bool isConcealed() const override;
   [[nodiscard]] std::optional<std::string> plainText() const override;
   [[nodiscard]] std::optional<std::string> html() const override;
+  [[nodiscard]] desktop::Ticket fetchRtf(
+      std::function<void(std::optional<std::string>)> done) override;
   void write(const desktop::PasteboardContent& content) override;
 };
 

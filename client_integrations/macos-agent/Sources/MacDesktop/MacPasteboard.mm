@@ -62,6 +62,19 @@ std::optional<std::string> MacPasteboard::plainText() const {
 
 std::optional<std::string> MacPasteboard::html() const { return stringOf(NSPasteboardTypeHTML); }
 
+desktop::Ticket MacPasteboard::fetchRtf(std::function<void(std::optional<std::string>)> done) {
+  std::optional<std::string> rtf;
+  if (!isConcealed()) {
+    rtf = callSystem([]() -> std::optional<std::string> {
+      NSData* data = [NSPasteboard.generalPasteboard dataForType:NSPasteboardTypeRTF];
+      if (data.length == 0) return std::nullopt;
+      return std::string(static_cast<const char*>(data.bytes), data.length);
+    });
+  }
+  done(std::move(rtf));
+  return {};
+}
+
 void MacPasteboard::write(const desktop::PasteboardContent& content) {
   const bool isWritten = callSystem([&] {
     // One item with both flavours: no reader can see the first without the second.

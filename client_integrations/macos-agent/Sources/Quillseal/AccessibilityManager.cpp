@@ -21,6 +21,8 @@ constexpr auto pollingInterval = 30ms;
 /// Sources write one flavour after the other; the change is seen with the first.
 constexpr auto settleTime = 80ms;
 constexpr auto pauseAfterSelectAll = 250ms;
+/// What another program has copied can be read a moment before the desktop reports the change.
+constexpr auto reportingTime = 80ms;
 
 std::optional<std::string> wellFormed(const std::optional<std::string>& text) {
   if (!text) return std::nullopt;
@@ -84,6 +86,19 @@ CopyOutcome outcomeOf(desktop::Delivery failure) {
   }
 }
 
+/// The RTF of the copy with that change count.
+Task<std::optional<std::string>> rtfOf(desktop::MainLoop& loop, desktop::Pasteboard& pasteboard,
+                                       std::int64_t changeCount) {
+  if (pasteboard.changeCount() != changeCount) co_return std::nullopt;
+  std::optional<std::string> rtf = co_await completionOf<std::optional<std::string>>(
+      [&pasteboard](std::function<void(std::optional<std::string>)> done) {
+        return pasteboard.fetchRtf(std::move(done));
+      });
+  co_await sleep(loop, reportingTime);
+  if (pasteboard.changeCount() != changeCount) co_return std::nullopt;
+  co_return rtf;
+}
+
 Copy failed(CopyOutcome outcome) {
   Copy copy;
   copy.outcome = outcome;
@@ -130,6 +145,7 @@ Task<Copy> copySelection(Services services,
   co_await completionOf<void>([&pasteboard](std::function<void()> fetched) {
     return pasteboard.fetch(std::move(fetched));
   });
+  changeCount = pasteboard.changeCount();
   if (pasteboard.isConcealed()) co_return failed(CopyOutcome::secret);
   std::optional<std::string> text = wellFormed(pasteboard.plainText());
   // A copy that may not be read does not mean that nothing was selected.
@@ -137,7 +153,10 @@ Task<Copy> copySelection(Services services,
   if (!text || unicode::trimmed(*text).empty()) co_return failed(CopyOutcome::noText);
   co_return Copy{.outcome = CopyOutcome::copied,
                  .plainText = *std::move(text),
-                 .html = wellFormed(pasteboard.html())};
+                 .html = wellFormed(pasteboard.html()),
+                 .rtf = [&loop = services.loop, &pasteboard, changeCount] {
+                   return rtfOf(loop, pasteboard, changeCount);
+                 }};
 }
 
 Task<Capture> captureSelectedContent(Services services) {
@@ -169,6 +188,7 @@ Task<Capture> captureSelectedContent(Services services) {
     SigningScope::AppScope detected = detectAppScope(source);
     capture.content = CapturedContent{.plainText = std::move(copy.plainText),
                                       .htmlContent = std::move(copy.html),
+                                      .rtfData = std::move(copy.rtf),
                                       .sourceApp = std::move(detected.app),
                                       .scope = std::move(detected.scope),
                                       .sourceApplication = source};

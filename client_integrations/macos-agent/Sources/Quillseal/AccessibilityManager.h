@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -14,11 +15,16 @@
 
 namespace quillseal {
 
-/// A selection with the application it was made in. All texts are well-formed UTF-8. A copy's RTF
-/// is left where it is: a signed block is pasted as plain text or HTML.
+/// Fetches the RTF of a copy, bytes as offered, when it is asked for: a word processor may take
+/// seconds to write it, and a signed block is pasted as plain text or HTML. Gives nothing when none
+/// is offered, or once the clipboard has changed. REQUIRES: pasteboard and main loop still exist.
+using RtfData = std::function<Task<std::optional<std::string>>()>;
+
+/// A selection with the application it was made in. All texts are well-formed UTF-8.
 struct CapturedContent {
   std::string plainText;  ///< as copied, not trimmed
   std::optional<std::string> htmlContent;
+  RtfData rtfData;
   std::string sourceApp;  ///< display name
   std::string scope;      ///< the medium
   std::optional<desktop::RunningApplication> sourceApplication;
@@ -64,6 +70,7 @@ struct Copy {
   CopyOutcome outcome = CopyOutcome::unchanged;
   std::string plainText;
   std::optional<std::string> html;
+  RtfData rtf;
 };
 
 /// Has `source` copy its selection.

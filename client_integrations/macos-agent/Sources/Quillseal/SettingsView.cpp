@@ -98,15 +98,13 @@ desktop::FormSection SettingsView::machineSection() {
                                      "That is not a basis for trusting a payment request.",
                                  TextColour::orange)
                        : caption("Signatures are attributed to " + IdentityName::shown(identity)));
-  // Where the key could not be looked up, a new one may take its place.
-  const bool mayHaveKey = isEnrolled_ || !lookupFailure_.empty();
   section.rows.emplace_back(
-      desktop::FormButton{.label = isEnrolling_ ? "Enrolling…"
-                                   : mayHaveKey ? "Re-enrol This " + words.machineInTitle
-                                                : "Enrol This " + words.machineInTitle,
+      desktop::FormButton{.label = isEnrolling_  ? "Enrolling…"
+                                   : isEnrolled_ ? "Re-enrol This " + words.machineInTitle
+                                                 : "Enrol This " + words.machineInTitle,
                           .enabled = !isEnrolling_,
                           .pressed = [this] { enrol(); }});
-  if (mayHaveKey) {
+  if (isEnrolled_) {
     section.rows.emplace_back(caption(
         "Re-enrolling creates a NEW key. Signatures already made remain verifiable, but this " +
         words.machine + " must be re-enrolled on the server."));

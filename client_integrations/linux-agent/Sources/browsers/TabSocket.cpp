@@ -14,7 +14,7 @@
 
 #include "session/PrivateFolder.h"
 
-namespace quillseal::linux {
+namespace quillseal::linux::TabSocket {
 namespace {
 
 namespace fs = std::filesystem;
@@ -47,8 +47,6 @@ bool callWithAddress(AddressCall call, const FileDescriptor& socket, const fs::p
 }
 
 }  // namespace
-
-namespace TabSocket {
 
 FileDescriptor listen() {
   if (connect()) throw std::runtime_error("another agent of this user listens already.");
@@ -108,5 +106,4 @@ std::string receive(const FileDescriptor& readable) {
   return {piece.data(), count > 0 ? static_cast<std::size_t>(count) : 0};
 }
 
-}  // namespace TabSocket
-}  // namespace quillseal::linux
+}  // namespace quillseal::linux::TabSocket

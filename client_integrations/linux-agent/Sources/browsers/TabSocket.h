@@ -6,12 +6,10 @@
 
 #include "session/FileDescriptor.h"
 
-namespace quillseal::linux {
-
 /// The socket at which the agent awaits the relays of the user's browsers:
 /// `$XDG_RUNTIME_DIR/quillseal/tabs`, of mode 0600 in a folder of mode 0700. Functions that throw
 /// throw std::runtime_error with a sentence.
-namespace TabSocket {
+namespace quillseal::linux::TabSocket {
 
 /// File name of the socket in `runtimeFolder()`.
 inline constexpr std::string_view name = "tabs";
@@ -39,5 +37,4 @@ inline constexpr std::string_view name = "tabs";
 /// has.
 [[nodiscard]] std::string receive(const FileDescriptor& readable);
 
-}  // namespace TabSocket
-}  // namespace quillseal::linux
+}  // namespace quillseal::linux::TabSocket

@@ -6,7 +6,7 @@
 
 namespace quillseal::linux {
 
-/// What an installed application says about itself in its desktop file.
+/// The fields of an installed application's desktop file that the agent uses.
 struct DesktopEntry {
   std::string id;            ///< File name without ".desktop", such as "org.gnome.TextEditor".
   std::string name;          ///< In the user's language.
@@ -16,7 +16,7 @@ struct DesktopEntry {
   bool seesOurFiles = true;  ///< False for a Flatpak that is started without its files.
 };
 
-/// What can be found out about a window, each empty when it is not known.
+/// What identifies a window's application. Each member is empty when it is not known.
 struct WindowTraits {
   std::string windowClass;       ///< The class part of WM_CLASS.
   std::string gtkApplicationId;  ///< _GTK_APPLICATION_ID.
@@ -26,22 +26,22 @@ struct WindowTraits {
 };
 
 /// The installed applications: desktop files under the XDG data folders. Main thread only. Every
-/// function throws Error when they cannot be looked at.
+/// function throws Error when the lookup fails.
 class DesktopEntries {
  public:
   virtual ~DesktopEntries() = default;
 
-  /// The application that a window with these traits belongs to. In this order, without regard to
-  /// case: a StartupWMClass equal to the class, a file named after the GTK id, after the class,
-  /// after the executable. Nothing when there is none.
+  /// Returns the application that a window with these traits belongs to, or nothing. Compares
+  /// without regard to case, in this order: StartupWMClass with the class, then the file's name
+  /// with the GTK id, the class and the executable.
   [[nodiscard]] virtual std::optional<DesktopEntry> forWindow(const WindowTraits& traits) = 0;
 
   [[nodiscard]] virtual std::optional<DesktopEntry> withId(std::string_view id) = 0;
 
-  /// The application that opens this URL by the user's choice.
+  /// Returns the application that the user has chosen for such URLs.
   [[nodiscard]] virtual std::optional<DesktopEntry> defaultFor(const std::string& url) = 0;
 
-  /// Starts the application with this id on a URL. False when it is not installed or could not be
+  /// Opens a URL with the application of this id. False when it is not installed or could not be
   /// started.
   [[nodiscard]] virtual bool open(const std::string& url, std::string_view id) = 0;
 };

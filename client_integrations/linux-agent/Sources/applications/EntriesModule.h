@@ -9,7 +9,7 @@ namespace quillseal::linux::EntriesModule {
 
 inline constexpr const char* fileName = "quillseal-entries.so";
 
-/// Its one function, and the name that it has there.
+/// The only function that the module exports, and its symbol.
 using Make = void(std::unique_ptr<DesktopEntries>& made);
 inline constexpr const char* make = "quillseal_make_desktop_entries";
 

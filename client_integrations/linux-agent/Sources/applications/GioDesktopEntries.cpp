@@ -43,8 +43,8 @@ DesktopEntry entryOf(GDesktopAppInfo* info) {
                             .filename()
                             .string(),
           .snap = value(info, "X-SnapInstanceName"),
-          // With the option, `flatpak run` has the document portal show the program each file that
-          // its command line names.
+          // With this option, `flatpak run` exports each file on the command line to the program
+          // through the document portal.
           .seesOurFiles = value(info, "X-Flatpak").empty() ||
                           value(info, "Exec").find("--file-forwarding") != std::string::npos};
 }

@@ -9,9 +9,9 @@
 
 namespace quillseal::linux {
 
-/// Desktop files as GIO reads them, which keeps itself up to date. One signature asks several times
-/// about a window, and every installed application is looked at, so the last answer about one holds
-/// for some minutes.
+/// Reads desktop files with GIO, which notices when they change. A lookup goes through every
+/// installed application and one signature asks several times about the same window, so the last
+/// answer is cached for some minutes.
 class GioDesktopEntries final : public DesktopEntries {
  public:
   [[nodiscard]] std::optional<DesktopEntry> forWindow(const WindowTraits& traits) override;

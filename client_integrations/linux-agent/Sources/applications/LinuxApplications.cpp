@@ -20,7 +20,8 @@ RunningApplication LinuxApplications::applicationOf(const Window& window) const 
                                  .document = window.document};
   if (const auto entry = entries_.forWindow(traits)) {
     application.name = entry->name;
-    // Not by the executable: a browser's programs for single sites have desktop files of their own.
+    // Not by the executable: web apps installed from a browser share it but have their own desktop
+    // files.
     application.bundleIdentifier =
         Browsers::identifierOf({.desktopFile = entry->id, .executable = {}});
     application.categories = entry->categories;

@@ -11,9 +11,9 @@
 
 namespace quillseal::linux {
 
-/// What holds for applications under X11 and Wayland alike. An instance is a window; a location is
-/// the id of a desktop file, and so is a bundle identifier, but that of a browser is the same under
-/// all the names that it may have.
+/// The part of `Applications` that X11 and Wayland share. An instance is a window. A location is
+/// the id of a desktop file, and so is a bundle identifier, except that a browser has one bundle
+/// identifier (`Browsers`) however its desktop file is named.
 class LinuxApplications : public desktop::Applications {
  public:
   /// Both outlive this object.
@@ -34,7 +34,7 @@ class LinuxApplications : public desktop::Applications {
     WindowTraits traits;
     std::string document;  ///< made by `documentName`
   };
-  /// The application that the window belongs to.
+  /// Returns the application that the window belongs to.
   [[nodiscard]] desktop::RunningApplication applicationOf(const Window& window) const;
 
  private:

@@ -7,7 +7,7 @@
 
 namespace quillseal::linux {
 
-/// The entries of `EntriesModule`, which is loaded with the first question.
+/// The entries of `EntriesModule`. Loads the module at the first lookup.
 class LoadedDesktopEntries final : public DesktopEntries {
  public:
   explicit LoadedDesktopEntries(LoadedModule module);

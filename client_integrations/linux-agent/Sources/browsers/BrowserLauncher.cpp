@@ -24,7 +24,8 @@ std::optional<InstalledApplication> installed(const std::optional<DesktopEntry>&
                                   {.desktopFile = entry->id, .executable = entry->executable})};
 }
 
-/// Where a Snap's program may read, unlike in the runtime folder; made by its first start.
+/// A folder that the Snap's program may read; it may not read the runtime folder. The first start
+/// of the Snap creates it.
 std::filesystem::path folderOfSnap(const std::string& snap) {
   const char* const home = std::getenv("HOME");  // NOLINT(concurrency-mt-unsafe)
   if (home == nullptr || snap.find('/') != std::string::npos)

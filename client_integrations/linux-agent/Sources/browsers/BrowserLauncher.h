@@ -11,7 +11,7 @@
 
 namespace quillseal::linux {
 
-/// Opens web pages in the browsers that are installed. Main thread.
+/// Opens web pages in installed browsers. Main thread.
 class BrowserLauncher {
  public:
   /// Both outlive this object.
@@ -22,9 +22,9 @@ class BrowserLauncher {
   [[nodiscard]] std::optional<desktop::InstalledApplication> defaultFor(
       const std::string& url) const;
 
-  /// With the application whose desktop file `location` names, or with the user's choice for such
-  /// addresses when it is empty. The address goes by a page on this computer (LeadingPage), never
-  /// on a command line. Throws Error.
+  /// Opens `url` in the application whose desktop file `location` names, or in the user's default
+  /// for such URLs when `location` is empty. The command line names only a local page
+  /// (LeadingPage), never the URL. Throws Error.
   void open(const std::string& url, const std::string& location);
 
  private:

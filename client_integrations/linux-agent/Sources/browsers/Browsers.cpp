@@ -9,11 +9,11 @@ namespace {
 struct Row {
   std::string_view desktopFile;
   std::string_view identifier;
-  std::string_view program;  ///< the executable behind any start script
+  std::string_view program;  ///< the executable, not a start script
 };
 
-// As the vendors, distributions, Flathub and the Snap Store name them; the channels of Chrome share
-// one program name.
+// The names used by vendors, distributions, Flathub and the Snap Store. All channels of Chrome
+// share one program name.
 constexpr std::array rows{
     Row{"brave-browser", "brave-browser", "brave"},
     Row{"chromium", "chromium", "chromium"},

@@ -36,8 +36,8 @@ LeadingPage::LeadingPage(std::string_view url, const fs::path& folder) {
   removeLeftovers(folder);
   std::string path = folder / (std::string(prefix) + "XXXXXX" + std::string(suffix));
   const FileDescriptor file(::mkostemps(path.data(), static_cast<int>(suffix.size()), O_CLOEXEC));
-  // No URL holds a quotation mark, an angle bracket or a backslash. What is replaced stays out of
-  // the history.
+  // No URL holds a quotation mark, an angle bracket or a backslash. location.replace keeps this
+  // page out of the history.
   const std::string page =
       "<!DOCTYPE html><meta charset=\"utf-8\"><title>Quillseal</title><script>" +
       ("location.replace(\"" + std::string(url)) + "\")</script>\n";

@@ -7,14 +7,14 @@
 
 namespace quillseal::linux {
 
-/// A page on this computer that leads the browser which opens it on to another address: a file that
-/// only this user may read, deleted at the end of this object's life. Command lines are open to all
-/// users of the computer; the page's address says nothing.
+/// A local page that redirects the browser to a URL: a file that only this user may read, deleted
+/// with this object. All users of the computer can read command lines; the address of this page
+/// reveals nothing.
 class LeadingPage {
  public:
-  /// `url` holds only what RFC 3986 allows in a URL, `folder` is this user's alone. Deletes the
-  /// pages there that an agent has left behind that was killed. Throws std::runtime_error with a
-  /// sentence when the file cannot be written.
+  /// `url` holds only what RFC 3986 allows in a URL, `folder` is this user's alone. Deletes pages
+  /// there that a killed agent left behind. Throws std::runtime_error with a sentence when the file
+  /// cannot be written.
   LeadingPage(std::string_view url, const std::filesystem::path& folder);
   ~LeadingPage();
   LeadingPage(LeadingPage&& other) noexcept;
@@ -22,10 +22,10 @@ class LeadingPage {
   LeadingPage(const LeadingPage&) = delete;
   LeadingPage& operator=(const LeadingPage&) = delete;
 
-  /// How long a page is there for a browser that has to start first.
+  /// How long a page is kept; the browser may have to start first.
   static constexpr std::chrono::minutes life{2};
 
-  /// As a browser opens it.
+  /// The URL to open in the browser.
   [[nodiscard]] std::string address() const { return "file://" + path_.string(); }
 
  private:

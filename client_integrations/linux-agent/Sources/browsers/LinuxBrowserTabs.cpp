@@ -30,7 +30,7 @@ using ConnectionId = std::uint64_t;
 using QueryId = std::int64_t;
 using Operation = decltype(TabMessages::Request::operation);
 
-/// A tab as the agent knows it: browsers number their tabs each for itself.
+/// A tab's name for the agent: each browser numbers its own tabs.
 struct TabName {
   ConnectionId connection = 0;
   std::int64_t tab = 0;
@@ -52,7 +52,7 @@ struct TabName {
 
 struct Connection {
   FileDescriptor socket;
-  std::string program;  ///< empty until it has said so
+  std::string program;  ///< empty until the greeting
   TabMessages::Deframer incoming;
   Ticket greetingTimer;
   Ticket watch;  // last: gone before the socket is
@@ -60,9 +60,9 @@ struct Connection {
 
 using Answers = std::map<ConnectionId, Answer>;
 
-/// A question that was put to one or more connections.
+/// A request that was sent to one or more connections.
 struct Query {
-  std::size_t kind = 0;  ///< index of the operation, and so of the result that fits
+  std::size_t kind = 0;  ///< index of the operation, and so of its result
   std::vector<ConnectionId> awaited;
   Answers answers;
   std::function<void(const Answers&)> done;
@@ -83,8 +83,8 @@ std::optional<std::string> tabLookedAtLast(const Answers& answers) {
 
 }  // namespace
 
-/// The listening socket, its connections and what was asked of them. Completions run from the loop
-/// with nothing of this object below them, so that they may destroy it.
+/// The listening socket, its connections and the open requests. Completions run from the loop with
+/// no frame of this object on the stack, so that they may destroy it.
 class LinuxBrowserTabs::Hub : public std::enable_shared_from_this<Hub> {
  public:
   explicit Hub(const Services& services) : services_(services), listening_(-1) {}
@@ -108,7 +108,7 @@ class LinuxBrowserTabs::Hub : public std::enable_shared_from_this<Hub> {
     return result;
   }
 
-  /// Puts a question to each connection. `done` gets the answers that came in time.
+  /// Sends a request to each connection. `done` gets the answers that came in time.
   Ticket ask(const std::vector<ConnectionId>& connections,
              const std::function<Operation(ConnectionId)>& operationFor,
              std::function<void(const Answers&)> done) {
@@ -135,8 +135,8 @@ class LinuxBrowserTabs::Hub : public std::enable_shared_from_this<Hub> {
            TabSocket::send(found->second.socket, TabMessages::framed(message));
   }
 
-  /// Makes it, where none is left, at the cost of a connection that has said nothing yet: a relay
-  /// says its greeting at once.
+  /// When all places are taken, drops a connection that has sent no greeting: a relay greets at
+  /// once.
   [[nodiscard]] bool hasRoom() {
     if (connections_.size() < mostConnections) return true;
     const auto silent = std::ranges::find_if(
@@ -197,7 +197,7 @@ class LinuxBrowserTabs::Hub : public std::enable_shared_from_this<Hub> {
 
   void note(ConnectionId connection, const Answer& answer) {
     const auto found = queries_.find(answer.id);
-    if (found == queries_.end()) return;  // too late, or nobody waits any more
+    if (found == queries_.end()) return;  // too late, or withdrawn
     Query& query = found->second;
     if (answer.result.index() != query.kind)
       throw TabMessages::ProtocolError("An answer is not of the kind that was asked for.");
@@ -272,7 +272,8 @@ Ticket LinuxBrowserTabs::closeAndRestore(const desktop::TabReturn& request,
     if (tab && tab->connection == connection) close.tab = tab->tab;
     return close;
   };
-  // One profile may close the marked tab while another shows the remembered one, or has gone.
+  // The marked tab and the remembered tab may be in different profiles, and one of them may be
+  // gone.
   const auto isDone = [tab, isTabAskedFor = request.tab.has_value()](const Answers& answers) {
     bool isClosed = false;
     bool isRestored = !isTabAskedFor;

@@ -10,14 +10,14 @@
 
 namespace quillseal::linux {
 
-/// The tabs of browsers in which the Quillseal extension is installed: each connects through its
-/// relay, once for every profile in use. A browser is named as `Browsers` identifies it. One that
-/// is not connected, or does not answer in time, has no tabs.
+/// The tabs of browsers in which the Quillseal extension is installed. Each profile in use connects
+/// through its own relay. Browsers are named by their identifier (`Browsers`). A browser that is
+/// not connected or does not answer in time has no tabs.
 class LinuxBrowserTabs final : public desktop::BrowserTabs {
  public:
   static constexpr std::chrono::milliseconds longestWait{1500};
 
-  /// How long a connection may stay without having said which browser it is for.
+  /// How long a connection may stay open without a greeting.
   static constexpr std::chrono::seconds greetingPatience{5};
 
   struct Services {

@@ -42,7 +42,7 @@ bool callWithAddress(AddressCall call, const FileDescriptor& socket, const fs::p
     throw std::runtime_error("“" + text + "” is too long for the name of a socket.");
   address.sun_family = AF_UNIX;
   std::memcpy(address.sun_path, text.data(), text.size());
-  // The system's own convention: every kind of address travels as a sockaddr.
+  // The socket API takes every kind of address as a sockaddr.
   return call(socket.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
 }
 

@@ -55,7 +55,7 @@ std::optional<P256::Point> pointOf(EVP_PKEY* key) {
   return point;
 }
 
-/// What a key file holds, as far as it can be read without the passphrase.
+/// The parts of a key file that can be read without the passphrase.
 struct StoredKey {
   P256::Point publicKey;
   openssl::EncryptedKey privateKey;
@@ -73,8 +73,8 @@ std::uint64_t valueOf(const ASN1_INTEGER* number) {
   return ::ASN1_INTEGER_get_uint64(&value, number) == 1 ? std::min(value, tooLarge) : tooLarge;
 }
 
-/// Whether opening the key takes no longer than it does for one that was made here. OpenSSL bounds
-/// the memory that a file may ask for, but not the time, which can be years.
+/// Returns whether decrypting takes no longer than for a key made here. OpenSSL bounds the memory
+/// that a file may demand, but not the time, which could be years.
 bool isOpenedInTime(const X509_SIG* encrypted) {
   const X509_ALGOR* scheme = nullptr;
   ::X509_SIG_get0(encrypted, &scheme, nullptr);
@@ -190,8 +190,8 @@ std::optional<std::vector<std::uint8_t>> FileKeyStore::sign(const P256::Digest& 
                                                             const SecretBytes& secret) const {
   const ErrorQueueScope errors;
   const StoredKey stored = readKey(file_);
-  // The file is known to be whole, so what cannot be decrypted means a wrong passphrase; one in a
-  // few hundred of those still gives a well-padded, meaningless key.
+  // The checksum was right, so a failed decryption means a wrong passphrase. One wrong passphrase
+  // in a few hundred still gives valid padding and a meaningless key.
   const openssl::KeyInfo plain(::PKCS8_decrypt(stored.privateKey.get(), secret.text().data(),
                                                static_cast<int>(secret.size())));
   if (!plain) return std::nullopt;

@@ -11,17 +11,17 @@
 
 namespace quillseal::linux {
 
-/// How hard a passphrase guess is made (RFC 7914). The standing choice takes 16 MiB and 0.2 to 0.8
-/// seconds, as OWASP advises for passwords kept on a server; OpenSSL refuses to open a file that
-/// needs more than 32 MiB.
+/// The parameters of scrypt, which set the cost of each guess (RFC 7914). The defaults take 16 MiB
+/// and 0.2 to 0.8 seconds, as OWASP advises for passwords kept on a server. OpenSSL refuses to open
+/// a file that needs more than 32 MiB.
 struct ScryptCost {
   std::uint64_t n = 1U << 14U;  ///< a power of two
   std::uint64_t r = 8;
   std::uint64_t p = 5;
 };
 
-/// The device key in a file: a PKCS#8 PEM encrypted with AES-256 under a passphrase, and beside it
-/// in the same file the public key. Any OpenSSL can open it, given the passphrase.
+/// The device key in a file: a PKCS#8 PEM encrypted with AES-256 under a passphrase, followed by
+/// the public key. OpenSSL can open it with the passphrase.
 class FileKeyStore final : public KeyMedium {
  public:
   struct Options {

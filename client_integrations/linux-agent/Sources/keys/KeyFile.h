@@ -7,9 +7,9 @@
 #include <string_view>
 #include <vector>
 
-/// The text form in which both key stores keep a key: a line that says what it is, a line with the
-/// SHA-256 of the rest, then PEM blocks (RFC 7468). The sum tells accidental damage apart from a
-/// wrong secret; it is no protection against tampering.
+/// The text format of both key stores: a headline, a line with the SHA-256 of the rest, then PEM
+/// blocks (RFC 7468). The checksum tells accidental damage from a wrong secret; it does not protect
+/// against tampering.
 namespace quillseal::linux::KeyFile {
 
 /// One PEM block.
@@ -18,11 +18,11 @@ struct Block {
   std::vector<std::uint8_t> bytes;
 };
 
-/// The file of these blocks, in their order.
+/// Returns the text of a file with these blocks.
 [[nodiscard]] std::string write(std::string_view headline, std::span<const Block> blocks);
 
-/// The blocks of a file, which must be the ones named, in that order; nothing when the file is
-/// damaged or another kind of file.
+/// Parses a file whose blocks must be the named ones, in that order. Nothing when it is damaged or
+/// of another kind.
 [[nodiscard]] std::optional<std::vector<Block>> read(std::string_view file,
                                                      std::span<const std::string_view> labels);
 

@@ -19,7 +19,7 @@ std::string sentence(std::string_view text) {
   return result;
 }
 
-/// What choosing `target` means for the key there is and for the media that were passed over.
+/// Says what choosing `target` means for an existing key, and why the media before it were skipped.
 std::string noticeFor(const KeyMedium& target, const KeyMedium* present,
                       const std::string& obstacles) {
   if (present == nullptr) return obstacles;
@@ -30,7 +30,7 @@ std::string noticeFor(const KeyMedium& target, const KeyMedium* present,
   return obstacles.empty() ? notice : obstacles + ' ' + notice;
 }
 
-/// Releases the device's lock during its lifetime.
+/// Unlocks the device during its lifetime.
 class Unlocked {
  public:
   explicit Unlocked(std::unique_lock<std::mutex>& lock) : lock_(lock) { lock_.unlock(); }
@@ -53,7 +53,7 @@ SecretBytes askForNew(SecretPrompt& prompt, NewSecretRequest request) {
 
 }  // namespace
 
-/// A key in a medium, with the question that its use needs.
+/// A key in a medium. Asks for its secret when it is used.
 class LinuxKeyStore::Key final : public desktop::DeviceKey {
  public:
   Key(const LinuxKeyStore& store, const KeyMedium& medium, std::optional<desktop::Prompt> prompt)
@@ -88,7 +88,7 @@ class LinuxKeyStore::Key final : public desktop::DeviceKey {
       }();
       if (!secret) throw KeyFailure("no " + secretName + " was entered.");
       if (auto signature = medium_.sign(digest, *secret)) {
-        // Also finds a key that was exchanged while the question was open.
+        // Also detects a key that was replaced while the question was open.
         if (!P256::verifies({.publicKey = publicKey, .digest = digest, .signature = *signature}))
           throw KeyFailure(
               "the signature does not match the key. Enrol this computer again in "
@@ -199,7 +199,7 @@ std::unique_ptr<LinuxKeyStore> makeKeyStore(const KeyStoreOptions& options, Secr
   const std::string name(desktop::KeyStore::applicationTag);
   std::vector<std::unique_ptr<KeyMedium>> media;
   if (options.tpm != "none") {
-    // Another scheme would make the loader run a library of that name.
+    // The TCTI loader would load a library named after any other scheme.
     if (!options.tpm.empty() && !options.tpm.starts_with("swtpm:") &&
         !options.tpm.starts_with("mssim:"))
       throw KeyFailure("“" + options.tpm + "” names no TPM. Use none, swtpm:… or mssim:….");

@@ -13,15 +13,14 @@
 
 namespace quillseal::linux {
 
-/// The device key of a Linux desktop. Chooses where a new key goes (the first usable medium), finds
-/// the one there is, and puts the questions: three tries for a PIN or passphrase, a new one before
-/// anything is deleted. A key in one medium gives way to one in another only when the person has
-/// been told so in that question.
+/// The device key of a Linux desktop. Puts a new key into the first usable medium, finds an
+/// existing one, and asks the user: three tries for a PIN or passphrase, and for a new one before
+/// anything is deleted. The question says so when the new key replaces one in another medium.
 class LinuxKeyStore final : public desktop::KeyStore {
  public:
   static constexpr int attempts = 3;
 
-  /// `media` in the order of preference, at least one. `prompt` outlives the store.
+  /// `media`: at least one, in order of preference. `prompt` outlives the store.
   LinuxKeyStore(std::vector<std::unique_ptr<KeyMedium>> media, SecretPrompt& prompt);
 
   [[nodiscard]] bool isAvailable() const override;
@@ -31,12 +30,12 @@ class LinuxKeyStore final : public desktop::KeyStore {
   void remove() noexcept override;
   [[nodiscard]] std::string advice() const override;
 
-  /// Where the present key is or, when there is none, where one would be made. Does not wait for a
-  /// device, so that texts can be worded with it on the main thread.
+  /// Returns where the key is or, when there is none, where one would be made. Does not wait for a
+  /// device, so the main thread may use it for its texts.
   [[nodiscard]] KeyPlace place() const;
 
-  /// Where that key is, and which protection this gives, as sentences for settings and log. Does
-  /// not wait for a device.
+  /// Describes that place and its protection in sentences for settings and log. Does not wait for a
+  /// device.
   [[nodiscard]] std::string describe() const;
 
  private:
@@ -50,16 +49,16 @@ class LinuxKeyStore final : public desktop::KeyStore {
   mutable std::mutex device_;  ///< held while a medium works, never while a person is asked
 };
 
-/// Where `makeKeyStore` keeps and finds things.
+/// Where `makeKeyStore` looks for keys.
 struct KeyStoreOptions {
   std::string folder;  ///< absolute; the key files go there
-  /// Which TPM: empty for the system's own, "none" for no TPM at all, else a simulator by its TCTI,
+  /// Which TPM: empty for the system's own, "none" for no TPM, else the TCTI of a simulator,
   /// "swtpm:…" or "mssim:…", for trying out and for tests.
   std::string tpm;
 };
 
-/// The store of this desktop: the TPM where it is usable, else a key file. Throws KeyFailure when
-/// `tpm` names nothing that it may name.
+/// Makes the store of this desktop: the TPM where it is usable, else a key file. Throws KeyFailure
+/// when `tpm` is none of the allowed values.
 [[nodiscard]] std::unique_ptr<LinuxKeyStore> makeKeyStore(const KeyStoreOptions& options,
                                                           SecretPrompt& prompt);
 

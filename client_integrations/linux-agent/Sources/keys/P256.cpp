@@ -32,7 +32,7 @@ std::vector<std::uint8_t> derSignature(const Pair& signature) {
       ::BN_bin2bn(signature.second.data(), static_cast<int>(signature.second.size()), nullptr));
   if (!parts || !r || !s || ::ECDSA_SIG_set0(parts.get(), r.get(), s.get()) != 1)
     throw std::bad_alloc();
-  // Both now belong to the signature.
+  // The signature owns both now.
   static_cast<void>(r.release());
   static_cast<void>(s.release());
 

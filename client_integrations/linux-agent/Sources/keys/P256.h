@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-/// The few forms in which a NIST P-256 public key and its signatures leave a key store.
+/// Formats of NIST P-256 public keys and signatures.
 namespace quillseal::linux::P256 {
 
 inline constexpr std::size_t coordinateSize = 32;
@@ -22,10 +22,10 @@ struct Pair {
   Bytes second;
 };
 
-/// The point with these coordinates; nothing when one has more than 32 bytes.
+/// Returns the point with these coordinates; nothing when one has more than 32 bytes.
 [[nodiscard]] std::optional<Point> pointOf(const Pair& coordinates);
 
-/// The DER form (a sequence of the integers r and s) of a signature.
+/// Returns a signature in DER: a sequence of the integers r and s.
 [[nodiscard]] std::vector<std::uint8_t> derSignature(const Pair& signature);
 
 /// What `verifies` checks.
@@ -35,8 +35,8 @@ struct Claim {
   Bytes signature;  ///< DER
 };
 
-/// Whether the signature over the digest was made with the private half of the public key. False
-/// too when the point is none of the curve.
+/// Returns whether the signature over the digest was made with the key's private half. False when
+/// the point is not on the curve.
 [[nodiscard]] bool verifies(const Claim& claim);
 
 }  // namespace quillseal::linux::P256

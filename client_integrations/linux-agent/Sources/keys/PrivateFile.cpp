@@ -38,7 +38,7 @@ void createFolders(const std::filesystem::path& folder) {
   fail("create the folder", folder, errno);
 }
 
-// Negative, with errno set, when it does not exist or cannot be opened.
+// Returns a negative number, with errno set, when the folder does not exist or cannot be opened.
 int openFolder(const std::filesystem::path& folder) {
   const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
   if (descriptor < 0 && (errno == ENOTDIR || errno == ELOOP))
@@ -47,8 +47,8 @@ int openFolder(const std::filesystem::path& folder) {
   return descriptor;
 }
 
-// The folder is opened once and everything inside is named relative to it, so that nobody can swap
-// it between a check and a use.
+// The folder is opened once and its files are named relative to it, so that nobody can replace it
+// between check and use.
 void checkFolder(const FileDescriptor& folder, const std::filesystem::path& path) {
   struct stat status {};
   if (::fstat(folder.get(), &status) != 0) fail("examine", path, errno);
@@ -95,7 +95,7 @@ std::optional<std::string> PrivateFile::read() const {
   checkFolder(folder, folderPath);
 
   const std::string name = path_.filename().string();
-  // Without O_NONBLOCK a named pipe in the file's place would hang the caller.
+  // Without O_NONBLOCK, opening a named pipe in the file's place would hang.
   const FileDescriptor file(
       ::openat(folder.get(), name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
   if (!file.isOpen()) {
@@ -140,7 +140,7 @@ void PrivateFile::replace(std::string_view contents) const {
 
   const std::string name = path_.filename().string();
   const std::string fresh = "." + name + ".new";
-  // What an interrupted run left; O_EXCL then makes sure that the file written is a new one.
+  // An interrupted run may have left one; O_EXCL then guarantees a new file.
   ::unlinkat(folder.get(), fresh.c_str(), 0);
   try {
     {

@@ -8,8 +8,8 @@
 namespace quillseal::linux {
 
 /// One small file that only this user may read (0600) in a folder that only this user may enter
-/// (0700). Links are never followed in the last two components of the path: a file that somebody
-/// else put there is reported, not used. Holds a path and nothing else.
+/// (0700). Links in the last two components of the path are never followed, and a file of another
+/// user is reported, not used. Holds only the path.
 class PrivateFile {
  public:
   /// `path` is absolute and has a folder of its own.
@@ -17,22 +17,21 @@ class PrivateFile {
 
   [[nodiscard]] const std::filesystem::path& path() const noexcept { return path_; }
 
-  /// Whether anything of that name is there, readable or not.
+  /// Returns whether anything of that name exists, readable or not.
   [[nodiscard]] bool exists() const noexcept;
 
-  /// The contents; nothing when no such file exists. Throws KeyFailure when there is one but it
-  /// cannot be trusted or read, or has more than 64 KiB.
+  /// Returns the contents; nothing when the file does not exist. Throws KeyFailure when it cannot
+  /// be trusted or read, or has more than 64 KiB.
   [[nodiscard]] std::optional<std::string> read() const;
 
-  /// Throws KeyFailure when `replace` could not work; creates the folders it needs.
+  /// Throws KeyFailure when `replace` would fail; creates the folders it needs.
   void requireWritable() const;
 
-  /// Puts `contents` in the place of whatever is there, creating folders as needed. On return they
-  /// are on the disk; after a failure or a crash the earlier contents are still there, whole.
-  /// Throws KeyFailure.
+  /// Replaces the file's contents atomically, creating folders as needed. On return they are on the
+  /// disk; after a failure or a crash the earlier contents are intact. Throws KeyFailure.
   void replace(std::string_view contents) const;
 
-  /// Deletes the file, or the link of that name. Harmless when there is none.
+  /// Deletes the file, or the link of that name. Does nothing when there is none.
   void remove() const noexcept;
 
  private:

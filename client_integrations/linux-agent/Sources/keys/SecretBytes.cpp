@@ -10,7 +10,7 @@
 namespace quillseal::linux {
 namespace {
 
-/// Of the locked memory: many times what one signature needs, and little of what a user may lock.
+/// Size of the locked memory: many times what one signature needs, and far below a user's limit.
 constexpr std::size_t lockedBytes = 65'536;
 constexpr std::size_t smallestBlock = 16;
 

@@ -7,24 +7,23 @@
 
 namespace quillseal::linux {
 
-/// Keeps the memory of all secrets that are made from now on out of the swap area and of core
-/// dumps. False where the system does not allow that. To be called once, at the start of the
-/// program.
+/// Keeps the memory of all later secrets out of swap and core dumps. False where the system does
+/// not allow it. Call once, when the program starts.
 bool lockMemoryOfSecrets() noexcept;
 
-/// Keeps other programs of the same user from reading the memory of this process and from tracing
-/// it, and the system from writing core files of it; not root. Programs that it starts are not
-/// affected. To be called before there is a secret.
+/// Keeps other programs of the same user, but not root, from reading this process's memory and from
+/// tracing it, and the system from writing core files. Child programs are not affected. Call before
+/// there is a secret.
 void shieldProcess() noexcept;
 
-/// Bytes that must not outlive their use: a PIN, a passphrase, a value derived from one. They are
-/// overwritten when the object ends or is assigned to, and cannot be copied by accident.
+/// Secret bytes: a PIN, a passphrase, or a value derived from one. They are overwritten when the
+/// object is destroyed or assigned to, and cannot be copied by accident.
 class SecretBytes {
  public:
   SecretBytes() noexcept = default;
-  /// `size` zero bytes, to be filled in place. Throws std::bad_alloc.
+  /// Makes `size` zero bytes, to be filled in place. Throws std::bad_alloc.
   explicit SecretBytes(std::size_t size);
-  /// A copy of `text`, which its owner wipes.
+  /// Copies `text`; the caller wipes the original.
   explicit SecretBytes(std::string_view text);
   SecretBytes(SecretBytes&& other) noexcept;
   SecretBytes& operator=(SecretBytes&& other) noexcept;
@@ -55,7 +54,7 @@ class SecretBytes {
   std::size_t size_ = 0;
 };
 
-/// Overwrites memory in a way that no optimiser removes.
+/// Overwrites memory; the optimiser cannot remove this.
 void wipe(std::span<unsigned char> bytes) noexcept;
 
 }  // namespace quillseal::linux

@@ -13,12 +13,12 @@ struct Demands {
   std::string_view rules;
   std::string_view tooShort;
   std::string_view tooUniform;
-  std::string_view withoutLetters;  ///< empty when digits alone will do
+  std::string_view withoutLetters;  ///< empty when digits alone are allowed
   std::size_t minimumCharacters;
   std::size_t minimumDistinctBytes;
 };
 
-// A TPM that stays locked allows a handful of guesses in an hour, so six characters last.
+// A locked TPM allows only a few guesses an hour, so six characters are enough.
 constexpr Demands pinDemands{
     .name = "PIN",
     .rules = "At least 6 characters, digits or letters, and not all of them the same.",
@@ -27,10 +27,11 @@ constexpr Demands pinDemands{
     .withoutLetters = {},
     .minimumCharacters = 6,
     .minimumDistinctBytes = 2};
-// With the lock undone after every second guess, a simulator took 61 guesses a second from a
-// program that loads the key for each. All six digits take less than five hours, ten million leaked
-// passwords two days, three words of a list of eight thousand 270 years, and ten letters and digits
-// two million years. A program that keeps the key loaded is faster, a chip slower.
+// A simulator took 61 guesses a second from a program that resets the lockout after every second
+// guess and loads the key for each. At that rate all six-digit PINs take less than five hours, ten
+// million leaked passwords two days, three words from a list of eight thousand 270 years, and ten
+// letters and digits two million years. A program that keeps the key loaded is faster; a chip is
+// slower.
 constexpr Demands unguardedPinDemands{
     .name = "PIN",
     .rules =
@@ -41,7 +42,7 @@ constexpr Demands unguardedPinDemands{
     .withoutLetters = "This PIN has no letters. Add some.",
     .minimumCharacters = 10,
     .minimumDistinctBytes = 6};
-// A key file can be tried elsewhere, on many computers, slowed down by nothing but scrypt.
+// A copied key file can be attacked on many computers; only scrypt slows that down.
 constexpr Demands passphraseDemands{
     .name = "passphrase",
     .rules = "At least 12 characters. Four unrelated words are good; a word with a number is not.",
@@ -78,7 +79,7 @@ std::size_t distinctBytes(std::string_view text) {
   return static_cast<std::size_t>(std::count(seen.begin(), seen.end(), true));
 }
 
-// Beyond ASCII nearly everything is a letter of some script, and the rest is no easier to guess.
+// Nearly every non-ASCII character is a letter of some script; the others are no easier to guess.
 bool hasLetter(std::string_view text) {
   return std::any_of(text.begin(), text.end(), [](char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') ||

@@ -54,7 +54,7 @@ constexpr Row tpmRows[] = {
     {TPM2_RC_INTEGRITY, TpmProblem::foreignKey, foreign},
     {TPM2_RC_SENSITIVE, TpmProblem::foreignKey, foreign},
     {TPM2_RC_BINDING, TpmProblem::foreignKey, foreign},
-    // The key's own PIN gives AUTH_FAIL, since it is guarded by the lockout; BAD_AUTH can only come
+    // A wrong PIN gives AUTH_FAIL, since the lockout applies to the key; BAD_AUTH can only come
     // from the hierarchy.
     {TPM2_RC_BAD_AUTH, TpmProblem::ownerPassword, ownerPassword},
     {TPM2_RC_AUTH_UNAVAILABLE, TpmProblem::ownerPassword, ownerPassword},
@@ -82,7 +82,7 @@ constexpr Row transportRows[] = {
     {TSS2_BASE_RC_NOT_PERMITTED, TpmProblem::noPermission, noConnection},
 };
 
-/// The code without the number of the handle, parameter or session it is about.
+/// Returns the code without the number of the handle, parameter or session that it concerns.
 TSS2_RC withoutPosition(TSS2_RC code) {
   constexpr TSS2_RC formatOneBits = TPM2_RC_FMT1 | 0x3FU;
   return (code & TPM2_RC_FMT1) != 0 ? code & formatOneBits : code & 0xFFFU;

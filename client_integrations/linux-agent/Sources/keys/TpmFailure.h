@@ -6,7 +6,7 @@
 
 namespace quillseal::linux {
 
-/// What a failed TPM operation means for the person at the machine.
+/// The cause of a failed TPM operation, as far as the user can act on it.
 enum class TpmProblem {
   wrongSecret,
   lockedOut,
@@ -25,11 +25,11 @@ struct TpmFailure {
   std::string message;  ///< what is wrong and what helps, as sentences for the user
 };
 
-/// The meaning of a response code of any layer of the TPM software stack (TSS2_RC; TCG TSS 2.0
+/// Interprets a response code of any layer of the TPM software stack (TSS2_RC; TCG TSS 2.0
 /// Overview, 4, and TPM 2.0 Library Part 2, 6.6). REQUIRES: code is not success.
 [[nodiscard]] TpmFailure tpmFailureOf(std::uint32_t code);
 
-/// The meaning of the errno with which opening the device failed.
+/// Interprets the errno with which opening the device failed.
 struct DeviceError {
   std::string_view device;
   int number;

@@ -52,7 +52,7 @@ void finish(ESYS_CONTEXT* context) {
   ::Esys_Finalize(&context);
 }
 
-/// Calls `action` with the address of a pointer and owns what is put there.
+/// Calls `action` with the address of a pointer and owns the object that it stores there.
 template <typename Object>
 Owned<Object> received(auto&& action) {
   Object* object = nullptr;
@@ -64,7 +64,7 @@ Owned<Object> received(auto&& action) {
 class Tpm {
  public:
   explicit Tpm(const std::string& device) {
-    // The loader only says that something failed; the kernel says what.
+    // The loader reports only that it failed; errno gives the reason.
     if (!isSimulator(device)) {
       const std::string path = device.substr(devicePrefix.size());
       const FileDescriptor probe(::open(path.c_str(), O_RDWR | O_CLOEXEC));
@@ -106,8 +106,8 @@ class Tpm {
   UniqueHandle<ESYS_CONTEXT, finish> context_;
 };
 
-/// An object or a session inside the TPM, which has room for three or so: it is flushed at the end,
-/// since a simulator has no resource manager to do that.
+/// An object or a session inside the TPM, flushed when this object is destroyed: the TPM has room
+/// for about three, and a simulator has no resource manager.
 class Loaded {
  public:
   Loaded(const Tpm& tpm, ESYS_TR handle) noexcept : context_(tpm.get()), handle_(handle) {}
@@ -126,8 +126,8 @@ class Loaded {
   ESYS_TR handle_;
 };
 
-/// The value that the TPM compares: a digest, so that a PIN of any length fits. Trailing zero bytes
-/// mean nothing to a TPM (TPM 2.0 Library Part 1, 19.6.5) and are left out on both sides.
+/// The authorization value that the TPM compares: a digest, so that a PIN of any length fits. A TPM
+/// ignores trailing zero bytes (TPM 2.0 Library Part 1, 19.6.5), so both sides leave them out.
 class PinValue {
  public:
   explicit PinValue(const SecretBytes& pin) {
@@ -147,8 +147,9 @@ class PinValue {
   TPM2B_AUTH value_{};
 };
 
-// The storage root key that the TCG's provisioning guidance gives for ECC (TCG EK Credential
-// Profile 2.4, B.4.5 with the attributes of an SRK): always the same key until the TPM is cleared.
+// The template of the ECC storage root key from the TCG's provisioning guidance (TCG EK Credential
+// Profile 2.4, B.4.5 with the attributes of an SRK): it gives the same key until the TPM is
+// cleared.
 TPM2B_PUBLIC parentTemplate() {
   TPM2B_PUBLIC area{};
   TPMT_PUBLIC& key = area.publicArea;
@@ -204,8 +205,8 @@ std::vector<std::uint8_t> nameOf(const Tpm& tpm, const Loaded& object) {
   return {name->name, name->name + name->size};
 }
 
-/// A session whose secret only the holder of the parent's private half can know, and which
-/// encrypts the first parameter of each command.
+/// Starts a session that is salted with the parent's public key and encrypts the first parameter of
+/// each command.
 Loaded startSession(const Tpm& tpm, const Loaded& parent) {
   TPMT_SYM_DEF cipher{};
   cipher.algorithm = TPM2_ALG_AES;
@@ -270,7 +271,7 @@ StoredKey readKey(const PrivateFile& file) {
   return key;
 }
 
-/// The parent that the key was made under, or a failure.
+/// Returns the parent that the key was made under. Throws KeyFailure when the TPM has another.
 Loaded parentOf(const Tpm& tpm, const StoredKey& stored) {
   Loaded parent = makeParent(tpm);
   if (nameOf(tpm, parent) != stored.parentName) fail(tpmFailureOf(TPM2_RC_INTEGRITY));
@@ -284,15 +285,14 @@ Loaded load(const Tpm& tpm, const Loaded& parent, const Loaded& session, const S
   return {tpm, handle};
 }
 
-// The simulator of that name serves one connection at a time, so one that stays open would keep
-// every other run waiting.
+// The mssim simulator serves one connection at a time, so an open one would block every other run.
 bool allowsSeveralConnections(std::string_view device) {
   return !device.starts_with("mssim:");
 }
 
 void requireNoLockout(const Tpm& tpm, TPMA_PERMANENT attributes) {
   if ((attributes & TPMA_PERMANENT_INLOCKOUT) == 0) return;
-  // One wrong attempt is forgiven after each such interval, and then the TPM listens again.
+  // After each such interval the TPM forgives one wrong attempt and takes another.
   const UINT32 minutes = (tpm.property(TPM2_PT_LOCKOUT_INTERVAL) + 59) / 60;
   std::string message = tpmFailureOf(TPM2_RC_LOCKOUT).message;
   if (minutes > 0)
@@ -303,7 +303,8 @@ void requireNoLockout(const Tpm& tpm, TPMA_PERMANENT attributes) {
 
 }  // namespace
 
-/// A loaded key and everything it needs, in the order in which it must be taken down again.
+/// A loaded key and everything it needs. Members are declared so that they are released in the
+/// right order.
 struct TpmKeyStore::OpenedKey {
   struct Attempt {
     TSS2_RC code;
@@ -332,12 +333,12 @@ TpmKeyStore::OpenedKey::Attempt TpmKeyStore::OpenedKey::sign(const P256::Digest&
   TPMT_SIG_SCHEME scheme{};
   scheme.scheme = TPM2_ALG_ECDSA;
   scheme.details.ecdsa.hashAlg = TPM2_ALG_SHA256;
-  // The digest was not computed by the TPM; the key is not restricted to digests that were.
+  // A null ticket: the TPM did not compute the digest, and the key is not restricted.
   TPMT_TK_HASHCHECK ticket{};
   ticket.tag = TPM2_ST_HASHCHECK;
   ticket.hierarchy = TPM2_RH_NULL;
 
-  // Not kept while a person is asked: one old session makes the TPM refuse new ones in the end.
+  // Not kept while the user is asked: one old session makes the TPM refuse new ones in the end.
   const Loaded session = startSession(tpm, parent);
   require(::Esys_TR_SetAuth(tpm.get(), key.get(), &PinValue(secret).get()));
   TPMT_SIGNATURE* answer = nullptr;
@@ -497,7 +498,7 @@ std::optional<std::vector<std::uint8_t>> TpmKeyStore::sign(const P256::Digest& d
       if (attempt.code == TSS2_RC_SUCCESS) return std::move(attempt.signature);
       if (isWrong(attempt.code)) return std::nullopt;
     } catch (const KeyFailure&) {
-      // A TPM that was reset meanwhile has forgotten what was loaded, but not the key.
+      // A reset TPM has lost the loaded objects; the key can be loaded again.
     }
   }
   opened_.reset();

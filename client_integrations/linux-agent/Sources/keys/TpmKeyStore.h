@@ -14,23 +14,23 @@
 
 namespace quillseal::linux {
 
-/// The device key in the TPM 2.0: a P-256 key made by the TPM under its storage root key. What is
-/// kept outside is a blob that only this TPM can load, and only until it is cleared. The TPM asks
-/// for the PIN at every signature and locks itself after too many wrong ones; that lock holds only
-/// where the TPM has a lockout password, so the store tells whether it does. The PIN itself never
-/// travels to the TPM in clear, and the storage root key seen at creation must be there again at
-/// each use, so that nothing between this process and the TPM can take its place unnoticed.
+/// The device key in the TPM 2.0: a P-256 key made by the TPM under its storage root key. Outside
+/// the TPM there is only a blob that this TPM alone can load, until it is cleared. The TPM demands
+/// the PIN at every signature and locks itself after too many wrong ones. That lock holds only
+/// where the TPM has a lockout password, so the store reports whether it does. The PIN is never
+/// sent to the TPM in clear, and each use checks that the storage root key is the one seen at
+/// creation, so that nothing between this process and the TPM can impersonate it.
 ///
-/// The TPM software stack writes warnings to standard error for every wrong PIN; a program sets
-/// `TSS2_LOG=all+none` in its environment, before it starts threads, to keep them out.
+/// The TPM software stack writes a warning to standard error for every wrong PIN. To suppress them,
+/// a program sets `TSS2_LOG=all+none` in its environment before it starts threads.
 class TpmKeyStore final : public KeyMedium {
  public:
-  /// The resource-managed device of Linux.
+  /// The TPM device behind the kernel's resource manager.
   static constexpr const char* systemDevice = "device:/dev/tpmrm0";
 
   struct Options {
     std::filesystem::path path;         ///< of the blob; absolute, in a folder of its own
-    std::string device = systemDevice;  ///< a TCTI and its argument; anything but "device:" is a
+    std::string device = systemDevice;  ///< TCTI and argument; anything but "device:" is a
                                         ///< simulator and is described as one
   };
   explicit TpmKeyStore(Options options);
@@ -53,17 +53,17 @@ class TpmKeyStore final : public KeyMedium {
 
  private:
   struct OpenedKey;
-  /// Whether the lock against guessing holds.
+  /// What protects the lockout against a reset.
   enum class Guard : std::uint8_t { unknown, lockoutPassword, none };
 
-  /// From the attributes TPMA_PERMANENT of the TPM.
+  /// Learns the guard from the TPM's attributes (TPMA_PERMANENT).
   void learnGuard(std::uint32_t permanentAttributes) const noexcept;
   [[nodiscard]] std::string_view guardSentence() const noexcept;
 
   PrivateFile file_;
   std::string device_;
   mutable std::atomic<Guard> guard_ = Guard::unknown;
-  mutable std::unique_ptr<OpenedKey> opened_;  ///< while anybody keeps the readiness
+  mutable std::unique_ptr<OpenedKey> opened_;  ///< while a `Readiness` is kept
   mutable std::weak_ptr<const void> readiness_;
 };
 

@@ -29,9 +29,10 @@ using Easy = UniqueHandle<CURL, ::curl_easy_cleanup>;
 using Multi = UniqueHandle<CURLM, ::curl_multi_cleanup>;
 using HeaderList = UniqueHandle<curl_slist, ::curl_slist_free_all>;
 
-/// An absolute http or https URL with a host and without blanks, as libcurl reads it.
+/// Returns whether libcurl reads the text as an absolute http or https URL with a host and no
+/// blanks.
 bool isUsableUrl(const std::string& text) {
-  // libcurl forgives a third slash and takes the path for the host.
+  // libcurl accepts a third slash and takes the path as the host.
   const std::size_t host = text.find("://");
   if (host == std::string::npos || text.substr(host + 3).starts_with('/')) return false;
   if (text.find('\0') != std::string::npos) return false;
@@ -47,14 +48,14 @@ bool isUsableUrl(const std::string& text) {
   return name == "http" || name == "https";
 }
 
-/// One request from its start to its end. libcurl keeps its address.
+/// One HTTP request and its answer. libcurl keeps its address.
 class Exchange {
  public:
   Exchange(const HttpPost& post, const std::string& certificateAuthorities,
            std::function<void(Outcome<HttpResponse>)> done)
       : easy_(curl_easy_init()), done_(std::move(done)) {
     if (!easy_) throw std::bad_alloc();
-    // libcurl would announce a large body and wait a second for leave to send it.
+    // Without this, libcurl sends "Expect: 100-continue" for a large body and waits a second.
     append("Expect:");
     for (const auto& [name, value] : post.headers)
       append(std::string(name).append(": ").append(value));
@@ -65,13 +66,13 @@ class Exchange {
     set(CURLOPT_COPYPOSTFIELDS, post.body.c_str());
     set(CURLOPT_HTTPHEADER, headers_.get());
     set(CURLOPT_FOLLOWLOCATION, 0L);
-    // On a connection that was used before, libcurl sends again what got no answer; a signature
-    // would be registered twice.
+    // On a reused connection libcurl repeats a request that got no answer, which would register a
+    // signature twice.
     set(CURLOPT_FRESH_CONNECT, 1L);
     set(CURLOPT_FORBID_REUSE, 1L);
     set(CURLOPT_TIMEOUT_MS, milliseconds);
     set(CURLOPT_CONNECTTIMEOUT_MS, milliseconds);
-    // A request that ends during a name lookup would wait, on this thread, for the lookup to end.
+    // Without this, ending a request during a name lookup blocks this thread until the lookup ends.
     set(CURLOPT_QUICK_EXIT, 1L);
     set(CURLOPT_SSL_VERIFYPEER, 1L);
     set(CURLOPT_SSL_VERIFYHOST, 2L);
@@ -85,7 +86,7 @@ class Exchange {
   [[nodiscard]] bool hasEnded() const noexcept { return result_.has_value(); }
   void end(CURLcode result) noexcept { result_ = result; }
 
-  /// REQUIRES: it has ended.
+  /// REQUIRES: the exchange has ended.
   [[nodiscard]] Outcome<HttpResponse> outcome() const {
     long status = 0;
     long systemError = 0;
@@ -141,7 +142,7 @@ class Exchange {
 
 }  // namespace
 
-/// libcurl's multi handle with what it asks to be watched. Completions run last, outside of every
+/// libcurl's multi handle with the sockets that it watches. Completions run last, outside every
 /// call into libcurl, so that they may send, withdraw and destroy.
 class CurlTransport::Engine {
  public:
@@ -170,7 +171,7 @@ class CurlTransport::Engine {
     auto exchange =
         std::make_unique<Exchange>(post, options_.certificateAuthorities, std::move(done));
     const std::uint64_t id = ++lastId_;
-    // Only asks for a time-out of zero; the transfer itself starts in the loop.
+    // This only sets a time-out of zero; the transfer starts in the loop.
     curl_multi_add_handle(multi_.get(), exchange->handle());
     exchanges_.emplace(id, std::move(exchange));
     return id;
@@ -184,7 +185,7 @@ class CurlTransport::Engine {
   }
 
   void drive(curl_socket_t socket, int events) {
-    // A completion may drop the last owner.
+    // A completion may destroy the engine.
     const std::weak_ptr<Engine> alive = self;
     int running = 0;
     curl_multi_socket_action(multi_.get(), socket, events, &running);
@@ -264,7 +265,8 @@ class CurlTransport::Engine {
   Descriptors& descriptors_;
   Options options_;
   std::uint64_t lastId_ = 0;
-  // Destroyed from below upwards: closing libcurl's connections still calls back for watches.
+  // Members are destroyed from the last to the first: closing connections still calls the watch
+  // callbacks.
   std::map<curl_socket_t, Ticket> watches_;
   Ticket timer_;
   Multi multi_;
@@ -276,10 +278,10 @@ CurlTransport::CurlTransport(desktop::MainLoop& loop, Descriptors& descriptors, 
 
 CurlTransport::~CurlTransport() = default;
 
-// libcurl and its cryptography come into memory with the first request: most sessions sign little.
+// Created at the first request, to save memory: most sessions sign little.
 CurlTransport::Engine& CurlTransport::engine() {
   if (engine_) return *engine_;
-  // Once for the process, however often it is called; balanced by nothing, as libcurl allows.
+  // Once per process. libcurl needs no matching cleanup call.
   static const CURLcode initialised = curl_global_init(CURL_GLOBAL_DEFAULT);
   if (initialised != CURLE_OK) throw std::runtime_error("libcurl cannot be used");
   engine_ = std::make_shared<Engine>(loop_, descriptors_, options_);
@@ -334,7 +336,7 @@ transport::ErrorCode CurlTransport::errorCodeOf(CURLcode failure, long systemErr
     case CURLE_BAD_CONTENT_ENCODING:
     case CURLE_HTTP2:
     case CURLE_HTTP2_STREAM:
-    case CURLE_OUT_OF_MEMORY:  // what libcurl says of endless headers
+    case CURLE_OUT_OF_MEMORY:  // libcurl's error for headers that are too large
       return transport::badServerResponse;
     default:
       return transport::unknown;

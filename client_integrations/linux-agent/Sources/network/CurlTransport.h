@@ -12,13 +12,13 @@
 
 namespace quillseal::linux {
 
-/// HTTP by libcurl, driven by the main loop: no call blocks, names are looked up on libcurl's own
-/// threads. No redirect is followed, since every request is a POST that carries a key. An answer of
-/// more than 8 MiB is refused.
+/// HTTP over libcurl, driven by the main loop. No call blocks; libcurl resolves names on its own
+/// threads. Redirects are not followed, since every request is a POST that carries a key. An answer
+/// of more than 8 MiB is refused.
 class CurlTransport final : public desktop::HttpTransport {
  public:
   struct Options {
-    /// A file of certificates (PEM) to trust instead of the system's; empty for the system's.
+    /// A PEM file of certificates to trust instead of the system's; empty for the system's.
     std::string certificateAuthorities;
   };
 
@@ -32,8 +32,8 @@ class CurlTransport final : public desktop::HttpTransport {
 
   [[nodiscard]] Error error(desktop::transport::ErrorCode code) const override;
 
-  /// What a failure of libcurl means to the user. `systemError` is the `errno` that went with it,
-  /// or 0.
+  /// Maps a libcurl error to the agent's error code. `systemError` is the `errno` that came with
+  /// it, or 0.
   [[nodiscard]] static desktop::transport::ErrorCode errorCodeOf(CURLcode failure,
                                                                  long systemError) noexcept;
 

@@ -6,12 +6,12 @@
 #include "desktop/MainLoop.h"
 #include "session/Descriptors.h"
 
-/// The module that holds the transport: libcurl brings some thirty libraries.
+/// The module that holds the transport: libcurl loads some thirty libraries.
 namespace quillseal::linux::HttpModule {
 
 inline constexpr const char* fileName = "quillseal-http.so";
 
-/// Its one function, and the name that it has there.
+/// The only function that the module exports, and its symbol.
 using Make = void(desktop::MainLoop&, Descriptors&, std::unique_ptr<desktop::HttpTransport>& made);
 inline constexpr const char* make = "quillseal_make_http_transport";
 

@@ -9,13 +9,13 @@
 
 namespace quillseal::linux {
 
-/// The transport of `HttpModule`, which is loaded with the first request.
+/// The transport of `HttpModule`. Loads the module at the first request.
 class LoadedTransport final : public desktop::HttpTransport {
  public:
   /// `loop` and `descriptors` outlive the transport.
   LoadedTransport(desktop::MainLoop& loop, Descriptors& descriptors, LoadedModule module);
 
-  /// Without a usable module, every request fails with a sentence that tells what to do.
+  /// Without a usable module, every request fails with a sentence that says what to do.
   [[nodiscard]] desktop::Ticket send(
       const desktop::HttpPost& post,
       std::function<void(Outcome<desktop::HttpResponse>)> done) override;

@@ -4,7 +4,7 @@
 
 namespace quillseal::linux {
 
-/// What a failure of the transport means to the user, in words for Linux.
+/// Returns the error with the sentence that Linux users see for it.
 [[nodiscard]] Error transportError(desktop::transport::ErrorCode code);
 
 }  // namespace quillseal::linux

@@ -29,7 +29,7 @@ std::string defaultDevice(SystemBus& bus) {
   return path;
 }
 
-/// The reader, claimed for this process and given back at the end.
+/// The reader, claimed for this process and released when this object is destroyed.
 class ClaimedReader {
  public:
   ClaimedReader(SystemBus& bus, std::string path) : bus_(bus), path_(std::move(path)) {
@@ -49,7 +49,7 @@ class ClaimedReader {
     return {.service = service, .path = path_.c_str(), .interface = deviceInterface};
   }
 
-  /// Begins to look for a finger, and ends that with its own end.
+  /// Starts a verification, and stops it when this object is destroyed.
   class Verification {
    public:
     explicit Verification(ClaimedReader& reader) : reader_(reader) {
@@ -64,7 +64,7 @@ class ClaimedReader {
   };
 
  private:
-  // A reader that was unplugged cannot be given back, and need not.
+  // Errors do not matter: a reader that was unplugged needs no release.
   void tryCall(const char* method) noexcept {
     try {
       bus_.call(target(), method, "");
@@ -141,7 +141,7 @@ bool verify(const Interrupt& interrupt, const Instruct& instruct) {
     statuses.pop_front();
     return touch;
   };
-  // fprintd ends a verification with the first finger that it has recognised or not.
+  // fprintd ends a verification after one touch, whether or not it recognised the finger.
   const auto verifyOnce = [&] {
     const ClaimedReader::Verification verification(reader);
     Touch touch = nextTouch();

@@ -6,26 +6,26 @@
 
 #include "presence/SystemBus.h"
 
-/// The fingerprint service of Linux (fprintd, net.reactivated.Fprint). Everything blocks.
+/// A client of the fingerprint service (fprintd, net.reactivated.Fprint). Every function blocks.
 namespace quillseal::linux::FingerprintReader {
 
-/// Whether there is a reader and this user has enrolled a finger. False as well when the service is
+/// Returns whether there is a reader and this user has enrolled a finger. False when the service is
 /// missing or does not answer.
 [[nodiscard]] bool isEnrolled();
 
-/// What the service says about one touch (VerifyStatus of net.reactivated.Fprint.Device).
+/// The result of one touch (VerifyStatus of net.reactivated.Fprint.Device).
 struct Touch {
   enum class Kind { match, noMatch, again, failure };
   Kind kind;
-  std::string_view instruction;  ///< for the person, or the reason of a failure
+  std::string_view instruction;  ///< for the user, or the reason of a failure
 };
 [[nodiscard]] Touch touchOf(std::string_view status) noexcept;
 
-/// Called with what the person shall do next.
+/// Called with the instruction that the user should see.
 using Instruct = std::function<void(std::string_view)>;
 
-/// Waits for a finger, three tries at most. Whether it was the right one; throws Error when
-/// interrupted, and when the reader fails or nobody touches it for a minute.
+/// Waits for a finger, three tries at most, and returns whether it was recognised. Throws Error
+/// when interrupted, when the reader fails, and when nobody touches it for a minute.
 [[nodiscard]] bool verify(const Interrupt& interrupt, const Instruct& instruct);
 
 }  // namespace quillseal::linux::FingerprintReader

@@ -16,7 +16,7 @@ using desktop::MainLoop;
 using desktop::PresencePolicy;
 using desktop::Ticket;
 
-/// What the worker and the main thread share about one evaluation.
+/// The state of one evaluation that the worker and the main thread share.
 struct Exchange {
   Interrupt interrupt;
   Outcome<bool> outcome = false;
@@ -60,7 +60,7 @@ class Evaluation : public std::enable_shared_from_this<Evaluation> {
         });
   }
 
-  /// Nothing is called afterwards.
+  /// No callback runs afterwards.
   void withdraw() {
     done_ = nullptr;
     exchange_->interrupt.raise();

@@ -6,11 +6,11 @@
 
 namespace quillseal::linux {
 
-/// Presence on a Linux desktop: a finger on the reader where one is enrolled, else the password
-/// through polkit. Both are preceded by a window of our own with the reason.
+/// Checks presence with the fingerprint reader where a finger is enrolled, else with the password
+/// through polkit. A window of the agent shows the reason first.
 ///
-/// A fingerprint is reported as the biometry kind `touchId`: of the kinds a record can name it is
-/// the one that tells its reader how presence was shown.
+/// A fingerprint is reported as the biometry kind `touchId`: of the kinds that a record can name,
+/// it is the one that says how presence was proved.
 class LinuxPresence final : public desktop::Presence {
  public:
   /// Both outlive this object and its tickets.

@@ -2,18 +2,19 @@
 
 #include "presence/SystemBus.h"
 
-/// The password question of Linux (polkit, org.freedesktop.PolicyKit1) for an action of Quillseal's
-/// own, which the package installs. Everything blocks.
+/// A client of polkit (org.freedesktop.PolicyKit1), which asks for the password for Quillseal's own
+/// action. The package installs that action. Every function blocks.
 namespace quillseal::linux::PolkitAuthority {
 
 inline constexpr const char* presenceAction = "com.quillseal.agent.prove-presence";
 
-/// Whether the person at this session could be asked. False as well when the action is not
-/// installed, the session may not be asked, or the service does not answer.
+/// Returns whether polkit can ask the user of this session. False when the action is not installed,
+/// the session is not allowed to authenticate, or the service does not answer.
 [[nodiscard]] bool canAsk();
 
-/// Has the desktop's authentication agent ask for the password. Whether it was right; throws Error
-/// when the person dismissed the question, on interrupt, and when there is nobody to ask.
+/// Has the desktop's authentication agent ask for the password and returns whether it was right.
+/// Throws Error when the user dismisses the question, when interrupted, and when there is no
+/// authentication agent.
 [[nodiscard]] bool ask(const Interrupt& interrupt);
 
 }  // namespace quillseal::linux::PolkitAuthority

@@ -7,16 +7,16 @@
 
 namespace quillseal::linux {
 
-/// What the person is asked to prove their presence for.
+/// What a presence prompt shows.
 struct PresenceRequest {
   std::string reason;       ///< "Sign “…” (12 words)"
-  std::string medium;       ///< where the text is going; may be empty
+  std::string medium;       ///< the application that gets the text; may be empty
   std::string instruction;  ///< what to do, a sentence
-  bool needsConsent;        ///< with a button to go on; without it the window only waits
+  bool needsConsent;        ///< with a button to continue; without it the window only waits
 };
 
-/// A window of ours that says why presence is asked for: the system's own prompts cannot.
-/// Destroying it closes it without a call. Main thread.
+/// A window of the agent that says why presence is checked, which the system's prompts cannot show.
+/// Destroying it closes the window without a callback. Main thread.
 class PresenceWindow {
  public:
   PresenceWindow() = default;
@@ -27,7 +27,7 @@ class PresenceWindow {
   virtual void setInstruction(std::string_view instruction) = 0;
 };
 
-/// Shows such windows, in front of all others.
+/// Opens such windows in front of all others.
 class PresencePrompt {
  public:
   PresencePrompt() = default;
@@ -35,7 +35,7 @@ class PresencePrompt {
   PresencePrompt& operator=(const PresencePrompt&) = delete;
   virtual ~PresencePrompt() = default;
 
-  /// `answered` is called once, later, on the main thread: with true when the person goes on, with
+  /// `answered` is called once, later, on the main thread: with true when the user continues, with
   /// false when they cancel or close the window. It may destroy the window.
   [[nodiscard]] virtual std::unique_ptr<PresenceWindow> open(
       const PresenceRequest& request, std::function<void(bool)> answered) = 0;

@@ -16,10 +16,10 @@ namespace quillseal::linux {
 
 namespace {
 
-// Services that are started by the call need a moment; none that is alive needs more.
+// Long enough for a service that the call starts; a running one needs less.
 constexpr std::uint64_t callLimitMicroseconds = 10'000'000;
 
-/// An sd_bus_error that frees its texts.
+/// Owns an sd_bus_error.
 class BusError {
  public:
   BusError() = default;

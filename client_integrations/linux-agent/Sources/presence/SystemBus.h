@@ -11,7 +11,7 @@
 
 namespace quillseal::linux {
 
-/// Ends another thread's wait when it is raised.
+/// Interrupts another thread's wait.
 class Interrupt {
  public:
   Interrupt();
@@ -19,7 +19,7 @@ class Interrupt {
   /// Any thread. Cannot be undone.
   void raise() const noexcept;
   [[nodiscard]] bool isRaised() const noexcept;
-  /// Readable once raised.
+  /// Becomes readable once raised.
   [[nodiscard]] int descriptor() const noexcept { return descriptor_.get(); }
 
  private:
@@ -28,16 +28,16 @@ class Interrupt {
 
 using BusMessage = UniqueHandle<sd_bus_message, ::sd_bus_message_unref>;
 
-/// What is listened for, for as long as this is kept.
+/// A subscription, active as long as it is kept.
 using BusSlot = UniqueHandle<sd_bus_slot, ::sd_bus_slot_unref>;
 
-/// A connection of its own to the system's message bus, used by one thread. Functions throw Error
-/// with the bus's words.
+/// A private connection to the D-Bus system bus, used by one thread. Functions throw Error with the
+/// bus's message.
 class SystemBus {
  public:
   using Seconds = std::chrono::seconds;
 
-  /// Where a call goes.
+  /// The destination of a call.
   struct Target {
     const char* service;
     const char* path;
@@ -59,15 +59,15 @@ class SystemBus {
   [[nodiscard]] BusMessage newCall(const Target& target, const char* method);
   BusMessage send(sd_bus_message& request);
 
-  /// Sends a call whose answer may take as long as a person does. Null when interrupted, or when
-  /// nobody has answered for five minutes.
+  /// Sends a call that waits for a person. Null when interrupted, or after five minutes without an
+  /// answer.
   struct LongCall {
     sd_bus_message& request;
     const Interrupt& interrupt;
   };
   [[nodiscard]] BusMessage sendAndWait(const LongCall& call);
 
-  /// Handles what comes in until `isDone`. False when interrupted or when the time is over.
+  /// Processes messages until `isDone`. False when interrupted or timed out.
   struct Wait {
     const Interrupt& interrupt;
     Seconds limit;

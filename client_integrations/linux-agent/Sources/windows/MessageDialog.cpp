@@ -32,11 +32,11 @@ QPixmap pixmapOf(MessageDialog::Picture picture, const QStyle& style) {
     case MessageDialog::Picture::product:
       break;
   }
-  // The application's own icon: the pixmap of an icon made here would stay in Qt's cache each time.
+  // Not a new icon: Qt would cache another pixmap each time.
   return QApplication::windowIcon().pixmap(pictureSize);
 }
 
-// A text may end in line breaks that belong to what would follow it elsewhere.
+// Some texts end in line breaks that separate them from what follows on another desktop.
 QString withoutEnd(QString text) {
   while (!text.isEmpty() && text.back().isSpace())
     text.chop(1);
@@ -53,7 +53,8 @@ QLabel* plainLabel(const QString& text) {
 
 }  // namespace
 
-// Qt's parents own their children: whatever is added to a layout below goes with the dialog.
+// Qt's parents own their children: every widget that is added to a layout below is deleted with the
+// dialog.
 MessageDialog::MessageDialog(const Look& look)
     : rows_(new QVBoxLayout), buttons_(new QDialogButtonBox) {
   setWindowTitle(toQString(look.title));
@@ -117,7 +118,7 @@ QPushButton& MessageDialog::addButton(const std::string& label, QDialogButtonBox
 
 desktop::Ticket MessageDialog::open(std::unique_ptr<MessageDialog> dialog,
                                     const OwnWindows& windows, std::function<void(bool)> closed) {
-  const QPointer<MessageDialog> shown = dialog.release();  // deletes itself when it has ended
+  const QPointer<MessageDialog> shown = dialog.release();  // deletes itself when closed
   connect(shown, &QDialog::finished, shown, [shown, closed = std::move(closed)](int result) {
     shown->deleteLater();
     const std::function<void(bool)> call = closed;

@@ -12,8 +12,9 @@
 
 namespace quillseal::linux {
 
-/// A dialog of the agent: a picture, a title in bold, a text, then rows that its maker adds, and
-/// buttons. All text is plain. Long text scrolls, so that the buttons stay on a small screen.
+/// A dialog of the agent: a picture, a title in bold, a text, rows that the caller adds, and
+/// buttons. All text is plain. Long text scrolls, so that the buttons stay visible on a small
+/// screen.
 class MessageDialog : public QDialog {
  public:
   enum class Picture { information, warning, key, product };
@@ -26,15 +27,15 @@ class MessageDialog : public QDialog {
 
   explicit MessageDialog(const Look& look);
 
-  /// The rows between text and buttons.
+  /// The layout for rows between text and buttons.
   [[nodiscard]] QVBoxLayout& rows() { return *rows_; }
 
-  /// The first accepting button is the default one.
+  /// Adds a button. The first accepting one is the default.
   QPushButton& addButton(const std::string& label, QDialogButtonBox::ButtonRole role);
 
-  /// Shows the dialog in front of the windows of other programs, with the keyboard, and calls
-  /// `closed` once with whether it was accepted. Dropping the ticket closes it without the call.
-  /// While it is open, no other window of this program takes input.
+  /// Shows the dialog in front of all programs' windows, focused, and calls `closed` once with
+  /// whether it was accepted. Dropping the ticket closes it without the call. The dialog is modal
+  /// for this program.
   [[nodiscard]] static desktop::Ticket open(std::unique_ptr<MessageDialog> dialog,
                                             const OwnWindows& windows,
                                             std::function<void(bool)> closed);
@@ -44,7 +45,7 @@ class MessageDialog : public QDialog {
   QDialogButtonBox* buttons_;
 };
 
-/// How a prompt says where the text is going; empty when that is not known.
+/// Returns the line of a prompt that says where the text is going; empty when that is not known.
 [[nodiscard]] std::string mediumLine(const std::string& medium);
 
 }  // namespace quillseal::linux

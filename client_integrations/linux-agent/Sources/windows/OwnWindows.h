@@ -4,12 +4,12 @@ class QWidget;
 
 namespace quillseal::linux {
 
-/// The windows of this program among those of others. Main thread.
+/// Raises this program's own windows. Main thread.
 class OwnWindows {
  public:
   virtual ~OwnWindows() = default;
 
-  /// Shows `window` above all others and with the keyboard, also while another program is active.
+  /// Shows `window` above all others and focuses it, also while another program is active.
   virtual void bringToFront(QWidget& window) const = 0;
 };
 

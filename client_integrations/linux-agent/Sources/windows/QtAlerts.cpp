@@ -31,7 +31,7 @@ std::unique_ptr<MessageDialog> questionDialog(const desktop::Question& question,
   return dialog;
 }
 
-// Bodies of notifications may be read as markup.
+// Notification services may interpret the body as markup.
 QString escaped(const std::string& text) {
   return toQString(text).toHtmlEscaped();
 }

@@ -5,7 +5,7 @@
 
 namespace quillseal::linux {
 
-/// Alerts as dialogs of Qt, notifications through the session's notification service.
+/// Shows alerts as Qt dialogs and notifications through the session's notification service.
 class QtAlerts : public desktop::Alerts {
  public:
   explicit QtAlerts(const OwnWindows& windows) : windows_(windows) {}

@@ -5,7 +5,7 @@
 
 namespace quillseal::linux {
 
-/// The windows that say why presence is asked for, as dialogs of Qt.
+/// Shows why presence is checked, in Qt dialogs.
 class QtPresencePrompt : public PresencePrompt {
  public:
   explicit QtPresencePrompt(const OwnWindows& windows) : windows_(windows) {}

@@ -11,7 +11,8 @@ class QtProgram : public desktop::Program {
   explicit QtProgram(const OwnWindows& windows) : windows_(windows) {}
 
   void becomeAccessory() override;
-  /// Nothing: on X11 a window is activated, not a program, and every window of this one does so.
+  /// Does nothing: on X11 windows are activated, not programs, and each window of the agent
+  /// activates itself.
   void activate() override {}
   void showAbout() override;
   void terminate() override;

@@ -11,7 +11,7 @@
 
 namespace quillseal::linux {
 
-// One question: shown and answered once, from the main thread.
+// One question. Shown and answered once, on the main thread.
 class QtSecretPrompt::Pending {
  public:
   [[nodiscard]] std::future<std::optional<SecretBytes>> future() { return promise_.get_future(); }
@@ -20,7 +20,7 @@ class QtSecretPrompt::Pending {
 
   void finish(std::optional<SecretBytes> secret) {
     if (std::exchange(answered_, true)) return;
-    dialog_ = {};  // here and not on the thread that waits
+    dialog_ = {};  // destroyed on the main thread, not on the waiting one
     promise_.set_value(std::move(secret));
   }
   [[nodiscard]] bool answered() const { return answered_; }

@@ -11,7 +11,7 @@
 
 namespace quillseal::linux {
 
-/// Asks for PINs and passphrases in dialogs of Qt. What is typed is kept in wiped memory only,
+/// Asks for PINs and passphrases in Qt dialogs. The typed text is only in memory that is wiped,
 /// never in a widget.
 class QtSecretPrompt : public SecretPrompt {
  public:
@@ -21,8 +21,7 @@ class QtSecretPrompt : public SecretPrompt {
   [[nodiscard]] std::optional<SecretBytes> ask(const SecretRequest& request) override;
   [[nodiscard]] std::optional<SecretBytes> askForNew(const NewSecretRequest& request) override;
 
-  /// Answers every open question, and every later one, with nothing. Main thread, when the agent
-  /// ends.
+  /// Cancels every open and every later question. Main thread, when the agent ends.
   void close();
 
  private:

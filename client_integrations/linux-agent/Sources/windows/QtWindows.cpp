@@ -35,7 +35,7 @@ constexpr double captionScale = 0.88;
 constexpr double symbolScale = 1.4;
 constexpr int roomForFrame = 40;
 
-// The text forms of these signs: their picture forms have colours of their own.
+// In text presentation: the emoji forms ignore the text's colour.
 QString signFor(const std::string& symbol) {
   if (symbol == "checkmark.seal.fill") return QStringLiteral("\u2714\uFE0E");
   if (symbol == "exclamationmark.triangle.fill") return QStringLiteral("\u26A0\uFE0E");
@@ -168,7 +168,7 @@ class FormWidget : public QWidget {
     column.addWidget(label);
     column.addWidget(edit);
     connect(edit, &QLineEdit::textEdited, this, [this, section, row](const QString& text) {
-      // A copy: the call may render, which replaces what is shown.
+      // A copy: the call may render the form again, which replaces `shown_`.
       const auto changed = std::get<FormField>(shown_.sections[section].rows[row]).changed;
       if (changed) changed(text.toStdString());
     });
@@ -220,7 +220,7 @@ class FormWindow : public desktop::Window {
     if (form.width == width_ && form.height == height_) return;
     width_ = form.width;
     height_ = form.height;
-    // Fonts differ between desktops: the form's own wish is the least that shows all of it.
+    // Fonts differ between desktops, so the window may need more height than the form asks for.
     const int needed = std::max(form.height, form_->heightForWidth(form.width));
     window_.setMinimumWidth(form.width);
     window_.resize(form.width,

@@ -5,7 +5,7 @@
 
 namespace quillseal::linux {
 
-/// Windows of Qt that show a form.
+/// Shows forms in Qt windows.
 class QtWindows : public desktop::Windows {
  public:
   explicit QtWindows(const OwnWindows& windows) : windows_(windows) {}

@@ -45,7 +45,7 @@ void SecretField::keyPressEvent(QKeyEvent* event) {
   } else if (!control && isPrintable(event->text())) {
     append(event->text());
   } else {
-    event->ignore();  // Enter, Escape and Tab are the dialog's
+    event->ignore();  // Enter, Escape and Tab are for the dialog
   }
 }
 

@@ -8,16 +8,16 @@
 
 namespace quillseal::linux {
 
-/// A line for a secret. The widget itself holds bullets only; the secret stays in memory that is
-/// wiped. It is edited at its end: typing, pasting, Backspace, and Ctrl+U for all of it.
+/// An input line for a secret. The widget holds only bullets; the secret stays in memory that is
+/// wiped. Editing works at the end: typing, pasting, Backspace, and Ctrl+U to clear.
 class SecretField : public QLineEdit {
  public:
   SecretField();
 
-  /// The secret as typed, UTF-8.
+  /// The typed secret in UTF-8.
   [[nodiscard]] const SecretBytes& secret() const { return secret_; }
 
-  /// Hands the secret over and leaves the field empty.
+  /// Returns the secret and empties the field.
   [[nodiscard]] SecretBytes take();
 
   std::function<void()> onEdit;

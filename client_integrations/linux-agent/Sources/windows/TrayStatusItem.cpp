@@ -13,7 +13,7 @@
 namespace quillseal::linux {
 namespace {
 
-// Menus read "&" as the mark of a mnemonic.
+// In a menu "&" marks a mnemonic.
 QString menuText(const std::string& text) {
   return toQString(text).replace(QLatin1Char('&'), QLatin1String("&&"));
 }
@@ -29,8 +29,8 @@ TrayStatusItem::TrayStatusItem() {
   awaitPanel();
 }
 
-// Qt puts the same question when the icon is made, and its main thread waits for the answer: half a
-// minute when the panel hangs.
+// Qt asks the same when the icon is made and blocks the main thread for the answer, half a minute
+// when the panel hangs. So this asks first, without blocking.
 void TrayStatusItem::awaitPanel() {
   const QString watcher = QStringLiteral("org.kde.StatusNotifierWatcher");
   QDBusMessage question = QDBusMessage::createMethodCall(
@@ -41,7 +41,7 @@ void TrayStatusItem::awaitPanel() {
   constexpr int forever = std::numeric_limits<int>::max();
   const auto* answer = new QDBusPendingCallWatcher(
       QDBusConnection::sessionBus().asyncCall(question, forever), &menu_);
-  // An error does as well: Qt gets it at once, and looks for a tray of the older kind.
+  // An error is enough too: Qt then gets it at once and looks for an X11 tray.
   QObject::connect(answer, &QDBusPendingCallWatcher::finished, &menu_,
                    [this](QDBusPendingCallWatcher* finished) {
                      finished->deleteLater();
@@ -67,7 +67,7 @@ void TrayStatusItem::show(const desktop::StatusMenu& menu) {
     } else {
       action = menu_.addAction(menuText(item.title));
       action->setEnabled(item.kind == desktop::MenuItem::Kind::action);
-      // A title that names the combination itself needs no second mention beside it.
+      // A title that names the shortcut needs none beside it.
       const std::string keys = nameOf(item.keyModifiers, item.keyEquivalent);
       if (!item.keyEquivalent.empty() && item.title.find(keys) == std::string::npos)
         action->setShortcut(shortcutOf(keys));

@@ -10,8 +10,8 @@
 
 namespace quillseal::linux {
 
-/// The status item as an icon in the tray of the panel. It appears whenever a panel with a tray
-/// starts, and once that panel answers; some desktops have none.
+/// The status item as an icon in the panel's tray. It appears once a panel with a tray is running
+/// and answers; some desktops have none.
 class TrayStatusItem : public desktop::StatusItem {
  public:
   TrayStatusItem();

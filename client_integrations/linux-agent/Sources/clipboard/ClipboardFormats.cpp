@@ -7,7 +7,7 @@
 namespace quillseal::linux::ClipboardFormats {
 namespace {
 
-// Set by KDE's and KeePassXC's convention, and by that of macOS for programs that know both.
+// Marks of a secret: KDE's and KeePassXC's, and that of macOS for programs that set both.
 constexpr auto passwordHint = "x-kde-passwordManagerHint";
 constexpr auto concealed = "org.nspasteboard.ConcealedType";
 
@@ -26,7 +26,7 @@ const std::string* find(const Content& content, const std::vector<std::string>& 
   return nullptr;
 }
 
-/// Some programs send the NUL along that ends their strings.
+/// Some programs include the terminating NUL.
 std::optional<std::string> present(std::string text) {
   std::erase(text, '\0');
   if (text.empty()) return std::nullopt;
@@ -36,8 +36,8 @@ std::optional<std::string> present(std::string text) {
 }  // namespace
 
 const Groups& wanted() {
-  // Of the plain texts the first has line feeds where the second has CR LF, in some programs; the
-  // third is Latin-1 with escapes in one browser.
+  // In some programs the first plain text has line feeds where the second has CR LF; in one browser
+  // the third is Latin-1 with escapes.
   static const Groups groups = {
       {concealed}, {passwordHint}, {"UTF8_STRING", plainText, "text/plain", latin1}, {html}};
   return groups;
@@ -69,7 +69,7 @@ std::optional<std::string> htmlOf(const Content& content) {
   std::string format;
   const std::string* bytes = find(content, wanted()[markup], format);
   if (bytes == nullptr) return std::nullopt;
-  // By its first bytes or what it says of itself.
+  // Detected from a byte order mark or the charset that the HTML declares.
   const QByteArray raw = QByteArray::fromStdString(*bytes);
   const QString decoded = QStringDecoder::decoderForHtml(raw)(raw);
   return present(decoded.toStdString());

@@ -5,13 +5,13 @@
 #include <string>
 #include <vector>
 
-/// The formats in which programs offer text on the clipboard, and what those hold. Pure functions.
+/// Chooses and decodes the formats in which programs offer text on the clipboard. Pure functions.
 namespace quillseal::linux::ClipboardFormats {
 
 inline constexpr const char* plainText = "text/plain;charset=utf-8";
 inline constexpr const char* html = "text/html";
 
-/// Bytes by the names of their formats.
+/// Maps the name of a format to its bytes.
 using Content = std::map<std::string, std::string>;
 
 /// Of each group the first format that is offered is read, in this order.
@@ -24,13 +24,13 @@ using Groups = std::vector<std::vector<std::string>>;
 /// What is read instead when somebody wants RTF; the marks of a secret come first here too.
 [[nodiscard]] const Groups& wantedForRtf();
 
-/// Those of `wanted` that hold plain text.
+/// The formats of `wanted` that hold plain text.
 [[nodiscard]] const std::vector<std::string>& ofPlainText();
 
-/// Whether the program that copied it marked it as a secret, as password managers do.
+/// Returns whether the content is marked as a secret, as password managers do.
 [[nodiscard]] bool isSecret(const Content& content);
 
-/// As UTF-8, maybe ill-formed; nothing when there is none or it is empty.
+/// Return the text in UTF-8, possibly ill-formed; nothing when there is none or it is empty.
 [[nodiscard]] std::optional<std::string> plainTextOf(const Content& content);
 [[nodiscard]] std::optional<std::string> htmlOf(const Content& content);
 

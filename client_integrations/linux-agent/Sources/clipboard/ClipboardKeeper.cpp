@@ -47,7 +47,7 @@ class FileActions {
 pid_t start(const std::filesystem::path& file, int input) {
   FileActions actions;
   posix_spawn_file_actions_adddup2(actions.get(), input, STDIN_FILENO);
-  // It outlives the agent, whose output somebody may read to its end.
+  // The keeper outlives the agent: open outputs would keep a reader of the agent's waiting.
   for (const int output : {STDOUT_FILENO, STDERR_FILENO})
     posix_spawn_file_actions_addopen(actions.get(), output, "/dev/null", O_WRONLY, 0);
   std::string name = file.filename().string();
@@ -88,7 +88,8 @@ void ClipboardKeeper::keep(const desktop::PasteboardContent& content) const {
     fail("there is not enough memory. Close some programs and try again.");
   lseek(input.get(), 0, SEEK_SET);
 
-  // It leaves this process's care by a fork of its own, once the compositor has taken the offer.
+  // The process that is started here ends when its child holds the offer that the compositor has
+  // taken.
   const pid_t process = start(*place, input.get());
   if (!endsInTime(process)) kill(process, SIGKILL);
   int status = 0;

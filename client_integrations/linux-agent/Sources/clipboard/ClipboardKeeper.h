@@ -9,30 +9,31 @@
 
 namespace quillseal::linux {
 
-/// Under Wayland what is on the clipboard is gone when the program ends that offers it. So a
-/// process of its own offers it, and ends when somebody else copies.
+/// Keeps text on the clipboard after the agent has ended: under Wayland the clipboard's content is
+/// lost when the program that offers it ends. A separate process offers it, until another program
+/// copies.
 class ClipboardKeeper {
  public:
   static constexpr std::string_view program = "quillseal-clipboard-keeper";
 
-  /// `places`: where the program may be; the first there counts.
+  /// `places`: candidate paths of the program; the first that exists is used.
   explicit ClipboardKeeper(std::vector<std::filesystem::path> places);
 
-  /// Has `content` offered, and returns once the compositor has taken the offer. Throws Error when
-  /// it did not within five seconds; nothing is offered then. REQUIRES: SIGCHLD is not ignored,
-  /// else nobody can tell that it did.
+  /// Starts offering `content` and returns once the compositor has taken the offer. Throws Error,
+  /// and offers nothing, when that takes more than five seconds. REQUIRES: SIGCHLD is not ignored,
+  /// or the keeper's exit status is lost.
   void keep(const desktop::PasteboardContent& content) const;
 
  private:
   std::vector<std::filesystem::path> places_;
 };
 
-/// What the keeper is given on its standard input.
+/// The format of the keeper's standard input.
 namespace KeptContent {
 
 [[nodiscard]] std::string written(const desktop::PasteboardContent& content);
 
-/// Nothing when it was not `written`.
+/// Parses what `written` made; nothing for anything else.
 [[nodiscard]] std::optional<desktop::PasteboardContent> read(std::string_view text);
 
 }  // namespace KeptContent

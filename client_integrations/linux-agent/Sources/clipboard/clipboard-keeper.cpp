@@ -1,5 +1,5 @@
-// Offers on the clipboard what it reads from its standard input, until somebody else copies. Ends
-// with status 0 once the compositor has taken the offer, which a child goes on to hold.
+// Offers its standard input on the clipboard until another program copies. Exits with status 0 once
+// the compositor has taken the offer; a child process goes on to hold it.
 
 #include <csignal>
 #include <iterator>
@@ -43,10 +43,10 @@ class Offer {
         content_(std::move(content)),
         manager_(wayland::bindDataControl(connection)) {}
 
-  /// Whether the compositor has taken it.
+  /// Makes the offer. Returns whether the compositor has taken it.
   [[nodiscard]] bool make();
 
-  /// Until somebody else copies, or the compositor ends.
+  /// Serves the offer until another program copies or the compositor ends.
   void hold() {
     connection_.onEnd([this] { loop_.stop(); });
     connection_.serve(loop_, loop_);
@@ -84,7 +84,7 @@ class Offer {
   void replaced() {
     isReplaced_ = true;
     if (transfers_.empty()) return loop_.stop();
-    end_ = loop_.after(patience, [this] { loop_.stop(); });  // for programs that read already
+    end_ = loop_.after(patience, [this] { loop_.stop(); });  // lets running transfers finish
   }
 
   static Offer& of(void* data) { return *static_cast<Offer*>(data); }
@@ -96,7 +96,8 @@ class Offer {
   wayland::DataControlManager manager_;
   wayland::DataControlDevice device_;
   wayland::DataControlSource source_;
-  wayland::DataControlOffer latest_;  ///< of anybody; the compositor refers to it once more
+  wayland::DataControlOffer
+      latest_;  ///< the newest offer of any program; a later event refers to it
   bool isOffered_ = false;
   bool isTaken_ = false;
   bool isReplaced_ = false;
@@ -138,7 +139,7 @@ bool Offer::make() {
 }  // namespace
 
 int main() {
-  static_cast<void>(std::signal(SIGPIPE, SIG_IGN));  // a program may end while it pastes
+  static_cast<void>(std::signal(SIGPIPE, SIG_IGN));  // the reader may close the pipe
   const std::optional<PasteboardContent> content =
       quillseal::linux::KeptContent::read(everythingFrom(STDIN_FILENO));
   if (!content) return 2;
@@ -148,7 +149,7 @@ int main() {
   if (!offer.make()) return 1;
   const pid_t child = fork();
   if (child != 0) _exit(child < 0 ? 1 : 0);
-  // Not ended with the agent, nor by what ends its terminal.
+  // Detaches from the agent's process group and terminal, so that signals to those do not reach it.
   setsid();
   close(STDIN_FILENO);
   offer.hold();

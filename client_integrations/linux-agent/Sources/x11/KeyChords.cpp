@@ -15,12 +15,12 @@ using desktop::Key;
 using desktop::KeyPress;
 using desktop::Modifiers;
 
-// Terminals whose desktop file lacks the category, or that come without one.
+// Terminals without a desktop file, or whose desktop file lacks the category.
 constexpr auto terminalClasses = std::to_array<std::string_view>(
     {"alacritty", "com.mitchellh.ghostty", "kitty", "konsole", "org.wezfurlong.wezterm",
      "st-256color", "terminator", "urxvt", "xfce4-terminal"});
 
-// These keep to the ways of the first X terminals.
+// Terminals that copy by selecting, as the first X terminals did.
 constexpr auto selectingClasses = std::to_array<std::string_view>({"uxterm", "xterm", "urxvt"});
 
 struct ModifierKey {

@@ -47,7 +47,8 @@ ClipboardFormats::Content QtPasteboard::offered() const {
 }
 
 desktop::Ticket QtPasteboard::onNextChange(std::function<void()> changed) {
-  // Qt drops the connection before it calls, and keeps `changed` until the call has returned.
+  // A single-shot connection ends before the call, and Qt keeps `changed` until the call has
+  // returned.
   const auto watch = QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged,
                                       &receiver_, std::move(changed), Qt::SingleShotConnection);
   return desktop::Ticket([watch] { QObject::disconnect(watch); });

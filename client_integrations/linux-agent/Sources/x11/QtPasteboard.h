@@ -11,8 +11,8 @@
 
 namespace quillseal::linux {
 
-/// The clipboard through QClipboard, whose change signal covers every program of the X session;
-/// what the other programs offer is read by X11Selection.
+/// The clipboard through QClipboard, whose change signal covers every program of the X session. The
+/// offers of other programs are read by X11Selection.
 class QtPasteboard : public desktop::Pasteboard {
  public:
   explicit QtPasteboard(const X11Selection::Services& services);
@@ -27,11 +27,11 @@ class QtPasteboard : public desktop::Pasteboard {
       std::function<void(std::optional<std::string>)> done) override;
   void write(const desktop::PasteboardContent& content) override;
 
-  /// Copies what is selected anywhere on the desktop, its plain text, as the program could that it
-  /// is selected in. Leaves the clipboard alone when that is nothing. `done` is called in the end.
+  /// Copies the plain text of the primary selection to the clipboard, in place of the program that
+  /// owns it. Changes nothing when it is empty. Calls `done` afterwards in both cases.
   [[nodiscard]] desktop::Ticket copyPrimarySelection(std::function<void()> done);
 
-  /// When `write` was last called; the epoch when it never was.
+  /// The time of the last `write`; the epoch when there was none.
   [[nodiscard]] std::chrono::steady_clock::time_point lastWrite() const { return lastWrite_; }
 
  private:
@@ -42,7 +42,7 @@ class QtPasteboard : public desktop::Pasteboard {
   X11Selection::Services services_;
   QObject receiver_;
   std::int64_t changeCount_ = 0;
-  /// What another program offers; nothing until it is known.
+  /// The offer of another program; nothing until it has been read.
   std::optional<ClipboardFormats::Content> fetched_;
   std::chrono::steady_clock::time_point lastWrite_;
 };

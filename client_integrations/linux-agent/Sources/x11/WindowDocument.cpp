@@ -8,14 +8,14 @@ namespace quillseal::linux {
 namespace {
 
 constexpr char separator = ' ';
-// With the blanks that set them apart.
+// Marks of a changed document, removed together with the blanks beside them.
 constexpr auto marks = std::to_array<std::string_view>({" ", "*", "●", "•", "○", "◦", "⏺"});
 
 bool isDigit(char c) {
   return c >= '0' && c <= '9';
 }
 
-/// Without a number in brackets at the beginning, "(3)" or "[12+]".
+/// Removes a number in brackets at the beginning, "(3)" or "[12+]".
 std::string_view withoutCounter(std::string_view title) {
   if (title.empty() || (title.front() != '(' && title.front() != '[')) return title;
   const char closing = title.front() == '(' ? ')' : ']';

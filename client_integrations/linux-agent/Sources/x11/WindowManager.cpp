@@ -21,7 +21,7 @@ constexpr std::uint32_t longestProperty = 1024;  // in units of four bytes
 constexpr std::uint32_t sourcePager = 2;
 constexpr std::uint32_t everyWorkspace = 0xFFFFFFFF;
 
-// WM_CLASS holds the instance and the class, each closed by a zero byte. The instance is not used:
+// WM_CLASS holds the instance and the class, each ended by a zero byte. The instance is not used:
 // some programs put a profile path there.
 std::string classOf(const std::string& property) {
   const std::size_t end = property.find('\0');
@@ -38,7 +38,7 @@ WindowManager::WindowManager() {
   root_ = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data->root;
 }
 
-// An atom stays the same as long as the server runs.
+// Cached: an atom stays the same as long as the server runs.
 xcb_atom_t WindowManager::atom(const char* name) const {
   if (const auto known = atoms_.find(name); known != atoms_.end()) return known->second;
   const auto cookie =
@@ -88,7 +88,7 @@ xcb_window_t WindowManager::inputFocus() const {
   return reply == nullptr ? 0 : reply->focus;
 }
 
-// The server gives every program a range of numbers of its own.
+// The server gives every client its own range of ids.
 bool WindowManager::isOfSameProgram(xcb_window_t one, xcb_window_t other) const {
   const std::uint32_t withinProgram = xcb_get_setup(connection_)->resource_id_mask;
   return (one & ~withinProgram) == (other & ~withinProgram);
@@ -104,8 +104,8 @@ bool WindowManager::isInside(xcb_window_t inner, xcb_window_t outer) const {
   return true;
 }
 
-// Some programs have the focus in a window beside the one that they show, others in one that
-// another program has put into theirs.
+// Some programs focus a separate window of theirs, others a window that another program has
+// embedded.
 bool WindowManager::hasKeyboard(xcb_window_t window) const {
   if (window == 0 || activeWindow() != window) return false;
   const xcb_window_t focus = inputFocus();
@@ -129,8 +129,8 @@ bool WindowManager::isForWriting(xcb_window_t window) const {
          !has("_NET_WM_WINDOW_TYPE", "_NET_WM_WINDOW_TYPE_DESKTOP");
 }
 
-// By its number as well: the window manager may name one that has just closed, and which tells its
-// process no more.
+// The id is compared as well: the window manager may name a window that has just closed and no
+// longer has a process id.
 bool WindowManager::isOwn(xcb_window_t window) const {
   return isOfSameProgram(window, xcb_get_setup(connection_)->resource_id_base) ||
          processOf(window) == static_cast<std::uint32_t>(getpid());
@@ -139,7 +139,7 @@ bool WindowManager::isOwn(xcb_window_t window) const {
 xcb_window_t WindowManager::topForeignWindow() const {
   const xcb_window_t active = activeWindow();
   if (active == 0 || !isOwn(active)) return active;
-  // From the bottom to the top.
+  // Ordered from bottom to top.
   const std::vector<xcb_window_t> stack =
       numbers(root_, "_NET_CLIENT_LIST_STACKING", XCB_ATOM_WINDOW);
   const auto found = std::find_if(stack.rbegin(), stack.rend(), [&](xcb_window_t window) {
@@ -210,14 +210,14 @@ void WindowManager::activate(xcb_window_t window) const {
 
 bool WindowManager::releaseKeyboard() const {
   if (connection_ == nullptr) return false;
-  // A hold of this program is replaced, that of another one stays.
+  // This replaces a grab of this program; it fails while another program has one.
   const auto cookie = xcb_grab_keyboard(connection_, 0, root_, XCB_CURRENT_TIME,
                                         XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
   const Reply<xcb_grab_keyboard_reply_t> grab(
       xcb_grab_keyboard_reply(connection_, cookie, nullptr));
   xcb_ungrab_keyboard(connection_, XCB_CURRENT_TIME);
-  // The answer to any request tells that the server has taken this one in, before a key pressed
-  // through another connection.
+  // Any answered request shows that the server has handled this one, before a key is pressed on the
+  // other connection.
   const Reply<xcb_get_input_focus_reply_t> reply(
       xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
   return grab != nullptr && grab->status == XCB_GRAB_STATUS_SUCCESS;

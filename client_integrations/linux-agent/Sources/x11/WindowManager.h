@@ -13,52 +13,51 @@
 
 namespace quillseal::linux {
 
-/// The windows of the X session, asked and told by the conventions of the EWMH. Uses Qt's own
-/// connection; main thread only. Works without an X server: nothing is found then.
+/// The windows of the X session, through the conventions of the EWMH. Uses Qt's own connection;
+/// main thread only. Without an X server it finds nothing.
 class WindowManager {
  public:
   WindowManager();
 
-  /// The window that has the focus by the window manager's word; 0 when it names none.
+  /// Returns the focused window according to the window manager; 0 when it names none.
   [[nodiscard]] xcb_window_t activeWindow() const;
 
-  /// Whether the window manager is one that names the active window, or says that none is.
+  /// Returns whether the window manager reports the active window at all.
   [[nodiscard]] bool namesActiveWindow() const;
 
-  /// Whether keys that are pressed now go to the window, by the word of the window manager and of
-  /// the X server, which is ahead of it while windows are switched.
+  /// Returns whether a key pressed now would go to the window. Both the window manager and the X
+  /// server must say so: while windows are switched, the server is ahead.
   [[nodiscard]] bool hasKeyboard(xcb_window_t window) const;
 
-  /// The window that has the focus, or when that is one of this process the topmost one of another
-  /// that the person can see and write in; 0 when there is none.
+  /// Returns the focused window. When it belongs to this process: the topmost window of another
+  /// that is visible and takes text. 0 when there is none.
   [[nodiscard]] xcb_window_t topForeignWindow() const;
 
-  /// What the window shows: see `documentName`.
+  /// Returns the `documentName` of the window.
   [[nodiscard]] std::string documentOf(xcb_window_t window) const;
 
-  /// The process that says it owns the window; 0 when none does.
+  /// Returns the process that claims the window; 0 when none does.
   [[nodiscard]] std::uint32_t processOf(xcb_window_t window) const;
 
   [[nodiscard]] WindowTraits traitsOf(xcb_window_t window) const;
 
-  /// Whether the program that shows the window has the primary selection.
+  /// Returns whether the window's program owns the primary selection.
   [[nodiscard]] bool hasPrimarySelection(xcb_window_t window) const;
 
   [[nodiscard]] bool exists(xcb_window_t window) const;
 
-  /// Asks for the window to be raised and given the focus, as a pager would: window managers refuse
-  /// the same wish from an ordinary program as focus stealing, and for a window on another
-  /// workspace from a pager too, so that the workspace is switched first. A minimised window comes
-  /// back.
+  /// Asks for the window to be raised and focused, as a pager would: window managers refuse that
+  /// from an ordinary program as focus stealing. They refuse it even from a pager for a window on
+  /// another workspace, so the workspace is switched first. A minimised window is restored.
   void activate(xcb_window_t window) const;
 
-  /// Ends the hold that a pressed hotkey has on the keyboard. Keys pressed afterwards by anyone
-  /// reach the window in front. False when another program holds the keyboard, such as an open menu
-  /// or a locked screen: they reach that.
+  /// Ends the keyboard grab of a pressed hotkey, so that later keys reach the focused window. False
+  /// when another program has grabbed the keyboard, such as an open menu or the screen lock, which
+  /// then gets the keys.
   [[nodiscard]] bool releaseKeyboard() const;
 
  private:
-  /// A message to the window manager.
+  /// A client message to the window manager.
   struct Wish {
     const char* name;
     std::uint32_t first;

@@ -7,7 +7,7 @@
 
 namespace quillseal::linux {
 
-/// Applications by the windows of the X session and the desktop files of the machine.
+/// Finds applications by the windows of the X session and the installed desktop files.
 class X11Applications : public LinuxApplications {
  public:
   /// All outlive this object.

@@ -17,16 +17,16 @@
 namespace quillseal::linux {
 namespace {
 
-// Kinds of XKEYBOARD events; they stand where other events have padding.
+// Subtypes of XKEYBOARD events, stored where other events have padding.
 constexpr std::uint8_t newKeyboardNotify = 0;
 constexpr std::uint8_t mapNotify = 1;
 
-/// Milliseconds. X servers repeat a held key after 660, desktops let people choose up to this.
+/// Milliseconds. X servers repeat a held key after 660; desktops allow delays up to this.
 constexpr std::uint32_t longestRepeatDelay = 1000;
-/// Quicker than anybody lets a key go and presses it again.
+/// Shorter than any release between two presses.
 constexpr std::chrono::milliseconds releasePolling{40};
-/// Changes come in bursts, and one whenever another keyboard is typed on than before: each
-/// signature brings some, since the agent's own presses come from another one.
+/// Layout changes come in bursts, and one comes whenever the typing keyboard changes: every
+/// signature causes some, since the agent's presses come from a virtual one.
 constexpr std::chrono::milliseconds layoutSettles{150};
 
 }  // namespace
@@ -73,7 +73,7 @@ std::optional<X11Hotkey::Place> X11Hotkey::place() const {
     place.modifiers |= mask;
     isKnown = isKnown && mask != 0;
   }
-  // With modifiers missing, the bare key would be taken from every program.
+  // Without the modifiers, every program would lose the bare key.
   return isKnown ? std::optional(place) : std::nullopt;
 }
 
@@ -114,16 +114,16 @@ bool X11Hotkey::nativeEventFilter(const QByteArray& /*eventType*/, void* message
   const auto* event = static_cast<const xcb_generic_event_t*>(message);
   const std::uint8_t type = event->response_type & 0x7FU;
   if (type == XCB_KEY_PRESS || type == XCB_KEY_RELEASE) {
-    // Presses and releases have the same shape.
+    // Press and release events have the same layout.
     const auto* key = reinterpret_cast<const xcb_key_press_event_t*>(event);
     if (key->detail != place_.key || key->event != root_) return false;
     if (type == XCB_KEY_RELEASE) {
       down_ = false;
       lastRelease_ = key->time;
     } else {
-      // A held key repeats: as presses alone, or as releases and presses at the same instant. The
-      // release itself never comes when a run gives the keyboard free while the key is held, so the
-      // server is asked until the key is up; and a key that has not repeated for long was let go.
+      // A held key repeats as presses alone, or as releases and presses with the same time. The
+      // final release is lost when a run releases the grab while the key is held. So the server is
+      // polled until the key is up, and a key that has not repeated for long counts as released.
       const bool repeated =
           key->time == lastRelease_ || (down_ && key->time - lastPress_ < longestRepeatDelay);
       down_ = true;
@@ -135,7 +135,7 @@ bool X11Hotkey::nativeEventFilter(const QByteArray& /*eventType*/, void* message
     }
     return true;
   }
-  // The layout has changed, and with it perhaps the place of the key.
+  // The layout has changed, so the hotkey may be on another key.
   const bool newLayout = type == XCB_MAPPING_NOTIFY ||
                          (type == keyboard_->xkbEventType() &&
                           (event->pad0 == newKeyboardNotify || event->pad0 == mapNotify));

@@ -10,10 +10,10 @@
 
 namespace quillseal::linux {
 
-/// The global hotkey by a passive grab of the key on the root window.
+/// The global hotkey, as a passive key grab on the root window.
 class X11Hotkey : public desktop::Hotkey, private QAbstractNativeEventFilter {
  public:
-  /// `keyboard` is null where there is no usable X server; `obstacle` then tells why.
+  /// `keyboard` is null where there is no usable X server; `obstacle` then says why.
   X11Hotkey(desktop::MainLoop& loop, X11Keyboard* keyboard, std::string obstacle);
   ~X11Hotkey() override;
 
@@ -21,7 +21,7 @@ class X11Hotkey : public desktop::Hotkey, private QAbstractNativeEventFilter {
 
  private:
   bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
-  /// Where the combination is on the keyboard; modifiers as XCB_MOD_MASK_….
+  /// The key code and modifiers (XCB_MOD_MASK_…) of the hotkey.
   struct Place {
     xcb_keycode_t key = 0;
     unsigned modifiers = 0;
@@ -29,7 +29,7 @@ class X11Hotkey : public desktop::Hotkey, private QAbstractNativeEventFilter {
     [[nodiscard]] bool operator==(const Place&) const = default;
   };
 
-  /// Nothing while the keyboard's layout cannot be read.
+  /// Nothing while the layout cannot be read.
   [[nodiscard]] std::optional<Place> place() const;
   [[nodiscard]] bool grab(const Place& place);
   void followLayout();

@@ -48,7 +48,7 @@ struct X11Keyboard::State {
   Context context;
   std::uint8_t xkbEventType = 0;
 
-  // Read afresh for every press: people switch layouts.
+  // Read for every press, since the user may switch layouts.
   [[nodiscard]] Keymap keymap() const {
     return Keymap(xkb_x11_keymap_new_from_device(context.get(), connection.get(), device,
                                                  XKB_KEYMAP_COMPILE_NO_FLAGS));
@@ -58,8 +58,7 @@ struct X11Keyboard::State {
     xcb_test_fake_input(connection.get(), type, key, delayMilliseconds, root, 0, 0, 0);
   }
 
-  // Until the server has taken everything in, a later request of another connection may overtake
-  // it.
+  // Until the server has handled all requests, a request of another connection may overtake them.
   void finish() const {
     const Reply<xcb_get_input_focus_reply_t> reply(xcb_get_input_focus_reply(
         connection.get(), xcb_get_input_focus(connection.get()), nullptr));
@@ -136,7 +135,7 @@ void X11Keyboard::tap(std::span<const xcb_keycode_t> keys) {
 struct X11Keyboard::Layout::Map {
   Keymap keymap;
   xkb_layout_index_t inUse;
-  Reply<xcb_get_modifier_mapping_reply_t> modifiers;  // null when the server did not tell
+  Reply<xcb_get_modifier_mapping_reply_t> modifiers;  // null when the server did not answer
 };
 
 X11Keyboard::Layout X11Keyboard::layout() {

@@ -12,49 +12,49 @@ namespace quillseal::linux {
 /// An X keysym, as in X11/keysymdef.h.
 using Keysym = std::uint32_t;
 
-/// The keyboard of the X server: which keys are down, where a symbol is, and how to press it.
+/// The keyboard of the X server: reports held keys, finds the key of a symbol, and presses keys.
 ///
-/// It has a connection of its own, so that the pauses of a synthesised key press hold up nothing
-/// else. Main thread only.
+/// Uses a separate connection, so that the pauses of a synthesised press delay nothing else. Main
+/// thread only.
 class X11Keyboard {
  public:
-  /// Where the keys are, as the layouts stand when it is made.
+  /// A snapshot of the keyboard layouts.
   class Layout {
    public:
-    /// The key that gives `symbol` without Shift: in the layout in use if it has one, else in
-    /// another configured layout, else where a Latin layout has it. 0 for a symbol that no layout
-    /// has.
+    /// Returns the key that gives `symbol` without Shift: in the active layout, else in another
+    /// configured one, else in a Latin layout. 0 when none has it.
     [[nodiscard]] xcb_keycode_t keyFor(Keysym symbol) const;
 
-    /// The modifier bits (XCB_MOD_MASK_…) that the key of `symbol` stands for; 0 when it is none.
+    /// Returns the modifier bits (XCB_MOD_MASK_…) of the key of `symbol`; 0 when it is not a
+    /// modifier.
     [[nodiscard]] std::uint16_t modifierMaskOf(Keysym symbol) const;
 
    private:
     friend class X11Keyboard;
     struct Map;
-    std::shared_ptr<const Map> map_;  // null when the server did not tell
+    std::shared_ptr<const Map> map_;  // null when the server did not answer
   };
 
-  /// Null when there is no X server, or one without the XTEST and XKEYBOARD extensions.
+  /// Null when there is no X server, or it lacks XTEST or XKEYBOARD.
   [[nodiscard]] static std::unique_ptr<X11Keyboard> open();
   ~X11Keyboard();
   X11Keyboard(const X11Keyboard&) = delete;
   X11Keyboard& operator=(const X11Keyboard&) = delete;
 
-  /// The modifier keys that are down now, on any keyboard, and `also` when it is down too.
-  /// Lock keys that are merely latched are not down.
+  /// Returns the modifier keys that are down now, on any keyboard, and `also` if it is down too. A
+  /// lock key that is only on is not down.
   [[nodiscard]] std::vector<xcb_keycode_t> heldKeys(xcb_keycode_t also);
 
-  /// Makes the server believe that these keys were let go. The person may still hold them.
+  /// Sends releases of these keys. The user may still hold them.
   void release(std::span<const xcb_keycode_t> keys);
 
-  /// Presses the keys in order and lets them go in reverse order.
+  /// Presses the keys in order and releases them in reverse order.
   void tap(std::span<const xcb_keycode_t> keys);
 
-  /// Takes some milliseconds, since the server is asked for everything it knows of the keys.
+  /// Takes some milliseconds: the server sends the whole keymap.
   [[nodiscard]] Layout layout();
 
-  /// The type of the events by which the XKEYBOARD extension reports another layout.
+  /// The event type with which XKEYBOARD reports layout changes.
   [[nodiscard]] std::uint8_t xkbEventType() const;
 
  private:

@@ -16,15 +16,15 @@ namespace {
 
 using std::chrono::milliseconds;
 
-// A word processor that lays a long document out anew for each format is silent for seconds.
+// A word processor may take seconds to render a long document for each format.
 constexpr std::chrono::seconds longestSilence{5};
 constexpr std::chrono::seconds longestTransfer{20};
 constexpr std::size_t largestContent = std::size_t{64} * 1024 * 1024;
 
 using x11::Reply;
 
-/// A connection of its own, so that no event is taken from the toolkit. What was made through it
-/// goes with it. Its calls wait for the X server only.
+/// A separate connection, so that no event is taken from the toolkit. Closing it frees everything
+/// made through it. Its calls wait only for the X server.
 class Connection {
  public:
   Connection() : connection_(xcb_connect(nullptr, nullptr)) {
@@ -49,7 +49,7 @@ class Connection {
     return reply == nullptr ? xcb_atom_t{XCB_ATOM_NONE} : reply->atom;
   }
 
-  /// Has the owner put `target` into the property of that name.
+  /// Asks the owner to store `target` in the property of the same name.
   void convert(xcb_atom_t selection, xcb_atom_t target) const {
     xcb_convert_selection(connection_.get(), window_, selection, target, target, XCB_CURRENT_TIME);
     xcb_flush(connection_.get());
@@ -61,7 +61,7 @@ class Connection {
     bool isWhole = true;
   };
 
-  /// Takes the property away, which asks for the next piece of what comes in pieces.
+  /// Reads and deletes the property. In an incremental transfer that requests the next piece.
   [[nodiscard]] Property take(xcb_atom_t property) const {
     constexpr std::uint8_t thenDelete = 1;
     constexpr std::uint32_t longest = largestContent / 4;
@@ -85,7 +85,7 @@ class Connection {
   xcb_window_t window_ = XCB_NONE;
 };
 
-/// One read. It lives until its ticket is dropped.
+/// One read operation. Lives until its ticket is dropped.
 class Reading : public std::enable_shared_from_this<Reading> {
  public:
   Reading(const Services& services, Wish wish, std::function<void(Content)> done)
@@ -130,7 +130,7 @@ class Reading : public std::enable_shared_from_this<Reading> {
     timer_ = services_.loop.after(patience, [this] { finish(); });
   }
 
-  // Answers to other calls may have brought events along, so that all are taken.
+  // Reads all queued events: earlier replies may have brought some.
   void receive() {
     const auto self = shared_from_this();
     while (done_ != nullptr) {
@@ -147,7 +147,7 @@ class Reading : public std::enable_shared_from_this<Reading> {
   void handle(const xcb_generic_event_t& event) {
     constexpr unsigned sentByProgram = 0x80;
     const unsigned type = event.response_type & ~sentByProgram;
-    // Each kind has a shape of its own, in the same 32 bytes.
+    // Each kind of event has its own layout in the same 32 bytes.
     if (type == XCB_SELECTION_NOTIFY) {
       const auto& answer = reinterpret_cast<const xcb_selection_notify_event_t&>(event);
       if (answer.target != asked_.atom || isInPieces_) return;
@@ -225,11 +225,11 @@ class Reading : public std::enable_shared_from_this<Reading> {
   desktop::MainLoop::TimePoint end_;
   std::vector<Format> chosen_;
   Format asked_;
-  std::string bytes_;  // of what comes in pieces
+  std::string bytes_;  // of an incremental transfer
   bool isInPieces_ = false;
   Content content_;
   desktop::Ticket timer_;
-  desktop::Ticket watch_;  // last: gone before the connection is
+  desktop::Ticket watch_;  // last: destroyed before the connection
 };
 
 }  // namespace

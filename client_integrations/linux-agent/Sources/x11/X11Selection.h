@@ -8,20 +8,20 @@
 #include "desktop/MainLoop.h"
 #include "session/Descriptors.h"
 
-/// What another program offers to paste, read in turns of the main loop: the toolkit's clipboard
-/// holds up the whole program, five seconds for each format, while the other one does not answer.
+/// Reads a selection of another program without blocking the main loop. The toolkit's clipboard
+/// blocks for up to five seconds for each format while the owner does not answer.
 namespace quillseal::linux::X11Selection {
 
 enum class Name { primary, clipboard };
 
-/// Bytes by the names of their formats; empty for one that is offered but refused.
+/// Maps the name of a format to its bytes; empty for one that was offered but refused.
 using Content = std::map<std::string, std::string>;
 
 struct Wish {
   Name selection;
-  /// Of each group the first format that is offered, in this order.
+  /// Reads the first offered format of each group, in this order.
   std::vector<std::vector<std::string>> formats;
-  /// Asked after each format, unless empty; nothing more is read once it holds.
+  /// If set, called after each format; reading stops once it returns true.
   std::function<bool(const Content&)> isEnough;
 };
 
@@ -30,9 +30,8 @@ struct Services {
   Descriptors& descriptors;
 };
 
-/// Reads `wish`, one format after the other. Once the owner has been silent for five seconds it is
-/// asked for nothing more; nor after twenty seconds, or for what exceeds 64 MiB. REQUIRES: the
-/// program runs on an X server.
+/// Reads the formats of `wish` one after the other. Stops when the owner is silent for five
+/// seconds, after twenty seconds in all, and at 64 MiB. REQUIRES: the program runs on an X server.
 [[nodiscard]] desktop::Ticket read(const Services& services, Wish wish,
                                    std::function<void(Content)> done);
 

@@ -12,7 +12,7 @@ bool isOnX() {
   return QGuiApplication::platformName() == QLatin1String("xcb");
 }
 
-// A compositor that was started from a console leaves the type of the session at "tty".
+// Not only XDG_SESSION_TYPE: it stays "tty" when a compositor is started from a console.
 bool isWayland() {
   return qgetenv("XDG_SESSION_TYPE") == "wayland" || !qgetenv("WAYLAND_DISPLAY").isEmpty();
 }

@@ -13,8 +13,8 @@
 
 namespace quillseal::linux {
 
-/// Selections, keys and windows through the X server that Qt uses. Without one it does nothing, and
-/// says so.
+/// Selections, keys and windows through the X server that Qt uses. Without one it does nothing and
+/// reports that.
 class X11System : public WindowingSystem, private OwnWindows {
  public:
   explicit X11System(const Services& services);

@@ -17,15 +17,16 @@ using std::chrono::milliseconds;
 
 constexpr milliseconds releasePatience{400};
 constexpr milliseconds polling{8};
-// LibreOffice Writer pastes its own earlier copy when the key follows the clipboard more closely.
+// LibreOffice Writer pastes its own earlier copy when the key comes sooner after the clipboard's
+// change.
 constexpr milliseconds clipboardPropagation{150};
-// Windows take their time to come to the front, and pages to show their title again.
+// Windows need time to come to the front, and web pages to restore their title.
 constexpr milliseconds targetPatience{1000};
 
 }  // namespace
 
-/// One press, which waits in turns of the main loop: the clipboard and the hotkey are served
-/// meanwhile. It lives until its ticket is dropped.
+/// One key press. Waits in the main loop, which goes on serving clipboard and hotkey. Lives until
+/// its ticket is dropped.
 class XTestKeyEvents::Press : public std::enable_shared_from_this<Press> {
  public:
   struct Wish {
@@ -74,10 +75,11 @@ class XTestKeyEvents::Press : public std::enable_shared_from_this<Press> {
     timer_ = services_.loop.after(delay, [this] { step(); });
   }
 
-  /// Whom a key would reach that is pressed now.
+  /// Returns whether a key pressed now would reach the target.
   [[nodiscard]] Delivery deliveryNow() const {
     const WindowManager& windows = services_.windows;
-    // Nothing was in front when the target was looked for: what is now is not what was meant.
+    // There was no active window when the target was determined, so one that is active now is not
+    // the target.
     if (!wish_.target)
       return windows.namesActiveWindow() ? Delivery::declined : Delivery::delivered;
     if (!windows.exists(window_)) return Delivery::targetClosed;
@@ -97,7 +99,7 @@ class XTestKeyEvents::Press : public std::enable_shared_from_this<Press> {
       services_.keyboard->release(heldKeys());
       if (!services_.windows.releaseKeyboard()) return Delivery::declined;
     }
-    // All of that took time, and what was let go may have switched windows.
+    // Time has passed, and the released keys may have switched windows.
     const Delivery delivery = deliveryNow();
     if (delivery == Delivery::delivered) {
       aboutToPress();
@@ -111,7 +113,7 @@ class XTestKeyEvents::Press : public std::enable_shared_from_this<Press> {
   }
 
   void copySelected() {
-    const auto self = shared_from_this();  // it may be copied at once
+    const auto self = shared_from_this();  // `finish` may drop the last reference
     aboutToPress();
     if (!services_.windows.hasPrimarySelection(window_)) return finish(Delivery::delivered);
     timer_ = services_.pasteboard.copyPrimarySelection([this] { finish(Delivery::delivered); });
@@ -132,7 +134,7 @@ class XTestKeyEvents::Press : public std::enable_shared_from_this<Press> {
   X11Keyboard::Layout layout_;
   desktop::MainLoop::TimePoint earliest_;
   desktop::MainLoop::TimePoint latest_;
-  desktop::Ticket timer_;  // and then what is read of a selection
+  desktop::Ticket timer_;  // or the read of the selection
 };
 
 XTestKeyEvents::XTestKeyEvents(Services services) : services_(std::move(services)) {}
@@ -153,8 +155,8 @@ desktop::Ticket XTestKeyEvents::press(desktop::KeyPress press,
     done(Delivery::delivered);
     return {};
   }
-  // Without the entries nobody can tell which keys to press. A failure reaches the caller from
-  // here, but not from a turn of the loop.
+  // Loads the desktop entries, which decide the keys to press: an exception reaches the caller from
+  // here, but not from the main loop.
   static_cast<void>(services_.entries.withId({}));
   const auto pressing =
       std::make_shared<Press>(services_, Press::Wish{.press = press,

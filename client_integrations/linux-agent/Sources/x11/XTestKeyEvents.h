@@ -12,8 +12,9 @@
 
 namespace quillseal::linux {
 
-/// Synthesised key presses by the XTEST extension. A press is declined unless its target is the
-/// active window and shows what it showed when the target was named, for which it waits a second.
+/// Synthesised key presses through the XTEST extension. A press waits up to a second for its target
+/// to be active and to show the same document as when the target was determined; otherwise it is
+/// declined.
 class XTestKeyEvents : public desktop::KeyEvents {
  public:
   struct Services {
@@ -22,7 +23,7 @@ class XTestKeyEvents : public desktop::KeyEvents {
     DesktopEntries& entries;
     X11Keyboard* keyboard;  ///< null where keys cannot be pressed
     QtPasteboard& pasteboard;
-    /// Tells the person why keys cannot be pressed in this session.
+    /// Tells the user why keys cannot be pressed in this session.
     std::function<void()> explain;
   };
 

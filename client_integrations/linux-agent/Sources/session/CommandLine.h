@@ -8,14 +8,14 @@ namespace quillseal::linux {
 
 /// What a start of `quillseal` asks for.
 enum class Command {
-  start,       ///< Be the agent; one that runs already opens its settings.
-  background,  ///< Be the agent, quietly: nothing on standard error, no settings when one runs.
+  start,       ///< Run the agent; a running one opens its settings.
+  background,  ///< Run the agent without output on standard error; a running one opens nothing.
   sign,        ///< Sign the selected text.
   settings,    ///< Show the settings window.
-  quit,        ///< End the agent that runs.
+  quit,        ///< End the running agent.
   help,
   version,
-  wrong,  ///< The arguments cannot be understood.
+  wrong,  ///< The arguments are wrong.
 };
 
 struct CommandLine {
@@ -24,14 +24,14 @@ struct CommandLine {
   std::string problem;  ///< A sentence for standard error; only with `Command::wrong`.
 };
 
-/// Understands the arguments that follow the program's name.
+/// Parses the arguments that follow the program's name.
 [[nodiscard]] CommandLine parseCommandLine(std::span<const std::string_view> arguments);
 
 /// The text of `--help`, ending in a line feed.
 [[nodiscard]] std::string_view helpText();
 
-/// The word by which a command travels to the agent that runs already; empty for commands that
-/// never do.
+/// Returns the command's name on the session bus; empty for commands that are not sent to a running
+/// agent.
 [[nodiscard]] std::string_view wireName(Command command);
 
 }  // namespace quillseal::linux

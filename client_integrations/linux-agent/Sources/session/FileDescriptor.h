@@ -8,7 +8,7 @@
 
 namespace quillseal::linux {
 
-/// An open file descriptor; closed at the end of its life.
+/// Owns an open file descriptor and closes it.
 class FileDescriptor {
  public:
   FileDescriptor() = default;
@@ -32,7 +32,8 @@ class FileDescriptor {
   int number_ = -1;
 };
 
-/// Writes all of `bytes`, waiting as the descriptor does. On failure false, with errno set.
+/// Writes all of `bytes`; blocks if the descriptor is blocking. On failure returns false, with
+/// errno set.
 [[nodiscard]] inline bool writeAll(const FileDescriptor& file, std::string_view bytes) {
   while (!bytes.empty()) {
     const ssize_t written = ::write(file.get(), bytes.data(), bytes.size());

@@ -13,8 +13,8 @@ namespace quillseal::linux {
 
 namespace {
 
-// Code stays: a debugger's breakpoints are in it. Data that is written to, and what the loader
-// wrote to before it made it read-only, is in segments of another kind.
+// Drops only read-only segments: code may hold a debugger's breakpoints, and data that the program
+// or the loader writes to is in other segments.
 int giveBackConstants(dl_phdr_info* object, std::size_t /*size*/, void* /*unused*/) {
   const auto pageSize = static_cast<std::uintptr_t>(::sysconf(_SC_PAGESIZE));
   const std::span<const ElfW(Phdr)> segments(object->dlpi_phdr, object->dlpi_phnum);
@@ -22,7 +22,7 @@ int giveBackConstants(dl_phdr_info* object, std::size_t /*size*/, void* /*unused
     if (segment.p_type != PT_LOAD || segment.p_flags != PF_R) continue;
     const std::uintptr_t begin = object->dlpi_addr + segment.p_vaddr;
     const std::uintptr_t firstPage = begin / pageSize * pageSize;
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): that is how the loader tells addresses.
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the loader gives addresses as integers
     ::madvise(reinterpret_cast<void*>(firstPage), begin + segment.p_memsz - firstPage,
               MADV_DONTNEED);
   }
@@ -32,8 +32,8 @@ int giveBackConstants(dl_phdr_info* object, std::size_t /*size*/, void* /*unused
 }  // namespace
 
 bool returnLargeBlocks() noexcept {
-  // By default the C library raises the limit once it has seen a large block freed, and keeps those
-  // that come later, for each thread by itself.
+  // By default the C library raises this threshold when a large block is freed, and then keeps
+  // later ones in each thread's heap.
   constexpr int largeBlock = 1 << 20;
   // NOLINTNEXTLINE(concurrency-mt-unsafe): before any thread
   return ::mallopt(M_MMAP_THRESHOLD, largeBlock) == 1;

@@ -1,15 +1,15 @@
 #pragma once
 
-/// Memory that an agent needs while it signs and not while it waits for days. Both functions act on
-/// the whole process.
+/// Returns memory to the system that the agent needs only while it signs. Both functions act on the
+/// whole process.
 namespace quillseal::linux {
 
-/// From now on a freed block of a mebibyte or more goes back to the system at once. To be called
-/// before there is a second thread. False where the allocator has no such setting.
+/// From now on a freed block of a mebibyte or more is returned at once. Call before there is a
+/// second thread. False where the allocator has no such setting.
 bool returnLargeBlocks() noexcept;
 
-/// Gives back free memory, and the pages of constant data in the program and its libraries: they
-/// are in the system's cache of the files and come back at the next use. On any thread.
+/// Returns free memory, and the pages of constant data in the program and its libraries; the system
+/// loads those again when they are used. Any thread.
 void giveBackUnusedMemory() noexcept;
 
 }  // namespace quillseal::linux

@@ -33,7 +33,7 @@ std::string printable(std::string_view line) {
   return result;
 }
 
-// Writing to a stopped terminal, or to a full pipe that nobody reads, blocks.
+// Writing to a stopped terminal or to a full pipe would block.
 bool takesOutput(int descriptor) {
   pollfd output{.fd = descriptor, .events = POLLOUT, .revents = 0};
   return poll(&output, 1, 0) > 0;

@@ -4,7 +4,7 @@
 
 namespace quillseal::linux {
 
-/// Writes to the journal, or to syslog where no journal runs. Echoed lines that would block are
+/// Logs to the journal, or to syslog where there is none. Echoed lines that would block are
 /// dropped.
 class JournalLog : public desktop::Log {
  public:

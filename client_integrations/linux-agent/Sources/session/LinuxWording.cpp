@@ -8,7 +8,7 @@
 namespace quillseal::linux {
 namespace {
 
-/// The sentences that differ between a chip and a file.
+/// Sets the sentences for a key in the TPM instead of a file.
 void speakOfTpm(desktop::Wording& words, const std::string& tpm) {
   words.proof = words.proofInTitle = "PIN";
   words.deviceKey = tpm + " key";
@@ -66,7 +66,7 @@ desktop::Wording linuxWording(const WordingCircumstances& circumstances) {
       speakOfKeyFile(words);
       break;
   }
-  // Which of the two it will be is not known before.
+  // In advance it is not known which of the two will be used.
   if (circumstances.isDemo) {
     words.proof = "fingerprint or password";
     words.proofInTitle = "Fingerprint or Password";

@@ -5,13 +5,13 @@
 
 namespace quillseal::linux {
 
-/// What the agent's words depend on.
+/// What the wording depends on.
 struct WordingCircumstances {
-  KeyPlace key;         ///< where the key is or would be made
+  KeyPlace key;         ///< where the key is, or would be made
   bool isDemo = false;  ///< no key is used, but a presence check
 };
 
-/// The words of Linux desktops. Pure.
+/// Returns the wording for Linux desktops. Pure.
 [[nodiscard]] desktop::Wording linuxWording(const WordingCircumstances& circumstances);
 
 }  // namespace quillseal::linux

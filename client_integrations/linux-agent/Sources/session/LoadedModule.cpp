@@ -29,7 +29,7 @@ void* LoadedModule::symbol(const char* name) const {
     throw unusable(options_.places.empty() ? "where it is cannot be told"
                                            : options_.places.front().string() + " is missing");
   }
-  // Never unloaded: threads of its libraries may outlive what they were needed for.
+  // Never unloaded: threads of its libraries may still run.
   void* const module = ::dlopen(found->c_str(), RTLD_NOW | RTLD_LOCAL);
   const auto find = [&](const char* wanted) {
     void* const address = module == nullptr ? nullptr : ::dlsym(module, wanted);

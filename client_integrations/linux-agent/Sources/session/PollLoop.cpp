@@ -97,7 +97,7 @@ void PollLoop::stop() {
 }
 
 void PollLoop::wake() const {
-  // Fails only when a wake-up is pending already.
+  // Fails only when a wake-up is already pending.
   (void)eventfd_write(wakeUp_.get(), 1);
 }
 
@@ -122,7 +122,7 @@ void PollLoop::waitForEvents() {
   (void)eventfd_read(wakeUp_.get(), &ignored);
   for (std::size_t i = 1; i < descriptors.size(); ++i) {
     if (descriptors[i].revents == 0) continue;
-    // An earlier call may have ended this watch or begun another of the same descriptor.
+    // An earlier callback may have ended this watch, or started another on the same descriptor.
     const auto found = watches_.find(descriptors[i].fd);
     if (found == watches_.end() || found->second.id != ids[i]) continue;
     const std::function<void(Interest)> ready = found->second.ready;

@@ -13,7 +13,7 @@
 
 namespace quillseal::linux {
 
-/// A main loop on poll(2), for tools and tests that have no toolkit.
+/// A main loop on poll(2), for programs and tests without a toolkit.
 class PollLoop final : public desktop::MainLoop, public Descriptors {
  public:
   PollLoop();
@@ -31,10 +31,10 @@ class PollLoop final : public desktop::MainLoop, public Descriptors {
   [[nodiscard]] desktop::Ticket watch(int descriptor, Interest interest,
                                       std::function<void(Interest)> ready) override;
 
-  /// Serves the loop on this thread, which thereby is the main thread, until `stop`.
+  /// Runs the loop until `stop`. The calling thread becomes the main thread.
   void run();
 
-  /// Ends `run` soon, or else the next one at once. Any thread.
+  /// Ends `run` soon, or the next `run` at once. Any thread.
   void stop();
 
  private:

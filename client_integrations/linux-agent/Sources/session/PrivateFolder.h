@@ -4,12 +4,13 @@
 
 namespace quillseal::linux {
 
-/// "quillseal" in `parent`, of mode 0700, made when it is missing. Throws std::runtime_error with a
-/// sentence when it cannot be made, or when either folder could be changed by another user.
+/// Returns the folder "quillseal" in `parent` and creates it with mode 0700 if it is missing.
+/// Throws std::runtime_error with a sentence when that fails or another user could change either
+/// folder.
 [[nodiscard]] std::filesystem::path privateFolderIn(const std::filesystem::path& parent);
 
-/// The one in `$XDG_RUNTIME_DIR`, for what ends with the session. Throws also when there is no
-/// such folder.
+/// Returns the one in `$XDG_RUNTIME_DIR`, for files that last as long as the session. Throws also
+/// when the variable names no folder.
 [[nodiscard]] std::filesystem::path runtimeFolder();
 
 }  // namespace quillseal::linux

@@ -25,7 +25,7 @@ void keepFromOthers(const QString& path) {
   if (file.isFile() && (file.permissions() & others) != 0) QFile::setPermissions(path, ownerOnly);
 }
 
-/// Puts `text` in the place of the file, whole or not at all.
+/// Replaces the file atomically with `text`.
 bool replaceFile(const QString& path, const std::string& text) {
   QSaveFile file(path);
   return file.open(QFile::WriteOnly | QFile::Unbuffered) && file.setPermissions(ownerOnly) &&
@@ -107,7 +107,7 @@ SettingsText::Values QtDefaults::read() const {
 }
 
 std::optional<SettingsText> QtDefaults::fileContents() const {
-  // Each time, since an editor may have put a new file in its place.
+  // Every time, since an editor may have replaced the file.
   keepFromOthers(path_);
   std::string before;
   for (bool isSecondLook = false;; isSecondLook = true) {
@@ -151,7 +151,7 @@ void QtDefaults::warn(const QString& sentence) const {
 }
 
 void QtDefaults::watchFile() {
-  // A file that was replaced is another one to the watcher.
+  // The watcher does not follow a file that was replaced.
   if (!watcher_.files().contains(path_) && QFile::exists(path_)) watcher_.addPath(path_);
 }
 
@@ -163,7 +163,7 @@ void QtDefaults::compare() {
   for (const auto& [id, changed] : *observers_)
     ids.push_back(id);
   for (const std::uint64_t id : ids) {
-    // An observer may end any other, or itself.
+    // An observer may remove any observer, also itself.
     const auto found = observers_->find(id);
     if (found == observers_->end()) continue;
     const std::function<void()> changed = found->second;

@@ -17,20 +17,20 @@
 
 namespace quillseal::linux {
 
-/// The settings as a file (SettingsText) that users and other programs may edit at any time. Only
-/// its owner may read it, since it holds the API key. Created and destroyed on the main thread.
+/// The settings in a file (SettingsText) that users and other programs may edit at any time. Only
+/// its owner may read it, since it holds the API key. Create and destroy on the main thread.
 /// REQUIRES: a QCoreApplication lives longer.
 ///
-/// A file that cannot be understood is renamed, with ".damaged-" and a number added to its name,
-/// and counts as empty.
+/// A file that cannot be parsed is renamed, with ".damaged-" and a number added to its name, and
+/// counts as empty.
 class QtDefaults final : public desktop::Defaults {
  public:
   struct Options {
     std::string path;  ///< absolute; usually `settingsFile()`
-    /// Gets a sentence for the user when the file is damaged or cannot be used. On the main thread,
-    /// never from inside another call.
+    /// Receives a sentence for the user when the file is damaged or cannot be used. Called on the
+    /// main thread, never from inside another call.
     std::function<void(const std::string&)> warn;
-    /// How long a damaged file is given to become whole, since an editor may be writing it.
+    /// How long to wait before a damaged file is renamed, since an editor may still be writing it.
     std::chrono::milliseconds editorsPatience{100};
   };
 
@@ -50,7 +50,7 @@ class QtDefaults final : public desktop::Defaults {
   using Observers = std::map<std::uint64_t, std::function<void()>>;
 
   [[nodiscard]] SettingsText::Values read() const;
-  /// Nothing when the file cannot be used; the user has then been warned.
+  /// Nothing when the file cannot be used, after a warning.
   [[nodiscard]] std::optional<SettingsText> fileContents() const;
   [[nodiscard]] std::optional<SettingsText> setAside() const;
   void warn(const QString& sentence) const;
@@ -59,9 +59,9 @@ class QtDefaults final : public desktop::Defaults {
 
   Options options_;
   QString path_;
-  mutable std::mutex mutex_;  // serves reads from any thread; guards what follows
+  mutable std::mutex mutex_;  // guards the members below; reads come from any thread
   mutable bool isWarned_ = false;
-  SettingsText::Values unsaved_;  // what could not be written holds for this process
+  SettingsText::Values unsaved_;  // values that could not be written; valid in this process
 
   // Main thread only.
   SettingsText::Values seen_;

@@ -12,7 +12,7 @@ namespace {
 using Interest = Descriptors::Interest;
 using Ready = std::shared_ptr<const std::function<void(Interest)>>;
 
-/// A notifier may be let go from inside its own signal, and the function that is running with it.
+/// A notifier may be released from inside its own signal, while its function still runs.
 struct DeleteLater {
   void operator()(QSocketNotifier* notifier) const {
     notifier->setEnabled(false);

@@ -9,7 +9,7 @@
 namespace quillseal::linux {
 namespace {
 
-// Workers wait for people (a PIN) and for the network more than for the processor.
+// Workers mostly wait, for the user (a PIN) and for the network.
 constexpr int workers = 16;
 constexpr std::chrono::seconds untilIdle{2};
 
@@ -17,7 +17,7 @@ constexpr std::chrono::seconds untilIdle{2};
 
 QtMainLoop::QtMainLoop() {
   workers_.setMaxThreadCount(workers);
-  // What work needed meanwhile would otherwise stay with the agent while it waits for days.
+  // Returns memory to the system when the agent becomes idle.
   idle_.setSingleShot(true);
   idle_.setInterval(untilIdle);
   QObject::connect(&idle_, &QTimer::timeout, &receiver_,
@@ -41,7 +41,7 @@ desktop::Ticket QtMainLoop::after(std::chrono::milliseconds delay, std::function
   (*timer)->setSingleShot(true);
   (*timer)->setTimerType(Qt::PreciseTimer);
   QObject::connect(timer->get(), &QTimer::timeout, &receiver_, [work = std::move(work)] {
-    // The call may drop the ticket, and with it the timer that holds this very function.
+    // A copy: the call may drop the ticket, and with it the timer that owns this function.
     const std::function<void()> call = work;
     call();
   });

@@ -15,8 +15,8 @@ class QtMainLoop : public desktop::MainLoop {
   QtMainLoop();
   ~QtMainLoop() override;
 
-  /// Waits for workers that still run; false when some do after `patience`. What they would have
-  /// run on the main thread afterwards is left out when the loop ends meanwhile.
+  /// Waits for running workers; false when some still run after `patience`. Their completions do
+  /// not run if the loop ends meanwhile.
   [[nodiscard]] bool waitForWorkers(std::chrono::milliseconds patience);
 
   void post(std::function<void()> work) override;
@@ -27,7 +27,7 @@ class QtMainLoop : public desktop::MainLoop {
                                             std::function<void()> finished) override;
 
  private:
-  QObject receiver_;  // work posted to it goes with it
+  QObject receiver_;  // destroying it discards posted work
   QThreadPool workers_;
   QTimer idle_;
 };

@@ -4,35 +4,35 @@
 
 namespace quillseal::linux {
 
-/// What decides whether the agent can reach other applications.
+/// The properties of a session that decide whether the agent can reach other applications.
 struct SessionTraits {
   bool isWayland = false;
   bool hasXServer = false;    ///< its own or Xwayland
   bool canPressKeys = false;  ///< the X server has XTEST and XKEYBOARD
 };
 
-/// What does not work in a session and what does, and how to go on, as sentences for the person;
+/// Says what does not work in a session, what does, and what to do, in sentences for the user;
 /// empty where everything works.
 [[nodiscard]] std::string limitsOf(const SessionTraits& session);
 
-/// What there is to draw windows on.
+/// The available displays.
 struct DisplayTraits {
   bool hasXServer = false;
-  /// The compositor offers all that signing needs.
+  /// The compositor offers all protocols that signing needs.
   bool reachesApplicationsByWayland = false;
   bool hasWayland = false;
   bool hasWaylandPlugin = false;  ///< Qt's, a package of its own on Debian
   std::string wantedPlatform;     ///< QT_QPA_PLATFORM
 };
 
-/// The Qt platform to use, or why there is none, as sentences for the person.
+/// The Qt platform to use, or why there is none, in sentences for the user.
 struct PlatformChoice {
   std::string platform;
   std::string obstacle;
 };
 
-/// The windows are drawn by the means through which selections, keys and the hotkey are reached,
-/// else by the other. Some desktops want Wayland of every program of Qt; only another wish is
+/// Chooses the platform through which selections, keys and the hotkey are reached, else the other
+/// one. Some desktops set QT_QPA_PLATFORM to Wayland for every Qt program, so only another value is
 /// obeyed.
 [[nodiscard]] PlatformChoice platformFor(const DisplayTraits& display);
 

@@ -28,7 +28,7 @@ struct Method {
 };
 
 struct Answer {
-  Message message;  ///< null for an error, and when there is none in time
+  Message message;  ///< null after an error or a time-out
   bool isInTime = true;
 };
 
@@ -46,7 +46,7 @@ bool letsIn(sd_bus& bus, microseconds patience) {
   return true;
 }
 
-/// Starts no service. The arguments are texts.
+/// Calls a method with string arguments. Starts no service.
 Answer ask(sd_bus& bus, const Method& method, microseconds patience,
            std::initializer_list<const char*> arguments = {}) {
   sd_bus_message* made = nullptr;
@@ -63,7 +63,7 @@ Answer ask(sd_bus& bus, const Method& method, microseconds patience,
   return {.message = Message(reply), .isInTime = result != -ETIMEDOUT};
 }
 
-/// The bus that screen readers use, and their registry there.
+/// Asks the registry on the accessibility bus.
 bool answersOnItsBus(const char* address, microseconds patience) {
   sd_bus* made = nullptr;
   if (::sd_bus_new(&made) < 0) return true;
@@ -91,7 +91,7 @@ bool answersOnSessionBus(sd_bus& bus, microseconds patience) {
     if (answer.message) ::sd_bus_message_read(answer.message.get(), "v", "b", &isTrue);
     isEnabled = std::max(isEnabled, isTrue);
   }
-  // Asking for their bus would start it.
+  // Asking for the bus's address would start it.
   if (isEnabled == 0) return true;
   method.interface = "org.a11y.Bus";
   method.name = "GetAddress";

@@ -4,15 +4,15 @@
 
 namespace quillseal::linux {
 
-// What Qt waits for on the main thread. A missing service counts as answering, since nobody waits
-// for that.
+// Checks the services for which Qt blocks the main thread. A missing service counts as answering,
+// since Qt does not wait for it.
 
-/// Whether the session bus accepts a client within `patience`. Qt has no timeout for this when it
-/// makes the application.
+/// Returns whether the session bus accepts a client within `patience`. Qt waits for that without a
+/// time-out when the QApplication is created.
 [[nodiscard]] bool sessionBusAnswers(std::chrono::milliseconds patience);
 
-/// Whether each service of the accessibility bus answers within `patience`. Qt waits 50 seconds or
-/// for ever for them when the event loop starts.
+/// Returns whether the services of the accessibility bus answer within `patience`. Qt waits for
+/// them, 50 seconds or for ever, when the event loop starts.
 [[nodiscard]] bool accessibilityAnswers(std::chrono::milliseconds patience);
 
 }  // namespace quillseal::linux

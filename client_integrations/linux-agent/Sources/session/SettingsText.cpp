@@ -20,11 +20,11 @@ std::string_view withoutBlanks(std::string_view text) {
 
 struct Line {
   std::size_t start = 0;   ///< in the text
-  std::string_view bytes;  ///< without its end
+  std::string_view bytes;  ///< without the line break
 };
 
-/// Takes the lines of a text one after the other. CR LF counts as two ends with an empty line
-/// between them, which means nothing.
+/// Iterates over the lines of a text. CR LF counts as two line breaks; the empty line between them
+/// has no effect.
 class Lines {
  public:
   explicit Lines(std::string_view text)
@@ -60,7 +60,7 @@ struct Setting {
   std::string_view value;
 };
 
-/// Nothing when the line lacks a key and a "=".
+/// Parses a line; nothing when it has no key or no "=".
 std::optional<Setting> settingIn(std::string_view line) {
   const std::size_t equals = line.find('=');
   if (equals == std::string_view::npos) return std::nullopt;
@@ -72,7 +72,7 @@ std::optional<Setting> settingIn(std::string_view line) {
   return Setting{.key = key, .value = isSpaced ? withoutBlanks(value) : value};
 }
 
-/// Calls `found` with each setting that counts and its line; gives the end of the last line in
+/// Calls `found` with each effective setting and its line. Returns the end of the last line in
 /// "[General]", if there is such a section.
 template <typename Found>
 std::optional<std::size_t> forEachSetting(std::string_view text, Found found) {

@@ -8,11 +8,11 @@
 
 namespace quillseal::linux {
 
-/// The text of a settings file that people edit: lines "Key=Value", taken literally. Nothing is
-/// quoted or escaped: whatever stands behind the first "=" is the value, to the end of the line.
-/// Only where blanks stand before the "=", as in "Key = Value", are those around the value left
-/// out. Keys count before the first "[section]" and in "[General]", and the last line of a key
-/// holds. Comments begin with "#" or ";". Everything else stays as it is when a value changes.
+/// The text of a settings file that people edit: lines "Key=Value", without quoting or escapes. The
+/// value is everything after the first "=". Blanks around it are removed only if there is one
+/// before the "=", as in "Key = Value". Keys count before the first "[section]" and in "[General]";
+/// the last line with a key wins. Comments begin with "#" or ";". A change of one value leaves
+/// everything else as it is.
 class SettingsText {
  public:
   using Values = std::map<std::string, std::string, std::less<>>;
@@ -20,14 +20,14 @@ class SettingsText {
   /// An empty file.
   SettingsText() = default;
 
-  /// Nothing when `bytes` are no such text: a line that is none of the above, ill-formed UTF-8, a
-  /// NUL, or more than 1 MiB.
+  /// Parses a file. Nothing when a line is none of the above, and for ill-formed UTF-8, a NUL, or
+  /// more than 1 MiB.
   [[nodiscard]] static std::optional<SettingsText> parsed(std::string bytes);
 
   [[nodiscard]] Values values() const;
 
-  /// False, and nothing is changed, for what no line can hold: a value with a line break or a NUL.
-  /// REQUIRES: `key` is a word of ASCII letters.
+  /// Sets a value. Returns false and changes nothing when the value holds a line break or a NUL.
+  /// REQUIRES: `key` consists of ASCII letters.
   [[nodiscard]] bool set(std::string_view key, std::string_view value);
 
   [[nodiscard]] const std::string& text() const { return text_; }

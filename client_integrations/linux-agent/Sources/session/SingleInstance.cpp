@@ -24,7 +24,7 @@ QString wire(Command command) {
 
 }  // namespace
 
-// A virtual object needs no generated code for three methods without arguments.
+// A virtual object, to avoid generated code for three methods without arguments.
 class SingleInstance::Receiver : public QDBusVirtualObject {
  public:
   std::function<void(Command)> handler;
@@ -58,7 +58,7 @@ SingleInstance::~SingleInstance() {
 SingleInstance::Role SingleInstance::claim() {
   QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) return Role::alone;
-  // Register the object first: a program that finds the name must find the object too.
+  // The object is registered first: a program that finds the name must find the object too.
   bus.registerVirtualObject(QLatin1String(objectPath), receiver_.get());
   return bus.registerService(QLatin1String(busName)) ? Role::agent : Role::visitor;
 }

@@ -7,14 +7,14 @@
 
 namespace quillseal::linux {
 
-/// One agent per session, by a name on the session bus; later starts hand their command to it.
-/// Main thread only.
+/// Allows one agent per session, through a name on the session bus; later starts send it their
+/// command. Main thread only.
 class SingleInstance {
  public:
   enum class Role {
     agent,    ///< This process owns the name.
-    visitor,  ///< Another one does.
-    alone,    ///< There is no session bus: others cannot be seen, and cannot see this one.
+    visitor,  ///< Another process owns the name.
+    alone,    ///< There is no session bus: agents cannot find each other.
   };
 
   SingleInstance();
@@ -22,13 +22,13 @@ class SingleInstance {
   SingleInstance(const SingleInstance&) = delete;
   SingleInstance& operator=(const SingleInstance&) = delete;
 
-  /// Tries to become the agent.
+  /// Tries to become the session's agent.
   [[nodiscard]] Role claim();
 
-  /// The commands that other starts hand over; called from the main loop. Only for the agent.
+  /// Sets the handler of commands from later starts. Called from the main loop. Only for the agent.
   void onCommand(std::function<void(Command)> handler);
 
-  /// Hands the command to the running agent. False when none answers within five seconds.
+  /// Sends the command to the running agent. False when none answers within five seconds.
   [[nodiscard]] static bool handOver(Command command);
 
  private:

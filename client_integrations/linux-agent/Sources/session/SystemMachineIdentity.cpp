@@ -9,7 +9,7 @@
 namespace quillseal::linux {
 namespace {
 
-/// Never to be changed: enrolled devices are known by what comes of it.
+/// Must never change: enrolled devices are identified by the digest made with it.
 constexpr sd_id128_t applicationId =
     SD_ID128_MAKE(6e, 1b, 0d, 8c, 52, f4, 4a, 7d, 9a, 3e, c1, 77, 20, 5b, e8, 94);
 

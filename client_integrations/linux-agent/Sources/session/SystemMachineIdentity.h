@@ -4,8 +4,9 @@
 
 namespace quillseal::linux {
 
-/// The machine by its machine-id, of which only a keyed digest is told (sd_id128_get_machine(3)):
-/// the identifier is this application's own and does not lead back to the machine-id.
+/// Identifies the machine by a keyed digest of its machine-id
+/// (sd_id128_get_machine_app_specific(3)). The identifier is specific to this application and does
+/// not reveal the machine-id.
 class SystemMachineIdentity final : public desktop::MachineIdentity {
  public:
   [[nodiscard]] std::optional<std::string> platformUuid() const override;

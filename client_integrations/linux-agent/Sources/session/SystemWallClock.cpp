@@ -19,13 +19,14 @@ constexpr const char* zoneRoot = "/usr/share/zoneinfo";
 std::tm localTime() {
   const std::time_t now = std::time(nullptr);
   std::tm local{};
-  // localtime_r alone would go on with the zone of the process's start.
+  // localtime_r alone keeps using the zone from the start of the process.
   tzset();
   localtime_r(&now, &local);
   return local;
 }
 
-/// "Europe/Berlin" of a path or a relative name; empty when it is none.
+/// Returns the zone, such as "Europe/Berlin", from a path or a relative name; empty when it names
+/// none.
 std::string zoneNameOf(std::string_view path) {
   const std::size_t folder = path.rfind(zoneFolder);
   if (folder != std::string_view::npos) path.remove_prefix(folder + zoneFolder.size());
@@ -40,8 +41,8 @@ std::string zoneNameOf(std::string_view path) {
   return std::string(path);
 }
 
-/// The zone of a whole number of hours from Greenwich, which the database counts westward; "UTC"
-/// for any other.
+/// Returns the fixed zone with this offset, a whole number of hours, or "UTC". The signs of the
+/// database's names are inverted: "Etc/GMT-1" is ahead of UTC.
 std::string fixedZone(int secondsFromGmt) {
   constexpr int hour = 3600;
   const int hours = secondsFromGmt / hour;
@@ -83,7 +84,7 @@ std::string SystemWallClock::today() const {
 
 desktop::TimeZone SystemWallClock::timeZone() const {
   TimeZoneSources sources;
-  // NOLINTNEXTLINE(concurrency-mt-unsafe): nothing in this program writes the environment
+  // NOLINTNEXTLINE(concurrency-mt-unsafe): no thread of this program changes the environment
   if (const char* variable = std::getenv("TZ")) sources.variable = variable;
   std::error_code ignored;
   sources.localtime = std::filesystem::read_symlink(systemZone, ignored);

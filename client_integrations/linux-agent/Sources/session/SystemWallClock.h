@@ -16,18 +16,18 @@ class SystemWallClock final : public desktop::WallClock {
   [[nodiscard]] desktop::TimeZone timeZone() const override;
 };
 
-/// What tells the name of the time zone.
+/// The sources of the time zone's name.
 struct TimeZoneSources {
   std::optional<std::string> variable;  ///< the environment's TZ
-  std::filesystem::path localtime;      ///< where the link /etc/localtime leads; may be empty
+  std::filesystem::path localtime;      ///< target of the link /etc/localtime; may be empty
   std::string timezoneFile;             ///< the content of /etc/timezone; may be empty
-  int secondsFromGmt = 0;               ///< of the zone in force
+  int secondsFromGmt = 0;               ///< of the current zone
   std::function<bool(const std::string&)> isInstalled;  ///< whether a zone of that name is
 };
 
-/// The IANA name of the zone in force. TZ decides where it is set, whether or not it names a zone,
-/// unless it only points to /etc/localtime; else the link does, else the file. Where none of them
-/// names a zone, a fixed one of the same offset stands for it, or "UTC" where there is none.
+/// Returns the IANA name of the current time zone. If TZ is set, only TZ counts, unless it points
+/// to /etc/localtime; otherwise the link, then the file. If no name is found, the fixed zone of the
+/// same offset, or "UTC" if there is none.
 [[nodiscard]] std::string timeZoneIdentifier(const TimeZoneSources& sources);
 
 }  // namespace quillseal::linux

@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::initializer_list<int> endingSignals = {SIGHUP, SIGINT, SIGTERM};
 
-// A signal handler reaches nothing but what is global.
+// Global, because a signal handler has no other access.
 std::atomic<int> signalled = -1;
 
 void handle(int) {

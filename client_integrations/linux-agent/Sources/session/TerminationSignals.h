@@ -6,8 +6,8 @@
 
 namespace quillseal::linux {
 
-/// Turns the signals by which a session or a person ends a program (SIGHUP, SIGINT, SIGTERM) into
-/// a call on the main loop. One at a time, on the main thread.
+/// Turns SIGHUP, SIGINT and SIGTERM into a callback in the main loop. One object at a time, on the
+/// main thread.
 class TerminationSignals {
  public:
   explicit TerminationSignals(std::function<void()> terminate);

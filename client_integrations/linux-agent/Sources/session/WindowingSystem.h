@@ -14,8 +14,8 @@
 
 namespace quillseal::linux {
 
-/// What is done by other means under X11 than under Wayland. One is chosen when the program starts,
-/// by what the display offers. Main thread.
+/// The services that differ between X11 and Wayland. One implementation is chosen at the program's
+/// start. Main thread.
 class WindowingSystem {
  public:
   /// All outlive the windowing system.
@@ -23,13 +23,13 @@ class WindowingSystem {
     desktop::MainLoop& loop;
     Descriptors& descriptors;
     DesktopEntries& entries;
-    /// Tells the person why keys cannot be pressed in this session.
+    /// Tells the user why keys cannot be pressed in this session.
     std::function<void()> explain;
   };
 
   virtual ~WindowingSystem() = default;
 
-  /// What does not work in this session and how to go on, as sentences for the person; empty where
+  /// Says what does not work in this session and what to do, in sentences for the user; empty where
   /// everything works.
   [[nodiscard]] virtual std::string limits() const = 0;
 

@@ -54,7 +54,7 @@ std::unique_ptr<WindowingSystem> chosen(std::unique_ptr<WaylandConnection> wayla
   return std::make_unique<X11System>(services);
 }
 
-/// By the key there is now, or would be made.
+/// The wording for the key that exists now or would be made.
 class LinuxWords final : public desktop::Words {
  public:
   LinuxWords(const LinuxKeyStore& keyStore, const desktop::Defaults& defaults)
@@ -99,15 +99,15 @@ struct LinuxDesktop::Parts {
     log.write("[start] " + keyStore->describe());
     const std::string limits = system->limits();
     if (limits.empty()) return;
-    // At log-in, a window would have to be closed every time.
+    // At log-in the user would have to close the window every time.
     if (commandLine.command == Command::background)
       alerts.notify({.title = "Quillseal", .body = limits});
     else
       warn(limits);
   }
 
-  // Workers use the services. One that waits for a TPM or a system service cannot be stopped while
-  // the process lives.
+  // Workers use the services, and one that waits for a TPM or a system service can only be ended
+  // with the process.
   ~Parts() {
     constexpr std::chrono::seconds patience{5};
     secretPrompt.close();

@@ -8,16 +8,16 @@
 
 namespace quillseal::linux {
 
-/// Everything that the agent asks of a Linux desktop, put together. Tells the person at once what
-/// does not work in this session. REQUIRES: the application object of Qt exists. Main thread.
+/// All services of a Linux desktop for the agent. The constructor tells the user what does not work
+/// in this session. REQUIRES: the QApplication exists. Main thread.
 class LinuxDesktop {
  public:
-  /// `log` outlives this object. Other applications are reached through `wayland`, or through the X
-  /// server that Qt uses when it is null.
+  /// `log` outlives this object. Other applications are reached through `wayland` or, when it is
+  /// null, through the X server that Qt uses.
   LinuxDesktop(const CommandLine& commandLine, desktop::Log& log,
                std::unique_ptr<WaylandConnection> wayland);
 
-  /// Waits for workers, 5 seconds at most; ends the process when one still runs then.
+  /// Waits for workers, 5 seconds at most; then ends the process if one still runs.
   ~LinuxDesktop();
   LinuxDesktop(const LinuxDesktop&) = delete;
   LinuxDesktop& operator=(const LinuxDesktop&) = delete;

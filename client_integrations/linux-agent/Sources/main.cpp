@@ -1,4 +1,4 @@
-// The agent for Linux desktops: chooses and joins its parts, and runs the event loop.
+// The agent for Linux desktops: parses options, connects to the display and runs the event loop.
 
 #include <QApplication>
 #include <QDir>
@@ -61,8 +61,8 @@ bool hasWaylandPlugin() {
   return !plugins.entryList({QStringLiteral("libqwayland-*")}).isEmpty();
 }
 
-/// Null where there is none. Without the name of one, the library would look for that of another
-/// session.
+/// Null where there is none. Without WAYLAND_DISPLAY, libwayland would try the default name, which
+/// may belong to another session.
 std::unique_ptr<quillseal::linux::WaylandConnection> compositorThatReachesApplications() {
   if (environment("WAYLAND_DISPLAY").empty()) return nullptr;
   auto connection = quillseal::linux::WaylandConnection::open();
@@ -118,9 +118,9 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
   std::unique_ptr<quillseal::linux::WaylandConnection> wayland =
       compositorThatReachesApplications();
   quillseal::linux::shieldProcess();
-  // Qt ends the program where it finds no display. A connection starts Xwayland, so none is made
-  // where it is not needed. This connection stays until Qt has its own: an X server without another
-  // client may start anew, and refuse Qt, when its last one leaves.
+  // Qt ends the program when it finds no display, so the display is checked first. A connection
+  // starts Xwayland, so it is made only where needed. It stays open until Qt has its own: an X
+  // server may reset when its last client leaves, and refuse Qt meanwhile.
   quillseal::linux::x11::Connection xServer;
   if (wayland == nullptr || !hasWaylandPlugin()) xServer.reset(xcb_connect(nullptr, nullptr));
   const quillseal::linux::PlatformChoice choice = quillseal::linux::platformFor(
@@ -134,13 +134,13 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
     return failed;
   }
   qputenv("QT_QPA_PLATFORM", QByteArray::fromStdString(choice.platform));
-  // The library of the TPM would write of every wrong PIN and, on request, all that it sends.
+  // The TPM library would log every wrong PIN and, if asked to, everything that it sends.
   qputenv("TSS2_LOG", "all+none");
 
   constexpr std::chrono::seconds patience{5};
   if (!quillseal::linux::sessionBusAnswers(patience))
     qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
-  // The session manager is not needed, and Qt would wait for its first answer without a time-out.
+  // The session manager is not needed, and Qt waits for its first answer without a time-out.
   QApplication::setAttribute(Qt::AA_DisableSessionManager);
 
   QApplication application(argc, argv);
@@ -169,8 +169,8 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  // A program that ignores this signal has it ignored in those that it starts, which cannot tell
-  // then how their own ended.
+  // A child inherits an ignored SIGCHLD from the program that started it, and would then lose the
+  // exit status of its own children.
   static_cast<void>(std::signal(SIGCHLD, SIG_DFL));
   quillseal::linux::returnLargeBlocks();
   const std::vector<std::string_view> arguments(argv + 1, argv + argc);

@@ -16,19 +16,19 @@ namespace {
 
 using nlohmann::json;
 
-/// The command that sway reports. Each agent has its own, so that one press starts one run.
+/// The command in sway's report. Each agent has its own, so that one press starts one run.
 std::string commandFor(std::string_view event) {
   return "nop quillseal " + std::to_string(getpid()) + " " + std::string(event);
 }
 constexpr std::string_view pressEvent = "pressed";
 constexpr std::string_view releaseEvent = "released";
 
-// Of bindings to the same keys, sway obeys the one with fewer of these: any of the person's own
-// wins.
+// Of several bindings to the same keys, sway obeys the one with fewer options, so any binding of
+// the user's wins.
 constexpr std::string_view options = "--no-warn --locked --inhibited ";
 
 /// Sway repeats a binding while the keys are held, and does not report the release when another key
-/// was pressed meanwhile. Desktops let people choose delays up to this.
+/// was pressed meanwhile. Desktops allow repeat delays up to this.
 constexpr std::chrono::milliseconds longestRepeatDelay{1000};
 
 std::string textOf(const json& object, const char* key) {
@@ -69,7 +69,7 @@ SwayHotkey::~SwayHotkey() {
   try {
     unbind();
   } catch (const std::exception&) {
-    // The binding stays, and does nothing.
+    // The binding remains, without effect.
   }
 }
 
@@ -82,7 +82,7 @@ void SwayHotkey::registerHotkey(desktop::KeyPress combination, std::function<voi
   layout_ = std::make_unique<WaylandLayout>(services_.connection, [this] {
     following_ = services_.loop.after({}, [this] { followLayout(); });
   });
-  // The seat first, then its keyboard.
+  // The first round trip brings the seat, the second its keyboard.
   static_cast<void>(services_.connection.roundTrip() && services_.connection.roundTrip());
   key_ = keyInLayout();
   const std::string letter(1, desktop::letterOf(chord_.key));
@@ -152,7 +152,7 @@ void SwayHotkey::receive() {
 void SwayHotkey::handle(const SwayIpc::Message& message) {
   const json event = json::parse(message.text, nullptr, false);
   if (!event.is_object()) return;
-  // A configuration that is read anew takes all bindings away.
+  // Sway drops all bindings when it reloads its configuration.
   if (textOf(event, "change") == "reload") static_cast<void>(bind());
   const auto binding = event.find("binding");
   if (binding == event.end() || !binding->is_object()) return;

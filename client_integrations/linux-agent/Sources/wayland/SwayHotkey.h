@@ -15,8 +15,8 @@
 
 namespace quillseal::linux {
 
-/// The global hotkey by a binding of sway's that does nothing, and whose use sway reports. It gives
-/// way to any other binding of the same keys. Without sway there is none.
+/// The global hotkey as a binding in sway that does nothing; sway reports its use. Any other
+/// binding of the same keys takes precedence. Without sway there is no hotkey.
 class SwayHotkey : public desktop::Hotkey {
  public:
   /// All outlive this object.
@@ -33,7 +33,7 @@ class SwayHotkey : public desktop::Hotkey {
   void registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) override;
 
  private:
-  /// Has sway run a command; false when it did not, or did not say so.
+  /// Has sway run a command; false when sway did not confirm it.
   [[nodiscard]] bool command(const std::string& text);
   [[nodiscard]] std::uint32_t keyInLayout() const;
   [[nodiscard]] std::string combination() const;

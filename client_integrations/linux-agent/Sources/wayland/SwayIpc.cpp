@@ -50,7 +50,7 @@ std::string lowerCase(std::string_view text) {
   return result;
 }
 
-/// One name for each key that has several.
+/// Returns one name for each key that has several.
 std::string plainName(std::string_view key) {
   static const std::map<std::string, std::string, std::less<>> others = {
       {"ctrl", "control"}, {"alt", "mod1"}, {"super", "mod4"}, {"logo", "mod4"}};
@@ -67,7 +67,8 @@ std::set<std::string> keysOf(std::string_view combination) {
   return keys;
 }
 
-/// Variables by their names, "$mod" and the like, replaced as sway does it: the longest name first.
+/// The variables of a configuration, "$mod" and the like, substituted in sway's order: the longest
+/// name first.
 class Variables {
  public:
   void set(const std::string& name, std::string value) { values_[name] = std::move(value); }
@@ -120,7 +121,8 @@ std::optional<std::string> SwayIpc::ask(Request request, std::string_view text) 
     const auto left =
         std::chrono::ceil<milliseconds>(deadline - std::chrono::steady_clock::now()).count();
     pollfd ready{.fd = socket_.get(), .events = POLLIN, .revents = 0};
-    // What is answered later would be taken for the answer to something else.
+    // After a time-out the connection is not used again: a late answer would be taken for the next
+    // one.
     answers_ = left > 0 && poll(&ready, 1, static_cast<int>(left)) > 0 && read();
   }
   return std::nullopt;
@@ -183,7 +185,7 @@ bool bindsAlready(std::string_view configuration, const SwayChord& chord) {
   byCode.insert(std::to_string(chord.code));
 
   Variables variables;
-  std::vector<std::string> blocks;  // the first words of those that are open
+  std::vector<std::string> blocks;  // first words of the open blocks
   std::istringstream lines{std::string(configuration)};
   for (std::string line; std::getline(lines, line);) {
     while (line.ends_with('\\')) {

@@ -12,7 +12,7 @@
 
 namespace quillseal::linux {
 
-/// A connection to sway by the protocol that it shares with i3 (sway-ipc(7)). Main thread.
+/// A connection to sway over its IPC protocol, which i3 shares (sway-ipc(7)). Main thread.
 class SwayIpc {
  public:
   enum class Request : std::uint32_t { runCommand = 0, subscribe = 2, getTree = 4, getConfig = 9 };
@@ -22,17 +22,17 @@ class SwayIpc {
     std::string text;  ///< JSON
   };
 
-  /// Null when nobody answers at the socket with this path.
+  /// Null when no process accepts at the socket of this path.
   [[nodiscard]] static std::unique_ptr<SwayIpc> open(const std::string& path);
 
-  /// The answer to a request; nothing when none comes within a second, and to every later request.
-  /// REQUIRES: nothing was subscribed to on this connection.
+  /// Sends a request and returns the answer. Nothing when none comes within a second, and for every
+  /// request after that. REQUIRES: no subscription on this connection.
   [[nodiscard]] std::optional<std::string> ask(Request request, std::string_view text);
 
-  /// What is readable while there are messages to receive, or sway has gone.
+  /// Readable while there are messages to receive, and after sway has closed the connection.
   [[nodiscard]] int descriptor() const { return socket_.get(); }
 
-  /// The messages that have arrived since the last call; nothing when sway has gone.
+  /// Returns the messages since the last call; nothing when the connection is closed.
   [[nodiscard]] std::optional<std::vector<Message>> receive();
 
  private:
@@ -45,14 +45,14 @@ class SwayIpc {
   std::string received_;
 };
 
-/// The app id, or under Xwayland the class, that a tree of sway's (JSON) gives to the windows with
-/// this title; nothing when there are none, or two differ.
+/// Returns the app id, or under Xwayland the class, of the windows with this title in sway's tree
+/// (JSON). Nothing when there is no such window, or two differ.
 [[nodiscard]] std::optional<std::string> applicationIdIn(std::string_view tree,
                                                          std::string_view title);
 
-/// Whether a configuration of sway binds something to Control, Alt and Super with `key`, which is
-/// the name of a keysym, or with the key of this XKB number. Looks at the text itself, not at the
-/// files that it includes, and only at bindings outside of modes.
+/// Returns whether a configuration of sway binds Control, Alt and Super with the key of this keysym
+/// name or XKB number. Looks only at the text itself, not at included files, and at bindings
+/// outside modes.
 struct SwayChord {
   std::string_view symbol;
   std::uint32_t code;

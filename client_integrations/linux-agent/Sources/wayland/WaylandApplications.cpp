@@ -11,7 +11,7 @@ namespace {
 
 using desktop::RunningApplication;
 
-/// A browser that has to start brings its window to the front by itself, later.
+/// Time for a running browser to take the URL. One that has to start activates its window itself.
 constexpr std::chrono::milliseconds takesAddress{300};
 
 }  // namespace

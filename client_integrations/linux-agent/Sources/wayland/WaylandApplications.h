@@ -11,10 +11,10 @@
 
 namespace quillseal::linux {
 
-/// What identifies the window's application among the installed ones.
+/// Returns the traits that identify the window's application.
 [[nodiscard]] WindowTraits traitsOf(const WaylandWindow& window);
 
-/// Applications by the windows that the compositor names and the desktop files of the machine.
+/// Finds applications by the compositor's list of windows and the installed desktop files.
 class WaylandApplications : public LinuxApplications {
  public:
   /// All outlive this object.
@@ -24,8 +24,8 @@ class WaylandApplications : public LinuxApplications {
     desktop::MainLoop& loop;
   };
 
-  /// `sway` is null where it does not run. Sway reports changes of an app
-  /// id there only, not by the Wayland protocol (1.7).
+  /// `sway` is null where it does not run. Sway 1.7 reports a changed app id only through this
+  /// connection, not over Wayland.
   WaylandApplications(const Services& services, std::unique_ptr<SwayIpc> sway)
       : LinuxApplications(services.entries, services.loop),
         services_(services),
@@ -35,8 +35,7 @@ class WaylandApplications : public LinuxApplications {
   [[nodiscard]] bool isActive(const desktop::RunningApplication& application) const override;
   void activate(const desktop::RunningApplication& application) override;
 
-  /// A browser that runs already opens an address without coming to the front, so that its window
-  /// is called there.
+  /// Also activates the browser's window: a running browser opens a URL without doing that.
   [[nodiscard]] desktop::Ticket open(const std::string& url,
                                      const desktop::InstalledApplication& application,
                                      std::function<void(std::optional<Error>)> done) override;

@@ -29,7 +29,7 @@ struct WaylandConnection::Listeners {
   static void answered(void* data, wl_callback* /*callback*/, std::uint32_t /*serial*/) {
     *static_cast<bool*>(data) = true;
   }
-  // Only marks it: the callback may call `roundTrip`, which is not allowed inside an event.
+  // Only marks it as done: the callback may call `roundTrip`, which is not allowed inside an event.
   static void caughtUp(void* data, wl_callback* /*callback*/, std::uint32_t /*serial*/) {
     static_cast<Waiting*>(data)->isReady = true;
   }
@@ -157,7 +157,7 @@ void WaylandConnection::callWaiting() {
     if (const auto ended = std::exchange(ended_, nullptr)) ended();
 }
 
-/// Nothing will arrive any more.
+/// Called once when the connection has failed.
 void WaylandConnection::end() {
   isAlive_ = false;
   watch_ = {};

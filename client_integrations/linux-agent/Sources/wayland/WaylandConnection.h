@@ -16,22 +16,23 @@
 
 namespace quillseal::linux {
 
-/// A connection of the agent's own to the Wayland compositor, beside that of the toolkit. Its
-/// events are dealt with in turns of the main loop. Main thread.
+/// The agent's own connection to the Wayland compositor, beside the toolkit's. The main loop
+/// dispatches its events. Main thread.
 class WaylandConnection {
  public:
-  /// Null where no compositor answers within two seconds, or has no seat.
+  /// Null when no compositor answers within two seconds, or it has no seat.
   [[nodiscard]] static std::unique_ptr<WaylandConnection> open();
 
   ~WaylandConnection();
   WaylandConnection(const WaylandConnection&) = delete;
   WaylandConnection& operator=(const WaylandConnection&) = delete;
 
-  /// The version of an interface that the compositor offers; 0 when it does not, or not any more.
+  /// Returns the version of an interface that the compositor offers; 0 when it is not offered or no
+  /// longer.
   [[nodiscard]] std::uint32_t versionOf(std::string_view interface) const;
 
-  /// An object of a global interface, in the version that is offered or `newest` if that is lower.
-  /// Null when it is not offered.
+  /// Binds a global interface, in the offered version or `newest` if that is lower. Null when it is
+  /// not offered.
   template <typename Object>
   [[nodiscard]] Object* bind(const wl_interface& interface, std::uint32_t newest) const {
     return static_cast<Object*>(bindGlobal(interface, newest));
@@ -39,23 +40,23 @@ class WaylandConnection {
 
   [[nodiscard]] wl_seat* seat() const { return seat_; }
 
-  /// From now on events arrive. Both outlive this object.
+  /// Starts dispatching events. Both outlive this object.
   void serve(desktop::MainLoop& loop, Descriptors& descriptors);
 
   /// Whether the compositor still answers.
   [[nodiscard]] bool isAlive() const { return isAlive_; }
 
-  /// Has `ended` called when it does not any more. One at a time.
+  /// Sets the function that is called when the connection fails. One at a time.
   void onEnd(std::function<void()> ended) { ended_ = std::move(ended); }
 
-  /// Sends what was asked for.
+  /// Sends buffered requests.
   void flush();
 
-  /// Calls `done` once everything has arrived that the compositor has sent so far, or the
-  /// connection has ended. REQUIRES: `serve` was called.
+  /// Calls `done` once all events that the compositor has sent so far have been dispatched, or the
+  /// connection has failed. REQUIRES: `serve` was called.
   [[nodiscard]] desktop::Ticket catchUp(std::function<void()> done);
 
-  /// Waits until the compositor has dealt with all requests; false when it does not within two
+  /// Waits until the compositor has handled all requests; false when that takes more than two
   /// seconds. Not from inside an event.
   [[nodiscard]] bool roundTrip();
 
@@ -65,7 +66,7 @@ class WaylandConnection {
     std::uint32_t version;
   };
   struct Listeners;
-  /// One who waits until everything sent so far has arrived.
+  /// A pending `catchUp`.
   struct Waiting {
     wl_callback* callback;
     std::function<void()> done;

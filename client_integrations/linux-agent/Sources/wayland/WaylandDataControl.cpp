@@ -5,7 +5,7 @@
 namespace quillseal::linux::wayland {
 namespace {
 
-// That of the older protocol which the newer one's first version equals.
+// The version of the older protocol that equals version 1 of the newer one.
 constexpr std::uint32_t wlrootsVersion = 2;
 
 wl_interface standardInterface() {
@@ -36,7 +36,7 @@ bool offersDataControl(const WaylandConnection& connection) {
 }
 
 DataControlManager bindDataControl(const WaylandConnection& connection) {
-  // The objects made with it refer to it.
+  // Static, because objects that are made with it refer to it.
   static const wl_interface standard = standardInterface();
   auto* manager = connection.bind<zwlr_data_control_manager_v1>(standard, 1);
   if (manager == nullptr)

@@ -5,9 +5,9 @@
 #include "wayland/WaylandConnection.h"
 #include "wlr-data-control-unstable-v1-client-protocol.h"
 
-/// Access to the clipboard without a window. There are two protocols for it, the older one of
-/// wlroots and ext-data-control: the same requests and events in the same order under other names,
-/// so that the objects of the older one stand for both.
+/// Access to the clipboard without a window. There are two protocols, wlroots's older one and
+/// ext-data-control. They have the same requests and events in the same order under different
+/// names, so the types of the older one are used for both.
 namespace quillseal::linux::wayland {
 
 struct DestroyDataControl {
@@ -21,10 +21,10 @@ using DataControlDevice = std::unique_ptr<zwlr_data_control_device_v1, DestroyDa
 using DataControlOffer = std::unique_ptr<zwlr_data_control_offer_v1, DestroyDataControl>;
 using DataControlSource = std::unique_ptr<zwlr_data_control_source_v1, DestroyDataControl>;
 
-/// Whether one of the two is offered, in a version that knows the primary selection.
+/// Returns whether one of the two is offered, in a version with the primary selection.
 [[nodiscard]] bool offersDataControl(const WaylandConnection& connection);
 
-/// Null where none is.
+/// Binds the offered one; null when there is none.
 [[nodiscard]] DataControlManager bindDataControl(const WaylandConnection& connection);
 
 }  // namespace quillseal::linux::wayland

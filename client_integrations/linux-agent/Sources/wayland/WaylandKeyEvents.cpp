@@ -16,16 +16,16 @@ using desktop::Delivery;
 using std::chrono::milliseconds;
 
 constexpr milliseconds polling{8};
-// Windows take their time to come to the front, and pages to show their title again.
+// Windows need time to come to the front, and web pages to restore their title.
 constexpr milliseconds targetPatience{1000};
-// For programs under Xwayland, whose clipboard is the X server's; the others learn of a new one
-// before they get the next key.
+// For programs under Xwayland, which use the X server's clipboard. Wayland programs are told of a
+// new selection before the next key.
 constexpr milliseconds clipboardPropagation{40};
 
 }  // namespace
 
-/// One press, which waits in turns of the main loop: clipboard and hotkey are served meanwhile. It
-/// lives until its ticket is dropped.
+/// One key press. Waits in the main loop, which goes on serving clipboard and hotkey. Lives until
+/// its ticket is dropped.
 class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
  public:
   struct Wish {
@@ -55,7 +55,7 @@ class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
 
  private:
   void comeBackAfter(milliseconds delay) {
-    // Decide on the compositor's latest state.
+    // First take in the compositor's latest state.
     waiting_ = services_.loop.after(
         delay, [this] { waiting_ = services_.connection.catchUp([this] { step(); }); });
   }
@@ -69,7 +69,7 @@ class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
     finish(delivery);
   }
 
-  /// Where a key pressed now would go.
+  /// Returns whether a key pressed now would reach the target.
   [[nodiscard]] Delivery deliveryNow() const {
     if (!wish_.target || !services_.connection.isAlive()) return Delivery::declined;
     const std::optional<WaylandWindow> window = services_.windows.withId(wish_.target->instance);
@@ -83,7 +83,7 @@ class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
   void press() {
     const auto window = services_.windows.withId(wish_.target->instance);
     if (!window) return;
-    // As found when the target was named: sway knows more about it than this connection.
+    // As found when the target was determined: sway knows more about it than this connection.
     const std::vector<Keysym> chord =
         chordFor(wish_.press, wish_.target->categories, window->applicationId);
     if (wish_.aboutToPress) wish_.aboutToPress();

@@ -25,7 +25,7 @@ class WaylandKeyEvents : public desktop::KeyEvents {
     const WaylandWindows& windows;
     WaylandPasteboard& pasteboard;
     AgentKeyboard& keyboard;
-    /// Tells the person why keys cannot be pressed in this session.
+    /// Tells the user why keys cannot be pressed in this session.
     std::function<void()> explain;
   };
 

@@ -24,7 +24,7 @@ struct KnownKey {
   std::uint32_t modifier;
 };
 
-// The keys are where a Latin layout has them: some applications look at the place.
+// The keys have their places in a Latin layout, since some applications look at the key code.
 constexpr std::uint32_t shiftModifier = 1;
 constexpr std::uint32_t controlModifier = 4;
 constexpr std::array knownKeys = {
@@ -38,7 +38,7 @@ constexpr std::array knownKeys = {
 
 constexpr std::string_view layoutName = "Quillseal";
 
-// XKB's numbers of keys are higher by 8 than those of evdev.
+// XKB key codes are evdev's plus 8.
 constexpr std::string_view layout = R"(xkb_keymap {
 xkb_keycodes "quillseal" {
   minimum = 8; maximum = 255;
@@ -73,7 +73,7 @@ struct WaylandKeyboard::Device {
   UniqueHandle<zwp_virtual_keyboard_v1, zwp_virtual_keyboard_v1_destroy> keyboard;
 
   void setLayout() const {
-    const std::size_t size = layout.size() + 1;  // with the zero byte
+    const std::size_t size = layout.size() + 1;  // including the terminating NUL
     const FileDescriptor file(memfd_create("quillseal-layout", MFD_CLOEXEC));
     if (writeAll(file, {layout.data(), size}))
       zwp_virtual_keyboard_v1_keymap(keyboard.get(), WL_KEYBOARD_KEYMAP_FORMAT_XKB_V1, file.get(),

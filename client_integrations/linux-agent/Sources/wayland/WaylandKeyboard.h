@@ -11,9 +11,9 @@
 
 namespace quillseal::linux {
 
-/// A keyboard of the agent's own, by virtual-keyboard: what the person holds down on theirs takes
-/// no part. It has a layout of its own too, so that a chord is the same in every application
-/// whatever layout the person uses. Main thread.
+/// A virtual keyboard (virtual-keyboard-unstable-v1). Keys that the user holds on their own
+/// keyboard do not affect it, and it has its own layout, so that a chord means the same in every
+/// application whatever layout the user has. Main thread.
 class WaylandKeyboard : public AgentKeyboard {
  public:
   /// The connection outlives this object.
@@ -24,7 +24,7 @@ class WaylandKeyboard : public AgentKeyboard {
 
   [[nodiscard]] static bool isOfferedBy(const WaylandConnection& connection);
 
-  /// Whether a layout that the compositor names is the one of this keyboard.
+  /// Returns whether a keymap from the compositor is the one of this keyboard.
   [[nodiscard]] static bool isOwnLayout(std::string_view text);
 
   /// A window of the compositor's own takes the keyboard from the active one.

@@ -37,7 +37,8 @@ struct WaylandLayout::State {
   std::string text{};
 
   void take(std::string layout) {
-    // The compositor gives the layout of the keyboard that was used last, also of the agent's own.
+    // The compositor sends the keymap of the keyboard that was used last, which may be the agent's
+    // own.
     if (layout.empty() || layout == text || WaylandKeyboard::isOwnLayout(layout)) return;
     text = std::move(layout);
     changed();
@@ -59,7 +60,7 @@ struct WaylandLayout::State {
         format == WL_KEYBOARD_KEYMAP_FORMAT_XKB_V1 ? textOf(file, size) : std::string();
     static_cast<State*>(data)->take(std::move(layout));
   }
-  // The keyboard is never with this connection, which has no window.
+  // No key events arrive: this connection has no window.
   static constexpr wl_keyboard_listener ofKeyboard = {
       .keymap = mapped,
       .enter = [](void*, wl_keyboard*, std::uint32_t, wl_surface*, wl_array*) {},

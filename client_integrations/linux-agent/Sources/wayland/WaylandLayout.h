@@ -11,18 +11,18 @@
 
 namespace quillseal::linux {
 
-/// The layout of the person's keyboard. Main thread.
+/// The layout of the user's keyboard. Main thread.
 class WaylandLayout {
  public:
-  /// `changed` is called when the layout is another one than before, from inside the connection's
-  /// events. The connection outlives this object.
+  /// `changed` is called when the layout changes, from inside an event of the connection. The
+  /// connection outlives this object.
   WaylandLayout(WaylandConnection& connection, std::function<void()> changed);
   ~WaylandLayout();
   WaylandLayout(const WaylandLayout&) = delete;
   WaylandLayout& operator=(const WaylandLayout&) = delete;
 
-  /// The key, in XKB's numbering, that gives `symbol` without a modifier in one of the layouts that
-  /// the person has, the first of them that does. Nothing when none does, or there is no keyboard.
+  /// Returns the XKB key code that gives `symbol` without a modifier, in the first of the user's
+  /// layouts that has it. Nothing when none has it, or there is no keyboard.
   [[nodiscard]] std::optional<std::uint32_t> keyFor(Keysym symbol) const;
 
   /// The same in each of them. Empty when there is no keyboard.

@@ -19,7 +19,7 @@ using std::chrono::milliseconds;
 
 constexpr std::size_t mostFormats = 1000;
 
-/// What a program offers.
+/// A data offer of a program.
 struct Offer {
   wayland::DataControlOffer offer;
   std::vector<std::string> formats;
@@ -33,13 +33,13 @@ struct WaylandPasteboard::State {
   Patience patience;
   wayland::DataControlManager manager{};
   wayland::DataControlDevice device{};
-  std::shared_ptr<Offer> latest{};  ///< not yet said of what
+  std::shared_ptr<Offer> latest{};  ///< not yet assigned to a selection
   std::shared_ptr<Offer> clipboard{};
   std::shared_ptr<Offer> primary{};
-  std::uint64_t primaryWindow = 0;  ///< that was active when it was made; 0 when that is not known
+  std::uint64_t primaryWindow = 0;  ///< the active window when `primary` was made; 0 when not known
   bool isPrimaryKnown = false;      ///< the one that there was at the start has been told, if any
   desktop::Ticket starting{};
-  /// The window whose primary selection counts as what was copied last.
+  /// The window whose primary selection counts as the last copy.
   std::optional<std::uint64_t> takenFrom{};
   std::int64_t changeCount = 0;
   std::map<std::uint64_t, std::function<void()>> watches{};
@@ -57,7 +57,7 @@ struct WaylandPasteboard::State {
     ++changeCount;
     fetched.clear();
     telling = services.loop.after({}, [this] {
-      // One of them may drop others, or wait anew.
+      // A copy: a watch may drop others or add new ones.
       for (auto& [id, unused] : std::map(watches))
         if (const auto watch = watches.extract(id); !watch.empty()) watch.mapped()();
     });
@@ -93,7 +93,7 @@ struct WaylandPasteboard::State {
                        zwlr_data_control_offer_v1* offer) {
     State& state = of(data);
     state.primary = state.taken(offer);
-    // The first is told when this program starts, whenever and wherever it was made.
+    // The first event describes a selection from before this program's start, of an unknown window.
     const bool isNew = std::exchange(state.isPrimaryKnown, true);
     const auto window = state.services.windows.active();
     state.primaryWindow = isNew && window ? window->id : 0;
@@ -108,7 +108,7 @@ struct WaylandPasteboard::State {
                                                                     .primary_selection = selected};
 };
 
-/// One fetch. It lives until its ticket is dropped.
+/// One fetch. Lives until its ticket is dropped.
 class WaylandPasteboard::Reading : public std::enable_shared_from_this<Reading> {
  public:
   using Done = std::function<void(ClipboardFormats::Content)>;
@@ -157,7 +157,8 @@ class WaylandPasteboard::Reading : public std::enable_shared_from_this<Reading> 
     pipe_ = FileDescriptor(ends[0]);
     const FileDescriptor otherEnd(ends[1]);
     fcntl(pipe_.get(), F_SETFL,
-          O_NONBLOCK);  // the other end is for a program that may not expect it
+          O_NONBLOCK);  // not the writing end, which the other program gets and may not expect to
+                        // be non-blocking
     bytes_.clear();
     zwlr_data_control_offer_v1_receive(offer_->offer.get(), chosen_.back().c_str(), otherEnd.get());
     state_.services.connection.flush();
@@ -192,8 +193,8 @@ class WaylandPasteboard::Reading : public std::enable_shared_from_this<Reading> 
     ask();
   }
 
-  // A program that ends while it writes looks like one that has written everything; only the
-  // compositor tells that it has gone.
+  // A program that ends while it writes looks like one that has finished; only the compositor
+  // reports that it has gone.
   void check() {
     timer_ = state_.services.connection.catchUp([this] {
       const auto self = shared_from_this();

@@ -18,8 +18,8 @@
 
 namespace quillseal::linux {
 
-/// The clipboard by data-control, which needs no window and no focus. The end of the program that
-/// owns it is not a change: it may be the first step of the next copy.
+/// The clipboard through data-control, which needs no window and no focus. The loss of its owner
+/// does not count as a change: it may be the first step of the next copy.
 class WaylandPasteboard : public desktop::Pasteboard {
  public:
   /// All outlive this object.
@@ -30,9 +30,9 @@ class WaylandPasteboard : public desktop::Pasteboard {
     const WaylandWindows& windows;
   };
 
-  /// How long the owner may be silent, how long deliver all, and how much.
+  /// Limits of a fetch: the owner's silence, the whole time, and the size.
   struct Patience {
-    /// A word processor that lays a long document out anew for each format is silent for seconds.
+    /// A word processor may take seconds to render a long document for each format.
     std::chrono::milliseconds silence{5000};
     std::chrono::milliseconds transfer{20000};
     std::size_t largest = std::size_t{64} * 1024 * 1024;  ///< bytes
@@ -46,9 +46,9 @@ class WaylandPasteboard : public desktop::Pasteboard {
   [[nodiscard]] std::int64_t changeCount() const override;
   [[nodiscard]] desktop::Ticket onNextChange(std::function<void()> changed) override;
 
-  /// Asks for one format after the other, as long as the owner keeps within `Patience`. When
-  /// somebody else copies meanwhile, that is fetched; when the owner goes, nothing counts. The same
-  /// holds for `fetchRtf`.
+  /// Requests one format after the other while the owner keeps within `Patience`. When another
+  /// program copies meanwhile, fetches that instead; when the owner goes, the result is empty. The
+  /// same holds for `fetchRtf`.
   [[nodiscard]] desktop::Ticket fetch(std::function<void()> fetched) override;
   [[nodiscard]] bool isConcealed() const override;
   [[nodiscard]] std::optional<std::string> plainText() const override;
@@ -57,12 +57,11 @@ class WaylandPasteboard : public desktop::Pasteboard {
       std::function<void(std::optional<std::string>)> done) override;
   void write(const desktop::PasteboardContent& content) override;
 
-  /// Takes what is selected in that window as if it had been copied, when the primary selection was
-  /// made there while this program ran: for programs without a key that copies. The clipboard
-  /// itself is left alone.
+  /// Uses the primary selection as the copied text if it was made in that window while this program
+  /// ran: for programs without a key that copies. Does not change the clipboard.
   void takePrimarySelectionOf(std::uint64_t window);
 
-  /// When `write` was last called; the epoch when it never was.
+  /// The time of the last `write`; the epoch when there was none.
   [[nodiscard]] std::chrono::steady_clock::time_point lastWrite() const;
 
  private:

@@ -4,8 +4,8 @@
 
 namespace quillseal::linux {
 
-/// Whether the compositor offers, and answers for, all that signing in other applications needs:
-/// clipboard, keys and windows.
+/// Returns whether the compositor offers all that signing in other applications needs, clipboard,
+/// keys and windows, and still answers.
 [[nodiscard]] bool reachesApplications(const WaylandConnection& connection);
 
 }  // namespace quillseal::linux

@@ -11,7 +11,7 @@ namespace quillseal::linux {
 struct WaylandWindows::State : WindowObserver {
   struct Entry {
     WaylandWindow window;
-    std::uint64_t activity = 0;  ///< the higher the later it was active
+    std::uint64_t activity = 0;  ///< higher for a window that was active later
   };
 
   State(WaylandConnection& itsConnection, std::string itsApplicationId)
@@ -25,7 +25,7 @@ struct WaylandWindows::State : WindowObserver {
   std::string ownApplicationId;
   std::unique_ptr<WindowProtocol> protocol;  ///< null where there is none
   std::list<Entry> entries;
-  std::string awaited;  ///< title of an own window to activate
+  std::string awaited;  ///< title of the window of this program to activate
   std::uint64_t lastActivity = 0;
 
   [[nodiscard]] bool isOwn(const WaylandWindow& window) const {

@@ -11,7 +11,7 @@ namespace quillseal::linux {
 
 /// A window as the compositor describes it.
 struct WaylandWindow {
-  std::uint64_t id = 0;       ///< never given to two windows; no window has 0
+  std::uint64_t id = 0;       ///< never reused; never 0
   std::string applicationId;  ///< under Xwayland the class part of WM_CLASS
   std::string title;
   std::uint32_t process = 0;  ///< 0 where the compositor does not say
@@ -27,27 +27,28 @@ class WaylandWindows {
   WaylandWindows(const WaylandWindows&) = delete;
   WaylandWindows& operator=(const WaylandWindows&) = delete;
 
-  /// Whether the compositor offers what this needs.
+  /// Returns whether the compositor offers the protocol that this class needs.
   [[nodiscard]] static bool areOfferedBy(const WaylandConnection& connection);
 
-  /// The window that has the keyboard. None when something has it that is no window, such as a
-  /// launcher or the screen lock.
+  /// The window that focused. None when something has it that is no window, such as a launcher or
+  /// the screen lock.
   [[nodiscard]] std::optional<WaylandWindow> active() const;
 
-  /// The active window, or when that is one of this program the one that was active before it.
+  /// Returns the active window or, when it is this program's, the last active one of another
+  /// program.
   [[nodiscard]] std::optional<WaylandWindow> frontForeign() const;
 
-  /// Nothing when it has closed.
+  /// Returns the window; nothing when it has closed.
   [[nodiscard]] std::optional<WaylandWindow> withId(std::uint64_t id) const;
 
-  /// The window of another program that was last active of those for which `matches` holds.
+  /// Returns the last active window of another program for which `matches` is true.
   [[nodiscard]] std::optional<WaylandWindow> lastActiveOf(
       const std::function<bool(const WaylandWindow&)>& matches) const;
 
-  /// Asks for the window to be raised and given the keyboard.
+  /// Asks for the window to be raised and focused.
   void activate(std::uint64_t id);
 
-  /// The same for this program's own window with this title, once it is there.
+  /// The same for this program's window with this title, as soon as it exists.
   void activateOwn(const std::string& title);
 
  private:

@@ -113,8 +113,8 @@ int runAgent(const CommandLine& commandLine, quillseal::linux::SingleInstance& i
 }
 
 int run(int argc, char** argv, const CommandLine& commandLine) {
-  // KWin offers windows and keys by what the program of a new client is, which it cannot see behind
-  // the shield. Until then there is nothing secret in memory.
+  // KWin checks a new client's executable before it offers windows and keys, and the shield would
+  // hide it. So the shield comes after connecting; there is nothing secret in memory before.
   std::unique_ptr<quillseal::linux::WaylandConnection> wayland =
       compositorThatReachesApplications();
   quillseal::linux::shieldProcess();

@@ -5,7 +5,7 @@
 
 namespace quillseal::linux {
 
-/// File name of the program that runs as this process; empty when that cannot be known.
+/// Returns the file name of the process's executable; empty when it is not known.
 [[nodiscard]] std::string executableOf(std::uint32_t process);
 
 }  // namespace quillseal::linux

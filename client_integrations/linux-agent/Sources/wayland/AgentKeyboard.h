@@ -14,20 +14,20 @@ class AgentKeyboard {
  public:
   virtual ~AgentKeyboard() = default;
 
-  /// Whether keys go to the active window. False while something else gets them of which the
-  /// windows tell nothing, such as a locked screen.
+  /// Returns whether keys go to the active window. False while something that is not in the list of
+  /// windows gets them, such as the screen lock.
   [[nodiscard]] virtual bool reachesActiveWindow() const = 0;
 
-  /// Presses the keys in order and lets them go in reverse order. Knows the keys that copy, paste
-  /// and select all.
+  /// Presses the keys in order and releases them in reverse order. Supports only the keys that
+  /// copy, paste and select all.
   virtual void tap(std::span<const Keysym> chord) = 0;
 };
 
-/// Whether the compositor offers one.
+/// Returns whether the compositor offers a protocol for one.
 [[nodiscard]] bool offersKeyboard(const WaylandConnection& connection);
 
-/// One of the agent's own where the compositor offers that, else KWin's way to press keys on the
-/// person's. Both arguments outlive it; `bus` is null where there is none.
+/// Makes a virtual keyboard where the compositor offers that, else one that presses keys on the
+/// user's keyboard through KWin. Both arguments outlive it; `bus` is null where there is none.
 [[nodiscard]] std::unique_ptr<AgentKeyboard> makeKeyboard(WaylandConnection& connection,
                                                           DesktopBus* bus);
 

@@ -24,7 +24,7 @@ void DesktopBus::serve(desktop::MainLoop& loop, Descriptors& descriptors) {
   loop_ = &loop;
   watch_ = descriptors.watch(::sd_bus_get_fd(bus_.get()), Descriptors::Interest::reading,
                              [this](Descriptors::Interest) { process(); });
-  // What came while nobody watched.
+  // Handles messages that arrived before the watch.
   later_ = loop.after({}, [this] { process(); });
 }
 
@@ -50,7 +50,8 @@ DesktopBus::Message DesktopBus::newCall(const Method& method) {
 DesktopBus::Message DesktopBus::send(sd_bus_message& request) {
   sd_bus_message* answer = nullptr;
   const int result = ::sd_bus_call(bus_.get(), &request, callMicroseconds, nullptr, &answer);
-  // Signals that came before the answer are in memory, where nobody watches for them.
+  // Signals that came before the answer are already in memory, so the descriptor does not become
+  // readable for them.
   std::uint64_t waiting = 0;
   if (loop_ != nullptr && ::sd_bus_get_n_queued_read(bus_.get(), &waiting) >= 0 && waiting > 0)
     later_ = loop_->after({}, [this] { process(); });
@@ -74,7 +75,7 @@ void DesktopBus::process() {
   int handled = 1;
   while (handled > 0)
     handled = ::sd_bus_process(bus_.get(), nullptr);
-  if (handled < 0) watch_ = {};  // the bus has gone
+  if (handled < 0) watch_ = {};  // the bus has closed the connection
 }
 
 }  // namespace quillseal::linux

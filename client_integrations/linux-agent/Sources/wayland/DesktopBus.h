@@ -11,8 +11,8 @@
 
 namespace quillseal::linux {
 
-/// A connection of its own to the session's message bus, for what a compositor offers there.
-/// Nothing is started by a call, and none takes longer than a second. Main thread.
+/// A private connection to the D-Bus session bus, for services of the compositor. A call starts no
+/// service and takes at most a second. Main thread.
 class DesktopBus {
  public:
   struct Unref {
@@ -20,7 +20,7 @@ class DesktopBus {
     void operator()(sd_bus_slot* slot) const noexcept { ::sd_bus_slot_unref(slot); }
   };
   using Message = std::unique_ptr<sd_bus_message, Unref>;
-  /// What is listened for, for as long as this is kept.
+  /// A subscription, active as long as it is kept.
   using Subscription = std::unique_ptr<sd_bus_slot, Unref>;
 
   struct Method {
@@ -43,14 +43,14 @@ class DesktopBus {
   DesktopBus(const DesktopBus&) = delete;
   DesktopBus& operator=(const DesktopBus&) = delete;
 
-  /// From now on signals arrive. Both outlive this object.
+  /// Starts delivering signals. Both outlive this object.
   void serve(desktop::MainLoop& loop, Descriptors& descriptors);
 
-  /// Whether somebody has this name.
+  /// Returns whether a service owns this name.
   [[nodiscard]] bool knows(const char* name);
 
-  /// The answer, null when there is none or an error. `types` and `arguments` as for
-  /// sd_bus_message_append.
+  /// Calls a method and returns the answer; null when there is none or an error. `types` and
+  /// `arguments` as for sd_bus_message_append.
   template <typename... Arguments>
   [[nodiscard]] Message call(const Method& method, const char* types, Arguments... arguments) {
     const Message request = newCall(method);
@@ -59,8 +59,8 @@ class DesktopBus {
     return send(*request);
   }
 
-  /// Has `received` called for each signal of this kind, from inside the bus's events. The function
-  /// outlives the subscription. Null when the bus does not take it.
+  /// Calls `received` for each such signal, from inside the bus's events. The function outlives the
+  /// subscription. Null when subscribing failed.
   using Receiver = std::function<void(sd_bus_message&)>;
   [[nodiscard]] Subscription subscribe(const Signal& signal, Receiver& received);
 

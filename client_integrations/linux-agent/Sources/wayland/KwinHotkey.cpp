@@ -25,8 +25,8 @@ constexpr const char* actionName = "Sign Selected Text";
 constexpr std::uint32_t asPresent = 2;
 constexpr std::uint32_t asDefault = 8;
 
-/// KGlobalAccel repeats a press while the keys are held, and older ones tell of no release.
-/// Desktops let people choose delays up to this.
+/// KGlobalAccel repeats a press while the keys are held, and older versions report no release.
+/// Desktops allow repeat delays up to this.
 constexpr std::chrono::milliseconds longestRepeatDelay{1000};
 
 constexpr DesktopBus::Method method(const char* name) {
@@ -44,7 +44,7 @@ constexpr DesktopBus::Signal signal(const char* name) {
           .firstArgument = component};
 }
 
-/// As Qt 5 and 6 number keys and modifiers.
+/// Returns the key and modifiers as Qt 5 and 6 number them.
 int numberOf(desktop::KeyPress press) {
   int number = 0;
   for (const Keysym symbol : chordOf(press)) {
@@ -72,7 +72,7 @@ bool isOfAgent(sd_bus_message& message) {
          std::string_view(ofAction) == action;
 }
 
-/// Whether the sequence that is read next has a key.
+/// Reads a sequence and returns whether it has a key.
 bool hasKey(sd_bus_message& sequence) {
   if (::sd_bus_message_enter_container(&sequence, 'a', "i") < 0) return false;
   bool isFound = false;
@@ -110,7 +110,7 @@ KwinHotkey::KwinHotkey(const Services& services)
       }) {}
 
 KwinHotkey::~KwinHotkey() {
-  // Else the keys would do nothing in any program until the agent starts again.
+  // Otherwise no program would get these keys until the agent starts again.
   if (isRegistered_)
     static_cast<void>(services_.bus.call(method("setInactive"), "as", 4, component, action,
                                          componentName, actionName));
@@ -150,7 +150,7 @@ KwinHotkey::Registration KwinHotkey::request() {
   static_cast<void>(
       bus.call(method("doRegister"), "as", 4, component, action, componentName, actionName));
   const auto set = [&](std::uint32_t flags) {
-    // A shortcut is a sequence of four presses, of which the last three are none.
+    // A shortcut is a sequence of up to four presses; 0 means none.
     return bus.call(method("setShortcutKeys"), "asa(ai)u", 4, component, action, componentName,
                     actionName, 1, 4, keys_, 0, 0, 0, flags);
   };
@@ -172,7 +172,7 @@ KwinHotkey::Registration KwinHotkey::request() {
                          ::sd_bus_message_enter_container(owner.get(), 'a', "s") > 0 &&
                          ::sd_bus_message_read(owner.get(), "s", &ofComponent) > 0 &&
                          std::string_view(ofComponent) != component;
-  // What was refused would be remembered as the person's wish to have no keys.
+  // Otherwise KGlobalAccel would store the refusal as the user's choice of no keys.
   if (registration.isTaken)
     static_cast<void>(bus.call(method("unregister"), "ss", component, action));
   return registration;

@@ -9,8 +9,9 @@
 
 namespace quillseal::linux {
 
-/// The global hotkey by KGlobalAccel, which KWin runs. It never takes keys that something else has.
-/// Where the person has given Quillseal other keys in the desktop's settings, those count.
+/// The global hotkey through KGlobalAccel, which KWin runs. It never takes keys that another
+/// shortcut uses. Keys that the user has chosen for Quillseal in the desktop's settings take
+/// precedence.
 class KwinHotkey : public desktop::Hotkey {
  public:
   /// Both outlive this object.
@@ -22,13 +23,14 @@ class KwinHotkey : public desktop::Hotkey {
   explicit KwinHotkey(const Services& services);
   ~KwinHotkey() override;
 
-  /// Whether the desktop has it.
+  /// Returns whether the desktop has KGlobalAccel.
   [[nodiscard]] static bool isOfferedBy(DesktopBus& bus);
 
   void registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) override;
 
  private:
-  /// Keys that were granted; whether somebody else has those that were asked for.
+  /// The result of a request: whether there was an answer, keys were granted, and another component
+  /// has the requested ones.
   struct Registration {
     bool isAnswered = false;
     bool isGranted = false;
@@ -39,7 +41,7 @@ class KwinHotkey : public desktop::Hotkey {
 
   Services services_;
   std::function<void()> pressed_;
-  int keys_ = 0;  ///< as Qt numbers them
+  int keys_ = 0;  ///< in Qt's numbering
   bool isRegistered_ = false;
   bool isDown_ = false;
   desktop::MainLoop::TimePoint lastPress_;

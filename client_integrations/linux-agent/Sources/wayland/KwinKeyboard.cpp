@@ -12,18 +12,18 @@
 namespace quillseal::linux {
 namespace {
 
-// The first that presses keys.
+// The first version that can press keys.
 constexpr std::uint32_t version = 4;
 
-// XKB's numbers of keys are higher by 8 than those of evdev.
+// XKB key codes are evdev's plus 8.
 constexpr std::uint32_t evdevOffset = 8;
 
-// What takes part in the hotkey, and what else changes the meaning of a key.
+// The keys of the hotkey, and the other modifiers.
 constexpr std::array holdable = {KEY_H,         KEY_LEFTCTRL,  KEY_RIGHTCTRL,
                                  KEY_LEFTALT,   KEY_RIGHTALT,  KEY_LEFTMETA,
                                  KEY_RIGHTMETA, KEY_LEFTSHIFT, KEY_RIGHTSHIFT};
 
-/// Keys that are at the same place in every layout, and where a Latin one has the others.
+/// Returns the key code of a symbol that has the same one in every layout.
 std::optional<std::uint32_t> placeOf(Keysym symbol) {
   switch (symbol) {
     case XKB_KEY_Control_L:
@@ -54,7 +54,7 @@ bool KwinKeyboard::isOfferedBy(const WaylandConnection& connection) {
 
 bool KwinKeyboard::reachesActiveWindow() const {
   if (bus_ == nullptr) return true;
-  // Windows stay active behind a locked screen.
+  // Windows stay active behind the screen lock.
   const DesktopBus::Message answer = bus_->call({.service = "org.freedesktop.ScreenSaver",
                                                  .path = "/ScreenSaver",
                                                  .interface = "org.freedesktop.ScreenSaver",
@@ -72,7 +72,7 @@ std::optional<std::uint32_t> KwinKeyboard::keyFor(Keysym symbol) {
   const std::vector<std::optional<std::uint32_t>>& keys = found->second;
   const auto first = std::ranges::find_if(keys, [](const auto& key) { return key.has_value(); });
   if (first == keys.end()) return std::nullopt;
-  // A layout without the letter is used with the keys of one that has it.
+  // For a layout without the letter, applications use the key of one that has it.
   const bool isOne =
       std::ranges::all_of(keys, [&](const auto& key) { return !key.has_value() || key == *first; });
   if (isOne) return **first - evdevOffset;
@@ -98,7 +98,7 @@ std::vector<std::uint32_t> KwinKeyboard::keysFor(std::span<const Keysym> chord) 
     }
     if (symbol == XKB_KEY_c) return {KEY_LEFTCTRL, KEY_INSERT};
     if (symbol == XKB_KEY_v) return {KEY_LEFTSHIFT, KEY_INSERT};
-    // Without Latin letters nothing else can be meant by the key.
+    // If no layout has Latin letters, the key has no other meaning.
     const bool isNowhere = std::ranges::none_of(
         known_[symbol], [](const auto& candidate) { return candidate.has_value(); });
     if (!isNowhere || symbol != XKB_KEY_a) return {};

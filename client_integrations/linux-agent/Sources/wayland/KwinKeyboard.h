@@ -12,8 +12,8 @@
 
 namespace quillseal::linux {
 
-/// Keys by KWin's fake-input. They count as pressed on the person's keyboard, so that what the
-/// person holds down is let go first, and in the layout that is in use.
+/// Key presses through KWin's fake-input. They count as pressed on the user's keyboard in the
+/// active layout, so keys that the user holds are released first.
 class KwinKeyboard : public AgentKeyboard {
  public:
   /// Both outlive this object; `bus` is null where there is none.
@@ -25,8 +25,8 @@ class KwinKeyboard : public AgentKeyboard {
   [[nodiscard]] bool reachesActiveWindow() const override;
 
   /// Copies with Ctrl+Insert and pastes with Shift+Insert where the layouts have no key for the
-  /// letter, or nobody tells which of them is in use. Then nothing is pressed for other letters
-  /// unless no layout has them.
+  /// letter, or the active layout is not known. In that case other letters are pressed only if no
+  /// layout has them.
   void tap(std::span<const Keysym> chord) override;
 
  private:
@@ -38,7 +38,7 @@ class KwinKeyboard : public AgentKeyboard {
   WaylandConnection& connection_;
   DesktopBus* bus_;
   std::unique_ptr<Device> device_;
-  std::map<Keysym, std::vector<std::optional<std::uint32_t>>> known_;  ///< keys in each layout
+  std::map<Keysym, std::vector<std::optional<std::uint32_t>>> known_;  ///< the key in each layout
   WaylandLayout layout_;
 };
 

@@ -8,7 +8,7 @@
 namespace quillseal::linux {
 namespace {
 
-// From the oldest on, the compositor says when it has described all of a window; from 13 on it
+// From version 4 on, the compositor marks the end of a window's description; from 13 on it
 // announces windows in another way.
 constexpr std::uint32_t oldestVersion = 4;
 constexpr std::uint32_t newestVersion = 12;
@@ -41,7 +41,7 @@ class PlasmaWindows : public WindowProtocol {
     PlasmaWindows& windows;
     UniqueHandle<Toplevel, org_kde_plasma_window_destroy> handle;
     WaylandWindow window;
-    bool isKnown = false;  ///< all of it has been told once
+    bool isKnown = false;  ///< the description is complete
   };
 
   static Entry& entryOf(void* data) { return *static_cast<Entry*>(data); }
@@ -77,7 +77,7 @@ class PlasmaWindows : public WindowProtocol {
   }
   static void withNumber(void* /*data*/, Toplevel* /*handle*/, std::int32_t /*number*/) {}
   static void withText(void* /*data*/, Toplevel* /*handle*/, const char* /*text*/) {}
-  /// Of what is newer than the version in use nothing is told.
+  /// Events of versions newer than the bound one are not sent.
   static constexpr auto ofWindow = [] {
     org_kde_plasma_window_listener listener{};
     listener.title_changed = retitled;

@@ -6,14 +6,14 @@
 
 namespace quillseal::linux::wayland {
 
-/// Ends an object without a word to the compositor.
+/// Destroys an object without a request to the compositor.
 struct ForgetProxy {
   void operator()(auto* object) const noexcept {
     wl_proxy_destroy(reinterpret_cast<wl_proxy*>(object));
   }
 };
 
-/// Owns an object that has no request to end it in the version in use, but in newer ones.
+/// Owns an object whose destructor request exists only in versions newer than the bound one.
 template <typename Object>
 using ProxyHandle = std::unique_ptr<Object, ForgetProxy>;
 

@@ -17,7 +17,7 @@ constexpr std::chrono::milliseconds takesAddress{300};
 }  // namespace
 
 WindowTraits traitsOf(const WaylandWindow& window) {
-  // Most compositors know one of these three, which is often equal to another.
+  // Most compositors report only the app id, which often equals one of the others.
   const std::string executable = window.process == 0 ? "" : executableOf(window.process);
   return {.windowClass = window.applicationId,
           .gtkApplicationId = window.applicationId,

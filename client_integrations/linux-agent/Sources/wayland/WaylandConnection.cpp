@@ -157,7 +157,6 @@ void WaylandConnection::callWaiting() {
     if (const auto ended = std::exchange(ended_, nullptr)) ended();
 }
 
-/// Called once when the connection has failed.
 void WaylandConnection::end() {
   isAlive_ = false;
   watch_ = {};

@@ -13,9 +13,9 @@
 
 namespace quillseal::linux {
 
-/// Synthesised key presses. A press is declined unless its target is the active window and shows
-/// what it showed when the target was named, for which it waits a second. Nothing waits for what
-/// the person still holds down, which takes no part on either kind of keyboard.
+/// Synthesised key presses. A press waits up to a second for its target to be active and to show
+/// the same document as when the target was determined; otherwise it is declined. It does not wait
+/// for keys that the user still holds, which do not affect either kind of keyboard.
 class WaylandKeyEvents : public desktop::KeyEvents {
  public:
   /// All outlive this object.

@@ -25,7 +25,7 @@ class WaylandLayout {
   /// layouts that has it. Nothing when none has it, or there is no keyboard.
   [[nodiscard]] std::optional<std::uint32_t> keyFor(Keysym symbol) const;
 
-  /// The same in each of them. Empty when there is no keyboard.
+  /// Returns that key code for each layout. Empty when there is no keyboard.
   [[nodiscard]] std::vector<std::optional<std::uint32_t>> keysFor(Keysym symbol) const;
 
  private:

@@ -37,7 +37,7 @@ struct WaylandPasteboard::State {
   std::shared_ptr<Offer> clipboard{};
   std::shared_ptr<Offer> primary{};
   std::uint64_t primaryWindow = 0;  ///< the active window when `primary` was made; 0 when not known
-  bool isPrimaryKnown = false;      ///< the one that there was at the start has been told, if any
+  bool isPrimaryKnown = false;      ///< a selection from before the start has been reported, if any
   desktop::Ticket starting{};
   /// The window whose primary selection counts as the last copy.
   std::optional<std::uint64_t> takenFrom{};
@@ -156,9 +156,7 @@ class WaylandPasteboard::Reading : public std::enable_shared_from_this<Reading> 
     if (pipe2(ends.data(), O_CLOEXEC) != 0) return check();
     pipe_ = FileDescriptor(ends[0]);
     const FileDescriptor otherEnd(ends[1]);
-    fcntl(pipe_.get(), F_SETFL,
-          O_NONBLOCK);  // not the writing end, which the other program gets and may not expect to
-                        // be non-blocking
+    fcntl(pipe_.get(), F_SETFL, O_NONBLOCK);  // the writing end stays blocking, as programs expect
     bytes_.clear();
     zwlr_data_control_offer_v1_receive(offer_->offer.get(), chosen_.back().c_str(), otherEnd.get());
     state_.services.connection.flush();
@@ -242,7 +240,7 @@ WaylandPasteboard::WaylandPasteboard(const Services& services, ClipboardKeeper k
   state_->device.reset(zwlr_data_control_manager_v1_get_data_device(state_->manager.get(),
                                                                     services.connection.seat()));
   zwlr_data_control_device_v1_add_listener(state_->device.get(), &State::ofDevice, state_.get());
-  // Not every compositor says that there is none.
+  // Some compositors send no event when there is no primary selection.
   state_->starting = services.loop.after({}, [state = state_.get()] {
     state->starting = state->services.connection.catchUp([state] { state->isPrimaryKnown = true; });
   });

@@ -4,8 +4,8 @@
 
 namespace quillseal::linux {
 
-/// Returns whether the compositor offers all that signing in other applications needs, clipboard,
-/// keys and windows, and still answers.
+/// Returns whether the compositor answers and offers what signing in other applications needs:
+/// clipboard, keys and windows.
 [[nodiscard]] bool reachesApplications(const WaylandConnection& connection);
 
 }  // namespace quillseal::linux

@@ -16,7 +16,7 @@ std::string swaySocket() {
   return qgetenv("SWAYSOCK").toStdString();
 }
 
-/// Sway's own comes first: KDE's may have been left on the bus by another session.
+/// Sway's comes first: KDE's may still be on the bus from another session.
 std::unique_ptr<desktop::Hotkey> offeredHotkey(const WindowingSystem::Services& services,
                                                WaylandConnection& connection, DesktopBus* bus) {
   if (swaySocket().empty() && bus != nullptr && KwinHotkey::isOfferedBy(*bus))

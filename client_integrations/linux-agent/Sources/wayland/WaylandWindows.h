@@ -15,7 +15,7 @@ struct WaylandWindow {
   std::string applicationId;  ///< under Xwayland the class part of WM_CLASS
   std::string title;
   std::uint32_t process = 0;  ///< 0 where the compositor does not say
-  bool isActive = false;      ///< has the keyboard
+  bool isActive = false;      ///< focused
 };
 
 /// The windows of all programs. Main thread.
@@ -30,8 +30,8 @@ class WaylandWindows {
   /// Returns whether the compositor offers the protocol that this class needs.
   [[nodiscard]] static bool areOfferedBy(const WaylandConnection& connection);
 
-  /// The window that focused. None when something has it that is no window, such as a launcher or
-  /// the screen lock.
+  /// Returns the focused window. Nothing when the focus is elsewhere, such as in a launcher or the
+  /// screen lock.
   [[nodiscard]] std::optional<WaylandWindow> active() const;
 
   /// Returns the active window or, when it is this program's, the last active one of another

@@ -8,30 +8,30 @@
 
 namespace quillseal::linux {
 
-/// Gets what a compositor tells of windows.
+/// Receives a compositor's reports of windows.
 class WindowObserver {
  public:
   virtual ~WindowObserver() = default;
 
-  /// Of a window that is new, or is not what it was.
+  /// Called when a window is new or has changed.
   virtual void told(const WaylandWindow& window) = 0;
   virtual void closed(std::uint64_t id) = 0;
 };
 
-/// A protocol by which a compositor names windows and activates them. The connection and the
+/// A protocol through which a compositor lists and activates windows. The connection and the
 /// observer outlive it. Main thread.
 class WindowProtocol {
  public:
   virtual ~WindowProtocol() = default;
 
-  /// Sends what is to have the window raised and given the keyboard.
+  /// Sends the request to raise and focus the window.
   virtual void activate(std::uint64_t id) = 0;
 };
 
 /// wlr-foreign-toplevel-management, of wlroots.
 [[nodiscard]] bool offersWlrootsWindows(const WaylandConnection& connection);
 
-/// Null where it is not offered.
+/// Returns null where the protocol is not offered.
 [[nodiscard]] std::unique_ptr<WindowProtocol> bindWlrootsWindows(
     const WaylandConnection& connection, WindowObserver& observer);
 

@@ -39,7 +39,7 @@ class WlrootsWindows : public WindowProtocol {
 
     WlrootsWindows& windows;
     HandleOfWindow handle;
-    WaylandWindow next;  ///< holds once the compositor has told all of it
+    WaylandWindow next;  ///< set once the compositor has sent its whole state
   };
 
   static Entry& entryOf(void* data) { return *static_cast<Entry*>(data); }
@@ -84,7 +84,7 @@ class WlrootsWindows : public WindowProtocol {
     Entry& entry = windows.entries_.emplace_back(windows, handle, ++windows.lastId_);
     zwlr_foreign_toplevel_handle_v1_add_listener(handle, &ofWindow, &entry);
   }
-  // The compositor reports windows no longer, and its last report would be trusted from now on.
+  // The compositor reports no more windows. The last state must not be trusted.
   static void finished(void* data, zwlr_foreign_toplevel_manager_v1* /*manager*/) {
     auto& windows = *static_cast<WlrootsWindows*>(data);
     for (const Entry& entry : windows.entries_)

@@ -89,7 +89,7 @@ void obey(Command command, quillseal::AppDelegate& agent) {
 int visit(Command command) {
   if (command == Command::background) return 0;
   if (quillseal::linux::SingleInstance::handOver(command)) return 0;
-  report("the agent that runs in this session does not answer. End it and start again.");
+  report("the running agent does not answer. End it and start again.");
   return failed;
 }
 
@@ -99,7 +99,7 @@ int runAgent(const CommandLine& commandLine, quillseal::linux::SingleInstance& i
   quillseal::linux::JournalLog log(quiet ? quillseal::linux::JournalLog::Echo::none
                                          : quillseal::linux::JournalLog::Echo::standardError);
   if (!quillseal::linux::lockMemoryOfSecrets())
-    log.write("[start] memory cannot be locked: a PIN or passphrase may reach the swap area");
+    log.write("[start] memory cannot be locked: a PIN or passphrase may be written to swap");
   quillseal::linux::LinuxDesktop desktop(commandLine, log, std::move(wayland));
   quillseal::AppDelegate agent(desktop.services());
   agent.applicationDidFinishLaunching();

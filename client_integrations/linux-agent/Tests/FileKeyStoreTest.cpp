@@ -194,7 +194,7 @@ TEST_F(FileKeyStoreTest, WhatSomebodyElsePutThereIsNotUsed) {
 
   for (const mode_t mode : {0640U, 0620U, 0604U, 0602U}) {
     ASSERT_EQ(::chmod(path.c_str(), mode), 0);
-    EXPECT_THAT(signFailure(), HasSubstr("opened to other users")) << mode;
+    EXPECT_THAT(signFailure(), HasSubstr("opened by other users")) << mode;
   }
 
   fs::remove(path);
@@ -205,7 +205,7 @@ TEST_F(FileKeyStoreTest, WhatSomebodyElsePutThereIsNotUsed) {
   fs::create_directory(folder.path() / "real");
   fs::create_directory_symlink(folder.path() / "real", path.parent_path());
   EXPECT_THAT(failureOf([&] { store.create(passphrase()); }),
-              HasSubstr("no folder or only a link"));
+              HasSubstr("a link or not a folder"));
   EXPECT_TRUE(fs::is_empty(folder.path() / "real"));
 }
 

@@ -324,7 +324,7 @@ TEST_F(LinuxBrowserTabsTest, LetsGoOfWhoeverHasNoNameOrAnswersTwice) {
   first->say(answer);
   second->answerTab(7, 2);
   settle();
-  EXPECT_THAT(log_.text, HasSubstr("[tabreturn] chromium: An answer comes twice."));
+  EXPECT_THAT(log_.text, HasSubstr("[tabreturn] chromium: An answer came twice."));
   EXPECT_EQ(tab_, "4.7");
 }
 
@@ -355,7 +355,7 @@ TEST_F(LinuxBrowserTabsTest, LetsSilentConnectionsShutNobodyOut) {
     descriptors_.serve();
   EXPECT_EQ(loop_.elapsed(), LinuxBrowserTabs::greetingPatience);
   EXPECT_TRUE(std::ranges::all_of(silent, isClosed)) << "the last of them by their time";
-  EXPECT_THAT(log_.text, HasSubstr("a relay: has not said which browser it is for"));
+  EXPECT_THAT(log_.text, HasSubstr("a relay: has sent no greeting"));
   EXPECT_EQ(tabShownBy(*chromium, "chromium", 6), "41.6") << "a greeting holds";
 }
 

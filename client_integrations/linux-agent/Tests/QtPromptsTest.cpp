@@ -147,7 +147,7 @@ TEST_F(QtPromptsTest, ANewSecretIsTypedTwice) {
   press(Qt::Key_Tab);
   type("correct horse batterx");
   EXPECT_FALSE(canAccept());
-  EXPECT_THAT(textsOf(dialog()), HasSubstr("not the same"));
+  EXPECT_THAT(textsOf(dialog()), HasSubstr("two entries differ"));
   press(Qt::Key_Backspace);
   type("y");
   EXPECT_TRUE(canAccept());

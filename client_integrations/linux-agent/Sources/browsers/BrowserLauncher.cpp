@@ -52,7 +52,7 @@ void BrowserLauncher::open(const std::string& url, const std::string& location) 
   if (!entry) {
     fail(location.empty()
              ? "No application on this computer opens web pages. Install a browser and try again."
-             : "“" + location + "” is not installed any more.");
+             : "“" + location + "” is no longer installed.");
   }
   if (!entries_.open(pageFor(url, *entry), entry->id))
     fail("“" + entry->name + "” could not be started.");
@@ -61,8 +61,8 @@ void BrowserLauncher::open(const std::string& url, const std::string& location) 
 std::string BrowserLauncher::pageFor(const std::string& url, const DesktopEntry& browser) {
   if (!browser.seesOurFiles) {
     fail("“" + browser.name +
-         "” runs in a sandbox that keeps the signing page from it. Make a browser outside of a "
-         "sandbox the default one.");
+         "” runs in a sandbox and cannot read the signing page. Make a browser without a sandbox "
+         "the default one.");
   }
   try {
     LeadingPage page(url, browser.snap.empty() ? runtimeFolder() : folderOfSnap(browser.snap));

@@ -161,8 +161,8 @@ class LinuxBrowserTabs::Hub : public std::enable_shared_from_this<Hub> {
         .socket = std::move(*socket),
         .program = {},
         .incoming = {},
-        .greetingTimer = services_.loop.after(
-            greetingPatience, [this, id] { drop(id, "has not said which browser it is for"); }),
+        .greetingTimer = services_.loop.after(greetingPatience,
+                                              [this, id] { drop(id, "has sent no greeting"); }),
         .watch = services_.descriptors.watch(descriptor, Descriptors::Interest::reading,
                                              [this, id](Descriptors::Interest) { receive(id); })};
     connections_.emplace(id, std::move(connection));
@@ -190,7 +190,8 @@ class LinuxBrowserTabs::Hub : public std::enable_shared_from_this<Hub> {
 
   void greet(Connection& connection, const std::string& message) {
     connection.program = TabMessages::readGreeting(message).program;
-    if (connection.program.empty()) throw TabMessages::ProtocolError("A browser has no name.");
+    if (connection.program.empty())
+      throw TabMessages::ProtocolError("A greeting names no browser.");
     connection.greetingTimer = {};
     log(connection.program + " is connected");
   }
@@ -200,9 +201,9 @@ class LinuxBrowserTabs::Hub : public std::enable_shared_from_this<Hub> {
     if (found == queries_.end()) return;  // too late, or withdrawn
     Query& query = found->second;
     if (answer.result.index() != query.kind)
-      throw TabMessages::ProtocolError("An answer is not of the kind that was asked for.");
+      throw TabMessages::ProtocolError("An answer is of the wrong kind.");
     if (std::erase(query.awaited, connection) == 0)
-      throw TabMessages::ProtocolError("An answer comes twice.");
+      throw TabMessages::ProtocolError("An answer came twice.");
     query.answers.emplace(connection, answer);
     deliverIfComplete(found->first, query);
   }

@@ -110,7 +110,7 @@ Request readRequest(std::string_view message) {
     CloseAndRestore close{.urlContains = object.string("urlContains"),
                           .tab = object.optionalInteger("tab")};
     if (!isSigningPageMark(close.urlContains))
-      throw ProtocolError("The tabs to close are marked as no signing page is.");
+      throw ProtocolError("The mark is not that of a signing page.");
     request.operation = std::move(close);
     return request;
   });

@@ -63,7 +63,7 @@ struct StoredKey {
 
 [[noreturn]] void failDamaged(const std::string& place) {
   throw KeyFailure("the key file " + place +
-                   " is damaged. Put it back from a backup, or enrol this computer again in "
+                   " is damaged. Restore it from a backup, or enrol this computer again in "
                    "Settings.");
 }
 
@@ -143,8 +143,8 @@ std::string FileKeyStore::name() const {
 std::string FileKeyStore::describe() const {
   return std::string(holdsKey() ? "The key is" : "The key will be") + " in the file “" +
          file_.path().string() +
-         "”, encrypted with a passphrase that is asked for at every signature. Anyone who copies "
-         "the file and learns the passphrase can sign in your name.";
+         "”, encrypted with a passphrase that is asked for at every signature. Anyone who has a "
+         "copy of the file and the passphrase can sign in your name.";
 }
 
 std::string FileKeyStore::obstacle() const {

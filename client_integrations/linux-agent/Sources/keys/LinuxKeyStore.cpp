@@ -24,7 +24,7 @@ std::string noticeFor(const KeyMedium& target, const KeyMedium* present,
                       const std::string& obstacles) {
   if (present == nullptr) return obstacles;
   std::string notice = present == &target
-                           ? "The key that is there now will be replaced."
+                           ? "The existing key will be replaced."
                            : "Your present key is in " + present->name() +
                                  ". It will be replaced by a new one in " + target.name() + ".";
   return obstacles.empty() ? notice : obstacles + ' ' + notice;

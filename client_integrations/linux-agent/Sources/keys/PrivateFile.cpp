@@ -43,7 +43,7 @@ int openFolder(const std::filesystem::path& folder) {
   const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
   if (descriptor < 0 && (errno == ENOTDIR || errno == ELOOP))
     throw KeyFailure(quoted(folder) +
-                     " is no folder or only a link. Move it away, then enrol again in Settings.");
+                     " is a link or not a folder. Move it away, then enrol again in Settings.");
   return descriptor;
 }
 
@@ -116,7 +116,7 @@ std::optional<std::string> PrivateFile::read() const {
   if ((status.st_mode & 077U) != 0)
     throw KeyFailure(
         "the file " + quoted(path_) +
-        " was opened to other users. If they may have copied it, enrol again in Settings; "
+        " can be opened by other users. If they may have copied it, enrol again in Settings; "
         "otherwise run: chmod 600 '" +
         path_.string() + "'");
   return readAll(file, path_);

@@ -23,7 +23,7 @@ constexpr Demands pinDemands{
     .name = "PIN",
     .rules = "At least 6 characters, digits or letters, and not all of them the same.",
     .tooShort = "This PIN is too short: it needs at least 6 characters.",
-    .tooUniform = "This PIN repeats one character. Mix at least 2.",
+    .tooUniform = "This PIN repeats one character. Use at least 2 different characters.",
     .withoutLetters = {},
     .minimumCharacters = 6,
     .minimumDistinctBytes = 2};
@@ -38,7 +38,7 @@ constexpr Demands unguardedPinDemands{
         "At least 10 characters with letters among them. Three unrelated words are good; a "
         "word with a number is not.",
     .tooShort = "This PIN is too short: it needs at least 10 characters.",
-    .tooUniform = "This PIN repeats a few characters. Mix at least 6.",
+    .tooUniform = "This PIN repeats a few characters. Use at least 6 different characters.",
     .withoutLetters = "This PIN has no letters. Add some.",
     .minimumCharacters = 10,
     .minimumDistinctBytes = 6};
@@ -47,7 +47,7 @@ constexpr Demands passphraseDemands{
     .name = "passphrase",
     .rules = "At least 12 characters. Four unrelated words are good; a word with a number is not.",
     .tooShort = "This passphrase is too short: it needs at least 12 characters.",
-    .tooUniform = "This passphrase repeats a few characters. Mix at least 6.",
+    .tooUniform = "This passphrase repeats a few characters. Use at least 6 different characters.",
     .withoutLetters = {},
     .minimumCharacters = 12,
     .minimumDistinctBytes = 6};

@@ -19,11 +19,11 @@ constexpr std::string_view lockedOut =
     "PIN makes the wait longer.";
 constexpr std::string_view busy = "The TPM is busy. Try again in a moment.";
 constexpr std::string_view foreign =
-    "The key does not belong to this computer’s TPM as it is now: the TPM was cleared, or the key "
-    "comes from another computer. Enrol this computer again in Settings.";
+    "This computer’s TPM cannot load the key: the TPM was cleared, or the key comes from another "
+    "computer. Enrol this computer again in Settings.";
 constexpr std::string_view ownerPassword =
-    "The TPM’s storage hierarchy has a password, so Quillseal cannot use it. The administrator of "
-    "this computer can remove it (tpm2_changeauth -c owner -p PASSWORD).";
+    "The TPM’s storage hierarchy has a password, so Quillseal cannot use it. An administrator can "
+    "remove it (tpm2_changeauth -c owner -p PASSWORD).";
 constexpr std::string_view disabled =
     "The TPM is switched off or has failed. Restart the computer; if that does not help, look for "
     "the TPM in its firmware settings.";
@@ -73,7 +73,7 @@ constexpr Row tpmRows[] = {
 };
 
 constexpr std::string_view noConnection =
-    "The connection to the TPM broke off. Try again; if it goes on, restart the computer.";
+    "The connection to the TPM was lost. Try again; if it happens again, restart the computer.";
 
 constexpr Row transportRows[] = {
     {TSS2_BASE_RC_TRY_AGAIN, TpmProblem::busy, busy},

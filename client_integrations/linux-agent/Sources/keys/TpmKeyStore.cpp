@@ -263,7 +263,7 @@ StoredKey readKey(const PrivateFile& file) {
   }
   if (!point)
     throw KeyFailure("the TPM key’s file " + place +
-                     " is damaged. Put it back from a backup, or enrol this computer again in "
+                     " is damaged. Restore it from a backup, or enrol this computer again in "
                      "Settings.");
   key.contents = *contents;
   key.parentName = (*blocks)[0].bytes;
@@ -296,7 +296,7 @@ void requireNoLockout(const Tpm& tpm, TPMA_PERMANENT attributes) {
   const UINT32 minutes = (tpm.property(TPM2_PT_LOCKOUT_INTERVAL) + 59) / 60;
   std::string message = tpmFailureOf(TPM2_RC_LOCKOUT).message;
   if (minutes > 0)
-    message += " It listens again in " + std::to_string(minutes) +
+    message += " It accepts a PIN again in " + std::to_string(minutes) +
                (minutes == 1 ? " minute at most." : " minutes at most.");
   throw KeyFailure(message);
 }
@@ -402,8 +402,8 @@ std::string_view TpmKeyStore::guardSentence() const noexcept {
     case Guard::none:
       break;
   }
-  return "No lockout password is set in the TPM: any program with access to it can undo its lock "
-         "and go on guessing, so only a long PIN protects the key.";
+  return "No lockout password is set in the TPM: any program with access to it can reset the "
+         "lock and keep guessing, so only a long PIN protects the key.";
 }
 
 void TpmKeyStore::learnGuard(std::uint32_t permanentAttributes) const noexcept {

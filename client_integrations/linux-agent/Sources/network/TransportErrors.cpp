@@ -28,15 +28,16 @@ constexpr std::array sentences{
              "The connection to the server was lost before it answered. Try again."},
     Sentence{transport::notConnectedToInternet,
              "This computer seems to be offline. Connect it to the network and try again."},
-    Sentence{transport::badServerResponse,
-             "The answer is not one of a signing server. Check the server address in the settings, "
-             "or try again later."},
+    Sentence{
+        transport::badServerResponse,
+        "The answer did not come from a signing server. Check the server address in the settings, "
+        "or try again later."},
     Sentence{transport::dataLengthExceedsMaximum,
-             "The answer is too large for one of a signing server. Check the server address in the "
+             "The answer is too large for a signing server. Check the server address in the "
              "settings."},
     Sentence{transport::secureConnectionFailed,
              "A secure connection to the server could not be made. Check the server address in the "
-             "settings, or ask the people who run the server."},
+             "settings, or ask the server’s administrator."},
     Sentence{transport::serverCertificateUntrusted,
              "The server’s certificate is not trusted, so nothing was sent. Check the date of this "
              "computer and the server address in the settings; somebody may be intercepting the "

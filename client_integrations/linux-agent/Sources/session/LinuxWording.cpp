@@ -29,7 +29,7 @@ void speakOfKeyFile(desktop::Wording& words) {
       "Enrolled — a signing key exists in a key file, encrypted with your passphrase.";
   words.keyCreated =
       "A signing key was created in a key file on this computer. Every signature requires your "
-      "passphrase: anyone who copies the file and learns it can sign in your name.";
+      "passphrase: anyone who has a copy of the file and the passphrase can sign in your name.";
   words.publicKeyFailed = "Could not export the public key from the key file.";
   words.signingFailed = "Signing with the key file failed";
   words.unnamedReason = "it was cancelled, or the passphrase was wrong.";

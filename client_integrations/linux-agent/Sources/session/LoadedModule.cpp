@@ -26,7 +26,7 @@ void* LoadedModule::symbol(const char* name) const {
   };
   const auto found = std::ranges::find_if(options_.places, exists);
   if (found == options_.places.end()) {
-    throw unusable(options_.places.empty() ? "where it is cannot be told"
+    throw unusable(options_.places.empty() ? "its place is not known"
                                            : options_.places.front().string() + " is missing");
   }
   // Never unloaded: threads of its libraries may still run.

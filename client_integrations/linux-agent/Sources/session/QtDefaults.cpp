@@ -83,7 +83,7 @@ void QtDefaults::setString(std::string_view key, std::string_view value) {
       unsaved_.erase(std::string(key));
     } else {
       unsaved_.insert_or_assign(std::string(key), unicode::wellFormed(value));
-      warn(QStringLiteral("The settings could not be saved in %1. They hold until Quillseal ends.")
+      warn(QStringLiteral("The settings could not be saved in %1. They apply until Quillseal ends.")
                .arg(path_));
     }
   }
@@ -115,7 +115,7 @@ std::optional<SettingsText> QtDefaults::fileContents() const {
     if (!file.exists()) return SettingsText();
     if (!file.open(QFile::ReadOnly)) {
       if (!std::exchange(isWarned_, true)) {
-        warn(QStringLiteral("The settings in %1 cannot be read. Check whose file that is.")
+        warn(QStringLiteral("The settings in %1 cannot be read. Check who owns the file.")
                  .arg(path_));
       }
       return std::nullopt;
@@ -133,13 +133,13 @@ std::optional<SettingsText> QtDefaults::setAside() const {
   for (int number = 1; number <= mostCopies; ++number) {
     const QString name = path_ + QStringLiteral(".damaged-%1").arg(number);
     if (!QFile::rename(path_, name)) continue;
-    warn(QStringLiteral("The settings file was damaged. It was renamed %1, and the settings are "
+    warn(QStringLiteral("The settings file was damaged. It was renamed to %1, and all settings are "
                         "empty now.")
              .arg(name));
     return SettingsText();
   }
   if (!std::exchange(isWarned_, true)) {
-    warn(QStringLiteral("The settings file %1 is damaged. Rename or mend it.").arg(path_));
+    warn(QStringLiteral("The settings file %1 is damaged. Rename or correct it.").arg(path_));
   }
   return std::nullopt;
 }

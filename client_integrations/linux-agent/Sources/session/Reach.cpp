@@ -4,12 +4,12 @@ namespace quillseal::linux {
 
 std::string limitsOf(const SessionTraits& session) {
   if (!session.hasXServer)
-    return "This Wayland desktop lets no program read what is selected in another or press keys "
-           "there, so that Quillseal cannot sign selected text here. Its settings work. Signing "
+    return "On this Wayland desktop programs cannot read text that is selected in another or press "
+           "keys there, so Quillseal cannot sign selected text here. Its settings work. Signing "
            "works on sway and other desktops built on wlroots, on KDE Plasma where the package of "
            "Quillseal is installed, and in an X11 session.";
   if (!session.canPressKeys)
-    return "This X server lacks the XTEST extension, by which Quillseal copies the selection and "
+    return "This X server lacks the XTEST extension, with which Quillseal copies the selection and "
            "pastes the signed text. Its settings work; signing does not. Start the X server with "
            "XTEST enabled.";
   if (session.isWayland)
@@ -40,7 +40,7 @@ PlatformChoice platformFor(const DisplayTraits& display) {
                 "it and start Quillseal again."};
   return {.platform = {},
           .obstacle =
-              "This Wayland desktop lets no program reach another, so that Quillseal cannot "
+              "On this Wayland desktop programs cannot reach each other, so Quillseal cannot "
               "sign here. For its settings alone, install the package qt6-wayland."};
 }
 

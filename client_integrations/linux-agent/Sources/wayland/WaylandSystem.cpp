@@ -56,8 +56,8 @@ WaylandSystem::WaylandSystem(std::unique_ptr<WaylandConnection> connection,
 
 std::string WaylandSystem::limits() const {
   if (reachesApplications(*connection_)) return {};
-  return "The desktop does not answer any more, so that Quillseal cannot read what is selected in "
-         "other applications nor press keys there. Start Quillseal again.";
+  return "The desktop no longer answers, so Quillseal can neither read the selected text of other "
+         "applications nor press keys there. Start Quillseal again.";
 }
 
 void WaylandSystem::bringToFront(QWidget& window) const {

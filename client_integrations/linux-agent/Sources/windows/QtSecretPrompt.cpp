@@ -125,7 +125,7 @@ std::optional<SecretBytes> QtSecretPrompt::askForNew(const NewSecretRequest& req
       if (!first->secret().empty()) problem = objectionTo(kind, first->secret());
       const bool repeated = same(first->secret(), second->secret());
       if (problem.empty() && !second->secret().empty() && !repeated)
-        problem = "The two are not the same yet.";
+        problem = "The two entries differ.";
       objection->setText(problem.empty() ? QStringLiteral(" ") : toQString(problem));
       use->setEnabled(problem.empty() && repeated && !first->secret().empty());
     };

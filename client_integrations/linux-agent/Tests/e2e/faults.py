@@ -200,7 +200,7 @@ class Faults(Fault):
     def test_the_settings_cannot_be_read(self):
         self.desktop.settings_file.mkdir(parents=True)
         self.desktop.start_agent()
-        self.desktop.wait_for_log(r"The settings in \S+ cannot be read. Check whose file that is",
+        self.desktop.wait_for_log(r"The settings in \S+ cannot be read. Check who owns the file",
                                   "the agent tells why it has no settings")
         self.desktop.wait_for_window("Quillseal")
 

@@ -254,7 +254,7 @@ TEST_F(BrowserLauncherTest, TellsWhyNothingOpens) {
   EXPECT_THAT(failureOf(url, "secluded"), HasSubstr("“secluded” runs in a sandbox"));
   ::setenv("HOME", (computer().root() / "elsewhere").c_str(), 1);
   EXPECT_THAT(failureOf(url, "snapped"), HasSubstr("elsewhere/snap/snapped/common”: No such file"));
-  EXPECT_THAT(failureOf(url, "gone"), HasSubstr("“gone” is not installed"));
+  EXPECT_THAT(failureOf(url, "gone"), HasSubstr("“gone” is no longer installed"));
   EXPECT_THAT(failureOf("gopher://seal.example/", ""), HasSubstr("opens web pages"));
   fs::permissions(computer().root() / "runtime", fs::perms::all);
   EXPECT_THAT(failureOf(url, ""), HasSubstr("of this user alone"));

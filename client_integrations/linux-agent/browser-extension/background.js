@@ -1,7 +1,7 @@
-// Answers two questions of the Quillseal agent: which tab is current, and, after a signature in the
-// browser, whether the signing page could be closed and the earlier tab shown again. And it takes
-// signing pages, whose addresses bring a text along, out of the history. Nothing about tabs leaves
-// the browser but the number of one tab, nothing about the history; no page is read or changed.
+// Answers two requests of the Quillseal agent: which tab is current, and, after a signature in the
+// browser, to close the signing page and show the earlier tab again. It also removes signing pages
+// from the history, since their URLs contain the text. The browser sends the agent only the number
+// of one tab, and nothing from the history. No page is read or changed.
 "use strict";
 
 const extensionApi = globalThis.browser ?? globalThis.chrome;
@@ -18,7 +18,7 @@ let lastFocus = 0;
 async function currentTab() {
   const window = await extensionApi.windows.getLastFocused();
   const [tab] = await extensionApi.tabs.query({ active: true, windowId: window.id });
-  // The agent may hear from several profiles: the one that was looked at last counts.
+  // Several profiles may answer; the agent uses the one that was focused last.
   return { tab: tab?.id ?? null, focusedAt: window.focused ? Date.now() : lastFocus };
 }
 
@@ -34,8 +34,8 @@ async function show(tab) {
   }
 }
 
-// Only the signing page of this identifier: not a page whose address mentions it, and not one whose
-// identifier begins with it.
+// Matches only the signing page of this identifier, not a page whose URL mentions it, and not one
+// whose identifier begins with it.
 function isSigningPage(address, mark) {
   if (!/^https?:/.test(address)) return false;
   const { pathname, search } = new URL(address);
@@ -68,15 +68,15 @@ function connect() {
   });
   port.onDisconnect.addListener(() => {
     void extensionApi.runtime.lastError; // unread, the browser logs it as an error of ours
-    // A relay ends with its agent and is wanted again at once; one that cannot start is not.
+    // A relay ends with its agent and is started again at once; one that cannot start is not.
     const worked = Date.now() - since > shortestPause;
     pause = worked ? shortestPause : Math.min(2 * pause, longestPause);
     setTimeout(connect, pause);
   });
 }
 
-// The page takes its text out of the address at once, but the browser has written that down by then:
-// as visited, as what led to the address without the text, and a little later as what has an icon.
+// The page removes the text from its URL at once, but by then the browser has stored that URL: as
+// visited, as the referrer of the URL without the text, and a little later with the page's icon.
 extensionApi.history.onVisited.addListener(({ url }) => {
   if (!signingPageAddress.test(url)) return;
   extensionApi.history.deleteUrl({ url });
@@ -87,7 +87,7 @@ extensionApi.windows.onFocusChanged.addListener((window) => {
   if (window !== extensionApi.windows.WINDOW_ID_NONE) lastFocus = Date.now();
 });
 
-// A browser that has put this script to sleep runs it anew for these, and so connects again.
+// These events start a suspended script again, which then connects.
 extensionApi.runtime.onStartup.addListener(() => {});
 extensionApi.runtime.onInstalled.addListener(() => {});
 

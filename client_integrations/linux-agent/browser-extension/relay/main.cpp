@@ -1,5 +1,5 @@
-// The program that a browser starts for the extension: it passes messages between the browser, on
-// its standard input and output, and the agent, once there is one. It ends with either of them.
+// The native messaging host of the extension: passes messages between the browser, on standard
+// input and output, and the agent, for which it waits. Ends when either of them does.
 
 #include <array>
 #include <cerrno>
@@ -30,8 +30,8 @@ namespace {
 constexpr int exitProtocol = 1;
 constexpr int exitCaller = 2;
 
-/// Browsers say which extension they start the program for: Chromium by its origin, Firefox by its
-/// id behind the path of the host's manifest.
+/// Returns whether the browser starts this program for the extension: Chromium passes the
+/// extension's origin, Firefox the manifest's path and the extension's id.
 bool isCalledForExtension(std::span<char*> arguments) {
   constexpr std::string_view chromiumOrigin =
       "chrome-extension://" QUILLSEAL_CHROMIUM_EXTENSION "/";
@@ -40,9 +40,9 @@ bool isCalledForExtension(std::span<char*> arguments) {
          (arguments.size() == 3 && arguments[2] == firefoxId);
 }
 
-/// File name of the program that started this one, which is the browser.
+/// Returns the file name of the parent process, which is the browser.
 std::string parentProgram() {
-  constexpr std::string_view replaced = " (deleted)";  // the browser was updated while it ran
+  constexpr std::string_view replaced = " (deleted)";  // the browser was updated while running
   std::error_code error;
   std::string program =
       std::filesystem::read_symlink("/proc/" + std::to_string(::getppid()) + "/exe", error)
@@ -54,7 +54,7 @@ std::string parentProgram() {
 
 class Relay {
  public:
-  /// Returns when the browser or the agent has gone.
+  /// Passes messages on until the browser or the agent closes the connection.
   void run() {
     std::optional<FileDescriptor> agent = awaitAgent();
     if (!agent) return;
@@ -103,16 +103,16 @@ class Relay {
     return !bytes.empty();
   }
 
-  /// The pipe to the browser holds many messages: one that is full belongs to a browser that hangs.
+  /// The pipe to the browser holds many messages; if it is full, the browser hangs.
   [[nodiscard]] bool sendToBrowser(std::string_view bytes) const {
     const ssize_t count = ::write(toBrowser_.get(), bytes.data(), bytes.size());
     return count >= 0 && static_cast<std::size_t>(count) == bytes.size();
   }
 
-  /// Nothing when the browser has gone first.
+  /// Waits for the agent. Nothing when the browser closes the connection first.
   [[nodiscard]] std::optional<FileDescriptor> awaitAgent() const {
     const FileDescriptor changes(::inotify_init1(IN_CLOEXEC | IN_NONBLOCK));
-    // Watched before the first try: an agent that starts in between is not missed.
+    // The watch comes before the first try, so that an agent that starts in between is not missed.
     if (!changes.isOpen() ||
         ::inotify_add_watch(changes.get(), runtimeFolder().c_str(), IN_MOVED_TO) < 0)
       throw std::system_error(errno, std::generic_category(), "inotify");

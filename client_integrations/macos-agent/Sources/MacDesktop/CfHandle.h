@@ -27,10 +27,11 @@ class CfHandle {
   [[nodiscard]] Reference get() const noexcept { return reference_; }
   [[nodiscard]] explicit operator bool() const noexcept { return reference_ != nullptr; }
 
-  /// Where a function may store a reference that it hands over. REQUIRES: the handle is empty.
+  /// The address at which a function stores a reference that the handle then owns. REQUIRES: the
+  /// handle is empty.
   [[nodiscard]] Reference* receive() noexcept { return &reference_; }
 
-  /// Gives the reference up to the caller.
+  /// Passes ownership of the reference to the caller.
   [[nodiscard]] Reference release() noexcept { return std::exchange(reference_, nullptr); }
 
  private:

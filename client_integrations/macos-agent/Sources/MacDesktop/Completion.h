@@ -8,10 +8,9 @@
 
 namespace quillseal::mac {
 
-/// The function that a request calls when it ends: at most once, and not after the request's ticket
-/// was dropped. Copies share it, so blocks may carry one through any thread; calling it, asking
-/// about it and dropping the ticket happen on the main thread, where the function is also
-/// destroyed.
+/// The completion function of a request. It is called at most once, and not after the request's
+/// ticket was dropped. Copies share the function, so blocks may carry one through any thread. Call
+/// it, query it and drop the ticket on the main thread, where the function is also destroyed.
 template <typename... Results>
 class Completion {
  public:
@@ -24,7 +23,8 @@ class Completion {
     if (const auto done = std::exchange(*done_, nullptr)) done(std::move(results)...);
   }
 
-  /// A ticket that withdraws the function and then calls `cancel`, if the request has not ended.
+  /// Returns a ticket that withdraws the function and then calls `cancel`, if the request is still
+  /// open.
   [[nodiscard]] desktop::Ticket ticket(std::function<void()> cancel = [] {}) const {
     return desktop::Ticket([done = done_, cancel = std::move(cancel)] {
       if (*done == nullptr) return;

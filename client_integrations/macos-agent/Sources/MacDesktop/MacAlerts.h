@@ -15,9 +15,10 @@
 
 namespace quillseal::mac {
 
-/// Alerts of AppKit and notifications of the user notification center. An alert is modal in a
-/// nested event loop, which goes on with the agent's other work; of several open alerts the newest
-/// is answered first. One that comes while a menu of this program is open closes the menu first.
+/// Shows alerts with AppKit and notifications through the user notification center. An alert is
+/// modal in a nested event loop, in which the agent's other work continues. Of several open alerts
+/// the newest must be answered first. An alert closes an open menu of this program before it
+/// appears.
 class MacAlerts final : public desktop::Alerts {
  public:
   struct Services {
@@ -25,7 +26,7 @@ class MacAlerts final : public desktop::Alerts {
     desktop::Log& log;
   };
 
-  /// Main thread. The log outlives this object, and this object the application's event loop.
+  /// Main thread. The log outlives this object; this object outlives the application's event loop.
   explicit MacAlerts(Services services);
   ~MacAlerts() override;
   MacAlerts(const MacAlerts&) = delete;
@@ -43,8 +44,8 @@ class MacAlerts final : public desktop::Alerts {
  private:
   struct OpenAlert;
 
-  /// Opens `alert` soon, with the keyboard in `field` unless that is nil; `answered` learns whether
-  /// the first button was pressed.
+  /// Opens `alert` soon, with the focus in `field` unless that is nil. Calls `answered` with
+  /// whether the first button was pressed.
   [[nodiscard]] desktop::Ticket open(NSAlert* alert, NSView* field,
                                      std::function<void(bool)> answered);
   void run(const std::shared_ptr<OpenAlert>& open);
@@ -52,11 +53,11 @@ class MacAlerts final : public desktop::Alerts {
   void stopWithdrawn();
 
   MacMainLoop::Poster poster_;
-  std::shared_ptr<desktop::Log*> log_;  ///< null once this object is gone, for late answers
+  std::shared_ptr<desktop::Log*> log_;  ///< null after this object is destroyed, for late answers
   std::vector<std::shared_ptr<OpenAlert>> open_;     ///< the newest last
-  std::vector<std::shared_ptr<OpenAlert>> waiting_;  ///< for a menu to close
+  std::vector<std::shared_ptr<OpenAlert>> waiting_;  ///< alerts that wait for a menu to close
   QSMenuWatcher* menus_;
-  QSNotificationPresenter* presenter_;  ///< the notification center does not keep it
+  QSNotificationPresenter* presenter_;  ///< the notification center does not own it
 };
 
 }  // namespace quillseal::mac

@@ -11,7 +11,7 @@
 #include "MacDesktop/MacProgram.h"
 #include "MacDesktop/MacText.h"
 
-/// Lets notifications appear while this program is active, too.
+/// Shows notifications also while this program is active.
 @interface QSNotificationPresenter : NSObject <UNUserNotificationCenterDelegate>
 @end
 
@@ -25,7 +25,7 @@
 
 @end
 
-/// Knows which menu of this program is open.
+/// Tracks the open menu of this program.
 @interface QSMenuWatcher : NSObject
 @property(nonatomic, readonly, weak, nullable) NSMenu* openMenu;
 /// `closed` is called on the main thread whenever a menu has closed.
@@ -74,15 +74,15 @@ namespace {
 
 using desktop::ConfirmationForm;
 
-/// What an alert shows at its own place; longer texts, which would push the buttons off the screen,
-/// scroll in a box.
+/// The longest text that an alert shows without a scroll view; longer ones would push the buttons
+/// off the screen.
 constexpr NSUInteger longestPlainText = 2000;
 constexpr CGFloat tallestPlainText = 420;
 constexpr CGFloat plainTextWidth = 250;
 constexpr CGFloat scrollingTextHeight = 240;
 constexpr CGFloat gap = 8;
 
-/// The block of choice, field and note, in points from its lower left corner.
+/// Layout of the form with choice, field and note, in points from its lower left corner.
 constexpr CGFloat formWidth = 320, formHeight = 74;
 constexpr CGFloat choiceY = 50, choiceHeight = 26;
 constexpr CGFloat fieldY = 22, fieldHeight = 24;
@@ -111,7 +111,7 @@ NSView* scrollingText(NSString* text, CGFloat y) {
   return scroller;
 }
 
-/// An alert with `body` and, below it, `form` unless that is nil.
+/// Makes an alert with `body` and, below it, `form` unless that is nil.
 NSAlert* alertFrom(const std::string& title, const std::string& body, desktop::AlertStyle style,
                    NSView* form) {
   NSAlert* alert = [[NSAlert alloc] init];
@@ -171,18 +171,20 @@ NSTextField* noteOf(const ConfirmationForm& form) {
   note.font = [NSFont systemFontOfSize:noteFontSize];
   note.textColor = NSColor.secondaryLabelColor;
   note.lineBreakMode = NSLineBreakByTruncatingTail;
-  note.toolTip = nsString(form.note);  // one line rarely holds it
+  note.toolTip = nsString(form.note);  // it rarely fits on one line
   return note;
 }
 
-/// Shows `alert`, with the keyboard in `field` unless that is nil, until it is answered or stopped.
+/// Runs `alert` modally, with the focus in `field` unless that is nil, until it is answered or
+/// stopped.
 NSModalResponse runModal(NSAlert* alert, NSView* field) {
   activateProgram();
-  [alert layout];  // else done by runModal only, after the window was shown
+  [alert layout];  // otherwise runModal does this, after the window has appeared
   NSWindow* window = alert.window;
   if (field != nil) window.initialFirstResponder = field;
-  window.preventsApplicationTerminationWhenModal = NO;  // quitting and logging out need no answer
-  // In case the system does not let this program become active: at least on top of all windows.
+  window.preventsApplicationTerminationWhenModal =
+      NO;  // so that the user can quit or log out without answering
+  // If the system refuses to activate this program, the alert is at least above all windows.
   window.level = NSModalPanelWindowLevel;
   [window center];
   [window orderFrontRegardless];
@@ -198,7 +200,7 @@ UNNotificationRequest* requestFor(const desktop::Notification& notification) {
                                               trigger:nil];
 }
 
-/// For the end of a line of the log; nothing for nil.
+/// Returns the error's domain and code for the end of a log line; empty for nil.
 std::string codeOf(NSError* error) {
   return error == nil ? "" : " (error " + std::to_string(error.code) + ")";
 }
@@ -218,7 +220,7 @@ MacAlerts::MacAlerts(Services services)
         runAfterMenu();
       }]),
       presenter_([[QSNotificationPresenter alloc] init]) {
-  // Outside of a bundle, where the center has nobody to speak for, it throws.
+  // The center throws in a program without a bundle.
   if (NSBundle.mainBundle.bundleIdentifier == nil) return;
   UNUserNotificationCenter.currentNotificationCenter.delegate = presenter_;
 }
@@ -289,7 +291,7 @@ void MacAlerts::notify(const desktop::Notification& notification) {
              }];
   };
   callSystem([&] {
-    // The system asks the user the first time and answers at once from then on.
+    // The system asks the user once and answers at once afterwards.
     [center requestAuthorizationWithOptions:UNAuthorizationOptionAlert
                           completionHandler:authorised];
   });
@@ -305,7 +307,8 @@ desktop::Ticket MacAlerts::open(NSAlert* alert, NSView* field, std::function<voi
 void MacAlerts::run(const std::shared_ptr<OpenAlert>& open) {
   if (!open->completion.isPending()) return;
   if (NSMenu* menu = menus_.openMenu) {
-    // A modal loop inside the menu's would leave the menu on the screen and the alert without keys.
+    // A modal loop inside the menu's would leave the menu on the screen and the alert without the
+    // keyboard.
     waiting_.push_back(open);
     [menu cancelTracking];
     return;
@@ -317,14 +320,14 @@ void MacAlerts::run(const std::shared_ptr<OpenAlert>& open) {
         callSystem([&] { return runModal(open->alert, open->field); }) == NSAlertFirstButtonReturn;
   } catch (const Error& error) {
     (*log_)->write(std::string("[sign] an alert could not be shown: ") + error.what());
-    // Its window may have come up before that, and nothing else would take it away.
+    // The window may already be on the screen, and nothing else would close it.
     callGuarded([&] { [open->alert.window orderOut:nil]; });
   }
   open_.pop_back();
   stopWithdrawn();
   open->completion(isFirstButton);
-  // Last, so that an alert which the answer calls for is there when activation would be given back:
-  // it would lose the keyboard to the other application, and the user would type into that.
+  // This comes last: if the answer opens another alert, that must exist before activation is given
+  // back. Otherwise it would lose the focus, and the user would type into the other application.
   [NSNotificationCenter.defaultCenter postNotificationName:windowDidGo object:nil];
 }
 
@@ -336,7 +339,7 @@ void MacAlerts::runAfterMenu() {
 
 void MacAlerts::stopWithdrawn() {
   if (open_.empty() || open_.back()->completion.isPending()) return;
-  // Only the innermost modal loop can be stopped, and it looks at that after its next event.
+  // Only the innermost modal loop can be stopped, and it checks for that after its next event.
   [NSApp stopModalWithCode:NSModalResponseAbort];
   NSEvent* event = [NSEvent otherEventWithType:NSEventTypeApplicationDefined
                                       location:NSZeroPoint

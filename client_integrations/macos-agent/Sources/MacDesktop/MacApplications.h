@@ -7,9 +7,9 @@
 
 namespace quillseal::mac {
 
-/// The applications that NSWorkspace knows. `RunningApplication::instance` is the process id. When
-/// the last of this program's own windows goes, the application that was active before it becomes
-/// active again: a program without windows that stays active would get the keys itself.
+/// Finds applications through NSWorkspace. `RunningApplication::instance` is the process id. When
+/// the last window of this program closes, the previously active application is activated again:
+/// this program would otherwise stay active without a window and receive the keys.
 class MacApplications final : public desktop::Applications {
  public:
   /// Main thread.
@@ -18,7 +18,7 @@ class MacApplications final : public desktop::Applications {
   MacApplications(const MacApplications&) = delete;
   MacApplications& operator=(const MacApplications&) = delete;
 
-  /// What `RunningApplication::categories` says of an application with this identifier.
+  /// Returns the `RunningApplication::categories` of an application with this identifier.
   [[nodiscard]] static std::string categoriesOf(const std::optional<std::string>& bundleIdentifier);
 
   [[nodiscard]] std::optional<desktop::RunningApplication> frontmost() const override;

@@ -10,20 +10,20 @@
 #include "MacDesktop/MacProgram.h"
 #include "MacDesktop/MacText.h"
 
-/// Remembers which other application was active last, and notices when one of this program's own
-/// windows may have gone. Agents of the system do not count.
+/// Remembers which other application was active last, and notices when a window of this program may
+/// have closed. System agents do not count.
 @interface QSFrontApplicationObserver : NSObject
 @property(nonatomic, readonly, nullable) NSRunningApplication* lastOther;
-/// `windowMayHaveGone` is called on the main thread, while the window may still be there, with
-/// `lastOther`.
+/// Calls `windowMayHaveGone` with `lastOther` on the main thread; the window may still be on the
+/// screen.
 - (instancetype)initWithBlock:(void (^)(NSRunningApplication*))windowMayHaveGone;
 - (void)stop;
 @end
 
 namespace {
 
-/// Whether `application` is one like the prompt for Touch ID or the lock screen, which is active
-/// for a moment only and has no text of the user's.
+/// Returns whether `application` is a system agent such as the Touch ID prompt or the lock screen,
+/// which is active only briefly and holds no text of the user.
 bool isSystemAgent(NSRunningApplication* application) {
   return application.activationPolicy != NSApplicationActivationPolicyRegular &&
          [application.bundleURL.path hasPrefix:@"/System/"];
@@ -80,7 +80,7 @@ bool isSystemAgent(NSRunningApplication* application) {
 namespace quillseal::mac {
 namespace {
 
-/// A line break that is pasted into a terminal may run what precedes it.
+/// Nothing is pasted into these: a line break could run the command before it.
 constexpr std::string_view terminals[] = {
     "co.zeit.hyper",         "com.apple.Terminal",    "com.github.wez.wezterm",
     "com.googlecode.iterm2", "com.mitchellh.ghostty", "dev.warp.Warp-Stable",
@@ -99,8 +99,7 @@ desktop::InstalledApplication installedAt(NSURL* location) {
 
 void bringToFront(NSRunningApplication* target) {
   if (@available(macOS 14.0, *)) {
-    // Activation is cooperative there: it is taken from the front application, which has to make
-    // way where that is this program.
+    // Activation is cooperative there: if this program is in front, it must yield.
     NSRunningApplication* front = NSWorkspace.sharedWorkspace.frontmostApplication;
     NSApplication* own = NSApp;  // a typed receiver, so that availability is checked
     if ([front isEqual:NSRunningApplication.currentApplication]) {
@@ -111,8 +110,8 @@ void bringToFront(NSRunningApplication* target) {
   [target activateWithOptions:0];
 }
 
-/// Whether a window of this program is on the screen that could take the keyboard, which those of
-/// the status bar and of menus cannot.
+/// Returns whether a window of this program is visible that can have the focus; those of the status
+/// bar and of menus cannot.
 bool hasOwnWindow() {
   for (NSWindow* window in NSApp.windows) {
     if (window.visible && window.canBecomeKeyWindow) return true;
@@ -138,7 +137,7 @@ MacApplications::MacApplications(const MacMainLoop& loop) : poster_(loop.poster(
       [&] { return [[QSFrontApplicationObserver alloc] initWithBlock:windowMayHaveGone]; });
 }
 
-// macOS has no such words; these are the desktop entry specification's, which the agent reads.
+// macOS has no such categories; these are the desktop entry specification's, which the agent reads.
 std::string MacApplications::categoriesOf(const std::optional<std::string>& bundleIdentifier) {
   const bool isTerminal = bundleIdentifier && std::find(std::begin(terminals), std::end(terminals),
                                                         *bundleIdentifier) != std::end(terminals);

@@ -18,8 +18,8 @@ class MacDefaults final : public desktop::Defaults {
     desktop::Log& log;
   };
 
-  /// Changes that other programs make are noticed for `watchedKeys` only: the system announces them
-  /// key by key. The log outlives this object.
+  /// Changes by other programs are noticed only for `watchedKeys`, because the system reports them
+  /// for single keys. The log outlives this object.
   MacDefaults(Services services, std::vector<std::string> watchedKeys)
       : poster_(services.loop.poster()), log_(services.log), watchedKeys_(std::move(watchedKeys)) {}
 

@@ -9,18 +9,18 @@
 
 namespace quillseal::mac {
 
-/// What the platform reported, with its words; without any words when it gave nothing.
+/// Converts a platform error, with its description; empty when there was none.
 [[nodiscard]] Error errorFrom(NSError* _Nullable error);
 
-/// The same for a status code of the Security framework, Carbon or I/O Kit.
+/// Converts a status code of the Security framework, Carbon or I/O Kit.
 [[nodiscard]] Error errorFromStatus(OSStatus status);
 
-/// The same for an exception; its name is the domain.
+/// Converts an exception; its name becomes the domain.
 [[nodiscard]] Error errorFromException(NSException* _Nonnull exception);
 
-/// Gives what `work` gives, which calls the system; an NSException that comes out of it is thrown
-/// as Error. Every port makes its calls to Foundation and AppKit in here: coroutines know C++
-/// exceptions only. No `co_await` in `work`.
+/// Returns the result of `work` and rethrows an NSException as Error. Every port calls Foundation
+/// and AppKit inside this function, since coroutines handle only C++ exceptions. No `co_await` in
+/// `work`.
 template <typename Work>
 std::invoke_result_t<const Work&> callSystem(const Work& work) {
   @try {
@@ -30,8 +30,8 @@ std::invoke_result_t<const Work&> callSystem(const Work& work) {
   }
 }
 
-/// Calls `work` where the caller is the system, which knows no exceptions of ours: one that comes
-/// out of `work` is logged as a fault and goes no further.
+/// Calls `work` in a callback from the system, which cannot handle C++ exceptions. Logs an
+/// exception as a fault and does not pass it on.
 void callGuarded(const std::function<void()>& work) noexcept;
 
 }  // namespace quillseal::mac

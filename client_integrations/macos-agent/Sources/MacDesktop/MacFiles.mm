@@ -39,7 +39,7 @@ std::string MacFiles::homeDirectory() const {
 
 bool MacFiles::replace(const std::string& path, std::string_view contents) {
   if (!callSystem([&] { return createFolderOf(path); })) return false;
-  // mkstemp makes a file that only its owner can read, which NSData's atomic writing does not.
+  // mkstemp makes a file that only its owner can read; NSData's atomic write does not.
   std::string temporary = path + ".XXXXXX";
   const int file = ::mkstemp(temporary.data());
   if (file < 0) return false;

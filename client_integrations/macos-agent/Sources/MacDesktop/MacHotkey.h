@@ -5,7 +5,7 @@
 
 namespace quillseal::mac {
 
-/// A hot key of the Carbon event manager, which needs no permission of the user.
+/// The global hotkey through Carbon's event manager, which needs no permission from the user.
 class MacHotkey final : public desktop::Hotkey {
  public:
   /// This object outlives the application's event loop.

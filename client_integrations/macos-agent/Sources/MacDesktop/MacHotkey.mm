@@ -44,7 +44,7 @@ void MacHotkey::registerHotkey(desktop::KeyPress combination, std::function<void
   };
   const OSStatus installed =
       ::InstallEventHandler(::GetApplicationEventTarget(), handler, 1, &type, this, nullptr);
-  // Without a handler the combination would be taken from all other programs for nothing.
+  // Without a handler, a registered combination would be lost to all programs.
   if (installed != noErr) ::UnregisterEventHotKey(hotkey);
   requireNoError(installed);
 }

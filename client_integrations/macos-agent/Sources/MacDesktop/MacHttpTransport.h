@@ -10,7 +10,8 @@
 
 namespace quillseal::mac {
 
-/// The URL loading system. An answer of more than 8 MiB is `dataLengthExceedsMaximum`.
+/// HTTP over the URL loading system. An answer of more than 8 MiB fails with
+/// `dataLengthExceedsMaximum`.
 class MacHttpTransport final : public desktop::HttpTransport {
  public:
   explicit MacHttpTransport(const MacMainLoop& loop);
@@ -24,7 +25,8 @@ class MacHttpTransport final : public desktop::HttpTransport {
   [[nodiscard]] Error error(desktop::transport::ErrorCode code) const override;
 
  private:
-  /// The time limit of an exchange as a whole is a property of its session.
+  /// Returns the session for this limit: the time limit of a whole exchange is a property of its
+  /// session.
   [[nodiscard]] NSURLSession* sessionFor(std::chrono::seconds limit);
 
   MacMainLoop::Poster poster_;

@@ -12,10 +12,10 @@
 
 namespace {
 
-/// More than any answer of the server; what goes on longer is a fault or an attack.
+/// Larger than any valid answer; a longer one is a fault or an attack.
 constexpr NSUInteger maximumAnswer = 8U * 1024 * 1024;
 
-/// An answer under way.
+/// A pending answer.
 struct Exchange {
   void (^finished)(NSData*, NSURLResponse*, NSError*);
   NSMutableData* body = [NSMutableData data];
@@ -24,7 +24,7 @@ struct Exchange {
 
 }  // namespace
 
-/// Collects the answers of one session. Foundation calls it on a private queue, one call at a time.
+/// Collects the answers of one session. Foundation calls it on a serial queue.
 @interface QSExchanges : NSObject <NSURLSessionDataDelegate>
 /// Starts `task`. `finished` is called once, on that queue.
 - (void)start:(NSURLSessionDataTask*)task
@@ -50,8 +50,8 @@ struct Exchange {
     willPerformHTTPRedirection:(NSHTTPURLResponse*)__unused response
                     newRequest:(NSURLRequest*)__unused request
              completionHandler:(void (^)(NSURLRequest*))completionHandler {
-  // A post is not safe to repeat elsewhere, and its body holds the API key: the redirect itself is
-  // the answer.
+  // A POST must not be repeated elsewhere, and its body holds the API key, so the redirect is
+  // returned as the answer.
   completionHandler(nil);
 }
 
@@ -133,7 +133,7 @@ NSURLSession* MacHttpTransport::sessionFor(std::chrono::seconds limit) {
   if (session == nil) {
     NSURLSessionConfiguration* configuration =
         NSURLSessionConfiguration.defaultSessionConfiguration;
-    // The request's own time-out starts again with every byte that arrives.
+    // The request's own time-out restarts with every byte that arrives.
     configuration.timeoutIntervalForResource = static_cast<NSTimeInterval>(limit.count());
     session = [NSURLSession sessionWithConfiguration:configuration
                                             delegate:[[QSExchanges alloc] init]

@@ -7,8 +7,8 @@
 
 namespace quillseal::mac {
 
-/// Keyboard events of Core Graphics, posted where the hardware's own arrive. A press is declined
-/// only where another application than its target is known to be active.
+/// Key presses as Core Graphics events, posted at the HID tap like hardware events. A press is
+/// declined only when an application other than its target is known to be active.
 class MacKeyEvents final : public desktop::KeyEvents {
  public:
   /// `loop` outlives this object and its presses.

@@ -35,9 +35,9 @@ void post(desktop::KeyPress press) {
   }
 }
 
-/// What becomes of a key that is posted now for `target`. It is declined only where another
-/// application is known to be active, not where the system does not say which one is. Nothing is
-/// pressed in a window of this program for want of a target.
+/// Returns what would happen to a key that is posted now for `target`. It is declined when another
+/// application is known to be active, but not when the system does not say which one is. Without a
+/// target, nothing is pressed in a window of this program.
 desktop::Delivery prospectOf(const std::optional<desktop::RunningApplication>& target) {
   return callSystem([&] {
     NSRunningApplication* active = NSWorkspace.sharedWorkspace.frontmostApplication;
@@ -55,8 +55,8 @@ desktop::Delivery prospectOf(const std::optional<desktop::RunningApplication>& t
   });
 }
 
-/// A press that waits for the user's fingers to leave the modifiers of the hotkey. The events carry
-/// their own flags, but some applications look at the keyboard itself.
+/// A press that waits until the user has released the hotkey's modifiers. The events carry their
+/// own flags, but some applications read the keyboard's state.
 class WaitingPress : public std::enable_shared_from_this<WaitingPress> {
  public:
   struct Plan {
@@ -104,7 +104,7 @@ class WaitingPress : public std::enable_shared_from_this<WaitingPress> {
   desktop::Ticket timer_;
 };
 
-/// The processes that hold secure input, to be appended to a line; empty when that is not known.
+/// Returns the processes that hold secure input, for the end of a log line; empty when not known.
 std::string holdersOfSecureInput() {
   const IoHandle root(::IORegistryGetRootEntry(kIOMainPortDefault));
   const CfHandle<CFTypeRef> property(::IORegistryEntryCreateCFProperty(
@@ -133,8 +133,8 @@ void MacKeyEvents::askForTrust() {
 }
 
 std::string MacKeyEvents::obstacle() const {
-  // While a password field has the keyboard, or a program forgot to give Secure Input back, the
-  // system swallows posted keys; the holder's process id is the one clue for the user.
+  // The system drops posted keys while a password field has the focus or a program has not released
+  // Secure Input. The holder's process id is the user's only clue.
   if (!::IsSecureEventInputEnabled()) return {};
   return "secure input is on" + callSystem(holdersOfSecureInput);
 }

@@ -5,15 +5,15 @@
 
 namespace quillseal::mac {
 
-/// A key in the Secure Enclave that only the fingers enrolled at its creation can use. It is found
+/// A key in the Secure Enclave that only the fingers enrolled at its creation can use. It is stored
 /// in the data-protection keychain, for which the program needs a keychain access group.
 class MacKeyStore final : public desktop::KeyStore {
  public:
-  /// `log`, which outlives this object, learns of a key that could not be deleted.
+  /// `log` outlives this object; it records a key that could not be deleted.
   explicit MacKeyStore(desktop::Log& log) : log_(log) {}
 
-  /// Whether a lookup that ended with `status` has shown that there is no key. All but success and
-  /// this mean that it is not known.
+  /// Returns whether `status` of a lookup means that there is no key. Any other failure leaves it
+  /// unknown.
   [[nodiscard]] static bool meansNoKey(std::int64_t status) noexcept;
 
   [[nodiscard]] bool isAvailable() const override;

@@ -19,7 +19,7 @@ NSData* tagData() {
   return [nsString(desktop::KeyStore::applicationTag) dataUsingEncoding:NSUTF8StringEncoding];
 }
 
-/// What finds the key, whatever is then done with it.
+/// Returns the query that finds the key.
 NSMutableDictionary* keyQuery() {
   return [@{
     (__bridge id)kSecClass : (__bridge id)kSecClassKey,
@@ -28,7 +28,7 @@ NSMutableDictionary* keyQuery() {
   } mutableCopy];
 }
 
-/// Takes over what a function of the Security framework left in its error parameter.
+/// Converts the error that a function of the Security framework returned.
 Error errorFrom(CfHandle<CFErrorRef> error) {
   return mac::errorFrom((__bridge_transfer NSError*)error.release());
 }
@@ -42,7 +42,8 @@ Error errorFrom(CfHandle<CFErrorRef> error) {
 
 class EnclaveKey final : public desktop::DeviceKey {
  public:
-  /// `context`, possibly nil, is the one that the key was found with: it holds the prompt's text.
+  /// `context`, possibly nil, is the one that the key was looked up with; it holds the prompt's
+  /// text.
   EnclaveKey(CfHandle<SecKeyRef> key, LAContext* context)
       : key_(std::move(key)), context_(context) {}
 
@@ -77,19 +78,19 @@ class EnclaveKey final : public desktop::DeviceKey {
   }
 
   CfHandle<SecKeyRef> key_;
-  [[maybe_unused]] LAContext* context_;  // lives as long as the key that prompts with it
+  [[maybe_unused]] LAContext* context_;  // lives as long as the key that uses it
 };
 
 }  // namespace
 
 bool MacKeyStore::meansNoKey(std::int64_t status) noexcept {
-  // A build without the entitlement has no keychain in which a key of its own could be.
+  // A build without the entitlement has no keychain that could hold a key.
   return status == errSecItemNotFound || status == errSecMissingEntitlement;
 }
 
 bool MacKeyStore::isAvailable() const {
   return callSystem([] {
-    // The Enclave is a token; the identifiers of its kinds begin with this one.
+    // The Enclave is a token; its variants have identifiers with this prefix.
     NSString* enclave = (__bridge NSString*)kSecAttrTokenIDSecureEnclave;
     for (NSString* token in [[TKTokenWatcher alloc] init].tokenIDs) {
       if ([token hasPrefix:enclave]) return true;

@@ -7,16 +7,16 @@
 
 namespace quillseal::mac {
 
-/// The main run loop. Posted work also runs while an alert is modal or a menu is open, including
-/// when the alert was itself opened by posted work.
+/// The main run loop. Posted work also runs while an alert is modal or a menu is open, even if
+/// posted work opened the alert.
 class MacMainLoop final : public desktop::MainLoop {
   class Queue;
 
  public:
-  /// Posts to a loop that may be gone by then, for blocks that the system calls when it likes.
+  /// Posts to a loop that may no longer exist, for blocks that the system calls at any time.
   class Poster {
    public:
-    /// Like `MainLoop::post`, and nothing once the loop has ended. Any thread.
+    /// Like `MainLoop::post`; does nothing once the loop has ended. Any thread.
     void post(std::function<void()> work) const;
 
    private:

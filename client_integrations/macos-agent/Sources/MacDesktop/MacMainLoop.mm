@@ -11,9 +11,9 @@
 
 namespace quillseal::mac {
 
-/// The posted work, as a run-loop source of our own: the dispatch main queue, the obvious
-/// alternative, stands still in a nested run loop that was entered from one of its blocks, and an
-/// alert that posted work opens is just that.
+/// Posted work, in a custom run-loop source. The dispatch main queue is no alternative: it stops in
+/// a nested run loop that was entered from one of its blocks, which happens when posted work opens
+/// an alert.
 class MacMainLoop::Queue {
  public:
   Queue() {
@@ -34,7 +34,7 @@ class MacMainLoop::Queue {
     signal();
   }
 
-  /// Forgets all work, on the main thread.
+  /// Discards all work. Main thread.
   void close() {
     std::deque<std::function<void()>> dropped;
     const std::lock_guard lock(mutex_);
@@ -56,7 +56,7 @@ class MacMainLoop::Queue {
       if (work_.empty()) return;
       work = std::move(work_.front());
       work_.pop_front();
-      // Signalled before the work runs: if it enters a nested run loop, that one goes on here.
+      // Signalled before the work runs, so that a nested run loop continues with the rest.
       if (!work_.empty()) signal();
     }
     @autoreleasepool {
@@ -94,7 +94,7 @@ desktop::Ticket MacMainLoop::runBlocking(std::function<void()> work,
                                          std::function<void()> finished) {
   const Completion<> completion(std::move(finished));
   const std::shared_ptr<Queue> queue = queue_;
-  // Dispatch adds threads while its workers block in a prompt, so calls never wait for each other.
+  // Dispatch adds threads while workers block in a prompt, so calls do not wait for each other.
   ::dispatch_async(::dispatch_get_global_queue(QOS_CLASS_USER_INITIATED, 0), ^{
     @autoreleasepool {
       callGuarded(work);

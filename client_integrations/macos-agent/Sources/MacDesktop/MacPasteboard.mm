@@ -9,11 +9,10 @@
 namespace quillseal::mac {
 namespace {
 
-/// How the system answers when this program reads the pasteboard, NSPasteboardAccessBehavior of
-/// macOS 15.4: as the system likes (0), by asking the user (1), always yes (2), always no (3).
+/// Whether this program may read the pasteboard: NSPasteboardAccessBehavior of macOS 15.4.
 enum AccessBehavior : NSInteger { systemDefault = 0, asks = 1, allows = 2, denies = 3 };
 
-/// Asked for by name, so that the program also builds with headers of an earlier macOS.
+/// Looked up by name, so that the program also builds with an earlier SDK.
 std::optional<NSInteger> accessBehavior() {
   NSString* const property = @"accessBehavior";
   NSPasteboard* pasteboard = NSPasteboard.generalPasteboard;
@@ -34,7 +33,7 @@ std::int64_t MacPasteboard::changeCount() const {
   return callSystem([] { return std::int64_t{NSPasteboard.generalPasteboard.changeCount}; });
 }
 
-// macOS tells nobody when the pasteboard changes.
+// macOS does not report changes of the pasteboard.
 desktop::Ticket MacPasteboard::onNextChange(std::function<void()> /*changed*/) { return {}; }
 
 std::string MacPasteboard::readingObstacle() const {
@@ -50,7 +49,7 @@ std::string MacPasteboard::readingObstacle() const {
 
 bool MacPasteboard::isConcealed() const {
   return callSystem([] {
-    // The mark that password managers agreed on: http://nspasteboard.org
+    // The convention of password managers: http://nspasteboard.org
     NSArray<NSPasteboardType>* types = NSPasteboard.generalPasteboard.types;
     return static_cast<bool>([types containsObject:@"org.nspasteboard.ConcealedType"]);
   });
@@ -77,7 +76,7 @@ desktop::Ticket MacPasteboard::fetchRtf(std::function<void(std::optional<std::st
 
 void MacPasteboard::write(const desktop::PasteboardContent& content) {
   const bool isWritten = callSystem([&] {
-    // One item with both flavours: no reader can see the first without the second.
+    // One item with both types, so that no reader sees one without the other.
     NSPasteboardItem* item = [[NSPasteboardItem alloc] init];
     const bool isPrepared = [item setString:nsString(content.plainText)
                                     forType:NSPasteboardTypeString] &&

@@ -5,7 +5,7 @@
 
 namespace quillseal::mac {
 
-/// The LocalAuthentication framework, with a fresh context for every question.
+/// Checks presence with LocalAuthentication, with a new context for every request.
 class MacPresence final : public desktop::Presence {
  public:
   explicit MacPresence(const MacMainLoop& loop) : poster_(loop.poster()) {}

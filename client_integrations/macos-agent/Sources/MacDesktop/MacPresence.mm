@@ -34,7 +34,7 @@ desktop::PresenceCapability MacPresence::canEvaluate(desktop::PresencePolicy pol
 desktop::Biometry MacPresence::biometry() const {
   return callSystem([] {
     LAContext* context = [[LAContext alloc] init];
-    // The context knows the type only after this call, whatever the call's result.
+    // The context knows the biometry type only after this call, even if the call fails.
     [context canEvaluatePolicy:LAPolicyDeviceOwnerAuthenticationWithBiometrics error:nil];
     const LABiometryType type = context.biometryType;
     if (type == LABiometryTypeNone) return desktop::Biometry::none;
@@ -50,7 +50,8 @@ desktop::Ticket MacPresence::evaluate(desktop::PresencePolicy policy, const desk
   return callSystem([&] {
     LAContext* context = [[LAContext alloc] init];
     if (policy == desktop::PresencePolicy::biometrics) {
-      context.localizedFallbackTitle = @"";  // no password button, which could only fail here
+      context.localizedFallbackTitle =
+          @"";  // hides the password button, which could only fail here
     }
     const MacMainLoop::Poster poster = poster_;
     const auto answered = completion;
@@ -61,7 +62,7 @@ desktop::Ticket MacPresence::evaluate(desktop::PresencePolicy policy, const desk
                         if (!success && error != nil) outcome = errorFrom(error);
                         poster.post([answered, outcome] { answered(outcome); });
                       }];
-    // The ticket keeps the context: one that is released takes its prompt away.
+    // The ticket keeps the context alive: releasing it closes the prompt.
     return completion.ticket([context] { [context invalidate]; });
   });
 }

@@ -7,7 +7,7 @@
 
 namespace quillseal::mac {
 
-/// NSApplication, as far as the agent has a say in it.
+/// The agent's control over NSApplication.
 class MacProgram final : public desktop::Program {
  public:
   /// `loop` outlives this object.
@@ -23,7 +23,7 @@ class MacProgram final : public desktop::Program {
   desktop::MainLoop& loop_;
 };
 
-/// Posted when a window of this program has gone without being closed, as alerts do.
+/// Posted when a window of this program has disappeared without a close notification, as alerts do.
 extern NSNotificationName const windowDidGo;
 
 /// Brings this program to the front, over another active application. Main thread.

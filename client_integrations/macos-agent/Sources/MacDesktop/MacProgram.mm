@@ -10,8 +10,8 @@ namespace quillseal::mac {
 NSNotificationName const windowDidGo = @"QSWindowDidGo";
 
 void activateProgram() {
-  // Not -activate of macOS 14: the system may silently decline that while another application is
-  // active, and for a program of the menu bar another one nearly always is.
+  // Not -activate of macOS 14: the system may silently decline it while another application is
+  // active, which is nearly always so for a menu bar program.
   [NSApp activateIgnoringOtherApps:YES];
 }
 
@@ -31,7 +31,7 @@ void MacProgram::terminate() {
 
 desktop::Ticket MacProgram::beginActivity(const std::string& reason) {
   return callSystem([&] {
-    // The Mac may fall asleep over a run that waits for its user; only App Nap is kept off.
+    // Only App Nap is prevented; the Mac may sleep while a run waits for the user.
     id<NSObject> activity = [NSProcessInfo.processInfo
         beginActivityWithOptions:NSActivityUserInitiatedAllowingIdleSystemSleep
                           reason:nsString(reason)];

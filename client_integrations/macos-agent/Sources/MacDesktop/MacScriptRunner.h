@@ -5,8 +5,8 @@
 
 namespace quillseal::mac {
 
-/// AppleScript on the main thread, the only one on which Foundation allows it. An application that
-/// does not answer holds it up for `longestWait` at most, then the script fails.
+/// Runs AppleScript on the main thread, as Foundation requires. An application that does not answer
+/// blocks it for at most `longestWait`; then the script fails.
 class MacScriptRunner final : public desktop::ScriptRunner {
  public:
   static constexpr int longestWait = 5;  ///< for each answer of an application, in seconds

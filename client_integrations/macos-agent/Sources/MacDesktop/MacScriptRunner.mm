@@ -11,7 +11,8 @@ namespace {
 
 using Result = Outcome<std::optional<std::string>>;
 
-/// `source` with a limit to each wait for an application; AppleScript's own is two minutes.
+/// Returns `source` with a time limit for each answer of an application; AppleScript's default is
+/// two minutes.
 NSString* bounded(const std::string& source) {
   return [NSString stringWithFormat:@"with timeout of %d seconds\n%@\nend timeout",
                                     MacScriptRunner::longestWait, nsString(source)];

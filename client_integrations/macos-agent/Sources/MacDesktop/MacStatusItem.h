@@ -19,14 +19,14 @@ class MacStatusItem final : public desktop::StatusItem {
   void show(const desktop::StatusMenu& menu) override;
   void setItemTitle(std::size_t index, const std::string& title) override;
 
-  /// The menu that opens from the item; nil before there is one.
+  /// The item's menu; nil before there is one.
   [[nodiscard]] NSMenu* menu() const;
 
  private:
   void render(const desktop::StatusMenu& menu);
 
   NSStatusItem* item_;    ///< made when there is something to show
-  QSMenuTarget* target_;  ///< menu items do not keep theirs
+  QSMenuTarget* target_;  ///< menu items do not own their target
 };
 
 }  // namespace quillseal::mac

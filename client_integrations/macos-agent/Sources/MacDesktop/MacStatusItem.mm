@@ -8,7 +8,7 @@
 #include "MacDesktop/MacError.h"
 #include "MacDesktop/MacText.h"
 
-/// Runs the action whose index is the chosen item's tag.
+/// Runs the action with the index in the chosen item's tag.
 @interface QSMenuTarget : NSObject
 - (instancetype)initWithActions:(std::vector<std::function<void()>>)actions;
 @end
@@ -26,12 +26,12 @@
 - (void)choose:(NSMenuItem*)item {
   const auto index = static_cast<std::size_t>(item.tag);
   quillseal::mac::callGuarded([self, index] {
-    const auto action = self->_actions.at(index);  // a copy: it may replace the menu
+    const auto action = self->_actions.at(index);  // a copy: the action may replace the menu
     action();
   });
 }
 
-/// The menu stays usable while one of our alerts is open.
+/// Keeps the menu usable while an alert of the agent is open.
 - (BOOL)worksWhenModal {
   return YES;
 }
@@ -42,7 +42,7 @@ namespace quillseal::mac {
 namespace {
 
 NSEventModifierFlags flagsFrom(desktop::Modifiers modifiers) {
-  // Event flags of AppKit and Core Graphics, and with them our values, are the same bits.
+  // The agent's values have the same bits as the event flags of AppKit and Core Graphics.
   static_assert(static_cast<NSUInteger>(desktop::Modifiers::control) == NSEventModifierFlagControl);
   static_assert(static_cast<NSUInteger>(desktop::Modifiers::option) == NSEventModifierFlagOption);
   static_assert(static_cast<NSUInteger>(desktop::Modifiers::command) == NSEventModifierFlagCommand);
@@ -99,7 +99,7 @@ void MacStatusItem::render(const desktop::StatusMenu& menu) {
   }
   target_ = [[QSMenuTarget alloc] initWithActions:std::move(actions)];
   NSMenu* shown = [[NSMenu alloc] init];
-  shown.autoenablesItems = NO;  // the descriptions say what is enabled
+  shown.autoenablesItems = NO;  // the menu's description decides what is enabled
   NSInteger tag = 0;
   for (const desktop::MenuItem& item : menu.items) {
     [shown addItem:menuItem(item, target_, tag)];

@@ -8,16 +8,17 @@
 
 namespace quillseal::mac {
 
-/// `text` as Foundation has it; ill-formed bytes become U+FFFD.
+/// Converts UTF-8 to NSString; ill-formed bytes become U+FFFD.
 [[nodiscard]] NSString* _Nonnull nsString(std::string_view text);
 
-/// `text` in UTF-8; unpaired surrogates become a replacement character, nil the empty string.
+/// Converts to UTF-8; unpaired surrogates become a replacement character, nil becomes the empty
+/// string.
 [[nodiscard]] std::string utf8(NSString* _Nullable text);
 
-/// The same, with nil as nothing.
+/// The same, but nothing for nil.
 [[nodiscard]] std::optional<std::string> optionalUtf8(NSString* _Nullable text);
 
-/// `text` as a URL, or nil when it is none. Nothing is escaped to make it one.
+/// Parses a URL without escaping anything; nil when `text` is not a URL.
 [[nodiscard]] NSURL* _Nullable urlFrom(std::string_view text);
 
 }  // namespace quillseal::mac

@@ -18,7 +18,7 @@ NSString* nsString(std::string_view text) {
 
 std::string utf8(NSString* text) {
   if (text == nil) return {};
-  // UTF8String would end at a NUL and fail on an unpaired surrogate.
+  // Not UTF8String, which ends at a NUL and fails on an unpaired surrogate.
   NSData* data = [text dataUsingEncoding:NSUTF8StringEncoding allowLossyConversion:YES];
   return {static_cast<const char*>(data.bytes), data.length};
 }

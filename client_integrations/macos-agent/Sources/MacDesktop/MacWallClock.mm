@@ -8,7 +8,7 @@
 namespace quillseal::mac {
 namespace {
 
-/// The process remembers the zone that it started in; a traveller's Mac changes it.
+/// The process caches the zone from its start, but a traveller's Mac changes it.
 NSTimeZone* currentTimeZone() {
   [NSTimeZone resetSystemTimeZone];
   return NSTimeZone.localTimeZone;

@@ -4,7 +4,7 @@
 
 namespace quillseal::mac {
 
-/// Windows of AppKit. Forms are laid out in boxes of native controls.
+/// Shows forms in AppKit windows, with native controls in boxes.
 class MacWindows final : public desktop::Windows {
  public:
   [[nodiscard]] std::unique_ptr<desktop::Window> make(

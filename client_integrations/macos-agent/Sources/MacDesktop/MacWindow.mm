@@ -12,8 +12,8 @@
 #include "MacDesktop/MacProgram.h"
 #include "MacDesktop/MacText.h"
 
-/// Hears of what the user does with the control of one row. The functions are copied before they
-/// are called: they may render the form again and with it replace this row.
+/// Receives the actions of one row's control. Functions are copied before they are called: they may
+/// render the form again, which replaces this row.
 @interface QSRowActions : NSObject <NSTextFieldDelegate>
 - (void)setChanged:(std::function<void(const std::string&)>)changed;
 - (void)setPressed:(std::function<void()>)pressed;
@@ -63,7 +63,7 @@ using FormRow = decltype(FormSection::rows)::value_type;
 constexpr CGFloat padding = 20;
 constexpr CGFloat sectionSpacing = 20;
 constexpr CGFloat rowSpacing = 8;
-constexpr CGFloat symbolWidth = 28;  ///< with the space beside it
+constexpr CGFloat symbolWidth = 28;  ///< including the space beside it
 
 NSColor* colourFrom(desktop::TextColour colour) {
   switch (colour) {
@@ -101,7 +101,7 @@ NSStackView* stack(NSUserInterfaceLayoutOrientation orientation, CGFloat spacing
 }
 
 void show(NSTextField* label, const FormText& text) {
-  // Only what changed is assigned: the user may be about to copy from it.
+  // Only changed text is assigned: the user may be selecting it to copy.
   NSString* string = nsString(text.text);
   if (![label.stringValue isEqualToString:string]) label.stringValue = string;
   NSFont* font = fontFrom(text.font);
@@ -117,8 +117,8 @@ NSTextField* wrappingLabel(CGFloat width) {
   return label;
 }
 
-/// The controls of one row. Each kind of row has a class, which can take over another description
-/// of its kind without losing what the user is about to do with the control.
+/// The controls of one row. Each kind of row has a class, which can update to a new description of
+/// its kind without disturbing the user's input.
 class Row {
  public:
   Row() = default;
@@ -126,12 +126,12 @@ class Row {
   Row& operator=(const Row&) = delete;
   virtual ~Row() = default;
 
-  /// Shows `description` instead. False, and nothing changes, when it is of another kind.
+  /// Shows `description` instead. Returns false and changes nothing when it is of another kind.
   [[nodiscard]] virtual bool update(const FormRow& description) = 0;
 
   [[nodiscard]] virtual NSView* view() const = 0;
 
-  /// What the user types in; nil in a row without such a control.
+  /// The input control; nil in a row without one.
   [[nodiscard]] virtual NSView* field() const { return nil; }
 };
 
@@ -207,7 +207,7 @@ class FieldRow final : public Row {
     label_.stringValue = nsString(field->label);
     field_.accessibilityLabel = label_.stringValue;
     [actions_ setChanged:field->changed];
-    // Setting the text moves the caret, so only when it is another text than the user sees.
+    // Setting the text moves the caret, so it is set only when it differs.
     NSText* editor = field_.currentEditor;
     if (utf8(editor != nil ? editor.string : field_.stringValue) != field->value) {
       field_.stringValue = nsString(field->value);
@@ -223,7 +223,7 @@ class FieldRow final : public Row {
   NSStackView* view_;
   NSTextField* label_;
   NSTextField* field_;
-  QSRowActions* actions_;  ///< delegates are not kept by their controls
+  QSRowActions* actions_;  ///< controls do not own their delegates
   bool masked_;
 };
 
@@ -245,7 +245,7 @@ class ButtonRow final : public Row {
   NSView* view() const override { return button_; }
 
  private:
-  QSRowActions* actions_;  ///< targets are not kept by their controls
+  QSRowActions* actions_;  ///< controls do not own their targets
   NSButton* button_;
 };
 
@@ -260,7 +260,7 @@ std::unique_ptr<Row> makeRow(const FormRow& description, CGFloat width) {
   } else {
     row = std::make_unique<ButtonRow>();
   }
-  static_cast<void>(row->update(description));  // of its kind, so it takes it
+  static_cast<void>(row->update(description));  // cannot fail: it is of this kind
   return row;
 }
 
@@ -298,7 +298,7 @@ class Section {
 
   [[nodiscard]] NSView* view() const { return view_; }
 
-  /// The first one of its rows; nil when there is none.
+  /// The first input control of its rows; nil when there is none.
   [[nodiscard]] NSView* field() const {
     for (const std::unique_ptr<Row>& row : rows_) {
       if (NSView* field = row->field()) return field;
@@ -367,13 +367,13 @@ class MacWindow final : public desktop::Window {
   void open() {
     [window_ makeKeyAndOrderFront:nil];
     if (!std::exchange(wasOpened_, true)) [window_ makeFirstResponder:firstField()];
-    // In case the system does not let this program become active: at least where it is seen.
+    // If the system refuses to activate this program, the window is at least visible.
     [window_ orderFrontRegardless];
     activateProgram();
   }
 
-  /// Where the keyboard is at first. Left to itself, AppKit also takes a text that can only be
-  /// selected.
+  /// The control that has the focus first. By default AppKit would also choose a text that can only
+  /// be selected.
   [[nodiscard]] NSView* firstField() const {
     for (const std::unique_ptr<Section>& section : sections_) {
       if (NSView* field = section->field()) return field;

@@ -5,7 +5,7 @@
 namespace quillseal::mac {
 namespace {
 
-/// As menus show it.
+/// Returns the key press as menus show it.
 std::string nameOf(desktop::KeyPress press) {
   using desktop::Modifiers;
   std::string name;

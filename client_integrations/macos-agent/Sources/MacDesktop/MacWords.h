@@ -4,7 +4,7 @@
 
 namespace quillseal::mac {
 
-/// The words of macOS. Portable, so that tests of the agent read them on every platform.
+/// The wording for macOS. Portable, so that the agent's tests can use it on every platform.
 class MacWords final : public desktop::Words {
  public:
   [[nodiscard]] desktop::Wording current() const override;

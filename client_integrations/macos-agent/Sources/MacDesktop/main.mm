@@ -27,7 +27,7 @@
 #include "Quillseal/BrowserTabReturn.h"
 #include "Quillseal/Settings.h"
 
-/// Hands the application's life over to `QuillsealApp`.
+/// Forwards the application's launch and end to `QuillsealApp`.
 @interface QSApplicationDelegate : NSObject <NSApplicationDelegate>
 - (void)showSettings:(id)sender;
 @end
@@ -35,7 +35,7 @@
 namespace quillseal::mac {
 namespace {
 
-/// The application: the services of this desktop and, between launch and end, the agent on them.
+/// The application: the services of this desktop and, between launch and end, the agent.
 class QuillsealApp {
  public:
   void launch() {
@@ -47,7 +47,7 @@ class QuillsealApp {
     if (agent_) agent_->menuBarManager().configureServer();
   }
 
-  /// Cancels what is under way. The services stay for workers that have not ended.
+  /// Cancels running operations. The services stay alive for workers that still run.
   void end() { agent_.reset(); }
 
  private:
@@ -109,8 +109,8 @@ NSMenuItem* command(NSString* title, SEL action, NSString* key) {
   return [[NSMenuItem alloc] initWithTitle:title action:action keyEquivalent:key];
 }
 
-/// An accessory shows no menu bar, but the shortcuts of its text fields and windows are those of
-/// its main menu.
+/// An accessory application shows no menu bar, but the shortcuts of its text fields and windows
+/// come from its main menu.
 NSMenu* mainMenu() {
   NSMenu* menu = [[NSMenu alloc] init];
   menu.itemArray = @[
@@ -179,7 +179,7 @@ NSMenu* mainMenu() {
 int main() {
   @autoreleasepool {
     NSApplication* application = NSApplication.sharedApplication;
-    // The application does not keep its delegate.
+    // The application does not own its delegate.
     NS_VALID_UNTIL_END_OF_SCOPE QSApplicationDelegate* delegate =
         [[QSApplicationDelegate alloc] init];
     application.delegate = delegate;

@@ -6,7 +6,8 @@
 
 namespace quillseal::screening {
 
-/// What a screening searches for: the pattern of every rule, in table order, and the reporting cue.
+/// Returns the patterns that a screening searches for: one for each rule, in table order, and the
+/// reporting cue.
 [[nodiscard]] std::vector<Pattern> rulePatterns();
 
 }  // namespace quillseal::screening

@@ -17,7 +17,7 @@
 
 namespace {
 
-/// Bytes as a string literal: compilers read those many times faster than lists of numbers.
+/// Writes bytes as a string literal, which compilers read many times faster than a list of numbers.
 void writeLiteral(std::ostream& out, std::span<const std::byte> bytes) {
   constexpr std::size_t bytesOfLine = 32;
   for (std::size_t start = 0; start < bytes.size(); start += bytesOfLine) {
@@ -101,8 +101,8 @@ void compile(const std::string& commonWords, const std::string& rulesPath,
 
 }  // namespace
 
-/// Writes two C++ sources: the tables of all rules, and the tables by which text in disguise is
-/// read. Its own input is a list of common words.
+/// Writes two C++ sources: the tables of all rules, and the tables for reading disguised text. The
+/// input is a list of common words.
 int main(int argc, char** argv) {
   if (argc != 4) {
     std::cerr << "usage: quillseal-compile-rules WORDS RULES READINGS\n";

@@ -17,7 +17,8 @@
 namespace quillseal::inspect {
 namespace {
 
-/// `text` with what could steer a terminal or forge a line of the report made visible.
+/// Returns `text` with visible marks for everything that could control a terminal or forge a line
+/// of the report.
 std::string printable(std::string_view text) {
   constexpr std::uint32_t unprintable = U_GC_CC_MASK | U_GC_CF_MASK | U_GC_ZL_MASK | U_GC_ZP_MASK;
   std::string result;
@@ -42,7 +43,7 @@ std::string line(std::string_view label, std::string_view value) {
   return text.append(value).append("\n");
 }
 
-/// The columns that a terminal gives to `text`.
+/// Returns the width of `text` in a terminal, in columns.
 std::size_t columnsOf(std::string_view text) {
   std::size_t columns = 0;
   for (std::size_t position = 0; position < text.size();) {
@@ -54,7 +55,7 @@ std::size_t columnsOf(std::string_view text) {
   return columns;
 }
 
-/// The last `count` scalars of `text`, with a mark where more came before them.
+/// Returns the last `count` scalars of `text`, with a mark in front if there were more.
 std::string tailOf(std::string_view text, std::size_t count) {
   std::size_t start = text.size();
   for (; count > 0 && start > 0; --count)
@@ -69,7 +70,7 @@ std::string headOf(std::string_view text, std::size_t count) {
   return printable(text.substr(0, end)) + (end < text.size() ? "…" : "");
 }
 
-/// The words from `start` to `end` within what surrounds them, and a line that underlines them.
+/// Returns the text from `start` to `end` with its context, and a line that underlines it.
 std::string underlined(std::string_view text, std::size_t start, std::size_t end) {
   if (start == end) return line("", "(by what stands anywhere in the text)");
   const std::string before = tailOf(text.substr(0, start), 24);

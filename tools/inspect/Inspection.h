@@ -10,16 +10,16 @@
 
 namespace quillseal::inspect {
 
-/// What the agent would capture and when.
+/// A captured text, its scope and its date.
 struct Capture {
   std::string_view text;
   std::optional<std::string_view> html;
   std::string_view issued;  ///< "yyyy-MM-dd"
 };
 
-/// Everything that a signature of a capture would bind or be decided by.
+/// Everything that signing a capture would bind or depend on.
 struct Inspection {
-  std::string text;  ///< as the agent screens and digests it: without white space at its ends
+  std::string text;  ///< as screened and digested: without white space at its ends
   std::int64_t words = 0;
   std::string normalized;
   std::size_t normalizedCharacters = 0;
@@ -28,7 +28,7 @@ struct Inspection {
   std::string signingRefusal;  ///< empty when length and content allow signing
   std::vector<std::string> imageURLs;
   std::string imageDigest;
-  std::string expires;  ///< empty when the issue date is no date
+  std::string expires;  ///< empty when the issue date is not a date
   std::string promptSubject;
   ContentRisk::Screening screening;
 };
@@ -36,19 +36,18 @@ struct Inspection {
 /// Computes what would be signed. `capture` must be well-formed UTF-8.
 [[nodiscard]] Inspection inspect(const Capture& capture);
 
-/// The inspection as text for a person to read, with a line feed at its end.
+/// Returns the inspection as readable text that ends in a line feed.
 [[nodiscard]] std::string readableReport(const Inspection& inspection);
 
-/// Why a rule does or does not find a text.
+/// The question why a rule does or does not match a text.
 struct RuleQuestion {
   std::optional<std::string_view> rule{};     ///< its id
-  std::optional<std::string_view> pattern{};  ///< to be tried in the place of the rule's own
+  std::optional<std::string_view> pattern{};  ///< tried in place of the rule's own
   std::string_view text;                      ///< well-formed UTF-8
 };
 
-/// Where the pattern matches, or how far the nearest alternatives came, in the text as it is
-/// written and, where that differs, as it is read. Throws PatternTrialError, also for an unknown
-/// rule.
+/// Reports where the pattern matches, or how far the nearest alternatives came, in the text as
+/// written and, where that differs, as read. Throws PatternTrialError, also for an unknown rule.
 [[nodiscard]] std::string ruleReport(const RuleQuestion& question);
 
 }  // namespace quillseal::inspect

@@ -22,14 +22,14 @@ namespace quillseal::inspect {
 namespace {
 
 using Json = nlohmann::ordered_json;
-/// Requests are looked up by key; an ordered object searches all its keys for each one it reads.
+/// Not ordered_json, whose lookups by key are linear.
 using RequestJson = nlohmann::json;
 
 struct RequestError : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// A request's keys, read with their types checked.
+/// A request. Reads its keys and checks their types.
 class Request {
  public:
   explicit Request(const RequestJson& object) : object_(object) {
@@ -191,7 +191,7 @@ constexpr std::array operations{
     Operation{"scope", scopeOperation},     Operation{"tab_script", tabScriptOperation},
 };
 
-/// The four hexadecimal digits behind "\u" at `at`, or nothing.
+/// Returns the value of the "\uXXXX" escape at `at`, or nothing.
 std::optional<unsigned> unicodeEscapeAt(std::string_view json, std::size_t at) {
   if (json.substr(at, 2) != "\\u" || json.size() < at + 6) return std::nullopt;
   unsigned value = 0;
@@ -203,8 +203,8 @@ std::optional<unsigned> unicodeEscapeAt(std::string_view json, std::size_t at) {
   return value;
 }
 
-/// JSON texts of other programs may hold half of a surrogate pair; the parser would refuse the
-/// whole line for it.
+/// JSON from other programs may hold an unpaired surrogate, for which the parser would refuse the
+/// whole line.
 std::string withoutLoneSurrogates(std::string_view json) {
   const auto isLeading = [](unsigned unit) { return unit >= 0xD800 && unit <= 0xDBFF; };
   const auto isTrailing = [](unsigned unit) { return unit >= 0xDC00 && unit <= 0xDFFF; };
@@ -256,7 +256,7 @@ Json toJson(const ContentRisk::Assessment& assessment) {
           {"findings", findings}};
 }
 
-/// An assessment, and the texts that the user would see.
+/// Returns an assessment as JSON, with the texts that the user would see.
 Json verdict(const ContentRisk::Assessment& assessment) {
   const auto textIf = [&](bool applies, std::string (*text)(const ContentRisk::Assessment&)) {
     return applies ? Json(text(assessment)) : Json(nullptr);

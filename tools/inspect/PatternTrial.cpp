@@ -1,8 +1,8 @@
-// Algorithm: a pattern is cut where one of its beginnings could end: between alternatives, and in
-// each between elements (a letter, a set, a group, an assertion, each with its quantifier). Whether
-// a beginning occurs in the text is asked of the engine. A longer one cannot occur where a shorter
-// one does not, so the longest is found by bisection; if a group comes next, the same is asked of
-// each alternative in it.
+// Algorithm: a pattern is split into alternatives, and each alternative into elements (a letter, a
+// set, a group, an assertion, each with its quantifier). The prefixes of an alternative end between
+// elements. The engine finds out whether a prefix occurs in the text. A longer prefix cannot occur
+// where a shorter one does not, so bisection finds the longest that does. If the next element is a
+// group, the same is done for each alternative in it.
 
 #include "PatternTrial.h"
 
@@ -20,7 +20,7 @@ namespace {
 
 constexpr std::string_view shorthandCharacters = "0123456789abcdefghijklmnopqrstuvwxyz";
 
-/// The length of the code point, escape, set, group or shorthand that `pattern` begins with.
+/// Returns the length of the code point, escape, set, group or shorthand at the start of `pattern`.
 std::size_t lengthOfAtom(std::string_view pattern) {
   const auto through = [&](char last, std::size_t from) {
     const std::size_t found = pattern.find(last, from);
@@ -80,7 +80,7 @@ std::size_t lengthOfQuantifier(std::string_view pattern) {
   return std::min(length, pattern.size());
 }
 
-/// The elements of each alternative.
+/// Splits a pattern into the elements of each alternative.
 std::vector<std::vector<std::string_view>> alternativesOf(std::string_view pattern) {
   std::vector<std::vector<std::string_view>> alternatives(1);
   while (!pattern.empty()) {
@@ -102,7 +102,7 @@ struct Group {
   std::string_view body;
 };
 
-/// A group that has to be satisfied, other than what must not match.
+/// Parses a group that must match; nothing for a negative assertion.
 std::optional<Group> asGroup(std::string_view element) {
   if (!element.starts_with('(')) return std::nullopt;
   const std::size_t end = lengthOfAtom(element);
@@ -117,20 +117,20 @@ std::optional<Group> asGroup(std::string_view element) {
                .body = element.substr(opening.size(), end - opening.size() - 1)};
 }
 
-/// Where a beginning of a pattern occurs, if it does.
+/// The first occurrence of a prefix of a pattern, if there is one.
 using Occurrence = std::optional<screening::PatternMatch>;
 
 /// An alternative of the pattern or of a group in it.
 struct Branch {
   std::size_t number = 0;  ///< of the alternative of the pattern
-  std::string before{};    ///< the part of the pattern that leads here
-  std::string closing{};   ///< what closes the groups of `before`
+  std::string before{};    ///< the part of the pattern before it
+  std::string closing{};   ///< closes the groups of `before`
   double shareBefore = 0;  ///< of that alternative
-  double weight = 1;       ///< the share of all elements of this branch
+  double weight = 1;       ///< share of one element of this branch
   std::vector<std::string_view> elements{};
-  std::size_t satisfied = 0;  ///< this many elements, at least
-  std::size_t possible = 0;   ///< and at most
-  std::size_t start = 0;      ///< where these first occur
+  std::size_t satisfied = 0;  ///< at least this many elements occur
+  std::size_t possible = 0;   ///< and at most this many
+  std::size_t start = 0;      ///< their first occurrence
   std::size_t end = 0;
 
   [[nodiscard]] std::size_t middle() const { return (satisfied + possible + 1) / 2; }
@@ -161,7 +161,8 @@ class Trial {
   Trial(std::string_view text, bool caseInsensitive)
       : text_(text), caseInsensitive_(caseInsensitive) {}
 
-  /// The first match of each; none of one that does not compile. `problem` receives why.
+  /// Returns the first match of each pattern, none for one that does not compile; `problem`
+  /// receives the reason.
   [[nodiscard]] std::vector<Occurrence> matches(std::span<const std::string> written,
                                                 std::string& problem) const {
     std::vector<std::string> expressions;
@@ -179,7 +180,7 @@ class Trial {
     return result;
   }
 
-  /// The branch of each alternative that comes furthest.
+  /// Returns for each alternative the branch of which most is satisfied.
   [[nodiscard]] std::vector<Branch> furthest(std::string_view pattern) const {
     std::vector<Branch> best;
     for (auto& elements : alternativesOf(pattern))
@@ -207,8 +208,8 @@ class Trial {
   }
 
  private:
-  /// Finds how many elements of each branch are satisfied. Many beginnings are searched for at
-  /// once, since most of the time goes into preparing a search.
+  /// Finds how many elements of each branch are satisfied. Searches for many prefixes at once,
+  /// since preparing a search takes most of the time.
   void bisect(std::vector<Branch>& branches) const {
     constexpr std::size_t most = 64;
     for (Branch& branch : branches)
@@ -251,7 +252,7 @@ PatternTrial tryUnchecked(const TriedPattern& pattern, std::string_view text) {
   for (const Branch& branch : trial.furthest(pattern.written)) {
     ++result.alternatives;
     const Approach approach = branch.approach();
-    // Of several alternatives at one place, the first in the pattern matches.
+    // Of several alternatives at the same place, the first in the pattern matches.
     if (match ? approach.missing.empty() && approach.start == match->start &&
                     result.approaches.empty()
               : approach.start != approach.end)

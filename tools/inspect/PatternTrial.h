@@ -5,41 +5,41 @@
 #include <string_view>
 #include <vector>
 
-/// Why a pattern does not find a text: how much of it the text satisfies, and where.
+/// Explains why a pattern does not match a text: how much of it the text satisfies, and where.
 namespace quillseal::inspect {
 
-/// A pattern that cannot be tried: malformed, or beyond the engine. The words say why.
+/// A pattern that cannot be tried because it is malformed or not supported by the engine. The
+/// message says why.
 class PatternTrialError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
-/// A pattern as it stands in the table of rules: ICU's syntax with the table's shorthands.
+/// A pattern as in the table of rules: ICU's syntax with the table's shorthands.
 struct TriedPattern {
   std::string_view written;
   bool caseInsensitive = true;
 };
 
-/// The longest beginning of one alternative that occurs in the text.
+/// The longest prefix of one alternative that occurs in the text.
 struct Approach {
   std::string satisfied{};  ///< this part of the pattern, as written
-  std::string missing{};    ///< the part that would have to come next; empty when all is satisfied
-  std::size_t start = 0;    ///< where the satisfied part first occurs, in bytes of the text
-  std::size_t end = 0;      ///< behind it
+  std::string missing{};    ///< the next part, which is missing; empty when all is satisfied
+  std::size_t start = 0;    ///< first occurrence of the satisfied part: start, in bytes of the text
+  std::size_t end = 0;      ///< its end
   std::size_t number = 0;   ///< of the alternative, from 1
-  double share = 0;         ///< how much of the alternative is satisfied, from 0 to 1
+  double share = 0;         ///< satisfied share of the alternative, 0 to 1
 };
 
 struct PatternTrial {
   std::size_t alternatives = 0;
   bool isMatch = false;
-  /// The match, with its alternative; or at most three alternatives of which a part was found, the
-  /// nearest first.
+  /// The match, with its alternative; or at most three partly satisfied alternatives, the nearest
+  /// first.
   std::vector<Approach> approaches{};
 };
 
-/// Tries the pattern on a text of well-formed UTF-8 by the engine that screens texts. Throws
-/// PatternTrialError.
+/// Tries the pattern on well-formed UTF-8 with the screening engine. Throws PatternTrialError.
 [[nodiscard]] PatternTrial tryPattern(const TriedPattern& pattern, std::string_view text);
 
 }  // namespace quillseal::inspect

@@ -40,7 +40,7 @@ std::string lastError() {
   return std::generic_category().message(errno);
 }
 
-/// All of a file, or of standard input for "-", as well-formed UTF-8.
+/// Reads a file, or standard input for "-", as well-formed UTF-8.
 std::string contentsOf(const std::string& path) {
   quillseal::UniqueHandle<std::FILE, std::fclose> opened;
   std::FILE* file = stdin;
@@ -80,7 +80,7 @@ constexpr const char* footer =
     R"(Exit status: 0, or 1 when a file cannot be read or the output not written, or 2 for a wrong use.
 Example: printf '%s' "I met Ada on 3 May." | quillseal-inspect)";
 
-/// The options, or the status to exit with.
+/// Parses the options. Returns the exit status if the program should end.
 std::optional<int> read(Options& options, int argc, char** argv) {
   CLI::App app(description, "quillseal-inspect");
   app.footer(footer);

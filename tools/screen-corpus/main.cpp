@@ -63,7 +63,7 @@ Verdict verdictOf(const ContentRisk::Assessment& assessment) {
   return assessment.shouldWarn ? Verdict::warned : Verdict::clean;
 }
 
-/// The verdict that `assessment` would be without one of its findings.
+/// Returns the verdict without one of the findings.
 Verdict verdictWithout(const ContentRisk::Assessment& assessment,
                        const ContentRisk::Finding& left) {
   const std::int64_t score = assessment.score - left.points;
@@ -85,12 +85,12 @@ struct Count {
 
 struct RuleCount {
   std::int64_t hits = 0;
-  std::int64_t alone = 0;  ///< messages that would be signed silently but for this rule
+  std::int64_t alone = 0;  ///< messages that only this rule stops or warns about
 };
 
 struct Message {
   std::string id;
-  std::string group;  ///< what is counted for itself: its source or its language
+  std::string group;  ///< the group that it is counted in: source or language
   std::string label;
   std::string text;
 };
@@ -137,7 +137,8 @@ class Corpus {
   }
 
  private:
-  using Key = std::pair<std::string, std::string>;  ///< label and group; "all" sums a label
+  using Key =
+      std::pair<std::string, std::string>;  ///< label and group; "all" is the sum of a label
 
   void screen(const Message& message) {
     std::string text(unicode::trimmed(unicode::wellFormed(message.text)));
@@ -219,13 +220,13 @@ class Corpus {
   }
 
   Options options_;
-  // Every run is to be the same.
+  // Every run must give the same result.
   std::mt19937 random_{std::mt19937::default_seed};  // NOLINT(cert-msc32-c,cert-msc51-cpp)
   std::map<Key, Count> counts_;
   std::map<std::string, std::map<std::string, RuleCount>> rules_;
 };
 
-/// What is wrong with a "LABEL:VERDICT"; empty when nothing is.
+/// Returns what is wrong with a "LABEL:VERDICT"; empty when it is valid.
 std::string listingFault(const std::string& listed) {
   const std::size_t colon = listed.rfind(':');
   for (const Verdict verdict : {Verdict::refused, Verdict::warned, Verdict::clean})
@@ -234,7 +235,7 @@ std::string listingFault(const std::string& listed) {
   return "must be a label, a colon, and refused, warned or clean";
 }
 
-/// The options, or the status to exit with.
+/// Parses the options. Returns the exit status if the program should end.
 std::optional<int> read(Options& options, std::vector<std::string>& paths, int argc, char** argv) {
   CLI::App app(description, "screen-corpus");
   app.footer(footer);

@@ -20,11 +20,11 @@ Json inspected(std::string_view text, std::string_view issued = "2025-01-30") {
   return Json::parse(answer(request.dump()));
 }
 
-// Requests with their whole answers, in the order of their keys.
+// Requests and their complete answers, with the keys in order.
 TEST(Operations, AnswerEachRequest) {
   const std::string digest(64, 'a');
   const std::pair<std::string, std::string> cases[] = {
-      // The digest was computed with a shell: printf of the tag and nine digests into sha256sum.
+      // Expected digest from a shell: printf of the tag and nine digests, piped to sha256sum.
       {R"({"op":"canonical","text_digest":")" + digest +
            R"j(","issued":" 2025-01-02 ","scope":"Email Message (Apple Mail)","snapshot_digest":"","identity":"Ada","signer_key":"KEY","expires":"2025-01-09","nonce":"00ff","commitment":"Approval"})j",
        R"({"payload_digest":"ab461b39fdd6b2bcb3323e891a960b39fae4bd8c3f545b8e58c5dfe3871bc54e"})"},

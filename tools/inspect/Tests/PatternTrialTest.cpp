@@ -25,9 +25,9 @@ TEST(PatternTrial, FindsTheLongestBeginningThatOccurs) {
       {R"(\b(?:pay|send (?:one|two cars)) now)",
        "send two cards",
        {R"(1 \b(?:send (?:two car [send two car] s)"}},
-      // The nearest first, at most three of them; what nothing was found of is left out.
+      // At most three, the nearest first. Alternatives of which nothing was found are left out.
       {"abcd|axyz|zzzz|abxy|abc0", "abc", {"1 abc [abc] d", "5 abc [abc] 0", "4 ab [ab] x"}},
-      // What may be missing, or must be, is not what is missing.
+      // An optional or forbidden element is never reported as missing.
       {R"(ab(?:cd)?(?:ef){0,2}(?!gh)ij)", "abgi abi", {R"(1 ab(?:cd)?(?:ef){0,2}(?!gh)i [abi] j)"}},
       {R"(a(?=bc)b)", "abd ac", {R"(1 a(?=b [a] c)"}},
       {R"([a\]b]{2,3}?\x{e9}\u00e9\p{L}\|(x)y)",

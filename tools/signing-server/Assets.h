@@ -3,10 +3,10 @@
 #include <optional>
 #include <string_view>
 
-/// The files of assets/, compiled in.
+/// Gives access to the files of assets/, which are compiled in.
 namespace quillseal::devserver {
 
-/// The file's content; nothing when there is no such file.
+/// Returns the file's content; nothing when there is no such file.
 [[nodiscard]] std::optional<std::string_view> asset(std::string_view name);
 
 }  // namespace quillseal::devserver

@@ -17,11 +17,12 @@ namespace {
 constexpr std::size_t largestBody = std::size_t{256} * 1024;
 constexpr std::chrono::seconds patience{5};
 
-/// Each has a thread while it sends its request: a few that never finish theirs hold up nobody.
+/// Each client has its own thread while it sends its request, so a few that never finish block no
+/// others.
 constexpr std::size_t mostClients = 128;
 
-/// On every answer. Scripts and styles are files of this server; nothing is inline, framed,
-/// submitted or fetched from elsewhere.
+/// Headers of every answer. Scripts and styles come only from this server; no inline code, frames,
+/// forms or requests to other servers are allowed.
 const httplib::Headers& safetyHeaders() {
   static const httplib::Headers headers{
       {"Content-Security-Policy",
@@ -45,13 +46,14 @@ Request requestOf(const httplib::Request& received) {
           .body = received.body};
 }
 
-/// The library's own options let a second server take the same port and half of its requests.
+/// The library's default options would let a second server bind the same port and take half of the
+/// requests.
 void setSocketOptions(socket_t socket) {
   const int on = 1;
   setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
 }
 
-/// A path as it may stand in a log: short, and without what would drive a terminal.
+/// Returns a path for the log, shortened and without terminal control characters.
 std::string printable(std::string_view path) {
   constexpr std::size_t longest = 100;
   std::string text(path.substr(0, longest));
@@ -91,7 +93,7 @@ class HttpServer::Listener : public httplib::Server {
       const std::scoped_lock lock(mutex_);
       if (std::exchange(isStopped_, true)) return;
     }
-    // The library forgets a stop that comes before it says that it runs.
+    // The library ignores a stop before it reports that it runs.
     while (isServing_ && !is_running())
       std::this_thread::sleep_for(std::chrono::milliseconds(1));
     stop();

@@ -9,31 +9,30 @@
 
 namespace quillseal::devserver {
 
-/// Where to listen.
+/// The address to listen on.
 struct Address {
   std::string host;
-  int port = 0;  ///< 0: any free one
+  int port = 0;  ///< 0 for any free port
 };
 
-/// Serves a Service over HTTP.
+/// Serves a `Service` over HTTP.
 class HttpServer {
  public:
-  /// `service` outlives the server. `log`, when set, gets one line for each request, from any
-  /// thread: never a body, a query or a header.
+  /// `service` outlives the server. `log`, if set, gets one line for each request, from any thread,
+  /// never with a body, query or header.
   HttpServer(Service& service, const std::function<void(const std::string&)>& log);
   ~HttpServer();
   HttpServer(const HttpServer&) = delete;
   HttpServer& operator=(const HttpServer&) = delete;
 
-  /// Takes the address; returns its port, or nothing when it cannot be had.
+  /// Binds the address and returns its port; nothing when that fails.
   [[nodiscard]] std::optional<int> bind(const Address& address);
 
-  /// Serves until `stop`; returns at once after it. False when the socket failed. Once only.
-  /// REQUIRES: `bind` succeeded.
+  /// Serves until `stop`; returns at once if `stop` came first. False when the socket failed. Call
+  /// once. REQUIRES: `bind` succeeded.
   [[nodiscard]] bool serve();
 
-  /// Ends `serve`, from any thread and also before it begins, once the requests under way are
-  /// answered.
+  /// Ends `serve` once running requests are answered. Any thread, also before `serve`.
   void stop();
 
  private:

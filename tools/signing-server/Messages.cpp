@@ -50,7 +50,7 @@ std::string digestOrNothing(const JsonObject& body, std::string_view key) {
 }
 
 bool isDate(const std::string& text) {
-  // Only an existing day in the one format has an expiry date; white space is not forgiven here.
+  // Only an existing day in this format has an expiry date. The length check refuses white space.
   return text.size() == std::string_view("yyyy-MM-dd").size() &&
          !CryptoManager::expiryDateFor({.issued = text, .wordCount = 0}).empty();
 }
@@ -67,7 +67,7 @@ std::string shortText(const JsonObject& body, std::string_view key) {
   return value;
 }
 
-/// In upper case, so that one device has one spelling; the canonical payload ignores case too.
+/// In upper case, so that each device has one spelling; the canonical payload ignores case too.
 std::string deviceId(const JsonObject& body) {
   constexpr std::string_view key = "device_id";
   constexpr std::string_view shape = "00000000-0000-0000-0000-000000000000";

@@ -6,8 +6,8 @@
 
 #include "core/text/StrictJson.h"
 
-/// The request bodies, read strictly: each function throws JsonError with a sentence that names the
-/// key which is missing, of the wrong type or of a value that cannot be right. Pure functions.
+/// Parses request bodies strictly. Each function throws JsonError with a sentence that names the
+/// key which is missing, has the wrong type or an invalid value. Pure functions.
 namespace quillseal::devserver {
 
 struct Enrolment {
@@ -16,7 +16,7 @@ struct Enrolment {
 };
 [[nodiscard]] Enrolment readEnrolment(const JsonObject& body);
 
-/// What a signature of either kind says about the text.
+/// The statement of a signature of either kind about the text.
 struct Attestation {
   std::string textDigest;
   std::string imageDigest;
@@ -32,7 +32,7 @@ struct Attestation {
 };
 [[nodiscard]] Attestation readAttestation(const JsonObject& body);
 
-/// What only a device's signature carries.
+/// The additional fields of a device's signature.
 struct DeviceProof {
   std::string snapshotDigest;  ///< may be empty
   std::string signature;       ///< base64
@@ -48,7 +48,7 @@ struct HandoffRequest {
 };
 [[nodiscard]] HandoffRequest readHandoffRequest(const JsonObject& body);
 
-/// The key "text_digest".
+/// Reads the key "text_digest".
 [[nodiscard]] std::string readTextDigest(const JsonObject& body);
 
 }  // namespace quillseal::devserver

@@ -48,7 +48,7 @@ std::string isoDate(std::int64_t now) {
   return text.str();
 }
 
-/// "2025-01-30" as "30 January 2025". REQUIRES: an existing day.
+/// Formats "2025-01-30" as "30 January 2025". REQUIRES: an existing day.
 std::string longDate(const std::string& date) {
   const auto number = [&](std::size_t from, std::size_t count) {
     std::size_t value = 0;
@@ -68,7 +68,7 @@ std::string utcTime(std::int64_t seconds) {
   return text.str();
 }
 
-/// The signer's time zone and what it was ahead of UTC, such as "Asia/Kolkata (UTC+05:30)".
+/// Returns the signer's time zone with its offset, such as "Asia/Kolkata (UTC+05:30)".
 std::string zone(const Signature& signature) {
   const std::int64_t minutes = signature.utcOffsetMinutes;
   const std::int64_t distance = minutes < 0 ? -minutes : minutes;
@@ -90,14 +90,14 @@ std::string nameOf(SignatureKind kind) {
   return "browser";
 }
 
-/// Whether the signer's date cannot be the day of the recording anywhere on earth.
+/// Returns whether the signer's date was not the day of the recording anywhere on earth.
 bool isOffDate(const Signature& signature) {
   const auto issued = std::chrono::sys_days(parsedDate(signature.issued).value());
   const auto recorded = std::chrono::floor<std::chrono::days>(instant(signature.recordedAt));
   return std::chrono::abs(issued - recorded) > std::chrono::days(1);
 }
 
-/// What the page's script compares a paste with, as JSON.
+/// Returns the data that the page's script compares a paste with, as JSON.
 std::string recordOf(const Signature& signature, std::int64_t now) {
   const nlohmann::json record{{"id", signature.id},
                               {"kind", nameOf(signature.kind)},
@@ -119,7 +119,7 @@ std::string browserExpiry(std::string_view issued) {
 }
 
 std::string verifyPage(const Signature& signature, std::int64_t now) {
-  // Records can be changed in the database, and a file can be damaged.
+  // Somebody may have changed the record in the database, or the file may be damaged.
   const bool isSound = isConsistent(signature);
   mstch::map values;
   values["title"] = "Check a message"s;

@@ -6,21 +6,22 @@
 
 #include "Registry.h"
 
-/// The pages as HTML documents. Every value is escaped. Pure functions.
+/// Makes the pages, as HTML documents. Every value is escaped. Pure functions.
 namespace quillseal::devserver {
 
-/// The last day of a handoff signature. The server never learns how long the text is, so it grants
-/// what the shortest text gets.
+/// Returns the expiry date of a handoff signature. The server does not know the text's length, so
+/// it uses the validity of the shortest text.
 [[nodiscard]] std::string browserExpiry(std::string_view issued);
 
-/// The page on which a reader compares a message with the record. It says nothing of the message
-/// before the reader has pasted it, and compares nothing when the record was changed.
+/// Returns the page on which a reader compares a message with the record. It gives no verdict
+/// before the reader has pasted the message, and none when the record was changed.
 [[nodiscard]] std::string verifyPage(const Signature& signature, std::int64_t now);
 
-/// `secondsLeft` is what an open handoff has before it expires; zero or less when it has expired.
+/// Returns the page on which a user signs. `secondsLeft` is the time until an open handoff expires;
+/// zero or less when it has expired.
 [[nodiscard]] std::string handoffPage(const Handoff& handoff, std::int64_t secondsLeft);
 
-/// A page of one heading and one paragraph.
+/// A page with one heading and one paragraph.
 struct Notice {
   std::string title;
   std::string text;

@@ -10,7 +10,7 @@ namespace quillseal::devserver {
 namespace {
 
 constexpr int schemaVersion = 1;
-constexpr int applicationId = 0x516C5372;  // tells this server's files from others: "QlSr"
+constexpr int applicationId = 0x516C5372;  // marks this server's files: "QlSr"
 constexpr int busyTimeoutMilliseconds = 5000;
 
 constexpr const char* schema = R"sql(
@@ -67,8 +67,8 @@ void insertSignature(SQLite::Database& database, const Signature& signature) {
   insert.exec();
 }
 
-/// Whether nothing was ever written to the database. Throws RegistryError when what is there is not
-/// this server's. Only reads.
+/// Returns whether the database is empty. Throws RegistryError when it belongs to another program.
+/// Does not write.
 bool isNew(SQLite::Database& database) {
   const auto number = [&](const char* query) { return database.execAndGet(query).getInt(); };
   const int application = number("PRAGMA application_id");
@@ -81,7 +81,7 @@ bool isNew(SQLite::Database& database) {
   return false;
 }
 
-/// True when it was open.
+/// Ends a handoff. Returns whether it was open.
 bool settle(SQLite::Database& database, const std::string& handoffId, HandoffState state,
             const std::string& signatureId) {
   SQLite::Statement update(
@@ -97,10 +97,10 @@ class Registry::Database {
  public:
   explicit Database(const std::string& path)
       : connection_(path, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE, busyTimeoutMilliseconds) {
-    // Before the first change to the file, which may be anybody's.
+    // Checked before the first change, since the file may belong to another program.
     (void)isNew(connection_);
-    // The write-ahead log keeps readers going during a write; it is synced at every commit, since
-    // an answered signature must outlive a power cut.
+    // With the write-ahead log, writes do not block readers. It is synced at every commit, since an
+    // acknowledged signature must survive a power failure.
     connection_.exec("PRAGMA journal_mode = WAL");
     connection_.exec("PRAGMA synchronous = FULL");
     SQLite::Transaction transaction(connection_, SQLite::TransactionBehavior::IMMEDIATE);
@@ -112,7 +112,7 @@ class Registry::Database {
     transaction.commit();
   }
 
-  /// Runs `operation` on the connection, one at a time.
+  /// Runs `operation` on the connection, under the lock.
   template <typename Operation>
   auto use(Operation operation) {
     const std::scoped_lock lock(mutex_);

@@ -8,20 +8,20 @@
 
 namespace quillseal::devserver {
 
-/// A device whose key this server knows.
+/// A registered device.
 struct Device {
   std::string deviceId;
   std::string publicKey;  ///< the uncompressed P-256 point in base64
-  std::string identity;   ///< empty: nobody in particular
+  std::string identity;   ///< empty for none
 };
 
 enum class SignatureKind : std::uint8_t {
   device,         ///< verified with the key of a registered device
-  demonstration,  ///< recorded on the caller's word
-  browser,        ///< "Sign" was pressed on the handoff page; no key took part
+  demonstration,  ///< recorded without proof
+  browser,        ///< "Sign" was pressed on the handoff page; no key was used
 };
 
-/// What is kept of a signature for good. The text itself never reaches this server.
+/// The permanent record of a signature. The text itself never reaches this server.
 struct Signature {
   std::string id;
   SignatureKind kind = SignatureKind::device;
@@ -38,8 +38,8 @@ struct Signature {
   std::string nonce;
   std::string timezone;
   std::int64_t utcOffsetMinutes = 0;
-  std::string publicKey;        ///< of kind `device`: the key it was verified with
-  std::string deviceSignature;  ///< of kind `device`: DER in base64
+  std::string publicKey;        ///< for kind `device`: the key that verified it
+  std::string deviceSignature;  ///< for kind `device`: DER in base64
   std::int64_t recordedAt = 0;  ///< seconds since 1970
 };
 
@@ -55,39 +55,40 @@ struct Handoff {
   std::string scope;
   std::int64_t createdAt = 0;  ///< seconds since 1970
   HandoffState state = HandoffState::open;
-  std::string signatureId;  ///< of state `complete`
+  std::string signatureId;  ///< for state `complete`
 };
 
-/// The database file cannot be used; the message says why.
+/// The database file cannot be used. The message says why.
 class RegistryError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
-/// Devices, signatures and handoffs in one SQLite file. Callable from any thread. When a call that
-/// writes returns, its record survives a crash of the process and of the machine. Every operation
-/// throws RegistryError when the file fails.
+/// Devices, signatures and handoffs in one SQLite file. Any thread. When a writing call returns,
+/// its record survives a crash of the process and of the machine. Every operation throws
+/// RegistryError when the file fails.
 class Registry {
  public:
-  /// Opens `path`, creating it when it is absent; ":memory:" keeps everything in memory.
+  /// Opens `path` and creates it if needed; ":memory:" keeps everything in memory.
   explicit Registry(const std::string& path);
   ~Registry();
   Registry(const Registry&) = delete;
   Registry& operator=(const Registry&) = delete;
 
-  /// Registers the device, or gives a registered one its new key and identity.
+  /// Registers the device, or updates the key and identity of a registered one.
   void enrol(const Device& device, std::int64_t now);
   [[nodiscard]] std::optional<Device> device(const std::string& deviceId) const;
 
-  /// False, and nothing is kept, when a signature with the same nonce (not empty) exists.
+  /// Stores a signature. Returns false and stores nothing when one with the same non-empty nonce
+  /// exists.
   [[nodiscard]] bool record(const Signature& signature);
   [[nodiscard]] std::optional<Signature> signature(const std::string& id) const;
 
   void open(const Handoff& handoff);
   [[nodiscard]] std::optional<Handoff> handoff(const std::string& id) const;
 
-  /// Ends an open handoff: by `signature`, or as declined. False, and nothing changes, when it is
-  /// not open.
+  /// End an open handoff with `signature` or as declined. Return false and change nothing when it
+  /// is not open.
   [[nodiscard]] bool complete(const std::string& handoffId, const Signature& signature);
   [[nodiscard]] bool decline(const std::string& handoffId);
 

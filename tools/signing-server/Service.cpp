@@ -69,7 +69,7 @@ std::string contentTypeOf(std::string_view name) {
   return "image/svg+xml";
 }
 
-/// A page's template is no file for browsers.
+/// Templates of pages are not served as files.
 std::optional<std::string_view> publicAsset(std::string_view name) {
   return name.ends_with(".mustache") ? std::nullopt : asset(name);
 }
@@ -89,9 +89,9 @@ bool isAddress(std::string_view host) {
   return inet_pton(isBracketed ? AF_INET6 : AF_INET, text.c_str(), address.data()) == 1;
 }
 
-/// Whether a "Host" header names this server: by an address, as this computer, or as its origin
-/// does. A page elsewhere can have its own name lead here and then talk to this server as if it
-/// were of it; its requests still carry that name.
+/// Returns whether a "Host" header names this server: an IP address, localhost, or the host of its
+/// origin. This stops DNS rebinding, where a foreign page points its own host name at this server:
+/// its requests still carry that name.
 bool isOwnHost(std::string_view header, std::string_view origin) {
   const std::string_view host = withoutPort(header);
   const std::size_t scheme = origin.find("://");
@@ -117,7 +117,7 @@ Signature signatureOf(const Attestation& attestation) {
   return signature;
 }
 
-/// What the handoff page's "Sign" stands for.
+/// Returns the signature that "Sign" on the handoff page makes.
 Signature signatureOf(const Handoff& handoff) {
   Signature signature;
   signature.kind = SignatureKind::browser;
@@ -132,12 +132,12 @@ Signature signatureOf(const Handoff& handoff) {
   return signature;
 }
 
-/// What an open handoff has left before it expires; zero or less when it has expired.
+/// Returns the seconds until an open handoff expires; zero or less when it has expired.
 std::int64_t secondsLeft(const Handoff& handoff, const ServiceOptions& options) {
   return handoff.createdAt + options.signingSeconds - options.now();
 }
 
-/// What an endpoint works with.
+/// The data that an endpoint works on.
 struct Call {
   Registry& registry;
   const ServiceOptions& options;
@@ -166,7 +166,7 @@ Json enrol(const Call& call) {
   return answer;
 }
 
-/// Records it under a fresh identifier, which it returns.
+/// Stores the signature under a new identifier and returns that.
 std::string recorded(const Call& call, Signature signature) {
   signature.id = randomId(signatureIdBytes);
   signature.recordedAt = call.options.now();
@@ -180,7 +180,7 @@ Json signNative(const Call& call) {
   Signature signature = signatureOf(readAttestation(call.body));
   const DeviceProof proof = readDeviceProof(call.body);
   const std::optional<Device> device = call.registry.device(signature.deviceId);
-  // The agent enrols again when it reads these words.
+  // The agent enrols again when it reads this text.
   if (!device) throw Refusal(notFound, "Device not registered");
   signature.kind = SignatureKind::device;
   signature.snapshotDigest = proof.snapshotDigest;
@@ -220,14 +220,13 @@ Json pollHandoff(const Call& call) {
   if (handoff.state == HandoffState::complete) {
     return {{"status", "complete"}, {"signature_id", handoff.signatureId}};
   }
-  // An agent goes on polling at any other word, also at one for "declined"; it would wait for
-  // minutes for what will never come.
+  // For any other status, also one for "declined", the agent would keep polling for minutes.
   const bool isOver =
       handoff.state == HandoffState::declined || secondsLeft(handoff, call.options) <= 0;
   return {{"status", isOver ? "expired" : "pending"}};
 }
 
-/// The handoff, open and in time.
+/// Returns the handoff; refuses one that is not open or has expired.
 Handoff openHandoff(const Call& call) {
   Handoff handoff = knownHandoff(call);
   if (handoff.state == HandoffState::declined) {
@@ -241,7 +240,7 @@ Handoff openHandoff(const Call& call) {
 
 Json signHandoff(const Call& call) {
   const std::string textDigest = readTextDigest(call.body);
-  // A second click, or a repeated request whose answer was lost, finds its first signature.
+  // A second click, or a retry after a lost answer, gets the first signature.
   if (const Handoff known = knownHandoff(call); known.state == HandoffState::complete) {
     return {{"signature_id", known.signatureId}};
   }
@@ -268,7 +267,7 @@ Json declineHandoff(const Call& call) {
 
 enum class Caller : std::uint8_t {
   agent,  ///< carries the API key
-  page,   ///< carries the identifier of a handoff, which nobody can guess
+  page,   ///< carries a handoff's identifier, which cannot be guessed
 };
 
 struct Endpoint {
@@ -290,7 +289,7 @@ constexpr std::array endpoints{
 Reply answerPost(Registry& registry, const ServiceOptions& options, const Request& request) {
   const auto* endpoint = std::ranges::find(endpoints, request.path, &Endpoint::path);
   if (endpoint == endpoints.end()) throw Refusal(notFound, "There is no such endpoint.");
-  // A foreign page cannot send this type without the browser asking this server first.
+  // A foreign page cannot send this type without a CORS preflight.
   if (!request.contentType.starts_with("application/json")) {
     throw Refusal(unsupportedMediaType, "The Content-Type must be application/json.");
   }

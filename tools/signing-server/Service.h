@@ -8,7 +8,7 @@
 
 namespace quillseal::devserver {
 
-/// What of an HTTP request matters here.
+/// The parts of an HTTP request that the service uses.
 struct Request {
   std::string method;  ///< "POST", "GET" or "HEAD"
   std::string path;
@@ -26,20 +26,20 @@ struct Reply {
 
 struct ServiceOptions {
   std::string apiKey;
-  std::string identity;  ///< bound to every device that enrols; empty for none
-  std::string origin;    ///< where browsers reach this server; empty: where the request came to
-  std::int64_t signingSeconds = 600;  ///< within which a handoff must be signed
+  std::string identity;  ///< bound to every enrolled device; empty for none
+  std::string origin;    ///< origin of this server in links; empty for the request's own
+  std::int64_t signingSeconds = 600;  ///< time in which a handoff must be signed
   std::function<std::int64_t()> now;  ///< seconds since 1970
 };
 
-/// The signing server without its sockets: answers one request after another. Callable from any
-/// thread as long as `now` is.
+/// The signing server without its sockets: answers requests. May be called from any thread if `now`
+/// may.
 class Service {
  public:
   /// `registry` outlives the service.
   Service(Registry& registry, ServiceOptions options);
 
-  /// Throws RegistryError when the database fails, never for what the sender did.
+  /// Answers a request. Throws RegistryError when the database fails, never because of the request.
   [[nodiscard]] Reply answer(const Request& request);
 
  private:

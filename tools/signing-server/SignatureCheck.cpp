@@ -27,7 +27,7 @@ const unsigned char* bytesOf(std::string_view text) {
   return reinterpret_cast<const unsigned char*>(text.data());
 }
 
-/// Null when `point` is no point of the curve.
+/// Returns null when `point` is not on the curve.
 Key keyOf(std::string_view point) {
   if (point.size() != pointBytes || point.front() != '\x04') return nullptr;
   std::string group = "P-256";
@@ -54,7 +54,7 @@ Key keyOf(std::string_view point) {
 std::optional<std::string> decodedBase64(std::string_view text) {
   constexpr std::string_view alphabet =
       "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-  // EVP_DecodeBlock forgives white space and stray padding; a signature field has neither.
+  // EVP_DecodeBlock accepts white space and extra padding; a signature field must have neither.
   if (text.size() % 4 != 0) return std::nullopt;
   const std::size_t padding = text.size() - std::min(text.size(), text.find_last_not_of('=') + 1);
   if (padding > 2) return std::nullopt;
@@ -108,7 +108,7 @@ bool isGenuine(const Signature& signature) {
 
 bool isConsistent(const Signature& signature) {
   constexpr std::int64_t endOfTheYear9999 = 253402300800;
-  // The digest takes any commitment that it does not know for a statement.
+  // The digest treats an unknown commitment as a statement, so commitments are checked here.
   const auto& commitments = CryptoManager::commitmentTypes;
   if (!parsedDate(signature.issued) || !parsedDate(signature.expires) || signature.recordedAt < 0 ||
       signature.recordedAt >= endOfTheYear9999 ||

@@ -60,7 +60,7 @@ std::string withoutLastSlashes(std::string url) {
   return url;
 }
 
-/// What is wrong with an origin; empty when nothing is.
+/// Returns what is wrong with an origin; empty when it is valid.
 std::string originFault(std::string_view url) {
   constexpr std::string_view hostCharacters =
       "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789.-:[]";
@@ -73,7 +73,7 @@ std::string originFault(std::string_view url) {
   return "must be http:// or https:// and a host";
 }
 
-/// The options, or the status to exit with.
+/// Parses the options. Returns the exit status if the program should end.
 std::optional<int> read(Options& options, int argc, char** argv) {
   CLI::App app(
       "A signing server for trying Quillseal on one computer.\n"
@@ -119,7 +119,7 @@ std::optional<int> read(Options& options, int argc, char** argv) {
   return std::nullopt;
 }
 
-/// Serves until the process is told to end.
+/// Serves until SIGINT or SIGTERM.
 int serve(const Options& options) {
   devserver::Registry registry(options.database);
   devserver::Service service(registry, {.apiKey = options.apiKey,
@@ -132,7 +132,7 @@ int serve(const Options& options) {
     const std::scoped_lock lock(output);
     std::cerr << line << '\n';
   };
-  // Whichever thread gets a signal first would take it; none does, so that one can wait for it.
+  // Blocked in all threads, so that one thread can wait for it.
   sigset_t endings;
   sigemptyset(&endings);
   sigaddset(&endings, SIGINT);
@@ -170,7 +170,7 @@ int main(int argc, char** argv) {
   try {
     Options options;
     if (const std::optional<int> status = read(options, argc, argv)) return *status;
-    umask(S_IRWXG | S_IRWXO);  // the records are their owner's
+    umask(S_IRWXG | S_IRWXO);  // only the owner may read the records
     if (options.database.empty()) {
       std::filesystem::create_directories(stateFolder());
       options.database = (stateFolder() / "registry.sqlite").string();

@@ -1,6 +1,6 @@
-// Holds keys down as a person's hands do: on the X server's own keyboard device, not on the one
-// that synthesised keys come from. Waits first until no key of any device is down.
-// usage: held-keys MILLISECONDS [KEYSYM...]   presses in order, waits, lets go in reverse order
+// Holds keys down as a person does: on the X server's own keyboard device, not on the one for
+// synthesised keys. First waits until no key of any device is down. usage: held-keys MILLISECONDS
+// [KEYSYM...] presses in order, waits, lets go in reverse order
 
 #include <algorithm>
 #include <array>
@@ -27,7 +27,7 @@ struct CloseDevice {
 };
 using Keyboard = std::unique_ptr<XDevice, CloseDevice>;
 
-// Every server has a keyboard beside the one of XTEST: "Xvfb keyboard" on the virtual one.
+// Opens the keyboard that every server has beside XTEST's; on Xvfb it is "Xvfb keyboard".
 Keyboard openKeyboard(Display* display) {
   int count = 0;
   XDeviceInfo* const devices = XListInputDevices(display, &count);

@@ -69,7 +69,7 @@ class Keyboard {
     return state_ != nullptr && hasDevice && connection_.roundTrip();
   }
 
-  /// False when no key gives the symbol.
+  /// Returns false when no key gives the symbol.
   bool press(xkb_keysym_t symbol) {
     const std::optional<Place> place = find(symbol);
     if (!place) return false;
@@ -91,7 +91,7 @@ class Keyboard {
     bool isShifted;
   };
 
-  // In the layout in use first: the person does not switch to another.
+  // Looks in the active layout first, since the person does not switch.
   [[nodiscard]] std::optional<Place> find(xkb_keysym_t symbol) const {
     for (xkb_layout_index_t layout = 0; layout < xkb_keymap_num_layouts(keymap_.get()); ++layout)
       for (xkb_level_index_t level = 0; level < 2; ++level)

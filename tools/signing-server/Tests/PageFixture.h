@@ -25,14 +25,14 @@
 #include "Registry.h"
 #include "Service.h"
 
-/// The pages in a real browser, headless.
+/// Runs the pages in a headless browser.
 namespace quillseal::devserver {
 
 inline constexpr const char* apiKey = "key";
 inline constexpr const char* host = "127.0.0.1";
 inline constexpr std::int64_t start = 1767225600;  // 1 January 2026, 00:00 UTC
 
-/// A server that listens on its own thread.
+/// Runs a server on its own thread.
 template <typename Server>
 class Serving {
  public:
@@ -47,9 +47,9 @@ class Serving {
   std::thread thread_;
 };
 
-/// Stands before the real server, passes everything on as it is, and lets a test add a script to
-/// the pages and files beside them. Keeps what browsers ask for. Tells a page the real time in
-/// milliseconds at /test/clock: the browser's own clock is virtual and stands still while it works.
+/// A proxy in front of the real server that passes everything on. It lets a test add a script to
+/// the pages and serve more files, and records the browser's requests. /test/clock returns the real
+/// time in milliseconds, because the browser's clock is virtual and stops while it works.
 class Front {
  public:
   explicit Front(int upstreamPort) : upstreamPort_(upstreamPort) {
@@ -70,7 +70,7 @@ class Front {
     return "http://" + std::string(host) + ":" + std::to_string(port_);
   }
 
-  /// Target and body of every request.
+  /// Returns target and body of every request.
   [[nodiscard]] std::vector<std::string> traffic() const {
     const std::scoped_lock lock(mutex_);
     return traffic_;
@@ -116,7 +116,7 @@ class Front {
   std::optional<Serving<httplib::Server>> serving_;
 };
 
-/// What the scripts of tests share: `report` shows lines in an element of their own.
+/// Functions for test scripts: `report` shows lines in a separate element.
 inline constexpr const char* helpers = R"js(
 export const settled = () => new Promise((resolve) => setTimeout(resolve, 100));
 export async function until(condition) {
@@ -144,7 +144,7 @@ class PageTest : public ::testing::Test {
   }
   ~PageTest() override { std::filesystem::remove_all(profile_); }
 
-  /// The document, as HTML, once its scripts have run for `milliseconds` of virtual time.
+  /// Returns the document's HTML after its scripts have run for `milliseconds` of virtual time.
   std::string documentAt(const std::string& url, int milliseconds = 20'000) const {
     const std::string command =
         "timeout 120 '" QUILLSEAL_CHROMIUM
@@ -164,7 +164,7 @@ class PageTest : public ::testing::Test {
     return output;
   }
 
-  /// The lines that a test's script reported.
+  /// Returns the lines that a test's script reported.
   std::vector<std::string> reportAt(const std::string& url, int milliseconds = 20'000) const {
     const std::string document = documentAt(url, milliseconds);
     const std::string opening = R"(<pre id="report">)";

@@ -39,7 +39,7 @@ std::vector<std::string> textsToNormalise() {
     for (char32_t scalar = first; scalar < first + groupSize; ++scalar) {
       const auto code = static_cast<UChar32>(scalar);
       const auto category = u_charType(code);
-      // What one Unicode version has not assigned, another may compose.
+      // An unassigned code point may compose in another Unicode version.
       if (category == U_UNASSIGNED || category == U_SURROGATE) continue;
       group.append('a').append(code).append(UChar32{0x301});
     }
@@ -68,7 +68,7 @@ for (const text of await (await fetch("/test/texts.json")).json()) report(await 
   }
 }
 
-/// "A <img src=x onerror=document.title=1> & “é”", and its HTML, as the agent puts them.
+/// "A <img src=x onerror=document.title=1> & “é”" and its HTML, as the agent sends them.
 constexpr const char* hostileText = "A <img src=x onerror=document.title=1> & “é”";
 constexpr const char* hostileFragment =
     "#t=QSA8aW1nIHNyYz14IG9uZXJyb3I9ZG9jdW1lbnQudGl0bGU9MT4gJiDigJzDqeKAnQ"

@@ -74,7 +74,7 @@ TEST_F(RegistryTest, AHandoffEndsOnce) {
   registry.open(handoff);
   Signature signature;
   signature.id = "s";
-  // What cannot be recorded ends nothing.
+  // A signature that cannot be recorded does not end the handoff.
   ASSERT_TRUE(registry.record(signature));
   EXPECT_THROW((void)registry.complete("h", signature), RegistryError);
   EXPECT_EQ(registry.handoff("h")->state, HandoffState::open);
@@ -119,7 +119,7 @@ TEST_F(RegistryTest, OfManyThreadsOneEndsAHandoff) {
 TEST_F(RegistryTest, LeavesAFileThatIsNotItsOwnAlone) {
   std::ofstream(path()) << std::string(4096, 'x');
   expectRefused("text");
-  // Another program's tables, marks, and a later version of this server.
+  // Another program's tables and marks, and a later version of this server's.
   for (const char* statement :
        {"CREATE TABLE devices (id)", "PRAGMA user_version = 1", "PRAGMA application_id = 7",
         "PRAGMA application_id = 0x516C5372; PRAGMA user_version = 99"}) {

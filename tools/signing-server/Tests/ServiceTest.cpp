@@ -69,7 +69,7 @@ class ServiceTest : public ::testing::Test {
     return {{"device_id", deviceId}, {"public_key", device_.publicKey()}, {"api_key", apiKey}};
   }
 
-  /// A demonstration request; `signedRequest` adds what a device's signature needs.
+  /// A demonstration request; `signedRequest` adds the fields of a device's signature.
   static json request() {
     return {{"text_digest", CryptoManager::sha256Hex("text")},
             {"issued", "2026-01-01"},
@@ -104,7 +104,7 @@ class ServiceTest : public ::testing::Test {
     return fields;
   }
 
-  /// With the options as they are now.
+  /// Restarts with the current options.
   void restart() { service_.reset(); }
 
   Answer createHandoff(const char* issued = "2026-01-01") {
@@ -141,7 +141,7 @@ class ServiceTest : public ::testing::Test {
 
 TEST_F(ServiceTest, RecordsTheSignatureOfAnEnrolledDevice) {
   identity_ = "Ada Lovelace";
-  json lowerCase = enrolment();  // one device, however its identifier is written
+  json lowerCase = enrolment();  // upper and lower case name the same device
   lowerCase["device_id"] = "0f4b3a52-7c1d-4e8a-9b60-5d2e1c7f8a90";
   const Answer enrolled = post("/api/register_native", lowerCase);
   EXPECT_EQ(enrolled.status, 200);
@@ -177,7 +177,7 @@ TEST_F(ServiceTest, RefusesWhatIsNotTheDevicesSignature) {
 
   EXPECT_EQ(post("/api/register_native", enrolment()).body,
             json({{"status", "registered"}, {"device_id", deviceId}}));
-  // Every field that the signature binds, changed alone.
+  // Each bound field, changed on its own.
   const json changes = {{"text_digest", CryptoManager::sha256Hex("other")},
                         {"snapshot_digest", CryptoManager::sha256Hex("other")},
                         {"issued", "2026-01-02"},

@@ -41,7 +41,7 @@ TEST(SignatureCheck, TakesOnlyWholeDigestsAndStrictDer) {
   EXPECT_FALSE(isSignedBy({.publicKey = decodedBase64(TestDevice().publicKey()).value(),
                            .digestHex = digest,
                            .signature = signature}));
-  // A digest is 32 bytes and nothing else; OpenSSL itself would cut a longer one.
+  // A digest has exactly 32 bytes; OpenSSL would truncate a longer one.
   for (const std::string& other : {std::string(), digest.substr(2), digest + "00", digest + "0",
                                    ' ' + digest, digest.substr(0, 62) + "zz"})
     EXPECT_FALSE(check(other, signature)) << other;

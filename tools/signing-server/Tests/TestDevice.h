@@ -6,16 +6,16 @@
 
 namespace quillseal::devserver {
 
-/// A signing device for tests: a fresh P-256 key in memory.
+/// A signing device for tests, with a new P-256 key in memory.
 class TestDevice {
  public:
   TestDevice();
   ~TestDevice();
 
-  /// The uncompressed point in base64, as enrolment sends it.
+  /// Returns the uncompressed point in base64, as enrolment sends it.
   [[nodiscard]] std::string publicKey() const;
 
-  /// The DER signature over the digest's bytes in base64, as a signing request carries it.
+  /// Signs the digest's bytes and returns the DER signature in base64, as in a signing request.
   [[nodiscard]] std::string sign(std::string_view digestHex) const;
 
  private:

@@ -14,7 +14,7 @@
 #include "TestDevice.h"
 #include "core/signing/SignedBlock.h"
 
-/// What a reader is told by the page that a signed block's link leads to.
+/// Tests what the verification page tells a reader.
 namespace quillseal::devserver {
 namespace {
 
@@ -43,14 +43,14 @@ std::string repeated(const std::string& unit, int count) {
   return result;
 }
 
-/// A text of paste-cases.jsonl with what its names in braces stand for.
+/// Replaces the names in braces in a text of paste-cases.jsonl.
 std::string filled(std::string value) {
   static const std::pair<std::string, std::string> names[] = {
       {"{stamp}", "\n\n{rule}\n{line}\nCheck this signature → {link}"},
       {"{line}", "🛡️ QUILLSEAL · Email Message (Writer) · 1 January 2026"},
       {"{rule}", rule},
       {"{text}", text},
-      {"{numbers}", repeated("1 2 ", 510)},  // more spaces than are drawn as frames
+      {"{numbers}", repeated("1 2 ", 510)},  // more spaces than the page draws as frames
       {"{accents}", repeated("\u0301", 400)},
   };
   for (const auto& [name, meaning] : names)
@@ -78,7 +78,7 @@ void change(Signature& record, const json& changes) {
 
 class VerifyPageTest : public PageTest {
  protected:
-  /// The identifier of a new record of `base`, which differs from the usual one as a case says.
+  /// Records a signature of `base`, changed as the case says, and returns its identifier.
   std::string recorded(const std::string& base, const json& each = json::object()) {
     Signature record;
     record.id = CryptoManager::randomHex(12);
@@ -106,12 +106,11 @@ class VerifyPageTest : public PageTest {
 
   std::string linkTo(const std::string& id) const { return front_->origin() + "/verify/" + id; }
 
-  /// The cases of paste-cases.jsonl below the heading that is this test's name. Each is an object:
-  ///  - "base": the text that was signed, usually "{text}"
-  ///  - "paste": with "{link}" for the record's own link, "{halves}" for that with a space in it
-  ///  - "tone": good, caution, bad or unknown
-  ///  - "words", "shown", "unshown": each is in the verdict, below it, or nowhere on the page
-  ///  - "made", "changed": how the record differs, and what happened to it after it was signed
+  /// Returns the cases of paste-cases.jsonl under this test's name. Each is an object: - "base":
+  /// the text that was signed, usually "{text}" - "paste": with "{link}" for the record's own link,
+  /// "{halves}" for that with a space in it - "tone": good, caution, bad or unknown - "words",
+  /// "shown", "unshown": each is in the verdict, below it, or nowhere on the page - "made",
+  /// "changed": how the record differs, and what happened to it after it was signed
   static std::vector<json> cases() {
     const std::string heading =
         std::string("# ") + ::testing::UnitTest::GetInstance()->current_test_info()->name();
@@ -138,13 +137,13 @@ class VerifyPageTest : public PageTest {
       list.push_back({{"id", id}, {"paste", std::move(paste)}});
     }
     front_->files["/test/cases.json"] = list.dump();
-    // A page's script finds its record when it starts, so it is started once for each.
+    // The script reads its record when it starts, so the page is loaded once for each case.
     front_->files["/test/act.js"] = R"js(
 import { report } from "/test/help.js";
 const settled = () => new Promise((resolve) => setTimeout(resolve, 5));
 const text = () => document.getElementById("result").innerText;
 const nothing = "Nothing has been compared yet";
-// Nothing in it is changed on its way through the document's HTML.
+// Escapes everything that HTML would change.
 const ascii = (value) => JSON.stringify(value).replace(/[^ -%'-;=?-~]/g,
   (unit) => `\\u${unit.charCodeAt(0).toString(16).padStart(4, "0")}`);
 let count = 0;
@@ -207,7 +206,7 @@ TEST_F(VerifyPageTest, IsGreenForHonestPastes) {
   check();
 }
 
-/// The block that the agent pastes, in both of its forms, as a browser shows and copies it.
+/// Both forms of the agent's block, as a browser shows and copies them.
 TEST_F(VerifyPageTest, IsGreenForTheAgentsOwnBlock) {
   const std::string id = recorded(text);
   const std::string server = front_->origin();
@@ -274,7 +273,7 @@ TEST_F(VerifyPageTest, SaysNothingBeforeThePaste) {
   const std::string before = documentAt(linkTo(id));
   EXPECT_THAT(before, HasSubstr(R"(<p class="headline">Nothing has been compared yet</p>)"));
   EXPECT_THAT(before, Not(HasSubstr("This page cannot tell")));
-  // What a browser shows that runs no script.
+  // The page without JavaScript.
   const std::string without = httplib::Client(front_->origin()).Get("/verify/" + id)->body;
   EXPECT_THAT(without, HasSubstr("This page cannot tell you whether your message is genuine"));
   EXPECT_THAT(without, HasSubstr(R"(<div id="paste" hidden>)"));
@@ -334,7 +333,7 @@ TEST_F(VerifyPageTest, AnswersSoonWhateverIsPasted) {
   const std::string empty = recorded("");
   json list = json::array();
   for (const std::string& unit : units) {
-    // Pasted with nothing to find, below a text, and as the text.
+    // Pasted alone, below a text, and as the text.
     const std::string part = replacedAll(unit, "{link}", linkTo(empty));
     std::string whole;
     while (whole.size() < 4 * longest)
@@ -369,7 +368,7 @@ for (const { id, paste, unit, count } of await (await fetch("/test/cases.json"))
   }
   const result = document.getElementById("result");
   const field = document.getElementById("text");
-  field.hidden = true;  // laying out the field is the browser's own work
+  field.hidden = true;  // excludes the browser's layout of the input field
   field.value = "";
   field.dispatchEvent(new Event("input"));
   const more = unit ? Array.from(unit.repeat(count ?? longest)).slice(0, count ?? longest - paste.length).join("") : "";
@@ -377,14 +376,14 @@ for (const { id, paste, unit, count } of await (await fetch("/test/cases.json"))
   const begin = await clock();
   field.dispatchEvent(new Event("input"));
   while (result.textContent.includes("Nothing has been compared yet")) await settled();
-  document.body.getBoundingClientRect();  // the verdict is laid out
+  document.body.getBoundingClientRect();  // after the verdict's layout
   report(`${await clock() - begin} ${result.classList[1]}`);
 }
 )js";
   const std::vector<std::string> report = reportAt(linkTo(empty), 100'000);
   ASSERT_EQ(report.size(), list.size());
   for (std::size_t i = 0; i < timed; ++i) {
-    // A second, and what a busy machine adds; where time grows with the square, it is several.
+    // One second, with room for a busy machine; quadratic code takes several times as long.
     EXPECT_LT(std::stoi(report[i]), 3'000) << units[i / 3] << ' ' << i % 3;
     EXPECT_THAT(report[i], Not(HasSubstr(gray))) << units[i / 3];
     if (i % 3 == 2) {

@@ -1,7 +1,8 @@
-// The canonical form of a text and its digest. It must agree with CryptoManager::normalizeText to
-// the last scalar: a reader's paste is compared with what the signer's agent computed.
+// Computes the canonical form of a text and its digest. It must agree with
+// CryptoManager::normalizeText in every scalar: a reader's paste is compared with the digest from
+// the signer's agent.
 
-// What stands for a typographic dash, quotation mark or ellipsis.
+// ASCII replacements of typographic dashes, quotation marks and ellipses.
 export const replacements = new Map([
   ...[..."\u2012\u2013\u2014\u2015"].map((dash) => [dash, "-"]),
   ...[..."\u2018\u2019\u201A\u201B\u02BC"].map((quote) => [quote, "'"]),
@@ -9,8 +10,8 @@ export const replacements = new Map([
   ["\u2026", "..."],
 ]);
 
-// Angle brackets, invisible controls, and white space: \p{Z} with the control characters that
-// break or advance a line.
+// Removed characters: angle brackets, invisible controls, and white space (\p{Z} and the control
+// characters for tabs and line breaks).
 const dropped =
   /[<>\u00AD\u034F\u200B-\u200F\u202A-\u202E\u2060-\u206F\uFEFF\u0009-\u000D\u0085\p{Z}]/u;
 
@@ -25,8 +26,8 @@ export function normalizeText(text) {
   return canonical;
 }
 
-// The digest of a canonical form, in lower-case hexadecimal. Throws where the browser has no
-// cryptography, which is everywhere but on https and on the computer itself.
+// Returns the digest of a canonical form in lower-case hexadecimal. Throws where the browser offers
+// no cryptography: it does only over https and on localhost.
 export async function canonicalDigest(canonical) {
   if (!globalThis.crypto?.subtle) {
     throw new Error("This browser compares texts only on https, or on the computer that runs the server.");

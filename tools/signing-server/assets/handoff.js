@@ -1,7 +1,7 @@
 import { textDigest } from "./canonical.js";
 import { showResult } from "./result.js";
 
-// The text need not stay in the address bar, the tab's history and the saved session.
+// Removes the text from the address bar, the tab's history and the saved session.
 const fragment = location.hash.slice(1);
 history.replaceState(null, "", location.pathname + location.search);
 

@@ -1,11 +1,11 @@
-// Characters that do not show what they are, and a text in which each of them is a visible mark.
-// Every function takes time in proportion to the text.
+// Finds characters that are invisible or misleading, and shows a text with a visible mark for each.
+// Every function is linear in the text.
 
 import { blank, replacements } from "./canonical.js";
 
 const lineBreak = /[\n-\r\u0085\u2028\u2029]/;
 
-// All that may need a mark; where it stands decides for some.
+// All characters that may need a mark; for some it depends on their place.
 const suspect = /[<>\u1680\u201A\u201E\u2800\uFFF9-\uFFFB\p{Cc}\p{Default_Ignorable_Code_Point}]/u;
 const direction = /[\u061C\u200E\u200F\u202A-\u202E\u2066-\u2069]/;
 
@@ -48,7 +48,7 @@ function codeOf(character) {
   return `U+${character.codePointAt(0).toString(16).toUpperCase().padStart(4, "0")}`;
 }
 
-// "U+00AD (soft hyphen)"; a sign that can be seen stands for itself.
+// Returns "U+00AD (soft hyphen)" or the like; for a visible sign the sign itself.
 export function nameOf(character) {
   if (character === "<" || character === ">") return character;
   const name = names.get(character.codePointAt(0));
@@ -75,7 +75,7 @@ function isInPlace(characters, index) {
   const before = characters[index - 1] ?? "";
   const after = characters[index + 1] ?? "";
   const code = character.codePointAt(0);
-  // As German opens a quotation.
+  // At the place of an opening quotation mark in German.
   const opensQuotation = before === "" || wordStart.test(before);
   switch (code) {
     case 0x201a:  // before a digit it passes for a comma
@@ -99,9 +99,9 @@ function isInPlace(characters, index) {
   }
 }
 
-// What is wrong with a character where it stands: null for nothing, else "direction" (it turns the
-// reading direction around), "bracket" (visible, but not signed), "comma" (a quotation mark that
-// looks like one), "dash" (a blank that is drawn as one) or "hidden".
+// Returns the fault of a character in its place, or null: "direction" (changes the reading
+// direction), "bracket" (visible, but not signed), "comma" (a quotation mark that looks like a
+// comma), "dash" (a blank that is drawn as a dash) or "hidden".
 function faultAt(characters, index) {
   const character = characters[index];
   if (!suspect.test(character)) return null;
@@ -113,10 +113,10 @@ function faultAt(characters, index) {
   return character === "\u201A" || character === "\u201E" ? "comma" : "hidden";
 }
 
-// The text in pieces: { text } with typographic signs in the form that is signed, and blanks as one
-// space or up to two line breaks; { text, isGap } for a space between two digits, which would make
-// other numbers elsewhere; { text, fault, character, count } with a label for what has a fault.
-// `text` is in NFC.
+// Splits the text into pieces: { text } with typographic signs in their signed form, and blanks as
+// one space or up to two line breaks; { text, isGap } for a space between two digits, which can
+// change the numbers; { text, fault, character, count } with a label for faulty characters. `text`
+// is in NFC.
 export function pieces(text) {
   const characters = Array.from(text);
   const result = [];
@@ -164,11 +164,11 @@ export function pieces(text) {
   return result;
 }
 
-// More marks than a reader looks at would only make the browser slow.
+// No reader looks at more marks, and they would slow the browser down.
 const mostMarks = 500;
 
-// Shows the pieces in an element, up to about `most` characters: nothing in them can change how the
-// rest is shown. Returns how many characters were left out.
+// Shows the pieces in an element, up to about `most` characters, so that no piece changes how
+// others are shown. Returns how many characters were left out.
 export function show(element, shown, most = Infinity) {
   element.replaceChildren();
   let marks = 0;
@@ -192,7 +192,7 @@ export function show(element, shown, most = Infinity) {
     } else if (isGap) {
       element.append("␣");
     } else {
-      // Never half a character.
+      // Do not cut a character in half.
       const end = text.codePointAt(left - 1) > 0xffff ? left + 1 : left;
       element.append(text.slice(0, end));
       leftOut += Math.max(text.length - end, 0);

@@ -1,12 +1,12 @@
-// What a reader pasted, taken apart: the text, and the lines above and below it. Every function
-// takes time in proportion to the paste.
+// Splits a reader's paste into the text and the lines above and below it. Every function is linear
+// in the paste.
 
 import { blank, canonicalDigest, normalizeText } from "./canonical.js";
 
 export const longestPaste = 200_000;  // characters
 const longestStack = 300;  // marks on one letter; sorting more takes a browser too long
 
-// Why the paste cannot be compared; empty when it can.
+// Returns why the paste cannot be compared; empty when it can.
 export function obstacle(pasted) {
   const limit = longestPaste.toLocaleString("en");
   const tooLong = `It is too long: at most ${limit} characters can be compared here.`;
@@ -21,7 +21,7 @@ export function obstacle(pasted) {
   return count > longestPaste ? tooLong : "";
 }
 
-// Without the "> " of a mail program's quotation, where every line has it.
+// Removes a mail program's "> " if every line has it.
 function unquoted(text) {
   const lines = text.split("\n");
   const depthOf = (line) => {
@@ -43,7 +43,7 @@ function unquoted(text) {
     }
     return line.slice(index);
   };
-  // "> 12 percent" on a line of its own is more likely "more than".
+  // In a single line such as "> 12 percent", ">" more likely means "more than".
   if (written.length === 1 && !without(written[0]).trim().startsWith("『")) return text;
   return lines.map(without).join("\n");
 }
@@ -54,9 +54,9 @@ function positions(text, sign) {
   return found;
 }
 
-// Where the text may begin and end, as ordinals of 『 and 』: the outermost of them, and those
-// before a stamp. Enough for every block that was not made to confuse, and few enough to try all.
-// An ordinal of -1 is the paste's own beginning or end, where a bracket was not copied.
+// Returns where the text may begin and end, as ordinals of 『 and 』: the outermost ones, and those
+// before a stamp. That is enough for every block that is not meant to confuse, and few enough to
+// try all. An ordinal of -1 means the start or end of the paste, if a bracket was not copied.
 function frames(text, opened, closed) {
   const outermost = (marks) => [...marks.keys()].filter((i) => i < 3 || i >= marks.length - 3);
   const before = (position) => closed.findLastIndex((at) => at < position);
@@ -68,8 +68,8 @@ function frames(text, opened, closed) {
     opening < 0 ? closing >= 0 : closing < 0 || opened[opening] < closed[closing]);
 }
 
-// The part of the paste whose digest is `digest`, with what stands above and below it; null when
-// there is none. A whole signed block is pasted as often as its text alone.
+// Returns the part of the paste with this digest, and the lines above and below it; null when there
+// is none. Readers paste a whole signed block as often as its text alone.
 export async function found(pasted, digest) {
   const text = unquoted(pasted.normalize("NFC"));
   const canonical = normalizeText(text);
@@ -92,7 +92,7 @@ export async function found(pasted, digest) {
   return null;
 }
 
-// Mail programs break lines anew and drop the selector that makes a sign a coloured picture.
+// Mail programs rewrap lines and drop the emoji variation selector.
 function squeezed(text) {
   let result = "";
   for (const character of text.normalize("NFC")) {
@@ -104,7 +104,8 @@ function squeezed(text) {
 const label = squeezed("Check this signature →");
 const samePlace = "another page of this server";
 
-// Where the lines below a text lead, other than to `link`; null when nothing there is an address.
+// Returns the addresses in the lines below a text, other than `link`; null when there is no
+// address.
 function otherPlace(below, link) {
   const after = below.slice(below.lastIndexOf("→") + 1);  // a medium may have an arrow of its own
   for (const word of after.split(/[\s<>()[\]|]/)) {
@@ -116,8 +117,8 @@ function otherPlace(below, link) {
   return null;
 }
 
-// How the lines below a text differ from what the agent put there: { stamp } when the medium or the
-// date is another, { place } when the link leads elsewhere, { extra } when there is more.
+// Returns how the lines below a text differ from the agent's: { stamp } for another medium or date,
+// { place } for another link, { extra } for additional text.
 export function differences(below, { scope, issued, link }) {
   let rest = squeezed(below);
   const take = (expected) => {
@@ -145,7 +146,8 @@ export function differences(below, { scope, issued, link }) {
     if (!take(label)) return { extra: true };
     take("]");
     if (rest === "") return {};
-    // The link, and once more or oftener where a mail program writes down what a word leads to.
+    // The link, possibly several times: some mail programs write out the target of each linked
+    // word.
     let links = 0;
     const address = squeezed(link);
     for (let taken = true; taken; ) {
@@ -153,7 +155,8 @@ export function differences(below, { scope, issued, link }) {
       if (taken) ++links;
     }
     const place = otherPlace(below, link);
-    // An address may be broken in two, but not before its host ends: then the first half is another.
+    // An address may be broken in two, but not within its host: then the first half would be
+    // another address.
     if (rest === "" && (place === null || place === samePlace)) return {};
     if (place === null && links > 0) return { extra: true };
     return { place: place ?? "another place" };

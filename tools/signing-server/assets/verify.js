@@ -1,7 +1,7 @@
 import { nameOf, pieces, show } from "./marks.js";
 import { differences, found, obstacle } from "./paste.js";
 
-// What the server says of the record; null when the record itself was changed.
+// The server's data about the record; null when the record was changed.
 const record = JSON.parse(document.querySelector("main").dataset.record);
 const field = document.getElementById("text");
 const result = document.getElementById("result");
@@ -15,7 +15,7 @@ function paragraph(text, className = "") {
   return element;
 }
 
-// `tone` is a class of the style sheet; `reasons` follow the headline as a list.
+// `tone` is a class in the style sheet; `reasons` follow the headline as a list.
 function showVerdict(tone, headline, { reasons = [], explanation = "" } = {}) {
   const list = document.createElement("ul");
   list.append(
@@ -33,7 +33,7 @@ function showVerdict(tone, headline, { reasons = [], explanation = "" } = {}) {
   );
 }
 
-// The record is signed with its angle brackets, unlike a text.
+// Unlike a text, a record is signed with its angle brackets.
 function recordPieces(value) {
   return pieces(value.normalize("NFC")).map((piece) =>
     piece.fault === "bracket" ? { text: piece.text.repeat(piece.count) } : piece);
@@ -77,7 +77,7 @@ const faults = [
 ];
 
 function reasonsInPaste({ above, below }, textPieces) {
-  // Angle brackets around the paste's link are compared with it.
+  // Angle brackets around the link in the paste take part in the comparison.
   const around = [above, below].flatMap(pieces).filter(({ fault }) => fault !== "bracket");
   const shown = [...textPieces, ...around];
   const reasons = [];
@@ -102,7 +102,7 @@ const identityNotes = {
   browser: ["", "The record does not show who pressed “Sign”."],
 };
 
-// A browser takes seconds to lay out the longest text; the verdict must not wait for that.
+// A browser takes seconds to lay out the longest text, so the verdict is shown first.
 const mostAtFirst = 20_000;
 
 function showLong(element, more, shown) {
@@ -180,6 +180,6 @@ async function compare() {
 if (record) {
   document.getElementById("paste").hidden = false;
   field.addEventListener("input", compare);
-  // A browser that brings a form back after a reload fires no event.
+  // A browser that restores a form after a reload fires no event.
   compare();
 }

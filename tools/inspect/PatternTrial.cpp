@@ -126,7 +126,7 @@ struct Branch {
   std::string before{};    ///< the part of the pattern before it
   std::string closing{};   ///< closes the groups of `before`
   double shareBefore = 0;  ///< of that alternative
-  double weight = 1;       ///< share of one element of this branch
+  double weight = 1;       ///< share of all elements of this branch together
   std::vector<std::string_view> elements{};
   std::size_t satisfied = 0;  ///< at least this many elements occur
   std::size_t possible = 0;   ///< and at most this many

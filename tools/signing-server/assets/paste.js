@@ -104,8 +104,8 @@ function squeezed(text) {
 const label = squeezed("Check this signature →");
 const samePlace = "another page of this server";
 
-// Returns the addresses in the lines below a text, other than `link`; null when there is no
-// address.
+// Returns where the first address in the lines below a text leads, other than `link`; null when
+// there is none.
 function otherPlace(below, link) {
   const after = below.slice(below.lastIndexOf("→") + 1);  // a medium may have an arrow of its own
   for (const word of after.split(/[\s<>()[\]|]/)) {

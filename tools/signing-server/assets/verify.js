@@ -77,7 +77,7 @@ const faults = [
 ];
 
 function reasonsInPaste({ above, below }, textPieces) {
-  // Angle brackets around the link in the paste take part in the comparison.
+  // Angle brackets are no fault here: they may surround the link, and `differences` compares them.
   const around = [above, below].flatMap(pieces).filter(({ fault }) => fault !== "bracket");
   const shown = [...textPieces, ...around];
   const reasons = [];

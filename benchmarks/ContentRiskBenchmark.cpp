@@ -63,7 +63,7 @@ std::vector<std::string_view> split(std::string_view words) {
   return list;
 }
 
-/// Sentences of words drawn from `words`, of at least `characters` ASCII characters.
+/// Returns sentences of random words from `words`, at least `characters` ASCII characters long.
 std::string sentences(std::string_view words, std::size_t characters) {
   const auto list = split(words);
   std::mt19937 random(7);
@@ -96,14 +96,14 @@ void screen(benchmark::State& state, const std::string& text) {
     benchmark::DoNotOptimize(ContentRisk::evaluate(text));
 }
 
-/// Without the screening.
+/// Measures the reading without the screening.
 void read(benchmark::State& state, const std::string& text) {
   for (auto _ : state)
     benchmark::DoNotOptimize(ReadableText(text));
   state.SetLabel(ReadableText(text).isAsWritten() ? "as written" : "read otherwise");
 }
 
-/// As a signature needs it: the text as written, and as it is read.
+/// As for a signature: the text as written, and as read.
 void screenTwice(benchmark::State& state, const std::string& text) {
   for (auto _ : state) {
     const ContentRisk::Screening asWritten = ContentRisk::screen(text);
@@ -111,8 +111,8 @@ void screenTwice(benchmark::State& state, const std::string& text) {
   }
 }
 
-/// One search by ICU for each rule, without those that look ahead over the whole text: with them,
-/// the loop does not end on the longer texts.
+/// One ICU search for each rule, except those that look ahead over the whole text, with which the
+/// loop does not end on the longer texts.
 void plainLoop(benchmark::State& state, const std::string& text) {
   std::vector<screening::Pattern> patterns = screening::rulePatterns();
   for (std::size_t i = ContentRules::all.size(); i-- > 0;)
@@ -134,13 +134,13 @@ void compile(benchmark::State& state) {
     benchmark::DoNotOptimize(screening::compilePatterns(screening::rulePatterns()));
 }
 
-/// What to repeat, so that a screening takes the most steps.
+/// The text whose repetition takes a screening the most steps.
 struct Worst {
   std::string unit;
   std::uint64_t steps = 0;
 };
 
-/// The worst found of the parts of a rule's pattern and of texts along it.
+/// Returns the worst text found among parts of a rule's pattern and texts that follow it.
 Worst worstOf(std::size_t rule) {
   static const screening::ScreeningEngine engine(screening::compiledRules());
   static const testing::PatternText source(screening::rulePatterns());
@@ -167,7 +167,7 @@ Worst worstOfAll() {
   return worst;
 }
 
-/// 200,000 bytes of it.
+/// Screens 200,000 bytes of repetitions.
 void screenWorst(benchmark::State& state, const Worst& worst) {
   state.SetLabel(testing::escaped(worst.unit.substr(0, 60)));
   screen(state, repeated(worst.unit, 200'000).substr(0, 200'000));
@@ -187,7 +187,7 @@ void screenWorst(benchmark::State& state, const Worst& worst) {
     benchmark::RegisterBenchmark(("read/" + name).c_str(), read, text);
     benchmark::RegisterBenchmark(("screen_twice/" + name).c_str(), screenTwice, text);
   }
-  // On these the plain loop takes from minutes to for ever.
+  // On these texts the plain loop takes minutes or does not end.
   std::string joined = "a";
   for (int i = 0; i < 2'000'000; ++i)
     joined += "\u200D";
@@ -202,7 +202,7 @@ void screenWorst(benchmark::State& state, const Worst& worst) {
   };
   for (const auto& [name, text] : alone)
     benchmark::RegisterBenchmark(("screen/" + name).c_str(), screen, text);
-  // What gives each step of the reading the most to do.
+  // The texts with the most work for each step of the reading.
   const std::pair<std::string, std::string> inDisguise[] = {
       {"unknown_letters", repeated("accountx", 200'000)},
       {"unknown_words", repeated("xyzzy plugh ", 200'000)},

@@ -40,7 +40,7 @@ void canonicalContent(benchmark::State& state, const std::string& text) {
   }
 }
 
-/// The floor: nothing that reads the text once and digests it is faster.
+/// The lower bound for code that reads the text once and digests it.
 void copyAndDigest(benchmark::State& state, const std::string& text) {
   std::vector<char> copy(text.size());
   for (auto _ : state) {

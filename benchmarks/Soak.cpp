@@ -1,5 +1,5 @@
-// Many signatures through the whole agent, one after the other, on a desktop that answers at once:
-// what a run itself costs, and whether anything stays behind.
+// Makes many signatures with the whole agent, one after the other, on a desktop that answers at
+// once. Measures the cost of a run and checks for leaks.
 
 #include <algorithm>
 #include <cstdlib>
@@ -21,10 +21,10 @@ using quillseal::testing::Copy;
 using quillseal::testing::FakeDesktop;
 
 constexpr std::size_t usualCount = 10'000;
-constexpr std::size_t settled = 1000;               // runs after which caches are full
-constexpr std::size_t allowedGrowth = 64UL * 1024;  // bytes of the heap
+constexpr std::size_t settled = 1000;               // number of runs after which caches are full
+constexpr std::size_t allowedGrowth = 64UL * 1024;  // bytes on the heap
 
-/// Processor time of this process, which other programs do not lengthen.
+/// Returns the processor time of this process, which other programs do not affect.
 double microsecondsUsed() {
   constexpr double perSecond = 1e6;
   return static_cast<double>(std::clock()) * (perSecond / CLOCKS_PER_SEC);
@@ -36,7 +36,7 @@ struct Holdings {
       std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
 };
 
-/// From a short message to a long letter, some with HTML.
+/// Returns a text, from a short message to a long letter, sometimes with HTML.
 Copy textOf(std::size_t number) {
   constexpr std::size_t kinds = 7;
   std::string text = "Message " + std::to_string(number) + " of Grace to the fair in June.";
@@ -47,7 +47,7 @@ Copy textOf(std::size_t number) {
   return {.text = std::move(text), .html = std::move(html)};
 }
 
-/// With the device key, in the browser, or as a demonstration.
+/// Chooses the device key, the browser, or a demonstration.
 void prepare(FakeDesktop& desktop, std::size_t number) {
   desktop.forget();
   desktop.keys.selection = textOf(number);

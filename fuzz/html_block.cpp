@@ -33,8 +33,8 @@ std::string block(std::string_view text, std::optional<std::string_view> html) {
 
 }  // namespace
 
-/// Whatever was captured stands in a block that ends with its own stamp; plain text adds no tag
-/// but line breaks; an identifier that is called safe breaks out of nothing.
+/// Any capture gives a block that ends with its own stamp. Plain text adds no tags but line breaks.
+/// A safe identifier cannot break out of an attribute.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace quillseal;
   const std::string captured = unicode::wellFormed({reinterpret_cast<const char*>(data), size});

@@ -3,7 +3,7 @@
 
 #include "Quillseal/CryptoManager.h"
 
-/// Every source is a non-empty, trimmed part of the HTML.
+/// Every image source is a non-empty, trimmed part of the HTML.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace quillseal;
   const std::string_view html(reinterpret_cast<const char*>(data), size);

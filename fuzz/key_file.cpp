@@ -16,7 +16,7 @@ namespace {
 
 using namespace quillseal;
 
-/// A store on a memory file system where there is one, gone with the process.
+/// A temporary store, on a memory file system where there is one.
 struct Scratch {
   std::filesystem::path folder =
       (std::filesystem::is_directory("/dev/shm") ? "/dev/shm"
@@ -37,9 +37,9 @@ void sign(Scratch& scratch, std::string_view contents) {
 
 }  // namespace
 
-/// A file of any bytes is refused, or signs. Its sum is accidental damage's hurdle and no
-/// attacker's, so the same bytes also come with a right one, and as the two parts behind it: the
-/// first byte tells how long the public one is, and neither is empty.
+/// A file of any bytes is refused, or signs. An attacker can compute the checksum, so the same
+/// bytes are also tried with a correct one, and as the two parts after it: the first byte gives the
+/// length of the public part, and neither is empty.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static Scratch scratch;
   if (size < 3 || size > 4096) return 0;

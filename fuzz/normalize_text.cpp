@@ -4,7 +4,8 @@
 #include "Quillseal/CryptoManager.h"
 #include "core/text/UnicodeText.h"
 
-/// The canonical form of a well-formed text is well-formed and holds nothing that it drops.
+/// The canonical form of a well-formed text is well-formed and holds no character that it should
+/// drop.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace quillseal;
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);

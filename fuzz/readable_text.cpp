@@ -5,7 +5,7 @@
 #include "core/reading/ReadableText.h"
 #include "core/text/UnicodeText.h"
 
-/// A reading of any bytes reads as itself, and each of its characters leads back to a part of the
+/// The reading of any bytes is its own reading, and each of its characters maps to a part of the
 /// text, in the same order.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using quillseal::ReadableText;

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Made before the first input, which would exceed its time otherwise.
+/// Built before the first input, which would exceed the time limit otherwise.
 struct Compared {
   std::vector<quillseal::screening::Pattern> patterns = quillseal::screening::rulePatterns();
   quillseal::screening::ScreeningEngine engine{quillseal::screening::compiledRules()};
@@ -22,8 +22,7 @@ const Compared compared;
 
 }  // namespace
 
-/// On any bytes, the engine finds what ICU's own expressions find, and both quotation and
-/// assessment have a result.
+/// On any bytes, the engine finds the same matches as ICU, and quotation and assessment return.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace quillseal;
   if (size > 2000) return 0;

@@ -16,7 +16,7 @@ namespace {
 using namespace quillseal;
 namespace fs = std::filesystem;
 
-/// Settings on a memory file system where there is one, gone with the process.
+/// Temporary settings, on a memory file system where there is one.
 struct Scratch {
   int count = 1;
   char name[5] = "fuzz";
@@ -37,7 +37,8 @@ void require(bool holds) {
 
 }  // namespace
 
-/// A file of any bytes is read, or set aside whole; what is set holds, and costs no other setting.
+/// A file of any bytes is read, or renamed unchanged. A value that is set can be read back, and no
+/// other setting changes.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static Scratch scratch;
   const std::string bytes(reinterpret_cast<const char*>(data), size);

@@ -7,8 +7,8 @@
 
 namespace {
 
-/// Whether `read` gives what a document tree holds under the key, or throws where it holds nothing
-/// of that type.
+/// Checks that `read` returns the value of the document tree under the key, or throws if there is
+/// none of that type.
 template <typename Read>
 bool agrees(const nlohmann::json& expected, bool isOfType, Read read) {
   try {
@@ -20,7 +20,7 @@ bool agrees(const nlohmann::json& expected, bool isOfType, Read read) {
 
 }  // namespace
 
-/// What the strict reader accepts, an ordinary parser reads the same way.
+/// An ordinary parser reads every document that the strict reader accepts, with the same result.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view text(reinterpret_cast<const char*>(data), size);
   const nlohmann::json tree = nlohmann::json::parse(text, nullptr, false);
@@ -30,7 +30,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const auto& member : tree.items()) {
       const std::string& key = member.key();
       const nlohmann::json& value = member.value();
-      // The library compares a number of 64 bits without a sign as one with a sign.
+      // The library compares an unsigned 64-bit number as a signed one.
       const bool isInteger =
           value.is_number_integer() &&
           (!value.is_number_unsigned() || value.get<std::uint64_t>() <= std::uint64_t{INT64_MAX});

@@ -10,7 +10,7 @@ namespace {
 
 using namespace quillseal::TabMessages;
 
-/// The messages of a stream that comes in pieces of this size, and whether it kept to the protocol.
+/// The messages of a stream in pieces of this size, and whether it was valid.
 struct Received {
   std::vector<std::string> messages;
   bool isSound = true;
@@ -32,7 +32,7 @@ Received received(std::string_view stream, std::size_t piece) {
   return result;
 }
 
-/// What is accepted can be passed on, and means the same to the next reader.
+/// An accepted message can be written again, and reads the same.
 template <typename Read>
 void pass(const std::string& message, Read read) {
   std::string passed;
@@ -46,7 +46,7 @@ void pass(const std::string& message, Read read) {
 
 }  // namespace
 
-/// However a stream of frames is cut, the same messages come out; each is refused, or passes
+/// A stream gives the same messages in pieces of any size. Each message is refused, or passes
 /// through the relay unchanged.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view stream(reinterpret_cast<const char*>(data), size);

@@ -20,7 +20,7 @@ std::optional<Response> read(std::string_view text) {
   try {
     return wire::decoded<Response>(text);
   } catch (const JsonError& error) {
-    // The words reach the user, so there must be some, and not a server's megabyte.
+    // The message is shown to the user, so it must not be empty or a megabyte long.
     if (std::string_view(error.what()).empty() || std::string_view(error.what()).size() > 1000)
       std::abort();
     return std::nullopt;
@@ -33,7 +33,7 @@ void requireMember(const json& tree, const char* key, const json& value) {
 
 }  // namespace
 
-/// Each kind of answer either says what an ordinary parser finds under its keys, or is refused.
+/// Each kind of answer has the values that an ordinary parser finds, or is refused.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view text(reinterpret_cast<const char*>(data), size);
   const json tree = json::parse(text, nullptr, false);

@@ -4,7 +4,7 @@
 #include "Quillseal/CryptoManager.h"
 #include "core/text/UnicodeText.h"
 
-/// Word counting, distinctiveness and the refusal agree with each other on any bytes.
+/// Word count, distinctiveness and refusal agree with each other on any bytes.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace quillseal;
   const std::string_view text(reinterpret_cast<const char*>(data), size);

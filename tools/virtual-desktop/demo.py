@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Signs a letter on a private virtual desktop, as a person would, and shows what came of it."""
+"""Signs a letter on a private virtual desktop, as a person would, and shows the result."""
 
 import html
 import pathlib
@@ -30,7 +30,7 @@ def run(arguments):
         url = desktop.start_server()
         step(f"The development signing server runs at {url}")
         desktop.write_settings(ServerURL=url)
-        # What a computer with a TPM does, where the package is there.
+        # As on a computer with a TPM, if the package is installed.
         desktop.start_agent(tpm=desktop.start_software_tpm() if shutil.which("swtpm") else "none")
         step("Quillseal runs; opening an editor with a letter, selecting all of it")
         editor = desktop.open_editor(LETTER)

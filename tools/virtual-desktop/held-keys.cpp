@@ -1,6 +1,6 @@
 // Holds keys down as a person does: on the X server's own keyboard device, not on the one for
-// synthesised keys. First waits until no key of any device is down. usage: held-keys MILLISECONDS
-// [KEYSYM...] presses in order, waits, lets go in reverse order
+// synthesised keys. First waits until no key of any device is down.
+// usage: held-keys MILLISECONDS [KEYSYM...]   presses in order, waits, releases in reverse order
 
 #include <algorithm>
 #include <array>

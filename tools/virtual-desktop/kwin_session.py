@@ -1,7 +1,6 @@
-"""A private KDE desktop for one agent: KWin without a display, and beside it what `session` has.
-
-The person types by the interface that KWin offers to test tools, which counts as the only keyboard
-there is. A script inside of KWin tells which windows there are.
+"""A private KDE desktop for one agent: headless KWin with the services of `session`. The person
+types through KWin's interface for test tools, which acts as the only keyboard. A script inside KWin
+lists the windows.
 """
 
 import ctypes
@@ -16,7 +15,7 @@ import session
 import wayland_session
 from session import Failure, wait_for
 
-# Prints all windows whenever something about them changes.
+# Prints all windows whenever one changes.
 SCRIPT = """
 function tell() {
   print("windows " + JSON.stringify(workspace.clientList().map(function (window) {
@@ -40,14 +39,14 @@ FOCUS_ACTION, MINIMISE_ACTION = 0, 2
 
 
 def become_ordinary():
-    """Without the right to look into every process, root is a user like others to KWin."""
+    """Drops root's right to read every process, so that KWin treats root like any user."""
     cap_sys_ptrace, drop_from_bounding_set = 19, 24
     ctypes.CDLL(None).prctl(drop_from_bounding_set, cap_sys_ptrace, 0, 0, 0)
 
 
 class KwinSession(wayland_session.WaylandSession):
-    """`is_installed` is whether the desktop file of the package is there, by which KWin knows that
-    the agent may see windows and press keys; `locks`, whether the screen can be locked."""
+    """`is_installed`: whether the package's desktop file exists, which lets the agent see windows
+    and press keys in KWin. `locks`: whether the screen can be locked."""
 
     def __init__(self, build, layout="us", is_installed=True, locks=False):
         self.is_installed = is_installed
@@ -81,7 +80,7 @@ class KwinSession(wayland_session.WaylandSession):
 
     def _start_kwin(self):
         self._write_configuration()
-        # The program of Debian has a capability that containers may lack, and does not run there.
+        # Debian's program has a file capability and does not run in containers that lack it.
         program = self.folder / "kwin_wayland"
         shutil.copyfile(shutil.which("kwin_wayland") or "kwin_wayland", program)
         program.chmod(0o755)

@@ -2,8 +2,8 @@
 """Measures the agent from outside: start-up, memory and wake-ups while idle, and what it adds to a
 signature.
 
-The key is in a software TPM. One in a file takes some tenths of a second more at every signature, on
-purpose: that is what a guess at its passphrase costs.
+The key is in a software TPM. A key file takes some tenths of a second more at every signature, on
+purpose: that is the cost of each guess at its passphrase.
 """
 
 import http.client
@@ -20,8 +20,8 @@ import urllib.parse
 import session
 from session import LETTER, SECRET
 
-# Waits that are part of how the agent works, in milliseconds: until the source has finished its
-# copy; after the block is on the clipboard; after the source has been called to the front.
+# Intended waits of the agent, in milliseconds: for the source to finish its copy; after the block
+# is on the clipboard; after the source has been activated.
 SETTLING, CLIPBOARD, ACTIVATION = 80, 150, 350
 
 
@@ -36,14 +36,14 @@ def memory(pid):
 
 
 def wake_ups(pid):
-    """How often each thread of the process has gone to sleep so far."""
+    """Returns how often each thread of the process has gone to sleep so far."""
     return {status.parent.name:
             int(re.search(r"^voluntary_ctxt_switches:\s+(\d+)", status.read_text(), re.M)[1])
             for status in pathlib.Path(f"/proc/{pid}/task").glob("*/status")}
 
 
 def busy(pid):
-    """Milliseconds for which the threads of the process have had a processor so far."""
+    """Returns the processor time of the process so far, in milliseconds."""
     return sum(int(share.read_text().split()[0])
                for share in pathlib.Path(f"/proc/{pid}/task").glob("*/schedstat")) / 1e6
 
@@ -53,7 +53,7 @@ def milliseconds(since):
 
 
 def start_up(desktop):
-    """Starts the agent and tells how long it took to be ready, and for how long it was busy."""
+    """Starts the agent. Returns the time until it was ready, and its processor time."""
     begun = time.monotonic()
     agent = desktop.start(desktop.quillseal, "--tpm", "none")
     output = session.wait_for("the agent writes", lambda: open(agent.log, encoding="utf-8"))
@@ -66,7 +66,7 @@ def start_up(desktop):
 
 
 class Proxy(http.server.ThreadingHTTPServer):
-    """Passes requests on to the signing server and adds up how long they take."""
+    """A proxy in front of the signing server that adds up how long requests take."""
 
     def __init__(self, target):
         self.target = urllib.parse.urlsplit(target).netloc
@@ -102,7 +102,7 @@ class Handler(http.server.BaseHTTPRequestHandler):
 
 
 class Watch:
-    """Waits for lines of a program that reports events, and tells when each came."""
+    """Reads the lines of a program that reports events, with the time of each."""
 
     def __init__(self, desktop, *command):
         self.lines = []
@@ -115,14 +115,14 @@ class Watch:
             self.lines.append((time.monotonic(), line))
 
     def time_of(self, what, pattern, after):
-        """When the first line that matches came after that moment."""
+        """Returns the time of the first matching line after that moment."""
         return session.wait_for(what, lambda: next(
             (when for when, line in list(self.lines) if when > after and re.search(pattern, line)),
             None))
 
 
 def press(desktop, *keys):
-    """Presses and releases keys, and tells when they were down."""
+    """Presses and releases keys. Returns when they were down."""
     with subprocess.Popen([desktop.held_keys, "0", *keys], env=desktop.env,
                           stdout=subprocess.PIPE) as process:
         process.stdout.readline()
@@ -130,7 +130,7 @@ def press(desktop, *keys):
 
 
 def overhead(desktop, number, proxy, windows, notifications):
-    """One signature: what it took beside server, person and the waits above."""
+    """Signs once. Returns the time without server, person and the waits above."""
     editor = desktop.open_editor(LETTER, f"letter-{number}.txt")
     desktop.select_all(LETTER)
     worked = busy(desktop.agent.pid)
@@ -179,7 +179,7 @@ def main():
         walls, shares = zip(*times)
         print(f"start to ready      {statistics.median(walls):7.0f} ms, fastest {min(walls):.0f}; "
               f"busy for {statistics.median(shares):.0f}")
-        time.sleep(40)  # what was started in the background ends, and idle threads go after 30 s
+        time.sleep(40)  # background work ends, and idle threads end after 30 s
         print("idle memory         {:7.1f} MB resident, {:.1f} proportional".format(
             *memory(desktop.agent.pid)))
         before = wake_ups(desktop.agent.pid)

@@ -19,7 +19,7 @@ def milliseconds(values):
 
 
 class Captures:
-    """Tells when the agent has read a text, by its log."""
+    """Waits for the agent's log to say that it has read a text."""
 
     def __init__(self, desktop):
         self.log = open(desktop.agent.log, encoding="utf-8")
@@ -36,7 +36,7 @@ class Captures:
 
 
 def sign(desktop, number, captures, windows, copies):
-    """Gives how long it took from the hotkey to the text, and from the offer to the paste."""
+    """Returns the times from the hotkey to the text, and from the offer to the paste."""
     editor = desktop.open_editor(LETTER, f"letter-{number}.txt")
     desktop.select_all(LETTER)
     captures.forget()
@@ -75,7 +75,7 @@ def main():
         walls, shares = zip(*times)
         print(f"start to ready       {statistics.median(walls):6.0f} ms, fastest {min(walls):.0f}; "
               f"busy for {statistics.median(shares):.0f}")
-        time.sleep(40)  # what was started in the background ends, and idle threads go after 30 s
+        time.sleep(40)  # background work ends, and idle threads end after 30 s
         print("idle memory          {:6.1f} MB resident, {:.1f} proportional".format(
             *memory(desktop.agent.pid)))
         before = wake_ups(desktop.agent.pid)

@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
 """Takes the pictures of the agent's own windows for the documentation: menu, new-passphrase,
-confirmation, passphrase, refusal and settings. Fails where a window does not fit on the screen. Needs
-root: the person in the pictures has a home of her own below /home, which nobody else sees.
+confirmation, passphrase, refusal and settings. Fails if a window does not fit on the screen. Needs
+root: the person in the pictures has a home below /home in a private mount.
 
-Not taken here: signed, which demo.py takes of the whole display; handoff-1-selected to
-handoff-no-extension, which Tests/e2e/handoff-test takes when given a folder; verify and handoff, which
-are the server's pages in any browser.
+Other pictures: demo.py takes signed; Tests/e2e/handoff-test, given a folder, takes
+handoff-1-selected to handoff-no-extension; verify and handoff are the server's pages in any
+browser.
 """
 
 import argparse
@@ -50,7 +50,7 @@ class Photographer:
         window = self.desktop.run("xdotool", "getactivewindow").strip()
         seen = set()
 
-        def is_still():  # but for a caret that blinks
+        def is_still():  # apart from the blinking caret
             picture = self.desktop.folder / "window.bmp"
             self.desktop.run("import", "-window", window, picture)
             now = picture.read_bytes()

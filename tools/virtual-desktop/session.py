@@ -1,7 +1,6 @@
 """A private desktop for one agent: X server, session bus, window manager, panel, notifications,
-development server. Nothing of it touches the desktop, the home or the settings of its user.
-
-Waiting is always for a condition, with a limit and a sentence that says what did not happen.
+development server. It does not touch the desktop, the home or the settings of the user who runs it.
+All waits are for a condition, with a limit and a sentence that says what did not happen.
 """
 
 import argparse
@@ -26,12 +25,12 @@ SANITIZER_REPORT = re.compile(
 
 
 class Failure(Exception):
-    """What did not happen, in a sentence."""
+    """A condition that did not come true. The message says which."""
 
 
 @contextlib.contextmanager
 def failing_with_a_sentence(program):
-    """Ends the program with what did not happen, and no traceback."""
+    """Exits with the message of a Failure, without a traceback."""
     try:
         yield
     except Failure as failure:
@@ -39,7 +38,7 @@ def failing_with_a_sentence(program):
 
 
 def wait_for(what, condition, seconds=PATIENCE):
-    """The first true value of `condition()`; Failure with `what` when there is none in time."""
+    """Returns the first true value of `condition()`. Raises Failure with `what` on a time-out."""
     deadline = time.monotonic() + seconds
     while True:
         value = condition()
@@ -51,8 +50,8 @@ def wait_for(what, condition, seconds=PATIENCE):
 
 
 def act_until(act, condition, what):
-    """Acts again every other second until `condition()` holds, as a person does: a window that has
-    just come up may not take the first key or click."""
+    """Repeats `act` every two seconds until `condition()` holds, as a person does: a new window may
+    ignore the first key or click."""
     def acted():
         act()
         try:
@@ -63,7 +62,7 @@ def act_until(act, condition, what):
 
 
 def arguments_parser(description):
-    """With the one option that all who use a Session have."""
+    """Returns a parser with the option that all users of Session have."""
     parser = argparse.ArgumentParser(description=description,
                                      formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--build", type=lambda path: pathlib.Path(path).resolve(),
@@ -73,7 +72,7 @@ def arguments_parser(description):
 
 
 def words_of(command):
-    """The command for `subprocess`; Failure when its program is not there."""
+    """Returns the command for `subprocess`. Raises Failure when the program is missing."""
     words = [str(part) for part in command]
     if not shutil.which(words[0]):
         raise Failure(f"{words[0]} is missing; ./demo installs and builds what a session needs")
@@ -81,7 +80,7 @@ def words_of(command):
 
 
 class Session:
-    """Use as a context manager. `build` is the build folder with the programs."""
+    """A context manager. `build` is the build folder with the programs."""
 
     def __init__(self, build, size="1280x800", panel=False, x_options=()):
         self.build = pathlib.Path(build).resolve()
@@ -91,7 +90,7 @@ class Session:
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="quillseal-session-"))
         self.home = self.folder / "home"
         self.processes = []
-        self.faults = []  # of our own programs, that no test may have noticed
+        self.faults = []  # in the project's programs, which no test may have noticed
         self.size = size
         self.has_panel = panel
         self.x_options = x_options
@@ -146,7 +145,7 @@ class Session:
     # Processes
 
     def start(self, *command, **options):
-        """Starts a program of the session. Its output goes to a file named after it."""
+        """Starts a program in the session. Its output goes to a file named after it."""
         name = pathlib.Path(command[0]).name
         log = self.folder / f"{name}-{len(self.processes)}.log"
         with open(log, "wb") as output:
@@ -159,7 +158,7 @@ class Session:
         return process
 
     def end(self, process, how=signal.SIGTERM):
-        """Ends a program with all its children."""
+        """Ends a program and all its children."""
         ours = self.build in pathlib.Path(process.args[0]).parents
         for attempt in (how, signal.SIGKILL):
             try:
@@ -177,8 +176,9 @@ class Session:
             self.processes.remove(process)
 
     def run(self, *command, seconds=PATIENCE, check=True, **options):
-        """Runs a program to its end and gives what it printed."""
-        # xclip gives Latin-1 when a program that is just taking a selection refuses UTF-8.
+        """Runs a program and returns its output."""
+        # xclip falls back to Latin-1 when a program that is just taking the selection refuses
+        # UTF-8.
         done = subprocess.run(words_of(command), env=self.env, timeout=seconds, capture_output=True,
                               text=True, errors="replace", check=False, **options)
         if check and done.returncode != 0:
@@ -199,7 +199,7 @@ class Session:
         return wait_for(what, found)
 
     def start_x_server(self, *options):
-        """From now on programs are started on its display."""
+        """Starts all later programs on this display."""
         display_file = self.folder / f"display-{len(self.processes)}"
         with open(display_file, "w") as number:
             server = self.start(
@@ -210,8 +210,8 @@ class Session:
         return server
 
     def _start_desktop(self):
-        # The server would start over, and lose a client that connects just then, each time its last
-        # client goes; while the desktop starts, that is often.
+        # Without this, the server resets whenever its last client leaves, which is often while the
+        # desktop starts, and drops clients that connect meanwhile.
         self.x_server = self.start_x_server("-noreset", *self.x_options)
         self._start_bus()
         self._start_window_manager()
@@ -260,7 +260,7 @@ class Session:
         return self.server_url
 
     def recorded(self):
-        """Text digest and scope of the signatures that the server has, the oldest first."""
+        """Returns text digest and scope of the server's signatures, the oldest first."""
         database = sqlite3.connect(f"file:{self.registry}?mode=ro", uri=True)
         try:
             return database.execute(
@@ -286,8 +286,8 @@ class Session:
         return self.agent
 
     def start_software_tpm(self):
-        """Gives the name under which the agent knows it."""
-        # The library finds the control socket by adding ".ctrl" to the path of the other.
+        """Starts a software TPM. Returns its name for the agent."""
+        # The library adds ".ctrl" to the socket's path to find the control socket.
         folder = pathlib.Path(tempfile.mkdtemp(prefix="tpm-", dir=self.folder))
         socket = folder / "s"
         self.tpm = self.start("swtpm", "socket", "--tpm2", "--tpmstate", f"dir={folder}",
@@ -313,7 +313,7 @@ class Session:
         return self.run("xdotool", "getactivewindow", "getwindowname", check=False).strip()
 
     def wait_for_window(self, pattern, what=None):
-        """Waits until a window whose title matches has the keyboard."""
+        """Waits until a window whose title matches is focused."""
         return wait_for(what or f"a window “{pattern}” comes to the front",
                         lambda: self._has_keys() and re.search(pattern, self.active_window_name()))
 
@@ -321,14 +321,15 @@ class Session:
         return self.run("xdotool", "getactivewindow", check=False).strip()
 
     def _has_keys(self):
-        """Whether keys go to the program of the active window: while windows come and go, the
-        window manager may still have them. The upper bits of a window's number tell the program."""
+        """Returns whether keys go to the program of the active window: while windows open and
+        close, the window manager may still have the focus. The upper bits of a window's id identify
+        the program."""
         focus = self.run("xdotool", "getwindowfocus", "-f", check=False).strip()
         active = self.active_window()
         return bool(focus and active) and int(focus) >> 21 == int(active) >> 21
 
     def wait_for_next_window(self, before, pattern):
-        """Waits until a window other than `before` has the keyboard, its title maybe the same."""
+        """Waits until a window other than `before` is focused, possibly with the same title."""
         wait_for(f"another window “{pattern}” comes to the front",
                  lambda: self.active_window() != before and self._has_keys() and
                  re.search(pattern, self.active_window_name()))
@@ -338,7 +339,8 @@ class Session:
                  lambda: not any(re.search(pattern, name) for name in self.window_names()))
 
     def key(self, *keys):
-        # Pressed while the agent holds others down, these would mix: both use one device.
+        # The agent uses the same device, so keys that it holds at the same time would mix with
+        # these.
         self.run(self.held_keys, 0)
         self.run("xdotool", "key", *keys)
 
@@ -349,7 +351,7 @@ class Session:
         self.run("xdotool", "mousemove", left, top, "click", 1)
 
     def pixels(self):
-        """What is on the display: red, green and blue of each pixel, line by line."""
+        """Returns the display's pixels: red, green and blue of each, line by line."""
         return subprocess.run(["import", "-window", "root", "-depth", "8", "rgb:-"],
                               env=self.env, check=True, capture_output=True).stdout
 
@@ -376,17 +378,17 @@ class Session:
         self.run("xdotool", "type", "--delay", "8", text)
 
     def close(self, title, *keys):
-        """Waits for a dialog and ends it by keyboard."""
+        """Waits for a dialog and answers it with the keyboard."""
         self.wait_for_window(title)
         self.key(*keys or ("Return",))
         self.wait_for_no_window(title)
 
     def press_hotkey(self, milliseconds=120):
-        """Presses the keys on the X server's own keyboard, and really holds them."""
+        """Presses the keys on the X server's own keyboard and holds them."""
         self.run(self.held_keys, milliseconds, *HOTKEY)
 
     def choose_secret(self, kind="PIN|passphrase"):
-        """Of the new key; gives which kind it is."""
+        """Chooses the secret of the new key. Returns its kind."""
         asked = self.wait_for_window(f"Choose a ({kind})")
         self.type(SECRET)
         self.key("Tab")
@@ -409,11 +411,11 @@ class Session:
             return ""
 
     def wait_for_notification(self, text):
-        """Waits until the notification service is asked to show it."""
+        """Waits until the notification service is asked to show this text."""
         wait_for(f"a notification tells “{text}”", lambda: text in self.output_of(self.monitor))
 
     def screenshot(self, path):
-        """A picture of the whole display, once nothing scrolls or fades any more."""
+        """Takes a picture of the whole display once nothing moves."""
         path = pathlib.Path(path)
 
         def is_still():
@@ -426,31 +428,31 @@ class Session:
     # Applications
 
     def open_editor(self, text, name="letter.txt"):
-        """An editor with a new file; gives the path of the file."""
+        """Opens an editor with a new file. Returns the file's path."""
         path = self.home / name
         path.write_text(text)
-        self.wait_for_no_window(re.escape(name))  # of an earlier editor that has just ended
+        self.wait_for_no_window(re.escape(name))  # of an earlier editor that is closing
         editor = self.start("mousepad", "--disable-server", path)
         editor.file = path
         self.wait_for_window(re.escape(name), "the editor opens")
         return editor
 
     def press_in_editor(self, text=LETTER, name="letter.txt"):
-        """Writes the text in an editor, selects it and presses the hotkey; gives the editor."""
+        """Writes the text in an editor, selects it and presses the hotkey. Returns the editor."""
         editor = self.open_editor(text, name)
         self.select_all(text)
         self.press_hotkey()
         return editor
 
     def select_all(self, expected, keys="ctrl+a"):
-        """Applications differ in the white space around paragraphs."""
+        """Compares without white space, since applications treat paragraphs differently."""
         def selected():
-            self.key(keys)  # one that has just come to the front may miss the first
+            self.key(keys)  # a window that was just activated may miss the first
             return self.selection("primary").split() == expected.split()
         wait_for("all of the text is selected", selected)
 
     def saved_text(self, editor, containing):
-        """Has the editor save until its file holds the text asked for; gives the file's text."""
+        """Saves in the editor until its file holds the text. Returns the file's text."""
         def saved():
             if "*" in self.active_window_name():
                 self.key("ctrl+s")

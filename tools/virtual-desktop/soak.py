@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Signs again and again in one session and tells whether the agent keeps its memory and its
-descriptors, and whether it gives back what it needed only while it signed."""
+"""Signs repeatedly in one session. Checks that the agent's memory and descriptors do not grow, and
+that it returns memory that it needs only for signing."""
 
 import os
 import statistics
@@ -11,10 +11,10 @@ import session
 from measure import memory
 from session import LETTER, SECRET, wait_for
 
-SETTLED = 50  # signatures after which caches are full
-REST = 10  # seconds without a signature after which the agent holds only what it keeps
+SETTLED = 50  # number of signatures after which caches are full
+REST = 10  # seconds without a signature after which the agent has returned unused memory
 
-LIMIT = 45  # MB that the agent may hold at rest, of its own and shared
+LIMIT = 45  # MB, private and shared, that the agent may hold at rest
 
 
 def percentiles(times):

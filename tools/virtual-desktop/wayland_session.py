@@ -1,6 +1,5 @@
-"""A private Wayland desktop for one agent: sway without a display, and beside it what `session` has.
-
-The person types on a keyboard of their own, and sway tells which windows there are.
+"""A private Wayland desktop for one agent: headless sway with the services of `session`. The person
+types on a virtual keyboard, and sway lists the windows.
 """
 
 import contextlib
@@ -26,7 +25,7 @@ workspace_layout tabbed
 
 
 class Person:
-    """Keyboard and mouse, the keyboard with a layout as xkeyboard-config(7) names it."""
+    """Keyboard and mouse. The layout is named as in xkeyboard-config(7)."""
 
     def __init__(self, desktop, layout, **options):
         self.process = subprocess.Popen(
@@ -49,7 +48,7 @@ class Person:
 
 
 class WaylandSession(session.Session):
-    """`layout` is that of the person's keyboard."""
+    """`layout` is the layout of the person's keyboard."""
 
     def __init__(self, build, layout="us"):
         self.layout = layout
@@ -64,7 +63,7 @@ class WaylandSession(session.Session):
         return env
 
     def _start_sway(self):
-        """Sway refuses to run as root, and its sockets are for its own user and root."""
+        """Sway refuses to run as root. Its sockets are open to its own user and to root."""
         self.runtime = pathlib.Path(tempfile.mkdtemp(prefix="quillseal-sway-"))
         (self.runtime / "config").write_text(CONFIGURATION)
         command = ["sway", "--config", self.runtime / "config"]
@@ -93,12 +92,12 @@ class WaylandSession(session.Session):
         self.env["WAYLAND_DISPLAY"] = wait_for("sway starts", lambda: socket("wayland-*"))
         self.env["SWAYSOCK"] = wait_for("sway listens", lambda: socket("sway-ipc.*"))
         wait_for("sway answers", lambda: self.run("swaymsg", "-t", "get_version", check=False))
-        # Sway starts Xwayland only when somebody connects, and tells the number in its environment.
+        # Sway starts Xwayland at the first connection, and sets DISPLAY in its environment.
         told = self.runtime / "display"
         self.run("swaymsg", "exec", f"echo $DISPLAY > {told}")
         self.env["DISPLAY"] = wait_for("sway names its X display",
                                        lambda: told.exists() and told.read_text().strip())
-        if os.geteuid() == 0:  # the X server lets in sway's user
+        if os.geteuid() == 0:  # the X server accepts the user that sway runs as
             self.run("swaymsg", "exec", "xhost +si:localuser:root")
         wait_for("Xwayland starts", lambda: self.run("xprop", "-root", check=False))
 
@@ -120,11 +119,11 @@ class WaylandSession(session.Session):
     # Windows
 
     def tell_of_windows(self):
-        """A command that prints a line whenever a window changes."""
+        """Returns a command that prints a line whenever a window changes."""
         return "swaymsg", "-m", "-r", "-t", "subscribe", '["window"]'
 
     def windows(self):
-        """All of them, as sway describes them: name, app_id, focused, shell and so on."""
+        """Returns all windows as sway describes them: name, app_id, focused, shell and so on."""
         found = []
 
         def visit(node):
@@ -153,7 +152,7 @@ class WaylandSession(session.Session):
         return self._active() is not None
 
     def focus(self, pattern):
-        """Goes to a window, as a person does with the keys or the mouse."""
+        """Focuses a window, as a person does with the keys or the mouse."""
         window = next(window for window in self.windows()
                       if re.search(pattern, window["name"] or ""))
         self.run("swaymsg", f"[con_id={window['id']}] focus")
@@ -204,7 +203,7 @@ class WaylandSession(session.Session):
 
     @contextlib.contextmanager
     def xwayland(self):
-        """What is started meanwhile uses X11 although it knows Wayland."""
+        """Programs that are started meanwhile use X11 even if they support Wayland."""
         kept = dict(self.env)
         self.env.update(GDK_BACKEND="x11", SAL_USE_VCLPLUGIN="gen")
         del self.env["WAYLAND_DISPLAY"]

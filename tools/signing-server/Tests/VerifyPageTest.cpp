@@ -106,11 +106,12 @@ class VerifyPageTest : public PageTest {
 
   std::string linkTo(const std::string& id) const { return front_->origin() + "/verify/" + id; }
 
-  /// Returns the cases of paste-cases.jsonl under this test's name. Each is an object: - "base":
-  /// the text that was signed, usually "{text}" - "paste": with "{link}" for the record's own link,
-  /// "{halves}" for that with a space in it - "tone": good, caution, bad or unknown - "words",
-  /// "shown", "unshown": each is in the verdict, below it, or nowhere on the page - "made",
-  /// "changed": how the record differs, and what happened to it after it was signed
+  /// Returns the cases of paste-cases.jsonl under this test's name. Each is an object:
+  ///  - "base": the text that was signed, usually "{text}"
+  ///  - "paste": with "{link}" for the record's own link, "{halves}" for the link with a space in it
+  ///  - "tone": good, caution, bad or unknown
+  ///  - "words", "shown", "unshown": texts in the verdict, below it, or nowhere on the page
+  ///  - "made", "changed": how the record differs, and how it was changed after signing
   static std::vector<json> cases() {
     const std::string heading =
         std::string("# ") + ::testing::UnitTest::GetInstance()->current_test_info()->name();

@@ -1,8 +1,8 @@
-"""Applications in which people write, beside the editor and the browsers."""
+"""Further applications in which people write: word processor and terminal."""
 
 from session import wait_for
 
-# Asks nothing at the first start.
+# Disables the questions at the first start.
 WRITER_SETTINGS = """<?xml version="1.0" encoding="UTF-8"?>
 <oor:items xmlns:oor="http://openoffice.org/2001/registry">
 <item oor:path="/org.openoffice.Office.Common/Misc"><prop oor:name="ShowTipOfTheDay" oor:op="fuse">
@@ -36,8 +36,7 @@ class Writer:
         session.wait_for_window("letter.fodt - LibreOffice Writer", "Writer opens the letter")
 
     def saved(self, containing):
-        """Saves once the agent has done its work; gives the document's markup when it holds the
-        text asked for."""
+        """Saves after the agent has finished. Returns the markup once it holds the text."""
         self.session.wait_for_notification("✅ Signature Generated!")
         self.session.wait_for_window("letter.fodt - LibreOffice Writer", "Writer is in front")
         self.session.key("ctrl+s")
@@ -49,8 +48,8 @@ class Writer:
 
 
 class Terminal:
-    """A terminal that shows `text` and in which a program reads what is typed: `reader`, or one that
-    keeps it in a file."""
+    """A terminal that shows `text`, in which a program reads the typed text: `reader`, or one that
+    writes it to a file."""
 
     COMMANDS = {
         "xfce4-terminal": ("--disable-server", "--title", "Notes", "--dynamic-title-mode", "none",
@@ -68,7 +67,7 @@ class Terminal:
         wait_for("the terminal shows the text", (session.home / "shown").exists)
 
     def drag_over(self, expected):
-        """Selects with the mouse, from the first line to one below the last."""
+        """Selects with the mouse, from the first line to the line below the last."""
         window = self.session.active_window()
 
         def selected():

@@ -1,4 +1,4 @@
-"""Real browsers in a private desktop, with the extension installed as a package installs it."""
+"""Real browsers on a private desktop, with the extension installed as by the package."""
 
 import contextlib
 import http.server
@@ -35,8 +35,8 @@ CHROMIUM_FLAGS = ("--no-first-run", "--ozone-platform-hint=auto", "--disable-bac
 
 
 def enter_installed_system(build, prefix):
-    """Starts this program anew where the extension is installed: in a mount namespace of its own,
-    in which what `cmake --install` writes lies over the system's folders. Returns in there."""
+    """Starts this program again in a private mount namespace, in which the files of `cmake
+    --install` lie over the system's folders, so that the extension is installed. Returns there."""
     if os.environ.get("QUILLSEAL_INSTALLED"):
         return
     stage = pathlib.Path(tempfile.mkdtemp(prefix="quillseal-installed-"))
@@ -44,7 +44,7 @@ def enter_installed_system(build, prefix):
         subprocess.run(["cmake", "--install", build, "--component", "browser-extension"],
                        env={**os.environ, "DESTDIR": str(stage)}, check=True, capture_output=True)
         if prefix != "/usr":
-            # Where the parts would lie had they been installed by a package.
+            # The folders of an installed package.
             own = stage / prefix.lstrip("/")
             for part in list(own.iterdir()):
                 shutil.copytree(part, stage / ("etc" if part.name == "etc" else f"usr/{part.name}"),
@@ -61,8 +61,8 @@ def enter_installed_system(build, prefix):
 
 
 class Site:
-    """Pages that tell which of them are open, what is typed and pasted in them, and how what is
-    selected ends."""
+    """Pages that report which of them are open, what is typed and pasted in them, and the end of
+    the selected text."""
 
     PAGE = """<!DOCTYPE html><meta charset="utf-8"><title>{title}</title>
 <style>body {{ font: 16px sans-serif; margin: 2em; }} #field {{ border: 1px solid #888; padding: 1em;
@@ -88,12 +88,12 @@ document.addEventListener("selectionchange", () => tell("selected", String(getSe
               "plain": '<textarea id="field">{}</textarea>'}
 
     def __init__(self, kind="rich", text=""):
-        """`text` is markup, and what is in the field at first."""
+        """`text` is markup: the initial content of the field."""
         site = self
         self.open = []
-        self.told = {}  # by what is told and by page
+        self.told = {}  # by kind of report and page
         self.counts = {}
-        self.leads_to = {}  # addresses by the paths that redirect there
+        self.leads_to = {}  # redirects: path to URL
         self.write(text, kind)
 
         class Handler(http.server.BaseHTTPRequestHandler):
@@ -126,7 +126,7 @@ document.addEventListener("selectionchange", () => tell("selected", String(getSe
                     site.open.append(page)
                 elif what == "gone" and page in site.open:
                     site.open.remove(page)
-                # What was sent later may have come earlier.
+                # Reports may arrive out of order.
                 if int(query["count"][0]) > site.counts.get((what, page), 0):
                     site.counts[what, page] = int(query["count"][0])
                     site.told[what, page] = body
@@ -143,7 +143,7 @@ document.addEventListener("selectionchange", () => tell("selected", String(getSe
         return f"http://127.0.0.1:{self.server.server_port}{path}?h={page}"
 
     def write(self, text, kind="rich"):
-        """Into the field of every page that is opened from now on."""
+        """Sets the text in the field of every page that is opened later."""
         self.field = self.FIELDS[kind].format(text)
 
     def wait_for_open(self, *pages):
@@ -152,21 +152,21 @@ document.addEventListener("selectionchange", () => tell("selected", String(getSe
 
 
 class Browser:
-    """`family` is "chromium" or "firefox-esr": program and desktop file are named so."""
+    """`family` is "chromium" or "firefox-esr", the name of program and desktop file."""
 
     def __init__(self, session, family, with_extensions=True):
         self.session = session
         self.family = family
         self.process = None
         if family == "chromium":
-            # Without the second, a bar below the address warns of the first.
+            # The second option hides the warning about the first.
             sandbox = ("--no-sandbox", "--test-type") if os.geteuid() == 0 else ()
             off = () if with_extensions else ("--disable-extensions",)
             self.command = ("chromium", *sandbox, *off, *CHROMIUM_FLAGS)
         else:
             profile = session.home / "firefox-profile"
             profile.mkdir(exist_ok=True)
-            # The scopes are bits; 1 is for those that the user has installed.
+            # The scopes are bits; 1 stands for extensions that the user has installed.
             off = "" if with_extensions else 'user_pref("extensions.enabledScopes", 1);'
             (profile / "user.js").write_text(FIREFOX_PREFERENCES + off)
             self.command = ("firefox-esr", "--profile", str(profile))
@@ -175,21 +175,21 @@ class Browser:
         self.process = self.session.start(*self.command, url)
 
     def open(self, url):
-        """In a new tab of the running browser."""
+        """Opens a new tab in the running browser."""
         self.session.start(*self.command, *(["--new-tab"] if "firefox" in self.family else []), url)
 
     def open_window(self, url):
         self.session.start(*self.command, "--new-window", url)
 
     def wait_for_page(self, title):
-        """Waits until the page is what the user sees and types into."""
+        """Waits until the page is visible and focused."""
         self.session.wait_for_window(rf"^{re.escape(title)} [-—] (Chromium|Mozilla Firefox)")
 
     def quit(self):
         self.session.end(self.process)
 
     def remembered(self):
-        """Every text in the history of the browser, which has quit, and in what belongs to it."""
+        """Returns every text in the history files of the browser, which has quit."""
         names = (("History", "Favicons") if self.family == "chromium" else
                  ("places.sqlite", "favicons.sqlite"))
         texts = []

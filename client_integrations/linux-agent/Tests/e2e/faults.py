@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""What the agent does when the desktop around it breaks: docs/faults.md names each of these.
+"""Tests what the agent does when the desktop around it breaks. docs/faults.md lists them.
 
-Options and names of tests are those of stories.py.
+Options and test names as in stories.py.
 """
 
 import ctypes
@@ -18,7 +18,7 @@ from xclient import XClient
 
 
 class Rival(XClient):
-    """Takes things and then never answers."""
+    """An X client that takes the hotkey or the clipboard and never answers."""
 
     ANY_MODIFIER = 1 << 15
 
@@ -50,7 +50,7 @@ class Rival(XClient):
 
 
 class MuteService:
-    """A program that has a name on the session bus, and never answers."""
+    """A program that owns a name on the session bus and never answers."""
 
     def __init__(self, address, name):
         self.dbus = ctypes.CDLL("libdbus-1.so.3")
@@ -124,7 +124,7 @@ class Faults(Fault):
         self.assert_signed(editor)
 
     def replace_server(self):
-        """By one that has seen nothing of what the stopped one was sent."""
+        """Replaces the server by one that has not received the stopped one's requests."""
         port = self.desktop.server_url.rsplit(":", 1)[1]
         self.desktop.end(self.desktop.server, signal.SIGKILL)
         self.desktop.start_server(port=port)
@@ -134,7 +134,7 @@ class Faults(Fault):
         self.assert_ended()
 
     def test_the_x_server_dies(self):
-        # Qt ends the program on the spot then, and hands back nothing.
+        # Qt then exits at once, without unwinding.
         self.desktop.env["LSAN_OPTIONS"] = "detect_leaks=0"
         self.start()
         self.desktop.press_in_editor()
@@ -146,7 +146,7 @@ class Faults(Fault):
         self.assertEqual(self.key_file.read_bytes(), key)
 
     def test_it_is_the_only_client_of_its_x_server(self):
-        """Which starts over when its last client leaves it, as X servers do unless told otherwise."""
+        """The X server resets when its last client leaves, as X servers do by default."""
         for _ in range(8):
             server = self.desktop.start_x_server()
             self.desktop.start_agent()
@@ -213,7 +213,7 @@ class Faults(Fault):
         rival.take_clipboard()
         asked = time.monotonic()
         self.desktop.close("No Text Found")
-        self.assertLess(time.monotonic() - asked, 20)  # each format alone costs the toolkit 5
+        self.assertLess(time.monotonic() - asked, 20)  # the toolkit would wait 5 for each format
 
     def test_a_format_is_offered_and_never_delivered(self):
         self.start()
@@ -224,7 +224,7 @@ class Faults(Fault):
         self.desktop.press_hotkey()
         self.desktop.choose_secret()
         self.desktop.wait_for_output(editor, "asked", "somebody wants the format")
-        # Told so within five seconds: the toolkit would wait as long for each format.
+        # Reported within five seconds; the toolkit would wait that long for each format.
         self.desktop.run(self.desktop.quillseal, "--settings")
         self.desktop.enter_secret()
         wait_for("the block is on the clipboard",
@@ -248,7 +248,7 @@ class Faults(Fault):
     def test_a_module_is_missing(self):
         self.desktop.quillseal = shutil.copy(self.desktop.quillseal, self.desktop.folder)
         self.start(DemoSigning="true")
-        self.desktop.press_hotkey()  # with no window in front
+        self.desktop.press_hotkey()  # with no active window
         self.desktop.close("Signing Error")
         self.desktop.press_in_editor()
         self.desktop.close("Signing Error")

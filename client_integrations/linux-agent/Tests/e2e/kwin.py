@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""The agent on KDE's compositor, with native applications and one under Xwayland.
+"""Tests the agent on KDE's compositor, with native applications and one under Xwayland.
 
-Options and names of tests are those of stories.py.
+Options and test names as in stories.py.
 """
 
 import re
@@ -22,7 +22,7 @@ class OnKwin(stories.Story):
 
 
 class KwinSigning(OnKwin, stories.Signing):
-    """What holds under X11 holds here."""
+    """The stories of X11, here."""
 
 
 class KwinDialogs(OnKwin, stories.Dialogs):
@@ -119,7 +119,7 @@ class KwinHotkey(OnKwin):
         self.start()
         self.desktop.wait_for_notification("Another program already uses Ctrl+Alt+Super+H")
         self.assertIn("'other'", self.desktop.call_shortcuts("action", str(HOTKEY)))
-        # The refusal is not remembered.
+        # The refusal is not stored.
         self.desktop.end(self.desktop.agent)
         self.desktop.call_shortcuts("unregister", "other", "act")
         self.desktop.start_agent()
@@ -140,7 +140,7 @@ class KwinHotkey(OnKwin):
 
 
 class KwinLayouts(OnKwin):
-    """The agent presses the right keys, whatever the person types on."""
+    """The agent presses the right keys with any layout of the person's keyboard."""
 
     def make_desktop(self):
         layout = {"french": "fr", "german": "de", "russian": "ru,us", "layouts": "us,fr"}

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""The agent used as a person uses it, on a virtual desktop with real applications.
+"""Tests the agent as a person uses it, on a virtual desktop with real applications.
 
-What follows the options goes to unittest: the names of tests, such as Signing or
-Signing.test_a_wrong_passphrase_may_be_corrected, or nothing for all of them.
+Arguments after the options go to unittest: names of tests, such as Signing or
+Signing.test_a_wrong_passphrase_may_be_corrected, or none for all.
 """
 
 import hashlib
@@ -23,14 +23,14 @@ from applications import Terminal, Writer
 from browsers import Browser, Site
 from session import LETTER, wait_for
 
-# In paragraphs, with characters that are written in more ways than one, and what is signed of it.
+# A text of paragraphs with characters that have several forms, and its signed form.
 PARAGRAPHS = "Dear Ms Whitcombe,\n\nthe second draft of “the lease” suits us — Zoë, 京都"
 DIGEST = hashlib.sha256(
     'DearMsWhitcombe,theseconddraftof"thelease"suitsus-Zoë,京都'.encode()).hexdigest()
 
 
 class Story(unittest.TestCase):
-    """One desktop for each test, so that none sees what another left."""
+    """Each test has its own desktop."""
 
     build = None
     panel = False
@@ -52,8 +52,8 @@ class Story(unittest.TestCase):
 
     def start(self, **settings):
         url = self.desktop.start_server()
-        # With the mode known, the key is registered before it first signs, and the person is asked
-        # once; a test below starts without.
+        # With the mode set, the key is registered before its first signature, so the person is
+        # asked once. One test below starts without it.
         self.desktop.write_settings(ServerURL=url, **{"SigningMode": "enclave", **settings})
         self.desktop.start_agent()
 
@@ -134,8 +134,8 @@ class Signing(Story):
 
 
 class Applications(Story):
-    """One letter, written in different applications: it has one digest, and the block takes its
-    place in the form that each of them knows."""
+    """A letter in different applications has the same digest, and the block replaces it in the
+    format of each application."""
 
     def setUp(self):
         super().setUp()
@@ -165,7 +165,7 @@ class Applications(Story):
         offered = self.sign()
         self.assertLessEqual({"text/html", "text/rtf"}, set(offered))
         document = writer.saved("Check this signature")
-        # The text keeps its formatting, and the stamp is a table.
+        # The text keeps its formatting; the stamp is a table.
         self.assertRegex(document, r'<text:span text:style-name="\w+">draft</text:span>')
         self.assertEqual(document.count("<table:table "), 1)
         self.assertEqual((document.count("『"), document.count("』")), (1, 1))
@@ -197,7 +197,7 @@ class Applications(Story):
         self.assertRegex("".join(text.split()), f"^『{''.join(PARAGRAPHS.split())}』🛡️QUILLSEAL")
 
     def assert_left_to_paste(self, terminal):
-        """No interrupt has ended the program, and it has read nothing but what is typed now."""
+        """Checks that no interrupt has ended the program and that it reads only what is typed now."""
         self.desktop.close("Signed — Paste It Into Your Message")
         self.assertTrue(self.desktop.selection().startswith(f"『{PARAGRAPHS}』\n\n────"))
         self.desktop.wait_for_window("Notes")
@@ -249,13 +249,13 @@ class SoftwareTpm(Story):
         self.enter_wrong_secret("PIN")
         self.desktop.enter_secret(kind="PIN")
         self.assert_signed(editor)
-        # Nothing of the TPM's own software, which reports every command that failed.
+        # No output of the TPM's software, which reports every failed command.
         for line in self.desktop.output_of(self.desktop.agent).splitlines():
             self.assertRegex(line, r"^\[\w+\] ")
 
 
 class Dialogs(Story):
-    """All of them are answered by keyboard."""
+    """Tests of the agent's windows, which are answered by keyboard."""
 
     def press_on(self, text, **settings):
         self.start(**settings)
@@ -371,8 +371,8 @@ class Trouble(Story):
 
 class Shield(Story):
     def start_as_user(self, *command):
-        """As root without the right to read every process, which makes root a user like others, and
-        with core files allowed."""
+        """Runs as root without the right to read every process, so like any user, and with core
+        files allowed."""
         limit = resource.getrlimit(resource.RLIMIT_CORE)[1]
         return self.desktop.start(
             *self.user, *command,
@@ -426,7 +426,7 @@ class Commands(Story):
 
 
 class Limits(Story):
-    """Where not everything works, the agent says what does."""
+    """Where something does not work, the agent says what does."""
 
     def test_without_xtest_only_the_settings_work(self):
         self.desktop = self.enterContext(
@@ -439,8 +439,8 @@ class Limits(Story):
                  lambda: "Quill Seal Server Settings" in self.desktop.window_names())
 
     def test_a_wayland_session_is_signed_in_through_its_x_server(self):
-        # The wish for Wayland is one that some desktops make for every program; the type of the
-        # session is what a compositor started from a console leaves.
+        # Some desktops set QT_QPA_PLATFORM to Wayland for every program; a compositor that is
+        # started from a console leaves this session type.
         self.desktop.env.update(XDG_SESSION_TYPE="tty", WAYLAND_DISPLAY="wayland-0",
                                 QT_QPA_PLATFORM="wayland")
         self.start()

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""The agent in a Wayland session: on sway, with native applications and one under Xwayland. Nothing of
-it touches an X server but what is said to.
+"""Tests the agent on sway, with native applications and one under Xwayland. Only tests that say so
+use an X server.
 
-Options and names of tests are those of stories.py.
+Options and test names as in stories.py.
 """
 
 import os
@@ -23,7 +23,7 @@ class OnSway(stories.Story):
 
 
 class SwaySigning(OnSway, stories.Signing):
-    """What holds under X11 holds here."""
+    """The stories of X11, here."""
 
 
 class SwayDialogs(OnSway, stories.Dialogs):
@@ -35,7 +35,7 @@ class SwayApplications(OnSway, stories.Applications):
 
     def test_a_terminal_without_a_key_that_copies(self):
         terminal = Terminal(self.desktop, "xterm", stories.PARAGRAPHS)
-        # As the mouse would: an X client takes the selection while the terminal is in front.
+        # In place of the mouse, an X client takes the selection while the terminal is active.
         self.desktop.start("xclip", "-i", "-quiet", "-selection", "primary", "letter.txt")
         wait_for("the text is selected",
                  lambda: self.desktop.selection("primary") == stories.PARAGRAPHS)
@@ -118,7 +118,7 @@ class SwayClipboard(OnSway):
         wait_for("nothing of Quillseal stays behind", lambda: not self.keepers())
 
     def keepers(self):
-        """Those of this session, whose home is where it is started."""
+        """Returns the processes of this session, which run in its home."""
         def is_at_home(pid):
             try:
                 return pathlib.Path(f"/proc/{pid}/cwd").resolve() == self.desktop.home
@@ -181,7 +181,8 @@ class SwayHotkey(OnSway):
 
 
 class SwayLayouts(OnSway):
-    """The agent presses keys that every application understands, whatever the person types on."""
+    """The agent presses keys that every application understands, with any layout of the person's
+    keyboard."""
 
     def make_desktop(self):
         layout = {"french": "fr", "german": "de", "russian": "ru,us"}

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""The text is copied from the window it is selected in and pasted into that one, or nowhere, whatever
-the person does meanwhile.
+"""Tests that the text is copied from the window in which it is selected and pasted there or
+nowhere, whatever the person does meanwhile.
 
-Options and names of tests are those of stories.py.
+Options and test names as in stories.py.
 """
 
 import contextlib
@@ -22,10 +22,10 @@ PASTE_YOURSELF = "Signed — Paste It Into Your Message"
 
 
 class WindowStory(Story):
-    """A letter, and another program's window to which nothing may happen."""
+    """A letter, and another program's window that must stay untouched."""
 
     def open_chat(self):
-        """Another program's window in front, all of its text selected."""
+        """Opens another program's window in front, with all its text selected."""
         chat = self.desktop.open_editor(CHAT, "chat.txt")
         self.desktop.select_all(CHAT)
         chat.window = self.desktop.active_window()
@@ -38,14 +38,14 @@ class WindowStory(Story):
         return letter
 
     def make_key(self):
-        """So that the run of the story begins with the capture."""
+        """Registers the key first, so that the run of the story begins with the capture."""
         self.desktop.press_hotkey()
         self.desktop.choose_secret()
         self.desktop.close("No Text Found")
 
     @contextlib.contextmanager
     def while_the_server_is_slow(self):
-        """Of a run that is at the question for the passphrase."""
+        """Stops the server for a while in a run that asks for the passphrase."""
         self.desktop.wait_for_window("Enter the passphrase")
         os.kill(self.desktop.server.pid, signal.SIGSTOP)
         self.desktop.enter_secret()
@@ -64,7 +64,7 @@ class WindowStory(Story):
         self.assertNotIn("Signature Generated", self.desktop.output_of(self.desktop.monitor))
 
     def assert_untouched(self, editor, text):
-        """Nothing was typed or pasted into it."""
+        """Checks that nothing was typed or pasted into it."""
         self.switch_to(editor.window)
         name = re.escape(editor.file.name)
         self.desktop.wait_for_window(name)
@@ -80,7 +80,7 @@ class WindowStory(Story):
 
 
 class Windows(WindowStory):
-    panel = True  # a window above all others, and nothing to sign in
+    panel = True  # a window above all others without text to sign
 
     def setUp(self):
         super().setUp()
@@ -120,7 +120,7 @@ class Windows(WindowStory):
             self.desktop.wait_for_window(re.escape(letter.file.name))
             before = self.x.clipboard_owner()
         self.x.wait_until_clipboard_leaves(before)
-        self.x.focus(chat.window)  # within the 150 ms that a paste waits with the block there
+        self.x.focus(chat.window)  # within the 150 ms between block and paste
         self.assert_left_on_clipboard("something else is in front of the source")
         self.assert_untouched(chat, CHAT)
         self.assert_untouched(letter, LETTER)
@@ -191,7 +191,8 @@ class Windows(WindowStory):
         self.make_key()
         chat = self.open_chat()
         letter = self.open_letter()
-        # An agent that gets no processor for so long sees the other window only: that is signed then.
+        # An agent that does not run for so long sees only the other window, whose text is then
+        # signed.
         self.assertTrue(any(self.is_refused_after_switch(letter, chat) for _ in range(4)))
         self.assertEqual(self.desktop.recorded(), [])
         self.assert_untouched(chat, CHAT)
@@ -203,7 +204,7 @@ class Windows(WindowStory):
         before = self.desktop.selection()
         held = self.desktop.start(self.desktop.held_keys, 1500, *HOTKEY)
         self.desktop.wait_for_output(held, "pressed", "the keys are down")
-        time.sleep(0.2)  # the agent has looked what is in front, and waits for the keys' release
+        time.sleep(0.2)  # the agent knows the active window and waits for the keys' release
         self.x.focus(chat.window)
         if self.desktop.wait_for_window("Not Signed|Enter the passphrase")[0] == "Not Signed":
             self.desktop.close("Not Signed")
@@ -222,7 +223,7 @@ class Windows(WindowStory):
         wait_for("the letter is selected", lambda: self.desktop.selection("primary") == LETTER)
         os.kill(letter.pid, signal.SIGSTOP)
         self.desktop.press_hotkey()
-        time.sleep(0.3)  # it has pressed the keys that copy
+        time.sleep(0.3)  # the agent has pressed the copy keys
         os.kill(self.desktop.agent.pid, signal.SIGSTOP)
         time.sleep(1.3)
         os.kill(letter.pid, signal.SIGCONT)
@@ -269,7 +270,7 @@ class Windows(WindowStory):
         self.assert_signed(letter)
 
     def select_with_mouse(self, window):
-        """Whatever of its text is selectable."""
+        """Selects all selectable text of the window."""
         def selected():
             self.desktop.run("xdotool", "mousemove", "--window", window, 68, 57, "mousedown", 1,
                              "mousemove", "--window", window, 300, 57, "mouseup", 1)

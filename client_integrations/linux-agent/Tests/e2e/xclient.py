@@ -1,4 +1,4 @@
-"""A client of the X server, for what no program does on command."""
+"""An X client for actions that no ordinary program does on command."""
 
 import contextlib
 import ctypes
@@ -9,7 +9,7 @@ from session import PATIENCE, Failure
 
 @ctypes.CFUNCTYPE(ctypes.c_int, ctypes.c_void_p, ctypes.c_void_p)
 def take_no_notice(_display, _error):
-    """A window may be gone, or out of sight. The library would end the program."""
+    """Ignores X errors, which would end the program: a window may be closed or hidden."""
     return 0
 
 
@@ -32,7 +32,7 @@ class XClient:
         self.x11.XCloseDisplay(self.display)
 
     def focus(self, window):
-        """Gives the window the keyboard, at once."""
+        """Focuses the window at once."""
         revert_to_parent = 2
         self.x11.XRaiseWindow(self.display, ctypes.c_ulong(int(window)))
         self.x11.XSetInputFocus(self.display, ctypes.c_ulong(int(window)), revert_to_parent,
@@ -41,7 +41,7 @@ class XClient:
 
     @contextlib.contextmanager
     def holding_the_keyboard(self):
-        """As an open menu or a locked screen does: all keys come here, the focus stays."""
+        """Grabs the keyboard, as an open menu or the screen lock does; the focus does not change."""
         asynchronous, success = 1, 0
         result = self.x11.XGrabKeyboard(self.display, self.root, 0, asynchronous, asynchronous,
                                         ctypes.c_ulong(0))
@@ -55,7 +55,7 @@ class XClient:
         return self.x11.XGetSelectionOwner(self.display, self.clipboard)
 
     def wait_until_clipboard_leaves(self, owner):
-        """Without the pauses of other waiting."""
+        """Waits for another owner of the clipboard, without pauses."""
         deadline = time.monotonic() + PATIENCE
         while self.clipboard_owner() == owner:
             if time.monotonic() > deadline:

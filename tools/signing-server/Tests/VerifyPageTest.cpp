@@ -108,7 +108,8 @@ class VerifyPageTest : public PageTest {
 
   /// Returns the cases of paste-cases.jsonl under this test's name. Each is an object:
   ///  - "base": the text that was signed, usually "{text}"
-  ///  - "paste": with "{link}" for the record's own link, "{halves}" for the link with a space in it
+  ///  - "paste": with "{link}" for the record's own link, "{halves}" for the link with a space in
+  ///  it
   ///  - "tone": good, caution, bad or unknown
   ///  - "words", "shown", "unshown": texts in the verdict, below it, or nowhere on the page
   ///  - "made", "changed": how the record differs, and how it was changed after signing

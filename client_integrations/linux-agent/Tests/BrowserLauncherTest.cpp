@@ -68,8 +68,8 @@ TEST(Browsers, RunAsTheirPrograms) {
     EXPECT_FALSE(Browsers::isProgramOf(identifier, program)) << identifier;
 }
 
-/// A computer with browsers that only write down what they are to open. GIO reads where
-/// applications are once, so this is there for the whole program.
+/// A computer whose browsers only record what they should open. It exists for the whole program,
+/// because GIO reads the folders of applications once.
 class Computer {
  public:
   Computer() {
@@ -102,7 +102,7 @@ class Computer {
     fs::permissions(root() / name, fs::perms::owner_all);
   }
 
-  /// What the program was started with.
+  /// Returns the arguments that the program was started with.
   [[nodiscard]] std::string opened(const std::string& program) const {
     const fs::path file = root() / (program + ".opened");
     for (const auto end = std::chrono::steady_clock::now() + 20s;
@@ -158,7 +158,7 @@ class BrowserLauncherTest : public ::testing::Test {
     return "";
   }
 
-  /// GIO turns addresses of files into paths for some desktop files.
+  /// For some desktop files GIO passes paths instead of file URLs.
   static fs::path pathOf(const std::string& address) {
     const std::string_view scheme = "file://";
     return address.starts_with(scheme) ? address.substr(scheme.size()) : address;
@@ -238,7 +238,7 @@ TEST_F(BrowserLauncherTest, DeletesThePagesOfAnAgentThatWasKilled) {
   const fs::path old = folder / "page-old.html";
   const fs::path fresh = folder / "page-fresh.html";
   const fs::path other = folder / "tabs";
-  launcher_.open(urlOfLength(40), "");  // which makes the folder
+  launcher_.open(urlOfLength(40), "");  // creates the folder
   for (const fs::path& file : {old, fresh, other})
     testing::overwrite(file, "x");
   for (const fs::path& file : {old, other})

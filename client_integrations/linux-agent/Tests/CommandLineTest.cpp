@@ -58,8 +58,8 @@ TEST(CommandLineTest, SaysWhatItDoesNotUnderstand) {
   }
 }
 
-// A second start without an option shows the settings: where the panel has no tray, that is the way
-// to them.
+// A second start without an option shows the settings: without a tray there is no other way to
+// them.
 TEST(CommandLineTest, ASecondStartOpensTheSettings) {
   EXPECT_EQ(wireName(Command::start), wireName(Command::settings));
   EXPECT_EQ(wireName(Command::help), "");

@@ -49,7 +49,7 @@ HttpPost postTo(const ScriptedServer& server) {
   return postTo("http://127.0.0.1:" + std::to_string(server.port()) + "/");
 }
 
-/// How a request ended: with an answer, or with a code other than 0.
+/// The result of a request: an answer, or a code other than 0.
 struct Ending {
   int status = 0;
   std::string body{};
@@ -86,7 +86,7 @@ class CurlTransportTest : public ::testing::Test {
 TEST_F(CurlTransportTest, SendsExactlyTheRequest) {
   const ScriptedServer server({.answer = answerOf("200 OK", "{}"), .tls = {}});
   const std::string host = "127.0.0.1:" + std::to_string(server.port());
-  const std::string body(2'000'000, 'x');  // libcurl would ask whether it may send so much
+  const std::string body(2'000'000, 'x');  // large enough for "Expect: 100-continue"
   EXPECT_EQ(endingOf(postTo("http://" + host + "/api/sign_native", body)).status, 200);
   ASSERT_EQ(server.requests().size(), 1U);
   const std::string request = server.requests()[0];
@@ -176,7 +176,7 @@ TEST_F(CurlTransportTest, ServersOutOfReach) {
   const HttpPost unheard = postTo(ScriptedServer({.answer = "", .tls = {}}));
   EXPECT_EQ(endingOf(unheard).code, transport::cannotConnectToHost);
 
-  // Names under "invalid" exist nowhere (RFC 6761). Without any network there is no answer at all.
+  // Names under "invalid" do not exist (RFC 6761). Without a network there is no answer at all.
   EXPECT_EQ(endingOf(postTo("http://server.invalid")).code, transport::cannotFindHost);
 }
 
@@ -239,7 +239,7 @@ TEST_F(CurlTransportTest, AWithdrawnRequestIsSilentAndItsConnectionCloses) {
   };
   desktop::Ticket request = send();
   runUntil(loop_, [&] { return server.connections() == 1; });
-  // The server takes the next connection only once this one is closed.
+  // The server accepts the next connection only after this one is closed.
   request = {};
   request = send();
   runUntil(loop_, [&] { return server.connections() == 2; });

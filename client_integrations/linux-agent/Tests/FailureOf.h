@@ -6,7 +6,7 @@
 
 namespace quillseal::testing {
 
-/// What a key store says when the action fails.
+/// Returns the message of the KeyFailure that the action throws.
 std::string failureOf(const auto& action) {
   try {
     action();

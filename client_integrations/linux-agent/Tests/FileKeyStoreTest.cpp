@@ -54,7 +54,7 @@ TEST_F(FileKeyStoreTest, SignsSoThatThePublicKeyVerifies) {
   const P256::Point publicKey = store.publicKey();
   P256::Digest other = digest;
   other.back() ^= 1U;
-  // Enough to meet integers with leading zero bytes, which DER leaves out.
+  // Enough for some integers with leading zero bytes, which DER omits.
   for (int round = 0; round < 200; ++round) {
     const auto signature = store.sign(digest, passphrase());
     ASSERT_TRUE(signature);
@@ -159,7 +159,7 @@ TEST_F(FileKeyStoreTest, ClosesItsFiles) {
   EXPECT_EQ(open(), before);
 }
 
-// With as much work as such a file can ask for, OpenSSL would not be done in a lifetime.
+// With the most work that such a file can demand, OpenSSL would need years.
 TEST_F(FileKeyStoreTest, AFileThatTakesTooLongIsNotOpened) {
   store.create(passphrase());
   constexpr std::array<std::string_view, 2> labels{"PUBLIC KEY", "ENCRYPTED PRIVATE KEY"};
@@ -171,7 +171,8 @@ TEST_F(FileKeyStoreTest, AFileThatTakesTooLongIsNotOpened) {
   constexpr std::array<std::uint8_t, 9> more{0x02, 0x01, 64, 0x02, 0x01, 127, 0x02, 0x01, 127};
   const auto found = std::search(key.begin(), key.end(), asked.begin(), asked.end());
   ASSERT_NE(found, key.end());
-  // Before them a salt of 16 bytes, and somewhere the cipher AES-256-CBC (2.16.840.1.101.3.4.1.42).
+  // A salt of 16 bytes precedes them, and the cipher AES-256-CBC (2.16.840.1.101.3.4.1.42) must
+  // occur.
   ASSERT_GT(found - key.begin(), 18);
   EXPECT_THAT(std::vector(found - 18, found - 16), ::testing::ElementsAre(0x04, 16));
   constexpr std::array<std::uint8_t, 11> cipher{0x06, 9, 0x60, 0x86, 0x48, 1, 101, 3, 4, 1, 42};

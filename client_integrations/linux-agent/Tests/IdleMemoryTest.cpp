@@ -23,7 +23,7 @@ std::size_t residentBytes() {
   return resident * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
 }
 
-// As the passphrase of a key file does, in whichever workers are free.
+// Allocates as scrypt does for a key file, in several workers.
 TEST(IdleMemory, HoldsNoLargeBlocksOfWorkers) {
   if (!returnLargeBlocks()) GTEST_SKIP() << "a sanitizer's allocator keeps what is freed";
   constexpr std::size_t workers = 4;
@@ -34,7 +34,7 @@ TEST(IdleMemory, HoldsNoLargeBlocksOfWorkers) {
   for (std::size_t i = 0; i < workers; ++i)
     threads.emplace_back([&] {
       for (int round = 0; round < 3; ++round) {
-        // More than one, so that the C library would raise its limit.
+        // More than one block, so that the C library would raise its threshold.
         const std::vector<char> first(blockSize, 'x');
         const std::vector<char> second(blockSize, first.back());
       }

@@ -33,7 +33,7 @@ TEST(JournalLogTest, DoesNotWaitUntilSomebodyReadsItsOutput) {
   const auto written = std::async(std::launch::async, [&log] { log.write("a line"); });
   const auto status = written.wait_for(std::chrono::seconds(20));
 
-  // A writer that waits goes on.
+  // Wakes a writer that would wait.
   while (::read(pipe[0], page.data(), page.size()) > 0) {
   }
   written.wait();

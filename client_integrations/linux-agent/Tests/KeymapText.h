@@ -7,7 +7,7 @@
 
 namespace quillseal::testing {
 
-/// A layout that xkeyboard-config(7) names, as compositors give it to programs.
+/// Returns the keymap text of a layout (xkeyboard-config(7)), as compositors send it.
 inline std::string keymapText(const char* layout) {
   xkb_context* const context = xkb_context_new(XKB_CONTEXT_NO_FLAGS);
   const xkb_rule_names names{

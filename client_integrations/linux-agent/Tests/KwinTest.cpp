@@ -39,17 +39,17 @@ using ::testing::IsEmpty;
 using testing::PrivateBus;
 using testing::ScriptedCompositor;
 
-constexpr int controlAltMetaH = 0x1C000048;  // as Qt numbers it
+constexpr int controlAltMetaH = 0x1C000048;  // in Qt's numbering
 
-/// What KDE has on the session bus, on a thread of its own.
+/// KDE's services on the session bus, on their own thread.
 class ScriptedKde {
  public:
   struct Script {
-    std::optional<std::uint32_t> layout{};  ///< nobody tells when there is none
+    std::optional<std::uint32_t> layout{};  ///< the layout service is absent if empty
     bool isLocked = false;
     bool answers = true;
     int granted = controlAltMetaH;  ///< 0 when the keys are refused
-    std::string owner{};            ///< component that has them
+    std::string owner{};            ///< component that owns them
   };
 
   explicit ScriptedKde(Script script) : script_(std::move(script)) {
@@ -69,7 +69,7 @@ class ScriptedKde {
   ScriptedKde(const ScriptedKde&) = delete;
   ScriptedKde& operator=(const ScriptedKde&) = delete;
 
-  /// To whom it may concern: "globalShortcutPressed" and so on, of an action of Quillseal's.
+  /// Sends "globalShortcutPressed" or the like for an action of Quillseal.
   void tell(const std::string& signal, const std::string& action = "sign") {
     const std::lock_guard lock(mutex_);
     signals_.emplace_back(signal, action);
@@ -147,7 +147,7 @@ class Kwin : public ::testing::Test {
 
 // Keys --------------------------------------------------------------------------------------------
 
-/// What is pressed after what the person may hold has been let go.
+/// Returns the keys that are pressed after the releases of keys that the user may hold.
 std::vector<std::string> chordIn(const std::vector<std::string>& keys) {
   const auto first = std::ranges::find_if(keys, [](const auto& key) { return key.back() == '+'; });
   return {first, keys.end()};
@@ -207,7 +207,7 @@ TEST_F(KwinKeys, ReachNoWindowBehindALockedScreen) {
   const auto connection = WaylandConnection::open();
   const auto bus = DesktopBus::open();
   const KwinKeyboard keyboard(*connection, bus.get());
-  EXPECT_TRUE(keyboard.reachesActiveWindow());  // nobody locks screens here
+  EXPECT_TRUE(keyboard.reachesActiveWindow());  // no service that locks screens
   for (const bool isLocked : {true, false}) {
     const ScriptedKde kde({.isLocked = isLocked});
     EXPECT_EQ(keyboard.reachesActiveWindow(), !isLocked);

@@ -42,7 +42,7 @@ class PolledDescriptors final : public Descriptors {
     return Ticket([this, descriptor] { watches_.erase(descriptor); });
   }
 
-  /// Serves what is ready until nothing is.
+  /// Runs the loop until nothing is ready.
   void serve() {
     while (serveOne()) {
     }
@@ -69,7 +69,7 @@ class RecordingLog final : public desktop::Log {
   std::string text;
 };
 
-/// The far end of a relay.
+/// The relay's end of a connection.
 class Browser {
  public:
   explicit Browser(const std::string& program) : socket_(TabSocket::connect().value()) {
@@ -104,7 +104,7 @@ bool isClosed(const FileDescriptor& socket) {
   return count == 0 || (count < 0 && errno == ECONNRESET);
 }
 
-/// What `call` gives when it is made in the name of nobody. Fails for others than root.
+/// Returns the result of `call` as the user nobody. Works only for root.
 int asAnotherUser(const std::function<int()>& call) {
   constexpr uid_t nobody = 65534;
   if (::seteuid(nobody) != 0) throw std::system_error(errno, std::generic_category(), "seteuid");
@@ -137,7 +137,7 @@ class LinuxBrowserTabsTest : public ::testing::Test {
     ticket_ = tabs_->closeAndRestore(request, [this](bool closed) { closed_ = closed; });
   }
 
-  /// What the agent is told when the browser answers that it shows this tab.
+  /// Returns what the agent learns if the browser answers that this tab is current.
   std::optional<std::string> tabShownBy(Browser& browser, const std::string& program,
                                         std::int64_t tab) {
     askTab(program);
@@ -233,7 +233,7 @@ TEST_F(LinuxBrowserTabsTest, IsDoneOnlyWhenClosedAndRestored) {
            Row{"1.5", {.closed = true, .restored = false}, false},
            Row{std::nullopt, {.closed = true, .restored = true}, true},
            Row{std::nullopt, {.closed = false, .restored = true}, false},
-           // Not a tab that this browser has told of.
+           // A tab that this browser has not reported.
            Row{"9.5", {.closed = true, .restored = true}, false},
            Row{"5", {.closed = true, .restored = true}, false},
            Row{"1.5x", {.closed = true, .restored = true}, false},
@@ -258,7 +258,7 @@ TEST_F(LinuxBrowserTabsTest, GivesUpAfterTheLongestWait) {
   settle();
   EXPECT_EQ(closed_, false);
 
-  // The answer that comes too late is of no consequence.
+  // The late answer has no effect.
   hanging->answerTab(5, 1);
   descriptors_.serve();
   askTab("chromium");
@@ -400,7 +400,7 @@ TEST_F(LinuxBrowserTabsTest, TakesThePlaceOfAnAgentThatHasGoneButNotOfOneThatRun
   const LinuxBrowserTabs second({loop_, descriptors_, log_});
   EXPECT_THAT(log_.text, HasSubstr("browsers cannot connect: another agent"));
   tabs_.reset();
-  // What an agent that was killed may leave behind.
+  // Files that a killed agent may leave behind.
   testing::overwrite(runtime_.path() / "quillseal" / ("tabs." + std::to_string(::getpid())), "");
   tabs_.emplace(LinuxBrowserTabs::Services{loop_, descriptors_, log_});
   const auto chromium = connected("chromium");
@@ -453,7 +453,7 @@ TEST_F(LinuxBrowserTabsTest, AsRootConnectsToNoOtherUsersAgent) {
   tabs_.reset();
   const FileDescriptor listening = TabSocket::listen();
   EXPECT_TRUE(TabSocket::connect());
-  // A listening socket belongs to the user that called listen() last.
+  // A listening socket belongs to the process that called listen() last.
   EXPECT_EQ(asAnotherUser([&] { return ::listen(listening.get(), 1); }), 0);
   EXPECT_FALSE(TabSocket::connect());
 }

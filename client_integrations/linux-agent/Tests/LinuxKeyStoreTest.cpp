@@ -30,7 +30,7 @@ using ::testing::IsEmpty;
 constexpr P256::Digest digest{7, 7, 7};
 constexpr auto cancel = std::nullopt;
 
-/// Answers from a list and keeps the questions. One that is not expected is cancelled.
+/// Answers from a list and records the questions. Unexpected questions are cancelled.
 class ScriptedPrompt final : public SecretPrompt {
  public:
   std::optional<SecretBytes> ask(const SecretRequest& request) override {
@@ -57,8 +57,7 @@ class ScriptedPrompt final : public SecretPrompt {
   }
 };
 
-/// A TPM as its store shows it, kept in a file so that keys are real; comes, goes and breaks as the
-/// test says.
+/// A fake TPM with real keys in a file. The test adds, removes and breaks it.
 class ScriptedTpm final : public KeyMedium {
  public:
   struct State {
@@ -68,8 +67,8 @@ class ScriptedTpm final : public KeyMedium {
     std::string defect;  ///< of the key
     std::function<void()> whileCreating;
     bool foreignSignatures = false;
-    int uses = 0;  ///< a plain number: a medium need not stand two threads
-    int kept = 0;  ///< keys at hand
+    int uses = 0;  ///< not atomic: a medium need not be thread-safe
+    int kept = 0;  ///< loaded keys
   };
 
   ScriptedTpm(const std::filesystem::path& folder, State& state)
@@ -249,7 +248,7 @@ TEST_F(LinuxKeyStoreTest, AKeyThatCannotSignIsReportedBeforeAnybodyIsAsked) {
   EXPECT_THAT(failureOf([&] { sign(); }), HasSubstr("does not match the key"));
 }
 
-// A key stays where it is until the person agrees to something else.
+// A key stays where it is until the user agrees to another place.
 TEST_F(LinuxKeyStoreTest, NoMediumTakesOverSilently) {
   tpm.obstacle = "there is no TPM.";
   createWith(passphrase);

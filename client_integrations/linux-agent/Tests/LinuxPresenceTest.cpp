@@ -28,7 +28,7 @@ using testing::PresenceServices;
 using testing::runUntil;
 using testing::Script;
 
-/// Shows nothing; goes on, cancels or waits as the test says.
+/// Shows nothing. Continues, cancels or waits as the test says.
 class ScriptedPrompt final : public PresencePrompt {
  public:
   std::unique_ptr<PresenceWindow> open(const PresenceRequest& request,
@@ -60,7 +60,7 @@ class ScriptedPrompt final : public PresencePrompt {
 
 class LinuxPresenceTest : public ::testing::Test {
  protected:
-  /// "yes", "no" or the words of the error.
+  /// "yes", "no" or the message of the error.
   std::string evaluate(PresencePolicy policy) {
     std::optional<Outcome<bool>> outcome;
     const desktop::Ticket ticket =
@@ -175,7 +175,7 @@ TEST_F(LinuxPresenceTest, ADroppedTicketEndsTheQuestion) {
   for (const PresencePolicy policy : {biometrics, password}) {
     PresenceServices services({.neverAnswers = true});
     {
-      PollLoop ownLoop;  // waits for its workers
+      PollLoop ownLoop;  // the destructor waits for workers
       ScriptedPrompt ownPrompt{ownLoop};
       LinuxPresence ownPresence{ownLoop, ownPrompt};
       if (policy == password) ownPrompt.answer = true;

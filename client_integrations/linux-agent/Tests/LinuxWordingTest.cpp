@@ -24,7 +24,7 @@ using testing::FakeDesktop;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-// It speaks as the agent does, and must come through as it is.
+// A text that looks like the agent's messages and must not be changed.
 const std::string selection =
     "Could Not Set Up This Mac\n\nSign with Touch ID: press ⌘V, said my neighbour Grace about the "
     "Secure Enclave of her old laptop.";
@@ -33,9 +33,9 @@ enum class Act { sign, enrol, settings, developmentSettings, menu };
 
 struct Story {
   Act act;
-  std::string mac;  ///< part of what the person is shown
+  std::string mac;  ///< part of a text that the user sees
   std::function<void(FakeDesktop&)> given = [](FakeDesktop&) {};
-  /// The same on Linux. Where it is empty, only machine and keys have other names.
+  /// The text on Linux. If empty, only the names of machine and keys differ.
   std::string tpm = {};
   std::string keyFile = tpm;
 };
@@ -172,7 +172,7 @@ std::vector<Story> stories() {
   };
 }
 
-/// All that the person is shown in the story.
+/// Returns every text that the user sees in the story.
 std::string shownIn(const Story& story, const desktop::Wording& wording) {
   FakeDesktop desktop;
   desktop.words.wording = wording;

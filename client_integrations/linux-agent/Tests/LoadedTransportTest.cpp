@@ -17,7 +17,7 @@ using desktop::HttpResponse;
 using ::testing::HasSubstr;
 namespace fs = std::filesystem;
 
-/// What the user is told when the module is asked to send to something that is no URL.
+/// Returns the message for a request to an invalid URL.
 std::string answerOf(std::vector<fs::path> places, std::string version = QUILLSEAL_VERSION) {
   PollLoop loop;
   LoadedTransport transport(loop, loop,

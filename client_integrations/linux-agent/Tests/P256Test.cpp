@@ -21,12 +21,12 @@ std::vector<std::uint8_t> integer(std::size_t zeros, std::uint8_t first, std::si
   return bytes;
 }
 
-// X.690, 8.3: as few bytes as hold the number and, since it is none below zero, a clear first bit.
+// X.690, 8.3: the shortest encoding, with a clear first bit, since the number is not negative.
 TEST(P256, EncodesSignaturesInDer) {
   const struct {
     std::vector<std::uint8_t> r, s;
     std::string header, between;
-    std::size_t skipped;  ///< zero bytes of r that DER leaves out
+    std::size_t skipped;  ///< leading zero bytes of r, which DER omits
   } cases[] = {
       {integer(0, 0x7f, 32), integer(0, 0x01, 32), "\x30\x44\x02\x20", "\x02\x20", 0},
       {integer(0, 0x80, 32), integer(0, 0x7f, 32), std::string("\x30\x45\x02\x21\0", 5), "\x02\x20",

@@ -6,8 +6,8 @@
 
 namespace quillseal::testing {
 
-/// A message bus in a process of its own, which this process takes for the one that `variable` of
-/// the environment names while the object lives. Nobody is on it at first.
+/// A private dbus-daemon. While the object lives, the environment's `variable` names it. It has no
+/// services at first.
 class PrivateBus {
  public:
   explicit PrivateBus(const char* variable);

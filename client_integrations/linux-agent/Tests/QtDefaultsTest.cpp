@@ -34,7 +34,7 @@ class QtDefaultsTest : public ::testing::Test {
                        .warn = [this](const std::string& text) { warnings_.push_back(text); }});
   }
 
-  /// Serves events until `condition` holds, or too long.
+  /// Processes events until `condition` holds or a time-out.
   static bool eventually(const std::function<bool()>& condition) {
     QElapsedTimer clock;
     clock.start();
@@ -175,7 +175,7 @@ TEST_F(QtDefaultsTest, NoticesEveryonesChanges) {
   EXPECT_EQ(changes, 0) << "not from inside the call";
   EXPECT_TRUE(eventually([&] { return changes == 1; }));
 
-  // As an editor saves: in place, then by a new file under the old name.
+  // Saves as editors do: in place, then by replacing the file.
   overwrite(path_, "[General]\nServerURL=https://second.example\n");
   EXPECT_EQ(defaults.string("ServerURL"), "https://second.example");
   EXPECT_TRUE(eventually([&] { return changes == 2; }));
@@ -251,7 +251,7 @@ TEST_F(QtDefaultsTest, ValuesThatCannotBeSavedHoldForTheProcess) {
 }
 
 TEST_F(QtDefaultsTest, ServesOtherThreadsWhileItIsChanged) {
-  fs::create_directories(path_);  // so that the values are kept in memory
+  fs::create_directories(path_);  // so that the values are only in memory
   constexpr int rounds = 200;
   QtDefaults defaults = make();
   defaults.setString("APIKey", "0");

@@ -20,7 +20,7 @@ using namespace std::string_literals;
 TEST(QtPasteboard, ReadsWhatProgramsOffer) {
   std::string program = "test";
   std::string option = "-platform";
-  std::string platform = "minimal";  // which has nothing to do with X
+  std::string platform = "minimal";  // a platform without X
   std::array<char*, 4> arguments{program.data(), option.data(), platform.data(), nullptr};
   int count = 3;
   const QGuiApplication application(count, arguments.data());

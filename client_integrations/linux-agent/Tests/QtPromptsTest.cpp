@@ -30,7 +30,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
-/// Everything that a dialog says.
+/// Returns all texts of a dialog.
 std::string textsOf(const QWidget& dialog) {
   QString texts;
   for (const QLabel* label : dialog.findChildren<QLabel*>())
@@ -38,7 +38,7 @@ std::string textsOf(const QWidget& dialog) {
   return texts.toStdString();
 }
 
-/// Where no other program has windows.
+/// As if no other program had windows.
 class ShownWindows : public OwnWindows {
  public:
   void bringToFront(QWidget& window) const override {
@@ -49,7 +49,7 @@ class ShownWindows : public OwnWindows {
 
 class QtPromptsTest : public ::testing::Test {
  protected:
-  /// Runs the event loop until `condition` holds.
+  /// Runs the event loop until `condition` is true.
   template <typename Condition>
   static void runUntil(Condition condition) {
     const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
@@ -59,7 +59,7 @@ class QtPromptsTest : public ::testing::Test {
     }
   }
 
-  /// The one dialog that is open.
+  /// Returns the open dialog.
   static QWidget& dialog() {
     runUntil([] { return QApplication::activeModalWidget() != nullptr; });
     return *QApplication::activeModalWidget();
@@ -80,7 +80,7 @@ class QtPromptsTest : public ::testing::Test {
     return false;
   }
 
-  /// Puts a question from a thread of its own, as key stores do.
+  /// Asks a question from a worker thread, as key stores do.
   void ask(const std::function<std::optional<SecretBytes>()>& question) {
     pending = std::async(std::launch::async, question);
   }
@@ -92,7 +92,7 @@ class QtPromptsTest : public ::testing::Test {
   }
   void TearDown() override {
     prompt.close();
-    // Without a loop that runs, nobody else deletes the dialogs that have closed.
+    // Deletes closed dialogs, which a running event loop would do.
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
 
@@ -185,7 +185,7 @@ TEST_F(QtPromptsTest, PresenceIsAskedForWithWhatItIsFor) {
   EXPECT_EQ(goesOn, true);
 }
 
-// Beside the prompts, since it needs the same toolkit.
+// Here because it needs the same toolkit.
 TEST_F(QtPromptsTest, TheMenuOfTheShieldIsShownAsItIsDescribed) {
   using desktop::MenuItem;
   using desktop::Modifiers;

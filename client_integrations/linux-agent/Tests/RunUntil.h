@@ -8,7 +8,7 @@
 
 namespace quillseal::testing {
 
-/// Serves the loop until `condition` holds. Throws when it never does.
+/// Runs the loop until `condition` holds. Throws on a time-out.
 inline void runUntil(linux::PollLoop& loop, const std::function<bool()>& condition) {
   constexpr std::chrono::milliseconds pause{2};
   const auto end = loop.now() + std::chrono::seconds(20);

@@ -64,7 +64,7 @@ struct ScriptedCompositor::Server {
   std::vector<int> openEnds{};
   std::vector<std::thread> writers{};
   std::vector<std::string> keys{};
-  bool isAuthenticated = false;  ///< by a program that presses keys of KWin's
+  bool isAuthenticated = false;  ///< by a program that uses KWin's fake-input
   std::vector<std::string> asked{};
   std::thread thread{};
 
@@ -235,7 +235,7 @@ struct ScriptedCompositor::Server {
     if (of(input).isAuthenticated)
       of(input).keys.push_back(std::to_string(code) + (state == 1 ? "+" : "-"));
   }
-  // Only what the agent asks for: the rest differs with the age of the description.
+  // Only the requests that the agent uses; the others differ between versions of the protocol file.
   static constexpr auto fakeInputRequests = [] {
     struct org_kde_kwin_fake_input_interface requests {};
     requests.authenticate = authenticate;

@@ -12,12 +12,12 @@
 
 namespace quillseal::testing {
 
-/// What a program does when another one asks for a format that it offers.
+/// What a program does when a format that it offers is requested.
 enum class Answer {
   all,         ///< writes the text and ends
   nothing,     ///< neither writes nor ends
   part,        ///< writes the text and does not end
-  thenLeaves,  ///< writes the text, and is gone, with what it offered
+  thenLeaves,  ///< writes the text and ends, with its offer
   endless,     ///< writes the text again and again
 };
 
@@ -26,19 +26,18 @@ struct Offered {
   Answer answer = Answer::all;
 };
 
-/// A Wayland compositor without a display, on a thread of its own, as far as the agent sees one. It
-/// is the one that WAYLAND_DISPLAY names while it lives. Every function returns when it has been
-/// done.
+/// A fake Wayland compositor with the protocols that the agent uses, on its own thread. While it
+/// lives, WAYLAND_DISPLAY names it. Every function returns when its action is done.
 class ScriptedCompositor {
  public:
   struct Traits {
-    /// Names windows and takes keys by the protocols of KWin, else by those of wlroots.
+    /// Uses KWin's protocols for windows and keys instead of wlroots's.
     bool isKwin = false;
     std::string dataControl = "zwlr_data_control_manager_v1";
     bool hasKeyboards = true;  ///< for programs
     bool namesWindows = true;
-    std::string layout{};         ///< text of the person's; no keyboard when empty
-    bool takesSelections = true;  ///< else it cancels them at once
+    std::string layout{};         ///< keymap of the user's keyboard; no keyboard when empty
+    bool takesSelections = true;  ///< otherwise it cancels them at once
   };
 
   ScriptedCompositor() : ScriptedCompositor(Traits()) {}
@@ -51,32 +50,32 @@ class ScriptedCompositor {
     std::string applicationId;
     std::string title;
   };
-  /// Opens a window and makes it the active one; gives its place among all that were opened.
+  /// Opens a window and activates it. Returns its index among all opened windows.
   std::size_t open(const Window& window);
   void close(std::size_t window);
   void retitle(std::size_t window, const std::string& title);
-  /// None when it is not the place of a window.
+  /// Activates a window; none if there is no window with this index.
   void makeActive(std::size_t window);
 
   /// Another program copies; selects.
   void copy(const Offered& offered);
   void select(const Offered& offered);
-  /// What was copied is gone.
+  /// Clears the clipboard.
   void clear();
 
-  /// What a program gets that pastes from the one that has set the clipboard last.
+  /// Returns what a program gets that pastes the current clipboard.
   [[nodiscard]] std::string pasted(const std::string& format);
 
-  /// The person chooses another layout for the keyboard that they have.
+  /// Changes the layout of the user's keyboard.
   void setLayout(const std::string& layout);
 
   void withdraw(std::string_view interface);
-  /// Answers nobody until the end.
+  /// Stops answering all clients for good.
   void hang();
 
-  /// "29+", "46+", "46-": keys of evdev that were pressed and let go; "mods 4".
+  /// "29+", "46+", "46-": evdev keys pressed and released; "mods 4".
   [[nodiscard]] std::vector<std::string> keys();
-  /// The formats that were asked for, in order.
+  /// Returns the requested formats, in order.
   [[nodiscard]] std::vector<std::string> asked();
 
  private:

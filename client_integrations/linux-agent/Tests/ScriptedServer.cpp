@@ -17,9 +17,10 @@
 namespace quillseal::testing {
 namespace {
 
-constexpr int tick = 20;  // ms between looks at whether the server shall stop
+constexpr int tick = 20;  // ms between checks for the stop flag
 
-/// Whether all of a request with a Content-Length has come, or a TLS greeting where none is spoken.
+/// Returns whether a request with a Content-Length is complete, or a TLS greeting arrived at a
+/// plain server.
 bool isWhole(const std::string& request) {
   constexpr char tlsHandshake = 0x16;
   if (request.starts_with(tlsHandshake)) return true;
@@ -87,7 +88,8 @@ std::vector<std::string> ScriptedServer::requests() const {
 }
 
 void ScriptedServer::serve() {
-  // OpenSSL writes without MSG_NOSIGNAL; this thread shall see an error where the client has left.
+  // OpenSSL writes without MSG_NOSIGNAL; a closed connection must give this thread an error, not
+  // SIGPIPE.
   sigset_t broken;
   sigemptyset(&broken);
   sigaddset(&broken, SIGPIPE);

@@ -9,12 +9,12 @@
 
 namespace quillseal::testing {
 
-/// What the server does with every connection.
+/// The server's behaviour on every connection.
 struct ServerScript {
   enum class End { close, reset, linger };
 
-  std::string answer;         ///< sent as it stands once a request has come in whole
-  End end = End::close;       ///< `linger`: keeps the connection until the client leaves it
+  std::string answer;         ///< sent unchanged after a complete request
+  End end = End::close;       ///< `linger`: keeps the connection until the client closes it
   std::filesystem::path tls;  ///< a folder with certificate and key; empty for plain TCP
 };
 
@@ -30,7 +30,7 @@ class ScriptedServer {
   [[nodiscard]] int port() const noexcept { return port_; }
   [[nodiscard]] int connections() const noexcept { return connections_; }
 
-  /// The requests that came in whole, byte for byte.
+  /// Returns the complete requests, byte for byte.
   [[nodiscard]] std::vector<std::string> requests() const;
 
  private:

@@ -19,7 +19,7 @@ TEST(SecretPrompt, ObjectsToSecretsThatAreSoonGuessed) {
       {SecretKind::pin, "123456", true},
       {SecretKind::pin, "000000", false},
       {SecretKind::pin, "000001", true},
-      // Five letters of two bytes each are five characters.
+      // Five two-byte letters count as five characters.
       {SecretKind::pin, "äöüßé", false},
       {SecretKind::pin, "äöüßéè", true},
       {SecretKind::pin, std::string(1023, 'a') + "b", true},

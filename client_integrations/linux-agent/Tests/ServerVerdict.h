@@ -8,8 +8,8 @@
 
 namespace quillseal::testing {
 
-/// Whether a server, which shares nothing with the key stores, accepts the signature: made with
-/// this key, over these bytes taken as a finished digest, in strict DER.
+/// Returns whether the development server's code, which shares nothing with the key stores, accepts
+/// the signature by this key over this digest, in strict DER.
 inline bool isAcceptedByServer(const linux::P256::Claim& claim) {
   const auto text = [](linux::P256::Bytes bytes) {
     return std::string(bytes.begin(), bytes.end());

@@ -21,8 +21,7 @@ namespace quillseal::testing {
 
 namespace {
 
-/// A socket that accepts connections from now on, before there is anybody to serve them: nothing
-/// has to wait for the process to start.
+/// Makes a listening socket before swtpm runs, so that clients need not wait for its start.
 int listeningSocket(const std::filesystem::path& path) {
   std::filesystem::remove(path);
   const int descriptor = ::socket(AF_UNIX, SOCK_STREAM, 0);

@@ -10,8 +10,8 @@
 
 namespace quillseal::testing {
 
-/// A TPM 2.0 in a process of its own (swtpm), listening on a socket in `folder`, which also keeps
-/// its state: a second one with the same folder is the same TPM after a restart.
+/// A TPM 2.0 in a separate process (swtpm) that listens on a socket in `folder`. The folder also
+/// holds its state: a second object with the same folder is the same TPM after a restart.
 class SoftwareTpm {
  public:
   /// Throws when swtpm is not installed.
@@ -20,16 +20,17 @@ class SoftwareTpm {
   SoftwareTpm& operator=(const SoftwareTpm&) = delete;
   ~SoftwareTpm();
 
-  /// What a TPM user of the tss2 libraries names it.
+  /// Its TCTI for the tss2 libraries.
   [[nodiscard]] std::string device() const { return "swtpm:path=" + socket_.string(); }
 
   /// `hierarchy`: one of tss2's, such as ESYS_TR_RH_LOCKOUT.
   void setPassword(std::uint32_t hierarchy, std::string_view password) const;
 
-  /// The bytes of every command so far, as they came over the bus.
+  /// Returns the bytes of every command so far, as sent over the bus.
   [[nodiscard]] std::vector<std::string> commands() const;
 
-  /// As a program does that has access to the TPM and knows no password; false when it is refused.
+  /// Resets the lockout as a program with access to the TPM and without a password; false when
+  /// refused.
   [[nodiscard]] bool undoLock() const;
 
  private:

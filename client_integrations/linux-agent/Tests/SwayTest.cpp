@@ -40,7 +40,7 @@ using testing::ScriptedCompositor;
 
 constexpr desktop::KeyPress hotkey = desktop::signingHotkey;
 
-/// The side of sway that programs talk to, on a thread of its own.
+/// A fake of sway's IPC socket, on its own thread.
 class ScriptedSway {
  public:
   struct Script {
@@ -70,7 +70,7 @@ class ScriptedSway {
 
   [[nodiscard]] std::string path() const { return (folder_.path() / "sway").string(); }
 
-  /// To the program that has subscribed.
+  /// Sends an event to the subscribed program.
   void tell(const std::string& event) {
     constexpr std::uint32_t bindingEvent = 0x80000005;
     const std::lock_guard lock(mutex_);

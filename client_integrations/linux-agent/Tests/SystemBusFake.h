@@ -11,12 +11,12 @@
 
 namespace quillseal::testing {
 
-/// What the services on the bus do.
+/// The behaviour of the services.
 struct Script {
   bool hasReader = true;
   bool readerInUse = false;
   std::vector<std::string> fingers{"right-index-finger"};
-  /// For each VerifyStart, the statuses that follow; a started verification without any waits.
+  /// The statuses that follow each VerifyStart; without any, the verification waits.
   std::deque<std::vector<std::string>> touches{};
 
   bool actionInstalled = true;
@@ -26,7 +26,7 @@ struct Script {
   bool neverAnswers = false;
 };
 
-/// fprintd and polkit as far as Quillseal sees them, on a thread of their own.
+/// Fakes of fprintd and polkit, on their own thread.
 class PresenceServices {
  public:
   explicit PresenceServices(Script script);
@@ -34,7 +34,7 @@ class PresenceServices {
   PresenceServices& operator=(const PresenceServices&) = delete;
   ~PresenceServices();
 
-  /// The methods called so far, in order, once the services have ended.
+  /// Ends the services and returns the called methods, in order.
   [[nodiscard]] const std::vector<std::string>& end();
 
  private:

@@ -30,14 +30,14 @@ TEST(SystemWallClock, NamesTheZoneAsUsersExpect) {
            Case{":/usr/share/zoneinfo/posix/Asia/Kolkata", "", "", 19800, "Asia/Kolkata"},
            Case{":/usr/share/zoneinfo/right/Asia/Kolkata", "", "", 19800, "Asia/Kolkata"},
            Case{"EST5EDT", berlinLink, "", -18000, "EST5EDT"},
-           // Set to what is no name: still what the user's clocks show, not what the links say.
+           // TZ is set to something without a zone name: it still decides, not the links.
            Case{"CET-1", berlinLink, "Europe/Berlin", 3600, "Etc/GMT-1"},
            Case{"<-03>3", berlinLink, "", -10800, "Etc/GMT+3"},
            Case{"IST-5:30", berlinLink, "", 19800, "UTC"},
            Case{"", berlinLink, "", 0, "UTC"},
            Case{"No/Such", berlinLink, "", 0, "UTC"},
            Case{"../../etc/passwd", berlinLink, "", 0, "UTC"},
-           // Not set.
+           // TZ is not set.
            Case{std::nullopt, berlinLink, "Asia/Kolkata\n", 3600, "Europe/Berlin"},
            Case{std::nullopt, "../usr/share/zoneinfo/Europe/Berlin", "", 3600, "Europe/Berlin"},
            Case{std::nullopt, "/somewhere/else", "Asia/Kolkata\n", 19800, "Asia/Kolkata"},
@@ -48,7 +48,7 @@ TEST(SystemWallClock, NamesTheZoneAsUsersExpect) {
            Case{std::nullopt, "", "", 15 * 3600, "UTC"},
            Case{std::nullopt, "", "", -12 * 3600, "Etc/GMT+12"},
            Case{std::nullopt, "", "", -13 * 3600, "UTC"},
-           // Set to what is in force without it.
+           // TZ is set to the default.
            Case{":/etc/localtime", berlinLink, "", 3600, "Europe/Berlin"},
            Case{"/etc/localtime", "", "Asia/Kolkata\n", 19800, "Asia/Kolkata"},
        }) {

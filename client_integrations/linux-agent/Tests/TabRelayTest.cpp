@@ -31,7 +31,7 @@ bool isReadable(const FileDescriptor& descriptor, int milliseconds = patience) {
   return ::poll(&state, 1, milliseconds) == 1;
 }
 
-/// One message from the descriptor, or nothing when the other end has closed it.
+/// Reads one message; nothing when the other end has closed.
 std::optional<std::string> messageFrom(const FileDescriptor& descriptor) {
   TabMessages::Deframer deframer;
   while (isReadable(descriptor)) {
@@ -44,7 +44,7 @@ std::optional<std::string> messageFrom(const FileDescriptor& descriptor) {
   return std::nullopt;
 }
 
-/// The relay as a browser starts it.
+/// Runs the relay as a browser does.
 class Relay {
  public:
   explicit Relay(std::vector<std::string> arguments) {
@@ -87,7 +87,7 @@ class Relay {
               static_cast<ssize_t>(bytes.size()));
   }
 
-  /// Until it has found no agent and watches the folder for one.
+  /// Waits until the relay has found no agent and watches the folder.
   void awaitWatching() const {
     const std::filesystem::path descriptors = "/proc/" + std::to_string(process_) + "/fdinfo";
     const auto isWatching = [&] {
@@ -106,7 +106,7 @@ class Relay {
   void closeInput() { input_ = FileDescriptor(-1); }
   void closeOutput() { output_ = FileDescriptor(-1); }
 
-  /// Exit status; 128 and more for a signal, -1 when it does not end.
+  /// Returns the exit status; 128 and more for a signal, -1 when it does not end.
   int status() {
     for (const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(patience);
          std::chrono::steady_clock::now() < end; std::this_thread::sleep_for(2ms)) {
@@ -134,7 +134,7 @@ class TabRelayTest : public ::testing::Test {
     ::setenv("XDG_RUNTIME_DIR", runtime_.path().c_str(), 1);
   }
 
-  /// A relay that has found the agent and said its greeting.
+  /// A relay that has connected to the agent and sent its greeting.
   void connect() {
     listening_.reset();
     listening_.emplace(TabSocket::listen());
@@ -200,7 +200,7 @@ TEST_F(TabRelayTest, WaitsForTheAgentAlsoWhereOneHasDied) {
     listening_.emplace(TabSocket::listen());
     accept();
   }
-  // An agent's socket comes to its place when it listens already.
+  // An agent's socket is renamed into place when it already listens.
   const std::filesystem::path place = runtimeFolder() / TabSocket::name;
   const std::filesystem::path earlier = runtimeFolder() / "earlier";
   std::filesystem::rename(place, earlier);
@@ -248,7 +248,7 @@ TEST_F(TabRelayTest, PassesOnNothingThatIsNoPartOfAMessage) {
   ASSERT_TRUE(TabSocket::send(
       *agent_, TabMessages::framed(R"({"id":1,"operation":"currentTab","eval":"x"})")));
   EXPECT_EQ(messageFrom(relay_->output()), R"({"id":1,"operation":"currentTab"})");
-  // The longest message that may come, and one byte more.
+  // The longest allowed message, and one byte more.
   const std::string answer = R"({"id":1,"operation":"currentTab","tab":4,"focusedAt":9})";
   relay_->write(
       TabMessages::framed(answer + std::string(TabMessages::longestMessage - answer.size(), ' ')));

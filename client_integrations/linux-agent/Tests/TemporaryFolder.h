@@ -13,7 +13,7 @@
 
 namespace quillseal::testing {
 
-/// A new folder (0700), deleted with all it holds at the end.
+/// A new folder (0700) that is deleted with its contents.
 class TemporaryFolder {
  public:
   TemporaryFolder() {
@@ -43,8 +43,7 @@ inline void overwrite(const std::filesystem::path& path, std::string_view conten
   std::ofstream(path, std::ios::binary | std::ios::trunc) << contents;
 }
 
-/// Runs `action` with a full disk, as far as a process can have its own: no file may grow beyond
-/// `bytes`.
+/// Runs `action` as with a full disk: in this process no file may grow beyond `bytes`.
 inline void onFullDisk(rlim_t bytes, const auto& action) {
   rlimit usual{};
   if (::getrlimit(RLIMIT_FSIZE, &usual) != 0) throw std::runtime_error("no limits");

@@ -5,7 +5,7 @@
 
 namespace quillseal::testing {
 
-/// What a certificate says.
+/// The properties of a certificate.
 struct CertificateSubject {
   std::string host;
   long validFrom = -3600;  ///< seconds from now

@@ -12,9 +12,9 @@ namespace {
 
 using ::testing::HasSubstr;
 
-// Codes as they come: 0x0C0000 is the resource manager's layer, 0x0A0000 the transport's; bits 6
-// and 8 to 11 of a format-one code number the parameter, session or handle it is about (TPM 2.0
-// Library Part 2, 6.6; TCG TSS 2.0 Overview, 4.3).
+// Real codes: 0x0C0000 is the resource manager's layer, 0x0A0000 the transport's; in a format-one
+// code, bits 6 and 8 to 11 give the parameter, session or handle (TPM 2.0 Library Part 2, 6.6; TCG
+// TSS 2.0 Overview, 4.3).
 TEST(TpmFailure, UnderstandsEveryLayer) {
   const std::pair<TpmProblem, std::vector<std::uint32_t>> rows[] = {
       {TpmProblem::wrongSecret, {0x98e, 0x08e, 0xc098e}},

@@ -34,7 +34,7 @@ class TpmKeyStoreTest : public ::testing::Test {
   // The library would report every wrong PIN on standard error.
   static void SetUpTestSuite() { ::setenv("TSS2_LOG", "all+none", 1); }
 
-  /// Another TPM in the place of this one: what a cleared one amounts to.
+  /// Replaces the TPM by another, which has the same effect as clearing it.
   void clearTpm() {
     tpm.reset();
     fs::remove_all(state.path());
@@ -54,8 +54,8 @@ TEST_F(TpmKeyStoreTest, SignsSoThatThePublicKeyVerifies) {
   store.create(pin());
   ASSERT_TRUE(store.holdsKey());
   static_cast<void>(store.requireUsableKey());
-  // Enough to meet integers with leading zero bytes now and then, and to fill the TPM if objects or
-  // sessions were left behind.
+  // Enough for some integers with leading zero bytes, and to fill the TPM if objects or sessions
+  // leaked.
   for (int round = 0; round < 50; ++round) {
     const auto signature = store.sign(message, pin());
     ASSERT_TRUE(signature);
@@ -77,7 +77,7 @@ TEST_F(TpmKeyStoreTest, SurvivesARestartOfTheTpm) {
       {.publicKey = publicKey, .digest = message, .signature = *signature}));
 }
 
-// What is kept at hand while somebody types must not be what a signature depends on.
+// Signing must not depend on the key that stays loaded while the user types.
 TEST_F(TpmKeyStoreTest, SignsWithAKeyAtHandWhateverHappensMeanwhile) {
   store.create(pin());
   KeyMedium::Readiness first = store.requireUsableKey();
@@ -121,7 +121,7 @@ TEST_F(TpmKeyStoreTest, LocksItselfAfterWrongPins) {
   }
   EXPECT_THAT(lockout, HasSubstr("locked itself after too many wrong PINs"));
   EXPECT_THAT(lockout, HasSubstr("in 17 minutes at most"));  // of 1000 seconds
-  // Not even the right one is listened to, and nobody is asked for it.
+  // Even the right PIN is refused, and the user is not asked for it.
   EXPECT_EQ(failureOf([&] { static_cast<void>(store.sign(message, pin())); }), lockout);
   EXPECT_EQ(failureOf([&] { static_cast<void>(store.requireUsableKey()); }), lockout);
 }
@@ -153,7 +153,7 @@ TEST_F(TpmKeyStoreTest, TheLockHoldsOnlyBehindALockoutPassword) {
   EXPECT_THAT(failureOf(guessOn), HasSubstr("locked itself"));
 }
 
-// What passes between the processor and the chip can be read there.
+// The bus between processor and chip can be read.
 TEST_F(TpmKeyStoreTest, ThePinIsEncryptedOnTheBus) {
   store.create(pin());
   EXPECT_TRUE(store.sign(message, pin()));
@@ -207,7 +207,7 @@ TEST_F(TpmKeyStoreTest, OnlyASimulatorIsCalledOne) {
   EXPECT_EQ(real.describe().find("simulator"), std::string::npos);
   EXPECT_THAT(real.obstacle(), HasSubstr("/nonexistent/tpmrm0 does not exist"));
   EXPECT_EQ(real.evidentObstacle(), real.obstacle());
-  // A device that stays open is busy for the next one.
+  // An open device would be busy for the next client.
   const auto open = [] { return std::distance(fs::directory_iterator("/proc/self/fd"), {}); };
   const auto before = open();
   EXPECT_NE(TpmKeyStore({.path = path, .device = "device:/dev/null"}).obstacle(), "");

@@ -43,7 +43,7 @@ constexpr desktop::KeyPress copyKeys{.key = Key::c, .modifiers = Modifiers::comm
 constexpr desktop::KeyPress pasteKeys{.key = Key::v, .modifiers = Modifiers::command};
 constexpr desktop::KeyPress selectAllKeys{.key = Key::a, .modifiers = Modifiers::command};
 
-/// One terminal among the installed applications.
+/// The only installed application is a terminal.
 class Entries : public DesktopEntries {
  public:
   std::optional<DesktopEntry> forWindow(const WindowTraits& traits) override {
@@ -62,7 +62,7 @@ class Entries : public DesktopEntries {
 
 constexpr std::size_t largest = 200'000;
 
-/// The agent's side, connected to a compositor.
+/// The agent's objects, connected to a compositor.
 struct Agent {
   explicit Agent(std::filesystem::path keeper = QUILLSEAL_CLIPBOARD_KEEPER)
       : connection(WaylandConnection::open()),
@@ -83,8 +83,7 @@ struct Agent {
     catchUp();
   }
 
-  /// Until all that the compositor has told has arrived. KWin describes a window when it is asked
-  /// to.
+  /// Waits until all events have arrived. KWin describes a window only on request.
   void catchUp() {
     for (int round = 0; round < 2; ++round) {
       bool isDone = false;
@@ -217,7 +216,7 @@ TEST_P(Flavours, AreReadAndWrittenByEitherProtocol) {
   agent.pasteboard.write({.plainText = "『Zoë』", .html = "<p>『Zoë』</p>"});
   EXPECT_EQ(compositor.pasted(utf8Text), "『Zoë』");
   EXPECT_EQ(compositor.pasted("text/html"), "<p>『Zoë』</p>");
-  compositor.copy({});  // and the keeper ends
+  compositor.copy({});  // ends the keeper
 }
 
 TEST(WaylandPasteboard, ReadsTheFormatsThatProgramsUse) {
@@ -328,7 +327,7 @@ TEST(WaylandPasteboard, ThrowsUnlessTheBlockIsReallyOffered) {
   ScriptedCompositor compositor;
   EXPECT_THROW(Agent("/nowhere/quillseal-clipboard-keeper").pasteboard.write(block), Error);
   EXPECT_THROW(Agent("/bin/false").pasteboard.write(block), Error);
-  const auto former = std::signal(SIGCHLD, SIG_IGN);  // nobody can tell how a child ended
+  const auto former = std::signal(SIGCHLD, SIG_IGN);  // the exit status of children is lost
   EXPECT_THROW(Agent("/bin/false").pasteboard.write(block), Error);
   static_cast<void>(std::signal(SIGCHLD, former));
   EXPECT_EQ(compositor.pasted(utf8Text), "");
@@ -394,9 +393,10 @@ TEST(WaylandKeyEvents, PressWhatATerminalExpectsThatTheCompositorNamesOtherwise)
   compositor.open({.applicationId = "not-yet-named", .title = "x"});
   agent.catchUp();
   auto target = agent.applications.frontmost();
-  target->categories = "TerminalEmulator";  // as sway's tree has it
+  target->categories = "TerminalEmulator";  // as in sway's tree
   EXPECT_EQ(agent.press(copyKeys, target), Delivery::delivered);
-  EXPECT_THAT(compositor.keys(), Contains("42+"));  // Shift: Ctrl+C alone ends what runs in it
+  EXPECT_THAT(compositor.keys(),
+              Contains("42+"));  // with Shift, since Ctrl+C alone ends the running program
 }
 
 TEST_P(EitherDesktop, GetsNoKeysInAnotherWindowThanTheTarget) {
@@ -431,13 +431,13 @@ TEST_P(EitherDesktop, IsLookedAtAgainImmediatelyBeforeThePress) {
   std::optional<Delivery> delivery;
   const desktop::Ticket ticket = agent.keys.press(pasteKeys, agent.applications.frontmost(), {},
                                                   [&](Delivery d) { delivery = d; });
-  // Before a turn of the loop: the agent has been told nothing of it.
+  // Without running the loop, so that the agent does not know of it.
   compositor.open({.applicationId = "chat", .title = "chat"});
   testing::runUntil(agent.loop, [&] { return delivery.has_value(); });
   EXPECT_EQ(delivery, Delivery::declined);
   EXPECT_THAT(compositor.keys(), IsEmpty());
 
-  compositor.hang();  // what it would tell is not known
+  compositor.hang();  // its state is not known
   bool isAboutToPress = false;
   const desktop::Ticket second = agent.keys.press(
       pasteKeys, agent.applications.frontmost(), [&] { isAboutToPress = true; }, [](Delivery) {});

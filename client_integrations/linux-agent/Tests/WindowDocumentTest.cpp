@@ -25,7 +25,7 @@ TEST(WindowDocumentTest, StaysTheSameWhileTheDocumentDoes) {
       {{"• Discord | #general"}, {"[99+] Discord | #general"}},
       {{" (1)  * Chat"}, {"Chat "}},
       {{"Brief \xFF"}, {"Brief \xFF"}},
-      // What was not known before.
+      // Parts that were not known before.
       {{"", 7}, {"letter.txt", 7}},
       {{"letter.txt", 0}, {"letter.txt", 7}},
       {{}, {"letter.txt", 7}},
@@ -48,7 +48,7 @@ TEST(WindowDocumentTest, DiffersWhenTheDocumentDoes) {
       {{"(draft) Inbox"}, {"(final) Inbox"}},
       {{"(2026) Taxes"}, {"() Taxes"}},
       {{"Inbox"}, {""}},
-      // Another field of the same window, or none.
+      // Another focused field of the same window, or none.
       {{"Mail", 7}, {"Mail", 8}},
       {{"Mail", 7}, {"Mail", 0}},
       {{"", 7}, {"", 8}},

@@ -69,7 +69,7 @@ class Site:
 min-height: 12em; min-width: 40em; }}</style><h1>{title}</h1>{field}
 <script>
 let count = 0;
-// What a page sends when it closes must be short; what it holds need not be.
+// A page that closes can send only a short message; its content may be longer.
 function tell(what, body = "") {{
   const address = `/tell/${{what}}{query}&count=${{++count}}`;
   if (body.length < 1000) navigator.sendBeacon(address, body);

@@ -1,5 +1,5 @@
-// The proofs of presence, one at a time, for a test that answers as a person would.
-// usage: presence-console can|finger|password   prints its process number, waits for a line, asks
+// Runs one presence check for a test that answers as a person would.
+// usage: presence-console can|finger|password   prints its process id, waits for a line, asks
 
 #include <exception>
 #include <iostream>

@@ -1,4 +1,4 @@
-// An editor that marks what is copied from it as a secret, as password managers do.
+// An editor that marks copied text as a secret, as password managers do.
 // usage: secret-editor TEXT
 
 #include <QApplication>
@@ -10,7 +10,7 @@ namespace {
 class SecretEditor : public QPlainTextEdit {
  protected:
   [[nodiscard]] QMimeData* createMimeDataFromSelection() const override {
-    auto* const copied = new QMimeData;  // goes to the clipboard
+    auto* const copied = new QMimeData;  // owned by the clipboard
     copied->setText(textCursor().selectedText());
     copied->setData(QStringLiteral("x-kde-passwordManagerHint"), "secret");
     return copied;

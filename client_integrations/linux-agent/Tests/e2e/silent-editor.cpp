@@ -1,5 +1,5 @@
-// An editor that hangs as soon as somebody wants what was copied from it in any format but plain
-// text. usage: silent-editor TEXT
+// An editor that hangs when its copied text is requested in any format but plain text.
+// usage: silent-editor TEXT
 
 #include <QApplication>
 #include <QMimeData>
@@ -25,7 +25,7 @@ class SilentData : public QMimeData {
 class SilentEditor : public QPlainTextEdit {
  protected:
   [[nodiscard]] QMimeData* createMimeDataFromSelection() const override {
-    auto* const copied = new SilentData;  // goes to the clipboard
+    auto* const copied = new SilentData;  // owned by the clipboard
     copied->setText(textCursor().selectedText());
     for (const char* format : {"text/html", "text/rtf"})
       copied->setData(QString::fromLatin1(format), "never seen");

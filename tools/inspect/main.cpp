@@ -108,7 +108,7 @@ std::optional<int> read(Options& options, int argc, char** argv) {
     if (argc != 2 && (isTable || options.jsonl))
       throw CLI::ValidationError(isTable ? "rules" : "--jsonl", "stands alone");
     if (options.json && (options.rule || options.pattern))
-      throw CLI::ValidationError("--json", "has no form for --rule and --pattern");
+      throw CLI::ValidationError("--json", "cannot be combined with --rule or --pattern");
     if (options.textPath == "-" && options.htmlPath == "-")
       throw CLI::ValidationError("--html", "only one of text and HTML can be standard input");
   } catch (const CLI::ParseError& error) {

@@ -254,9 +254,8 @@ std::optional<int> read(Options& options, std::vector<std::string>& paths, int a
          "count for each language instead of each source")
       ->type_name("language")
       ->check(CLI::IsMember({"language"}).description(""));
-  app.add_flag("--as-written", options.isAsWritten, "screen the messages as they are written only");
-  app.add_option("--disguise", disguise,
-                 "disguise each message first (a NAME that is none lists them)")
+  app.add_flag("--as-written", options.isAsWritten, "screen the messages only as written");
+  app.add_option("--disguise", disguise, "disguise each message first (an unknown NAME lists them)")
       ->type_name("NAME")
       ->check(CLI::IsMember(&disguises).description(""));
   app.set_help_flag("--help", "print this help");

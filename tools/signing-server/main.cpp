@@ -77,7 +77,7 @@ std::string originFault(std::string_view url) {
 std::optional<int> read(Options& options, int argc, char** argv) {
   CLI::App app(
       "A signing server for trying Quillseal on one computer.\n"
-      "It is no part of the agent, and its records prove nothing to anyone else.",
+      "It is not part of the agent, and its records prove nothing to others.",
       "quillseal-dev-server");
   app.add_option("--port", options.port, "TCP port; 0 picks a free one, which is printed")
       ->check(CLI::Range(0, largestPort))

@@ -16,7 +16,7 @@ using testing::VirtualLoop;
 
 using Trace = std::vector<std::string>;
 
-/// Writes a line when it is destroyed.
+/// Records its destruction.
 class Leaving {
  public:
   Leaving(Trace& trace, std::string name) : trace_(trace), name_(std::move(name)) {}
@@ -148,7 +148,7 @@ TEST(AsyncMutex, LetsTasksThroughOneByOneInTheOrderTheyCame) {
   scope.start(hold(loop, mutex, trace, "b"));
   while (trace.back() != "left a")
     loop.step();
-  scope.start(hold(loop, mutex, trace, "c"));  // free, and promised to b
+  scope.start(hold(loop, mutex, trace, "c"));  // free, and assigned to b
   loop.run();
   EXPECT_EQ(trace, (Trace{"has a", "left a", "has b", "left b", "has c", "left c"}));
   EXPECT_EQ(loop.elapsed(), 30ms) << "it is passed on at once";
@@ -185,7 +185,7 @@ TEST(AsyncMutex, RunsNoTaskOfAScopeThatIsDestroyed) {
   TaskScope scope;
   scope.start(hold(loop, mutex, trace, "c"));
   EXPECT_EQ(trace.back(), "has c");
-  loop.run();  // with what the lock of a left in the loop
+  loop.run();  // includes the work that the lock of a posted
   EXPECT_EQ(trace.back(), "left c");
 }
 

@@ -38,7 +38,8 @@ TEST(CompletionTest, CancelsNothingThatHasEnded) {
   EXPECT_EQ(cancelled, 0);
 }
 
-// A copy may die on another thread, long after; what the function holds must be gone by then.
+// A copy may be destroyed later on another thread; the function's captures must be destroyed
+// before.
 TEST(CompletionTest, LetsGoOfTheFunctionWhenItEnds) {
   const auto used = std::make_shared<int>(0);
   const Completion<> called([used] {});

@@ -48,7 +48,7 @@ TEST(ContentRisk, FindsWhatTheRulesDescribe) {
       {"Call +1 (800) 555-0199\nabout\r\nyour Norton plan", "toad-callback", false},
       {"asap please, my new account\nfor payroll", "payroll-divert", true},
       {"asap please, my new desk\nfor payroll", "payroll-divert", false},
-      // A word of warning anywhere spares the whole text
+      // A warning word anywhere exempts the whole text
       {"Move your money to the safe account, transfer now", "univ-safe-account", true},
       {"Transfer to a safe account? This is a scam", "univ-safe-account", false},
       // Folding and boundaries are ICU's
@@ -70,7 +70,7 @@ TEST(ContentRisk, MatchesThatSplitACharacterAreSkipped) {
               ::testing::Contains("pay-imperative-transfer"));
   EXPECT_THAT(idsIn(ContentRisk::evaluate("Hello\r\n" + wire)),
               ::testing::Not(::testing::Contains("pay-imperative-transfer")));
-  // The mark belongs to the last letter, so the match would end inside a character.
+  // The mark combines with the last letter, so the match would end inside a character.
   EXPECT_THAT(idsIn(ContentRisk::evaluate("javascript:")), ElementsAre("url-javascript"));
   EXPECT_THAT(idsIn(ContentRisk::evaluate("javascript:\u0301")), IsEmpty());
 }
@@ -91,13 +91,13 @@ TEST(ContentRisk, QuotationsInReportsCountLess) {
       {lesson + '\'' + passage + '\'', {55}, false, true},
       {lesson + '(' + '"' + passage + "\")", {55}, false, true},
       {lesson + "[\"" + passage + "\"]", {55}, false, true},
-      // A match that the marks do not enclose is the writer's own
+      // A match outside the quotation marks is the writer's own
       {lesson + "\"As agreed with all of you: I approve\" the payment", {100}, true, false},
       {lesson + "I approve \"the payment of the March invoice\".", {100}, true, false},
       {"From the board: \"" + passage + "\".", {100}, true, false},
       {lesson + passage, {100}, true, false},
       {lesson + "\"I approve payment\".", {100}, true, false},
-      // Glued to a word, the mark opens nothing, and no later pair is looked at
+      // A mark directly after a word opens nothing, and no later pair is considered
       {lesson + "x\"" + passage + "\".", {100}, true, false},
       {lesson + "5\" and “" + passage + "”", {100}, true, false},
       // Warnings inside vanish
@@ -116,8 +116,8 @@ TEST(ContentRisk, QuotationsInReportsCountLess) {
   }
 }
 
-// Each allocation fails once. A search that could not be finished counts as a match, so it makes
-// the result stricter; without the reporting cue the text is no report.
+// Each allocation fails once. An unfinished search counts as a match, so the result becomes
+// stricter; without the reporting cue the text does not count as a report.
 TEST(ContentRisk, RunningOutOfMemorySoftensNothing) {
   const std::string text =
       "From our awareness training: \"I approve the payment of the March invoice\".";
@@ -180,15 +180,15 @@ TEST(ContentRisk, QuotedSpansFollowThePairsInOrder) {
       {'"' + long24 + '"', {{0, 26}}},
       {'"' + long24.substr(1) + '"', {}},
       {"“" + long24 + "” \"" + long24 + '"', {{27, 53}, {0, 26}}},
-      // A closer must stand before white space or punctuation
+      // A closing mark must precede white space or punctuation
       {'"' + long24 + "\"x\" y", {{0, 28}}},
       {'"' + long24 + "\"x “" + long24 + "”", {}},
-      // No further opener at all ends only this pair; a rejected one ends the scan
+      // If there is no further opening mark, only this pair ends; a rejected one ends the scan
       {"“" + long24 + "”", {{0, 26}}},
       {"a\" “" + long24 + "”", {}},
       {"it's “" + long24 + "”", {{5, 31}}},
       {"it's ‘" + long24 + "’", {{5, 31}}},
-      // A mark with a combining mark is another character
+      // A quotation mark with a combining mark is another character
       {"\"\u0301 “" + long24 + "”", {{2, 28}}},
       {"\r\n\"" + long24 + "\"\r\n", {{1, 27}}},
       {"x \u0301\"" + long24 + "\"", {{2, 28}}},

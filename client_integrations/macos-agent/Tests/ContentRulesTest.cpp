@@ -29,7 +29,7 @@ using testing::IcuReference;
 struct Samples {
   std::vector<std::string> hits;
   std::vector<std::string> nearMisses;
-  /// How many characters may stand between two words of a match.
+  /// The largest allowed gap between two words of a match, in characters.
   std::optional<std::size_t> reach = 60;
 };
 
@@ -44,7 +44,7 @@ std::string unescaped(std::string text) {
   return text;
 }
 
-/// What rule-samples.txt, which tells its form, holds for each rule.
+/// The samples of each rule. rule-samples.txt describes its format.
 std::vector<Samples> ruleSamples() {
   std::ifstream file(QUILLSEAL_RULE_SAMPLES);
   std::vector<Samples> samples;
@@ -67,8 +67,8 @@ std::vector<Samples> ruleSamples() {
   return samples;
 }
 
-// Number, order, ids, categories, severities and points are shared with everyone who reads the
-// published table: a change of them is a decision, not an edit.
+// Other programs read number, order, ids, categories, severities and points from the published
+// table, so they must not change by accident.
 TEST(ContentRules, TheRowsAreThoseThatWereAgreed) {
   std::string rows;
   for (const Rule& rule : ContentRules::all) {
@@ -93,7 +93,7 @@ TEST(ContentRules, EveryRuleIsWellMade) {
       EXPECT_LE(rule.points, 90);
     }
     EXPECT_EQ(rule.caseInsensitive, rule.id != "spam-all-caps");
-    // Shown behind a dash, and cut at its first comma: a clause, not a sentence.
+    // Shown after a dash and cut at its first comma, so it must be a clause, not a sentence.
     EXPECT_FALSE(rule.why.empty());
     EXPECT_FALSE(rule.why.ends_with('.'));
     EXPECT_EQ(unicode::wellFormed(rule.why), rule.why);
@@ -141,8 +141,8 @@ class Search {
   std::optional<screening::ScreeningEngine> engine_;
 };
 
-// A gap that is wider than meant joins words of honest sentences. So no match goes on when its
-// words are moved apart, wherever that is.
+// A gap that is too wide joins words of honest sentences. So no sample may still match when its
+// words are moved apart at any place.
 TEST(ContentRules, WordsThatStandFarApartBelongToNoMatch) {
   const std::vector<Samples> allSamples = ruleSamples();
   ASSERT_EQ(allSamples.size(), ContentRules::all.size());
@@ -155,7 +155,7 @@ TEST(ContentRules, WordsThatStandFarApartBelongToNoMatch) {
     const std::string pattern(rule.pattern);
     const Search search(std::span(&pattern, 1), rule.caseInsensitive);
     const auto isJoinedAt = [&](const std::string& text, std::size_t position) {
-      // Between words, or where words are not divided: in Chinese, Japanese and Korean.
+      // Places between words; in Chinese, Japanese and Korean also between letters.
       const auto byte = static_cast<unsigned char>(text[position]);
       if (byte != ' ' && (byte < 0xE3 || byte >= 0xF0)) return false;
       std::string stretched = text;
@@ -173,7 +173,7 @@ TEST(ContentRules, WordsThatStandFarApartBelongToNoMatch) {
   }
 }
 
-/// A line of a pattern, as the source text of the table divides it.
+/// A line of a pattern in the source text of the table.
 struct PatternLine {
   std::size_t number = 0;  ///< in ContentRules.cpp
   std::string written;     ///< with shorthands
@@ -201,7 +201,7 @@ std::vector<std::vector<PatternLine>> patternLines() {
   return rules;
 }
 
-/// The pattern without a line, and without the bar that would leave an empty alternative.
+/// Returns the pattern without the line, and without a bar that would leave an empty alternative.
 std::string joinedWithout(const PatternLine* omitted, std::span<const PatternLine> lines) {
   std::string joined;
   std::size_t seam = std::string::npos;
@@ -221,12 +221,13 @@ std::string joinedWithout(const PatternLine* omitted, std::span<const PatternLin
   return joined;
 }
 
-/// For each line whether a sample changes sides, or the pattern no longer compiles, without it.
+/// Returns for each line whether without it a sample's result changes or the pattern does not
+/// compile.
 std::vector<bool> noticedLines(const Rule& rule, std::span<const PatternLine> lines,
                                const Samples& samples) {
   std::vector<bool> noticed(lines.size());
 
-  // Where each line is an alternative of its own, a text needs a line if no other line finds it.
+  // If each line is an alternative, a text needs a line if no other line matches it.
   std::vector<std::string> alternatives;
   for (const PatternLine& line : lines)
     alternatives.push_back(line.text.substr(0, line.text.size() - line.text.ends_with('|')));
@@ -259,7 +260,7 @@ std::vector<bool> noticedLines(const Rule& rule, std::span<const PatternLine> li
   return noticed;
 }
 
-// Every line of a pattern has a sample that is judged differently without it.
+// Every line of a pattern has a sample whose result changes without it.
 TEST(ContentRules, SamplesNoticeMissingLines) {
   const std::vector<Samples> samples = ruleSamples();
   const std::vector<std::vector<PatternLine>> table = patternLines();
@@ -276,7 +277,7 @@ TEST(ContentRules, SamplesNoticeMissingLines) {
   }
 }
 
-/// The two texts that a line of rule-gaps.txt, which tells its form, stands for.
+/// Returns the two texts of a line of rule-gaps.txt, which describes its format.
 std::pair<std::string, std::string> textsOf(std::string_view line) {
   std::pair<std::string, std::string> texts;
   while (!line.empty()) {
@@ -303,7 +304,7 @@ TEST(ContentRules, FindAsMuchAcrossPointsThatEndNoSentence) {
     const auto found = ContentRisk::evaluate(pointed).findings;
     bool any = false;
     for (const auto& finding : ContentRisk::evaluate(plain).findings) {
-      // Patterns that other programs hold, too, stop at every point.
+      // Patterns that other programs also have stop at every point.
       const auto rule = std::ranges::find(ContentRules::all, finding.id, &Rule::id);
       if (rule->severity == "block") continue;
       any = true;

@@ -41,13 +41,13 @@ TEST(NormalizeText, MapsEachClassOfScalars) {
       {"\u2064\u2065\u2066\u2069\u2070", "\u2070"},
       {"STRASSE Straße", "STRASSEStraße"},
       {std::string("a\0b", 3), std::string("a\0b", 3)},
-      {"e\u200D\u0301", "e\u0301"},  // not composed again once the joiner is gone
+      {"e\u200D\u0301", "e\u0301"},  // not composed after the joiner is removed
   };
   for (const auto& [text, expected] : cases)
     EXPECT_EQ(normalizeText(text), expected) << testing::escaped(text);
 }
 
-/// The same table, scalar by scalar over UTF-16, without a fast path.
+/// A plain implementation of the same table, scalar by scalar over UTF-16.
 std::string plainlyNormalized(const std::string& text) {
   UErrorCode status = U_ZERO_ERROR;
   const icu::UnicodeString nfc = icu::Normalizer2::getNFCInstance(status)->normalize(
@@ -95,8 +95,8 @@ TEST(NormalizeText, OrdersLongRunsOfMarksAsIcuDoes) {
 }
 
 TEST(NormalizeText, EndsOnAMillionMisorderedMarks) {
-  const std::string text =
-      "e" + repeated("\u0301", 500000) + repeated("\u0316", 500000);  // sorting by insertion hangs
+  const std::string text = "e" + repeated("\u0301", 500000) +
+                           repeated("\u0316", 500000);  // too slow with insertion sort
   const std::string normalized = normalizeText(text);
   EXPECT_EQ(normalized.size(), text.size() - 1);
   EXPECT_EQ(normalized.substr(0, 4), "\u00E9\u0316");
@@ -114,19 +114,20 @@ TEST(CountWords, CountsRunsAndIdeographs) {
       {"ひらがなカタ", 6},
       {"한국어", 3},
       {"\U00020000\uF900", 2},
-      {"葛\uFE00", 1},  // with a variation selector it is no ideograph word, but a letter
+      {"葛\uFE00",
+       1},  // with a variation selector it counts as a letter, not as an ideographic word
       {"葛\uFE00葛", 2},
       {"one\r\ntwo\u2003three\u00A0four", 4},
       {"Ⅷ ½ ² ١", 4},
       {"🛡️ 👍", 0},
-      {"a\u0301 \u0301b", 2},  // a blank with a mark is white space still
-      {"x\u0600 a", 1},        // U+0600 joins the blank into one character, which is no white space
+      {"a\u0301 \u0301b", 2},  // a blank with a mark is still white space
+      {"x\u0600 a", 1},        // U+0600 and the blank form one character, which is not white space
   };
   for (const auto& [text, expected] : cases)
     EXPECT_EQ(countWords(text), expected) << testing::escaped(text);
 }
 
-/// Word counting as one reads it, character by character by ICU.
+/// A plain word count, character by character with ICU.
 std::int64_t plainlyCounted(const std::string& text) {
   UErrorCode status = U_ZERO_ERROR;
   const std::unique_ptr<icu::BreakIterator> iterator(
@@ -224,7 +225,7 @@ CanonicalFields sampleFields() {
 }
 
 TEST(CanonicalPayload, HasAFixedValue) {
-  // Checked by hand: the tag and the nine fields, each written with printf into sha256sum.
+  // Computed by hand: the tag and the nine fields, each piped from printf to sha256sum.
   EXPECT_EQ(canonicalV3(sampleFields()),
             "a56a0ceef450d926623a6766b335ecf61223f87a6c39b0554ef35e061ca785f7");
 }

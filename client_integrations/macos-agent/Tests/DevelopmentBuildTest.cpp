@@ -7,7 +7,7 @@
 #include "Quillseal/MenuBarManager.h"
 #include "Quillseal/SigningCoordinator.h"
 
-// The agent as built without a server and a key for one.
+// The agent of a build without a server and an API key.
 namespace quillseal {
 namespace {
 

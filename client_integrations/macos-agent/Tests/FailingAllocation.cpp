@@ -36,7 +36,7 @@ FailingAllocation::~FailingAllocation() {
   untilFailure = never;
 }
 
-// The count goes on to `never` from zero.
+// Below zero the counter wraps to `never`.
 bool FailingAllocation::happened() const {
   return untilFailure == never;
 }

@@ -4,7 +4,7 @@
 
 namespace quillseal::testing {
 
-/// While it lives, one allocation of this thread fails: the one after `succeeding` others. One at a
+/// Makes one allocation of this thread fail: the one after `succeeding` others. One object at a
 /// time.
 class FailingAllocation {
  public:

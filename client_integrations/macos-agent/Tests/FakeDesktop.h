@@ -21,8 +21,8 @@
 #include "desktop/ScriptRunner.h"
 #include "desktop/SigningHotkey.h"
 
-/// A scripted desktop: one small fake for each interface. Their public members say what the desktop
-/// is like and how its user, server and key store behave.
+/// A scripted desktop with one small fake for each interface. Public members set the behaviour of
+/// desktop, user, server and key store.
 namespace quillseal::testing {
 
 using desktop::Ticket;
@@ -30,17 +30,17 @@ template <typename T>
 using Then = std::function<void(T)>;
 using Text = std::optional<std::string>;
 
-/// What the fakes share.
+/// The state that the fakes share.
 struct Record {
   VirtualLoop loop;
 
-  /// All that the agent did that somebody could notice, in one order.
+  /// All visible actions of the agent, in order.
   std::vector<std::string> trace;
 
-  /// Every text that was put before the person, between line feeds.
+  /// Every text that the user has seen, separated by line feeds.
   std::string shown = "\n";
 
-  /// The fallible call with this number fails, counting from 1; none for 0.
+  /// Number of the call that fails, counting fallible calls from 1; 0 for none.
   int failingCall = 0;
   int calls = 0;
   std::string failedCall;
@@ -48,7 +48,7 @@ struct Record {
   static Error error(std::string description) {
     return Error({.domain = "fake", .code = 1, .description = std::move(description)});
   }
-  /// To begin every fallible call with.
+  /// Every fallible call begins with this.
   void mayFail(std::string_view call) {
     if (++calls != failingCall) return;
     failedCall = call;
@@ -121,8 +121,8 @@ struct FakeAlerts final : Fake<desktop::Alerts> {
 struct FakeApplications final : Fake<desktop::Applications> {
   using Fake::Fake;
   std::optional<desktop::RunningApplication> front;
-  std::optional<desktop::RunningApplication> active;  ///< after the agent has been in front
-  std::set<std::uint64_t> ended;                      ///< instances that have quit
+  std::optional<desktop::RunningApplication> active;  ///< active after the agent was
+  std::set<std::uint64_t> ended;                      ///< instances of applications that have quit
   std::optional<desktop::InstalledApplication> chrome, defaultBrowser;
   bool browserOpens = true, anyBrowserOpens = true;
 
@@ -207,7 +207,7 @@ struct FakeHotkey final : Fake<desktop::Hotkey> {
 
 struct FakeHttp final : Fake<desktop::HttpTransport> {
   using Fake::Fake;
-  /// What the server answers at a path, one after the other; the last is repeated.
+  /// The server's answers for a path, in order; the last is repeated.
   struct Answer {
     int status = 200;
     std::string body;
@@ -221,11 +221,11 @@ struct FakeHttp final : Fake<desktop::HttpTransport> {
       {"/api/handoff/poll",
        {{200, R"({"status":"waiting"})"},
         {200, R"({"status":"complete","signature_id":"web-1"})"}}}};
-  std::optional<Error> failure;  ///< in place of every answer
+  std::optional<Error> failure;  ///< replaces every answer
   std::chrono::milliseconds takes{0};
   std::vector<desktop::HttpPost> sent;
 
-  /// The bodies of what was sent to `path`.
+  /// Returns the request bodies that were sent to `path`.
   [[nodiscard]] std::vector<std::string> sentTo(std::string_view path) const {
     std::vector<std::string> bodies;
     for (const desktop::HttpPost& post : sent)
@@ -257,7 +257,7 @@ struct FakeHttp final : Fake<desktop::HttpTransport> {
   }
 };
 
-/// What a copy yields.
+/// The content that a copy puts on the clipboard.
 struct Copy {
   Text text;
   Text html;
@@ -309,18 +309,18 @@ struct FakePasteboard final : Fake<desktop::Pasteboard> {
 struct FakeKeyEvents final : Fake<desktop::KeyEvents> {
   FakeKeyEvents(Record& shared, FakeApplications& ours, FakePasteboard& pasteboard)
       : Fake(shared), applications_(ours), pasteboard_(pasteboard) {}
-  bool isPersonTrusting = true;  ///< grants accessibility
+  bool isPersonTrusting = true;  ///< the user grants accessibility
   std::string heldUpBy;
-  std::optional<Copy> selection;   ///< by Command-C
-  std::optional<Copy> everything;  ///< by Command-C after Command-A
+  std::optional<Copy> selection;   ///< copied by Command-C
+  std::optional<Copy> everything;  ///< copied by Command-C after Command-A
   std::chrono::milliseconds copyTime{40};
   std::optional<Copy> secondThought;              ///< replaces the copy 50 ms after it
-  std::chrono::milliseconds fingersLeave{0};      ///< the modifiers, after that long
-  std::optional<Copy> copiedElsewhere;            ///< by another program meanwhile
+  std::chrono::milliseconds fingersLeave{0};      ///< when the modifiers are released
+  std::optional<Copy> copiedElsewhere;            ///< copied by another program meanwhile
   std::function<void(desktop::Key)> beforePress;  ///< what happens meanwhile
   int presses = 0;
-  int declinedPress = 0;                ///< the press with this number, counting from 1
-  std::vector<std::string> pastedInto;  ///< what was active at each Command-V
+  int declinedPress = 0;                ///< number of the press, from 1
+  std::vector<std::string> pastedInto;  ///< the active application at each Command-V
 
   bool isTrusted() const override { return isPersonTrusting; }
   void askForTrust() override { record.trace.emplace_back("ask for trust"); }
@@ -411,7 +411,7 @@ struct FakeKeyStore final : Fake<desktop::KeyStore> {
   std::string advice() const override { return keyAdvice; }
 
  private:
-  /// Its signature is the digest itself, so that a test can see what was signed.
+  /// A key whose signature is the digest itself, so that a test sees what was signed.
   struct Key final : desktop::DeviceKey {
     explicit Key(const FakeKeyStore& owner) : store(owner) {}
     std::optional<std::vector<std::uint8_t>> publicKey() const override {
@@ -460,7 +460,7 @@ struct FakePresence final : Fake<desktop::Presence> {
 
 struct FakeProgram final : Fake<desktop::Program> {
   using Fake::Fake;
-  int activities = 0;  ///< begun and not ended
+  int activities = 0;  ///< started and not ended
 
   void becomeAccessory() override { record.trace.emplace_back("become accessory"); }
   void activate() override { record.trace.emplace_back("activate Quillseal"); }
@@ -513,7 +513,7 @@ struct FakeWallClock final : Fake<desktop::WallClock> {
 
 struct FakeWindows final : Fake<desktop::Windows> {
   using Fake::Fake;
-  desktop::Form form;  ///< of the window that was drawn last
+  desktop::Form form;  ///< of the last window
 
   std::unique_ptr<desktop::Window> make(const desktop::WindowDescription& description) override {
     record.show({description.title});
@@ -576,7 +576,7 @@ struct FakeDesktop : Record {
             program, statusItem,   wallClock,   windows,  words};
   }
 
-  /// Empties the trace and the lists of what was sent and pasted.
+  /// Clears the trace and the lists of requests and pastes.
   void forget() {
     trace.clear();
     keys.pastedInto.clear();

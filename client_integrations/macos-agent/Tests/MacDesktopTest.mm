@@ -1,6 +1,6 @@
-// The desktop services against macOS itself. The tests run unattended: they ask for no permission,
-// and what a machine lacks (an Enclave, a keychain entitlement, the right to come to the front) is
-// skipped with a message. They replace what is on the clipboard.
+// Tests the desktop services against macOS itself. They run unattended: they ask for no permission
+// and skip, with a message, what a machine lacks (an Enclave, a keychain entitlement, the right to
+// become active). They replace the clipboard's content.
 #include <atomic>
 #include <chrono>
 #include <csignal>
@@ -51,7 +51,7 @@
 #include "Quillseal/AccessibilityManager.h"
 #include "desktop/SigningHotkey.h"
 
-/// Counts how often its tracking was to be cancelled.
+/// Counts the requests to cancel its tracking.
 @interface QSTestMenu : NSMenu
 @property(nonatomic) int cancellations;
 @end
@@ -82,8 +82,8 @@ class Application : public testing::Environment {
 const testing::Environment* const application =
     testing::AddGlobalTestEnvironment(new Application);  // owned by the framework
 
-/// Handles events as the application's own loop does until `done`; false when that takes longer
-/// than `seconds`.
+/// Handles events like the application's loop until `done`; false when that takes longer than
+/// `seconds`.
 bool runUntil(const std::function<bool()>& done, double seconds = 10) {
   NSDate* limit = [NSDate dateWithTimeIntervalSinceNow:seconds];
   while (!done() && limit.timeIntervalSinceNow > 0) {
@@ -102,7 +102,7 @@ void runFor(double seconds) {
   static_cast<void>(runUntil([] { return false; }, seconds));
 }
 
-/// What `work` throws; nothing when it throws nothing.
+/// Returns the Error that `work` throws, if any.
 template <typename Work>
 std::optional<Error> errorOf(const Work& work) {
   try {
@@ -166,7 +166,7 @@ TEST_F(MacMainLoopTest, RunsPostedWorkLaterAndInOrder) {
   EXPECT_EQ(order, "ab");
 }
 
-// What an open alert does: it keeps posted work on the stack while it runs a loop of its own.
+// Acts like an open alert: posted work stays on the stack while a nested loop runs.
 TEST_F(MacMainLoopTest, GoesOnInsideALoopThatPostedWorkRuns) {
   bool inner = false;
   bool outer = false;
@@ -540,7 +540,7 @@ TEST_F(MacWindowTest, SurvivesActionsThatReplaceTheirOwnRowOrWindow) {
 
 class MacAlertsTest : public MacDesktopTest {
  protected:
-  /// Calls `work` once an alert is open that was not open before, again and again for nested ones.
+  /// Calls `work` whenever a new alert is open, also for nested ones.
   void onAlert(std::function<void(NSWindow*)> work) {
     timers_.push_back(loop_.after(20ms, [this, work = std::move(work)] {
       NSWindow* window = NSApp.modalWindow;
@@ -721,7 +721,7 @@ desktop::RunningApplication process(std::uint64_t identifier) {
       .instance = identifier, .name = {}, .bundleIdentifier = {}, .categories = {}, .document = {}};
 }
 
-/// Whether another application could be brought to the front, as one is when the agent starts.
+/// Returns whether another application could be activated, as when the agent starts.
 bool bringFinderToTheFront() {
   NSRunningApplication* finder =
       [NSRunningApplication runningApplicationsWithBundleIdentifier:@"com.apple.finder"]
@@ -809,7 +809,8 @@ TEST_F(MacDesktopTest, TellsWhenNothingCouldBeOpened) {
   EXPECT_TRUE(errorOf([&] { applications.open(std::string("https://a.example/")); }).has_value());
 }
 
-/// Whether this program could be brought to the front, which a Mac without a user may not allow.
+/// Returns whether this program could be activated, which a Mac without a logged-in user may
+/// refuse.
 bool comesToTheFront() {
   activateProgram();
   return runUntil(
@@ -1036,7 +1037,7 @@ TEST_F(MacDesktopTest, PresenceAnswersUnlessItIsWithdrawn) {
   }
   runFor(0.5);
   EXPECT_FALSE(answered);
-  // The system takes a prompt without a reason for a fault of the program.
+  // The system treats a prompt without a reason as a program error.
   const auto refusal = errorOf([&] {
     const desktop::Ticket ticket = presence.evaluate(
         PresencePolicy::biometrics, {.reason = "", .medium = {}}, [](const Outcome<bool>&) {});
@@ -1114,7 +1115,7 @@ TEST_F(MacDesktopTest, KeyStoreMakesFindsAndDeletesAKey) {
 
 // HTTP --------------------------------------------------------------------------------------------
 
-/// Answers requests by their path, on a thread of its own.
+/// A server that answers by path, on its own thread.
 class LocalServer {
  public:
   LocalServer() : listener_(::socket(AF_INET, SOCK_STREAM, 0)) {
@@ -1163,7 +1164,7 @@ class LocalServer {
       const std::size_t header = request.find("Content-Length: ");
       if (header < end) length = std::stoul(request.substr(header + 16));
     }
-    if (body == std::string::npos) {  // the client went away
+    if (body == std::string::npos) {  // the client closed the connection
       ::close(client);
       return;
     }
@@ -1268,7 +1269,7 @@ TEST_F(MacHttpTransportTest, IsSilentOnceARequestOrAllOfItIsGone) {
     const desktop::Ticket open =
         ended.send({.url = server_.url("/silent"), .headers = {}, .body = "{}"}, done);
     runFor(0.1);
-  }  // the session reports the end of its requests when all of this is gone
+  }  // the session reports the end of its requests after all of this is destroyed
   runFor(0.5);
   EXPECT_FALSE(answered);
 }

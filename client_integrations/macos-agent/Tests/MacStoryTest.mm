@@ -1,15 +1,14 @@
-// A whole run of the application, told as its user goes through it: the application with its own
-// main(), a development server, another application that has the text, and a user, who is a thread
-// of the same process: it looks at windows, presses buttons and keys, and chooses from menus.
+// Plays stories with the whole application: its own main(), a development server, another
+// application with the text, and a user. The user is a thread of this process that looks at
+// windows, presses buttons and keys, and chooses from menus.
 //
-// The settings are those of this program's own bundle identifier. The clipboard is replaced. The
-// environment names the two other programs:
+// The settings are those of this program's own bundle identifier. The clipboard's content is
+// replaced. The environment names the two other programs:
 //   QUILLSEAL_DEV_SERVER      the development server
-//   QUILLSEAL_STORY_DOCUMENT  the application that has the text
-// What a Mac lacks or does not allow is skipped with a message: without the right to press keys
-// (Accessibility) or without a Secure Enclave nothing can be signed; without a keychain access
-// group no device key can be made, and demonstrations are signed in its place, by a finger that is
-// not there.
+//   QUILLSEAL_STORY_DOCUMENT  the application with the text
+// What a Mac lacks or does not allow is skipped with a message. Without the right to press keys
+// (Accessibility) or without a Secure Enclave nothing can be signed. Without a keychain access
+// group no device key can be made; the stories then sign demonstrations, with a simulated finger.
 #include <atomic>
 #include <chrono>
 #include <cstdio>
@@ -36,7 +35,7 @@
 #include "MacViews.h"
 #include "Quillseal/CryptoManager.h"
 
-/// Work for the main thread.
+/// Runs work on the main thread.
 @interface QSErrand : NSObject
 @property(nonatomic, copy) void (^work)(void);
 - (void)run;
@@ -50,7 +49,7 @@
 
 @end
 
-/// What Safari's bundle and its scripts say.
+/// The bundle and script names of Safari.
 @interface QSBrowser : NSObject
 @property(nonatomic, readonly) NSString* bundleIdentifier;
 @property(nonatomic, copy) NSString* stringValue;
@@ -75,7 +74,7 @@ constexpr const char* scam =
 
 // The user ----------------------------------------------------------------------------------------
 
-/// What `work` gives, run on the main thread, also while an alert is open there.
+/// Runs `work` on the main thread, also while an alert is open there, and returns its result.
 template <typename Work>
 auto onMain(const Work& work) {
   using Result = std::invoke_result_t<Work>;
@@ -106,7 +105,7 @@ auto onMain(const Work& work) {
   }
 }
 
-/// Whether `condition`, which is asked on the main thread, comes true within `seconds`.
+/// Returns whether `condition`, evaluated on the main thread, becomes true within `seconds`.
 bool await(const std::function<bool()>& condition, double seconds = 20) {
   NSDate* limit = [NSDate dateWithTimeIntervalSinceNow:seconds];
   while (limit.timeIntervalSinceNow > 0) {
@@ -142,7 +141,7 @@ void pressHotkey() {
   });
 }
 
-/// One of the shortcuts of the main menu; false when it has none like that.
+/// Presses a shortcut of the main menu; false when the menu has no such shortcut.
 bool pressShortcut(NSString* key) {
   return onMain([&] {
     NSEvent* event = [NSEvent keyEventWithType:NSEventTypeKeyDown
@@ -173,7 +172,7 @@ bool awaitAlert(NSString* title) {
   return await([title] { return isShown(title); });
 }
 
-/// All that the open alert says, for messages and comparisons.
+/// Returns all texts of the open alert.
 std::string alertText() {
   return onMain([] {
     std::string text;
@@ -186,7 +185,7 @@ std::string alertText() {
   });
 }
 
-/// Presses a button of the open alert, and waits until that is gone.
+/// Presses a button of the open alert and waits until it has closed.
 bool press(NSString* title) {
   NSWindow* alert = onMain([] { return NSApp.modalWindow; });
   onMain([&] {
@@ -219,7 +218,7 @@ NSTask* taskOf(NSString* program, NSArray<NSString*>* arguments) {
   return task;
 }
 
-/// What a page of the server answers to `body`, or to a look at it; nothing when it refuses.
+/// Returns the server's answer to a POST of `body`, or to a GET; nothing when it refuses.
 std::optional<std::string> answerOf(NSString* url, NSString* body) {
   NSMutableArray* arguments = [@[ @"-sf", url ] mutableCopy];
   if (body != nil)
@@ -234,7 +233,7 @@ std::optional<std::string> answerOf(NSString* url, NSString* body) {
   return utf8([[NSString alloc] initWithData:data encoding:NSUTF8StringEncoding]);
 }
 
-/// Runs as long as this program does.
+/// A program that runs as long as this one.
 class Server {
  public:
   void start() {
@@ -244,8 +243,7 @@ class Server {
                             withIntermediateDirectories:YES
                                              attributes:nil
                                                   error:nil];
-    // The shell ends the server, and removes its records, when this program ends, however it ends.
-    // Only the server writes into the pipe, so that reading ends where it did not start.
+    // The shell ends the server and removes its records however this program ends.
     NSString* commands = @"\"$1\" --port 0 --database \"$0/registry.sqlite\" & "
                          @"exec >/dev/null; cat; kill $!; wait; rm -r \"$0\"";
     task_ = taskOf(@"/bin/sh", @[ @"-c", commands, folder, environment("QUILLSEAL_DEV_SERVER") ]);
@@ -273,7 +271,7 @@ Server& server() {
   return only;
 }
 
-/// A text in another application, all of it selected, as long as this lives.
+/// A text in another application, completely selected while this object lives.
 class Document {
  public:
   explicit Document(const std::string& text)
@@ -305,7 +303,7 @@ class Document {
     return utf8([NSString stringWithContentsOfFile:path_ encoding:NSUTF8StringEncoding error:nil]);
   }
 
-  /// Whether the text is soon a signed block with `part` in it.
+  /// Returns whether the text soon becomes a signed block that contains `part`.
   [[nodiscard]] bool becomesSigned(const std::string& part) const {
     return await([&] {
       return text().find("Check this signature → ") != std::string::npos &&
@@ -328,7 +326,7 @@ class Story : public testing::Test {
     set(@"ServerURL", server().url());
   }
 
-  /// Opens an application with `text`, for a run that has no alert yet.
+  /// Opens an application with `text` for a new run.
   void open(const std::string& text) {
     if (!::AXIsProcessTrusted()) {
       GTEST_SKIP() << "this program may not press keys: System Settings → Privacy & Security → "
@@ -339,14 +337,14 @@ class Story : public testing::Test {
     onMain([] { [NSPasteboard.generalPasteboard clearContents]; });
   }
 
-  /// The text is as it was, and no block is on the clipboard.
+  /// Checks that the text is unchanged and no block is on the clipboard.
   void expectNothingSigned(const std::string& text) const {
     EXPECT_EQ(document_->text(), text);
     EXPECT_EQ(clipboard(NSPasteboardTypeString).value_or("").find("QUILLSEAL"), std::string::npos);
     EXPECT_EQ(clipboard(NSPasteboardTypeHTML).value_or("").find("QUILLSEAL"), std::string::npos);
   }
 
-  /// The link at the end of the signed text.
+  /// Returns the link at the end of the signed text.
   [[nodiscard]] NSString* link() const {
     const std::string text = document_->text();
     return nsString(text.substr(text.rfind("http://")));
@@ -355,7 +353,7 @@ class Story : public testing::Test {
   std::optional<Document> document_;
 
  private:
-  // A Mac that has none signs nothing at all; this lets it sign what needs none.
+  // A Mac without a Secure Enclave signs nothing; this lets it make signatures that need none.
   Replaced enclave_ {
     TKTokenWatcher.class, @selector(tokenIDs), ^NSArray*(id) { return @[ @"com.apple.setoken" ]; }
   };
@@ -374,7 +372,7 @@ TEST_F(Story, OpensSettingsFromTheMenuAndAnew) {
   ASSERT_TRUE(awaitSettings(true));
   onMain([] { [settings() performClose:nil]; });
   ASSERT_TRUE(awaitSettings(false));
-  // As when its icon is opened while it runs.
+  // As when the user opens the running application again.
   onMain([] { [NSApp.delegate applicationShouldHandleReopen:NSApp hasVisibleWindows:NO]; });
   ASSERT_TRUE(awaitSettings(true));
   onMain([] { [settings() performClose:nil]; });
@@ -392,7 +390,7 @@ TEST_F(Story, OpensAndClosesSettingsByKey) {
   EXPECT_TRUE(awaitSettings(false));
 }
 
-/// The browser, which is not started: the user acts on the page that it would show.
+/// Stands for the browser, which is not started: the test acts on the page directly.
 class Browser {
  public:
   explicit Browser(BOOL canBeOpened = YES)
@@ -415,7 +413,7 @@ class Browser {
     return await([] { return opened != nil; });
   }
 
-  /// Does on the page what its button `act` ("sign", "decline") does.
+  /// Performs the page's button `act` ("sign", "decline").
   [[nodiscard]] bool actOnPage(NSString* act, const std::string& text) const {
     NSString* page = [opened componentsSeparatedByString:@"#"].firstObject;
     NSString* handoff = [page componentsSeparatedByString:@"?h="].lastObject;
@@ -438,7 +436,7 @@ class Browser {
   Replaced alone_;
 };
 
-// Before there is a device key: with one, it signs.
+// Must run before there is a device key, which would sign.
 TEST_F(Story, SignsInTheBrowser) {
   open(letter);
   if (IsSkipped()) return;
@@ -478,7 +476,7 @@ TEST_F(Story, TellsThatNoBrowserOpens) {
   @throw [NSException exceptionWithName:@"TestException" reason:@"deliberate" userInfo:nil];
 }
 
-// The text is in the browser that signs it, so where it is pasted hangs on the browser's scripts.
+// The text is in the browser that signs it, so the browser's scripts decide where it is pasted.
 TEST_F(Story, ReturnsToTheTabOfTheTextOrLeavesThePastingToTheUser) {
   const auto failing = [](NSInteger number, NSString* words) {
     return @{NSAppleScriptErrorNumber : @(number), @"NSAppleScriptErrorMessage" : words};
@@ -561,7 +559,7 @@ TEST_F(Story, EnrolsThisMac) {
   onMain(close);
 }
 
-/// With the device key or, where there is none, a demonstration.
+/// Signs with the device key or, if there is none, as a demonstration.
 class SigningHere : public Story {
  protected:
   void SetUp() override { set(@"DemoSigning", hasDeviceKey ? @NO : @YES); }
@@ -570,7 +568,7 @@ class SigningHere : public Story {
     Story::TearDown();
   }
 
-  static inline NSError* refusal = nil;  ///< of the prompt for a finger
+  static inline NSError* refusal = nil;  ///< of the Touch ID prompt
 
  private:
   Replaced usable_ {
@@ -620,7 +618,7 @@ TEST_F(SigningHere, SignsNothingThatIsNotConfirmed) {
   pressHotkey();
   ASSERT_TRUE(awaitAlert(@"Sign this content?"));
   EXPECT_TRUE(press(@"Cancel"));
-  // The run ends where the next one can begin.
+  // Waits until the next run can begin.
   pressHotkey();
   ASSERT_TRUE(awaitAlert(@"Sign this content?"));
   EXPECT_TRUE(press(@"Cancel"));
@@ -646,8 +644,8 @@ TEST_F(SigningHere, TellsWhenThereIsNoText) {
   expectNothingSigned("");
 }
 
-// Each call that can fail, once in a run: the alert has the system's words, nothing is signed, and
-// the next run is not affected.
+// Makes each call fail once in a run: the alert has the system's message, nothing is signed, and
+// the next run works.
 TEST_F(SigningHere, TellsTheSystemsWordsAndGoesOn) {
   open(letter);
   if (IsSkipped()) return;
@@ -663,7 +661,7 @@ TEST_F(SigningHere, TellsTheSystemsWordsAndGoesOn) {
   } cases[] = {
       {"the pasteboard raises",
        [&] {
-         __block bool hasRaised = false;  // once: windows that come up look at it, too
+         __block bool hasRaised = false;  // once, since new windows use it too
          return std::make_unique<Replaced>(pasteboard, @selector(stringForType:),
                                            ^NSString*(id, NSString*) {
                                              if (!std::exchange(hasRaised, true)) raise();
@@ -733,8 +731,8 @@ TEST_F(SigningHere, TellsTheSystemsWordsAndGoesOn) {
 
 std::atomic<bool> hasOpenRun = false;
 
-// The last: the program is quit while this alert is open, where there can be one, and calls the run
-// off.
+// Runs last: the program is quit while this alert is open, if there can be one, and cancels the
+// run.
 TEST_F(SigningHere, LeavesAnAlertOpen) {
   open("Hi");
   if (IsSkipped()) return;
@@ -752,7 +750,7 @@ TEST_F(SigningHere, LeavesAnAlertOpen) {
 std::atomic<bool> isTold = false;
 std::atomic<int> status = 1;
 
-/// Plays the stories and quits, as a user does.
+/// Runs the stories and quits, as a user does.
 void tell() {
   @autoreleasepool {
     int count = 1;
@@ -771,7 +769,7 @@ void tell() {
 }  // namespace
 }  // namespace quillseal::mac
 
-/// Begins the story with the application, which knows nothing of it.
+/// Starts the stories beside the unmodified application.
 @interface QSStory : NSObject
 @end
 
@@ -793,7 +791,7 @@ void tell() {
                    name:NSMenuDidAddItemNotification
                  object:nil];
   }
-  // The application ends with status 0, whatever the stories were like.
+  // The application exits with status 0 whatever the stories' results.
   std::atexit([] {
     if (!quillseal::mac::isTold) std::fprintf(stderr, "the application ended early\n");
     if (quillseal::mac::hasOpenRun) std::fprintf(stderr, "a run was not called off\n");

@@ -5,11 +5,11 @@
 #import <AppKit/AppKit.h>
 #import <objc/runtime.h>
 
-// What the tests of the macOS shell find in its windows, and do there.
+// Helpers for tests of the macOS shell: find and use controls in its windows.
 
 namespace quillseal::mac {
 
-/// Has objects of one class answer a message with a block, for as long as it lives.
+/// Replaces a method of a class by a block while this object lives.
 class Replaced {
  public:
   Replaced(Class kind, SEL selector, id block)
@@ -24,7 +24,7 @@ class Replaced {
   IMP original_;
 };
 
-/// The first view below `root` of class `kind` that `matches`.
+/// Returns the first view below `root` of class `kind` that `matches`.
 inline NSView* find(NSView* root, Class kind, const std::function<bool(id)>& matches) {
   if ([root isKindOfClass:kind] && matches(root)) return root;
   for (NSView* view in root.subviews) {
@@ -61,7 +61,7 @@ inline void type(NSTextField* field, NSString* text) {
   [(NSTextView*)field.currentEditor insertText:text replacementRange:NSMakeRange(NSNotFound, 0)];
 }
 
-/// A modal loop looks whether it was ended after each event; a timer is none.
+/// A modal loop checks after each event whether it was ended; a timer is not an event.
 inline void wakeModalLoop() {
   NSEvent* event = [NSEvent otherEventWithType:NSEventTypeApplicationDefined
                                       location:NSZeroPoint

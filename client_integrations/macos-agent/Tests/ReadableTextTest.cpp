@@ -26,8 +26,8 @@ namespace {
 using ContentRisk::Screening;
 using testing::escaped;
 
-/// The lines of a file of samples that are neither empty nor comments, with \n, \r and \u{...}
-/// read.
+/// Returns the lines of a sample file without empty lines and comments, with \n, \r and \u{...}
+/// replaced.
 std::vector<std::string> linesOf(const std::string& name) {
   std::ifstream file(std::string(QUILLSEAL_TESTS) + '/' + name);
   std::vector<std::string> lines;
@@ -45,7 +45,7 @@ std::vector<std::string> linesOf(const std::string& name) {
   return lines;
 }
 
-/// The parts of a line before and behind a separator; the second is empty without one.
+/// Splits a line at a separator; the second part is empty without one.
 std::pair<std::string, std::string> divided(const std::string& line, const std::string& separator) {
   const std::size_t at = line.find(separator);
   if (at == std::string::npos) return {line, ""};
@@ -58,7 +58,7 @@ Screening asSigned(const std::string& text) {
   return screening;
 }
 
-/// 2: refused, 1: warned about, 0: signed.
+/// Returns 2 for refused, 1 for warned about, 0 for signed.
 int verdictOf(const Screening& screening) {
   return screening.assessment.isBlocked ? 2 : screening.assessment.shouldWarn ? 1 : 0;
 }
@@ -81,7 +81,7 @@ TEST(ReadableText, HonestTextsStayHonest) {
   }
 }
 
-// Each sentence is caught with what has no points in its gap, so it is caught with the points.
+// Each sentence is caught without the points in its gap, so it must be caught with them.
 TEST(ReadableText, GapsGoOnOverPointsThatEndNoSentence) {
   std::vector<std::string> sentences;
   std::vector<std::pair<std::string, std::string>> fillers;
@@ -131,7 +131,7 @@ TEST(ReadableText, DisguisedScamsAreCaught) {
   }
 }
 
-/// With a sign between letters that stand side by side.
+/// Puts a sign between adjacent letters.
 std::string apart(const std::string& text, std::string_view sign) {
   std::string result;
   bool isBehindLetter = false;
@@ -217,7 +217,7 @@ TEST(ReadableText, TheMapLeadsEveryPartOfTheReadingToItsOwn) {
   }
 }
 
-/// Wide letters and what may stand between them.
+/// Wide letters and the signs that may separate them.
 std::string wideText(std::mt19937& random) {
   constexpr std::array pieces{"\uAC00",
                               "\uB098\uB2E4",
@@ -337,7 +337,7 @@ TEST(ReadableText, LongTextsTakeNoLongTime) {
 }
 
 TEST(ReadableText, BothScreeningsCount) {
-  // The address is found as it is written only, the wording as it is read only.
+  // The address is found only as written, the wording only as read.
   const std::string text =
       "Open http://192.168.4.7/pay to v\u200Berify your acc\u200Bount with us before 3 May.";
   const Screening asWritten = ContentRisk::screen(text);
@@ -353,7 +353,7 @@ TEST(ReadableText, BothScreeningsCount) {
   EXPECT_EQ(ReadableText("\u200B\u200B").text(), "");
 }
 
-// What the digest does not contain fills no place of the characters that are screened.
+// Characters that are not in the digest do not count towards the screened ones.
 TEST(ReadableText, NothingUnsignedPushesAScamOutOfSight) {
   for (const char* unit : {" ", "\n", " \u2064", "\u00A0\u200B", "<"}) {
     std::string text = "Dear Ada, ";

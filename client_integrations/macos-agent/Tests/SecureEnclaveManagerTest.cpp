@@ -50,7 +50,7 @@ class SecureEnclaveManagerTest : public ::testing::Test {
     return resultOf(desktop_.loop, SecureEnclaveManager::sign(services(), std::move(request)));
   }
 
-  /// What went wrong; empty when nothing did.
+  /// Returns the failure; empty for none.
   template <typename T>
   static std::string failureOf(const Outcome<T>& outcome) {
     const Error* error = std::get_if<Error>(&outcome);

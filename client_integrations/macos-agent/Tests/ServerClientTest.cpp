@@ -30,7 +30,7 @@ class ServerClientTest : public ::testing::Test {
         R"({"signature_id":"s","demo":true,"status":"x","device_id":"D","handoff_id":"H","url":"u"})");
   }
 
-  /// What the server says to everything.
+  /// The server's answer to every request.
   void answer(int status, const std::string& body) {
     for (auto& [path, queue] : desktop_.http.answers)
       queue = {{status, body}};

@@ -76,7 +76,7 @@ class SettingsViewTest : public ::testing::Test {
     desktop_.loop.run();
   }
 
-  /// What the window shows of a section.
+  /// Returns the rows that the window shows in a section.
   [[nodiscard]] Lines section(const std::string& header) const {
     Lines lines;
     for (const desktop::FormSection& section : desktop_.windows.form.sections) {
@@ -89,7 +89,7 @@ class SettingsViewTest : public ::testing::Test {
 
   [[nodiscard]] Lines machine() const { return section("This Mac"); }
 
-  /// A copy: acting on a row may replace the form it belongs to.
+  /// A copy: an action may replace the form of its row.
   template <typename Row>
   [[nodiscard]] Row row(const std::string& label) const {
     for (const desktop::FormSection& section : desktop_.windows.form.sections) {
@@ -213,7 +213,7 @@ TEST_F(SettingsViewTest, ShowsWhatAFailedEnrolmentLeft) {
       },
       [](FakeDesktop& d) { d.keyStore.lacksEntitlement = true; },
       [](FakeDesktop& d) { d.keyStore.canHoldKey = false; },
-      // Called off, which the person knows.
+      // Cancelled by the user.
       [](FakeDesktop& d) {
         d.keyStore.lacksEntitlement = false;
         d.keyStore.canHoldKey = d.keyStore.hasKey = d.keyStore.cancelsCreation = true;

@@ -60,7 +60,7 @@ const desktop::RunningApplication chromeRunning{.instance = 2,
 const desktop::InstalledApplication chromeInstalled{.location = "Chrome.app",
                                                     .bundleIdentifier = "com.google.Chrome"};
 
-/// A person in a mail, and the agent that is asked to sign.
+/// A user with a text in a mail program, and the agent.
 struct Story : FakeDesktop {
   Story() {
     applications.front = applications.active = mail;
@@ -87,7 +87,7 @@ struct Story : FakeDesktop {
                                  [&](const std::string& line) { return line.starts_with(start); });
   }
   std::optional<SigningCoordinator> coordinator{std::in_place, services()};
-  Ticket later;  ///< of what happens meanwhile
+  Ticket later;  ///< of the events meanwhile
 };
 
 class SigningCoordinatorTest : public ::testing::Test, protected Story {
@@ -95,7 +95,7 @@ class SigningCoordinatorTest : public ::testing::Test, protected Story {
   struct Signed {
     std::string scope, identity;
   };
-  /// The key has signed what was sent to the server.
+  /// Checks that the key has signed the fields of the request.
   void expectSigned(const Signed& fields) const {
     const std::string body = http.sentTo("/api/sign_native").front();
     const std::string payload = CryptoManager::canonicalV3(
@@ -112,9 +112,9 @@ class SigningCoordinatorTest : public ::testing::Test, protected Story {
     EXPECT_THAT(body, HasSubstr("\"enclave_signature\":\"" + signature + "\""));
   }
 
-  /// Prints a story as it went when the environment asks for it.
+  /// Prints a story's trace if the environment asks for it.
   void TearDown() override {
-    // NOLINTNEXTLINE(concurrency-mt-unsafe): there is one thread
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): single-threaded
     if (std::getenv("QUILLSEAL_PRINT_TRACES") == nullptr) return;
     std::cout << "── " << ::testing::UnitTest::GetInstance()->current_test_info()->name() << "\n";
     for (const std::string& line : trace)
@@ -150,7 +150,7 @@ TEST_F(SigningCoordinatorTest, MakesADemonstrationRecord) {
 }
 
 TEST_F(SigningCoordinatorTest, SignsInTheBrowserAndPastesElsewhere) {
-  // Long enough to be on the heap, where a string that is destroyed twice does harm.
+  // Long enough for the heap, where destroying a string twice does harm.
   const std::string html = "<p>x</p><p>long enough</p>";
   keys.selection->html = html;
   signInBrowser();
@@ -194,7 +194,7 @@ TEST_F(SigningCoordinatorTest, LeavesTheBlockOnTheClipboardWhenTheTabIsLost) {
   EXPECT_THAT(trace, Not(Contains("press ⌘V")));
   EXPECT_TRUE(wroteBlock());
 
-  // Two programs without an identifier are not the same one.
+  // Two programs without an identifier do not count as the same.
   applications.front->bundleIdentifier = applications.active->bundleIdentifier = std::nullopt;
   applications.defaultBrowser->bundleIdentifier = std::nullopt;
   signInBrowser();
@@ -218,9 +218,9 @@ TEST_F(SigningCoordinatorTest, SendsTextAndImagesInEveryMode) {
   }
 }
 
-// On a desktop where nothing else takes time.
+// On a desktop where only the waits take time.
 TEST_F(SigningCoordinatorTest, PausesAsLongAsOtherProgramsNeed) {
-  constexpr auto plain = 40ms + 80ms;  // the copy, and what may come with it
+  constexpr auto plain = 40ms + 80ms;  // for the copy and events that follow it
   const struct {
     std::string name;
     std::function<void(Story&)> given;
@@ -292,7 +292,7 @@ TEST_F(SigningCoordinatorTest, LetsOthersGoOnWhileADialogIsOpen) {
   }
 }
 
-// So that the event loop goes on during the screening of a long text.
+// So that screening a long text does not block the event loop.
 TEST_F(SigningCoordinatorTest, ScreensOnAnotherThread) {
   keys.selection->text = "I approve the payment of the invoice that Grace sent us on 3 May 2026.";
   coordinator->startSigning();
@@ -469,13 +469,13 @@ TEST_F(SigningCoordinatorTest, ScreensTheTextAsItIsReadUnlessItIsRefusedAsItIsWr
               StartsWith("alert: Not signed — payment instructions cannot be signed | •  Payment "
                          "instruction — authorises a payment"));
 
-  // Refused as it is written: there is nothing more to ask.
+  // Refused as written: the second screening is not needed.
   trace.clear();
   keys.selection->text = "I approve the payment" + harmless + " Con\u200Bfirm your pass\u200Bword.";
   sign();
   EXPECT_EQ(riskLines(), 1);
 
-  // Both lines, and the question of the stronger.
+  // Both log lines, and the alert of the stronger assessment.
   trace.clear();
   keys.selection->text =
       "Our b\u200Bank details have changed, see http://192.168.4.7/a today" + harmless;
@@ -579,7 +579,7 @@ TEST_F(SigningCoordinatorTest, TurnsAwayWhatItCannotKeepUpWith) {
   EXPECT_EQ(count("notify: Quillseal Is Busy | "), 1);
   EXPECT_EQ(count("log: [sign] turned away"), 1);
 
-  // Once some have ended there is room, and the next time is told anew.
+  // After some have ended there is room, and the next refusal is shown again.
   forget();
   coordinator.emplace(services());
   alerts.leavesDialogsOpen = false;
@@ -667,7 +667,7 @@ TEST_F(SigningCoordinatorTest, SignsTheSelectionOrElseAll) {
   }
 }
 
-// What happens while the keys wait to be pressed.
+// Events while the key press waits.
 TEST_F(SigningCoordinatorTest, CopiesFromAndPastesIntoNothingElse) {
   const std::string switchBack =
       "Switch back to your message in Mail, select the text you signed, and press ⌘V.\n\nQuillseal "
@@ -731,7 +731,7 @@ TEST_F(SigningCoordinatorTest, TakesTheApplicationBehindItsOwnWindows) {
   EXPECT_EQ(userTrace().front(), "activate Mail");
   EXPECT_THAT(keys.pastedInto, ElementsAre("Mail"));
 
-  // When a window has just closed, the one behind it takes a moment to come to the front.
+  // After a window has closed, the one behind it takes a moment to become active.
   applications.front = applications.active = std::nullopt;
   later = loop.after(200ms, [this] { applications.front = applications.active = mail; });
   sign();
@@ -765,7 +765,7 @@ TEST_F(SigningCoordinatorTest, MakesAKeyOnTheFirstRun) {
                           "POST /api/sign_native", "POST /api/register_native",
                           "set BoundIdentity = Ada", "prompt: Sign " + subject + " as Ada",
                           "POST /api/sign_native", "write clipboard", "press ⌘V", notification));
-  // What nobody wrote into the settings does not send the text to the browser.
+  // A mode that is not in the settings does not send the text to the browser.
   keyStore.hasKey = false;
   defaults.strings["SigningMode"] = "unknown";
   sign();
@@ -859,7 +859,7 @@ TEST_F(SigningCoordinatorTest, OneDeviceIsRegisteredAtATime) {
   for (const std::string& line : trace)
     if (line.starts_with("POST ") || line.starts_with("set ") || line == "write clipboard")
       order.push_back(line.substr(0, 20));
-  // The key is free again before the first signature is asked for anew.
+  // The key is released before the first signature is requested again.
   EXPECT_THAT(order,
               ElementsAre("POST /api/sign_nativ", "POST /api/sign_nativ", "POST /api/register_n",
                           "set BoundIdentity = ", "POST /api/sign_nativ", "POST /api/register_n",
@@ -874,7 +874,7 @@ TEST_F(SigningCoordinatorTest, AFirstRunUsesNoKeyWhoseEnrolmentMayFail) {
       d.keyStore.hasKey = false;
       if (fails) d.http.answers["/api/register_native"] = {{500, R"({"error":"Not now."})"}};
       TaskScope settings;
-      // Before the run looks for a key, or between its two looks.
+      // Before the run looks for a key, or between its two lookups.
       if (steps == 0) settings.start(d.coordinator->enrolDevice());
       d.coordinator->startSigning();
       if (steps == 1) {
@@ -888,7 +888,7 @@ TEST_F(SigningCoordinatorTest, AFirstRunUsesNoKeyWhoseEnrolmentMayFail) {
   }
 }
 
-/// Everything a run can do, in one: enrolment, recovery, dialogs, the way back to the tab.
+/// A run with everything: enrolment, recovery, dialogs, the return to the tab.
 void makeEventful(Story& desktop, int kind) {
   desktop.applications.front = desktop.applications.active = chromeRunning;
   desktop.keys.everything = Copy{.text = text + " The rest is private.", .html = {}};
@@ -902,7 +902,7 @@ void makeEventful(Story& desktop, int kind) {
   if (kind == 2) desktop.defaults.flags.insert("DemoSigning");
 }
 
-/// What a run of each kind does when `happening` comes after each of its steps in turn.
+/// Runs each kind of run with `happening` after each step in turn.
 template <typename Happening, typename Check>
 void interruptEverywhere(Happening happening, Check check) {
   for (int kind = 0; kind < 3; ++kind) {
@@ -931,7 +931,7 @@ TEST(SigningRuns, EndWhereTheyWaitWhenTheAgentQuits) {
       [&](const Story& desktop) { EXPECT_EQ(desktop.trace, before); });
 }
 
-// A record and its block name one day, and the key signs it, whenever the clock is set.
+// Record, block and signature have the same day, whenever the clock is changed.
 TEST(SigningRuns, NameOneDayWhateverTheClockDoes) {
   for (const char* date : {"2026-03-02", "1999-12-31"}) {
     interruptEverywhere(
@@ -949,7 +949,7 @@ TEST(SigningRuns, NameOneDayWhateverTheClockDoes) {
   }
 }
 
-// A clock that goes on while the machine sleeps makes every wait overdue at once.
+// If the clock runs while the machine sleeps, every wait is overdue at once.
 TEST(SigningRuns, OutliveASuspendedMachine) {
   interruptEverywhere(
       [](Story& desktop) { desktop.loop.leap(8h); },
@@ -969,7 +969,7 @@ TEST(SigningRuns, DoNotCopyOverEachOthersBlock) {
     for (int steps = 0; steps < 200; ++steps) {
       Story d;
       d.applications.front = chromeRunning;
-      d.applications.active = mail;  // so that the paste waits for the application to come to front
+      d.applications.active = mail;  // so that the paste waits for the application to become active
       if (sameBrowser) d.inBrowser();
       d.coordinator->startSigning();
       for (int i = 0; i < steps; ++i)
@@ -1019,7 +1019,7 @@ TEST(SigningRuns, TellTheUserWhicheverPressIsDeclined) {
     for (int declined = 1;; ++declined) {
       Story desktop;
       makeEventful(desktop, kind);
-      desktop.keys.selection = std::nullopt;  // so that all is selected
+      desktop.keys.selection = std::nullopt;  // so that the agent selects all
       desktop.keys.declinedPress = declined;
       desktop.sign();
       if (desktop.keys.presses < declined) break;

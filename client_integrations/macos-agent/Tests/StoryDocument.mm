@@ -1,6 +1,6 @@
-// Another application for the story of a run: a text editor that shows a file, with all of its text
-// selected, and saves at each change. The file is named in QUILLSEAL_STORY_FILE: an argument,
-// AppKit would open itself. It ends with the program that started it.
+// The other application of the stories: a text editor that shows a file with all text selected and
+// saves every change. QUILLSEAL_STORY_FILE names the file, since AppKit would open an argument
+// itself. It ends with the program that started it.
 #include <cstdlib>
 
 #import <AppKit/AppKit.h>
@@ -67,10 +67,10 @@ int main() {
     NSApplication* application = NSApplication.sharedApplication;
     [application setActivationPolicy:NSApplicationActivationPolicyRegular];
     application.mainMenu = editMenu();
-    // The application does not keep its delegate.
+    // The application does not own its delegate.
     NS_VALID_UNTIL_END_OF_SCOPE QSDocument* document = [[QSDocument alloc] initWithPath:path];
     application.delegate = document;
-    // The other end of the pipe closes when its program ends, however it ends.
+    // The other end of the pipe closes however its program ends.
     dispatch_async(dispatch_get_global_queue(QOS_CLASS_USER_INITIATED, 0), ^{
       [NSFileHandle.fileHandleWithStandardInput readDataToEndOfFile];
       std::_Exit(0);

@@ -20,7 +20,7 @@ Task<> store(Task<T> task, std::optional<Outcome<T>>& outcome) {
   }
 }
 
-/// Runs `task` to its end; gives its result or the Error it threw. REQUIRES: it ends.
+/// Runs `task` and returns its result or the Error that it threw. REQUIRES: it ends.
 template <typename T>
 Outcome<T> resultOf(VirtualLoop& loop, Task<T> task) {
   std::optional<Outcome<T>> outcome;

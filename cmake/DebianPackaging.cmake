@@ -1,4 +1,4 @@
-# Read by cpack, which without dpkg-shlibdeps would make a package that depends on nothing.
+# Read by cpack, which would make a package without dependencies if dpkg-shlibdeps were missing.
 foreach(program dpkg-shlibdeps file)
   find_program(${program}_path ${program})
   if(NOT ${program}_path)

@@ -30,7 +30,7 @@ target_compile_options(quillseal_options INTERFACE
 if(QUILLSEAL_SANITIZERS)
   add_compile_options(-fsanitize=${QUILLSEAL_SANITIZERS} -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${QUILLSEAL_SANITIZERS})
-  # Also where one goes out of a vector's or a span's bounds without leaving its memory.
+  # Also detects accesses outside a vector's or span's bounds but inside its memory.
   add_compile_definitions(_GLIBCXX_ASSERTIONS)
   if(QUILLSEAL_SANITIZERS MATCHES "undefined")
     add_compile_options(-fno-sanitize-recover=undefined)

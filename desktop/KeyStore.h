@@ -46,8 +46,8 @@ class KeyStoreError : public Error {
   Reason reason_;
 };
 
-/// Where the device key lives. All functions may block and are called on worker threads, also side
-/// by side; every answer is evaluated anew, since readers come and go and lids are closed.
+/// Where the device key lives. All functions may block and are called on worker threads, also
+/// concurrently. Nothing is cached, since readers are unplugged and lids are closed.
 class KeyStore {
  public:
   /// The attributes by which the key is found and made.

@@ -37,7 +37,7 @@ class Words {
  public:
   virtual ~Words() = default;
 
-  /// Asked anew for every text, since keys come and go. Does not block.
+  /// Called again for every text, since the key's place can change. Does not block.
   [[nodiscard]] virtual Wording current() const = 0;
 };
 

@@ -133,9 +133,9 @@ template <typename Work, typename Result = std::invoke_result_t<Work&>>
 ///
 ///     AsyncMutex::Lock lock = co_await mutex.lock();
 ///
-/// The next task goes on from the event loop, not from inside the one that lets go, so that a
-/// scope which is being destroyed runs none of its tasks. A task that is cancelled leaves the
-/// queue, or lets go. Locks and waiting tasks may outlive the mutex; the loop outlives them all.
+/// The next task continues from the event loop, not from inside the one that releases the lock, so
+/// that a scope which is being destroyed runs none of its tasks. A cancelled task leaves the queue,
+/// or releases the lock. Locks and waiting tasks may outlive the mutex; the loop outlives them all.
 class AsyncMutex {
   struct Queue;
   struct Release {

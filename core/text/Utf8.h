@@ -32,7 +32,7 @@ class ThreeBytes {
         isSequence_((trail(bytes, 1) | offset_) < 64 &&
                     block_ - first / 64 < endBlock - first / 64) {}
 
-  /// Whether they have the form of a scalar; surrogates have it, too, but are none.
+  /// Whether they have the form of a scalar; true for surrogates, which are not scalars.
   [[nodiscard]] bool isSequence() const { return isSequence_; }
   [[nodiscard]] bool isScalar() const {
     return isSequence_ && block_ - surrogates >= endOfSurrogates - surrogates;

@@ -128,7 +128,7 @@ class KwinSession(wayland_session.WaylandSession):
         script.write_text(SCRIPT)
         self.call_kwin("/Scripting", "org.kde.kwin.Scripting.loadScript", str(script))
         self.call_kwin("/Scripting", "org.kde.kwin.Scripting.start")
-        self.wait_for_output(self.compositor, "windows ", "KWin tells of windows")
+        self.wait_for_output(self.compositor, "windows ", "KWin reports windows")
 
     def _start_desktop(self):
         self._start_bus()

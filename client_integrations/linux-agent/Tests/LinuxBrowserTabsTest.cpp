@@ -279,7 +279,7 @@ TEST_F(LinuxBrowserTabsTest, IsToldWhenTheBrowserGoes) {
   EXPECT_THAT(log_.text, HasSubstr("[tabreturn] chromium: is gone"));
 }
 
-TEST_F(LinuxBrowserTabsTest, LetsGoOfWhoeverBreaksTheProtocol) {
+TEST_F(LinuxBrowserTabsTest, DropsABrowserThatBreaksTheProtocol) {
   const std::vector<std::string> breaches = {
       TabMessages::framed("{"),
       TabMessages::framed(R"({"id":1,"operation":"currentTab","tab":1})"),
@@ -304,7 +304,7 @@ TEST_F(LinuxBrowserTabsTest, LetsGoOfWhoeverBreaksTheProtocol) {
   EXPECT_LT(loop_.elapsed(), LinuxBrowserTabs::longestWait);
 }
 
-TEST_F(LinuxBrowserTabsTest, LetsGoOfWhoeverHasNoNameOrAnswersTwice) {
+TEST_F(LinuxBrowserTabsTest, DropsABrowserWithoutNameOrWithTwoAnswers) {
   for (const std::string& program : {std::string(), std::string(5000, 'x')}) {
     const FileDescriptor nameless = TabSocket::connect().value();
     const std::string greeting = written(TabMessages::Greeting{program});

@@ -165,7 +165,7 @@ TEST_F(TpmKeyStoreTest, ThePinIsEncryptedOnTheBus) {
     if (command.substr(6, 4) != std::string("\0\0\x01\x76", 4)) continue;  // TPM2_StartAuthSession
     ++sessions;
     EXPECT_NE(command.substr(10, 4), std::string("\x40\0\0\x07", 4))
-        << "without a key, a listener knows the session's secret";
+        << "without a key, a listener on the bus knows the session's secret";
   }
   EXPECT_GE(sessions, 2);
 }

@@ -66,7 +66,7 @@ Task<> countDown(VirtualLoop& loop, Trace& trace, std::string name) {
   }
 }
 
-TEST(TaskScope, RunsTasksSideBySideAndLetsGoOfEachAtItsEnd) {
+TEST(TaskScope, RunsTasksSideBySideAndReleasesEachAtItsEnd) {
   VirtualLoop loop;
   Trace trace;
   TaskScope scope;

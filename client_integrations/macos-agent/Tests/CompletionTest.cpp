@@ -40,7 +40,7 @@ TEST(CompletionTest, CancelsNothingThatHasEnded) {
 
 // A copy may be destroyed later on another thread; the function's captures must be destroyed
 // before.
-TEST(CompletionTest, LetsGoOfTheFunctionWhenItEnds) {
+TEST(CompletionTest, ReleasesTheFunctionWhenItEnds) {
   const auto used = std::make_shared<int>(0);
   const Completion<> called([used] {});
   const Completion<> withdrawn([used] {});

@@ -66,7 +66,7 @@ class SequenceBuilder {
 
   /// Whether no element is complete, so that what comes belongs to the lead.
   [[nodiscard]] bool isInLead() const { return elements_.empty(); }
-  /// Whether nothing that follows can be an element any more.
+  /// Whether nothing that follows can still be an element.
   [[nodiscard]] bool isDone() const { return isDone_; }
 
   void addBoundary() {

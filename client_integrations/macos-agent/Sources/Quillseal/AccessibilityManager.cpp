@@ -127,8 +127,8 @@ Task<desktop::Delivery> press(desktop::KeyEvents& keys, desktop::KeyPress press,
 Task<Copy> copySelection(Services services,
                          const std::optional<desktop::RunningApplication>& source) {
   desktop::Pasteboard& pasteboard = services.pasteboard;
-  // Counted anew when the keys are pressed: what changes the clipboard while they wait for the
-  // user's fingers is no copy of the selection.
+  // Read again when the keys are pressed: changes while the press waits for the release of the
+  // hotkey are not copies of the selection.
   std::int64_t changeCount = pasteboard.changeCount();
   const auto delivery = co_await completionOf<desktop::Delivery>(
       [&services, &source, &changeCount](std::function<void(desktop::Delivery)> done) {

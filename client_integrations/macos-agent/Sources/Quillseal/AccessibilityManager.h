@@ -83,10 +83,10 @@ struct Capture {
   std::optional<CapturedContent> content;  ///< when something was copied
 };
 
-/// The selection of the front application; all of its text when nothing is selected. When a window
-/// of this program has the keyboard, the application behind it is called to the front first: what
-/// is named as the source is what is asked to copy. Nothing is pressed in anything else, and all is
-/// selected only after a copy that is known to have yielded no text.
+/// Captures the selection of the front application, or all of its text when nothing is selected.
+/// When a window of this program is focused, the application behind it is activated first, so that
+/// the reported source is the application that copies. Keys are pressed in no other application,
+/// and all text is selected only after a copy that is known to have given none.
 [[nodiscard]] Task<Capture> captureSelectedContent(Services services);
 
 }  // namespace AccessibilityManager

@@ -73,8 +73,7 @@ class SigningCoordinator {
   /// Signs with the device key and registers the signature; gives its identifier.
   [[nodiscard]] Task<std::string> signOnce(Signable signable);
 
-  /// The same; when the server does not know the device, registers its key anew and tries again,
-  /// once.
+  /// The same; if the server does not know the device, registers its key again and retries once.
   [[nodiscard]] Task<std::string> signWithRecovery(Signable signable);
 
   /// Whether an error's description says that the server does not know this device.

@@ -1,9 +1,11 @@
 // A person's keyboard and mouse under Wayland, by virtual-keyboard and wlr-virtual-pointer, or
 // KWin's fake-input. Reads commands, one a line, from standard input and writes "done" for each:
-// down KEYSYM... presses the keys in order and holds them up releases them, the last one first type
-// TEXT types the rest of the line click X Y W H presses the left button there, on a display of that
-// width and height usage: wayland-person LAYOUT, as xkeyboard-config(7) names it: us, de, fr, or
-// ru,us for two of which the first is in use. KWin has to have the same one.
+//   down KEYSYM...   presses the keys in order and holds them
+//   up               releases them, the last one first
+//   type TEXT        types the rest of the line
+//   click X Y W H    presses the left button there, on a display of that width and height
+// usage: wayland-person LAYOUT, as xkeyboard-config(7) names it: us, de, fr, or ru,us for two, of
+// which the first is active. KWin must have the same one.
 
 #include <cstdint>
 #include <iostream>

@@ -453,7 +453,7 @@ TEST_F(LinuxBrowserTabsTest, AsRootConnectsToNoOtherUsersAgent) {
   tabs_.reset();
   const FileDescriptor listening = TabSocket::listen();
   EXPECT_TRUE(TabSocket::connect());
-  // A listening socket belongs to the process that called listen() last.
+  // A listening socket belongs to the user that called listen() last.
   EXPECT_EQ(asAnotherUser([&] { return ::listen(listening.get(), 1); }), 0);
   EXPECT_FALSE(TabSocket::connect());
 }

@@ -243,7 +243,8 @@ class Server {
                             withIntermediateDirectories:YES
                                              attributes:nil
                                                   error:nil];
-    // The shell ends the server and removes its records however this program ends.
+    // The shell ends the server and removes its records however this program ends. Only the server
+    // writes into the pipe, so that reading ends if it did not start.
     NSString* commands = @"\"$1\" --port 0 --database \"$0/registry.sqlite\" & "
                          @"exec >/dev/null; cat; kill $!; wait; rm -r \"$0\"";
     task_ = taskOf(@"/bin/sh", @[ @"-c", commands, folder, environment("QUILLSEAL_DEV_SERVER") ]);

@@ -14,14 +14,15 @@ inline constexpr const char* html = "text/html";
 /// Maps the name of a format to its bytes.
 using Content = std::map<std::string, std::string>;
 
-/// Of each group the first format that is offered is read, in this order.
+/// Groups of formats. Of each group the first offered format is read, in this order.
 using Groups = std::vector<std::vector<std::string>>;
 
-/// What is read of every copy. The marks of a secret come first, so that the secret itself is not
-/// even read. No other format is asked for: a word processor lays the selection out anew for each.
+/// Returns the formats that are read of every copy. The marks of a secret come first, so that the
+/// secret itself is not read. No other format is requested, because a word processor renders the
+/// selection again for each.
 [[nodiscard]] const Groups& wanted();
 
-/// What is read instead when somebody wants RTF; the marks of a secret come first here too.
+/// Returns the formats that are read for RTF, the marks of a secret first.
 [[nodiscard]] const Groups& wantedForRtf();
 
 /// The formats of `wanted` that hold plain text.
@@ -34,7 +35,7 @@ using Groups = std::vector<std::vector<std::string>>;
 [[nodiscard]] std::optional<std::string> plainTextOf(const Content& content);
 [[nodiscard]] std::optional<std::string> htmlOf(const Content& content);
 
-/// Bytes; nothing when there are none or they are secret.
+/// Returns the bytes of the RTF; nothing when there is none or it is secret.
 [[nodiscard]] std::optional<std::string> rtfOf(const Content& content);
 
 }  // namespace quillseal::linux::ClipboardFormats

@@ -479,7 +479,7 @@ class WideJoiner {
     while (last + 2 < cells_.size() && cells_[last + 1].scalar == sign && isUnit(last + 2))
       last += 2;
     if ((last - first) / 2 + 1 < fewest) return last > first ? last - 1 : first;
-    if (sign != U' ') signs_ += sign;
+    if (sign != U' ' && signs_.find(sign) == std::u32string::npos) signs_ += sign;
     for (std::size_t i = first + 1; i < last; i += 2)
       leaveOut(i);
     return last;

@@ -336,6 +336,18 @@ TEST(ReadableText, LongTextsTakeNoLongTime) {
   }
 }
 
+// The more often a sign was left out, the longer the search for it must not get.
+TEST(ReadableText, SignsLeftOutOftenTakeNoLongTime) {
+  std::string text;
+  while (text.size() < 2'500'000)
+    text += "\uAC00-\uAC00-\uAC00,";
+  while (text.size() < 5'000'000)
+    text += "\uAC00,";
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_FALSE(ReadableText(text).isAsWritten());
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
+}
+
 TEST(ReadableText, BothScreeningsCount) {
   // The address is found only as written, the wording only as read.
   const std::string text =

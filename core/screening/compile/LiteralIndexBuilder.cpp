@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <string>
 #include <utility>
 
 namespace quillseal::screening {
@@ -73,7 +74,10 @@ class Trie {
       std::uint32_t next = nodes_[at].child(symbol);
       if (next == 0) {
         next = static_cast<std::uint32_t>(nodes_.size());
-        if (next >= std::numeric_limits<State>::max()) throw PatternError("too many literals");
+        constexpr auto most = std::numeric_limits<State>::max();
+        if (next >= most)
+          throw PatternError("the literals of all patterns need more than " + std::to_string(most) +
+                             " states; shorten or merge some patterns");
         nodes_[at].children.emplace_back(symbol, next);
         nodes_.emplace_back();
         nodes_[next].depth = nodes_[at].depth + 1;

@@ -8,6 +8,7 @@
 #include "PatternText.h"
 #include "RandomText.h"
 #include "RulePatterns.h"
+#include "core/screening/compile/PatternSyntax.h"
 #include "core/screening/compile/TableCompiler.h"
 #include "core/screening/match/ScreeningEngine.h"
 
@@ -163,6 +164,28 @@ TEST(ScreeningEngine, ReportsPatternsItCannotUseAndKeepsTheOthers) {
   ASSERT_EQ(matches.size(), 1U);
   EXPECT_EQ(matches.front().pattern, faulty.size());
   EXPECT_EQ(matches.front().start, 2U);
+}
+
+// More would be numbered wrongly. The build of the agent ends with this message.
+TEST(ScreeningEngine, RefusesMoreLiteralsThanItsIndexHolds) {
+  std::mt19937 random(7);
+  std::vector<std::string> expressions;
+  for (int i = 0; i < 18'000; ++i) {
+    std::string word;
+    while (word.size() < 9)
+      word += static_cast<char>('a' + random() % 26);
+    expressions.push_back(word);
+  }
+  std::vector<Pattern> patterns;
+  for (const std::string& expression : expressions)
+    patterns.push_back({.expression = expression});
+  try {
+    (void)screening::compilePatterns(patterns);
+    FAIL() << "compiled";
+  } catch (const screening::PatternError& error) {
+    EXPECT_NE(std::string(error.what()).find("more than 65535 states"), std::string::npos)
+        << error.what();
+  }
 }
 
 TEST(ScreeningEngine, IllFormedBytesCountAsReplacementCharacters) {

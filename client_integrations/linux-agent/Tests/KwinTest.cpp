@@ -142,7 +142,7 @@ class ScriptedKde {
 
 class Kwin : public ::testing::Test {
  protected:
-  PrivateBus sessionBus{"DBUS_SESSION_BUS_ADDRESS"};
+  std::optional<PrivateBus> sessionBus{std::in_place, "DBUS_SESSION_BUS_ADDRESS"};
 };
 
 // Keys --------------------------------------------------------------------------------------------
@@ -194,6 +194,7 @@ TEST_F(KwinKeys, AreThoseOfTheLayoutInUse) {
     const auto bus = DesktopBus::open();
     KwinKeyboard keyboard(*connection, bus.get());
     EXPECT_TRUE(connection->roundTrip() && connection->roundTrip());
+    keyboard.prepare();
     keyboard.tap(row.chord);
     EXPECT_TRUE(connection->roundTrip());
     EXPECT_EQ(chordIn(compositor.keys()), row.keys) << layout << " with " << row.keys.size();
@@ -206,12 +207,23 @@ TEST_F(KwinKeys, ReachNoWindowBehindALockedScreen) {
   const ScriptedCompositor compositor({.isKwin = true});
   const auto connection = WaylandConnection::open();
   const auto bus = DesktopBus::open();
-  const KwinKeyboard keyboard(*connection, bus.get());
-  EXPECT_TRUE(keyboard.reachesActiveWindow());  // no service that locks screens
-  for (const bool isLocked : {true, false}) {
-    const ScriptedKde kde({.isLocked = isLocked});
-    EXPECT_EQ(keyboard.reachesActiveWindow(), !isLocked);
+  KwinKeyboard keyboard(*connection, bus.get());
+  const auto reaches = [&] {
+    keyboard.prepare();
+    return keyboard.reachesActiveWindow();
+  };
+  EXPECT_TRUE(reaches());  // nobody locks screens here
+  const struct {
+    ScriptedKde::Script script;
+    bool isReached;
+  } rows[] = {{{.isLocked = true}, false}, {{}, true}, {{.answers = false}, false}};
+  for (const auto& row : rows) {
+    const ScriptedKde kde(row.script);
+    EXPECT_EQ(reaches(), row.isReached);
   }
+  EXPECT_TRUE(reaches());
+  sessionBus.reset();  // and now nobody can tell
+  EXPECT_FALSE(reaches());
 }
 
 // Hotkey ------------------------------------------------------------------------------------------
@@ -275,7 +287,6 @@ TEST_F(KwinHotkeys, SayWhyThereAreNone) {
 }
 
 TEST_F(KwinHotkeys, EndWithTheBus) {
-  std::optional<PrivateBus> dying(std::in_place, "DBUS_SESSION_BUS_ADDRESS");
   std::optional<ScriptedKde> kde(std::in_place, ScriptedKde::Script{});
   PollLoop loop;
   const auto bus = DesktopBus::open();
@@ -283,7 +294,7 @@ TEST_F(KwinHotkeys, EndWithTheBus) {
   KwinHotkey keys({.loop = loop, .bus = *bus});
   keys.registerHotkey(desktop::signingHotkey, [] {});
   kde.reset();
-  dying.reset();
+  sessionBus.reset();
   int turns = 0;
   testing::runUntil(loop, [&] { return ++turns == 5; });
   EXPECT_FALSE(KwinHotkey::isOfferedBy(*bus));

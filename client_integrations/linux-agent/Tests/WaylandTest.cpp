@@ -446,6 +446,43 @@ TEST_P(EitherDesktop, IsLookedAtAgainImmediatelyBeforeThePress) {
   EXPECT_FALSE(isAboutToPress);
 }
 
+/// Its desktop takes its time to answer.
+class SlowKeyboard : public AgentKeyboard {
+ public:
+  std::function<void()> meanwhile;
+  int taps = 0;
+
+  void prepare() override { meanwhile(); }
+  [[nodiscard]] bool reachesActiveWindow() const override { return true; }
+  void tap(std::span<const Keysym>) override { ++taps; }
+};
+
+TEST_P(EitherDesktop, IsLookedAtAfterTheDesktopWasAsked) {
+  ScriptedCompositor compositor({.isKwin = GetParam()});
+  Agent agent;
+  const std::size_t letter = compositor.open({.applicationId = "editor", .title = "letter"});
+  agent.catchUp();
+  SlowKeyboard keyboard;
+  WaylandKeyEvents keys({.loop = agent.loop,
+                         .connection = *agent.connection,
+                         .windows = agent.windows,
+                         .pasteboard = agent.pasteboard,
+                         .keyboard = keyboard,
+                         .explain = {}});
+  const auto press = [&] {
+    std::optional<Delivery> delivery;
+    const desktop::Ticket ticket = keys.press(pasteKeys, agent.applications.frontmost(), {},
+                                              [&](Delivery d) { delivery = d; });
+    testing::runUntil(agent.loop, [&] { return delivery.has_value(); });
+    return *delivery;
+  };
+  keyboard.meanwhile = [] {};
+  EXPECT_EQ(press(), Delivery::delivered);
+  keyboard.meanwhile = [&] { compositor.retitle(letter, "another letter"); };
+  EXPECT_EQ(press(), Delivery::documentChanged);
+  EXPECT_EQ(keyboard.taps, 1);
+}
+
 TEST_P(EitherDesktop, CopiesWhatIsSelectedInATerminalOfX11) {
   ScriptedCompositor compositor({.isKwin = GetParam()});
   Agent agent;

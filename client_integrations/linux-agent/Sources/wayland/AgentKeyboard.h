@@ -14,8 +14,12 @@ class AgentKeyboard {
  public:
   virtual ~AgentKeyboard() = default;
 
-  /// Returns whether keys go to the active window. False while something that is not in the list of
-  /// windows gets them, such as the screen lock.
+  /// Asks the desktop what the other two need to know, which may take two seconds. To be called
+  /// before the compositor is asked for the active window, which may change meanwhile.
+  virtual void prepare() = 0;
+
+  /// Whether keys go to the active window. False while something else gets them of which the
+  /// windows tell nothing, such as a locked screen.
   [[nodiscard]] virtual bool reachesActiveWindow() const = 0;
 
   /// Presses the keys in order and releases them in reverse order. Supports only the keys that

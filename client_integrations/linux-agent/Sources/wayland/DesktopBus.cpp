@@ -28,14 +28,15 @@ void DesktopBus::serve(desktop::MainLoop& loop, Descriptors& descriptors) {
   later_ = loop.after({}, [this] { process(); });
 }
 
-bool DesktopBus::knows(const char* name) {
+std::optional<bool> DesktopBus::knows(const char* name) {
   const Message answer = call({.service = "org.freedesktop.DBus",
                                .path = "/org/freedesktop/DBus",
                                .interface = "org.freedesktop.DBus",
                                .name = "NameHasOwner"},
                               "s", name);
   int has = 0;
-  return answer != nullptr && ::sd_bus_message_read(answer.get(), "b", &has) > 0 && has != 0;
+  if (answer == nullptr || ::sd_bus_message_read(answer.get(), "b", &has) <= 0) return std::nullopt;
+  return has != 0;
 }
 
 DesktopBus::Message DesktopBus::newCall(const Method& method) {

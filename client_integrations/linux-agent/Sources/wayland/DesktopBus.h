@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include <systemd/sd-bus.h>
 
@@ -46,8 +47,8 @@ class DesktopBus {
   /// Starts delivering signals. Both outlive this object.
   void serve(desktop::MainLoop& loop, Descriptors& descriptors);
 
-  /// Returns whether a service owns this name.
-  [[nodiscard]] bool knows(const char* name);
+  /// Whether somebody has this name; nothing when the bus does not answer.
+  [[nodiscard]] std::optional<bool> knows(const char* name);
 
   /// Calls a method and returns the answer; null when there is none or an error. `types` and
   /// `arguments` as for sd_bus_message_append.

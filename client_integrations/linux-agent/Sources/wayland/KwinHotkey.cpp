@@ -117,7 +117,7 @@ KwinHotkey::~KwinHotkey() {
 }
 
 bool KwinHotkey::isOfferedBy(DesktopBus& bus) {
-  return bus.knows(service);
+  return bus.knows(service).value_or(false);
 }
 
 void KwinHotkey::registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) {

@@ -37,6 +37,34 @@ std::optional<std::uint32_t> placeOf(Keysym symbol) {
   }
 }
 
+/// Windows stay active behind a locked screen.
+bool isScreenLocked(DesktopBus& bus) {
+  constexpr const char* service = "org.freedesktop.ScreenSaver";
+  const DesktopBus::Message answer = bus.call({.service = service,
+                                               .path = "/ScreenSaver",
+                                               .interface = "org.freedesktop.ScreenSaver",
+                                               .name = "GetActive"},
+                                              "");
+  int isLocked = 0;
+  if (answer != nullptr && ::sd_bus_message_read(answer.get(), "b", &isLocked) > 0)
+    return isLocked != 0;
+  // Without the service nobody locks the screen. One that does not answer may have locked it.
+  return bus.knows(service).value_or(true);
+}
+
+/// Its number in the keyboard's layouts; nothing when nobody tells.
+std::optional<std::uint32_t> layoutInUse(DesktopBus& bus) {
+  const DesktopBus::Message answer = bus.call({.service = "org.kde.keyboard",
+                                               .path = "/Layouts",
+                                               .interface = "org.kde.KeyboardLayouts",
+                                               .name = "getLayout"},
+                                              "");
+  std::uint32_t number = 0;
+  if (answer == nullptr || ::sd_bus_message_read(answer.get(), "u", &number) <= 0)
+    return std::nullopt;
+  return number;
+}
+
 }  // namespace
 
 struct KwinKeyboard::Device {
@@ -52,17 +80,10 @@ bool KwinKeyboard::isOfferedBy(const WaylandConnection& connection) {
   return connection.versionOf(org_kde_kwin_fake_input_interface.name) >= version;
 }
 
-bool KwinKeyboard::reachesActiveWindow() const {
-  if (bus_ == nullptr) return true;
-  // Windows stay active behind the screen lock.
-  const DesktopBus::Message answer = bus_->call({.service = "org.freedesktop.ScreenSaver",
-                                                 .path = "/ScreenSaver",
-                                                 .interface = "org.freedesktop.ScreenSaver",
-                                                 .name = "GetActive"},
-                                                "");
-  int isLocked = 0;
-  if (answer != nullptr) ::sd_bus_message_read(answer.get(), "b", &isLocked);
-  return isLocked == 0;
+void KwinKeyboard::prepare() {
+  if (bus_ == nullptr) return;
+  isLocked_ = isScreenLocked(*bus_);
+  layoutInUse_ = isLocked_ ? std::nullopt : layoutInUse(*bus_);
 }
 
 std::optional<std::uint32_t> KwinKeyboard::keyFor(Keysym symbol) {
@@ -76,17 +97,8 @@ std::optional<std::uint32_t> KwinKeyboard::keyFor(Keysym symbol) {
   const bool isOne =
       std::ranges::all_of(keys, [&](const auto& key) { return !key.has_value() || key == *first; });
   if (isOne) return **first - evdevOffset;
-  if (bus_ == nullptr) return std::nullopt;
-  const DesktopBus::Message answer = bus_->call({.service = "org.kde.keyboard",
-                                                 .path = "/Layouts",
-                                                 .interface = "org.kde.KeyboardLayouts",
-                                                 .name = "getLayout"},
-                                                "");
-  std::uint32_t used = 0;
-  if (answer == nullptr || ::sd_bus_message_read(answer.get(), "u", &used) <= 0 ||
-      used >= keys.size())
-    return std::nullopt;
-  return keys[used].value_or(**first) - evdevOffset;
+  if (!layoutInUse_ || *layoutInUse_ >= keys.size()) return std::nullopt;
+  return keys[*layoutInUse_].value_or(**first) - evdevOffset;
 }
 
 std::vector<std::uint32_t> KwinKeyboard::keysFor(std::span<const Keysym> chord) {

@@ -22,7 +22,8 @@ class KwinKeyboard : public AgentKeyboard {
 
   [[nodiscard]] static bool isOfferedBy(const WaylandConnection& connection);
 
-  [[nodiscard]] bool reachesActiveWindow() const override;
+  void prepare() override;
+  [[nodiscard]] bool reachesActiveWindow() const override { return !isLocked_; }
 
   /// Copies with Ctrl+Insert and pastes with Shift+Insert where the layouts have no key for the
   /// letter, or the active layout is not known. In that case other letters are pressed only if no
@@ -38,7 +39,9 @@ class KwinKeyboard : public AgentKeyboard {
   WaylandConnection& connection_;
   DesktopBus* bus_;
   std::unique_ptr<Device> device_;
-  std::map<Keysym, std::vector<std::optional<std::uint32_t>>> known_;  ///< the key in each layout
+  bool isLocked_ = false;  ///< the screen, or nobody could tell
+  std::optional<std::uint32_t> layoutInUse_;
+  std::map<Keysym, std::vector<std::optional<std::uint32_t>>> known_;  ///< keys in each layout
   WaylandLayout layout_;
 };
 

@@ -55,9 +55,11 @@ class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
 
  private:
   void comeBackAfter(milliseconds delay) {
-    // First take in the compositor's latest state.
-    waiting_ = services_.loop.after(
-        delay, [this] { waiting_ = services_.connection.catchUp([this] { step(); }); });
+    waiting_ = services_.loop.after(delay, [this] {
+      services_.keyboard.prepare();
+      // Decide on the compositor's latest state.
+      waiting_ = services_.connection.catchUp([this] { step(); });
+    });
   }
 
   void step() {

@@ -27,7 +27,8 @@ class WaylandKeyboard : public AgentKeyboard {
   /// Returns whether a keymap from the compositor is the one of this keyboard.
   [[nodiscard]] static bool isOwnLayout(std::string_view text);
 
-  /// A lock screen or launcher of the compositor takes the focus from the active window.
+  void prepare() override {}
+  /// A window of the compositor's own takes the keyboard from the active one.
   [[nodiscard]] bool reachesActiveWindow() const override { return true; }
   void tap(std::span<const Keysym> chord) override;
 

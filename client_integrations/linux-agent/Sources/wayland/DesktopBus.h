@@ -6,6 +6,7 @@
 
 #include <systemd/sd-bus.h>
 
+#include "core/text/UniqueHandle.h"
 #include "desktop/MainLoop.h"
 #include "desktop/Ticket.h"
 #include "session/Descriptors.h"
@@ -16,13 +17,9 @@ namespace quillseal::linux {
 /// service and takes at most a second. Main thread.
 class DesktopBus {
  public:
-  struct Unref {
-    void operator()(sd_bus_message* message) const noexcept { ::sd_bus_message_unref(message); }
-    void operator()(sd_bus_slot* slot) const noexcept { ::sd_bus_slot_unref(slot); }
-  };
-  using Message = std::unique_ptr<sd_bus_message, Unref>;
-  /// A subscription, active as long as it is kept.
-  using Subscription = std::unique_ptr<sd_bus_slot, Unref>;
+  using Message = UniqueHandle<sd_bus_message, ::sd_bus_message_unref>;
+  /// What is listened for, for as long as this is kept.
+  using Subscription = UniqueHandle<sd_bus_slot, ::sd_bus_slot_unref>;
 
   struct Method {
     const char* service;
@@ -66,16 +63,12 @@ class DesktopBus {
   [[nodiscard]] Subscription subscribe(const Signal& signal, Receiver& received);
 
  private:
-  struct Close {
-    void operator()(sd_bus* bus) const noexcept { ::sd_bus_flush_close_unref(bus); }
-  };
-
   explicit DesktopBus(sd_bus* bus) : bus_(bus) {}
   [[nodiscard]] Message newCall(const Method& method);
   [[nodiscard]] Message send(sd_bus_message& request);
   void process();
 
-  std::unique_ptr<sd_bus, Close> bus_;
+  UniqueHandle<sd_bus, ::sd_bus_flush_close_unref> bus_;
   desktop::MainLoop* loop_ = nullptr;
   desktop::Ticket watch_;
   desktop::Ticket later_;

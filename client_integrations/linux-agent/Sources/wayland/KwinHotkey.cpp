@@ -9,6 +9,7 @@
 #include <xkbcommon/xkbcommon-keysyms.h>
 
 #include "core/text/Error.h"
+#include "wayland/KwinKeyboard.h"
 #include "x11/KeyChords.h"
 
 namespace quillseal::linux {
@@ -116,8 +117,8 @@ KwinHotkey::~KwinHotkey() {
                                          componentName, actionName));
 }
 
-bool KwinHotkey::isOfferedBy(DesktopBus& bus) {
-  return bus.knows(service).value_or(false);
+bool KwinHotkey::isOfferedBy(const WaylandConnection& connection, DesktopBus& bus) {
+  return KwinKeyboard::isOfferedBy(connection) && bus.knows(service).value_or(false);
 }
 
 void KwinHotkey::registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) {

@@ -6,6 +6,7 @@
 #include "desktop/Hotkey.h"
 #include "desktop/MainLoop.h"
 #include "wayland/DesktopBus.h"
+#include "wayland/WaylandConnection.h"
 
 namespace quillseal::linux {
 
@@ -23,8 +24,9 @@ class KwinHotkey : public desktop::Hotkey {
   explicit KwinHotkey(const Services& services);
   ~KwinHotkey() override;
 
-  /// Returns whether the desktop has KGlobalAccel.
-  [[nodiscard]] static bool isOfferedBy(DesktopBus& bus);
+  /// Whether the compositor is KWin and has it. On other desktops a program of KDE's may have
+  /// started KGlobalAccel: it would take the keys and never report a press.
+  [[nodiscard]] static bool isOfferedBy(const WaylandConnection& connection, DesktopBus& bus);
 
   void registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) override;
 

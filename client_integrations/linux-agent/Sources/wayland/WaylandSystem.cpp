@@ -16,10 +16,9 @@ std::string swaySocket() {
   return qgetenv("SWAYSOCK").toStdString();
 }
 
-/// Sway's comes first: KDE's may still be on the bus from another session.
 std::unique_ptr<desktop::Hotkey> offeredHotkey(const WindowingSystem::Services& services,
                                                WaylandConnection& connection, DesktopBus* bus) {
-  if (swaySocket().empty() && bus != nullptr && KwinHotkey::isOfferedBy(*bus))
+  if (bus != nullptr && KwinHotkey::isOfferedBy(connection, *bus))
     return std::make_unique<KwinHotkey>(KwinHotkey::Services{.loop = services.loop, .bus = *bus});
   return std::make_unique<SwayHotkey>(SwayHotkey::Services{.loop = services.loop,
                                                            .descriptors = services.descriptors,

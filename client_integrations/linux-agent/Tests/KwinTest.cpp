@@ -328,6 +328,20 @@ TEST_F(KwinHotkeys, AreOfKwinOnly) {
 
 using KwinBus = Kwin;
 
+TEST_F(KwinBus, IsNotWaitedForWhenItHangs) {
+  const auto bus = DesktopBus::open();
+  EXPECT_EQ(bus->knows("org.kde.kglobalaccel"), false);
+  sessionBus->hang();
+  const auto start = std::chrono::steady_clock::now();
+  DesktopBus::Receiver nobody;
+  EXPECT_EQ(
+      bus->subscribe(
+          {.sender = "a.b", .path = "/", .interface = "a.b", .name = "c", .firstArgument = "d"},
+          nobody),
+      nullptr);
+  EXPECT_LT(std::chrono::steady_clock::now() - start, 5s);
+}
+
 TEST_F(KwinBus, IsNoneWhereTheSessionHasNone) {
   setenv("DBUS_SESSION_BUS_ADDRESS", "disabled:", 1);
   EXPECT_EQ(DesktopBus::open(), nullptr);

@@ -35,7 +35,12 @@ PrivateBus::PrivateBus(const char* variable) : variable_(variable) {
 PrivateBus::~PrivateBus() {
   ::unsetenv(variable_.c_str());
   ::kill(process_, SIGTERM);
+  ::kill(process_, SIGCONT);
   ::waitpid(process_, nullptr, 0);
+}
+
+void PrivateBus::hang() const {
+  ::kill(process_, SIGSTOP);
 }
 
 }  // namespace quillseal::testing

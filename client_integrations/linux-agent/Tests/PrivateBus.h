@@ -15,6 +15,9 @@ class PrivateBus {
   PrivateBus& operator=(const PrivateBus&) = delete;
   ~PrivateBus();
 
+  /// From now on it answers nothing.
+  void hang() const;
+
  private:
   std::string variable_;
   pid_t process_ = 0;

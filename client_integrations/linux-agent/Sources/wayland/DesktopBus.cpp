@@ -13,6 +13,8 @@ constexpr std::uint64_t callMicroseconds = 1'000'000;
 std::unique_ptr<DesktopBus> DesktopBus::open() {
   sd_bus* opened = nullptr;
   if (::sd_bus_open_user(&opened) < 0) return nullptr;
+  // Also for what the library asks the bus by itself, such as for signals.
+  ::sd_bus_set_method_call_timeout(opened, callMicroseconds);
   return std::unique_ptr<DesktopBus>(new DesktopBus(opened));
 }
 

@@ -111,8 +111,8 @@ KwinHotkey::KwinHotkey(const Services& services)
       }) {}
 
 KwinHotkey::~KwinHotkey() {
-  // Otherwise no program would get these keys until the agent starts again.
-  if (isRegistered_)
+  // Else the keys would do nothing in any program until the agent starts again.
+  if (mayHaveKeys_)
     static_cast<void>(services_.bus.call(method("setInactive"), "as", 4, component, action,
                                          componentName, actionName));
 }
@@ -127,7 +127,8 @@ void KwinHotkey::registerHotkey(desktop::KeyPress combination, std::function<voi
   presses_ = services_.bus.subscribe(signal("globalShortcutPressed"), onPress_);
   releases_ = services_.bus.subscribe(signal("globalShortcutReleased"), onRelease_);
   const Registration registration = request();
-  isRegistered_ = registration.isGranted;
+  // What is not answered in time may be done later.
+  mayHaveKeys_ = registration.isGranted || !registration.isAnswered;
   if (registration.isTaken)
     fail(1, "Another program already uses " + nameOf(combination) +
                 ". Free it in the shortcut settings of your desktop and start Quillseal again");

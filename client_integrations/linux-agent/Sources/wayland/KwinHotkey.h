@@ -43,8 +43,8 @@ class KwinHotkey : public desktop::Hotkey {
 
   Services services_;
   std::function<void()> pressed_;
-  int keys_ = 0;  ///< in Qt's numbering
-  bool isRegistered_ = false;
+  int keys_ = 0;  ///< as Qt numbers them
+  bool mayHaveKeys_ = false;
   bool isDown_ = false;
   desktop::MainLoop::TimePoint lastPress_;
   desktop::Ticket again_;

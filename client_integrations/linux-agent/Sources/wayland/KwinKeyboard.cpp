@@ -18,10 +18,11 @@ constexpr std::uint32_t version = 4;
 // XKB key codes are evdev's plus 8.
 constexpr std::uint32_t evdevOffset = 8;
 
-// The keys of the hotkey, and the other modifiers.
-constexpr std::array holdable = {KEY_H,         KEY_LEFTCTRL,  KEY_RIGHTCTRL,
-                                 KEY_LEFTALT,   KEY_RIGHTALT,  KEY_LEFTMETA,
-                                 KEY_RIGHTMETA, KEY_LEFTSHIFT, KEY_RIGHTSHIFT};
+// What takes part in the hotkey, and what else changes the meaning of a key. Some people have Caps
+// Lock stand for another of them.
+constexpr std::array holdable = {KEY_H,          KEY_LEFTCTRL, KEY_RIGHTCTRL, KEY_LEFTALT,
+                                 KEY_RIGHTALT,   KEY_LEFTMETA, KEY_RIGHTMETA, KEY_LEFTSHIFT,
+                                 KEY_RIGHTSHIFT, KEY_CAPSLOCK};
 
 /// Returns the key code of a symbol that has the same one in every layout.
 std::optional<std::uint32_t> placeOf(Keysym symbol) {

@@ -27,7 +27,7 @@ constexpr std::uint32_t asPresent = 2;
 constexpr std::uint32_t asDefault = 8;
 
 /// KGlobalAccel repeats a press while the keys are held, and older versions report no release.
-/// Desktops allow repeat delays up to this.
+/// Desktops let people choose delays up to this.
 constexpr std::chrono::milliseconds longestRepeatDelay{1000};
 
 constexpr DesktopBus::Method method(const char* name) {

@@ -3,7 +3,6 @@
 #include <QGuiApplication>
 #include <algorithm>
 #include <cstring>
-#include <filesystem>
 #include <memory>
 
 #include <unistd.h>

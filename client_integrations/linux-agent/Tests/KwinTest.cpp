@@ -34,9 +34,7 @@ namespace {
 using namespace std::chrono_literals;
 using ::testing::AllOf;
 using ::testing::Contains;
-using ::testing::ElementsAre;
 using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 using testing::PrivateBus;
 using testing::ScriptedCompositor;
 

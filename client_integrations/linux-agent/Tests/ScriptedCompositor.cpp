@@ -64,7 +64,8 @@ struct ScriptedCompositor::Server {
   std::vector<int> openEnds{};
   std::vector<std::thread> writers{};
   std::vector<std::string> keys{};
-  bool isAuthenticated = false;  ///< by a program that uses KWin's fake-input
+  wl_interface fakeInput = org_kde_kwin_fake_input_interface;
+  bool isAuthenticated = false;  ///< by a program that presses keys of KWin's
   std::vector<std::string> asked{};
   std::thread thread{};
 
@@ -404,8 +405,10 @@ struct ScriptedCompositor::Server {
                });
   }
   void addKwin() {
+    // The description that is installed may be older.
+    fakeInput.version = traits.fakeInputVersion;
     if (traits.hasKeyboards)
-      add(org_kde_kwin_fake_input_interface, 4,
+      add(fakeInput, traits.fakeInputVersion,
           [](wl_client* client, void* data, std::uint32_t version, std::uint32_t id) {
             bound<org_kde_kwin_fake_input_interface, fakeInputRequests>(client, data, version, id);
           });

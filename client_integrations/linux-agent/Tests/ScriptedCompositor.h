@@ -35,6 +35,7 @@ class ScriptedCompositor {
     bool isKwin = false;
     std::string dataControl = "zwlr_data_control_manager_v1";
     bool hasKeyboards = true;  ///< for programs
+    int fakeInputVersion = 4;  ///< of KWin's
     bool namesWindows = true;
     std::string layout{};         ///< keymap of the user's keyboard; no keyboard when empty
     bool takesSelections = true;  ///< otherwise it cancels them at once

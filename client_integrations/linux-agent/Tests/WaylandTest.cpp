@@ -152,6 +152,7 @@ TEST(WaylandReach, TakesWhatHasClipboardKeysAndWindows) {
               {{.namesWindows = false}, false},
               {{.isKwin = true}, true},
               {{.isKwin = true, .hasKeyboards = false}, false},
+              {{.isKwin = true, .fakeInputVersion = 5}, false},  // what is held stays held
               {{.isKwin = true, .namesWindows = false}, false}};
   for (const auto& row : rows) {
     const ScriptedCompositor compositor(row.traits);

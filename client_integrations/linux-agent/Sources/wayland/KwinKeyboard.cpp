@@ -12,7 +12,8 @@
 namespace quillseal::linux {
 namespace {
 
-// The first version that can press keys.
+// The first that presses keys. From the next one on KWin lets go of nothing that the program has
+// not pressed itself: the keys of the hotkey, still held, would make other chords of those below.
 constexpr std::uint32_t version = 4;
 
 // XKB key codes are evdev's plus 8.
@@ -78,7 +79,7 @@ KwinKeyboard::KwinKeyboard(WaylandConnection& connection, DesktopBus* bus)
 KwinKeyboard::~KwinKeyboard() = default;
 
 bool KwinKeyboard::isOfferedBy(const WaylandConnection& connection) {
-  return connection.versionOf(org_kde_kwin_fake_input_interface.name) >= version;
+  return connection.versionOf(org_kde_kwin_fake_input_interface.name) == version;
 }
 
 void KwinKeyboard::prepare() {

@@ -20,6 +20,7 @@ class KwinKeyboard : public AgentKeyboard {
   KwinKeyboard(WaylandConnection& connection, DesktopBus* bus);
   ~KwinKeyboard() override;
 
+  /// Whether the compositor lets programs press keys, and let go of those that the person holds.
   [[nodiscard]] static bool isOfferedBy(const WaylandConnection& connection);
 
   void prepare() override;

@@ -183,7 +183,7 @@ class KwinWithoutPackage(stories.Story):
     def test_the_agent_says_what_to_do(self):
         self.start()
         self.desktop.wait_for_window("Quillseal")
-        self.assertIn("on KDE Plasma where the package of Quillseal is installed",
+        self.assertIn("on KDE Plasma 5 where the package of Quillseal is installed",
                       self.desktop.output_of(self.desktop.agent))
 
 

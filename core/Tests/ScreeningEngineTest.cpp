@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "CaseFile.h"
 #include "IcuReference.h"
 #include "PatternText.h"
 #include "RandomText.h"
@@ -68,72 +69,26 @@ Comparisons compareWithIcu(std::span<const Pattern> patterns, std::size_t texts,
 }
 
 TEST(ScreeningEngine, AgreesWithIcuOnEveryConstruct) {
-  constexpr std::array<std::string_view, 91> expressions{
-      // Letters, folding and the splitting of strings by groups, sets and quantifiers
-      "strasse", "ss", "s", "as+", "ass?", "a(?:s)s", "[s]s", "s[s]", "[.]fi", "of[f]i", "fi|ff|fl",
-      "ſtaff", "K", "kk", "ß", "xß?", "İ", "i", "σς", "e\u0301", "\u0149", "ŉ?t", "ǰ", "^ΐ\\s",
-      "ẖ+", "j\u030C", "ὒ",
-      // Sets
-      "[a-f]+", "[^a-z]{2,5}", "[\\s.\\-]\\d", "[\\w-]{3}", "[ -]x?", "[^\\W\\d]{4}", "[\\u00e9ß]",
-      "\\p{Lu}{2}", "[k\\x{1F600}-\\x{1F64F}]", ".{3}x", "[\\S\\s]t", "[]a]+",
-      // Quantifiers
-      "a{2}", "a{2,}?b", "(?:ab){2,3}", "(?:a|ab)(?:c|bcd)?d?", "\\w*?e\\b", "(?:\\w+\\s)+\\d",
-      "(?:a{0,2}b)*c", "[^.]{0,20}?e", "\\d{1,3}(?:,\\d{3})*", "(?:\\w+ ){0,2}?a", "x*", "(?:)",
-      // Positions
-      "^a|e$", "\\s*$", "^\\s*\\w+\\s*$", "\\bt", "t\\B", "\\B\\W\\b", "\\Ax?\\z", "\\r$", "$",
-      // White space in and about literals, and literals longer than those that are looked for
-      "end\\s+of\\s*the", "\\s+the\\s", "\\sof\\s\\s", "a  b", "[- ]the\\b", "\\s*\\bsend",
-      "of[ \\t]\\n", "to\\s+\\b\\w", "(?:our|my)\\s(?:\\w+\\s+){0,2}?end\\b", "\\s?\\n\\s?of",
-      "(?:sub-?|the )account\\s+number\\b", "\\b\\s+account\\s+settings\\b",
-      "mot\\s+de\\s+passe\\s+de", "\\bnext\\s+staff\\s+office\\b",
-      "(?:\\w+s|people)\\s+of\\s+(?:all\\s+)?(?:colours|nations)\\b",
-      "[^.!?]{0,9}\\s+internationally\\w",
-      // Looking around
-      "a(?!b)", "(?=\\w{3})e", "t(?![\\s\\S]*x)", "(?<!\\w)e", "(?<=[ .])a",
-      "(?<=\\b[a-z]{1,3})[.]", "(?<=\\b[a-f]{2})\\w", "(?<=\\bx)y",
-      // Loops over one code point, some of which only beside certain neighbours
-      "t(?:[^.!?]|[.](?=\\w)){0,9}e", "t(?:[^.]|[.](?=\\s?\\d)|(?<=\\b[a-z]{1,2})[.])*?e",
-      "(?:[^.]|[.](?=[^\\s.]))+e\\b", "(?:[a-m]|[n-z](?!\\W)){2,5}", "(?:s|[t](?=s)|a|ss){3}",
-      "(?=[\\s\\S]*a)(?=[\\s\\S]*\\be)", "^(?![\\s\\S]*x)[\\s\\S]*?(?:e\\w|a)"};
+  const auto groups = testing::cases();
   std::vector<Pattern> patterns;
-  for (const std::string_view expression : expressions)
-    for (const bool caseInsensitive : {true, false})
-      patterns.push_back({.expression = expression, .caseInsensitive = caseInsensitive});
+  for (const auto& group : groups)
+    for (const auto& expression : group["expressions"])
+      for (const bool caseInsensitive : {true, false})
+        patterns.push_back({.expression = expression.get_ref<const std::string&>(),
+                            .caseInsensitive = caseInsensitive});
   const Comparisons total = compareWithIcu(patterns, 3000, 17);
   EXPECT_GT(total.matched, total.compared / 20);
 }
 
 // What random texts rarely meet: orders of alternatives, elements and memo rows.
 TEST(ScreeningEngine, AgreesWithIcuWhereItIsHard) {
-  const struct {
-    std::string_view expression, text;
-  } cases[] = {
-      // A later alternative is found first.
-      {"account[ a-z]{0,20}settings|account", "the account of all settings"},
-      {"[a-z0-9 ]{0,5}internationally|\\d\\d", "ab 12internationally"},
-      {"(?:[a-z]{0,9}zebra|quilts|walrus)!", "abcdefzebra!"},
-      {"(?:walrus|quilts|[a-z]{0,9}zebra)!", "abcdefzebra!"},
-      // A first element where the last sequence ended.
-      {"zebra[^!]{1,9}zebra", "zebra!zebra zebra"},
-      {"zebra[^!]{1,9}quilts", "zebra!quilts zebra quilts"},
-      // Look-aheads over the whole text
-      {"(?![\\s\\S]*x)", "a x y"},
-      {"(?![\\s\\S]*x)(?=[\\s\\S]*y)", "a x y"},
-      {"^(?=[\\s\\S]*a)[\\s\\S]*e", "e a e e x"},
-      {"^(?=[\\s\\S]*a)[\\s\\S]*?e", "e a e e x"},
-      {"^(?=[\\s\\S]*a)(?![\\s\\S]*z)[\\s\\S]*?e", "e a z e"},
-      // Word boundaries beside white space
-      {"\\b\\s+zebra", "a \n zebra"},
-      {"\\b\\s+zebra", ". zebra"},
-      {"zebra\\s+\\b", "zebra  a"},
-      {"zebra\\s+\\b", "zebra  ."},
-  };
-  for (const auto& [expression, text] : cases) {
+  for (const auto& each : testing::cases()) {
+    const std::string expression = each[0];
+    const std::string text = each[1];
     const Pattern pattern{.expression = expression};
     const auto compiled = screening::compilePatterns({&pattern, 1});
     const ScreeningEngine engine(compiled.tables);
-    EXPECT_EQ(answersOf(engine, 1, text), IcuReference({&pattern, 1}).firstMatches(text))
-        << expression << " on " << text;
+    EXPECT_EQ(answersOf(engine, 1, text), IcuReference({&pattern, 1}).firstMatches(text)) << each;
   }
 }
 

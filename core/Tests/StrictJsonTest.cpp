@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "CaseFile.h"
 #include "core/text/StrictJson.h"
 
 namespace quillseal {
@@ -57,29 +58,11 @@ TEST(StrictJson, NamesTheKeyOfAWrongMember) {
 }
 
 TEST(StrictJson, RefusesWhatIsNotOneObject) {
-  for (const std::string_view text : {"",
-                                      " ",
-                                      "5",
-                                      "null",
-                                      "\"text\"",
-                                      "[]",
-                                      "[{}]",
-                                      "{",
-                                      "{\"a\"}",
-                                      "{\"a\":1,}",
-                                      "{}{}",
-                                      "{} x",
-                                      "{'a':1}",
-                                      "{\"a\":01}",
-                                      "{\"a\":NaN}",
-                                      "{\"a\":\"\x80\"}",
-                                      "{\"a\":\"\xed\xa0\x80\"}",
-                                      "{\"a\":\"\\ud800\"}",
-                                      "{\"a\":\"\n\"}",
-                                      "<html></html>",
-                                      "\xef\xbb\xbf"})
+  std::vector<std::string> texts{"{\"a\":\"\x80\"}", "{\"a\":\"\xed\xa0\x80\"}"};
+  for (const auto& text : testing::cases())
+    texts.push_back(text);
+  for (const std::string& text : texts)
     EXPECT_NE(failureOf([&] { (void)JsonObject::parse(text); }), "") << text;
-  EXPECT_NE(failureOf([] { (void)JsonObject::parse(std::string_view("{}\0", 3)); }), "");
   EXPECT_THAT(failureOf([] { (void)JsonObject::parse(R"({"a":1,"a":2})"); }), HasSubstr("“a”"));
 }
 

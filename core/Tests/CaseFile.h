@@ -10,8 +10,9 @@
 
 namespace quillseal::testing {
 
-/// The cases of the running test: what stands in its program's data file QUILLSEAL_CASES below
-/// "# " and its name, one JSON value a line up to an empty line. {3*ab} stands for ababab.
+/// The cases of the running test: what stands in its program's data file QUILLSEAL_CASES between
+/// "# " and its name and the next such line, one JSON value a line beside comments ("## ").
+/// {3*ab} stands for ababab.
 inline std::vector<nlohmann::ordered_json> cases() {
   static const std::regex repetition(R"(\{(\d+)\*([^{}]+)\})");
   const std::string heading =
@@ -21,7 +22,8 @@ inline std::vector<nlohmann::ordered_json> cases() {
   std::string line;
   while (std::getline(file, line) && line != heading) {
   }
-  while (std::getline(file, line) && !line.empty()) {
+  while (std::getline(file, line) && !line.starts_with("# ")) {
+    if (line.empty() || line.starts_with("##")) continue;
     for (std::smatch found; std::regex_search(line, found, repetition);) {
       std::string whole;
       for (int i = std::stoi(found[1]); i > 0; --i)

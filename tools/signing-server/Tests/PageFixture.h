@@ -116,12 +116,26 @@ class Front {
   std::optional<Serving<httplib::Server>> serving_;
 };
 
-/// Functions for test scripts: `report` shows lines in a separate element.
+/// What the scripts of tests share: `report` shows lines in an element of their own, `openRecord`
+/// makes the page that of another signature, whose script finds its record when it starts.
 inline constexpr const char* helpers = R"js(
-export const settled = () => new Promise((resolve) => setTimeout(resolve, 100));
+export const settled = () => new Promise((resolve) => setTimeout(resolve, 5));
 export async function until(condition) {
-  for (let i = 0; i < 100 && !condition(); ++i) await settled();
+  for (let i = 0; i < 2000 && !condition(); ++i) await settled();
 }
+let loads = 0;
+export async function openRecord(id) {
+  const source = await (await fetch(`/verify/${id}`)).text();
+  const page = new DOMParser().parseFromString(source, "text/html");
+  document.querySelector("main").replaceWith(page.querySelector("main"));
+  await import(`/assets/verify.js?${++loads}`);
+}
+export function paste(text) {
+  const field = document.getElementById("text");
+  field.value = text;
+  field.dispatchEvent(new Event("input"));
+}
+export const isSilent = () => document.getElementById("result").innerText.includes("Nothing has been compared yet");
 const output = document.createElement("pre");
 output.id = "report";
 export function report(line) {

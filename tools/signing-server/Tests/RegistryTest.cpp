@@ -7,8 +7,8 @@
 #include <thread>
 #include <vector>
 
+#include <SQLiteCpp/Database.h>
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 
 #include "Registry.h"
 
@@ -124,10 +124,7 @@ TEST_F(RegistryTest, LeavesAFileThatIsNotItsOwnAlone) {
        {"CREATE TABLE devices (id)", "PRAGMA user_version = 1", "PRAGMA application_id = 7",
         "PRAGMA application_id = 0x516C5372; PRAGMA user_version = 99"}) {
     std::filesystem::remove(path());
-    sqlite3* database = nullptr;
-    ASSERT_EQ(sqlite3_open(path().c_str(), &database), SQLITE_OK);
-    EXPECT_EQ(sqlite3_exec(database, statement, nullptr, nullptr, nullptr), SQLITE_OK);
-    sqlite3_close(database);
+    SQLite::Database(path(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE).exec(statement);
     expectRefused(statement);
   }
   EXPECT_THROW(Registry{path() + "/no/such/folder"}, RegistryError);

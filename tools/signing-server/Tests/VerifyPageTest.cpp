@@ -1,4 +1,3 @@
-#include <fstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -7,6 +6,7 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include "CaseFile.h"
 #include "PageFixture.h"
 #include "Quillseal/CryptoManager.h"
 #include "RandomText.h"
@@ -18,7 +18,7 @@
 namespace quillseal::devserver {
 namespace {
 
-using nlohmann::json;
+using json = nlohmann::ordered_json;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
@@ -36,22 +36,13 @@ std::string replacedAll(std::string value, const std::string& from, const std::s
   return value;
 }
 
-std::string repeated(const std::string& unit, int count) {
-  std::string result;
-  for (int i = 0; i < count; ++i)
-    result += unit;
-  return result;
-}
-
-/// Replaces the names in braces in a text of paste-cases.jsonl.
+/// A text of paste-cases.jsonl with what its names in braces stand for.
 std::string filled(std::string value) {
   static const std::pair<std::string, std::string> names[] = {
       {"{stamp}", "\n\n{rule}\n{line}\nCheck this signature → {link}"},
       {"{line}", "🛡️ QUILLSEAL · Email Message (Writer) · 1 January 2026"},
       {"{rule}", rule},
       {"{text}", text},
-      {"{numbers}", repeated("1 2 ", 510)},  // more spaces than the page draws as frames
-      {"{accents}", repeated("\u0301", 400)},
   };
   for (const auto& [name, meaning] : names)
     value = replacedAll(std::move(value), name, meaning);
@@ -106,63 +97,32 @@ class VerifyPageTest : public PageTest {
 
   std::string linkTo(const std::string& id) const { return front_->origin() + "/verify/" + id; }
 
-  /// Returns the cases of paste-cases.jsonl under this test's name. Each is an object:
-  ///  - "base": the text that was signed, usually "{text}"
-  ///  - "paste": with "{link}" for the record's own link, "{halves}" for the link with a space in
-  ///  it
-  ///  - "tone": good, caution, bad or unknown
-  ///  - "words", "shown", "unshown": texts in the verdict, below it, or nowhere on the page
-  ///  - "made", "changed": how the record differs, and how it was changed after signing
-  static std::vector<json> cases() {
-    const std::string heading =
-        std::string("# ") + ::testing::UnitTest::GetInstance()->current_test_info()->name();
-    std::vector<json> result;
-    std::ifstream file(QUILLSEAL_PASTE_CASES);
-    std::string line;
-    while (std::getline(file, line) && line != heading) {
-    }
-    while (std::getline(file, line) && !line.empty())
-      result.push_back(json::parse(line));
-    return result;
-  }
+  TestDevice device_;
+};
 
-  /// Pastes each case of this test into the page of its own record.
-  void check() {
-    const std::vector<json> cases = VerifyPageTest::cases();
-    ASSERT_FALSE(cases.empty());
-    json list = json::array();
-    for (const json& each : cases) {
-      const std::string id = recorded(filled(each.value("base", "{text}")), each);
-      const std::string halves = linkTo(id).insert(front_->origin().size() - 1, " ");
-      std::string paste = replacedAll(filled(each.at("paste")), "{halves}", halves);
-      paste = replacedAll(std::move(paste), "{link}", linkTo(id));
-      list.push_back({{"id", id}, {"paste", std::move(paste)}});
-    }
-    front_->files["/test/cases.json"] = list.dump();
-    // The script reads its record when it starts, so the page is loaded once for each case.
-    front_->files["/test/act.js"] = R"js(
-import { report } from "/test/help.js";
-const settled = () => new Promise((resolve) => setTimeout(resolve, 5));
-const text = () => document.getElementById("result").innerText;
-const nothing = "Nothing has been compared yet";
-// Escapes everything that HTML would change.
+TEST_F(VerifyPageTest, JudgesEachPaste) {
+  const auto cases = quillseal::testing::cases();
+  json list = json::array();
+  for (const json& each : cases) {
+    const std::string id = recorded(filled(each.value("base", "{text}")), each);
+    const std::string halves = linkTo(id).insert(front_->origin().size() - 1, " ");
+    std::string paste = replacedAll(filled(each.at("paste")), "{halves}", halves);
+    paste = replacedAll(std::move(paste), "{link}", linkTo(id));
+    list.push_back({{"id", id}, {"paste", std::move(paste)}});
+  }
+  front_->files["/test/cases.json"] = list.dump();
+  front_->files["/test/act.js"] = R"js(
+import { isSilent, openRecord, paste, report, until } from "/test/help.js";
+// Nothing in it is changed on its way through the document's HTML.
 const ascii = (value) => JSON.stringify(value).replace(/[^ -%'-;=?-~]/g,
   (unit) => `\\u${unit.charCodeAt(0).toString(16).padStart(4, "0")}`);
-let count = 0;
-for (const { id, paste } of await (await fetch("/test/cases.json")).json()) {
-  const source = await (await fetch(`/verify/${id}`)).text();
-  const page = new DOMParser().parseFromString(source, "text/html");
-  document.querySelector("main").replaceWith(page.querySelector("main"));
-  await import(`/assets/verify.js?${++count}`);
-  const before = text();
-  const field = document.getElementById("text");
-  field.value = paste;
-  field.dispatchEvent(new Event("input"));
-  for (let i = 0; i < 1000 && text().includes(nothing); ++i) await settled();
+for (const each of await (await fetch("/test/cases.json")).json()) {
+  await openRecord(each.id);
+  paste(each.paste);
+  await until(() => !isSilent());
   report(ascii({
-    before,
     tone: document.getElementById("result").classList[1],
-    verdict: text(),
+    verdict: document.getElementById("result").innerText,
     shown: document.getElementById("match").innerText +
       `gaps ${Array.from(document.querySelectorAll(".gap"), ({ previousSibling: { data } }) => data.at(-1))}`,
     page: document.querySelector("main").innerText,
@@ -170,42 +130,31 @@ for (const { id, paste } of await (await fetch("/test/cases.json")).json()) {
   }));
 }
 )js";
-    const std::vector<std::string> report = reportAt(linkTo(list.at(0).at("id")), 200'000);
-    ASSERT_EQ(report.size(), cases.size());
-    for (std::size_t i = 0; i < cases.size(); ++i) {
-      SCOPED_TRACE(cases[i].dump());
-      const json told = json::parse(report[i]);
-      const std::string tone = cases[i].at("tone");
-      const std::string verdict = told.at("verdict");
-      const std::string shown = told.at("shown");
-      EXPECT_EQ(told.at("tone"), tone) << verdict;
-      EXPECT_EQ(told.at("images"), 1) << "only the shield: no value became markup";
-      const bool isMatch = tone == green || tone == amber;
-      const char* headline = tone == green ? "The words match\n" : "The words match, but …\n";
-      EXPECT_EQ(verdict.starts_with(headline), isMatch);
-      for (const char* words :
-           {"Read it here, not in your mail", "Spaces and line breaks are not signed"})
-        EXPECT_EQ(shown.find(words) != std::string::npos, isMatch);
-      const auto texts = [&](const char* key) {
-        std::vector<std::string> result;
-        for (const std::string words : cases[i].value(key, json::array()))
-          result.push_back(filled(words));
-        return result;
-      };
-      for (const std::string& words : texts("words"))
-        EXPECT_THAT(verdict, HasSubstr(words));
-      for (const std::string& words : texts("shown"))
-        EXPECT_THAT(shown, HasSubstr(words));
-      for (const std::string& words : texts("unshown"))
-        EXPECT_THAT(told.at("page").get<std::string>(), Not(HasSubstr(words)));
-    }
+  const std::vector<std::string> report = reportAt(linkTo(list.at(0).at("id")), 200'000);
+  ASSERT_EQ(report.size(), cases.size());
+  for (std::size_t i = 0; i < cases.size(); ++i) {
+    SCOPED_TRACE(cases[i].dump());
+    const json told = json::parse(report[i]);
+    const std::string tone = cases[i].at("tone");
+    const std::string verdict = told.at("verdict");
+    const std::string shown = told.at("shown");
+    EXPECT_EQ(told.at("tone"), tone) << verdict;
+    EXPECT_EQ(told.at("images"), 1) << "only the shield: no value became markup";
+    const bool isMatch = tone == green || tone == amber;
+    const char* headline = tone == green ? "The words match\n" : "The words match, but …\n";
+    EXPECT_EQ(verdict.starts_with(headline), isMatch);
+    for (const char* words :
+         {"Read it here, not in your mail", "Spaces and line breaks are not signed"})
+      EXPECT_EQ(shown.find(words) != std::string::npos, isMatch);
+    const auto expect = [&](const char* key, const std::string& page, bool isThere) {
+      for (const std::string words : cases[i].value(key, json::array()))
+        EXPECT_EQ(page.find(filled(words)) != std::string::npos, isThere)
+            << words << " in " << page;
+    };
+    expect("words", verdict, true);
+    expect("shown", shown, true);
+    expect("unshown", told.at("page"), false);
   }
-
-  TestDevice device_;
-};
-
-TEST_F(VerifyPageTest, IsGreenForHonestPastes) {
-  check();
 }
 
 /// Both forms of the agent's block, as a browser shows and copies them.
@@ -221,7 +170,7 @@ TEST_F(VerifyPageTest, IsGreenForTheAgentsOwnBlock) {
   front_->files["/test/cases.json"] =
       json{SignedBlock::plainText(fields), SignedBlock::htmlDocument(fields)}.dump();
   front_->files["/test/act.js"] = R"js(
-import { report, until } from "/test/help.js";
+import { isSilent, paste, report, until } from "/test/help.js";
 const [plain, html] = await (await fetch("/test/cases.json")).json();
 const mail = document.createElement("div");
 mail.innerHTML = html;
@@ -229,45 +178,17 @@ document.body.append(mail);
 getSelection().selectAllChildren(mail);
 const copied = getSelection().toString();
 mail.remove();
-const result = document.getElementById("result");
-const field = document.getElementById("text");
-for (const paste of [plain, copied]) {
-  field.value = "";
-  field.dispatchEvent(new Event("input"));
-  field.value = paste;
-  field.dispatchEvent(new Event("input"));
-  await until(() => !result.textContent.includes("Nothing"));
-  report(result.innerText.replaceAll("\n", " "));
+for (const text of [plain, copied]) {
+  paste("");
+  paste(text);
+  await until(() => !isSilent());
+  report(document.getElementById("result").innerText.replaceAll("\n", " "));
 }
 )js";
   const std::string verdict =
       "The words match  This text was signed with the key of a registered device. The record is "
       "unchanged and has not expired.";
   EXPECT_THAT(reportAt(linkTo(id)), ::testing::ElementsAre(verdict, verdict));
-}
-
-TEST_F(VerifyPageTest, IsNeverGreenForHiddenDirections) {
-  check();
-}
-
-TEST_F(VerifyPageTest, NamesSignsThatAreNotSignedOrNotSeen) {
-  check();
-}
-
-TEST_F(VerifyPageTest, ComparesTheLinesBelowTheText) {
-  check();
-}
-
-TEST_F(VerifyPageTest, JudgesTheRecordToo) {
-  check();
-}
-
-TEST_F(VerifyPageTest, ShowsNoNameThatIsNotWhatItSeems) {
-  check();
-}
-
-TEST_F(VerifyPageTest, IsRedForAnyOtherText) {
-  check();
 }
 
 TEST_F(VerifyPageTest, SaysNothingBeforeThePaste) {
@@ -292,10 +213,8 @@ TEST_F(VerifyPageTest, SaysNothingBeforeThePaste) {
 TEST_F(VerifyPageTest, ShowsAllOfALongTextWhenAsked) {
   const std::string base = std::string(19'999, 'a') + "👩" + std::string(1'000, 'b');
   front_->files["/test/act.js"] = "const text = " + json(base).dump() + R"js(;
-import { report, until } from "/test/help.js";
-const field = document.getElementById("text");
-field.value = text;
-field.dispatchEvent(new Event("input"));
+import { paste, report, until } from "/test/help.js";
+paste(text);
 await until(() => document.querySelector("[data-shows=text]"));
 const shown = document.querySelector("[data-shows=text]");
 const more = document.querySelector("[data-shows=text-more]");
@@ -310,32 +229,11 @@ report(`${more.hidden} ${shown.textContent === text}`);
 
 TEST_F(VerifyPageTest, AnswersSoonWhateverIsPasted) {
   constexpr int longest = 200'000;
-  std::vector<std::string> units;
-  for (const char* unit : {"『",
-                           "『』",
-                           "』QUILLSEAL",
-                           "🛡─",
-                           ">",
-                           "> a\n",
-                           "a ",
-                           "a 1 ",
-                           "<",
-                           "\u200b\u200c",
-                           "\u202e\u1680",
-                           "Check this signature → ",
-                           "http://a ",
-                           "({link})",
-                           "a\u0301\u0323",
-                           "字",
-                           "👩\u200d",
-                           "ب\u200c",
-                           "\U000E0041",
-                           "a"})
-    units.emplace_back(unit);
+  const auto units = quillseal::testing::cases();
   const std::string empty = recorded("");
   json list = json::array();
-  for (const std::string& unit : units) {
-    // Pasted alone, below a text, and as the text.
+  for (const std::string unit : units) {
+    // Pasted with nothing to find, below a text, and as the text.
     const std::string part = replacedAll(unit, "{link}", linkTo(empty));
     std::string whole;
     while (whole.size() < 4 * longest)
@@ -349,37 +247,25 @@ TEST_F(VerifyPageTest, AnswersSoonWhateverIsPasted) {
     list.push_back({{"id", recorded(whole)}, {"paste", whole}});
   }
   const std::size_t timed = list.size();
-  for (const auto& [unit, count] : std::vector<std::pair<std::string, int>>{
-           {"a", longest + 1}, {"a", 20 * longest}, {"字", longest}}) {
+  for (const auto& [unit, count] : std::initializer_list<std::pair<const char*, int>>{
+           {"a", longest + 1}, {"a", 20 * longest}, {"字", longest}})
     list.push_back({{"id", empty}, {"paste", ""}, {"unit", unit}, {"count", count}});
-  }
   front_->files["/test/cases.json"] = list.dump();
   front_->files["/test/act.js"] = "const longest = " + std::to_string(longest) + R"js(;
-import { report } from "/test/help.js";
-const settled = () => new Promise((resolve) => setTimeout(resolve, 5));
+import { isSilent, openRecord, paste, report, settled } from "/test/help.js";
 const clock = async () => Number(await (await fetch("/test/clock")).text());
 let current;
-let loads = 0;
-for (const { id, paste, unit, count } of await (await fetch("/test/cases.json")).json()) {
-  if (current !== id) {
-    const source = await (await fetch(`/verify/${id}`)).text();
-    const page = new DOMParser().parseFromString(source, "text/html");
-    document.querySelector("main").replaceWith(page.querySelector("main"));
-    await import(`/assets/verify.js?${++loads}`);
-    current = id;
-  }
-  const result = document.getElementById("result");
-  const field = document.getElementById("text");
-  field.hidden = true;  // excludes the browser's layout of the input field
-  field.value = "";
-  field.dispatchEvent(new Event("input"));
-  const more = unit ? Array.from(unit.repeat(count ?? longest)).slice(0, count ?? longest - paste.length).join("") : "";
-  field.value = paste + more;
-  const begin = await clock();
-  field.dispatchEvent(new Event("input"));
-  while (result.textContent.includes("Nothing has been compared yet")) await settled();
-  document.body.getBoundingClientRect();  // after the verdict's layout
-  report(`${await clock() - begin} ${result.classList[1]}`);
+for (const { id, paste: begin, unit = "", count = Math.max(0, longest - begin.length) } of
+    await (await fetch("/test/cases.json")).json()) {
+  if (current !== id) await openRecord(current = id);
+  document.getElementById("text").hidden = true;  // laying it out is the browser's own work
+  paste("");
+  const text = begin + Array.from(unit.repeat(count)).slice(0, count).join("");
+  const start = await clock();
+  paste(text);
+  while (isSilent()) await settled();
+  document.body.getBoundingClientRect();  // the verdict is laid out
+  report(`${await clock() - start} ${document.getElementById("result").classList[1]}`);
 }
 )js";
   const std::vector<std::string> report = reportAt(linkTo(empty), 100'000);
@@ -388,9 +274,7 @@ for (const { id, paste, unit, count } of await (await fetch("/test/cases.json"))
     // One second, with room for a busy machine; quadratic code takes several times as long.
     EXPECT_LT(std::stoi(report[i]), 3'000) << units[i / 3] << ' ' << i % 3;
     EXPECT_THAT(report[i], Not(HasSubstr(gray))) << units[i / 3];
-    if (i % 3 == 2) {
-      EXPECT_THAT(report[i], Not(HasSubstr(red))) << units[i / 3];
-    }
+    EXPECT_TRUE(i % 3 != 2 || !report[i].ends_with(red)) << units[i / 3];
   }
   EXPECT_THAT(report[timed], HasSubstr(gray));
   EXPECT_THAT(report[timed + 1], HasSubstr(gray));

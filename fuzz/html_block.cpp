@@ -1,8 +1,8 @@
-#include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
+#include "Fuzzer.h"
+#include "Quillseal/CryptoManager.h"
 #include "core/signing/HandoffPage.h"
 #include "core/signing/SignedBlock.h"
 #include "core/text/UnicodeText.h"
@@ -11,10 +11,6 @@ namespace {
 
 constexpr std::string_view stampLink = "<a href=\"https://seal.example/verify/0a1b\"";
 
-void require(bool holds) {
-  if (!holds) std::abort();
-}
-
 std::size_t count(std::string_view text, std::string_view part) {
   std::size_t found = 0;
   for (std::size_t at = text.find(part); at != std::string_view::npos; at = text.find(part, at + 1))
@@ -22,8 +18,9 @@ std::size_t count(std::string_view text, std::string_view part) {
   return found;
 }
 
-std::string block(std::string_view text, std::optional<std::string_view> html) {
-  return quillseal::SignedBlock::htmlDocument({.signatureId = "0a1b",
+std::string block(std::string_view text, std::optional<std::string_view> html,
+                  std::string_view identifier = "0a1b") {
+  return quillseal::SignedBlock::htmlDocument({.signatureId = identifier,
                                                .text = text,
                                                .html = html,
                                                .issued = "2025-01-30",
@@ -33,11 +30,13 @@ std::string block(std::string_view text, std::optional<std::string_view> html) {
 
 }  // namespace
 
-/// Any capture gives a block that ends with its own stamp. Plain text adds no tags but line breaks.
-/// A safe identifier cannot break out of an attribute.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  using namespace quillseal;
-  const std::string captured = unicode::wellFormed({reinterpret_cast<const char*>(data), size});
+/// Every image's source is a non-empty, trimmed part of the HTML. Whatever was captured stands in a
+/// block that ends with its own stamp; plain text adds no tag but line breaks; an identifier that
+/// is called safe breaks out of nothing.
+void quillseal::fuzz::check(std::string_view bytes) {
+  for (const std::string& url : CryptoManager::imageURLs(bytes))
+    require(!url.empty() && bytes.find(url) != std::string_view::npos);
+  const std::string captured = unicode::wellFormed(bytes);
 
   const std::string ofHtml = block("", captured);
   require(ofHtml.rfind(stampLink) > ofHtml.rfind("&#x300F;") && ofHtml.ends_with("</html>"));
@@ -51,15 +50,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (SignedBlock::isSafeIdentifier(captured)) {
     require(unicode::isAscii(captured) &&
             captured.find_first_of("\"'`<>\\/?#&% \n") == std::string::npos);
-    const std::string marked = SignedBlock::htmlDocument({.signatureId = captured,
-                                                          .text = "x",
-                                                          .html = {},
-                                                          .issued = "2025-01-30",
-                                                          .scope = "Document",
-                                                          .server = "https://seal.example"});
-    require(count(marked, "<") == count(empty, "<"));
+    require(count(block("x", std::nullopt, captured), "<") == count(empty, "<"));
   }
   const HandoffPage::Fragment fragment = HandoffPage::fragmentFor(captured, captured);
   require(HandoffPage::isOpenable("https://seal.example/handoff#" + fragment.text));
-  return 0;
 }

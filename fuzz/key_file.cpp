@@ -1,6 +1,4 @@
 #include <algorithm>
-#include <cstdint>
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -8,13 +6,14 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "Fuzzer.h"
 #include "Quillseal/CryptoManager.h"
 #include "keys/FileKeyStore.h"
 #include "keys/KeyFile.h"
 
 namespace {
 
-using namespace quillseal;
+using namespace quillseal::linux;
 
 /// A temporary store, on a memory file system where there is one.
 struct Scratch {
@@ -37,27 +36,25 @@ void sign(Scratch& scratch, std::string_view contents) {
 
 }  // namespace
 
-/// A file of any bytes is refused, or signs. An attacker can compute the checksum, so the same
-/// bytes are also tried with a correct one, and as the two parts after it: the first byte gives the
-/// length of the public part, and neither is empty.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+/// A file of any bytes is refused, or signs. Its sum is accidental damage's hurdle and no
+/// attacker's, so the same bytes also come with a right one, and as the two parts behind it: the
+/// first byte tells how long the public one is, and neither is empty.
+void quillseal::fuzz::check(std::string_view bytes) {
   static Scratch scratch;
-  if (size < 3 || size > 4096) return 0;
-  const std::string_view text(reinterpret_cast<const char*>(data), size);
-  sign(scratch, text);
+  if (bytes.size() < 3 || bytes.size() > 4096) return;
+  sign(scratch, bytes);
   sign(scratch,
-       "SHA-256 of what follows: " + CryptoManager::sha256Hex(text) + "\n" + std::string(text));
+       "SHA-256 of what follows: " + CryptoManager::sha256Hex(bytes) + "\n" + std::string(bytes));
 
-  const std::size_t publicSize = std::clamp<std::size_t>(data[0], 1, size - 2);
-  const std::uint8_t* const parts = data + 1;
+  const std::string_view parts = bytes.substr(1);
+  const auto middle = parts.begin() + std::clamp<int>(static_cast<unsigned char>(bytes[0]), 1,
+                                                      static_cast<int>(parts.size()) - 1);
   const KeyFile::Block blocks[] = {
-      {.label = "PUBLIC KEY", .bytes = {parts, parts + publicSize}},
-      {.label = "ENCRYPTED PRIVATE KEY", .bytes = {parts + publicSize, data + size}}};
+      {.label = "PUBLIC KEY", .bytes = {parts.begin(), middle}},
+      {.label = "ENCRYPTED PRIVATE KEY", .bytes = {middle, parts.end()}}};
   const std::string file = KeyFile::write("", blocks);
   constexpr std::string_view labels[] = {"PUBLIC KEY", "ENCRYPTED PRIVATE KEY"};
   const auto read = KeyFile::read(file, labels);
-  if (!read || (*read)[0].bytes != blocks[0].bytes || (*read)[1].bytes != blocks[1].bytes)
-    std::abort();
+  require(read && (*read)[0].bytes == blocks[0].bytes && (*read)[1].bytes == blocks[1].bytes);
   sign(scratch, file);
-  return 0;
 }

@@ -1,6 +1,4 @@
 #include <QCoreApplication>
-#include <cstdint>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -8,12 +6,13 @@
 #include <string>
 #include <string_view>
 
+#include "Fuzzer.h"
 #include "core/text/UnicodeText.h"
 #include "session/QtDefaults.h"
 
 namespace {
 
-using namespace quillseal;
+using namespace quillseal::linux;
 namespace fs = std::filesystem;
 
 /// Temporary settings, on a memory file system where there is one.
@@ -31,23 +30,17 @@ struct Scratch {
   ~Scratch() { fs::remove_all(folder); }
 };
 
-void require(bool holds) {
-  if (!holds) std::abort();
-}
-
 }  // namespace
 
-/// A file of any bytes is read, or renamed unchanged. A value that is set can be read back, and no
-/// other setting changes.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+/// A file of any bytes is read, or set aside whole; what is set holds, and costs no other setting.
+void quillseal::fuzz::check(std::string_view bytes) {
   static Scratch scratch;
-  const std::string bytes(reinterpret_cast<const char*>(data), size);
   std::ofstream(scratch.file, std::ios::binary) << bytes;
   fs::remove(scratch.damaged);
 
   const std::optional<std::string> server = scratch.defaults.string("ServerURL");
   static_cast<void>(scratch.defaults.boolean("ConfirmBeforeSigning"));
-  if (!fs::exists(scratch.file)) require(!server && fs::file_size(scratch.damaged) == size);
+  if (!fs::exists(scratch.file)) require(!server && fs::file_size(scratch.damaged) == bytes.size());
 
   const std::string value = unicode::wellFormed(bytes.substr(0, 200));
   const bool fitsALine = value.find_first_of(std::string_view("\r\n\0", 3)) == std::string::npos;
@@ -61,5 +54,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(text.find("BoundIdentity=" + value) != std::string::npos);
   }
   QCoreApplication::processEvents();
-  return 0;
 }

@@ -1,8 +1,7 @@
-#include <cstdint>
-#include <cstdlib>
 
 #include <nlohmann/json.hpp>
 
+#include "Fuzzer.h"
 #include "core/text/StrictJson.h"
 
 namespace {
@@ -20,13 +19,12 @@ bool agrees(const nlohmann::json& expected, bool isOfType, Read read) {
 
 }  // namespace
 
-/// An ordinary parser reads every document that the strict reader accepts, with the same result.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const std::string_view text(reinterpret_cast<const char*>(data), size);
+/// What the strict reader accepts, an ordinary parser reads the same way.
+void quillseal::fuzz::check(std::string_view text) {
   const nlohmann::json tree = nlohmann::json::parse(text, nullptr, false);
   try {
     const quillseal::JsonObject object = quillseal::JsonObject::parse(text);
-    if (!tree.is_object()) std::abort();
+    require(tree.is_object());
     for (const auto& member : tree.items()) {
       const std::string& key = member.key();
       const nlohmann::json& value = member.value();
@@ -34,13 +32,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
       const bool isInteger =
           value.is_number_integer() &&
           (!value.is_number_unsigned() || value.get<std::uint64_t>() <= std::uint64_t{INT64_MAX});
-      if (!agrees(value, value.is_string(), [&] { return object.string(key); }) ||
-          !agrees(value, value.is_boolean(), [&] { return object.boolean(key); }) ||
-          !agrees(value, isInteger, [&] { return object.integer(key); })) {
-        std::abort();
-      }
+      require(agrees(value, value.is_string(), [&] { return object.string(key); }));
+      require(agrees(value, value.is_boolean(), [&] { return object.boolean(key); }));
+      require(agrees(value, isInteger, [&] { return object.integer(key); }));
     }
   } catch (const quillseal::JsonError&) {
   }
-  return 0;
 }

@@ -1,14 +1,13 @@
-#include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "Fuzzer.h"
 #include "browsers/TabMessages.h"
 
 namespace {
 
-using namespace quillseal::TabMessages;
+using namespace quillseal::linux::TabMessages;
 
 /// The messages of a stream in pieces of this size, and whether it was valid.
 struct Received {
@@ -41,22 +40,20 @@ void pass(const std::string& message, Read read) {
   } catch (const ProtocolError&) {
     return;
   }
-  if (written(read(passed)) != passed) std::abort();
+  quillseal::fuzz::require(written(read(passed)) == passed);
 }
 
 }  // namespace
 
 /// A stream gives the same messages in pieces of any size. Each message is refused, or passes
 /// through the relay unchanged.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const std::string_view stream(reinterpret_cast<const char*>(data), size);
-  const Received whole = received(stream, size + 1);
-  if (received(stream, 1) != whole || received(stream, 7) != whole) std::abort();
+void quillseal::fuzz::check(std::string_view stream) {
+  const Received whole = received(stream, stream.size() + 1);
+  require(received(stream, 1) == whole && received(stream, 7) == whole);
   for (const std::string& message : whole.messages) {
-    if (message.empty() || message.size() > longestMessage) std::abort();
+    require(!message.empty() && message.size() <= longestMessage);
     pass(message, readRequest);
     pass(message, readAnswer);
     pass(message, readGreeting);
   }
-  return 0;
 }

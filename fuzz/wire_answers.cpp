@@ -1,11 +1,10 @@
-#include <cstdint>
-#include <cstdlib>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include <nlohmann/json.hpp>
 
+#include "Fuzzer.h"
 #include "core/signing/HandoffPage.h"
 #include "core/signing/WireMessages.h"
 #include "core/text/StrictJson.h"
@@ -20,22 +19,21 @@ std::optional<Response> read(std::string_view text) {
   try {
     return wire::decoded<Response>(text);
   } catch (const JsonError& error) {
-    // The message is shown to the user, so it must not be empty or a megabyte long.
-    if (std::string_view(error.what()).empty() || std::string_view(error.what()).size() > 1000)
-      std::abort();
+    // The words reach the user, so there must be some, and not a server's megabyte.
+    const std::string_view words = error.what();
+    fuzz::require(!words.empty() && words.size() <= 1000);
     return std::nullopt;
   }
 }
 
 void requireMember(const json& tree, const char* key, const json& value) {
-  if (!tree.is_object() || tree.value(key, json()) != value) std::abort();
+  fuzz::require(tree.is_object() && tree.value(key, json()) == value);
 }
 
 }  // namespace
 
-/// Each kind of answer has the values that an ordinary parser finds, or is refused.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const std::string_view text(reinterpret_cast<const char*>(data), size);
+/// Each kind of answer either says what an ordinary parser finds under its keys, or is refused.
+void quillseal::fuzz::check(std::string_view text) {
   const json tree = json::parse(text, nullptr, false);
   if (const auto answer = read<wire::EnrolResponse>(text)) {
     requireMember(tree, "status", answer->status);
@@ -52,7 +50,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     requireMember(tree, "handoff_id", answer->handoffId);
     requireMember(tree, "url", answer->url);
     const bool isPlain = answer->url.find_first_of(" \"`<>\\\n") == std::string::npos;
-    if (HandoffPage::isOpenable(answer->url) && !isPlain) std::abort();
+    require(!HandoffPage::isOpenable(answer->url) || isPlain);
   }
   if (const auto answer = read<wire::HandoffPollResponse>(text)) {
     requireMember(tree, "status", answer->status);
@@ -60,5 +58,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   if (const auto answer = read<wire::ErrorResponse>(text))
     requireMember(tree, "error", answer->error);
-  return 0;
 }

@@ -1,23 +1,11 @@
 """Further applications in which people write: word processor and terminal."""
 
+import pathlib
+import shutil
+
 from session import wait_for
 
-# Disables the questions at the first start.
-WRITER_SETTINGS = """<?xml version="1.0" encoding="UTF-8"?>
-<oor:items xmlns:oor="http://openoffice.org/2001/registry">
-<item oor:path="/org.openoffice.Office.Common/Misc"><prop oor:name="ShowTipOfTheDay" oor:op="fuse">
-<value>false</value></prop></item>
-</oor:items>"""
-
-WRITER_DOCUMENT = """<?xml version="1.0" encoding="UTF-8"?>
-<office:document xmlns:office="urn:oasis:names:tc:opendocument:xmlns:office:1.0"
-  xmlns:style="urn:oasis:names:tc:opendocument:xmlns:style:1.0"
-  xmlns:text="urn:oasis:names:tc:opendocument:xmlns:text:1.0"
-  xmlns:fo="urn:oasis:names:tc:opendocument:xmlns:xsl-fo-compatible:1.0" office:version="1.3"
-  office:mimetype="application/vnd.oasis.opendocument.text">
-<office:automatic-styles><style:style style:name="bold" style:family="text">
-<style:text-properties fo:font-weight="bold"/></style:style></office:automatic-styles>
-<office:body><office:text>{}</office:text></office:body></office:document>"""
+DATA = pathlib.Path(__file__).with_name("data")
 
 
 class Writer:
@@ -27,10 +15,11 @@ class Writer:
         self.session = session
         profile = session.home / ".config/libreoffice/4/user"
         profile.mkdir(parents=True)
-        (profile / "registrymodifications.xcu").write_text(WRITER_SETTINGS)
+        # Which ask nothing at the first start.
+        shutil.copy(DATA / "writer-settings.xcu", profile / "registrymodifications.xcu")
         marked = text.replace(bold, f'<text:span text:style-name="bold">{bold}</text:span>')
         self.file = session.home / "letter.fodt"
-        self.file.write_text(WRITER_DOCUMENT.format(
+        self.file.write_text((DATA / "letter.fodt").read_text().format(
             "".join(f"<text:p>{line}</text:p>" for line in marked.split("\n"))))
         session.start("soffice", "--norestore", "--nologo", "--nofirststartwizard", self.file)
         session.wait_for_window("letter.fodt - LibreOffice Writer", "Writer opens the letter")

@@ -15,20 +15,8 @@ import urllib.parse
 
 from session import wait_for
 
-FIREFOX_PREFERENCES = """
-user_pref("app.update.enabled", false);
-user_pref("browser.aboutwelcome.enabled", false);
-user_pref("browser.preonboarding.enabled", false);
-user_pref("browser.sessionstore.resume_from_crash", false);
-user_pref("browser.startup.homepage_override.mstone", "ignore");
-user_pref("browser.startup.page", 0);
-user_pref("browser.warnOnQuit", false);
-user_pref("datareporting.policy.dataSubmissionEnabled", false);
-user_pref("network.captive-portal-service.enabled", false);
-user_pref("network.connectivity-service.enabled", false);
-user_pref("termsofuse.bypassNotification", true);
-user_pref("toolkit.telemetry.reportingpolicy.firstRun", false);
-"""
+DATA = pathlib.Path(__file__).with_name("data")
+FIREFOX_PREFERENCES = (DATA / "firefox-preferences.txt").read_text()
 
 CHROMIUM_FLAGS = ("--no-first-run", "--ozone-platform-hint=auto", "--disable-background-networking", "--disable-component-update",
                   "--disable-gpu", "--disable-sync", "--password-store=basic")
@@ -64,25 +52,7 @@ class Site:
     """Pages that report which of them are open, what is typed and pasted in them, and the end of
     the selected text."""
 
-    PAGE = """<!DOCTYPE html><meta charset="utf-8"><title>{title}</title>
-<style>body {{ font: 16px sans-serif; margin: 2em; }} #field {{ border: 1px solid #888; padding: 1em;
-min-height: 12em; min-width: 40em; }}</style><h1>{title}</h1>{field}
-<script>
-let count = 0;
-// A page that closes can send only a short message; its content may be longer.
-function tell(what, body = "") {{
-  const address = `/tell/${{what}}{query}&count=${{++count}}`;
-  if (body.length < 1000) navigator.sendBeacon(address, body);
-  else fetch(address, {{ method: "POST", body }});
-}}
-const field = document.getElementById("field");
-tell("open");
-addEventListener("pagehide", () => tell("gone"));
-field.focus();
-requestAnimationFrame(() => tell("painted"));
-field.addEventListener("input", () => tell("content", field.value ?? field.innerHTML));
-document.addEventListener("selectionchange", () => tell("selected", String(getSelection()).slice(-100)));
-</script>"""
+    PAGE = (DATA / "page.html").read_text()
 
     FIELDS = {"rich": '<div id="field" contenteditable>{}</div>',
               "plain": '<textarea id="field">{}</textarea>'}

@@ -30,23 +30,18 @@ class Rival(XClient):
 
     def open_window(self):
         self.x11.XStoreName(self.display, self.window, b"rival")
-        self.x11.XMapWindow(self.display, self.window)
-        self.x11.XSync(self.display, 0)
+        self.ask("XMapWindow", self.window)
 
     def take_clipboard(self):
-        self.x11.XSetSelectionOwner(self.display, self.clipboard, self.window, ctypes.c_ulong(0))
-        self.x11.XSync(self.display, 0)
+        self.ask("XSetSelectionOwner", self.clipboard, self.window, ctypes.c_ulong(0))
 
     def grab_hotkey(self):
         self.key = self.x11.XKeysymToKeycode(self.display, ctypes.c_ulong(ord("h")))
         asynchronous = 1
-        self.x11.XGrabKey(self.display, self.key, self.ANY_MODIFIER, self.root, 1, asynchronous,
-                          asynchronous)
-        self.x11.XSync(self.display, 0)
+        self.ask("XGrabKey", self.key, self.ANY_MODIFIER, self.root, 1, asynchronous, asynchronous)
 
     def free_hotkey(self):
-        self.x11.XUngrabKey(self.display, self.key, self.ANY_MODIFIER, self.root)
-        self.x11.XSync(self.display, 0)
+        self.ask("XUngrabKey", self.key, self.ANY_MODIFIER, self.root)
 
 
 class MuteService:
@@ -77,7 +72,7 @@ class Faults(Fault):
         return rival
 
     def assert_ended(self, code=0):
-        wait_for("the agent ends", lambda: self.desktop.agent.poll() is not None)
+        self.wait_until_ended()
         self.assertEqual(self.desktop.agent.returncode, code,
                          self.desktop.output_of(self.desktop.agent))
 
@@ -94,8 +89,7 @@ class Faults(Fault):
 
         self.desktop.start_agent()
         os.kill(self.desktop.server.pid, signal.SIGSTOP)
-        self.desktop.press_hotkey()
-        self.desktop.choose_secret()
+        self.press_and_choose()
         wait_for("the key is made", self.key_file.exists)
         self.terminate()
         self.replace_server()
@@ -137,8 +131,7 @@ class Faults(Fault):
         # Qt then exits at once, without unwinding.
         self.desktop.env["LSAN_OPTIONS"] = "detect_leaks=0"
         self.start()
-        self.desktop.press_in_editor()
-        self.desktop.choose_secret()
+        self.press_in_editor()
         self.desktop.wait_for_window("Enter the passphrase")
         key = self.key_file.read_bytes()
         self.desktop.end(self.desktop.x_server, signal.SIGKILL)
@@ -155,13 +148,11 @@ class Faults(Fault):
 
     def test_the_session_bus_dies(self):
         self.start()
-        self.desktop.press_in_editor()
-        self.desktop.choose_secret()
+        self.press_in_editor()
         self.desktop.wait_for_window("Enter the passphrase")
         self.desktop.end(self.desktop.bus, signal.SIGKILL)
         self.desktop.enter_secret()
-        wait_for("the block is on the clipboard",
-                 lambda: self.desktop.selection().startswith(f"『{LETTER}』"))
+        self.wait_for_block()
         self.terminate()
 
     def test_there_is_no_session_bus(self):
@@ -221,26 +212,22 @@ class Faults(Fault):
             self.build / "client_integrations/linux-agent/Tests/silent-editor", LETTER)
         self.desktop.wait_for_window("Silence")
         self.desktop.select_all(LETTER)
-        self.desktop.press_hotkey()
-        self.desktop.choose_secret()
+        self.press_and_choose()
         self.desktop.wait_for_output(editor, "asked", "somebody wants the format")
         # Reported within five seconds; the toolkit would wait that long for each format.
         self.desktop.run(self.desktop.quillseal, "--settings")
         self.desktop.enter_secret()
-        wait_for("the block is on the clipboard",
-                 lambda: self.desktop.selection().startswith(f"『{LETTER}』"))
+        self.wait_for_block()
 
     def test_the_tpm_never_answers(self):
-        self.desktop.write_settings(ServerURL=self.desktop.start_server(), SigningMode="enclave")
-        self.desktop.start_agent(tpm=self.desktop.start_software_tpm())
+        self.start_with_tpm()
         self.desktop.press_in_editor()
         self.desktop.choose_secret("PIN")
         self.desktop.wait_for_window("Enter the PIN")
         os.kill(self.desktop.tpm.pid, signal.SIGSTOP)
         self.desktop.enter_secret(kind="PIN")
         self.desktop.wait_for_no_window("Enter the PIN")
-        self.desktop.run(self.desktop.quillseal, "--settings")
-        self.desktop.wait_for_window("Quill Seal Server Settings")
+        self.open_settings()
         self.desktop.run(self.desktop.quillseal, "--quit")
         self.assert_ended()
         self.desktop.end(self.desktop.tpm, signal.SIGKILL)
@@ -260,10 +247,7 @@ class Faults(Fault):
         rival.grab_hotkey()
         self.start()
         self.desktop.wait_for_notification("Hotkey Is Not Available")
-        self.desktop.open_editor(LETTER)
-        self.desktop.select_all(LETTER)
-        self.desktop.run(self.desktop.quillseal, "--sign")
-        self.desktop.wait_for_window("Choose a passphrase")
+        self.sign_by_command()
 
         self.desktop.close("Choose a passphrase", "Escape")
         rival.free_hotkey()

@@ -10,7 +10,7 @@ import stories
 import wayland
 import windows
 from kwin_session import KwinSession
-from session import LETTER, wait_for
+from session import LETTER
 
 CONTROL, ALT, META = 0x04000000, 0x08000000, 0x10000000
 HOTKEY = CONTROL | ALT | META | ord("H")
@@ -29,62 +29,27 @@ class KwinDialogs(OnKwin, stories.Dialogs):
     """The same."""
 
 
-class KwinApplications(OnKwin, stories.Applications):
-    """The same; the terminal without a key that copies is one of X11's."""
-
-    test_a_terminal_without_a_key_that_copies = (
-        wayland.SwayApplications.test_a_terminal_without_a_key_that_copies)
-    test_an_editor_under_xwayland = wayland.SwayApplications.test_an_editor_under_xwayland
+class KwinApplications(OnKwin, wayland.Applications, stories.Applications):
+    """The same."""
 
 
 class KwinTrouble(OnKwin, stories.Trouble):
     """The same."""
 
 
-class KwinWindows(OnKwin, windows.WindowStory):
-    def setUp(self):
-        super().setUp()
-        self.start()
+class KwinWindows(OnKwin, wayland.SharedWindows, windows.WindowStory):
+    test_the_source_is_minimised = windows.Windows.test_the_source_is_minimised
 
     def switch_to(self, window):
         self.desktop.show(window)
 
-    def test_the_source_is_minimised(self):
-        chat = self.open_chat()
-        letter = self.open_letter()
-        self.desktop.press_hotkey()
-        self.desktop.choose_secret()
-        with self.while_the_server_is_slow():
-            self.desktop.minimise(letter.window)
-            self.desktop.wait_for_window(re.escape(chat.file.name))
-        self.desktop.wait_for_window(re.escape(letter.file.name))
-        self.assert_pasted_into_letter_alone(letter, chat)
+    def minimise(self, window):
+        self.desktop.minimise(window)
 
-    def test_the_source_is_on_another_workspace(self):
+    def leave_workspace(self):
         self.desktop.call_kwin("/VirtualDesktopManager",
                                "org.kde.KWin.VirtualDesktopManager.createDesktop", "1", "elsewhere")
-        letter = self.open_letter()
-        self.desktop.press_hotkey()
-        self.desktop.choose_secret()
-        with self.while_the_server_is_slow():
-            self.desktop.call_kwin("/KWin", "org.kde.KWin.setCurrentDesktop", "2")
-            chat = self.open_chat()
-        self.desktop.wait_for_window(re.escape(letter.file.name))
-        self.assert_pasted_into_letter_alone(letter, chat)
-
-    test_the_source_was_closed_and_something_else_is_in_front = (
-        wayland.SwayWindows.test_the_source_was_closed_and_something_else_is_in_front)
-    test_another_tab_of_the_window_is_in_front = (
-        windows.Windows.test_another_tab_of_the_window_is_in_front)
-    show_tab = windows.Windows.show_tab
-    test_after_a_refusal_the_next_press_signs = (
-        windows.Windows.test_after_a_refusal_the_next_press_signs)
-    write_letter = windows.Windows.write_letter
-    test_the_application_behind_the_settings_is_asked_to_copy = (
-        windows.Windows.test_the_application_behind_the_settings_is_asked_to_copy)
-    make_settings_come = wayland.SwayWindows.make_settings_come
-    test_the_settings_come_to_the_front_again = (
-        wayland.SwayWindows.test_the_settings_come_to_the_front_again)
+        self.desktop.call_kwin("/KWin", "org.kde.KWin.setCurrentDesktop", "2")
 
 
 class KwinLock(windows.WindowStory):
@@ -94,8 +59,6 @@ class KwinLock(windows.WindowStory):
     def test_nothing_is_pasted_behind_a_locked_screen(self):
         self.start()
         letter = self.open_letter()
-        self.desktop.press_hotkey()
-        self.desktop.choose_secret()
         with self.while_the_server_is_slow():
             self.desktop.wait_for_window(re.escape(letter.file.name))
             self.desktop.lock()
@@ -105,10 +68,8 @@ class KwinLock(windows.WindowStory):
         self.assertFalse([name for name in self.desktop.window_names() if name.startswith("*")])
 
 
-class KwinClipboard(OnKwin):
-    test_the_block_outlives_a_killed_agent_until_somebody_copies = (
-        wayland.SwayClipboard.test_the_block_outlives_a_killed_agent_until_somebody_copies)
-    keepers = wayland.SwayClipboard.keepers
+class KwinClipboard(OnKwin, wayland.Clipboard):
+    """The same."""
 
 
 class KwinHotkey(OnKwin):
@@ -139,41 +100,21 @@ class KwinHotkey(OnKwin):
         self.desktop.wait_for_window("Choose a passphrase")
 
 
-class KwinLayouts(OnKwin):
-    """The agent presses the right keys with any layout of the person's keyboard."""
-
+class KwinLayouts(wayland.Layouts, OnKwin):
     def make_desktop(self):
-        layout = {"french": "fr", "german": "de", "russian": "ru,us", "layouts": "us,fr"}
-        return KwinSession(self.build, layout=layout[self._testMethodName.split("_")[-1]])
-
-    def sign_on_it(self):
-        self.start()
-        self.assert_signed(self.sign_in_editor())
-
-    test_a_letter_is_signed_with_a_keyboard_that_is_french = sign_on_it
-    test_a_letter_is_signed_with_a_keyboard_that_is_german = sign_on_it
-    test_a_letter_is_signed_with_a_keyboard_that_is_russian = sign_on_it  # the other is not switched to
+        return KwinSession(self.build, layout=self.layout())
 
     def test_everything_is_selected_with_the_second_of_two_layouts(self):
         self.start()
         self.desktop.choose_layout(1)
         editor = self.desktop.open_editor(LETTER)
-        self.desktop.press_hotkey()
-        self.desktop.choose_secret()
+        self.press_and_choose()
         self.desktop.enter_secret()
         self.assert_signed(editor)
 
 
-class KwinLimits(OnKwin):
-    test_a_compositor_that_ends_takes_the_agent_with_it = (
-        wayland.SwayLimits.test_a_compositor_that_ends_takes_the_agent_with_it)
-
-    def test_the_agents_windows_are_no_x_windows(self):
-        self.start()
-        self.desktop.run(self.desktop.quillseal, "--settings")
-        self.desktop.wait_for_window("Quill Seal Server Settings")
-        self.assertEqual([(window["app_id"], window["shell"]) for window in self.desktop.windows()],
-                         [("quillseal", "xdg_shell")])
+class KwinLimits(OnKwin, wayland.Limits):
+    """The same."""
 
 
 class KwinWithoutPackage(stories.Story):

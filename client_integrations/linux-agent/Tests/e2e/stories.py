@@ -57,6 +57,35 @@ class Story(unittest.TestCase):
         self.desktop.write_settings(ServerURL=url, **{"SigningMode": "enclave", **settings})
         self.desktop.start_agent()
 
+    def press_and_choose(self):
+        """The hotkey, and the secret of the new key."""
+        self.desktop.press_hotkey()
+        self.desktop.choose_secret()
+
+    def sign_by_command(self):
+        self.desktop.open_editor(LETTER)
+        self.desktop.select_all(LETTER)
+        self.desktop.run(self.desktop.quillseal, "--sign")
+        self.desktop.wait_for_window("Choose a passphrase")
+
+    def start_with_tpm(self):
+        self.desktop.write_settings(ServerURL=self.desktop.start_server(), SigningMode="enclave")
+        self.desktop.start_agent(tpm=self.desktop.start_software_tpm())
+
+    def open_settings(self):
+        self.desktop.run(self.desktop.quillseal, "--settings")
+        self.desktop.wait_for_window("Quill Seal Server Settings")
+
+    def wait_until_ended(self):
+        wait_for("the agent ends", lambda: self.desktop.agent.poll() is not None)
+
+    def wait_for_block(self):
+        wait_for("the block is on the clipboard",
+                 lambda: self.desktop.selection().startswith(f"『{LETTER}』"))
+
+    def assert_unrecorded(self):
+        self.assertEqual(self.desktop.recorded(), [])
+
     def enter_wrong_secret(self, kind="passphrase"):
         self.desktop.wait_for_window(f"Enter the {kind}")
         question = self.desktop.active_window()
@@ -64,9 +93,14 @@ class Story(unittest.TestCase):
         self.desktop.wait_for_next_window(question, f"Enter the {kind}")
 
     def sign_in_editor(self, text=LETTER):
+        editor = self.press_in_editor(text)
+        self.desktop.enter_secret()
+        return editor
+
+    def press_in_editor(self, text=LETTER):
+        """And choose the secret of the new key."""
         editor = self.desktop.press_in_editor(text)
         self.desktop.choose_secret()
-        self.desktop.enter_secret()
         return editor
 
     def assert_signed(self, editor, text=LETTER):
@@ -119,15 +153,13 @@ class Signing(Story):
     def test_without_a_selection_everything_is_taken(self):
         self.start()
         editor = self.desktop.open_editor(LETTER)
-        self.desktop.press_hotkey()
-        self.desktop.choose_secret()
+        self.press_and_choose()
         self.desktop.enter_secret()
         self.assert_signed(editor)
 
     def test_a_wrong_passphrase_may_be_corrected(self):
         self.start()
-        editor = self.desktop.press_in_editor()
-        self.desktop.choose_secret()
+        editor = self.press_in_editor()
         self.enter_wrong_secret()
         self.desktop.enter_secret()
         self.assert_signed(editor)
@@ -142,8 +174,7 @@ class Applications(Story):
         self.start()
 
     def sign(self):
-        self.desktop.press_hotkey()
-        self.desktop.choose_secret()
+        self.press_and_choose()
         self.desktop.wait_for_window("Enter the passphrase")
         offered = self.desktop.selection(target="TARGETS").split()
         self.desktop.enter_secret()
@@ -222,27 +253,24 @@ class Applications(Story):
         self.desktop.open_editor(LETTER)
         self.desktop.select_all(LETTER)
         Terminal(self.desktop, "xterm", PARAGRAPHS)
-        self.desktop.press_hotkey()
-        self.desktop.choose_secret()
+        self.press_and_choose()
         self.desktop.close("No Text Found")
-        self.assertEqual(self.desktop.recorded(), [])
+        self.assert_unrecorded()
 
     def test_a_copy_that_is_marked_as_a_secret_is_no_text(self):
         self.desktop.start(
             self.build / "client_integrations/linux-agent/Tests/secret-editor", LETTER)
         self.desktop.wait_for_window("Vault")
         self.desktop.select_all(LETTER)
-        self.desktop.press_hotkey()
-        self.desktop.choose_secret()
+        self.press_and_choose()
         self.desktop.close("No Text Found")
-        self.assertEqual(self.desktop.recorded(), [])
+        self.assert_unrecorded()
         self.assertEqual(self.desktop.selection(), LETTER)
 
 
 class SoftwareTpm(Story):
     def test_a_key_in_the_tpm_signs_once_the_pin_is_right(self):
-        self.desktop.write_settings(ServerURL=self.desktop.start_server(), SigningMode="enclave")
-        self.desktop.start_agent(tpm=self.desktop.start_software_tpm())
+        self.start_with_tpm()
         self.assertIn("TPM simulator", self.desktop.output_of(self.desktop.agent))
         editor = self.desktop.press_in_editor()
         self.desktop.choose_secret("PIN")
@@ -259,8 +287,7 @@ class Dialogs(Story):
 
     def press_on(self, text, **settings):
         self.start(**settings)
-        editor = self.desktop.press_in_editor(text)
-        self.desktop.choose_secret()
+        editor = self.press_in_editor(text)
         return editor
 
     def press_again(self, editor):
@@ -268,7 +295,7 @@ class Dialogs(Story):
         self.desktop.press_hotkey()
 
     def assert_unsigned(self, editor, text):
-        self.assertEqual(self.desktop.recorded(), [])
+        self.assert_unrecorded()
         self.assertEqual(editor.file.read_text(), text)
         self.assertEqual(self.desktop.selection(), text)
 
@@ -325,8 +352,7 @@ class Trouble(Story):
     def test_the_server_is_down(self):
         self.desktop.write_settings(ServerURL="http://127.0.0.1:9", SigningMode="enclave")
         self.desktop.start_agent()
-        self.desktop.press_in_editor()
-        self.desktop.choose_secret()
+        self.press_in_editor()
         self.desktop.close("Could Not Set Up This Computer")
 
     def test_a_server_that_has_forgotten_the_key_is_told_it_again(self):
@@ -347,13 +373,11 @@ class Trouble(Story):
 
     def test_an_editor_that_closes_before_the_paste(self):
         self.start()
-        editor = self.desktop.press_in_editor()
-        self.desktop.choose_secret()
+        editor = self.press_in_editor()
         self.desktop.wait_for_window("Enter the passphrase")
         self.desktop.end(editor)
         self.desktop.enter_secret()
-        wait_for("the block is on the clipboard",
-                 lambda: self.desktop.selection().startswith(f"『{LETTER}』"))
+        self.wait_for_block()
 
     def test_killed_in_mid_run_nothing_stays_behind(self):
         self.start()
@@ -364,8 +388,7 @@ class Trouble(Story):
         self.assertEqual([file.name for file in keys.glob("*")], [])
         self.assertEqual(self.desktop.window_names().count("Choose a passphrase"), 0)
         self.desktop.start_agent()
-        self.desktop.press_hotkey()
-        self.desktop.choose_secret()
+        self.press_and_choose()
         self.desktop.wait_for_window("Enter the passphrase")
 
 
@@ -405,15 +428,12 @@ class Commands(Story):
 
     def test_a_second_start_hands_over_its_command(self):
         self.start()
-        self.desktop.open_editor(LETTER)
-        self.desktop.select_all(LETTER)
-        self.desktop.run(self.desktop.quillseal, "--sign")
+        self.sign_by_command()
         self.desktop.close("Choose a passphrase", "Escape")
         self.desktop.wait_for_log("called off by the user", "the agent says that nothing was signed")
-        self.desktop.run(self.desktop.quillseal, "--settings")
-        self.desktop.wait_for_window("Quill Seal Server Settings")
+        self.open_settings()
         self.desktop.run(self.desktop.quillseal, "--quit")
-        wait_for("the agent ends", lambda: self.desktop.agent.poll() is not None)
+        self.wait_until_ended()
         self.assertEqual(self.desktop.agent.returncode, 0)
 
     def test_settings_changed_from_outside_reach_the_next_run(self):

@@ -7,7 +7,6 @@ Options and test names as in stories.py.
 
 import os
 import pathlib
-import re
 import signal
 
 import stories
@@ -30,8 +29,8 @@ class SwayDialogs(OnSway, stories.Dialogs):
     """The same."""
 
 
-class SwayApplications(OnSway, stories.Applications):
-    """The same; the terminal without a key that copies is one of X11's."""
+class Applications:
+    """The terminal without a key that copies is one of X11's."""
 
     def test_a_terminal_without_a_key_that_copies(self):
         terminal = Terminal(self.desktop, "xterm", stories.PARAGRAPHS)
@@ -52,59 +51,30 @@ class SwayApplications(OnSway, stories.Applications):
         self.assert_recorded("Public Broadcast")
 
 
+class SwayApplications(OnSway, Applications, stories.Applications):
+    """The same."""
+
+
 class SwayTrouble(OnSway, stories.Trouble):
     """The same."""
 
 
-class SwayWindows(OnSway, windows.WindowStory):
-    def setUp(self):
-        super().setUp()
-        self.start()
+class SharedWindows(windows.SharedWindows):
+    def test_the_settings_come_to_the_front_again(self):
+        self.open_settings()
+        self.open_letter()
+        self.open_settings()
 
+
+class SwayWindows(OnSway, SharedWindows, windows.WindowStory):
     def switch_to(self, window):
         self.desktop.run("swaymsg", f"[con_id={window}] focus")
 
-    def test_the_source_is_on_another_workspace(self):
-        letter = self.open_letter()
-        self.desktop.press_hotkey()
-        self.desktop.choose_secret()
-        with self.while_the_server_is_slow():
-            self.desktop.run("swaymsg", "workspace elsewhere")
-            chat = self.open_chat()
-        self.desktop.wait_for_window(re.escape(letter.file.name))
-        self.assert_pasted_into_letter_alone(letter, chat)
-
-    def test_the_source_was_closed_and_something_else_is_in_front(self):
-        chat = self.open_chat()
-        letter = self.open_letter()
-        self.desktop.press_hotkey()
-        self.desktop.choose_secret()
-        with self.while_the_server_is_slow():
-            self.desktop.end(letter)
-            self.desktop.wait_for_window(re.escape(chat.file.name))
-        self.assert_left_on_clipboard("the source has been closed")
-        self.assert_untouched(chat, windows.CHAT)
-
-    test_another_tab_of_the_window_is_in_front = (
-        windows.Windows.test_another_tab_of_the_window_is_in_front)
-    show_tab = windows.Windows.show_tab
-    test_after_a_refusal_the_next_press_signs = (
-        windows.Windows.test_after_a_refusal_the_next_press_signs)
-    write_letter = windows.Windows.write_letter
-    test_the_application_behind_the_settings_is_asked_to_copy = (
-        windows.Windows.test_the_application_behind_the_settings_is_asked_to_copy)
-
-    def make_settings_come(self):
-        self.desktop.run(self.desktop.quillseal, "--settings")
-        self.desktop.wait_for_window("Quill Seal Server Settings")
-
-    def test_the_settings_come_to_the_front_again(self):
-        self.make_settings_come()
-        self.open_letter()
-        self.make_settings_come()
+    def leave_workspace(self):
+        self.desktop.run("swaymsg", "workspace elsewhere")
 
 
-class SwayClipboard(OnSway):
+class Clipboard:
     def test_the_block_outlives_a_killed_agent_until_somebody_copies(self):
         self.start()
         editor = self.sign_in_editor()
@@ -129,6 +99,10 @@ class SwayClipboard(OnSway):
         return [pid for pid in found if is_at_home(pid)]
 
 
+class SwayClipboard(OnSway, Clipboard):
+    """The same."""
+
+
 class SwayHotkey(OnSway):
     def test_it_is_bound_again_when_the_configuration_is_read_anew(self):
         self.start()
@@ -151,10 +125,7 @@ class SwayHotkey(OnSway):
         self.start()
         self.desktop.env["SWAYSOCK"] = socket
         self.desktop.wait_for_notification("This desktop gives programs no hotkey")
-        self.desktop.open_editor(LETTER)
-        self.desktop.select_all(LETTER)
-        self.desktop.run(self.desktop.quillseal, "--sign")
-        self.desktop.wait_for_window("Choose a passphrase")
+        self.sign_by_command()
 
     def test_one_of_two_agents_signs(self):
         self.start()
@@ -180,13 +151,12 @@ class SwayHotkey(OnSway):
         self.assertEqual(self.desktop.window_names(), [])
 
 
-class SwayLayouts(OnSway):
-    """The agent presses keys that every application understands, with any layout of the person's
-    keyboard."""
+class Layouts:
+    """The agent presses keys that every application understands, whatever the person types on."""
 
-    def make_desktop(self):
-        layout = {"french": "fr", "german": "de", "russian": "ru,us"}
-        return WaylandSession(self.build, layout=layout[self._testMethodName.split("_")[-1]])
+    def layout(self):
+        layouts = {"french": "fr", "german": "de", "russian": "ru,us", "layouts": "us,fr"}
+        return layouts[self._testMethodName.split("_")[-1]]
 
     def sign_on_it(self):
         self.start()
@@ -197,24 +167,31 @@ class SwayLayouts(OnSway):
     test_a_letter_is_signed_with_a_keyboard_that_is_russian = sign_on_it  # the other is not switched to
 
 
-class SwayLimits(OnSway):
+class SwayLayouts(Layouts, OnSway):
+    def make_desktop(self):
+        return WaylandSession(self.build, layout=self.layout())
+
+
+class Limits:
     def test_the_agents_windows_are_no_x_windows(self):
         self.start()
         self.assertNotIn("Xwayland", self.desktop.output_of(self.desktop.agent))
-        self.desktop.run(self.desktop.quillseal, "--settings")
-        self.desktop.wait_for_window("Quill Seal Server Settings")
+        self.open_settings()
         self.assertEqual([(window["app_id"], window["shell"]) for window in self.desktop.windows()],
                          [("quillseal", "xdg_shell")])
 
     def test_a_compositor_that_ends_takes_the_agent_with_it(self):
         self.start()
-        self.desktop.press_in_editor()
-        self.desktop.choose_secret()
+        self.press_in_editor()
         self.desktop.wait_for_window("Enter the passphrase")
         os.kill(self.desktop.compositor.pid, signal.SIGKILL)
-        wait_for("the agent ends", lambda: self.desktop.agent.poll() is not None)
+        self.wait_until_ended()
         key = list((self.desktop.home / ".local/share/quillseal").glob("*.pem"))
         self.assertEqual(len(key), 1)
+
+
+class SwayLimits(OnSway, Limits):
+    """The same."""
 
 
 if __name__ == "__main__":

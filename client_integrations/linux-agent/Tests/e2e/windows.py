@@ -38,23 +38,20 @@ class WindowStory(Story):
         return letter
 
     def make_key(self):
-        """Registers the key first, so that the run of the story begins with the capture."""
-        self.desktop.press_hotkey()
-        self.desktop.choose_secret()
+        """So that the run of the story begins with the capture."""
+        self.press_and_choose()
         self.desktop.close("No Text Found")
 
     @contextlib.contextmanager
     def while_the_server_is_slow(self):
-        """Stops the server for a while in a run that asks for the passphrase."""
+        """Of a run that begins here."""
+        self.press_and_choose()
         self.desktop.wait_for_window("Enter the passphrase")
         os.kill(self.desktop.server.pid, signal.SIGSTOP)
         self.desktop.enter_secret()
         self.desktop.wait_for_no_window("Enter the passphrase")
         yield
         os.kill(self.desktop.server.pid, signal.SIGCONT)
-
-    def switch_to(self, window):
-        self.desktop.run("xdotool", "windowactivate", window)
 
     def assert_left_on_clipboard(self, reason, text=LETTER):
         self.desktop.wait_for_log(re.escape("[inject] signed block left on the clipboard; " + reason),
@@ -79,63 +76,20 @@ class WindowStory(Story):
         self.assert_signed(letter)
 
 
-class Windows(WindowStory):
-    panel = True  # a window above all others without text to sign
+class SharedWindows:
+    """What holds on every desktop that can `switch_to` a window and `leave_workspace`."""
 
     def setUp(self):
         super().setUp()
         self.start()
-        self.x = XClient(self.desktop.env["DISPLAY"])
-        self.addCleanup(self.x.close)
-
-    # Paste
 
     def test_the_source_is_on_another_workspace(self):
         letter = self.open_letter()
-        self.desktop.press_hotkey()
-        self.desktop.choose_secret()
         with self.while_the_server_is_slow():
-            self.desktop.run("xdotool", "set_desktop", 1)
+            self.leave_workspace()
             chat = self.open_chat()
         self.desktop.wait_for_window(re.escape(letter.file.name))
         self.assert_pasted_into_letter_alone(letter, chat)
-
-    def test_the_source_is_minimised(self):
-        chat = self.open_chat()
-        letter = self.open_letter()
-        self.desktop.press_hotkey()
-        self.desktop.choose_secret()
-        with self.while_the_server_is_slow():
-            self.desktop.run("xdotool", "windowminimize", letter.window)
-            self.desktop.wait_for_window(re.escape(chat.file.name))
-        self.desktop.wait_for_window(re.escape(letter.file.name))
-        self.assert_pasted_into_letter_alone(letter, chat)
-
-    def test_another_window_comes_to_the_front_right_before_the_paste(self):
-        chat = self.open_chat()
-        letter = self.open_letter()
-        self.desktop.press_hotkey()
-        self.desktop.choose_secret()
-        with self.while_the_server_is_slow():
-            self.desktop.wait_for_window(re.escape(letter.file.name))
-            before = self.x.clipboard_owner()
-        self.x.wait_until_clipboard_leaves(before)
-        self.x.focus(chat.window)  # within the 150 ms between block and paste
-        self.assert_left_on_clipboard("something else is in front of the source")
-        self.assert_untouched(chat, CHAT)
-        self.assert_untouched(letter, LETTER)
-
-    def test_another_program_holds_the_keyboard_at_the_paste(self):
-        letter = self.open_letter()
-        self.desktop.press_hotkey()
-        self.desktop.choose_secret()
-        with contextlib.ExitStack() as held:
-            with self.while_the_server_is_slow():
-                self.desktop.wait_for_window(re.escape(letter.file.name))
-                held.enter_context(self.x.holding_the_keyboard())
-            self.desktop.wait_for_window(PASTE_YOURSELF)
-        self.assert_left_on_clipboard("something else is in front of the source")
-        self.assert_untouched(letter, LETTER)
 
     def test_another_tab_of_the_window_is_in_front(self):
         files = [self.desktop.home / "chat.txt", self.desktop.home / "letter.txt"]
@@ -145,8 +99,6 @@ class Windows(WindowStory):
         self.desktop.wait_for_window(r"(letter|chat)\.txt")
         self.show_tab("letter.txt")
         self.desktop.select_all(LETTER)
-        self.desktop.press_hotkey()
-        self.desktop.choose_secret()
         with self.while_the_server_is_slow():
             self.show_tab("chat.txt")
         self.assert_left_on_clipboard("the source shows another document")
@@ -164,20 +116,91 @@ class Windows(WindowStory):
     def test_the_source_was_closed_and_something_else_is_in_front(self):
         chat = self.open_chat()
         letter = self.open_letter()
-        self.desktop.press_hotkey()
-        self.desktop.choose_secret()
         with self.while_the_server_is_slow():
             self.desktop.end(letter)
             self.desktop.wait_for_window(re.escape(chat.file.name))
         self.assert_left_on_clipboard("the source has been closed")
         self.assert_untouched(chat, CHAT)
 
+    def test_after_a_refusal_the_next_press_signs(self):
+        short = self.desktop.open_editor("Only four words here")
+        self.desktop.select_all("Only four words here")
+        self.press_and_choose()
+        self.desktop.close("Not signed — too short")
+        self.write_letter(short)
+        self.desktop.press_hotkey()
+        self.desktop.enter_secret()
+        self.assert_signed(short)
+
+    def write_letter(self, editor):
+        self.desktop.wait_for_window(re.escape(editor.file.name))
+        self.desktop.key("ctrl+a")
+        self.desktop.type(LETTER)
+        self.desktop.select_all(LETTER)
+
+    def test_the_application_behind_the_settings_is_asked_to_copy(self):
+        letter = self.open_letter()
+        self.open_settings()
+        self.press_and_choose()
+        self.desktop.enter_secret()
+        self.assert_signed(letter)
+
+
+class Windows(SharedWindows, WindowStory):
+    panel = True  # a window above all others, and nothing to sign in
+
+    def setUp(self):
+        super().setUp()
+        self.x = XClient(self.desktop.env["DISPLAY"])
+        self.addCleanup(self.x.close)
+
+    def switch_to(self, window):
+        self.desktop.run("xdotool", "windowactivate", window)
+
+    def leave_workspace(self):
+        self.desktop.run("xdotool", "set_desktop", 1)
+
+    def minimise(self, window):
+        self.desktop.run("xdotool", "windowminimize", window)
+
+    # Paste
+
+    def test_the_source_is_minimised(self):
+        chat = self.open_chat()
+        letter = self.open_letter()
+        with self.while_the_server_is_slow():
+            self.minimise(letter.window)
+            self.desktop.wait_for_window(re.escape(chat.file.name))
+        self.desktop.wait_for_window(re.escape(letter.file.name))
+        self.assert_pasted_into_letter_alone(letter, chat)
+
+    def test_another_window_comes_to_the_front_right_before_the_paste(self):
+        chat = self.open_chat()
+        letter = self.open_letter()
+        with self.while_the_server_is_slow():
+            self.desktop.wait_for_window(re.escape(letter.file.name))
+            before = self.x.clipboard_owner()
+        self.x.wait_until_clipboard_leaves(before)
+        self.x.focus(chat.window)  # within the 150 ms that a paste waits with the block there
+        self.assert_left_on_clipboard("something else is in front of the source")
+        self.assert_untouched(chat, CHAT)
+        self.assert_untouched(letter, LETTER)
+
+    def test_another_program_holds_the_keyboard_at_the_paste(self):
+        letter = self.open_letter()
+        with contextlib.ExitStack() as held:
+            with self.while_the_server_is_slow():
+                self.desktop.wait_for_window(re.escape(letter.file.name))
+                held.enter_context(self.x.holding_the_keyboard())
+            self.desktop.wait_for_window(PASTE_YOURSELF)
+        self.assert_left_on_clipboard("something else is in front of the source")
+        self.assert_untouched(letter, LETTER)
+
     def test_a_plain_shell_in_a_terminal_runs_nothing_of_the_block(self):
         text = LETTER + "\ntouch ran\n"
         terminal = Terminal(self.desktop, "xterm", text, reader="PS1= exec dash")
         terminal.drag_over(text)
-        self.desktop.press_hotkey()
-        self.desktop.choose_secret()
+        self.press_and_choose()
         self.desktop.enter_secret()
         self.assert_left_on_clipboard("the source is a terminal", text.rstrip())
         self.desktop.wait_for_window("Notes")
@@ -194,7 +217,7 @@ class Windows(WindowStory):
         # An agent that does not run for so long sees only the other window, whose text is then
         # signed.
         self.assertTrue(any(self.is_refused_after_switch(letter, chat) for _ in range(4)))
-        self.assertEqual(self.desktop.recorded(), [])
+        self.assert_unrecorded()
         self.assert_untouched(chat, CHAT)
         self.assert_untouched(letter, LETTER)
 
@@ -235,29 +258,11 @@ class Windows(WindowStory):
 
     # Windows of the agent
 
-    def test_after_a_refusal_the_next_press_signs(self):
-        short = self.desktop.open_editor("Only four words here")
-        self.desktop.select_all("Only four words here")
-        self.desktop.press_hotkey()
-        self.desktop.choose_secret()
-        self.desktop.close("Not signed — too short")
-        self.write_letter(short)
-        self.desktop.press_hotkey()
-        self.desktop.enter_secret()
-        self.assert_signed(short)
-
-    def write_letter(self, editor):
-        self.desktop.wait_for_window(re.escape(editor.file.name))
-        self.desktop.key("ctrl+a")
-        self.desktop.type(LETTER)
-        self.desktop.select_all(LETTER)
-
     def test_the_application_behind_the_agents_windows_is_asked_to_copy(self):
         letter = self.desktop.open_editor("Only four words here")
         letter.window = self.desktop.active_window()
         self.desktop.select_all("Only four words here")
-        self.desktop.press_hotkey()
-        self.desktop.choose_secret()
+        self.press_and_choose()
         self.desktop.wait_for_window("Not signed — too short")
         alert = self.desktop.active_window()
         self.switch_to(letter.window)
@@ -276,18 +281,6 @@ class Windows(WindowStory):
                              "mousemove", "--window", window, 300, 57, "mouseup", 1)
             return "words" in self.desktop.selection("primary")
         wait_for("text of the agent is selected", selected)
-
-    def test_the_application_behind_the_settings_is_asked_to_copy(self):
-        letter = self.open_letter()
-        self.make_settings_come()
-        self.desktop.press_hotkey()
-        self.desktop.choose_secret()
-        self.desktop.enter_secret()
-        self.assert_signed(letter)
-
-    def make_settings_come(self):
-        self.desktop.run(self.desktop.quillseal, "--settings")
-        self.desktop.wait_for_window("Quill Seal Server Settings")
 
 
 if __name__ == "__main__":

@@ -31,13 +31,17 @@ class XClient:
     def close(self):
         self.x11.XCloseDisplay(self.display)
 
+    def ask(self, request, *arguments):
+        """Gives the result once the server has done it."""
+        result = getattr(self.x11, request)(self.display, *arguments)
+        self.x11.XSync(self.display, 0)
+        return result
+
     def focus(self, window):
         """Focuses the window at once."""
         revert_to_parent = 2
         self.x11.XRaiseWindow(self.display, ctypes.c_ulong(int(window)))
-        self.x11.XSetInputFocus(self.display, ctypes.c_ulong(int(window)), revert_to_parent,
-                                ctypes.c_ulong(0))
-        self.x11.XSync(self.display, 0)
+        self.ask("XSetInputFocus", ctypes.c_ulong(int(window)), revert_to_parent, ctypes.c_ulong(0))
 
     @contextlib.contextmanager
     def holding_the_keyboard(self):
@@ -48,8 +52,7 @@ class XClient:
         if result != success:
             raise Failure("somebody else holds the keyboard")
         yield
-        self.x11.XUngrabKeyboard(self.display, ctypes.c_ulong(0))
-        self.x11.XSync(self.display, 0)
+        self.ask("XUngrabKeyboard", ctypes.c_ulong(0))
 
     def clipboard_owner(self):
         return self.x11.XGetSelectionOwner(self.display, self.clipboard)

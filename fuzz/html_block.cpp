@@ -30,9 +30,9 @@ std::string block(std::string_view text, std::optional<std::string_view> html,
 
 }  // namespace
 
-/// Every image's source is a non-empty, trimmed part of the HTML. Whatever was captured stands in a
-/// block that ends with its own stamp; plain text adds no tag but line breaks; an identifier that
-/// is called safe breaks out of nothing.
+/// Every image source is a non-empty, trimmed part of the HTML. Any capture gives a block that ends
+/// with its own stamp. Plain text adds no tags but line breaks. A safe identifier cannot break out
+/// of an attribute.
 void quillseal::fuzz::check(std::string_view bytes) {
   for (const std::string& url : CryptoManager::imageURLs(bytes))
     require(!url.empty() && bytes.find(url) != std::string_view::npos);

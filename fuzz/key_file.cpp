@@ -36,9 +36,9 @@ void sign(Scratch& scratch, std::string_view contents) {
 
 }  // namespace
 
-/// A file of any bytes is refused, or signs. Its sum is accidental damage's hurdle and no
-/// attacker's, so the same bytes also come with a right one, and as the two parts behind it: the
-/// first byte tells how long the public one is, and neither is empty.
+/// A file of any bytes is refused, or signs. An attacker can compute the checksum, so the same
+/// bytes are also tried with a correct one, and as the two parts after it: the first byte gives the
+/// length of the public part, and neither is empty.
 void quillseal::fuzz::check(std::string_view bytes) {
   static Scratch scratch;
   if (bytes.size() < 3 || bytes.size() > 4096) return;

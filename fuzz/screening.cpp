@@ -21,8 +21,7 @@ const Compared compared;
 
 }  // namespace
 
-/// On any bytes, the engine finds what ICU's own expressions find, and both quotation and
-/// assessment have a result.
+/// On any bytes, the engine finds the same matches as ICU, and quotation and assessment return.
 void quillseal::fuzz::check(std::string_view bytes) {
   if (bytes.size() > 2000) return;
   const auto& [patterns, engine, reference] = compared;

@@ -32,7 +32,8 @@ struct Scratch {
 
 }  // namespace
 
-/// A file of any bytes is read, or set aside whole; what is set holds, and costs no other setting.
+/// A file of any bytes is read, or renamed unchanged. A value that is set can be read back, and no
+/// other setting changes.
 void quillseal::fuzz::check(std::string_view bytes) {
   static Scratch scratch;
   std::ofstream(scratch.file, std::ios::binary) << bytes;

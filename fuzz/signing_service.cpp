@@ -22,9 +22,9 @@ std::string_view cut(std::string_view& rest) {
 
 }  // namespace
 
-/// Whatever is sent, the development server answers with a status of its own and never with the
-/// sender's markup. The input: which path, then path, host, handoff and body with zero bytes
-/// between.
+/// To any request, the development server answers with one of its own statuses and never with the
+/// sender's markup. The input is the choice of a path, then path, host, handoff and body, separated
+/// by zero bytes.
 void quillseal::fuzz::check(std::string_view bytes) {
   if (bytes.empty()) return;
   Registry registry(":memory:");

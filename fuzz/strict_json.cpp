@@ -19,7 +19,7 @@ bool agrees(const nlohmann::json& expected, bool isOfType, Read read) {
 
 }  // namespace
 
-/// What the strict reader accepts, an ordinary parser reads the same way.
+/// An ordinary parser reads every document that the strict reader accepts, with the same result.
 void quillseal::fuzz::check(std::string_view text) {
   const nlohmann::json tree = nlohmann::json::parse(text, nullptr, false);
   try {

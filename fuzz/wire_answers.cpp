@@ -32,7 +32,7 @@ void requireMember(const json& tree, const char* key, const json& value) {
 
 }  // namespace
 
-/// Each kind of answer either says what an ordinary parser finds under its keys, or is refused.
+/// Each kind of answer has the values that an ordinary parser finds, or is refused.
 void quillseal::fuzz::check(std::string_view text) {
   const json tree = json::parse(text, nullptr, false);
   if (const auto answer = read<wire::EnrolResponse>(text)) {

@@ -1,10 +1,12 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <variant>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "TaskResult.h"
 #include "VirtualLoop.h"
 #include "core/tasks/Async.h"
 
@@ -12,6 +14,7 @@ namespace quillseal {
 namespace {
 
 using namespace std::chrono_literals;
+using testing::resultOf;
 using testing::VirtualLoop;
 
 using Trace = std::vector<std::string>;
@@ -35,26 +38,31 @@ Task<int> failAfter(VirtualLoop& loop, std::chrono::milliseconds delay) {
 }
 
 Task<std::string> describeFailure(VirtualLoop& loop) {
-  std::string description;
   try {
     co_await failAfter(loop, 5ms);
   } catch (const std::runtime_error& error) {
-    description = error.what();
+    co_return error.what();
   }
-  co_return description;
+  co_return "";
 }
 
-Task<> store(Task<std::string> task, std::string& result) {
-  result = co_await std::move(task);
-}
-
-TEST(Task, CarriesResultsAndExceptionsThroughAwaits) {
+class TaskTest : public ::testing::Test {
+ protected:
   VirtualLoop loop;
+  Trace trace;
   TaskScope scope;
-  std::string result;
-  scope.start(store(describeFailure(loop), result));
-  loop.run();
-  EXPECT_EQ(result, "failed");
+};
+using TaskScopeTest = TaskTest;
+using CompletionOfTest = TaskTest;
+using OffloadTest = TaskTest;
+
+class AsyncMutexTest : public TaskTest {
+ protected:
+  AsyncMutex mutex{loop};
+};
+
+TEST_F(TaskTest, CarriesResultsAndExceptionsThroughAwaits) {
+  EXPECT_EQ(std::get<std::string>(resultOf(loop, describeFailure(loop))), "failed");
   EXPECT_EQ(loop.elapsed(), 5ms);
 }
 
@@ -66,10 +74,7 @@ Task<> countDown(VirtualLoop& loop, Trace& trace, std::string name) {
   }
 }
 
-TEST(TaskScope, RunsTasksSideBySideAndReleasesEachAtItsEnd) {
-  VirtualLoop loop;
-  Trace trace;
-  TaskScope scope;
+TEST_F(TaskScopeTest, RunsTasksSideBySideAndLetsGoOfEachAtItsEnd) {
   scope.start(countDown(loop, trace, "a"));
   scope.start(countDown(loop, trace, "b"));
   loop.run();
@@ -82,12 +87,10 @@ Task<> outer(VirtualLoop& loop, Trace& trace) {
   trace.emplace_back("never");
 }
 
-TEST(TaskScope, CancelsWhatStillRunsFromTheInsideOut) {
-  VirtualLoop loop;
-  Trace trace;
+TEST_F(TaskScopeTest, CancelsWhatStillRunsFromTheInsideOut) {
   {
-    TaskScope scope;
-    scope.start(outer(loop, trace));
+    TaskScope ended;
+    ended.start(outer(loop, trace));
   }
   EXPECT_EQ(trace, (Trace{"inner2", "left inner", "left outer"}));
   EXPECT_FALSE(loop.step()) << "the timer outlived its task";
@@ -101,15 +104,14 @@ Task<> awaitNumber(std::function<void(int)>& completion, Trace& trace) {
   trace.push_back(std::to_string(number));
 }
 
-TEST(CompletionOf, IgnoresCompletionsThatComeTwiceOrTooLate) {
-  Trace trace;
+TEST_F(CompletionOfTest, IgnoresCompletionsThatComeTwiceOrTooLate) {
   std::function<void(int)> completion;
   {
-    TaskScope scope;
-    scope.start(awaitNumber(completion, trace));
+    TaskScope ended;
+    ended.start(awaitNumber(completion, trace));
     completion(1);
     completion(2);
-    scope.start(awaitNumber(completion, trace));
+    ended.start(awaitNumber(completion, trace));
   }
   completion(3);
   EXPECT_EQ(trace, (Trace{"withdrawn", "1", "withdrawn"}));
@@ -125,9 +127,7 @@ Task<> awaitAtOnce(Trace& trace) {
   trace.push_back(text);
 }
 
-TEST(CompletionOf, TakesACompletionThatComesWhileStarting) {
-  Trace trace;
-  TaskScope scope;
+TEST_F(CompletionOfTest, TakesACompletionThatComesWhileStarting) {
   scope.start(awaitAtOnce(trace));
   EXPECT_EQ(trace, (Trace{"at once"}));
 }
@@ -139,11 +139,7 @@ Task<> hold(VirtualLoop& loop, AsyncMutex& mutex, Trace& trace, std::string name
   co_await sleep(loop, 10ms);
 }
 
-TEST(AsyncMutex, LetsTasksThroughOneByOneInTheOrderTheyCame) {
-  VirtualLoop loop;
-  Trace trace;
-  AsyncMutex mutex(loop);
-  TaskScope scope;
+TEST_F(AsyncMutexTest, LetsTasksThroughOneByOneInTheOrderTheyCame) {
   scope.start(hold(loop, mutex, trace, "a"));
   scope.start(hold(loop, mutex, trace, "b"));
   while (trace.back() != "left a")
@@ -154,11 +150,7 @@ TEST(AsyncMutex, LetsTasksThroughOneByOneInTheOrderTheyCame) {
   EXPECT_EQ(loop.elapsed(), 30ms) << "it is passed on at once";
 }
 
-TEST(AsyncMutex, PassesOverThoseThatAreCancelled) {
-  VirtualLoop loop;
-  Trace trace;
-  AsyncMutex mutex(loop);
-  TaskScope scope;
+TEST_F(AsyncMutexTest, PassesOverThoseThatAreCancelled) {
   {
     TaskScope cancelled;
     scope.start(hold(loop, mutex, trace, "a"));
@@ -172,31 +164,24 @@ TEST(AsyncMutex, PassesOverThoseThatAreCancelled) {
   EXPECT_EQ(trace, (Trace{"has a", "left a", "left b", "left c", "has d", "left d"}));
 }
 
-TEST(AsyncMutex, RunsNoTaskOfAScopeThatIsDestroyed) {
-  VirtualLoop loop;
-  Trace trace;
-  AsyncMutex mutex(loop);
+TEST_F(AsyncMutexTest, RunsNoTaskOfAScopeThatIsDestroyed) {
   {
-    TaskScope scope;
-    scope.start(hold(loop, mutex, trace, "a"));
-    scope.start(hold(loop, mutex, trace, "b"));
+    TaskScope ended;
+    ended.start(hold(loop, mutex, trace, "a"));
+    ended.start(hold(loop, mutex, trace, "b"));
   }
   EXPECT_EQ(trace, (Trace{"has a", "left a", "left b"}));
-  TaskScope scope;
   scope.start(hold(loop, mutex, trace, "c"));
   EXPECT_EQ(trace.back(), "has c");
   loop.run();  // includes the work that the lock of a posted
   EXPECT_EQ(trace.back(), "left c");
 }
 
-TEST(AsyncMutex, MayBeDestroyedWhileItIsHeldAndAwaited) {
-  VirtualLoop loop;
-  Trace trace;
-  auto mutex = std::make_unique<AsyncMutex>(loop);
-  TaskScope scope;
-  scope.start(hold(loop, *mutex, trace, "a"));
-  scope.start(hold(loop, *mutex, trace, "b"));
-  mutex.reset();
+TEST_F(AsyncMutexTest, MayBeDestroyedWhileItIsHeldAndAwaited) {
+  auto owned = std::make_unique<AsyncMutex>(loop);
+  scope.start(hold(loop, *owned, trace, "a"));
+  scope.start(hold(loop, *owned, trace, "b"));
+  owned.reset();
   loop.run();
   EXPECT_EQ(trace, (Trace{"has a", "left a", "has b", "left b"}));
 }
@@ -213,10 +198,7 @@ Task<> offloadAndFail(VirtualLoop& loop, Trace& trace) {
   trace.push_back(failure);
 }
 
-TEST(Offload, BringsResultsAndExceptionsBack) {
-  VirtualLoop loop;
-  Trace trace;
-  TaskScope scope;
+TEST_F(OffloadTest, BringsResultsAndExceptionsBack) {
   scope.start(offloadAndFail(loop, trace));
   EXPECT_TRUE(trace.empty());
   loop.run();

@@ -12,7 +12,6 @@ namespace quillseal {
 namespace {
 
 using ::testing::Contains;
-using testing::Copy;
 using ::testing::ElementsAre;
 using testing::FakeDesktop;
 using ::testing::Field;
@@ -45,16 +44,12 @@ TEST(DevelopmentBuild, SendsNothingToAServerThatNobodyNamed) {
   const std::string alert =
       "alert: Quillseal Is Not Configured | No signing server is set. Open Settings and enter the "
       "server URL.";
-  for (const char* server : {"", "\n", " https://quillseal.example"}) {
-    for (const char* mode : {"enclave", "handoff"}) {
+  for (const char* server : {"", "\n", " https://quillseal.example"})
+    for (const char* mode : {"enclave", "handoff"})
       for (const bool hasKey : {false, true}) {
         FakeDesktop desktop;
         desktop.keyStore.hasKey = hasKey;
         desktop.defaults.strings = {{"APIKey", "k"}, {"ServerURL", server}, {"SigningMode", mode}};
-        desktop.keys.selection = Copy{.text =
-                                          "We meet on 14 March 2026 at ten in the hall "
-                                          "of the old library with Grace and Ada.",
-                                      .html = {}};
         SigningCoordinator coordinator(desktop.services());
         coordinator.startSigning();
         desktop.loop.run();
@@ -65,8 +60,6 @@ TEST(DevelopmentBuild, SendsNothingToAServerThatNobodyNamed) {
         EXPECT_THAT(desktop.trace, ElementsAre(alert, alert));
         EXPECT_EQ(desktop.keyStore.hasKey, hasKey);
       }
-    }
-  }
 }
 
 TEST(DevelopmentBuild, LetsTheServerBeEntered) {

@@ -1,6 +1,7 @@
-// Tests the desktop services against macOS itself. They run unattended: they ask for no permission
-// and skip, with a message, what a machine lacks (an Enclave, a keychain entitlement, the right to
-// become active). They replace the clipboard's content.
+// The desktop services against macOS itself. The tests run unattended: they ask for no permission,
+// and what a machine lacks (an Enclave, a keychain entitlement, the right to come to the front) is
+// skipped with a message. They replace what is on the clipboard.
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <csignal>
@@ -102,7 +103,17 @@ void runFor(double seconds) {
   static_cast<void>(runUntil([] { return false; }, seconds));
 }
 
-/// Returns the Error that `work` throws, if any.
+/// What `start` gives to the function that it is called with, once that has been called.
+template <typename Value, typename Start>
+Value awaited(const Start& start) {
+  std::optional<Value> value;
+  const desktop::Ticket ticket = start([&](Value given) { value.emplace(std::move(given)); });
+  EXPECT_FALSE(value.has_value()) << "answered before it was waited for";
+  EXPECT_TRUE(runUntil([&] { return value.has_value(); }, 20));
+  return std::move(value).value();
+}
+
+/// What `work` throws; nothing when it throws nothing.
 template <typename Work>
 std::optional<Error> errorOf(const Work& work) {
   try {
@@ -168,8 +179,7 @@ TEST_F(MacMainLoopTest, RunsPostedWorkLaterAndInOrder) {
 
 // Acts like an open alert: posted work stays on the stack while a nested loop runs.
 TEST_F(MacMainLoopTest, GoesOnInsideALoopThatPostedWorkRuns) {
-  bool inner = false;
-  bool outer = false;
+  bool inner = false, outer = false;
   loop_.post([&] {
     EXPECT_TRUE(runUntil([&] { return inner; }));
     outer = true;
@@ -187,8 +197,7 @@ TEST_F(MacMainLoopTest, SurvivesWorkThatThrows) {
 }
 
 TEST_F(MacMainLoopTest, StopsATimerWhoseTicketWasDropped) {
-  bool stopped = true;
-  bool done = false;
+  bool stopped = true, done = false;
   {
     const desktop::Ticket dropped = loop_.after(10ms, [&] { stopped = false; });
   }
@@ -207,17 +216,12 @@ TEST_F(MacMainLoopTest, RunsOverdueTimersOnceAfterItStoodStill) {
 }
 
 TEST_F(MacMainLoopTest, BlocksOnAWorkerAndFinishesOnTheMainThread) {
-  bool workedOnMain = true;
-  bool finishedOnMain = false;
-  bool done = false;
+  std::optional<bool> workedOnMain, finishedOnMain;
   const desktop::Ticket ticket = loop_.runBlocking([&] { workedOnMain = NSThread.isMainThread; },
-                                                   [&] {
-                                                     finishedOnMain = NSThread.isMainThread;
-                                                     done = true;
-                                                   });
-  ASSERT_TRUE(runUntil([&] { return done; }));
-  EXPECT_FALSE(workedOnMain);
-  EXPECT_TRUE(finishedOnMain);
+                                                   [&] { finishedOnMain = NSThread.isMainThread; });
+  ASSERT_TRUE(runUntil([&] { return finishedOnMain.has_value(); }));
+  EXPECT_EQ(workedOnMain, false);
+  EXPECT_EQ(finishedOnMain, true);
 }
 
 TEST_F(MacMainLoopTest, TakesPostsFromManyThreadsAndFromSomeThatOutliveIt) {
@@ -553,6 +557,10 @@ class MacAlertsTest : public MacDesktopTest {
     }));
   }
 
+  desktop::Answer ask() {
+    return awaited<desktop::Answer>([&](auto done) { return alerts_.ask(question_, done); });
+  }
+
   static void press(NSWindow* window, NSString* title) {
     NSButton* button = buttonTitled(window, title);
     EXPECT_NE(button, nil) << utf8(title);
@@ -563,21 +571,8 @@ class MacAlertsTest : public MacDesktopTest {
   static void strike(NSWindow* window, NSString* key) {
     [window makeKeyWindow];
     for (const NSEventType kind : {NSEventTypeKeyDown, NSEventTypeKeyUp}) {
-      post([NSEvent keyEventWithType:kind
-                             location:NSZeroPoint
-                        modifierFlags:0
-                            timestamp:0
-                         windowNumber:window.windowNumber
-                              context:nil
-                           characters:key
-          charactersIgnoringModifiers:key
-                            isARepeat:NO
-                              keyCode:0]);
+      [NSApp postEvent:keyEvent(kind, window, key) atStart:NO];
     }
-  }
-
-  static void post(NSEvent* event) {
-    if (event != nil) [NSApp postEvent:event atStart:NO];
   }
 
   std::vector<desktop::Ticket> timers_;
@@ -598,23 +593,17 @@ TEST_F(MacAlertsTest, IsAnsweredByButtonsAndKeys) {
       {[](NSWindow* window) { strike(window, @"\033"); }, desktop::Answer::cancelled},
   };
   for (const auto& c : cases) {
-    std::optional<desktop::Answer> answer;
-    const desktop::Ticket asked =
-        alerts_.ask(question_, [&](desktop::Answer given) { answer = given; });
     onAlert(c.act);
-    ASSERT_TRUE(runUntil([&] { return answer.has_value(); }));
-    EXPECT_EQ(answer, c.answer);
+    EXPECT_EQ(ask(), c.answer);
   }
 }
 
 TEST_F(MacAlertsTest, ConfirmationGivesChoiceAndFieldAndNamesThem) {
-  std::optional<std::optional<desktop::ConfirmationEntry>> entry;
   const desktop::ConfirmationForm form{.question = question_,
                                        .choices = {"Email", "Chat", "Document"},
                                        .selectedChoice = 1,
                                        .fieldPlaceholder = "where to",
                                        .note = "small"};
-  const desktop::Ticket asked = alerts_.confirm(form, [&](auto given) { entry = given; });
   onAlert([](NSWindow* window) {
     NSTextField* field = fieldLabelled(window, @"Recipient");
     ASSERT_NE(field, nil);
@@ -627,18 +616,18 @@ TEST_F(MacAlertsTest, ConfirmationGivesChoiceAndFieldAndNamesThem) {
     [choice selectItemAtIndex:2];
     press(window, @"Sign");
   });
-  ASSERT_TRUE(runUntil([&] { return entry.has_value(); }));
-  ASSERT_TRUE(entry->has_value());
-  EXPECT_EQ((*entry)->choice, "Document");
-  EXPECT_EQ((*entry)->field, "ada@example.com");
+  const auto entry = awaited<std::optional<desktop::ConfirmationEntry>>(
+      [&](auto done) { return alerts_.confirm(form, done); });
+  ASSERT_TRUE(entry.has_value());
+  EXPECT_EQ(entry->choice, "Document");
+  EXPECT_EQ(entry->field, "ada@example.com");
 }
 
 TEST_F(MacAlertsTest, ScrollsALongText) {
   std::string body;
   for (int i = 0; i < 400; ++i) body += "Line " + std::to_string(i) + " of a long text.\n";
   bool dismissed = false;
-  const desktop::Ticket shown =
-      alerts_.show({.title = "Long", .body = body}, [&] { dismissed = true; });
+  const auto shown = alerts_.show({.title = "Long", .body = body}, [&] { dismissed = true; });
   onAlert([&](NSWindow* window) {
     auto* text = (NSTextView*)find(window.contentView, NSTextView.class, [](id) { return true; });
     ASSERT_NE(text, nil);
@@ -707,11 +696,7 @@ TEST_F(MacAlertsTest, CountsAsCancelledWhenItCannotBeShown) {
     window = alert.window;
     raise();
   });
-  std::optional<desktop::Answer> answer;
-  const desktop::Ticket asked =
-      alerts_.ask(question_, [&](desktop::Answer given) { answer = given; });
-  ASSERT_TRUE(runUntil([&] { return answer.has_value(); }));
-  EXPECT_EQ(answer, desktop::Answer::cancelled);
+  EXPECT_EQ(ask(), desktop::Answer::cancelled);
   EXPECT_FALSE(window.isVisible);
   EXPECT_EQ(log_.lines, std::vector<std::string>{"[sign] an alert could not be shown: deliberate"});
 }
@@ -719,15 +704,6 @@ TEST_F(MacAlertsTest, CountsAsCancelledWhenItCannotBeShown) {
 desktop::RunningApplication process(std::uint64_t identifier) {
   return {
       .instance = identifier, .name = {}, .bundleIdentifier = {}, .categories = {}, .document = {}};
-}
-
-/// Returns whether another application could be activated, as when the agent starts.
-bool bringFinderToTheFront() {
-  NSRunningApplication* finder =
-      [NSRunningApplication runningApplicationsWithBundleIdentifier:@"com.apple.finder"]
-          .firstObject;
-  [finder activateWithOptions:0];
-  return runUntil([&] { return finder.isActive; }, 2);
 }
 
 // Program and applications ------------------------------------------------------------------------
@@ -755,30 +731,20 @@ TEST_F(MacDesktopTest, KeepsAppNapOffWhileAnActivityLasts) {
 }
 
 TEST_F(MacDesktopTest, KnowsTerminalsByTheirIdentifiers) {
-  const std::pair<std::optional<std::string>, bool> cases[] = {
-      {"com.apple.Terminal", true},
-      {"com.googlecode.iterm2", true},
-      {"net.kovidgoyal.kitty", true},
-      {"org.alacritty", true},
-      {"com.github.wez.wezterm", true},
-      {"com.mitchellh.ghostty", true},
-      {"dev.warp.Warp-Stable", true},
-      {"co.zeit.hyper", true},
-      {"com.apple.mail", false},
-      {"", false},
-      {std::nullopt, false},
-  };
-  for (const auto& [identifier, isTerminal] : cases) {
-    desktop::RunningApplication running{.instance = 1,
-                                        .name = "Name",
-                                        .bundleIdentifier = identifier,
-                                        .categories = {},
-                                        .document = {}};
+  const std::string terminal = "TerminalEmulator;";
+  const std::optional<std::string> terminals[] = {
+      "com.apple.Terminal",     "com.googlecode.iterm2", "net.kovidgoyal.kitty", "org.alacritty",
+      "com.github.wez.wezterm", "com.mitchellh.ghostty", "dev.warp.Warp-Stable", "co.zeit.hyper"};
+  for (const auto& identifier : terminals) {
+    EXPECT_EQ(MacApplications::categoriesOf(identifier), terminal);
+    desktop::RunningApplication running = process(1);
+    running.bundleIdentifier = identifier;
     const std::string scope = AccessibilityManager::detectAppScope(running).scope;
-    running.categories = MacApplications::categoriesOf(identifier);
-    EXPECT_EQ(running.categories, isTerminal ? "TerminalEmulator;" : "");
+    running.categories = terminal;
     EXPECT_EQ(AccessibilityManager::detectAppScope(running).scope, scope);
   }
+  const std::optional<std::string> others[] = {"com.apple.mail", "", std::nullopt};
+  for (const auto& other : others) EXPECT_EQ(MacApplications::categoriesOf(other), "");
 }
 
 TEST_F(MacDesktopTest, FindsApplications) {
@@ -796,10 +762,9 @@ TEST_F(MacDesktopTest, TellsWhenNothingCouldBeOpened) {
   const desktop::InstalledApplication missing{.location = "/Applications/None of these.app",
                                               .bundleIdentifier = {}};
   for (const std::string& url : {std::string("https://a b/"), std::string("https://a.example/")}) {
-    std::optional<Error> failure;
-    const desktop::Ticket ticket =
-        applications.open(url, missing, [&](std::optional<Error> given) { failure = given; });
-    EXPECT_TRUE(runUntil([&] { return failure.has_value(); })) << url;
+    const auto failure = awaited<std::optional<Error>>(
+        [&](auto done) { return applications.open(url, missing, done); });
+    EXPECT_TRUE(failure.has_value()) << url;
   }
   EXPECT_TRUE(errorOf([&] { applications.open(std::string("https://a b/")); }).has_value());
   const Replaced refusing(object_getClass(NSWorkspace.sharedWorkspace), @selector(openURL:),
@@ -809,71 +774,78 @@ TEST_F(MacDesktopTest, TellsWhenNothingCouldBeOpened) {
   EXPECT_TRUE(errorOf([&] { applications.open(std::string("https://a.example/")); }).has_value());
 }
 
-/// Returns whether this program could be activated, which a Mac without a logged-in user may
-/// refuse.
-bool comesToTheFront() {
-  activateProgram();
-  return runUntil(
-      [] {
-        return [NSWorkspace.sharedWorkspace.frontmostApplication
-            isEqual:NSRunningApplication.currentApplication];
-      },
-      2);
-}
+/// Behind another application, as the agent starts; skipped where none comes to the front.
+template <typename Base>
+class BehindAnother : public Base {
+ protected:
+  void SetUp() override {
+    NSRunningApplication* finder =
+        [NSRunningApplication runningApplicationsWithBundleIdentifier:@"com.apple.finder"]
+            .firstObject;
+    [finder activateWithOptions:0];
+    if (!runUntil([&] { return finder.isActive; }, 2))
+      GTEST_SKIP() << "no application comes to the front";
+    source_ = applications_.frontmost();
+    ASSERT_TRUE(source_.has_value());
+  }
 
-TEST_F(MacDesktopTest, GivesActivationBackWhenItsLastWindowGoes) {
-  if (!bringFinderToTheFront()) GTEST_SKIP() << "no application comes to the front";
-  MacApplications applications(loop_);
-  const std::optional<desktop::RunningApplication> source = applications.frontmost();
-  ASSERT_TRUE(source.has_value());
+  /// Whether this program could be brought to the front, which a Mac without a user may not allow.
+  static bool comesToTheFront() {
+    activateProgram();
+    const auto isInFront = [] {
+      return [NSWorkspace.sharedWorkspace.frontmostApplication
+          isEqual:NSRunningApplication.currentApplication];
+    };
+    return runUntil(isInFront, 2);
+  }
+
+  [[nodiscard]] bool isSourceActive() const { return applications_.isActive(*source_); }
+
+  MacApplications applications_{this->loop_};
+  std::optional<desktop::RunningApplication> source_;
+};
+
+using MacActivationTest = BehindAnother<MacDesktopTest>;
+using MacAlertActivationTest = BehindAnother<MacAlertsTest>;
+
+TEST_F(MacActivationTest, GivesActivationBackWhenItsLastWindowGoes) {
   const auto first = MacWindows().make({.title = "First", .width = 200, .height = 100});
   const auto second = MacWindows().make({.title = "Second", .width = 200, .height = 100});
   first->bringToFront();
   second->bringToFront();
   if (!comesToTheFront()) GTEST_SKIP() << "this program may not come to the front";
-  EXPECT_FALSE(applications.isActive(*source));
-  EXPECT_EQ(applications.frontmost()->instance, source->instance) << "the one behind its windows";
+  EXPECT_FALSE(isSourceActive());
+  EXPECT_EQ(applications_.frontmost()->instance, source_->instance) << "the one behind its windows";
   [windowTitled(@"Second") performClose:nil];
   runFor(0.3);
-  EXPECT_FALSE(applications.isActive(*source)) << "there is still a window";
+  EXPECT_FALSE(isSourceActive()) << "there is still a window";
   [windowTitled(@"First") performClose:nil];
-  EXPECT_TRUE(runUntil([&] { return applications.isActive(*source); }));
+  EXPECT_TRUE(runUntil([&] { return isSourceActive(); }));
 }
 
-TEST_F(MacAlertsTest, GiveActivationBackAsWell) {
-  if (!bringFinderToTheFront()) GTEST_SKIP() << "no application comes to the front";
-  MacApplications applications(loop_);
-  const std::optional<desktop::RunningApplication> source = applications.frontmost();
-  ASSERT_TRUE(source.has_value());
-  bool cameToTheFront = false;
-  bool dismissed = false;
+TEST_F(MacAlertActivationTest, GiveActivationBackAsWell) {
+  bool cameToTheFront = false, dismissed = false;
   const desktop::Ticket shown =
       alerts_.show({.title = "In front", .body = ""}, [&] { dismissed = true; });
   onAlert([&](NSWindow* window) {
-    cameToTheFront = !applications.isActive(*source);
+    cameToTheFront = !isSourceActive();
     press(window, @"OK");
   });
   ASSERT_TRUE(runUntil([&] { return dismissed; }));
   if (!cameToTheFront) GTEST_SKIP() << "this program may not come to the front";
-  EXPECT_TRUE(runUntil([&] { return applications.isActive(*source); }, 2));
+  EXPECT_TRUE(runUntil([&] { return isSourceActive(); }, 2));
 }
 
-TEST_F(MacAlertsTest, KeepActivationForOneThatFollows) {
-  if (!bringFinderToTheFront()) GTEST_SKIP() << "no application comes to the front";
-  MacApplications applications(loop_);
-  const std::optional<desktop::RunningApplication> source = applications.frontmost();
-  ASSERT_TRUE(source.has_value());
-  bool cameToTheFront = false;
-  bool cameBackBetween = false;
+TEST_F(MacAlertActivationTest, KeepActivationForOneThatFollows) {
+  bool cameToTheFront = false, cameBackBetween = false, dismissed = false;
   bool* const cameBack = &cameBackBetween;  // a block would copy the variable
-  bool dismissed = false;
   desktop::Ticket following;
   const desktop::Ticket shown = alerts_.ask(question_, [&](desktop::Answer) {
     following = alerts_.show({.title = "Follows", .body = ""}, [&] { dismissed = true; });
   });
   id observer = nil;
   onAlert([&](NSWindow* question) {
-    cameToTheFront = !applications.isActive(*source);
+    cameToTheFront = !isSourceActive();
     observer = [NSWorkspace.sharedWorkspace.notificationCenter
         addObserverForName:NSWorkspaceDidActivateApplicationNotification
                     object:nil
@@ -892,29 +864,24 @@ TEST_F(MacAlertsTest, KeepActivationForOneThatFollows) {
   ASSERT_TRUE(runUntil([&] { return dismissed; }));
   if (!cameToTheFront) GTEST_SKIP() << "this program may not come to the front";
   EXPECT_FALSE(cameBackBetween);
-  EXPECT_TRUE(runUntil([&] { return applications.isActive(*source); }, 2));
+  EXPECT_TRUE(runUntil([&] { return isSourceActive(); }, 2));
 }
 
-TEST_F(MacDesktopTest, TakesNoAgentOfTheSystemForTheSource) {
-  if (!bringFinderToTheFront()) GTEST_SKIP() << "no application comes to the front";
+TEST_F(MacActivationTest, TakesNoAgentOfTheSystemForTheSource) {
   NSRunningApplication* agent =
       [NSRunningApplication runningApplicationsWithBundleIdentifier:@"com.apple.dock"].firstObject;
   if (agent == nil) GTEST_SKIP() << "no Dock is running";
-  MacApplications applications(loop_);
-  const std::optional<desktop::RunningApplication> source = applications.frontmost();
-  ASSERT_TRUE(source.has_value());
   [NSWorkspace.sharedWorkspace.notificationCenter
       postNotificationName:NSWorkspaceDidActivateApplicationNotification
                     object:NSWorkspace.sharedWorkspace
                   userInfo:@{NSWorkspaceApplicationKey : agent}];
   if (!comesToTheFront()) GTEST_SKIP() << "this program may not come to the front";
-  EXPECT_EQ(applications.frontmost()->instance, source->instance);
+  EXPECT_EQ(applications_.frontmost()->instance, source_->instance);
 }
 
 // Keys --------------------------------------------------------------------------------------------
 
-TEST_F(MacDesktopTest, PressesNothingIntoAnotherApplication) {
-  if (!bringFinderToTheFront()) GTEST_SKIP() << "no application comes to the front";
+TEST_F(MacActivationTest, PressesNothingIntoAnotherApplication) {
   MacKeyEvents keys(loop_);
   std::optional<desktop::Delivery> delivery;
   bool isAboutToPress = false;
@@ -936,7 +903,7 @@ TEST_F(MacDesktopTest, PressesNothingIntoAnotherApplication) {
   runFor(0.5);
   EXPECT_EQ(delivery, std::nullopt);
   if (!comesToTheFront()) GTEST_SKIP() << "this program may not come to the front";
-  EXPECT_FALSE(MacApplications(loop_).frontmost().has_value()) << "only its own windows are there";
+  EXPECT_FALSE(applications_.frontmost().has_value()) << "only its own windows are there";
   const desktop::Ticket pressed = pressInto(std::nullopt);
   ASSERT_TRUE(runUntil([&] { return delivery.has_value(); }));
   EXPECT_EQ(delivery, desktop::Delivery::declined);
@@ -996,11 +963,7 @@ TEST_F(MacDesktopTest, ScriptsGiveTextNothingOrWhatWentWrong) {
   MacScriptRunner scripts(loop_);
   using Result = Outcome<std::optional<std::string>>;
   const auto run = [&](const std::string& source) {
-    std::optional<Result> result;
-    const desktop::Ticket ticket = scripts.run(source, [&](Result given) { result = given; });
-    EXPECT_FALSE(result.has_value());
-    EXPECT_TRUE(runUntil([&] { return result.has_value(); }));
-    return *result;
+    return awaited<Result>([&](auto done) { return scripts.run(source, done); });
   };
   EXPECT_EQ(std::get<0>(run("return \"tab 『1』\"")), "tab 『1』");
   EXPECT_EQ(std::get<0>(run("return")), std::nullopt);
@@ -1061,33 +1024,25 @@ TEST_F(MacDesktopTest, PresenceTellsWhyItWasNotProven) {
                         : [NSError errorWithDomain:LAErrorDomain
                                               code:code
                                           userInfo:@{NSLocalizedDescriptionKey : @"words"}];
-    std::optional<Outcome<bool>> outcome;
-    const desktop::Ticket ticket =
-        presence.evaluate(desktop::PresencePolicy::biometrics, {.reason = "r", .medium = {}},
-                          [&](Outcome<bool> given) { outcome = std::move(given); });
-    ASSERT_TRUE(runUntil([&] { return outcome.has_value(); }));
+    const auto outcome = awaited<Outcome<bool>>([&](auto done) {
+      return presence.evaluate(desktop::PresencePolicy::biometrics, {.reason = "r", .medium = {}},
+                               done);
+    });
     if (code == 0) {
-      EXPECT_FALSE(std::get<bool>(*outcome));
+      EXPECT_FALSE(std::get<bool>(outcome));
     } else {
-      EXPECT_EQ(std::get<Error>(*outcome).code(), code);
-      EXPECT_STREQ(std::get<Error>(*outcome).what(), "words");
+      EXPECT_EQ(std::get<Error>(outcome).code(), code);
+      EXPECT_STREQ(std::get<Error>(outcome).what(), "words");
     }
   }
 }
 
 TEST(MacKeyStoreTest, TakesNoFailureButTwoForAMissingKey) {
-  const std::pair<std::int64_t, bool> cases[] = {
-      {-25300, true},   // not found
-      {-34018, true},   // no entitlement
-      {0, false},       // success
-      {-25291, false},  // no keychain
-      {-25308, false},  // interaction not allowed
-      {-25293, false},  // authentication failed
-      {-128, false},    // cancelled
-      {-50, false},
-  };
-  for (const auto& [status, isMissing] : cases)
-    EXPECT_EQ(MacKeyStore::meansNoKey(status), isMissing) << status;
+  // Not found, and no entitlement.
+  for (const std::int64_t missing : {-25300, -34018}) EXPECT_TRUE(MacKeyStore::meansNoKey(missing));
+  // Success, no keychain, no interaction, not authenticated, cancelled, a wrong parameter.
+  for (const std::int64_t other : {0, -25291, -25308, -25293, -128, -50})
+    EXPECT_FALSE(MacKeyStore::meansNoKey(other)) << other;
 }
 
 TEST_F(MacDesktopTest, KeyStoreMakesFindsAndDeletesAKey) {
@@ -1118,21 +1073,26 @@ TEST_F(MacDesktopTest, KeyStoreMakesFindsAndDeletesAKey) {
 /// A server that answers by path, on its own thread.
 class LocalServer {
  public:
-  LocalServer() : listener_(::socket(AF_INET, SOCK_STREAM, 0)) {
+  LocalServer() {
     address_.sin_family = AF_INET;
     address_.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     socklen_t size = sizeof address_;
-    EXPECT_EQ(::bind(listener_, reinterpret_cast<const sockaddr*>(&address_), size), 0);
-    EXPECT_EQ(::getsockname(listener_, reinterpret_cast<sockaddr*>(&address_), &size), 0);
+    auto* const address = reinterpret_cast<sockaddr*>(&address_);
+    EXPECT_EQ(::bind(listener_, address, size), 0);
+    EXPECT_EQ(::getsockname(listener_, address, &size), 0);
     EXPECT_EQ(::listen(listener_, 8), 0);
-    thread_ = std::thread([this] { serve(); });
+    thread_ = std::thread([this] {
+      pollfd waiting{.fd = listener_, .events = POLLIN, .revents = 0};
+      while (!isEnding_)
+        if (::poll(&waiting, 1, 50) > 0) answer(::accept(listener_, nullptr, nullptr));
+    });
   }
   LocalServer(const LocalServer&) = delete;
   LocalServer& operator=(const LocalServer&) = delete;
   ~LocalServer() {
     isEnding_ = true;
     thread_.join();
-    for (const int silent : silent_) ::close(silent);
+    for (const int client : clients_) ::close(client);
     ::close(listener_);
   }
 
@@ -1140,65 +1100,48 @@ class LocalServer {
     return "http://127.0.0.1:" + std::to_string(ntohs(address_.sin_port)) + path;
   }
 
- private:
-  void serve() {
-    while (!isEnding_) {
-      pollfd waiting{.fd = listener_, .events = POLLIN, .revents = 0};
-      if (::poll(&waiting, 1, 50) <= 0) continue;
-      answer(::accept(listener_, nullptr, nullptr));
-    }
-  }
-
-  void answer(int client) {
-    std::string request;
-    std::size_t body = std::string::npos;
-    std::size_t length = 0;
-    while (body == std::string::npos || request.size() < body + length) {
-      char buffer[4096];
-      const ssize_t count = ::recv(client, buffer, sizeof buffer, 0);
-      if (count <= 0) break;
-      request.append(buffer, static_cast<std::size_t>(count));
-      const std::size_t end = request.find("\r\n\r\n");
-      if (body != std::string::npos || end == std::string::npos) continue;
-      body = end + 4;
-      const std::size_t header = request.find("Content-Length: ");
-      if (header < end) length = std::stoul(request.substr(header + 16));
-    }
-    if (body == std::string::npos) {  // the client closed the connection
-      ::close(client);
-      return;
-    }
-    const std::string path = request.substr(5, request.find(' ', 5) - 5);  // after "POST "
-    if (path == "/silent") {
-      silent_.push_back(client);
-      return;
-    }
-    std::string content = request.substr(body);
-    std::string start = "HTTP/1.1 200 OK\r\n";
-    if (path == "/unavailable") start = "HTTP/1.1 503 Service Unavailable\r\n";
-    if (path == "/redirect") start = "HTTP/1.1 302 Found\r\nLocation: /redirected\r\n";
-    if (path == "/redirected") isRedirected = true;
-    if (path.starts_with("/big/")) content = std::string(std::stoul(path.substr(5)), 'x');
-    const std::string reply =
-        start + "Connection: close\r\nContent-Length: " + std::to_string(content.size()) +
-        "\r\n\r\n" + content;
-    std::size_t sent = 0;
-    while (sent < reply.size()) {
-      const ssize_t count = ::send(client, reply.data() + sent, reply.size() - sent, 0);
-      if (count <= 0) break;
-      sent += static_cast<std::size_t>(count);
-    }
-    ::close(client);
-  }
-
- public:
   std::atomic<bool> isRedirected = false;
 
  private:
-  int listener_;
+  /// A request as far as it comes.
+  static std::string read(int client) {
+    std::string request;
+    char buffer[4096];
+    for (ssize_t count; (count = ::recv(client, buffer, sizeof buffer, 0)) > 0;) {
+      request.append(buffer, static_cast<std::size_t>(count));
+      const std::size_t end = request.find("\r\n\r\n"), header = request.find("Content-Length: ");
+      if (end == std::string::npos) continue;
+      const std::size_t length = header < end ? std::stoul(request.substr(header + 16)) : 0;
+      if (request.size() >= end + 4 + length) break;
+    }
+    return request;
+  }
+
+  void answer(int client) {
+    clients_.push_back(client);
+    const std::string request = read(client);
+    const std::size_t body = request.find("\r\n\r\n");
+    if (body == std::string::npos) return;                                 // the client went away
+    const std::string path = request.substr(5, request.find(' ', 5) - 5);  // after "POST "
+    if (path == "/silent") return;
+    std::string content = request.substr(body + 4), start = "200 OK";
+    if (path == "/unavailable") start = "503 Service Unavailable";
+    if (path == "/redirect") start = "302 Found\r\nLocation: /redirected";
+    if (path == "/redirected") isRedirected = true;
+    if (path.starts_with("/big/")) content = std::string(std::stoul(path.substr(5)), 'x');
+    const std::string reply = "HTTP/1.1 " + start + "\r\nConnection: close\r\nContent-Length: " +
+                              std::to_string(content.size()) + "\r\n\r\n" + content;
+    ssize_t count = 0;
+    for (std::size_t sent = 0; sent < reply.size() && count >= 0;
+         sent += static_cast<std::size_t>(std::max<ssize_t>(count, 0)))
+      count = ::send(client, reply.data() + sent, reply.size() - sent, 0);
+    ::shutdown(client, SHUT_RDWR);
+  }
+
+  const int listener_ = ::socket(AF_INET, SOCK_STREAM, 0);
   sockaddr_in address_{};
   std::atomic<bool> isEnding_ = false;
-  std::vector<int> silent_;
+  std::vector<int> clients_;
   std::thread thread_;
 };
 
@@ -1208,12 +1151,10 @@ class MacHttpTransportTest : public MacDesktopTest {
 
   Answer post(const std::string& url, const std::string& body = "{}",
               std::chrono::seconds timeout = 60s) {
-    std::optional<Answer> answer;
-    const desktop::Ticket ticket =
-        transport_.send({.url = url, .headers = {{"X-Key", "k"}}, .body = body, .timeout = timeout},
-                        [&](Answer given) { answer = std::move(given); });
-    EXPECT_TRUE(runUntil([&] { return answer.has_value(); }, 20)) << url;
-    return answer ? *std::move(answer) : Answer(desktop::HttpResponse{});
+    return awaited<Answer>([&](auto done) {
+      return transport_.send(
+          {.url = url, .headers = {{"X-Key", "k"}}, .body = body, .timeout = timeout}, done);
+    });
   }
 
   std::int64_t codeOf(const Answer& answer) {
@@ -1260,7 +1201,7 @@ TEST_F(MacHttpTransportTest, IsSilentOnceARequestOrAllOfItIsGone) {
   bool answered = false;
   const auto done = [&](const Answer&) { answered = true; };
   {
-    const desktop::Ticket dropped =
+    const auto dropped =
         transport_.send({.url = server_.url("/echo"), .headers = {}, .body = "{}"}, done);
   }
   {

@@ -57,6 +57,20 @@ inline NSWindow* windowTitled(NSString* title) {
   return nil;
 }
 
+inline NSEvent* keyEvent(NSEventType kind, NSWindow* window, NSString* key,
+                         NSEventModifierFlags modifiers = 0) {
+  return [NSEvent keyEventWithType:kind
+                          location:NSZeroPoint
+                     modifierFlags:modifiers
+                         timestamp:0
+                      windowNumber:window.windowNumber
+                           context:nil
+                        characters:key
+       charactersIgnoringModifiers:key
+                         isARepeat:NO
+                           keyCode:0];
+}
+
 inline void type(NSTextField* field, NSString* text) {
   [(NSTextView*)field.currentEditor insertText:text replacementRange:NSMakeRange(NSNotFound, 0)];
 }

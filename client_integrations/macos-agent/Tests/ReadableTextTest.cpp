@@ -1,8 +1,6 @@
 #include <array>
 #include <chrono>
-#include <fstream>
 #include <random>
-#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -16,6 +14,7 @@
 #include "Quillseal/ContentRisk.h"
 #include "RandomText.h"
 #include "RulePatterns.h"
+#include "SampleLines.h"
 #include "core/reading/ReadableText.h"
 #include "core/reading/ReadingTables.h"
 #include "core/text/UnicodeText.h"
@@ -24,32 +23,11 @@ namespace quillseal {
 namespace {
 
 using ContentRisk::Screening;
+using testing::divided;
 using testing::escaped;
 
-/// Returns the lines of a sample file without empty lines and comments, with \n, \r and \u{...}
-/// replaced.
-std::vector<std::string> linesOf(const std::string& name) {
-  std::ifstream file(std::string(QUILLSEAL_TESTS) + '/' + name);
-  std::vector<std::string> lines;
-  for (std::string line; std::getline(file, line);) {
-    if (line.empty() || line.starts_with('#')) continue;
-    for (std::size_t at = 0; (at = line.find("\\u{", at)) != std::string::npos;) {
-      std::string scalar;
-      unicode::append(scalar, static_cast<char32_t>(std::stoul(line.substr(at + 3), nullptr, 16)));
-      line.replace(at, line.find('}', at) + 1 - at, scalar);
-    }
-    line = unicode::replacingAll(line, "\\n", "\n");
-    lines.push_back(unicode::replacingAll(line, "\\r", "\r"));
-  }
-  if (lines.empty()) throw std::runtime_error("no lines in " + name);
-  return lines;
-}
-
-/// Splits a line at a separator; the second part is empty without one.
-std::pair<std::string, std::string> divided(const std::string& line, const std::string& separator) {
-  const std::size_t at = line.find(separator);
-  if (at == std::string::npos) return {line, ""};
-  return {line.substr(0, at), line.substr(at + separator.size())};
+std::vector<std::string> samplesIn(const std::string& name) {
+  return testing::linesOf(std::string(QUILLSEAL_TESTS) + '/' + name);
 }
 
 Screening asSigned(const std::string& text) {
@@ -64,7 +42,7 @@ int verdictOf(const Screening& screening) {
 }
 
 TEST(ReadableText, ReadsWhatAPersonReads) {
-  for (const std::string& line : linesOf("readings.txt")) {
+  for (const std::string& line : samplesIn("readings.txt")) {
     const auto [written, expected] = divided(line, " => ");
     const ReadableText readable(written);
     EXPECT_EQ(readable.isAsWritten(), expected.empty()) << line;
@@ -73,7 +51,7 @@ TEST(ReadableText, ReadsWhatAPersonReads) {
 }
 
 TEST(ReadableText, HonestTextsStayHonest) {
-  const std::vector<std::string> texts = linesOf("honest-texts.txt");
+  const std::vector<std::string> texts = samplesIn("honest-texts.txt");
   EXPECT_GE(texts.size(), 120U);
   for (const std::string& text : texts) {
     const Screening screening = asSigned(text);
@@ -85,7 +63,7 @@ TEST(ReadableText, HonestTextsStayHonest) {
 TEST(ReadableText, GapsGoOnOverPointsThatEndNoSentence) {
   std::vector<std::string> sentences;
   std::vector<std::pair<std::string, std::string>> fillers;
-  for (const std::string& line : linesOf("sentence-points.txt")) {
+  for (const std::string& line : samplesIn("sentence-points.txt")) {
     if (line.starts_with("S ")) sentences.push_back(line.substr(2));
     if (line.starts_with("F ")) fillers.push_back(divided(line.substr(2), " | "));
   }
@@ -102,32 +80,36 @@ TEST(ReadableText, GapsGoOnOverPointsThatEndNoSentence) {
   }
 }
 
-TEST(ReadableText, EndsOfSentencesStay) {
-  for (const char* text :
-       {"I approve the plan. The payment is another matter, for the board of 3 May.",
-        "I approve it! Payment comes later.",
-        "I approve option B. It says so in the payment terms.",
-        "I approve\u2026 no. Later, when the payment is due.",
-        "Please wire the fence.\n\nThe money goes into the box.",
-        "I approve the reading list of 1990. Every payment was made."})
-    EXPECT_EQ(verdictOf(asSigned(text)), 0) << text << "\nreads " << ReadableText(text).text();
+/// The samples of the rules that are refused or warned about, as far as they are `wanted`.
+std::vector<std::string> caughtSamples(bool (*wanted)(const std::string&)) {
+  std::vector<std::string> caught;
+  for (const std::string& line : samplesIn("rule-samples.txt"))
+    if (line.starts_with("+ ") && wanted(line) &&
+        verdictOf(ContentRisk::screen(line.substr(2))) > 0)
+      caught.push_back(line.substr(2));
+  EXPECT_GT(caught.size(), 100U);
+  return caught;
+}
+
+/// Expects that a disguise leaves so many in a hundred of the samples caught.
+template <typename Disguise>
+void expectCaught(const std::vector<std::string>& samples, Disguise apply, std::string_view name,
+                  int promised) {
+  std::size_t still = 0;
+  for (const std::string& text : samples)
+    if (verdictOf(asSigned(apply(text))) > 0) ++still;
+  ::testing::Test::RecordProperty(std::string(name),
+                                  static_cast<int>(100 * still / samples.size()));
+  EXPECT_GE(100 * still, samples.size() * static_cast<std::size_t>(promised))
+      << name << ": " << still << " of " << samples.size();
 }
 
 TEST(ReadableText, DisguisedScamsAreCaught) {
-  std::vector<std::string> caught;
-  for (const std::string& line : linesOf("rule-samples.txt"))
-    if (line.starts_with("+ ") && unicode::isAscii(line) &&
-        verdictOf(ContentRisk::screen(line.substr(2))) > 0)
-      caught.push_back(line.substr(2));
-  ASSERT_GT(caught.size(), 100U);
+  const auto caught = caughtSamples([](const std::string& line) { return unicode::isAscii(line); });
   for (const testing::Disguise& disguise : testing::disguises()) {
     std::mt19937 random(17);
-    std::size_t still = 0;
-    for (const std::string& text : caught)
-      if (verdictOf(asSigned(disguise.apply(text, random))) > 0) ++still;
-    RecordProperty(std::string(disguise.name), static_cast<int>(100 * still / caught.size()));
-    EXPECT_GE(100 * still, caught.size() * static_cast<std::size_t>(disguise.promised))
-        << disguise.name << ": " << still << " of " << caught.size();
+    const auto apply = [&](const std::string& text) { return disguise.apply(text, random); };
+    expectCaught(caught, apply, disguise.name, disguise.promised);
   }
 }
 
@@ -155,24 +137,12 @@ std::string decomposed(const std::string& text) {
 }
 
 TEST(ReadableText, DisguisedScamsInOtherScriptsAreCaught) {
-  std::vector<std::string> caught;
-  for (const std::string& line : linesOf("rule-samples.txt"))
-    if (line.starts_with("+ ") && decomposed(apart(line, "|")) != line &&
-        verdictOf(ContentRisk::screen(line.substr(2))) > 0)
-      caught.push_back(line.substr(2));
-  ASSERT_GT(caught.size(), 100U);
-  const std::pair<const char*, std::string (*)(const std::string&)> disguises[] = {
-      {"zero-width", [](const std::string& text) { return apart(text, "\u200B"); }},
-      {"points", [](const std::string& text) { return apart(text, "."); }},
-      {"blanks", [](const std::string& text) { return apart(text, " "); }},
-      {"decomposed", decomposed}};
-  for (const auto& [name, disguise] : disguises) {
-    std::size_t still = 0;
-    for (const std::string& text : caught)
-      if (verdictOf(asSigned(disguise(text))) > 0) ++still;
-    RecordProperty(name, static_cast<int>(100 * still / caught.size()));
-    EXPECT_GE(100 * still, 95 * caught.size()) << name << ": " << still << " of " << caught.size();
-  }
+  const auto caught =
+      caughtSamples([](const std::string& line) { return decomposed(apart(line, "|")) != line; });
+  for (const char* sign : {"\u200B", ".", " "})
+    expectCaught(
+        caught, [&](const std::string& text) { return apart(text, sign); }, escaped(sign), 95);
+  expectCaught(caught, decomposed, "decomposed", 95);
 }
 
 TEST(ReadableText, FindingsStandWhereTheyWereWritten) {
@@ -219,42 +189,12 @@ TEST(ReadableText, TheMapLeadsEveryPartOfTheReadingToItsOwn) {
 
 /// Wide letters and the signs that may separate them.
 std::string wideText(std::mt19937& random) {
-  constexpr std::array pieces{"\uAC00",
-                              "\uB098\uB2E4",
-                              "\uACC4\uC88C\uAC00",
-                              "\u8D26",
-                              "\u6237\u53F7",
-                              "\u304B",
-                              "\u3099",
-                              "\u1100",
-                              "\u1161",
-                              "\u11A8",
-                              "\u2F00",
-                              "\uFF76",
-                              "\uFF9E",
-                              "\u30FB",
-                              "\u00B7",
-                              "\u200B",
-                              "\uFE0F",
-                              "\u200D",
-                              "\U0001F469",
-                              "\u0438",
-                              "\u0306",
-                              " ",
-                              " ",
-                              " ",
-                              " ",
-                              "  ",
-                              ".",
-                              "-",
-                              "\n",
-                              "\uFF01",
-                              "a",
-                              "\u3000",
-                              "1"};
+  constexpr std::u32string_view pieces =
+      U"\uAC00\uB098\uB2E4\uACC4\uC88C\u8D26\u6237\u304B\u3099\u1100\u1161\u11A8\u2F00\uFF76\uFF9E"
+      U"\u30FB\u00B7\u200B\uFE0F\u200D\U0001F469\u0438\u0306     .-\n\uFF01a\u30001";
   std::string text;
   for (std::size_t size = 3 + random() % 30; size > 0; --size)
-    text += pieces[random() % pieces.size()];
+    unicode::append(text, pieces[random() % pieces.size()]);
   return text;
 }
 
@@ -284,49 +224,7 @@ TEST(ReadableText, ReadingWhatIsReadableChangesNothing) {
 
 // Work that grows with the square of the length would take hours.
 TEST(ReadableText, LongTextsTakeNoLongTime) {
-  for (const char* unit : {"a",
-                           "accountx",
-                           "xyzzy plugh ",
-                           "plea sesend thegift ",
-                           "q x ",
-                           "a.",
-                           "a-",
-                           "a=",
-                           "a\n",
-                           "acc-\nount ",
-                           "1111a ",
-                           "111 ",
-                           "1.",
-                           "1,",
-                           "$1 ",
-                           "1 EUR ",
-                           "a.b@c.d?e",
-                           "a.b,",
-                           "a. ",
-                           "a.) ",
-                           "... ",
-                           "<",
-                           "a<",
-                           "\u0430",
-                           "\u04CF",
-                           "\u0430 ",
-                           "a\u0301",
-                           "a\u0301\u0302",
-                           "\U0001F1E6",
-                           "\u200B",
-                           "\uFF01",
-                           "- ",
-                           "-\n",
-                           "=\n> ",
-                           " ",
-                           "!",
-                           "a!",
-                           "a|",
-                           "\uAC00 ",
-                           "\uAC00.",
-                           "\uAC00\uB098 ",
-                           "\u304B\u3099",
-                           "\u1100\u1161"}) {
+  for (const std::string& unit : samplesIn("long-units.txt")) {
     std::string text;
     while (text.size() < 400'000)
       text += unit;

@@ -12,14 +12,17 @@
 #include "FakeDesktop.h"
 #include "Quillseal/BuiltInServer.h"
 #include "Quillseal/ServerClient.h"
+#include "SampleLines.h"
 #include "TaskResult.h"
 
 namespace quillseal {
 namespace {
 
+using ::testing::ElementsAre;
 using testing::FakeDesktop;
 using ::testing::HasSubstr;
 using ::testing::MatchesRegex;
+using ::testing::Pair;
 using testing::resultOf;
 
 class ServerClientTest : public ::testing::Test {
@@ -45,6 +48,12 @@ class ServerClientTest : public ::testing::Test {
     return std::get<Error>(resultOf(desktop_.loop, std::move(task)));
   }
 
+  /// The error of a signature: domain, code and words.
+  std::string refusal() {
+    const Error error = failureOf(client_.signContent(content()));
+    return error.domain() + " " + std::to_string(error.code()) + ": " + error.what();
+  }
+
   static ServerClient::Content content() {
     return {.textDigest = "T",
             .snapshotDigest = "",
@@ -65,15 +74,12 @@ class ServerClientTest : public ::testing::Test {
 };
 
 TEST_F(ServerClientTest, ReadsTheSettingsAfreshAndTrimmed) {
-  struct Case {
-    const char* setting;
-    std::string expected;
-  };
   const std::string fallback(BuiltInServer::url());
-  for (const Case& each : {Case{"", fallback}, Case{"   ", fallback}, Case{"\n", fallback},
-                           Case{" https://a.example/ ", "https://a.example/"}}) {
-    desktop_.defaults.strings["ServerURL"] = each.setting;
-    EXPECT_EQ(client_.effectiveServerURL(), each.expected);
+  const std::pair<const char*, std::string> cases[] = {
+      {"", fallback}, {"   ", fallback}, {"\n", fallback}, {" https://a/ ", "https://a/"}};
+  for (const auto& [setting, expected] : cases) {
+    desktop_.defaults.strings["ServerURL"] = setting;
+    EXPECT_EQ(client_.effectiveServerURL(), expected);
   }
   EXPECT_EQ(client_.effectiveAPIKey(), BuiltInServer::apiKey());
   desktop_.defaults.strings["APIKey"] = " abc ";
@@ -140,12 +146,11 @@ TEST_F(ServerClientTest, SendsEveryBodyByteForByte) {
     desktop_.http.answers["/" + each.path] = desktop_.http.answers.at(each.path);
     each.call();
     ASSERT_EQ(desktop_.http.sent.size(), 1U);
-    EXPECT_EQ(desktop_.http.sent[0].url, "https://a.example/" + each.path);
-    EXPECT_EQ(desktop_.http.sent[0].body, each.body);
-    EXPECT_EQ(
-        desktop_.http.sent[0].headers,
-        (std::vector<std::pair<std::string, std::string>>{{"Content-Type", "application/json"}}));
-    EXPECT_EQ(desktop_.http.sent[0].timeout, std::chrono::seconds(60));
+    const desktop::HttpPost& sent = desktop_.http.sent[0];
+    EXPECT_EQ(sent.url, "https://a.example/" + each.path);
+    EXPECT_EQ(sent.body, each.body);
+    EXPECT_THAT(sent.headers, ElementsAre(Pair("Content-Type", "application/json")));
+    EXPECT_EQ(sent.timeout, std::chrono::seconds(60));
   }
 }
 
@@ -160,19 +165,16 @@ TEST_F(ServerClientTest, WritesTheZonesOffsetInWholeMinutes) {
 }
 
 TEST_F(ServerClientTest, TellsTheServersRefusalsInItsOwnWords) {
+  const std::string unusable = std::string(desktop::transport::errorDomain) + " " +
+                               std::to_string(desktop::transport::badServerResponse) +
+                               ": The server gave no usable answer.";
   for (const int status : {100, 199, 300, 302, 400, 404, 409, 500}) {
     answer(status, R"({"error":"Device not enrolled \/ é"})");
-    const Error refusal = failureOf(client_.signContent(content()));
-    EXPECT_EQ(refusal.domain(), "Quillseal");
-    EXPECT_EQ(refusal.code(), status);
-    EXPECT_STREQ(refusal.what(), "Device not enrolled / é");
+    EXPECT_EQ(refusal(), "Quillseal " + std::to_string(status) + ": Device not enrolled / é");
     for (const char* body : {"", "<html>500</html>", "{}", R"({"error":null})", R"({"error":5})",
                              R"({"error":"x"}y)", "[\"error\"]"}) {
       answer(status, body);
-      const Error failure = failureOf(client_.signContent(content()));
-      EXPECT_EQ(failure.domain(), desktop::transport::errorDomain);
-      EXPECT_EQ(failure.code(), desktop::transport::badServerResponse);
-      EXPECT_STREQ(failure.what(), "The server gave no usable answer.");
+      EXPECT_EQ(refusal(), unusable);
     }
   }
 }
@@ -188,59 +190,52 @@ TEST_F(ServerClientTest, ShortensARefusalOfAMegabyte) {
 
 TEST_F(ServerClientTest, PassesTransportErrorsOn) {
   desktop_.http.failure = Error({.domain = "D", .code = 7, .description = "no network"});
-  const Error failure = failureOf(client_.signContent(content()));
-  EXPECT_EQ(failure.domain(), "D");
-  EXPECT_EQ(failure.code(), 7);
-  EXPECT_STREQ(failure.what(), "no network");
+  EXPECT_EQ(refusal(), "D 7: no network");
 }
 
-TEST_F(ServerClientTest, ReadsEveryAnswer) {
-  for (const int status : {200, 201, 299}) {
-    answer(status, R"({"signature_id":"a\/b","more":[1,{}]})");
-    EXPECT_EQ(valueOf(client_.signContent(content())), "a/b");
-  }
-  answer(200, R"({"demo":false,"signature_id":"d"})");
-  EXPECT_EQ(valueOf(client_.signDemo({})), "d");
-
-  answer(200, R"({"status":"registered","device_id":"D"})");
-  EXPECT_EQ(valueOf(client_.enrol({})).identity, std::nullopt);
-  answer(200, R"({"status":"registered","device_id":"D","identity":null})");
-  EXPECT_EQ(valueOf(client_.enrol({})).identity, std::nullopt);
-  answer(200, R"({"status":"registered","device_id":"D","identity":"Ada"})");
-  EXPECT_EQ(valueOf(client_.enrol({})).identity, "Ada");
-
-  answer(200, R"({"handoff_id":"h","url":"https:\/\/a\/handoff?h=h"})");
-  EXPECT_EQ(valueOf(client_.createHandoff({})).url, "https://a/handoff?h=h");
-  answer(200, R"({"status":"open"})");
-  EXPECT_EQ(valueOf(client_.pollHandoff({})).signatureId, std::nullopt);
-  answer(200, R"({"status":"complete","signature_id":"s"})");
-  EXPECT_EQ(valueOf(client_.pollHandoff({})).signatureId, "s");
-}
-
-TEST_F(ServerClientTest, NamesWhatAnAnswerLacks) {
-  struct Case {
-    const char* body;
-    const char* named;
+TEST_F(ServerClientTest, ReadsEveryAnswerOrNamesWhatItLacks) {
+  // What a call gives, as text, or the error.
+  const auto valueOr = [&](auto task, auto textOf) -> Outcome<std::string> {
+    auto outcome = resultOf(desktop_.loop, std::move(task));
+    if (const Error* error = std::get_if<Error>(&outcome)) return *error;
+    return textOf(std::get<0>(outcome));
   };
-  for (const Case& each :
-       {Case{"{}", "“signature_id”"}, Case{R"({"signature_id":null})", "“signature_id”"},
-        Case{R"({"signature_id":7})", "“signature_id”"}, Case{"<html>", "JSON"}, Case{"", "JSON"},
-        Case{R"({"signature_id":"s"} x)", "JSON"}}) {
-    answer(200, each.body);
-    const Error failure = failureOf(client_.signContent(content()));
-    EXPECT_EQ(failure.domain(), "NSCocoaErrorDomain");
-    EXPECT_THAT(failure.what(), HasSubstr(each.named)) << each.body;
-  }
-  const auto lacks = [&](auto task, const char* body, const char* named) {
+  const auto asItIs = [](const std::string& id) { return id; };
+  const std::map<std::string, std::function<Outcome<std::string>()>> calls{
+      {"sign", [&] { return valueOr(client_.signContent(content()), asItIs); }},
+      {"demo", [&] { return valueOr(client_.signDemo({}), asItIs); }},
+      {"enrol",
+       [&] {
+         return valueOr(client_.enrol({}),
+                        [](const auto& device) { return device.identity.value_or("nobody"); });
+       }},
+      {"create",
+       [&] {
+         return valueOr(client_.createHandoff({}), [](const auto& handoff) { return handoff.url; });
+       }},
+      {"poll",
+       [&] {
+         return valueOr(client_.pollHandoff({}),
+                        [](const auto& poll) { return poll.signatureId.value_or("waiting"); });
+       }},
+  };
+  for (const std::string& line : testing::linesOf(QUILLSEAL_TESTS "/server-answers.txt")) {
+    const auto [asked, expected] = testing::divided(line, " => ");
+    const auto [call, body] = testing::divided(asked, " ");
     answer(200, body);
-    EXPECT_THAT(std::get<Error>(resultOf(desktop_.loop, std::move(task))).what(), HasSubstr(named));
-  };
-  lacks(client_.signDemo({}), R"({"signature_id":"s"})", "“demo”");
-  lacks(client_.enrol({}), R"({"status":"s"})", "“device_id”");
-  lacks(client_.enrol({}), R"({"device_id":"d"})", "“status”");
-  lacks(client_.createHandoff({}), R"({"handoff_id":"h"})", "“url”");
-  lacks(client_.createHandoff({}), R"({"url":"u"})", "“handoff_id”");
-  lacks(client_.pollHandoff({}), R"({"signature_id":"s"})", "“status”");
+    const Outcome<std::string> outcome = calls.at(call)();
+    if (const Error* error = std::get_if<Error>(&outcome)) {
+      EXPECT_EQ(error->domain(), "NSCocoaErrorDomain");
+      EXPECT_TRUE(expected.starts_with('!')) << line;
+      EXPECT_THAT(error->what(), HasSubstr(expected.substr(1))) << line;
+    } else {
+      EXPECT_EQ(std::get<std::string>(outcome), expected) << line;
+    }
+  }
+  for (const int status : {201, 299}) {
+    answer(status, R"({"signature_id":"s"})");
+    EXPECT_EQ(valueOf(client_.signContent(content())), "s");
+  }
 }
 
 TEST_F(ServerClientTest, SendsNothingThatIsNoText) {

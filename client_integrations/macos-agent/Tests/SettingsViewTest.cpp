@@ -38,6 +38,7 @@ const std::string anonymous =
     "caption orange: No verified identity is bound to this Mac. Signatures will be shown to "
     "readers as \"anonymous human\" — proof that a person signed, but not who. That is not a basis "
     "for trusting a payment request.";
+const std::string enrol = "button Enrol This Mac", reenrol = "button Re-enrol This Mac";
 const std::string reenrolling =
     "caption secondary: Re-enrolling creates a NEW key. Signatures already made remain verifiable, "
     "but this Mac must be re-enrolled on the server.";
@@ -152,18 +153,12 @@ TEST_F(SettingsViewTest, TellsHowThisMachineSigns) {
     std::string identity, advice;
     Lines shown;
   } cases[] = {
-      {false, "", "", {notSetUp, anonymous, "button Enrol This Mac"}},
-      {false, "Ada", "", {notSetUp, attributed, "button Enrol This Mac"}},
-      {true, "", "", {enrolled, anonymous, "button Re-enrol This Mac", reenrolling}},
-      {true,
-       "Ada\u202E\n",
-       "",
-       {enrolled, attributed + "‹U+202E›‹U+000A›", "button Re-enrol This Mac", reenrolling}},
-      {true, "Ada", "", {enrolled, attributed, "button Re-enrol This Mac", reenrolling}},
-      {false,
-       "Ada",
-       "Plug it in.",
-       {notSetUp, attributed, "button Enrol This Mac", "caption orange: Plug it in."}},
+      {false, "", "", {notSetUp, anonymous, enrol}},
+      {false, "Ada", "", {notSetUp, attributed, enrol}},
+      {true, "", "", {enrolled, anonymous, reenrol, reenrolling}},
+      {true, "Ada\u202E\n", "", {enrolled, attributed + "‹U+202E›‹U+000A›", reenrol, reenrolling}},
+      {true, "Ada", "", {enrolled, attributed, reenrol, reenrolling}},
+      {false, "Ada", "Plug it in.", {notSetUp, attributed, enrol, "caption orange: Plug it in."}},
   };
   for (const auto& c : cases) {
     desktop_.keyStore.hasKey = c.hasKey;
@@ -198,8 +193,7 @@ TEST_F(SettingsViewTest, EnrolsOnceHoweverOftenTheButtonIsPressed) {
   EXPECT_EQ(count("create key"), 1);
   EXPECT_EQ(count("POST /api/register_native"), 1);
   EXPECT_THAT(desktop_.trace.back(), StartsWith("alert: ✅ This Mac Is Enrolled | "));
-  EXPECT_THAT(machine(),
-              ElementsAre(enrolled, attributed, "button Re-enrol This Mac", reenrolling));
+  EXPECT_THAT(machine(), ElementsAre(enrolled, attributed, reenrol, reenrolling));
 
   row<desktop::FormButton>("Re-enrol This Mac").pressed();
   desktop_.loop.run();

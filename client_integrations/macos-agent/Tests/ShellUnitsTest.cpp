@@ -136,15 +136,6 @@ TEST(HotkeyManager, StartsARunPerPressAndStaysInTheBackground) {
   EXPECT_THAT(desktop.trace, Not(Contains("activate Quillseal")));
 }
 
-TEST(AppDelegate, StartsInOrderAndAsksForNothing) {
-  FakeDesktop desktop;
-  desktop.keys.isPersonTrusting = false;
-  AppDelegate delegate(desktop.services());
-  delegate.applicationDidFinishLaunching();
-  desktop.loop.run();
-  EXPECT_THAT(desktop.trace, ElementsAre("become accessory", "menu", "hotkey ⌘⌥⌃H"));
-}
-
 TEST(AppDelegate, StartsAlsoWhenAnotherProgramHoldsTheKeys) {
   FakeDesktop desktop;
   desktop.hotkey.failure = Error({.domain = "x", .code = 1, .description = "Held by another."});
@@ -159,11 +150,13 @@ TEST(AppDelegate, StartsAlsoWhenAnotherProgramHoldsTheKeys) {
                           "ask for trust"));
 }
 
-TEST(AppDelegate, SharesOneCoordinatorBetweenMenuAndHotkey) {
+TEST(AppDelegate, StartsInOrderAndSharesOneCoordinatorBetweenMenuAndHotkey) {
   FakeDesktop desktop;
   desktop.keyStore.hasKey = false;
   AppDelegate delegate(desktop.services());
   delegate.applicationDidFinishLaunching();
+  desktop.loop.run();
+  EXPECT_THAT(desktop.trace, ElementsAre("become accessory", "menu", "hotkey ⌘⌥⌃H"));
   delegate.menuBarManager().signText();
   desktop.hotkey.pressed();
   desktop.loop.run();

@@ -1,13 +1,16 @@
 #include <algorithm>
-#include <cstdlib>
+#include <chrono>
 #include <functional>
-#include <iostream>
+#include <map>
 #include <memory>
 #include <optional>
 #include <set>
 #include <string>
+#include <utility>
+#include <variant>
 #include <vector>
 
+#include <fnmatch.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -16,24 +19,29 @@
 #include "Quillseal/CryptoManager.h"
 #include "Quillseal/SecureEnclaveManager.h"
 #include "Quillseal/SigningCoordinator.h"
+#include "SampleLines.h"
 #include "TaskResult.h"
 #include "core/signing/HandoffPage.h"
 #include "core/signing/SignedBlock.h"
 #include "core/text/Base64.h"
+#include "core/text/UnicodeText.h"
 
 namespace quillseal {
 namespace {
 
 using namespace std::chrono_literals;
 using ::testing::AllOf;
-using ::testing::AnyOf;
 using ::testing::Contains;
 using testing::Copy;
+using testing::divided;
 using ::testing::ElementsAre;
 using ::testing::EndsWith;
 using testing::FakeDesktop;
 using ::testing::HasSubstr;
+using testing::linesOf;
 using ::testing::Not;
+using testing::Record;
+using testing::splitAt;
 using ::testing::StartsWith;
 using testing::Text;
 using testing::Ticket;
@@ -87,7 +95,7 @@ struct Story : FakeDesktop {
                                  [&](const std::string& line) { return line.starts_with(start); });
   }
   std::optional<SigningCoordinator> coordinator{std::in_place, services()};
-  Ticket later;  ///< of the events meanwhile
+  std::vector<Ticket> later;  ///< of what happens meanwhile
 };
 
 class SigningCoordinatorTest : public ::testing::Test, protected Story {
@@ -111,16 +119,213 @@ class SigningCoordinatorTest : public ::testing::Test, protected Story {
     const std::string signature = base64(*SecureEnclaveManager::bytesFromHex(payload));
     EXPECT_THAT(body, HasSubstr("\"enclave_signature\":\"" + signature + "\""));
   }
-
-  /// Prints a story's trace if the environment asks for it.
-  void TearDown() override {
-    // NOLINTNEXTLINE(concurrency-mt-unsafe): single-threaded
-    if (std::getenv("QUILLSEAL_PRINT_TRACES") == nullptr) return;
-    std::cout << "── " << ::testing::UnitTest::GetInstance()->current_test_info()->name() << "\n";
-    for (const std::string& line : trace)
-      std::cout << "   " << line << "\n";
-  }
 };
+
+// Stories told in a file --------------------------------------------------------------------------
+
+using Field = std::variant<bool*, int*, std::string*, std::chrono::milliseconds*, Outcome<bool>*,
+                           std::optional<Copy>*, std::optional<Error>*,
+                           std::optional<desktop::RunningApplication>*,
+                           std::optional<desktop::InstalledApplication>*>;
+
+void set(bool& field, const std::string& value) {
+  field = value == "yes";
+}
+void set(int& field, const std::string& value) {
+  field = std::stoi(value);
+}
+void set(std::string& field, const std::string& value) {
+  field = value;
+}
+void set(std::chrono::milliseconds& field, const std::string& value) {
+  field = std::chrono::milliseconds(std::stoi(value));
+}
+void set(std::optional<Error>& field, const std::string& value) {
+  field = Error({.domain = "fake", .code = 1, .description = value});
+}
+/// "no", or the words of an error.
+void set(Outcome<bool>& field, const std::string& value) {
+  field = value == "no" ? Outcome<bool>(false) : Outcome<bool>(Record::error(value));
+}
+/// "none", "unreadable" or TEXT | HTML, where "concealed" stands for no HTML.
+void set(std::optional<Copy>& field, const std::string& value) {
+  const auto [plain, html] = divided(value, " | ");
+  field.reset();
+  if (value == "none") return;
+  field = Copy{.text = plain.empty() || value == "unreadable" ? std::nullopt : Text(plain),
+               .html = html.empty() ? std::nullopt : Text(html),
+               .isConcealed = html == "concealed"};
+}
+void set(std::optional<desktop::RunningApplication>& field, const std::string& name) {
+  field = name == "Chrome" ? chromeRunning : mail;
+  if (name == "Mail, another document") field->document = "Re: Rent";
+  if (name == "Terminal") field->categories = "System;TerminalEmulator;";
+  if (name == "Nameless") field->bundleIdentifier.reset();
+  if (name == "none") field.reset();
+}
+void set(std::optional<desktop::InstalledApplication>& field, const std::string& value) {
+  field = desktop::InstalledApplication{.location = value, .bundleIdentifier = {}};
+  if (value == "none") field.reset();
+}
+
+/// Sets what a line of a story names.
+void give(Story& d, const std::string& name, const std::string& value) {
+  const std::map<std::string, Field> fields{
+      {"active", &d.applications.active},
+      {"any browser opens", &d.applications.anyBrowserOpens},
+      {"browser opens", &d.applications.browserOpens},
+      {"chrome", &d.applications.chrome},
+      {"clipboard tells of changes", &d.pasteboard.tellsOfChanges},
+      {"copied elsewhere", &d.keys.copiedElsewhere},
+      {"copy takes", &d.keys.copyTime},
+      {"creation cancelled", &d.keyStore.cancelsCreation},
+      {"declined press", &d.keys.declinedPress},
+      {"default browser", &d.applications.defaultBrowser},
+      {"dialogs stay open", &d.alerts.leavesDialogsOpen},
+      {"enclave", &d.keyStore.canHoldKey},
+      {"entitlement missing", &d.keyStore.lacksEntitlement},
+      {"everything", &d.keys.everything},
+      {"front", &d.applications.front},
+      {"key", &d.keyStore.hasKey},
+      {"key refuses", &d.keyStore.signFailure},
+      {"key store fails", &d.keyStore.loadFailure},
+      {"keys held for", &d.keys.fingersLeave},
+      {"keys held up", &d.keys.heldUpBy},
+      {"obstacle", &d.pasteboard.obstacle},
+      {"presence", &d.presence.outcome},
+      {"second copy", &d.keys.secondThought},
+      {"selection", &d.keys.selection},
+      {"server takes", &d.http.takes},
+      {"trust", &d.keys.isPersonTrusting},
+  };
+  const auto [kind, which] = divided(name, " ");
+  if (const auto field = fields.find(name); field != fields.end()) {
+    std::visit([&](auto* found) { set(*found, value); }, field->second);
+  } else if (kind == "after") {
+    const auto [milliseconds, later] = divided(which, " ");
+    d.later.push_back(d.loop.after(std::chrono::milliseconds(std::stoi(milliseconds)),
+                                   [&d, later, value] { give(d, later, value); }));
+  } else if (kind == "before") {
+    const auto [keys, happening] = divided(which, " ");
+    const desktop::Key awaited = keys == "⌘C"   ? desktop::Key::c
+                                 : keys == "⌘A" ? desktop::Key::a
+                                                : desktop::Key::v;
+    const auto others = d.keys.beforePress;
+    d.keys.beforePress = [&d, others, awaited, happening, value](desktop::Key key) {
+      if (others) others(key);
+      if (key == awaited) give(d, happening, value);
+    };
+  } else if (kind == "ended") {
+    d.applications.ended = {mail.instance};
+  } else if (kind == "answers") {
+    auto& answers = d.http.answers[which];
+    answers.clear();
+    for (const std::string& answer : splitAt(value, " | "))
+      answers.push_back({std::stoi(answer), divided(answer, " ").second});
+  } else if (kind == "scripts") {
+    for (const std::string& result : splitAt(value, " | "))
+      d.scripts.results.push_back(result.starts_with('!')
+                                      ? Outcome<Text>(Record::error(result.substr(1)))
+                                      : Outcome<Text>(Text(result)));
+  } else if (kind == "flag") {
+    d.defaults.flags.insert(which);
+  } else if (kind == "setting") {
+    d.defaults.strings[which] = value;
+  } else if (kind == "answer") {
+    d.alerts.answer = value == "cancel" ? desktop::Answer::cancelled : desktop::Answer::confirmed;
+  } else if (kind == "confirmation") {
+    const auto [choice, entered] = divided(value, " | ");
+    d.alerts.confirmation = desktop::ConfirmationEntry{.choice = choice, .field = entered};
+  } else {
+    ADD_FAILURE() << "no story can set " << name;
+  }
+}
+
+std::string joined(const Lines& lines) {
+  std::string all;
+  for (const std::string& line : lines)
+    all += line + '\n';
+  return all;
+}
+
+/// What there is now, by the name that a story gives it.
+std::string stateOf(const Story& d, const std::string& name) {
+  const auto [kind, which] = divided(name, " ");
+  if (kind == "clipboard") return d.pasteboard.clipboard.text.value_or("none");
+  if (kind == "html") return d.pasteboard.clipboard.html.value_or("none");
+  if (kind == "elapsed") return std::to_string(d.loop.elapsed().count());
+  if (kind == "pasted") return joined(d.keys.pastedInto);
+  if (kind == "sent") return joined(d.http.sentTo(which));
+  if (kind == "setting") return d.defaults.strings.at(which);
+  if (kind == "file")
+    return d.files.contents.at("/home/ada/Library/Logs/Quillseal-signed-text.txt");
+  if (kind == "key") return d.keyStore.hasKey ? "yes" : "no";
+  if (kind == "running") return std::to_string(d.program.activities);
+  return "no story can look at " + name;
+}
+
+bool matches(const std::string& line, std::string pattern) {
+  pattern = unicode::replacingAll(unicode::replacingAll(pattern, "[", "[[]"), "?", "[?]");
+  return ::fnmatch(pattern.c_str(), line.c_str(), FNM_NOESCAPE) == 0;
+}
+
+/// What the agent did against what a story says; nothing is left of either.
+void compare(Story& d, Lines& told) {
+  std::erase_if(d.trace, [&](const std::string& line) {
+    return line.starts_with("log: ") &&
+           std::ranges::none_of(told, [&](const std::string& each) { return matches(line, each); });
+  });
+  const bool isTold = std::ranges::equal(d.trace, told, matches);
+  EXPECT_TRUE(told.empty() || isTold) << "It did\n" << joined(d.trace) << "not\n" << joined(told);
+  told.clear();
+  d.trace.clear();
+}
+
+TEST(SigningStories, GoAsTold) {
+  std::optional<Story> story;
+  std::string title;
+  Lines told;
+  TaskScope enrolments;
+  Lines lines = linesOf(QUILLSEAL_TESTS "/signing-stories.txt");
+  lines.emplace_back("[end]");
+  for (std::string& line : lines) {
+    for (const auto& [name, value] : {std::pair{"{text}", text},
+                                      {"{subject}", subject},
+                                      {"{digest}", digest},
+                                      {"{link}", base64Url(text)},
+                                      {"{images}", CryptoManager::imageManifestDigest({"a.png"})}})
+      line = unicode::replacingAll(line, name, value);
+    if (line.starts_with("> ")) {
+      told.push_back(line.substr(2));
+      continue;
+    }
+    SCOPED_TRACE(title + " before " + line);
+    if (!told.empty()) compare(*story, told);
+    const std::size_t sign = std::min({line.find(" = "), line.find(" == "), line.find(" ~ ")});
+    const std::string name = line.substr(0, sign);
+    const std::string value =
+        sign == std::string::npos ? "" : line.substr(line.find(' ', sign + 1) + 1);
+    if (line.starts_with('[')) {
+      title = line;
+      story.emplace();
+    } else if (line == "sign") {
+      story->sign();
+    } else if (line == "start") {
+      story->coordinator->startSigning();
+    } else if (line == "enrol") {
+      enrolments.start(story->coordinator->enrolDevice());
+      story->loop.run();
+    } else if (line.substr(sign, 3) == " = ") {
+      give(*story, name, value);
+    } else if (line.substr(sign, 3) == " ~ ") {
+      EXPECT_THAT(stateOf(*story, name), HasSubstr(value));
+    } else {
+      EXPECT_EQ(stateOf(*story, name), value);
+    }
+  }
+}
+
+// Runs one by one ---------------------------------------------------------------------------------
 
 TEST_F(SigningCoordinatorTest, SignsWithTheDeviceKey) {
   defaults.strings["BoundIdentity"] = "Ada";
@@ -139,160 +344,7 @@ TEST_F(SigningCoordinatorTest, SignsWithTheDeviceKey) {
   expectSigned({.scope = "Email Message (Mail)", .identity = "Ada"});
 }
 
-TEST_F(SigningCoordinatorTest, MakesADemonstrationRecord) {
-  defaults.flags = {"DemoSigning"};
-  sign();
-  EXPECT_THAT(userTrace(),
-              ElementsAre("press ⌘C", "presence: Sign " + subject, "POST /api/sign_demo",
-                          "write clipboard", "press ⌘V", notification));
-  EXPECT_THAT(trace, Contains("log: [demo] simulated signature demo-1 — not evidence of anything"));
-  EXPECT_THAT(http.sentTo("/api/sign_demo").front(), HasSubstr("\"method\":\"Touch ID\""));
-}
-
-TEST_F(SigningCoordinatorTest, SignsInTheBrowserAndPastesElsewhere) {
-  // Long enough for the heap, where destroying a string twice does harm.
-  const std::string html = "<p>x</p><p>long enough</p>";
-  keys.selection->html = html;
-  signInBrowser();
-  EXPECT_THAT(userTrace(),
-              ElementsAre("press ⌘C", "POST /api/handoff/create",
-                          "open https://seal.example/handoff?h=H1#t=" + base64Url(text) +
-                              "&h=" + base64Url(html) + " with Chrome.app",
-                          "POST /api/handoff/poll", "POST /api/handoff/poll", "write clipboard",
-                          "press ⌘V", notification));
-  EXPECT_THAT(trace, Contains("log: [handoff] fragment 156 chars (text 87, html 26)"));
-  EXPECT_THAT(*pasteboard.clipboard.html, HasSubstr("</span>" + html + "<span"));
-}
-
-TEST_F(SigningCoordinatorTest, ReturnsToTheTabTheTextCameFrom) {
-  applications.front = applications.active = chromeRunning;
-  for (const std::string id : {"42", "4\" is \"4", ""}) {
-    trace.clear();
-    scripts.results = {Text(id), Text("true")};
-    signInBrowser();
-    EXPECT_THAT(trace, Contains("script: tell application \"Google Chrome\" to return id of active "
-                                "tab of front window"));
-    const bool isSafe = id == "42";
-    EXPECT_THAT(trace, Contains(AllOf(HasSubstr("contains \"/handoff?h=H1\" then"),
-                                      HasSubstr(isSafe ? "is \"42\" then" : "if \"\" is not"))));
-    EXPECT_THAT(trace, Contains("log: [tabreturn] signing tab closed, original tab restored"));
-    EXPECT_EQ(trace.back(), notification);
-  }
-}
-
-TEST_F(SigningCoordinatorTest, LeavesTheBlockOnTheClipboardWhenTheTabIsLost) {
-  applications.front = applications.active = chromeRunning;
-  scripts.results = {Error({.domain = "AS", .code = -1743, .description = "Not authorised"}),
-                     Text("false")};
-  signInBrowser();
-  EXPECT_THAT(trace, Contains("log: [tabreturn] AppleScript failed: Not authorised"));
-  EXPECT_EQ(trace.back(),
-            "alert: Signed — Paste It Into Your Message | The signed content is on your "
-            "clipboard.\n\nSwitch back to your message in Google Chrome, select the text you "
-            "signed, and press ⌘V.\n\nQuillseal cannot paste it for you here: the signing page "
-            "opened in the same browser, so it would land in the wrong tab.");
-  EXPECT_THAT(trace, Not(Contains("press ⌘V")));
-  EXPECT_TRUE(wroteBlock());
-
-  // Two programs without an identifier do not count as the same.
-  applications.front->bundleIdentifier = applications.active->bundleIdentifier = std::nullopt;
-  applications.defaultBrowser->bundleIdentifier = std::nullopt;
-  signInBrowser();
-  EXPECT_EQ(trace.back(), notification);
-}
-
-TEST_F(SigningCoordinatorTest, SendsTextAndImagesInEveryMode) {
-  const std::string images = CryptoManager::imageManifestDigest({"a.png"});
-  for (const char* path : {"/api/sign_native", "/api/sign_demo", "/api/handoff/create"}) {
-    Story d;
-    d.keys.selection->html = "<img src=a.png>";
-    d.keyStore.hasKey = path == std::string_view("/api/sign_native");
-    if (path == std::string_view("/api/sign_demo")) d.defaults.flags = {"DemoSigning"};
-    d.defaults.strings["SigningMode"] = "handoff";
-    d.sign();
-    ASSERT_EQ(d.http.sentTo(path).size(), 1U);
-    EXPECT_THAT(d.http.sentTo(path).front(), AllOf(HasSubstr("\"text_digest\":\"" + digest + "\""),
-                                                   HasSubstr("\"image_digest\":\"" + images + "\""),
-                                                   HasSubstr("\"scope\":\"Email Message (Mail)\"")))
-        << path;
-  }
-}
-
-// On a desktop where only the waits take time.
-TEST_F(SigningCoordinatorTest, PausesAsLongAsOtherProgramsNeed) {
-  constexpr auto plain = 40ms + 80ms;  // for the copy and events that follow it
-  const struct {
-    std::string name;
-    std::function<void(Story&)> given;
-    std::chrono::milliseconds expected;
-  } cases[] = {
-      {"plain", [](Story&) {}, plain},
-      {"polled", [](Story& d) { d.pasteboard.tellsOfChanges = false; }, plain + 20ms},
-      {"nothing selected",
-       [](Story& d) { d.keys.everything = std::exchange(d.keys.selection, std::nullopt); },
-       1200ms + 250ms + plain},
-      {"behind a window", [](Story& d) { d.applications.active.reset(); }, 350ms + plain},
-      {"left meanwhile",
-       [](Story& d) {
-         d.http.takes = 1s;
-         d.loop.post([&d] {
-           d.later = d.loop.after(500ms, [&d] { d.applications.active = chromeRunning; });
-         });
-       },
-       plain + 1s + 350ms},
-      {"in the browser", [](Story& d) { d.inBrowser(); }, plain + 2 * 2s},
-      {"in the same browser",
-       [](Story& d) {
-         d.applications.front = d.applications.active = chromeRunning;
-         d.inBrowser();
-       },
-       plain + 2 * 2s + 500ms},
-  };
-  for (const auto& c : cases) {
-    Story d;
-    c.given(d);
-    d.sign();
-    EXPECT_EQ(d.trace.back(), notification) << c.name;
-    EXPECT_EQ(d.loop.elapsed(), c.expected) << c.name;
-  }
-}
-
-TEST_F(SigningCoordinatorTest, LetsOthersGoOnWhileADialogIsOpen) {
-  const struct {
-    std::string alert;
-    std::function<void(Story&)> given;
-  } cases[] = {
-      {"alert: No Text Found", [](Story& d) { d.keys.selection.reset(); }},
-      {"alert: Signed — Paste It",
-       [](Story& d) { d.applications.front->categories = "TerminalEmulator;"; }},
-      {"alert: Signed — Paste It",
-       [](Story& d) {
-         d.applications.front = d.applications.active = chromeRunning;
-         d.scripts.results = {Text("1"), Text("false")};
-         d.inBrowser();
-       }},
-      {"alert: Could Not Set Up",
-       [](Story& d) {
-         d.keyStore.hasKey = false;
-         d.defaults.strings["SigningMode"] = "enclave";
-         d.http.answers["/api/register_native"].push_front({500, R"({"error":"Not now."})"});
-       }},
-  };
-  for (const auto& c : cases) {
-    Story d;
-    c.given(d);
-    d.alerts.leavesDialogsOpen = true;
-    d.sign();
-    EXPECT_THAT(d.trace.back(), StartsWith(c.alert));
-    d.alerts.leavesDialogsOpen = false;
-    d.applications.front = d.applications.active = mail;
-    d.keys.selection = Copy{.text = text, .html = {}};
-    d.sign();
-    EXPECT_EQ(d.trace.back(), notification) << c.alert;
-  }
-}
-
-// So that screening a long text does not block the event loop.
+// So that the event loop goes on during the screening of a long text.
 TEST_F(SigningCoordinatorTest, ScreensOnAnotherThread) {
   keys.selection->text = "I approve the payment of the invoice that Grace sent us on 3 May 2026.";
   coordinator->startSigning();
@@ -301,119 +353,6 @@ TEST_F(SigningCoordinatorTest, ScreensOnAnotherThread) {
   EXPECT_EQ(count("log: [risk] "), 0);
   loop.run();
   EXPECT_EQ(count("log: [risk] "), 1);
-}
-
-TEST_F(SigningCoordinatorTest, StopsWaitingForTheBrowser) {
-  http.answers["/api/handoff/poll"] = {{200, R"({"status":"complete"})"}};
-  signInBrowser();
-  EXPECT_THAT(trace.back(), StartsWith("alert: Still Waiting | Quillseal stopped waiting"));
-  EXPECT_EQ(http.sentTo("/api/handoff/poll").size(), 285U);
-  EXPECT_GE(loop.elapsed(), 570s);
-  EXPECT_FALSE(wroteBlock());
-}
-
-TEST_F(SigningCoordinatorTest, OpensWhicheverBrowserThereIs) {
-  applications.chrome =
-      desktop::InstalledApplication{.location = "Preferred.app", .bundleIdentifier = {}};
-  applications.browserOpens = false;
-  signInBrowser();
-  EXPECT_THAT(trace, Contains(EndsWith(" with Preferred.app")));
-  EXPECT_THAT(trace, Contains("open https://seal.example/handoff?h=H1#t=" + base64Url(text)));
-  applications.anyBrowserOpens = false;
-  signInBrowser();
-  EXPECT_EQ(trace.back(), "alert: Signing Error | There is no browser.");
-  applications.anyBrowserOpens = true;
-  applications.chrome = applications.defaultBrowser = std::nullopt;
-  trace.clear();
-  signInBrowser();
-  EXPECT_THAT(trace, Contains("open https://seal.example/handoff?h=H1#t=" + base64Url(text)));
-}
-
-struct EarlyStop {
-  std::string name;
-  std::function<void(Story&)> given;
-  std::string lastLine;
-};
-
-const std::string noText =
-    "alert: No Text Found | Please type or highlight some text in Outlook (or any app) before "
-    "pressing ⌘⌥⌃H.";
-
-TEST_F(SigningCoordinatorTest, StopsEarlyAndTellsWhy) {
-  const EarlyStop cases[] = {
-      {"no trust", [](Story& d) { d.keys.isPersonTrusting = false; }, "ask for trust"},
-      {"no enclave", [](Story& d) { d.keyStore.canHoldKey = false; },
-       "alert: Secure Enclave Required | This Mac has no Secure Enclave, so content cannot be "
-       "signed in a way that proves a person authorized it."},
-      {"no text", [](Story& d) { d.keys.selection = std::nullopt; }, noText},
-      {"secret",
-       [](Story& d) {
-         d.keys.everything = d.keys.selection;
-         d.keys.selection->isConcealed = true;
-       },
-       noText},
-      {"nothing in front",
-       [](Story& d) {
-         d.applications.front = d.applications.active = std::nullopt;
-         d.keys.declinedPress = 1;
-       },
-       noText},
-      {"too short", [](Story& d) { d.keys.selection->text = "Only four words here"; },
-       "alert: Not signed — too short | Only 4 words. Write at least 10."},
-      {"cancelled confirmation", [](Story& d) { d.defaults.flags = {"ConfirmBeforeSigning"}; },
-       "confirm: Sign this content? [Sign with Touch ID] [Cancel], preset Email Message (Apple "
-       "Mail)"},
-      {"refused by the key", [](Story& d) { d.keyStore.signFailure = Error(Error::Fields{}); },
-       "alert: Signing Error | Secure Enclave signing failed: user cancelled or biometric failed"},
-      {"refused by the server",
-       [](Story& d) {
-         d.http.answers["/api/sign_native"] = {{403, R"({"error":"No."})"}};
-       },
-       "alert: Signing Error | No."},
-      {"unreadable key store",
-       [](Story& d) {
-         d.keyStore.loadFailure =
-             Error({.domain = "OSStatus", .code = -25291, .description = "No keychain."});
-       },
-       "alert: Signing Error | No keychain."},
-      {"cancelled key creation",
-       [](Story& d) {
-         d.keyStore.hasKey = false;
-         d.keyStore.cancelsCreation = true;
-       },
-       "log: [sign] called off by the user"},
-      {"demonstration without presence",
-       [](Story& d) {
-         d.defaults.flags = {"DemoSigning"};
-         d.presence.outcome = false;
-       },
-       "presence: Sign " + subject},
-      {"demonstration called off",
-       [](Story& d) {
-         d.defaults.flags = {"DemoSigning"};
-         d.presence.outcome =
-             Error({.domain = "LA", .code = -2, .description = "Canceled by user."});
-       },
-       "alert: Signing Error | Canceled by user."},
-      {"expired in the browser",
-       [](Story& d) {
-         d.defaults.strings["SigningMode"] = "handoff";
-         d.keyStore.hasKey = false;
-         d.http.answers["/api/handoff/poll"] = {{200, R"({"status":"expired"})"}};
-       },
-       "alert: Signing Request Expired | The request timed out before it was signed. Nothing was "
-       "signed. Select your text and press ⌘⌥⌃H again."},
-  };
-  for (const EarlyStop& c : cases) {
-    Story d;
-    c.given(d);
-    d.sign();
-    EXPECT_EQ(d.trace.back(), c.lastLine) << c.name;
-    EXPECT_THAT(d.trace, Not(Contains(AnyOf("write clipboard", "create key", "delete key",
-                                            "POST /api/register_native"))))
-        << c.name;
-    EXPECT_EQ(d.program.activities, 0) << c.name;
-  }
 }
 
 TEST_F(SigningCoordinatorTest, KeepsTheSystemFromSlowingItDownForTheLengthOfARun) {
@@ -426,73 +365,25 @@ TEST_F(SigningCoordinatorTest, KeepsTheSystemFromSlowingItDownForTheLengthOfARun
   EXPECT_EQ(program.activities, 0);
 }
 
-TEST_F(SigningCoordinatorTest, SelectsNothingMoreWhenTheCopyMayNotBeRead) {
-  keys.selection->text.reset();
-  pasteboard.obstacle = "the user is asked each time";
-  keys.heldUpBy = "secure input is on";
-  sign();
-  EXPECT_THAT(trace,
-              ElementsAre("press ⌘C", "log: [capture] key presses are held up: secure input is on",
-                          "log: [capture] the clipboard may not be readable: the user is "
-                          "asked each time",
-                          noText));
+TEST_F(SigningCoordinatorTest, StopsWaitingForTheBrowser) {
+  http.answers["/api/handoff/poll"] = {{200, R"({"status":"complete"})"}};
+  signInBrowser();
+  EXPECT_THAT(trace.back(), StartsWith("alert: Still Waiting | Quillseal stopped waiting"));
+  EXPECT_EQ(http.sentTo("/api/handoff/poll").size(), 285U);
+  EXPECT_GE(loop.elapsed(), 570s);
+  EXPECT_FALSE(wroteBlock());
 }
 
-TEST_F(SigningCoordinatorTest, ScreensTheText) {
-  keys.selection->text =
-      "Please wire the money to the new account today, IBAN DE89 3704 0044 0532 0130 00, thank "
-      "you.";
-  sign();
-  EXPECT_THAT(trace, Contains(StartsWith("log: [risk] score ")));
-  EXPECT_THAT(trace.back(), StartsWith("alert: Not signed"));
-
-  keys.selection->text =
-      "Our bank details have changed since the last order of 40 chairs; ask Grace about the rest.";
-  alerts.answer = desktop::Answer::cancelled;
-  sign();
-  EXPECT_THAT(trace.back(), StartsWith("ask: Sign this anyway? | •  "));
-  EXPECT_THAT(trace.back(), EndsWith("Signing says YOU wrote this. [Sign Anyway] [Cancel]"));
-  alerts.answer = desktop::Answer::confirmed;
-  sign();
-  EXPECT_EQ(trace.back(), notification);
-}
-
-TEST_F(SigningCoordinatorTest, ScreensTheTextAsItIsReadUnlessItIsRefusedAsItIsWritten) {
-  const std::string harmless = ", it is for the order of 40 chairs that Grace sent us on 3 May.";
-  const auto riskLines = [&] { return count("log: [risk] score "); };
-
-  keys.selection->text = "I ap\u200Bprove the pay\u200Bment" + harmless;
-  sign();
-  EXPECT_THAT(trace, Contains("log: [risk] score 100, 1 finding(s): pay-authorise-noun"));
-  EXPECT_EQ(riskLines(), 1);
-  EXPECT_THAT(trace.back(),
-              StartsWith("alert: Not signed — payment instructions cannot be signed | •  Payment "
-                         "instruction — authorises a payment"));
-
-  // Refused as written: the second screening is not needed.
-  trace.clear();
-  keys.selection->text = "I approve the payment" + harmless + " Con\u200Bfirm your pass\u200Bword.";
-  sign();
-  EXPECT_EQ(riskLines(), 1);
-
-  // Both log lines, and the alert of the stronger assessment.
-  trace.clear();
-  keys.selection->text =
-      "Our b\u200Bank details have changed, see http://192.168.4.7/a today" + harmless;
-  alerts.answer = desktop::Answer::cancelled;
-  sign();
-  EXPECT_THAT(trace, Contains("log: [risk] score 45, 1 finding(s): url-ip-literal"));
-  EXPECT_EQ(riskLines(), 2);
-  EXPECT_THAT(trace.back(), StartsWith("alert: Not signed — this looks like a scam"));
-}
-
-TEST_F(SigningCoordinatorTest, SignsTheScopeThatWasConfirmed) {
+TEST_F(SigningCoordinatorTest, MendsWhatIsNoUtf8) {
+  keys.selection = Copy{.text = text + "\xC3", .html = "<p>\xFF</p>"};
   defaults.flags = {"ConfirmBeforeSigning"};
   alerts.confirmation = desktop::ConfirmationEntry{.choice = "LinkedIn Post", .field = " Ada\xFF "};
   sign();
-  EXPECT_THAT(http.sentTo("/api/sign_native").front(),
-              HasSubstr("\"scope\":\"LinkedIn Post → Ada\uFFFD\""));
-  EXPECT_THAT(*pasteboard.clipboard.text, HasSubstr("· LinkedIn Post → Ada\uFFFD · 1 March 2026"));
+  const std::string scope = "LinkedIn Post → Ada\uFFFD";
+  EXPECT_THAT(http.sentTo("/api/sign_native").front(), HasSubstr("\"scope\":\"" + scope + "\""));
+  EXPECT_THAT(*pasteboard.clipboard.text, StartsWith("『" + text + "\uFFFD』"));
+  EXPECT_THAT(*pasteboard.clipboard.text, HasSubstr("· " + scope + " · 1 March 2026"));
+  EXPECT_THAT(*pasteboard.clipboard.html, HasSubstr("<p>\uFFFD</p>"));
 }
 
 TEST_F(SigningCoordinatorTest, RefusesIdentifiersThatCouldBreakOut) {
@@ -601,8 +492,6 @@ TEST_F(SigningCoordinatorTest, LeavesLongHtmlOutOfTheSigningPage) {
   EXPECT_EQ(trace.back(), notification);
 }
 
-// Capture -----------------------------------------------------------------------------------------
-
 TEST_F(SigningCoordinatorTest, GivesTheRtfOfItsOwnCopyWhenAskedForIt) {
   keys.selection->rtf = "{\\rtf1 copied}";
   const auto capture = std::get<AccessibilityManager::Capture>(testing::resultOf(
@@ -617,254 +506,10 @@ TEST_F(SigningCoordinatorTest, GivesTheRtfOfItsOwnCopyWhenAskedForIt) {
   };
   EXPECT_EQ(rtf(), "{\\rtf1 copied}");
   const Copy other{.text = "x", .html = {}, .rtf = "{\\rtf1 of something else}"};
-  later = loop.after(1ms, [&] { pasteboard.put(other); });
+  later.push_back(loop.after(1ms, [&] { pasteboard.put(other); }));
   EXPECT_EQ(rtf(), std::nullopt);
   EXPECT_EQ(rtf(), std::nullopt);
   EXPECT_THAT(trace, ElementsAre("press ⌘C", "fetch RTF", "fetch RTF"));
-}
-
-TEST_F(SigningCoordinatorTest, SignsTheSelectionOrElseAll) {
-  const std::string more = text + " The rest.";
-  const struct {
-    std::string name;
-    std::function<void(Story&)> given;
-    std::string signedText;
-  } cases[] = {
-      {"only blanks", [](Story& d) { d.keys.selection->text = " \n\u00A0"; }, more},
-      {"nothing", [](Story& d) { d.keys.selection.reset(); }, more},
-      {"only HTML", [](Story& d) { d.keys.selection->text.reset(); }, more},
-      {"copied before the keys are pressed",
-       [](Story& d) {
-         d.keys.copiedElsewhere = Copy{.text = text + " So says another.", .html = {}};
-         d.keys.fingersLeave = 300ms;
-         d.keys.selection.reset();
-       },
-       more},
-      {"the last of two quick changes",
-       [](Story& d) {
-         d.keys.secondThought = Copy{.text = text + " Indeed.", .html = "<p>\xFF</p>"};
-       },
-       text + " Indeed."},
-      {"copied at once", [](Story& d) { d.keys.copyTime = 0ms; }, text},
-      {"copied at the last look",
-       [](Story& d) {
-         d.keys.copyTime = 1190ms;
-         d.pasteboard.tellsOfChanges = false;
-       },
-       text},
-      {"ill-formed", [](Story& d) { d.keys.selection->text = text + "\xC3"; }, text + "\uFFFD"},
-  };
-  for (const auto& c : cases) {
-    Story d;
-    d.keys.everything = Copy{.text = more, .html = {}};
-    d.keys.selection->html = "<p>\xFF</p>";
-    c.given(d);
-    d.sign();
-    EXPECT_THAT(*d.pasteboard.clipboard.text, StartsWith("『" + c.signedText + "』")) << c.name;
-    const bool isAll = c.signedText == more;
-    EXPECT_EQ(d.count("log: [capture] no selection; selecting all"), isAll) << c.name;
-    EXPECT_THAT(*d.pasteboard.clipboard.html, HasSubstr(isAll ? "The rest." : "<p>\uFFFD</p>"));
-  }
-}
-
-// Events while the key press waits.
-TEST_F(SigningCoordinatorTest, CopiesFromAndPastesIntoNothingElse) {
-  const std::string switchBack =
-      "Switch back to your message in Mail, select the text you signed, and press ⌘V.\n\nQuillseal "
-      "did not paste it for you: ";
-  const struct {
-    std::function<void(Story&)> happening;
-    std::string onCopy, onPaste;
-  } cases[] = {
-      {[](Story& d) { d.applications.ended = {mail.instance}; }, "the window was closed",
-       "Open your message again in Mail, select the text you signed, and press ⌘V.\n\nQuillseal "
-       "did not paste it for you: the window that you signed in is closed."},
-      {[](Story& d) { d.applications.front = d.applications.active = chromeRunning; },
-       "another window came to the front",
-       switchBack + "another window is in front, so it would land in the wrong place."},
-      {[](Story& d) { d.applications.active->document = "Re: Rent"; },
-       "the window showed another document or tab",
-       switchBack +
-           "the window shows another document or tab than the one you signed in, so it would land "
-           "in the wrong place."},
-  };
-  for (const auto& c : cases) {
-    for (const desktop::Key when : {desktop::Key::c, desktop::Key::a, desktop::Key::v}) {
-      for (const bool inBrowser : {false, true}) {
-        Story d;
-        if (inBrowser) d.inBrowser();
-        d.keys.everything = d.keys.selection;
-        if (when == desktop::Key::a) d.keys.selection.reset();
-        d.keys.beforePress = [&](desktop::Key key) {
-          if (key == when) c.happening(d);
-        };
-        d.sign();
-        EXPECT_THAT(d.keys.pastedInto, ElementsAre());
-        EXPECT_THAT(d.trace, Not(Contains("press ⌘A")));
-        EXPECT_EQ(d.wroteBlock(), when == desktop::Key::v);
-        EXPECT_EQ(d.count("press ⌘C"), when != desktop::Key::c);
-        EXPECT_EQ(
-            d.trace.back(),
-            d.wroteBlock()
-                ? "alert: Signed — Paste It Into Your Message | The signed content is on your "
-                  "clipboard.\n\n" +
-                      c.onPaste
-                : "alert: Not Signed | Nothing was signed: " + c.onCopy +
-                      " before the text was copied.\n\nGo back to your text, select it and "
-                      "press ⌘⌥⌃H again.");
-      }
-    }
-  }
-}
-
-TEST_F(SigningCoordinatorTest, PastesIntoNoTerminal) {
-  applications.front->categories = applications.active->categories = "System;TerminalEmulator;";
-  sign();
-  EXPECT_THAT(trace.back(), EndsWith("a shell there would run each line as a command."));
-  EXPECT_EQ(count("log: [inject] signed block left on the clipboard; the source is a terminal"), 1);
-  EXPECT_TRUE(keys.pastedInto.empty() && wroteBlock());
-}
-
-TEST_F(SigningCoordinatorTest, TakesTheApplicationBehindItsOwnWindows) {
-  applications.active.reset();
-  sign();
-  EXPECT_EQ(userTrace().front(), "activate Mail");
-  EXPECT_THAT(keys.pastedInto, ElementsAre("Mail"));
-
-  // After a window has closed, the one behind it takes a moment to become active.
-  applications.front = applications.active = std::nullopt;
-  later = loop.after(200ms, [this] { applications.front = applications.active = mail; });
-  sign();
-  EXPECT_THAT(*pasteboard.clipboard.text, HasSubstr("QUILLSEAL · Email Message (Mail) · "));
-
-  applications.front = applications.active = std::nullopt;
-  sign();
-  EXPECT_THAT(*pasteboard.clipboard.text, HasSubstr("QUILLSEAL · Public Broadcast · "));
-  EXPECT_EQ(count("activate Mail"), 1);
-}
-
-TEST_F(SigningCoordinatorTest, KeepsACopyForDebuggingEvenOfWhatIsRefused) {
-  defaults.flags = {"QuillsealDebugCapture"};
-  keys.selection->text = "  too short ";
-  sign();
-  EXPECT_EQ(files.contents["/home/ada/Library/Logs/Quillseal-signed-text.txt"], "too short");
-  EXPECT_THAT(trace, Contains("log: [sign] captured text written to "
-                              "/home/ada/Library/Logs/Quillseal-signed-text.txt"));
-}
-
-// Modes, enrolment and recovery -------------------------------------------------------------------
-
-TEST_F(SigningCoordinatorTest, MakesAKeyOnTheFirstRun) {
-  keyStore.hasKey = false;
-  http.answers["/api/sign_native"] = {{404, R"({"error":"Device NOT Registered."})"},
-                                      {200, R"({"signature_id":"sig-2"})"}};
-  sign();
-  EXPECT_THAT(userTrace(),
-              ElementsAre("create key", "set SigningMode = enclave", "press ⌘C",
-                          "prompt: Sign " + subject + " as an anonymous human",
-                          "POST /api/sign_native", "POST /api/register_native",
-                          "set BoundIdentity = Ada", "prompt: Sign " + subject + " as Ada",
-                          "POST /api/sign_native", "write clipboard", "press ⌘V", notification));
-  // A mode that is not in the settings does not send the text to the browser.
-  keyStore.hasKey = false;
-  defaults.strings["SigningMode"] = "unknown";
-  sign();
-  EXPECT_EQ(count("create key"), 2);
-}
-
-TEST_F(SigningCoordinatorTest, RetriesOnceOnly) {
-  http.answers["/api/sign_native"] = {{404, R"({"error":"device not enrolled"})"}};
-  sign();
-  EXPECT_EQ(http.sentTo("/api/sign_native").size(), 2U);
-  EXPECT_EQ(trace.back(), "alert: Signing Error | device not enrolled");
-  http.answers["/api/register_native"] = {{500, R"({"error":"unenrolled"})"}};
-  sign();
-  EXPECT_EQ(trace.back(), "alert: Signing Error | unenrolled");
-  EXPECT_FALSE(SigningCoordinator::isDeviceNotEnrolled("unenrolled"));
-}
-
-TEST_F(SigningCoordinatorTest, FallsBackToTheBrowserForGood) {
-  keyStore.hasKey = false;
-  keyStore.lacksEntitlement = true;
-  sign();
-  EXPECT_EQ(defaults.strings["SigningMode"], "handoff");
-  EXPECT_THAT(userTrace(), Contains("delete key"));
-  EXPECT_EQ(trace.back(), notification);
-}
-
-TEST_F(SigningCoordinatorTest, TellsWhenThisMachineCannotBeSetUp) {
-  keyStore.hasKey = false;
-  defaults.strings = {{"SigningMode", "enclave"}, {"ServerURL", " https://own.example "}};
-  http.answers["/api/register_native"] = {{503, R"({"error":"Closed."})"}};
-  sign();
-  EXPECT_THAT(userTrace(),
-              ElementsAre("create key", "POST /api/register_native", "delete key",
-                          "alert: Could Not Set Up This Mac | Quillseal could not register this "
-                          "Mac with https://own.example.\n\nClosed."));
-}
-
-TEST_F(SigningCoordinatorTest, EnrolsOnRequest) {
-  TaskScope scope;
-  scope.start(coordinator->enrolDevice());
-  loop.run();
-  EXPECT_EQ(trace.back(),
-            "alert: ✅ This Mac Is Enrolled | A signing key was created inside the Secure Enclave. "
-            "It cannot be copied off this Mac, and every signature requires Touch ID.\n\n"
-            "Signatures will be attributed to Ada.");
-  keyStore.lacksEntitlement = true;
-  scope.start(coordinator->enrolDevice());
-  loop.run();
-  EXPECT_THAT(trace.back(),
-              StartsWith("alert: Enrolment Failed | Could not create the Secure Enclave signing "
-                         "key: this build is not code-signed"));
-  EXPECT_FALSE(keyStore.hasKey);
-}
-
-// Several runs, quitting and failing desktops -----------------------------------------------------
-
-TEST_F(SigningCoordinatorTest, TwoRunsKeepToTheirOwnTabs) {
-  keyStore.hasKey = false;
-  defaults.strings["SigningMode"] = "handoff";
-  applications.front = applications.active = chromeRunning;
-  http.answers["/api/handoff/create"] = {
-      {200, R"({"handoff_id":"H1","url":"https://s/handoff?h=H1"})"},
-      {200, R"({"handoff_id":"H2","url":"https://s/handoff?h=H2"})"}};
-  http.answers["/api/handoff/poll"] = {{200, R"({"status":"complete","signature_id":"w"})"}};
-  coordinator->startSigning();
-  coordinator->startSigning();
-  loop.run();
-  EXPECT_EQ(std::ranges::count(trace, notification), 2);
-  EXPECT_THAT(trace, Contains(HasSubstr("\"/handoff?h=H1\"")).Times(1));
-  EXPECT_THAT(trace, Contains(HasSubstr("\"/handoff?h=H2\"")).Times(1));
-}
-
-TEST_F(SigningCoordinatorTest, TwoFirstRunsMakeOneKey) {
-  keyStore.hasKey = false;
-  coordinator->startSigning();
-  coordinator->startSigning();
-  loop.run();
-  EXPECT_EQ(count("create key"), 1);
-  EXPECT_EQ(count(notification), 2);
-}
-
-TEST_F(SigningCoordinatorTest, OneDeviceIsRegisteredAtATime) {
-  http.answers["/api/sign_native"] = {{404, R"({"error":"device not enrolled"})"},
-                                      {404, R"({"error":"device not enrolled"})"},
-                                      {200, R"({"signature_id":"s"})"}};
-  http.takes = 1s;
-  coordinator->startSigning();
-  coordinator->startSigning();
-  loop.run();
-  Lines order;
-  for (const std::string& line : trace)
-    if (line.starts_with("POST ") || line.starts_with("set ") || line == "write clipboard")
-      order.push_back(line.substr(0, 20));
-  // The key is released before the first signature is requested again.
-  EXPECT_THAT(order,
-              ElementsAre("POST /api/sign_nativ", "POST /api/sign_nativ", "POST /api/register_n",
-                          "set BoundIdentity = ", "POST /api/sign_nativ", "POST /api/register_n",
-                          "write clipboard", "set BoundIdentity = ", "POST /api/sign_nativ",
-                          "write clipboard"));
 }
 
 TEST_F(SigningCoordinatorTest, AFirstRunUsesNoKeyWhoseEnrolmentMayFail) {

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
+#include "Cases.h"
 #include "TemporaryFolder.h"
 #include "VirtualLoop.h"
 #include "applications/LoadedDesktopEntries.h"
@@ -28,64 +28,26 @@ using testing::TemporaryFolder;
 using testing::VirtualLoop;
 
 TEST(Browsers, HaveOneIdentifierUnderAllTheirNames) {
-  struct Row {
-    Browsers::Traits traits;
-    const char* identifier;
-  };
-  for (const Row& row : {
-           Row{{"google-chrome", "google-chrome-stable"}, "google-chrome"},
-           Row{{"com.google.Chrome", ""}, "google-chrome"},
-           Row{{"google-chrome-beta", ""}, "google-chrome-beta"},
-           Row{{"userapp-Firefox-AB12", "firefox"}, "firefox"},
-           Row{{"org.mozilla.firefox", "flatpak"}, "firefox"},
-           Row{{"firefox-esr", "firefox"}, "firefox-esr"},
-           Row{{"my-edge", "microsoft-edge-stable"}, "microsoft-edge"},
-           Row{{"mine", "vivaldi-stable"}, "vivaldi"},
-           Row{{"", "chromium"}, "chromium"},
-           Row{{"", ""}, ""},
-           Row{{"Firefox", ""}, "Firefox"},
-           Row{{"org.gnome.TextEditor", "gnome-text-editor"}, "org.gnome.TextEditor"},
-       }) {
-    EXPECT_EQ(Browsers::identifierOf(row.traits), row.identifier) << row.traits.desktopFile;
-  }
+  for (const auto& [desktopFile, program, identifier] :
+       testing::cases<std::string, std::string, std::string>())
+    EXPECT_EQ(Browsers::identifierOf({desktopFile, program}), identifier) << desktopFile;
 }
 
 TEST(Browsers, RunAsTheirPrograms) {
-  for (const auto& [identifier, program] : {std::pair{"google-chrome", "chrome"},
-                                            {"google-chrome-beta", "chrome"},
-                                            {"brave-browser", "brave"},
-                                            {"microsoft-edge", "msedge"},
-                                            {"opera", "opera"},
-                                            {"vivaldi", "vivaldi-bin"},
-                                            {"chromium", "chromium-browser"},
-                                            {"firefox", "firefox-bin"},
-                                            {"firefox-esr", "firefox-esr"}})
-    EXPECT_TRUE(Browsers::isProgramOf(identifier, program)) << identifier;
-  for (const auto& [identifier, program] : {std::pair{"firefox", "firefox-esr"},
-                                            {"chromium", "chrome"},
-                                            {"Chromium", "chromium"},
-                                            {"", ""}})
-    EXPECT_FALSE(Browsers::isProgramOf(identifier, program)) << identifier;
+  for (const auto& [identifier, program, isOne] : testing::cases<std::string, std::string, bool>())
+    EXPECT_EQ(Browsers::isProgramOf(identifier, program), isOne) << identifier << ' ' << program;
 }
 
-/// A computer whose browsers only record what they should open. It exists for the whole program,
-/// because GIO reads the folders of applications once.
+/// A computer with the browsers of "computer", which only write down what they are to open. GIO
+/// reads where applications are once, so this is there for the whole program.
 class Computer {
  public:
   Computer() {
-    for (const char* folder : {"data/applications", "config", "runtime"})
-      fs::create_directories(root() / folder);
+    fs::copy(QUILLSEAL_COMPUTER, root(), fs::copy_options::recursive);
+    fs::create_directory(root() / "runtime");
     fs::permissions(root() / "runtime", fs::perms::owner_all);
-    install("userapp-Firefox-AB12", "firefox", "");
-    install("com.google.Chrome", "google-chrome-flatpak", "X-Flatpak=com.google.Chrome\n",
-            "@@u %u @@ --file-forwarding");
-    install("secluded", "secluded", "X-Flatpak=org.secluded\n");
-    install("google-chrome", "google-chrome-stable", "");
-    install("snapped", "snapped", "X-SnapInstanceName=snapped\n");
-    testing::overwrite(
-        root() / "config/mimeapps.list",
-        "[Default Applications]\nx-scheme-handler/https=userapp-Firefox-AB12.desktop\n");
-    for (const auto& [name, folder] : {std::pair{"XDG_DATA_HOME", "data"},
+    for (const auto& [name, folder] : {std::pair{"PATH", ""},
+                                       {"XDG_DATA_HOME", "data"},
                                        {"XDG_DATA_DIRS", "none"},
                                        {"XDG_CONFIG_HOME", "config"},
                                        {"XDG_CONFIG_DIRS", "none"},
@@ -97,8 +59,8 @@ class Computer {
 
   void putProgram(const std::string& name) const {
     testing::overwrite(root() / name,
-                       "#!/bin/sh\n[ \"$1\" = @@u ] && shift\nprintf %s \"$1\" >\"$0.new\"\nmv "
-                       "\"$0.new\" \"$0.opened\"\n");
+                       "#!/bin/sh\n[ \"$1\" = @@u ] && shift\nprintf %s \"$1\" >\"$0.new\"\n"
+                       "/bin/mv \"$0.new\" \"$0.opened\"\n");
     fs::permissions(root() / name, fs::perms::owner_all);
   }
 
@@ -114,14 +76,6 @@ class Computer {
   }
 
  private:
-  void install(const std::string& id, const std::string& program, const std::string& more,
-               const std::string& arguments = "%u") const {
-    testing::overwrite(root() / "data/applications" / (id + ".desktop"),
-                       "[Desktop Entry]\nType=Application\nName=" + id +
-                           "\nExec=" + (root() / program).string() + " " + arguments + "\n" + more +
-                           "MimeType=x-scheme-handler/https;\n");
-  }
-
   TemporaryFolder folder_;
 };
 
@@ -144,21 +98,7 @@ class BrowserLauncherTest : public ::testing::Test {
       computer().putProgram(program);
   }
 
-  std::string failureOf(const std::string& url, const std::string& location) {
-    return failureOf(launcher_, url, location);
-  }
-
-  static std::string failureOf(BrowserLauncher& launcher, const std::string& url,
-                               const std::string& location) {
-    try {
-      launcher.open(url, location);
-    } catch (const Error& error) {
-      return error.what();
-    }
-    return "";
-  }
-
-  /// For some desktop files GIO passes paths instead of file URLs.
+  /// GIO turns addresses of files into paths for some desktop files.
   static fs::path pathOf(const std::string& address) {
     const std::string_view scheme = "file://";
     return address.starts_with(scheme) ? address.substr(scheme.size()) : address;
@@ -174,7 +114,7 @@ class BrowserLauncherTest : public ::testing::Test {
   BrowserLauncher launcher_{entries_, loop_};
 };
 
-TEST_F(BrowserLauncherTest, FindsChromeWhereItIsInstalled) {
+TEST_F(BrowserLauncherTest, FindsChromeAndTheDefaultBrowser) {
   EXPECT_EQ(launcher_.chrome()->location, "google-chrome");
   EXPECT_EQ(launcher_.chrome()->bundleIdentifier, "google-chrome");
   fs::remove(computer().root() / "google-chrome-stable");
@@ -182,9 +122,7 @@ TEST_F(BrowserLauncherTest, FindsChromeWhereItIsInstalled) {
   EXPECT_EQ(launcher_.chrome()->bundleIdentifier, "google-chrome");
   fs::remove(computer().root() / "google-chrome-flatpak");
   EXPECT_EQ(launcher_.chrome(), std::nullopt);
-}
 
-TEST_F(BrowserLauncherTest, FindsTheDefaultBrowser) {
   const auto browser = launcher_.defaultFor("https://seal.example/");
   EXPECT_EQ(browser->location, "userapp-Firefox-AB12");
   EXPECT_EQ(browser->bundleIdentifier, "firefox");
@@ -195,27 +133,23 @@ TEST_F(BrowserLauncherTest, HandsAddressesOverInPrivatePages) {
   const fs::path snapFolder = computer().root() / "home/snap/snapped/common";
   fs::create_directories(snapFolder);
   ::setenv("HOME", (computer().root() / "home").c_str(), 1);
-  struct Row {
-    const char* location;
-    const char* program;
-    fs::path folder;
-  };
   const fs::path runtime = computer().root() / "runtime/quillseal";
   std::vector<fs::path> pages;
   for (const std::size_t length : {40U, 300'000U}) {
     const std::string url = urlOfLength(length);
-    for (const Row& row : {Row{"google-chrome", "google-chrome-stable", runtime},
-                           {"", "firefox", runtime},
-                           {"com.google.Chrome", "google-chrome-flatpak", runtime},
-                           {"snapped", "snapped", snapFolder / "quillseal"}}) {
-      launcher_.open(url, row.location);
-      const std::string address = computer().opened(row.program);
+    for (const auto& [location, program, folder] :
+         {std::tuple{"google-chrome", "google-chrome-stable", runtime},
+          {"", "firefox", runtime},
+          {"com.google.Chrome", "google-chrome-flatpak", runtime},
+          {"snapped", "snapped", snapFolder / "quillseal"}}) {
+      launcher_.open(url, location);
+      const std::string address = computer().opened(program);
       EXPECT_THAT(address, Not(HasSubstr("handoff"))) << "all users can read command lines";
       const fs::path page = pathOf(address);
-      EXPECT_EQ(page.parent_path(), row.folder);
+      EXPECT_EQ(page.parent_path(), folder);
       EXPECT_THAT(contentsOf(page), HasSubstr("location.replace(\"" + url + "\")"));
       EXPECT_EQ(fs::status(page).permissions(), fs::perms::owner_read | fs::perms::owner_write);
-      EXPECT_EQ(fs::status(row.folder).permissions(), fs::perms::owner_all);
+      EXPECT_EQ(fs::status(folder).permissions(), fs::perms::owner_all);
       EXPECT_THAT(pages, Not(Contains(page)));
       pages.push_back(page);
     }
@@ -250,20 +184,23 @@ TEST_F(BrowserLauncherTest, DeletesThePagesOfAnAgentThatWasKilled) {
 }
 
 TEST_F(BrowserLauncherTest, TellsWhyNothingOpens) {
-  const std::string url = "https://seal.example/";
-  EXPECT_THAT(failureOf(url, "secluded"), HasSubstr("“secluded” runs in a sandbox"));
+  const auto expectFailure = [](BrowserLauncher& launcher, const char* location, const char* part,
+                                const char* url = "https://seal.example/") {
+    EXPECT_THAT([&] { launcher.open(url, location); },
+                ::testing::ThrowsMessage<Error>(HasSubstr(part)));
+  };
+  expectFailure(launcher_, "secluded", "“secluded” runs in a sandbox");
   ::setenv("HOME", (computer().root() / "elsewhere").c_str(), 1);
-  EXPECT_THAT(failureOf(url, "snapped"), HasSubstr("elsewhere/snap/snapped/common”: No such file"));
-  EXPECT_THAT(failureOf(url, "gone"), HasSubstr("“gone” is no longer installed"));
-  EXPECT_THAT(failureOf("gopher://seal.example/", ""), HasSubstr("opens web pages"));
+  expectFailure(launcher_, "snapped", "elsewhere/snap/snapped/common”: No such file");
+  expectFailure(launcher_, "gone", "“gone” is not installed");
+  expectFailure(launcher_, "", "opens web pages", "gopher://seal.example/");
   fs::permissions(computer().root() / "runtime", fs::perms::all);
-  EXPECT_THAT(failureOf(url, ""), HasSubstr("of this user alone"));
+  expectFailure(launcher_, "", "of this user alone");
   fs::permissions(computer().root() / "runtime", fs::perms::owner_all);
 
   LoadedDesktopEntries missing = entriesAt(computer().root() / "missing.so");
   BrowserLauncher helpless(missing, loop_);
-  EXPECT_THAT(failureOf(helpless, "https://seal.example/", ""),
-              HasSubstr("knows the installed applications cannot be used"));
+  expectFailure(helpless, "", "knows the installed applications cannot be used");
 }
 
 }  // namespace

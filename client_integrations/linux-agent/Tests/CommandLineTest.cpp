@@ -1,8 +1,8 @@
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "session/CommandLine.h"
 
@@ -16,10 +16,7 @@ CommandLine parsed(const std::vector<std::string_view>& arguments) {
 }
 
 TEST(CommandLineTest, UnderstandsEveryOption) {
-  const struct {
-    std::vector<std::string_view> arguments;
-    Command command;
-  } cases[] = {
+  const std::pair<std::vector<std::string_view>, Command> cases[] = {
       {{}, Command::start},
       {{"--background"}, Command::background},
       {{"--sign"}, Command::sign},
@@ -30,8 +27,7 @@ TEST(CommandLineTest, UnderstandsEveryOption) {
       {{"--version"}, Command::version},
       {{"-V"}, Command::version},
       {{"--sign", "--sign"}, Command::sign},
-      {{"--tpm", "none", "--sign"}, Command::sign},
-  };
+      {{"--tpm", "none", "--sign"}, Command::sign}};
   for (const auto& [arguments, command] : cases) {
     const CommandLine commandLine = parsed(arguments);
     EXPECT_EQ(commandLine.command, command) << testing::PrintToString(arguments);
@@ -41,16 +37,12 @@ TEST(CommandLineTest, UnderstandsEveryOption) {
 }
 
 TEST(CommandLineTest, SaysWhatItDoesNotUnderstand) {
-  const struct {
-    std::vector<std::string_view> arguments;
-    const char* problem;
-  } cases[] = {
+  const std::pair<std::vector<std::string_view>, const char*> cases[] = {
       {{"--singn"}, "'--singn' is not an option"},
       {{"letter.txt"}, "'letter.txt' is not an option"},
       {{""}, "'' is not an option"},
       {{"--sign", "--quit"}, "'--quit' cannot be combined"},
-      {{"--sign", "--tpm"}, "'--tpm' needs a value"},
-  };
+      {{"--sign", "--tpm"}, "'--tpm' needs a value"}};
   for (const auto& [arguments, problem] : cases) {
     const CommandLine commandLine = parsed(arguments);
     EXPECT_EQ(commandLine.command, Command::wrong) << testing::PrintToString(arguments);

@@ -1,21 +1,21 @@
 #include <cerrno>
 #include <chrono>
 #include <cstdlib>
+#include <filesystem>
 #include <map>
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <variant>
 #include <vector>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
+#include "Cases.h"
 #include "RunUntil.h"
 #include "ScriptedServer.h"
-#include "TemporaryFolder.h"
-#include "TestCertificate.h"
 #include "network/CurlTransport.h"
 #include "session/PollLoop.h"
 
@@ -24,7 +24,6 @@ namespace {
 
 using desktop::HttpPost;
 using desktop::HttpResponse;
-using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::Not;
 using testing::runUntil;
@@ -99,48 +98,20 @@ TEST_F(CurlTransportTest, SendsExactlyTheRequest) {
 
 TEST_F(CurlTransportTest, EveryAnswerHasItsEnding) {
   const std::string good = R"({"signature_id":"s"})";
-  const std::string large(std::size_t{8} * 1024 * 1024 + 1, ' ');
-  const std::string chunked = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
-  const std::string half = "HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\n{\"sig";
-  constexpr auto close = ServerScript::End::close;
-  constexpr auto reset = ServerScript::End::reset;
-  constexpr auto linger = ServerScript::End::linger;
-  const Ending lost{.code = transport::networkConnectionLost};
-  const Ending tooLong{.code = transport::dataLengthExceedsMaximum};
-  const struct {
-    const char* name;
-    std::string answer;
-    ServerScript::End end;
-    Ending ending;
-  } cases[] = {
-      {"with a length", answerOf("200 OK", good), close, {200, good}},
-      {"kept open", answerOf("200 OK", good), linger, {200, good}},
-      {"without a length", "HTTP/1.1 200 OK\r\n\r\n" + good, close, {200, good}},
-      {"in chunks", chunked + "14\r\n" + good + "\r\n0\r\n\r\n", linger, {200, good}},
-      {"100 first", "HTTP/1.1 100 Continue\r\n\r\n" + answerOf("200 OK", good), close, {200, good}},
-      {"without a body", "HTTP/1.1 204 No Content\r\n\r\n", close, {204, ""}},
-      {"refusal", answerOf("404 Not Found", good), close, {404, good}},
-      {"half the headers", "HTTP/1.1 200 OK\r\nContent-Le", close, {200, ""}},
-      {"half a body", half, close, lost},
-      {"half a chunk", chunked + "64\r\n{\"sig", close, lost},
-      {"nothing", "", close, lost},
-      {"reset", "", reset, lost},
-      {"reset in the body", half, reset, lost},
-      {"a byte too long", answerOf("200 OK", large), close, tooLong},
-      {"a byte too long, unannounced", "HTTP/1.1 200 OK\r\n\r\n" + large, close, tooLong},
-      {"an endless header",
-       "HTTP/1.1 200 OK\r\nX: " + std::string(400'000, 'x'),
-       linger,
-       {.code = transport::badServerResponse}},
-      {"no HTTP", "220 mail.example ESMTP\r\n", close, {400, ""}},
-  };
-  for (const auto& each : cases) {
-    SCOPED_TRACE(each.name);
-    const ScriptedServer server({.answer = each.answer, .end = each.end, .tls = {}});
+  const std::map<std::string, ServerScript::End> ends{{"close", ServerScript::End::close},
+                                                      {"reset", ServerScript::End::reset},
+                                                      {"linger", ServerScript::End::linger}};
+  for (auto [name, answer, more, end, status, body, code] :
+       testing::cases<std::string, std::string, std::size_t, std::string, int, std::string,
+                      std::int64_t>()) {
+    SCOPED_TRACE(name);
+    if (const auto at = answer.find("GOOD"); at != std::string::npos) answer.replace(at, 4, good);
+    if (more > 0) answer.append(more, answer.back());
+    const ScriptedServer server({.answer = answer, .end = ends.at(end), .tls = {}});
     const Ending ending = endingOf(postTo(server));
-    EXPECT_EQ(ending.status, each.ending.status);
-    EXPECT_EQ(ending.body, each.ending.body);
-    EXPECT_EQ(ending.code, each.ending.code);
+    EXPECT_EQ(ending.status, status);
+    EXPECT_EQ(ending.body, body == "GOOD" ? good : body);
+    EXPECT_EQ(ending.code, code);
     EXPECT_EQ(server.requests().size(), 1U) << "nothing is sent twice";
   }
 }
@@ -182,39 +153,27 @@ TEST_F(CurlTransportTest, ServersOutOfReach) {
 
 TEST_F(CurlTransportTest, SendsNothingToWhatIsNoUrl) {
   const ScriptedServer server({.answer = answerOf("200 OK", ""), .tls = {}});
-  std::vector<std::string> urls{postTo(server).url + '\0'};
-  for (const char* url :
-       {"http://a b", "http://", "https://", "nonsense", "127.0.0.1:80", "localhost:80",
-        "ftp://127.0.0.1", "file:///etc", "http://127.0.0.1:99999", "http://127.0.0.1:x",
-        "http://127.0.0.1/a b", "http://127.0.0.1\r\nX: y", "javascript:alert(1)"})
-    urls.emplace_back(url);
-  for (const std::string& url : urls)
+  for (const auto& [url] : testing::cases<std::string>())
     EXPECT_EQ(endingOf(postTo(url)).code, transport::badUrl) << url;
+  EXPECT_EQ(endingOf(postTo(postTo(server).url + '\0')).code, transport::badUrl);
 }
 
 TEST_F(CurlTransportTest, ChecksCertificateAndHost) {
-  constexpr auto untrusted = transport::serverCertificateUntrusted;
-  const struct {
-    const char* name;
-    testing::CertificateSubject subject;
-    bool isTrusted;
-    std::int64_t code;
-  } cases[] = {
-      {"good", {.host = "localhost"}, true, 0},
-      {"unknown issuer", {.host = "localhost"}, false, untrusted},
-      {"wrong host", {.host = "elsewhere.example"}, true, untrusted},
-      {"expired", {.host = "localhost", .validFrom = -7200, .validTo = -3600}, true, untrusted},
-      {"too early", {.host = "localhost", .validFrom = 3600, .validTo = 7200}, true, untrusted},
-  };
-  for (const auto& each : cases) {
-    SCOPED_TRACE(each.name);
-    const testing::TemporaryFolder folder;
-    testing::writeCertificate(folder.path(), each.subject);
-    useAuthorities(each.isTrusted ? (folder.path() / "certificate.pem").string() : "");
-    const ScriptedServer server({.answer = answerOf("200 OK", "{}"), .tls = folder.path()});
+  const std::filesystem::path folder = QUILLSEAL_CERTIFICATES;
+  const std::pair<const char*, const char*> cases[] = {
+      {"good.pem", "good.pem"},  // the server's, and the one that is trusted
+      {"good.pem", ""},
+      {"elsewhere.pem", "elsewhere.pem"},
+      {"expired.pem", "expired.pem"},
+      {"early.pem", "early.pem"}};
+  for (const auto& [own, trusted] : cases) {
+    SCOPED_TRACE(own);
+    const bool isGood = own == std::string_view(trusted) && own == std::string_view("good.pem");
+    useAuthorities(*trusted != '\0' ? (folder / trusted).string() : "");
+    const ScriptedServer server({.answer = answerOf("200 OK", "{}"), .tls = folder / own});
     const Ending ending = endingOf(postTo("https://localhost:" + std::to_string(server.port())));
-    EXPECT_EQ(ending.code, each.code);
-    EXPECT_EQ(server.requests().size(), each.code == 0 ? 1U : 0U) << "the API key stays here";
+    EXPECT_EQ(ending.code, isGood ? 0 : transport::serverCertificateUntrusted);
+    EXPECT_EQ(server.requests().size(), isGood ? 1U : 0U) << "the API key stays here";
   }
   useAuthorities("");
   const ScriptedServer plain({.answer = "220 mail.example ESMTP\r\n", .tls = {}});
@@ -268,11 +227,9 @@ TEST(CurlTransportErrors, AreToldAsWhatTheyMeanToTheUser) {
       {CURLE_SSL_CONNECT_ERROR, transport::secureConnectionFailed},
       {CURLE_PEER_FAILED_VERIFICATION, transport::serverCertificateUntrusted},
       {CURLE_HTTP2, transport::badServerResponse},
-      {CURLE_FAILED_INIT, transport::unknown},
-  };
-  for (const auto& [failure, code] : cases) {
+      {CURLE_FAILED_INIT, transport::unknown}};
+  for (const auto& [failure, code] : cases)
     EXPECT_EQ(CurlTransport::errorCodeOf(failure, 0), code) << failure;
-  }
   EXPECT_EQ(CurlTransport::errorCodeOf(CURLE_COULDNT_CONNECT, ECONNREFUSED),
             transport::cannotConnectToHost);
   for (const int offline : {ENETUNREACH, ENETDOWN})

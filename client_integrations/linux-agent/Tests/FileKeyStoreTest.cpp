@@ -6,12 +6,10 @@
 #include <vector>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "FailureOf.h"
-#include "ServerVerdict.h"
+#include "KeyChecks.h"
 #include "TemporaryFolder.h"
 #include "keys/FileKeyStore.h"
 #include "keys/KeyFile.h"
@@ -25,9 +23,9 @@ using ::testing::StartsWith;
 namespace fs = std::filesystem;
 
 constexpr ScryptCost cheap{.n = 16, .r = 8, .p = 1};
-constexpr P256::Digest digest{0x9f, 0x86, 0xd0, 0x81, 0x88, 0x4c, 0x7d, 0x65, 0x9a, 0x2f, 0xea,
-                              0xa0, 0xc5, 0x5a, 0xd0, 0x15, 0xa3, 0xbf, 0x4f, 0x1b, 0x2b, 0x0b,
-                              0x82, 0x2c, 0xd1, 0x5d, 0x6c, 0x15, 0xb0, 0xf0, 0x0a, 0x08};
+constexpr P256::Digest digest{0x9f, 0x86, 0xd0, 0x81, 0x88};
+
+constexpr std::array<std::string_view, 2> labels{"PUBLIC KEY", "ENCRYPTED PRIVATE KEY"};
 
 SecretBytes passphrase() {
   return SecretBytes("correct horse battery");
@@ -63,6 +61,8 @@ TEST_F(FileKeyStoreTest, SignsSoThatThePublicKeyVerifies) {
     EXPECT_FALSE(testing::isAcceptedByServer(
         {.publicKey = publicKey, .digest = other, .signature = *signature}));
   }
+  for (const std::string_view wrong : {"", "correct horse batterz", "correct horse battery "})
+    EXPECT_FALSE(store.sign(digest, SecretBytes(wrong))) << wrong;
 }
 
 TEST_F(FileKeyStoreTest, OnlyThisUserMayRead) {
@@ -71,31 +71,18 @@ TEST_F(FileKeyStoreTest, OnlyThisUserMayRead) {
   testing::overwrite(path.parent_path() / ".key.pem.new", "half a key");
   ASSERT_EQ(::chmod(path.parent_path().c_str(), 0755), 0);
   store.create(passphrase());
-  struct stat status {};
-  ASSERT_EQ(::stat(path.c_str(), &status), 0);
-  EXPECT_EQ(status.st_mode & 07777U, 0600U);
-  ASSERT_EQ(::stat(path.parent_path().c_str(), &status), 0);
-  EXPECT_EQ(status.st_mode & 07777U, 0700U);
+  EXPECT_EQ(fs::status(path).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+  EXPECT_EQ(fs::status(path.parent_path()).permissions(), fs::perms::owner_all);
 }
 
-TEST_F(FileKeyStoreTest, AnotherSecretOpensNothing) {
-  store.create(passphrase());
-  for (const std::string_view wrong : {"", "correct horse batterz", "correct horse battery "})
-    EXPECT_FALSE(store.sign(digest, SecretBytes(wrong))) << wrong;
-}
-
-TEST_F(FileKeyStoreTest, CreatingReplacesTheKey) {
+TEST_F(FileKeyStoreTest, CreatingReplacesTheKeyAndDeletingTwiceIsHarmless) {
+  store.remove();
   store.create(passphrase());
   const P256::Point first = store.publicKey();
   store.create(SecretBytes("another passphrase"));
   EXPECT_NE(store.publicKey(), first);
   EXPECT_FALSE(store.sign(digest, passphrase()));
   EXPECT_TRUE(store.sign(digest, SecretBytes("another passphrase")));
-}
-
-TEST_F(FileKeyStoreTest, DeletingTwiceIsHarmless) {
-  store.remove();
-  store.create(passphrase());
   store.remove();
   store.remove();
   EXPECT_FALSE(store.holdsKey());
@@ -131,7 +118,6 @@ TEST_F(FileKeyStoreTest, AnExchangedPublicHalfIsNoticed) {
   FileKeyStore other({.path = otherPath, .cost = cheap});
   other.create(passphrase());
 
-  constexpr std::array<std::string_view, 2> labels{"PUBLIC KEY", "ENCRYPTED PRIVATE KEY"};
   const auto own = KeyFile::read(testing::contentsOf(path), labels);
   const auto foreign = KeyFile::read(testing::contentsOf(otherPath), labels);
   ASSERT_TRUE(own && foreign);
@@ -162,7 +148,6 @@ TEST_F(FileKeyStoreTest, ClosesItsFiles) {
 // With the most work that such a file can demand, OpenSSL would need years.
 TEST_F(FileKeyStoreTest, AFileThatTakesTooLongIsNotOpened) {
   store.create(passphrase());
-  constexpr std::array<std::string_view, 2> labels{"PUBLIC KEY", "ENCRYPTED PRIVATE KEY"};
   auto blocks = KeyFile::read(testing::contentsOf(path), labels);
   ASSERT_TRUE(blocks);
   std::vector<std::uint8_t>& key = blocks->back().bytes;
@@ -207,6 +192,11 @@ TEST_F(FileKeyStoreTest, WhatSomebodyElsePutThereIsNotUsed) {
   fs::create_directory_symlink(folder.path() / "real", path.parent_path());
   EXPECT_THAT(failureOf([&] { store.create(passphrase()); }), HasSubstr("a link or not a folder"));
   EXPECT_TRUE(fs::is_empty(folder.path() / "real"));
+
+  fs::remove_all(folder.path() / "data");
+  testing::overwrite(folder.path() / "data", "a file where a folder should be");
+  EXPECT_THAT(failureOf([&] { store.create(passphrase()); }), HasSubstr("could not"));
+  EXPECT_FALSE(store.holdsKey());
 }
 
 TEST_F(FileKeyStoreTest, AFullDiskKeepsTheOldKey) {
@@ -218,12 +208,6 @@ TEST_F(FileKeyStoreTest, AFullDiskKeepsTheOldKey) {
   EXPECT_EQ(store.publicKey(), before);
   EXPECT_TRUE(store.sign(digest, passphrase()));
   EXPECT_EQ(std::distance(fs::directory_iterator(path.parent_path()), {}), 1);
-}
-
-TEST_F(FileKeyStoreTest, AFolderThatCannotBeMadeIsReported) {
-  testing::overwrite(folder.path() / "data", "a file where a folder should be");
-  EXPECT_THAT(failureOf([&] { store.create(passphrase()); }), HasSubstr("could not"));
-  EXPECT_FALSE(store.holdsKey());
 }
 
 }  // namespace

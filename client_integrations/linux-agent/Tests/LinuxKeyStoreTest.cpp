@@ -11,9 +11,8 @@
 #include <vector>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include "FailureOf.h"
+#include "KeyChecks.h"
 #include "TemporaryFolder.h"
 #include "keys/FileKeyStore.h"
 #include "keys/KeyFailure.h"
@@ -29,23 +28,27 @@ using ::testing::IsEmpty;
 
 constexpr P256::Digest digest{7, 7, 7};
 constexpr auto cancel = std::nullopt;
+constexpr ScryptCost cheap{.n = 16, .r = 8, .p = 1};
 
 /// Answers from a list and records the questions. Unexpected questions are cancelled.
 class ScriptedPrompt final : public SecretPrompt {
  public:
   std::optional<SecretBytes> ask(const SecretRequest& request) override {
     asked.push_back(request);
+    problems.push_back(request.problem);
     if (whileAsked) whileAsked();
     return answer();
   }
   std::optional<SecretBytes> askForNew(const NewSecretRequest& request) override {
     askedForNew.push_back(request);
+    problems.push_back(request.problem);
     return answer();
   }
 
   std::deque<std::optional<std::string>> answers;
   std::vector<SecretRequest> asked;
   std::vector<NewSecretRequest> askedForNew;
+  std::vector<std::string> problems;  ///< of all questions
   std::function<void()> whileAsked;
 
  private:
@@ -72,8 +75,8 @@ class ScriptedTpm final : public KeyMedium {
   };
 
   ScriptedTpm(const std::filesystem::path& folder, State& state)
-      : file_({.path = folder / "tpm" / "key", .cost = {.n = 16, .r = 8, .p = 1}}),
-        other_({.path = folder / "tpm" / "other", .cost = {.n = 16, .r = 8, .p = 1}}),
+      : file_({.path = folder / "tpm" / "key", .cost = cheap}),
+        other_({.path = folder / "tpm" / "other", .cost = cheap}),
         state_(state) {}
 
   SecretKind secretKind() const noexcept override { return state_.kind; }
@@ -119,18 +122,22 @@ class LinuxKeyStoreTest : public ::testing::Test {
   LinuxKeyStoreTest() {
     std::vector<std::unique_ptr<KeyMedium>> media;
     media.push_back(std::make_unique<ScriptedTpm>(folder.path(), tpm));
-    media.push_back(std::make_unique<FileKeyStore>(FileKeyStore::Options{
-        .path = folder.path() / "file" / "key", .cost = {.n = 16, .r = 8, .p = 1}}));
+    media.push_back(std::make_unique<FileKeyStore>(
+        FileKeyStore::Options{.path = folder.path() / "file" / "key", .cost = cheap}));
     store = std::make_unique<LinuxKeyStore>(std::move(media), prompt);
   }
 
-  void createWith(const std::string& secret) {
-    prompt.answers.emplace_back(secret);
-    static_cast<void>(store->create());
+  /// What it says when it fails.
+  std::string create(std::deque<std::optional<std::string>> answers) {
+    prompt.answers = std::move(answers);
+    return failureOf([&] { static_cast<void>(store->create()); });
   }
-  std::vector<std::uint8_t> sign() {
-    return store->load(desktop::Prompt{.reason = "Sign “x” as y", .medium = "LinkedIn Post"})
-        ->sign(digest);
+  std::string sign(std::deque<std::optional<std::string>> answers) {
+    prompt.answers = std::move(answers);
+    return failureOf([&] {
+      signature = store->load(desktop::Prompt{.reason = "Sign “x” as y", .medium = "LinkedIn Post"})
+                      ->sign(digest);
+    });
   }
   P256::Point publicKey() {
     const auto bytes = store->load(std::nullopt)->publicKey();
@@ -140,24 +147,25 @@ class LinuxKeyStoreTest : public ::testing::Test {
     return point;
   }
 
+  std::vector<std::uint8_t> signature;
   testing::TemporaryFolder folder;
   ScriptedTpm::State tpm;
   ScriptedPrompt prompt;
   std::unique_ptr<LinuxKeyStore> store;
 };
 
+const std::string done = "(no failure)";
 const std::string pin = "123457";
 const std::string passphrase = "a long passphrase";
 
 TEST_F(LinuxKeyStoreTest, SignsWithTheTpmWhereItIsUsable) {
   EXPECT_TRUE(store->isAvailable());
   EXPECT_EQ(store->load(std::nullopt), nullptr);
-  createWith(pin);
+  EXPECT_EQ(create({pin}), done);
   EXPECT_EQ(prompt.askedForNew.back().kind, SecretKind::pin);
   EXPECT_EQ(prompt.askedForNew.back().notice, "");
 
-  prompt.answers = {pin};
-  const auto signature = sign();
+  EXPECT_EQ(sign({pin}), done);
   EXPECT_TRUE(P256::verifies({.publicKey = publicKey(), .digest = digest, .signature = signature}));
   EXPECT_EQ(prompt.asked.back().reason, "Sign “x” as y");
   EXPECT_EQ(prompt.asked.back().destination, "LinkedIn Post");
@@ -171,105 +179,93 @@ TEST_F(LinuxKeyStoreTest, SignsWithTheTpmWhereItIsUsable) {
 TEST_F(LinuxKeyStoreTest, WithoutATpmAKeyFileServesAndThePersonIsTold) {
   tpm.obstacle = "there is no TPM.";
   EXPECT_TRUE(store->isAvailable());
-  createWith(passphrase);
+  EXPECT_EQ(create({passphrase}), done);
   EXPECT_EQ(prompt.askedForNew.back().kind, SecretKind::passphrase);
   EXPECT_EQ(prompt.askedForNew.back().notice, "There is no TPM.");
   EXPECT_EQ(store->advice(), "There is no TPM.");
-  prompt.answers = {passphrase};
-  EXPECT_FALSE(sign().empty());
+  EXPECT_EQ(sign({passphrase}), done);
+
+  // A damaged key stays until it is replaced.
+  testing::overwrite(folder.path() / "file" / "key", "rubbish");
+  ASSERT_NE(store->load(std::nullopt), nullptr);
+  EXPECT_EQ(store->load(std::nullopt)->publicKey(), std::nullopt);
+  EXPECT_THAT(store->advice(), HasSubstr("is damaged"));
+  EXPECT_THAT(sign({}), HasSubstr("is damaged"));
+  EXPECT_EQ(create({passphrase}), done);
+  EXPECT_EQ(sign({passphrase}), done);
 }
 
 TEST_F(LinuxKeyStoreTest, NothingUsableIsUnavailable) {
   tpm.obstacle = "there is no TPM.";
   testing::overwrite(folder.path() / "file", "a file where the folder should be");
   EXPECT_FALSE(store->isAvailable());
-  EXPECT_THAT(failureOf([&] { createWith(passphrase); }), HasSubstr("There is no TPM. “"));
+  EXPECT_THAT(create({passphrase}), HasSubstr("There is no TPM. “"));
   EXPECT_THAT(prompt.askedForNew, IsEmpty());
 }
 
 TEST_F(LinuxKeyStoreTest, ThreeWrongTriesEndTheMatter) {
-  createWith(pin);
-  prompt.answers = {"wrong1", "wrong2", pin};
-  EXPECT_FALSE(sign().empty());
-  ASSERT_EQ(prompt.asked.size(), 3U);
-  EXPECT_EQ(prompt.asked[0].problem, "");
-  EXPECT_EQ(prompt.asked[2].problem, "This PIN is wrong.");
+  EXPECT_EQ(create({pin}), done);
+  EXPECT_EQ(sign({"wrong1", "wrong2", pin}), done);
+  const std::string wrong = "This PIN is wrong.";
+  EXPECT_THAT(prompt.problems, ElementsAre("", "", wrong, wrong));
   EXPECT_EQ(prompt.asked[2].attempt, 3);
-
-  prompt.asked.clear();
-  prompt.answers = {"wrong1", "wrong2", "wrong3", pin};
-  EXPECT_EQ(failureOf([&] { sign(); }), "the PIN was wrong three times.");
-  EXPECT_EQ(prompt.asked.size(), 3U);
+  EXPECT_EQ(sign({"wrong1", "wrong2", "wrong3", pin}), "the PIN was wrong three times.");
+  EXPECT_EQ(prompt.asked.size(), 6U);
   EXPECT_EQ(tpm.kept, 0);
 }
 
 TEST_F(LinuxKeyStoreTest, CancellingIsNoFailureAndCostsNothing) {
-  createWith(pin);
+  EXPECT_EQ(create({pin}), done);
   const P256::Point before = publicKey();
-  prompt.answers = {"wrong1", cancel};
-  EXPECT_EQ(failureOf([&] { sign(); }), "no PIN was entered.");
-  prompt.answers = {cancel};
-  EXPECT_EQ(failureOf([&] { static_cast<void>(store->create()); }), "cancelled");
+  EXPECT_EQ(sign({"wrong1", cancel}), "no PIN was entered.");
+  EXPECT_EQ(create({cancel}), "cancelled");
   EXPECT_EQ(publicKey(), before);
-  prompt.answers = {pin};
-  EXPECT_FALSE(sign().empty());
+  EXPECT_EQ(sign({pin}), done);
 }
 
 TEST_F(LinuxKeyStoreTest, AWeakSecretIsAskedForAgain) {
-  prompt.answers = {"1234", "111111", pin};
-  static_cast<void>(store->create());
-  ASSERT_EQ(prompt.askedForNew.size(), 3U);
-  EXPECT_THAT(prompt.askedForNew[1].problem, HasSubstr("too short"));
-  EXPECT_THAT(prompt.askedForNew[2].problem, HasSubstr("repeats"));
-}
-
-TEST_F(LinuxKeyStoreTest, WithoutALockAgainstGuessingThePinHasToBeLong) {
+  EXPECT_EQ(create({"1234", "111111", pin}), done);
   tpm.kind = SecretKind::unguardedPin;
   tpm.weakness = "The lock can be undone.";
   EXPECT_EQ(store->advice(), tpm.weakness);
-  prompt.answers = {pin, "2718281828459", "quiet 7 leaf"};
-  static_cast<void>(store->create());
-  ASSERT_EQ(prompt.askedForNew.size(), 3U);
-  EXPECT_THAT(prompt.askedForNew[1].problem, HasSubstr("at least 10 characters"));
-  EXPECT_THAT(prompt.askedForNew[2].problem, HasSubstr("no letters"));
+  EXPECT_EQ(create({pin, "2718281828459", "quiet 7 leaf"}), done);
+  EXPECT_THAT(prompt.problems,
+              ElementsAre("", HasSubstr("too short"), HasSubstr("repeats"), "",
+                          HasSubstr("at least 10 characters"), HasSubstr("no letters")));
   EXPECT_EQ(store->advice(), tpm.weakness);
 }
 
 TEST_F(LinuxKeyStoreTest, AKeyThatCannotSignIsReportedBeforeAnybodyIsAsked) {
-  createWith(pin);
+  EXPECT_EQ(create({pin}), done);
   tpm.defect = "the TPM was cleared.";
-  EXPECT_EQ(failureOf([&] { sign(); }), "the TPM was cleared.");
+  EXPECT_EQ(sign({}), tpm.defect);
   EXPECT_THAT(prompt.asked, IsEmpty());
   ASSERT_NE(store->load(std::nullopt), nullptr);
 
   tpm.defect.clear();
   tpm.foreignSignatures = true;
-  prompt.answers = {pin};
-  EXPECT_THAT(failureOf([&] { sign(); }), HasSubstr("does not match the key"));
+  EXPECT_THAT(sign({pin}), HasSubstr("does not match the key"));
 }
 
 // A key stays where it is until the user agrees to another place.
 TEST_F(LinuxKeyStoreTest, NoMediumTakesOverSilently) {
   tpm.obstacle = "there is no TPM.";
-  createWith(passphrase);
+  EXPECT_EQ(create({passphrase}), done);
   const P256::Point inFile = publicKey();
 
   tpm.obstacle.clear();
   EXPECT_EQ(publicKey(), inFile);
   EXPECT_EQ(store->place(), KeyPlace::keyFile);
-  prompt.answers = {cancel};
-  EXPECT_EQ(failureOf([&] { static_cast<void>(store->create()); }), "cancelled");
+  EXPECT_EQ(create({cancel}), "cancelled");
   EXPECT_EQ(prompt.askedForNew.back().notice,
             "Your present key is in a key file. It will be replaced by a new one in the TPM of "
             "this computer.");
-  EXPECT_EQ(publicKey(), inFile);
-
   tpm.whileCreating = [] { throw KeyFailure("the TPM has failed."); };
-  EXPECT_EQ(failureOf([&] { createWith(pin); }), "the TPM has failed.");
+  EXPECT_EQ(create({pin}), "the TPM has failed.");
   EXPECT_EQ(publicKey(), inFile);
 
   tpm.whileCreating = nullptr;
-  createWith(pin);
+  EXPECT_EQ(create({pin}), done);
   EXPECT_EQ(store->place(), KeyPlace::tpm);
   const P256::Point inTpm = publicKey();
   EXPECT_NE(inTpm, inFile);
@@ -278,9 +274,8 @@ TEST_F(LinuxKeyStoreTest, NoMediumTakesOverSilently) {
   tpm.obstacle = tpm.defect = "the TPM is switched off.";
   EXPECT_EQ(store->place(), KeyPlace::tpm);
   EXPECT_EQ(store->advice(), "The TPM is switched off.");
-  EXPECT_EQ(failureOf([&] { sign(); }), "the TPM is switched off.");
-  prompt.answers = {cancel};
-  EXPECT_EQ(failureOf([&] { static_cast<void>(store->create()); }), "cancelled");
+  EXPECT_EQ(sign({}), "the TPM is switched off.");
+  EXPECT_EQ(create({cancel}), "cancelled");
   EXPECT_EQ(prompt.askedForNew.back().notice,
             "The TPM is switched off. Your present key is in the TPM of this computer. It will be "
             "replaced by a new one in a key file.");
@@ -288,21 +283,8 @@ TEST_F(LinuxKeyStoreTest, NoMediumTakesOverSilently) {
   EXPECT_EQ(publicKey(), inTpm);
 }
 
-TEST_F(LinuxKeyStoreTest, ADamagedKeyStaysUntilItIsReplaced) {
-  tpm.obstacle = "there is no TPM.";
-  createWith(passphrase);
-  testing::overwrite(folder.path() / "file" / "key", "rubbish");
-  ASSERT_NE(store->load(std::nullopt), nullptr);
-  EXPECT_EQ(store->load(std::nullopt)->publicKey(), std::nullopt);
-  EXPECT_THAT(store->advice(), HasSubstr("is damaged"));
-  EXPECT_THAT(failureOf([&] { sign(); }), HasSubstr("is damaged"));
-  createWith(passphrase);
-  prompt.answers = {passphrase};
-  EXPECT_FALSE(sign().empty());
-}
-
 TEST_F(LinuxKeyStoreTest, AMediumWorksForOneThreadAtATime) {
-  createWith(pin);
+  EXPECT_EQ(create({pin}), done);
   tpm.uses = 0;
   constexpr int threads = 4;
   constexpr int rounds = 25;
@@ -327,11 +309,10 @@ TEST_F(LinuxKeyStoreTest, AMediumIsFreeWhileThePersonIsAskedButNotWhileItWorks) 
     status = other.wait_for(patience);
   };
   tpm.whileCreating = [&] { look(std::chrono::milliseconds(50)); };
-  createWith(pin);
+  EXPECT_EQ(create({pin}), done);
   EXPECT_EQ(status, std::future_status::timeout);
   prompt.whileAsked = [&] { look(std::chrono::seconds(5)); };
-  prompt.answers = {pin};
-  EXPECT_FALSE(sign().empty());
+  EXPECT_EQ(sign({pin}), done);
   EXPECT_EQ(status, std::future_status::ready);
 }
 

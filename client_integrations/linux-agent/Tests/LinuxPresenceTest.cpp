@@ -7,7 +7,6 @@
 #include <vector>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "PrivateBus.h"
 #include "RunUntil.h"
@@ -33,16 +32,13 @@ class ScriptedPrompt final : public PresencePrompt {
  public:
   std::unique_ptr<PresenceWindow> open(const PresenceRequest& request,
                                        std::function<void(bool)> answered) override {
-    class Window final : public PresenceWindow {
-     public:
-      explicit Window(ScriptedPrompt& prompt) : prompt_(prompt) { ++prompt_.windows; }
-      ~Window() override { --prompt_.windows; }
+    struct Window final : PresenceWindow {
+      explicit Window(ScriptedPrompt& its) : prompt(its) { ++prompt.windows; }
+      ~Window() override { --prompt.windows; }
       void setInstruction(std::string_view instruction) override {
-        prompt_.instructions.emplace_back(instruction);
+        prompt.instructions.emplace_back(instruction);
       }
-
-     private:
-      ScriptedPrompt& prompt_;
+      ScriptedPrompt& prompt;
     };
     requests.push_back(request);
     auto window = std::make_unique<Window>(*this);
@@ -86,19 +82,15 @@ TEST_F(LinuxPresenceTest, TellsWhatTheMachineOffers) {
   EXPECT_FALSE(can(biometrics));
   EXPECT_FALSE(can(password));
   EXPECT_EQ(presence.biometry(), desktop::Biometry::none);
-  struct Row {
+  const struct {
     Script script;
-    bool finger;
-    bool anything;
-  };
-  const Row rows[] = {
-      {{}, true, true},
-      {{.hasReader = false}, false, true},
-      {{.fingers = {}}, false, true},
-      {{.fingers = {}, .actionInstalled = false}, false, false},
-      {{.fingers = {}, .actionInstalled = true, .mayAsk = false}, false, false},
-  };
-  for (const Row& row : rows) {
+    bool finger, anything;
+  } rows[] = {{{}, true, true},
+              {{.hasReader = false}, false, true},
+              {{.fingers = {}}, false, true},
+              {{.fingers = {}, .actionInstalled = false}, false, false},
+              {{.fingers = {}, .actionInstalled = true, .mayAsk = false}, false, false}};
+  for (const auto& row : rows) {
     const PresenceServices services(row.script);
     EXPECT_EQ(can(biometrics), row.finger);
     EXPECT_EQ(can(password), row.anything);
@@ -122,46 +114,34 @@ TEST_F(LinuxPresenceTest, TheRightFingerPasses) {
   EXPECT_THAT(prompt.instructions, Contains(HasSubstr("not recognised")));
 }
 
-TEST_F(LinuxPresenceTest, ThreeWrongFingersFail) {
-  PresenceServices services(
-      {.touches = {
-           {"verify-no-match"}, {"verify-no-match"}, {"verify-no-match"}, {"verify-match"}}});
-  EXPECT_EQ(evaluate(biometrics), "no");
-  EXPECT_EQ(services.end().back(), "Release");
-}
-
-TEST_F(LinuxPresenceTest, AReaderThatFailsIsNamed) {
-  {
-    const PresenceServices services({.readerInUse = true});
-    EXPECT_THAT(evaluate(biometrics), HasSubstr("in use by another program"));
+TEST_F(LinuxPresenceTest, AFingerMayFail) {
+  const std::vector<std::string> wrong{"verify-no-match"};
+  const std::pair<Script, const char*> rows[] = {
+      {{.touches = {wrong, wrong, wrong, {"verify-match"}}}, "no"},
+      {{.readerInUse = true}, "in use by another program"},
+      {{.touches = {{"verify-disconnected"}}}, "unplugged"}};
+  for (const auto& [script, outcome] : rows) {
+    PresenceServices services(script);
+    EXPECT_THAT(evaluate(biometrics), HasSubstr(outcome));
+    EXPECT_EQ(services.end().back(), script.readerInUse ? "Claim" : "Release");
   }
-  const PresenceServices services({.touches = {{"verify-disconnected"}}});
-  EXPECT_THAT(evaluate(biometrics), HasSubstr("unplugged"));
-}
-
-TEST_F(LinuxPresenceTest, CancellingTheWindowFreesTheReader) {
-  PresenceServices services({});
+  const PresenceServices services({});
   prompt.answer = false;
   EXPECT_EQ(evaluate(biometrics), "Authentication was cancelled.");
 }
 
 TEST_F(LinuxPresenceTest, ThePasswordDecidesWithoutAReader) {
-  struct Row {
-    Script script;
-    std::string outcome;
-  };
-  const Row rows[] = {
+  const std::pair<Script, const char*> rows[] = {
       {{}, "yes"},
       {{.passwordRight = false}, "no"},
       {{.dismissed = true}, "Authentication was cancelled."},
       {{.mayAsk = false, .passwordRight = false},
        "Nobody could ask for your password: this desktop runs no polkit authentication agent."},
-      {{.actionInstalled = false}, "the action is not registered"},
-  };
+      {{.actionInstalled = false}, "the action is not registered"}};
   prompt.answer = true;
-  for (const Row& row : rows) {
-    const PresenceServices services(row.script);
-    EXPECT_EQ(evaluate(password), row.outcome);
+  for (const auto& [script, outcome] : rows) {
+    const PresenceServices services(script);
+    EXPECT_EQ(evaluate(password), outcome);
   }
   EXPECT_TRUE(prompt.requests[0].needsConsent);
 

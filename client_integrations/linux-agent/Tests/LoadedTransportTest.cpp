@@ -1,10 +1,8 @@
 #include <filesystem>
-#include <optional>
 #include <string>
 #include <vector>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "TemporaryFolder.h"
 #include "network/LoadedTransport.h"

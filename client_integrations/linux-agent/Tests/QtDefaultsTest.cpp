@@ -4,15 +4,13 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
-#include <string>
 #include <thread>
-#include <vector>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include "Cases.h"
 #include "TemporaryFolder.h"
 #include "session/QtDefaults.h"
 #include "session/QtDescriptors.h"
@@ -55,27 +53,7 @@ class QtDefaultsTest : public ::testing::Test {
 };
 
 TEST_F(QtDefaultsTest, KeepsValuesForTheirOwnerOnly) {
-  for (const char* value : {"https://a.example:8443/",
-                            "",
-                            " two  blanks ",
-                            "a, b; c = d",
-                            "\"quoted\" \\ back",
-                            "a;b\\",
-                            "Smith, X\\",
-                            "\\\"",
-                            "@Invalid()",
-                            "é 日本 🛡️",
-                            "tab\there",
-                            "a,b",
-                            "a;b",
-                            "a\\b",
-                            "a\\x41b",
-                            "\"",
-                            "a=b=",
-                            "%41",
-                            "#",
-                            ";",
-                            "[x]"}) {
+  for (const auto& [value] : testing::cases<std::string>()) {
     {
       QtDefaults defaults = make();
       defaults.setString("BoundIdentity", value);
@@ -104,12 +82,10 @@ TEST_F(QtDefaultsTest, ReadsWhatPeopleWrite) {
   EXPECT_FALSE(defaults.boolean("NoSuchKey"));
   EXPECT_EQ(fs::status(path_).permissions() & fs::perms::group_all, fs::perms::none);
 
-  for (const char* value :
-       {"a,b", "a;b", "a\\b", "a\\x41b", "a\\\\b", "\"a, b\"", "\"open", "%41%", "@Invalid()",
-        " two  blanks ", "\u00E9 日本 🛡️", "a=b", "# no comment", "[no section]", ""}) {
-    overwrite(path_, std::string("[General]\nAPIKey=") + value + "\n");
+  for (const auto& [value] : testing::cases<std::string>()) {
+    overwrite(path_, "[General]\nAPIKey=" + value + "\n");
     EXPECT_EQ(defaults.string("APIKey"), value);
-    overwrite(path_, std::string("APIKey=") + value);
+    overwrite(path_, "APIKey=" + value);
     EXPECT_EQ(defaults.string("APIKey"), value) << "without a heading, and at the end";
   }
 
@@ -118,27 +94,12 @@ TEST_F(QtDefaultsTest, ReadsWhatPeopleWrite) {
 }
 
 TEST_F(QtDefaultsTest, ChangesOneLineOnly) {
-  struct Row {
-    const char* before;
-    const char* after;
-  };
   fs::create_directories(path_.parent_path());
-  for (const Row& row : {
-           Row{"", "[General]\nAPIKey=new\n"},
-           Row{"# mine", "# mine\n[General]\nAPIKey=new\n"},
-           Row{"[general]\r\n; c\r\nAPIKey = old\r\nX=1,2\r\n\r\n[Other]\r\nAPIKey=other",
-               "[general]\r\n; c\r\nAPIKey=new\r\nX=1,2\r\n\r\n[Other]\r\nAPIKey=other"},
-           Row{"[General]\nX=\"1\n\n# c\n\n[Other]\nAPIKey=other\n",
-               "[General]\nX=\"1\nAPIKey=new\n\n# c\n\n[Other]\nAPIKey=other\n"},
-           Row{"[General]", "[General]\nAPIKey=new"},
-           Row{"APIKey=1\nAPIKey=2\n", "APIKey=1\nAPIKey=new\n"},
-           Row{"[Other]\nAPIKey=other\n", "[Other]\nAPIKey=other\n[General]\nAPIKey=new\n"},
-           Row{"\uFEFFAPIKey=old\n", "\uFEFFAPIKey=new\n"},
-       }) {
-    overwrite(path_, row.before);
+  for (const auto& [before, after] : testing::cases<std::string, std::string>()) {
+    overwrite(path_, before);
     QtDefaults defaults = make();
     defaults.setString("APIKey", "new");
-    EXPECT_EQ(contentsOf(path_), row.after);
+    EXPECT_EQ(contentsOf(path_), after);
     EXPECT_EQ(defaults.string("APIKey"), "new");
   }
   EXPECT_THAT(warnings_, IsEmpty());

@@ -8,7 +8,6 @@
 #include <chrono>
 #include <functional>
 #include <future>
-#include <memory>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -16,7 +15,6 @@
 #include <vector>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "session/QtMainLoop.h"
 #include "windows/OwnWindows.h"
@@ -30,15 +28,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
-/// Returns all texts of a dialog.
-std::string textsOf(const QWidget& dialog) {
-  QString texts;
-  for (const QLabel* label : dialog.findChildren<QLabel*>())
-    texts += label->text() + QLatin1Char('\n');
-  return texts.toStdString();
-}
-
-/// As if no other program had windows.
+/// Where no other program has windows.
 class ShownWindows : public OwnWindows {
  public:
   void bringToFront(QWidget& window) const override {
@@ -63,6 +53,18 @@ class QtPromptsTest : public ::testing::Test {
   static QWidget& dialog() {
     runUntil([] { return QApplication::activeModalWidget() != nullptr; });
     return *QApplication::activeModalWidget();
+  }
+
+  /// Everything that it says.
+  static std::string said() {
+    QString texts;
+    for (const QLabel* label : dialog().findChildren<QLabel*>())
+      texts += label->text() + QLatin1Char('\n');
+    return texts.toStdString();
+  }
+  static void expectSaid(const std::vector<std::string_view>& parts) {
+    for (const std::string_view part : parts)
+      EXPECT_THAT(said(), HasSubstr(std::string(part)));
   }
 
   static void press(int key, const QString& text = {}) {
@@ -97,10 +99,8 @@ class QtPromptsTest : public ::testing::Test {
   }
 
   std::future<std::optional<SecretBytes>> pending;
-  std::string program = "test";
-  std::string option = "-platform";
-  std::string platform = "offscreen";
-  std::array<char*, 4> arguments{program.data(), option.data(), platform.data(), nullptr};
+  std::string words[3] = {"test", "-platform", "offscreen"};
+  std::array<char*, 4> arguments{words[0].data(), words[1].data(), words[2].data(), nullptr};
   int count = 3;
   QApplication application{count, arguments.data()};
   QtMainLoop loop;
@@ -117,15 +117,13 @@ class QtPromptsTest : public ::testing::Test {
 
 TEST_F(QtPromptsTest, TheSecretIsAskedForWithWhatItIsFor) {
   ask([this] { return prompt.ask(request); });
-  const std::string said = textsOf(dialog());
-  for (const char* part : {"Enter the PIN", "Sign “x” as Ada", "Medium: LinkedIn Post",
-                           "The key is in the TPM.", "This PIN is wrong. Try 2 of 3."})
-    EXPECT_THAT(said, HasSubstr(part));
+  expectSaid({"Enter the PIN", "Sign “x” as Ada", "Medium: LinkedIn Post", "The key is in the TPM.",
+              "This PIN is wrong. Try 2 of 3."});
   EXPECT_FALSE(canAccept());
   type("24681x");
   press(Qt::Key_Backspace);
   EXPECT_TRUE(canAccept());
-  EXPECT_THAT(textsOf(dialog()), Not(HasSubstr("24681")));
+  EXPECT_THAT(said(), Not(HasSubstr("24681")));
   press(Qt::Key_Return);
   EXPECT_EQ(answer(), "24681");
 }
@@ -137,17 +135,13 @@ TEST_F(QtPromptsTest, ANewSecretIsTypedTwice) {
                              .notice = "The old one goes.",
                              .problem = {}});
   });
-  const std::string said = textsOf(dialog());
-  for (const std::string_view part :
-       {std::string_view("In a file."), std::string_view("The old one goes."),
-        rulesFor(SecretKind::passphrase)})
-    EXPECT_THAT(said, HasSubstr(std::string(part)));
+  expectSaid({"In a file.", "The old one goes.", rulesFor(SecretKind::passphrase)});
   const std::string good = "correct horse battery";
   type(good);
   press(Qt::Key_Tab);
   type("correct horse batterx");
   EXPECT_FALSE(canAccept());
-  EXPECT_THAT(textsOf(dialog()), HasSubstr("two entries differ"));
+  EXPECT_THAT(said(), HasSubstr("not the same"));
   press(Qt::Key_Backspace);
   type("y");
   EXPECT_TRUE(canAccept());
@@ -156,16 +150,16 @@ TEST_F(QtPromptsTest, ANewSecretIsTypedTwice) {
 }
 
 TEST_F(QtPromptsTest, NoAnswerWithoutThePerson) {
+  const std::function<void()> endings[] = {[] { press(Qt::Key_Escape); },
+                                           [this] { prompt.close(); }};
+  for (const auto& end : endings) {
+    ask([this] { return prompt.ask(request); });
+    type("24681");
+    end();
+    EXPECT_EQ(answer(), std::nullopt);
+  }
   ask([this] { return prompt.ask(request); });
-  type("24681");
-  press(Qt::Key_Escape);
-  EXPECT_EQ(answer(), std::nullopt);
-  ask([this] { return prompt.ask(request); });
-  dialog();
-  prompt.close();
-  EXPECT_EQ(answer(), std::nullopt);
-  ask([this] { return prompt.ask(request); });
-  EXPECT_EQ(answer(), std::nullopt);
+  EXPECT_EQ(answer(), std::nullopt) << "the agent is about to quit";
 }
 
 TEST_F(QtPromptsTest, PresenceIsAskedForWithWhatItIsFor) {
@@ -177,9 +171,7 @@ TEST_F(QtPromptsTest, PresenceIsAskedForWithWhatItIsFor) {
                                      .needsConsent = true},
                                     [&](bool answer) { goesOn = answer; });
   window->setInstruction("Touch it again.");
-  const std::string said = textsOf(dialog());
-  for (const char* part : {"Sign “x”", "Medium: LinkedIn Post", "Touch it again."})
-    EXPECT_THAT(said, HasSubstr(part));
+  expectSaid({"Sign “x”", "Medium: LinkedIn Post", "Touch it again."});
   press(Qt::Key_Return);
   runUntil([&] { return goesOn.has_value(); });
   EXPECT_EQ(goesOn, true);

@@ -2,27 +2,25 @@
 #include <chrono>
 #include <cstdint>
 #include <cstring>
-#include <map>
 #include <mutex>
 #include <optional>
 #include <string>
 #include <thread>
-#include <tuple>
 #include <utility>
 #include <vector>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-#include <poll.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
 
+#include "Cases.h"
 #include "RunUntil.h"
 #include "ScriptedCompositor.h"
 #include "TemporaryFolder.h"
 #include "core/text/Error.h"
 #include "desktop/SigningHotkey.h"
+#include "session/FileDescriptor.h"
 #include "session/PollLoop.h"
 #include "wayland/SwayHotkey.h"
 #include "wayland/SwayIpc.h"
@@ -54,16 +52,13 @@ class ScriptedSway {
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
     path().copy(address.sun_path, sizeof address.sun_path - 1);
-    bind(listening_, reinterpret_cast<const sockaddr*>(&address), sizeof address);
-    listen(listening_, 4);
+    bind(listening_.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address);
+    listen(listening_.get(), 4);
     thread_ = std::thread([this] { serve(); });
   }
   ~ScriptedSway() {
-    shutdown(listening_, SHUT_RDWR);
+    shutdown(listening_.get(), SHUT_RDWR);
     thread_.join();
-    for (const int client : clients_)
-      close(client);
-    close(listening_);
   }
   ScriptedSway(const ScriptedSway&) = delete;
   ScriptedSway& operator=(const ScriptedSway&) = delete;
@@ -83,65 +78,48 @@ class ScriptedSway {
 
  private:
   static void send(int client, std::uint32_t type, const std::string& text) {
+    const std::array<std::uint32_t, 2> numbers{static_cast<std::uint32_t>(text.size()), type};
     std::string message = "i3-ipc";
-    for (const std::uint32_t number : {static_cast<std::uint32_t>(text.size()), type}) {
-      std::array<char, sizeof number> bytes{};
-      std::memcpy(bytes.data(), &number, sizeof number);
-      message.append(bytes.data(), bytes.size());
-    }
-    message += text;
+    message.append(reinterpret_cast<const char*>(numbers.data()), sizeof numbers).append(text);
     static_cast<void>(!::send(client, message.data(), message.size(), MSG_NOSIGNAL));
   }
 
+  /// Each program on a thread of its own, until it leaves.
   void serve() {
-    while (true) {
-      std::vector<pollfd> files = {{.fd = listening_, .events = POLLIN, .revents = 0}};
-      for (const int client : clients_)
-        files.push_back({.fd = client, .events = POLLIN, .revents = 0});
-      poll(files.data(), files.size(), -1);
-      if (files.front().revents != 0) {
-        const int client = accept(listening_, nullptr, nullptr);
-        if (client < 0) return;
-        clients_.push_back(client);
-      }
-      for (std::size_t i = 1; i < files.size(); ++i)
-        if (files[i].revents != 0) answer(files[i].fd);
-    }
+    std::vector<std::jthread> programs;
+    for (int client = 0; (client = accept(listening_.get(), nullptr, nullptr)) >= 0;)
+      programs.emplace_back([this, socket = FileDescriptor(client)] {
+        while (answer(socket.get())) {
+        }
+      });
   }
 
-  void answer(int client) {
+  bool answer(int client) {
     std::array<char, 14> header{};
-    if (recv(client, header.data(), header.size(), MSG_WAITALL) <= 0) {
-      std::erase(clients_, client);
-      close(client);
-      return;
-    }
+    if (recv(client, header.data(), header.size(), MSG_WAITALL) <= 0) return false;
     std::array<std::uint32_t, 2> numbers{};
     std::memcpy(numbers.data(), header.data() + 6, sizeof numbers);
     std::string text(numbers[0], '\0');
     if (!text.empty()) recv(client, text.data(), text.size(), MSG_WAITALL);
     const std::lock_guard lock(mutex_);
-    if (!script_.answers) return;
-    switch (numbers[1]) {
-      case 0:
-        commands_.push_back(text);
-        return send(
-            client, 0,
-            script_.binds && (script_.bindsReleases || text.find("--release") == std::string::npos)
-                ? R"([{"success": true}])"
-                : R"([{"success": false}])");
-      case 2:
-        subscriber_ = client;
-        return send(client, 2, R"({"success": true})");
-      default:
-        return send(client, numbers[1], R"({"config": ")" + script_.configuration + R"("})");
+    if (!script_.answers) return true;
+    std::string reply = R"({"config": ")" + script_.configuration + R"("})";
+    if (numbers[1] == 0) {
+      commands_.push_back(text);
+      const bool isRelease = text.find("--release") != std::string::npos;
+      reply = script_.binds && (script_.bindsReleases || !isRelease) ? R"([{"success": true}])"
+                                                                     : R"([{"success": false}])";
+    } else if (numbers[1] == 2) {
+      subscriber_ = client;
+      reply = R"({"success": true})";
     }
+    send(client, numbers[1], reply);
+    return true;
   }
 
   testing::TemporaryFolder folder_;
   Script script_;
-  int listening_ = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-  std::vector<int> clients_;  // of the thread
+  FileDescriptor listening_{socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0)};
   std::mutex mutex_;
   int subscriber_ = -1;                // guarded by mutex_
   std::vector<std::string> commands_;  // guarded by mutex_
@@ -204,35 +182,29 @@ TEST(SwayHotkeyTest, FollowsTheLayout) {
   compositor.setLayout(layoutWithH(44));
   testing::runUntil(agent.loop, [&] { return sway.commands().size() == 6; });
   const std::vector<std::string> commands = sway.commands();
-  for (const auto& [number, start, key] : {std::tuple{2, "unbindcode --no", "+43"},
-                                           {3, "unbindcode --release", "+43"},
-                                           {4, "bindcode --no", "+44 nop"},
-                                           {5, "bindcode --release", "+44 nop"}})
-    EXPECT_THAT(commands[static_cast<std::size_t>(number)],
-                AllOf(::testing::StartsWith(start), HasSubstr(key)));
+  const auto says = [](const char* start, const char* key) {
+    return AllOf(::testing::StartsWith(start), HasSubstr(key));
+  };
+  EXPECT_THAT(std::vector(commands.begin() + 2, commands.end()),
+              ElementsAre(says("unbindcode --no", "+43"), says("unbindcode --release", "+43"),
+                          says("bindcode --no", "+44 nop"), says("bindcode --release", "+44 nop")));
 }
 
 TEST(SwayHotkeyTest, SaysWhyThereIsNone) {
   const ScriptedCompositor compositor;
-  const struct {
-    ScriptedSway::Script script;
-    bool isSway;
-    const char* part;
-  } rows[] = {
-      {{}, false, "gives programs no hotkey"},
-      {{.configuration = "bindsym Ctrl+Alt+Super+h exec x"}, true, "configuration already uses"},
-      {{.binds = false}, true, "Sway does not bind Ctrl+Alt+Super+H"},
-      {{.answers = false}, true, "Sway does not bind"}};
-  for (const auto& row : rows) {
-    ScriptedSway sway(row.script);
+  const std::pair<ScriptedSway::Script, const char*> rows[] = {
+      {{.configuration = "bindsym Ctrl+Alt+Super+h exec x"}, "configuration already uses"},
+      {{.binds = false}, "Sway does not bind Ctrl+Alt+Super+H"},
+      {{.answers = false}, "Sway does not bind"},
+      {{}, "gives programs no hotkey"}};
+  for (const auto& [script, part] : rows) {
+    const ScriptedSway sway(script);
     Agent agent;
-    SwayHotkey keys(agent.services(row.isSway ? sway.path() : ""));
-    try {
-      keys.registerHotkey(hotkey, [] {});
-      ADD_FAILURE() << row.part;
-    } catch (const Error& error) {
-      EXPECT_THAT(error.what(), AllOf(HasSubstr(row.part), HasSubstr("quillseal --sign")));
-    }
+    const bool isSway = &script != &rows[3].first;
+    SwayHotkey keys(agent.services(isSway ? sway.path() : ""));
+    EXPECT_THAT(
+        [&] { keys.registerHotkey(hotkey, [] {}); },
+        ::testing::ThrowsMessage<Error>(AllOf(HasSubstr(part), HasSubstr("quillseal --sign"))));
   }
 }
 
@@ -256,46 +228,16 @@ TEST(SwayHotkeyTest, LeavesNothingBoundAfterItWasRefused) {
 }
 
 TEST(SwayTree, NamesTheApplicationOfATitle) {
-  const std::string tree = R"({"type": "root", "name": "root", "nodes": [
-      {"type": "output", "name": "letter", "nodes": [{"type": "workspace", "nodes": [
-        {"pid": 1, "name": "letter", "app_id": "writer"},
-        {"pid": 2, "name": "twice", "app_id": "editor"}],
-       "floating_nodes": [
-        {"pid": 3, "name": "twice", "app_id": "chat"},
-        {"pid": 4, "name": null, "app_id": "untitled"},
-        {"pid": 5, "name": "old", "app_id": null, "window_properties": {"class": "XTerm"}}]}]}]})";
-  EXPECT_EQ(applicationIdIn(tree, "letter"), "writer");
-  EXPECT_EQ(applicationIdIn(tree, "old"), "XTerm");
-  EXPECT_EQ(applicationIdIn(tree, "twice"), std::nullopt);
-  EXPECT_EQ(applicationIdIn(tree, "none"), std::nullopt);
+  for (const auto& [tree, title, application] :
+       testing::cases<nlohmann::json, std::string, std::string>())
+    EXPECT_EQ(applicationIdIn(tree.dump(), title).value_or("none"), application) << title;
   for (const char* text : {"", "[]", "{\"nodes\": 1}", "{"})
     EXPECT_EQ(applicationIdIn(text, ""), std::nullopt);
 }
 
 TEST(SwayConfiguration, IsSearchedForTheKeys) {
-  const struct {
-    const char* text;
-    bool binds;
-  } rows[] = {
-      {"", false},
-      {"bindsym Ctrl+Alt+Super+h exec x", true},
-      {"  bindsym --to-code --release Mod4+control+Mod1+H exec x", true},
-      {"set $mod Mod4\nset $moder Shift\nbindsym $mod+Ctrl+Mod1+h nop", true},
-      {"set $moder Mod4\nset $mod Shift\nbindsym $moder+Ctrl+Mod1+h nop", true},
-      {"bindcode Logo+Ctrl+Alt+43 nop", true},
-      {"bindsym {\n  Ctrl+Alt+Super+h nop\n}", true},
-      {"bindsym \\\n  Ctrl+Alt+Super+h nop", true},
-      {"# bindsym Ctrl+Alt+Super+h nop", false},
-      {"bindsym Ctrl+Alt+Super+j nop", false},
-      {"bindsym Ctrl+Alt+h nop", false},
-      {"bindsym Shift+Ctrl+Alt+Super+h nop", false},
-      {"mode \"resize\" {\n  bindsym Ctrl+Alt+Super+h nop\n}", false},
-      {"mode \"resize\" {\n  bindsym x nop\n}\nbindsym Ctrl+Alt+Super+h nop", true},
-      {"bindsym", false},
-      {"}\n}\nbindsym --", false},
-  };
-  for (const auto& row : rows)
-    EXPECT_EQ(bindsAlready(row.text, {.symbol = "h", .code = 43}), row.binds) << row.text;
+  for (const auto& [text, binds] : testing::cases<std::string, bool>())
+    EXPECT_EQ(bindsAlready(text, {.symbol = "h", .code = 43}), binds) << text;
 }
 
 }  // namespace

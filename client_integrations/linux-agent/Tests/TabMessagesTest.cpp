@@ -1,7 +1,6 @@
 #include <cstring>
 
-#include <gtest/gtest.h>
-
+#include "Cases.h"
 #include "browsers/TabMessages.h"
 
 namespace quillseal::linux::TabMessages {
@@ -48,66 +47,17 @@ TEST(TabMessages, SayWhatTheExtensionUnderstands) {
 }
 
 TEST(TabMessages, SurviveBeingPassedOn) {
-  for (const char* request :
-       {R"({"id":7,"operation":"currentTab"})",
-        R"({"id":8,"operation":"closeAndRestore","urlContains":"/handoff?h=1","tab":12})",
-        R"({"id":8,"operation":"closeAndRestore","urlContains":"/handoff?h=1","tab":null})"}) {
-    EXPECT_EQ(written(readRequest(request)), request);
-  }
-  for (const char* answer :
-       {R"({"id":7,"operation":"currentTab","tab":3,"focusedAt":1795563172284})",
-        R"({"id":7,"operation":"currentTab","tab":null,"focusedAt":0})",
-        R"({"id":8,"operation":"closeAndRestore","closed":true,"restored":false})"}) {
-    EXPECT_EQ(written(readAnswer(answer)), answer);
-  }
+  for (const auto& [kind, message] : testing::cases<std::string, std::string>())
+    EXPECT_EQ(kind == "request" ? written(readRequest(message)) : written(readAnswer(message)),
+              message);
   EXPECT_EQ(readGreeting(written(Greeting{"chromium"})).program, "chromium");
 }
 
-TEST(TabMessages, LosesWhatDoesNotBelong) {
-  const auto request = readRequest(
-      R"({"operation":"currentTab","id":7,"urlContains":"x","eval":"x","more":[[[{}]]]})");
-  EXPECT_EQ(written(request), R"({"id":7,"operation":"currentTab"})");
-}
-
 TEST(TabMessages, RefusesWhatIsNoSuchMessage) {
-  for (const char* request : {
-           "",
-           "null",
-           "[]",
-           "{",
-           "7",
-           R"("x")",
-           R"({"id":7})",
-           R"({"operation":"currentTab"})",
-           R"({"id":"7","operation":"currentTab"})",
-           R"({"id":7.5,"operation":"currentTab"})",
-           R"({"id":18446744073709551615,"operation":"currentTab"})",
-           R"({"id":7,"operation":"close","urlContains":"/handoff?h=1","tab":1})",
-           R"({"id":7,"id":8,"operation":"currentTab"})",
-           R"({"id":7,"operation":"currentTab"}{})",
-           R"({"id":7,"operation":"closeAndRestore"})",
-           R"({"id":7,"operation":"closeAndRestore","urlContains":""})",
-           R"({"id":7,"operation":"closeAndRestore","urlContains":"h"})",
-           R"({"id":7,"operation":"closeAndRestore","urlContains":"/handoff?h="})",
-           R"({"id":7,"operation":"closeAndRestore","urlContains":"https://a/handoff?h=1"})",
-           R"({"id":7,"operation":"closeAndRestore","urlContains":"/handoff?h=1&a"})",
-           R"({"id":7,"operation":"closeAndRestore","urlContains":"/handoff?h=a\u202Eb"})",
-           R"({"id":7,"operation":"closeAndRestore","urlContains":["/handoff?h=1"]})",
-           R"({"id":7,"operation":"closeAndRestore","urlContains":"/handoff?h=1","tab":"1"})",
-       }) {
-    EXPECT_THROW((void)readRequest(request), ProtocolError) << request;
-  }
-  for (const char* answer : {
-           "",
-           "{}",
-           R"({"id":7,"tab":1,"focusedAt":1})",
-           R"({"id":7,"operation":"currentTab","tab":1})",
-           R"({"id":7,"operation":"currentTab","tab":"1","focusedAt":1})",
-           R"({"id":7,"operation":"closeAndRestore","closed":1,"restored":true})",
-           R"({"id":7,"operation":"closeAndRestore","closed":true})",
-       }) {
-    EXPECT_THROW((void)readAnswer(answer), ProtocolError) << answer;
-  }
+  for (const auto& [kind, message] : testing::cases<std::string, std::string>())
+    EXPECT_THROW(kind == "request" ? (void)readRequest(message) : (void)readAnswer(message),
+                 ProtocolError)
+        << message;
   EXPECT_THROW((void)readGreeting(R"({"program":null})"), ProtocolError);
 }
 

@@ -8,20 +8,22 @@
 #include <thread>
 #include <vector>
 
-#include <gtest/gtest.h>
+#include <fcntl.h>
 #include <poll.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "Cases.h"
 #include "TemporaryFolder.h"
 #include "browsers/TabMessages.h"
 #include "browsers/TabSocket.h"
+#include "core/text/UnicodeText.h"
 #include "session/PrivateFolder.h"
 
 namespace quillseal::linux {
 namespace {
 
-using namespace std::chrono_literals;
+using namespace std::literals;
 using testing::TemporaryFolder;
 
 constexpr int patience = 10'000;  // milliseconds
@@ -50,15 +52,13 @@ class Relay {
   explicit Relay(std::vector<std::string> arguments) {
     std::array<int, 2> toRelay{};
     std::array<int, 2> fromRelay{};
-    if (::pipe(toRelay.data()) != 0 || ::pipe(fromRelay.data()) != 0)
+    if (::pipe2(toRelay.data(), O_CLOEXEC) != 0 || ::pipe2(fromRelay.data(), O_CLOEXEC) != 0)
       throw std::runtime_error("pipe");
     process_ = ::fork();
     if (process_ == 0) {
       ::signal(SIGPIPE, SIG_DFL);
       ::dup2(toRelay[0], STDIN_FILENO);
       ::dup2(fromRelay[1], STDOUT_FILENO);
-      for (const int end : {toRelay[0], toRelay[1], fromRelay[0], fromRelay[1]})
-        ::close(end);
       arguments.insert(arguments.begin(), QUILLSEAL_TAB_RELAY);
       std::vector<char*> pointers;
       for (std::string& argument : arguments)
@@ -124,6 +124,8 @@ class Relay {
   FileDescriptor output_{-1};
 };
 
+const std::string request = R"({"id":1,"operation":"currentTab"})";
+const std::string answer = R"({"id":1,"operation":"currentTab","tab":4,"focusedAt":9})";
 const std::vector<std::string> chromiumCall = {"chrome-extension://" QUILLSEAL_CHROMIUM_EXTENSION
                                                "/"};
 
@@ -159,34 +161,25 @@ class TabRelayTest : public ::testing::Test {
 };
 
 TEST_F(TabRelayTest, IsStartedByTheExtensionAlone) {
-  const std::string id = QUILLSEAL_CHROMIUM_EXTENSION;
-  for (const std::vector<std::string>& arguments : {
-           std::vector<std::string>{},
-           {"chrome-extension://aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa/"},
-           {"chrome-extension://" + id},
-           {"chrome-extension://" + id + "/x"},
-           {"chrome-extension://" + id + "/", "more"},
-           {QUILLSEAL_FIREFOX_EXTENSION},
-           {"/host.json", "other@example.com"},
-           {"--help"},
-       }) {
+  for (auto [arguments, status] : testing::cases<std::vector<std::string>, int>()) {
+    for (std::string& argument : arguments) {
+      argument = unicode::replacingAll(argument, "CHROMIUM", QUILLSEAL_CHROMIUM_EXTENSION);
+      argument = unicode::replacingAll(argument, "FIREFOX", QUILLSEAL_FIREFOX_EXTENSION);
+    }
     Relay relay(arguments);
-    EXPECT_EQ(relay.status(), 2);
+    relay.closeInput();
+    EXPECT_EQ(relay.status(), status) << ::testing::PrintToString(arguments);
   }
-  Relay relay({"/host.json", QUILLSEAL_FIREFOX_EXTENSION});
-  relay.closeInput();
-  EXPECT_EQ(relay.status(), 0);
 }
 
 TEST_F(TabRelayTest, PassesMessagesBothWays) {
   connect();
-  for (const char* request :
-       {R"({"id":1,"operation":"currentTab"})",
-        R"({"id":2,"operation":"closeAndRestore","urlContains":"/handoff?h=1","tab":4})"}) {
-    ASSERT_TRUE(TabSocket::send(*agent_, TabMessages::framed(request)));
-    EXPECT_EQ(messageFrom(relay_->output()), request);
+  for (const std::string& asked :
+       {request,
+        R"({"id":2,"operation":"closeAndRestore","urlContains":"/handoff?h=1","tab":4})"s}) {
+    ASSERT_TRUE(TabSocket::send(*agent_, TabMessages::framed(asked)));
+    EXPECT_EQ(messageFrom(relay_->output()), asked);
   }
-  const std::string answer = R"({"id":1,"operation":"currentTab","tab":4,"focusedAt":9})";
   relay_->write(TabMessages::framed(answer).substr(0, 9));
   relay_->write(TabMessages::framed(answer).substr(9));
   EXPECT_EQ(messageFrom(*agent_), answer);
@@ -218,8 +211,7 @@ TEST_F(TabRelayTest, EndsWithTheBrowserAndWithTheAgent) {
 
   connect();
   relay_->closeOutput();
-  ASSERT_TRUE(
-      TabSocket::send(*agent_, TabMessages::framed(R"({"id":1,"operation":"currentTab"})")));
+  ASSERT_TRUE(TabSocket::send(*agent_, TabMessages::framed(request)));
   EXPECT_EQ(relay_->status(), 0);
 
   connect();
@@ -247,9 +239,8 @@ TEST_F(TabRelayTest, PassesOnNothingThatIsNoPartOfAMessage) {
   connect();
   ASSERT_TRUE(TabSocket::send(
       *agent_, TabMessages::framed(R"({"id":1,"operation":"currentTab","eval":"x"})")));
-  EXPECT_EQ(messageFrom(relay_->output()), R"({"id":1,"operation":"currentTab"})");
-  // The longest allowed message, and one byte more.
-  const std::string answer = R"({"id":1,"operation":"currentTab","tab":4,"focusedAt":9})";
+  EXPECT_EQ(messageFrom(relay_->output()), request);
+  // The longest message that may come, and one byte more.
   relay_->write(
       TabMessages::framed(answer + std::string(TabMessages::longestMessage - answer.size(), ' ')));
   EXPECT_EQ(messageFrom(*agent_), answer);
@@ -260,7 +251,7 @@ TEST_F(TabRelayTest, PassesOnNothingThatIsNoPartOfAMessage) {
 
 TEST_F(TabRelayTest, HearsNoBrowserThatWasNotAskedAndTrustsNoFolderThatOthersCouldChange) {
   relay_.emplace(chromiumCall);
-  relay_->write(TabMessages::framed(R"({"id":1,"operation":"currentTab","tab":4,"focusedAt":9})"));
+  relay_->write(TabMessages::framed(answer));
   EXPECT_EQ(relay_->status(), 1);
   std::filesystem::permissions(runtime_.path(), std::filesystem::perms::all);
   relay_.emplace(chromiumCall);
@@ -269,9 +260,8 @@ TEST_F(TabRelayTest, HearsNoBrowserThatWasNotAskedAndTrustsNoFolderThatOthersCou
 
 TEST_F(TabRelayTest, DoesNotWaitForABrowserThatReadsNothing) {
   connect();
-  const std::string request = TabMessages::framed(R"({"id":1,"operation":"currentTab"})");
   for (int i = 0; i < 5000 && !isReadable(*agent_, 0); ++i) {
-    if (!TabSocket::send(*agent_, request)) std::this_thread::sleep_for(1ms);
+    if (!TabSocket::send(*agent_, TabMessages::framed(request))) std::this_thread::sleep_for(1ms);
   }
   EXPECT_EQ(relay_->status(), 0);
 }

@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -34,9 +34,11 @@ class TemporaryFolder {
   std::filesystem::path path_;
 };
 
+/// As far as it can be read: a file below /proc may go meanwhile.
 inline std::string contentsOf(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
+  std::ostringstream contents;
+  contents << std::ifstream(path, std::ios::binary).rdbuf();
+  return contents.str();
 }
 
 inline void overwrite(const std::filesystem::path& path, std::string_view contents) {

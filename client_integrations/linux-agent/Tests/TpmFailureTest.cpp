@@ -3,7 +3,6 @@
 #include <vector>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "keys/TpmFailure.h"
 
@@ -41,26 +40,21 @@ TEST(TpmFailure, UnderstandsEveryLayer) {
 }
 
 TEST(TpmFailure, SaysWhyTheDeviceDoesNotOpen) {
-  struct Row {
-    int number;
+  const struct {
+    std::vector<int> numbers;
     TpmProblem problem;
     const char* phrase;
-  };
-  constexpr Row rows[] = {
-      {ENOENT, TpmProblem::noDevice, "/dev/tpmrm0 does not exist"},
-      {ENODEV, TpmProblem::noDevice, "/dev/tpmrm0 does not exist"},
-      {ENXIO, TpmProblem::noDevice, "/dev/tpmrm0 does not exist"},
-      {EACCES, TpmProblem::noPermission, "group"},
-      {EPERM, TpmProblem::noPermission, "group"},
-      {EBUSY, TpmProblem::busy, "busy"},
-      {EIO, TpmProblem::unknown, "Input/output error"},
-  };
-  for (const Row& row : rows) {
-    const TpmFailure failure =
-        tpmFailureOf(DeviceError{.device = "/dev/tpmrm0", .number = row.number});
-    EXPECT_EQ(failure.problem, row.problem) << row.number;
-    EXPECT_THAT(failure.message, HasSubstr(row.phrase));
-  }
+  } rows[] = {{{ENOENT, ENODEV, ENXIO}, TpmProblem::noDevice, "/dev/tpmrm0 does not exist"},
+              {{EACCES, EPERM}, TpmProblem::noPermission, "group"},
+              {{EBUSY}, TpmProblem::busy, "busy"},
+              {{EIO}, TpmProblem::unknown, "Input/output error"}};
+  for (const auto& [numbers, problem, phrase] : rows)
+    for (const int number : numbers) {
+      const TpmFailure failure =
+          tpmFailureOf(DeviceError{.device = "/dev/tpmrm0", .number = number});
+      EXPECT_EQ(failure.problem, problem) << number;
+      EXPECT_THAT(failure.message, HasSubstr(phrase));
+    }
 }
 
 }  // namespace

@@ -4,12 +4,25 @@
 #include <string_view>
 
 #include "SignatureCheck.h"
+#include "keys/KeyFailure.h"
 #include "keys/P256.h"
 
 namespace quillseal::testing {
 
-/// Returns whether the development server's code, which shares nothing with the key stores, accepts
-/// the signature by this key over this digest, in strict DER.
+/// What a key store says when the action fails.
+std::string failureOf(const auto& action) {
+  try {
+    action();
+  } catch (const Cancelled& cancelled) {
+    return cancelled.what();
+  } catch (const linux::KeyFailure& failure) {
+    return failure.what();
+  }
+  return "(no failure)";
+}
+
+/// Whether a server, which shares nothing with the key stores, accepts the signature: made with
+/// this key, over these bytes taken as a finished digest, in strict DER.
 inline bool isAcceptedByServer(const linux::P256::Claim& claim) {
   const auto text = [](linux::P256::Bytes bytes) {
     return std::string(bytes.begin(), bytes.end());

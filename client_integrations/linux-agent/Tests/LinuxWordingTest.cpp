@@ -108,7 +108,7 @@ std::string shownIn(const std::string& act, const json& given, const desktop::Wo
   const auto window = desktop.windows.make({.title = "Settings", .width = 1, .height = 1});
   TaskScope tasks;
   if (act == "sign") {
-    for (int i = 0; i <= SigningCoordinator::mostRuns * desktop.alerts.leavesDialogsOpen; ++i)
+    for (int i = desktop.alerts.leavesDialogsOpen ? SigningCoordinator::mostRuns : 0; i >= 0; --i)
       coordinator.startSigning();
     desktop.loop.run();
   } else if (act == "enrol") {

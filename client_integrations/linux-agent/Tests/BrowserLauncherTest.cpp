@@ -192,7 +192,7 @@ TEST_F(BrowserLauncherTest, TellsWhyNothingOpens) {
   expectFailure(launcher_, "secluded", "“secluded” runs in a sandbox");
   ::setenv("HOME", (computer().root() / "elsewhere").c_str(), 1);
   expectFailure(launcher_, "snapped", "elsewhere/snap/snapped/common”: No such file");
-  expectFailure(launcher_, "gone", "“gone” is not installed");
+  expectFailure(launcher_, "gone", "“gone” is no longer installed");
   expectFailure(launcher_, "", "opens web pages", "gopher://seal.example/");
   fs::permissions(computer().root() / "runtime", fs::perms::all);
   expectFailure(launcher_, "", "of this user alone");

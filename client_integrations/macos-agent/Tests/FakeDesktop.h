@@ -268,7 +268,7 @@ struct Copy {
 struct FakePasteboard final : Fake<desktop::Pasteboard> {
   using Fake::Fake;
   Copy clipboard;
-  bool tellsOfChanges = true;
+  bool reportsChanges = true;
   std::string obstacle;
 
   void put(const Copy& copy) {
@@ -278,7 +278,7 @@ struct FakePasteboard final : Fake<desktop::Pasteboard> {
   }
   std::int64_t changeCount() const override { return changeCount_; }
   Ticket onNextChange(std::function<void()> changed) override {
-    if (tellsOfChanges) changed_ = std::move(changed);
+    if (reportsChanges) changed_ = std::move(changed);
     return Ticket([this] { changed_ = nullptr; });
   }
   Ticket fetch(std::function<void()> done) override {

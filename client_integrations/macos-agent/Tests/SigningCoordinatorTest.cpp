@@ -175,7 +175,7 @@ void give(Story& d, const std::string& name, const std::string& value) {
       {"any browser opens", &d.applications.anyBrowserOpens},
       {"browser opens", &d.applications.browserOpens},
       {"chrome", &d.applications.chrome},
-      {"clipboard tells of changes", &d.pasteboard.tellsOfChanges},
+      {"clipboard reports changes", &d.pasteboard.reportsChanges},
       {"copied elsewhere", &d.keys.copiedElsewhere},
       {"copy takes", &d.keys.copyTime},
       {"creation cancelled", &d.keyStore.cancelsCreation},

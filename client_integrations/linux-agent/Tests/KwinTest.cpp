@@ -22,8 +22,8 @@
 #include "core/text/Error.h"
 #include "core/text/UniqueHandle.h"
 #include "desktop/SigningHotkey.h"
+#include "session/DesktopBus.h"
 #include "session/PollLoop.h"
-#include "wayland/DesktopBus.h"
 #include "wayland/KwinHotkey.h"
 #include "wayland/KwinKeyboard.h"
 #include "wayland/WaylandConnection.h"
@@ -340,6 +340,32 @@ TEST_F(KwinBus, IsNotWaitedForWhenItHangs) {
           nobody),
       nullptr);
   EXPECT_LT(std::chrono::steady_clock::now() - start, 5s);
+}
+
+TEST_F(KwinBus, AnswersLaterUnlessTheCallIsDropped) {
+  std::optional<ScriptedKde> kde(std::in_place, ScriptedKde::Script{.answers = false});
+  PollLoop loop;
+  const auto bus = DesktopBus::open();
+  bus->serve(loop, loop);
+  std::vector<bool> isError;
+  const auto call = [&](const char* service, const char* name) {
+    const auto request = bus->newCall(
+        {.service = service, .path = "/", .interface = "org.kde.KGlobalAccel", .name = name});
+    return bus->callLater(*request, [&](sd_bus_message* answer) {
+      isError.push_back(::sd_bus_message_is_method_error(answer, nullptr) != 0);
+    });
+  };
+  desktop::Ticket dropped = call("org.kde.kglobalaccel", "unregister");
+  const desktop::Ticket absent = call("org.kde.absent", "unregister");
+  testing::runUntil(loop, [&] { return isError.size() == 1; });
+  dropped = {};
+  const desktop::Ticket unanswered = call("org.kde.kglobalaccel", "unregister");
+  testing::runUntil(loop, [&] { return kde->calls().size() == 2; });
+  kde.reset();
+  kde.emplace(ScriptedKde::Script{});
+  const desktop::Ticket answered = call("org.kde.kglobalaccel", "unregister");
+  testing::runUntil(loop, [&] { return isError.size() == 3; });
+  EXPECT_EQ(isError, std::vector({true, true, false}));
 }
 
 TEST_F(KwinBus, IsNoneWhereTheSessionHasNone) {

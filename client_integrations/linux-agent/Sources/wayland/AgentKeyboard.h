@@ -3,7 +3,7 @@
 #include <memory>
 #include <span>
 
-#include "wayland/DesktopBus.h"
+#include "session/DesktopBus.h"
 #include "wayland/WaylandConnection.h"
 #include "x11/KeyChords.h"
 

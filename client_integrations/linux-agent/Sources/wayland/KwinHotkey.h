@@ -5,7 +5,7 @@
 
 #include "desktop/Hotkey.h"
 #include "desktop/MainLoop.h"
-#include "wayland/DesktopBus.h"
+#include "session/DesktopBus.h"
 #include "wayland/WaylandConnection.h"
 
 namespace quillseal::linux {

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "wayland/AgentKeyboard.h"
-#include "wayland/DesktopBus.h"
+#include "session/DesktopBus.h"
 #include "wayland/WaylandConnection.h"
 #include "wayland/WaylandLayout.h"
 

@@ -5,7 +5,7 @@
 
 #include "session/WindowingSystem.h"
 #include "wayland/AgentKeyboard.h"
-#include "wayland/DesktopBus.h"
+#include "session/DesktopBus.h"
 #include "wayland/WaylandApplications.h"
 #include "wayland/WaylandConnection.h"
 #include "wayland/WaylandKeyEvents.h"

@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
 
 #include <systemd/sd-bus.h>
 
@@ -13,8 +14,7 @@
 
 namespace quillseal::linux {
 
-/// A private connection to the D-Bus session bus, for services of the compositor. A call starts no
-/// service and takes at most a second. Main thread.
+/// A private connection to the D-Bus session bus, for services of the desktop. Main thread.
 class DesktopBus {
  public:
   using Message = UniqueHandle<sd_bus_message, ::sd_bus_message_unref>;
@@ -32,7 +32,7 @@ class DesktopBus {
     const char* path;
     const char* interface;
     const char* name;
-    const char* firstArgument;
+    const char* firstArgument;  ///< null when any will do
   };
 
   /// Null where there is no session bus.
@@ -47,8 +47,8 @@ class DesktopBus {
   /// Whether somebody has this name; nothing when the bus does not answer.
   [[nodiscard]] std::optional<bool> knows(const char* name);
 
-  /// Calls a method and returns the answer; null when there is none or an error. `types` and
-  /// `arguments` as for sd_bus_message_append.
+  /// Calls a method and returns the answer; null when there is none within a second, or an error.
+  /// Starts no service. `types` and `arguments` as for sd_bus_message_append.
   template <typename... Arguments>
   [[nodiscard]] Message call(const Method& method, const char* types, Arguments... arguments) {
     const Message request = newCall(method);
@@ -57,6 +57,18 @@ class DesktopBus {
     return send(*request);
   }
 
+  /// Makes a call for `callLater`. Null when the bus is gone.
+  [[nodiscard]] Message newCall(const Method& method);
+
+  /// Sends the call and returns at once. `answered` gets the answer, which may take any time and is
+  /// an error when the bus has gone meanwhile; null when the call could not be sent. Starts the
+  /// service if needed. REQUIRES: `serve` was called.
+  using Answered = std::function<void(sd_bus_message*)>;
+  [[nodiscard]] desktop::Ticket callLater(sd_bus_message& request, Answered answered);
+
+  /// The name of this connection on the bus, such as ":1.42"; empty when there is none.
+  [[nodiscard]] std::string ownName() const;
+
   /// Calls `received` for each such signal, from inside the bus's events. The function outlives the
   /// subscription. Null when subscribing failed.
   using Receiver = std::function<void(sd_bus_message&)>;
@@ -64,8 +76,8 @@ class DesktopBus {
 
  private:
   explicit DesktopBus(sd_bus* bus) : bus_(bus) {}
-  [[nodiscard]] Message newCall(const Method& method);
   [[nodiscard]] Message send(sd_bus_message& request);
+  void processQueued();
   void process();
 
   UniqueHandle<sd_bus, ::sd_bus_flush_close_unref> bus_;

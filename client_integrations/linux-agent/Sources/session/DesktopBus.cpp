@@ -1,12 +1,26 @@
-#include "wayland/DesktopBus.h"
+#include "session/DesktopBus.h"
 
 #include <cstdint>
 #include <string>
+#include <utility>
 
 namespace quillseal::linux {
 namespace {
 
 constexpr std::uint64_t callMicroseconds = 1'000'000;
+
+/// A call that waits for its answer.
+struct Pending {
+  DesktopBus::Answered answered;
+  DesktopBus::Subscription slot;
+};
+
+int answer(sd_bus_message* message, void* data, sd_bus_error* /*error*/) {
+  // A copy: the completion may drop the ticket, and with it the call.
+  const auto answered = std::exchange(static_cast<Pending*>(data)->answered, nullptr);
+  if (answered) answered(message);
+  return 0;
+}
 
 }  // namespace
 
@@ -46,18 +60,30 @@ DesktopBus::Message DesktopBus::newCall(const Method& method) {
   if (::sd_bus_message_new_method_call(bus_.get(), &made, method.service, method.path,
                                        method.interface, method.name) < 0)
     return nullptr;
-  ::sd_bus_message_set_auto_start(made, 0);
   return Message(made);
 }
 
+desktop::Ticket DesktopBus::callLater(sd_bus_message& request, Answered answered) {
+  const auto pending = std::make_shared<Pending>(std::move(answered));
+  sd_bus_slot* slot = nullptr;
+  const int sent =
+      ::sd_bus_call_async(bus_.get(), &slot, &request, answer, pending.get(), UINT64_MAX);
+  pending->slot.reset(slot);
+  if (sent >= 0) return desktop::Ticket([pending] { *pending = {}; });
+  answer(nullptr, pending.get(), nullptr);
+  return {};
+}
+
+std::string DesktopBus::ownName() const {
+  const char* name = nullptr;
+  return ::sd_bus_get_unique_name(bus_.get(), &name) < 0 ? std::string() : std::string(name);
+}
+
 DesktopBus::Message DesktopBus::send(sd_bus_message& request) {
+  ::sd_bus_message_set_auto_start(&request, 0);
   sd_bus_message* answer = nullptr;
   const int result = ::sd_bus_call(bus_.get(), &request, callMicroseconds, nullptr, &answer);
-  // Signals that came before the answer are already in memory, so the descriptor does not become
-  // readable for them.
-  std::uint64_t waiting = 0;
-  if (loop_ != nullptr && ::sd_bus_get_n_queued_read(bus_.get(), &waiting) >= 0 && waiting > 0)
-    later_ = loop_->after({}, [this] { process(); });
+  processQueued();
   return Message(result < 0 ? nullptr : answer);
 }
 
@@ -66,12 +92,22 @@ DesktopBus::Subscription DesktopBus::subscribe(const Signal& signal, Receiver& r
     (*static_cast<Receiver*>(data))(*message);
     return 0;
   };
-  const std::string rule = std::string("type='signal',sender='") + signal.sender + "',path='" +
-                           signal.path + "',interface='" + signal.interface + "',member='" +
-                           signal.name + "',arg0='" + signal.firstArgument + "'";
+  std::string rule = std::string("type='signal',sender='") + signal.sender + "',path='" +
+                     signal.path + "',interface='" + signal.interface + "',member='" + signal.name +
+                     "'";
+  if (signal.firstArgument != nullptr) rule.append(",arg0='").append(signal.firstArgument) += '\'';
   sd_bus_slot* slot = nullptr;
   if (::sd_bus_add_match(bus_.get(), &slot, rule.c_str(), receive, &received) < 0) return nullptr;
+  processQueued();
   return Subscription(slot);
+}
+
+void DesktopBus::processQueued() {
+  // Messages that came while an answer was waited for are already in memory, so the descriptor does
+  // not become readable for them.
+  std::uint64_t waiting = 0;
+  if (loop_ != nullptr && ::sd_bus_get_n_queued_read(bus_.get(), &waiting) >= 0 && waiting > 0)
+    later_ = loop_->after({}, [this] { process(); });
 }
 
 void DesktopBus::process() {

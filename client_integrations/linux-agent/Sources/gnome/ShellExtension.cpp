@@ -1,0 +1,46 @@
+#include "gnome/ShellExtension.h"
+
+#include "applications/ProcessExecutable.h"
+#include "x11/WindowDocument.h"
+
+namespace quillseal::linux {
+namespace {
+
+constexpr DesktopBus::Method method(const char* name) {
+  return {.service = "org.gnome.Shell",
+          .path = "/com/quillseal/FrontWindow",
+          .interface = "com.quillseal.FrontWindow1",
+          .name = name};
+}
+
+}  // namespace
+
+std::optional<ShellFront> ShellExtension::front() const {
+  const DesktopBus::Message answer = bus_.call(method("Front"), "");
+  ShellFront front;
+  int hasKeys = 0;
+  int holdsModifiers = 0;
+  const char* desktopFile = nullptr;
+  const char* windowClass = nullptr;
+  std::uint32_t process = 0;
+  const char* document = nullptr;
+  if (answer == nullptr ||
+      ::sd_bus_message_read(answer.get(), "tbbssus", &front.window, &hasKeys, &holdsModifiers,
+                            &desktopFile, &windowClass, &process, &document) <= 0)
+    return std::nullopt;
+  front.hasKeys = hasKeys != 0;
+  front.holdsModifiers = holdsModifiers != 0;
+  std::string identifier = desktopFile;
+  if (identifier.ends_with(".desktop")) identifier.resize(identifier.rfind('.'));
+  front.traits = {.windowClass = windowClass,
+                  .gtkApplicationId = identifier,
+                  .executable = process == 0 ? "" : executableOf(process)};
+  front.document = documentName({.title = document, .focus = 0});
+  return front;
+}
+
+void ShellExtension::activate(std::uint64_t window) const {
+  static_cast<void>(bus_.call(method("Activate"), "t", window));
+}
+
+}  // namespace quillseal::linux

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "applications/DesktopEntries.h"
+#include "session/DesktopBus.h"
+
+namespace quillseal::linux {
+
+/// What GNOME Shell shows in front.
+struct ShellFront {
+  /// The last focused window of another program; 0 when there is none. Never reused.
+  std::uint64_t window = 0;
+  bool hasKeys = false;         ///< It has the keyboard: no other window and nothing of the Shell.
+  bool holdsModifiers = false;  ///< The person holds Shift, Control, Alt, Super or the like.
+  WindowTraits traits;          ///< of the window
+  std::string document;         ///< made by `documentName`
+};
+
+/// Client of the Shell extension "Quillseal front window". The extension answers only the process
+/// that owns the agent's name on the bus. Each call asks anew and takes at most a second. Main
+/// thread.
+class ShellExtension {
+ public:
+  /// The bus outlives this object.
+  explicit ShellExtension(DesktopBus& bus) : bus_(bus) {}
+
+  /// Returns nothing where the extension does not answer: it is not installed or not enabled, the
+  /// screen is locked, or the desktop is another one.
+  [[nodiscard]] std::optional<ShellFront> front() const;
+
+  /// Asks for the window to be brought to the front. Nothing happens when it has closed.
+  void activate(std::uint64_t window) const;
+
+ private:
+  DesktopBus& bus_;
+};
+
+}  // namespace quillseal::linux

@@ -1,0 +1,163 @@
+"""A private GNOME desktop for one agent: headless GNOME Shell with the services of `session`. The
+person types on a keyboard inside the Shell, which runs in the mode for tests that lets them call
+its functions.
+"""
+
+import ast
+import json
+import re
+import shutil
+import time
+
+import session
+import wayland_session
+from session import Failure, wait_for
+
+EXTENSION = "front-window-43@quillseal.com"
+PERSON = """
+globalThis.person = imports.gi.Clutter.get_default_backend().get_default_seat()
+  .create_virtual_device(imports.gi.Clutter.InputDeviceType.KEYBOARD_DEVICE);
+globalThis.held = [];
+globalThis.press = (symbol, state) => {
+  person.notify_keyval(imports.gi.GLib.get_monotonic_time(), symbol, state);
+};
+true
+"""
+WINDOWS = """
+global.get_window_actors().map(actor => actor.meta_window).map(window => ({
+  id: String(window.get_id()), name: window.get_title() ?? '', pid: window.get_pid(),
+  app_id: window.get_wm_class() ?? '', focused: window === global.display.focus_window,
+  shell: window.get_client_type() ? 'xwayland' : 'xdg_shell', minimised: window.minimized}))
+"""
+
+
+class GnomeSession(wayland_session.WaylandSession):
+    """`has_extension`: whether the person has enabled Quillseal's extension of the Shell."""
+
+    def __init__(self, build, has_extension=True):
+        self.has_extension = has_extension
+        super().__init__(build)
+
+    def _environment(self):
+        env = super()._environment()
+        env.update(XDG_CURRENT_DESKTOP="GNOME", GSETTINGS_BACKEND="keyfile")
+        return env
+
+    def _write_configuration(self):
+        settings = self.home / ".config/glib-2.0/settings"
+        settings.mkdir(parents=True)
+        enabled = [EXTENSION] if self.has_extension else []
+        (settings / "keyfile").write_text(
+            f"[org/gnome/shell]\nenabled-extensions={enabled}\n"
+            "welcome-dialog-last-shown-version='999'\n"
+            "[org/gnome/desktop/interface]\nenable-animations=false\n")
+        folder = "client_integrations/linux-agent/gnome-extension"
+        shutil.copytree(self.build / folder / EXTENSION,
+                        self.home / ".local/share/gnome-shell/extensions" / EXTENSION)
+
+    def _start_shell(self):
+        self._write_configuration()
+        # The Shell ends without a system bus, but not without the services there.
+        system = self.start("dbus-daemon", "--session", "--nofork", "--print-address=1")
+        address = self.wait_for_output(system, r"unix:\S+", "a system bus starts")
+        kept, self.env = self.env, {**self.env, "DBUS_SYSTEM_BUS_ADDRESS": address[0]}
+        try:
+            self.compositor = self.start(
+                "gnome-shell", "--headless", "--wayland", "--wayland-display=wayland-gnome",
+                "--virtual-monitor", self.size, "--unsafe-mode")
+        finally:
+            self.env = kept
+
+        def is_up():
+            if self.compositor.poll() is not None:
+                raise Failure(f"GNOME Shell ended: {self.output_of(self.compositor)}")
+            try:
+                return self.evaluate("!Main.layoutManager._startingUp")
+            except Failure:
+                return False
+        wait_for("GNOME Shell starts", is_up)
+        self.env["WAYLAND_DISPLAY"] = "wayland-gnome"
+        self.evaluate("Main.overview.hide()")
+        wait_for("the overview closes", lambda: self.evaluate("!Main.overview.visible"))
+        if self.has_extension:
+            wait_for("the extension runs", lambda: self.evaluate(
+                f"Main.extensionManager.lookup('{EXTENSION}')?.state === 1"))
+        self.evaluate(PERSON)
+        for name in ("DISPLAY", "XAUTHORITY"):  # of Xwayland, which starts with its first program
+            self.env[name] = self.evaluate(f"imports.gi.GLib.getenv('{name}')")
+
+    def _start_desktop(self):
+        self._start_bus()
+        self._start_shell()
+        # The Shell shows notifications by itself.
+        self.monitor = self.start(
+            "dbus-monitor", "--session", "interface='org.freedesktop.Notifications'")
+
+    def evaluate(self, script):
+        """Runs JavaScript in the Shell. Returns its value."""
+        told = self.run("gdbus", "call", "--session", "--dest", "org.gnome.Shell", "--object-path",
+                        "/org/gnome/Shell", "--method", "org.gnome.Shell.Eval", script)
+        done, value = re.fullmatch(r"\((true|false), (.*)\)\n", told, re.S).groups()
+        text = ast.literal_eval(value)
+        if done == "false":
+            raise Failure(f"GNOME Shell: {text}")
+        return json.loads(text) if text else None
+
+    # Windows
+
+    def windows(self):
+        return self.evaluate(WINDOWS)
+
+    def show(self, window):
+        """Brings the window with this id to the front."""
+        self.evaluate("Main.activateWindow(global.get_window_actors().map(actor => "
+                      f"actor.meta_window).find(window => window.get_id() === {window}))")
+
+    def focus(self, pattern):
+        self.show(next(window["id"] for window in self.windows()
+                       if re.search(pattern, window["name"])))
+        self.wait_for_window(pattern)
+
+    # Keys
+
+    def _press(self, symbols, state):
+        self.evaluate(f"{json.dumps(symbols)}.forEach(symbol => press(typeof symbol === 'string' ? "
+                      f"imports.gi.Clutter['KEY_' + symbol] : symbol, {state})), true")
+
+    def hold(self, *names):
+        self._press(names, 1)
+
+    def let_go(self, *names):
+        self._press(names[::-1], 0)
+
+    def key(self, *keys):
+        names = {"ctrl": "Control_L", "shift": "Shift_L", "alt": "Alt_L"}
+        for chord in keys:
+            pressed = [names.get(key, key) for key in chord.split("+")]
+            self.hold(*pressed)
+            self.let_go(*pressed)
+
+    def type(self, text):
+        symbols = [0xFF0D if character == "\n" else ord(character) for character in text]
+        self.evaluate(f"{symbols}.forEach(symbol => [1, 0].forEach(state => press(symbol, state))),"
+                      " true")
+
+    def press_hotkey(self, milliseconds=120):
+        self.hold(*session.HOTKEY)
+        time.sleep(milliseconds / 1000)
+        self.let_go(*session.HOTKEY)
+
+    # Clipboard
+
+    def selection(self, which="clipboard", target="text/plain;charset=utf-8"):
+        kind = f"imports.gi.St.ClipboardType.{which.upper()}"
+        clipboard = "imports.gi.St.Clipboard.get_default()"
+        if target == "TARGETS":
+            return "\n".join(self.evaluate(f"{clipboard}.get_mimetypes({kind})"))
+        self.evaluate(f"globalThis.content = null; {clipboard}.get_content({kind}, '{target}', "
+                      "(_, bytes) => { content = [...(bytes.get_data() ?? [])]; }), true")
+        try:
+            return bytes(wait_for("the clipboard is read",
+                                  lambda: self.evaluate("content && [content]"), 5)[0]).decode()
+        except Failure:
+            return ""

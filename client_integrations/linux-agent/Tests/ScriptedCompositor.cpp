@@ -2,11 +2,12 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <csignal>
 #include <cstdlib>
 #include <future>
-#include <list>
 #include <mutex>
+#include <optional>
 #include <stdexcept>
 #include <thread>
 #include <utility>
@@ -24,6 +25,20 @@
 #include "wlr-foreign-toplevel-management-unstable-v1-server-protocol.h"
 
 namespace quillseal::testing {
+namespace {
+
+/// Writes the text, again and again if `isEndless`, until nobody reads any more.
+void pour(int file, const std::string& text, bool isEndless) {
+  ssize_t count = 0;
+  for (std::size_t done = 0; done < text.size(); done += static_cast<std::size_t>(count)) {
+    count = write(file, text.data() + done, text.size() - done);
+    if (count <= 0) break;
+    if (isEndless) count = 0;
+  }
+  ::close(file);
+}
+
+}  // namespace
 
 struct ScriptedCompositor::Server {
   struct WindowState {
@@ -31,15 +46,13 @@ struct ScriptedCompositor::Server {
     bool isActive = false;
     bool isOpen = true;
   };
-  struct Handle {
-    wl_resource* resource;
-    std::size_t window;
-  };
-  struct Offering {
+  struct Global {
     Server& server;
-    Offered what;
+    wl_interface interface;
+    wl_global* global = nullptr;
   };
   enum Kind { clipboard, primary };
+  using Request = void (*)(Server&, wl_resource*, const wl_argument*);
 
   Traits traits;
   wl_display* display = wl_display_create();
@@ -47,105 +60,88 @@ struct ScriptedCompositor::Server {
   std::mutex mutex{};
   std::vector<std::function<void()>> work{};  // guarded by mutex
   std::atomic<bool> ends = false;
-  std::map<std::string, wl_global*> globals{};
-  wl_interface dataControl = zwlr_data_control_manager_v1_interface;
-
+  std::map<std::string, Global> globals{};
+  std::vector<wl_resource*> resources{};
   std::vector<WindowState> windows{};
-  std::vector<wl_resource*> managers{};
-  std::vector<Handle> handles{};
-
-  std::vector<wl_resource*> seatKeyboards{};
-
-  std::vector<wl_resource*> devices{};
-  std::array<Offering*, 2> offered{};
-  std::list<Offering> everOffered{};  ///< clients may still read older ones
-  wl_resource* source = nullptr;      ///< of a client
+  std::map<wl_resource*, std::size_t> shown{};  ///< windows of the resources that stand for them
+  std::array<std::optional<Offered>, 2> offered{};
+  std::map<wl_resource*, Offered> offers{};  ///< clients may still read older ones
+  wl_resource* source = nullptr;             ///< of a client
   std::vector<std::string> sourceFormats{};
   std::vector<int> openEnds{};
   std::vector<std::thread> writers{};
   std::vector<std::string> keys{};
-  wl_interface fakeInput = org_kde_kwin_fake_input_interface;
   bool isAuthenticated = false;  ///< by a program that presses keys of KWin's
   std::vector<std::string> asked{};
   std::thread thread{};
 
-  // Requests -------------------------------------------------------------------------------------
+  // Resources ------------------------------------------------------------------------------------
 
   static Server& of(wl_resource* resource) {
     return *static_cast<Server*>(wl_resource_get_user_data(resource));
   }
-  static void ends_(wl_client*, wl_resource* resource) { wl_resource_destroy(resource); }
-  static void ignored(wl_client*, wl_resource*) {}
 
-  template <auto list>
-  static void forget(wl_resource* resource) {
-    std::erase(of(resource).*list, resource);
-  }
-
-  static wl_resource* make(wl_client* client, const wl_interface* interface, wl_resource* parent,
-                           std::uint32_t id, const void* requests, void* data) {
-    wl_resource* resource =
-        wl_resource_create(client, interface, wl_resource_get_version(parent), id);
-    wl_resource_set_implementation(resource, requests, data, nullptr);
+  wl_resource* make(wl_client* client, const wl_interface& interface, int version,
+                    std::uint32_t id) {
+    wl_resource* const resource = wl_resource_create(client, &interface, version, id);
+    wl_resource_set_dispatcher(resource, perform, nullptr, this, [](wl_resource* gone) {
+      Server& server = of(gone);
+      std::erase(server.resources, gone);
+      server.shown.erase(gone);
+      server.offers.erase(gone);
+      if (server.source == gone) server.source = nullptr;
+    });
+    resources.push_back(resource);
     return resource;
   }
-
-  // Clipboard
-  static void receive(wl_client*, wl_resource* resource, const char* format, int file) {
-    auto& offering = *static_cast<Offering*>(wl_resource_get_user_data(resource));
-    offering.server.asked.emplace_back(format);
-    offering.server.answer(offering.what, format, file);
+  wl_resource* make(wl_resource* parent, const wl_interface& interface, std::uint32_t id) {
+    return make(wl_resource_get_client(parent), interface, wl_resource_get_version(parent), id);
   }
+
+  void forEach(const wl_interface& interface, const auto& act) {
+    for (wl_resource* resource : std::vector(resources))
+      if (wl_resource_get_class(resource) == std::string_view(interface.name)) act(resource);
+  }
+
+  static int perform(const void*, void* target, std::uint32_t, const wl_message* message,
+                     wl_argument* arguments) {
+    auto* const resource = static_cast<wl_resource*>(target);
+    const std::string_view name = message->name;
+    if (name == "destroy" || name == "release") {
+      wl_resource_destroy(resource);
+    } else if (const auto request = requests.find(name); request != requests.end()) {
+      request->second(of(resource), resource, arguments);
+    }
+    return 0;
+  }
+
+  /// By name, which no two interfaces share. All others have no effect.
+  static const std::map<std::string_view, Request> requests;
+
+  // Clipboard ------------------------------------------------------------------------------------
 
   void answer(const Offered& entry, const std::string& format, int file) {
     const auto found = entry.formats.find(format);
     const std::string text = found == entry.formats.end() ? "" : found->second;
-    switch (entry.answer) {
-      case Answer::nothing:
-        openEnds.push_back(file);
-        return;
-      case Answer::part:
-        static_cast<void>(!write(file, text.data(), text.size()));
-        openEnds.push_back(file);
-        return;
-      case Answer::endless:
-        writers.emplace_back([file, text] {
-          while (write(file, text.data(), text.size()) > 0) {
-          }
-          ::close(file);
-        });
-        return;
-      case Answer::thenLeaves:
-        static_cast<void>(!write(file, text.data(), text.size()));
-        offered[clipboard] = nullptr;
-        tell(clipboard);
-        ::close(file);
-        return;
-      case Answer::all:
-        break;
+    if (entry.answer == Answer::all || entry.answer == Answer::endless) {
+      writers.emplace_back(pour, file, text, entry.answer == Answer::endless);
+      return;
     }
-    writers.emplace_back([file, text] {
-      for (std::size_t done = 0; done < text.size();) {
-        const ssize_t count = write(file, text.data() + done, text.size() - done);
-        if (count <= 0) break;
-        done += static_cast<std::size_t>(count);
-      }
-      ::close(file);
-    });
+    if (entry.answer != Answer::nothing) static_cast<void>(!write(file, text.data(), text.size()));
+    if (entry.answer != Answer::thenLeaves) return openEnds.push_back(file);
+    offered[clipboard].reset();
+    tell(clipboard);
+    ::close(file);
   }
 
-  static constexpr struct zwlr_data_control_offer_v1_interface offerRequests = {.receive = receive,
-                                                                                .destroy = ends_};
-
   void tell(Kind kind, wl_resource* device) {
-    Offering* const offering = offered[kind];
     wl_resource* offer = nullptr;
-    if (offering != nullptr) {
-      offer = make(wl_resource_get_client(device), &zwlr_data_control_offer_v1_interface, device, 0,
-                   &offerRequests, offering);
+    if (offered[kind]) {
+      offer = make(device, zwlr_data_control_offer_v1_interface, 0);
       zwlr_data_control_device_v1_send_data_offer(device, offer);
-      for (const auto& [format, text] : offering->what.formats)
+      for (const auto& [format, text] : offered[kind]->formats)
         zwlr_data_control_offer_v1_send_offer(offer, format.c_str());
+      offers[offer] = *offered[kind];
     }
     if (kind == clipboard)
       zwlr_data_control_device_v1_send_selection(device, offer);
@@ -153,12 +149,12 @@ struct ScriptedCompositor::Server {
       zwlr_data_control_device_v1_send_primary_selection(device, offer);
   }
   void tell(Kind kind) {
-    for (wl_resource* device : devices)
-      tell(kind, device);
+    forEach(zwlr_data_control_device_v1_interface,
+            [this, kind](wl_resource* device) { tell(kind, device); });
   }
   void offer(Kind kind, const Offered& what) {
     cancelSource();
-    offered[kind] = &everOffered.emplace_back(*this, what);
+    offered[kind] = what;
     tell(kind);
   }
   void cancelSource() {
@@ -166,153 +162,43 @@ struct ScriptedCompositor::Server {
     source = nullptr;
   }
 
-  static void setSelection(wl_client*, wl_resource* device, wl_resource* source) {
-    Server& server = of(device);
-    server.cancelSource();
-    server.source = source;
-    if (!server.traits.takesSelections) return server.cancelSource();
-    Offered what;
-    for (const std::string& format : server.sourceFormats)
-      what.formats[format] = "";
-    server.offered[clipboard] = &server.everOffered.emplace_back(server, what);
-    server.tell(clipboard);
-  }
-  static void setPrimary(wl_client*, wl_resource*, wl_resource*) {}
-  static constexpr struct zwlr_data_control_device_v1_interface deviceRequests = {
-      .set_selection = setSelection, .destroy = ends_, .set_primary_selection = setPrimary};
+  // Windows --------------------------------------------------------------------------------------
 
-  static void addFormat(wl_client*, wl_resource* source, const char* format) {
-    of(source).sourceFormats.emplace_back(format);
+  [[nodiscard]] const wl_interface& windowManager() const {
+    return traits.isKwin ? org_kde_plasma_window_management_interface
+                         : zwlr_foreign_toplevel_manager_v1_interface;
   }
-  static constexpr struct zwlr_data_control_source_v1_interface sourceRequests = {
-      .offer = addFormat, .destroy = ends_};
 
-  static void createSource(wl_client* client, wl_resource* manager, std::uint32_t id) {
-    of(manager).sourceFormats.clear();
-    wl_resource* source = make(client, &zwlr_data_control_source_v1_interface, manager, id,
-                               &sourceRequests, &of(manager));
-    wl_resource_set_destructor(source, [](wl_resource* gone) {
-      if (of(gone).source == gone) of(gone).source = nullptr;
-    });
+  void describe(wl_resource* handle) const {
+    const auto& [window, isActive, isOpen] = windows[shown.at(handle)];
+    if (traits.isKwin) {
+      constexpr std::uint32_t closeable = ORG_KDE_PLASMA_WINDOW_MANAGEMENT_STATE_CLOSEABLE;
+      constexpr std::uint32_t active = ORG_KDE_PLASMA_WINDOW_MANAGEMENT_STATE_ACTIVE;
+      org_kde_plasma_window_send_app_id_changed(handle, window.applicationId.c_str());
+      org_kde_plasma_window_send_title_changed(handle, window.title.c_str());
+      org_kde_plasma_window_send_state_changed(handle, closeable | (isActive ? active : 0U));
+      return;
+    }
+    zwlr_foreign_toplevel_handle_v1_send_title(handle, window.title.c_str());
+    zwlr_foreign_toplevel_handle_v1_send_app_id(handle, window.applicationId.c_str());
+    std::uint32_t active = ZWLR_FOREIGN_TOPLEVEL_HANDLE_V1_STATE_ACTIVATED;
+    wl_array states{.size = isActive ? sizeof active : 0, .alloc = 0, .data = &active};
+    zwlr_foreign_toplevel_handle_v1_send_state(handle, &states);
+    zwlr_foreign_toplevel_handle_v1_send_done(handle);
   }
-  static void getDevice(wl_client* client, wl_resource* manager, std::uint32_t id, wl_resource*) {
-    Server& server = of(manager);
-    wl_resource* device =
-        make(client, &zwlr_data_control_device_v1_interface, manager, id, &deviceRequests, &server);
-    wl_resource_set_destructor(device, forget<&Server::devices>);
-    server.devices.push_back(device);
-    for (const Kind kind : {clipboard, primary})
-      if (!server.traits.isKwin || server.offered[kind] != nullptr) server.tell(kind, device);
+  void describe(std::size_t window) const {
+    for (const auto& [handle, number] : shown)
+      if (number == window) describe(handle);
   }
-  static constexpr struct zwlr_data_control_manager_v1_interface managerRequests = {
-      .create_data_source = createSource, .get_data_device = getDevice, .destroy = ends_};
-
-  // Keys
-  static void setKeymap(wl_client*, wl_resource*, std::uint32_t, int file, std::uint32_t) {
-    ::close(file);
-  }
-  static void key(wl_client*, wl_resource* keyboard, std::uint32_t, std::uint32_t code,
-                  std::uint32_t state) {
-    of(keyboard).keys.push_back(std::to_string(code) + (state == 1 ? "+" : "-"));
-  }
-  static void modifiers(wl_client*, wl_resource* keyboard, std::uint32_t depressed, std::uint32_t,
-                        std::uint32_t, std::uint32_t) {
-    of(keyboard).keys.push_back("mods " + std::to_string(depressed));
-  }
-  static constexpr struct zwp_virtual_keyboard_v1_interface keyboardRequests = {
-      .keymap = setKeymap, .key = key, .modifiers = modifiers, .destroy = ends_};
-  static void createKeyboard(wl_client* client, wl_resource* manager, wl_resource*,
-                             std::uint32_t id) {
-    make(client, &zwp_virtual_keyboard_v1_interface, manager, id, &keyboardRequests, &of(manager));
-  }
-  static constexpr struct zwp_virtual_keyboard_manager_v1_interface keyboardManagerRequests = {
-      .create_virtual_keyboard = createKeyboard};
-
-  // Keys of KWin
-  static void authenticate(wl_client*, wl_resource* input, const char*, const char*) {
-    of(input).isAuthenticated = true;
-  }
-  static void fakeKey(wl_client*, wl_resource* input, std::uint32_t code, std::uint32_t state) {
-    if (of(input).isAuthenticated)
-      of(input).keys.push_back(std::to_string(code) + (state == 1 ? "+" : "-"));
-  }
-  // Only the requests that the agent uses; the others differ between versions of the protocol file.
-  static constexpr auto fakeInputRequests = [] {
-    struct org_kde_kwin_fake_input_interface requests {};
-    requests.authenticate = authenticate;
-    requests.keyboard_key = fakeKey;
-    return requests;
-  }();
-
-  // Windows
-  void describe(const Handle& handle) {
-    if (traits.isKwin) return describePlasma(handle);
-    const WindowState& state = windows[handle.window];
-    zwlr_foreign_toplevel_handle_v1_send_title(handle.resource, state.window.title.c_str());
-    zwlr_foreign_toplevel_handle_v1_send_app_id(handle.resource,
-                                                state.window.applicationId.c_str());
-    wl_array states;
-    wl_array_init(&states);
-    if (state.isActive)
-      *static_cast<std::uint32_t*>(wl_array_add(&states, sizeof(std::uint32_t))) =
-          ZWLR_FOREIGN_TOPLEVEL_HANDLE_V1_STATE_ACTIVATED;
-    zwlr_foreign_toplevel_handle_v1_send_state(handle.resource, &states);
-    wl_array_release(&states);
-    zwlr_foreign_toplevel_handle_v1_send_done(handle.resource);
-  }
-  void describe(std::size_t window) {
-    for (const Handle& handle : handles)
-      if (handle.window == window) describe(handle);
-  }
-  void describePlasma(const Handle& handle) const {
-    const WindowState& state = windows[handle.window];
-    org_kde_plasma_window_send_app_id_changed(handle.resource, state.window.applicationId.c_str());
-    org_kde_plasma_window_send_title_changed(handle.resource, state.window.title.c_str());
-    constexpr std::uint32_t closeable = ORG_KDE_PLASMA_WINDOW_MANAGEMENT_STATE_CLOSEABLE;
-    constexpr std::uint32_t active = ORG_KDE_PLASMA_WINDOW_MANAGEMENT_STATE_ACTIVE;
-    org_kde_plasma_window_send_state_changed(handle.resource,
-                                             closeable | (state.isActive ? active : 0U));
-  }
-  static void getPlasmaWindow(wl_client* client, wl_resource* manager, std::uint32_t id,
-                              std::uint32_t number) {
-    Server& server = of(manager);
-    wl_resource* resource =
-        make(client, &org_kde_plasma_window_interface, manager, id, &plasmaRequests, &server);
-    wl_resource_set_destructor(resource, [](wl_resource* gone) {
-      std::erase_if(of(gone).handles, [gone](const Handle& h) { return h.resource == gone; });
-    });
-    server.describe(server.handles.emplace_back(Handle{.resource = resource, .window = number}));
-    org_kde_plasma_window_send_initial_state(resource);
-  }
-  static void setPlasmaState(wl_client*, wl_resource* handle, std::uint32_t flags,
-                             std::uint32_t state) {
-    constexpr std::uint32_t active = ORG_KDE_PLASMA_WINDOW_MANAGEMENT_STATE_ACTIVE;
-    if ((flags & state & active) != 0) activationAsked(nullptr, handle, nullptr);
-  }
-  static constexpr auto plasmaRequests = [] {
-    struct org_kde_plasma_window_interface requests {};
-    requests.set_state = setPlasmaState;
-    requests.destroy = ends_;
-    return requests;
-  }();
-  static constexpr auto plasmaManagerRequests = [] {
-    struct org_kde_plasma_window_management_interface requests {};
-    requests.get_window = getPlasmaWindow;
-    return requests;
-  }();
 
   void announce(std::size_t window, wl_resource* manager) {
     if (traits.isKwin)
       return org_kde_plasma_window_management_send_window(manager,
                                                           static_cast<std::uint32_t>(window));
-    wl_resource* resource =
-        make(wl_resource_get_client(manager), &zwlr_foreign_toplevel_handle_v1_interface, manager,
-             0, &handleRequests, this);
-    wl_resource_set_destructor(resource, [](wl_resource* gone) {
-      std::erase_if(of(gone).handles, [gone](const Handle& h) { return h.resource == gone; });
-    });
-    zwlr_foreign_toplevel_manager_v1_send_toplevel(manager, resource);
-    describe(handles.emplace_back(Handle{.resource = resource, .window = window}));
+    wl_resource* const handle = make(manager, zwlr_foreign_toplevel_handle_v1_interface, 0);
+    shown[handle] = window;
+    zwlr_foreign_toplevel_manager_v1_send_toplevel(manager, handle);
+    describe(handle);
   }
   void activate(std::size_t window) {
     for (std::size_t i = 0; i < windows.size(); ++i) {
@@ -322,30 +208,12 @@ struct ScriptedCompositor::Server {
     }
   }
 
-  static void activationAsked(wl_client*, wl_resource* handle, wl_resource*) {
-    Server& server = of(handle);
-    for (const Handle& known : server.handles)
-      if (known.resource == handle) return server.activate(known.window);
-  }
-  static void withOutput(wl_client*, wl_resource*, wl_resource*) {}
-  static void rectangle(wl_client*, wl_resource*, wl_resource*, int, int, int, int) {}
-  static constexpr struct zwlr_foreign_toplevel_handle_v1_interface handleRequests = {
-      .set_maximized = ignored,
-      .unset_maximized = ignored,
-      .set_minimized = ignored,
-      .unset_minimized = ignored,
-      .activate = activationAsked,
-      .close = ignored,
-      .set_rectangle = rectangle,
-      .destroy = ends_,
-      .set_fullscreen = withOutput,
-      .unset_fullscreen = ignored};
-  static constexpr struct zwlr_foreign_toplevel_manager_v1_interface windowRequests = {.stop =
-                                                                                           ignored};
+  // Keys -----------------------------------------------------------------------------------------
 
-  // The seat
-  static void noPointer(wl_client*, wl_resource*, std::uint32_t) {}
-  static constexpr struct wl_keyboard_interface seatKeyboardRequests = {.release = ends_};
+  void press(std::uint32_t code, std::uint32_t state) {
+    keys.push_back(std::to_string(code) + (state == 1 ? "+" : "-"));
+  }
+
   void tellLayout(wl_resource* keyboard) const {
     const std::string& layout = traits.layout;
     const int file = memfd_create("layout", MFD_CLOEXEC);
@@ -354,92 +222,38 @@ struct ScriptedCompositor::Server {
                             static_cast<std::uint32_t>(layout.size() + 1));
     ::close(file);
   }
-  static void getKeyboard(wl_client* client, wl_resource* seat, std::uint32_t id) {
-    Server& server = of(seat);
-    wl_resource* keyboard =
-        make(client, &wl_keyboard_interface, seat, id, &seatKeyboardRequests, &server);
-    wl_resource_set_destructor(keyboard, forget<&Server::seatKeyboards>);
-    server.seatKeyboards.push_back(keyboard);
-    server.tellLayout(keyboard);
-  }
-  static constexpr struct wl_seat_interface seatRequests = {.get_pointer = noPointer,
-                                                            .get_keyboard = getKeyboard,
-                                                            .get_touch = noPointer,
-                                                            .release = ends_};
 
   // Globals --------------------------------------------------------------------------------------
 
-  template <auto& interface, auto& requests>
-  static wl_resource* bound(wl_client* client, void* data, std::uint32_t version,
-                            std::uint32_t id) {
-    wl_resource* resource = wl_resource_create(client, &interface, static_cast<int>(version), id);
-    wl_resource_set_implementation(resource, &requests, data, nullptr);
-    return resource;
-  }
-  void add(const wl_interface& interface, int version, wl_global_bind_func_t bind) {
-    globals[interface.name] = wl_global_create(display, &interface, version, this, bind);
-  }
-
-  void addWindows(const wl_interface& interface, int version, wl_global_bind_func_t bind) {
-    if (traits.namesWindows) add(interface, version, bind);
-  }
-  static void follow(wl_resource* manager) {
-    wl_resource_set_destructor(manager, forget<&Server::managers>);
-    Server& server = of(manager);
-    server.managers.push_back(manager);
-    for (std::size_t i = 0; i < server.windows.size(); ++i)
-      if (server.windows[i].isOpen) server.announce(i, manager);
-  }
-
-  void addWlroots() {
-    if (traits.hasKeyboards)
-      add(zwp_virtual_keyboard_manager_v1_interface, 1,
-          [](wl_client* client, void* data, std::uint32_t version, std::uint32_t id) {
-            bound<zwp_virtual_keyboard_manager_v1_interface, keyboardManagerRequests>(client, data,
-                                                                                      version, id);
-          });
-    addWindows(zwlr_foreign_toplevel_manager_v1_interface, 3,
-               [](wl_client* client, void* data, std::uint32_t version, std::uint32_t id) {
-                 follow(bound<zwlr_foreign_toplevel_manager_v1_interface, windowRequests>(
-                     client, data, version, id));
-               });
-  }
-  void addKwin() {
+  void add(wl_interface interface, int version) {
+    Global& added = globals.emplace(interface.name, Global{.server = *this, .interface = interface})
+                        .first->second;
     // The description that is installed may be older.
-    fakeInput.version = traits.fakeInputVersion;
-    if (traits.hasKeyboards)
-      add(fakeInput, traits.fakeInputVersion,
-          [](wl_client* client, void* data, std::uint32_t version, std::uint32_t id) {
-            bound<org_kde_kwin_fake_input_interface, fakeInputRequests>(client, data, version, id);
-          });
-    addWindows(org_kde_plasma_window_management_interface, 16,
-               [](wl_client* client, void* data, std::uint32_t version, std::uint32_t id) {
-                 follow(bound<org_kde_plasma_window_management_interface, plasmaManagerRequests>(
-                     client, data, version, id));
-               });
+    added.interface.version = version;
+    added.global = wl_global_create(display, &added.interface, version, &added, bind);
+  }
+
+  static void bind(wl_client* client, void* data, std::uint32_t version, std::uint32_t id) {
+    const auto& [server, interface, global] = *static_cast<Global*>(data);
+    wl_resource* const resource = server.make(client, interface, static_cast<int>(version), id);
+    if (interface.name == std::string_view("wl_seat") && !server.traits.layout.empty())
+      wl_seat_send_capabilities(resource, WL_SEAT_CAPABILITY_KEYBOARD);
+    if (interface.name != std::string_view(server.windowManager().name)) return;
+    for (std::size_t i = 0; i < server.windows.size(); ++i)
+      if (server.windows[i].isOpen) server.announce(i, resource);
   }
 
   void addGlobals() {
-    add(wl_seat_interface, 4,
-        [](wl_client* client, void* data, std::uint32_t version, std::uint32_t id) {
-          wl_resource* seat = bound<wl_seat_interface, seatRequests>(client, data, version, id);
-          const bool hasKeyboard = !of(seat).traits.layout.empty();
-          wl_seat_send_capabilities(
-              seat, static_cast<std::uint32_t>(hasKeyboard ? WL_SEAT_CAPABILITY_KEYBOARD : 0));
-        });
-    if (!traits.dataControl.empty()) {
-      dataControl.name = traits.dataControl.c_str();
-      const int version = traits.dataControl.starts_with("zwlr") ? 2 : 1;
-      add(dataControl, version,
-          [](wl_client* client, void* data, std::uint32_t bindVersion, std::uint32_t id) {
-            bound<zwlr_data_control_manager_v1_interface, managerRequests>(client, data,
-                                                                           bindVersion, id);
-          });
-    }
-    if (traits.isKwin)
-      addKwin();
-    else
-      addWlroots();
+    add(wl_seat_interface, 4);
+    wl_interface dataControl = zwlr_data_control_manager_v1_interface;
+    dataControl.name = traits.dataControl.c_str();
+    if (!traits.dataControl.empty())
+      add(dataControl, traits.dataControl.starts_with("zwlr") ? 2 : 1);
+    if (traits.hasKeyboards && traits.isKwin)
+      add(org_kde_kwin_fake_input_interface, traits.fakeInputVersion);
+    else if (traits.hasKeyboards)
+      add(zwp_virtual_keyboard_manager_v1_interface, 1);
+    if (traits.namesWindows) add(windowManager(), traits.isKwin ? 16 : 3);
   }
 
   void run() {
@@ -475,6 +289,79 @@ struct ScriptedCompositor::Server {
     const std::uint64_t one = 1;
     static_cast<void>(!write(wake, &one, sizeof one));
   }
+};
+
+const std::map<std::string_view, ScriptedCompositor::Server::Request>
+    ScriptedCompositor::Server::requests = {
+        // Clipboard
+        {"receive",
+         [](Server& server, wl_resource* offer, const wl_argument* its) {
+           server.asked.emplace_back(its[0].s);
+           server.answer(server.offers.at(offer), its[0].s, its[1].h);
+         }},
+        {"create_data_source",
+         [](Server& server, wl_resource* manager, const wl_argument* its) {
+           server.sourceFormats.clear();
+           server.make(manager, zwlr_data_control_source_v1_interface, its[0].n);
+         }},
+        {"offer", [](Server& server, wl_resource*,
+                     const wl_argument* its) { server.sourceFormats.emplace_back(its[0].s); }},
+        {"get_data_device",
+         [](Server& server, wl_resource* manager, const wl_argument* its) {
+           wl_resource* const device =
+               server.make(manager, zwlr_data_control_device_v1_interface, its[0].n);
+           for (const Kind kind : {clipboard, primary})
+             if (!server.traits.isKwin || server.offered[kind]) server.tell(kind, device);
+         }},
+        {"set_selection",
+         [](Server& server, wl_resource*, const wl_argument* its) {
+           server.cancelSource();
+           server.source = reinterpret_cast<wl_resource*>(its[0].o);
+           if (!server.traits.takesSelections) return server.cancelSource();
+           Offered what;
+           for (const std::string& format : server.sourceFormats)
+             what.formats[format] = "";
+           server.offered[clipboard] = what;
+           server.tell(clipboard);
+         }},
+        // Keys
+        {"create_virtual_keyboard",
+         [](Server& server, wl_resource* manager, const wl_argument* its) {
+           server.make(manager, zwp_virtual_keyboard_v1_interface, its[1].n);
+         }},
+        {"keymap", [](Server&, wl_resource*, const wl_argument* its) { ::close(its[1].h); }},
+        {"key", [](Server& server, wl_resource*,
+                   const wl_argument* its) { server.press(its[1].u, its[2].u); }},
+        {"modifiers",
+         [](Server& server, wl_resource*, const wl_argument* its) {
+           server.keys.push_back("mods " + std::to_string(its[0].u));
+         }},
+        {"authenticate",
+         [](Server& server, wl_resource*, const wl_argument*) { server.isAuthenticated = true; }},
+        {"keyboard_key",
+         [](Server& server, wl_resource*, const wl_argument* its) {
+           if (server.isAuthenticated) server.press(its[0].u, its[1].u);
+         }},
+        {"get_keyboard",
+         [](Server& server, wl_resource* seat, const wl_argument* its) {
+           server.tellLayout(server.make(seat, wl_keyboard_interface, its[0].n));
+         }},
+        // Windows
+        {"get_window",
+         [](Server& server, wl_resource* manager, const wl_argument* its) {
+           wl_resource* const handle =
+               server.make(manager, org_kde_plasma_window_interface, its[0].n);
+           server.shown[handle] = its[1].u;
+           server.describe(handle);
+           org_kde_plasma_window_send_initial_state(handle);
+         }},
+        {"set_state",
+         [](Server& server, wl_resource* handle, const wl_argument* its) {
+           if ((its[0].u & its[1].u & ORG_KDE_PLASMA_WINDOW_MANAGEMENT_STATE_ACTIVE) != 0)
+             server.activate(server.shown.at(handle));
+         }},
+        {"activate", [](Server& server, wl_resource* handle,
+                        const wl_argument*) { server.activate(server.shown.at(handle)); }},
 };
 
 ScriptedCompositor::ScriptedCompositor(Traits traits) {
@@ -517,8 +404,7 @@ std::size_t ScriptedCompositor::open(const Window& window) {
   perform([&](Server& server) {
     place = server.windows.size();
     server.windows.push_back({.window = window});
-    for (wl_resource* manager : server.managers)
-      server.announce(place, manager);
+    server.forEach(server.windowManager(), [&](wl_resource* m) { server.announce(place, m); });
     server.activate(place);
   });
   return place;
@@ -527,11 +413,11 @@ std::size_t ScriptedCompositor::open(const Window& window) {
 void ScriptedCompositor::close(std::size_t window) {
   perform([&](Server& server) {
     server.windows[window].isOpen = false;
-    for (const auto& handle : server.handles)
-      if (handle.window == window && server.traits.isKwin)
-        org_kde_plasma_window_send_unmapped(handle.resource);
-      else if (handle.window == window)
-        zwlr_foreign_toplevel_handle_v1_send_closed(handle.resource);
+    for (const auto& [handle, number] : server.shown)
+      if (number == window && server.traits.isKwin)
+        org_kde_plasma_window_send_unmapped(handle);
+      else if (number == window)
+        zwlr_foreign_toplevel_handle_v1_send_closed(handle);
   });
 }
 
@@ -556,7 +442,7 @@ void ScriptedCompositor::select(const Offered& offered) {
 
 void ScriptedCompositor::clear() {
   perform([](Server& server) {
-    server.offered[Server::clipboard] = nullptr;
+    server.offered[Server::clipboard].reset();
     server.tell(Server::clipboard);
   });
 }
@@ -580,13 +466,13 @@ std::string ScriptedCompositor::pasted(const std::string& format) {
 void ScriptedCompositor::setLayout(const std::string& layout) {
   perform([&](Server& server) {
     server.traits.layout = layout;
-    for (wl_resource* keyboard : server.seatKeyboards)
-      server.tellLayout(keyboard);
+    server.forEach(wl_keyboard_interface, [&](wl_resource* k) { server.tellLayout(k); });
   });
 }
 
 void ScriptedCompositor::withdraw(std::string_view interface) {
-  perform([&](Server& server) { wl_global_remove(server.globals.at(std::string(interface))); });
+  perform(
+      [&](Server& server) { wl_global_remove(server.globals.at(std::string(interface)).global); });
 }
 
 void ScriptedCompositor::hang() {

@@ -33,18 +33,9 @@ class KwinApplications(OnKwin, wayland.Applications, stories.Applications):
     """The same."""
 
 
-class KwinTrouble(OnKwin, stories.Trouble):
-    """The same."""
-
-
-class KwinWindows(OnKwin, wayland.SharedWindows, windows.WindowStory):
-    test_the_source_is_minimised = windows.Windows.test_the_source_is_minimised
-
+class KwinWindows(OnKwin, windows.SharedWindows, windows.WindowStory):
     def switch_to(self, window):
         self.desktop.show(window)
-
-    def minimise(self, window):
-        self.desktop.minimise(window)
 
     def leave_workspace(self):
         self.desktop.call_kwin("/VirtualDesktopManager",
@@ -85,19 +76,6 @@ class KwinHotkey(OnKwin):
         self.desktop.call_shortcuts("unregister", "other", "act")
         self.desktop.start_agent()
         self.assert_signed(self.sign_in_editor())
-
-    def test_keys_that_the_person_has_chosen_count(self):
-        self.start()
-        f_12 = 0x0100003B
-        self.desktop.call_shortcuts("setForeignShortcut", "['quillseal', 'sign', '', '']", f"[{f_12}]")
-        self.desktop.end(self.desktop.agent)
-        self.assertIn("false", self.desktop.call("org.kde.kglobalaccel", "/component/quillseal",
-                                                 "org.kde.kglobalaccel.Component.isActive"))
-        self.desktop.start_agent()
-        self.desktop.open_editor(LETTER)
-        self.desktop.select_all(LETTER)
-        self.desktop.key("F12")
-        self.desktop.wait_for_window("Choose a passphrase")
 
 
 class KwinLayouts(wayland.Layouts, OnKwin):

@@ -11,7 +11,6 @@ import os
 import pathlib
 import re
 import resource
-import signal
 import subprocess
 import sys
 import unittest
@@ -50,12 +49,12 @@ class Story(unittest.TestCase):
         if any(test is self for test, _ in failures + errors) and self.desktop.agent:
             print(self.desktop.output_of(self.desktop.agent), file=sys.stderr)
 
-    def start(self, **settings):
+    def start(self, tpm=False, **settings):
         url = self.desktop.start_server()
         # With the mode set, the key is registered before its first signature, so the person is
         # asked once. One test below starts without it.
-        self.desktop.write_settings(ServerURL=url, **{"SigningMode": "enclave", **settings})
-        self.desktop.start_agent()
+        self.desktop.write_settings(ServerURL=url, SigningMode="enclave", **settings)
+        self.desktop.start_agent(tpm=self.desktop.start_software_tpm() if tpm else "none")
 
     def press_and_choose(self):
         """The hotkey, and the secret of the new key."""
@@ -67,10 +66,6 @@ class Story(unittest.TestCase):
         self.desktop.select_all(LETTER)
         self.desktop.run(self.desktop.quillseal, "--sign")
         self.desktop.wait_for_window("Choose a passphrase")
-
-    def start_with_tpm(self):
-        self.desktop.write_settings(ServerURL=self.desktop.start_server(), SigningMode="enclave")
-        self.desktop.start_agent(tpm=self.desktop.start_software_tpm())
 
     def open_settings(self):
         self.desktop.run(self.desktop.quillseal, "--settings")
@@ -85,12 +80,6 @@ class Story(unittest.TestCase):
 
     def assert_unrecorded(self):
         self.assertEqual(self.desktop.recorded(), [])
-
-    def enter_wrong_secret(self, kind="passphrase"):
-        self.desktop.wait_for_window(f"Enter the {kind}")
-        question = self.desktop.active_window()
-        self.desktop.enter_secret("not the one I chose", kind)
-        self.desktop.wait_for_next_window(question, f"Enter the {kind}")
 
     def sign_in_editor(self, text=LETTER):
         editor = self.press_in_editor(text)
@@ -157,13 +146,6 @@ class Signing(Story):
         self.desktop.enter_secret()
         self.assert_signed(editor)
 
-    def test_a_wrong_passphrase_may_be_corrected(self):
-        self.start()
-        editor = self.press_in_editor()
-        self.enter_wrong_secret()
-        self.desktop.enter_secret()
-        self.assert_signed(editor)
-
 
 class Applications(Story):
     """A letter in different applications has the same digest, and the block replaces it in the
@@ -182,13 +164,6 @@ class Applications(Story):
 
     def assert_recorded(self, scope):
         self.assertEqual(self.desktop.recorded(), [(DIGEST, scope)])
-
-    def test_an_editor(self):
-        editor = self.desktop.open_editor(PARAGRAPHS)
-        self.desktop.select_all(PARAGRAPHS)
-        self.sign()
-        self.assert_signed(editor, PARAGRAPHS)
-        self.assert_recorded("Public Broadcast")
 
     def test_a_word_processor(self):
         writer = Writer(self.desktop, PARAGRAPHS, bold="draft")
@@ -259,7 +234,7 @@ class Applications(Story):
 
     def test_a_copy_that_is_marked_as_a_secret_is_no_text(self):
         self.desktop.start(
-            self.build / "client_integrations/linux-agent/Tests/secret-editor", LETTER)
+            self.build / "client_integrations/linux-agent/Tests/odd-editor", "secret", LETTER)
         self.desktop.wait_for_window("Vault")
         self.desktop.select_all(LETTER)
         self.press_and_choose()
@@ -270,11 +245,14 @@ class Applications(Story):
 
 class SoftwareTpm(Story):
     def test_a_key_in_the_tpm_signs_once_the_pin_is_right(self):
-        self.start_with_tpm()
+        self.start(tpm=True)
         self.assertIn("TPM simulator", self.desktop.output_of(self.desktop.agent))
         editor = self.desktop.press_in_editor()
         self.desktop.choose_secret("PIN")
-        self.enter_wrong_secret("PIN")
+        self.desktop.wait_for_window("Enter the PIN")
+        question = self.desktop.active_window()
+        self.desktop.enter_secret("not the one I chose", kind="PIN")
+        self.desktop.wait_for_next_window(question, "Enter the PIN")
         self.desktop.enter_secret(kind="PIN")
         self.assert_signed(editor)
         # No output of the TPM's software, which reports every failed command.
@@ -285,11 +263,6 @@ class SoftwareTpm(Story):
 class Dialogs(Story):
     """Tests of the agent's windows, which are answered by keyboard."""
 
-    def press_on(self, text, **settings):
-        self.start(**settings)
-        editor = self.press_in_editor(text)
-        return editor
-
     def press_again(self, editor):
         self.desktop.wait_for_window(re.escape(editor.file.name))
         self.desktop.press_hotkey()
@@ -299,22 +272,10 @@ class Dialogs(Story):
         self.assertEqual(editor.file.read_text(), text)
         self.assertEqual(self.desktop.selection(), text)
 
-    def assert_refused(self, text, title, key):
-        editor = self.press_on(text)
-        self.desktop.close(title, key)
-        self.assert_unsigned(editor, text)
-
-    def test_a_text_that_is_too_short(self):
-        self.assert_refused("Yes.", "Not signed — too short", "Return")
-
-    def test_a_text_that_nobody_should_sign(self):
-        self.assert_refused(
-            "Dear Ms Whitcombe, please buy gift cards and send me the codes of all 14 of them today.",
-            "Not signed — this looks like a scam", "Escape")
-
     def test_a_warning_stops_or_is_overruled(self):
         text = "Congratulations, you have won a prize! Click here to claim it today."
-        editor = self.press_on(text)
+        self.start()
+        editor = self.press_in_editor(text)
         self.desktop.close("Sign this anyway?", "Escape")
         self.assert_unsigned(editor, text)
         self.press_again(editor)
@@ -326,7 +287,8 @@ class Dialogs(Story):
         self.assert_signed(editor, text)
 
     def test_the_confirmation_covers_medium_and_recipient(self):
-        editor = self.press_on(LETTER, ConfirmBeforeSigning="true")
+        self.start(ConfirmBeforeSigning="true")
+        editor = self.press_in_editor()
         self.desktop.close("Sign this content?", "Escape")
         self.assert_unsigned(editor, LETTER)
         self.press_again(editor)
@@ -342,54 +304,11 @@ class Dialogs(Story):
         self.assertEqual(self.desktop.recorded()[0][1], "LinkedIn Post → whitcombe@example.org")
 
     def test_a_cancelled_passphrase_leaves_the_text_alone(self):
-        editor = self.press_on(LETTER)
+        self.start()
+        editor = self.press_in_editor()
         self.desktop.close("Enter the passphrase", "Escape")
         self.desktop.close("Signing Error", "Escape")
         self.assert_unsigned(editor, LETTER)
-
-
-class Trouble(Story):
-    def test_the_server_is_down(self):
-        self.desktop.write_settings(ServerURL="http://127.0.0.1:9", SigningMode="enclave")
-        self.desktop.start_agent()
-        self.press_in_editor()
-        self.desktop.close("Could Not Set Up This Computer")
-
-    def test_a_server_that_has_forgotten_the_key_is_told_it_again(self):
-        self.start()
-        editor = self.sign_in_editor()
-        self.assert_signed(editor)
-        self.desktop.end(self.desktop.server)
-        self.desktop.registry.unlink()
-        self.desktop.start_server(port=self.desktop.server_url.rsplit(":", 1)[1])
-        self.desktop.end(editor)
-        editor = self.desktop.press_in_editor()
-        self.desktop.enter_secret()
-        self.desktop.wait_for_output(self.desktop.server, "/api/register_native 200",
-                                     "the key is registered again")
-        self.desktop.enter_secret()
-        self.assert_signed(editor)
-        self.assertEqual(len(self.desktop.recorded()), 1)
-
-    def test_an_editor_that_closes_before_the_paste(self):
-        self.start()
-        editor = self.press_in_editor()
-        self.desktop.wait_for_window("Enter the passphrase")
-        self.desktop.end(editor)
-        self.desktop.enter_secret()
-        self.wait_for_block()
-
-    def test_killed_in_mid_run_nothing_stays_behind(self):
-        self.start()
-        self.desktop.press_in_editor()
-        self.desktop.wait_for_window("Choose a passphrase")
-        self.desktop.end(self.desktop.agent, signal.SIGKILL)
-        keys = self.desktop.home / ".local/share/quillseal"
-        self.assertEqual([file.name for file in keys.glob("*")], [])
-        self.assertEqual(self.desktop.window_names().count("Choose a passphrase"), 0)
-        self.desktop.start_agent()
-        self.press_and_choose()
-        self.desktop.wait_for_window("Enter the passphrase")
 
 
 class Shield(Story):
@@ -435,14 +354,6 @@ class Commands(Story):
         self.desktop.run(self.desktop.quillseal, "--quit")
         self.wait_until_ended()
         self.assertEqual(self.desktop.agent.returncode, 0)
-
-    def test_settings_changed_from_outside_reach_the_next_run(self):
-        self.desktop.write_settings(ServerURL="http://127.0.0.1:9")
-        self.desktop.start_agent()
-        url = self.desktop.start_server()
-        self.desktop.write_settings(ServerURL=url, SigningMode="enclave")
-        editor = self.sign_in_editor()
-        self.assertTrue(self.assert_signed(editor).startswith(url))
 
 
 class Limits(Story):

@@ -55,18 +55,7 @@ class SwayApplications(OnSway, Applications, stories.Applications):
     """The same."""
 
 
-class SwayTrouble(OnSway, stories.Trouble):
-    """The same."""
-
-
-class SharedWindows(windows.SharedWindows):
-    def test_the_settings_come_to_the_front_again(self):
-        self.open_settings()
-        self.open_letter()
-        self.open_settings()
-
-
-class SwayWindows(OnSway, SharedWindows, windows.WindowStory):
+class SwayWindows(OnSway, windows.SharedWindows, windows.WindowStory):
     def switch_to(self, window):
         self.desktop.run("swaymsg", f"[con_id={window}] focus")
 
@@ -109,23 +98,17 @@ class SwayHotkey(OnSway):
         self.desktop.run("swaymsg", "reload")
         self.assert_signed(self.sign_in_editor())
 
-    def test_a_binding_of_the_configuration_stays(self):
-        self.use("set $mod Mod4\nbindsym --to-code $mod+Alt+Ctrl+h exec touch $HOME/bound\n")
+    def test_a_binding_of_an_included_file_stays(self):
+        (self.desktop.runtime / "more").write_text(
+            "set $mod Mod4\nbindsym --to-code $mod+Alt+Ctrl+h exec touch $HOME/bound\n")
+        with open(self.desktop.runtime / "config", "a", encoding="utf-8") as file:
+            file.write("include ~/more\n")
+        self.desktop.run("swaymsg", "reload")
         self.start()
         self.desktop.wait_for_notification("Sway’s configuration already uses Ctrl+Alt+Super+H")
-        self.press_and_expect_binding()
-
-    def test_a_binding_of_an_included_file_stays(self):
-        self.use("include ~/more\n", more="bindsym Mod4+Alt+Ctrl+h exec touch $HOME/bound\n")
-        self.start()
-        self.press_and_expect_binding()
-
-    def test_without_sway_the_agent_says_how_to_sign_by_keyboard(self):
-        socket = self.desktop.env.pop("SWAYSOCK")
-        self.start()
-        self.desktop.env["SWAYSOCK"] = socket
-        self.desktop.wait_for_notification("This desktop gives programs no hotkey")
-        self.sign_by_command()
+        self.desktop.press_hotkey()
+        wait_for("sway obeys its own binding", (self.desktop.runtime / "bound").exists)
+        self.assertEqual(self.desktop.window_names(), [])
 
     def test_one_of_two_agents_signs(self):
         self.start()
@@ -137,18 +120,6 @@ class SwayHotkey(OnSway):
         self.assert_signed(editor)
         self.assertEqual(len(self.desktop.windows()), 1)
         self.assertEqual(len(self.desktop.recorded()), 1)
-
-    def use(self, configuration, **files):
-        for name, text in files.items():
-            (self.desktop.runtime / name).write_text(text)
-        with open(self.desktop.runtime / "config", "a", encoding="utf-8") as file:
-            file.write(configuration)
-        self.desktop.run("swaymsg", "reload")
-
-    def press_and_expect_binding(self):
-        self.desktop.press_hotkey()
-        wait_for("sway obeys its own binding", (self.desktop.runtime / "bound").exists)
-        self.assertEqual(self.desktop.window_names(), [])
 
 
 class Layouts:

@@ -9,11 +9,10 @@ import contextlib
 import os
 import re
 import signal
-import time
 
 import stories
 from applications import Terminal
-from session import HOTKEY, LETTER, wait_for
+from session import LETTER, wait_for
 from stories import Story
 from xclient import XClient
 
@@ -36,11 +35,6 @@ class WindowStory(Story):
         self.desktop.select_all(LETTER)
         letter.window = self.desktop.active_window()
         return letter
-
-    def make_key(self):
-        """So that the run of the story begins with the capture."""
-        self.press_and_choose()
-        self.desktop.close("No Text Found")
 
     @contextlib.contextmanager
     def while_the_server_is_slow(self):
@@ -160,20 +154,6 @@ class Windows(SharedWindows, WindowStory):
     def leave_workspace(self):
         self.desktop.run("xdotool", "set_desktop", 1)
 
-    def minimise(self, window):
-        self.desktop.run("xdotool", "windowminimize", window)
-
-    # Paste
-
-    def test_the_source_is_minimised(self):
-        chat = self.open_chat()
-        letter = self.open_letter()
-        with self.while_the_server_is_slow():
-            self.minimise(letter.window)
-            self.desktop.wait_for_window(re.escape(chat.file.name))
-        self.desktop.wait_for_window(re.escape(letter.file.name))
-        self.assert_pasted_into_letter_alone(letter, chat)
-
     def test_another_window_comes_to_the_front_right_before_the_paste(self):
         chat = self.open_chat()
         letter = self.open_letter()
@@ -207,80 +187,6 @@ class Windows(SharedWindows, WindowStory):
         self.desktop.type("touch typed\n")
         wait_for("the shell takes a command", (self.desktop.home / "typed").exists)
         self.assertFalse((self.desktop.home / "ran").exists())
-
-    # Copy
-
-    def test_another_window_comes_to_the_front_while_the_hotkey_is_held(self):
-        self.make_key()
-        chat = self.open_chat()
-        letter = self.open_letter()
-        # An agent that does not run for so long sees only the other window, whose text is then
-        # signed.
-        self.assertTrue(any(self.is_refused_after_switch(letter, chat) for _ in range(4)))
-        self.assert_unrecorded()
-        self.assert_untouched(chat, CHAT)
-        self.assert_untouched(letter, LETTER)
-
-    def is_refused_after_switch(self, letter, chat):
-        self.switch_to(letter.window)
-        self.desktop.wait_for_window(re.escape(letter.file.name))
-        before = self.desktop.selection()
-        held = self.desktop.start(self.desktop.held_keys, 1500, *HOTKEY)
-        self.desktop.wait_for_output(held, "pressed", "the keys are down")
-        time.sleep(0.2)  # the agent knows the active window and waits for the keys' release
-        self.x.focus(chat.window)
-        if self.desktop.wait_for_window("Not Signed|Enter the passphrase")[0] == "Not Signed":
-            self.desktop.close("Not Signed")
-            self.assertEqual(self.desktop.selection(), before)
-            return True
-        self.desktop.close("Enter the passphrase", "Escape")
-        self.desktop.close("Signing Error")
-        return False
-
-    def test_a_stopped_agent_signs_no_more_than_the_selection(self):
-        self.make_key()
-        private = "My PIN is 4711."
-        letter = self.desktop.open_editor(f"{LETTER}\n{private}\n")
-        self.desktop.key("ctrl+Home")
-        self.desktop.key("shift+End")
-        wait_for("the letter is selected", lambda: self.desktop.selection("primary") == LETTER)
-        os.kill(letter.pid, signal.SIGSTOP)
-        self.desktop.press_hotkey()
-        time.sleep(0.3)  # the agent has pressed the copy keys
-        os.kill(self.desktop.agent.pid, signal.SIGSTOP)
-        time.sleep(1.3)
-        os.kill(letter.pid, signal.SIGCONT)
-        os.kill(self.desktop.agent.pid, signal.SIGCONT)
-        self.desktop.enter_secret()
-        saved = self.desktop.saved_text(letter, "Check this signature")
-        self.assertTrue(saved.startswith(f"『{LETTER}』\n\n────"), saved)
-        self.assertTrue(saved.rstrip().endswith(private), saved)
-
-    # Windows of the agent
-
-    def test_the_application_behind_the_agents_windows_is_asked_to_copy(self):
-        letter = self.desktop.open_editor("Only four words here")
-        letter.window = self.desktop.active_window()
-        self.desktop.select_all("Only four words here")
-        self.press_and_choose()
-        self.desktop.wait_for_window("Not signed — too short")
-        alert = self.desktop.active_window()
-        self.switch_to(letter.window)
-        self.write_letter(letter)
-        self.switch_to(alert)
-        self.desktop.wait_for_window("Not signed — too short")
-        self.select_with_mouse(alert)
-        self.desktop.press_hotkey()
-        self.desktop.enter_secret()
-        self.assert_signed(letter)
-
-    def select_with_mouse(self, window):
-        """Selects all selectable text of the window."""
-        def selected():
-            self.desktop.run("xdotool", "mousemove", "--window", window, 68, 57, "mousedown", 1,
-                             "mousemove", "--window", window, 300, 57, "mouseup", 1)
-            return "words" in self.desktop.selection("primary")
-        wait_for("text of the agent is selected", selected)
 
 
 if __name__ == "__main__":

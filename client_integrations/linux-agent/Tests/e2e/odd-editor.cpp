@@ -1,5 +1,6 @@
-// An editor that hangs when its copied text is requested in any format but plain text.
-// usage: silent-editor TEXT
+// An editor whose copied text is marked as a secret, as by password managers, or that hangs when it
+// is requested in any format but plain text.
+// usage: odd-editor secret|silent TEXT
 
 #include <QApplication>
 #include <QMimeData>
@@ -22,13 +23,14 @@ class SilentData : public QMimeData {
   }
 };
 
-class SilentEditor : public QPlainTextEdit {
+class OddEditor : public QPlainTextEdit {
  protected:
   [[nodiscard]] QMimeData* createMimeDataFromSelection() const override {
-    auto* const copied = new SilentData;  // owned by the clipboard
+    const bool isSecret = QApplication::arguments().value(1) == QStringLiteral("secret");
+    auto* const copied = isSecret ? new QMimeData : new SilentData;  // owned by the clipboard
     copied->setText(textCursor().selectedText());
-    for (const char* format : {"text/html", "text/rtf"})
-      copied->setData(QString::fromLatin1(format), "never seen");
+    if (isSecret) copied->setData(QStringLiteral("x-kde-passwordManagerHint"), "secret");
+    if (!isSecret) copied->setData(QStringLiteral("text/html"), "never seen");
     return copied;
   }
 };
@@ -37,9 +39,9 @@ class SilentEditor : public QPlainTextEdit {
 
 int main(int argc, char** argv) {
   const QApplication application(argc, argv);
-  SilentEditor editor;
-  editor.setWindowTitle(QStringLiteral("Silence"));
-  editor.setPlainText(QApplication::arguments().value(1));
+  OddEditor editor;
+  editor.setWindowTitle(QStringLiteral("Vault"));
+  editor.setPlainText(QApplication::arguments().value(2));
   editor.show();
   return QApplication::exec();
 }

@@ -1,0 +1,248 @@
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <array>
+#include <barrier>
+#include <chrono>
+#include <fstream>
+#include <future>
+#include <map>
+#include <memory>
+#include <optional>
+#include <thread>
+
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <unistd.h>
+#include <xkbcommon/xkbcommon-keysyms.h>
+
+#include "Cases.h"
+#include "Quillseal/ContentRisk.h"
+#include "desktop/SigningHotkey.h"
+#include "session/CommandLine.h"
+#include "session/IdleMemory.h"
+#include "session/JournalLog.h"
+#include "session/LinuxWording.h"
+#include "session/QtDescriptors.h"
+#include "session/QtMainLoop.h"
+#include "session/Reach.h"
+#include "x11/KeyChords.h"
+#include "x11/QtPasteboard.h"
+#include "x11/WindowDocument.h"
+
+namespace quillseal::linux {
+namespace {
+
+using desktop::Key;
+using desktop::KeyPress;
+using desktop::Modifiers;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using namespace std::string_literals;
+
+TEST(CommandLineTest, UnderstandsOptionsOrSaysWhatItDoesNotUnderstand) {
+  const std::map<std::string, Command> commands{
+      {"start", Command::start},     {"background", Command::background},
+      {"sign", Command::sign},       {"settings", Command::settings},
+      {"quit", Command::quit},       {"help", Command::help},
+      {"version", Command::version}, {"wrong", Command::wrong}};
+  for (const auto& [arguments, command, problem, tpm] :
+       testing::cases<std::vector<std::string>, std::string, std::string, std::string>()) {
+    SCOPED_TRACE(::testing::PrintToString(arguments));
+    const CommandLine line =
+        parseCommandLine(std::vector<std::string_view>(arguments.begin(), arguments.end()));
+    EXPECT_EQ(line.command, commands.at(command));
+    EXPECT_THAT(line.problem, HasSubstr(problem));
+    EXPECT_EQ(line.problem.empty(), problem.empty());
+    EXPECT_EQ(line.tpm, tpm);
+  }
+}
+
+// A second start without an option shows the settings: without a tray there is no other way to
+// them.
+TEST(CommandLineTest, ASecondStartOpensTheSettings) {
+  EXPECT_EQ(wireName(Command::start), wireName(Command::settings));
+  EXPECT_EQ(wireName(Command::help), "");
+}
+
+void expectPart(const std::string& text, const std::string& part) {
+  EXPECT_THAT(text, HasSubstr(part));
+  EXPECT_EQ(text.empty(), part.empty()) << text;
+}
+
+TEST(ReachTest, SaysWhatDoesNotWorkAndHowToGoOn) {
+  for (const auto& [isWayland, hasXServer, canPressKeys, part] :
+       testing::cases<bool, bool, bool, std::string>())
+    expectPart(
+        limitsOf({.isWayland = isWayland, .hasXServer = hasXServer, .canPressKeys = canPressKeys}),
+        part);
+}
+
+TEST(ReachTest, ChoosesThePlatformThatReachesMost) {
+  for (const auto& [hasXServer, reachesApplications, hasWayland, hasPlugin, wanted, chosen, part] :
+       testing::cases<bool, bool, bool, bool, std::string, std::string, std::string>()) {
+    const auto platform = platformFor({.hasXServer = hasXServer,
+                                       .reachesApplicationsByWayland = reachesApplications,
+                                       .hasWayland = hasWayland,
+                                       .hasWaylandPlugin = hasPlugin,
+                                       .wantedPlatform = wanted});
+    EXPECT_EQ(platform.platform, chosen);
+    expectPart(platform.obstacle, part);
+  }
+}
+
+TEST(JournalLogTest, ALineStaysALine) {
+  ::testing::internal::CaptureStderr();
+  JournalLog(JournalLog::Echo::standardError).write("a\nb\x1b[1m\x7f é");
+  EXPECT_EQ(::testing::internal::GetCapturedStderr(), "a\\x0ab\\x1b[1m\\x7f é\n");
+}
+
+TEST(JournalLogTest, DoesNotWaitUntilSomebodyReadsItsOutput) {
+  std::array<int, 2> pipe{};
+  ASSERT_EQ(::pipe2(pipe.data(), O_CLOEXEC | O_NONBLOCK), 0);
+  std::string page(4096, 'x');
+  while (::write(pipe[1], page.data(), page.size()) > 0) {
+  }
+  ::fcntl(pipe[1], F_SETFL, 0);
+  const int before = ::dup(STDERR_FILENO);
+  ::dup2(pipe[1], STDERR_FILENO);
+
+  JournalLog log(JournalLog::Echo::standardError);
+  const auto written = std::async(std::launch::async, [&log] { log.write("a line"); });
+  const auto status = written.wait_for(std::chrono::seconds(20));
+
+  // Wakes a writer that would wait.
+  while (::read(pipe[0], page.data(), page.size()) > 0) {
+  }
+  written.wait();
+  ::dup2(before, STDERR_FILENO);
+  for (const int descriptor : {pipe[0], pipe[1], before})
+    ::close(descriptor);
+  EXPECT_EQ(status, std::future_status::ready);
+}
+
+constexpr std::size_t mebibyte = 1U << 20U;
+
+std::size_t residentBytes() {
+  std::size_t all = 0;
+  std::size_t resident = 0;
+  std::ifstream("/proc/self/statm") >> all >> resident;
+  return resident * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
+}
+
+// Allocates as scrypt does for a key file, in several workers.
+TEST(IdleMemory, HoldsNoLargeBlocksOfWorkers) {
+  if (!returnLargeBlocks()) GTEST_SKIP() << "a sanitizer's allocator keeps what is freed";
+  constexpr std::size_t workers = 4;
+  constexpr std::size_t blockSize = 16 * mebibyte;
+  const std::size_t before = residentBytes();
+  std::barrier allIdle(workers + 1);
+  std::vector<std::jthread> threads;
+  for (std::size_t i = 0; i < workers; ++i)
+    threads.emplace_back([&] {
+      for (int round = 0; round < 3; ++round) {
+        // More than one block, so that the C library would raise its threshold.
+        const std::vector<char> first(blockSize, 'x');
+        const std::vector<char> second(blockSize, first.back());
+      }
+      allIdle.arrive_and_wait();
+      allIdle.arrive_and_wait();
+    });
+  allIdle.arrive_and_wait();
+  giveBackUnusedMemory();
+  EXPECT_LT(residentBytes(), before + 8 * mebibyte);
+  allIdle.arrive_and_wait();
+}
+
+TEST(IdleMemory, ConstantsAreThereAgainWhenTheyAreNeeded) {
+  const auto scores = [] {
+    return ContentRisk::evaluate("Please buy gift cards and send me a picture of them.").score;
+  };
+  const auto expected = scores();
+  ASSERT_GT(expected, 0);
+  const std::size_t before = residentBytes();
+  giveBackUnusedMemory();
+  EXPECT_LT(residentBytes(), before - mebibyte);
+  EXPECT_EQ(scores(), expected);
+}
+
+constexpr KeyPress copy{.key = Key::c, .modifiers = Modifiers::command};
+constexpr KeyPress paste{.key = Key::v, .modifiers = Modifiers::command};
+constexpr KeyPress selectAll{.key = Key::a, .modifiers = Modifiers::command};
+constexpr KeyPress hotkey = desktop::signingHotkey;
+
+TEST(KeyChordsTest, CommandIsControlUnlessControlIsThereToo) {
+  EXPECT_THAT(chordOf(copy), ElementsAre(XKB_KEY_Control_L, XKB_KEY_c));
+  EXPECT_THAT(chordOf(hotkey),
+              ElementsAre(XKB_KEY_Control_L, XKB_KEY_Alt_L, XKB_KEY_Super_L, XKB_KEY_h));
+  EXPECT_EQ(nameOf(hotkey), "Ctrl+Alt+Super+H");
+  EXPECT_EQ(nameOf(hotkey), linuxWording({.key = KeyPlace::tpm}).hotkey);
+  EXPECT_EQ(nameOf(Modifiers::command, ","), "Ctrl+,");
+}
+
+TEST(KeyChordsTest, ApplicationsGetTheChordsTheyKnowAndNoTerminalAnInterruptOrALineOfText) {
+  const std::map<std::string, std::vector<Keysym>> chords{
+      {"none", {}},
+      {"control", chordOf(copy)},
+      {"shift", {XKB_KEY_Control_L, XKB_KEY_Shift_L, XKB_KEY_c}}};
+  for (const auto& [categories, windowClass, isOne, copies] :
+       testing::cases<std::string, std::string, bool, std::string>()) {
+    SCOPED_TRACE(windowClass);
+    EXPECT_EQ(isTerminal(categories, windowClass), isOne);
+    EXPECT_EQ(chordFor(copy, categories, windowClass), chords.at(copies));
+    EXPECT_EQ(copiesBySelecting(windowClass), copies == "none");
+    for (const KeyPress press : {paste, selectAll})
+      EXPECT_EQ(chordFor(press, categories, windowClass),
+                isOne ? std::vector<Keysym>() : chordOf(press));
+  }
+}
+
+TEST(WindowDocumentTest, TellsDocumentsApart) {
+  for (const auto& [title, focus, titleNow, focusNow, isSame] :
+       testing::cases<std::string, std::uint32_t, std::string, std::uint32_t, bool>())
+    EXPECT_EQ(isSameDocument(documentName({title, focus}), documentName({titleNow, focusNow})),
+              isSame)
+        << title << " | " << titleNow;
+  EXPECT_TRUE(isSameDocument(documentName({"Brief \xFF"}), documentName({"Brief \xFF"})));
+  EXPECT_TRUE(isSameDocument("", documentName({"letter.txt", 7})));
+}
+
+TEST(QtPasteboard, ReadsWhatProgramsOffer) {
+  std::array words{"test"s, "-platform"s, "minimal"s};  // a platform without X
+  std::array<char*, 4> arguments{words[0].data(), words[1].data(), words[2].data(), nullptr};
+  int count = 3;
+  const QGuiApplication application(count, arguments.data());
+  QtMainLoop loop;
+  QtDescriptors descriptors;
+  QtPasteboard pasteboard({.loop = loop, .descriptors = descriptors});
+
+  const std::pair<std::string, std::optional<std::string>> rows[] = {
+      {"<p>é</p>\n\0"s, "<p>é</p>\n"},
+      {"\0<b>\0\0x\0"s, "<b>x"},
+      {"\0"s, std::nullopt},
+      {"\xFF\xFE<\0p\0>\0\0\0"s, "<p>"}};  // UTF-16, as browsers send it
+  for (const auto& [offered, read] : rows) {
+    auto data = std::make_unique<QMimeData>();
+    data->setData(QStringLiteral("text/html"), QByteArray::fromStdString(offered));
+    const bool isUtf16 = offered.front() == '\xFF';
+    if (!isUtf16) data->setText(QString::fromUtf8(QByteArray::fromStdString(offered)));
+    QGuiApplication::clipboard()->setMimeData(data.release());
+    EXPECT_EQ(pasteboard.html(), read) << ::testing::PrintToString(offered);
+    EXPECT_EQ(pasteboard.plainText(), isUtf16 ? std::nullopt : read);
+  }
+
+  for (const char* hint : {"", "secret"}) {
+    auto data = std::make_unique<QMimeData>();
+    data->setData(QStringLiteral("x-kde-passwordManagerHint"), hint);
+    data->setData(QStringLiteral("text/rtf"), QByteArray("{\0}", 3));
+    QGuiApplication::clipboard()->setMimeData(data.release());
+    std::optional<std::string> rtf = "not called";
+    const auto ticket =
+        pasteboard.fetchRtf([&](std::optional<std::string> bytes) { rtf = std::move(bytes); });
+    EXPECT_EQ(rtf, *hint == 0 ? std::optional("{\0}"s) : std::nullopt);
+  }
+}
+
+}  // namespace
+}  // namespace quillseal::linux

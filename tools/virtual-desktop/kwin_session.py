@@ -21,7 +21,7 @@ function tell() {
   print("windows " + JSON.stringify(workspace.clientList().map(function (window) {
     return {id: String(window.internalId), name: String(window.caption), pid: window.pid,
             app_id: String(window.resourceClass), focused: workspace.activeClient === window,
-            shell: window.windowId ? "xwayland" : "xdg_shell", minimised: window.minimized};
+            shell: window.windowId ? "xwayland" : "xdg_shell"};
   })));
 }
 function follow(window) {
@@ -35,7 +35,7 @@ workspace.clientActivated.connect(tell);
 workspace.clientList().forEach(follow);
 tell();
 """
-FOCUS_ACTION, MINIMISE_ACTION = 0, 2
+FOCUS_ACTION = 0
 
 
 def become_ordinary():
@@ -143,15 +143,9 @@ class KwinSession(wayland_session.WaylandSession):
         told = re.findall(r"^.*\bwindows (\[.*\])$", self.output_of(self.compositor), re.M)
         return json.loads(told[-1])
 
-    def _perform(self, action, window):
-        self.call_kwin("/WindowsRunner", "org.kde.krunner1.Run", f"{action}_{window}", "")
-
     def show(self, window):
         """Brings the window with this id to the front."""
-        self._perform(FOCUS_ACTION, window)
-
-    def minimise(self, window):
-        self._perform(MINIMISE_ACTION, window)
+        self.call_kwin("/WindowsRunner", "org.kde.krunner1.Run", f"{FOCUS_ACTION}_{window}", "")
 
     def focus(self, pattern):
         self.show(next(window["id"] for window in self.windows()

@@ -118,6 +118,20 @@ std::string trialReport(std::string_view label, const PatternTrial& trial, std::
   return report;
 }
 
+/// Says why a match of the rule in `text` does not count, or not in full; nothing when it does.
+std::string reservation(const ContentRules::Rule& rule, std::string_view text) {
+  const ContentRisk::Screening screening = ContentRisk::screen(text);
+  for (const ContentRisk::Finding& finding : screening.assessment.findings) {
+    if (finding.id != rule.id) continue;
+    if (finding.isBlocking || rule.severity != "block") return {};
+    return line("", "but does not block: it is quoted in a report, and counts " +
+                        std::to_string(finding.points));
+  }
+  return line("",
+              "but does not count: it is quoted in a report, begins or ends within a character, or "
+              "stands behind what is screened");
+}
+
 }  // namespace
 
 Inspection inspect(const Capture& capture) {
@@ -162,6 +176,7 @@ std::string ruleReport(const RuleQuestion& question) {
   TriedPattern tried{.written = question.pattern.value_or("")};
   std::string report;
   std::string ofRule;
+  const ContentRules::Rule* screened = nullptr;  // the rule whose own pattern is tried
   if (question.rule) {
     const auto rule = std::ranges::find(ContentRules::all, *question.rule, &ContentRules::Rule::id);
     if (rule == ContentRules::all.end())
@@ -170,23 +185,20 @@ std::string ruleReport(const RuleQuestion& question) {
                                "): " + std::string(rule->category));
     ofRule = ContentRules::abbreviated(rule->pattern);
     tried.caseInsensitive = rule->caseInsensitive;
-    if (!question.pattern) tried.written = ofRule;
+    if (!question.pattern) {
+      tried.written = ofRule;
+      screened = &*rule;
+    }
   }
+  const auto reportTrial = [&](std::string_view label, std::string_view text) {
+    const PatternTrial trial = tryPattern(tried, text);
+    report += trialReport(label, trial, text);
+    if (trial.isMatch && screened != nullptr) report += reservation(*screened, text);
+  };
   const std::string text(unicode::trimmed(question.text));
-  const PatternTrial asWritten = tryPattern(tried, text);
-  report += trialReport("As written", asWritten, text);
-  if (asWritten.isMatch && question.rule && !question.pattern) {
-    const auto hits = ContentRisk::screen(text).hits;
-    if (std::ranges::find(hits, *question.rule, &ContentRisk::Hit::id) == hits.end())
-      report += line("",
-                     "but does not count: it is quoted in a report, begins or ends within a "
-                     "character, or stands behind what is screened");
-  }
+  reportTrial("As written", text);
   const ReadableText reading(text);
-  if (!reading.isAsWritten()) {
-    const std::string read(reading.text());
-    report += trialReport("As read", tryPattern(tried, read), read);
-  }
+  if (!reading.isAsWritten()) reportTrial("As read", reading.text());
   return report;
 }
 

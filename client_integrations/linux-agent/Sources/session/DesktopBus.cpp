@@ -7,7 +7,9 @@
 namespace quillseal::linux {
 namespace {
 
-constexpr std::uint64_t callMicroseconds = 1'000'000;
+std::uint64_t inMicroseconds(std::chrono::milliseconds time) {
+  return static_cast<std::uint64_t>(std::chrono::microseconds(time).count());
+}
 
 /// A call that waits for its answer.
 struct Pending {
@@ -28,7 +30,7 @@ std::unique_ptr<DesktopBus> DesktopBus::open() {
   sd_bus* opened = nullptr;
   if (::sd_bus_open_user(&opened) < 0) return nullptr;
   // Also for what the library asks the bus by itself, such as for signals.
-  ::sd_bus_set_method_call_timeout(opened, callMicroseconds);
+  ::sd_bus_set_method_call_timeout(opened, inMicroseconds(patience));
   return std::unique_ptr<DesktopBus>(new DesktopBus(opened));
 }
 
@@ -55,6 +57,16 @@ std::optional<bool> DesktopBus::knows(const char* name) {
   return has != 0;
 }
 
+bool DesktopBus::start(const char* name, std::chrono::milliseconds limit) {
+  const Message request = newCall({.service = "org.freedesktop.DBus",
+                                   .path = "/org/freedesktop/DBus",
+                                   .interface = "org.freedesktop.DBus",
+                                   .name = "StartServiceByName"});
+  if (request == nullptr || ::sd_bus_message_append(request.get(), "su", name, 0U) < 0)
+    return false;
+  return send(*request, limit) != nullptr;
+}
+
 DesktopBus::Message DesktopBus::newCall(const Method& method) {
   sd_bus_message* made = nullptr;
   if (::sd_bus_message_new_method_call(bus_.get(), &made, method.service, method.path,
@@ -74,22 +86,29 @@ desktop::Ticket DesktopBus::callLater(sd_bus_message& request, Answered answered
   return {};
 }
 
+void DesktopBus::post(sd_bus_message& request) {
+  ::sd_bus_message_set_expect_reply(&request, 0);
+  ::sd_bus_send(bus_.get(), &request, nullptr);
+}
+
 std::string DesktopBus::ownName() const {
   const char* name = nullptr;
   return ::sd_bus_get_unique_name(bus_.get(), &name) < 0 ? std::string() : std::string(name);
 }
 
-DesktopBus::Message DesktopBus::send(sd_bus_message& request) {
+DesktopBus::Message DesktopBus::send(sd_bus_message& request, std::chrono::milliseconds limit) {
   ::sd_bus_message_set_auto_start(&request, 0);
   sd_bus_message* answer = nullptr;
-  const int result = ::sd_bus_call(bus_.get(), &request, callMicroseconds, nullptr, &answer);
+  const int result = ::sd_bus_call(bus_.get(), &request, inMicroseconds(limit), nullptr, &answer);
   processQueued();
   return Message(result < 0 ? nullptr : answer);
 }
 
 DesktopBus::Subscription DesktopBus::subscribe(const Signal& signal, Receiver& received) {
   const auto receive = [](sd_bus_message* message, void* data, sd_bus_error*) {
-    (*static_cast<Receiver*>(data))(*message);
+    // A copy: the call may end the subscription, and its function with it.
+    const Receiver call = *static_cast<Receiver*>(data);
+    call(*message);
     return 0;
   };
   std::string rule = std::string("type='signal',sender='") + signal.sender + "',path='" +

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -47,6 +48,10 @@ class DesktopBus {
   /// Whether somebody has this name; nothing when the bus does not answer.
   [[nodiscard]] std::optional<bool> knows(const char* name);
 
+  /// Starts the service unless it runs. Returns whether it runs in the end, and blocks for
+  /// `limit` at most.
+  [[nodiscard]] bool start(const char* name, std::chrono::milliseconds limit);
+
   /// Calls a method and returns the answer; null when there is none within a second, or an error.
   /// Starts no service. `types` and `arguments` as for sd_bus_message_append.
   template <typename... Arguments>
@@ -66,6 +71,12 @@ class DesktopBus {
   using Answered = std::function<void(sd_bus_message*)>;
   [[nodiscard]] desktop::Ticket callLater(sd_bus_message& request, Answered answered);
 
+  /// Sends the call and asks for no answer.
+  void post(sd_bus_message& request);
+
+  /// Sends the call and returns the answer, as `call`.
+  [[nodiscard]] Message send(sd_bus_message& request) { return send(request, patience); }
+
   /// The name of this connection on the bus, such as ":1.42"; empty when there is none.
   [[nodiscard]] std::string ownName() const;
 
@@ -76,7 +87,8 @@ class DesktopBus {
 
  private:
   explicit DesktopBus(sd_bus* bus) : bus_(bus) {}
-  [[nodiscard]] Message send(sd_bus_message& request);
+  static constexpr std::chrono::milliseconds patience{1000};
+  [[nodiscard]] Message send(sd_bus_message& request, std::chrono::milliseconds limit);
   void processQueued();
   void process();
 

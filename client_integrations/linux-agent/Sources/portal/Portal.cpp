@@ -1,0 +1,285 @@
+#include "portal/Portal.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <string_view>
+
+#include <unistd.h>
+
+#include "core/tasks/Async.h"
+
+namespace quillseal::linux {
+namespace {
+
+constexpr const char* properties = "org.freedesktop.DBus.Properties";
+constexpr const char* requestInterface = "org.freedesktop.portal.Request";
+constexpr const char* sessionInterface = "org.freedesktop.portal.Session";
+constexpr std::uint32_t keyboard = 1;
+
+constexpr DesktopBus::Signal ownerChanged{.sender = "org.freedesktop.DBus",
+                                          .path = "/org/freedesktop/DBus",
+                                          .interface = "org.freedesktop.DBus",
+                                          .name = "NameOwnerChanged",
+                                          .firstArgument = Portal::service};
+
+std::uint32_t propertyOf(DesktopBus& bus, const char* interface, const char* name) {
+  const DesktopBus::Message answer = bus.call(
+      {.service = Portal::service, .path = Portal::path, .interface = properties, .name = "Get"},
+      "ss", interface, name);
+  std::uint32_t value = 0;
+  if (answer == nullptr || ::sd_bus_message_read(answer.get(), "v", "u", &value) <= 0) return 0;
+  return value;
+}
+
+int appendValue(sd_bus_message& message, std::uint32_t value) {
+  return ::sd_bus_message_append(&message, "v", "u", value);
+}
+
+int appendValue(sd_bus_message& message, const std::string& value) {
+  return ::sd_bus_message_append(&message, "v", "s", value.c_str());
+}
+
+int appendValue(sd_bus_message& message, const std::vector<std::string>& values) {
+  int result = ::sd_bus_message_open_container(&message, 'v', "as");
+  if (result >= 0) result = ::sd_bus_message_open_container(&message, 'a', "s");
+  for (const std::string& value : values)
+    if (result >= 0) result = ::sd_bus_message_append(&message, "s", value.c_str());
+  if (result >= 0) result = ::sd_bus_message_close_container(&message);
+  return result < 0 ? result : ::sd_bus_message_close_container(&message);
+}
+
+}  // namespace
+
+PortalOffer offerOfPortal(DesktopBus& bus) {
+  constexpr std::chrono::seconds start{5};
+  if (!bus.start(Portal::service, start)) return {};
+  const auto version = [&bus](const char* interface) {
+    return propertyOf(bus, interface, "version");
+  };
+  PortalOffer offer;
+  constexpr const char* remoteDesktop = "org.freedesktop.portal.RemoteDesktop";
+  if ((propertyOf(bus, remoteDesktop, "AvailableDeviceTypes") & keyboard) != 0)
+    offer.remoteDesktop = version(remoteDesktop);
+  offer.globalShortcuts = version("org.freedesktop.portal.GlobalShortcuts");
+  offer.clipboard = version("org.freedesktop.portal.Clipboard");
+  return offer;
+}
+
+// Calls -------------------------------------------------------------------------------------------
+
+Portal::Portal(DesktopBus& bus, std::string applicationId)
+    : bus_(bus),
+      applicationId_(std::move(applicationId)),
+      onOwner_([this](sd_bus_message&) { isIntroduced_ = false; }) {
+  owners_ = bus_.subscribe(ownerChanged, onOwner_);
+}
+
+Portal::Message Portal::newCall(const char* interface, const char* method) const {
+  return bus_.newCall({.service = service, .path = path, .interface = interface, .name = method});
+}
+
+Portal::Message Portal::newCall(const char* interface, const char* method,
+                                const std::string& session) const {
+  Message call = newCall(interface, method);
+  if (call == nullptr || ::sd_bus_message_append(call.get(), "o", session.c_str()) < 0)
+    return nullptr;
+  return call;
+}
+
+bool Portal::append(sd_bus_message& message, const Options& options) {
+  int result = ::sd_bus_message_open_container(&message, 'a', "{sv}");
+  for (const auto& [name, option] : options) {
+    if (result >= 0) result = ::sd_bus_message_open_container(&message, 'e', "sv");
+    if (result >= 0) result = ::sd_bus_message_append(&message, "s", name);
+    if (result >= 0)
+      result =
+          std::visit([&message](const auto& value) { return appendValue(message, value); }, option);
+    if (result >= 0) result = ::sd_bus_message_close_container(&message);
+  }
+  return result >= 0 && ::sd_bus_message_close_container(&message) >= 0;
+}
+
+std::string Portal::newToken() {
+  return "quillseal" + std::to_string(++lastToken_);
+}
+
+Task<Portal::Message> Portal::call(Message call) {
+  if (call == nullptr) co_return nullptr;
+  introduce();
+  co_return co_await completionOf<Message>([this, &call](std::function<void(Message)> done) {
+    return bus_.callLater(*call, [done = std::move(done)](sd_bus_message* answer) {
+      const bool isError =
+          answer == nullptr || ::sd_bus_message_is_method_error(answer, nullptr) > 0;
+      done(Message(isError ? nullptr : ::sd_bus_message_ref(answer)));
+    });
+  });
+}
+
+/// Programs outside of a sandbox have to say who they are before anything else. Older portals find
+/// it out by themselves.
+void Portal::introduce() {
+  if (std::exchange(isIntroduced_, true)) return;
+  Message registration = newCall("org.freedesktop.host.portal.Registry", "Register");
+  if (registration == nullptr ||
+      ::sd_bus_message_append(registration.get(), "sa{sv}", applicationId_.c_str(), 0) < 0)
+    return;
+  // Calls are handled in order, so nobody has to wait for the answer.
+  bus_.post(*registration);
+}
+
+/// A request under way.
+struct Portal::Request {
+  DesktopBus& bus;
+  std::string path;
+  std::function<void(PortalAnswer)> answered;
+  DesktopBus::Receiver onResponse{};
+  DesktopBus::Receiver onOwner{};
+  DesktopBus::Subscription response{};
+  DesktopBus::Subscription owners{};
+  desktop::Ticket call{};
+  bool isAnswered = false;
+
+  void answer(PortalAnswer with) {
+    isAnswered = true;
+    // The completion may drop the request.
+    if (const auto done = std::exchange(answered, nullptr)) done(std::move(with));
+  }
+
+  void withdraw() {
+    answered = nullptr;
+    call = {};
+    response = nullptr;
+    owners = nullptr;
+    if (isAnswered) return;
+    const Message close = bus.newCall({.service = Portal::service,
+                                       .path = path.c_str(),
+                                       .interface = requestInterface,
+                                       .name = "Close"});
+    if (close != nullptr) bus.post(*close);
+  }
+};
+
+Task<PortalAnswer> Portal::request(Message call, Options options) {
+  const std::string token = newToken();
+  options.emplace_back("handle_token", token);
+  if (call == nullptr || !append(*call, options)) co_return PortalAnswer{};
+  introduce();
+
+  std::string sender = bus_.ownName();
+  std::ranges::replace(sender, '.', '_');
+  if (sender.starts_with(':')) sender.erase(0, 1);
+  const std::string handle = std::string(path) + "/request/" + sender + "/" + token;
+  co_return co_await completionOf<PortalAnswer>(
+      [this, &call, &handle](std::function<void(PortalAnswer)> done) {
+        const auto request = std::make_shared<Request>(
+            Request{.bus = bus_, .path = handle, .answered = std::move(done)});
+        // It outlives its receivers, which it owns.
+        Request& self = *request;
+        self.onResponse = [&self](sd_bus_message& signal) {
+          std::uint32_t code = 2;
+          PortalAnswer answer;
+          if (::sd_bus_message_read(&signal, "u", &code) > 0 && code < 2)
+            answer.outcome =
+                code == 0 ? PortalAnswer::Outcome::granted : PortalAnswer::Outcome::refused;
+          answer.message.reset(::sd_bus_message_ref(&signal));
+          self.answer(std::move(answer));
+        };
+        self.response = bus_.subscribe({.sender = service,
+                                        .path = self.path.c_str(),
+                                        .interface = requestInterface,
+                                        .name = "Response",
+                                        .firstArgument = nullptr},
+                                       self.onResponse);
+        self.onOwner = [&self](sd_bus_message& signal) {
+          const char* name = nullptr;
+          const char* before = nullptr;
+          // A portal that has ended never answers; one that the call starts had no owner before.
+          if (::sd_bus_message_read(&signal, "ss", &name, &before) > 0 && *before != '\0')
+            self.answer({});
+        };
+        self.owners = bus_.subscribe(ownerChanged, self.onOwner);
+        desktop::Ticket ticket([request] { request->withdraw(); });
+        self.call = bus_.callLater(*call, [&self](sd_bus_message* answer) {
+          if (answer == nullptr || ::sd_bus_message_is_method_error(answer, nullptr) > 0)
+            self.answer({});
+        });
+        return ticket;
+      });
+}
+
+// Sessions ----------------------------------------------------------------------------------------
+
+Task<std::unique_ptr<PortalSession>> PortalSession::open(Portal& portal, const char* interface,
+                                                         std::function<void()> ended) {
+  Portal::Options options{{"session_handle_token", portal.newToken()}};
+  Portal::Message call = portal.newCall(interface, "CreateSession");
+  const PortalAnswer answer = co_await portal.request(std::move(call), std::move(options));
+  if (answer.outcome != PortalAnswer::Outcome::granted) co_return nullptr;
+  const std::string handle = textOption(*answer.message, "u", "session_handle").value_or("");
+  if (::sd_bus_object_path_is_valid(handle.c_str()) <= 0) co_return nullptr;
+  co_return std::make_unique<PortalSession>(portal, handle, std::move(ended));
+}
+
+PortalSession::PortalSession(Portal& portal, std::string handle, std::function<void()> ended)
+    : portal_(portal),
+      handle_(std::move(handle)),
+      ended_(std::move(ended)),
+      onEnd_([this](sd_bus_message&) { end(); }) {
+  closing_ = portal_.bus().subscribe({.sender = Portal::service,
+                                      .path = handle_.c_str(),
+                                      .interface = sessionInterface,
+                                      .name = "Closed",
+                                      .firstArgument = nullptr},
+                                     onEnd_);
+  owners_ = portal_.bus().subscribe(ownerChanged, onEnd_);
+}
+
+PortalSession::~PortalSession() {
+  if (!ended_) return;
+  const DesktopBus::Message close = portal_.bus().newCall({.service = Portal::service,
+                                                           .path = handle_.c_str(),
+                                                           .interface = sessionInterface,
+                                                           .name = "Close"});
+  if (close != nullptr) portal_.bus().post(*close);
+}
+
+void PortalSession::end() {
+  // The call may destroy this object.
+  if (const auto ended = std::exchange(ended_, nullptr)) ended();
+}
+
+bool PortalSession::isMeantBy(sd_bus_message& signal) const {
+  const char* session = nullptr;
+  return ::sd_bus_message_read(&signal, "o", &session) > 0 && handle_ == session;
+}
+
+// Options -----------------------------------------------------------------------------------------
+
+bool enterOption(sd_bus_message& message, const char* name, const char* type) {
+  if (::sd_bus_message_enter_container(&message, 'a', "{sv}") <= 0) return false;
+  while (::sd_bus_message_enter_container(&message, 'e', "sv") > 0) {
+    const char* key = nullptr;
+    if (::sd_bus_message_read(&message, "s", &key) <= 0) return false;
+    if (std::string_view(key) == name)
+      return ::sd_bus_message_enter_container(&message, 'v', type) > 0;
+    if (::sd_bus_message_skip(&message, "v") < 0 || ::sd_bus_message_exit_container(&message) < 0)
+      return false;
+  }
+  return false;
+}
+
+bool enterOption(sd_bus_message& message, const char* before, const char* name, const char* type) {
+  return ::sd_bus_message_rewind(&message, 1) >= 0 &&
+         ::sd_bus_message_skip(&message, before) >= 0 && enterOption(message, name, type);
+}
+
+std::optional<std::string> textOption(sd_bus_message& message, const char* before,
+                                      const char* name) {
+  const char* text = nullptr;
+  if (!enterOption(message, before, name, "s") || ::sd_bus_message_read(&message, "s", &text) <= 0)
+    return std::nullopt;
+  return text;
+}
+
+}  // namespace quillseal::linux

@@ -1,0 +1,133 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "core/tasks/Task.h"
+#include "desktop/Ticket.h"
+#include "session/DesktopBus.h"
+
+namespace quillseal::linux {
+
+/// What the desktop's portal offers: the version of each interface, 0 where there is none.
+struct PortalOffer {
+  std::uint32_t remoteDesktop = 0;  ///< with a keyboard
+  std::uint32_t globalShortcuts = 0;
+  std::uint32_t clipboard = 0;
+
+  bool operator==(const PortalOffer&) const = default;
+};
+
+/// Starts the portal if needed and asks it. Blocks for five seconds at most, and for milliseconds
+/// where the portal runs or there is none.
+[[nodiscard]] PortalOffer offerOfPortal(DesktopBus& bus);
+
+/// The end of a request that the user may have been asked about.
+struct PortalAnswer {
+  enum class Outcome { granted, refused, failed };
+
+  Outcome outcome = Outcome::failed;
+  DesktopBus::Message message;  ///< the Response signal; null when the request failed before
+};
+
+/// Calls to org.freedesktop.portal.Desktop. The answer to a request may take minutes, since the
+/// desktop may ask the user. Main thread.
+class Portal {
+ public:
+  static constexpr const char* service = "org.freedesktop.portal.Desktop";
+  static constexpr const char* path = "/org/freedesktop/portal/desktop";
+
+  using Message = DesktopBus::Message;
+  using Option = std::variant<std::uint32_t, std::string, std::vector<std::string>>;
+  using Options = std::vector<std::pair<const char*, Option>>;
+
+  /// `applicationId` names an installed desktop file, without ".desktop": by it the desktop shows
+  /// and stores what the user allows. `bus` is served, and outlives this object.
+  Portal(DesktopBus& bus, std::string applicationId);
+  Portal(const Portal&) = delete;
+  Portal& operator=(const Portal&) = delete;
+
+  [[nodiscard]] DesktopBus& bus() const { return bus_; }
+
+  /// Makes a call to a method of an interface ("org.freedesktop.portal.Clipboard"). Null when the
+  /// bus is gone.
+  [[nodiscard]] Message newCall(const char* interface, const char* method) const;
+
+  /// Makes a call whose first argument is the session.
+  [[nodiscard]] Message newCall(const char* interface, const char* method,
+                                const std::string& session) const;
+
+  /// Appends a dictionary of options. False when one cannot be sent.
+  [[nodiscard]] static bool append(sd_bus_message& message, const Options& options);
+
+  /// Sends the call. Null after an error.
+  [[nodiscard]] Task<Message> call(Message call);
+
+  /// Sends the call, to which the options are yet to be appended, and waits for the Response. A
+  /// request that is dropped is closed, and with it what the desktop asks the user.
+  [[nodiscard]] Task<PortalAnswer> request(Message call, Options options);
+
+  /// Returns a name that was not used before, for a request or session.
+  [[nodiscard]] std::string newToken();
+
+ private:
+  struct Request;
+  void introduce();
+
+  DesktopBus& bus_;
+  std::string applicationId_;
+  bool isIntroduced_ = false;
+  std::uint64_t lastToken_ = 0;
+  DesktopBus::Receiver onOwner_;
+  DesktopBus::Subscription owners_;
+};
+
+/// A session of the portal, which ends with this object.
+class PortalSession {
+ public:
+  /// Null when the portal makes none. `ended` is called once, from the bus's events, when the
+  /// portal closes the session or ends.
+  [[nodiscard]] static Task<std::unique_ptr<PortalSession>> open(Portal& portal,
+                                                                 const char* interface,
+                                                                 std::function<void()> ended);
+  PortalSession(Portal& portal, std::string handle, std::function<void()> ended);
+  ~PortalSession();
+  PortalSession(const PortalSession&) = delete;
+  PortalSession& operator=(const PortalSession&) = delete;
+
+  [[nodiscard]] const std::string& handle() const { return handle_; }
+
+  /// Whether the message, a signal of the portal, is about this session. Leaves the message behind
+  /// its first argument.
+  [[nodiscard]] bool isMeantBy(sd_bus_message& signal) const;
+
+ private:
+  void end();
+
+  Portal& portal_;
+  std::string handle_;
+  std::function<void()> ended_;
+  DesktopBus::Receiver onEnd_;
+  DesktopBus::Subscription closing_;
+  DesktopBus::Subscription owners_;
+};
+
+/// Moves to the value of an option in the dictionary that comes next. False when there is none of
+/// that type.
+[[nodiscard]] bool enterOption(sd_bus_message& message, const char* name, const char* type);
+
+/// The same in the dictionary that follows the arguments of the types `before`.
+[[nodiscard]] bool enterOption(sd_bus_message& message, const char* before, const char* name,
+                               const char* type);
+
+/// Returns the option's text; nothing when it has none or is of another type.
+[[nodiscard]] std::optional<std::string> textOption(sd_bus_message& message, const char* before,
+                                                    const char* name);
+
+}  // namespace quillseal::linux

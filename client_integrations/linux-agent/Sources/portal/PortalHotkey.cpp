@@ -1,0 +1,211 @@
+#include "portal/PortalHotkey.h"
+
+#include <algorithm>
+#include <cctype>
+#include <chrono>
+#include <set>
+#include <string_view>
+#include <utility>
+
+#include <xkbcommon/xkbcommon-keysyms.h>
+
+#include "core/text/Error.h"
+#include "x11/KeyChords.h"
+
+namespace quillseal::linux {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr const char* interface = "org.freedesktop.portal.GlobalShortcuts";
+constexpr const char* shortcut = "sign";
+constexpr const char* description = "Sign the selected text";
+
+// The desktop reports the release of the first key; people let go of the others right after.
+constexpr auto releaseTime = 100ms;
+// A release may get lost. People do not press a hotkey twice in less time.
+constexpr auto lostAfter = 1s;
+// A portal that ended is started by the next call; it may have ended with the session.
+constexpr auto pauseBeforeRestart = 2s;
+
+DesktopBus::Signal signal(const char* name) {
+  return {.sender = Portal::service,
+          .path = Portal::path,
+          .interface = interface,
+          .name = name,
+          .firstArgument = nullptr};
+}
+
+/// The combination in the form of the shortcuts specification: "CTRL+ALT+LOGO+h".
+std::string triggerOf(desktop::KeyPress combination) {
+  std::string trigger;
+  for (const Keysym symbol : chordOf(combination)) {
+    switch (symbol) {
+      case XKB_KEY_Control_L:
+        trigger += "CTRL+";
+        break;
+      case XKB_KEY_Alt_L:
+        trigger += "ALT+";
+        break;
+      case XKB_KEY_Super_L:
+        trigger += "LOGO+";
+        break;
+      default:
+        trigger += desktop::letterOf(combination.key);
+    }
+  }
+  return trigger;
+}
+
+/// The words of a description such as "Press <Control><Alt><Super>h" or "Ctrl+Alt+Meta+H", each key
+/// by one name.
+std::set<std::string> keysIn(std::string_view text) {
+  std::set<std::string> keys;
+  std::string word;
+  const auto end = [&] {
+    if (word == "control") word = "ctrl";
+    if (word == "meta" || word == "logo") word = "super";
+    if (!word.empty() && word != "press") keys.insert(word);
+    word.clear();
+  };
+  for (const char character : text) {
+    const auto byte = static_cast<unsigned char>(character);
+    if (std::isalnum(byte) != 0 || byte > 0x7F)
+      word += static_cast<char>(std::tolower(byte));
+    else
+      end();
+  }
+  end();
+  return keys;
+}
+
+constexpr const char* otherWays =
+    " Bind the command “quillseal --sign” to a shortcut in the keyboard settings of your desktop, "
+    "or use the menu.";
+
+}  // namespace
+
+PortalHotkey::PortalHotkey(Services services)
+    : services_(std::move(services)),
+      onPress_([this](sd_bus_message& message) { press(message); }),
+      onRelease_([this](sd_bus_message& message) { release(message); }),
+      onChange_([this](sd_bus_message& message) {
+        if (session_ != nullptr && session_->isMeantBy(message)) readKeys(message);
+      }),
+      onOwner_([this](sd_bus_message& message) {
+        const char* name = nullptr;
+        const char* before = nullptr;
+        const char* now = nullptr;
+        if (::sd_bus_message_read(&message, "sss", &name, &before, &now) <= 0) return;
+        if (*now == '\0')
+          bindAfter(pauseBeforeRestart);
+        else if (session_ == nullptr && !isBinding_)
+          bindAfter(0s);
+      }) {}
+
+void PortalHotkey::registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) {
+  combination_ = combination;
+  pressed_ = std::move(pressed);
+  if (services_.offer.globalShortcuts == 0)
+    throw Error({.domain = "PortalHotkey",
+                 .code = 1,
+                 .description = std::string("This desktop gives programs no hotkey.") + otherWays});
+  DesktopBus& bus = services_.portal.bus();
+  presses_ = bus.subscribe(signal("Activated"), onPress_);
+  releases_ = bus.subscribe(signal("Deactivated"), onRelease_);
+  changes_ = bus.subscribe(signal("ShortcutsChanged"), onChange_);
+  owners_ = bus.subscribe({.sender = "org.freedesktop.DBus",
+                           .path = "/org/freedesktop/DBus",
+                           .interface = "org.freedesktop.DBus",
+                           .name = "NameOwnerChanged",
+                           .firstArgument = Portal::service},
+                          onOwner_);
+  bindAfter(0s);
+}
+
+void PortalHotkey::bindAfter(std::chrono::milliseconds delay) {
+  again_ = services_.loop.after(delay, [this] {
+    binding_.emplace();
+    binding_->start(bind());
+  });
+}
+
+Task<> PortalHotkey::bind() {
+  isBinding_ = true;
+  isDown_ = false;
+  session_ = co_await PortalSession::open(services_.portal, interface, [this] {
+    session_ = nullptr;
+    isDown_ = false;
+  });
+  PortalAnswer answer;
+  if (session_ != nullptr) {
+    Portal::Message call = services_.portal.newCall(interface, "BindShortcuts", session_->handle());
+    const std::string trigger = triggerOf(combination_);
+    constexpr const char* noWindow = "";
+    if (call != nullptr &&
+        ::sd_bus_message_append(call.get(), "a(sa{sv})s", 1, shortcut, 2, "description", "s",
+                                description, "preferred_trigger", "s", trigger.c_str(),
+                                noWindow) >= 0) {
+      Portal::Options none;
+      answer = co_await services_.portal.request(std::move(call), std::move(none));
+    }
+  }
+  isBinding_ = false;
+  if (answer.outcome == PortalAnswer::Outcome::granted) {
+    if (enterOption(*answer.message, "u", "shortcuts", "a(sa{sv})")) readKeys(*answer.message);
+    co_return;
+  }
+  session_ = nullptr;
+  services_.tell(std::string("Your desktop gave Quillseal no hotkey.") + otherWays);
+}
+
+/// Reads the list of shortcuts that comes next in the message.
+void PortalHotkey::readKeys(sd_bus_message& shortcuts) {
+  if (::sd_bus_message_enter_container(&shortcuts, 'a', "(sa{sv})") <= 0) return;
+  while (::sd_bus_message_enter_container(&shortcuts, 'r', "sa{sv}") > 0) {
+    const char* id = nullptr;
+    const char* keys = nullptr;
+    if (::sd_bus_message_read(&shortcuts, "s", &id) <= 0) return;
+    if (std::string_view(id) != shortcut) {
+      if (::sd_bus_message_skip(&shortcuts, "a{sv}") < 0 ||
+          ::sd_bus_message_exit_container(&shortcuts) < 0)
+        return;
+      continue;
+    }
+    if (!enterOption(shortcuts, "trigger_description", "s") ||
+        ::sd_bus_message_read(&shortcuts, "s", &keys) <= 0)
+      return;
+    const bool isAsAsked = keysIn(keys) == keysIn(nameOf(combination_));
+    otherKeys_ = isAsAsked ? "" : keys;
+    return;
+  }
+}
+
+bool PortalHotkey::mayBeHeld() const {
+  const auto now = services_.loop.now();
+  return isDown_ || now < lastRelease_ + releaseTime;
+}
+
+void PortalHotkey::press(sd_bus_message& signal) {
+  const char* id = nullptr;
+  if (session_ == nullptr || !session_->isMeantBy(signal) ||
+      ::sd_bus_message_read(&signal, "s", &id) <= 0 || std::string_view(id) != shortcut)
+    return;
+  if (const auto token = textOption(signal, "ost", "activation_token")) services_.activated(*token);
+  const auto now = services_.loop.now();
+  const bool isRepeated = isDown_ && now < lastPress_ + lostAfter;
+  isDown_ = true;
+  lastPress_ = now;
+  if (!isRepeated) services_.loop.post(pressed_);
+}
+
+void PortalHotkey::release(sd_bus_message& signal) {
+  const char* id = nullptr;
+  if (session_ == nullptr || !session_->isMeantBy(signal) ||
+      ::sd_bus_message_read(&signal, "s", &id) <= 0 || std::string_view(id) != shortcut)
+    return;
+  isDown_ = false;
+  lastRelease_ = services_.loop.now();
+}
+
+}  // namespace quillseal::linux

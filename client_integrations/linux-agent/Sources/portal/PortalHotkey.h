@@ -1,0 +1,69 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "core/tasks/Async.h"
+#include "desktop/Hotkey.h"
+#include "desktop/MainLoop.h"
+#include "portal/Portal.h"
+
+namespace quillseal::linux {
+
+/// The global hotkey through the GlobalShortcuts portal. The desktop may ask the user, who may
+/// choose other keys. It is bound again when the portal restarts.
+class PortalHotkey : public desktop::Hotkey {
+ public:
+  /// All outlive this object.
+  struct Services {
+    desktop::MainLoop& loop;
+    Portal& portal;
+    PortalOffer offer;
+    /// Tells the user something in a notification.
+    std::function<void(const std::string&)> tell;
+    /// Gets the token with which a window of this program may take the focus after a press.
+    std::function<void(const std::string&)> activated;
+  };
+
+  explicit PortalHotkey(Services services);
+
+  void registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) override;
+
+  /// Whether the user may still hold keys of the hotkey.
+  [[nodiscard]] bool mayBeHeld() const;
+
+  /// The keys as the desktop names them where they are not those that were asked for; else empty.
+  [[nodiscard]] const std::string& otherKeys() const { return otherKeys_; }
+
+ private:
+  [[nodiscard]] Task<> bind();
+  void bindAfter(std::chrono::milliseconds delay);
+  void readKeys(sd_bus_message& shortcuts);
+  void press(sd_bus_message& signal);
+  void release(sd_bus_message& signal);
+
+  Services services_;
+  desktop::KeyPress combination_{};
+  std::function<void()> pressed_;
+  std::string otherKeys_;
+  std::unique_ptr<PortalSession> session_;
+  bool isBinding_ = false;
+  bool isDown_ = false;
+  desktop::MainLoop::TimePoint lastPress_;
+  desktop::MainLoop::TimePoint lastRelease_;
+  DesktopBus::Receiver onPress_;
+  DesktopBus::Receiver onRelease_;
+  DesktopBus::Receiver onChange_;
+  DesktopBus::Receiver onOwner_;
+  DesktopBus::Subscription presses_;
+  DesktopBus::Subscription releases_;
+  DesktopBus::Subscription changes_;
+  DesktopBus::Subscription owners_;
+  desktop::Ticket again_;
+  std::optional<TaskScope> binding_;
+};
+
+}  // namespace quillseal::linux

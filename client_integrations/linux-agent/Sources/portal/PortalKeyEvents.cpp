@@ -1,0 +1,120 @@
+#include "portal/PortalKeyEvents.h"
+
+#include <chrono>
+#include <utility>
+#include <vector>
+
+#include <xkbcommon/xkbcommon-keysyms.h>
+
+#include "core/tasks/Async.h"
+#include "desktop/SigningHotkey.h"
+#include "portal/TaskTicket.h"
+#include "x11/KeyChords.h"
+#include "x11/WindowDocument.h"
+
+namespace quillseal::linux {
+namespace {
+
+using namespace std::chrono_literals;
+using desktop::Delivery;
+using desktop::Key;
+
+constexpr auto polling = 8ms;
+// A session that takes longer to open has asked the user, who may be elsewhere by then.
+constexpr auto longestUnasked = 3s;
+// A new session reports the clipboard as it is, which must not pass for a copy.
+constexpr auto firstReport = 100ms;
+// Windows need time to come to the front, and web pages to restore their title. People hold a
+// hotkey of four keys for longer than one.
+constexpr auto targetPatience = 1000ms;
+constexpr auto releasePatience = 1400ms;
+// Programs that have a selection from the portal learn of it by way of the compositor.
+constexpr auto clipboardPropagation = 100ms;
+
+/// Ctrl+Insert and Shift+Insert mean the same in every layout.
+std::vector<Keysym> chordIn(desktop::KeyPress press,
+                            const std::optional<desktop::RunningApplication>& target) {
+  const std::vector<Keysym> chord = chordFor(press, target ? target->categories : "", "");
+  if (chord != chordOf(press)) return chord;  // in a terminal
+  if (press.key == Key::c) return {XKB_KEY_Control_L, XKB_KEY_Insert};
+  if (press.key == Key::v) return {XKB_KEY_Shift_L, XKB_KEY_Insert};
+  return chord;
+}
+
+}  // namespace
+
+bool PortalKeyEvents::isTrusted() const {
+  return services_.remote.isOpen() || services_.remote.mayOpenUnasked();
+}
+
+void PortalKeyEvents::askForTrust() {
+  asking_ = services_.remote.open([this](bool isOpen) {
+    if (!isOpen) return services_.explain();
+    services_.tell("Quillseal may now press keys. Select your text and press " +
+                   nameOf(desktop::signingHotkey) + " again.");
+  });
+}
+
+desktop::Ticket PortalKeyEvents::press(desktop::KeyPress press,
+                                       const std::optional<desktop::RunningApplication>& target,
+                                       std::function<void()> aboutToPress,
+                                       std::function<void(Delivery)> done) {
+  Wish wish{.press = press, .target = target, .aboutToPress = std::move(aboutToPress)};
+  return runTask<Delivery>(services_.loop, deliver(std::move(wish)), std::move(done));
+}
+
+Task<Delivery> PortalKeyEvents::deliver(Wish wish) {
+  if (!wish.target && wish.press.key != Key::c) co_return Delivery::declined;
+  const bool mayPress = co_await isReady();
+  if (!mayPress) co_return Delivery::declined;
+  if (wish.press.key == Key::v) co_await sleep(services_.loop, clipboardPropagation);
+  const auto end = services_.loop.now() + targetPatience;
+  while (deliveryNow(wish) != Delivery::delivered && services_.loop.now() < end)
+    co_await sleep(services_.loop, polling);
+  const bool isReleased = co_await isHotkeyReleased();
+  const Delivery delivery = deliveryNow(wish);
+  if (delivery != Delivery::delivered || !isReleased)
+    co_return isReleased ? delivery : Delivery::declined;
+  if (wish.aboutToPress) wish.aboutToPress();
+  services_.remote.tap(chordIn(wish.press, wish.target));
+  co_return Delivery::delivered;
+}
+
+/// Opens the session that the user allows without being asked, if there is none.
+Task<bool> PortalKeyEvents::isReady() {
+  if (services_.remote.isOpen()) co_return true;
+  const auto start = services_.loop.now();
+  const bool isOpen = co_await completionOf<bool>(
+      [this](std::function<void(bool)> done) { return services_.remote.open(std::move(done)); });
+  if (!isOpen) services_.explain();
+  if (!isOpen || services_.loop.now() > start + longestUnasked) co_return false;
+  co_await sleep(services_.loop, firstReport);
+  co_return true;
+}
+
+Task<bool> PortalKeyEvents::isHotkeyReleased() {
+  const auto end = services_.loop.now() + releasePatience;
+  while (services_.isHotkeyHeld()) {
+    if (services_.loop.now() > end) {
+      services_.tell(
+          "Quillseal pressed no key, because the keys of the hotkey were still held. Press the "
+          "hotkey again, and let go of it.");
+      co_return false;
+    }
+    co_await sleep(services_.loop, polling);
+  }
+  co_return true;
+}
+
+/// Returns whether a key pressed now would reach the target.
+Delivery PortalKeyEvents::deliveryNow(const Wish& wish) const {
+  if (!services_.remote.isOpen()) return Delivery::declined;
+  if (!wish.target) return Delivery::delivered;
+  if (!services_.applications.isActive(*wish.target)) return Delivery::declined;
+  const auto front = services_.applications.frontmost();
+  if (!front || front->instance != wish.target->instance) return Delivery::declined;
+  const bool isSame = isSameDocument(wish.target->document, front->document);
+  return isSame ? Delivery::delivered : Delivery::documentChanged;
+}
+
+}  // namespace quillseal::linux

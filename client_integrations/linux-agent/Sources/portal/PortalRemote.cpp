@@ -1,0 +1,184 @@
+#include "portal/PortalRemote.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <linux/input-event-codes.h>
+#include <xkbcommon/xkbcommon-keysyms.h>
+
+#include "keys/KeyFailure.h"
+
+namespace quillseal::linux {
+namespace {
+
+constexpr const char* interface = "org.freedesktop.portal.RemoteDesktop";
+constexpr const char* clipboardInterface = "org.freedesktop.portal.Clipboard";
+
+constexpr std::uint32_t keyboard = 1;
+constexpr std::uint32_t untilRevoked = 2;     // a persist_mode
+constexpr std::uint32_t firstWithTokens = 2;  // a version of the interface
+
+constexpr const char* refusal =
+    "Your desktop did not let Quillseal press keys, without which it cannot copy the text that you "
+    "selected. Sign again, and allow it when the desktop asks.";
+
+/// The key of a symbol that has the same one in every layout; 0 for others.
+int placeOf(Keysym symbol) {
+  switch (symbol) {
+    case XKB_KEY_Control_L:
+      return KEY_LEFTCTRL;
+    case XKB_KEY_Shift_L:
+      return KEY_LEFTSHIFT;
+    case XKB_KEY_Insert:
+      return KEY_INSERT;
+    default:
+      return 0;
+  }
+}
+
+}  // namespace
+
+PortalRemote::PortalRemote(Services services) : services_(std::move(services)) {}
+
+bool PortalRemote::mayOpenUnasked() const {
+  return services_.offer.remoteDesktop >= firstWithTokens && services_.token.exists();
+}
+
+std::string PortalRemote::session() const {
+  return isOpen() ? session_->handle() : std::string();
+}
+
+desktop::Ticket PortalRemote::open(std::function<void(bool)> done) {
+  if (isOpen()) {
+    done(true);
+    return {};
+  }
+  const std::uint64_t id = ++lastWaiting_;
+  waiting_[id] = std::move(done);
+  if (state_ == State::closed) {
+    state_ = State::opening;
+    opening_.emplace();
+    opening_->start(openSession());
+  }
+  return desktop::Ticket([this, id] { waiting_.erase(id); });
+}
+
+Task<> PortalRemote::openSession() {
+  const std::string token = storedToken();
+  bool isReady = co_await chooseDevices(token);
+  if (!isReady && !token.empty()) {
+    // The portal refuses a token that it cannot read, instead of asking the user.
+    keepToken({});
+    isReady = co_await chooseDevices({});
+  }
+  if (isReady) {
+    co_await requestClipboard();
+    isReady = co_await start();
+  }
+  finish(isReady);
+}
+
+Task<bool> PortalRemote::chooseDevices(std::string token) {
+  session_ = co_await PortalSession::open(services_.portal, interface, [this] { closed(); });
+  if (session_ == nullptr) co_return false;
+  Portal::Options options{{"types", keyboard}};
+  if (services_.offer.remoteDesktop >= firstWithTokens) {
+    options.emplace_back("persist_mode", untilRevoked);
+    if (!token.empty()) options.emplace_back("restore_token", std::move(token));
+  }
+  Portal::Message call = services_.portal.newCall(interface, "SelectDevices", session_->handle());
+  const PortalAnswer answer =
+      co_await services_.portal.request(std::move(call), std::move(options));
+  co_return answer.outcome == PortalAnswer::Outcome::granted;
+}
+
+Task<> PortalRemote::requestClipboard() {
+  hasClipboard_ = false;
+  if (services_.offer.clipboard == 0) co_return;
+  Portal::Message call =
+      services_.portal.newCall(clipboardInterface, "RequestClipboard", session_->handle());
+  if (call == nullptr || !Portal::append(*call, {})) co_return;
+  const Portal::Message answer = co_await services_.portal.call(std::move(call));
+  hasClipboard_ = answer != nullptr;
+}
+
+Task<bool> PortalRemote::start() {
+  Portal::Message call = services_.portal.newCall(interface, "Start", session_->handle());
+  constexpr const char* noWindow = "";
+  if (call == nullptr || ::sd_bus_message_append(call.get(), "s", noWindow) < 0) co_return false;
+  Portal::Options none;
+  const PortalAnswer answer = co_await services_.portal.request(std::move(call), std::move(none));
+  if (answer.outcome == PortalAnswer::Outcome::refused) keepToken({});
+  if (answer.outcome != PortalAnswer::Outcome::granted) co_return false;
+
+  sd_bus_message& results = *answer.message;
+  // Each token holds for one session.
+  keepToken(textOption(results, "u", "restore_token").value_or(""));
+  int isEnabled = 1;
+  if (enterOption(results, "u", "clipboard_enabled", "b"))
+    ::sd_bus_message_read(&results, "b", &isEnabled);
+  hasClipboard_ = hasClipboard_ && isEnabled != 0;
+  std::uint32_t devices = 0;
+  if (enterOption(results, "u", "devices", "u")) ::sd_bus_message_read(&results, "u", &devices);
+  co_return (devices & keyboard) != 0;
+}
+
+std::string PortalRemote::storedToken() const {
+  try {
+    return services_.token.read().value_or("");
+  } catch (const KeyFailure&) {
+    return {};  // the desktop asks instead
+  }
+}
+
+void PortalRemote::keepToken(const std::string& token) const {
+  if (token.empty()) return services_.token.remove();
+  try {
+    services_.token.replace(token);
+  } catch (const KeyFailure& failure) {
+    services_.tell(
+        std::string("Quillseal may press keys, but your desktop will ask for it again next time, "
+                    "since that could not be stored: ") +
+        failure.what());
+  }
+}
+
+void PortalRemote::finish(bool isGranted) {
+  state_ = isGranted ? State::open : State::closed;
+  obstacle_ = isGranted ? "" : refusal;
+  if (!isGranted) session_ = nullptr;
+  telling_ = services_.loop.after({}, [this] {
+    // A copy: a call may drop others or open again.
+    for (const auto& [id, unused] : std::map(waiting_))
+      if (const auto one = waiting_.extract(id); !one.empty()) one.mapped()(isOpen());
+  });
+}
+
+void PortalRemote::closed() {
+  session_ = nullptr;
+  if (std::exchange(state_, State::closed) == State::opening) {
+    opening_.reset();
+    finish(false);
+  }
+}
+
+void PortalRemote::tap(const std::vector<Keysym>& chord) {
+  for (const Keysym symbol : chord)
+    notify(symbol, 1);
+  for (auto symbol = chord.rbegin(); symbol != chord.rend(); ++symbol)
+    notify(*symbol, 0);
+}
+
+void PortalRemote::notify(Keysym symbol, std::uint32_t state) const {
+  if (!isOpen()) return;
+  const int place = placeOf(symbol);
+  const char* method = place != 0 ? "NotifyKeyboardKeycode" : "NotifyKeyboardKeysym";
+  const Portal::Message call = services_.portal.newCall(interface, method, session_->handle());
+  if (call == nullptr || !Portal::append(*call, {}) ||
+      ::sd_bus_message_append(call.get(), "iu", place != 0 ? place : static_cast<int>(symbol),
+                              state) < 0)
+    return;
+  services_.portal.bus().post(*call);
+}
+
+}  // namespace quillseal::linux

@@ -1,0 +1,216 @@
+#include <algorithm>
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <xkbcommon/xkbcommon-keysyms.h>
+
+#include "PrivateBus.h"
+#include "RunUntil.h"
+#include "ScriptedPortal.h"
+#include "TemporaryFolder.h"
+#include "core/text/Error.h"
+#include "desktop/SigningHotkey.h"
+#include "portal/Portal.h"
+#include "portal/PortalHotkey.h"
+#include "portal/PortalKeyEvents.h"
+#include "portal/PortalPasteboard.h"
+#include "portal/PortalRemote.h"
+#include "session/DesktopBus.h"
+#include "session/PollLoop.h"
+
+namespace quillseal::linux {
+namespace {
+
+using namespace std::chrono_literals;
+using desktop::Delivery;
+using desktop::Key;
+using ::testing::Contains;
+using ::testing::HasSubstr;
+using ::testing::Not;
+using testing::ScriptedPortal;
+using Script = ScriptedPortal::Script;
+using Owner = ScriptedPortal::Owner;
+using Calls = std::vector<std::string>;
+
+/// One application that is in front or not.
+class OneApplication : public desktop::Applications {
+ public:
+  std::optional<desktop::RunningApplication> front;
+
+  [[nodiscard]] std::optional<desktop::RunningApplication> frontmost() const override {
+    return front;
+  }
+  [[nodiscard]] bool isActive(const desktop::RunningApplication& application) const override {
+    return front && front->instance == application.instance;
+  }
+  void activate(const desktop::RunningApplication& /*application*/) override {}
+  [[nodiscard]] std::optional<desktop::InstalledApplication> preferredBrowser() const override {
+    return {};
+  }
+  [[nodiscard]] std::optional<desktop::InstalledApplication> defaultApplicationFor(
+      const std::string& /*url*/) const override {
+    return {};
+  }
+  [[nodiscard]] desktop::Ticket open(const std::string& /*url*/,
+                                     const desktop::InstalledApplication& /*application*/,
+                                     std::function<void(std::optional<Error>)> /*done*/) override {
+    return {};
+  }
+  void open(const std::string& /*url*/) override {}
+};
+
+/// The agent's side, with a portal.
+class PortalTest : public ::testing::Test {
+ protected:
+  /// Starts the portal and what uses it anew. `token` is what an earlier session left.
+  void begin(Script script, const std::string& token = {}) {
+    pasteboard.reset();
+    hotkey.reset();
+    keys.reset();
+    remote.reset();
+    portal.reset();
+    bus.reset();
+    desk.reset();
+    told.clear();
+    const PortalOffer offer = script.offer;
+    desk.emplace(std::move(script));
+    bus = DesktopBus::open();
+    bus->serve(loop, loop);
+    portal.emplace(*bus, "com.example.agent");
+    std::filesystem::remove_all(tokenFile.parent_path());
+    const PrivateFile file(tokenFile);
+    if (!token.empty()) file.replace(token);
+    const auto tell = [this](const std::string& sentence) { told += sentence; };
+    remote.emplace(PortalRemote::Services{
+        .loop = loop, .portal = *portal, .offer = offer, .token = file, .tell = tell});
+    keys.emplace(PortalKeyEvents::Services{.loop = loop,
+                                           .remote = *remote,
+                                           .applications = applications,
+                                           .isHotkeyHeld = [this] { return isHeld; },
+                                           .explain = [this] { told += remote->obstacle(); },
+                                           .tell = tell});
+    hotkey.emplace(PortalHotkey::Services{
+        .loop = loop,
+        .portal = *portal,
+        .offer = offer,
+        .tell = tell,
+        .activated = [this](const std::string& value) { activation = value; }});
+    pasteboard.emplace(
+        PortalPasteboard::Services{
+            .loop = loop, .descriptors = loop, .portal = *portal, .remote = *remote},
+        PortalPasteboard::Patience{.silence = 200ms, .transfer = 400ms, .largest = 1000});
+  }
+
+  bool open() {
+    std::optional<bool> isOpen;
+    const desktop::Ticket opening = remote->open([&](bool result) { isOpen = result; });
+    testing::runUntil(loop, [&] { return isOpen.has_value(); });
+    return *isOpen;
+  }
+
+  Delivery press(Key key, const std::optional<desktop::RunningApplication>& target) {
+    std::optional<Delivery> delivery;
+    const desktop::Ticket pressing =
+        keys->press({.key = key, .modifiers = desktop::Modifiers::command}, target, {},
+                    [&](Delivery result) { delivery = result; });
+    testing::runUntil(loop, [&] { return delivery.has_value(); });
+    return *delivery;
+  }
+
+  [[nodiscard]] std::string storedToken() const {
+    return PrivateFile(tokenFile).read().value_or("");
+  }
+
+  /// The keys that were pressed, once all of them have arrived.
+  Calls pressed() {
+    static_cast<void>(bus->call({.service = Portal::service,
+                                 .path = Portal::path,
+                                 .interface = "org.freedesktop.DBus.Properties",
+                                 .name = "Get"},
+                                "ss", "Clipboard", "version"));
+    Calls result = desk->calls();
+    std::erase_if(result, [](const std::string& call) { return std::isdigit(call.front()) == 0; });
+    return result;
+  }
+
+  testing::PrivateBus sessionBus{"DBUS_SESSION_BUS_ADDRESS"};
+  testing::TemporaryFolder folder;
+  std::filesystem::path tokenFile = folder.path() / "quillseal" / "token";
+  PollLoop loop;
+  OneApplication applications;
+  bool isHeld = false;
+  std::string told;
+  std::string activation;
+  std::optional<ScriptedPortal> desk;
+  std::unique_ptr<DesktopBus> bus;
+  std::optional<Portal> portal;
+  std::optional<PortalRemote> remote;
+  std::optional<PortalKeyEvents> keys;
+  std::optional<PortalHotkey> hotkey;
+  std::optional<PortalPasteboard> pasteboard;
+};
+
+using PortalKeys = PortalTest;
+
+TEST_F(PortalKeys, NeedWhatTheUserAllowsAndRemembersIt) {
+  const struct {
+    const char* name;
+    Script script;
+    const char* token;
+    bool isOpen;
+    const char* tokenAfter;
+    Calls calls;
+  } rows[] = {
+      {"first time", {}, "", true, "next", {"SelectDevices kept ", "RequestClipboard", "Start"}},
+      {"allowed before", {}, "old", true, "next", {"SelectDevices kept old", "Start"}},
+      {"token not understood",
+       {.knownToken = "other"},
+       "old",
+       true,
+       "next",
+       {"SelectDevices kept old", "Session.Close", "SelectDevices kept ", "Start"}},
+      {"no token any more", {.token = ""}, "old", true, "", {"SelectDevices kept old", "Start"}},
+      {"refused", {.answer = 1}, "old", false, "", {"Start", "Session.Close"}},
+      {"failed", {.answer = 2}, "old", false, "old", {"Start", "Session.Close"}},
+      {"no keyboard", {.devices = 2}, "", false, "next", {"Start", "Session.Close"}},
+      {"malformed", {.isMalformed = true}, "", false, "", {"CreateSession"}},
+      {"version 1",
+       {.offer = {.remoteDesktop = 1}, .token = ""},
+       "",
+       true,
+       "",
+       {"SelectDevices ", "Start"}},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    begin(row.script, row.token);
+    EXPECT_EQ(keys->isTrusted(), *row.token != '\0');
+    EXPECT_EQ(open(), row.isOpen);
+    EXPECT_EQ(storedToken(), row.tokenAfter);
+    const auto mode = std::filesystem::status(tokenFile).permissions();
+    if (*row.tokenAfter != '\0') {
+      EXPECT_EQ(static_cast<int>(mode), 0600);
+    }
+    EXPECT_EQ(press(Key::c, {}), row.isOpen ? Delivery::delivered : Delivery::declined);
+    EXPECT_EQ(pressed(), row.isOpen ? (Calls{"29+", "110+", "110-", "29-"}) : Calls{});
+    EXPECT_EQ(remote->obstacle().find("allow it") == std::string::npos, row.isOpen);
+    EXPECT_EQ(desk->calls().front(), "Register com.example.agent");
+    auto from = desk->calls();
+    auto position = from.begin();
+    for (const std::string& call : row.calls) {
+      position = std::find(position, from.end(), call);
+      EXPECT_NE(position, from.end()) << call;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace quillseal::linux

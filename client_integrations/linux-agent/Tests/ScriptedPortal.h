@@ -1,0 +1,243 @@
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <chrono>
+#include <functional>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include <systemd/sd-bus.h>
+#include <unistd.h>
+
+#include "core/text/UniqueHandle.h"
+#include "portal/Portal.h"
+
+namespace quillseal::testing {
+
+/// The portal of a desktop on the session bus, on its own thread.
+class ScriptedPortal {
+ public:
+  /// What the owner of the clipboard does when it is asked for text.
+  enum class Owner { writes, isSilent, writesForever, closes, givesNoFile };
+
+  struct Script {
+    linux::PortalOffer offer{.remoteDesktop = 2, .globalShortcuts = 2, .clipboard = 1};
+    bool answers = true;         ///< to what the user is asked
+    std::uint32_t answer = 0;    ///< 1 when the user refuses, 2 when it fails
+    std::uint32_t devices = 1;   ///< that the user allows
+    std::string token = "next";  ///< for the next session
+    std::string knownToken{};    ///< the only one that is understood; any when empty
+    bool isMalformed = false;    ///< all answers have wrong types
+    std::string keys = "Press <Control><Alt><Super>h";
+    Owner owner = Owner::writes;
+    bool takesSelection = true;
+  };
+
+  static constexpr const char* session = "/org/freedesktop/portal/desktop/session/s";
+
+  explicit ScriptedPortal(Script script) : script_(std::move(script)) {
+    sd_bus* opened = nullptr;
+    ::sd_bus_open_user(&opened);
+    bus_.reset(opened);
+    ::sd_bus_add_fallback(bus_.get(), nullptr, "/", handle, this);
+    ::sd_bus_request_name(bus_.get(), linux::Portal::service, 0);
+    thread_ = std::thread([this] { serve(); });
+  }
+  ~ScriptedPortal() {
+    ends_ = true;
+    thread_.join();
+    for (const int file : files_)
+      ::close(file);
+  }
+  ScriptedPortal(const ScriptedPortal&) = delete;
+  ScriptedPortal& operator=(const ScriptedPortal&) = delete;
+
+  /// Emits a signal of the portal or of its session.
+  template <typename... Arguments>
+  void emit(const std::string& interface, const std::string& name, const std::string& types,
+            Arguments... arguments) {
+    const std::lock_guard lock(mutex_);
+    work_.emplace_back([=, this] {
+      const bool isOfSession = interface == "Session";
+      ::sd_bus_emit_signal(bus_.get(), isOfSession ? session : linux::Portal::path,
+                           ("org.freedesktop.portal." + interface).c_str(), name.c_str(),
+                           types.c_str(), arguments...);
+    });
+  }
+
+  /// The calls so far, with the arguments that matter.
+  [[nodiscard]] std::vector<std::string> calls() {
+    const std::lock_guard lock(mutex_);
+    return calls_;
+  }
+  [[nodiscard]] bool hasCall(const std::string& call) {
+    return std::ranges::count(calls(), call) > 0;
+  }
+
+  /// What was read from the agent's selection.
+  [[nodiscard]] std::string received() const {
+    std::string text(1000, ' ');
+    text.resize(static_cast<std::size_t>(
+        std::max<ssize_t>(0, ::read(files_.at(0), text.data(), text.size()))));
+    return text;
+  }
+  void stopReading() { ::close(std::exchange(files_.at(0), -1)); }
+
+ private:
+  void serve() {
+    while (!ends_) {
+      while (::sd_bus_process(bus_.get(), nullptr) > 0) {
+      }
+      std::vector<std::function<void()>> work;
+      {
+        const std::lock_guard lock(mutex_);
+        work.swap(work_);
+      }
+      for (const auto& one : work)
+        one();
+      ::sd_bus_flush(bus_.get());
+      ::sd_bus_wait(bus_.get(), 2000);
+    }
+  }
+
+  static int handle(sd_bus_message* message, void* self, sd_bus_error* error) {
+    return static_cast<ScriptedPortal*>(self)->answer(*message, error);
+  }
+
+  void note(const std::string& call) {
+    const std::lock_guard lock(mutex_);
+    calls_.push_back(call);
+  }
+
+  int refuse(sd_bus_error* error) {
+    return ::sd_bus_error_set(error, "org.freedesktop.portal.Error.Failed", "no");
+  }
+
+  /// Answers a request by its signal.
+  template <typename... Results>
+  int respond(sd_bus_message& call, const char* before, const char* types, Results... results) {
+    const std::string token = linux::textOption(call, before, "handle_token").value_or("");
+    std::string sender = ::sd_bus_message_get_sender(&call) + 1;
+    std::ranges::replace(sender, '.', '_');
+    const std::string path = std::string(linux::Portal::path) + "/request/" + sender + "/" + token;
+    ::sd_bus_reply_method_return(&call, "o", path.c_str());
+    constexpr const char* interface = "org.freedesktop.portal.Request";
+    if (script_.isMalformed)
+      return ::sd_bus_emit_signal(bus_.get(), path.c_str(), interface, "Response", "sb", "a", 1);
+    return ::sd_bus_emit_signal(bus_.get(), path.c_str(), interface, "Response", types, results...);
+  }
+
+  int answer(sd_bus_message& call, sd_bus_error* error) {
+    const std::string member = ::sd_bus_message_get_member(&call);
+    const std::string interface = ::sd_bus_message_get_interface(&call);
+    if (member == "Get") return property(call, error);
+    if (member.starts_with("NotifyKeyboard")) {
+      int key = 0;
+      std::uint32_t state = 0;
+      ::sd_bus_message_skip(&call, "oa{sv}");
+      ::sd_bus_message_read(&call, "iu", &key, &state);
+      note(std::to_string(key) + (state != 0 ? "+" : "-"));
+      return ::sd_bus_reply_method_return(&call, "");
+    }
+    if (member == "SelectDevices") {
+      const std::string token = linux::textOption(call, "o", "restore_token").value_or("");
+      const bool isKept = linux::enterOption(call, "o", "persist_mode", "u");
+      note(member + (isKept ? " kept " : " ") + token);
+      if (!token.empty() && !script_.knownToken.empty() && token != script_.knownToken)
+        return refuse(error);
+      return respond(call, "o", "ua{sv}", 0U, 0);
+    }
+    if (member == "Close")
+      note(interface.substr(interface.rfind('.') + 1) + "." + member);
+    else if (member == "Register" || member == "SelectionWriteDone")
+      note(member + " " + lastOf(call));
+    else
+      note(member);
+    if (member == "CreateSession")
+      return respond(call, "", "ua{sv}", 0U, 1, "session_handle", "s", session);
+    if ((member == "Start" || member == "BindShortcuts") && !script_.answers)
+      return ::sd_bus_reply_method_return(&call, "o", "/later");
+    if (member == "Start")
+      return respond(call, "os", "ua{sv}", script_.answer, script_.token.empty() ? 1 : 2, "devices",
+                     "u", script_.devices, "restore_token", "s", script_.token.c_str());
+    if (member == "BindShortcuts")
+      return respond(call, "oa(sa{sv})s", "ua{sv}", script_.answer, 1, "shortcuts", "a(sa{sv})", 2,
+                     "other", 0, "sign", 1, "trigger_description", "s", script_.keys.c_str());
+    if (member == "SelectionRead") return read(call, error);
+    if (member == "SelectionWrite") {
+      std::array<int, 2> ends{};
+      if (::pipe(ends.data()) != 0) return refuse(error);
+      files_.push_back(ends[0]);
+      const int result = ::sd_bus_reply_method_return(&call, "h", ends[1]);
+      ::close(ends[1]);
+      return result;
+    }
+    if (member == "SetSelection" && !script_.takesSelection) return refuse(error);
+    return ::sd_bus_reply_method_return(&call, "");
+  }
+
+  static std::string lastOf(sd_bus_message& call) {
+    const char* text = nullptr;
+    int isTrue = 0;
+    std::uint32_t serial = 0;
+    if (::sd_bus_message_has_signature(&call, "sa{sv}") > 0) {
+      ::sd_bus_message_read(&call, "s", &text);
+      return text;
+    }
+    ::sd_bus_message_skip(&call, "o");
+    ::sd_bus_message_read(&call, "ub", &serial, &isTrue);
+    return isTrue != 0 ? "done" : "failed";
+  }
+
+  int property(sd_bus_message& call, sd_bus_error* error) {
+    const char* interface = nullptr;
+    const char* name = nullptr;
+    ::sd_bus_message_read(&call, "ss", &interface, &name);
+    const std::string which = interface;
+    std::uint32_t version = which.ends_with("RemoteDesktop") ? script_.offer.remoteDesktop
+                            : which.ends_with("Clipboard")   ? script_.offer.clipboard
+                                                             : script_.offer.globalShortcuts;
+    if (version == 0) return refuse(error);
+    if (script_.isMalformed) return ::sd_bus_reply_method_return(&call, "v", "s", "2");
+    if (std::string(name) != "version") version = script_.devices;
+    return ::sd_bus_reply_method_return(&call, "v", "u", version);
+  }
+
+  int read(sd_bus_message& call, sd_bus_error* error) {
+    const char* format = nullptr;
+    ::sd_bus_message_skip(&call, "o");
+    ::sd_bus_message_read(&call, "s", &format);
+    std::array<int, 2> ends{};
+    if (script_.owner == Owner::givesNoFile || ::pipe(ends.data()) != 0) return refuse(error);
+    const int result = ::sd_bus_reply_method_return(&call, "h", ends[0]);
+    ::close(ends[0]);
+    const std::string text = std::string(format) == "x-kde-passwordManagerHint" ? "secret" : format;
+    if (script_.owner == Owner::writes)
+      static_cast<void>(::write(ends[1], text.data(), text.size()) < 0);
+    if (script_.owner == Owner::writesForever) {
+      const std::string much(std::size_t{32} * 1024, 'x');
+      static_cast<void>(::write(ends[1], much.data(), much.size()) < 0);
+    }
+    if (script_.owner == Owner::writes || script_.owner == Owner::closes)
+      ::close(ends[1]);
+    else
+      files_.push_back(ends[1]);
+    return result;
+  }
+
+  Script script_;
+  UniqueHandle<sd_bus, ::sd_bus_flush_close_unref> bus_;
+  std::vector<int> files_;
+  std::mutex mutex_;
+  std::vector<std::string> calls_;           // guarded by mutex_
+  std::vector<std::function<void()>> work_;  // guarded by mutex_
+  std::atomic<bool> ends_ = false;
+  std::thread thread_;
+};
+
+}  // namespace quillseal::testing

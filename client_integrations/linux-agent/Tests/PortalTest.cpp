@@ -25,6 +25,7 @@
 #include "portal/PortalRemote.h"
 #include "session/DesktopBus.h"
 #include "session/PollLoop.h"
+#include "x11/WindowDocument.h"
 
 namespace quillseal::linux {
 namespace {
@@ -129,13 +130,18 @@ class PortalTest : public ::testing::Test {
     return PrivateFile(tokenFile).read().value_or("");
   }
 
-  /// The keys that were pressed, once all of them have arrived.
-  Calls pressed() {
+  /// Lets everything arrive that was sent, on both sides.
+  void settle() {
     static_cast<void>(bus->call({.service = Portal::service,
                                  .path = Portal::path,
                                  .interface = "org.freedesktop.DBus.Properties",
                                  .name = "Get"},
                                 "ss", "Clipboard", "version"));
+    testing::runUntil(loop, [turns = 0]() mutable { return ++turns > 5; });
+  }
+
+  Calls pressed() {
+    settle();
     Calls result = desk->calls();
     std::erase_if(result, [](const std::string& call) { return std::isdigit(call.front()) == 0; });
     return result;
@@ -210,6 +216,173 @@ TEST_F(PortalKeys, NeedWhatTheUserAllowsAndRemembersIt) {
       EXPECT_NE(position, from.end()) << call;
     }
   }
+}
+
+TEST_F(PortalKeys, AreOnlyThoseThatDoNoHarmWhereverTheyGo) {
+  const desktop::RunningApplication editor{.instance = 1,
+                                           .name = {},
+                                           .bundleIdentifier = {},
+                                           .categories = {},
+                                           .document = documentName({.title = "a", .focus = 0})};
+  desktop::RunningApplication terminal = editor;
+  terminal.categories = "TerminalEmulator";
+  desktop::RunningApplication other = editor;
+  other.instance = 2;
+  desktop::RunningApplication otherDocument = editor;
+  otherDocument.document = documentName({.title = "b", .focus = 0});
+  using Application = std::optional<desktop::RunningApplication>;
+  const Calls copied{"29+", "110+", "110-", "29-"};
+  const Calls pasted{"42+", "110+", "110-", "42-"};
+  const std::string a = std::to_string(XKB_KEY_a);
+  const std::string c = std::to_string(XKB_KEY_c);
+  const struct {
+    const char* name;
+    Application target;
+    Application front;
+    Key key;
+    bool isHeld;
+    Delivery delivery;
+    Calls keys;
+  } rows[] = {
+      {"copy anywhere", {}, {}, Key::c, false, Delivery::delivered, copied},
+      {"select all anywhere", {}, {}, Key::a, false, Delivery::declined, {}},
+      {"paste anywhere", {}, {}, Key::v, false, Delivery::declined, {}},
+      {"hotkey held", {}, {}, Key::c, true, Delivery::declined, {}},
+      {"copy", editor, editor, Key::c, false, Delivery::delivered, copied},
+      {"select all",
+       editor,
+       editor,
+       Key::a,
+       false,
+       Delivery::delivered,
+       {"29+", a + "+", a + "-", "29-"}},
+      {"paste", editor, editor, Key::v, false, Delivery::delivered, pasted},
+      {"other window", editor, other, Key::v, false, Delivery::declined, {}},
+      {"nothing in front", editor, {}, Key::v, false, Delivery::declined, {}},
+      {"other document", editor, otherDocument, Key::v, false, Delivery::documentChanged, {}},
+      {"copy in a terminal",
+       terminal,
+       terminal,
+       Key::c,
+       false,
+       Delivery::delivered,
+       {"29+", "42+", c + "+", c + "-", "42-", "29-"}},
+      {"paste in a terminal", terminal, terminal, Key::v, false, Delivery::delivered, {}},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    begin({});
+    ASSERT_TRUE(open());
+    applications.front = row.front;
+    isHeld = row.isHeld;
+    EXPECT_EQ(press(row.key, row.target), row.delivery);
+    EXPECT_EQ(pressed(), row.keys);
+    EXPECT_EQ(told.find("let go") != std::string::npos, row.isHeld);
+  }
+}
+
+TEST_F(PortalKeys, AreAllowedAgainOnlyWhenTheUserSigns) {
+  begin({}, "old");
+  ASSERT_TRUE(open());
+  desk->emit("Session", "Closed", "");  // by the user, in the panel
+  testing::runUntil(loop, [&] { return !remote->isOpen(); });
+  EXPECT_EQ(std::ranges::count(desk->calls(), "Start"), 1);
+  EXPECT_EQ(press(Key::c, {}), Delivery::delivered);
+  EXPECT_EQ(std::ranges::count(desk->calls(), "Start"), 2);
+
+  desk.reset();
+  desk.emplace(Script{.answer = 1});  // restarts, and the user refuses
+  testing::runUntil(loop, [&] { return !remote->isOpen(); });
+  EXPECT_EQ(press(Key::c, {}), Delivery::declined);
+  EXPECT_FALSE(keys->isTrusted());
+  EXPECT_THAT(told, HasSubstr("did not let Quillseal press keys"));
+  EXPECT_THAT(pressed(), ::testing::IsEmpty());
+  told.clear();
+  keys->askForTrust();
+  testing::runUntil(loop, [&] { return !told.empty(); });
+  EXPECT_THAT(told, HasSubstr("allow it when the desktop asks"));
+}
+
+TEST_F(PortalKeys, AreNotPressedAfterTheRunWasCalledOffOrTheUserWasElsewhere) {
+  begin({.answers = false}, "old");
+  Delivery delivery = Delivery::delivered;
+  bool isDone = false;
+  desktop::Ticket pressing = keys->press({.key = Key::c, .modifiers = desktop::Modifiers::command},
+                                         {}, {}, [&](Delivery result) {
+                                           delivery = result;
+                                           isDone = true;
+                                         });
+  testing::runUntil(loop, [&] { return desk->hasCall("Start"); });
+  pressing = {};
+  desk.reset();  // as good as an answer
+  testing::runUntil(loop, [&] { return !remote->obstacle().empty(); });
+  EXPECT_FALSE(isDone);
+
+  begin({.answers = false});
+  keys->askForTrust();
+  testing::runUntil(loop, [&] { return desk->hasCall("Start"); });
+  keys.reset();
+  remote.reset();
+  testing::runUntil(loop, [&] { return desk->hasCall("Session.Close"); });
+  EXPECT_TRUE(desk->hasCall("Request.Close"));
+}
+
+// Hotkey ------------------------------------------------------------------------------------------
+
+using PortalHotkeys = PortalTest;
+
+TEST_F(PortalHotkeys, ArePressedOnceUntilTheyAreReleased) {
+  begin({});
+  int presses = 0;
+  hotkey->registerHotkey(desktop::signingHotkey, [&] { ++presses; });
+  const auto tell = [&](const char* signal, const char* id, const char* session) {
+    desk->emit("GlobalShortcuts", signal, "osta{sv}", session, id, std::uint64_t{1}, 1,
+               "activation_token", "s", "abc");
+  };
+  testing::runUntil(loop, [&] { return desk->hasCall("BindShortcuts"); });
+  for (const int expected : {1, 2}) {
+    desk->emit("GlobalShortcuts", "Activated", "s", "malformed");
+    tell("Activated", "sign", "/other");
+    tell("Activated", "other", ScriptedPortal::session);
+    tell("Activated", "sign", ScriptedPortal::session);
+    tell("Activated", "sign", ScriptedPortal::session);
+    testing::runUntil(loop, [&] { return presses == expected; });
+    EXPECT_TRUE(hotkey->mayBeHeld());
+    tell("Deactivated", "sign", ScriptedPortal::session);
+    testing::runUntil(loop, [&] { return !hotkey->mayBeHeld(); });
+    EXPECT_EQ(presses, expected);
+  }
+  EXPECT_EQ(activation, "abc");
+  desk.reset();
+  desk.emplace(Script{});
+  testing::runUntil(loop, [&] { return desk->hasCall("BindShortcuts"); });
+  tell("Activated", "sign", ScriptedPortal::session);
+  testing::runUntil(loop, [&] { return presses == 3; });
+}
+
+TEST_F(PortalHotkeys, AreNamedAsTheDesktopBoundThem) {
+  const struct {
+    const char* name;
+    Script script;
+    const char* otherKeys;
+    const char* told;
+  } rows[] = {{"as asked", {}, "", ""},
+              {"in other words", {.keys = "Ctrl+Alt+Meta+H"}, "", ""},
+              {"others", {.keys = "Ctrl+Shift+H"}, "Ctrl+Shift+H", ""},
+              {"refused", {.answer = 1}, "", "quillseal --sign"},
+              {"malformed", {.isMalformed = true}, "", "quillseal --sign"}};
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    begin(row.script);
+    hotkey->registerHotkey(desktop::signingHotkey, [] {});
+    testing::runUntil(loop, [&] { return !told.empty() || desk->hasCall("BindShortcuts"); });
+    settle();
+    EXPECT_EQ(hotkey->otherKeys(), row.otherKeys);
+    EXPECT_THAT(told, HasSubstr(row.told));
+    EXPECT_EQ(told.empty(), *row.told == '\0');
+  }
+  begin({.offer = {.remoteDesktop = 2}});
+  EXPECT_THROW(hotkey->registerHotkey(desktop::signingHotkey, [] {}), Error);
 }
 
 }  // namespace

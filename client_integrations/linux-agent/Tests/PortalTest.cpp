@@ -304,19 +304,27 @@ TEST_F(PortalKeys, AreAllowedAgainOnlyWhenTheUserSigns) {
 }
 
 TEST_F(PortalKeys, AreNotPressedAfterTheRunWasCalledOffOrTheUserWasElsewhere) {
-  begin({.answers = false}, "old");
-  Delivery delivery = Delivery::delivered;
-  bool isDone = false;
-  desktop::Ticket pressing = keys->press({.key = Key::c, .modifiers = desktop::Modifiers::command},
-                                         {}, {}, [&](Delivery result) {
-                                           delivery = result;
-                                           isDone = true;
-                                         });
-  testing::runUntil(loop, [&] { return desk->hasCall("Start"); });
-  pressing = {};
-  desk.reset();  // as good as an answer
-  testing::runUntil(loop, [&] { return !remote->obstacle().empty(); });
-  EXPECT_FALSE(isDone);
+  std::optional<Delivery> delivery;
+  const auto pressing = [&] {
+    return keys->press({.key = Key::c, .modifiers = desktop::Modifiers::command}, {}, {},
+                       [&](Delivery result) { delivery = result; });
+  };
+  for (const bool isCalledOff : {true, false}) {
+    begin({.answers = false}, "old");
+    desktop::Ticket run = pressing();
+    testing::runUntil(loop, [&] { return desk->hasCall("Start"); });
+    if (isCalledOff) {
+      run = {};
+    } else {
+      const auto end = loop.now() + 3100ms;
+      testing::runUntil(loop, [&] { return loop.now() > end; });
+    }
+    desk->allow();
+    testing::runUntil(loop, [&] { return remote->isOpen(); });
+    EXPECT_THAT(pressed(), ::testing::IsEmpty());
+    EXPECT_EQ(delivery.has_value(), !isCalledOff);
+  }
+  EXPECT_EQ(delivery, Delivery::declined);
 
   begin({.answers = false});
   keys->askForTrust();
@@ -383,6 +391,140 @@ TEST_F(PortalHotkeys, AreNamedAsTheDesktopBoundThem) {
   }
   begin({.offer = {.remoteDesktop = 2}});
   EXPECT_THROW(hotkey->registerHotkey(desktop::signingHotkey, [] {}), Error);
+}
+
+// Clipboard ---------------------------------------------------------------------------------------
+
+class PortalClipboard : public PortalTest {
+ protected:
+  using Report = ScriptedPortal::Report;
+
+  void fetch() {
+    bool isFetched = false;
+    const desktop::Ticket fetching = pasteboard->fetch([&] { isFetched = true; });
+    testing::runUntil(loop, [&] { return isFetched; });
+  }
+
+  void await(std::int64_t changeCount) {
+    testing::runUntil(loop, [&] { return pasteboard->changeCount() == changeCount; });
+  }
+};
+
+TEST_F(PortalClipboard, HoldsWhatWasCopied) {
+  begin({});
+  desk->copy({"text/plain"});  // before there is a session
+  settle();
+  ASSERT_TRUE(open());
+  EXPECT_EQ(pasteboard->changeCount(), 0);
+  int changes = 0;
+  const desktop::Ticket watch = pasteboard->onNextChange([&] { ++changes; });
+  desk->copy({"image/png"}, Report::malformed);
+  desk->copy({}, Report::documented);  // nobody's, before the real one
+  desk->copy({"text/plain"}, Report::ofTheAgent);
+  desk->copy({"text/html", "text/plain;charset=utf-8", "UTF8_STRING"});
+  await(1);
+  fetch();
+  EXPECT_EQ(changes, 1);
+  EXPECT_EQ(pasteboard->plainText(), "UTF8_STRING");
+  EXPECT_EQ(pasteboard->html(), "text/html");
+  EXPECT_FALSE(pasteboard->isConcealed());
+
+  desk->copy({"text/plain"}, Report::nested);
+  await(2);
+  fetch();
+  EXPECT_EQ(pasteboard->plainText(), "text/plain");
+
+  desk->copy({"text/plain", "text/rtf", "x-kde-passwordManagerHint"});
+  await(3);
+  fetch();
+  EXPECT_TRUE(pasteboard->isConcealed());
+  EXPECT_EQ(pasteboard->plainText(), std::nullopt);
+
+  desk->copy({"text/rtf"});
+  await(4);
+  std::optional<std::string> rtf;
+  const desktop::Ticket fetching =
+      pasteboard->fetchRtf([&](std::optional<std::string> bytes) { rtf = std::move(bytes); });
+  testing::runUntil(loop, [&] { return rtf.has_value(); });
+  EXPECT_EQ(rtf, "text/rtf");
+}
+
+TEST_F(PortalClipboard, OutlivesEveryOwner) {
+  for (const Owner owner :
+       {Owner::isSilent, Owner::writesForever, Owner::closes, Owner::givesNoFile}) {
+    begin({.owner = owner});
+    ASSERT_TRUE(open());
+    desk->copy({"text/plain"});
+    await(1);
+    const auto start = loop.now();
+    fetch();
+    EXPECT_EQ(pasteboard->plainText(), std::nullopt);
+    EXPECT_LT(loop.now() - start, 2s);
+  }
+  begin({.owner = Owner::isSilent});
+  ASSERT_TRUE(open());
+  desk->copy({"text/plain"});
+  await(1);
+  bool isFetched = false;
+  const desktop::Ticket fetching = pasteboard->fetch([&] { isFetched = true; });
+  testing::runUntil(loop, [&] { return desk->hasCall("SelectionRead"); });
+  desk->copy({"text/html"});
+  testing::runUntil(loop, [&] { return isFetched; });
+  EXPECT_EQ(pasteboard->html(), std::nullopt);
+}
+
+TEST_F(PortalClipboard, OffersTheBlockOrSaysThatItDoesNot) {
+  begin({});
+  EXPECT_THROW(pasteboard->write({.plainText = "block", .html = "<p>"}), Error);
+  ASSERT_TRUE(open());
+  pasteboard->write({.plainText = "block", .html = "<p>"});
+  EXPECT_EQ(pasteboard->changeCount(), 1);
+  EXPECT_TRUE(desk->hasCall("SetSelection"));
+  for (const auto& [format, text] : {std::pair{"text/html", "<p>"}, {"text/plain", "block"}}) {
+    desk->emit("Clipboard", "SelectionTransfer", "osu", ScriptedPortal::session, format, 7U);
+    const auto before = std::ranges::count(desk->calls(), "SelectionWriteDone done");
+    testing::runUntil(loop, [&] {
+      return std::ranges::count(desk->calls(), "SelectionWriteDone done") > before;
+    });
+    EXPECT_EQ(desk->received(), text);
+  }
+  // The reader goes in the middle.
+  pasteboard->write({.plainText = std::string(std::size_t{1} << 20, 'x'), .html = {}});
+  desk->emit("Clipboard", "SelectionTransfer", "osu", ScriptedPortal::session, "text/plain", 8U);
+  testing::runUntil(loop, [&] { return std::ranges::count(desk->calls(), "SelectionWrite") == 3; });
+  settle();
+  desk->stopReading();
+  testing::runUntil(loop, [&] { return desk->hasCall("SelectionWriteDone failed"); });
+
+  begin({.takesSelection = false});
+  ASSERT_TRUE(open());
+  EXPECT_THROW(pasteboard->write({.plainText = "block", .html = "<p>"}), Error);
+  begin({.offer = {.remoteDesktop = 2}});
+  ASSERT_TRUE(open());
+  EXPECT_THROW(pasteboard->write({.plainText = "block", .html = "<p>"}), Error);
+  EXPECT_FALSE(desk->hasCall("RequestClipboard"));
+}
+
+// Offer -------------------------------------------------------------------------------------------
+
+using PortalOffers = PortalTest;
+
+TEST_F(PortalOffers, AreWhatThePortalSays) {
+  const struct {
+    Script script;
+    PortalOffer offer;
+  } rows[] = {
+      {{}, {.remoteDesktop = 2, .globalShortcuts = 2, .clipboard = 1}},
+      {{.offer = {.remoteDesktop = 1}}, {.remoteDesktop = 1}},
+      {{.devices = 2}, {.globalShortcuts = 2, .clipboard = 1}},
+      {{.isMalformed = true}, {}},
+  };
+  const auto own = DesktopBus::open();
+  EXPECT_EQ(offerOfPortal(*own), PortalOffer{});
+  for (const auto& row : rows) {
+    const ScriptedPortal scripted(row.script);
+    EXPECT_EQ(offerOfPortal(*own), row.offer);
+  }
 }
 
 }  // namespace

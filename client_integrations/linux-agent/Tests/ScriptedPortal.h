@@ -70,6 +70,36 @@ class ScriptedPortal {
     });
   }
 
+  /// The ways in which portals report a copy.
+  enum class Report { documented, nested, ofTheAgent, malformed };
+  void copy(const std::vector<std::string>& formats, Report report = Report::documented) {
+    const std::lock_guard lock(mutex_);
+    work_.emplace_back([=, this] {
+      sd_bus_message* made = nullptr;
+      ::sd_bus_message_new_signal(bus_.get(), &made, linux::Portal::path,
+                                  "org.freedesktop.portal.Clipboard", "SelectionOwnerChanged");
+      const linux::DesktopBus::Message signal(made);
+      ::sd_bus_message_append(made, "o", session);
+      if (report == Report::documented)
+        static_cast<void>(linux::Portal::append(*made, {{"mime_types", formats}}));
+      else if (report == Report::nested)
+        ::sd_bus_message_append(made, "a{sv}", 1, "mime_types", "(as)", 1, formats.at(0).c_str());
+      else if (report == Report::ofTheAgent)
+        ::sd_bus_message_append(made, "a{sv}", 2, "mime_types", "as", 1, formats.at(0).c_str(),
+                                "session_is_owner", "b", 1);
+      else
+        ::sd_bus_message_append(made, "a{sv}", 1, "mime_types", "s", formats.at(0).c_str());
+      ::sd_bus_send(bus_.get(), made, nullptr);
+    });
+  }
+
+  /// Allows what was asked for and not answered.
+  void allow() {
+    const std::lock_guard lock(mutex_);
+    work_.emplace_back(
+        [this] { respond(*pending_, "os", "ua{sv}", 0U, 1, "devices", "u", script_.devices); });
+  }
+
   /// The calls so far, with the arguments that matter.
   [[nodiscard]] std::vector<std::string> calls() {
     const std::lock_guard lock(mutex_);
@@ -82,11 +112,11 @@ class ScriptedPortal {
   /// What was read from the agent's selection.
   [[nodiscard]] std::string received() const {
     std::string text(1000, ' ');
-    text.resize(static_cast<std::size_t>(
-        std::max<ssize_t>(0, ::read(files_.at(0), text.data(), text.size()))));
+    const ssize_t count = ::read(files_.back(), text.data(), text.size());
+    text.resize(static_cast<std::size_t>(std::max<ssize_t>(0, count)));
     return text;
   }
-  void stopReading() { ::close(std::exchange(files_.at(0), -1)); }
+  void stopReading() { ::close(std::exchange(files_.back(), -1)); }
 
  private:
   void serve() {
@@ -160,8 +190,10 @@ class ScriptedPortal {
       note(member);
     if (member == "CreateSession")
       return respond(call, "", "ua{sv}", 0U, 1, "session_handle", "s", session);
-    if ((member == "Start" || member == "BindShortcuts") && !script_.answers)
+    if (member == "Start" && !script_.answers) {
+      pending_.reset(::sd_bus_message_ref(&call));
       return ::sd_bus_reply_method_return(&call, "o", "/later");
+    }
     if (member == "Start")
       return respond(call, "os", "ua{sv}", script_.answer, script_.token.empty() ? 1 : 2, "devices",
                      "u", script_.devices, "restore_token", "s", script_.token.c_str());
@@ -232,6 +264,7 @@ class ScriptedPortal {
 
   Script script_;
   UniqueHandle<sd_bus, ::sd_bus_flush_close_unref> bus_;
+  linux::DesktopBus::Message pending_;
   std::vector<int> files_;
   std::mutex mutex_;
   std::vector<std::string> calls_;           // guarded by mutex_

@@ -53,7 +53,8 @@ int appendValue(sd_bus_message& message, const std::vector<std::string>& values)
 
 PortalOffer offerOfPortal(DesktopBus& bus) {
   constexpr std::chrono::seconds start{5};
-  if (!bus.start(Portal::service, start)) return {};
+  const std::optional<bool> isRunning = bus.knows(Portal::service);
+  if (!isRunning || (!*isRunning && !bus.start(Portal::service, start))) return {};
   const auto version = [&bus](const char* interface) {
     return propertyOf(bus, interface, "version");
   };

@@ -48,8 +48,8 @@ class DesktopBus {
   /// Whether somebody has this name; nothing when the bus does not answer.
   [[nodiscard]] std::optional<bool> knows(const char* name);
 
-  /// Starts the service unless it runs. Returns whether it runs in the end, and blocks for
-  /// `limit` at most.
+  /// Starts a service that does not run. Returns whether it runs in the end, and blocks for `limit`
+  /// at most.
   [[nodiscard]] bool start(const char* name, std::chrono::milliseconds limit);
 
   /// Calls a method and returns the answer; null when there is none within a second, or an error.

@@ -2,9 +2,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <optional>
-#include <string>
 #include <thread>
-#include <vector>
 
 #include <gmock/gmock.h>
 
@@ -18,12 +16,10 @@
 namespace quillseal::linux {
 namespace {
 
+using namespace ::testing;
 using namespace std::chrono_literals;
 namespace fs = std::filesystem;
-using ::testing::Contains;
 using testing::contentsOf;
-using ::testing::HasSubstr;
-using ::testing::Not;
 using testing::TemporaryFolder;
 using testing::VirtualLoop;
 

@@ -2,34 +2,28 @@
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
-#include <map>
-#include <memory>
-#include <optional>
-#include <string>
-#include <string_view>
-#include <utility>
 #include <variant>
-#include <vector>
 
 #include <gmock/gmock.h>
 
 #include "Cases.h"
 #include "RunUntil.h"
 #include "ScriptedServer.h"
+#include "TemporaryFolder.h"
 #include "network/CurlTransport.h"
+#include "network/LoadedTransport.h"
 #include "session/PollLoop.h"
 
 namespace quillseal::linux {
 namespace {
 
+using namespace ::testing;
 using desktop::HttpPost;
 using desktop::HttpResponse;
-using ::testing::HasSubstr;
-using ::testing::Not;
+using testing::awaited;
 using testing::runUntil;
 using testing::ScriptedServer;
 using testing::ServerScript;
-using ::testing::StartsWith;
 namespace transport = desktop::transport;
 
 std::string answerOf(const std::string& status, const std::string& body) {
@@ -60,13 +54,11 @@ class CurlTransportTest : public ::testing::Test {
   static void SetUpTestSuite() { setenv("no_proxy", "*", 1); }
 
   Ending endingOf(const HttpPost& post) {
-    std::optional<Outcome<HttpResponse>> outcome;
-    const desktop::Ticket ticket =
-        transport_->send(post, [&](Outcome<HttpResponse> result) { outcome = std::move(result); });
-    runUntil(loop_, [&] { return outcome.has_value(); });
-    if (const auto* answer = std::get_if<HttpResponse>(&*outcome))
+    const auto outcome = awaited<Outcome<HttpResponse>>(
+        loop_, [&](auto done) { return transport_->send(post, done); });
+    if (const auto* answer = std::get_if<HttpResponse>(&outcome))
       return {.status = answer->status, .body = answer->body};
-    const Error& error = std::get<Error>(*outcome);
+    const Error& error = std::get<Error>(outcome);
     EXPECT_EQ(error.domain(), transport::errorDomain);
     EXPECT_STRNE(error.what(), "");
     return {.code = error.code()};
@@ -129,18 +121,6 @@ TEST_F(CurlTransportTest, EveryRequestHasItsOwnConnection) {
     EXPECT_EQ(endingOf(postTo(server)).status, 200);
     EXPECT_EQ(server.connections(), number);
   }
-}
-
-TEST_F(CurlTransportTest, NeverFollowsARedirect) {
-  const ScriptedServer target({.answer = answerOf("200 OK", "{}"), .tls = {}});
-  for (const int status : {301, 302, 303, 307, 308}) {
-    const ScriptedServer server({.answer = "HTTP/1.1 " + std::to_string(status) +
-                                           " Elsewhere\r\nLocation: " + postTo(target).url +
-                                           "\r\nContent-Length: 0\r\n\r\n",
-                                 .tls = {}});
-    EXPECT_EQ(endingOf(postTo(server)).status, status);
-  }
-  EXPECT_EQ(target.connections(), 0);
 }
 
 TEST_F(CurlTransportTest, ServersOutOfReach) {
@@ -235,6 +215,36 @@ TEST(CurlTransportErrors, AreToldAsWhatTheyMeanToTheUser) {
   for (const int offline : {ENETUNREACH, ENETDOWN})
     EXPECT_EQ(CurlTransport::errorCodeOf(CURLE_COULDNT_CONNECT, offline),
               transport::notConnectedToInternet);
+}
+
+/// Returns the message for a request to an invalid URL.
+std::string complaintOf(std::vector<std::filesystem::path> places,
+                        std::string version = QUILLSEAL_VERSION) {
+  PollLoop loop;
+  LoadedTransport transport(loop, loop,
+                            LoadedModule({.places = std::move(places),
+                                          .version = std::move(version),
+                                          .duty = "talks to the server"}));
+  std::string told;
+  for (int request = 0; request < 2; ++request) {
+    const desktop::Ticket ticket = transport.send(
+        {.url = "nonsense", .headers = {}, .body = {}},
+        [&](const Outcome<HttpResponse>& outcome) { told = std::get<Error>(outcome).what(); });
+  }
+  return told;
+}
+
+TEST(LoadedTransport, SendsThroughTheModuleOrTellsWhatIsWrongWithIt) {
+  const testing::TemporaryFolder folder;
+  const std::filesystem::path module = QUILLSEAL_HTTP_MODULE,
+                              missing = folder.path() / "quillseal-http.so",
+                              damaged = folder.path() / "damaged.so";
+  testing::overwrite(damaged, "no library");
+  EXPECT_THAT(complaintOf({missing, module}), HasSubstr("not a valid URL"));
+  EXPECT_THAT(complaintOf({missing}), HasSubstr("(" + missing.string() + " is missing). If "));
+  EXPECT_THAT(complaintOf({damaged, module}), HasSubstr(damaged.string() + ": "));
+  EXPECT_THAT(complaintOf({module}, "0.0.0"),
+              HasSubstr(module.string() + " is of another version"));
 }
 
 }  // namespace

@@ -1,9 +1,6 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
-#include <string>
-#include <string_view>
-#include <vector>
 
 #include <gmock/gmock.h>
 #include <sys/stat.h>
@@ -17,9 +14,8 @@
 namespace quillseal::linux {
 namespace {
 
+using namespace ::testing;
 using testing::failureOf;
-using ::testing::HasSubstr;
-using ::testing::StartsWith;
 namespace fs = std::filesystem;
 
 constexpr ScryptCost cheap{.n = 16, .r = 8, .p = 1};

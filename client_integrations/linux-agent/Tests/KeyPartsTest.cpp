@@ -1,6 +1,5 @@
 #include <array>
 #include <cstddef>
-#include <utility>
 
 #include <gmock/gmock.h>
 #include <openssl/crypto.h>

@@ -2,13 +2,9 @@
 #include <array>
 #include <atomic>
 #include <chrono>
-#include <memory>
 #include <mutex>
 #include <optional>
-#include <string>
 #include <thread>
-#include <utility>
-#include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -31,10 +27,8 @@
 namespace quillseal::linux {
 namespace {
 
+using namespace ::testing;
 using namespace std::chrono_literals;
-using ::testing::AllOf;
-using ::testing::Contains;
-using ::testing::HasSubstr;
 using testing::PrivateBus;
 using testing::ScriptedCompositor;
 

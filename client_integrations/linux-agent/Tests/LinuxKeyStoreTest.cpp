@@ -1,14 +1,9 @@
 #include <chrono>
 #include <deque>
 #include <filesystem>
-#include <functional>
 #include <future>
-#include <memory>
 #include <optional>
-#include <string>
 #include <thread>
-#include <utility>
-#include <vector>
 
 #include <gmock/gmock.h>
 
@@ -21,10 +16,8 @@
 namespace quillseal::linux {
 namespace {
 
-using ::testing::ElementsAre;
+using namespace ::testing;
 using testing::failureOf;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 
 constexpr P256::Digest digest{7, 7, 7};
 constexpr auto cancel = std::nullopt;

@@ -1,10 +1,5 @@
-#include <functional>
-#include <memory>
 #include <optional>
-#include <string>
-#include <utility>
 #include <variant>
-#include <vector>
 
 #include <gmock/gmock.h>
 
@@ -18,11 +13,8 @@
 namespace quillseal::linux {
 namespace {
 
+using namespace ::testing;
 using desktop::PresencePolicy;
-using ::testing::Contains;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::Not;
 using testing::PresenceServices;
 using testing::runUntil;
 using testing::Script;

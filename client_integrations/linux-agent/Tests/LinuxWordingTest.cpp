@@ -1,8 +1,4 @@
-#include <functional>
-#include <map>
 #include <optional>
-#include <string>
-#include <utility>
 
 #include <gmock/gmock.h>
 
@@ -20,10 +16,9 @@
 namespace quillseal::linux {
 namespace {
 
+using namespace ::testing;
 using testing::Copy;
 using testing::FakeDesktop;
-using ::testing::HasSubstr;
-using ::testing::Not;
 
 // A text that looks like the agent's messages and must not be changed.
 const std::string selection =

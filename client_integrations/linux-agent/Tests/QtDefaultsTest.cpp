@@ -3,7 +3,6 @@
 #include <array>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <thread>
 
 #include <gmock/gmock.h>
@@ -18,10 +17,8 @@
 namespace quillseal::linux {
 namespace {
 
+using namespace ::testing;
 using testing::contentsOf;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 using testing::overwrite;
 namespace fs = std::filesystem;
 

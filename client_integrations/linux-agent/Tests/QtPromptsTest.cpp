@@ -6,13 +6,9 @@
 #include <QPushButton>
 #include <array>
 #include <chrono>
-#include <functional>
 #include <future>
 #include <optional>
 #include <stdexcept>
-#include <string>
-#include <string_view>
-#include <vector>
 
 #include <gmock/gmock.h>
 
@@ -25,8 +21,7 @@
 namespace quillseal::linux {
 namespace {
 
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
+using namespace ::testing;
 
 /// Where no other program has windows.
 class ShownWindows : public OwnWindows {

@@ -2,7 +2,9 @@
 
 #include <chrono>
 #include <functional>
+#include <optional>
 #include <stdexcept>
+#include <utility>
 
 #include "session/PollLoop.h"
 
@@ -17,6 +19,15 @@ inline void runUntil(linux::PollLoop& loop, const std::function<bool()>& conditi
     const desktop::Ticket look = loop.after(pause, [&loop] { loop.stop(); });
     loop.run();
   }
+}
+
+/// Returns what is called back with, after `start` was given the callback.
+template <typename T>
+T awaited(linux::PollLoop& loop, const auto& start) {
+  std::optional<T> result;
+  const desktop::Ticket ticket = start([&result](T value) { result = std::move(value); });
+  runUntil(loop, [&result] { return result.has_value(); });
+  return *std::move(result);
 }
 
 }  // namespace quillseal::testing

@@ -5,19 +5,15 @@
 #include <csignal>
 #include <filesystem>
 #include <mutex>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <thread>
 #include <utility>
 #include <vector>
 
-#include <arpa/inet.h>
-#include <netinet/in.h>
 #include <openssl/ssl.h>
 #include <poll.h>
 #include <sys/socket.h>
-#include <unistd.h>
 
 #include "core/text/UniqueHandle.h"
 
@@ -47,24 +43,14 @@ struct ServerScript {
 /// thread.
 class ScriptedServer {
  public:
-  explicit ScriptedServer(ServerScript script)
-      : script_(std::move(script)), listener_(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t size = sizeof address;
-    auto* generic = reinterpret_cast<sockaddr*>(&address);
-    if (bind(listener_, generic, size) != 0 || listen(listener_, SOMAXCONN) != 0 ||
-        getsockname(listener_, generic, &size) != 0) {
-      throw std::runtime_error("no port to listen on");
-    }
-    port_ = ntohs(address.sin_port);
+  explicit ScriptedServer(ServerScript script) : script_(std::move(script)) {
+    BIO_do_accept(listener_.get());  // which listens, the first time
+    port_ = std::stoi(BIO_get_accept_port(listener_.get()));
     thread_ = std::thread([this] { serve(); });
   }
   ~ScriptedServer() {
     stopped_ = true;
     thread_.join();
-    close(listener_);
   }
   ScriptedServer(const ScriptedServer&) = delete;
   ScriptedServer& operator=(const ScriptedServer&) = delete;
@@ -79,6 +65,7 @@ class ScriptedServer {
   }
 
  private:
+  using Stream = UniqueHandle<BIO, ::BIO_free_all>;
   static constexpr int tick = 20;  // ms between looks at whether the server shall stop
 
   void serve() {
@@ -88,20 +75,19 @@ class ScriptedServer {
     sigaddset(&broken, SIGPIPE);
     pthread_sigmask(SIG_BLOCK, &broken, nullptr);
     while (!stopped_) {
-      pollfd waiting{.fd = listener_, .events = POLLIN, .revents = 0};
-      if (poll(&waiting, 1, tick) <= 0) continue;
-      const int socket = accept(listener_, nullptr, nullptr);
-      if (socket < 0) continue;
+      pollfd waiting{.fd = static_cast<int>(BIO_get_fd(listener_.get(), nullptr)),
+                     .events = POLLIN,
+                     .revents = 0};
+      if (poll(&waiting, 1, tick) <= 0 || BIO_do_accept(listener_.get()) != 1) continue;
       ++connections_;
-      serveConnection(socket);
-      close(socket);
+      serveConnection(Stream(BIO_pop(listener_.get())));
     }
   }
 
-  void serveConnection(int socket) {
+  void serveConnection(Stream connection) {
     constexpr timeval patience{.tv_sec = 0, .tv_usec = tick * 1000};
+    const int socket = static_cast<int>(BIO_get_fd(connection.get(), nullptr));
     UniqueHandle<SSL_CTX, ::SSL_CTX_free> context;
-    UniqueHandle<BIO, ::BIO_free_all> connection(BIO_new_socket(socket, BIO_NOCLOSE));
     if (!script_.tls.empty()) {
       context.reset(SSL_CTX_new(TLS_server_method()));
       const auto key = script_.tls.parent_path() / "key.pem";
@@ -148,7 +134,7 @@ class ScriptedServer {
   }
 
   ServerScript script_;
-  int listener_;
+  Stream listener_{BIO_new_accept("127.0.0.1:0")};
   int port_ = 0;
   std::atomic<int> connections_ = 0;
   std::atomic<bool> stopped_ = false;

@@ -6,8 +6,6 @@
 #include <chrono>
 #include <fstream>
 #include <future>
-#include <map>
-#include <memory>
 #include <optional>
 #include <thread>
 
@@ -33,12 +31,10 @@
 namespace quillseal::linux {
 namespace {
 
+using namespace ::testing;
 using desktop::Key;
 using desktop::KeyPress;
 using desktop::Modifiers;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 using namespace std::string_literals;
 
 TEST(CommandLineTest, UnderstandsOptionsOrSaysWhatItDoesNotUnderstand) {

@@ -4,10 +4,7 @@
 #include <cstring>
 #include <mutex>
 #include <optional>
-#include <string>
 #include <thread>
-#include <utility>
-#include <vector>
 
 #include <gmock/gmock.h>
 #include <sys/socket.h>
@@ -29,11 +26,8 @@
 namespace quillseal::linux {
 namespace {
 
+using namespace ::testing;
 using namespace std::chrono_literals;
-using ::testing::AllOf;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 using testing::ScriptedCompositor;
 
 constexpr desktop::KeyPress hotkey = desktop::signingHotkey;

@@ -1,7 +1,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <optional>
-#include <string>
 
 #include <gmock/gmock.h>
 #include <tss2/tss2_esys.h>

@@ -1,9 +1,6 @@
 #include <chrono>
 #include <csignal>
-#include <memory>
 #include <optional>
-#include <string>
-#include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -26,16 +23,12 @@
 namespace quillseal::linux {
 namespace {
 
+using namespace ::testing;
 using namespace std::chrono_literals;
 using desktop::Delivery;
 using desktop::Key;
 using desktop::Modifiers;
 using testing::Answer;
-using ::testing::Contains;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::Not;
 using testing::Offered;
 using testing::ScriptedCompositor;
 

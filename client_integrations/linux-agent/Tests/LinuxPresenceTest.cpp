@@ -1,11 +1,12 @@
+#include <deque>
 #include <optional>
 #include <variant>
 
 #include <gmock/gmock.h>
 
+#include "BusServices.h"
 #include "PrivateBus.h"
 #include "RunUntil.h"
-#include "SystemBusFake.h"
 #include "presence/FingerprintReader.h"
 #include "presence/LinuxPresence.h"
 #include "session/PollLoop.h"
@@ -15,9 +16,80 @@ namespace {
 
 using namespace ::testing;
 using desktop::PresencePolicy;
-using testing::PresenceServices;
 using testing::runUntil;
-using testing::Script;
+
+/// The behaviour of the services.
+struct Script {
+  bool hasReader = true;
+  bool readerInUse = false;
+  std::vector<std::string> fingers{"right-index-finger"};
+  /// The statuses that follow each VerifyStart; without any, the verification waits.
+  std::deque<std::vector<std::string>> touches{};
+
+  bool actionInstalled = true;
+  bool mayAsk = true;
+  bool passwordRight = true;
+  bool dismissed = false;
+  bool neverAnswers = false;
+};
+
+/// Fakes of fprintd and polkit.
+class PresenceServices : public testing::BusServices {
+ public:
+  explicit PresenceServices(Script script)
+      : BusServices(::sd_bus_open_system, {"net.reactivated.Fprint", "org.freedesktop.PolicyKit1"},
+                    [script = std::move(script)](sd_bus_message* call, const std::string& method,
+                                                 sd_bus_error* error) mutable {
+                      return answer(script, call, method, error);
+                    }) {}
+
+ private:
+  static constexpr const char* reader = "/net/reactivated/Fprint/Device/0";
+
+  static int answer(Script& script, sd_bus_message* call, const std::string& method,
+                    sd_bus_error* error) {
+    if (method == "GetDefaultDevice") {
+      if (!script.hasReader)
+        return ::sd_bus_error_set(error, "net.reactivated.Fprint.Error.NoSuchDevice", "none");
+      return ::sd_bus_reply_method_return(call, "o", reader);
+    }
+    if (method == "ListEnrolledFingers") {
+      if (script.fingers.empty())
+        return ::sd_bus_error_set(error, "net.reactivated.Fprint.Error.NoEnrolledPrints", "none");
+      return ::sd_bus_reply_method_return(call, "as", 1, script.fingers.front().c_str());
+    }
+    if (method == "Claim" && script.readerInUse)
+      return ::sd_bus_error_set(error, "net.reactivated.Fprint.Error.AlreadyInUse", "in use");
+    if (method == "CheckAuthorization") {
+      if (!script.actionInstalled)
+        return ::sd_bus_error_set(error, "org.freedesktop.PolicyKit1.Error.Failed",
+                                  "the action is not registered");
+      const char* text = nullptr;
+      std::uint32_t mayQuestion = 0;
+      ::sd_bus_message_skip(call, "(sa{sv})");
+      ::sd_bus_message_read(call, "s", &text);
+      ::sd_bus_message_skip(call, "a{ss}");
+      ::sd_bus_message_read(call, "u", &mayQuestion);
+      if (mayQuestion == 0)
+        return ::sd_bus_reply_method_return(call, "(bba{ss})", 0, script.mayAsk ? 1 : 0, 0);
+      if (script.neverAnswers) return 1;
+      if (script.dismissed)
+        return ::sd_bus_reply_method_return(call, "(bba{ss})", 0, 0, 1, "polkit.dismissed", "true");
+      return ::sd_bus_reply_method_return(call, "(bba{ss})", script.passwordRight ? 1 : 0,
+                                          script.mayAsk ? 0 : 1, 0);
+    }
+    const int replied = ::sd_bus_reply_method_return(call, "");
+    if (method == "VerifyStart" && !script.touches.empty()) {
+      const std::vector<std::string> statuses = script.touches.front();
+      script.touches.pop_front();
+      for (const std::string& status : statuses)
+        ::sd_bus_emit_signal(::sd_bus_message_get_bus(call), reader,
+                             "net.reactivated.Fprint.Device", "VerifyStatus", "sb", status.c_str(),
+                             1);
+    }
+    return replied;
+  }
+};
 
 /// Shows nothing. Continues, cancels or waits as the test says.
 class ScriptedPrompt final : public PresencePrompt {
@@ -50,14 +122,12 @@ class LinuxPresenceTest : public ::testing::Test {
  protected:
   /// "yes", "no" or the message of the error.
   std::string evaluate(PresencePolicy policy) {
-    std::optional<Outcome<bool>> outcome;
-    const desktop::Ticket ticket =
-        presence.evaluate(policy, {.reason = "Sign “x”", .medium = "LinkedIn Post"},
-                          [&](Outcome<bool> result) { outcome = std::move(result); });
-    runUntil(loop, [&] { return outcome.has_value(); });
+    const auto outcome = testing::awaited<Outcome<bool>>(loop, [&](auto done) {
+      return presence.evaluate(policy, {.reason = "Sign “x”", .medium = "LinkedIn Post"}, done);
+    });
     EXPECT_EQ(prompt.windows, 0);
-    if (const Error* error = std::get_if<Error>(&*outcome)) return error->what();
-    return std::get<bool>(*outcome) ? "yes" : "no";
+    if (const Error* error = std::get_if<Error>(&outcome)) return error->what();
+    return std::get<bool>(outcome) ? "yes" : "no";
   }
   bool can(PresencePolicy policy) { return presence.canEvaluate(policy).available; }
 

@@ -55,13 +55,19 @@ if(CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT QUILLSEAL_SANITIZERS)
 endif()
 
 # One test program from its sources; each file *Test.cpp or *Test.mm is a CTest entry of its own, "NAME.FILE".
-#   quillseal_add_test(NAME SOURCES... [LIBRARIES...] [EXCEPT FILTER] [PROPERTIES...])
-# EXCEPT names the tests to leave out, as --gtest_filter does; PROPERTIES are those of every entry.
+#   quillseal_add_test(NAME SOURCES... [LIBRARIES...] [CASES...] [EXCEPT FILTER] [PROPERTIES...])
+# CASES are files that core/Tests/Cases.h reads; EXCEPT names the tests to leave out, as --gtest_filter does; PROPERTIES are those of every entry.
 function(quillseal_add_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 ARG "" "EXCEPT" "SOURCES;LIBRARIES;PROPERTIES")
+  cmake_parse_arguments(PARSE_ARGV 1 ARG "" "EXCEPT" "SOURCES;LIBRARIES;CASES;PROPERTIES")
   find_package(GTest REQUIRED)
   add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE quillseal_options ${ARG_LIBRARIES} GTest::gmock GTest::gtest_main)
+  if(ARG_CASES)
+    list(TRANSFORM ARG_CASES PREPEND "${CMAKE_CURRENT_SOURCE_DIR}/")
+    list(JOIN ARG_CASES ":" files)
+    target_link_libraries(${name} PRIVATE quillseal_test_cases)
+    target_compile_definitions(${name} PRIVATE QUILLSEAL_CASES="${files}")
+  endif()
   list(FILTER ARG_SOURCES INCLUDE REGEX "Test\\.(cpp|mm)$")
   foreach(source ${ARG_SOURCES})
     # A suite may be new.

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "CaseFile.h"
+#include "Cases.h"
 #include "IcuReference.h"
 #include "PatternText.h"
 #include "RandomText.h"

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "CaseFile.h"
+#include "Cases.h"
 #include "core/signing/HandoffPage.h"
 #include "core/signing/IdentityName.h"
 #include "core/signing/SignedBlock.h"

@@ -5,7 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "CaseFile.h"
+#include "Cases.h"
 #include "core/text/StrictJson.h"
 
 namespace quillseal {

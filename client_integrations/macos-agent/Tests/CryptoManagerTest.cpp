@@ -12,9 +12,9 @@
 #include <unicode/uchar.h>
 #include <unicode/unistr.h>
 
+#include "Cases.h"
 #include "Quillseal/CryptoManager.h"
 #include "RandomText.h"
-#include "SampleLines.h"
 #include "core/text/UnicodeText.h"
 
 namespace quillseal::CryptoManager {
@@ -27,15 +27,6 @@ std::string repeated(std::string_view text, int times) {
   for (int i = 0; i < times; ++i)
     result += text;
   return result;
-}
-
-/// With {TEXT*12} read.
-std::string withRepetitions(const std::string& text) {
-  const std::size_t start = text.find('{'), star = text.find('*'), end = text.find('}');
-  if (end == std::string::npos) return text;
-  return text.substr(0, start) +
-         repeated(text.substr(start + 1, star - start - 1), std::stoi(text.substr(star + 1))) +
-         text.substr(end + 1);
 }
 
 TEST(CryptoManager, MakesTheValuesThatAreListed) {
@@ -54,13 +45,8 @@ TEST(CryptoManager, MakesTheValuesThatAreListed) {
       {"expiry",
        [](const std::string& day) { return expiryDateFor({.issued = day, .wordCount = 10}); }},
   };
-  for (const std::string& line : testing::linesOf(QUILLSEAL_TESTS "/content-values.txt")) {
-    const auto [kind, rest] = testing::divided(line, " ");
-    const std::size_t arrow = rest.rfind(" =>");
-    const std::string value = rest.substr(std::min(arrow + 4, rest.size()));
-    EXPECT_EQ(kinds.at(kind)(withRepetitions(rest.substr(0, arrow))), value)
-        << testing::escaped(line);
-  }
+  for (const auto& [kind, text, value] : testing::cases<std::string, std::string, std::string>())
+    EXPECT_EQ(kinds.at(kind)(text), value) << testing::escaped(text);
 }
 
 /// A plain implementation of the same table, scalar by scalar over UTF-16.

@@ -9,12 +9,12 @@
 #include <unicode/normalizer2.h>
 #include <unicode/unistr.h>
 
+#include "Cases.h"
 #include "Disguises.h"
 #include "PatternText.h"
 #include "Quillseal/ContentRisk.h"
 #include "RandomText.h"
 #include "RulePatterns.h"
-#include "SampleLines.h"
 #include "core/reading/ReadableText.h"
 #include "core/reading/ReadingTables.h"
 #include "core/text/UnicodeText.h"
@@ -25,10 +25,6 @@ namespace {
 using ContentRisk::Screening;
 using testing::divided;
 using testing::escaped;
-
-std::vector<std::string> samplesIn(const std::string& name) {
-  return testing::linesOf(std::string(QUILLSEAL_TESTS) + '/' + name);
-}
 
 Screening asSigned(const std::string& text) {
   Screening screening = ContentRisk::screen(text);
@@ -42,16 +38,15 @@ int verdictOf(const Screening& screening) {
 }
 
 TEST(ReadableText, ReadsWhatAPersonReads) {
-  for (const std::string& line : samplesIn("readings.txt")) {
-    const auto [written, expected] = divided(line, " => ");
+  for (const auto& [written, expected] : testing::cases<std::string, std::string>()) {
     const ReadableText readable(written);
-    EXPECT_EQ(readable.isAsWritten(), expected.empty()) << line;
+    EXPECT_EQ(readable.isAsWritten(), expected.empty()) << written;
     EXPECT_EQ(readable.text(), expected.empty() ? written : expected);
   }
 }
 
 TEST(ReadableText, HonestTextsStayHonest) {
-  const std::vector<std::string> texts = samplesIn("honest-texts.txt");
+  const std::vector<std::string> texts = testing::textCases();
   EXPECT_GE(texts.size(), 120U);
   for (const std::string& text : texts) {
     const Screening screening = asSigned(text);
@@ -63,7 +58,7 @@ TEST(ReadableText, HonestTextsStayHonest) {
 TEST(ReadableText, GapsGoOnOverPointsThatEndNoSentence) {
   std::vector<std::string> sentences;
   std::vector<std::pair<std::string, std::string>> fillers;
-  for (const std::string& line : samplesIn("sentence-points.txt")) {
+  for (const std::string& line : testing::textCases()) {
     if (line.starts_with("S ")) sentences.push_back(line.substr(2));
     if (line.starts_with("F ")) fillers.push_back(divided(line.substr(2), " | "));
   }
@@ -83,7 +78,7 @@ TEST(ReadableText, GapsGoOnOverPointsThatEndNoSentence) {
 /// The samples of the rules that are refused or warned about, as far as they are `wanted`.
 std::vector<std::string> caughtSamples(bool (*wanted)(const std::string&)) {
   std::vector<std::string> caught;
-  for (const std::string& line : samplesIn("rule-samples.txt"))
+  for (const std::string& line : testing::textCases("Samples of the rules"))
     if (line.starts_with("+ ") && wanted(line) &&
         verdictOf(ContentRisk::screen(line.substr(2))) > 0)
       caught.push_back(line.substr(2));
@@ -224,7 +219,7 @@ TEST(ReadableText, ReadingWhatIsReadableChangesNothing) {
 
 // Work that grows with the square of the length would take hours.
 TEST(ReadableText, LongTextsTakeNoLongTime) {
-  for (const std::string& unit : samplesIn("long-units.txt")) {
+  for (const std::string& unit : testing::textCases()) {
     std::string text;
     while (text.size() < 400'000)
       text += unit;

@@ -9,10 +9,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "Cases.h"
 #include "FakeDesktop.h"
 #include "Quillseal/BuiltInServer.h"
 #include "Quillseal/ServerClient.h"
-#include "SampleLines.h"
 #include "TaskResult.h"
 
 namespace quillseal {
@@ -219,17 +219,16 @@ TEST_F(ServerClientTest, ReadsEveryAnswerOrNamesWhatItLacks) {
                         [](const auto& poll) { return poll.signatureId.value_or("waiting"); });
        }},
   };
-  for (const std::string& line : testing::linesOf(QUILLSEAL_TESTS "/server-answers.txt")) {
-    const auto [asked, expected] = testing::divided(line, " => ");
-    const auto [call, body] = testing::divided(asked, " ");
+  for (const auto& [call, body, expected] :
+       testing::cases<std::string, std::string, std::string>()) {
     answer(200, body);
     const Outcome<std::string> outcome = calls.at(call)();
     if (const Error* error = std::get_if<Error>(&outcome)) {
       EXPECT_EQ(error->domain(), "NSCocoaErrorDomain");
-      EXPECT_TRUE(expected.starts_with('!')) << line;
-      EXPECT_THAT(error->what(), HasSubstr(expected.substr(1))) << line;
+      EXPECT_TRUE(expected.starts_with('!')) << body;
+      EXPECT_THAT(error->what(), HasSubstr(expected.substr(1))) << body;
     } else {
-      EXPECT_EQ(std::get<std::string>(outcome), expected) << line;
+      EXPECT_EQ(std::get<std::string>(outcome), expected) << body;
     }
   }
   for (const int status : {201, 299}) {

@@ -14,12 +14,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "Cases.h"
 #include "FakeDesktop.h"
 #include "Quillseal/AccessibilityManager.h"
 #include "Quillseal/CryptoManager.h"
 #include "Quillseal/SecureEnclaveManager.h"
 #include "Quillseal/SigningCoordinator.h"
-#include "SampleLines.h"
 #include "TaskResult.h"
 #include "core/signing/HandoffPage.h"
 #include "core/signing/SignedBlock.h"
@@ -38,10 +38,8 @@ using ::testing::ElementsAre;
 using ::testing::EndsWith;
 using testing::FakeDesktop;
 using ::testing::HasSubstr;
-using testing::linesOf;
 using ::testing::Not;
 using testing::Record;
-using testing::splitAt;
 using ::testing::StartsWith;
 using testing::Text;
 using testing::Ticket;
@@ -120,6 +118,16 @@ class SigningCoordinatorTest : public ::testing::Test, protected Story {
     EXPECT_THAT(body, HasSubstr("\"enclave_signature\":\"" + signature + "\""));
   }
 };
+
+/// The parts of a line between separators: one at least.
+Lines splitAt(std::string line, const std::string& separator) {
+  Lines parts;
+  for (std::size_t at = 0; (at = line.find(separator)) != std::string::npos;
+       line.erase(0, at + separator.size()))
+    parts.push_back(line.substr(0, at));
+  parts.push_back(line);
+  return parts;
+}
 
 // Stories told in a file --------------------------------------------------------------------------
 
@@ -286,7 +294,7 @@ TEST(SigningStories, GoAsTold) {
   std::string title;
   Lines told;
   TaskScope enrolments;
-  Lines lines = linesOf(QUILLSEAL_TESTS "/signing-stories.txt");
+  Lines lines = testing::textCases();
   lines.emplace_back("[end]");
   for (std::string& line : lines) {
     for (const auto& [name, value] : {std::pair{"{text}", text},

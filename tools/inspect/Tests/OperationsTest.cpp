@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "CaseFile.h"
+#include "Cases.h"
 #include "Operations.h"
 #include "Quillseal/CryptoManager.h"
 

@@ -4,7 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "CaseFile.h"
+#include "Cases.h"
 #include "Inspection.h"
 #include "PatternTrial.h"
 #include "Quillseal/ContentRules.h"

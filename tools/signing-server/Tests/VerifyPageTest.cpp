@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include "CaseFile.h"
+#include "Cases.h"
 #include "PageFixture.h"
 #include "Quillseal/CryptoManager.h"
 #include "RandomText.h"

@@ -1,0 +1,97 @@
+#pragma once
+
+#include <cstddef>
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <tuple>
+#include <utility>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+/// Cases of tests in files, which CMake names in QUILLSEAL_CASES with colons between. "#
+/// Suite.Test" heads the cases of a test, one a line, up to the next such heading; empty lines and
+/// "## remarks" are left out. {3*ab} stands for ababab. A case is a JSON value, or a text with the
+/// escapes of JSON but without its quotation marks.
+namespace quillseal::testing {
+
+using Json = nlohmann::ordered_json;
+
+inline std::string runningTest() {
+  const ::testing::TestInfo& test = *::testing::UnitTest::GetInstance()->current_test_info();
+  return std::string(test.test_suite_name()) + '.' + test.name();
+}
+
+/// `line` with each {3*ab}, from the innermost outwards, written as ababab.
+inline std::string withoutRepetitions(std::string line) {
+  for (std::size_t open = line.rfind('{'); open != std::string::npos;
+       open = open == 0 ? std::string::npos : line.rfind('{', open - 1)) {
+    const std::size_t star = line.find_first_not_of("0123456789", open + 1);
+    const std::size_t close = line.find('}', open);
+    if (star == open + 1 || star >= close || line[star] != '*') continue;
+    const std::string part = line.substr(star + 1, close - star - 1);
+    std::string whole;
+    for (int i = std::stoi(line.substr(open + 1)); i > 0; --i)
+      whole += part;
+    line.replace(open, close + 1 - open, whole);
+  }
+  return line;
+}
+
+/// The lines below a heading. Throws when there are none.
+inline std::vector<std::string> caseLines(const std::string& heading) {
+  std::vector<std::string> lines;
+  std::istringstream paths(QUILLSEAL_CASES);
+  for (std::string path; lines.empty() && std::getline(paths, path, ':');) {
+    std::ifstream file(path);
+    std::string line;
+    while (std::getline(file, line) && line != "# " + heading) {
+    }
+    while (std::getline(file, line) && !line.starts_with("# "))
+      if (!line.empty() && !line.starts_with("##")) lines.push_back(withoutRepetitions(line));
+  }
+  if (lines.empty()) throw std::runtime_error("no cases below " + heading);
+  return lines;
+}
+
+inline std::vector<std::string> textCases(const std::string& heading = runningTest()) {
+  std::vector<std::string> texts = caseLines(heading);
+  for (std::string& text : texts) {
+    for (std::size_t at = 0; (at = text.find('"', at)) != std::string::npos; at += 2)
+      text.insert(at, 1, '\\');
+    text = Json::parse('"' + text + '"').get<std::string>();
+  }
+  return texts;
+}
+
+inline std::vector<Json> cases() {
+  std::vector<Json> values;
+  for (const std::string& line : caseLines(runningTest()))
+    values.push_back(Json::parse(line));
+  return values;
+}
+
+/// The parts of a text before and behind a separator; the second is empty without one.
+inline std::pair<std::string, std::string> divided(const std::string& text,
+                                                   const std::string& separator) {
+  const std::size_t at = text.find(separator);
+  if (at == std::string::npos) return {text, ""};
+  return {text.substr(0, at), text.substr(at + separator.size())};
+}
+
+/// Cases that are lists of so many fields.
+template <typename First, typename... More>
+std::vector<std::tuple<First, More...>> cases() {
+  std::vector<std::tuple<First, More...>> rows;
+  for (const Json& value : cases()) {
+    if (value.size() != 1 + sizeof...(More))
+      throw std::runtime_error("not the fields of a case: " + value.dump());
+    rows.push_back(value.get<std::tuple<First, More...>>());
+  }
+  return rows;
+}
+
+}  // namespace quillseal::testing

@@ -49,6 +49,7 @@ class LiteralAlphabet {
   [[nodiscard]] Distance shorten(Literals& literals) const;
 
  private:
+  [[nodiscard]] std::size_t keptLength(const Literal& literal) const;
   [[nodiscard]] bool isSpaceLetter(Letter letter) const;
   [[nodiscard]] bool isWordLetter(Letter letter) const;
   [[nodiscard]] bool isWithinExpansion(Letter letter) const;

@@ -115,7 +115,7 @@ class Backtracker {
   Step matchSet(const Instruction& current) {
     if (!sets_.contains(current.set, text_.classAt(position_))) return Step::failed;
     ++position_;
-    ++instruction_;
+    instruction_ = current.max;
     return Step::advanced;
   }
 
@@ -132,7 +132,7 @@ class Backtracker {
       ++position;
     }
     position_ = position;
-    ++instruction_;
+    instruction_ = current.max;
     return Step::advanced;
   }
 

@@ -47,14 +47,14 @@ enum class Operation : std::uint8_t {
   precededByWord,  ///< `count` to `max` code points of `set` behind a word boundary
 };
 
-/// Continues with the next one unless it says otherwise.
+/// Continues with the next one unless it says otherwise; a set and letters do where `max` says.
 struct Instruction {
   Operation operation;
   /// For a loop: which of `exceptions`, counted from 1, takes code points that are not of `set`.
   std::uint8_t exception = 0;
   std::uint16_t count = 0;  ///< of letters or targets; for a loop the least number of iterations
-  std::uint16_t max = 0;
-  std::uint16_t memo = 0;  ///< first row in the memo table
+  std::uint16_t max = 0;    ///< of iterations; for a set and letters the instruction to go on at
+  std::uint16_t memo = 0;   ///< first row in the memo table
   ClassSetId set = 0;
   std::uint16_t first = 0;  ///< for a loop: what follows it begins with, in `firstSets`
 

@@ -70,10 +70,10 @@ class KwinSession(wayland_session.WaylandSession):
         person = self.build / "tools/virtual-desktop/wayland-person"
         self.allow("person", f"[Desktop Entry]\nType=Application\nName=Person\nExec={person}\n"
                              "X-KDE-Wayland-Interfaces=org_kde_kwin_fake_input\n")
-        entry = (self.build / "client_integrations/linux-agent/quillseal.desktop").read_text()
-        if self.is_installed:
-            self.allow("quillseal", re.sub(r"^Exec=/\S+", f"Exec={self.quillseal}", entry,
-                                           flags=re.M))
+        for program in ("quillseal", "quillseal-wayland-connector") if self.is_installed else ():
+            entry = self.build / f"client_integrations/linux-agent/{program}.desktop"
+            place = self.quillseal.with_name(program)
+            self.allow(program, re.sub(r"^Exec=/\S+", f"Exec={place}", entry.read_text(), flags=re.M))
         configuration = self.home / ".config"
         configuration.mkdir(exist_ok=True)
         (configuration / "kxkbrc").write_text(f"[Layout]\nUse=true\nLayoutList={self.layout}\n")

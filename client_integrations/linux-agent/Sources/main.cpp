@@ -23,11 +23,13 @@
 #include "session/CommandLine.h"
 #include "session/IdleMemory.h"
 #include "session/JournalLog.h"
+#include "session/LoadedModule.h"
 #include "session/Reach.h"
 #include "session/SessionBus.h"
 #include "session/SingleInstance.h"
 #include "session/TerminationSignals.h"
 #include "wayland/WaylandConnection.h"
+#include "wayland/WaylandConnector.h"
 #include "wayland/WaylandReach.h"
 #include "x11/XcbHandles.h"
 
@@ -66,6 +68,11 @@ bool hasWaylandPlugin() {
 std::unique_ptr<quillseal::linux::WaylandConnection> compositorThatReachesApplications() {
   if (environment("WAYLAND_DISPLAY").empty()) return nullptr;
   auto connection = quillseal::linux::WaylandConnection::open();
+  if (connection == nullptr || quillseal::linux::reachesApplications(*connection))
+    return connection;
+  namespace WaylandConnector = quillseal::linux::WaylandConnector;
+  connection = WaylandConnector::open(
+      quillseal::linux::LoadedModule::usualPlaces(WaylandConnector::program));
   const bool isUsable = connection != nullptr && quillseal::linux::reachesApplications(*connection);
   return isUsable ? std::move(connection) : nullptr;
 }
@@ -113,11 +120,9 @@ int runAgent(const CommandLine& commandLine, quillseal::linux::SingleInstance& i
 }
 
 int run(int argc, char** argv, const CommandLine& commandLine) {
-  // KWin checks a new client's executable before it offers windows and keys, and the shield would
-  // hide it. So the shield comes after connecting; there is nothing secret in memory before.
+  quillseal::linux::shieldProcess();
   std::unique_ptr<quillseal::linux::WaylandConnection> wayland =
       compositorThatReachesApplications();
-  quillseal::linux::shieldProcess();
   // Qt ends the program when it finds no display, so the display is checked first. A connection
   // starts Xwayland, so it is made only where needed. It stays open until Qt has its own: an X
   // server may reset when its last client leaves, and refuse Qt meanwhile.

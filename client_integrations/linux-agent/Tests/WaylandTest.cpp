@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/time.h>
+#include <sys/wait.h>
 #include <xkbcommon/xkbcommon-keysyms.h>
 
 #include "KeymapText.h"
@@ -14,6 +15,7 @@
 #include "session/PollLoop.h"
 #include "wayland/WaylandApplications.h"
 #include "wayland/WaylandConnection.h"
+#include "wayland/WaylandConnector.h"
 #include "wayland/WaylandKeyEvents.h"
 #include "wayland/WaylandLayout.h"
 #include "wayland/WaylandPasteboard.h"
@@ -181,6 +183,22 @@ TEST(WaylandReach, WaitsForNoCompositorThatHangs) {
   ScriptedCompositor compositor;
   compositor.hang();
   EXPECT_EQ(WaylandConnection::open(), nullptr);
+}
+
+TEST(WaylandConnector, ConnectsAndEnds) {
+  const auto hasEnded = [] { return waitpid(-1, nullptr, WNOHANG) == -1 && errno == ECHILD; };
+  ScriptedCompositor compositor({.isKwin = true});
+  EXPECT_EQ(WaylandConnector::open({"/nowhere"}), nullptr);
+  const auto connection = WaylandConnector::open({"/nowhere", QUILLSEAL_WAYLAND_CONNECTOR});
+  ASSERT_NE(connection, nullptr);
+  EXPECT_TRUE(reachesApplications(*connection) && connection->roundTrip());
+  EXPECT_TRUE(hasEnded());
+  compositor.hang();
+  EXPECT_EQ(WaylandConnector::open({QUILLSEAL_WAYLAND_CONNECTOR}), nullptr);
+  EXPECT_TRUE(hasEnded());
+  setenv("WAYLAND_DISPLAY", "none", 1);
+  EXPECT_EQ(WaylandConnector::open({QUILLSEAL_WAYLAND_CONNECTOR}), nullptr);
+  EXPECT_TRUE(hasEnded());
 }
 
 // Clipboard ---------------------------------------------------------------------------------------

@@ -1,15 +1,12 @@
 #include "clipboard/ClipboardKeeper.h"
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <chrono>
 #include <csignal>
 #include <utility>
 
-#include <fcntl.h>
 #include <poll.h>
-#include <spawn.h>
 #include <sys/mman.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
@@ -17,6 +14,7 @@
 
 #include "core/text/Error.h"
 #include "session/FileDescriptor.h"
+#include "session/Spawn.h"
 
 namespace quillseal::linux {
 namespace {
@@ -30,32 +28,6 @@ constexpr std::chrono::seconds patience{5};
   throw Error({.domain = "ClipboardKeeper",
                .code = 1,
                .description = "The clipboard could not be written: " + reason});
-}
-
-class FileActions {
- public:
-  FileActions() { posix_spawn_file_actions_init(&actions_); }
-  ~FileActions() { posix_spawn_file_actions_destroy(&actions_); }
-  FileActions(const FileActions&) = delete;
-  FileActions& operator=(const FileActions&) = delete;
-  [[nodiscard]] posix_spawn_file_actions_t* get() { return &actions_; }
-
- private:
-  posix_spawn_file_actions_t actions_{};
-};
-
-pid_t start(const std::filesystem::path& file, int input) {
-  FileActions actions;
-  posix_spawn_file_actions_adddup2(actions.get(), input, STDIN_FILENO);
-  // The keeper outlives the agent: open outputs would keep a reader of the agent's waiting.
-  for (const int output : {STDOUT_FILENO, STDERR_FILENO})
-    posix_spawn_file_actions_addopen(actions.get(), output, "/dev/null", O_WRONLY, 0);
-  std::string name = file.filename().string();
-  const auto arguments = std::to_array<char*>({name.data(), nullptr});
-  pid_t process = 0;
-  if (posix_spawn(&process, file.c_str(), actions.get(), nullptr, arguments.data(), environ) != 0)
-    fail(file.string() + " could not be started. Install Quillseal again.");
-  return process;
 }
 
 bool endsInTime(pid_t process) {
@@ -78,11 +50,8 @@ ClipboardKeeper::ClipboardKeeper(std::vector<std::filesystem::path> places)
     : places_(std::move(places)) {}
 
 void ClipboardKeeper::keep(const desktop::PasteboardContent& content) const {
-  const auto place = std::ranges::find_if(places_, [](const std::filesystem::path& candidate) {
-    return access(candidate.c_str(), X_OK) == 0;
-  });
-  if (place == places_.end())
-    fail("the program " + std::string(program) + " is missing. Install Quillseal again.");
+  const auto place = firstProgram(places_);
+  if (!place) fail("the program " + std::string(program) + " is missing. Install Quillseal again.");
   const FileDescriptor input(memfd_create("quillseal-clipboard", MFD_CLOEXEC));
   if (!writeAll(input, KeptContent::written(content)))
     fail("there is not enough memory. Close some programs and try again.");
@@ -90,10 +59,11 @@ void ClipboardKeeper::keep(const desktop::PasteboardContent& content) const {
 
   // The process that is started here ends when its child holds the offer that the compositor has
   // taken.
-  const pid_t process = start(*place, input.get());
-  if (!endsInTime(process)) kill(process, SIGKILL);
+  const auto process = start({.file = *place, .input = input.get()});
+  if (!process) fail(place->string() + " could not be started. Install Quillseal again.");
+  if (!endsInTime(*process)) kill(*process, SIGKILL);
   int status = 0;
-  if (waitpid(process, &status, 0) != process || status != 0)
+  if (waitpid(*process, &status, 0) != *process || status != 0)
     fail("the desktop did not accept it. Try again; if that does not help, log out and in.");
 }
 

@@ -26,6 +26,8 @@ class FileDescriptor {
   }
 
   [[nodiscard]] int get() const noexcept { return number_; }
+  /// Gives the descriptor to the caller, who closes it.
+  [[nodiscard]] int release() && noexcept { return std::exchange(number_, -1); }
   [[nodiscard]] bool isOpen() const noexcept { return number_ >= 0; }
 
  private:

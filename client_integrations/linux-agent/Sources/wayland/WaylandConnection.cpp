@@ -41,7 +41,14 @@ struct WaylandConnection::Listeners {
 };
 
 std::unique_ptr<WaylandConnection> WaylandConnection::open() {
-  wl_display* const display = wl_display_connect(nullptr);
+  return greet(wl_display_connect(nullptr));
+}
+
+std::unique_ptr<WaylandConnection> WaylandConnection::open(FileDescriptor socket) {
+  return greet(wl_display_connect_to_fd(std::move(socket).release()));
+}
+
+std::unique_ptr<WaylandConnection> WaylandConnection::greet(wl_display* display) {
   if (display == nullptr) return nullptr;
   std::unique_ptr<WaylandConnection> connection(new WaylandConnection(display));
   if (!connection->roundTrip()) return nullptr;

@@ -13,6 +13,7 @@
 #include "desktop/MainLoop.h"
 #include "desktop/Ticket.h"
 #include "session/Descriptors.h"
+#include "session/FileDescriptor.h"
 
 namespace quillseal::linux {
 
@@ -22,6 +23,8 @@ class WaylandConnection {
  public:
   /// Null when no compositor answers within two seconds, or it has no seat.
   [[nodiscard]] static std::unique_ptr<WaylandConnection> open();
+  /// The same on a connected socket.
+  [[nodiscard]] static std::unique_ptr<WaylandConnection> open(FileDescriptor socket);
 
   ~WaylandConnection();
   WaylandConnection(const WaylandConnection&) = delete;
@@ -74,6 +77,7 @@ class WaylandConnection {
   };
 
   explicit WaylandConnection(wl_display* display);
+  [[nodiscard]] static std::unique_ptr<WaylandConnection> greet(wl_display* display);
 
   [[nodiscard]] void* bindGlobal(const wl_interface& interface, std::uint32_t newest) const;
   [[nodiscard]] bool prepareRead();

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "wayland/WaylandConnection.h"
+
+namespace quillseal::linux {
+
+/// A program that connects to the compositor for the agent.
+///
+/// KWin offers windows and keys only to a program that an installed desktop file names. It finds
+/// the program by the connecting process's /proc/PID/exe, which is hidden once the agent has
+/// shielded its memory, and computes the file's digest twice, so the file should be small.
+namespace WaylandConnector {
+
+inline constexpr std::string_view program = "quillseal-wayland-connector";
+
+/// Connects as the program in the first of the `places` that has it, which has ended when this
+/// returns. Null when it is missing, or the compositor does not answer within some seconds.
+[[nodiscard]] std::unique_ptr<WaylandConnection> open(
+    const std::vector<std::filesystem::path>& places);
+
+}  // namespace WaylandConnector
+
+}  // namespace quillseal::linux

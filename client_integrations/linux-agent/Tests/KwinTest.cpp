@@ -37,6 +37,7 @@ class ScriptedKde : public testing::BusServices {
   struct Script {
     std::optional<std::uint32_t> layout{};  ///< the layout service is absent if empty
     bool isLocked = false;
+    const char* effect = nullptr;  ///< of KWin's; active
     bool answers = true;
     int granted = controlAltMetaH;  ///< 0 when the keys are refused
     std::string owner{};            ///< component that owns them
@@ -44,7 +45,8 @@ class ScriptedKde : public testing::BusServices {
 
   explicit ScriptedKde(const Script& script)
       : BusServices(::sd_bus_open_user,
-                    {"org.kde.kglobalaccel", "org.kde.keyboard", "org.freedesktop.ScreenSaver"},
+                    {"org.kde.KWin", "org.kde.kglobalaccel", "org.kde.keyboard",
+                     "org.freedesktop.ScreenSaver"},
                     [script](sd_bus_message* call, const std::string& method, sd_bus_error* error) {
                       return answer(script, call, method, error);
                     }) {}
@@ -64,6 +66,8 @@ class ScriptedKde : public testing::BusServices {
     if (!script.answers) return 1;
     if (method == "GetActive")
       return ::sd_bus_reply_method_return(call, "b", static_cast<int>(script.isLocked));
+    if (method == "Get" && script.effect != nullptr)
+      return ::sd_bus_reply_method_return(call, "v", "as", 2, "zoom", script.effect);
     if (method == "getLayout" && script.layout)
       return ::sd_bus_reply_method_return(call, "u", *script.layout);
     if (method == "setShortcutKeys" && script.granted != 0)
@@ -119,7 +123,7 @@ TEST_F(KwinKeys, AreThoseOfTheLayoutInUse) {
   }
 }
 
-TEST_F(KwinKeys, ReachNoWindowBehindALockedScreen) {
+TEST_F(KwinKeys, ReachNoWindowBehindALockedScreenOrTheOverview) {
   const ScriptedCompositor compositor({.isKwin = true});
   const auto connection = WaylandConnection::open();
   const auto bus = DesktopBus::open();
@@ -132,7 +136,9 @@ TEST_F(KwinKeys, ReachNoWindowBehindALockedScreen) {
   const struct {
     ScriptedKde::Script script;
     bool isReached;
-  } rows[] = {{{.isLocked = true}, false}, {{}, true}, {{.answers = false}, false}};
+  } rows[] = {{{.isLocked = true}, false},       {{}, true},
+              {{.effect = "kscreen"}, true},     {{.effect = "overview"}, false},
+              {{.effect = "windowview"}, false}, {{.answers = false}, false}};
   for (const auto& row : rows) {
     const ScriptedKde kde(row.script);
     EXPECT_EQ(reaches(), row.isReached);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 
 #include <linux/input-event-codes.h>
 #include <xkbcommon/xkbcommon-keysyms.h>
@@ -54,6 +55,26 @@ bool isScreenLocked(DesktopBus& bus) {
   return bus.knows(service).value_or(true);
 }
 
+/// Parts of KWin that take the keys while the window below stays active: overview, grid of
+/// desktops, windows side by side, and the choice of a window with Alt+Tab.
+constexpr auto keyTakingEffects = std::to_array<std::string_view>(
+    {"desktopgrid", "highlightwindow", "overview", "presentwindows", "windowview"});
+
+bool isEffectTakingKeys(DesktopBus& bus) {
+  const DesktopBus::Message answer = bus.call({.service = "org.kde.KWin",
+                                               .path = "/Effects",
+                                               .interface = "org.freedesktop.DBus.Properties",
+                                               .name = "Get"},
+                                              "ss", "org.kde.kwin.Effects", "activeEffects");
+  if (answer == nullptr || ::sd_bus_message_enter_container(answer.get(), 'v', "as") <= 0 ||
+      ::sd_bus_message_enter_container(answer.get(), 'a', "s") <= 0)
+    return false;
+  bool isFound = false;
+  for (const char* effect = nullptr; ::sd_bus_message_read(answer.get(), "s", &effect) > 0;)
+    isFound = isFound || std::ranges::find(keyTakingEffects, effect) != keyTakingEffects.end();
+  return isFound;
+}
+
 /// Its number in the keyboard's layouts; nothing when nobody tells.
 std::optional<std::uint32_t> layoutInUse(DesktopBus& bus) {
   const DesktopBus::Message answer = bus.call({.service = "org.kde.keyboard",
@@ -84,8 +105,8 @@ bool KwinKeyboard::isOfferedBy(const WaylandConnection& connection) {
 
 void KwinKeyboard::prepare() {
   if (bus_ == nullptr) return;
-  isLocked_ = isScreenLocked(*bus_);
-  layoutInUse_ = isLocked_ ? std::nullopt : layoutInUse(*bus_);
+  isCovered_ = isScreenLocked(*bus_) || isEffectTakingKeys(*bus_);
+  layoutInUse_ = isCovered_ ? std::nullopt : layoutInUse(*bus_);
 }
 
 std::optional<std::uint32_t> KwinKeyboard::keyFor(Keysym symbol) {

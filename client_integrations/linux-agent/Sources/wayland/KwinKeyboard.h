@@ -24,7 +24,7 @@ class KwinKeyboard : public AgentKeyboard {
   [[nodiscard]] static bool isOfferedBy(const WaylandConnection& connection);
 
   void prepare() override;
-  [[nodiscard]] bool reachesActiveWindow() const override { return !isLocked_; }
+  [[nodiscard]] bool reachesActiveWindow() const override { return !isCovered_; }
 
   /// Copies with Ctrl+Insert and pastes with Shift+Insert where the layouts have no key for the
   /// letter, or the active layout is not known. In that case other letters are pressed only if no
@@ -40,7 +40,8 @@ class KwinKeyboard : public AgentKeyboard {
   WaylandConnection& connection_;
   DesktopBus* bus_;
   std::unique_ptr<Device> device_;
-  bool isLocked_ = false;  ///< the screen, or nobody could tell
+  /// The screen is locked, or nobody could tell, or a part of KWin takes the keys.
+  bool isCovered_ = false;
   std::optional<std::uint32_t> layoutInUse_;
   std::map<Keysym, std::vector<std::optional<std::uint32_t>>> known_;  ///< keys in each layout
   WaylandLayout layout_;

@@ -33,7 +33,15 @@ class KwinApplications(OnKwin, wayland.Applications, stories.Applications):
     """The same."""
 
 
-class KwinWindows(OnKwin, windows.SharedWindows, windows.WindowStory):
+class WindowStory(windows.WindowStory):
+    def assert_pasted_nowhere(self):
+        self.desktop.wait_for_log("signed block left on the clipboard; something else is in front",
+                                  "the agent says why it pastes nothing")
+        self.assertTrue(self.desktop.selection().startswith(f"『{LETTER}』"))
+        self.assertFalse([name for name in self.desktop.window_names() if name.startswith("*")])
+
+
+class KwinWindows(OnKwin, windows.SharedWindows, WindowStory):
     def switch_to(self, window):
         self.desktop.show(window)
 
@@ -42,8 +50,16 @@ class KwinWindows(OnKwin, windows.SharedWindows, windows.WindowStory):
                                "org.kde.KWin.VirtualDesktopManager.createDesktop", "1", "elsewhere")
         self.desktop.call_kwin("/KWin", "org.kde.KWin.setCurrentDesktop", "2")
 
+    def test_nothing_is_pasted_while_another_window_is_chosen(self):
+        letter = self.open_letter()
+        with self.while_the_server_is_slow():
+            self.desktop.wait_for_window(re.escape(letter.file.name))
+            self.desktop.person.tell("down Alt_L Tab")
+        self.assert_pasted_nowhere()
+        self.desktop.person.tell("up")
 
-class KwinLock(windows.WindowStory):
+
+class KwinLock(WindowStory):
     def make_desktop(self):
         return KwinSession(self.build, locks=True)
 
@@ -53,10 +69,7 @@ class KwinLock(windows.WindowStory):
         with self.while_the_server_is_slow():
             self.desktop.wait_for_window(re.escape(letter.file.name))
             self.desktop.lock()
-        self.desktop.wait_for_log("signed block left on the clipboard; something else is in front",
-                                  "the agent says why it pastes nothing")
-        self.assertTrue(self.desktop.selection().startswith(f"『{LETTER}』"))
-        self.assertFalse([name for name in self.desktop.window_names() if name.startswith("*")])
+        self.assert_pasted_nowhere()
 
 
 class KwinClipboard(OnKwin, wayland.Clipboard):

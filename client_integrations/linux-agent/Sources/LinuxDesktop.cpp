@@ -21,6 +21,7 @@
 #include "session/QtMainLoop.h"
 #include "session/SystemMachineIdentity.h"
 #include "session/SystemWallClock.h"
+#include "wayland/WaylandReach.h"
 #include "wayland/WaylandSystem.h"
 #include "windows/QtAlerts.h"
 #include "windows/QtPresencePrompt.h"
@@ -48,41 +49,58 @@ LoadedModule::Options moduleOptions(const char* file, const char* duty) {
   return {.places = LoadedModule::usualPlaces(file), .version = QUILLSEAL_VERSION, .duty = duty};
 }
 
-std::unique_ptr<WindowingSystem> chosen(std::unique_ptr<WaylandConnection> wayland,
+std::unique_ptr<WindowingSystem> chosen(PortalSystem::Access access,
                                         const WindowingSystem::Services& services) {
-  if (wayland != nullptr) return std::make_unique<WaylandSystem>(std::move(wayland), services);
+  if (access.compositor != nullptr && reachesApplications(*access.compositor))
+    return std::make_unique<WaylandSystem>(
+        WaylandSystem::Access{.connection = std::move(access.compositor),
+                              .bus = std::move(access.bus),
+                              .portalBus = std::move(access.portalBus),
+                              .offer = access.offer},
+        services);
+  access.token = keyFolder() + "/portal-token";
+  if (PortalSystem::reachesApplications(access))
+    return std::make_unique<PortalSystem>(std::move(access), services);
   return std::make_unique<X11System>(services);
 }
 
 /// The wording for the key that exists now or would be made.
 class LinuxWords final : public desktop::Words {
  public:
-  LinuxWords(const LinuxKeyStore& keyStore, const desktop::Defaults& defaults)
-      : keyStore_(keyStore), defaults_(defaults) {}
+  LinuxWords(const LinuxKeyStore& keyStore, const desktop::Defaults& defaults,
+             const WindowingSystem& system)
+      : keyStore_(keyStore), defaults_(defaults), system_(system) {}
 
   [[nodiscard]] desktop::Wording current() const override {
-    return linuxWording(
-        {.key = keyStore_.place(), .isDemo = Settings::demoSigning.isOn(defaults_)});
+    return linuxWording({.key = keyStore_.place(),
+                         .isDemo = Settings::demoSigning.isOn(defaults_),
+                         .otherHotkey = system_.otherHotkey()});
   }
 
  private:
   const LinuxKeyStore& keyStore_;
   const desktop::Defaults& defaults_;
+  const WindowingSystem& system_;
 };
 
 }  // namespace
 
 // Members are destroyed from the last to the first.
 struct LinuxDesktop::Parts {
-  Parts(const CommandLine& commandLine, desktop::Log& sink,
-        std::unique_ptr<WaylandConnection> wayland)
+  Parts(const CommandLine& commandLine, desktop::Log& sink, PortalSystem::Access access)
       : log(sink),
         entries(LoadedModule(
             moduleOptions(EntriesModule::fileName, "knows the installed applications"))),
-        system(chosen(std::move(wayland), {.loop = loop,
-                                           .descriptors = descriptors,
-                                           .entries = entries,
-                                           .explain = [this] { warn(system->limits()); }})),
+        system(chosen(std::move(access), {.loop = loop,
+                                          .descriptors = descriptors,
+                                          .entries = entries,
+                                          .explain = [this] { warn(system->limits()); },
+                                          .tell =
+                                              [this](const std::string& sentence) {
+                                                log.write("[desktop] " + sentence);
+                                                alerts.notify(
+                                                    {.title = "Quillseal", .body = sentence});
+                                              }})),
         secretPrompt(loop, system->ownWindows()),
         keyStore(makeKeyStore({.folder = keyFolder(), .tpm = commandLine.tpm}, secretPrompt)),
         alerts(system->ownWindows()),
@@ -95,7 +113,7 @@ struct LinuxDesktop::Parts {
              LoadedModule(moduleOptions(HttpModule::fileName, "talks to the server"))),
         program(system->ownWindows()),
         browserTabs({.loop = loop, .descriptors = descriptors, .log = log}),
-        words(*keyStore, defaults) {
+        words(*keyStore, defaults, *system) {
     log.write("[start] " + keyStore->describe());
     const std::string limits = system->limits();
     if (limits.empty()) return;
@@ -148,8 +166,8 @@ struct LinuxDesktop::Parts {
 };
 
 LinuxDesktop::LinuxDesktop(const CommandLine& commandLine, desktop::Log& log,
-                           std::unique_ptr<WaylandConnection> wayland)
-    : parts_(std::make_unique<Parts>(commandLine, log, std::move(wayland))) {}
+                           PortalSystem::Access access)
+    : parts_(std::make_unique<Parts>(commandLine, log, std::move(access))) {}
 
 LinuxDesktop::~LinuxDesktop() = default;
 

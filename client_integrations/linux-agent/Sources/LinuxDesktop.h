@@ -3,8 +3,8 @@
 #include <memory>
 
 #include "desktop/Desktop.h"
+#include "portal/PortalSystem.h"
 #include "session/CommandLine.h"
-#include "wayland/WaylandConnection.h"
 
 namespace quillseal::linux {
 
@@ -12,10 +12,9 @@ namespace quillseal::linux {
 /// in this session. REQUIRES: the QApplication exists. Main thread.
 class LinuxDesktop {
  public:
-  /// `log` outlives this object. Other applications are reached through `wayland` or, when it is
-  /// null, through the X server that Qt uses.
-  LinuxDesktop(const CommandLine& commandLine, desktop::Log& log,
-               std::unique_ptr<WaylandConnection> wayland);
+  /// `log` outlives this object. Other applications are reached through the compositor or the
+  /// portal where `access` allows it, else through the X server that Qt uses.
+  LinuxDesktop(const CommandLine& commandLine, desktop::Log& log, PortalSystem::Access access);
 
   /// Waits for workers, 5 seconds at most; then ends the process if one still runs.
   ~LinuxDesktop();

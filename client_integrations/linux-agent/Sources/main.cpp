@@ -20,6 +20,7 @@
 #include "LinuxDesktop.h"
 #include "Quillseal/AppDelegate.h"
 #include "keys/SecretBytes.h"
+#include "portal/PortalSystem.h"
 #include "session/CommandLine.h"
 #include "session/IdleMemory.h"
 #include "session/JournalLog.h"
@@ -37,7 +38,9 @@ namespace {
 
 using quillseal::linux::Command;
 using quillseal::linux::CommandLine;
+using quillseal::linux::PortalSystem;
 
+constexpr const char* applicationId = "quillseal";
 constexpr int failed = 1;
 constexpr int wrongArguments = 2;
 
@@ -58,23 +61,36 @@ void report(std::string_view sentence) {
                                  sentence.data()));
 }
 
+bool reachesApplicationsByCompositor(const PortalSystem::Access& access) {
+  return access.compositor != nullptr && quillseal::linux::reachesApplications(*access.compositor);
+}
+
 bool hasWaylandPlugin() {
   const QDir plugins(QLibraryInfo::path(QLibraryInfo::PluginsPath) + QLatin1String("/platforms"));
   return !plugins.entryList({QStringLiteral("libqwayland-*")}).isEmpty();
 }
 
-/// Null where there is none. Without WAYLAND_DISPLAY, libwayland would try the default name, which
-/// may belong to another session.
-std::unique_ptr<quillseal::linux::WaylandConnection> compositorThatReachesApplications() {
-  if (environment("WAYLAND_DISPLAY").empty()) return nullptr;
-  auto connection = quillseal::linux::WaylandConnection::open();
-  if (connection == nullptr || quillseal::linux::reachesApplications(*connection))
-    return connection;
+/// The ways into a Wayland desktop; none elsewhere. Without WAYLAND_DISPLAY, libwayland would try
+/// the default name, which may belong to another session.
+PortalSystem::Access accessToWayland() {
   namespace WaylandConnector = quillseal::linux::WaylandConnector;
-  connection = WaylandConnector::open(
-      quillseal::linux::LoadedModule::usualPlaces(WaylandConnector::program));
-  const bool isUsable = connection != nullptr && quillseal::linux::reachesApplications(*connection);
-  return isUsable ? std::move(connection) : nullptr;
+  using quillseal::linux::DesktopBus;
+  PortalSystem::Access access;
+  if (environment("WAYLAND_DISPLAY").empty()) return access;
+  const auto places = quillseal::linux::LoadedModule::usualPlaces(WaylandConnector::program);
+  access.compositor = quillseal::linux::WaylandConnection::open();
+  if (access.compositor != nullptr && !reachesApplicationsByCompositor(access))
+    if (auto connection = WaylandConnector::open(places)) access.compositor = std::move(connection);
+  access.bus = DesktopBus::open();
+  if (access.bus == nullptr) return access;
+  // Where the compositor has all but a hotkey, the start does not wait for that of the portal.
+  const bool isOfInterest = !reachesApplicationsByCompositor(access) ||
+                            (environment("SWAYSOCK").empty() &&
+                             access.bus->knows(quillseal::linux::Portal::service).value_or(false));
+  if (isOfInterest) access.portalBus = DesktopBus::openThrough(places);
+  if (access.portalBus != nullptr)
+    access.offer = quillseal::linux::offerOfPortal(*access.portalBus, applicationId);
+  return access;
 }
 
 void obey(Command command, quillseal::AppDelegate& agent) {
@@ -101,13 +117,13 @@ int visit(Command command) {
 }
 
 int runAgent(const CommandLine& commandLine, quillseal::linux::SingleInstance& instance,
-             std::unique_ptr<quillseal::linux::WaylandConnection> wayland) {
+             PortalSystem::Access access) {
   const bool quiet = commandLine.command == Command::background;
   quillseal::linux::JournalLog log(quiet ? quillseal::linux::JournalLog::Echo::none
                                          : quillseal::linux::JournalLog::Echo::standardError);
   if (!quillseal::linux::lockMemoryOfSecrets())
     log.write("[start] memory cannot be locked: a PIN or passphrase may be written to swap");
-  quillseal::linux::LinuxDesktop desktop(commandLine, log, std::move(wayland));
+  quillseal::linux::LinuxDesktop desktop(commandLine, log, std::move(access));
   quillseal::AppDelegate agent(desktop.services());
   agent.applicationDidFinishLaunching();
   instance.onCommand([&](Command command) { obey(command, agent); });
@@ -121,16 +137,17 @@ int runAgent(const CommandLine& commandLine, quillseal::linux::SingleInstance& i
 
 int run(int argc, char** argv, const CommandLine& commandLine) {
   quillseal::linux::shieldProcess();
-  std::unique_ptr<quillseal::linux::WaylandConnection> wayland =
-      compositorThatReachesApplications();
+  PortalSystem::Access access = accessToWayland();
+  const bool isReached =
+      reachesApplicationsByCompositor(access) || PortalSystem::reachesApplications(access);
   // Qt ends the program when it finds no display, so the display is checked first. A connection
   // starts Xwayland, so it is made only where needed. It stays open until Qt has its own: an X
   // server may reset when its last client leaves, and refuse Qt meanwhile.
   quillseal::linux::x11::Connection xServer;
-  if (wayland == nullptr || !hasWaylandPlugin()) xServer.reset(xcb_connect(nullptr, nullptr));
+  if (!isReached || !hasWaylandPlugin()) xServer.reset(xcb_connect(nullptr, nullptr));
   const quillseal::linux::PlatformChoice choice = quillseal::linux::platformFor(
       {.hasXServer = xServer && xcb_connection_has_error(xServer.get()) == 0,
-       .reachesApplicationsByWayland = wayland != nullptr,
+       .reachesApplicationsByWayland = isReached,
        .hasWayland = !environment("WAYLAND_DISPLAY").empty(),
        .hasWaylandPlugin = hasWaylandPlugin(),
        .wantedPlatform = environment("QT_QPA_PLATFORM")});
@@ -151,7 +168,7 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
   QApplication application(argc, argv);
   xServer.reset();
   QApplication::setApplicationName(QStringLiteral("quillseal"));
-  QApplication::setDesktopFileName(QStringLiteral("quillseal"));
+  QApplication::setDesktopFileName(QString::fromLatin1(applicationId));
   QApplication::setWindowIcon(productIcon());
 
   quillseal::linux::SingleInstance instance;
@@ -168,7 +185,7 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
   }
   if (commandLine.command == Command::quit) return 0;
   if (!quillseal::linux::accessibilityAnswers(patience)) qputenv("AT_SPI_BUS_ADDRESS", "disabled:");
-  return runAgent(commandLine, instance, std::move(wayland));
+  return runAgent(commandLine, instance, std::move(access));
 }
 
 }  // namespace

@@ -83,8 +83,9 @@ class PortalTest : public ::testing::Test {
     told.clear();
     const PortalOffer offer = script.offer;
     desk.emplace(std::move(script));
-    bus = DesktopBus::open();
+    bus = DesktopBus::openThrough({QUILLSEAL_WAYLAND_CONNECTOR});
     bus->serve(loop, loop);
+    static_cast<void>(offerOfPortal(*bus, "com.example.agent"));
     portal.emplace(*bus, "com.example.agent");
     std::filesystem::remove_all(tokenFile.parent_path());
     const PrivateFile file(tokenFile);
@@ -96,12 +97,13 @@ class PortalTest : public ::testing::Test {
                                            .remote = *remote,
                                            .applications = applications,
                                            .isHotkeyHeld = [this] { return isHeld; },
+                                           .isScreenLocked = [this] { return isLocked; },
                                            .explain = [this] { told += remote->obstacle(); },
                                            .tell = tell});
     hotkey.emplace(PortalHotkey::Services{
         .loop = loop,
         .portal = *portal,
-        .offer = offer,
+        .isOffered = offer.globalShortcuts > 0,
         .tell = tell,
         .activated = [this](const std::string& value) { activation = value; }});
     pasteboard.emplace(
@@ -153,6 +155,7 @@ class PortalTest : public ::testing::Test {
   PollLoop loop;
   OneApplication applications;
   bool isHeld = false;
+  bool isLocked = false;
   std::string told;
   std::string activation;
   std::optional<ScriptedPortal> desk;
@@ -175,25 +178,56 @@ TEST_F(PortalKeys, NeedWhatTheUserAllowsAndRemembersIt) {
     const char* tokenAfter;
     Calls calls;
   } rows[] = {
-      {"first time", {}, "", true, "next", {"SelectDevices kept ", "RequestClipboard", "Start"}},
-      {"allowed before", {}, "old", true, "next", {"SelectDevices kept old", "Start"}},
+      {"first time",
+       {},
+       "",
+       true,
+       "next",
+       {"Register com.example.agent", "SelectDevices kept ", "RequestClipboard", "Start"}},
+      {"allowed before",
+       {},
+       "old",
+       true,
+       "next",
+       {"Register com.example.agent", "SelectDevices kept old", "Start"}},
       {"token not understood",
        {.knownToken = "other"},
        "old",
        true,
        "next",
-       {"SelectDevices kept old", "Session.Close", "SelectDevices kept ", "Start"}},
-      {"no token any more", {.token = ""}, "old", true, "", {"SelectDevices kept old", "Start"}},
-      {"refused", {.answer = 1}, "old", false, "", {"Start", "Session.Close"}},
-      {"failed", {.answer = 2}, "old", false, "old", {"Start", "Session.Close"}},
-      {"no keyboard", {.devices = 2}, "", false, "next", {"Start", "Session.Close"}},
+       {"Register com.example.agent", "SelectDevices kept old", "Session.Close",
+        "SelectDevices kept ", "Start"}},
+      {"no token any more",
+       {.token = ""},
+       "old",
+       true,
+       "",
+       {"Register com.example.agent", "SelectDevices kept old", "Start"}},
+      {"refused",
+       {.answer = 1},
+       "old",
+       false,
+       "",
+       {"Register com.example.agent", "Start", "Session.Close"}},
+      {"failed",
+       {.answer = 2},
+       "old",
+       false,
+       "old",
+       {"Register com.example.agent", "Start", "Session.Close"}},
+      {"no keyboard",
+       {.devices = 2},
+       "",
+       false,
+       "next",
+       {"Register com.example.agent", "Start", "Session.Close"}},
       {"malformed", {.isMalformed = true}, "", false, "", {"CreateSession"}},
       {"version 1",
        {.offer = {.remoteDesktop = 1}, .token = ""},
        "",
        true,
        "",
-       {"SelectDevices ", "Start"}},
+       {"Register com.example.agent", "SelectDevices ", "Start"}},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
@@ -207,8 +241,8 @@ TEST_F(PortalKeys, NeedWhatTheUserAllowsAndRemembersIt) {
     }
     EXPECT_EQ(press(Key::c, {}), row.isOpen ? Delivery::delivered : Delivery::declined);
     EXPECT_EQ(pressed(), row.isOpen ? (Calls{"29+", "110+", "110-", "29-"}) : Calls{});
-    EXPECT_EQ(remote->obstacle().find("allow it") == std::string::npos, row.isOpen);
-    EXPECT_EQ(desk->calls().front(), "Register com.example.agent");
+    EXPECT_EQ(remote->obstacle().empty(), row.isOpen);
+    EXPECT_EQ(desk->calls().front(), row.calls.front());
     auto from = desk->calls();
     auto position = from.begin();
     for (const std::string& call : row.calls) {
@@ -378,7 +412,7 @@ TEST_F(PortalHotkeys, AreNamedAsTheDesktopBoundThem) {
               {"in other words", {.keys = "Ctrl+Alt+Meta+H"}, "", ""},
               {"others", {.keys = "Ctrl+Shift+H"}, "Ctrl+Shift+H", ""},
               {"refused", {.answer = 1}, "", "quillseal --sign"},
-              {"malformed", {.isMalformed = true}, "", "quillseal --sign"}};
+              {"malformed", {.isMalformed = true}, "", "start Quillseal again"}};
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
     begin(row.script);
@@ -509,6 +543,23 @@ TEST_F(PortalClipboard, OffersTheBlockOrSaysThatItDoesNot) {
 
 using PortalOffers = PortalTest;
 
+// Portals refuse a client whose folder in /proc is hidden.
+TEST_F(PortalOffers, AreMadeToAProgramThatHidesNothing) {
+  const auto client = DesktopBus::openThrough({QUILLSEAL_WAYLAND_CONNECTOR});
+  const auto answer = client->call({.service = "org.freedesktop.DBus",
+                                    .path = "/org/freedesktop/DBus",
+                                    .interface = "org.freedesktop.DBus",
+                                    .name = "GetConnectionUnixProcessID"},
+                                   "s", client->ownName().c_str());
+  std::uint32_t process = 0;
+  ASSERT_GT(::sd_bus_message_read(answer.get(), "u", &process), 0);
+  const std::string folder = "/proc/" + std::to_string(process);
+  EXPECT_EQ(std::filesystem::read_symlink(folder + "/exe").filename(),
+            std::filesystem::path(QUILLSEAL_WAYLAND_CONNECTOR).filename());
+  // Nor can anybody reach the connection through it.
+  EXPECT_FALSE(std::filesystem::exists(folder + "/fd/0"));
+}
+
 TEST_F(PortalOffers, AreWhatThePortalSays) {
   const struct {
     Script script;
@@ -520,10 +571,11 @@ TEST_F(PortalOffers, AreWhatThePortalSays) {
       {{.isMalformed = true}, {}},
   };
   const auto own = DesktopBus::open();
-  EXPECT_EQ(offerOfPortal(*own), PortalOffer{});
+  EXPECT_EQ(DesktopBus::openThrough({"/absent"}), nullptr);
+  EXPECT_EQ(offerOfPortal(*own, "com.example.agent"), PortalOffer{});
   for (const auto& row : rows) {
     const ScriptedPortal scripted(row.script);
-    EXPECT_EQ(offerOfPortal(*own), row.offer);
+    EXPECT_EQ(offerOfPortal(*own, "com.example.agent"), row.offer);
   }
 }
 

@@ -49,9 +49,35 @@ int appendValue(sd_bus_message& message, const std::vector<std::string>& values)
   return result < 0 ? result : ::sd_bus_message_close_container(&message);
 }
 
+/// Programs outside of a sandbox have to say who they are before anything else. Older portals find
+/// it out by themselves, as soon as a method is called.
+Portal::Message introduction(DesktopBus& bus, const std::string& applicationId) {
+  Portal::Message call = bus.newCall({.service = Portal::service,
+                                      .path = Portal::path,
+                                      .interface = "org.freedesktop.host.portal.Registry",
+                                      .name = "Register"});
+  if (call == nullptr ||
+      ::sd_bus_message_append(call.get(), "sa{sv}", applicationId.c_str(), 0) < 0)
+    return nullptr;
+  return call;
+}
+
+void introduce(DesktopBus& bus, const PortalOffer& offer, const std::string& applicationId) {
+  const Portal::Message registration = introduction(bus, applicationId);
+  if (registration == nullptr || bus.send(*registration) != nullptr) return;
+  constexpr const char* noSession = "/";
+  const DesktopBus::Method harmless{
+      .service = Portal::service,
+      .path = Portal::path,
+      .interface = offer.remoteDesktop > 0 ? "org.freedesktop.portal.RemoteDesktop"
+                                           : "org.freedesktop.portal.GlobalShortcuts",
+      .name = offer.remoteDesktop > 0 ? "SelectDevices" : "ListShortcuts"};
+  static_cast<void>(bus.call(harmless, "oa{sv}", noSession, 0));
+}
+
 }  // namespace
 
-PortalOffer offerOfPortal(DesktopBus& bus) {
+PortalOffer offerOfPortal(DesktopBus& bus, const std::string& applicationId) {
   constexpr std::chrono::seconds start{5};
   const std::optional<bool> isRunning = bus.knows(Portal::service);
   if (!isRunning || (!*isRunning && !bus.start(Portal::service, start))) return {};
@@ -64,15 +90,19 @@ PortalOffer offerOfPortal(DesktopBus& bus) {
     offer.remoteDesktop = version(remoteDesktop);
   offer.globalShortcuts = version("org.freedesktop.portal.GlobalShortcuts");
   offer.clipboard = version("org.freedesktop.portal.Clipboard");
+  if (offer != PortalOffer{}) introduce(bus, offer, applicationId);
   return offer;
 }
 
 // Calls -------------------------------------------------------------------------------------------
 
 Portal::Portal(DesktopBus& bus, std::string applicationId)
-    : bus_(bus),
-      applicationId_(std::move(applicationId)),
-      onOwner_([this](sd_bus_message&) { isIntroduced_ = false; }) {
+    : bus_(bus), applicationId_(std::move(applicationId)), onOwner_([this](sd_bus_message&) {
+        const Message registration = introduction(bus_, applicationId_);
+        if (registration == nullptr) return;
+        ::sd_bus_message_set_auto_start(registration.get(), 0);  // the portal may just have ended
+        bus_.post(*registration);
+      }) {
   owners_ = bus_.subscribe(ownerChanged, onOwner_);
 }
 
@@ -107,7 +137,6 @@ std::string Portal::newToken() {
 
 Task<Portal::Message> Portal::call(Message call) {
   if (call == nullptr) co_return nullptr;
-  introduce();
   co_return co_await completionOf<Message>([this, &call](std::function<void(Message)> done) {
     return bus_.callLater(*call, [done = std::move(done)](sd_bus_message* answer) {
       const bool isError =
@@ -115,18 +144,6 @@ Task<Portal::Message> Portal::call(Message call) {
       done(Message(isError ? nullptr : ::sd_bus_message_ref(answer)));
     });
   });
-}
-
-/// Programs outside of a sandbox have to say who they are before anything else. Older portals find
-/// it out by themselves.
-void Portal::introduce() {
-  if (std::exchange(isIntroduced_, true)) return;
-  Message registration = newCall("org.freedesktop.host.portal.Registry", "Register");
-  if (registration == nullptr ||
-      ::sd_bus_message_append(registration.get(), "sa{sv}", applicationId_.c_str(), 0) < 0)
-    return;
-  // Calls are handled in order, so nobody has to wait for the answer.
-  bus_.post(*registration);
 }
 
 /// A request under way.
@@ -165,7 +182,6 @@ Task<PortalAnswer> Portal::request(Message call, Options options) {
   const std::string token = newToken();
   options.emplace_back("handle_token", token);
   if (call == nullptr || !append(*call, options)) co_return PortalAnswer{};
-  introduce();
 
   std::string sender = bus_.ownName();
   std::ranges::replace(sender, '.', '_');

@@ -24,9 +24,12 @@ struct PortalOffer {
   bool operator==(const PortalOffer&) const = default;
 };
 
-/// Starts the portal if needed and asks it. Blocks for five seconds at most, and for milliseconds
-/// where the portal runs or there is none.
-[[nodiscard]] PortalOffer offerOfPortal(DesktopBus& bus);
+/// Asks the portal, which is started if needed, and introduces this program. Blocks for five
+/// seconds at most, and for milliseconds where the portal runs or there is none.
+///
+/// The portal looks at `/proc/PID/root` of a client at its first call and refuses everything where
+/// that is hidden, as it is of the agent: so the bus is one of DesktopBus::openThrough.
+[[nodiscard]] PortalOffer offerOfPortal(DesktopBus& bus, const std::string& applicationId);
 
 /// The end of a request that the user may have been asked about.
 struct PortalAnswer {
@@ -48,7 +51,8 @@ class Portal {
   using Options = std::vector<std::pair<const char*, Option>>;
 
   /// `applicationId` names an installed desktop file, without ".desktop": by it the desktop shows
-  /// and stores what the user allows. `bus` is served, and outlives this object.
+  /// and stores what the user allows. `bus` is served, was given to `offerOfPortal`, and outlives
+  /// this object.
   Portal(DesktopBus& bus, std::string applicationId);
   Portal(const Portal&) = delete;
   Portal& operator=(const Portal&) = delete;
@@ -78,11 +82,9 @@ class Portal {
 
  private:
   struct Request;
-  void introduce();
 
   DesktopBus& bus_;
   std::string applicationId_;
-  bool isIntroduced_ = false;
   std::uint64_t lastToken_ = 0;
   DesktopBus::Receiver onOwner_;
   DesktopBus::Subscription owners_;

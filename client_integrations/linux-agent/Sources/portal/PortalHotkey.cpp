@@ -106,7 +106,7 @@ PortalHotkey::PortalHotkey(Services services)
 void PortalHotkey::registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) {
   combination_ = combination;
   pressed_ = std::move(pressed);
-  if (services_.offer.globalShortcuts == 0)
+  if (!services_.isOffered)
     throw Error({.domain = "PortalHotkey",
                  .code = 1,
                  .description = std::string("This desktop gives programs no hotkey.") + otherWays});
@@ -155,8 +155,13 @@ Task<> PortalHotkey::bind() {
     if (enterOption(*answer.message, "u", "shortcuts", "a(sa{sv})")) readKeys(*answer.message);
     co_return;
   }
+  const std::string problem =
+      session_ == nullptr
+          ? "The portal of your desktop does not let Quillseal in, so there is no hotkey. Install "
+            "the Debian package of Quillseal if it is not, or start Quillseal again."
+          : std::string("Your desktop gave Quillseal no hotkey.") + otherWays;
   session_ = nullptr;
-  services_.tell(std::string("Your desktop gave Quillseal no hotkey.") + otherWays);
+  services_.tell(problem);
 }
 
 /// Reads the list of shortcuts that comes next in the message.
@@ -191,7 +196,8 @@ void PortalHotkey::press(sd_bus_message& signal) {
   if (session_ == nullptr || !session_->isMeantBy(signal) ||
       ::sd_bus_message_read(&signal, "s", &id) <= 0 || std::string_view(id) != shortcut)
     return;
-  if (const auto token = textOption(signal, "ost", "activation_token")) services_.activated(*token);
+  const auto token = textOption(signal, "ost", "activation_token");
+  if (token && services_.activated) services_.activated(*token);
   const auto now = services_.loop.now();
   const bool isRepeated = isDown_ && now < lastPress_ + lostAfter;
   isDown_ = true;

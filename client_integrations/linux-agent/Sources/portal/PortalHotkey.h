@@ -21,10 +21,11 @@ class PortalHotkey : public desktop::Hotkey {
   struct Services {
     desktop::MainLoop& loop;
     Portal& portal;
-    PortalOffer offer;
+    bool isOffered = true;  ///< by the portal
     /// Tells the user something in a notification.
     std::function<void(const std::string&)> tell;
-    /// Gets the token with which a window of this program may take the focus after a press.
+    /// Gets the token with which a window of this program may take the focus after a press; may be
+    /// empty.
     std::function<void(const std::string&)> activated;
   };
 

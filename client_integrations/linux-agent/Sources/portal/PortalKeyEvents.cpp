@@ -113,8 +113,8 @@ Delivery PortalKeyEvents::deliveryNow(const Wish& wish) const {
   if (!services_.applications.isActive(*wish.target)) return Delivery::declined;
   const auto front = services_.applications.frontmost();
   if (!front || front->instance != wish.target->instance) return Delivery::declined;
-  const bool isSame = isSameDocument(wish.target->document, front->document);
-  return isSame ? Delivery::delivered : Delivery::documentChanged;
+  if (!isSameDocument(wish.target->document, front->document)) return Delivery::documentChanged;
+  return services_.isScreenLocked() ? Delivery::declined : Delivery::delivered;
 }
 
 }  // namespace quillseal::linux

@@ -26,6 +26,8 @@ class PortalKeyEvents : public desktop::KeyEvents {
     const desktop::Applications& applications;
     /// Whether the user may still hold the keys of the hotkey.
     std::function<bool()> isHotkeyHeld;
+    /// Whether the screen is locked, in front of windows that still count as active.
+    std::function<bool()> isScreenLocked;
     /// Tells the user why keys cannot be pressed in this session.
     std::function<void()> explain;
     /// Tells the user something in a notification.

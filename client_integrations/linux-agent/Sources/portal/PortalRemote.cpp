@@ -21,6 +21,9 @@ constexpr std::uint32_t firstWithTokens = 2;  // a version of the interface
 constexpr const char* refusal =
     "Your desktop did not let Quillseal press keys, without which it cannot copy the text that you "
     "selected. Sign again, and allow it when the desktop asks.";
+constexpr const char* absence =
+    "The portal of your desktop does not let Quillseal in. Install the Debian package of Quillseal "
+    "if it is not, or start Quillseal again.";
 
 /// The key of a symbol that has the same one in every layout; 0 for others.
 int placeOf(Keysym symbol) {
@@ -75,7 +78,10 @@ Task<> PortalRemote::openSession() {
     co_await requestClipboard();
     isReady = co_await start();
   }
-  finish(isReady);
+  if (isReady)
+    finish({});
+  else
+    finish(session_ == nullptr ? absence : refusal);
 }
 
 Task<bool> PortalRemote::chooseDevices(std::string token) {
@@ -143,10 +149,10 @@ void PortalRemote::keepToken(const std::string& token) const {
   }
 }
 
-void PortalRemote::finish(bool isGranted) {
-  state_ = isGranted ? State::open : State::closed;
-  obstacle_ = isGranted ? "" : refusal;
-  if (!isGranted) session_ = nullptr;
+void PortalRemote::finish(std::string obstacle) {
+  obstacle_ = std::move(obstacle);
+  state_ = obstacle_.empty() ? State::open : State::closed;
+  if (!isOpen()) session_ = nullptr;
   telling_ = services_.loop.after({}, [this] {
     // A copy: a call may drop others or open again.
     for (const auto& [id, unused] : std::map(waiting_))
@@ -158,7 +164,7 @@ void PortalRemote::closed() {
   session_ = nullptr;
   if (std::exchange(state_, State::closed) == State::opening) {
     opening_.reset();
-    finish(false);
+    finish(refusal);
   }
 }
 

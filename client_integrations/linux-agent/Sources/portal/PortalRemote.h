@@ -66,7 +66,7 @@ class PortalRemote {
   [[nodiscard]] Task<bool> start();
   [[nodiscard]] std::string storedToken() const;
   void keepToken(const std::string& token) const;
-  void finish(bool isGranted);
+  void finish(std::string obstacle);
   void closed();
   void notify(Keysym symbol, std::uint32_t state) const;
 

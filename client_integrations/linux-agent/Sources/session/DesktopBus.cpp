@@ -1,14 +1,39 @@
 #include "session/DesktopBus.h"
 
 #include <cstdint>
+#include <cstdlib>
 #include <string>
+#include <string_view>
 #include <utility>
+
+#include <fcntl.h>
+#include <sys/socket.h>
+
+#include "session/FileDescriptor.h"
 
 namespace quillseal::linux {
 namespace {
 
 std::uint64_t inMicroseconds(std::chrono::milliseconds time) {
   return static_cast<std::uint64_t>(std::chrono::microseconds(time).count());
+}
+
+/// The session bus's place in the file system; empty when it has another kind of address.
+std::filesystem::path addressOfBus() {
+  const auto variable = [](const char* name) {
+    const char* value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): before any thread
+    return std::string(value == nullptr ? "" : value);
+  };
+  const std::string address = variable("DBUS_SESSION_BUS_ADDRESS");
+  if (address.empty()) {
+    const std::string folder = variable("XDG_RUNTIME_DIR");
+    return folder.empty() ? std::filesystem::path() : std::filesystem::path(folder) / "bus";
+  }
+  constexpr std::string_view prefix = "unix:path=";
+  const std::string first = address.substr(0, address.find_first_of(",;"));
+  // Escaped bytes are for names that nobody gives to a bus.
+  const bool isPath = first.starts_with(prefix) && first.find('%') == std::string::npos;
+  return isPath ? first.substr(prefix.size()) : std::string();
 }
 
 /// A call that waits for its answer.
@@ -32,6 +57,23 @@ std::unique_ptr<DesktopBus> DesktopBus::open() {
   // Also for what the library asks the bus by itself, such as for signals.
   ::sd_bus_set_method_call_timeout(opened, inMicroseconds(patience));
   return std::unique_ptr<DesktopBus>(new DesktopBus(opened));
+}
+
+std::unique_ptr<DesktopBus> DesktopBus::openThrough(
+    const std::vector<std::filesystem::path>& connectors) {
+  const std::filesystem::path address = addressOfBus();
+  if (address.empty()) return nullptr;
+  FileDescriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+  auto connector = Connector::connect(connectors, address, socket);
+  sd_bus* made = nullptr;
+  if (!connector || ::sd_bus_new(&made) < 0) return nullptr;
+  std::unique_ptr<DesktopBus> bus(new DesktopBus(made));
+  bus->connector_.emplace(std::move(*connector));
+  ::sd_bus_set_method_call_timeout(made, inMicroseconds(patience));
+  ::sd_bus_set_bus_client(made, 1);
+  const int file = ::fcntl(socket.get(), F_DUPFD_CLOEXEC, 0);  // which the bus closes
+  if (::sd_bus_set_fd(made, file, file) < 0 || ::sd_bus_start(made) < 0) return nullptr;
+  return bus;
 }
 
 DesktopBus::~DesktopBus() {

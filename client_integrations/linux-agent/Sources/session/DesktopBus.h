@@ -1,16 +1,19 @@
 #pragma once
 
 #include <chrono>
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include <systemd/sd-bus.h>
 
 #include "core/text/UniqueHandle.h"
 #include "desktop/MainLoop.h"
 #include "desktop/Ticket.h"
+#include "session/Connector.h"
 #include "session/Descriptors.h"
 
 namespace quillseal::linux {
@@ -38,6 +41,13 @@ class DesktopBus {
 
   /// Null where there is no session bus.
   [[nodiscard]] static std::unique_ptr<DesktopBus> open();
+
+  /// The same for services that look at the connecting process: a program connects for the agent
+  /// (see Connector) and stays as long as this object. Null also where that is missing, or the bus
+  /// has no address in the file system.
+  [[nodiscard]] static std::unique_ptr<DesktopBus> openThrough(
+      const std::vector<std::filesystem::path>& connectors);
+
   ~DesktopBus();
   DesktopBus(const DesktopBus&) = delete;
   DesktopBus& operator=(const DesktopBus&) = delete;
@@ -92,6 +102,7 @@ class DesktopBus {
   void processQueued();
   void process();
 
+  std::optional<Connector> connector_;
   UniqueHandle<sd_bus, ::sd_bus_flush_close_unref> bus_;
   desktop::MainLoop* loop_ = nullptr;
   desktop::Ticket watch_;

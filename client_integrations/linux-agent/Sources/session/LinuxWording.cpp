@@ -39,7 +39,8 @@ void speakOfKeyFile(desktop::Wording& words) {
 
 desktop::Wording linuxWording(const WordingCircumstances& circumstances) {
   desktop::Wording words;
-  words.hotkey = nameOf(desktop::signingHotkey);
+  words.hotkey = circumstances.otherHotkey.empty() ? nameOf(desktop::signingHotkey)
+                                                   : circumstances.otherHotkey;
   words.pasteKey = "Ctrl+V";
   words.machine = "computer";
   words.machineInTitle = "Computer";

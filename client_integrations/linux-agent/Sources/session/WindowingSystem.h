@@ -25,6 +25,8 @@ class WindowingSystem {
     DesktopEntries& entries;
     /// Tells the user why keys cannot be pressed in this session.
     std::function<void()> explain;
+    /// Tells the user something that needs no answer.
+    std::function<void(const std::string&)> tell;
   };
 
   virtual ~WindowingSystem() = default;
@@ -32,6 +34,10 @@ class WindowingSystem {
   /// Says what does not work in this session and what to do, in sentences for the user; empty where
   /// everything works.
   [[nodiscard]] virtual std::string limits() const = 0;
+
+  /// The keys of the hotkey, as the desktop names them, where they are not those that were asked
+  /// for; else empty.
+  [[nodiscard]] virtual std::string otherHotkey() const { return {}; }
 
   [[nodiscard]] virtual desktop::Applications& applications() = 0;
   [[nodiscard]] virtual desktop::Hotkey& hotkey() = 0;

@@ -8,6 +8,7 @@
 #include <xkbcommon/xkbcommon-keysyms.h>
 
 #include "fake-input-client-protocol.h"
+#include "session/ScreenLock.h"
 #include "wayland/ProxyHandle.h"
 
 namespace quillseal::linux {
@@ -38,21 +39,6 @@ std::optional<std::uint32_t> placeOf(Keysym symbol) {
     default:
       return std::nullopt;
   }
-}
-
-/// Windows stay active behind a locked screen.
-bool isScreenLocked(DesktopBus& bus) {
-  constexpr const char* service = "org.freedesktop.ScreenSaver";
-  const DesktopBus::Message answer = bus.call({.service = service,
-                                               .path = "/ScreenSaver",
-                                               .interface = "org.freedesktop.ScreenSaver",
-                                               .name = "GetActive"},
-                                              "");
-  int isLocked = 0;
-  if (answer != nullptr && ::sd_bus_message_read(answer.get(), "b", &isLocked) > 0)
-    return isLocked != 0;
-  // Without the service nobody locks the screen. One that does not answer may have locked it.
-  return bus.knows(service).value_or(true);
 }
 
 /// Parts of KWin that take the keys while the window below stays active: overview, grid of

@@ -5,8 +5,8 @@
 #include <optional>
 #include <vector>
 
-#include "wayland/AgentKeyboard.h"
 #include "session/DesktopBus.h"
+#include "wayland/AgentKeyboard.h"
 #include "wayland/WaylandConnection.h"
 #include "wayland/WaylandLayout.h"
 

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "session/Connector.h"
 #include "wayland/WaylandConnection.h"
 
 namespace quillseal::linux {
@@ -16,7 +17,7 @@ namespace quillseal::linux {
 /// shielded its memory, and computes the file's digest twice, so the file should be small.
 namespace WaylandConnector {
 
-inline constexpr std::string_view program = "quillseal-wayland-connector";
+inline constexpr std::string_view program = Connector::program;
 
 /// Connects as the program in the first of the `places` that has it, which has ended when this
 /// returns. Null when it is missing, or the compositor does not answer within some seconds.

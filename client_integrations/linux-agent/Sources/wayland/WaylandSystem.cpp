@@ -17,21 +17,30 @@ std::string swaySocket() {
 }
 
 std::unique_ptr<desktop::Hotkey> offeredHotkey(const WindowingSystem::Services& services,
-                                               WaylandConnection& connection, DesktopBus* bus) {
+                                               WaylandConnection& connection, DesktopBus* bus,
+                                               Portal* portal) {
   if (bus != nullptr && KwinHotkey::isOfferedBy(connection, *bus))
     return std::make_unique<KwinHotkey>(KwinHotkey::Services{.loop = services.loop, .bus = *bus});
+  if (portal != nullptr)
+    return std::make_unique<PortalHotkey>(PortalHotkey::Services{
+        .loop = services.loop, .portal = *portal, .tell = services.tell, .activated = {}});
   return std::make_unique<SwayHotkey>(SwayHotkey::Services{.loop = services.loop,
                                                            .descriptors = services.descriptors,
                                                            .connection = connection,
                                                            .socket = swaySocket()});
 }
 
+std::unique_ptr<Portal> portalWithHotkey(DesktopBus* bus, const PortalOffer& offer) {
+  if (bus == nullptr || offer.globalShortcuts == 0) return nullptr;
+  return std::make_unique<Portal>(*bus, QGuiApplication::desktopFileName().toStdString());
+}
+
 }  // namespace
 
-WaylandSystem::WaylandSystem(std::unique_ptr<WaylandConnection> connection,
-                             const Services& services)
-    : connection_(std::move(connection)),
-      bus_(DesktopBus::open()),
+WaylandSystem::WaylandSystem(Access access, const Services& services)
+    : connection_(std::move(access.connection)),
+      bus_(std::move(access.bus)),
+      portalBus_(std::move(access.portalBus)),
       windows_(std::make_unique<WaylandWindows>(*connection_,
                                                 QGuiApplication::desktopFileName().toStdString())),
       pasteboard_({.loop = services.loop,
@@ -41,7 +50,8 @@ WaylandSystem::WaylandSystem(std::unique_ptr<WaylandConnection> connection,
                   ClipboardKeeper(LoadedModule::usualPlaces(ClipboardKeeper::program))),
       applications_({.windows = *windows_, .entries = services.entries, .loop = services.loop},
                     SwayIpc::open(swaySocket())),
-      hotkey_(offeredHotkey(services, *connection_, bus_.get())),
+      portal_(portalWithHotkey(portalBus_.get(), access.offer)),
+      hotkey_(offeredHotkey(services, *connection_, bus_.get(), portal_.get())),
       keyboard_(makeKeyboard(*connection_, bus_.get())),
       keys_({.loop = services.loop,
              .connection = *connection_,
@@ -51,6 +61,7 @@ WaylandSystem::WaylandSystem(std::unique_ptr<WaylandConnection> connection,
              .explain = services.explain}) {
   connection_->serve(services.loop, services.descriptors);
   if (bus_ != nullptr) bus_->serve(services.loop, services.descriptors);
+  if (portalBus_ != nullptr) portalBus_->serve(services.loop, services.descriptors);
 }
 
 std::string WaylandSystem::limits() const {

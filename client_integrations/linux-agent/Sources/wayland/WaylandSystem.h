@@ -3,9 +3,11 @@
 #include <memory>
 #include <string>
 
+#include "portal/Portal.h"
+#include "portal/PortalHotkey.h"
+#include "session/DesktopBus.h"
 #include "session/WindowingSystem.h"
 #include "wayland/AgentKeyboard.h"
-#include "session/DesktopBus.h"
 #include "wayland/WaylandApplications.h"
 #include "wayland/WaylandConnection.h"
 #include "wayland/WaylandKeyEvents.h"
@@ -15,10 +17,18 @@
 namespace quillseal::linux {
 
 /// Clipboard, keys and windows through the compositor, for native applications and those under
-/// Xwayland alike. REQUIRES: `reachesApplications(*connection)`.
+/// Xwayland alike. REQUIRES: `reachesApplications(*access.connection)`.
 class WaylandSystem : public WindowingSystem, private OwnWindows {
  public:
-  WaylandSystem(std::unique_ptr<WaylandConnection> connection, const Services& services);
+  /// Either bus is null where there is none. The portal has the hotkey if `offer` says so, unless
+  /// the compositor has it.
+  struct Access {
+    std::unique_ptr<WaylandConnection> connection;
+    std::unique_ptr<DesktopBus> bus;
+    std::unique_ptr<DesktopBus> portalBus;
+    PortalOffer offer;
+  };
+  WaylandSystem(Access access, const Services& services);
 
   [[nodiscard]] std::string limits() const override;
   [[nodiscard]] desktop::Applications& applications() override { return applications_; }
@@ -32,9 +42,11 @@ class WaylandSystem : public WindowingSystem, private OwnWindows {
 
   std::unique_ptr<WaylandConnection> connection_;
   std::unique_ptr<DesktopBus> bus_;
+  std::unique_ptr<DesktopBus> portalBus_;
   std::unique_ptr<WaylandWindows> windows_;
   WaylandPasteboard pasteboard_;
   WaylandApplications applications_;
+  std::unique_ptr<Portal> portal_;  // null where it has no hotkey
   std::unique_ptr<desktop::Hotkey> hotkey_;
   std::unique_ptr<AgentKeyboard> keyboard_;
   WaylandKeyEvents keys_;

@@ -1,0 +1,112 @@
+#include "portal/PortalSystem.h"
+
+#include <QGuiApplication>
+#include <QWidget>
+#include <utility>
+
+#include "gnome/GnomeApplications.h"
+#include "keys/PrivateFile.h"
+#include "portal/PortalPasteboard.h"
+#include "session/LoadedModule.h"
+#include "session/ScreenLock.h"
+#include "wayland/WaylandApplications.h"
+#include "wayland/WaylandDataControl.h"
+#include "wayland/WaylandPasteboard.h"
+
+namespace quillseal::linux {
+namespace {
+
+std::string ownApplicationId() {
+  return QGuiApplication::desktopFileName().toStdString();
+}
+
+/// Whether the compositor lets programs see windows and clipboard, as KWin does.
+bool tellsOfWindows(const WaylandConnection* compositor) {
+  return compositor != nullptr && compositor->isAlive() &&
+         wayland::offersDataControl(*compositor) && WaylandWindows::areOfferedBy(*compositor);
+}
+
+}  // namespace
+
+bool PortalSystem::reachesApplications(const Access& access) {
+  return access.portalBus != nullptr && access.offer.remoteDesktop > 0 &&
+         (access.offer.clipboard > 0 || tellsOfWindows(access.compositor.get()));
+}
+
+PortalSystem::PortalSystem(Access access, const Services& services)
+    : access_(std::move(access)),
+      windows_(tellsOfWindows(access_.compositor.get())
+                   ? std::make_unique<WaylandWindows>(*access_.compositor, ownApplicationId())
+                   : nullptr),
+      extension_(*access_.bus),
+      portal_(*access_.portalBus, ownApplicationId()),
+      remote_({.loop = services.loop,
+               .portal = portal_,
+               .offer = access_.offer,
+               .token = PrivateFile(access_.token),
+               .tell = services.tell}),
+      applications_(makeApplications(services)),
+      pasteboard_(makePasteboard(services)),
+      hotkey_({.loop = services.loop,
+               .portal = portal_,
+               .isOffered = access_.offer.globalShortcuts > 0,
+               .tell = services.tell,
+               .activated =
+                   [](const std::string& token) {
+                     // Qt and the programs that are started take it from there.
+                     qputenv("XDG_ACTIVATION_TOKEN", QByteArray::fromStdString(token));
+                   }}),
+      keys_(
+          {.loop = services.loop,
+           .remote = remote_,
+           .applications = *applications_,
+           .isHotkeyHeld = [this] { return isHotkeyHeld(); },
+           .isScreenLocked = [this] { return windows_ != nullptr && isScreenLocked(*access_.bus); },
+           .explain = services.explain,
+           .tell = services.tell}) {
+  access_.bus->serve(services.loop, services.descriptors);
+  access_.portalBus->serve(services.loop, services.descriptors);
+  if (access_.compositor != nullptr) access_.compositor->serve(services.loop, services.descriptors);
+  // In advance, so that the first signature does not wait.
+  if (remote_.mayOpenUnasked()) opening_ = remote_.open([](bool) {});
+}
+
+std::unique_ptr<desktop::Applications> PortalSystem::makeApplications(const Services& services) {
+  if (windows_ == nullptr)
+    return std::make_unique<GnomeApplications>(extension_, services.entries, services.loop);
+  return std::make_unique<WaylandApplications>(
+      WaylandApplications::Services{
+          .windows = *windows_, .entries = services.entries, .loop = services.loop},
+      nullptr);
+}
+
+std::unique_ptr<desktop::Pasteboard> PortalSystem::makePasteboard(const Services& services) {
+  if (windows_ == nullptr)
+    return std::make_unique<PortalPasteboard>(
+        PortalPasteboard::Services{.loop = services.loop,
+                                   .descriptors = services.descriptors,
+                                   .portal = portal_,
+                                   .remote = remote_});
+  return std::make_unique<WaylandPasteboard>(
+      WaylandPasteboard::Services{.loop = services.loop,
+                                  .descriptors = services.descriptors,
+                                  .connection = *access_.compositor,
+                                  .windows = *windows_},
+      ClipboardKeeper(LoadedModule::usualPlaces(ClipboardKeeper::program)));
+}
+
+bool PortalSystem::isHotkeyHeld() const {
+  const std::optional<ShellFront> front = windows_ == nullptr ? extension_.front() : std::nullopt;
+  return front ? front->holdsModifiers : hotkey_.mayBeHeld();
+}
+
+void PortalSystem::bringToFront(QWidget& window) const {
+  // Mutter raises only windows that are new to it, unless it gave a token at the press.
+  if (windows_ == nullptr && window.isVisible() && !window.isActiveWindow()) window.hide();
+  window.show();
+  window.raise();
+  window.activateWindow();
+  if (windows_ != nullptr) windows_->activateOwn(window.windowTitle().toStdString());
+}
+
+}  // namespace quillseal::linux

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+
+#include "gnome/ShellExtension.h"
+#include "portal/Portal.h"
+#include "portal/PortalHotkey.h"
+#include "portal/PortalKeyEvents.h"
+#include "portal/PortalRemote.h"
+#include "session/DesktopBus.h"
+#include "session/WindowingSystem.h"
+#include "wayland/WaylandConnection.h"
+#include "wayland/WaylandWindows.h"
+
+namespace quillseal::linux {
+
+/// Keys, hotkey and clipboard through the portal, for desktops whose compositor keeps keys to
+/// itself. Clipboard and windows come from the compositor where it offers those.
+class PortalSystem : public WindowingSystem, private OwnWindows {
+ public:
+  /// The ways into the desktop.
+  struct Access {
+    std::unique_ptr<DesktopBus> bus;        ///< null where there is none
+    std::unique_ptr<DesktopBus> portalBus;  ///< on which the portal knows the agent; or null
+    PortalOffer offer;
+    std::unique_ptr<WaylandConnection> compositor;  ///< null where none answers
+    std::filesystem::path token;  ///< the file for what the user has allowed; see PrivateFile
+  };
+
+  /// Whether that is enough for signing in other applications.
+  [[nodiscard]] static bool reachesApplications(const Access& access);
+
+  /// REQUIRES: `reachesApplications(access)`.
+  PortalSystem(Access access, const Services& services);
+
+  [[nodiscard]] std::string limits() const override { return remote_.obstacle(); }
+  [[nodiscard]] std::string otherHotkey() const override { return hotkey_.otherKeys(); }
+  [[nodiscard]] desktop::Applications& applications() override { return *applications_; }
+  [[nodiscard]] desktop::Hotkey& hotkey() override { return hotkey_; }
+  [[nodiscard]] desktop::KeyEvents& keys() override { return keys_; }
+  [[nodiscard]] desktop::Pasteboard& pasteboard() override { return *pasteboard_; }
+  [[nodiscard]] const OwnWindows& ownWindows() const override { return *this; }
+
+ private:
+  [[nodiscard]] std::unique_ptr<desktop::Applications> makeApplications(const Services& services);
+  [[nodiscard]] std::unique_ptr<desktop::Pasteboard> makePasteboard(const Services& services);
+  [[nodiscard]] bool isHotkeyHeld() const;
+  void bringToFront(QWidget& window) const override;
+
+  Access access_;
+  std::unique_ptr<WaylandWindows> windows_;  // null where the compositor does not tell
+  ShellExtension extension_;
+  Portal portal_;
+  PortalRemote remote_;
+  std::unique_ptr<desktop::Applications> applications_;
+  std::unique_ptr<desktop::Pasteboard> pasteboard_;
+  PortalHotkey hotkey_;
+  PortalKeyEvents keys_;
+  desktop::Ticket opening_;
+};
+
+}  // namespace quillseal::linux

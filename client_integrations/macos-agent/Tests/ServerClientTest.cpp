@@ -1,4 +1,3 @@
-#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -66,6 +65,40 @@ class ServerClientTest : public ::testing::Test {
             .enclaveSignature = "MEQ="};
   }
 
+  /// What a call gives, as text, or the error.
+  Outcome<std::string> call(const std::string& name) {
+    const auto valueOr = [&](auto task, auto textOf) -> Outcome<std::string> {
+      auto outcome = resultOf(desktop_.loop, std::move(task));
+      if (const Error* error = std::get_if<Error>(&outcome)) return *error;
+      return textOf(std::get<0>(outcome));
+    };
+    const auto asItIs = [](const std::string& id) { return id; };
+    if (name == "sign") return valueOr(client_.signContent(content()), asItIs);
+    if (name == "demo")
+      return valueOr(client_.signDemo({.textDigest = "T",
+                                       .issued = "2026-01-01",
+                                       .scope = "S",
+                                       .imageDigest = "I",
+                                       .method = "Device Passcode",
+                                       .expires = "2026-01-08",
+                                       .commitment = "statement",
+                                       .nonce = "N"}),
+                     asItIs);
+    if (name == "enrol")
+      return valueOr(client_.enrol({.deviceId = "D", .publicKey = "B+/=", .apiKey = "K"}),
+                     [](const auto& device) { return device.identity.value_or("nobody"); });
+    if (name == "create")
+      return valueOr(client_.createHandoff({.textDigest = "T",
+                                            .snapshotDigest = "",
+                                            .issued = "2026-01-01",
+                                            .scope = "S",
+                                            .imageDigest = "I",
+                                            .apiKey = "K"}),
+                     [](const auto& handoff) { return handoff.url; });
+    return valueOr(client_.pollHandoff({.handoffId = "H", .apiKey = "K"}),
+                   [](const auto& poll) { return poll.signatureId.value_or("waiting"); });
+  }
+
   FakeDesktop desktop_;
   ServerClient client_{{.defaults = desktop_.defaults,
                         .http = desktop_.http,
@@ -97,58 +130,14 @@ TEST_F(ServerClientTest, MakesUpADifferentIdentifierForAMachineWithoutOne) {
 
 TEST_F(ServerClientTest, SendsEveryBodyByteForByte) {
   desktop_.defaults.strings = {{"ServerURL", "https://a.example/"}, {"APIKey", "K"}};
-  struct Case {
-    std::string path;
-    std::function<void()> call;
-    std::string body;
-  };
-  const std::vector<Case> cases{
-      {"/api/sign_native", [&] { valueOf(client_.signContent(content())); },
-       R"({"protocol":"v2","text_digest":"T","snapshot_digest":"","issued":"2026-01-01",)"
-       R"("scope":"Email / “Mail”\n","method":"Touch ID","device_id":"MACHINE-1",)"
-       R"("image_digest":"I","expires":"2026-01-08","commitment":"statement","nonce":"N",)"
-       R"("timezone":"Europe/Berlin","tz_offset":60,"api_key":"K","enclave_signature":"MEQ="})"},
-      {"/api/sign_demo",
-       [&] {
-         valueOf(client_.signDemo({.textDigest = "T",
-                                   .issued = "2026-01-01",
-                                   .scope = "S",
-                                   .imageDigest = "I",
-                                   .method = "Device Passcode",
-                                   .expires = "2026-01-08",
-                                   .commitment = "statement",
-                                   .nonce = "N"}));
-       },
-       R"({"text_digest":"T","issued":"2026-01-01","scope":"S","image_digest":"I",)"
-       R"("device_id":"MACHINE-1","method":"Device Passcode","expires":"2026-01-08",)"
-       R"("commitment":"statement","nonce":"N","timezone":"Europe/Berlin","tz_offset":60,)"
-       R"("api_key":"K"})"},
-      {"/api/register_native",
-       [&] { valueOf(client_.enrol({.deviceId = "D", .publicKey = "B+/=", .apiKey = "K"})); },
-       R"({"device_id":"D","public_key":"B+/=","api_key":"K"})"},
-      {"/api/handoff/create",
-       [&] {
-         valueOf(client_.createHandoff({.textDigest = "T",
-                                        .snapshotDigest = "",
-                                        .issued = "2026-01-01",
-                                        .scope = "S",
-                                        .imageDigest = "I",
-                                        .apiKey = "K"}));
-       },
-       R"({"text_digest":"T","snapshot_digest":"","issued":"2026-01-01","scope":"S",)"
-       R"("image_digest":"I","api_key":"K"})"},
-      {"/api/handoff/poll",
-       [&] { valueOf(client_.pollHandoff({.handoffId = "H", .apiKey = "K"})); },
-       R"({"handoff_id":"H","api_key":"K"})"},
-  };
-  for (const Case& each : cases) {
+  for (const auto& [name, path, body] : testing::cases<std::string, std::string, std::string>()) {
     desktop_.forget();
-    desktop_.http.answers["/" + each.path] = desktop_.http.answers.at(each.path);
-    each.call();
+    desktop_.http.answers["/" + path] = desktop_.http.answers.at(path);
+    call(name);
     ASSERT_EQ(desktop_.http.sent.size(), 1U);
     const desktop::HttpPost& sent = desktop_.http.sent[0];
-    EXPECT_EQ(sent.url, "https://a.example/" + each.path);
-    EXPECT_EQ(sent.body, each.body);
+    EXPECT_EQ(sent.url, "https://a.example/" + path);
+    EXPECT_EQ(sent.body, body);
     EXPECT_THAT(sent.headers, ElementsAre(Pair("Content-Type", "application/json")));
     EXPECT_EQ(sent.timeout, std::chrono::seconds(60));
   }
@@ -194,35 +183,10 @@ TEST_F(ServerClientTest, PassesTransportErrorsOn) {
 }
 
 TEST_F(ServerClientTest, ReadsEveryAnswerOrNamesWhatItLacks) {
-  // What a call gives, as text, or the error.
-  const auto valueOr = [&](auto task, auto textOf) -> Outcome<std::string> {
-    auto outcome = resultOf(desktop_.loop, std::move(task));
-    if (const Error* error = std::get_if<Error>(&outcome)) return *error;
-    return textOf(std::get<0>(outcome));
-  };
-  const auto asItIs = [](const std::string& id) { return id; };
-  const std::map<std::string, std::function<Outcome<std::string>()>> calls{
-      {"sign", [&] { return valueOr(client_.signContent(content()), asItIs); }},
-      {"demo", [&] { return valueOr(client_.signDemo({}), asItIs); }},
-      {"enrol",
-       [&] {
-         return valueOr(client_.enrol({}),
-                        [](const auto& device) { return device.identity.value_or("nobody"); });
-       }},
-      {"create",
-       [&] {
-         return valueOr(client_.createHandoff({}), [](const auto& handoff) { return handoff.url; });
-       }},
-      {"poll",
-       [&] {
-         return valueOr(client_.pollHandoff({}),
-                        [](const auto& poll) { return poll.signatureId.value_or("waiting"); });
-       }},
-  };
-  for (const auto& [call, body, expected] :
+  for (const auto& [name, body, expected] :
        testing::cases<std::string, std::string, std::string>()) {
     answer(200, body);
-    const Outcome<std::string> outcome = calls.at(call)();
+    const Outcome<std::string> outcome = call(name);
     if (const Error* error = std::get_if<Error>(&outcome)) {
       EXPECT_EQ(error->domain(), "NSCocoaErrorDomain");
       EXPECT_TRUE(expected.starts_with('!')) << body;

@@ -45,7 +45,7 @@ inline std::string withoutRepetitions(std::string line) {
 inline std::vector<std::string> caseLines(const std::string& heading) {
   std::vector<std::string> lines;
   std::istringstream paths(QUILLSEAL_CASES);
-  for (std::string path; lines.empty() && std::getline(paths, path, ':');) {
+  for (std::string path; std::getline(paths, path, ':');) {
     std::ifstream file(path);
     std::string line;
     while (std::getline(file, line) && line != "# " + heading) {

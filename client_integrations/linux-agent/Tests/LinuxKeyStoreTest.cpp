@@ -3,7 +3,6 @@
 #include <filesystem>
 #include <future>
 #include <optional>
-#include <thread>
 
 #include <gmock/gmock.h>
 
@@ -56,65 +55,57 @@ class ScriptedPrompt final : public SecretPrompt {
 /// A fake TPM with real keys in a file. The test adds, removes and breaks it.
 class ScriptedTpm final : public KeyMedium {
  public:
-  struct State {
-    SecretKind kind = SecretKind::pin;
-    std::string obstacle;
-    std::string weakness;
-    std::string defect;  ///< of the key
-    std::function<void()> whileCreating;
-    bool foreignSignatures = false;
-    int uses = 0;  ///< not atomic: a medium need not be thread-safe
-    int kept = 0;  ///< loaded keys
-  };
-
-  ScriptedTpm(const std::filesystem::path& folder, State& state)
+  explicit ScriptedTpm(const std::filesystem::path& folder)
       : file_({.path = folder / "tpm" / "key", .cost = cheap}),
-        other_({.path = folder / "tpm" / "other", .cost = cheap}),
-        state_(state) {}
+        other_({.path = folder / "tpm" / "other", .cost = cheap}) {}
 
-  SecretKind secretKind() const noexcept override { return state_.kind; }
+  SecretKind secretKind() const noexcept override { return kind; }
   KeyPlace place() const noexcept override { return KeyPlace::tpm; }
   std::string name() const override { return "the TPM of this computer"; }
   std::string describe() const override { return "The key is in the TPM."; }
-  std::string weakness() const override { return state_.weakness; }
-  std::string obstacle() const override {
-    ++state_.uses;
-    return state_.obstacle;
-  }
-  std::string evidentObstacle() const override { return state_.obstacle; }
+  std::string weakness() const override { return itsWeakness; }
+  std::string obstacle() const override { return itsObstacle; }
+  std::string evidentObstacle() const override { return itsObstacle; }
   bool holdsKey() const noexcept override { return file_.holdsKey(); }
   void create(const SecretBytes& secret) override {
-    if (state_.whileCreating) state_.whileCreating();
+    if (whileWorking) whileWorking();
     file_.create(secret);
   }
   P256::Point publicKey() const override {
-    ++state_.uses;
+    if (whileWorking) whileWorking();
     return file_.publicKey();
   }
   Readiness requireUsableKey() const override {
-    if (!state_.defect.empty()) throw KeyFailure(state_.defect);
-    ++state_.kept;
-    return {this, [this](const void*) { --state_.kept; }};
+    if (!defect.empty()) throw KeyFailure(defect);
+    ++kept;
+    return {this, [this](const void*) { --kept; }};
   }
   std::optional<std::vector<std::uint8_t>> sign(const P256::Digest& message,
                                                 const SecretBytes& secret) const override {
-    if (!state_.foreignSignatures) return file_.sign(message, secret);
+    if (!foreignSignatures) return file_.sign(message, secret);
     other_.create(secret);
     return other_.sign(message, secret);
   }
   void remove() noexcept override { file_.remove(); }
 
+  SecretKind kind = SecretKind::pin;
+  std::string itsObstacle;
+  std::string itsWeakness;
+  std::string defect;  ///< of the key
+  std::function<void()> whileWorking;
+  bool foreignSignatures = false;
+  mutable int kept = 0;  ///< loaded keys
+
  private:
   FileKeyStore file_;
   mutable FileKeyStore other_;
-  State& state_;
 };
 
 class LinuxKeyStoreTest : public ::testing::Test {
  protected:
   LinuxKeyStoreTest() {
     std::vector<std::unique_ptr<KeyMedium>> media;
-    media.push_back(std::make_unique<ScriptedTpm>(folder.path(), tpm));
+    media.push_back(std::move(made));
     media.push_back(std::make_unique<FileKeyStore>(
         FileKeyStore::Options{.path = folder.path() / "file" / "key", .cost = cheap}));
     store = std::make_unique<LinuxKeyStore>(std::move(media), prompt);
@@ -142,7 +133,8 @@ class LinuxKeyStoreTest : public ::testing::Test {
 
   std::vector<std::uint8_t> signature;
   testing::TemporaryFolder folder;
-  ScriptedTpm::State tpm;
+  std::unique_ptr<ScriptedTpm> made = std::make_unique<ScriptedTpm>(folder.path());
+  ScriptedTpm& tpm = *made;
   ScriptedPrompt prompt;
   std::unique_ptr<LinuxKeyStore> store;
 };
@@ -170,7 +162,7 @@ TEST_F(LinuxKeyStoreTest, SignsWithTheTpmWhereItIsUsable) {
 }
 
 TEST_F(LinuxKeyStoreTest, WithoutATpmAKeyFileServesAndThePersonIsTold) {
-  tpm.obstacle = "there is no TPM.";
+  tpm.itsObstacle = "there is no TPM.";
   EXPECT_TRUE(store->isAvailable());
   EXPECT_EQ(create({passphrase}), done);
   EXPECT_EQ(prompt.askedForNew.back().kind, SecretKind::passphrase);
@@ -189,7 +181,7 @@ TEST_F(LinuxKeyStoreTest, WithoutATpmAKeyFileServesAndThePersonIsTold) {
 }
 
 TEST_F(LinuxKeyStoreTest, NothingUsableIsUnavailable) {
-  tpm.obstacle = "there is no TPM.";
+  tpm.itsObstacle = "there is no TPM.";
   testing::overwrite(folder.path() / "file", "a file where the folder should be");
   EXPECT_FALSE(store->isAvailable());
   EXPECT_THAT(create({passphrase}), HasSubstr("There is no TPM. “"));
@@ -219,13 +211,13 @@ TEST_F(LinuxKeyStoreTest, CancellingIsNoFailureAndCostsNothing) {
 TEST_F(LinuxKeyStoreTest, AWeakSecretIsAskedForAgain) {
   EXPECT_EQ(create({"1234", "111111", pin}), done);
   tpm.kind = SecretKind::unguardedPin;
-  tpm.weakness = "The lock can be undone.";
-  EXPECT_EQ(store->advice(), tpm.weakness);
+  tpm.itsWeakness = "The lock can be undone.";
+  EXPECT_EQ(store->advice(), tpm.itsWeakness);
   EXPECT_EQ(create({pin, "2718281828459", "quiet 7 leaf"}), done);
   EXPECT_THAT(prompt.problems,
               ElementsAre("", HasSubstr("too short"), HasSubstr("repeats"), "",
                           HasSubstr("at least 10 characters"), HasSubstr("no letters")));
-  EXPECT_EQ(store->advice(), tpm.weakness);
+  EXPECT_EQ(store->advice(), tpm.itsWeakness);
 }
 
 TEST_F(LinuxKeyStoreTest, AKeyThatCannotSignIsReportedBeforeAnybodyIsAsked) {
@@ -242,29 +234,29 @@ TEST_F(LinuxKeyStoreTest, AKeyThatCannotSignIsReportedBeforeAnybodyIsAsked) {
 
 // A key stays where it is until the user agrees to another place.
 TEST_F(LinuxKeyStoreTest, NoMediumTakesOverSilently) {
-  tpm.obstacle = "there is no TPM.";
+  tpm.itsObstacle = "there is no TPM.";
   EXPECT_EQ(create({passphrase}), done);
   const P256::Point inFile = publicKey();
 
-  tpm.obstacle.clear();
+  tpm.itsObstacle.clear();
   EXPECT_EQ(publicKey(), inFile);
   EXPECT_EQ(store->place(), KeyPlace::keyFile);
   EXPECT_EQ(create({cancel}), "cancelled");
   EXPECT_EQ(prompt.askedForNew.back().notice,
             "Your present key is in a key file. It will be replaced by a new one in the TPM of "
             "this computer.");
-  tpm.whileCreating = [] { throw KeyFailure("the TPM has failed."); };
+  tpm.whileWorking = [] { throw KeyFailure("the TPM has failed."); };
   EXPECT_EQ(create({pin}), "the TPM has failed.");
   EXPECT_EQ(publicKey(), inFile);
 
-  tpm.whileCreating = nullptr;
+  tpm.whileWorking = nullptr;
   EXPECT_EQ(create({pin}), done);
   EXPECT_EQ(store->place(), KeyPlace::tpm);
   const P256::Point inTpm = publicKey();
   EXPECT_NE(inTpm, inFile);
   EXPECT_FALSE(std::filesystem::exists(folder.path() / "file" / "key"));
 
-  tpm.obstacle = tpm.defect = "the TPM is switched off.";
+  tpm.itsObstacle = tpm.defect = "the TPM is switched off.";
   EXPECT_EQ(store->place(), KeyPlace::tpm);
   EXPECT_EQ(store->advice(), "The TPM is switched off.");
   EXPECT_EQ(sign({}), "the TPM is switched off.");
@@ -272,26 +264,8 @@ TEST_F(LinuxKeyStoreTest, NoMediumTakesOverSilently) {
   EXPECT_EQ(prompt.askedForNew.back().notice,
             "The TPM is switched off. Your present key is in the TPM of this computer. It will be "
             "replaced by a new one in a key file.");
-  tpm.obstacle.clear();
+  tpm.itsObstacle.clear();
   EXPECT_EQ(publicKey(), inTpm);
-}
-
-TEST_F(LinuxKeyStoreTest, AMediumWorksForOneThreadAtATime) {
-  EXPECT_EQ(create({pin}), done);
-  tpm.uses = 0;
-  constexpr int threads = 4;
-  constexpr int rounds = 25;
-  {
-    std::vector<std::jthread> workers;
-    for (int i = 0; i < threads; ++i)
-      workers.emplace_back([this] {
-        for (int round = 0; round < rounds; ++round) {
-          EXPECT_TRUE(store->isAvailable());
-          EXPECT_TRUE(store->load(std::nullopt)->publicKey().has_value());
-        }
-      });
-  }
-  EXPECT_EQ(tpm.uses, 2 * threads * rounds);
 }
 
 TEST_F(LinuxKeyStoreTest, AMediumIsFreeWhileThePersonIsAskedButNotWhileItWorks) {
@@ -301,9 +275,14 @@ TEST_F(LinuxKeyStoreTest, AMediumIsFreeWhileThePersonIsAskedButNotWhileItWorks) 
     other = std::async(std::launch::async, [&] { return store->isAvailable(); });
     status = other.wait_for(patience);
   };
-  tpm.whileCreating = [&] { look(std::chrono::milliseconds(50)); };
+  tpm.whileWorking = [&] { look(std::chrono::milliseconds(50)); };
   EXPECT_EQ(create({pin}), done);
   EXPECT_EQ(status, std::future_status::timeout);
+  other.wait();
+  static_cast<void>(publicKey());
+  EXPECT_EQ(status, std::future_status::timeout);
+  other.wait();
+  tpm.whileWorking = nullptr;
   prompt.whileAsked = [&] { look(std::chrono::seconds(5)); };
   EXPECT_EQ(sign({pin}), done);
   EXPECT_EQ(status, std::future_status::ready);

@@ -86,7 +86,6 @@ class Faults(Story):
         self.press_and_choose()
         wait_for("the key is made", self.key_file.exists)
         self.terminate()
-        self.assertEqual(self.desktop.selection(), LETTER)
         # A server that has not received the stopped one's requests.
         port = self.desktop.server_url.rsplit(":", 1)[1]
         self.desktop.end(self.desktop.server, signal.SIGKILL)

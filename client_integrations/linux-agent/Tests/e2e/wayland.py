@@ -98,14 +98,20 @@ class SwayHotkey(OnSway):
         self.desktop.run("swaymsg", "reload")
         self.assert_signed(self.sign_in_editor())
 
+    def test_a_binding_of_the_configuration_stays(self):
+        self.bind_and_press("config")
+        self.desktop.wait_for_notification("Sway’s configuration already uses Ctrl+Alt+Super+H")
+
     def test_a_binding_of_an_included_file_stays(self):
-        (self.desktop.runtime / "more").write_text(
-            "set $mod Mod4\nbindsym --to-code $mod+Alt+Ctrl+h exec touch $HOME/bound\n")
-        with open(self.desktop.runtime / "config", "a", encoding="utf-8") as file:
-            file.write("include ~/more\n")
+        self.bind_and_press("more")
+
+    def bind_and_press(self, name):
+        for file, text in (("config", "include ~/more\n"), ("more", ""),
+                           (name, "bindsym --to-code Mod4+Alt+Ctrl+h exec touch $HOME/bound\n")):
+            with open(self.desktop.runtime / file, "a", encoding="utf-8") as configuration:
+                configuration.write(text)
         self.desktop.run("swaymsg", "reload")
         self.start()
-        self.desktop.wait_for_notification("Sway’s configuration already uses Ctrl+Alt+Super+H")
         self.desktop.press_hotkey()
         wait_for("sway obeys its own binding", (self.desktop.runtime / "bound").exists)
         self.assertEqual(self.desktop.window_names(), [])

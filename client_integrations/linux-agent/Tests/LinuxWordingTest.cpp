@@ -20,7 +20,7 @@ using namespace ::testing;
 using testing::Copy;
 using testing::FakeDesktop;
 
-// A text that looks like the agent's messages and must not be changed.
+// Looks like the agent's messages and must not be changed.
 const std::string selection =
     "Could Not Set Up This Mac\n\nSign with Touch ID: press ⌘V, said my neighbour Grace about the "
     "Secure Enclave of her old laptop.";

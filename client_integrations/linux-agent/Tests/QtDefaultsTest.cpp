@@ -213,21 +213,16 @@ TEST_F(QtDefaultsTest, ServesOtherThreadsWhileItIsChanged) {
   constexpr int rounds = 200;
   QtDefaults defaults = make();
   defaults.setString("APIKey", "0");
-  {
-    std::vector<std::jthread> readers;
-    for (int i = 0; i < 2; ++i)
-      readers.emplace_back([&defaults] {
-        int last = 0;
-        for (int round = 0; round < rounds; ++round) {
-          const int value = std::stoi(defaults.string("APIKey").value_or("-1"));
-          EXPECT_GE(value, last);
-          last = value;
-        }
-      });
-    for (int round = 1; round <= rounds; ++round)
-      defaults.setString("APIKey", std::to_string(round));
-  }
-  EXPECT_EQ(defaults.string("APIKey"), std::to_string(rounds));
+  const std::jthread reader([&defaults] {
+    int last = 0;
+    for (int round = 0; round < rounds; ++round) {
+      const int value = std::stoi(defaults.string("APIKey").value_or("-1"));
+      EXPECT_GE(value, last);
+      last = value;
+    }
+  });
+  for (int round = 1; round <= rounds; ++round)
+    defaults.setString("APIKey", std::to_string(round));
 }
 
 TEST_F(QtDefaultsTest, AFullDiskKeepsTheEarlierSettings) {
@@ -243,35 +238,29 @@ TEST_F(QtDefaultsTest, AFullDiskKeepsTheEarlierSettings) {
   EXPECT_THAT(contentsOf(path_), HasSubstr("a.example"));
 }
 
-class QtDescriptorsTest : public QtDefaultsTest {};
+using QtDescriptorsTest = QtDefaultsTest;
 
 TEST_F(QtDescriptorsTest, TellsReadinessUntilTheTicketIsDropped) {
+  using Interest = Descriptors::Interest;
   std::array<int, 2> ends{};
   ASSERT_EQ(socketpair(AF_UNIX, SOCK_STREAM, 0, ends.data()), 0);
   QtDescriptors descriptors;
-  int writable = 0;
   std::string received;
-  desktop::Ticket writing =
-      descriptors.watch(ends[0], Descriptors::Interest::writing, [&](Descriptors::Interest ready) {
-        EXPECT_EQ(ready, Descriptors::Interest::writing);
-        ++writable;
-        writing = {};
-        EXPECT_EQ(write(ends[0], "x", 1), 1);
-      });
-  desktop::Ticket reading =
-      descriptors.watch(ends[1], Descriptors::Interest::reading, [&](Descriptors::Interest ready) {
-        EXPECT_EQ(ready, Descriptors::Interest::reading);
-        char byte = 0;
-        EXPECT_EQ(read(ends[1], &byte, 1), 1);
-        received += byte;
-        if (received.size() == 2) reading = {};
-      });
-  EXPECT_TRUE(eventually([&] { return received == "x"; }));
-  EXPECT_EQ(write(ends[0], "yz", 2), 2);
+  desktop::Ticket writing = descriptors.watch(ends[0], Interest::writing, [&](Interest ready) {
+    EXPECT_EQ(ready, Interest::writing);
+    writing = {};
+    EXPECT_EQ(write(ends[0], "xyz", 3), 3);
+  });
+  desktop::Ticket reading = descriptors.watch(ends[1], Interest::reading, [&](Interest ready) {
+    EXPECT_EQ(ready, Interest::reading);
+    char byte = 0;
+    EXPECT_EQ(read(ends[1], &byte, 1), 1);
+    received += byte;
+    if (received.size() == 2) reading = {};
+  });
   EXPECT_TRUE(eventually([&] { return received == "xy"; }));
   QCoreApplication::processEvents(QEventLoop::AllEvents);
   EXPECT_EQ(received, "xy");
-  EXPECT_EQ(writable, 1);
   close(ends[0]);
   close(ends[1]);
 }

@@ -52,7 +52,6 @@ struct ScriptedCompositor::Server {
     wl_global* global = nullptr;
   };
   enum Kind { clipboard, primary };
-  using Request = void (*)(Server&, wl_resource*, const wl_argument*);
 
   Traits traits;
   wl_display* display = wl_display_create();
@@ -106,17 +105,59 @@ struct ScriptedCompositor::Server {
   static int perform(const void*, void* target, std::uint32_t, const wl_message* message,
                      wl_argument* arguments) {
     auto* const resource = static_cast<wl_resource*>(target);
-    const std::string_view name = message->name;
-    if (name == "destroy" || name == "release") {
-      wl_resource_destroy(resource);
-    } else if (const auto request = requests.find(name); request != requests.end()) {
-      request->second(of(resource), resource, arguments);
-    }
+    of(resource).perform(message->name, resource, arguments);
     return 0;
   }
 
-  /// By name, which no two interfaces share. All others have no effect.
-  static const std::map<std::string_view, Request> requests;
+  /// Their names differ, whatever the interface. Those that are not here have no effect.
+  void perform(std::string_view request, wl_resource* resource, const wl_argument* its) {
+    if (request == "destroy" || request == "release") {
+      wl_resource_destroy(resource);
+    } else if (request == "receive") {
+      asked.emplace_back(its[0].s);
+      answer(offers.at(resource), its[0].s, its[1].h);
+    } else if (request == "create_data_source") {
+      sourceFormats.clear();
+      make(resource, zwlr_data_control_source_v1_interface, its[0].n);
+    } else if (request == "offer") {
+      sourceFormats.emplace_back(its[0].s);
+    } else if (request == "get_data_device") {
+      wl_resource* const device = make(resource, zwlr_data_control_device_v1_interface, its[0].n);
+      for (const Kind kind : {clipboard, primary})
+        if (!traits.isKwin || offered[kind]) tell(kind, device);
+    } else if (request == "set_selection") {
+      cancelSource();
+      source = reinterpret_cast<wl_resource*>(its[0].o);
+      if (!traits.takesSelections) return cancelSource();
+      offered[clipboard].emplace();
+      for (const std::string& format : sourceFormats)
+        offered[clipboard]->formats[format] = "";
+      tell(clipboard);
+    } else if (request == "create_virtual_keyboard") {
+      make(resource, zwp_virtual_keyboard_v1_interface, its[1].n);
+    } else if (request == "keymap") {
+      ::close(its[1].h);
+    } else if (request == "key") {
+      press(its[1].u, its[2].u);
+    } else if (request == "modifiers") {
+      keys.push_back("mods " + std::to_string(its[0].u));
+    } else if (request == "authenticate") {
+      isAuthenticated = true;
+    } else if (request == "keyboard_key" && isAuthenticated) {
+      press(its[0].u, its[1].u);
+    } else if (request == "get_keyboard") {
+      tellLayout(make(resource, wl_keyboard_interface, its[0].n));
+    } else if (request == "get_window") {
+      wl_resource* const handle = make(resource, org_kde_plasma_window_interface, its[0].n);
+      shown[handle] = its[1].u;
+      describe(handle);
+      org_kde_plasma_window_send_initial_state(handle);
+    } else if (request == "activate" ||
+               (request == "set_state" &&
+                (its[0].u & its[1].u & ORG_KDE_PLASMA_WINDOW_MANAGEMENT_STATE_ACTIVE) != 0)) {
+      activate(shown.at(resource));
+    }
+  }
 
   // Clipboard ------------------------------------------------------------------------------------
 
@@ -289,79 +330,6 @@ struct ScriptedCompositor::Server {
     const std::uint64_t one = 1;
     static_cast<void>(!write(wake, &one, sizeof one));
   }
-};
-
-const std::map<std::string_view, ScriptedCompositor::Server::Request>
-    ScriptedCompositor::Server::requests = {
-        // Clipboard
-        {"receive",
-         [](Server& server, wl_resource* offer, const wl_argument* its) {
-           server.asked.emplace_back(its[0].s);
-           server.answer(server.offers.at(offer), its[0].s, its[1].h);
-         }},
-        {"create_data_source",
-         [](Server& server, wl_resource* manager, const wl_argument* its) {
-           server.sourceFormats.clear();
-           server.make(manager, zwlr_data_control_source_v1_interface, its[0].n);
-         }},
-        {"offer", [](Server& server, wl_resource*,
-                     const wl_argument* its) { server.sourceFormats.emplace_back(its[0].s); }},
-        {"get_data_device",
-         [](Server& server, wl_resource* manager, const wl_argument* its) {
-           wl_resource* const device =
-               server.make(manager, zwlr_data_control_device_v1_interface, its[0].n);
-           for (const Kind kind : {clipboard, primary})
-             if (!server.traits.isKwin || server.offered[kind]) server.tell(kind, device);
-         }},
-        {"set_selection",
-         [](Server& server, wl_resource*, const wl_argument* its) {
-           server.cancelSource();
-           server.source = reinterpret_cast<wl_resource*>(its[0].o);
-           if (!server.traits.takesSelections) return server.cancelSource();
-           Offered what;
-           for (const std::string& format : server.sourceFormats)
-             what.formats[format] = "";
-           server.offered[clipboard] = what;
-           server.tell(clipboard);
-         }},
-        // Keys
-        {"create_virtual_keyboard",
-         [](Server& server, wl_resource* manager, const wl_argument* its) {
-           server.make(manager, zwp_virtual_keyboard_v1_interface, its[1].n);
-         }},
-        {"keymap", [](Server&, wl_resource*, const wl_argument* its) { ::close(its[1].h); }},
-        {"key", [](Server& server, wl_resource*,
-                   const wl_argument* its) { server.press(its[1].u, its[2].u); }},
-        {"modifiers",
-         [](Server& server, wl_resource*, const wl_argument* its) {
-           server.keys.push_back("mods " + std::to_string(its[0].u));
-         }},
-        {"authenticate",
-         [](Server& server, wl_resource*, const wl_argument*) { server.isAuthenticated = true; }},
-        {"keyboard_key",
-         [](Server& server, wl_resource*, const wl_argument* its) {
-           if (server.isAuthenticated) server.press(its[0].u, its[1].u);
-         }},
-        {"get_keyboard",
-         [](Server& server, wl_resource* seat, const wl_argument* its) {
-           server.tellLayout(server.make(seat, wl_keyboard_interface, its[0].n));
-         }},
-        // Windows
-        {"get_window",
-         [](Server& server, wl_resource* manager, const wl_argument* its) {
-           wl_resource* const handle =
-               server.make(manager, org_kde_plasma_window_interface, its[0].n);
-           server.shown[handle] = its[1].u;
-           server.describe(handle);
-           org_kde_plasma_window_send_initial_state(handle);
-         }},
-        {"set_state",
-         [](Server& server, wl_resource* handle, const wl_argument* its) {
-           if ((its[0].u & its[1].u & ORG_KDE_PLASMA_WINDOW_MANAGEMENT_STATE_ACTIVE) != 0)
-             server.activate(server.shown.at(handle));
-         }},
-        {"activate", [](Server& server, wl_resource* handle,
-                        const wl_argument*) { server.activate(server.shown.at(handle)); }},
 };
 
 ScriptedCompositor::ScriptedCompositor(Traits traits) {

@@ -16,6 +16,7 @@
 #include "RunUntil.h"
 #include "ScriptedPortal.h"
 #include "TemporaryFolder.h"
+#include "applications/WindowDocument.h"
 #include "core/text/Error.h"
 #include "desktop/SigningHotkey.h"
 #include "portal/Portal.h"
@@ -25,7 +26,6 @@
 #include "portal/PortalRemote.h"
 #include "session/DesktopBus.h"
 #include "session/PollLoop.h"
-#include "x11/WindowDocument.h"
 
 namespace quillseal::linux {
 namespace {

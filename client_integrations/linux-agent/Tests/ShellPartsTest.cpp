@@ -15,7 +15,9 @@
 
 #include "Cases.h"
 #include "Quillseal/ContentRisk.h"
+#include "applications/WindowDocument.h"
 #include "desktop/SigningHotkey.h"
+#include "keyboard/KeyChords.h"
 #include "session/CommandLine.h"
 #include "session/IdleMemory.h"
 #include "session/JournalLog.h"
@@ -23,9 +25,7 @@
 #include "session/QtDescriptors.h"
 #include "session/QtMainLoop.h"
 #include "session/Reach.h"
-#include "x11/KeyChords.h"
 #include "x11/QtPasteboard.h"
-#include "x11/WindowDocument.h"
 
 namespace quillseal::linux {
 namespace {

@@ -1,7 +1,7 @@
 #include "applications/LinuxApplications.h"
 
 #include "browsers/Browsers.h"
-#include "x11/KeyChords.h"
+#include "keyboard/KeyChords.h"
 
 namespace quillseal::linux {
 namespace {

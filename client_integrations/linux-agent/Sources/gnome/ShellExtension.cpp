@@ -1,7 +1,7 @@
 #include "gnome/ShellExtension.h"
 
 #include "applications/ProcessExecutable.h"
-#include "x11/WindowDocument.h"
+#include "applications/WindowDocument.h"
 
 namespace quillseal::linux {
 namespace {

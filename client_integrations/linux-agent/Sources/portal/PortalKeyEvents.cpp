@@ -6,11 +6,11 @@
 
 #include <xkbcommon/xkbcommon-keysyms.h>
 
+#include "applications/WindowDocument.h"
 #include "core/tasks/Async.h"
 #include "desktop/SigningHotkey.h"
+#include "keyboard/KeyChords.h"
 #include "portal/TaskTicket.h"
-#include "x11/KeyChords.h"
-#include "x11/WindowDocument.h"
 
 namespace quillseal::linux {
 namespace {

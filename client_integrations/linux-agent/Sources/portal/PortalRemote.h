@@ -11,9 +11,9 @@
 #include "core/tasks/Async.h"
 #include "desktop/MainLoop.h"
 #include "desktop/Ticket.h"
+#include "keyboard/KeyChords.h"
 #include "keys/PrivateFile.h"
 #include "portal/Portal.h"
-#include "x11/KeyChords.h"
 
 namespace quillseal::linux {
 

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "desktop/SigningHotkey.h"
-#include "x11/KeyChords.h"
+#include "keyboard/KeyChords.h"
 
 namespace quillseal::linux {
 namespace {

@@ -3,9 +3,9 @@
 #include <memory>
 #include <span>
 
+#include "keyboard/KeyChords.h"
 #include "session/DesktopBus.h"
 #include "wayland/WaylandConnection.h"
-#include "x11/KeyChords.h"
 
 namespace quillseal::linux {
 

@@ -9,8 +9,8 @@
 #include <xkbcommon/xkbcommon-keysyms.h>
 
 #include "core/text/Error.h"
+#include "keyboard/KeyChords.h"
 #include "wayland/KwinKeyboard.h"
-#include "x11/KeyChords.h"
 
 namespace quillseal::linux {
 namespace {
@@ -25,10 +25,6 @@ constexpr const char* actionName = "Sign Selected Text";
 // Flags of setShortcut.
 constexpr std::uint32_t asPresent = 2;
 constexpr std::uint32_t asDefault = 8;
-
-/// KGlobalAccel repeats a press while the keys are held, and older versions report no release.
-/// Desktops let people choose delays up to this.
-constexpr std::chrono::milliseconds longestRepeatDelay{1000};
 
 constexpr DesktopBus::Method method(const char* name) {
   return {.service = service,
@@ -96,10 +92,10 @@ bool hasKey(sd_bus_message& sequence) {
 KwinHotkey::KwinHotkey(const Services& services)
     : services_(services),
       onPress_([this](sd_bus_message& message) {
-        if (isOfAgent(message)) press();
+        if (isOfAgent(message) && held_.press(services_.loop.now())) services_.loop.post(pressed_);
       }),
       onRelease_([this](sd_bus_message& message) {
-        if (isOfAgent(message)) isDown_ = false;
+        if (isOfAgent(message)) held_.release();  // older versions report none
       }),
       onOwner_([this](sd_bus_message& message) {
         const char* name = nullptr;
@@ -148,7 +144,7 @@ void KwinHotkey::registerHotkey(desktop::KeyPress combination, std::function<voi
 
 KwinHotkey::Registration KwinHotkey::request() {
   DesktopBus& bus = services_.bus;
-  isDown_ = false;
+  held_.release();
   static_cast<void>(
       bus.call(method("doRegister"), "as", 4, component, action, componentName, actionName));
   const auto set = [&](std::uint32_t flags) {
@@ -178,14 +174,6 @@ KwinHotkey::Registration KwinHotkey::request() {
   if (registration.isTaken)
     static_cast<void>(bus.call(method("unregister"), "ss", component, action));
   return registration;
-}
-
-void KwinHotkey::press() {
-  const auto now = services_.loop.now();
-  const bool isRepeated = isDown_ && now - lastPress_ < longestRepeatDelay;
-  isDown_ = true;
-  lastPress_ = now;
-  if (!isRepeated) services_.loop.post(pressed_);
 }
 
 }  // namespace quillseal::linux

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <chrono>
 #include <functional>
 
 #include "desktop/Hotkey.h"
 #include "desktop/MainLoop.h"
+#include "keyboard/HeldHotkey.h"
 #include "session/DesktopBus.h"
 #include "wayland/WaylandConnection.h"
 
@@ -39,14 +39,12 @@ class KwinHotkey : public desktop::Hotkey {
     bool isTaken = false;
   };
   [[nodiscard]] Registration request();
-  void press();
 
   Services services_;
   std::function<void()> pressed_;
   int keys_ = 0;  ///< as Qt numbers them
   bool mayHaveKeys_ = false;
-  bool isDown_ = false;
-  desktop::MainLoop::TimePoint lastPress_;
+  HeldHotkey held_;
   desktop::Ticket again_;
   DesktopBus::Receiver onPress_;
   DesktopBus::Receiver onRelease_;

@@ -9,7 +9,7 @@
 #include <xkbcommon/xkbcommon-keysyms.h>
 
 #include "core/text/Error.h"
-#include "x11/KeyChords.h"
+#include "keyboard/KeyChords.h"
 
 namespace quillseal::linux {
 namespace {
@@ -26,10 +26,6 @@ constexpr std::string_view releaseEvent = "released";
 // Of several bindings to the same keys, sway obeys the one with fewer options, so any binding of
 // the user's wins.
 constexpr std::string_view options = "--no-warn --locked --inhibited ";
-
-/// Sway repeats a binding while the keys are held, and does not report the release when another key
-/// was pressed meanwhile. Desktops allow repeat delays up to this.
-constexpr std::chrono::milliseconds longestRepeatDelay{1000};
 
 std::string textOf(const json& object, const char* key) {
   const auto found = object.find(key);
@@ -157,16 +153,10 @@ void SwayHotkey::handle(const SwayIpc::Message& message) {
   const auto binding = event.find("binding");
   if (binding == event.end() || !binding->is_object()) return;
   const std::string told = textOf(*binding, "command");
-  if (told == commandFor(pressEvent)) pressedKey();
-  if (told == commandFor(releaseEvent)) isDown_ = false;
-}
-
-void SwayHotkey::pressedKey() {
-  const auto now = services_.loop.now();
-  const bool isRepeated = isDown_ && now - lastPress_ < longestRepeatDelay;
-  isDown_ = true;
-  lastPress_ = now;
-  if (!isRepeated) services_.loop.post(pressed_);
+  if (told == commandFor(pressEvent) && held_.press(services_.loop.now()))
+    services_.loop.post(pressed_);
+  // Sway reports no release when another key was pressed meanwhile.
+  if (told == commandFor(releaseEvent)) held_.release();
 }
 
 }  // namespace quillseal::linux

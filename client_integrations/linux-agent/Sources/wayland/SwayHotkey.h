@@ -1,6 +1,5 @@
 #pragma once
 
-#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -8,6 +7,7 @@
 
 #include "desktop/Hotkey.h"
 #include "desktop/MainLoop.h"
+#include "keyboard/HeldHotkey.h"
 #include "session/Descriptors.h"
 #include "wayland/SwayIpc.h"
 #include "wayland/WaylandConnection.h"
@@ -42,7 +42,6 @@ class SwayHotkey : public desktop::Hotkey {
   void followLayout();
   void receive();
   void handle(const SwayIpc::Message& message);
-  void pressedKey();
 
   Services services_;
   std::unique_ptr<SwayIpc> commands_;
@@ -51,8 +50,7 @@ class SwayHotkey : public desktop::Hotkey {
   desktop::KeyPress chord_{};
   std::uint32_t key_ = 0;
   bool isBound_ = false;
-  bool isDown_ = false;
-  desktop::MainLoop::TimePoint lastPress_;
+  HeldHotkey held_;
   std::unique_ptr<WaylandLayout> layout_;
   desktop::Ticket following_;
   desktop::Ticket watch_;

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "applications/ProcessExecutable.h"
-#include "x11/WindowDocument.h"
+#include "applications/WindowDocument.h"
 
 namespace quillseal::linux {
 namespace {

@@ -5,9 +5,9 @@
 #include <utility>
 #include <vector>
 
+#include "applications/WindowDocument.h"
+#include "keyboard/KeyChords.h"
 #include "wayland/WaylandReach.h"
-#include "x11/KeyChords.h"
-#include "x11/WindowDocument.h"
 
 namespace quillseal::linux {
 namespace {

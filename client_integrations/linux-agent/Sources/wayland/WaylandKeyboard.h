@@ -5,9 +5,9 @@
 #include <span>
 #include <string_view>
 
+#include "keyboard/KeyChords.h"
 #include "wayland/AgentKeyboard.h"
 #include "wayland/WaylandConnection.h"
-#include "x11/KeyChords.h"
 
 namespace quillseal::linux {
 

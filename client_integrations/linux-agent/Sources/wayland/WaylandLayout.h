@@ -6,8 +6,8 @@
 #include <optional>
 #include <vector>
 
+#include "keyboard/KeyChords.h"
 #include "wayland/WaylandConnection.h"
-#include "x11/KeyChords.h"
 
 namespace quillseal::linux {
 

@@ -7,8 +7,8 @@
 #include <limits>
 #include <utility>
 
+#include "keyboard/KeyChords.h"
 #include "windows/QtText.h"
-#include "x11/KeyChords.h"
 
 namespace quillseal::linux {
 namespace {

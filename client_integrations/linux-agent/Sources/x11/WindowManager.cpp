@@ -8,7 +8,7 @@
 #include <unistd.h>
 
 #include "applications/ProcessExecutable.h"
-#include "x11/WindowDocument.h"
+#include "applications/WindowDocument.h"
 #include "x11/XcbHandles.h"
 
 namespace quillseal::linux {

@@ -12,7 +12,8 @@
 #include <xkbcommon/xkbcommon-keysyms.h>
 
 #include "core/text/Error.h"
-#include "x11/KeyChords.h"
+#include "keyboard/HeldHotkey.h"
+#include "keyboard/KeyChords.h"
 
 namespace quillseal::linux {
 namespace {
@@ -21,8 +22,6 @@ namespace {
 constexpr std::uint8_t newKeyboardNotify = 0;
 constexpr std::uint8_t mapNotify = 1;
 
-/// Milliseconds. X servers repeat a held key after 660; desktops allow delays up to this.
-constexpr std::uint32_t longestRepeatDelay = 1000;
 /// Shorter than any release between two presses.
 constexpr std::chrono::milliseconds releasePolling{40};
 /// Layout changes come in bursts, and one comes whenever the typing keyboard changes: every
@@ -124,8 +123,8 @@ bool X11Hotkey::nativeEventFilter(const QByteArray& /*eventType*/, void* message
       // A held key repeats as presses alone, or as releases and presses with the same time. The
       // final release is lost when a run releases the grab while the key is held. So the server is
       // polled until the key is up, and a key that has not repeated for long counts as released.
-      const bool repeated =
-          key->time == lastRelease_ || (down_ && key->time - lastPress_ < longestRepeatDelay);
+      const bool repeated = key->time == lastRelease_ ||
+                            (down_ && key->time - lastPress_ < longestRepeatDelay.count());
       down_ = true;
       lastPress_ = key->time;
       if (!repeated) {

@@ -9,7 +9,7 @@
 #include <xkbcommon/xkbcommon.h>
 
 #include "core/text/UniqueHandle.h"
-#include "x11/KeyChords.h"
+#include "keyboard/KeyChords.h"
 #include "x11/XcbHandles.h"
 
 namespace quillseal::linux {

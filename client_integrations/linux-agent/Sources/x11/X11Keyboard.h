@@ -7,10 +7,9 @@
 
 #include <xcb/xcb.h>
 
-namespace quillseal::linux {
+#include "keyboard/Keysym.h"
 
-/// An X keysym, as in X11/keysymdef.h.
-using Keysym = std::uint32_t;
+namespace quillseal::linux {
 
 /// The keyboard of the X server: reports held keys, finds the key of a symbol, and presses keys.
 ///

@@ -5,9 +5,9 @@
 #include <utility>
 #include <vector>
 
+#include "applications/WindowDocument.h"
 #include "desktop/SigningHotkey.h"
-#include "x11/KeyChords.h"
-#include "x11/WindowDocument.h"
+#include "keyboard/KeyChords.h"
 
 namespace quillseal::linux {
 namespace {

@@ -1,4 +1,4 @@
-#include "x11/KeyChords.h"
+#include "keyboard/KeyChords.h"
 
 #include <algorithm>
 #include <array>

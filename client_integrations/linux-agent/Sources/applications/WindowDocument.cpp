@@ -1,4 +1,4 @@
-#include "x11/WindowDocument.h"
+#include "applications/WindowDocument.h"
 
 #include <array>
 

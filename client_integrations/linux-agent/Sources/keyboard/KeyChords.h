@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "desktop/KeyEvents.h"
-#include "x11/X11Keyboard.h"
+#include "keyboard/Keysym.h"
 
 namespace quillseal::linux {
 

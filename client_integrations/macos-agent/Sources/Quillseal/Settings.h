@@ -29,6 +29,19 @@ struct Text {
   }
 };
 
+/// What the agent has decided; undecided when absent.
+struct Decision {
+  std::string_view key;
+
+  /// As it was stored; nothing when absent.
+  [[nodiscard]] std::optional<std::string> stored(const desktop::Defaults& defaults) const {
+    return defaults.string(key);
+  }
+  void store(desktop::Defaults& defaults, std::string_view value) const {
+    defaults.setString(key, value);
+  }
+};
+
 /// Off when absent.
 struct Flag {
   std::string_view key;
@@ -47,7 +60,7 @@ inline constexpr Text apiKey{.key = "APIKey", .fallback = BuiltInServer::apiKey}
 /// The person whom the server knows this device by; unverified when empty.
 inline constexpr Text boundIdentity{.key = "BoundIdentity", .fallback = nothing};
 /// "enclave" or "handoff", once the first signature has shown which; see SigningMode.
-inline constexpr Text signingMode{.key = "SigningMode", .fallback = nothing};
+inline constexpr Decision signingMode{.key = "SigningMode"};
 
 /// Whether each signature is confirmed in a dialog first.
 inline constexpr Flag confirmBeforeSigning{.key = "ConfirmBeforeSigning"};

@@ -48,6 +48,8 @@ class KwinSession(wayland_session.WaylandSession):
     """`is_installed`: whether the package's desktop file exists, which lets the agent see windows
     and press keys in KWin. `locks`: whether the screen can be locked."""
 
+    is_visible = False  # without OpenGL KWin takes no pictures
+
     def __init__(self, build, layout="us", is_installed=True, locks=False):
         self.is_installed = is_installed
         self.locks = locks

@@ -82,6 +82,8 @@ def words_of(command):
 class Session:
     """A context manager. `build` is the build folder with the programs."""
 
+    is_visible = True  # a picture can be taken of it
+
     def __init__(self, build, size="1280x800", panel=False, x_options=()):
         self.build = pathlib.Path(build).resolve()
         linux_agent = self.build / "client_integrations/linux-agent"

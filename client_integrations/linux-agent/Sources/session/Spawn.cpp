@@ -35,6 +35,7 @@ std::optional<pid_t> start(const Spawn& spawn) {
   std::vector<std::string> words{spawn.file.filename().string()};
   words.insert(words.end(), spawn.arguments.begin(), spawn.arguments.end());
   std::vector<char*> arguments;
+  arguments.reserve(words.size() + 1);
   for (std::string& word : words)
     arguments.push_back(word.data());
   arguments.push_back(nullptr);

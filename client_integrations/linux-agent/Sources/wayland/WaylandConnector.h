@@ -8,14 +8,12 @@
 #include "session/Connector.h"
 #include "wayland/WaylandConnection.h"
 
-namespace quillseal::linux {
-
 /// A program that connects to the compositor for the agent.
 ///
 /// KWin offers windows and keys only to a program that an installed desktop file names. It finds
 /// the program by the connecting process's /proc/PID/exe, which is hidden once the agent has
 /// shielded its memory, and computes the file's digest twice, so the file should be small.
-namespace WaylandConnector {
+namespace quillseal::linux::WaylandConnector {
 
 inline constexpr std::string_view program = Connector::program;
 
@@ -24,6 +22,4 @@ inline constexpr std::string_view program = Connector::program;
 [[nodiscard]] std::unique_ptr<WaylandConnection> open(
     const std::vector<std::filesystem::path>& places);
 
-}  // namespace WaylandConnector
-
-}  // namespace quillseal::linux
+}  // namespace quillseal::linux::WaylandConnector

@@ -1,13 +1,19 @@
 #!/usr/bin/env python3
 """Measures the agent on sway, or KWin, from outside: start-up, memory and wake-ups while idle, the time from the
-hotkey to the captured text, and from the block on the clipboard to the block in the editor.
+hotkey to the captured text, plain from an editor and with its HTML from a browser, and from the block on the
+clipboard to the block in the editor.
 """
 
 import os
+import pathlib
 import statistics
+import sys
 import time
 
+sys.path.append(str(pathlib.Path(__file__).parents[2] / "client_integrations/linux-agent/Tests/e2e"))
+
 import session
+from browsers import Browser, Site
 from kwin_session import KwinSession
 from measure import Watch, enrol, memory, start_up, wake_ups
 from session import LETTER, SECRET
@@ -27,24 +33,31 @@ class Captures:
     def forget(self):
         self.log.seek(0, os.SEEK_END)
 
-    def wait(self):
+    def wait(self, images=0):
+        """The images, which only HTML has, tell whether it was read."""
         end = time.monotonic() + session.PATIENCE
-        while "[sign] 0 image" not in self.log.read():
+        while f"[sign] {images} image" not in self.log.read():
             if time.monotonic() > end:
                 raise session.Failure("the text is not read")
             time.sleep(0.0005)
+
+
+def capture(desktop, captures, images=0):
+    """Returns the time from the hotkey to the text."""
+    captures.forget()
+    pressed = time.monotonic()
+    desktop.person.tell("down " + " ".join(session.HOTKEY))
+    captures.wait(images)
+    captured = time.monotonic() - pressed
+    desktop.person.tell("up")
+    return captured
 
 
 def sign(desktop, number, captures, windows, copies):
     """Returns the times from the hotkey to the text, and from the offer to the paste."""
     editor = desktop.open_editor(LETTER, f"letter-{number}.txt")
     desktop.select_all(LETTER)
-    captures.forget()
-    pressed = time.monotonic()
-    desktop.person.tell("down " + " ".join(session.HOTKEY))
-    captures.wait()
-    captured = time.monotonic() - pressed
-    desktop.person.tell("up")
+    captured = capture(desktop, captures)
     desktop.wait_for_window("Enter the (PIN|passphrase)")
     desktop.type(SECRET)
     entered = time.monotonic()
@@ -54,6 +67,24 @@ def sign(desktop, number, captures, windows, copies):
     desktop.saved_text(editor, "Check this signature")
     desktop.end(editor)
     return captured, pasted - offered
+
+
+def read_in_browser(desktop, captures, runs):
+    """Returns the times from the hotkey to a text with its HTML, in Chromium."""
+    site = Site(text=f'<p>{LETTER} <img src="https://example.org/flower.png"></p>')
+    browser = Browser(desktop, "chromium", with_extensions=False)
+    browser.start(site.address("Mail"))
+    browser.wait_for_page("Mail")
+    desktop.key_until("ctrl+a", lambda: LETTER[-40:] in site.told.get(("selected", "Mail"), ""),
+                      "the letter is selected in the page")
+    times = []
+    for _ in range(runs):
+        times.append(capture(desktop, captures, images=1))
+        desktop.close("Enter the (PIN|passphrase)", "Escape")
+        desktop.close("Signing Error")
+        browser.wait_for_page("Mail")
+    browser.quit()
+    return times
 
 
 def main():
@@ -94,6 +125,8 @@ def main():
                 for number in range(arguments.runs)]
         for name, values in zip(("hotkey to text", "offer to paste"), zip(*runs)):
             print(f"{name:<20}{milliseconds(values)} ({len(values)} signatures)")
+        times = read_in_browser(desktop, captures, arguments.runs)
+        print(f"{'hotkey to HTML':<20}{milliseconds(times)} ({len(times)} captures in Chromium)")
         windows.process.terminate()
         copies.process.terminate()
 

@@ -49,11 +49,29 @@
 
 @end
 
+/// The bundle and script names of Safari.
+@interface QSBrowser : NSObject
+@property(nonatomic, readonly) NSString* bundleIdentifier;
+@property(nonatomic, copy) NSString* stringValue;
+@end
+
+@implementation QSBrowser
+
+- (NSString*)bundleIdentifier {
+  return @"com.apple.Safari";
+}
+
+@end
+
 namespace quillseal::mac {
 namespace {
 
 constexpr const char* letter =
     "Dear Ms Whitcombe, thank you for the visit on 14 March. The second draft suits us well. Zoë";
+constexpr const char* scam =
+    "Your account has been suspended. Verify your account within 24 hours and send me the "
+    "verification code you just got, or it will be closed.";
+
 // The user ----------------------------------------------------------------------------------------
 
 /// Runs `work` on the main thread, also while an alert is open there, and returns its result.
@@ -140,6 +158,14 @@ void closeSettings() {
 
 bool awaitSettings(bool isOpen) {
   return await([isOpen] { return static_cast<bool>(settings().isVisible) == isOpen; });
+}
+
+bool isShown(NSString* title) {
+  return NSApp.modalWindow != nil && textShowing(NSApp.modalWindow, title) != nil;
+}
+
+bool awaitAlert(NSString* title) {
+  return await([title] { return isShown(title); });
 }
 
 /// Returns all texts of the open alert.
@@ -292,8 +318,13 @@ class Document {
 
 class Story : public testing::Test {
  protected:
-  /// Opens an application with `text` and presses the hotkey.
-  void openAndSign(const std::string& text) {
+  void TearDown() override {
+    set(@"ConfirmBeforeSigning", @NO);
+    set(@"ServerURL", server().url());
+  }
+
+  /// Opens an application with `text` for a new run.
+  void open(const std::string& text) {
     if (!::AXIsProcessTrusted()) {
       GTEST_SKIP() << "this program may not press keys: System Settings → Privacy & Security → "
                       "Accessibility";
@@ -301,7 +332,22 @@ class Story : public testing::Test {
     document_.emplace(text);
     if (!document_->comesToTheFront()) GTEST_SKIP() << "no application comes to the front here";
     onMain([] { [NSPasteboard.generalPasteboard clearContents]; });
-    pressHotkey();
+  }
+
+  /// Opens `text` and presses the hotkey.
+  void openAndSign(const std::string& text) {
+    open(text);
+    if (!IsSkipped()) pressHotkey();
+  }
+
+  /// Waits for an alert that begins with `title` and says `words`, presses one of its buttons, and
+  /// expects the text as it was.
+  void expectRefusal(NSString* title, const std::string& words, const std::string& text,
+                     NSString* button = @"OK") const {
+    ASSERT_TRUE(awaitAlert(title));
+    EXPECT_NE(alertText().find(words), std::string::npos) << alertText();
+    EXPECT_TRUE(press(button));
+    expectNothingSigned(text);
   }
 
   /// The text is as it was, and no block is on the clipboard.
@@ -360,39 +406,47 @@ TEST_F(Story, OpensAndClosesSettingsByKey) {
 /// Stands for the browser, which is not started: the test acts on the page directly.
 class Browser {
  public:
-  Browser() { opened = nil; }
+  explicit Browser(BOOL canBeOpened = YES)
+      : withApplication_(object_getClass(NSWorkspace.sharedWorkspace),
+                         @selector(openURLs:withApplicationAtURL:configuration:completionHandler:),
+                         ^(id, NSArray<NSURL*>* urls, NSURL*, id,
+                           void (^done)(NSRunningApplication*, NSError*)) {
+                           opened = canBeOpened ? [urls.firstObject absoluteString] : nil;
+                           done(nil, canBeOpened ? nil : failure());
+                         }),
+        alone_(object_getClass(NSWorkspace.sharedWorkspace), @selector(openURL:),
+               ^BOOL(id, NSURL* url) {
+                 opened = canBeOpened ? url.absoluteString : nil;
+                 return canBeOpened;
+               }) {
+    opened = nil;
+  }
 
   [[nodiscard]] bool awaitPage() const {
     return await([] { return opened != nil; });
   }
 
-  /// Presses "Sign" on the page.
-  [[nodiscard]] bool signOnPage(const std::string& text) const {
+  /// Performs the page's button `act` ("sign", "decline").
+  [[nodiscard]] bool actOnPage(NSString* act, const std::string& text) const {
     NSString* page = [opened componentsSeparatedByString:@"#"].firstObject;
     NSString* handoff = [page componentsSeparatedByString:@"?h="].lastObject;
     const std::string digest = CryptoManager::sha256Hex(CryptoManager::normalizeText(text));
     NSString* body = [NSString stringWithFormat:@"{\"handoff_id\":\"%@\",\"text_digest\":\"%s\"}",
                                                 handoff, digest.c_str()];
     return answerOf(page, nil).has_value() &&
-           answerOf([server().url() stringByAppendingString:@"/handoff/sign"], body).has_value();
+           answerOf([server().url() stringByAppendingFormat:@"/handoff/%@", act], body).has_value();
   }
 
  private:
+  static NSError* failure() {
+    return [NSError errorWithDomain:NSCocoaErrorDomain
+                               code:NSFileNoSuchFileError
+                           userInfo:@{NSLocalizedDescriptionKey : @"no such browser"}];
+  }
+
   static inline NSString* opened = nil;
-  Replaced withApplication_ {
-    object_getClass(NSWorkspace.sharedWorkspace),
-        @selector(openURLs:withApplicationAtURL:configuration:completionHandler:),
-        ^(id, NSArray<NSURL*>* urls, NSURL*, id, void (^done)(NSRunningApplication*, NSError*)) {
-          opened = [urls.firstObject absoluteString];
-          done(nil, nil);
-        }
-  };
-  Replaced alone_ {
-    object_getClass(NSWorkspace.sharedWorkspace), @selector(openURL:), ^BOOL(id, NSURL* url) {
-      opened = url.absoluteString;
-      return YES;
-    }
-  };
+  Replaced withApplication_;
+  Replaced alone_;
 };
 
 // Must run before there is a device key, which would sign.
@@ -402,9 +456,86 @@ TEST_F(Story, SignsInTheBrowser) {
   if (IsSkipped()) return;
   ASSERT_TRUE(browser.awaitPage());
   expectNothingSigned(letter);
-  ASSERT_TRUE(browser.signOnPage(letter));
+  ASSERT_TRUE(browser.actOnPage(@"sign", letter));
   ASSERT_TRUE(document_->becomesSigned(letter)) << alertText();
   EXPECT_TRUE(answerOf(link(), nil).has_value());
+}
+
+TEST_F(Story, SignsNothingThatIsDeclinedInTheBrowser) {
+  const Browser browser;
+  openAndSign(letter);
+  if (IsSkipped()) return;
+  ASSERT_TRUE(browser.awaitPage());
+  ASSERT_TRUE(browser.actOnPage(@"decline", letter));
+  expectRefusal(@"Signing Request Expired", "", letter);
+}
+
+TEST_F(Story, TellsThatNoBrowserOpens) {
+  const Browser browser(NO);
+  openAndSign(letter);
+  if (!IsSkipped()) expectRefusal(@"Signing Error", "No browser could be opened.", letter);
+}
+
+[[noreturn]] void raise() {
+  @throw [NSException exceptionWithName:@"TestException" reason:@"deliberate" userInfo:nil];
+}
+
+// The text is in the browser that signs it, so the browser's scripts decide where it is pasted.
+TEST_F(Story, ReturnsToTheTabOfTheTextOrLeavesThePastingToTheUser) {
+  const struct {
+    const char* what;
+    NSString* answer;   // of each script
+    NSInteger failure;  // 0: none
+    bool raises;
+  } cases[] = {
+      {"the tab is back", @"true", 0, false},
+      {"nothing is answered", nil, 0, false},
+      {"another thing is answered", @"missing value", 0, false},
+      {"automation is refused", nil, -1743, false},
+      {"the browser hangs", nil, -1712, false},
+      {"the system raises", nil, 0, true},
+  };
+  open(letter);
+  if (IsSkipped()) return;
+  QSBrowser* safari = [[QSBrowser alloc] init];
+  const Replaced bundle(object_getClass(NSBundle.class), @selector(bundleWithURL:),
+                        ^id(id, NSURL* place) {
+                          NSString* path = place.path;
+                          if (path == nil || [path hasSuffix:@".app"]) return safari;
+                          return [NSBundle bundleWithPath:path];
+                        });
+  Class running =
+      onMain([] { return object_getClass(NSWorkspace.sharedWorkspace.frontmostApplication); });
+  const Replaced source(running, @selector(bundleIdentifier), ^NSString*(id) {
+    return safari.bundleIdentifier;
+  });
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.what);
+    document_.reset();
+    document_.emplace(letter);
+    ASSERT_TRUE(document_->comesToTheFront());
+    safari.stringValue = c.answer;
+    const NSInteger failure = c.failure;
+    const bool raises = c.raises;
+    const Replaced scripts(NSAppleScript.class, @selector(executeAndReturnError:),
+                           ^id(id, NSDictionary* __autoreleasing* error) {
+                             if (raises) raise();
+                             if (failure != 0) *error = @{NSAppleScriptErrorNumber : @(failure)};
+                             return failure == 0 ? safari : nil;
+                           });
+    const Browser browser;
+    pressHotkey();
+    ASSERT_TRUE(browser.awaitPage());
+    ASSERT_TRUE(browser.actOnPage(@"sign", letter));
+    if ([c.answer isEqual:@"true"]) {
+      EXPECT_TRUE(document_->becomesSigned(letter)) << alertText();
+      continue;
+    }
+    ASSERT_TRUE(awaitAlert(@"Signed — Paste It Into Your Message"));
+    EXPECT_TRUE(press(@"OK"));
+    EXPECT_EQ(document_->text(), letter);
+    EXPECT_NE(clipboard(NSPasteboardTypeString).value_or("").find("QUILLSEAL"), std::string::npos);
+  }
 }
 
 bool hasDeviceKey = false;
@@ -431,7 +562,12 @@ TEST_F(Story, EnrolsThisMac) {
 class SigningHere : public Story {
  protected:
   void SetUp() override { set(@"DemoSigning", hasDeviceKey ? @NO : @YES); }
-  void TearDown() override { set(@"DemoSigning", @NO); }
+  void TearDown() override {
+    set(@"DemoSigning", @NO);
+    Story::TearDown();
+  }
+
+  static inline NSError* refusal = nil;  ///< of the Touch ID prompt
 
  private:
   Replaced usable_ {
@@ -443,7 +579,7 @@ class SigningHere : public Story {
   Replaced finger_ {
     LAContext.class, @selector(evaluatePolicy:localizedReason:reply:),
         ^(id, LAPolicy, NSString*, void (^reply)(BOOL, NSError*)) {
-          reply(YES, nil);
+          reply(refusal == nil, refusal);
         }
   };
   Replaced kind_ {
@@ -462,6 +598,94 @@ TEST_F(SigningHere, PastesTheSignedText) {
   EXPECT_TRUE(answerOf(link(), nil).has_value());
 }
 
+TEST_F(SigningHere, AsksWhereToAndSignsThat) {
+  set(@"ConfirmBeforeSigning", @YES);
+  openAndSign(letter);
+  if (IsSkipped()) return;
+  ASSERT_TRUE(awaitAlert(@"Sign this content?"));
+  onMain([] { type(fieldLabelled(NSApp.modalWindow, @"Recipient"), @"ada@example.com"); });
+  EXPECT_TRUE(press(@"Sign with Touch ID"));
+  EXPECT_TRUE(document_->becomesSigned("ada@example.com"));
+}
+
+TEST_F(SigningHere, SignsNothingThatIsNotConfirmed) {
+  set(@"ConfirmBeforeSigning", @YES);
+  openAndSign(letter);
+  if (IsSkipped()) return;
+  expectRefusal(@"Sign this content?", "", letter, @"Cancel");
+  // The run ends where the next one can begin.
+  pressHotkey();
+  expectRefusal(@"Sign this content?", "", letter, @"Cancel");
+}
+
+TEST_F(SigningHere, RefusesWhatNobodyShouldSign) {
+  openAndSign(scam);
+  if (!IsSkipped()) expectRefusal(@"Not signed — this looks like a scam", "", scam);
+}
+
+TEST_F(SigningHere, TellsWhenThereIsNoText) {
+  openAndSign("");
+  if (!IsSkipped()) expectRefusal(@"No Text Found", "", "");
+}
+
+// Makes each call fail once in a run: the alert has the system's message, nothing is signed, and
+// the next run works.
+TEST_F(SigningHere, TellsTheSystemsWordsAndGoesOn) {
+  open(letter);
+  if (IsSkipped()) return;
+  set(@"DemoSigning", @YES);
+  Class pasteboard = object_getClass(NSPasteboard.generalPasteboard);
+  Class workspace = object_getClass(NSWorkspace.sharedWorkspace);
+  // Answers nil or NO; may raise before that, once, as windows that come up look at it, too.
+  const auto failing = [](bool raises) {
+    __block bool isToRaise = raises;
+    return ^id(id, id) {
+      if (std::exchange(isToRaise, false)) raise();
+      return nil;
+    };
+  };
+  const struct {
+    const char* what;
+    Class kind;
+    SEL selector;
+    bool raises;
+    NSString* title;
+    std::string words;
+  } cases[] = {
+      {"the pasteboard raises", pasteboard, @selector(stringForType:), true, @"Signing Error",
+       "deliberate"},
+      {"the pasteboard gives nothing", pasteboard, @selector(stringForType:), false,
+       @"No Text Found", "Please type or highlight"},
+      {"the pasteboard takes nothing", pasteboard, @selector(writeObjects:), false,
+       @"Signing Error", "The signed text could not be put on the clipboard."},
+      {"the system does not say what is in front", workspace, @selector(frontmostApplication), true,
+       @"Signing Error", "deliberate"},
+      {"the finger is locked out", nil, nullptr, false, @"Signing Error", "Biometry is locked."},
+      {"the server is not there", nil, nullptr, false, @"Signing Error", "connect"},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.what);
+    std::unique_ptr<Replaced> fault;
+    onMain([&] {
+      if (c.kind != nil) fault = std::make_unique<Replaced>(c.kind, c.selector, failing(c.raises));
+    });
+    if (c.words == "Biometry is locked.")
+      refusal = [NSError errorWithDomain:LAErrorDomain
+                                    code:-8  // locked out
+                                userInfo:@{NSLocalizedDescriptionKey : @"Biometry is locked."}];
+    if (c.words == "connect") set(@"ServerURL", @"http://127.0.0.1:1");
+    pressHotkey();
+    ASSERT_TRUE(await([] { return NSApp.modalWindow != nil; }));
+    onMain([&] { fault.reset(); });
+    refusal = nil;
+    set(@"ServerURL", server().url());
+    expectRefusal(c.title, c.words, letter);
+    EXPECT_TRUE(document_->comesToTheFront()) << "given back";
+  }
+  pressHotkey();
+  EXPECT_TRUE(document_->becomesSigned(letter)) << alertText();
+}
+
 std::atomic<bool> hasOpenRun = false;
 
 // Runs last: the program is quit while this alert is open, if there can be one, and cancels the
@@ -469,10 +693,7 @@ std::atomic<bool> hasOpenRun = false;
 TEST_F(SigningHere, LeavesAnAlertOpen) {
   openAndSign("Hi");
   if (IsSkipped()) return;
-  ASSERT_TRUE(await([] {
-    return NSApp.modalWindow != nil &&
-           textShowing(NSApp.modalWindow, @"Not signed — too short") != nil;
-  }));
+  ASSERT_TRUE(awaitAlert(@"Not signed — too short"));
   hasOpenRun = true;
   static const Replaced end(object_getClass(NSProcessInfo.processInfo), @selector(endActivity:),
                             ^(id, id) {

@@ -553,11 +553,11 @@ TEST_F(PortalOffers, AreMadeToAProgramThatHidesNothing) {
                                    "s", client->ownName().c_str());
   std::uint32_t process = 0;
   ASSERT_GT(::sd_bus_message_read(answer.get(), "u", &process), 0);
-  const std::string folder = "/proc/" + std::to_string(process);
-  EXPECT_EQ(std::filesystem::read_symlink(folder + "/exe").filename(),
+  const std::string entry = "/proc/" + std::to_string(process);
+  EXPECT_EQ(std::filesystem::read_symlink(entry + "/exe").filename(),
             std::filesystem::path(QUILLSEAL_WAYLAND_CONNECTOR).filename());
   // Nor can anybody reach the connection through it.
-  EXPECT_FALSE(std::filesystem::exists(folder + "/fd/0"));
+  EXPECT_FALSE(std::filesystem::exists(entry + "/fd/0"));
 }
 
 TEST_F(PortalOffers, AreWhatThePortalSays) {

@@ -35,6 +35,8 @@ std::string_view reasonOf(Placement placement) {
       return "the source shows another document";
     case Placement::sourceClosed:
       return "the source has been closed";
+    case Placement::sourceUnknown:
+      return "the source is not known";
     case Placement::terminal:
       return "the source is a terminal";
     default:
@@ -52,6 +54,7 @@ Task<Placement> paste(Services services, const std::optional<desktop::RunningApp
   const desktop::KeyPress press{.key = desktop::Key::v, .modifiers = desktop::Modifiers::command};
   const desktop::Delivery delivery =
       co_await AccessibilityManager::press(services.keys, press, source);
+  if (!source && delivery == desktop::Delivery::declined) co_return Placement::sourceUnknown;
   co_return placementOf(delivery);
 }
 

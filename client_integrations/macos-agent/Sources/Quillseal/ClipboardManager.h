@@ -41,6 +41,7 @@ enum class Placement {
   sourceNotInFront,  ///< something else than the source would have got it
   documentChanged,   ///< the source shows another document than the one that was signed in
   sourceClosed,
+  sourceUnknown,  ///< the desktop did not say where the text came from, and did not take the keys
   terminal,  ///< whose shell would run the block's lines as commands
 };
 

@@ -135,6 +135,11 @@ desktop::Alert alertToPaste(ClipboardManager::Placement placement,
       steps = "Open your message again in " + name + selectAndPaste +
               "Quillseal did not paste it for you: the window that you signed in is closed.";
       break;
+    case Placement::sourceUnknown:
+      steps = "Go back to your message" + selectAndPaste +
+              "Quillseal did not paste it for you: it does not know which window the text came "
+              "from, so it might land in the wrong place.";
+      break;
     case Placement::terminal:
       steps =
           "Paste it where you need it.\n\nQuillseal does not paste into a terminal: a shell there "

@@ -40,7 +40,6 @@ using quillseal::linux::Command;
 using quillseal::linux::CommandLine;
 using quillseal::linux::PortalSystem;
 
-constexpr const char* applicationId = "quillseal";
 constexpr int failed = 1;
 constexpr int wrongArguments = 2;
 
@@ -89,7 +88,7 @@ PortalSystem::Access accessToWayland() {
                              access.bus->knows(quillseal::linux::Portal::service).value_or(false));
   if (isOfInterest) access.portalBus = DesktopBus::openThrough(places);
   if (access.portalBus != nullptr)
-    access.offer = quillseal::linux::offerOfPortal(*access.portalBus, applicationId);
+    access.offer = quillseal::linux::offerOfPortal(*access.portalBus);
   return access;
 }
 
@@ -168,7 +167,7 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
   QApplication application(argc, argv);
   xServer.reset();
   QApplication::setApplicationName(QStringLiteral("quillseal"));
-  QApplication::setDesktopFileName(QString::fromLatin1(applicationId));
+  QApplication::setDesktopFileName(QStringLiteral("quillseal"));
   QApplication::setWindowIcon(productIcon());
 
   quillseal::linux::SingleInstance instance;

@@ -85,8 +85,8 @@ class PortalTest : public ::testing::Test {
     desk.emplace(std::move(script));
     bus = DesktopBus::openThrough({QUILLSEAL_WAYLAND_CONNECTOR});
     bus->serve(loop, loop);
-    static_cast<void>(offerOfPortal(*bus, "com.example.agent"));
-    portal.emplace(*bus, "com.example.agent");
+    static_cast<void>(offerOfPortal(*bus));
+    portal.emplace(*bus);
     std::filesystem::remove_all(tokenFile.parent_path());
     const PrivateFile file(tokenFile);
     if (!token.empty()) file.replace(token);
@@ -97,7 +97,7 @@ class PortalTest : public ::testing::Test {
                                            .remote = *remote,
                                            .applications = applications,
                                            .isHotkeyHeld = [this] { return isHeld; },
-                                           .isScreenLocked = [this] { return isLocked; },
+                                           .isKeyboardTaken = [this] { return isTaken; },
                                            .explain = [this] { told += remote->obstacle(); },
                                            .tell = tell});
     hotkey.emplace(PortalHotkey::Services{
@@ -155,7 +155,7 @@ class PortalTest : public ::testing::Test {
   PollLoop loop;
   OneApplication applications;
   bool isHeld = false;
-  bool isLocked = false;
+  bool isTaken = false;
   std::string told;
   std::string activation;
   std::optional<ScriptedPortal> desk;
@@ -183,51 +183,51 @@ TEST_F(PortalKeys, NeedWhatTheUserAllowsAndRemembersIt) {
        "",
        true,
        "next",
-       {"Register com.example.agent", "SelectDevices kept ", "RequestClipboard", "Start"}},
+       {"Register com.quillseal.agent", "SelectDevices kept ", "RequestClipboard", "Start"}},
       {"allowed before",
        {},
        "old",
        true,
        "next",
-       {"Register com.example.agent", "SelectDevices kept old", "Start"}},
+       {"Register com.quillseal.agent", "SelectDevices kept old", "Start"}},
       {"token not understood",
        {.knownToken = "other"},
        "old",
        true,
        "next",
-       {"Register com.example.agent", "SelectDevices kept old", "Session.Close",
+       {"Register com.quillseal.agent", "SelectDevices kept old", "Session.Close",
         "SelectDevices kept ", "Start"}},
       {"no token any more",
        {.token = ""},
        "old",
        true,
        "",
-       {"Register com.example.agent", "SelectDevices kept old", "Start"}},
+       {"Register com.quillseal.agent", "SelectDevices kept old", "Start"}},
       {"refused",
        {.answer = 1},
        "old",
        false,
        "",
-       {"Register com.example.agent", "Start", "Session.Close"}},
+       {"Register com.quillseal.agent", "Start", "Session.Close"}},
       {"failed",
        {.answer = 2},
        "old",
        false,
        "old",
-       {"Register com.example.agent", "Start", "Session.Close"}},
+       {"Register com.quillseal.agent", "Start", "Session.Close"}},
       {"no keyboard",
        {.devices = 2},
        "",
        false,
        "next",
-       {"Register com.example.agent", "Start", "Session.Close"}},
+       {"Register com.quillseal.agent", "Start", "Session.Close"}},
       {"malformed", {.isMalformed = true}, "", false, "", {"CreateSession"}},
       {"version 1",
        {.offer = {.remoteDesktop = 1}, .token = ""},
        "",
        true,
        "",
-       {"Register com.example.agent", "SelectDevices ", "Start"}},
+       {"Register com.quillseal.agent", "SelectDevices ", "Start"}},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
@@ -313,6 +313,8 @@ TEST_F(PortalKeys, AreOnlyThoseThatDoNoHarmWhereverTheyGo) {
     EXPECT_EQ(pressed(), row.keys);
     EXPECT_EQ(told.find("let go") != std::string::npos, row.isHeld);
   }
+  isTaken = true;  // by the screen lock
+  EXPECT_EQ(press(Key::v, terminal), Delivery::declined);
 }
 
 TEST_F(PortalKeys, AreAllowedAgainOnlyWhenTheUserSigns) {
@@ -572,10 +574,10 @@ TEST_F(PortalOffers, AreWhatThePortalSays) {
   };
   const auto own = DesktopBus::open();
   EXPECT_EQ(DesktopBus::openThrough({"/absent"}), nullptr);
-  EXPECT_EQ(offerOfPortal(*own, "com.example.agent"), PortalOffer{});
+  EXPECT_EQ(offerOfPortal(*own), PortalOffer{});
   for (const auto& row : rows) {
     const ScriptedPortal scripted(row.script);
-    EXPECT_EQ(offerOfPortal(*own, "com.example.agent"), row.offer);
+    EXPECT_EQ(offerOfPortal(*own), row.offer);
   }
 }
 

@@ -51,19 +51,19 @@ int appendValue(sd_bus_message& message, const std::vector<std::string>& values)
 
 /// Programs outside of a sandbox have to say who they are before anything else. Older portals find
 /// it out by themselves, as soon as a method is called.
-Portal::Message introduction(DesktopBus& bus, const std::string& applicationId) {
+Portal::Message introduction(DesktopBus& bus) {
   Portal::Message call = bus.newCall({.service = Portal::service,
                                       .path = Portal::path,
                                       .interface = "org.freedesktop.host.portal.Registry",
                                       .name = "Register"});
   if (call == nullptr ||
-      ::sd_bus_message_append(call.get(), "sa{sv}", applicationId.c_str(), 0) < 0)
+      ::sd_bus_message_append(call.get(), "sa{sv}", Portal::applicationId, 0) < 0)
     return nullptr;
   return call;
 }
 
-void introduce(DesktopBus& bus, const PortalOffer& offer, const std::string& applicationId) {
-  const Portal::Message registration = introduction(bus, applicationId);
+void introduce(DesktopBus& bus, const PortalOffer& offer) {
+  const Portal::Message registration = introduction(bus);
   if (registration == nullptr || bus.send(*registration) != nullptr) return;
   constexpr const char* noSession = "/";
   const DesktopBus::Method harmless{
@@ -77,7 +77,7 @@ void introduce(DesktopBus& bus, const PortalOffer& offer, const std::string& app
 
 }  // namespace
 
-PortalOffer offerOfPortal(DesktopBus& bus, const std::string& applicationId) {
+PortalOffer offerOfPortal(DesktopBus& bus) {
   constexpr std::chrono::seconds start{5};
   const std::optional<bool> isRunning = bus.knows(Portal::service);
   if (!isRunning || (!*isRunning && !bus.start(Portal::service, start))) return {};
@@ -90,15 +90,15 @@ PortalOffer offerOfPortal(DesktopBus& bus, const std::string& applicationId) {
     offer.remoteDesktop = version(remoteDesktop);
   offer.globalShortcuts = version("org.freedesktop.portal.GlobalShortcuts");
   offer.clipboard = version("org.freedesktop.portal.Clipboard");
-  if (offer != PortalOffer{}) introduce(bus, offer, applicationId);
+  if (offer != PortalOffer{}) introduce(bus, offer);
   return offer;
 }
 
 // Calls -------------------------------------------------------------------------------------------
 
-Portal::Portal(DesktopBus& bus, std::string applicationId)
-    : bus_(bus), applicationId_(std::move(applicationId)), onOwner_([this](sd_bus_message&) {
-        const Message registration = introduction(bus_, applicationId_);
+Portal::Portal(DesktopBus& bus)
+    : bus_(bus), onOwner_([this](sd_bus_message&) {
+        const Message registration = introduction(bus_);
         if (registration == nullptr) return;
         ::sd_bus_message_set_auto_start(registration.get(), 0);  // the portal may just have ended
         bus_.post(*registration);

@@ -29,7 +29,7 @@ struct PortalOffer {
 ///
 /// The portal looks at `/proc/PID/root` of a client at its first call and refuses everything where
 /// that is hidden, as it is of the agent: so the bus is one of DesktopBus::openThrough.
-[[nodiscard]] PortalOffer offerOfPortal(DesktopBus& bus, const std::string& applicationId);
+[[nodiscard]] PortalOffer offerOfPortal(DesktopBus& bus);
 
 /// The end of a request that the user may have been asked about.
 struct PortalAnswer {
@@ -46,14 +46,16 @@ class Portal {
   static constexpr const char* service = "org.freedesktop.portal.Desktop";
   static constexpr const char* path = "/org/freedesktop/portal/desktop";
 
+  /// The agent's name: that of an installed desktop file, without ".desktop". By it the desktop
+  /// shows and stores what the user allows.
+  static constexpr const char* applicationId = "com.quillseal.agent";
+
   using Message = DesktopBus::Message;
   using Option = std::variant<std::uint32_t, std::string, std::vector<std::string>>;
   using Options = std::vector<std::pair<const char*, Option>>;
 
-  /// `applicationId` names an installed desktop file, without ".desktop": by it the desktop shows
-  /// and stores what the user allows. `bus` is served, was given to `offerOfPortal`, and outlives
-  /// this object.
-  Portal(DesktopBus& bus, std::string applicationId);
+  /// `bus` is served, was given to `offerOfPortal`, and outlives this object.
+  explicit Portal(DesktopBus& bus);
   Portal(const Portal&) = delete;
   Portal& operator=(const Portal&) = delete;
 
@@ -84,7 +86,6 @@ class Portal {
   struct Request;
 
   DesktopBus& bus_;
-  std::string applicationId_;
   std::uint64_t lastToken_ = 0;
   DesktopBus::Receiver onOwner_;
   DesktopBus::Subscription owners_;

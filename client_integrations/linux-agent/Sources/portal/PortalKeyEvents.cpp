@@ -114,7 +114,7 @@ Delivery PortalKeyEvents::deliveryNow(const Wish& wish) const {
   const auto front = services_.applications.frontmost();
   if (!front || front->instance != wish.target->instance) return Delivery::declined;
   if (!isSameDocument(wish.target->document, front->document)) return Delivery::documentChanged;
-  return services_.isScreenLocked() ? Delivery::declined : Delivery::delivered;
+  return services_.isKeyboardTaken() ? Delivery::declined : Delivery::delivered;
 }
 
 }  // namespace quillseal::linux

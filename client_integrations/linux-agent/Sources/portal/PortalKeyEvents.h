@@ -26,8 +26,9 @@ class PortalKeyEvents : public desktop::KeyEvents {
     const desktop::Applications& applications;
     /// Whether the user may still hold the keys of the hotkey.
     std::function<bool()> isHotkeyHeld;
-    /// Whether the screen is locked, in front of windows that still count as active.
-    std::function<bool()> isScreenLocked;
+    /// Whether the screen lock or the like takes the keys from a window that still counts as
+    /// active.
+    std::function<bool()> isKeyboardTaken;
     /// Tells the user why keys cannot be pressed in this session.
     std::function<void()> explain;
     /// Tells the user something in a notification.

@@ -16,10 +16,6 @@
 namespace quillseal::linux {
 namespace {
 
-std::string ownApplicationId() {
-  return QGuiApplication::desktopFileName().toStdString();
-}
-
 /// Whether the compositor lets programs see windows and clipboard, as KWin does.
 bool tellsOfWindows(const WaylandConnection* compositor) {
   return compositor != nullptr && compositor->isAlive() &&
@@ -36,10 +32,11 @@ bool PortalSystem::reachesApplications(const Access& access) {
 PortalSystem::PortalSystem(Access access, const Services& services)
     : access_(std::move(access)),
       windows_(tellsOfWindows(access_.compositor.get())
-                   ? std::make_unique<WaylandWindows>(*access_.compositor, ownApplicationId())
+                   ? std::make_unique<WaylandWindows>(
+                         *access_.compositor, QGuiApplication::desktopFileName().toStdString())
                    : nullptr),
       extension_(*access_.bus),
-      portal_(*access_.portalBus, ownApplicationId()),
+      portal_(*access_.portalBus),
       remote_({.loop = services.loop,
                .portal = portal_,
                .offer = access_.offer,
@@ -56,14 +53,17 @@ PortalSystem::PortalSystem(Access access, const Services& services)
                      // Qt and the programs that are started take it from there.
                      qputenv("XDG_ACTIVATION_TOKEN", QByteArray::fromStdString(token));
                    }}),
-      keys_(
-          {.loop = services.loop,
-           .remote = remote_,
-           .applications = *applications_,
-           .isHotkeyHeld = [this] { return isHotkeyHeld(); },
-           .isScreenLocked = [this] { return windows_ != nullptr && isScreenLocked(*access_.bus); },
-           .explain = services.explain,
-           .tell = services.tell}) {
+      keys_({.loop = services.loop,
+             .remote = remote_,
+             .applications = *applications_,
+             .isHotkeyHeld = [this] { return isHotkeyHeld(); },
+             .isKeyboardTaken =
+                 [this] {
+                   return windows_ != nullptr &&
+                          (isScreenLocked(*access_.bus) || isEffectTakingKeys(*access_.bus));
+                 },
+             .explain = services.explain,
+             .tell = services.tell}) {
   access_.bus->serve(services.loop, services.descriptors);
   access_.portalBus->serve(services.loop, services.descriptors);
   if (access_.compositor != nullptr) access_.compositor->serve(services.loop, services.descriptors);

@@ -1,6 +1,18 @@
 #include "session/ScreenLock.h"
 
+#include <algorithm>
+#include <array>
+#include <string_view>
+
 namespace quillseal::linux {
+namespace {
+
+/// Parts of KWin that take the keys while the window below stays active: overview, grid of
+/// desktops, windows side by side, and the choice of a window with Alt+Tab.
+constexpr auto keyTakingEffects = std::to_array<std::string_view>(
+    {"desktopgrid", "highlightwindow", "overview", "presentwindows", "windowview"});
+
+}  // namespace
 
 bool isScreenLocked(DesktopBus& bus) {
   constexpr const char* service = "org.freedesktop.ScreenSaver";
@@ -14,6 +26,21 @@ bool isScreenLocked(DesktopBus& bus) {
     return isLocked != 0;
   // Without the service nobody locks the screen. One that does not answer may have locked it.
   return bus.knows(service).value_or(true);
+}
+
+bool isEffectTakingKeys(DesktopBus& bus) {
+  const DesktopBus::Message answer = bus.call({.service = "org.kde.KWin",
+                                               .path = "/Effects",
+                                               .interface = "org.freedesktop.DBus.Properties",
+                                               .name = "Get"},
+                                              "ss", "org.kde.kwin.Effects", "activeEffects");
+  if (answer == nullptr || ::sd_bus_message_enter_container(answer.get(), 'v', "as") <= 0 ||
+      ::sd_bus_message_enter_container(answer.get(), 'a', "s") <= 0)
+    return false;
+  bool isFound = false;
+  for (const char* effect = nullptr; ::sd_bus_message_read(answer.get(), "s", &effect) > 0;)
+    isFound = isFound || std::ranges::find(keyTakingEffects, effect) != keyTakingEffects.end();
+  return isFound;
 }
 
 }  // namespace quillseal::linux

@@ -8,4 +8,8 @@ namespace quillseal::linux {
 /// Windows stay active behind a locked screen.
 [[nodiscard]] bool isScreenLocked(DesktopBus& bus);
 
+/// Returns whether KWin shows its overview or the like, which takes the keys while the window below
+/// stays active.
+[[nodiscard]] bool isEffectTakingKeys(DesktopBus& bus);
+
 }  // namespace quillseal::linux

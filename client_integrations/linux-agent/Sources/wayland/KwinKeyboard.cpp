@@ -41,26 +41,6 @@ std::optional<std::uint32_t> placeOf(Keysym symbol) {
   }
 }
 
-/// Parts of KWin that take the keys while the window below stays active: overview, grid of
-/// desktops, windows side by side, and the choice of a window with Alt+Tab.
-constexpr auto keyTakingEffects = std::to_array<std::string_view>(
-    {"desktopgrid", "highlightwindow", "overview", "presentwindows", "windowview"});
-
-bool isEffectTakingKeys(DesktopBus& bus) {
-  const DesktopBus::Message answer = bus.call({.service = "org.kde.KWin",
-                                               .path = "/Effects",
-                                               .interface = "org.freedesktop.DBus.Properties",
-                                               .name = "Get"},
-                                              "ss", "org.kde.kwin.Effects", "activeEffects");
-  if (answer == nullptr || ::sd_bus_message_enter_container(answer.get(), 'v', "as") <= 0 ||
-      ::sd_bus_message_enter_container(answer.get(), 'a', "s") <= 0)
-    return false;
-  bool isFound = false;
-  for (const char* effect = nullptr; ::sd_bus_message_read(answer.get(), "s", &effect) > 0;)
-    isFound = isFound || std::ranges::find(keyTakingEffects, effect) != keyTakingEffects.end();
-  return isFound;
-}
-
 /// Its number in the keyboard's layouts; nothing when nobody tells.
 std::optional<std::uint32_t> layoutInUse(DesktopBus& bus) {
   const DesktopBus::Message answer = bus.call({.service = "org.kde.keyboard",

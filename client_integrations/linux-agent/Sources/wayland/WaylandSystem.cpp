@@ -32,7 +32,7 @@ std::unique_ptr<desktop::Hotkey> offeredHotkey(const WindowingSystem::Services& 
 
 std::unique_ptr<Portal> portalWithHotkey(DesktopBus* bus, const PortalOffer& offer) {
   if (bus == nullptr || offer.globalShortcuts == 0) return nullptr;
-  return std::make_unique<Portal>(*bus, QGuiApplication::desktopFileName().toStdString());
+  return std::make_unique<Portal>(*bus);
 }
 
 }  // namespace

@@ -317,6 +317,13 @@ TEST_F(PortalKeys, AreOnlyThoseThatDoNoHarmWhereverTheyGo) {
   EXPECT_EQ(press(Key::v, terminal), Delivery::declined);
 }
 
+TEST_F(PortalKeys, SayWhenTheyCannotBeRemembered) {
+  begin({});
+  std::ofstream(tokenFile.parent_path()) << "no folder";
+  EXPECT_TRUE(open());
+  EXPECT_THAT(told, HasSubstr("will ask for it again next time"));
+}
+
 TEST_F(PortalKeys, AreAllowedAgainOnlyWhenTheUserSigns) {
   begin({}, "old");
   ASSERT_TRUE(open());

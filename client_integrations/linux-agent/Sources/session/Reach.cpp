@@ -7,7 +7,9 @@ std::string limitsOf(const SessionTraits& session) {
     return "This Wayland desktop lets no program read what is selected in another or press keys "
            "there, so that Quillseal cannot sign selected text here. Its settings work. Signing "
            "works on sway and other desktops built on wlroots, on KDE Plasma 5 where the package "
-           "of Quillseal is installed, and in an X11 session.";
+           "of Quillseal is installed, and on GNOME and KDE Plasma 6 where the portal of the "
+           "desktop "
+           "lets programs press keys and use the clipboard.";
   if (!session.canPressKeys)
     return "This X server lacks the XTEST extension, with which Quillseal copies the selection and "
            "pastes the signed text. Its settings work; signing does not. Start the X server with "
@@ -17,7 +19,8 @@ std::string limitsOf(const SessionTraits& session) {
            "and the hotkey works only while one of them is in front. Bind the command “quillseal "
            "--sign” to a shortcut in the keyboard settings of your desktop instead. Every "
            "application is reached on sway and other desktops built on wlroots, on KDE Plasma 5 "
-           "where the package of Quillseal is installed, and in an X11 session.";
+           "where the package of Quillseal is installed, and on GNOME and KDE Plasma 6 where the "
+           "portal of the desktop lets programs press keys and use the clipboard.";
   return {};
 }
 

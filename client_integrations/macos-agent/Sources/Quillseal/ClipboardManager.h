@@ -42,7 +42,7 @@ enum class Placement {
   documentChanged,   ///< the source shows another document than the one that was signed in
   sourceClosed,
   sourceUnknown,  ///< the desktop did not say where the text came from, and did not take the keys
-  terminal,  ///< whose shell would run the block's lines as commands
+  terminal,       ///< whose shell would run the block's lines as commands
 };
 
 /// Replaces the clipboard by the signed block and, if asked, brings the source application to the

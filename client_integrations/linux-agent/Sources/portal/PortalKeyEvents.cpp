@@ -34,7 +34,7 @@ constexpr auto clipboardPropagation = 100ms;
 /// Ctrl+Insert and Shift+Insert mean the same in every layout.
 std::vector<Keysym> chordIn(desktop::KeyPress press,
                             const std::optional<desktop::RunningApplication>& target) {
-  const std::vector<Keysym> chord = chordFor(press, target ? target->categories : "", "");
+  std::vector<Keysym> chord = chordFor(press, target ? target->categories : "", "");
   if (chord != chordOf(press)) return chord;  // in a terminal
   if (press.key == Key::c) return {XKB_KEY_Control_L, XKB_KEY_Insert};
   if (press.key == Key::v) return {XKB_KEY_Shift_L, XKB_KEY_Insert};

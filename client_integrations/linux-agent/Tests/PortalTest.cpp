@@ -494,7 +494,7 @@ TEST_F(PortalClipboard, HoldsWhatWasCopied) {
 
 TEST_F(PortalClipboard, OutlivesEveryOwner) {
   for (const Owner owner :
-       {Owner::isSilent, Owner::writesForever, Owner::closes, Owner::givesNoFile}) {
+       {Owner::isSilent, Owner::writesTooMuch, Owner::closes, Owner::givesNoFile}) {
     begin({.owner = owner});
     ASSERT_TRUE(open());
     desk->copy({"text/plain"});

@@ -23,7 +23,7 @@ namespace quillseal::testing {
 class ScriptedPortal {
  public:
   /// What the owner of the clipboard does when it is asked for text.
-  enum class Owner { writes, isSilent, writesForever, closes, givesNoFile };
+  enum class Owner { writes, isSilent, writesTooMuch, closes, givesNoFile };
 
   struct Script {
     linux::PortalOffer offer{.remoteDesktop = 2, .globalShortcuts = 2, .clipboard = 1};
@@ -251,14 +251,14 @@ class ScriptedPortal {
     const std::string text = std::string(format) == "x-kde-passwordManagerHint" ? "secret" : format;
     if (script_.owner == Owner::writes)
       static_cast<void>(::write(ends[1], text.data(), text.size()) < 0);
-    if (script_.owner == Owner::writesForever) {
+    if (script_.owner == Owner::writesTooMuch) {
       const std::string much(std::size_t{32} * 1024, 'x');
       static_cast<void>(::write(ends[1], much.data(), much.size()) < 0);
     }
-    if (script_.owner == Owner::writes || script_.owner == Owner::closes)
-      ::close(ends[1]);
-    else
+    if (script_.owner == Owner::isSilent)
       files_.push_back(ends[1]);
+    else
+      ::close(ends[1]);
     return result;
   }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <initializer_list>
 #include <mutex>
@@ -17,7 +18,7 @@ namespace quillseal::testing {
 /// A program on a message bus that owns some names and answers every call, on its own thread.
 class BusServices {
  public:
-  /// Replies to the call of a method and returns what sd_bus_message_handler_t demands.
+  /// Replies to the call of a method, notes it, and returns what sd_bus_message_handler_t demands.
   using Answer = std::function<int(sd_bus_message*, const std::string& method, sd_bus_error*)>;
 
   /// `open`: sd_bus_open_user or sd_bus_open_system.
@@ -27,8 +28,10 @@ class BusServices {
     open(&opened);
     bus_.reset(opened);
     ::sd_bus_add_fallback(bus_.get(), nullptr, "/", handle, this);
+    // An earlier program may not be gone yet.
+    constexpr std::uint64_t atOnce = SD_BUS_NAME_ALLOW_REPLACEMENT | SD_BUS_NAME_REPLACE_EXISTING;
     for (const char* name : names)
-      ::sd_bus_request_name(bus_.get(), name, 0);
+      ::sd_bus_request_name(bus_.get(), name, atOnce);
     thread_ = std::jthread([this](const std::stop_token& stop) {
       while (!stop.stop_requested()) {
         while (::sd_bus_process(bus_.get(), nullptr) > 0) {
@@ -52,7 +55,7 @@ class BusServices {
     const std::lock_guard lock(mutex_);
     signals_.push_back(std::move(emit));
   }
-  /// Returns the methods called so far, in order.
+  /// Returns what was noted so far, in order.
   [[nodiscard]] std::vector<std::string> calls() {
     const std::lock_guard lock(mutex_);
     return calls_;
@@ -65,15 +68,16 @@ class BusServices {
     return calls();
   }
 
+ protected:
+  void note(const std::string& call) {
+    const std::lock_guard lock(mutex_);
+    calls_.push_back(call);
+  }
+
  private:
   static int handle(sd_bus_message* message, void* self, sd_bus_error* error) {
-    auto& services = *static_cast<BusServices*>(self);
-    const std::string method = ::sd_bus_message_get_member(message);
-    {
-      const std::lock_guard lock(services.mutex_);
-      services.calls_.push_back(method);
-    }
-    return services.answer_(message, method, error);
+    return static_cast<BusServices*>(self)->answer_(message, ::sd_bus_message_get_member(message),
+                                                    error);
   }
 
   Answer answer_;

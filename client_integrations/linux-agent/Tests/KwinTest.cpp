@@ -45,12 +45,14 @@ class ScriptedKde : public testing::BusServices {
   };
 
   explicit ScriptedKde(const Script& script)
-      : BusServices(::sd_bus_open_user,
-                    {"org.kde.KWin", "org.kde.kglobalaccel", "org.kde.keyboard",
-                     "org.freedesktop.ScreenSaver"},
-                    [script](sd_bus_message* call, const std::string& method, sd_bus_error* error) {
-                      return answer(script, call, method, error);
-                    }) {}
+      : BusServices(
+            ::sd_bus_open_user,
+            {"org.kde.KWin", "org.kde.kglobalaccel", "org.kde.keyboard",
+             "org.freedesktop.ScreenSaver"},
+            [this, script](sd_bus_message* call, const std::string& method, sd_bus_error* error) {
+              note(method);
+              return answer(script, call, method, error);
+            }) {}
 
   /// Emits "globalShortcutPressed" or the like, for an action of Quillseal's.
   void tell(const std::string& signal, const std::string& action = "sign") {

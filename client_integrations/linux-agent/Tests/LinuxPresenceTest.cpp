@@ -37,11 +37,13 @@ struct Script {
 class PresenceServices : public testing::BusServices {
  public:
   explicit PresenceServices(Script script)
-      : BusServices(::sd_bus_open_system, {"net.reactivated.Fprint", "org.freedesktop.PolicyKit1"},
-                    [script = std::move(script)](sd_bus_message* call, const std::string& method,
-                                                 sd_bus_error* error) mutable {
-                      return answer(script, call, method, error);
-                    }) {}
+      : BusServices(
+            ::sd_bus_open_system, {"net.reactivated.Fprint", "org.freedesktop.PolicyKit1"},
+            [this, script = std::move(script)](sd_bus_message* call, const std::string& method,
+                                               sd_bus_error* error) mutable {
+              note(method);
+              return answer(script, call, method, error);
+            }) {}
 
  private:
   static constexpr const char* reader = "/net/reactivated/Fprint/Device/0";

@@ -113,19 +113,13 @@ class PortalTest : public ::testing::Test {
   }
 
   bool open() {
-    std::optional<bool> isOpen;
-    const desktop::Ticket opening = remote->open([&](bool result) { isOpen = result; });
-    testing::runUntil(loop, [&] { return isOpen.has_value(); });
-    return *isOpen;
+    return testing::awaited<bool>(loop, [this](auto done) { return remote->open(done); });
   }
 
   Delivery press(Key key, const std::optional<desktop::RunningApplication>& target) {
-    std::optional<Delivery> delivery;
-    const desktop::Ticket pressing =
-        keys->press({.key = key, .modifiers = desktop::Modifiers::command}, target, {},
-                    [&](Delivery result) { delivery = result; });
-    testing::runUntil(loop, [&] { return delivery.has_value(); });
-    return *delivery;
+    return testing::awaited<Delivery>(loop, [&](auto done) {
+      return keys->press({.key = key, .modifiers = desktop::Modifiers::command}, target, {}, done);
+    });
   }
 
   [[nodiscard]] std::string storedToken() const {

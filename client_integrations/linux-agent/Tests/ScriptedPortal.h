@@ -2,25 +2,19 @@
 
 #include <algorithm>
 #include <array>
-#include <atomic>
-#include <chrono>
-#include <functional>
-#include <mutex>
 #include <string>
-#include <thread>
 #include <utility>
 #include <vector>
 
-#include <systemd/sd-bus.h>
 #include <unistd.h>
 
-#include "core/text/UniqueHandle.h"
+#include "BusServices.h"
 #include "portal/Portal.h"
 
 namespace quillseal::testing {
 
-/// The portal of a desktop on the session bus, on its own thread.
-class ScriptedPortal {
+/// The portal of a desktop on the session bus.
+class ScriptedPortal : public BusServices {
  public:
   /// What the owner of the clipboard does when it is asked for text.
   enum class Owner { writes, isSilent, writesTooMuch, closes, givesNoFile };
@@ -40,31 +34,25 @@ class ScriptedPortal {
 
   static constexpr const char* session = "/org/freedesktop/portal/desktop/session/s";
 
-  explicit ScriptedPortal(Script script) : script_(std::move(script)) {
-    sd_bus* opened = nullptr;
-    ::sd_bus_open_user(&opened);
-    bus_.reset(opened);
-    ::sd_bus_add_fallback(bus_.get(), nullptr, "/", handle, this);
-    ::sd_bus_request_name(bus_.get(), linux::Portal::service, 0);
-    thread_ = std::thread([this] { serve(); });
-  }
+  explicit ScriptedPortal(Script script)
+      : BusServices(::sd_bus_open_user, {linux::Portal::service},
+                    [this](sd_bus_message* call, const std::string& method, sd_bus_error* error) {
+                      return answer(*call, method, error);
+                    }),
+        script_(std::move(script)) {}
   ~ScriptedPortal() {
-    ends_ = true;
-    thread_.join();
+    static_cast<void>(end());
     for (const int file : files_)
       ::close(file);
   }
-  ScriptedPortal(const ScriptedPortal&) = delete;
-  ScriptedPortal& operator=(const ScriptedPortal&) = delete;
 
   /// Emits a signal of the portal or of its session.
   template <typename... Arguments>
   void emit(const std::string& interface, const std::string& name, const std::string& types,
             Arguments... arguments) {
-    const std::lock_guard lock(mutex_);
-    work_.emplace_back([=, this] {
+    post([=](sd_bus* bus) {
       const bool isOfSession = interface == "Session";
-      ::sd_bus_emit_signal(bus_.get(), isOfSession ? session : linux::Portal::path,
+      ::sd_bus_emit_signal(bus, isOfSession ? session : linux::Portal::path,
                            ("org.freedesktop.portal." + interface).c_str(), name.c_str(),
                            types.c_str(), arguments...);
     });
@@ -73,10 +61,9 @@ class ScriptedPortal {
   /// The ways in which portals report a copy.
   enum class Report { documented, nested, ofTheAgent, malformed };
   void copy(const std::vector<std::string>& formats, Report report = Report::documented) {
-    const std::lock_guard lock(mutex_);
-    work_.emplace_back([=, this] {
+    post([=](sd_bus* bus) {
       sd_bus_message* made = nullptr;
-      ::sd_bus_message_new_signal(bus_.get(), &made, linux::Portal::path,
+      ::sd_bus_message_new_signal(bus, &made, linux::Portal::path,
                                   "org.freedesktop.portal.Clipboard", "SelectionOwnerChanged");
       const linux::DesktopBus::Message signal(made);
       ::sd_bus_message_append(made, "o", session);
@@ -89,22 +76,18 @@ class ScriptedPortal {
                                 "session_is_owner", "b", 1);
       else
         ::sd_bus_message_append(made, "a{sv}", 1, "mime_types", "s", formats.at(0).c_str());
-      ::sd_bus_send(bus_.get(), made, nullptr);
+      ::sd_bus_send(bus, made, nullptr);
     });
   }
 
   /// Allows what was asked for and not answered.
   void allow() {
-    const std::lock_guard lock(mutex_);
-    work_.emplace_back(
-        [this] { respond(*pending_, "os", "ua{sv}", 0U, 1, "devices", "u", script_.devices); });
+    post([this](sd_bus*) {
+      respond(*pending_, "os", "ua{sv}", 0U, 1, "devices", "u", script_.devices);
+    });
   }
 
-  /// The calls so far, with the arguments that matter.
-  [[nodiscard]] std::vector<std::string> calls() {
-    const std::lock_guard lock(mutex_);
-    return calls_;
-  }
+  /// Of `calls`, which have the arguments that matter.
   [[nodiscard]] bool hasCall(const std::string& call) {
     return std::ranges::count(calls(), call) > 0;
   }
@@ -119,31 +102,6 @@ class ScriptedPortal {
   void stopReading() { ::close(std::exchange(files_.back(), -1)); }
 
  private:
-  void serve() {
-    while (!ends_) {
-      while (::sd_bus_process(bus_.get(), nullptr) > 0) {
-      }
-      std::vector<std::function<void()>> work;
-      {
-        const std::lock_guard lock(mutex_);
-        work.swap(work_);
-      }
-      for (const auto& one : work)
-        one();
-      ::sd_bus_flush(bus_.get());
-      ::sd_bus_wait(bus_.get(), 2000);
-    }
-  }
-
-  static int handle(sd_bus_message* message, void* self, sd_bus_error* error) {
-    return static_cast<ScriptedPortal*>(self)->answer(*message, error);
-  }
-
-  void note(const std::string& call) {
-    const std::lock_guard lock(mutex_);
-    calls_.push_back(call);
-  }
-
   int refuse(sd_bus_error* error) {
     return ::sd_bus_error_set(error, "org.freedesktop.portal.Error.Failed", "no");
   }
@@ -157,13 +115,13 @@ class ScriptedPortal {
     const std::string path = std::string(linux::Portal::path) + "/request/" + sender + "/" + token;
     ::sd_bus_reply_method_return(&call, "o", path.c_str());
     constexpr const char* interface = "org.freedesktop.portal.Request";
+    sd_bus* const bus = ::sd_bus_message_get_bus(&call);
     if (script_.isMalformed)
-      return ::sd_bus_emit_signal(bus_.get(), path.c_str(), interface, "Response", "sb", "a", 1);
-    return ::sd_bus_emit_signal(bus_.get(), path.c_str(), interface, "Response", types, results...);
+      return ::sd_bus_emit_signal(bus, path.c_str(), interface, "Response", "sb", "a", 1);
+    return ::sd_bus_emit_signal(bus, path.c_str(), interface, "Response", types, results...);
   }
 
-  int answer(sd_bus_message& call, sd_bus_error* error) {
-    const std::string member = ::sd_bus_message_get_member(&call);
+  int answer(sd_bus_message& call, const std::string& member, sd_bus_error* error) {
     const std::string interface = ::sd_bus_message_get_interface(&call);
     if (member == "Get") return property(call, error);
     if (member.starts_with("NotifyKeyboard")) {
@@ -263,14 +221,8 @@ class ScriptedPortal {
   }
 
   Script script_;
-  UniqueHandle<sd_bus, ::sd_bus_flush_close_unref> bus_;
   linux::DesktopBus::Message pending_;
   std::vector<int> files_;
-  std::mutex mutex_;
-  std::vector<std::string> calls_;           // guarded by mutex_
-  std::vector<std::function<void()>> work_;  // guarded by mutex_
-  std::atomic<bool> ends_ = false;
-  std::thread thread_;
 };
 
 }  // namespace quillseal::testing

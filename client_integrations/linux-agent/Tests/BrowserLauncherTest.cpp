@@ -125,6 +125,14 @@ TEST_F(BrowserLauncherTest, FindsChromeAndTheDefaultBrowser) {
   EXPECT_EQ(launcher_.defaultFor("gopher://seal.example/"), std::nullopt);
 }
 
+TEST_F(BrowserLauncherTest, KnowsTheApplicationOfAWindowByItsBestSign) {
+  for (const auto& [windowClass, gtkApplicationId, executable, id] :
+       testing::cases<std::string, std::string, std::string, std::string>()) {
+    const auto entry = entries_.forWindow({windowClass, gtkApplicationId, executable});
+    EXPECT_EQ(entry ? entry->id : "none", id) << windowClass << gtkApplicationId << executable;
+  }
+}
+
 TEST_F(BrowserLauncherTest, HandsAddressesOverInPrivatePages) {
   const fs::path snapFolder = computer().root() / "home/snap/snapped/common";
   fs::create_directories(snapFolder);

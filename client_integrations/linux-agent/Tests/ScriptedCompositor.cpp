@@ -136,6 +136,9 @@ struct ScriptedCompositor::Server {
     } else if (request == "create_virtual_keyboard") {
       make(resource, zwp_virtual_keyboard_v1_interface, its[1].n);
     } else if (request == "keymap") {
+      std::string text(its[2].u, ' ');
+      if (::pread(its[1].h, text.data(), text.size(), 0) < 1 || text.back() != '\0')
+        keys.emplace_back("a keymap without its end");
       ::close(its[1].h);
     } else if (request == "key") {
       press(its[1].u, its[2].u);
@@ -164,7 +167,8 @@ struct ScriptedCompositor::Server {
   void answer(const Offered& entry, const std::string& format, int file) {
     const auto found = entry.formats.find(format);
     const std::string text = found == entry.formats.end() ? "" : found->second;
-    if (entry.answer == Answer::all || entry.answer == Answer::endless) {
+    const bool isFirst = entry.answer == Answer::onlyOnce && asked.size() == 1;
+    if (isFirst || entry.answer == Answer::all || entry.answer == Answer::endless) {
       writers.emplace_back(pour, file, text, entry.answer == Answer::endless);
       return;
     }
@@ -294,7 +298,7 @@ struct ScriptedCompositor::Server {
       add(org_kde_kwin_fake_input_interface, traits.fakeInputVersion);
     else if (traits.hasKeyboards)
       add(zwp_virtual_keyboard_manager_v1_interface, 1);
-    if (traits.namesWindows) add(windowManager(), traits.isKwin ? 16 : 3);
+    if (traits.namesWindows) add(windowManager(), traits.isKwin ? 4 : 3);
   }
 
   void run() {

@@ -19,6 +19,7 @@ enum class Answer {
   part,        ///< writes the text and does not end
   thenLeaves,  ///< writes the text and ends, with its offer
   endless,     ///< writes the text again and again
+  onlyOnce,    ///< as `all` for the format that is requested first, then as `part`
 };
 
 struct Offered {

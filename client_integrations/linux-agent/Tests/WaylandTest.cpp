@@ -312,13 +312,16 @@ TEST(WaylandPasteboard, OutlivesEveryOwner) {
 TEST(WaylandPasteboard, ReadsWhatIsCopiedMeanwhileInstead) {
   ScriptedCompositor compositor;
   Agent agent;
-  compositor.copy({.formats = {{utf8Text, "old"}}, .answer = Answer::part});
+  compositor.copy(
+      {.formats = {{utf8Text, "old"}, {"text/html", "<p>old"}}, .answer = Answer::onlyOnce});
   agent.catchUp();
   bool isFetched = false;
   const desktop::Ticket ticket = agent.pasteboard.fetch([&] { isFetched = true; });
-  compositor.copy({.formats = {{utf8Text, "new"}}});
+  testing::runUntil(agent.loop, [&] { return compositor.asked().size() == 2; });
+  compositor.copy({.formats = {{"text/html", "<p>new"}}});
   testing::runUntil(agent.loop, [&] { return isFetched; });
-  EXPECT_EQ(agent.pasteboard.plainText(), "new");
+  EXPECT_EQ(agent.pasteboard.plainText(), std::nullopt);
+  EXPECT_EQ(agent.pasteboard.html(), "<p>new");
 }
 
 TEST(WaylandPasteboard, ThrowsUnlessTheBlockIsReallyOffered) {

@@ -2,14 +2,9 @@
 #include <chrono>
 #include <filesystem>
 #include <fstream>
-#include <memory>
 #include <optional>
-#include <string>
-#include <utility>
-#include <vector>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <xkbcommon/xkbcommon-keysyms.h>
 
 #include "PrivateBus.h"
@@ -31,11 +26,9 @@ namespace quillseal::linux {
 namespace {
 
 using namespace std::chrono_literals;
+using namespace ::testing;
 using desktop::Delivery;
 using desktop::Key;
-using ::testing::Contains;
-using ::testing::HasSubstr;
-using ::testing::Not;
 using testing::ScriptedPortal;
 using Script = ScriptedPortal::Script;
 using Owner = ScriptedPortal::Owner;
@@ -333,7 +326,7 @@ TEST_F(PortalKeys, AreAllowedAgainOnlyWhenTheUserSigns) {
   EXPECT_EQ(press(Key::c, {}), Delivery::declined);
   EXPECT_FALSE(keys->isTrusted());
   EXPECT_THAT(told, HasSubstr("did not let Quillseal press keys"));
-  EXPECT_THAT(pressed(), ::testing::IsEmpty());
+  EXPECT_THAT(pressed(), IsEmpty());
   told.clear();
   keys->askForTrust();
   testing::runUntil(loop, [&] { return !told.empty(); });
@@ -358,7 +351,7 @@ TEST_F(PortalKeys, AreNotPressedAfterTheRunWasCalledOffOrTheUserWasElsewhere) {
     }
     desk->allow();
     testing::runUntil(loop, [&] { return remote->isOpen(); });
-    EXPECT_THAT(pressed(), ::testing::IsEmpty());
+    EXPECT_THAT(pressed(), IsEmpty());
     EXPECT_EQ(delivery.has_value(), !isCalledOff);
   }
   EXPECT_EQ(delivery, Delivery::declined);

@@ -73,6 +73,13 @@ class ScriptedKde : public testing::BusServices {
       return ::sd_bus_reply_method_return(call, "v", "as", 2, "zoom", script.effect);
     if (method == "getLayout" && script.layout)
       return ::sd_bus_reply_method_return(call, "u", *script.layout);
+    if (method == "setShortcutKeys") {
+      std::uint32_t flags = 0;
+      ::sd_bus_message_skip(call, "asa(ai)");
+      ::sd_bus_message_read(call, "u", &flags);
+      // KDE's NoAutoloading, which replaces the keys that the user has chosen.
+      if ((flags & 4U) != 0) return ::sd_bus_error_set(error, "org.example.Overwritten", "");
+    }
     if (method == "setShortcutKeys" && script.granted != 0)
       return ::sd_bus_reply_method_return(call, "a(ai)", 2, 4, 0, 0, 0, 0, 4, script.granted, 0, 0,
                                           0);

@@ -185,6 +185,17 @@ TEST_F(MacMainLoopTest, SurvivesWorkThatThrows) {
   EXPECT_TRUE(runUntil([&] { return done; }));
 }
 
+// Acts like an open alert: posted work stays on the stack while a nested loop runs.
+TEST_F(MacMainLoopTest, GoesOnInsideALoopThatPostedWorkRuns) {
+  bool inner = false, outer = false;
+  loop_.post([&] {
+    EXPECT_TRUE(runUntil([&] { return inner; }));
+    outer = true;
+  });
+  loop_.post([&] { inner = true; });
+  EXPECT_TRUE(runUntil([&] { return outer; }));
+}
+
 TEST_F(MacMainLoopTest, RunsATimerOnceUnlessItsTicketWasDropped) {
   int dropped = 0, kept = 0;
   static_cast<void>(loop_.after(10ms, [&] { ++dropped; }));

@@ -41,7 +41,7 @@ class WindowStory(windows.WindowStory):
         self.assertFalse([name for name in self.desktop.window_names() if name.startswith("*")])
 
 
-class KwinWindows(OnKwin, windows.SharedWindows, WindowStory):
+class KwinWindows(OnKwin, wayland.SharedWindows, WindowStory):
     def switch_to(self, window):
         self.desktop.show(window)
 

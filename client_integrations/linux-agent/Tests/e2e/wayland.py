@@ -55,7 +55,14 @@ class SwayApplications(OnSway, Applications, stories.Applications):
     """The same."""
 
 
-class SwayWindows(OnSway, windows.SharedWindows, windows.WindowStory):
+class SharedWindows(windows.SharedWindows):
+    def test_the_settings_come_to_the_front_again(self):
+        self.open_settings()
+        self.open_letter()
+        self.open_settings()
+
+
+class SwayWindows(OnSway, SharedWindows, windows.WindowStory):
     def switch_to(self, window):
         self.desktop.run("swaymsg", f"[con_id={window}] focus")
 

@@ -154,6 +154,15 @@ class Windows(SharedWindows, WindowStory):
     def leave_workspace(self):
         self.desktop.run("xdotool", "set_desktop", 1)
 
+    def test_the_source_is_minimised(self):
+        chat = self.open_chat()
+        letter = self.open_letter()
+        with self.while_the_server_is_slow():
+            self.desktop.run("xdotool", "windowminimize", letter.window)
+            self.desktop.wait_for_window(re.escape(chat.file.name))
+        self.desktop.wait_for_window(re.escape(letter.file.name))
+        self.assert_pasted_into_letter_alone(letter, chat)
+
     def test_another_window_comes_to_the_front_right_before_the_paste(self):
         chat = self.open_chat()
         letter = self.open_letter()

@@ -154,6 +154,7 @@ TEST(TabMessages, SurviveBeingPassedOn) {
   EXPECT_EQ(
       TabMessages::readGreeting(TabMessages::written(TabMessages::Greeting{"chromium"})).program,
       "chromium");
+  EXPECT_EQ(TabMessages::written(TabMessages::Greeting{"\xff"}), "{\"program\":\"\uFFFD\"}");
 }
 
 TEST(TabMessages, RefusesWhatIsNoSuchMessage) {

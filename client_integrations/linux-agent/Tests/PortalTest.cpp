@@ -13,6 +13,7 @@
 #include "TemporaryFolder.h"
 #include "applications/WindowDocument.h"
 #include "core/text/Error.h"
+#include "core/text/UniqueHandle.h"
 #include "desktop/SigningHotkey.h"
 #include "portal/Portal.h"
 #include "portal/PortalHotkey.h"
@@ -117,6 +118,21 @@ class PortalTest : public ::testing::Test {
 
   [[nodiscard]] std::string storedToken() const {
     return PrivateFile(tokenFile).read().value_or("");
+  }
+
+  /// Has another program address a signal to the agent, which needs no subscription.
+  template <typename... Arguments>
+  void forge(const DesktopBus::Signal& signal, const char* types, Arguments... arguments) {
+    sd_bus* opened = nullptr;
+    ::sd_bus_open_user(&opened);
+    const UniqueHandle<sd_bus, ::sd_bus_flush_close_unref> other(opened);
+    sd_bus_message* made = nullptr;
+    ::sd_bus_message_new_signal(opened, &made, signal.path, signal.interface, signal.name);
+    const DesktopBus::Message message(made);
+    ::sd_bus_message_append(made, types, arguments...);
+    ::sd_bus_send_to(opened, made, bus->ownName().c_str(), nullptr);
+    ::sd_bus_flush(opened);
+    settle();
   }
 
   /// Lets everything arrive that was sent, on both sides.
@@ -314,6 +330,19 @@ TEST_F(PortalKeys, SayWhenTheyCannotBeRemembered) {
 TEST_F(PortalKeys, AreAllowedAgainOnlyWhenTheUserSigns) {
   begin({}, "old");
   ASSERT_TRUE(open());
+  forge({.sender = nullptr,
+         .path = ScriptedPortal::session,
+         .interface = "org.freedesktop.portal.Session",
+         .name = "Closed",
+         .firstArgument = nullptr},
+        "");
+  forge({.sender = nullptr,
+         .path = "/org/freedesktop/DBus",
+         .interface = "org.freedesktop.DBus",
+         .name = "NameOwnerChanged",
+         .firstArgument = nullptr},
+        "sss", Portal::service, ":1.1", "");
+  EXPECT_TRUE(remote->isOpen());
   desk->emit("Session", "Closed", "");  // by the user, in the panel
   testing::runUntil(loop, [&] { return !remote->isOpen(); });
   EXPECT_EQ(std::ranges::count(desk->calls(), "Start"), 1);
@@ -378,7 +407,14 @@ TEST_F(PortalHotkeys, ArePressedOnceUntilTheyAreReleased) {
                "activation_token", "s", "abc");
   };
   testing::runUntil(loop, [&] { return desk->hasCall("BindShortcuts"); });
+  forge({.sender = nullptr,
+         .path = Portal::path,
+         .interface = "org.freedesktop.portal.GlobalShortcuts",
+         .name = "Activated",
+         .firstArgument = nullptr},
+        "osta{sv}", ScriptedPortal::session, "sign", std::uint64_t{1}, 0);
   for (const int expected : {1, 2}) {
+    EXPECT_EQ(presses, expected - 1);
     desk->emit("GlobalShortcuts", "Activated", "s", "malformed");
     tell("Activated", "sign", "/other");
     tell("Activated", "other", ScriptedPortal::session);

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <cstdlib>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -13,6 +14,15 @@
 
 namespace quillseal::linux {
 namespace {
+
+constexpr const char* busService = "org.freedesktop.DBus";
+
+constexpr DesktopBus::Method methodOfBus(const char* name) {
+  return {.service = busService,
+          .path = "/org/freedesktop/DBus",
+          .interface = busService,
+          .name = name};
+}
 
 std::uint64_t inMicroseconds(std::chrono::milliseconds time) {
   return static_cast<std::uint64_t>(std::chrono::microseconds(time).count());
@@ -46,6 +56,34 @@ int answer(sd_bus_message* message, void* data, sd_bus_error* /*error*/) {
   // A copy: the completion may drop the ticket, and with it the call.
   const auto answered = std::exchange(static_cast<Pending*>(data)->answered, nullptr);
   if (answered) answered(message);
+  return 0;
+}
+
+/// The other end of a subscription.
+struct Listener {
+  DesktopBus& bus;
+  std::string sender;
+  DesktopBus::Receiver& received;
+};
+
+/// Whether the service has sent the message. The library does not check that, and the bus delivers
+/// whatever another program addresses to this connection, subscribed to or not.
+bool isFrom(DesktopBus& bus, const std::string& service, sd_bus_message& message) {
+  const char* sender = ::sd_bus_message_get_sender(&message);
+  if (sender == nullptr) return false;
+  if (service == busService) return service == sender;
+  const DesktopBus::Message answer = bus.call(methodOfBus("GetNameOwner"), "s", service.c_str());
+  const char* owner = nullptr;
+  return answer != nullptr && ::sd_bus_message_read(answer.get(), "s", &owner) > 0 &&
+         std::string_view(owner) == sender;
+}
+
+int receive(sd_bus_message* message, void* data, sd_bus_error* /*error*/) {
+  const auto& listener = *static_cast<Listener*>(data);
+  if (!isFrom(listener.bus, listener.sender, *message)) return 0;
+  // A copy: the call may end the subscription, and its function with it.
+  const DesktopBus::Receiver call = listener.received;
+  call(*message);
   return 0;
 }
 
@@ -89,21 +127,14 @@ void DesktopBus::serve(desktop::MainLoop& loop, Descriptors& descriptors) {
 }
 
 std::optional<bool> DesktopBus::knows(const char* name) {
-  const Message answer = call({.service = "org.freedesktop.DBus",
-                               .path = "/org/freedesktop/DBus",
-                               .interface = "org.freedesktop.DBus",
-                               .name = "NameHasOwner"},
-                              "s", name);
+  const Message answer = call(methodOfBus("NameHasOwner"), "s", name);
   int has = 0;
   if (answer == nullptr || ::sd_bus_message_read(answer.get(), "b", &has) <= 0) return std::nullopt;
   return has != 0;
 }
 
 bool DesktopBus::start(const char* name, std::chrono::milliseconds limit) {
-  const Message request = newCall({.service = "org.freedesktop.DBus",
-                                   .path = "/org/freedesktop/DBus",
-                                   .interface = "org.freedesktop.DBus",
-                                   .name = "StartServiceByName"});
+  const Message request = newCall(methodOfBus("StartServiceByName"));
   if (request == nullptr || ::sd_bus_message_append(request.get(), "su", name, 0U) < 0)
     return false;
   return send(*request, limit) != nullptr;
@@ -147,18 +178,20 @@ DesktopBus::Message DesktopBus::send(sd_bus_message& request, std::chrono::milli
 }
 
 DesktopBus::Subscription DesktopBus::subscribe(const Signal& signal, Receiver& received) {
-  const auto receive = [](sd_bus_message* message, void* data, sd_bus_error*) {
-    // A copy: the call may end the subscription, and its function with it.
-    const Receiver call = *static_cast<Receiver*>(data);
-    call(*message);
-    return 0;
-  };
   std::string rule = std::string("type='signal',sender='") + signal.sender + "',path='" +
                      signal.path + "',interface='" + signal.interface + "',member='" + signal.name +
                      "'";
   if (signal.firstArgument != nullptr) rule.append(",arg0='").append(signal.firstArgument) += '\'';
   sd_bus_slot* slot = nullptr;
-  if (::sd_bus_add_match(bus_.get(), &slot, rule.c_str(), receive, &received) < 0) return nullptr;
+  auto listener = std::make_unique<Listener>(
+      Listener{.bus = *this, .sender = signal.sender, .received = received});
+  if (::sd_bus_add_match(bus_.get(), &slot, rule.c_str(), receive, listener.get()) < 0)
+    return nullptr;
+  // The slot owns it from here on, and outlives a call that ends the subscription.
+  ::sd_bus_slot_set_destroy_callback(slot, [](void* data) {
+    const std::unique_ptr<Listener> ended(static_cast<Listener*>(data));
+  });
+  static_cast<void>(listener.release());
   processQueued();
   return Subscription(slot);
 }

@@ -90,8 +90,8 @@ class DesktopBus {
   /// The name of this connection on the bus, such as ":1.42"; empty when there is none.
   [[nodiscard]] std::string ownName() const;
 
-  /// Calls `received` for each such signal, from inside the bus's events. The function outlives the
-  /// subscription. Null when subscribing failed.
+  /// Calls `received` for each such signal that comes from the owner of the sender's name, from
+  /// inside the bus's events. The function outlives the subscription. Null when subscribing failed.
   using Receiver = std::function<void(sd_bus_message&)>;
   [[nodiscard]] Subscription subscribe(const Signal& signal, Receiver& received);
 

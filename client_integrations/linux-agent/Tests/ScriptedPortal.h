@@ -21,11 +21,13 @@ class ScriptedPortal : public BusServices {
 
   struct Script {
     linux::PortalOffer offer{.remoteDesktop = 2, .globalShortcuts = 2, .clipboard = 1};
-    bool answers = true;         ///< to what the user is asked
-    std::uint32_t answer = 0;    ///< 1 when the user refuses, 2 when it fails
-    std::uint32_t devices = 1;   ///< that the user allows
+    bool answers = true;        ///< to what the user is asked
+    std::uint32_t answer = 0;   ///< 1 when the user refuses, 2 when it fails
+    std::uint32_t devices = 1;  ///< that the user allows
+    bool allowsClipboard = true;
     std::string token = "next";  ///< for the next session
     std::string knownToken{};    ///< the only one that is understood; any when empty
+    bool closesSession = false;  ///< with a token that is not, instead of an error
     bool isMalformed = false;    ///< all answers have wrong types
     std::string keys = "Press <Control><Alt><Super>h";
     Owner owner = Owner::writes;
@@ -83,7 +85,8 @@ class ScriptedPortal : public BusServices {
   /// Allows what was asked for and not answered.
   void allow() {
     post([this](sd_bus*) {
-      respond(*pending_, "os", "ua{sv}", 0U, 1, "devices", "u", script_.devices);
+      respond(*pending_, "os", "ua{sv}", 0U, 2, "devices", "u", script_.devices,
+              "clipboard_enabled", "b", 1);
     });
   }
 
@@ -136,8 +139,12 @@ class ScriptedPortal : public BusServices {
       const std::string token = linux::textOption(call, "o", "restore_token").value_or("");
       const bool isKept = linux::enterOption(call, "o", "persist_mode", "u");
       note(member + (isKept ? " kept " : " ") + token);
-      if (!token.empty() && !script_.knownToken.empty() && token != script_.knownToken)
-        return refuse(error);
+      if (!token.empty() && !script_.knownToken.empty() && token != script_.knownToken) {
+        if (!script_.closesSession) return refuse(error);
+        respond(call, "o", "ua{sv}", 2U, 0);
+        return ::sd_bus_emit_signal(::sd_bus_message_get_bus(&call), session,
+                                    "org.freedesktop.portal.Session", "Closed", "");
+      }
       return respond(call, "o", "ua{sv}", 0U, 0);
     }
     if (member == "Close")
@@ -153,8 +160,10 @@ class ScriptedPortal : public BusServices {
       return ::sd_bus_reply_method_return(&call, "o", "/later");
     }
     if (member == "Start")
-      return respond(call, "os", "ua{sv}", script_.answer, script_.token.empty() ? 1 : 2, "devices",
-                     "u", script_.devices, "restore_token", "s", script_.token.c_str());
+      return respond(call, "os", "ua{sv}", script_.answer, script_.token.empty() ? 2 : 3, "devices",
+                     "u", script_.devices, "clipboard_enabled", "b",
+                     static_cast<int>(script_.allowsClipboard), "restore_token", "s",
+                     script_.token.c_str());
     if (member == "BindShortcuts")
       return respond(call, "oa(sa{sv})s", "ua{sv}", script_.answer, 1, "shortcuts", "a(sa{sv})", 2,
                      "other", 0, "sign", 1, "trigger_description", "s", script_.keys.c_str());

@@ -19,8 +19,9 @@ constexpr std::uint32_t untilRevoked = 2;     // a persist_mode
 constexpr std::uint32_t firstWithTokens = 2;  // a version of the interface
 
 constexpr const char* refusal =
-    "Your desktop did not let Quillseal press keys, without which it cannot copy the text that you "
-    "selected. Sign again, and allow it when the desktop asks.";
+    "Your desktop did not let Quillseal press keys or use the clipboard, so it cannot copy the "
+    "text "
+    "that you selected. Sign again, and allow it when the desktop asks.";
 constexpr const char* absence =
     "The portal of your desktop does not let Quillseal in. Install the Debian package of Quillseal "
     "if it is not, or start Quillseal again.";
@@ -85,6 +86,7 @@ Task<> PortalRemote::openSession() {
 }
 
 Task<bool> PortalRemote::chooseDevices(std::string token) {
+  session_ = nullptr;  // its end must not end this attempt
   session_ = co_await PortalSession::open(services_.portal, interface, [this] { closed(); });
   if (session_ == nullptr) co_return false;
   Portal::Options options{{"types", keyboard}};
@@ -118,15 +120,18 @@ Task<bool> PortalRemote::start() {
   if (answer.outcome != PortalAnswer::Outcome::granted) co_return false;
 
   sd_bus_message& results = *answer.message;
-  // Each token holds for one session.
-  keepToken(textOption(results, "u", "restore_token").value_or(""));
-  int isEnabled = 1;
+  int isEnabled = 0;
   if (enterOption(results, "u", "clipboard_enabled", "b"))
     ::sd_bus_message_read(&results, "b", &isEnabled);
   hasClipboard_ = hasClipboard_ && isEnabled != 0;
   std::uint32_t devices = 0;
   if (enterOption(results, "u", "devices", "u")) ::sd_bus_message_read(&results, "u", &devices);
-  co_return (devices & keyboard) != 0;
+  const bool isEnough =
+      (devices & keyboard) != 0 && (hasClipboard_ || services_.offer.clipboard == 0);
+  // Each token holds for one session, and with one that allows too little the desktop would not ask
+  // again.
+  keepToken(isEnough ? textOption(results, "u", "restore_token").value_or("") : "");
+  co_return isEnough;
 }
 
 std::string PortalRemote::storedToken() const {

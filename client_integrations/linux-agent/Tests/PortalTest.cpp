@@ -467,6 +467,15 @@ TEST_F(PortalHotkeys, AreNamedAsTheDesktopBoundThem) {
     EXPECT_THAT(told, HasSubstr(row.told));
     EXPECT_EQ(told.empty(), *row.told == '\0');
   }
+  begin({.answer = 1});
+  hotkey->registerHotkey(desktop::signingHotkey, [] {});
+  testing::runUntil(loop, [&] { return !told.empty(); });
+  desk.reset();
+  desk.emplace(Script{});
+  testing::runUntil(loop, [&] { return bus->knows(Portal::service) == true; });
+  settle();
+  EXPECT_FALSE(desk->hasCall("CreateSession"));
+
   begin({.offer = {.remoteDesktop = 2}});
   EXPECT_THROW(hotkey->registerHotkey(desktop::signingHotkey, [] {}), Error);
 }

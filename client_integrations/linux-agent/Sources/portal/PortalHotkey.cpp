@@ -96,7 +96,7 @@ PortalHotkey::PortalHotkey(Services services)
         const char* name = nullptr;
         const char* before = nullptr;
         const char* now = nullptr;
-        if (::sd_bus_message_read(&message, "sss", &name, &before, &now) <= 0) return;
+        if (isRefused_ || ::sd_bus_message_read(&message, "sss", &name, &before, &now) <= 0) return;
         if (*now == '\0')
           bindAfter(pauseBeforeRestart);
         else if (session_ == nullptr && !isBinding_)
@@ -151,6 +151,7 @@ Task<> PortalHotkey::bind() {
     }
   }
   isBinding_ = false;
+  isRefused_ = answer.outcome == PortalAnswer::Outcome::refused;
   if (answer.outcome == PortalAnswer::Outcome::granted) {
     if (enterOption(*answer.message, "u", "shortcuts", "a(sa{sv})")) readKeys(*answer.message);
     co_return;

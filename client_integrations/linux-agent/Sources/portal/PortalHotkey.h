@@ -14,7 +14,7 @@
 namespace quillseal::linux {
 
 /// The global hotkey through the GlobalShortcuts portal. The desktop may ask the user, who may
-/// choose other keys. It is bound again when the portal restarts.
+/// choose other keys. It is bound again when the portal restarts, unless the user has refused it.
 class PortalHotkey : public desktop::Hotkey {
  public:
   /// All outlive this object.
@@ -52,6 +52,7 @@ class PortalHotkey : public desktop::Hotkey {
   std::string otherKeys_;
   std::unique_ptr<PortalSession> session_;
   bool isBinding_ = false;
+  bool isRefused_ = false;  // by the user
   bool isDown_ = false;
   desktop::MainLoop::TimePoint lastPress_;
   desktop::MainLoop::TimePoint lastRelease_;

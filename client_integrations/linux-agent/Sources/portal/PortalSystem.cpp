@@ -39,7 +39,10 @@ PortalSystem::PortalSystem(Access access, const Services& services)
       portal_(*access_.portalBus),
       remote_({.loop = services.loop,
                .portal = portal_,
-               .offer = access_.offer,
+               // The portal's clipboard is not asked for where the compositor has one.
+               .offer = {.remoteDesktop = access_.offer.remoteDesktop,
+                         .globalShortcuts = access_.offer.globalShortcuts,
+                         .clipboard = windows_ == nullptr ? access_.offer.clipboard : 0},
                .token = PrivateFile(access_.token),
                .tell = services.tell}),
       applications_(makeApplications(services)),

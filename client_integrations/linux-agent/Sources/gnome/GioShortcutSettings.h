@@ -1,0 +1,15 @@
+#pragma once
+
+#include "gnome/ShortcutSettings.h"
+
+namespace quillseal::linux {
+
+/// Writes and reads the settings with GSettings. The shortcuts of the Shell, the window manager and
+/// the media keys are compared as well as the user's own.
+class GioShortcutSettings final : public ShortcutSettings {
+ public:
+  [[nodiscard]] ShortcutState stateOf(const CustomShortcut& shortcut) override;
+  [[nodiscard]] bool add(const CustomShortcut& shortcut) override;
+};
+
+}  // namespace quillseal::linux

@@ -1,0 +1,103 @@
+#include "gnome/GnomeHotkey.h"
+
+#include <algorithm>
+#include <cctype>
+#include <utility>
+
+#include <xkbcommon/xkbcommon-keysyms.h>
+
+#include "core/text/Error.h"
+#include "x11/KeyChords.h"
+
+namespace quillseal::linux {
+namespace {
+
+/// Set once the user has answered, whatever the answer.
+constexpr const char* wasOffered = "ShortcutOffered";
+
+constexpr const char* bindYourself =
+    "Bind the command “quillseal --sign” to a shortcut in the keyboard settings of your desktop. "
+    "The menu item works in any case.";
+
+/// Quotes for a shell, unless the path needs no quotes.
+std::string quoted(const std::string& path) {
+  const auto isPlain = [](unsigned char c) {
+    return std::isalnum(c) != 0 ||
+           std::string_view("/._-+").find(static_cast<char>(c)) != std::string_view::npos;
+  };
+  if (std::ranges::all_of(path, isPlain)) return path;
+  std::string result = "'";
+  for (const char c : path)
+    result += c == '\'' ? std::string("'\\''") : std::string(1, c);
+  return result + "'";
+}
+
+[[noreturn]] void fail(int code, const std::string& problem) {
+  throw Error({.domain = "GnomeHotkey", .code = code, .description = problem + " " + bindYourself});
+}
+
+}  // namespace
+
+std::string acceleratorOf(desktop::KeyPress press) {
+  std::string result;
+  for (const Keysym symbol : chordOf(press)) {
+    switch (symbol) {
+      case XKB_KEY_Control_L:
+        result += "<Control>";
+        break;
+      case XKB_KEY_Alt_L:
+        result += "<Alt>";
+        break;
+      case XKB_KEY_Super_L:
+        result += "<Super>";
+        break;
+      default:
+        result += desktop::letterOf(press.key);
+    }
+  }
+  return result;
+}
+
+GnomeHotkey::GnomeHotkey(Services services, std::string program)
+    : services_(std::move(services)), program_(std::move(program)) {}
+
+void GnomeHotkey::registerHotkey(desktop::KeyPress combination, std::function<void()> /*pressed*/) {
+  // Also, an agent that need not look does not load GIO.
+  if (services_.defaults().boolean(wasOffered)) return;
+  const CustomShortcut shortcut{.name = "Sign Selected Text (Quillseal)",
+                                .command = quoted(program_) + " --sign",
+                                .keys = acceleratorOf(combination)};
+  const std::string keys = nameOf(combination);
+  switch (services_.settings.stateOf(shortcut)) {
+    case ShortcutState::present:
+      return;
+    case ShortcutState::taken:
+      fail(1, "Another shortcut of your desktop already uses " + keys + ".");
+    case ShortcutState::unsupported:
+      fail(2, "This desktop gives programs no hotkey.");
+    case ShortcutState::missing:
+      break;
+  }
+  question_ = services_.alerts().ask(
+      {.title = "Add " + keys + " to Your Keyboard Settings?",
+       .body = "This desktop gives programs no hotkey. Quillseal can add a shortcut to your own "
+               "keyboard settings that signs the selected text. You can change or remove it there "
+               "at any time, under Custom Shortcuts. It stays there if you remove Quillseal.\n\n"
+               "Without it, sign by the menu, or bind the command “quillseal --sign” to keys of "
+               "your choice.",
+       .style = desktop::AlertStyle::informational,
+       .confirm = "Add Shortcut",
+       .cancel = "Don’t Add"},
+      [this, shortcut](desktop::Answer answer) { answered(answer, shortcut); });
+}
+
+void GnomeHotkey::answered(desktop::Answer answer, const CustomShortcut& shortcut) {
+  services_.defaults().setString(wasOffered, "true");
+  if (answer != desktop::Answer::confirmed || services_.settings.add(shortcut)) return;
+  services_.alerts().notify(
+      {.title = "Quillseal’s Hotkey Is Not Available",
+       .body = std::string("The shortcut could not be added to your keyboard settings. ") +
+               bindYourself});
+}
+
+}  // namespace quillseal::linux

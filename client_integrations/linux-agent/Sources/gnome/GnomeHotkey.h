@@ -1,0 +1,45 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "desktop/Alerts.h"
+#include "desktop/Defaults.h"
+#include "desktop/Hotkey.h"
+#include "desktop/Ticket.h"
+#include "gnome/ShortcutSettings.h"
+
+namespace quillseal::linux {
+
+/// The hotkey where GNOME offers programs none: a shortcut in the user's keyboard settings, which
+/// starts the program again with `--sign`. The user is asked once before it is added. It stays when
+/// the agent ends, and the user can change or remove it in the settings.
+class GnomeHotkey : public desktop::Hotkey {
+ public:
+  /// All outlive this object.
+  struct Services {
+    ShortcutSettings& settings;
+    /// Found at each use, since the desktop's services are made after this object.
+    std::function<desktop::Alerts&()> alerts;
+    std::function<desktop::Defaults&()> defaults;
+  };
+
+  /// `program` is the path of the executable that the shortcut runs.
+  GnomeHotkey(Services services, std::string program);
+
+  /// `pressed` is not called: the shortcut's command arrives as every command does.
+  void registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) override;
+
+ private:
+  void answered(desktop::Answer answer, const CustomShortcut& shortcut);
+
+  Services services_;
+  std::string program_;
+  desktop::Ticket question_;
+};
+
+/// Returns the keys as GTK writes them: "<Control><Alt><Super>h".
+[[nodiscard]] std::string acceleratorOf(desktop::KeyPress press);
+
+}  // namespace quillseal::linux

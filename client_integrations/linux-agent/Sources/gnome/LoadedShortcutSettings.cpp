@@ -1,0 +1,31 @@
+#include "gnome/LoadedShortcutSettings.h"
+
+#include <stdexcept>
+#include <utility>
+
+#include "applications/EntriesModule.h"
+#include "core/text/Error.h"
+
+namespace quillseal::linux {
+
+LoadedShortcutSettings::LoadedShortcutSettings(LoadedModule module) : module_(std::move(module)) {}
+
+ShortcutSettings& LoadedShortcutSettings::settings() {
+  try {
+    if (settings_ == nullptr)
+      module_.function<EntriesModule::MakeShortcuts>(EntriesModule::makeShortcuts)(settings_);
+  } catch (const std::runtime_error& error) {
+    throw Error({.domain = "ShortcutSettings", .code = 1, .description = error.what()});
+  }
+  return *settings_;
+}
+
+ShortcutState LoadedShortcutSettings::stateOf(const CustomShortcut& shortcut) {
+  return settings().stateOf(shortcut);
+}
+
+bool LoadedShortcutSettings::add(const CustomShortcut& shortcut) {
+  return settings().add(shortcut);
+}
+
+}  // namespace quillseal::linux

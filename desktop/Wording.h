@@ -39,6 +39,10 @@ class Words {
 
   /// Called again for every text, since the key's place can change. Does not block.
   [[nodiscard]] virtual Wording current() const = 0;
+
+  /// What would make this program more useful on the desktop, in sentences for the settings; empty
+  /// for nothing.
+  [[nodiscard]] virtual std::string desktopAdvice() const { return {}; }
 };
 
 }  // namespace quillseal::desktop

@@ -23,6 +23,61 @@ globalThis.press = (symbol, state) => {
 };
 true
 """
+# The RemoteDesktop portal of GNOME 43, whose user has allowed it to press keys.
+PORTAL = """
+const { Clutter, Gio, GLib } = imports.gi;
+const path = '/org/freedesktop/portal/desktop';
+const keyboard = Clutter.get_default_backend().get_default_seat()
+  .create_virtual_device(Clutter.InputDeviceType.KEYBOARD_DEVICE);
+const respond = (invocation, options, results) => {
+  const sender = invocation.get_sender().slice(1).replace('.', '_');
+  const request = `${path}/request/${sender}/${options.handle_token.unpack()}`;
+  invocation.return_value(new GLib.Variant('(o)', [request]));
+  Gio.DBus.session.emit_signal(null, request, 'org.freedesktop.portal.Request', 'Response',
+    new GLib.Variant('(ua{sv})', [0, results]));
+};
+class Portal {
+  version = 1;
+  AvailableDeviceTypes = 1;
+  CreateSessionAsync([options], invocation) {
+    const sender = invocation.get_sender().slice(1).replace('.', '_');
+    const session = `${path}/session/${sender}/${options.session_handle_token.unpack()}`;
+    const object = Gio.DBusExportedObject.wrapJSObject(`<node>
+      <interface name="org.freedesktop.portal.Session"><method name="Close"/></interface></node>`,
+      { Close: () => object.unexport() });
+    object.export(Gio.DBus.session, session);
+    respond(invocation, options, { session_handle: new GLib.Variant('s', session) });
+  }
+  SelectDevicesAsync([session, options], invocation) { respond(invocation, options, {}); }
+  StartAsync([session, parent, options], invocation) {
+    respond(invocation, options, { devices: new GLib.Variant('u', 1) });
+  }
+  NotifyKeyboardKeycode(session, options, key, state) {
+    keyboard.notify_key(GLib.get_monotonic_time(), key, state);
+  }
+  NotifyKeyboardKeysym(session, options, symbol, state) {
+    keyboard.notify_keyval(GLib.get_monotonic_time(), symbol, state);
+  }
+}
+Gio.DBusExportedObject.wrapJSObject(`<node><interface name="org.freedesktop.portal.RemoteDesktop">
+  <property name="version" type="u" access="read"/>
+  <property name="AvailableDeviceTypes" type="u" access="read"/>
+  <method name="CreateSession">
+    <arg type="a{sv}" direction="in"/><arg type="o" direction="out"/></method>
+  <method name="SelectDevices"><arg type="o" direction="in"/>
+    <arg type="a{sv}" direction="in"/><arg type="o" direction="out"/></method>
+  <method name="Start"><arg type="o" direction="in"/><arg type="s" direction="in"/>
+    <arg type="a{sv}" direction="in"/><arg type="o" direction="out"/></method>
+  <method name="NotifyKeyboardKeycode"><arg type="o" direction="in"/>
+    <arg type="a{sv}" direction="in"/><arg type="i" direction="in"/>
+    <arg type="u" direction="in"/></method>
+  <method name="NotifyKeyboardKeysym"><arg type="o" direction="in"/>
+    <arg type="a{sv}" direction="in"/><arg type="i" direction="in"/>
+    <arg type="u" direction="in"/></method></interface></node>`, new Portal())
+  .export(Gio.DBus.session, path);
+Gio.DBus.session.own_name('org.freedesktop.portal.Desktop', 0, null, null);
+true
+"""
 WINDOWS = """
 global.get_window_actors().map(actor => actor.meta_window).map(window => ({
   id: String(window.get_id()), name: window.get_title() ?? '', pid: window.get_pid(),
@@ -83,6 +138,7 @@ class GnomeSession(wayland_session.WaylandSession):
             wait_for("the extension runs", lambda: self.evaluate(
                 f"Main.extensionManager.lookup('{EXTENSION}')?.state === 1"))
         self.evaluate(PERSON)
+        self.evaluate(PORTAL)
         for name in ("DISPLAY", "XAUTHORITY"):  # of Xwayland, which starts with its first program
             self.env[name] = self.evaluate(f"imports.gi.GLib.getenv('{name}')")
 

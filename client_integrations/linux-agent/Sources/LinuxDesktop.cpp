@@ -1,5 +1,7 @@
 #include "LinuxDesktop.h"
 
+#include <QGuiApplication>
+#include <QLatin1String>
 #include <chrono>
 #include <cstdlib>
 #include <string>
@@ -9,6 +11,7 @@
 #include "applications/EntriesModule.h"
 #include "applications/LoadedDesktopEntries.h"
 #include "browsers/LinuxBrowserTabs.h"
+#include "gnome/GnomeSystem.h"
 #include "keys/LinuxKeyStore.h"
 #include "network/HttpModule.h"
 #include "network/LoadedTransport.h"
@@ -61,6 +64,9 @@ std::unique_ptr<WindowingSystem> chosen(PortalSystem::Access access,
   access.token = keyFolder() + "/portal-token";
   if (PortalSystem::reachesApplications(access))
     return std::make_unique<PortalSystem>(std::move(access), services);
+  const bool isUnderXwayland = QGuiApplication::platformName() == QLatin1String("xcb");
+  if (isUnderXwayland && access.portalBus != nullptr && access.offer.remoteDesktop > 0)
+    return std::make_unique<GnomeSystem>(std::move(access), services);
   return std::make_unique<X11System>(services);
 }
 
@@ -76,6 +82,7 @@ class LinuxWords final : public desktop::Words {
                          .isDemo = Settings::demoSigning.isOn(defaults_),
                          .otherHotkey = system_.otherHotkey()});
   }
+  [[nodiscard]] std::string desktopAdvice() const override { return system_.advice(); }
 
  private:
   const LinuxKeyStore& keyStore_;
@@ -100,7 +107,11 @@ struct LinuxDesktop::Parts {
                                                 log.write("[desktop] " + sentence);
                                                 alerts.notify(
                                                     {.title = "Quillseal", .body = sentence});
-                                              }})),
+                                              },
+                                          .alerts = [this]() -> desktop::Alerts& { return alerts; },
+                                          .defaults = [this]() -> desktop::Defaults& {
+                                            return defaults;
+                                          }})),
         secretPrompt(loop, system->ownWindows()),
         keyStore(makeKeyStore({.folder = keyFolder(), .tpm = commandLine.tpm}, secretPrompt)),
         alerts(system->ownWindows()),
@@ -170,6 +181,10 @@ LinuxDesktop::LinuxDesktop(const CommandLine& commandLine, desktop::Log& log,
     : parts_(std::make_unique<Parts>(commandLine, log, std::move(access))) {}
 
 LinuxDesktop::~LinuxDesktop() = default;
+
+void LinuxDesktop::commandArrived() {
+  parts_->system->commandArrived();
+}
 
 desktop::Desktop LinuxDesktop::services() {
   return {.alerts = parts_->alerts,

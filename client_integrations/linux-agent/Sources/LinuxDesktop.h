@@ -23,6 +23,9 @@ class LinuxDesktop {
 
   [[nodiscard]] desktop::Desktop services();
 
+  /// To be called when a later start has sent a command.
+  void commandArrived();
+
  private:
   struct Parts;
   std::unique_ptr<Parts> parts_;

@@ -125,7 +125,10 @@ int runAgent(const CommandLine& commandLine, quillseal::linux::SingleInstance& i
   quillseal::linux::LinuxDesktop desktop(commandLine, log, std::move(access));
   quillseal::AppDelegate agent(desktop.services());
   agent.applicationDidFinishLaunching();
-  instance.onCommand([&](Command command) { obey(command, agent); });
+  instance.onCommand([&](Command command) {
+    desktop.commandArrived();
+    obey(command, agent);
+  });
   const quillseal::linux::TerminationSignals signals([] { QApplication::quit(); });
   obey(commandLine.command, agent);
   log.write("[start] ready");

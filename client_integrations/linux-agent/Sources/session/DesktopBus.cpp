@@ -134,6 +134,7 @@ std::optional<bool> DesktopBus::knows(const char* name) {
 }
 
 bool DesktopBus::start(const char* name, std::chrono::milliseconds limit) {
+  if (knows(name).value_or(false)) return true;
   const Message request = newCall(methodOfBus("StartServiceByName"));
   if (request == nullptr || ::sd_bus_message_append(request.get(), "su", name, 0U) < 0)
     return false;

@@ -4,7 +4,9 @@
 #include <string>
 
 #include "applications/DesktopEntries.h"
+#include "desktop/Alerts.h"
 #include "desktop/Applications.h"
+#include "desktop/Defaults.h"
 #include "desktop/Hotkey.h"
 #include "desktop/KeyEvents.h"
 #include "desktop/MainLoop.h"
@@ -27,6 +29,9 @@ class WindowingSystem {
     std::function<void()> explain;
     /// Tells the user something that needs no answer.
     std::function<void(const std::string&)> tell;
+    /// Found at each use, since they are made after the windowing system.
+    std::function<desktop::Alerts&()> alerts;
+    std::function<desktop::Defaults&()> defaults;
   };
 
   virtual ~WindowingSystem() = default;
@@ -34,6 +39,14 @@ class WindowingSystem {
   /// Says what does not work in this session and what to do, in sentences for the user; empty where
   /// everything works.
   [[nodiscard]] virtual std::string limits() const = 0;
+
+  /// Says what would make Quillseal more useful in this session, in sentences for the user; empty
+  /// for nothing.
+  [[nodiscard]] virtual std::string advice() const { return {}; }
+
+  /// To be called when a later start of the program has sent a command, which a shortcut may have
+  /// run.
+  virtual void commandArrived() {}
 
   /// The keys of the hotkey, as the desktop names them, where they are not those that were asked
   /// for; else empty.

@@ -26,7 +26,8 @@ std::unique_ptr<MessageDialog> questionDialog(const desktop::Question& question,
                                               MessageDialog::Picture picture) {
   auto dialog = std::make_unique<MessageDialog>(
       MessageDialog::Look{.picture = picture, .title = question.title, .text = question.body});
-  dialog->addButton(question.confirm, QDialogButtonBox::AcceptRole);
+  // Qt would focus the leftmost, which in GNOME's order is the other one.
+  dialog->addButton(question.confirm, QDialogButtonBox::AcceptRole).setFocus();
   dialog->addButton(question.cancel, QDialogButtonBox::RejectRole);
   return dialog;
 }

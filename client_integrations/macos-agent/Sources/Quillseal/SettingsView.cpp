@@ -111,6 +111,8 @@ desktop::FormSection SettingsView::machineSection() {
   }
   std::string advice = services_.keyStore.advice();
   if (!advice.empty()) section.rows.emplace_back(caption(std::move(advice), TextColour::orange));
+  std::string desktopAdvice = services_.words.desktopAdvice();
+  if (!desktopAdvice.empty()) section.rows.emplace_back(caption(std::move(desktopAdvice)));
   return section;
 }
 

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <string>
+
+#include "desktop/MainLoop.h"
+#include "gnome/GnomeApplications.h"
+#include "gnome/GnomeHotkey.h"
+#include "gnome/LoadedShortcutSettings.h"
+#include "gnome/ShellExtension.h"
+#include "portal/Portal.h"
+#include "portal/PortalKeyEvents.h"
+#include "portal/PortalRemote.h"
+#include "portal/PortalSystem.h"
+#include "session/WindowingSystem.h"
+#include "x11/QtPasteboard.h"
+#include "x11/WindowManager.h"
+
+namespace quillseal::linux {
+
+/// GNOME without a portal for the clipboard and for hotkeys: keys through the RemoteDesktop portal,
+/// the clipboard through Xwayland, which has that of all programs there and needs no focus, windows
+/// through the Shell's extension, the hotkey as a shortcut of the user's. REQUIRES: Qt uses
+/// Xwayland, and the portal offers keys.
+class GnomeSystem : public WindowingSystem, private OwnWindows {
+ public:
+  GnomeSystem(PortalSystem::Access access, const Services& services);
+
+  [[nodiscard]] std::string limits() const override { return remote_.obstacle(); }
+  [[nodiscard]] std::string advice() const override;
+  void commandArrived() override { lastCommand_ = services_.loop.now(); }
+  [[nodiscard]] desktop::Applications& applications() override { return applications_; }
+  [[nodiscard]] desktop::Hotkey& hotkey() override { return hotkey_; }
+  [[nodiscard]] desktop::KeyEvents& keys() override { return keys_; }
+  [[nodiscard]] desktop::Pasteboard& pasteboard() override { return pasteboard_; }
+  [[nodiscard]] const OwnWindows& ownWindows() const override { return *this; }
+
+ private:
+  void bringToFront(QWidget& window) const override;
+  [[nodiscard]] bool mayHotkeyBeHeld() const;
+
+  Services services_;
+  PortalSystem::Access access_;
+  Portal portal_;
+  PortalRemote remote_;
+  ShellExtension extension_;
+  WindowManager windows_;
+  QtPasteboard pasteboard_;
+  GnomeApplications applications_;
+  LoadedShortcutSettings shortcuts_;
+  GnomeHotkey hotkey_;
+  PortalKeyEvents keys_;
+  desktop::MainLoop::TimePoint lastCommand_;
+};
+
+}  // namespace quillseal::linux

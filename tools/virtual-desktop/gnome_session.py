@@ -7,7 +7,6 @@ import ast
 import json
 import re
 import shutil
-import time
 
 import session
 import wayland_session
@@ -46,6 +45,7 @@ class Portal {
       <interface name="org.freedesktop.portal.Session"><method name="Close"/></interface></node>`,
       { Close: () => object.unexport() });
     object.export(Gio.DBus.session, session);
+    exported.push(object);
     respond(invocation, options, { session_handle: new GLib.Variant('s', session) });
   }
   SelectDevicesAsync([session, options], invocation) { respond(invocation, options, {}); }
@@ -59,7 +59,9 @@ class Portal {
     keyboard.notify_keyval(GLib.get_monotonic_time(), symbol, state);
   }
 }
-Gio.DBusExportedObject.wrapJSObject(`<node><interface name="org.freedesktop.portal.RemoteDesktop">
+globalThis.exported = []; // else the engine collects them
+exported.push(Gio.DBusExportedObject.wrapJSObject(`<node>
+  <interface name="org.freedesktop.portal.RemoteDesktop">
   <property name="version" type="u" access="read"/>
   <property name="AvailableDeviceTypes" type="u" access="read"/>
   <method name="CreateSession">
@@ -73,8 +75,8 @@ Gio.DBusExportedObject.wrapJSObject(`<node><interface name="org.freedesktop.port
     <arg type="u" direction="in"/></method>
   <method name="NotifyKeyboardKeysym"><arg type="o" direction="in"/>
     <arg type="a{sv}" direction="in"/><arg type="i" direction="in"/>
-    <arg type="u" direction="in"/></method></interface></node>`, new Portal())
-  .export(Gio.DBus.session, path);
+    <arg type="u" direction="in"/></method></interface></node>`, new Portal()));
+exported[0].export(Gio.DBus.session, path);
 Gio.DBus.session.own_name('org.freedesktop.portal.Desktop', 0, null, null);
 true
 """
@@ -149,6 +151,14 @@ class GnomeSession(wayland_session.WaylandSession):
         self.monitor = self.start(
             "dbus-monitor", "--session", "interface='org.freedesktop.Notifications'")
 
+    def start_media_keys(self):
+        """Starts the service that obeys the shortcuts in the keyboard settings."""
+        self.start("/usr/libexec/gsd-media-keys")
+        wait_for("the shortcuts are obeyed", lambda: "true" in self.run(
+            "gdbus", "call", "--session", "--dest", "org.freedesktop.DBus", "--object-path",
+            "/org/freedesktop/DBus", "--method", "org.freedesktop.DBus.NameHasOwner",
+            "org.gnome.SettingsDaemon.MediaKeys"))
+
     def evaluate(self, script):
         """Runs JavaScript in the Shell. Returns its value."""
         told = self.run("gdbus", "call", "--session", "--dest", "org.gnome.Shell", "--object-path",
@@ -199,9 +209,16 @@ class GnomeSession(wayland_session.WaylandSession):
                       " true")
 
     def press_hotkey(self, milliseconds=120):
-        self.hold(*session.HOTKEY)
-        time.sleep(milliseconds / 1000)
-        self.let_go(*session.HOTKEY)
+        symbols = json.dumps([f"KEY_{name}" for name in session.HOTKEY])
+        # The Shell itself waits, since each call takes longer than a person.
+        self.evaluate(f"""globalThis.keys = {symbols}.map(name => imports.gi.Clutter[name]);
+            keys.forEach(key => press(key, 1));
+            imports.gi.GLib.timeout_add(0, {milliseconds}, () => {{
+              [...keys].reverse().forEach(key => press(key, 0));
+              keys = null;
+              return false;
+            }})""")
+        wait_for("the keys are released", lambda: self.evaluate("keys === null"))
 
     # Clipboard
 
@@ -211,7 +228,7 @@ class GnomeSession(wayland_session.WaylandSession):
         if target == "TARGETS":
             return "\n".join(self.evaluate(f"{clipboard}.get_mimetypes({kind})"))
         self.evaluate(f"globalThis.content = null; {clipboard}.get_content({kind}, '{target}', "
-                      "(_, bytes) => { content = [...(bytes.get_data() ?? [])]; }), true")
+                      "(_, bytes) => { content = [...(bytes?.get_data() ?? [])]; }), true")
         try:
             return bytes(wait_for("the clipboard is read",
                                   lambda: self.evaluate("content && [content]"), 5)[0]).decode()

@@ -182,8 +182,8 @@ LinuxDesktop::LinuxDesktop(const CommandLine& commandLine, desktop::Log& log,
 
 LinuxDesktop::~LinuxDesktop() = default;
 
-void LinuxDesktop::commandArrived() {
-  parts_->system->commandArrived();
+bool LinuxDesktop::isNewPress() {
+  return parts_->system->isNewPress();
 }
 
 desktop::Desktop LinuxDesktop::services() {

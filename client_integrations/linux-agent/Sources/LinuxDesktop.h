@@ -23,8 +23,8 @@ class LinuxDesktop {
 
   [[nodiscard]] desktop::Desktop services();
 
-  /// To be called when a later start has sent a command.
-  void commandArrived();
+  /// See `WindowingSystem`.
+  [[nodiscard]] bool isNewPress();
 
  private:
   struct Parts;

@@ -126,8 +126,7 @@ int runAgent(const CommandLine& commandLine, quillseal::linux::SingleInstance& i
   quillseal::AppDelegate agent(desktop.services());
   agent.applicationDidFinishLaunching();
   instance.onCommand([&](Command command) {
-    desktop.commandArrived();
-    obey(command, agent);
+    if (command != Command::sign || desktop.isNewPress()) obey(command, agent);
   });
   const quillseal::linux::TerminationSignals signals([] { QApplication::quit(); });
   obey(commandLine.command, agent);

@@ -1,4 +1,5 @@
-// Tells the Quillseal agent which window of another program was focused last, and activates a window.
+// Tells the Quillseal agent which window of another program was focused last, and how often the
+// clipboard has changed, and activates a window.
 // It answers only the process that owns the agent's name on the session bus, and emits no signals.
 // The object is on the Shell's own connection, so its bus name is org.gnome.Shell, which no other
 // program can take.
@@ -15,6 +16,7 @@ const description = `<node><interface name="com.quillseal.FrontWindow1">
     <arg name="window_class" type="s" direction="out"/>
     <arg name="process" type="u" direction="out"/>
     <arg name="document" type="s" direction="out"/>
+    <arg name="clipboard_changes" type="u" direction="out"/>
   </method>
   <method name="Activate">
     <arg name="window" type="t" direction="in"/>
@@ -54,12 +56,19 @@ class FrontWindow {
     this._secret = GLib.uuid_string_random();
     this._follower = global.display.connect('notify::focus-window', () => this._noteFocus());
     this._noteFocus();
+    this._clipboardChanges = 0;
+    this._selection = global.display.get_selection();
+    this._counter = this._selection.connect('owner-changed', (_selection, type) => {
+      if (type === Meta.SelectionType.SELECTION_CLIPBOARD)
+        this._clipboardChanges++;
+    });
     this._object = Gio.DBusExportedObject.wrapJSObject(description, this);
     this._object.export(Gio.DBus.session, objectPath);
   }
 
   destroy() {
     global.display.disconnect(this._follower);
+    this._selection.disconnect(this._counter);
     this._object.unexport();
     this._object = null;
     this._windows = [];
@@ -87,12 +96,12 @@ class FrontWindow {
     const window = this._open().find(other => other.get_pid() !== caller);
     const isHeld = (global.get_pointer()[2] & modifiers) !== 0;
     if (!window)
-      return [0, false, isHeld, '', '', 0, ''];
+      return [0, false, isHeld, '', '', 0, '', this._clipboardChanges];
     const app = Shell.WindowTracker.get_default().get_window_app(window);
     const desktopFile = app && !app.is_window_backed() ? app.get_id() : '';
     const hasKeys = haveWindowsTheKeys() && window === global.display.focus_window;
     return [window.get_id(), hasKeys, isHeld, desktopFile, window.get_wm_class() ?? '',
-      Math.max(window.get_pid(), 0), this._documentOf(window)];
+      Math.max(window.get_pid(), 0), this._documentOf(window), this._clipboardChanges];
   }
 
   async _answer(invocation, type, work) {
@@ -112,7 +121,7 @@ class FrontWindow {
   }
 
   FrontAsync(_parameters, invocation) {
-    this._answer(invocation, '(tbbssus)', caller => this._front(caller)).catch(logError);
+    this._answer(invocation, '(tbbssusu)', caller => this._front(caller)).catch(logError);
   }
 
   ActivateAsync([id], invocation) {

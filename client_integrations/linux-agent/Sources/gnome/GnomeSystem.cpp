@@ -17,6 +17,10 @@ namespace {
 /// when they are released.
 constexpr std::chrono::milliseconds assumedHold{500};
 
+/// GNOME runs the command again and again while the keys are held. Desktops let people choose
+/// delays up to this before the first repetition.
+constexpr std::chrono::milliseconds longestRepeatDelay{1000};
+
 }  // namespace
 
 GnomeSystem::GnomeSystem(PortalSystem::Access access, const Services& services)
@@ -29,7 +33,7 @@ GnomeSystem::GnomeSystem(PortalSystem::Access access, const Services& services)
                .token = PrivateFile(access_.token),
                .tell = services.tell}),
       extension_(*access_.bus),
-      pasteboard_({.loop = services.loop, .descriptors = services.descriptors}),
+      pasteboard_({.loop = services.loop, .descriptors = services.descriptors}, extension_),
       applications_(extension_, services.entries, services.loop),
       shortcuts_(LoadedModule({.places = LoadedModule::usualPlaces(EntriesModule::fileName),
                                .version = QUILLSEAL_VERSION,
@@ -41,6 +45,7 @@ GnomeSystem::GnomeSystem(PortalSystem::Access access, const Services& services)
              .applications = applications_,
              .isHotkeyHeld = [this] { return mayHotkeyBeHeld(); },
              .isScreenLocked = [] { return false; },
+             .isWritten = [this] { return pasteboard_.isWritten(); },
              .explain = services.explain,
              .tell = services.tell}) {
   access_.bus->serve(services.loop, services.descriptors);
@@ -60,6 +65,11 @@ void GnomeSystem::bringToFront(QWidget& window) const {
   window.raise();
   window.activateWindow();
   windows_.activate(static_cast<xcb_window_t>(window.winId()));
+}
+
+bool GnomeSystem::isNewPress() {
+  const auto now = services_.loop.now();
+  return now > std::exchange(lastCommand_, now) + longestRepeatDelay;
 }
 
 bool GnomeSystem::mayHotkeyBeHeld() const {

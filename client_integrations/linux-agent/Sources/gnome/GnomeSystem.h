@@ -7,12 +7,12 @@
 #include "gnome/GnomeHotkey.h"
 #include "gnome/LoadedShortcutSettings.h"
 #include "gnome/ShellExtension.h"
+#include "gnome/XwaylandPasteboard.h"
 #include "portal/Portal.h"
 #include "portal/PortalKeyEvents.h"
 #include "portal/PortalRemote.h"
 #include "portal/PortalSystem.h"
 #include "session/WindowingSystem.h"
-#include "x11/QtPasteboard.h"
 #include "x11/WindowManager.h"
 
 namespace quillseal::linux {
@@ -27,7 +27,7 @@ class GnomeSystem : public WindowingSystem, private OwnWindows {
 
   [[nodiscard]] std::string limits() const override { return remote_.obstacle(); }
   [[nodiscard]] std::string advice() const override;
-  void commandArrived() override { lastCommand_ = services_.loop.now(); }
+  [[nodiscard]] bool isNewPress() override;
   [[nodiscard]] desktop::Applications& applications() override { return applications_; }
   [[nodiscard]] desktop::Hotkey& hotkey() override { return hotkey_; }
   [[nodiscard]] desktop::KeyEvents& keys() override { return keys_; }
@@ -44,7 +44,7 @@ class GnomeSystem : public WindowingSystem, private OwnWindows {
   PortalRemote remote_;
   ShellExtension extension_;
   WindowManager windows_;
-  QtPasteboard pasteboard_;
+  XwaylandPasteboard pasteboard_;
   GnomeApplications applications_;
   LoadedShortcutSettings shortcuts_;
   GnomeHotkey hotkey_;

@@ -24,9 +24,9 @@ std::optional<ShellFront> ShellExtension::front() const {
   const char* windowClass = nullptr;
   std::uint32_t process = 0;
   const char* document = nullptr;
-  if (answer == nullptr ||
-      ::sd_bus_message_read(answer.get(), "tbbssus", &front.window, &hasKeys, &holdsModifiers,
-                            &desktopFile, &windowClass, &process, &document) <= 0)
+  if (answer == nullptr || ::sd_bus_message_read(answer.get(), "tbbssusu", &front.window, &hasKeys,
+                                                 &holdsModifiers, &desktopFile, &windowClass,
+                                                 &process, &document, &front.clipboardChanges) <= 0)
     return std::nullopt;
   front.hasKeys = hasKeys != 0;
   front.holdsModifiers = holdsModifiers != 0;

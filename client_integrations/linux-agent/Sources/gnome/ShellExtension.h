@@ -17,6 +17,8 @@ struct ShellFront {
   bool holdsModifiers = false;  ///< The person holds Shift, Control, Alt, Super or the like.
   WindowTraits traits;          ///< of the window
   std::string document;         ///< made by `documentName`
+  /// How often the clipboard got another owner; starts again with the extension.
+  std::uint32_t clipboardChanges = 0;
 };
 
 /// Client of the Shell extension "Quillseal front window". The extension answers only the process

@@ -110,6 +110,8 @@ Task<bool> PortalKeyEvents::isHotkeyReleased() {
 Delivery PortalKeyEvents::deliveryNow(const Wish& wish) const {
   if (!services_.remote.isOpen()) return Delivery::declined;
   if (!wish.target) return Delivery::delivered;
+  const bool isPaste = wish.press.key == Key::v;
+  if (isPaste && services_.isWritten && !services_.isWritten()) return Delivery::declined;
   if (!services_.applications.isActive(*wish.target)) return Delivery::declined;
   const auto front = services_.applications.frontmost();
   if (!front || front->instance != wish.target->instance) return Delivery::declined;

@@ -1,6 +1,7 @@
 // Asks GNOME Shell's extension as the agent does. Reads commands, one a line, from standard input
 // and answers each with a line:
-//   front        window, "keys" or "-", "held" or "-", desktop file, class, executable, document
+//   front        window, "keys" or "-", "held" or "-", desktop file, class, executable, document,
+//               changes of the clipboard
 //   activate ID  asks for the window
 //   leave        gives the agent's name on the bus up
 
@@ -28,6 +29,7 @@ std::string described(const std::optional<quillseal::linux::ShellFront>& front) 
   for (const std::string& part : {front->traits.gtkApplicationId, front->traits.windowClass,
                                   front->traits.executable, front->document})
     words << ' ' << (part.empty() ? "-" : part);
+  words << ' ' << front->clipboardChanges;
   return words.str();
 }
 

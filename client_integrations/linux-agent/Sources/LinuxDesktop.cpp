@@ -98,20 +98,18 @@ struct LinuxDesktop::Parts {
       : log(sink),
         entries(LoadedModule(
             moduleOptions(EntriesModule::fileName, "knows the installed applications"))),
-        system(chosen(std::move(access), {.loop = loop,
-                                          .descriptors = descriptors,
-                                          .entries = entries,
-                                          .explain = [this] { warn(system->limits()); },
-                                          .tell =
-                                              [this](const std::string& sentence) {
-                                                log.write("[desktop] " + sentence);
-                                                alerts.notify(
-                                                    {.title = "Quillseal", .body = sentence});
-                                              },
-                                          .alerts = [this]() -> desktop::Alerts& { return alerts; },
-                                          .defaults = [this]() -> desktop::Defaults& {
-                                            return defaults;
-                                          }})),
+        system(chosen(std::move(access),
+                      {.loop = loop,
+                       .descriptors = descriptors,
+                       .entries = entries,
+                       .explain = [this] { warn(system->limits()); },
+                       .tell =
+                           [this](const std::string& sentence) {
+                             log.write("[desktop] " + sentence);
+                             alerts.notify({.title = "Quillseal", .body = sentence});
+                           },
+                       .alerts = [this]() -> desktop::Alerts& { return alerts; },
+                       .defaults = [this]() -> desktop::Defaults& { return defaults; }})),
         secretPrompt(loop, system->ownWindows()),
         keyStore(makeKeyStore({.folder = keyFolder(), .tpm = commandLine.tpm}, secretPrompt)),
         alerts(system->ownWindows()),

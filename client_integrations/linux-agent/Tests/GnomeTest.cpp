@@ -15,6 +15,7 @@
 #include "desktop/SigningHotkey.h"
 #include "gnome/GioShortcutSettings.h"
 #include "gnome/GnomeHotkey.h"
+#include "session/PollLoop.h"
 
 namespace quillseal::linux {
 namespace {
@@ -109,6 +110,7 @@ TEST_F(GnomeShortcuts, TakeNoKeysFromAnother) {
 
 /// Settings, answers and alerts of a scripted user.
 struct ScriptedUser : ShortcutSettings, desktop::Alerts, desktop::Defaults {
+  PollLoop loop;
   ShortcutState state = ShortcutState::missing;
   bool canAdd = true;
   std::vector<std::string> added;
@@ -143,7 +145,8 @@ struct ScriptedUser : ShortcutSettings, desktop::Alerts, desktop::Defaults {
   [[nodiscard]] std::unique_ptr<GnomeHotkey> hotkey(
       const std::string& program = "/usr/bin/quillseal") {
     return std::make_unique<GnomeHotkey>(
-        GnomeHotkey::Services{.settings = *this,
+        GnomeHotkey::Services{.loop = loop,
+                              .settings = *this,
                               .alerts = [this]() -> desktop::Alerts& { return *this; },
                               .defaults = [this]() -> desktop::Defaults& { return *this; }},
         program);
@@ -164,6 +167,15 @@ TEST(GnomeHotkeys, AreAddedOnceTheUserSaysYesAndAskedForOnce) {
     user.hotkey()->registerHotkey(desktop::signingHotkey, [] {});
     EXPECT_EQ(user.shown.size(), 1U);
   }
+}
+
+TEST(GnomeHotkeys, ArePressedOnceHoweverLongTheyAreHeld) {
+  ScriptedUser user;
+  const auto hotkey = user.hotkey();
+  EXPECT_FALSE(hotkey->mayBeHeld());
+  EXPECT_TRUE(hotkey->isNewPress());
+  EXPECT_TRUE(hotkey->mayBeHeld());
+  EXPECT_FALSE(hotkey->isNewPress());
 }
 
 TEST(GnomeHotkeys, SayWhyThereAreNone) {

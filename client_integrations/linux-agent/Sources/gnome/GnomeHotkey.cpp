@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <chrono>
 #include <utility>
 
 #include <xkbcommon/xkbcommon-keysyms.h>
@@ -14,6 +15,10 @@ namespace {
 
 /// Set once the user has answered, whatever the answer.
 constexpr const char* wasOffered = "ShortcutOffered";
+
+constexpr std::chrono::milliseconds assumedHold{500};
+/// Desktops let people choose delays up to this before a key is repeated.
+constexpr std::chrono::milliseconds longestRepeatDelay{1000};
 
 constexpr const char* bindYourself =
     "Bind the command “quillseal --sign” to a shortcut in the keyboard settings of your desktop. "
@@ -89,6 +94,15 @@ void GnomeHotkey::registerHotkey(desktop::KeyPress combination, std::function<vo
        .confirm = "Add Shortcut",
        .cancel = "Don’t Add"},
       [this, shortcut](desktop::Answer answer) { answered(answer, shortcut); });
+}
+
+bool GnomeHotkey::isNewPress() {
+  const auto now = services_.loop.now();
+  return now > std::exchange(lastCommand_, now) + longestRepeatDelay;
+}
+
+bool GnomeHotkey::mayBeHeld() const {
+  return services_.loop.now() < lastCommand_ + assumedHold;
 }
 
 void GnomeHotkey::answered(desktop::Answer answer, const CustomShortcut& shortcut) {

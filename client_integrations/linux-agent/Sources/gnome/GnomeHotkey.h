@@ -7,6 +7,7 @@
 #include "desktop/Alerts.h"
 #include "desktop/Defaults.h"
 #include "desktop/Hotkey.h"
+#include "desktop/MainLoop.h"
 #include "desktop/Ticket.h"
 #include "gnome/ShortcutSettings.h"
 
@@ -19,6 +20,7 @@ class GnomeHotkey : public desktop::Hotkey {
  public:
   /// All outlive this object.
   struct Services {
+    desktop::MainLoop& loop;
     ShortcutSettings& settings;
     /// Found at each use, since the desktop's services are made after this object.
     std::function<desktop::Alerts&()> alerts;
@@ -31,12 +33,21 @@ class GnomeHotkey : public desktop::Hotkey {
   /// `pressed` is not called: the shortcut's command arrives as every command does.
   void registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) override;
 
+  /// Whether a command to sign that has just arrived is a new one: GNOME repeats it while the keys
+  /// are held. To be called once for each.
+  [[nodiscard]] bool isNewPress();
+
+  /// Whether the user may still hold the keys, as far as the last command tells: it arrives while
+  /// they are down, and nothing tells when they are released.
+  [[nodiscard]] bool mayBeHeld() const;
+
  private:
   void answered(desktop::Answer answer, const CustomShortcut& shortcut);
 
   Services services_;
   std::string program_;
   desktop::Ticket question_;
+  desktop::MainLoop::TimePoint lastCommand_;
 };
 
 /// Returns the keys as GTK writes them: "<Control><Alt><Super>h".

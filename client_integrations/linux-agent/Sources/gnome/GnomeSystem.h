@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "desktop/MainLoop.h"
 #include "gnome/GnomeApplications.h"
 #include "gnome/GnomeHotkey.h"
 #include "gnome/LoadedShortcutSettings.h"
@@ -26,8 +25,8 @@ class GnomeSystem : public WindowingSystem, private OwnWindows {
   GnomeSystem(PortalSystem::Access access, const Services& services);
 
   [[nodiscard]] std::string limits() const override { return remote_.obstacle(); }
-  [[nodiscard]] std::string advice() const override;
-  [[nodiscard]] bool isNewPress() override;
+  [[nodiscard]] std::string advice() const override { return extension_.advice(); }
+  [[nodiscard]] bool isNewPress() override { return hotkey_.isNewPress(); }
   [[nodiscard]] desktop::Applications& applications() override { return applications_; }
   [[nodiscard]] desktop::Hotkey& hotkey() override { return hotkey_; }
   [[nodiscard]] desktop::KeyEvents& keys() override { return keys_; }
@@ -38,7 +37,6 @@ class GnomeSystem : public WindowingSystem, private OwnWindows {
   void bringToFront(QWidget& window) const override;
   [[nodiscard]] bool mayHotkeyBeHeld() const;
 
-  Services services_;
   PortalSystem::Access access_;
   Portal portal_;
   PortalRemote remote_;
@@ -49,7 +47,6 @@ class GnomeSystem : public WindowingSystem, private OwnWindows {
   LoadedShortcutSettings shortcuts_;
   GnomeHotkey hotkey_;
   PortalKeyEvents keys_;
-  desktop::MainLoop::TimePoint lastCommand_;
 };
 
 }  // namespace quillseal::linux

@@ -10,6 +10,12 @@ namespace quillseal::linux {
 
 LoadedShortcutSettings::LoadedShortcutSettings(LoadedModule module) : module_(std::move(module)) {}
 
+LoadedModule LoadedShortcutSettings::usualModule() {
+  return LoadedModule({.places = LoadedModule::usualPlaces(EntriesModule::fileName),
+                       .version = QUILLSEAL_VERSION,
+                       .duty = "knows the desktop's settings"});
+}
+
 ShortcutSettings& LoadedShortcutSettings::settings() {
   try {
     if (settings_ == nullptr)

@@ -12,6 +12,9 @@ class LoadedShortcutSettings final : public ShortcutSettings {
  public:
   explicit LoadedShortcutSettings(LoadedModule module);
 
+  /// The module of the installed or the built program.
+  [[nodiscard]] static LoadedModule usualModule();
+
   [[nodiscard]] ShortcutState stateOf(const CustomShortcut& shortcut) override;
   [[nodiscard]] bool add(const CustomShortcut& shortcut) override;
 

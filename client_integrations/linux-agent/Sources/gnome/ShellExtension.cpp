@@ -6,8 +6,10 @@
 namespace quillseal::linux {
 namespace {
 
+constexpr const char* shell = "org.gnome.Shell";
+
 constexpr DesktopBus::Method method(const char* name) {
-  return {.service = "org.gnome.Shell",
+  return {.service = shell,
           .path = "/com/quillseal/FrontWindow",
           .interface = "com.quillseal.FrontWindow1",
           .name = name};
@@ -37,6 +39,16 @@ std::optional<ShellFront> ShellExtension::front() const {
                   .executable = process == 0 ? "" : executableOf(process)};
   front.document = documentName({.title = document, .focus = 0});
   return front;
+}
+
+std::string ShellExtension::advice() const {
+  if (front() || !bus_.knows(shell).value_or(false)) return {};
+  return "On this desktop Quillseal does not see which window you write in, so it leaves the "
+         "signed "
+         "text on the clipboard for you to paste. Enable the extension “Quillseal front window” in "
+         "the Extensions application, after a new log-in: then Quillseal copies from the window "
+         "you "
+         "write in and pastes there, and nowhere else.";
 }
 
 void ShellExtension::activate(std::uint64_t window) const {

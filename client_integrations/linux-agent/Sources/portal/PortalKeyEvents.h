@@ -30,7 +30,7 @@ class PortalKeyEvents : public desktop::KeyEvents {
     /// active.
     std::function<bool()> isKeyboardTaken;
     /// Whether programs would paste what was last written; empty where that is so at once.
-    std::function<bool()> isWritten;
+    std::function<bool()> isWritten{};
     /// Tells the user why keys cannot be pressed in this session.
     std::function<void()> explain;
     /// Tells the user something in a notification.

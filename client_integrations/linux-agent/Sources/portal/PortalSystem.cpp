@@ -1,5 +1,6 @@
 #include "portal/PortalSystem.h"
 
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QWidget>
 #include <utility>
@@ -56,6 +57,12 @@ PortalSystem::PortalSystem(Access access, const Services& services)
                      // Qt and the programs that are started take it from there.
                      qputenv("XDG_ACTIVATION_TOKEN", QByteArray::fromStdString(token));
                    }}),
+      shortcuts_(LoadedShortcutSettings::usualModule()),
+      shortcut_({.loop = services.loop,
+                 .settings = shortcuts_,
+                 .alerts = services.alerts,
+                 .defaults = services.defaults},
+                QCoreApplication::applicationFilePath().toStdString()),
       keys_({.loop = services.loop,
              .remote = remote_,
              .applications = *applications_,
@@ -98,9 +105,15 @@ std::unique_ptr<desktop::Pasteboard> PortalSystem::makePasteboard(const Services
       ClipboardKeeper(LoadedModule::usualPlaces(ClipboardKeeper::program)));
 }
 
+desktop::Hotkey& PortalSystem::hotkey() {
+  if (hasPortalHotkey()) return hotkey_;
+  return shortcut_;
+}
+
 bool PortalSystem::isHotkeyHeld() const {
   const std::optional<ShellFront> front = windows_ == nullptr ? extension_.front() : std::nullopt;
-  return front ? front->holdsModifiers : hotkey_.mayBeHeld();
+  if (front) return front->holdsModifiers;
+  return hasPortalHotkey() ? hotkey_.mayBeHeld() : shortcut_.mayBeHeld();
 }
 
 void PortalSystem::bringToFront(QWidget& window) const {

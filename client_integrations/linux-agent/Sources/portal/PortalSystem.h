@@ -4,6 +4,8 @@
 #include <memory>
 #include <string>
 
+#include "gnome/GnomeHotkey.h"
+#include "gnome/LoadedShortcutSettings.h"
 #include "gnome/ShellExtension.h"
 #include "portal/Portal.h"
 #include "portal/PortalHotkey.h"
@@ -36,9 +38,13 @@ class PortalSystem : public WindowingSystem, private OwnWindows {
   PortalSystem(Access access, const Services& services);
 
   [[nodiscard]] std::string limits() const override { return remote_.obstacle(); }
+  [[nodiscard]] std::string advice() const override {
+    return windows_ == nullptr ? extension_.advice() : std::string();
+  }
   [[nodiscard]] std::string otherHotkey() const override { return hotkey_.otherKeys(); }
   [[nodiscard]] desktop::Applications& applications() override { return *applications_; }
-  [[nodiscard]] desktop::Hotkey& hotkey() override { return hotkey_; }
+  [[nodiscard]] bool isNewPress() override { return hasPortalHotkey() || shortcut_.isNewPress(); }
+  [[nodiscard]] desktop::Hotkey& hotkey() override;
   [[nodiscard]] desktop::KeyEvents& keys() override { return keys_; }
   [[nodiscard]] desktop::Pasteboard& pasteboard() override { return *pasteboard_; }
   [[nodiscard]] const OwnWindows& ownWindows() const override { return *this; }
@@ -46,6 +52,7 @@ class PortalSystem : public WindowingSystem, private OwnWindows {
  private:
   [[nodiscard]] std::unique_ptr<desktop::Applications> makeApplications(const Services& services);
   [[nodiscard]] std::unique_ptr<desktop::Pasteboard> makePasteboard(const Services& services);
+  [[nodiscard]] bool hasPortalHotkey() const { return access_.offer.globalShortcuts > 0; }
   [[nodiscard]] bool isHotkeyHeld() const;
   void bringToFront(QWidget& window) const override;
 
@@ -57,6 +64,8 @@ class PortalSystem : public WindowingSystem, private OwnWindows {
   std::unique_ptr<desktop::Applications> applications_;
   std::unique_ptr<desktop::Pasteboard> pasteboard_;
   PortalHotkey hotkey_;
+  LoadedShortcutSettings shortcuts_;
+  GnomeHotkey shortcut_;  // where the portal has none
   PortalKeyEvents keys_;
   desktop::Ticket opening_;
 };

@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <exception>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -108,9 +109,15 @@ void obey(Command command, quillseal::AppDelegate& agent) {
   }
 }
 
-int visit(Command command) {
-  if (command == Command::background) return 0;
-  if (quillseal::linux::SingleInstance::handOver(command)) return 0;
+/// Returns the exit status if another agent runs, and has got the command.
+std::optional<int> visit(Command command) {
+  using quillseal::linux::Handover;
+  constexpr std::chrono::seconds patience{5};
+  const std::string method(quillseal::linux::wireName(command));
+  if (method.empty()) return std::nullopt;
+  const Handover handover = quillseal::linux::handOver(method, patience);
+  if (handover == Handover::noAgent) return std::nullopt;
+  if (handover == Handover::done) return 0;
   report("the running agent does not answer. End it and start again.");
   return failed;
 }
@@ -137,6 +144,7 @@ int runAgent(const CommandLine& commandLine, quillseal::linux::SingleInstance& i
 }
 
 int run(int argc, char** argv, const CommandLine& commandLine) {
+  if (const auto status = visit(commandLine.command)) return *status;
   quillseal::linux::shieldProcess();
   PortalSystem::Access access = accessToWayland();
   const bool isReached =
@@ -175,7 +183,7 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
   quillseal::linux::SingleInstance instance;
   switch (instance.claim()) {
     case quillseal::linux::SingleInstance::Role::visitor:
-      return visit(commandLine.command);
+      return visit(commandLine.command).value_or(0);
     case quillseal::linux::SingleInstance::Role::alone:
       report(
           "there is no session bus that answers: notifications and commands from other starts do "

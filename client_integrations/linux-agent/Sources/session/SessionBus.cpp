@@ -111,6 +111,29 @@ bool sessionBusAnswers(std::chrono::milliseconds patience) {
   return result < 0 ? result != isCrowded : letsIn(*bus, patience);
 }
 
+Handover handOver(const std::string& method, std::chrono::milliseconds patience) {
+  sd_bus* opened = nullptr;
+  if (::sd_bus_open_user(&opened) < 0) return Handover::noAgent;
+  const Bus bus(opened);
+  constexpr std::chrono::seconds usually{1};  // a bus that hangs is waited for later
+  if (!letsIn(*bus, usually)) return Handover::noAgent;
+  const Answer owner = ask(*bus,
+                           {.service = "org.freedesktop.DBus",
+                            .path = "/org/freedesktop/DBus",
+                            .interface = "org.freedesktop.DBus",
+                            .name = "NameHasOwner"},
+                           usually, {agentName});
+  int hasAgent = 0;
+  if (!owner.message || ::sd_bus_message_read(owner.message.get(), "b", &hasAgent) <= 0 ||
+      hasAgent == 0)
+    return Handover::noAgent;
+  const Answer answer =
+      ask(*bus,
+          {.service = agentName, .path = agentPath, .interface = agentName, .name = method.c_str()},
+          patience);
+  return answer.message ? Handover::done : Handover::noAnswer;
+}
+
 bool accessibilityAnswers(std::chrono::milliseconds patience) {
   sd_bus* opened = nullptr;
   if (::sd_bus_open_user(&opened) < 0) return true;

@@ -9,12 +9,11 @@
 #include <array>
 #include <utility>
 
+#include "session/SessionBus.h"
+
 namespace quillseal::linux {
 namespace {
 
-constexpr auto busName = "com.quillseal.Agent";
-constexpr auto objectPath = "/com/quillseal/Agent";
-constexpr int answerMilliseconds = 5000;
 constexpr std::array wireCommands = {Command::sign, Command::settings, Command::quit};
 
 QString wire(Command command) {
@@ -34,11 +33,11 @@ class SingleInstance::Receiver : public QDBusVirtualObject {
     for (const Command command : wireCommands)
       methods += QStringLiteral("<method name=\"%1\"/>").arg(wire(command));
     return QStringLiteral("<interface name=\"%1\">%2</interface>")
-        .arg(QLatin1String(busName), methods);
+        .arg(QLatin1String(agentName), methods);
   }
 
   bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override {
-    if (message.interface() != QLatin1String(busName)) return false;
+    if (message.interface() != QLatin1String(agentName)) return false;
     const auto* const command =
         std::find_if(wireCommands.begin(), wireCommands.end(),
                      [&](Command known) { return message.member() == wire(known); });
@@ -52,26 +51,19 @@ class SingleInstance::Receiver : public QDBusVirtualObject {
 SingleInstance::SingleInstance() : receiver_(std::make_unique<Receiver>()) {}
 
 SingleInstance::~SingleInstance() {
-  QDBusConnection::sessionBus().unregisterObject(QLatin1String(objectPath));
+  QDBusConnection::sessionBus().unregisterObject(QLatin1String(agentPath));
 }
 
 SingleInstance::Role SingleInstance::claim() {
   QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) return Role::alone;
   // The object is registered first: a program that finds the name must find the object too.
-  bus.registerVirtualObject(QLatin1String(objectPath), receiver_.get());
-  return bus.registerService(QLatin1String(busName)) ? Role::agent : Role::visitor;
+  bus.registerVirtualObject(QLatin1String(agentPath), receiver_.get());
+  return bus.registerService(QLatin1String(agentName)) ? Role::agent : Role::visitor;
 }
 
 void SingleInstance::onCommand(std::function<void(Command)> handler) {
   receiver_->handler = std::move(handler);
-}
-
-bool SingleInstance::handOver(Command command) {
-  const QDBusMessage call = QDBusMessage::createMethodCall(
-      QLatin1String(busName), QLatin1String(objectPath), QLatin1String(busName), wire(command));
-  return QDBusConnection::sessionBus().call(call, QDBus::Block, answerMilliseconds).type() ==
-         QDBusMessage::ReplyMessage;
 }
 
 }  // namespace quillseal::linux

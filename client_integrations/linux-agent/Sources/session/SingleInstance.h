@@ -28,9 +28,6 @@ class SingleInstance {
   /// Sets the handler of commands from later starts. Called from the main loop. Only for the agent.
   void onCommand(std::function<void(Command)> handler);
 
-  /// Sends the command to the running agent. False when none answers within five seconds.
-  [[nodiscard]] static bool handOver(Command command);
-
  private:
   class Receiver;
   std::unique_ptr<Receiver> receiver_;

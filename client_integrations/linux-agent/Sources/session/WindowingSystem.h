@@ -44,8 +44,8 @@ class WindowingSystem {
   /// for nothing.
   [[nodiscard]] virtual std::string advice() const { return {}; }
 
-  /// Whether a command to sign that has just arrived is a new one: a desktop may repeat a shortcut's
-  /// command while the keys are held. To be called once for each.
+  /// Whether a command to sign that has just arrived is a new one: a desktop may repeat a
+  /// shortcut's command while the keys are held. To be called once for each.
   [[nodiscard]] virtual bool isNewPress() { return true; }
 
   /// The keys of the hotkey, as the desktop names them, where they are not those that were asked

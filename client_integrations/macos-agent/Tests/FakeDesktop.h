@@ -544,7 +544,9 @@ struct FakeWindows final : Fake<desktop::Windows> {
 struct FakeWords final : Fake<desktop::Words> {
   using Fake::Fake;
   desktop::Wording wording = mac::MacWords().current();
+  std::string advice;
   desktop::Wording current() const override { return wording; }
+  std::string desktopAdvice() const override { return advice; }
 };
 
 struct FakeDesktop : Record {

@@ -98,6 +98,7 @@ void give(Story& d, const std::string& name, const std::string& value) {
       {"copy takes", &d.keys.copyTime},
       {"creation cancelled", &d.keyStore.cancelsCreation},
       {"declined press", &d.keys.declinedPress},
+      {"desktop advice", &d.words.advice},
       {"default browser", &d.applications.defaultBrowser},
       {"dialogs stay open", &d.alerts.leavesDialogsOpen},
       {"enclave", &d.keyStore.canHoldKey},

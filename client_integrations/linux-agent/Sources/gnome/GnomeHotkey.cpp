@@ -8,7 +8,7 @@
 #include <xkbcommon/xkbcommon-keysyms.h>
 
 #include "core/text/Error.h"
-#include "x11/KeyChords.h"
+#include "keyboard/KeyChords.h"
 
 namespace quillseal::linux {
 namespace {

@@ -112,7 +112,7 @@ desktop::FormSection SettingsView::machineSection() {
   std::string advice = services_.keyStore.advice();
   if (!advice.empty()) section.rows.emplace_back(caption(std::move(advice), TextColour::orange));
   std::string desktopAdvice = services_.words.desktopAdvice();
-  if (!desktopAdvice.empty()) section.rows.emplace_back(caption(std::move(desktopAdvice)));
+  if (!desktopAdvice.empty()) section.rows.emplace_back(caption(std::move(desktopAdvice), TextColour::secondary));
   return section;
 }
 

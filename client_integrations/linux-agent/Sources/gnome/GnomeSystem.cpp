@@ -1,7 +1,6 @@
 #include "gnome/GnomeSystem.h"
 
 #include <QCoreApplication>
-#include <QGuiApplication>
 #include <QWidget>
 #include <optional>
 #include <utility>
@@ -10,7 +9,7 @@ namespace quillseal::linux {
 
 GnomeSystem::GnomeSystem(PortalSystem::Access access, const Services& services)
     : access_(std::move(access)),
-      portal_(*access_.portalBus, QGuiApplication::desktopFileName().toStdString()),
+      portal_(*access_.portalBus),
       remote_({.loop = services.loop,
                .portal = portal_,
                .offer = access_.offer,
@@ -29,7 +28,7 @@ GnomeSystem::GnomeSystem(PortalSystem::Access access, const Services& services)
              .remote = remote_,
              .applications = applications_,
              .isHotkeyHeld = [this] { return mayHotkeyBeHeld(); },
-             .isScreenLocked = [] { return false; },
+             .isKeyboardTaken = [] { return false; },
              .isWritten = [this] { return pasteboard_.isWritten(); },
              .explain = services.explain,
              .tell = services.tell}) {

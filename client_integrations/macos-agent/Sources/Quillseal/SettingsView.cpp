@@ -112,7 +112,8 @@ desktop::FormSection SettingsView::machineSection() {
   std::string advice = services_.keyStore.advice();
   if (!advice.empty()) section.rows.emplace_back(caption(std::move(advice), TextColour::orange));
   std::string desktopAdvice = services_.words.desktopAdvice();
-  if (!desktopAdvice.empty()) section.rows.emplace_back(caption(std::move(desktopAdvice), TextColour::secondary));
+  if (!desktopAdvice.empty())
+    section.rows.emplace_back(caption(std::move(desktopAdvice), TextColour::secondary));
   return section;
 }
 

@@ -144,8 +144,8 @@ int runAgent(const CommandLine& commandLine, quillseal::linux::SingleInstance& i
 }
 
 int run(int argc, char** argv, const CommandLine& commandLine) {
-  if (const auto status = visit(commandLine.command)) return *status;
   quillseal::linux::shieldProcess();
+  if (const auto status = visit(commandLine.command)) return *status;
   PortalSystem::Access access = accessToWayland();
   const bool isReached =
       reachesApplicationsByCompositor(access) || PortalSystem::reachesApplications(access);

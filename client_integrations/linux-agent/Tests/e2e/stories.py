@@ -335,16 +335,18 @@ class Shield(Story):
         os.kill(process.pid, signal.SIGABRT)
         return os.WCOREDUMP(os.waitpid(process.pid, 0)[1])
 
-    def test_it_is_shielded_before_it_connects_to_a_compositor(self):
-        address = self.desktop.folder / "wayland-silent"
-        with socket.socket(socket.AF_UNIX) as compositor:
-            compositor.bind(str(address))
-            compositor.listen()
-            compositor.settimeout(session.PATIENCE)
-            self.desktop.env["WAYLAND_DISPLAY"] = str(address)
-            agent = self.start_as_user(self.desktop.quillseal, "--tpm", "none")
-            with compositor.accept()[0]:
-                self.assertFalse(self.is_readable(agent))
+    def test_it_is_shielded_before_it_connects_to_compositor_or_bus(self):
+        for variable, form in (("WAYLAND_DISPLAY", "{}"), ("DBUS_SESSION_BUS_ADDRESS", "unix:path={}")):
+            address = self.desktop.folder / variable
+            with self.subTest(variable), socket.socket(socket.AF_UNIX) as silent:
+                silent.bind(str(address))
+                silent.listen()
+                silent.settimeout(session.PATIENCE)
+                self.desktop.env[variable] = form.format(address)
+                agent = self.start_as_user(self.desktop.quillseal, "--sign", "--tpm", "none")
+                with silent.accept()[0]:
+                    self.assertFalse(self.is_readable(agent))
+                    self.desktop.end(agent)
 
     def test_other_programs_of_the_user_read_neither_its_memory_nor_a_core_file(self):
         other = self.start_as_user("sleep", "600")

@@ -207,7 +207,8 @@ class CurlTransportTest : public ::testing::Test {
 TEST_F(CurlTransportTest, SendsExactlyTheRequest) {
   const ScriptedServer server({.answer = answerOf("200 OK", "{}"), .tls = {}});
   const std::string host = "127.0.0.1:" + std::to_string(server.port());
-  const std::string body(2'000'000, 'x');  // large enough for "Expect: 100-continue"
+  std::string body(2'000'000, 'x');  // large enough for "Expect: 100-continue"
+  body[1] = '\0';
   EXPECT_EQ(endingOf(postTo("http://" + host + "/api/sign_native", body)).status, 200);
   ASSERT_EQ(server.requests().size(), 1U);
   const std::string request = server.requests()[0];

@@ -234,9 +234,17 @@ TEST_F(LinuxPresenceTest, ADroppedTicketEndsTheQuestion) {
 }
 
 TEST(FingerprintTouch, UnknownWordsAreAFailure) {
-  EXPECT_EQ(FingerprintReader::touchOf("verify-match").kind, FingerprintReader::Touch::Kind::match);
-  for (const char* status : {"", "verify", "verify-unknown-error", "verify-match "})
-    EXPECT_EQ(FingerprintReader::touchOf(status).kind, FingerprintReader::Touch::Kind::failure);
+  using Kind = FingerprintReader::Touch::Kind;
+  const std::map<Kind, std::vector<std::string_view>> words{
+      {Kind::match, {"verify-match"}},
+      {Kind::noMatch, {"verify-no-match"}},
+      {Kind::again,
+       {"verify-retry-scan", "verify-swipe-too-short", "verify-too-fast",
+        "verify-finger-not-centered", "verify-remove-and-retry"}},
+      {Kind::failure, {"", "verify", "verify-unknown-error", "verify-match "}}};
+  for (const auto& [kind, statuses] : words)
+    for (const std::string_view status : statuses)
+      EXPECT_EQ(FingerprintReader::touchOf(status).kind, kind) << status;
 }
 
 }  // namespace

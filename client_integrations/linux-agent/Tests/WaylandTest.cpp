@@ -526,6 +526,7 @@ TEST_P(EitherDesktop, CopiesNothingOfWhichNobodyKnowsTheWindow) {
 TEST_P(EitherDesktop, ShowsWhatIsBehindTheWindowsOfTheAgent) {
   ScriptedCompositor compositor({.isKwin = GetParam()});
   Agent agent;
+  EXPECT_FALSE(agent.windows.lastActiveOf([](const WaylandWindow&) { return true; }));
   compositor.open({.applicationId = "chat", .title = "chat"});
   compositor.open({.applicationId = "foot", .title = "(3) Notes"});
   agent.catchUp();

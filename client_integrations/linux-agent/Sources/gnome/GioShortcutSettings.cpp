@@ -129,6 +129,7 @@ bool GioShortcutSettings::add(const CustomShortcut& shortcut) {
   std::vector<std::string> paths = textsOf(list.get(), customList);
   paths.emplace_back(ownPath);
   std::vector<const char*> pointers;
+  pointers.reserve(paths.size() + 1);
   for (const std::string& path : paths)
     pointers.push_back(path.c_str());
   pointers.push_back(nullptr);

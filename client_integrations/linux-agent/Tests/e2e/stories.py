@@ -2,7 +2,7 @@
 """Tests the agent as a person uses it, on a virtual desktop with real applications.
 
 Arguments after the options go to unittest: names of tests, such as Signing or
-Signing.test_a_wrong_passphrase_may_be_corrected, or none for all.
+Signing.test_a_letter_is_signed_and_pasted_back, or none for all.
 """
 
 import hashlib

@@ -208,6 +208,14 @@ TEST_F(QtDefaultsTest, ValuesThatCannotBeSavedHoldForTheProcess) {
   EXPECT_TRUE(fs::exists(path_ / "kept"));
 }
 
+TEST_F(QtDefaultsTest, ServesAlsoWhereNoFolderCanBeMade) {
+  path_ = "/dev/null/Quillseal/Quillseal.conf";
+  QtDefaults defaults = make();
+  EXPECT_EQ(defaults.string("SigningMode"), std::nullopt);
+  defaults.setString("SigningMode", "handoff");
+  EXPECT_EQ(defaults.string("SigningMode"), "handoff");
+}
+
 TEST_F(QtDefaultsTest, ServesOtherThreadsWhileItIsChanged) {
   fs::create_directories(path_);  // so that the values are only in memory
   constexpr int rounds = 200;

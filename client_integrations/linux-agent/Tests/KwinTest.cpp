@@ -148,7 +148,8 @@ TEST_F(KwinKeys, ReachNoWindowBehindALockedScreenOrTheOverview) {
     bool isReached;
   } rows[] = {{{.isLocked = true}, false},       {{}, true},
               {{.effect = "kscreen"}, true},     {{.effect = "overview"}, false},
-              {{.effect = "windowview"}, false}, {{.answers = false}, false}};
+              {{.effect = "windowview"}, false}, {{.effect = "tileseditor"}, false},
+              {{.answers = false}, false}};
   for (const auto& row : rows) {
     const ScriptedKde kde(row.script);
     EXPECT_EQ(reaches(), row.isReached);

@@ -39,12 +39,13 @@ using Calls = std::vector<std::string>;
 class OneApplication : public desktop::Applications {
  public:
   std::optional<desktop::RunningApplication> front;
+  bool hasKeys = true;
 
   [[nodiscard]] std::optional<desktop::RunningApplication> frontmost() const override {
     return front;
   }
   [[nodiscard]] bool isActive(const desktop::RunningApplication& application) const override {
-    return front && front->instance == application.instance;
+    return hasKeys && front && front->instance == application.instance;
   }
   void activate(const desktop::RunningApplication& /*application*/) override {}
   [[nodiscard]] std::optional<desktop::InstalledApplication> preferredBrowser() const override {
@@ -111,8 +112,11 @@ class PortalTest : public ::testing::Test {
   }
 
   Delivery press(Key key, const std::optional<desktop::RunningApplication>& target) {
+    changesBefore.reset();
     return testing::awaited<Delivery>(loop, [&](auto done) {
-      return keys->press({.key = key, .modifiers = desktop::Modifiers::command}, target, {}, done);
+      return keys->press(
+          {.key = key, .modifiers = desktop::Modifiers::command}, target,
+          [this] { changesBefore = pasteboard->changeCount(); }, done);
     });
   }
 
@@ -161,6 +165,7 @@ class PortalTest : public ::testing::Test {
   bool isTaken = false;
   std::string told;
   std::string activation;
+  std::optional<std::int64_t> changesBefore;  ///< of the clipboard, before the keys were pressed
   std::optional<ScriptedPortal> desk;
   std::unique_ptr<DesktopBus> bus;
   std::optional<Portal> portal;
@@ -326,10 +331,24 @@ TEST_F(PortalKeys, AreOnlyThoseThatDoNoHarmWhereverTheyGo) {
     isHeld = row.isHeld;
     EXPECT_EQ(press(row.key, row.target), row.delivery);
     EXPECT_EQ(pressed(), row.keys);
+    EXPECT_EQ(changesBefore.has_value(), row.delivery == Delivery::delivered);
     EXPECT_EQ(told.find("let go") != std::string::npos, row.isHeld);
   }
   isTaken = true;  // by the screen lock
   EXPECT_EQ(press(Key::v, terminal), Delivery::declined);
+  isTaken = false;
+  applications.hasKeys = false;  // as under GNOME's overview
+  EXPECT_EQ(press(Key::v, terminal), Delivery::declined);
+}
+
+TEST_F(PortalKeys, AreNotPressedBeforeTheClipboardOfANewSessionIsKnown) {
+  begin({}, "old");
+  const desktop::Ticket report = loop.after(10ms, [&] {
+    testing::runUntil(loop, [&] { return remote->isOpen(); });
+    desk->copy({"text/plain"});
+  });
+  EXPECT_EQ(press(Key::c, {}), Delivery::delivered);
+  EXPECT_EQ(changesBefore, 1);
 }
 
 TEST_F(PortalKeys, SayWhenTheyCannotBeRemembered) {
@@ -365,6 +384,7 @@ TEST_F(PortalKeys, AreAllowedAgainOnlyWhenTheUserSigns) {
   desk.emplace(Script{.answer = 1});  // restarts, and the user refuses
   testing::runUntil(loop, [&] { return !remote->isOpen(); });
   EXPECT_EQ(press(Key::c, {}), Delivery::declined);
+  EXPECT_EQ(desk->calls().front(), "Register com.quillseal.agent");
   EXPECT_FALSE(keys->isTrusted());
   EXPECT_THAT(told, HasSubstr("did not let Quillseal press keys"));
   EXPECT_THAT(pressed(), IsEmpty());
@@ -396,6 +416,19 @@ TEST_F(PortalKeys, AreNotPressedAfterTheRunWasCalledOffOrTheUserWasElsewhere) {
     EXPECT_EQ(delivery.has_value(), !isCalledOff);
   }
   EXPECT_EQ(delivery, Delivery::declined);
+
+  begin({.answers = false});
+  for (const bool isRestarted : {false, true}) {
+    std::optional<bool> isOpen;
+    const desktop::Ticket opening = remote->open([&](bool result) { isOpen = result; });
+    testing::runUntil(loop, [&] { return desk->hasCall("Start"); });
+    if (!isRestarted) desk->emit("Session", "Closed", "");
+    if (!isRestarted) testing::runUntil(loop, [&] { return isOpen.has_value(); });
+    desk.reset();
+    desk.emplace(Script{.answers = false});
+    testing::runUntil(loop, [&] { return isOpen.has_value(); });
+    EXPECT_EQ(isOpen, false);
+  }
 
   begin({.answers = false});
   keys->askForTrust();
@@ -434,8 +467,10 @@ TEST_F(PortalHotkeys, ArePressedOnceUntilTheyAreReleased) {
     tell("Activated", "sign", ScriptedPortal::session);
     testing::runUntil(loop, [&] { return presses == expected; });
     EXPECT_TRUE(hotkey->mayBeHeld());
+    const auto release = loop.now();
     tell("Deactivated", "sign", ScriptedPortal::session);
     testing::runUntil(loop, [&] { return !hotkey->mayBeHeld(); });
+    EXPECT_GE(loop.now() - release, 100ms);  // for the other keys
     EXPECT_EQ(presses, expected);
   }
   EXPECT_EQ(activation, "abc");
@@ -444,6 +479,10 @@ TEST_F(PortalHotkeys, ArePressedOnceUntilTheyAreReleased) {
   testing::runUntil(loop, [&] { return desk->hasCall("BindShortcuts"); });
   tell("Activated", "sign", ScriptedPortal::session);
   testing::runUntil(loop, [&] { return presses == 3; });
+  const auto lost = loop.now() + 1100ms;  // the release, that is
+  testing::runUntil(loop, [&] { return loop.now() > lost; });
+  tell("Activated", "sign", ScriptedPortal::session);
+  testing::runUntil(loop, [&] { return presses == 4; });
 }
 
 TEST_F(PortalHotkeys, AreNamedAsTheDesktopBoundThem) {
@@ -466,6 +505,10 @@ TEST_F(PortalHotkeys, AreNamedAsTheDesktopBoundThem) {
     EXPECT_EQ(hotkey->otherKeys(), row.otherKeys);
     EXPECT_THAT(told, HasSubstr(row.told));
     EXPECT_EQ(told.empty(), *row.told == '\0');
+    if (!told.empty()) continue;
+    desk->emit("GlobalShortcuts", "ShortcutsChanged", "oa(sa{sv})", ScriptedPortal::session, 1,
+               "sign", 1, "trigger_description", "s", "Ctrl+J");
+    testing::runUntil(loop, [&] { return hotkey->otherKeys() == "Ctrl+J"; });
   }
   begin({.answer = 1});
   hotkey->registerHotkey(desktop::signingHotkey, [] {});
@@ -537,8 +580,8 @@ TEST_F(PortalClipboard, HoldsWhatWasCopied) {
 }
 
 TEST_F(PortalClipboard, OutlivesEveryOwner) {
-  for (const Owner owner :
-       {Owner::isSilent, Owner::writesTooMuch, Owner::closes, Owner::givesNoFile}) {
+  for (const Owner owner : {Owner::isReplaced, Owner::isSilent, Owner::writesTooMuch, Owner::closes,
+                            Owner::givesNoFile}) {
     begin({.owner = owner});
     ASSERT_TRUE(open());
     desk->copy({"text/plain"});
@@ -567,6 +610,7 @@ TEST_F(PortalClipboard, OffersTheBlockOrSaysThatItDoesNot) {
   pasteboard->write({.plainText = "block", .html = "<p>"});
   EXPECT_EQ(pasteboard->changeCount(), 1);
   EXPECT_TRUE(desk->hasCall("SetSelection"));
+  desk->emit("Clipboard", "SelectionTransfer", "osu", "/other", "text/plain", 6U);
   for (const auto& [format, text] : {std::pair{"text/html", "<p>"}, {"text/plain", "block"}}) {
     desk->emit("Clipboard", "SelectionTransfer", "osu", ScriptedPortal::session, format, 7U);
     const auto before = std::ranges::count(desk->calls(), "SelectionWriteDone done");
@@ -575,6 +619,7 @@ TEST_F(PortalClipboard, OffersTheBlockOrSaysThatItDoesNot) {
     });
     EXPECT_EQ(desk->received(), text);
   }
+  EXPECT_EQ(std::ranges::count(desk->calls(), "SelectionWrite"), 2);
   // The reader goes in the middle.
   pasteboard->write({.plainText = std::string(std::size_t{1} << 20, 'x'), .html = {}});
   desk->emit("Clipboard", "SelectionTransfer", "osu", ScriptedPortal::session, "text/plain", 8U);
@@ -583,9 +628,13 @@ TEST_F(PortalClipboard, OffersTheBlockOrSaysThatItDoesNot) {
   desk->stopReading();
   testing::runUntil(loop, [&] { return desk->hasCall("SelectionWriteDone failed"); });
 
-  begin({.takesSelection = false});
+  begin({.takenSelections = 1});
   ASSERT_TRUE(open());
-  EXPECT_THROW(pasteboard->write({.plainText = "block", .html = "<p>"}), Error);
+  pasteboard->write({.plainText = "block", .html = "<p>"});
+  EXPECT_THROW(pasteboard->write({.plainText = "other", .html = "<p>"}), Error);
+  desk->emit("Clipboard", "SelectionTransfer", "osu", ScriptedPortal::session, "text/plain", 9U);
+  testing::runUntil(loop, [&] { return desk->hasCall("SelectionWriteDone done"); });
+  EXPECT_EQ(desk->received(), "block");
   begin({.offer = {.remoteDesktop = 2}});
   ASSERT_TRUE(open());
   EXPECT_THROW(pasteboard->write({.plainText = "block", .html = "<p>"}), Error);

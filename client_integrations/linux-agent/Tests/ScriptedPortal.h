@@ -17,7 +17,7 @@ namespace quillseal::testing {
 class ScriptedPortal : public BusServices {
  public:
   /// What the owner of the clipboard does when it is asked for text.
-  enum class Owner { writes, isSilent, writesTooMuch, closes, givesNoFile };
+  enum class Owner { writes, isReplaced, isSilent, writesTooMuch, closes, givesNoFile };
 
   struct Script {
     linux::PortalOffer offer{.remoteDesktop = 2, .globalShortcuts = 2, .clipboard = 1};
@@ -31,7 +31,7 @@ class ScriptedPortal : public BusServices {
     bool isMalformed = false;    ///< all answers have wrong types
     std::string keys = "Press <Control><Alt><Super>h";
     Owner owner = Owner::writes;
-    bool takesSelection = true;
+    int takenSelections = 9;  ///< before one is refused
   };
 
   static constexpr const char* session = "/org/freedesktop/portal/desktop/session/s";
@@ -176,7 +176,7 @@ class ScriptedPortal : public BusServices {
       ::close(ends[1]);
       return result;
     }
-    if (member == "SetSelection" && !script_.takesSelection) return refuse(error);
+    if (member == "SetSelection" && script_.takenSelections-- == 0) return refuse(error);
     return ::sd_bus_reply_method_return(&call, "");
   }
 
@@ -213,10 +213,14 @@ class ScriptedPortal : public BusServices {
     ::sd_bus_message_read(&call, "s", &format);
     std::array<int, 2> ends{};
     if (script_.owner == Owner::givesNoFile || ::pipe(ends.data()) != 0) return refuse(error);
+    if (script_.owner == Owner::isReplaced)
+      ::sd_bus_emit_signal(::sd_bus_message_get_bus(&call), linux::Portal::path,
+                           "org.freedesktop.portal.Clipboard", "SelectionOwnerChanged", "oa{sv}",
+                           session, 0);
     const int result = ::sd_bus_reply_method_return(&call, "h", ends[0]);
     ::close(ends[0]);
     const std::string text = std::string(format) == "x-kde-passwordManagerHint" ? "secret" : format;
-    if (script_.owner == Owner::writes)
+    if (script_.owner == Owner::writes || script_.owner == Owner::isReplaced)
       static_cast<void>(::write(ends[1], text.data(), text.size()) < 0);
     if (script_.owner == Owner::writesTooMuch) {
       const std::string much(std::size_t{32} * 1024, 'x');

@@ -8,9 +8,9 @@ namespace quillseal::linux {
 namespace {
 
 /// Parts of KWin that take the keys while the window below stays active: overview, grid of
-/// desktops, windows side by side, and the choice of a window with Alt+Tab.
+/// desktops, windows side by side, the editor of tiles, and the choice of a window with Alt+Tab.
 constexpr auto keyTakingEffects = std::to_array<std::string_view>(
-    {"desktopgrid", "highlightwindow", "overview", "presentwindows", "windowview"});
+    {"desktopgrid", "highlightwindow", "overview", "presentwindows", "tileseditor", "windowview"});
 
 }  // namespace
 

@@ -740,7 +740,7 @@ TEST_F(MacDesktopTest, FindsApplications) {
   EXPECT_TRUE(applications.defaultApplicationFor("https://a.example/").has_value());
 }
 
-TEST_F(MacDesktopTest, TellsWhenNothingCouldBeOpened) {
+TEST_F(MacDesktopTest, OpensAnAddressOrTellsWhyNot) {
   MacApplications applications(loop_);
   const desktop::InstalledApplication missing{.location = "/Applications/None of these.app",
                                               .bundleIdentifier = {}};
@@ -750,11 +750,23 @@ TEST_F(MacDesktopTest, TellsWhenNothingCouldBeOpened) {
     EXPECT_TRUE(failure.has_value()) << url;
   }
   EXPECT_TRUE(errorOf([&] { applications.open(std::string("https://a b/")); }).has_value());
-  const Replaced refusing(object_getClass(NSWorkspace.sharedWorkspace), @selector(openURL:),
-                          ^BOOL(id, NSURL*) {
-                            return NO;
-                          });
+  Class workspace = object_getClass(NSWorkspace.sharedWorkspace);
+  const Replaced refusing(workspace, @selector(openURL:), ^BOOL(id, NSURL*) {
+    return NO;
+  });
   EXPECT_TRUE(errorOf([&] { applications.open(std::string("https://a.example/")); }).has_value());
+  __block std::string opened;
+  const Replaced opening(
+      workspace, @selector(openURLs:withApplicationAtURL:configuration:completionHandler:),
+      ^(id, NSArray<NSURL*>* urls, NSURL* place, id,
+        void (^done)(NSRunningApplication*, NSError*)) {
+        opened = utf8([urls.firstObject absoluteString]) + " in " + utf8(place.path);
+        done(nil, nil);
+      });
+  const auto failure = awaited<std::optional<Error>>(
+      [&](auto done) { return applications.open("https://a.example/#t=x", missing, done); });
+  EXPECT_FALSE(failure.has_value());
+  EXPECT_EQ(opened, "https://a.example/#t=x in " + missing.location);
 }
 
 /// Behind another application, as the agent starts; skipped where none comes to the front.

@@ -23,16 +23,7 @@ using ::testing::Not;
 
 /// Every scalar that is a character, in groups, and random texts.
 std::vector<std::string> textsToNormalise() {
-  std::vector<std::string> texts{"",
-                                 "Hello,  world!\n",
-                                 "“Don’t” — wait…",
-                                 "a<b>c",
-                                 "e\u0301",
-                                 " \u200b\ufeff\u2060 ",
-                                 "q\u0307\u0323 \u1e9b\u0323",
-                                 "\u1100\u1161\u11a8",
-                                 "👩‍👩‍👧 🛡️",
-                                 "\r\n\u0085\u2028"};
+  std::vector<std::string> texts{"", "a<b>c\r\n", "“Don’t” — wait…"};
   constexpr char32_t groupSize = 512;
   for (char32_t first = 0; first < 0x110000; first += groupSize) {
     icu::UnicodeString group;

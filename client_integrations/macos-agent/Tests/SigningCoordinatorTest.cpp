@@ -100,15 +100,6 @@ TEST_F(SigningCoordinatorTest, KeepsTheSystemFromSlowingItDownForTheLengthOfARun
   EXPECT_EQ(program.activities, 0);
 }
 
-TEST_F(SigningCoordinatorTest, StopsWaitingForTheBrowser) {
-  http.answers["/api/handoff/poll"] = {{200, R"({"status":"complete"})"}};
-  signInBrowser();
-  EXPECT_THAT(trace.back(), StartsWith("alert: Still Waiting | Quillseal stopped waiting"));
-  EXPECT_EQ(http.sentTo("/api/handoff/poll").size(), 285U);
-  EXPECT_GE(loop.elapsed(), 570s);
-  EXPECT_FALSE(wroteBlock());
-}
-
 TEST_F(SigningCoordinatorTest, MendsWhatIsNoUtf8) {
   keys.selection = Copy{.text = text + "\xC3", .html = "<p>\xFF</p>"};
   defaults.flags = {"ConfirmBeforeSigning"};
@@ -146,16 +137,6 @@ TEST_F(SigningCoordinatorTest, RefusesIdentifiersThatCouldBreakOut) {
       EXPECT_FALSE(d.wroteBlock());
     }
   }
-}
-
-TEST_F(SigningCoordinatorTest, RefusesASigningPageThatIsNone) {
-  for (const std::string& url :
-       {std::string("javascript:alert(1)"), "https://s/" + std::string(1'000'000, 'a')}) {
-    http.answers["/api/handoff/create"] = {{200, R"({"handoff_id":"H","url":")" + url + "\"}"}};
-    signInBrowser();
-    EXPECT_EQ(trace.back(), "alert: Signing Error | Could not build the signing URL.");
-  }
-  EXPECT_THAT(trace, Not(Contains(StartsWith("open "))));
 }
 
 TEST_F(SigningCoordinatorTest, BindsNoNameThatIsTooLongOrCouldPassForAnother) {
@@ -216,15 +197,6 @@ TEST_F(SigningCoordinatorTest, TurnsAwayWhatItCannotKeepUpWith) {
   }
   EXPECT_EQ(count("press ⌘C"), 2 * SigningCoordinator::mostRuns);
   EXPECT_EQ(count("notify: Quillseal Is Busy | "), 2);
-}
-
-TEST_F(SigningCoordinatorTest, LeavesLongHtmlOutOfTheSigningPage) {
-  keys.selection->html = std::string(5'000'000, 'a');
-  signInBrowser();
-  EXPECT_THAT(trace,
-              Contains("log: [handoff] formatting omitted: 6666667 encoded chars exceeds the 60000 "
-                       "limit for a URL fragment; showing plain text instead"));
-  EXPECT_EQ(trace.back(), notification);
 }
 
 TEST_F(SigningCoordinatorTest, GivesTheRtfOfItsOwnCopyWhenAskedForIt) {

@@ -48,10 +48,6 @@ struct Story : testing::FakeDesktop {
     keyStore.hasKey = false;
     defaults.strings["SigningMode"] = "handoff";
   }
-  void signInBrowser() {
-    inBrowser();
-    sign();
-  }
   [[nodiscard]] bool wroteBlock() const {
     return pasteboard.clipboard.text && pasteboard.clipboard.text->starts_with("『");
   }

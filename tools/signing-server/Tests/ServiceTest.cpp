@@ -163,6 +163,7 @@ TEST_F(ServiceTest, RecordsTheSignatureOfAnEnrolledDevice) {
                             "Asia&#x2F;Kolkata (UTC-03:30)", "1 January 2026, 00:00 UTC"}) {
     EXPECT_THAT(page, HasSubstr(shown));
   }
+  EXPECT_THAT(page, HasSubstr(CryptoManager::sha256Hex("images")));
   constexpr std::int64_t day = std::int64_t{24} * 60 * 60;
   now_ += 30 * day;
   EXPECT_THAT(verifyPageOf(answer), HasSubstr("&quot;isExpired&quot;:false")) << "its last day";
@@ -294,7 +295,9 @@ TEST_F(ServiceTest, AHandoffEndsUnsigned) {
   const std::string declined = openHandoff();
   EXPECT_EQ(post("/handoff/decline", {{"handoff_id", declined}}).status, 200);
   EXPECT_EQ(poll(declined).at("status"), "expired") << "so that the agent stops waiting";
-  EXPECT_EQ(pressSign(declined).status, 409);
+  const Answer refused = pressSign(declined);
+  EXPECT_EQ(refused.status, 409);
+  EXPECT_EQ(refused.body.at("error"), "This signing request was declined.");
   EXPECT_THAT(get("/handoff", declined).body, HasSubstr("Declined"));
 
   const std::string late = openHandoff();

@@ -44,12 +44,12 @@ TEST(Operations, ReplaceIllFormedBytesOnce) {
 
 TEST(Report, UnderlinesWhatMatched) {
   const std::string report = readableReport(
-      inspect({.text = "会議: see javascript:x now", .html = {}, .issued = "2025-01-30"}));
+      inspect({.text = "会議e\u0301: see javascript:x now", .html = {}, .issued = "2025-01-30"}));
   EXPECT_THAT(report, HasSubstr("Image digest  " + CryptoManager::imageManifestDigest({}) + '\n'));
   EXPECT_THAT(report, HasSubstr("Screening     refused, score 100\n"
                                 "              url-javascript (100, blocks): Deceptive links\n"
-                                "              会議: see javascript:x now\n"
-                                "                        ^^^^^^^^^^^\n"));
+                                "              会議e\u0301: see javascript:x now\n"
+                                "                         ^^^^^^^^^^^\n"));
 }
 
 }  // namespace

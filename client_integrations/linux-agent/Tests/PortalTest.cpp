@@ -355,7 +355,7 @@ TEST_F(PortalKeys, SayWhenTheyCannotBeRemembered) {
   begin({});
   std::ofstream(tokenFile.parent_path()) << "no folder";
   EXPECT_TRUE(open());
-  EXPECT_THAT(told, HasSubstr("will ask for it again next time"));
+  EXPECT_THAT(told, HasSubstr("will ask you again next time"));
 }
 
 TEST_F(PortalKeys, AreAllowedAgainOnlyWhenTheUserSigns) {

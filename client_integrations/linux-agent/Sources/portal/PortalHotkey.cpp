@@ -159,7 +159,7 @@ Task<> PortalHotkey::bind() {
   const std::string problem =
       session_ == nullptr
           ? "The portal of your desktop does not let Quillseal in, so there is no hotkey. Install "
-            "the Debian package of Quillseal if it is not, or start Quillseal again."
+            "the Debian package of Quillseal if it is not installed, or start Quillseal again."
           : std::string("Your desktop gave Quillseal no hotkey.") + otherWays;
   session_ = nullptr;
   services_.tell(problem);

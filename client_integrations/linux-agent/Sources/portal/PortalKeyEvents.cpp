@@ -8,7 +8,6 @@
 
 #include "applications/WindowDocument.h"
 #include "core/tasks/Async.h"
-#include "desktop/SigningHotkey.h"
 #include "keyboard/KeyChords.h"
 #include "portal/TaskTicket.h"
 
@@ -24,11 +23,11 @@ constexpr auto polling = 8ms;
 constexpr auto longestUnasked = 3s;
 // A new session reports the clipboard as it is, which must not pass for a copy.
 constexpr auto firstReport = 100ms;
-// Windows need time to come to the front, and web pages to restore their title. People hold a
-// hotkey of four keys for longer than one.
+// Windows need time to come to the front, and web pages to restore their title.
 constexpr auto targetPatience = 1000ms;
+// People need longer to let go of four keys than of one.
 constexpr auto releasePatience = 1400ms;
-// Programs that have a selection from the portal learn of it by way of the compositor.
+// The portal hands the selection on to the compositor, and that to programs.
 constexpr auto clipboardPropagation = 100ms;
 
 /// Ctrl+Insert and Shift+Insert mean the same in every layout.
@@ -50,8 +49,7 @@ bool PortalKeyEvents::isTrusted() const {
 void PortalKeyEvents::askForTrust() {
   asking_ = services_.remote.open([this](bool isOpen) {
     if (!isOpen) return services_.explain();
-    services_.tell("Quillseal may now press keys. Select your text and press " +
-                   nameOf(desktop::signingHotkey) + " again.");
+    services_.tell("Quillseal may now press keys. Select your text and sign again.");
   });
 }
 

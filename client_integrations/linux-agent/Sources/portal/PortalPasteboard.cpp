@@ -313,8 +313,8 @@ void PortalPasteboard::write(const desktop::PasteboardContent& content) {
   throw Error({.domain = "PortalPasteboard",
                .code = 1,
                .description =
-                   "The clipboard could not be written: your desktop has ended the permission. "
-                   "Select the text and sign it again."});
+                   "The clipboard could not be written: your desktop did not take the signed text. "
+                   "Select your text and sign it again."});
 }
 
 }  // namespace quillseal::linux

@@ -24,7 +24,7 @@ constexpr const char* refusal =
     "that you selected. Sign again, and allow it when the desktop asks.";
 constexpr const char* absence =
     "The portal of your desktop does not let Quillseal in. Install the Debian package of Quillseal "
-    "if it is not, or start Quillseal again.";
+    "if it is not installed, or start Quillseal again.";
 
 /// The key of a symbol that has the same one in every layout; 0 for others.
 int placeOf(Keysym symbol) {
@@ -148,8 +148,8 @@ void PortalRemote::keepToken(const std::string& token) const {
     services_.token.replace(token);
   } catch (const KeyFailure& failure) {
     services_.tell(
-        std::string("Quillseal may press keys, but your desktop will ask for it again next time, "
-                    "since that could not be stored: ") +
+        std::string("Quillseal may press keys now, but your desktop will ask you again next time, "
+                    "because your answer could not be stored: ") +
         failure.what());
   }
 }

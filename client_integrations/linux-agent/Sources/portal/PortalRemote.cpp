@@ -176,8 +176,10 @@ void PortalRemote::closed() {
 void PortalRemote::tap(const std::vector<Keysym>& chord) {
   for (const Keysym symbol : chord)
     notify(symbol, 1);
-  for (auto symbol = chord.rbegin(); symbol != chord.rend(); ++symbol)
-    notify(*symbol, 0);
+  std::vector<Keysym> pressed = chord;
+  std::ranges::reverse(pressed);
+  for (const Keysym symbol : pressed)
+    notify(symbol, 0);
 }
 
 void PortalRemote::notify(Keysym symbol, std::uint32_t state) const {

@@ -150,7 +150,8 @@ DesktopBus::Message DesktopBus::newCall(const Method& method) {
 }
 
 desktop::Ticket DesktopBus::callLater(sd_bus_message& request, Answered answered) {
-  const auto pending = std::make_shared<Pending>(std::move(answered));
+  const auto pending =
+      std::make_shared<Pending>(Pending{.answered = std::move(answered), .slot = {}});
   sd_bus_slot* slot = nullptr;
   const int sent =
       ::sd_bus_call_async(bus_.get(), &slot, &request, answer, pending.get(), UINT64_MAX);

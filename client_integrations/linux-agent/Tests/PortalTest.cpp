@@ -485,6 +485,20 @@ TEST_F(PortalHotkeys, ArePressedOnceUntilTheyAreReleased) {
   testing::runUntil(loop, [&] { return presses == 4; });
 }
 
+TEST_F(PortalHotkeys, AreBoundAgainWhenTheDesktopEndsThemOnce) {
+  begin({});
+  hotkey->registerHotkey(desktop::signingHotkey, [] {});
+  for (const int bindings : {1, 2}) {
+    testing::runUntil(
+        loop, [&] { return std::ranges::count(desk->calls(), "BindShortcuts") == bindings; });
+    settle();
+    EXPECT_EQ(told, "");
+    desk->emit("Session", "Closed", "");
+  }
+  testing::runUntil(loop, [&] { return !told.empty(); });
+  EXPECT_THAT(told, HasSubstr("has ended Quillseal’s hotkey"));
+}
+
 TEST_F(PortalHotkeys, AreNamedAsTheDesktopBoundThem) {
   const struct {
     const char* name;

@@ -27,6 +27,8 @@ constexpr auto releaseTime = 100ms;
 constexpr auto lostAfter = 1s;
 // A portal that ended is started by the next call; it may have ended with the session.
 constexpr auto pauseBeforeRestart = 2s;
+// A desktop that ends the session again so soon means it.
+constexpr auto deliberatelySoon = 1min;
 
 DesktopBus::Signal signal(const char* name) {
   return {.sender = Portal::service,
@@ -133,10 +135,7 @@ void PortalHotkey::bindAfter(std::chrono::milliseconds delay) {
 Task<> PortalHotkey::bind() {
   isBinding_ = true;
   isDown_ = false;
-  session_ = co_await PortalSession::open(services_.portal, interface, [this] {
-    session_ = nullptr;
-    isDown_ = false;
-  });
+  session_ = co_await PortalSession::open(services_.portal, interface, [this] { end(); });
   PortalAnswer answer;
   if (session_ != nullptr) {
     Portal::Message call = services_.portal.newCall(interface, "BindShortcuts", session_->handle());
@@ -163,6 +162,19 @@ Task<> PortalHotkey::bind() {
           : std::string("Your desktop gave Quillseal no hotkey.") + otherWays;
   session_ = nullptr;
   services_.tell(problem);
+}
+
+/// The desktop or the portal has ended the session.
+void PortalHotkey::end() {
+  session_ = nullptr;
+  isDown_ = false;
+  const auto now = services_.loop.now();
+  const bool isDeliberate = lastEnd_ && now < *lastEnd_ + deliberatelySoon;
+  lastEnd_ = now;
+  if (isDeliberate)
+    services_.tell(std::string("Your desktop has ended Quillseal’s hotkey.") + otherWays);
+  else
+    bindAfter(pauseBeforeRestart);
 }
 
 /// Reads the list of shortcuts that comes next in the message.

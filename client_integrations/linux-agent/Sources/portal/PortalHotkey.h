@@ -41,6 +41,7 @@ class PortalHotkey : public desktop::Hotkey {
 
  private:
   [[nodiscard]] Task<> bind();
+  void end();
   void bindAfter(std::chrono::milliseconds delay);
   void readKeys(sd_bus_message& shortcuts);
   void press(sd_bus_message& signal);
@@ -56,6 +57,7 @@ class PortalHotkey : public desktop::Hotkey {
   bool isDown_ = false;
   desktop::MainLoop::TimePoint lastPress_;
   desktop::MainLoop::TimePoint lastRelease_;
+  std::optional<desktop::MainLoop::TimePoint> lastEnd_;  ///< of a session
   DesktopBus::Receiver onPress_;
   DesktopBus::Receiver onRelease_;
   DesktopBus::Receiver onChange_;

@@ -24,8 +24,8 @@ struct PortalOffer {
   bool operator==(const PortalOffer&) const = default;
 };
 
-/// Asks the portal, which is started if needed, and introduces this program. Blocks for five
-/// seconds at most, and for milliseconds where the portal runs or there is none.
+/// Asks the portal, which is started if needed, and introduces this program. Blocks for
+/// milliseconds where the portal runs or there is none, and for nine seconds at most.
 ///
 /// The portal looks at `/proc/PID/root` of a client at its first call and refuses everything where
 /// that is hidden, as it is of the agent: so the bus is one of DesktopBus::openThrough.

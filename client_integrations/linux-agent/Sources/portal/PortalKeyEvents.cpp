@@ -70,9 +70,9 @@ Task<Delivery> PortalKeyEvents::deliver(Wish wish) {
   while (deliveryNow(wish) != Delivery::delivered && services_.loop.now() < end)
     co_await sleep(services_.loop, polling);
   const bool isReleased = co_await isHotkeyReleased();
-  const Delivery delivery = deliveryNow(wish);
-  if (delivery != Delivery::delivered || !isReleased)
-    co_return isReleased ? delivery : Delivery::declined;
+  if (!isReleased) co_return Delivery::declined;
+  const Delivery delivery = co_await latestDelivery(wish);
+  if (delivery != Delivery::delivered) co_return delivery;
   if (wish.aboutToPress) wish.aboutToPress();
   services_.remote.tap(chordIn(wish.press, wish.target));
   co_return Delivery::delivered;
@@ -104,6 +104,16 @@ Task<bool> PortalKeyEvents::isHotkeyReleased() {
   co_return true;
 }
 
+/// Decides on the latest state of the windows, since the other questions take time.
+Task<Delivery> PortalKeyEvents::latestDelivery(const Wish& wish) {
+  if (wish.target && services_.isKeyboardTaken()) co_return Delivery::declined;
+  if (services_.catchUp) {
+    co_await completionOf<void>(
+        [this](std::function<void()> done) { return services_.catchUp(std::move(done)); });
+  }
+  co_return deliveryNow(wish);
+}
+
 /// Returns whether a key pressed now would reach the target.
 Delivery PortalKeyEvents::deliveryNow(const Wish& wish) const {
   if (!services_.remote.isOpen()) return Delivery::declined;
@@ -114,7 +124,7 @@ Delivery PortalKeyEvents::deliveryNow(const Wish& wish) const {
   const auto front = services_.applications.frontmost();
   if (!front || front->instance != wish.target->instance) return Delivery::declined;
   if (!isSameDocument(wish.target->document, front->document)) return Delivery::documentChanged;
-  return services_.isKeyboardTaken() ? Delivery::declined : Delivery::delivered;
+  return Delivery::delivered;
 }
 
 }  // namespace quillseal::linux

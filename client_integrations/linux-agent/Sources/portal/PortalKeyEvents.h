@@ -29,6 +29,8 @@ class PortalKeyEvents : public desktop::KeyEvents {
     /// Whether the screen lock or the like takes the keys from a window that still counts as
     /// active.
     std::function<bool()> isKeyboardTaken;
+    /// Calls back once the state of the windows is the latest; empty where it always is.
+    std::function<desktop::Ticket(std::function<void()>)> catchUp{};
     /// Whether programs would paste what was last written; empty where that is so at once.
     std::function<bool()> isWritten{};
     /// Tells the user why keys cannot be pressed in this session.
@@ -57,6 +59,7 @@ class PortalKeyEvents : public desktop::KeyEvents {
   [[nodiscard]] Task<desktop::Delivery> deliver(Wish wish);
   [[nodiscard]] Task<bool> isReady();
   [[nodiscard]] Task<bool> isHotkeyReleased();
+  [[nodiscard]] Task<desktop::Delivery> latestDelivery(const Wish& wish);
   [[nodiscard]] desktop::Delivery deliveryNow(const Wish& wish) const;
 
   Services services_;

@@ -72,6 +72,12 @@ PortalSystem::PortalSystem(Access access, const Services& services)
                    return windows_ != nullptr &&
                           (isScreenLocked(*access_.bus) || isEffectTakingKeys(*access_.bus));
                  },
+             .catchUp =
+                 [this](std::function<void()> done) {
+                   if (windows_ != nullptr) return access_.compositor->catchUp(std::move(done));
+                   done();
+                   return desktop::Ticket();
+                 },
              .explain = services.explain,
              .tell = services.tell}) {
   access_.bus->serve(services.loop, services.descriptors);

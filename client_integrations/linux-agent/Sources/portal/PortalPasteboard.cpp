@@ -204,14 +204,14 @@ struct PortalPasteboard::State {
 
   Task<> send(std::string format, std::uint32_t serial) {
     ++transferCount;
-    const std::string text = format == ClipboardFormats::html ? written.html : written.plainText;
+    std::string text = format == ClipboardFormats::html ? written.html : written.plainText;
     Portal::Message call =
         services.portal.newCall(interface, "SelectionWrite", services.remote.session());
     bool isDone = false;
     if (call != nullptr && ::sd_bus_message_append(call.get(), "u", serial) >= 0) {
       const auto end = services.loop.now() + patience.transfer;
       const FileDescriptor file = co_await fileOf(*call, end);
-      isDone = co_await writeTo(file, text, end);
+      isDone = co_await writeTo(file, std::move(text), end);
     }
     --transferCount;
     const Portal::Message end =
@@ -221,8 +221,9 @@ struct PortalPasteboard::State {
       services.portal.bus().post(*end);
   }
 
-  Task<bool> writeTo(const FileDescriptor& file, std::string_view left,
+  Task<bool> writeTo(const FileDescriptor& file, std::string text,
                      desktop::MainLoop::TimePoint end) {
+    std::string_view left = text;
     while (file.isOpen()) {
       const ssize_t count = ::write(file.get(), left.data(), left.size());
       if (count < 0 && errno != EAGAIN && errno != EINTR) break;

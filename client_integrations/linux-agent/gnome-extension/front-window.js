@@ -44,9 +44,11 @@ function processOf(busName) {
   });
 }
 
-// While the overview, a menu or a dialog of the Shell is open, the keys go there.
+// While the overview, a menu or a dialog of the Shell is open, the keys go there; and to a part of
+// the Shell that has the key focus, such as a notification that is answered.
 function haveWindowsTheKeys() {
-  return Main.actionMode === Shell.ActionMode.NORMAL;
+  const focus = global.stage.get_key_focus();
+  return Main.actionMode === Shell.ActionMode.NORMAL && (!focus || focus === global.stage);
 }
 
 class FrontWindow {

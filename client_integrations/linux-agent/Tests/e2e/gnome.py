@@ -65,6 +65,10 @@ class GnomeExtension(OnGnome):
         wait_for("modifiers are held", lambda: self.front()[:3] == [window, "keys", "held"])
         self.desktop.let_go("Control_L", "Alt_L")
         wait_for("no modifier is held", lambda: self.front()[2] == "-")
+        self.desktop.evaluate("Main.panel.statusArea.dateMenu.grab_key_focus()")
+        self.assertEqual(self.front()[:2], [window, "-"])
+        self.desktop.evaluate("global.stage.set_key_focus(null)")
+        self.assertEqual(self.front()[:2], [window, "keys"])
         self.desktop.evaluate("Main.overview.show()")
         wait_for("the overview has the keys", lambda: self.front()[:2] == [window, "-"])
 

@@ -132,11 +132,12 @@ int runAgent(const CommandLine& commandLine, quillseal::linux::SingleInstance& i
   quillseal::linux::LinuxDesktop desktop(commandLine, log, std::move(access));
   quillseal::AppDelegate agent(desktop.services());
   agent.applicationDidFinishLaunching();
-  instance.onCommand([&](Command command) {
+  const auto obeyOnce = [&](Command command) {
     if (command != Command::sign || desktop.isNewPress()) obey(command, agent);
-  });
+  };
+  instance.onCommand(obeyOnce);
   const quillseal::linux::TerminationSignals signals([] { QApplication::quit(); });
-  obey(commandLine.command, agent);
+  obeyOnce(commandLine.command);
   log.write("[start] ready");
   const int status = QApplication::exec();
   instance.onCommand({});

@@ -44,11 +44,10 @@ std::optional<ShellFront> ShellExtension::front() const {
 std::string ShellExtension::advice() const {
   if (front() || !bus_.knows(shell).value_or(false)) return {};
   return "On this desktop Quillseal does not see which window you write in, so it leaves the "
-         "signed "
-         "text on the clipboard for you to paste. Enable the extension “Quillseal front window” in "
-         "the Extensions application, after a new log-in: then Quillseal copies from the window "
-         "you "
-         "write in and pastes there, and nowhere else.";
+         "signed text on the clipboard for you to paste. Log out and in again after installing "
+         "Quillseal, then enable the extension “Quillseal front window” in the Extensions "
+         "application: Quillseal then copies from the window you write in and pastes there, and "
+         "nowhere else.";
 }
 
 void ShellExtension::activate(std::uint64_t window) const {

@@ -20,8 +20,7 @@ constexpr std::uint32_t firstWithTokens = 2;  // a version of the interface
 
 constexpr const char* refusal =
     "Your desktop did not let Quillseal press keys or use the clipboard, so it cannot copy the "
-    "text "
-    "that you selected. Sign again, and allow it when the desktop asks.";
+    "text that you selected. Sign again, and allow it when the desktop asks.";
 constexpr const char* absence =
     "The portal of your desktop does not let Quillseal in. Install the Debian package of Quillseal "
     "if it is not installed, or start Quillseal again.";

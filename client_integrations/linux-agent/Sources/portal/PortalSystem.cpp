@@ -18,7 +18,7 @@ namespace quillseal::linux {
 namespace {
 
 /// Whether the compositor lets programs see windows and clipboard, as KWin does.
-bool tellsOfWindows(const WaylandConnection* compositor) {
+bool showsWindows(const WaylandConnection* compositor) {
   return compositor != nullptr && compositor->isAlive() &&
          wayland::offersDataControl(*compositor) && WaylandWindows::areOfferedBy(*compositor);
 }
@@ -27,12 +27,12 @@ bool tellsOfWindows(const WaylandConnection* compositor) {
 
 bool PortalSystem::reachesApplications(const Access& access) {
   return access.portalBus != nullptr && access.offer.remoteDesktop > 0 &&
-         (access.offer.clipboard > 0 || tellsOfWindows(access.compositor.get()));
+         (access.offer.clipboard > 0 || showsWindows(access.compositor.get()));
 }
 
 PortalSystem::PortalSystem(Access access, const Services& services)
     : access_(std::move(access)),
-      windows_(tellsOfWindows(access_.compositor.get())
+      windows_(showsWindows(access_.compositor.get())
                    ? std::make_unique<WaylandWindows>(
                          *access_.compositor, QGuiApplication::desktopFileName().toStdString())
                    : nullptr),

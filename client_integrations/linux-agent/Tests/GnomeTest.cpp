@@ -10,6 +10,7 @@
 #include <gio/gio.h>
 #include <gmock/gmock.h>
 
+#include "RunUntil.h"
 #include "core/text/Error.h"
 #include "core/text/UniqueHandle.h"
 #include "desktop/SigningHotkey.h"
@@ -176,6 +177,7 @@ TEST(GnomeHotkeys, ArePressedOnceHoweverLongTheyAreHeld) {
   EXPECT_TRUE(hotkey->isNewPress());
   EXPECT_TRUE(hotkey->mayBeHeld());
   EXPECT_FALSE(hotkey->isNewPress());
+  testing::runUntil(user.loop, [&] { return !hotkey->mayBeHeld(); });
 }
 
 TEST(GnomeHotkeys, SayWhyThereAreNone) {

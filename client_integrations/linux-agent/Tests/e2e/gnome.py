@@ -50,7 +50,8 @@ class GnomeExtension(OnGnome):
             self.desktop.open_editor("Hello", "chat.txt")
         chat = self.front()
         self.assertEqual(chat[1:6], ["keys", "-", "org.xfce.mousepad", "Mousepad", "mousepad"])
-        self.assertNotEqual((letter[0], letter[6]), (chat[0], chat[6]))
+        self.assertNotEqual(letter[0], chat[0])
+        self.assertNotEqual(letter[6], chat[6])
         self.assertRegex(chat[6], "^[0-9a-f]{64}$")
         self.desktop.key("ctrl+a", "ctrl+c")
         wait_for("the copy is counted", lambda: self.front()[7] != chat[7])
@@ -157,6 +158,15 @@ class GnomeWindows(OnGnomeWithHotkey, windows.WindowStory):
         self.desktop.focus("Enter the passphrase")
         self.desktop.enter_secret()
         self.assert_pasted_into_letter_alone(letter, chat)
+
+    def test_the_window_behind_the_agents_own_is_signed(self):
+        letter = self.open_letter()
+        self.open_settings()
+        time.sleep(1.1)  # the command must not pass for a repetition
+        self.desktop.run(self.desktop.quillseal, "--sign")
+        self.desktop.choose_secret()
+        self.desktop.enter_secret()
+        self.assert_signed(letter)
 
     def test_a_held_hotkey_is_one_press_and_no_key_is_pressed_meanwhile(self):
         self.open_letter()

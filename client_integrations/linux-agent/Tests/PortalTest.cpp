@@ -624,6 +624,13 @@ TEST_F(PortalClipboard, OffersTheBlockOrSaysThatItDoesNot) {
   pasteboard->write({.plainText = "block", .html = "<p>"});
   EXPECT_EQ(pasteboard->changeCount(), 1);
   EXPECT_TRUE(desk->hasCall("SetSelection"));
+  settle();
+  EXPECT_FALSE(pasteboard->isWritten());
+  desk->copy({"text/plain"}, Report::ofTheAgent);
+  testing::runUntil(loop, [&] { return pasteboard->isWritten(); });
+  desk->copy({"text/plain"});
+  testing::runUntil(loop, [&] { return !pasteboard->isWritten(); });
+  desk->copy({"text/plain"}, Report::ofTheAgent);
   desk->emit("Clipboard", "SelectionTransfer", "osu", "/other", "text/plain", 6U);
   for (const auto& [format, text] : {std::pair{"text/html", "<p>"}, {"text/plain", "block"}}) {
     desk->emit("Clipboard", "SelectionTransfer", "osu", ScriptedPortal::session, format, 7U);
@@ -634,8 +641,10 @@ TEST_F(PortalClipboard, OffersTheBlockOrSaysThatItDoesNot) {
     EXPECT_EQ(desk->received(), text);
   }
   EXPECT_EQ(std::ranges::count(desk->calls(), "SelectionWrite"), 2);
+  EXPECT_TRUE(pasteboard->isWritten());
   // The reader goes in the middle.
   pasteboard->write({.plainText = std::string(std::size_t{1} << 20, 'x'), .html = {}});
+  EXPECT_FALSE(pasteboard->isWritten());
   desk->emit("Clipboard", "SelectionTransfer", "osu", ScriptedPortal::session, "text/plain", 8U);
   testing::runUntil(loop, [&] { return std::ranges::count(desk->calls(), "SelectionWrite") == 3; });
   settle();

@@ -91,6 +91,7 @@ struct PortalPasteboard::State {
     if (enterOption(message, "o", "session_is_owner", "b"))
       ::sd_bus_message_read(&message, "b", &isOurs);
     ++owner;
+    isOwner = isOurs != 0;
     formats = isOurs != 0 ? std::vector<std::string>() : formatsIn(message);
     // `write` has counted its own change.
     if (!formats.empty()) change();
@@ -238,6 +239,7 @@ struct PortalPasteboard::State {
   Services services;
   Patience patience;
   std::uint64_t owner = 0;  ///< changes with the owner, also where there is none
+  bool isOwner = false;     ///< whether that is the agent, with what was last written
   std::vector<std::string> formats{};
   std::int64_t changeCount = 0;
   std::map<std::uint64_t, std::function<void()>> watches{};
@@ -306,6 +308,7 @@ void PortalPasteboard::write(const desktop::PasteboardContent& content) {
                                             state_->services.remote.session())
           : nullptr;
   desktop::PasteboardContent before = std::exchange(state_->written, content);
+  state_->isOwner = false;
   const bool isTaken = call != nullptr &&
                        Portal::append(*call, {{"mime_types", offeredFormats()}}) &&
                        state_->services.portal.bus().send(*call) != nullptr;
@@ -316,6 +319,10 @@ void PortalPasteboard::write(const desktop::PasteboardContent& content) {
                .description =
                    "The clipboard could not be written: your desktop did not take the signed text. "
                    "Select your text and sign it again."});
+}
+
+bool PortalPasteboard::isWritten() const {
+  return state_->isOwner;
 }
 
 }  // namespace quillseal::linux

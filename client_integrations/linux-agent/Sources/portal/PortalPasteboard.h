@@ -52,8 +52,11 @@ class PortalPasteboard : public desktop::Pasteboard {
   [[nodiscard]] desktop::Ticket fetchRtf(
       std::function<void(std::optional<std::string>)> done) override;
 
-  /// Returns once the portal has taken the offer.
+  /// Returns once the portal has taken the offer, which it then passes on to the desktop.
   void write(const desktop::PasteboardContent& content) override;
+
+  /// Whether the desktop has taken what was last written, and nobody else has copied since.
+  [[nodiscard]] bool isWritten() const;
 
  private:
   struct State;

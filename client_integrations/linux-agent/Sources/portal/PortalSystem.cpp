@@ -78,6 +78,7 @@ PortalSystem::PortalSystem(Access access, const Services& services)
                    done();
                    return desktop::Ticket();
                  },
+             .isWritten = isWritten_,
              .explain = services.explain,
              .tell = services.tell}) {
   access_.bus->serve(services.loop, services.descriptors);
@@ -97,12 +98,15 @@ std::unique_ptr<desktop::Applications> PortalSystem::makeApplications(const Serv
 }
 
 std::unique_ptr<desktop::Pasteboard> PortalSystem::makePasteboard(const Services& services) {
-  if (windows_ == nullptr)
-    return std::make_unique<PortalPasteboard>(
+  if (windows_ == nullptr) {
+    auto pasteboard = std::make_unique<PortalPasteboard>(
         PortalPasteboard::Services{.loop = services.loop,
                                    .descriptors = services.descriptors,
                                    .portal = portal_,
                                    .remote = remote_});
+    isWritten_ = [&board = *pasteboard] { return board.isWritten(); };
+    return pasteboard;
+  }
   return std::make_unique<WaylandPasteboard>(
       WaylandPasteboard::Services{.loop = services.loop,
                                   .descriptors = services.descriptors,

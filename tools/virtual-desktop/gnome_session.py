@@ -49,7 +49,10 @@ class Portal {
     exported.push(object);
     respond(invocation, options, { session_handle: new GLib.Variant('s', session) });
   }
-  SelectDevicesAsync([session, options], invocation) { respond(invocation, options, {}); }
+  SelectDevicesAsync([session, options], invocation) {
+    if (session === '/') invocation.return_dbus_error('org.freedesktop.DBus.Error.AccessDenied', '');
+    else respond(invocation, options, {});
+  }
   StartAsync([session, parent, options], invocation) {
     respond(invocation, options, { devices: new GLib.Variant('u', 1) });
   }

@@ -222,5 +222,18 @@ TEST(ScreeningEngine, WorkGrowsLinearlyWithWhateverIsRepeated) {
   }
 }
 
+// Of 4,096 candidates all but one stay near enough, so dropping the others has to become rarer.
+TEST(ScreeningEngine, WorkGrowsLinearlyWithCandidatesThatStayNear) {
+  const std::string gaps = repeated("\\w{0,4094}", 50);
+  const std::string expression = "zebra" + gaps + "\\s+quilts";
+  const Pattern pattern{.expression = expression};
+  const auto compiled = screening::compilePatterns({&pattern, 1});
+  const ScreeningEngine engine(compiled.tables);
+  std::array<std::uint64_t, 2> steps{};
+  static_cast<void>(engine.firstMatches(repeated("zebra", 20'000), &steps[0]));
+  static_cast<void>(engine.firstMatches(repeated("zebra", 40'000), &steps[1]));
+  EXPECT_LT(steps[1], 3 * steps[0]);
+}
+
 }  // namespace
 }  // namespace quillseal

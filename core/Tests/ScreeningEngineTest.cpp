@@ -1,10 +1,12 @@
 #include <array>
+#include <new>
 #include <random>
 #include <string>
 
 #include <gtest/gtest.h>
 
 #include "Cases.h"
+#include "FailingAllocation.h"
 #include "IcuReference.h"
 #include "PatternText.h"
 #include "RandomText.h"
@@ -175,6 +177,29 @@ TEST(ScreeningEngine, IllFormedBytesCountAsReplacementCharacters) {
   EXPECT_EQ(matches[0].start, 1U);
   EXPECT_EQ(matches[0].end, 6U);
   EXPECT_EQ(matches[1].end, 7U);
+}
+
+// A search that fails counts as a match, but must not forbid one. Each allocation fails once.
+TEST(ScreeningEngine, RunningOutOfMemoryHidesNoMatch) {
+  const Pattern pattern{.expression = "^(?![\\s\\S]*zebra\\w*!)[\\s\\S]*?quilts"};
+  const auto compiled = screening::compilePatterns({&pattern, 1});
+  const ScreeningEngine engine(compiled.tables);
+  std::size_t failedSearches = 0;
+  bool happened = true;
+  for (std::size_t succeeding = 0; happened; ++succeeding) {
+    std::vector<PatternMatch> matches;
+    try {
+      const testing::FailingAllocation failing(succeeding);
+      matches = engine.firstMatches("zebras and quilts");
+      happened = failing.happened();
+    } catch (const std::bad_alloc&) {
+      continue;
+    }
+    ASSERT_EQ(matches.size(), 1U) << succeeding;
+    EXPECT_EQ(matches.front().failed, happened) << succeeding;
+    failedSearches += happened ? 1 : 0;
+  }
+  EXPECT_GT(failedSearches, 0U);
 }
 
 std::string repeated(std::string_view unit, std::size_t size) {

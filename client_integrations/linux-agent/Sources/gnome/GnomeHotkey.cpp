@@ -16,7 +16,8 @@ namespace {
 /// Set once the user has answered, whatever the answer.
 constexpr const char* wasOffered = "ShortcutOffered";
 
-constexpr std::chrono::milliseconds assumedHold{500};
+/// GNOME repeats the command of held keys, after 500 ms unless the user chose another delay.
+constexpr std::chrono::milliseconds assumedHold{700};
 /// Desktops let people choose delays up to this before a key is repeated.
 constexpr std::chrono::milliseconds longestRepeatDelay{1000};
 

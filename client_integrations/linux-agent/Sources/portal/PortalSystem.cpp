@@ -84,8 +84,6 @@ PortalSystem::PortalSystem(Access access, const Services& services)
   access_.bus->serve(services.loop, services.descriptors);
   access_.portalBus->serve(services.loop, services.descriptors);
   if (access_.compositor != nullptr) access_.compositor->serve(services.loop, services.descriptors);
-  // In advance, so that the first signature does not wait.
-  if (remote_.mayOpenUnasked()) opening_ = remote_.open([](bool) {});
 }
 
 std::unique_ptr<desktop::Applications> PortalSystem::makeApplications(const Services& services) {

@@ -69,7 +69,6 @@ class PortalSystem : public WindowingSystem, private OwnWindows {
   LoadedShortcutSettings shortcuts_;
   GnomeHotkey shortcut_;  // where the portal has none
   PortalKeyEvents keys_;
-  desktop::Ticket opening_;
 };
 
 }  // namespace quillseal::linux

@@ -38,7 +38,7 @@ DesktopBus::Signal signal(const char* name) {
           .firstArgument = nullptr};
 }
 
-/// The combination in the form of the shortcuts specification: "CTRL+ALT+LOGO+h".
+/// The combination as freedesktop.org writes shortcuts: "CTRL+ALT+LOGO+h".
 std::string triggerOf(desktop::KeyPress combination) {
   std::string trigger;
   for (const Keysym symbol : chordOf(combination)) {

@@ -1,12 +1,11 @@
-#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <optional>
-#include <thread>
 
 #include <gmock/gmock.h>
 
 #include "Cases.h"
+#include "Programs.h"
 #include "TemporaryFolder.h"
 #include "VirtualLoop.h"
 #include "applications/LoadedDesktopEntries.h"
@@ -17,7 +16,6 @@ namespace quillseal::linux {
 namespace {
 
 using namespace ::testing;
-using namespace std::chrono_literals;
 namespace fs = std::filesystem;
 using testing::contentsOf;
 using testing::TemporaryFolder;
@@ -63,9 +61,7 @@ class Computer {
   /// Returns the arguments that the program was started with.
   [[nodiscard]] std::string opened(const std::string& program) const {
     const fs::path file = root() / (program + ".opened");
-    for (const auto end = std::chrono::steady_clock::now() + 20s;
-         !fs::exists(file) && std::chrono::steady_clock::now() < end;)
-      std::this_thread::sleep_for(2ms);
+    EXPECT_TRUE(testing::eventually([&] { return fs::exists(file); }));
     std::string address = contentsOf(file);
     fs::remove(file);
     return address;

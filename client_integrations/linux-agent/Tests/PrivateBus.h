@@ -1,16 +1,19 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <cstdlib>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 
-#include <spawn.h>
 #include <sys/mman.h>
-#include <sys/wait.h>
 #include <unistd.h>
+
+#include "Programs.h"
+#include "session/FileDescriptor.h"
 
 namespace quillseal::testing {
 
@@ -25,40 +28,32 @@ class PrivateBus {
         "<busconfig><listen>unix:tmpdir=/tmp</listen><policy context='default'>"
         "<allow send_destination='*' eavesdrop='true'/><allow eavesdrop='true'/><allow own='*'/>"
         "</policy></busconfig>";
-    const int file = ::memfd_create("bus", 0);
-    static_cast<void>(::write(file, configuration.data(), configuration.size()) < 0);
-    std::array<std::string, 5> words{
-        "dbus-daemon", "--config-file=/proc/self/fd/" + std::to_string(file), "--nofork",
-        "--nopidfile", "--print-address=" + std::to_string(ends[1])};
-    std::array<char*, words.size() + 1> arguments{};
-    for (std::size_t i = 0; i < words.size(); ++i)
-      arguments[i] = words[i].data();
-    const int error =
-        ::posix_spawnp(&process_, arguments[0], nullptr, nullptr, arguments.data(), environ);
-    ::close(ends[1]);
-    ::close(file);
-    std::string address;
-    for (char c = 0; error == 0 && ::read(ends[0], &c, 1) == 1 && c != '\n';)
-      address += c;
-    ::close(ends[0]);
-    if (address.empty()) throw std::runtime_error("dbus-daemon is not installed");
-    ::setenv(variable_.c_str(), address.c_str(), 1);
+    const linux::FileDescriptor file(::memfd_create("bus", 0)), told(ends[0]);
+    linux::FileDescriptor telling(ends[1]);
+    static_cast<void>(linux::writeAll(file, configuration));
+    daemon_.emplace(
+        linux::Spawn{.file = "/usr/bin/dbus-daemon",
+                     .arguments = {"--config-file=/proc/self/fd/" + std::to_string(file.get()),
+                                   "--nofork", "--nopidfile", "--print-address=1"},
+                     .input = file.get(),
+                     .output = telling.get()});
+    telling = {};
+    std::array<char, 200> address{};
+    if (::read(told.get(), address.data(), address.size() - 1) <= 0)
+      throw std::runtime_error("dbus-daemon does not start");
+    *std::find(address.begin(), address.end(), '\n') = '\0';
+    ::setenv(variable_.c_str(), address.data(), 1);
   }
   PrivateBus(const PrivateBus&) = delete;
   PrivateBus& operator=(const PrivateBus&) = delete;
-  ~PrivateBus() {
-    ::unsetenv(variable_.c_str());
-    ::kill(process_, SIGTERM);
-    ::kill(process_, SIGCONT);
-    ::waitpid(process_, nullptr, 0);
-  }
+  ~PrivateBus() { ::unsetenv(variable_.c_str()); }
 
   /// From now on it answers nothing.
-  void hang() const { ::kill(process_, SIGSTOP); }
+  void hang() const { ::kill(daemon_->process, SIGSTOP); }
 
  private:
   std::string variable_;
-  pid_t process_ = 0;
+  std::optional<Program> daemon_;
 };
 
 }  // namespace quillseal::testing

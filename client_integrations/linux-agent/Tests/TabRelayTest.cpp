@@ -1,23 +1,20 @@
 #include <algorithm>
 #include <array>
-#include <csignal>
 #include <filesystem>
 #include <optional>
 #include <thread>
 
 #include <poll.h>
 #include <sys/socket.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include "Cases.h"
-#include "Eventually.h"
+#include "Programs.h"
 #include "TemporaryFolder.h"
 #include "browsers/TabMessages.h"
 #include "browsers/TabSocket.h"
 #include "core/text/UnicodeText.h"
 #include "session/PrivateFolder.h"
-#include "session/Spawn.h"
 
 namespace quillseal::linux {
 namespace {
@@ -45,32 +42,23 @@ std::optional<std::string> messageFrom(const FileDescriptor& descriptor) {
   return std::nullopt;
 }
 
-/// Runs the relay as a browser does.
-class Relay {
- public:
+/// The relay as a browser runs it.
+struct Relay {
   explicit Relay(std::vector<std::string> arguments) {
     std::array<int, 2> ends{};
     if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0)
       throw std::runtime_error("socketpair");
     browser = FileDescriptor(ends[0]);
     const FileDescriptor its(ends[1]);
-    process_ = start({.file = QUILLSEAL_TAB_RELAY,
-                      .arguments = std::move(arguments),
-                      .input = its.get(),
-                      .output = its.get()})
-                   .value();
-  }
-  Relay(const Relay&) = delete;
-  Relay& operator=(const Relay&) = delete;
-  ~Relay() {
-    if (process_ <= 0) return;
-    ::kill(process_, SIGKILL);
-    ::waitpid(process_, nullptr, 0);
+    program.emplace(Spawn{.file = QUILLSEAL_TAB_RELAY,
+                          .arguments = std::move(arguments),
+                          .input = its.get(),
+                          .output = its.get()});
   }
 
   /// Waits until the relay has found no agent and watches the folder.
   void awaitWatching() const {
-    const std::filesystem::path descriptors = "/proc/" + std::to_string(process_) + "/fdinfo";
+    const std::string descriptors = "/proc/" + std::to_string(program->process) + "/fdinfo";
     EXPECT_TRUE(eventually([&] {
       std::error_code gone;
       return std::ranges::any_of(
@@ -83,15 +71,13 @@ class Relay {
   /// Returns the exit status; 128 and more for a signal, -1 when it does not end.
   int status() {
     int state = 0;
-    if (!eventually([&] { return ::waitpid(process_, &state, WNOHANG) == process_; })) return -1;
-    process_ = 0;
+    if (!eventually([&] { return ::waitpid(program->process, &state, WNOHANG) != 0; })) return -1;
+    program->process = 0;
     return WIFEXITED(state) ? WEXITSTATUS(state) : 128 + WTERMSIG(state);
   }
 
   FileDescriptor browser;
-
- private:
-  pid_t process_ = 0;
+  std::optional<testing::Program> program;
 };
 
 const std::string request = R"({"id":1,"operation":"currentTab"})";

@@ -1,5 +1,3 @@
-#include <array>
-#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -7,19 +5,19 @@
 #include <sstream>
 
 #include <gmock/gmock.h>
-#include <spawn.h>
 #include <sys/socket.h>
 #include <sys/un.h>
-#include <sys/wait.h>
 #include <tss2/tss2_esys.h>
 #include <tss2/tss2_tctildr.h>
 #include <unistd.h>
 
 #include "KeyChecks.h"
+#include "Programs.h"
 #include "TemporaryFolder.h"
 #include "core/text/Digest.h"
 #include "keys/KeyFailure.h"
 #include "keys/TpmKeyStore.h"
+#include "session/FileDescriptor.h"
 
 namespace quillseal::linux {
 namespace {
@@ -30,16 +28,15 @@ namespace fs = std::filesystem;
 
 /// A socket that accepts connections from now on, before there is anybody to serve them: nothing
 /// has to wait for the process to start.
-int listeningSocket(const std::filesystem::path& path) {
-  std::filesystem::remove(path);
-  const int descriptor = ::socket(AF_UNIX, SOCK_STREAM, 0);
-  sockaddr_un address{};
-  address.sun_family = AF_UNIX;
+FileDescriptor listeningSocket(const fs::path& path) {
+  fs::remove(path);
+  FileDescriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+  sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
   path.string().copy(address.sun_path, sizeof address.sun_path - 1);
-  if (::bind(descriptor, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
-      ::listen(descriptor, 8) != 0)
+  if (::bind(socket.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
+      ::listen(socket.get(), 8) != 0)
     throw std::runtime_error("no socket for the TPM");
-  return descriptor;
+  return socket;
 }
 
 void with(const std::string& device, const std::function<TSS2_RC(ESYS_CONTEXT*)>& command) {
@@ -57,37 +54,16 @@ void with(const std::string& device, const std::function<TSS2_RC(ESYS_CONTEXT*)>
 /// its state: a second one with the same folder is the same TPM after a restart.
 class SoftwareTpm {
  public:
-  /// Throws when swtpm is not installed.
-  explicit SoftwareTpm(const std::filesystem::path& folder)
-      : socket_(folder / "tpm"), log_(folder / "log"), process_(0) {
-    const int server = listeningSocket(socket_);
-    const int control = listeningSocket(socket_.string() + ".ctrl");
-    std::array<std::string, 11> words{"swtpm",
-                                      "socket",
-                                      "--tpm2",
-                                      "--tpmstate",
-                                      "dir=" + folder.string(),
-                                      "--server",
-                                      "type=unixio,fd=" + std::to_string(server),
-                                      "--ctrl",
-                                      "type=unixio,fd=" + std::to_string(control),
-                                      "--flags=not-need-init,startup-clear",
-                                      "--log=level=2,file=" + log_.string()};
-    std::array<char*, words.size() + 1> arguments{};
-    for (std::size_t i = 0; i < words.size(); ++i)
-      arguments[i] = words[i].data();
-    const int error =
-        ::posix_spawnp(&process_, arguments[0], nullptr, nullptr, arguments.data(), environ);
-    ::close(server);
-    ::close(control);
-    if (error != 0) throw std::runtime_error("swtpm is not installed");
-  }
-  SoftwareTpm(const SoftwareTpm&) = delete;
-  SoftwareTpm& operator=(const SoftwareTpm&) = delete;
-  ~SoftwareTpm() {
-    ::kill(process_, SIGTERM);
-    ::waitpid(process_, nullptr, 0);
-  }
+  explicit SoftwareTpm(const fs::path& folder)
+      : socket_(folder / "tpm"),
+        log_(folder / "log"),
+        program_({.file = "/usr/bin/swtpm",
+                  .arguments = {"socket", "--tpm2", "--tpmstate", "dir=" + folder.string(),
+                                "--server", "type=unixio,fd=0", "--ctrl", "type=unixio,fd=1",
+                                "--flags=not-need-init,startup-clear",
+                                "--log=level=2,file=" + log_.string()},
+                  .input = listeningSocket(socket_).get(),
+                  .output = listeningSocket(socket_.string() + ".ctrl").get()}) {}
 
   /// Its TCTI for the tss2 libraries.
   [[nodiscard]] std::string device() const { return "swtpm:path=" + socket_.string(); }
@@ -132,9 +108,9 @@ class SoftwareTpm {
   }
 
  private:
-  std::filesystem::path socket_;
-  std::filesystem::path log_;
-  pid_t process_;
+  fs::path socket_;
+  fs::path log_;
+  testing::Program program_;
 };
 
 constexpr P256::Digest message{1, 2, 3, 4, 5};

@@ -345,4 +345,10 @@ TEST(SigningStories, GoAsTold) {
 }
 
 }  // namespace
+
+void goOn(Story& story, const std::string& line) {
+  const auto [name, value] = divided(line, " = ");
+  if (!act(story, line)) give(story, name, value);
+}
+
 }  // namespace quillseal

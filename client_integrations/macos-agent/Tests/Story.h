@@ -61,4 +61,7 @@ struct Story : testing::FakeDesktop {
   std::vector<desktop::Ticket> later;  ///< of what happens meanwhile
 };
 
+/// Does or sets what a line of signing-stories.txt says.
+void goOn(Story& story, const std::string& line);
+
 }  // namespace quillseal

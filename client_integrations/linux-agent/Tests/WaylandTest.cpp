@@ -8,6 +8,7 @@
 #include <sys/wait.h>
 #include <xkbcommon/xkbcommon-keysyms.h>
 
+#include "Cases.h"
 #include "KeymapText.h"
 #include "RunUntil.h"
 #include "ScriptedCompositor.h"
@@ -255,75 +256,6 @@ TEST(WaylandPasteboard, ReadsTheFormatsThatProgramsUse) {
   }
 }
 
-TEST(WaylandPasteboard, DoesNotEvenReadASecret) {
-  for (const auto& [format, text] : {std::pair("x-kde-passwordManagerHint", "secret"),
-                                     std::pair("org.nspasteboard.ConcealedType", "")}) {
-    ScriptedCompositor compositor;
-    Agent agent;
-    compositor.copy(
-        {.formats = {{format, text}, {utf8Text, "hunter2"}, {"text/rtf", "{hunter2}"}}});
-    EXPECT_EQ(agent.plainText(), std::nullopt);
-    EXPECT_TRUE(agent.pasteboard.isConcealed());
-    EXPECT_EQ(agent.rtf(), std::nullopt);
-    EXPECT_THAT(compositor.asked(), ElementsAre(format, format));
-  }
-}
-
-TEST(WaylandPasteboard, TakesNothingForAChangeUntilThereIsSomething) {
-  ScriptedCompositor compositor;
-  Agent agent;
-  const auto before = agent.pasteboard.changeCount();
-  int changes = 0;
-  const desktop::Ticket watch = agent.pasteboard.onNextChange([&] { ++changes; });
-  compositor.clear();
-  agent.catchUp();
-  EXPECT_EQ(agent.pasteboard.changeCount(), before);
-  compositor.copy({.formats = {{utf8Text, "a"}}});
-  testing::runUntil(agent.loop, [&] { return changes > 0; });
-  EXPECT_EQ(agent.pasteboard.changeCount(), before + 1);
-  EXPECT_EQ(agent.plainText(), "a");
-  compositor.clear();
-  EXPECT_EQ(agent.plainText(), std::nullopt);
-}
-
-TEST(WaylandPasteboard, OutlivesEveryOwner) {
-  const std::string piece(100'000, 'x');
-  const struct {
-    Answer answer;
-    std::string text;
-  } rows[] = {{Answer::nothing, ""},
-              {Answer::part, "Half of a sen"},
-              {Answer::thenLeaves, "Half of a sen"},
-              {Answer::endless, piece},
-              {Answer::all, std::string(largest + 1, 'x')}};
-  for (const auto& row : rows) {
-    ScriptedCompositor compositor;
-    Agent agent;
-    compositor.copy(
-        {.formats = {{utf8Text, row.text}, {"text/rtf", row.text}}, .answer = row.answer});
-    EXPECT_EQ(agent.plainText(), std::nullopt) << static_cast<int>(row.answer);
-    EXPECT_EQ(agent.rtf(), std::nullopt) << static_cast<int>(row.answer);
-    const std::string next(largest, 'y');
-    compositor.copy({.formats = {{utf8Text, next}}});
-    EXPECT_EQ(agent.plainText(), next);
-  }
-}
-
-TEST(WaylandPasteboard, ReadsWhatIsCopiedMeanwhileInstead) {
-  ScriptedCompositor compositor;
-  Agent agent;
-  compositor.copy(
-      {.formats = {{utf8Text, "old"}, {"text/html", "<p>old"}}, .answer = Answer::onlyOnce});
-  agent.catchUp();
-  bool isFetched = false;
-  const desktop::Ticket ticket = agent.pasteboard.fetch([&] { isFetched = true; });
-  testing::runUntil(agent.loop, [&] { return compositor.asked().size() == 2; });
-  compositor.copy({.formats = {{"text/html", "<p>new"}}});
-  testing::runUntil(agent.loop, [&] { return isFetched; });
-  EXPECT_EQ(agent.pasteboard.plainText(), std::nullopt);
-  EXPECT_EQ(agent.pasteboard.html(), "<p>new");
-}
-
 TEST(WaylandPasteboard, ThrowsUnlessTheBlockIsReallyOffered) {
   const desktop::PasteboardContent block{.plainText = "block", .html = "<p>block</p>"};
   {
@@ -366,60 +298,6 @@ TEST(KeptContent, IsReadOnlyAsItWasWritten) {
 }
 
 // Keys --------------------------------------------------------------------------------------------
-
-TEST(WaylandKeyEvents, PressesWhatTheApplicationExpects) {
-  const std::vector<std::string> copied = {"29+", "mods 4", "46+", "46-", "29-", "mods 0"};
-  const std::vector<std::string> copiedInTerminal = {"29+", "mods 4", "42+",    "mods 5", "46+",
-                                                     "46-", "42-",    "mods 4", "29-",    "mods 0"};
-  const struct {
-    const char* applicationId;
-    desktop::KeyPress press;
-    std::vector<std::string> keys;
-    const char* categories = "";  ///< that only sway's tree tells
-  } rows[] = {{"editor", copyKeys, copied},
-              {"editor", pasteKeys, {"29+", "mods 4", "47+", "47-", "29-", "mods 0"}},
-              {"editor", selectAllKeys, {"29+", "mods 4", "30+", "30-", "29-", "mods 0"}},
-              {"foot", copyKeys, copiedInTerminal},
-              {"foot", pasteKeys, {}},
-              {"foot", selectAllKeys, {}},
-              {"XTerm", copyKeys, {}},
-              {"not-yet-named", copyKeys, copiedInTerminal, "TerminalEmulator"}};
-  for (const auto& row : rows) {
-    ScriptedCompositor compositor;
-    Agent agent;
-    compositor.open({.applicationId = row.applicationId, .title = "x"});
-    agent.catchUp();
-    auto target = agent.applications.frontmost();
-    target->categories += row.categories;
-    EXPECT_EQ(agent.press(row.press, target), Delivery::delivered);
-    EXPECT_EQ(compositor.keys(), row.keys) << row.applicationId;
-    EXPECT_EQ(agent.pressesAnnounced, 1);
-  }
-}
-
-TEST_P(EitherDesktop, GetsNoKeysInAnotherWindowThanTheTarget) {
-  ScriptedCompositor compositor({.isKwin = GetParam()});
-  Agent agent;
-  const std::size_t letter = compositor.open({.applicationId = "editor", .title = "letter"});
-  agent.catchUp();
-  const auto target = agent.applications.frontmost();
-  const std::size_t chat = compositor.open({.applicationId = "editor", .title = "letter"});
-  EXPECT_EQ(agent.press(pasteKeys, target), Delivery::declined);
-  compositor.makeActive(99);  // the screen lock, or a launcher
-  EXPECT_EQ(agent.press(pasteKeys, target), Delivery::declined);
-  EXPECT_EQ(agent.press(pasteKeys, std::nullopt), Delivery::declined);
-  compositor.makeActive(letter);
-  compositor.retitle(letter, "another letter");
-  EXPECT_EQ(agent.press(pasteKeys, target), Delivery::documentChanged);
-  compositor.retitle(letter, "*letter");
-  EXPECT_EQ(agent.press(pasteKeys, target), Delivery::delivered);
-  const std::vector<std::string> pressedOnce = compositor.keys();
-  compositor.close(letter);
-  compositor.makeActive(chat);
-  EXPECT_EQ(agent.press(pasteKeys, target), Delivery::targetClosed);
-  EXPECT_EQ(compositor.keys(), pressedOnce);
-  EXPECT_EQ(agent.pressesAnnounced, 1);
-}
 
 TEST_P(EitherDesktop, IsLookedAtAgainImmediatelyBeforeThePress) {
   ScriptedCompositor compositor({.isKwin = GetParam()});
@@ -479,91 +357,142 @@ TEST_P(EitherDesktop, IsLookedAtAfterTheDesktopWasAsked) {
   EXPECT_EQ(keyboard.taps, 1);
 }
 
-TEST_P(EitherDesktop, CopiesWhatIsSelectedInATerminalOfX11) {
-  ScriptedCompositor compositor({.isKwin = GetParam()});
-  Agent agent;
-  const std::size_t terminal = compositor.open({.applicationId = "XTerm", .title = "Notes"});
-  agent.catchUp();
-  compositor.select({.formats = {{utf8Text, "selected here"}}});
-  agent.catchUp();
-  const auto target = agent.applications.frontmost();
-  const auto before = agent.pasteboard.changeCount();
-  EXPECT_EQ(agent.press(copyKeys, target), Delivery::delivered);
-  EXPECT_EQ(agent.pasteboard.changeCount(), before + 1);
-  EXPECT_EQ(agent.plainText(), "selected here");
+// Stories -----------------------------------------------------------------------------------------
 
-  compositor.open({.applicationId = "editor", .title = "letter"});
-  compositor.select({.formats = {{utf8Text, "selected elsewhere"}}});
-  compositor.makeActive(terminal);
-  EXPECT_EQ(agent.press(copyKeys, target), Delivery::delivered);
-  EXPECT_EQ(agent.pasteboard.changeCount(), before + 1);
-  compositor.copy({.formats = {{utf8Text, "copied"}}});
-  EXPECT_EQ(agent.plainText(), "copied");
+/// A compositor, the agent and what a story remembers.
+struct Story {
+  explicit Story(bool isKwin) : compositor({.isKwin = isKwin}) {}
+  ScriptedCompositor compositor;
+  std::optional<Agent> agent{std::in_place};
+  std::optional<desktop::RunningApplication> target;
+  bool isFetched = true;
+  desktop::Ticket fetching;
+};
+
+/// "ANSWER FORMAT TEXT | FORMAT TEXT".
+Offered offered(const std::string& words) {
+  const std::map<std::string, Answer> answers{
+      {"all", Answer::all},         {"nothing", Answer::nothing},
+      {"part", Answer::part},       {"thenLeaves", Answer::thenLeaves},
+      {"endless", Answer::endless}, {"onlyOnce", Answer::onlyOnce}};
+  auto [answer, left] = testing::divided(words, " ");
+  Offered made{.formats = {}, .answer = answers.at(answer)};
+  while (!left.empty()) {
+    const auto [one, others] = testing::divided(left, " | ");
+    const auto [format, text] = testing::divided(one, " ");
+    made.formats[format == "utf8" ? utf8Text : format] = text;
+    left = others;
+  }
+  return made;
 }
 
-TEST_P(EitherDesktop, CopiesNothingOfWhichNobodyKnowsTheWindow) {
-  ScriptedCompositor compositor({.isKwin = GetParam()});
-  compositor.select({.formats = {{utf8Text, "selected in a window before the agent started"}}});
-  compositor.open({.applicationId = "XTerm", .title = "Notes"});
-  Agent agent;
-  const auto target = agent.applications.frontmost();
-  EXPECT_EQ(agent.press(copyKeys, target), Delivery::delivered);
-  EXPECT_EQ(agent.plainText(), std::nullopt);
-
-  compositor.select({.formats = {{utf8Text, "Half of a sen"}}, .answer = Answer::part});
-  agent.catchUp();
-  EXPECT_EQ(agent.press(copyKeys, target), Delivery::delivered);
-  bool isFetched = false;
-  const desktop::Ticket ticket = agent.pasteboard.fetch([&] { isFetched = true; });
-  compositor.open({.applicationId = "editor", .title = "letter"});
-  compositor.select({.formats = {{utf8Text, "selected elsewhere meanwhile"}}});
-  testing::runUntil(agent.loop, [&] { return isFetched; });
-  EXPECT_EQ(agent.pasteboard.plainText(), std::nullopt);
+std::string joined(const std::vector<std::string>& parts) {
+  std::string all;
+  for (const std::string& part : parts)
+    all += (all.empty() ? "" : " ") + part;
+  return all;
 }
 
-// Windows -----------------------------------------------------------------------------------------
-
-TEST_P(EitherDesktop, ShowsWhatIsBehindTheWindowsOfTheAgent) {
-  ScriptedCompositor compositor({.isKwin = GetParam()});
-  Agent agent;
-  EXPECT_FALSE(agent.windows.lastActiveOf([](const WaylandWindow&) { return true; }));
-  compositor.open({.applicationId = "chat", .title = "chat"});
-  compositor.open({.applicationId = "foot", .title = "(3) Notes"});
-  agent.catchUp();
-  compositor.open({.applicationId = "quillseal", .title = "Enter the PIN"});
-  agent.catchUp();
-  const auto front = agent.applications.frontmost();
-  ASSERT_TRUE(front);
-  EXPECT_EQ(front->name, "Foot");
-  EXPECT_THAT(front->categories, HasSubstr("TerminalEmulator"));
-  EXPECT_FALSE(agent.applications.isActive(*front));
-  agent.applications.activate(*front);
-  testing::runUntil(agent.loop, [&] { return agent.applications.isActive(*front); });
-  compositor.makeActive(99);
-  agent.catchUp();
-  EXPECT_EQ(agent.applications.frontmost(), std::nullopt);
-}
-
-TEST_P(EitherDesktop, RaisesAWindowOfTheAgentThatIsThereOrComes) {
-  ScriptedCompositor compositor({.isKwin = GetParam()});
-  Agent agent;
-  const auto activeTitle = [&] {
-    agent.catchUp();
+/// What there is now, by the name that a story gives it.
+std::string stateOf(Story& story, const std::string& name) {
+  Agent& agent = *story.agent;
+  if (name == "keys") return joined(story.compositor.keys());
+  if (name == "asked") return joined(story.compositor.asked());
+  if (name == "presses") return std::to_string(agent.pressesAnnounced);
+  if (name == "changes") return std::to_string(agent.pasteboard.changeCount());
+  if (name == "concealed") return agent.pasteboard.isConcealed() ? "yes" : "no";
+  if (name == "html") return agent.pasteboard.html().value_or("none");
+  if (name == "rtf") return agent.rtf().value_or("none");
+  if (name == "window") {
     const auto active = agent.windows.active();
-    return active ? active->title : std::string();
-  };
-  agent.windows.activateOwn("Settings");
-  compositor.open({.applicationId = "stranger", .title = "Settings"});
-  EXPECT_EQ(activeTitle(), "Settings");
-  compositor.open({.applicationId = "quillseal", .title = "Settings"});
-  compositor.open({.applicationId = "editor", .title = "chat"});
-  testing::runUntil(agent.loop, [&] { return activeTitle() == "Settings"; });
-  EXPECT_EQ(agent.windows.active()->applicationId, "quillseal");
-  compositor.open({.applicationId = "editor", .title = "letter"});
-  EXPECT_EQ(activeTitle(), "letter");
-  agent.windows.activateOwn("Settings");
-  testing::runUntil(agent.loop, [&] { return activeTitle() == "Settings"; });
-  EXPECT_EQ(agent.windows.active()->applicationId, "quillseal");
+    return active ? active->applicationId + " " + active->title : "none";
+  }
+  if (name == "front") {
+    const auto front = agent.applications.frontmost();
+    if (!front) return "none";
+    const bool isActive = agent.applications.isActive(*front);
+    return front->name.value_or("?") + (isActive ? "" : ", behind");
+  }
+  if (story.isFetched) agent.fetch();
+  testing::runUntil(agent.loop, [&] { return story.isFetched; });
+  return agent.pasteboard.plainText().value_or("none");
+}
+
+void press(Story& story, const std::string& keys, const std::string& outcome) {
+  const std::map<std::string, desktop::KeyPress> presses{{"copy", copyKeys},
+                                                         {"paste", pasteKeys},
+                                                         {"select all", selectAllKeys},
+                                                         {"nowhere", pasteKeys}};
+  const std::map<std::string, Delivery> outcomes{{"delivered", Delivery::delivered},
+                                                 {"declined", Delivery::declined},
+                                                 {"another document", Delivery::documentChanged},
+                                                 {"closed", Delivery::targetClosed}};
+  EXPECT_EQ(story.agent->press(presses.at(keys), keys == "nowhere" ? std::nullopt : story.target),
+            outcomes.at(outcome));
+}
+
+/// Does what a line of a story says.
+void act(Story& story, const std::string& line) {
+  const auto [verb, what] = testing::divided(line, " ");
+  const auto [first, rest] = testing::divided(what, " ");
+  ScriptedCompositor& compositor = story.compositor;
+  Agent& agent = *story.agent;
+  if (verb == "open") {
+    compositor.open({.applicationId = first, .title = rest});
+  } else if (verb == "close") {
+    compositor.close(std::stoul(first));
+  } else if (verb == "activate") {
+    compositor.makeActive(std::stoul(first));
+  } else if (verb == "retitle") {
+    compositor.retitle(std::stoul(first), rest);
+  } else if (verb == "copy") {
+    compositor.copy(offered(what));
+  } else if (verb == "select") {
+    compositor.select(offered(what));
+  } else if (verb == "clear") {
+    compositor.clear();
+  } else if (verb == "start") {
+    story.agent.emplace();
+  } else if (verb == "raise") {
+    agent.windows.activateOwn(what);
+  } else if (verb == "return") {
+    agent.applications.activate(agent.applications.frontmost().value());
+  } else if (verb == "target") {
+    story.target = agent.applications.frontmost();
+    story.target->categories += what;
+  } else if (verb == "fetch") {
+    story.isFetched = false;
+    story.fetching = agent.pasteboard.fetch([&story] { story.isFetched = true; });
+  } else {
+    const auto [keys, outcome] = testing::divided(what, ": ");
+    press(story, keys, outcome);
+  }
+}
+
+TEST_P(EitherDesktop, GoesAsTold) {
+  std::optional<Story> story;
+  std::string title;
+  for (const std::string& line : testing::textCases("EitherDesktop.GoesAsTold")) {
+    SCOPED_TRACE(title + " before " + line.substr(0, 80));
+    const auto [name, value] = testing::divided(line, " == ");
+    if (line.starts_with('[')) {
+      title = line;
+      story.emplace(GetParam());
+    } else if (title.ends_with("on wlroots]") && GetParam()) {
+      continue;
+    } else if (name.starts_with("unseen ")) {
+      act(*story, name.substr(7));
+    } else if (line == name) {
+      act(*story, line);
+      story->agent->catchUp();
+      story->agent->catchUp();
+    } else if (name.starts_with("later ")) {
+      testing::runUntil(story->agent->loop,
+                        [&] { return stateOf(*story, name.substr(6)) == value; });
+    } else {
+      EXPECT_EQ(stateOf(*story, name), value);
+    }
+  }
 }
 
 // Layout -----------------------------------------------------------------------------------------

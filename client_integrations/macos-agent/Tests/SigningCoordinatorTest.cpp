@@ -1,11 +1,8 @@
 #include <algorithm>
 #include <chrono>
-#include <functional>
-#include <memory>
 #include <optional>
 #include <set>
 #include <string>
-#include <utility>
 #include <variant>
 #include <vector>
 
@@ -13,71 +10,25 @@
 #include <gtest/gtest.h>
 
 #include "Quillseal/AccessibilityManager.h"
-#include "Quillseal/CryptoManager.h"
-#include "Quillseal/SecureEnclaveManager.h"
 #include "Story.h"
 #include "TaskResult.h"
-#include "core/signing/HandoffPage.h"
 #include "core/signing/SignedBlock.h"
-#include "core/text/Base64.h"
-#include "core/text/UnicodeText.h"
 
 namespace quillseal {
 namespace {
 
 using namespace std::chrono_literals;
-using ::testing::AllOf;
 using ::testing::Contains;
 using testing::Copy;
 using ::testing::ElementsAre;
-using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::Not;
 using ::testing::StartsWith;
 using testing::Text;
-using testing::Ticket;
 
 using Lines = std::vector<std::string>;
 
-class SigningCoordinatorTest : public ::testing::Test, protected Story {
- protected:
-  struct Signed {
-    std::string scope, identity;
-  };
-  /// Checks that the key has signed the fields of the request.
-  void expectSigned(const Signed& fields) const {
-    const std::string body = http.sentTo("/api/sign_native").front();
-    const std::string payload = CryptoManager::canonicalV3(
-        {.textDigest = digest,
-         .issued = "2026-03-01",
-         .scope = fields.scope,
-         .snapshotDigest = "",
-         .identity = fields.identity,
-         .signerKey = "MACHINE-1",
-         .expires = "2026-03-08",
-         .nonce = std::string_view(body).substr(body.find("\"nonce\":\"") + 9, 32),
-         .commitment = "statement"});
-    const std::string signature = base64(*SecureEnclaveManager::bytesFromHex(payload));
-    EXPECT_THAT(body, HasSubstr("\"enclave_signature\":\"" + signature + "\""));
-  }
-};
-
-TEST_F(SigningCoordinatorTest, SignsWithTheDeviceKey) {
-  defaults.strings["BoundIdentity"] = "Ada";
-  sign();
-  EXPECT_THAT(trace,
-              ElementsAre("press ⌘C",
-                          "log: [sign] 0 image reference(s), manifest "
-                          "393f8dc027605e4da96dc1d5973f18169c748ea4551a80451bfb6a0410fc02ee",
-                          "log: [sign] 18 words / 70 normalized characters / digest " + digest,
-                          "prompt: Sign " + subject + " as Ada", "POST /api/sign_native",
-                          "write clipboard", "press ⌘V", notification));
-  EXPECT_THAT(*pasteboard.clipboard.text, StartsWith("『" + text + "』\n\n"));
-  EXPECT_THAT(*pasteboard.clipboard.text, HasSubstr("· Email Message (Mail) · 1 March 2026\n"));
-  EXPECT_THAT(*pasteboard.clipboard.text, EndsWith("/verify/sig-1"));
-
-  expectSigned({.scope = "Email Message (Mail)", .identity = "Ada"});
-}
+class SigningCoordinatorTest : public ::testing::Test, protected Story {};
 
 // So that the event loop goes on during the screening of a long text.
 TEST_F(SigningCoordinatorTest, ScreensOnAnotherThread) {
@@ -88,115 +39,6 @@ TEST_F(SigningCoordinatorTest, ScreensOnAnotherThread) {
   EXPECT_EQ(count("log: [risk] "), 0);
   loop.run();
   EXPECT_EQ(count("log: [risk] "), 1);
-}
-
-TEST_F(SigningCoordinatorTest, KeepsTheSystemFromSlowingItDownForTheLengthOfARun) {
-  defaults.flags = {"ConfirmBeforeSigning"};
-  alerts.leavesDialogsOpen = true;
-  sign();
-  sign();
-  EXPECT_EQ(program.activities, 2);
-  coordinator.reset();
-  EXPECT_EQ(program.activities, 0);
-}
-
-TEST_F(SigningCoordinatorTest, MendsWhatIsNoUtf8) {
-  keys.selection = Copy{.text = text + "\xC3", .html = "<p>\xFF</p>"};
-  defaults.flags = {"ConfirmBeforeSigning"};
-  alerts.confirmation = desktop::ConfirmationEntry{.choice = "LinkedIn Post", .field = " Ada\xFF "};
-  sign();
-  const std::string scope = "LinkedIn Post → Ada\uFFFD";
-  EXPECT_THAT(http.sentTo("/api/sign_native").front(), HasSubstr("\"scope\":\"" + scope + "\""));
-  EXPECT_THAT(*pasteboard.clipboard.text, StartsWith("『" + text + "\uFFFD』"));
-  EXPECT_THAT(*pasteboard.clipboard.text, HasSubstr("· " + scope + " · 1 March 2026"));
-  EXPECT_THAT(*pasteboard.clipboard.html, HasSubstr("<p>\uFFFD</p>"));
-}
-
-TEST_F(SigningCoordinatorTest, RefusesIdentifiersThatCouldBreakOut) {
-  const std::string sayings[] = {
-      R"(x\" onclick=\"y)",       R"(a\u0000b)", "<b>", R"(a\\b)", "a b", "", "a\u202Eb",
-      std::string(1'000'000, 'a')};
-  const std::pair<std::string, std::string> answers[] = {
-      {"/api/sign_native", R"({"signature_id":")"},
-      {"/api/sign_demo", R"({"demo":true,"signature_id":")"},
-      {"/api/handoff/create", R"({"url":"https://s/h","handoff_id":")"},
-      {"/api/handoff/poll", R"({"status":"complete","signature_id":")"}};
-  for (const auto& [path, start] : answers) {
-    for (const std::string& id : sayings) {
-      Story d;
-      d.http.answers[path] = {{200, start + id + "\"}"}};
-      if (path == "/api/sign_demo") d.defaults.flags = {"DemoSigning"};
-      if (path.starts_with("/api/handoff")) d.inBrowser();
-      d.sign();
-      const bool isAwaited = id.empty() && path == "/api/handoff/poll";
-      EXPECT_THAT(d.trace.back(), StartsWith(isAwaited ? "alert: Still Waiting"
-                                                       : "alert: Signing Error | The server answ"))
-          << path << id.substr(0, 99);
-      EXPECT_EQ(d.count("open "), path == "/api/handoff/poll");
-      EXPECT_EQ(d.count("log: [demo]"), 0);
-      EXPECT_FALSE(d.wroteBlock());
-    }
-  }
-}
-
-TEST_F(SigningCoordinatorTest, BindsNoNameThatIsTooLongOrCouldPassForAnother) {
-  defaults.strings = {{"BoundIdentity", "Ada"}, {"SigningMode", "enclave"}};
-  const std::pair<std::string, const char*> cases[] = {
-      {R"(Ada\u202Eecarg)", "a name that holds invisible characters"},
-      {R"(Ada\nSigning as: Grace)", "‹U+000A›"},
-      {R"(\u200B)", "‹U+200B›"},
-      {"  ", "‹U+0020›"},
-      {std::string(1001, 'a'), "a name that is too long to be one. Check"}};
-  for (const auto& [name, reason] : cases) {
-    keyStore.hasKey = false;
-    http.answers["/api/register_native"] = {
-        {200, R"({"status":"ok","device_id":"D","identity":")" + name + "\"}"}};
-    sign();
-    EXPECT_THAT(trace.back(),
-                AllOf(StartsWith("alert: Could Not Set Up This Mac | "), HasSubstr(reason)));
-    EXPECT_EQ(defaults.strings["BoundIdentity"], "Ada");
-    EXPECT_FALSE(keyStore.hasKey);
-  }
-  const std::string longest(1000, 'a');
-  http.answers["/api/register_native"] = {
-      {200, R"({"status":"ok","device_id":"D","identity":")" + longest + "\"}"}};
-  sign();
-  EXPECT_EQ(defaults.strings["BoundIdentity"], longest);
-}
-
-TEST_F(SigningCoordinatorTest, SpellsOutAStoredNameButSignsItsBytes) {
-  const std::string name = "Ada\u202E\nDate: 1 May";
-  const std::string spelt = "Ada‹U+202E›‹U+000A›Date: 1 May";
-  defaults.strings["BoundIdentity"] = name;
-  defaults.flags = {"ConfirmBeforeSigning"};
-  alerts.confirmation = desktop::ConfirmationEntry{.choice = "LinkedIn Post", .field = ""};
-  sign();
-  EXPECT_THAT(trace, Contains("prompt: Sign " + subject + " as " + spelt));
-  expectSigned({.scope = "LinkedIn Post", .identity = name});
-}
-
-TEST_F(SigningCoordinatorTest, TurnsAwayWhatItCannotKeepUpWith) {
-  alerts.leavesDialogsOpen = true;
-  keys.selection->text = "Too short.";
-  for (int call = 0; call < 40; ++call)
-    coordinator->startSigning();
-  loop.run();
-  EXPECT_EQ(count("press ⌘C"), SigningCoordinator::mostRuns);
-  EXPECT_EQ(count("alert: Not signed"), SigningCoordinator::mostRuns) << "each in its alert";
-  EXPECT_EQ(count("notify: Quillseal Is Busy | "), 1);
-  EXPECT_EQ(count("log: [sign] turned away"), 1);
-
-  // After some have ended there is room, and the next refusal is shown again.
-  forget();
-  coordinator.emplace(services());
-  alerts.leavesDialogsOpen = false;
-  for (int round = 0; round < 2; ++round) {
-    for (int call = 0; call < 40; ++call)
-      coordinator->startSigning();
-    loop.run();
-  }
-  EXPECT_EQ(count("press ⌘C"), 2 * SigningCoordinator::mostRuns);
-  EXPECT_EQ(count("notify: Quillseal Is Busy | "), 2);
 }
 
 TEST_F(SigningCoordinatorTest, GivesTheRtfOfItsOwnCopyWhenAskedForIt) {

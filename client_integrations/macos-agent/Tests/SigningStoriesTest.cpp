@@ -15,6 +15,7 @@
 
 #include "Cases.h"
 #include "Quillseal/AppDelegate.h"
+#include "Quillseal/SecureEnclaveManager.h"
 #include "Story.h"
 #include "core/text/Base64.h"
 #include "core/text/UnicodeText.h"
@@ -40,10 +41,11 @@ Lines splitAt(std::string line, const std::string& separator) {
   return parts;
 }
 
-using Field = std::variant<bool*, int*, std::string*, std::chrono::milliseconds*, Outcome<bool>*,
-                           std::optional<Copy>*, std::optional<Error>*,
-                           std::optional<desktop::RunningApplication>*,
-                           std::optional<desktop::InstalledApplication>*>;
+using Field =
+    std::variant<bool*, int*, std::string*, std::chrono::milliseconds*, Outcome<bool>*,
+                 std::optional<Copy>*, std::optional<Error>*, desktop::PresenceCapability*,
+                 desktop::Biometry*, std::optional<desktop::RunningApplication>*,
+                 std::optional<desktop::InstalledApplication>*>;
 
 void set(bool& field, const std::string& value) {
   field = value == "yes";
@@ -63,6 +65,17 @@ void set(std::optional<Error>& field, const std::string& value) {
 /// "no", or the words of an error.
 void set(Outcome<bool>& field, const std::string& value) {
   field = value == "no" ? Outcome<bool>(false) : Outcome<bool>(Record::error(value));
+}
+/// "yes", "no", or why they cannot be asked for.
+void set(desktop::PresenceCapability& field, const std::string& value) {
+  field = {.available = value == "yes", .reason = {}};
+  if (!field.available && value != "no") field.reason = Record::error(value);
+}
+void set(desktop::Biometry& field, const std::string& value) {
+  using desktop::Biometry;
+  field = value == "Face ID" ? Biometry::faceId
+          : value == "none"  ? Biometry::none
+                             : Biometry::other;
 }
 /// "none", "unreadable" or TEXT | HTML, where "concealed" stands for no HTML.
 void set(std::optional<Copy>& field, const std::string& value) {
@@ -91,6 +104,9 @@ void give(Story& d, const std::string& name, const std::string& value) {
       {"active", &d.applications.active},
       {"advice", &d.keyStore.keyAdvice},
       {"any browser opens", &d.applications.anyBrowserOpens},
+      {"biometrics", &d.presence.biometrics},
+      {"biometrics or password", &d.presence.biometricsOrPassword},
+      {"biometry", &d.presence.ofMachine},
       {"browser opens", &d.applications.browserOpens},
       {"chrome", &d.applications.chrome},
       {"clipboard reports changes", &d.pasteboard.reportsChanges},
@@ -170,6 +186,25 @@ std::string joined(const Lines& lines) {
   return all;
 }
 
+/// Whether the key has signed the fields of the request: IDENTITY | SCOPE, and those of all
+/// stories.
+bool isSigned(const Story& d, const std::string& fields) {
+  const std::string body = d.http.sentTo("/api/sign_native").front();
+  const auto [identity, scope] = divided(fields, " | ");
+  const std::string payload = CryptoManager::canonicalV3(
+      {.textDigest = digest,
+       .issued = "2026-03-01",
+       .scope = scope,
+       .snapshotDigest = "",
+       .identity = identity,
+       .signerKey = "MACHINE-1",
+       .expires = "2026-03-08",
+       .nonce = std::string_view(divided(body, "nonce\":\"").second).substr(0, 32),
+       .commitment = "statement"});
+  const std::string signature = base64(*SecureEnclaveManager::bytesFromHex(payload));
+  return body.find("\"enclave_signature\":\"" + signature + "\"") != std::string::npos;
+}
+
 /// What there is now, by the name that a story gives it.
 std::string stateOf(const Story& d, const std::string& name) {
   const auto [kind, which] = divided(name, " ");
@@ -182,6 +217,7 @@ std::string stateOf(const Story& d, const std::string& name) {
   if (kind == "file")
     return d.files.contents.at("/home/ada/Library/Logs/Quillseal-signed-text.txt");
   if (kind == "key") return d.keyStore.hasKey ? "yes" : "no";
+  if (kind == "signed") return isSigned(d, which) ? "yes" : "no";
   if (kind == "times") return std::to_string(d.count(which));
   if (kind == "running") return std::to_string(d.program.activities);
   return "no story can look at " + name;
@@ -277,6 +313,7 @@ bool act(Story& d, const std::string& line) {
     d.app->applicationDidFinishLaunching();
   } else if (line == "end") {
     d.app.reset();
+    d.coordinator.reset();
   } else if (line == "hotkey") {
     d.hotkey.pressed();
   } else if (line == "wait") {
@@ -295,8 +332,9 @@ bool act(Story& d, const std::string& line) {
     tell(d, what);
   } else if (line == "sign") {
     d.sign();
-  } else if (line == "start") {
-    d.coordinator->startSigning();
+  } else if (verb == "start") {
+    for (int runs = what.empty() ? 1 : std::stoi(what); runs > 0; --runs)
+      d.coordinator->startSigning();
   } else if (line == "enrol") {
     d.enrolments.start(d.coordinator->enrolDevice());
     d.loop.run();
@@ -316,6 +354,7 @@ TEST(SigningStories, GoAsTold) {
     for (const auto& [name, value] : {std::pair{"{text}", text},
                                       {"{subject}", subject},
                                       {"{digest}", digest},
+                                      {"{damaged}", "\xFF"},
                                       {"{link}", base64Url(text)},
                                       {"{images}", CryptoManager::imageManifestDigest({"a.png"})}})
       line = unicode::replacingAll(line, name, value);

@@ -105,11 +105,13 @@ class HttpServer::Listener : public httplib::Server {
   std::atomic<bool> isServing_ = false;
 };
 
-HttpServer::HttpServer(Service& service, const std::function<void(const std::string&)>& log)
+HttpServer::HttpServer(std::function<Reply(const Request&)> answer,
+                       const std::function<void(const std::string&)>& log)
     : listener_(std::make_unique<Listener>()) {
   Listener& listener = *listener_;
-  const auto handle = [&service](const httplib::Request& received, httplib::Response& response) {
-    const Reply reply = service.answer(requestOf(received));
+  const auto handle = [answer = std::move(answer)](const httplib::Request& received,
+                                                   httplib::Response& response) {
+    const Reply reply = answer(requestOf(received));
     response.status = reply.status;
     response.set_content(reply.body, reply.contentType);
   };

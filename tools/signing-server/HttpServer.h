@@ -15,12 +15,13 @@ struct Address {
   int port = 0;  ///< 0 for any free port
 };
 
-/// Serves a `Service` over HTTP.
+/// Answers requests over HTTP.
 class HttpServer {
  public:
-  /// `service` outlives the server. `log`, if set, gets one line for each request, from any thread,
-  /// never with a body, query or header.
-  HttpServer(Service& service, const std::function<void(const std::string&)>& log);
+  /// `answer` gives the answer to each request. `log`, if set, gets one line for each, never with a
+  /// body, query or header. Both are called from any thread.
+  HttpServer(std::function<Reply(const Request&)> answer,
+             const std::function<void(const std::string&)>& log);
   ~HttpServer();
   HttpServer(const HttpServer&) = delete;
   HttpServer& operator=(const HttpServer&) = delete;

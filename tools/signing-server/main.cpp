@@ -139,8 +139,9 @@ int serve(const Options& options) {
   sigaddset(&endings, SIGTERM);
   pthread_sigmask(SIG_BLOCK, &endings, nullptr);
 
-  devserver::HttpServer server(service,
-                               options.verbose ? log : std::function<void(const std::string&)>());
+  devserver::HttpServer server(
+      [&service](const devserver::Request& request) { return service.answer(request); },
+      options.verbose ? log : std::function<void(const std::string&)>());
   const std::optional<int> port = server.bind({.host = options.listen, .port = options.port});
   if (!port) {
     std::cerr << "quillseal-dev-server: cannot listen on " << options.listen << " port "

@@ -6,7 +6,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <functional>
 #include <map>
 #include <mutex>
 #include <optional>
@@ -17,7 +16,6 @@
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <httplib.h>
 #include <nlohmann/json.hpp>
 
 #include "HttpServer.h"
@@ -29,92 +27,7 @@
 namespace quillseal::devserver {
 
 inline constexpr const char* apiKey = "key";
-inline constexpr const char* host = "127.0.0.1";
 inline constexpr std::int64_t start = 1767225600;  // 1 January 2026, 00:00 UTC
-
-/// Runs a server on its own thread.
-template <typename Server>
-class Serving {
- public:
-  explicit Serving(Server& server, std::function<void()> serve) : server_(server), thread_(serve) {}
-  ~Serving() {
-    server_.stop();
-    thread_.join();
-  }
-
- private:
-  Server& server_;
-  std::thread thread_;
-};
-
-/// A proxy in front of the real server that passes everything on. It lets a test add a script to
-/// the pages and serve more files, and records the browser's requests. /test/clock returns the real
-/// time in milliseconds, because the browser's clock is virtual and stops while it works.
-class Front {
- public:
-  explicit Front(int upstreamPort) : upstreamPort_(upstreamPort) {
-    server_.Get(R"([\s\S]*)", [this](const auto& request, auto& response) {
-      if (request.path == "/test/clock") return tellTime(response);
-      const auto own = files.find(request.path);
-      if (own == files.end()) return pass(request, response);
-      const bool isScript = request.path.ends_with(".js");
-      response.set_content(own->second, isScript ? "text/javascript" : "text/html; charset=utf-8");
-    });
-    server_.Post(R"([\s\S]*)",
-                 [this](const auto& request, auto& response) { pass(request, response); });
-    port_ = server_.bind_to_any_port(host);
-    serving_.emplace(server_, [this] { server_.listen_after_bind(); });
-  }
-
-  [[nodiscard]] std::string origin() const {
-    return "http://" + std::string(host) + ":" + std::to_string(port_);
-  }
-
-  /// Returns target and body of every request.
-  [[nodiscard]] std::vector<std::string> traffic() const {
-    const std::scoped_lock lock(mutex_);
-    return traffic_;
-  }
-
-  std::map<std::string, std::string> files;  ///< changed only while no browser runs
-
- private:
-  static void tellTime(httplib::Response& response) {
-    const auto now = std::chrono::steady_clock::now().time_since_epoch();
-    response.set_content(
-        std::to_string(std::chrono::duration_cast<std::chrono::milliseconds>(now).count()),
-        "text/plain");
-  }
-
-  void pass(const httplib::Request& request, httplib::Response& response) {
-    {
-      const std::scoped_lock lock(mutex_);
-      traffic_.push_back(request.target + ' ' + request.body);
-    }
-    httplib::Client client(host, upstreamPort_);
-    const httplib::Result result =
-        request.method == "POST"
-            ? client.Post(request.target, request.body, request.get_header_value("Content-Type"))
-            : client.Get(request.target);
-    if (!result) return;
-    response.status = result->status;
-    response.set_header("Content-Security-Policy",
-                        result->get_header_value("Content-Security-Policy"));
-    std::string body = result->body;
-    if (const std::size_t end = body.find("</body>");
-        end != std::string::npos && files.contains("/test/act.js")) {
-      body.insert(end, R"(<script type="module" src="/test/act.js"></script>)");
-    }
-    response.set_content(body, result->get_header_value("Content-Type"));
-  }
-
-  httplib::Server server_;
-  int upstreamPort_;
-  int port_ = 0;
-  mutable std::mutex mutex_;
-  std::vector<std::string> traffic_;
-  std::optional<Serving<httplib::Server>> serving_;
-};
 
 /// What the scripts of tests share: `report` shows lines in an element of their own, `openRecord`
 /// makes the page that of another signature, whose script finds its record when it starts.
@@ -150,13 +63,38 @@ class PageTest : public ::testing::Test {
     std::string pattern = ::testing::TempDir() + "/pages-XXXXXX";
     if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary folder");
     profile_ = pattern;
-    const std::optional<int> port = server_.bind({.host = host, .port = 0});
+    const std::optional<int> port = server_.bind({.host = "127.0.0.1", .port = 0});
     if (!port) throw std::runtime_error("no port to listen on");
-    serving_.emplace(server_, [this] { EXPECT_TRUE(server_.serve()); });
-    front_.emplace(*port);
-    front_->files["/test/help.js"] = helpers;
+    origin_ += std::to_string(*port);
+    serving_ = std::thread([this] { EXPECT_TRUE(server_.serve()); });
   }
-  ~PageTest() override { std::filesystem::remove_all(profile_); }
+  ~PageTest() override {
+    server_.stop();
+    serving_.join();
+    std::filesystem::remove_all(profile_);
+  }
+
+  /// Adds the test's script to the pages and serves its files. /test/clock is the real time in
+  /// milliseconds, because the browser's clock is virtual and stops while it works.
+  Reply answer(const Request& request) {
+    if (request.path == "/test/clock") {
+      const auto now = std::chrono::steady_clock::now().time_since_epoch();
+      return {.contentType = "text/plain",
+              .body = std::to_string(now / std::chrono::milliseconds(1))};
+    }
+    if (const auto own = files_.find(request.path); own != files_.end())
+      return {.contentType = request.path.ends_with(".js") ? "text/javascript" : "text/html",
+              .body = own->second};
+    {
+      const std::scoped_lock lock(mutex_);
+      traffic_.push_back(request.path + ' ' + request.handoffId + ' ' + request.body);
+    }
+    Reply reply = service_.answer(request);
+    if (const std::size_t end = reply.body.find("</body>");
+        end != std::string::npos && files_.contains("/test/act.js"))
+      reply.body.insert(end, R"(<script type="module" src="/test/act.js"></script>)");
+    return reply;
+  }
 
   /// Returns the document's HTML after its scripts have run for `milliseconds` of virtual time.
   std::string documentAt(const std::string& url, int milliseconds = 20'000) const {
@@ -197,7 +135,7 @@ class PageTest : public ::testing::Test {
                                      .answer({.method = "POST",
                                               .path = path,
                                               .contentType = "application/json",
-                                              .host = front_->origin().substr(7),
+                                              .host = origin_.substr(7),
                                               .handoffId = "",
                                               .body = body.dump()})
                                      .body);
@@ -228,12 +166,17 @@ class PageTest : public ::testing::Test {
   }
 
   std::filesystem::path profile_;
+  std::string origin_ = "http://127.0.0.1:";
+  std::map<std::string, std::string> files_{{"/test/help.js", helpers}};  ///< of the test
+  std::vector<std::string> traffic_;  ///< path, handoff and body of every other request
   Registry registry_{":memory:"};
   Service service_{registry_,
                    {.apiKey = apiKey, .identity = "", .origin = "", .now = [] { return start; }}};
-  HttpServer server_{service_, nullptr};
-  std::optional<Serving<HttpServer>> serving_;
-  std::optional<Front> front_;
+  HttpServer server_{[this](const Request& request) { return answer(request); }, nullptr};
+
+ private:
+  std::mutex mutex_;
+  std::thread serving_;
 };
 
 }  // namespace quillseal::devserver

@@ -44,15 +44,15 @@ std::vector<std::string> textsToNormalise() {
 
 TEST_F(PageTest, NormalisesAsTheAgentDoes) {
   const std::vector<std::string> texts = textsToNormalise();
-  front_->files["/test/texts.html"] =
+  files_["/test/texts.html"] =
       R"(<!DOCTYPE html><body><script type="module" src="/test/texts.js"></script></body>)";
-  front_->files["/test/texts.json"] = json(texts).dump();
-  front_->files["/test/texts.js"] = R"js(
+  files_["/test/texts.json"] = json(texts).dump();
+  files_["/test/texts.js"] = R"js(
 import { textDigest } from "/assets/canonical.js";
 import { report } from "/test/help.js";
 for (const text of await (await fetch("/test/texts.json")).json()) report(await textDigest(text));
 )js";
-  const std::vector<std::string> digests = reportAt(front_->origin() + "/test/texts.html");
+  const std::vector<std::string> digests = reportAt(origin_ + "/test/texts.html");
   ASSERT_EQ(digests.size(), texts.size());
   for (std::size_t i = 0; i < texts.size(); ++i) {
     EXPECT_EQ(digests[i], digestOf(texts[i])) << quillseal::testing::escaped(texts[i]);
@@ -67,7 +67,7 @@ constexpr const char* hostileFragment =
 
 TEST_F(PageTest, SignsTheTextOfTheFragment) {
   const Handoff handoff = openHandoff(hostileText);
-  front_->files["/test/act.js"] = R"js(
+  files_["/test/act.js"] = R"js(
 import { report, settled, until } from "/test/help.js";
 const sign = document.getElementById("sign");
 await until(() => !sign.disabled);
@@ -92,16 +92,16 @@ report(document.getElementById("heading").textContent);
                              "&lt;p&gt;A &lt;img src=x onerror=document.title=1&gt;&lt;/p&gt;", "0",
                              "no inline script", "no other server", "Signed"));
   EXPECT_EQ(statusOf(handoff.id), "complete");
-  for (const std::string& request : front_->traffic()) {
+  for (const std::string& request : traffic_) {
     EXPECT_THAT(request, AllOf(Not(HasSubstr("onerror")), Not(HasSubstr("QSA8aW1n"))))
         << "the text never reaches the server";
   }
-  EXPECT_THAT(front_->traffic(), Contains(HasSubstr("/handoff/sign")));
+  EXPECT_THAT(traffic_, Contains(HasSubstr("/handoff/sign")));
 }
 
 TEST_F(PageTest, RefusesToSignAnyOtherText) {
   const Handoff handoff = openHandoff("another text");
-  front_->files["/test/act.js"] = R"js(
+  files_["/test/act.js"] = R"js(
 import { report, until } from "/test/help.js";
 await until(() => document.getElementById("result").textContent !== "");
 report(document.getElementById("result").classList[1]);
@@ -120,7 +120,7 @@ TEST_F(PageTest, DeclinesAndExpires) {
   const Handoff late = openHandoff(hostileText);
   EXPECT_THAT(documentAt(late.url + hostileFragment, 700'000),
               HasSubstr(R"(<h1 id="heading">Expired</h1>)"));
-  front_->files["/test/act.js"] = R"js(
+  files_["/test/act.js"] = R"js(
 import { report, until } from "/test/help.js";
 document.getElementById("decline").click();
 await until(() => document.getElementById("actions").hidden);

@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <httplib.h>
 #include <nlohmann/json.hpp>
 
 #include "Cases.h"
@@ -95,7 +96,7 @@ class VerifyPageTest : public PageTest {
     return record.id;
   }
 
-  std::string linkTo(const std::string& id) const { return front_->origin() + "/verify/" + id; }
+  std::string linkTo(const std::string& id) const { return origin_ + "/verify/" + id; }
 
   TestDevice device_;
 };
@@ -105,13 +106,13 @@ TEST_F(VerifyPageTest, JudgesEachPaste) {
   json list = json::array();
   for (const json& each : cases) {
     const std::string id = recorded(filled(each.value("base", "{text}")), each);
-    const std::string halves = linkTo(id).insert(front_->origin().size() - 1, " ");
+    const std::string halves = linkTo(id).insert(origin_.size() - 1, " ");
     std::string paste = replacedAll(filled(each.at("paste")), "{halves}", halves);
     paste = replacedAll(std::move(paste), "{link}", linkTo(id));
     list.push_back({{"id", id}, {"paste", std::move(paste)}});
   }
-  front_->files["/test/cases.json"] = list.dump();
-  front_->files["/test/act.js"] = R"js(
+  files_["/test/cases.json"] = list.dump();
+  files_["/test/act.js"] = R"js(
 import { isSilent, openRecord, paste, report, until } from "/test/help.js";
 // Nothing in it is changed on its way through the document's HTML.
 const ascii = (value) => JSON.stringify(value).replace(/[^ -%'-;=?-~]/g,
@@ -160,16 +161,15 @@ for (const each of await (await fetch("/test/cases.json")).json()) {
 /// Both forms of the agent's block, as a browser shows and copies them.
 TEST_F(VerifyPageTest, IsGreenForTheAgentsOwnBlock) {
   const std::string id = recorded(text);
-  const std::string server = front_->origin();
   const SignedBlock::Fields fields{.signatureId = id,
                                    .text = text,
                                    .html = std::nullopt,
                                    .issued = "2026-01-01",
                                    .scope = "Email Message (Writer)",
-                                   .server = server};
-  front_->files["/test/cases.json"] =
+                                   .server = origin_};
+  files_["/test/cases.json"] =
       json{SignedBlock::plainText(fields), SignedBlock::htmlDocument(fields)}.dump();
-  front_->files["/test/act.js"] = R"js(
+  files_["/test/act.js"] = R"js(
 import { isSilent, paste, report, until } from "/test/help.js";
 const [plain, html] = await (await fetch("/test/cases.json")).json();
 const mail = document.createElement("div");
@@ -197,7 +197,7 @@ TEST_F(VerifyPageTest, SaysNothingBeforeThePaste) {
   EXPECT_THAT(before, HasSubstr(R"(<p class="headline">Nothing has been compared yet</p>)"));
   EXPECT_THAT(before, Not(HasSubstr("This page cannot tell")));
   // The page without JavaScript.
-  const std::string without = httplib::Client(front_->origin()).Get("/verify/" + id)->body;
+  const std::string without = httplib::Client(origin_).Get("/verify/" + id)->body;
   EXPECT_THAT(without, HasSubstr("This page cannot tell you whether your message is genuine"));
   EXPECT_THAT(without, HasSubstr(R"(<div id="paste" hidden>)"));
   for (const std::string& document : {before, without}) {
@@ -212,7 +212,7 @@ TEST_F(VerifyPageTest, SaysNothingBeforeThePaste) {
 
 TEST_F(VerifyPageTest, ShowsAllOfALongTextWhenAsked) {
   const std::string base = std::string(19'999, 'a') + "👩" + std::string(1'000, 'b');
-  front_->files["/test/act.js"] = "const text = " + json(base).dump() + R"js(;
+  files_["/test/act.js"] = "const text = " + json(base).dump() + R"js(;
 import { paste, report, until } from "/test/help.js";
 paste(text);
 await until(() => document.querySelector("[data-shows=text]"));
@@ -250,8 +250,8 @@ TEST_F(VerifyPageTest, AnswersSoonWhateverIsPasted) {
   for (const auto& [unit, count] : std::initializer_list<std::pair<const char*, int>>{
            {"a", longest + 1}, {"a", 20 * longest}, {"字", longest}})
     list.push_back({{"id", empty}, {"paste", ""}, {"unit", unit}, {"count", count}});
-  front_->files["/test/cases.json"] = list.dump();
-  front_->files["/test/act.js"] = "const longest = " + std::to_string(longest) + R"js(;
+  files_["/test/cases.json"] = list.dump();
+  files_["/test/act.js"] = "const longest = " + std::to_string(longest) + R"js(;
 import { isSilent, openRecord, paste, report, settled } from "/test/help.js";
 const clock = async () => Number(await (await fetch("/test/clock")).text());
 let current;

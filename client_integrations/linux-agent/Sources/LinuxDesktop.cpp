@@ -67,7 +67,7 @@ std::unique_ptr<WindowingSystem> chosen(PortalSystem::Access access,
   const bool isUnderXwayland = QGuiApplication::platformName() == QLatin1String("xcb");
   if (isUnderXwayland && access.portalBus != nullptr && access.offer.remoteDesktop > 0)
     return std::make_unique<GnomeSystem>(std::move(access), services);
-  return std::make_unique<X11System>(services);
+  return std::make_unique<X11System>(services, access.offer.isSilent);
 }
 
 /// The wording for the key that exists now or would be made.

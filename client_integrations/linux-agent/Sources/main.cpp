@@ -147,6 +147,9 @@ int runAgent(const CommandLine& commandLine, quillseal::linux::SingleInstance& i
 int run(int argc, char** argv, const CommandLine& commandLine) {
   quillseal::linux::shieldProcess();
   if (const auto status = visit(commandLine.command)) return *status;
+  constexpr std::chrono::seconds patience{5};
+  if (!quillseal::linux::sessionBusAnswers(patience))
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
   PortalSystem::Access access = accessToWayland();
   const bool isReached =
       reachesApplicationsByCompositor(access) || PortalSystem::reachesApplications(access);
@@ -169,9 +172,6 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
   // The TPM library would log every wrong PIN and, if asked to, everything that it sends.
   qputenv("TSS2_LOG", "all+none");
 
-  constexpr std::chrono::seconds patience{5};
-  if (!quillseal::linux::sessionBusAnswers(patience))
-    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
   // The session manager is not needed, and Qt waits for its first answer without a time-out.
   QApplication::setAttribute(Qt::AA_DisableSessionManager);
 

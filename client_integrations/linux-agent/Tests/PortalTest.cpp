@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <chrono>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <optional>
@@ -702,6 +703,54 @@ TEST_F(PortalOffers, AreWhatThePortalSays) {
     const ScriptedPortal scripted(row.script);
     EXPECT_EQ(offerOfPortal(*own), row.offer);
   }
+}
+
+// Also a start-up must not wait for long.
+TEST_F(PortalOffers, AreNotWaitedForWhereThePortalHangs) {
+  const auto services = folder.path() / "services";
+  const auto portals = folder.path() / "xdg-desktop-portal" / "portals";
+  const auto started = folder.path() / "started";
+  std::filesystem::create_directories(services);
+  std::filesystem::create_directories(portals);
+  testing::overwrite(services / "portal.service",
+                     std::string("[D-BUS Service]\nName=") + Portal::service +
+                         "\nExec=/bin/sh -c 'touch " + started.string() +
+                         "; exec sleep 5 >/dev/null 2>&1'\n");
+  testing::overwrite(portals / "screen.portal",
+                     "[portal]\nInterfaces=org.freedesktop.impl.portal.ScreenCast\n");
+  ::setenv("XDG_DATA_DIRS", ("/absent:" + folder.path().string()).c_str(), 1);
+  ::setenv("XDG_DATA_HOME", "/absent", 1);
+  const testing::PrivateBus hanging("DBUS_SESSION_BUS_ADDRESS", services.string());
+  const auto own = DesktopBus::open();
+  const auto offerAndTime = [&] {
+    const auto start = loop.now();
+    const PortalOffer offer = offerOfPortal(*own);
+    return std::pair(offer, loop.now() - start);
+  };
+  // Only the start of the portal can hang here, and it would bring nothing.
+  const auto [nothing, shortTime] = offerAndTime();
+  EXPECT_EQ(nothing, PortalOffer{});
+  EXPECT_LT(shortTime, 1s);
+  EXPECT_FALSE(std::filesystem::exists(started));
+
+  testing::overwrite(
+      portals / "keys.portal",
+      "[portal]\nInterfaces=a;org.freedesktop.impl.portal.RemoteDesktop;b\nUseIn=gnome\n");
+  const auto [ofStarting, startingTime] = offerAndTime();
+  EXPECT_EQ(ofStarting, PortalOffer{.isSilent = true});
+  EXPECT_LT(startingTime, 2500ms);
+  EXPECT_TRUE(std::filesystem::exists(started));
+
+  // It runs, and answers as a process does that was stopped.
+  const testing::BusServices mute(::sd_bus_open_user, {Portal::service},
+                                  [](sd_bus_message*, const std::string&, sd_bus_error*) {
+                                    return 1;  // and no reply
+                                  });
+  const auto [ofMute, muteTime] = offerAndTime();
+  EXPECT_EQ(ofMute, PortalOffer{.isSilent = true});
+  EXPECT_LT(muteTime, 2500ms);
+  ::unsetenv("XDG_DATA_DIRS");
+  ::unsetenv("XDG_DATA_HOME");
 }
 
 }  // namespace

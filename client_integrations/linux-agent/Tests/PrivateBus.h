@@ -7,7 +7,6 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
-#include <string_view>
 
 #include <sys/mman.h>
 #include <unistd.h>
@@ -18,16 +17,18 @@
 namespace quillseal::testing {
 
 /// A private dbus-daemon. While the object lives, the environment's `variable` names it. It has no
-/// services at first, and starts none of the computer's.
+/// services at first, and starts none of the computer's, but those of the folder `services`.
 class PrivateBus {
  public:
-  explicit PrivateBus(const char* variable) : variable_(variable) {
+  explicit PrivateBus(const char* variable, const std::string& services = "/nowhere")
+      : variable_(variable) {
     std::array<int, 2> ends{};
     if (::pipe(ends.data()) != 0) throw std::runtime_error("no pipe");
-    constexpr std::string_view configuration =
+    const std::string configuration =
         "<busconfig><listen>unix:tmpdir=/tmp</listen><policy context='default'>"
         "<allow send_destination='*' eavesdrop='true'/><allow eavesdrop='true'/><allow own='*'/>"
-        "</policy></busconfig>";
+        "</policy><servicedir>" +
+        services + "</servicedir></busconfig>";
     const linux::FileDescriptor file(::memfd_create("bus", 0)), told(ends[0]);
     linux::FileDescriptor telling(ends[1]);
     static_cast<void>(linux::writeAll(file, configuration));

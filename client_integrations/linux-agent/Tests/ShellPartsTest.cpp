@@ -72,6 +72,8 @@ TEST(ReachTest, SaysWhatDoesNotWorkAndHowToGoOn) {
     expectPart(
         limitsOf({.isWayland = isWayland, .hasXServer = hasXServer, .canPressKeys = canPressKeys}),
         part);
+  expectPart(limitsOf({.isWayland = true, .hasXServer = true, .isPortalSilent = true}),
+             "did not answer in time");
 }
 
 TEST(ReachTest, ChoosesThePlatformThatReachesMost) {

@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include "core/tasks/Async.h"
+#include "portal/InstalledPortals.h"
 
 namespace quillseal::linux {
 namespace {
@@ -23,8 +24,22 @@ constexpr DesktopBus::Signal ownerChanged{.sender = "org.freedesktop.DBus",
                                           .name = "NameOwnerChanged",
                                           .firstArgument = Portal::service};
 
-std::uint32_t propertyOf(DesktopBus& bus, const char* interface, const char* name) {
-  const DesktopBus::Message answer = bus.call(
+/// The time until which the portal is waited for.
+class Deadline {
+ public:
+  [[nodiscard]] std::chrono::milliseconds left() const {
+    return std::chrono::ceil<std::chrono::milliseconds>(end_ - Clock::now());
+  }
+
+ private:
+  using Clock = std::chrono::steady_clock;
+  Clock::time_point end_ = Clock::now() + portalPatience;
+};
+
+std::uint32_t propertyOf(DesktopBus& bus, const Deadline& deadline, const char* interface,
+                         const char* name) {
+  const DesktopBus::Message answer = bus.callWithin(
+      deadline.left(),
       {.service = Portal::service, .path = Portal::path, .interface = properties, .name = "Get"},
       "ss", interface, name);
   std::uint32_t value = 0;
@@ -62,9 +77,9 @@ Portal::Message introduction(DesktopBus& bus) {
   return call;
 }
 
-void introduce(DesktopBus& bus, const PortalOffer& offer) {
+void introduce(DesktopBus& bus, const Deadline& deadline, const PortalOffer& offer) {
   const Portal::Message registration = introduction(bus);
-  if (registration == nullptr || bus.send(*registration) != nullptr) return;
+  if (registration == nullptr || bus.send(*registration, deadline.left()) != nullptr) return;
   constexpr const char* noSession = "/";
   const DesktopBus::Method harmless{
       .service = Portal::service,
@@ -72,25 +87,30 @@ void introduce(DesktopBus& bus, const PortalOffer& offer) {
       .interface = offer.remoteDesktop > 0 ? "org.freedesktop.portal.RemoteDesktop"
                                            : "org.freedesktop.portal.GlobalShortcuts",
       .name = offer.remoteDesktop > 0 ? "SelectDevices" : "ListShortcuts"};
-  static_cast<void>(bus.call(harmless, "oa{sv}", noSession, 0));
+  static_cast<void>(bus.callWithin(deadline.left(), harmless, "oa{sv}", noSession, 0));
 }
 
 }  // namespace
 
 PortalOffer offerOfPortal(DesktopBus& bus) {
-  constexpr std::chrono::seconds start{5};
+  const Deadline deadline;
   const std::optional<bool> isRunning = bus.knows(Portal::service);
-  if (!isRunning || (!*isRunning && !bus.start(Portal::service, start))) return {};
-  const auto version = [&bus](const char* interface) {
-    return propertyOf(bus, interface, "version");
-  };
+  if (!isRunning || (!*isRunning && !isRemoteDesktopInstalled())) return {};
   PortalOffer offer;
+  if (!*isRunning && !bus.start(Portal::service, deadline.left())) {
+    offer.isSilent = deadline.left().count() <= 0;
+    return offer;
+  }
+  const auto version = [&](const char* interface) {
+    return propertyOf(bus, deadline, interface, "version");
+  };
   constexpr const char* remoteDesktop = "org.freedesktop.portal.RemoteDesktop";
-  if ((propertyOf(bus, remoteDesktop, "AvailableDeviceTypes") & keyboard) != 0)
+  if ((propertyOf(bus, deadline, remoteDesktop, "AvailableDeviceTypes") & keyboard) != 0)
     offer.remoteDesktop = version(remoteDesktop);
   offer.globalShortcuts = version("org.freedesktop.portal.GlobalShortcuts");
   offer.clipboard = version("org.freedesktop.portal.Clipboard");
-  if (offer != PortalOffer{}) introduce(bus, offer);
+  if (offer != PortalOffer{}) introduce(bus, deadline, offer);
+  offer.isSilent = deadline.left().count() <= 0;
   return offer;
 }
 

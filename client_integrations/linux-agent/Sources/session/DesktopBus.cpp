@@ -134,11 +134,7 @@ std::optional<bool> DesktopBus::knows(const char* name) {
 }
 
 bool DesktopBus::start(const char* name, std::chrono::milliseconds limit) {
-  if (knows(name).value_or(false)) return true;
-  const Message request = newCall(methodOfBus("StartServiceByName"));
-  if (request == nullptr || ::sd_bus_message_append(request.get(), "su", name, 0U) < 0)
-    return false;
-  return send(*request, limit) != nullptr;
+  return callWithin(limit, methodOfBus("StartServiceByName"), "su", name, 0U) != nullptr;
 }
 
 DesktopBus::Message DesktopBus::newCall(const Method& method) {
@@ -172,6 +168,7 @@ std::string DesktopBus::ownName() const {
 }
 
 DesktopBus::Message DesktopBus::send(sd_bus_message& request, std::chrono::milliseconds limit) {
+  if (limit <= std::chrono::milliseconds{0}) return nullptr;
   ::sd_bus_message_set_auto_start(&request, 0);
   sd_bus_message* answer = nullptr;
   const int result = ::sd_bus_call(bus_.get(), &request, inMicroseconds(limit), nullptr, &answer);

@@ -66,10 +66,17 @@ class DesktopBus {
   /// Starts no service. `types` and `arguments` as for sd_bus_message_append.
   template <typename... Arguments>
   [[nodiscard]] Message call(const Method& method, const char* types, Arguments... arguments) {
+    return callWithin(patience, method, types, arguments...);
+  }
+
+  /// The same with another time limit, of which only a positive one is waited for.
+  template <typename... Arguments>
+  [[nodiscard]] Message callWithin(std::chrono::milliseconds limit, const Method& method,
+                                   const char* types, Arguments... arguments) {
     const Message request = newCall(method);
     if (request == nullptr || ::sd_bus_message_append(request.get(), types, arguments...) < 0)
       return nullptr;
-    return send(*request);
+    return send(*request, limit);
   }
 
   /// Makes a call for `callLater`. Null when the bus is gone.
@@ -86,6 +93,7 @@ class DesktopBus {
 
   /// Sends the call and returns the answer, as `call`.
   [[nodiscard]] Message send(sd_bus_message& request) { return send(request, patience); }
+  [[nodiscard]] Message send(sd_bus_message& request, std::chrono::milliseconds limit);
 
   /// The name of this connection on the bus, such as ":1.42"; empty when there is none.
   [[nodiscard]] std::string ownName() const;
@@ -98,7 +106,6 @@ class DesktopBus {
  private:
   explicit DesktopBus(sd_bus* bus) : bus_(bus) {}
   static constexpr std::chrono::milliseconds patience{1000};
-  [[nodiscard]] Message send(sd_bus_message& request, std::chrono::milliseconds limit);
   void processQueued();
   void process();
 

@@ -3,6 +3,9 @@
 namespace quillseal::linux {
 
 std::string limitsOf(const SessionTraits& session) {
+  if (session.isWayland && session.isPortalSilent)
+    return "The portal of your desktop did not answer in time, and without it Quillseal cannot "
+           "reach most applications here. Start Quillseal again in a moment.";
   if (!session.hasXServer)
     return "This Wayland desktop lets no program read what is selected in another or press keys "
            "there, so that Quillseal cannot sign selected text here. Its settings work. Signing "

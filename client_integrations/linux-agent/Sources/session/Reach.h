@@ -7,8 +7,9 @@ namespace quillseal::linux {
 /// The properties of a session that decide whether the agent can reach other applications.
 struct SessionTraits {
   bool isWayland = false;
-  bool hasXServer = false;    ///< its own or Xwayland
-  bool canPressKeys = false;  ///< the X server has XTEST and XKEYBOARD
+  bool hasXServer = false;      ///< its own or Xwayland
+  bool canPressKeys = false;    ///< the X server has XTEST and XKEYBOARD
+  bool isPortalSilent = false;  ///< the desktop's portal did not answer in time
 };
 
 /// Says what does not work in a session, what does, and what to do, in sentences for the user;

@@ -19,10 +19,12 @@ bool isWayland() {
 
 }  // namespace
 
-X11System::X11System(const Services& services)
+X11System::X11System(const Services& services, bool isPortalSilent)
     : keyboard_(isOnX() ? X11Keyboard::open() : nullptr),
-      limits_(limitsOf(
-          {.isWayland = isWayland(), .hasXServer = isOnX(), .canPressKeys = keyboard_ != nullptr})),
+      limits_(limitsOf({.isWayland = isWayland(),
+                        .hasXServer = isOnX(),
+                        .canPressKeys = keyboard_ != nullptr,
+                        .isPortalSilent = isPortalSilent})),
       pasteboard_({.loop = services.loop, .descriptors = services.descriptors}),
       applications_(windows_, services.entries, services.loop),
       hotkey_(services.loop, keyboard_.get(), limits_),

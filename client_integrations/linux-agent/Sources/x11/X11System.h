@@ -17,7 +17,9 @@ namespace quillseal::linux {
 /// reports that.
 class X11System : public WindowingSystem, private OwnWindows {
  public:
-  explicit X11System(const Services& services);
+  /// `isPortalSilent`: the desktop's portal, which might have let the agent reach more, did not
+  /// answer.
+  X11System(const Services& services, bool isPortalSilent);
 
   [[nodiscard]] std::string limits() const override { return limits_; }
   [[nodiscard]] desktop::Applications& applications() override { return applications_; }

@@ -1,0 +1,56 @@
+#include "portal/InstalledPortals.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <vector>
+
+namespace quillseal::linux {
+namespace {
+
+std::string variable(const char* name) {
+  const char* value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): before any thread
+  return value == nullptr ? std::string() : std::string(value);
+}
+
+std::vector<std::filesystem::path> portalFolders() {
+  // For systems that keep their files elsewhere; the portal then reads nothing else.
+  if (const std::string only = variable("XDG_DESKTOP_PORTAL_DIR"); !only.empty()) return {only};
+  const std::string home = variable("XDG_DATA_HOME");
+  const std::string system = variable("XDG_DATA_DIRS");
+  std::string folders = home.empty() ? variable("HOME") + "/.local/share" : home;
+  folders += ':' + (system.empty() ? "/usr/local/share:/usr/share" : system) + ':';
+  std::vector<std::filesystem::path> result;
+  for (std::size_t end = 0; (end = folders.find(':')) != std::string::npos;
+       folders.erase(0, end + 1))
+    if (end > 0)
+      result.push_back(std::filesystem::path(folders.substr(0, end)) / "xdg-desktop-portal" /
+                       "portals");
+  return result;
+}
+
+bool offersKeys(const std::filesystem::path& file) {
+  constexpr std::string_view wanted = "org.freedesktop.impl.portal.RemoteDesktop";
+  std::ifstream lines(file);
+  for (std::string line; std::getline(lines, line);)
+    if (line.starts_with("Interfaces=") && line.find(wanted) != std::string::npos) return true;
+  return false;
+}
+
+}  // namespace
+
+bool isRemoteDesktopInstalled() {
+  return std::ranges::any_of(portalFolders(), [](const std::filesystem::path& folder) {
+    std::error_code none;
+    const std::filesystem::directory_iterator files(folder, none);
+    return std::any_of(begin(files), end(files), [](const auto& file) {
+      return file.path().extension() == ".portal" && offersKeys(file.path());
+    });
+  });
+}
+
+}  // namespace quillseal::linux

@@ -51,13 +51,13 @@ ClipboardKeeper::ClipboardKeeper(std::vector<std::filesystem::path> places)
 
 void ClipboardKeeper::keep(const desktop::PasteboardContent& content) const {
   const auto place = firstProgram(places_);
-  if (!place) fail("the program " + std::string(program) + " is missing. Install Quillseal again.");
+  if (!place) fail("a program of Quillseal is missing. Install Quillseal again.");
   const FileDescriptor input(memfd_create("quillseal-clipboard", MFD_CLOEXEC));
   if (!writeAll(input, KeptContent::written(content)))
     fail("there is not enough memory. Close some programs and try again.");
   lseek(input.get(), 0, SEEK_SET);
 
-  // The process that is started here ends when its child holds the offer that the compositor has
+  // The process that is started here ends when its child holds the offer that the desktop has
   // taken.
   const auto process = start({.file = *place, .input = input.get()});
   if (!process) fail(place->string() + " could not be started. Install Quillseal again.");

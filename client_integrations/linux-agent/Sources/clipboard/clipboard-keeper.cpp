@@ -1,19 +1,17 @@
-// Offers its standard input on the clipboard until another program copies. Exits with status 0 once
-// the compositor has taken the offer; a child process goes on to hold it.
+// Keeps text on the clipboard of a Wayland compositor.
 
-#include <csignal>
-#include <iterator>
+#include <cerrno>
+#include <chrono>
 #include <list>
-#include <optional>
-#include <string>
+#include <memory>
 #include <string_view>
-#include <vector>
+#include <utility>
 
 #include <fcntl.h>
 #include <unistd.h>
 
 #include "clipboard/ClipboardFormats.h"
-#include "clipboard/ClipboardKeeper.h"
+#include "clipboard/KeeperProcess.h"
 #include "session/FileDescriptor.h"
 #include "session/PollLoop.h"
 #include "wayland/WaylandConnection.h"
@@ -25,31 +23,22 @@ namespace wayland = quillseal::linux::wayland;
 using quillseal::desktop::PasteboardContent;
 using quillseal::desktop::Ticket;
 using quillseal::linux::Descriptors;
+using quillseal::linux::WaylandConnection;
 
 constexpr std::chrono::seconds patience{5};
 
-std::string everythingFrom(int file) {
-  std::string text;
-  std::vector<char> piece(std::size_t{64} * 1024);
-  for (ssize_t count = 0; (count = read(file, piece.data(), piece.size())) > 0;)
-    text.append(piece.data(), static_cast<std::size_t>(count));
-  return text;
-}
-
-class Offer {
+class Offer final : public quillseal::linux::KeptOffer {
  public:
-  Offer(quillseal::linux::WaylandConnection& connection, PasteboardContent content)
-      : connection_(connection),
+  Offer(std::unique_ptr<WaylandConnection> connection, PasteboardContent content)
+      : connection_(std::move(connection)),
         content_(std::move(content)),
-        manager_(wayland::bindDataControl(connection)) {}
+        manager_(wayland::bindDataControl(*connection_)) {}
 
-  /// Makes the offer. Returns whether the compositor has taken it.
-  [[nodiscard]] bool make();
+  [[nodiscard]] bool make() override;
 
-  /// Serves the offer until another program copies or the compositor ends.
-  void hold() {
-    connection_.onEnd([this] { loop_.stop(); });
-    connection_.serve(loop_, loop_);
+  void hold() override {
+    connection_->onEnd([this] { loop_.stop(); });
+    connection_->serve(loop_, loop_);
     if (!isReplaced_) loop_.run();
   }
 
@@ -90,9 +79,9 @@ class Offer {
   static Offer& of(void* data) { return *static_cast<Offer*>(data); }
   struct Listeners;
 
-  quillseal::linux::WaylandConnection& connection_;
-  PasteboardContent content_;
   quillseal::linux::PollLoop loop_;
+  std::unique_ptr<WaylandConnection> connection_;
+  PasteboardContent content_;
   wayland::DataControlManager manager_;
   wayland::DataControlDevice device_;
   wayland::DataControlSource source_;
@@ -123,34 +112,25 @@ struct Offer::Listeners {
 
 bool Offer::make() {
   if (manager_ == nullptr) return false;
-  device_.reset(zwlr_data_control_manager_v1_get_data_device(manager_.get(), connection_.seat()));
+  device_.reset(zwlr_data_control_manager_v1_get_data_device(manager_.get(), connection_->seat()));
   zwlr_data_control_device_v1_add_listener(device_.get(), &Listeners::ofDevice, this);
   source_.reset(zwlr_data_control_manager_v1_create_data_source(manager_.get()));
   zwlr_data_control_source_v1_add_listener(source_.get(), &Listeners::ofSource, this);
   for (const char* format : {quillseal::linux::ClipboardFormats::plainText, "text/plain",
                              "UTF8_STRING", quillseal::linux::ClipboardFormats::html})
     zwlr_data_control_source_v1_offer(source_.get(), format);
-  if (!connection_.roundTrip()) return false;
+  if (!connection_->roundTrip()) return false;
   isOffered_ = true;
   zwlr_data_control_device_v1_set_selection(device_.get(), source_.get());
-  return connection_.roundTrip() && isTaken_ && !isReplaced_;
+  return connection_->roundTrip() && isTaken_ && !isReplaced_;
 }
 
 }  // namespace
 
 int main() {
-  static_cast<void>(std::signal(SIGPIPE, SIG_IGN));  // the reader may close the pipe
-  const std::optional<PasteboardContent> content =
-      quillseal::linux::KeptContent::read(everythingFrom(STDIN_FILENO));
-  if (!content) return 2;
-  const auto connection = quillseal::linux::WaylandConnection::open();
-  if (connection == nullptr) return 1;
-  Offer offer(*connection, *content);
-  if (!offer.make()) return 1;
-  const pid_t child = fork();
-  if (child != 0) _exit(child < 0 ? 1 : 0);
-  // Detaches from the agent's process group and terminal, so that signals to those do not reach it.
-  setsid();
-  close(STDIN_FILENO);
-  offer.hold();
+  return quillseal::linux::runKeeper([](PasteboardContent content) -> std::unique_ptr<Offer> {
+    auto connection = WaylandConnection::open();
+    if (connection == nullptr) return nullptr;
+    return std::make_unique<Offer>(std::move(connection), std::move(content));
+  });
 }

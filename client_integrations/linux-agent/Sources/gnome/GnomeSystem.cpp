@@ -5,6 +5,8 @@
 #include <optional>
 #include <utility>
 
+#include "session/LoadedModule.h"
+
 namespace quillseal::linux {
 
 GnomeSystem::GnomeSystem(PortalSystem::Access access, const Services& services)
@@ -16,7 +18,10 @@ GnomeSystem::GnomeSystem(PortalSystem::Access access, const Services& services)
                .token = PrivateFile(access_.token),
                .tell = services.tell}),
       extension_(*access_.bus),
-      pasteboard_({.loop = services.loop, .descriptors = services.descriptors}, extension_),
+      pasteboard_({.reading = {.loop = services.loop, .descriptors = services.descriptors},
+                   .windows = windows_,
+                   .extension = extension_},
+                  ClipboardKeeper(LoadedModule::usualPlaces(ClipboardKeeper::programForX11))),
       applications_(extension_, services.entries, services.loop),
       shortcuts_(LoadedShortcutSettings::usualModule()),
       hotkey_({.loop = services.loop,

@@ -1,23 +1,25 @@
 #include "gnome/XwaylandPasteboard.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
+#include <utility>
 
 namespace quillseal::linux {
 
+XwaylandPasteboard::XwaylandPasteboard(const Services& services, ClipboardKeeper keeper)
+    : QtPasteboard(services.reading), services_(services), keeper_(std::move(keeper)) {}
+
 void XwaylandPasteboard::write(const desktop::PasteboardContent& content) {
   before_ = changes();
-  QtPasteboard::write(content);
+  keeper_.keep(content);
 }
 
 bool XwaylandPasteboard::isWritten() const {
-  if (!QGuiApplication::clipboard()->ownsClipboard()) return false;
+  if (services_.windows.classOfClipboardOwner() != ClipboardKeeper::programForX11) return false;
   const std::optional<std::uint32_t> now = changes();
   return !before_ || !now || *now != *before_;
 }
 
 std::optional<std::uint32_t> XwaylandPasteboard::changes() const {
-  const std::optional<ShellFront> front = extension_.front();
+  const std::optional<ShellFront> front = services_.extension.front();
   if (!front) return std::nullopt;
   return front->clipboardChanges;
 }

@@ -40,11 +40,9 @@ WindowManager::WindowManager() {
 // Cached: an atom stays the same as long as the server runs.
 xcb_atom_t WindowManager::atom(const char* name) const {
   if (const auto known = atoms_.find(name); known != atoms_.end()) return known->second;
-  const auto cookie =
-      xcb_intern_atom(connection_, 0, static_cast<std::uint16_t>(std::strlen(name)), name);
-  const Reply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(connection_, cookie, nullptr));
-  if (reply == nullptr) return XCB_ATOM_NONE;
-  return atoms_[name] = reply->atom;
+  const xcb_atom_t found = x11::atomOf(connection_, name);
+  if (found != XCB_ATOM_NONE) atoms_[name] = found;
+  return found;
 }
 
 std::string WindowManager::property(xcb_window_t window, const char* name, xcb_atom_t type) const {
@@ -169,10 +167,14 @@ WindowTraits WindowManager::traitsOf(xcb_window_t window) const {
 
 bool WindowManager::hasPrimarySelection(xcb_window_t window) const {
   if (connection_ == nullptr || window == 0) return false;
-  const Reply<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(
-      connection_, xcb_get_selection_owner(connection_, XCB_ATOM_PRIMARY), nullptr));
-  if (reply == nullptr) return false;
-  return isOfSameProgram(reply->owner, window);
+  const xcb_window_t owner = x11::ownerOf(connection_, XCB_ATOM_PRIMARY);
+  return owner != XCB_NONE && isOfSameProgram(owner, window);
+}
+
+std::string WindowManager::classOfClipboardOwner() const {
+  if (connection_ == nullptr) return {};
+  return classOf(
+      property(x11::ownerOf(connection_, atom("CLIPBOARD")), "WM_CLASS", XCB_ATOM_STRING));
 }
 
 bool WindowManager::exists(xcb_window_t window) const {

@@ -44,6 +44,9 @@ class WindowManager {
   /// Returns whether the window's program owns the primary selection.
   [[nodiscard]] bool hasPrimarySelection(xcb_window_t window) const;
 
+  /// Returns the class of the window that owns the clipboard; empty when nobody does.
+  [[nodiscard]] std::string classOfClipboardOwner() const;
+
   [[nodiscard]] bool exists(xcb_window_t window) const;
 
   /// Asks for the window to be raised and focused, as a pager would: window managers refuse that

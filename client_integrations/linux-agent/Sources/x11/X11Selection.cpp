@@ -42,11 +42,7 @@ class Connection {
   [[nodiscard]] int descriptor() const { return xcb_get_file_descriptor(connection_.get()); }
 
   [[nodiscard]] xcb_atom_t atom(std::string_view name) const {
-    const auto cookie =
-        xcb_intern_atom(connection_.get(), 0, static_cast<std::uint16_t>(name.size()), name.data());
-    const Reply<xcb_intern_atom_reply_t> reply(
-        xcb_intern_atom_reply(connection_.get(), cookie, nullptr));
-    return reply == nullptr ? xcb_atom_t{XCB_ATOM_NONE} : reply->atom;
+    return x11::atomOf(connection_.get(), name);
   }
 
   /// Asks the owner to store `target` in the property of the same name.

@@ -64,3 +64,43 @@ class XClient:
             if time.monotonic() > deadline:
                 raise Failure("nobody takes the clipboard")
             time.sleep(0.001)
+
+    # A reader of the clipboard that may behave as it likes
+
+    def _atom(self, name):
+        return self.x11.XInternAtom(self.display, name.encode(), 0)
+
+    def _window(self):
+        none = ctypes.c_ulong(0)
+        return ctypes.c_ulong(self.x11.XCreateSimpleWindow(
+            self.display, self.root, 0, 0, 1, 1, 0, none, none))
+
+    def ask_for(self, target, window=None):
+        """Asks the clipboard's owner to store this in the property of the same name, and does not
+        wait."""
+        atom = ctypes.c_ulong(self._atom(target))
+        self.ask("XConvertSelection", self.clipboard, atom, atom, window or self._window(),
+                 ctypes.c_ulong(0))
+
+    def ask_for_several(self, **targets):
+        """Asks for several targets at once, each with the name of a property. Returns the names of
+        those that are stored, once they are."""
+        window, request = self._window(), ctypes.c_ulong(self._atom("MULTIPLE"))
+        names = {self._atom(name): name for name in targets}
+        pairs = [atom for name, target in targets.items() for atom in
+                 (self._atom(target), self._atom(name))]
+        kind, number = ctypes.c_ulong(self._atom("ATOM_PAIR")), ctypes.c_ulong * len(pairs)
+        self.ask("XChangeProperty", window, request, kind, 32, 0, number(*pairs), len(pairs))
+        self.ask_for("MULTIPLE", window)
+        selection_notify, event = 31, (ctypes.c_long * 24)()
+        deadline = time.monotonic() + PATIENCE
+        while not self.x11.XCheckTypedWindowEvent(self.display, window, selection_notify, event):
+            if time.monotonic() > deadline:
+                raise Failure("the clipboard's owner does not answer")
+            time.sleep(0.01)
+        stored = ctypes.POINTER(ctypes.c_ulong)()
+        ignored = [ctypes.byref(ctypes.c_ulong()) for _ in range(4)]
+        self.x11.XGetWindowProperty(
+            self.display, window, request, ctypes.c_long(0), ctypes.c_long(len(pairs)), 0, kind,
+            *ignored, ctypes.byref(stored))
+        return [names[atom] for atom in stored[1:len(pairs):2] if atom]

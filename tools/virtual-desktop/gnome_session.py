@@ -11,7 +11,7 @@ import time
 
 import session
 import wayland_session
-from session import Failure, wait_for
+from session import Failure, act_until, wait_for
 
 EXTENSION = "front-window-43@quillseal.com"
 PERSON = """
@@ -95,6 +95,8 @@ global.get_window_actors().map(actor => actor.meta_window).map(window => ({
 class GnomeSession(wayland_session.WaylandSession):
     """`has_extension`: whether the person has enabled Quillseal's extension of the Shell."""
 
+    is_visible = False
+
     def __init__(self, build, has_extension=True):
         self.has_extension = has_extension
         self.last_press = 0
@@ -156,7 +158,21 @@ class GnomeSession(wayland_session.WaylandSession):
         self.monitor = self.start(
             "dbus-monitor", "--session", "interface='org.freedesktop.Notifications'")
 
-    def start_media_keys(self):
+    def start_agent(self, *options, tpm="none"):
+        """Starts the agent. The first time the person agrees to its shortcut and, at the first press,
+        lets it press keys."""
+        if self.agent:
+            return super().start_agent(*options, tpm=tpm)
+        self._start_media_keys()
+        super().start_agent(*options, tpm=tpm)
+        self.close("Add Ctrl.Alt.Super.H to Your Keyboard Settings")
+        # GNOME needs a moment before it obeys a new shortcut.
+        act_until(self.press_hotkey,
+                  lambda: "Quillseal may now press" in self.output_of(self.monitor),
+                  "the desktop lets the agent press keys")
+        return self.agent
+
+    def _start_media_keys(self):
         """Starts the service that obeys the shortcuts in the keyboard settings."""
         self.start("/usr/libexec/gsd-media-keys")
         wait_for("the shortcuts are obeyed", lambda: "true" in self.run(

@@ -1,5 +1,5 @@
 // Tells the Quillseal agent which window of another program was focused last, and how often the
-// clipboard has changed, and activates a window.
+// clipboard has changed, and activates that window or one of an application.
 // It answers only the process that owns the agent's name on the session bus, and emits no signals.
 // The object is on the Shell's own connection, so its bus name is org.gnome.Shell, which no other
 // program can take.
@@ -20,6 +20,10 @@ const description = `<node><interface name="com.quillseal.FrontWindow1">
   </method>
   <method name="Activate">
     <arg name="window" type="t" direction="in"/>
+    <arg name="found" type="b" direction="out"/>
+  </method>
+  <method name="ActivateApplication">
+    <arg name="desktop_file" type="s" direction="in"/>
     <arg name="found" type="b" direction="out"/>
   </method>
 </interface></node>`;
@@ -126,12 +130,24 @@ class FrontWindow {
     this._answer(invocation, '(tbbssusu)', caller => this._front(caller)).catch(logError);
   }
 
-  ActivateAsync([id], invocation) {
+  _activate(invocation, find) {
     this._answer(invocation, '(b)', () => {
-      const actor = global.get_window_actors().find(one => one.meta_window.get_id() === id);
-      if (actor)
-        Main.activateWindow(actor.meta_window);
-      return [Boolean(actor)];
+      const window = find();
+      if (window)
+        Main.activateWindow(window);
+      return [Boolean(window)];
     }).catch(logError);
+  }
+
+  ActivateAsync([id], invocation) {
+    this._activate(invocation, () => global.get_window_actors().map(actor => actor.meta_window)
+      .find(window => window.get_id() === id));
+  }
+
+  // The window of the application that was used last. An application that is looked up by its name
+  // has no windows when its desktop file has changed since it was started.
+  ActivateApplicationAsync([desktopFile], invocation) {
+    this._activate(invocation, () => Shell.AppSystem.get_default().get_running()
+      .find(app => app.get_id() === desktopFile)?.get_windows()[0]);
   }
 }

@@ -169,22 +169,21 @@ void Offer::handle(const xcb_generic_event_t& event) {
 
 void Offer::answer(const xcb_selection_request_event_t& request) {
   // Old programs name no property.
-  Place place{.window = request.requestor,
-              .property = request.property == XCB_ATOM_NONE ? request.target : request.property};
-  if (request.selection != clipboard_ || request.owner != window_) {
-    place.property = XCB_ATOM_NONE;
-  } else if (request.target == multiple_) {
+  const Place place{
+      .window = request.requestor,
+      .property = request.property == XCB_ATOM_NONE ? request.target : request.property};
+  bool isStored = request.selection == clipboard_ && request.owner == window_;
+  if (isStored && request.target == multiple_)
     answerAll(place);
-  } else if (!store(request.target, place)) {
-    place.property = XCB_ATOM_NONE;
-  }
+  else
+    isStored = isStored && store(request.target, place);
   xcb_selection_notify_event_t notice{};
   notice.response_type = XCB_SELECTION_NOTIFY;
   notice.time = request.time;
   notice.requestor = request.requestor;
   notice.selection = request.selection;
   notice.target = request.target;
-  notice.property = place.property;
+  notice.property = isStored ? place.property : xcb_atom_t{XCB_ATOM_NONE};
   xcb_send_event(connection_.get(), 0, request.requestor, XCB_EVENT_MASK_NO_EVENT,
                  reinterpret_cast<const char*>(&notice));
 }

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <optional>
+#include <string>
 
 #include "applications/LinuxApplications.h"
+#include "desktop/MainLoop.h"
 #include "gnome/ShellExtension.h"
 
 namespace quillseal::linux {
@@ -12,16 +15,32 @@ namespace quillseal::linux {
 class GnomeApplications : public LinuxApplications {
  public:
   /// All outlive this object.
-  GnomeApplications(const ShellExtension& extension, DesktopEntries& entries,
-                    desktop::MainLoop& loop)
-      : LinuxApplications(entries, loop), extension_(extension) {}
+  struct Services {
+    const ShellExtension& extension;
+    DesktopEntries& entries;
+    desktop::MainLoop& loop;
+    /// Tells the user something that needs no answer.
+    std::function<void(const std::string&)> tell;
+  };
+
+  explicit GnomeApplications(Services services);
 
   [[nodiscard]] std::optional<desktop::RunningApplication> frontmost() const override;
   [[nodiscard]] bool isActive(const desktop::RunningApplication& application) const override;
   void activate(const desktop::RunningApplication& application) override;
 
+  /// The Shell raises no running browser for another program, so the extension does it. Where that
+  /// does not answer, the user is told to go there.
+  using LinuxApplications::open;
+  [[nodiscard]] desktop::Ticket open(const std::string& url,
+                                     const desktop::InstalledApplication& application,
+                                     std::function<void(std::optional<Error>)> done) override;
+
  private:
-  const ShellExtension& extension_;
+  void bringToFront(const std::string& location) const;
+
+  Services services_;
+  desktop::Ticket bringing_;
 };
 
 }  // namespace quillseal::linux

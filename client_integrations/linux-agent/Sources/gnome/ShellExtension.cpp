@@ -54,4 +54,13 @@ void ShellExtension::activate(std::uint64_t window) const {
   static_cast<void>(bus_.call(method("Activate"), "t", window));
 }
 
+std::optional<bool> ShellExtension::activateApplication(const std::string& desktopFile) const {
+  const DesktopBus::Message answer =
+      bus_.call(method("ActivateApplication"), "s", desktopFile.c_str());
+  int isFound = 0;
+  if (answer == nullptr || ::sd_bus_message_read(answer.get(), "b", &isFound) <= 0)
+    return std::nullopt;
+  return isFound != 0;
+}
+
 }  // namespace quillseal::linux

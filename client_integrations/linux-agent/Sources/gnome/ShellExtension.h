@@ -39,6 +39,10 @@ class ShellExtension {
   /// Asks for the window to be brought to the front. Nothing happens when it has closed.
   void activate(std::uint64_t window) const;
 
+  /// Asks for the window that was used last of the application with this desktop file, such as
+  /// "chromium.desktop". Returns whether there is one; nothing where the extension does not answer.
+  [[nodiscard]] std::optional<bool> activateApplication(const std::string& desktopFile) const;
+
  private:
   DesktopBus& bus_;
 };

@@ -88,7 +88,11 @@ PortalSystem::PortalSystem(Access access, const Services& services)
 
 std::unique_ptr<desktop::Applications> PortalSystem::makeApplications(const Services& services) {
   if (windows_ == nullptr)
-    return std::make_unique<GnomeApplications>(extension_, services.entries, services.loop);
+    return std::make_unique<GnomeApplications>(
+        GnomeApplications::Services{.extension = extension_,
+                                    .entries = services.entries,
+                                    .loop = services.loop,
+                                    .tell = services.tell});
   return std::make_unique<WaylandApplications>(
       WaylandApplications::Services{
           .windows = *windows_, .entries = services.entries, .loop = services.loop},

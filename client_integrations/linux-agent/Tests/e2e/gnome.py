@@ -15,7 +15,7 @@ import wayland
 import windows
 from browsers import Browser, Site
 from gnome_session import GnomeSession
-from session import LETTER, act_until, wait_for
+from session import LETTER, wait_for
 from windows import CHAT
 from xclient import XClient
 
@@ -64,6 +64,16 @@ class GnomeExtension(OnGnome):
         self.desktop.wait_for_window("letter.txt")
         self.assertEqual(self.front()[:7], letter[:7])
 
+    def test_it_brings_an_application_to_the_front(self):
+        self.desktop.open_editor(LETTER)
+        self.desktop.start("xterm", "-title", "Notes")
+        self.desktop.wait_for_window("Notes")
+        self.assertEqual(self.tell("open org.xfce.mousepad.desktop"), "done")
+        self.desktop.wait_for_window("letter.txt")
+        for other in ("org.xfce.thunar.desktop", "no application"):
+            self.assertEqual(self.tell("open " + other), "none")
+        self.desktop.wait_for_window("letter.txt")
+
     def test_keys_that_the_shell_gets_are_not_the_windows(self):
         self.desktop.open_editor(LETTER)
         window = self.front()[0]
@@ -81,27 +91,14 @@ class GnomeExtension(OnGnome):
     def test_it_answers_the_agent_alone(self):
         asked = ("gdbus", "call", "--session", "--dest", "org.gnome.Shell", "--object-path",
                  "/com/quillseal/FrontWindow", "--method", "com.quillseal.FrontWindow1.")
-        for call in (["Front"], ["Activate", "1"]):
+        for call in (["Front"], ["Activate", "1"], ["ActivateApplication", "xterm.desktop"]):
             with self.assertRaisesRegex(stories.session.Failure, "Only the Quillseal agent may ask"):
                 self.desktop.run(*asked[:-1], asked[-1] + call[0], *call[1:])
         self.tell("leave")
         self.assertEqual(self.tell("front"), "no answer")
 
 
-class OnGnomeWithHotkey(OnGnome):
-    """The first run: the person adds the shortcut and, at the first press, lets the agent press keys."""
-
-    def start(self, **settings):
-        self.desktop.start_media_keys()
-        super().start(**settings)
-        self.desktop.close("Add Ctrl.Alt.Super.H to Your Keyboard Settings")
-        # GNOME needs a moment before it obeys a new shortcut.
-        act_until(self.desktop.press_hotkey,
-                  lambda: "Quillseal may now press" in self.desktop.output_of(self.desktop.monitor),
-                  "the desktop lets the agent press keys")
-
-
-class GnomeSigning(OnGnomeWithHotkey):
+class GnomeSigning(OnGnome):
     def test_a_letter_is_signed_refused_and_confirmed(self):
         self.start(ConfirmBeforeSigning="true")
         short = self.desktop.open_editor("Yes.", "short.txt")
@@ -120,7 +117,7 @@ class GnomeSigning(OnGnomeWithHotkey):
         self.assertEqual(self.desktop.recorded()[0][1], "Other / Unspecified")
 
 
-class GnomeWindows(OnGnomeWithHotkey, windows.WindowStory):
+class GnomeWindows(OnGnome, windows.WindowStory):
     def setUp(self):
         super().setUp()
         self.start()
@@ -167,7 +164,7 @@ class GnomeWindows(OnGnomeWithHotkey, windows.WindowStory):
         self.assertNotIn("turned away", self.desktop.output_of(self.desktop.agent))
 
 
-class GnomeClipboard(OnGnomeWithHotkey, wayland.Keepers):
+class GnomeClipboard(OnGnome, wayland.Keepers):
     def test_the_block_outlives_the_agent_until_somebody_copies(self):
         self.start()
         editor = self.sign_in_editor()
@@ -265,7 +262,7 @@ class KeeperForX11(wayland.Keepers, stories.Story):
         wait_for("nothing of Quillseal stays behind", lambda: not self.keepers())
 
 
-class GnomeWithoutExtension(OnGnomeWithHotkey):
+class GnomeWithoutExtension(OnGnome):
     def make_desktop(self):
         return GnomeSession(self.build, has_extension=False)
 

@@ -3,6 +3,7 @@
 //   front        window, "keys" or "-", "held" or "-", desktop file, class, executable, document,
 //               changes of the clipboard
 //   activate ID  asks for the window
+//   open FILE    asks for a window of the application with this desktop file
 //   leave        gives the agent's name on the bus up
 
 #include <cstdint>
@@ -46,11 +47,14 @@ int main() {
   for (std::string line; std::getline(std::cin, line);) {
     std::istringstream words(line);
     std::string command;
-    std::uint64_t window = 0;
-    words >> command >> window;
+    std::string argument;
+    words >> command >> argument;
+    std::string answer = "done";
     if (command == "leave") ::sd_bus_release_name(opened, agentName);
-    if (command == "activate") extension.activate(window);
-    std::cout << (command == "front" ? described(extension.front()) : "done") << std::endl;
+    if (command == "activate") extension.activate(std::stoull(argument));
+    if (command == "front") answer = described(extension.front());
+    if (command == "open" && !extension.activateApplication(argument).value()) answer = "none";
+    std::cout << answer << std::endl;
   }
   return 0;
 }

@@ -93,12 +93,14 @@ global.get_window_actors().map(actor => actor.meta_window).map(window => ({
 
 
 class GnomeSession(wayland_session.WaylandSession):
-    """`has_extension`: whether the person has enabled Quillseal's extension of the Shell."""
+    """`has_extension`: whether the person has enabled Quillseal's extension of the Shell.
+    `has_xwayland`: whether the Shell starts Xwayland."""
 
     is_visible = False
 
-    def __init__(self, build, has_extension=True):
+    def __init__(self, build, has_extension=True, has_xwayland=True):
         self.has_extension = has_extension
+        self.has_xwayland = has_xwayland
         self.last_press = 0
         super().__init__(build)
 
@@ -128,7 +130,8 @@ class GnomeSession(wayland_session.WaylandSession):
         try:
             self.compositor = self.start(
                 "gnome-shell", "--headless", "--wayland", "--wayland-display=wayland-gnome",
-                "--virtual-monitor", self.size, "--unsafe-mode")
+                "--virtual-monitor", self.size, "--unsafe-mode",
+                *([] if self.has_xwayland else ["--no-x11"]))
         finally:
             self.env = kept
 
@@ -148,7 +151,7 @@ class GnomeSession(wayland_session.WaylandSession):
                 f"Main.extensionManager.lookup('{EXTENSION}')?.state === 1"))
         self.evaluate(PERSON)
         self.evaluate(PORTAL)
-        for name in ("DISPLAY", "XAUTHORITY"):  # of Xwayland, which starts with its first program
+        for name in ("DISPLAY", "XAUTHORITY") if self.has_xwayland else ():  # of Xwayland, which starts with its first program
             self.env[name] = self.evaluate(f"imports.gi.GLib.getenv('{name}')")
 
     def _start_desktop(self):
@@ -161,7 +164,7 @@ class GnomeSession(wayland_session.WaylandSession):
     def start_agent(self, *options, tpm="none"):
         """Starts the agent. The first time the person agrees to its shortcut and, at the first press,
         lets it press keys."""
-        if self.agent:
+        if self.agent or not self.has_xwayland:
             return super().start_agent(*options, tpm=tpm)
         self._start_media_keys()
         super().start_agent(*options, tpm=tpm)

@@ -22,6 +22,7 @@
 #include "session/QtDescriptors.h"
 #include "session/QtFiles.h"
 #include "session/QtMainLoop.h"
+#include "session/Reach.h"
 #include "session/SystemMachineIdentity.h"
 #include "session/SystemWallClock.h"
 #include "wayland/WaylandReach.h"
@@ -67,7 +68,9 @@ std::unique_ptr<WindowingSystem> chosen(PortalSystem::Access access,
   const bool isUnderXwayland = QGuiApplication::platformName() == QLatin1String("xcb");
   if (isUnderXwayland && access.portalBus != nullptr && access.offer.remoteDesktop > 0)
     return std::make_unique<GnomeSystem>(std::move(access), services);
-  return std::make_unique<X11System>(services, access.offer.isSilent);
+  return std::make_unique<X11System>(
+      services, SessionTraits{.isPortalSilent = access.offer.isSilent,
+                              .canPortalPressKeys = access.offer.remoteDesktop > 0});
 }
 
 /// The wording for the key that exists now or would be made.

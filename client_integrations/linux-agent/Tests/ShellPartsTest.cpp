@@ -74,6 +74,8 @@ TEST(ReachTest, SaysWhatDoesNotWorkAndHowToGoOn) {
         part);
   expectPart(limitsOf({.isWayland = true, .hasXServer = true, .isPortalSilent = true}),
              "did not answer in time");
+  expectPart(limitsOf({.isWayland = true, .canPortalPressKeys = true}),
+             "Install the package xwayland");
 }
 
 TEST(ReachTest, ChoosesThePlatformThatReachesMost) {

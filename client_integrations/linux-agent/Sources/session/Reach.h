@@ -10,6 +10,8 @@ struct SessionTraits {
   bool hasXServer = false;      ///< its own or Xwayland
   bool canPressKeys = false;    ///< the X server has XTEST and XKEYBOARD
   bool isPortalSilent = false;  ///< the desktop's portal did not answer in time
+  /// The portal would press keys. On GNOME the clipboard then comes through Xwayland.
+  bool canPortalPressKeys = false;
 };
 
 /// Says what does not work in a session, what does, and what to do, in sentences for the user;

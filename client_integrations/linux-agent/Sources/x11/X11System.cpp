@@ -3,8 +3,6 @@
 #include <QGuiApplication>
 #include <QWidget>
 
-#include "session/Reach.h"
-
 namespace quillseal::linux {
 namespace {
 
@@ -19,12 +17,13 @@ bool isWayland() {
 
 }  // namespace
 
-X11System::X11System(const Services& services, bool isPortalSilent)
+X11System::X11System(const Services& services, const SessionTraits& portal)
     : keyboard_(isOnX() ? X11Keyboard::open() : nullptr),
       limits_(limitsOf({.isWayland = isWayland(),
                         .hasXServer = isOnX(),
                         .canPressKeys = keyboard_ != nullptr,
-                        .isPortalSilent = isPortalSilent})),
+                        .isPortalSilent = portal.isPortalSilent,
+                        .canPortalPressKeys = portal.canPortalPressKeys})),
       pasteboard_({.loop = services.loop, .descriptors = services.descriptors}),
       applications_(windows_, services.entries, services.loop),
       hotkey_(services.loop, keyboard_.get(), limits_),

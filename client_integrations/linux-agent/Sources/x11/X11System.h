@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "session/Reach.h"
 #include "session/WindowingSystem.h"
 #include "x11/QtPasteboard.h"
 #include "x11/WindowManager.h"
@@ -17,11 +18,11 @@ namespace quillseal::linux {
 /// reports that.
 class X11System : public WindowingSystem, private OwnWindows {
  public:
-  /// `isPortalSilent`: the desktop's portal, which might have let the agent reach more, did not
-  /// answer.
-  X11System(const Services& services, bool isPortalSilent);
+  /// `portal`: what is known of the desktop's portal; the rest is found out here.
+  X11System(const Services& services, const SessionTraits& portal);
 
   [[nodiscard]] std::string limits() const override { return limits_; }
+  [[nodiscard]] std::string advice() const override { return limits_; }
   [[nodiscard]] desktop::Applications& applications() override { return applications_; }
   [[nodiscard]] desktop::Hotkey& hotkey() override { return hotkey_; }
   [[nodiscard]] desktop::KeyEvents& keys() override { return keys_; }

@@ -262,6 +262,27 @@ class KeeperForX11(wayland.Keepers, stories.Story):
         wait_for("nothing of Quillseal stays behind", lambda: not self.keepers())
 
 
+class GnomeWithoutXwayland(OnGnome):
+    def make_desktop(self):
+        return GnomeSession(self.build, has_xwayland=False)
+
+    def test_the_agent_says_what_is_missing_and_signs_nothing(self):
+        editor = self.desktop.open_editor(LETTER)
+        self.desktop.select_all(LETTER)
+        self.start()
+        self.desktop.close("^Quillseal$")
+        self.assertIn("Install the package xwayland", self.desktop.output_of(self.desktop.agent))
+        self.desktop.wait_for_window("letter.txt")
+        self.desktop.run(self.desktop.quillseal, "--sign")
+        self.desktop.close("^Quillseal$")
+        self.open_settings()
+        self.desktop.key("Escape")
+        self.assert_unrecorded()
+        self.assertEqual(editor.file.read_text(), LETTER)
+        self.desktop.run(self.desktop.quillseal, "--quit")
+        self.wait_until_ended()
+
+
 class GnomeWithoutExtension(OnGnome):
     def make_desktop(self):
         return GnomeSession(self.build, has_extension=False)

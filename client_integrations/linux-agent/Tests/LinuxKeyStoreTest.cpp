@@ -2,10 +2,12 @@
 #include <deque>
 #include <filesystem>
 #include <future>
+#include <map>
 #include <optional>
 
 #include <gmock/gmock.h>
 
+#include "Cases.h"
 #include "KeyChecks.h"
 #include "TemporaryFolder.h"
 #include "keys/FileKeyStore.h"
@@ -19,10 +21,9 @@ using namespace ::testing;
 using testing::failureOf;
 
 constexpr P256::Digest digest{7, 7, 7};
-constexpr auto cancel = std::nullopt;
 constexpr ScryptCost cheap{.n = 16, .r = 8, .p = 1};
 
-/// Answers from a list and records the questions. Unexpected questions are cancelled.
+/// Answers from a list and records the questions. "cancel" and unexpected questions are cancelled.
 class ScriptedPrompt final : public SecretPrompt {
  public:
   std::optional<SecretBytes> ask(const SecretRequest& request) override {
@@ -37,7 +38,7 @@ class ScriptedPrompt final : public SecretPrompt {
     return answer();
   }
 
-  std::deque<std::optional<std::string>> answers;
+  std::deque<std::string> answers;
   std::vector<SecretRequest> asked;
   std::vector<NewSecretRequest> askedForNew;
   std::vector<std::string> problems;  ///< of all questions
@@ -46,9 +47,9 @@ class ScriptedPrompt final : public SecretPrompt {
  private:
   std::optional<SecretBytes> answer() {
     if (answers.empty()) return std::nullopt;
-    const std::optional<std::string> next = answers.front();
+    const std::string next = answers.front();
     answers.pop_front();
-    return next ? std::optional<SecretBytes>(*next) : std::nullopt;
+    return next == "cancel" ? std::nullopt : std::optional<SecretBytes>(next);
   }
 };
 
@@ -101,9 +102,9 @@ class ScriptedTpm final : public KeyMedium {
   mutable FileKeyStore other_;
 };
 
-class LinuxKeyStoreTest : public ::testing::Test {
- protected:
-  LinuxKeyStoreTest() {
+/// A computer with a TPM and a key file, and its user.
+struct Story {
+  Story() {
     std::vector<std::unique_ptr<KeyMedium>> media;
     media.push_back(std::move(made));
     media.push_back(std::make_unique<FileKeyStore>(
@@ -112,26 +113,75 @@ class LinuxKeyStoreTest : public ::testing::Test {
   }
 
   /// What it says when it fails.
-  std::string create(std::deque<std::optional<std::string>> answers) {
+  std::string create(std::deque<std::string> answers) {
     prompt.answers = std::move(answers);
     return failureOf([&] { static_cast<void>(store->create()); });
   }
-  std::string sign(std::deque<std::optional<std::string>> answers) {
+  std::string sign(std::deque<std::string> answers) {
     prompt.answers = std::move(answers);
     return failureOf([&] {
-      signature = store->load(desktop::Prompt{.reason = "Sign “x” as y", .medium = "LinkedIn Post"})
-                      ->sign(digest);
+      const desktop::Prompt wanted{.reason = "Sign “x” as y", .medium = "LinkedIn Post"};
+      const auto signature = store->load(wanted)->sign(digest);
+      EXPECT_TRUE(
+          P256::verifies({.publicKey = publicKey(), .digest = digest, .signature = signature}));
     });
   }
   P256::Point publicKey() {
-    const auto bytes = store->load(std::nullopt)->publicKey();
+    const auto bytes = store->load(std::nullopt)->publicKey().value();
     P256::Point point{};
-    if (bytes && bytes->size() == point.size())
-      std::copy(bytes->begin(), bytes->end(), point.begin());
+    std::ranges::copy(bytes, point.begin());
     return point;
   }
 
-  std::vector<std::uint8_t> signature;
+  /// What there is now, or the outcome of an action, by the name that a story gives it.
+  std::string stateOf(const std::string& name) {
+    auto [verb, given] = testing::divided(name, " ");
+    if (verb == "create" || verb == "sign") {
+      std::deque<std::string> answers;
+      for (std::string answer; !given.empty();) {
+        std::tie(answer, given) = testing::divided(given, " | ");
+        answers.push_back(answer);
+      }
+      return verb == "create" ? create(std::move(answers)) : sign(std::move(answers));
+    }
+    if (name == "available") return store->isAvailable() ? "yes" : "no";
+    if (name == "advice") return store->advice();
+    if (name == "place") return store->place() == KeyPlace::tpm ? "tpm" : "file";
+    if (name == "loaded") return std::to_string(tpm.kept);
+    if (name == "key file") return exists(folder.path() / "file" / "key") ? "there" : "none";
+    if (name == "asked for new") return std::to_string(prompt.askedForNew.size());
+    if (name == "questions") return std::to_string(prompt.asked.size());
+    if (name == "question") {
+      const SecretRequest& last = prompt.asked.back();
+      return last.reason + " | " + last.destination + " | " + last.medium + " | " +
+             std::to_string(last.attempt) + " of " + std::to_string(last.attempts);
+    }
+    if (name == "notice") return prompt.askedForNew.back().notice;
+    if (name == "kind") return std::string(nameOf(prompt.askedForNew.back().kind));
+    if (name == "problem") return std::exchange(prompt.problems, {}).back();
+    const auto key = store->load(std::nullopt);
+    if (key == nullptr) return "none";
+    const auto bytes = key->publicKey();
+    return bytes ? "number " + std::to_string(keys.emplace(*bytes, keys.size()).first->second)
+                 : "unreadable";
+  }
+
+  void give(const std::string& name, const std::string& value) {
+    if (name == "obstacle") tpm.itsObstacle = value;
+    if (name == "weakness") tpm.itsWeakness = value;
+    if (name == "defect") tpm.defect = value;
+    if (name == "kind") tpm.kind = SecretKind::unguardedPin;
+    if (name == "signatures") tpm.foreignSignatures = value == "foreign";
+    if (name == "failure")
+      tpm.whileWorking = [value] {
+        if (!value.empty()) throw KeyFailure(value);
+      };
+    if (name == "file") testing::overwrite(folder.path() / "file" / "key", value);
+    if (name == "folder") testing::overwrite(folder.path() / "file", value);
+    if (name == "remove") store->remove();
+  }
+
+  std::map<std::vector<std::uint8_t>, std::size_t> keys;
   testing::TemporaryFolder folder;
   std::unique_ptr<ScriptedTpm> made = std::make_unique<ScriptedTpm>(folder.path());
   ScriptedTpm& tpm = *made;
@@ -139,152 +189,44 @@ class LinuxKeyStoreTest : public ::testing::Test {
   std::unique_ptr<LinuxKeyStore> store;
 };
 
-const std::string done = "(no failure)";
-const std::string pin = "123457";
-const std::string passphrase = "a long passphrase";
-
-TEST_F(LinuxKeyStoreTest, SignsWithTheTpmWhereItIsUsable) {
-  EXPECT_TRUE(store->isAvailable());
-  EXPECT_EQ(store->load(std::nullopt), nullptr);
-  EXPECT_EQ(create({pin}), done);
-  EXPECT_EQ(prompt.askedForNew.back().kind, SecretKind::pin);
-  EXPECT_EQ(prompt.askedForNew.back().notice, "");
-
-  EXPECT_EQ(sign({pin}), done);
-  EXPECT_TRUE(P256::verifies({.publicKey = publicKey(), .digest = digest, .signature = signature}));
-  EXPECT_EQ(prompt.asked.back().reason, "Sign “x” as y");
-  EXPECT_EQ(prompt.asked.back().destination, "LinkedIn Post");
-  EXPECT_EQ(prompt.asked.back().medium, "The key is in the TPM.");
-
-  store->remove();
-  store->remove();
-  EXPECT_EQ(store->load(std::nullopt), nullptr);
+TEST(LinuxKeyStore, GoesAsTold) {
+  std::optional<Story> story;
+  std::string title;
+  for (const std::string& line : testing::textCases()) {
+    SCOPED_TRACE(title + " before " + line);
+    const auto [name, value] = testing::divided(line, " == ");
+    if (line.starts_with('[')) {
+      title = line;
+      story.emplace();
+    } else if (name != line) {
+      EXPECT_EQ(story->stateOf(name), value);
+    } else if (const auto [whole, part] = testing::divided(line, " ~ "); whole != line) {
+      EXPECT_THAT(story->stateOf(whole), HasSubstr(part));
+    } else {
+      const auto [field, given] = testing::divided(line, " = ");
+      story->give(field, given);
+    }
+  }
 }
 
-TEST_F(LinuxKeyStoreTest, WithoutATpmAKeyFileServesAndThePersonIsTold) {
-  tpm.itsObstacle = "there is no TPM.";
-  EXPECT_TRUE(store->isAvailable());
-  EXPECT_EQ(create({passphrase}), done);
-  EXPECT_EQ(prompt.askedForNew.back().kind, SecretKind::passphrase);
-  EXPECT_EQ(prompt.askedForNew.back().notice, "There is no TPM.");
-  EXPECT_EQ(store->advice(), "There is no TPM.");
-  EXPECT_EQ(sign({passphrase}), done);
-
-  // A damaged key stays until it is replaced.
-  testing::overwrite(folder.path() / "file" / "key", "rubbish");
-  ASSERT_NE(store->load(std::nullopt), nullptr);
-  EXPECT_EQ(store->load(std::nullopt)->publicKey(), std::nullopt);
-  EXPECT_THAT(store->advice(), HasSubstr("is damaged"));
-  EXPECT_THAT(sign({}), HasSubstr("is damaged"));
-  EXPECT_EQ(create({passphrase}), done);
-  EXPECT_EQ(sign({passphrase}), done);
-}
-
-TEST_F(LinuxKeyStoreTest, NothingUsableIsUnavailable) {
-  tpm.itsObstacle = "there is no TPM.";
-  testing::overwrite(folder.path() / "file", "a file where the folder should be");
-  EXPECT_FALSE(store->isAvailable());
-  EXPECT_THAT(create({passphrase}), HasSubstr("There is no TPM. “"));
-  EXPECT_THAT(prompt.askedForNew, IsEmpty());
-}
-
-TEST_F(LinuxKeyStoreTest, ThreeWrongTriesEndTheMatter) {
-  EXPECT_EQ(create({pin}), done);
-  EXPECT_EQ(sign({"wrong1", "wrong2", pin}), done);
-  const std::string wrong = "This PIN is wrong.";
-  EXPECT_THAT(prompt.problems, ElementsAre("", "", wrong, wrong));
-  EXPECT_EQ(prompt.asked[2].attempt, 3);
-  EXPECT_EQ(sign({"wrong1", "wrong2", "wrong3", pin}), "the PIN was wrong three times.");
-  EXPECT_EQ(prompt.asked.size(), 6U);
-  EXPECT_EQ(tpm.kept, 0);
-}
-
-TEST_F(LinuxKeyStoreTest, CancellingIsNoFailureAndCostsNothing) {
-  EXPECT_EQ(create({pin}), done);
-  const P256::Point before = publicKey();
-  EXPECT_EQ(sign({"wrong1", cancel}), "no PIN was entered.");
-  EXPECT_EQ(create({cancel}), "cancelled");
-  EXPECT_EQ(publicKey(), before);
-  EXPECT_EQ(sign({pin}), done);
-}
-
-TEST_F(LinuxKeyStoreTest, AWeakSecretIsAskedForAgain) {
-  EXPECT_EQ(create({"1234", "111111", pin}), done);
-  tpm.kind = SecretKind::unguardedPin;
-  tpm.itsWeakness = "The lock can be undone.";
-  EXPECT_EQ(store->advice(), tpm.itsWeakness);
-  EXPECT_EQ(create({pin, "2718281828459", "quiet 7 leaf"}), done);
-  EXPECT_THAT(prompt.problems,
-              ElementsAre("", HasSubstr("too short"), HasSubstr("repeats"), "",
-                          HasSubstr("at least 10 characters"), HasSubstr("no letters")));
-  EXPECT_EQ(store->advice(), tpm.itsWeakness);
-}
-
-TEST_F(LinuxKeyStoreTest, AKeyThatCannotSignIsReportedBeforeAnybodyIsAsked) {
-  EXPECT_EQ(create({pin}), done);
-  tpm.defect = "the TPM was cleared.";
-  EXPECT_EQ(sign({}), tpm.defect);
-  EXPECT_THAT(prompt.asked, IsEmpty());
-  ASSERT_NE(store->load(std::nullopt), nullptr);
-
-  tpm.defect.clear();
-  tpm.foreignSignatures = true;
-  EXPECT_THAT(sign({pin}), HasSubstr("does not match the key"));
-}
-
-// A key stays where it is until the user agrees to another place.
-TEST_F(LinuxKeyStoreTest, NoMediumTakesOverSilently) {
-  tpm.itsObstacle = "there is no TPM.";
-  EXPECT_EQ(create({passphrase}), done);
-  const P256::Point inFile = publicKey();
-
-  tpm.itsObstacle.clear();
-  EXPECT_EQ(publicKey(), inFile);
-  EXPECT_EQ(store->place(), KeyPlace::keyFile);
-  EXPECT_EQ(create({cancel}), "cancelled");
-  EXPECT_EQ(prompt.askedForNew.back().notice,
-            "Your present key is in a key file. It will be replaced by a new one in the TPM of "
-            "this computer.");
-  tpm.whileWorking = [] { throw KeyFailure("the TPM has failed."); };
-  EXPECT_EQ(create({pin}), "the TPM has failed.");
-  EXPECT_EQ(publicKey(), inFile);
-
-  tpm.whileWorking = nullptr;
-  EXPECT_EQ(create({pin}), done);
-  EXPECT_EQ(store->place(), KeyPlace::tpm);
-  const P256::Point inTpm = publicKey();
-  EXPECT_NE(inTpm, inFile);
-  EXPECT_FALSE(std::filesystem::exists(folder.path() / "file" / "key"));
-
-  tpm.itsObstacle = tpm.defect = "the TPM is switched off.";
-  EXPECT_EQ(store->place(), KeyPlace::tpm);
-  EXPECT_EQ(store->advice(), "The TPM is switched off.");
-  EXPECT_EQ(sign({}), "the TPM is switched off.");
-  EXPECT_EQ(create({cancel}), "cancelled");
-  EXPECT_EQ(prompt.askedForNew.back().notice,
-            "The TPM is switched off. Your present key is in the TPM of this computer. It will be "
-            "replaced by a new one in a key file.");
-  tpm.itsObstacle.clear();
-  EXPECT_EQ(publicKey(), inTpm);
-}
-
-TEST_F(LinuxKeyStoreTest, AMediumIsFreeWhileThePersonIsAskedButNotWhileItWorks) {
+TEST(LinuxKeyStore, FreesAMediumWhileThePersonIsAskedButNotWhileItWorks) {
+  Story story;
   std::future<bool> other;
   std::future_status status{};
   const auto look = [&](std::chrono::milliseconds patience) {
-    other = std::async(std::launch::async, [&] { return store->isAvailable(); });
+    other = std::async(std::launch::async, [&] { return story.store->isAvailable(); });
     status = other.wait_for(patience);
   };
-  tpm.whileWorking = [&] { look(std::chrono::milliseconds(50)); };
-  EXPECT_EQ(create({pin}), done);
+  story.tpm.whileWorking = [&] { look(std::chrono::milliseconds(50)); };
+  EXPECT_EQ(story.create({"123457"}), "(no failure)");
   EXPECT_EQ(status, std::future_status::timeout);
   other.wait();
-  static_cast<void>(publicKey());
+  static_cast<void>(story.publicKey());
   EXPECT_EQ(status, std::future_status::timeout);
   other.wait();
-  tpm.whileWorking = nullptr;
-  prompt.whileAsked = [&] { look(std::chrono::seconds(5)); };
-  EXPECT_EQ(sign({pin}), done);
+  story.tpm.whileWorking = nullptr;
+  story.prompt.whileAsked = [&] { look(std::chrono::seconds(5)); };
+  EXPECT_EQ(story.sign({"123457"}), "(no failure)");
   EXPECT_EQ(status, std::future_status::ready);
 }
 

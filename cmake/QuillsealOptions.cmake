@@ -54,7 +54,7 @@ if(CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT QUILLSEAL_SANITIZERS)
   endif()
 endif()
 
-# One test program from its sources; each file *Test.cpp or *Test.mm is a CTest entry of its own, "NAME.FILE".
+# One test program from its sources; each suite of a file *Test.cpp or *Test.mm is a CTest entry of its own, "NAME.FILE.SUITE".
 #   quillseal_add_test(NAME SOURCES... [LIBRARIES...] [CASES...] [EXCEPT FILTER] [PROPERTIES...])
 # CASES are files that core/Tests/Cases.h reads; EXCEPT names the tests to leave out, as --gtest_filter does; PROPERTIES are those of every entry.
 function(quillseal_add_test name)
@@ -74,18 +74,22 @@ function(quillseal_add_test name)
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${source})
     file(STRINGS ${source} suites REGEX "^TEST(_F|_P)?\\(")
     # A suite with parameters has a prefix.
-    list(TRANSFORM suites REPLACE "^TEST_P\\(([A-Za-z0-9]+),.*" "*/\\1.*")
-    list(TRANSFORM suites REPLACE "^TEST[^(]*\\(([A-Za-z0-9]+),.*" "\\1.*")
+    list(TRANSFORM suites REPLACE "^TEST_P\\(([A-Za-z0-9]+),.*" "*/\\1")
+    list(TRANSFORM suites REPLACE "^TEST[^(]*\\(([A-Za-z0-9]+),.*" "\\1")
     list(REMOVE_DUPLICATES suites)
     if(NOT suites)
       message(FATAL_ERROR "${source} holds no test.")
     endif()
-    list(JOIN suites ":" filter)
     get_filename_component(file ${source} NAME_WE)
-    add_test(NAME ${name}.${file} COMMAND ${name} --gtest_brief --gtest_filter=${filter}-${ARG_EXCEPT})
-    if(ARG_PROPERTIES)
-      set_tests_properties(${name}.${file} PROPERTIES ${ARG_PROPERTIES})
-    endif()
+    foreach(suite ${suites})
+      # The same in both names, unless the file has several.
+      string(REPLACE "*/" "" test ${name}.${file}.${suite})
+      string(REPLACE ".${file}.${file}" ".${file}" test ${test})
+      add_test(NAME ${test} COMMAND ${name} --gtest_brief --gtest_filter=${suite}.*-${ARG_EXCEPT})
+      if(ARG_PROPERTIES)
+        set_tests_properties(${test} PROPERTIES ${ARG_PROPERTIES})
+      endif()
+    endforeach()
   endforeach()
 endfunction()
 

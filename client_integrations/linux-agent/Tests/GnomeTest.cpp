@@ -10,6 +10,7 @@
 #include <gio/gio.h>
 #include <gmock/gmock.h>
 
+#include "Cases.h"
 #include "RunUntil.h"
 #include "core/text/Error.h"
 #include "core/text/UniqueHandle.h"
@@ -78,26 +79,14 @@ TEST_F(GnomeShortcuts, AreAddedBesideTheUsersOwn) {
 }
 
 TEST_F(GnomeShortcuts, TakeNoKeysFromAnother) {
-  const struct {
-    const char* schema;
-    const char* key;
-    const char* keys;
-    ShortcutState state;
-  } rows[] = {
-      {mediaKeys, "screensaver", "<Primary><Alt><Super>H", ShortcutState::taken},
-      {"org.gnome.desktop.wm.keybindings", "close", "<Mod4><Alt><Ctrl>h", ShortcutState::taken},
-      {"org.gnome.shell.keybindings", "toggle-overview", "<super><mod1><control>h",
-       ShortcutState::taken},
-      {"org.gnome.desktop.wm.keybindings", "close", "<Alt><Super>h", ShortcutState::missing},
-      {"org.gnome.desktop.wm.keybindings", "close", "<Control><Alt><Super>j",
-       ShortcutState::missing},
-      {"org.gnome.desktop.wm.keybindings", "close", "<Control", ShortcutState::missing}};
-  for (const auto& row : rows) {
-    const Settings other = settingsAt(row.schema);
-    set(other.get(), row.key, {"<Super>F9", row.keys});
-    EXPECT_EQ(settings.stateOf(shortcut), row.state) << row.keys;
-    EXPECT_EQ(settings.add(shortcut), row.state == ShortcutState::missing);
-    g_settings_reset(other.get(), row.key);
+  for (const auto& [schema, key, keys, isTaken] :
+       testing::cases<std::string, std::string, std::string, bool>()) {
+    const Settings other = settingsAt(schema);
+    set(other.get(), key.c_str(), {"<Super>F9", keys.c_str()});
+    EXPECT_EQ(settings.stateOf(shortcut), isTaken ? ShortcutState::taken : ShortcutState::missing)
+        << keys;
+    EXPECT_EQ(settings.add(shortcut), !isTaken);
+    g_settings_reset(other.get(), key.c_str());
     g_settings_reset(settingsAt(mediaKeys).get(), "custom-keybindings");
   }
   const std::string path = std::string(folder) + "custom0/";
@@ -181,21 +170,15 @@ TEST(GnomeHotkeys, ArePressedOnceHoweverLongTheyAreHeld) {
 }
 
 TEST(GnomeHotkeys, SayWhyThereAreNone) {
-  const struct {
-    ShortcutState state;
-    const char* part;
-  } rows[] = {{ShortcutState::taken, "already uses Ctrl+Alt+Super+H"},
-              {ShortcutState::unsupported, "gives programs no hotkey"}};
-  for (const auto& row : rows) {
+  const std::pair<ShortcutState, const char*> rows[] = {
+      {ShortcutState::taken, "already uses Ctrl+Alt+Super+H"},
+      {ShortcutState::unsupported, "gives programs no hotkey"}};
+  for (const auto& [state, part] : rows) {
     ScriptedUser user;
-    user.state = row.state;
-    try {
-      user.hotkey()->registerHotkey(desktop::signingHotkey, [] {});
-      ADD_FAILURE() << row.part;
-    } catch (const Error& error) {
-      EXPECT_THAT(error.what(),
-                  ::testing::AllOf(HasSubstr(row.part), HasSubstr("quillseal --sign")));
-    }
+    user.state = state;
+    EXPECT_THAT([&] { user.hotkey()->registerHotkey(desktop::signingHotkey, [] {}); },
+                ::testing::ThrowsMessage<Error>(
+                    ::testing::AllOf(HasSubstr(part), HasSubstr("quillseal --sign"))));
     EXPECT_TRUE(user.shown.empty() && user.stored.empty());
   }
   ScriptedUser user;

@@ -207,12 +207,8 @@ TEST_F(KwinHotkeys, SayWhyThereAreNone) {
   for (const auto& row : rows) {
     ScriptedKde kde(row.script);
     auto keys = std::make_unique<KwinHotkey>(KwinHotkey::Services{.loop = loop, .bus = *bus});
-    try {
-      keys->registerHotkey(desktop::signingHotkey, [] {});
-      ADD_FAILURE() << row.part;
-    } catch (const Error& error) {
-      EXPECT_THAT(error.what(), AllOf(HasSubstr(row.part), HasSubstr("quillseal --sign")));
-    }
+    EXPECT_THAT([&] { keys->registerHotkey(desktop::signingHotkey, [] {}); },
+                ThrowsMessage<Error>(AllOf(HasSubstr(row.part), HasSubstr("quillseal --sign"))));
     keys.reset();
     EXPECT_EQ(kde.calls().back(), row.lastCall);
   }

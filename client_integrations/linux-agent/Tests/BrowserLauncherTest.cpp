@@ -190,6 +190,7 @@ TEST_F(BrowserLauncherTest, TellsWhyNothingOpens) {
                 ::testing::ThrowsMessage<Error>(HasSubstr(part)));
   };
   expectFailure(launcher_, "secluded", "“secluded” runs in a sandbox");
+  expectFailure(launcher_, "climbing", "the folder of the Snap is not known");
   ::setenv("HOME", (computer().root() / "elsewhere").c_str(), 1);
   expectFailure(launcher_, "snapped", "elsewhere/snap/snapped/common”: No such file");
   expectFailure(launcher_, "gone", "“gone” is no longer installed");

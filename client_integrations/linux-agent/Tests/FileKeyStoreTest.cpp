@@ -178,6 +178,7 @@ TEST_F(FileKeyStoreTest, WhatSomebodyElsePutThereIsNotUsed) {
   fs::create_directory(folder.path() / "real");
   fs::create_directory_symlink(folder.path() / "real", path.parent_path());
   EXPECT_THAT(failureOf([&] { store.create(passphrase()); }), HasSubstr("a link or not a folder"));
+  EXPECT_THAT(store.obstacle(), HasSubstr("a link or not a folder"));
   EXPECT_TRUE(fs::is_empty(folder.path() / "real"));
 
   fs::remove_all(folder.path() / "data");

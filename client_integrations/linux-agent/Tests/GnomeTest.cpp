@@ -1,29 +1,24 @@
+#include <chrono>
 #include <cstdlib>
-#include <functional>
-#include <map>
 #include <memory>
-#include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include <gio/gio.h>
 #include <gmock/gmock.h>
 
 #include "Cases.h"
-#include "RunUntil.h"
+#include "FakeDesktop.h"
 #include "core/text/Error.h"
 #include "core/text/UniqueHandle.h"
 #include "desktop/SigningHotkey.h"
 #include "gnome/GioShortcutSettings.h"
 #include "gnome/GnomeHotkey.h"
-#include "session/PollLoop.h"
 
 namespace quillseal::linux {
 namespace {
 
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
+using namespace ::testing;
 
 // Shortcuts ---------------------------------------------------------------------------------------
 
@@ -98,95 +93,76 @@ TEST_F(GnomeShortcuts, TakeNoKeysFromAnother) {
 
 // Hotkey ------------------------------------------------------------------------------------------
 
-/// Settings, answers and alerts of a scripted user.
-struct ScriptedUser : ShortcutSettings, desktop::Alerts, desktop::Defaults {
-  PollLoop loop;
+/// A user, whose keyboard settings are as the test says.
+struct ScriptedUser : testing::Record, ShortcutSettings {
+  testing::FakeAlerts alerts{*this};
+  testing::FakeDefaults defaults{*this};
   ShortcutState state = ShortcutState::missing;
   bool canAdd = true;
-  std::vector<std::string> added;
-  std::vector<std::string> shown;
-  std::map<std::string, std::string, std::less<>> stored;
-  std::function<void(desktop::Answer)> answer;
 
   ShortcutState stateOf(const CustomShortcut&) override { return state; }
   bool add(const CustomShortcut& one) override {
-    added.push_back(one.keys + " " + one.command);
+    trace.push_back("add " + one.keys + " " + one.command);
     return canAdd;
   }
-  desktop::Ticket show(const desktop::Alert&, std::function<void()>) override { return {}; }
-  desktop::Ticket ask(const desktop::Question& question,
-                      std::function<void(desktop::Answer)> answered) override {
-    shown.push_back(question.title);
-    answer = std::move(answered);
-    return desktop::Ticket([this] { answer = nullptr; });
-  }
-  desktop::Ticket confirm(const desktop::ConfirmationForm&,
-                          std::function<void(std::optional<desktop::ConfirmationEntry>)>) override {
-    return {};
-  }
-  void notify(const desktop::Notification& one) override { shown.push_back(one.body); }
-  [[nodiscard]] std::optional<std::string> string(std::string_view) const override { return {}; }
-  [[nodiscard]] bool boolean(std::string_view key) const override { return stored.contains(key); }
-  void setString(std::string_view key, std::string_view value) override {
-    stored[std::string(key)] = value;
-  }
-  desktop::Ticket observe(std::function<void()>) override { return {}; }
-
-  [[nodiscard]] std::unique_ptr<GnomeHotkey> hotkey(
-      const std::string& program = "/usr/bin/quillseal") {
-    return std::make_unique<GnomeHotkey>(
+  [[nodiscard]] std::unique_ptr<GnomeHotkey> registered(
+      const std::string& path = "/usr/bin/quillseal") {
+    auto made = std::make_unique<GnomeHotkey>(
         GnomeHotkey::Services{.loop = loop,
                               .settings = *this,
-                              .alerts = [this]() -> desktop::Alerts& { return *this; },
-                              .defaults = [this]() -> desktop::Defaults& { return *this; }},
-        program);
+                              .alerts = [this]() -> desktop::Alerts& { return alerts; },
+                              .defaults = [this]() -> desktop::Defaults& { return defaults; }},
+        path);
+    made->registerHotkey(desktop::signingHotkey, [] {});
+    loop.run();
+    return made;
   }
 };
 
 TEST(GnomeHotkeys, AreAddedOnceTheUserSaysYesAndAskedForOnce) {
   for (const bool isYes : {true, false}) {
     ScriptedUser user;
-    const auto hotkey = user.hotkey("/opt/it's mine/quillseal");
-    hotkey->registerHotkey(desktop::signingHotkey, [] {});
-    EXPECT_THAT(user.shown, ElementsAre("Add Ctrl+Alt+Super+H to Your Keyboard Settings?"));
-    EXPECT_TRUE(user.added.empty());
-    user.answer(isYes ? desktop::Answer::confirmed : desktop::Answer::cancelled);
-    EXPECT_EQ(user.added, isYes ? std::vector<std::string>{"<Control><Alt><Super>h '/opt/it'\\''s "
-                                                           "mine/quillseal' --sign"}
-                                : std::vector<std::string>{});
-    user.hotkey()->registerHotkey(desktop::signingHotkey, [] {});
-    EXPECT_EQ(user.shown.size(), 1U);
+    user.alerts.answer = isYes ? desktop::Answer::confirmed : desktop::Answer::cancelled;
+    static_cast<void>(user.registered("/opt/it's mine/quillseal"));
+    const auto asked = StartsWith("ask: Add Ctrl+Alt+Super+H to Your Keyboard Settings?");
+    const std::string kept = "set ShortcutOffered = true";
+    const std::string added = "add <Control><Alt><Super>h '/opt/it'\\''s mine/quillseal' --sign";
+    EXPECT_THAT(user.trace,
+                Conditional(isYes, ElementsAre(asked, kept, added), ElementsAre(asked, kept)));
+    user.defaults.flags = {"ShortcutOffered"};
+    user.trace.clear();
+    static_cast<void>(user.registered());
+    EXPECT_THAT(user.trace, IsEmpty());
   }
 }
 
 TEST(GnomeHotkeys, ArePressedOnceHoweverLongTheyAreHeld) {
   ScriptedUser user;
-  const auto hotkey = user.hotkey();
+  const auto hotkey = user.registered();
+  user.loop.leap(std::chrono::hours(1));
   EXPECT_FALSE(hotkey->mayBeHeld());
   EXPECT_TRUE(hotkey->isNewPress());
   EXPECT_TRUE(hotkey->mayBeHeld());
   EXPECT_FALSE(hotkey->isNewPress());
-  testing::runUntil(user.loop, [&] { return !hotkey->mayBeHeld(); });
+  user.loop.leap(std::chrono::milliseconds(700));
+  EXPECT_FALSE(hotkey->mayBeHeld());
 }
 
 TEST(GnomeHotkeys, SayWhyThereAreNone) {
   const std::pair<ShortcutState, const char*> rows[] = {
       {ShortcutState::taken, "already uses Ctrl+Alt+Super+H"},
       {ShortcutState::unsupported, "gives programs no hotkey"}};
-  for (const auto& [state, part] : rows) {
-    ScriptedUser user;
-    user.state = state;
-    EXPECT_THAT([&] { user.hotkey()->registerHotkey(desktop::signingHotkey, [] {}); },
-                ::testing::ThrowsMessage<Error>(
-                    ::testing::AllOf(HasSubstr(part), HasSubstr("quillseal --sign"))));
-    EXPECT_TRUE(user.shown.empty() && user.stored.empty());
-  }
   ScriptedUser user;
+  for (const auto& [state, part] : rows) {
+    user.state = state;
+    EXPECT_THAT([&] { static_cast<void>(user.registered()); },
+                ThrowsMessage<Error>(AllOf(HasSubstr(part), HasSubstr("quillseal --sign"))));
+    EXPECT_THAT(user.trace, IsEmpty());
+  }
+  user.state = ShortcutState::missing;
   user.canAdd = false;
-  const auto hotkey = user.hotkey();
-  hotkey->registerHotkey(desktop::signingHotkey, [] {});
-  user.answer(desktop::Answer::confirmed);
-  EXPECT_THAT(user.shown.back(), HasSubstr("could not be added"));
+  static_cast<void>(user.registered());
+  EXPECT_THAT(user.trace.back(), HasSubstr("could not be added"));
 }
 
 }  // namespace

@@ -42,6 +42,7 @@ class ScriptedKde : public testing::BusServices {
     bool answers = true;
     int granted = controlAltMetaH;  ///< 0 when the keys are refused
     std::string owner{};            ///< component that owns them
+    bool pressesMeanwhile = false;  ///< the user, while the keys are asked for
   };
 
   explicit ScriptedKde(const Script& script)
@@ -51,19 +52,23 @@ class ScriptedKde : public testing::BusServices {
              "org.freedesktop.ScreenSaver"},
             [this, script](sd_bus_message* call, const std::string& method, sd_bus_error* error) {
               note(method);
+              if (script.pressesMeanwhile && method == "setShortcutKeys")
+                emit(::sd_bus_message_get_bus(call), "globalShortcutPressed", "sign");
               return answer(script, call, method, error);
             }) {}
 
   /// Emits "globalShortcutPressed" or the like, for an action of Quillseal's.
   void tell(const std::string& signal, const std::string& action = "sign") {
-    post([signal, action](sd_bus* bus) {
-      ::sd_bus_emit_signal(bus, "/component/quillseal", "org.kde.kglobalaccel.Component",
-                           signal.c_str(), "ssx", "quillseal", action.c_str(),
-                           static_cast<std::int64_t>(0));
-    });
+    post([signal, action](sd_bus* bus) { emit(bus, signal, action); });
   }
 
  private:
+  static void emit(sd_bus* bus, const std::string& signal, const std::string& action) {
+    ::sd_bus_emit_signal(bus, "/component/quillseal", "org.kde.kglobalaccel.Component",
+                         signal.c_str(), "ssx", "quillseal", action.c_str(),
+                         static_cast<std::int64_t>(0));
+  }
+
   static int answer(const Script& script, sd_bus_message* call, const std::string& method,
                     sd_bus_error* error) {
     if (!script.answers) return 1;
@@ -256,6 +261,17 @@ TEST_F(KwinBus, IsNotWaitedForWhenItHangs) {
           nobody),
       nullptr);
   EXPECT_LT(std::chrono::steady_clock::now() - start, 5s);
+}
+
+TEST_F(KwinBus, DeliversASignalThatCameWhileAnAnswerWasAwaited) {
+  ScriptedKde kde({.pressesMeanwhile = true});
+  PollLoop loop;
+  const auto bus = DesktopBus::open();
+  bus->serve(loop, loop);
+  int presses = 0;
+  KwinHotkey keys({.loop = loop, .bus = *bus});
+  keys.registerHotkey(desktop::signingHotkey, [&] { ++presses; });
+  testing::runUntil(loop, [&] { return presses == 1; });
 }
 
 TEST_F(KwinBus, AnswersLaterUnlessTheCallIsDropped) {

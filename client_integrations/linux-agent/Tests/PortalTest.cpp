@@ -8,6 +8,7 @@
 #include <gmock/gmock.h>
 #include <xkbcommon/xkbcommon-keysyms.h>
 
+#include "FakeDesktop.h"
 #include "PrivateBus.h"
 #include "RunUntil.h"
 #include "ScriptedPortal.h"
@@ -35,34 +36,6 @@ using testing::ScriptedPortal;
 using Script = ScriptedPortal::Script;
 using Owner = ScriptedPortal::Owner;
 using Calls = std::vector<std::string>;
-
-/// One application that is in front or not.
-class OneApplication : public desktop::Applications {
- public:
-  std::optional<desktop::RunningApplication> front;
-  bool hasKeys = true;
-
-  [[nodiscard]] std::optional<desktop::RunningApplication> frontmost() const override {
-    return front;
-  }
-  [[nodiscard]] bool isActive(const desktop::RunningApplication& application) const override {
-    return hasKeys && front && front->instance == application.instance;
-  }
-  void activate(const desktop::RunningApplication& /*application*/) override {}
-  [[nodiscard]] std::optional<desktop::InstalledApplication> preferredBrowser() const override {
-    return {};
-  }
-  [[nodiscard]] std::optional<desktop::InstalledApplication> defaultApplicationFor(
-      const std::string& /*url*/) const override {
-    return {};
-  }
-  [[nodiscard]] desktop::Ticket open(const std::string& /*url*/,
-                                     const desktop::InstalledApplication& /*application*/,
-                                     std::function<void(std::optional<Error>)> /*done*/) override {
-    return {};
-  }
-  void open(const std::string& /*url*/) override {}
-};
 
 /// The agent's side, with a portal.
 class PortalTest : public ::testing::Test {
@@ -161,7 +134,8 @@ class PortalTest : public ::testing::Test {
   testing::TemporaryFolder folder;
   std::filesystem::path tokenFile = folder.path() / "quillseal" / "token";
   PollLoop loop;
-  OneApplication applications;
+  testing::Record record;
+  testing::FakeApplications applications{record};
   bool isHeld = false;
   bool isTaken = false;
   std::string told;
@@ -245,7 +219,7 @@ TEST_F(PortalKeys, NeedWhatTheUserAllowsAndRemembersIt) {
       {"malformed", {.isMalformed = true}, "", false, "", {"CreateSession"}},
       {"version 1",
        {.offer = {.remoteDesktop = 1}, .token = ""},
-       "",
+       "old",
        true,
        "",
        {"Register com.quillseal.agent", "SelectDevices ", "Start"}},
@@ -253,7 +227,7 @@ TEST_F(PortalKeys, NeedWhatTheUserAllowsAndRemembersIt) {
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
     begin(row.script, row.token);
-    EXPECT_EQ(keys->isTrusted(), *row.token != '\0');
+    EXPECT_EQ(keys->isTrusted(), *row.token != '\0' && row.script.offer.remoteDesktop > 1);
     EXPECT_EQ(open(), row.isOpen);
     EXPECT_EQ(storedToken(), row.tokenAfter);
     const auto mode = std::filesystem::status(tokenFile).permissions();
@@ -328,7 +302,7 @@ TEST_F(PortalKeys, AreOnlyThoseThatDoNoHarmWhereverTheyGo) {
     SCOPED_TRACE(row.name);
     begin({});
     ASSERT_TRUE(open());
-    applications.front = row.front;
+    applications.front = applications.active = row.front;
     isHeld = row.isHeld;
     EXPECT_EQ(press(row.key, row.target), row.delivery);
     EXPECT_EQ(pressed(), row.keys);
@@ -338,7 +312,7 @@ TEST_F(PortalKeys, AreOnlyThoseThatDoNoHarmWhereverTheyGo) {
   isTaken = true;  // by the screen lock
   EXPECT_EQ(press(Key::v, terminal), Delivery::declined);
   isTaken = false;
-  applications.hasKeys = false;  // as under GNOME's overview
+  applications.active.reset();  // as under GNOME's overview
   EXPECT_EQ(press(Key::v, terminal), Delivery::declined);
 }
 

@@ -14,6 +14,7 @@
 
 #include "session/QtMainLoop.h"
 #include "windows/OwnWindows.h"
+#include "windows/QtAlerts.h"
 #include "windows/QtPresencePrompt.h"
 #include "windows/QtSecretPrompt.h"
 #include "windows/TrayStatusItem.h"
@@ -180,6 +181,32 @@ TEST_F(QtPromptsTest, PresenceIsAskedForWithWhatItIsFor) {
   press(Qt::Key_Return);
   runUntil([&] { return goesOn.has_value(); });
   EXPECT_EQ(goesOn, true);
+}
+
+TEST_F(QtPromptsTest, AConfirmationBeginsWithWhatTheAgentProposes) {
+  QtAlerts alerts(windows);
+  const auto confirm = [&](const std::function<void()>& act) {
+    std::optional<desktop::ConfirmationEntry> entry;
+    const auto ticket = alerts.confirm({.question = {.title = "Sign this?",
+                                                     .body = "The text & more",
+                                                     .style = desktop::AlertStyle::informational,
+                                                     .confirm = "Sign",
+                                                     .cancel = "Cancel"},
+                                        .choices = {"Letter", "Mail", "Post"},
+                                        .selectedChoice = 1,
+                                        .fieldPlaceholder = "To",
+                                        .note = "A note."},
+                                       [&](auto given) { entry = given; });
+    expectSaid({"Sign this?", "The text & more", "A note."});
+    act();
+    return entry ? entry->choice + " to " + entry->field : "none";
+  };
+  EXPECT_EQ(confirm([] {
+              type("Ada");
+              press(Qt::Key_Return);
+            }),
+            "Mail to Ada");
+  EXPECT_EQ(confirm(cancel), "none");
 }
 
 // Here because it needs the same toolkit.

@@ -2,6 +2,7 @@
 #include <chrono>
 #include <cstdint>
 #include <cstring>
+#include <ctime>
 #include <mutex>
 #include <optional>
 #include <thread>
@@ -64,6 +65,11 @@ class ScriptedSway {
     constexpr std::uint32_t bindingEvent = 0x80000005;
     const std::lock_guard lock(mutex_);
     send(subscriber_, bindingEvent, event);
+  }
+  /// Ends the connection to the subscribed program.
+  void leave() {
+    const std::lock_guard lock(mutex_);
+    shutdown(subscriber_, SHUT_RDWR);
   }
   [[nodiscard]] std::vector<std::string> commands() {
     const std::lock_guard lock(mutex_);
@@ -164,6 +170,19 @@ TEST(SwayHotkeyTest, IsPressedOnceHoweverLongItIsHeld) {
   }
   EXPECT_EQ(presses, 2);
   EXPECT_THAT(sway.commands().back(), HasSubstr("unbindcode --release"));
+}
+
+TEST(SwayHotkeyTest, EndsWithSway) {
+  const ScriptedCompositor compositor;
+  ScriptedSway sway({});
+  Agent agent;
+  SwayHotkey keys(agent.services(sway.path()));
+  keys.registerHotkey(hotkey, [] {});
+  sway.leave();
+  const desktop::Ticket end = agent.loop.after(200ms, [&] { agent.loop.stop(); });
+  const std::clock_t before = std::clock();
+  agent.loop.run();
+  EXPECT_LT(std::clock() - before, CLOCKS_PER_SEC / 20);  // nobody reads again and again
 }
 
 TEST(SwayHotkeyTest, FollowsTheLayout) {

@@ -102,18 +102,6 @@ std::string withMarks(Text text, Random& random) {
   return result;
 }
 
-std::string withMovedBlanks(Text text, Random& random) {
-  std::string result(text);
-  for (std::size_t i = 1; i + 1 < result.size(); ++i) {
-    if (result[i] != ' ' || !happens(random, 50)) continue;
-    if (isLetter(result[i - 1]) && happens(random, 50))
-      std::swap(result[i], result[i - 1]);
-    else if (isLetter(result[i + 1]))
-      std::swap(result[i], result[i + 1]);
-  }
-  return result;
-}
-
 constexpr std::array all{
     Disguise{"zero-width", [](Text t, Random& r) { return insertedInWords(t, r, 100, "\u200B"); },
              90},
@@ -148,16 +136,6 @@ constexpr std::array all{
              90},
     Disguise{"word-a-line", [](Text t, Random&) { return unicode::replacingAll(t, " ", "\n"); },
              90},
-    Disguise{"blanks-within", [](Text t, Random& r) { return insertedInWords(t, r, 33, " "); }},
-    Disguise{"blanks-moved", withMovedBlanks},
-    Disguise{"letters-doubled",
-             [](Text t, Random& r) {
-               return inWords(t, r, 40, [&](Text word) {
-                 std::string changed(word);
-                 const std::size_t at = r() % word.size();
-                 return changed.insert(at, 1, word[at]);
-               });
-             }},
 };
 
 }  // namespace

@@ -11,9 +11,8 @@ namespace quillseal::testing {
 struct Disguise {
   std::string_view name;
   std::string (*apply)(std::string_view text, std::mt19937& random);
-  /// Of the texts that are caught without it, those that must still be caught, in per cent; zero
-  /// where nothing is promised.
-  int promised = 0;
+  /// Of the texts that are caught without it, those that must still be caught, in per cent.
+  int promised;
 };
 
 [[nodiscard]] std::span<const Disguise> disguises();

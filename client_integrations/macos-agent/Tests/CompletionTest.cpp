@@ -18,36 +18,21 @@ TEST(CompletionTest, IsCalledOnceWhicheverCopyCallsFirst) {
   EXPECT_FALSE(first.isPending());
 }
 
-TEST(CompletionTest, IsNotCalledAfterItsTicketWasDropped) {
-  int calls = 0;
-  int cancelled = 0;
-  const Completion<> completion([&calls] { ++calls; });
-  std::optional<desktop::Ticket> ticket = completion.ticket([&cancelled] { ++cancelled; });
-  ticket.reset();
-  completion();
-  EXPECT_EQ(calls, 0);
-  EXPECT_EQ(cancelled, 1);
-}
-
-TEST(CompletionTest, CancelsNothingThatHasEnded) {
-  int cancelled = 0;
-  const Completion<> completion([] {});
-  std::optional<desktop::Ticket> ticket = completion.ticket([&cancelled] { ++cancelled; });
-  completion();
-  ticket.reset();
-  EXPECT_EQ(cancelled, 0);
-}
-
 // A copy may be destroyed later on another thread; the function's captures must be destroyed
 // before.
-TEST(CompletionTest, ReleasesTheFunctionWhenItEnds) {
-  const auto used = std::make_shared<int>(0);
-  const Completion<> called([used] {});
-  const Completion<> withdrawn([used] {});
-  called();
-  EXPECT_EQ(used.use_count(), 2);
-  { const desktop::Ticket ticket = withdrawn.ticket(); }
-  EXPECT_EQ(used.use_count(), 1);
+TEST(CompletionTest, EndsByACallOrByTheLossOfItsTicket) {
+  for (const bool isCalled : {true, false}) {
+    int calls = 0, cancelled = 0;
+    const auto used = std::make_shared<int>(0);
+    const Completion<> completion([&calls, used] { ++calls; });
+    std::optional<desktop::Ticket> ticket = completion.ticket([&] { ++cancelled; });
+    if (isCalled) completion();
+    ticket.reset();
+    completion();
+    EXPECT_EQ(calls, isCalled ? 1 : 0);
+    EXPECT_EQ(cancelled, isCalled ? 0 : 1);
+    EXPECT_EQ(used.use_count(), 1);
+  }
 }
 
 TEST(CompletionTest, MayDropItsOwnTicketWhileItRuns) {

@@ -71,20 +71,7 @@ class ServiceTest : public ::testing::Test {
   }
 
   /// A demonstration request; `signedRequest` adds the fields of a device's signature.
-  static json request() {
-    return {{"text_digest", CryptoManager::sha256Hex("text")},
-            {"issued", "2026-01-01"},
-            {"scope", "Email Message (Writer <b>)"},
-            {"image_digest", CryptoManager::sha256Hex("images")},
-            {"device_id", deviceId},
-            {"method", "Touch ID"},
-            {"expires", "2026-01-31"},
-            {"commitment", "statement"},
-            {"nonce", "00112233445566778899aabbccddeeff"},
-            {"timezone", "Asia/Kolkata"},
-            {"tz_offset", 330},
-            {"api_key", apiKey}};
-  }
+  static json request() { return json::parse(quillseal::testing::caseLines("A request").front()); }
 
   json signedRequest(json fields, const std::string& identity) const {
     fields["protocol"] = "v2";
@@ -109,12 +96,9 @@ class ServiceTest : public ::testing::Test {
   void restart() { service_.reset(); }
 
   Answer createHandoff(const char* issued = "2026-01-01") {
-    return post("/api/handoff/create", {{"text_digest", CryptoManager::sha256Hex("text")},
-                                        {"snapshot_digest", CryptoManager::sha256Hex("snapshot")},
-                                        {"issued", issued},
-                                        {"scope", "Web Form (Browser)"},
-                                        {"image_digest", CryptoManager::sha256Hex("images")},
-                                        {"api_key", apiKey}});
+    json body = json::parse(quillseal::testing::caseLines("A handoff").front());
+    body["issued"] = issued;
+    return post("/api/handoff/create", body);
   }
 
   std::string openHandoff() { return createHandoff().body.at("handoff_id"); }

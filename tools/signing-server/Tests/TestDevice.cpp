@@ -1,10 +1,13 @@
 #include "TestDevice.h"
 
+#include <cstdint>
 #include <stdexcept>
+#include <vector>
 
 #include <openssl/ec.h>
 #include <openssl/evp.h>
 
+#include "core/text/Base64.h"
 #include "core/text/UniqueHandle.h"
 
 namespace quillseal::devserver {
@@ -12,15 +15,6 @@ namespace {
 
 void require(bool succeeded) {
   if (!succeeded) throw std::runtime_error("OpenSSL failed");
-}
-
-std::string base64(std::string_view bytes) {
-  std::string text((bytes.size() + 2) / 3 * 4 + 1, '\0');
-  const int length = EVP_EncodeBlock(reinterpret_cast<unsigned char*>(text.data()),
-                                     reinterpret_cast<const unsigned char*>(bytes.data()),
-                                     static_cast<int>(bytes.size()));
-  text.resize(static_cast<std::size_t>(length));
-  return text;
 }
 
 }  // namespace
@@ -38,9 +32,9 @@ std::string TestDevice::publicKey() const {
   unsigned char* encoded = nullptr;
   const std::size_t length = EVP_PKEY_get1_encoded_public_key(key_->handle.get(), &encoded);
   require(length > 0);
-  const std::string point(reinterpret_cast<const char*>(encoded), length);
+  std::string point = base64({encoded, length});
   OPENSSL_free(encoded);
-  return base64(point);
+  return point;
 }
 
 std::string TestDevice::sign(std::string_view digestHex) const {
@@ -50,10 +44,11 @@ std::string TestDevice::sign(std::string_view digestHex) const {
   const UniqueHandle<EVP_PKEY_CTX, ::EVP_PKEY_CTX_free> context(
       EVP_PKEY_CTX_new(key_->handle.get(), nullptr));
   require(context && EVP_PKEY_sign_init(context.get()) == 1);
-  std::string signature(static_cast<std::size_t>(EVP_PKEY_get_size(key_->handle.get())), '\0');
+  std::vector<std::uint8_t> signature(
+      static_cast<std::size_t>(EVP_PKEY_get_size(key_->handle.get())));
   std::size_t size = signature.size();
-  require(EVP_PKEY_sign(context.get(), reinterpret_cast<unsigned char*>(signature.data()), &size,
-                        digest, static_cast<std::size_t>(length)) == 1);
+  require(EVP_PKEY_sign(context.get(), signature.data(), &size, digest,
+                        static_cast<std::size_t>(length)) == 1);
   OPENSSL_free(digest);
   signature.resize(size);
   return base64(signature);

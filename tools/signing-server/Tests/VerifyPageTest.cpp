@@ -14,6 +14,7 @@
 #include "SignatureCheck.h"
 #include "TestDevice.h"
 #include "core/signing/SignedBlock.h"
+#include "core/text/UnicodeText.h"
 
 /// Tests what the verification page tells a reader.
 namespace quillseal::devserver {
@@ -31,12 +32,6 @@ constexpr const char* gray = "unknown";
 const std::string text = "Pay 1,250.00 EUR to Ada by 14 March.";
 const std::string rule = "────────────────────";
 
-std::string replacedAll(std::string value, const std::string& from, const std::string& to) {
-  for (std::size_t at = 0; (at = value.find(from, at)) != std::string::npos; at += to.size())
-    value.replace(at, from.size(), to);
-  return value;
-}
-
 /// A text of paste-cases.jsonl with what its names in braces stand for.
 std::string filled(std::string value) {
   static const std::pair<std::string, std::string> names[] = {
@@ -46,7 +41,7 @@ std::string filled(std::string value) {
       {"{text}", text},
   };
   for (const auto& [name, meaning] : names)
-    value = replacedAll(std::move(value), name, meaning);
+    value = unicode::replacingAll(value, name, meaning);
   return value;
 }
 
@@ -107,8 +102,8 @@ TEST_F(VerifyPageTest, JudgesEachPaste) {
   for (const json& each : cases) {
     const std::string id = recorded(filled(each.value("base", "{text}")), each);
     const std::string halves = linkTo(id).insert(origin_.size() - 1, " ");
-    std::string paste = replacedAll(filled(each.at("paste")), "{halves}", halves);
-    paste = replacedAll(std::move(paste), "{link}", linkTo(id));
+    std::string paste = unicode::replacingAll(filled(each.at("paste")), "{halves}", halves);
+    paste = unicode::replacingAll(paste, "{link}", linkTo(id));
     list.push_back({{"id", id}, {"paste", std::move(paste)}});
   }
   files_["/test/cases.json"] = list.dump();
@@ -234,7 +229,7 @@ TEST_F(VerifyPageTest, AnswersSoonWhateverIsPasted) {
   json list = json::array();
   for (const std::string unit : units) {
     // Pasted with nothing to find, below a text, and as the text.
-    const std::string part = replacedAll(unit, "{link}", linkTo(empty));
+    const std::string part = unicode::replacingAll(unit, "{link}", linkTo(empty));
     std::string whole;
     while (whole.size() < 4 * longest)
       whole += part;

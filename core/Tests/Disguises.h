@@ -12,7 +12,7 @@ struct Disguise {
   std::string_view name;
   std::string (*apply)(std::string_view text, std::mt19937& random);
   /// Of the texts that are caught without it, those that must still be caught, in per cent.
-  int promised;
+  int promised = 90;
 };
 
 [[nodiscard]] std::span<const Disguise> disguises();

@@ -1,6 +1,6 @@
+#include <map>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -10,13 +10,14 @@
 #include "Quillseal/CryptoManager.h"
 #include "Service.h"
 #include "TestDevice.h"
+#include "core/text/UnicodeText.h"
 
 namespace quillseal::devserver {
 namespace {
 
 using nlohmann::json;
+using quillseal::testing::divided;
 using ::testing::HasSubstr;
-using ::testing::StartsWith;
 
 constexpr const char* apiKey = "the right key";
 constexpr const char* deviceId = "0F4B3A52-7C1D-4E8A-9B60-5D2E1C7F8A90";
@@ -34,7 +35,7 @@ class ServiceTest : public ::testing::Test {
       service_.emplace(registry_, ServiceOptions{.apiKey = apiKey,
                                                  .identity = identity_,
                                                  .origin = origin_,
-                                                 .signingSeconds = signingSeconds_,
+                                                 .signingSeconds = 300,
                                                  .now = [this] { return now_; }});
     }
     return *service_;
@@ -95,27 +96,15 @@ class ServiceTest : public ::testing::Test {
   /// Restarts with the current options.
   void restart() { service_.reset(); }
 
-  Answer createHandoff(const char* issued = "2026-01-01") {
+  Answer createHandoff(const std::string& issued = "2026-01-01") {
     json body = json::parse(quillseal::testing::caseLines("A handoff").front());
     body["issued"] = issued;
     return post("/api/handoff/create", body);
   }
 
-  std::string openHandoff() { return createHandoff().body.at("handoff_id"); }
-
-  json poll(const std::string& id) {
-    return post("/api/handoff/poll", {{"handoff_id", id}, {"api_key", apiKey}}).body;
-  }
-
-  Answer pressSign(const std::string& id, const std::string& text = "text") {
-    return post("/handoff/sign",
-                {{"handoff_id", id}, {"text_digest", CryptoManager::sha256Hex(text)}});
-  }
-
   std::string identity_;
   std::string origin_;
   std::string host_ = "127.0.0.1:8427";
-  std::int64_t signingSeconds_ = 600;
   std::int64_t now_ = start;
   TestDevice device_;
   Registry registry_{":memory:"};
@@ -190,35 +179,6 @@ TEST_F(ServiceTest, RefusesWhatIsNotTheDevicesSignature) {
   EXPECT_EQ(post("/api/sign_native", signedRequest(fresh, "")).status, 403) << "an old key";
 }
 
-TEST_F(ServiceTest, DemonstrationsAreShownAsSuch) {
-  const Answer answer = post("/api/sign_demo", request());
-  ASSERT_EQ(answer.status, 200) << answer.body;
-  EXPECT_EQ(answer.body.at("demo"), true);
-  EXPECT_THAT(verifyPageOf(answer), HasSubstr("&quot;kind&quot;:&quot;demonstration&quot;"));
-
-  // Somewhere on earth it is yesterday or tomorrow.
-  for (const auto& [issued, isOff] : {std::pair{"2025-12-30", "true"},
-                                      {"2025-12-31", "false"},
-                                      {"2026-01-02", "false"},
-                                      {"2026-01-03", "true"}}) {
-    json dated = request();
-    dated["issued"] = dated["expires"] = issued;
-    dated["nonce"] = CryptoManager::sha256Hex(issued);
-    EXPECT_THAT(verifyPageOf(post("/api/sign_demo", dated)),
-                HasSubstr("&quot;isOffDate&quot;:" + std::string(isOff)))
-        << issued;
-  }
-}
-
-TEST_F(ServiceTest, RefusesAWrongApiKeyEverywhere) {
-  for (const char* path : {"/api/register_native", "/api/sign_native", "/api/sign_demo",
-                           "/api/handoff/create", "/api/handoff/poll"}) {
-    for (const char* wrong : {"the wrong one", "", "the right ke", "the right keyy"})
-      EXPECT_EQ(post(path, {{"api_key", wrong}}).status, 401) << path << wrong;
-    EXPECT_EQ(post(path, json::object()).status, 400) << path;
-  }
-}
-
 TEST_F(ServiceTest, NamesTheKeyAtFault) {
   post("/api/register_native", enrolment());
   for (const json each : quillseal::testing::cases()) {
@@ -241,68 +201,49 @@ TEST_F(ServiceTest, NamesTheKeyAtFault) {
   }
 }
 
-TEST_F(ServiceTest, AHandoffIsSignedInTheBrowser) {
-  const std::string id = openHandoff();
-  EXPECT_EQ(poll(id), json({{"status", "pending"}}));
-  EXPECT_THAT(get("/handoff", id).body, HasSubstr("Sign this text?"));
-  EXPECT_EQ(pressSign(id, "another text").status, 403);
-  EXPECT_EQ(poll(id), json({{"status", "pending"}}));
-
-  const Answer answer = pressSign(id);
-  ASSERT_EQ(answer.status, 200) << answer.body;
-  const std::string signatureId = answer.body.at("signature_id");
-  const Signature kept = registry_.signature(signatureId).value();
-  EXPECT_EQ(kept.imageDigest, CryptoManager::sha256Hex("images"));
-  EXPECT_EQ(kept.snapshotDigest, CryptoManager::sha256Hex("snapshot"));
-  EXPECT_EQ(kept.scope, "Web Form (Browser)");
-  EXPECT_EQ(kept.commitment, "statement");
-  EXPECT_EQ(pressSign(id).body.at("signature_id"), signatureId) << "a second click";
-  EXPECT_EQ(post("/handoff/decline", {{"handoff_id", id}}).status, 409);
-  now_ += 3600;
-  EXPECT_EQ(poll(id), json({{"status", "complete"}, {"signature_id", signatureId}}));
-  EXPECT_EQ(pressSign(id).body.at("signature_id"), signatureId) << "a repeated request";
-  EXPECT_THAT(verifyPageOf(answer), HasSubstr("&quot;kind&quot;:&quot;browser&quot;"));
-  EXPECT_THAT(verifyPageOf(answer), HasSubstr("8 January 2026"));
-}
-
-TEST_F(ServiceTest, AHandoffNeedsADayToExpireOn) {
-  EXPECT_EQ(createHandoff("9999-12-24").status, 200);
-  for (const char* late : {"9999-12-25", "9999-12-31"}) {
-    const Answer answer = createHandoff(late);
-    EXPECT_EQ(answer.status, 400) << late;
-    EXPECT_THAT(answer.body.value("error", ""), HasSubstr("“issued”"));
+// service-stories.txt explains its lines.
+TEST_F(ServiceTest, StoriesGoAsTold) {
+  Answer answer{.status = 0, .body = {}};
+  std::string page, title;
+  std::map<std::string, std::string> values{{"{text}", CryptoManager::sha256Hex("text")},
+                                            {"{images}", CryptoManager::sha256Hex("images")}};
+  for (std::string line : quillseal::testing::textCases()) {
+    for (const auto& [name, value] : values)
+      line = unicode::replacingAll(line, name, value);
+    if (line.starts_with('[')) title = line;
+    SCOPED_TRACE(title + ' ' + line);
+    const auto [verb, what] = divided(line, " ");
+    const auto [place, more] = divided(what, " ");
+    if (verb == "origin") {
+      origin_ = what;
+      restart();
+    } else if (verb == "seconds") {
+      now_ += std::stoi(what);
+    } else if (verb == "create") {
+      answer = createHandoff(what);
+    } else if (verb == "demonstrate") {
+      json dated = request();
+      dated["issued"] = dated["expires"] = what;
+      dated["nonce"] = CryptoManager::sha256Hex(what);
+      answer = post("/api/sign_demo", dated);
+    } else if (verb == "POST") {
+      answer = postText(place, more);
+    } else if (verb == "GET") {
+      const Reply reply = get(divided(what, "?h=").first, divided(what, "?h=").second);
+      answer = {.status = reply.status, .body = reply.body};
+    } else if (verb == ">") {
+      const std::string body =
+          answer.body.is_string() ? std::string(answer.body) : answer.body.dump();
+      EXPECT_EQ(std::to_string(answer.status), place);
+      EXPECT_THAT(body, HasSubstr(more));
+    } else if (verb == "snapshot") {
+      EXPECT_EQ(registry_.signature(values.at("{signature}"))->snapshotDigest,
+                CryptoManager::sha256Hex("snapshot"));
+    }
+    for (const std::string name : {"handoff", "signature"})
+      if (answer.body.is_object() && answer.body.contains(name + "_id"))
+        values['{' + name + '}'] = answer.body[name + "_id"];
   }
-}
-
-TEST_F(ServiceTest, AHandoffEndsUnsigned) {
-  signingSeconds_ = 300;
-  const std::string declined = openHandoff();
-  EXPECT_EQ(post("/handoff/decline", {{"handoff_id", declined}}).status, 200);
-  EXPECT_EQ(poll(declined).at("status"), "expired") << "so that the agent stops waiting";
-  const Answer refused = pressSign(declined);
-  EXPECT_EQ(refused.status, 409);
-  EXPECT_EQ(refused.body.at("error"), "This signing request was declined.");
-  EXPECT_THAT(get("/handoff", declined).body, HasSubstr("Declined"));
-
-  const std::string late = openHandoff();
-  EXPECT_THAT(get("/handoff", late).body, HasSubstr("data-seconds-left=\"300\""));
-  now_ += 299;
-  EXPECT_EQ(poll(late).at("status"), "pending");
-  now_ += 1;
-  EXPECT_EQ(poll(late).at("status"), "expired");
-  EXPECT_EQ(pressSign(late).status, 410);
-  EXPECT_THAT(get("/handoff", late).body, HasSubstr("Expired"));
-
-  EXPECT_EQ(pressSign("unknown").status, 404);
-  EXPECT_EQ(get("/handoff", "unknown").status, 404);
-}
-
-TEST_F(ServiceTest, LinksLeadBackToWhereTheRequestCameOrToTheProxyInFront) {
-  const auto link = [&] { return createHandoff().body.at("url").get<std::string>(); };
-  EXPECT_THAT(link(), StartsWith("http://127.0.0.1:8427/handoff?h="));
-  origin_ = "https://seal.example.org";
-  restart();
-  EXPECT_THAT(link(), StartsWith("https://seal.example.org/handoff?h="));
 }
 
 TEST_F(ServiceTest, AnswersOnlyToItsOwnName) {
@@ -318,7 +259,7 @@ TEST_F(ServiceTest, AnswersOnlyToItsOwnName) {
   EXPECT_EQ(get("/").status, 421) << "the origin, when there is none, is no name either";
 }
 
-TEST_F(ServiceTest, OnlyJsonIsTakenAndTemplatesAreNotServed) {
+TEST_F(ServiceTest, OnlyJsonIsTaken) {
   const Reply reply = service().answer({.method = "POST",
                                         .path = "/handoff/sign",
                                         .contentType = "text/plain",
@@ -326,10 +267,6 @@ TEST_F(ServiceTest, OnlyJsonIsTakenAndTemplatesAreNotServed) {
                                         .handoffId = "",
                                         .body = "{}"});
   EXPECT_EQ(reply.status, 415);
-  EXPECT_EQ(get("/assets/verify.js").status, 200);
-  EXPECT_EQ(get("/assets/verify.mustache").status, 404);
-  EXPECT_EQ(get("/assets/../main.cpp").status, 404);
-  EXPECT_EQ(get("/verify/'; DROP TABLE signatures; --").status, 404);
 }
 
 }  // namespace

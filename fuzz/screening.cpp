@@ -5,7 +5,6 @@
 #include "Quillseal/CompiledRules.h"
 #include "Quillseal/ContentRisk.h"
 #include "RulePatterns.h"
-#include "core/screening/match/ScreeningEngine.h"
 #include "core/text/UnicodeText.h"
 
 namespace {
@@ -26,9 +25,7 @@ void quillseal::fuzz::check(std::string_view bytes) {
   if (bytes.size() > 2000) return;
   const auto& [patterns, engine, reference] = compared;
   const std::string text = unicode::wellFormed(bytes);
-  std::vector<testing::IcuReference::Answer> actual(patterns.size());
-  for (const screening::PatternMatch& match : engine.firstMatches(text))
-    actual[match.pattern] = {.matched = true, .start = match.start, .end = match.end};
+  const auto actual = testing::answersOf(engine, patterns.size(), text);
   const auto expected = reference.firstMatches(text);
   for (std::size_t i = 0; i < patterns.size(); ++i)
     require(expected[i].gaveUp || actual[i] == expected[i]);

@@ -60,4 +60,12 @@ std::vector<IcuReference::Answer> IcuReference::firstMatches(std::string_view te
   return answers;
 }
 
+std::vector<IcuReference::Answer> answersOf(const screening::ScreeningEngine& engine,
+                                            std::size_t patterns, std::string_view text) {
+  std::vector<IcuReference::Answer> answers(patterns);
+  for (const screening::PatternMatch& match : engine.firstMatches(text))
+    answers[match.pattern] = {.matched = true, .start = match.start, .end = match.end};
+  return answers;
+}
+
 }  // namespace quillseal::testing

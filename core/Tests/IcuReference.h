@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/screening/compile/TableCompiler.h"
+#include "core/screening/match/ScreeningEngine.h"
 
 struct URegularExpression;
 
@@ -43,5 +44,10 @@ class IcuReference {
   };
   std::vector<std::unique_ptr<URegularExpression, Close>> expressions_;
 };
+
+/// The same of the engine, which never gives up.
+[[nodiscard]] std::vector<IcuReference::Answer> answersOf(const screening::ScreeningEngine& engine,
+                                                          std::size_t patterns,
+                                                          std::string_view text);
 
 }  // namespace quillseal::testing

@@ -21,16 +21,9 @@ namespace {
 using screening::Pattern;
 using screening::PatternMatch;
 using screening::ScreeningEngine;
+using testing::answersOf;
 using testing::IcuReference;
 using testing::PatternText;
-
-std::vector<IcuReference::Answer> answersOf(const ScreeningEngine& engine, std::size_t patterns,
-                                            std::string_view text) {
-  std::vector<IcuReference::Answer> answers(patterns);
-  for (const PatternMatch& match : engine.firstMatches(text))
-    answers[match.pattern] = {.matched = true, .start = match.start, .end = match.end};
-  return answers;
-}
 
 struct Comparisons {
   std::size_t compared = 0;

@@ -22,7 +22,6 @@ using ContentRisk::Finding;
 using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using ::testing::Not;
 
 std::vector<std::string> idsIn(const Assessment& assessment) {
   std::vector<std::string> ids;
@@ -40,14 +39,9 @@ TEST(ContentRisk, FindsWhatTheRulesDescribe) {
     EXPECT_THAT(idsIn(ContentRisk::evaluate(text)), Contains(id).Times(isHit ? 1 : 0)) << text;
 }
 
-TEST(ContentRisk, MatchesThatSplitACharacterAreSkipped) {
-  const std::string wire = "Wire the money to the new account";
-  EXPECT_THAT(idsIn(ContentRisk::evaluate("Hello\n" + wire)), Contains("pay-imperative-transfer"));
-  EXPECT_THAT(idsIn(ContentRisk::evaluate("Hello\r\n" + wire)),
-              Not(Contains("pay-imperative-transfer")));
-  // The mark combines with the last letter, so the match would end inside a character.
-  EXPECT_THAT(idsIn(ContentRisk::evaluate("javascript:")), ElementsAre("url-javascript"));
-  EXPECT_THAT(idsIn(ContentRisk::evaluate("javascript:\u0301")), IsEmpty());
+TEST(ContentRisk, ReadsPastIllFormedBytes) {
+  EXPECT_THAT(idsIn(ContentRisk::evaluate("\xFF\xC0javascript:\xE2\x82")),
+              ElementsAre("url-javascript"));
 }
 
 TEST(ContentRisk, WeighsWhatItFinds) {
@@ -102,28 +96,6 @@ TEST(ContentRisk, QuotedSpansFollowThePairsInOrder) {
     }
     EXPECT_EQ(spans, expected) << text;
   }
-}
-
-TEST(ContentRisk, OnlyTheFirst200000CharactersAreScreened) {
-  const std::string filler(ContentRisk::maximumScreenedCharacters - 11, ' ');
-  EXPECT_THAT(idsIn(ContentRisk::evaluate(filler + "javascript:")), ElementsAre("url-javascript"));
-  EXPECT_THAT(idsIn(ContentRisk::evaluate(filler + " javascript:")), IsEmpty());
-}
-
-TEST(ContentRisk, AwkwardTextsHaveADefinedResult) {
-  EXPECT_EQ(ContentRisk::evaluate(""), Assessment{});
-  std::string joined = "I approve the payment ";
-  for (int i = 0; i < 700'000; ++i)
-    joined += "\u200D";
-  EXPECT_THAT(idsIn(ContentRisk::evaluate(joined)), Contains("obf-zero-width").Times(0));
-  EXPECT_THAT(idsIn(ContentRisk::evaluate(std::string(1000, '\0'))), IsEmpty());
-  EXPECT_THAT(idsIn(ContentRisk::evaluate(std::string(10'000'000, 'x'))), IsEmpty());
-  std::string marks;
-  for (int i = 0; i < 100'000; ++i)
-    marks += "\u0301";
-  EXPECT_THAT(idsIn(ContentRisk::evaluate(marks)), IsEmpty());
-  EXPECT_THAT(idsIn(ContentRisk::evaluate("\xFF\xC0javascript:\xE2\x82")),
-              ElementsAre("url-javascript"));
 }
 
 TEST(ContentRisk, TitlesAndTextsFollowTheCategories) {

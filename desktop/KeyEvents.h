@@ -54,7 +54,11 @@ struct KeyPress {
 /// Whether a key press reached its target; if not, why no key was pressed.
 enum class Delivery {
   delivered,
-  declined,         ///< something else than the target would have got it
+  declined,         ///< another window than the target would have got it
+  keyboardTaken,    ///< something that is no other window has the keyboard, as a menu may
+  keysHeld,         ///< the user held the keys of the hotkey for too long
+  notAllowed,       ///< the desktop lets this program press none; the adapter has explained that
+  notWritten,       ///< the target would have pasted something else than what was last written
   documentChanged,  ///< the target shows another document, tab or field than it did
   targetClosed,     ///< the target has ended
 };

@@ -57,6 +57,10 @@ class Pasteboard {
   /// Replaces the content by `content`, both flavours at once, and no other flavour. It stays until
   /// replaced, also when the agent ends. On failure throws Error and offers none of `content`.
   virtual void write(const PasteboardContent& content) = 0;
+
+  /// Whether programs would paste what was written last. Some desktops need a moment after `write`
+  /// until that is so, and may refuse it.
+  [[nodiscard]] virtual bool isWritten() const { return true; }
 };
 
 }  // namespace quillseal::desktop

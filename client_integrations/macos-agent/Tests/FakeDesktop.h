@@ -270,6 +270,8 @@ struct FakePasteboard final : Fake<desktop::Pasteboard> {
   Copy clipboard;
   bool reportsChanges = true;
   std::string obstacle;
+  std::optional<Error> refusal;  ///< of what is written next
+  bool takes = true;             ///< what is written, in the end
 
   void put(const Copy& copy) {
     clipboard = copy;
@@ -296,9 +298,12 @@ struct FakePasteboard final : Fake<desktop::Pasteboard> {
     return record.soon([this, done = std::move(done)] { done(clipboard.rtf); });
   }
   void write(const desktop::PasteboardContent& content) override {
-    record.add("write clipboard", "write clipboard");
+    record.mayFail("write clipboard");
+    if (const auto once = std::exchange(refusal, std::nullopt)) throw Error(*once);
+    record.trace.emplace_back("write clipboard");
     put({.text = content.plainText, .html = content.html});
   }
+  bool isWritten() const override { return takes; }
 
  private:
   std::int64_t changeCount_ = 0;
@@ -319,7 +324,8 @@ struct FakeKeyEvents final : Fake<desktop::KeyEvents> {
   std::optional<Copy> copiedElsewhere;            ///< copied by another program meanwhile
   std::function<void(desktop::Key)> beforePress;  ///< what happens meanwhile
   int presses = 0;
-  int declinedPress = 0;                ///< number of the press, from 1
+  int declinedPress = 0;  ///< number of the press, from 1
+  desktop::Delivery declinedAs = desktop::Delivery::declined;
   std::vector<std::string> pastedInto;  ///< the active application at each Command-V
 
   bool isTrusted() const override { return isPersonTrusting; }
@@ -347,7 +353,7 @@ struct FakeKeyEvents final : Fake<desktop::KeyEvents> {
   [[nodiscard]] desktop::Delivery deliveryTo(
       const std::optional<desktop::RunningApplication>& target) {
     using desktop::Delivery;
-    if (++presses == declinedPress) return Delivery::declined;
+    if (++presses == declinedPress) return declinedAs;
     if (!target) return Delivery::delivered;
     if (applications_.ended.contains(target->instance)) return Delivery::targetClosed;
     if (!applications_.isActive(*target)) return Delivery::declined;

@@ -42,11 +42,19 @@ Lines splitAt(std::string line, const std::string& separator) {
 }
 
 using Field =
-    std::variant<bool*, int*, std::string*, std::chrono::milliseconds*, Outcome<bool>*,
+    std::variant<desktop::Delivery*, bool*, int*, std::string*, std::chrono::milliseconds*, Outcome<bool>*,
                  std::optional<Copy>*, std::optional<Error>*, desktop::PresenceCapability*,
                  desktop::Biometry*, std::optional<desktop::RunningApplication>*,
                  std::optional<desktop::InstalledApplication>*>;
 
+void set(desktop::Delivery& field, const std::string& value) {
+  using desktop::Delivery;
+  field = std::map<std::string, Delivery>{{"keyboard taken", Delivery::keyboardTaken},
+                                          {"keys held", Delivery::keysHeld},
+                                          {"not allowed", Delivery::notAllowed},
+                                          {"not written", Delivery::notWritten}}
+              .at(value);
+}
 void set(bool& field, const std::string& value) {
   field = value == "yes";
 }
@@ -109,11 +117,14 @@ void give(Story& d, const std::string& name, const std::string& value) {
       {"biometry", &d.presence.ofMachine},
       {"browser opens", &d.applications.browserOpens},
       {"chrome", &d.applications.chrome},
+      {"clipboard refuses", &d.pasteboard.refusal},
+      {"clipboard takes", &d.pasteboard.takes},
       {"clipboard reports changes", &d.pasteboard.reportsChanges},
       {"copied elsewhere", &d.keys.copiedElsewhere},
       {"copy takes", &d.keys.copyTime},
       {"creation cancelled", &d.keyStore.cancelsCreation},
       {"creation fails", &d.keyStore.createFailure},
+      {"declined as", &d.keys.declinedAs},
       {"declined press", &d.keys.declinedPress},
       {"desktop advice", &d.words.advice},
       {"default browser", &d.applications.defaultBrowser},

@@ -64,7 +64,7 @@ void ClipboardKeeper::keep(const desktop::PasteboardContent& content) const {
   if (!endsInTime(*process)) kill(*process, SIGKILL);
   int status = 0;
   if (waitpid(*process, &status, 0) != *process || status != 0)
-    fail("the desktop did not accept it. Try again; if that does not help, log out and in.");
+    fail("the desktop did not accept it. If it never does, log out and in.");
 }
 
 }  // namespace quillseal::linux

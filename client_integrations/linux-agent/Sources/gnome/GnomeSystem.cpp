@@ -35,9 +35,9 @@ GnomeSystem::GnomeSystem(PortalSystem::Access access, const Services& services)
       keys_({.loop = services.loop,
              .remote = remote_,
              .applications = applications_,
+             .pasteboard = pasteboard_,
              .isHotkeyHeld = [this] { return mayHotkeyBeHeld(); },
              .isKeyboardTaken = [] { return false; },
-             .isWritten = [this] { return pasteboard_.isWritten(); },
              .explain = services.explain,
              .tell = services.tell}) {
   access_.bus->serve(services.loop, services.descriptors);

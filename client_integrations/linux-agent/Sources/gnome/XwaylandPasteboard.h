@@ -28,7 +28,7 @@ class XwaylandPasteboard : public QtPasteboard {
 
   /// Whether programs would paste what was written last. Where the extension does not answer, only
   /// Xwayland is asked.
-  [[nodiscard]] bool isWritten() const;
+  [[nodiscard]] bool isWritten() const override;
 
  private:
   [[nodiscard]] std::optional<std::uint32_t> changes() const;

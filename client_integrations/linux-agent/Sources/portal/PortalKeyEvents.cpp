@@ -58,19 +58,25 @@ desktop::Ticket PortalKeyEvents::press(desktop::KeyPress press,
                                        std::function<void()> aboutToPress,
                                        std::function<void(Delivery)> done) {
   Wish wish{.press = press, .target = target, .aboutToPress = std::move(aboutToPress)};
-  return runTask<Delivery>(services_.loop, deliver(std::move(wish)), std::move(done));
+  return runTask<Delivery>(services_.loop, deliverOrExplain(std::move(wish)), std::move(done));
+}
+
+Task<Delivery> PortalKeyEvents::deliverOrExplain(Wish wish) {
+  const Delivery delivery = co_await deliver(std::move(wish));
+  if (delivery == Delivery::notAllowed) services_.explain();
+  co_return delivery;
 }
 
 Task<Delivery> PortalKeyEvents::deliver(Wish wish) {
   if (!wish.target && wish.press.key != Key::c) co_return Delivery::declined;
-  const bool mayPress = co_await isReady();
-  if (!mayPress) co_return Delivery::declined;
+  const Delivery ready = co_await readiness();
+  if (ready != Delivery::delivered) co_return ready;
   if (wish.press.key == Key::v) co_await sleep(services_.loop, clipboardPropagation);
   const auto end = services_.loop.now() + targetPatience;
   while (deliveryNow(wish) != Delivery::delivered && services_.loop.now() < end)
     co_await sleep(services_.loop, polling);
   const bool isReleased = co_await isHotkeyReleased();
-  if (!isReleased) co_return Delivery::declined;
+  if (!isReleased) co_return Delivery::keysHeld;
   const Delivery delivery = co_await latestDelivery(wish);
   if (delivery != Delivery::delivered) co_return delivery;
   if (wish.aboutToPress) wish.aboutToPress();
@@ -78,27 +84,23 @@ Task<Delivery> PortalKeyEvents::deliver(Wish wish) {
   co_return Delivery::delivered;
 }
 
-/// Opens the session that the user allows without being asked, if there is none.
-Task<bool> PortalKeyEvents::isReady() {
-  if (services_.remote.isOpen()) co_return true;
+/// Opens the session that the user allows without being asked, if there is none. Returns why no key
+/// can be pressed, if so.
+Task<Delivery> PortalKeyEvents::readiness() {
+  if (services_.remote.isOpen()) co_return Delivery::delivered;
   const auto start = services_.loop.now();
   const bool isOpen = co_await completionOf<bool>(
       [this](std::function<void(bool)> done) { return services_.remote.open(std::move(done)); });
-  if (!isOpen) services_.explain();
-  if (!isOpen || services_.loop.now() > start + longestUnasked) co_return false;
+  if (!isOpen) co_return Delivery::notAllowed;
+  if (services_.loop.now() > start + longestUnasked) co_return Delivery::keyboardTaken;
   co_await sleep(services_.loop, firstReport);
-  co_return true;
+  co_return Delivery::delivered;
 }
 
 Task<bool> PortalKeyEvents::isHotkeyReleased() {
   const auto end = services_.loop.now() + releasePatience;
   while (services_.isHotkeyHeld()) {
-    if (services_.loop.now() > end) {
-      services_.tell(
-          "Quillseal pressed no key, because the keys of the hotkey were still held. Press the "
-          "hotkey again, and let go of it.");
-      co_return false;
-    }
+    if (services_.loop.now() > end) co_return false;
     co_await sleep(services_.loop, polling);
   }
   co_return true;
@@ -106,7 +108,7 @@ Task<bool> PortalKeyEvents::isHotkeyReleased() {
 
 /// Decides on the latest state of the windows, since the other questions take time.
 Task<Delivery> PortalKeyEvents::latestDelivery(const Wish& wish) {
-  if (wish.target && services_.isKeyboardTaken()) co_return Delivery::declined;
+  if (wish.target && services_.isKeyboardTaken()) co_return Delivery::keyboardTaken;
   if (services_.catchUp) {
     co_await completionOf<void>(
         [this](std::function<void()> done) { return services_.catchUp(std::move(done)); });
@@ -116,13 +118,12 @@ Task<Delivery> PortalKeyEvents::latestDelivery(const Wish& wish) {
 
 /// Returns whether a key pressed now would reach the target.
 Delivery PortalKeyEvents::deliveryNow(const Wish& wish) const {
-  if (!services_.remote.isOpen()) return Delivery::declined;
+  if (!services_.remote.isOpen()) return Delivery::notAllowed;
   if (!wish.target) return Delivery::delivered;
-  const bool isPaste = wish.press.key == Key::v;
-  if (isPaste && services_.isWritten && !services_.isWritten()) return Delivery::declined;
-  if (!services_.applications.isActive(*wish.target)) return Delivery::declined;
+  if (wish.press.key == Key::v && !services_.pasteboard.isWritten()) return Delivery::notWritten;
   const auto front = services_.applications.frontmost();
   if (!front || front->instance != wish.target->instance) return Delivery::declined;
+  if (!services_.applications.isActive(*wish.target)) return Delivery::keyboardTaken;
   if (!isSameDocument(wish.target->document, front->document)) return Delivery::documentChanged;
   return Delivery::delivered;
 }

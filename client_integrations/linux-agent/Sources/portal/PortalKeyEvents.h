@@ -8,6 +8,7 @@
 #include "desktop/Applications.h"
 #include "desktop/KeyEvents.h"
 #include "desktop/MainLoop.h"
+#include "desktop/Pasteboard.h"
 #include "portal/PortalRemote.h"
 
 namespace quillseal::linux {
@@ -24,6 +25,7 @@ class PortalKeyEvents : public desktop::KeyEvents {
     desktop::MainLoop& loop;
     PortalRemote& remote;
     const desktop::Applications& applications;
+    const desktop::Pasteboard& pasteboard;
     /// Whether the user may still hold the keys of the hotkey.
     std::function<bool()> isHotkeyHeld;
     /// Whether the screen lock or the like takes the keys from a window that still counts as
@@ -31,8 +33,6 @@ class PortalKeyEvents : public desktop::KeyEvents {
     std::function<bool()> isKeyboardTaken;
     /// Calls back once the state of the windows is the latest; empty where it always is.
     std::function<desktop::Ticket(std::function<void()>)> catchUp{};
-    /// Whether programs would paste what was last written; empty where that is so at once.
-    std::function<bool()> isWritten{};
     /// Tells the user why keys cannot be pressed in this session.
     std::function<void()> explain;
     /// Tells the user something in a notification.
@@ -57,7 +57,8 @@ class PortalKeyEvents : public desktop::KeyEvents {
   };
 
   [[nodiscard]] Task<desktop::Delivery> deliver(Wish wish);
-  [[nodiscard]] Task<bool> isReady();
+  [[nodiscard]] Task<desktop::Delivery> deliverOrExplain(Wish wish);
+  [[nodiscard]] Task<desktop::Delivery> readiness();
   [[nodiscard]] Task<bool> isHotkeyReleased();
   [[nodiscard]] Task<desktop::Delivery> latestDelivery(const Wish& wish);
   [[nodiscard]] desktop::Delivery deliveryNow(const Wish& wish) const;

@@ -241,6 +241,7 @@ struct PortalPasteboard::State {
   std::uint64_t owner = 0;  ///< changes with the owner, also where there is none
   bool isOwner = false;     ///< whether that is the agent, with what was last written
   std::vector<std::string> formats{};
+  desktop::Ticket opening{};
   std::int64_t changeCount = 0;
   std::map<std::uint64_t, std::function<void()>> watches{};
   std::uint64_t lastWatch = 0;
@@ -313,12 +314,14 @@ void PortalPasteboard::write(const desktop::PasteboardContent& content) {
                        Portal::append(*call, {{"mime_types", offeredFormats()}}) &&
                        state_->services.portal.bus().send(*call) != nullptr;
   if (isTaken) return state_->change();
+  // The user may try again. Where the session has ended, there is another by then.
+  state_->opening = state_->services.remote.open([](bool) {});
   state_->written = std::move(before);
   throw Error({.domain = "PortalPasteboard",
                .code = 1,
                .description =
-                   "The clipboard could not be written: your desktop did not take the signed text. "
-                   "Select your text and sign it again."});
+                   "The clipboard could not be written: your desktop did not take the signed "
+                   "text."});
 }
 
 bool PortalPasteboard::isWritten() const {

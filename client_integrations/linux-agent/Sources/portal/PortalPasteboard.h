@@ -56,7 +56,7 @@ class PortalPasteboard : public desktop::Pasteboard {
   void write(const desktop::PasteboardContent& content) override;
 
   /// Whether the desktop has taken what was last written, and nobody else has copied since.
-  [[nodiscard]] bool isWritten() const;
+  [[nodiscard]] bool isWritten() const override;
 
  private:
   struct State;

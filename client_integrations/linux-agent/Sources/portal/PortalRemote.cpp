@@ -21,6 +21,8 @@ constexpr std::uint32_t firstWithTokens = 2;  // a version of the interface
 constexpr const char* refusal =
     "Your desktop did not let Quillseal press keys or use the clipboard, so it cannot copy the "
     "text that you selected. Sign again, and allow it when the desktop asks.";
+constexpr const char* ending =
+    "Your desktop has ended the permission for Quillseal to press keys. Sign again to get it back.";
 constexpr const char* absence =
     "The portal of your desktop does not let Quillseal in. Install the Debian package of Quillseal "
     "if it is not installed, or start Quillseal again.";
@@ -166,6 +168,7 @@ void PortalRemote::finish(std::string obstacle) {
 
 void PortalRemote::closed() {
   session_ = nullptr;
+  obstacle_ = ending;
   if (std::exchange(state_, State::closed) == State::opening) {
     opening_.reset();
     finish(refusal);

@@ -44,7 +44,8 @@ class PortalRemote {
   /// there is a session in the end; dropping the ticket leaves the session alone.
   [[nodiscard]] desktop::Ticket open(std::function<void(bool)> done);
 
-  /// Why the last attempt failed and what to do, in sentences for the user; empty after a success.
+  /// Why there is no session after the last attempt and what to do, in sentences for the user;
+  /// empty while it is open, and before the first attempt.
   [[nodiscard]] const std::string& obstacle() const { return obstacle_; }
 
   /// The handle of the open session; empty when there is none.

@@ -66,6 +66,7 @@ PortalSystem::PortalSystem(Access access, const Services& services)
       keys_({.loop = services.loop,
              .remote = remote_,
              .applications = *applications_,
+             .pasteboard = *pasteboard_,
              .isHotkeyHeld = [this] { return isHotkeyHeld(); },
              .isKeyboardTaken =
                  [this] {
@@ -78,7 +79,6 @@ PortalSystem::PortalSystem(Access access, const Services& services)
                    done();
                    return desktop::Ticket();
                  },
-             .isWritten = isWritten_,
              .explain = services.explain,
              .tell = services.tell}) {
   access_.bus->serve(services.loop, services.descriptors);
@@ -101,13 +101,11 @@ std::unique_ptr<desktop::Applications> PortalSystem::makeApplications(const Serv
 
 std::unique_ptr<desktop::Pasteboard> PortalSystem::makePasteboard(const Services& services) {
   if (windows_ == nullptr) {
-    auto pasteboard = std::make_unique<PortalPasteboard>(
+    return std::make_unique<PortalPasteboard>(
         PortalPasteboard::Services{.loop = services.loop,
                                    .descriptors = services.descriptors,
                                    .portal = portal_,
                                    .remote = remote_});
-    isWritten_ = [&board = *pasteboard] { return board.isWritten(); };
-    return pasteboard;
   }
   return std::make_unique<WaylandPasteboard>(
       WaylandPasteboard::Services{.loop = services.loop,

@@ -63,7 +63,6 @@ class PortalSystem : public WindowingSystem, private OwnWindows {
   Portal portal_;
   PortalRemote remote_;
   std::unique_ptr<desktop::Applications> applications_;
-  std::function<bool()> isWritten_;  // empty where `write` waits for it
   std::unique_ptr<desktop::Pasteboard> pasteboard_;
   PortalHotkey hotkey_;
   LoadedShortcutSettings shortcuts_;

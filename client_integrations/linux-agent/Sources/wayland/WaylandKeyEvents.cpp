@@ -76,10 +76,11 @@ class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
     if (!wish_.target || !services_.connection.isAlive()) return Delivery::declined;
     const std::optional<WaylandWindow> window = services_.windows.withId(wish_.target->instance);
     if (!window) return Delivery::targetClosed;
-    if (!window->isActive) return Delivery::declined;
+    if (!window->isActive)
+      return services_.windows.active() ? Delivery::declined : Delivery::keyboardTaken;
     const std::string document = documentName({.title = window->title, .focus = 0});
     if (!isSameDocument(wish_.target->document, document)) return Delivery::documentChanged;
-    return services_.keyboard.reachesActiveWindow() ? Delivery::delivered : Delivery::declined;
+    return services_.keyboard.reachesActiveWindow() ? Delivery::delivered : Delivery::keyboardTaken;
   }
 
   void press() {

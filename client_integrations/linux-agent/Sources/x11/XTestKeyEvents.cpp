@@ -97,7 +97,7 @@ class XTestKeyEvents::Press : public std::enable_shared_from_this<Press> {
     if (std::ranges::find(keys, 0) != keys.end()) keys.clear();
     if (!keys.empty()) {
       services_.keyboard->release(heldKeys());
-      if (!services_.windows.releaseKeyboard()) return Delivery::declined;
+      if (!services_.windows.releaseKeyboard()) return Delivery::keyboardTaken;
     }
     // Time has passed, and the released keys may have switched windows.
     const Delivery delivery = deliveryNow();

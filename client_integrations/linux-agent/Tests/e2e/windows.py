@@ -182,7 +182,7 @@ class Windows(SharedWindows, WindowStory):
                 self.desktop.wait_for_window(re.escape(letter.file.name))
                 held.enter_context(self.x.holding_the_keyboard())
             self.desktop.wait_for_window(PASTE_YOURSELF)
-        self.assert_left_on_clipboard("something else is in front of the source")
+        self.assert_left_on_clipboard("something else has the keyboard")
         self.assert_untouched(letter, LETTER)
 
     def test_a_plain_shell_in_a_terminal_runs_nothing_of_the_block(self):

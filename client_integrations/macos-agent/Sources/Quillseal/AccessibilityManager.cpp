@@ -77,6 +77,12 @@ Task<std::optional<desktop::RunningApplication>> sourceInFront(Services services
 
 CopyOutcome outcomeOf(desktop::Delivery failure) {
   switch (failure) {
+    case desktop::Delivery::keyboardTaken:
+      return CopyOutcome::keyboardTaken;
+    case desktop::Delivery::keysHeld:
+      return CopyOutcome::keysHeld;
+    case desktop::Delivery::notAllowed:
+      return CopyOutcome::notAllowed;
     case desktop::Delivery::documentChanged:
       return CopyOutcome::documentChanged;
     case desktop::Delivery::targetClosed:

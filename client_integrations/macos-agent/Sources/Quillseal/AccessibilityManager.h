@@ -60,7 +60,10 @@ enum class CopyOutcome {
   noText,           ///< it holds no text, or only white space
   unreadable,       ///< the system may have kept this program from reading it
   secret,           ///< it was marked as a secret
-  declined,         ///< no key was pressed: something else than the source would have got it
+  declined,         ///< no key was pressed: another window than the source would have got it
+  keyboardTaken,    ///< no key was pressed: something else has the keyboard, as a menu may
+  keysHeld,         ///< no key was pressed: the keys of the hotkey were held for too long
+  notAllowed,       ///< no key was pressed: the desktop does not let it, as the user has been told
   documentChanged,  ///< no key was pressed: the source shows another document
   sourceClosed,     ///< no key was pressed: the source has ended
 };

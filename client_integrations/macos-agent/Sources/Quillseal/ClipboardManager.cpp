@@ -1,13 +1,20 @@
 #include "Quillseal/ClipboardManager.h"
 
+#include <chrono>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "core/tasks/Async.h"
 
 namespace quillseal::ClipboardManager {
 namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto longestWaitForClipboard = 1000ms;
+constexpr auto pollingInterval = 10ms;
 
 bool isTerminal(const desktop::RunningApplication& application) {
   return application.categories.find("TerminalEmulator") != std::string::npos;
@@ -17,6 +24,14 @@ Placement placementOf(desktop::Delivery delivery) {
   switch (delivery) {
     case desktop::Delivery::delivered:
       return Placement::pasted;
+    case desktop::Delivery::keyboardTaken:
+      return Placement::keyboardTaken;
+    case desktop::Delivery::keysHeld:
+      return Placement::keysHeld;
+    case desktop::Delivery::notAllowed:
+      return Placement::notAllowed;
+    case desktop::Delivery::notWritten:
+      return Placement::notOnClipboard;
     case desktop::Delivery::documentChanged:
       return Placement::documentChanged;
     case desktop::Delivery::targetClosed:
@@ -31,6 +46,14 @@ std::string_view reasonOf(Placement placement) {
   switch (placement) {
     case Placement::sourceNotInFront:
       return "something else is in front of the source";
+    case Placement::keyboardTaken:
+      return "something else has the keyboard";
+    case Placement::keysHeld:
+      return "the keys of the hotkey are held";
+    case Placement::notAllowed:
+      return "the desktop lets no key be pressed";
+    case Placement::leftLate:
+      return "the clipboard took it late";
     case Placement::documentChanged:
       return "the source shows another document";
     case Placement::sourceClosed:
@@ -42,6 +65,15 @@ std::string_view reasonOf(Placement placement) {
     default:
       return "source app is the signing browser";
   }
+}
+
+/// Whether the desktop takes what was written.
+Task<bool> isTaken(Services services) {
+  for (auto looks = longestWaitForClipboard / pollingInterval; looks > 0; --looks) {
+    if (services.pasteboard.isWritten()) co_return true;
+    co_await sleep(services.loop, pollingInterval);
+  }
+  co_return services.pasteboard.isWritten();
 }
 
 Task<Placement> paste(Services services, const std::optional<desktop::RunningApplication>& source) {
@@ -58,19 +90,32 @@ Task<Placement> paste(Services services, const std::optional<desktop::RunningApp
   co_return placementOf(delivery);
 }
 
+Injected notOnClipboard(const Services& services, std::string cause) {
+  services.log.write("[inject] the clipboard did not take the signed block" +
+                     (cause.empty() ? std::string() : ": " + cause));
+  return {.placement = Placement::notOnClipboard, .cause = std::move(cause)};
+}
+
 }  // namespace
 
-Task<Placement> injectSignedContent(Services services, Injection injection,
-                                    const CapturedContent& content) {
+Task<Injected> injectSignedContent(Services services, Injection injection,
+                                   const CapturedContent& content) {
   const SignedBlock::Fields fields{.signatureId = injection.signatureId,
                                    .text = content.plainText,
                                    .html = content.htmlContent,
                                    .issued = injection.issuedDate,
                                    .scope = injection.scope,
                                    .server = injection.server};
-  services.pasteboard.write(
-      {.plainText = SignedBlock::plainText(fields), .html = SignedBlock::htmlDocument(fields)});
-  Placement placement = Placement::leftAsAsked;
+  try {
+    services.pasteboard.write(
+        {.plainText = SignedBlock::plainText(fields), .html = SignedBlock::htmlDocument(fields)});
+  } catch (const Error& error) {
+    co_return notOnClipboard(services, error.what());
+  }
+  const bool isOnClipboard = co_await isTaken(services);
+  if (!isOnClipboard) co_return notOnClipboard(services, {});
+  Placement placement =
+      injection.autoPaste == AutoPaste::no ? Placement::leftAsAsked : Placement::leftLate;
   std::optional<std::string> obstacle;
   if (injection.autoPaste == AutoPaste::yes) {
     try {
@@ -80,10 +125,11 @@ Task<Placement> injectSignedContent(Services services, Injection injection,
     }
   }
   if (!obstacle) {
+    if (placement == Placement::notOnClipboard) co_return notOnClipboard(services, {});
     if (placement != Placement::pasted)
       services.log.write("[inject] signed block left on the clipboard; " +
                          std::string(reasonOf(placement)));
-    co_return placement;
+    co_return Injected{.placement = placement, .cause = {}};
   }
   throw Error(
       {.domain = "Quillseal",

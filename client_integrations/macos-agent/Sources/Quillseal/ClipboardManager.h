@@ -24,7 +24,11 @@ struct Services {
   desktop::Pasteboard& pasteboard;
 };
 
-enum class AutoPaste { no, yes };
+enum class AutoPaste {
+  no,
+  yes,
+  tooLate,  ///< not, since the person has been elsewhere meanwhile
+};
 
 struct Injection {
   std::string signatureId;
@@ -38,18 +42,29 @@ struct Injection {
 enum class Placement {
   pasted,
   leftAsAsked,       ///< AutoPaste::no
-  sourceNotInFront,  ///< something else than the source would have got it
+  leftLate,          ///< AutoPaste::tooLate
+  notOnClipboard,    ///< nor in the source: the desktop did not take it
+  sourceNotInFront,  ///< another window than the source would have got it
+  keyboardTaken,     ///< something else has the keyboard, as a menu or the screen lock may
+  keysHeld,          ///< the person still held the keys of the hotkey
+  notAllowed,        ///< the desktop does not let this program press keys
   documentChanged,   ///< the source shows another document than the one that was signed in
   sourceClosed,
   sourceUnknown,  ///< the desktop did not say where the text came from, and did not take the keys
   terminal,       ///< whose shell would run the block's lines as commands
 };
 
+struct Injected {
+  Placement placement = Placement::pasted;
+  std::string cause;  ///< of `notOnClipboard`, in a sentence for the user; empty when not known
+};
+
 /// Replaces the clipboard by the signed block and, if asked, brings the source application to the
-/// front and pastes there; never into anything else that the desktop can tell from it.
-/// Throws Error when the clipboard cannot be taken (nothing is written or pressed then), or when it
-/// holds the block but the paste failed. REQUIRES: SignedBlock::isSafeIdentifier(signatureId).
-[[nodiscard]] Task<Placement> injectSignedContent(Services services, Injection injection,
-                                                  const CapturedContent& content);
+/// front and pastes there; never into anything else that the desktop can tell from it. Waits up to
+/// a second for the desktop to take the block, and presses no key before that.
+/// Throws Error when the clipboard holds the block but the paste failed.
+/// REQUIRES: SignedBlock::isSafeIdentifier(signatureId).
+[[nodiscard]] Task<Injected> injectSignedContent(Services services, Injection injection,
+                                                 const CapturedContent& content);
 
 }  // namespace quillseal::ClipboardManager

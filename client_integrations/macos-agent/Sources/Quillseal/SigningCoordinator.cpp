@@ -81,6 +81,10 @@ bool isSet(const std::optional<std::string>& text) {
   return text && !text->empty();
 }
 
+constexpr const char* anotherHasKeyboard =
+    "something else has the keyboard, such as an open menu, a question of the desktop or the "
+    "screen lock";
+
 /// Why there is nothing to sign.
 desktop::Alert alertWithoutText(AccessibilityManager::CopyOutcome outcome,
                                 const desktop::Wording& words) {
@@ -89,6 +93,12 @@ desktop::Alert alertWithoutText(AccessibilityManager::CopyOutcome outcome,
   switch (outcome) {
     case CopyOutcome::declined:
       reason = "another window came to the front before the text was copied";
+      break;
+    case CopyOutcome::keyboardTaken:
+      reason = anotherHasKeyboard;
+      break;
+    case CopyOutcome::keysHeld:
+      reason = "the keys of " + words.hotkey + " were held for too long";
       break;
     case CopyOutcome::documentChanged:
       reason = "the window showed another document or tab before the text was copied";
@@ -125,6 +135,22 @@ desktop::Alert alertToPaste(ClipboardManager::Placement placement,
       steps = switchBack + name + selectAndPaste +
               "Quillseal did not paste it for you: another window is in front, so it would land in "
               "the wrong place.";
+      break;
+    case Placement::keyboardTaken:
+      steps = switchBack + name + selectAndPaste +
+              "Quillseal did not paste it for you: " + anotherHasKeyboard + ".";
+      break;
+    case Placement::keysHeld:
+      steps = switchBack + name + selectAndPaste +
+              "Quillseal did not paste it for you, because the keys of the hotkey were still held.";
+      break;
+    case Placement::notAllowed:
+      steps = switchBack + name + selectAndPaste +
+              "Quillseal did not paste it for you: your desktop does not let it press keys.";
+      break;
+    case Placement::leftLate:
+      steps = switchBack + name + selectAndPaste +
+              "Quillseal did not paste it for you: another window may be in front by now.";
       break;
     case Placement::documentChanged:
       steps = switchBack + name + selectAndPaste +
@@ -258,7 +284,8 @@ Task<std::optional<CapturedContent>> SigningCoordinator::captureSelection() {
   AccessibilityManager::Capture capture =
       co_await AccessibilityManager::captureSelectedContent(services);
   lock.reset();
-  if (!capture.content) {
+  const bool isExplained = capture.outcome == AccessibilityManager::CopyOutcome::notAllowed;
+  if (!capture.content && !isExplained) {
     desktop::Alert alert = alertWithoutText(capture.outcome, desktop_.words.current());
     co_await showAlert(std::move(alert.title), std::move(alert.body));
   }
@@ -397,19 +424,29 @@ Task<std::optional<std::string>> SigningCoordinator::demonstrate(Signable signab
 
 Task<> SigningCoordinator::deliver(Delivery delivery, const CapturedContent& content) {
   AsyncMutex::Lock lock = co_await clipboard_.lock();
-  const auto placement =
-      co_await inject(std::move(delivery), content, ClipboardManager::AutoPaste::yes);
+  ClipboardManager::Injected injected =
+      co_await inject(delivery, content, ClipboardManager::AutoPaste::yes);
   lock.reset();
-  co_await tellOfSuccess(placement, content.sourceApplication);
+  co_await tellOfSuccess(std::move(injected), std::move(delivery), content);
 }
 
-Task<> SigningCoordinator::tellOfSuccess(ClipboardManager::Placement placement,
-                                         const std::optional<desktop::RunningApplication>& source) {
-  if (placement == ClipboardManager::Placement::pasted) {
+/// Offers to copy the block again for as long as it is nowhere.
+Task<> SigningCoordinator::tellOfSuccess(ClipboardManager::Injected injected, Delivery delivery,
+                                         const CapturedContent& content) {
+  using ClipboardManager::Placement;
+  while (injected.placement == Placement::notOnClipboard) {
+    const bool mayTryAgain = co_await asksToCopyAgain(std::move(injected.cause));
+    if (!mayTryAgain) co_return;
+    AsyncMutex::Lock lock = co_await clipboard_.lock();
+    injected = co_await inject(delivery, content, ClipboardManager::AutoPaste::tooLate);
+    lock.reset();
+  }
+  if (injected.placement == Placement::pasted) {
     notifyOfSuccess();
     co_return;
   }
-  desktop::Alert alert = alertToPaste(placement, source, desktop_.words.current().pasteKey);
+  desktop::Alert alert = alertToPaste(injected.placement, content.sourceApplication,
+                                      desktop_.words.current().pasteKey);
   co_await showAlert(std::move(alert.title), std::move(alert.body));
 }
 
@@ -426,8 +463,9 @@ void SigningCoordinator::notify(const desktop::Notification& notification) {
 }
 
 /// The caller holds `clipboard_`.
-Task<ClipboardManager::Placement> SigningCoordinator::inject(
-    Delivery delivery, const CapturedContent& content, ClipboardManager::AutoPaste autoPaste) {
+Task<ClipboardManager::Injected> SigningCoordinator::inject(Delivery delivery,
+                                                            const CapturedContent& content,
+                                                            ClipboardManager::AutoPaste autoPaste) {
   const ClipboardManager::Services services{.applications = desktop_.applications,
                                             .keys = desktop_.keys,
                                             .log = desktop_.log,
@@ -438,9 +476,9 @@ Task<ClipboardManager::Placement> SigningCoordinator::inject(
                                         .scope = std::move(delivery.scope),
                                         .server = serverClient_.effectiveServerURL(),
                                         .autoPaste = autoPaste};
-  const auto placement =
+  ClipboardManager::Injected injected =
       co_await ClipboardManager::injectSignedContent(services, std::move(injection), content);
-  co_return placement;
+  co_return injected;
 }
 
 Task<> SigningCoordinator::showAlert(std::string title, std::string body) {
@@ -461,11 +499,33 @@ Task<> SigningCoordinator::showAlertOrLog(std::string title, std::string body) {
 }
 
 Task<bool> SigningCoordinator::asksToSignAnyway(std::string warning) {
-  const desktop::Question question{.title = "Sign this anyway?",
-                                   .body = std::move(warning),
-                                   .style = desktop::AlertStyle::warning,
-                                   .confirm = "Sign Anyway",
-                                   .cancel = "Cancel"};
+  desktop::Question question{.title = "Sign this anyway?",
+                             .body = std::move(warning),
+                             .style = desktop::AlertStyle::warning,
+                             .confirm = "Sign Anyway",
+                             .cancel = "Cancel"};
+  const bool answer = co_await isConfirmed(std::move(question));
+  co_return answer;
+}
+
+Task<bool> SigningCoordinator::asksToCopyAgain(std::string cause) {
+  const std::string problem =
+      cause.empty() ? ": your desktop did not take it, or another program has copied since." : ".";
+  desktop::Question question{.title = "Signed — Not on Your Clipboard",
+                             .body =
+                                 "Your text is signed, but the signed content is not on your "
+                                 "clipboard" +
+                                 problem + (cause.empty() ? "" : "\n\n" + cause) +
+                                 "\n\nChoose Copy Again to try once more. If you close this "
+                                 "message instead, sign your text again when you need it.",
+                             .style = desktop::AlertStyle::warning,
+                             .confirm = "Copy Again",
+                             .cancel = "Close"};
+  const bool answer = co_await isConfirmed(std::move(question));
+  co_return answer;
+}
+
+Task<bool> SigningCoordinator::isConfirmed(desktop::Question question) {
   const auto answer = co_await completionOf<desktop::Answer>(
       [this, &question](std::function<void(desktop::Answer)> answered) {
         return desktop_.alerts.ask(question, std::move(answered));
@@ -842,11 +902,11 @@ Task<> SigningCoordinator::deliverFromBrowser(Delivery delivery, HandoffResult h
     desktop_.log.write("[tabreturn] signing tab closed, original tab restored");
   }
   // Elsewhere than in the original tab the paste would land in the signing tab.
-  const auto placement = co_await inject(
-      std::move(delivery), content,
+  ClipboardManager::Injected injected = co_await inject(
+      delivery, content,
       isRestored ? ClipboardManager::AutoPaste::yes : ClipboardManager::AutoPaste::no);
   lock.reset();
-  co_await tellOfSuccess(placement, source);
+  co_await tellOfSuccess(std::move(injected), std::move(delivery), content);
 }
 
 }  // namespace quillseal

@@ -160,16 +160,18 @@ class SigningCoordinator {
   Task<> deliver(Delivery delivery, const CapturedContent& content);
   Task<> deliverFromBrowser(Delivery delivery, HandoffResult handoff,
                             const CapturedContent& content);
-  [[nodiscard]] Task<ClipboardManager::Placement> inject(Delivery delivery,
-                                                         const CapturedContent& content,
-                                                         ClipboardManager::AutoPaste autoPaste);
-  Task<> tellOfSuccess(ClipboardManager::Placement placement,
-                       const std::optional<desktop::RunningApplication>& source);
+  [[nodiscard]] Task<ClipboardManager::Injected> inject(Delivery delivery,
+                                                        const CapturedContent& content,
+                                                        ClipboardManager::AutoPaste autoPaste);
+  Task<> tellOfSuccess(ClipboardManager::Injected injected, Delivery delivery,
+                       const CapturedContent& content);
   void notifyOfSuccess();
   void notify(const desktop::Notification& notification);
   Task<> showAlert(std::string title, std::string body);
   Task<> showAlertOrLog(std::string title, std::string body);
   Task<bool> asksToSignAnyway(std::string warning);
+  Task<bool> asksToCopyAgain(std::string cause);
+  Task<bool> isConfirmed(desktop::Question question);
 
   Task<> makeAndRegisterKey();
   Task<> registerDevice();

@@ -81,8 +81,9 @@ class PortalTest : public ::testing::Test {
                                            .catchUp =
                                                [this](std::function<void()> done) {
                                                  return loop.after({}, [this, done] {
-                                                   if (meanwhile) meanwhile();
-                                                   done();
+                                                   if (!meanwhile) return done();
+                                                   meanwhile();
+                                                   catchingUp = loop.after(200ms, done);
                                                  });
                                                },
                                            .explain = [this] { told += remote->obstacle(); },
@@ -155,6 +156,7 @@ class PortalTest : public ::testing::Test {
   std::function<void()> meanwhile;  ///< happens before the compositor has told its latest state
   std::string told;
   std::string activation;
+  desktop::Ticket catchingUp;
   std::optional<std::int64_t> changesBefore;  ///< of the clipboard, before the keys were pressed
   std::optional<ScriptedPortal> desk;
   std::unique_ptr<DesktopBus> bus;

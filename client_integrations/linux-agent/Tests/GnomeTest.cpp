@@ -7,13 +7,17 @@
 #include <gio/gio.h>
 #include <gmock/gmock.h>
 
+#include "BusServices.h"
 #include "Cases.h"
 #include "FakeDesktop.h"
+#include "PrivateBus.h"
+#include "TemporaryFolder.h"
 #include "core/text/Error.h"
 #include "core/text/UniqueHandle.h"
 #include "desktop/SigningHotkey.h"
 #include "gnome/GioShortcutSettings.h"
 #include "gnome/GnomeHotkey.h"
+#include "gnome/ShellExtension.h"
 
 namespace quillseal::linux {
 namespace {
@@ -91,6 +95,44 @@ TEST_F(GnomeShortcuts, TakeNoKeysFromAnother) {
   EXPECT_FALSE(settings.add(shortcut));
 }
 
+// GSettings chooses its backend once in a process, so this has a process of its own.
+TEST(GnomeShortcutsDeathTest, AreNotAddedToLockedSettings) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  const testing::TemporaryFolder home;
+  const auto profile = home.path() / "profile";
+  testing::overwrite(profile, "system-db:quillseal-none\n");  // and none that the user may write
+  const auto stateOrAdded = [&profile] {
+    ::setenv("GSETTINGS_BACKEND", "dconf", 1);
+    ::setenv("DCONF_PROFILE", profile.c_str(), 1);
+    GioShortcutSettings settings;
+    const auto state = static_cast<int>(settings.stateOf(shortcut));
+    return settings.add(shortcut) ? -1 : state;
+  };
+  EXPECT_EXIT(std::_Exit(stateOrAdded()),
+              ::testing::ExitedWithCode(static_cast<int>(ShortcutState::locked)), "");
+}
+
+// Extension ---------------------------------------------------------------------------------------
+
+TEST(ShellExtensionAdvice, SaysWhatIsTrueForTheVersion) {
+  const testing::PrivateBus sessionBus("DBUS_SESSION_BUS_ADDRESS");
+  const auto bus = DesktopBus::open();
+  EXPECT_EQ(ShellExtension(*bus).advice(), "");  // another desktop
+  for (const auto& [version, part] : {std::pair{"43.9", "enable the extension"},
+                                      {"49.1", "enable the extension"},
+                                      {"50.alpha", "up to 49, and yours is 50"},
+                                      {"", "enable the extension"}}) {
+    const testing::BusServices shell(
+        ::sd_bus_open_user, {"org.gnome.Shell"},
+        [said = version](sd_bus_message* call, const std::string& method, sd_bus_error* error) {
+          if (method == "Get" && *said != '\0')
+            return ::sd_bus_reply_method_return(call, "v", "s", said);
+          return ::sd_bus_error_set(error, "org.freedesktop.DBus.Error.UnknownMethod", "none");
+        });
+    EXPECT_THAT(ShellExtension(*bus).advice(), HasSubstr(part)) << version;
+  }
+}
+
 // Hotkey ------------------------------------------------------------------------------------------
 
 /// A user, whose keyboard settings are as the test says.
@@ -151,6 +193,7 @@ TEST(GnomeHotkeys, ArePressedOnceHoweverLongTheyAreHeld) {
 TEST(GnomeHotkeys, SayWhyThereAreNone) {
   const std::pair<ShortcutState, const char*> rows[] = {
       {ShortcutState::taken, "already uses Ctrl+Alt+Super+H"},
+      {ShortcutState::locked, "administrator has locked"},
       {ShortcutState::unsupported, "gives programs no hotkey"}};
   ScriptedUser user;
   for (const auto& [state, part] : rows) {

@@ -162,6 +162,9 @@ TEST_F(KwinKeys, ReachNoWindowBehindALockedScreenOrTheOverview) {
   EXPECT_TRUE(reaches());
   sessionBus.reset();  // and now nobody can tell
   EXPECT_FALSE(reaches());
+  KwinKeyboard withoutBus(*connection, nullptr);
+  withoutBus.prepare();
+  EXPECT_FALSE(withoutBus.reachesActiveWindow());
 }
 
 // Hotkey ------------------------------------------------------------------------------------------

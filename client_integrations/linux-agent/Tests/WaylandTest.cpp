@@ -10,6 +10,7 @@
 
 #include "Cases.h"
 #include "KeymapText.h"
+#include "PrivateBus.h"
 #include "RunUntil.h"
 #include "ScriptedCompositor.h"
 #include "core/text/Error.h"
@@ -68,7 +69,7 @@ struct Agent {
             ClipboardKeeper({std::move(keeper)}),
             {.silence = 300ms, .transfer = 2000ms, .largest = largest}),
         applications({.windows = windows, .entries = entries, .loop = loop}, nullptr),
-        keyboard(makeKeyboard(*connection, nullptr)),
+        keyboard(makeKeyboard(*connection, bus.get())),
         keys({.loop = loop,
               .connection = *connection,
               .windows = windows,
@@ -118,6 +119,9 @@ struct Agent {
   WaylandWindows windows;
   WaylandPasteboard pasteboard;
   WaylandApplications applications;
+  // KWin says there whether the screen is locked.
+  testing::PrivateBus sessionBus{"DBUS_SESSION_BUS_ADDRESS"};
+  std::unique_ptr<DesktopBus> bus = DesktopBus::open();
   std::unique_ptr<AgentKeyboard> keyboard;
   WaylandKeyEvents keys;
   int pressesAnnounced = 0;

@@ -110,10 +110,13 @@ bool isTakenByOwnShortcut(const std::vector<std::string>& paths, const std::stri
 
 ShortcutState GioShortcutSettings::stateOf(const CustomShortcut& shortcut) {
   const Settings list = settingsOf(mediaKeys);
-  if (list == nullptr || settingsOf(custom, ownPath) == nullptr) return ShortcutState::unsupported;
+  const Settings own = settingsOf(custom, ownPath);
+  if (list == nullptr || own == nullptr) return ShortcutState::unsupported;
   const std::vector<std::string> paths = textsOf(list.get(), customList);
   if (std::ranges::find(paths, ownPath) != paths.end()) return ShortcutState::present;
-  if (g_settings_is_writable(list.get(), customList) == FALSE) return ShortcutState::unsupported;
+  if (g_settings_is_writable(list.get(), customList) == FALSE ||
+      g_settings_is_writable(own.get(), "binding") == FALSE)
+    return ShortcutState::locked;
   const bool isTaken = isTakenByOwnShortcut(paths, shortcut.keys) ||
                        std::ranges::any_of(schemasWithKeys, [&](const char* id) {
                          return isTakenInSchema(id, shortcut.keys);

@@ -38,8 +38,12 @@ std::string quoted(const std::string& path) {
   return result + "'";
 }
 
-[[noreturn]] void fail(int code, const std::string& problem) {
-  throw Error({.domain = "GnomeHotkey", .code = code, .description = problem + " " + bindYourself});
+constexpr const char* askAdministrator =
+    "Ask the administrator for a shortcut that runs “quillseal --sign”. The menu item works in any "
+    "case.";
+
+[[noreturn]] void fail(int code, const std::string& problem, const char* advice = bindYourself) {
+  throw Error({.domain = "GnomeHotkey", .code = code, .description = problem + " " + advice});
 }
 
 }  // namespace
@@ -79,6 +83,11 @@ void GnomeHotkey::registerHotkey(desktop::KeyPress combination, std::function<vo
       return;
     case ShortcutState::taken:
       fail(1, "Another shortcut of your desktop already uses " + keys + ".");
+    case ShortcutState::locked:
+      fail(3,
+           "The administrator has locked the keyboard settings of your desktop, so Quillseal "
+           "cannot add its hotkey there.",
+           askAdministrator);
     case ShortcutState::unsupported:
       fail(2, "This desktop gives programs no hotkey.");
     case ShortcutState::missing:

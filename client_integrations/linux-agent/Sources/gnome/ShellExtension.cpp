@@ -1,5 +1,7 @@
 #include "gnome/ShellExtension.h"
 
+#include <cstdlib>
+
 #include "applications/ProcessExecutable.h"
 #include "applications/WindowDocument.h"
 
@@ -14,6 +16,20 @@ constexpr DesktopBus::Method method(const char* name) {
           .interface = "com.quillseal.FrontWindow1",
           .name = name};
 }
+
+/// The major version of the Shell; 0 when it does not say.
+int versionOfShell(DesktopBus& bus) {
+  const DesktopBus::Message answer = bus.call({.service = shell,
+                                               .path = "/org/gnome/Shell",
+                                               .interface = "org.freedesktop.DBus.Properties",
+                                               .name = "Get"},
+                                              "ss", shell, "ShellVersion");
+  const char* version = nullptr;
+  if (answer == nullptr || ::sd_bus_message_read(answer.get(), "v", "s", &version) <= 0) return 0;
+  return std::atoi(version);
+}
+
+constexpr int newestVersion = QUILLSEAL_NEWEST_SHELL;
 
 }  // namespace
 
@@ -43,11 +59,17 @@ std::optional<ShellFront> ShellExtension::front() const {
 
 std::string ShellExtension::advice() const {
   if (front() || !bus_.knows(shell).value_or(false)) return {};
-  return "On this desktop Quillseal does not see which window you write in, so it leaves the "
-         "signed text on the clipboard for you to paste. Log out and in again after installing "
-         "Quillseal, then enable the extension “Quillseal front window” in the Extensions "
-         "application: Quillseal then copies from the window you write in and pastes there, and "
-         "nowhere else.";
+  const std::string state =
+      "On this desktop Quillseal does not see which window you write in, so it leaves the signed "
+      "text on the clipboard for you to paste. ";
+  if (const int version = versionOfShell(bus_); version > newestVersion)
+    return state + "Its extension for GNOME Shell, with which it does, supports versions up to " +
+           std::to_string(newestVersion) + ", and yours is " + std::to_string(version) +
+           ". A newer Quillseal may bring one.";
+  return state +
+         "Log out and in again after installing Quillseal, then enable the extension “Quillseal "
+         "front window” in the Extensions application: Quillseal then copies from the window you "
+         "write in and pastes there, and nowhere else.";
 }
 
 void ShellExtension::activate(std::uint64_t window) const {

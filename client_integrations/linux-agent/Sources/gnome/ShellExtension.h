@@ -33,7 +33,8 @@ class ShellExtension {
   /// screen is locked, or the desktop is another one.
   [[nodiscard]] std::optional<ShellFront> front() const;
 
-  /// Says to enable it, in sentences for the user; empty where it answers, and on other desktops.
+  /// Says to enable it, or that there is none for this version of the Shell, in sentences for the
+  /// user; empty where it answers, and on other desktops.
   [[nodiscard]] std::string advice() const;
 
   /// Asks for the window to be brought to the front. Nothing happens when it has closed.

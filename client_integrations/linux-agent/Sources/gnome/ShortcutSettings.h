@@ -15,7 +15,8 @@ enum class ShortcutState {
   missing,
   present,      ///< the agent's shortcut is there, perhaps with other keys that the user chose
   taken,        ///< another shortcut uses the keys
-  unsupported,  ///< GNOME's settings are not installed, or locked by the administrator
+  locked,       ///< the administrator lets nobody add a shortcut
+  unsupported,  ///< GNOME's settings are not installed
 };
 
 /// GNOME's keyboard settings. Main thread. Every function throws Error when GIO is not there.

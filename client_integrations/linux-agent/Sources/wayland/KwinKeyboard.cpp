@@ -70,8 +70,7 @@ bool KwinKeyboard::isOfferedBy(const WaylandConnection& connection) {
 }
 
 void KwinKeyboard::prepare() {
-  if (bus_ == nullptr) return;
-  isCovered_ = isScreenLocked(*bus_) || isEffectTakingKeys(*bus_);
+  isCovered_ = bus_ == nullptr || isScreenLocked(*bus_) || isEffectTakingKeys(*bus_);
   layoutInUse_ = isCovered_ ? std::nullopt : layoutInUse(*bus_);
 }
 

@@ -16,7 +16,8 @@ namespace quillseal::linux {
 /// active layout, so keys that the user holds are released first.
 class KwinKeyboard : public AgentKeyboard {
  public:
-  /// Both outlive this object; `bus` is null where there is none.
+  /// Both outlive this object. Where `bus` is null nobody tells whether the screen is locked, and
+  /// so no window is reached.
   KwinKeyboard(WaylandConnection& connection, DesktopBus* bus);
   ~KwinKeyboard() override;
 

@@ -6,6 +6,7 @@
 
 #include "session/LoadedModule.h"
 #include "wayland/KwinHotkey.h"
+#include "wayland/KwinKeyboard.h"
 #include "wayland/SwayHotkey.h"
 #include "wayland/WaylandReach.h"
 
@@ -65,7 +66,12 @@ WaylandSystem::WaylandSystem(Access access, const Services& services)
 }
 
 std::string WaylandSystem::limits() const {
-  if (reachesApplications(*connection_)) return {};
+  if (reachesApplications(*connection_)) {
+    if (bus_ != nullptr || !KwinKeyboard::isOfferedBy(*connection_)) return {};
+    return "There is no session bus, on which KWin says whether the screen is locked. Not to press "
+           "keys behind a locked screen, Quillseal presses none, and so signs nothing in this "
+           "session. Log out and in again.";
+  }
   return "The desktop no longer answers, so Quillseal can neither read the selected text of other "
          "applications nor press keys there. Start Quillseal again.";
 }

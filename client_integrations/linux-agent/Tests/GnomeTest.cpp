@@ -1,7 +1,11 @@
+#include <atomic>
 #include <chrono>
+#include <cstdint>
 #include <cstdlib>
 #include <memory>
 #include <string>
+#include <thread>
+#include <utility>
 #include <vector>
 
 #include <gio/gio.h>
@@ -18,6 +22,7 @@
 #include "gnome/GioShortcutSettings.h"
 #include "gnome/GnomeHotkey.h"
 #include "gnome/ShellExtension.h"
+#include "session/DesktopBus.h"
 
 namespace quillseal::linux {
 namespace {
@@ -131,6 +136,35 @@ TEST(ShellExtensionAdvice, SaysWhatIsTrueForTheVersion) {
         });
     EXPECT_THAT(ShellExtension(*bus).advice(), HasSubstr(part)) << version;
   }
+}
+
+TEST(ShellExtensionTest, HoldsNothingUpWhileTheShellHangs) {
+  using std::chrono::milliseconds;
+  constexpr milliseconds pause{300};
+  const testing::PrivateBus daemon("DBUS_SESSION_BUS_ADDRESS");
+  std::atomic<bool> isHanging = true;
+  testing::BusServices shell(::sd_bus_open_user, {"org.gnome.Shell"},
+                             [&](sd_bus_message* call, const std::string& method, sd_bus_error*) {
+                               if (isHanging) return 1;
+                               if (method != "Front")
+                                 return ::sd_bus_reply_method_return(call, "b", 1);
+                               return ::sd_bus_reply_method_return(
+                                   call, "tbbssusu", std::uint64_t{7}, 1, 0, "", "", 0U, "", 0U);
+                             });
+  const auto bus = DesktopBus::open();
+  ASSERT_NE(bus, nullptr);
+  const ShellExtension extension(*bus, pause);
+  const auto begin = std::chrono::steady_clock::now();
+  for (int step = 0; step < 4; ++step) {
+    EXPECT_FALSE(extension.front());
+    EXPECT_FALSE(extension.activateApplication("browser.desktop"));
+    extension.activate(7);
+  }
+  EXPECT_LT(std::chrono::steady_clock::now() - begin, 2 * DesktopBus::patience);
+  isHanging = false;
+  std::this_thread::sleep_for(pause);
+  EXPECT_EQ(extension.front().value_or(ShellFront()).window, 7U);
+  EXPECT_EQ(extension.activateApplication("browser.desktop"), true);
 }
 
 // Hotkey ------------------------------------------------------------------------------------------

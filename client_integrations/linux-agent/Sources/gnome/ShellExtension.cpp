@@ -33,8 +33,20 @@ constexpr int newestVersion = QUILLSEAL_NEWEST_SHELL;
 
 }  // namespace
 
+template <typename... Arguments>
+DesktopBus::Message ShellExtension::ask(const char* name, const char* types,
+                                        Arguments... arguments) const {
+  const auto begin = std::chrono::steady_clock::now();
+  if (begin < silentUntil_) return nullptr;
+  DesktopBus::Message answer = bus_.call(method(name), types, arguments...);
+  const auto end = std::chrono::steady_clock::now();
+  // An error comes at once.
+  if (answer == nullptr && end - begin >= DesktopBus::patience) silentUntil_ = end + pause_;
+  return answer;
+}
+
 std::optional<ShellFront> ShellExtension::front() const {
-  const DesktopBus::Message answer = bus_.call(method("Front"), "");
+  const DesktopBus::Message answer = ask("Front", "");
   ShellFront front;
   int hasKeys = 0;
   int holdsModifiers = 0;
@@ -73,12 +85,11 @@ std::string ShellExtension::advice() const {
 }
 
 void ShellExtension::activate(std::uint64_t window) const {
-  static_cast<void>(bus_.call(method("Activate"), "t", window));
+  static_cast<void>(ask("Activate", "t", window));
 }
 
 std::optional<bool> ShellExtension::activateApplication(const std::string& desktopFile) const {
-  const DesktopBus::Message answer =
-      bus_.call(method("ActivateApplication"), "s", desktopFile.c_str());
+  const DesktopBus::Message answer = ask("ActivateApplication", "s", desktopFile.c_str());
   int isFound = 0;
   if (answer == nullptr || ::sd_bus_message_read(answer.get(), "b", &isFound) <= 0)
     return std::nullopt;

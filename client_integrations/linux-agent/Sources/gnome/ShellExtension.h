@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -22,12 +23,17 @@ struct ShellFront {
 };
 
 /// Client of the Shell extension "Quillseal front window". The extension answers only the process
-/// that owns the agent's name on the bus. Each call asks anew and takes at most a second. Main
-/// thread.
+/// that owns the agent's name on the bus. Each call asks anew and takes at most a second. After one
+/// that got no answer in time, the extension counts as not answering for a while, so that a Shell
+/// that hangs does not hold up every step of a signature. Main thread.
 class ShellExtension {
  public:
-  /// The bus outlives this object.
-  explicit ShellExtension(DesktopBus& bus) : bus_(bus) {}
+  static constexpr std::chrono::milliseconds usualPause{5000};
+
+  /// The bus outlives this object. `pause`: for how long nothing is asked after a call that got no
+  /// answer in time.
+  explicit ShellExtension(DesktopBus& bus, std::chrono::milliseconds pause = usualPause)
+      : bus_(bus), pause_(pause) {}
 
   /// Returns nothing where the extension does not answer: it is not installed or not enabled, the
   /// screen is locked, or the desktop is another one.
@@ -45,7 +51,13 @@ class ShellExtension {
   [[nodiscard]] std::optional<bool> activateApplication(const std::string& desktopFile) const;
 
  private:
+  template <typename... Arguments>
+  [[nodiscard]] DesktopBus::Message ask(const char* method, const char* types,
+                                        Arguments... arguments) const;
+
   DesktopBus& bus_;
+  std::chrono::milliseconds pause_;
+  mutable std::chrono::steady_clock::time_point silentUntil_;
 };
 
 }  // namespace quillseal::linux

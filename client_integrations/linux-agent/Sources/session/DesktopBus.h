@@ -39,6 +39,9 @@ class DesktopBus {
     const char* firstArgument;  ///< null when any will do
   };
 
+  /// How long a call waits for its answer.
+  static constexpr std::chrono::milliseconds patience{1000};
+
   /// Null where there is no session bus.
   [[nodiscard]] static std::unique_ptr<DesktopBus> open();
 
@@ -105,7 +108,6 @@ class DesktopBus {
 
  private:
   explicit DesktopBus(sd_bus* bus) : bus_(bus) {}
-  static constexpr std::chrono::milliseconds patience{1000};
   void processQueued();
   void process();
 

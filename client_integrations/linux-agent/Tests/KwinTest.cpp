@@ -42,7 +42,7 @@ class ScriptedKde : public testing::BusServices {
     bool answers = true;
     int granted = controlAltMetaH;  ///< 0 when the keys are refused
     std::string owner{};            ///< component that owns them
-    bool pressesMeanwhile = false;  ///< the user, while the keys are asked for
+    bool pressesMeanwhile = false;  ///< the user, while the screen lock is asked
   };
 
   explicit ScriptedKde(const Script& script)
@@ -52,7 +52,7 @@ class ScriptedKde : public testing::BusServices {
              "org.freedesktop.ScreenSaver"},
             [this, script](sd_bus_message* call, const std::string& method, sd_bus_error* error) {
               note(method);
-              if (script.pressesMeanwhile && method == "setShortcutKeys")
+              if (script.pressesMeanwhile && method == "GetActive")
                 emit(::sd_bus_message_get_bus(call), "globalShortcutPressed", "sign");
               return answer(script, call, method, error);
             }) {}
@@ -274,6 +274,12 @@ TEST_F(KwinBus, DeliversASignalThatCameWhileAnAnswerWasAwaited) {
   int presses = 0;
   KwinHotkey keys({.loop = loop, .bus = *bus});
   keys.registerHotkey(desktop::signingHotkey, [&] { ++presses; });
+  EXPECT_NE(bus->call({.service = "org.freedesktop.ScreenSaver",
+                       .path = "/",
+                       .interface = "org.freedesktop.ScreenSaver",
+                       .name = "GetActive"},
+                      ""),
+            nullptr);
   testing::runUntil(loop, [&] { return presses == 1; });
 }
 

@@ -6,8 +6,8 @@
 #include <optional>
 
 #include <gmock/gmock.h>
-#include <xkbcommon/xkbcommon-keysyms.h>
 
+#include "Cases.h"
 #include "FakeDesktop.h"
 #include "PrivateBus.h"
 #include "RunUntil.h"
@@ -169,163 +169,77 @@ class PortalTest : public ::testing::Test {
 
 using PortalKeys = PortalTest;
 
+/// A script from its fields in cases.jsonl.
+Script scriptOf(const testing::Json& fields) {
+  Script script;
+  script.offer.remoteDesktop = fields.value("version", script.offer.remoteDesktop);
+  script.answer = fields.value("answer", script.answer);
+  script.devices = fields.value("devices", script.devices);
+  script.allowsClipboard = fields.value("allowsClipboard", script.allowsClipboard);
+  script.token = fields.value("token", script.token);
+  script.knownToken = fields.value("knownToken", script.knownToken);
+  script.closesSession = fields.value("closesSession", script.closesSession);
+  script.isMalformed = fields.value("isMalformed", script.isMalformed);
+  script.keys = fields.value("keys", script.keys);
+  return script;
+}
+
 TEST_F(PortalKeys, NeedWhatTheUserAllowsAndRemembersIt) {
-  const struct {
-    const char* name;
-    Script script;
-    const char* token;
-    bool isOpen;
-    const char* tokenAfter;
-    Calls calls;
-  } rows[] = {
-      {"first time",
-       {},
-       "",
-       true,
-       "next",
-       {"Register com.quillseal.agent", "SelectDevices kept ", "RequestClipboard", "Start"}},
-      {"allowed before",
-       {},
-       "old",
-       true,
-       "next",
-       {"Register com.quillseal.agent", "SelectDevices kept old", "Start"}},
-      {"token not understood",
-       {.knownToken = "other"},
-       "old",
-       true,
-       "next",
-       {"Register com.quillseal.agent", "SelectDevices kept old", "Session.Close",
-        "SelectDevices kept ", "Start"}},
-      {"token outdated",
-       {.knownToken = "other", .closesSession = true},
-       "old",
-       true,
-       "next",
-       {"Register com.quillseal.agent", "SelectDevices kept old", "SelectDevices kept ", "Start"}},
-      {"no token any more",
-       {.token = ""},
-       "old",
-       true,
-       "",
-       {"Register com.quillseal.agent", "SelectDevices kept old", "Start"}},
-      {"refused",
-       {.answer = 1},
-       "old",
-       false,
-       "",
-       {"Register com.quillseal.agent", "Start", "Session.Close"}},
-      {"failed",
-       {.answer = 2},
-       "old",
-       false,
-       "old",
-       {"Register com.quillseal.agent", "Start", "Session.Close"}},
-      {"no keyboard",
-       {.devices = 2},
-       "",
-       false,
-       "",
-       {"Register com.quillseal.agent", "Start", "Session.Close"}},
-      {"no clipboard",
-       {.allowsClipboard = false},
-       "old",
-       false,
-       "",
-       {"Register com.quillseal.agent", "RequestClipboard", "Start", "Session.Close"}},
-      {"malformed", {.isMalformed = true}, "", false, "", {"CreateSession"}},
-      {"version 1",
-       {.offer = {.remoteDesktop = 1}, .token = ""},
-       "old",
-       true,
-       "",
-       {"Register com.quillseal.agent", "SelectDevices ", "Start"}},
-  };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.name);
-    begin(row.script, row.token);
-    EXPECT_EQ(keys->isTrusted(), *row.token != '\0' && row.script.offer.remoteDesktop > 1);
-    EXPECT_EQ(open(), row.isOpen);
-    EXPECT_EQ(storedToken(), row.tokenAfter);
+  for (const auto& [name, script, token, isTrusted, isOpen, tokenAfter, calls] :
+       testing::cases<std::string, testing::Json, std::string, bool, bool, std::string, Calls>()) {
+    SCOPED_TRACE(name);
+    begin(scriptOf(script), token);
+    EXPECT_EQ(keys->isTrusted(), isTrusted);
+    EXPECT_EQ(open(), isOpen);
+    EXPECT_EQ(storedToken(), tokenAfter);
     const auto mode = std::filesystem::status(tokenFile).permissions();
-    if (*row.tokenAfter != '\0') {
-      EXPECT_EQ(static_cast<int>(mode), 0600);
-    }
-    EXPECT_EQ(press(Key::c, {}), row.isOpen ? Delivery::delivered : Delivery::notAllowed);
-    EXPECT_EQ(pressed(), row.isOpen ? (Calls{"29+", "110+", "110-", "29-"}) : Calls{});
-    EXPECT_EQ(remote->obstacle().empty(), row.isOpen);
-    EXPECT_EQ(desk->calls().front(), row.calls.front());
-    auto from = desk->calls();
-    auto position = from.begin();
-    for (const std::string& call : row.calls) {
-      position = std::find(position, from.end(), call);
-      EXPECT_NE(position, from.end()) << call;
+    EXPECT_EQ(tokenAfter.empty() ? 0600 : static_cast<int>(mode), 0600);
+    EXPECT_EQ(press(Key::c, {}), isOpen ? Delivery::delivered : Delivery::notAllowed);
+    EXPECT_EQ(pressed(), isOpen ? (Calls{"29+", "110+", "110-", "29-"}) : Calls{});
+    EXPECT_EQ(remote->obstacle().empty(), isOpen);
+    const Calls made = desk->calls();
+    EXPECT_EQ(made.front(), calls.front());
+    auto position = made.begin();
+    for (const std::string& call : calls) {
+      position = std::find(position, made.end(), call);
+      EXPECT_NE(position, made.end()) << call;
     }
   }
 }
 
 TEST_F(PortalKeys, AreOnlyThoseThatDoNoHarmWhereverTheyGo) {
-  const desktop::RunningApplication editor{.instance = 1,
-                                           .name = {},
-                                           .bundleIdentifier = {},
-                                           .categories = {},
-                                           .document = documentName({.title = "a", .focus = 0})};
-  desktop::RunningApplication terminal = editor;
-  terminal.categories = "TerminalEmulator";
-  desktop::RunningApplication other = editor;
-  other.instance = 2;
-  desktop::RunningApplication otherDocument = editor;
-  otherDocument.document = documentName({.title = "b", .focus = 0});
-  using Application = std::optional<desktop::RunningApplication>;
-  const Calls copied{"29+", "110+", "110-", "29-"};
-  const Calls pasted{"42+", "110+", "110-", "42-"};
-  const std::string a = std::to_string(XKB_KEY_a);
-  const std::string c = std::to_string(XKB_KEY_c);
-  const struct {
-    const char* name;
-    Application target;
-    Application front;
-    Key key;
-    bool isHeld;
-    Delivery delivery;
-    Calls keys;
-  } rows[] = {
-      {"copy anywhere", {}, {}, Key::c, false, Delivery::delivered, copied},
-      {"select all anywhere", {}, {}, Key::a, false, Delivery::declined, {}},
-      {"paste anywhere", {}, {}, Key::v, false, Delivery::declined, {}},
-      {"hotkey held", {}, {}, Key::c, true, Delivery::keysHeld, {}},
-      {"copy", editor, editor, Key::c, false, Delivery::delivered, copied},
-      {"select all",
-       editor,
-       editor,
-       Key::a,
-       false,
-       Delivery::delivered,
-       {"29+", a + "+", a + "-", "29-"}},
-      {"paste", editor, editor, Key::v, false, Delivery::delivered, pasted},
-      {"other window", editor, other, Key::v, false, Delivery::declined, {}},
-      {"nothing in front", editor, {}, Key::v, false, Delivery::declined, {}},
-      {"other document", editor, otherDocument, Key::v, false, Delivery::documentChanged, {}},
-      {"copy in a terminal",
-       terminal,
-       terminal,
-       Key::c,
-       false,
-       Delivery::delivered,
-       {"29+", "42+", c + "+", c + "-", "42-", "29-"}},
-      {"paste in a terminal", terminal, terminal, Key::v, false, Delivery::delivered, {}},
+  const auto application = [](std::uint64_t instance, std::string categories, std::string title) {
+    return desktop::RunningApplication{
+        .instance = instance,
+        .name = {},
+        .bundleIdentifier = {},
+        .categories = std::move(categories),
+        .document = documentName({.title = std::move(title), .focus = 0})};
   };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.name);
+  const std::map<std::string, std::optional<desktop::RunningApplication>> known{
+      {"none", {}},
+      {"editor", application(1, "", "a")},
+      {"another document", application(1, "", "b")},
+      {"another window", application(2, "", "a")},
+      {"terminal", application(1, "TerminalEmulator", "a")}};
+  const std::map<std::string, Key> letters{{"copy", Key::c}, {"paste", Key::v}, {"all", Key::a}};
+  const std::map<std::string, Delivery> outcomes{{"delivered", Delivery::delivered},
+                                                 {"declined", Delivery::declined},
+                                                 {"another document", Delivery::documentChanged},
+                                                 {"keys held", Delivery::keysHeld}};
+  for (const auto& [target, front, key, held, delivery, keysPressed] :
+       testing::cases<std::string, std::string, std::string, bool, std::string, Calls>()) {
+    SCOPED_TRACE(target + " " + front + " " + key);
     begin({});
     ASSERT_TRUE(open());
-    applications.front = applications.active = row.front;
-    if (row.key == Key::v) offerBlock();
-    isHeld = row.isHeld;
-    EXPECT_EQ(press(row.key, row.target), row.delivery);
-    EXPECT_EQ(pressed(), row.keys);
-    EXPECT_EQ(changesBefore.has_value(), row.delivery == Delivery::delivered);
+    applications.front = applications.active = known.at(front);
+    if (key == "paste") offerBlock();
+    isHeld = held;
+    EXPECT_EQ(press(letters.at(key), known.at(target)), outcomes.at(delivery));
+    EXPECT_EQ(pressed(), keysPressed);
+    EXPECT_EQ(changesBefore.has_value(), delivery == "delivered");
   }
+  const auto terminal = known.at("terminal");
   isTaken = true;  // by the screen lock
   EXPECT_EQ(press(Key::v, terminal), Delivery::keyboardTaken);
   isTaken = false;
@@ -336,7 +250,7 @@ TEST_F(PortalKeys, AreOnlyThoseThatDoNoHarmWhereverTheyGo) {
   testing::runUntil(loop, [&] { return !pasteboard->isWritten(); });
   EXPECT_EQ(press(Key::v, terminal), Delivery::notWritten);
   offerBlock();
-  meanwhile = [&] { applications.front = applications.active = other; };
+  meanwhile = [&] { applications.front = applications.active = known.at("another window"); };
   EXPECT_EQ(press(Key::v, terminal), Delivery::declined);
   meanwhile = [&] { desk->emit("Session", "Closed", ""); };
   applications.front = applications.active = terminal;
@@ -504,25 +418,16 @@ TEST_F(PortalHotkeys, AreBoundAgainWhenTheDesktopEndsThemOnce) {
 }
 
 TEST_F(PortalHotkeys, AreNamedAsTheDesktopBoundThem) {
-  const struct {
-    const char* name;
-    Script script;
-    const char* otherKeys;
-    const char* told;
-  } rows[] = {{"as asked", {}, "", ""},
-              {"in other words", {.keys = "Ctrl+Alt+Meta+H"}, "", ""},
-              {"others", {.keys = "Ctrl+Shift+H"}, "Ctrl+Shift+H", ""},
-              {"refused", {.answer = 1}, "", "quillseal --sign"},
-              {"malformed", {.isMalformed = true}, "", "start Quillseal again"}};
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.name);
-    begin(row.script);
+  for (const auto& [name, script, otherKeys, part] :
+       testing::cases<std::string, testing::Json, std::string, std::string>()) {
+    SCOPED_TRACE(name);
+    begin(scriptOf(script));
     hotkey->registerHotkey(desktop::signingHotkey, [] {});
     testing::runUntil(loop, [&] { return !told.empty() || desk->hasCall("BindShortcuts"); });
     settle();
-    EXPECT_EQ(hotkey->otherKeys(), row.otherKeys);
-    EXPECT_THAT(told, HasSubstr(row.told));
-    EXPECT_EQ(told.empty(), *row.told == '\0');
+    EXPECT_EQ(hotkey->otherKeys(), otherKeys);
+    EXPECT_THAT(told, HasSubstr(part));
+    EXPECT_EQ(told.empty(), part.empty());
     if (!told.empty()) continue;
     desk->emit("GlobalShortcuts", "ShortcutsChanged", "oa(sa{sv})", ScriptedPortal::session, 1,
                "sign", 1, "trigger_description", "s", "Ctrl+J");

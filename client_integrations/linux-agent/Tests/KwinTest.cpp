@@ -71,31 +71,27 @@ class ScriptedKde : public testing::BusServices {
 
   static int answer(const Script& script, sd_bus_message* call, const std::string& method,
                     sd_bus_error* error) {
+    const auto reply = [&](const char* types, auto... values) {
+      return ::sd_bus_reply_method_return(call, types, values...);
+    };
     if (!script.answers) return 1;
-    if (method == "GetActive")
-      return ::sd_bus_reply_method_return(call, "b", static_cast<int>(script.isLocked));
+    if (method == "GetActive") return reply("b", static_cast<int>(script.isLocked));
     if (method == "Get" && script.effect != nullptr)
-      return ::sd_bus_reply_method_return(call, "v", "as", 2, "zoom", script.effect);
-    if (method == "getLayout" && script.layout)
-      return ::sd_bus_reply_method_return(call, "u", *script.layout);
+      return reply("v", "as", 2, "zoom", script.effect);
+    if (method == "getLayout" && script.layout) return reply("u", *script.layout);
     if (method == "setShortcutKeys") {
       std::uint32_t flags = 0;
       ::sd_bus_message_skip(call, "asa(ai)");
       ::sd_bus_message_read(call, "u", &flags);
       // KDE's NoAutoloading, which replaces the keys that the user has chosen.
       if ((flags & 4U) != 0) return ::sd_bus_error_set(error, "org.example.Overwritten", "");
+      if (script.granted == 0) return reply("a(ai)", 1, 4, 0, 0, 0, 0);
+      return reply("a(ai)", 2, 4, 0, 0, 0, 0, 4, script.granted, 0, 0, 0);
     }
-    if (method == "setShortcutKeys" && script.granted != 0)
-      return ::sd_bus_reply_method_return(call, "a(ai)", 2, 4, 0, 0, 0, 0, 4, script.granted, 0, 0,
-                                          0);
-    if (method == "setShortcutKeys")
-      return ::sd_bus_reply_method_return(call, "a(ai)", 1, 4, 0, 0, 0, 0);
-    if (method == "actionList" && !script.owner.empty())
-      return ::sd_bus_reply_method_return(call, "as", 2, script.owner.c_str(), "act");
-    if (method == "actionList") return ::sd_bus_reply_method_return(call, "as", 0);
-    if (method == "unregister") return ::sd_bus_reply_method_return(call, "b", 1);
-    if (method == "doRegister" || method == "setInactive")
-      return ::sd_bus_reply_method_return(call, "");
+    if (method == "actionList")
+      return script.owner.empty() ? reply("as", 0) : reply("as", 2, script.owner.c_str(), "act");
+    if (method == "unregister") return reply("b", 1);
+    if (method == "doRegister" || method == "setInactive") return reply("");
     return ::sd_bus_error_set(error, "org.freedesktop.DBus.Error.UnknownMethod", method.c_str());
   }
 };

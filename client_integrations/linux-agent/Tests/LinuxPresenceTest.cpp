@@ -50,44 +50,38 @@ class PresenceServices : public testing::BusServices {
 
   static int answer(Script& script, sd_bus_message* call, const std::string& method,
                     sd_bus_error* error) {
-    if (method == "GetDefaultDevice") {
-      if (!script.hasReader)
-        return ::sd_bus_error_set(error, "net.reactivated.Fprint.Error.NoSuchDevice", "none");
-      return ::sd_bus_reply_method_return(call, "o", reader);
-    }
-    if (method == "ListEnrolledFingers") {
-      if (script.fingers.empty())
-        return ::sd_bus_error_set(error, "net.reactivated.Fprint.Error.NoEnrolledPrints", "none");
-      return ::sd_bus_reply_method_return(call, "as", 1, script.fingers.front().c_str());
-    }
-    if (method == "Claim" && script.readerInUse)
-      return ::sd_bus_error_set(error, "net.reactivated.Fprint.Error.AlreadyInUse", "in use");
+    const auto reply = [&](const char* types, auto... values) {
+      return ::sd_bus_reply_method_return(call, types, values...);
+    };
+    const auto refuse = [&](const std::string& name, const char* text = "no") {
+      return ::sd_bus_error_set(error, name.c_str(), text);
+    };
+    const std::string fprint = "net.reactivated.Fprint.Error.";
+    if (method == "GetDefaultDevice")
+      return script.hasReader ? reply("o", reader) : refuse(fprint + "NoSuchDevice");
+    if (method == "ListEnrolledFingers")
+      return script.fingers.empty() ? refuse(fprint + "NoEnrolledPrints")
+                                    : reply("as", 1, script.fingers.front().c_str());
+    if (method == "Claim" && script.readerInUse) return refuse(fprint + "AlreadyInUse");
     if (method == "CheckAuthorization") {
       if (!script.actionInstalled)
-        return ::sd_bus_error_set(error, "org.freedesktop.PolicyKit1.Error.Failed",
-                                  "the action is not registered");
-      const char* text = nullptr;
+        return refuse("org.freedesktop.PolicyKit1.Error.Failed", "the action is not registered");
       std::uint32_t mayQuestion = 0;
-      ::sd_bus_message_skip(call, "(sa{sv})");
-      ::sd_bus_message_read(call, "s", &text);
-      ::sd_bus_message_skip(call, "a{ss}");
+      ::sd_bus_message_skip(call, "(sa{sv})sa{ss}");
       ::sd_bus_message_read(call, "u", &mayQuestion);
-      if (mayQuestion == 0)
-        return ::sd_bus_reply_method_return(call, "(bba{ss})", 0, script.mayAsk ? 1 : 0, 0);
+      const char* const decision = "(bba{ss})";
+      if (mayQuestion == 0) return reply(decision, 0, script.mayAsk ? 1 : 0, 0);
       if (script.neverAnswers) return 1;
-      if (script.dismissed)
-        return ::sd_bus_reply_method_return(call, "(bba{ss})", 0, 0, 1, "polkit.dismissed", "true");
-      return ::sd_bus_reply_method_return(call, "(bba{ss})", script.passwordRight ? 1 : 0,
-                                          script.mayAsk ? 0 : 1, 0);
+      if (script.dismissed) return reply(decision, 0, 0, 1, "polkit.dismissed", "true");
+      return reply(decision, script.passwordRight ? 1 : 0, script.mayAsk ? 0 : 1, 0);
     }
-    const int replied = ::sd_bus_reply_method_return(call, "");
+    const int replied = reply("");
     if (method == "VerifyStart" && !script.touches.empty()) {
-      const std::vector<std::string> statuses = script.touches.front();
-      script.touches.pop_front();
-      for (const std::string& status : statuses)
+      for (const std::string& status : script.touches.front())
         ::sd_bus_emit_signal(::sd_bus_message_get_bus(call), reader,
                              "net.reactivated.Fprint.Device", "VerifyStatus", "sb", status.c_str(),
                              1);
+      script.touches.pop_front();
     }
     return replied;
   }

@@ -228,35 +228,19 @@ TEST(WaylandPasteboard, IsReadAndWrittenByEitherProtocol) {
 }
 
 TEST(WaylandPasteboard, ReadsTheFormatsThatProgramsUse) {
-  const struct {
-    std::map<std::string, std::string> formats;
-    std::optional<std::string> plain;
-    std::optional<std::string> html;
-    std::optional<std::string> rtf{};
-  } rows[] = {
-      {{{utf8Text, "a"}, {"text/plain", "\xE9"}}, "a", std::nullopt},
-      {{{"application/rtf", std::string("{\0\xE9}", 4)}},
-       std::nullopt,
-       std::nullopt,
-       std::string("{\0\xE9}", 4)},
-      {{{"text/plain", "a"}}, "a", std::nullopt},
-      {{{"STRING", "caf\xE9"}}, "café", std::nullopt},
-      {{{"text/html", std::string("\xFF\xFE<\0b\0>\0", 8)}}, std::nullopt, "<b>"},
-      {{{"text/html", "<meta charset=\"iso-8859-1\">\xE9"}},
-       std::nullopt,
-       "<meta charset=\"iso-8859-1\">é"},
-      {{{utf8Text, std::string("a\0", 2)}, {"text/html", std::string("<b>\0", 4)}}, "a", "<b>"},
-      {{{utf8Text, ""}, {"text/html", std::string(1, '\0')}}, std::nullopt, std::nullopt},
-      {{{"image/png", "x"}}, std::nullopt, std::nullopt},
-      {{}, std::nullopt, std::nullopt},
-  };
   ScriptedCompositor compositor;
   Agent agent;
-  for (const auto& row : rows) {
-    compositor.copy({.formats = row.formats});
-    EXPECT_EQ(agent.plainText(), row.plain);
-    EXPECT_EQ(agent.pasteboard.html(), row.html);
-    EXPECT_EQ(agent.rtf(), row.rtf);
+  using Formats = std::map<std::string, std::vector<std::uint8_t>>;
+  for (const auto& [formats, plain, html, rtf] :
+       testing::cases<testing::Json, std::string, std::string, std::string>()) {
+    SCOPED_TRACE(formats.dump());
+    Offered offered;
+    for (const auto& [format, bytes] : formats.get<Formats>())
+      offered.formats[format] = {bytes.begin(), bytes.end()};
+    compositor.copy(offered);
+    EXPECT_EQ(agent.plainText().value_or("none"), plain);
+    EXPECT_EQ(agent.pasteboard.html().value_or("none"), html);
+    EXPECT_EQ(agent.rtf().value_or("none"), rtf);
   }
 }
 
@@ -505,23 +489,13 @@ TEST(WaylandLayout, FindsTheKeyInEachOfThePersonsLayouts) {
   const std::string_view name = "English (US)";
   std::string ofTheAgent = testing::keymapText("us");
   ofTheAgent.replace(ofTheAgent.find(name), name.size(), "Quillseal");
-  const struct {
-    std::string layout;
-    std::optional<std::uint32_t> h;
-  } rows[] = {{testing::keymapText("us"), 43U},
-              {testing::keymapText("fr"), 43U},
-              {testing::keymapText("ru,us"), 43U},
-              {testing::keymapText("us(dvorak)"), 44U},
-              {testing::keymapText("ru"), {}},
-              {ofTheAgent, {}},
-              {"no layout", {}},
-              {"", {}}};
-  for (const auto& row : rows) {
-    const ScriptedCompositor compositor({.layout = row.layout});
+  for (const auto& [names, key] : testing::cases<std::string, std::uint32_t>()) {
+    const std::string text = names == "agent" ? ofTheAgent : testing::keymapText(names.c_str());
+    const ScriptedCompositor compositor({.layout = names.empty() ? names : text});
     const auto connection = WaylandConnection::open();
     const WaylandLayout layout(*connection, [] {});
     EXPECT_TRUE(connection->roundTrip() && connection->roundTrip());
-    EXPECT_EQ(layout.keyFor(XKB_KEY_h), row.h);
+    EXPECT_EQ(layout.keyFor(XKB_KEY_h).value_or(0), key) << names;
   }
 }
 

@@ -85,33 +85,6 @@ const std::string answer = R"({"id":1,"operation":"currentTab","tab":4,"focusedA
 const std::vector<std::string> chromiumCall = {"chrome-extension://" QUILLSEAL_CHROMIUM_EXTENSION
                                                "/"};
 
-TEST(TabMessages, AreCutFromAStreamHoweverItIsSplit) {
-  const std::string longest(TabMessages::longestMessage, 'x');
-  const std::string stream =
-      TabMessages::framed("{}") + TabMessages::framed(longest) + TabMessages::framed("[1]");
-  for (const std::size_t step : {std::size_t{1}, std::size_t{3}, stream.size()}) {
-    TabMessages::Deframer deframer;
-    std::vector<std::string> messages;
-    for (std::size_t at = 0; at < stream.size(); at += step) {
-      deframer.append(std::string_view(stream).substr(at, step));
-      while (const auto message = deframer.next())
-        messages.push_back(*message);
-    }
-    EXPECT_EQ(messages, (std::vector<std::string>{"{}", longest, "[1]"})) << step;
-  }
-}
-
-TEST(TabMessages, RefusesLengthsThatNobodyMaySend) {
-  for (const std::uint32_t length : {0U, 4097U, 0x7fffffffU, 0xffffffffU}) {
-    TabMessages::Deframer deframer;
-    deframer.append({reinterpret_cast<const char*>(&length), sizeof length});
-    EXPECT_THROW((void)deframer.next(), TabMessages::ProtocolError) << length;
-  }
-  EXPECT_THROW((void)TabMessages::framed(""), TabMessages::ProtocolError);
-  EXPECT_THROW((void)TabMessages::framed(std::string(TabMessages::longestMessage + 1, 'x')),
-               TabMessages::ProtocolError);
-}
-
 TEST(TabMessages, ArePassedOnOrRefused) {
   for (const auto& [kind, message, isOne] : testing::cases<std::string, std::string, bool>()) {
     const auto read = [&] {
@@ -127,6 +100,8 @@ TEST(TabMessages, ArePassedOnOrRefused) {
   EXPECT_EQ(TabMessages::readGreeting(written(TabMessages::Greeting{"chromium"})).program,
             "chromium");
   EXPECT_EQ(written(TabMessages::Greeting{"\xff"}), "{\"program\":\"\uFFFD\"}");
+  EXPECT_THROW((void)TabMessages::framed(std::string(TabMessages::longestMessage + 1, 'x')),
+               TabMessages::ProtocolError);
   EXPECT_THROW((void)TabMessages::readGreeting(R"({"program":null})"), TabMessages::ProtocolError);
 }
 

@@ -14,6 +14,7 @@
 #include "RunUntil.h"
 #include "ScriptedCompositor.h"
 #include "core/text/Error.h"
+#include "core/text/UnicodeText.h"
 #include "session/PollLoop.h"
 #include "wayland/WaylandApplications.h"
 #include "wayland/WaylandConnection.h"
@@ -230,13 +231,15 @@ TEST(WaylandPasteboard, IsReadAndWrittenByEitherProtocol) {
 TEST(WaylandPasteboard, ReadsTheFormatsThatProgramsUse) {
   ScriptedCompositor compositor;
   Agent agent;
-  using Formats = std::map<std::string, std::vector<std::uint8_t>>;
   for (const auto& [formats, plain, html, rtf] :
        testing::cases<testing::Json, std::string, std::string, std::string>()) {
     SCOPED_TRACE(formats.dump());
     Offered offered;
-    for (const auto& [format, bytes] : formats.get<Formats>())
-      offered.formats[format] = {bytes.begin(), bytes.end()};
+    for (const auto& [format, text] : formats.get<std::map<std::string, std::string>>()) {
+      std::string& bytes = offered.formats[format];
+      for (std::size_t at = 0; at < text.size();)
+        bytes += static_cast<char>(unicode::nextScalar(text, at));
+    }
     compositor.copy(offered);
     EXPECT_EQ(agent.plainText().value_or("none"), plain);
     EXPECT_EQ(agent.pasteboard.html().value_or("none"), html);

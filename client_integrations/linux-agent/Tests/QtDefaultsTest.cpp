@@ -54,13 +54,13 @@ TEST_F(QtDefaultsTest, KeepsValuesForTheirOwnerOnly) {
     {
       QtDefaults defaults = make();
       defaults.setString("BoundIdentity", value);
+      EXPECT_EQ(fs::status(path_).permissions(), fs::perms::owner_read | fs::perms::owner_write);
       EXPECT_EQ(defaults.string("BoundIdentity"), value);
     }
     EXPECT_EQ(make().string("BoundIdentity"), value);
   }
   EXPECT_EQ(make().string("ServerURL"), std::nullopt);
   EXPECT_EQ(contentsOf(path_), "[General]\nBoundIdentity=[x]\n");
-  EXPECT_EQ(fs::status(path_).permissions(), fs::perms::owner_read | fs::perms::owner_write);
   EXPECT_THAT(warnings_, IsEmpty());
 }
 

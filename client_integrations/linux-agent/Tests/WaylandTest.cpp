@@ -290,29 +290,6 @@ TEST(KeptContent, IsReadOnlyAsItWasWritten) {
 
 // Keys --------------------------------------------------------------------------------------------
 
-TEST_P(EitherDesktop, IsLookedAtAgainImmediatelyBeforeThePress) {
-  ScriptedCompositor compositor({.isKwin = GetParam()});
-  Agent agent;
-  compositor.open({.applicationId = "editor", .title = "letter"});
-  agent.catchUp();
-  std::optional<Delivery> delivery;
-  const desktop::Ticket ticket = agent.keys.press(pasteKeys, agent.applications.frontmost(), {},
-                                                  [&](Delivery d) { delivery = d; });
-  // Without running the loop, so that the agent does not know of it.
-  compositor.open({.applicationId = "chat", .title = "chat"});
-  testing::runUntil(agent.loop, [&] { return delivery.has_value(); });
-  EXPECT_EQ(delivery, Delivery::declined);
-  EXPECT_THAT(compositor.keys(), IsEmpty());
-
-  compositor.hang();  // its state is not known
-  bool isAboutToPress = false;
-  const desktop::Ticket second = agent.keys.press(
-      pasteKeys, agent.applications.frontmost(), [&] { isAboutToPress = true; }, [](Delivery) {});
-  const desktop::Ticket end = agent.loop.after(200ms, [&] { agent.loop.stop(); });
-  agent.loop.run();
-  EXPECT_FALSE(isAboutToPress);
-}
-
 /// Its desktop takes its time to answer.
 class SlowKeyboard : public AgentKeyboard {
  public:

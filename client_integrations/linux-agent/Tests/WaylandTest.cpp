@@ -358,7 +358,7 @@ std::string joined(const std::vector<std::string>& parts) {
   std::string all;
   for (const std::string& part : parts)
     all += (all.empty() ? "" : " ") + part;
-  return all;
+  return all.empty() ? "none" : all;
 }
 
 /// What there is now, by the name that a story gives it.

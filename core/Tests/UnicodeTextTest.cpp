@@ -6,6 +6,7 @@
 #include <unicode/brkiter.h>
 #include <unicode/unistr.h>
 
+#include "Cases.h"
 #include "RandomText.h"
 #include "core/text/UnicodeText.h"
 
@@ -29,30 +30,21 @@ TEST(UnicodeText, ReplacesEachMaximalIllFormedPart) {
     EXPECT_EQ(wellFormed(bytes), expected) << bytes;
 }
 
-TEST(UnicodeText, TrimsTheWhitespaceAndNewlineSetOnly) {
-  EXPECT_EQ(trimmed(" \t\r\n\u0085\u00A0\u2003\u2028\u3000x y\u202F\v\f "), "x y");
-  EXPECT_EQ(trimmed("\u200Bx\uFEFF"), "\u200Bx\uFEFF");
-  EXPECT_EQ(trimmed("\x1Cx\x1F"), "\x1Cx\x1F");
-  EXPECT_EQ(trimmed(" \n\u2029"), "");
-  EXPECT_EQ(trimmed(""), "");
+// Each a function, a text and what it makes of it.
+TEST(UnicodeText, MakesTheValuesThatAreListed) {
+  for (const auto& each : testing::cases()) {
+    const std::string name = each[0], text = each[1];
+    const std::string value = name == "trimmed"      ? std::string(trimmed(text))
+                              : name == "lowercased" ? lowercased(text)
+                              : name == "uppercased" ? uppercased(text)
+                              : name == "count"
+                                  ? std::to_string(characterCount(text))
+                                  : std::string(firstCharacters(text, std::stoul(name)));
+    EXPECT_EQ(value, each[2]) << each;
+  }
   std::size_t position = std::string_view("a\U0001F600").size();
   EXPECT_EQ(previousScalar("a\U0001F600", position), U'\U0001F600');
   EXPECT_EQ(position, 1U);
-}
-
-TEST(UnicodeText, ChangesCaseFullyAndInTheRootLocale) {
-  EXPECT_EQ(lowercased("ΟΔΥΣΣΕΥΣ İI"), "οδυσσευς i\u0307i");
-  EXPECT_EQ(uppercased("straße ﬁn"), "STRASSE FIN");
-}
-
-TEST(UnicodeText, CountsAndCutsCharactersNotScalars) {
-  const std::string text = "e\u0301\r\n👨‍👩‍👧🇩🇪!";  // five characters
-  EXPECT_EQ(characterCount(text), 5U);
-  EXPECT_EQ(firstCharacters(text, 0), "");
-  EXPECT_EQ(firstCharacters(text, 1), "e\u0301");
-  EXPECT_EQ(firstCharacters(text, 3), "e\u0301\r\n👨‍👩‍👧");
-  EXPECT_EQ(firstCharacters(text, 6), text);
-  EXPECT_EQ(characterCount("a" + std::string(1000, 'b') + "\u0600c"), 1002U);  // U+0600 prepends
 }
 
 TEST(UnicodeText, ReplacesEveryOccurrenceLeftToRight) {

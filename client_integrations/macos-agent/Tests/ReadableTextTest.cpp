@@ -140,18 +140,11 @@ TEST(ReadableText, DisguisedScamsInOtherScriptsAreCaught) {
   expectCaught(caught, decomposed, "decomposed", 95);
 }
 
+// Each what stands before the words that are found, these, and what stands behind.
 TEST(ReadableText, FindingsStandWhereTheyWereWritten) {
-  struct Case {
-    std::string_view before, words, after;
-  };
-  const Case cases[] = {
-      {"Dear Clara, ", "I ap\u200Bprove the payment", " of 3 May"},
-      {"Да, ", "I аррrоvе the рауmеnt", ""},
-      {"x\u0301\u0302 \u200B", "i a.p.p.r.o.v.e No. 7, a pay-\nment", "\u200B, so"},
-      {"See 1.5. ", "\u200BI approve of $2.99 pa<yment", "!"},
-  };
-  for (const auto& [before, words, after] : cases) {
-    const std::string text = std::string(before) + std::string(words) + std::string(after);
+  for (const auto& [before, words, after] :
+       testing::cases<std::string, std::string, std::string>()) {
+    const std::string text = before + words + after;
     const Screening screening = asSigned(text);
     ASSERT_FALSE(screening.hits.empty()) << text;
     const auto [id, start, end, failed] = screening.hits.front();

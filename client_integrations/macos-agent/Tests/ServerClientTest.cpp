@@ -47,12 +47,6 @@ class ServerClientTest : public ::testing::Test {
     return std::get<Error>(resultOf(desktop_.loop, std::move(task)));
   }
 
-  /// The error of a signature: domain, code and words.
-  std::string refusal() {
-    const Error error = failureOf(client_.signContent(content()));
-    return error.domain() + " " + std::to_string(error.code()) + ": " + error.what();
-  }
-
   static ServerClient::Content content() {
     return {.textDigest = "T",
             .snapshotDigest = "",
@@ -153,51 +147,27 @@ TEST_F(ServerClientTest, WritesTheZonesOffsetInWholeMinutes) {
   }
 }
 
-TEST_F(ServerClientTest, TellsTheServersRefusalsInItsOwnWords) {
-  const std::string unusable = std::string(desktop::transport::errorDomain) + " " +
-                               std::to_string(desktop::transport::badServerResponse) +
-                               ": The server gave no usable answer.";
-  for (const int status : {100, 199, 300, 302, 400, 404, 409, 500}) {
-    answer(status, R"({"error":"Device not enrolled \/ é"})");
-    EXPECT_EQ(refusal(), "Quillseal " + std::to_string(status) + ": Device not enrolled / é");
-    for (const char* body : {"", "<html>500</html>", "{}", R"({"error":null})", R"({"error":5})",
-                             R"({"error":"x"}y)", "[\"error\"]"}) {
-      answer(status, body);
-      EXPECT_EQ(refusal(), unusable);
-    }
-  }
-}
-
-TEST_F(ServerClientTest, ShortensARefusalOfAMegabyte) {
-  answer(400, R"({"error":")" + std::string(1'000'000, 'n') + "\"}");
-  EXPECT_EQ(failureOf(client_.signContent(content())).what(), std::string(1000, 'n') + "…");
-  const std::string key = "\"" + std::string(1'000'000, 'k') + "\":1";
-  answer(200, "{" + key + "," + key + "}");
-  EXPECT_THAT(failureOf(client_.signContent(content())).what(),
-              HasSubstr("The key “" + std::string(40, 'k') + "…” appears twice."));
-}
-
 TEST_F(ServerClientTest, PassesTransportErrorsOn) {
   desktop_.http.failure = Error({.domain = "D", .code = 7, .description = "no network"});
-  EXPECT_EQ(refusal(), "D 7: no network");
+  const Error error = failureOf(client_.signContent(content()));
+  EXPECT_EQ(error.domain() + error.what(), "Dno network");
+  EXPECT_EQ(error.code(), 7);
 }
 
 TEST_F(ServerClientTest, ReadsEveryAnswerOrNamesWhatItLacks) {
-  for (const auto& [name, body, expected] :
-       testing::cases<std::string, std::string, std::string>()) {
-    answer(200, body);
+  for (const auto& [name, status, body, expected] :
+       testing::cases<std::string, int, std::string, std::string>()) {
+    SCOPED_TRACE(body.substr(0, 100));
+    answer(status, body);
     const Outcome<std::string> outcome = call(name);
     if (const Error* error = std::get_if<Error>(&outcome)) {
-      EXPECT_EQ(error->domain(), "NSCocoaErrorDomain");
-      EXPECT_TRUE(expected.starts_with('!')) << body;
-      EXPECT_THAT(error->what(), HasSubstr(expected.substr(1))) << body;
+      EXPECT_EQ(error->domain() == "NSCocoaErrorDomain", status / 100 == 2);
+      EXPECT_TRUE(expected.starts_with('!'));
+      EXPECT_THAT(error->domain() + " " + std::to_string(error->code()) + ": " + error->what(),
+                  HasSubstr(expected.substr(1)));
     } else {
-      EXPECT_EQ(std::get<std::string>(outcome), expected) << body;
+      EXPECT_EQ(std::get<std::string>(outcome), expected);
     }
-  }
-  for (const int status : {201, 299}) {
-    answer(status, R"({"signature_id":"s"})");
-    EXPECT_EQ(valueOf(client_.signContent(content())), "s");
   }
 }
 

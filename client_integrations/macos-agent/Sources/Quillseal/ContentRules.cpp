@@ -49,13 +49,13 @@ constexpr std::array<Shorthand, 12> shorthands{{
      R"((?![\s\S]{0,140}(?:\b(?:stays?\s+the\s+same|bleibt\s+gleich|provider|carrier|network|contract|plan|anbieter|vertrag|tarif\w*|opérateur|forfait|operatore|compañ[íi]a|operadora?|plano|overgestapt|abonnement|оператор\w*|тариф\w*)\b|套餐|警方|骗子|騙子|运营商|運營商|電信|电信|会社を変え|機種変更|乗り換え|통신사|요금제|번호는?\s?그대로|号码[没不]变|號碼[沒不]變|番号は(?:同じ|変わ))))"},
     // Nothing that follows asks for a form that is handed over in person.
     {"<byhand>",
-     R"((?![\s\S]{0,120}(?:\b(?:in\s+person|bring\s+(?:the|a|your)\s+(?:\w+\s+){0,2}form|persönlich|en\s+mains?\s+propres?|di\s+persona|en\s+mano|en\s+persona|pessoalmente|presencialmente|persoonlijk|лично|aushang|(?:bekannten?|üblichen)\s+(?:telefon)?nummer|number\s+you\s+(?:already\s+)?(?:know|have)|usual\s+number|déposé\s+le\s+formulaire)\b|亲自|親自|窓口|직접)))"},
+     R"((?![\s\S]{0,120}(?:\b(?:in\s+person|bring\s+(?:the|a|your)\s+(?:\w+\s+){0,2}form|persönlich|en\s+mains?\s+propres?|di\s+persona|en\s+mano|en\s+persona|pessoalmente|presencialmente|persoonlijk|лично|aushang|(?:bekannten?|üblichen)\s+(?:telefon)?nummer|number\s+you\s+(?:already\s+)?(?:know|have)|usual\s+number|déposé\s+le\s+formulaire|en\s+papel|en\s+su\s+oficina|no\s+hace\s+falta|rien\s+ne\s+presse|avenant|esposto|segreteria|secretaria|na\s+agência|carta\s+assinada|notice\s+board|op\s+kantoor|schaukasten)\b|亲自|親自|窓口|직접)))"},
     // Nothing that follows names a prize of the school or the library.
     {"<local>",
-     R"((?![\s\S]{0,60}(?:\b(?:school|library|bücherei|bibliothe[kc]|schule|verein\w*|lesewettbewerb|école|médiathèque|bibliothèque|scuola|biblioteca|escuela|colegio|escola|junta|school\w*|bibliotheek|библиотек\w+|школ\w+)\b|图书|圖書|学校|學校|図書|도서관|학교)))"},
+     R"((?![\s\S]{0,60}(?:\b(?:school|library|church|parish|fair|hamper|pfarr\w+|kirch\w+|\w*basar|tombola|bücherei|bibliothe[kc]|schule|verein\w*|lesewettbewerb|école|médiathèque|bibliothèque|scuola|biblioteca|escuela|colegio|escola|junta|school\w*|bibliotheek|библиотек\w+|школ\w+)\b|图书|圖書|学校|學校|図書|도서관|학교)))"},
     // Nothing that follows speaks of a surprise or a birthday.
     {"<party>",
-     R"((?![^.!?。！？]{0,80}\b(?:surprises?|birthday|anniversa\w+|überrasch\w*|geburtstag\w*|sorpresa|compleanno|cumplea[ñn]os|festa|fiesta|verrassing\w*|verjaardag\w*|сюрприз\w*)\b))"},
+     R"((?![\s\S]{0,80}(?:\b(?:dessert|bouteille|gâteau|cake|kuchen|torte|surprises?|birthday|anniversa\w+|überrasch\w*|geburtstag\w*|sorpresa|compleanno|cumplea[ñn]os|festa|fiesta|verrassing\w*|verjaardag\w*|сюрприз\w*)\b|케이크|생일|파티|サプライズ|惊喜|驚喜)))"},
     // Money is lent, and it does not matter who borrows.
     {"<lender>",
      R"(\b(?:(?:we|i)\s+(?:can\s+|will\s+|also\s+)?(?:lend|grant|offer|give|provide)\b<20>\b(?:loans?|credit|cash|money|\d[\d,.]{3,})|(?:need|want|short\s+of)\s+(?:an?\s+)?(?:(?:fast|quick|urgent|small|personal|business|some|extra)\s+)?(?:loan|cash|money)|(?:personal|private|business|quick|instant|cash)\s+loans?|loans?\b<15>\b\d[\d,.]*|borrow\s+up\s+to|private\s+lenders?|loans?\s+(?:at|from|approved|without|even)|we\s+(?:finance|fund)\s+you)\b[\s\S]{0,60}\b(?:(?:bad|poor|low)\s+credit|no\s+(?:\w+\s+){0,2}(?:papers?|paperwork|collateral|guarantors?|proof|questions?|documents?|payslips?|security)|blacklisted|(?:cash|money)\s+is\s+(?:with\s+you|in\s+your\s+(?:hands?|account))|anyone\s+who|without\s+(?:\w+\s+)?(?:collateral|guarantor|checks?)|\d+\s+minutes|even\s+(?:if|with)\b<30>\b(?:bad|debts?|refused|banks?|no)|nobody\b<15>\bvouch|no\s+(?:\w+\s+)?(?:matter|problem)\b<15>\bcredit|(?:bad|poor)\s+(?:\w+\s+)?(?:history|record)|serious\s+people|reply\s+with\s+the\s+amount)\b|\b(?:(?:bad|poor|low)\s+credit|no\s+(?:\w+\s+){0,2}(?:papers?|paperwork|collateral|guarantors?|proof|questions?|documents?|payslips?|security)|blacklisted|(?:cash|money)\s+is\s+(?:with\s+you|in\s+your\s+(?:hands?|account))|anyone\s+who|without\s+(?:\w+\s+)?(?:collateral|guarantor|checks?)|\d+\s+minutes|even\s+(?:if|with)\b<30>\b(?:bad|debts?|refused|banks?|no)|nobody\b<15>\bvouch|no\s+(?:\w+\s+)?(?:matter|problem)\b<15>\bcredit|(?:bad|poor)\s+(?:\w+\s+)?(?:history|record)|serious\s+people|reply\s+with\s+the\s+amount)\b[\s\S]{0,60}\b(?:(?:we|i)\s+(?:can\s+|will\s+|also\s+)?(?:lend|grant|offer|give|provide)\b<20>\b(?:loans?|credit|cash|money|\d[\d,.]{3,})|(?:need|want|short\s+of)\s+(?:an?\s+)?(?:(?:fast|quick|urgent|small|personal|business|some|extra)\s+)?(?:loan|cash|money)|(?:personal|private|business|quick|instant|cash)\s+loans?|loans?\b<15>\b\d[\d,.]*|borrow\s+up\s+to|private\s+lenders?|loans?\s+(?:at|from|approved|without|even)|we\s+(?:finance|fund)\s+you)\b|)"
@@ -123,7 +123,7 @@ constexpr std::array<Shorthand, 12> shorthands{{
      R"((?:자기야|여보|내 ?사랑|사랑하게|반했|당신 ?사진|가까이 ?느|결혼하|사랑해|사랑하는|달링|허니|운명)[\s\S]{0,40}(?:(?:아직|한 ?번도) ?(?:한 ?번도 ?)?(?:만나|본|못 ?만)|만난 ?적 ?(?:은|이)? ?없|알게 ?된 ?지[\s\S]{0,6}(?:일|주)|온라인으로만|채팅으로만)|(?:(?:아직|한 ?번도) ?(?:한 ?번도 ?)?(?:만나|본|못 ?만)|만난 ?적 ?(?:은|이)? ?없|알게 ?된 ?지[\s\S]{0,6}(?:일|주)|온라인으로만|채팅으로만)[\s\S]{0,40}(?:자기야|여보|내 ?사랑|사랑하게|반했|당신 ?사진|가까이 ?느|결혼하|사랑해|사랑하는|달링|허니|운명)|(?:자기야|여보|내 ?사랑|사랑하게|반했|당신 ?사진|가까이 ?느|결혼하|사랑해|사랑하는|달링|허니|운명)[\s\S]{0,40}(?:의사|군인|군의관|엔지니어|공항|도난|휴가|파병|임무|부대|배 ?위|시추|계약|세관|비자|비행기|항공권|병원|수술|시리아|예멘|해외|유엔)[\s\S]{0,24}(?:빌려|도와 ?(?:줘|줄|주)|보내 ?(?:줘|줄|주)|부족|필요해|필요합|만 ?원|달러|통관비|수수료|비용|카드가 ?(?:안|막)|계좌가 ?(?:막|동결)|대신 ?내)|(?:(?:아직|한 ?번도) ?(?:한 ?번도 ?)?(?:만나|본|못 ?만)|만난 ?적 ?(?:은|이)? ?없|알게 ?된 ?지[\s\S]{0,6}(?:일|주)|온라인으로만|채팅으로만)[\s\S]{0,40}(?:의사|군인|군의관|엔지니어|공항|도난|휴가|파병|임무|부대|배 ?위|시추|계약|세관|비자|비행기|항공권|병원|수술|시리아|예멘|해외|유엔)[\s\S]{0,40}(?:빌려|도와 ?(?:줘|줄|주)|보내 ?(?:줘|줄|주)|부족|필요해|필요합|만 ?원|달러|통관비|수수료|비용|카드가 ?(?:안|막)|계좌가 ?(?:막|동결)|대신 ?내)|(?:자기야|여보|내 ?사랑|사랑하게|반했|당신 ?사진|가까이 ?느|결혼하|사랑해|사랑하는|달링|허니|운명)[\s\S]{0,40}(?:(?:투자|거래|코인)[\s\S]{0,8}(?:알려|가르쳐)[\s\S]{0,2}(?:줄|드|줘)|(?:삼촌|이모|멘토|선생님)[\s\S]{0,16}(?:투자|거래소|애널리스트|코인|플랫폼)))"},
     // Love without a meeting, or with a life that makes one hard: less than `<suitor>`, and only half of it.
     {"<faraway>",
-     R"(\b(?:(?:never|not\s+yet|not\s+even|have\s+not|haven['’]t)\s+(?:\w+\s+)?(?:met|seen|touched)\b<15>\b(?:each\s+other|in\s+person|you|face|yet)|only\s+(?:been\s+)?(?:\w+\s+)?(?:two|three|four|a\s+few|some|\d+)\s+(?:days|weeks)|(?:days|weeks)\s+of\s+(?:chatting|writing|talking|messages)|(?:only|just)\s+(?:\w+\s+)?(?:talked|chatted|written|texted|know\w*)\b<15>\b(?:online|internet|here|chat|app))\b|\b(?:darling|sweetheart|my\s+(?:love|queen|king|angel|dearest|heart)|honey|soul\s?mate|(?:woman|man|one)\s+(?:god|of\s+my|i\s+(?:have\s+)?waited)|i\s+love\s+you|in\s+love\s+with\s+you|(?:fell|falling|fallen)\s+(?:\w+\s+)?in\s+love|so\s+close\s+to\s+you|your\s+(?:photo|profile|picture|smile)|my\s+(?:dear(?:est)?|soul)|marry\s+you|come\s+to\s+you|widow(?:er|ed)?)\b[\s\S]{0,60}\b(?:(?:oil\s+)?rig|ship|vessel|mission|army|base|contract|customs|visa|flight|ticket|hospital|surgery|syria|yemen|abroad|overseas|surgeon|doctor|engineer|soldier|captain|officer|airport|stranded|stuck|stolen|united\s+nations)\b|\b(?:darling|sweetheart|my\s+(?:love|queen|king|angel|dearest|heart)|honey|soul\s?mate|(?:woman|man|one)\s+(?:god|of\s+my|i\s+(?:have\s+)?waited)|i\s+love\s+you|in\s+love\s+with\s+you|(?:fell|falling|fallen)\s+(?:\w+\s+)?in\s+love|so\s+close\s+to\s+you|your\s+(?:photo|profile|picture|smile)|my\s+(?:dear(?:est)?|soul)|marry\s+you|come\s+to\s+you|widow(?:er|ed)?)\b[\s\S]{0,60}\b(?:(?:i|let\s+me|can)\s+(?:will\s+|can\s+)?(?:teach|show)\s+you\b<25>\b(?:trad\w+|invest\w*|crypto|earn|profits?|money)|(?:uncle|aunt|mentor|friend)\b<40>\b(?:trad\w+|analyst|crypto|exchange|platform|invest\w*))\b|)"
+     R"(\b(?:never|not\s+yet|not\s+even|haven['’]t)\s+(?:\w+\s+)?(?:met|seen|touched)\b<15>\b(?:each\s+other|in\s+person|face\s+to\s+face|yet)\b|\b(?:days|weeks)\s+of\s+(?:chatting|writing|talking|messages)\b|\b(?:darling|sweetheart|my\s+(?:love|queen|king|angel|dearest|heart)|honey|soul\s?mate|(?:woman|man|one)\s+(?:god|of\s+my|i\s+(?:have\s+)?waited)|i\s+love\s+you|in\s+love\s+with\s+you|(?:fell|falling|fallen)\s+(?:\w+\s+)?in\s+love|so\s+close\s+to\s+you|your\s+(?:photo|profile|picture|smile)|my\s+(?:dear(?:est)?|soul)|marry\s+you|come\s+to\s+you|widow(?:er|ed)?)\b[\s\S]{0,60}\b(?:(?:oil\s+)?rig|ship|vessel|mission|army|base|contract|customs|visa|flight|ticket|hospital|surgery|syria|yemen|abroad|overseas|surgeon|doctor|engineer|soldier|captain|officer|airport|stranded|stuck|stolen|united\s+nations)\b|\b(?:darling|sweetheart|my\s+(?:love|queen|king|angel|dearest|heart)|honey|soul\s?mate|(?:woman|man|one)\s+(?:god|of\s+my|i\s+(?:have\s+)?waited)|i\s+love\s+you|in\s+love\s+with\s+you|(?:fell|falling|fallen)\s+(?:\w+\s+)?in\s+love|so\s+close\s+to\s+you|your\s+(?:photo|profile|picture|smile)|my\s+(?:dear(?:est)?|soul)|marry\s+you|come\s+to\s+you|widow(?:er|ed)?)\b[\s\S]{0,60}\b(?:(?:i|let\s+me|can)\s+(?:will\s+|can\s+)?(?:teach|show)\s+you\b<25>\b(?:trad\w+|invest\w*|crypto|earn|profits?|money)|(?:uncle|aunt|mentor|friend)\b<40>\b(?:trad\w+|analyst|crypto|exchange|platform|invest\w*))\b|)"
      R"(\b(?:(?:noch\s+)?(?:nie|nicht)\b<15>\b(?:getroffen|gesehen|begegnet)|erst\s+(?:seit\s+)?(?:\w+\s+)?(?:wenigen?|zwei|drei|einigen?|paar|\d+)\s+(?:tagen?|wochen)|nur\s+(?:\w+\s+)?(?:online|schreiben|chat\w*|internet))\b|\b(?:(?:mein\s+)?(?:schatz|liebling|engel|herz|süße[rn]?)|meine?\s+(?:liebe|königin|prinzessin)|ich\s+liebe\s+dich|in\s+dich\s+verliebt|liebste[rn]?|nah\b<6>\bfühl\w*|fühle?\s+mich\b<12>\bnah|(?:dein|deinem?)\s+(?:foto|profil|bild)|(?:komme|fliege)\s+(?:ich\s+)?(?:\w+\s+){0,2}zu\s+dir|dich\s+heirat\w+|witwer)\b[\s\S]{0,60}\b(?:bohrinsel|schiff|einsatz|armee|mission|vertrag|zoll|visum|flug|ticket|krankenhaus|operation|syrien|jemen|ausland|arzt|chirurg|ingenieur|soldat|offizier|kapitän|uno|flughafen|gestohlen|urlaubsantrag|bundeswehr|us-armee)\b|\b(?:(?:mein\s+)?(?:schatz|liebling|engel|herz|süße[rn]?)|meine?\s+(?:liebe|königin|prinzessin)|ich\s+liebe\s+dich|in\s+dich\s+verliebt|liebste[rn]?|nah\b<6>\bfühl\w*|fühle?\s+mich\b<12>\bnah|(?:dein|deinem?)\s+(?:foto|profil|bild)|(?:komme|fliege)\s+(?:ich\s+)?(?:\w+\s+){0,2}zu\s+dir|dich\s+heirat\w+|witwer)\b[\s\S]{0,60}\b(?:(?:zeige?|bringe?)\s+(?:ich\s+)?dir\b<25>\b(?:handel\w*|trad\w+|invest\w*|krypto|geld\s+verdien\w+)|(?:onkel|mentor|tante)\b<40>\b(?:trad\w+|analyst|krypto|börse|handelsplattform))\b|)"
      R"(\b(?:(?:jamais|pas\s+encore)\b<12>\b(?:vus?|rencontrée?s?|croisée?s?)|(?:depuis|que)\s+(?:\w+\s+)?(?:quelques|deux|trois|\d+)\s+(?:jours|semaines)|que\s+(?:par|sur)\s+(?:internet|messages?|tchat|chat))\b|\b(?:mon\s+(?:amour|cœur|coeur|ange|chéri|trésor|roi)|ma\s+(?:chérie|reine|belle)|chérie?|je\s+t['’]aime|amoureu\w+\s+de\s+(?:toi|vous)|ma\s+douce|proche\s+de\s+toi|(?:ta|ton|votre)\s+(?:photo|profil|sourire)|te\s+rejoindre|t['’]épouser|veuf|mon\s+(?:âme|bébé))\b[\s\S]{0,60}\b(?:plateforme|bateau|navire|mission|armée|contrat|douane|visa|vol|billet|hôpital|opération|syrie|yémen|étranger|mali|abidjan|chirurgien|médecin|ingénieur|soldat|capitaine|officier|onu|aéroport|volé|congé|avion|mer)\b|\b(?:mon\s+(?:amour|cœur|coeur|ange|chéri|trésor|roi)|ma\s+(?:chérie|reine|belle)|chérie?|je\s+t['’]aime|amoureu\w+\s+de\s+(?:toi|vous)|ma\s+douce|proche\s+de\s+toi|(?:ta|ton|votre)\s+(?:photo|profil|sourire)|te\s+rejoindre|t['’]épouser|veuf|mon\s+(?:âme|bébé))\b[\s\S]{0,60}\b(?:(?:t['’]apprendre|te\s+montrer|t['’]apprends|te\s+montre)\b<25>\b(?:trad\w+|investi\w+|crypto|gagner)|(?:oncle|mentor|tante)\b<40>\b(?:trad\w+|analyste|crypto|bourse|plateforme))\b|)"
      R"(\b(?:(?:mai|non\s+ancora|non\s+ci\s+siamo\s+(?:ancora\s+)?(?:mai\s+)?)\s*(?:vist[ie]|incontrat[ie]|conosciut[ie])|(?:da|solo)\s+(?:\w+\s+)?(?:poch[ie]|due|tre|\d+)\s+(?:giorni|settimane)|solo\s+(?:online|in\s+chat|su\s+internet))\b|\b(?:(?:mio\s+)?(?:amore|tesoro|angelo)|mia\s+(?:regina|vita|cara)|cara|ti\s+amo|innamorat[oa]\s+di\s+te|carissima|vicin[oa]|(?:tua|tuo)\s+(?:foto|profilo)|arrivo\s+da\s+te|venire\s+da\s+te|sposar\w+|vedovo|innamorat[oa])\b[\s\S]{0,60}\b(?:piattaforma|nave|missione|esercito|contratto|dogana|visto|volo|biglietto|ospedale|operazione|siria|yemen|estero|militare|chirurgo|medico|ingegnere|soldato|capitano|ufficiale|onu|aeroporto|rubato|congedo)\b|\b(?:(?:mio\s+)?(?:amore|tesoro|angelo)|mia\s+(?:regina|vita|cara)|cara|ti\s+amo|innamorat[oa]\s+di\s+te|carissima|vicin[oa]|(?:tua|tuo)\s+(?:foto|profilo)|arrivo\s+da\s+te|venire\s+da\s+te|sposar\w+|vedovo|innamorat[oa])\b[\s\S]{0,60}\b(?:(?:ti\s+(?:insegno|mostro|faccio\s+vedere))\b<25>\b(?:trad\w+|invest\w+|cripto\w*|guadagn\w+)|(?:zio|mentore|zia)\b<40>\b(?:trad\w+|analista|cripto\w*|borsa|piattaforma))\b|)"
@@ -310,6 +310,7 @@ constexpr auto table = std::to_array<Rule>({
     {"cred-click-verify", "Credential phishing", "warn", 30,
      "tells the reader to follow a link and verify, confirm or unlock something",
      pattern([] { return std::string_view(
+     R"(\b(?:receive|collect|get)\s+(?:the|your|ur)\s+(?:money|payment|funds|cash)\b<60>\b(?:link|card|qr|form|page)\b|\b(?:scan|link|qr)\b<60>\b(?:receive|collect|money|amount)\b<40>\b(?:account|come|card)\b|)"
      R"(\b(?:pay|settle|clear|fix|sort|rebook|reschedul\w+|redeliver\w*|claim|update|reactivate|reset|submit|cancel|verify)\b<40>(?:\b(?:via|through|using|from|by\s+clicking)\s+(?:on\s+)?(?:the|this|our|below|secure)\s+(?:\w+\s+)?(?:link|form|button)\b|\b(?:at|on|via|here:?)\s+(?:https?://)?[a-z0-9]{2,}(?:-[a-z0-9]+)+[.][a-z]{2,}\b)|\btap\s+here\b|)"
      R"(\b(?:open|tap|click|follow|use)\s+(?:this|the)\s+link\b<40>\b(?:enter|card|bank|receive|get\s+paid|money)\b|)"
      R"(\bnão\s+reconhe[çc]o\s+est[ea]\s+acesso\b|\bse\s+não\s+foi\s+você\b<25>\b(?:avise|clique|acesse|altere)|)"
@@ -350,7 +351,16 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:оплат\w+|доплат\w+|пройти|обновит\w+)\b<40>\bпо\s+(?:моей\s+)?ссылк\w+\b|\bссылочк\w+\s+скину\w+\b|)"
      R"((?:由此|至|到|在|打[开開]|[扫掃])[\s\S]{0,8}(?:[a-z0-9]{2,}(?:-[a-z0-9]+)+[.][a-z]{2,}|二[维維][码碼])[\s\S]{0,10}(?:登[录錄]|[缴繳]|[补補]|支付|交|填|重新)|(?:[缴繳]款|[缴繳][费費]|支付)[\s\S]{0,6}[a-z0-9]{2,}(?:-[a-z0-9]+)+[.][a-z]{2,}|)"
      R"((?:こちら|下記|ページ|URL)[\s\S]{0,14}(?:入力|入れて|支払)|[a-z0-9]{2,}(?:-[a-z0-9]+)+[.][a-z]{2,}\s?に(?:ログイン|アクセス)|)"
-     R"((?:아래|링크|주소)[\s\S]{0,16}(?:결제|납부|수정|설치|다시 ?넣)|(?:결제|납부|수정|등록)[\s\S]{0,30}[a-z0-9]{2,}(?:-[a-z0-9]+)+[.][a-z]{2,})"); }),
+     R"((?:아래|링크|주소)[\s\S]{0,16}(?:결제|납부|수정|설치|다시 ?넣)|(?:결제|납부|수정|등록)[\s\S]{0,30}[a-z0-9]{2,}(?:-[a-z0-9]+)+[.][a-z]{2,}|)"
+     R"(\b(?:geld|betrag|zahlung)\b<25>\b(?:erhalten|bekommen|empfangen)\b<60>\b(?:link|karte\w*|qr\w*|seite|formular)\b|\b(?:link|karte\w*|qr\w*)\b<60>\b(?:geld|betrag|zahlung)\b<20>\b(?:erhalten|bekommen|empfangen)\b|)"
+     R"(\bontvang\w*\b<60>\b(?:link|pas|bankpas|qr)\b|\b(?:link|bankpas|qr)\b<60>\bontvang\w*\b|)"
+     R"(\b(?:encaisser|recevoir|percevoir|toucher)\b<60>\b(?:lien|carte|qr)\b|\b(?:lien|carte)\b<60>\b(?:encaisser|percevoir|toucher)\b|)"
+     R"(\b(?:ricever\w*|incassar\w*)\b<60>\b(?:link|carta|qr)\b|\b(?:link|carta|postamat)\b<60>\b(?:incassar\w*|ricever\w*|accredit\w*)\b|)"
+     R"(\b(?:recibir|cobrar)\b<60>\b(?:enlace|tarjeta|qr)\b|\b(?:enlace|tarjeta|link)\b<60>\b(?:recibir|cobrar)\b|)"
+     R"(\breceber\b<60>\b(?:link|liga[çc][ãa]o|cart[ãa]o|qr)\b|\b(?:link|liga[çc][ãa]o|cart[ãa]o)\b<60>\breceber\b|)"
+     R"((?:收款|收[钱錢]|到[账賬帳]|入[账帳賬])[\s\S]{0,30}(?:[链鏈][接結结]|二[维維][码碼]|卡[号號])|(?:二[维維][码碼]|[链鏈]接)[\s\S]{0,24}(?:收款|到[账賬帳]|[领領]取)|)"
+     R"((?:受け取り|受取|入金)[\s\S]{0,20}(?:リンク|URL|QR|カード)[\s\S]{0,12}(?:入力|読|開)|)"
+     R"((?:대금|돈|금액)[\s\S]{0,10}(?:받으|수령)[\s\S]{0,20}(?:링크|카드|QR)|(?:링크|QR)[\s\S]{0,20}(?:대금|금액|돈)[\s\S]{0,6}(?:받|수령|들어))"); }),
      true},
     {"cred-unusual-signin", "Credential phishing", "warn", 30,
      "reports an unusual sign-in or transaction, the commonest pretext for stealing a password",
@@ -409,28 +419,27 @@ constexpr auto table = std::to_array<Rule>({
     {"cred-mfa-code", "Credential phishing", "warn", 50,
      "asks for a one-time code, which is never for anyone else",
      pattern([] { return std::string_view(
+     R"(\b(?:need|give|send|text|read|tell|forward|pass)\b<15>\b(?:the|that|this|your|a)\s+(?:\w+[\s-]){0,3}(?:code|digits|pin)\b<40>\b(?:you|u|texted|sent|phone|got|just|sms|arriv\w+|received)\b|\bcode\b<25>\b(?:by\s+mistake|to\s+your\s+(?:phone|number))\b|\b(?:send|share|forward|tell|give|read)\b<25>\b(?:the|that|your|me)\s+(?:\w+\s+){0,2}code\b<20>\b(?:you\s+(?:just\s+)?(?:received|got|get|will\s+receive)|(?:we|i)\s+(?:just\s+)?sent|sent\s+to\s+your\s+phone)\b|)"
      R"(\b(?:code|6[\s-]digits?|six[\s-]digit\s+number)\b<40>[\s\S]{0,3}\b(?:can|could|just|please|pls|then|so)\b<20>\b(?:send|pass|read|forward|screenshot|tell)\b<15>\b(?:it|me|us|over)\b|)"
      R"(\b(?:sent|texted)\s+you\s+a\b<15>\bcode\b<25>\b(?:tell|send|read|give|forward|what\s+(?:it\s+says|is\s+it))\b|\bread\s+(?:me|us)\s+the\s+code\b|\b(?:tell\s+me|give\s+me|read\s+me|say)\b<20>\b(?:number|code|digits)\b<25>\b(?:text|sms|message)\b|)"
      R"(\b(?:send|forward|share|tell|give|read|provide|text|reply\s+with|need|want|get|pass)\b<30>\b(?:(?:one[- ]time|verification|security|authentication|confirmation|login|sign-?in|whatsapp|sms|6[- ]digit|six[- ]digit|4[- ]digit|otp|2fa|mfa)\s+(?:pass)?(?:code|password|pin|number)|otp|one-?time\s+passcode)\b|)"
      R"(\b(?:code|otp|pin)\b<20>\b(?:you\s+(?:just\s+)?(?:received|got|get|will\s+receive)|(?:we|i)\s+(?:just\s+)?sent\s+(?:to\s+)?you|sent\s+to\s+your\s+phone)\b<30>\b(?:send|share|forward|tell|give|read|reply|back)\b|)"
-     R"(\b(?:send|share|forward|tell|give|read)\b<25>\b(?:the|that|your|me)\s+(?:\w+\s+){0,2}code\b<20>\b(?:you\s+(?:just\s+)?(?:received|got|get|will\s+receive)|(?:we|i)\s+(?:just\s+)?sent|sent\s+to\s+your\s+phone)\b|)"
      R"(\b(?:schick|send|gib|nenn|teil|leit)\w*\b<30>\b(?:bestätigungs|verifizierungs|sicherheits|sms-?|einmal|tan-?)(?:code|passwort|nummer)\b|)"
      R"(\b(?:envoyez|transmettez|donnez|communiquez|partagez)\b<30>\bcode\s+(?:de\s+(?:vérification|sécurité|confirmation)|sms|reçu)\b|)"
      R"(\b(?:env[íi][ea]|comparta|dame|d[íi]game|informe|mande|passe|compartilhe)\b<30>\bc[óo]digo\s+(?:de\s+(?:verificaci[óo]n|seguridad|verifica[çc][ãa]o|seguran[çc]a|confirma[çc][ãa]o)|sms|que)\b|\b(?:me\s+diz|diga-me|me\s+passa|leia)\b<20>\b(?:c[óo]digo|n[úu]mero|d[íi]gitos)\b<25>\b(?:sms|mensagem)\b|)"
      R"(\b(?:stuur|geef|deel)\b<30>\b(?:verificatie|beveiligings|sms-?)code\b|)"
      R"((?<![勿不别別])(?:把|将|將|告诉|告訴|发送|發送|提供)[^。！？.!?勿不]{0,12}(?:验证码|驗證碼|动态码|動態碼)|)"
      R"((?:認証コード|確認コード|ワンタイムパスワード)<12>(?:教えて|送って|お知らせ|ご返信|転送)|)"
-     R"((?:인증번호|인증\s?코드|보안\s?코드)<10>(?:알려(?!\s?주지|\s?드리지|지)|보내(?!지)|전달(?!하지)|불러)|)"
-     R"(\b(?:nenn|sag|gib|geb|schick|leit|send|les|lies|teil)\w*\b<40>\b(?:tan|code|sms-?code|bestätigungscode|freischaltcode|prüfcode|sechsstellige[nr]?\s+(?:code|nummer|zahl))\b(?!<40>\b(?:niemand|nicht|keinesfalls|nie)\b)|\bcode\b<40>\b(?:per\s+sms|aus\s+versehen|versehentlich)\b<50>\b(?:weiterleiten|schicken|nennen|sagen|geben|durchgeben)\b|\b(?:schick|send|gib|nenn|sag|leite?|teil)\w*\b<30>\b(?:sechs|vier|fünf|6|4)(?:-?stellige\w*)?\s+(?:ziffern|zahlen|code|nummer|stellen)\b|\bsechsstellige[nr]?\s+code\b<40>\b(?:weiterleiten|schicken|geben|sagen)\b|\baus\s+versehen\b<20>\bcode\b|\b(?:bestätigen|nennen|sagen|geben|schicken)\b[^.!?]{0,15}\b(?:code|tan)\b[^.!?]{0,12}\b(?:bekommen\s+haben|erhalten\s+haben|in\s+ihrer\s+app|angekommen)\b|)"
+     R"((?:인증번호|인증\s?코드|보안\s?코드)<10>(?:알려(?!\s?주지|\s?드리지|지)|보내(?!지)|전달(?!하지)|불러)|(?:인증 ?번호|인증 ?코드|6자리)[\s\S]{0,20}(?:불러|알려 ?(?:주세요|줘|주시|달라)|보내 ?(?:주세요|줘|주시)|좀)(?![\s\S]{0,4}(?:마세요|말))|(?:여섯|6|네|4) ?자리 ?(?:숫자|번호)?[\s\S]{0,6}(?:보내|알려 ?줘|불러)|인증 ?번호[\s\S]{0,24}(?:갔을|갔는데)[\s\S]{0,8}알려|문자로 ?온 ?번호를? ?(?:불러|알려)|받으신 ?인증 ?번호를? ?(?:말씀|알려|불러)|)"
+     R"(\b(?:nenn|sag|gib|geb|schick|leit|send|les|lies|teil)\w*\b<40>\b(?:tan|code|sms-?code|bestätigungscode|freischaltcode|prüfcode|sechsstellige[nr]?\s+(?:code|nummer|zahl))\b(?!<40>\b(?:niemand|nicht|keinesfalls|nie)\b)|\bcode\b<40>\b(?:per\s+sms|aus\s+versehen|versehentlich)\b<50>\b(?:weiterleiten|schicken|nennen|sagen|geben|durchgeben)\b|\b(?:schick|send|gib|nenn|sag|leite?|teil)\w*\b<30>\b(?:sechs|vier|fünf|6|4)(?:-?stellige\w*)?\s+(?:ziffern|zahlen|code|nummer|stellen)\b|\bsechsstellige[nr]?\s+code\b<40>\b(?:weiterleiten|schicken|geben|sagen)\b|\baus\s+versehen\b<20>\bcode\b|\b(?:bestätigen|nennen|sagen|geben|schicken)\b[^.!?]{0,15}\b(?:code|tan)\b[^.!?]{0,12}\b(?:bekommen\s+haben|erhalten\s+haben|in\s+ihrer\s+app|angekommen)\b|\b(?:sag|nenn|gib|schick|lies|gebt|nennen|geben|schicken)\w*\b<25>\b(?:den|deinen|ihren|mir\s+den)\s+(?:\w+[\s-]?){0,2}(?:code|tan)\b<40>\b(?:sms|bekomm\w*|erhalt\w*|geschickt|gekommen|vor)\b|)"
      R"(\b(?:geef|noem|stuur|zeg|lees|deel)\b<30>\b(?:de\s+|die\s+)?(?:verificatie|beveiligings|sms-?)?code\b<40>\b(?:sms|kreeg|ontv\w+|zojuist|cijfers)\b(?!<25>\bniemand\b)|\bcode\b<30>\b(?:cijfers|per\s+ongeluk|sms)\b<50>\b(?:doorsturen|sturen|geven|noemen)\b|\b(?:stuur|geef|zeg|app)\b<12>\b(?:zes|vier|6|4)\s+(?:cijfers|nummers)\b|\b(?:lees\s+mij|geef\s+mij|noem|zeg)\b<20>\b(?:code|nummer|cijfers)\b<25>\b(?:sms|bericht)\b|\b(?:geef|noem|bevestig|zeg|stuur)\b[^.!?]{0,15}\b(?:code)\b[^.!?]{0,12}\b(?:gekregen|ontvangen|binnenkrijgt)\b|)"
      R"(\b(?:communique[rz]|donne[rz]|envoie|envoye[rz]|transfère|transférer|transmet\w*|dicte[rz]|lis(?:ez)?|indique[rz])\b<30>\bcodes?\b<40>\b(?:sms|reçu|recevoir|vérification|chiffres|texto)\b(?!<30>\bpersonne\b)|\bcode\b<30>\b(?:chiffres|sms|vérification|par\s+erreur)\b<40>\b(?:transférer|renvoyer|envoyer|donner|me\s+le)\b|\b(?:envoie|envoye[rz]|donne[rz]?|dis|transmets?|transfère)\b<20>\b(?:six|quatre|6|4)\s+(?:chiffres|numéros)\b|\b(?:confirmez|donnez|dites|lisez|communiquez)\b[^.!?]{0,15}\b(?:code)\b[^.!?]{0,12}\b(?:vous\s+avez\s+reçu|reçu|vient\s+d[\'’]arriver)\b|)"
-     R"(\b(?:comunic\w+|invi(?!t|sib|nc|gor)\w+|mand(?!at|ar|y\b)\w+|gir\w+|dimmi|dica|detti|fornisc\w+|inoltr\w+)\b<30>\bcodice\b<40>\b(?:sms|ricevut\w+|verifica|cifre|arrivat\w+)\b(?!<25>\bnessuno\b)|\bcodice\b<30>\b(?:cifre|sms|verifica|sbaglio)\b<40>\b(?:girare|mandare|inviare|inoltrare|me\s+lo)\b|\b(?:mandami|inviami|girami|dimmi|dammi|mi\s+mandi)\b<12>\b(?:sei|quattro|6|4)\s+(?:cifre|numeri)\b|)"
+     R"(\b(?:comunic\w+|invi(?!t|sib|nc|gor)\w+|mand(?!at|ar|y\b)\w+|gir\w+|dimmi|dica|detti|fornisc\w+|inoltr\w+)\b<30>\bcodice\b<40>\b(?:sms|ricevut\w+|verifica|cifre|arrivat\w+)\b(?!<25>\bnessuno\b)|\bcodice\b<30>\b(?:cifre|sms|verifica|sbaglio)\b<40>\b(?:girare|mandare|inviare|inoltrare|me\s+lo)\b|\b(?:mandami|inviami|girami|dimmi|dammi|mi\s+mandi)\b<12>\b(?:sei|quattro|6|4)\s+(?:cifre|numeri)\b|\b(?:mand\w+|dett\w+|invi\w+|gir\w+|dica|leg\w+|comunich\w+)\b<20>\b(?:il|quel)\s+codice\b<40>\b(?:arrivat\w|ricevut\w|sms|arriva)\b|)"
      R"(\b(?:d[íi]ganos|d[íi]game|dime|env[íi](?!ron|ous|sion|able)\w+|pas[aá]\w*|pasar|m[áa]nd\w+|dict\w+|facil[íi]\w+|comunique)\b<30>\bc[óo]digo\b<40>\b(?:sms|lleg[óo]|recib\w+|verificaci[óo]n|seis|6|d[íi]gitos)\b(?!<25>\bnadie\b)|\bc[óo]digo\b<30>\b(?:d[íi]gitos|sms|verificaci[óo]n|por\s+error)\b<40>\b(?:pasar|mandar|enviar|reenviar|decir)\b|\b(?:m[áa]nda\w*|env[íi]a\w*|p[áa]sa\w*|dime|dame|d[íi]game)\b<15>\b(?:seis|cuatro|6|4)\s+(?:d[íi]gitos|n[úu]meros|cifras)\b|\b(?:d[íi]game|dime|facil[íi]teme|d[íi]cteme|conf[íi]rmeme)\b<12>\bclave\b<30>\b(?:sms|recibi\w*|recibir|lleg\w+)\b|\b(?:d[íi]game|deme|l[ée]ame|facil[íi]teme)\b<20>\b(?:c[óo]digo|n[úu]mero|clave|d[íi]gitos)\b<25>\b(?:sms|mensaje)\b|)"
      R"(\b(?:confirma|confirme|informe|informa|passa|passar|manda|mande|envia|envie|diga|fala)\b<30>\bc[óo]digo\b<40>\b(?:sms|chegou|receb\w+|verifica[çc][ãa]o|d[íi]gitos|enviamos)\b(?!<25>\bningu[ée]m\b)|\bc[óo]digo\b<30>\b(?:d[íi]gitos|sms|sem\s+querer|por\s+engano)\b<50>\b(?:passar|mandar|enviar|me\s+dizer|encaminhar)\b|)"
-     R"(\b(?:назовите|продиктуйте|сообщите|пришлите|перешли\w*|скинь\w*|скажи\w*|отправьте)\b<25>\bкод\w?\b<25>\b(?:смс|sms|из|цифр\w*|сообщени\w+|который)\b(?!<20>\bникому\b)|\bслучайно\b<20>\bкод\b<50>\b(?:перешли|пришли|скинь|отправь)\b|\b(?:скинь|пришли|отправь|назови|продиктуй|скажи)\w*\b<12>\b(?:шесть|четыре|6|4)\s+цифр\w*\b|\bкод\b<50>\bпродиктуй\w*\b|\bпродиктуйте\b<15>\bкод\b|)"
+     R"(\b(?:назовите|продиктуйте|сообщите|пришлите|перешли\w*|скинь\w*|скажи\w*|отправьте)\b<25>\bкод\w?\b<25>\b(?:смс|sms|из|цифр\w*|сообщени\w+|который)\b(?!<20>\bникому\b)|\bслучайно\b<20>\bкод\b<50>\b(?:перешли|пришли|скинь|отправь)\b|\b(?:скинь|пришли|отправь|назови|продиктуй|скажи)\w*\b<12>\b(?:шесть|четыре|6|4)\s+цифр\w*\b|\bкод\b<50>\bпродиктуй\w*\b|\bпродиктуйте\b<15>\bкод\b|\b(?:пришли\w*|скинь\w*|продиктуй\w*|назовите)\b<15>\bкод\b<20>\b(?:смс|который|придёт|пришёл|пришел)\b|)"
      R"((?:(?:请|請|麻[烦煩]|[把将將])[\s\S]{0,20}|发|發)(?:短信)?[验驗][证證][码碼][\s\S]{0,16}(?:告[诉訴]我|[发發][给給]我|提供[给給]|[报報][给給]|[转轉][发發][给給]|念[给給])|(?:[六四6４４]|六位|四位)[个個位]?(?:[数數]字|[号號][码碼])[\s\S]{0,4}(?:[发發][给給]?我|告[诉訴]我|[报報][给給]我)|)"
      R"((?:認証コード|認証番号|6桁の番号|確認コード)[\s\S]{0,30}(?:教えてもら|教えてくだ|返信して|送って|転送)(?![\s\S]{0,4}ない)|(?:六|四|6|4|6)桁の(?:数字|番号|コード)[\s\S]{0,4}(?:を)?(?:送って|教えて|転送)|番号を読み上げて|)"
-     R"((?:인증 ?번호|인증 ?코드|6자리)[\s\S]{0,20}(?:불러|알려 ?(?:주세요|줘|주시|달라)|보내 ?(?:주세요|줘|주시)|좀)(?![\s\S]{0,4}(?:마세요|말))|(?:여섯|6|네|4) ?자리 ?(?:숫자|번호)?[\s\S]{0,6}(?:보내|알려 ?줘|불러)|인증 ?번호[\s\S]{0,24}(?:갔을|갔는데)[\s\S]{0,8}알려|문자로 ?온 ?번호를? ?(?:불러|알려)|받으신 ?인증 ?번호를? ?(?:말씀|알려|불러)|)"
      R"(\b(?:confermi|mi\s+dia|mi\s+dica|legga|comunichi)\b[^.!?]{0,15}\b(?:codice)\b[^.!?]{0,12}\b(?:arrivat[oa]|ricevut[oa])\b|\b(?:confirme|d[íi]game|deme|env[íi]eme|lea)\b[^.!?]{0,15}\b(?:c[óo]digo)\b[^.!?]{0,12}\b(?:ha\s+llegado|recibido|recibi[óo]|lleg[óo])\b|)"
      R"(\bcode\b<40>[\s\S]{0,3}\b(?:schick\w*|nenn\w*|sag\w*|gib|geben|leit\w*|lies)\b<12>\b(?:mir|uns|ihn)\b|)"
      R"(\bcode\b<20>[\s\S]{0,3}\b(?:stuur|geef|geeft|lees|app|noem)\b<12>\b(?:die|hem|me|mij|ons)\b|)"
@@ -439,7 +448,14 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:c[óo]digo|clave)\b<40>[\s\S]{0,3}\b(?:me\s+l[oa]|p[áa]sam\w+|env[íi]am\w*|d[íi]ga\w*|mand\w+|dict\w+)\b|\breenv[íi]\w+\b<25>\b(?:c[óo]digo|clave)\b|)"
      R"(\b(?:c[óo]digo|numerozinho|n[úu]mero)\s+por\s+(?:mensagem|sms|whatsapp)\b<20>[\s\S]{0,3}\b(?:me\s+(?:passa|manda|envia|diz)|(?:passa|manda|envia|informe)\w*)\b|)"
      R"(\bкод\b<20>[\s\S]{0,3}\b(?:скинь|пришли\w*|назови\w*|продиктуй\w*|сообщи\w*)\b<8>\b(?:его|мне|сюда|оператору)\b|)"
-     R"((?:[验驗][证證][码碼]|[认認][证證][码碼])[\s\S]{0,16}(?:截[图圖]|[发發]|告[诉訴]|[传傳]|[报報])[\s\S]{0,4}(?:[给給]我|我))"); }),
+     R"((?:[验驗][证證][码碼]|[认認][证證][码碼])[\s\S]{0,16}(?:截[图圖]|[发發]|告[诉訴]|[传傳]|[报報])[\s\S]{0,4}(?:[给給]我|我)|)"
+     R"(\b(?:stuur|geef|app|lees|noem)\b<20>\b(?:de|die)\s+(?:\w+\s+)?code\b<40>\b(?:sms|kreeg|krijgt|ontvang\w+|gekregen|binnen)\b|)"
+     R"(\b(?:donne\w*|envoie\w*|transfère\w*|dicte\w*|lis\w*|dites|communiqu\w+)\b<20>\b(?:le|ce)\s+(?:code|numéro)\b<40>\b(?:reçu\w*|sms|recevoir|vient|arriv\w+|texto)\b|)"
+     R"(\b(?:d[íi]ctem\w*|d[íi]ctam\w*|m[áa]nd[ae]m\w*|env[íi]em\w*|comp[áa]rt\w+)\b<20>\b(?:el|ese)\s+c[óo]digo\b|)"
+     R"(\b(?:me\s+(?:manda|passa|envia|dita)|manda-me|diga-me)\b<15>\b(?:o|esse)\s+c[óo]digo\b|)"
+     R"((?:把|[报報]|[发發]|[给給])[\s\S]{0,8}(?:[验驗][证證][码碼]|短信[码碼]|[数數]字)[\s\S]{0,6}(?:[给給]我|[报報]|[发發][过過]?[来來]|告[诉訴]我)|收到[\s\S]{0,10}[码碼][\s\S]{0,10}(?:[发發]|[给給]|告[诉訴])(?:[给給])?我|)"
+     R"((?:コード|届いた番号|届いた数字)を?[\s\S]{0,6}(?:送って|教えて|転送して)(?:くれ|もらえ|ほしい|ください|欲しい)|)"
+     R"((?:코드|문자)[\s\S]{0,10}(?:캡[처쳐]|전달|알려|불러|보내)[\s\S]{0,2}(?:줘|주세요|주시면|줄래))"); }),
      true},
     {"cred-mfa-fatigue", "Credential phishing", "warn", 35,
      "asks the reader to approve a sign-in prompt on their phone",
@@ -704,7 +720,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:attached|enclosed)\b<25>\bach\s+(?:form|enrol?lment)\b|\bach\s+(?:form|enrol?lment)\b<30>\b(?:attached|enclosed|new)\b|)"
      R"(\b(?:opened|have|got)\s+a\s+new\s+(?:bank\s+)?account\b<byhand><80>\b(?:salary|payroll|wages)\b|\bpay\s?(?:stub|slip)\b<40>\bold\s+(?:account|bank)\b|)"
      R"(\bwiring\s+instructions?\b<60>\b(?:replaced|updated|changed|disregard)\b|\b(?:disregard|ignore)\b<20>\b(?:details|instructions?)\b<20>\bin\s+(?:our|my)\s+(?:previous|earlier|last)\b|)"
-     R"(\b(?:alterar|mudar|trocar)\s+(?:a\s+)?conta\b<60>\b(?:salário|pagamento)\b|)"
+     R"(\b(?:alterar|mudar|trocar)\s+(?:a\s+)?conta\b<byhand><60>\b(?:salário|pagamento)\b|)"
      R"(\bour\s+(?:\w+\s+){0,3}account\b<40>\b(?:is|was|has\s+been|remains)\s+(?:currently\s+|temporarily\s+|now\s+)*(?:on\s+hold|frozen|closed|inactive|unavailable|under\s+(?:audit|review)|being\s+audited|restricted)\b|)"
      R"(\b(?:not\s+to\s+use|stop\s+using|(?:do\s+not|don['’]t|no\s+longer)\s+use)\b<12>\b(?:our|my|that|this)\s+(?:\w+\s+)?(?:bank\s+)?account\b|)"
      R"(\b(?:pay|paid|send|sent|remit|wire|wired|deposit|put)\b<60>\b(?:our|an?|the)\s+(?:other|alternate|alternative|different)\s+(?:bank\s+)?account\b|)"
@@ -722,10 +738,10 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:unsere?|meine?)\b<15>\b(?:bankverbindung|bankdaten|kontodaten|kontoverbindung|iban)\b<40>\b(?:geändert|gewechselt|aktualisiert|neu|ändert)\b|)"
      R"(\b(?:neuen?|geänderten?|aktualisierten?)\s+(?:bankverbindung|bankdaten|kontodaten|kontoverbindung|iban)\b<byhand>|)"
      R"(\b(?:nos|mes|nouvelles?|nouveaux?)\s+(?:nouvelles\s+|nouveaux\s+)?coordonnées\s+bancaires\b<40>\b(?:chang|modifi|mise\s+à\s+jour|nouvelles?|ci-(?:joint|dessous))|)"
-     R"(\b(?:changement|modification)\s+(?:de\s+(?:nos\s+|mes\s+)?|des\s+)(?:coordonnées\s+bancaires|rib|iban|compte\s+bancaire|domiciliation)\b|)"
-     R"(\bnouve(?:au|l|lles)\s+(?:rib|iban|coordonnées\s+bancaires|compte\s+bancaire)\b|)"
+     R"(\b(?:changement|modification)\s+(?:de\s+(?:nos\s+|mes\s+)?|des\s+)(?:coordonnées\s+bancaires|rib|iban|compte\s+bancaire|domiciliation)\b<byhand>|)"
+     R"(\bnouve(?:au|l|lles)\s+(?:rib|iban|coordonnées\s+bancaires|compte\s+bancaire)\b<byhand>|)"
      R"(\b(?:nuev[oa]s?|cambi\w+|actualiz\w+)\b<20>\b(?:nuestr[oa]s?\s+|mis?\s+)?(?:datos\s+bancarios|cuenta\s+bancaria|datos\s+de\s+pago|n[úu]mero\s+de\s+cuenta)\b<byhand>|)"
-     R"(\b(?:nov[oa]s?|alter\w+|mudan\w+|atualiz\w+)\b<20>\b(?:noss[oa]s?\s+|meus?\s+)?(?:dados\s+banc[áa]rios|conta\s+banc[áa]ria)\b|)"
+     R"(\b(?:nov[oa]s?|alter\w+|mudan\w+|atualiz\w+)\b<20>\b(?:noss[oa]s?\s+|meus?\s+)?(?:dados\s+banc[áa]rios|conta\s+banc[áa]ria)\b<byhand>|)"
      R"(\b(?:nieuwe?|gewijzigde?|ons|onze)\b<15>\b(?:bankgegevens|rekeningnummer|bankrekening)\b<40>\b(?:gewijzigd|veranderd|nieuwe?|voortaan)\b|)"
      R"((?:更改|变更|變更|更换|更換|新的)<8>(?:银行账户|銀行帳戶|收款账户|收款帳戶|银行账号|銀行帳號|收款账号|银行信息)|)"
      R"((?:銀行口座|振込先|振込口座)<12>(?:変更(?!する|を希望|され|届|の(?:場合|方|際))|新しい)|)"
@@ -733,7 +749,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:gehaltskonto|gehalt|lohn)\b<byhand><50>\b(?:ändern|neue[ns]?\s+(?:konto|iban)|umstellen)\b|\b(?:gehalt|lohn)\b<40>\b(?:dorthin|darauf)\b<12>\büberweis\w*|\b(?:begleichen|überweisen|zahlen)\b[^.!?]{0,60}\bkonto\s+in\s+\w+[^.!?]{0,20}\b(?:bis\s+auf\s+weiteres|vorübergehend|vorläufig)\b|\b(?:bis\s+auf\s+weiteres|vorübergehend|vorläufig)\b[^.!?]{0,40}\bkonto\s+in\s+\w+|)"
      R"(\b(?:rekeningnummer|bankgegevens|iban|bankrekening)\b<12>\b(?:is|zijn)\b<10>\b(?:gewijzigd|veranderd|aangepast)\b|\bsalaris\b<50>\bnieuwe\s+rekening\b|\bnieuwe\s+iban\b|\bnieuwe?\s+(?:bank)?rekeningnummer\b<40>\b(?:voldoe\w*|betal\w+|overmaken|storten|bijlage)\b|\b(?:voldoe\w*|betal\w+|overmaken)\b<40>\bnieuwe?\s+(?:bank)?rekeningnummer\b|\bsalaris\b<30>\bdaarop\s+storten\b|\b(?:voldoen|betalen|overmaken)\b[^.!?]{0,60}\brekening\s+in\s+\w+[^.!?]{0,20}\b(?:tot\s+nader\s+order|voorlopig|tijdelijk)\b|\b(?:tot\s+nader\s+order|voorlopig|tijdelijk)\b[^.!?]{0,40}\brekening\s+in\s+\w+|)"
      R"(\b(?:nouveau|nouvelle)\s+(?:rib|iban|compte|coordonnées)\b<60>\b(?:salaire|paie|versement|virement|règlement)\b|\b(?:régler|payer|virer|verser)\b[^.!?]{0,60}\bcompte\s+(?:au|en)\s+\w+[^.!?]{0,20}\b(?:jusqu[\'’]à\s+nouvel\s+ordre|provisoirement|temporairement)\b|\b(?:jusqu[\'’]à\s+nouvel\s+ordre|provisoirement|temporairement)\b[^.!?]{0,40}\bcompte\s+(?:au|en)\s+\w+|)"
-     R"(\b(?:coordinate\s+bancarie|iban|conto\s+corrente)\b<20>\b(?:sono\s+cambiat[ie]|è\s+cambiato|modificat[oaie]|variat[oaie])\b|\bnuov[oe]\s+(?:iban|coordinate\s+bancarie)\b|\b(?:accredit|effettu|pag|vers|bonific)\w*\b<30>\bnuovo\s+conto\b|\b(?:versare|saldare|pagare)\b[^.!?]{0,60}\bconto\s+in\s+\w+[^.!?]{0,20}\b(?:fino\s+a\s+nuovo\s+avviso|temporaneamente|provvisoriamente)\b|\b(?:fino\s+a\s+nuovo\s+avviso|temporaneamente|provvisoriamente)\b[^.!?]{0,40}\bconto\s+in\s+\w+|)"
+     R"(\b(?:coordinate\s+bancarie|iban|conto\s+corrente)\b<20>\b(?:sono\s+cambiat[ie]|è\s+cambiato|modificat[oaie]|variat[oaie])\b|\bnuov[oe]\s+(?:iban|coordinate\s+bancarie)\b<byhand>|\b(?:accredit|effettu|pag|vers|bonific)\w*\b<30>\bnuovo\s+conto\b|\b(?:versare|saldare|pagare)\b[^.!?]{0,60}\bconto\s+in\s+\w+[^.!?]{0,20}\b(?:fino\s+a\s+nuovo\s+avviso|temporaneamente|provvisoriamente)\b|\b(?:fino\s+a\s+nuovo\s+avviso|temporaneamente|provvisoriamente)\b[^.!?]{0,40}\bconto\s+in\s+\w+|)"
      R"(\bcambiado\s+(?:de|nuestra|la)\s+(?:cuenta|banco)\b<byhand>|\b(?:abonar|pagar|liquidar)\b[^.!?]{0,60}\bcuenta\s+en\s+\w+[^.!?]{0,20}\b(?:hasta\s+nuevo\s+aviso|de\s+momento|temporalmente)\b|\b(?:hasta\s+nuevo\s+aviso|de\s+momento|temporalmente)\b[^.!?]{0,40}\bcuenta\s+en\s+\w+|)"
      R"(\b(?:alteramos|mudamos|trocamos|alterou|mudou)\b<20>\bconta\s+banc[áa]ria\b|\b(?:sal[áa]rio|ordenado)\b<50>\bnov(?:a\s+conta|os\s+dados\s+banc[áa]rios|o\s+iban)\b|\bnova\s+conta\b<20>\b(?:em\s+anexo|abaixo|indicada)\b|\bsal[áa]rio\b<60>\bconta\s+nova\b|\b(?:liquidem|paguem|efetuem|transfiram)\b[^.!?]{0,60}\bconta\s+d[ao]\s+\w+[^.!?]{0,20}\b(?:at[ée]\s+novo\s+aviso|por\s+enquanto|temporariamente)\b|\b(?:at[ée]\s+novo\s+aviso|por\s+enquanto|temporariamente)\b[^.!?]{0,40}\bconta\s+d[ao]\s+\w+|)"
      R"(\b(?:изменились|сменились|новые)\b<15>\b(?:банковские|платежные|платёжные)\s+реквизиты\b|\b(?:зарплат\w+|заработн\w+)\b<25>\bна\s+(?:новую|другую)\s+карт\w+\b|\bна\s+новые\s+реквизиты\b|\bпогасить\b<30>\bна\s+наш\s+сч[её]т\s+в\s+(?:другом|новом)\s+банке\b|)"
@@ -753,6 +769,7 @@ constexpr auto table = std::to_array<Rule>({
     {"bec-update-payment", "Payment redirection", "warn", 50,
      "asks for stored payment or payee details to be changed",
      pattern([] { return std::string_view(
+     R"(\b(?:direct\s+deposit|payroll|salary|wages)\b<40>\b(?:bank|account|details|routing)\b<40>\b(?:chang\w+|updat\w+|switch\w+|new)\b|\b(?:closed|lost\s+access\s+to|changed)\s+my\s+(?:old\s+)?(?:bank|account)\b|)"
      R"(\b(?:salary|pay|wages|direct\s+deposit|pay\s?check)\b<40>\b(?:updated?|changed?|go|into|to)\b<20>\b(?:new|another|different|there|before\s+this)\b|\bopened\s+an\s+account\b<60>\bpay\b|)"
      R"(\b(?:pls|please|kindly|could\s+you|can\s+you)\b<8>\b(?:swap|replace|change)\s+the\b<8>\b(?:account|card|iban)\b|)"
      R"(\b(?:my|his|her)\s+(?:salary|wages|pay|pay\s?che(?:ck|que)|direct\s+deposit|payroll)\b<80>\b(?:new|different|another|other|alternate)\s+(?:\w+\s+)?(?:account|bank)\b|\bchange\s+where\b<25>\b(?:gets?|is|are)\s+paid\b|)"
@@ -770,14 +787,14 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:use|note|save|find|adopt|view)\b<25>\b(?:the|our|my|these|this|following|corrected)\s+(?:new\s+|updated\s+|revised\s+|amended\s+|correct\s+|corrected\s+)(?:\w+\s+){0,2}(?:account|details|instructions|information)\b<40>\b(?:payments?|remit\w*|invoices?|transfers?|deposits?|wires?|transactions?)\b|)"
      R"(\b(?:please\s+|kindly\s+)(?:update|amend)\s+your\s+(?:records|files?|system|vendor\s+(?:file|record))\b<80>\b(?:bank|account|remit\w*|payments?|acknowledge|confirm)\b|)"
      R"(\b(?:ändern|aktualisieren|hinterlegen|anpassen)\b<40>\b(?:bankverbindung|bankdaten|kontodaten|iban|gehaltskonto)\b|)"
-     R"(\b(?:bankverbindung|bankdaten|kontodaten|kontoverbindung|iban|gehaltskonto)\b<50>\b(?:gehalt\w*|lohn\w*|hinterleg\w+|aktualisier\w+|anpass\w+)\b|)"
-     R"(\b(?:mett(?:re|ez)\s+à\s+jour|modifie[rz]|remplace[rz]|changer)\b<30>\b(?:nos|mes|notre|mon|le)\s+(?:coordonnées\s+bancaires|rib|iban|compte)\b|)"
+     R"(\b(?:bankverbindung|bankdaten|kontodaten|kontoverbindung|iban|gehaltskonto)\b<50>\b(?:gehalt\w*|lohn\w*|hinterleg\w+|aktualisier\w+|anpass\w+)\b|\bmeine?\s+(?:bankverbindung|kontodaten|bankdaten|iban)\b<30>\b(?:ändern|aktualisieren|geändert|anpassen|hinterlegen)\b|)"
+     R"(\b(?:mett(?:re|ez)\s+à\s+jour|modifie[rz]|remplace[rz]|changer)\b<30>\b(?:nos|mes|notre|mon|le)\s+(?:coordonnées\s+bancaires|rib|iban|compte)\b|\bmes?\s+(?:coordonnées\s+bancaires|rib|iban|compte)\b<30>\b(?:modifier|changer|mettre\s+à\s+jour|actualiser)\b|\b(?:modifier|changer|mettre\s+à\s+jour)\b<15>\bm(?:on|es)\s+(?:rib|iban|coordonnées\s+bancaires)\b|)"
      R"(\b(?:actuali[cz]\w+|cambi\w+|atualiz\w+|alter\w+)\b<25>\b(?:mis?|nuestr[oa]s?|meus?|minha|noss[oa]s?)\s+(?:datos\s+bancarios|cuenta|dados\s+banc[áa]rios|conta)\b|)"
      R"(\b(?:bank\s+gewechselt|neue[ns]?\s+(?:konto|iban|bankverbindung))\b<byhand>[\s\S]{0,80}\b(?:gehalt\w*|lohn|abrechnung)\b|\b(?:gehaltskonto|gehalt|lohn)\b<byhand>[\s\S]{0,80}\bneue[ns]?\s+(?:konto|iban|bankverbindung)\b|)"
      R"(\bvan\s+bank\s+veranderd\b[\s\S]{0,80}\b(?:salaris|rekening|loon)\b|\b(?:salaris|loon)\b<60>\bnieuwe\s+(?:rekening|bank|iban)\b|\bsalaris\b<30>\b(?:daarop|op\s+mijn\s+nieuwe)\b|)"
      R"(\bchangé\s+de\s+banque\b<byhand>[\s\S]{0,80}\b(?:salaire|paie|rib|virement)\b|\b(?:salaire|paie)\b<60>\bnouveau\s+(?:rib|compte|iban)\b|)"
-     R"(\bcambiato\s+banca\b[\s\S]{0,80}\b(?:stipendio|iban|accredit\w+)\b|)"
-     R"(\bcambiado\s+de\s+banco\b<80>\b(?:n[óo]mina|salario|sueldo|ingresar)\b|\b(?:n[óo]mina|salario|sueldo)\b<50>\b(?:nueva|otra)\s+cuenta\b|)"
+     R"(\bcambiato\s+banca\b<byhand>[\s\S]{0,80}\b(?:stipendio|iban|accredit\w+)\b|)"
+     R"(\bcambiado\s+de\s+banco\b<80>\b(?:n[óo]mina|salario|sueldo|ingresar)\b|\b(?:n[óo]mina|salario|sueldo)\b<50>\b(?:nueva|otra)\s+cuenta\b|\b(?:n[óo]mina|sueldo|salario|planilla)\b<50>\b(?:nuev[oa]|otra|cambi\w+|modific\w+)\b|\b(?:modificar|cambiar|actualizar)\b<20>\bcuenta\s+(?:sueldo|n[óo]mina|de\s+(?:pago|abono))\b|)"
      R"(\b(?:mudei|troquei)\s+de\s+banco\b<80>\b(?:sal[áa]rio|ordenado|conta)\b|)"
      R"(\bсменил\w?\s+банк\b<60>\b(?:зарплат\w+|карт\w+|перечисл\w+)\b|)"
      R"((?:[换換]|更[换換])(?:了)?[银銀]行卡?[\s\S]{0,20}(?:工[资資]|薪[资資水])|)"
@@ -788,12 +805,17 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:loon|salaris)\b<40>\b(?:onderstaand|nieuw|andere?|ander)\s+(?:\w+\s+)?(?:iban|rekening\w*|bank)\b|)"
      R"(\b(?:salaire|paie|paye|virement\s+de\s+salaire)\b<40>\b(?:nouve\w+|autre)\s+(?:compte|rib|iban)\b|)"
      R"(\b(?:stipendio|emolumenti|busta\s+paga)\b<50>\b(?:accreditat\w|nuov[oa]|altr[oa]|l[ìi])\b|\b(?:iban|conto|coordinate)\b<40>\b(?:stipendio|emolumenti)\b|)"
-     R"(\b(?:n[óo]mina|sueldo|salario|planilla)\b<50>\b(?:nuev[oa]|otra|cambi\w+|modific\w+)\b|\b(?:modificar|cambiar|actualizar)\b<20>\bcuenta\s+(?:sueldo|n[óo]mina|de\s+(?:pago|abono))\b|)"
      R"(\b(?:iban|nib|conta|pix)\b<25>\b(?:ordenado|vencimento|sal[áa]rio)\b|\b(?:ordenado|vencimento|sal[áa]rio)\b<40>\b(?:nov[oa]|outr[oa])\s+(?:conta|iban|nib|banco)\b|)"
      R"(\b(?:зарплат\w+|заработн\w+)\b<40>\b(?:нов\w+|друг\w+)\s+(?:карт\w+|счёт|счет|реквизит\w+)\b|\bномер\s+зарплатной\s+карты\b|)"
-     R"((?:薪[资資轉转]|工[资資])[\s\S]{0,16}(?:[改换換变變]|重新|新)[\s\S]{0,10}(?:[账帳賬][户戶]|卡)|(?:重新)[\s\S]{0,6}薪[资資轉转]|)"
+     R"((?:薪[资資轉转]|工[资資])[\s\S]{0,16}(?:[改换換变變]|重新|新)[\s\S]{0,10}(?:[账帳賬][户戶]|卡)|(?:重新)[\s\S]{0,6}薪[资資轉转]|(?:工[资資]|薪[资資水])[\s\S]{0,10}(?:[发發]到|打到|[换換]|[转轉]到)[\s\S]{0,8}(?:新|[这這]|另)|)"
      R"((?:給与|給料|振込口座)[\s\S]{0,24}(?:再登録|新しい口座|別の口座)|)"
-     R"((?:급여|월급)[\s\S]{0,4}(?:통장|계좌)?[\s\S]{0,16}(?:바꿔|아래 ?계좌|새 ?계좌))"); }),
+     R"((?:급여|월급)[\s\S]{0,4}(?:통장|계좌)?[\s\S]{0,16}(?:바꿔|아래 ?계좌|새 ?계좌)|)"
+     R"(\b(?:mijn)\s+(?:rekeningnummer|iban|bankgegevens|rekening)\b<25>\b(?:wijzigen|aanpassen|veranderen|veranderd|gewijzigd)\b|)"
+     R"(\b(?:cambiare|modificare|aggiornare|variare)\b<15>\b(?:il\s+mio|le\s+mie)\s+(?:iban|conto|coordinate)\b|)"
+     R"(\b(?:cambiar|modificar|actualizar)\b<12>\bmi\s+(?:cuenta|iban|clabe|n[úu]mero\s+de\s+cuenta)\b|)"
+     R"(\b(?:mudar|alterar|atualizar|trocar)\b<12>\b(?:o\s+meu|minha|meu)\s+(?:iban|nib|conta|pix)\b|)"
+     R"((?:給料|給与)[\s\S]{0,12}(?:この口座|新しい|別の|下記)|)"
+     R"((?:급여|월급)[\s\S]{0,12}(?:이 ?계좌|신규|새로운|다른 ?통장))"); }),
      true},
     {"bec-redirect-payment", "Payment redirection", "warn", 50,
      "asks for payments to go to a different account than before",
@@ -836,6 +858,7 @@ constexpr auto table = std::to_array<Rule>({
     {"bec-urgent-wire", "Payment redirection", "warn", 45,
      "presses for an urgent payment or transfer",
      pattern([] { return std::string_view(
+     R"(\b(?:surgery|operation|transplant|orphan\w*|flood|earthquake|shelter|refugees?|victims)\b[\s\S]{0,60}\b(?:bitcoin|gift\s+cards?|crypto|cash\s?app|paypal|vouchers?|western\s+union|moneygram|zelle|wallet)\b|)"
      R"(\b(?:donat\w+|send|give|deposit)\b<40>\b(?:direct|straight|cash\s?app|crypto|bitcoin|paypal\s+friends)\b<40>\b(?:uncle|aunt\w*|volunteer|coordinator|organi[sz]er|mobile|family)\b|\b(?:donate|contribut\w+|donations?)\b<20>\b(?:by|in|with|via)\s+(?:gift\s+cards?|bitcoin|crypto|vouchers?)\b|\bany\s+amount\s+in\s+(?:bitcoin|gift)|)"
      R"(\b(?:payment|transfer|invoice|wire|money)\b<25>\b(?:must|has\s+to|needs?\s+to)\s+(?:reach|leave|go|arrive|be\s+(?:made|sent|paid))\b<25>\b(?:today|tonight|now|before|by)\b|)"
      R"(\b(?:wire|transfer|remit|send|pay|wiring|transferring|sending)\s+(?:out\s+|over\s+|us\s+|them\s+|him\s+|me\s+)?<amount><80>\b(?:today|urgent\w*|immediately|asap|at\s+once|straight\s+away|right\s+away|before\s+(?:noon|close|the\s+bank)|within\s+the\s+hour|by\s+(?:noon|close|\d+\s?[ap]m))\b|)"
@@ -889,7 +912,14 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:приют|малыш\w*|лечени\w+|операци\w+)\b[\s\S]{0,60}\b(?:на\s+карту\s+(?:куратор\w*|мам\w+|тёт\w+|врач\w+|волонт\w+))\b|)"
      R"((?:好心人|救救|白血病|手[术術][费費])[\s\S]{0,60}(?:[个個]人微信|下面的卡|微信[转轉]|[转轉]到|支付[宝寶])|)"
      R"((?:手術|難病|募金|寄付)[\s\S]{0,50}(?:ビットコイン|ギフト券|個人口座|PayPay)|)"
-     R"((?:모금|후원금?|기부|난민|수술)[\s\S]{0,50}(?:비트코인|핀번호|상품권|개인 ?계좌))"); }),
+     R"((?:모금|후원금?|기부|난민|수술)[\s\S]{0,50}(?:비트코인|핀번호|상품권|개인 ?계좌)|(?:기부|후원|성금|수해|고아|환자)[\s\S]{0,40}(?:코인|비트코인|상품권|제 ?계좌|카톡 ?송금)|)"
+     R"(\b(?:operation|waisen\w*|tierheim|flut\w*|erdbeben|flüchtling\w*|krank\w*|krebs)\b[\s\S]{0,60}\b(?:bitcoin|paypal|gutschein\w*|privat\w*konto|western\s+union|wallet)\b|)"
+     R"(\b(?:operatie|wezen|asiel|overstroming|aardbeving|vluchtelingen|ziekte|kanker)\b[\s\S]{0,60}\b(?:bitcoin|tikkie|paypal|cadeaukaart\w*|rekening\s+van|western\s+union)\b|)"
+     R"(\b(?:opération|orphelin\w*|refuge|inondation\w*|séisme|réfugiés|cancer|malade)\b[\s\S]{0,60}\b(?:bitcoin|paypal|pcs|coupons?|mandat|western\s+union|portefeuille)\b|)"
+     R"(\b(?:operazione|orfan\w+|rifugio|alluvione|terremoto|profughi|malat\w|cancro)\b[\s\S]{0,60}\b(?:bitcoin|postepay|paypal|ricarica|western\s+union|iban\s+personale)\b|)"
+     R"(\b(?:operaci[óo]n|hu[ée]rfan\w+|refugio|inundaci\w+|terremoto|refugiados|enferm\w|c[áa]ncer|protectora)\b[\s\S]{0,60}\b(?:bitcoin|bizum|paypal|tarjetas?\s+regalo|western\s+union|nequi|mi\s+cuenta)\b|)"
+     R"(\b(?:cirurgia|[óo]rf[ãa]os?|abrigo|enchente\w*|terremoto|refugiados|doente|c[âa]ncer|inje[çc][ãa]o|canil)\b[\s\S]{0,60}\b(?:bitcoin|pix|mb\s?way|vaquinha|conta\s+(?:pessoal|d[aeo]))\b|)"
+     R"((?:捐款|捐助|[爱愛]心|[灾災][区區民]|[孤]儿|手[术術]|重病)[\s\S]{0,40}(?:比特[币幣]|[礼禮]品卡|[个個]人[账帳賬]?[户戶]|USDT|微信[转轉]|私人))"); }),
      true},
     {"bec-invoice-attached", "Payment redirection", "warn", 15,
      "sends an invoice or a payment document to open",
@@ -1036,6 +1066,7 @@ constexpr auto table = std::to_array<Rule>({
     {"bec-favor", "Payment redirection", "warn", 20,
      "asks for an unnamed favour or for urgent help",
      pattern([] { return std::string_view(
+     R"(\b(?:pay\s+(?:you|u)\s+back|fix\s+(?:you|u)\s+up|sort\s+(?:you|u)\s+out|give\s+it\s+back)\b|\bsend\s+(?:it|the\s+money)\s+to\s+(?:this|my\s+\w+['’]?s?)\b|\b(?:short|shy)\s+of\s+<amount>|)"
      R"(\b(?:can|could|will|would)\s+(?:you|u)\b<15>\b(?:send|shoot|wire|lend|transfer|pay|spot|cover)\b<15>(?:<amount>|[$£€]?\d[\d,.]{2,})|\b(?:send|pass|screenshot|forward)\s+(?:me\s+it|it\s+(?:over|here))\b|\b(?:they\s+)?needs?\s+(?:<amount>|\d+k)\s+before\b|\b(?:before|for)\s+(?:this|the\s+next)\s+(?:pay\s+)?run\b|\blend\s+me\s+the\b|)"
      R"(\bneed\s+to\s+pay\b<25>\b(?:today|tonight|right\s+now|by\s+tonight)\b|\bneed\s+bail\s+money\b|\b(?:could|can)\s+you\s+(?:please\s+)?(?:forward|resend)\s+it\b|\b(?:could|would|can)\s+(?:really\s+)?use\s+your\s+help\b|\b(?:get\s+it\s+back|pay\s+you\s+back|give\s+it\s+back)\b|\b(?:(?:have|need|got)\s+to\s+(?:urgently\s+)?(?:pay|transfer|settle)|must\s+(?:urgently\s+)?pay)\b[^.!?]{0,12}\d{2,}|)"
      R"(\b(?:on\s+my\s+behalf|do\s+it\s+from\s+your\s+side)\b|\bwhat\s+(?:information\s+)?do\s+you\s+need\s+from\s+me\b|)"
@@ -1061,7 +1092,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:kun|kan|zou)\s+(?:je|jij|u)\b<30>\b(?:voor\s+me|voor\s+mij)?<15>\b(?:betalen|overmaken|voorschieten|lenen)\b|\bmaak\s+het\s+(?:morgen|later)\s+(?:terug|over)\b|\bmoet\b<25>\b(?:vanavond|vandaag|morgen)\b<12>(?:<amount>|\d[\d.]+)<10>\bbetalen\b|\bwil\s+je\s+die\b<12>\bdoorsturen\b|\b(?:krijg\s+je\s+het\s+terug|betaal\s+ik\s+terug)\b|\bmoet\s+(?:met\s+spoed\s+|snel\s+|vandaag\s+|nog\s+)*\d{2,}[^.!?]{0,12}\b(?:betalen|overmaken|maak|stort)\b|)"
      R"(\b(?:tu\s+peux|peux-tu|pouvez-vous|pourrais-tu)\s+(?:me\s+|m['’])?\s?<25>\b(?:dépanner|avancer|prêter|virer|transférer|payer)\b|\b(?:il\s+faut\s+que\s+je|je\s+dois|faut\s+que\s+je)\b<20>\b(?:règle|paye|paie|payer|régler|verse)\b<15><amount>|\btu\s+peux\s+me\s+le\s+renvoyer\b|\b(?:je\s+te\s+(?:rends|rembourse))\b|)"
      R"(\b(?:puoi|potresti|può)\s+(?:farmi|fare|prestarmi|inviarmi|pagarmi)\b<25>\b(?:bonifico|ricarica|favore|soldi|pagamento)\b|\bdevo\s+pagare\b<12>(?:<amount>|\d)|\bme\s+lo\s+(?:giri|rimandi|inoltri)\b|\b(?:te\s+li\s+(?:ridò|rendo)|li\s+riavrai)\b|\b(?:devo\s+(?:urgentemente\s+|subito\s+)?pagare)\b[^.!?]{0,12}\d{2,}|)"
-     R"(\bme\s+(?:puedes|podr[íi]as|puede)\b<30>\b(?:hacer|prestar|mandar|pasar)\b<25>\b(?:transferencia|dinero|pago|dep[óo]sito|bizum)\b|\b(?:te|se)\s+l[oa]\s+(?:devuelvo|pago|regreso)\b<20>\b(?:ma[ñn]ana|hoy|luego|viernes|lunes)\b|\b(?:ma[ñn]ana|luego)\s+te\s+l[oa]\s+(?:devuelvo|pago|regreso)\b|\btengo\s+que\s+pagar\b<12>(?:<amount>|\d)|\bme\s+lo\s+puedes\s+reenviar\b|\b(?:te\s+lo\s+(?:regreso|devuelvo|pago))\b|)"
+     R"(\bme\s+(?:puedes|podr[íi]as|puede)\b<30>\b(?:hacer|prestar|mandar|pasar)\b<25>\b(?:transferencia|dinero|pago|dep[óo]sito|bizum)\b|\b(?:te|se)\s+l[oa]\s+(?:devuelvo|pago|regreso)\b<20>\b(?:ma[ñn]ana|hoy|luego|viernes|lunes)\b|\b(?:ma[ñn]ana|luego)\s+te\s+l[oa]\s+(?:devuelvo|pago|regreso)\b|\btengo\s+que\s+pagar\b<12>(?:<amount>|\d)|\bme\s+lo\s+puedes\s+reenviar\b|\b(?:te\s+lo\s+(?:regreso|devuelvo|pago))\b|\bte\s+(?:lo|los|la)\s+(?:devuelvo|regreso|pago)\b|\b(?:me\s+faltan|necesito)\b<10>\d{2,}|)"
      R"(\b(?:consegues?|pode|podes|poderia|d[áa]\s+pra)\b<20>\b(?:fazer|pagar|transferir|emprestar)\b<20>\b(?:transfer[êe]ncia|pix|boleto|dinheiro|conta)\b|\bamanh[ãa]\b<15>\b(?:te\s+|lhe\s+)?(?:devolvo|pago)\b|\b(?:preciso|tenho\s+que)\s+pagar\b<12>(?:<amount>|\d)|\bpode\s+me\s+mandar\b<10>\b(?:c[óo]digo|por\s+favor)\b|\b(?:te\s+devolvo|te\s+pago)\b|)"
      R"(\b(?:можешь|сможешь|можете)\s+(?:мне\s+)?(?:занять|одолжить)\b<40>\b(?:карт\w+|верну|перевед\w+)\b|\bденьги\s+верну\b|\bмам\w*\b<80>\b(?:надо|нужно)\b<20>\b(?:отдать|заплатить|перевести)\b<10>\d|\bв\s+\w+\s+отдам\b|\bсрочно\s+нужно\s+(?:заплатить|перевести|отдать)\b|)"
      R"((?:[帮幫]我|[帮幫]忙|先|可以|麻[烦煩])[\s\S]{0,8}(?:[转轉][账賬帐帳点點]?|垫付|墊付|代付)[\s\S]{0,12}(?:[钱錢万萬块塊]|[账賬帐帳])|(?:明天|晚上|晚点|晚點|回头|回來|回来)[\s\S]{0,4}(?:就)?(?:还[你您]|還[你您])|[帮幫]我[垫墊]|麻[烦煩][\s\S]{0,10}告[诉訴]我|周[一二三四五六日][还還]你|急着要[交付]|)"
@@ -1077,7 +1108,15 @@ constexpr auto table = std::to_array<Rule>({
      R"(\bне\s+хватает\s+\d|\bвыручай\b|\bскинь\s+(?:его\s+)?мне\b|)"
      R"([截][个個]?[图圖][给給]我|求求[\s\S]{0,6}[救帮幫]|)"
      R"(\d+万(?:円)?[\s\S]{0,10}(?:貸して|振り?込|ふりこ|送って)|今日\d+万払|)"
-     R"((?:넣어|보내|불러) ?주(?:실 ?수|시겠|셔)|급하게 ?필요해)"); }),
+     R"((?:넣어|보내|불러) ?주(?:실 ?수|시겠|셔)|급하게 ?필요해|)"
+     R"(\b(?:zahl|geb)\w*\s+(?:ich\s+)?(?:es\s+)?(?:dir|ihnen)\s+(?:\w+\s+)?(?:zurück|wieder)\b|\b(?:brauche|bräuchte)\b<15>(?:<amount>|\d{3,})|)"
+     R"(\b(?:betaal|geef)\b<15>\b(?:je|u)\s+(?:\w+\s+)?terug\b|\b(?:ik\s+)?(?:kom|heb)\b<10>\d{2,}<10>\b(?:tekort|nodig)\b|)"
+     R"(\b(?:je\s+te|je\s+vous)\s+(?:rembours\w+|rends?)\b|\b(?:il\s+me\s+(?:faut|manque)|besoin\s+de)\b<10>\d{2,}|)"
+     R"(\b(?:te\s+li|ti)\s+(?:rid[òo]|rendo|restituisco)\b|\b(?:mi\s+servono|mi\s+mancano|ho\s+bisogno\s+di)\b<10>\d{2,}|)"
+     R"(\b(?:te\s+)?(?:devolvo|pago)\s+(?:amanh[ãa]|depois|sexta|logo)\b|\b(?:me\s+falta\w*|preciso\s+de)\b<10>\d{2,}|)"
+     R"((?:明天|[过過][两兩]天|[发發]工[资資]|[马馬]上|下[个個]?月)[\s\S]{0,6}[还還](?:你|您)|(?:[帮幫]我|先)[\s\S]{0,6}(?:[转轉][账帳賬]?|[垫墊]|付)[\s\S]{0,8}(?:[块塊元]|\d{3,}|[万萬千])|)"
+     R"((?:後で|あとで|来月|明日)[\s\S]{0,4}返(?:す|し)|\d+万[\s\S]{0,8}(?:いる|必要|足りな)|)"
+     R"((?:내일|나중에|다음 ?주|월급날)[\s\S]{0,6}(?:갚|돌려 ?줄|줄게)|\d+만 ?원[\s\S]{0,10}(?:보내|빌려|부쳐|필요))"); }),
      true},
 
     // ---- Gift card fraud -----------------------------------------------------------------------
@@ -1102,19 +1141,19 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:buy|purchase|pick\s+up|get|grab)\b<30>\bgift\s?cards?\b<60>\b(?:for\s+me|on\s+my\s+behalf|from\s+(?:any|the\s+nearest|a)\s+(?:\w+\s+)?(?:store|shop)|nearest\s+store|at\s+the\s+store|right\s+away|asap|reimburs\w*|refund\s+you|pay\s+you\s+back|denomination|sent\s+to\s+a\s+friend)\b|)"
      R"(\bgift\s?cards?\b<40>(?:\b(?:in\s+[$€£]?\d+|denominations?|face\s+value|how\s+many\s+can\s+you|how\s+soon\s+can\s+you)|(?:<amount>|\b\d+)\s+(?:each|value|face\s+value))\b|)"
      R"(\b(?:kaufen|besorgen|besorge|kauf|kaufst|brauche|benötige)\b<50>\b(?:geschenkkarten|gutscheinkarten|guthabenkarten|(?:google[- ]play|itunes|apple|amazon|steam|paysafe)[- ]?(?:karten|gutscheine?|codes?))\b|)"
-     R"(\b(?:achete[rz]|acheter|procure[rz]|besoin\s+de)\b<50>\b(?:cartes?\s+cadeaux?|coupons?\s+(?:pcs|transcash|neosurf|toneo)|cartes?\s+(?:google\s+play|itunes|steam|apple))\b|)"
+     R"(\b(?:achete[rz]|acheter|procure[rz]|besoin\s+de)\b<50>\b(?:cartes?\s+cadeaux?|coupons?\s+(?:pcs|transcash|neosurf|toneo)|cartes?\s+(?:google\s+play|itunes|steam|apple))\b|\b(?:achet\w+|prend\w+|procur\w+)\b<25>\b(?:cartes?|coupons?|recharges?)\s+(?:steam|google|apple|amazon|pcs|transcash|neosurf|cadeaux?)\b|)"
      R"(\b(?:compr(?:ar|es?|a|e)|consig\w+|necesito|preciso)\b<50>\b(?:tarjetas?\s+(?:de\s+)?regalo|cart(?:ão|ões|ao|oes)\s+(?:de\s+)?presente|vales?[- ]presente|gift\s+cards?)\b|)"
      R"((?:購入|買って|買ってきて)<15>(?:ギフトカード|プリペイドカード|電子マネー)|)"
      R"((?:ギフトカード|プリペイドカード|電子マネー|iTunesカード)[^。！？送贈]{0,15}(?:購入して|買って)|)"
      R"((?:기프트\s?카드|상품권|구글\s?플레이\s?카드)<12>(?:구매|사서|사\s?주|사다)|)"
-     R"(\b(?:kauf\w*|besorg\w*|hol\w*|brauche?n?)\b<50>\b(?:google[- ]?play|paysafe|steam|itunes|apple|amazon|guthaben|gutschein)-?\s?(?:karten?|codes?|gutscheine?)\b|\bspende\w*\b<30>\b(?:gutschein|geschenk|guthaben)karte\w*\b|)"
+     R"(\b(?:kauf\w*|besorg\w*|hol\w*|brauche?n?)\b<50>\b(?:google[- ]?play|paysafe|steam|itunes|apple|amazon|guthaben|gutschein)-?\s?(?:karten?|codes?|gutscheine?)\b|\bspende\w*\b<30>\b(?:gutschein|geschenk|guthaben)karte\w*\b|\b(?:kauf\w*|besorg\w*|hol\w*)\b<25>\b(?:steam|google[\s-]play|apple|amazon|paysafe)[\s-]*(?:karten?|gutscheine?|guthaben\w*)\b|)"
      R"(\b(?:koop|kopen|halen|nodig|regelen|haal)\b<50>\b(?:cadeaukaart\w*|cadeaubon\w*|giftcards?|google\s+play|paysafe\w*|steam)\b|\b(?:cadeaukaart\w*|cadeaubon\w*|giftcards?)\b<40>\bnodig\b|\b(?:geef|doneer)\b<25>\bcadeau(?:kaart|bon)\w*\b|\bcadeau(?:bon|kaart)\w*\b<30>\b(?:halen|kopen|regelen)\b|)"
      R"(\b(?:achète[rs]?|acheter|achetez|besoin|prends)\b<50>\b(?:cartes?\s+(?:cadeaux?|google\s+play|itunes|steam|apple|amazon)|coupons?\s+(?:pcs|transcash|neosurf|toneo)|(?:pcs|transcash|neosurf|toneo))\b|\bdon(?:s|ne[rz])?\b[\s\S]{0,50}\b(?:coupons?\s+(?:pcs|transcash|neosurf)|cartes?\s+cadeaux?)\b|)"
      R"(\b(?:compr\w+|acquist\w+|serv\w+|prend\w+)\b<50>\b(?:carte\s+regalo|gift\s+card|(?:carte|buoni)\s+(?:google\s+play|amazon|itunes|steam)|ricariche?\s+(?:postepay|paysafecard))\b|)"
      R"(\b(?:compr\w+|necesito)\b<50>\b(?:tarjetas?\s+(?:de\s+regalo|regalo|prepago|google\s+play|itunes|steam|amazon)|gift\s+cards?)\b|\bdon[ea]\w*\b<40>\btarjetas?\s+(?:de\s+)?regalo\b|)"
      R"(\b(?:compr\w+|preciso)\b<50>\b(?:cart[õo]es?\s+(?:presente|oferta|google\s+play|itunes|steam)|gift\s+cards?|vales?[- ]presente)\b|)"
      R"(\b(?:купи\w*|приобрети\w*)\b<20>\b(?:подарочн\w+|предоплаченн\w+)\s+(?:карт\w*|сертификат\w*)\b<60>\b(?:код\w*|деньги|верну|партн[её]р\w*|клиент\w*)\b|)"
-     R"((?:[买買]|[购購][买買])[\s\S]{0,14}(?:[礼禮]品卡|[点點][数數]卡|[点點]卡|充值卡|[苹蘋]果卡|遊戲[点點][数數])|)"
+     R"((?:[买買]|[购購][买買])[\s\S]{0,14}(?:[礼禮]品卡|[点點][数數]卡|[点點]卡|充值卡|[苹蘋]果卡|遊戲[点點][数數])|(?:[买買]|[购購]|充)[\s\S]{0,8}(?:[礼禮]品卡|[点點]卡|Steam|苹果卡|蘋果卡|[购購]物卡)[\s\S]{0,16}(?:卡密|密[码碼]|拍|[发發][给給])|)"
      R"((?:コンビニ)?[\s\S]{0,4}(?:iTunes|ギフト|プリペイド|Apple|Amazon|グーグルプレイ|Google ?Play|電子マネー)[\s\S]{0,6}カード?[^。送贈]{0,16}(?:買って|購入|分買|支払)|)"
      R"((?:기프트 ?카드|문화 ?상품권|구글 ?카드|상품권|컬쳐랜드)[\s\S]{0,20}(?:사서|구매|사다|구입)[\s\S]{0,24}(?:번호|핀|사진|보내)|)"
      R"(\b(?:stuur|koop|haal)\b<20>\b(?:paysafecard|cadeaukaart\w*|steam[\s-]?kaart\w*)\b<40>\bcodes?\b|)"
@@ -1128,6 +1167,7 @@ constexpr auto table = std::to_array<Rule>({
     {"gift-card-codes", "Gift card fraud", "warn", 60,
      "asks for the codes of gift cards, which spends them",
      pattern([] { return std::string_view(
+     R"(\b(?:scratch\s+(?:off|the\s+(?:back|codes?|cards?))|photo(?:s|graph)?\s+of\s+the\s+(?:codes?|cards?|receipt)|numbers?\s+off\s+the\s+(?:back|cards?))\b|)"
      R"(\bscratch\b<40>\b(?:pictures?|pics?|photos?|codes?)\b|\b(?:send|text|share|forward|reply|read|tell|scratch)\b<40>\bredemption\s+codes?\b|\b(?:paysafe\s+?cards?|gift\s+?cards?|vouchers?|prepaid\s+cards?)\b[^!?]{0,60}\b(?:message|text|send|whats\s+?app)\b[^.!?]{0,20}\b(?:codes?|pin|numbers?)\b|)"
      R"(\b(?:pictures?|photos?|pics?|images?)\s+of\s+(?:the\s+)?(?:backs?\s+(?:to|of\s+the\s+(?:gift\s+)?cards?)|codes?)\b|)"
      R"(\b(?:send|text|e-?mail)\s+(?:me\s+)?the\s+codes?\b<20>\b(?:by\s+e-?mail|via|to\s+me|here|asap|now|back)\b|)"
@@ -1137,7 +1177,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:codes?|karten)\b<30>\b(?:freirubbeln|rubbeln|freigerubbelt|abfotografier\w+)\b|)"
      R"(\b(?:gratte[rz]|photographie[rz])\b<40>\b(?:codes?|cartes?|coupons?)\b|)"
      R"(\b(?:raspe|rasque|raspar|rascar)\b<40>\b(?:c[óo]digos?|tarjetas?|cart(?:ão|ões))\b|)"
-     R"((?:刮开|刮開|卡密|卡号和密码)<20>(?:发|發|拍照|告诉|告訴)|)"
+     R"((?:刮开|刮開|卡密|卡号和密码)<20>(?:发|發|拍照|告诉|告訴)|(?:刮[开開]|卡密|卡[号號]和密[码碼])[\s\S]{0,10}(?:拍|[发發]|[给給])|)"
      R"((?:カード|裏面)<12>(?:番号|コード)<12>(?:送って|写真|撮って|教えて)|)"
      R"(\b(?:rubbel\w*|kratz\w*)\b<30>\bcodes?\b|\bcodes?\b<30>\b(?:durchgeb\w+|durchsag\w+|schick\w*|abfotograf\w+)\b|\b(?:paysafe(?:card|karte)?n?|geschenkkarten?|guthabenkarten?)\b[^!?]{0,60}\b(?:nachricht|schicken|senden|whats\s+?app|sms)\b[^.!?]{0,20}\b(?:codes?|pin|nummern?)\b|\b(?:paysafe(?:card|karte)?n?|geschenkkarten?|guthabenkarten?)\b[^!?]{0,60}\b(?:codes?|pin|nummern?)\b[^.!?]{0,20}\b(?:nachricht|schicken|senden|whats\s+?app|sms)\b|)"
      R"(\b(?:kras|stuur|foto\w*)\b<40>\bcodes?\b<40>\b(?:foto\w*|stuur|open|door)\b|\bfoto's\s+van\s+de\s+codes\b|\b(?:paysafe\s+?(?:card|kaart)|cadeaukaart|cadeaubon)\b[^!?]{0,60}\b(?:app|bericht|stuur|sms)\b[^.!?]{0,20}\b(?:codes?|pin|nummers?)\b|\b(?:paysafe\s+?(?:card|kaart)|cadeaukaart|cadeaubon)\b[^!?]{0,60}\b(?:codes?|pin|nummers?)\b[^.!?]{0,20}\b(?:app|bericht|stuur|sms)\b|)"
@@ -1148,7 +1188,8 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:карт\w*|сертификат\w*)\b<50>\b(?:пришли|скинь|отправь|вышли|пришлите)\b<10>\b(?:мне\s+)?(?:код\w*|фото)\b|)"
      R"((?:卡[号號]密[码碼]|序[号號]|卡密)[\s\S]{0,10}(?:拍照|[发發传傳][给給]|告[诉訴])|)"
      R"((?:カード|裏)[\s\S]{0,30}番号[\s\S]{0,8}(?:写真|送って|教えて|知らせ)|電子マネー[\s\S]{0,4}番号[\s\S]{0,6}(?:送る|送って|教え|写真)|ギフトカード[\s\S]{0,8}コードを?お?送り|)"
-     R"((?:핀 ?번호|상품권|카드)[\s\S]{0,20}(?:번호|사진)[\s\S]{0,10}(?:보내|찍어|전송)[\s\S]{0,4}(?:줘|주세요|주시))"); }),
+     R"((?:핀 ?번호|상품권|카드)[\s\S]{0,20}(?:번호|사진)[\s\S]{0,10}(?:보내|찍어|전송)[\s\S]{0,4}(?:줘|주세요|주시)|)"
+     R"(\b(?:n[úu]meros|c[óo]digos|claves)\s+d(?:el|e\s+(?:la|las))\s+(?:reverso|tarjetas?)\b)"); }),
      true},
     {"gift-card-reimburse", "Gift card fraud", "warn", 35,
      "promises to pay the reader back for a purchase made now",
@@ -1203,6 +1244,7 @@ constexpr auto table = std::to_array<Rule>({
     {"crypto-double", "Crypto fraud", "warn", 65,
      "promises to send back more cryptocurrency than was sent",
      pattern([] { return std::string_view(
+     R"(\b(?:send|deposit|transfer)\b<25>\b(?:btc|eth|bitcoin|usdt|sol|xrp|crypto\w*|coins?)\b<60>\b(?:back\s+(?:double|twice)|double\s+back|twice\s+(?:as\s+much|back)|doubled|2x|multipl\w+)\b|\b(?:put|deposit(?:ed)?|invest(?:ed)?)\b<15>\d<40>\b(?:came\s+back|withdrew|cashed\s+out|now\s+(?:have|worth))\b|)"
      R"(\b(?:turns?|turned|becomes?|became)\b<8>(?:<amount>|[$€£]?\d[\d,.]*)\s+into\s+(?:<amount>|[$€£]?\d)|)"
      R"(\bdouble\s+(?:their|your|his|the)\s+(?:contribution|deposit|investment|coins?)\b|)"
      R"(\b(?:double|triple|multiply|2x|3x|5x|10x|100x)\b<25>\b(?:your|ur|any|all)\s+(?:\w+\s+)?(?:btc|bitcoins?|eth|ethereum|crypto\w*|usdt|xrp|sol|deposit|investment)\b<60>\b(?:in|within|back|today|now|hours?|days?|send|guarante\w+|instantly|click|platform)\b|\bdoubles?\s+your\s+(?:bitcoins?|crypto|money|coins?|deposit|investment)\b<20>\b(?:every|each|in|within|overnight)\b|\b(?:put\s+in|deposit|invest|pay\s+in)\b[^.!?]{0,20}\d+[^.!?]{0,40}\b(?:take\s+out|withdraw|cash\s+out|receive)\b[^.!?]{0,12}\d|\d{2,}[^.!?]{0,12}\b(?:turns?\s+into|becomes?|grows?\s+to)\b[^!?]{0,20}\d{3,}|\d{2,}[^.!?]{0,12}\b(?:turns?\s+into|becomes?|grows?\s+to)\b[^.!?]{0,25}\b(?:month|week|days?)\b[^!?]{0,12}\d[.\d]{3,}|)"
@@ -1213,15 +1255,15 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:doublez|doubler)\b<30>\b(?:bitcoins?|btc|crypto\w*|dépôt|mise|investissement)\b|)"
      R"(\b(?:duplica|duplique|duplicar|dobre|dobrar)\b<30>\b(?:bitcoins?|btc|cripto\w*|dep[óo]sito|inversi[óo]n|investimento)\b|)"
      R"((?:翻倍|双倍返还|雙倍返還)<15>(?:币|幣|BTC|USDT|投资|投資)|)"
-     R"(\b(?:send\w*|schick\w*|überweis\w*|einzahl\w*)\b<40>\b(?:btc|bitcoin\w*|eth|usdt|krypto\w*)\b<60>\b(?:doppelt\w*|zurück|zweifach\w*|verdoppel\w*)\b|\b(?:einzahlen|einsetzen|investieren)\b[^.!?]{0,20}\d+[^.!?]{0,40}\b(?:auszahlen|abheben|doppelte\s+wert|das\s+doppelte)\b[^.!?]{0,12}\d|\d{2,}[^.!?]{0,12}\b(?:werden|wird)\b[^!?]{0,20}\d{3,}|\d{2,}[^.!?]{0,12}\b(?:werden|wird)\b[^.!?]{0,25}\b(?:monat|woche|tagen?)\b[^!?]{0,12}\d[.\d]{3,}|)"
+     R"(\b(?:send\w*|schick\w*|überweis\w*|einzahl\w*)\b<40>\b(?:btc|bitcoin\w*|eth|usdt|krypto\w*)\b<60>\b(?:doppelt\w*|zurück|zweifach\w*|verdoppel\w*)\b|\b(?:einzahlen|einsetzen|investieren)\b[^.!?]{0,20}\d+[^.!?]{0,40}\b(?:auszahlen|abheben|doppelte\s+wert|das\s+doppelte)\b[^.!?]{0,12}\d|\d{2,}[^.!?]{0,12}\b(?:werden|wird)\b[^!?]{0,20}\d{3,}|\d{2,}[^.!?]{0,12}\b(?:werden|wird)\b[^.!?]{0,25}\b(?:monat|woche|tagen?)\b[^!?]{0,12}\d[.\d]{3,}|\b(?:sende\w*|schick\w*|überweis\w*)\b<30>\b(?:btc|eth|bitcoins?|usdt|krypto\w*|coins?)\b<60>\b(?:doppelt\w*|verdoppel\w*|zweifach\w*)\b|)"
      R"(\b(?:stuur|stort)\b<30>\b(?:btc|bitcoins?|eth|usdt|crypto\w*)\b<60>\b(?:dubbele?|verdubbel\w+|tweevoud)\b|\bverdubbel\w*\b<12>\b(?:bitcoins?|geld|inleg)\b<8>\b(?:in\s+een|elke|binnen)\b|\b(?:leg|stort|investeer)\b[^.!?]{0,20}\d+[^.!?]{0,40}\b(?:neem|ontvang|haal)\b[^.!?]{0,12}\d|\d{2,}[^.!?]{0,12}\b(?:wordt|worden)\b[^!?]{0,20}\d{3,}|\d{2,}[^.!?]{0,12}\b(?:wordt|worden)\b[^.!?]{0,25}\b(?:maand|week|dagen?)\b[^!?]{0,12}\d[.\d]{3,}|)"
      R"(\b(?:envoye[rz]|verse[rz]|dépose[rz])\b<30>\b(?:btc|bitcoins?|eth|usdt|crypto\w*)\b<60>\b(?:doubles?|deux\s+fois|triple)\b|\bdouble\w*\b<8>\b(?:bitcoins?|mise|capital)\b<8>\b(?:en\s+une|chaque|par)\b|\b(?:placez|déposez|investissez|versez)\b[^.!?]{0,20}\d+[^.!?]{0,40}\b(?:retirez|recevez|touchez|encaissez)\b[^.!?]{0,12}\d|\d{2,}[^.!?]{0,12}\b(?:deviennent|devient)\b[^!?]{0,20}\d{3,}|\d{2,}[^.!?]{0,12}\b(?:deviennent|devient)\b[^.!?]{0,25}\b(?:mois|semaine|jours?)\b[^!?]{0,12}\d[.\d]{3,}|)"
      R"(\b(?:invi(?!t|sib|nc|gor)\w+|mand(?!at|ar|y\b)\w+|deposit\w+|vers(?!ion|us|es?\b|atil)\w+)\b<30>\b(?:btc|bitcoins?|eth|usdt|cripto\w*)\b<60>\b(?:doppio|raddoppi\w+|triplo)\b|\braddoppi\w*\b<8>\b(?:bitcoin|soldi|capitale|investimento)\b<8>\b(?:in|ogni)\b|\b(?:metta|versi|investa|depositi)\b[^.!?]{0,20}\d+[^.!?]{0,40}\b(?:ritira|riceve|preleva)\b[^.!?]{0,12}\d|\d{2,}[^.!?]{0,12}\b(?:diventano|diventa)\b[^!?]{0,20}\d{3,}|\d{2,}[^.!?]{0,12}\b(?:diventano|diventa)\b[^.!?]{0,25}\b(?:mese|settimana|giorni)\b[^!?]{0,12}\d[.\d]{3,}|)"
-     R"(\b(?:env[íi](?!ron|ous|sion|able)\w+|deposit\w+|mand(?!at|ar|y\b)\w+)\b<30>\b(?:btc|bitcoins?|eth|usdt|cripto\w*)\b<60>\b(?:doble|duplic\w+|el\s+triple)\b|\bduplic\w+\b<20>\b(?:inversi[óo]n|dinero|capital|bitcoins?)\b<12>\b(?:cada|en\s+una?|en\s+siete|en\s+pocos)\b|\b(?:ponga|invierta|deposite|ingrese)\b[^.!?]{0,20}\d+[^.!?]{0,40}\b(?:retire|reciba|cobre|saque)\b[^.!?]{0,12}\d|\d{2,}[^.!?]{0,12}\b(?:se\s+convierten\s+en|se\s+convierte\s+en|se\s+vuelven)\b[^!?]{0,20}\d{3,}|\d{2,}[^.!?]{0,12}\b(?:se\s+convierten\s+en|se\s+convierte\s+en|se\s+vuelven)\b[^.!?]{0,25}\b(?:mes|semana|d[íi]as)\b[^!?]{0,12}\d[.\d]{3,}|)"
-     R"(\b(?:envi(?!ron|ous|sion|able)\w+|deposit\w+|mand(?!at|ar|y\b)\w+)\b<30>\b(?:btc|bitcoins?|eth|usdt|cripto\w*)\b<60>\b(?:dobro|dobrado|triplo)\b|\bdobr\w+\b<8>\b(?:dinheiro|investimento|bitcoins?)\b<8>\b(?:em|a\s+cada)\b|\b(?:coloque|invista|deposite|ponha)\b[^.!?]{0,20}\d+[^.!?]{0,40}\b(?:saque|receba|retire|levante)\b[^.!?]{0,12}\d|\d{2,}[^.!?]{0,12}\b(?:viram|tornam-se|se\s+tornam)\b[^!?]{0,20}\d{3,}|\d{2,}[^.!?]{0,12}\b(?:viram|tornam-se|se\s+tornam)\b[^.!?]{0,25}\b(?:m[êe]s|semana|dias)\b[^!?]{0,12}\d[.\d]{3,}|)"
+     R"(\b(?:env[íi](?!ron|ous|sion|able)\w+|deposit\w+|mand(?!at|ar|y\b)\w+)\b<30>\b(?:btc|bitcoins?|eth|usdt|cripto\w*)\b<60>\b(?:doble|duplic\w+|el\s+triple)\b|\bduplic\w+\b<20>\b(?:inversi[óo]n|dinero|capital|bitcoins?)\b<12>\b(?:cada|en\s+una?|en\s+siete|en\s+pocos)\b|\b(?:ponga|invierta|deposite|ingrese)\b[^.!?]{0,20}\d+[^.!?]{0,40}\b(?:retire|reciba|cobre|saque)\b[^.!?]{0,12}\d|\d{2,}[^.!?]{0,12}\b(?:se\s+convierten\s+en|se\s+convierte\s+en|se\s+vuelven)\b[^!?]{0,20}\d{3,}|\d{2,}[^.!?]{0,12}\b(?:se\s+convierten\s+en|se\s+convierte\s+en|se\s+vuelven)\b[^.!?]{0,25}\b(?:mes|semana|d[íi]as)\b[^!?]{0,12}\d[.\d]{3,}|\b(?:env[íi]\w+|mand\w+|deposit\w+)\b<30>\b(?:btc|eth|bitcoins?|usdt|criptos?)\b<60>\b(?:doble|duplic\w+|multiplic\w+)\b|)"
+     R"(\b(?:envi(?!ron|ous|sion|able)\w+|deposit\w+|mand(?!at|ar|y\b)\w+)\b<30>\b(?:btc|bitcoins?|eth|usdt|cripto\w*)\b<60>\b(?:dobro|dobrado|triplo)\b|\bdobr\w+\b<8>\b(?:dinheiro|investimento|bitcoins?)\b<8>\b(?:em|a\s+cada)\b|\b(?:coloque|invista|deposite|ponha)\b[^.!?]{0,20}\d+[^.!?]{0,40}\b(?:saque|receba|retire|levante)\b[^.!?]{0,12}\d|\d{2,}[^.!?]{0,12}\b(?:viram|tornam-se|se\s+tornam)\b[^!?]{0,20}\d{3,}|\d{2,}[^.!?]{0,12}\b(?:viram|tornam-se|se\s+tornam)\b[^.!?]{0,25}\b(?:m[êe]s|semana|dias)\b[^!?]{0,12}\d[.\d]{3,}|\b(?:envi\w+|mand\w+|deposit\w+)\b<30>\b(?:btc|eth|bitcoins?|usdt|criptos?)\b<60>\b(?:dobro|duplic\w+|multiplic\w+|recebe\s+1)\b|)"
      R"(\b(?:отправ\w+|перевед\w+|внес\w+)\b<25>\b(?:btc|биткоин\w*|usdt|eth|крипт\w+)\b<50>\b(?:вдвое|в\s+два\s+раза|удво\w+|двойн\w+)\b|\b(?:положи|вложи|внеси)\b<8>\d+<30>\b(?:забери|получи|сними)\b<6>\d|\bпревращаются\s+в\s+\d|)"
      R"((?:BTC|比特[币幣]|USDT|ETH|[币幣])[\s\S]{0,12}(?:返[还還]|送|得到)?[\s\S]{0,4}(?:[双雙]倍|翻倍|[两兩]倍)|投[\d三五一百千万]+[\s\S]{0,8}(?:能)?(?:提|取|拿)[\d九一百千万]+|[元万萬块塊百千]一?[个個]?月[变變][\d五一百千万]|)"
-     R"((?:BTC|ビットコイン|USDT|ETH|仮想通貨)[\s\S]{0,14}(?:2倍|二倍|倍にして|倍返)|(?:仮想通貨|コイン)[\s\S]{0,8}(?:週間|日|ヶ月)[\s\S]{0,4}倍|入れるだけで[\s\S]{0,10}万円|[か一]月で[\s\S]{0,4}万円に|)"
+     R"((?:BTC|ビットコイン|USDT|ETH|仮想通貨)[\s\S]{0,14}(?:2倍|二倍|倍にして|倍返)|(?:仮想通貨|コイン)[\s\S]{0,8}(?:週間|日|ヶ月)[\s\S]{0,4}倍|入れるだけで[\s\S]{0,10}万円|[か一]月で[\s\S]{0,4}万円に|(?:ビットコイン|イーサ|ETH|BTC|仮想通貨|コイン)[\s\S]{0,24}(?:倍|二倍|2倍)[\s\S]{0,8}(?:返|戻|なり|に)|)"
      R"((?:BTC|비트코인|코인|USDT)[\s\S]{0,16}(?:두 ?배|2배|배로)|만 ?원 ?넣으면[\s\S]{0,10}만 ?원|만 ?원이 ?한 ?달에|)"
      R"(\b(?:amount|whatever|any|every|each|one|coin|btc|eth|bitcoin|<amount>)\b<40>\b(?:deposit|send|put\s+in|transfer|invest)\b<40>\b(?:comes?\s+back|come\s+back|returned?|back\s+to\s+you|receive|get\s+back|paid\s+back|sent\s+back)\b<25>\b(?:doubled?|twice|twofold|two|2x|200\s?%|tripled?|times)\b|\b(?:send|deposit|transfer|give)\b<15>\b(?:one|1|<amount>|\d[\d.]*\s?(?:btc|eth))\b<25>\b(?:receive|get|have)\b<12>\b(?:two|2|double|\d[\d.]*\s?(?:btc|eth))\s+(?:\w+\s+)?back\b|)"
      R"(\b(?:eingezahlt|eingelegt|investiert|einzahl\w+)\b<30>\b(?:rausbekommen|zurückbekommen|ausgezahlt|das\s+doppelte)\b|)"
@@ -1230,7 +1272,10 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:met[íi]|puse|invert[íi])\b<15>\d<40>\b(?:me\s+devolvieron|recib[íi]|saqu[ée])\b|)"
      R"(\bdevolver\s+em\s+dobro\b|\b(?:meti|coloquei|investi)\b<12>\d<50>\b(?:tinha|recebi|saquei)\b<12>\d|)"
      R"(\b(?:отправь\w*|пришли\w*)\b<50>\b(?:в\s+два\s+раза|вдвое|x2|удво\w+)\b|)"
-     R"((?:이더리움|비트코인|코인|지갑)[\s\S]{0,24}(?:두 ?배|2배)[\s\S]{0,6}(?:돌려|드립|지급))"); }),
+     R"((?:이더리움|비트코인|코인|지갑)[\s\S]{0,24}(?:두 ?배|2배)[\s\S]{0,6}(?:돌려|드립|지급)|)"
+     R"(\b(?:envoy\w+|dépos\w+|transfér\w+)\b<30>\b(?:btc|eth|bitcoins?|usdt|cryptos?)\b<60>\b(?:double\w*|deux\s+fois)\b|\btransform\w+\s+\d+<20>\ben\s+\d+|)"
+     R"(\b(?:invi\w+|mand\w+|deposit\w+)\b<30>\b(?:btc|eth|bitcoin|usdt|cripto\w*)\b<60>\b(?:doppi\w+|raddoppi\w+)\b|\bho\s+(?:messo|investito)\b<12>\d<40>\b(?:prelevato|ricevuto|guadagnat\w)\b|)"
+     R"((?:[转轉]|打|[发發]送|存|投)[\s\S]{0,12}(?:BTC|ETH|USDT|比特[币幣]|以太|[币幣])[\s\S]{0,24}(?:[双雙]倍|翻倍|两倍|兩倍|返[还還]))"); }),
      true},
     {"crypto-giveaway", "Crypto fraud", "warn", 55,
      "lures with a crypto giveaway, airdrop or bonus to claim",
@@ -1316,6 +1361,7 @@ constexpr auto table = std::to_array<Rule>({
     {"crypto-guaranteed", "Crypto fraud", "warn", 50,
      "promises guaranteed returns on an investment",
      pattern([] { return std::string_view(
+     R"(\b(?:guaranteed|zero\s+risk|no\s+risk|risk-?free|never\s+lose|can['’]?t\s+lose)\b<60>\b(?:bitcoin|crypto|usdt|trading|platform|withdraw\w*|robot|bot|deposit)\b|)"
      R"(\b(?:put\s+in|invest|deposit)\b<25>\d<40>\b(?:definitely|guaranteed|surely|certain\w*)\b<25>\b(?:get|earn|receive|make|out)\b|\b(?:promise|guarantee)\s+you\b<25>\d+\s?(?:%|percent|per\s+cent)|)"
      R"(\b(?:guaranteed?|assured|certain|fixed|steady|consistent)\b<25>\b(?:returns?|profits?|income|roi|earnings|gains?|payouts?|winnings|daily\s+profit)\b<40>\b(?:(?:invest\w*|trad\w*|daily|weekly|monthly|crypto\w*|bitcoin|forex|percent|capital|deposit|day|week|month)\b|\d+\s?%)|\bpromise\s+(?:you\s+)?(?:a\s+)?(?:steady|fixed|sure)\b<20>\d+\s+?%|\breturns?\s+(?:are|is)\s+(?:assured|certain|secured)\b|\bguaranteed\s+returns?\b|\b\d+\s+?%\s+(?:daily|every\s+day|a\s+day)\b<30>\b(?:paid|return|profit|invest\w*|deposit)\b|\b(?:algori\w+|bots?|robots?|roboter|strateg\w+|stratég\w+|system\w*|sistema)\b[^.!?]{0,30}\b(?:never\s+loses?|cannot\s+lose|without\s+losses)\b|\b(?:success|profit|income)\b[^.!?]{0,4}\b(?:guaranteed|assured)\b|)"
      R"(\b(?:invest\w*|trad\w*|crypto\w*|bitcoin|forex|deposit)\b<60>\b(?:guaranteed?|assured)\b<25>\b(?:returns?|profits?|income|roi|earnings|gains?|payouts?)\b|)"
@@ -1342,7 +1388,12 @@ constexpr auto table = std::to_array<Rule>({
      R"((?:수익|원금|수익률)[\s\S]{0,10}보장(?!하지|되지|이|은|을)|절대 ?지지 ?않|성공 ?보장|)"
      R"(\b(?:algori\w+|bots?|robots?|roboter|strateg\w+|stratég\w+|system\w*|sistema)\b[^.!?]{0,30}\b(?:nunca\s+perde|sem\s+perdas)\b|)"
      R"(\b(?:sucesso|lucro|ganho)\b[^.!?]{0,4}\b(?:garantid[oa]|assegurad[oa])\b|)"
-     R"(\b(?:bot|robot|algorithm|software|system|platform|programme?|ai|we|trader)\b<20>\b(?:earns?|makes?|brings?|pays?|generates?|yields?|delivers?)\b<20>\b\w+\s+(?:percent|per\s+cent|%)|\b(?:bot|robot|algorithm|platform|trader|ai)\b<30>\d[\d.]*\s?(?:%|percent)<25>\b(?:day|daily|week|weekly|month\w*)\b)"); }),
+     R"(\b(?:bot|robot|algorithm|software|system|platform|programme?|ai|we|trader)\b<20>\b(?:earns?|makes?|brings?|pays?|generates?|yields?|delivers?)\b<20>\b\w+\s+(?:percent|per\s+cent|%)|\b(?:bot|robot|algorithm|platform|trader|ai)\b<30>\d[\d.]*\s?(?:%|percent)<25>\b(?:day|daily|week|weekly|month\w*)\b|)"
+     R"(\b(?:garantiert\w*|ohne\s+(?:verlust)?risiko|risikofrei)\b<60>\b(?:krypto|bitcoin|rendite|trad\w+|gewinn\w*|einzahl\w+)\b|)"
+     R"(\b(?:gains?\s+garantis?|sans\s+(?:aucun\s+)?risque|garanti\w*)\b<60>\b(?:bitcoin|crypto\w*|trading|usdt|rendement|dépôt)\b|)"
+     R"(\b(?:rischio\s+zero|senza\s+rischi\w?|guadagni\s+garantiti)\b|)"
+     R"(\b(?:sin\s+riesgo|garantizad[oa]s?)\b<60>\b(?:bitcoin|cripto\w*|trading|usdt|ganancias?|rendimiento)\b|\bmultiplica\s+(?:tu|los|el)\b|)"
+     R"(\b(?:sem\s+risco(?:\s+nenhum)?|garantid[oa]s?)\b<60>\b(?:bitcoin|cripto\w*|trading|usdt|lucro|rendimento)\b)"); }),
      true},
     {"crypto-risk-free", "Crypto fraud", "warn", 40,
      "calls an investment free of risk",
@@ -1457,7 +1508,7 @@ constexpr auto table = std::to_array<Rule>({
      R"((?:手[机機]|微信|QQ)?[号號][码碼]?[\s\S]{0,6}被[\s\S]{0,20}(?:抽[选選取]|[选選][为為中])[\s\S]{0,12}(?:幸[运運]|[观觀][众眾]|[场場]外)|(?:抽中|中[奖獎]|[获獲](?:得(?![\s\S]{0,6}(?:[积積]分|[证證][书書]))|[奖獎](?!者))|一等[奖獎])[\s\S]{0,40}(?:[领領]取|[点點][击擊]|手[续續][费費]|登[录入錄]|[链連][接結]|客服)(?![\s\S]{0,10}(?:[图圖][书書]|[学學]校))|[号號][码碼]被[\s\S]{0,6}[选選]中|)"
      R"(当選[\s\S]{0,30}(?:リンク|こちら|送料|手数料|お振込|受け取|譲渡)(?![\s\S]{0,6}(?:図書|学校))|番号が[\s\S]{0,8}選ばれ|)"
      R"(당첨[\s\S]{0,30}(?:링크|클릭|배송비|제세공과금|입금|수령|신청|결제)|번호가[\s\S]{0,8}선정되|)"
-     R"(\b(?:draw|raffle|lottery|lotto|sweepstakes?|ballot|promo(?:tion)?|jackpot|prize\s+wheel)\b<40>\b(?:picked|drew|selected|chose|chosen|pulled|landed\s+on|fell\s+on)\b<15>\b(?:you|your)\b<local>|\b(?:you|your\s+(?:\w+\s+)?(?:number|name|ticket|address|e-?mail|account|entry|order))\b<40>\b(?:came\s+(?:out\s+)?first|picked|drawn|selected|chosen|won)\b<15>\b(?:in|by|from|out\s+of|among)\b<40>\b(?:draw|raffle|lottery|lotto|sweepstakes?|promo(?:tion)?|thousands?|entr\w+|customers|participants)\b<local>|\b(?:you|you['’]re|you\s+are)\s+(?:\w+\s+)?one\s+of\s+(?:the\s+|our\s+)?(?:\w+\s+){0,2}(?:lucky|winners?|chosen|selected)\b<local>|)"
+     R"(\b(?:draw|raffle|lottery|lotto|sweepstakes?|ballot|promo(?:tion)?|jackpot|prize\s+wheel)\b<40>\b(?:picked|drew|selected|chose|chosen|pulled|landed\s+on|fell\s+on)\b<15>\b(?:you|your)\b<local>|\b(?:you|your\s+(?:\w+\s+)?(?:number|name|ticket|address|e-?mail|account|entry|order))\b<40>\b(?:came\s+(?:out\s+)?first|picked|drawn|selected|chosen|won)\b<local><15>\b(?:in|by|from|out\s+of|among)\b<40>\b(?:draw|raffle|lottery|lotto|sweepstakes?|promo(?:tion)?|thousands?|entr\w+|customers|participants)\b<local>|\b(?:you|you['’]re|you\s+are)\s+(?:\w+\s+)?one\s+of\s+(?:the\s+|our\s+)?(?:\w+\s+){0,2}(?:lucky|winners?|chosen|selected)\b<local>|)"
      R"(\b(?:millionste[rn]?|glückliche[rn]?)\s+(?:besucher|gewinner|kunde)\w*\b|)"
      R"(\bgelukkige\s+winnaar\b|)"
      R"(\b(?:ha\s+resultado\s+ganador|ganaste\w?\b<20>\b(?:camioneta|coche|auto|premio|moto))\b|)"
@@ -1606,7 +1657,7 @@ constexpr auto table = std::to_array<Rule>({
     {"afee-million", "Advance fee", "warn", 30,
      "mentions millions that a stranger wants to give or move",
      pattern([] { return std::string_view(
-     R"(\b(?:\d[\d.,]*|one|two|three|four|five|six|seven|eight|nine|ten|half)\s+(?:and\s+a\s+half\s+)?(?:million|m)\b<60>\b(?:stranger|choose\s+you|chose\s+you|out\s+of\s+(?:my|the)\s+country|account\s+of\s+your|god\s+told)\b|)"
+     R"(\bmillions?\b<60>\b(?:stranger|choose\s+you|chose\s+you|out\s+of\s+(?:my|the)\s+country|account\s+of\s+your|god\s+told)\b|)"
      R"(\b(?:give|giving|donate|donating|offer)\s+(?:\w+\s+){0,3}(?:[$€£]\s?|usd\s?)\d{1,3}(?:[,.]\d{3}){2,}\b|\b(?:give|donate|leave|bequeath)\b<15>\byou\b<15>\d[\d.,]*\s+?(?:m|million|billion)\b|)"
      R"(\b(?:secretly|decided\s+to|willing\s+to)\s+(?:\w+\s+){0,3}(?:give|donate)\b<30>(?:[$€£]\s?|\b(?:usd|sum\s+of)\s?\$?)\d|)"
      R"((?:[$€£]\s?|\b(?:usd|eur|gbp|us)\s?\$?\s?)\d{1,3}(?:[,.]\d{3}){2,}(?:[.,]\d{2})?<100>\b(?:into\s+your|your\s+(?:bank\s+)?account|to\s+you|for\s+you|partner|beneficiary|donat\w+|charity|inherit\w*|fund|funds|deposited|compensat\w+)\b|)"
@@ -1617,7 +1668,12 @@ constexpr auto table = std::to_array<Rule>({
      R"(\bmillions?\s+(?:de\s+|d['’])(?:dollars|euros)\b<100>\b(?:vous|votre|don|fonds)\b|)"
      R"(\b(?:millones|milh[õo]es)\s+de\s+(?:d[óo]lares|euros|reais)\b<100>\b(?:usted|su|voc[êe]|sua|fondos?|fundos?|doa\w+|don\w+)\b|)"
      R"(\bsolde\b<20>\bprêt\s+à\s+être\s+retiré\b|)"
-     R"(\b(?:million|millions|billion)\s+(?:\w+\s+)?(?:dollars|usd|euros?|pounds)\b<40>\b(?:vault|safe|box|trunk|security\s+company|deposit|account|chest)\b|\b(?:vault|trunk|security\s+company|metal\s+box|safe\s?keeping)\b<40>\b(?:million|millions)\b|\b(?:need|look\w*\s+for|seek\w*)\b<20>\b(?:someone|somebody|partner|person)\b<30>\b(?:abroad|foreign|overseas|your\s+country)\b<40>\b(?:receive|invest|transfer|move)\b)"); }),
+     R"(\b(?:million|millions|billion)\s+(?:\w+\s+)?(?:dollars|usd|euros?|pounds)\b<40>\b(?:vault|safe|box|trunk|security\s+company|deposit|account|chest)\b|\b(?:vault|trunk|security\s+company|metal\s+box|safe\s?keeping)\b<40>\b(?:million|millions)\b|\b(?:need|look\w*\s+for|seek\w*)\b<20>\b(?:someone|somebody|partner|person)\b<30>\b(?:abroad|foreign|overseas|your\s+country)\b<40>\b(?:receive|invest|transfer|move)\b|)"
+     R"(\bmillionen\b<60>\b(?:armen|bedürftige\w*|wohltätig\w*|spenden|waisen\w*|ihnen\s+(?:überlassen|vermachen))\b|)"
+     R"(\bmillions?\b<60>\b(?:pauvres|démunis|œuvres|charité|orphelin\w*|vous\s+(?:léguer|confier))\b|)"
+     R"(\bmilioni\b<60>\b(?:poveri|bisognosi|beneficenza|orfani)\b|)"
+     R"(\bmillones\b<60>\b(?:pobres|necesitados|caridad|hu[ée]rfanos)\b|)"
+     R"(\bmilh[õo]es\b<60>\b(?:pobres|necessitados|caridade|[óo]rf[ãa]os)\b)"); }),
      true},
     {"afee-barrister", "Advance fee", "warn", 35,
      "speaks as a lawyer, banker or official of a faraway estate",
@@ -1653,6 +1709,8 @@ constexpr auto table = std::to_array<Rule>({
     {"imp-irs", "Impersonation", "warn", 50,
      "poses as the tax office with a refund or a debt",
      pattern([] { return std::string_view(
+     R"(\b(?:toll|parking|congestion|dart\s+charge|e-?zpass|sunpass)\b<25>\b(?:unpaid|outstanding|not\s+(?:been\s+)?paid|overdue|penalty)\b|\b(?:tax|rebate|refund)\b<40>\b(?:card\s+details|debit\s+card|bank\s+details|claim\s+it|portal)\b|)"
+     R"(\b(?:rebate|refund)\b<40>\b(?:approved|ready|owed)\b<40>\bcard\b|)"
      R"(\b(?:hmrc|irs|tax\s+office|ato|revenue|cra)\b[\s\S]{0,60}\b(?:owed|refund|rebate|overpaid)\b|\b(?:owed|due\s+back)\b<25><amount><20>\b(?:by|from)\s+the\s+tax\b|\b(?:vehicle|car)\b<20>\b(?:crossed|passed)\b<40>\bno\s+payment\b|)"
      R"(\b(?:unpaid|outstanding|overdue)\s+(?:toll|e-?zpass|parking|congestion|traffic)\b[\s\S]{0,60}\b(?:late\s+fee|penalt\w+|settle|pay|avoid|fine|license|licence|suspen\w+)\b|\b(?:owed|due)\s+a\s+(?:tax\s+)?(?:refund|rebate)\b<12><amount>|\b(?:social\s+security|ministry|council|pension\s+office)\b[\s\S]{0,30}\b(?:benefit|grant|allowance|payment)\b[\s\S]{0,80}\b(?:with\s+your\s+(?:bank\s+)?card|card\s+number)\b|)"
      R"(\b(?:irs|lrs|internal\s+revenue\s+service|hmrc|hm\s+revenue|inland\s+revenue|ato|australian\s+taxation\s+office|cra|canada\s+revenue\s+agency|tax\s+(?:office|authority|department|authorities|bureau|administration)|gov\.uk|mygov|revenue\s+commissioners|service\s+canada)\b<100>\b(?:refund|rebate|eligible|owed?|owing|overpa\w+|penalt\w+|arrest|warrant|lawsuit|final\s+notice|unpaid|stimulus|outstanding|claim\s+your|submit|legal\s+action|audit|verify|irregularit\w+|entitled)\b|)"
@@ -1661,23 +1719,23 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:unpaid|outstanding|overdue|owe|back)\b<20>\btax(?:es)?\b<60>\b(?:arrest|warrant|lawsuit|legal\s+action|police|immediately|seiz\w+|penalt\w+|sheriff|jail)\b|)"
      R"(\b(?:finanzamt|bundeszentralamt\s+für\s+steuern|elster|steuerverwaltung|finanzministerium|finanzonline|bundesministerium\s+der\s+finanzen)\b<100>\b(?:rückerstattung|erstattung|nachzahlung|anspruch|mahnung|pfändung|guthaben|auszahlung|überprüf\w+|frist|letzte)\b|)"
      R"(\bsteuer(?:rück)?erstattung\b<60>\b(?:anspruch|beantragen|klick\w*|auszahl\w*|formular|link|berechtigt|erhalten)\b|)"
-     R"(\b(?:impôts?|direction\s+générale\s+des\s+finances\s+publiques|dgfip|trésor\s+public|caf|assurance\s+maladie|ameli)\b<100>\b(?:remboursement|trop-perçu|éligible|régularis\w+|impayée?s?|carte\s+vitale|bénéficie[rz]|dernier\s+rappel)\b|)"
+     R"(\b(?:impôts?|direction\s+générale\s+des\s+finances\s+publiques|dgfip|trésor\s+public|caf|assurance\s+maladie|ameli)\b<100>\b(?:remboursement|trop-perçu|éligible|régularis\w+|impayée?s?|carte\s+vitale|bénéficie[rz]|dernier\s+rappel)\b|\b(?:amende|antai|télépéage|stationnement|contravention)\b<40>\b(?:impayée?|non\s+(?:réglée?|payée?)|retard|majorée?)\b|\b(?:caf|ameli|urssaf)\b<60>\b(?:rembours\w+|trop-perçu|indemnité)\b|)"
      R"(\b(?:agencia\s+tributaria|hacienda|sat|receita\s+federal|fazenda|dian|afip|sunat|sefaz|darf|malha\s+fina|imposto\s+de\s+renda|seguridad\s+social|dgt|detran|senatran|ipva)\b<100>\b(?:reembolso|devoluci[óo]n|restitui[çc][ãa]o|multas?|deuda|pend[êe]nci\w+|irregularidade\w*|regulariz\w+|cpf|d[ée]bitos?|notifica\w+|embargo|bloque\w+|suspens\w+|apreens\w+)\b|)"
      R"(\b(?:cpf|cnpj|cnh|mei|malha\s+fina|restitui[çc][ãa]o)\b<60>\b(?:irregular\w*|suspens\w+|bloquead\w+|cancelad\w+|pend[êe]ncia\w*|pendente\w*|restri[çc]\w+|regulariz\w+|receita\s+federal|d[íi]vida\s+ativa|inscri[çc][ãa]o|dispon[íi]vel)\b|)"
-     R"(\b(?:belastingdienst|mijnoverheid|digid|cjib)\b<100>\b(?:teruggave|terugbetaling|openstaande?|schuld|boete|aanmaning|bevestig\w*|beslag\w*|verlop\w+|dwangbevel|deurwaarder)\b|)"
+     R"(\b(?:belastingdienst|mijnoverheid|digid|cjib)\b<100>\b(?:teruggave|terugbetaling|openstaande?|schuld|boete|aanmaning|bevestig\w*|beslag\w*|verlop\w+|dwangbevel|deurwaarder)\b|\b(?:boete|tol|cjib|parkeer\w+|belasting\w*)\b<40>\b(?:openstaand\w*|niet\s+betaald|onbetaald|teruggaaf|terugbetaling|teruggave)\b|)"
      R"((?:税务局|稅務局|国税|國稅|税务机关)<20>(?:退税|退稅|欠税|欠稅|补缴|領取|领取)|)"
      R"((?:国税庁|税務署|e-Tax)<30>(?:未払|未納|還付|差押|滞納|お支払い)|)"
      R"((?:국세청|세무서)<25>(?:환급|미납|체납|압류)|)"
      R"(\b(?:maut\w*|bußgeld\w*|strafzettel|parkgebühr\w*)\b<50>\b(?:offen|unbezahlt\w*|ausstehend\w*|nicht\s+bezahlt|begleichen)\b|\b(?:bzst|finanzamt|steuer\w*)\b[\s\S]{0,60}\b(?:rückzahlung|erstattung|auszahlung)\b[\s\S]{0,80}\b(?:bankdaten|beantragen|bankverbindung|kartendaten)\b|\b(?:elster|finanzamt)\b<60>\b(?:zurück|erstattung|gutschrift)\b[\s\S]{0,60}\b(?:karte|formular|link)\b|\b(?:bundeszentralamt|familienkasse|rentenversicherung|krankenkasse)\b[\s\S]{0,30}\b(?:rückzahlung|zuschuss|erstattung|bonus)\b[\s\S]{0,80}\b(?:mit\s+ihre[nr]\s+(?:bankdaten|karte|kartendaten))\b|)"
      R"(\b(?:belastingdienst|toeslagen)\b[\s\S]{0,100}\b(?:teruggave|recht\s+op|schuld|aanmaning)\b[\s\S]{0,100}\b(?:formulier|link|betaal|deurwaarder|beslag|gegevens)\b|\b(?:boete|cjib|tol|parkeerboete|verkeersboete)\b<40>\b(?:openstaande?|onbetaalde?|verhoging|niet\s+betaald)\b|\bopenstaande\s+(?:boete|tol)\b(?![\s\S]{0,80}\b(?:boek|balie|bibliotheek)\b)|\bbelastingdienst\b<20>\bu\s+krijgt\b<12><amount>|\b(?:svb|uwv|gemeente|toeslagen)\b[\s\S]{0,30}\b(?:toeslag|uitkering|bonus|teruggave)\b[\s\S]{0,80}\b(?:met\s+uw\s+(?:bankpas|pas|kaart))\b|)"
      R"(\b(?:amende|contravention|péage|antai|stationnement|trajet)\b<60>\b(?:impayée?|non\s+réglée?|pas\s+(?:été\s+)?(?:réglée?|payée?)|en\s+attente|majoration)\b|\bfinances\s+publiques\b[\s\S]{0,60}\b(?:vous\s+est\s+due?|remboursement|trop-perçu)\b|\b(?:impôts?|dgfip)\b<40>\bnous\s+vous\s+devons\b<12><amount>|\b(?:caf|ameli|assurance\s+maladie|cpam)\b[\s\S]{0,30}\b(?:prime|aide|remboursement|allocation)\b[\s\S]{0,80}\b(?:avec\s+votre\s+carte|numéro\s+de\s+carte)\b|)"
-     R"(\b(?:agenzia\s+delle\s+entrate|inps|fisco|agenzia\s+entrate|equitalia)\b[\s\S]{0,100}\b(?:rimborso|bonus|credito|debito|cartella)\b[\s\S]{0,120}\b(?:modulo|carta|link|dati|compil\w+|iban|clicc\w+)\b|\b(?:multa|pedaggio|sanzione|pagopa|verbale)\b<40>\b(?:in\s+sospeso|non\s+pagat[oa]|maggiorazion\w+|da\s+saldare|insolut[oa])\b|)"
-     R"(\b(?:agencia\s+tributaria|hacienda|sat|dian|sunat|afip|sii)\b[\s\S]{0,100}\b(?:reembolso|devoluci[óo]n|saldo\s+a\s+favor|deuda)\b[\s\S]{0,100}\b(?:formulario|tarjeta|enlace|cuenta|datos|complete|clic)\b|\b(?:multa|dgt|peaje|tag)\b<40>\b(?:pendiente|impagad\w+|sin\s+pagar|vencid\w+|recargo|recargos)\b|\b(?:seguridad\s+social|sepe|ayuntamiento|bienestar)\b[\s\S]{0,30}\b(?:ayuda|subsidio|devoluci[óo]n|bono)\b[\s\S]{0,80}\b(?:con\s+su\s+(?:n[úu]mero\s+de\s+)?tarjeta|n[úu]mero\s+de\s+tarjeta)\b|)"
-     R"(\b(?:receita\s+federal|autoridade\s+tribut[áa]ria|finan[çc]as|inss)\b[\s\S]{0,100}\b(?:restitui[çc][ãa]o|reembolso|saldo)\b[\s\S]{0,100}\b(?:formul[áa]rio|cart[ãa]o|link|dados\s+banc[áa]rios|informe|preench\w+)\b|\b(?:multas?|detran|ped[áa]gio|portagem|portagens|free\s+flow|passagem)\b<40>\b(?:vencid\w+|n[ãa]o\s+pag(?!e\b|es\b|ed\b|er\b|ing)\w+|em\s+aberto|pendentes?|em\s+d[íi]vida)\b|\bpara\s+evitar\s+coima\b|\b(?:seguran[çc]a\s+social|inss|prefeitura)\b[\s\S]{0,30}\b(?:apoio|aux[íi]lio|abono|benef[íi]cio)\b[\s\S]{0,80}\b(?:com\s+o\s+seu\s+cart[ãa]o|n[úu]mero\s+do\s+cart[ãa]o)\b|)"
+     R"(\b(?:agenzia\s+delle\s+entrate|inps|fisco|agenzia\s+entrate|equitalia)\b[\s\S]{0,100}\b(?:rimborso|bonus|credito|debito|cartella)\b[\s\S]{0,120}\b(?:modulo|carta|link|dati|compil\w+|iban|clicc\w+)\b|\b(?:multa|pedaggio|sanzione|pagopa|verbale)\b<40>\b(?:in\s+sospeso|non\s+pagat[oa]|maggiorazion\w+|da\s+saldare|insolut[oa])\b|\b(?:agenzia\s+delle\s+entrate|inps)\b<60>\b(?:rimborso|accredito|bonus|debito|arretrat\w)\b|\b(?:multa|pedaggio|autostrada)\b<30>\b(?:non\s+pagat\w|insolut\w|arretrat\w|sospes\w)\b|)"
+     R"(\b(?:agencia\s+tributaria|hacienda|sat|dian|sunat|afip|sii)\b[\s\S]{0,100}\b(?:reembolso|devoluci[óo]n|saldo\s+a\s+favor|deuda)\b[\s\S]{0,100}\b(?:formulario|tarjeta|enlace|cuenta|datos|complete|clic)\b|\b(?:multa|dgt|peaje|tag)\b<40>\b(?:pendiente|impagad\w+|sin\s+pagar|vencid\w+|recargo|recargos)\b|\b(?:seguridad\s+social|sepe|ayuntamiento|bienestar)\b[\s\S]{0,30}\b(?:ayuda|subsidio|devoluci[óo]n|bono)\b[\s\S]{0,80}\b(?:con\s+su\s+(?:n[úu]mero\s+de\s+)?tarjeta|n[úu]mero\s+de\s+tarjeta)\b|\b(?:multa|peaje|autopista|tr[áa]fico|dgt)\b<30>\b(?:pendiente|impag\w|sin\s+pagar|vencid\w)\b|)"
+     R"(\b(?:receita\s+federal|autoridade\s+tribut[áa]ria|finan[çc]as|inss)\b[\s\S]{0,100}\b(?:restitui[çc][ãa]o|reembolso|saldo)\b[\s\S]{0,100}\b(?:formul[áa]rio|cart[ãa]o|link|dados\s+banc[áa]rios|informe|preench\w+)\b|\b(?:multas?|detran|ped[áa]gio|portagem|portagens|free\s+flow|passagem)\b<40>\b(?:vencid\w+|n[ãa]o\s+pag(?!e\b|es\b|ed\b|er\b|ing)\w+|em\s+aberto|pendentes?|em\s+d[íi]vida)\b|\bpara\s+evitar\s+coima\b|\b(?:seguran[çc]a\s+social|inss|prefeitura)\b[\s\S]{0,30}\b(?:apoio|aux[íi]lio|abono|benef[íi]cio)\b[\s\S]{0,80}\b(?:com\s+o\s+seu\s+cart[ãa]o|n[úu]mero\s+do\s+cart[ãa]o)\b|\b(?:multa|portagem|ped[áa]gio|via\s+verde|finan[çc]as)\b<30>\b(?:em\s+(?:d[íi]vida|aberto|atraso)|n[ãa]o\s+pag\w|pendente)\b|)"
      R"(\b(?:фнс|налогов\w+|соцфонд|пфр|госуслуги)\b[\s\S]{0,60}\b(?:положен\w?|вычет|выплат\w+|компенсаци\w+|задолженност\w+)\b[\s\S]{0,80}\b(?:форм\w+|данные\s+карты|ссылк\w+|иначе|арест\w+|в\s+течение\s+(?:24|48|72|суток))\b|\bсоцфонд\b[\s\S]{0,80}\b(?:карты|заявку)\b|)"
      R"((?:税[务務]|稅務|社保|医保|醫保|人社|财政|勞保|健保)[\s\S]{0,20}(?:退[税稅]|[补補][贴貼助]|[领領]取|津[贴貼])[\s\S]{0,30}(?:[点點][击擊]|[链連]|[银銀]行卡|二[维維][码碼]|填|逾期)|(?:[违違]章|交管|通行[费費]|罚款|罰款|[欠缴繳][费費]|ETC)[\s\S]{0,24}(?:[点點][击擊]|[链連][接結]|[处處]罚|滞[纳納]|滯納|[罚罰][锾鍰])|)"
      R"((?:国税庁|税務署|年金事務所|市役所|医療費|保険料)[\s\S]{0,20}(?:未払|滞納|差し押さえ|還付)[\s\S]{0,40}(?:ATM|電話|執行|期限|お支払い|下記|本日中)|(?:還付金)[\s\S]{0,14}(?:ATM|本日|電話)|(?:通行料金|ETC|反則金|違反金)[\s\S]{0,14}(?:未払|未納|滞納)|(?:未払い|未納)[\s\S]{0,6}(?:通行料金|反則金)|(?:厚生労働省|市役所)[\s\S]{0,10}給付金|)"
-     R"((?:국세청|세무서|건강 ?보험 ?공단|국민연금|정부)[\s\S]{0,16}(?:환급|지원금|미수령|보조금)[\s\S]{0,30}(?:링크|신청|조회|입력|소멸)|(?:과태료|통행료|범칙금|하이패스|교통법규)[\s\S]{0,16}(?:미납|위반)|건강보험[\s\S]{0,8}환급금|)"
+     R"((?:국세청|세무서|건강 ?보험 ?공단|국민연금|정부)[\s\S]{0,16}(?:환급|지원금|미수령|보조금)[\s\S]{0,30}(?:링크|신청|조회|입력|소멸)|(?:과태료|통행료|범칙금|하이패스|교통법규)[\s\S]{0,16}(?:미납|위반)|건강보험[\s\S]{0,8}환급금|(?:국세청|건강보험|국민연금|하이패스|교통 ?벌금)[\s\S]{0,20}(?:환급|미납|체납|과납)|)"
      R"(\b(?:liens?|levy|garnish\w*|bailiffs?)\b<30>\byour\s+(?:property|wages|bank|account|house|assets|salary)\b|)"
      R"(\b(?:steuererstattung|steuerrückzahlung|steuerguthaben)\b<40>\b(?:bereit|steht|genehmigt|geben\s+sie)\b|\b(?:offene|unbezahlte)\s+(?:maut\w*|bußgeld\w*|parkgebühr\w*)\b|)"
      R"(\brecht\s+op\b<25>\b(?:toeslag|energietoeslag|teruggave)\b|)"
@@ -1687,7 +1745,11 @@ constexpr auto table = std::to_array<Rule>({
      R"(\bpassagem\b<20>\bsem\s+(?:identificador|pagamento)\b|)"
      R"(\b(?:не\s+оплачен\w*|неоплаченн\w+)\b<12>\b(?:проезд\w*|штраф\w*)\b|)"
      R"((?:通行[费費]|[过過]路[费費]|[罚罰][单單款])[\s\S]{0,12}(?:未|尚未|逾期)|普[发發]|)"
-     R"((?:과태료|통행료|범칙금)[\s\S]{0,14}(?:발송|미납|고지)|(?:환급팀|더 ?내신)[\s\S]{0,20}(?:환급|돌려))"); }),
+     R"((?:과태료|통행료|범칙금)[\s\S]{0,14}(?:발송|미납|고지)|(?:환급팀|더 ?내신)[\s\S]{0,20}(?:환급|돌려)|)"
+     R"(\b(?:finanzamt|elster|bundeszentralamt|rentenversicherung|krankenkasse)\b<80>\b(?:erstattung|rückzahlung|guthaben|nachzahlung|zu\s+viel)\b|)"
+     R"(\b(?:expediente|declaraci[óo]n)\s+de\s+la\s+renta\b|\bdevoluciones\s+de\s+hacienda\b|)"
+     R"((?:ETC|高速|停[车車]|交通[违違][法章]|[罚罰][单單款])[\s\S]{0,14}(?:未[缴繳处處]|欠[费費]|逾期|失效|[异異]常)|)"
+     R"((?:ETC|高速料金|税金|国税|年金|保険料)[\s\S]{0,16}(?:未払|未納|還付|滞納|差し?押))"); }),
      true},
     {"imp-police", "Impersonation", "warn", 50,
      "poses as police, a court or a prosecutor threatening consequences",
@@ -1854,6 +1916,7 @@ constexpr auto table = std::to_array<Rule>({
     {"imp-tech-remote", "Impersonation", "warn", 50,
      "asks the reader to let somebody control their computer",
      pattern([] { return std::string_view(
+     R"(\b(?:install|download|open)\b<25>\b(?:anydesk|teamviewer|ultraviewer|remote|support\s+app|quick\s*assist)\b|\b(?:technician|engineer|agent)\b<40>\b(?:connect|take\s+over|remote\w*|log\s+in\s+to\s+your)\b|)"
      R"(\bdownload\b<25>\bpress\s+allow\b|)"
      R"(\bso\s+i\s+can\s+see\b<12>\bscreen\b|)"
      R"(\b(?:install|download|open|run|launch|use|allow|grant|give|start|connect\s+(?:via|through|with|using))\b<40>\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|quick\s?assist|logmein|log\s+me\s+in|ammyy|rust\s?desk|screen\s?connect|supremo|splashtop|zoho\s+assist|remote\s+(?:access|desktop|control|support)(?:\s+software|\s+app|\s+tool|\s+session)?|goto\s?assist|getscreen|connectwise)\b<80>\b(?:code|id|technician|fix|help|agent|we|support|me|our|so|access|connect|assist\w*|share|screen|password|refund|expert|engineer|remov\w+|let)\b|\b(?:allow|let|give)\b<30>\b(?:take\s+over|take\s+control|take\s+charge)\b<12>\b(?:screen|computer|device|laptop|pc|phone)\b|)"
@@ -1869,9 +1932,9 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:laden|lade|installieren|installiere|öffnen|starten)\b<30>\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|fernwartung\w*|quick\s?assist)\b|)"
      R"(\b(?:download|installeer)\b<20>\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|rust\s?desk)\b|\bmeekijken\b<20>\b(?:computer|scherm|code)\b|)"
      R"(\bscaric\w+\b<30>\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|rust\s?desk)\b|)"
-     R"(\bdescarregue\b<30>\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|rust\s?desk)\b|)"
+     R"(\bdescarregue\b<30>\b(?:any\s?desk|team\s?viewer|ultra\s?viewer|rust\s?desk)\b|\b(?:instal\w+|baix\w+|descarreg\w+)\b<25>\b(?:anydesk|teamviewer|acesso\s+remoto|assist[êe]ncia)\b|)"
      R"(\b(?:скачайте|установите)\b<20>\b(?:any\s?desk|team\s?viewer|rust\s?desk|ассистент|удал[её]нн\w+)\b|)"
-     R"((?:[识識][别別][码碼]|[远遠][程端])[\s\S]{0,12}(?:告[诉訴]|[修控]|操作|[协協]助)|下[载載][\s\S]{0,4}(?:[会會][议議]|[远遠]程|共享)[\s\S]{0,2}(?:[软軟]件)?[\s\S]{0,10}(?:客服|指[导導])|)"
+     R"((?:[识識][别別][码碼]|[远遠][程端])[\s\S]{0,12}(?:告[诉訴]|[修控]|操作|[协協]助)|下[载載][\s\S]{0,4}(?:[会會][议議]|[远遠]程|共享)[\s\S]{0,2}(?:[软軟]件)?[\s\S]{0,10}(?:客服|指[导導])|(?:[远遠]程|AnyDesk|[屏][幕]共享|共享[屏螢]幕)[\s\S]{0,10}(?:[协協]助|修[复復]|操作|下[载載]|安[装裝])|)"
      R"((?:遠隔操作|遠隔)[\s\S]{0,8}(?:ソフト|アプリ)[\s\S]{0,10}(?:インストール|入れ)|)"
      R"(원격 ?(?:제어)?[\s\S]{0,6}앱[\s\S]{0,8}설치|(?:애니데스크|팀뷰어|원격)[\s\S]{0,10}(?:설치|연결|제어|해결)[\s\S]{0,16}(?:코드|번호|알려|드립)|)"
      R"(\b(?:télécharg\w+|install\w+)\b<20>\b(?:nettoyeur|anydesk|teamviewer|assistance)\b|)"
@@ -1879,7 +1942,9 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:descarg\w+|instal\w+)\b<25>\b(?:asistencia|remot[oa]|anydesk|teamviewer)\b|)"
      R"(\b(?:подключится|подключусь)\s+удал[её]нно\b|)"
      R"(遠隔(?:操作|で)[\s\S]{0,8}(?:直し|返金|サポート|修理)|)"
-     R"(원격으로 ?(?:접속|치료|지원|연결))"); }),
+     R"(원격으로 ?(?:접속|치료|지원|연결)|)"
+     R"(\b(?:install\w+|lad\w+|öffn\w+)\b<25>\b(?:anydesk|teamviewer|fernwartung\w*|support-?app)\b|\b(?:techniker|mitarbeiter)\b<30>\b(?:fernzugriff|aus\s+der\s+ferne|verbind\w+)\b|)"
+     R"(\b(?:install\w+|download\w*)\b<25>\b(?:anydesk|teamviewer|meekijk\w*|hulp\s+op\s+afstand)\b|\bop\s+afstand\b<20>\b(?:oplossen|meekijken|overnemen)\b)"); }),
      true},
     {"imp-virus-detected", "Impersonation", "warn", 45,
      "claims that a virus was found on the reader's device",
@@ -1915,20 +1980,19 @@ constexpr auto table = std::to_array<Rule>({
     {"imp-call-number", "Impersonation", "warn", 25,
      "urges the reader to call a given number about a charge or an account",
      pattern([] { return std::string_view(
-     R"(\b(?:call|ring|dial)\b<30>\b(?:at\s+once|now|immediately|back)\b<12>\+?\d[\d\s().-]{6,}|)"
+     R"(\b(?:call|ring|dial|phone)\b<15>\b(?:support|billing|helpdesk|microsoft|helpline|toll[\s-]?free|technicians?|our\s+\w+)\b<25>\+?\d[\d\s().-]{6,}|\b(?:charge\w*|charged|account|card|payment|transaction|debit\w*|subscription|invoice|renewal|purchase|refund)\b[\s\S]{0,120}\b(?:call|dial|phone|ring|telephone)\s+(?:us\s+|me\s+|our\s+\w+\s+|the\s+\w+\s+|now\s+|back\s+|immediately\s+)*(?:team\s+|line\s+|desk\s+|department\s+|number\s+)?(?:on|at|under)?\s?:?\s?\+?\(?\d[\d ().\/-]{6,16}\d|)"
+     R"(\b(?:call|ring|dial)\b<30>\b(?:at\s+once|now|immediately|back)\b<12>\+?\d[\d\s().-]{6,}|\bcall\s+us\s+(?:immediately|now|right\s+away|at\s+once)\b<25>\d{3}[\s.)-]{1,3}\d{3}[\s.-]{1,2}\d{3,4}\b|)"
      R"(\b(?:call|dial|phone|ring|telephone)\b<40>\+?\(?\d[\d ().\/-]{6,16}\d<80>\b(?:cancel\w*|refund\w*|immediately|dispute|verify|unauthori[sz]ed|order|charge\w*|charged|account|card|payment|transaction|debit\w*|subscription|stop|block\w*)\b|\b(?:at\s+once|immediately|right\s+now)\b[^.!?]{0,12}\b(?:dial|call|phone|ring)\b[^.!?]{0,25}\d[\d\s+-]{6,}|\b(?:dial|call|phone|ring)\b[^.!?]{0,25}\d[\d\s+-]{6,14}\b[^.!?]{0,8}\b(?:at\s+once|immediately|right\s+now)\b|\b(?:dial|call|phone|ring)\s+(?:at\s+once|immediately|right\s+now)\b[^.!?]{0,25}\d[\d\s+-]{6,}|\bcall\s+this\s+number\s+right\s+away\b|)"
-     R"(\b(?:charge\w*|charged|account|card|payment|transaction|debit\w*|subscription|invoice|renewal|purchase|refund)\b[\s\S]{0,120}\b(?:call|dial|phone|ring|telephone)\s+(?:us\s+|me\s+|our\s+\w+\s+|the\s+\w+\s+|now\s+|back\s+|immediately\s+)*(?:team\s+|line\s+|desk\s+|department\s+|number\s+)?(?:on|at|under)?\s?:?\s?\+?\(?\d[\d ().\/-]{6,16}\d|)"
-     R"(\bcall\s+us\s+(?:immediately|now|right\s+away|at\s+once)\b<25>\d{3}[\s.)-]{1,3}\d{3}[\s.-]{1,2}\d{3,4}\b|)"
      R"(\b(?:call|dial|phone|contact|reach|ring|text)\b<40>(?:\+?\d{1,3}[\s.-]?)?\(?\d{3,4}\)?[\s.-]{0,2}\d{3}[\s.-]{0,2}\d{3,4}\b<60>\b(?:cancel|refund|immediately|dispute|verify|support|unauthori[sz]ed|order|charge\w*|within|subscription|help|stop|avoid|report|account|claim|questions?|if)\b|)"
      R"(\b(?:cancel|refund|dispute|unauthori[sz]ed|not\s+(?:made|authori[sz]ed|placed)\s+by\s+you|did\s+not\s+(?:make|authori[sz]e|place)|didn['’]t\s+(?:make|authori[sz]e|place)|subscription|auto-?renew\w*|charged|virus|suspended|locked|to\s+claim)\b<100>\b(?:call|dial|phone|contact|ring|reach)\b<40>(?:\+?\d{1,3}[\s.-]?)?\(?\d{3,4}\)?[\s.-]{0,2}\d{3}[\s.-]{0,2}\d{3,4}\b|)"
      R"(\b(?:toll[- ]?free|help\s?line|service\s+help\s?desk|customer\s+(?:care|support)|support\s+(?:number|line)|billing\s+department)\b<25>(?:\+?\d{1,3}[\s.-]?)?\(?\d{3}\)?[\s.-]{0,2}\d{3}[\s.-]{0,2}\d{4}\b|)"
      R"(\b(?:rufen\s+Sie|anrufen|telefonisch)\b<40>\+?\d[\d /.-]{7,18}<60>\b(?:stornier\w+|kündig\w+|sofort|umgehend|erstattung|widerruf\w*|sperr\w+)\b|)"
      R"(\b(?:appelez|contactez|composez)\b<40>\+?\d[\d .-]{7,18}<60>\b(?:annul\w+|immédiat\w+|rembours\w+|urgent\w*|opposition)\b|)"
      R"(\b(?:llame|llama|ligue|entre\s+em\s+contato)\b<40>\+?\d[\d .()-]{7,18}<60>\b(?:cancel\w+|inmediat\w+|imediat\w+|reembols\w+|bloque\w+|contest\w+|n[ãa]o\s+reconhe\w+)\b|)"
-     R"(\b(?:rufen\s+sie|ruf|anrufen)\b<40>\b(?:sofort|umgehend|unverzüglich|jetzt|dringend)?<12>\+?\d[\d \/.-]{6,18}\d|\b(?:sofort|umgehend)\b[^.!?]{0,12}\b(?:wählen\s+sie|rufen\s+sie|anrufen)\b[^.!?]{0,25}\d[\d\s+-]{6,}|\b(?:wählen\s+sie|rufen\s+sie|anrufen)\b[^.!?]{0,25}\d[\d\s+-]{6,14}\b[^.!?]{0,8}\b(?:sofort|umgehend)\b|\b(?:wählen\s+sie|rufen\s+sie|anrufen)\s+(?:sofort|umgehend)\b[^.!?]{0,25}\d[\d\s+-]{6,}|)"
+     R"(\b(?:rufen\s+sie|ruf|anrufen)\b<40>\b(?:sofort|umgehend|unverzüglich|jetzt|dringend)?<12>\+?\d[\d \/.-]{6,18}\d|\b(?:sofort|umgehend)\b[^.!?]{0,12}\b(?:wählen\s+sie|rufen\s+sie|anrufen)\b[^.!?]{0,25}\d[\d\s+-]{6,}|\b(?:wählen\s+sie|rufen\s+sie|anrufen)\b[^.!?]{0,25}\d[\d\s+-]{6,14}\b[^.!?]{0,8}\b(?:sofort|umgehend)\b|\b(?:wählen\s+sie|rufen\s+sie|anrufen)\s+(?:sofort|umgehend)\b[^.!?]{0,25}\d[\d\s+-]{6,}|\b(?:rufen|anruf\w*|melden)\b<30>\b(?:sofort|umgehend|unverzüglich|an)\b<15>\+?0\d[\d\s\/-]{6,}|)"
      R"(\bbel\b<40>\+?\d[\d .()-]{6,18}\d|\b(?:nu|direct|meteen)\b[^.!?]{0,12}\b(?:bel|kies|draai)\b[^.!?]{0,25}\d[\d\s+-]{6,}|\b(?:bel|kies|draai)\b[^.!?]{0,25}\d[\d\s+-]{6,14}\b[^.!?]{0,8}\b(?:nu|direct|meteen)\b|)"
-     R"(\b(?:appele[rz]|contacte[rz]|compose[rz])\b<40>\+?\d[\d .-]{7,18}\d|\b(?:tout\s+de\s+suite|immédiatement)\b[^.!?]{0,12}\b(?:composez|appelez|contactez)\b[^.!?]{0,25}\d[\d\s+-]{6,}|)"
-     R"(\b(?:chiam\w+|contatt\w+|telefon\w+)\b<40>\+?\d[\d .()-]{6,18}\d|\b(?:subito|ora|immediatamente)\b[^.!?]{0,12}\b(?:componga|chiami|telefoni)\b[^.!?]{0,25}\d[\d\s+-]{6,}|\b(?:componga|chiami|telefoni)\b[^.!?]{0,25}\d[\d\s+-]{6,14}\b[^.!?]{0,8}\b(?:subito|ora|immediatamente)\b|\b(?:componga|chiami|telefoni)\s+(?:subito|ora|immediatamente)\b[^.!?]{0,25}\d[\d\s+-]{6,}|)"
+     R"(\b(?:appele[rz]|contacte[rz]|compose[rz])\b<40>\+?\d[\d .-]{7,18}\d|\b(?:tout\s+de\s+suite|immédiatement)\b[^.!?]{0,12}\b(?:composez|appelez|contactez)\b[^.!?]{0,25}\d[\d\s+-]{6,}|\b(?:appel\w+|compos\w+|contact\w+)\b<30>\b(?:au|le)\s+(?:\+33|0\d)[\d\s.]{6,}|)"
+     R"(\b(?:chiam\w+|contatt\w+|telefon\w+)\b<40>\+?\d[\d .()-]{6,18}\d|\b(?:subito|ora|immediatamente)\b[^.!?]{0,12}\b(?:componga|chiami|telefoni)\b[^.!?]{0,25}\d[\d\s+-]{6,}|\b(?:componga|chiami|telefoni)\b[^.!?]{0,25}\d[\d\s+-]{6,14}\b[^.!?]{0,8}\b(?:subito|ora|immediatamente)\b|\b(?:componga|chiami|telefoni)\s+(?:subito|ora|immediatamente)\b[^.!?]{0,25}\d[\d\s+-]{6,}|\b(?:chiam\w+|contatt\w+|telefon\w+)\b<25>\b(?:lo|al|il)\s+(?:numero\s+)?(?:\+39|0\d|800)[\d\s]{5,}|)"
      R"(\b(?:llame|llama|llamar|comun[íi]quese)\b<40>\+?\d[\d .()-]{6,18}\d|\b(?:ya|ahora|inmediatamente)\b[^.!?]{0,12}\b(?:marque|llame|telefonee)\b[^.!?]{0,25}\d[\d\s+-]{6,}|\b(?:marque|llame|telefonee)\b[^.!?]{0,25}\d[\d\s+-]{6,14}\b[^.!?]{0,8}\b(?:ya|ahora|inmediatamente)\b|\b(?:marque|llame|telefonee)\s+(?:ya|ahora|inmediatamente)\b[^.!?]{0,25}\d[\d\s+-]{6,}|)"
      R"(\b(?:ligue|liga|contate|contacte)\b<40>\+?\d[\d .()-]{6,18}\d|\b(?:agora|j[áa]|imediatamente)\b[^.!?]{0,12}\b(?:ligue|disque|telefone)\b[^.!?]{0,25}\d[\d\s+-]{6,}|\b(?:ligue|disque|telefone)\b[^.!?]{0,25}\d[\d\s+-]{6,14}\b[^.!?]{0,8}\b(?:agora|j[áa]|imediatamente)\b|)"
      R"(\b(?:немедленно|срочно|разблокиров\w+|подозрительн\w+|подтвердите|поддержк\w+|если\s+это\s+не\s+вы)\b<60>\b(?:позвоните|звоните|перезвоните|по\s+номеру)\b<25>(?:8|\+7)[\s(-]{0,2}\d{3}[\s)-]{0,2}\d{3}[\s-]?\d{2}[\s-]?\d{2}\b|)"
@@ -1972,7 +2036,8 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:немедленно|срочно)\s+(?:позвоните|свяжитесь|перейдите|оплатите|подтвердите)\b|\bсч[её]т\s+ид[её]т\s+на\s+(?:часы|минуты)\b|)"
      R"((?:立即|马上|馬上|尽快|盡快|及时|及時)(?:[拨撥]打|致[电電]|[还還]|[缴繳]|捐款|[验驗][证證]|更新|[点點][击擊])|留下[电電][话話]|扫码捐|)"
      R"((?:至急|今すぐ|すぐに|直ちに)[\s\S]{0,10}(?:電話|振り?込|寄付|送金|下記|連絡|URL|ビットコイン)|電話番号をお知らせ|)"
-     R"(지금 ?바로[\s\S]{0,12}(?:후원|기부|입금|클릭|신청|전화|링크)|(?:즉시|바로)[\s\S]{0,8}(?:전화|연락|링크|눌러|변경)|번호를 ?남겨|개인 ?계좌로[\s\S]{0,4}(?:후원|기부|성금))"); }),
+     R"(지금 ?바로[\s\S]{0,12}(?:후원|기부|입금|클릭|신청|전화|링크)|(?:즉시|바로)[\s\S]{0,8}(?:전화|연락|링크|눌러|변경)|번호를 ?남겨|개인 ?계좌로[\s\S]{0,4}(?:후원|기부|성금)|)"
+     R"(急ぎで(?:手伝|お願い|対応)|届いたら(?:すぐ|そのまま))"); }),
      true},
     {"urg-24-hours", "Pressure", "warn", 25,
      "sets a deadline of hours or a few days",
@@ -1996,7 +2061,7 @@ constexpr auto table = std::to_array<Rule>({
     {"urg-expires-today", "Pressure", "warn", 25,
      "says an offer or a chance ends today or very soon",
      pattern([] { return std::string_view(
-     R"(\b(?:(?:first|whoever)\b<12>\b(?:pays?|sends?|transfers?)\b|(?:heaps|lots|loads|plenty|\d+|other|many|several)\s+(?:of\s+)?(?:other\s+)?(?:ppl|people|buyers|others)\s+(?:\w+\s+)?(?:keen|asking|waiting|want\s+it)\b|someone\s+else\s+ready\b|needs?\s+(?:it\s+)?gone\s+today\b|within\s+the\s+(?:next\s+)?hour\b|before\s+it\s+(?:runs?\s+out|expires|closes)\b|b4\s+midnight\b)|)"
+     R"(\b(?:first|whoever)\b<12>\b(?:pays?|sends?|transfers?)\b|\b(?:ppl|people|buyers|others)\s+(?:\w+\s+)?(?:keen|asking|waiting|want\s+it)\b|\bsomeone\s+else\s+(?:is\s+)?(?:ready|interested|waiting)\b|\bgone\s+today\b|\bwithin\s+the\s+(?:next\s+)?hour\b|\bbefore\s+it\s+(?:runs?\s+out|expires|closes)\b|\bb4\s+midnight\b|)"
      R"(\b(?:expires?|expiring|ends?|ending|closes?|closing|valid|available|deadline|good)\b<20>\b(?:today|tonight|at\s+midnight|in\s+(?:\d+|a\s+few)\s+(?:hours?|minutes|hrs)|soon|only\s+today|this\s+(?:evening|weekend)|tomorrow)\b|)"
      R"(\b(?:today|tonight)\s+only\b|)"
      R"(\b(?:limited[- ]time|time[- ]limited|for\s+a\s+limited\s+time)\b|)"
@@ -2067,7 +2132,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:please\s+)?(?:don['’]t|do\s+not)\s+tell\s+(?:mom|mum|dad|my\s+(?:parents|wife|husband|family)|your\s+(?:parents|family)|grandpa|grandma)\b<party>|\bstay\s+on\s+the\s+line\b<30>\b(?:do\s+not|don['’]t)\s+(?:tell|hang\s+up|call)\b|\b(?:don[\'’]?t|dont|do\s+not)\s+say\s+anything\s+to\b|\btell\s+nobody\b(?!,?\s+but\b)|)"
      R"(\bkeep\s+it\s+off\s+the\s+(?:usual|normal)\b|)"
      R"(\bonly\s+communicate\s+with\s+me\b|\bspeak\s+(?:with|to)\s+anyone\s+by\b|\b(?:nobody|no\s+one)\s+else\s+needs\s+to\s+be\s+made\s+aware\b|)"
-     R"(\bkein\s+wort\s+zu\b|\bn['’]en\s+parle[rz]?\s+à\s+personne\b|\bnot\s+raise\s+(?:it|this)\s+with\b|\bdon['’]t\s+tell\s+\w+\s+i\s+asked\b|)"
+     R"(\bkein\s+wort\s+zu\b|\bn['’]en\s+parle[rz]?\s+à\s+personne\b<party>|\bnot\s+raise\s+(?:it|this)\s+with\b|\bdon['’]t\s+tell\s+\w+\s+i\s+asked\b|)"
      R"(\b(?:don['’]t|do\s+not)\s+want\s+(?:\w+\s+){1,3}(?:team|staff|office|department|colleagues)\s+to\s+know\b|\bausschließlich\s+über\s+diese\s+e-?mail\b|)"
      R"(\b(?:do\s+not|don['’]t|may\s+not|must\s+not|not\s+to)\s+(?:discuss|mention|speak\s+of|talk\s+about)\b<25>\b(?:colleagues?|head\s+office|the\s+others|anyone\s+(?:in|at)\s+the\s+office|in\s+person)\b|)"
      R"(\b(?:do\s+not|don['’]t)\s+tell\s+the\s+(?:cashier|clerk|shop|store|teller)\b|)"
@@ -2079,19 +2144,19 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:nobody|no\s+one)\s+(?:else\s+)?(?:should|must|may|can|needs\s+to|is\s+to)\s+(?:be\s+informed|know|find\s+out|hear)\b|)"
      R"(\b(?:erzählen|sagen|sprechen|informieren)\s+Sie\b<25>\b(?:niemand\w*|keinem|ihrer\s+bank|ihrer\s+familie)\b|)"
      R"(\b(?:sag|erzähl|sprich)\b<15>\b(?:niemand\w*|keinem)\b<25>\b(?:davon|darüber|etwas)\b|)"
-     R"(\b(?:n['’]en\s+parlez|ne\s+(?:le\s+)?dites|ne\s+parlez)\b<25>\b(?:personne|à\s+quiconque|votre\s+banque)\b|)"
+     R"(\b(?:n['’]en\s+parlez|ne\s+(?:le\s+)?dites|ne\s+parlez)\b<party><25>\b(?:personne|à\s+quiconque|votre\s+banque)\b|)"
      R"(\b(?:no\s+(?:le\s+)?(?:diga|cuente|digas|cuentes|comente)|n[ãa]o\s+(?:conte|diga|fale|comente))\b<25>\b(?:nadie|ningu[ée]m|seu\s+banco|su\s+banco)\b|)"
      R"(\bvertel\b<20>\b(?:niemand|aan\s+niemand)\b|)"
      R"(\b(?:sag|erzähl|verrat)\w*\b<20>\b(?:mama|papa|niemand\w*|keinem|keiner|den\s+eltern|der\s+familie)\b<20>\b(?:nichts|davon|darüber|etwas)\b<party>|\b(?:vertraulich|geheim|verschwiegen)\b<20>\b(?:behandel\w+|bleiben|halten)\b|\b(?:reden|sprechen)\s+sie\s+mit\s+niemand\w*\b|\b(?:sprechen|reden)\s+sie\s+mit\s+(?:keinem|niemand\w*)\b|)"
      R"(\b(?:zeg|vertel)\b<20>\b(?:niks|niets|niemand|niet)\b<20>\b(?:tegen|aan)?\b<8>\b(?:papa|mama|pap|mam|niemand|bank|familie)\b<party>|\bhoud\s+dit\s+(?:vertrouwelijk|geheim|onder\s+ons|tussen\s+ons)\b|\b(?:praat|spreek)\b<10>\bmet\s+niemand\b|)"
-     R"(\bn['’]en\s+parle[rz]?\s+(?:surtout\s+)?(?:à|pas)\b|\bne\s+(?:le\s+)?d(?:is|ites)\s+(?:rien\s+)?(?:à\s+)?(?:personne|papa|maman)\b<party>|\bgarde[rz]?\s+(?:cela|ça|ceci)\s+(?:secret|entre\s+nous|pour\s+(?:toi|vous))\b|\bdis\s+rien\s+(?:à|a)\b<party>|)"
+     R"(\bn['’]en\s+parle[rz]?\s+(?:surtout\s+)?(?:à|pas)\b<party>|\bne\s+(?:le\s+)?d(?:is|ites)\s+(?:rien\s+)?(?:à\s+)?(?:personne|papa|maman)\b<party>|\bgarde[rz]?\s+(?:cela|ça|ceci)\s+(?:secret|entre\s+nous|pour\s+(?:toi|vous))\b|\bdis\s+rien\s+(?:à|a)\b<party>|)"
      R"(\bnon\s+(?:dirlo|lo\s+dica|dica|parlarne|ne\s+parli|raccontare|dire)\b<25>\b(?:nessuno|niente|nulla|mamma|papà|banca|famiglia)\b<party>|)"
      R"(\bno\s+(?:le|les|se\s+lo|lo)\s+(?:digas|diga|cuentes|cuente|comentes|comente)\b<25>\b(?:nada|nadie|padres|mam[áa]|pap[áa]|banco|familia)\b<party>|)"
      R"(\bn[ãa]o\s+(?:conta|conte|diga|fala|fale|comente)\b<20>\b(?:pra|para|a|com|nada)\b<12>\b(?:ningu[ée]m|m[ãa]e|pai|fam[íi]lia|banco|meus\s+pais)\b|)"
      R"(\b(?:никому|маме|папе|родителям|родным)\s+(?:пока\s+)?(?:ничего\s+)?не\s+(?:говори\w*|рассказывай\w*|сообщай\w*)(?![\s\S]{0,40}(?:код|пин|парол|смс|данны|реквизит))|\b(?:оставайтесь\s+на\s+линии|не\s+кладите\s+трубку)\b<30>\bникуда\s+не\s+звоните\b|\b(?:маме|папе|никому)\b<6>\bне\s+звони\w*\b|\bтрубку\s+не\s+(?:кладите|вешайте)\b|)"
      R"((?:先)?(?:别|別|不要|不得|勿)(?:让|讓)?(?:告诉|告訴)(?:我|你|任何|家|别|別|爸|妈|媽|銀行|银行|他)[\s\S]{0,4}(?:爸妈|爸媽|妈|媽|爸|家里|家人)|(?:偵查不公開|侦查不公开|案件保密|不能公[开開])|保持通[话話]|(?:不许|不許|不准|不要|不能|别|別)(?:跟|和|向|对|對)任何人(?:讲|講|说|說|提|透露)|不要告[诉訴]家人|不能告[诉訴]任何人|)"
      R"((?:誰にも|家族にも|警察には|他の人に)[\s\S]{0,4}(?:言わないで|話さないで|知られない|内緒)|他言(?:しない|無用)|警察沙汰に(?:したく|し(?:て|ない)|する)|口外(?:する|しない)|誰にも言わず|(?:父|母)さんには言わないで|)"
-     R"(제 ?(?:3|삼)자[\s\S]{0,12}(?:목소리|개입|들어|없|알리)|(?:엄마|아빠|가족|아무|누구|은행|주변)[\s\S]{0,6}(?:한테|에게)[\s\S]{0,6}(?:말하지|알리지|얘기하지)|비밀로 ?(?:해|하|부탁)|전화[\s\S]{0,4}끊으시면|(?:계좌|예금|인출|명의|수사|보안팀)[\s\S]{0,80}(?:통화|전화)[\s\S]{0,4}끊지 ?(?:마|말)|(?:주변|가족|누구)에?게?[\s\S]{0,4}알리지 ?(?:말|마)|(?:아빠|엄마|아무)[\s\S]{0,3}(?:한테|에게)[\s\S]{0,3}말하지)"); }),
+     R"(제 ?(?:3|삼)자[\s\S]{0,12}(?:목소리|개입|들어|없|알리)|(?:엄마|아빠|가족|아무|누구|은행|주변)[\s\S]{0,6}(?:한테|에게)[\s\S]{0,6}(?:말하지|알리지|얘기하지)|비밀로 ?(?:해|하|부탁)<party>|전화[\s\S]{0,4}끊으시면|(?:계좌|예금|인출|명의|수사|보안팀)[\s\S]{0,80}(?:통화|전화)[\s\S]{0,4}끊지 ?(?:마|말)|(?:주변|가족|누구)에?게?[\s\S]{0,4}알리지 ?(?:말|마)|(?:아빠|엄마|아무)[\s\S]{0,3}(?:한테|에게)[\s\S]{0,3}말하지)"); }),
      true},
     {"urg-no-questions", "Pressure", "warn", 40,
      "wants a request carried out without questions or calls",
@@ -2119,7 +2184,7 @@ constexpr auto table = std::to_array<Rule>({
     {"urg-in-a-meeting", "Pressure", "warn", 30,
      "says the sender is in a meeting or cannot be called, a ruse to prevent checking",
      pattern([] { return std::string_view(
-     R"(\b(?:on\s+a\s+flight|no\s+phone\s+(?:out\s+)?here|email['’]?s?\s+(?:best|playing\s+up)|just\s+reply\s+here|i['’]?m\s+interstate|i\s+(?:don['’]?t|can['’]?t)\s+do\s+(?:collections?|viewings?|inspections?)|inspections?\s+after|(?:pls|please)\s+(?:don['’]?t|do\s+not)\s+(?:ring|call|bother|phone|contact)\b<10>\b(?:the|me|them|us)|d(?:o\s+not|on['’]?t|ont)\s+ring\s+me|(?:app|bank)\w*\s+is\s+locked|cannot\s+(?:talk\s+now|show)|i(?:['’]m|\s+am)\s+(?:boarding|at\s+sea|on\s+a\s+ship|offshore))\b|)"
+     R"(\bon\s+a\s+flight\b|\bno\s+phone\s+(?:out\s+)?here\b|\be-?mail['’]?s?\s+(?:is\s+)?(?:best|playing\s+up)\b|\bjust\s+reply\s+here\b|\bi['’]?m\s+interstate\b|\bdo\s+(?:collections?|viewings?|inspections?)\b|\binspections?\s+after\b|\b(?:don['’]?t|do\s+not)\s+(?:ring|bother|phone)\s+(?:the|me|them|us|back)\b|\bapp\s+is\s+locked\b|\bcannot\s+(?:talk\s+now|show)\b|\bi(?:['’]m|\s+am)\s+(?:boarding|at\s+sea|on\s+a\s+ship|offshore)\b|)"
      R"(\b(?:phone|mobile|cell)\b<25>\b(?:broke|broken|lost|stolen|smashed|dead|in\s+the\s+toilet|in\s+the\s+water)\b[\s\S]{0,80}\b(?:number|text\s+me|whats\s?app|message\s+me|save\s+(?:it|this))\b|\b(?:dropped|lost|broke|smashed)\s+my\s+(?:phone|mobile|cell)\b[\s\S]{0,60}\bnumber\b|)"
      R"(\b(?:unable\s+to|can['’]?t|cannot|(?:don['’]t\s+have|no)\s+access\s+to)\b<20>\b(?:portal|work\s+e-?mail|approvals?\s+system)\b|\bfrom\s+my\s+private\s+(?:one|e-?mail|address)\b|\bmy\s+phone\s+(?:is\s+)?off\b|\bdon['’]t\s+try\s+to\s+call\b|)"
      R"(\b(?:can['’]?t|cannot)\s+be\s+reached\s+(?:until|by|on|today|right\s+now)\b|\bwon['’]t\s+have\s+(?:reception|signal)\b|)"
@@ -2235,6 +2300,8 @@ constexpr auto table = std::to_array<Rule>({
     {"ext-pay-or-release", "Extortion", "warn", 75,
      "demands money to keep something from being published",
      pattern([] { return std::string_view(
+     R"(\b(?:friends|family|boss|wife|husband|girlfriend|gf|contacts|followers|school|everyone)\b<40>\b(?:will\s+(?:see|get|receive|know)|gets?\s+(?:it|them))\b<40>\b(?:pay|unless|if|send|hour|tonight)\b|)"
+     R"(\bnude\b<25>\b(?:video|call|recording|pics?)\b|\bi\s+will\s+(?:upload|leak)\b<30>\b(?:youtube|whatsapp|facebook|groups?|everywhere)\b|)"
      R"(\b(?:nudes?|video|pics?|pictures|photos|clip|recording|secret)\b[\s\S]{0,60}\b(?:or\s+(?:i|your|ur|they|else)|get\s+them\s+first|i\s+(?:will\s+)?(?:upload|send|post)|hit\s+send)\b|\bor\s+i\s+(?:post|send|upload|leak|share)\b|\b(?:pay\s+up|send\s+\d+)\s+or\b|\bif\s+i\s+do\s+not\s+get\b<25><amount>|)"
      R"(\b(?:pay|send|transfer|payment|deposit|give\s+me)\b<80>(?:\b(?:bitcoins?|btc|usd|eur|money|amount|crypto\w*|monero|dollars)\b|<amount>)<150>\b(?:delete|erase|destroy|remove|won['’]t\s+(?:release|send|share|publish)|will\s+not\s+(?:release|send|share|publish)|keep\s+(?:quiet|silent|your\s+secret)|your\s+secret|forget\s+about|never\s+hear|or\s+(?:else\s+)?(?:i|we)\s+will|otherwise|disappear)\b<80>\b(?:video|photos?|footage|recording|files?|data|evidence|secret|contacts|everything|everyone|information|material|you|me|publish|release|all)\b|\bor\s+the\s+(?:pictures|photos|video|clip)s?\s+goe?s?\s+(?:online|out)\b|)"
      R"(\b(?:if\s+you\s+(?:do\s+not|don['’]t|refuse|fail|ignore)|unless\s+you|if\s+i\s+(?:do\s+not|don['’]t)|otherwise|or\s+else|if\s+(?:the\s+)?payment\s+is\s+not|if\s+no\s+payment)\b<100>\b(?:send|publish|release|share|leak|forward|expose|upload|distribut\w+|post|go\s+public|made\s+public|sold|sell|auction)\b<60>\b(?:video|photos?|footage|recording|all\s+(?:of\s+)?your\s+(?:contacts|friends|family)|your\s+(?:contacts|friends|family|relatives|colleagues|coworkers|wife|husband|employer|customers|clients|data|files|secrets?|documents)|everyone|data|files|documents|information|internet|dark\s?web)\b|)"
@@ -2262,7 +2329,15 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:v[íi]deo|fotos?|desnud\w+)\b[\s\S]{0,60}\b(?:o\s+(?:se\s+)?l[oa]s?\s+(?:mando|env[íi]o|publico)|a\s+tu\s+(?:mujer|novia|familia)|a\s+tus\s+contactos)\b|)"
      R"(\b(?:видео|фото|переписк\w+)\b[\s\S]{0,60}\b(?:иначе|или\s+(?:все|я|твои)|разошл\w+|твоим\s+(?:друзьям|родным|подписчик\w*))\b|)"
      R"((?:裸|動画|写真)[\s\S]{0,20}(?:ばらま|拡散|送信)[\s\S]{0,20}(?:くなかったら|されたく|振り?込|万)|)"
-     R"((?:영상|사진|동영상)[\s\S]{0,40}(?:뿌린다|뿌리겠|유포|퍼뜨))"); }),
+     R"((?:영상|사진|동영상)[\s\S]{0,40}(?:뿌린다|뿌리겠|유포|퍼뜨)|)"
+     R"(\b(?:freunde|familie|chef|frau|mann|freundin|kontakte|follower|mutter)\b<40>\b(?:sehen|bekommen|kriegen|erfahren)\b<40>\b(?:zahl\w*|sonst|wenn|stunde\w*|euro)\b|)"
+     R"(\b(?:vrienden|familie|baas|vrouw|vriendin|contacten)\b<30>\b(?:zien|krijgen|te\s+zien)\b<40>\b(?:betaal\w*|euro|anders|uur)\b|)"
+     R"(\b(?:amis|famille|patron|femme|mari|copine|contacts|abonnés)\b<40>\b(?:verr\w+|recev\w+|saur\w+)\b|)"
+     R"(\b(?:amici|famiglia|capo|moglie|ragazza|contatti)\b<40>\b(?:vedr\w+|ricever\w+|sapr\w+)\b|)"
+     R"(\b(?:amigos|familia|jefe|esposa|mujer|novia|contactos)\b<30>\b(?:ver[áa]n|recibir[áa]n|sabr[áa]n|lo\s+van\s+a\s+ver)\b|)"
+     R"(\b(?:amigos|fam[íi]lia|chefe|mulher|namorada|contatos|contactos)\b<30>\b(?:v[ãa]o\s+(?:ver|receber|saber)|ver[ãa]o)\b|\b(?:v[íi]deo|nudes?|fotos?)\b[\s\S]{0,60}\b(?:ou\s+(?:mando|envio|publico|posto)|sen[ãa]o)\b|)"
+     R"((?:裸照|[视視][频頻]|不雅|私密)[\s\S]{0,24}(?:[发發][给給]|群[发發]|曝光|公[开開]|散播)[\s\S]{0,12}(?:[亲親]友|通[讯訊][录錄]|家人|同事|[网網])|)"
+     R"((?:知人|家族|友達|会社|連絡先)[\s\S]{0,8}(?:に)[\s\S]{0,8}(?:ばらまく|送る|送信|公開|晒))"); }),
      true},
     {"ext-i-know-password", "Extortion", "warn", 70,
      "shows the reader an old password to frighten them",
@@ -2701,11 +2776,11 @@ constexpr auto table = std::to_array<Rule>({
     {"job-upfront-fee", "Job & goods fraud", "warn", 40,
      "asks an applicant or buyer to pay before anything is delivered",
      pattern([] { return std::string_view(
+     R"(\b(?:pay|send|transfer|wire|deposit)\b<40>\b(?:before|to\s+(?:hold|secure|reserve)|upfront|in\s+advance)\b<30>\b(?:view\w*|keys?|flat|room|house|apartment|item|ship\w*|post|delivery)\b|\bkeys?\b<40>\b(?:courier|letterbox|lockbox|airbnb)\b|\bpaypal\s+(?:friends|f&f)\b|)"
      R"(\b(?:deposit|bond|first\s+month|holding\s+fee)\b<25>\b(?:tonight|into\s+my)\b|\b(?:friends\s+(?:&|and)\s+family|bank\s+transfer|zelle|venmo|cash\s?app)\b<20>\b(?:first|only|now|upfront|before)\b|)"
      R"(\bloans?\b<60>\b(?:no\s+credit\s+check|no\s+collateral|bad\s+credit|without\s+collateral|guaranteed\s+approval|any\s+credit)\b|\b(?:deposit|first\s+month['’]?s?\s+rent)\b<60>\b(?:mail|post|ship|send|courier)\b<12>\b(?:you\s+)?the\s+keys\b|\b(?:working|living|moved)\s+abroad\b[\s\S]{0,80}\b(?:deposit|keys|rent)\b|\b(?:insurance|processing|legal)\s+fees?\s+(?:is|are)\s+paid\s+(?:up\s+?front|first|in\s+advance)\b|\b(?:posted\s+to|abroad|transferred\s+to|working\s+in)\b[\s\S]{0,80}\b(?:deposit)\b|)"
-     R"(\b(?:pay|send|transfer|deposit|cover|fee\s+of|payment\s+of)\b<40>\b(?:registration|training|application|background\s+check|visa|processing|equipment|starter\s+kit|onboarding|certification|uniform|holding|security|refundable|work\s+permit|insurance|membership|booking|reservation)\s+(?:fees?|costs?|deposit|charges?|kit)\b<80>\b(?:job|position|employment|start|hired|work|offer|apply|application|secure|before|apartment|keys|rent|viewing|loan|interview|property|refund\w*|puppy|delivery)\b|)"
+     R"(\b(?:pay|send|transfer|deposit|cover|fee\s+of|payment\s+of)\b<40>\b(?:registration|training|application|background\s+check|visa|processing|equipment|starter\s+kit|onboarding|certification|uniform|holding|security|refundable|work\s+permit|insurance|membership|booking|reservation)\s+(?:fees?|costs?|deposit|charges?|kit)\b<80>\b(?:job|position|employment|start|hired|work|offer|apply|application|secure|before|apartment|keys|rent|viewing|loan|interview|property|refund\w*|puppy|delivery)\b|\b(?:deposit|payment|fee)\b<30>\b(?:before|prior\s+to|to\s+(?:secure|hold|reserve))\b<20>\b(?:viewing|keys|see(?:ing)?\s+the\s+(?:apartment|house|property)|the\s+(?:apartment|house|property|job|position|puppy|car|loan|visa))\b|)"
      R"(\b(?:job|position|employment|hired|offer|apartment|rental|house|property|loan|puppy|vehicle|landlord|keys|rent)\b<80>\b(?:pay|send|transfer|deposit|requires?|need)\b<40>\b(?:registration|training|application|background\s+check|visa|processing|equipment|starter\s+kit|security|refundable|work\s+permit|holding|insurance|first\s+month['’]s|upfront|booking|reservation)\s+(?:fees?|costs?|deposit|charges?|rent|payment|kit)\b|)"
-     R"(\b(?:deposit|payment|fee)\b<30>\b(?:before|prior\s+to|to\s+(?:secure|hold|reserve))\b<20>\b(?:viewing|keys|see(?:ing)?\s+the\s+(?:apartment|house|property)|the\s+(?:apartment|house|property|job|position|puppy|car|loan|visa))\b|)"
      R"(\b(?:keys?|apartment|house|property)\b<60>\b(?:abroad|out\s+of\s+(?:the\s+)?(?:country|town|state)|overseas|missionary|mail(?:ed)?\s+(?:you|to\s+you)\s+the\s+keys)\b<80>\b(?:deposit|rent|payment|keys|western\s+union|transfer)\b|)"
      R"(\b(?:loan|kredit|darlehen|prêt|pr[ée]stamo|empr[ée]stimo|cr[ée]dito)\b<60>\b(?:\d+(?:[.,]\d+)?\s?%|(?:no\s+collateral|no\s+credit\s+check|without\s+collateral|bad\s+credit|any\s+amount|interest\s+rate|apply\s+(?:now|today)|ohne\s+schufa|sans\s+justificatif|sin\s+aval|sem\s+consulta|pr[ée]-?aprovad\w+|liberad[oa])\b)|)"
      R"(\b(?:vorkasse|vorauszahlung|kaution)\b<60>\b(?:schlüssel|wohnung|ausland|besichtigung|stelle|job)\b|)"
@@ -2726,18 +2801,26 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:borg|aanbetaling|reservering\w*|waarborg)\b<40>\b(?:vooraf|eerst|tikkie|overmaken|sleutels?|vandaag)\b|\bverzenden\s+na\s+betaling\b|)"
      R"(\b(?:caution|acompte|arrhes|premier\s+mois|réservation)\b<40>\b(?:d['’]abord|avant|vir\w+|réserv\w+|mandat|pcs|transcash)\b|\b(?:d['’]abord|avant)\b<12>\b(?:virer|verser|payer|régler)\b|\b(?:paypal|paiement)\b<15>\bentre\s+proches\b|)"
      R"(\b(?:caparra|acconto|anticipo|cauzione)\b<40>\b(?:postepay|entro|stasera|subito|bonifico|prima|ricarica)\b|)"
-     R"((?:\b(?:fianza|dep[óo]sito|anticipo|se[ñn]al)\b|50\s?%)<40>\b(?:aparto|apart\w+|reserv\w+|transferencia|bizum|adelantad\w+|primero|antes)\b|\b(?:bizum|transferencia|pago)\b<20>\bpor\s+adelantado\b|\bantes\s+tiene\s+que\s+ingresar\b|)"
+     R"((?:\b(?:fianza|dep[óo]sito|anticipo|se[ñn]al)\b|50\s?%)<40>\b(?:aparto|apart\w+|reserv\w+|transferencia|bizum|adelantad\w+|primero|antes)\b|\b(?:bizum|transferencia|pago)\b<20>\bpor\s+adelantado\b|\bantes\s+tiene\s+que\s+ingresar\b|\b(?:llaves)\b<40>\b(?:mensajer\w+|correo|buz[óo]n|env[íi]o|paqueter[íi]a)\b|\b(?:transfer\w+|ingres\w+|deposit\w+)\b<30>\b(?:reserv\w+|apart\w+|guard\w+)\b|)"
      R"(\b(?:cau[çc][ãa]o|sinal|adiantamento|reserva)\b<40>\b(?:pix|mb\s?way|transfer\w+|antes|primeiro|reserv\w+|hoje)\b|)"
      R"(\b(?:залог|предоплат\w+|бронь)\b<40>\b(?:на\s+карту|через|по\s+моей|ссылк\w+|сначала|сниму|ключ\w+)\b|)"
      R"((?:定金|[订訂]金|押金|保留[费費])[\s\S]{0,16}(?:留|先[付交转轉]|微信|看房)|先[转轉付][\s\S]{0,6}(?:再|就)[\s\S]{0,4}(?:[发發][货貨]|寄|看房)|)"
      R"((?:手付金|敷金|前金|予約金|保証金)[\s\S]{0,14}(?:先に|送って|振り?込|PayPay)|)"
-     R"((?:가계약금|예약금|보증금|계약금|선금)[\s\S]{0,16}(?:먼저|입금|보내|송금)[\s\S]{0,10}(?:시면|주시|분께|하면|해야))"); }),
+     R"((?:가계약금|예약금|보증금|계약금|선금)[\s\S]{0,16}(?:먼저|입금|보내|송금)[\s\S]{0,10}(?:시면|주시|분께|하면|해야)|(?:열쇠|키|비밀번호)[\s\S]{0,8}(?:택배|우편|문자로)|(?:먼저|미리)[\s\S]{0,8}(?:입금|송금|보내)[\s\S]{0,10}(?:잡아|예약|빼|드릴)|)"
+     R"(\b(?:schlüssel)\b<40>\b(?:post|kurier|briefkasten|versand|ups|dhl|schick\w*)\b|\b(?:zahl|überweis|schick)\w*\b<30>\b(?:reservier\w+|zurücklegen|freihalten|zurückhalte\w*)\b|\bnur\s+vorkasse\b|)"
+     R"(\b(?:sleutels?)\b<40>\b(?:post|koerier|brievenbus|opsturen|dhl)\b|\b(?:betaal\w*|overmak\w*|stort\w*)\b<30>\b(?:reserveren|vasthouden|vrijhouden)\b|)"
+     R"(\b(?:clés?|clefs?)\b<40>\b(?:poste|courrier|colis|boîte|chronopost|dhl|coursier)\b|\b(?:vir\w+|vers\w+|pay\w+)\b<30>\b(?:réserver|bloquer|garder|retenir)\b|)"
+     R"(\b(?:chiavi)\b<40>\b(?:posta|corriere|spedi\w+|cassetta)\b|\b(?:bonifico|vers\w+)\b<30>\b(?:bloccar\w+|riservar\w+|tenere)\b|)"
+     R"(\b(?:chaves)\b<40>\b(?:correio\w*|estafeta|transportadora|sedex|envio|caixa)\b|\b(?:transfer\w+|deposit\w+|pix)\b<30>\b(?:reserv\w+|segur\w+|guard\w+)\b|)"
+     R"([钥鑰]匙[\s\S]{0,8}(?:快[递遞]|寄|[邮郵])|(?:先|只要)[\s\S]{0,4}(?:[转轉]|付|交)[\s\S]{0,8}(?:[给給]你留|保留|[预預][订訂定])|)"
+     R"(鍵[\s\S]{0,8}(?:郵送|宅配|送り|ポスト)|(?:先に|事前に)[\s\S]{0,8}(?:送って|払って|入金)[\s\S]{0,10}(?:押さえ|確保|キープ))"); }),
      true},
 
     // ---- Romance fraud -------------------------------------------------------------------------
     {"rom-love-fast", "Romance fraud", "warn", 35,
      "declares love to somebody hardly known",
      pattern([] { return std::string_view(
+     R"(\b(?:nice\s+to\s+(?:meet|know)\s+you\s+anyway|since\s+we(?:['’]re|\s+are)\s+(?:talking|chatting)|make\s+(?:a\s+)?new\s+friends?|let['’]s\s+be\s+friends|meant\s+to\s+meet|happy\s+accident|lovely\s+(?:profile|picture)|can\s+we\s+(?:be\s+friends|chat|keep\s+talking)|destiny|you(?:r|['’]re)\s+(?:such\s+a\s+)?(?:polite|sweet|kind)\s+(?:person|man|woman|reply|soul)|never\s+felt\s+(?:this|so)|future\s+(?:wife|husband)|start\s+our\s+life|counting\s+the\s+days)\b|)"
      R"(\b(?:(?:you|u)\s+seem\s+(?:\w+\s+){0,2}(?:kind|nice|friendly|lovely)|(?:it['’]?s|maybe|must\s+be|was|well)\s+(?:it['’]?s\s+)?fate\b|may\s+i\s+(?:ask|know)\s+your\s+name|where\s+are\s+(?:you|u)\s+based|(?:come|want|like)\s+(?:to\s+)?(?:marry|be\s+with)\s+(?:you|u)\b|at\s+your\s+door\s+by|my\s+queen|felt\s+a?\s?love\s+like|trust\s+you\s+with\s+my\s+heart|growing\s+old\s+with\s+you|love\s+you\s+so\s+much\s+even|god\b<10>\bmade\s+you|hold\s+you\s+in\s+my\s+arms|keep\s+me\s+alive)|)"
      R"(\bwrong\s+number\b[\s\S]{0,80}\b(?:be\s+friends|where\s+are\s+you\s+from|you\s+seem|fate|get\s+to\s+know\s+you|nice\s+to\s+meet)\b|\bmy\s+heart\b<12>\b(?:belong(?:s|ed)\s+to\s+you|is\s+yours|beats\s+for\s+you)\b|\b(?:find|seeking|looking\s+for|searching\s+for|meet)\b<20>\b(?:male|guy|dude|gentleman|charming\s+man|husband)\b|\b(?:since\s+i\s+saw\s+your\s+(?:photo|picture)|can[\'’]t\s+sleep|think\s+of\s+you\s+(?:day|night)|my\s+dearest)\b[\s\S]{0,160}\b\d{2,}|\blove\s+you\b[^.!?]{0,30}\b(?:days|weeks)\s+ago\b|\blove\s+of\s+my\s+life\b|\b(?:(?:fell|falling|am)\s+in\s+love\s+with\s+you)\b|)"
      R"(\b(?:i(?:['’]m|\s+am|\s+have|\s+think\s+i(?:['’]m|\s+am))?|i['’]ve)\s+(?:\w+\s+){0,2}(?:falling|fallen|fell)\s+(?:\w+\s+)?in\s+love\s+with\s+(?:you|your)\b<80>\b(?:profile|online|photo|picture|never|soon|meet|first|chat\w*|messages?|already|although|though|far|since|deeply|soul|god|heart)\b|)"
@@ -2765,15 +2848,26 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:(?:vous\s+avez|tu\s+as)\s+l['’]air\s+(?:\w+\s+)?(?:gentill?e?|sympa\w*)|(?:c['’]est|peut-être)\b<12>\bdestin|on\s+peut\s+(?:discuter|faire\s+connaissance)|puis-je\s+savoir|dans\s+quelle\s+ville|(?:venir|te)\s+te\s+voir|si\s+tu\s+m['’]?aimes?|seule?\s+sur\s+qui)|)"
      R"(\b(?:fare\s+amicizia|piacere\s+sono|(?:sembri|sembra)\s+(?:\w+\s+)?(?:gentile|simpatic\w)|sia\s+(?:stato\s+)?il\s+destino|grazie\s+della\s+gentilezza|(?:vengo|venire|arrivo)\s+da\s+te|hai\s+telegram|solo\s+tu\s+puoi)\b|)"
      R"(\b(?:de\s+d[óo]nde\s+eres|foto\s+(?:muy\s+)?(?:simp[áa]tica|bonita|linda)|pareces\s+(?:muy\s+)?(?:amable|simp[áa]tic\w)|(?:ser[áa]|es|fue)\s+(?:el\s+)?destino|podemos\s+ser\s+amigos|conocernos|eres\s+la\s+[úu]nica)\b|)"
-     R"(\b(?:(?:vc|voc[êe]|tu)\s+[ée]s?\s+de\s+onde|foi\s+(?:o\s+)?destino|parece(?:s)?\s+(?:ser\s+)?(?:\w+\s+)?(?:simp[áa]tic\w|gentil)|podemos\s+ser\s+amigos|fazer\s+amizade|[ée]s\s+a\s+[úu]nica)\b|)"
+     R"(\b(?:(?:vc|voc[êe]|tu)\s+[ée]s?\s+de\s+onde|foi\s+(?:o\s+)?destino|parece(?:s)?\s+(?:ser\s+)?(?:\w+\s+)?(?:simp[áa]tic\w|gentil)|podemos\s+ser\s+amigos|fazer\s+amizade|[ée]s\s+a\s+[úu]nica)\b|\b(?:novos\s+amigos|ser\s+amig[oa]s|prazer\s+(?:mesmo\s+assim|de\s+qualquer)|que\s+simp[áa]tic\w|destino|saudades\s+de\s+voc[êe]|te\s+abra[çc]ar|nossa\s+vida)\b|)"
      R"(\b(?:вы\s+так\s+вежлив\w*|давайте\s+(?:дружить|познакомимся)|может\s+(?:это\s+)?судьба|мечтаю\s+тебя|целую\s+твои|а\s+вы\s+чем)\b|)"
      R"((?:交[个個]朋友|做[个個]?朋友|[缘緣]分|你人(?:好|真)|[很好][有]?[礼禮]貌|[亲親]切)[\s\S]{0,20}(?:[吗嗎]|LINE|微信|加|投[资資]|我是|我叫)|)"
      R"(お?友達になり(?:ませんか|たい)|ずっと一緒にいたい|)"
-     R"(친구 ?(?:해요|할래요|할까요|하고 ?싶|로 ?지내))"); }),
+     R"(친구 ?(?:해요|할래요|할까요|하고 ?싶|로 ?지내)|)"
+     R"(\b(?:neue\s+freunde|freundschaft\s+schließen|woher\s+kommst\s+du|dürfte?\s+ich\s+(?:deinen|ihren)\s+namen|freut\s+mich\s+trotzdem|kein\s+zufall|zukunft\s+mit\s+dir|endlich\s+bei\s+dir|sehne\s+mich)\b|)"
+     R"(\b(?:nieuwe\s+vrienden|leuk\s+je\s+te\s+(?:leren|ontmoeten)|waar\s+kom\s+je\s+vandaan|wat\s+aardig\s+van|ik\s+mis\s+je|je\s+vasthouden|ons\s+leven|toeval\s+bestaat\s+niet)\b|)"
+     R"(\b(?:faire\s+connaissance|devenir\s+amis|enchantée?\s+quand\s+même|d['’]où\s+(?:viens-tu|venez-vous)|votre\s+(?:gentillesse|politesse)|le\s+destin|un\s+signe|tu\s+me\s+manques|te\s+serrer|notre\s+vie)\b|)"
+     R"(\b(?:nuovi\s+amici|di\s+dove\s+(?:sei|è)|piacere\s+(?:comunque|di\s+conoscer\w+)|è\s+destino|mi\s+manchi|abbracciarti|la\s+nostra\s+vita|persona\s+gentile)\b|)"
+     R"(\b(?:nuevos\s+amigos|hacer\s+amistad|ser\s+amig[oa]s|encantada\s+(?:igual|de\s+todos)|qu[ée]\s+amable\s+(?:eres|es)|es\s+el\s+destino|te\s+extra[ñn]o|abrazarte|nuestra\s+vida)\b|)"
+     R"(\b(?:давайте\s+(?:общаться|дружить)|можно\s+познакомиться|вы\s+(?:очень\s+)?(?:милый|добрый|приятный)\s+человек|это\s+знак|скучаю\s+по\s+тебе|обнять\s+тебя|наша\s+встреча)\b|)"
+     R"(相[识識]是|[认認][识識]一下|不打不相[识識]|想你|抱抱你|[见見]到你|)"
+     R"(お話し?しませんか|仲良くして|知り合えて|会いたい(?:よ|です|な)|)"
+     R"(알고 ?지내|대화 ?나눠|보고 ?싶어|안아 ?주|만난 ?것도 ?인연)"); }),
      true},
     {"rom-stuck-abroad", "Romance fraud", "warn", 50,
      "says the sender is stranded abroad and needs money",
      pattern([] { return std::string_view(
+     R"(\b(?:lost|broke|dropped|smashed|cracked|damaged|stolen)\b<12>\b(?:my\s+)?(?:phone|mobile|cell)\b[\s\S]{0,60}\b(?:this\s+is|using|new|texting\s+from|borrow\w*|friend['’]?s)\b|\b(?:please|pls)\b<10>\b(?:wire|send|lend)\b<25>\b(?:visa|ticket|flight|surgery|leave|customs)\b|\b(?:accounts?|card|wages|salary)\b<12>\b(?:is|are|got|was)\b<8>\b(?:frozen|blocked|stuck|locked)\b<25>\b(?:abroad|while|overseas|here|until|because)\b|)"
+     R"(\b(?:new|temp)\s+number\s+i\s+dey\b|\b(?:need|needs|want)\b<15>\bbefore\s+(?:treatment|surgery|they\s+(?:treat|operate|release))\b|)"
      R"(\b(?:hospital|hotel|customs|company|clinic|embassy|landlord)\b<25>\b(?:won['’]?t|will\s+not|refuses?|wants?|is\s+asking|asking)\b<30>(?:<amount>|\b(?:let\s+me|treat\s+me|release)\b)|\b(?:temp(?:orary)?|mate['’]?s)\s+(?:number|phone|num)\b|\bdis\s+new\s+number\b|\bfly\s+to\s+you\b|)"
      R"(\b(?:stuck|trapped|stranded)\s+(?:in|at|on)\b<40>\b(?:stolen|pay|cent|ticket|money|wages)\b|)"
      R"(\b(?:mum|mom|mama|mummy|dad|daddy|papa|gran(?:ny|dma|dpa|dad)?|nan|nana|auntie?|uncle)\b<newnumber>[\s\S]{0,120}\b(?:(?:this|here)(?:\s+is|['’]s)\s+my\s+(?:new|temporary)\s+(?:number|phone)|using\s+(?:this|another|a\s+friend['’]?s?)\s+(?:number|phone)|(?:phone|mobile|cell)\b<30>\b(?:broke|broken|lost|stolen|dropped|smashed|dead|repair|water|toilet)|(?:dropped|lost|broke|smashed)\s+my\s+(?:phone|mobile|cell))\b|\b(?:mum|mom|dad|gran(?:ny|dma|dpa|dad)?|nan|nana)\b[\s\S]{0,80}\b(?:accident|police\s+station|arrested|jail|hospital|crash)\b[\s\S]{0,80}\b(?:bail|money|cash|lawyer|wire|send)\b|\b(?:tour|deployment|mission|contract|service)\b<40>\b(?:ends?|over|finish\w*)\b[\s\S]{0,100}\b(?:need|pay|send|short\s+of)\b<15><amount>|\b(?:lend\s+me|pay\s+for\s+my|advance\s+me)\b[\s\S]{0,60}\b(?:leave|port|ticket|permit|come\s+to\s+you)\b|\b(?:dad|mum|mom|gran|nan|auntie|uncle)\b[\s\S]{0,60}\b(?:on\s+\w+[\'’]s\s+phone|from\s+\w+[\'’]s\s+(?:phone|mobile)|a\s+friend[\'’]s\s+phone)\b[\s\S]{0,80}\b(?:send|transfer|pay)\b[^.!?]{0,15}\d|\b(?:mum|mom|dad|gran|grandma|grandpa|nan|auntie?)\b<newnumber>[\s\S]{0,60}\b(?:from\s+a\s+friend[\'’]s|(?:on|with)\s+a\s+friend[\'’]s|from\s+someone\s+else[\'’]s|borrowed\s+phone)\b|\b(?:took|stole)\s+my\s+(?:passport|wallet)\b[^.!?]{0,60}\b(?:hotel|ticket|fly|money)\b|\b(?:(?:visa|ticket|flight)[^.!?]{0,12}costs?|short\s+of\s+\d)\b[^.!?]{0,30}\bhelp\s+me\b|)"
@@ -2796,16 +2890,25 @@ constexpr auto table = std::to_array<Rule>({
      R"((?:엄마|아빠|어머니|아버지|할머니|할아버지|이모|삼촌|고모)<newnumber>[\s\S]{0,60}(?:(?:폰|핸드폰|휴대폰|액정|전화기)[\s\S]{0,10}(?:깨졌|깨져|고장|망가|파손|떨어|수리|잃어)|번호[\s\S]{0,4}바뀌|이\s?번호로|새\s?번호|친구\s?폰)|(?:엄마|아빠|어머니|아버지|할머니|할아버지)[\s\S]{0,60}(?:사고|합의금|경찰서|병원비|납치|다쳤)[\s\S]{0,60}(?:만 ?원|돈|입금|송금|급해|보내|말하지)|(?:엄마|아빠|어머니|아버지)[\s\S]{0,60}(?:신분증|민증|주민증|카드)[\s\S]{0,12}(?:사진|찍어|보내)|(?:공항|해외|외국)[\s\S]{0,20}(?:도둑|잃어버|뺏|억류|갇)[\s\S]{0,40}(?:돈|보내|송금|표)|(?:엄마|아빠)[\s\S]{0,30}(?:이걸로|이쪽으로|여기로) ?연락|(?:임무|파병|작전)[\s\S]{0,80}(?:통관|비행기|대신 ?내|송금)|(?:휴가|비행기)[\s\S]{0,20}대신 ?내|)"
      R"(\b(?:robbed|mugged|stolen|snatched|won['’]t\s+let\s+me|will\s+not\s+let\s+me|without\s+(?:any\s+)?(?:cash|money|papers|passport))\b<60>\b(?:wire|send|lend|transfer|western\s+union)\b<40>\b(?:me|home|flight|ticket|hotel|bill|back|soon|please)\b|\b(?:hotel|hospital|clinic|airport|police|customs)\b<40>\b(?:will\s+not|won['’]t|refuses?\s+to|keeps?|holds?|holding|until|cannot|can['’]t)\b<40>\b(?:leave|go|passport|luggage|paid|pay|bill|released?)\b<40>\b(?:help|send|lend|wire|please|money|cash)\b|\b(?:wallet|passport|purse|bag|cards?)\b<20>\b(?:stolen|snatched|gone|lost|missing)\b<60>\b(?:airport|embassy|abroad|hotel|trip|station)\b<40>\b(?:cash|money|help|stranded|nothing|ticket)\b|)"
      R"(\b(?:douane|ziekenhuis|hotel)\b<20>\blaat\s+me\s+niet\b|)"
-     R"(\b(?:visa|passeport|billet|hôpital|hospitalis\w+)\b<30>\b(?:payer|avance|envo[iy]\w*|opérer|transcash|mandat)\b|\bchangé\s+de\s+(?:num|numéro|tel)\b<newnumber>|)"
+     R"(\b(?:visa|passeport|billet|hôpital|hospitalis\w+)\b<30>\b(?:payer|avance|envo[iy]\w*|opérer|transcash|mandat)\b|\bchangé\s+de\s+(?:num|numéro|tel)\b<newnumber>|\b(?:douane|hôpital|hôtel|ambassade|entreprise)\b<30>\b(?:refuse|exige|demande|bloque|ne\s+me\s+laisse)\b|\b(?:téléphone|portable|tel)\b<12>\b(?:cassé|perdu|volé|tombé)\b[\s\S]{0,60}\b(?:nouveau|virement|avance\w*|paye\w*)\b|)"
      R"(\b(?:mi\s+(?:fai|presti|mandi))\b<12>\b(?:ricarica|bonifico|soldi|\d+)\b<60>\b(?:vengo|arrivo|treno|volo|da\s+te)\b|\b(?:nonn[oa]|zi[oa])\b<40>\btuo\s+nipote\b|)"
      R"(\b(?:perdid\w|robad\w|roto|mojado)\b<12>\b(?:m[óo]vil|celular|tel[ée]fono)\b<60>\b(?:desde|compañer[oa]|amig[oa])\b|)"
      R"(\bприлечу\s+и\s+(?:сразу\s+)?отдам\b|)"
      R"((?:同[学學]|朋友|[别別]人)的(?:[号號]|手[机機])[\s\S]{0,30}(?:[转轉]|[钱錢]|交)|)"
-     R"((?:番号|スマホ)[\s\S]{0,4}(?:かわり|変わり|変え)[\s\S]{0,30}(?:払|貸|ふりこ|振り?込)|必ず返す(?:から)?[\s\S]{0,16}貸して)"); }),
+     R"((?:番号|スマホ)[\s\S]{0,4}(?:かわり|変わり|変え)[\s\S]{0,30}(?:払|貸|ふりこ|振り?込)|必ず返す(?:から)?[\s\S]{0,16}貸して|)"
+     R"(\b(?:krankenhaus|zoll|hotel|botschaft|firma)\b<30>\b(?:lässt\s+mich\s+nicht|verlangt|will\s+erst|gibt\s+mir\s+nicht)\b|\b(?:flug|ticket|visum|op|operation)\b<25>\b(?:bezahlen|vorstrecken|überweisen)\b<40>\b(?:zu\s+dir|schatz|liebling|zurück)\b|\b(?:handy|telefon)\b<15>\b(?:kaputt|verloren|geklaut|gestohlen|ins\s+wasser)\b[\s\S]{0,60}\b(?:neue\s+nummer|schreib|überweis\w+|leihen)\b|)"
+     R"(\b(?:douane|ziekenhuis|ambassade|bedrijf)\b<30>\b(?:eist|wil\s+eerst|betaalt\s+me|vraagt)\b|\b(?:telefoon|mobiel)\b<15>\b(?:kapot|kwijt|gestolen|gevallen)\b[\s\S]{0,60}\b(?:nieuwe?|betalen|overmaken|voorschieten)\b|)"
+     R"(\b(?:dogana|ospedale|albergo|ambasciata|azienda)\b<30>\b(?:non\s+mi\s+(?:lascia|paga)|pretende|chiede|rifiuta)\b|\b(?:telefono|cellulare)\b<15>\b(?:rotto|perso|rubato|caduto)\b[\s\S]{0,60}\b(?:nuovo|bonifico|paga\w*|prestar\w*)\b|)"
+     R"(\b(?:aduana|hospital|hotel|embajada|empresa)\b<30>\b(?:no\s+me\s+(?:deja|paga)|exige|pide|retiene)\b|)"
+     R"(\b(?:alf[âa]ndega|hospital|hotel|embaixada|empresa)\b<30>\b(?:n[ãa]o\s+me\s+(?:deixa|paga)|exige|pede|cobra)\b|\b(?:telem[óo]vel|celular)\b<15>\b(?:partiu|perdi|roubad\w|caiu|quebrou)\b[\s\S]{0,60}\b(?:novo|transfer\w+|pag\w+|pix)\b|)"
+     R"((?:海[关關]|[医醫]院|公司)[\s\S]{0,8}(?:不[让讓]|[扣][住留]|要求|才能)[\s\S]{0,14}(?:[费費]|[钱錢]|[转轉]|交)|手[机機][\s\S]{0,4}(?:坏|壞|丢|丟|摔)[\s\S]{0,24}(?:[转轉]|借|垫|墊|[汇匯])|)"
+     R"((?:税関|病院|会社)[\s\S]{0,14}(?:足止め|払わないと|凍結|要求)|(?:スマホ|携帯)[\s\S]{0,4}(?:壊|なくし|落とし)[\s\S]{0,30}(?:振り?込|払|貸|立て替え)|)"
+     R"((?:세관|병원|회사)[\s\S]{0,14}(?:안 ?보내|못 ?나가|요구|묶여)|(?:핸드폰|휴대폰|폰)[\s\S]{0,6}(?:고장|액정|잃어|깨)[\s\S]{0,30}(?:이체|송금|보내|결제|빌려))"); }),
      true},
     {"rom-never-met", "Romance fraud", "warn", 30,
      "speaks of love and money between people who have never met",
      pattern([] { return std::string_view(
+     R"(\b(?:misdial\w*|wrong\s+(?:chat|recipient|jessica|person)|mistyped|saved\s+(?:your|this)\s+number\s+(?:by\s+mistake|wrongly)|number\s+by\s+mistake|must\s+have\s+(?:mixed|dialled|typed|texted)|texted\s+the\s+wrong|not\s+who\s+i\s+thought)\b|)"
      R"(\b(?:(?:wrong|incorrect|mixed\s+up\s+the)\s+(?:number|contact|person)s?\b|(?:given?|have|had|saved)\s+(?:me\s+)?(?:the\s+|it\s+)?(?:wrong|under\s+the\s+wrong)\b|(?:cant?|can['’]t)\s+wait\s+to\s+(?:see|meet|hold)\s+(?:you|u)\b|for\s+the\s+first\s+time,?\s+my\s+(?:love|dear)|never\s+(?:seen|met)\s+(?:one\s+another|each\s+other)\b)|)"
      R"(\b(?:send|lend)\b<15>\b(?:the\s+)?(?:fare|sum|visa|ticket)\b<40>\b(?:hold|meet|see|hug|kiss)\s+you\b|\btrust\s+you\s+with\s+my\s+heart\b|)"
      R"(\bknow\s+each\s+other\b<10>\b(?:from|through|over|via)\b<6>\b(?:internet|net|web|chat|app)\b<40>\b(?:heart|love|trust|savings)\b|\b(?:send|reply|give|show)\b<12>\b(?:you|u)\b<6>\bmy\s+(?:photos?|pictures?|pics?)\b|\bsmall\s+talk\b<40>\b(?:reply|e-?mail|photo|picture)\b|)"
@@ -2830,7 +2933,16 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:errei\s+o\s+(?:contato|n[úu]mero)|n[úu]mero\s+errado|enganei-me\s+n[oa]|engan[eo]\w*\s+(?:no|de)\s+(?:n[úu]mero|contacto)|pessoa\s+errada)\b|)"
      R"((?:加|打|[记記]|存|[发發]|[认認])[错錯](?:了)?(?:[号號][码碼]|人)?(?:了)|[号號][码碼](?:[给給][错錯]|不[对對])|)"
      R"(登録[をが]?間違え|番号[をが]?(?:間違|違)|人違い|送り間違え|)"
-     R"((?:번호|연락처)[를을]?[\s\S]{0,6}잘못 ?(?:줬|저장|알|적|보)|잘못 ?(?:보냈|걸))"); }),
+     R"((?:번호|연락처)[를을]?[\s\S]{0,6}잘못 ?(?:줬|저장|알|적|보)|잘못 ?(?:보냈|걸)|)"
+     R"(\b(?:nummer\w?\s+verwechselt|falsch\s+eingetippt|zahlendreher|falsche\s+adresse\s+erwischt|versehentlich\s+(?:dir|ihnen)\s+geschrieben)\b|)"
+     R"(\b(?:vergist\s+(?:in|van)|verkeerd\s+(?:getypt|nummer)|nummer\s+verwisseld)\b|)"
+     R"(\b(?:j['’]ai\s+confondu|mauvaise\s+personne|faux\s+numéro|mal\s+(?:composé|enregistré|recopié))\b|)"
+     R"(\b(?:ho\s+sbagliato|persona\s+sbagliata|contatto\s+sbagliato|mi\s+sono\s+sbagliat\w)\b|)"
+     R"(\b(?:me\s+he\s+equivocado|guard[ée]\s+mal|marqu[ée]\s+mal|persona\s+equivocada|contacto\s+equivocado)\b|)"
+     R"(\b(?:n[úu]mero\s+trocado|me\s+confundi|salvei\s+errado|mandei\s+(?:pra|para\s+a)\s+pessoa)\b|)"
+     R"(弄[错錯]|[认認][错錯]人|[号號][码碼][输輸存][错錯]|不好意思[\s\S]{0,6}[错錯]了|)"
+     R"(間違えてしまい|送り先を間違|別の方に|)"
+     R"(번호를? ?착각|다른 ?분께|저장을 ?잘못|번호가 ?틀렸)"); }),
      true},
     {"rom-military", "Romance fraud", "warn", 30,
      "poses as a soldier or contractor on deployment",

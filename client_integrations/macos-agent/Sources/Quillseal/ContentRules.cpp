@@ -704,7 +704,7 @@ constexpr auto table = std::to_array<Rule>({
     {"bec-bank-change", "Payment redirection", "warn", 55,
      "announces new bank details, the core of payment-redirection fraud",
      pattern([] { return std::string_view(
-     R"(\b(?:account|bank)\b<30>\b(?:frozen|froze|audit\w*|under\s+review|not\s+(?:operational|available)|blocked)\b[\s\S]{0,60}\b(?:pay|transfer|send|remit)\b<40>\b(?:this|new|other|another|following|below)\b|\b(?:moved|switched|changed)\s+(?:to\s+another\s+)?banks?\b<40>\b(?:new|below|update\w*)\b|\bnew\s+account\s+for\s+(?:receipts|invoices|payments)\b|)"
+     R"(\b(?:account|bank)\b<30>\b(?:frozen|froze|audit\w*|under\s+review|not\s+(?:operational|available)|blocked)\b[\s\S]{0,60}\b(?:pay|transfer|send|remit)\b<40>\b(?:this|new|other|another|following|below)\b|\b(?:moved|switched|changed)\s+(?:to\s+another\s+)?banks?\b<byhand><40>\b(?:new|below|update\w*)\b|\bnew\s+account\s+for\s+(?:receipts|invoices|payments)\b|)"
      R"(\bchanged\s+banks\b[\s\S]{0,40}\b(?:direct\s+deposit|payroll|salary)\b|\bwe\s+(?:now\s+)?bank\s+with\b<60>\b(?:details|records|system)\b|\b(?:settle|pay|transfer|remit)\b[^.!?]{0,60}\baccount\s+in\s+\w+[^.!?]{0,20}\b(?:until\s+further\s+notice|for\s+the\s+time\s+being|temporarily)\b|\b(?:until\s+further\s+notice|for\s+the\s+time\s+being|temporarily)\b[^.!?]{0,40}\baccount\s+in\s+\w+|)"
      R"(\b(?:we\s+are|we['’]re)\s+changing\s+banks\b|\bbank\s+has\s+flagged\b|\bchange\s+ach\b|\bright\s+bank\s+details\b|\bresend\b<20>\b(?:this|the)\s+(?:other|new)\s+one\b|)"
      R"(\baccount\s+on\s+(?:file|the\s+invoice)\b<60>\b(?:closed|audited|flagged|incorrect)\b|\bnew\s+(?:bank\s+)?details\s+attached\b|\bbank\s+changed\b<30>\b(?:notice|invoice|updated|attached|our)\b|)"
@@ -744,7 +744,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:nov[oa]s?|alter\w+|mudan\w+|atualiz\w+)\b<20>\b(?:noss[oa]s?\s+|meus?\s+)?(?:dados\s+banc[áa]rios|conta\s+banc[áa]ria)\b<byhand>|)"
      R"(\b(?:nieuwe?|gewijzigde?|ons|onze)\b<15>\b(?:bankgegevens|rekeningnummer|bankrekening)\b<40>\b(?:gewijzigd|veranderd|nieuwe?|voortaan)\b|)"
      R"((?:更改|变更|變更|更换|更換|新的)<8>(?:银行账户|銀行帳戶|收款账户|收款帳戶|银行账号|銀行帳號|收款账号|银行信息)|)"
-     R"((?:銀行口座|振込先|振込口座)<12>(?:変更(?!する|を希望|され|届|の(?:場合|方|際))|新しい)|)"
+     R"((?:銀行口座|振込先|振込口座)<12>(?:変更(?!する|したい|を希望|され|届|の(?:場合|方|際))|新しい)|)"
      R"((?:입금\s?계좌|은행\s?계좌|계좌\s?정보|계좌번호)<10>(?:변경(?!\s?(?:은|을|하실|하시려|원하|신청))|바뀌|새로운)|)"
      R"(\b(?:gehaltskonto|gehalt|lohn)\b<byhand><50>\b(?:ändern|neue[ns]?\s+(?:konto|iban)|umstellen)\b|\b(?:gehalt|lohn)\b<40>\b(?:dorthin|darauf)\b<12>\büberweis\w*|\b(?:begleichen|überweisen|zahlen)\b[^.!?]{0,60}\bkonto\s+in\s+\w+[^.!?]{0,20}\b(?:bis\s+auf\s+weiteres|vorübergehend|vorläufig)\b|\b(?:bis\s+auf\s+weiteres|vorübergehend|vorläufig)\b[^.!?]{0,40}\bkonto\s+in\s+\w+|)"
      R"(\b(?:rekeningnummer|bankgegevens|iban|bankrekening)\b<12>\b(?:is|zijn)\b<10>\b(?:gewijzigd|veranderd|aangepast)\b|\bsalaris\b<50>\bnieuwe\s+rekening\b|\bnieuwe\s+iban\b|\bnieuwe?\s+(?:bank)?rekeningnummer\b<40>\b(?:voldoe\w*|betal\w+|overmaken|storten|bijlage)\b|\b(?:voldoe\w*|betal\w+|overmaken)\b<40>\bnieuwe?\s+(?:bank)?rekeningnummer\b|\bsalaris\b<30>\bdaarop\s+storten\b|\b(?:voldoen|betalen|overmaken)\b[^.!?]{0,60}\brekening\s+in\s+\w+[^.!?]{0,20}\b(?:tot\s+nader\s+order|voorlopig|tijdelijk)\b|\b(?:tot\s+nader\s+order|voorlopig|tijdelijk)\b[^.!?]{0,40}\brekening\s+in\s+\w+|)"
@@ -1067,7 +1067,7 @@ constexpr auto table = std::to_array<Rule>({
      "asks for an unnamed favour or for urgent help",
      pattern([] { return std::string_view(
      R"(\b(?:pay\s+(?:you|u)\s+back|fix\s+(?:you|u)\s+up|sort\s+(?:you|u)\s+out|give\s+it\s+back)\b|\bsend\s+(?:it|the\s+money)\s+to\s+(?:this|my\s+\w+['’]?s?)\b|\b(?:short|shy)\s+of\s+<amount>|)"
-     R"(\b(?:can|could|will|would)\s+(?:you|u)\b<15>\b(?:send|shoot|wire|lend|transfer|pay|spot|cover)\b<15>(?:<amount>|[$£€]?\d[\d,.]{2,})|\b(?:send|pass|screenshot|forward)\s+(?:me\s+it|it\s+(?:over|here))\b|\b(?:they\s+)?needs?\s+(?:<amount>|\d+k)\s+before\b|\b(?:before|for)\s+(?:this|the\s+next)\s+(?:pay\s+)?run\b|\blend\s+me\s+the\b|)"
+     R"(\b(?:can|could|will|would)\s+(?:you|u)\b<15>\b(?:send|shoot|wire|lend|transfer|pay|spot|cover)\b<15>[$£€]?\d[\d,.]{2,}|\b(?:send|pass|screenshot|forward)\s+(?:me\s+it|it\s+(?:over|here))\b|\b(?:they\s+)?needs?\s+(?:<amount>|\d+k)\s+before\b|\b(?:before|for)\s+(?:this|the\s+next)\s+(?:pay\s+)?run\b|\blend\s+me\s+the\b|)"
      R"(\bneed\s+to\s+pay\b<25>\b(?:today|tonight|right\s+now|by\s+tonight)\b|\bneed\s+bail\s+money\b|\b(?:could|can)\s+you\s+(?:please\s+)?(?:forward|resend)\s+it\b|\b(?:could|would|can)\s+(?:really\s+)?use\s+your\s+help\b|\b(?:get\s+it\s+back|pay\s+you\s+back|give\s+it\s+back)\b|\b(?:(?:have|need|got)\s+to\s+(?:urgently\s+)?(?:pay|transfer|settle)|must\s+(?:urgently\s+)?pay)\b[^.!?]{0,12}\d{2,}|)"
      R"(\b(?:on\s+my\s+behalf|do\s+it\s+from\s+your\s+side)\b|\bwhat\s+(?:information\s+)?do\s+you\s+need\s+from\s+me\b|)"
      R"(\b(?:effective|in\s+time|changed?)\b<30>\b(?:current|next|this|upcoming)\s+(?:pay\s?(?:date|day|period|roll|check|run)|month['’]s\s+pay\w*)\b|)"

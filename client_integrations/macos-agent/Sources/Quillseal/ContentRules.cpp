@@ -284,9 +284,9 @@ constexpr auto table = std::to_array<Rule>({
     {"cred-confirm-password", "Credential phishing", "warn", 45,
      "asks the reader to confirm or hand over a password or PIN",
      pattern([] { return std::string_view(
+     R"(\b(?:reply|respond|answer)\s+with\b<15>\b(?:password|passcode|pin)\b|\b(?:type|enter|confirm|supply|provide)\b<15>\b(?:your|ur|the)\s+(?:\w+\s+){0,2}(?:password|passcode|pin)\b<40>\b(?:keep|continue|verify|unlock|check|restore|below|here|again)\b|\b(?:confirm|verify|validate|re-?confirm|re-?validate|provide|submit|supply|reply\s+with|tell\s+us|send\s+(?:us|me)|give\s+(?:us|me))\b<20>\b(?:your|ur)\s+(?:\w+\s+){0,3}(?:password|passcode|pin(?:\s+code|\s+number)?|security\s+code|log-?in\s+(?:details|credentials|information)|credentials|user\s?name\s+and\s+password)\b|)"
      R"(\bwhat\s+you\s+log\s+(?:in|on)\s+with\b|)"
      R"(\bcode\b<60>\b(?:can|could|please)\b<12>\b(?:you\s+)?(?:send|forward|text)\s+it\s+(?:to\s+me|back|over)\b|\bcode\b<20>\b(?:tell\s+me|read\s+me|send\s+me)\b<12>\b(?:what\s+it\s+says|it|the\s+(?:code|digits|number))\b|)"
-     R"(\b(?:confirm|verify|validate|re-?confirm|re-?validate|provide|submit|supply|reply\s+with|tell\s+us|send\s+(?:us|me)|give\s+(?:us|me))\b<20>\b(?:your|ur)\s+(?:\w+\s+){0,3}(?:password|passcode|pin(?:\s+code|\s+number)?|security\s+code|log-?in\s+(?:details|credentials|information)|credentials|user\s?name\s+and\s+password)\b|)"
      R"(\byour\s+(?:\w+\s+){0,2}(?:e-?mail|mailbox|account|webmail|office\s?365|outlook|network|domain|server|microsoft|outlook|access)?\s?password\s+(?:has\s+expired|is\s+(?:set|about|due|going)\s+to\s+expire|is\s+expiring|will\s+expire\s+(?:today|tomorrow|in|soon|within)|expires\s+(?:today|tomorrow|in|soon|within)|must\s+be\s+(?:updated|confirmed|validated))\b|)"
      R"(\b(?:keep|maintain|retain|keeping|continue\s+using)\b<12>\b(?:my\s+|your\s+|the\s+)?(?:current|same|existing|old)\s+password\b|)"
      R"(\bpassword\s+(?:expiration|expiry|validation)\s+(?:notice|notification|alert|warning|required)\b|)"
@@ -367,11 +367,10 @@ constexpr auto table = std::to_array<Rule>({
     {"cred-unusual-signin", "Credential phishing", "warn", 30,
      "reports an unusual sign-in or transaction, the commonest pretext for stealing a password",
      pattern([] { return std::string_view(
+     R"(\b(?:someone|somebody|stranger|unknown\s+person)\b<25>\b(?:logged|signed|tried|got)\s+(?:in|into|to\s+(?:log|sign|get))\b|\b(?:strange|odd|unusual|suspicious|unfamiliar|unrecognised|unrecognized)\s+(?:log-?ins?|sign-?ins?|activit\w+|transactions?|payments?|charges?|device)\b|\b(?:unusual|suspicious|unauthori[sz]ed|unrecogni[sz]ed|unfamiliar|unknown|new|abnormal|irregular|fraudulent|unexpected)\b<15>\b(?:sign-?in|log-?in|log-?on|logon|access|activity|activities|attempts?|transactions?|device|connection|charge|purchase|withdrawal)\b<40>\b(?:your|ur|from|on|to|detected|noticed|was|were|has|have|attempt)\b|\b(?:detected|noticed|identified|observed|recorded|flagged|found)\b<25>\b(?:unusual|suspicious|unauthori[sz]ed|unrecogni[sz]ed|unfamiliar|abnormal|irregular|fraudulent|strange|multiple\s+failed)\b<25>\b(?:sign-?in|log-?in|logon|access|activity|activities|attempts?|transactions?|movements?|behaviou?r|irregularit(?:y|ies))\b|)"
      R"(\bsign-?in\b<25>\bfrom\s+a\s+(?:new|different|unknown|strange)\s+(?:device|place|country|computer)\b|\bnew\s+(?:device|payee|login)\b<25>\b(?:was\s+added|near|has\s+been\s+added)\b|)"
      R"(\b(?:se\s+n[ãa]o\s+foi\s+voc[êe]|si\s+no\s+(?:has\s+sido|fuiste|fue)\s+(?:t[úu]|usted)|n[ãa]o\s+reconhe[çc]o\s+est[ea]|wenn\s+sie\s+das\s+nicht\s+waren|falls\s+sie\s+(?:das|dies)\s+nicht\s+waren|si\s+ce\s+n\'était\s+pas\s+vous|als\s+u\s+dit\s+niet\s+was)\b(?!<30>\b(?:ignor\w+|desconsider\w+|negeer|brauchen|müssen|nichts))|)"
      R"(\b(?:unusual|suspicious|abnormal)\s+traffic\b<20>\b(?:from|on)\s+your\b|)"
-     R"(\b(?:unusual|suspicious|unauthori[sz]ed|unrecogni[sz]ed|unfamiliar|unknown|new|abnormal|irregular|fraudulent|unexpected)\b<15>\b(?:sign-?in|log-?in|log-?on|logon|access|activity|activities|attempts?|transactions?|device|connection|charge|purchase|withdrawal)\b<40>\b(?:your|ur|from|on|to|detected|noticed|was|were|has|have|attempt)\b|)"
-     R"(\b(?:detected|noticed|identified|observed|recorded|flagged|found)\b<25>\b(?:unusual|suspicious|unauthori[sz]ed|unrecogni[sz]ed|unfamiliar|abnormal|irregular|fraudulent|strange|multiple\s+failed)\b<25>\b(?:sign-?in|log-?in|logon|access|activity|activities|attempts?|transactions?|movements?|behaviou?r|irregularit(?:y|ies))\b|)"
      R"(\b(?:someone|somebody|a\s+third\s+party|another\s+(?:device|person)|an\s+unknown\s+(?:device|person|user))\b<25>\b(?:tried|attempted|trying|has|have|just)\b<15>\b(?:log(?:ged)?\s?in|sign(?:ed)?\s?in|access(?:ed)?|reset)\b<25>\byour\b|)"
      R"(\b(?:if|in\s+case)\s+(?:this|it)\s+(?:was\s+not|wasn['’]t|is\s+not|isn['’]t)\s+you\b(?!<30>\b(?:ignore|disregard|delete|no\s+action|nothing)\b)|)"
      R"(\b(?:did\s+not|didn['’]t|do\s+not|don['’]t)\s+(?:recogni[sz]e|authori[sz]e|make|request|initiate|perform|place)\s+(?:this|the)\s+(?:\w+\s+)?(?:change|login|activity|transaction|charge|sign-?in|log-?in|device|purchase|request|order|payment|transfer)\b(?!<30>\b(?:ignore|disregard|delete|no\s+action|nothing)\b)|)"
@@ -398,6 +397,7 @@ constexpr auto table = std::to_array<Rule>({
     {"cred-session-expire", "Credential phishing", "warn", 25,
      "says a session or access is about to end, to rush the reader to a sign-in page",
      pattern([] { return std::string_view(
+     R"(\b(?:session|access|login|log-?in|token)\b<25>\b(?:times?\s+out|timed\s+out|runs?\s+out|ends?\s+(?:in|at|soon|today|tonight)|will\s+lapse|about\s+to\s+(?:expire|end|lapse|close))\b|\b(?:log|sign)\s+back\s+in\b|)"
      R"(\bsign\s+in\s+again\s+now\b|)"
      R"(\b(?:membership|subscription|plan|protection|renewal)\b<60>\b(?:set|scheduled|due)\s+(?:to|for)\s+(?:auto-?matic\s+|auto-?)?renew(?:al)?\b|)"
      R"(\b(?:we\s+will|will\s+be|is\s+going\s+to\s+be)\s+(?:automatically\s+)?(?:debit(?:ed)?|charged?|deducted)\b<30><amount>|)"
@@ -462,10 +462,10 @@ constexpr auto table = std::to_array<Rule>({
     {"cred-mfa-fatigue", "Credential phishing", "warn", 35,
      "asks the reader to approve a sign-in prompt on their phone",
      pattern([] { return std::string_view(
+     R"(\b(?:tap|press|hit|click|say)\s+["“']?(?:yes|approve|allow|accept|ok)\b<40>\b(?:phone|prompt|push|notification|app|screen|pops?)\b|\b(?:prompt|push|notification|pop-?up)\b<40>\b(?:approve|accept|allow|tap\s+yes|press\s+yes|say\s+yes)\b|\b(?:notification|prompt|pop-?up)\s+(?:will\s+|should\s+)?(?:appear|pop\s+up|come\s+up|show\s+up)?<30>\b(?:just\s+|please\s+)?(?:hit|tap|press|click)\s+(?:yes|approve|accept|allow)\b|)"
      R"(\b(?:approve|accept|confirm|tap\s+yes)\b<30>\b(?:sign-?in|log-?in|request|prompt|notification)\b<25>\b(?:mobile|phone|device|app)\b|)"
      R"(\b(?:approve|accept|confirm|allow|tap\s+(?:yes|approve|allow)|press\s+(?:yes|approve))\b<30>\b(?:sign-?in|log-?in|authentication|authenticator|mfa|2fa|duo|push|okta|microsoft\s+authenticator)\b<15>\b(?:request|prompt|notification|push|attempt|message)\b|)"
      R"(\b(?:authenticator|mfa|2fa|two[- ]factor|multi[- ]factor|duo)\b<40>\b(?:approve|accept|tap\s+(?:yes|approve|allow)|press\s+(?:yes|approve)|re-?enrol+|re-?register|re-?configure|expir\w+|set\s?up\s+again)\b|)"
-     R"(\b(?:notification|prompt|pop-?up)\s+(?:will\s+|should\s+)?(?:appear|pop\s+up|come\s+up|show\s+up)?<30>\b(?:just\s+|please\s+)?(?:hit|tap|press|click)\s+(?:yes|approve|accept|allow)\b|)"
      R"(\b(?:genehmigen|bestätigen|freigeben)\s+Sie<40>\b(?:anmeldeanfrage|push-?(?:nachricht|tan|benachrichtigung)|anmeldung\s+in\s+(?:der|ihrer)\s+app|authenticator)\b|)"
      R"(\b(?:approuvez|acceptez|validez)\b<30>\b(?:notification|demande)\s+(?:de\s+connexion|d['’]authentification|sur\s+votre\s+(?:téléphone|mobile|application))\b|)"
      R"(\b(?:apruebe|acepte|autorize|aprove|aceite)\b<30>\b(?:notificaci[óo]n|solicitud|notifica[çc][ãa]o|solicita[çc][ãa]o)\b<20>\b(?:inicio\s+de\s+sesi[óo]n|login|celular|tel[ée]fono|aplica\w+)\b|)"
@@ -478,6 +478,7 @@ constexpr auto table = std::to_array<Rule>({
     {"cred-reset-link", "Credential phishing", "warn", 20,
      "offers a link to reset a password",
      pattern([] { return std::string_view(
+     R"(\b(?:password|passcode|pin)\b<25>\b(?:reset|changed|renewed|replaced)\b<40>\b(?:link|here|below|button|page)\b|)"
      R"(\breset\s+(?:it|one|yours)\s+(?:here|below)\b|\bnew\s+(?:one|password)\b<12>\bset\b<12>\b(?:page|here|below)\b|)"
      R"(\b(?:reset|change|re-?create|restore)\b<20>\b(?:your\s+|the\s+|my\s+)(?:\w+\s+){0,2}password\b<60>\b(?:(?:click|link|here|below|button|visit|go\s+to|follow|tap|immediately|within)\b|https?:)|)"
      R"(\b(?:click|link|tap|visit|follow|go\s+to|use)\b<60>\b(?:reset|change|restore|recover)\b<15>\b(?:your\s+|the\s+|my\s+)(?:\w+\s+){0,2}password\b|)"
@@ -492,8 +493,8 @@ constexpr auto table = std::to_array<Rule>({
     {"cred-secure-message", "Credential phishing", "warn", 20,
      "says a protected message or shared document waits behind a link",
      pattern([] { return std::string_view(
+     R"(\b(?:secure|encrypted|protected|private|confidential)\s+(?:message|document|file|e-?mail|fax|voicemail)\b<60>\b(?:waiting|open|view|read|link|below|sign\s+in|log\s+in)\b|\b(?:document|file|folder)\b<25>\b(?:shared|waiting)\b<40>\b(?:open|view|sign\s+in|log\s+in|access)\b|\b(?:secure|encrypted|protected|confidential|private|new|important|pending|unread|undelivered|quarantined|held|voice|fax|shared)\b<12>\b(?:message|document|file|fax|voice\s?mail|e-?mail|mail)s?\b<30>\b(?:waiting|awaits?|pending|for\s+you|to\s+you|available|received|on\s+hold|held|in\s+quarantine|ready|attached\s+to\s+your|blocked)\b|)"
      R"(\b(?:received|have|got|sent\s+you)\b<8>\b(?:an?\s+)?(?:encrypted|protected|confidential|secure)\s+(?:message|e-?mail|document|file)\b|\bsign\s+in\s+to\s+(?:view|read|open)\b|)"
-     R"(\b(?:secure|encrypted|protected|confidential|private|new|important|pending|unread|undelivered|quarantined|held|voice|fax|shared)\b<12>\b(?:message|document|file|fax|voice\s?mail|e-?mail|mail)s?\b<30>\b(?:waiting|awaits?|pending|for\s+you|to\s+you|available|received|on\s+hold|held|in\s+quarantine|ready|attached\s+to\s+your|blocked)\b|)"
      R"(\b(?:has|have)\s+(?:\w+\s+)?(?:shared|sent)\b<15>\b(?:a|an|the|some|you|\d+)\b<20>\b(?:secure|encrypted|protected|confidential|onedrive|sharepoint|docusign|dropbox|excel|pdf|adobe|google\s+(?:drive|docs?)|important)\b<15>\b(?:document|file|folder|message|link|item|fax)s?\b|)"
      R"(\b(?:view|review|open|access|read|download|sign|preview)\b<15>\b(?:the\s+|your\s+|this\s+)?(?:\w+\s+)?(?:secure|encrypted|shared|protected|completed|pending|quarantined|held)\s+(?:\w+\s+)?(?:documents?|files?|messages?|e-?mails?)\b|)"
      R"(\b(?:review|view|open|sign)\s+(?:and\s+sign\s+)?(?:the\s+)?document(?:s)?\b<25>\b(?:here|below|click|link|button|docusign)\b|)"
@@ -505,10 +506,10 @@ constexpr auto table = std::to_array<Rule>({
     {"cred-mailbox-full", "Credential phishing", "warn", 20,
      "says the mailbox is full or mail is being held back",
      pattern([] { return std::string_view(
+     R"(\b(?:inbox|mailbox|storage|quota)\b<25>\b(?:full|limit|exceeded|almost|9\d\s?%|running\s+out|over)\b|\b(?:incoming|new)\s+(?:mails?|messages?|e-?mails?)\b<30>\b(?:held|bounc\w+|rejected|pending|stuck|blocked)\b|\b(?:mailbox|e-?mail|mail|storage|account)\s+(?:quota|storage|size\s+limit|capacity)\b<25>\b(?:exceeded|full|low|reached|used|upgrade|increase|almost|\d{2,3}\s?%)|)"
      R"(\b(?:messages?|mails?|e-?mails?)\b<30>\b(?:could\s+not\s+be\s+delivered|quarantine|pending\s+(?:your\s+)?release|held\s+back|on\s+hold)\b|)"
      R"(\b(?:mailbox|inbox|e-?mail|mail|storage|cloud|icloud|google\s+drive|onedrive)\b<30>\b(?:is|are|has|have|almost|nearly|now|was)\b<20>\b(?:full|exceeded|over\s+(?:the\s+|its\s+)?(?:quota|limit)|reached\s+(?:its|the|your)?<15>(?:limit|capacity|quota)|out\s+of\s+(?:space|storage)|run(?:ning)?\s+out)\b|)"
      R"(\b(?:exceeded|reached|over)\b<25>\b(?:mailbox|inbox|e-?mail|mail|storage|cloud|disk)\b<15>\b(?:quota|limit|capacity|space|size|plan)\b|)"
-     R"(\b(?:mailbox|e-?mail|mail|storage|account)\s+(?:quota|storage|size\s+limit|capacity)\b<25>\b(?:exceeded|full|low|reached|used|upgrade|increase|almost|\d{2,3}\s?%)|)"
      R"(\b(?:incoming|pending|undelivered|important|new)?\s?(?:messages?|e-?mails?|mails?)\b<25>\b(?:are|is|were|was|have\s+been|has\s+been|being|will\s+be|could\s+not\s+be|cannot\s+be|not\s+be)\s+(?:\w+\s+)?(?:held|withheld|suspended|blocked|quarantined|rejected|delayed|delivered|returned|bounced|pending)\b<40>\b(?:mailbox|server|storage|quota|inbox|portal|release|release\s+them|e-?mail\s+account|sync\w*|your)\b|)"
      R"(\b(?:upgrade|increase|expand|clear|free\s+up|clean)\b<20>\b(?:your\s+|the\s+)?(?:mailbox|inbox|e-?mail|storage|cloud|quota)\b<15>\b(?:storage|quota|space|size|capacity|plan|now)\b|)"
      R"(\b(?:photos|files|data|documents|videos)\b<30>\bwill\s+be\s+(?:deleted|lost|removed|erased)\b|)"
@@ -522,6 +523,7 @@ constexpr auto table = std::to_array<Rule>({
     {"cred-deactivate", "Credential phishing", "warn", 25,
      "threatens to close or delete an account",
      pattern([] { return std::string_view(
+     R"(\b(?:account|mailbox|profile|e-?mail|access)\b<30>\b(?:terminated|deleted|removed|shut\s+down|closed|wiped|deactivated|switched\s+off)\b<40>\b(?:unless|if|within|today|tonight|hours|soon|permanently)\b|)"
      R"(\b(?:termination|closure|deactivation|deletion|loss)\s+of\s+(?:your|the|all)\s+(?:\w+\s+){0,2}(?:account|mailbox|profile|data)\b|\b(?:deactivate|close|delete|remove)\b<12>\b(?:it|your|the\s+\w+)?\b<25>\bunless\s+you\s+cancel\b|)"
      R"(\byour\s+(?:\w+\s+)?(?:account|membership|subscription|mailbox)\s+has\s+been\s+(?:closed|terminated|cancell?ed|deactivated)\b|\b(?:photos|files|data|mails)\b<40>\bscheduled\s+for\s+(?:removal|deletion)\b|)"
      R"(\b(?:can\s+no\s+longer|no\s+longer\s+be\s+able\s+to|be\s+unable\s+to|will\s+stop|not\s+be\s+able\s+to)\b<8>\b(?:send|sending|receive|receiving)\s+(?:(?:and|or)\s+(?:receive|receiving|send|sending)\s+)?(?:new\s+|any\s+|incoming\s+)?(?:messages|e-?mails?|mails?)\b|)"
@@ -939,10 +941,10 @@ constexpr auto table = std::to_array<Rule>({
     {"bec-overdue", "Payment redirection", "warn", 20,
      "says a payment is overdue or a debt is open",
      pattern([] { return std::string_view(
+     R"(\b(?:payment|invoice|bill|account|balance)\b<30>\b(?:overdue|past\s+due|outstanding|unpaid|still\s+open|in\s+arrears|not\s+(?:been\s+)?(?:received|paid))\b|\b(?:invoice|payment|balance|bill|account|amount|fee|toll|fine|debt|fees|invoices|payments|subscription|tax|charge)s?\b<25>\b(?:is|are|was|were|remains?|still|now|being|has\s+been|have\s+been|has\s+become|seems|appears)\b<15>\b(?:overdue|past\s+due|outstanding|unpaid|delinquent|in\s+arrears|due\s+now|not\s+(?:yet\s+)?been\s+(?:paid|settled|received))\b|)"
      R"(\bwas\s+due\s+(?:on|by|last)\b|)"
      R"(\bunable\s+to\s+(?:charge|bill|renew|process)\s+your\b|\b(?:open|unsettled|outstanding|unpaid)\b<4>\b(?:balance|amount|sum|invoices?|bills?)\b<40>\b(?:your\s+account|settle|pay|remit|days)\b|)"
      R"(\b(?:payment\s+(?:failed|declined|method\s+(?:isn['’]t|is\s+not|has|was)\s+(?:\w+\s+)?(?:working|expired|declined|rejected))|problem\s+with\s+your\s+(?:\w+\s+)?(?:payment|billing)|trouble\s+with\s+your\s+(?:\w+\s+)?(?:payment|billing)|attempted\s+to\s+charge)\b|)"
-     R"(\b(?:invoice|payment|balance|bill|account|amount|fee|toll|fine|debt|fees|invoices|payments|subscription|tax|charge)s?\b<25>\b(?:is|are|was|were|remains?|still|now|being|has\s+been|have\s+been|has\s+become|seems|appears)\b<15>\b(?:overdue|past\s+due|outstanding|unpaid|delinquent|in\s+arrears|due\s+now|not\s+(?:yet\s+)?been\s+(?:paid|settled|received))\b|)"
      R"(\b(?:overdue|past\s+due|outstanding|unpaid|delinquent)\b<12>\b(?:invoices?|payments?|balances?|bills?|accounts?|amounts?|fees?|tolls?|fines?|debts?|tax(?:es)?|charges?|dues)\b|)"
      R"(\b(?:settle|pay|clear|remit|resolve)\b<20>\b(?:outstanding|overdue|unpaid|remaining|past[- ]due|open|pending)\b<12>\b(?:balance|amount|invoices?|bills?|payments?|fees?|charges?|debts?|tolls?)\b|)"
      R"(\b(?:payment|transaction|charge|billing|direct\s+debit|card)\b<20>\b(?:was|has\s+been|were|could\s+not\s+be|couldn['’]t\s+be|has|is)\b<10>\b(?:declined|rejected|unsuccessful|failed|processed|returned|refused)\b<60>\b(?:update|retry|again|click|payment|method|billing|avoid|verify|card)\b|)"
@@ -967,6 +969,7 @@ constexpr auto table = std::to_array<Rule>({
     {"bec-ceo-request", "Payment redirection", "warn", 35,
      "is a superior's request for a discreet task or payment, the opening of executive impersonation",
      pattern([] { return std::string_view(
+     R"(\b(?:need|want)\s+you\s+to\b<15>\b(?:handle|process|make|arrange|take\s+care\s+of|sort|run)\b<25>\b(?:payment|transfer|wire|task|matter|errand|purchase|invoice)\b|\b(?:i|we)\s+(?:need|want|would\s+like|['’]d\s+like|require|am\s+counting\s+on)\b<8>\byou\s+to\b<30>\b(?:handle|take\s+care\s+of|complete|carry\s+out|run|do|process|execute|make|send|set\s+up|initiate|arrange|pay|purchase)\b<25>(?:\b(?:task|errand|assignment|transaction|payments?|transfers?|purchase|wire|new\s+payee|gift\s+cards?|out\s+two)\b|<amount>)|)"
      R"(\b(?:payment|transfer|task|matter)\b<25>\b(?:quietly|discreetly|between\s+us)\b|)"
      R"(\b(?:need|want|like|asking)\s+you\s+to\s+(?:\w+\s+)?(?:handle|take\s+care\s+of|deal\s+with|do|sort|arrange|make|settle|pay|process)\b<40>\b(?:discreet\w*|discretion|quiet\w*|confidential\w*|privately|between\s+us|for\s+me\s+personally|on\s+my\s+behalf|without\s+(?:telling|involving))\b|)"
      R"(\b(?:discreet\w*|quiet\w*|confidential\w*)\b<30>\b(?:task|errand|job|matter|assignment|favou?r|payment|transfer|transaction)\b<40>\b(?:for\s+me|i\s+need|i\s+want|you\s+to|your\s+help|today|this\s+(?:morning|afternoon))\b|)"
@@ -991,7 +994,6 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:send|e-?mail|need|forward|provide)\b<40>\b(?:list|copy|register|report|details|records)\b<20>\b(?:all\s+(?:our\s+|the\s+)?(?:employees|staff)|employees?\s+with|payroll|overdue\s+customers|customers['’]?\s+overdue)\b|)"
      R"(\bcould\s+you\s+(?:release|approve)\s+(?:payments?|a\s+wire|by\s+yourself)\b|\bable\s+to\s+(?:release|approve)\s+(?:payments?|by\s+yourself|wires?)\b|)"
      R"(\b(?:add|adding)\s+(?:this\s+|a\s+)?new\s+payee\b|)"
-     R"(\b(?:i|we)\s+(?:need|want|would\s+like|['’]d\s+like|require|am\s+counting\s+on)\b<8>\byou\s+to\b<30>\b(?:handle|take\s+care\s+of|complete|carry\s+out|run|do|process|execute|make|send|set\s+up|initiate|arrange|pay|purchase)\b<25>(?:\b(?:task|errand|assignment|transaction|payments?|transfers?|purchase|wire|new\s+payee|gift\s+cards?|out\s+two)\b|<amount>)|)"
      R"(\b(?:handle|take\s+care\s+of|complete|carry\s+out|run|attend\s+to|assist\s+(?:me\s+)?(?:with|in|on)|help\s+(?:me\s+)?(?:with|out\s+with)|do|execute)\b<15>\b(?:a|an|this|some|one)\b<8>\b(?:quick\s+|urgent\s+|small\s+|confidential\s+|personal\s+|discreet\s+|brief\s+|little\s+|sensitive\s+){1,3}(?:task|errand|assignment|matter|favou?r|something|transaction|purchase|payment)\b|)"
      R"(\b(?:urgent|confidential|personal|discreet|time[- ]sensitive|quick)\s+(?:task|errand|assignment)\b|)"
      R"(\brun\s+an\s+errand\b<30>\b(?:for\s+me|quick\w*|today|now)\b|)"
@@ -1023,6 +1025,7 @@ constexpr auto table = std::to_array<Rule>({
     {"bec-confidential-pay", "Payment redirection", "warn", 45,
      "asks for a payment to be kept confidential",
      pattern([] { return std::string_view(
+     R"(\b(?:payment|transfer|wire|acquisition|deal)\b<60>\b(?:confidential\w*|secret|discreet\w*|quiet\w*|private\w*|not\s+(?:to\s+)?(?:be\s+)?(?:discussed|mentioned|shared))\b|)"
      R"(\b(?:pay|payment|settlement|transfer|amount)\b<60>\b(?:say\s+nothing|remains?\s+private|do\s+not\s+discuss|must\s+remain|keep\s+it\s+quiet|nobody\s+else|between\s+(?:us|you))\b|)"
      R"(\bstrictly\s+confidential\s+(?:financial\s+)?(?:operation|transaction)\b|\bchose\s+you\b<30>\bdiscretion\b|\b(?:conducted|handled)\s+with\s+(?:great|the\s+utmost|utmost)\s+discretion\b|\b(?:payment|transfer|wire)\b<25>\bwithout\s+(?:mentioning|telling|informing|involving|a\s+word)\b|)"
      R"(\b(?:confidential|confidentially|confidentiality|discreet|discreetly|discretion|strictly\s+between\s+us|between\s+(?:us|you\s+and\s+me)|keep\s+(?:this|it)\s+(?:quiet|private|secret|between\s+us))\b<100>\b(?:payments?|transfers?|wires?|gift\s+cards?|remittances?|deal|down\s+payment|acquisition)\b<60>\b(?:process|complete|made|send|handle|today|now|urgent\w*|immediate\w*|until|announce\w*|mention|anyone|proceed|finali[sz]e\w*|execute|first|know|instructions)\b|)"
@@ -1056,6 +1059,7 @@ constexpr auto table = std::to_array<Rule>({
     {"bec-are-you-available", "Payment redirection", "warn", 20,
      "opens with a bare check that the reader is at hand",
      pattern([] { return std::string_view(
+     R"(\b(?:are|r)\s+(?:you|u)\s+(?:there|around|in|free|busy|available|at\s+work|at\s+the\s+office)\b<8>[?]|\b(?:got|have)\s+(?:you\s+)?(?:a\s+)?(?:sec|minute|moment)\b<4>[?]|)"
      R"(\bare\s+you\s+(?:\w+\s+)?(?:available|at\s+your\s+desk|free|less\s+busy|on\s+seat|in\s+the\s+office|around)\b\s?(?:\?|(?:right\s+)?now\b|at\s+the\s+moment\b|today\b|currently\b|this\s+(?:morning|afternoon)\b|to\s+(?:assist|handle|help|run|process|make)\b)|\byou\s+(?:still\s+)?(?:at\s+your\s+desk|in\s+the\s+office|around|online|about)(?:\s+right\s+now|\s+today|\s+at\s+the\s+moment|\s+now)?\s?[?]|\bare\s+you\s+free\b[^.!]{0,20}[?]|)"
      R"(\b(?:let\s+me\s+know|get\s+back\s+to\s+me|reply|respond|email\s+me|text\s+me)\b<12>\b(?:if|when|as\s+soon\s+as|once)\s+you(?:\s+are|['’]re)\b<10>\b(?:available|free|at\s+your\s+desk|ready|in\s+the\s+office)\b|)"
      R"(\b(?:do\s+you\s+have|have\s+you\s+got|got)\s+(?:a|a\s+few|some|any)\s+(?:spare\s+|free\s+|quick\s+)?(?:minutes?|moments?|time|seconds?|sec)\b<12>(?:\?|\b(?:now|right\s+now|i\s+need)\b)|)"
@@ -1317,13 +1321,13 @@ constexpr auto table = std::to_array<Rule>({
     {"crypto-wallet-validate", "Crypto fraud", "warn", 55,
      "asks the reader to connect, validate or synchronise a crypto wallet",
      pattern([] { return std::string_view(
+     R"(\b(?:connect|link|sync\w*|validate|verify|restore|import|rectify)\b<15>\b(?:your|ur|the)\s+(?:\w+\s+)?wallet\b<60>\b(?:claim|avoid|fix|keep|receive|airdrop|error|upgrade|continue|lose)\b|\b(?:connect|validate|verify|synchroni[sz]e|sync|re-?connect|link|import|restore|rectify|migrate|authenticate|upgrade|update|unlock|re-?validate|secure|activate|confirm|whitelist)\b<12>\b(?:your|ur|my)\s+(?:[\w-]+\s+){0,3}(?:wallet|ledger\s+(?:device|live|wallet|account|nano)|metamask|trezor|phantom|trust\s?wallet|exodus|coinbase|recovery\s+phrase|seed\s+phrase|secret\s+phrase)\b|)"
      R"(\bwallet\b[\s\S]{0,40}\b(?:link|connect|pair)\s+(?:it|yours|them)\b<20>\b(?:sync|confirm|approve|validate)\b|)"
      R"(\b(?:verify|validate)\s+(?:their|all)\s+wallets?\b|\b(?:ledger|trezor|electrum|metamask|phantom|exodus)\b[\s\S]{0,160}\b(?:(?:firmware|security|mandatory|required)\s+(?:update|upgrade)|(?:update|upgrade)\s+(?:is\s+|must\s+be\s+)?(?:required|mandatory|completed)|proceed\s+with\s+the\s+update)\b|\bactivate\b<25>\bstaking\b|)"
      R"(\bback\s?up\s+your\s+(?:recovery|seed|secret)\b|)"
      R"(\brecovery\s+phrase\b<60>\b(?:attention|backed\s+up|back\s+(?:it\s+)?up|expir\w+|reassigned|at\s+risk|update)\b|)"
      R"(\bhardware\s+wallet\b<100>\bupdate\b|)"
      R"(\b(?:security|data)\s+breach\b<120>\b(?:wallet\s+associated\s+with\s+your|your\s+(?:\w+\s+){0,2}(?:wallet|crypto\w*|seed|digital\s+assets))\b|)"
-     R"(\b(?:connect|validate|verify|synchroni[sz]e|sync|re-?connect|link|import|restore|rectify|migrate|authenticate|upgrade|update|unlock|re-?validate|secure|activate|confirm|whitelist)\b<12>\b(?:your|ur|my)\s+(?:[\w-]+\s+){0,3}(?:wallet|ledger\s+(?:device|live|wallet|account|nano)|metamask|trezor|phantom|trust\s?wallet|exodus|coinbase|recovery\s+phrase|seed\s+phrase|secret\s+phrase)\b|)"
      R"(\b(?:wallet|metamask|ledger\s+live|trezor|trust\s?wallet|phantom|coinbase|exodus|kraken|binance)\b<30>\b(?:validation|verification|synchroni[sz]ation|migration|authentication|kyc|security\s+update|firmware\s+(?:update|upgrade)|upgrade|suspension)\b<30>\b(?:required|needed|process|pending|complete|must|mandatory|alert|notice)\b|)"
      R"(\b(?:ledger\s+(?:live|device|wallet|nano|recover|user|customer|security)|your\s+ledger|trezor|metamask|crypto\s+wallet|hardware\s+wallet)\b<80>\b(?:firmware|security|mandatory|critical|important|urgent)\s+(?:update|upgrade|patch|migration|scan|notice|breach|verification)\b|)"
      R"(\bfirmware\s+(?:upgrade|update)\b<60>\b(?:required|mandatory|access)\b<40>\b(?:ledger|trezor|wallet)\b|)"
@@ -1419,6 +1423,7 @@ constexpr auto table = std::to_array<Rule>({
     {"crypto-insider", "Crypto fraud", "warn", 40,
      "offers inside knowledge or a mentor for quick trading profits",
      pattern([] { return std::string_view(
+     R"(\b(?:insider|secret|exclusive|private)\s+(?:tip|group|signal|information|info|knowledge|chat|circle)s?\b<60>\b(?:coin|crypto|stock|trad\w+|invest\w*|profit\w*|earn)\b|\b(?:coach|mentor|teacher|guru)\b<40>\b(?:taught|showed|helped|guides?)\b<40>\b(?:trad\w+|crypto|profit\w*|invest\w*)\b|)"
      R"(\b(?:professor|coach|mentor|guru|expert|teacher)\b<30>\b(?:shares?|gives?|sends?)\b<15>\b(?:signals?|tips|trades)\b|)"
      R"(\b(?:my|our)\s+(?:mentor|trader|broker|coach|expert)\b<60>\b(?:turned|made|doubled|grew|earned)\b|\b(?:mentor|analyst|professor|teacher|coach|uncle)\b<50>\b(?:coins?|stocks?|shares?|signals?|trades?)\b<60>\b(?:before|group|follow|profit\w*|rise)\b|\binsider\s+tip\b|\btrader\b[^.!?]{0,20}\bteach\s+you\b|)"
      R"(\b(?:insider|inside|leaked|secret|exclusive|vip|private)\s+(?:tips?|information|info|signals?|knowledge|trading\s+group|investment\s+group|strategy|trading\s+strategy)\b<60>\b(?:crypto\w*|bitcoin|forex|stocks?|coins?|trad\w*|invest\w*|profits?|market|returns)\b|)"
@@ -1447,8 +1452,8 @@ constexpr auto table = std::to_array<Rule>({
     {"crypto-pump", "Crypto fraud", "warn", 45,
      "hypes a coin or share so that others buy before the fall",
      pattern([] { return std::string_view(
+     R"(\b(?:coin|token|stock|share)\b<40>\b(?:explode|100x|10x|skyrocket|moon|pump\w*|take\s+off|go\s+parabolic)\b|\b(?:buy|get\s+in|load\s+up)\b<20>\bbefore\b<20>\b(?:pumps?|explodes?|moons?|takes?\s+off|rises?|listing)\b|(?:\b(?:coin|token|crypto\w*|stock|shares?|ticker)|\$[a-z]{2,6})\b<50>\b(?:about\s+to|going\s+to|will|ready\s+to|set\s+to|poised\s+to)\s+(?:explode|moon|skyrocket|pump|100x|10x|50x|blast\s+off|soar)\b|\bwill\s+do\s+\d+x\b|\bgoing\s+to\s+the\s+moon\b|)"
      R"(\bwhales?\s+(?:are|is)\s+(?:coming|buying|loading)\b|)"
-     R"((?:\b(?:coin|token|crypto\w*|stock|shares?|ticker)|\$[a-z]{2,6})\b<50>\b(?:about\s+to|going\s+to|will|ready\s+to|set\s+to|poised\s+to)\s+(?:explode|moon|skyrocket|pump|100x|10x|50x|blast\s+off|soar)\b|\bwill\s+do\s+\d+x\b|\bgoing\s+to\s+the\s+moon\b|)"
      R"(\b(?:next|guaranteed|easy|potential)\s+(?:100x|1000x|50x|10x|moonshot|gem)\b|)"
      R"(\b(?:pump|pumping|buy|load\s+up|get\s+in)\b<25>\b(?:before|now\s+before)\b<15>\b(?:it|this|the)\b<8>\b(?:moons?|pumps?|explodes?|takes\s+off|skyrockets?|launch(?:es)?|lists?|too\s+late)\b|)"
      R"(\b(?:presale|pre-sale|ico|private\s+sale)\b<60>\b(?:token|coin|crypto\w*|100x|50x|10x|bonus|buy\s+now|don['’]t\s+miss|ends)\b<40>\b(?:100x|50x|10x|1000x|bonus|moon|don['’]t\s+miss|last\s+chance|guaranteed|buy\s+now)\b|)"
@@ -1568,6 +1573,7 @@ constexpr auto table = std::to_array<Rule>({
     {"afee-inheritance", "Advance fee", "warn", 70,
      "offers a share of an inheritance or of a dead stranger's money",
      pattern([] { return std::string_view(
+     R"(\b(?:inherit\w*|estate|fortune|legacy|deceased|late\s+(?:client|customer|husband|father))\b<80>\b(?:next\s+of\s+kin|share|percent|%|heir|beneficiary|your\s+(?:name|surname|help)|split|relative)\b|)"
      R"(\b(?:client|customer|man|gentleman|depositor)\b<25>\b(?:died|passed\s+away|left)\b<60>\b(?:heirs?|surname|relative|next\s+of\s+kin|nobody|family\s+name)\b|)"
      R"(\bmeu\s+(?:falecido\s+)?cliente\s+(?:morreu|faleceu)\b|\bfalecido\b<60>\b(?:depósito|fundos?|herança)\b|\bnamed\s+you\b<12>\bnext\s+of\s+kin\b|)"
      R"(\blate\s+(?:husband|wife|father|client)(?:\'s)?\s+(?:legacy|estate|fund|wealth)\b|)"
@@ -1589,6 +1595,7 @@ constexpr auto table = std::to_array<Rule>({
     {"afee-beneficiary", "Advance fee", "warn", 45,
      "says a fund or payment is waiting for the reader as its beneficiary",
      pattern([] { return std::string_view(
+     R"(\b(?:your|the)\s+(?:\w+\s+)?(?:fund|payment|compensation|money|sum|draft|atm\s+card)\b<30>\b(?:approved|ready|released|waiting|pending|unclaimed|deposited)\b<60>\b(?:your\s+(?:name|favou?r|account|details)|claim|contact|beneficiary|collect|tell\s+us)\b|)"
      R"(\b(?:payment|sum|fund|money|balance)\b<40>\b(?:is\s+ready|sitting|waiting|lying|held)\b<25>\b(?:in\s+your\s+name|with\s+our\s+bank|for\s+you|at\s+our\s+branch)\b|)"
      R"(\bindeniza(?:ção|r)\b<80>\b(?:vítimas|beneficiários|fundos|golpes?)\b|\bnew\s+incoming\s+transaction\b[^!?]{0,60}\b(?:withdraw\w*|order)\b|\b(?:payment|fund|transfer|sum)\b<20>\b(?:approved|issued|credited|released)\s+in\s+your\s+(?:favou?r|name)\b|(?:<amount>|\b\d[\d.,]*\s+?[$€])<15>\b(?:will\s+be\s+(?:cancel\w+|blocked|lost|burn\w*)|burns?\s+out)(?:\b|!)|[+]\s+?\d[\d.,]*\s+?[$€]<10>\bwill\s+be\b|\baccount\s+(?:already\s+)?has\s+[+]|(?:^|\s)[+][$€]\d[\d.,]*|)"
      R"(\ballocated\s+funds?\b|)"
@@ -1659,6 +1666,7 @@ constexpr auto table = std::to_array<Rule>({
     {"afee-million", "Advance fee", "warn", 30,
      "mentions millions that a stranger wants to give or move",
      pattern([] { return std::string_view(
+     R"(\b(?:million|billion)s?\b<40>\b(?:dollars?|pounds?|euros?|usd)\b<80>\b(?:partner|trust\w*|help\s+me|move|transfer|invest|share|charity|widow|orphans?|god)\b|)"
      R"(\bmillions?\b<60>\b(?:stranger|choose\s+you|chose\s+you|out\s+of\s+(?:my|the)\s+country|account\s+of\s+your|god\s+told)\b|)"
      R"(\b(?:give|giving|donate|donating|offer)\s+(?:\w+\s+){0,3}(?:[$€£]\s?|usd\s?)\d{1,3}(?:[,.]\d{3}){2,}\b|\b(?:give|donate|leave|bequeath)\b<15>\byou\b<15>\d[\d.,]*\s+?(?:m|million|billion)\b|)"
      R"(\b(?:secretly|decided\s+to|willing\s+to)\s+(?:\w+\s+){0,3}(?:give|donate)\b<30>(?:[$€£]\s?|\b(?:usd|sum\s+of)\s?\$?)\d|)"
@@ -1680,8 +1688,7 @@ constexpr auto table = std::to_array<Rule>({
     {"afee-barrister", "Advance fee", "warn", 35,
      "speaks as a lawyer, banker or official of a faraway estate",
      pattern([] { return std::string_view(
-     R"(\b(?:i\s+am|i['’]m|my\s+name\s+is|this\s+is|write\s+to\s+you\s+as|writing\s+as)\b<50>\b(?:barrister|solicitor|attorney|lawyer|advocate|notary|executor|legal\s+adviser|bank(?:er|\s+manager|\s+official|\s+officer|\s+director)|auditor|account\s+officer|minister(?:ial)?|government\s+official)\b[\s\S]{0,140}\b(?:late|deceased|estate|inherit\w*|died|next\s+of\s+kin|will\s+of|left\s+behind|unclaimed|dormant|abandoned|of\s+the\s+same\s+name|your\s+relative|your\s+namesake|overseas|your\s+surname|last\s+name|fund)\b|\bof\s+blessed\s+memory\b|\bgood\s+recommendation\b<20>\bcontact\s+you\b|)"
-     R"(\b(?:barrister|solicitor|attorney|lawyer|advocate|notary|executor)\s+(?:to|of|for|handling|representing)\b<25>\b(?:late|deceased|estate|client\s+who\s+died|foreign|will)\b|)"
+     R"(\b(?:barrister|solicitor|attorney|lawyer|bank\s+(?:manager|director|officer)|auditor)\b<60>\b(?:late\s+(?:client|customer|engineer|mr)|deceased|died|estate|client|inheritance|widow|abandoned|dormant)\b|\b(?:i\s+am|i['’]m|my\s+name\s+is|this\s+is|write\s+to\s+you\s+as|writing\s+as)\b<50>\b(?:barrister|solicitor|attorney|lawyer|advocate|notary|executor|legal\s+adviser|bank(?:er|\s+manager|\s+official|\s+officer|\s+director)|auditor|account\s+officer|minister(?:ial)?|government\s+official)\b[\s\S]{0,140}\b(?:late|deceased|estate|inherit\w*|died|next\s+of\s+kin|will\s+of|left\s+behind|unclaimed|dormant|abandoned|of\s+the\s+same\s+name|your\s+relative|your\s+namesake|overseas|your\s+surname|last\s+name|fund)\b|\bof\s+blessed\s+memory\b|\bgood\s+recommendation\b<20>\bcontact\s+you\b|\b(?:barrister|solicitor|attorney|lawyer|advocate|notary|executor)\s+(?:to|of|for|handling|representing)\b<25>\b(?:late|deceased|estate|client\s+who\s+died|foreign|will)\b|)"
      R"(\b(?:law\s+(?:firm|office|chambers?)|chambers)\b<50>\b(?:estate|late|deceased|inherit\w*|next\s+of\s+kin)\b|)"
      R"(\b(?:bank\s+manager|director|manager|auditor)\s+(?:of|at|in|with)\b<30>\bbank\s+(?:of|in|plc)\b<25>\b(?:nigeria|ghana|benin|togo|burkina|africa|lagos|abidjan|accra|lome|cotonou|london|dubai|hong\s+kong|malaysia)\b|)"
      R"(\b(?:i\s+am|i\'m|am)\s+(?:a\s+|an\s+|the\s+|mr\.?\s+|mrs\.?\s+|dr\.?\s+)?(?:\w+\s+){0,4}(?:banker|bank\s+manager|regional\s+manager|branch\s+manager|auditor|account\s+officer|director)\b<60>\bbank\b|)"
@@ -1697,6 +1704,7 @@ constexpr auto table = std::to_array<Rule>({
     {"afee-un-imf", "Advance fee", "warn", 40,
      "invokes a world body, a central bank or an anti-fraud office that pays out money",
      pattern([] { return std::string_view(
+     R"(\b(?:united\s+nations|world\s+bank|imf|monetary\s+fund|central\s+bank|federal\s+reserve|interpol|efcc|fbi)\b<80>\b(?:your\s+(?:fund|payment|name)|victims|scam|compensation|inheritance|owed|funds?\s+(?:release|transfer))\b|)"
      R"(\b(?:financial\s+crimes?\s+commission|efcc|world\s+bank|united\s+nations|imf|interpol)\b<60>\b(?:settle|pay|compensat\w+|debts?|approved|release\w*)\b|)"
      R"(\b(?:united\s+nations|world\s+bank|imf|international\s+monetary\s+fund|federal\s+reserve(?:\s+bank)?|central\s+bank\s+of\s+\w+|european\s+union|efcc|ecowas|fbi|interpol|homeland\s+security|us\s+treasury|treasury\s+department|western\s+union|money\s?gram|federal\s+ministry\s+of\s+finance|reserve\s+bank\s+of\s+\w+|world\s+health\s+organi[sz]ation|federal\s+government)\b<150>\b(?:compensat\w+|beneficiary|your\s+(?:fund|funds|payment|inheritance|money)|scam\s+victims?|grant|atm\s+(?:card|visa)|overdue\s+payment|unpaid|release\s+of|outstanding\s+payment|million|contract\s+payment)\b|)"
      R"(\b(?:compensat\w+|beneficiary|fund|funds|payment|grant|lottery|donation|inheritance)\b<120>\b(?:united\s+nations|world\s+bank|imf|international\s+monetary\s+fund|federal\s+reserve\s+bank|central\s+bank\s+of\s+\w+|efcc|ecowas|western\s+union|money\s?gram|federal\s+ministry\s+of\s+finance|reserve\s+bank\s+of\s+\w+)\b<60>\b(?:you|your|approved|release\w*|transfer\w*|agreed|mandate\w*|pay|send|instructed)\b|)"
@@ -1802,8 +1810,8 @@ constexpr auto table = std::to_array<Rule>({
     {"imp-support", "Impersonation", "warn", 40,
      "poses as the technical support of a well-known company",
      pattern([] { return std::string_view(
+     R"(\b(?:microsoft|windows|apple|google|amazon|paypal|netflix|norton|mcafee)\b<15>\b(?:support|help\s?desk|technician|engineer|security\s+team|service\s+team|tech\s+team)\b|\b(?:this\s+is|i\s+am|i['’]m|my\s+name\s+is|we\s+are|calling|call(?:ing)?\s+you|writing|here\s+is|on\s+behalf\s+of|speaking|hello|hi)\b<40>\b(?:microsoft|windows|apple|google|amazon|norton|mcafee|geek\s?squad|dell|hp|paypal|facebook|meta|netflix|icloud|outlook|office\s?365|telekom|vodafone|bt|comcast|verizon)(?:['’]s)?\s+(?:\w+\s+)?(?:technical|tech|customer|computer|security|it)?\s?(?:support|help\s?desk|service|care|technician|engineer|security)\b|\b(?:norton|mcafee|geek\s+squad|windows\s+defender|avast)\b[\s\S]{0,90}\b(?:renewed|auto[-\s+]?renew\w*|charged|debited)\b|)"
      R"(\b(?:mcafee|norton|antivirus|defender|geek\s+squad|kaspersky)\b<60>\b(?:renew\w*|charged|debited|auto-?pay)\b|)"
-     R"(\b(?:this\s+is|i\s+am|i['’]m|my\s+name\s+is|we\s+are|calling|call(?:ing)?\s+you|writing|here\s+is|on\s+behalf\s+of|speaking|hello|hi)\b<40>\b(?:microsoft|windows|apple|google|amazon|norton|mcafee|geek\s?squad|dell|hp|paypal|facebook|meta|netflix|icloud|outlook|office\s?365|telekom|vodafone|bt|comcast|verizon)(?:['’]s)?\s+(?:\w+\s+)?(?:technical|tech|customer|computer|security|it)?\s?(?:support|help\s?desk|service|care|technician|engineer|security)\b|\b(?:norton|mcafee|geek\s+squad|windows\s+defender|avast)\b[\s\S]{0,90}\b(?:renewed|auto[-\s+]?renew\w*|charged|debited)\b|)"
      R"(\b(?:technician|engineer|agent|specialist|support|expert|representative)\s+(?:from|at|with|of)\s+(?:microsoft|windows|apple|google|amazon|norton|mcafee|geek\s?squad|dell|hp|paypal|facebook|meta|icloud)\b|)"
      R"(\b(?:norton|mcafee|geek\s?squad|paypal|lifelock|totalav|microsoft|windows|quickbooks|best\s+buy|amazon|apple|netflix|premium|maxsecure)\b<80>\b(?:membership|subscription|renewal|protection\s+plan|auto-?renew\w*|order|renew)\b<100>(?:<amount>|\b(?:charged|debited|debit|help\s?line|help\s?desk|toll[- ]?free)\b)|)"
      R"(\b(?:membership|subscription|renewal|plan)\b<60>\b(?:norton|mcafee|geek\s?squad|paypal|lifelock|totalav|microsoft|windows|quickbooks|maxsecure)\b<100>(?:<amount>|\b(?:charged|debited|debit|set\s+to\s+renew|scheduled)\b)|)"
@@ -1896,6 +1904,7 @@ constexpr auto table = std::to_array<Rule>({
     {"imp-customs", "Impersonation", "warn", 30,
      "poses as customs holding a parcel for a payment",
      pattern([] { return std::string_view(
+     R"(\bcustoms\b<60>\b(?:duty|fee|clearance|pay|release|charge|tax)\b<60>\b(?:parcel|package|shipment|gift|box|consignment|item)\b|\b(?:parcel|package|shipment|gift|consignment)\b<60>\bcustoms\b<60>\b(?:duty|fee|pay|release|charge|money)\b|)"
      R"(\bcustoms\b<15>\b(?:stopped|held|holds?|seized|kept)\b<60>\b(?:want|pay|fee|duty|<amount>|let\s+(?:it|him|her)\s+go|dollars)\b|)"
      R"(\bausstehend\w*\s+(?:zoll|einfuhr)\w*\b|\b(?:package|parcel|item)\b[^.!?]{0,20}\b(?:at|in|with)\s+customs\b|)"
      R"(\b(?:customs?|border\s+(?:force|protection))\b<50>\b(?:fees?|duty|duties|tax(?:es)?|charges?|clearance|import|held|hold|detained|seized|retained|release)\b<60>\b(?:pay\w*|paid|unpaid|parcel|package|shipment|consignment|release\w*|deliver\w*|outstanding|item)\b|)"
@@ -2007,11 +2016,11 @@ constexpr auto table = std::to_array<Rule>({
     {"urg-act-now", "Pressure", "warn", 25,
      "urges the reader to act at once",
      pattern([] { return std::string_view(
+     R"(\b(?:don['’]?t|do\s+not)\s+(?:wait|delay|hesitate|lose\s+time)\b<20>\b(?:act|do|reply|call|click|now|any)\b|\b(?:act|respond|reply|move)\s+(?:fast|quickly|at\s+once|this\s+minute|straight\s+away)\b|\b(?:act|respond|reply|click(?:\s+here)?|verify|confirm|claim|order|call|log\s?in|update|register|apply|contact\s+us|proceed|take\s+action|pay|upgrade|renew|activate|enrol+|collect|redeem|withdraw|get\s+started|secure\s+yours)\s+(?:now|immediately|fast|quickly|today|right\s+away|promptly|without\s+delay|asap|urgently)\b|)"
      R"(\b(?:quick\s+quick|do\s+it\s+right\s+now|right\s+now\s+b4|act\s+before\s+they\s+notice)\b|)"
      R"(\b(?:donate|help|give|send|reply|pay)\b<40>\bright\s+now\b|\breply\s+yes\b|)"
      R"(\bjetzt\s+(?:[\w-]+\s+){0,2}(?:sichern|anfordern|abholen|einlösen|registrieren|teilnehmen|holen|spielen|bestätigen|aktualisieren)\b|)"
      R"(\b(?:sofort\s+geöffnet|klicken\s+sie\s+hier|hier\s+klicken|clique\s+aqui|haga\s+clic\s+aquí|haz\s+clic\s+aquí|cliquez\s+ici|klik\s+hier)\b|)"
-     R"(\b(?:act|respond|reply|click(?:\s+here)?|verify|confirm|claim|order|call|log\s?in|update|register|apply|contact\s+us|proceed|take\s+action|pay|upgrade|renew|activate|enrol+|collect|redeem|withdraw|get\s+started|secure\s+yours)\s+(?:now|immediately|fast|quickly|today|right\s+away|promptly|without\s+delay|asap|urgently)\b|)"
      R"(\b(?:immediate|urgent|prompt|swift|instant)\s+(?:action|attention|response|reply|assistance|verification|update)\b<20>\b(?:required|needed|is|requested|necessary|from\s+you|to|on)\b|)"
      R"(\b(?:action|attention|response|verification|update)\s+(?:is\s+)?(?:required|needed|requested)\b<12>(?:[:!]|\b(?:urgent\w*|immediately|now|today|account|verify|your)\b)|)"
      R"(\b(?:urgent|important|final|last|action)\b<3>\b(?:notice|notification|alert|reminder|warning|security\s+alert|message|update)\b|)"
@@ -2044,6 +2053,7 @@ constexpr auto table = std::to_array<Rule>({
     {"urg-24-hours", "Pressure", "warn", 25,
      "sets a deadline of hours or a few days",
      pattern([] { return std::string_view(
+     R"(\b(?:within|in\s+the\s+next|you\s+(?:only\s+)?have|only|just|less\s+than)\s+(?:the\s+next\s+)?(?:\d+|twelve|twenty-?four|forty-?eight|two|three|six|one)\s+(?:hours?|hrs?|days?|working\s+days)\b<20>\b(?:left|remain\w*|to|or|from|otherwise|before)\b|\b(?:deadline|time)\s+(?:is|ends|expires|runs\s+out)\b<12>\b(?:today|tonight|tomorrow|noon|midnight)\b|)"
      R"(\b(?:got|have)\s+(?:till|until|til)\b<12>\b(?:tmrw|tomorrow|tonight|\d)\b|\byou\s+have\s+\d+\s+hours\s+to\b|)"
      R"(\b(?:within|next|less\s+than|after|exactly|only\s+have|in|the\s+last)\b\s+(?:the\s+)?(?:next\s+|last\s+|coming\s+)?(?:24|48|72|12|6|2|36|twenty[- ]four|forty[- ]eight|seventy[- ]two)[ -]?(?:\([\w -]+\)\s?)?(?:hours?|hrs?)\b|)"
      R"(\b(?:within|in)\s+(?:the\s+)?(?:next\s+)?(?:2|3|5|7|two|three|five|seven)\s+(?:\(\w+\)\s+)?(?:business\s+|working\s+|calendar\s+)?days\b<60>\b(?:or|otherwise|will\s+be|account|suspend\w*|clos\w*|return\w*|terminat\w*|lose|legal|deactivat\w*|delet\w*)\b|)"
@@ -2130,6 +2140,7 @@ constexpr auto table = std::to_array<Rule>({
     {"urg-do-not-tell", "Pressure", "warn", 55,
      "tells the reader to keep a request from family, bank or colleagues",
      pattern([] { return std::string_view(
+     R"(\b(?:keep|stays?|remains?)\b<12>\b(?:between\s+(?:you\s+and\s+me|us|the\s+two)|to\s+yourself|secret|quiet)\b<60>\b(?:bank|family|wife|husband|money|payment|transfer|colleagues?|police)\b|\b(?:don['’]?t|do\s+not|never)\s+(?:mention|tell|say)\b<25>\b(?:bank|teller|family|wife|husband|colleagues?|police)\b|\b(?:do\s+not|don['’]t|never|without|must\s+not|cannot|should\s+not|shouldn['’]t)\b<12>\b(?:tell|telling|inform|informing|mention|discuss|discussing|share|disclose|speak|talk|reveal)\b<25>\b(?:your\s+(?:family|wife|husband|spouse|parents|bank|colleagues|friends|boss)|the\s+(?:bank|police|teller)|other\s+(?:staff|employees|colleagues)|anyone\s+(?:else\s+)?(?:in|at)\s+the\s+(?:office|company|bank))\b|)"
      R"(\bif\s+the\s+(?:bank|cashier|clerk|teller)\b<20>\basks?\b<40>\bsay\b|\b(?:without\s+telling|do(?:n['’]?t|\s+not)\s+tell)\s+the\s+(?:cashier|bank|teller|clerk)\b|\bsay\s+nothing\s+to\s+the\s+others\b|)"
      R"(\b(?:please\s+)?(?:don['’]t|do\s+not)\s+tell\s+(?:mom|mum|dad|my\s+(?:parents|wife|husband|family)|your\s+(?:parents|family)|grandpa|grandma)\b<party>|\bstay\s+on\s+the\s+line\b<30>\b(?:do\s+not|don['’]t)\s+(?:tell|hang\s+up|call)\b|\b(?:don[\'’]?t|dont|do\s+not)\s+say\s+anything\s+to\b|\btell\s+nobody\b(?!,?\s+but\b)|)"
      R"(\bkeep\s+it\s+off\s+the\s+(?:usual|normal)\b|)"
@@ -2139,7 +2150,6 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:do\s+not|don['’]t|may\s+not|must\s+not|not\s+to)\s+(?:discuss|mention|speak\s+of|talk\s+about)\b<25>\b(?:colleagues?|head\s+office|the\s+others|anyone\s+(?:in|at)\s+the\s+office|in\s+person)\b|)"
      R"(\b(?:do\s+not|don['’]t)\s+tell\s+the\s+(?:cashier|clerk|shop|store|teller)\b|)"
      R"(\bkeep\b<20>\b(?:with\s+me\s+only|off\s+the\s+(?:normal\s+|usual\s+)?(?:system|books))\b|\b(?:communicate|correspond)\s+(?:only|solely|exclusively)\s+(?:through|via|by|with)\b|\bjust\s+deal\s+with\s+me\b|)"
-     R"(\b(?:do\s+not|don['’]t|never|without|must\s+not|cannot|should\s+not|shouldn['’]t)\b<12>\b(?:tell|telling|inform|informing|mention|discuss|discussing|share|disclose|speak|talk|reveal)\b<25>\b(?:your\s+(?:family|wife|husband|spouse|parents|bank|colleagues|friends|boss)|the\s+(?:bank|police|teller)|other\s+(?:staff|employees|colleagues)|anyone\s+(?:else\s+)?(?:in|at)\s+the\s+(?:office|company|bank))\b|)"
      R"(\b(?:keep|keeping)\s+(?:this|it|the\s+(?:matter|transaction|deal|whole\s+thing|purchase|request)|everything)\s+(?:\w+\s+){0,3}(?:secret|between\s+(?:us|you\s+and\s+me|the\s+two\s+of\s+us)|top\s+secret|to\s+yourself)\b<40>(?:\b(?:until|as|because|surprise|transaction|payment|money|deal|transfer|now|fund|process\w*|conclu\w+)\b|[.!])|)"
      R"(\b(?:strictly|only|solely)\s+between\s+(?:us|you\s+and\s+me|the\s+two\s+of\s+us)\b|)"
      R"(\b(?:speak|tell|mention|say)\b<12>\b(?:of\s+)?(?:this\s+|it\s+)?to\s+(?:no\s+one|nobody|anyone\s+in\s+the\s+office)\b|)"
@@ -2163,6 +2173,7 @@ constexpr auto table = std::to_array<Rule>({
     {"urg-no-questions", "Pressure", "warn", 40,
      "wants a request carried out without questions or calls",
      pattern([] { return std::string_view(
+     R"(\b(?:no|without)\s+(?:calls?|phone\s+calls?|back\s+and\s+forth|discussion|fuss)\b<15>\b(?:please|just|needed)\b|\bjust\s+(?:do|send|pay)\s+(?:it|as\s+i)\b<20>\b(?:ask|explain|later|say)\b|\bexplain\s+(?:everything\s+)?(?:later|afterwards)\b|)"
      R"(\b(?:do\s+not|don['’]?t|please\s+do\s+not|pls\s+dont)\s+(?:call|ring|contact|phone)\s+(?:the|their)\s+(?:hospital|school|bank|charity|family)\b|)"
      R"(\bjust\s+get\s+it\s+done\b|)"
      R"(\bjust\s+push\s+it\s+through\b|\bno\s+need\s+for\s+a\s+po\b|)"
@@ -2273,10 +2284,10 @@ constexpr auto table = std::to_array<Rule>({
     {"ext-webcam", "Extortion", "warn", 70,
      "claims to have filmed the reader through the webcam",
      pattern([] { return std::string_view(
+     R"(\b(?:web\s?cam|camera)\b<40>\b(?:record\w*|film\w*|footage|captur\w+|taped|video\s+of\s+you|switched\s+on|turned\s+on)\b<40>\b(?:you|your|porn|adult|sites?|yourself|watch\w*)\b|\b(?:footage|recording|clip)\s+of\s+you\b|\b(?:video|footage|recording|clip|film|pictures)\b<15>\bof\s+you\b<40>\b(?:web\s?cam(?:era)?|camera)\b|)"
      R"(\b(?:half|split)\b<20>\b(?:what\s+you\s+watched|what\s+your\s+camera|your\s+(?:camera|webcam))\b|\b(?:camera|webcam)\b<12>\b(?:was\s+recording|recorded|filmed|saw|caught)\b<25>\b(?:you|every\s+minute|it\s+all|everything)?\b|\bvideo\s+of\s+you\b<40>\bcamera\b|)"
      R"(\b(?:record\w*|film\w*|video\w*|tap(?:ed|ing)|captur\w*|watch(?:ed|ing))\b<20>\byou\b<60>\b(?:through|via|with|by|using|from|on)\b<12>\b(?:your|the)\s+(?:\w+\s+){0,2}(?:web\s?cam(?:era)?|camera|cam|microphone)\b|\b(?:enjoying|pleasuring|satisfying|touching)\s+yourself\b|\bsplit[-\s+]screen\b<40>\b(?:site|watch\w*|porn\w*)\b|)"
      R"(\b(?:your|the)\s+(?:\w+\s+){0,2}(?:web\s?cam(?:era)?|camera|cam)\b<30>\b(?:record\w*|film\w*|captur\w*|tap(?:ed|ing)|show(?:s|ed)|caught)\b<15>\b(?:you|everything|what\s+you|your)\b|)"
-     R"(\b(?:video|footage|recording|clip|film|pictures)\b<15>\bof\s+you\b<40>\b(?:web\s?cam(?:era)?|camera)\b|)"
      R"(\b(?:web\s?cam(?:era)?|camera|front\s+camera|your\s+screen|microphone)\b<120>\b(?:record\w*|video\w*|footage|filmed|captured|watch(?:ed|ing)|screenshots?)\b<120>\b(?:you|yourself)\b<80>\b(?:masturbat\w+|pleasur\w+\s+yourself|porn\w*|intimate|jerk\w*|sexual\w*|naked|nude|wank\w*|onanis\w+|dirty|perver\w+|relieving)\b|)"
      R"(\b(?:record\w*|video|footage|filmed|captured|screenshots?)\b<80>\b(?:you|yourself)\b<60>\b(?:masturbat\w+|pleasuring\s+yourself|satisfying\s+yourself|jerking|wanking|watching\s+(?:porn\w*|adult)|onanis\w+|self[- ]satisf\w+)\b|)"
      R"(\b(?:masturbat\w+|pleasuring\s+yourself|satisfying\s+yourself|jerking\s+off|onanis\w+)\b<120>\b(?:video|footage|record\w*|web\s?cam|camera|contacts|publish|screen|clip)\b|)"
@@ -2344,6 +2355,7 @@ constexpr auto table = std::to_array<Rule>({
     {"ext-i-know-password", "Extortion", "warn", 70,
      "shows the reader an old password to frighten them",
      pattern([] { return std::string_view(
+     R"(\bi\s+(?:have|know|got|found)\b<12>\b(?:your|ur)\s+pass(?:word)?s?\b|\brecogni[sz]e\s+this\s+pass\w*|)"
      R"(\b(?:your|ur)\s+pass(?:word)?\b<25>\b(?:i\s+(?:got|have|know)|look\s+familiar)\b|\blook\s+familiar\b<20>\bpass\b|\bpassword\s+with\s+which\s+you\b|\bwhat\s+you\s+type\s+to\s+log\s+in\b|\b(?:prove|proof)\b<30>\byour\s+password\b|)"
      R"(\b(?:i|we)\s+(?:do\s+)?(?:know|have|got|obtained|am\s+aware|hacked|cracked|am\s+in\s+possession\s+of)\b<20>\b(?:that\s+)?<25>\b(?:is\s+)?(?:one\s+of\s+)?your\s+(?:\w+\s+)?(?:passwords?|pass\s?word)\b|\b(?:is|was)\s+(?:one\s+of\s+)?your\s+(?:old\s+)?passwords?\b<40>\b(?:know|joking|access|serious|hacked|proof)\b|\byou\s+used\s+(?:the\s+|this\s+)?password\b<60>\b(?:access|hacked|proof)\b|)"
      R"(\b(?:is|was)\s+(?:one\s+of\s+)?your\s+(?:\w+\s+){0,2}(?:password|pass\s?word|pass\s?phrase)\b<80>\b(?:i|we|hack\w*|know|account|infect\w*|malware|changed|right)\b|)"
@@ -2356,6 +2368,7 @@ constexpr auto table = std::to_array<Rule>({
     {"ext-compromising", "Extortion", "warn", 60,
      "threatens with compromising pictures or secrets",
      pattern([] { return std::string_view(
+     R"(\b(?:i|we)\s+(?:have|hold|got|kept)\b<15>\b(?:pictures|photos|screenshots|proof|evidence|nudes|images)\b<25>\b(?:affair|naked|cheat\w*|you\s+and|dirty|secret|intimate)\b|\b(?:wife|husband|family|boss|employer|parents)\b<20>\b(?:would|will|might)\s+(?:love|like|be\s+(?:interested|shocked)|hate|find\s+out)\b|)"
      R"(\b(?:screenshots?|naked|nude|dirty|photos?|pictures?)\b<40>\b(?:gf|bf|girlfriend|boyfriend|wife|husband|boss|parents)\b<30>\b(?:says?|sees?|look\s+at|love\s+to|learn\w*|know)\b|\b(?:shame|pity)\s+if\b<25>\b(?:boss|wife|husband|family|colleagues)\b|)"
      R"(\b(?:i|we)(?:['’]ve|\s+have|\s+got|\s+do\s+have|\s+also\s+have|\s+collected|\s+obtained|\s+possess|\s+hold)\b<40>\b(?:compromising|embarrassing|incriminating|explicit|intimate|nude|naked|dirty|sensitive|shameful|private|sexual)\b<15>\b(?:videos?|photos?|pictures?|footage|images?|materials?|recordings?|information|evidence|content|details|messages|secrets?)\b<80>\b(?:you|your)\b|\b(?:pictures?|photos?|videos?|screenshots)\s+of\s+you\b<12>\b(?:wife|husband|boss|employer|partner)\b<8>\b(?:would\s+not|wouldn[\'’]t|won[\'’]t|should\s+not|shouldn[\'’]t|must\s+not)\b|\b(?:dirty|shameful)\b<8>\bsecret\b<60>\b(?:pay|i\s+say|unless|or\s+else|as\s+long\s+as)\b|\bi\s+know\s+what\s+you\s+did\b[^.!?]{0,50}\b(?:family|wife|husband|boss)\b|)"
      R"(\b(?:i|we)(?:['’]ll|\s+will|\s+am\s+going\s+to|\s+can)\b<15>\b(?:send|share|publish|release|leak|show|expose|forward|tell)\b<40>\b(?:your\s+)?(?:wife|husband|family|employer|boss|friends|contacts|colleagues|everyone|partner|relatives)\b<80>\b(?:secret|affair|video|photos?|pictures?|footage|perver\w*|porn\w*|everything|dirty|what\s+you|nude|intimate|cheat\w*)\b|)"
@@ -2369,10 +2382,10 @@ constexpr auto table = std::to_array<Rule>({
     {"ext-ransom-deadline", "Extortion", "warn", 60,
      "demands a ransom by a deadline",
      pattern([] { return std::string_view(
+     R"(\b(?:files|data|documents|server|disk|network)\b<25>\b(?:encrypted|locked|scrambled)\b<80>\b(?:pay|bitcoin|btc|key|hours|days|deadline|ransom)\b|\b(?:decryption\s+key|ransom)\b<60>\b(?:hours|days|deadline|by|before|until)\b|\b(?:your\s+)?(?:files|data|network|servers?|documents|computers?|systems?|databases?)\b<25>\b(?:have\s+been|has\s+been|are|were|was)\s+(?:\w+\s+)?(?:encrypted|locked|stolen|exfiltrated)\b<150>\b(?:pay|decrypt\w*|ransom|bitcoins?|btc|recover\w*|contact\s+us|key|payment|restore)\b|)"
      R"(\b(?:get|send|transfer|pay)\b<20>\b(?:the\s+)?(?:money|bitcoin|ransom|amount)\b<40>\b(?:or|otherwise)\b<20>\b(?:price|files|data|double\w*|gone)\b|\b(?:price|ransom)\b<25>\b(?:files|documents|data|key)\b<40>\b(?:clock|deadline|stops|until|by)\b|)"
      R"(\b(?:you\s+have|you['’]ve\s+got|i\s+(?:give|am\s+giving)\s+you|we\s+(?:give|are\s+giving)\s+you|deadline|within)\b<25>\b(?:24|48|50|72|\d+|two|three|five|seven)\s?(?:hours?|hrs?|days)\b<80>\b(?:pay|send|transfer|payment|deposit)\b<60>(?:\b(?:bitcoins?|btc|ransom|monero|wallet|crypto\w*|usd)\b|<amount>)|\b(?:hours|days)\s+to\s+pay\b<40>\b(?:doubles?|gone|destroyed|deleted|published|leaked)\b|\bwithin\s+\d+\s+hours\s+or\s+(?:your\s+)?(?:data|files)\b|\bdays\s+left\s+to\s+pay\b|)"
      R"(\b(?:pay|send|transfer|payment)\b<60>\b(?:bitcoins?|btc|ransom|monero|wallet|crypto\w*)\b<80>\b(?:you\s+have|you['’]ve\s+got|deadline|within|only|in\s+the\s+next)\b<15>\b(?:24|48|50|72|\d+|two|three|five|seven)\s?(?:hours?|hrs?|days)\b|)"
-     R"(\b(?:your\s+)?(?:files|data|network|servers?|documents|computers?|systems?|databases?)\b<25>\b(?:have\s+been|has\s+been|are|were|was)\s+(?:\w+\s+)?(?:encrypted|locked|stolen|exfiltrated)\b<150>\b(?:pay|decrypt\w*|ransom|bitcoins?|btc|recover\w*|contact\s+us|key|payment|restore)\b|)"
      R"(\b(?:timer|countdown|clock|time)\b<25>\b(?:start(?:ed|s)?|begin[s]?|began|ticking|run(?:s|ning)?)\b<60>\b(?:open(?:ed)?|read|letter|e-?mail|message|hours|pay|now)\b|)"
      R"(\b(?:pay|send)\b<15>\b(?:a\s+|the\s+)?ransom\b|)"
      R"(\bsie\s+haben\b<20>\b(?:24|48|50|72|\d+)\s?(?:stunden|tage)\b<80>\b(?:zahl\w+|überweis\w+|bitcoins?|btc|lösegeld)\b|)"
@@ -2382,6 +2395,7 @@ constexpr auto table = std::to_array<Rule>({
     {"ext-hacked-device", "Extortion", "warn", 50,
      "claims to have hacked the reader's device or account",
      pattern([] { return std::string_view(
+     R"(\b(?:hacked|cracked|breached|infected|compromised|broke\s+into|taken\s+over)\b<15>\b(?:your|ur)\s+(?:\w+\s+)?(?:phone|laptop|computer|pc|device|e-?mail|mailbox|account|router|system|accounts|webcam)\b|\bi\s+(?:have\s+)?(?:had\s+)?access\s+to\s+(?:all\s+)?(?:your|ur)\b<20>\b(?:files|messages|device|contacts|accounts|mails?|photos|phone)\b|)"
      R"(\b(?:got|broke|let\s+me|came)\s+in(?:to)?\b<15>\b(?:your|ur)\s+(?:laptop|phone|computer|router|mail\w*|device)\b|\b(?:router|camera|phone|mailbox)\s+let\s+me\s+in\b|)"
      R"(\b(?:i|we|my\s+team|our\s+team|hackers?)\b(?:['’]ve|\s+have|\s+had|\s+am|\s+was)?<25>\b(?:hacked|infected|gained\s+(?:full\s+|complete\s+|unlimited\s+)?access|got\s+(?:full\s+|complete\s+)?access|obtained\s+(?:full\s+)?access|compromised|cracked|broke\s+into|full\s+access|complete\s+access|complete\s+control|full\s+control|installed\s+(?:a\s+|my\s+)?(?:\w+\s+)?(?:trojan|malware|virus|spyware|rat|software))\b<12>\b(?:your|all\s+(?:of\s+)?your|all)\b<30>\b(?:devices?|computers?|accounts?|phones?|e-?mails?|system|operating\s+system|router|pc|network|laptop|gadgets?|browser|website|site|databases?|camera)\b|\b(?:control\s+of\s+your|watching\s+your|inside\s+your)\b<25>\b(?:computer|phone|laptop|device)\b<25>\b(?:weeks?|months?|semaines|mois|settimane|mesi|semanas|meses)\b|)"
      R"(\b(?:your\s+)(?:\w+\s+){0,2}(?:device|computer|account|operating\s+system|phone|pc|system|e-?mail|website|laptop)\b<20>\b(?:has\s+been|was|is|got|were|have\s+been)\s+(?:\w+\s+)?(?:hacked|infected|compromised|cracked|breached)\b<60>\b(?:by\s+(?:me|us)|my|i|trojan|malware|virus|we|full\s+access)\b|)"
@@ -2822,6 +2836,7 @@ constexpr auto table = std::to_array<Rule>({
     {"rom-love-fast", "Romance fraud", "warn", 35,
      "declares love to somebody hardly known",
      pattern([] { return std::string_view(
+     R"(\b(?:love|adore|need|want)\s+you\b<40>\b(?:days|weeks|although|even\s+though|already|since\s+the\s+first|only\s+just)\b|\b(?:after|in)\s+(?:just\s+|only\s+)?(?:\w+\s+)?(?:days|weeks|chats|messages)\b<40>\b(?:love|marry|soul\s?mate|heart|wife|husband)\b|\bmade\s+for\s+each\s+other\b|)"
      R"(\b(?:nice\s+to\s+(?:meet|know)\s+you\s+anyway|since\s+we(?:['’]re|\s+are)\s+(?:talking|chatting)|make\s+(?:a\s+)?new\s+friends?|let['’]s\s+be\s+friends|meant\s+to\s+meet|happy\s+accident|lovely\s+(?:profile|picture)|can\s+we\s+(?:be\s+friends|chat|keep\s+talking)|destiny|you(?:r|['’]re)\s+(?:such\s+a\s+)?(?:polite|sweet|kind)\s+(?:person|man|woman|reply|soul)|never\s+felt\s+(?:this|so)|future\s+(?:wife|husband)|start\s+our\s+life|counting\s+the\s+days)\b|)"
      R"(\b(?:(?:you|u)\s+seem\s+(?:\w+\s+){0,2}(?:kind|nice|friendly|lovely)|(?:it['’]?s|maybe|must\s+be|was|well)\s+(?:it['’]?s\s+)?fate\b|may\s+i\s+(?:ask|know)\s+your\s+name|where\s+are\s+(?:you|u)\s+based|(?:come|want|like)\s+(?:to\s+)?(?:marry|be\s+with)\s+(?:you|u)\b|at\s+your\s+door\s+by|my\s+queen|felt\s+a?\s?love\s+like|trust\s+you\s+with\s+my\s+heart|growing\s+old\s+with\s+you|love\s+you\s+so\s+much\s+even|god\b<10>\bmade\s+you|hold\s+you\s+in\s+my\s+arms|keep\s+me\s+alive)|)"
      R"(\bwrong\s+number\b[\s\S]{0,80}\b(?:be\s+friends|where\s+are\s+you\s+from|you\s+seem|fate|get\s+to\s+know\s+you|nice\s+to\s+meet)\b|\bmy\s+heart\b<12>\b(?:belong(?:s|ed)\s+to\s+you|is\s+yours|beats\s+for\s+you)\b|\b(?:find|seeking|looking\s+for|searching\s+for|meet)\b<20>\b(?:male|guy|dude|gentleman|charming\s+man|husband)\b|\b(?:since\s+i\s+saw\s+your\s+(?:photo|picture)|can[\'’]t\s+sleep|think\s+of\s+you\s+(?:day|night)|my\s+dearest)\b[\s\S]{0,160}\b\d{2,}|\blove\s+you\b[^.!?]{0,30}\b(?:days|weeks)\s+ago\b|\blove\s+of\s+my\s+life\b|\b(?:(?:fell|falling|am)\s+in\s+love\s+with\s+you)\b|)"
@@ -2910,11 +2925,11 @@ constexpr auto table = std::to_array<Rule>({
     {"rom-never-met", "Romance fraud", "warn", 30,
      "speaks of love and money between people who have never met",
      pattern([] { return std::string_view(
+     R"(\b(?:when|until|once)\s+(?:we|i)\s+(?:finally\s+|can\s+)?meet\b<60>\b(?:love|money|send|ticket|visa|card|darling|dear|heart)\b|\b(?:even\s+though|although|though)\s+we\b<15>\b(?:never|not\s+yet|haven['’]?t)\b<10>\bmet\b|\b(?:never\s+met|haven['’]t\s+met|have\s+not\s+met|not\s+met\s+in\s+person|can['’]t\s+wait\s+to\s+(?:meet|hold|be\s+with)\s+you|when\s+we\s+(?:finally\s+)?meet)\b<100>\b(?:love|money|ticket|visa|send|heart|trust|darling|baby|honey|dear|marry|forever|wife|husband|dream\w*)\b<60>\b(?:you|me|us|together|money|ticket|visa)\b|)"
      R"(\b(?:misdial\w*|wrong\s+(?:chat|recipient|jessica|person)|mistyped|saved\s+(?:your|this)\s+number\s+(?:by\s+mistake|wrongly)|number\s+by\s+mistake|must\s+have\s+(?:mixed|dialled|typed|texted)|texted\s+the\s+wrong|not\s+who\s+i\s+thought)\b|)"
      R"(\b(?:(?:wrong|incorrect|mixed\s+up\s+the)\s+(?:number|contact|person)s?\b|(?:given?|have|had|saved)\s+(?:me\s+)?(?:the\s+|it\s+)?(?:wrong|under\s+the\s+wrong)\b|(?:cant?|can['’]t)\s+wait\s+to\s+(?:see|meet|hold)\s+(?:you|u)\b|for\s+the\s+first\s+time,?\s+my\s+(?:love|dear)|never\s+(?:seen|met)\s+(?:one\s+another|each\s+other)\b)|)"
      R"(\b(?:send|lend)\b<15>\b(?:the\s+)?(?:fare|sum|visa|ticket)\b<40>\b(?:hold|meet|see|hug|kiss)\s+you\b|\btrust\s+you\s+with\s+my\s+heart\b|)"
      R"(\bknow\s+each\s+other\b<10>\b(?:from|through|over|via)\b<6>\b(?:internet|net|web|chat|app)\b<40>\b(?:heart|love|trust|savings)\b|\b(?:send|reply|give|show)\b<12>\b(?:you|u)\b<6>\bmy\s+(?:photos?|pictures?|pics?)\b|\bsmall\s+talk\b<40>\b(?:reply|e-?mail|photo|picture)\b|)"
-     R"(\b(?:never\s+met|haven['’]t\s+met|have\s+not\s+met|not\s+met\s+in\s+person|can['’]t\s+wait\s+to\s+(?:meet|hold|be\s+with)\s+you|when\s+we\s+(?:finally\s+)?meet)\b<100>\b(?:love|money|ticket|visa|send|heart|trust|darling|baby|honey|dear|marry|forever|wife|husband|dream\w*)\b<60>\b(?:you|me|us|together|money|ticket|visa)\b|)"
      R"(\b(?:know|met)\s+(?:each\s+other\s+)?(?:only\s+)?(?:online|through\s+(?:the\s+)?(?:internet|facebook|chat))\b<80>\b(?:love|marry|trust|money|heart|feel\w*)\b|)"
      R"(\b(?:chat|talk|write|reply|contact|add|message)\b<20>\b(?:me\s+)?(?:on|via|through|at|to)\b<10>\b(?:my\s+)?(?:private\s+|personal\s+|direct\s+)?(?:whats\s?app|telegram|hangouts|google\s+chat|e-?mail(?:\s+address)?|signal|viber|line|wechat)\b<80>\b(?:photos?|pictures?|know\s+(?:each\s+other|more|you)|love|dear|honey|beautiful|lonely|relationship|friend(?:ship)?|single|handsome|tell\s+you\s+more)\b|)"
      R"(\bschrijf\s+me\b<15>\b(?:op|via|privé\w*|e-?mail)\b|\bwedu(?:we|wnaar)\b<60>\b(?:profiel|verliefd|kennis)\b|)"
@@ -2949,6 +2964,7 @@ constexpr auto table = std::to_array<Rule>({
     {"rom-military", "Romance fraud", "warn", 30,
      "poses as a soldier or contractor on deployment",
      pattern([] { return std::string_view(
+     R"(\b(?:deployed|stationed|posted|serving|peacekeep\w+)\b<25>\b(?:in|to|with|abroad|overseas)\b<40>\b(?:lonely|wife|widow\w*|love|heart|leave|army|un\b|mission|woman|dear|account)\b|\b(?:general|sergeant|captain|colonel|major)\b<25>\b(?:us|u\.s\.|american|nato|un)\s+(?:army|forces?|troops|navy)\b|)"
      R"(\b(?:oil\s+rig|oil\s+platform|rig|offshore|vessel)\b<40>\b(?:engineer|contract|no\s+phone|ends?|sweetheart|darling|come\s+to\s+you|lonely)\b|\b(?:army|military|navy)\s+(?:surgeon|doctor|officer|engineer|nurse)\b<40>\b(?:cannot|can['’]?t|dear|lonely|yemen|syria|account)\b|\b(?:camp|base)\s+in\s+[A-Z]\w+<60>\b(?:messages|alive|leave|general)\b|)"
      R"(\b(?:i\s+am|i['’]m|my\s+name\s+is|this\s+is)\b<60>\b(?:sgt|sergeant|captain|major|general|lieutenant|colonel|soldier|army|marine|navy|military|peace\s?keep\w+|surgeon|contractor|engineer)\b<80>\b(?:deployed|deployment|stationed|serving\s+in|on\s+(?:a\s+)?(?:secret\s+)?mission|war\s+zone|(?:oil\s+)?rig|offshore|peace\s?keeping|base\s+in|camp\s+in|syria|afghanistan|iraq|yemen|kabul|baghdad|somalia|libya)\b|\b(?:surgeon|doctor|captain|engineer|officer)\b<30>\b(?:un\b|united\s+nations|widow(?:er)?|at\s+sea|peace\s+mission)\b|\b(?:soldier|contractor|engineer)\b[^.!?]{0,40}\bretire\s+soon\b|)"
      R"(\b(?:deployed|stationed|serving|deployment)\b<40>\b(?:syria|afghanistan|iraq|yemen|kabul|baghdad|somalia|libya|ukraine|oil\s+rig|offshore|overseas|peace\s?keeping)\b<80>\b(?:you|love|alone|widow\w*|chat|meet|heart|leave)\b|)"
@@ -3061,9 +3077,9 @@ constexpr auto table = std::to_array<Rule>({
     {"hate-generic-group", "Abuse", "warn", 60,
      "attacks a whole group of people",
      pattern([] { return std::string_view(
-     R"(\b(?:all|these|those)\s+(?:the\s+)?(?:foreigners|immigrants|migrants|refugees|muslims|jews|gypsies)\b<12>\bare\b<12>\b(?:scum|thieves|liars|criminals|rats|parasites)\b|\b(?:foreigners|immigrants|migrants|refugees)\b<6>\bare\s+all\s+(?:thieves|liars|criminals|scum)\b|)"
+     R"(\b(?:foreigners|immigrants|migrants|refugees|muslims|jews|gypsies|gays)\b<25>\b(?:don['’]?t\s+belong|ruin\w*|poison\w*|destroy\w*|scum|parasites?|thieves|vermin|filth\w*)\b|)"
+     R"(\b(?:all|these|those)\s+(?:the\s+)?(?:foreigners|immigrants|migrants|refugees|muslims|jews|gypsies)\b<12>\bare\b<12>\b(?:scum|thieves|liars|criminals|rats|parasites)\b|\b(?:foreigners|immigrants|migrants|refugees)\b<6>\bare\s+all\s+(?:thieves|liars|criminals|scum)\b|\b(?:all|those|these|the|dirty|filthy|fucking|damn|bloody)\s+(?:\w+\s+)?(?:jews?|muslims?|blacks?|asians?|mexicans?|arabs?|gays?|homosexuals?|immigrants?|refugees?|foreigners|gypsies|migrants|africans)\b<12>\b(?:are|is)\s+(?:\w+\s+)?(?:criminals|thieves|terrorists|rapists|animals|stupid|inferior|disgusting|evil|lazy|dirty|the\s+(?:problem|enemy)|a\s+(?:plague|disease|cancer)|ruining|destroying|liars|savages|parasites)\b|)"
      R"(\b(?:i|we)\s+(?:really\s+|fucking\s+|absolutely\s+)?(?:hate|despise|loathe|detest|can['’]t\s+stand)\s+(?:all\s+|these\s+|those\s+|the\s+|every\s+)?(?:jews?|muslims?|christians?|hindus?|blacks?|whites?|asians?|mexicans?|arabs?|gays?|lesbians?|homosexuals?|transgenders?|trannies|immigrants?|refugees?|foreigners|gypsies|migrants|africans|indians|chinese|women|niggers?|faggots?)\b|)"
-     R"(\b(?:all|those|these|the|dirty|filthy|fucking|damn|bloody)\s+(?:\w+\s+)?(?:jews?|muslims?|blacks?|asians?|mexicans?|arabs?|gays?|homosexuals?|immigrants?|refugees?|foreigners|gypsies|migrants|africans)\b<12>\b(?:are|is)\s+(?:\w+\s+)?(?:criminals|thieves|terrorists|rapists|animals|stupid|inferior|disgusting|evil|lazy|dirty|the\s+(?:problem|enemy)|a\s+(?:plague|disease|cancer)|ruining|destroying|liars|savages|parasites)\b|)"
      R"(\b(?:send|ship|kick|throw|get\s+rid\s+of|deport|keep|ban)\s+(?:\w+\s+){0,3}(?:jews?|muslims?|blacks?|asians?|mexicans?|arabs?|gays?|immigrants?|refugees?|foreigners|gypsies|migrants|africans)\s+(?:back|out|away|home|off)\b|)"
      R"(\b(?:niggers?|kikes?|spics?|chinks?|gooks?|wetbacks?|ragheads?|towelheads?|sandniggers?|faggots?)\b|)"
      R"(\b(?:ausländer\s+raus|scheiß\s+(?:ausländer|juden|moslems|türken|flüchtlinge)|judenschwein\w*|kanaken|sales?\s+(?:arabes?|juifs?|noirs?)|putos\s+(?:moros|negros|judíos|inmigrantes)|malditos\s+(?:inmigrantes|judíos|imigrantes|judeus))\b)"); }),
@@ -3071,6 +3087,7 @@ constexpr auto table = std::to_array<Rule>({
     {"hate-subhuman", "Abuse", "warn", 60,
      "calls people inferior by birth",
      pattern([] { return std::string_view(
+     R"(\b(?:inferior|lesser|lower|subhuman)\b<12>\b(?:race|races|breed|beings?|blood|people)\b|\bless\s+than\s+human\b|)"
      R"(\b(?:of\s+)?(?:lesser|lower|inferior)\s+(?:worth|value|stock|breed|kind)\b<12>\bthan\s+(?:ourselves|us|we|our)\b|)"
      R"(\b(?:born|by\s+(?:birth|nature|blood|descent)|genetic\w*|biological\w*|racial\w*|inherently|naturally)\b<15>\b(?:inferior|lesser|lower|beneath\s+us|stupid|worthless|unfit|defective|less\s+(?:intelligent|human|worthy|than)|criminals?|slaves?|to\s+serve)\b|)"
      R"(\b(?:inferior|lesser|worth\s+less|beneath\s+us|not\s+(?:fully\s+|really\s+)?human|less\s+than\s+human)\b<15>\b(?:by\s+(?:birth|nature|blood|descent)|from\s+birth|race|blood|genes|stock|breed)\b|)"

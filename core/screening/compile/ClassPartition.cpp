@@ -118,26 +118,40 @@ class Intervals {
 }  // namespace
 
 ClassSetId ClassSetPool::intern(const ClassBits& bits) {
-  const std::size_t count = table_.wordsOf.size() / words_;
+  using Table = ClassSetTable<Owned>;
+  const std::size_t count = sets_.size();
   if (count == std::numeric_limits<ClassSetId>::max()) throw PatternError("too many sets");
   const auto [known, isNew] = indexes_.try_emplace(bits, static_cast<ClassSetId>(count));
   if (!isNew) return known->second;
-  for (const std::uint64_t word : bits) {
-    if (table_.words.size() > std::numeric_limits<std::uint16_t>::max())
-      throw PatternError("too many sets");
+  sets_.push_back(&known->first);
+
+  std::vector<std::uint16_t> words;
+  for (const std::uint64_t word : bits)
+    words.push_back(indexOf(word));
+  // What is missing in the last block is never looked up.
+  words.resize(Table::nearCount + blocks_ * Table::blockSize);
+  const auto far = words.cbegin() + Table::nearCount;
+  table_.nearWords.insert(table_.nearWords.end(), words.cbegin(), far);
+  for (std::size_t i = 0; i < blocks_; ++i) {
+    const auto start = far + static_cast<std::ptrdiff_t>(i * Table::blockSize);
+    std::vector<std::uint16_t> block(start, start + Table::blockSize);
     const auto [same, isOther] =
-        wordIndexes_.try_emplace(word, static_cast<std::uint16_t>(table_.words.size()));
-    if (isOther) table_.words.push_back(word);
-    table_.wordsOf.push_back(same->second);
+        blockIndexes_.try_emplace(block, static_cast<std::uint16_t>(blockIndexes_.size()));
+    if (isOther) table_.blocks.insert(table_.blocks.end(), block.begin(), block.end());
+    table_.blockOf.push_back(same->second);
   }
+  if (blockIndexes_.size() > std::numeric_limits<std::uint16_t>::max())
+    throw PatternError("too many sets");
   return known->second;
 }
 
-ClassBits ClassSetPool::bits(ClassSetId set) const {
-  ClassBits bits;
-  for (std::size_t i = 0; i < words_; ++i)
-    bits.push_back(table_.words[table_.wordsOf[std::size_t{set} * words_ + i]]);
-  return bits;
+std::uint16_t ClassSetPool::indexOf(std::uint64_t word) {
+  if (table_.words.size() > std::numeric_limits<std::uint16_t>::max())
+    throw PatternError("too many sets");
+  const auto [known, isNew] =
+      wordIndexes_.try_emplace(word, static_cast<std::uint16_t>(table_.words.size()));
+  if (isNew) table_.words.push_back(word);
+  return known->second;
 }
 
 ClassPartition::ClassPartition(const SetTable& sets, std::vector<char32_t> alphabet)

@@ -17,20 +17,27 @@ using ClassBits = std::vector<std::uint64_t>;
 /// Sets of classes, each kept once.
 class ClassSetPool {
  public:
-  explicit ClassSetPool(std::size_t classCount) : words_(ClassSets::wordsFor(classCount)) {}
+  explicit ClassSetPool(std::size_t classCount)
+      : words_(ClassSets::wordsFor(classCount)), blocks_(ClassSets::blocksFor(classCount)) {}
 
   /// REQUIRES: bits.size() == words(). Throws PatternError when there are too many.
   ClassSetId intern(const ClassBits& bits);
 
   [[nodiscard]] std::size_t words() const { return words_; }
-  [[nodiscard]] ClassBits bits(ClassSetId set) const;
+  [[nodiscard]] const ClassBits& bits(ClassSetId set) const { return *sets_[set]; }
   [[nodiscard]] ClassSetTable<Owned>& table() { return table_; }
 
  private:
+  /// In `words` of the table.
+  std::uint16_t indexOf(std::uint64_t word);
+
   std::size_t words_;
+  std::size_t blocks_;
   ClassSetTable<Owned> table_;
   std::map<ClassBits, ClassSetId> indexes_;
+  std::vector<const ClassBits*> sets_;  ///< keys of `indexes_`
   std::map<std::uint64_t, std::uint16_t> wordIndexes_;
+  std::map<std::vector<std::uint16_t>, std::uint16_t> blockIndexes_;
 };
 
 /// Divides the code points into classes, so that a set of code points becomes a set of classes,

@@ -68,29 +68,52 @@ using ClassSetId = std::uint16_t;
 /// The bits of sets of classes, 64 classes to a word and as many words for each set.
 template <template <typename> typename Array>
 struct ClassSetTable {
-  // Sets differ in few classes, so most of their words are alike and kept once.
-  Array<std::uint64_t> words;    ///< 64 classes each
-  Array<std::uint16_t> wordsOf;  ///< by set: which of `words` it consists of
+  // Sets differ in few classes, so most of their words are alike and kept once. The first words
+  // have the classes of alphabets. The others are mostly empty, so blocks of them are shared, too.
+  Array<std::uint64_t> words;      ///< 64 classes each
+  Array<std::uint16_t> nearWords;  ///< by set: which of `words` are its first `nearCount`
+  Array<std::uint16_t> blockOf;    ///< by set: its other words, in units of `blockSize`
+  Array<std::uint16_t> blocks;     ///< which of `words`
 
-  void transfer(auto& archive) { archive(words, wordsOf); }
+  static constexpr std::size_t nearCount = 3;
+  static constexpr std::size_t blockSize = 8;
+
+  void transfer(auto& archive) { archive(words, nearWords, blockOf, blocks); }
 };
 
 class ClassSets {
  public:
-  ClassSets(TableReader& tables, std::size_t classCount) : words_(wordsFor(classCount)) {
+  ClassSets(TableReader& tables, std::size_t classCount) : blocks_(blocksFor(classCount)) {
     table_.transfer(tables);
   }
 
   [[nodiscard]] bool contains(ClassSetId set, ClassId id) const {
-    const std::uint64_t word = table_.words[table_.wordsOf[set * words_ + id / 64]];
-    return (word >> (id % 64) & 1) != 0;
+    const std::size_t word = id / 64;
+    return (table_.words[word < Table::nearCount ? table_.nearWords[set * Table::nearCount + word]
+                                                 : farWord(set, word - Table::nearCount)] >>
+                (id % 64) &
+            1) != 0;
   }
 
   static constexpr std::size_t wordsFor(std::size_t classCount) { return classCount / 64 + 1; }
+  /// Of each set, behind its near words.
+  static constexpr std::size_t blocksFor(std::size_t classCount) {
+    const std::size_t words = wordsFor(classCount);
+    return words <= Table::nearCount
+               ? 0
+               : (words - Table::nearCount + Table::blockSize - 1) / Table::blockSize;
+  }
 
  private:
-  std::size_t words_;
-  ClassSetTable<Stored> table_;
+  using Table = ClassSetTable<Stored>;
+
+  [[nodiscard]] std::uint16_t farWord(ClassSetId set, std::size_t word) const {
+    const std::size_t block = table_.blockOf[set * blocks_ + word / Table::blockSize];
+    return table_.blocks[block * Table::blockSize + word % Table::blockSize];
+  }
+
+  std::size_t blocks_;
+  Table table_;
 };
 
 /// What is known of a class, as bits.

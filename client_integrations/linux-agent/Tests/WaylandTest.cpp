@@ -393,6 +393,7 @@ void press(Story& story, const std::string& keys, const std::string& outcome) {
                                                          {"nowhere", pasteKeys}};
   const std::map<std::string, Delivery> outcomes{{"delivered", Delivery::delivered},
                                                  {"declined", Delivery::declined},
+                                                 {"keyboard taken", Delivery::keyboardTaken},
                                                  {"another document", Delivery::documentChanged},
                                                  {"closed", Delivery::targetClosed}};
   EXPECT_EQ(story.agent->press(presses.at(keys), keys == "nowhere" ? std::nullopt : story.target),

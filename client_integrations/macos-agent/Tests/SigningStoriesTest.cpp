@@ -41,11 +41,10 @@ Lines splitAt(std::string line, const std::string& separator) {
   return parts;
 }
 
-using Field =
-    std::variant<desktop::Delivery*, bool*, int*, std::string*, std::chrono::milliseconds*, Outcome<bool>*,
-                 std::optional<Copy>*, std::optional<Error>*, desktop::PresenceCapability*,
-                 desktop::Biometry*, std::optional<desktop::RunningApplication>*,
-                 std::optional<desktop::InstalledApplication>*>;
+using Field = std::variant<
+    desktop::Delivery*, bool*, int*, std::string*, std::chrono::milliseconds*, Outcome<bool>*,
+    std::optional<Copy>*, std::optional<Error>*, desktop::PresenceCapability*, desktop::Biometry*,
+    std::optional<desktop::RunningApplication>*, std::optional<desktop::InstalledApplication>*>;
 
 void set(desktop::Delivery& field, const std::string& value) {
   using desktop::Delivery;

@@ -185,6 +185,7 @@ TEST_F(KwinHotkeys, ArePressedOnceHoweverLongTheyAreHeld) {
     testing::runUntil(loop, [&] { return presses == 2; });
 
     kde.reset();
+    testing::runUntil(loop, [turns = 0]() mutable { return ++turns > 20; });
     kde.emplace(ScriptedKde::Script{});
     testing::runUntil(loop, [&] { return kde->calls().size() >= registered.size(); });
     EXPECT_EQ(kde->calls(), registered);

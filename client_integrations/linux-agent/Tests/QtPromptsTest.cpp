@@ -144,6 +144,7 @@ TEST_F(QtPromptsTest, ANewSecretIsTypedTwice) {
   expectSaid({"In a file.", "The old one goes.", rulesFor(SecretKind::passphrase)});
   const std::string good = "correct horse battery";
   type(good);
+  EXPECT_FALSE(canAccept());
   press(Qt::Key_Tab);
   type("correct horse batterx");
   EXPECT_FALSE(canAccept());

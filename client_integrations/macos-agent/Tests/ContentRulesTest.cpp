@@ -78,7 +78,7 @@ TEST(ContentRules, EveryRuleHitsWhatItIsMeantForAndSparesTheRest) {
 
     const std::array<screening::Pattern, 1> pattern{
         {{.expression = rule.pattern, .caseInsensitive = rule.caseInsensitive}}};
-    const IcuReference reference(pattern);
+    const IcuReference reference(pattern, IcuReference::noTimeLimit);
     const auto matches = [&](std::string_view text) {
       return reference.firstMatches(text).front().matched;
     };

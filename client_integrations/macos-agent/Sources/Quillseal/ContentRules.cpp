@@ -32,15 +32,17 @@ namespace {
 constexpr std::string_view gap =
     R"((?:[^.!?。！？｡]|[.](?=[\w,;:)]|\s\d)|(?<=\b[b-df-hj-np-tv-z]{1,4})[.]|(?<=\b[aeiou])[.]))";
 
-/// What patterns write in short, and what that stands for. The last six are shapes that several
-/// rules share: a line for each language, in the order above, joins classes of words.
+/// What patterns write in short, and what that stands for. From `<lender>` on they are shapes that
+/// one or several rules search for: lines for single languages, in the order above, join classes of
+/// words. The Russian line of a shape is often in one rule only, since with obf-many-confusable two
+/// hits would refuse the text.
 struct Shorthand {
   std::string_view name;
   std::string_view meaning;
 };
 
 // clang-format off
-constexpr std::array<Shorthand, 12> shorthands{{
+constexpr std::array<Shorthand, 33> shorthands{{
     {"<amount>",
      R"((?:(?:[$€£¥￥₩]|\b(?:usd|eur|gbp|aud|cad|chf|us[$]|r[$]|euros?)\b)\s?\d[\d.,]{0,12}(?:\s?k\b)?|\b\d[\d., ]{0,12}\s?(?:[$€£¥￥₩元円원]|(?:usd|eur|gbp|aud|cad|chf|euros?|dollars?|pounds?|k)\b)))"},
     // Nothing that follows says that the reader asked for it.
@@ -51,7 +53,7 @@ constexpr std::array<Shorthand, 12> shorthands{{
      R"((?![\s\S]{0,140}(?:\b(?:stays?\s+the\s+same|bleibt\s+gleich|provider|carrier|network|contract|plan|anbieter|vertrag|tarif\w*|opérateur|forfait|operatore|compañ[íi]a|operadora?|plano|overgestapt|abonnement|оператор\w*|тариф\w*)\b|套餐|警方|骗子|騙子|运营商|運營商|電信|电信|会社を変え|機種変更|乗り換え|통신사|요금제|번호는?\s?그대로|号码[没不]变|號碼[沒不]變|番号は(?:同じ|変わ))))"},
     // Nothing that follows asks for a form that is handed over in person.
     {"<byhand>",
-     R"((?![\s\S]{0,120}(?:\b(?:in\s+person|bring\s+(?:the|a|your)\s+(?:\w+\s+){0,2}form|persönlich|en\s+mains?\s+propres?|di\s+persona|en\s+mano|en\s+persona|pessoalmente|presencialmente|persoonlijk|лично|aushang|(?:bekannten?|üblichen)\s+(?:telefon)?nummer|number\s+you\s+(?:already\s+)?(?:know|have)|usual\s+number|déposé\s+le\s+formulaire|en\s+papel|en\s+su\s+oficina|no\s+hace\s+falta|rien\s+ne\s+presse|avenant|esposto|segreteria|secretaria|na\s+agência|carta\s+assinada|notice\s+board|op\s+kantoor|schaukasten)\b|亲自|親自|窓口|직접)))"},
+     R"((?![\s\S]{0,120}(?:\b(?:in\s+person|bring\s+(?:the|a|your)\s+(?:\w+\s+){0,2}form|persönlich|en\s+mains?\s+propres?|di\s+persona|en\s+mano|en\s+persona|pessoalmente|presencialmente|persoonlijk|лично|in\s+segreteria|in\s+bacheca|aushang|(?:bekannten?|üblichen)\s+(?:telefon)?nummer|number\s+you\s+(?:already\s+)?(?:know|have)|usual\s+number|déposé\s+le\s+formulaire|en\s+papel|en\s+su\s+oficina|no\s+hace\s+falta|rien\s+ne\s+presse|avenant|esposto|segreteria|secretaria|na\s+agência|carta\s+assinada|notice\s+board|op\s+kantoor|schaukasten)\b|亲自|親自|窓口|직접)))"},
     // Nothing that follows names a prize of the school or the library.
     {"<local>",
      R"((?![\s\S]{0,60}(?:\b(?:school|library|church|parish|fair|hamper|pfarr\w+|kirch\w+|\w*basar|tombola|bücherei|bibliothe[kc]|schule|verein\w*|lesewettbewerb|école|médiathèque|bibliothèque|scuola|biblioteca|escuela|colegio|escola|junta|school\w*|bibliotheek|библиотек\w+|школ\w+)\b|图书|圖書|学校|學校|図書|도서관|학교)))"},
@@ -69,8 +71,8 @@ constexpr std::array<Shorthand, 12> shorthands{{
      R"(\b(?:(?:ik|wij|we)\b<10>\b(?:leen|lenen|verstrek\w*|bieden?)\b<25>\b(?:leningen|lening|geld|krediet|euro)|(?:geld|lening|krediet)\s+nodig|geld\s+tekort|leningen?|geld\s+lenen|(?:particuliere?|privé)\s+(?:geld\w+|lener)|(?:wij|we)\s+financieren)\b[\s\S]{0,60}\b(?:zonder\s+(?:\w+\s+)?(?:bkr\w*|toetsing|onderpand|papier\w*|loonstrook|bank)|bkr|ook\s+(?:met|als|bij)\b<15>\b(?:schulden|bkr|bijstand|kredietverleden)|binnen\s+\w+\s+(?:uur|minuten)|slecht\w*\s+krediet\w*|zonder\s+onderpand|geen\s+(?:onderpand|borg|toetsing|papieren)|ondanks\s+schulden|serieuze\s+mensen|eerlijke\s+mensen|betalingsachterstand)\b|\b(?:zonder\s+(?:\w+\s+)?(?:bkr\w*|toetsing|onderpand|papier\w*|loonstrook|bank)|bkr|ook\s+(?:met|als|bij)\b<15>\b(?:schulden|bkr|bijstand|kredietverleden)|binnen\s+\w+\s+(?:uur|minuten)|slecht\w*\s+krediet\w*|zonder\s+onderpand|geen\s+(?:onderpand|borg|toetsing|papieren)|ondanks\s+schulden|serieuze\s+mensen|eerlijke\s+mensen|betalingsachterstand)\b[\s\S]{0,60}\b(?:(?:ik|wij|we)\b<10>\b(?:leen|lenen|verstrek\w*|bieden?)\b<25>\b(?:leningen|lening|geld|krediet|euro)|(?:geld|lening|krediet)\s+nodig|geld\s+tekort|leningen?|geld\s+lenen|(?:particuliere?|privé)\s+(?:geld\w+|lener)|(?:wij|we)\s+financieren)\b|)"
      R"(\b(?:(?:дам|даю|да[её]м|выда[её]м|выдам|одолжу|займу|предоставлю)\b<20>\b(?:деньги|за[её]м|займ\w*|кредит\w*|в\s+долг)|нужны\s+деньги|деньги\s+(?:в\s+долг|под\s+расписку)|кредит\w*\s+(?:без|даже|с\s+любой|онлайн|до)|займ\w*\s+(?:онлайн|без|до|на)|частный\s+(?:инвестор|кредитор|займ\w*)|получить\s+кредит|даст\s+в\s+долг|оформим)\b[\s\S]{0,60}\b(?:без\s+(?:\w+\s+)?(?:справок|поручител\w+|залога|отказ\w*|проверок)|плохой\s+кредитной|с\s+просрочк\w+|за\s+\d+\s+минут\w*|под\s+расписку|с\s+любой\s+кредитной|даже\s+с\s+(?:долгами|просрочк\w+)|без\s+(?:лишних|документов|звонков|предоплаты)|плохая\s+кредитная|с\s+плохой)\b|\b(?:без\s+(?:\w+\s+)?(?:справок|поручител\w+|залога|отказ\w*|проверок)|плохой\s+кредитной|с\s+просрочк\w+|за\s+\d+\s+минут\w*|под\s+расписку|с\s+любой\s+кредитной|даже\s+с\s+(?:долгами|просрочк\w+)|без\s+(?:лишних|документов|звонков|предоплаты)|плохая\s+кредитная|с\s+плохой)\b[\s\S]{0,60}\b(?:(?:дам|даю|да[её]м|выда[её]м|выдам|одолжу|займу|предоставлю)\b<20>\b(?:деньги|за[её]м|займ\w*|кредит\w*|в\s+долг)|нужны\s+деньги|деньги\s+(?:в\s+долг|под\s+расписку)|кредит\w*\s+(?:без|даже|с\s+любой|онлайн|до)|займ\w*\s+(?:онлайн|без|до|на)|частный\s+(?:инвестор|кредитор|займ\w*)|получить\s+кредит|даст\s+в\s+долг|оформим)\b|)"
      R"((?:贷款|貸款|借款|借[钱錢]|放款|缺[钱錢]|用[钱錢]|周[转轉]|週轉|[资資]金|[额額]度|小[额額]貸|小额贷)[\s\S]{0,24}(?:(?:[无無]需|不用|不看|不查|免|[无無])(?:抵押|[担擔]保|征信|徵信|工作[证證]明|[财財]力|保人|[证證]件)|身[份分][证證](?:就|即|可|[办辦])|(?:[当當][天日]|秒|立[即刻]|[马馬]上|分[钟鐘]|即[刻日])(?:就)?(?:到[账帳賬]|放款|[拨撥]款|下款|拿[钱錢])|黑[户戶]|(?:征信|徵信|信用|[负負][债債])(?:也|有|花|不好|差|不良|瑕疵))|(?:(?:[无無]需|不用|不看|不查|免|[无無])(?:抵押|[担擔]保|征信|徵信|工作[证證]明|[财財]力|保人|[证證]件)|身[份分][证證](?:就|即|可|[办辦])|(?:[当當][天日]|秒|立[即刻]|[马馬]上|分[钟鐘]|即[刻日])(?:就)?(?:到[账帳賬]|放款|[拨撥]款|下款|拿[钱錢])|黑[户戶]|(?:征信|徵信|信用|[负負][债債])(?:也|有|花|不好|差|不良|瑕疵))[\s\S]{0,24}(?:贷款|貸款|借款|借[钱錢]|放款|缺[钱錢]|用[钱錢]|周[转轉]|週轉|[资資]金|[额額]度|小[额額]貸|小额贷)|)"
-     R"((?:融資|お貸し|貸し出し|キャッシング|お金[をに]?(?:お?貸|借り|お?困り)|資金|借入)[\s\S]{0,24}(?:審査(?:なし|不要|無し|が?甘|ゼロ)|ブラック(?:でも|OK|可|の方)|無職(?:でも|OK|の方)|保証人(?:不要|なし|は?いりません)|担保(?:不要|なし)|即日(?:振込|入金|融資|で)|在籍確認(?:なし|不要)|他社で断られ|(?:誰|どなた)でも)|(?:審査(?:なし|不要|無し|が?甘|ゼロ)|ブラック(?:でも|OK|可|の方)|無職(?:でも|OK|の方)|保証人(?:不要|なし|は?いりません)|担保(?:不要|なし)|即日(?:振込|入金|融資|で)|在籍確認(?:なし|不要)|他社で断られ|(?:誰|どなた)でも)[\s\S]{0,24}(?:融資|お貸し|貸し出し|キャッシング|お金[をに]?(?:お?貸|借り|お?困り)|資金|借入)|)"
-     R"((?:대출|급전|빌려 ?드|목돈|자금|생활비)[\s\S]{0,24}(?:무직자?|신용 ?불량|신불자?|저신용|연체자?|무담보|무보증|무서류|당일 ?(?:입금|지급|승인|송금|\d|바로)|신용(?:등급)? ?(?:상관 ?없|무관|조회 ?없)|서류 ?없이|담보 ?없이|보증인? ?없이)|(?:무직자?|신용 ?불량|신불자?|저신용|연체자?|무담보|무보증|무서류|당일 ?(?:입금|지급|승인|송금|\d|바로)|신용(?:등급)? ?(?:상관 ?없|무관|조회 ?없)|서류 ?없이|담보 ?없이|보증인? ?없이)[\s\S]{0,24}(?:대출|급전|빌려 ?드|목돈|자금|생활비))"},
+     R"((?:お金に(?:お)?困|融資し|個人間|お?貸し(?:します|ます|出し)|金欠|ソフト闇金|急な出費)[\s\S]{0,50}(?:DM|LINE|免許証|身分証|保険証|キャッシュカード|即日|\d+分で|ひととき|審査(?:なし|不要|無し)|誰でも|無職|ブラック)|(?:融資|お貸し|貸し出し|キャッシング|お金[をに]?(?:お?貸|借り|お?困り)|資金|借入)[\s\S]{0,24}(?:審査(?:なし|不要|無し|が?甘|ゼロ)|ブラック(?:でも|OK|可|の方)|無職(?:でも|OK|の方)|保証人(?:不要|なし|は?いりません)|担保(?:不要|なし)|即日(?:振込|入金|融資|で)|在籍確認(?:なし|不要)|他社で断られ|(?:誰|どなた)でも)|(?:審査(?:なし|不要|無し|が?甘|ゼロ)|ブラック(?:でも|OK|可|の方)|無職(?:でも|OK|の方)|保証人(?:不要|なし|は?いりません)|担保(?:不要|なし)|即日(?:振込|入金|融資|で)|在籍確認(?:なし|不要)|他社で断られ|(?:誰|どなた)でも)[\s\S]{0,24}(?:融資|お貸し|貸し出し|キャッシング|お金[をに]?(?:お?貸|借り|お?困り)|資金|借入)|)"
+     R"((?:무담보|무보증|무직자|신용 ?불량|저신용|연체자?|주부|누구나|당일 ?(?:승인|지급|입금)|소액|급전)[\s\S]{0,40}(?:대출|승인|한도|송금|자금)[\s\S]{0,40}(?:먼저|선입금|보증료|수수료|공탁|예치|보험료|상담|카톡|톡|연락|만 ?원)|(?:대출|급전|빌려 ?드|목돈|자금|생활비)[\s\S]{0,24}(?:무직자?|신용 ?불량|신불자?|저신용|연체자?|무담보|무보증|무서류|당일 ?(?:입금|지급|승인|송금|\d|바로)|신용(?:등급)? ?(?:상관 ?없|무관|조회 ?없)|서류 ?없이|담보 ?없이|보증인? ?없이)|(?:무직자?|신용 ?불량|신불자?|저신용|연체자?|무담보|무보증|무서류|당일 ?(?:입금|지급|승인|송금|\d|바로)|신용(?:등급)? ?(?:상관 ?없|무관|조회 ?없)|서류 ?없이|담보 ?없이|보증인? ?없이)[\s\S]{0,24}(?:대출|급전|빌려 ?드|목돈|자금|생활비))"},
     // Small tasks on a phone or with parcels, and what they bring.
     {"<taskjob>",
      R"(\b(?:(?:rate|rating|review|reviewing|like|liking|click|clicking|watch|watching|test|testing|evaluat\w+|boost\w*|receive|receiving|forward|forwarding|repack\w*|follow|following)\s+(?:\w+\s+){0,2}(?:hotels?|restaurants?|videos?|apps?|products?|parcels?|packages?|ads?|posts?|songs?|movies?|shops?))\b[\s\S]{0,60}\b(?:get\s+paid|paid\s+(?:daily|per|the\s+same|every|each|out)|earn(?:ing)?\s+(?:\w+\s+){0,2}\d+|commission|(?:a|per)\s+(?:task|parcel|package|video|review|click|like)|(?:same|every)\s+(?:day|evening)|(?:hour|minutes)\s+a\s+day)\b|\b(?:get\s+paid|paid\s+(?:daily|per|the\s+same|every|each|out)|earn(?:ing)?\s+(?:\w+\s+){0,2}\d+|commission|(?:a|per)\s+(?:task|parcel|package|video|review|click|like)|(?:same|every)\s+(?:day|evening)|(?:hour|minutes)\s+a\s+day)\b[\s\S]{0,60}\b(?:(?:rate|rating|review|reviewing|like|liking|click|clicking|watch|watching|test|testing|evaluat\w+|boost\w*|receive|receiving|forward|forwarding|repack\w*|follow|following)\s+(?:\w+\s+){0,2}(?:hotels?|restaurants?|videos?|apps?|products?|parcels?|packages?|ads?|posts?|songs?|movies?|shops?))\b|\b(?:hr|recruit\w*|agency|jobs?|hiring|wanted|looking\s+for\s+(?:people|someone|staff|helpers?)|your\s+(?:profile|cv|resume|number)|earn|work)\b[\s\S]{0,60}\b(?:(?:on|from|with|using)\s+(?:your|the|a)\s+(?:\w+\s+)?phone|(?:from|at)\s+home|(?:simple|easy|small)\s+(?:\w+\s+)?(?:tasks?|jobs?|work)|(?:hours?|minutes|half\s+an\s+hour)\s+a\s+day|spare\s+time|remote\w*)\b[\s\S]{0,60}\b(?:\d+\s+(?:\w+\s+)?(?:a|per|each|every)\s+(?:day|evening|week|task)|up\s+to\s+[$€£]?\d+|(?:paid|pay|payout|money)\s+(?:\w+\s+)?(?:daily|every\s+(?:day|evening)|the\s+same|same\s+(?:day|evening)|on\s+the\s+day))\b|)"
@@ -136,6 +138,156 @@ constexpr std::array<Shorthand, 12> shorthands{{
      R"((?:(?:[还還])?[没沒](?:有)?[见見]?[过過]?面|未[曾谋謀][见見面]|才[认認][识識]|[认認][识識][\s\S]{0,4}(?:天|周|週|星期)|[网網]上(?:[认認][识識]|聊))|(?:[亲親][爱愛]的|[宝寶][贝貝]|老婆|老公|我[爱愛]你|[爱愛]上你|你的照片|[离離]你很近|娶你|嫁[给給]我|[认認]定(?:了)?你|喜[欢歡](?:上)?你)[\s\S]{0,40}(?:[医醫]生|[军軍]人|工程[师師]|[联聯]合[国國]|休假|平台上|部[队隊]|任[务務]|油田|[钻鑽]井|船上|合同|海[关關]|[签簽][证證]|机票|機票|[医醫]院|手[术術]|[叙敘]利[亚亞]|也[门門]|[国國]外)|(?:[亲親][爱愛]的|[宝寶][贝貝]|老婆|老公|我[爱愛]你|[爱愛]上你|你的照片|[离離]你很近|娶你|嫁[给給]我|[认認]定(?:了)?你|喜[欢歡](?:上)?你)[\s\S]{0,40}(?:带你[\s\S]{0,4}[赚赚賺]|帶你[\s\S]{0,4}[賺赚]|教你[\s\S]{0,6}(?:投[资資]|炒|交易|[赚賺])|(?:叔叔|舅舅|阿姨|[导導][师師])[\s\S]{0,16}(?:交易所|分析|投[资資]|[内內]幕|平台))|)"
      R"((?:(?:まだ)?(?:一度も)?会った?こと(?:が|は)?な|まだ会えて|会ってい?ない|知り合って(?:まだ)?[\s\S]{0,4}(?:日|週間)|ネットで(?:しか|知り合))|(?:愛してい?る|愛してい?ます|愛しい|恋しました|近くに感じ|写真を見|プロフィール|結婚した|暮らしたい|ダーリン|ハニー|僕の女王|運命の人|大好き(?:です|だ)|私の(?:天使|王子|愛))[\s\S]{0,40}(?:医師|軍人|エンジニア|空港|盗まれ|休暇|任務|基地|船|油田|契約|税関|ビザ|航空券|飛行機|病院|手術|シリア|イエメン|海外|国連)|(?:愛してい?る|愛してい?ます|愛しい|恋しました|近くに感じ|写真を見|プロフィール|結婚した|暮らしたい|ダーリン|ハニー|僕の女王|運命の人|大好き(?:です|だ)|私の(?:天使|王子|愛))[\s\S]{0,40}(?:教えて(?:あげ|ます)[\s\S]{0,10}(?:投資|取引|稼)|(?:投資|取引|稼[ぐぎ])[\s\S]{0,10}教えて?(?:あげ|ます)|(?:叔父|おじ|先生|おば)[\s\S]{0,16}(?:投資|取引所|アナリスト|プラットフォーム))|)"
      R"((?:(?:아직|한 ?번도) ?(?:한 ?번도 ?)?(?:만나|본|못 ?만)|만난 ?적 ?(?:은|이)? ?없|알게 ?된 ?지[\s\S]{0,6}(?:일|주)|온라인으로만|채팅으로만)|(?:자기야|여보|내 ?사랑|사랑하게|반했|당신 ?사진|가까이 ?느|결혼하|사랑해|사랑하는|달링|허니|운명)[\s\S]{0,40}(?:의사|군인|군의관|엔지니어|공항|도난|휴가|파병|임무|부대|배 ?위|시추|계약|세관|비자|비행기|항공권|병원|수술|시리아|예멘|해외|유엔)|(?:자기야|여보|내 ?사랑|사랑하게|반했|당신 ?사진|가까이 ?느|결혼하|사랑해|사랑하는|달링|허니|운명)[\s\S]{0,40}(?:(?:투자|거래|코인)[\s\S]{0,8}(?:알려|가르쳐)[\s\S]{0,2}(?:줄|드|줘)|(?:삼촌|이모|멘토|선생님)[\s\S]{0,16}(?:투자|거래소|애널리스트|코인|플랫폼)))"},
+    // Something is blocked, and data are to be entered.
+    {"<lockout>",
+     R"(\b(?:(?:conto|carta|account|spid|accesso|profilo|utenza|home\s+banking|postepay)\b[\s\S]{0,30}\b(?:disattivat\w+|bloccat\w+|sospes\w+|limitat\w+|scadut\w+|congelat\w+|disabilitat\w+|chius\w+))\b[\s\S]{0,60}\b(?:rifa\w*|aggiorn\w+|conferm\w+|verific\w+|inser\w+|invi\w+|mand\w+|carich\w+|complet\w+|ripristin\w+)\b[\s\S]{0,60}\b(?:riconoscimento|documento|selfie|credenziali|password|pin|codic[ei]|identità|numero\s+(?:di|della)\s+carta|dati\s+(?:personali|anagrafici|bancari))\b|)"
+     R"(\b(?:(?:account|rekening|pas|bankpas|toegang|digid|profiel|internetbankieren|creditcard)\b[\s\S]{0,40}\b(?:geblokkeerd|beperkt|opgeschort|op\s+slot|verloopt|bevroren|gedeactiveerd|opgeheven|stopgezet|gesloten)|(?:ingelogd|aangemeld|ingelogt)\b[\s\S]{0,20}\b(?:op|in)\s+(?:je|uw))\b[\s\S]{0,90}\b(?:log|geef|vul|bevestig|voer|werk|update|verifieer|scan|activeer|vernieuw|controleer)\b[\s\S]{0,90}\b(?:scannercode|inlogcode|pincode|link|linkje|kaartnummer|beveiligingscode|wachtwoord|identiteit|betaalgegevens|qr-?code|inloggegevens|rekeningnummer)\b|)"
+     R"((?:(?:[账帳賬][户戶号號]|卡片|\d{4}的卡|[银銀]行卡|信用卡|[网網][银銀]|[会會][员員]|[钱錢]包|支付功能|登[录錄入])[\s\S]{0,14}(?:[限受]制|[冻凍][结結]|停用|[暂暫]停|[锁鎖]定|停[权權]|[注註][销銷]|失效|[过過]期|封停|止付|[关關][闭閉]|[终終]止|[异異]常))[\s\S]{0,60}(?:(?:[补補][录錄充]|重新|更新|填[写寫]|[输輸]入|[验驗][证證](?![码碼])|核[实實]|[认認][证證]|上[传傳])[\s\S]{0,10}(?:身[份分]|[证證]件|密[码碼]|卡[号號]|信用卡|安全[码碼]|[银銀]行卡|金融卡|[资資]料|[绑綁]定))|(?:(?:[补補][录錄充]|重新|更新|填[写寫]|[输輸]入|[验驗][证證](?![码碼])|核[实實]|[认認][证證]|上[传傳])[\s\S]{0,10}(?:身[份分]|[证證]件|密[码碼]|卡[号號]|信用卡|安全[码碼]|[银銀]行卡|金融卡|[资資]料|[绑綁]定))[\s\S]{0,30}(?:(?:[账帳賬][户戶号號]|卡片|\d{4}的卡|[银銀]行卡|信用卡|[网網][银銀]|[会會][员員]|[钱錢]包|支付功能|登[录錄入])[\s\S]{0,10}(?:[限受]制|[冻凍][结結]|停用|[暂暫]停|[锁鎖]定|停[权權]|[注註][销銷]|失效|[过過]期|封停|止付|[关關][闭閉]|[终終]止|[异異]常))|)"
+     R"((?:(?:アカウント|口座|カード|ご利用|会員|ログイン|サービス)[\s\S]{0,14}(?:ロック|停止|制限|凍結|無効|失効|保留|削除|利用でき(?:な|ませ)|(?:確認)が?でき(?:な|ませ|ず)))[\s\S]{0,50}(?:(?:カード(?:番号|情報)|セキュリティコード|暗証番号|パスワード|本人(?:情報|確認)|個人情報|支払い?(?:情報|方法))[\s\S]{0,20}(?:更新|入力|再?登録|認証|変更)(?!され|いたしません))|)"
+     R"((?:(?:계좌|계정|카드|출금|이체|접속|신분증|멤버십)[\s\S]{0,14}(?:제한|정지|차단|동결|잠금|잠겼|잠겨|중지|폐쇄|해지|탈퇴|보류|만료)(?![\s\S]{0,80}(?:영업점|방문|지점)))[\s\S]{0,50}(?:(?:비밀 ?번호|주민 ?(?:등록)? ?번호|카드 ?(?:번호|정보)|CVC|본인 ?(?:인증|확인)|개인 ?정보|계좌 ?(?:번호|정보)|보안 ?카드|결제 ?(?:정보|수단)|OTP)[\s\S]{0,12}(?:다시|등록|입력|인증|갱신|업데이트|제출)))"},
+    // A parcel waits for a payment on a page.
+    {"<heldparcel>",
+     R"(\b(?:pacco|spedizione|raccomandata|consegna|corriere|plico|dogana|giacenza|poste\s+italiane|brt|gls|dhl)\b(?![\s\S]{0,120}\b(?:gratuit\w+|nulla|senza\s+costi|chi\s+clicca|truff\w+)\b)[\s\S]{0,80}\b(?:occorre\b<20>\b(?:versare|pagare|saldare)|versare|versi|paghi|paga|saldi|saldare|pagare|pagando|dazi\w*|oneri\s+doganali|spese\s+di\s+\w+|contributo)\b[\s\S]{0,80}\b(?:link|modulo\s+online|online|portale|carta|restituit\w+|mittente|[\w-]+[.](?:com|it|info|top|net|example|online|site))\b|)"
+     R"(\b(?:pakket\w*|pakje|bezorger|bezorging|bezorgd|postnl|dhl|dpd|ups|zending|levering|douane|depot|brievenbus)\b(?![\s\S]{0,140}\b(?:niets|geen|gratis|al\s+betaald|wie\s+klikt|oplicht\w+)\b)[\s\S]{0,90}\b(?:betal\w+|betaal\w*|overmaken|voldo\w+|invoerrechten|verzendkosten|bijbetal\w+|inklaring\w*|douanekosten)\b[\s\S]{0,90}\b(?:link|linkje|betaallink|kaartgegevens|bankpas|qr-?code|vernietigd|retour\s+(?:afzender|gestuurd)|kaartnummer|ideal)\b|)"
+     R"((?:包裹|快[递遞件]|[邮郵]件|物流|[派配]送|[货貨]件|清[关關]|海[关關])[\s\S]{0,40}(?:[补補][缴繳交付]|重新[派配]送|[关關清][税稅]|[运運]費?[不未]|[运運][费費]|手[续續][费費]|滞[纳納]|保管[费費]|[改更][派址])[\s\S]{0,40}(?:[点點][击擊此我开開]|[链連][接结結]|[网網]址|[a-z0-9-]+[.][a-z]{2,8}\b|由此|以下|[银銀]行卡|[销銷][毁毀])|)"
+     R"((?:(?:荷物|宅配|配達|配送|不在|通関|関税|小包|お届け)[\s\S]{0,50}(?:(?:手数料|関税|保管料|通関料|再配達料|追加料金|送料|\d+円)[\s\S]{0,10}(?:必要|未払|未納|支払|発生|不足)))[\s\S]{0,30}(?:カード|入力|リンク|こちら|URL|ページ|決済|[a-z0-9-]+[.][a-z]{2,8}\b)|)"
+     R"((?:(?:택배|소포|배송|운송장|통관|물품|우편물|화물)[\s\S]{0,50}(?:(?:재배송|통관|관세|보관료|미납|추가|주소 ?(?:불일치|오류|불명))[\s\S]{0,16}(?:비|비용|수수료|원|료|금)))[\s\S]{0,40}(?:결제하|결제 ?후|납부하|링크|클릭|입력|카드 ?(?:정보|번호)|[a-z0-9-]+[.][a-z]{2,8}\b))"},
+    // A toll or a fine is open, and a link leads to its payment.
+    {"<unpaidtoll>",
+     R"(\b(?:pedaggi\w*|autostrad\w*|telepass|multa|casello|tangenziale|transito|ztl|pedemontana|parcheggio|contravvenzione)\b[\s\S]{0,90}\b(?:mancat\w+|non\s+(?:pagat\w+|saldat\w+|risulta)|insolut\w+|senza\s+pagare|arretrat\w+|sollecito|da\s+saldare|scadut\w+)\b[\s\S]{0,90}\b(?:link|sanzione|recupero\s+crediti|fermo|regolarizz\w+|saldi|maggiorazione|[\w-]+[.](?:com|it|info|top|net|example))\b|\b(?:sollecito|insolut\w+|mancat\w+\s+pagament\w+|non\s+(?:è\s+stat[oa]\s+)?pagat[oa])\b[\s\S]{0,90}\b(?:pedaggi\w*|autostrad\w*|veicolo|targa|multa|tangenziale|ztl|pedemontana)\b[\s\S]{0,90}\b(?:link|sanzione|recupero\s+crediti|fermo|regolarizz\w+|saldi|maggiorazione|[\w-]+[.](?:com|it|info|top|net|example))\b|)"
+     R"(\b(?:tol\w*|vignet\w*|boetes?|cjib|verkeersboete\w*|parkeer\w+|snelweg|wegenbelasting|milieuzone)\b[\s\S]{0,90}\b(?:openstaand\w*|niet\s+(?:betaald|voldaan)|aanmaning|onbetaald\w*|achterstand|zonder\s+(?:geldig\s+)?(?:vignet|betaling|ticket)|herinnering|verschuldigd)\b[\s\S]{0,90}\b(?:link|qr-?code|qr|deurwaarder|beslag|verhoogd|verhoging|incasso\w*|betaalverzoek)\b|)"
+     R"((?:通行[费費]|[过過]路[费費]|\bETC|高速|[违違][章规規停]|停[车車][费費]|[罚罰][单單款]|[车車][辆輛主]|[车車]牌)[\s\S]{0,40}(?:未[缴繳付处處交支][清纳納费費理付]?|欠[费費缴款]|失效|[异異]常|逾期|待[缴繳处處]|未能扣|[尚仍]未)[\s\S]{0,40}(?:[点點][击擊此我]|[链連][接结結]|[网網]址|[a-z0-9-]+[.][a-z]{2,8}\b|由此|扫[码描]|掃[碼描]|二[维維][码碼])|(?:未[缴繳付处處交支][清纳納费費理付]?|欠[费費缴款]|失效|[异異]常|逾期|待[缴繳处處]|未能扣|[尚仍]未)[\s\S]{0,30}(?:通行[费費]|[过過]路[费費]|\bETC|高速|[违違][章规規停]|停[车車][费費]|[罚罰][单單款]|[车車][辆輛主]|[车車]牌)[\s\S]{0,30}(?:[点點][击擊此我]|[链連][接结結]|[网網]址|[a-z0-9-]+[.][a-z]{2,8}\b|由此|扫[码描]|掃[碼描]|二[维維][码碼])|)"
+     R"((?:通行料|\bETC|高速|違反金|反則金|駐車|有料道路|自動車税|電気料金|水道料金|ガス料金)[\s\S]{0,50}(?:未納|未払|滞納|支払われて|お支払いが確認|確認でき(?:ませ|な)|残高不足)[\s\S]{0,50}(?:こちら|リンク|URL|下記|→|差し押さえ|法的|延滞金|[a-z0-9-]+[.][a-z]{2,8}\b)|(?:未納|未払|滞納|支払われて|お支払いが確認|確認でき(?:ませ|な)|残高不足)[\s\S]{0,40}(?:通行料|\bETC|高速|違反金|反則金|駐車|有料道路|自動車税|電気料金|水道料金|ガス料金)[\s\S]{0,40}(?:こちら|リンク|URL|下記|→|差し押さえ|法的|延滞金|[a-z0-9-]+[.][a-z]{2,8}\b)|)"
+     R"((?:통행료|하이패스|과태료|범칙금|신호 ?위반|속도 ?위반|주차 ?위반|교통 ?(?:민원|법규|위반|범칙)|톨게이트|도로공사|무인 ?단속|차량)[\s\S]{0,50}(?:미납|고지서|부과|체납|연체|단속|과태료|위반)[\s\S]{0,50}(?:링크|클릭|앱을? ?(?:설치|다운)|아래 ?주소|압류|앱에서 ?확인|[a-z0-9-]+[.][a-z]{2,8}\b))"},
+    // An office pays something back for account or card data.
+    {"<officialrefund>",
+     R"(\b(?:inps|agenzia\s+delle\s+entrate|bonus\s+\w+|rimborso\s+(?:fiscale|irpef|imposte|canone)|sussidio|indennità)\b[\s\S]{0,90}\b(?:beneficiari\w+|accredito|spett\w+|diritto|\d+\s?(?:€|euro)|€\s?\d+)\b[\s\S]{0,90}\b(?:link|iban|carta|documento|tessera\s+sanitaria|busta\s+paga|buste\s+paga|dati\s+bancari|spid|indirizzo)\b|)"
+     R"(\b(?:belastingdienst|teruggave|teruggaaf|\w*toeslag|uwv|duo|svb|restitutie|recht\s+op|belastingteruggave)\b[\s\S]{0,90}\b(?:\d+\s*euro|€\s?\d+|bedrag|terug\w*|tegoed)\b[\s\S]{0,90}\b(?:link|iban|bankpas|pincode|kaartnummer|foto\s+van|rekeningnummer|inloggegevens|digid)\b[\s\S]{0,90}\b(?:invul\w*|vul|bevestig\w*|stuur|doorgeven|geef|klik|upload\w*|vandaag|binnen|verval\w*|rekening)\b|)"
+     R"((?:退[税稅]|[补補][贴貼助]|津[贴貼]|退[款费費]|普[发發]|返[还還]|[结結]余|[节節]余|[医醫社]保)[\s\S]{0,50}(?:[领領]取|登[录錄]|[输輸]入|填[写寫]|[验驗][证證]|提供|上[传傳]|[认認][证證]|核[验驗]|申[领領])[\s\S]{0,50}(?:卡[号號]|[银銀]行卡|金融卡|密[码碼]|身[份分][证證]|[账帳賬][户戶号號]|三[码碼]|CVV|[验驗][证證][码碼]|[a-z0-9-]+[.][a-z]{2,8}\b)|)"
+     R"((?:還付|給付金|過払|払い戻し|返金|補助金|支援金|払いすぎ|払い過ぎ)[\s\S]{0,50}(?:(?:マイナンバー|口座(?:番号|情報)?|暗証番号|カード(?:番号|情報)?|ATM)[\s\S]{0,20}(?:入力|登録|お手続|教えて|記入|操作|お持ち)(?![\s\S]{0,16}(?:ありませ|しない|しませ)))|)"
+     R"((?:환급|지원금|보조금|돌려 ?드|과납|더 ?내신|미수령|장려금|숨은 ?(?:돈|보험))[\s\S]{0,50}(?:(?:ATM|현금 ?인출기|계좌 ?번호|비밀 ?번호|카드 ?번호|주민 ?(?:등록)? ?번호|신분증|인증 ?번호|OTP|링크)[\s\S]{0,24}(?:입력|누르|눌러|불러|알려 ?주세|가셔|클릭|설치|찍어|앞으로)))"},
+    // A prize, and a fee to be paid for it.
+    {"<prizefee>",
+     R"(\b(?:vinto|vincit\w+|complimenti|congratulazioni|premio|estratt[oa]|visitatore|sondaggio)\b[\s\S]{0,90}\b(?:paga|pagare|paghi|versi|versare|coprire|coprendo)\b[\s\S]{0,90}\b(?:spedizione|spese|tassa|contributo|imposta|notarili|sdoganamento)\b|)"
+     R"(\b(?:gewonnen|winnaar|gefeliciteerd|prijs|hoofdprijs|cadeaubon|\w*loterij|uitgeloot|verloting|winactie)\b[\s\S]{0,90}\b(?:verzendkosten|administratiekosten|\w*belasting|notaris\w*|borg|bezorgkosten|vrij\s+te\s+geven|vrijgave|handelingskosten)\b[\s\S]{0,90}\b(?:voldoen|betal\w+|betaal\w*|overmak\w+|maak|creditcard|kaartgegevens|<amount>)\b|)"
+     R"((?:[中得][奖獎]|抽中|抽[选選]|幸[运運]|[奖獎][品金]|[恭贺賀]喜)[\s\S]{0,60}(?:先[交付转轉]|[须須需][先交支付缴繳]|[缴繳][纳納]|支付|[补補]交|[垫墊]付|[承][担擔])[\s\S]{0,60}(?:公[证證]|手[续續]|[运運][费費]|[邮郵][费費]|[税稅]|保[证證]金|[费費]用|押金)|)"
+     R"((?:当選|当たりました|当たった|抽選で|選ばれ|おめでとう|プレゼント)[\s\S]{0,50}(?:送料|手数料|税金|発送料|保証金|事務手数料)[\s\S]{0,50}(?:カード|支払[いえっ]|払って|払えば|振り?込|入力|だけ)|)"
+     R"((?:당첨|경품|추첨|선정되|공짜|축하)[\s\S]{0,60}(?:배송비|수수료|택배비|보증금|처리비|등록비)[\s\S]{0,60}(?:결제|입금|송금|카드|이체))"},
+    // A relative on a strange telephone needs money.
+    {"<kinneeds>",
+     R"(\b(?:mamma|papà|nonn[ao]|zi[ao]|babbo)\b(?![\s\S]{0,160}\b(?:polizia|truff\w+)\b)[\s\S]{0,140}\b(?:numero\s+nuovo|nuovo\s+numero|altro\s+numero|raffreddore|(?:telefono|cellulare)\b[\s\S]{0,30}\b(?:caduto|rotto|water|rubato|perso|acqua|scheda)|tuo\s+nipote|amico\s+mio|(?:è\s+caduto|rotto|perso)\b[\s\S]{0,16}\b(?:telefono|cellulare))\b[\s\S]{0,140}\b(?:pagament\w+|bonifico|contanti|soldi|ricarica\w*|iban|oro|prest(?:armi|ami|ito)|<amount>)\b|)"
+     R"(\b(?:mam|mama|mams|pap|papa|oma|opa|tante|oom|ma|pa|zus|broer)\b(?![\s\S]{0,160}\b(?:politie|oplicht\w+)\b)[\s\S]{0,130}\b(?:(?:nieuw|ander|tijdelijk)\w*\s+(?:nummer|telefoon|mobiel|toestel|sim\w*)|(?:telefoon|mobiel|gsm|toestel)\b[\s\S]{0,20}\b(?:kapot|gestolen|kwijt|gevallen|stuk|gejat)|nummer\s+van\s+(?:een|mijn)\s+\w+|ander\s+nummer)\b[\s\S]{0,130}\b(?:overmaken|overma\w+|maak\w*|betalen|betaal|rekening|lenen|leen|voorschiet\w*|geld|euro)\b|)"
+     R"((?:[妈媽]|爸|奶奶|[爷爺]{2}|外[婆公]|姥[姥爷爺]|[叔姑舅姨伯]|哥|姐|老[公婆]|[儿兒]子|[侄孫孙]子)(?![\s\S]{0,100}(?:警[方察]|[诈詐骗騙]))[\s\S]{0,70}(?:(?:手[机機]|[电電][话話]|[号號][码碼]?|微信)[\s\S]{0,10}(?:[坏壞掉丢丟摔停]|[进進]水|[没沒][电電]|借|同[学學]|朋友|新|[换換]|修|[厕廁]所|登不)|(?:同[学學]|朋友|[别別]人)的?(?:手[机機]|[电電][话話]|[号號]|微信))[\s\S]{0,70}(?:[转轉汇匯](?:[给給到账帳款]|\d)|打[钱錢到]|[垫墊]|[费費]\d|\d+[元块塊万萬]|[万千萬][元块塊]?|急[用需]|借[我点點]|交[学學押培][费費金]?)|)"
+     R"((?:お?母さん|お?父さん|ママ|パパ|ばあちゃん|じいちゃん|おばさん|おじさん|母ちゃん|父ちゃん|オレ|俺だ|姉さん|兄さん|おばあさん|おじいさん)(?![\s\S]{0,120}(?:警察|詐欺))[\s\S]{0,80}(?:(?:番号|携帯|スマホ|ケータイ|電話|アドレス|LINE)[\s\S]{0,14}(?:変わ|かわ|変え|かえ|替え|壊|こわ|落と|おと|なくし|水没|新し|買い替|修理|友達|借り|紛失))[\s\S]{0,80}(?:振り?込|ふりこ|貸して|貸し(?:て|ても)|立て替え|払わない|払えない|足りな|足りなく|お金|\d+万|示談)|)"
+     R"((?:엄마|아빠|어머니|아버지|할머니|할아버지|이모|고모|삼촌|누나|언니|오빠|여보|형)(?![\s\S]{0,120}(?:경찰|사기|피싱))[\s\S]{0,80}(?:(?:번호|폰|핸드폰|휴대폰|전화기?|액정|유심|카톡)[\s\S]{0,14}(?:바뀌|바뀐|바꿨|바꾼|깨|고장|망가|잃어|분실|수리|친구|빌려|물에|안 ?[돼되]|먹통|임시)|(?:친구|다른) ?(?:폰|번호|핸드폰))[\s\S]{0,80}(?:(?:만 ?원|\d만|돈|이체|송금|입금|결제|상품권|계좌|잔금|월세)[\s\S]{0,40}(?:줘|주세요|줄래|줄 ?수|주실|부탁|빌려|모자라|급하|급해|필요|드릴게|갚)))"},
+    // Police or a court, a crime, and money or secrecy.
+    {"<policecall>",
+     R"(\b(?:(?:carabinieri|maresciallo|polizia|questura|guardia\s+di\s+finanza|procura|tribunale|comandante|ispettore|interpol|europol|avvocato|citazione)\b(?![\s\S]{0,160}\b(?:mai|truffator[ei]|fals[io]|riagganci\w+|diffida\w+|112|truff[ae])\b))\b[\s\S]{0,130}\b(?:incidente|investito|indagat\w+|arrest\w+|carcere|denunci\w+|reat[oi]|frode|furto|rapina|riciclaggio|clonat\w+)\b[\s\S]{0,130}\b(?:cauzione|contanti|gioielli|oro|ammenda|bonifico|non\s+(?:ne\s+)?(?:parl\w+|dica)|riservatezza|conto\s+sicuro|codic[ei]|pagamento|consegn\w+|48\s+ore|prelev\w+)\b|)"
+     R"(\b(?:(?:politie|rechercheur|agent|wijkagent|recherche|fraudedesk|fraudeafdeling|officier\s+van\s+justitie|marechaussee|inspecteur)\b(?![\s\S]{0,160}\b(?:nooit|waarschuw\w+|nepagent\w*|oplichters?|trap\s+er)\b))\b[\s\S]{0,120}\b(?:aangehouden|verdacht\w*|inbrekers?|onderzoek|fraude|lijst|arrestatie|misbruik\w*|witwas\w*|identiteit|overboeking|bende|ongeluk|aangereden)\b[\s\S]{0,120}\b(?:sieraden|contant\w*|cash|pinpas|bankpas|pincode|veiligstellen|veilig\s+te\s+stellen|veilige?\s+rekening|kluisrekening|overmaken|niemand|anydesk|meegeven|afgeven|ophalen|borgsom|goud)\b|)"
+     R"((?:(?:公安|[检檢]察|[检檢]方|警[察官方局]|法院|[刑经經][侦偵警]|派出所|地[检檢]署|[网網]警|通信管理|通管局|[银銀]保[监監]|金管[会會]|[电電]信局|出入境|大使[馆館]|健保[署局]|[医醫]保局)(?![\s\S]{0,120}(?:都?是[诈詐]|[骗騙]子|96110|\b165\b|切勿|[谨謹]防|警惕|不[会會]要求|[绝絕]不[会會]|受[骗騙]|不[会會](?:通[过過]|以)|呼[吁籲]|[防被][诈詐]?[骗騙])))[\s\S]{0,60}(?:涉[嫌及案]|洗[钱錢]|[通拘][缉緝捕留]|逮捕|冒[用名]|非法|案件|[传傳]票|[冻凍][结結]|名下|[贩販]毒|[绑綁]架|[掳擄]人)[\s\S]{0,60}(?:保密|不要告[诉訴]|不[要得能可准][\s\S]{0,6}(?:[说說]|透露|[挂掛][断斷电電])|[转轉][到入账帳]|[现現][金款]|[资資]金|[财財][产產]|[监監]管|保[证證释釋]金|共享|[视視][频頻訊讯]|下[载載]|[汇匯]|密[码碼]|不公[开開]|存款|清[查点點])|)"
+     R"((?:(?:警察|県警|府警|道警|警視庁|検察|検事|捜査|刑事|総務省|厚労省|金融庁|銀行協会|入管|大使館|生活安全|国民生活)(?![\s\S]{0,140}(?:注意喚起|ご?注意ください|ことは(?:絶対に)?ありません|詐欺が|不審な電話|手口|騙され|だまされ)))[\s\S]{0,70}(?:犯罪|詐欺|事件|容疑|逮捕|不正|悪用|名義|資金洗浄|マネーロ|押収|リスト|示談|事故)[\s\S]{0,70}(?:暗証番号|カード[\s\S]{0,14}(?:渡|預|封筒|交換|回収)|現金|振り?込|送金|口座[\s\S]{0,10}(?:調査|移|調べ)|保釈|ビデオ通話|LINE|秘密|口外|誰にも|伺い|伺う|資産|保護)|)"
+     R"((?:(?:검찰|지검|검사|수사관|수사대|경찰|형사|금감원|금융감독원|법원|사이버 ?수사|국세청|우체국|카드사|출입국|대사관)(?![\s\S]{0,140}(?:사칭|주의하|보이스 ?피싱|조심|속지|의심|신고하|않습니다|예방)))[\s\S]{0,70}(?:명의|도용|대포|세탁|범죄|연루|사건|영장|구속|불법|소환|체포|피의자|개설|유출|사고)[\s\S]{0,70}(?:안전 ?계좌|이체|송금|옮기|옮겨|현금|인출|비밀|말씀하시면|말하지|알리지|기밀|앱을?|설치|텔레그램|영상 ?통화|숙소|모텔|계좌 ?(?:번호|정보)|자산|예금|보호|합의금|보석금))"},
+    // Easy tasks, daily pay, and a messenger to write to.
+    {"<chatjob>",
+     R"(\b(?:lavor\w+|guadagn\w+|collabora\w+|offerta|posizione|smart\s+working|part[- ]time|reddito|arrotond\w+)\b[\s\S]{0,90}\b(?:like|mi\s+piace|recension\w+|video|hotel|app|telefono|cellulare|compiti|semplic\w+|minut\w+|senza\s+esperienza|pacchi|da\s+casa|prodott\w+)\b[\s\S]{0,90}\b(?:\d+\s?(?:€|euro)|€\s?\d+|al\s+giorno|commission\w+|settiman\w+)\b[\s\S]{0,90}\b(?:whats\s?app|telegram|signal|in\s+privato)\b|)"
+     R"(\b(?:bijverdien\w*|thuiswerk\w*|bijbaan\w*|bijverdienste|thuis|zoeken\s+mensen|online\s+werk\w*)\b[\s\S]{0,90}\b(?:bankrekening|betalingen|pakket\w*|pakjes|likes?|liken|reviews?|beoordel\w+|taken|taakjes|telefoon|uurtje\w*|minuten|ervaring|hotels?)\b[\s\S]{0,90}\b(?:\d+\s*(?:euro|€|%)|€\s?\d+|cash|commissie|uitbetal\w*|per\s+dag)\b[\s\S]{0,90}\b(?:whats\s?app|telegram|snap\w*|dm|app\s+(?:me|mij|naar)|signal|insta\w*)\b|)"
+     R"((?:[线線]上|兼[职職差]|副[业業]|打工|[远遠]程|居家|在家|人[资資事]|履[历歷]|手[机機]|招[聘募]|[闲閒]暇|[诚誠][招聘])[\s\S]{0,50}(?:分[钟鐘]|[点點按][赞讚]|[评評][价價]|刷[单單]|[抢搶][单單]|[无無]需[经經]|[轻輕簡简][松鬆單单]|名[额額]|[关關]注|任[务務]|[时時]间自由|時間自由|商品)[\s\S]{0,50}(?:日[领領薪结結入]|月入|[赚賺]|佣金|\d+\s?[元块塊]|[~～\-至到]\s?\d{3,}|[现現][结結]|返[佣利现])[\s\S]{0,50}(?:LINE|微信|WhatsApp|Telegram|TG|QQ|加[我Vv微]|[飞飛][机機]|私[讯訊聊信我]|[联聯][系繫]|助理)|)"
+     R"((?:在宅|副業|お仕事|バイト|スマホ|スキマ|隙間|求人|募集)[\s\S]{0,60}(?:いいね|スクショ|動画|レビュー|口コミ|フォロー|タスク|簡単|誰でも|未経験|コピペ|荷物|タップ|\d+分)[\s\S]{0,60}(?:円|報酬|日給|月収|稼[げぎぐ]|日払い)[\s\S]{0,60}(?:LINE|ライン|テレグラム|Telegram|DM|WhatsApp|アシスタント|友だち追加)|)"
+     R"((?:재택|부업|알바|투잡|모집|구인|집에서|누구나)[\s\S]{0,50}(?:좋아요|구독|리뷰|미션|클릭|후기|댓글|체험|핸드폰|휴대폰|간단|하루|시간|쇼핑몰)[\s\S]{0,50}(?:건당|일당|당일|수익|만 ?원|천 ?원|지급|원씩|수당)[\s\S]{0,50}(?:텔레그램|카톡|카카오|라인|오픈 ?채팅|디엠|DM|팀장|매니저|톡 ?주))"},
+    // Gift cards, and their codes to be sent.
+    {"<cardcodes>",
+     R"(\b(?:gift\s?card|buon[oi]\s+(?:amazon|regalo|apple)|paysafe\w*|carte?\s+regalo|itunes|google\s+play|steam|ricarich[ea]\s+(?:paysafe\w*|itunes|apple))\b[\s\S]{0,60}\b(?:(?:invi\w+|mand\w+|foto\w*|gratt\w+|comunic\w+|dett\w+|girar?\w*)\b[\s\S]{0,25}\bcodic[ei])\b|\b(?:gift\s?card|buon[oi]\s+(?:amazon|regalo|apple)|paysafe\w*|carte?\s+regalo|itunes|google\s+play|steam|ricarich[ea]\s+(?:paysafe\w*|itunes|apple))\b[\s\S]{0,60}\b(?:codic[ei])\b[\s\S]{0,60}\b(?:invi\w+|mand\w+|foto\w*|comunic\w+|dett\w+)\b|)"
+     R"(\b(?:cadeaukaart\w*|cadeaubon\w*|gift\s?card\w*|paysafe\w*|itunes\w*|steam\w*|google\s+play\w*|apple-?kaart\w*|tegoedkaart\w*|bol\w*bon\w*)\b[\s\S]{0,80}\b(?:kras\w*|codes?|nummers?|achterkant|bonnetje)\b[\s\S]{0,80}\b(?:stuur|app|mail|geef|doorsturen|sturen|appen|mailen|doorgeven|foto)\b|)"
+     R"(\b(?:подарочн\w+\s+(?:карт\w+|сертификат\w*)|карт\w+\s+(?:пополнени\w+|оплаты|steam|apple|itunes|google)|steam|itunes|google\s+play)\b[\s\S]{0,60}\b(?:отправ\w+|пришли\w*|скинь\w*|сфотограф\w+|продиктуй\w*|перешли\w*|вышли\w*|сообщи\w*)\b[\s\S]{0,60}\b(?:код\w*|номер\w*|фото\w*)\b|\b(?:подарочн\w+\s+(?:карт\w+|сертификат\w*)|карт\w+\s+(?:пополнени\w+|оплаты|steam|apple|itunes|google)|steam|itunes|google\s+play)\b[\s\S]{0,60}\b(?:код\w*|фото\w*)\b[\s\S]{0,60}\b(?:отправ\w+|пришли\w*|скинь\w*|продиктуй\w*|перешли\w*|вышли\w*)\b|)"
+     R"((?:[买買]|[购購]|便利店|超商|[帮幫]我)[\s\S]{0,40}(?:[礼禮][品物]卡|[点點][数數]卡?|E卡|[购購]物卡|充值卡|[游遊][戏戲]卡|iTunes|Steam|GASH|MyCard|[苹蘋]果卡)[\s\S]{0,40}(?:卡密|刮[开開]|序[号號列]|密[码碼]|[拍照][\s\S]{0,4}[发發傳传]|[发發傳传回報报][给給我])|)"
+     R"((?:(?:コンビニ|セブン|ローソン|ファミマ|Amazon|アマゾン|アップル|Apple|iTunes|Google|グーグル|プリペイド|ギフト|電子マネー|ビットキャッシュ|ウェブマネー)[\s\S]{0,12}(?:カード|券|ギフト|マネー|番号))[\s\S]{0,40}(?:番号|コード|シリアル|裏面|レシート|スクラッチ|削っ)[\s\S]{0,40}(?:教え|送って|送れ|伝え(?:て|くだ|下)|お伝え|写真|撮って|読み上げ|お?知らせ(?:て|くだ))|)"
+     R"((?:상품권|기프트 ?카드|구글 ?(?:플레이|기프트)|문상|컬쳐랜드|해피머니|편의점)[\s\S]{0,40}(?:사서|사고|사 ?줘|사다|구매|구입|급하게|필요|만 ?원어치|대신)[\s\S]{0,40}(?:(?:핀 ?번호|뒷면|코드|일련 ?번호|영수증|번호)[\s\S]{0,20}(?:보내|찍|알려|전송|톡|불러)))"},
+    // A payment that is to go to a new account.
+    {"<newaccount>",
+     R"(\b(?:bonific\w+|versat\w+|vers\w+|pag\w+|acconto|caparra|fattur\w+|saldo|giralo|giri|accredit\w+)\b(?![\s\S]{0,140}\b(?:segreteria|espost[oi]|stampat[oi]|bacheca|assemblea|di\s+persona)\b)[\s\S]{0,100}\b(?:(?:nuov\w+|divers\w+|altr\w+|aggiornat\w+)\s+(?:\w+\s+)?(?:iban|conto|coordinate)|conto\s+(?:\w+\s+)?divers\w+)\b[\s\S]{0,100}\b(?:mail|oggi|entro|contabile|urgen\w+|allegat\w+|telefon\w+|istantaneo|in\s+giornata)\b|\b(?:(?:nuov\w+|divers\w+|altr\w+|aggiornat\w+)\s+(?:\w+\s+)?(?:iban|conto|coordinate)|conto\s+(?:\w+\s+)?divers\w+)\b(?![\s\S]{0,140}\b(?:segreteria|espost[oi]|stampat[oi]|bacheca|assemblea|di\s+persona)\b)[\s\S]{0,100}\b(?:bonific\w+|versat\w+|vers\w+|pag\w+|acconto|caparra|fattur\w+|saldo|giralo|giri|accredit\w+)\b[\s\S]{0,100}\b(?:mail|oggi|entro|contabile|urgen\w+|allegat\w+|telefon\w+|istantaneo|in\s+giornata)\b|)"
+     R"(\b(?:factu\w+|betal\w+|voldoen|overmak\w+|over\s+te\s+maken|maak|aanbetaling)\b(?![\s\S]{0,140}\b(?:op\s+papier|haast\s+is|persoonlijk|penningmeester|vergadering)\b)[\s\S]{0,90}\b(?:(?:nieuwe?|ander|gewijzigd\w*|buitenlands\w*|onderstaand\w*|tijdelijk\w*)\s+(?:iban|rekening|rekeningnummer|bankrekening|bankrekeningnummer|bankgegevens))\b[\s\S]{0,90}\b(?:mail\w*|bijlage|vandaag|telefo\w+|bereikbaar|spoed|direct|bevestig\w*|per\s+omgaande)\b|\b(?:(?:nieuwe?|ander|gewijzigd\w*|buitenlands\w*|onderstaand\w*|tijdelijk\w*)\s+(?:iban|rekening|rekeningnummer|bankrekening|bankrekeningnummer|bankgegevens))\b(?![\s\S]{0,140}\b(?:op\s+papier|haast\s+is|persoonlijk|penningmeester|vergadering)\b)[\s\S]{0,90}\b(?:factu\w+|betal\w+|voldoen|overmak\w+|over\s+te\s+maken|maak|aanbetaling)\b[\s\S]{0,90}\b(?:mail\w*|bijlage|vandaag|telefo\w+|bereikbaar|spoed|direct|bevestig\w*|per\s+omgaande)\b|)"
+     R"((?:改|[请請]|[烦煩]|款[项項]?|[货貨]款|尾款)(?![\s\S]{0,120}(?:[亲親]自|本人到|[当當]面|[柜櫃][台檯]|公告[栏欄]|前台|携[带帶]))[\s\S]{0,30}(?:[汇匯付打转轉存][\s\S]{0,8}(?:[至到入]))[\s\S]{0,30}(?:(?:新|附件|下列|另[一外]|其他|[变變更][更換换]|[关關][联聯]|境外|香港|海外|[离離]岸)[\s\S]{0,10}[账帳賬][户戶号號])|(?:(?:原|[旧舊]|之前的?|先前的?)[\s\S]{0,6}[账帳賬][户戶号號])[\s\S]{0,40}(?:[审審][计計]|停[用止]|[暂暫]停|[冻凍][结結]|[注註][销銷]|[无無]法|不再)[\s\S]{0,40}(?:[汇匯转轉付打][款到至入账帳])|)"
+     R"((?:(?:振り?込|口座|送金|入金|お支払い?)先?[\s\S]{0,24}(?:変更|新し|新口座|誤り|訂正|別の|関連会社|海外|香港|監査|凍結)(?![\s\S]{0,120}(?:窓口|紙で|本人が|ご?持参|直接|管理人)))[\s\S]{0,60}(?:送金|振り?込|お支払い|入金)[\s\S]{0,60}(?:本日|至急|今日|午前|返信|メール|着金|電話|お急ぎ|までに)|)"
+     R"((?:(?:기존|이전|종전|주거래|거래 ?은행|감사|세무|신규|새로운|새|변경된?|바뀐|다른|해외)[\s\S]{0,14}계좌(?![\s\S]{0,120}(?:직접|방문|가지고|지참|접수|관리사무소|비치)))[\s\S]{0,50}(?:송금|입금|이체|결제|지급|대금)[\s\S]{0,50}(?:부탁|바랍|주세요|주십시오|주시|요망|회신))"},
+    // Wages that are to go to a new account, or a page that asks for it.
+    {"<newsalary>",
+     R"(\b(?:(?:ho\s+)?cambiato\s+(?:banca|conto)|nuov[oa]\s+(?:iban|conto|banca)|aggiornar\w*|modific\w+|variazione|sostitu\w+)\b(?![\s\S]{0,140}\b(?:segreteria|espost[oi]|stampat[oi]|bacheca|assemblea|di\s+persona)\b)[\s\S]{0,100}\b(?:iban|conto|coordinate|carta)\b[\s\S]{0,100}\b(?:stipendi\w*|emolument\w+|busta\s+paga|mensilità|cedolino)\b|\b(?:stipendi\w*|emolument\w+|busta\s+paga|mensilità|cedolino)\b(?![\s\S]{0,140}\b(?:segreteria|espost[oi]|stampat[oi]|bacheca|assemblea|di\s+persona)\b)[\s\S]{0,100}\b(?:iban|conto|carta\s+conto|coordinate)\b[\s\S]{0,100}\b(?:aggiorn\w+|cambi\w+|nuov\w+|precedente|modific\w+|chius[oa]|divers\w+|in\s+luogo)\b|)"
+     R"(\b(?:salaris\w*|loon|loonbetaling|uitbetaling)\b(?![\s\S]{0,140}\b(?:op\s+papier|haast\s+is|persoonlijk|penningmeester|vergadering)\b)[\s\S]{0,90}\b(?:iban|rekening|rekeningnummer|bankrekening|bank|bankgegevens)\b[\s\S]{0,90}\b(?:aanpass\w+|pas|wijzig\w+|ontvangen|gestort|storten|overgestapt|nieuwe?|ander\w*|bijwerk\w+|verander\w+)\b|\b(?:overgestapt|andere\s+bank|nieuwe\s+(?:bank|rekening)|van\s+bank\s+(?:ge)?wissel\w*)\b(?![\s\S]{0,140}\b(?:op\s+papier|haast\s+is|persoonlijk|penningmeester|vergadering)\b)[\s\S]{0,90}\b(?:salaris\w*|loon|loonbetaling|uitbetaling)\b|\b(?:salaris\w*|loon|loonbetaling|uitbetaling)\b(?![\s\S]{0,140}\b(?:op\s+papier|haast\s+is|persoonlijk|penningmeester|vergadering)\b)[\s\S]{0,90}\b(?:aanpass\w+|pas|wijzig\w+|ontvangen|gestort|storten|overgestapt|nieuwe?|ander\w*|bijwerk\w+|verander\w+)\b[\s\S]{0,90}\b(?:iban|rekening|rekeningnummer|bankrekening|bank|bankgegevens)\b|)"
+     R"((?:薪[资資水酬轉转]|工[资資]|[发發]薪)(?![\s\S]{0,120}(?:[亲親]自|本人到|[当當]面|[柜櫃][台檯]|公告[栏欄]|前台|携[带帶]))[\s\S]{0,50}(?:[账帳賬][户戶号號]|[银銀]行卡|工[资資]卡)[\s\S]{0,50}(?:更[换換新改]|[换換变變]|改|新的?|重新|[转轉打][到入])|(?:薪[资資水酬轉转]|工[资資])[\s\S]{0,40}(?:[a-z0-9-]+[.][a-z]{2,8}\b|[链連][接结結]|扫码|掃碼)[\s\S]{0,40}(?:密[码碼]|[银銀]行卡|身[份分][证證]|[账帳][户戶号號])|)"
+     R"((?:(?:給与|給料|賞与)[\s\S]{0,30}(?:変更|再登録|更新|移行|新しい|別の|切り?替え)(?![\s\S]{0,120}(?:窓口|紙で|本人が|ご?持参|直接|管理人)))[\s\S]{0,50}(?:口座|パスワード|振り?込先)[\s\S]{0,50}(?:今月|までに|下記|添付|お願い|ログイン|リンク|支給|[a-z0-9-]+[.][a-z]{2,8}\b)|(?:(?:給与|給料|賞与)(?![\s\S]{0,120}(?:窓口|紙で|本人が|ご?持参|直接|管理人)))[\s\S]{0,50}(?:[a-z0-9-]+[.][a-z]{2,8}\b|リンク|ログイン)[\s\S]{0,50}(?:パスワード|口座|再登録)|)"
+     R"((?:(?:급여|월급|봉급)[\s\S]{0,30}(?:바꿔|바꾸|바꿨|변경|바뀌|바뀐|새|신규|다른|옮겨|갱신|재등록)(?![\s\S]{0,120}(?:직접|방문|가지고|지참|접수|관리사무소|비치)))[\s\S]{0,50}(?:계좌|통장|은행)[\s\S]{0,50}(?:이번 ?달|입금|넣어|반영|처리|지급|부탁|비밀 ?번호|링크)|(?:(?:급여|월급)(?![\s\S]{0,120}(?:직접|방문|가지고|지참|접수|관리사무소|비치)))[\s\S]{0,50}(?:[a-z0-9-]+[.][a-z]{2,8}\b|링크)[\s\S]{0,50}(?:비밀 ?번호|계좌|로그인))"},
+    // Coins to be sent, and more of them that come back.
+    {"<doubling>",
+     R"(\b(?:bitcoin|btc|eth|ethereum|cripto\w*|crypto\w*|usdt|token|xrp)\b[\s\S]{0,90}\b(?:invi\w+|vers\w+|deposit\w+|investi\w+|consulente|registr\w+|lasci\w*|manda\w*|trasferi\w+)\b[\s\S]{0,90}\b(?:raddoppi\w+|doppio|garantit\w+|rischio\s+zero|senza\s+rischi\w*|frutt\w+|rendit\w+|il\s+triplo|x2)\b|\b(?:invi\w+|vers\w+|deposit\w+|investi\w+|consulente|registr\w+|lasci\w*|manda\w*|trasferi\w+)\b[\s\S]{0,90}\b(?:bitcoin|btc|eth|ethereum|cripto\w*|crypto\w*|usdt|token|xrp)\b[\s\S]{0,90}\b(?:raddoppi\w+|doppio|garantit\w+|rischio\s+zero|senza\s+rischi\w*|frutt\w+|rendit\w+|il\s+triplo|x2)\b|\b(?:raddoppi\w+|doppio|garantit\w+|rischio\s+zero|senza\s+rischi\w*|frutt\w+|rendit\w+|il\s+triplo|x2)\b[\s\S]{0,90}\b(?:bitcoin|btc|eth|ethereum|cripto\w*|crypto\w*|usdt|token|xrp)\b[\s\S]{0,90}\b(?:invi\w+|vers\w+|deposit\w+|investi\w+|consulente|registr\w+|lasci\w*|manda\w*|trasferi\w+)\b|)"
+     R"(\b(?:stuur|stort|zend|maak|storten|sturen|inleg\w*|investeer|verstuur)\b[\s\S]{0,90}\b(?:bitcoin\w*|btc|eth|ethereum|crypto\w*|usdt|munten|coins?|xrp)\b[\s\S]{0,90}\b(?:dubbel\w*|verdubbel\w*|twee\s?keer|2x|tweemaal|keer\s+zoveel|tienvoud)\b|\b(?:bitcoin\w*|btc|eth|ethereum|crypto\w*|usdt|munten|coins?|xrp)\b[\s\S]{0,90}\b(?:stuur|stort|zend|maak|storten|sturen|inleg\w*|investeer|verstuur)\b[\s\S]{0,90}\b(?:dubbel\w*|verdubbel\w*|twee\s?keer|2x|tweemaal|keer\s+zoveel|tienvoud)\b|)"
+     R"(\b(?:биткоин\w*|btc|eth|ton|usdt|крипт\w+|монет\w*|токен\w*|эфир\w*)\b[\s\S]{0,80}\b(?:отправ\w+|перевед\w+|перевод\w*|пополн\w+|внес\w+|влож\w+|кошел[её]к\w*|закин\w+)\b[\s\S]{0,80}\b(?:удво\w+|(?:в\s+)?(?:два|три|2|3|5|10)\s+раза?\s+больше|в\s+два\s+раза|вдвое|вдвойне|x2|х2|двойн\w+\s+размер\w*|в\s+\d+\s+раз\w*)\b|\b(?:отправ\w+|перевед\w+|перевод\w*|пополн\w+|внес\w+|влож\w+|кошел[её]к\w*|закин\w+)\b[\s\S]{0,80}\b(?:биткоин\w*|btc|eth|ton|usdt|крипт\w+|монет\w*|токен\w*|эфир\w*)\b[\s\S]{0,80}\b(?:удво\w+|(?:в\s+)?(?:два|три|2|3|5|10)\s+раза?\s+больше|в\s+два\s+раза|вдвое|вдвойне|x2|х2|двойн\w+\s+размер\w*|в\s+\d+\s+раз\w*)\b|)"
+     R"((?:存入|[转轉投打充]|入金|[发發]送|地址|[带帶][单單]|老[师師])[\s\S]{0,40}(?:USDT|BTC|ETH|TRX|比特[币幣]|以太|[币幣]圈|[数數]字[货貨]|加密|[虚虛][拟擬])[\s\S]{0,40}(?:翻[倍番]|\d+\s?倍|[两兩双雙]倍|[变變返得]\s?\d|[稳穩][赚賺]|保[证證本]|[稳穩]定收益|日息)|(?:USDT|BTC|ETH|TRX|比特[币幣]|以太|[币幣]圈|[数數]字[货貨]|加密|[虚虛][拟擬])[\s\S]{0,40}(?:翻[倍番]|[两兩双雙]倍|加倍|返[还還])[\s\S]{0,40}(?:[转轉充存入打]|地址|[发發]送)|)"
+     R"((?:ビットコイン|BTC|ETH|イーサ|仮想通貨|暗号資産|USDT|XRP|コイン)[\s\S]{0,50}(?:送[っるれりら]|送金|振り?込|入金|預け|アドレス|投資|ウォレット)[\s\S]{0,50}(?:[2-9２-９]倍|二倍|倍に|倍返|倍の|必ず増|元本保証|確実に)|(?:送[っるれりら]|送金|入金|預け|投資)[\s\S]{0,50}(?:ビットコイン|BTC|ETH|イーサ|仮想通貨|暗号資産|USDT|XRP|コイン)[\s\S]{0,50}(?:[2-9２-９]倍|二倍|倍に|倍返|倍の|元本保証)|)"
+     R"((?:비트코인|이더리움|코인|BTC|ETH|USDT|테더|리플|에어드랍|가상 ?화폐|지갑)[\s\S]{0,50}(?:보내|입금|전송|송금|투자|예치|충전)[\s\S]{0,50}(?:두 ?배|[2-9] ?배|배로|원금 ?보장|확정 ?수익|되돌려)|(?:보내|입금|전송|투자|예치)[\s\S]{0,50}(?:비트코인|이더리움|코인|BTC|ETH|USDT|테더|리플|에어드랍|가상 ?화폐|지갑)[\s\S]{0,50}(?:두 ?배|[2-9] ?배|배로|원금 ?보장|확정 ?수익))"},
+    // Recordings, a sum, and a threat to show them.
+    {"<nudethreat>",
+     R"(\b(?:webcam|ripres[oa]|filmat[oi]|registrat[oa]|nud\w+|intim\w+|salvato\s+tutto|video\w*|screenshot|schermat\w+)\b[\s\S]{0,90}\b(?:bitcoin|postepay|\d+\s?(?:€|euro|dollari)|€\s?\d+|pag\w+|vers\w+|ricarica|\d{3,})\b[\s\S]{0,90}\b(?:oppure|altrimenti|o\s+(?:lo|la|li|mando|invio)|se\s+non|sennò|entro)\b[\s\S]{0,90}\b(?:mando|invi\w+|pubblic\w+|diffond\w+|amici|parenti|colleghi|contatti|famiglia)\b|\b(?:webcam|ripres[oa]|filmat[oi]|registrat[oa]|nud\w+|intim\w+|video\w*)\b[\s\S]{0,60}\b(?:(?:se|entro)\b[\s\S]{0,20}\bnon)\b[\s\S]{0,60}\b(?:bitcoin|postepay|\d+\s?(?:€|euro|dollari)|€\s?\d+|pag\w+|vers\w+)\b[\s\S]{0,60}\b(?:mando|mander\w+|invi\w+|pubblic\w+|diffond\w+)\b|)"
+     R"(\b(?:webcam|opgenomen|opname\w*|naakt\w*|naaktfoto\w*|beelden|filmpje\w*|gefilmd|video\w*|screenshots?)\b[\s\S]{0,90}\b(?:betaal\w*|bitcoin|\d+\s*euro|€\s?\d+|overmak\w+|stort|maak)\b[\s\S]{0,90}\b(?:anders|zo\s+niet|of\s+ik|of\s+alles|voordat|als\s+je\s+niet|zoniet)\b[\s\S]{0,90}\b(?:stuur|verspreid\w*|zet|contacten|vrienden|familie|werkgever|iedereen|online|volgers|ouders)\b|\b(?:betaal\w*|bitcoin|\d+\s*euro|€\s?\d+|overmak\w+|stort|maak)\b[\s\S]{0,90}\b(?:anders|zo\s+niet|of\s+ik|of\s+alles|voordat|als\s+je\s+niet|zoniet)\b[\s\S]{0,90}\b(?:stuur|verspreid\w*|zet|contacten|vrienden|familie|werkgever|iedereen|online|volgers|ouders)\b[\s\S]{0,90}\b(?:webcam|opgenomen|opname\w*|naakt\w*|naaktfoto\w*|beelden|filmpje\w*|gefilmd|video\w*|screenshots?)\b|)"
+     R"(\b(?:видео|запис\w+|камер\w+|интимн\w+|ролик\w*|гол\w+|переписк\w+|скрин\w*)\b[\s\S]{0,90}\b(?:перевед\w+|заплат\w+|биткоин\w*|тысяч\w*|долларов|руб\w*|оплат\w+|скинь|кинь)\b[\s\S]{0,90}\b(?:иначе|если\s+не|или\s+(?:я|видео|все|вс[её])|в\s+противном|не\s+заплат\w+|а\s+то)\b[\s\S]{0,90}\b(?:родственник\w*|родител\w+|контакт\w*|коллег\w*|друзь\w+|жен[аеы]|опублик\w+|разошл\w+|отправлю|увид[яи]т|выложу|солью|начальник\w*|подписчик\w*)\b|)"
+     R"((?:裸|不雅|[录錄]下|[录錄]了|[录錄][屏像]|[隐隱]私|私[密照]|通[讯訊][录錄]|果聊|[视視][频頻])[\s\S]{0,50}(?:[转轉打汇匯][\s\S]{0,8}(?:[万萬千百元块塊]|\d{3,}|[过過][来來])|比特[币幣]|USDT|[万萬][元块塊]?|[钱錢]到)[\s\S]{0,50}(?:不[给給打付转轉]|否[则則]|不然|要不|[删刪]|逾[时期時])[\s\S]{0,50}(?:[发發传傳][\s\S]{0,4}(?:[给給到遍])|公[开開]|群[发發]|曝光|散[布播])|(?:裸|不雅|[录錄]下|[录錄]了|[录錄][屏像]|私[密照]|通[讯訊][录錄])[\s\S]{0,50}(?:[发發传傳][\s\S]{0,4}(?:[给給到遍])|公[开開]|群[发發]|曝光|散[布播])[\s\S]{0,50}(?:[转轉打汇匯][\s\S]{0,8}(?:[万萬千百元块塊]|\d{3,}|[过過][来來])|比特[币幣]|USDT|[万萬])|)"
+     R"((?:録画|撮った|撮影|裸|アダルト|恥ずかし|自慰|わいせつ|性的|動画|画像|ビデオ通話)[\s\S]{0,60}(?:ばらま|バラま|拡散|晒[しすさ]|送りつけ|公開(?:する|され|します)|送信(?:する|します)|流す|流し)[\s\S]{0,60}(?:万円?|振り?込|支払|払[いわえ]|ビットコイン|BTC|電子マネー|USDT)|(?:録画|撮った|撮影|裸|アダルト|恥ずかし|自慰|わいせつ|性的|動画|画像|ビデオ通話)[\s\S]{0,60}(?:万円?|振り?込|支払|払[いわえ]|ビットコイン|BTC|電子マネー|USDT)[\s\S]{0,60}(?:(?:ない(?:と|なら|場合)|なければ|なかったら|嫌なら|いやなら|たくな)[\s\S]{0,24}(?:ばらま|拡散|晒|送りつけ|公開|送信|家族|友人|会社))|)"
+     R"((?:영상|녹화|동영상|사진|몸캠|알몸|자위|나체|카메라|웹캠|캡처|화상)[\s\S]{0,60}(?:만 ?원|입금|송금|비트코인|이체|현금|돈)[\s\S]{0,60}(?:유포|뿌리|뿌린|퍼뜨|퍼트|공개(?:한|하겠|할|된)|전송(?:한|하겠|할|된)|돌린다|보낸다|보내겠|까발)|(?:영상|녹화|동영상|사진|몸캠|알몸|자위|나체|카메라|웹캠|캡처|화상)[\s\S]{0,60}(?:유포|뿌리|뿌린|퍼뜨|퍼트|공개(?:한|하겠|할|된)|전송(?:한|하겠|할|된)|돌린다|보낸다|보내겠|까발)[\s\S]{0,60}(?:만 ?원|입금|송금|비트코인|이체|현금|돈))"},
+    // A home that cannot be seen, and a deposit for it.
+    {"<keysbypost>",
+     R"(\b(?:appartamento|bilocale|monolocale|trilocale|casa\s+vacanze|stanza|affitto|alloggio|camera\s+singola|villetta)\b[\s\S]{0,120}\b(?:estero|dublino|londra|non\s+faccio\s+visite|senza\s+visita|altri\s+interessati|altre\s+(?:persone|richieste)|fuori\s+dal\s+sito|missione|trasferit\w+|prima\s+di\s+vederl\w+|lavoro\s+a|bloccar\w+|ultima\s+settimana|vivo\s+(?:a|in)|non\s+posso\s+(?:far|mostrar)\w*)\b[\s\S]{0,120}\b(?:caparra|mensilità|anticip\w+|deposito|acconto|cauzione)\b|\b(?:appartamento|bilocale|monolocale|trilocale|casa\s+vacanze|stanza|affitto|alloggio|camera\s+singola|villetta)\b[\s\S]{0,120}\b(?:caparra|mensilità|anticip\w+|deposito|acconto|cauzione)\b[\s\S]{0,120}\b(?:(?:chiavi)\b[\s\S]{0,30}\b(?:corriere|spedi\w+|posta|arriv\w+|pacco)|spedi\w+\b[\s\S]{0,12}\bchiavi|fuori\s+dal\s+sito|o\s+la\s+do\s+ad\s+altri|entro\s+stasera|postepay)\b|)"
+     R"(\b(?:appartement|kamer|studio|woning|huurwoning|huis|huurhuis|bezichtig\w+)\b[\s\S]{0,110}\b(?:buitenland|momenteel\s+in|woon\s+(?:ik\s+)?(?:momenteel|nu)|wonen\s+in|veel\s+(?:interesse|reacties|aanvragen)|andere\s+(?:mensen|kandidaten|ge\w+)|reserver\w+|na\s+betaling|verhuisd|overgeplaatst|niet\s+(?:zelf\s+)?(?:laten\s+zien|bezichtig\w+|aanwezig)|voor\s+mijn\s+werk|expat)\b[\s\S]{0,110}\b(?:borg|borgsom|aanbetaling|eerste\s+maand|waarborgsom|voorschot|vooruit\w*|maand\s+huur)\b|\b(?:appartement|kamer|studio|woning|huurwoning|huis|huurhuis|bezichtig\w+)\b[\s\S]{0,110}\b(?:borg|borgsom|aanbetaling|eerste\s+maand|waarborgsom|voorschot|vooruit\w*|maand\s+huur)\b[\s\S]{0,110}\b(?:sleutels?\b[\s\S]{0,30}\b(?:post|koerier|aangetekend|opgestuurd|pakket\w*|dhl|stuur)|airbnb|booking|buitenland)\b|)"
+     R"((?:房子|房[间間源]|公寓|套房|雅房|[单單][间間]|[整合]租|精[装裝]|押一付|出租|[租月][金]|[看租]房|一居|[两兩]居|学区|民宿)[\s\S]{0,50}(?:[国國]外|外[地派]|出差|海外|没法|沒法|[没沒]空|[排][队隊]|[好很][几多幾][个個]?人|[好几六七][个個位]|不能看|[无無]法[带看帶]|[抢搶]手|今天[约約]|先到先得|疫情)[\s\S]{0,50}(?:先[转轉付交打][\s\S]{0,10}(?:\d|[订訂定押]|[元块塊])|[订訂定]金|押金|[转轉]\s?\d{3,}|[锁鎖]房|保留)|(?:房子|房[间間源]|公寓|套房|雅房|[单單][间間]|[整合]租|精[装裝]|押一付|出租|[租月][金]|[看租]房|一居|[两兩]居|学区|民宿)[\s\S]{0,40}(?:先[转轉付交打][\s\S]{0,10}(?:\d|[订訂定押]|[元块塊])|[订訂定]金|押金|[转轉]\s?\d{3,}|[锁鎖]房|保留)[\s\S]{0,40}(?:[钥鑰]匙[\s\S]{0,8}(?:寄|快[递遞])|密[码碼]|[国國]外|出差|看房前|不[满滿]意)|)"
+     R"((?:部屋|物件|アパート|マンション|賃貸|ワンルーム|内見|家賃|入居|1K|1LDK)[\s\S]{0,50}(?:海外|転勤|出張|遠方|不在|他に(?:も)?|希望者|問い?合わせ|人気|押さえ|確保|先着|キープ|内見でき|勝手に|立ち会)[\s\S]{0,50}(?:先に|手付|予約金|前家賃|保証金|内金|デポジット|PayPay|前払い|敷金を?(?:先|振|送))|(?:部屋|物件|アパート|マンション|賃貸|ワンルーム|内見|家賃|入居|1K|1LDK)[\s\S]{0,50}(?:手付金?|予約金|前家賃|内金|デポジット|敷金|保証金)[\s\S]{0,50}(?:鍵を?(?:郵送|送|宅配)|暗証番号|海外|内見の?前|見る前|他の方)|)"
+     R"((?:원룸|투룸|오피스텔|월세|전세|자취방|매물|풀옵션|방 ?아직|빈 ?방|셰어|단기 ?임대|집주인)[\s\S]{0,60}(?:해외|외국|출장|지방|타지|못 ?보여|비대면|보러 ?오|많아서|문의가|선착순|대기자|비밀 ?번호|예약자)[\s\S]{0,60}(?:(?:가계약금|계약금|예약금|선입금|보증금|만 ?원)[\s\S]{0,16}(?:먼저|보내|입금|송금|걸어|주시|주셔))|(?:원룸|투룸|오피스텔|월세|전세|자취방|매물|풀옵션|방 ?아직|빈 ?방|셰어|단기 ?임대|집주인)[\s\S]{0,60}(?:(?:가계약금|계약금|예약금|선입금|보증금)[\s\S]{0,16}(?:먼저|보내|입금|송금|걸어))[\s\S]{0,60}(?:해외|비대면|비밀 ?번호|외국|택배로|도어락))"},
+    // A market place, a detour around it, and a payment.
+    {"<buyerfraud>",
+     R"(\b(?:interessat[oa]|annuncio|subito\.it|marketplace|vinted|venditore|compratore|articolo|oggetto|macchina|bici\w*|divano|acquist\w+)\b[\s\S]{0,110}\b(?:postamat|sportello|bancomat|atm|link|qr|mio\s+corriere|fuori\s+(?:dalla\s+)?(?:piattaforma|app|sito))\b[\s\S]{0,110}\b(?:ricarica|carta|accredit\w+|dati|numero|bonifico|anticip\w+)\b|)"
+     R"(\b(?:marktplaats|vinted|ophalen|verkoper|koper|advertentie|spullen|verzenden|tweedehands)\b[\s\S]{0,90}\b(?:link|linkje|gelijk\s+oversteken|1\s+cent|een\s+cent|koerier|verificatie|verifi\w+|qr-?code|ophalen\s+(?:kan\s+niet|gaat\s+niet|lukt\s+niet)|kan\s+niet)\b[\s\S]{0,90}\b(?:rekening|betaling|betalen|kaart\w*|bankgegevens|overmaken|storten|vooraf|vooruit\w*|na\s+betaling)\b|)"
+     R"((?:[闲閒][鱼魚]|二手|[卖賣][家场場]|[买買]家|蝦皮|虾皮|旋[转轉]|拍下|[赚賣]貨便|好[卖賣]\+?|下[单單]|付不了)[\s\S]{0,40}(?:客服|[扫掃][码碼这這]|二[维維][码碼]|[链連][接结結]|[认認][证證]|[激]活|[冻凍][结結]|[签簽]署|[开開]通|[异異]常)[\s\S]{0,40}(?:保[证證]金|激活|解[冻凍]|[转轉][账帳]|交\s?\d|[银銀]行卡|[签簽]署|[银銀]行[账帳])|)"
+     R"((?:メルカリ|フリマ|ラクマ|ヤフオク|出品|落札|ジモティー|購入希望|コメント(?:を)?見)[\s\S]{0,60}(?:サイト外|直接(?:取引|振り?込|やり)|LINEで|手数料(?:が|も)?かから|アプリ外|QRコード|個人間|別の?サイト|リンク)[\s\S]{0,60}(?:先に|振り?込|カード(?:番号|情報)|口座|送金|保証金|前払い)|)"
+     R"((?:안전 ?(?:결제|거래)|네이버 ?페이|당근 ?페이|번개 ?페이|직거래)[\s\S]{0,50}(?:링크|주소|사이트|카톡|톡으로|택배로)[\s\S]{0,50}(?:입금|결제|송금|카드|선입금)|(?:수수료[\s\S]{0,16}(?:빠|누락|안 ?들|미포함|포함|별도))[\s\S]{0,40}(?:다시|재입금|재송금|전체|한 ?번 ?더)[\s\S]{0,40}(?:입금|넣|송금|환불))"},
+    // A device that is infected, and a number to call or a program to install.
+    {"<sickpc>",
+     R"(\b(?:(?:computer|pc|telefono|windows|microsoft|dispositivo|modem|cellulare|android|iphone)\b(?![\s\S]{0,160}\b(?:mai|truffator[ei]|fals[io]|riagganci\w+|diffida\w+|112|truff[ae])\b))\b[\s\S]{0,80}\b(?:virus|infett\w+|infezione|hacker|malware|attività\s+sospett\w+|trojan|compromess\w+|spyware)\b[\s\S]{0,80}\b(?:chiam\w+|install\w+|scaric\w+|anydesk|teamviewer|assistenza|remoto|operatore|tecnico|pulsante)\b|)"
+     R"(\b(?:(?:computer|pc|laptop|telefoon|microsoft|windows|apparaat)\b(?![\s\S]{0,160}\b(?:nooit|waarschuw\w+|nepagent\w*|oplichters?|trap\s+er)\b))\b[\s\S]{0,80}\b(?:virus\w*|besmet|gehackt|spyware|malware|geïnfecteerd|hackers?|trojan|ransomware)\b[\s\S]{0,80}\b(?:bel|bellen|belt|monteur|op\s+afstand|anydesk|teamviewer|installeer\w*|helpdesk|technicus|\d{3,4}[- ]\d{3,})\b|)"
+     R"((?:[苹蘋]果|微[软軟]|Windows|[电電][脑腦]|手[机機]|系[统統]|iCloud|Apple|[设設][备備]|Microsoft(?![\s\S]{0,120}(?:都?是[诈詐]|[骗騙]子|96110|\b165\b|切勿|[谨謹]防|警惕|不[会會]要求|[绝絕]不[会會]|受[骗騙]|不[会會](?:通[过過]|以)|呼[吁籲]|[防被][诈詐]?[骗騙])))[\s\S]{0,50}(?:病毒|木[马馬]|外洩|泄露|洩漏|入侵|感染|[黑駭骇]客|[勒][索]|[恶惡]意)[\s\S]{0,50}(?:致[电電]|[拨撥]打|[来來][电電]|\d{2,4}-\d{3,4}|[远遠]程|[远遠]端|AnyDesk|TeamViewer|[下][载載]|工程[师師]|技[术術])|)"
+     R"((?:(?:パソコン|PC|コンピュータ|Windows|ウィンドウズ|マイクロソフト|スマホ|端末|iPhone|Microsoft)(?![\s\S]{0,140}(?:注意喚起|ご?注意ください|ことは(?:絶対に)?ありません|詐欺が|不審な電話|手口|騙され|だまされ)))[\s\S]{0,50}(?:ウイルス(?!対策)|ウィルス|感染|危険な|トロイ|ハッキング|ハッカー|不正アクセス|マルウェア|スパイウェア|個人情報が)[\s\S]{0,50}(?:電話|サポート|遠隔|ソフトを?(?:入|ダウン)|インストール|ダウンロード|\d{2,4}-\d{2,4}-\d{3,4}|プリペイド|AnyDesk|技術者)|)"
+     R"((?:(?:컴퓨터|PC|휴대폰|스마트폰|윈도우|마이크로소프트|애플|기기|노트북|핸드폰)(?![\s\S]{0,140}(?:사칭|주의하|보이스 ?피싱|조심|속지|의심|신고하|않습니다|예방)))[\s\S]{0,50}(?:바이러스|랜섬|악성|해킹|감염|트로이|스파이웨어|해커)[\s\S]{0,50}(?:전화|고객 ?(?:지원|센터)|\d{2,4}-\d{3,4}-\d{4}|원격|설치|다운|기사|엔지니어|기술자))"},
+    // Illness or disaster, haste, and a private way to pay.
+    {"<sickchild>",
+     R"(\b(?:malat[oai]|tumore|leucemia|bambin\w+|terremoto|guerra|operazione|orfan\w+|cancro|poveri|cure|trapianto)\b[\s\S]{0,120}\b(?:postepay|bitcoin|ricarica|paypal|conto\s+(?:personale|di\s+\w+)|suoi\s+dati|spese\s+(?:legali|di\s+trasferimento|notarili)|milion[ei]|crypto|carta\s+prepagata)\b[\s\S]{0,120}\b(?:subito|oggi|urgent\w+|condivid\w+|entro|disperat\w+|aiut\w+|spese|poveri|fretta|dati)\b|)"
+     R"(\b(?:ziekte|kanker|operatie|medicijn\w*|behandeling|aardbeving|oorlog|vluchteling\w*|leukemie|brand|ziekenhuis|wees\w*)\b[\s\S]{0,110}\b(?:rekening\s+van|rechtstreeks|bitcoin|cadeaukaart\w*|tikkie|paypal|western\s+union|privérekening|crypto)\b[\s\S]{0,110}\b(?:vandaag|deel|delen|nog\s+maar|dringend|spoed|liefst|sterft|snel|nu|help)\b|)"
+     R"((?:白血病|癌|[重绝絕]症|[车車][祸禍]|手[术術]|[昏]迷|ICU|重病|[灾災]民?|地震|孤[儿兒]|[难難]民|心[脏臟]病|救救)[\s\S]{0,60}(?:[凑湊]|不[够夠]|停[药藥]|急需|[来來]不及|最[后後]|[求请請]|[帮幫]|太慢|捐)[\s\S]{0,60}(?:[转轉打汇匯][\s\S]{0,6}(?:个人|個人|私人|我的?|下面|微信|支付[宝寶]|卡)|[个個]人[\s\S]{0,4}(?:[账帳卡微]|收款)|比特[币幣]|USDT|[扫掃][码碼]|收款[码碼]|下面的?卡)|)"
+     R"((?:難病|癌|がん|白血病|手術|移植|被災|余命|治療費|孤児|保護犬|殺処分|心臓病|避難民)[\s\S]{0,60}(?:時間が(?:ない|ありません)|拡散|助けて|間に合|足りま|足りな|一口|お願い|急いで|今日中)[\s\S]{0,60}(?:ビットコイン|個人(?:の)?口座|PayPay|仮想通貨|ギフト|電子マネー|アドレス|この口座|下記の?口座|直接)|(?:難病|癌|がん|白血病|手術|移植|被災|余命|治療費|孤児|保護犬)[\s\S]{0,60}(?:ビットコイン|個人(?:の)?口座|PayPay|仮想通貨|ギフト|電子マネー|アドレス|この口座|直接)[\s\S]{0,60}(?:助けて|一口|お願い|拡散|急いで|今日中)|)"
+     R"((?:난민|백혈병|수술|치료비|이재민|지진|희귀병|중환자|고아|유기견|모금|암 ?투병|전쟁)[\s\S]{0,60}(?:(?:비트코인|상품권|핀 ?번호|개인 ?계좌|카카오 ?페이|토스|지갑|엄마 ?계좌|아빠 ?계좌|제 ?계좌)[\s\S]{0,24}(?:기부|후원|보내|송금|입금|이체|도와|부탁)))"},
+    // A subscription, a charge, and a call or card data to stop it.
+    {"<renewal>",
+     R"(\b(?:rinnovo|abbonamento|netflix|mcafee|norton|spotify|iscrizione|prime|disney|antivirus)\b[\s\S]{0,100}\b(?:sospes\w+|addebit\w+|andato\s+a\s+buon\s+fine|\d+\s?(?:€|euro)|€\s?\d+|rifiutat\w+|non\s+riuscit\w+|problema|respint\w+)\b[\s\S]{0,100}\b(?:aggiorn\w+\b[\s\S]{0,20}\b(?:metodo|dati|carta)|chiam\w+\b[\s\S]{0,40}\d{2,}|se\s+non\s+ha\b[\s\S]{0,30}\bchiam\w+)\b|)"
+     R"(\b(?:abonnement|premium|lidmaatschap|verlenging|verlengd|netflix|spotify|disney|norton|mcafee|betaling|incasso)\b[\s\S]{0,90}\b(?:niet\s+innen|mislukt|stopt|geweigerd|opgeschort|afgeschreven|vervalt|in\s+rekening|lukte\s+niet|gestopt|beëindigd)\b[\s\S]{0,90}\b(?:(?:werk|update|vul|wijzig|vernieuw)\b[\s\S]{0,30}\b(?:kaartnummer|betaalgegevens|betaalmethode|beveiligingscode|creditcard|kaartgegevens)|bel\b[\s\S]{0,30}\d{3,}|kaartnummer|beveiligingscode)\b|)"
+     R"((?:[会會][员員]|[订訂][阅閱]|[续續][费費订訂约約保]|自[动動][扣续續]|Netflix|防毒|百[万萬]保障|[扣][款费費]|Spotify|服[务務])[\s\S]{0,50}(?:扣|失[败敗]|[无無]法[处處]理|[终終]止|到期|[开開]通|停[用权權])[\s\S]{0,50}(?:更新[\s\S]{0,10}(?:信用卡|支付|付款|卡[号號]|扣款)|卡[号號]|安全[码碼]|(?:[拨撥]打|致[电電]|[来來]电|联系客服|聯繫客服)[\s\S]{0,12}\d{3}|共享屏幕)|)"
+     R"((?:契約|会員|サブスク|プレミアム|自動更新|年会費|Netflix|プライム|有料|登録料|動画サイト|セキュリティソフト|ウイルス対策)[\s\S]{0,60}(?:引き落と|請求|決済|円|更新され|失敗|停止)[\s\S]{0,60}(?:(?:取り?消|キャンセル|解約|心当たり|覚えのない|ご本人)[\s\S]{0,30}(?:電話|\d{2,4}-\d{2,4}-\d{3,4}|カード(?:番号|情報)|遠隔)|支払い?方法[\s\S]{0,12}(?:更新|変更|再登録))|)"
+     R"((?:연장|구독|갱신|멤버십|정기 ?결제|백신|노턴|맥아피|넷플릭스|해외 ?결제|유튜브 ?프리미엄)[\s\S]{0,50}(?:완료|예정|[\d,]+ ?원|실패|승인|청구)[\s\S]{0,50}(?:(?:본인|직접|신청|결제하지|취소|해지|거부|업데이트|갱신)[\s\S]{0,30}(?:전화|\d{2,4}-\d{3,4}|상담원|고객 ?센터|소비자|링크|카드 ?(?:번호|정보)|결제 ?(?:정보|수단))))"},
+    // A code that is to be passed on.
+    {"<sharedcode>",
+     R"(\b(?:(?:codice|sms|cifre)\b(?![\s\S]{0,80}\b(?:mai|nessuno|non)\b))\b[\s\S]{0,80}\b(?:(?:me|ce)\s+lo|mand\w+mi|gira\w*mi|legg\w+mi|mi\s+(?:legga|dica|mandi|invii|comunichi|giri|leggi|dici)|dettar\w+|dimmi|comunicar\w*i|inoltra\w*)\b|)"
+     R"(\b(?:(?:code|sms|cijfers|tancode|verificatiecode|scannercode|inlogcode)\b(?![\s\S]{0,70}\b(?:nooit|niemand|niet)\b))\b[\s\S]{0,70}\b(?:(?:geeft?|stuurt?|zegt?|leest?|appt?|app|noemt?|stuur|lees)\b[\s\S]{0,25}\b(?:mij|me|ons|door|voor))\b|)"
+     R"((?:(?:[验驗認认][证證][码碼号號]|[四六4-8]位[数數]|[动動][态態][码碼]|OTP|校[验驗][码碼]|一次性[密][码碼]|[简簡][讯訊]|短信)(?![\s\S]{0,30}(?:切?勿|不要|不[得可会會]|[别別]|任何人|他人)))[\s\S]{0,30}(?:告[诉訴]我|[发發传傳念报報回][\s\S]{0,3}[给給到][\s\S]{0,2}(?:我|客服|[这這])|[给給]我|[转轉][发發]|截[个個]?[图圖]|[说說念]一下|[发發][过過來来]|跟我[说說])|)"
+     R"((?:認証(?:番号|コード)|確認コード|SMS|\d桁|[四六]桁|ワンタイム|パスコード|ショートメール)[\s\S]{0,40}(?:(?:教えて|送って|転送して|伝えて|読み上げ|スクショ|返信して|知らせて|貼って|言って)(?![\s\S]{0,8}(?:ない|ません|はいけ|しまい)))|)"
+     R"((?:인증 ?(?:번호|코드)|OTP|보안 ?코드|확인 ?코드|[4-8네섯] ?자리)[\s\S]{0,40}(?:불러 ?(?:주(?!지)|줄|줘)|알려 ?(?:주(?!지)|줘|줄)|보내 ?(?:주(?!지)|줘|줄)|말씀해 ?주(?!지)|캡처|찍어 ?(?:줘|보내)|읽어 ?(?:주|줘)|전달해))"},
+    // A wrong number, and an offer of friendship.
+    {"<wrongname>",
+     R"(\b(?:numero\s+sbagliato|sbagliato\s+(?:numero|persona)|confuso\s+il\s+numero|salvato\s+male|non\s+(?:è\s+lei|sei\s+tu|sei\s+\w+)|ho\s+sbagliato|non\s+ci\s+conosciamo|no\?+)\b[\s\S]{0,110}\b(?:amicizia|conoscer\w+|piacere\s+(?:sono|io)|telegram|simpatic\w+|destino|chiacchier\w+|di\s+dove\s+sei)\b|)"
+     R"(\b(?:verkeerd\w*\s+(?:nummer|persoon)|ben\s+je\s+\w+\s+niet|niet\s+\w+\s+(?:haha|sorry|oeps)|vergist|verkeerd\s+opgeslagen|nummer\s+verkeerd|bent\s+u\s+niet)\b[\s\S]{0,100}\b(?:kennismak\w+|kennis\s+maken|kennis\s+te\s+maken|profielfoto|vrienden\s+(?:worden|zijn)|telegram|leuk\w*\s+(?:je|u)\s+te|waar\s+(?:kom|woon)|toeval|lot)\b|)"
+     R"((?:[发發打加认認存记記弄搞传傳][错錯]|[号號][\s\S]{0,4}[错錯]|[错錯]人|(?:不是|您是|你是|妳是)[\s\S]{0,10}[吗嗎])[\s\S]{0,70}(?:[认認][识識]一?下?|交[个個]?朋友|[缘緣][分份]|聊聊|[个個]朋友|加[个個]?(?:LINE|微信|好友)|[礼禮]貌|有[缘緣]|投[资資]|做[\s\S]{0,6}(?:生意|[贸貿]易))|)"
+     R"((?:間違え|人違い|番号(?:を|が)?(?:間違|違)|違いました|別の方|送り先|お間違い)[\s\S]{0,80}(?:友達に|ご縁|お話しし|ご丁寧な(?:返信|方)|優しい方|仲良く|どちらにお住まい|知り合いに|自己紹介|(?:貿易|投資|デザイン)の仕事|LINEで)|)"
+     R"((?:잘못 ?(?:보|저장|걸|눌|알|줬|적|입력)|번호를? ?착각|아니(?:라고|세요|에요|신가|시군|신데|구나)|실수로|다른 ?분)[\s\S]{0,80}(?:친구 ?(?:해|하|할|될|가 ?되|로 ?지)|친구가 ?없|인연|말투|친절하|라인 ?(?:친구|아이디|추가)|알고 ?지내|대화(?:나|를|해)|어디 ?사))"},
+    // Love, an obstacle, and money to be lent.
+    {"<lovedebt>",
+     R"(\b(?:amore|tesoro|cucciol\w+|ti\s+amo|innamorat\w+|ti\s+penso|sposar\w+|vengo\s+da\s+te|cuore\s+mio|anima\s+gemella)\b[\s\S]{0,120}\b(?:valigia|aeroporto|dogana|diplomatic\w+|visto|volo|treno|biglietto|ospedale|operazione|sfratt\w+|missione|generale|soldato|bloccat[oi]|eredità|piattaforma)\b[\s\S]{0,120}\b(?:ricarica|tassa|prestami|prestarmi|prestito|bonifico|aiutarmi|aiutami|mandami\s+(?:i\s+soldi|soldi|\d+)|mi\s+(?:serv\w+|mancano)|soldi)\b|\b(?:(?:mi\s+)?(?:sfratt\w+|ospedale|operazione|bloccat[oi]))\b[\s\S]{0,120}\b(?:ricarica|prestami|prestarmi|bonifico|mandami\s+(?:soldi|\d+))\b[\s\S]{0,120}\b(?:amore|tesoro|vengo\s+da\s+te|ti\s+amo|cucciol\w+)\b|)"
+     R"(\b(?:schat\w*|liefste|lieverd|verliefd|liefde|gehouden|engel|mijn\s+(?:lief|hart|alles)|ik\s+hou\s+van|trouwen|samen\s+zijn)\b[\s\S]{0,120}\b(?:vlucht|douane|visum|ticket|ziekenhuis|operatie|geblokkeerd|missie|platform|contract|koffer|schiphol|bevroren|erfenis|vliegveld)\b[\s\S]{0,120}\b(?:stuur\s+(?:het|me|mij|geld)|moneygram|western\s+union|lenen|leen|voorschiet\w*|tekort|help\s+me|overmaken|kun\s+je\s+mij|zonder\s+\d+)\b|)"
+     R"((?:[亲親][爱愛]的|[宝寶][贝貝]|我[爱愛]你|[结結]婚|娶你|嫁[给給]|相信你|信你|想和你|[见見]你|[缘緣]分|命中注定|未[来來])[\s\S]{0,80}(?:[维維]和|清[关關]|海[关關]|[冻凍][结結]|机票|機票|[签簽][证證]|周[转轉]|手[术術]|[医醫]院|[项項]目|工地|[军軍]|油田|箱子|包裹|[遗遺][产產]|扣[留押])[\s\S]{0,80}(?:[垫墊]|借我|借[点點]|[帮幫]我[\s\S]{0,6}(?:付|交|[转轉]|出|[缴繳])|[转轉][给給]我|打[给給]我|急需|[还還]你)|)"
+     R"((?:愛し|君だけ|君しか|君が初めて|あなただけ|あなたしか|ずっと一緒|結婚し|運命|大好き|会いたい|恋し|ダーリン|ハニー|信じ(?:られ|て)る?)[\s\S]{0,80}(?:凍結|税関|空港|ビザ|航空券|飛行機|病院|手術|事故|事業|資金|給料|荷物|任務|契約|投資|日本に(?:行|来)|帰国|口座)[\s\S]{0,80}(?:貸して|立て替え|送って(?:くれ|ほし|もら)|助けて(?:くれ|ほし|もら)|振り?込|払って(?:くれ|ほし|もら)|万円?だけ|必ず返)|(?:凍結|税関|空港|ビザ|航空券|飛行機|病院|手術|事故|事業|資金|給料|荷物|任務|契約|投資|日本に(?:行|来)|帰国|口座)[\s\S]{0,80}(?:貸して|立て替え|送って(?:くれ|ほし|もら)|助けて(?:くれ|ほし|もら)|振り?込|払って(?:くれ|ほし|もら)|万円?だけ|必ず返)[\s\S]{0,80}(?:愛し|君だけ|君しか|君が初めて|あなただけ|あなたしか|ずっと一緒|結婚し|運命|大好き|会いたい|恋し|ダーリン|ハニー|信じ(?:られ|て)る?)|)"
+     R"((?:사랑해|사랑하|운명|자기야|보고 ?싶|당신|결혼|허니|달링|그대|인연)[\s\S]{0,80}(?:병원비|수술|공항|세관|통관|비자|항공권|비행기|계좌[\s\S]{0,12}(?:묶|동결|막)|파병|임무|쓰러|사업|투자|유산|짐|월급)[\s\S]{0,80}(?:빌려 ?(?:주|줄|줘)|보내 ?(?:줄|주면|줘)|대신 ?내|도와 ?(?:주|줘)|입금|송금|갚을|만 ?원만)|(?:병원비|수술|공항|세관|통관|비자|항공권|비행기|계좌[\s\S]{0,12}(?:묶|동결|막)|파병|임무|쓰러|사업|투자|유산|짐|월급)[\s\S]{0,80}(?:빌려 ?(?:주|줄|줘)|보내 ?(?:줄|주면|줘)|대신 ?내|도와 ?(?:주|줘)|입금|송금|갚을|만 ?원만)[\s\S]{0,80}(?:사랑해|사랑하|운명|자기야|보고 ?싶|당신|결혼|허니|달링|그대|인연))"},
 }};
 // clang-format on
 
@@ -241,6 +393,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:введите|введи|указав|вводите)\b<25>\b(?:карту|cvv|пароль|логин)\b|)"
      R"((?:输入|輸入|填写|填寫|登[录錄]|[补補][录錄]|重新登[记記])[\s\S]{0,20}(?:卡[号號]|身[份分][证證]|[证證]件|密[码碼]|背面三[码碼])|)"
      R"((?:カード(?:情報|番号)|セキュリティコード|振込口座|社員番号)[\s\S]{0,16}(?:入力|入れて|いれて|更新|登録)|)"
+     R"(<lockout>|)"
      R"((?:카드 ?(?:번호|정보)|계좌 ?비밀번호|주민등록번호)[\s\S]{0,16}(?:입력|등록|제출))"); }),
      true},
     {"cred-suspended", "Credential phishing", "warn", 40,
@@ -271,7 +424,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:conto|carta|postepay|utenza|accesso|profilo|account|home\s+banking)\b<30>\b(?:è\s+stat[oa]|verrà|sarà|risulta)\b<15>\b(?:bloccat|sospes|limitat|disattivat|disabilitat|congelat)[oa]\b<unasked>|\b(?:per\s+)?evitare\s+(?:la\s+|il\s+)?(?:sospensione|blocco|disattivazione|chiusura)\b|\bsblocc(?:are|hi|a)\s+(?:il\s+|la\s+)?(?:suo\s+|tuo\s+|sua\s+)?(?:conto|carta|account)\b|\b(?:abbiamo|è\s+stato)\b<10>\b(?:limitato|sospeso|bloccato|ristretto)\b<20>\b(?:accesso|conto|home\s+banking|carta)\b|\b(?:dati|carta|pagamento)\b[^.!?]{0,25}\b(?:rifiutata|respinta|non\s+riuscito)\b[\s\S]{0,60}\b(?:corregga|aggiorni|verifichi)\b|\b(?:id\s+apple|account\s+google|account|profilo|conto)\b[^.!?]{0,40}\b(?:motivi\s+di\s+sicurezza|attività\s+sospett\w+)\b[^.!?]{0,20}\b(?:bloccato|sospeso|disattivato|limitato)\b|\b(?:id\s+apple|account\s+google|account|profilo|conto)\b[^.!?]{0,25}\b(?:bloccato|sospeso|disattivato|limitato)\b[^.!?]{0,15}\b(?:motivi\s+di\s+sicurezza|attività\s+sospett\w+)\b|)"
      R"(\b(?:cuenta|tarjeta|acceso|banca)\b<20>\b(?:ha\s+sido|fue|ser[áa]|est[áa]|queda)\b<15>\b(?:bloquead|suspendid|restringid|limitad|desactivad|inhabilitad)[oa]s?\b<60>\b(?:seguridad|verific\w+|confirm\w+|motivos|evit\w+|activ\w+|desbloque\w+|regulari\w+)\b|\bno\s+podr[áa]\s+(?:usar|utilizar)\s+(?:su|tu)\s+(?:tarjeta|cuenta|banca)\b|\bdesbloquear\s+(?:su|tu)\s+cuenta\b|\bsuscripci[óo]n\b<20>\b(?:ha\s+caducado|caduc[óo]|ha\s+vencido|venci[óo])\b|\b(?:datos|tarjeta|pago)\b[^.!?]{0,25}\b(?:rechazad[oa]|denegad[oa]|fallado)\b[\s\S]{0,60}\b(?:corrija|actualice|revise)\b|\b(?:id\s+de\s+apple|cuenta\s+de\s+google|cuenta|usuario|perfil)\b[^.!?]{0,40}\b(?:motivos\s+de\s+seguridad|actividad\s+sospechosa|razones\s+de\s+seguridad)\b[^.!?]{0,20}\b(?:bloquead[oa]|suspendid[oa]|desactivad[oa]|limitad[oa])\b|\b(?:id\s+de\s+apple|cuenta\s+de\s+google|cuenta|usuario|perfil)\b[^.!?]{0,25}\b(?:bloquead[oa]|suspendid[oa]|desactivad[oa]|limitad[oa])\b[^.!?]{0,15}\b(?:motivos\s+de\s+seguridad|actividad\s+sospechosa|razones\s+de\s+seguridad)\b|)"
      R"(\b(?:conta|cart[ãa]o|acesso|cpf|cnh|cadastro)\b<20>\b(?:foi|ser[áa]|est[áa]|encontra-se|vai\s+ser)\b<15>\b(?:bloquead|suspens|restrit|limitad|desativad|cancelad|irregular)\w*\b<60>\b(?:seguran[çc]a|atualiz\w+|confirm\w+|regulari\w+|evit\w+|link|valid\w+|horas|agora)\b|\b(?:evitar|evite)\s+(?:o\s+|a\s+)?(?:bloqueio|cancelamento|suspens[ãa]o)\b|\b(?:restringimos|limitamos|bloqueamos|suspendemos)\b<15>\b(?:acesso|conta|cart[ãa]o)\b|\b(?:dados|cart[ãa]o|pagamento)\b[^.!?]{0,25}\b(?:recusad[oa]|rejeitad[oa]|negad[oa])\b[\s\S]{0,60}\b(?:corrija|atualize|verifique)\b|\b(?:id\s+apple|conta\s+google|conta|perfil|usu[áa]rio)\b[^.!?]{0,40}\b(?:motivos\s+de\s+seguran[çc]a|atividade\s+suspeita|raz[õo]es\s+de\s+seguran[çc]a)\b[^.!?]{0,20}\b(?:bloquead[oa]|suspens[oa]|desativad[oa]|limitad[oa])\b|\b(?:id\s+apple|conta\s+google|conta|perfil|usu[áa]rio)\b[^.!?]{0,25}\b(?:bloquead[oa]|suspens[oa]|desativad[oa]|limitad[oa])\b[^.!?]{0,15}\b(?:motivos\s+de\s+seguran[çc]a|atividade\s+suspeita|raz[õo]es\s+de\s+seguran[çc]a)\b|)"
-     R"(\b(?:карта|сч[её]т|аккаунт|кабинет|доступ|кошел[её]к|профиль|учётная\s+запись)\b<25>\b(?:заблокирован\w?|будет\s+заблокирован\w?|приостановлен\w?|ограничен\w?|взломан\w?|арестован\w?)\b[\s\S]{0,80}\b(?:подтверд\w+|ссылк\w+|позвон\w+|свяж\w+|разблок\w+|срочно|перейд\w+|введ\w+|восстанов\w+)\b|\b(?:для|чтобы)\s+(?:разблокировки|разблокировать|снять\s+блокировку|избежать\s+блокировки)\b|\bдоступ\s+к\s+(?:вашему\s+)?(?:онлайн-?банку|кабинету|сч[её]ту|аккаунту)\b<15>\b(?:ограничен|заблокирован|приостановлен)\b|\bкарта\s+отклонена\b<30>\bисправьте\b|\bиначе\b<12>\bзакроют\b|\b(?:id|аккаунт|уч[её]тная\s+запись)\b<12>\bзаблокирован\w?\b<15>\bбезопасности\b|)"
+     R"(\b(?:карт\w+|сч[её]т\w*|аккаунт\w*|доступ|кабинет\w*|вклад\w*|профил\w+)\b[\s\S]{0,60}\b(?:приостановлен\w*|заблокирован\w*|ограничен\w*|заморожен\w*|отключ[её]н\w*|удал[её]н\w*|деактивирован\w*|закро\w+|закры\w+)\b[\s\S]{0,60}\b(?:подтверд\w+|введ\w+|укаж\w+|обнов\w+|пройд\w+|авториз\w+|перейд\w+)\b[\s\S]{0,60}\b(?:парол\w+|паспорт\w*|реквизит\w+|cvv|код\w*|логин\w*|номер\w*\s+карты|личность|данны\w+\s+карты)\b|\b(?:карта|сч[её]т|аккаунт|кабинет|доступ|кошел[её]к|профиль|учётная\s+запись)\b<25>\b(?:заблокирован\w?|будет\s+заблокирован\w?|приостановлен\w?|ограничен\w?|взломан\w?|арестован\w?)\b[\s\S]{0,80}\b(?:подтверд\w+|ссылк\w+|позвон\w+|свяж\w+|разблок\w+|срочно|перейд\w+|введ\w+|восстанов\w+)\b|\b(?:для|чтобы)\s+(?:разблокировки|разблокировать|снять\s+блокировку|избежать\s+блокировки)\b|\bдоступ\s+к\s+(?:вашему\s+)?(?:онлайн-?банку|кабинету|сч[её]ту|аккаунту)\b<15>\b(?:ограничен|заблокирован|приостановлен)\b|\bкарта\s+отклонена\b<30>\bисправьте\b|\bиначе\b<12>\bзакроют\b|\b(?:id|аккаунт|уч[её]тная\s+запись)\b<12>\bзаблокирован\w?\b<15>\bбезопасности\b|)"
      R"((?:[账賬帐帳][户戶号號]|信用卡|[银銀]行卡|网银|網銀|ETC|微信|支付宝|支付寶|[会會]员|[会會]員)[\s\S]{0,14}(?:[异異]常|[冻凍][结結]|停用|限制|[过過]期失效|失效|封停|封[号號])<40>(?:[点點][击擊]|[链連][接結]|登[录入錄]|[认認][证證]|更新|[验驗][证證]|否[则則]|立即|http)|(?:[权權]限|[账賬帐帳][户戶]|[银銀]行)[\s\S]{0,6}(?:已)?被?限制|[续續][费費]失[败敗][\s\S]{0,20}(?:修改|更新)|(?:ID|[账賬帐帳][户戶号號])因安全[\s\S]{0,8}(?:[锁鎖]定|[冻凍][结結]|限制)|)"
      R"((?:アカウント|口座|カード|会員資格|ご利用|取引)[\s\S]{0,16}(?:停止|制限|凍結|規制|失効)[\s\S]{0,40}(?:こちら|下記|ログイン|URL|認証|確認をお願い|更新|手続き|http)|カードが拒否|(?:ID|アカウント|口座)[はが]?安全[\s\S]{0,8}(?:ロック|停止|制限)|)"
      R"((?:인터넷 ?뱅킹|뱅킹|이용|서비스)[\s\S]{0,6}제한되|카드가 ?거절|(?:ID|계정|계좌)[가이]? ?보안[\s\S]{0,8}(?:잠|정지|제한)|)"
@@ -279,6 +432,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:spid|account|conto|carta|profilo)\b<8>\b(?:è|sono|sarà)\s+(?:stat[oa]\s+)?(?:disattivat|bloccat|sospes|limitat)\w\b<unasked>|)"
      R"((?:卡|[账帳賬][户戶号號])[\s\S]{0,16}(?:被限制|限制(?:非[柜櫃]面)?交易|[冻凍][结結])|)"
      R"(アカウントを(?:ロック|停止|制限)|)"
+     R"(<lockout>|)"
      R"((?:출금|계좌|카드|이용)이? ?(?:제한|정지|폐쇄)되)"); }),
      true},
     {"cred-confirm-password", "Credential phishing", "warn", 45,
@@ -362,6 +516,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\breceber\b<60>\b(?:link|liga[çc][ãa]o|cart[ãa]o|qr)\b|\b(?:link|liga[çc][ãa]o|cart[ãa]o)\b<60>\breceber\b|)"
      R"((?:收款|收[钱錢]|到[账賬帳]|入[账帳賬])[\s\S]{0,30}(?:[链鏈][接結结]|二[维維][码碼]|卡[号號])|(?:二[维維][码碼]|[链鏈]接)[\s\S]{0,24}(?:收款|到[账賬帳]|[领領]取)|)"
      R"((?:受け取り|受取|入金)[\s\S]{0,20}(?:リンク|URL|QR|カード)[\s\S]{0,12}(?:入力|読|開)|)"
+     R"(<officialrefund>|)"
      R"((?:대금|돈|금액)[\s\S]{0,10}(?:받으|수령)[\s\S]{0,20}(?:링크|카드|QR)|(?:링크|QR)[\s\S]{0,20}(?:대금|금액|돈)[\s\S]{0,6}(?:받|수령|들어))"); }),
      true},
     {"cred-unusual-signin", "Credential phishing", "warn", 30,
@@ -389,9 +544,10 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:access[oi]|bonifico|transazione|operazione|pagamento|attività|addebito)\b<10>\b(?:anomal[oaie]|sospett[oaie]|non\s+autorizzat[oaie]|insolit[oaie]|fraudolent[oaie])\b|\b(?:nuovo\s+dispositivo)\b<30>\b(?:access\w+|collegat\w+|conto)\b|)"
      R"(\b(?:cargo|compra|transferencia|movimiento|operaci[óo]n|acceso)\b<15>\b(?:no\s+autorizad|sospechos|no\s+reconocid|inusual|irregular)\w*\b|\b(?:alguien|terceros)\b<20>\b(?:intenta|intent[óo]|est[áa]\s+intentando)\b<30>\b(?:cargo|cuenta|acced\w+|compra|transfer\w+)\b|)"
      R"(\b(?:pix|compra|acesso|transa[çc][ãa]o|transfer[êe]ncia|login)\b<25>\b(?:suspeit[oa]|n[ãa]o\s+reconhecid[oa]|n[ãa]o\s+autorizad[oa]|indevid[oa]|estranh[oa])\b|\bse\s+(?:voc[êe]\s+)?n[ãa]o\s+reconhece\b|\bcompra\s+aprovada\b<60>\b(?:ligue|reconhece|cancel\w+)\b|)"
-     R"(\b(?:обнаружен|зафиксирован|выполнен|замечен)\w?\b<15>\b(?:вход|подозрительн\w+|попытк\w+|несанкционированн\w+)\b<60>\b(?:если\s+это\s+не\s+вы|смените|подтвердите|код|отмен\w+|перейдите|позвоните)\b|)"
+     R"(\b(?:подписк\w+|продлен\w*|продлени\w+|автопродлени\w+|тариф\w*|антивирус\w*|плюс|премиум)\b[\s\S]{0,80}\b(?:списан\w*|спишут\w*|снято|оплат\w+|не\s+удалось|приостановл\w*|отключ\w+)\b[\s\S]{0,80}\b(?:позвон\w+|по\s+номеру|оператор\w*|ссылк\w+|данные\s+(?:вашей\s+)?карты|обнов\w+\s+(?:данные|карт\w+|способ)|возврат\w*)\b|\b(?:обнаружен|зафиксирован|выполнен|замечен)\w?\b<15>\b(?:вход|подозрительн\w+|попытк\w+|несанкционированн\w+)\b<60>\b(?:если\s+это\s+не\s+вы|смените|подтвердите|код|отмен\w+|перейдите|позвоните)\b|)"
      R"((?:盗刷|盜刷|[异異]地登[录入錄])[\s\S]{0,20}(?:立即|致[电電]|[拨撥]打|[验驗][证證][码碼]|[点點][击擊])|)"
      R"((?:不正(?:利用|アクセス|に使)|第三者)[\s\S]{0,14}(?:検知|疑い|確認|使われ)|)"
+     R"(<renewal>|)"
      R"((?:새로운|다른) ?기기[\s\S]{0,6}로그인[\s\S]{0,20}(?:링크|변경|즉시|본인이 ?아)|(?:결제|승인|출금)[\s\S]{0,16}본인 ?(?:이)? ?아(?:닐|니)[\s\S]{0,12}(?:문의|연락|전화|인증|신고))"); }),
      true},
     {"cred-session-expire", "Credential phishing", "warn", 25,
@@ -432,7 +588,6 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:stuur|geef|deel)\b<30>\b(?:verificatie|beveiligings|sms-?)code\b|)"
      R"((?<![勿不别別])(?:把|将|將|告诉|告訴|发送|發送|提供)[^。！？.!?勿不]{0,12}(?:验证码|驗證碼|动态码|動態碼)|)"
      R"((?:認証コード|確認コード|ワンタイムパスワード)<12>(?:教えて|送って|お知らせ|ご返信|転送)|)"
-     R"((?:인증번호|인증\s?코드|보안\s?코드)<10>(?:알려(?!\s?주지|\s?드리지|지)|보내(?!지)|전달(?!하지)|불러)|(?:인증 ?번호|인증 ?코드|6자리)[\s\S]{0,20}(?:불러|알려 ?(?:주세요|줘|주시|달라)|보내 ?(?:주세요|줘|주시)|좀)(?![\s\S]{0,4}(?:마세요|말))|(?:여섯|6|네|4) ?자리 ?(?:숫자|번호)?[\s\S]{0,6}(?:보내|알려 ?줘|불러)|인증 ?번호[\s\S]{0,24}(?:갔을|갔는데)[\s\S]{0,8}알려|문자로 ?온 ?번호를? ?(?:불러|알려)|받으신 ?인증 ?번호를? ?(?:말씀|알려|불러)|)"
      R"(\b(?:nenn|sag|gib|geb|schick|leit|send|les|lies|teil)\w*\b<40>\b(?:tan|code|sms-?code|bestätigungscode|freischaltcode|prüfcode|sechsstellige[nr]?\s+(?:code|nummer|zahl))\b(?!<40>\b(?:niemand|nicht|keinesfalls|nie)\b)|\bcode\b<40>\b(?:per\s+sms|aus\s+versehen|versehentlich)\b<50>\b(?:weiterleiten|schicken|nennen|sagen|geben|durchgeben)\b|\b(?:schick|send|gib|nenn|sag|leite?|teil)\w*\b<30>\b(?:sechs|vier|fünf|6|4)(?:-?stellige\w*)?\s+(?:ziffern|zahlen|code|nummer|stellen)\b|\bsechsstellige[nr]?\s+code\b<40>\b(?:weiterleiten|schicken|geben|sagen)\b|\baus\s+versehen\b<20>\bcode\b|\b(?:bestätigen|nennen|sagen|geben|schicken)\b[^.!?]{0,15}\b(?:code|tan)\b[^.!?]{0,12}\b(?:bekommen\s+haben|erhalten\s+haben|in\s+ihrer\s+app|angekommen)\b|\b(?:sag|nenn|gib|schick|lies|gebt|nennen|geben|schicken)\w*\b<25>\b(?:den|deinen|ihren|mir\s+den)\s+(?:\w+[\s-]?){0,2}(?:code|tan)\b<40>\b(?:sms|bekomm\w*|erhalt\w*|geschickt|gekommen|vor)\b|)"
      R"(\b(?:geef|noem|stuur|zeg|lees|deel)\b<30>\b(?:de\s+|die\s+)?(?:verificatie|beveiligings|sms-?)?code\b<40>\b(?:sms|kreeg|ontv\w+|zojuist|cijfers)\b(?!<25>\bniemand\b)|\bcode\b<30>\b(?:cijfers|per\s+ongeluk|sms)\b<50>\b(?:doorsturen|sturen|geven|noemen)\b|\b(?:stuur|geef|zeg|app)\b<12>\b(?:zes|vier|6|4)\s+(?:cijfers|nummers)\b|\b(?:lees\s+mij|geef\s+mij|noem|zeg)\b<20>\b(?:code|nummer|cijfers)\b<25>\b(?:sms|bericht)\b|\b(?:geef|noem|bevestig|zeg|stuur)\b[^.!?]{0,15}\b(?:code)\b[^.!?]{0,12}\b(?:gekregen|ontvangen|binnenkrijgt)\b|)"
      R"(\b(?:communique[rz]|donne[rz]|envoie|envoye[rz]|transfère|transférer|transmet\w*|dicte[rz]|lis(?:ez)?|indique[rz])\b<30>\bcodes?\b<40>\b(?:sms|reçu|recevoir|vérification|chiffres|texto)\b(?!<30>\bpersonne\b)|\bcode\b<30>\b(?:chiffres|sms|vérification|par\s+erreur)\b<40>\b(?:transférer|renvoyer|envoyer|donner|me\s+le)\b|\b(?:envoie|envoye[rz]|donne[rz]?|dis|transmets?|transfère)\b<20>\b(?:six|quatre|6|4)\s+(?:chiffres|numéros)\b|\b(?:confirmez|donnez|dites|lisez|communiquez)\b[^.!?]{0,15}\b(?:code)\b[^.!?]{0,12}\b(?:vous\s+avez\s+reçu|reçu|vient\s+d[\'’]arriver)\b|)"
@@ -441,22 +596,19 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:confirma|confirme|informe|informa|passa|passar|manda|mande|envia|envie|diga|fala)\b<30>\bc[óo]digo\b<40>\b(?:sms|chegou|receb\w+|verifica[çc][ãa]o|d[íi]gitos|enviamos)\b(?!<25>\bningu[ée]m\b)|\bc[óo]digo\b<30>\b(?:d[íi]gitos|sms|sem\s+querer|por\s+engano)\b<50>\b(?:passar|mandar|enviar|me\s+dizer|encaminhar)\b|)"
      R"(\b(?:назовите|продиктуйте|сообщите|пришлите|перешли\w*|скинь\w*|скажи\w*|отправьте)\b<25>\bкод\w?\b<25>\b(?:смс|sms|из|цифр\w*|сообщени\w+|который)\b(?!<20>\bникому\b)|\bслучайно\b<20>\bкод\b<50>\b(?:перешли|пришли|скинь|отправь)\b|\b(?:скинь|пришли|отправь|назови|продиктуй|скажи)\w*\b<12>\b(?:шесть|четыре|6|4)\s+цифр\w*\b|\bкод\b<50>\bпродиктуй\w*\b|\bпродиктуйте\b<15>\bкод\b|\b(?:пришли\w*|скинь\w*|продиктуй\w*|назовите)\b<15>\bкод\b<20>\b(?:смс|который|придёт|пришёл|пришел)\b|)"
      R"((?:(?:请|請|麻[烦煩]|[把将將])[\s\S]{0,20}|发|發)(?:短信)?[验驗][证證][码碼][\s\S]{0,16}(?:告[诉訴]我|[发發][给給]我|提供[给給]|[报報][给給]|[转轉][发發][给給]|念[给給])|(?:[六四6４４]|六位|四位)[个個位]?(?:[数數]字|[号號][码碼])[\s\S]{0,4}(?:[发發][给給]?我|告[诉訴]我|[报報][给給]我)|)"
-     R"((?:認証コード|認証番号|6桁の番号|確認コード)[\s\S]{0,30}(?:教えてもら|教えてくだ|返信して|送って|転送)(?![\s\S]{0,4}ない)|(?:六|四|6|4|6)桁の(?:数字|番号|コード)[\s\S]{0,4}(?:を)?(?:送って|教えて|転送)|番号を読み上げて|)"
      R"(\b(?:confermi|mi\s+dia|mi\s+dica|legga|comunichi)\b[^.!?]{0,15}\b(?:codice)\b[^.!?]{0,12}\b(?:arrivat[oa]|ricevut[oa])\b|\b(?:confirme|d[íi]game|deme|env[íi]eme|lea)\b[^.!?]{0,15}\b(?:c[óo]digo)\b[^.!?]{0,12}\b(?:ha\s+llegado|recibido|recibi[óo]|lleg[óo])\b|)"
      R"(\bcode\b<40>[\s\S]{0,3}\b(?:schick\w*|nenn\w*|sag\w*|gib|geben|leit\w*|lies)\b<12>\b(?:mir|uns|ihn)\b|)"
-     R"(\bcode\b<20>[\s\S]{0,3}\b(?:stuur|geef|geeft|lees|app|noem)\b<12>\b(?:die|hem|me|mij|ons)\b|)"
      R"(\b(?:code|chiffres)\b<40>[\s\S]{0,3}\b(?:envo\w+|transmet\w+|donne\w*|renvo\w+|lis\w*|communiqu\w+|dites)\b<8>\b(?:le|moi|nous|la)\b|)"
-     R"(\bcodice\b<40>[\s\S]{0,3}\b(?:me\s+lo|mandam\w+|mand[ai]|inviam\w+|dettam\w+|girm\w+|girami\w*|comunic\w+|legg\w+)\b|)"
      R"(\b(?:c[óo]digo|clave)\b<40>[\s\S]{0,3}\b(?:me\s+l[oa]|p[áa]sam\w+|env[íi]am\w*|d[íi]ga\w*|mand\w+|dict\w+)\b|\breenv[íi]\w+\b<25>\b(?:c[óo]digo|clave)\b|)"
      R"(\b(?:c[óo]digo|numerozinho|n[úu]mero)\s+por\s+(?:mensagem|sms|whatsapp)\b<20>[\s\S]{0,3}\b(?:me\s+(?:passa|manda|envia|diz)|(?:passa|manda|envia|informe)\w*)\b|)"
-     R"(\bкод\b<20>[\s\S]{0,3}\b(?:скинь|пришли\w*|назови\w*|продиктуй\w*|сообщи\w*)\b<8>\b(?:его|мне|сюда|оператору)\b|)"
-     R"((?:[验驗][证證][码碼]|[认認][证證][码碼])[\s\S]{0,16}(?:截[图圖]|[发發]|告[诉訴]|[传傳]|[报報])[\s\S]{0,4}(?:[给給]我|我)|)"
+     R"(\b(?:прид[её]т|смс|sms|голосова\w+|проголосу\w+|подтвержд\w+|телеграм\w*|войти|авториз\w+|whats\s?app|ватсап\w*|сообщени\w+)\b[\s\S]{0,70}\b(?:код\w*|цифр\w*)\b[\s\S]{0,70}\b(?:скинь\w*|скинуть|пришли\w*|продикту\w+|назови\w*|перешли\w*|отправь\w*|скажи\w*|сообщи(?:те)?\s+(?:его\s+)?(?:мне|нам))\b|\bкод\b<20>[\s\S]{0,3}\b(?:скинь|пришли\w*|назови\w*|продиктуй\w*|сообщи\w*)\b<8>\b(?:его|мне|сюда|оператору)\b|)"
      R"(\b(?:stuur|geef|app|lees|noem)\b<20>\b(?:de|die)\s+(?:\w+\s+)?code\b<40>\b(?:sms|kreeg|krijgt|ontvang\w+|gekregen|binnen)\b|)"
      R"(\b(?:donne\w*|envoie\w*|transfère\w*|dicte\w*|lis\w*|dites|communiqu\w+)\b<20>\b(?:le|ce)\s+(?:code|numéro)\b<40>\b(?:reçu\w*|sms|recevoir|vient|arriv\w+|texto)\b|)"
      R"(\b(?:d[íi]ctem\w*|d[íi]ctam\w*|m[áa]nd[ae]m\w*|env[íi]em\w*|comp[áa]rt\w+)\b<20>\b(?:el|ese)\s+c[óo]digo\b|)"
      R"(\b(?:me\s+(?:manda|passa|envia|dita)|manda-me|diga-me)\b<15>\b(?:o|esse)\s+c[óo]digo\b|)"
      R"((?:把|[报報]|[发發]|[给給])[\s\S]{0,8}(?:[验驗][证證][码碼]|短信[码碼]|[数數]字)[\s\S]{0,6}(?:[给給]我|[报報]|[发發][过過]?[来來]|告[诉訴]我)|收到[\s\S]{0,10}[码碼][\s\S]{0,10}(?:[发發]|[给給]|告[诉訴])(?:[给給])?我|)"
      R"((?:コード|届いた番号|届いた数字)を?[\s\S]{0,6}(?:送って|教えて|転送して)(?:くれ|もらえ|ほしい|ください|欲しい)|)"
+     R"(<sharedcode>|(?:인증번호|인증\s?코드|보안\s?코드)<10>(?:알려(?!\s?주지|\s?드리지|지)|보내(?!지)|전달(?!하지)|불러)|(?:인증 ?번호|인증 ?코드|6자리)[\s\S]{0,20}(?:불러|알려 ?(?:주세요|줘|주시|달라)|보내 ?(?:주세요|줘|주시)|좀)(?![\s\S]{0,4}(?:마세요|말))|(?:여섯|6|네|4) ?자리 ?(?:숫자|번호)?[\s\S]{0,6}(?:보내|알려 ?줘|불러)|인증 ?번호[\s\S]{0,24}(?:갔을|갔는데)[\s\S]{0,8}알려|문자로 ?온 ?번호를? ?(?:불러|알려)|받으신 ?인증 ?번호를? ?(?:말씀|알려|불러)|(?:認証コード|認証番号|6桁の番号|確認コード)[\s\S]{0,30}(?:教えてもら|教えてくだ|返信して|送って|転送)(?![\s\S]{0,4}ない)|(?:六|四|6|4|6)桁の(?:数字|番号|コード)[\s\S]{0,4}(?:を)?(?:送って|教えて|転送)|番号を読み上げて|\bcode\b<20>[\s\S]{0,3}\b(?:stuur|geef|geeft|lees|app|noem)\b<12>\b(?:die|hem|me|mij|ons)\b|\bcodice\b<40>[\s\S]{0,3}\b(?:me\s+lo|mandam\w+|mand[ai]|inviam\w+|dettam\w+|girm\w+|girami\w*|comunic\w+|legg\w+)\b|(?:[验驗][证證][码碼]|[认認][证證][码碼])[\s\S]{0,16}(?:截[图圖]|[发發]|告[诉訴]|[传傳]|[报報])[\s\S]{0,4}(?:[给給]我|我)|)"
      R"((?:코드|문자)[\s\S]{0,10}(?:캡[처쳐]|전달|알려|불러|보내)[\s\S]{0,2}(?:줘|주세요|주시면|줄래))"); }),
      true},
     {"cred-mfa-fatigue", "Credential phishing", "warn", 35,
@@ -768,6 +920,8 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:auditoria|bloquead\w|erro\s+de\s+registro|inativa)\b[\s\S]{0,60}\bnov[oa]\s+(?:iban|conta|pix|nib)\b|)"
      R"([账帳賬][户戶][\s\S]{0,10}(?:[审審][计計]|[冻凍][结結]|[暂暫]停|[稽]核)[\s\S]{0,40}(?:新|另)[\s\S]{0,3}[账帳賬][户戶]|)"
      R"((?:振込先|口座)[\s\S]{0,8}(?:誤り|監査|凍結|利用でき)[\s\S]{0,30}(?:口座|振込先)|)"
+     R"(<newaccount>|)"
+     R"(<newsalary>|)"
      R"(계좌[\s\S]{0,14}(?:중지|감사|동결|사용(?:이|할 ?수) ?(?:없|불가))[\s\S]{0,40}(?:새|신규|다른|아래)[\s\S]{0,4}계좌)"); }),
      true},
     {"bec-update-payment", "Payment redirection", "warn", 50,
@@ -810,7 +964,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:salaire|paie|paye|virement\s+de\s+salaire)\b<40>\b(?:nouve\w+|autre)\s+(?:compte|rib|iban)\b|)"
      R"(\b(?:stipendio|emolumenti|busta\s+paga)\b<50>\b(?:accreditat\w|nuov[oa]|altr[oa]|l[ìi])\b|\b(?:iban|conto|coordinate)\b<40>\b(?:stipendio|emolumenti)\b|)"
      R"(\b(?:iban|nib|conta|pix)\b<25>\b(?:ordenado|vencimento|sal[áa]rio)\b|\b(?:ordenado|vencimento|sal[áa]rio)\b<40>\b(?:nov[oa]|outr[oa])\s+(?:conta|iban|nib|banco)\b|)"
-     R"(\b(?:зарплат\w+|заработн\w+)\b<40>\b(?:нов\w+|друг\w+)\s+(?:карт\w+|счёт|счет|реквизит\w+)\b|\bномер\s+зарплатной\s+карты\b|)"
+     R"(\b(?:зарплат\w+|аванс\w*|преми\w+|оклад\w*)\b(?![\s\S]{0,140}\b(?:лично|стенд\w*|квитанци\w+|при[её]мн\w+|собрани\w+)\b)[\s\S]{0,80}\b(?:нов\w+\s+(?:карт\w+|сч[её]т\w*|реквизит\w+)|сменил\w*\s+банк|друг\w+\s+(?:карт\w+|сч[её]т\w*|банк\w*)|ссылк\w+|[a-z0-9-]+[.](?:ru|com|example|info|site|online))\b[\s\S]{0,80}\b(?:перечисл\w+|измен\w+|логин\w*|номер\w*|парол\w+|выплачен\w*)\b|\b(?:ссылк\w+)\b[\s\S]{0,80}\b(?:логин\w*|парол\w+)\b[\s\S]{0,80}\b(?:зарплат\w+|преми\w+)\b|\b(?:перечисл\w+|начисл\w+|перевод\w+|отправ\w+)\b(?![\s\S]{0,140}\b(?:лично|стенд\w*|квитанци\w+|при[её]мн\w+|собрани\w+)\b)[\s\S]{0,60}\b(?:зарплат\w+|аванс\w*|преми\w+)\b[\s\S]{0,60}\b(?:(?:нов\w+|друг\w+)\s+(?:карт\w+|сч[её]т\w*|реквизит\w+|банк\w*))\b|\b(?:оплат\w+|перечисл\w+|плат[её]ж\w*|перевод\w*|перевести|переведите)\b(?![\s\S]{0,140}\b(?:лично|стенд\w*|квитанци\w+|при[её]мн\w+|собрани\w+)\b)[\s\S]{0,60}\b(?:(?:нов\w+|измен\w+|друг\w+|ины\w+|обновл[её]нн\w+)\s+(?:\w+\s+)?(?:реквизит\w+|сч[её]т\w*))\b|\b(?:(?:реквизит\w+|сч[её]т\w*)\s+(?:измен\w+|поменял\w+|обновл\w+|закрыт\w*|арестован\w*|заблокирован\w*))\b(?![\s\S]{0,140}\b(?:лично|стенд\w*|квитанци\w+|при[её]мн\w+|собрани\w+)\b)[\s\S]{0,60}\b(?:оплат\w+|перечисл\w+|плат[её]ж\w*|перевод\w*|перевести|переведите)\b|\b(?:зарплат\w+|заработн\w+)\b<40>\b(?:нов\w+|друг\w+)\s+(?:карт\w+|счёт|счет|реквизит\w+)\b|\bномер\s+зарплатной\s+карты\b|)"
      R"((?:薪[资資轉转]|工[资資])[\s\S]{0,16}(?:[改换換变變]|重新|新)[\s\S]{0,10}(?:[账帳賬][户戶]|卡)|(?:重新)[\s\S]{0,6}薪[资資轉转]|(?:工[资資]|薪[资資水])[\s\S]{0,10}(?:[发發]到|打到|[换換]|[转轉]到)[\s\S]{0,8}(?:新|[这這]|另)|)"
      R"((?:給与|給料|振込口座)[\s\S]{0,24}(?:再登録|新しい口座|別の口座)|)"
      R"((?:급여|월급)[\s\S]{0,4}(?:통장|계좌)?[\s\S]{0,16}(?:바꿔|아래 ?계좌|새 ?계좌)|)"
@@ -913,17 +1067,18 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:donazion\w+|aiut\w+|offert\w+)\b[\s\S]{0,60}\b(?:postepay|paysafecard|bitcoin|conto\s+(?:personale|della\s+(?:zia|madre)))\b|\b(?:contanti|gioielli|oro)\b<40>\b(?:passa|ritir\w+|avvocato|ragazzo|corriere)\b|\bdai\s+al\s+ragazzo\b|)"
      R"(\b(?:ayud\w+|donaci\w+|damnificad\w+)\b[\s\S]{0,60}\b(?:bizum|cuenta\s+(?:personal|a\s+nombre)|n[úu]mero\s+personal|bitcoin|depositen)\b|\b(?:junte|prepare|entregue)\b<25>\b(?:efectivo|joyas|dinero)\b|)"
      R"(\bpix\s+no\s+nome\b|)"
-     R"(\b(?:приют|малыш\w*|лечени\w+|операци\w+)\b[\s\S]{0,60}\b(?:на\s+карту\s+(?:куратор\w*|мам\w+|тёт\w+|врач\w+|волонт\w+))\b|)"
+     R"(\b(?:лейкоз\w*|рак|операци\w+|больн\w+|клиник\w+|спасти|болезн\w+|лечени\w+|погорел\w+|реанимаци\w+|опухол\w+)\b[\s\S]{0,90}\b(?:не\s+хватает|срочно|до\s+завтра|помогите|последн\w+|не\s+проходите|умол\w+|отказал\w+)\b[\s\S]{0,90}\b(?:на\s+карту|карт[уаы]\s+(?:\w+)|репост\w*|каждый\s+рубль|сбербанк\w*|криптокошел\w+|по\s+номеру\s+телефона)\b|\b(?:платн\w+\s+(?:дорог\w+|участ\w+|проезд\w*)|транспондер\w*|штраф\w*|гибдд|проезд\w*|парковк\w+|цкад|автодор\w*|трасс\w+)\b[\s\S]{0,70}\b(?:задолженност\w+|не\s*оплачен\w*|долг\w*|просрочен\w*|неоплаченн\w+)\b[\s\S]{0,70}\b(?:ссылк\w+|cvv|номер\s+карты|пристав\w+|иначе|удво\w+|qr|[a-z0-9-]+[.](?:ru|com|example|info|site|online))\b|\b(?:задолженност\w+|неоплаченн\w+|долг)\b[\s\S]{0,50}\b(?:платн\w+\s+(?:дорог\w+|участ\w+)|проезд\w*|штраф\w*|парковк\w+)\b[\s\S]{0,50}\b(?:ссылк\w+|cvv|номер\s+карты|пристав\w+|иначе|qr)\b|\b(?:приют|малыш\w*|лечени\w+|операци\w+)\b[\s\S]{0,60}\b(?:на\s+карту\s+(?:куратор\w*|мам\w+|тёт\w+|врач\w+|волонт\w+))\b|)"
      R"((?:好心人|救救|白血病|手[术術][费費])[\s\S]{0,60}(?:[个個]人微信|下面的卡|微信[转轉]|[转轉]到|支付[宝寶])|)"
      R"((?:手術|難病|募金|寄付)[\s\S]{0,50}(?:ビットコイン|ギフト券|個人口座|PayPay)|)"
      R"((?:모금|후원금?|기부|난민|수술)[\s\S]{0,50}(?:비트코인|핀번호|상품권|개인 ?계좌)|(?:기부|후원|성금|수해|고아|환자)[\s\S]{0,40}(?:코인|비트코인|상품권|제 ?계좌|카톡 ?송금)|)"
+     R"(<unpaidtoll>|(?:捐款|捐助|[爱愛]心|[灾災][区區民]|[孤]儿|手[术術]|重病)[\s\S]{0,40}(?:比特[币幣]|[礼禮]品卡|[个個]人[账帳賬]?[户戶]|USDT|微信[转轉]|私人)|)"
+     R"(<sickchild>|)"
      R"(\b(?:operation|waisen\w*|tierheim|flut\w*|erdbeben|flüchtling\w*|krank\w*|krebs)\b[\s\S]{0,60}\b(?:bitcoin|paypal|gutschein\w*|privat\w*konto|western\s+union|wallet)\b|)"
      R"(\b(?:operatie|wezen|asiel|overstroming|aardbeving|vluchtelingen|ziekte|kanker)\b[\s\S]{0,60}\b(?:bitcoin|tikkie|paypal|cadeaukaart\w*|rekening\s+van|western\s+union)\b|)"
      R"(\b(?:opération|orphelin\w*|refuge|inondation\w*|séisme|réfugiés|cancer|malade)\b[\s\S]{0,60}\b(?:bitcoin|paypal|pcs|coupons?|mandat|western\s+union|portefeuille)\b|)"
      R"(\b(?:operazione|orfan\w+|rifugio|alluvione|terremoto|profughi|malat\w|cancro)\b[\s\S]{0,60}\b(?:bitcoin|postepay|paypal|ricarica|western\s+union|iban\s+personale)\b|)"
      R"(\b(?:operaci[óo]n|hu[ée]rfan\w+|refugio|inundaci\w+|terremoto|refugiados|enferm\w|c[áa]ncer|protectora)\b[\s\S]{0,60}\b(?:bitcoin|bizum|paypal|tarjetas?\s+regalo|western\s+union|nequi|mi\s+cuenta)\b|)"
-     R"(\b(?:cirurgia|[óo]rf[ãa]os?|abrigo|enchente\w*|terremoto|refugiados|doente|c[âa]ncer|inje[çc][ãa]o|canil)\b[\s\S]{0,60}\b(?:bitcoin|pix|mb\s?way|vaquinha|conta\s+(?:pessoal|d[aeo]))\b|)"
-     R"((?:捐款|捐助|[爱愛]心|[灾災][区區民]|[孤]儿|手[术術]|重病)[\s\S]{0,40}(?:比特[币幣]|[礼禮]品卡|[个個]人[账帳賬]?[户戶]|USDT|微信[转轉]|私人))"); }),
+     R"(\b(?:cirurgia|[óo]rf[ãa]os?|abrigo|enchente\w*|terremoto|refugiados|doente|c[âa]ncer|inje[çc][ãa]o|canil)\b[\s\S]{0,60}\b(?:bitcoin|pix|mb\s?way|vaquinha|conta\s+(?:pessoal|d[aeo]))\b)"); }),
      true},
     {"bec-invoice-attached", "Payment redirection", "warn", 15,
      "sends an invoice or a payment document to open",
@@ -964,6 +1119,7 @@ constexpr auto table = std::to_array<Rule>({
      R"((?:您|你)的?(?:欠款|[贷貸]款|[账賬帐帳][单單]|通行[费費])[\s\S]{0,6}(?:已)?逾期|(?:[违違]章|欠[费費])[\s\S]{0,8}(?:未[处處缴繳]|\d)|自[动動]扣[费費][\s\S]{0,14}(?:取消|[关關][闭閉])[\s\S]{0,6}(?:[联聯][系繫]|客服)|)"
      R"((?:未納料金|未払い料金|支払いに失敗|お支払いに失敗|滞納)[\s\S]{0,10}(?:が|し|お|ござ)|)"
      R"((?:미납|연체)[\s\S]{0,6}(?:금액|안내|[\d,]{3,}원)[\s\S]{0,30}(?:부과|납부|확인)|결제[\s\S]{0,4}실패[\s\S]{0,30}(?:해지|업데이트)|)"
+     R"(<unpaidtoll>|)"
      R"(\b(?:invoice|bill|payment|balance|statement|instal\w+)\b<30>\b(?:has|have|was|were|is|are)\s+(?:still\s+)?(?:not|n['’]t|never)\s+(?:yet\s+)?(?:been\s+)?(?:settled|paid|received|cleared|credited)\b<40>\b(?:due|days|weeks|ago|deadline|reminder|although|books)\b|\baccording\s+to\s+our\s+(?:books|records|ledger)\b<40>\b(?:owe|owing|due|unpaid|not\s+(?:been\s+)?(?:settled|paid)|open)\b)"); }),
      true},
     {"bec-ceo-request", "Payment redirection", "warn", 35,
@@ -1122,6 +1278,8 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:te\s+)?(?:devolvo|pago)\s+(?:amanh[ãa]|depois|sexta|logo)\b|\b(?:me\s+falta\w*|preciso\s+de)\b<10>\d{2,}|)"
      R"((?:明天|[过過][两兩]天|[发發]工[资資]|[马馬]上|下[个個]?月)[\s\S]{0,6}[还還](?:你|您)|(?:[帮幫]我|先)[\s\S]{0,6}(?:[转轉][账帳賬]?|[垫墊]|付)[\s\S]{0,8}(?:[块塊元]|\d{3,}|[万萬千])|)"
      R"((?:後で|あとで|来月|明日)[\s\S]{0,4}返(?:す|し)|\d+万[\s\S]{0,8}(?:いる|必要|足りな)|)"
+     R"(<sickchild>|)"
+     R"(<sharedcode>|)"
      R"((?:내일|나중에|다음 ?주|월급날)[\s\S]{0,6}(?:갚|돌려 ?줄|줄게)|\d+만 ?원[\s\S]{0,10}(?:보내|빌려|부쳐|필요))"); }),
      true},
 
@@ -1159,15 +1317,12 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:compr\w+|necesito)\b<50>\b(?:tarjetas?\s+(?:de\s+regalo|regalo|prepago|google\s+play|itunes|steam|amazon)|gift\s+cards?)\b|\bdon[ea]\w*\b<40>\btarjetas?\s+(?:de\s+)?regalo\b|)"
      R"(\b(?:compr\w+|preciso)\b<50>\b(?:cart[õo]es?\s+(?:presente|oferta|google\s+play|itunes|steam)|gift\s+cards?|vales?[- ]presente)\b|)"
      R"(\b(?:купи\w*|приобрети\w*)\b<20>\b(?:подарочн\w+|предоплаченн\w+)\s+(?:карт\w*|сертификат\w*)\b<60>\b(?:код\w*|деньги|верну|партн[её]р\w*|клиент\w*)\b|)"
-     R"((?:[买買]|[购購][买買])[\s\S]{0,14}(?:[礼禮]品卡|[点點][数數]卡|[点點]卡|充值卡|[苹蘋]果卡|遊戲[点點][数數])|(?:[买買]|[购購]|充)[\s\S]{0,8}(?:[礼禮]品卡|[点點]卡|Steam|苹果卡|蘋果卡|[购購]物卡)[\s\S]{0,16}(?:卡密|密[码碼]|拍|[发發][给給])|)"
-     R"((?:コンビニ)?[\s\S]{0,4}(?:iTunes|ギフト|プリペイド|Apple|Amazon|グーグルプレイ|Google ?Play|電子マネー)[\s\S]{0,6}カード?[^。送贈]{0,16}(?:買って|購入|分買|支払)|)"
      R"((?:기프트 ?카드|문화 ?상품권|구글 ?카드|상품권|컬쳐랜드)[\s\S]{0,20}(?:사서|구매|사다|구입)[\s\S]{0,24}(?:번호|핀|사진|보내)|)"
      R"(\b(?:stuur|koop|haal)\b<20>\b(?:paysafecard|cadeaukaart\w*|steam[\s-]?kaart\w*)\b<40>\bcodes?\b|)"
      R"(\b(?:mandi|compr\w+|prend\w+)\b<15>\b(?:paysafecard|carte?\s+(?:regalo|amazon|google|steam))\b<40>\bcodic\w\b|)"
      R"(\b(?:c[óo]mpra\w*|conseguir\w*|obsequi\w+)\b<40>\btarjetas?\b<12>\b(?:amazon|google|apple|steam|regalo)\b|)"
      R"(\bcompr\w+\b<15>\bcart[õo]es[\s-]+(?:presente|oferta)\b|)"
-     R"(\bкуп\w+\b<15>\bкарт\w+\b<15>\b(?:steam|google|apple|пополнени\w+)\b<40>\bкод\b|)"
-     R"((?:アマゾン|Apple|Google|iTunes)?\s?ギフト(?:券|カード)[\s\S]{0,14}(?:購入|必要|買)[\s\S]{0,24}(?:番号|コード)|)"
+     R"(<cardcodes>|(?:[买買]|[购購][买買])[\s\S]{0,14}(?:[礼禮]品卡|[点點][数數]卡|[点點]卡|充值卡|[苹蘋]果卡|遊戲[点點][数數])|(?:[买買]|[购購]|充)[\s\S]{0,8}(?:[礼禮]品卡|[点點]卡|Steam|苹果卡|蘋果卡|[购購]物卡)[\s\S]{0,16}(?:卡密|密[码碼]|拍|[发發][给給])|(?:コンビニ)?[\s\S]{0,4}(?:iTunes|ギフト|プリペイド|Apple|Amazon|グーグルプレイ|Google ?Play|電子マネー)[\s\S]{0,6}カード?[^。送贈]{0,16}(?:買って|購入|分買|支払)|\bкуп\w+\b<15>\bкарт\w+\b<15>\b(?:steam|google|apple|пополнени\w+)\b<40>\bкод\b|(?:アマゾン|Apple|Google|iTunes)?\s?ギフト(?:券|カード)[\s\S]{0,14}(?:購入|必要|買)[\s\S]{0,24}(?:番号|コード)|)"
      R"((?:상품권|기프트 ?카드|핀번호)[\s\S]{0,20}(?:필요|사서|사고|구매)[\s\S]{0,24}(?:핀번호|코드|찍어|보내))"); }),
      true},
     {"gift-card-codes", "Gift card fraud", "warn", 60,
@@ -1277,8 +1432,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\bfa(?:r)?\s+fruttare\b<12>\d<25>\d|)"
      R"(\b(?:met[íi]|puse|invert[íi])\b<15>\d<40>\b(?:me\s+devolvieron|recib[íi]|saqu[ée])\b|)"
      R"(\bdevolver\s+em\s+dobro\b|\b(?:meti|coloquei|investi)\b<12>\d<50>\b(?:tinha|recebi|saquei)\b<12>\d|)"
-     R"(\b(?:отправь\w*|пришли\w*)\b<50>\b(?:в\s+два\s+раза|вдвое|x2|удво\w+)\b|)"
-     R"((?:이더리움|비트코인|코인|지갑)[\s\S]{0,24}(?:두 ?배|2배)[\s\S]{0,6}(?:돌려|드립|지급)|)"
+     R"(<doubling>|\b(?:отправь\w*|пришли\w*)\b<50>\b(?:в\s+два\s+раза|вдвое|x2|удво\w+)\b|(?:이더리움|비트코인|코인|지갑)[\s\S]{0,24}(?:두 ?배|2배)[\s\S]{0,6}(?:돌려|드립|지급)|)"
      R"(\b(?:envoy\w+|dépos\w+|transfér\w+)\b<30>\b(?:btc|eth|bitcoins?|usdt|cryptos?)\b<60>\b(?:double\w*|deux\s+fois)\b|\btransform\w+\s+\d+<20>\ben\s+\d+|)"
      R"(\b(?:invi\w+|mand\w+|deposit\w+)\b<30>\b(?:btc|eth|bitcoin|usdt|cripto\w*)\b<60>\b(?:doppi\w+|raddoppi\w+)\b|\bho\s+(?:messo|investito)\b<12>\d<40>\b(?:prelevato|ricevuto|guadagnat\w)\b|)"
      R"((?:[转轉]|打|[发發]送|存|投)[\s\S]{0,12}(?:BTC|ETH|USDT|比特[币幣]|以太|[币幣])[\s\S]{0,24}(?:[双雙]倍|翻倍|两倍|兩倍|返[还還]))"); }),
@@ -1520,6 +1674,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\bgelukkige\s+winnaar\b|)"
      R"(\b(?:ha\s+resultado\s+ganador|ganaste\w?\b<20>\b(?:camioneta|coche|auto|premio|moto))\b|)"
      R"(\bв\s+числе\b<8>\bпобедителей\b|)"
+     R"(<prizefee>|)"
      R"(抽選で[\s\S]{0,10}当たりました)"); }),
      true},
     {"afee-lottery2", "Advance fee", "warn", 50,
@@ -1564,7 +1719,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\bpunti\b<15>\b(?:scadono|scadranno|in\s+scadenza)\b|\b(?:credito|punti|saldo|bonus)\b[^.!?]{0,40}\b(?:svanisce|scade|scadono|sparisce)\b[^.!?]{0,40}\b(?:ritiri|riscatti|prenda|converta)\b[^.!?]{0,20}\b(?:regalo|premio|buono)\b|)"
      R"(\bpuntos\b<25>\b(?:vencen|caducan|expiran|vencer[áa]n)\b|\b(?:saldo|puntos|cr[ée]dito|bono)\b[^.!?]{0,40}\b(?:desaparece|caduca\w*|vence\w*|se\s+pierde)\b[^.!?]{0,40}\b(?:recoja|canjee|retire|reclame)\b[^.!?]{0,20}\b(?:regalo|premio|vale)\b|)"
      R"(\b(?:pontos|milhas)\b<20>\b(?:expiram|vencem|expira|ser[ãa]o)\b|\bresgate\b<20>\b(?:agora|pontos|pr[êe]mio|hoje|j[áa])\b|\b(?:saldo|pontos|cr[ée]dito|b[óo]nus)\b[^.!?]{0,40}\b(?:desaparece|expiram?|vencem?|ser[áa]\s+perdido)\b[^.!?]{0,40}\b(?:levante|resgate|retire|troque)\b[^.!?]{0,20}\b(?:prenda|presente|pr[êe]mio|brinde)\b|)"
-     R"(\b(?:бонус\w*|балл\w*|мил\w+)\b<15>\b(?:сгорают|сгорят|аннулиру\w+)\s+(?:сегодня|завтра)\b|\b(?:к[эе]шб[эе]к|баллы|бонусы)\b<25>\b(?:исчезн\w+|сгор\w+)\b<30>\b(?:подарок|заберите|обменя\w+)\b|)"
+     R"(\b(?:выиграл\w*|победител\w+|розыгрыш\w*|приз\w*|дарит|дарим|подарочн\w+|поздравля\w+)\b[\s\S]{0,80}\b(?:оплат\w+|комисси\w+|перечисл\w+|внес\w+|внести|пошлин\w+|взнос\w*)\b[\s\S]{0,80}\b(?:\d+\s?(?:руб\w*|₽|р)|карт\w+|доставк\w+|налог\w*)\b|\b(?:бонус\w*|балл\w*|мил\w+)\b<15>\b(?:сгорают|сгорят|аннулиру\w+)\s+(?:сегодня|завтра)\b|\b(?:к[эе]шб[эе]к|баллы|бонусы)\b<25>\b(?:исчезн\w+|сгор\w+)\b<30>\b(?:подарок|заберите|обменя\w+)\b|)"
      R"([积積]分[\s\S]{0,10}(?:[兑兌][换換]|抵扣)[\s\S]{0,8}(?:[现現]金|\d+元)|(?:[积積]分|[点點][数數]|[红紅]利)[\s\S]{0,16}(?:[过過]期|到期|清零|失效|[兑兌][换換])[\s\S]{0,16}(?:[点點][击擊]|[链連]|清零|[现現]金)|(?:[奖獎][励勵]|[积積]分|[话話][费費])[\s\S]{0,10}(?:失效|清零|[过過]期)[\s\S]{0,8}(?:[领領]取|[兑兌][换換])|)"
      R"(ポイント[\s\S]{0,12}(?:失効|期限切れ|消滅)[\s\S]{0,20}(?:下記|交換|こちら|リンク)|ポイント[\s\S]{0,12}(?:期限|失効)[\s\S]{0,24}(?:商品|ギフト|景品)[\s\S]{0,4}(?:交換|引き換え)|(?:特典|ポイント)[\s\S]{0,14}失効[\s\S]{0,16}(?:景品|受け取)|)"
      R"((?:포인트|마일리지)[\s\S]{0,14}(?:소멸|만료)[\s\S]{0,16}(?:링크|교환|http)|환급금[\s\S]{0,20}(?:조회|신청|소멸)[\s\S]{0,10}(?:링크|않으면|하세요|오늘)|(?:혜택|포인트)[\s\S]{0,14}(?:사라|소멸)[\s\S]{0,14}(?:선물|받아|교환)|)"
@@ -1658,9 +1813,12 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:fissare|sbloccare|ricevere|ritirare|liberare|svincolare|appuntamento|in\s+aeroporto|vuole)\b<40>\b(?:contributo|tassa|spese|versare|oneri|dogana)\b|\b(?:spese\s+legali|tassa\s+di)\b<20>\b(?:trasferimento|sblocco|sdoganamento)\b|)"
      R"(\b(?:abone|pague|deposit[ae]|consign[ae]|transfiera)\b<40>\b(?:seguro|impuesto|papeles|tr[áa]mite|tasas?|gastos)\b<40>\b(?:liberar|traspaso|premio|entrega|retirar|desbloque\w+|recibir\w*|fondos)\b|)"
      R"(\b(?:antecip\w+|pag\w+|deposit\w+|carreg\w+)\b<30>\b(?:seguro|taxa|imposto|custas|desalfandeg\w+|comiss[ãa]o)\b|\bpara\s+libertar\b|\bpara\s+eu\s+passar\b<25>\bpagar\b|\bcarregas\b<15>\bdevolv\w+|)"
-     R"(\b(?:доплат\w+|оплат\w+|пополн\w+|внес\w+)\b<25>\d+<25>\b(?:доставк\w+|выплат\w+|заново|приз\w*|задани\w+|карт\w+)\b|\bпополнить\s+баланс\b|)"
+     R"(\b(?:авито|юл[аеу]|объявлени\w+|продавц\w+|покупател\w+|актуал\w+|коляск\w+|вещ\w+)\b[\s\S]{0,80}\b(?:ссылк\w+|qr|оплатил\w*|безопасн\w+\s+сделк\w+|оформил\w*)\b[\s\S]{0,80}\b(?:карт[уы]|cvv|остаток|получ\w+\s+(?:деньги|оплат\w+|средств\w*)|реквизит\w+|зачисл\w+|баланс\w*|ватсап|whats\s?app)\b|\b(?:посылк\w+|доставк\w+|курьер\w*|отправлени\w+|сдэк|почт\w+|таможн\w+|заказ\w*)\b(?![\s\S]{0,140}\b(?:ничего|бесплатн\w+|мошенник\w+|те,\s+кто)\b)[\s\S]{0,80}\b(?:доплат\w+|оплат\w+|внес\w+|внести|пошлин\w+)\b[\s\S]{0,80}\b(?:\d+(?:[.,]\d+)?\s?(?:руб\w*|₽|р)|сбор\w*|пошлин\w+|повторн\w+)\b[\s\S]{0,80}\b(?:ссылк\w+|ссылочк\w+|введите|cvv|реквизит\w+|номер\s+карты|утилиз\w+|вернут|qr)\b|\b(?:доплат\w+|оплат\w+|пополн\w+|внес\w+)\b<25>\d+<25>\b(?:доставк\w+|выплат\w+|заново|приз\w*|задани\w+|карт\w+)\b|\bпополнить\s+баланс\b|)"
      R"((?:先|只需|需)[\s\S]{0,8}(?:交|付|[转轉]|[缴繳]|[汇匯])[\s\S]{0,10}(?:[费費]|[税稅]|金)[\s\S]{0,14}(?:放款|到[账賬帳]|解[冻凍]|[领領]|激活|提[现現])|(?:交|付)[\s\S]{0,6}保[证證]金|)"
      R"((?:再配達|送料|手数料|税金|保険料)[\s\S]{0,10}(?:円|費用)[\s\S]{0,10}(?:だけ|必要|お?支払|払)|)"
+     R"(<heldparcel>|)"
+     R"(<keysbypost>|)"
+     R"(<buyerfraud>|)"
      R"((?:재배송|재배달|보증료|수수료|통관|배송비)[\s\S]{0,16}(?:원)[\s\S]{0,8}(?:결제|입금|납부|먼저)|전체 ?금액[\s\S]{0,4}다시)"); }),
      true},
     {"afee-million", "Advance fee", "warn", 30,
@@ -1753,12 +1911,13 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:percorso|transit\w+)\b<40>\bsenza\s+pagare\b|\bpedaggi\w\s+non\s+(?:saldat|pagat)\w\b|)"
      R"(\b(?:hacienda|agencia\s+tributaria|sat|dian)\b<80>\b(?:devoluci\w+|reembolso|ingreso)\b|\bdeuda\s+impaga\b|\bpeaje\s+(?:sin\s+(?:pagar|abonar)|impago)\b|)"
      R"(\bpassagem\b<20>\bsem\s+(?:identificador|pagamento)\b|)"
-     R"(\b(?:не\s+оплачен\w*|неоплаченн\w+)\b<12>\b(?:проезд\w*|штраф\w*)\b|)"
+     R"(\b(?:одобрен\w*|положен\w*|начислен\w*)\b[\s\S]{0,110}\b(?:возврат\w*|выплат\w+|компенсаци\w+|вычет\w*|пособи\w+)\b[\s\S]{0,110}\b(?:ссылк\w+|реквизит\w+|номер\s+карты|cvv|код\s+из|данные\s+карт\w*)\b|\b(?:фнс|налог\w*|вычет\w*|возврат\w*|выплат\w+|компенсаци\w+|пособи\w+|субсиди\w+|соцфонд\w*|госуслуг\w*)\b[\s\S]{0,70}\b(?:одобрен\w*|положен\w*|начислен\w*|доступн\w*|можете\s+получить|вправе|не\s+получен\w*)\b[\s\S]{0,70}\b(?:ссылк\w+|реквизит\w+|номер\s+карты|cvv|код\s+из|данные\s+карт\w*|парол\w+|паспорт\w*)\b|\b(?:не\s+оплачен\w*|неоплаченн\w+)\b<12>\b(?:проезд\w*|штраф\w*)\b|)"
      R"((?:通行[费費]|[过過]路[费費]|[罚罰][单單款])[\s\S]{0,12}(?:未|尚未|逾期)|普[发發]|)"
      R"((?:과태료|통행료|범칙금)[\s\S]{0,14}(?:발송|미납|고지)|(?:환급팀|더 ?내신)[\s\S]{0,20}(?:환급|돌려)|)"
      R"(\b(?:finanzamt|elster|bundeszentralamt|rentenversicherung|krankenkasse)\b<80>\b(?:erstattung|rückzahlung|guthaben|nachzahlung|zu\s+viel)\b|)"
      R"(\b(?:expediente|declaraci[óo]n)\s+de\s+la\s+renta\b|\bdevoluciones\s+de\s+hacienda\b|)"
      R"((?:ETC|高速|停[车車]|交通[违違][法章]|[罚罰][单單款])[\s\S]{0,14}(?:未[缴繳处處]|欠[费費]|逾期|失效|[异異]常)|)"
+     R"(<officialrefund>|)"
      R"((?:ETC|高速料金|税金|国税|年金|保険料)[\s\S]{0,16}(?:未払|未納|還付|滞納|差し?押))"); }),
      true},
     {"imp-police", "Impersonation", "warn", 50,
@@ -1785,10 +1944,11 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:polizia|carabinieri|maresciallo|guardia\s+di\s+finanza|procura|interpol|europol|tribunale)\b[\s\S]{0,100}\b(?:indagat[oa]|pedopornografia|mandato|arresto|cauzione|riciclaggio|incidente|gioielli|contanti|denuncia)\b|\b(?:carabinieri|polizia|procura|maresciallo)\b[\s\S]{0,40}\b(?:figli[ao]|nipote|marito)\b<20>\b(?:investito|incidente|ucciso)\b|)"
      R"(\b(?:polic[íi]a|guardia\s+civil|fiscal[íi]a|interpol|ministerio\s+p[úu]blico|juzgado|carabineros)\b[\s\S]{0,120}\b(?:orden\s+de|arresto|detenci[óo]n|blanqueo|lavado|delincuentes|cuenta\s+segura|investigad\w+|denuncia)\b|\b(?:guardia\s+civil|polic[íi]a|fiscal[íi]a|juzgado)\b[\s\S]{0,40}\b(?:hij[ao]|niet[ao]|marido)\b<20>\b(?:atropellado|accidente|citad[oa]\s+por\s+un\s+delito)\b|)"
      R"(\b(?:pol[íi]cia\s+(?:federal|civil|judici[áa]ria)|pj|gnr|minist[ée]rio\s+p[úu]blico|tribunal|justi[çc]a)\b[\s\S]{0,100}\b(?:mandado|pris[ãa]o|lavagem|r[ée]u|intima[çc][ãa]o|investigad\w+)\b|\bvoc[êe]\s+[ée]\s+r[ée]u\b|\b(?:gnr|psp|pol[íi]cia|delegado)\b[\s\S]{0,40}\b(?:filh[ao]|net[ao]|marido)\b<20>\b(?:atropelou|acidente|matou)\b|)"
-     R"(\b(?:это|говорит|беспокоит|вас\s+беспокоит|меня\s+зовут)\b<25>\b(?:майор|капитан|следователь|лейтенант|полковник|сотрудник)\b<15>\b(?:фсб|мвд|полиции|прокуратуры|следственного\s+комитета|росфинмониторинга|скр?)\b|\bкуратор\s+из\b|\bследственн\w+\s+комитет\b<60>\b(?:доверенност\w+|снять\s+деньги|на\s+линии|сч[её]т)\b|\b(?:дочь|сын|внук)\b<12>\b(?:сбил\w?|попал\w?)\b[\s\S]{0,60}\b(?:дел[оа]|тысяч|помощник)\b|)"
+     R"(\b(?:(?:майор|капитан|следовател\w+|лейтенант|полковник|фсб|мвд|полици\w+|прокурат\w+|росфинмониторинг\w*|центробанк\w*|служб\w+\s+безопасности|центральн\w+\s+банк\w*)\b(?![\s\S]{0,160}\b(?:мошенники|бдительн\w+|осторожн\w+|трубку|никогда\s+не|обман\w+)\b))\b[\s\S]{0,110}\b(?:уголовн\w+|мошенническ\w+|разглашени\w+|подозрева\w+|дел[оау]|доверенност\w+|финансировани\w+|утечк\w+|кредит\w*|предупрежд\w+|сбил\w?|авари\w+|дтп)\b[\s\S]{0,110}\b(?:безопасн\w+\s+сч[её]т\w*|резервн\w+\s+сч[её]т\w*|переведите|снимите|наличны\w+|инкассатор\w*|курьер\w*|никому\s+не|не\s+(?:кладите|говорите|рассказывайте)|тайн\w+\s+следствия|спецсч[её]т\w*|назовите|оформите)\b|\b(?:это|говорит|беспокоит|вас\s+беспокоит|меня\s+зовут)\b<25>\b(?:майор|капитан|следователь|лейтенант|полковник|сотрудник)\b<15>\b(?:фсб|мвд|полиции|прокуратуры|следственного\s+комитета|росфинмониторинга|скр?)\b|\bкуратор\s+из\b|\bследственн\w+\s+комитет\b<60>\b(?:доверенност\w+|снять\s+деньги|на\s+линии|сч[её]т)\b|\b(?:дочь|сын|внук)\b<12>\b(?:сбил\w?|попал\w?)\b[\s\S]{0,60}\b(?:дел[оа]|тысяч|помощник)\b|)"
      R"((?:法院|法庭)[\s\S]{0,6}[传傳]票[\s\S]{0,40}(?:[拨撥]打|致[电電]|逾期|[领領]取|[强強]制)|(?:检察官|檢察官|警官|公安局|刑警|派出所|[监監]管局|[银銀]保[监監])[\s\S]{0,30}(?:涉[嫌及]|[诈詐][骗騙]案|洗[钱錢]|[冻凍][结結]|保全|[监監]管[账賬帐帳]|逮捕|拘)|(?:你|您)的?[\s\S]{0,8}(?:身[份分][证證]|[账賬帐帳][户戶]|[银銀]行卡)[\s\S]{0,6}涉[嫌及]|公安局[\s\S]{0,30}(?:[电電][话話]卡|身份[证證]|保持通[话話]|不要挂[断斷])|(?:刑[侦偵]|支[队隊]|公安)[\s\S]{0,12}(?:女[儿兒]|[儿兒]子)[\s\S]{0,16}(?:保[释釋]|放人)|)"
      R"((?:警視庁|検察庁|警察|県警|検事|刑事)[\s\S]{0,8}(?:の|です|と申)[\s\S]{0,40}(?:名義の口座|逮捕状|マネーロンダリング|捜査に協力|資産を調査|預金|送金)|保釈金[\s\S]{0,12}釈放|)"
      R"((?:명의 ?도용|대포 ?통장|자금 ?세탁|불법 ?(?:자금|계좌))[\s\S]{0,30}(?:사건|연루|접수|개설|발견|압수|조사|수사)|통장[\s\S]{0,16}(?:압수|발견)[\s\S]{0,20}(?:개설|본인|직접)|(?:검찰|지검|검사|수사관|경찰청|경찰|금융감독원|금감원|사이버 ?수사)[\s\S]{0,50}(?:대포 ?통장|범죄|연루|명의|자금 ?세탁|영장|구속|과태료|벌점|협조)|(?:검찰청|지검)[\s\S]{0,14}검사(?:입니다|이고|인데)|경찰[\s\S]{0,24}보석금|)"
+     R"(<policecall>|)"
      R"(\b(?:warrant|summons|subpoena|indictment|case|file|charges?)\b<25>\b(?:out\s+for|against|for|in\s+the\s+name\s+of)\s+(?:you|your\s+\w+)\b<60>\b(?:arrest\w*|jury|missed|failed|court|officer|sheriff|fine|bail|prison|jail|offen[cs]es?|police|interpol)\b|\b(?:officer|sergeant|deputy|sheriff|inspector|detective|marshal)\b<40>\b(?:warrant|bail|jury\s+duty|arrest\s+you|fine\s+(?:is|must))\b<40>\b(?:you|your|pay)\b|)"
      R"(\b(?:identité\s+est\s+utilisée|votre\s+(?:fils|fille)\s+a\s+(?:eu|renversé))\b|)"
      R"(\bsuo\s+figlio\b<40>\b(?:investito|incidente|arrestato)\b|\b(?:maresciallo|carabinieri)\b<60>\b(?:cauzione|contanti)\b|)"
@@ -1836,6 +1996,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\brinnovo\s+di\s+(?:mcafee|norton)\b|)"
      R"(\b(?:antivirus|mcafee|norton)\b<60>\b(?:renovad\w|cobrar\w*|cargo|licencia|\d+\s*€)\b|\bha\s+renovado\s+(?:su|tu)\s+antivirus\b|\brenovado\s+su\s+antivirus\b|\bt[ée]cnico\s+certificado\b|)"
      R"(ウイルス対策ソフト[\s\S]{0,24}(?:引き落と|円)|)"
+     R"(<sickpc>|)"
      R"((?:백신|노턴|맥아피)[\s\S]{0,16}(?:연장|결제|갱신))"); }),
      true},
     {"imp-bank-security", "Impersonation", "warn", 35,
@@ -1895,6 +2056,7 @@ constexpr auto table = std::to_array<Rule>({
      R"((?:快[递遞]|包裹|快件|[货貨]物)[\s\S]{0,14}(?:[无無]法(?:派送|投[递遞]|配送)|[丢丟]失|滞留|滯留|地址不[详詳明]|地址有[误誤]|扣[关關留])|(?:派送|配送|投[递遞])[\s\S]{0,4}未能完成|)"
      R"((?:お?荷物|小包)[\s\S]{0,20}(?:不在|持ち帰|住所不明|留め置|お届けできません|返送)[\s\S]{0,30}(?:下記|こちら|更新|支払|http|確認ください|ご確認)|(?:配達|配送)を完了でき|住所が不完全|)"
      R"((?:택배|배송|소포|물품)[\s\S]{0,16}(?:불가|반송|보류|세관|통관|주소 ?불일치|미확인)|주소 ?(?:불일치|오류|불명)|배송을? ?완료하지 ?못|)"
+     R"(<heldparcel>|)"
      R"(\bfahrer\b<15>\bnicht\s+zustellen\b|)"
      R"(\bbrievenbus\b<15>\bte\s+klein\b|)"
      R"(\braccomandata\b<20>\bnon\s+è\s+stata\s+(?:recapitata|consegnata)\b|)"
@@ -1984,8 +2146,9 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:infecté|contaminé)\b<10>\bpar\b<10>\bvirus\b|)"
      R"(\b(?:telefono|android|iphone|pc|computer)\b<15>\bha\b<6>\bvirus\b|)"
      R"(\b(?:icloud|iphone|android|computadora|ordenador)\b<15>\b(?:vulnerad\w|hackead\w|infectad\w)\b|)"
-     R"(\bобнаружен\b<15>\b(?:вирус\w*|шифровальщик)\b|)"
+     R"(\b(?:(?:компьютер\w*|устройств\w+|телефон\w*|windows|microsoft|ноутбук\w*|смартфон\w*)\b(?![\s\S]{0,160}\b(?:мошенники|бдительн\w+|осторожн\w+|трубку|никогда\s+не|обман\w+)\b))\b[\s\S]{0,80}\b(?:вирус\w*|вирус-\w+|троян\w*|зараж[её]н\w*|взлом\w*|шпион\w*|хакер\w*)\b[\s\S]{0,80}\b(?:позвон\w+|звоните|удал[её]нн\w+|установ\w+|поддержк\w+|anydesk|специалист\w*|техник\w*)\b|\bобнаружен\b<15>\b(?:вирус\w*|шифровальщик)\b|)"
      R"((?:iCloud|[电電][脑腦]|手[机機])[\s\S]{0,16}(?:[设設裝装][备備置]登[录錄入]|中毒|病毒|外[泄洩])|)"
+     R"(<sickpc>|)"
      R"((?:랜섬웨어|바이러스|악성코드)에? ?감염)"); }),
      true},
     {"imp-call-number", "Impersonation", "warn", 25,
@@ -2009,6 +2172,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:немедленно|срочно|разблокиров\w+|подозрительн\w+|подтвердите|поддержк\w+|если\s+это\s+не\s+вы)\b<60>\b(?:позвоните|звоните|перезвоните|по\s+номеру)\b<25>(?:8|\+7)[\s(-]{0,2}\d{3}[\s)-]{0,2}\d{3}[\s-]?\d{2}[\s-]?\d{2}\b|)"
      R"((?:[拨撥]打|致[电電]|[联聯][系繫絡])[\s\S]{0,12}\d{3,4}-?\d{3,4}-?\d{3,4}|(?:致[电電]|[拨撥]打)[\d-]{7,}|)"
      R"((?:電話)[\s\S]{0,4}0\d{1,3}-?\d{2,4}-?\d{3,4}|0\d{1,3}-\d{2,4}-\d{3,4}[\s\S]{0,4}(?:に|まで)?(?:お?電話|ご連絡)|)"
+     R"(<renewal>|)"
      R"((?:즉시|바로|급히|취소|차단)[\s\S]{0,12}(?:0\d{1,2}|1\d{3})-\d{3,4}(?:-\d{4})?|(?:0\d{1,2}|1\d{3})-\d{3,4}(?:-\d{4})?[\s\S]{0,8}(?:즉시|바로)[\s\S]{0,4}(?:전화|연락)|[\d-]{9,}(?:으로|로) ?전화)"); }),
      true},
 
@@ -2235,6 +2399,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:телефон\w*\s+(?:\w+\s+)?(?:временно\s+)?не\s+работа\w+|вопросы\s+[—-]\s+только|только\s+ответом|не\s+звони\w*|сам[аи]?\s+(?:сейчас\s+)?(?:уехал[аи]?|за\s+границей|в\s+отъезде)|связи\s+(?:тут\s+)?нет)\b|)"
      R"((?:先|[别別]|不要|[请請]勿)[\s\S]{0,3}打[电電][话話]|只回[复覆]?此?[邮郵]件|在(?:[国國]外|外地)|)"
      R"((?:電話|通話)[\s\S]{0,8}(?:できな|出られ|つながら)|メールのみ|海外(?:出張|赴任)中|)"
+     R"(<kinneeds>|)"
      R"((?:통화|전화)[\s\S]{0,10}(?:어렵|안 ?돼|못 ?받|연결되지|불가)|메일로만|해외라|휴가 ?중|출장 ?중|직거래[\s\S]{0,8}(?:힘들|안 ?돼|어렵))"); }),
      true},
     {"urg-consequences", "Pressure", "warn", 30,
@@ -2277,6 +2442,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:а\s+то|иначе|у\s+тех,?\s+кто\s+не)\b<40>\b(?:штраф\w*|заблокир\w+|отключ\w+|на\s+склад|выплачена|спис\w+|удал\w+)\b|)"
      R"((?:否[则則]|不然|逾期|未完成)[\s\S]{0,16}(?:[裁]?[罚罰]|[扣凍冻][结結]?|[关關][闭閉]|延[后後]|失效|作[废廢])|不[再]?[凑湊]齐|)"
      R"((?:場合|ないと|なき場合|過ぎ(?:る|たら)と?)[\s\S]{0,14}(?:削除|停止|法的|支給され|止ま|失効|権利)|)"
+     R"(<policecall>|)"
      R"((?:않으면|않을 ?시|지나면|미확인 ?시|안 ?보내면|미납 ?시)[\s\S]{0,14}(?:폐쇄|반송|삭제|벌점|추가|취소가 ?안|중단))"); }),
      true},
 
@@ -2341,7 +2507,6 @@ constexpr auto table = std::to_array<Rule>({
      R"(\boppure\s+lo\s+mando\b|)"
      R"(\b(?:v[íi]deo|fotos?|desnud\w+)\b[\s\S]{0,60}\b(?:o\s+(?:se\s+)?l[oa]s?\s+(?:mando|env[íi]o|publico)|a\s+tu\s+(?:mujer|novia|familia)|a\s+tus\s+contactos)\b|)"
      R"(\b(?:видео|фото|переписк\w+)\b[\s\S]{0,60}\b(?:иначе|или\s+(?:все|я|твои)|разошл\w+|твоим\s+(?:друзьям|родным|подписчик\w*))\b|)"
-     R"((?:裸|動画|写真)[\s\S]{0,20}(?:ばらま|拡散|送信)[\s\S]{0,20}(?:くなかったら|されたく|振り?込|万)|)"
      R"((?:영상|사진|동영상)[\s\S]{0,40}(?:뿌린다|뿌리겠|유포|퍼뜨)|)"
      R"(\b(?:freunde|familie|chef|frau|mann|freundin|kontakte|follower|mutter)\b<40>\b(?:sehen|bekommen|kriegen|erfahren)\b<40>\b(?:zahl\w*|sonst|wenn|stunde\w*|euro)\b|)"
      R"(\b(?:vrienden|familie|baas|vrouw|vriendin|contacten)\b<30>\b(?:zien|krijgen|te\s+zien)\b<40>\b(?:betaal\w*|euro|anders|uur)\b|)"
@@ -2350,6 +2515,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:amigos|familia|jefe|esposa|mujer|novia|contactos)\b<30>\b(?:ver[áa]n|recibir[áa]n|sabr[áa]n|lo\s+van\s+a\s+ver)\b|)"
      R"(\b(?:amigos|fam[íi]lia|chefe|mulher|namorada|contatos|contactos)\b<30>\b(?:v[ãa]o\s+(?:ver|receber|saber)|ver[ãa]o)\b|\b(?:v[íi]deo|nudes?|fotos?)\b[\s\S]{0,60}\b(?:ou\s+(?:mando|envio|publico|posto)|sen[ãa]o)\b|)"
      R"((?:裸照|[视視][频頻]|不雅|私密)[\s\S]{0,24}(?:[发發][给給]|群[发發]|曝光|公[开開]|散播)[\s\S]{0,12}(?:[亲親]友|通[讯訊][录錄]|家人|同事|[网網])|)"
+     R"(<nudethreat>|(?:裸|動画|写真)[\s\S]{0,20}(?:ばらま|拡散|送信)[\s\S]{0,20}(?:くなかったら|されたく|振り?込|万)|)"
      R"((?:知人|家族|友達|会社|連絡先)[\s\S]{0,8}(?:に)[\s\S]{0,8}(?:ばらまく|送る|送信|公開|晒))"); }),
      true},
     {"ext-i-know-password", "Extortion", "warn", 70,
@@ -2699,7 +2865,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:cerchiamo|lavoro|collaboratori|guadagna|curriculum|assumiamo|personale|selezione)\b[\s\S]{0,120}\b(?:whats\s?app|telegram)\b|\bsenza\s+esperienza\b|\b(?:profilo|curriculum|cv)\b[\s\S]{0,160}\b(?:whats\s?app|telegram)\b|\b(?:risorse\s+umane|agenzia|selezione)\b[\s\S]{0,140}\b(?:whats\s+?app|telegram|signal)\b|)"
      R"(\b(?:buscamos|empleo|trabajo|trabajar|personal|vacante|gana|recursos\s+humanos|contratando)\b[\s\S]{0,120}\b(?:whats\s?app|telegram)\b|\bsin\s+experiencia\b|\b(?:perfil|curr[íi]culum|cv)\b[\s\S]{0,160}\b(?:whats\s?app|telegram)\b|)"
      R"(\b(?:vaga|vagas|emprego|trabalho|rh|ganhe|contratamos|contratando|renda\s+extra|recrut\w+)\b[\s\S]{0,120}\b(?:whats\s?app|telegram)\b|\bsem\s+experi[êe]ncia\b|\b(?:perfil|curr[íi]culo)\b[\s\S]{0,160}\b(?:whats\s?app|telegram)\b|\b(?:rh|recursos\s+humanos|ag[êe]ncia)\b[\s\S]{0,140}\b(?:whats\s+?app|telegram|signal)\b|)"
-     R"(\b(?:подработка|вакансия|удал[её]нк\w+|сотрудник\w+)\b[\s\S]{0,100}\bпишите\s+в\s+(?:телеграм\w*|в(?:о|а)т[сц]ап\w*)\b|\bбез\s+опыта\b<30>\b(?:нужен\s+только\s+телефон|удал[её]нк\w+)\b|\b(?:отдела\s+кадров|hr)\b[\s\S]{0,100}\b(?:whats\s+?app|ватсап|телеграм\w*)\b|\b(?:нужны\s+люди|требуются)\b[\s\S]{0,80}\b(?:whats\s+?app|телеграм\w*|ватсап)\b|)"
+     R"(\b(?:подработк\w+|удал[её]нк\w+|удал[её]нн\w+|работа\s+(?:на\s+дому|онлайн)|дополнительн\w+\s+(?:доход\w*|заработ\w+)|набира\w+|ищем)\b[\s\S]{0,80}\b(?:лайк\w*|отзыв\w*|задани\w+|подписк\w+|wildberries|вайлдберриз|озон|маркетплейс\w*|с\s+телефона|без\s+опыта|просмотр\w*)\b[\s\S]{0,80}\b(?:руб\w*|\d+\s?р|₽|плат\w+|выплат\w+|заработ\w+|доход\w*)\b[\s\S]{0,80}\b(?:телеграм\w*|ватсап\w*|whats\s?app|telegram|напиш\w+|куратор\w*|в\s+лс|пополн\w+)\b|\b(?:подработка|вакансия|удал[её]нк\w+|сотрудник\w+)\b[\s\S]{0,100}\bпишите\s+в\s+(?:телеграм\w*|в(?:о|а)т[сц]ап\w*)\b|\bбез\s+опыта\b<30>\b(?:нужен\s+только\s+телефон|удал[её]нк\w+)\b|\b(?:отдела\s+кадров|hr)\b[\s\S]{0,100}\b(?:whats\s+?app|ватсап|телеграм\w*)\b|\b(?:нужны\s+люди|требуются)\b[\s\S]{0,80}\b(?:whats\s+?app|телеграм\w*|ватсап)\b|)"
      R"((?:招聘|兼[职職]|[诚誠]徵|急聘|招募)[\s\S]{0,40}(?:微信|QQ|LINE|Telegram|[电電]报|飛機|飞机)|(?:[无無]需|不需|免)[经經][验驗]|(?:[简簡][历歷]|履歷)[\s\S]{0,40}(?:加微信|加LINE|加QQ)|)"
      R"((?:副業|バイト|募集|仕事|作業|高収入)[\s\S]{0,50}(?:LINE|Telegram|テレグラム|シグナル)|(?:未経験OK|未経験可|経験不問)|履歴書[\s\S]{0,60}LINE|LINEを?追加|)"
      R"((?:알바|모집|구인|부업|채용)[\s\S]{0,50}(?:카톡|텔레그램|오픈 ?채팅|라인)|(?:경력|경험|학력) ?(?:무관|없이|필요 ?없)|이력서[\s\S]{0,60}(?:카톡|텔레그램|라인)|인사팀[\s\S]{0,50}카톡|급구[\s\S]{0,30}(?:카톡|라인|텔레)|)"
@@ -2709,6 +2875,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:contatt\w+|scriv\w+|aggiung\w+)\b<25>\b(?:whatsapp|telegram)\b<40>\b(?:lavor\w+|guadagn\w+|iniziare)\b|)"
      R"(\b(?:manda|chama|fala|envia)\b<15>\b(?:no|pelo)\s+(?:telegram|zap)\b|)"
      R"((?:加|添加)\s?(?:LINE|微信|V|TG)[\s\S]{0,8}(?:[报報]名|了解|[说說])|有[兴興]趣[\s\S]{0,6}(?:LINE|加)|)"
+     R"(<chatjob>|)"
      R"(アシスタントに)"); }),
      true},
     {"job-work-from-home", "Job & goods fraud", "warn", 30,
@@ -2750,6 +2917,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:скину|напиши)\b<10>\b(?:куратор\w*)\b|)"
      R"((?:[冲衝刷]|[点點])[\s\S]{0,4}(?:[评評][价價]|[赞讚]|[单單]|好[评評])[\s\S]{0,20}(?:[领領]|元|佣金|[结結])|日[领領]\s?\d|)"
      R"((?:いいね|スクショ|レビュー)[\s\S]{0,16}(?:だけ|円|稼)|1件\d+円|)"
+     R"(<chatjob>|)"
      R"(하루[\s\S]{0,6}분[\s\S]{0,16}(?:수입|수당|만원|일급))"); }),
      true},
     {"job-mystery-shopper", "Job & goods fraud", "warn", 45,
@@ -2819,7 +2987,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:caparra|acconto|anticipo|cauzione)\b<40>\b(?:postepay|entro|stasera|subito|bonifico|prima|ricarica)\b|)"
      R"((?:\b(?:fianza|dep[óo]sito|anticipo|se[ñn]al)\b|50\s?%)<40>\b(?:aparto|apart\w+|reserv\w+|transferencia|bizum|adelantad\w+|primero|antes)\b|\b(?:bizum|transferencia|pago)\b<20>\bpor\s+adelantado\b|\bantes\s+tiene\s+que\s+ingresar\b|\b(?:llaves)\b<40>\b(?:mensajer\w+|correo|buz[óo]n|env[íi]o|paqueter[íi]a)\b|\b(?:transfer\w+|ingres\w+|deposit\w+)\b<30>\b(?:reserv\w+|apart\w+|guard\w+)\b|)"
      R"(\b(?:cau[çc][ãa]o|sinal|adiantamento|reserva)\b<40>\b(?:pix|mb\s?way|transfer\w+|antes|primeiro|reserv\w+|hoje)\b|)"
-     R"(\b(?:залог|предоплат\w+|бронь)\b<40>\b(?:на\s+карту|через|по\s+моей|ссылк\w+|сначала|сниму|ключ\w+)\b|)"
+     R"(\b(?:сда[юё]\w*|сдам|квартир\w+|студи\w+|комнат\w+|аренд\w+|жиль\w+|однушк\w+|двушк\w+)\b[\s\S]{0,90}\b(?:уехал\w*|за\s+границ\w+|в\s+другом\s+городе|желающ\w+|очередь|без\s+просмотра|командировк\w+|до\s+просмотра|показать\s+не|заброн\w+|бронь\w*|придержать)\b[\s\S]{0,90}\b(?:предоплат\w+|залог\w*|депозит\w*|задат\w+|первый\s+месяц|перевед\w+|аванс\w*)\b|\b(?:сда[юё]\w*|сдам|квартир\w+|студи\w+|комнат\w+|аренд\w+|жиль\w+|однушк\w+|двушк\w+)\b[\s\S]{0,90}\b(?:предоплат\w+|залог\w*|депозит\w*|задат\w+|первый\s+месяц|перевед\w+|аванс\w*)\b[\s\S]{0,90}\b(?:ключ\w*\s+(?:\w+\s+){0,2}(?:отправ\w+|курьер\w*|вышлю|почтой|посылкой)|по\s+(?:моей\s+)?ссылке|до\s+просмотра|за\s+границ\w+|ключики)\b|\b(?:залог|предоплат\w+|бронь)\b<40>\b(?:на\s+карту|через|по\s+моей|ссылк\w+|сначала|сниму|ключ\w+)\b|)"
      R"((?:定金|[订訂]金|押金|保留[费費])[\s\S]{0,16}(?:留|先[付交转轉]|微信|看房)|先[转轉付][\s\S]{0,6}(?:再|就)[\s\S]{0,4}(?:[发發][货貨]|寄|看房)|)"
      R"((?:手付金|敷金|前金|予約金|保証金)[\s\S]{0,14}(?:先に|送って|振り?込|PayPay)|)"
      R"((?:가계약금|예약금|보증금|계약금|선금)[\s\S]{0,16}(?:먼저|입금|보내|송금)[\s\S]{0,10}(?:시면|주시|분께|하면|해야)|(?:열쇠|키|비밀번호)[\s\S]{0,8}(?:택배|우편|문자로)|(?:먼저|미리)[\s\S]{0,8}(?:입금|송금|보내)[\s\S]{0,10}(?:잡아|예약|빼|드릴)|)"
@@ -2829,6 +2997,8 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:chiavi)\b<40>\b(?:posta|corriere|spedi\w+|cassetta)\b|\b(?:bonifico|vers\w+)\b<30>\b(?:bloccar\w+|riservar\w+|tenere)\b|)"
      R"(\b(?:chaves)\b<40>\b(?:correio\w*|estafeta|transportadora|sedex|envio|caixa)\b|\b(?:transfer\w+|deposit\w+|pix)\b<30>\b(?:reserv\w+|segur\w+|guard\w+)\b|)"
      R"([钥鑰]匙[\s\S]{0,8}(?:快[递遞]|寄|[邮郵])|(?:先|只要)[\s\S]{0,4}(?:[转轉]|付|交)[\s\S]{0,8}(?:[给給]你留|保留|[预預][订訂定])|)"
+     R"(<keysbypost>|)"
+     R"(<buyerfraud>|)"
      R"(鍵[\s\S]{0,8}(?:郵送|宅配|送り|ポスト)|(?:先に|事前に)[\s\S]{0,8}(?:送って|払って|入金)[\s\S]{0,10}(?:押さえ|確保|キープ))"); }),
      true},
 
@@ -2875,9 +3045,10 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:faire\s+connaissance|devenir\s+amis|enchantée?\s+quand\s+même|d['’]où\s+(?:viens-tu|venez-vous)|votre\s+(?:gentillesse|politesse)|le\s+destin|un\s+signe|tu\s+me\s+manques|te\s+serrer|notre\s+vie)\b|)"
      R"(\b(?:nuovi\s+amici|di\s+dove\s+(?:sei|è)|piacere\s+(?:comunque|di\s+conoscer\w+)|è\s+destino|mi\s+manchi|abbracciarti|la\s+nostra\s+vita|persona\s+gentile)\b|)"
      R"(\b(?:nuevos\s+amigos|hacer\s+amistad|ser\s+amig[oa]s|encantada\s+(?:igual|de\s+todos)|qu[ée]\s+amable\s+(?:eres|es)|es\s+el\s+destino|te\s+extra[ñn]o|abrazarte|nuestra\s+vida)\b|)"
-     R"(\b(?:давайте\s+(?:общаться|дружить)|можно\s+познакомиться|вы\s+(?:очень\s+)?(?:милый|добрый|приятный)\s+человек|это\s+знак|скучаю\s+по\s+тебе|обнять\s+тебя|наша\s+встреча)\b|)"
+     R"(\b(?:солнышко|любим\w+|мил(?:ая|ый)|дорог(?:ая|ой)|зайк\w+|родн(?:ая|ой)|обнять|целую|люблю|мечта\w+|судьб\w+|малыш)\b[\s\S]{0,110}\b(?:билет\w*|виз[аыу]|аэропорт\w*|таможн\w+|больниц\w+|карту\s+заблок\w+|операци\w+|контракт\w*|прилеч\w+|при[её]д\w+|командировк\w+)\b[\s\S]{0,110}\b(?:не\s+хватает|переведи\w*|одолж\w+|займи|скинь|пришли\s+денег|выручи|помоги\s+(?:деньгами|оплат\w+))\b|\b(?:ошиб\w+\s+номер\w*|номер\w*\s+(?:ошиб\w+|перепут\w+)|не\s+т(?:от|ому|уда)\s+(?:номер|написал\w*)|перепутал\w*|ошиблась|ошибся|секретар\w+\s+ошиб\w+|не\s+туда)\b[\s\S]{0,100}\b(?:познаком\w+|вежлив\w+|меня\s+зовут|дружить|общат\w+|пообща\w+|чем\s+занима\w+|а\s+вы\s+(?:чем|откуда)|судьб\w+|инвестици\w+)\b|\b(?:давайте\s+(?:общаться|дружить)|можно\s+познакомиться|вы\s+(?:очень\s+)?(?:милый|добрый|приятный)\s+человек|это\s+знак|скучаю\s+по\s+тебе|обнять\s+тебя|наша\s+встреча)\b|)"
      R"(相[识識]是|[认認][识識]一下|不打不相[识識]|想你|抱抱你|[见見]到你|)"
      R"(お話し?しませんか|仲良くして|知り合えて|会いたい(?:よ|です|な)|)"
+     R"(<lovedebt>|)"
      R"(알고 ?지내|대화 ?나눠|보고 ?싶어|안아 ?주|만난 ?것도 ?인연)"); }),
      true},
     {"rom-stuck-abroad", "Romance fraud", "warn", 50,
@@ -2910,7 +3081,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:visa|passeport|billet|hôpital|hospitalis\w+)\b<30>\b(?:payer|avance|envo[iy]\w*|opérer|transcash|mandat)\b|\bchangé\s+de\s+(?:num|numéro|tel)\b<newnumber>|\b(?:douane|hôpital|hôtel|ambassade|entreprise)\b<30>\b(?:refuse|exige|demande|bloque|ne\s+me\s+laisse)\b|\b(?:téléphone|portable|tel)\b<12>\b(?:cassé|perdu|volé|tombé)\b[\s\S]{0,60}\b(?:nouveau|virement|avance\w*|paye\w*)\b|)"
      R"(\b(?:mi\s+(?:fai|presti|mandi))\b<12>\b(?:ricarica|bonifico|soldi|\d+)\b<60>\b(?:vengo|arrivo|treno|volo|da\s+te)\b|\b(?:nonn[oa]|zi[oa])\b<40>\btuo\s+nipote\b|)"
      R"(\b(?:perdid\w|robad\w|roto|mojado)\b<12>\b(?:m[óo]vil|celular|tel[ée]fono)\b<60>\b(?:desde|compañer[oa]|amig[oa])\b|)"
-     R"(\bприлечу\s+и\s+(?:сразу\s+)?отдам\b|)"
+     R"(\b(?:мам\w*|пап\w*|бабул\w+|бабушк\w+|дедул\w+|дед|дедушк\w+|т[её]т\w*|сестр\w+|брат\w*|сынок|доченьк\w+|внучк\w*)\b(?![\s\S]{0,160}\b(?:полици\w+|мошенник\w+)\b)[\s\S]{0,110}\b(?:нов\w+\s+номер\w*|телефон\w*\s+(?:\w+\s+)?(?:разбил\w*|сломал\w*|утопил\w*|украли|потерял\w*)|(?:друг\w+|чуж\w+)\s+(?:номер\w*|телефон\w*)|номер\w*\s+(?:друга|подруги)|сменил\w*\s+номер\w*)\b[\s\S]{0,110}\b(?:перевед\w+|перевест\w+|скин[ьу]\w*|займ\w*|одолж\w+|на\s+карту|тысяч\w*|\d+\s?(?:т|тыс|руб\w*))\b|\bприлечу\s+и\s+(?:сразу\s+)?отдам\b|)"
      R"((?:同[学學]|朋友|[别別]人)的(?:[号號]|手[机機])[\s\S]{0,30}(?:[转轉]|[钱錢]|交)|)"
      R"((?:番号|スマホ)[\s\S]{0,4}(?:かわり|変わり|変え)[\s\S]{0,30}(?:払|貸|ふりこ|振り?込)|必ず返す(?:から)?[\s\S]{0,16}貸して|)"
      R"(\b(?:krankenhaus|zoll|hotel|botschaft|firma)\b<30>\b(?:lässt\s+mich\s+nicht|verlangt|will\s+erst|gibt\s+mir\s+nicht)\b|\b(?:flug|ticket|visum|op|operation)\b<25>\b(?:bezahlen|vorstrecken|überweisen)\b<40>\b(?:zu\s+dir|schatz|liebling|zurück)\b|\b(?:handy|telefon)\b<15>\b(?:kaputt|verloren|geklaut|gestohlen|ins\s+wasser)\b[\s\S]{0,60}\b(?:neue\s+nummer|schreib|überweis\w+|leihen)\b|)"
@@ -2920,6 +3091,7 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:alf[âa]ndega|hospital|hotel|embaixada|empresa)\b<30>\b(?:n[ãa]o\s+me\s+(?:deixa|paga)|exige|pede|cobra)\b|\b(?:telem[óo]vel|celular)\b<15>\b(?:partiu|perdi|roubad\w|caiu|quebrou)\b[\s\S]{0,60}\b(?:novo|transfer\w+|pag\w+|pix)\b|)"
      R"((?:海[关關]|[医醫]院|公司)[\s\S]{0,8}(?:不[让讓]|[扣][住留]|要求|才能)[\s\S]{0,14}(?:[费費]|[钱錢]|[转轉]|交)|手[机機][\s\S]{0,4}(?:坏|壞|丢|丟|摔)[\s\S]{0,24}(?:[转轉]|借|垫|墊|[汇匯])|)"
      R"((?:税関|病院|会社)[\s\S]{0,14}(?:足止め|払わないと|凍結|要求)|(?:スマホ|携帯)[\s\S]{0,4}(?:壊|なくし|落とし)[\s\S]{0,30}(?:振り?込|払|貸|立て替え)|)"
+     R"(<kinneeds>|)"
      R"((?:세관|병원|회사)[\s\S]{0,14}(?:안 ?보내|못 ?나가|요구|묶여)|(?:핸드폰|휴대폰|폰)[\s\S]{0,6}(?:고장|액정|잃어|깨)[\s\S]{0,30}(?:이체|송금|보내|결제|빌려))"); }),
      true},
     {"rom-never-met", "Romance fraud", "warn", 30,
@@ -2959,6 +3131,8 @@ constexpr auto table = std::to_array<Rule>({
      R"(\b(?:n[úu]mero\s+trocado|me\s+confundi|salvei\s+errado|mandei\s+(?:pra|para\s+a)\s+pessoa)\b|)"
      R"(弄[错錯]|[认認][错錯]人|[号號][码碼][输輸存][错錯]|不好意思[\s\S]{0,6}[错錯]了|)"
      R"(間違えてしまい|送り先を間違|別の方に|)"
+     R"(<wrongname>|)"
+     R"(<lovedebt>|)"
      R"(번호를? ?착각|다른 ?분께|저장을 ?잘못|번호가 ?틀렸)"); }),
      true},
     {"rom-military", "Romance fraud", "warn", 30,

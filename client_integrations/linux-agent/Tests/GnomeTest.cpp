@@ -140,7 +140,7 @@ TEST(ShellExtensionAdvice, SaysWhatIsTrueForTheVersion) {
 
 TEST(ShellExtensionTest, HoldsNothingUpWhileTheShellHangs) {
   using std::chrono::milliseconds;
-  constexpr milliseconds pause{300};
+  constexpr milliseconds pause{1000};
   const testing::PrivateBus daemon("DBUS_SESSION_BUS_ADDRESS");
   std::atomic<bool> isHanging = true;
   testing::BusServices shell(::sd_bus_open_user, {"org.gnome.Shell"},

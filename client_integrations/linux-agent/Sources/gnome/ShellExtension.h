@@ -28,7 +28,7 @@ struct ShellFront {
 /// that hangs does not hold up every step of a signature. Main thread.
 class ShellExtension {
  public:
-  static constexpr std::chrono::milliseconds usualPause{5000};
+  static constexpr std::chrono::milliseconds usualPause{2000};
 
   /// The bus outlives this object. `pause`: for how long nothing is asked after a call that got no
   /// answer in time.
@@ -52,7 +52,7 @@ class ShellExtension {
 
  private:
   template <typename... Arguments>
-  [[nodiscard]] DesktopBus::Message ask(const char* method, const char* types,
+  [[nodiscard]] DesktopBus::Message ask(const char* name, const char* types,
                                         Arguments... arguments) const;
 
   DesktopBus& bus_;

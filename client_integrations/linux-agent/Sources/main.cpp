@@ -72,9 +72,11 @@ bool hasWaylandPlugin() {
 
 /// The ways into a Wayland desktop; none elsewhere. Without WAYLAND_DISPLAY, libwayland would try
 /// the default name, which may belong to another session.
-PortalSystem::Access accessToWayland() {
+PortalSystem::Access accessToWayland(Command command) {
   namespace WaylandConnector = quillseal::linux::WaylandConnector;
   using quillseal::linux::DesktopBus;
+  // Nobody waits for an agent that starts with the session, whose portal may be starting, too.
+  const std::chrono::seconds patience(command == Command::background ? 15 : 2);
   PortalSystem::Access access;
   if (environment("WAYLAND_DISPLAY").empty()) return access;
   const auto places = quillseal::linux::LoadedModule::usualPlaces(WaylandConnector::program);
@@ -89,7 +91,7 @@ PortalSystem::Access accessToWayland() {
                              access.bus->knows(quillseal::linux::Portal::service).value_or(false));
   if (isOfInterest) access.portalBus = DesktopBus::openThrough(places);
   if (access.portalBus != nullptr)
-    access.offer = quillseal::linux::offerOfPortal(*access.portalBus);
+    access.offer = quillseal::linux::offerOfPortal(*access.portalBus, patience);
   return access;
 }
 
@@ -150,7 +152,7 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
   constexpr std::chrono::seconds patience{5};
   if (!quillseal::linux::sessionBusAnswers(patience))
     qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
-  PortalSystem::Access access = accessToWayland();
+  PortalSystem::Access access = accessToWayland(commandLine.command);
   const bool isReached =
       reachesApplicationsByCompositor(access) || PortalSystem::reachesApplications(access);
   // Qt ends the program when it finds no display, so the display is checked first. A connection

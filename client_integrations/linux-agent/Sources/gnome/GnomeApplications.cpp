@@ -8,8 +8,10 @@ namespace {
 
 using desktop::RunningApplication;
 
-/// Time for a running browser to take the URL. One that has to start activates its window itself.
+/// Time for a running browser to take the URL.
 constexpr std::chrono::milliseconds takesAddress{300};
+/// Time for a browser to start, which then activates its window itself.
+constexpr std::chrono::milliseconds startsUp{3000};
 
 }  // namespace
 
@@ -35,15 +37,25 @@ void GnomeApplications::activate(const RunningApplication& application) {
 desktop::Ticket GnomeApplications::open(const std::string& url,
                                         const desktop::InstalledApplication& application,
                                         std::function<void(std::optional<Error>)> done) {
-  bringing_ = services_.loop.after(
-      takesAddress, [this, location = application.location] { bringToFront(location); });
-  return LinuxApplications::open(url, application, std::move(done));
+  return LinuxApplications::open(
+      url, application,
+      [this, location = application.location, done = std::move(done)](std::optional<Error> error) {
+        if (!error) bringToFrontAfter(takesAddress, location, false);
+        done(std::move(error));
+      });
 }
 
-void GnomeApplications::bringToFront(const std::string& location) const {
-  if (services_.extension.activateApplication(location + ".desktop")) return;
-  services_.tell(
-      "The page on which you sign opens in your browser. If it stays in the background, go there.");
+void GnomeApplications::bringToFrontAfter(std::chrono::milliseconds pause,
+                                          const std::string& location, bool isLastTry) {
+  bringing_ = services_.loop.after(pause, [this, location, isLastTry] {
+    const std::optional<bool> isFound =
+        services_.extension.activateApplication(location + ".desktop");
+    if (isFound.value_or(false)) return;
+    if (isFound && !isLastTry) return bringToFrontAfter(startsUp, location, true);
+    services_.tell(
+        "The page on which you sign opens in your browser. If it stays in the background, go "
+        "there.");
+  });
 }
 
 }  // namespace quillseal::linux

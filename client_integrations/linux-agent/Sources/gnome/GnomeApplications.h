@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <optional>
 #include <string>
@@ -29,15 +30,16 @@ class GnomeApplications : public LinuxApplications {
   [[nodiscard]] bool isActive(const desktop::RunningApplication& application) const override;
   void activate(const desktop::RunningApplication& application) override;
 
-  /// The Shell raises no running browser for another program, so the extension does it. Where that
-  /// does not answer, the user is told to go there.
+  /// The Shell raises no running browser for another program, so the extension does it. Where it
+  /// cannot, the user is told to go there.
   using LinuxApplications::open;
   [[nodiscard]] desktop::Ticket open(const std::string& url,
                                      const desktop::InstalledApplication& application,
                                      std::function<void(std::optional<Error>)> done) override;
 
  private:
-  void bringToFront(const std::string& location) const;
+  void bringToFrontAfter(std::chrono::milliseconds pause, const std::string& location,
+                         bool isLastTry);
 
   Services services_;
   desktop::Ticket bringing_;

@@ -27,13 +27,15 @@ constexpr DesktopBus::Signal ownerChanged{.sender = "org.freedesktop.DBus",
 /// The time until which the portal is waited for.
 class Deadline {
  public:
+  explicit Deadline(std::chrono::milliseconds patience) : end_(Clock::now() + patience) {}
+
   [[nodiscard]] std::chrono::milliseconds left() const {
     return std::chrono::ceil<std::chrono::milliseconds>(end_ - Clock::now());
   }
 
  private:
   using Clock = std::chrono::steady_clock;
-  Clock::time_point end_ = Clock::now() + portalPatience;
+  Clock::time_point end_;
 };
 
 std::uint32_t propertyOf(DesktopBus& bus, const Deadline& deadline, const char* interface,
@@ -92,15 +94,13 @@ void introduce(DesktopBus& bus, const Deadline& deadline, const PortalOffer& off
 
 }  // namespace
 
-PortalOffer offerOfPortal(DesktopBus& bus) {
-  const Deadline deadline;
+PortalOffer offerOfPortal(DesktopBus& bus, std::chrono::milliseconds patience) {
+  const Deadline deadline(patience);
+  const auto isSilent = [&deadline] { return deadline.left().count() <= 0; };
   const std::optional<bool> isRunning = bus.knows(Portal::service);
   if (!isRunning || (!*isRunning && !isRemoteDesktopInstalled())) return {};
+  if (!*isRunning && !bus.start(Portal::service, deadline.left())) return {.isSilent = isSilent()};
   PortalOffer offer;
-  if (!*isRunning && !bus.start(Portal::service, deadline.left())) {
-    offer.isSilent = deadline.left().count() <= 0;
-    return offer;
-  }
   const auto version = [&](const char* interface) {
     return propertyOf(bus, deadline, interface, "version");
   };
@@ -110,8 +110,8 @@ PortalOffer offerOfPortal(DesktopBus& bus) {
   offer.globalShortcuts = version("org.freedesktop.portal.GlobalShortcuts");
   offer.clipboard = version("org.freedesktop.portal.Clipboard");
   if (offer != PortalOffer{}) introduce(bus, deadline, offer);
-  offer.isSilent = deadline.left().count() <= 0;
-  return offer;
+  // A part of an offer would lead to another desktop's ways.
+  return isSilent() ? PortalOffer{.isSilent = true} : offer;
 }
 
 // Calls -------------------------------------------------------------------------------------------

@@ -21,21 +21,18 @@ struct PortalOffer {
   std::uint32_t remoteDesktop = 0;  ///< with a keyboard
   std::uint32_t globalShortcuts = 0;
   std::uint32_t clipboard = 0;
-  bool isSilent = false;  ///< it did not answer everything in time
+  bool isSilent = false;  ///< it did not answer everything in time; then the rest is 0
 
   bool operator==(const PortalOffer&) const = default;
 };
 
-/// How long the start of the agent may wait for the portal.
-inline constexpr std::chrono::milliseconds portalPatience{2000};
-
 /// Asks the portal, and introduces this program. A portal that does not run is started if
 /// `isRemoteDesktopInstalled`. Blocks for milliseconds where the portal answers or there is none,
-/// and for `portalPatience` at most.
+/// and for `patience` at most.
 ///
 /// The portal looks at `/proc/PID/root` of a client at its first call and refuses everything where
 /// that is hidden, as it is of the agent: so the bus is one of DesktopBus::openThrough.
-[[nodiscard]] PortalOffer offerOfPortal(DesktopBus& bus);
+[[nodiscard]] PortalOffer offerOfPortal(DesktopBus& bus, std::chrono::milliseconds patience);
 
 /// The end of a request that the user may have been asked about.
 struct PortalAnswer {

@@ -75,7 +75,7 @@ std::string ShellExtension::advice() const {
       "On this desktop Quillseal does not see which window you write in, so it leaves the signed "
       "text on the clipboard for you to paste. ";
   if (const int version = versionOfShell(bus_); version > newestVersion)
-    return state + "Its extension for GNOME Shell, with which it does, supports versions up to " +
+    return state + "Quillseal’s extension for GNOME Shell supports versions up to " +
            std::to_string(newestVersion) + ", and yours is " + std::to_string(version) +
            ". A newer Quillseal may bring one.";
   return state +

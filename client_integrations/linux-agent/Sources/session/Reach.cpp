@@ -9,9 +9,8 @@ std::string limitsOf(const SessionTraits& session) {
   if (!session.hasXServer && session.canPortalPressKeys)
     return "Quillseal cannot sign selected text here, because it reads and writes the clipboard of "
            "this desktop through Xwayland, which does not run. Its settings work. Install the "
-           "package xwayland, or switch Xwayland on again if you have switched it off; then log "
-           "out "
-           "and in.";
+           "package xwayland, or switch Xwayland on again if you have switched it off; then "
+           "log out and in.";
   if (!session.hasXServer)
     return "This Wayland desktop lets no program read what is selected in another or press keys "
            "there, so that Quillseal cannot sign selected text here. Its settings work. Signing "

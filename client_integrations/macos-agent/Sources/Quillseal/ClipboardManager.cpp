@@ -76,6 +76,13 @@ Task<bool> isTaken(Services services) {
   co_return services.pasteboard.isWritten();
 }
 
+Placement placementWithoutPaste(AutoPaste autoPaste,
+                                const std::optional<desktop::RunningApplication>& source) {
+  if (autoPaste == AutoPaste::no) return Placement::leftAsAsked;
+  if (!source) return Placement::sourceUnknown;
+  return isTerminal(*source) ? Placement::terminal : Placement::leftLate;
+}
+
 Task<Placement> paste(Services services, const std::optional<desktop::RunningApplication>& source) {
   // The block has always more than one line.
   if (source && isTerminal(*source)) co_return Placement::terminal;
@@ -114,8 +121,7 @@ Task<Injected> injectSignedContent(Services services, Injection injection,
   }
   const bool isOnClipboard = co_await isTaken(services);
   if (!isOnClipboard) co_return notOnClipboard(services, {});
-  Placement placement =
-      injection.autoPaste == AutoPaste::no ? Placement::leftAsAsked : Placement::leftLate;
+  Placement placement = placementWithoutPaste(injection.autoPaste, content.sourceApplication);
   std::optional<std::string> obstacle;
   if (injection.autoPaste == AutoPaste::yes) {
     try {

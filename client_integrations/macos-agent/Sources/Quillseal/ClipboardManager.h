@@ -42,7 +42,7 @@ struct Injection {
 enum class Placement {
   pasted,
   leftAsAsked,       ///< AutoPaste::no
-  leftLate,          ///< AutoPaste::tooLate
+  leftLate,          ///< AutoPaste::tooLate, in a known source that is no terminal
   notOnClipboard,    ///< nor in the source: the desktop did not take it
   sourceNotInFront,  ///< another window than the source would have got it
   keyboardTaken,     ///< something else has the keyboard, as a menu or the screen lock may

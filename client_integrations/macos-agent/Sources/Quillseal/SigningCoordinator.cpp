@@ -424,8 +424,7 @@ Task<std::optional<std::string>> SigningCoordinator::demonstrate(Signable signab
 
 Task<> SigningCoordinator::deliver(Delivery delivery, const CapturedContent& content) {
   AsyncMutex::Lock lock = co_await clipboard_.lock();
-  ClipboardManager::Injected injected =
-      co_await inject(delivery, content, ClipboardManager::AutoPaste::yes);
+  ClipboardManager::Injected injected = co_await inject(delivery, content);
   lock.reset();
   co_await tellOfSuccess(std::move(injected), std::move(delivery), content);
 }
@@ -433,12 +432,14 @@ Task<> SigningCoordinator::deliver(Delivery delivery, const CapturedContent& con
 /// Offers to copy the block again for as long as it is nowhere.
 Task<> SigningCoordinator::tellOfSuccess(ClipboardManager::Injected injected, Delivery delivery,
                                          const CapturedContent& content) {
+  using ClipboardManager::AutoPaste;
   using ClipboardManager::Placement;
   while (injected.placement == Placement::notOnClipboard) {
     const bool mayTryAgain = co_await asksToCopyAgain(std::move(injected.cause));
     if (!mayTryAgain) co_return;
+    if (delivery.autoPaste == AutoPaste::yes) delivery.autoPaste = AutoPaste::tooLate;
     AsyncMutex::Lock lock = co_await clipboard_.lock();
-    injected = co_await inject(delivery, content, ClipboardManager::AutoPaste::tooLate);
+    injected = co_await inject(delivery, content);
     lock.reset();
   }
   if (injected.placement == Placement::pasted) {
@@ -464,8 +465,7 @@ void SigningCoordinator::notify(const desktop::Notification& notification) {
 
 /// The caller holds `clipboard_`.
 Task<ClipboardManager::Injected> SigningCoordinator::inject(Delivery delivery,
-                                                            const CapturedContent& content,
-                                                            ClipboardManager::AutoPaste autoPaste) {
+                                                            const CapturedContent& content) {
   const ClipboardManager::Services services{.applications = desktop_.applications,
                                             .keys = desktop_.keys,
                                             .log = desktop_.log,
@@ -475,7 +475,7 @@ Task<ClipboardManager::Injected> SigningCoordinator::inject(Delivery delivery,
                                         .issuedDate = std::move(delivery.issued),
                                         .scope = std::move(delivery.scope),
                                         .server = serverClient_.effectiveServerURL(),
-                                        .autoPaste = autoPaste};
+                                        .autoPaste = delivery.autoPaste};
   ClipboardManager::Injected injected =
       co_await ClipboardManager::injectSignedContent(services, std::move(injection), content);
   co_return injected;
@@ -902,9 +902,8 @@ Task<> SigningCoordinator::deliverFromBrowser(Delivery delivery, HandoffResult h
     desktop_.log.write("[tabreturn] signing tab closed, original tab restored");
   }
   // Elsewhere than in the original tab the paste would land in the signing tab.
-  ClipboardManager::Injected injected = co_await inject(
-      delivery, content,
-      isRestored ? ClipboardManager::AutoPaste::yes : ClipboardManager::AutoPaste::no);
+  if (!isRestored) delivery.autoPaste = ClipboardManager::AutoPaste::no;
+  ClipboardManager::Injected injected = co_await inject(delivery, content);
   lock.reset();
   co_await tellOfSuccess(std::move(injected), std::move(delivery), content);
 }

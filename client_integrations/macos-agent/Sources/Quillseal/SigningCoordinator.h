@@ -134,6 +134,7 @@ class SigningCoordinator {
     std::string signatureId;
     std::string issued;
     std::string scope;
+    ClipboardManager::AutoPaste autoPaste = ClipboardManager::AutoPaste::yes;
   };
 
   /// What is to be signed, as it was captured.
@@ -161,8 +162,7 @@ class SigningCoordinator {
   Task<> deliverFromBrowser(Delivery delivery, HandoffResult handoff,
                             const CapturedContent& content);
   [[nodiscard]] Task<ClipboardManager::Injected> inject(Delivery delivery,
-                                                        const CapturedContent& content,
-                                                        ClipboardManager::AutoPaste autoPaste);
+                                                        const CapturedContent& content);
   Task<> tellOfSuccess(ClipboardManager::Injected injected, Delivery delivery,
                        const CapturedContent& content);
   void notifyOfSuccess();

@@ -55,7 +55,8 @@ class Pasteboard {
   [[nodiscard]] virtual Ticket fetchRtf(std::function<void(std::optional<std::string>)> done) = 0;
 
   /// Replaces the content by `content`, both flavours at once, and no other flavour. It stays until
-  /// replaced, where the desktop allows it also when the agent ends. On failure throws Error and offers none of `content`.
+  /// replaced, where the desktop allows it also when the agent ends. On failure throws Error and
+  /// offers none of `content`.
   virtual void write(const PasteboardContent& content) = 0;
 
   /// Whether programs would paste what was written last. Some desktops need a moment after `write`

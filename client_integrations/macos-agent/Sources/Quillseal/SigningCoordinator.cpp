@@ -85,6 +85,10 @@ constexpr const char* anotherHasKeyboard =
     "something else has the keyboard, such as an open menu, a question of the desktop or the "
     "screen lock";
 
+std::string hotkeyHeld(const desktop::Wording& words) {
+  return "the keys of " + words.hotkey + " were held for too long";
+}
+
 /// Why there is nothing to sign.
 desktop::Alert alertWithoutText(AccessibilityManager::CopyOutcome outcome,
                                 const desktop::Wording& words) {
@@ -98,7 +102,7 @@ desktop::Alert alertWithoutText(AccessibilityManager::CopyOutcome outcome,
       reason = anotherHasKeyboard;
       break;
     case CopyOutcome::keysHeld:
-      reason = "the keys of " + words.hotkey + " were held for too long";
+      reason = hotkeyHeld(words);
       break;
     case CopyOutcome::documentChanged:
       reason = "the window showed another document or tab before the text was copied";
@@ -122,13 +126,13 @@ desktop::Alert alertWithoutText(AccessibilityManager::CopyOutcome outcome,
 /// How the person pastes what Quillseal did not.
 desktop::Alert alertToPaste(ClipboardManager::Placement placement,
                             const std::optional<desktop::RunningApplication>& source,
-                            const std::string& pasteKey) {
+                            const desktop::Wording& words) {
   using ClipboardManager::Placement;
   const bool hasName = source && isSet(source->name);
   const std::string name = hasName ? *source->name : "the application it came from";
   const std::string switchBack = "Switch back to your message in ";
   const std::string selectAndPaste =
-      ", select the text you signed, and press " + pasteKey + ".\n\n";
+      ", select the text you signed, and press " + words.pasteKey + ".\n\n";
   std::string steps;
   switch (placement) {
     case Placement::sourceNotInFront:
@@ -142,7 +146,7 @@ desktop::Alert alertToPaste(ClipboardManager::Placement placement,
       break;
     case Placement::keysHeld:
       steps = switchBack + name + selectAndPaste +
-              "Quillseal did not paste it for you, because the keys of the hotkey were still held.";
+              "Quillseal did not paste it for you: " + hotkeyHeld(words) + ".";
       break;
     case Placement::notAllowed:
       steps = switchBack + name + selectAndPaste +
@@ -446,8 +450,8 @@ Task<> SigningCoordinator::tellOfSuccess(ClipboardManager::Injected injected, De
     notifyOfSuccess();
     co_return;
   }
-  desktop::Alert alert = alertToPaste(injected.placement, content.sourceApplication,
-                                      desktop_.words.current().pasteKey);
+  desktop::Alert alert =
+      alertToPaste(injected.placement, content.sourceApplication, desktop_.words.current());
   co_await showAlert(std::move(alert.title), std::move(alert.body));
 }
 

@@ -43,7 +43,8 @@ Request requestOf(const httplib::Request& received) {
           .contentType = received.get_header_value("Content-Type"),
           .host = received.get_header_value("Host"),
           .handoffId = received.has_param("h") ? received.get_param_value("h") : std::string(),
-          .body = received.body};
+          .body = received.body,
+          .hasQuery = received.target.find('?') != std::string::npos};
 }
 
 /// The library's default options would let a second server bind the same port and take half of the

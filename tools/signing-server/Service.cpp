@@ -293,6 +293,9 @@ Reply answerPost(Registry& registry, const ServiceOptions& options, const Reques
   if (!request.contentType.starts_with("application/json")) {
     throw Refusal(unsupportedMediaType, "The Content-Type must be application/json.");
   }
+  // Addresses end up in logs.
+  if (request.hasQuery)
+    throw Refusal(badRequest, "Send all values in the body, none in the address.");
   const JsonObject body = JsonObject::parse(request.body);
   if (endpoint->caller == Caller::agent && !equalSecrets(body.string("api_key"), options.apiKey)) {
     throw Refusal(unauthorized, "The API key is not the one of this server.");

@@ -16,6 +16,7 @@ struct Request {
   std::string host;       ///< the "Host" header
   std::string handoffId;  ///< the query parameter "h"
   std::string body;
+  bool hasQuery = false;  ///< anything follows "?" in the address
 };
 
 struct Reply {

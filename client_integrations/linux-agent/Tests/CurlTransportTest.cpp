@@ -210,6 +210,7 @@ TEST_F(CurlTransportTest, EveryAnswerHasItsEnding) {
        testing::cases<std::string, std::string, std::string, int, std::string, std::int64_t>()) {
     SCOPED_TRACE(name);
     if (const auto at = answer.find("GOOD"); at != std::string::npos) answer.replace(at, 4, good);
+    EXPECT_THAT(end, AnyOf("close", "reset", "linger"));
     const ScriptedServer server({.answer = answer, .end = end});
     for (const int number : {1, 2}) {
       const Ending ending = endingOf(postTo(server));

@@ -135,7 +135,8 @@ class LinuxBrowserTabsTest : public ::testing::Test {
 
 TEST_F(LinuxBrowserTabsTest, GoesAsTold) {
   std::map<std::string, std::unique_ptr<Browser>> browsers;
-  std::string title, told;
+  std::string title;
+  std::string told;
   auto asked = loop_.now();
   const auto tell = [&](const std::string& what) {
     const auto waited = loop_.now() - asked;
@@ -176,12 +177,14 @@ TEST_F(LinuxBrowserTabsTest, GoesAsTold) {
       if (first == "tab")
         ticket_ =
             tabs_->currentTab(second, [&](const auto& shown) { tell(shown.value_or("none")); });
-      else
+      else if (first == "close")
         ticket_ = tabs_->closeAndRestore(
             {.browser = second,
              .urlContains = mark,
              .tab = tab.empty() ? std::nullopt : std::optional(tab == "empty" ? "" : tab)},
             [&](bool isDone) { tell(isDone ? "done" : "not done"); });
+      else
+        ADD_FAILURE() << "no story can do this";
     }
   }
 }

@@ -158,7 +158,12 @@ struct Story {
     }
     if (name == "notice") return prompt.askedForNew.back().notice;
     if (name == "kind") return std::string(nameOf(prompt.askedForNew.back().kind));
+    if (name == "problems")
+      return std::accumulate(
+          prompt.problems.begin(), prompt.problems.end(), std::string(),
+          [](const std::string& all, const std::string& one) { return all + "(" + one + ")"; });
     if (name == "problem") return std::exchange(prompt.problems, {}).back();
+    if (name != "key") ADD_FAILURE() << "no story knows of " << name;
     const auto key = store->load(std::nullopt);
     if (key == nullptr) return "none";
     const auto bytes = key->publicKey();
@@ -167,18 +172,29 @@ struct Story {
   }
 
   void give(const std::string& name, const std::string& value) {
-    if (name == "obstacle") tpm.itsObstacle = value;
-    if (name == "weakness") tpm.itsWeakness = value;
-    if (name == "defect") tpm.defect = value;
-    if (name == "kind") tpm.kind = SecretKind::unguardedPin;
-    if (name == "signatures") tpm.foreignSignatures = value == "foreign";
-    if (name == "failure")
+    if (name == "obstacle") {
+      tpm.itsObstacle = value;
+    } else if (name == "weakness") {
+      tpm.itsWeakness = value;
+    } else if (name == "defect") {
+      tpm.defect = value;
+    } else if (name == "kind") {
+      tpm.kind = SecretKind::unguardedPin;
+    } else if (name == "signatures") {
+      tpm.foreignSignatures = value == "foreign";
+    } else if (name == "failure") {
       tpm.whileWorking = [value] {
         if (!value.empty()) throw KeyFailure(value);
       };
-    if (name == "file") testing::overwrite(folder.path() / "file" / "key", value);
-    if (name == "folder") testing::overwrite(folder.path() / "file", value);
-    if (name == "remove") store->remove();
+    } else if (name == "file") {
+      testing::overwrite(folder.path() / "file" / "key", value);
+    } else if (name == "folder") {
+      testing::overwrite(folder.path() / "file", value);
+    } else if (name == "remove") {
+      store->remove();
+    } else {
+      ADD_FAILURE() << "no story can set " << name;
+    }
   }
 
   std::map<std::vector<std::uint8_t>, std::size_t> keys;

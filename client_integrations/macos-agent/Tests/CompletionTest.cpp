@@ -22,11 +22,13 @@ TEST(CompletionTest, IsCalledOnceWhicheverCopyCallsFirst) {
 // before.
 TEST(CompletionTest, EndsByACallOrByTheLossOfItsTicket) {
   for (const bool isCalled : {true, false}) {
-    int calls = 0, cancelled = 0;
+    int calls = 0;
+    int cancelled = 0;
     const auto used = std::make_shared<int>(0);
     const Completion<> completion([&calls, used] { ++calls; });
     std::optional<desktop::Ticket> ticket = completion.ticket([&] { ++cancelled; });
     if (isCalled) completion();
+    EXPECT_EQ(used.use_count(), isCalled ? 1 : 2);
     ticket.reset();
     completion();
     EXPECT_EQ(calls, isCalled ? 1 : 0);

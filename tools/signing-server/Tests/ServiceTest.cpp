@@ -204,7 +204,7 @@ TEST_F(ServiceTest, NamesTheKeyAtFault) {
 // service-stories.txt explains its lines.
 TEST_F(ServiceTest, StoriesGoAsTold) {
   Answer answer{.status = 0, .body = {}};
-  std::string page, title;
+  std::string title;
   std::map<std::string, std::string> values{{"{text}", CryptoManager::sha256Hex("text")},
                                             {"{images}", CryptoManager::sha256Hex("images")}};
   for (std::string line : quillseal::testing::textCases()) {
@@ -239,6 +239,8 @@ TEST_F(ServiceTest, StoriesGoAsTold) {
     } else if (verb == "snapshot") {
       EXPECT_EQ(registry_.signature(values.at("{signature}"))->snapshotDigest,
                 CryptoManager::sha256Hex("snapshot"));
+    } else if (!line.starts_with('[')) {
+      ADD_FAILURE() << "no story can do this";
     }
     for (const std::string name : {"handoff", "signature"})
       if (answer.body.is_object() && answer.body.contains(name + "_id"))

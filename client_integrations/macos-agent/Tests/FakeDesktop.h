@@ -272,6 +272,7 @@ struct FakePasteboard final : Fake<desktop::Pasteboard> {
   std::string obstacle;
   std::optional<Error> refusal;  ///< of what is written next
   bool takes = true;             ///< what is written, in the end
+  std::chrono::milliseconds lookTime{0};
 
   void put(const Copy& copy) {
     clipboard = copy;
@@ -303,7 +304,10 @@ struct FakePasteboard final : Fake<desktop::Pasteboard> {
     record.trace.emplace_back("write clipboard");
     put({.text = content.plainText, .html = content.html});
   }
-  bool isWritten() const override { return takes; }
+  bool isWritten() const override {
+    record.loop.leap(lookTime);
+    return takes;
+  }
 
  private:
   std::int64_t changeCount_ = 0;

@@ -118,6 +118,7 @@ void give(Story& d, const std::string& name, const std::string& value) {
       {"chrome", &d.applications.chrome},
       {"clipboard refuses", &d.pasteboard.refusal},
       {"clipboard takes", &d.pasteboard.takes},
+      {"clipboard look takes", &d.pasteboard.lookTime},
       {"clipboard reports changes", &d.pasteboard.reportsChanges},
       {"copied elsewhere", &d.keys.copiedElsewhere},
       {"copy takes", &d.keys.copyTime},

@@ -69,7 +69,8 @@ std::string_view reasonOf(Placement placement) {
 
 /// Whether the desktop takes what was written.
 Task<bool> isTaken(Services services) {
-  for (auto looks = longestWaitForClipboard / pollingInterval; looks > 0; --looks) {
+  const auto end = services.loop.now() + longestWaitForClipboard;
+  while (services.loop.now() < end) {
     if (services.pasteboard.isWritten()) co_return true;
     co_await sleep(services.loop, pollingInterval);
   }

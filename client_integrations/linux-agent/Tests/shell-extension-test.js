@@ -63,6 +63,13 @@ Shell.WindowTracker.get_default = () => ({
   get_window_app: () => ({ is_window_backed: () => false, get_id: () => 'org.example.Editor.desktop' }),
 });
 
+Shell.AppSystem.get_default = () => ({
+  get_running: () => [
+    { get_id: () => 'org.example.Editor.desktop', get_windows: () => [letter] },
+    { get_id: () => 'org.example.Hidden.desktop', get_windows: () => [] },
+  ],
+});
+
 function check(what, found, expected) {
   if (JSON.stringify(found) !== JSON.stringify(expected))
     throw new Error(`${what}: ${JSON.stringify(found)}, not ${JSON.stringify(expected)}`);
@@ -83,10 +90,10 @@ function ask(method, parameters = null) {
 }
 
 /** What another process gets. */
-function askFromOutside() {
+function askFromOutside(method, ...parameters) {
   const process = Gio.Subprocess.new(['gdbus', 'call', '--session', '--dest',
     Gio.DBus.session.get_unique_name(), '--object-path', '/com/quillseal/FrontWindow', '--method',
-    'com.quillseal.FrontWindow1.Front'], Gio.SubprocessFlags.STDERR_PIPE);
+    `com.quillseal.FrontWindow1.${method}`, ...parameters], Gio.SubprocessFlags.STDERR_PIPE);
   return new Promise(resolve => {
     process.communicate_utf8_async(null, null, (one, result) =>
       resolve(one.communicate_utf8_finish(result)[2]));
@@ -102,7 +109,6 @@ async function loaded() {
   return new Extension();
 }
 
-
 async function test(extension) {
   extension.enable();
   await ask('Front').then(() => check('an answer to nobody', 1, 0), error =>
@@ -112,7 +118,8 @@ async function test(extension) {
   check('the front window', front.filter((_, index) => index !== 6),
     [7, true, false, 'org.example.Editor.desktop', 'Editor', 4242, 0]);
   check('a digest', /^[0-9a-f]{64}$/.test(front[6]), true);
-  check('another process', (await askFromOutside()).includes('Only the Quillseal agent'), true);
+  for (const call of [['Front'], ['Activate', '7'], ['ActivateApplication', 'x']])
+    check(call[0], (await askFromOutside(...call)).includes('Only the Quillseal agent'), true);
 
   letter.title = '(3) *letter';
   check('the same document', (await ask('Front'))[6], front[6]);
@@ -134,6 +141,10 @@ async function test(extension) {
   check('an open window', await ask('Activate', new GLib.Variant('(t)', [7])), [true]);
   check('a closed window', await ask('Activate', new GLib.Variant('(t)', [9])), [false]);
   check('what was activated', activated.splice(0), [7]);
+  for (const [application, isFound] of [['Editor', true], ['Hidden', false], ['Browser', false]])
+    check(application, await ask('ActivateApplication',
+      new GLib.Variant('(s)', [`org.example.${application}.desktop`])), [isFound]);
+  check('whose window was activated', activated.splice(0), [7]);
 
   extension.disable();
   check('handlers that are left', display.handlers.size + selection.handlers.size, 0);

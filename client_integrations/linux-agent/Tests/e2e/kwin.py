@@ -35,7 +35,7 @@ class KwinApplications(OnKwin, wayland.Applications, stories.Applications):
 
 class WindowStory(windows.WindowStory):
     def assert_pasted_nowhere(self):
-        self.desktop.wait_for_log("signed block left on the clipboard; something else is in front",
+        self.desktop.wait_for_log("signed block left on the clipboard; something else has the keyboard",
                                   "the agent says why it pastes nothing")
         self.assertTrue(self.desktop.selection().startswith(f"『{LETTER}』"))
         self.assertFalse([name for name in self.desktop.window_names() if name.startswith("*")])

@@ -1,6 +1,7 @@
 #include "gnome/ShellExtension.h"
 
-#include <cstdlib>
+#include <charconv>
+#include <string_view>
 
 #include "applications/ProcessExecutable.h"
 #include "applications/WindowDocument.h"
@@ -26,7 +27,10 @@ int versionOfShell(DesktopBus& bus) {
                                               "ss", shell, "ShellVersion");
   const char* version = nullptr;
   if (answer == nullptr || ::sd_bus_message_read(answer.get(), "v", "s", &version) <= 0) return 0;
-  return std::atoi(version);
+  const std::string_view text(version);
+  int major = 0;
+  std::from_chars(text.data(), text.data() + text.size(), major);
+  return major;
 }
 
 constexpr int newestVersion = QUILLSEAL_NEWEST_SHELL;

@@ -22,7 +22,8 @@ constexpr const char* refusal =
     "Your desktop did not let Quillseal press keys or use the clipboard, so it cannot copy the "
     "text that you selected. Sign again, and allow it when the desktop asks.";
 constexpr const char* ending =
-    "Your desktop has ended the permission for Quillseal to press keys. Quillseal asks for it again "
+    "Your desktop has ended the permission for Quillseal to press keys. Quillseal asks for it "
+    "again "
     "at the next signature.";
 constexpr const char* absence =
     "The portal of your desktop does not let Quillseal in. Install the Debian package of Quillseal "

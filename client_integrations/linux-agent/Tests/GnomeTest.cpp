@@ -1,3 +1,4 @@
+#include <array>
 #include <atomic>
 #include <chrono>
 #include <cstdint>
@@ -5,17 +6,20 @@
 #include <memory>
 #include <string>
 #include <thread>
+#include <tuple>
 #include <utility>
 #include <vector>
 
 #include <gio/gio.h>
 #include <gmock/gmock.h>
+#include <unistd.h>
 
 #include "BusServices.h"
 #include "Cases.h"
 #include "FakeDesktop.h"
 #include "PrivateBus.h"
 #include "TemporaryFolder.h"
+#include "applications/WindowDocument.h"
 #include "core/text/Error.h"
 #include "core/text/UniqueHandle.h"
 #include "desktop/SigningHotkey.h"
@@ -149,7 +153,8 @@ TEST(ShellExtensionTest, HoldsNothingUpWhileTheShellHangs) {
                                if (method != "Front")
                                  return ::sd_bus_reply_method_return(call, "b", 1);
                                return ::sd_bus_reply_method_return(
-                                   call, "tbbssusu", std::uint64_t{7}, 1, 0, "", "", 0U, "", 0U);
+                                   call, "tbbssusu", std::uint64_t{7}, 1, 0, "org.a.Editor.desktop",
+                                   "Editor", static_cast<std::uint32_t>(::getpid()), "d", 3U);
                              });
   const auto bus = DesktopBus::open();
   ASSERT_NE(bus, nullptr);
@@ -163,7 +168,13 @@ TEST(ShellExtensionTest, HoldsNothingUpWhileTheShellHangs) {
   EXPECT_LT(std::chrono::steady_clock::now() - begin, 2 * DesktopBus::patience);
   isHanging = false;
   std::this_thread::sleep_for(pause);
-  EXPECT_EQ(extension.front().value_or(ShellFront()).window, 7U);
+  const ShellFront front = extension.front().value_or(ShellFront());
+  EXPECT_EQ(std::tuple(front.window, front.hasKeys, front.holdsModifiers, front.clipboardChanges),
+            std::tuple(7U, true, false, 3U));
+  EXPECT_THAT((std::array{front.traits.gtkApplicationId, front.traits.windowClass,
+                          front.traits.executable, front.document}),
+              ElementsAre("org.a.Editor", "Editor", "quillseal_gnome_tests",
+                          documentName({.title = "d", .focus = 0})));
   EXPECT_EQ(extension.activateApplication("browser.desktop"), true);
 }
 

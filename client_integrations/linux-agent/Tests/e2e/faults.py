@@ -1,10 +1,9 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """Tests what the agent does when the desktop around it breaks. docs/faults.md lists them.
 
 Options and test names as in stories.py.
 """
 
-import ctypes
 import os
 import signal
 import socket
@@ -14,49 +13,43 @@ import stories
 from session import LETTER, act_until, wait_for
 from stories import Story
 from xclient import XClient
+from Xlib import X
 
 
 class Rival(XClient):
     """An X client that takes the hotkey or the clipboard and never answers."""
 
-    ANY_MODIFIER = 1 << 15
-
     def __init__(self, display):
         super().__init__(display)
-        none = ctypes.c_ulong(0)
-        self.window = ctypes.c_ulong(self.x11.XCreateSimpleWindow(
-            self.display, self.root, 0, 0, 300, 200, 0, none, none))
+        self.window = self.new_window()
+        self.key = self.x.keysym_to_keycode(ord("h"))
 
     def open_window(self):
-        self.x11.XStoreName(self.display, self.window, b"rival")
-        self.ask("XMapWindow", self.window)
+        self.window.set_wm_name("rival")
+        self.window.map()
+        self.x.sync()
 
     def take_clipboard(self):
-        self.ask("XSetSelectionOwner", self.clipboard, self.window, ctypes.c_ulong(0))
+        self.window.set_selection_owner(self.clipboard, X.CurrentTime)
+        self.x.sync()
 
     def grab_hotkey(self):
-        self.key = self.x11.XKeysymToKeycode(self.display, ctypes.c_ulong(ord("h")))
-        asynchronous = 1
-        self.ask("XGrabKey", self.key, self.ANY_MODIFIER, self.root, 1, asynchronous, asynchronous)
+        self.root.grab_key(self.key, X.AnyModifier, True, X.GrabModeAsync, X.GrabModeAsync)
+        self.x.sync()
 
     def free_hotkey(self):
-        self.ask("XUngrabKey", self.key, self.ANY_MODIFIER, self.root)
+        self.root.ungrab_key(self.key, X.AnyModifier)
+        self.x.sync()
 
 
-class MuteService:
-    """A program that owns a name on the desktop's session bus and never answers."""
-
-    def __init__(self, desktop, name):
-        address = desktop.env["DBUS_SESSION_BUS_ADDRESS"]
-        self.dbus = ctypes.CDLL("libdbus-1.so.3")
-        self.dbus.dbus_connection_open_private.restype = ctypes.c_void_p
-        self.connection = ctypes.c_void_p(
-            self.dbus.dbus_connection_open_private(address.encode(), None))
-        self.dbus.dbus_bus_register(self.connection, None)
-        self.dbus.dbus_bus_request_name(self.connection, name.encode(), 0, None)
-
-    def close(self):
-        self.dbus.dbus_connection_close(self.connection)
+def start_mute_service(desktop, name):
+    """Starts a program that owns a name on the desktop's session bus and never answers."""
+    service = desktop.start("gjs", "-c", f"""const {{ Gio, GLib }} = imports.gi;
+        Gio.bus_own_name(Gio.BusType.SESSION, '{name}', 0, null, () => print('owned'), null);
+        GLib.MainLoop.new(null, false).run();""")
+    desktop.wait_for_output(service, "owned", "the service has its name")
+    os.kill(service.pid, signal.SIGSTOP)
+    return service
 
 
 class Faults(Story):
@@ -152,7 +145,7 @@ class Faults(Story):
         self.desktop.wait_for_log("there is no session bus", "the agent says what will be missing")
 
     def test_the_accessibility_service_never_answers(self):
-        MuteService(self.desktop, "org.a11y.Bus")
+        start_mute_service(self.desktop, "org.a11y.Bus")
         self.start()
         self.assert_signed(self.sign_in_editor())
 
@@ -217,13 +210,13 @@ class Panel(Story):
         self.assert_signed(self.sign_in_editor())
 
     def test_the_panel_never_answers(self):
-        panel = MuteService(self.desktop, "org.kde.StatusNotifierWatcher")
+        panel = start_mute_service(self.desktop, "org.kde.StatusNotifierWatcher")
         began = time.monotonic()
         self.start()
         self.assertLess(time.monotonic() - began, 20)  # the toolkit would wait for 25
         self.assert_signed(self.sign_in_editor())
         self.assertFalse(self.has_shield())
-        panel.close()
+        self.desktop.end(panel, signal.SIGKILL)
         wait_for("the shield appears", self.has_shield)
 
     def has_shield(self):

@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """Tests the agent on KDE's compositor, with native applications and one under Xwayland.
 
 Options and test names as in stories.py.

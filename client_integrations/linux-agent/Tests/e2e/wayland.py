@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """Tests the agent on sway, with native applications and one under Xwayland. Only tests that say so
 use an X server.
 

@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """Tests that the text is copied from the window in which it is selected and pasted there or
 nowhere, whatever the person does meanwhile.
 

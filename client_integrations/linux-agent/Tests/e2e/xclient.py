@@ -1,61 +1,44 @@
 """An X client for actions that no ordinary program does on command."""
 
 import contextlib
-import ctypes
 import time
 
-from session import PATIENCE, Failure
-
-
-@ctypes.CFUNCTYPE(ctypes.c_int, ctypes.c_void_p, ctypes.c_void_p)
-def take_no_notice(_display, _error):
-    """Ignores X errors, which would end the program: a window may be closed or hidden."""
-    return 0
+from session import PATIENCE, Failure, wait_for
+from Xlib import X
+from Xlib.display import Display
 
 
 class XClient:
     def __init__(self, display):
-        self.x11 = ctypes.CDLL("libX11.so.6")
-        for name, result in (("XOpenDisplay", ctypes.c_void_p),
-                             ("XDefaultRootWindow", ctypes.c_ulong),
-                             ("XInternAtom", ctypes.c_ulong),
-                             ("XGetSelectionOwner", ctypes.c_ulong),
-                             ("XCreateSimpleWindow", ctypes.c_ulong),
-                             ("XKeysymToKeycode", ctypes.c_ubyte)):
-            getattr(self.x11, name).restype = result
-        self.x11.XSetErrorHandler(take_no_notice)
-        self.display = ctypes.c_void_p(self.x11.XOpenDisplay(display.encode()))
-        self.root = ctypes.c_ulong(self.x11.XDefaultRootWindow(self.display))
-        self.clipboard = ctypes.c_ulong(self.x11.XInternAtom(self.display, b"CLIPBOARD", 0))
+        self.x = Display(display)
+        self.x.set_error_handler(lambda *_: None)  # a window may be closed or hidden
+        self.root = self.x.screen().root
+        self.clipboard = self.x.intern_atom("CLIPBOARD")
 
     def close(self):
-        self.x11.XCloseDisplay(self.display)
+        self.x.close()
 
-    def ask(self, request, *arguments):
-        """Gives the result once the server has done it."""
-        result = getattr(self.x11, request)(self.display, *arguments)
-        self.x11.XSync(self.display, 0)
-        return result
+    def new_window(self):
+        return self.root.create_window(0, 0, 300, 200, 0, X.CopyFromParent)
 
-    def focus(self, window):
+    def focus(self, number):
         """Focuses the window at once."""
-        revert_to_parent = 2
-        self.x11.XRaiseWindow(self.display, ctypes.c_ulong(int(window)))
-        self.ask("XSetInputFocus", ctypes.c_ulong(int(window)), revert_to_parent, ctypes.c_ulong(0))
+        window = self.x.create_resource_object("window", int(number))
+        window.raise_window()
+        window.set_input_focus(X.RevertToParent, X.CurrentTime)
+        self.x.sync()
 
     @contextlib.contextmanager
     def holding_the_keyboard(self):
         """Grabs the keyboard, as an open menu or the screen lock does; the focus does not change."""
-        asynchronous, success = 1, 0
-        result = self.x11.XGrabKeyboard(self.display, self.root, 0, asynchronous, asynchronous,
-                                        ctypes.c_ulong(0))
-        if result != success:
+        if self.root.grab_keyboard(False, X.GrabModeAsync, X.GrabModeAsync, X.CurrentTime) != X.GrabSuccess:
             raise Failure("somebody else holds the keyboard")
         yield
-        self.ask("XUngrabKeyboard", ctypes.c_ulong(0))
+        self.x.ungrab_keyboard(X.CurrentTime)
+        self.x.sync()
 
     def clipboard_owner(self):
-        return self.x11.XGetSelectionOwner(self.display, self.clipboard)
+        return self.x.get_selection_owner(self.clipboard)
 
     def wait_until_clipboard_leaves(self, owner):
         """Waits for another owner of the clipboard, without pauses."""
@@ -63,44 +46,24 @@ class XClient:
         while self.clipboard_owner() == owner:
             if time.monotonic() > deadline:
                 raise Failure("nobody takes the clipboard")
-            time.sleep(0.001)
 
     # A reader of the clipboard that may behave as it likes
-
-    def _atom(self, name):
-        return self.x11.XInternAtom(self.display, name.encode(), 0)
-
-    def _window(self):
-        none = ctypes.c_ulong(0)
-        return ctypes.c_ulong(self.x11.XCreateSimpleWindow(
-            self.display, self.root, 0, 0, 1, 1, 0, none, none))
 
     def ask_for(self, target, window=None):
         """Asks the clipboard's owner to store this in the property of the same name, and does not
         wait."""
-        atom = ctypes.c_ulong(self._atom(target))
-        self.ask("XConvertSelection", self.clipboard, atom, atom, window or self._window(),
-                 ctypes.c_ulong(0))
+        atom = self.x.intern_atom(target)
+        (window or self.new_window()).convert_selection(self.clipboard, atom, atom, X.CurrentTime)
+        self.x.sync()
 
     def ask_for_several(self, **targets):
         """Asks for several targets at once, each with the name of a property. Returns the names of
         those that are stored, once they are."""
-        window, request = self._window(), ctypes.c_ulong(self._atom("MULTIPLE"))
-        names = {self._atom(name): name for name in targets}
-        pairs = [atom for name, target in targets.items() for atom in
-                 (self._atom(target), self._atom(name))]
-        kind, number = ctypes.c_ulong(self._atom("ATOM_PAIR")), ctypes.c_ulong * len(pairs)
-        self.ask("XChangeProperty", window, request, kind, 32, 0, number(*pairs), len(pairs))
+        window, request, kind = self.new_window(), *map(self.x.intern_atom, ("MULTIPLE", "ATOM_PAIR"))
+        pairs = [self.x.intern_atom(name) for pair in targets.items() for name in reversed(pair)]
+        window.change_property(request, kind, 32, pairs)
         self.ask_for("MULTIPLE", window)
-        selection_notify, event = 31, (ctypes.c_long * 24)()
-        deadline = time.monotonic() + PATIENCE
-        while not self.x11.XCheckTypedWindowEvent(self.display, window, selection_notify, event):
-            if time.monotonic() > deadline:
-                raise Failure("the clipboard's owner does not answer")
-            time.sleep(0.01)
-        stored = ctypes.POINTER(ctypes.c_ulong)()
-        ignored = [ctypes.byref(ctypes.c_ulong()) for _ in range(4)]
-        self.x11.XGetWindowProperty(
-            self.display, window, request, ctypes.c_long(0), ctypes.c_long(len(pairs)), 0, kind,
-            *ignored, ctypes.byref(stored))
-        return [names[atom] for atom in stored[1:len(pairs):2] if atom]
+        wait_for("the clipboard's owner answers", lambda: self.x.pending_events() and
+                 self.x.next_event().type == X.SelectionNotify)
+        stored = window.get_property(request, kind, 0, len(pairs)).value
+        return [name for name, atom in zip(targets, stored[1::2]) if atom]

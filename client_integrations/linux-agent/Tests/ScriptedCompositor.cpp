@@ -51,7 +51,6 @@ struct ScriptedCompositor::Server {
     wl_interface interface;
     wl_global* global = nullptr;
   };
-  enum Kind { clipboard, primary };
 
   Traits traits;
   wl_display* display = wl_display_create();
@@ -167,13 +166,13 @@ struct ScriptedCompositor::Server {
   void answer(const Offered& entry, const std::string& format, int file) {
     const auto found = entry.formats.find(format);
     const std::string text = found == entry.formats.end() ? "" : found->second;
-    const bool isFirst = entry.answer == Answer::onlyOnce && asked.size() == 1;
-    if (isFirst || entry.answer == Answer::all || entry.answer == Answer::endless) {
-      writers.emplace_back(pour, file, text, entry.answer == Answer::endless);
+    const std::string& how = entry.answer;
+    if (how == "all" || how == "endless" || (how == "onlyOnce" && asked.size() == 1)) {
+      writers.emplace_back(pour, file, text, how == "endless");
       return;
     }
-    if (entry.answer != Answer::nothing) static_cast<void>(!write(file, text.data(), text.size()));
-    if (entry.answer != Answer::thenLeaves) return openEnds.push_back(file);
+    if (how != "nothing") static_cast<void>(!write(file, text.data(), text.size()));
+    if (how != "thenLeaves") return openEnds.push_back(file);
     offered[clipboard].reset();
     tell(clipboard);
     ::close(file);
@@ -196,11 +195,6 @@ struct ScriptedCompositor::Server {
   void tell(Kind kind) {
     forEach(zwlr_data_control_device_v1_interface,
             [this, kind](wl_resource* device) { tell(kind, device); });
-  }
-  void offer(Kind kind, const Offered& what) {
-    cancelSource();
-    offered[kind] = what;
-    tell(kind);
   }
   void cancelSource() {
     if (source != nullptr) zwlr_data_control_source_v1_send_cancelled(source);
@@ -404,18 +398,11 @@ void ScriptedCompositor::makeActive(std::size_t window) {
   perform([&](Server& server) { server.activate(window); });
 }
 
-void ScriptedCompositor::copy(const Offered& offered) {
-  perform([&](Server& server) { server.offer(Server::clipboard, offered); });
-}
-
-void ScriptedCompositor::select(const Offered& offered) {
-  perform([&](Server& server) { server.offer(Server::primary, offered); });
-}
-
-void ScriptedCompositor::clear() {
-  perform([](Server& server) {
-    server.offered[Server::clipboard].reset();
-    server.tell(Server::clipboard);
+void ScriptedCompositor::offer(Kind kind, const std::optional<Offered>& what) {
+  perform([&](Server& server) {
+    if (what) server.cancelSource();
+    server.offered[kind] = what;
+    server.tell(kind);
   });
 }
 

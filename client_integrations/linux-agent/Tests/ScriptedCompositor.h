@@ -4,6 +4,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,19 +13,13 @@
 
 namespace quillseal::testing {
 
-/// What a program does when a format that it offers is requested.
-enum class Answer {
-  all,         ///< writes the text and ends
-  nothing,     ///< neither writes nor ends
-  part,        ///< writes the text and does not end
-  thenLeaves,  ///< writes the text and ends, with its offer
-  endless,     ///< writes the text again and again
-  onlyOnce,    ///< as `all` for the format that is requested first, then as `part`
-};
-
+/// What another program offers, and what it does when one of the formats is requested: "all" writes
+/// the text and ends, "nothing" neither writes nor ends, "part" writes and does not end,
+/// "thenLeaves" writes and ends with its offer, "endless" writes again and again, and "onlyOnce" is
+/// "all" for the format that is requested first, then "part".
 struct Offered {
   std::map<std::string, std::string> formats;
-  Answer answer = Answer::all;
+  std::string answer = "all";
 };
 
 /// A fake Wayland compositor with the protocols that the agent uses, on its own thread. While it
@@ -59,11 +54,9 @@ class ScriptedCompositor {
   /// Activates a window; none if there is no window with this index.
   void makeActive(std::size_t window);
 
-  /// Another program copies; selects.
-  void copy(const Offered& offered);
-  void select(const Offered& offered);
-  /// Clears the clipboard.
-  void clear();
+  /// Another program copies or selects; nothing clears the clipboard or the selection.
+  enum Kind { clipboard, primary };
+  void offer(Kind kind, const std::optional<Offered>& what);
 
   /// Returns what a program gets that pastes the current clipboard.
   [[nodiscard]] std::string pasted(const std::string& format);

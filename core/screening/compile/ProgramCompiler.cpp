@@ -1,11 +1,11 @@
 // Compiles a parsed pattern into instructions, their first sets and its prefix classes.
 //
 // Algorithm: one pass over the tree emits code. A loop whose body always takes one code point
-// becomes one instruction over a set; other counted loops are unrolled. Sets and letters then lead
-// to where the jumps behind them would, and jumps that nothing reaches are left out. Each branch
-// and loop exit gets its first set: the classes with which the rest can begin. The prefix classes
-// follow from simulating all paths through the program for up to eight code points. Bound: code is
-// linear in the unrolled pattern, at most 65,534 instructions; more throws PatternError. Tests:
+// becomes one instruction over a set; other counted loops are unrolled. Instructions that do the
+// same and lead to the same are then kept once. Each branch and loop exit gets its first set: the
+// classes with which the rest can begin. The prefix classes follow from simulating all paths
+// through the program for up to eight code points. Bound: code is linear in the unrolled pattern,
+// at most 65,534 instructions; more throws PatternError. Tests:
 // ScreeningEngine.AgreesWithIcuOnEveryConstruct (quantifiers, loops over one code point),
 // ScreeningEngine.AgreesWithIcuOnEveryRule.
 
@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <map>
 #include <optional>
 #include <set>
 #include <span>
@@ -35,6 +36,7 @@ class ProgramCompiler {
       : classes_(classes), sets_(sets) {}
 
   PatternProgram<Owned> compile(const Node& pattern) {
+    program_.entries.push_back({.instruction = here(), .firstSet = {}});
     emit(pattern);
     add({.operation = Operation::accept});
     // Compiling an exception may add to the list.
@@ -42,9 +44,9 @@ class ProgramCompiler {
     while (compiled < exceptions_.size()) {
       program_.exceptions.push_back({.instruction = here(), .firstSet = {}});
       emit(Node(exceptions_[compiled++]));
-      add({.operation = Operation::accept});
+      add({.operation = Operation::acceptAhead});
     }
-    skipJumps();
+    shareEqualEnds();
     firstBits_.resize(program_.code.size());
     for (ProgramEntry& exception : program_.exceptions)
       exception.firstSet = kept(firstAt(exception.instruction));
@@ -52,14 +54,14 @@ class ProgramCompiler {
       target.firstSet = kept(firstAt(target.instruction));
     for (std::size_t i = 0; i < program_.code.size(); ++i) {
       Instruction& instruction = program_.code[i];
-      if (instruction.operation == Operation::greedyLoop ||
-          instruction.operation == Operation::lazyLoop)
+      if (isLoop(instruction))
         instruction.first = numberOf(kept(firstAt(static_cast<std::uint32_t>(i + 1))));
     }
-    program_.entries.push_back({.instruction = 0, .firstSet = kept(firstAt(0))});
+    ProgramEntry& whole = program_.entries.front();
+    whole.firstSet = kept(firstAt(whole.instruction));
     if (pattern.kind == Node::Kind::alternatives)
-      for (std::size_t i = 0; i < pattern.children.size(); ++i)
-        program_.entries.push_back(program_.targets[i]);
+      for (const ProgramEntry& alternative : targetsOf(program_.code[whole.instruction]))
+        program_.entries.push_back(alternative);
     return std::move(program_);
   }
 
@@ -107,7 +109,7 @@ class ProgramCompiler {
         const std::uint32_t look =
             add({.operation = node.negative ? Operation::negativeLookAhead : Operation::lookAhead});
         emit(node.children.front());
-        add({.operation = Operation::accept});
+        add({.operation = Operation::acceptAhead});
         program_.code[look].first = here();
         break;
       }
@@ -136,38 +138,75 @@ class ProgramCompiler {
     return first;
   }
 
-  // Most alternatives end with letters and a jump behind the others, and are a quarter shorter so.
-  void skipJumps() {
-    auto& code = program_.code;
-    const auto behindJumps = [&code](std::size_t index) {
-      while (code[index].operation == Operation::jump)
-        index = code[index].first;
-      return static_cast<std::uint16_t>(index);
-    };
-    for (std::size_t i = 0; i < code.size(); ++i) {
-      if (takesLetters(code[i])) code[i].max = behindJumps(i + 1);
-      if (leadsToFirst(code[i])) code[i].first = behindJumps(code[i].first);
+  // Alternatives mostly go on alike to the end, and a quarter of the code is kept once so. What
+  // follows an instruction is settled before it, except for the way back of a loop.
+  void shareEqualEnds() {
+    const auto& code = program_.code;
+    std::vector<std::uint16_t> same(code.size());  // the instruction that is kept for each
+    std::map<std::vector<std::uint32_t>, std::uint16_t> known;
+    for (std::size_t i = code.size(); i-- > 0;) {
+      const auto keptFor = [&](std::size_t index) { return index > i ? same[index] : index; };
+      const Instruction& instruction = code[i];
+      if (instruction.operation == Operation::jump) {
+        same[i] = static_cast<std::uint16_t>(keptFor(instruction.first));
+        continue;
+      }
+      const auto index = static_cast<std::uint16_t>(i);
+      same[i] = known.try_emplace(describe(index, keptFor), index).first->second;
     }
-    for (auto* entries : {&program_.targets, &program_.exceptions})
-      for (ProgramEntry& entry : *entries)
-        entry.instruction = behindJumps(entry.instruction);
+    for (std::uint16_t& index : same)
+      while (same[index] != index)
+        index = same[index];
+    keepOnly(same);
+  }
 
-    // What is left of the jumps stands behind an instruction that only goes on to the next one.
-    std::vector<std::uint16_t> places;
-    std::vector<Instruction> kept;
+  /// All that it does, with the instructions that it leads to as `keptFor` says.
+  std::vector<std::uint32_t> describe(std::size_t index, const auto& keptFor) const {
+    const Instruction& instruction = program_.code[index];
+    std::vector<std::uint32_t> all{static_cast<std::uint32_t>(instruction.operation),
+                                   instruction.exception, instruction.count, instruction.set};
+    const auto add = [&](std::size_t number) { all.push_back(static_cast<std::uint32_t>(number)); };
+    if (instruction.operation == Operation::foldedText) add(instruction.first);
+    add(takesLetters(instruction) ? keptFor(index + 1) : instruction.max);
+    if (goesOn(instruction)) add(keptFor(index + 1));
+    if (leadsToFirst(instruction)) add(keptFor(instruction.first));
+    if (instruction.operation == Operation::choice)
+      for (const ProgramEntry& target : targetsOf(instruction))
+        add(keptFor(target.instruction));
+    return all;
+  }
+
+  /// Drops the instructions for which another one is kept, and most jumps: sets and letters lead to
+  /// where those behind them would.
+  void keepOnly(const std::vector<std::uint16_t>& same) {
+    const std::vector<Instruction> code = std::exchange(program_.code, {});
+    const std::vector<ProgramEntry> targets = std::exchange(program_.targets, {});
+    std::vector<std::uint16_t> places(code.size());
     for (std::size_t i = 0; i < code.size(); ++i) {
-      places.push_back(counted(kept.size()));
-      const bool isReached = i == 0 || goesOn(code[i - 1]);
-      if (code[i].operation != Operation::jump || isReached) kept.push_back(code[i]);
+      if (same[i] != i) continue;
+      places[i] = here();
+      add(code[i]);
+      Instruction& kept = program_.code.back();
+      if (takesLetters(kept)) kept.max = same[i + 1];
+      if (leadsToFirst(kept)) kept.first = same[kept.first];
+      if (kept.operation == Operation::choice) {
+        kept.memo = memoRows(1);
+        kept.first = counted(program_.targets.size());
+        const auto from = targets.begin() + code[i].first;
+        program_.targets.insert(program_.targets.end(), from, from + kept.count);
+      } else if (isLoop(kept)) {
+        kept.memo = memoRows(2);
+      }
+      if (goesOn(kept) && same[i + 1] != i + 1)
+        add({.operation = Operation::jump, .first = same[i + 1]});
     }
-    code = std::move(kept);
-    for (Instruction& instruction : code) {
+    for (Instruction& instruction : program_.code) {
       if (takesLetters(instruction)) instruction.max = places[instruction.max];
       if (leadsToFirst(instruction)) instruction.first = places[instruction.first];
     }
-    for (auto* entries : {&program_.targets, &program_.exceptions})
+    for (auto* entries : {&program_.targets, &program_.entries, &program_.exceptions})
       for (ProgramEntry& entry : *entries)
-        entry.instruction = places[entry.instruction];
+        entry.instruction = places[same[entry.instruction]];
   }
 
   static bool takesLetters(const Instruction& instruction) {
@@ -181,10 +220,21 @@ class ProgramCompiler {
            instruction.operation == Operation::negativeLookAhead;
   }
 
+  static bool isLoop(const Instruction& instruction) {
+    return instruction.operation == Operation::greedyLoop ||
+           instruction.operation == Operation::lazyLoop;
+  }
+
   /// Whether it may go on with the instruction behind it.
   static bool goesOn(const Instruction& instruction) {
     return !takesLetters(instruction) && instruction.operation != Operation::jump &&
-           instruction.operation != Operation::choice && instruction.operation != Operation::accept;
+           instruction.operation != Operation::choice &&
+           instruction.operation != Operation::accept &&
+           instruction.operation != Operation::acceptAhead;
+  }
+
+  [[nodiscard]] std::span<const ProgramEntry> targetsOf(const Instruction& choice) const {
+    return std::span(program_.targets).subspan(choice.first, choice.count);
   }
 
   void emitAlternatives(const Node& node) {
@@ -202,10 +252,7 @@ class ProgramCompiler {
   std::uint32_t addChoice(std::size_t targets) {
     const std::uint16_t first = counted(program_.targets.size());
     program_.targets.resize(first + targets);
-    return add({.operation = Operation::choice,
-                .count = counted(targets),
-                .memo = memoRows(1),
-                .first = first});
+    return add({.operation = Operation::choice, .count = counted(targets), .first = first});
   }
 
   void emitRepetition(const Node& node) {
@@ -294,7 +341,6 @@ class ProgramCompiler {
          .exception = iteration.exception,
          .count = counted(min),
          .max = max == unbounded ? Instruction::endless : counted(max),
-         .memo = memoRows(2),
          .set = iteration.set});
   }
 
@@ -369,6 +415,7 @@ class ProgramCompiler {
         return first;
       }
       case Operation::accept:
+      case Operation::acceptAhead:
       case Operation::textEnd:
       case Operation::absoluteEnd:
         return {.classes = ClassBits(sets_.words()), .isNullable = true};
@@ -451,6 +498,7 @@ class PrefixWalk {
     const Instruction& instruction = program_.code[index];
     switch (instruction.operation) {
       case Operation::accept:
+      case Operation::acceptAhead:
       case Operation::textEnd:
       case Operation::absoluteEnd:
         return false;

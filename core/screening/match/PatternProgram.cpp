@@ -30,16 +30,13 @@ constexpr std::uint64_t freeStepsPerCodePoint = 2;
 /// One run of the program: to the end of a match, or of the body of a look-ahead.
 class Backtracker {
  public:
-  enum class Purpose : std::uint8_t { match, lookAhead };
-
-  Backtracker(MatcherState& state, BacktrackStack& stack, Purpose purpose)
+  Backtracker(MatcherState& state, BacktrackStack& stack)
       : state_(state),
         program_(state.program),
         sets_(state.sets),
         text_(state.text),
         stack_(stack),
-        base_(stack.size()),
-        purpose_(purpose) {}
+        base_(stack.size()) {}
 
   /// Where the preferred match ends. To be called once.
   std::optional<std::size_t> run(std::uint32_t instruction, std::size_t position) {
@@ -69,7 +66,9 @@ class Backtracker {
   Step execute(const Instruction& current) {
     switch (current.operation) {
       case Operation::accept:
-        return accept();
+        return Step::accepted;
+      case Operation::acceptAhead:
+        return acceptAhead();
       case Operation::set:
         return matchSet(current);
       case Operation::foldedText:
@@ -107,8 +106,9 @@ class Backtracker {
 
   // ---- Instructions that go one way
 
-  Step accept() {
-    if (state_.isMemoizing && purpose_ == Purpose::lookAhead) storePath();
+  // Successes are stored for these alone, since for a match it matters where it ends.
+  Step acceptAhead() {
+    if (state_.isMemoizing) storePath();
     return Step::accepted;
   }
 
@@ -317,7 +317,7 @@ class Backtracker {
   // ---- Conditions
 
   [[nodiscard]] bool matchesAhead(std::uint32_t instruction, std::size_t position) {
-    return Backtracker(state_, stack_, Purpose::lookAhead).run(instruction, position).has_value();
+    return Backtracker(state_, stack_).run(instruction, position).has_value();
   }
 
   [[nodiscard]] bool isPrecededBy(ClassSetId set) const {
@@ -354,7 +354,6 @@ class Backtracker {
   const ClassifiedText& text_;
   BacktrackStack& stack_;
   const std::size_t base_;  ///< frames below belong to the runs around this one
-  const Purpose purpose_;
   std::uint32_t instruction_ = 0;
   std::size_t position_ = 0;
 };
@@ -373,7 +372,7 @@ Matcher::Matcher(const PatternProgram<Stored>& program, const CharacterClasses& 
 std::optional<std::size_t> Matcher::matchAt(const ProgramEntry& entry, std::size_t start,
                                             BacktrackStack& stack) {
   if (state_.isMemoizing) state_.memo.freeBefore(start);
-  return Backtracker(state_, stack, Backtracker::Purpose::match).run(entry.instruction, start);
+  return Backtracker(state_, stack).run(entry.instruction, start);
 }
 
 }  // namespace quillseal::screening

@@ -28,7 +28,8 @@ struct FirstSet {
 };
 
 enum class Operation : std::uint8_t {
-  accept,
+  accept,       ///< the end of a match
+  acceptAhead,  ///< the end of what is only looked at: of a look-ahead or an exception
   set,
   foldedText,  ///< `count` letters from `first`
   choice,      ///< `count` targets from `first`, in order
@@ -40,7 +41,7 @@ enum class Operation : std::uint8_t {
   textStart,
   textEnd,
   absoluteEnd,
-  lookAhead,          ///< the next instruction to an `accept`; then on at `first`
+  lookAhead,          ///< the next instruction to an `acceptAhead`; then on at `first`
   negativeLookAhead,  ///< likewise
   precededBy,
   notPrecededBy,

@@ -54,6 +54,14 @@ class Pasteboard {
   /// is concealed.
   [[nodiscard]] virtual Ticket fetchRtf(std::function<void(std::optional<std::string>)> done) = 0;
 
+  /// Makes `write` possible, for which some desktops ask the user, and calls `ready`; also when
+  /// that fails or takes too long, and `write` is going to throw. Needed on some desktops only.
+  // NOLINTNEXTLINE(performance-unnecessary-value-param): others keep it.
+  [[nodiscard]] virtual Ticket prepareWrite(std::function<void()> ready) {
+    ready();
+    return {};
+  }
+
   /// Replaces the content by `content`, both flavours at once, and no other flavour. It stays until
   /// replaced, where the desktop allows it also when the agent ends. On failure throws Error and
   /// offers none of `content`.

@@ -5,6 +5,7 @@
 #include <fstream>
 #include <optional>
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 
 #include "Cases.h"
@@ -24,6 +25,7 @@
 #include "portal/PortalRemote.h"
 #include "session/DesktopBus.h"
 #include "session/PollLoop.h"
+#include "x11/X11Selection.h"
 
 namespace quillseal::linux {
 namespace {
@@ -73,7 +75,8 @@ class PortalTest : public ::testing::Test {
     pasteboard.emplace(
         PortalPasteboard::Services{
             .loop = loop, .descriptors = loop, .portal = *portal, .remote = *remote},
-        PortalPasteboard::Patience{.silence = 200ms, .transfer = 400ms, .largest = 1000});
+        ClipboardKeeper({QUILLSEAL_CLIPBOARD_KEEPER_FOR_X11}),
+        PortalPasteboard::Patience{{.silence = 200ms, .transfer = 400ms, .largest = 1000}, 500ms});
     keys.emplace(PortalKeyEvents::Services{.loop = loop,
                                            .remote = *remote,
                                            .applications = applications,
@@ -463,6 +466,32 @@ class PortalClipboard : public PortalTest {
   void await(std::int64_t changeCount) {
     testing::runUntil(loop, [&] { return pasteboard->changeCount() == changeCount; });
   }
+
+  /// Returns what the user is told.
+  std::string writing() {
+    try {
+      pasteboard->write({.plainText = "block", .html = "<p>"});
+      return {};
+    } catch (const Error& error) {
+      return error.what();
+    }
+  }
+
+  std::string preparedWriting() {
+    bool isReady = false;
+    const desktop::Ticket preparing = pasteboard->prepareWrite([&] { isReady = true; });
+    testing::runUntil(loop, [&] { return isReady; });
+    return writing();
+  }
+
+  std::string markupOnX() {
+    return testing::awaited<X11Selection::Content>(loop, [this](auto done) {
+      return X11Selection::read(
+          {.loop = loop, .descriptors = loop},
+          {.selection = X11Selection::Name::clipboard, .formats = {{"text/html"}}, .isEnough = {}},
+          done);
+    })["text/html"];
+  }
 };
 
 TEST_F(PortalClipboard, HoldsWhatWasCopied) {
@@ -530,9 +559,9 @@ TEST_F(PortalClipboard, OutlivesEveryOwner) {
 
 TEST_F(PortalClipboard, OffersTheBlockOrSaysThatItDoesNot) {
   begin({});
-  EXPECT_THROW(pasteboard->write({.plainText = "block", .html = "<p>"}), Error);
-  testing::runUntil(loop, [&] { return remote->isOpen(); });  // for the next attempt
-  pasteboard->write({.plainText = "block", .html = "<p>"});
+  EXPECT_THAT(writing(), StartsWith("The clipboard could not be written. "));
+  ASSERT_TRUE(open());
+  EXPECT_EQ(writing(), "");
   EXPECT_EQ(pasteboard->changeCount(), 1);
   EXPECT_TRUE(desk->hasCall("SetSelection"));
   settle();
@@ -568,15 +597,69 @@ TEST_F(PortalClipboard, OffersTheBlockOrSaysThatItDoesNot) {
 
   begin({.takenSelections = 1});
   ASSERT_TRUE(open());
-  pasteboard->write({.plainText = "block", .html = "<p>"});
+  EXPECT_EQ(writing(), "");
   EXPECT_THROW(pasteboard->write({.plainText = "other", .html = "<p>"}), Error);
   desk->emit("Clipboard", "SelectionTransfer", "osu", ScriptedPortal::session, "text/plain", 9U);
   testing::runUntil(loop, [&] { return desk->hasCall("SelectionWriteDone done"); });
   EXPECT_EQ(desk->received(), "block");
   begin({.offer = {.remoteDesktop = 2}});
   ASSERT_TRUE(open());
-  EXPECT_THROW(pasteboard->write({.plainText = "block", .html = "<p>"}), Error);
+  EXPECT_THAT(writing(), HasSubstr("did not take"));
   EXPECT_FALSE(desk->hasCall("RequestClipboard"));
+}
+
+TEST_F(PortalClipboard, OpensALostSessionAgainOrSaysWhyNot) {
+  begin({}, "old");
+  ASSERT_TRUE(open());
+  desk->emit("Session", "Closed", "");
+  testing::runUntil(loop, [&] { return !remote->isOpen(); });
+  EXPECT_EQ(preparedWriting(), "");
+  EXPECT_TRUE(desk->hasCall("SetSelection"));
+
+  begin({.answer = 1});
+  EXPECT_THAT(preparedWriting(), HasSubstr("Your desktop did not let Quillseal"));
+  begin({.answers = false});
+  EXPECT_THAT(preparedWriting(), HasSubstr("has not answered yet"));
+  desk->allow();
+  EXPECT_EQ(preparedWriting(), "");
+  desk.reset();
+  testing::runUntil(loop, [&] { return !remote->isOpen(); });
+  EXPECT_THAT(preparedWriting(), HasSubstr("does not let Quillseal in"));
+}
+
+// As on a desktop that keeps the X server's clipboard equal to its own.
+TEST_F(PortalClipboard, IsHandedOverToAKeeperWhenTheSessionEnds) {
+  const FileDescriptor nothing(::open("/dev/null", O_RDONLY));
+  const testing::Server server({.file = "/usr/bin/Xvfb",
+                                .arguments = {"-displayfd", "1", "-noreset", "-nolisten", "tcp"},
+                                .input = nothing.get()});
+  ::setenv("DISPLAY", (":" + server.address).c_str(), 1);
+  enum class End { ofSession, ofAgent, ofOffer };
+  for (const End end : {End::ofOffer, End::ofAgent, End::ofSession}) {
+    begin({});
+    ASSERT_TRUE(open());
+    offerBlock();
+    const std::string markup = "<p>" + std::to_string(static_cast<int>(end));
+    pasteboard->write({.plainText = "block", .html = markup});
+    desk->copy({"text/plain"}, Report::ofTheAgent);
+    testing::runUntil(loop, [&] { return pasteboard->isWritten(); });
+    if (end == End::ofOffer) {
+      desk->copy({"text/plain"});
+      testing::runUntil(loop, [&] { return !pasteboard->isWritten(); });
+    }
+    if (end == End::ofSession)
+      desk->emit("Session", "Closed", "");
+    else
+      pasteboard.reset();
+    if (end == End::ofOffer) {
+      const auto later = loop.now() + 500ms;
+      testing::runUntil(loop, [&] { return loop.now() > later; });
+      EXPECT_EQ(markupOnX(), "");
+    } else {
+      testing::runUntil(loop, [&] { return markupOnX() == markup; });
+    }
+  }
+  ::unsetenv("DISPLAY");
 }
 
 // Offer -------------------------------------------------------------------------------------------

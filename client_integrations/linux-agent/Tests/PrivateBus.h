@@ -1,15 +1,11 @@
 #pragma once
 
-#include <algorithm>
-#include <array>
 #include <csignal>
 #include <cstdlib>
 #include <optional>
-#include <stdexcept>
 #include <string>
 
 #include <sys/mman.h>
-#include <unistd.h>
 
 #include "Programs.h"
 #include "session/FileDescriptor.h"
@@ -22,28 +18,19 @@ class PrivateBus {
  public:
   explicit PrivateBus(const char* variable, const std::string& services = "/nowhere")
       : variable_(variable) {
-    std::array<int, 2> ends{};
-    if (::pipe(ends.data()) != 0) throw std::runtime_error("no pipe");
     const std::string configuration =
         "<busconfig><listen>unix:tmpdir=/tmp</listen><policy context='default'>"
         "<allow send_destination='*' eavesdrop='true'/><allow eavesdrop='true'/><allow own='*'/>"
         "</policy><servicedir>" +
         services + "</servicedir></busconfig>";
-    const linux::FileDescriptor file(::memfd_create("bus", 0)), told(ends[0]);
-    linux::FileDescriptor telling(ends[1]);
+    const linux::FileDescriptor file(::memfd_create("bus", 0));
     static_cast<void>(linux::writeAll(file, configuration));
     daemon_.emplace(
         linux::Spawn{.file = "/usr/bin/dbus-daemon",
                      .arguments = {"--config-file=/proc/self/fd/" + std::to_string(file.get()),
                                    "--nofork", "--nopidfile", "--print-address=1"},
-                     .input = file.get(),
-                     .output = telling.get()});
-    telling = {};
-    std::array<char, 200> address{};
-    if (::read(told.get(), address.data(), address.size() - 1) <= 0)
-      throw std::runtime_error("dbus-daemon does not start");
-    *std::find(address.begin(), address.end(), '\n') = '\0';
-    ::setenv(variable_.c_str(), address.data(), 1);
+                     .input = file.get()});
+    ::setenv(variable_.c_str(), daemon_->address.c_str(), 1);
   }
   PrivateBus(const PrivateBus&) = delete;
   PrivateBus& operator=(const PrivateBus&) = delete;
@@ -54,7 +41,7 @@ class PrivateBus {
 
  private:
   std::string variable_;
-  std::optional<Program> daemon_;
+  std::optional<Server> daemon_;
 };
 
 }  // namespace quillseal::testing

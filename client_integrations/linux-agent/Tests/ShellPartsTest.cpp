@@ -201,7 +201,7 @@ TEST(QtPasteboard, ReadsWhatProgramsOffer) {
   const QGuiApplication application(count, arguments.data());
   QtMainLoop loop;
   QtDescriptors descriptors;
-  QtPasteboard pasteboard({.loop = loop, .descriptors = descriptors});
+  QtPasteboard pasteboard({.loop = loop, .descriptors = descriptors}, ClipboardKeeper({}));
 
   for (const char* hint : {"", "secret"}) {
     auto data = std::make_unique<QMimeData>();

@@ -298,7 +298,13 @@ struct FakePasteboard final : Fake<desktop::Pasteboard> {
     record.add("fetch RTF", "fetch RTF");
     return record.soon([this, done = std::move(done)] { done(clipboard.rtf); });
   }
+  Ticket prepareWrite(std::function<void()> ready) override {
+    isPrepared_ = true;
+    ready();
+    return {};
+  }
   void write(const desktop::PasteboardContent& content) override {
+    if (!std::exchange(isPrepared_, false)) throw std::logic_error("nothing was prepared");
     record.mayFail("write clipboard");
     if (const auto once = std::exchange(refusal, std::nullopt)) throw Error(*once);
     record.trace.emplace_back("write clipboard");
@@ -311,6 +317,7 @@ struct FakePasteboard final : Fake<desktop::Pasteboard> {
 
  private:
   std::int64_t changeCount_ = 0;
+  bool isPrepared_ = false;
   Copy fetched_;
   std::function<void()> changed_;
 };

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringDecoder>
+#include <algorithm>
 
 namespace quillseal::linux::ClipboardFormats {
 namespace {
@@ -46,6 +47,15 @@ const Groups& wanted() {
 const Groups& wantedForRtf() {
   static const Groups groups = {{concealed}, {passwordHint}, {"text/rtf", "application/rtf"}};
   return groups;
+}
+
+std::vector<std::string> chosen(const Groups& groups, const std::vector<std::string>& offered) {
+  std::vector<std::string> formats;
+  for (const std::vector<std::string>& group : groups) {
+    const auto found = std::ranges::find_first_of(group, offered);
+    if (found != group.end()) formats.push_back(*found);
+  }
+  return formats;
 }
 
 const std::vector<std::string>& ofPlainText() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <map>
 #include <optional>
 #include <string>
@@ -11,6 +12,9 @@ namespace quillseal::linux::ClipboardFormats {
 inline constexpr const char* plainText = "text/plain;charset=utf-8";
 inline constexpr const char* html = "text/html";
 
+/// The formats in which a signed block is offered as plain text.
+inline constexpr std::array ofBlockAsText{plainText, "text/plain", "UTF8_STRING"};
+
 /// Maps the name of a format to its bytes.
 using Content = std::map<std::string, std::string>;
 
@@ -21,6 +25,10 @@ using Groups = std::vector<std::vector<std::string>>;
 /// secret itself is not read. No other format is requested, because a word processor renders the
 /// selection again for each.
 [[nodiscard]] const Groups& wanted();
+
+/// Returns the first offered format of each group, of those that have one.
+[[nodiscard]] std::vector<std::string> chosen(const Groups& groups,
+                                              const std::vector<std::string>& offered);
 
 /// Returns the formats that are read for RTF, the marks of a secret first.
 [[nodiscard]] const Groups& wantedForRtf();

@@ -1,19 +1,22 @@
 #include "clipboard/ClipboardKeeper.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
+#include <charconv>
 #include <chrono>
 #include <csignal>
 #include <utility>
 
+#include <fcntl.h>
 #include <poll.h>
 #include <sys/mman.h>
+#include <sys/socket.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include "core/text/Error.h"
-#include "session/FileDescriptor.h"
 #include "session/Spawn.h"
 
 namespace quillseal::linux {
@@ -44,27 +47,72 @@ bool endsInTime(pid_t process) {
   return count == 1;
 }
 
+/// Waits for the process's end, or ends it. Returns whether it did what it should.
+bool endsWell(pid_t process) {
+  if (!endsInTime(process)) kill(process, SIGKILL);
+  int status = 0;
+  return waitpid(process, &status, 0) == process && status == 0;
+}
+
+/// Not open when there is not enough memory.
+FileDescriptor inputWith(const desktop::PasteboardContent& content) {
+  FileDescriptor input(memfd_create("quillseal-clipboard", MFD_CLOEXEC));
+  if (!writeAll(input, KeptContent::written(content))) return {};
+  lseek(input.get(), 0, SEEK_SET);
+  return input;
+}
+
 }  // namespace
 
 ClipboardKeeper::ClipboardKeeper(std::vector<std::filesystem::path> places)
     : places_(std::move(places)) {}
 
-void ClipboardKeeper::keep(const desktop::PasteboardContent& content) const {
+std::uint32_t ClipboardKeeper::keep(const desktop::PasteboardContent& content) const {
   const auto place = firstProgram(places_);
   if (!place) fail("a program of Quillseal is missing. Install Quillseal again.");
-  const FileDescriptor input(memfd_create("quillseal-clipboard", MFD_CLOEXEC));
-  if (!writeAll(input, KeptContent::written(content)))
+  const FileDescriptor input = inputWith(content);
+  std::array<int, 2> ends{-1, -1};
+  if (!input.isOpen() || pipe2(ends.data(), O_CLOEXEC) != 0)
     fail("there is not enough memory. Close some programs and try again.");
-  lseek(input.get(), 0, SEEK_SET);
+  const FileDescriptor told(ends[0]);
+  FileDescriptor telling(ends[1]);
 
   // The process that is started here ends when its child holds the offer that the desktop has
   // taken.
-  const auto process = start({.file = *place, .input = input.get()});
+  const auto process = start({.file = *place, .input = input.get(), .output = telling.get()});
   if (!process) fail(place->string() + " could not be started. Install Quillseal again.");
-  if (!endsInTime(*process)) kill(*process, SIGKILL);
-  int status = 0;
-  if (waitpid(*process, &status, 0) != *process || status != 0)
+  telling = {};
+  std::array<char, 16> window{};
+  if (!endsWell(*process) || read(told.get(), window.data(), window.size() - 1) <= 0)
     fail("the desktop did not accept it. If it never does, log out and in.");
+  std::uint32_t number = 0;
+  std::from_chars(window.begin(), window.end(), number);
+  return number;
+}
+
+ClipboardKeeper::Waiting ClipboardKeeper::keepLater(
+    const desktop::PasteboardContent& content) const {
+  const auto place = firstProgram(places_);
+  const FileDescriptor input = inputWith(content);
+  std::array<int, 2> ends{-1, -1};
+  if (!place || !input.isOpen() ||
+      socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0)
+    return {};
+  FileDescriptor ours(ends[0]);
+  const FileDescriptor ofKeeper(ends[1]);
+  const auto process = start({.file = *place,
+                              .arguments = {std::string(waiting)},
+                              .input = input.get(),
+                              .output = ofKeeper.get()});
+  if (!process || !endsWell(*process)) return {};
+  return Waiting(std::move(ours));
+}
+
+void ClipboardKeeper::Waiting::dismiss() {
+  if (!line_.isOpen()) return;
+  constexpr char byte = 0;
+  send(line_.get(), &byte, 1, MSG_NOSIGNAL);
+  line_ = {};
 }
 
 }  // namespace quillseal::linux

@@ -1,11 +1,15 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "desktop/Pasteboard.h"
+#include "session/FileDescriptor.h"
 
 namespace quillseal::linux {
 
@@ -16,14 +20,37 @@ class ClipboardKeeper {
   static constexpr std::string_view program = "quillseal-clipboard-keeper";
   /// For the clipboard of an X server. It is also the class of its window there.
   static constexpr std::string_view programForX11 = "quillseal-clipboard-keeper-x11";
+  /// The argument with which the program for X11 waits.
+  static constexpr std::string_view waiting = "--waiting";
+
+  /// A keeper that waits, and makes its offer once this object or its process has gone.
+  class Waiting {
+   public:
+    Waiting() = default;  ///< none
+    explicit Waiting(FileDescriptor line) : line_(std::move(line)) {}
+
+    [[nodiscard]] bool isRunning() const { return line_.isOpen(); }
+
+    /// Ends it, and nothing is offered.
+    void dismiss();
+
+   private:
+    FileDescriptor line_;
+  };
 
   /// `places`: candidate paths of one of the programs; the first that exists is used.
   explicit ClipboardKeeper(std::vector<std::filesystem::path> places);
 
-  /// Starts offering `content` and returns once the compositor or X server has taken the offer.
-  /// Throws Error, and offers nothing, when that takes more than five seconds. REQUIRES: SIGCHLD is
-  /// not ignored, or the keeper's exit status is lost.
-  void keep(const desktop::PasteboardContent& content) const;
+  /// Starts offering `content` and returns once the compositor or X server has taken the offer: the
+  /// window that owns the clipboard, 0 where that is no window. Throws Error, and offers nothing,
+  /// when that takes more than five seconds. REQUIRES: SIGCHLD is not ignored, or the keeper's exit
+  /// status is lost.
+  [[nodiscard]] std::uint32_t keep(const desktop::PasteboardContent& content) const;
+
+  /// Starts a keeper for X11 that waits. Where its time has come, and the X server's clipboard
+  /// holds the same plain text or nothing, it offers `content` there. Without a running one it is
+  /// none.
+  [[nodiscard]] Waiting keepLater(const desktop::PasteboardContent& content) const;
 
  private:
   std::vector<std::filesystem::path> places_;

@@ -7,6 +7,7 @@
 #include <list>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -18,17 +19,23 @@
 #include "clipboard/ClipboardKeeper.h"
 #include "clipboard/KeeperProcess.h"
 #include "session/PollLoop.h"
+#include "x11/X11Selection.h"
 #include "x11/XcbHandles.h"
 
 namespace {
 
 namespace x11 = quillseal::linux::x11;
 namespace ClipboardFormats = quillseal::linux::ClipboardFormats;
+namespace X11Selection = quillseal::linux::X11Selection;
 using quillseal::desktop::PasteboardContent;
 using quillseal::desktop::Ticket;
 using quillseal::linux::Descriptors;
 
-constexpr std::chrono::seconds patience{5};
+using std::chrono::steady_clock;
+
+/// An offer that ends may stay silent, and the desktop needs a moment to put its own copy there.
+constexpr std::chrono::seconds longestEnd{10};
+constexpr std::chrono::milliseconds pauseBetweenLooks{100};
 /// What is longer goes in pieces. The server takes requests of 256 KiB at least.
 constexpr std::size_t longestPiece = std::size_t{64} * 1024;
 constexpr std::uint8_t bits8 = 8;
@@ -41,13 +48,15 @@ class Offer final : public quillseal::linux::KeptOffer {
       : connection_(std::move(connection)), content_(std::move(content)) {}
 
   [[nodiscard]] bool make() override;
+  [[nodiscard]] bool makeInPlace() override;
+  [[nodiscard]] std::uint32_t window() const override { return window_; }
 
   void hold() override {
-    const Ticket watch =
-        loop_.watch(xcb_get_file_descriptor(connection_.get()), Descriptors::Interest::reading,
-                    [this](Descriptors::Interest) { receive(); });
+    const Ticket watch = loop_.loop().watch(xcb_get_file_descriptor(connection_.get()),
+                                            Descriptors::Interest::reading,
+                                            [this](Descriptors::Interest) { receive(); });
     receive();  // what has come with earlier answers
-    loop_.run();
+    loop_.loop().run();
   }
 
  private:
@@ -66,6 +75,9 @@ class Offer final : public quillseal::linux::KeptOffer {
   [[nodiscard]] xcb_atom_t atom(std::string_view name) const {
     return x11::atomOf(connection_.get(), name);
   }
+  void prepare();
+  [[nodiscard]] bool take(xcb_timestamp_t time);
+  [[nodiscard]] std::optional<std::string> textThere();
   [[nodiscard]] xcb_timestamp_t timeOfServer() const;
   void receive();
   void handle(const xcb_generic_event_t& event);
@@ -77,14 +89,13 @@ class Offer final : public quillseal::linux::KeptOffer {
                     const Place& place) const;
   void sendPiece(const Place& place);
   void forget(xcb_window_t window);
-  void replaced();
 
   template <typename Event>
   static const Event& as(const xcb_generic_event_t& event) {
     return reinterpret_cast<const Event&>(event);  // all have the same 32 bytes
   }
 
-  quillseal::linux::PollLoop loop_;
+  quillseal::linux::KeeperLoop loop_;
   x11::Connection connection_;
   PasteboardContent content_;
   xcb_window_t window_ = XCB_NONE;
@@ -97,24 +108,61 @@ class Offer final : public quillseal::linux::KeptOffer {
   xcb_atom_t incremental_ = XCB_ATOM_NONE;
   std::map<xcb_atom_t, std::string_view> texts_;  ///< by target; parts of `content_`
   std::list<Transfer> transfers_;
-  bool isReplaced_ = false;
-  Ticket end_;
 };
 
 bool Offer::make() {
+  prepare();
+  return take(timeOfServer());
+}
+
+bool Offer::makeInPlace() {
+  prepare();
+  const auto end = steady_clock::now() + longestEnd;
+  while (steady_clock::now() < end && xcb_connection_has_error(connection_.get()) == 0) {
+    // The server refuses a selection to anybody who names a time before its last change: what is
+    // copied after this moment stays.
+    const xcb_timestamp_t time = timeOfServer();
+    const std::optional<std::string> text = textThere();
+    const bool isOurs = text == content_.plainText;
+    if (isOurs && take(time)) return true;
+    if (!isOurs && text && !text->empty()) return false;
+    const Ticket pause = loop_.loop().after(pauseBetweenLooks, [this] { loop_.loop().stop(); });
+    loop_.loop().run();
+  }
+  return false;
+}
+
+/// Returns the plain text on the clipboard: this offer's when there is nobody's, nothing when its
+/// owner does not answer.
+std::optional<std::string> Offer::textThere() {
+  if (x11::ownerOf(connection_.get(), clipboard_) == XCB_NONE) return content_.plainText;
+  std::optional<std::string> text;
+  const Ticket reading =
+      X11Selection::read({.loop = loop_.loop(), .descriptors = loop_.loop()},
+                         {.selection = X11Selection::Name::clipboard,
+                          .formats = {{"UTF8_STRING", ClipboardFormats::plainText}},
+                          .isEnough = {}},
+                         [this, &text](const X11Selection::Content& content) {
+                           if (!content.empty()) text = content.begin()->second;
+                           loop_.loop().stop();
+                         });
+  loop_.loop().run();
+  return text;
+}
+
+void Offer::prepare() {
   xcb_connection_t* const connection = connection_.get();
   window_ = xcb_generate_id(connection);
-  const std::uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
   xcb_create_window(connection, XCB_COPY_FROM_PARENT, window_,
                     xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root, 0, 0, 1, 1, 0,
-                    XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK, &events);
+                    XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
   clipboard_ = atom("CLIPBOARD");
   targets_ = atom("TARGETS");
   timestamp_ = atom("TIMESTAMP");
   multiple_ = atom("MULTIPLE");
   pairs_ = atom("ATOM_PAIR");
   incremental_ = atom("INCR");
-  for (const char* format : {ClipboardFormats::plainText, "text/plain", "UTF8_STRING"})
+  for (const char* format : ClipboardFormats::ofBlockAsText)
     texts_[atom(format)] = content_.plainText;
   texts_[atom(ClipboardFormats::html)] = content_.html;
   // The instance and the class.
@@ -122,9 +170,14 @@ bool Offer::make() {
   const std::string both = name + name;
   xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window_, XCB_ATOM_WM_CLASS,
                       XCB_ATOM_STRING, bits8, static_cast<std::uint32_t>(both.size()), both.data());
-  since_ = timeOfServer();
-  xcb_set_selection_owner(connection, window_, clipboard_, since_);
-  return x11::ownerOf(connection, clipboard_) == window_;
+  const std::uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
+  xcb_change_window_attributes(connection, window_, XCB_CW_EVENT_MASK, &events);
+}
+
+bool Offer::take(xcb_timestamp_t time) {
+  since_ = time;
+  xcb_set_selection_owner(connection_.get(), window_, clipboard_, time);
+  return x11::ownerOf(connection_.get(), clipboard_) == window_;
 }
 
 /// The conventions want a time for taking a selection, and the server tells it with each change.
@@ -132,20 +185,15 @@ xcb_timestamp_t Offer::timeOfServer() const {
   xcb_change_property(connection_.get(), XCB_PROP_MODE_APPEND, window_, XCB_ATOM_WM_CLASS,
                       XCB_ATOM_STRING, bits8, 0, nullptr);
   xcb_flush(connection_.get());
-  xcb_timestamp_t time = XCB_CURRENT_TIME;
-  for (int change = 0; change < 2; ++change) {
-    const x11::Reply<xcb_generic_event_t> event(xcb_wait_for_event(connection_.get()));
-    if (event == nullptr) break;
-    time = as<xcb_property_notify_event_t>(*event).time;
-  }
-  return time;
+  const x11::Reply<xcb_generic_event_t> event(xcb_wait_for_event(connection_.get()));
+  return event == nullptr ? XCB_CURRENT_TIME : as<xcb_property_notify_event_t>(*event).time;
 }
 
 void Offer::receive() {
   while (const x11::Reply<xcb_generic_event_t> event{xcb_poll_for_event(connection_.get())})
     handle(*event);
   xcb_flush(connection_.get());
-  if (xcb_connection_has_error(connection_.get()) != 0) loop_.stop();
+  if (xcb_connection_has_error(connection_.get()) != 0) loop_.loop().stop();
 }
 
 void Offer::handle(const xcb_generic_event_t& event) {
@@ -154,7 +202,7 @@ void Offer::handle(const xcb_generic_event_t& event) {
     case XCB_SELECTION_REQUEST:
       return answer(as<xcb_selection_request_event_t>(event));
     case XCB_SELECTION_CLEAR:
-      return replaced();
+      return loop_.replaced(transfers_.empty());
     case XCB_PROPERTY_NOTIFY:
       if (const auto& change = as<xcb_property_notify_event_t>(event);
           change.state == XCB_PROPERTY_DELETE)
@@ -258,26 +306,23 @@ void Offer::sendPiece(const Place& place) {
                       piece.data());
   if (!piece.empty()) return;
   transfers_.erase(transfer);
-  if (isReplaced_ && transfers_.empty()) loop_.stop();
+  loop_.transferEnded(transfers_.empty());
 }
 
 void Offer::forget(xcb_window_t window) {
   transfers_.remove_if([&](const Transfer& one) { return one.place.window == window; });
-  if (isReplaced_ && transfers_.empty()) loop_.stop();
-}
-
-void Offer::replaced() {
-  isReplaced_ = true;
-  if (transfers_.empty()) return loop_.stop();
-  end_ = loop_.after(patience, [this] { loop_.stop(); });  // lets running transfers finish
+  loop_.transferEnded(transfers_.empty());
 }
 
 }  // namespace
 
-int main() {
-  return quillseal::linux::runKeeper([](PasteboardContent content) -> std::unique_ptr<Offer> {
+int main(int argc, char** argv) {
+  const auto offerOf = [](PasteboardContent content) -> std::unique_ptr<Offer> {
     x11::Connection connection(xcb_connect(nullptr, nullptr));
     if (xcb_connection_has_error(connection.get()) != 0) return nullptr;
     return std::make_unique<Offer>(std::move(connection), std::move(content));
-  });
+  };
+  if (argc > 1 && argv[1] == quillseal::linux::ClipboardKeeper::waiting)
+    return quillseal::linux::runWaitingKeeper(offerOf);
+  return quillseal::linux::runKeeper(offerOf);
 }

@@ -1,7 +1,6 @@
 // Keeps text on the clipboard of a Wayland compositor.
 
 #include <cerrno>
-#include <chrono>
 #include <list>
 #include <memory>
 #include <string_view>
@@ -13,19 +12,17 @@
 #include "clipboard/ClipboardFormats.h"
 #include "clipboard/KeeperProcess.h"
 #include "session/FileDescriptor.h"
-#include "session/PollLoop.h"
 #include "wayland/WaylandConnection.h"
 #include "wayland/WaylandDataControl.h"
 
 namespace {
 
 namespace wayland = quillseal::linux::wayland;
+namespace ClipboardFormats = quillseal::linux::ClipboardFormats;
 using quillseal::desktop::PasteboardContent;
 using quillseal::desktop::Ticket;
 using quillseal::linux::Descriptors;
 using quillseal::linux::WaylandConnection;
-
-constexpr std::chrono::seconds patience{5};
 
 class Offer final : public quillseal::linux::KeptOffer {
  public:
@@ -37,9 +34,10 @@ class Offer final : public quillseal::linux::KeptOffer {
   [[nodiscard]] bool make() override;
 
   void hold() override {
-    connection_->onEnd([this] { loop_.stop(); });
-    connection_->serve(loop_, loop_);
-    if (!isReplaced_) loop_.run();
+    quillseal::linux::PollLoop& loop = loop_.loop();
+    connection_->onEnd([&loop] { loop.stop(); });
+    connection_->serve(loop, loop);
+    loop.run();
   }
 
  private:
@@ -51,13 +49,14 @@ class Offer final : public quillseal::linux::KeptOffer {
 
   void send(std::string_view format, int file) {
     fcntl(file, F_SETFL, fcntl(file, F_GETFL) | O_NONBLOCK);
-    const bool isHtml = format == quillseal::linux::ClipboardFormats::html;
+    const bool isHtml = format == ClipboardFormats::html;
     Transfer& transfer =
         transfers_.emplace_back(Transfer{.file = quillseal::linux::FileDescriptor(file),
                                          .left = isHtml ? content_.html : content_.plainText,
                                          .watch = {}});
-    transfer.watch = loop_.watch(file, Descriptors::Interest::writing,
-                                 [this, &transfer](Descriptors::Interest) { goOn(transfer); });
+    transfer.watch =
+        loop_.loop().watch(file, Descriptors::Interest::writing,
+                           [this, &transfer](Descriptors::Interest) { goOn(transfer); });
   }
 
   void goOn(Transfer& transfer) {
@@ -67,19 +66,15 @@ class Offer final : public quillseal::linux::KeptOffer {
     if (written < 0 && (errno == EAGAIN || errno == EINTR)) return;
     transfer.watch = {};
     transfers_.remove_if([&](const Transfer& other) { return &other == &transfer; });
-    if (isReplaced_ && transfers_.empty()) loop_.stop();
+    loop_.transferEnded(transfers_.empty());
   }
 
-  void replaced() {
-    isReplaced_ = true;
-    if (transfers_.empty()) return loop_.stop();
-    end_ = loop_.after(patience, [this] { loop_.stop(); });  // lets running transfers finish
-  }
+  void replaced() { loop_.replaced(transfers_.empty()); }
 
   static Offer& of(void* data) { return *static_cast<Offer*>(data); }
   struct Listeners;
 
-  quillseal::linux::PollLoop loop_;
+  quillseal::linux::KeeperLoop loop_;
   std::unique_ptr<WaylandConnection> connection_;
   PasteboardContent content_;
   wayland::DataControlManager manager_;
@@ -89,9 +84,7 @@ class Offer final : public quillseal::linux::KeptOffer {
       latest_;  ///< the newest offer of any program; a later event refers to it
   bool isOffered_ = false;
   bool isTaken_ = false;
-  bool isReplaced_ = false;
   std::list<Transfer> transfers_;
-  Ticket end_;
 };
 
 struct Offer::Listeners {
@@ -116,13 +109,13 @@ bool Offer::make() {
   zwlr_data_control_device_v1_add_listener(device_.get(), &Listeners::ofDevice, this);
   source_.reset(zwlr_data_control_manager_v1_create_data_source(manager_.get()));
   zwlr_data_control_source_v1_add_listener(source_.get(), &Listeners::ofSource, this);
-  for (const char* format : {quillseal::linux::ClipboardFormats::plainText, "text/plain",
-                             "UTF8_STRING", quillseal::linux::ClipboardFormats::html})
+  for (const char* format : ClipboardFormats::ofBlockAsText)
     zwlr_data_control_source_v1_offer(source_.get(), format);
+  zwlr_data_control_source_v1_offer(source_.get(), ClipboardFormats::html);
   if (!connection_->roundTrip()) return false;
   isOffered_ = true;
   zwlr_data_control_device_v1_set_selection(device_.get(), source_.get());
-  return connection_->roundTrip() && isTaken_ && !isReplaced_;
+  return connection_->roundTrip() && isTaken_ && !loop_.isReplaced();
 }
 
 }  // namespace

@@ -5,15 +5,15 @@
 namespace quillseal::linux {
 
 XwaylandPasteboard::XwaylandPasteboard(const Services& services, ClipboardKeeper keeper)
-    : QtPasteboard(services.reading), services_(services), keeper_(std::move(keeper)) {}
+    : QtPasteboard(services.reading, std::move(keeper)), services_(services) {}
 
 void XwaylandPasteboard::write(const desktop::PasteboardContent& content) {
   before_ = changes();
-  keeper_.keep(content);
+  QtPasteboard::write(content);
 }
 
 bool XwaylandPasteboard::isWritten() const {
-  if (services_.windows.classOfClipboardOwner() != ClipboardKeeper::programForX11) return false;
+  if (services_.windows.clipboardOwner() != keepersWindow()) return false;
   const std::optional<std::uint32_t> now = changes();
   return !before_ || !now || *now != *before_;
 }

@@ -34,7 +34,6 @@ class XwaylandPasteboard : public QtPasteboard {
   [[nodiscard]] std::optional<std::uint32_t> changes() const;
 
   Services services_;
-  ClipboardKeeper keeper_;
   std::optional<std::uint32_t> before_;  ///< changes that the Shell had counted at the last write
 };
 

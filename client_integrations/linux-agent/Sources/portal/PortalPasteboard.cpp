@@ -4,7 +4,6 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
-#include <map>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -38,8 +37,12 @@ DesktopBus::Signal signal(const char* name) {
 }
 
 const std::vector<std::string>& offeredFormats() {
-  static const std::vector<std::string> formats{ClipboardFormats::plainText, "text/plain",
-                                                "UTF8_STRING", ClipboardFormats::html};
+  static const std::vector<std::string> formats = [] {
+    std::vector<std::string> all(ClipboardFormats::ofBlockAsText.begin(),
+                                 ClipboardFormats::ofBlockAsText.end());
+    all.emplace_back(ClipboardFormats::html);
+    return all;
+  }();
   return formats;
 }
 
@@ -69,15 +72,25 @@ std::vector<std::string> formatsIn(sd_bus_message& signal) {
 }  // namespace
 
 struct PortalPasteboard::State {
-  State(const Services& with, Patience limits)
-      : services(with),
+  State(PortalPasteboard& ours, const Services& with, ClipboardKeeper forLater, Patience limits)
+      : pasteboard(ours),
+        services(with),
+        keeper(std::move(forLater)),
         patience(limits),
         onOwner([this](sd_bus_message& message) { ownerChanged(message); }),
         onTransfer([this](sd_bus_message& message) { transfer(message); }) {
     DesktopBus& bus = services.portal.bus();
     owners = bus.subscribe(signal("SelectionOwnerChanged"), onOwner);
     requests = bus.subscribe(signal("SelectionTransfer"), onTransfer);
+    services.remote.onEnd([this] {
+      isOwner = false;
+      waiting = {};  // which takes over
+    });
   }
+
+  ~State() { services.remote.onEnd({}); }
+  State(const State&) = delete;
+  State& operator=(const State&) = delete;
 
   [[nodiscard]] bool isMeantBy(sd_bus_message& message) const {
     const char* session = nullptr;
@@ -91,43 +104,25 @@ struct PortalPasteboard::State {
     if (enterOption(message, "o", "session_is_owner", "b"))
       ::sd_bus_message_read(&message, "b", &isOurs);
     ++owner;
+    // A report from before `write` finds the agent no owner yet.
+    if (isOwner && isOurs == 0) waiting.dismiss();
     isOwner = isOurs != 0;
     formats = isOurs != 0 ? std::vector<std::string>() : formatsIn(message);
     // `write` has counted its own change.
-    if (!formats.empty()) change();
-  }
-
-  void change() {
-    ++changeCount;
-    fetched.clear();
-    telling = services.loop.after({}, [this] {
-      // A copy: a watch may drop others or add new ones.
-      for (auto& [id, unused] : std::map(watches))
-        if (const auto watch = watches.extract(id); !watch.empty()) watch.mapped()();
-    });
+    if (!formats.empty()) pasteboard.change();
   }
 
   // Reading
 
-  [[nodiscard]] desktop::Ticket read(const ClipboardFormats::Groups& groups,
-                                     std::function<void(Content)> done) {
-    return runTask<Content>(services.loop, contentOf(groups), std::move(done));
-  }
-
   Task<Content> contentOf(const ClipboardFormats::Groups& groups) {
     const std::uint64_t readOwner = owner;
     const auto end = services.loop.now() + patience.transfer;
-    const std::vector<std::string> offered = formats;
     Content content;
-    for (const std::vector<std::string>& group : groups) {
-      const auto found = std::ranges::find_if(group, [&offered](const std::string& format) {
-        return std::ranges::find(offered, format) != offered.end();
-      });
-      if (found == group.end()) continue;
+    for (const std::string& format : ClipboardFormats::chosen(groups, formats)) {
       if (ClipboardFormats::isSecret(content)) break;
-      std::optional<std::string> bytes = co_await bytesOf(*found, end);
+      std::optional<std::string> bytes = co_await bytesOf(format, end);
       if (!bytes) break;
-      content.insert_or_assign(*found, *std::move(bytes));
+      content.insert_or_assign(format, *std::move(bytes));
     }
     // A program that ends while it writes looks like one that has finished; its going is reported.
     if (readOwner != owner) content.clear();
@@ -236,17 +231,24 @@ struct PortalPasteboard::State {
     co_return false;
   }
 
+  /// Why nothing could be written, and what to do, for the user.
+  [[nodiscard]] std::string obstacle() const {
+    if (isAsking)
+      return "Your desktop has not answered yet whether Quillseal may use it. Allow that there "
+             "first.";
+    if (!services.remote.obstacle().empty()) return services.remote.obstacle();
+    return "Your desktop did not take the signed text.";
+  }
+
+  PortalPasteboard& pasteboard;
   Services services;
+  ClipboardKeeper keeper;
   Patience patience;
+  ClipboardKeeper::Waiting waiting{};
+  bool isAsking = false;    ///< the last attempt to open a session has not ended
   std::uint64_t owner = 0;  ///< changes with the owner, also where there is none
   bool isOwner = false;     ///< whether that is the agent, with what was last written
   std::vector<std::string> formats{};
-  desktop::Ticket opening{};
-  std::int64_t changeCount = 0;
-  std::map<std::uint64_t, std::function<void()>> watches{};
-  std::uint64_t lastWatch = 0;
-  desktop::Ticket telling{};
-  Content fetched{};
   desktop::PasteboardContent written{};
   int transferCount = 0;
   DesktopBus::Receiver onOwner;
@@ -256,8 +258,10 @@ struct PortalPasteboard::State {
   TaskScope transfers{};
 };
 
-PortalPasteboard::PortalPasteboard(const Services& services, Patience patience)
-    : state_(std::make_unique<State>(services, patience)) {
+PortalPasteboard::PortalPasteboard(const Services& services, ClipboardKeeper keeper,
+                                   Patience patience)
+    : FetchingPasteboard(services.loop),
+      state_(std::make_unique<State>(*this, services, std::move(keeper), patience)) {
   // The reader of the block may close its pipe. A handler, since programs that the agent starts
   // would keep ignoring the signal.
   static_cast<void>(std::signal(SIGPIPE, [](int) {}));
@@ -265,63 +269,49 @@ PortalPasteboard::PortalPasteboard(const Services& services, Patience patience)
 
 PortalPasteboard::~PortalPasteboard() = default;
 
-std::int64_t PortalPasteboard::changeCount() const {
-  return state_->changeCount;
+desktop::Ticket PortalPasteboard::read(const ClipboardFormats::Groups& groups,
+                                       std::function<void(Content)> done) {
+  return runTask<Content>(state_->services.loop, state_->contentOf(groups), std::move(done));
 }
 
-desktop::Ticket PortalPasteboard::onNextChange(std::function<void()> changed) {
-  const std::uint64_t id = ++state_->lastWatch;
-  state_->watches[id] = std::move(changed);
-  return desktop::Ticket([this, id] { state_->watches.erase(id); });
-}
-
-desktop::Ticket PortalPasteboard::fetch(std::function<void()> fetched) {
-  state_->fetched.clear();
-  return state_->read(ClipboardFormats::wanted(),
-                      [this, fetched = std::move(fetched)](Content content) {
-                        state_->fetched = std::move(content);
-                        fetched();
-                      });
-}
-
-bool PortalPasteboard::isConcealed() const {
-  return ClipboardFormats::isSecret(state_->fetched);
-}
-
-std::optional<std::string> PortalPasteboard::plainText() const {
-  return ClipboardFormats::plainTextOf(state_->fetched);
-}
-
-std::optional<std::string> PortalPasteboard::html() const {
-  return ClipboardFormats::htmlOf(state_->fetched);
-}
-
-desktop::Ticket PortalPasteboard::fetchRtf(std::function<void(std::optional<std::string>)> done) {
-  return state_->read(
-      ClipboardFormats::wantedForRtf(),
-      [done = std::move(done)](const Content& content) { done(ClipboardFormats::rtfOf(content)); });
+desktop::Ticket PortalPasteboard::prepareWrite(std::function<void()> ready) {
+  const auto opening = std::make_shared<desktop::Ticket>();
+  const auto timer = std::make_shared<desktop::Ticket>();
+  state_->isAsking = true;
+  const auto end = [state = state_.get(), opening, timer, ready = std::move(ready)](bool isAsking) {
+    state->isAsking = isAsking;
+    *opening = {};
+    *timer = {};
+    ready();
+  };
+  *timer = state_->services.loop.after(state_->patience.session, [end] { end(true); });
+  *opening = state_->services.remote.open([end](bool) { end(false); });
+  return desktop::Ticket([opening, timer] {
+    *opening = {};
+    *timer = {};
+  });
 }
 
 void PortalPasteboard::write(const desktop::PasteboardContent& content) {
+  const Services& services = state_->services;
   const Portal::Message call =
-      state_->services.remote.hasClipboard()
-          ? state_->services.portal.newCall(interface, "SetSelection",
-                                            state_->services.remote.session())
+      services.remote.hasClipboard()
+          ? services.portal.newCall(interface, "SetSelection", services.remote.session())
           : nullptr;
   desktop::PasteboardContent before = std::exchange(state_->written, content);
   state_->isOwner = false;
   const bool isTaken = call != nullptr &&
                        Portal::append(*call, {{"mime_types", offeredFormats()}}) &&
-                       state_->services.portal.bus().send(*call) != nullptr;
-  if (isTaken) return state_->change();
-  // The user may try again. Where the session has ended, there is another by then.
-  state_->opening = state_->services.remote.open([](bool) {});
+                       services.portal.bus().send(*call) != nullptr;
+  if (isTaken) {
+    state_->waiting.dismiss();
+    state_->waiting = state_->keeper.keepLater(content);
+    return change();
+  }
   state_->written = std::move(before);
   throw Error({.domain = "PortalPasteboard",
                .code = 1,
-               .description =
-                   "The clipboard could not be written: your desktop did not take the signed "
-                   "text."});
+               .description = "The clipboard could not be written. " + state_->obstacle()});
 }
 
 bool PortalPasteboard::isWritten() const {

@@ -19,8 +19,9 @@ constexpr std::uint32_t untilRevoked = 2;     // a persist_mode
 constexpr std::uint32_t firstWithTokens = 2;  // a version of the interface
 
 constexpr const char* refusal =
-    "Your desktop did not let Quillseal press keys or use the clipboard, so it cannot copy the "
-    "text that you selected. Sign again, and allow it when the desktop asks.";
+    "Your desktop did not let Quillseal press keys or use the clipboard, which it needs to sign "
+    "the "
+    "text that you select. Try again, and allow it when the desktop asks.";
 constexpr const char* ending =
     "Your desktop has ended the permission for Quillseal to press keys. Quillseal asks for it "
     "again "
@@ -174,6 +175,8 @@ void PortalRemote::closed() {
   if (std::exchange(state_, State::closed) == State::opening) {
     opening_.reset();
     finish(refusal);
+  } else if (ended_) {
+    ended_();
   }
 }
 

@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/tasks/Async.h"
@@ -48,6 +49,9 @@ class PortalRemote {
   /// empty while it is open, and before the first attempt.
   [[nodiscard]] const std::string& obstacle() const { return obstacle_; }
 
+  /// Calls `ended` whenever an open session ends, in place of an earlier one.
+  void onEnd(std::function<void()> ended) { ended_ = std::move(ended); }
+
   /// The handle of the open session; empty when there is none.
   [[nodiscard]] std::string session() const;
 
@@ -78,6 +82,7 @@ class PortalRemote {
   std::unique_ptr<PortalSession> session_;
   std::map<std::uint64_t, std::function<void(bool)>> waiting_;
   std::uint64_t lastWaiting_ = 0;
+  std::function<void()> ended_;
   desktop::Ticket telling_;
   std::optional<TaskScope> opening_;
 };

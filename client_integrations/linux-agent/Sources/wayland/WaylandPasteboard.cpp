@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <map>
 #include <utility>
 #include <vector>
 
@@ -28,6 +27,7 @@ struct Offer {
 }  // namespace
 
 struct WaylandPasteboard::State {
+  WaylandPasteboard& pasteboard;
   Services services;
   ClipboardKeeper keeper;
   Patience patience;
@@ -41,26 +41,11 @@ struct WaylandPasteboard::State {
   desktop::Ticket starting{};
   /// The window whose primary selection counts as the last copy.
   std::optional<std::uint64_t> takenFrom{};
-  std::int64_t changeCount = 0;
-  std::map<std::uint64_t, std::function<void()>> watches{};
-  std::uint64_t lastWatch = 0;
-  desktop::Ticket telling{};
-  ClipboardFormats::Content fetched{};
   std::chrono::steady_clock::time_point lastWrite{};
 
   [[nodiscard]] std::shared_ptr<Offer> current() const {
     if (!takenFrom) return clipboard;
     return primaryWindow == *takenFrom ? primary : nullptr;
-  }
-
-  void change() {
-    ++changeCount;
-    fetched.clear();
-    telling = services.loop.after({}, [this] {
-      // A copy: a watch may drop others or add new ones.
-      for (auto& [id, unused] : std::map(watches))
-        if (const auto watch = watches.extract(id); !watch.empty()) watch.mapped()();
-    });
   }
 
   std::shared_ptr<Offer> taken(zwlr_data_control_offer_v1* offer) {
@@ -87,7 +72,7 @@ struct WaylandPasteboard::State {
     State& state = of(data);
     state.clipboard = state.taken(offer);
     state.takenFrom.reset();
-    if (state.clipboard != nullptr) state.change();
+    if (state.clipboard != nullptr) state.pasteboard.change();
   }
   static void selected(void* data, zwlr_data_control_device_v1* /*device*/,
                        zwlr_data_control_offer_v1* offer) {
@@ -132,12 +117,7 @@ class WaylandPasteboard::Reading : public std::enable_shared_from_this<Reading> 
     content_.clear();
     chosen_.clear();
     if (offer_ == nullptr) return finishLater();
-    for (const std::vector<std::string>& group : wanted_) {
-      const auto found = std::ranges::find_if(group, [this](const std::string& format) {
-        return std::ranges::find(offer_->formats, format) != offer_->formats.end();
-      });
-      if (found != group.end()) chosen_.push_back(*found);
-    }
+    chosen_ = ClipboardFormats::chosen(wanted_, offer_->formats);
     std::ranges::reverse(chosen_);  // the next one is the last
     ask();
   }
@@ -177,7 +157,7 @@ class WaylandPasteboard::Reading : public std::enable_shared_from_this<Reading> 
   void receive() {
     const auto self = shared_from_this();
     std::array<char, std::size_t{64} * 1024> piece{};
-    const ssize_t count = read(pipe_.get(), piece.data(), piece.size());
+    const ssize_t count = ::read(pipe_.get(), piece.data(), piece.size());
     if (count < 0 && (errno == EAGAIN || errno == EINTR)) return;
     if (count > 0) {
       bytes_.append(piece.data(), static_cast<std::size_t>(count));
@@ -234,7 +214,11 @@ class WaylandPasteboard::Reading : public std::enable_shared_from_this<Reading> 
 
 WaylandPasteboard::WaylandPasteboard(const Services& services, ClipboardKeeper keeper,
                                      Patience patience)
-    : state_(new State{.services = services, .keeper = std::move(keeper), .patience = patience}) {
+    : FetchingPasteboard(services.loop),
+      state_(new State{.pasteboard = *this,
+                       .services = services,
+                       .keeper = std::move(keeper),
+                       .patience = patience}) {
   state_->manager = wayland::bindDataControl(services.connection);
   if (state_->manager == nullptr) return;
   state_->device.reset(zwlr_data_control_manager_v1_get_data_device(state_->manager.get(),
@@ -248,53 +232,20 @@ WaylandPasteboard::WaylandPasteboard(const Services& services, ClipboardKeeper k
 
 WaylandPasteboard::~WaylandPasteboard() = default;
 
-std::int64_t WaylandPasteboard::changeCount() const {
-  return state_->changeCount;
-}
-
-desktop::Ticket WaylandPasteboard::onNextChange(std::function<void()> changed) {
-  const std::uint64_t id = ++state_->lastWatch;
-  state_->watches[id] = std::move(changed);
-  return desktop::Ticket([this, id] { state_->watches.erase(id); });
-}
-
-desktop::Ticket WaylandPasteboard::fetch(std::function<void()> fetched) {
-  state_->fetched.clear();
-  return Reading::start(*state_, ClipboardFormats::wanted(),
-                        [this, fetched = std::move(fetched)](ClipboardFormats::Content content) {
-                          state_->fetched = std::move(content);
-                          fetched();
-                        });
-}
-
-bool WaylandPasteboard::isConcealed() const {
-  return ClipboardFormats::isSecret(state_->fetched);
-}
-
-std::optional<std::string> WaylandPasteboard::plainText() const {
-  return ClipboardFormats::plainTextOf(state_->fetched);
-}
-
-std::optional<std::string> WaylandPasteboard::html() const {
-  return ClipboardFormats::htmlOf(state_->fetched);
-}
-
-desktop::Ticket WaylandPasteboard::fetchRtf(std::function<void(std::optional<std::string>)> done) {
-  return Reading::start(*state_, ClipboardFormats::wantedForRtf(),
-                        [done = std::move(done)](const ClipboardFormats::Content& content) {
-                          done(ClipboardFormats::rtfOf(content));
-                        });
+desktop::Ticket WaylandPasteboard::read(const ClipboardFormats::Groups& groups,
+                                        std::function<void(ClipboardFormats::Content)> done) {
+  return Reading::start(*state_, groups, std::move(done));
 }
 
 void WaylandPasteboard::write(const desktop::PasteboardContent& content) {
-  state_->keeper.keep(content);
+  static_cast<void>(state_->keeper.keep(content));  // no window owns a Wayland clipboard
   state_->lastWrite = std::chrono::steady_clock::now();
 }
 
 void WaylandPasteboard::takePrimarySelectionOf(std::uint64_t window) {
   if (state_->primary == nullptr || state_->primaryWindow != window) return;
   state_->takenFrom = window;
-  state_->change();
+  change();
 }
 
 std::chrono::steady_clock::time_point WaylandPasteboard::lastWrite() const {

@@ -8,7 +8,6 @@
 #include <utility>
 #include <vector>
 
-#include "core/text/Error.h"
 #include "windows/QtText.h"
 
 namespace quillseal::linux {
@@ -33,7 +32,8 @@ bool isAtHand() {
 
 }  // namespace
 
-QtPasteboard::QtPasteboard(const X11Selection::Services& services) : services_(services) {
+QtPasteboard::QtPasteboard(const X11Selection::Services& services, ClipboardKeeper keeper)
+    : services_(services), keeper_(std::move(keeper)) {
   QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &receiver_, [this] {
     ++changeCount_;
     fetched_.reset();
@@ -99,16 +99,8 @@ std::optional<std::string> QtPasteboard::html() const {
 }
 
 void QtPasteboard::write(const desktop::PasteboardContent& content) {
-  auto data = std::make_unique<QMimeData>();
-  data->setText(toQString(content.plainText));
-  data->setHtml(toQString(content.html));
-  QClipboard* const clipboard = QGuiApplication::clipboard();
-  clipboard->setMimeData(data.release());  // the clipboard owns it from here
+  keepersWindow_ = keeper_.keep(content);
   lastWrite_ = std::chrono::steady_clock::now();
-  if (!clipboard->ownsClipboard())
-    throw Error({.domain = "QtPasteboard",
-                 .code = 1,
-                 .description = "The clipboard could not be written: another program holds it."});
 }
 
 desktop::Ticket QtPasteboard::copyPrimarySelection(std::function<void()> done) {

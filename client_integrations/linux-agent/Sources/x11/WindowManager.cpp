@@ -171,10 +171,8 @@ bool WindowManager::hasPrimarySelection(xcb_window_t window) const {
   return owner != XCB_NONE && isOfSameProgram(owner, window);
 }
 
-std::string WindowManager::classOfClipboardOwner() const {
-  if (connection_ == nullptr) return {};
-  return classOf(
-      property(x11::ownerOf(connection_, atom("CLIPBOARD")), "WM_CLASS", XCB_ATOM_STRING));
+xcb_window_t WindowManager::clipboardOwner() const {
+  return connection_ == nullptr ? 0 : x11::ownerOf(connection_, atom("CLIPBOARD"));
 }
 
 bool WindowManager::exists(xcb_window_t window) const {

@@ -44,8 +44,8 @@ class WindowManager {
   /// Returns whether the window's program owns the primary selection.
   [[nodiscard]] bool hasPrimarySelection(xcb_window_t window) const;
 
-  /// Returns the class of the window that owns the clipboard; empty when nobody does.
-  [[nodiscard]] std::string classOfClipboardOwner() const;
+  /// Returns the window that owns the clipboard; 0 when nobody does.
+  [[nodiscard]] xcb_window_t clipboardOwner() const;
 
   [[nodiscard]] bool exists(xcb_window_t window) const;
 

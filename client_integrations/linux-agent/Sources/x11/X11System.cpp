@@ -3,6 +3,8 @@
 #include <QGuiApplication>
 #include <QWidget>
 
+#include "session/LoadedModule.h"
+
 namespace quillseal::linux {
 namespace {
 
@@ -24,7 +26,8 @@ X11System::X11System(const Services& services, const SessionTraits& portal)
                         .canPressKeys = keyboard_ != nullptr,
                         .isPortalSilent = portal.isPortalSilent,
                         .canPortalPressKeys = portal.canPortalPressKeys})),
-      pasteboard_({.loop = services.loop, .descriptors = services.descriptors}),
+      pasteboard_({.loop = services.loop, .descriptors = services.descriptors},
+                  ClipboardKeeper(LoadedModule::usualPlaces(ClipboardKeeper::programForX11))),
       applications_(windows_, services.entries, services.loop),
       hotkey_(services.loop, keyboard_.get(), limits_),
       keys_({.loop = services.loop,

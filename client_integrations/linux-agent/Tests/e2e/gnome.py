@@ -4,20 +4,18 @@
 Options and test names as in stories.py.
 """
 
-import os
 import re
 import signal
 import subprocess
 import time
 
+import clipboard
 import stories
-import wayland
 import windows
 from browsers import Browser, Site
 from gnome_session import EXTENSION, GnomeSession
 from session import LETTER, wait_for
 from windows import CHAT
-from xclient import XClient
 
 
 class OnGnome(stories.Story):
@@ -128,7 +126,7 @@ class GnomeWindows(OnGnome, windows.WindowStory):
         self.assertNotIn("turned away", self.desktop.output_of(self.desktop.agent))
 
 
-class GnomeClipboard(OnGnome, wayland.Keepers):
+class GnomeClipboard(OnGnome, clipboard.Clipboard):
     def test_the_block_outlives_the_agent_until_somebody_copies(self):
         self.start()
         editor = self.sign_in_editor()
@@ -146,15 +144,8 @@ class GnomeClipboard(OnGnome, wayland.Keepers):
         self.desktop.open_editor("something else", "other.txt")
         self.desktop.select_all("something else")
         self.desktop.key("ctrl+c")
-        wait_for("nothing of Quillseal stays behind", lambda: not self.keepers())
+        self.wait_until_nothing_stays()
         self.assertEqual(self.desktop.selection(), "something else")
-
-    def assert_pasted(self, block, name):
-        editor = self.desktop.open_editor("", name)
-        self.desktop.key_until("ctrl+v", lambda: "*" in self.desktop.active_window_name(),
-                               "something is pasted")
-        self.assertEqual(self.desktop.saved_text(editor, "Check this signature"), block)
-        self.desktop.end(editor)
 
     def assert_pasted_with_markup(self):
         site = Site("rich", "")
@@ -167,63 +158,6 @@ class GnomeClipboard(OnGnome, wayland.Keepers):
         content = site.told["content", "Mail"]
         self.assertIn("<table", content)
         self.assertIn("Check this signature", content)
-
-
-class KeeperForX11(wayland.Keepers, stories.Story):
-    """The keeper alone, on an X server."""
-
-    TEXT = "『" + LETTER * 4000 + "』"
-    MARKUP = f"<p>{TEXT}</p>" * 8
-
-    def keep(self):
-        text = self.TEXT.encode()
-        subprocess.run(
-            [self.build / "client_integrations/linux-agent/Sources/quillseal-clipboard-keeper-x11"],
-            input=b"%d\n%s%s" % (len(text), text, self.MARKUP.encode()), env=self.desktop.env,
-            cwd=self.desktop.home, check=True, timeout=5)
-        self.assertEqual(len(self.keepers()), 1)
-
-    def copy_and_wait(self):
-        self.desktop.start("xclip", "-i", "-quiet", "-selection", "clipboard", "/etc/hostname")
-        wait_for("nothing of Quillseal stays behind", lambda: not self.keepers())
-
-    def test_every_format_is_delivered_until_somebody_copies(self):
-        self.keep()
-        self.keep()  # the earlier keeper ends
-        for target in ("text/plain;charset=utf-8", "text/plain", "UTF8_STRING"):
-            self.assertEqual(self.desktop.selection(target=target), self.TEXT)
-        self.assertEqual(self.desktop.selection(target="text/html"), self.MARKUP)
-        self.assertEqual(set(self.desktop.selection(target="TARGETS").split()), {
-            "TARGETS", "TIMESTAMP", "MULTIPLE", "text/plain;charset=utf-8", "text/plain",
-            "UTF8_STRING", "text/html"})
-        client = XClient(self.desktop.env["DISPLAY"])
-        self.addCleanup(client.close)
-        self.assertEqual(
-            client.ask_for_several(a="TARGETS", b="image/png", c="TIMESTAMP"), ["a", "c"])
-        self.copy_and_wait()
-
-    def test_a_program_that_stops_reading_keeps_nobody_waiting(self):
-        self.keep()
-        client = XClient(self.desktop.env["DISPLAY"])
-        client.ask_for("text/html")
-        self.assertEqual(self.desktop.selection(target="text/html"), self.MARKUP)
-        with self.subTest("it goes away"):
-            client.close()
-            self.copy_and_wait()
-        with self.subTest("it stays"):
-            self.keep()
-            client = XClient(self.desktop.env["DISPLAY"])
-            self.addCleanup(client.close)
-            client.ask_for("text/html")
-            self.copy_and_wait()
-
-    def test_a_server_that_ends_with_its_last_program_stays_as_long_as_the_block(self):
-        server = self.desktop.start_x_server("-terminate")
-        self.keep()
-        self.assertEqual(self.desktop.selection(), self.TEXT)
-        self.assertIsNone(server.poll())
-        os.kill(server.pid, signal.SIGKILL)
-        wait_for("nothing of Quillseal stays behind", lambda: not self.keepers())
 
 
 class GnomeWithoutXwayland(OnGnome):

@@ -6,6 +6,7 @@ Options and test names as in stories.py.
 
 import re
 
+import clipboard
 import stories
 import wayland
 import windows
@@ -72,7 +73,7 @@ class KwinLock(WindowStory):
         self.assert_pasted_nowhere()
 
 
-class KwinClipboard(OnKwin, wayland.Clipboard):
+class KwinClipboard(OnKwin, clipboard.Clipboard):
     """The same."""
 
 

@@ -6,9 +6,9 @@ Options and test names as in stories.py.
 """
 
 import os
-import pathlib
 import signal
 
+import clipboard
 import stories
 import windows
 from applications import Terminal
@@ -70,34 +70,7 @@ class SwayWindows(OnSway, SharedWindows, windows.WindowStory):
         self.desktop.run("swaymsg", "workspace elsewhere")
 
 
-class Keepers:
-    def keepers(self):
-        """Returns the processes of this session that keep a block, and run in its home."""
-        def is_at_home(pid):
-            try:
-                return pathlib.Path(f"/proc/{pid}/cwd").resolve() == self.desktop.home
-            except OSError:  # it has ended meanwhile
-                return False
-
-        found = self.desktop.run("pgrep", "-f", "quillseal-clipboard-keeper", check=False).split()
-        return [pid for pid in found if is_at_home(pid)]
-
-
-class Clipboard(Keepers):
-    def test_the_block_outlives_a_killed_agent_until_somebody_copies(self):
-        self.start()
-        editor = self.sign_in_editor()
-        self.assert_signed(editor)
-        self.desktop.end(self.desktop.agent, signal.SIGKILL)
-        self.desktop.end(editor)
-        self.assertTrue(self.desktop.selection().startswith(f"『{LETTER}』"))
-        self.assertIn("<!DOCTYPE html>", self.desktop.selection(target="text/html"))
-        self.assertEqual(len(self.keepers()), 1)
-        self.desktop.start("wl-copy", "--foreground", "something else")
-        wait_for("nothing of Quillseal stays behind", lambda: not self.keepers())
-
-
-class SwayClipboard(OnSway, Clipboard):
+class SwayClipboard(OnSway, clipboard.Clipboard):
     """The same."""
 
 

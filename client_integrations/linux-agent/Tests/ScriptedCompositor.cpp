@@ -430,8 +430,14 @@ void ScriptedCompositor::setLayout(const std::string& layout) {
 }
 
 void ScriptedCompositor::withdraw(std::string_view interface) {
-  perform(
-      [&](Server& server) { wl_global_remove(server.globals.at(std::string(interface)).global); });
+  perform([&](Server& server) {
+    wl_global_remove(server.globals.at(std::string(interface)).global);
+    if (interface == zwlr_foreign_toplevel_manager_v1_interface.name)
+      server.forEach(server.windowManager(), zwlr_foreign_toplevel_manager_v1_send_finished);
+    if (interface == zwlr_data_control_manager_v1_interface.name)
+      server.forEach(zwlr_data_control_device_v1_interface,
+                     zwlr_data_control_device_v1_send_finished);
+  });
 }
 
 void ScriptedCompositor::hang() {

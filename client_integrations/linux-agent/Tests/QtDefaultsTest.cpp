@@ -1,5 +1,5 @@
 #include <QCoreApplication>
-#include <QElapsedTimer>
+#include <QTest>
 #include <array>
 #include <filesystem>
 #include <fstream>
@@ -29,15 +29,8 @@ class QtDefaultsTest : public ::testing::Test {
                        .warn = [this](const std::string& text) { warnings_.push_back(text); }});
   }
 
-  /// Processes events until `condition` holds or a time-out.
   static bool eventually(const std::function<bool()>& condition) {
-    QElapsedTimer clock;
-    clock.start();
-    while (!condition()) {
-      if (clock.elapsed() > 5000) return false;
-      QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
-    }
-    return true;
+    return QTest::qWaitFor(condition);
   }
 
   int argumentCount_ = 1;

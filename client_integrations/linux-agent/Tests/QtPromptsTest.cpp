@@ -1,9 +1,11 @@
 #include <QApplication>
 #include <QDialog>
-#include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QTest>
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <future>
@@ -17,6 +19,7 @@
 #include "windows/QtAlerts.h"
 #include "windows/QtPresencePrompt.h"
 #include "windows/QtSecretPrompt.h"
+#include "windows/QtWindows.h"
 #include "windows/TrayStatusItem.h"
 
 namespace quillseal::linux {
@@ -35,49 +38,42 @@ class ShownWindows : public OwnWindows {
 
 class QtPromptsTest : public ::testing::Test {
  protected:
-  /// Runs the event loop until `condition` is true.
-  template <typename Condition>
-  static void runUntil(Condition condition) {
-    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
-    while (!condition()) {
-      if (std::chrono::steady_clock::now() > end) throw std::runtime_error("nothing happened");
-      QApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
-    }
+  static void await(const std::function<bool()>& condition) {
+    if (!QTest::qWaitFor(condition, 20'000)) throw std::runtime_error("nothing happened");
   }
 
   /// Returns the open dialog.
   static QWidget& dialog() {
-    runUntil([] { return QApplication::activeModalWidget() != nullptr; });
+    await([] { return QApplication::activeModalWidget() != nullptr; });
     return *QApplication::activeModalWidget();
   }
 
-  /// Everything that it says.
-  static std::string said() {
-    QString texts;
-    for (const QLabel* label : dialog().findChildren<QLabel*>())
-      texts += label->text() + QLatin1Char('\n');
-    return texts.toStdString();
+  /// Everything that it says, none of it as markup.
+  static std::string saidIn(const QWidget& window) {
+    QStringList texts;
+    for (const QLabel* label : window.findChildren<QLabel*>())
+      if (label->textFormat() == Qt::PlainText) texts += label->text();
+    for (const QLineEdit* field : window.findChildren<QLineEdit*>())
+      texts += field->placeholderText();
+    return texts.join(QLatin1Char('\n')).toStdString();
   }
+  static std::string said() { return saidIn(dialog()); }
   static void expectSaid(const std::vector<std::string_view>& parts) {
     for (const std::string_view part : parts)
       EXPECT_THAT(said(), HasSubstr(std::string(part)));
   }
 
-  static void press(int key, const QString& text = {}) {
-    QWidget* focused = dialog().focusWidget();
-    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text);
-    QApplication::sendEvent(focused != nullptr ? focused : &dialog(), &event);
+  static QWidget* focused() {
+    QWidget* widget = dialog().focusWidget();
+    return widget != nullptr ? widget : &dialog();
   }
-  static void type(std::string_view text) {
-    for (const char c : text)
-      press(Qt::Key_unknown, QString(QLatin1Char(c)));
-  }
+  static void press(Qt::Key key) { QTest::keyClick(focused(), key); }
+  static void type(const QString& text) { QTest::keyClicks(focused(), text); }
   static bool canAccept() {
-    for (const QPushButton* button : dialog().findChildren<QPushButton*>())
-      if (button->isDefault()) return button->isEnabled();
-    return false;
+    const auto buttons = dialog().findChildren<QPushButton*>();
+    const auto first = std::ranges::find_if(buttons, &QPushButton::isDefault);
+    return first != buttons.end() && (*first)->isEnabled();
   }
-
   static void cancel() {
     for (QPushButton* button : dialog().findChildren<QPushButton*>())
       if (button->text() == QStringLiteral("Cancel")) return button->click();
@@ -89,7 +85,7 @@ class QtPromptsTest : public ::testing::Test {
     pending = std::async(std::launch::async, question);
   }
   std::optional<std::string> answer() {
-    runUntil(
+    await(
         [this] { return pending.wait_for(std::chrono::seconds(0)) == std::future_status::ready; });
     const std::optional<SecretBytes> secret = pending.get();
     return secret ? std::optional<std::string>(secret->text()) : std::nullopt;
@@ -122,7 +118,7 @@ TEST_F(QtPromptsTest, TheSecretIsAskedForWithWhatItIsFor) {
   expectSaid({"Enter the PIN", "Sign “x” as Ada", "Medium: LinkedIn Post", "The key is in the TPM.",
               "This PIN is wrong. Try 2 of 3."});
   EXPECT_FALSE(canAccept());
-  type("24681x");
+  type(QStringLiteral("24681x"));
   press(Qt::Key_Backspace);
   EXPECT_TRUE(canAccept());
   EXPECT_THAT(said(), Not(HasSubstr("24681")));
@@ -142,18 +138,18 @@ TEST_F(QtPromptsTest, ANewSecretIsTypedTwice) {
   EXPECT_EQ(answer(), std::nullopt);
   ask(question);
   expectSaid({"In a file.", "The old one goes.", rulesFor(SecretKind::passphrase)});
-  const std::string good = "correct horse battery";
+  const auto good = QStringLiteral("correct horse battery");
   type(good);
   EXPECT_FALSE(canAccept());
   press(Qt::Key_Tab);
-  type("correct horse batterx");
+  type(QStringLiteral("correct horse batterx"));
   EXPECT_FALSE(canAccept());
   EXPECT_THAT(said(), HasSubstr("differ"));
   press(Qt::Key_Backspace);
-  type("y");
+  type(QStringLiteral("y"));
   EXPECT_TRUE(canAccept());
   press(Qt::Key_Return);
-  EXPECT_EQ(answer(), good);
+  EXPECT_EQ(answer(), good.toStdString());
 }
 
 TEST_F(QtPromptsTest, NoAnswerWithoutThePerson) {
@@ -161,7 +157,7 @@ TEST_F(QtPromptsTest, NoAnswerWithoutThePerson) {
                                            [this] { prompt.close(); }};
   for (const auto& end : endings) {
     ask([this] { return prompt.ask(request); });
-    type("24681");
+    type(QStringLiteral("24681"));
     end();
     EXPECT_EQ(answer(), std::nullopt);
   }
@@ -180,7 +176,7 @@ TEST_F(QtPromptsTest, PresenceIsAskedForWithWhatItIsFor) {
   window->setInstruction("Touch it again.");
   expectSaid({"Sign “x”", "Medium: LinkedIn Post", "Touch it again."});
   press(Qt::Key_Return);
-  runUntil([&] { return goesOn.has_value(); });
+  await([&] { return goesOn.has_value(); });
   EXPECT_EQ(goesOn, true);
 }
 
@@ -189,7 +185,7 @@ TEST_F(QtPromptsTest, AConfirmationBeginsWithWhatTheAgentProposes) {
   const auto confirm = [&](const std::function<void()>& act) {
     std::optional<desktop::ConfirmationEntry> entry;
     const auto ticket = alerts.confirm({.question = {.title = "Sign this?",
-                                                     .body = "The text & more",
+                                                     .body = "The <b>text</b> & more",
                                                      .style = desktop::AlertStyle::informational,
                                                      .confirm = "Sign",
                                                      .cancel = "Cancel"},
@@ -198,19 +194,48 @@ TEST_F(QtPromptsTest, AConfirmationBeginsWithWhatTheAgentProposes) {
                                         .fieldPlaceholder = "To",
                                         .note = "A note."},
                                        [&](auto given) { entry = given; });
-    expectSaid({"Sign this?", "The text & more", "A note."});
+    expectSaid({"Sign this?", "The <b>text</b> & more", "To", "A note."});
     act();
     return entry ? entry->choice + " to " + entry->field : "none";
   };
   EXPECT_EQ(confirm([] {
-              type("Ada");
+              type(QStringLiteral("Ada"));
               press(Qt::Key_Return);
             }),
             "Mail to Ada");
   EXPECT_EQ(confirm(cancel), "none");
 }
 
-// Here because it needs the same toolkit.
+// The rest is here because it needs the same toolkit.
+TEST_F(QtPromptsTest, AWindowFollowsItsForm) {
+  std::string events;
+  const auto field = [&](const char* value) {
+    return desktop::FormField{.label = "Address",
+                              .value = value,
+                              .changed = [&](const std::string& text) { events += text + ";"; }};
+  };
+  const auto button = [&](bool isEnabled) {
+    return desktop::FormButton{
+        .label = "Save & Close", .enabled = isEnabled, .pressed = [&] { events += "pressed;"; }};
+  };
+  const auto text = [](const char* said) { return desktop::FormText{.text = said}; };
+  const auto window = QtWindows(windows).make({.title = "Settings", .width = 300, .height = 200});
+  window->render({.sections = {{.header = "Server", .rows = {text("<b>old"), field("a")}}}});
+  window->bringToFront();
+  window->render({.sections = {{.header = "Key", .rows = {text("none")}},
+                               {.header = "", .rows = {field("b"), button(false)}}}});
+  window->render({.sections = {{.header = "Key", .rows = {text("<b>new")}},
+                               {.header = "", .rows = {field("c"), button(true)}}}});
+  await([] { return QApplication::activeWindow() != nullptr; });
+  QWidget& shown = *QApplication::activeWindow();
+  EXPECT_EQ(saidIn(shown), "<b>new\nAddress\n");
+  auto& edit = *shown.findChild<QLineEdit*>();
+  EXPECT_EQ(edit.text(), QStringLiteral("c"));
+  QTest::keyClicks(&edit, QStringLiteral("d"));
+  shown.findChild<QPushButton*>()->click();
+  EXPECT_EQ(events, "cd;pressed;");
+}
+
 TEST_F(QtPromptsTest, TheMenuOfTheShieldIsShownAsItIsDescribed) {
   using desktop::MenuItem;
   using desktop::Modifiers;

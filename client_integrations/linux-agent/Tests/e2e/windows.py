@@ -9,6 +9,7 @@ import contextlib
 import os
 import re
 import signal
+import time
 
 import stories
 from applications import Terminal
@@ -170,6 +171,7 @@ class Windows(SharedWindows, WindowStory):
             self.desktop.wait_for_window(re.escape(letter.file.name))
             before = self.x.clipboard_owner()
         self.x.wait_until_clipboard_leaves(before)
+        time.sleep(0.05)
         self.x.focus(chat.window)  # within the 150 ms that a paste waits with the block there
         self.assert_left_on_clipboard("something else is in front of the source")
         self.assert_untouched(chat, CHAT)

@@ -8,10 +8,10 @@
 #include <string_view>
 #include <vector>
 
+#include <unicode/regex.h>
+
 #include "core/screening/compile/TableCompiler.h"
 #include "core/screening/match/ScreeningEngine.h"
-
-struct URegularExpression;
 
 namespace quillseal::testing {
 
@@ -39,10 +39,7 @@ class IcuReference {
   [[nodiscard]] std::vector<Answer> firstMatches(std::string_view text) const;
 
  private:
-  struct Close {
-    void operator()(URegularExpression* expression) const;
-  };
-  std::vector<std::unique_ptr<URegularExpression, Close>> expressions_;
+  std::vector<std::unique_ptr<icu::RegexMatcher>> matchers_;
 };
 
 /// The same of the engine, which never gives up.

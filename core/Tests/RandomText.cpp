@@ -1,7 +1,6 @@
 #include "RandomText.h"
 
-#include <array>
-#include <sstream>
+#include <nlohmann/json.hpp>
 
 #include "core/text/UnicodeText.h"
 
@@ -51,16 +50,7 @@ std::string randomText(std::mt19937& random, int maximumScalars) {
 }
 
 std::string escaped(const std::string& text) {
-  std::ostringstream out;
-  for (std::size_t position = 0; position < text.size();) {
-    const char32_t scalar = unicode::nextScalar(text, position);
-    if (scalar >= 0x20 && scalar < 0x7F) {
-      out << static_cast<char>(scalar);
-    } else {
-      out << "\\u{" << std::hex << std::uppercase << static_cast<std::uint32_t>(scalar) << '}';
-    }
-  }
-  return out.str();
+  return nlohmann::json(text).dump(-1, ' ', true);
 }
 
 }  // namespace quillseal::testing

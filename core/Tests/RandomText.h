@@ -10,7 +10,7 @@ namespace quillseal::testing {
 /// letters with special case mappings; with runs of plain ASCII between them.
 [[nodiscard]] std::string randomText(std::mt19937& random, int maximumScalars);
 
-/// `text` with everything outside printable ASCII written as \u{…}, for failure messages.
+/// `text` with everything outside printable ASCII written as JSON escapes it, for failure messages.
 [[nodiscard]] std::string escaped(const std::string& text);
 
 }  // namespace quillseal::testing

@@ -1,8 +1,8 @@
 #include "TestDevice.h"
 
+#include <array>
 #include <cstdint>
 #include <stdexcept>
-#include <vector>
 
 #include <openssl/ec.h>
 #include <openssl/evp.h>
@@ -19,39 +19,28 @@ void require(bool succeeded) {
 
 }  // namespace
 
-struct TestDevice::Key {
-  UniqueHandle<EVP_PKEY, ::EVP_PKEY_free> handle{EVP_EC_gen("P-256")};
-};
-
-TestDevice::TestDevice() : key_(std::make_unique<Key>()) {
-  require(key_->handle != nullptr);
+TestDevice::TestDevice() : key_(EVP_EC_gen("P-256"), ::EVP_PKEY_free) {
+  require(key_ != nullptr);
 }
-TestDevice::~TestDevice() = default;
 
 std::string TestDevice::publicKey() const {
-  unsigned char* encoded = nullptr;
-  const std::size_t length = EVP_PKEY_get1_encoded_public_key(key_->handle.get(), &encoded);
-  require(length > 0);
-  std::string point = base64({encoded, length});
-  OPENSSL_free(encoded);
-  return point;
+  std::array<std::uint8_t, 65> point{};
+  require(EVP_PKEY_get_octet_string_param(key_.get(), "pub", point.data(), point.size(), nullptr) ==
+          1);
+  return base64(point);
 }
 
 std::string TestDevice::sign(std::string_view digestHex) const {
-  long length = 0;
-  unsigned char* digest = OPENSSL_hexstr2buf(std::string(digestHex).c_str(), &length);
-  require(digest != nullptr);
+  std::array<std::uint8_t, 32> digest{};
+  require(OPENSSL_hexstr2buf_ex(digest.data(), digest.size(), nullptr,
+                                std::string(digestHex).c_str(), '\0') == 1);
   const UniqueHandle<EVP_PKEY_CTX, ::EVP_PKEY_CTX_free> context(
-      EVP_PKEY_CTX_new(key_->handle.get(), nullptr));
-  require(context && EVP_PKEY_sign_init(context.get()) == 1);
-  std::vector<std::uint8_t> signature(
-      static_cast<std::size_t>(EVP_PKEY_get_size(key_->handle.get())));
+      EVP_PKEY_CTX_new(key_.get(), nullptr));
+  std::array<std::uint8_t, 80> signature{};
   std::size_t size = signature.size();
-  require(EVP_PKEY_sign(context.get(), signature.data(), &size, digest,
-                        static_cast<std::size_t>(length)) == 1);
-  OPENSSL_free(digest);
-  signature.resize(size);
-  return base64(signature);
+  require(context && EVP_PKEY_sign_init(context.get()) == 1 &&
+          EVP_PKEY_sign(context.get(), signature.data(), &size, digest.data(), digest.size()) == 1);
+  return base64({signature.data(), size});
 }
 
 }  // namespace quillseal::devserver

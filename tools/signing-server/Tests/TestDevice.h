@@ -4,13 +4,14 @@
 #include <string>
 #include <string_view>
 
+struct evp_pkey_st;
+
 namespace quillseal::devserver {
 
 /// A signing device for tests, with a new P-256 key in memory.
 class TestDevice {
  public:
   TestDevice();
-  ~TestDevice();
 
   /// Returns the uncompressed point in base64, as enrolment sends it.
   [[nodiscard]] std::string publicKey() const;
@@ -19,8 +20,7 @@ class TestDevice {
   [[nodiscard]] std::string sign(std::string_view digestHex) const;
 
  private:
-  struct Key;
-  std::unique_ptr<Key> key_;
+  std::shared_ptr<evp_pkey_st> key_;
 };
 
 }  // namespace quillseal::devserver

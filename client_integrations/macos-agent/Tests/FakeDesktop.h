@@ -63,6 +63,11 @@ struct Record {
       shown += text + '\n';
   }
   Ticket soon(std::function<void()> completion) { return loop.after({}, std::move(completion)); }
+  /// Calls `done` with what `value` is by then.
+  template <typename T, typename Value>
+  Ticket answer(std::function<void(T)> done, const Value& value) {
+    return soon([done = std::move(done), &value] { done(value); });
+  }
 
   /// The trace without log lines.
   [[nodiscard]] std::vector<std::string> userTrace() const {
@@ -88,12 +93,12 @@ struct FakeAlerts final : Fake<desktop::Alerts> {
   Ticket show(const desktop::Alert& alert, std::function<void()> dismissed) override {
     record.add("alert", "alert: " + alert.title + " | " + alert.body);
     record.show({alert.title, alert.body});
-    return answerSoon(std::move(dismissed));
+    return leavesDialogsOpen ? Ticket() : record.soon(std::move(dismissed));
   }
   Ticket ask(const desktop::Question& asked, Then<desktop::Answer> answered) override {
     record.add("ask", "ask: " + asked.title + " | " + asked.body + buttonsOf(asked));
     record.show({asked.title, asked.body, asked.confirm, asked.cancel});
-    return answerSoon([this, answered = std::move(answered)] { answered(answer); });
+    return leavesDialogsOpen ? Ticket() : record.answer(std::move(answered), answer);
   }
   Ticket confirm(const desktop::ConfirmationForm& form,
                  Then<std::optional<desktop::ConfirmationEntry>> answered) override {
@@ -102,7 +107,7 @@ struct FakeAlerts final : Fake<desktop::Alerts> {
                               form.choices.at(form.selectedChoice));
     record.show(
         {asked.title, asked.body, asked.confirm, asked.cancel, form.fieldPlaceholder, form.note});
-    return answerSoon([this, answered = std::move(answered)] { answered(confirmation); });
+    return leavesDialogsOpen ? Ticket() : record.answer(std::move(answered), confirmation);
   }
   void notify(const desktop::Notification& notification) override {
     record.add("notify", "notify: " + notification.title + " | " + notification.body);
@@ -112,9 +117,6 @@ struct FakeAlerts final : Fake<desktop::Alerts> {
  private:
   static std::string buttonsOf(const desktop::Question& question) {
     return " [" + question.confirm + "] [" + question.cancel + "]";
-  }
-  Ticket answerSoon(std::function<void()> answered) {
-    return leavesDialogsOpen ? Ticket() : record.soon(std::move(answered));
   }
 };
 
@@ -296,7 +298,7 @@ struct FakePasteboard final : Fake<desktop::Pasteboard> {
   Text html() const override { return fetched_.html; }
   Ticket fetchRtf(std::function<void(Text)> done) override {
     record.add("fetch RTF", "fetch RTF");
-    return record.soon([this, done = std::move(done)] { done(clipboard.rtf); });
+    return record.answer(std::move(done), clipboard.rtf);
   }
   Ticket prepareWrite(std::function<void()> ready) override {
     isPrepared_ = true;
@@ -471,7 +473,7 @@ struct FakePresence final : Fake<desktop::Presence> {
                   Then<Outcome<bool>> done) override {
     const bool isPassword = policy == desktop::PresencePolicy::biometricsOrPassword;
     record.add("presence", (isPassword ? "presence or password: " : "presence: ") + prompt.reason);
-    return record.soon([this, done = std::move(done)] { done(outcome); });
+    return record.answer(std::move(done), outcome);
   }
 };
 

@@ -1,4 +1,3 @@
-#include <map>
 #include <optional>
 #include <string>
 #include <utility>
@@ -38,20 +37,11 @@ class ServerClientTest : public ::testing::Test {
       queue = {{status, body}};
   }
 
-  template <typename T>
-  T valueOf(Task<T> task) {
-    return std::get<T>(resultOf(desktop_.loop, std::move(task)));
-  }
-
-  Error failureOf(Task<std::string> task) {
-    return std::get<Error>(resultOf(desktop_.loop, std::move(task)));
-  }
-
-  static ServerClient::Content content() {
+  [[nodiscard]] ServerClient::Content content() const {
     return {.textDigest = "T",
             .snapshotDigest = "",
             .issued = "2026-01-01",
-            .scope = "Email / “Mail”\n",
+            .scope = scope_,
             .imageDigest = "I",
             .expires = "2026-01-08",
             .commitment = "statement",
@@ -94,6 +84,7 @@ class ServerClientTest : public ::testing::Test {
   }
 
   FakeDesktop desktop_;
+  std::string scope_ = "Email / “Mail”\n";
   ServerClient client_{{.defaults = desktop_.defaults,
                         .http = desktop_.http,
                         .machine = desktop_.machine,
@@ -124,8 +115,10 @@ TEST_F(ServerClientTest, MakesUpADifferentIdentifierForAMachineWithoutOne) {
 
 TEST_F(ServerClientTest, SendsEveryBodyByteForByte) {
   desktop_.defaults.strings = {{"ServerURL", "https://a.example/"}, {"APIKey", "K"}};
-  for (const auto& [name, path, body] : testing::cases<std::string, std::string, std::string>()) {
+  for (const auto& [name, offset, path, body] :
+       testing::cases<std::string, int, std::string, std::string>()) {
     desktop_.forget();
+    desktop_.wallClock.zone.secondsFromGmt = offset;
     desktop_.http.answers["/" + path] = desktop_.http.answers.at(path);
     call(name);
     ASSERT_EQ(desktop_.http.sent.size(), 1U);
@@ -135,23 +128,10 @@ TEST_F(ServerClientTest, SendsEveryBodyByteForByte) {
     EXPECT_THAT(sent.headers, ElementsAre(Pair("Content-Type", "application/json")));
     EXPECT_EQ(sent.timeout, std::chrono::seconds(60));
   }
-}
-
-TEST_F(ServerClientTest, WritesTheZonesOffsetInWholeMinutes) {
-  const std::map<int, std::string> cases{{19800, "330"}, {20700, "345"},   {-12600, "-210"},
-                                         {-59, "0"},     {-12630, "-210"}, {0, "0"}};
-  for (const auto& [seconds, minutes] : cases) {
-    desktop_.wallClock.zone.secondsFromGmt = seconds;
-    valueOf(client_.signContent(content()));
-    EXPECT_THAT(desktop_.http.sent.back().body, HasSubstr("\"tz_offset\":" + minutes + ","));
-  }
-}
-
-TEST_F(ServerClientTest, PassesTransportErrorsOn) {
-  desktop_.http.failure = Error({.domain = "D", .code = 7, .description = "no network"});
-  const Error error = failureOf(client_.signContent(content()));
-  EXPECT_EQ(error.domain() + error.what(), "Dno network");
-  EXPECT_EQ(error.code(), 7);
+  desktop_.forget();
+  scope_ = "\xff";
+  EXPECT_EQ(std::get<Error>(call("sign")).domain(), "Quillseal");
+  EXPECT_TRUE(desktop_.http.sent.empty()) << "this is no text";
 }
 
 TEST_F(ServerClientTest, ReadsEveryAnswerOrNamesWhatItLacks) {
@@ -159,6 +139,8 @@ TEST_F(ServerClientTest, ReadsEveryAnswerOrNamesWhatItLacks) {
        testing::cases<std::string, int, std::string, std::string>()) {
     SCOPED_TRACE(body.substr(0, 100));
     answer(status, body);
+    desktop_.http.failure.reset();
+    if (status == 0) desktop_.http.failure = Error({.domain = "D", .code = 7, .description = body});
     const Outcome<std::string> outcome = call(name);
     if (const Error* error = std::get_if<Error>(&outcome)) {
       EXPECT_EQ(error->domain() == "NSCocoaErrorDomain", status / 100 == 2);
@@ -169,13 +151,6 @@ TEST_F(ServerClientTest, ReadsEveryAnswerOrNamesWhatItLacks) {
       EXPECT_EQ(std::get<std::string>(outcome), expected);
     }
   }
-}
-
-TEST_F(ServerClientTest, SendsNothingThatIsNoText) {
-  ServerClient::Content damaged = content();
-  damaged.scope = "\xff";
-  EXPECT_EQ(failureOf(client_.signContent(damaged)).domain(), "Quillseal");
-  EXPECT_TRUE(desktop_.http.sent.empty());
 }
 
 }  // namespace

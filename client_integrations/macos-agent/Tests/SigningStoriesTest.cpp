@@ -5,6 +5,7 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -54,17 +55,16 @@ void set(desktop::Delivery& field, const std::string& value) {
                                           {"not written", Delivery::notWritten}}
               .at(value);
 }
-void set(bool& field, const std::string& value) {
-  field = value == "yes";
-}
-void set(int& field, const std::string& value) {
-  field = std::stoi(value);
-}
 void set(std::string& field, const std::string& value) {
   field = value;
 }
-void set(std::chrono::milliseconds& field, const std::string& value) {
-  field = std::chrono::milliseconds(std::stoi(value));
+/// A number, or whether it is "yes".
+template <typename Number>
+void set(Number& field, const std::string& value) {
+  if constexpr (std::is_same_v<Number, bool>)
+    field = std::map<std::string, bool>{{"yes", true}, {"no", false}}.at(value);
+  else
+    field = Number(std::stoi(value));
 }
 void set(std::optional<Error>& field, const std::string& value) {
   field = Error({.domain = "fake", .code = 1, .description = value});

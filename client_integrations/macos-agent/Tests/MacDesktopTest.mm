@@ -169,10 +169,10 @@ TEST_F(MacMainLoopTest, RunsPostedWorkLaterAndInOrderWhateverThatThrows) {
   });
   loop_.post([] { raise(); });
   loop_.post([&] {
-    loop_.post([&] { order += "d"; });
     order += "b";
-    EXPECT_TRUE(runUntil([&] { return order == "abcd"; }));
-    order += "e";
+    EXPECT_TRUE(runUntil([&] { return order == "abc"; }));
+    loop_.post([&] { order += "e"; });
+    order += "d";
   });
   loop_.post([&] { order += "c"; });
   EXPECT_EQ(order, "");

@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """Tests that the block stays on the clipboard of an X server after the agent has ended, and that the
 program that keeps it behaves.
 
@@ -28,6 +28,13 @@ class Keepers:
 
         found = self.desktop.run("pgrep", "-f", "quillseal-clipboard-keeper", check=False).split()
         return [pid for pid in found if is_ours(pid)]
+
+    def run_keeper(self, text, markup="", *options, output=subprocess.DEVNULL):
+        text = text.encode()
+        return subprocess.run(
+            [self.build / "client_integrations/linux-agent/Sources/quillseal-clipboard-keeper-x11",
+             *options], input=b"%d\n%s%s" % (len(text), text, markup.encode()), stdout=output,
+            env=self.desktop.env, cwd=self.desktop.home, check=True, timeout=5).stdout
 
     def wait_until_nothing_stays(self):
         wait_for("nothing of Quillseal stays behind", lambda: not self.keepers())
@@ -85,29 +92,26 @@ class KeeperForX11(OnX11, Keepers, stories.Story):
     TEXT = "『" + LETTER * 4000 + "』"
     MARKUP = f"<p>{TEXT}</p>" * 8
 
-    def run_keeper(self, *options, **streams):
-        text = self.TEXT.encode()
-        done = subprocess.run(
-            [self.build / "client_integrations/linux-agent/Sources/quillseal-clipboard-keeper-x11",
-             *options], input=b"%d\n%s%s" % (len(text), text, self.MARKUP.encode()),
-            env=self.desktop.env, cwd=self.desktop.home, check=True, timeout=5, **streams)
-        wait_for("one keeper is left", lambda: len(self.keepers()) == 1)
-        self.assertEqual(os.readlink(f"/proc/{self.keepers()[0]}/cwd"), "/")
-        return done.stdout
-
     def keep(self):
         client = XClient(self.desktop.env["DISPLAY"])
         self.addCleanup(client.close)
-        self.assertEqual(int(self.run_keeper(stdout=subprocess.PIPE)), client.clipboard_owner())
+        window = self.run_keeper(self.TEXT, self.MARKUP, output=subprocess.PIPE)
+        self.assertEqual(int(window), client.clipboard_owner().id)
+        self.assert_kept()
         return client
 
-    def keep_later(self):
+    def keep_later(self, text=TEXT):
         """Returns the line, by whose end the keeper begins."""
         line, end = socket.socketpair()
         self.addCleanup(line.close)
         with end:
-            self.run_keeper("--waiting", stdout=end)
+            self.run_keeper(text, self.MARKUP, "--waiting", output=end)
+        self.assert_kept()
         return line
+
+    def assert_kept(self):
+        wait_for("one keeper is left", lambda: len(self.keepers()) == 1)
+        self.assertEqual(os.readlink(f"/proc/{self.keepers()[0]}/cwd"), "/")
 
     def copy_and_wait(self):
         self.copy_elsewhere("something else")
@@ -144,7 +148,7 @@ class KeeperForX11(OnX11, Keepers, stories.Story):
 
     def test_a_server_that_ends_with_its_last_program_stays_as_long_as_the_block(self):
         server = self.desktop.start_x_server("-terminate")
-        self.run_keeper(stdout=subprocess.DEVNULL)
+        self.run_keeper(self.TEXT, self.MARKUP)
         self.assertEqual(self.desktop.selection(), self.TEXT)
         self.assertIsNone(server.poll())
         os.kill(server.pid, signal.SIGKILL)
@@ -163,6 +167,12 @@ class KeeperForX11(OnX11, Keepers, stories.Story):
             line = self.keep_later()
             self.copied("something else")
             line.close()
+            self.wait_until_nothing_stays()
+            self.assertEqual(self.desktop.selection(), "something else")
+        with self.subTest("somebody copies at the last moment"):
+            line, client = self.keep_later(LETTER), XClient(self.desktop.env["DISPLAY"])
+            self.addCleanup(client.close)
+            client.answer_late(LETTER, line.close, lambda: self.copied("something else"))
             self.wait_until_nothing_stays()
             self.assertEqual(self.desktop.selection(), "something else")
         with self.subTest("it is dismissed"):

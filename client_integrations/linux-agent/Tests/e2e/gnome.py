@@ -4,10 +4,12 @@
 Options and test names as in stories.py.
 """
 
+import os
 import re
 import signal
 import subprocess
 import time
+import unittest.mock
 
 import clipboard
 import stories
@@ -16,6 +18,7 @@ from browsers import Browser, Site
 from gnome_session import EXTENSION, GnomeSession
 from session import LETTER, wait_for
 from windows import CHAT
+from xclient import XClient
 
 
 class OnGnome(stories.Story):
@@ -126,7 +129,20 @@ class GnomeWindows(OnGnome, windows.WindowStory):
         self.assertNotIn("turned away", self.desktop.output_of(self.desktop.agent))
 
 
-class GnomeClipboard(OnGnome, clipboard.Clipboard):
+class GnomeClipboard(OnGnome, clipboard.Clipboard, windows.WindowStory):
+    def test_nothing_is_pasted_of_a_program_that_passes_for_the_keeper(self):
+        self.start()
+        self.open_letter()
+        self.enterContext(unittest.mock.patch.dict(os.environ, self.desktop.env))
+        client = XClient(self.desktop.env["DISPLAY"])
+        self.addCleanup(client.close)
+        with self.while_the_server_is_slow():
+            before = client.clipboard_owner()
+        client.wait_until_clipboard_leaves(before)
+        self.run_keeper("something else")  # within the 100 ms that a paste waits with the block there
+        self.desktop.close("Signed — Not on Your Clipboard", "Escape")
+        self.desktop.wait_for_window(r"^[^*]*letter\.txt")
+
     def test_the_block_outlives_the_agent_until_somebody_copies(self):
         self.start()
         editor = self.sign_in_editor()

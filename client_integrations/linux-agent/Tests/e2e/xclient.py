@@ -4,8 +4,9 @@ import contextlib
 import time
 
 from session import PATIENCE, Failure, wait_for
-from Xlib import X
+from Xlib import X, Xatom
 from Xlib.display import Display
+from Xlib.protocol import event
 
 
 class XClient:
@@ -46,6 +47,28 @@ class XClient:
         while self.clipboard_owner() == owner:
             if time.monotonic() > deadline:
                 raise Failure("nobody takes the clipboard")
+
+    def answer_late(self, text, begin, meanwhile):
+        """Has the clipboard, and gives this text to the first who asks after `begin`, but `meanwhile`
+        happens before."""
+        targets, utf8 = map(self.x.intern_atom, ("TARGETS", "UTF8_STRING"))
+        owner = self.new_window()
+        owner.set_selection_owner(self.clipboard, X.CurrentTime)
+        self.x.sync()
+        begin()
+        target = targets
+        while target == targets:
+            asked = self.x.next_event()
+            target = asked.target
+            if target == targets:
+                asked.requestor.change_property(asked.property, Xatom.ATOM, 32, [utf8])
+            else:
+                meanwhile()
+                asked.requestor.change_property(asked.property, utf8, 8, text.encode())
+            asked.requestor.send_event(event.SelectionNotify(
+                time=asked.time, requestor=asked.requestor, selection=asked.selection,
+                target=target, property=asked.property))
+            self.x.sync()
 
     # A reader of the clipboard that may behave as it likes
 

@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 
 #include "BusServices.h"
+#include "Cases.h"
 #include "PrivateBus.h"
 #include "RunUntil.h"
 #include "presence/FingerprintReader.h"
@@ -136,77 +137,48 @@ class LinuxPresenceTest : public ::testing::Test {
 constexpr auto biometrics = PresencePolicy::biometrics;
 constexpr auto password = PresencePolicy::biometricsOrPassword;
 
+/// A script from its fields in cases.jsonl.
+Script scriptOf(const testing::Json& fields) {
+  return {.hasReader = fields.value("hasReader", true),
+          .readerInUse = fields.value("readerInUse", false),
+          .fingers = fields.value("fingers", Script().fingers),
+          .touches = fields.value("touches", Script().touches),
+          .actionInstalled = fields.value("actionInstalled", true),
+          .mayAsk = fields.value("mayAsk", true),
+          .passwordRight = fields.value("passwordRight", true),
+          .dismissed = fields.value("dismissed", false)};
+}
+
 TEST_F(LinuxPresenceTest, TellsWhatTheMachineOffers) {
   EXPECT_FALSE(can(biometrics));
   EXPECT_FALSE(can(password));
   EXPECT_EQ(presence.biometry(), desktop::Biometry::none);
-  const struct {
-    Script script;
-    bool finger, anything;
-  } rows[] = {{{}, true, true},
-              {{.hasReader = false}, false, true},
-              {{.fingers = {}}, false, true},
-              {{.fingers = {}, .actionInstalled = false}, false, false},
-              {{.fingers = {}, .actionInstalled = true, .mayAsk = false}, false, false}};
-  for (const auto& row : rows) {
-    const PresenceServices services(row.script);
-    EXPECT_EQ(can(biometrics), row.finger);
-    EXPECT_EQ(can(password), row.anything);
-    EXPECT_EQ(presence.biometry(),
-              row.finger ? desktop::Biometry::touchId : desktop::Biometry::none);
+  for (const auto& [script, finger, anything] : testing::cases<testing::Json, bool, bool>()) {
+    const PresenceServices services(scriptOf(script));
+    EXPECT_EQ(can(biometrics), finger) << script;
+    EXPECT_EQ(can(password), anything) << script;
+    EXPECT_EQ(presence.biometry(), finger ? desktop::Biometry::touchId : desktop::Biometry::none);
   }
 }
 
-TEST_F(LinuxPresenceTest, TheRightFingerPasses) {
-  PresenceServices services({.touches = {{"verify-retry-scan", "verify-no-match"},
-                                         {"verify-no-match"},
-                                         {"verify-swipe-too-short", "verify-match"}}});
-  EXPECT_EQ(evaluate(biometrics), "yes");
-  EXPECT_THAT(services.end(),
-              ElementsAre("GetDefaultDevice", "Claim", "VerifyStart", "VerifyStop", "VerifyStart",
-                          "VerifyStop", "VerifyStart", "VerifyStop", "Release"));
-  ASSERT_EQ(prompt.requests.size(), 1U);
-  EXPECT_EQ(prompt.requests[0].reason, "Sign “x”");
-  EXPECT_EQ(prompt.requests[0].medium, "LinkedIn Post");
-  EXPECT_FALSE(prompt.requests[0].needsConsent);
-  EXPECT_THAT(prompt.instructions, Contains(HasSubstr("not recognised")));
-}
-
-TEST_F(LinuxPresenceTest, AFingerMayFail) {
-  const std::vector<std::string> wrong{"verify-no-match"};
-  const std::pair<Script, const char*> rows[] = {
-      {{.touches = {wrong, wrong, wrong, {"verify-match"}}}, "no"},
-      {{.readerInUse = true}, "in use by another program"},
-      {{.touches = {{"verify-disconnected"}}}, "unplugged"}};
-  for (const auto& [script, outcome] : rows) {
-    PresenceServices services(script);
-    EXPECT_THAT(evaluate(biometrics), HasSubstr(outcome));
-    EXPECT_EQ(services.end().back(), script.readerInUse ? "Claim" : "Release");
+TEST_F(LinuxPresenceTest, PassesThePersonAlone) {
+  for (const auto& [script, policy, answer, outcome, instruction, calls] :
+       testing::cases<testing::Json, std::string, std::string, std::string, std::string,
+                      std::vector<std::string>>()) {
+    SCOPED_TRACE(script.dump() + policy);
+    PresenceServices services(scriptOf(script));
+    prompt.answer.reset();
+    if (answer != "none") prompt.answer = answer == "yes";
+    prompt.requests.clear();
+    prompt.instructions.clear();
+    EXPECT_EQ(evaluate(policy == "finger" ? biometrics : password), outcome);
+    EXPECT_EQ(services.end(), calls);
+    EXPECT_THAT(::testing::PrintToString(prompt.instructions), HasSubstr(instruction));
+    ASSERT_EQ(prompt.requests.size(), 1U);
+    EXPECT_EQ(prompt.requests[0].reason, "Sign “x”");
+    EXPECT_EQ(prompt.requests[0].medium, "LinkedIn Post");
+    EXPECT_EQ(prompt.requests[0].needsConsent, policy == "password");
   }
-  const PresenceServices services({});
-  prompt.answer = false;
-  EXPECT_EQ(evaluate(biometrics), "Authentication was cancelled.");
-}
-
-TEST_F(LinuxPresenceTest, ThePasswordDecidesWithoutAReader) {
-  const std::pair<Script, const char*> rows[] = {
-      {{}, "yes"},
-      {{.passwordRight = false}, "no"},
-      {{.dismissed = true}, "Authentication was cancelled."},
-      {{.mayAsk = false, .passwordRight = false},
-       "Nobody could ask for your password: this desktop runs no polkit authentication agent."},
-      {{.actionInstalled = false}, "the action is not registered"}};
-  prompt.answer = true;
-  for (const auto& [script, outcome] : rows) {
-    const PresenceServices services(script);
-    EXPECT_EQ(evaluate(password), outcome);
-  }
-  EXPECT_TRUE(prompt.requests[0].needsConsent);
-
-  prompt.answer = false;
-  PresenceServices services({});
-  EXPECT_EQ(evaluate(password), "Authentication was cancelled.");
-  EXPECT_THAT(services.end(), Not(Contains("CheckAuthorization")));
 }
 
 TEST_F(LinuxPresenceTest, ADroppedTicketEndsTheQuestion) {

@@ -11,7 +11,6 @@
 
 #include <gmock/gmock.h>
 #include <openssl/ssl.h>
-#include <poll.h>
 #include <sys/socket.h>
 
 #include "Cases.h"
@@ -55,10 +54,14 @@ class ScriptedServer {
   explicit ScriptedServer(ServerScript script) : script_(std::move(script)) {
     BIO_do_accept(listener_.get());  // which listens, the first time
     port = BIO_get_accept_port(listener_.get());
-    thread_ = std::jthread([this](const std::stop_token& stop) { serve(stop); });
+    thread_ = std::jthread([this] { serve(); });
   }
   ScriptedServer(const ScriptedServer&) = delete;
   ScriptedServer& operator=(const ScriptedServer&) = delete;
+  ~ScriptedServer() {
+    for (const int socket : {socketOf(listener_), current_.load()})
+      shutdown(socket, SHUT_RDWR);
+  }
 
   /// The requests that came in whole, byte for byte.
   [[nodiscard]] std::vector<std::string> requests() const {
@@ -71,27 +74,26 @@ class ScriptedServer {
 
  private:
   using Stream = UniqueHandle<BIO, ::BIO_free_all>;
-  static constexpr int tick = 20;  // ms between looks at whether the server shall stop
+  static int socketOf(const Stream& stream) {
+    return static_cast<int>(BIO_get_fd(stream.get(), nullptr));
+  }
 
-  void serve(const std::stop_token& stop) {
+  void serve() {
     // OpenSSL writes without MSG_NOSIGNAL; a client that has left is to be an error here.
     sigset_t broken;
     sigemptyset(&broken);
     sigaddset(&broken, SIGPIPE);
     pthread_sigmask(SIG_BLOCK, &broken, nullptr);
-    while (!stop.stop_requested()) {
-      pollfd waiting{.fd = static_cast<int>(BIO_get_fd(listener_.get(), nullptr)),
-                     .events = POLLIN,
-                     .revents = 0};
-      if (poll(&waiting, 1, tick) <= 0 || BIO_do_accept(listener_.get()) != 1) continue;
+    while (BIO_do_accept(listener_.get()) == 1) {
+      Stream connection(BIO_pop(listener_.get()));
+      current_ = socketOf(connection);
       ++connections;
-      serveConnection(Stream(BIO_pop(listener_.get())), stop);
+      serve(connection);
+      current_ = -1;
     }
   }
 
-  void serveConnection(Stream connection, const std::stop_token& stop) {
-    constexpr timeval patience{.tv_sec = 0, .tv_usec = tick * 1000};
-    const int socket = static_cast<int>(BIO_get_fd(connection.get(), nullptr));
+  void serve(Stream& connection) {
     UniqueHandle<SSL_CTX, ::SSL_CTX_free> context;
     if (!script_.tls.empty()) {
       context.reset(SSL_CTX_new(TLS_server_method()));
@@ -101,8 +103,6 @@ class ScriptedServer {
       connection.reset(BIO_push(BIO_new_ssl(context.get(), 0), connection.release()));
       if (BIO_do_handshake(connection.get()) != 1) return;
     }
-    setsockopt(socket, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
-
     std::string request;
     std::array<char, 65536> buffer{};
     const auto read = [&] {
@@ -110,8 +110,8 @@ class ScriptedServer {
     };
     while (!isWhole(request)) {
       const int count = read();
-      if (count == 0 || stop.stop_requested()) return;
-      if (count > 0) request.append(buffer.data(), static_cast<std::size_t>(count));
+      if (count <= 0) return;
+      request.append(buffer.data(), static_cast<std::size_t>(count));
     }
     {
       const std::scoped_lock lock(mutex_);
@@ -123,18 +123,19 @@ class ScriptedServer {
       if (BIO_write_ex(connection.get(), rest.data(), rest.size(), &sent) != 1) break;
     if (script_.end == "reset") {
       constexpr linger atOnce{.l_onoff = 1, .l_linger = 0};
-      setsockopt(socket, SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);
+      setsockopt(current_, SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);
     } else if (script_.end == "linger") {
-      while (!stop.stop_requested() && read() != 0) {
+      while (read() > 0) {
       }
     } else {
       if (context) BIO_ssl_shutdown(connection.get());
-      shutdown(socket, SHUT_WR);
+      shutdown(current_, SHUT_WR);
       static_cast<void>(read());
     }
   }
 
   ServerScript script_;
+  std::atomic<int> current_ = -1;
   Stream listener_{BIO_new_accept("127.0.0.1:0")};
   mutable std::mutex mutex_;
   std::vector<std::string> requests_;  // guarded by mutex_

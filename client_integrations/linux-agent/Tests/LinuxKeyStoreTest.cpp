@@ -172,29 +172,22 @@ struct Story {
   }
 
   void give(const std::string& name, const std::string& value) {
-    if (name == "obstacle") {
-      tpm.itsObstacle = value;
-    } else if (name == "weakness") {
-      tpm.itsWeakness = value;
-    } else if (name == "defect") {
-      tpm.defect = value;
-    } else if (name == "kind") {
-      tpm.kind = SecretKind::unguardedPin;
-    } else if (name == "signatures") {
-      tpm.foreignSignatures = value == "foreign";
-    } else if (name == "failure") {
-      tpm.whileWorking = [value] {
-        if (!value.empty()) throw KeyFailure(value);
-      };
-    } else if (name == "file") {
-      testing::overwrite(folder.path() / "file" / "key", value);
-    } else if (name == "folder") {
-      testing::overwrite(folder.path() / "file", value);
-    } else if (name == "remove") {
-      store->remove();
-    } else {
-      ADD_FAILURE() << "no story can set " << name;
-    }
+    const std::map<std::string, std::function<void()>> actions{
+        {"obstacle", [&] { tpm.itsObstacle = value; }},
+        {"weakness", [&] { tpm.itsWeakness = value; }},
+        {"defect", [&] { tpm.defect = value; }},
+        {"kind", [&] { tpm.kind = SecretKind::unguardedPin; }},
+        {"signatures", [&] { tpm.foreignSignatures = value == "foreign"; }},
+        {"failure",
+         [&] {
+           tpm.whileWorking = [value] {
+             if (!value.empty()) throw KeyFailure(value);
+           };
+         }},
+        {"file", [&] { testing::overwrite(folder.path() / "file" / "key", value); }},
+        {"folder", [&] { testing::overwrite(folder.path() / "file", value); }},
+        {"remove", [&] { store->remove(); }}};
+    actions.at(name)();
   }
 
   std::map<std::vector<std::uint8_t>, std::size_t> keys;

@@ -179,6 +179,9 @@ TEST_F(LinuxPresenceTest, PassesThePersonAlone) {
     EXPECT_EQ(prompt.requests[0].medium, "LinkedIn Post");
     EXPECT_EQ(prompt.requests[0].needsConsent, policy == "password");
   }
+  const PresenceServices services({});
+  prompt.answer = false;
+  EXPECT_EQ(evaluate(biometrics), "Authentication was cancelled.");
 }
 
 TEST_F(LinuxPresenceTest, ADroppedTicketEndsTheQuestion) {
@@ -197,20 +200,6 @@ TEST_F(LinuxPresenceTest, ADroppedTicketEndsTheQuestion) {
     }
     EXPECT_EQ(services.end().back(), policy == password ? "CancelCheckAuthorization" : "Release");
   }
-}
-
-TEST(FingerprintTouch, UnknownWordsAreAFailure) {
-  using Kind = FingerprintReader::Touch::Kind;
-  const std::map<Kind, std::vector<std::string_view>> words{
-      {Kind::match, {"verify-match"}},
-      {Kind::noMatch, {"verify-no-match"}},
-      {Kind::again,
-       {"verify-retry-scan", "verify-swipe-too-short", "verify-too-fast",
-        "verify-finger-not-centered", "verify-remove-and-retry"}},
-      {Kind::failure, {"", "verify", "verify-unknown-error", "verify-match "}}};
-  for (const auto& [kind, statuses] : words)
-    for (const std::string_view status : statuses)
-      EXPECT_EQ(FingerprintReader::touchOf(status).kind, kind) << status;
 }
 
 }  // namespace

@@ -162,7 +162,7 @@ TEST_F(LinuxBrowserTabsTest, GoesAsTold) {
     } else if (second == "says") {
       browsers.at(first)->send(TabMessages::framed(rest));
     } else if (second == "sends") {
-      browsers.at(first)->send(rest);
+      browsers.at(first)->send(unicode::replacingAll(rest, "{ff}", "\xFF"));
     } else if (first == "forget") {
       ticket_ = {};
     } else if (first == ">") {

@@ -128,6 +128,7 @@ void give(Story& d, const std::string& name, const std::string& value) {
       {"declined press", &d.keys.declinedPress},
       {"desktop advice", &d.words.advice},
       {"default browser", &d.applications.defaultBrowser},
+      {"device key", &d.words.wording.deviceKey},
       {"dialogs stay open", &d.alerts.leavesDialogsOpen},
       {"enclave", &d.keyStore.canHoldKey},
       {"entitlement missing", &d.keyStore.lacksEntitlement},

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "Quillseal/AccessibilityManager.h"
+#include "Quillseal/SecureEnclaveManager.h"
 #include "Story.h"
 #include "TaskResult.h"
 #include "core/signing/SignedBlock.h"
@@ -22,6 +23,7 @@ using ::testing::Contains;
 using testing::Copy;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
+using ::testing::IsEmpty;
 using ::testing::Not;
 using ::testing::StartsWith;
 using testing::Text;
@@ -80,6 +82,32 @@ TEST_F(SigningCoordinatorTest, AFirstRunUsesNoKeyWhoseEnrolmentMayFail) {
       EXPECT_EQ(d.count("create key"), fails ? 2 : 1) << "a key that is gone, or one for both";
     }
   }
+}
+
+TEST(SecureEnclaveManager, SignsTheBytesOfAWholeDigestOnly) {
+  Story desktop;
+  const auto sign = [&](const std::string& textHashHex) {
+    return testing::resultOf(desktop.loop, SecureEnclaveManager::sign(
+                                               {.keyStore = desktop.keyStore,
+                                                .log = desktop.log,
+                                                .loop = desktop.loop,
+                                                .words = desktop.words},
+                                               {.textHashHex = textHashHex,
+                                                .prompt = {.reason = "Sign this", .medium = {}}}));
+  };
+  const std::string whole = "00ff10a0" + std::string(56, '3');
+  const std::string all = whole.substr(2), begun = whole.substr(0, 62);
+  for (const std::string& malformed : {std::string(), whole.substr(1), whole + "0", whole + "00",
+                                       "g0" + all, "+1" + all, begun + " 1", begun + "\u00E9"})
+    EXPECT_STREQ(std::get<Error>(sign(malformed)).what(),
+                 "Secure Enclave signing failed: content hash is not a 64-char hex digest")
+        << malformed;
+  EXPECT_THAT(desktop.trace, IsEmpty());
+  // The signature of a fake key is what it signs, here in Base64.
+  const std::string signature = "AP8QoDMzMzMzMzMzMzMzMzMzMzMzMzMzMzMzMzMzMzM=";
+  EXPECT_EQ(std::get<std::string>(sign(whole)), signature);
+  EXPECT_EQ(std::get<std::string>(sign("00FF10a0" + whole.substr(8))), signature);
+  EXPECT_THAT(desktop.trace, ElementsAre("prompt: Sign this", "prompt: Sign this"));
 }
 
 /// A run with everything: enrolment, recovery, dialogs, the return to the tab.

@@ -6,13 +6,55 @@
 
 #include "Cases.h"
 #include "Inspection.h"
+#include "Operations.h"
 #include "PatternTrial.h"
 #include "Quillseal/ContentRules.h"
+#include "Quillseal/CryptoManager.h"
 
 namespace quillseal::inspect {
 namespace {
 
+using Json = nlohmann::ordered_json;
 using ::testing::HasSubstr;
+
+// The cases of operation-cases.jsonl, each a request and its answer.
+TEST(Operations, AnswerEachRequest) {
+  for (const Json& each : quillseal::testing::cases()) {
+    const std::string request = each[0].is_string() ? each[0].get<std::string>() : each[0].dump();
+    const Json actual = Json::parse(answer(request));
+    Json expected = each[1].size() == actual.size() ? each[1] : actual;
+    expected.update(each[1]);
+    for (const auto& [key, value] : each[1].items()) {
+      if (!value.is_array() || !actual.contains(key) || !actual[key].is_string()) continue;
+      for (const std::string part : value)
+        EXPECT_THAT(actual[key].get<std::string>(), HasSubstr(part)) << request.substr(0, 200);
+      expected[key] = actual[key];
+    }
+    EXPECT_EQ(actual, expected) << request.substr(0, 200);
+  }
+}
+
+TEST(Operations, ReadARequestOfManyKeysInReasonableTime) {
+  std::string line = "{";
+  for (int i = 0; i < 100000; ++i)
+    line += "\"k" + std::to_string(i) + "\":1,";
+  EXPECT_THAT(answer(line + "\"op\":\"dance\"}"), HasSubstr("unknown operation"));
+}
+
+TEST(Operations, ReplaceIllFormedBytesOnce) {
+  EXPECT_THAT(answer("{\"op\":\"inspect\",\"issued\":\"\",\"text\":\"a\xFF\xE2\x82z\"}"),
+              HasSubstr("\"normalized\":\"a\uFFFD\uFFFDz\""));
+}
+
+TEST(Report, UnderlinesWhatMatched) {
+  const std::string report = readableReport(
+      inspect({.text = "会議e\u0301: see javascript:x now", .html = {}, .issued = "2025-01-30"}));
+  EXPECT_THAT(report, HasSubstr("Image digest  " + CryptoManager::imageManifestDigest({}) + '\n'));
+  EXPECT_THAT(report, HasSubstr("Screening     refused, score 100\n"
+                                "              url-javascript (100, blocks): Deceptive links\n"
+                                "              会議e\u0301: see javascript:x now\n"
+                                "                         ^^^^^^^^^^^\n"));
+}
 
 // A pattern, a text, and of each approach: number, satisfied part, text there, missing part.
 TEST(PatternTrial, FindsTheLongestBeginningThatOccurs) {

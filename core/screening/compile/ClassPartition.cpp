@@ -120,7 +120,7 @@ class Intervals {
 ClassSetId ClassSetPool::intern(const ClassBits& bits) {
   using Table = ClassSetTable<Owned>;
   const std::size_t count = sets_.size();
-  if (count == std::numeric_limits<ClassSetId>::max()) throw PatternError("too many sets");
+  if (count == maxClassSets) throw PatternError("too many sets");
   const auto [known, isNew] = indexes_.try_emplace(bits, static_cast<ClassSetId>(count));
   if (!isNew) return known->second;
   sets_.push_back(&known->first);

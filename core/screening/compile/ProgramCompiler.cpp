@@ -55,7 +55,7 @@ class ProgramCompiler {
     for (std::size_t i = 0; i < program_.code.size(); ++i) {
       Instruction& instruction = program_.code[i];
       if (isLoop(instruction))
-        instruction.first = numberOf(kept(firstAt(static_cast<std::uint32_t>(i + 1))));
+        instruction.next = kept(firstAt(static_cast<std::uint32_t>(i + 1))).bits();
     }
     ProgramEntry& whole = program_.entries.front();
     whole.firstSet = kept(firstAt(whole.instruction));
@@ -76,11 +76,11 @@ class ProgramCompiler {
   void emit(const Node& node) {
     switch (node.kind) {
       case Node::Kind::set:
-        add({.operation = Operation::set, .set = setOf(node.set)});
+        add({.operation = Operation::set, .first = setOf(node.set)});
         break;
       case Node::Kind::foldedText:
         add({.operation = Operation::foldedText,
-             .count = counted(node.text.size()),
+             .count = small(node.text.size()),
              .first = lettersOf(node.text)});
         break;
       case Node::Kind::sequence:
@@ -110,18 +110,17 @@ class ProgramCompiler {
             add({.operation = node.negative ? Operation::negativeLookAhead : Operation::lookAhead});
         emit(node.children.front());
         add({.operation = Operation::acceptAhead});
-        program_.code[look].first = here();
+        program_.code[look].next = here();
         break;
       }
       case Node::Kind::precedingInSet:
         add({.operation = node.negative ? Operation::notPrecededBy : Operation::precededBy,
-             .set = setOf(node.set)});
+             .first = setOf(node.set)});
         break;
       case Node::Kind::precedingWord:
         add({.operation = Operation::precededByWord,
-             .count = counted(node.min),
-             .max = counted(node.max),
-             .set = setOf(node.set)});
+             .count = repetitionOf({.min = counted(node.min), .max = counted(node.max)}),
+             .first = setOf(node.set)});
         break;
     }
   }
@@ -148,7 +147,7 @@ class ProgramCompiler {
       const auto keptFor = [&](std::size_t index) { return index > i ? same[index] : index; };
       const Instruction& instruction = code[i];
       if (instruction.operation == Operation::jump) {
-        same[i] = static_cast<std::uint16_t>(keptFor(instruction.first));
+        same[i] = static_cast<std::uint16_t>(keptFor(instruction.next));
         continue;
       }
       const auto index = static_cast<std::uint16_t>(i);
@@ -164,15 +163,16 @@ class ProgramCompiler {
   std::vector<std::uint32_t> describe(std::size_t index, const auto& keptFor) const {
     const Instruction& instruction = program_.code[index];
     std::vector<std::uint32_t> all{static_cast<std::uint32_t>(instruction.operation),
-                                   instruction.exception, instruction.count, instruction.set};
+                                   instruction.count};
     const auto add = [&](std::size_t number) { all.push_back(static_cast<std::uint32_t>(number)); };
-    if (instruction.operation == Operation::foldedText) add(instruction.first);
-    add(takesLetters(instruction) ? keptFor(index + 1) : instruction.max);
-    if (goesOn(instruction)) add(keptFor(index + 1));
-    if (leadsToFirst(instruction)) add(keptFor(instruction.first));
-    if (instruction.operation == Operation::choice)
+    if (instruction.operation == Operation::choice) {
       for (const ProgramEntry& target : targetsOf(instruction))
         add(keptFor(target.instruction));
+      return all;
+    }
+    add(instruction.first);
+    if (takesLetters(instruction) || goesOn(instruction)) add(keptFor(index + 1));
+    if (looksAhead(instruction)) add(keptFor(instruction.next));
     return all;
   }
 
@@ -187,23 +187,23 @@ class ProgramCompiler {
       places[i] = here();
       add(code[i]);
       Instruction& kept = program_.code.back();
-      if (takesLetters(kept)) kept.max = same[i + 1];
-      if (leadsToFirst(kept)) kept.first = same[kept.first];
+      if (takesLetters(kept)) kept.next = same[i + 1];
+      if (looksAhead(kept)) kept.next = same[kept.next];
       if (kept.operation == Operation::choice) {
         kept.memo = memoRows(1);
         kept.first = counted(program_.targets.size());
         const auto from = targets.begin() + code[i].first;
-        program_.targets.insert(program_.targets.end(), from, from + kept.count);
+        program_.targets.insert(program_.targets.end(), from, from + kept.next);
       } else if (isLoop(kept)) {
         kept.memo = memoRows(2);
       }
       if (goesOn(kept) && same[i + 1] != i + 1)
-        add({.operation = Operation::jump, .first = same[i + 1]});
+        add({.operation = Operation::jump, .next = same[i + 1]});
     }
-    for (Instruction& instruction : program_.code) {
-      if (takesLetters(instruction)) instruction.max = places[instruction.max];
-      if (leadsToFirst(instruction)) instruction.first = places[instruction.first];
-    }
+    for (Instruction& instruction : program_.code)
+      if (takesLetters(instruction) || looksAhead(instruction) ||
+          instruction.operation == Operation::jump)
+        instruction.next = places[instruction.next];
     for (auto* entries : {&program_.targets, &program_.entries, &program_.exceptions})
       for (ProgramEntry& entry : *entries)
         entry.instruction = places[same[entry.instruction]];
@@ -214,9 +214,8 @@ class ProgramCompiler {
            instruction.operation == Operation::foldedText;
   }
 
-  static bool leadsToFirst(const Instruction& instruction) {
-    return instruction.operation == Operation::jump ||
-           instruction.operation == Operation::lookAhead ||
+  static bool looksAhead(const Instruction& instruction) {
+    return instruction.operation == Operation::lookAhead ||
            instruction.operation == Operation::negativeLookAhead;
   }
 
@@ -234,7 +233,7 @@ class ProgramCompiler {
   }
 
   [[nodiscard]] std::span<const ProgramEntry> targetsOf(const Instruction& choice) const {
-    return std::span(program_.targets).subspan(choice.first, choice.count);
+    return std::span(program_.targets).subspan(choice.first, choice.next);
   }
 
   void emitAlternatives(const Node& node) {
@@ -246,13 +245,13 @@ class ProgramCompiler {
       if (i + 1 < node.children.size()) jumps.push_back(add({.operation = Operation::jump}));
     }
     for (const std::uint32_t jump : jumps)
-      program_.code[jump].first = here();
+      program_.code[jump].next = here();
   }
 
   std::uint32_t addChoice(std::size_t targets) {
     const std::uint16_t first = counted(program_.targets.size());
     program_.targets.resize(first + targets);
-    return add({.operation = Operation::choice, .count = counted(targets), .first = first});
+    return add({.operation = Operation::choice, .next = counted(targets), .first = first});
   }
 
   void emitRepetition(const Node& node) {
@@ -277,7 +276,7 @@ class ProgramCompiler {
       emit(body);
     }
     if (optional == unbounded)
-      add({.operation = Operation::jump, .first = counted(choices.front())});
+      add({.operation = Operation::jump, .next = counted(choices.front())});
     for (const std::uint32_t choice : choices)
       targetOf(choice, node.lazy ? 0 : 1) = here();
   }
@@ -285,7 +284,7 @@ class ProgramCompiler {
   /// An iteration that always takes exactly one code point.
   struct Iteration {
     ClassSetId set = 0;
-    std::uint8_t exception = 0;
+    std::uint16_t exception = 0;
   };
 
   // Whichever alternative takes the code point, the loop goes on behind it: their order does not
@@ -326,26 +325,38 @@ class ProgramCompiler {
                                [&](const Node& part) { return isSet(part) || takesNone(part); });
   }
 
-  std::uint8_t exceptionOf(Node conditional) {
+  std::uint16_t exceptionOf(Node conditional) {
     auto known = std::find(exceptions_.begin(), exceptions_.end(), conditional);
     if (known == exceptions_.end())
       known = exceptions_.insert(exceptions_.end(), std::move(conditional));
-    const auto number = static_cast<std::size_t>(known - exceptions_.begin()) + 1;
-    if (number > std::numeric_limits<std::uint8_t>::max()) throw PatternError("pattern too long");
-    return static_cast<std::uint8_t>(number);
+    return counted(static_cast<std::size_t>(known - exceptions_.begin()) + 1);
   }
 
   void addLoop(Operation operation, const Iteration& iteration, std::uint32_t min,
                std::uint32_t max) {
     add({.operation = operation,
-         .exception = iteration.exception,
-         .count = counted(min),
-         .max = max == unbounded ? Instruction::endless : counted(max),
-         .set = iteration.set});
+         .count = repetitionOf({.min = counted(min),
+                                .max = max == unbounded ? Repetition::endless : counted(max),
+                                .exception = iteration.exception}),
+         .first = iteration.set});
+  }
+
+  /// Its place; equal ones are stored once.
+  std::uint8_t repetitionOf(const Repetition& repetition) {
+    auto& all = program_.repetitions;
+    const auto known = std::find(all.begin(), all.end(), repetition);
+    const std::uint8_t place = small(static_cast<std::size_t>(known - all.begin()));
+    if (known == all.end()) all.push_back(repetition);
+    return place;
+  }
+
+  static std::uint8_t small(std::size_t count) {
+    if (count > std::numeric_limits<std::uint8_t>::max()) throw PatternError("pattern too long");
+    return static_cast<std::uint8_t>(count);
   }
 
   static std::uint16_t counted(std::size_t count) {
-    if (count >= Instruction::endless) throw PatternError("pattern too long");
+    if (count >= Repetition::endless) throw PatternError("pattern too long");
     return static_cast<std::uint16_t>(count);
   }
 
@@ -381,7 +392,7 @@ class ProgramCompiler {
     const Instruction& instruction = program_.code[index];
     switch (instruction.operation) {
       case Operation::set:
-        return {.classes = sets_.bits(instruction.set)};
+        return {.classes = sets_.bits(instruction.first)};
       case Operation::foldedText: {
         FirstBits first{.classes = ClassBits(sets_.words())};
         for (const ClassId id : classes_.classesWith(program_.letters[instruction.first]))
@@ -391,24 +402,24 @@ class ProgramCompiler {
       }
       case Operation::choice: {
         FirstBits all{.classes = ClassBits(sets_.words()), .atBoundary = true};
-        for (std::uint32_t i = 0; i < instruction.count; ++i)
-          all =
-              either(std::move(all), firstAt(program_.targets[instruction.first + i].instruction));
+        for (const ProgramEntry& target : targetsOf(instruction))
+          all = either(std::move(all), firstAt(target.instruction));
         return all;
       }
       case Operation::greedyLoop:
       case Operation::lazyLoop: {
-        FirstBits body{.classes = sets_.bits(instruction.set)};
-        if (instruction.exception != 0)
+        FirstBits body{.classes = sets_.bits(instruction.first)};
+        const Repetition& repetition = program_.repetitions[instruction.count];
+        if (repetition.exception != 0)
           unite(body.classes,
-                firstAt(program_.exceptions[instruction.exception - std::size_t{1}].instruction)
+                firstAt(program_.exceptions[repetition.exception - std::size_t{1}].instruction)
                     .classes);
-        return instruction.count > 0 ? body : either(std::move(body), firstAt(index + 1));
+        return repetition.min > 0 ? body : either(std::move(body), firstAt(index + 1));
       }
       case Operation::jump:
       case Operation::lookAhead:
       case Operation::negativeLookAhead:
-        return firstAt(instruction.first);
+        return firstAt(instruction.next);
       case Operation::wordBoundary: {
         FirstBits first = firstAt(index + 1);
         first.atBoundary = true;
@@ -432,19 +443,8 @@ class ProgramCompiler {
   }
 
   FirstSet kept(const FirstBits& first) {
-    const ClassBits& classes = first.isNullable ? ClassBits(sets_.words()) : first.classes;
-    return {.classes = sets_.intern(classes),
-            .isNullable = first.isNullable,
-            .atBoundary = first.atBoundary};
-  }
-
-  /// Its index in `firstSets`; equal sets are stored once.
-  std::uint16_t numberOf(const FirstSet& firstSet) {
-    auto& all = program_.firstSets;
-    const auto found = std::find(all.begin(), all.end(), firstSet);
-    if (found != all.end()) return static_cast<std::uint16_t>(found - all.begin());
-    all.push_back(firstSet);
-    return counted(all.size() - 1);
+    if (first.isNullable) return FirstSet::ofAny(first.atBoundary);
+    return FirstSet::of(sets_.intern(first.classes), first.atBoundary);
   }
 
   PatternProgram<Owned> program_;
@@ -503,8 +503,8 @@ class PrefixWalk {
       case Operation::absoluteEnd:
         return false;
       case Operation::set:
-        unite(step_, sets_.bits(instruction.set));
-        behind_.insert({.instruction = instruction.max});
+        unite(step_, sets_.bits(instruction.first));
+        behind_.insert({.instruction = instruction.next});
         break;
       case Operation::foldedText:
         return passesLetter(place);
@@ -513,13 +513,13 @@ class PrefixWalk {
         passesIteration(place);
         break;
       case Operation::choice:
-        for (std::uint32_t i = 0; i < instruction.count; ++i)
+        for (std::uint32_t i = 0; i < instruction.next; ++i)
           reached_.push_back(program_.targets[instruction.first + i].instruction);
         break;
       case Operation::jump:
       case Operation::lookAhead:
       case Operation::negativeLookAhead:
-        reached_.push_back(instruction.first);
+        reached_.push_back(instruction.next);
         break;
       default:
         reached_.push_back(index + 1);
@@ -538,7 +538,7 @@ class PrefixWalk {
       setBit(step_, id);
     }
     behind_.insert(taken + 1 < text.count ? Place{.instruction = index, .taken = taken + 1}
-                                          : Place{.instruction = text.max});
+                                          : Place{.instruction = text.next});
     return true;
   }
 
@@ -546,17 +546,19 @@ class PrefixWalk {
   void passesIteration(const Place& place) {
     const auto [index, taken] = place;
     const Instruction& loop = program_.code[index];
-    unite(step_, sets_.bits(loop.set));
-    if (loop.exception != 0)
+    const Repetition& repetition = program_.repetitions[loop.count];
+    unite(step_, sets_.bits(loop.first));
+    if (repetition.exception != 0)
       unite(step_,
-            sets_.bits(program_.exceptions[loop.exception - std::size_t{1}].firstSet.classes));
-    if (loop.count > taken + 1) {
+            sets_.bits(
+                program_.exceptions[repetition.exception - std::size_t{1}].firstSet.classes()));
+    if (repetition.min > taken + 1) {
       behind_.insert({.instruction = index, .taken = taken + 1});
     } else {
       behind_.insert({.instruction = index + 1});
-      if (loop.max > loop.count) behind_.insert(place);
+      if (repetition.max > repetition.min) behind_.insert(place);
     }
-    if (loop.count == 0) reached_.push_back(index + 1);
+    if (repetition.min == 0) reached_.push_back(index + 1);
   }
 
   const PatternProgram<Owned>& program_;

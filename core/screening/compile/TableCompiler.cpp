@@ -211,10 +211,11 @@ class PrefixTables {
     const ProgramEntry& entry = program.alternative(alternative);
     auto prefix = prefixClasses(program, entry, maxPrefixLength, classes_, sets_);
     if (prefix.empty()) {
-      prefix.push_back(sets_.bits(entry.firstSet.classes));
-      if (entry.firstSet.isNullable) {
-        std::fill(prefix.front().begin(), prefix.front().end(), ~std::uint64_t{0});
+      if (entry.firstSet.isAny()) {
+        prefix.emplace_back(sets_.words(), ~std::uint64_t{0});
         maybeEmpty_.push_back({.search = search, .alternative = alternative});
+      } else {
+        prefix.push_back(sets_.bits(entry.firstSet.classes()));
       }
     }
     std::size_t bit = ends_.size();

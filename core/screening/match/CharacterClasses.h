@@ -64,6 +64,8 @@ class ClassifiedText {
 
 /// A set of classes, by its place in `ClassSets`.
 using ClassSetId = std::uint16_t;
+/// How many there are at most, so that a bit is left for other use.
+inline constexpr std::size_t maxClassSets = 0x7FFF;
 
 /// The bits of sets of classes, 64 classes to a word and as many words for each set.
 template <template <typename> typename Array>

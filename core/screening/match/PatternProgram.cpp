@@ -74,7 +74,7 @@ class Backtracker {
       case Operation::foldedText:
         return matchFoldedText(current);
       case Operation::jump:
-        instruction_ = current.first;
+        instruction_ = current.next;
         return Step::advanced;
       case Operation::wordBoundary:
         return assertThat(text_.isWordBoundary(position_));
@@ -91,9 +91,9 @@ class Backtracker {
       case Operation::negativeLookAhead:
         return lookAhead(current, false);
       case Operation::precededBy:
-        return assertThat(isPrecededBy(current.set));
+        return assertThat(isPrecededBy(current.first));
       case Operation::notPrecededBy:
-        return assertThat(!isPrecededBy(current.set));
+        return assertThat(!isPrecededBy(current.first));
       case Operation::precededByWord:
         return assertThat(isPrecededByWord(current));
       case Operation::choice:
@@ -113,9 +113,9 @@ class Backtracker {
   }
 
   Step matchSet(const Instruction& current) {
-    if (!sets_.contains(current.set, text_.classAt(position_))) return Step::failed;
+    if (!sets_.contains(current.first, text_.classAt(position_))) return Step::failed;
     ++position_;
-    instruction_ = current.max;
+    instruction_ = current.next;
     return Step::advanced;
   }
 
@@ -132,7 +132,7 @@ class Backtracker {
       ++position;
     }
     position_ = position;
-    instruction_ = current.max;
+    instruction_ = current.next;
     return Step::advanced;
   }
 
@@ -143,7 +143,7 @@ class Backtracker {
 
   Step lookAhead(const Instruction& current, bool expected) {
     if (matchesAhead(instruction_ + 1, position_) != expected) return Step::failed;
-    instruction_ = current.first;
+    instruction_ = current.next;
     return Step::advanced;
   }
 
@@ -163,9 +163,10 @@ class Backtracker {
       }
     }
     if (current.operation == Operation::choice) return choose(instruction_, 0);
-    const bool isEndless = current.max == Instruction::endless;
+    const std::uint16_t max = repetitionOf(current).max;
+    const bool isEndless = max == Repetition::endless;
     if (current.operation == Operation::lazyLoop)
-      return exitFromFirst(instruction_, position_, isEndless ? unbounded : current.max);
+      return exitFromFirst(instruction_, position_, isEndless ? unbounded : max);
     return enterGreedyLoop(current, isMemoized && isEndless);
   }
 
@@ -173,16 +174,16 @@ class Backtracker {
   Step choose(std::uint32_t index, std::uint32_t which) {
     const Instruction& choice = program_.code[index];
     which = nextTarget(choice, which);
-    if (which == choice.count) return Step::failed;
+    if (which == choice.next) return Step::failed;
     const std::uint32_t later = nextTarget(choice, which + 1);
     state_.steps += later - which;
-    if (later < choice.count) push(index, position_, later);
+    if (later < choice.next) push(index, position_, later);
     instruction_ = program_.targets[choice.first + which].instruction;
     return Step::advanced;
   }
 
   [[nodiscard]] std::uint32_t nextTarget(const Instruction& choice, std::uint32_t from) const {
-    while (from < choice.count &&
+    while (from < choice.next &&
            !program_.targets[choice.first + from].firstSet.allows(text_, position_, sets_))
       ++from;
     return from;
@@ -190,9 +191,10 @@ class Backtracker {
 
   Step enterGreedyLoop(const Instruction& loop, bool usesMemo) {
     const std::uint32_t index = instruction_;
-    const std::size_t low = position_ + loop.count;
+    const Repetition& repetition = repetitionOf(loop);
+    const std::size_t low = position_ + repetition.min;
     const std::size_t limit =
-        loop.max == Instruction::endless ? text_.size() : position_ + loop.max;
+        repetition.max == Repetition::endless ? text_.size() : position_ + repetition.max;
     std::size_t high = position_;
     bool failsFromHigh = false;
     while (high < limit && !failsFromHigh && loopTakes(loop, high)) {
@@ -235,7 +237,7 @@ class Backtracker {
   bool mayExit(std::uint32_t index, std::size_t at) {
     const Instruction& loop = program_.code[index];
     ++state_.steps;
-    return program_.firstSets[loop.first].allows(text_, at, sets_) &&
+    return FirstSet(loop.next).allows(text_, at, sets_) &&
            !(state_.isMemoizing && state_.memo.hasFailed(loop.memo + 1U, at));
   }
 
@@ -245,11 +247,16 @@ class Backtracker {
     position_ = at;
   }
 
+  [[nodiscard]] const Repetition& repetitionOf(const Instruction& loop) const {
+    return program_.repetitions[loop.count];
+  }
+
   /// Whether an iteration of the loop takes the code point at `position`.
   [[nodiscard]] bool loopTakes(const Instruction& loop, std::size_t position) {
-    if (sets_.contains(loop.set, text_.classAt(position))) return true;
-    if (loop.exception == 0 || position == text_.size()) return false;
-    const ProgramEntry& exception = program_.exceptions[loop.exception - std::size_t{1}];
+    if (sets_.contains(loop.first, text_.classAt(position))) return true;
+    const std::size_t number = repetitionOf(loop).exception;
+    if (number == 0 || position == text_.size()) return false;
+    const ProgramEntry& exception = program_.exceptions[number - 1];
     return exception.firstSet.allows(text_, position, sets_) &&
            matchesAhead(exception.instruction, position);
   }
@@ -287,7 +294,8 @@ class Backtracker {
       return;
     }
     state_.memo.storeFailure(tried.memo, frame.position);
-    if (tried.max == Instruction::endless) storeRestOfRun(tried, frame);
+    if (tried.operation != Operation::choice && repetitionOf(tried).max == Repetition::endless)
+      storeRestOfRun(tried, frame);
   }
 
   /// An endless loop that fails somewhere fails from the rest of the same run, too.
@@ -325,11 +333,12 @@ class Backtracker {
   }
 
   [[nodiscard]] bool isPrecededByWord(const Instruction& current) const {
-    for (std::size_t length = 1; length <= std::min<std::size_t>(current.max, position_);
+    const Repetition& repetition = repetitionOf(current);
+    for (std::size_t length = 1; length <= std::min<std::size_t>(repetition.max, position_);
          ++length) {
       const std::size_t start = position_ - length;
-      if (!sets_.contains(current.set, text_.classAt(start))) return false;
-      if (length >= current.count && text_.isWordBoundary(start)) return true;
+      if (!sets_.contains(current.first, text_.classAt(start))) return false;
+      if (length >= repetition.min && text_.isWordBoundary(start)) return true;
     }
     return false;
   }

@@ -12,28 +12,48 @@
 namespace quillseal::screening {
 
 /// What a match can begin with at some place of a pattern.
-struct FirstSet {
-  ClassSetId classes = 0;   ///< of the first code point
-  bool isNullable = false;  ///< may match without a code point: no restriction
-  bool atBoundary = false;  ///< only where \b holds
+class FirstSet {
+ public:
+  FirstSet() = default;
+  explicit FirstSet(std::uint16_t bits) : bits_(bits) {}
+  /// That of a match with at least one code point, the first of them from a set.
+  /// REQUIRES: classes < anything.
+  static FirstSet of(ClassSetId classes, bool atBoundary) {
+    return FirstSet(static_cast<std::uint16_t>(classes | (atBoundary ? boundaryFlag : 0)));
+  }
+  /// That of a match that may be empty, for which any code point may follow.
+  static FirstSet ofAny(bool atBoundary) { return of(anything, atBoundary); }
 
   bool operator==(const FirstSet&) const = default;
 
   /// Whether a match may begin at `position`.
   [[nodiscard]] bool allows(const ClassifiedText& text, std::size_t position,
                             const ClassSets& sets) const {
-    if (atBoundary && !text.isWordBoundary(position)) return false;
-    return isNullable || sets.contains(classes, text.classAt(position));
+    if ((bits_ & boundaryFlag) != 0 && !text.isWordBoundary(position)) return false;
+    return isAny() || sets.contains(classes(), text.classAt(position));
   }
+
+  /// Whether the match may be empty.
+  [[nodiscard]] bool isAny() const { return classes() == anything; }
+  /// Of the first code point. REQUIRES: not isAny().
+  [[nodiscard]] ClassSetId classes() const { return bits_ & anything; }
+  [[nodiscard]] std::uint16_t bits() const { return bits_; }
+
+  static constexpr ClassSetId anything = maxClassSets;
+
+ private:
+  static constexpr std::uint16_t boundaryFlag = 0x8000;  ///< only where \b holds
+
+  std::uint16_t bits_ = 0;
 };
 
 enum class Operation : std::uint8_t {
   accept,       ///< the end of a match
   acceptAhead,  ///< the end of what is only looked at: of a look-ahead or an exception
   set,
-  foldedText,  ///< `count` letters from `first`
-  choice,      ///< `count` targets from `first`, in order
-  greedyLoop,  ///< `count` to `max` code points of `set`
+  foldedText,
+  choice,  ///< the first of some targets that leads to a match
+  greedyLoop,
   lazyLoop,
   jump,
   wordBoundary,
@@ -41,25 +61,36 @@ enum class Operation : std::uint8_t {
   textStart,
   textEnd,
   absoluteEnd,
-  lookAhead,          ///< the next instruction to an `acceptAhead`; then on at `first`
+  lookAhead,          ///< the instructions behind it, to an `acceptAhead`
   negativeLookAhead,  ///< likewise
   precededBy,
   notPrecededBy,
-  precededByWord,  ///< `count` to `max` code points of `set` behind a word boundary
+  precededByWord,  ///< code points of a set behind a word boundary
 };
 
-/// Continues with the next one unless it says otherwise; a set and letters do where `max` says.
+/// Goes on at `next` where that is said below, and with the instruction behind it otherwise. It has
+/// eight bytes, so one field serves for what no operation needs together.
 struct Instruction {
   Operation operation;
-  /// For a loop: which of `exceptions`, counted from 1, takes code points that are not of `set`.
-  std::uint8_t exception = 0;
-  std::uint16_t count = 0;  ///< of letters or targets; for a loop the least number of iterations
-  std::uint16_t max = 0;    ///< of iterations; for a set and letters the instruction to go on at
-  std::uint16_t memo = 0;   ///< first row in the memo table
-  ClassSetId set = 0;
-  std::uint16_t first = 0;  ///< for a loop: what follows it begins with, in `firstSets`
+  std::uint8_t count = 0;  ///< of letters; for a loop and a word, which of `repetitions`
+  /// Of a set, letters, a jump and a look-ahead: where to go on. Of a choice: how many targets. Of
+  /// a loop: the bits of a `FirstSet`, that of what follows.
+  std::uint16_t next = 0;
+  std::uint16_t memo = 0;   ///< of a choice and a loop: the first row in the memo table
+  std::uint16_t first = 0;  ///< the set; the first of the letters or targets
+};
+static_assert(sizeof(Instruction) == 8);
+
+/// How often a loop goes round.
+struct Repetition {
+  std::uint16_t min = 0;
+  std::uint16_t max = 0;
+  std::uint16_t exception =
+      0;  ///< which of `exceptions`, counted from 1, takes what the set does not
 
   static constexpr std::uint16_t endless = 0xFFFF;  ///< as `max`
+
+  bool operator==(const Repetition&) const = default;
 };
 
 /// A place to start from.
@@ -74,14 +105,14 @@ struct PatternProgram {
   Array<Instruction> code;
   Array<Letter> letters;
   Array<ProgramEntry> targets;
-  Array<FirstSet> firstSets;
+  Array<Repetition> repetitions;
   Array<ProgramEntry> entries;  ///< the whole, then the alternatives that it is a choice of
   /// Programs that match one code point where its neighbours allow it.
   Array<ProgramEntry> exceptions;
   std::uint16_t memoRows = 0;  ///< rows of the memo table
 
   void transfer(auto& archive) {
-    archive(code, letters, targets, firstSets, entries, exceptions, memoRows);
+    archive(code, letters, targets, repetitions, entries, exceptions, memoRows);
   }
 
   [[nodiscard]] const ProgramEntry& whole() const { return entries.front(); }

@@ -1,10 +1,22 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include "desktop/KeyEvents.h"
+#include "desktop/Ticket.h"
 
 namespace quillseal::desktop {
+
+/// What the user should know about the hotkey.
+struct HotkeyState {
+  /// Its keys as the desktop names them, where they are not those that were asked for; else empty.
+  std::string otherKeys;
+  /// The user has refused or removed it. It stays off until `Hotkey::askAgain`.
+  bool isOff = false;
+
+  bool operator==(const HotkeyState&) const = default;
+};
 
 /// A key combination that reaches this program whichever application is in front. Main thread.
 class Hotkey {
@@ -16,6 +28,17 @@ class Hotkey {
   /// combination, the desktop grants none) throws Error whose description tells the user what to
   /// do.
   virtual void registerHotkey(KeyPress combination, std::function<void()> pressed) = 0;
+
+  /// The state now. Does not block.
+  [[nodiscard]] virtual HotkeyState state() const { return {}; }
+
+  /// Calls `changed` whenever the state has changed as far as the desktop tells. The last observer
+  /// replaces the one before. The ticket is dropped before this object is destroyed.
+  [[nodiscard]] virtual Ticket observe(std::function<void()> /*changed*/) { return {}; }
+
+  /// Asks the user for a hotkey that is off, and tells them what came of it. Does not wait for the
+  /// answer.
+  virtual void askAgain() {}
 };
 
 }  // namespace quillseal::desktop

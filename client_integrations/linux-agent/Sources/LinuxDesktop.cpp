@@ -12,6 +12,7 @@
 #include "applications/LoadedDesktopEntries.h"
 #include "browsers/LinuxBrowserTabs.h"
 #include "gnome/GnomeSystem.h"
+#include "gnome/LoadedShortcutSettings.h"
 #include "keys/LinuxKeyStore.h"
 #include "network/HttpModule.h"
 #include "network/LoadedTransport.h"
@@ -77,20 +78,20 @@ std::unique_ptr<WindowingSystem> chosen(PortalSystem::Access access,
 class LinuxWords final : public desktop::Words {
  public:
   LinuxWords(const LinuxKeyStore& keyStore, const desktop::Defaults& defaults,
-             const WindowingSystem& system)
+             WindowingSystem& system)
       : keyStore_(keyStore), defaults_(defaults), system_(system) {}
 
   [[nodiscard]] desktop::Wording current() const override {
     return linuxWording({.key = keyStore_.place(),
                          .isDemo = Settings::demoSigning.isOn(defaults_),
-                         .otherHotkey = system_.otherHotkey()});
+                         .otherHotkey = system_.hotkey().state().otherKeys});
   }
   [[nodiscard]] std::string desktopAdvice() const override { return system_.advice(); }
 
  private:
   const LinuxKeyStore& keyStore_;
   const desktop::Defaults& defaults_;
-  const WindowingSystem& system_;
+  WindowingSystem& system_;
 };
 
 }  // namespace
@@ -101,10 +102,12 @@ struct LinuxDesktop::Parts {
       : log(sink),
         entries(LoadedModule(
             moduleOptions(EntriesModule::fileName, "knows the installed applications"))),
+        shortcuts(LoadedShortcutSettings::usualModule()),
         system(chosen(std::move(access),
                       {.loop = loop,
                        .descriptors = descriptors,
                        .entries = entries,
+                       .shortcuts = shortcuts,
                        .explain = [this] { warn(system->limits()); },
                        .tell =
                            [this](const std::string& sentence) {
@@ -158,6 +161,7 @@ struct LinuxDesktop::Parts {
   QtMainLoop loop;
   QtDescriptors descriptors;
   LoadedDesktopEntries entries;
+  LoadedShortcutSettings shortcuts;
   std::unique_ptr<WindowingSystem> system;
   QtSecretPrompt secretPrompt;
   std::unique_ptr<LinuxKeyStore> keyStore;

@@ -16,8 +16,8 @@
 
 #include "BusServices.h"
 #include "Cases.h"
-#include "FakeDesktop.h"
 #include "PrivateBus.h"
+#include "ScriptedUser.h"
 #include "TemporaryFolder.h"
 #include "applications/WindowDocument.h"
 #include "core/text/Error.h"
@@ -83,7 +83,14 @@ TEST_F(GnomeShortcuts, AreAddedBesideTheUsersOwn) {
   EXPECT_EQ(textOf(own.get(), "command"), "'quillseal --sign'");
   g_settings_set_string(own.get(), "binding", "<Super>F5");  // as the user likes it better
   EXPECT_TRUE(settings.add(shortcut));
-  EXPECT_EQ(textOf(own.get(), "binding"), "'<Super>F5'");
+  EXPECT_EQ(settings.keys(), "<Super>F5");
+  const std::string listed = textOf(list.get(), "custom-keybindings");
+  g_settings_set_string(own.get(), "binding", "");
+  EXPECT_TRUE(settings.add(shortcut));
+  EXPECT_EQ(settings.keys(), shortcut.keys);
+  EXPECT_EQ(textOf(list.get(), "custom-keybindings"), listed);
+  g_settings_reset(list.get(), "custom-keybindings");
+  EXPECT_EQ(settings.keys(), "");
 }
 
 TEST_F(GnomeShortcuts, TakeNoKeysFromAnother) {
@@ -180,18 +187,7 @@ TEST(ShellExtensionTest, HoldsNothingUpWhileTheShellHangs) {
 
 // Hotkey ------------------------------------------------------------------------------------------
 
-/// A user, whose keyboard settings are as the test says.
-struct ScriptedUser : testing::Record, ShortcutSettings {
-  testing::FakeAlerts alerts{*this};
-  testing::FakeDefaults defaults{*this};
-  ShortcutState state = ShortcutState::missing;
-  bool canAdd = true;
-
-  ShortcutState stateOf(const CustomShortcut&) override { return state; }
-  bool add(const CustomShortcut& one) override {
-    trace.push_back("add " + one.keys + " " + one.command);
-    return canAdd;
-  }
+struct ScriptedUser : testing::ScriptedUser {
   [[nodiscard]] std::unique_ptr<GnomeHotkey> registered(
       const std::string& path = "/usr/bin/quillseal") {
     auto made = std::make_unique<GnomeHotkey>(
@@ -216,10 +212,23 @@ TEST(GnomeHotkeys, AreAddedOnceTheUserSaysYesAndAskedForOnce) {
     const std::string added = "add <Control><Alt><Super>h '/opt/it'\\''s mine/quillseal' --sign";
     EXPECT_THAT(user.trace,
                 Conditional(isYes, ElementsAre(asked, kept, added), ElementsAre(asked, kept)));
-    user.defaults.flags = {"ShortcutOffered"};
     user.trace.clear();
     static_cast<void>(user.registered());
     EXPECT_THAT(user.trace, IsEmpty());
+  }
+}
+
+TEST(GnomeHotkeys, AreNamedAsTheUserHasBoundThem) {
+  ScriptedUser user;
+  const auto hotkey = user.registered();
+  for (const auto& [keys, name] : testing::cases<std::string, std::string>()) {
+    int changes = 0;
+    const desktop::Ticket watch = hotkey->observe([&] { ++changes; });
+    user.bound = keys;
+    user.loop.leap(std::chrono::hours(1));
+    EXPECT_TRUE(hotkey->isNewPress());
+    EXPECT_EQ(changes, 1) << keys;
+    EXPECT_EQ(hotkey->state(), (desktop::HotkeyState{.otherKeys = name, .isOff = keys.empty()}));
   }
 }
 

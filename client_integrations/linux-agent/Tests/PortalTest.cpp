@@ -69,7 +69,7 @@ class PortalTest : public ::testing::Test {
     hotkey.emplace(PortalHotkey::Services{
         .loop = loop,
         .portal = *portal,
-        .isOffered = offer.globalShortcuts > 0,
+        .defaults = [this]() -> desktop::Defaults& { return defaults; },
         .tell = tell,
         .activated = [this](const std::string& value) { activation = value; }});
     pasteboard.emplace(
@@ -156,6 +156,7 @@ class PortalTest : public ::testing::Test {
   PollLoop loop;
   testing::Record record;
   testing::FakeApplications applications{record};
+  testing::FakeDefaults defaults{record};
   bool isHeld = false;
   bool isTaken = false;
   std::function<void()> meanwhile;  ///< happens before the compositor has told its latest state
@@ -430,25 +431,58 @@ TEST_F(PortalHotkeys, AreNamedAsTheDesktopBoundThem) {
     hotkey->registerHotkey(desktop::signingHotkey, [] {});
     testing::runUntil(loop, [&] { return !told.empty() || desk->hasCall("BindShortcuts"); });
     settle();
-    EXPECT_EQ(hotkey->otherKeys(), otherKeys);
+    EXPECT_EQ(hotkey->state().otherKeys, otherKeys);
     EXPECT_THAT(told, HasSubstr(part));
     EXPECT_EQ(told.empty(), part.empty());
     if (!told.empty()) continue;
     desk->emit("GlobalShortcuts", "ShortcutsChanged", "oa(sa{sv})", ScriptedPortal::session, 1,
                "sign", 1, "trigger_description", "s", "Ctrl+J");
-    testing::runUntil(loop, [&] { return hotkey->otherKeys() == "Ctrl+J"; });
+    bool isReported = false;
+    const desktop::Ticket watch = hotkey->observe([&] { isReported = true; });
+    testing::runUntil(loop, [&] { return isReported; });
+    EXPECT_EQ(hotkey->state().otherKeys, "Ctrl+J");
   }
-  begin({.answer = 1});
-  hotkey->registerHotkey(desktop::signingHotkey, [] {});
-  testing::runUntil(loop, [&] { return !told.empty(); });
+}
+
+TEST_F(PortalHotkeys, ThatWereRefusedAreAskedForOnlyWhenTheUserWants) {
+  const auto start = [this](std::uint32_t answer) {
+    begin({.answer = answer});
+    hotkey->registerHotkey(desktop::signingHotkey, [] {});
+    settle();
+  };
+  const auto isAsked = [this] { return desk->hasCall("BindShortcuts"); };
+  const auto isOff = [this] { return hotkey->state().isOff; };
+  const auto isSettled = [&] {
+    return !told.empty() || defaults.string("HotkeyRefused") == "false";
+  };
+
+  start(2);  // failed, but not refused
+  testing::runUntil(loop, isSettled);
+  EXPECT_FALSE(isOff());
+  start(1);
+  testing::runUntil(loop, isSettled);
+  EXPECT_TRUE(isOff());
+  EXPECT_THAT(told, AllOf(HasSubstr("turn it on in the settings"), HasSubstr("quillseal --sign")));
   desk.reset();
-  desk.emplace(Script{});
+  desk.emplace(Script{});  // the portal restarts
   testing::runUntil(loop, [&] { return bus->knows(Portal::service) == true; });
   settle();
   EXPECT_FALSE(desk->hasCall("CreateSession"));
 
-  begin({.offer = {.remoteDesktop = 2}});
-  EXPECT_THROW(hotkey->registerHotkey(desktop::signingHotkey, [] {}), Error);
+  for (const std::uint32_t answer : {1U, 2U, 0U}) {
+    start(answer);
+    EXPECT_FALSE(isAsked());
+    EXPECT_TRUE(isOff());
+    EXPECT_EQ(told, "");
+    hotkey->askAgain();
+    EXPECT_FALSE(isOff());
+    testing::runUntil(loop, isSettled);
+    EXPECT_TRUE(isAsked());
+    EXPECT_EQ(isOff(), answer != 0);
+  }
+  start(0);
+  testing::runUntil(loop, isAsked);
+  EXPECT_FALSE(isOff());
 }
 
 // Clipboard ---------------------------------------------------------------------------------------

@@ -163,7 +163,9 @@ struct FakeDefaults final : Fake<desktop::Defaults> {
     const auto found = strings.find(key);
     return found == strings.end() ? std::nullopt : Text(found->second);
   }
-  bool boolean(std::string_view key) const override { return flags.contains(key); }
+  bool boolean(std::string_view key) const override {
+    return flags.contains(key) || string(key) == "true";
+  }
   void setString(std::string_view key, std::string_view value) override {
     record.add("set", "set " + std::string(key) + " = " + std::string(value));
     strings[std::string(key)] = value;
@@ -198,7 +200,15 @@ struct FakeHotkey final : Fake<desktop::Hotkey> {
   using Fake::Fake;
   std::function<void()> pressed;
   std::optional<Error> failure;
+  desktop::HotkeyState now;
+  std::function<void()> changed;
 
+  desktop::HotkeyState state() const override { return now; }
+  Ticket observe(std::function<void()> observer) override {
+    changed = std::move(observer);
+    return Ticket([this] { changed = nullptr; });
+  }
+  void askAgain() override { record.trace.emplace_back("ask for the hotkey again"); }
   void registerHotkey(desktop::KeyPress combination, std::function<void()> action) override {
     if (failure) throw Error(*failure);
     record.trace.emplace_back(combination == desktop::signingHotkey ? "hotkey ⌘⌥⌃H"

@@ -177,6 +177,10 @@ void give(Story& d, const std::string& name, const std::string& value) {
       d.scripts.results.push_back(result.starts_with('!')
                                       ? Outcome<Text>(Record::error(result.substr(1)))
                                       : Outcome<Text>(Text(result)));
+  } else if (name == "hotkey is off") {
+    d.hotkey.now.isOff = value == "yes";
+  } else if (name == "hotkey keys") {
+    d.words.wording.hotkey = value;
   } else if (kind == "flag") {
     d.defaults.flags.insert(which);
   } else if (kind == "setting") {
@@ -328,6 +332,8 @@ bool act(Story& d, const std::string& line) {
     d.coordinator.reset();
   } else if (line == "hotkey") {
     d.hotkey.pressed();
+  } else if (line == "hotkey changes") {
+    if (d.hotkey.changed) d.hotkey.changed();
   } else if (line == "wait") {
     d.loop.run();
   } else if (verb == "choose") {

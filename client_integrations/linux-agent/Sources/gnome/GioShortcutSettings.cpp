@@ -113,7 +113,7 @@ ShortcutState GioShortcutSettings::stateOf(const CustomShortcut& shortcut) {
   const Settings own = settingsOf(custom, ownPath);
   if (list == nullptr || own == nullptr) return ShortcutState::unsupported;
   const std::vector<std::string> paths = textsOf(list.get(), customList);
-  if (std::ranges::find(paths, ownPath) != paths.end()) return ShortcutState::present;
+  if (!keys().empty()) return ShortcutState::present;
   if (g_settings_is_writable(list.get(), customList) == FALSE ||
       g_settings_is_writable(own.get(), "binding") == FALSE)
     return ShortcutState::locked;
@@ -124,13 +124,23 @@ ShortcutState GioShortcutSettings::stateOf(const CustomShortcut& shortcut) {
   return isTaken ? ShortcutState::taken : ShortcutState::missing;
 }
 
+std::string GioShortcutSettings::keys() {
+  const Settings list = settingsOf(mediaKeys);
+  const Settings own = settingsOf(custom, ownPath);
+  if (list == nullptr || own == nullptr) return {};
+  const std::vector<std::string> paths = textsOf(list.get(), customList);
+  if (std::ranges::find(paths, ownPath) == paths.end()) return {};
+  return textsOf(own.get(), "binding").front();
+}
+
 bool GioShortcutSettings::add(const CustomShortcut& shortcut) {
   const ShortcutState state = stateOf(shortcut);
   if (state != ShortcutState::missing) return state == ShortcutState::present;
   const Settings own = settingsOf(custom, ownPath);
   const Settings list = settingsOf(mediaKeys);
   std::vector<std::string> paths = textsOf(list.get(), customList);
-  paths.emplace_back(ownPath);
+  // The user may have taken its keys away only.
+  if (std::ranges::find(paths, ownPath) == paths.end()) paths.emplace_back(ownPath);
   std::vector<const char*> pointers;
   pointers.reserve(paths.size() + 1);
   for (const std::string& path : paths)

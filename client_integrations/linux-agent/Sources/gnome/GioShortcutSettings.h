@@ -9,6 +9,7 @@ namespace quillseal::linux {
 class GioShortcutSettings final : public ShortcutSettings {
  public:
   [[nodiscard]] ShortcutState stateOf(const CustomShortcut& shortcut) override;
+  [[nodiscard]] std::string keys() override;
   [[nodiscard]] bool add(const CustomShortcut& shortcut) override;
 };
 

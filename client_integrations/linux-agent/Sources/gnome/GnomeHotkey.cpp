@@ -1,8 +1,10 @@
 #include "gnome/GnomeHotkey.h"
 
 #include <algorithm>
+#include <array>
 #include <cctype>
 #include <chrono>
+#include <set>
 #include <utility>
 
 #include <xkbcommon/xkbcommon-keysyms.h>
@@ -68,19 +70,100 @@ std::string acceleratorOf(desktop::KeyPress press) {
   return result;
 }
 
+std::string nameOfAccelerator(std::string_view keys) {
+  struct Modifier {
+    std::string_view spelling;
+    std::size_t place;
+  };
+  static constexpr std::array names = {"Ctrl+", "Alt+", "Shift+", "Super+"};
+  static constexpr auto modifiers = std::to_array<Modifier>({{"control", 0},
+                                                             {"ctrl", 0},
+                                                             {"ctl", 0},
+                                                             {"primary", 0},
+                                                             {"alt", 1},
+                                                             {"mod1", 1},
+                                                             {"shift", 2},
+                                                             {"shft", 2},
+                                                             {"super", 3},
+                                                             {"mod4", 3}});
+  std::set<std::size_t> held;
+  std::string others;
+  while (keys.starts_with('<')) {
+    const std::size_t end = keys.find('>');
+    if (end == std::string_view::npos) break;
+    const std::string name(keys.substr(1, end - 1));
+    std::string spelling = name;
+    std::ranges::transform(spelling, spelling.begin(),
+                           [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    const auto* const known =
+        std::ranges::find(modifiers, std::string_view(spelling), &Modifier::spelling);
+    if (known != modifiers.end())
+      held.insert(known->place);
+    else
+      others += name + "+";
+    keys.remove_prefix(end + 1);
+  }
+  std::string result;
+  for (const std::size_t place : held)
+    result += names.at(place);
+  result += others + std::string(keys);
+  if (keys.size() == 1)
+    result.back() = static_cast<char>(std::toupper(static_cast<unsigned char>(keys.front())));
+  return result;
+}
+
 GnomeHotkey::GnomeHotkey(Services services, std::string program)
     : services_(std::move(services)), program_(std::move(program)) {}
 
 void GnomeHotkey::registerHotkey(desktop::KeyPress combination, std::function<void()> /*pressed*/) {
-  // Also, an agent that need not look does not load GIO.
-  if (services_.defaults().boolean(wasOffered)) return;
+  combination_ = combination;
+  if (services_.defaults().boolean(wasOffered))
+    report();
+  else
+    offer();
+}
+
+desktop::HotkeyState GnomeHotkey::state() const {
+  if (!combination_ || isAsking_) return {};
+  std::string keys;
+  try {
+    keys = services_.settings.keys();
+  } catch (const Error&) {
+    return {};
+  }
+  if (keys.empty()) return {.otherKeys = {}, .isOff = services_.defaults().boolean(wasOffered)};
+  const std::string name = nameOfAccelerator(keys);
+  return {.otherKeys = name == nameOf(*combination_) ? std::string() : name, .isOff = false};
+}
+
+desktop::Ticket GnomeHotkey::observe(std::function<void()> changed) {
+  changed_ = std::move(changed);
+  return desktop::Ticket([this] { changed_ = nullptr; });
+}
+
+void GnomeHotkey::report() {
+  desktop::HotkeyState now = state();
+  if (now == std::exchange(reported_, now)) return;
+  if (const auto changed = changed_) changed();
+}
+
+void GnomeHotkey::askAgain() {
+  if (!combination_ || isAsking_) return;
+  try {
+    offer();
+  } catch (const Error& error) {
+    tell(error.what());
+  }
+}
+
+void GnomeHotkey::offer() {
   const CustomShortcut shortcut{.name = "Sign Selected Text (Quillseal)",
                                 .command = quoted(program_) + " --sign",
-                                .keys = acceleratorOf(combination)};
-  const std::string keys = nameOf(combination);
+                                .keys = acceleratorOf(*combination_)};
+  const std::string keys = nameOf(*combination_);
   switch (services_.settings.stateOf(shortcut)) {
     case ShortcutState::present:
-      return;
+      return report();
     case ShortcutState::taken:
       fail(1, "Another shortcut of your desktop already uses " + keys + ".");
     case ShortcutState::locked:
@@ -93,6 +176,8 @@ void GnomeHotkey::registerHotkey(desktop::KeyPress combination, std::function<vo
     case ShortcutState::missing:
       break;
   }
+  isAsking_ = true;
+  report();
   question_ = services_.alerts().ask(
       {.title = "Add " + keys + " to Your Keyboard Settings?",
        .body = "This desktop gives programs no hotkey. Quillseal can add a shortcut to your own "
@@ -108,7 +193,9 @@ void GnomeHotkey::registerHotkey(desktop::KeyPress combination, std::function<vo
 
 bool GnomeHotkey::isNewPress() {
   const auto now = services_.loop.now();
-  return now > std::exchange(lastCommand_, now) + longestRepeatDelay;
+  if (now <= std::exchange(lastCommand_, now) + longestRepeatDelay) return false;
+  report();
+  return true;
 }
 
 bool GnomeHotkey::mayBeHeld() const {
@@ -116,12 +203,16 @@ bool GnomeHotkey::mayBeHeld() const {
 }
 
 void GnomeHotkey::answered(desktop::Answer answer, const CustomShortcut& shortcut) {
+  isAsking_ = false;
   services_.defaults().setString(wasOffered, "true");
-  if (answer != desktop::Answer::confirmed || services_.settings.add(shortcut)) return;
-  services_.alerts().notify(
-      {.title = "Quillseal’s Hotkey Is Not Available",
-       .body = std::string("The shortcut could not be added to your keyboard settings. ") +
-               bindYourself});
+  const bool isAdded = answer == desktop::Answer::confirmed && services_.settings.add(shortcut);
+  if (answer == desktop::Answer::confirmed && !isAdded)
+    tell(std::string("The shortcut could not be added to your keyboard settings. ") + bindYourself);
+  report();
+}
+
+void GnomeHotkey::tell(const std::string& problem) {
+  services_.alerts().notify({.title = "Quillseal’s Hotkey Is Not Available", .body = problem});
 }
 
 }  // namespace quillseal::linux

@@ -1,8 +1,9 @@
 #pragma once
 
 #include <functional>
-#include <memory>
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "desktop/Alerts.h"
 #include "desktop/Defaults.h"
@@ -14,8 +15,9 @@
 namespace quillseal::linux {
 
 /// The hotkey where GNOME offers programs none: a shortcut in the user's keyboard settings, which
-/// starts the program again with `--sign`. The user is asked once before it is added. It stays when
-/// the agent ends, and the user can change or remove it in the settings.
+/// starts the program again with `--sign`. The user is asked once before it is added, and again
+/// only when they ask for it. It stays when the agent ends, and the user can change or remove it in
+/// the settings.
 class GnomeHotkey : public desktop::Hotkey {
  public:
   /// All outlive this object.
@@ -33,6 +35,11 @@ class GnomeHotkey : public desktop::Hotkey {
   /// `pressed` is not called: the shortcut's command arrives as every command does.
   void registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) override;
 
+  /// The keys are read anew each time. Changes are reported at the next press.
+  [[nodiscard]] desktop::HotkeyState state() const override;
+  [[nodiscard]] desktop::Ticket observe(std::function<void()> changed) override;
+  void askAgain() override;
+
   /// Whether a command to sign that has just arrived is a new one: GNOME repeats it while the keys
   /// are held. To be called once for each.
   [[nodiscard]] bool isNewPress();
@@ -42,15 +49,25 @@ class GnomeHotkey : public desktop::Hotkey {
   [[nodiscard]] bool mayBeHeld() const;
 
  private:
+  void offer();
+  void tell(const std::string& problem);
+  void report();
   void answered(desktop::Answer answer, const CustomShortcut& shortcut);
 
   Services services_;
   std::string program_;
+  std::optional<desktop::KeyPress> combination_;
   desktop::Ticket question_;
+  bool isAsking_ = false;
+  std::function<void()> changed_;
+  desktop::HotkeyState reported_;
   desktop::MainLoop::TimePoint lastCommand_;
 };
 
 /// Returns the keys as GTK writes them: "<Control><Alt><Super>h".
 [[nodiscard]] std::string acceleratorOf(desktop::KeyPress press);
+
+/// Returns such keys in words, the modifiers in one order: "Ctrl+Alt+Super+H".
+[[nodiscard]] std::string nameOfAccelerator(std::string_view keys);
 
 }  // namespace quillseal::linux

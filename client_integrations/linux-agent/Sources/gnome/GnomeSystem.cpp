@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QWidget>
-#include <optional>
 #include <utility>
 
 #include "session/LoadedModule.h"
@@ -26,17 +25,15 @@ GnomeSystem::GnomeSystem(PortalSystem::Access access, const Services& services)
                      .entries = services.entries,
                      .loop = services.loop,
                      .tell = services.tell}),
-      shortcuts_(LoadedShortcutSettings::usualModule()),
-      hotkey_({.loop = services.loop,
-               .settings = shortcuts_,
-               .alerts = services.alerts,
-               .defaults = services.defaults},
-              QCoreApplication::applicationFilePath().toStdString()),
+      hotkey_(services, {.portal = portal_,
+                         .isInPortal = access_.offer.globalShortcuts > 0,
+                         .extension = &extension_,
+                         .program = QCoreApplication::applicationFilePath().toStdString()}),
       keys_({.loop = services.loop,
              .remote = remote_,
              .applications = applications_,
              .pasteboard = pasteboard_,
-             .isHotkeyHeld = [this] { return mayHotkeyBeHeld(); },
+             .isHotkeyHeld = [this] { return hotkey_.mayBeHeld(); },
              .isKeyboardTaken = [] { return false; },
              .explain = services.explain,
              .tell = services.tell}) {
@@ -49,11 +46,6 @@ void GnomeSystem::bringToFront(QWidget& window) const {
   window.raise();
   window.activateWindow();
   windows_.activate(static_cast<xcb_window_t>(window.winId()));
-}
-
-bool GnomeSystem::mayHotkeyBeHeld() const {
-  if (const std::optional<ShellFront> front = extension_.front()) return front->holdsModifiers;
-  return hotkey_.mayBeHeld();
 }
 
 }  // namespace quillseal::linux

@@ -3,10 +3,9 @@
 #include <string>
 
 #include "gnome/GnomeApplications.h"
-#include "gnome/GnomeHotkey.h"
-#include "gnome/LoadedShortcutSettings.h"
 #include "gnome/ShellExtension.h"
 #include "gnome/XwaylandPasteboard.h"
+#include "portal/DesktopHotkey.h"
 #include "portal/Portal.h"
 #include "portal/PortalKeyEvents.h"
 #include "portal/PortalRemote.h"
@@ -16,10 +15,9 @@
 
 namespace quillseal::linux {
 
-/// GNOME without a portal for the clipboard and for hotkeys: keys through the RemoteDesktop portal,
-/// the clipboard through Xwayland, which has that of all programs there and needs no focus, windows
-/// through the Shell's extension, the hotkey as a shortcut of the user's. REQUIRES: Qt uses
-/// Xwayland, and the portal offers keys.
+/// GNOME without a portal for the clipboard: keys through the RemoteDesktop portal, the clipboard
+/// through Xwayland, which has that of all programs there and needs no focus, windows through the
+/// Shell's extension. REQUIRES: Qt uses Xwayland, and the portal offers keys.
 class GnomeSystem : public WindowingSystem, private OwnWindows {
  public:
   GnomeSystem(PortalSystem::Access access, const Services& services);
@@ -28,14 +26,13 @@ class GnomeSystem : public WindowingSystem, private OwnWindows {
   [[nodiscard]] std::string advice() const override { return extension_.advice(); }
   [[nodiscard]] bool isNewPress() override { return hotkey_.isNewPress(); }
   [[nodiscard]] desktop::Applications& applications() override { return applications_; }
-  [[nodiscard]] desktop::Hotkey& hotkey() override { return hotkey_; }
+  [[nodiscard]] desktop::Hotkey& hotkey() override { return hotkey_.hotkey(); }
   [[nodiscard]] desktop::KeyEvents& keys() override { return keys_; }
   [[nodiscard]] desktop::Pasteboard& pasteboard() override { return pasteboard_; }
   [[nodiscard]] const OwnWindows& ownWindows() const override { return *this; }
 
  private:
   void bringToFront(QWidget& window) const override;
-  [[nodiscard]] bool mayHotkeyBeHeld() const;
 
   PortalSystem::Access access_;
   Portal portal_;
@@ -44,8 +41,7 @@ class GnomeSystem : public WindowingSystem, private OwnWindows {
   WindowManager windows_;
   XwaylandPasteboard pasteboard_;
   GnomeApplications applications_;
-  LoadedShortcutSettings shortcuts_;
-  GnomeHotkey hotkey_;
+  DesktopHotkey hotkey_;
   PortalKeyEvents keys_;
 };
 

@@ -30,6 +30,10 @@ ShortcutState LoadedShortcutSettings::stateOf(const CustomShortcut& shortcut) {
   return settings().stateOf(shortcut);
 }
 
+std::string LoadedShortcutSettings::keys() {
+  return settings().keys();
+}
+
 bool LoadedShortcutSettings::add(const CustomShortcut& shortcut) {
   return settings().add(shortcut);
 }

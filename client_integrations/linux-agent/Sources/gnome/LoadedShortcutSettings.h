@@ -16,6 +16,7 @@ class LoadedShortcutSettings final : public ShortcutSettings {
   [[nodiscard]] static LoadedModule usualModule();
 
   [[nodiscard]] ShortcutState stateOf(const CustomShortcut& shortcut) override;
+  [[nodiscard]] std::string keys() override;
   [[nodiscard]] bool add(const CustomShortcut& shortcut) override;
 
  private:

@@ -13,7 +13,7 @@ struct CustomShortcut {
 
 enum class ShortcutState {
   missing,
-  present,      ///< the agent's shortcut is there, perhaps with other keys that the user chose
+  present,      ///< the agent's shortcut has keys, perhaps others that the user chose
   taken,        ///< another shortcut uses the keys
   locked,       ///< the administrator lets nobody add a shortcut
   unsupported,  ///< GNOME's settings are not installed
@@ -25,6 +25,9 @@ class ShortcutSettings {
   virtual ~ShortcutSettings() = default;
 
   [[nodiscard]] virtual ShortcutState stateOf(const CustomShortcut& shortcut) = 0;
+
+  /// The keys that the agent's shortcut has now, as GTK writes them; empty where it is missing.
+  [[nodiscard]] virtual std::string keys() = 0;
 
   /// Adds the shortcut if it is missing. Returns whether it is there afterwards.
   [[nodiscard]] virtual bool add(const CustomShortcut& shortcut) = 0;

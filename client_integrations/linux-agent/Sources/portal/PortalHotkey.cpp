@@ -9,7 +9,6 @@
 
 #include <xkbcommon/xkbcommon-keysyms.h>
 
-#include "core/text/Error.h"
 #include "keyboard/KeyChords.h"
 
 namespace quillseal::linux {
@@ -20,6 +19,9 @@ using namespace std::chrono_literals;
 constexpr const char* interface = "org.freedesktop.portal.GlobalShortcuts";
 constexpr const char* shortcut = "sign";
 constexpr const char* description = "Sign the selected text";
+
+/// Set while the user's last answer is that they refuse.
+constexpr const char* wasRefused = "HotkeyRefused";
 
 // The desktop reports the release of the first key; people let go of the others right after.
 constexpr auto releaseTime = 100ms;
@@ -98,7 +100,8 @@ PortalHotkey::PortalHotkey(Services services)
         const char* name = nullptr;
         const char* before = nullptr;
         const char* now = nullptr;
-        if (isRefused_ || ::sd_bus_message_read(&message, "sss", &name, &before, &now) <= 0) return;
+        if (state_.isOff || ::sd_bus_message_read(&message, "sss", &name, &before, &now) <= 0)
+          return;
         if (*now == '\0')
           bindAfter(pauseBeforeRestart);
         else if (session_ == nullptr && !isBinding_)
@@ -108,10 +111,6 @@ PortalHotkey::PortalHotkey(Services services)
 void PortalHotkey::registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) {
   combination_ = combination;
   pressed_ = std::move(pressed);
-  if (!services_.isOffered)
-    throw Error({.domain = "PortalHotkey",
-                 .code = 1,
-                 .description = std::string("This desktop gives programs no hotkey.") + otherWays});
   DesktopBus& bus = services_.portal.bus();
   presses_ = bus.subscribe(signal("Activated"), onPress_);
   releases_ = bus.subscribe(signal("Deactivated"), onRelease_);
@@ -122,6 +121,26 @@ void PortalHotkey::registerHotkey(desktop::KeyPress combination, std::function<v
                            .name = "NameOwnerChanged",
                            .firstArgument = Portal::service},
                           onOwner_);
+  if (services_.defaults().boolean(wasRefused))
+    become({.otherKeys = {}, .isOff = true});
+  else
+    bindAfter(0s);
+}
+
+desktop::Ticket PortalHotkey::observe(std::function<void()> changed) {
+  changed_ = std::move(changed);
+  return desktop::Ticket([this] { changed_ = nullptr; });
+}
+
+void PortalHotkey::become(desktop::HotkeyState state) {
+  if (state == state_) return;
+  state_ = std::move(state);
+  if (const auto changed = changed_) changed();
+}
+
+void PortalHotkey::askAgain() {
+  if (!state_.isOff) return;
+  become({});
   bindAfter(0s);
 }
 
@@ -150,17 +169,25 @@ Task<> PortalHotkey::bind() {
     }
   }
   isBinding_ = false;
-  isRefused_ = answer.outcome == PortalAnswer::Outcome::refused;
+  desktop::Defaults& defaults = services_.defaults();
   if (answer.outcome == PortalAnswer::Outcome::granted) {
+    if (defaults.boolean(wasRefused)) defaults.setString(wasRefused, "false");
     if (enterOption(*answer.message, "u", "shortcuts", "a(sa{sv})")) readKeys(*answer.message);
     co_return;
   }
+  const bool isRefused = answer.outcome == PortalAnswer::Outcome::refused;
+  if (isRefused) defaults.setString(wasRefused, "true");
   const std::string problem =
-      session_ == nullptr
+      isRefused ? std::string(
+                      "Quillseal’s hotkey is off, because you did not allow it. You can turn it "
+                      "on in the settings of Quillseal.") +
+                      otherWays
+      : session_ == nullptr
           ? "The portal of your desktop does not let Quillseal in, so there is no hotkey. Install "
             "the Debian package of Quillseal if it is not installed, or start Quillseal again."
           : std::string("Your desktop gave Quillseal no hotkey.") + otherWays;
   session_ = nullptr;
+  become({.otherKeys = {}, .isOff = defaults.boolean(wasRefused)});
   services_.tell(problem);
 }
 
@@ -194,8 +221,7 @@ void PortalHotkey::readKeys(sd_bus_message& shortcuts) {
         ::sd_bus_message_read(&shortcuts, "s", &keys) <= 0)
       return;
     const bool isAsAsked = keysIn(keys) == keysIn(nameOf(combination_));
-    otherKeys_ = isAsAsked ? "" : keys;
-    return;
+    return become({.otherKeys = isAsAsked ? "" : keys, .isOff = false});
   }
 }
 

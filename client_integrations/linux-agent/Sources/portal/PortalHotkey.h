@@ -7,6 +7,7 @@
 #include <string>
 
 #include "core/tasks/Async.h"
+#include "desktop/Defaults.h"
 #include "desktop/Hotkey.h"
 #include "desktop/MainLoop.h"
 #include "portal/Portal.h"
@@ -14,14 +15,16 @@
 namespace quillseal::linux {
 
 /// The global hotkey through the GlobalShortcuts portal. The desktop may ask the user, who may
-/// choose other keys. It is bound again when the portal restarts, unless the user has refused it.
+/// choose other keys. It is bound again when the portal or the agent restarts, unless the user has
+/// refused it: that is kept in the settings.
 class PortalHotkey : public desktop::Hotkey {
  public:
   /// All outlive this object.
   struct Services {
     desktop::MainLoop& loop;
     Portal& portal;
-    bool isOffered = true;  ///< by the portal
+    /// Found at each use, since the desktop's services are made after this object.
+    std::function<desktop::Defaults&()> defaults;
     /// Tells the user something in a notification.
     std::function<void(const std::string&)> tell;
     /// Gets the token with which a window of this program may take the focus after a press; may be
@@ -33,16 +36,18 @@ class PortalHotkey : public desktop::Hotkey {
 
   void registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) override;
 
+  [[nodiscard]] desktop::HotkeyState state() const override { return state_; }
+  [[nodiscard]] desktop::Ticket observe(std::function<void()> changed) override;
+  void askAgain() override;
+
   /// Whether the user may still hold keys of the hotkey.
   [[nodiscard]] bool mayBeHeld() const;
-
-  /// The keys as the desktop names them where they are not those that were asked for; else empty.
-  [[nodiscard]] const std::string& otherKeys() const { return otherKeys_; }
 
  private:
   [[nodiscard]] Task<> bind();
   void end();
   void bindAfter(std::chrono::milliseconds delay);
+  void become(desktop::HotkeyState state);
   void readKeys(sd_bus_message& shortcuts);
   void press(sd_bus_message& signal);
   void release(sd_bus_message& signal);
@@ -50,10 +55,10 @@ class PortalHotkey : public desktop::Hotkey {
   Services services_;
   desktop::KeyPress combination_{};
   std::function<void()> pressed_;
-  std::string otherKeys_;
+  desktop::HotkeyState state_;
+  std::function<void()> changed_;
   std::unique_ptr<PortalSession> session_;
   bool isBinding_ = false;
-  bool isRefused_ = false;  // by the user
   bool isDown_ = false;
   desktop::MainLoop::TimePoint lastPress_;
   desktop::MainLoop::TimePoint lastRelease_;

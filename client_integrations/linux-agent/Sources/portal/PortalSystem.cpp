@@ -48,26 +48,15 @@ PortalSystem::PortalSystem(Access access, const Services& services)
                .tell = services.tell}),
       applications_(makeApplications(services)),
       pasteboard_(makePasteboard(services)),
-      hotkey_({.loop = services.loop,
-               .portal = portal_,
-               .isOffered = access_.offer.globalShortcuts > 0,
-               .tell = services.tell,
-               .activated =
-                   [](const std::string& token) {
-                     // Qt and the programs that are started take it from there.
-                     qputenv("XDG_ACTIVATION_TOKEN", QByteArray::fromStdString(token));
-                   }}),
-      shortcuts_(LoadedShortcutSettings::usualModule()),
-      shortcut_({.loop = services.loop,
-                 .settings = shortcuts_,
-                 .alerts = services.alerts,
-                 .defaults = services.defaults},
-                QCoreApplication::applicationFilePath().toStdString()),
+      hotkey_(services, {.portal = portal_,
+                         .isInPortal = access_.offer.globalShortcuts > 0,
+                         .extension = windows_ == nullptr ? &extension_ : nullptr,
+                         .program = QCoreApplication::applicationFilePath().toStdString()}),
       keys_({.loop = services.loop,
              .remote = remote_,
              .applications = *applications_,
              .pasteboard = *pasteboard_,
-             .isHotkeyHeld = [this] { return isHotkeyHeld(); },
+             .isHotkeyHeld = [this] { return hotkey_.mayBeHeld(); },
              .isKeyboardTaken =
                  [this] {
                    return windows_ != nullptr &&
@@ -114,17 +103,6 @@ std::unique_ptr<desktop::Pasteboard> PortalSystem::makePasteboard(const Services
                                   .connection = *access_.compositor,
                                   .windows = *windows_},
       ClipboardKeeper(LoadedModule::usualPlaces(ClipboardKeeper::program)));
-}
-
-desktop::Hotkey& PortalSystem::hotkey() {
-  if (hasPortalHotkey()) return hotkey_;
-  return shortcut_;
-}
-
-bool PortalSystem::isHotkeyHeld() const {
-  const std::optional<ShellFront> front = windows_ == nullptr ? extension_.front() : std::nullopt;
-  if (front) return front->holdsModifiers;
-  return hasPortalHotkey() ? hotkey_.mayBeHeld() : shortcut_.mayBeHeld();
 }
 
 void PortalSystem::bringToFront(QWidget& window) const {

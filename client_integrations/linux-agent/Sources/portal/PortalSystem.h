@@ -5,11 +5,9 @@
 #include <memory>
 #include <string>
 
-#include "gnome/GnomeHotkey.h"
-#include "gnome/LoadedShortcutSettings.h"
 #include "gnome/ShellExtension.h"
+#include "portal/DesktopHotkey.h"
 #include "portal/Portal.h"
-#include "portal/PortalHotkey.h"
 #include "portal/PortalKeyEvents.h"
 #include "portal/PortalRemote.h"
 #include "session/DesktopBus.h"
@@ -42,10 +40,9 @@ class PortalSystem : public WindowingSystem, private OwnWindows {
   [[nodiscard]] std::string advice() const override {
     return windows_ == nullptr ? extension_.advice() : std::string();
   }
-  [[nodiscard]] std::string otherHotkey() const override { return hotkey_.otherKeys(); }
   [[nodiscard]] desktop::Applications& applications() override { return *applications_; }
-  [[nodiscard]] bool isNewPress() override { return hasPortalHotkey() || shortcut_.isNewPress(); }
-  [[nodiscard]] desktop::Hotkey& hotkey() override;
+  [[nodiscard]] bool isNewPress() override { return hotkey_.isNewPress(); }
+  [[nodiscard]] desktop::Hotkey& hotkey() override { return hotkey_.hotkey(); }
   [[nodiscard]] desktop::KeyEvents& keys() override { return keys_; }
   [[nodiscard]] desktop::Pasteboard& pasteboard() override { return *pasteboard_; }
   [[nodiscard]] const OwnWindows& ownWindows() const override { return *this; }
@@ -53,8 +50,6 @@ class PortalSystem : public WindowingSystem, private OwnWindows {
  private:
   [[nodiscard]] std::unique_ptr<desktop::Applications> makeApplications(const Services& services);
   [[nodiscard]] std::unique_ptr<desktop::Pasteboard> makePasteboard(const Services& services);
-  [[nodiscard]] bool hasPortalHotkey() const { return access_.offer.globalShortcuts > 0; }
-  [[nodiscard]] bool isHotkeyHeld() const;
   void bringToFront(QWidget& window) const override;
 
   Access access_;
@@ -64,9 +59,7 @@ class PortalSystem : public WindowingSystem, private OwnWindows {
   PortalRemote remote_;
   std::unique_ptr<desktop::Applications> applications_;
   std::unique_ptr<desktop::Pasteboard> pasteboard_;
-  PortalHotkey hotkey_;
-  LoadedShortcutSettings shortcuts_;
-  GnomeHotkey shortcut_;  // where the portal has none
+  DesktopHotkey hotkey_;
   PortalKeyEvents keys_;
 };
 

@@ -11,6 +11,7 @@
 #include "desktop/KeyEvents.h"
 #include "desktop/MainLoop.h"
 #include "desktop/Pasteboard.h"
+#include "gnome/ShortcutSettings.h"
 #include "session/Descriptors.h"
 #include "windows/OwnWindows.h"
 
@@ -25,6 +26,7 @@ class WindowingSystem {
     desktop::MainLoop& loop;
     Descriptors& descriptors;
     DesktopEntries& entries;
+    ShortcutSettings& shortcuts;
     /// Tells the user why keys cannot be pressed in this session.
     std::function<void()> explain;
     /// Tells the user something that needs no answer.
@@ -47,10 +49,6 @@ class WindowingSystem {
   /// Whether a command to sign that has just arrived is a new one: a desktop may repeat a
   /// shortcut's command while the keys are held. To be called once for each.
   [[nodiscard]] virtual bool isNewPress() { return true; }
-
-  /// The keys of the hotkey, as the desktop names them, where they are not those that were asked
-  /// for; else empty.
-  [[nodiscard]] virtual std::string otherHotkey() const { return {}; }
 
   [[nodiscard]] virtual desktop::Applications& applications() = 0;
   [[nodiscard]] virtual desktop::Hotkey& hotkey() = 0;

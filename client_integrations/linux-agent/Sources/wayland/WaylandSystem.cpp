@@ -23,8 +23,11 @@ std::unique_ptr<desktop::Hotkey> offeredHotkey(const WindowingSystem::Services& 
   if (bus != nullptr && KwinHotkey::isOfferedBy(connection, *bus))
     return std::make_unique<KwinHotkey>(KwinHotkey::Services{.loop = services.loop, .bus = *bus});
   if (portal != nullptr)
-    return std::make_unique<PortalHotkey>(PortalHotkey::Services{
-        .loop = services.loop, .portal = *portal, .tell = services.tell, .activated = {}});
+    return std::make_unique<PortalHotkey>(PortalHotkey::Services{.loop = services.loop,
+                                                                 .portal = *portal,
+                                                                 .defaults = services.defaults,
+                                                                 .tell = services.tell,
+                                                                 .activated = {}});
   return std::make_unique<SwayHotkey>(SwayHotkey::Services{.loop = services.loop,
                                                            .descriptors = services.descriptors,
                                                            .connection = connection,

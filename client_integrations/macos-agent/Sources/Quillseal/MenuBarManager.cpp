@@ -20,9 +20,8 @@ void MenuBarManager::setupMenu() {
                     .keyModifiers = Modifiers::command,
                     .action = std::move(perform)};
   };
-  MenuItem sign =
-      action("Sign Selected Text (" + desktop_.words.current().hotkey + ")",
-             std::string(1, desktop::letterOf(desktop::signingHotkey.key)), [this] { signText(); });
+  MenuItem sign = action(signLine(), std::string(1, desktop::letterOf(desktop::signingHotkey.key)),
+                         [this] { signText(); });
   sign.keyModifiers = desktop::signingHotkey.modifiers;
   const MenuItem separator{.kind = MenuItem::Kind::separator,
                            .title = {},
@@ -38,7 +37,10 @@ void MenuBarManager::setupMenu() {
   desktop::StatusMenu menu{.symbol = "shield.fill",
                            .symbolDescription = "Quill Seal",
                            .title = " 🛡️ Quillseal",
-                           .items = {sign, separator}};
+                           .items = {}};
+  signItemIndex_ = menu.items.size();
+  menu.items.push_back(sign);
+  menu.items.push_back(separator);
   serverItemIndex_ = menu.items.size();
   menu.items.push_back(server);
   menu.items.push_back(action("Configure Server...", ",", [this] { configureServer(); }));
@@ -47,6 +49,7 @@ void MenuBarManager::setupMenu() {
   menu.items.push_back(action("Quit Quill Seal", "q", [this] { quitApp(); }));
   desktop_.statusItem.show(menu);
   settingsObserver_ = desktop_.defaults.observe([this] { serverUrlChanged(); });
+  hotkeyObserver_ = desktop_.hotkey.observe([this] { hotkeyChanged(); });
 }
 
 void MenuBarManager::signText() {
@@ -59,6 +62,7 @@ void MenuBarManager::configureServer() {
         desktop_.windows.make({.title = "Quill Seal Server Settings", .width = 440, .height = 200});
     settingsView_ = std::make_unique<SettingsView>(
         SettingsView::Services{.defaults = desktop_.defaults,
+                               .hotkey = desktop_.hotkey,
                                .keyStore = desktop_.keyStore,
                                .log = desktop_.log,
                                .loop = desktop_.loop,
@@ -66,6 +70,8 @@ void MenuBarManager::configureServer() {
         coordinator_, *settingsWindow_,
         BuiltInServer::apiKey().empty() ? SettingsView::Build::development
                                         : SettingsView::Build::packaged);
+  } else {
+    hotkeyChanged();  // the desktop may not have reported it
   }
   settingsWindow_->bringToFront();
 }
@@ -79,8 +85,19 @@ void MenuBarManager::quitApp() {
   desktop_.program.terminate();
 }
 
+void MenuBarManager::hotkeyChanged() {
+  desktop_.statusItem.setItemTitle(signItemIndex_, signLine());
+  if (settingsView_) settingsView_->refresh();
+}
+
 void MenuBarManager::serverUrlChanged() {
   desktop_.statusItem.setItemTitle(serverItemIndex_, serverLine());
+}
+
+std::string MenuBarManager::signLine() const {
+  return "Sign Selected Text (" +
+         (desktop_.hotkey.state().isOff ? "the hotkey is off" : desktop_.words.current().hotkey) +
+         ")";
 }
 
 std::string MenuBarManager::serverLine() const {

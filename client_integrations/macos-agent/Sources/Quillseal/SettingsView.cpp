@@ -40,7 +40,10 @@ void SettingsView::render() {
 }
 
 desktop::Form SettingsView::form() {
-  return {.width = 460, .height = 400, .sections = {serverSection(), machineSection()}};
+  desktop::Form form{.width = 460, .height = 400, .sections = {serverSection()}};
+  if (services_.hotkey.state().isOff) form.sections.push_back(hotkeySection());
+  form.sections.push_back(machineSection());
+  return form;
 }
 
 desktop::FormSection SettingsView::serverSection() {
@@ -68,6 +71,17 @@ desktop::FormField SettingsView::field(std::string label, Settings::Text setting
           .changed = [&defaults = services_.defaults, setting](const std::string& text) {
             setting.store(defaults, text);
           }};
+}
+
+desktop::FormSection SettingsView::hotkeySection() {
+  return {.header = "Hotkey",
+          .rows = {desktop::FormStatus{
+                       .symbol = "exclamationmark.triangle.fill",
+                       .symbolColour = TextColour::orange,
+                       .text = callout("The hotkey is off, because it was not allowed or was "
+                                       "removed. Without it, sign by the menu.")},
+                   desktop::FormButton{.label = "Turn On the Hotkey",
+                                       .pressed = [this] { services_.hotkey.askAgain(); }}}};
 }
 
 desktop::FormSection SettingsView::machineSection() {

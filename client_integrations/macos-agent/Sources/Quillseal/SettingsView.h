@@ -7,6 +7,7 @@
 #include "core/tasks/Async.h"
 #include "core/tasks/Task.h"
 #include "desktop/Defaults.h"
+#include "desktop/Hotkey.h"
 #include "desktop/KeyStore.h"
 #include "desktop/Log.h"
 #include "desktop/MainLoop.h"
@@ -16,13 +17,14 @@
 
 namespace quillseal {
 
-/// The content of the settings window: which server is used, whether this machine holds a key, and
-/// a button to enrol it. Draws itself into the window whenever something it shows has changed. Main
-/// thread.
+/// The content of the settings window: which server is used, whether the hotkey is off, whether
+/// this machine holds a key, and a button to enrol it. Draws itself into the window whenever
+/// something it shows has changed. Main thread.
 class SettingsView {
  public:
   struct Services {
     desktop::Defaults& defaults;
+    desktop::Hotkey& hotkey;
     desktop::KeyStore& keyStore;
     desktop::Log& log;
     desktop::MainLoop& loop;
@@ -39,6 +41,9 @@ class SettingsView {
   /// What the window shows now.
   [[nodiscard]] desktop::Form form();
 
+  /// Draws again, after a change that the view does not observe: one of the hotkey or the desktop.
+  void refresh() { render(); }
+
  private:
   void render();
   void enrol();
@@ -46,6 +51,7 @@ class SettingsView {
   Task<> readEnrolled();
 
   [[nodiscard]] desktop::FormSection serverSection();
+  [[nodiscard]] desktop::FormSection hotkeySection();
   [[nodiscard]] desktop::FormSection machineSection();
   [[nodiscard]] desktop::FormField field(std::string label, Settings::Text setting);
 

@@ -50,7 +50,8 @@ class Portal {
     respond(invocation, options, { session_handle: new GLib.Variant('s', session) });
   }
   SelectDevicesAsync([session, options], invocation) {
-    if (session === '/') invocation.return_dbus_error('org.freedesktop.DBus.Error.AccessDenied', '');
+    const denied = 'org.freedesktop.DBus.Error.AccessDenied';
+    if (session === '/') invocation.return_dbus_error(denied, '');
     else respond(invocation, options, {});
   }
   StartAsync([session, parent, options], invocation) {
@@ -151,7 +152,8 @@ class GnomeSession(wayland_session.WaylandSession):
                 f"Main.extensionManager.lookup('{EXTENSION}')?.state === 1"))
         self.evaluate(PERSON)
         self.evaluate(PORTAL)
-        for name in ("DISPLAY", "XAUTHORITY") if self.has_xwayland else ():  # of Xwayland, which starts with its first program
+        # Of Xwayland, which starts with its first program.
+        for name in ("DISPLAY", "XAUTHORITY") if self.has_xwayland else ():
             self.env[name] = self.evaluate(f"imports.gi.GLib.getenv('{name}')")
 
     def _start_desktop(self):
@@ -162,8 +164,8 @@ class GnomeSession(wayland_session.WaylandSession):
             "dbus-monitor", "--session", "interface='org.freedesktop.Notifications'")
 
     def start_agent(self, *options, tpm="none"):
-        """Starts the agent. The first time the person agrees to its shortcut and, at the first press,
-        lets it press keys."""
+        """Starts the agent. The first time the person agrees to its shortcut and, at the first
+        press, lets it press keys."""
         if self.agent or not self.has_xwayland:
             return super().start_agent(*options, tpm=tpm)
         self._start_media_keys()

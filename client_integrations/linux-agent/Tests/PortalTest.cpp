@@ -748,7 +748,8 @@ TEST_F(PortalOffers, AreNotWaitedForWhereThePortalHangs) {
                          "\nExec=/bin/sh -c 'touch " + started.string() +
                          "; exec sleep 5 >/dev/null 2>&1'\n");
   testing::overwrite(portals / "screen.portal",
-                     "[portal]\nInterfaces=org.freedesktop.impl.portal.ScreenCast\n");
+                     "[portal]\nInterfaces=org.freedesktop.impl.portal.ScreenCast\n"
+                     "InterfacesLater=org.freedesktop.impl.portal.RemoteDesktop\n");
   ::setenv("XDG_DATA_DIRS", ("/absent:" + folder.path().string()).c_str(), 1);
   ::setenv("XDG_DATA_HOME", "/absent", 1);
   const testing::PrivateBus hanging("DBUS_SESSION_BUS_ADDRESS", services.string());
@@ -766,7 +767,7 @@ TEST_F(PortalOffers, AreNotWaitedForWhereThePortalHangs) {
 
   testing::overwrite(
       portals / "keys.portal",
-      "[portal]\nInterfaces=a;org.freedesktop.impl.portal.RemoteDesktop;b\nUseIn=gnome\n");
+      "[portal]\nInterfaces = a;org.freedesktop.impl.portal.RemoteDesktop;b\nUseIn=gnome\n");
   const auto [ofStarting, startingTime] = offerAndTime();
   EXPECT_EQ(ofStarting, PortalOffer{.isSilent = true});
   EXPECT_LT(startingTime, 1500ms);

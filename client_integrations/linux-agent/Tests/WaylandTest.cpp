@@ -61,7 +61,7 @@ constexpr std::size_t largest = 200'000;
 
 /// The agent's objects, connected to a compositor.
 struct Agent {
-  explicit Agent(std::filesystem::path keeper = QUILLSEAL_CLIPBOARD_KEEPER)
+  explicit Agent(std::filesystem::path keeper = QUILLSEAL_CLIPBOARD_KEEPER, bool hasBus = true)
       : connection(WaylandConnection::open()),
         windows(*connection, "quillseal"),
         pasteboard(
@@ -69,13 +69,13 @@ struct Agent {
             ClipboardKeeper({std::move(keeper)}),
             {.silence = 300ms, .transfer = 2000ms, .largest = largest}),
         applications({.windows = windows, .entries = entries, .loop = loop}, nullptr),
-        keyboard(makeKeyboard(*connection, bus.get())),
+        keyboard(makeKeyboard(*connection, hasBus ? bus.get() : nullptr)),
         keys({.loop = loop,
               .connection = *connection,
               .windows = windows,
               .pasteboard = pasteboard,
               .keyboard = *keyboard,
-              .explain = {}}) {
+              .explain = [this] { ++explanations; }}) {
     connection->serve(loop, loop);
     catchUp();
   }
@@ -125,6 +125,7 @@ struct Agent {
   std::unique_ptr<AgentKeyboard> keyboard;
   WaylandKeyEvents keys;
   int pressesAnnounced = 0;
+  int explanations = 0;
 };
 
 const std::string utf8Text = "text/plain;charset=utf-8";
@@ -154,6 +155,15 @@ TEST(WaylandReach, TakesWhatHasClipboardKeysAndWindows) {
   }
 }
 
+TEST(WaylandReach, IsNoneWhereNobodyTellsWhetherTheScreenIsLocked) {
+  const ScriptedCompositor compositor({.isKwin = true});
+  Agent agent(QUILLSEAL_CLIPBOARD_KEEPER, false);
+  EXPECT_FALSE(agent.keys.isTrusted());
+  EXPECT_EQ(agent.press(copyKeys, {}), Delivery::notAllowed);
+  EXPECT_EQ(agent.explanations, 1);
+  EXPECT_EQ(agent.pressesAnnounced, 0);
+}
+
 TEST(WaylandReach, EndsWithTheCompositor) {
   std::optional<ScriptedCompositor> compositor(std::in_place);
   Agent agent;
@@ -165,7 +175,8 @@ TEST(WaylandReach, EndsWithTheCompositor) {
   compositor.reset();
   testing::runUntil(agent.loop, [&] { return hasEnded; });
   EXPECT_FALSE(agent.keys.isTrusted());
-  EXPECT_EQ(agent.press(copyKeys, front), Delivery::declined);
+  EXPECT_EQ(agent.press(copyKeys, front), Delivery::notAllowed);
+  EXPECT_EQ(agent.explanations, 1);
   EXPECT_EQ(agent.plainText(), std::nullopt);
   EXPECT_THROW(agent.pasteboard.write({.plainText = "x", .html = "x"}), Error);
 }

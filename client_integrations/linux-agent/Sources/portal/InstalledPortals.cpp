@@ -33,11 +33,18 @@ std::vector<std::filesystem::path> portalFolders() {
   return result;
 }
 
+/// Whether a line of a key file sets this key. There may be blanks before and after the "=".
+bool isOf(std::string_view line, std::string_view key) {
+  if (!line.starts_with(key)) return false;
+  const std::size_t sign = line.find_first_not_of(" \t", key.size());
+  return sign != std::string_view::npos && line[sign] == '=';
+}
+
 bool offersKeys(const std::filesystem::path& file) {
   constexpr std::string_view wanted = "org.freedesktop.impl.portal.RemoteDesktop";
   std::ifstream lines(file);
   for (std::string line; std::getline(lines, line);)
-    if (line.starts_with("Interfaces=") && line.find(wanted) != std::string::npos) return true;
+    if (isOf(line, "Interfaces") && line.find(wanted) != std::string::npos) return true;
   return false;
 }
 

@@ -14,7 +14,10 @@ class AgentKeyboard {
  public:
   virtual ~AgentKeyboard() = default;
 
-  /// Asks the desktop what the other two need to know, which may take two seconds. To be called
+  /// Whether keys can be pressed in this session at all.
+  [[nodiscard]] virtual bool isUsable() const { return true; }
+
+  /// Asks the desktop what the two below need to know, which may take two seconds. To be called
   /// before the compositor is asked for the active window, which may change meanwhile.
   virtual void prepare() = 0;
 

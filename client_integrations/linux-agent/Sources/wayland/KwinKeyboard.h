@@ -17,13 +17,14 @@ namespace quillseal::linux {
 class KwinKeyboard : public AgentKeyboard {
  public:
   /// Both outlive this object. Where `bus` is null nobody tells whether the screen is locked, and
-  /// so no window is reached.
+  /// so no key is pressed.
   KwinKeyboard(WaylandConnection& connection, DesktopBus* bus);
   ~KwinKeyboard() override;
 
   /// Whether the compositor lets programs press keys, and let go of those that the person holds.
   [[nodiscard]] static bool isOfferedBy(const WaylandConnection& connection);
 
+  [[nodiscard]] bool isUsable() const override { return bus_ != nullptr; }
   void prepare() override;
   [[nodiscard]] bool reachesActiveWindow() const override { return !isCovered_; }
 

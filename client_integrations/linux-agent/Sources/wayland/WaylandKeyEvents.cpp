@@ -64,16 +64,20 @@ class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
 
   void step() {
     const Delivery delivery = deliveryNow();
-    const bool mayBecomeTarget =
-        delivery != Delivery::delivered && delivery != Delivery::targetClosed && wish_.target;
+    const bool mayBecomeTarget = delivery != Delivery::delivered &&
+                                 delivery != Delivery::targetClosed &&
+                                 delivery != Delivery::notAllowed && wish_.target;
     if (mayBecomeTarget && services_.loop.now() < latest_) return comeBackAfter(polling);
     if (delivery == Delivery::delivered) press();
+    if (delivery == Delivery::notAllowed) services_.explain();
     finish(delivery);
   }
 
   /// Returns whether a key pressed now would reach the target.
   [[nodiscard]] Delivery deliveryNow() const {
-    if (!wish_.target || !services_.connection.isAlive()) return Delivery::declined;
+    if (!services_.connection.isAlive() || !services_.keyboard.isUsable())
+      return Delivery::notAllowed;
+    if (!wish_.target) return Delivery::declined;
     const std::optional<WaylandWindow> window = services_.windows.withId(wish_.target->instance);
     if (!window) return Delivery::targetClosed;
     if (!window->isActive)
@@ -109,7 +113,7 @@ class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
 };
 
 bool WaylandKeyEvents::isTrusted() const {
-  return reachesApplications(services_.connection);
+  return reachesApplications(services_.connection) && services_.keyboard.isUsable();
 }
 
 desktop::Ticket WaylandKeyEvents::press(desktop::KeyPress press,

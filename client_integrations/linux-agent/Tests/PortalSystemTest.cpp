@@ -95,9 +95,10 @@ TEST_F(PortalSystemTest, ElseAsksForAShortcutInTheUsersSettings) {
   const auto isOff = [this] { return system->hotkey().state().isOff; };
 
   for (const auto& [state, part] : {std::pair{ShortcutState::locked, "administrator has locked"},
-                                    {ShortcutState::taken, "already uses"}}) {
+                                    {ShortcutState::taken, "already uses Ctrl+Alt+Super+H"},
+                                    {ShortcutState::unsupported, "gives programs no hotkey"}}) {
     user.state = state;
-    EXPECT_THAT(start, ThrowsMessage<Error>(HasSubstr(part)));
+    EXPECT_THAT(start, ThrowsMessage<Error>(AllOf(HasSubstr(part), HasSubstr("--sign"))));
     EXPECT_FALSE(isOff());
   }
   user.state = ShortcutState::present;

@@ -421,6 +421,7 @@ TEST_F(PortalHotkeys, AreBoundAgainWhenTheDesktopEndsThemOnce) {
   }
   testing::runUntil(loop, [&] { return !told.empty(); });
   EXPECT_THAT(told, HasSubstr("has ended Quillseal’s hotkey"));
+  EXPECT_TRUE(hotkey->state().isOff);
 }
 
 TEST_F(PortalHotkeys, AreNamedAsTheDesktopBoundThem) {

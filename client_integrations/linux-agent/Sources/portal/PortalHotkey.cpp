@@ -198,10 +198,9 @@ void PortalHotkey::end() {
   const auto now = services_.loop.now();
   const bool isDeliberate = lastEnd_ && now < *lastEnd_ + deliberatelySoon;
   lastEnd_ = now;
-  if (isDeliberate)
-    services_.tell(std::string("Your desktop has ended Quillseal’s hotkey.") + otherWays);
-  else
-    bindAfter(pauseBeforeRestart);
+  if (!isDeliberate) return bindAfter(pauseBeforeRestart);
+  become({.otherKeys = {}, .isOff = true});
+  services_.tell(std::string("Your desktop has ended Quillseal’s hotkey.") + otherWays);
 }
 
 /// Reads the list of shortcuts that comes next in the message.

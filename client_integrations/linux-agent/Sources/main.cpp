@@ -4,6 +4,8 @@
 #include <QDir>
 #include <QIcon>
 #include <QLibraryInfo>
+#include <QLoggingCategory>
+#include <QWindow>
 #include <chrono>
 #include <csignal>
 #include <cstdio>
@@ -95,6 +97,22 @@ PortalSystem::Access accessToWayland(Command command) {
   return access;
 }
 
+/// Keeps Qt from loading OpenGL, with which these windows draw nothing and whose software renderer
+/// takes 50 MB, unless the user has chosen a way to draw. Qt asks the variable once, for its first
+/// window; programs that the agent starts must not find it.
+void drawInSharedMemory() {
+  constexpr const char* variable = "QT_WAYLAND_CLIENT_BUFFER_INTEGRATION";
+  if (qEnvironmentVariableIsSet(variable)) return;
+  qputenv(variable, "none");
+  // Otherwise Qt warns that there is no such thing.
+  QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.wayland.warning=false"));
+  QWindow first;
+  first.setSurfaceType(QSurface::OpenGLSurface);
+  first.create();
+  QLoggingCategory::setFilterRules({});
+  qunsetenv(variable);
+}
+
 void obey(Command command, quillseal::AppDelegate& agent) {
   switch (command) {
     case Command::sign:
@@ -179,6 +197,7 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
 
   QApplication application(argc, argv);
   xServer.reset();
+  if (QGuiApplication::platformName() == QLatin1String("wayland")) drawInSharedMemory();
   QApplication::setApplicationName(QStringLiteral("quillseal"));
   QApplication::setDesktopFileName(QStringLiteral("quillseal"));
   QApplication::setWindowIcon(productIcon());

@@ -6,6 +6,7 @@ Options and test names as in stories.py.
 """
 
 import os
+import pathlib
 import signal
 
 import clipboard
@@ -138,6 +139,8 @@ class Limits:
         self.open_settings()
         self.assertEqual([(window["app_id"], window["shell"]) for window in self.desktop.windows()],
                          [("quillseal", "xdg_shell")])
+        maps = pathlib.Path(f"/proc/{self.desktop.agent.pid}/maps").read_text()
+        self.assertNotIn("libLLVM", maps, "nothing is drawn by OpenGL")
 
     def test_a_compositor_that_ends_takes_the_agent_with_it(self):
         self.start()

@@ -82,6 +82,33 @@ inline std::pair<std::string, std::string> divided(const std::string& text,
   return {text.substr(0, at), text.substr(at + separator.size())};
 }
 
+/// Tells the stories below a heading, line by line. "[TITLE]" begins one with what `begin` returns,
+/// or skips it when that is null. "NAME == VALUE" and "NAME ~ PART" compare with the story's
+/// `stateOf(NAME)`, where "nothing" is the empty text; every other line is for its `act`.
+void tell(const std::string& heading, const auto& begin) {
+  decltype(begin(heading)) story;
+  std::string title;
+  for (const std::string& line : textCases(heading)) {
+    SCOPED_TRACE(title + " before " + line.substr(0, 80));
+    const auto [name, value] = divided(line, " == ");
+    const auto [whole, part] = divided(line, " ~ ");
+    if (line.starts_with('[')) {
+      title = line;
+      story.reset();
+      story = begin(title);
+    } else if (!story) {
+      continue;
+    } else if (name != line) {
+      EXPECT_EQ(story->stateOf(name), value == "nothing" ? "" : value);
+    } else if (whole != line) {
+      const std::string state = story->stateOf(whole);
+      EXPECT_NE(state.find(part), std::string::npos) << state;
+    } else {
+      story->act(line);
+    }
+  }
+}
+
 /// Cases that are lists of so many fields.
 template <typename First, typename... More>
 std::vector<std::tuple<First, More...>> cases() {

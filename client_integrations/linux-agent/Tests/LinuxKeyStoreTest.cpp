@@ -171,7 +171,9 @@ struct Story {
                  : "unreadable";
   }
 
-  void give(const std::string& name, const std::string& value) {
+  void act(const std::string& line) {
+    const auto [name, given] = testing::divided(line, " = ");
+    const std::string value = given == "nothing" ? "" : given;
     const std::map<std::string, std::function<void()>> actions{
         {"obstacle", [&] { tpm.itsObstacle = value; }},
         {"weakness", [&] { tpm.itsWeakness = value; }},
@@ -199,23 +201,7 @@ struct Story {
 };
 
 TEST(LinuxKeyStore, GoesAsTold) {
-  std::optional<Story> story;
-  std::string title;
-  for (const std::string& line : testing::textCases()) {
-    SCOPED_TRACE(title + " before " + line);
-    const auto [name, value] = testing::divided(line, " == ");
-    if (line.starts_with('[')) {
-      title = line;
-      story.emplace();
-    } else if (name != line) {
-      EXPECT_EQ(story->stateOf(name), value == "nothing" ? "" : value);
-    } else if (const auto [whole, part] = testing::divided(line, " ~ "); whole != line) {
-      EXPECT_THAT(story->stateOf(whole), HasSubstr(part));
-    } else {
-      const auto [field, given] = testing::divided(line, " = ");
-      story->give(field, given == "nothing" ? "" : given);
-    }
-  }
+  testing::tell(testing::runningTest(), [](const auto&) { return std::make_unique<Story>(); });
 }
 
 TEST(LinuxKeyStore, FreesAMediumWhileThePersonIsAskedButNotWhileItWorks) {

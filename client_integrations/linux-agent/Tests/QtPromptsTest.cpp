@@ -118,6 +118,8 @@ TEST_F(QtPromptsTest, TheSecretIsAskedForWithWhatItIsFor) {
   expectSaid({"Enter the PIN", "Sign “x” as Ada", "Medium: LinkedIn Post", "The key is in the TPM.",
               "This PIN is wrong. Try 2 of 3."});
   EXPECT_FALSE(canAccept());
+  type(QStringLiteral("13579"));
+  QTest::keyClick(focused(), Qt::Key_U, Qt::ControlModifier);
   type(QStringLiteral("24681x"));
   press(Qt::Key_Backspace);
   EXPECT_TRUE(canAccept());
@@ -224,10 +226,11 @@ TEST_F(QtPromptsTest, AWindowFollowsItsForm) {
   window->bringToFront();
   window->render({.sections = {{.header = "Key", .rows = {text("none")}},
                                {.header = "", .rows = {field("b"), button(false)}}}});
-  window->render({.sections = {{.header = "Key", .rows = {text("<b>new")}},
-                               {.header = "", .rows = {field("c"), button(true)}}}});
   await([] { return QApplication::activeWindow() != nullptr; });
   QWidget& shown = *QApplication::activeWindow();
+  EXPECT_FALSE(shown.findChild<QPushButton*>()->isEnabled());
+  window->render({.sections = {{.header = "Key", .rows = {text("<b>new")}},
+                               {.header = "", .rows = {field("c"), button(true)}}}});
   EXPECT_EQ(saidIn(shown), "<b>new\nAddress\n");
   auto& edit = *shown.findChild<QLineEdit*>();
   EXPECT_EQ(edit.text(), QStringLiteral("c"));

@@ -75,29 +75,22 @@ function check(what, found, expected) {
     throw new Error(`${what}: ${JSON.stringify(found)}, not ${JSON.stringify(expected)}`);
 }
 
-function ask(method, parameters = null) {
-  return new Promise((resolve, reject) => {
-    Gio.DBus.session.call(Gio.DBus.session.get_unique_name(), '/com/quillseal/FrontWindow',
-      'com.quillseal.FrontWindow1', method, parameters, null, Gio.DBusCallFlags.NONE, 5000, null,
-      (bus, result) => {
-        try {
-          resolve(bus.call_finish(result).deepUnpack());
-        } catch (error) {
-          reject(error);
-        }
-      });
-  });
+Gio._promisify(Gio.DBusConnection.prototype, 'call');
+Gio._promisify(Gio.Subprocess.prototype, 'communicate_utf8_async');
+
+async function ask(method, parameters = null) {
+  const answer = await Gio.DBus.session.call(Gio.DBus.session.get_unique_name(),
+    '/com/quillseal/FrontWindow', 'com.quillseal.FrontWindow1', method, parameters, null,
+    Gio.DBusCallFlags.NONE, 5000, null);
+  return answer.deepUnpack();
 }
 
 /** What another process gets. */
-function askFromOutside(method, ...parameters) {
+async function askFromOutside(method, ...parameters) {
   const process = Gio.Subprocess.new(['gdbus', 'call', '--session', '--dest',
     Gio.DBus.session.get_unique_name(), '--object-path', '/com/quillseal/FrontWindow', '--method',
     `com.quillseal.FrontWindow1.${method}`, ...parameters], Gio.SubprocessFlags.STDERR_PIPE);
-  return new Promise(resolve => {
-    process.communicate_utf8_async(null, null, (one, result) =>
-      resolve(one.communicate_utf8_finish(result)[2]));
-  });
+  return (await process.communicate_utf8_async(null, null))[1];
 }
 
 async function loaded() {

@@ -37,8 +37,7 @@ class Writer:
 
 
 class Terminal:
-    """A terminal that shows `text`, in which a program reads the typed text: `reader`, or one that
-    writes it to a file."""
+    """A terminal that shows `text`, in which a program writes what is typed to a file."""
 
     COMMANDS = {
         "xfce4-terminal": ("--disable-server", "--title", "Notes", "--dynamic-title-mode", "none",
@@ -46,12 +45,12 @@ class Terminal:
         "xterm": ("-u8", "-title", "Notes", "-e"),
     }
 
-    def __init__(self, session, program, text, reader="exec cat > received.txt"):
+    def __init__(self, session, program, text):
         self.session = session
         (session.home / "letter.txt").write_text(text)
         self.received = session.home / "received.txt"
         session.start(program, *self.COMMANDS[program], "sh", "-c",
-                      f"cat letter.txt; touch shown; {reader}")
+                      "cat letter.txt; touch shown; exec cat > received.txt")
         session.wait_for_window("Notes", "the terminal opens")
         wait_for("the terminal shows the text", (session.home / "shown").exists)
 

@@ -12,8 +12,7 @@ import signal
 import time
 
 import stories
-from applications import Terminal
-from session import LETTER, wait_for
+from session import LETTER
 from stories import Story
 from xclient import XClient
 
@@ -117,22 +116,6 @@ class SharedWindows:
         self.assert_left_on_clipboard("the source has been closed")
         self.assert_untouched(chat, CHAT)
 
-    def test_after_a_refusal_the_next_press_signs(self):
-        short = self.desktop.open_editor("Only four words here")
-        self.desktop.select_all("Only four words here")
-        self.press_and_choose()
-        self.desktop.close("Not signed — too short")
-        self.write_letter(short)
-        self.desktop.press_hotkey()
-        self.desktop.enter_secret()
-        self.assert_signed(short)
-
-    def write_letter(self, editor):
-        self.desktop.wait_for_window(re.escape(editor.file.name))
-        self.desktop.key("ctrl+a")
-        self.desktop.type(LETTER)
-        self.desktop.select_all(LETTER)
-
     def test_the_application_behind_the_settings_is_asked_to_copy(self):
         letter = self.open_letter()
         self.open_settings()
@@ -190,18 +173,6 @@ class Windows(SharedWindows, WindowStory):
     def test_a_long_text_comes_in_pieces(self):
         text = "\n".join([LETTER] * 4_000)
         self.assert_signed(self.sign_in_editor(text), text)
-
-    def test_a_plain_shell_in_a_terminal_runs_nothing_of_the_block(self):
-        text = LETTER + "\ntouch ran\n"
-        terminal = Terminal(self.desktop, "xterm", text, reader="PS1= exec dash")
-        terminal.drag_over(text)
-        self.press_and_choose()
-        self.desktop.enter_secret()
-        self.assert_left_on_clipboard("the source is a terminal", text.rstrip())
-        self.desktop.wait_for_window("Notes")
-        self.desktop.type("touch typed\n")
-        wait_for("the shell takes a command", (self.desktop.home / "typed").exists)
-        self.assertFalse((self.desktop.home / "ran").exists())
 
 
 if __name__ == "__main__":

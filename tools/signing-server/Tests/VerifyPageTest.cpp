@@ -103,6 +103,14 @@ TEST_F(VerifyPageTest, JudgesEachPaste) {
     const std::string id = recorded(filled(each.value("base", "{text}")), each);
     const std::string halves = linkTo(id).insert(origin_.size() - 1, " ");
     std::string paste = unicode::replacingAll(filled(each.at("paste")), "{halves}", halves);
+    const SignedBlock::Fields block{.signatureId = id,
+                                    .text = text,
+                                    .html = std::nullopt,
+                                    .issued = "2026-01-01",
+                                    .scope = "Email Message (Writer)",
+                                    .server = origin_};
+    paste = unicode::replacingAll(paste, "{block}", SignedBlock::plainText(block));
+    paste = unicode::replacingAll(paste, "{HTML block}", SignedBlock::htmlDocument(block));
     paste = unicode::replacingAll(paste, "{link}", linkTo(id));
     list.push_back({{"id", id}, {"paste", std::move(paste)}});
   }
@@ -112,9 +120,18 @@ import { isSilent, openRecord, paste, report, until } from "/test/help.js";
 // Nothing in it is changed on its way through the document's HTML.
 const ascii = (value) => JSON.stringify(value).replace(/[^ -%'-;=?-~]/g,
   (unit) => `\\u${unit.charCodeAt(0).toString(16).padStart(4, "0")}`);
+const copied = (html) => {
+  const mail = document.createElement("div");
+  mail.innerHTML = html;
+  document.body.append(mail);
+  getSelection().selectAllChildren(mail);
+  const text = getSelection().toString();
+  mail.remove();
+  return text;
+};
 for (const each of await (await fetch("/test/cases.json")).json()) {
   await openRecord(each.id);
-  paste(each.paste);
+  paste(each.paste.startsWith("<!DOCTYPE") ? copied(each.paste) : each.paste);
   await until(() => !isSilent());
   report(ascii({
     tone: document.getElementById("result").classList[1],
@@ -151,39 +168,6 @@ for (const each of await (await fetch("/test/cases.json")).json()) {
     expect("shown", shown, true);
     expect("unshown", told.at("page"), false);
   }
-}
-
-/// Both forms of the agent's block, as a browser shows and copies them.
-TEST_F(VerifyPageTest, IsGreenForTheAgentsOwnBlock) {
-  const std::string id = recorded(text);
-  const SignedBlock::Fields fields{.signatureId = id,
-                                   .text = text,
-                                   .html = std::nullopt,
-                                   .issued = "2026-01-01",
-                                   .scope = "Email Message (Writer)",
-                                   .server = origin_};
-  files_["/test/cases.json"] =
-      json{SignedBlock::plainText(fields), SignedBlock::htmlDocument(fields)}.dump();
-  files_["/test/act.js"] = R"js(
-import { isSilent, paste, report, until } from "/test/help.js";
-const [plain, html] = await (await fetch("/test/cases.json")).json();
-const mail = document.createElement("div");
-mail.innerHTML = html;
-document.body.append(mail);
-getSelection().selectAllChildren(mail);
-const copied = getSelection().toString();
-mail.remove();
-for (const text of [plain, copied]) {
-  paste("");
-  paste(text);
-  await until(() => !isSilent());
-  report(document.getElementById("result").innerText.replaceAll("\n", " "));
-}
-)js";
-  const std::string verdict =
-      "The words match  This text was signed with the key of a registered device. The record is "
-      "unchanged and has not expired.";
-  EXPECT_THAT(reportAt(linkTo(id)), ::testing::ElementsAre(verdict, verdict));
 }
 
 TEST_F(VerifyPageTest, SaysNothingBeforeThePaste) {

@@ -195,11 +195,12 @@ class Backtracker {
     const std::size_t low = position_ + repetition.min;
     const std::size_t limit =
         repetition.max == Repetition::endless ? text_.size() : position_ + repetition.max;
-    std::size_t high = position_;
+    std::size_t high = usesMemo ? position_ : endOfRun(loop, position_, limit);
     bool failsFromHigh = false;
     while (high < limit && !failsFromHigh && loopTakes(loop, high)) {
       ++high;
       failsFromHigh = usesMemo && state_.memo.hasFailed(loop.memo, high);
+      if (!usesMemo) high = endOfRun(loop, high, limit);
     }
     state_.steps += high - position_;
     if (failsFromHigh) --high;
@@ -210,6 +211,7 @@ class Backtracker {
   /// A greedy loop exits at the last place between the two from which the rest may match.
   Step exitFromLast(std::uint32_t index, std::size_t low, std::size_t high) {
     for (std::size_t at = high;; --at) {
+      at = lastExit(program_.code[index], low, at);
       if (mayExit(index, at)) {
         if (at > low) push(index, at - 1, low);
         exitLoop(index, at);
@@ -217,6 +219,25 @@ class Backtracker {
       }
       if (at == low) return Step::failed;
     }
+  }
+
+  /// Where the code points of the loop's set end, from `position` up to `limit`.
+  [[nodiscard]] std::size_t endOfRun(const Instruction& loop, std::size_t position,
+                                     std::size_t limit) const {
+    const ClassSetId set = loop.first;
+    while (position < limit && sets_.contains(set, text_.classAt(position)))
+      ++position;
+    return position;
+  }
+
+  /// The last place down to `low` that has what follows the loop; `low` if there is none.
+  [[nodiscard]] std::size_t lastExit(const Instruction& loop, std::size_t low, std::size_t high) {
+    const FirstSet next(loop.next);
+    std::size_t at = high;
+    while (at > low && !next.allows(text_, at, sets_))
+      --at;
+    state_.steps += high - at;
+    return at;
   }
 
   /// A lazy loop exits at the first such place; `rest`: how many more iterations are allowed.

@@ -84,8 +84,8 @@ class ProgramCompiler {
              .first = lettersOf(node.text)});
         break;
       case Node::Kind::sequence:
-        for (const Node& child : node.children)
-          emit(child);
+        for (const Node* child : quickestOrder(node.children))
+          emit(*child);
         break;
       case Node::Kind::alternatives:
         emitAlternatives(node);
@@ -123,6 +123,22 @@ class ProgramCompiler {
              .first = setOf(node.set)});
         break;
     }
+  }
+
+  // Look-aheads side by side may be tried in any order. What must follow is mostly missing, and
+  // what must not follow is, too, so the first kind settles more.
+  static std::vector<const Node*> quickestOrder(const std::vector<Node>& nodes) {
+    std::vector<const Node*> order;
+    for (const Node& node : nodes)
+      order.push_back(&node);
+    const auto isLookAhead = [](const Node* node) { return node->kind == Node::Kind::lookAhead; };
+    for (auto first = order.begin(); first != order.end();) {
+      first = std::find_if(first, order.end(), isLookAhead);
+      const auto last = std::find_if_not(first, order.end(), isLookAhead);
+      std::stable_partition(first, last, [](const Node* node) { return !node->negative; });
+      first = last;
+    }
+    return order;
   }
 
   /// The place of the letters; equal strings are stored once.

@@ -221,6 +221,9 @@ TEST_F(QtPromptsTest, AWindowFollowsItsForm) {
         .label = "Save & Close", .enabled = isEnabled, .pressed = [&] { events += "pressed;"; }};
   };
   const auto text = [](const char* said) { return desktop::FormText{.text = said}; };
+  const auto status = [&](const char* symbol) {
+    return desktop::FormStatus{.symbol = symbol, .text = text("is")};
+  };
   const auto window = QtWindows(windows).make({.title = "Settings", .width = 300, .height = 200});
   window->render({.sections = {{.header = "Server", .rows = {text("<b>old"), field("a")}}}});
   window->bringToFront();
@@ -229,9 +232,11 @@ TEST_F(QtPromptsTest, AWindowFollowsItsForm) {
   await([] { return QApplication::activeWindow() != nullptr; });
   QWidget& shown = *QApplication::activeWindow();
   EXPECT_FALSE(shown.findChild<QPushButton*>()->isEnabled());
-  window->render({.sections = {{.header = "Key", .rows = {text("<b>new")}},
+  window->render({.sections = {{.header = "Key",
+                                .rows = {text("<b>new"), status("checkmark.seal.fill"),
+                                         status("exclamationmark.triangle.fill"), status("")}},
                                {.header = "", .rows = {field("c"), button(true)}}}});
-  EXPECT_EQ(saidIn(shown), "<b>new\nAddress\n");
+  EXPECT_EQ(saidIn(shown), "<b>new\n✔︎\nis\n⚠︎\nis\n•\nis\nAddress\n");
   auto& edit = *shown.findChild<QLineEdit*>();
   EXPECT_EQ(edit.text(), QStringLiteral("c"));
   QTest::keyClicks(&edit, QStringLiteral("d"));

@@ -6,6 +6,7 @@
 #include <fstream>
 #include <future>
 #include <optional>
+#include <tuple>
 
 #include <fcntl.h>
 #include <gmock/gmock.h>
@@ -13,7 +14,9 @@
 #include <unistd.h>
 #include <xkbcommon/xkbcommon-keysyms.h>
 
+#include "BusServices.h"
 #include "Cases.h"
+#include "PrivateBus.h"
 #include "Quillseal/ContentRisk.h"
 #include "applications/WindowDocument.h"
 #include "desktop/SigningHotkey.h"
@@ -25,6 +28,7 @@
 #include "session/QtDescriptors.h"
 #include "session/QtMainLoop.h"
 #include "session/Reach.h"
+#include "session/SessionBus.h"
 #include "x11/QtPasteboard.h"
 
 namespace quillseal::linux {
@@ -34,6 +38,7 @@ using namespace ::testing;
 using desktop::Key;
 using desktop::KeyPress;
 using desktop::Modifiers;
+using namespace std::chrono_literals;
 using namespace std::string_literals;
 
 TEST(CommandLineTest, UnderstandsOptionsOrSaysWhatItDoesNotUnderstand) {
@@ -88,6 +93,23 @@ TEST(ReachTest, ChoosesThePlatformThatReachesMost) {
                                        .wantedPlatform = wanted});
     EXPECT_EQ(platform.platform, chosen);
     expectPart(platform.obstacle, part);
+  }
+}
+
+TEST(SessionBusTest, AnswersForAccessibilityUnlessAServiceInUseHangs) {
+  const testing::PrivateBus bus("DBUS_SESSION_BUS_ADDRESS");
+  EXPECT_TRUE(accessibilityAnswers(200ms));  // nobody is there
+  for (const auto& [isUsed, address, answers] :
+       {std::tuple{0, "", true}, {1, "", false}, {1, "unix:path=/none", true}}) {
+    const testing::BusServices service(
+        ::sd_bus_open_user, {"org.a11y.Bus"},
+        [&](sd_bus_message* call, const std::string& method, sd_bus_error* error) {
+          if (method == "Get") return ::sd_bus_reply_method_return(call, "v", "b", isUsed);
+          if (::sd_bus_message_get_interface(call) != "org.a11y.Bus"s)
+            return ::sd_bus_error_set(error, "org.freedesktop.DBus.Error.UnknownMethod", "");
+          return *address == '\0' ? 1 : ::sd_bus_reply_method_return(call, "s", address);
+        });
+    EXPECT_EQ(accessibilityAnswers(200ms), answers) << isUsed << address;
   }
 }
 

@@ -60,6 +60,7 @@ class Entries : public DesktopEntries {
 /// A keyboard whose desktop takes its time to answer.
 struct SlowKeyboard : AgentKeyboard {
   explicit SlowKeyboard(std::unique_ptr<AgentKeyboard> made) : its(std::move(made)) {}
+  [[nodiscard]] bool isUsable() const override { return its->isUsable(); }
   void prepare() override {
     its->prepare();
     if (const auto once = std::exchange(meanwhile, nullptr)) once();

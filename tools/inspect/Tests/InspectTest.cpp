@@ -68,7 +68,7 @@ TEST(PatternTrial, FindsTheLongestBeginningThatOccurs) {
     EXPECT_EQ(approaches, each[2].get<std::vector<std::string>>()) << each;
   }
   EXPECT_TRUE(tryPattern({.written = "A", .caseInsensitive = false}, "a").approaches.empty());
-  for (const char* broken : {"(", "(?:a", "[a", "a{2", "a**", "\\", "<40>)", "(a)\\1"})
+  for (const char* broken : {"(", "(?:a", "[a", "[--a]", "a{2", "a**", "\\", "<40>)", "(a)\\1"})
     EXPECT_THROW((void)tryPattern({.written = broken}, "a"), PatternTrialError) << broken;
 }
 

@@ -21,7 +21,8 @@ TEST(SignatureCheck, TakesOnlyUncompressedPointsOfTheCurve) {
       point + '\0',                                 // too long
       with(64, static_cast<char>(point[64] ^ 1)),   // not on the curve
       std::string(1, '\x03').append(point, 1, 32),  // compressed
-      with(0, '\x07'),                              // hybrid
+      with(0, '\x06'),                              // hybrid, even
+      with(0, '\x07'),                              // hybrid, odd
       '\x04' + std::string(64, '\xff'),             // coordinates above the prime
       '\x04' + std::string(64, '\0'),               // the origin
   };

@@ -53,6 +53,8 @@ void change(Signature& record, const json& changes) {
       {"scope", &record.scope},
       {"identity", &record.identity},
       {"device_id", &record.deviceId},
+      {"method", &record.method},
+      {"timezone", &record.timezone},
       {"expires", &record.expires},
       {"commitment", &record.commitment},
       {"public_key", &record.publicKey},
@@ -71,16 +73,10 @@ class VerifyPageTest : public PageTest {
     record.id = CryptoManager::randomHex(12);
     record.textDigest = digestOf(base);
     record.imageDigest = CryptoManager::imageManifestDigest({});
-    record.issued = "2026-01-01";
-    record.scope = "Email Message (Writer)";
-    record.method = "Touch ID";
-    record.deviceId = "0F4B3A52-7C1D-4E8A-9B60-5D2E1C7F8A90";
-    record.expires = "2026-01-08";
-    record.commitment = "statement";
     record.nonce = CryptoManager::randomHex(16);
-    record.timezone = "Asia/Kolkata";
-    record.utcOffsetMinutes = 330;
     record.recordedAt = start;
+    record.utcOffsetMinutes = 330;
+    change(record, json::parse(quillseal::testing::caseLines("A record").front()));
     change(record, each.value("made", json::object()));
     if (record.kind == SignatureKind::device) {
       record.publicKey = device_.publicKey();

@@ -29,8 +29,6 @@ class ClipboardKeeper {
     Waiting() = default;  ///< none
     explicit Waiting(FileDescriptor line) : line_(std::move(line)) {}
 
-    [[nodiscard]] bool isRunning() const { return line_.isOpen(); }
-
     /// Ends it, and nothing is offered.
     void dismiss();
 

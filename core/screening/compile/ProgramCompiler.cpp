@@ -129,6 +129,7 @@ class ProgramCompiler {
   // what must not follow is, too, so the first kind settles more.
   static std::vector<const Node*> quickestOrder(const std::vector<Node>& nodes) {
     std::vector<const Node*> order;
+    order.reserve(nodes.size());
     for (const Node& node : nodes)
       order.push_back(&node);
     const auto isLookAhead = [](const Node* node) { return node->kind == Node::Kind::lookAhead; };

@@ -211,7 +211,7 @@ void GnomeHotkey::answered(desktop::Answer answer, const CustomShortcut& shortcu
   report();
 }
 
-void GnomeHotkey::tell(const std::string& problem) {
+void GnomeHotkey::tell(const std::string& problem) const {
   services_.alerts().notify({.title = "Quillseal’s Hotkey Is Not Available", .body = problem});
 }
 

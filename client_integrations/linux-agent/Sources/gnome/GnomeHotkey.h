@@ -50,7 +50,7 @@ class GnomeHotkey : public desktop::Hotkey {
 
  private:
   void offer();
-  void tell(const std::string& problem);
+  void tell(const std::string& problem) const;
   void report();
   void answered(desktop::Answer answer, const CustomShortcut& shortcut);
 

@@ -36,6 +36,7 @@ constexpr std::string_view gap =
 /// one or several rules search for: lines for single languages, in the order above, join classes of
 /// words. The Russian line of a shape is often in one rule only, since with obf-many-confusable two
 /// hits would refuse the text.
+/// Spanish and Portuguese share a line, because most stems are the same.
 struct Shorthand {
   std::string_view name;
   std::string_view meaning;

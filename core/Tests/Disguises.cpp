@@ -10,8 +10,8 @@ namespace quillseal::testing {
 namespace {
 
 constexpr std::string_view letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
-constexpr std::string_view digits = "aeiostAEIOST";
-constexpr std::string_view cyrillic = "aeopcxyisjABEKMHOPCTX";
+constexpr std::string_view likeDigits = "aeiostAEIOST";
+constexpr std::string_view likeCyrillic = "aeopcxyisjABEKMHOPCTX";
 
 using Kind = Disguise::Kind;
 constexpr std::array all{
@@ -24,10 +24,10 @@ constexpr std::array all{
     Disguise{"bold", Kind::letters, 100, letters,
              U"𝐀𝐁𝐂𝐃𝐄𝐅𝐆𝐇𝐈𝐉𝐊𝐋𝐌𝐍𝐎𝐏𝐐𝐑𝐒𝐓𝐔𝐕𝐖𝐗𝐘𝐙"
              U"𝐚𝐛𝐜𝐝𝐞𝐟𝐠𝐡𝐢𝐣𝐤𝐥𝐦𝐧𝐨𝐩𝐪𝐫𝐬𝐭𝐮𝐯𝐰𝐱𝐲𝐳"},
-    Disguise{"digits", Kind::letters, 100, digits, U"431057431057"},
-    Disguise{"few-digits", Kind::letters, 20, digits, U"431057431057"},
-    Disguise{"cyrillic", Kind::letters, 100, cyrillic, U"аеорсхуіѕјАВЕКМНОРСТХ"},
-    Disguise{"few-cyrillic", Kind::letters, 20, cyrillic, U"аеорсхуіѕјАВЕКМНОРСТХ"},
+    Disguise{"digits", Kind::letters, 100, likeDigits, U"431057431057"},
+    Disguise{"few-digits", Kind::letters, 20, likeDigits, U"431057431057"},
+    Disguise{"cyrillic", Kind::letters, 100, likeCyrillic, U"аеорсхуіѕјАВЕКМНОРСТХ"},
+    Disguise{"few-cyrillic", Kind::letters, 20, likeCyrillic, U"аеорсхуіѕјАВЕКМНОРСТХ"},
     Disguise{"greek", Kind::letters, 50, "aoivunkptxyABEZHIKMNOPTYX", U"αοινυηκρτχγΑΒΕΖΗΙΚΜΝΟΡΤΥΧ"},
     Disguise{"marks", Kind::letters, 50, "aeiouAEIOU",
              U"a\u0300e\u0301i\u0308o\u0323u\u0330A\u0301E\u0300I\u0330O\u0308U\u0323"},

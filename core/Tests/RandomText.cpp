@@ -50,7 +50,7 @@ std::string randomText(std::mt19937& random, int maximumScalars) {
 }
 
 std::string escaped(const std::string& text) {
-  return nlohmann::json(text).dump(-1, ' ', true);
+  return nlohmann::json(text).dump(-1, ' ', true, nlohmann::json::error_handler_t::replace);
 }
 
 }  // namespace quillseal::testing

@@ -111,6 +111,10 @@ TEST(ScreeningEngine, ReportsPatternsItCannotUseAndKeepsTheOthers) {
   faulty.emplace_back("a");
   for (int i = 0; i < 1'000'000; ++i)
     faulty.back() += "{1}";
+  // More kinds of repetition than an instruction can name.
+  faulty.emplace_back();
+  for (int i = 2; i < 259; ++i)
+    faulty.back() += "a{" + std::to_string(i) + '}';
   faulty.emplace_back("plain");
   const auto tables = compiled(faulty);
   faulty.pop_back();
@@ -121,6 +125,12 @@ TEST(ScreeningEngine, ReportsPatternsItCannotUseAndKeepsTheOthers) {
   ASSERT_EQ(matches.size(), 1U);
   EXPECT_EQ(matches.front().pattern, faulty.size());
   EXPECT_EQ(matches.front().start, 2U);
+
+  // More folded letters than an instruction can count.
+  const std::string letters(256, 'z');
+  const Pattern patterns[] = {{.expression = letters, .caseInsensitive = true},
+                              {.expression = "plain"}};
+  EXPECT_EQ(screening::compilePatterns(patterns).problems.size(), 1U);
 }
 
 // The index has a state for each letter, and 65,535 states. Were rare literals no shorter than

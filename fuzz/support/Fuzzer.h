@@ -9,7 +9,7 @@ namespace quillseal::fuzz {
 void check(std::string_view bytes);
 
 inline void require(bool holds) {
-  if (!holds) throw std::logic_error("this input breaks a law");
+  if (!holds) throw std::logic_error("this does not hold for the input");
 }
 
 }  // namespace quillseal::fuzz

@@ -69,7 +69,7 @@ enum class Operation : std::uint8_t {
 };
 
 /// Goes on at `next` where that is said below, and with the instruction behind it otherwise. It has
-/// eight bytes, so one field serves for what no operation needs together.
+/// eight bytes, since a field has another meaning for each kind of operation.
 struct Instruction {
   Operation operation;
   std::uint8_t count = 0;  ///< of letters; for a loop and a word, which of `repetitions`
@@ -81,12 +81,12 @@ struct Instruction {
 };
 static_assert(sizeof(Instruction) == 8);
 
-/// How often a loop goes round.
+/// How often a loop goes round, or how long a preceding word is.
 struct Repetition {
   std::uint16_t min = 0;
   std::uint16_t max = 0;
-  std::uint16_t exception =
-      0;  ///< which of `exceptions`, counted from 1, takes what the set does not
+  /// Which of `exceptions`, counted from 1, takes code points that are not of the set; 0 for none.
+  std::uint16_t exception = 0;
 
   static constexpr std::uint16_t endless = 0xFFFF;  ///< as `max`
 

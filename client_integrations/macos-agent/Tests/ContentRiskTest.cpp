@@ -65,7 +65,7 @@ TEST(ContentRisk, WeighsWhatItFinds) {
 // stricter; without the reporting cue the text does not count as a report.
 TEST(ContentRisk, RunningOutOfMemorySoftensNothing) {
   const std::string text =
-      "From our awareness training: \"I approve the payment of the March invoice\".";
+      "An example of a phishing mail: \"I approve the payment of the March invoice\".";
   ASSERT_EQ(ContentRisk::evaluate(text).score, 55);
   bool isCueLost = false;
   bool happened = true;

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <fstream>
 #include <optional>
+#include <set>
 #include <span>
 #include <stdexcept>
 #include <string>
@@ -48,6 +49,19 @@ std::vector<Samples> ruleSamples() {
       throw std::runtime_error("neither a sample nor the next rule: " + line);
   }
   return samples;
+}
+
+TEST(ContentRules, EveryRuleIsWellMade) {
+  std::set<std::string_view> ids;
+  for (const Rule& rule : ContentRules::all) {
+    SCOPED_TRACE(rule.id);
+    EXPECT_TRUE(ids.insert(rule.id).second);
+    EXPECT_TRUE(rule.severity == "block"
+                    ? rule.points == 100
+                    : rule.severity == "warn" && rule.points >= 10 && rule.points <= 90);
+    // Shown after a dash and cut at its first comma, so it must be a clause, not a sentence.
+    EXPECT_FALSE(rule.why.empty() || rule.why.ends_with('.'));
+  }
 }
 
 /// Searches texts for some patterns at once.

@@ -136,6 +136,8 @@ void give(Story& d, const std::string& name, const std::string& value) {
       {"exports key", &d.keyStore.exportsKey},
       {"front", &d.applications.front},
       {"hotkey fails", &d.hotkey.failure},
+      {"hotkey is off", &d.hotkey.now.isOff},
+      {"hotkey keys", &d.words.wording.hotkey},
       {"key", &d.keyStore.hasKey},
       {"key refuses", &d.keyStore.signFailure},
       {"key store fails", &d.keyStore.loadFailure},
@@ -177,10 +179,6 @@ void give(Story& d, const std::string& name, const std::string& value) {
       d.scripts.results.push_back(result.starts_with('!')
                                       ? Outcome<Text>(Record::error(result.substr(1)))
                                       : Outcome<Text>(Text(result)));
-  } else if (name == "hotkey is off") {
-    d.hotkey.now.isOff = value == "yes";
-  } else if (name == "hotkey keys") {
-    d.words.wording.hotkey = value;
   } else if (kind == "flag") {
     d.defaults.flags.insert(which);
   } else if (kind == "setting") {

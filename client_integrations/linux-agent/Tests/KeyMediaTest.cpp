@@ -260,8 +260,9 @@ TEST_F(KeyMedia, AsRootUseNoOtherUsersFile) {
 TEST_F(KeyMedia, SignAgainAndAgain) {
   for (const bool isTpm : {false, true}) {
     Story story(isTpm);
-    story.medium->create(SecretBytes("correct horse battery"));
     const auto before = openFiles();
+    story.medium->create(SecretBytes("correct horse battery"));
+    EXPECT_EQ(story.sign("000001"), "wrong secret");
     for (int round = 0; round < (isTpm ? 50 : 200); ++round)
       EXPECT_EQ(story.sign("correct horse battery"), "accepted");
     EXPECT_EQ(openFiles(), before);

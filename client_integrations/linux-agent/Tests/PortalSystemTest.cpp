@@ -99,6 +99,7 @@ TEST_F(PortalSystemTest, ElseAsksForAShortcutInTheUsersSettings) {
                                     {ShortcutState::unsupported, "gives programs no hotkey"}}) {
     user.state = state;
     EXPECT_THAT(start, ThrowsMessage<Error>(AllOf(HasSubstr(part), HasSubstr("--sign"))));
+    EXPECT_THAT(user.trace, IsEmpty());
     EXPECT_FALSE(isOff());
   }
   user.state = ShortcutState::present;

@@ -64,7 +64,7 @@ class ScriptedCompositor {
   /// Changes the layout of the user's keyboard.
   void setLayout(const std::string& layout);
 
-  /// And finishes its objects, where the protocol has an event for that.
+  /// Takes an interface away, and finishes its objects where the protocol has an event for that.
   void withdraw(std::string_view interface);
   /// Stops answering all clients for good.
   void hang();

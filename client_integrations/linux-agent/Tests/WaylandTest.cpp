@@ -1,6 +1,7 @@
 #include <chrono>
 #include <csignal>
 #include <optional>
+#include <set>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -284,7 +285,10 @@ TEST(KeptContent, IsReadOnlyAsItWasWritten) {
 
 /// "ANSWER FORMAT TEXT | FORMAT TEXT".
 Offered offered(const std::string& words) {
+  static const std::set<std::string> answers{"all",        "nothing", "part",
+                                             "thenLeaves", "endless", "onlyOnce"};
   auto [answer, left] = testing::divided(words, " ");
+  if (!answers.contains(answer)) ADD_FAILURE() << "no program answers so: " << answer;
   Offered made{.formats = {}, .answer = answer};
   while (!left.empty()) {
     const auto [one, others] = testing::divided(left, " | ");

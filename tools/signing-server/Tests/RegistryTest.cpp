@@ -106,6 +106,11 @@ TEST_F(RegistryTest, OfManyThreadsOneEndsAHandoff) {
   for (std::thread& worker : workers)
     worker.join();
   EXPECT_EQ(ended, handoffs);
+  int recorded = 0;
+  for (int worker = 0; worker < threads; ++worker)
+    for (int i = 0; i < handoffs; ++i)
+      if (registry.signature(std::to_string(worker) + '/' + std::to_string(i))) ++recorded;
+  EXPECT_EQ(recorded, handoffs) << "only the signature that ended the handoff is recorded";
   for (int i = 0; i < handoffs; ++i)
     EXPECT_TRUE(registry.signature(registry.handoff(std::to_string(i))->signatureId).has_value());
 }

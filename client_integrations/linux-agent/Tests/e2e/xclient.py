@@ -32,7 +32,8 @@ class XClient:
     @contextlib.contextmanager
     def holding_the_keyboard(self):
         """Grabs the keyboard, as an open menu or the screen lock does; the focus does not change."""
-        if self.root.grab_keyboard(False, X.GrabModeAsync, X.GrabModeAsync, X.CurrentTime) != X.GrabSuccess:
+        status = self.root.grab_keyboard(False, X.GrabModeAsync, X.GrabModeAsync, X.CurrentTime)
+        if status != X.GrabSuccess:
             raise Failure("somebody else holds the keyboard")
         yield
         self.x.ungrab_keyboard(X.CurrentTime)
@@ -82,7 +83,8 @@ class XClient:
     def ask_for_several(self, **targets):
         """Asks for several targets at once, each with the name of a property. Returns the names of
         those that are stored, once they are."""
-        window, request, kind = self.new_window(), *map(self.x.intern_atom, ("MULTIPLE", "ATOM_PAIR"))
+        window = self.new_window()
+        request, kind = map(self.x.intern_atom, ("MULTIPLE", "ATOM_PAIR"))
         pairs = [self.x.intern_atom(name) for pair in targets.items() for name in reversed(pair)]
         window.change_property(request, kind, 32, pairs)
         self.ask_for("MULTIPLE", window)

@@ -57,6 +57,14 @@ class ScriptedKde : public testing::BusServices {
               return answer(script, call, method, error);
             }) {}
 
+  /// The person chooses other keys in KDE's settings.
+  void choose(int keys) {
+    post([keys](sd_bus* bus) {
+      ::sd_bus_emit_signal(bus, "/kglobalaccel", "org.kde.KGlobalAccel", "yourShortcutsChanged",
+                           "asa(ai)", 4, "quillseal", "sign", "", "", 1, 4, keys, 0, 0, 0);
+    });
+  }
+
   /// Emits "globalShortcutPressed" or the like, for an action of Quillseal's.
   void tell(const std::string& signal, const std::string& action = "sign") {
     post([signal, action](sd_bus* bus) { emit(bus, signal, action); });
@@ -216,6 +224,30 @@ TEST_F(KwinHotkeys, SayWhyThereAreNone) {
                 ThrowsMessage<Error>(AllOf(HasSubstr(row.part), HasSubstr("quillseal --sign"))));
     keys.reset();
     EXPECT_EQ(kde.calls().back(), row.lastCall);
+  }
+}
+
+TEST_F(KwinHotkeys, AreNamedAsTheUserHasChosenThem) {
+  PollLoop loop;
+  const auto bus = DesktopBus::open();
+  bus->serve(loop, loop);
+  const struct {
+    int keys;
+    const char* name;
+  } rows[] = {{controlAltMetaH, ""},
+              {0x1400004A, "Ctrl+Super+J"},
+              {0x0B000034, "Alt+Shift+F5"},
+              {0x01000009, "the shortcut of your choice"}};  // Print
+  for (const auto& row : rows) {
+    ScriptedKde kde({.granted = row.keys});
+    KwinHotkey keys({.loop = loop, .bus = *bus});
+    keys.registerHotkey(desktop::signingHotkey, [] {});
+    EXPECT_EQ(keys.state().otherKeys, row.name);
+    bool isReported = false;
+    const desktop::Ticket watch = keys.observe([&] { isReported = true; });
+    kde.choose(0x04000051);
+    testing::runUntil(loop, [&] { return isReported; });
+    EXPECT_EQ(keys.state().otherKeys, "Ctrl+Q");
   }
 }
 

@@ -22,14 +22,14 @@ class ScriptedPortal : public BusServices {
   struct Script {
     linux::PortalOffer offer{.remoteDesktop = 2, .globalShortcuts = 2, .clipboard = 1};
     bool answers = true;        ///< to what the user is asked
-    std::uint32_t answer = 0;   ///< 1 when the user refuses, 2 when it fails
+    std::uint32_t answer = 0;   ///< 1 or 2 when the user refuses
     std::uint32_t devices = 1;  ///< that the user allows
     bool allowsClipboard = true;
     std::string token = "next";  ///< for the next session
     std::string knownToken{};    ///< the only one that is understood; any when empty
     bool closesSession = false;  ///< with a token that is not, instead of an error
     bool isMalformed = false;    ///< all answers have wrong types
-    std::string keys = "Press <Control><Alt><Super>h";
+    std::string keys = "Press <Control><Alt><Super>h";  ///< none when empty
     Owner owner = Owner::writes;
     int takenSelections = 9;  ///< before one is refused
   };
@@ -164,6 +164,9 @@ class ScriptedPortal : public BusServices {
                      "u", script_.devices, "clipboard_enabled", "b",
                      static_cast<int>(script_.allowsClipboard), "restore_token", "s",
                      script_.token.c_str());
+    if (member == "BindShortcuts" && script_.keys.empty())
+      return respond(call, "oa(sa{sv})s", "ua{sv}", script_.answer, 1, "shortcuts", "a(sa{sv})", 1,
+                     "sign", 0);
     if (member == "BindShortcuts")
       return respond(call, "oa(sa{sv})s", "ua{sv}", script_.answer, 1, "shortcuts", "a(sa{sv})", 2,
                      "other", 0, "sign", 1, "trigger_description", "s", script_.keys.c_str());

@@ -39,15 +39,15 @@ class ClipboardKeeper {
   /// `places`: candidate paths of one of the programs; the first that exists is used.
   explicit ClipboardKeeper(std::vector<std::filesystem::path> places);
 
-  /// Starts offering `content` and returns once the compositor or X server has taken the offer: the
-  /// window that owns the clipboard, 0 where that is no window. Throws Error, and offers nothing,
+  /// Starts offering `content`. Returns the window that owns the clipboard, 0 under Wayland, once
+  /// the compositor or X server has taken the offer. Throws Error, and offers nothing,
   /// when that takes more than five seconds. REQUIRES: SIGCHLD is not ignored, or the keeper's exit
   /// status is lost.
   [[nodiscard]] std::uint32_t keep(const desktop::PasteboardContent& content) const;
 
-  /// Starts a keeper for X11 that waits. Where its time has come, and the X server's clipboard
-  /// holds the same plain text or nothing, it offers `content` there. Without a running one it is
-  /// none.
+  /// Starts a keeper for X11 that waits. When the result is gone, it offers `content` on the X
+  /// server's clipboard, if that holds the same plain text or nothing. Returns none when no keeper
+  /// can be started.
   [[nodiscard]] Waiting keepLater(const desktop::PasteboardContent& content) const;
 
  private:

@@ -118,24 +118,28 @@ bool Offer::make() {
 bool Offer::makeInPlace() {
   prepare();
   const auto end = steady_clock::now() + longestEnd;
+  bool wasEmpty = false;
   while (steady_clock::now() < end && xcb_connection_has_error(connection_.get()) == 0) {
     // The server refuses a selection to anybody who names a time before its last change: what is
     // copied after this moment stays.
     const xcb_timestamp_t time = timeOfServer();
-    const std::optional<std::string> text = textThere();
+    const bool isEmpty = x11::ownerOf(connection_.get(), clipboard_) == XCB_NONE;
+    const std::optional<std::string> text = isEmpty ? std::nullopt : textThere();
     const bool isOurs = text == content_.plainText;
-    if (isOurs && take(time)) return true;
     if (!isOurs && text && !text->empty()) return false;
+    // An empty clipboard may be about to get the desktop's own copy.
+    const bool mayTake = isOurs || (isEmpty && wasEmpty);
+    if (mayTake && take(time)) return true;
+    wasEmpty = isEmpty;
     const Ticket pause = loop_.loop().after(pauseBetweenLooks, [this] { loop_.loop().stop(); });
     loop_.loop().run();
   }
   return false;
 }
 
-/// Returns the plain text on the clipboard: this offer's when there is nobody's, nothing when its
-/// owner does not answer.
+/// Returns the plain text on the clipboard, nothing when there is none or its owner does not
+/// answer.
 std::optional<std::string> Offer::textThere() {
-  if (x11::ownerOf(connection_.get(), clipboard_) == XCB_NONE) return content_.plainText;
   std::optional<std::string> text;
   const Ticket reading =
       X11Selection::read({.loop = loop_.loop(), .descriptors = loop_.loop()},
@@ -185,8 +189,11 @@ xcb_timestamp_t Offer::timeOfServer() const {
   xcb_change_property(connection_.get(), XCB_PROP_MODE_APPEND, window_, XCB_ATOM_WM_CLASS,
                       XCB_ATOM_STRING, bits8, 0, nullptr);
   xcb_flush(connection_.get());
-  const x11::Reply<xcb_generic_event_t> event(xcb_wait_for_event(connection_.get()));
-  return event == nullptr ? XCB_CURRENT_TIME : as<xcb_property_notify_event_t>(*event).time;
+  // After an attempt that failed there may be events of the selection.
+  while (const x11::Reply<xcb_generic_event_t> event{xcb_wait_for_event(connection_.get())})
+    if (event->response_type == XCB_PROPERTY_NOTIFY)
+      return as<xcb_property_notify_event_t>(*event).time;
+  return XCB_CURRENT_TIME;
 }
 
 void Offer::receive() {

@@ -3,7 +3,6 @@
 #include <functional>
 #include <optional>
 #include <string>
-#include <string_view>
 
 #include "desktop/Alerts.h"
 #include "desktop/Defaults.h"
@@ -66,8 +65,5 @@ class GnomeHotkey : public desktop::Hotkey {
 
 /// Returns the keys as GTK writes them: "<Control><Alt><Super>h".
 [[nodiscard]] std::string acceleratorOf(desktop::KeyPress press);
-
-/// Returns such keys in words, the modifiers in one order: "Ctrl+Alt+Super+H".
-[[nodiscard]] std::string nameOfAccelerator(std::string_view keys);
 
 }  // namespace quillseal::linux

@@ -40,4 +40,7 @@ namespace quillseal::linux {
 /// The same for a key by its character, given in lower case.
 [[nodiscard]] std::string nameOf(desktop::Modifiers modifiers, std::string_view key);
 
+/// The same for keys as GTK writes them, "<Control><Alt><Super>h", the modifiers in one order.
+[[nodiscard]] std::string nameOfAccelerator(std::string_view keys);
+
 }  // namespace quillseal::linux

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 #include <chrono>
+#include <cstdint>
 #include <set>
 #include <string_view>
 #include <utility>
@@ -61,15 +62,31 @@ std::string triggerOf(desktop::KeyPress combination) {
   return trigger;
 }
 
-/// The words of a description such as "Press <Control><Alt><Super>h" or "Ctrl+Alt+Meta+H", each key
-/// by one name.
+/// The keys of a description. GNOME puts them into a sentence of the user's language, such as
+/// "Press <Control><Alt><Super>h"; KDE writes them alone, as "Ctrl+Alt+Meta+H".
+std::string describedKeys(std::string_view sentence) {
+  const std::size_t begin = sentence.find('<');
+  if (begin == std::string_view::npos) return std::string(sentence);
+  std::size_t end = begin;
+  while (end < sentence.size() && sentence[end] == '<') {
+    const std::size_t close = sentence.find('>', end);
+    if (close == std::string_view::npos) return std::string(sentence);
+    end = close + 1;
+  }
+  const auto isOfName = [](unsigned char c) { return std::isalnum(c) != 0 || c == '_'; };
+  while (end < sentence.size() && isOfName(static_cast<unsigned char>(sentence[end])))
+    ++end;
+  return nameOfAccelerator(sentence.substr(begin, end - begin));
+}
+
+/// The words in such keys, each key by one name.
 std::set<std::string> keysIn(std::string_view text) {
   std::set<std::string> keys;
   std::string word;
   const auto end = [&] {
     if (word == "control") word = "ctrl";
     if (word == "meta" || word == "logo") word = "super";
-    if (!word.empty() && word != "press") keys.insert(word);
+    if (!word.empty()) keys.insert(word);
     word.clear();
   };
   for (const char character : text) {
@@ -83,9 +100,23 @@ std::set<std::string> keysIn(std::string_view text) {
   return keys;
 }
 
+/// In place of keys that the desktop does not tell: Hyprland leaves them to its configuration.
+constexpr const char* unknownKeys = "the shortcut of your choice";
+
 constexpr const char* otherWays =
     " Bind the command “quillseal --sign” to a shortcut in the keyboard settings of your desktop, "
     "or use the menu.";
+
+/// Whether the desktop answered, and the hotkey was not allowed. GNOME answers 2, for a request
+/// that has ended in some other way, when the user closes its question.
+bool isRefusal(const PortalAnswer& answer) {
+  constexpr std::uint32_t cancelled = 1;
+  constexpr std::uint32_t endedOtherwise = 2;
+  std::uint32_t code = 0;
+  return answer.message != nullptr && ::sd_bus_message_rewind(answer.message.get(), 1) >= 0 &&
+         ::sd_bus_message_read(answer.message.get(), "u", &code) > 0 &&
+         (code == cancelled || code == endedOtherwise);
+}
 
 }  // namespace
 
@@ -140,6 +171,7 @@ void PortalHotkey::become(desktop::HotkeyState state) {
 
 void PortalHotkey::askAgain() {
   if (!state_.isOff) return;
+  isWanted_ = true;
   become({});
   bindAfter(0s);
 }
@@ -169,18 +201,25 @@ Task<> PortalHotkey::bind() {
     }
   }
   isBinding_ = false;
+  const bool wasWanted = std::exchange(isWanted_, false);
   desktop::Defaults& defaults = services_.defaults();
   if (answer.outcome == PortalAnswer::Outcome::granted) {
     if (defaults.boolean(wasRefused)) defaults.setString(wasRefused, "false");
     if (enterOption(*answer.message, "u", "shortcuts", "a(sa{sv})")) readKeys(*answer.message);
+    if (wasWanted && state_.isOff)
+      services_.tell(
+          "Your desktop has no keys for Quillseal’s hotkey. Choose some in its keyboard settings.");
     co_return;
   }
-  const bool isRefused = answer.outcome == PortalAnswer::Outcome::refused;
-  if (isRefused) defaults.setString(wasRefused, "true");
+  const bool isRefused = isRefusal(answer);
+  if (isRefused) {
+    defaults.setString(wasRefused, "true");
+    again_ = {};  // the session may have ended first
+  }
   const std::string problem =
       isRefused ? std::string(
-                      "Quillseal’s hotkey is off, because you did not allow it. You can turn it "
-                      "on in the settings of Quillseal.") +
+                      "Quillseal’s hotkey is off, because it was not allowed. You can turn it on "
+                      "in the settings of Quillseal.") +
                       otherWays
       : session_ == nullptr
           ? "The portal of your desktop does not let Quillseal in, so there is no hotkey. Install "
@@ -216,11 +255,13 @@ void PortalHotkey::readKeys(sd_bus_message& shortcuts) {
         return;
       continue;
     }
+    // GNOME describes no keys where the user has removed them.
     if (!enterOption(shortcuts, "trigger_description", "s") ||
         ::sd_bus_message_read(&shortcuts, "s", &keys) <= 0)
-      return;
-    const bool isAsAsked = keysIn(keys) == keysIn(nameOf(combination_));
-    return become({.otherKeys = isAsAsked ? "" : keys, .isOff = false});
+      return become({.otherKeys = {}, .isOff = true});
+    const std::string name = *keys == '\0' ? unknownKeys : describedKeys(keys);
+    const bool isAsAsked = keysIn(name) == keysIn(nameOf(combination_));
+    return become({.otherKeys = isAsAsked ? std::string() : name, .isOff = false});
   }
 }
 

@@ -59,6 +59,7 @@ class PortalHotkey : public desktop::Hotkey {
   std::function<void()> changed_;
   std::unique_ptr<PortalSession> session_;
   bool isBinding_ = false;
+  bool isWanted_ = false;  ///< the user has asked for it since it was off
   bool isDown_ = false;
   desktop::MainLoop::TimePoint lastPress_;
   desktop::MainLoop::TimePoint lastRelease_;

@@ -84,7 +84,7 @@ struct PortalPasteboard::State {
     requests = bus.subscribe(signal("SelectionTransfer"), onTransfer);
     services.remote.onEnd([this] {
       isOwner = false;
-      waiting = {};  // which takes over
+      waiting = {};  // the keeper takes over
     });
   }
 
@@ -234,8 +234,8 @@ struct PortalPasteboard::State {
   /// Why nothing could be written, and what to do, for the user.
   [[nodiscard]] std::string obstacle() const {
     if (isAsking)
-      return "Your desktop has not answered yet whether Quillseal may use it. Allow that there "
-             "first.";
+      return "Your desktop has not answered yet whether Quillseal may use the clipboard. Allow it "
+             "there first.";
     if (!services.remote.obstacle().empty()) return services.remote.obstacle();
     return "Your desktop did not take the signed text.";
   }
@@ -299,7 +299,7 @@ void PortalPasteboard::write(const desktop::PasteboardContent& content) {
           ? services.portal.newCall(interface, "SetSelection", services.remote.session())
           : nullptr;
   desktop::PasteboardContent before = std::exchange(state_->written, content);
-  state_->isOwner = false;
+  const bool wasOwner = std::exchange(state_->isOwner, false);
   const bool isTaken = call != nullptr &&
                        Portal::append(*call, {{"mime_types", offeredFormats()}}) &&
                        services.portal.bus().send(*call) != nullptr;
@@ -309,6 +309,7 @@ void PortalPasteboard::write(const desktop::PasteboardContent& content) {
     return change();
   }
   state_->written = std::move(before);
+  state_->isOwner = wasOwner;
   throw Error({.domain = "PortalPasteboard",
                .code = 1,
                .description = "The clipboard could not be written. " + state_->obstacle()});

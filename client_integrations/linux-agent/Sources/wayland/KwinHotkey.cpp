@@ -1,6 +1,8 @@
 #include "wayland/KwinHotkey.h"
 
+#include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -69,14 +71,52 @@ bool isOfAgent(sd_bus_message& message) {
          std::string_view(ofAction) == action;
 }
 
-/// Reads a sequence and returns whether it has a key.
-bool hasKey(sd_bus_message& sequence) {
-  if (::sd_bus_message_enter_container(&sequence, 'a', "i") < 0) return false;
-  bool isFound = false;
-  for (int key = 0; ::sd_bus_message_read(&sequence, "i", &key) > 0;)
-    isFound = isFound || key != 0;
-  ::sd_bus_message_exit_container(&sequence);
-  return isFound;
+/// Whether the list that comes next names the agent's action.
+bool namesAgent(sd_bus_message& message) {
+  if (::sd_bus_message_enter_container(&message, 'a', "s") < 0) return false;
+  std::vector<std::string> names;
+  const char* name = nullptr;
+  while (::sd_bus_message_read(&message, "s", &name) > 0)
+    names.emplace_back(name);
+  ::sd_bus_message_exit_container(&message);
+  return names.size() >= 2 && names[0] == component && names[1] == action;
+}
+
+/// Reads a list of sequences and returns the first key, 0 for none; nothing when it is no list.
+std::optional<int> firstKeyIn(sd_bus_message& sequences) {
+  if (::sd_bus_message_enter_container(&sequences, 'a', "(ai)") < 0) return std::nullopt;
+  int first = 0;
+  while (::sd_bus_message_enter_container(&sequences, 'r', "ai") > 0) {
+    if (::sd_bus_message_enter_container(&sequences, 'a', "i") < 0) break;
+    for (int key = 0; ::sd_bus_message_read(&sequences, "i", &key) > 0;)
+      if (first == 0) first = key;
+    ::sd_bus_message_exit_container(&sequences);
+    ::sd_bus_message_exit_container(&sequences);
+  }
+  return first;
+}
+
+/// Returns keys that Qt numbers in words: "Ctrl+Shift+F5".
+std::string nameOfNumber(int number) {
+  struct Modifier {
+    int flag;
+    const char* name;
+  };
+  static constexpr auto modifiers = std::to_array<Modifier>({{0x04000000, "Ctrl+"},
+                                                             {0x08000000, "Alt+"},
+                                                             {0x02000000, "Shift+"},
+                                                             {0x10000000, "Super+"}});
+  constexpr int keyBits = 0x01FFFFFF;
+  constexpr int firstFunctionKey = 0x01000030;
+  constexpr int lastFunctionKey = 0x01000052;
+  const int key = number & keyBits;
+  std::string result;
+  for (const auto& [flag, name] : modifiers)
+    if ((number & flag) != 0) result += name;
+  if (key > ' ' && key <= '~') return result + static_cast<char>(key);
+  if (key >= firstFunctionKey && key <= lastFunctionKey)
+    return result + "F" + std::to_string(key - firstFunctionKey + 1);
+  return "the shortcut of your choice";
 }
 
 [[noreturn]] void fail(int code, const std::string& problem) {
@@ -96,6 +136,9 @@ KwinHotkey::KwinHotkey(const Services& services)
       }),
       onRelease_([this](sd_bus_message& message) {
         if (isOfAgent(message)) held_.release();  // older versions report none
+      }),
+      onChange_([this](sd_bus_message& message) {
+        if (namesAgent(message)) become(firstKeyIn(message).value_or(0));
       }),
       onOwner_([this](sd_bus_message& message) {
         const char* name = nullptr;
@@ -122,17 +165,23 @@ void KwinHotkey::registerHotkey(desktop::KeyPress combination, std::function<voi
   keys_ = numberOf(combination);
   presses_ = services_.bus.subscribe(signal("globalShortcutPressed"), onPress_);
   releases_ = services_.bus.subscribe(signal("globalShortcutReleased"), onRelease_);
+  changes_ = services_.bus.subscribe({.sender = service,
+                                      .path = "/kglobalaccel",
+                                      .interface = "org.kde.KGlobalAccel",
+                                      .name = "yourShortcutsChanged",
+                                      .firstArgument = nullptr},
+                                     onChange_);
   const Registration registration = request();
   // What is not answered in time may be done later.
-  mayHaveKeys_ = registration.isGranted || !registration.isAnswered;
+  mayHaveKeys_ = registration.granted != 0 || !registration.isAnswered;
   if (registration.isTaken)
     fail(1, "Another program already uses " + nameOf(combination) +
                 ". Free it in the shortcut settings of your desktop and start Quillseal again");
-  if (registration.isAnswered && !registration.isGranted)
+  if (registration.isAnswered && registration.granted == 0)
     fail(2,
          "The shortcut settings of your desktop give Quillseal no keys. Choose some there and "
          "start Quillseal again");
-  if (!registration.isGranted || presses_ == nullptr || releases_ == nullptr)
+  if (registration.granted == 0 || presses_ == nullptr || releases_ == nullptr)
     fail(3, "The shortcuts of your desktop do not answer. Start Quillseal again");
   owners_ = services_.bus.subscribe({.sender = "org.freedesktop.DBus",
                                      .path = "/org/freedesktop/DBus",
@@ -140,6 +189,21 @@ void KwinHotkey::registerHotkey(desktop::KeyPress combination, std::function<voi
                                      .name = "NameOwnerChanged",
                                      .firstArgument = service},
                                     onOwner_);
+}
+
+desktop::Ticket KwinHotkey::observe(std::function<void()> changed) {
+  changed_ = std::move(changed);
+  return desktop::Ticket([this] { changed_ = nullptr; });
+}
+
+/// Without keys the state stays: there is nothing to name.
+void KwinHotkey::become(int keys) {
+  if (keys == 0) return;
+  desktop::HotkeyState now{.otherKeys = keys == keys_ ? std::string() : nameOfNumber(keys),
+                           .isOff = false};
+  if (now == state_) return;
+  state_ = std::move(now);
+  if (const auto changed = changed_) changed();
 }
 
 KwinHotkey::Registration KwinHotkey::request() {
@@ -155,14 +219,12 @@ KwinHotkey::Registration KwinHotkey::request() {
   static_cast<void>(set(asDefault));
   const DesktopBus::Message answer = set(asPresent);
   Registration registration;
-  if (answer == nullptr || ::sd_bus_message_enter_container(answer.get(), 'a', "(ai)") < 0)
-    return registration;
+  const std::optional<int> granted = answer == nullptr ? std::nullopt : firstKeyIn(*answer);
+  if (!granted) return registration;
   registration.isAnswered = true;
-  while (::sd_bus_message_enter_container(answer.get(), 'r', "ai") > 0) {
-    registration.isGranted = hasKey(*answer) || registration.isGranted;
-    ::sd_bus_message_exit_container(answer.get());
-  }
-  if (registration.isGranted) return registration;
+  registration.granted = *granted;
+  become(*granted);
+  if (*granted != 0) return registration;
 
   const DesktopBus::Message owner = bus.call(method("actionList"), "(ai)", 4, keys_, 0, 0, 0);
   const char* ofComponent = nullptr;

@@ -30,27 +30,35 @@ class KwinHotkey : public desktop::Hotkey {
 
   void registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) override;
 
+  [[nodiscard]] desktop::HotkeyState state() const override { return state_; }
+  [[nodiscard]] desktop::Ticket observe(std::function<void()> changed) override;
+
  private:
-  /// The result of a request: whether there was an answer, keys were granted, and another component
-  /// has the requested ones.
+  /// The result of a request: whether there was an answer, the keys that were granted, 0 for none,
+  /// and whether another component has the requested ones.
   struct Registration {
     bool isAnswered = false;
-    bool isGranted = false;
+    int granted = 0;
     bool isTaken = false;
   };
   [[nodiscard]] Registration request();
+  void become(int keys);
 
   Services services_;
   std::function<void()> pressed_;
-  int keys_ = 0;  ///< as Qt numbers them
+  int keys_ = 0;  ///< that were asked for, as Qt numbers them
+  desktop::HotkeyState state_;
+  std::function<void()> changed_;
   bool mayHaveKeys_ = false;
   HeldHotkey held_;
   desktop::Ticket again_;
   DesktopBus::Receiver onPress_;
   DesktopBus::Receiver onRelease_;
+  DesktopBus::Receiver onChange_;
   DesktopBus::Receiver onOwner_;
   DesktopBus::Subscription presses_;
   DesktopBus::Subscription releases_;
+  DesktopBus::Subscription changes_;
   DesktopBus::Subscription owners_;
 };
 

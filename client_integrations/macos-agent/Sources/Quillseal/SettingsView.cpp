@@ -101,8 +101,9 @@ desktop::FormSection SettingsView::machineSection() {
     section.rows.emplace_back(desktop::FormStatus{
         .symbol = "exclamationmark.triangle.fill",
         .symbolColour = TextColour::orange,
-        .text = callout("Not set up yet. This happens automatically the first time you press " +
-                        words.hotkey + " — there is nothing to do here.")});
+        .text = callout("Not set up yet. This happens automatically the first time you " +
+                        (services_.hotkey.state().isOff ? "sign" : "press " + words.hotkey) +
+                        " — there is nothing to do here.")});
   }
   const std::string identity = Settings::boundIdentity.value(services_.defaults);
   section.rows.emplace_back(

@@ -311,12 +311,12 @@ struct FakePasteboard final : Fake<desktop::Pasteboard> {
     return record.answer(std::move(done), clipboard.rtf);
   }
   Ticket prepareWrite(std::function<void()> ready) override {
-    isPrepared_ = true;
+    ++prepared_;
     ready();
     return {};
   }
   void write(const desktop::PasteboardContent& content) override {
-    if (!std::exchange(isPrepared_, false)) throw std::logic_error("nothing was prepared");
+    if (prepared_-- == 0) throw std::logic_error("nothing was prepared");
     record.mayFail("write clipboard");
     if (const auto once = std::exchange(refusal, std::nullopt)) throw Error(*once);
     record.trace.emplace_back("write clipboard");
@@ -329,7 +329,7 @@ struct FakePasteboard final : Fake<desktop::Pasteboard> {
 
  private:
   std::int64_t changeCount_ = 0;
-  bool isPrepared_ = false;
+  int prepared_ = 0;  ///< writes that may come
   Copy fetched_;
   std::function<void()> changed_;
 };

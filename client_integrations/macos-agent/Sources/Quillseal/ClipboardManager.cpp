@@ -114,9 +114,6 @@ Task<Injected> injectSignedContent(Services services, Injection injection,
                                    .issued = injection.issuedDate,
                                    .scope = injection.scope,
                                    .server = injection.server};
-  co_await completionOf<void>([&services](std::function<void()> ready) {
-    return services.pasteboard.prepareWrite(std::move(ready));
-  });
   try {
     services.pasteboard.write(
         {.plainText = SignedBlock::plainText(fields), .html = SignedBlock::htmlDocument(fields)});

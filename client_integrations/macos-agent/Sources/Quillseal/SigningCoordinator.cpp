@@ -426,8 +426,17 @@ Task<std::optional<std::string>> SigningCoordinator::demonstrate(Signable signab
   co_return signatureId;
 }
 
-Task<> SigningCoordinator::deliver(Delivery delivery, const CapturedContent& content) {
+// The desktop may ask the user first, and other runs can copy meanwhile.
+Task<AsyncMutex::Lock> SigningCoordinator::clipboardToWrite() {
+  co_await completionOf<void>([this](std::function<void()> ready) {
+    return desktop_.pasteboard.prepareWrite(std::move(ready));
+  });
   AsyncMutex::Lock lock = co_await clipboard_.lock();
+  co_return lock;
+}
+
+Task<> SigningCoordinator::deliver(Delivery delivery, const CapturedContent& content) {
+  AsyncMutex::Lock lock = co_await clipboardToWrite();
   ClipboardManager::Injected injected = co_await inject(delivery, content);
   lock.reset();
   co_await tellOfSuccess(std::move(injected), std::move(delivery), content);
@@ -442,7 +451,7 @@ Task<> SigningCoordinator::tellOfSuccess(ClipboardManager::Injected injected, De
     const bool mayTryAgain = co_await asksToCopyAgain(std::move(injected.cause));
     if (!mayTryAgain) co_return;
     if (delivery.autoPaste == AutoPaste::yes) delivery.autoPaste = AutoPaste::tooLate;
-    AsyncMutex::Lock lock = co_await clipboard_.lock();
+    AsyncMutex::Lock lock = co_await clipboardToWrite();
     injected = co_await inject(delivery, content);
     lock.reset();
   }
@@ -895,7 +904,7 @@ Task<> SigningCoordinator::deliverFromBrowser(Delivery delivery, HandoffResult h
     co_await deliver(std::move(delivery), content);
     co_return;
   }
-  AsyncMutex::Lock lock = co_await clipboard_.lock();
+  AsyncMutex::Lock lock = co_await clipboardToWrite();
   BrowserTabReturn::SigningTab tab{.bundleID = handoff.signingBrowserBundleID,
                                    .urlContains = std::move(handoff.handoffMarker),
                                    .tabID = std::move(handoff.sourceTabID)};

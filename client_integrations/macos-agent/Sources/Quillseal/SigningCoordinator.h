@@ -158,6 +158,7 @@ class SigningCoordinator {
   Task<> signInBrowser(const Statement& statement, const CapturedContent& content);
   Task<> signHere(SigningMode mode, const Statement& statement, const CapturedContent& content);
   [[nodiscard]] Task<std::optional<std::string>> demonstrate(Signable signable);
+  [[nodiscard]] Task<AsyncMutex::Lock> clipboardToWrite();
   Task<> deliver(Delivery delivery, const CapturedContent& content);
   Task<> deliverFromBrowser(Delivery delivery, HandoffResult handoff,
                             const CapturedContent& content);

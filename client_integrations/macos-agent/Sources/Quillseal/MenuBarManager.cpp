@@ -70,9 +70,8 @@ void MenuBarManager::configureServer() {
         coordinator_, *settingsWindow_,
         BuiltInServer::apiKey().empty() ? SettingsView::Build::development
                                         : SettingsView::Build::packaged);
-  } else {
-    hotkeyChanged();  // the desktop may not have reported it
   }
+  hotkeyChanged();  // the desktop may not have reported it
   settingsWindow_->bringToFront();
 }
 

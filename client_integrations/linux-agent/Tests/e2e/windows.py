@@ -64,10 +64,11 @@ class WindowStory(Story):
 
     def assert_pasted_into_letter_alone(self, letter, chat):
         self.desktop.wait_for_notification("✅ Signature Generated!")
-        self.assert_untouched(chat, CHAT)
+        # First, since a program needs a moment with the keyboard to paste.
         self.switch_to(letter.window)
         self.desktop.wait_for_window(re.escape(letter.file.name))
         self.assert_signed(letter)
+        self.assert_untouched(chat, CHAT)
 
 
 class SharedWindows:

@@ -193,7 +193,8 @@ class Reading : public std::enable_shared_from_this<Reading> {
 
   void choose(std::string_view list) {
     std::vector<xcb_atom_t> offered(list.size() / sizeof(xcb_atom_t));
-    std::memcpy(offered.data(), list.data(), offered.size() * sizeof(xcb_atom_t));
+    if (!offered.empty())
+      std::memcpy(offered.data(), list.data(), offered.size() * sizeof(xcb_atom_t));
     for (const std::vector<std::string>& group : wish_.formats) {
       for (const std::string& name : group) {
         const xcb_atom_t atom = connection_.atom(name);

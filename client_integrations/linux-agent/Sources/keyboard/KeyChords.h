@@ -10,6 +10,9 @@
 
 namespace quillseal::linux {
 
+/// In place of keys that the desktop does not tell: Hyprland leaves them to its configuration.
+inline constexpr const char* unknownKeys = "the shortcut of your choice";
+
 /// Returns the keys to press on a Linux keyboard for a key press of the agent, modifiers first.
 ///
 /// Command becomes Control, as in the shortcuts of applications. Together with Control, Command

@@ -100,9 +100,6 @@ std::set<std::string> keysIn(std::string_view text) {
   return keys;
 }
 
-/// In place of keys that the desktop does not tell: Hyprland leaves them to its configuration.
-constexpr const char* unknownKeys = "the shortcut of your choice";
-
 constexpr const char* otherWays =
     " Bind the command “quillseal --sign” to a shortcut in the keyboard settings of your desktop, "
     "or use the menu.";

@@ -116,7 +116,7 @@ std::string nameOfNumber(int number) {
   if (key > ' ' && key <= '~') return result + static_cast<char>(key);
   if (key >= firstFunctionKey && key <= lastFunctionKey)
     return result + "F" + std::to_string(key - firstFunctionKey + 1);
-  return "the shortcut of your choice";
+  return unknownKeys;
 }
 
 [[noreturn]] void fail(int code, const std::string& problem) {

@@ -7,25 +7,33 @@
 #include <linux/input-event-codes.h>
 #include <xkbcommon/xkbcommon-keysyms.h>
 
+#include "desktop/SigningHotkey.h"
 #include "fake-input-client-protocol.h"
+#include "keyboard/KeyChords.h"
 #include "session/ScreenLock.h"
 #include "wayland/ProxyHandle.h"
 
 namespace quillseal::linux {
 namespace {
 
-// The first that presses keys. From the next one on KWin lets go of nothing that the program has
-// not pressed itself: the keys of the hotkey, still held, would make other chords of those below.
+// The first version that presses keys. From version 5 on KWin releases only keys that the same
+// program has pressed: the keys of the hotkey, which the person may still hold, would then take
+// part in the chords below.
 constexpr std::uint32_t version = 4;
 
 // XKB key codes are evdev's plus 8.
 constexpr std::uint32_t evdevOffset = 8;
 
-// What takes part in the hotkey, and what else changes the meaning of a key. Some people have Caps
-// Lock stand for another of them.
-constexpr std::array holdable = {KEY_H,          KEY_LEFTCTRL, KEY_RIGHTCTRL, KEY_LEFTALT,
-                                 KEY_RIGHTALT,   KEY_LEFTMETA, KEY_RIGHTMETA, KEY_LEFTSHIFT,
-                                 KEY_RIGHTSHIFT, KEY_CAPSLOCK};
+// The keys that change the meaning of another key, among them the modifiers of the hotkey. Caps
+// Lock is here because some people use it as another modifier.
+constexpr std::array holdable = {KEY_LEFTCTRL,  KEY_RIGHTCTRL,  KEY_LEFTALT,
+                                 KEY_RIGHTALT,  KEY_LEFTMETA,   KEY_RIGHTMETA,
+                                 KEY_LEFTSHIFT, KEY_RIGHTSHIFT, KEY_CAPSLOCK};
+
+/// Returns the key of the hotkey's letter, where it usually is.
+std::uint32_t keyOfHotkey() {
+  return usualKeyOf(chordOf(desktop::signingHotkey).back()) - evdevOffset;
+}
 
 /// Returns the key code of a symbol that has the same one in every layout.
 std::optional<std::uint32_t> placeOf(Keysym symbol) {
@@ -41,7 +49,7 @@ std::optional<std::uint32_t> placeOf(Keysym symbol) {
   }
 }
 
-/// Its number in the keyboard's layouts; nothing when nobody tells.
+/// Returns the index of the layout in use; nothing when KDE's keyboard service does not answer.
 std::optional<std::uint32_t> layoutInUse(DesktopBus& bus) {
   const DesktopBus::Message answer = bus.call({.service = "org.kde.keyboard",
                                                .path = "/Layouts",
@@ -120,6 +128,7 @@ void KwinKeyboard::tap(std::span<const Keysym> chord) {
     org_kde_kwin_fake_input_keyboard_key(device_->input.get(), key, state);
   };
   std::vector<std::uint32_t> keys = keysFor(chord);
+  set(keyOfHotkey(), WL_KEYBOARD_KEY_STATE_RELEASED);
   for (const int key : holdable)
     set(static_cast<std::uint32_t>(key), WL_KEYBOARD_KEY_STATE_RELEASED);
   for (const std::uint32_t key : keys)

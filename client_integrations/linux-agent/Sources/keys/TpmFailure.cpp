@@ -23,7 +23,7 @@ constexpr std::string_view foreign =
     "computer. Enrol this computer again in Settings.";
 constexpr std::string_view ownerPassword =
     "The TPM’s storage hierarchy has a password, so Quillseal cannot use it. An administrator can "
-    "remove it (tpm2_changeauth -c owner -p PASSWORD).";
+    "remove it (tpm2_changeauth -c owner -p file:-, then the password, Enter and Ctrl+D).";
 constexpr std::string_view disabled =
     "The TPM is switched off or has failed. Restart the computer; if that does not help, look for "
     "the TPM in its firmware settings.";

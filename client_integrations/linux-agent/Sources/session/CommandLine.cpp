@@ -56,17 +56,17 @@ Signs the text that is selected in the application in front: press
 Ctrl+Alt+Super+H, or choose the menu item of the shield in the panel.
 
 Without an option the agent starts and stays in the foreground, with its log on
-standard error. There is one agent per session: when one runs already, its
+standard error. There is one agent per session: if one is already running, its
 settings window is shown.
 
   --sign        sign the selected text now; bind this to a shortcut of your
                 desktop where the built-in one does not work
   --settings    show the settings window
-  --quit        end the agent
-  --background  start without a word, for the start of a session; the log goes
-                to the journal
-  --tpm NAME    which TPM holds the signing key: "none" for a key file in any
-                case, or a TPM simulator, "swtpm:…" or "mssim:…", for trying out
+  --quit        end the running agent
+  --background  start without output and without windows, as at log-in; the log
+                goes to the journal only
+  --tpm NAME    where the signing key is kept: "none" always uses a key file,
+                "swtpm:…" and "mssim:…" a TPM simulator, for trying out
   -h, --help    show this help
   -V, --version show the version
 

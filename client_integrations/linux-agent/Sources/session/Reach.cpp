@@ -12,11 +12,11 @@ std::string limitsOf(const SessionTraits& session) {
            "package xwayland, or switch Xwayland on again if you have switched it off; then "
            "log out and in.";
   if (!session.hasXServer)
-    return "This Wayland desktop lets no program read what is selected in another or press keys "
-           "there, so that Quillseal cannot sign selected text here. Its settings work. Signing "
-           "works on sway and other desktops built on wlroots, on KDE Plasma 5 where the package "
-           "of Quillseal is installed, and on GNOME and KDE Plasma 6 where the portal of the "
-           "desktop lets programs press keys and use the clipboard.";
+    return "This Wayland desktop lets no program read text that is selected in another program, or "
+           "press keys there, so Quillseal cannot sign selected text here. Its settings work. "
+           "Signing works on sway and other desktops built on wlroots, on KDE Plasma 5 where the "
+           "package of Quillseal is installed, and on GNOME and KDE Plasma 6 where the portal of "
+           "the desktop lets programs press keys and use the clipboard.";
   if (!session.canPressKeys)
     return "This X server lacks the XTEST extension, with which Quillseal copies the selection and "
            "pastes the signed text. Its settings work; signing does not. Start the X server with "

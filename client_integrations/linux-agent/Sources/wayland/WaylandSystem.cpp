@@ -71,9 +71,9 @@ WaylandSystem::WaylandSystem(Access access, const Services& services)
 std::string WaylandSystem::limits() const {
   if (reachesApplications(*connection_)) {
     if (bus_ != nullptr || !KwinKeyboard::isOfferedBy(*connection_)) return {};
-    return "There is no session bus, on which KWin says whether the screen is locked. Not to press "
-           "keys behind a locked screen, Quillseal presses none, and so signs nothing in this "
-           "session. Log out and in again.";
+    return "There is no session bus, so Quillseal cannot ask whether the screen is locked. It must "
+           "not press keys behind a locked screen, so it signs nothing in this session. Log out "
+           "and in again.";
   }
   return "The desktop no longer answers, so Quillseal can neither read the selected text of other "
          "applications nor press keys there. Start Quillseal again.";

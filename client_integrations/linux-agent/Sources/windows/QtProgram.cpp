@@ -16,7 +16,7 @@ void QtProgram::showAbout() {
       .title = "Quillseal " QUILLSEAL_VERSION,
       .text =
           "Attest that you yourself wrote and approved a text: select it in any application and "
-          "press Ctrl+Alt+Super+H."});
+          "press the hotkey, or choose “Sign Selected Text” in the menu."});
   dialog->addButton("OK", QDialogButtonBox::AcceptRole);
   about_ = MessageDialog::open(std::move(dialog), windows_, [](bool) {});
 }

@@ -90,8 +90,8 @@ class KeyEvents {
   /// The adapter sees to it that modifiers which the user still holds (those of the hotkey) do not
   /// take part, waiting for their release for 1.4 s at most; that every key it pressed is released
   /// again, on every path; and that the target has had time to learn of the last
-  /// `Pasteboard::write`. A press that the system does not let through is left out silently; throws
-  /// Error if it is not known which keys the application expects.
+  /// `Pasteboard::write`. A key press that the system discards is not reported. Throws Error if
+  /// it is not known which keys the application expects.
   [[nodiscard]] virtual Ticket press(KeyPress press,
                                      const std::optional<RunningApplication>& target,
                                      std::function<void()> aboutToPress,

@@ -20,8 +20,8 @@ class Program {
   /// Shows the standard About panel.
   virtual void showAbout() = 0;
 
-  /// Ends the program once the present event has been dealt with. Objects of the agent are
-  /// destroyed from the event loop's outside, never from inside one of their calls.
+  /// Ends the event loop after the present event, and with it the program. The agent is destroyed
+  /// after the loop has ended, never from inside one of its calls.
   virtual void terminate() = 0;
 
   /// Keeps the system from slowing this program down while the ticket lives, as some do with one

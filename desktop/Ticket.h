@@ -9,13 +9,10 @@ namespace quillseal::desktop {
 /// ticket withdraws it: the timer is stopped, the request abandoned, the dialog closed, the
 /// observer removed. Dropping the ticket of something that has ended already does nothing.
 ///
-/// Rules for everything in this folder that returns a ticket and takes a completion:
-///  - the completion is called on the main thread, once, and as the adapter's last act: the call
-///  may
-///    destroy the ticket and whatever else belongs to the request;
-///  - it may be called before the starting call returns;
-///  - it is not called after the ticket was dropped;
-///  - tickets are dropped on the main thread.
+/// Everything in this folder that returns a ticket and takes a completion calls the completion on
+/// the main thread, once, and as its last act: the call may destroy the ticket and whatever else
+/// belongs to the request. It may call it before the starting call returns, and never after the
+/// ticket was dropped. Tickets are dropped on the main thread.
 class [[nodiscard]] Ticket {
  public:
   /// Nothing is under way, or nothing can be withdrawn.

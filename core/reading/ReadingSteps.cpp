@@ -116,7 +116,8 @@ std::string_view lettersOf(const Cell& cell) {
   return compiledTables.of(cell.scalar).view();
 }
 
-/// One of them: the last digit of `way` in base `n`, for `n` letters, selects it.
+/// One of them. `way` numbers the combinations of such letters in a word: its remainder by the
+/// number of letters here selects the letter, and the quotient is left for the next cell.
 char32_t letterOf(const Cell& cell, std::size_t& way) {
   const std::string_view letters = lettersOf(cell);
   const char letter = letters[way % letters.size()];
@@ -1004,7 +1005,8 @@ class BlankMover {
         blanks_.push_back(letters_.size());
     }
     const auto& borders = segmenter_.segment(letters_, blanks_);
-    // Any letters contain short words by chance.
+    // Random letters contain short words by chance, so the words must have three letters on
+    // average.
     constexpr std::size_t meanLength = 3;
     if (borders.empty() || borders.size() * meanLength > letters_.size() ||
         (!mayHaveUnknown && segmenter_.unknownLetters() > 0) ||

@@ -39,7 +39,8 @@ struct Contents {
 /// Counts known and unknown words in a row.
 class KnownWords {
  public:
-  /// `isName`: a capital followed by small letters. Names are in no table of words.
+  /// `isName`: a capital followed by small letters. Names are in no table of words, so one of
+  /// ordinary length does not count as unknown.
   void add(std::size_t letters, bool isKnown, bool isName) {
     if (isKnown) {
       known_ += letters;
@@ -89,7 +90,7 @@ class WideWords {
     return count_ >= few && letters_ < meanLength * count_;
   }
 
-  /// So many letters, one by one, are set apart.
+  /// From this many single letters in a row on, they count as set apart.
   static constexpr std::size_t fewestUnits = 3;
 
  private:

@@ -9,7 +9,7 @@ namespace quillseal {
 /// and without white space, angle brackets and invisible controls. Takes linear time.
 [[nodiscard]] std::string normalForm(std::string_view text);
 
-/// Whether the canonical form of a text goes without this scalar.
+/// Whether the canonical form of a text leaves this scalar out.
 [[nodiscard]] bool isLeftOut(char32_t scalar) noexcept;
 
 }  // namespace quillseal

@@ -86,8 +86,7 @@ class CharacterCursor {
   /// Takes as many of the next characters as consist of one ASCII byte each, possibly none.
   [[nodiscard]] std::string_view nextAsciiCharacters();
 
-  /// Takes as many of the next characters as it can without ICU, `most` of them at most; their
-  /// number.
+  /// Takes as many of the next characters as it can without ICU, at most `most`. Returns how many.
   std::size_t skipPlainCharacters(std::size_t most);
 
  private:

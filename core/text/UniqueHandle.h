@@ -13,8 +13,9 @@ struct HandleRelease {
   }
 };
 
-/// Owns an object of a C library, which `release` ends: UniqueHandle<BIO, ::BIO_free>. Where
-/// `release` is a static function of a header, only for source files, as is a type that names it.
+/// Owns an object of a C library, which `release` ends: UniqueHandle<BIO, ::BIO_free>. A `release`
+/// that a header defines as `static` is another function in each source file, and so is the type:
+/// name such a type in source files only.
 template <typename Object, auto release>
 using UniqueHandle = std::unique_ptr<Object, HandleRelease<release>>;
 

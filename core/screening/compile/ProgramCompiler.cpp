@@ -4,10 +4,10 @@
 // becomes one instruction over a set; other counted loops are unrolled. Instructions that do the
 // same and lead to the same are then kept once. Each branch and loop exit gets its first set: the
 // classes with which the rest can begin. The prefix classes follow from simulating all paths
-// through the program for up to eight code points. Bound: code is linear in the unrolled pattern,
-// at most 65,534 instructions, 256 kinds of repetition and 255 letters in a row; more throws
-// PatternError. Tests:
-// ScreeningEngine.AgreesWithIcuOnEveryConstruct (quantifiers, loops over one code point),
+// through the program for up to eight code points.
+// Bound: code is linear in the unrolled pattern, at most 65,534 instructions, 256 kinds of
+// repetition and 255 letters in a row; more throws PatternError.
+// Tests: ScreeningEngine.AgreesWithIcuOnEveryConstruct (quantifiers, loops over one code point),
 // ScreeningEngine.AgreesWithIcuWhereItIsHard (equal ends),
 // ScreeningEngine.AgreesWithIcuOnEveryRule.
 

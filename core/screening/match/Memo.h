@@ -2,9 +2,9 @@
 //
 // Algorithm: two bits for each pair, in pages of one row and 4,096 positions that are allocated
 // when they are first written, since a text may lead few instructions far ahead. Pages well before
-// the current start are freed; a pair that is lost with them is explored once more. Bound: constant
-// time for each access. Memory: a quarter of a byte for each pair in a page. Tests:
-// ScreeningEngine.WorkGrowsLinearlyWithWhateverIsRepeated,
+// the current start are freed; a pair that is lost with them is explored once more.
+// Bound: constant time for each access; a quarter of a byte for each pair in a page.
+// Tests: ScreeningEngine.WorkGrowsLinearlyWithWhateverIsRepeated,
 // ScreeningEngine.AgreesWithIcuOnEveryConstruct (texts of more than one page).
 
 #pragma once

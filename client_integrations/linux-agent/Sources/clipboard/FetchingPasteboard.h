@@ -18,12 +18,13 @@ namespace quillseal::linux {
 /// change: it may be the first step of the next copy.
 class FetchingPasteboard : public desktop::Pasteboard {
  public:
-  /// Limits of a fetch: the owner's silence, the whole time, and the size.
+  /// Limits of a fetch.
   struct Patience {
-    /// A word processor may take seconds to render a long document for each format.
+    /// The longest time in which the owner sends nothing. A word processor may take seconds to
+    /// render a long document for each format.
     std::chrono::milliseconds silence{5000};
-    std::chrono::milliseconds transfer{20000};
-    std::size_t largest = std::size_t{64} * 1024 * 1024;  ///< bytes
+    std::chrono::milliseconds transfer{20000};            ///< of all formats together
+    std::size_t largest = std::size_t{64} * 1024 * 1024;  ///< bytes of one format
   };
 
   [[nodiscard]] std::int64_t changeCount() const override { return changeCount_; }

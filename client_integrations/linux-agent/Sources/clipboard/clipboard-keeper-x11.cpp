@@ -33,10 +33,11 @@ using quillseal::linux::Descriptors;
 
 using std::chrono::steady_clock;
 
-/// An offer that ends may stay silent, and the desktop needs a moment to put its own copy there.
+/// How long to wait for the offer of the agent to end. Its end may not be reported, and the desktop
+/// needs a moment to put its own copy on the clipboard.
 constexpr std::chrono::seconds longestEnd{10};
 constexpr std::chrono::milliseconds pauseBetweenLooks{100};
-/// What is longer goes in pieces. The server takes requests of 256 KiB at least.
+/// Longer texts are sent in pieces (ICCCM, section 2.7.2). Every server takes requests of 256 KiB.
 constexpr std::size_t longestPiece = std::size_t{64} * 1024;
 constexpr std::uint8_t bits8 = 8;
 constexpr std::uint8_t bits32 = 32;
@@ -184,12 +185,13 @@ bool Offer::take(xcb_timestamp_t time) {
   return x11::ownerOf(connection_.get(), clipboard_) == window_;
 }
 
-/// The conventions want a time for taking a selection, and the server tells it with each change.
+/// Returns the server's time, with which the ICCCM demands that a selection is taken: the server
+/// reports it with each change of a property.
 xcb_timestamp_t Offer::timeOfServer() const {
   xcb_change_property(connection_.get(), XCB_PROP_MODE_APPEND, window_, XCB_ATOM_WM_CLASS,
                       XCB_ATOM_STRING, bits8, 0, nullptr);
   xcb_flush(connection_.get());
-  // After an attempt that failed there may be events of the selection.
+  // Events of an earlier attempt to read the selection may come first.
   while (const x11::Reply<xcb_generic_event_t> event{xcb_wait_for_event(connection_.get())})
     if (event->response_type == XCB_PROPERTY_NOTIFY)
       return as<xcb_property_notify_event_t>(*event).time;
@@ -223,7 +225,7 @@ void Offer::handle(const xcb_generic_event_t& event) {
 }
 
 void Offer::answer(const xcb_selection_request_event_t& request) {
-  // Old programs name no property.
+  // Obsolete clients name no property (ICCCM, section 2.2).
   const Place place{
       .window = request.requestor,
       .property = request.property == XCB_ATOM_NONE ? request.target : request.property};

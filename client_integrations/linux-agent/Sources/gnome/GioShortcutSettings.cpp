@@ -139,7 +139,7 @@ bool GioShortcutSettings::add(const CustomShortcut& shortcut) {
   const Settings own = settingsOf(custom, ownPath);
   const Settings list = settingsOf(mediaKeys);
   std::vector<std::string> paths = textsOf(list.get(), customList);
-  // The user may have taken its keys away only.
+  // If the user has only removed its keys, it is still in the list.
   if (std::ranges::find(paths, ownPath) == paths.end()) paths.emplace_back(ownPath);
   std::vector<const char*> pointers;
   pointers.reserve(paths.size() + 1);

@@ -10,8 +10,8 @@
 
 namespace quillseal::linux {
 
-/// The hotkey where the compositor has none: through the portal where it has hotkeys, else as a
-/// shortcut in GNOME's keyboard settings.
+/// The hotkey on desktops that are used through their portal: from the portal if it offers hotkeys,
+/// else a shortcut in GNOME's keyboard settings.
 class DesktopHotkey {
  public:
   /// Both outlive this object.

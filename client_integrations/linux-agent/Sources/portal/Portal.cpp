@@ -110,7 +110,7 @@ PortalOffer offerOfPortal(DesktopBus& bus, std::chrono::milliseconds patience) {
   offer.globalShortcuts = version("org.freedesktop.portal.GlobalShortcuts");
   offer.clipboard = version("org.freedesktop.portal.Clipboard");
   if (offer != PortalOffer{}) introduce(bus, deadline, offer);
-  // A part of an offer would lead to another desktop's ways.
+  // With only a part of the versions, the agent would be set up for another kind of desktop.
   return isSilent() ? PortalOffer{.isSilent = true} : offer;
 }
 

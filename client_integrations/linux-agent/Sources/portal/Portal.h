@@ -26,7 +26,7 @@ struct PortalOffer {
   bool operator==(const PortalOffer&) const = default;
 };
 
-/// Asks the portal, and introduces this program. A portal that does not run is started if
+/// Asks the portal, and registers this program with it. A portal that does not run is started if
 /// `isRemoteDesktopInstalled`. Blocks for milliseconds where the portal answers or there is none,
 /// and for `patience` at most.
 ///
@@ -34,7 +34,7 @@ struct PortalOffer {
 /// that is hidden, as it is of the agent: so the bus is one of DesktopBus::openThrough.
 [[nodiscard]] PortalOffer offerOfPortal(DesktopBus& bus, std::chrono::milliseconds patience);
 
-/// The end of a request that the user may have been asked about.
+/// How a request ended.
 struct PortalAnswer {
   enum class Outcome { granted, refused, failed };
 

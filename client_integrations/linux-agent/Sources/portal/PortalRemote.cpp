@@ -20,12 +20,10 @@ constexpr std::uint32_t firstWithTokens = 2;  // a version of the interface
 
 constexpr const char* refusal =
     "Your desktop did not let Quillseal press keys or use the clipboard, which it needs to sign "
-    "the "
-    "text that you select. Try again, and allow it when the desktop asks.";
+    "the text that you select. Try again, and allow it when the desktop asks.";
 constexpr const char* ending =
     "Your desktop has ended the permission for Quillseal to press keys. Quillseal asks for it "
-    "again "
-    "at the next signature.";
+    "again at the next signature.";
 constexpr const char* absence =
     "The portal of your desktop does not let Quillseal in. Install the Debian package of Quillseal "
     "if it is not installed, or start Quillseal again.";

@@ -41,7 +41,7 @@ std::filesystem::path addressOfBus() {
   }
   constexpr std::string_view prefix = "unix:path=";
   const std::string first = address.substr(0, address.find_first_of(",;"));
-  // Escaped bytes are for names that nobody gives to a bus.
+  // Addresses with escaped bytes are not supported: no bus has such a name.
   const bool isPath = first.starts_with(prefix) && first.find('%') == std::string::npos;
   return isPath ? first.substr(prefix.size()) : std::string();
 }

@@ -17,8 +17,8 @@
 
 namespace quillseal::linux {
 
-/// The services that differ between X11 and Wayland. One implementation is chosen at the program's
-/// start. Main thread.
+/// The services that differ between desktops: X11, Wayland compositors, portals, GNOME up to 44.
+/// One implementation is chosen at the program's start. Main thread.
 class WindowingSystem {
  public:
   /// All outlive the windowing system.
@@ -27,9 +27,9 @@ class WindowingSystem {
     Descriptors& descriptors;
     DesktopEntries& entries;
     ShortcutSettings& shortcuts;
-    /// Tells the user why keys cannot be pressed in this session.
+    /// Shows an alert that says why keys cannot be pressed in this session (`limits`).
     std::function<void()> explain;
-    /// Tells the user something that needs no answer.
+    /// Shows a notification with this sentence.
     std::function<void(const std::string&)> tell;
     /// Found at each use, since they are made after the windowing system.
     std::function<desktop::Alerts&()> alerts;

@@ -21,8 +21,8 @@ class AgentKeyboard {
   /// before the compositor is asked for the active window, which may change meanwhile.
   virtual void prepare() = 0;
 
-  /// Whether keys go to the active window. False while something else gets them of which the
-  /// windows tell nothing, such as a locked screen or the overview of all windows.
+  /// Whether keys go to the active window. False while something that is no window gets them, such
+  /// as the lock screen or the overview of all windows.
   [[nodiscard]] virtual bool reachesActiveWindow() const = 0;
 
   /// Presses the keys in order and releases them in reverse order. Supports only the keys that

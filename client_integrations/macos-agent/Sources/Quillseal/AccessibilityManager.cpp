@@ -52,8 +52,8 @@ Task<> pollingPause(Services services) {
   });
 }
 
-// Counts its looks, not the time: a process that was stopped for seconds has seen nothing
-// meanwhile, and what was copied then is reported to it only when it runs again.
+// Counts polls, not time: a process that was stopped for seconds has polled nothing meanwhile, and
+// learns of what was copied then only when it runs again.
 Task<bool> waitForChange(Services services, std::int64_t changeCount) {
   for (auto looks = longestWaitForCopy / pollingInterval; looks > 0; --looks) {
     if (services.pasteboard.changeCount() != changeCount) co_return true;
@@ -167,6 +167,7 @@ Task<Copy> copySelection(Services services,
 
 Task<Capture> captureSelectedContent(Services services) {
   if (!services.keys.isTrusted()) {
+    // Asked again, since the person may just have granted it.
     if (!services.keys.isTrusted()) services.keys.askForTrust();
     services.log.write("[capture] Accessibility permission not granted");
     co_return Capture{};

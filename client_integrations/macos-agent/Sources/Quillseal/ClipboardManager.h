@@ -27,7 +27,7 @@ struct Services {
 enum class AutoPaste {
   no,
   yes,
-  tooLate,  ///< not, since the person has been elsewhere meanwhile
+  tooLate,  ///< no, since the person may have gone to another window meanwhile
 };
 
 struct Injection {
@@ -60,8 +60,8 @@ struct Injected {
 };
 
 /// Replaces the clipboard by the signed block and, if asked, brings the source application to the
-/// front and pastes there; never into anything else that the desktop can tell from it. Waits up to
-/// a second for the desktop to take the block, and presses no key before that.
+/// front and pastes there. Pastes nowhere else, as far as the desktop tells windows apart. Waits up
+/// to a second for the desktop to take the block, and presses no key before that.
 /// Throws Error when the clipboard holds the block but the paste failed.
 /// REQUIRES: SignedBlock::isSafeIdentifier(signatureId).
 [[nodiscard]] Task<Injected> injectSignedContent(Services services, Injection injection,

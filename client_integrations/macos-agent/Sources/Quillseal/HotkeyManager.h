@@ -7,7 +7,7 @@
 
 namespace quillseal {
 
-/// The global hotkey Command-Option-Control-H, which signs the selected text. Main thread.
+/// The global hotkey (`desktop::signingHotkey`), which signs the selected text. Main thread.
 class HotkeyManager {
  public:
   struct Services {

@@ -57,7 +57,7 @@ constexpr std::string_view nothing() noexcept {
 inline constexpr Text serverURL{.key = "ServerURL", .fallback = BuiltInServer::url};
 /// What authorises this build at the server.
 inline constexpr Text apiKey{.key = "APIKey", .fallback = BuiltInServer::apiKey};
-/// The person whom the server knows this device by; unverified when empty.
+/// The name of the person that the server has bound to this device; unverified when empty.
 inline constexpr Text boundIdentity{.key = "BoundIdentity", .fallback = nothing};
 /// "enclave" or "handoff", once the first signature has shown which; see SigningMode.
 inline constexpr Decision signingMode{.key = "SigningMode"};
@@ -66,7 +66,7 @@ inline constexpr Decision signingMode{.key = "SigningMode"};
 inline constexpr Flag confirmBeforeSigning{.key = "ConfirmBeforeSigning"};
 /// Whether signatures are demonstrations only.
 inline constexpr Flag demoSigning{.key = "DemoSigning"};
-/// Whether the text that is signed is written to a file, for those who look for a fault.
+/// Whether each captured text is written to a file, for debugging.
 inline constexpr Flag debugCapture{.key = "QuillsealDebugCapture"};
 
 }  // namespace quillseal::Settings

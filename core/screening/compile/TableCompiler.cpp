@@ -1,21 +1,26 @@
 // Compiles many patterns to the tables of one `ScreeningEngine`.
 //
 // Algorithm: parse all patterns, split those that consist of look-aheads over the whole text into
-// independent searches, build one partition of classes, one program for each search and one literal
-// index for all. For each alternative of a search, the cheaper prefilter is taken: its
-// required-literal sequences, or the prefix classes of its first eight code points.
+// independent searches, make the alternatives that several patterns have a search that these share,
+// build one partition of classes, one program for each search and one literal index for all. For
+// each alternative of a search, the cheaper prefilter is taken: its required-literal sequences, or
+// the prefix classes of its first eight code points.
 // Bound: three seconds for 217 patterns; at build time only.
-// Tests: ScreeningEngine.AgreesWithIcuOnEveryConstruct (look-aheads over the whole text),
+// Tests: ScreeningEngine.AgreesWithIcuOnEveryConstruct (look-aheads over the whole text, shared
+// alternatives), ScreeningEngine.WhatPatternsShareIsSearchedForOnce,
 // ScreeningEngine.ReportsPatternsItCannotUseAndKeepsTheOthers.
 
 #include "core/screening/compile/TableCompiler.h"
 
 #include <algorithm>
 #include <functional>
+#include <iterator>
 #include <limits>
 #include <map>
 #include <numeric>
 #include <optional>
+#include <unordered_map>
+#include <utility>
 
 #include "core/screening/compile/ClassPartition.h"
 #include "core/screening/compile/CommonWords.h"
@@ -46,11 +51,14 @@ Number narrowed(std::size_t value) {
 
 // ---- From patterns to searches
 
-/// A pattern, or a part of one that is searched for by itself.
+/// A pattern, or a part of one or several that is searched for by itself.
 struct Part {
   Node node;
   bool anyMatch = false;  ///< whether there is a match is all that matters
-  std::size_t pattern = 0;
+  std::vector<std::size_t> patterns{};
+  /// Of the alternatives that are left to the pattern alone, their places among all of its `all`.
+  std::optional<std::vector<std::size_t>> places{};
+  std::size_t all = 0;
 };
 
 /// How the matches of a pattern follow from those of its parts.
@@ -109,6 +117,86 @@ std::optional<Composition> lookAheadsOf(const Node& node, const SetTable& sets) 
   composition.main = withoutFirst(node, next + 1);
   return composition;
 }
+
+// ---- Alternatives that patterns share
+
+bool hasTextStart(const Node& node) {
+  return node.kind == Node::Kind::textStart || std::ranges::any_of(node.children, hasTextStart);
+}
+
+struct NodeHash {
+  std::size_t operator()(const Node* node) const {
+    std::size_t hash = std::hash<std::u32string>()(node->text);
+    const auto add = [&hash](std::size_t value) { hash = hash * 1'000'003 + value; };
+    for (const std::size_t value : {static_cast<std::size_t>(node->kind), node->set,
+                                    std::size_t{node->min}, std::size_t{node->max}})
+      add(value);
+    for (const Node& child : node->children)
+      add((*this)(&child));
+    return hash;
+  }
+};
+
+struct NodeEqual {
+  bool operator()(const Node* one, const Node* other) const { return *one == *other; }
+};
+
+/// Where an alternative stands: the part, and its number there.
+struct Place {
+  std::size_t part = 0;
+  std::size_t alternative = 0;
+
+  [[nodiscard]] Place after(std::size_t count) const { return {part, alternative + count}; }
+  bool operator==(const Place&) const = default;
+};
+
+/// Finds the runs of alternatives that stand side by side in the same parts.
+class SharedAlternatives {
+ public:
+  explicit SharedAlternatives(std::span<const Part> parts) : parts_(parts) {
+    for (std::size_t part = 0; part < parts.size(); ++part) {
+      mayShare_.push_back(mayShare(parts[part]));
+      if (!mayShare_.back()) continue;
+      const std::vector<Node>& alternatives = parts[part].node.children;
+      for (std::size_t i = 0; i < alternatives.size(); ++i) {
+        std::vector<Place>& places = places_[&alternatives[i]];
+        if (places.empty() || places.back().part != part) places.push_back({part, i});
+      }
+    }
+  }
+
+  /// All parts that have this alternative, each once; fewer than two if it is not shared.
+  [[nodiscard]] std::vector<Place> placesOf(const Place& place) const {
+    if (!mayShare_[place.part]) return {};
+    const auto& alternatives = parts_[place.part].node.children;
+    if (place.alternative >= alternatives.size()) return {};
+    const std::vector<Place>& places = places_.at(&alternatives[place.alternative]);
+    return std::ranges::find(places, place) == places.end() ? std::vector<Place>() : places;
+  }
+
+  /// How many alternatives from `places` on stand side by side in all of them and nowhere else.
+  [[nodiscard]] std::size_t runFrom(const std::vector<Place>& places) const {
+    std::size_t count = 1;
+    const auto areNext = [&](const std::vector<Place>& next) {
+      return std::ranges::equal(places, next, [&](const Place& first, const Place& later) {
+        return first.after(count) == later;
+      });
+    };
+    while (areNext(placesOf(places.front().after(count))))
+      ++count;
+    return count;
+  }
+
+ private:
+  // A search that may match at the start of the text tries its alternatives together there.
+  static bool mayShare(const Part& part) {
+    return part.node.kind == Node::Kind::alternatives && !part.anyMatch && !hasTextStart(part.node);
+  }
+
+  std::span<const Part> parts_;
+  std::vector<bool> mayShare_;  ///< by part
+  std::unordered_map<const Node*, std::vector<Place>, NodeHash, NodeEqual> places_;
+};
 
 // ---- The literals that lead to a search
 
@@ -300,6 +388,7 @@ class TableCompiler {
         leaveOut(i, error);
       }
     }
+    std::vector<SearchTraits> searches = shareAlternatives();
     std::vector<char32_t> alphabet;
     for (const Part& part : parts_)
       collectAlphabet(part.node, sets_, alphabet);
@@ -308,13 +397,15 @@ class TableCompiler {
     SequenceTables sequences(classSets);
     PrefixTables prefix(classes, classSets);
     for (const Part& part : parts_) {
-      table_.searches.push_back({.anyMatch = part.anyMatch});
+      table_.searches.push_back(searches[programs_.size()]);
       programs_.emplace_back();
       try {
         programs_.back() = compileProgram(part.node, classes, classSets);
-        addWaysToFind(part.node, classes, sequences, prefix);
+        spreadEntries(part);
+        addWaysToFind(part, classes, sequences, prefix);
       } catch (const PatternError& error) {
-        leaveOut(part.pattern, error);
+        for (const std::size_t pattern : part.patterns)
+          leaveOut(pattern, error);
       }
     }
 
@@ -347,7 +438,7 @@ class TableCompiler {
             .forbidden = narrowed<std::uint16_t>(composition.forbidden.size()),
             .fromTextStart = composition.fromTextStart};
     const auto addPart = [&](Node part, bool anyMatch) {
-      parts_.push_back({.node = std::move(part), .anyMatch = anyMatch, .pattern = pattern});
+      parts_.push_back({.node = std::move(part), .anyMatch = anyMatch, .patterns = {pattern}});
       return narrowed<std::uint16_t>(parts_.size() - 1);
     };
     for (std::vector<Node>* parts : {&composition.required, &composition.forbidden})
@@ -356,7 +447,74 @@ class TableCompiler {
     if (composition.main) form.main = addPart(std::move(*composition.main), false);
   }
 
+  /// Makes each run of shared alternatives a part of its own. Returns the traits of all searches.
+  std::vector<SearchTraits> shareAlternatives() {
+    const std::size_t own = parts_.size();
+    std::vector<std::vector<std::size_t>> kept(own);
+    std::vector<std::vector<std::uint16_t>> shared(own);
+    std::vector<Part> added;
+    std::vector<SearchTraits> traits(own);
+    const SharedAlternatives all(parts_);
+    for (std::size_t part = 0; part < own; ++part) {
+      traits[part].anyMatch = parts_[part].anyMatch;
+      for (std::size_t i = 0; i < parts_[part].node.children.size();) {
+        const std::vector<Place> places = all.placesOf({part, i});
+        if (places.size() < 2) {
+          kept[part].push_back(i++);
+          continue;
+        }
+        const std::size_t count = all.runFrom(places);
+        if (places.front().part == part) {
+          const auto& alternatives = parts_[part].node.children;
+          const auto first = alternatives.begin() + static_cast<std::ptrdiff_t>(i);
+          Part run{.node = {.kind = Node::Kind::alternatives}};
+          run.node.children.assign(first, first + static_cast<std::ptrdiff_t>(count));
+          traits.push_back({.firstUser = narrowed<std::uint16_t>(table_.users.size()),
+                            .users = narrowed<std::uint16_t>(places.size())});
+          for (const Place& place : places) {
+            table_.users.push_back(
+                {.search = narrowed<std::uint16_t>(place.part),
+                 .firstAlternative = narrowed<std::uint16_t>(place.alternative)});
+            run.patterns.push_back(parts_[place.part].patterns.front());
+            shared[place.part].push_back(narrowed<std::uint16_t>(own + added.size()));
+          }
+          added.push_back(std::move(run));
+        }
+        i += count;
+      }
+    }
+    for (std::size_t part = 0; part < own; ++part) {
+      traits[part].firstShared = narrowed<std::uint16_t>(table_.sharedSearches.size());
+      traits[part].shared = narrowed<std::uint16_t>(shared[part].size());
+      table_.sharedSearches.insert(table_.sharedSearches.end(), shared[part].begin(),
+                                   shared[part].end());
+      if (!shared[part].empty()) keepOnly(kept[part], parts_[part]);
+    }
+    std::ranges::move(added, std::back_inserter(parts_));
+    return traits;
+  }
+
+  static void keepOnly(const std::vector<std::size_t>& places, Part& part) {
+    part.all = part.node.children.size();
+    std::vector<Node> children = std::exchange(part.node.children, {});
+    for (const std::size_t place : places)
+      part.node.children.push_back(std::move(children[place]));
+    part.places = places;
+  }
+
+  /// The alternatives of the latest search keep their numbers; nothing leads to those between.
+  void spreadEntries(const Part& part) {
+    if (!part.places) return;
+    auto& entries = programs_.back().entries;
+    std::vector<ProgramEntry> spread(part.all + 1);
+    spread.front() = entries.front();
+    for (std::size_t i = 0; i < part.places->size(); ++i)
+      spread[(*part.places)[i] + 1] = entries[i + 1];
+    entries = std::move(spread);
+  }
+
   void leaveOut(std::size_t pattern, const PatternError& error) {
+    if (!table_.forms[pattern].isUsable) return;
     table_.forms[pattern] = {.isUsable = false};
     problems_.push_back({.pattern = pattern, .reason = error.what()});
   }
@@ -369,11 +527,17 @@ class TableCompiler {
   }
 
   /// Of the latest search.
-  void addWaysToFind(const Node& node, const ClassPartition& classes, SequenceTables& sequences,
+  void addWaysToFind(const Part& part, const ClassPartition& classes, SequenceTables& sequences,
                      PrefixTables& prefix) {
     const auto search = static_cast<std::uint32_t>(programs_.size() - 1);
     const PatternProgram<Owned>& program = programs_.back();
-    const RequiredLiterals required = requiredLiterals(node, sets_, classes);
+    RequiredLiterals required = requiredLiterals(part.node, sets_, classes);
+    if (part.places) {
+      for (std::size_t& alternative : required.withoutLiterals)
+        alternative = (*part.places)[alternative];
+      for (RequiredSequence& sequence : required.sequences)
+        sequence.alternative = (*part.places)[sequence.alternative];
+    }
     for (const std::size_t alternative : required.withoutLiterals)
       prefix.add(search, static_cast<std::uint32_t>(alternative), program);
     table_.searches.back().atTextStart = required.atTextStart;

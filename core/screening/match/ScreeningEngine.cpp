@@ -5,11 +5,13 @@
 // other, the starts before the first one are tried. Patterns without a selective literal are found
 // by the classes of their first code points, all advanced by one shift and one mask (Baeza-Yates
 // and Gonnet, "A new approach to text searching", 1992). The leftmost match wins, then the earliest
-// alternative.
+// alternative. A search for alternatives that several patterns share gives each of its matches to
+// all of them.
 // Bound: O(n) for a given set of patterns. A scan back over the text or over the candidates stops
 // where an earlier one began, and all starts of a search share the memo table.
-// Tests: ScreeningEngine.AgreesWithIcuOnEveryRule, .WorkGrowsLinearlyWithWhateverIsRepeated;
-// `scripts/fuzz 60 screening` compares the engine with ICU on any bytes.
+// Tests: ScreeningEngine.AgreesWithIcuOnEveryRule, .AgreesWithIcuOnEveryConstruct (shared
+// alternatives), .WorkGrowsLinearlyWithWhateverIsRepeated; `scripts/fuzz 60 screening` compares the
+// engine with ICU on any bytes.
 
 #include "core/screening/match/ScreeningEngine.h"
 
@@ -355,31 +357,63 @@ class ScreeningEngine::Screening {
   void tryAt(std::uint32_t search, std::uint32_t alternative, const ProgramEntry& entry,
              std::uint32_t start) {
     ++steps_;
-    const Outcome& outcome = outcomes_[search];
-    const bool isBetter =
-        start < outcome.start || (start == outcome.start && alternative < outcome.alternative);
-    if (isBetter && entry.firstSet.allows(text_, start, tables_.sets))
+    if (isBetter(outcomes_[search], start, alternative) &&
+        entry.firstSet.allows(text_, start, tables_.sets))
       match(search, alternative, entry, start);
+  }
+
+  [[nodiscard]] static bool isBetter(const Outcome& known, std::uint32_t start,
+                                     std::uint32_t alternative) {
+    return start < known.start || (start == known.start && alternative < known.alternative);
   }
 
   void match(std::uint32_t search, std::uint32_t alternative, const ProgramEntry& entry,
              std::uint32_t start) {
-    Outcome& outcome = outcomes_[search];
+    std::size_t end = text_.size();
+    bool failed = false;
     try {
-      const auto end = matcherOf(search).matchAt(entry, start, stack_);
-      if (!end) return;
-      outcome.end = static_cast<std::uint32_t>(*end);
+      const auto found = matcherOf(search).matchAt(entry, start, stack_);
+      if (!found) return;
+      end = *found;
     } catch (const std::bad_alloc&) {
       stack_.clear();
-      outcome.end = static_cast<std::uint32_t>(text_.size());
-      outcome.failed = true;
+      failed = true;
     }
-    outcome.start = start;
-    outcome.alternative = alternative;
-    if (table_.searches[search].anyMatch) {
-      // Nothing comes before this, so nothing more is tried.
-      outcome.start = 0;
-      outcome.alternative = 0;
+    const auto take = [&](std::uint32_t taker, std::uint32_t as) {
+      Outcome& outcome = outcomes_[taker];
+      if (!isBetter(outcome, start, as)) return;
+      outcome.start = start;
+      outcome.alternative = as;
+      outcome.end = static_cast<std::uint32_t>(end);
+      outcome.failed = outcome.failed || failed;
+      if (table_.searches[taker].anyMatch) {
+        // Nothing comes before this, so nothing more is tried.
+        outcome.start = 0;
+        outcome.alternative = 0;
+      }
+    };
+    take(search, alternative);
+    const SearchTraits& traits = table_.searches[search];
+    for (const SearchUser& user : table_.users.subspan(traits.firstUser, traits.users)) {
+      take(user.search, user.firstAlternative + alternative);
+      limitSharedOf(user.search);
+    }
+    limitSharedOf(search);
+  }
+
+  /// Ends shared searches where all their users have found a match.
+  void limitSharedOf(std::uint32_t user) {
+    const SearchTraits& traits = table_.searches[user];
+    for (const std::uint16_t shared :
+         table_.sharedSearches.subspan(traits.firstShared, traits.shared)) {
+      const SearchTraits& its = table_.searches[shared];
+      std::uint32_t last = 0;
+      for (const SearchUser& each : table_.users.subspan(its.firstUser, its.users))
+        last = std::max(last, outcomes_[each.search].start);
+      Outcome& outcome = outcomes_[shared];
+      if (last >= outcome.start) continue;
+      outcome.start = last;
+      outcome.alternative = none;
     }
   }
 

@@ -94,8 +94,18 @@ struct PrefixEnd {
 
 /// How a search is made, besides its program.
 struct SearchTraits {
-  bool atTextStart = false;  ///< a match may start at 0 without any literal
-  bool anyMatch = false;     ///< whether there is a match is all that matters
+  std::uint16_t firstUser = 0;    ///< in `users`
+  std::uint16_t users = 0;        ///< of a search for alternatives that several patterns share
+  std::uint16_t firstShared = 0;  ///< in `sharedSearches`
+  std::uint16_t shared = 0;       ///< searches that this one is a user of
+  bool atTextStart = false;       ///< a match may start at 0 without any literal
+  bool anyMatch = false;          ///< whether there is a match is all that matters
+};
+
+/// A search that takes over the matches of a shared one.
+struct SearchUser {
+  std::uint16_t search = 0;
+  std::uint16_t firstAlternative = 0;  ///< there, of the first one that is shared
 };
 
 /// How the matches of a pattern follow from its searches.
@@ -119,6 +129,8 @@ struct ScreeningTable {
   Array<LiteralSequence> sequences;
   std::uint64_t elementCount = 0;
   Array<SearchTraits> searches;
+  Array<SearchUser> users;
+  Array<std::uint16_t> sharedSearches;
   Array<Form> forms;  ///< by pattern
   Array<std::uint16_t> formSearches;
 
@@ -131,7 +143,8 @@ struct ScreeningTable {
   Array<PrefixEnd> maybeEmpty;  ///< those that may match without a code point
 
   void transfer(auto& archive) {
-    archive(variants, firstVariants, sequences, elementCount, searches, forms, formSearches);
+    archive(variants, firstVariants, sequences, elementCount, searches, users, sharedSearches);
+    archive(forms, formSearches);
     archive(prefixInitial, prefixMasks, prefixFinal, prefixEnds, maybeEmpty);
   }
 };

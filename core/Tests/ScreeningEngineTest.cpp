@@ -262,6 +262,11 @@ TEST(ScreeningEngine, WhatPatternsShareIsSearchedForOnce) {
             stepsOf({"walrus|" + shared, "lynx"}, text));
 }
 
+// The stretches that the loop reaches overlap in all but three places.
+TEST(ScreeningEngine, WhatALoopReachesIsPassedOnce) {
+  EXPECT_LT(stepsOf({"\\bab\\s[\\s\\S]{0,400}\\b[a-z]\\d"}, repeated("ab ", 60'000)), 60'000U * 15);
+}
+
 // Each loop reaches 200 places, and what follows it takes 60 steps. So without memory each of its
 // starts costs 12,000.
 TEST(ScreeningEngine, WhatFollowsALoopIsExploredOnceAtEachPlace) {

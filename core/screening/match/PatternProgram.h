@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -133,6 +134,42 @@ struct BacktrackFrame {
 /// Shared by the matchers of one screening; each leaves it as it was.
 using BacktrackStack = std::vector<BacktrackFrame>;
 
+/// Adjacent places of a text, both ends included; empty at first.
+struct Stretch {
+  std::uint32_t low = 1;
+  std::uint32_t high = 0;
+
+  [[nodiscard]] bool contains(std::size_t place) const { return low <= place && place <= high; }
+  [[nodiscard]] bool touches(const Stretch& other) const {
+    return low <= high && other.low <= other.high && low <= other.high + 1 && other.low <= high + 1;
+  }
+  [[nodiscard]] Stretch with(const Stretch& other) const {
+    return {.low = std::min(low, other.low), .high = std::max(high, other.high)};
+  }
+  [[nodiscard]] std::uint32_t size() const { return high + 1 - low; }
+};
+
+/// What is known of a greedy loop, as stretches of the text, so that what overlaps is passed at
+/// once.
+class LoopMemo {
+ public:
+  /// The end of what the loop is known to take from `position` on; `position` if nothing is known.
+  [[nodiscard]] std::size_t reachFrom(std::size_t position) const {
+    return reach_.contains(position) ? reach_.high : position;
+  }
+  void storeReach(std::size_t from, std::size_t to);
+
+  /// Moves `at` down, at most to `low`, to the next place from which what follows may not fail.
+  /// False when there is none.
+  [[nodiscard]] bool passFailures(std::size_t low, std::size_t& at) const;
+  void storeFailures(std::size_t low, std::size_t high);
+
+ private:
+  Stretch reach_;   ///< the loop takes each code point but the last
+  Stretch latest_;  ///< leaving the loop fails; grows downwards, since exits are tried from the end
+  Stretch known_;   ///< likewise, of earlier entries
+};
+
 /// What the runs of one program over one text share.
 struct MatcherState {
   const PatternProgram<Stored>& program;
@@ -143,6 +180,7 @@ struct MatcherState {
   Memo memo;
   std::uint64_t steps = 0;
   bool isMemoizing = false;
+  std::vector<LoopMemo> loops{};  ///< by the first row of the loop; from then on
 };
 
 /// Runs one program over one text. Tries alternatives in order and backtracks on failure, as ICU

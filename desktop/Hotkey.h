@@ -29,12 +29,16 @@ class Hotkey {
   /// do.
   virtual void registerHotkey(KeyPress combination, std::function<void()> pressed) = 0;
 
-  /// The state now. Does not block.
+  /// The state as far as it is known. Does not block.
   [[nodiscard]] virtual HotkeyState state() const { return {}; }
 
   /// Calls `changed` whenever the state has changed as far as the desktop tells. The last observer
   /// replaces the one before. The ticket is dropped before this object is destroyed.
   [[nodiscard]] virtual Ticket observe(std::function<void()> /*changed*/) { return {}; }
+
+  /// Looks for a change that the desktop does not report, and tells the observer of one. To be
+  /// called before the user sees the settings.
+  virtual void refresh() {}
 
   /// Asks the user for a hotkey that is off, and tells them what came of it. Does not wait for the
   /// answer.

@@ -209,20 +209,52 @@ TEST(GnomeHotkeys, RunTheProgramWhateverItsPath) {
   static_cast<void>(user.registered("/opt/it's mine/quillseal"));
   EXPECT_THAT(user.trace,
               ElementsAre(_, _, "add <Control><Alt><Super>h '/opt/it'\\''s mine/quillseal' --sign",
-                          HasSubstr("could not be added")));
+                          HasSubstr("could not be added"), "set ShortcutKeys = none"));
 }
 
 TEST(GnomeHotkeys, AreNamedAsTheUserHasBoundThem) {
   ScriptedUser user;
-  const auto hotkey = user.registered();
+  auto hotkey = user.registered();
+  bool isOpened = false;  // rather than pressed
   for (const auto& [keys, name] : testing::cases<std::string, std::string>()) {
+    const desktop::HotkeyState expected{.otherKeys = name, .isOff = keys.empty()};
     int changes = 0;
-    const desktop::Ticket watch = hotkey->observe([&] { ++changes; });
+    desktop::Ticket watch = hotkey->observe([&] { ++changes; });
     user.bound = keys;
     user.loop.leap(std::chrono::hours(1));
-    EXPECT_TRUE(hotkey->isNewPress());
+    if (isOpened)
+      hotkey->refresh();
+    else
+      static_cast<void>(hotkey->isNewPress());
+    isOpened = !isOpened;
     EXPECT_EQ(changes, 1) << keys;
-    EXPECT_EQ(hotkey->state(), (desktop::HotkeyState{.otherKeys = name, .isOff = keys.empty()}));
+    EXPECT_EQ(hotkey->state(), expected);
+    user.reads = 0;
+    watch = {};
+    hotkey = user.registered();
+    EXPECT_EQ(hotkey->state(), expected) << "after a new start";
+    EXPECT_EQ(user.reads, 0) << "the start needs no GIO";
+  }
+}
+
+// An older version stored no keys.
+TEST(GnomeHotkeys, AreReadOnceWhereNoneOrBadOnesAreStored) {
+  for (const std::string& stored :
+       {std::string(), std::string("<Super>F5, and more"), std::string(101, 'a')}) {
+    ScriptedUser user;
+    user.bound = "<Super>F6";
+    user.defaults.strings = {{"ShortcutOffered", "true"}, {"ShortcutKeys", stored}};
+    for (int start = 0; start < 2; ++start)
+      EXPECT_EQ(user.registered()->state().otherKeys, "Super+F6") << stored;
+    EXPECT_EQ(user.reads, 1);
+    EXPECT_THAT(user.trace, ElementsAre("set ShortcutKeys = <Super>F6"));
+    user.bound = "<Super>F7\nServerURL=elsewhere";  // which the user may have written there
+    user.registered()->refresh();
+    EXPECT_EQ(user.trace.size(), 1);
+    user.isBroken = true;
+    const auto hotkey = user.registered();
+    hotkey->refresh();
+    EXPECT_EQ(hotkey->state().otherKeys, "Super+F6");
   }
 }
 

@@ -81,6 +81,8 @@ TEST_F(PortalSystemTest, ElseAsksForAShortcutInTheUsersSettings) {
   begin({});
   const auto asked = StartsWith("ask: Add Ctrl+Alt+Super+H to Your Keyboard Settings?");
   const std::string kept = "set ShortcutOffered = true";
+  const std::string off = "set ShortcutKeys = none";
+  const std::string on = "set ShortcutKeys = <Control><Alt><Super>h";
   const std::string added = "add <Control><Alt><Super>h " +
                             QCoreApplication::applicationFilePath().toStdString() + " --sign";
   const auto start = [this] {
@@ -106,11 +108,13 @@ TEST_F(PortalSystemTest, ElseAsksForAShortcutInTheUsersSettings) {
   user.bound = "<Super><Shift>F5";
   EXPECT_TRUE(start());
   EXPECT_EQ(system->hotkey().state().otherKeys, "Shift+Super+F5");
+  EXPECT_THAT(user.trace, ElementsAre(kept, "set ShortcutKeys = <Super><Shift>F5"));
   user.bound.clear();
   user.state = ShortcutState::missing;
+  user.defaults.strings.clear();  // another user
   user.alerts.answer = desktop::Answer::cancelled;
   EXPECT_TRUE(start());
-  EXPECT_THAT(user.trace, ElementsAre(asked, kept));
+  EXPECT_THAT(user.trace, ElementsAre(asked, kept, off));
   EXPECT_TRUE(start());
   EXPECT_THAT(user.trace, IsEmpty());
   EXPECT_TRUE(isOff());
@@ -119,7 +123,7 @@ TEST_F(PortalSystemTest, ElseAsksForAShortcutInTheUsersSettings) {
   system->hotkey().askAgain();
   EXPECT_FALSE(isOff());
   user.loop.run();
-  EXPECT_THAT(user.trace, ElementsAre(asked, kept, added));
+  EXPECT_THAT(user.trace, ElementsAre(asked, kept, added, on));
   EXPECT_FALSE(start());
   EXPECT_THAT(user.trace, IsEmpty());
 
@@ -134,9 +138,11 @@ TEST_F(PortalSystemTest, ElseAsksForAShortcutInTheUsersSettings) {
   EXPECT_GE(loop.now() - press, 700ms);
 
   user.bound.clear();  // removed by the user
-  EXPECT_TRUE(start());
-  EXPECT_THAT(user.trace, IsEmpty());
+  EXPECT_FALSE(start());
+  system->hotkey().refresh();
+  EXPECT_THAT(user.trace, ElementsAre(off));
   EXPECT_TRUE(isOff());
+  user.trace.clear();
   user.state = ShortcutState::taken;
   system->hotkey().askAgain();
   EXPECT_THAT(user.trace, ElementsAre(AllOf(StartsWith("notify: "), HasSubstr("already uses"))));

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "FakeDesktop.h"
+#include "core/text/Error.h"
 #include "gnome/ShortcutSettings.h"
 
 namespace quillseal::testing {
@@ -14,9 +15,18 @@ struct ScriptedUser : Record, linux::ShortcutSettings {
   linux::ShortcutState state = linux::ShortcutState::missing;
   std::string bound;  ///< the keys of the agent's shortcut
   bool canAdd = true;
+  bool isBroken = false;  ///< GIO cannot be loaded
+  int reads = 0;          ///< of the settings
 
-  linux::ShortcutState stateOf(const linux::CustomShortcut& /*shortcut*/) override { return state; }
-  std::string keys() override { return bound; }
+  linux::ShortcutState stateOf(const linux::CustomShortcut& /*shortcut*/) override {
+    ++reads;
+    return state;
+  }
+  std::string keys() override {
+    ++reads;
+    if (isBroken) throw Error({.domain = "test", .code = 1, .description = "broken"});
+    return bound;
+  }
   bool add(const linux::CustomShortcut& shortcut) override {
     trace.push_back("add " + shortcut.keys + " " + shortcut.command);
     if (canAdd) bound = shortcut.keys;

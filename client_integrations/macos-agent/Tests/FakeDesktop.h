@@ -208,6 +208,7 @@ struct FakeHotkey final : Fake<desktop::Hotkey> {
     changed = std::move(observer);
     return Ticket([this] { changed = nullptr; });
   }
+  void refresh() override { changed(); }
   void askAgain() override { record.trace.emplace_back("ask for the hotkey again"); }
   void registerHotkey(desktop::KeyPress combination, std::function<void()> action) override {
     if (failure) throw Error(*failure);

@@ -14,8 +14,11 @@
 namespace quillseal::linux {
 namespace {
 
-/// Set once the user has answered, whatever the answer.
+/// Set once the user has answered, whatever the answer, or has the shortcut.
 constexpr const char* wasOffered = "ShortcutOffered";
+/// The keys last seen, as GTK writes them, or `noKeys`.
+constexpr const char* seenKeys = "ShortcutKeys";
+constexpr const char* noKeys = "none";
 
 /// GNOME repeats the command of held keys, after 500 ms unless the user chose another delay.
 constexpr std::chrono::milliseconds assumedHold{700};
@@ -37,6 +40,15 @@ std::string quoted(const std::string& path) {
   for (const char c : path)
     result += c == '\'' ? std::string("'\\''") : std::string(1, c);
   return result + "'";
+}
+
+/// Whether the text can be keys as GTK writes them. People may have written others, there or here.
+bool mayBeKeys(std::string_view text) {
+  constexpr std::size_t longest = 100;
+  return !text.empty() && text.size() <= longest && std::ranges::all_of(text, [](unsigned char c) {
+    return std::isalnum(c) != 0 ||
+           std::string_view("<>_").find(static_cast<char>(c)) != std::string_view::npos;
+  });
 }
 
 constexpr const char* askAdministrator =
@@ -74,28 +86,41 @@ GnomeHotkey::GnomeHotkey(Services services, std::string program)
 
 void GnomeHotkey::registerHotkey(desktop::KeyPress combination, std::function<void()> /*pressed*/) {
   combination_ = combination;
-  if (services_.defaults().boolean(wasOffered))
-    report();
-  else
-    offer();
+  const desktop::Defaults& defaults = services_.defaults();
+  if (!defaults.boolean(wasOffered)) return offer();
+  const std::string seen = defaults.string(seenKeys).value_or("");
+  if (!mayBeKeys(seen)) return read();
+  keys_ = seen == noKeys ? std::string() : seen;
+  report();
 }
 
 desktop::HotkeyState GnomeHotkey::state() const {
   if (!combination_ || isAsking_) return {};
-  std::string keys;
-  try {
-    keys = services_.settings.keys();
-  } catch (const Error&) {
-    return {};
-  }
-  if (keys.empty()) return {.otherKeys = {}, .isOff = services_.defaults().boolean(wasOffered)};
-  const std::string name = nameOfAccelerator(keys);
+  if (keys_.empty()) return {.otherKeys = {}, .isOff = services_.defaults().boolean(wasOffered)};
+  const std::string name = nameOfAccelerator(keys_);
   return {.otherKeys = name == nameOf(*combination_) ? std::string() : name, .isOff = false};
 }
 
 desktop::Ticket GnomeHotkey::observe(std::function<void()> changed) {
   changed_ = std::move(changed);
   return desktop::Ticket([this] { changed_ = nullptr; });
+}
+
+void GnomeHotkey::read() {
+  keys_ = services_.settings.keys();
+  desktop::Defaults& defaults = services_.defaults();
+  const std::string seen = keys_.empty() ? noKeys : keys_;
+  if (defaults.string(seenKeys) != seen && mayBeKeys(seen)) defaults.setString(seenKeys, seen);
+  report();
+}
+
+void GnomeHotkey::refresh() {
+  if (!combination_ || isAsking_) return;
+  try {
+    read();
+  } catch (const Error&) {
+    // Without GIO the keys last seen are the best that is known.
+  }
 }
 
 void GnomeHotkey::report() {
@@ -120,7 +145,8 @@ void GnomeHotkey::offer() {
   const std::string keys = nameOf(*combination_);
   switch (services_.settings.stateOf(shortcut)) {
     case ShortcutState::present:
-      return report();
+      services_.defaults().setString(wasOffered, "true");
+      return read();
     case ShortcutState::taken:
       fail(1, "Another shortcut of your desktop already uses " + keys + ".");
     case ShortcutState::locked:
@@ -151,7 +177,7 @@ void GnomeHotkey::offer() {
 bool GnomeHotkey::isNewPress() {
   const auto now = services_.loop.now();
   if (now <= std::exchange(lastCommand_, now) + longestRepeatDelay) return false;
-  report();
+  refresh();
   return true;
 }
 
@@ -165,7 +191,7 @@ void GnomeHotkey::answered(desktop::Answer answer, const CustomShortcut& shortcu
   const bool isAdded = answer == desktop::Answer::confirmed && services_.settings.add(shortcut);
   if (answer == desktop::Answer::confirmed && !isAdded)
     tell(std::string("The shortcut could not be added to your keyboard settings. ") + bindYourself);
-  report();
+  read();
 }
 
 void GnomeHotkey::tell(const std::string& problem) const {

@@ -34,9 +34,12 @@ class GnomeHotkey : public desktop::Hotkey {
   /// `pressed` is not called: the shortcut's command arrives as every command does.
   void registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) override;
 
-  /// The keys are read anew each time. Changes are reported at the next press.
+  /// The keys last seen, which are kept in the settings of the agent: GIO, with which GNOME's are
+  /// read, would take memory in every agent that waits. They are read again at each press and by
+  /// `refresh`.
   [[nodiscard]] desktop::HotkeyState state() const override;
   [[nodiscard]] desktop::Ticket observe(std::function<void()> changed) override;
+  void refresh() override;
   void askAgain() override;
 
   /// Whether a command to sign that has just arrived is a new one: GNOME repeats it while the keys
@@ -50,12 +53,14 @@ class GnomeHotkey : public desktop::Hotkey {
  private:
   void offer();
   void tell(const std::string& problem) const;
+  void read();
   void report();
   void answered(desktop::Answer answer, const CustomShortcut& shortcut);
 
   Services services_;
   std::string program_;
   std::optional<desktop::KeyPress> combination_;
+  std::string keys_;  ///< of the shortcut, as GTK writes them; empty for none
   desktop::Ticket question_;
   bool isAsking_ = false;
   std::function<void()> changed_;

@@ -71,7 +71,8 @@ void MenuBarManager::configureServer() {
         BuiltInServer::apiKey().empty() ? SettingsView::Build::development
                                         : SettingsView::Build::packaged);
   }
-  hotkeyChanged();  // the desktop may not have reported it
+  desktop_.hotkey.refresh();
+  settingsView_->refresh();  // for what else the desktop does not report
   settingsWindow_->bringToFront();
 }
 

@@ -193,6 +193,7 @@ struct ScriptedUser : testing::ScriptedUser {
     auto made = std::make_unique<GnomeHotkey>(
         GnomeHotkey::Services{.loop = loop,
                               .settings = *this,
+                              .areObeyed = [] { return true; },
                               .alerts = [this]() -> desktop::Alerts& { return alerts; },
                               .defaults = [this]() -> desktop::Defaults& { return defaults; }},
         path);

@@ -6,6 +6,7 @@
 
 #include <gmock/gmock.h>
 
+#include "BusServices.h"
 #include "PrivateBus.h"
 #include "RunUntil.h"
 #include "ScriptedPortal.h"
@@ -96,6 +97,19 @@ TEST_F(PortalSystemTest, ElseAsksForAShortcutInTheUsersSettings) {
   };
   const auto isOff = [this] { return system->hotkey().state().isOff; };
 
+  // Another desktop, where the user's answer on GNOME does not count.
+  user.defaults.strings = {{"ShortcutOffered", "true"}, {"ShortcutKeys", "<Super>F6"}};
+  user.bound = "<Super>F6";
+  EXPECT_THAT(start, ThrowsMessage<Error>(HasSubstr("gives programs no hotkey")));
+  system->hotkey().refresh();
+  EXPECT_THAT(system->hotkey().state().otherKeys, IsEmpty());
+  user.bound.clear();
+  user.defaults.strings.clear();
+
+  const testing::BusServices shell(::sd_bus_open_user, {"org.gnome.Shell"},
+                                   [](sd_bus_message*, const std::string&, sd_bus_error* error) {
+                                     return ::sd_bus_error_set(error, "a.b", "no extension");
+                                   });
   for (const auto& [state, part] : {std::pair{ShortcutState::locked, "administrator has locked"},
                                     {ShortcutState::taken, "already uses Ctrl+Alt+Super+H"},
                                     {ShortcutState::unsupported, "gives programs no hotkey"}}) {

@@ -59,6 +59,10 @@ constexpr const char* askAdministrator =
   throw Error({.domain = "GnomeHotkey", .code = code, .description = problem + " " + advice});
 }
 
+[[noreturn]] void failAsUnsupported() {
+  fail(2, "This desktop gives programs no hotkey.");
+}
+
 }  // namespace
 
 std::string acceleratorOf(desktop::KeyPress press) {
@@ -86,6 +90,8 @@ GnomeHotkey::GnomeHotkey(Services services, std::string program)
 
 void GnomeHotkey::registerHotkey(desktop::KeyPress combination, std::function<void()> /*pressed*/) {
   combination_ = combination;
+  // What the user answered on GNOME says nothing about another desktop.
+  if (!services_.areObeyed()) failAsUnsupported();
   const desktop::Defaults& defaults = services_.defaults();
   if (!defaults.boolean(wasOffered)) return offer();
   const std::string seen = defaults.string(seenKeys).value_or("");
@@ -115,7 +121,7 @@ void GnomeHotkey::read() {
 }
 
 void GnomeHotkey::refresh() {
-  if (!combination_ || isAsking_) return;
+  if (!combination_ || isAsking_ || !services_.areObeyed()) return;
   try {
     read();
   } catch (const Error&) {
@@ -143,6 +149,7 @@ void GnomeHotkey::offer() {
                                 .command = quoted(program_) + " --sign",
                                 .keys = acceleratorOf(*combination_)};
   const std::string keys = nameOf(*combination_);
+  if (!services_.areObeyed()) failAsUnsupported();
   switch (services_.settings.stateOf(shortcut)) {
     case ShortcutState::present:
       services_.defaults().setString(wasOffered, "true");
@@ -155,7 +162,7 @@ void GnomeHotkey::offer() {
            "cannot add its hotkey there.",
            askAdministrator);
     case ShortcutState::unsupported:
-      fail(2, "This desktop gives programs no hotkey.");
+      failAsUnsupported();
     case ShortcutState::missing:
       break;
   }

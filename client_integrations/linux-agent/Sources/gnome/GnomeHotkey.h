@@ -23,6 +23,8 @@ class GnomeHotkey : public desktop::Hotkey {
   struct Services {
     desktop::MainLoop& loop;
     ShortcutSettings& settings;
+    /// Whether the desktop obeys these settings, which another may have installed too.
+    std::function<bool()> areObeyed;
     /// Found at each use, since the desktop's services are made after this object.
     std::function<desktop::Alerts&()> alerts;
     std::function<desktop::Defaults&()> defaults;

@@ -4,6 +4,16 @@
 #include <utility>
 
 namespace quillseal::linux {
+namespace {
+
+/// Whether the desktop is GNOME, or one that uses its service for the keyboard settings. At log-in
+/// that service may still be starting.
+bool obeysSettingsOfGnome(DesktopBus& bus) {
+  return bus.knows("org.gnome.Shell").value_or(true) ||
+         bus.knows("org.gnome.SettingsDaemon.MediaKeys").value_or(true);
+}
+
+}  // namespace
 
 DesktopHotkey::DesktopHotkey(const WindowingSystem::Services& services, Sources sources)
     : extension_(sources.extension) {
@@ -19,11 +29,14 @@ DesktopHotkey::DesktopHotkey(const WindowingSystem::Services& services, Sources 
                                                        QByteArray::fromStdString(token));
                                              }});
   } else {
-    inSettings_.emplace(GnomeHotkey::Services{.loop = services.loop,
-                                              .settings = services.shortcuts,
-                                              .alerts = services.alerts,
-                                              .defaults = services.defaults},
-                        std::move(sources.program));
+    inSettings_.emplace(
+        GnomeHotkey::Services{
+            .loop = services.loop,
+            .settings = services.shortcuts,
+            .areObeyed = [&bus = sources.bus] { return obeysSettingsOfGnome(bus); },
+            .alerts = services.alerts,
+            .defaults = services.defaults},
+        std::move(sources.program));
   }
 }
 

@@ -14,8 +14,9 @@ namespace quillseal::linux {
 /// else a shortcut in GNOME's keyboard settings.
 class DesktopHotkey {
  public:
-  /// Both outlive this object.
+  /// All outlive this object.
   struct Sources {
+    DesktopBus& bus;
     Portal& portal;
     bool isInPortal;                  ///< the portal has hotkeys
     const ShellExtension* extension;  ///< which knows what the user holds; null for none

@@ -12,7 +12,8 @@ namespace quillseal::desktop {
 struct HotkeyState {
   /// Its keys as the desktop names them, where they are not those that were asked for; else empty.
   std::string otherKeys;
-  /// The user has refused or removed it. It stays off until `Hotkey::askAgain`.
+  /// There is none: the user has refused or removed it, or it could not be registered. It may stay
+  /// off until `Hotkey::askAgain`.
   bool isOff = false;
 
   bool operator==(const HotkeyState&) const = default;

@@ -182,7 +182,7 @@ TEST_F(KwinHotkeys, ArePressedOnceHoweverLongTheyAreHeld) {
   bus->serve(loop, loop);
   int presses = 0;
   {
-    KwinHotkey keys({.loop = loop, .bus = *bus});
+    KwinHotkey keys({.loop = loop, .bus = *bus, .tell = {}});
     keys.registerHotkey(desktop::signingHotkey, [&] { ++presses; });
     const auto registered = kde->calls();
     for (const char* signal : {"globalShortcutPressed", "globalShortcutPressed",
@@ -219,9 +219,14 @@ TEST_F(KwinHotkeys, SayWhyThereAreNone) {
               {{.answers = false}, "do not answer", "setInactive"}};
   for (const auto& row : rows) {
     ScriptedKde kde(row.script);
-    auto keys = std::make_unique<KwinHotkey>(KwinHotkey::Services{.loop = loop, .bus = *bus});
+    std::string told;
+    auto keys = std::make_unique<KwinHotkey>(KwinHotkey::Services{
+        .loop = loop, .bus = *bus, .tell = [&](const std::string& sentence) { told += sentence; }});
     EXPECT_THAT([&] { keys->registerHotkey(desktop::signingHotkey, [] {}); },
                 ThrowsMessage<Error>(AllOf(HasSubstr(row.part), HasSubstr("quillseal --sign"))));
+    keys->askAgain();
+    EXPECT_THAT(told, HasSubstr(row.part));
+    EXPECT_TRUE(keys->state().isOff);
     keys.reset();
     EXPECT_EQ(kde.calls().back(), row.lastCall);
   }
@@ -240,7 +245,7 @@ TEST_F(KwinHotkeys, AreNamedAsTheUserHasChosenThem) {
               {0x01000009, "the shortcut of your choice"}};  // Print
   for (const auto& row : rows) {
     ScriptedKde kde({.granted = row.keys});
-    KwinHotkey keys({.loop = loop, .bus = *bus});
+    KwinHotkey keys({.loop = loop, .bus = *bus, .tell = {}});
     keys.registerHotkey(desktop::signingHotkey, [] {});
     EXPECT_EQ(keys.state().otherKeys, row.name);
     bool isReported = false;
@@ -248,7 +253,15 @@ TEST_F(KwinHotkeys, AreNamedAsTheUserHasChosenThem) {
     kde.choose(0x04000051);
     testing::runUntil(loop, [&] { return isReported; });
     EXPECT_EQ(keys.state().otherKeys, "Ctrl+Q");
+    kde.choose(0);
+    testing::runUntil(loop, [&] { return keys.state().isOff; });
   }
+  ScriptedKde other({.granted = 0, .owner = "other"});
+  KwinHotkey keys({.loop = loop, .bus = *bus, .tell = {}});
+  EXPECT_THROW(keys.registerHotkey(desktop::signingHotkey, [] {}), Error);
+  const ScriptedKde freed({});
+  keys.askAgain();
+  EXPECT_EQ(keys.state(), desktop::HotkeyState());
 }
 
 TEST_F(KwinHotkeys, EndWithTheBus) {
@@ -256,7 +269,7 @@ TEST_F(KwinHotkeys, EndWithTheBus) {
   PollLoop loop;
   const auto bus = DesktopBus::open();
   bus->serve(loop, loop);
-  KwinHotkey keys({.loop = loop, .bus = *bus});
+  KwinHotkey keys({.loop = loop, .bus = *bus, .tell = {}});
   keys.registerHotkey(desktop::signingHotkey, [] {});
   kde.reset();
   sessionBus.reset();
@@ -301,7 +314,7 @@ TEST_F(KwinBus, DeliversASignalThatCameWhileAnAnswerWasAwaited) {
   const auto bus = DesktopBus::open();
   bus->serve(loop, loop);
   int presses = 0;
-  KwinHotkey keys({.loop = loop, .bus = *bus});
+  KwinHotkey keys({.loop = loop, .bus = *bus, .tell = {}});
   keys.registerHotkey(desktop::signingHotkey, [&] { ++presses; });
   EXPECT_NE(bus->call({.service = "org.freedesktop.ScreenSaver",
                        .path = "/",

@@ -139,11 +139,16 @@ std::string layoutWithH(int key) {
 
 struct Agent {
   [[nodiscard]] SwayHotkey::Services services(const std::string& socket) {
-    return {.loop = loop, .descriptors = loop, .connection = *connection, .socket = socket};
+    return {.loop = loop,
+            .descriptors = loop,
+            .connection = *connection,
+            .socket = socket,
+            .tell = [this](const std::string& sentence) { told += sentence; }};
   }
 
   PollLoop loop;
   std::unique_ptr<WaylandConnection> connection = WaylandConnection::open();
+  std::string told;
 };
 
 TEST(SwayHotkeyTest, IsPressedOnceHoweverLongItIsHeld) {
@@ -218,6 +223,10 @@ TEST(SwayHotkeyTest, SaysWhyThereIsNone) {
     EXPECT_THAT(
         [&] { keys.registerHotkey(hotkey, [] {}); },
         ::testing::ThrowsMessage<Error>(AllOf(HasSubstr(part), HasSubstr("quillseal --sign"))));
+    EXPECT_TRUE(keys.state().isOff);
+    keys.askAgain();
+    EXPECT_THAT(agent.told, HasSubstr(part));
+    EXPECT_TRUE(keys.state().isOff);
   }
 }
 

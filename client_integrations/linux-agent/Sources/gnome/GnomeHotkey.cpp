@@ -90,6 +90,15 @@ GnomeHotkey::GnomeHotkey(Services services, std::string program)
 
 void GnomeHotkey::registerHotkey(desktop::KeyPress combination, std::function<void()> /*pressed*/) {
   combination_ = combination;
+  try {
+    begin();
+  } catch (const Error&) {
+    turnOff();
+    throw;
+  }
+}
+
+void GnomeHotkey::begin() {
   // What the user answered on GNOME says nothing about another desktop.
   if (!services_.areObeyed()) failAsUnsupported();
   const desktop::Defaults& defaults = services_.defaults();
@@ -98,18 +107,6 @@ void GnomeHotkey::registerHotkey(desktop::KeyPress combination, std::function<vo
   if (!mayBeKeys(seen)) return read();
   keys_ = seen == noKeys ? std::string() : seen;
   report();
-}
-
-desktop::HotkeyState GnomeHotkey::state() const {
-  if (!combination_ || isAsking_) return {};
-  if (keys_.empty()) return {.otherKeys = {}, .isOff = services_.defaults().boolean(wasOffered)};
-  const std::string name = nameOfAccelerator(keys_);
-  return {.otherKeys = name == nameOf(*combination_) ? std::string() : name, .isOff = false};
-}
-
-desktop::Ticket GnomeHotkey::observe(std::function<void()> changed) {
-  changed_ = std::move(changed);
-  return desktop::Ticket([this] { changed_ = nullptr; });
 }
 
 void GnomeHotkey::read() {
@@ -130,9 +127,9 @@ void GnomeHotkey::refresh() {
 }
 
 void GnomeHotkey::report() {
-  desktop::HotkeyState now = state();
-  if (now == std::exchange(reported_, now)) return;
-  if (const auto changed = changed_) changed();
+  if (keys_.empty()) return turnOff();
+  const std::string name = nameOfAccelerator(keys_);
+  become({.otherKeys = name == nameOf(*combination_) ? std::string() : name, .isOff = false});
 }
 
 void GnomeHotkey::askAgain() {
@@ -167,7 +164,7 @@ void GnomeHotkey::offer() {
       break;
   }
   isAsking_ = true;
-  report();
+  become({});
   question_ = services_.alerts().ask(
       {.title = "Add " + keys + " to Your Keyboard Settings?",
        .body = "This desktop gives programs no hotkey. Quillseal can add a shortcut to your own "

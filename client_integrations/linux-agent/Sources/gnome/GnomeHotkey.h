@@ -6,10 +6,10 @@
 
 #include "desktop/Alerts.h"
 #include "desktop/Defaults.h"
-#include "desktop/Hotkey.h"
 #include "desktop/MainLoop.h"
 #include "desktop/Ticket.h"
 #include "gnome/ShortcutSettings.h"
+#include "keyboard/ObservedHotkey.h"
 
 namespace quillseal::linux {
 
@@ -17,7 +17,11 @@ namespace quillseal::linux {
 /// starts the program again with `--sign`. The user is asked once before it is added, and again
 /// only when they ask for it. It stays when the agent ends, and the user can change or remove it in
 /// the settings.
-class GnomeHotkey : public desktop::Hotkey {
+///
+/// Its state tells of the keys last seen, which are kept in the settings of the agent: GIO, with
+/// which GNOME's are read, would take memory in every agent that waits. They are read again at each
+/// press and by `refresh`.
+class GnomeHotkey : public ObservedHotkey {
  public:
   /// All outlive this object.
   struct Services {
@@ -36,11 +40,6 @@ class GnomeHotkey : public desktop::Hotkey {
   /// `pressed` is not called: the shortcut's command arrives as every command does.
   void registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) override;
 
-  /// The keys last seen, which are kept in the settings of the agent: GIO, with which GNOME's are
-  /// read, would take memory in every agent that waits. They are read again at each press and by
-  /// `refresh`.
-  [[nodiscard]] desktop::HotkeyState state() const override;
-  [[nodiscard]] desktop::Ticket observe(std::function<void()> changed) override;
   void refresh() override;
   void askAgain() override;
 
@@ -53,6 +52,7 @@ class GnomeHotkey : public desktop::Hotkey {
   [[nodiscard]] bool mayBeHeld() const;
 
  private:
+  void begin();
   void offer();
   void tell(const std::string& problem) const;
   void read();
@@ -65,8 +65,6 @@ class GnomeHotkey : public desktop::Hotkey {
   std::string keys_;  ///< of the shortcut, as GTK writes them; empty for none
   desktop::Ticket question_;
   bool isAsking_ = false;
-  std::function<void()> changed_;
-  desktop::HotkeyState reported_;
   desktop::MainLoop::TimePoint lastCommand_;
 };
 

@@ -128,8 +128,7 @@ PortalHotkey::PortalHotkey(Services services)
         const char* name = nullptr;
         const char* before = nullptr;
         const char* now = nullptr;
-        if (state_.isOff || ::sd_bus_message_read(&message, "sss", &name, &before, &now) <= 0)
-          return;
+        if (isRefused_ || ::sd_bus_message_read(&message, "sss", &name, &before, &now) <= 0) return;
         if (*now == '\0')
           bindAfter(pauseBeforeRestart);
         else if (session_ == nullptr && !isBinding_)
@@ -150,25 +149,21 @@ void PortalHotkey::registerHotkey(desktop::KeyPress combination, std::function<v
                            .firstArgument = Portal::service},
                           onOwner_);
   if (services_.defaults().boolean(wasRefused))
-    become({.otherKeys = {}, .isOff = true});
+    refuse();
   else
     bindAfter(0s);
 }
 
-desktop::Ticket PortalHotkey::observe(std::function<void()> changed) {
-  changed_ = std::move(changed);
-  return desktop::Ticket([this] { changed_ = nullptr; });
-}
-
-void PortalHotkey::become(desktop::HotkeyState state) {
-  if (state == state_) return;
-  state_ = std::move(state);
-  if (const auto changed = changed_) changed();
+void PortalHotkey::refuse() {
+  isRefused_ = true;
+  again_ = {};  // planned if the session ended before the answer
+  turnOff();
 }
 
 void PortalHotkey::askAgain() {
-  if (!state_.isOff) return;
+  if (!state().isOff) return;
   isWanted_ = true;
+  isRefused_ = false;
   become({});
   bindAfter(0s);
 }
@@ -202,8 +197,9 @@ Task<> PortalHotkey::bind() {
   desktop::Defaults& defaults = services_.defaults();
   if (answer.outcome == PortalAnswer::Outcome::granted) {
     if (defaults.boolean(wasRefused)) defaults.setString(wasRefused, "false");
+    if (state().isOff) become({});
     if (enterOption(*answer.message, "u", "shortcuts", "a(sa{sv})")) readKeys(*answer.message);
-    if (wasWanted && state_.isOff)
+    if (wasWanted && state().isOff)
       services_.tell(
           "Your desktop has no keys for Quillseal’s hotkey. Choose some in its keyboard settings.");
     co_return;
@@ -211,7 +207,7 @@ Task<> PortalHotkey::bind() {
   const bool isRefused = isRefusal(answer);
   if (isRefused) {
     defaults.setString(wasRefused, "true");
-    again_ = {};  // the session may have ended first
+    refuse();
   }
   const std::string problem =
       isRefused ? std::string(
@@ -223,7 +219,7 @@ Task<> PortalHotkey::bind() {
             "the Debian package of Quillseal if it is not installed, or start Quillseal again."
           : std::string("Your desktop gave Quillseal no hotkey.") + otherWays;
   session_ = nullptr;
-  become({.otherKeys = {}, .isOff = defaults.boolean(wasRefused)});
+  turnOff();
   services_.tell(problem);
 }
 
@@ -235,7 +231,7 @@ void PortalHotkey::end() {
   const bool isDeliberate = lastEnd_ && now < *lastEnd_ + deliberatelySoon;
   lastEnd_ = now;
   if (!isDeliberate) return bindAfter(pauseBeforeRestart);
-  become({.otherKeys = {}, .isOff = true});
+  refuse();
   services_.tell(std::string("Your desktop has ended Quillseal’s hotkey.") + otherWays);
 }
 
@@ -255,7 +251,7 @@ void PortalHotkey::readKeys(sd_bus_message& shortcuts) {
     // GNOME describes no keys where the user has removed them.
     if (!enterOption(shortcuts, "trigger_description", "s") ||
         ::sd_bus_message_read(&shortcuts, "s", &keys) <= 0)
-      return become({.otherKeys = {}, .isOff = true});
+      return turnOff();
     const std::string name = *keys == '\0' ? unknownKeys : describedKeys(keys);
     const bool isAsAsked = keysIn(name) == keysIn(nameOf(combination_));
     return become({.otherKeys = isAsAsked ? std::string() : name, .isOff = false});

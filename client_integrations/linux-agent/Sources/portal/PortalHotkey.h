@@ -8,8 +8,8 @@
 
 #include "core/tasks/Async.h"
 #include "desktop/Defaults.h"
-#include "desktop/Hotkey.h"
 #include "desktop/MainLoop.h"
+#include "keyboard/ObservedHotkey.h"
 #include "portal/Portal.h"
 
 namespace quillseal::linux {
@@ -17,7 +17,7 @@ namespace quillseal::linux {
 /// The global hotkey through the GlobalShortcuts portal. The desktop may ask the user, who may
 /// choose other keys. It is bound again when the portal or the agent restarts, unless the user has
 /// refused it: that is kept in the settings.
-class PortalHotkey : public desktop::Hotkey {
+class PortalHotkey : public ObservedHotkey {
  public:
   /// All outlive this object.
   struct Services {
@@ -36,8 +36,6 @@ class PortalHotkey : public desktop::Hotkey {
 
   void registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) override;
 
-  [[nodiscard]] desktop::HotkeyState state() const override { return state_; }
-  [[nodiscard]] desktop::Ticket observe(std::function<void()> changed) override;
   void askAgain() override;
 
   /// Whether the user may still hold keys of the hotkey.
@@ -46,8 +44,8 @@ class PortalHotkey : public desktop::Hotkey {
  private:
   [[nodiscard]] Task<> bind();
   void end();
+  void refuse();
   void bindAfter(std::chrono::milliseconds delay);
-  void become(desktop::HotkeyState state);
   void readKeys(sd_bus_message& shortcuts);
   void press(sd_bus_message& signal);
   void release(sd_bus_message& signal);
@@ -55,11 +53,10 @@ class PortalHotkey : public desktop::Hotkey {
   Services services_;
   desktop::KeyPress combination_{};
   std::function<void()> pressed_;
-  desktop::HotkeyState state_;
-  std::function<void()> changed_;
   std::unique_ptr<PortalSession> session_;
   bool isBinding_ = false;
-  bool isWanted_ = false;  ///< the user has asked for it since it was off
+  bool isRefused_ = false;  ///< by the user; not asked for until they want it
+  bool isWanted_ = false;   ///< the user has asked for it since it was off
   bool isDown_ = false;
   desktop::MainLoop::TimePoint lastPress_;
   desktop::MainLoop::TimePoint lastRelease_;

@@ -130,15 +130,16 @@ std::string nameOfNumber(int number) {
 }  // namespace
 
 KwinHotkey::KwinHotkey(const Services& services)
-    : services_(services),
+    : ClaimedHotkey(services.tell),
+      services_(services),
       onPress_([this](sd_bus_message& message) {
-        if (isOfAgent(message) && held_.press(services_.loop.now())) services_.loop.post(pressed_);
+        if (isOfAgent(message) && held_.press(services_.loop.now())) services_.loop.post(pressed());
       }),
       onRelease_([this](sd_bus_message& message) {
         if (isOfAgent(message)) held_.release();  // older versions report none
       }),
       onChange_([this](sd_bus_message& message) {
-        if (namesAgent(message)) become(firstKeyIn(message).value_or(0));
+        if (namesAgent(message)) have(firstKeyIn(message).value_or(0));
       }),
       onOwner_([this](sd_bus_message& message) {
         const char* name = nullptr;
@@ -160,9 +161,8 @@ bool KwinHotkey::isOfferedBy(const WaylandConnection& connection, DesktopBus& bu
   return KwinKeyboard::isOfferedBy(connection) && bus.knows(service).value_or(false);
 }
 
-void KwinHotkey::registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) {
-  pressed_ = std::move(pressed);
-  keys_ = numberOf(combination);
+void KwinHotkey::claim() {
+  keys_ = numberOf(combination());
   presses_ = services_.bus.subscribe(signal("globalShortcutPressed"), onPress_);
   releases_ = services_.bus.subscribe(signal("globalShortcutReleased"), onRelease_);
   changes_ = services_.bus.subscribe({.sender = service,
@@ -175,12 +175,11 @@ void KwinHotkey::registerHotkey(desktop::KeyPress combination, std::function<voi
   // What is not answered in time may be done later.
   mayHaveKeys_ = registration.granted != 0 || !registration.isAnswered;
   if (registration.isTaken)
-    fail(1, "Another program already uses " + nameOf(combination) +
-                ". Free it in the shortcut settings of your desktop and start Quillseal again");
+    fail(1, "Another program already uses " + nameOf(combination()) +
+                ". Free it in the shortcut settings of your desktop and turn on the hotkey in the "
+                "settings of Quillseal");
   if (registration.isAnswered && registration.granted == 0)
-    fail(2,
-         "The shortcut settings of your desktop give Quillseal no keys. Choose some there and "
-         "start Quillseal again");
+    fail(2, "The shortcut settings of your desktop give Quillseal no keys. Choose some there");
   if (registration.granted == 0 || presses_ == nullptr || releases_ == nullptr)
     fail(3, "The shortcuts of your desktop do not answer. Start Quillseal again");
   owners_ = services_.bus.subscribe({.sender = "org.freedesktop.DBus",
@@ -191,19 +190,10 @@ void KwinHotkey::registerHotkey(desktop::KeyPress combination, std::function<voi
                                     onOwner_);
 }
 
-desktop::Ticket KwinHotkey::observe(std::function<void()> changed) {
-  changed_ = std::move(changed);
-  return desktop::Ticket([this] { changed_ = nullptr; });
-}
-
-/// Without keys the state stays: there is nothing to name.
-void KwinHotkey::become(int keys) {
-  if (keys == 0) return;
-  desktop::HotkeyState now{.otherKeys = keys == keys_ ? std::string() : nameOfNumber(keys),
-                           .isOff = false};
-  if (now == state_) return;
-  state_ = std::move(now);
-  if (const auto changed = changed_) changed();
+/// Has the keys that the desktop names, 0 for none.
+void KwinHotkey::have(int keys) {
+  if (keys == 0) return turnOff();
+  become({.otherKeys = keys == keys_ ? std::string() : nameOfNumber(keys), .isOff = false});
 }
 
 KwinHotkey::Registration KwinHotkey::request() {
@@ -223,7 +213,7 @@ KwinHotkey::Registration KwinHotkey::request() {
   if (!granted) return registration;
   registration.isAnswered = true;
   registration.granted = *granted;
-  become(*granted);
+  have(*granted);
   if (*granted != 0) return registration;
 
   const DesktopBus::Message owner = bus.call(method("actionList"), "(ai)", 4, keys_, 0, 0, 0);

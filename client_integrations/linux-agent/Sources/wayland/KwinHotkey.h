@@ -1,9 +1,7 @@
 #pragma once
 
-#include <functional>
-
-#include "desktop/Hotkey.h"
 #include "desktop/MainLoop.h"
+#include "keyboard/ClaimedHotkey.h"
 #include "keyboard/HeldHotkey.h"
 #include "session/DesktopBus.h"
 #include "wayland/WaylandConnection.h"
@@ -13,12 +11,13 @@ namespace quillseal::linux {
 /// The global hotkey through KGlobalAccel, which KWin runs. It never takes keys that another
 /// shortcut uses. Keys that the user has chosen for Quillseal in the desktop's settings take
 /// precedence.
-class KwinHotkey : public desktop::Hotkey {
+class KwinHotkey : public ClaimedHotkey {
  public:
-  /// Both outlive this object.
+  /// Loop and bus outlive this object.
   struct Services {
     desktop::MainLoop& loop;
     DesktopBus& bus;
+    Tell tell;
   };
 
   explicit KwinHotkey(const Services& services);
@@ -28,11 +27,6 @@ class KwinHotkey : public desktop::Hotkey {
   /// started KGlobalAccel: it would take the keys and never report a press.
   [[nodiscard]] static bool isOfferedBy(const WaylandConnection& connection, DesktopBus& bus);
 
-  void registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) override;
-
-  [[nodiscard]] desktop::HotkeyState state() const override { return state_; }
-  [[nodiscard]] desktop::Ticket observe(std::function<void()> changed) override;
-
  private:
   /// The result of a request: whether there was an answer, the keys that were granted, 0 for none,
   /// and whether another component has the requested ones.
@@ -41,14 +35,12 @@ class KwinHotkey : public desktop::Hotkey {
     int granted = 0;
     bool isTaken = false;
   };
+  void claim() override;
   [[nodiscard]] Registration request();
-  void become(int keys);
+  void have(int keys);
 
   Services services_;
-  std::function<void()> pressed_;
   int keys_ = 0;  ///< that were asked for, as Qt numbers them
-  desktop::HotkeyState state_;
-  std::function<void()> changed_;
   bool mayHaveKeys_ = false;
   HeldHotkey held_;
   desktop::Ticket again_;

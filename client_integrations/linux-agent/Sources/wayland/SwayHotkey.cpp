@@ -55,7 +55,8 @@ std::string otherWays(std::string_view place) {
 }  // namespace
 
 SwayHotkey::SwayHotkey(Services services)
-    : services_(std::move(services)),
+    : ClaimedHotkey(services.tell),
+      services_(std::move(services)),
       commands_(SwayIpc::open(services_.socket)),
       events_(SwayIpc::open(services_.socket)) {}
 
@@ -69,31 +70,30 @@ SwayHotkey::~SwayHotkey() {
   }
 }
 
-void SwayHotkey::registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) {
+void SwayHotkey::claim() {
   if (commands_ == nullptr || events_ == nullptr)
     fail(1, "This desktop gives programs no hotkey. To sign by keyboard, " +
                 otherWays("the settings of your desktop"));
-  chord_ = combination;
-  pressed_ = std::move(pressed);
   layout_ = std::make_unique<WaylandLayout>(services_.connection, [this] {
     following_ = services_.loop.after({}, [this] { followLayout(); });
   });
   // The first round trip brings the seat, the second its keyboard.
   static_cast<void>(services_.connection.roundTrip() && services_.connection.roundTrip());
   key_ = keyInLayout();
-  const std::string letter(1, desktop::letterOf(chord_.key));
+  const std::string letter(1, desktop::letterOf(combination().key));
   const auto configuration = commands_->ask(SwayIpc::Request::getConfig, "");
   const json parsed = json::parse(configuration.value_or(""), nullptr, false);
   if (parsed.is_object() &&
       bindsAlready(textOf(parsed, "config"), {.symbol = letter, .code = key_}))
-    fail(2, "Sway’s configuration already uses " + nameOf(chord_) +
-                ". Free it there and start Quillseal again, or " +
+    fail(2, "Sway’s configuration already uses " + nameOf(combination()) +
+                ". Free it there and turn on the hotkey in the settings of Quillseal, or " +
                 otherWays("the configuration too"));
   if (!events_->ask(SwayIpc::Request::subscribe, R"(["binding","workspace"])") || !bind())
-    fail(3, "Sway does not bind " + nameOf(chord_) + " for Quillseal. To sign by keyboard, " +
-                otherWays("its configuration"));
+    fail(3, "Sway does not bind " + nameOf(combination()) +
+                " for Quillseal. To sign by keyboard, " + otherWays("its configuration"));
   watch_ = services_.descriptors.watch(events_->descriptor(), Descriptors::Interest::reading,
                                        [this](Descriptors::Interest) { receive(); });
+  become({});
 }
 
 bool SwayHotkey::command(const std::string& text) {
@@ -104,30 +104,34 @@ bool SwayHotkey::command(const std::string& text) {
 }
 
 std::uint32_t SwayHotkey::keyInLayout() const {
-  const Keysym symbol = chordOf(chord_).back();
+  const Keysym symbol = chordOf(combination()).back();
   return layout_->keyFor(symbol).value_or(usualKeyOf(symbol));
 }
 
-std::string SwayHotkey::combination() const {
+std::string SwayHotkey::chord() const {
   std::string text;
-  std::vector<Keysym> chord = chordOf(chord_);
-  chord.pop_back();
-  for (const Keysym modifier : chord)
+  std::vector<Keysym> modifiers = chordOf(combination());
+  modifiers.pop_back();
+  for (const Keysym modifier : modifiers)
     text += nameInSway(modifier);
   return text + std::to_string(key_);
 }
 
 bool SwayHotkey::bind() {
-  const std::string press = "bindcode " + std::string(options) + combination() + " ";
-  const std::string release = "bindcode --release " + std::string(options) + combination() + " ";
+  const std::string press = "bindcode " + std::string(options) + chord() + " ";
+  const std::string release = "bindcode --release " + std::string(options) + chord() + " ";
   isBound_ = command(press + commandFor(pressEvent)) && command(release + commandFor(releaseEvent));
   if (!isBound_) unbind();
   return isBound_;
 }
 
+void SwayHotkey::bindAgain() {
+  become({.otherKeys = {}, .isOff = !bind()});
+}
+
 void SwayHotkey::unbind() {
   for (const char* kind : {"unbindcode ", "unbindcode --release "})
-    static_cast<void>(command(kind + std::string(options) + combination()));
+    static_cast<void>(command(kind + std::string(options) + chord()));
 }
 
 void SwayHotkey::followLayout() {
@@ -135,7 +139,7 @@ void SwayHotkey::followLayout() {
   if (now == key_ || !isBound_) return;
   unbind();
   key_ = now;
-  static_cast<void>(bind());
+  bindAgain();
 }
 
 void SwayHotkey::receive() {
@@ -149,12 +153,12 @@ void SwayHotkey::handle(const SwayIpc::Message& message) {
   const json event = json::parse(message.text, nullptr, false);
   if (!event.is_object()) return;
   // Sway drops all bindings when it reloads its configuration.
-  if (textOf(event, "change") == "reload") static_cast<void>(bind());
+  if (textOf(event, "change") == "reload") bindAgain();
   const auto binding = event.find("binding");
   if (binding == event.end() || !binding->is_object()) return;
   const std::string told = textOf(*binding, "command");
   if (told == commandFor(pressEvent) && held_.press(services_.loop.now()))
-    services_.loop.post(pressed_);
+    services_.loop.post(pressed());
   // Sway reports no release when another key was pressed meanwhile.
   if (told == commandFor(releaseEvent)) held_.release();
 }

@@ -5,8 +5,8 @@
 #include <optional>
 #include <string>
 
-#include "desktop/Hotkey.h"
 #include "desktop/MainLoop.h"
+#include "keyboard/ClaimedHotkey.h"
 #include "keyboard/HeldHotkey.h"
 #include "session/Descriptors.h"
 #include "wayland/SwayIpc.h"
@@ -17,7 +17,7 @@ namespace quillseal::linux {
 
 /// The global hotkey as a binding in sway that does nothing; sway reports its use. Any other
 /// binding of the same keys takes precedence. Without sway there is no hotkey.
-class SwayHotkey : public desktop::Hotkey {
+class SwayHotkey : public ClaimedHotkey {
  public:
   /// All outlive this object.
   struct Services {
@@ -25,19 +25,20 @@ class SwayHotkey : public desktop::Hotkey {
     Descriptors& descriptors;
     WaylandConnection& connection;
     std::string socket;  ///< SWAYSOCK; empty where sway does not run
+    Tell tell;
   };
 
   explicit SwayHotkey(Services services);
   ~SwayHotkey() override;
 
-  void registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) override;
-
  private:
+  void claim() override;
   /// Has sway run a command; false when sway did not confirm it.
   [[nodiscard]] bool command(const std::string& text);
   [[nodiscard]] std::uint32_t keyInLayout() const;
-  [[nodiscard]] std::string combination() const;
+  [[nodiscard]] std::string chord() const;
   [[nodiscard]] bool bind();
+  void bindAgain();
   void unbind();
   void followLayout();
   void receive();
@@ -46,8 +47,6 @@ class SwayHotkey : public desktop::Hotkey {
   Services services_;
   std::unique_ptr<SwayIpc> commands_;
   std::unique_ptr<SwayIpc> events_;
-  std::function<void()> pressed_;
-  desktop::KeyPress chord_{};
   std::uint32_t key_ = 0;
   bool isBound_ = false;
   HeldHotkey held_;

@@ -21,7 +21,8 @@ std::unique_ptr<desktop::Hotkey> offeredHotkey(const WindowingSystem::Services& 
                                                WaylandConnection& connection, DesktopBus* bus,
                                                Portal* portal) {
   if (bus != nullptr && KwinHotkey::isOfferedBy(connection, *bus))
-    return std::make_unique<KwinHotkey>(KwinHotkey::Services{.loop = services.loop, .bus = *bus});
+    return std::make_unique<KwinHotkey>(
+        KwinHotkey::Services{.loop = services.loop, .bus = *bus, .tell = services.tell});
   if (portal != nullptr)
     return std::make_unique<PortalHotkey>(PortalHotkey::Services{.loop = services.loop,
                                                                  .portal = *portal,
@@ -31,7 +32,8 @@ std::unique_ptr<desktop::Hotkey> offeredHotkey(const WindowingSystem::Services& 
   return std::make_unique<SwayHotkey>(SwayHotkey::Services{.loop = services.loop,
                                                            .descriptors = services.descriptors,
                                                            .connection = connection,
-                                                           .socket = swaySocket()});
+                                                           .socket = swaySocket(),
+                                                           .tell = services.tell});
 }
 
 std::unique_ptr<Portal> portalWithHotkey(DesktopBus* bus, const PortalOffer& offer) {

@@ -30,8 +30,11 @@ constexpr std::chrono::milliseconds layoutSettles{150};
 
 }  // namespace
 
-X11Hotkey::X11Hotkey(desktop::MainLoop& loop, X11Keyboard* keyboard, std::string obstacle)
-    : loop_(loop), keyboard_(keyboard), obstacle_(std::move(obstacle)) {
+X11Hotkey::X11Hotkey(Services services)
+    : ClaimedHotkey(std::move(services.tell)),
+      loop_(services.loop),
+      keyboard_(services.keyboard),
+      obstacle_(std::move(services.obstacle)) {
   const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
   if (keyboard_ == nullptr || x11 == nullptr) return;
   connection_ = x11->connection();
@@ -42,26 +45,26 @@ X11Hotkey::~X11Hotkey() {
   QCoreApplication::instance()->removeNativeEventFilter(this);
 }
 
-void X11Hotkey::registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) {
+void X11Hotkey::claim() {
   if (connection_ == nullptr)
     throw Error({.domain = "X11Hotkey", .code = 1, .description = obstacle_});
-  combination_ = combination;
-  pressed_ = std::move(pressed);
   QCoreApplication::instance()->installNativeEventFilter(this);
   if (const auto where = place()) isGrabbed_ = grab(*where);
   if (!isGrabbed_)
     throw Error(
         {.domain = "X11Hotkey",
          .code = 2,
-         .description = "Another program already uses " + nameOf(combination_) +
-                        ". Free it there and start Quillseal again, or bind the command "
+         .description = "Another program already uses " + nameOf(combination()) +
+                        ". Free it there and turn on the hotkey in the settings of Quillseal, or "
+                        "bind the command "
                         "“quillseal --sign” to another shortcut in the keyboard settings of "
                         "your desktop. The menu item works in any case."});
+  become({});
 }
 
 std::optional<X11Hotkey::Place> X11Hotkey::place() const {
   const X11Keyboard::Layout layout = keyboard_->layout();
-  std::vector<Keysym> chord = chordOf(combination_);
+  std::vector<Keysym> chord = chordOf(combination());
   Place place{.key = layout.keyFor(chord.back()),
               .modifiers = 0,
               .numLock = layout.modifierMaskOf(XKB_KEY_Num_Lock)};
@@ -105,6 +108,7 @@ void X11Hotkey::followLayout() {
   following_ = loop_.after(layoutSettles, [this] {
     const std::optional<Place> now = place();
     if (now && (*now != place_ || !isGrabbed_)) isGrabbed_ = grab(*now);
+    become({.otherKeys = {}, .isOff = !isGrabbed_});
   });
 }
 
@@ -128,7 +132,7 @@ bool X11Hotkey::nativeEventFilter(const QByteArray& /*eventType*/, void* message
       down_ = true;
       lastPress_ = key->time;
       if (!repeated) {
-        loop_.post(pressed_);
+        loop_.post(pressed());
         awaitRelease();
       }
     }

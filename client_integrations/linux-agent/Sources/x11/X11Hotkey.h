@@ -4,22 +4,27 @@
 #include <optional>
 #include <string>
 
-#include "desktop/Hotkey.h"
 #include "desktop/MainLoop.h"
+#include "keyboard/ClaimedHotkey.h"
 #include "x11/X11Keyboard.h"
 
 namespace quillseal::linux {
 
 /// The global hotkey, as a passive key grab on the root window.
-class X11Hotkey : public desktop::Hotkey, private QAbstractNativeEventFilter {
+class X11Hotkey : public ClaimedHotkey, private QAbstractNativeEventFilter {
  public:
-  /// `keyboard` is null where there is no usable X server; `obstacle` then says why.
-  X11Hotkey(desktop::MainLoop& loop, X11Keyboard* keyboard, std::string obstacle);
+  struct Services {
+    desktop::MainLoop& loop;
+    X11Keyboard* keyboard;  ///< null where there is no usable X server; outlives this object
+    std::string obstacle;   ///< says why there is none
+    Tell tell;
+  };
+
+  explicit X11Hotkey(Services services);
   ~X11Hotkey() override;
 
-  void registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) override;
-
  private:
+  void claim() override;
   bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
   /// The key code and modifiers (XCB_MOD_MASK_…) of the hotkey.
   struct Place {
@@ -38,8 +43,6 @@ class X11Hotkey : public desktop::Hotkey, private QAbstractNativeEventFilter {
   desktop::MainLoop& loop_;
   X11Keyboard* keyboard_;
   std::string obstacle_;
-  desktop::KeyPress combination_{};
-  std::function<void()> pressed_;
   xcb_connection_t* connection_ = nullptr;
   xcb_window_t root_ = 0;
   Place place_;

@@ -194,6 +194,10 @@ class Faults(Story):
         self.sign_by_command()
 
         self.desktop.close("Choose a passphrase", "Escape")
+        self.open_settings()
+        self.desktop.key("space")  # Turn On the Hotkey
+        self.desktop.wait_for_output(self.desktop.agent, r"\[desktop\] Another program already uses",
+                                     "the settings offer to turn it on")
         rival.free_hotkey()
         self.desktop.run("setxkbmap", "de")  # a new layout, and the hotkey is asked for again
         act_until(self.desktop.press_hotkey,

@@ -78,8 +78,8 @@ desktop::FormSection SettingsView::hotkeySection() {
           .rows = {desktop::FormStatus{
                        .symbol = "exclamationmark.triangle.fill",
                        .symbolColour = TextColour::orange,
-                       .text = callout("The hotkey is off, because it was not allowed or was "
-                                       "removed. Without it, sign by the menu.")},
+                       .text = callout("The hotkey is off: it was not allowed, was removed, or is "
+                                       "not available. Without it, sign by the menu.")},
                    desktop::FormButton{.label = "Turn On the Hotkey",
                                        .pressed = [this] { services_.hotkey.askAgain(); }}}};
 }

@@ -83,11 +83,13 @@ inline std::pair<std::string, std::string> divided(const std::string& text,
 }
 
 /// Tells the stories below a heading, line by line. "[TITLE]" begins one with what `begin` returns,
-/// or skips it when that is null. "NAME == VALUE" and "NAME ~ PART" compare with the story's
-/// `stateOf(NAME)`, where "nothing" is the empty text; every other line is for its `act`.
+/// or skips it when that is null; one at least must be told. "NAME == VALUE" and "NAME ~ PART"
+/// compare with the story's `stateOf(NAME)`, where "nothing" is the empty text; every other line is
+/// for its `act`.
 void tell(const std::string& heading, const auto& begin) {
   decltype(begin(heading)) story;
   std::string title;
+  bool isTold = false;
   for (const std::string& line : textCases(heading)) {
     SCOPED_TRACE(title + " before " + line.substr(0, 80));
     const auto [name, value] = divided(line, " == ");
@@ -96,6 +98,7 @@ void tell(const std::string& heading, const auto& begin) {
       title = line;
       story.reset();
       story = begin(title);
+      isTold = isTold || story;
     } else if (!story) {
       continue;
     } else if (name != line) {
@@ -107,6 +110,7 @@ void tell(const std::string& heading, const auto& begin) {
       story->act(line);
     }
   }
+  EXPECT_TRUE(isTold) << "no story below " << heading << " is told here";
 }
 
 /// Cases that are lists of so many fields.

@@ -1,3 +1,4 @@
+#include <chrono>
 #include <deque>
 #include <optional>
 #include <variant>
@@ -10,6 +11,7 @@
 #include "RunUntil.h"
 #include "presence/FingerprintReader.h"
 #include "presence/LinuxPresence.h"
+#include "presence/SystemBus.h"
 #include "session/PollLoop.h"
 
 namespace quillseal::linux {
@@ -182,6 +184,13 @@ TEST_F(LinuxPresenceTest, PassesThePersonAlone) {
   const PresenceServices services({});
   prompt.answer = false;
   EXPECT_EQ(evaluate(biometrics), "Authentication was cancelled.");
+}
+
+TEST_F(LinuxPresenceTest, ASilentServiceIsNotWaitedForBeyondTheLimit) {
+  SystemBus own;
+  const Interrupt never;
+  EXPECT_FALSE(own.wait(
+      {.interrupt = never, .limit = std::chrono::seconds(1), .isDone = [] { return false; }}));
 }
 
 TEST_F(LinuxPresenceTest, ADroppedTicketEndsTheQuestion) {

@@ -414,6 +414,22 @@ TEST_F(PortalHotkeys, ArePressedOnceUntilTheyAreReleased) {
   testing::runUntil(loop, [&] { return presses == 4; });
 }
 
+TEST_F(PortalHotkeys, AreBoundOnceByAPortalThatTheirCallStarts) {
+  testing::overwrite(
+      folder.path() / "portal.service",
+      std::string("[D-BUS Service]\nExec=/bin/sleep 5\nName=") + Portal::service + "\n");
+  const testing::PrivateBus starting("DBUS_SESSION_BUS_ADDRESS", folder.path().string());
+  begin({});
+  desk.reset();
+  hotkey->registerHotkey(desktop::signingHotkey, [] {});
+  const auto later = loop.now() + 200ms;
+  testing::runUntil(loop, [&] { return loop.now() > later; });
+  desk.emplace(Script{});
+  testing::runUntil(loop, [&] { return desk->hasCall("BindShortcuts"); });
+  settle();
+  EXPECT_EQ(std::ranges::count(desk->calls(), "CreateSession"), 1);
+}
+
 TEST_F(PortalHotkeys, AreBoundAgainWhenTheDesktopEndsThemOnce) {
   begin({});
   hotkey->registerHotkey(desktop::signingHotkey, [] {});
@@ -719,7 +735,9 @@ TEST_F(PortalClipboard, IsHandedOverToAKeeperWhenTheSessionEnds) {
     if (end == End::ofOffer) {
       const auto later = loop.now() + 500ms;
       testing::runUntil(loop, [&] { return loop.now() > later; });
+      const auto start = loop.now();
       EXPECT_EQ(markupOnX(), "");
+      EXPECT_LT(loop.now() - start, 2s) << "nobody has it, which the server says at once";
     } else {
       testing::runUntil(loop, [&] { return markupOnX() == markup; });
     }

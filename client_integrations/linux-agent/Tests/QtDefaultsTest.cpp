@@ -3,6 +3,9 @@
 #include <array>
 #include <filesystem>
 #include <fstream>
+#include <functional>
+#include <map>
+#include <optional>
 #include <thread>
 
 #include <gmock/gmock.h>
@@ -11,6 +14,7 @@
 
 #include "Cases.h"
 #include "TemporaryFolder.h"
+#include "core/text/UnicodeText.h"
 #include "session/QtDefaults.h"
 #include "session/QtDescriptors.h"
 
@@ -22,174 +26,132 @@ using testing::contentsOf;
 using testing::overwrite;
 namespace fs = std::filesystem;
 
-class QtDefaultsTest : public ::testing::Test {
- protected:
-  QtDefaults make() {
-    return QtDefaults({.path = path_.string(),
-                       .warn = [this](const std::string& text) { warnings_.push_back(text); }});
-  }
-
+/// The settings in a folder, what the user is told of them, and those who observe them.
+struct Story {
   static bool eventually(const std::function<bool()>& condition) {
     return QTest::qWaitFor(condition);
   }
 
+  void start() {
+    defaults.emplace(QtDefaults::Options{
+        .path = path.string(), .warn = [this](const std::string& text) { warnings += text; }});
+    observers[0] = defaults->observe([this] { ++changes; });
+    observers[1] = defaults->observe([this] {
+      observers[2] = {};
+      observers[1] = {};
+    });
+    observers[2] = defaults->observe([] { ADD_FAILURE() << "this observer has ended"; });
+  }
+
+  /// What there is now, by the name that a story gives it.
+  std::string stateOf(const std::string& name) {
+    if (name == "changes") return std::to_string(changes);
+    if (name == "warnings") return unicode::replacingAll(warnings, path.string(), "FILE");
+    if (name == "mode") return std::to_string(static_cast<int>(fs::status(path).permissions()));
+    if (name.starts_with("Quillseal.conf")) return contentsOf(path.parent_path() / name);
+    return defaults->string(name).value_or("none");
+  }
+
+  void act(const std::string& line) {
+    const auto [verb, what] = testing::divided(line, " ");
+    const auto [key, value] = testing::divided(what, " = ");
+    const fs::path other = path.string() + ".new";
+    const std::map<std::string, std::function<void()>> actions{
+        {"start", [&] { start(); }},
+        {"set", [&] { defaults->setString(key, value); }},
+        {"squeeze", [&] { testing::onFullDisk(10, [&] { defaults->setString(key, value); }); }},
+        {"write", [&] { overwrite(path, unicode::replacingAll(what, "{ff}", "\xFF")); }},
+        {"replace",
+         [&] {
+           overwrite(other, what);
+           fs::permissions(other, fs::perms(0644));
+           fs::rename(other, path);
+         }},
+        {"remove", [&] { fs::remove_all(path); }},
+        {"folder",
+         [&] {
+           fs::create_directories(path);
+           overwrite(path / "kept", "x");
+         }},
+        {"nowhere", [&] { path = "/dev/null/Quillseal/Quillseal.conf"; }},
+        {"settle", [&] { QTest::qWait(100); }},
+        {"await", [&] { EXPECT_TRUE(eventually([&] { return stateOf(key) == value; })); }}};
+    actions.at(verb)();
+  }
+
+  testing::TemporaryFolder folder;
+  fs::path path = folder.path() / "Quillseal" / "Quillseal.conf";
+  std::string warnings;
+  int changes = 0;
+  std::optional<QtDefaults> defaults;
+  std::array<desktop::Ticket, 3> observers;
+};
+
+class QtDefaultsTest : public ::testing::Test {
+ protected:
   int argumentCount_ = 1;
   std::string name_ = "test";
   std::vector<char*> arguments_{name_.data(), nullptr};
   QCoreApplication application_{argumentCount_, arguments_.data()};
-  testing::TemporaryFolder folder_;
-  fs::path path_ = folder_.path() / "Quillseal" / "Quillseal.conf";
-  std::vector<std::string> warnings_;
+  Story its_;
 };
 
-TEST_F(QtDefaultsTest, KeepsValuesForTheirOwnerOnly) {
+TEST_F(QtDefaultsTest, GoesAsTold) {
+  testing::tell(testing::runningTest(), [](const auto&) { return std::make_unique<Story>(); });
+}
+
+TEST_F(QtDefaultsTest, KeepsValues) {
   for (const auto& [value] : testing::cases<std::string>()) {
-    {
-      QtDefaults defaults = make();
-      defaults.setString("BoundIdentity", value);
-      EXPECT_EQ(fs::status(path_).permissions(), fs::perms::owner_read | fs::perms::owner_write);
-      EXPECT_EQ(defaults.string("BoundIdentity"), value);
-    }
-    EXPECT_EQ(make().string("BoundIdentity"), value);
+    its_.start();
+    its_.defaults->setString("BoundIdentity", value);
+    EXPECT_EQ(its_.defaults->string("BoundIdentity"), value);
+    its_.start();
+    EXPECT_EQ(its_.defaults->string("BoundIdentity"), value);
   }
-  EXPECT_EQ(make().string("ServerURL"), std::nullopt);
-  EXPECT_EQ(contentsOf(path_), "[General]\nBoundIdentity=[x]\n");
-  EXPECT_THAT(warnings_, IsEmpty());
+  EXPECT_EQ(contentsOf(its_.path), "[General]\nBoundIdentity=[x]\n");
+  EXPECT_EQ(its_.warnings, "");
 }
 
 TEST_F(QtDefaultsTest, ReadsWhatPeopleWrite) {
-  fs::create_directories(path_.parent_path());
-  overwrite(path_, "");
-  fs::permissions(path_, fs::perms::owner_all | fs::perms::group_read);
-  const QtDefaults defaults = make();
-  EXPECT_EQ(fs::status(path_).permissions() & fs::perms::group_all, fs::perms::none);
+  its_.start();
   for (const auto& [text, key, value, isTrue] :
        testing::cases<std::string, std::string, std::string, bool>()) {
-    overwrite(path_, text);
-    EXPECT_EQ(defaults.string(key).value_or("none"), value) << text;
-    EXPECT_EQ(defaults.boolean(key), isTrue) << text;
+    overwrite(its_.path, text);
+    EXPECT_EQ(its_.defaults->string(key).value_or("none"), value) << text;
+    EXPECT_EQ(its_.defaults->boolean(key), isTrue) << text;
   }
 }
 
 TEST_F(QtDefaultsTest, ChangesOneLineOnly) {
-  fs::create_directories(path_.parent_path());
+  its_.start();
   for (const auto& [before, after] : testing::cases<std::string, std::string>()) {
-    overwrite(path_, before);
-    QtDefaults defaults = make();
-    defaults.setString("APIKey", "new");
-    EXPECT_EQ(contentsOf(path_), after);
-    EXPECT_EQ(defaults.string("APIKey"), "new");
+    overwrite(its_.path, before);
+    its_.defaults->setString("APIKey", "new");
+    EXPECT_EQ(contentsOf(its_.path), after);
   }
-  EXPECT_THAT(warnings_, IsEmpty());
-}
-
-TEST_F(QtDefaultsTest, KeepsWhatNoLineCanHoldForTheProcess) {
-  QtDefaults defaults = make();
-  defaults.setString("APIKey", "k");
-  for (const std::string& value :
-       {std::string("a\nServerURL=x"), std::string("a\rb"), std::string("a\0b", 3)}) {
-    defaults.setString("BoundIdentity", value);
-    EXPECT_EQ(defaults.string("BoundIdentity"), value);
-    EXPECT_EQ(defaults.string("ServerURL"), std::nullopt);
-    EXPECT_EQ(contentsOf(path_), "[General]\nAPIKey=k\n");
-  }
-  EXPECT_TRUE(eventually([&] { return warnings_.size() == 3; }));
-  defaults.setString("BoundIdentity", "Ada");
-  EXPECT_EQ(defaults.string("BoundIdentity"), "Ada");
-  EXPECT_EQ(make().string("BoundIdentity"), "Ada");
-}
-
-TEST_F(QtDefaultsTest, NoticesEveryonesChanges) {
-  QtDefaults defaults = make();
-  int changes = 0;
-  const desktop::Ticket observer = defaults.observe([&] { ++changes; });
-  desktop::Ticket ended;
-  desktop::Ticket once = defaults.observe([&] {
-    ended = {};
-    once = {};
-  });
-  ended = defaults.observe([] { ADD_FAILURE() << "this observer has ended"; });
-
-  defaults.setString("ServerURL", "https://a.example");
-  EXPECT_EQ(changes, 0) << "not from inside the call";
-  EXPECT_TRUE(eventually([&] { return changes == 1; }));
-
-  // Saves as editors do: in place, then by replacing the file.
-  overwrite(path_, "[General]\nServerURL=https://second.example\n");
-  EXPECT_EQ(defaults.string("ServerURL"), "https://second.example");
-  EXPECT_TRUE(eventually([&] { return changes == 2; }));
-  overwrite(path_.string() + ".new", "[General]\nServerURL=https://three.example\n");
-  fs::permissions(path_.string() + ".new", fs::perms::group_read | fs::perms::others_read,
-                  fs::perm_options::add);
-  fs::rename(path_.string() + ".new", path_);
-  EXPECT_TRUE(eventually([&] { return changes == 3; }));
-  EXPECT_EQ(fs::status(path_).permissions(), fs::perms::owner_read | fs::perms::owner_write)
-      << "the new file too is its owner's only";
-  overwrite(path_, "[General]\nServerURL=https://fourth.example\n");
-  EXPECT_TRUE(eventually([&] { return changes == 4; }));
-
-  defaults.setString("APIKey", "k");
-  EXPECT_EQ(defaults.string("ServerURL"), "https://fourth.example") << "the other edit stays";
-  fs::remove(path_);
-  EXPECT_EQ(defaults.string("APIKey"), std::nullopt);
-}
-
-TEST_F(QtDefaultsTest, SetsADamagedFileAside) {
-  fs::create_directories(path_.parent_path());
-  int number = 0;
-  for (const auto& [text] : testing::cases<std::string>()) {
-    const std::string damage = text == "bytes" ? "a=\xff\xfe\n" : text;
-    overwrite(path_, damage);
-    warnings_.clear();
-    QtDefaults defaults = make();
-    EXPECT_EQ(defaults.string("ServerURL"), std::nullopt);
-    defaults.setString("APIKey", "k");
-    EXPECT_EQ(defaults.string("APIKey"), "k");
-    const std::string aside = path_.string() + ".damaged-" + std::to_string(++number);
-    EXPECT_EQ(contentsOf(aside), damage);
-    EXPECT_TRUE(eventually([&] { return !warnings_.empty(); }));
-    EXPECT_THAT(warnings_, ElementsAre(HasSubstr(aside)));
-  }
+  EXPECT_EQ(its_.warnings, "");
 }
 
 TEST_F(QtDefaultsTest, WaitsForAnEditorThatIsStillWriting) {
-  fs::create_directories(path_.parent_path());
-  overwrite(path_, "no settings ");
+  its_.start();
+  overwrite(its_.path, "no settings ");
   std::jthread editor([&] {
     for (int i = 0; i < 15; ++i) {
       std::this_thread::sleep_for(std::chrono::milliseconds(20));
-      std::ofstream(path_, std::ios::app) << i;
+      std::ofstream(its_.path, std::ios::app) << i;
     }
-    overwrite(path_, "APIKey=k\n");
+    overwrite(its_.path, "APIKey=k\n");
   });
-  EXPECT_EQ(make().string("APIKey"), "k");
-  EXPECT_THAT(warnings_, IsEmpty());
-}
-
-TEST_F(QtDefaultsTest, ValuesThatCannotBeSavedHoldForTheProcess) {
-  fs::create_directories(path_);  // a folder where the file should be
-  overwrite(path_ / "kept", "x");
-  QtDefaults defaults = make();
-  int changes = 0;
-  const desktop::Ticket observer = defaults.observe([&] { ++changes; });
-  defaults.setString("SigningMode", "handoff");
-  EXPECT_EQ(defaults.string("SigningMode"), "handoff");
-  for (int i = 0; i < 3; ++i)
-    EXPECT_EQ(defaults.string("APIKey"), std::nullopt);
-  EXPECT_TRUE(eventually([&] { return changes == 1 && warnings_.size() >= 2; }));
-  EXPECT_THAT(warnings_, ElementsAre(HasSubstr("cannot be read"), HasSubstr("could not be saved")));
-  EXPECT_TRUE(fs::exists(path_ / "kept"));
-
-  path_ = "/dev/null/Quillseal/Quillseal.conf";  // a place where no folder can be made
-  QtDefaults others = make();
-  others.setString("SigningMode", "handoff");
-  EXPECT_EQ(others.string("SigningMode"), "handoff");
+  its_.start();
+  EXPECT_EQ(its_.defaults->string("APIKey"), "k");
+  EXPECT_EQ(its_.warnings, "");
 }
 
 TEST_F(QtDefaultsTest, ServesOtherThreadsWhileItIsChanged) {
-  fs::create_directories(path_);  // so that the values are only in memory
+  fs::create_directories(its_.path);  // so that the values are only in memory
   constexpr int rounds = 200;
-  QtDefaults defaults = make();
+  its_.start();
+  QtDefaults& defaults = *its_.defaults;
   defaults.setString("APIKey", "0");
   const std::jthread reader([&defaults] {
     int last = 0;
@@ -201,19 +163,6 @@ TEST_F(QtDefaultsTest, ServesOtherThreadsWhileItIsChanged) {
   });
   for (int round = 1; round <= rounds; ++round)
     defaults.setString("APIKey", std::to_string(round));
-}
-
-TEST_F(QtDefaultsTest, AFullDiskKeepsTheEarlierSettings) {
-  make().setString("ServerURL", "https://a.example");
-  const std::string before = contentsOf(path_);
-  QtDefaults defaults = make();
-  testing::onFullDisk(10, [&] { defaults.setString("BoundIdentity", "Ada"); });
-  EXPECT_EQ(contentsOf(path_), before);
-  EXPECT_EQ(defaults.string("BoundIdentity"), "Ada") << "for as long as the agent runs";
-  EXPECT_TRUE(eventually([&] { return !warnings_.empty(); }));
-  EXPECT_THAT(warnings_, ElementsAre(HasSubstr("could not be saved")));
-  defaults.setString("APIKey", "k");
-  EXPECT_THAT(contentsOf(path_), HasSubstr("a.example"));
 }
 
 using QtDescriptorsTest = QtDefaultsTest;
@@ -236,7 +185,7 @@ TEST_F(QtDescriptorsTest, TellsReadinessUntilTheTicketIsDropped) {
     received += byte;
     if (received.size() == 2) reading = {};
   });
-  EXPECT_TRUE(eventually([&] { return received == "xy"; }));
+  EXPECT_TRUE(Story::eventually([&] { return received == "xy"; }));
   QCoreApplication::processEvents(QEventLoop::AllEvents);
   EXPECT_EQ(received, "xy");
   close(ends[0]);

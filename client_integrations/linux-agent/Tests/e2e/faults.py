@@ -204,6 +204,15 @@ class Faults(Story):
                   lambda: "Choose a passphrase" in self.desktop.active_window_name(),
                   "the hotkey works now")
 
+    def test_the_hotkey_is_pressed_again_in_a_window_that_swallows_its_release(self):
+        self.start(DemoSigning="true")
+        self.open_settings()  # the X server reports a release to the focused window of the grabber
+        for _ in range(2):
+            self.desktop.press_hotkey()
+            time.sleep(0.1)
+        wait_for("both presses count",
+                 lambda: self.desktop.window_names().count("No Text Found") == 2)
+
 
 class Panel(Story):
     panel = True

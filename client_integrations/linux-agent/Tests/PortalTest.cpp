@@ -3,7 +3,11 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
+#include <map>
+#include <numeric>
 #include <optional>
+#include <sstream>
 
 #include <fcntl.h>
 #include <gmock/gmock.h>
@@ -42,8 +46,10 @@ using Calls = std::vector<std::string>;
 constexpr std::chrono::seconds portalPatience{1};
 
 /// The agent's side, with a portal.
-class PortalTest : public ::testing::Test {
- protected:
+struct Story {
+  std::string stateOf(const std::string& name);
+  void act(const std::string& line);
+
   /// Starts the portal and what uses it anew. `token` is what an earlier session left.
   void begin(Script script, const std::string& token = {}) {
     keys.reset();
@@ -150,6 +156,25 @@ class PortalTest : public ::testing::Test {
     return result;
   }
 
+  /// Returns what the user is told.
+  std::string writing() {
+    try {
+      pasteboard->write({.plainText = "block", .html = "<p>"});
+      return {};
+    } catch (const Error& error) {
+      return error.what();
+    }
+  }
+
+  std::string markupOnX() {
+    return testing::awaited<X11Selection::Content>(loop, [this](auto done) {
+      return X11Selection::read(
+          {.loop = loop, .descriptors = loop},
+          {.selection = X11Selection::Name::clipboard, .formats = {{"text/html"}}, .isEnough = {}},
+          done);
+    })["text/html"];
+  }
+
   testing::PrivateBus sessionBus{"DBUS_SESSION_BUS_ADDRESS"};
   testing::TemporaryFolder folder;
   std::filesystem::path tokenFile = folder.path() / "quillseal" / "token";
@@ -171,9 +196,17 @@ class PortalTest : public ::testing::Test {
   std::optional<PortalHotkey> hotkey;
   std::optional<PortalPasteboard> pasteboard;
   std::optional<PortalKeyEvents> keys;
+
+  // What a story remembers.
+  desktop::Ticket run;
+  std::string delivery;
+  std::string outcome;  ///< of what was begun last
+  desktop::Ticket watching;
+  int presses = 0;
+  int changes = 0;
 };
 
-using PortalKeys = PortalTest;
+class PortalTest : public ::testing::Test, protected Story {};
 
 /// A script from its fields in cases.jsonl.
 Script scriptOf(const testing::Json& fields) {
@@ -187,7 +220,193 @@ Script scriptOf(const testing::Json& fields) {
   script.closesSession = fields.value("closesSession", script.closesSession);
   script.isMalformed = fields.value("isMalformed", script.isMalformed);
   script.keys = fields.value("keys", script.keys);
+  script.offer.clipboard = fields.value("clipboard", script.offer.clipboard);
+  script.answers = fields.value("answers", script.answers);
+  script.takenSelections = fields.value("takenSelections", script.takenSelections);
+  script.owner =
+      std::map<std::string, Owner>{
+          {"writes", Owner::writes},      {"is replaced", Owner::isReplaced},
+          {"is silent", Owner::isSilent}, {"writes too much", Owner::writesTooMuch},
+          {"closes", Owner::closes},      {"gives no file", Owner::givesNoFile}}
+          .at(fields.value("owner", "writes"));
   return script;
+}
+
+const std::map<std::string, Delivery> deliveries{{"delivered", Delivery::delivered},
+                                                 {"declined", Delivery::declined},
+                                                 {"another document", Delivery::documentChanged},
+                                                 {"keys held", Delivery::keysHeld},
+                                                 {"keyboard taken", Delivery::keyboardTaken},
+                                                 {"not allowed", Delivery::notAllowed}};
+
+std::string yes(bool isTrue) {
+  return isTrue ? "yes" : "no";
+}
+
+/// What there is now, or the outcome of an action, by the name that a story gives it.
+std::string Story::stateOf(const std::string& name) {
+  const auto [verb, what] = testing::divided(name, " ");
+  const auto isFetched = [this] {
+    return testing::awaited<bool>(
+        loop, [this](auto done) { return pasteboard->fetch([done] { done(true); }); });
+  };
+  if (verb == "calls") return std::to_string(std::ranges::count(desk->calls(), what));
+  if (verb == "pressed") {
+    const Calls keysPressed = pressed();
+    return std::accumulate(keysPressed.begin(), keysPressed.end(), std::string());
+  }
+  if (verb == "first") return desk->calls().front();
+  if (verb == "told") return told;
+  if (verb == "delivery") return delivery;
+  if (verb == "before") return std::to_string(changesBefore.value_or(-1));
+  if (verb == "outcome") return outcome;
+  if (verb == "open") return yes(remote->isOpen());
+  if (verb == "trusted") return yes(keys->isTrusted());
+  if (verb == "presses") return std::to_string(presses);
+  if (verb == "held") return yes(hotkey->mayBeHeld());
+  if (verb == "activation") return activation;
+  if (verb == "off") return yes(hotkey->state().isOff);
+  if (verb == "keys") return hotkey->state().otherKeys;
+  if (verb == "count") return std::to_string(pasteboard->changeCount());
+  if (verb == "changes") return std::to_string(changes);
+  if (verb == "text") return isFetched() ? pasteboard->plainText().value_or("none") : "";
+  if (verb == "html") return pasteboard->html().value_or("none");
+  if (verb == "concealed") return yes(pasteboard->isConcealed());
+  if (verb == "written") return yes(pasteboard->isWritten());
+  if (verb == "writing") return writing();
+  if (verb == "received") return desk->received();
+  if (verb == "rtf")
+    return testing::awaited<std::optional<std::string>>(
+               loop, [this](auto done) { return pasteboard->fetchRtf(done); })
+        .value_or("none");
+  ADD_FAILURE() << "no story knows of " << name;
+  return {};
+}
+
+void Story::act(const std::string& line) {
+  const auto [verb, what] = testing::divided(line, " ");
+  const auto [first, rest] = testing::divided(what, " ");
+  const auto await = [this](const std::string& name, const std::string& value) {
+    testing::runUntil(loop, [&] { return stateOf(name) == value; });
+  };
+  const auto shortcut = [this, id = first, session = rest](const char* signal) {
+    desk->emit("GlobalShortcuts", signal, "osta{sv}",
+               session.empty() ? ScriptedPortal::session : session.c_str(), id.c_str(),
+               std::uint64_t{1}, 1, "activation_token", "s", "abc");
+    settle();  // before the texts go
+  };
+  const auto copy = [this, formats = what](ScriptedPortal::Report report) {
+    std::istringstream words(formats);
+    desk->copy({std::istream_iterator<std::string>(words), {}}, report);
+  };
+  const auto transfer = [this](const char* session, const std::string& format) {
+    desk->emit("Clipboard", "SelectionTransfer", "osu", session, format.c_str(), 7U);
+    settle();
+  };
+  const std::map<std::string, std::function<void()>> actions{
+      {"begin",
+       [&] {
+         const auto fields = testing::Json::parse(what);
+         begin(scriptOf(fields), fields.value("stored", ""));
+       }},
+      {"restart",
+       [&] {
+         desk.reset();
+         desk.emplace(scriptOf(testing::Json::parse(what)));
+       }},
+      {"stop", [&] { desk.reset(); }},
+      {"settle", [&] { settle(); }},
+      {"await",
+       [&] {
+         const auto [name, value] = testing::divided(what, " = ");
+         await(name, value);
+       }},
+      {"pause",
+       [&] {
+         const auto end = loop.now() + std::chrono::milliseconds(std::stoi(what));
+         testing::runUntil(loop, [&] { return loop.now() > end; });
+       }},
+      {"close", [&] { desk->emit("Session", "Closed", ""); }},
+      {"forge",
+       [&] {
+         DesktopBus::Signal signal{.sender = nullptr,
+                                   .path = ScriptedPortal::session,
+                                   .interface = "org.freedesktop.portal.Session",
+                                   .name = "Closed",
+                                   .firstArgument = nullptr};
+         forge(signal, "");
+         signal.path = Portal::path;
+         signal.interface = "org.freedesktop.portal.GlobalShortcuts";
+         signal.name = "Activated";
+         forge(signal, "osta{sv}", ScriptedPortal::session, "sign", std::uint64_t{1}, 0);
+         signal.path = "/org/freedesktop/DBus";
+         signal.interface = "org.freedesktop.DBus";
+         signal.name = "NameOwnerChanged";
+         forge(signal, "sss", Portal::service, ":1.1", "");
+       }},
+      {"allow", [&] { desk->allow(); }},
+      {"open",
+       [&] {
+         outcome = "waits";
+         run = remote->open([this](bool isOpen) { outcome = yes(isOpen); });
+       }},
+      {"press",
+       [&] {
+         changesBefore.reset();
+         delivery = "waits";
+         run = keys->press(
+             {.key = Key::c, .modifiers = desktop::Modifiers::command}, {},
+             [this] { changesBefore = pasteboard->changeCount(); },
+             [this](Delivery result) {
+               for (const auto& [name, value] : deliveries)
+                 if (value == result) delivery = name;
+             });
+       }},
+      {"withdraw", [&] { run = {}; }},
+      {"ask-for-trust", [&] { keys->askForTrust(); }},
+      {"quit",
+       [&] {
+         keys.reset();
+         remote.reset();
+       }},
+      {"spoil", [&] { std::ofstream(tokenFile.parent_path()) << "no folder"; }},
+      {"register", [&] { hotkey->registerHotkey(desktop::signingHotkey, [this] { ++presses; }); }},
+      {"ask-again", [&] { hotkey->askAgain(); }},
+      {"activate", [&] { shortcut("Activated"); }},
+      {"deactivate", [&] { shortcut("Deactivated"); }},
+      {"malformed", [&] { desk->emit("GlobalShortcuts", "Activated", "s", "sign"); }},
+      {"unbind",
+       [&] {
+         desk->emit("GlobalShortcuts", "ShortcutsChanged", "oa(sa{sv})", ScriptedPortal::session, 1,
+                    "sign", 1, "trigger_description", "s", "");
+       }},
+      {"watch", [&] { watching = pasteboard->onNextChange([this] { ++changes; }); }},
+      {"copy", [&] { copy(ScriptedPortal::Report::documented); }},
+      {"copy-nested", [&] { copy(ScriptedPortal::Report::nested); }},
+      {"copy-malformed", [&] { copy(ScriptedPortal::Report::malformed); }},
+      {"copy-own", [&] { copy(ScriptedPortal::Report::ofTheAgent); }},
+      {"fetch", [&] { run = pasteboard->fetch([this] { outcome = "fetched"; }); }},
+      {"write", [&] { pasteboard->write({.plainText = what, .html = {}}); }},
+      {"prepare", [&] { run = pasteboard->prepareWrite([this] { outcome = "prepared"; }); }},
+      {"transfer", [&] { transfer(ScriptedPortal::session, what); }},
+      {"transfer-elsewhere", [&] { transfer("/other", what); }},
+      {"read",
+       [&] {
+         for (int times = std::stoi(first); times > 0; --times) {
+           const std::string done = "calls SelectionWriteDone done";
+           const int before = std::stoi(stateOf(done));
+           transfer(ScriptedPortal::session, rest);
+           await(done, std::to_string(before + 1));
+         }
+       }},
+      {"stop-reading", [&] { desk->stopReading(); }}};
+  actions.at(verb)();
+}
+
+using PortalKeys = PortalTest;
+
+TEST(Portal, GoesAsTold) {
+  testing::tell(testing::runningTest(), [](const auto&) { return std::make_unique<Story>(); });
 }
 
 TEST_F(PortalKeys, NeedWhatTheUserAllowsAndRemembersIt) {
@@ -229,11 +448,7 @@ TEST_F(PortalKeys, AreOnlyThoseThatDoNoHarmWhereverTheyGo) {
       {"another window", application(2, "", "a")},
       {"terminal", application(1, "TerminalEmulator", "a")}};
   const std::map<std::string, Key> letters{{"copy", Key::c}, {"paste", Key::v}, {"all", Key::a}};
-  const std::map<std::string, Delivery> outcomes{{"delivered", Delivery::delivered},
-                                                 {"declined", Delivery::declined},
-                                                 {"another document", Delivery::documentChanged},
-                                                 {"keys held", Delivery::keysHeld}};
-  for (const auto& [target, front, key, held, delivery, keysPressed] :
+  for (const auto& [target, front, key, held, expected, keysPressed] :
        testing::cases<std::string, std::string, std::string, bool, std::string, Calls>()) {
     SCOPED_TRACE(target + " " + front + " " + key);
     begin({});
@@ -242,13 +457,13 @@ TEST_F(PortalKeys, AreOnlyThoseThatDoNoHarmWhereverTheyGo) {
     if (key == "paste") offerBlock();
     isHeld = held;
     const auto start = loop.now();
-    EXPECT_EQ(press(letters.at(key), known.at(target)), outcomes.at(delivery));
+    EXPECT_EQ(press(letters.at(key), known.at(target)), deliveries.at(expected));
     // The block has reached every program by then.
     if (!keysPressed.empty() && key == "paste") {
       EXPECT_GE(loop.now() - start, 100ms);
     }
     EXPECT_EQ(pressed(), keysPressed);
-    EXPECT_EQ(changesBefore.has_value(), delivery == "delivered");
+    EXPECT_EQ(changesBefore.has_value(), expected == "delivered");
   }
   const auto terminal = known.at("terminal");
   isTaken = true;  // by the screen lock
@@ -270,149 +485,9 @@ TEST_F(PortalKeys, AreOnlyThoseThatDoNoHarmWhereverTheyGo) {
   EXPECT_THAT(pressed(), IsEmpty());
 }
 
-TEST_F(PortalKeys, AreNotPressedBeforeTheClipboardOfANewSessionIsKnown) {
-  begin({}, "old");
-  const desktop::Ticket report = loop.after(10ms, [&] {
-    testing::runUntil(loop, [&] { return remote->isOpen(); });
-    desk->copy({"text/plain"});
-  });
-  EXPECT_EQ(press(Key::c, {}), Delivery::delivered);
-  EXPECT_EQ(changesBefore, 1);
-}
-
-TEST_F(PortalKeys, SayWhenTheyCannotBeRemembered) {
-  begin({});
-  std::ofstream(tokenFile.parent_path()) << "no folder";
-  EXPECT_TRUE(open());
-  EXPECT_THAT(told, HasSubstr("will ask you again next time"));
-}
-
-TEST_F(PortalKeys, AreAllowedAgainOnlyWhenTheUserSigns) {
-  begin({}, "old");
-  ASSERT_TRUE(open());
-  forge({.sender = nullptr,
-         .path = ScriptedPortal::session,
-         .interface = "org.freedesktop.portal.Session",
-         .name = "Closed",
-         .firstArgument = nullptr},
-        "");
-  forge({.sender = nullptr,
-         .path = "/org/freedesktop/DBus",
-         .interface = "org.freedesktop.DBus",
-         .name = "NameOwnerChanged",
-         .firstArgument = nullptr},
-        "sss", Portal::service, ":1.1", "");
-  EXPECT_TRUE(remote->isOpen());
-  desk->emit("Session", "Closed", "");  // by the user, in the panel
-  testing::runUntil(loop, [&] { return !remote->isOpen(); });
-  EXPECT_EQ(std::ranges::count(desk->calls(), "Start"), 1);
-  EXPECT_EQ(press(Key::c, {}), Delivery::delivered);
-  EXPECT_EQ(std::ranges::count(desk->calls(), "Start"), 2);
-
-  desk.reset();
-  desk.emplace(Script{.answer = 1});  // restarts, and the user refuses
-  testing::runUntil(loop, [&] { return !remote->isOpen(); });
-  EXPECT_EQ(press(Key::c, {}), Delivery::notAllowed);
-  EXPECT_EQ(desk->calls().front(), "Register com.quillseal.agent");
-  EXPECT_FALSE(keys->isTrusted());
-  EXPECT_THAT(told, HasSubstr("did not let Quillseal press keys"));
-  EXPECT_THAT(pressed(), IsEmpty());
-  told.clear();
-  keys->askForTrust();
-  testing::runUntil(loop, [&] { return !told.empty(); });
-  EXPECT_THAT(told, HasSubstr("allow it when the desktop asks"));
-}
-
-TEST_F(PortalKeys, AreNotPressedAfterTheRunWasCalledOffOrTheUserWasElsewhere) {
-  std::optional<Delivery> delivery;
-  const auto pressing = [&] {
-    return keys->press({.key = Key::c, .modifiers = desktop::Modifiers::command}, {}, {},
-                       [&](Delivery result) { delivery = result; });
-  };
-  for (const bool isCalledOff : {true, false}) {
-    begin({.answers = false}, "old");
-    desktop::Ticket run = pressing();
-    testing::runUntil(loop, [&] { return desk->hasCall("Start"); });
-    if (isCalledOff) {
-      run = {};
-    } else {
-      const auto end = loop.now() + 3100ms;
-      testing::runUntil(loop, [&] { return loop.now() > end; });
-    }
-    desk->allow();
-    testing::runUntil(loop, [&] { return remote->isOpen(); });
-    EXPECT_THAT(pressed(), IsEmpty());
-    EXPECT_EQ(delivery.has_value(), !isCalledOff);
-  }
-  EXPECT_EQ(delivery, Delivery::keyboardTaken);
-
-  begin({.answers = false});
-  for (const bool isRestarted : {false, true}) {
-    std::optional<bool> isOpen;
-    const desktop::Ticket opening = remote->open([&](bool result) { isOpen = result; });
-    testing::runUntil(loop, [&] { return desk->hasCall("Start"); });
-    if (!isRestarted) desk->emit("Session", "Closed", "");
-    if (!isRestarted) testing::runUntil(loop, [&] { return isOpen.has_value(); });
-    desk.reset();
-    desk.emplace(Script{.answers = false});
-    testing::runUntil(loop, [&] { return isOpen.has_value(); });
-    EXPECT_EQ(isOpen, false);
-  }
-
-  begin({.answers = false});
-  keys->askForTrust();
-  testing::runUntil(loop, [&] { return desk->hasCall("Start"); });
-  keys.reset();
-  remote.reset();
-  testing::runUntil(loop, [&] { return desk->hasCall("Session.Close"); });
-  EXPECT_TRUE(desk->hasCall("Request.Close"));
-}
-
 // Hotkey ------------------------------------------------------------------------------------------
 
 using PortalHotkeys = PortalTest;
-
-TEST_F(PortalHotkeys, ArePressedOnceUntilTheyAreReleased) {
-  begin({});
-  int presses = 0;
-  hotkey->registerHotkey(desktop::signingHotkey, [&] { ++presses; });
-  const auto tell = [&](const char* signal, const char* id, const char* session) {
-    desk->emit("GlobalShortcuts", signal, "osta{sv}", session, id, std::uint64_t{1}, 1,
-               "activation_token", "s", "abc");
-  };
-  testing::runUntil(loop, [&] { return desk->hasCall("BindShortcuts"); });
-  forge({.sender = nullptr,
-         .path = Portal::path,
-         .interface = "org.freedesktop.portal.GlobalShortcuts",
-         .name = "Activated",
-         .firstArgument = nullptr},
-        "osta{sv}", ScriptedPortal::session, "sign", std::uint64_t{1}, 0);
-  for (const int expected : {1, 2}) {
-    EXPECT_EQ(presses, expected - 1);
-    desk->emit("GlobalShortcuts", "Activated", "s", "malformed");
-    tell("Activated", "sign", "/other");
-    tell("Activated", "other", ScriptedPortal::session);
-    tell("Activated", "sign", ScriptedPortal::session);
-    tell("Activated", "sign", ScriptedPortal::session);
-    testing::runUntil(loop, [&] { return presses == expected; });
-    EXPECT_TRUE(hotkey->mayBeHeld());
-    const auto release = loop.now();
-    tell("Deactivated", "sign", ScriptedPortal::session);
-    testing::runUntil(loop, [&] { return !hotkey->mayBeHeld(); });
-    EXPECT_GE(loop.now() - release, 100ms);  // for the other keys
-    EXPECT_EQ(presses, expected);
-  }
-  EXPECT_EQ(activation, "abc");
-  desk.reset();
-  desk.emplace(Script{});
-  testing::runUntil(loop, [&] { return desk->hasCall("BindShortcuts"); });
-  tell("Activated", "sign", ScriptedPortal::session);
-  testing::runUntil(loop, [&] { return presses == 3; });
-  const auto lost = loop.now() + 1100ms;  // the release, that is
-  testing::runUntil(loop, [&] { return loop.now() > lost; });
-  tell("Activated", "sign", ScriptedPortal::session);
-  testing::runUntil(loop, [&] { return presses == 4; });
-}
 
 TEST_F(PortalHotkeys, AreBoundOnceByAPortalThatTheirCallStarts) {
   testing::overwrite(
@@ -428,21 +503,6 @@ TEST_F(PortalHotkeys, AreBoundOnceByAPortalThatTheirCallStarts) {
   testing::runUntil(loop, [&] { return desk->hasCall("BindShortcuts"); });
   settle();
   EXPECT_EQ(std::ranges::count(desk->calls(), "CreateSession"), 1);
-}
-
-TEST_F(PortalHotkeys, AreBoundAgainWhenTheDesktopEndsThemOnce) {
-  begin({});
-  hotkey->registerHotkey(desktop::signingHotkey, [] {});
-  for (const int bindings : {1, 2}) {
-    testing::runUntil(
-        loop, [&] { return std::ranges::count(desk->calls(), "BindShortcuts") == bindings; });
-    settle();
-    EXPECT_EQ(told, "");
-    desk->emit("Session", "Closed", "");
-  }
-  testing::runUntil(loop, [&] { return !told.empty(); });
-  EXPECT_THAT(told, HasSubstr("has ended Quillseal’s hotkey"));
-  EXPECT_TRUE(hotkey->state().isOff);
 }
 
 TEST_F(PortalHotkeys, AreNamedAsTheDesktopBoundThem) {
@@ -464,22 +524,6 @@ TEST_F(PortalHotkeys, AreNamedAsTheDesktopBoundThem) {
     testing::runUntil(loop, [&] { return isReported; });
     EXPECT_EQ(hotkey->state().otherKeys, "Ctrl+J");
   }
-}
-
-TEST_F(PortalHotkeys, MayHaveNoKeysOrUnknownOnes) {
-  const auto isOff = [this] { return hotkey->state().isOff; };
-  begin({.keys = ""});
-  hotkey->registerHotkey(desktop::signingHotkey, [] {});
-  testing::runUntil(loop, isOff);
-  EXPECT_EQ(told, "");
-  hotkey->askAgain();
-  testing::runUntil(loop, [&] { return !told.empty(); });
-  EXPECT_THAT(told, HasSubstr("has no keys"));
-  EXPECT_TRUE(isOff());
-  desk->emit("GlobalShortcuts", "ShortcutsChanged", "oa(sa{sv})", ScriptedPortal::session, 1,
-             "sign", 1, "trigger_description", "s", "");
-  testing::runUntil(loop, [&] { return !isOff(); });
-  EXPECT_EQ(hotkey->state().otherKeys, "the shortcut of your choice");
 }
 
 TEST_F(PortalHotkeys, ThatWereRefusedAreAskedForOnlyWhenTheUserWants) {
@@ -532,179 +576,7 @@ TEST_F(PortalHotkeys, ThatWereRefusedAreAskedForOnlyWhenTheUserWants) {
 
 // Clipboard ---------------------------------------------------------------------------------------
 
-class PortalClipboard : public PortalTest {
- protected:
-  using Report = ScriptedPortal::Report;
-
-  void fetch() {
-    bool isFetched = false;
-    const desktop::Ticket fetching = pasteboard->fetch([&] { isFetched = true; });
-    testing::runUntil(loop, [&] { return isFetched; });
-  }
-
-  void await(std::int64_t changeCount) {
-    testing::runUntil(loop, [&] { return pasteboard->changeCount() == changeCount; });
-  }
-
-  /// Returns what the user is told.
-  std::string writing() {
-    try {
-      pasteboard->write({.plainText = "block", .html = "<p>"});
-      return {};
-    } catch (const Error& error) {
-      return error.what();
-    }
-  }
-
-  std::string preparedWriting() {
-    bool isReady = false;
-    const desktop::Ticket preparing = pasteboard->prepareWrite([&] { isReady = true; });
-    testing::runUntil(loop, [&] { return isReady; });
-    return writing();
-  }
-
-  std::string markupOnX() {
-    return testing::awaited<X11Selection::Content>(loop, [this](auto done) {
-      return X11Selection::read(
-          {.loop = loop, .descriptors = loop},
-          {.selection = X11Selection::Name::clipboard, .formats = {{"text/html"}}, .isEnough = {}},
-          done);
-    })["text/html"];
-  }
-};
-
-TEST_F(PortalClipboard, HoldsWhatWasCopied) {
-  begin({});
-  desk->copy({"text/plain"});  // before there is a session
-  settle();
-  ASSERT_TRUE(open());
-  EXPECT_EQ(pasteboard->changeCount(), 0);
-  int changes = 0;
-  const desktop::Ticket watch = pasteboard->onNextChange([&] { ++changes; });
-  desk->copy({"image/png"}, Report::malformed);
-  desk->copy({}, Report::documented);  // nobody's, before the real one
-  desk->copy({"text/plain"}, Report::ofTheAgent);
-  desk->copy({"text/html", "text/plain;charset=utf-8", "UTF8_STRING"});
-  await(1);
-  fetch();
-  EXPECT_EQ(changes, 1);
-  EXPECT_EQ(pasteboard->plainText(), "UTF8_STRING");
-  EXPECT_EQ(pasteboard->html(), "text/html");
-  EXPECT_FALSE(pasteboard->isConcealed());
-
-  desk->copy({"text/plain"}, Report::nested);
-  await(2);
-  fetch();
-  EXPECT_EQ(pasteboard->plainText(), "text/plain");
-
-  desk->copy({"text/plain", "text/rtf", "x-kde-passwordManagerHint"});
-  await(3);
-  fetch();
-  EXPECT_TRUE(pasteboard->isConcealed());
-  EXPECT_EQ(pasteboard->plainText(), std::nullopt);
-
-  desk->copy({"text/rtf"});
-  await(4);
-  std::optional<std::string> rtf;
-  const desktop::Ticket fetching =
-      pasteboard->fetchRtf([&](std::optional<std::string> bytes) { rtf = std::move(bytes); });
-  testing::runUntil(loop, [&] { return rtf.has_value(); });
-  EXPECT_EQ(rtf, "text/rtf");
-}
-
-TEST_F(PortalClipboard, OutlivesEveryOwner) {
-  for (const Owner owner : {Owner::isReplaced, Owner::isSilent, Owner::writesTooMuch, Owner::closes,
-                            Owner::givesNoFile}) {
-    begin({.owner = owner});
-    ASSERT_TRUE(open());
-    desk->copy({"text/plain"});
-    await(1);
-    const auto start = loop.now();
-    fetch();
-    EXPECT_EQ(pasteboard->plainText(), std::nullopt);
-    EXPECT_LT(loop.now() - start, 2s);
-  }
-  begin({.owner = Owner::isSilent});
-  ASSERT_TRUE(open());
-  desk->copy({"text/plain"});
-  await(1);
-  bool isFetched = false;
-  const desktop::Ticket fetching = pasteboard->fetch([&] { isFetched = true; });
-  testing::runUntil(loop, [&] { return desk->hasCall("SelectionRead"); });
-  desk->copy({"text/html"});
-  testing::runUntil(loop, [&] { return isFetched; });
-  EXPECT_EQ(pasteboard->html(), std::nullopt);
-}
-
-TEST_F(PortalClipboard, OffersTheBlockOrSaysThatItDoesNot) {
-  begin({});
-  EXPECT_THAT(writing(), StartsWith("The clipboard could not be written. "));
-  ASSERT_TRUE(open());
-  EXPECT_EQ(writing(), "");
-  EXPECT_EQ(pasteboard->changeCount(), 1);
-  EXPECT_TRUE(desk->hasCall("SetSelection"));
-  settle();
-  EXPECT_FALSE(pasteboard->isWritten());
-  desk->copy({"text/plain"}, Report::ofTheAgent);
-  testing::runUntil(loop, [&] { return pasteboard->isWritten(); });
-  desk->copy({"text/plain"});
-  testing::runUntil(loop, [&] { return !pasteboard->isWritten(); });
-  desk->copy({"text/plain"}, Report::ofTheAgent);
-  desk->emit("Clipboard", "SelectionTransfer", "osu", "/other", "text/plain", 6U);
-  constexpr int transfers = 24;  // more than are served at once
-  for (int transfer = 0; transfer < transfers; ++transfer) {
-    const bool isHtml = transfer % 2 == 0;
-    desk->emit("Clipboard", "SelectionTransfer", "osu", ScriptedPortal::session,
-               isHtml ? "text/html" : "text/plain", 7U);
-    const auto before = std::ranges::count(desk->calls(), "SelectionWriteDone done");
-    testing::runUntil(loop, [&] {
-      return std::ranges::count(desk->calls(), "SelectionWriteDone done") > before;
-    });
-    EXPECT_EQ(desk->received(), isHtml ? "<p>" : "block");
-  }
-  EXPECT_EQ(std::ranges::count(desk->calls(), "SelectionWrite"), transfers);
-  EXPECT_TRUE(pasteboard->isWritten());
-  // The reader goes in the middle.
-  pasteboard->write({.plainText = std::string(std::size_t{1} << 20, 'x'), .html = {}});
-  EXPECT_FALSE(pasteboard->isWritten());
-  desk->emit("Clipboard", "SelectionTransfer", "osu", ScriptedPortal::session, "text/plain", 8U);
-  testing::runUntil(
-      loop, [&] { return std::ranges::count(desk->calls(), "SelectionWrite") > transfers; });
-  settle();
-  desk->stopReading();
-  testing::runUntil(loop, [&] { return desk->hasCall("SelectionWriteDone failed"); });
-
-  begin({.takenSelections = 1});
-  ASSERT_TRUE(open());
-  EXPECT_EQ(writing(), "");
-  EXPECT_THROW(pasteboard->write({.plainText = "other", .html = "<p>"}), Error);
-  desk->emit("Clipboard", "SelectionTransfer", "osu", ScriptedPortal::session, "text/plain", 9U);
-  testing::runUntil(loop, [&] { return desk->hasCall("SelectionWriteDone done"); });
-  EXPECT_EQ(desk->received(), "block");
-  begin({.offer = {.remoteDesktop = 2}});
-  ASSERT_TRUE(open());
-  EXPECT_THAT(writing(), HasSubstr("did not take"));
-  EXPECT_FALSE(desk->hasCall("RequestClipboard"));
-}
-
-TEST_F(PortalClipboard, OpensALostSessionAgainOrSaysWhyNot) {
-  begin({}, "old");
-  ASSERT_TRUE(open());
-  desk->emit("Session", "Closed", "");
-  testing::runUntil(loop, [&] { return !remote->isOpen(); });
-  EXPECT_EQ(preparedWriting(), "");
-  EXPECT_TRUE(desk->hasCall("SetSelection"));
-
-  begin({.answer = 1});
-  EXPECT_THAT(preparedWriting(), HasSubstr("Your desktop did not let Quillseal"));
-  begin({.answers = false});
-  EXPECT_THAT(preparedWriting(), HasSubstr("has not answered yet"));
-  desk->allow();
-  EXPECT_EQ(preparedWriting(), "");
-  desk.reset();
-  testing::runUntil(loop, [&] { return !remote->isOpen(); });
-  EXPECT_THAT(preparedWriting(), HasSubstr("does not let Quillseal in"));
-}
+using PortalClipboard = PortalTest;
 
 // As on a desktop that keeps the X server's clipboard equal to its own.
 TEST_F(PortalClipboard, IsHandedOverToAKeeperWhenTheSessionEnds) {
@@ -720,7 +592,7 @@ TEST_F(PortalClipboard, IsHandedOverToAKeeperWhenTheSessionEnds) {
     offerBlock();
     const std::string markup = "<p>" + std::to_string(static_cast<int>(end));
     pasteboard->write({.plainText = "block", .html = markup});
-    desk->copy({"text/plain"}, Report::ofTheAgent);
+    desk->copy({"text/plain"}, ScriptedPortal::Report::ofTheAgent);
     testing::runUntil(loop, [&] { return pasteboard->isWritten(); });
     if (end == End::ofOffer) {
       EXPECT_NE(writing(), "");  // and the offer before it stays

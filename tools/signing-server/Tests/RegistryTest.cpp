@@ -1,4 +1,5 @@
 #include <atomic>
+#include <barrier>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -84,35 +85,30 @@ TEST_F(RegistryTest, ASignatureThatCannotBeRecordedEndsNoHandoff) {
 }
 
 TEST_F(RegistryTest, OfManyThreadsOneEndsAHandoff) {
-  constexpr int threads = 4;
-  constexpr int handoffs = 50;
   Registry registry(":memory:");
-  Handoff handoff;
-  for (int i = 0; i < handoffs; ++i) {
-    handoff.id = std::to_string(i);
+  for (int round = 0; round < 50; ++round) {
+    Handoff handoff;
+    handoff.id = std::to_string(round);
     registry.open(handoff);
-  }
-  std::atomic<int> ended = 0;
-  std::vector<std::thread> workers;
-  for (int worker = 0; worker < threads; ++worker) {
-    workers.emplace_back([&, worker] {
-      for (int i = 0; i < handoffs; ++i) {
+    std::barrier start(4);
+    std::atomic<int> ended = 0, recorded = 0;
+    std::vector<std::jthread> workers;
+    for (int worker = 0; worker < 4; ++worker) {
+      workers.emplace_back([&, id = handoff.id + '/' + std::to_string(worker)] {
         Signature signature;
-        signature.id = std::to_string(worker) + '/' + std::to_string(i);
-        if (registry.complete(std::to_string(i), signature)) ++ended;
-      }
-    });
+        signature.id = id;
+        start.arrive_and_wait();
+        const bool hasEnded = registry.complete(handoff.id, signature);
+        if (hasEnded) ++ended;
+        start.arrive_and_wait();
+        if (registry.signature(id)) ++recorded;
+        EXPECT_EQ(registry.handoff(handoff.id)->signatureId == id, hasEnded);
+      });
+    }
+    workers.clear();
+    EXPECT_EQ(ended, 1);
+    EXPECT_EQ(recorded, 1) << "only the signature that ended the handoff is recorded";
   }
-  for (std::thread& worker : workers)
-    worker.join();
-  EXPECT_EQ(ended, handoffs);
-  int recorded = 0;
-  for (int worker = 0; worker < threads; ++worker)
-    for (int i = 0; i < handoffs; ++i)
-      if (registry.signature(std::to_string(worker) + '/' + std::to_string(i))) ++recorded;
-  EXPECT_EQ(recorded, handoffs) << "only the signature that ended the handoff is recorded";
-  for (int i = 0; i < handoffs; ++i)
-    EXPECT_TRUE(registry.signature(registry.handoff(std::to_string(i))->signatureId).has_value());
 }
 
 TEST_F(RegistryTest, LeavesAFileThatIsNotItsOwnAlone) {

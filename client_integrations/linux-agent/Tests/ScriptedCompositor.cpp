@@ -128,7 +128,7 @@ struct ScriptedCompositor::Server {
       cancelSource();
       source = reinterpret_cast<wl_resource*>(its[0].o);
       if (!traits.takesSelections) return cancelSource();
-      offered[clipboard].emplace();
+      offered[clipboard].emplace().answer = "source";
       for (const std::string& format : sourceFormats)
         offered[clipboard]->formats[format] = "";
       tell(clipboard);
@@ -167,6 +167,11 @@ struct ScriptedCompositor::Server {
     const auto found = entry.formats.find(format);
     const std::string text = found == entry.formats.end() ? "" : found->second;
     const std::string& how = entry.answer;
+    if (how == "source") {
+      if (source != nullptr) zwlr_data_control_source_v1_send_send(source, format.c_str(), file);
+      ::close(file);
+      return;
+    }
     if (how == "all" || how == "endless" || (how == "onlyOnce" && asked.size() == 1)) {
       writers.emplace_back(pour, file, text, how == "endless");
       return;

@@ -359,11 +359,10 @@ void Story::press(const std::string& keys, const std::string& outcome) {
                                                          {"paste", pasteKeys},
                                                          {"select all", selectAllKeys},
                                                          {"nowhere", pasteKeys}};
-  const std::map<std::string, Delivery> outcomes{{"delivered", Delivery::delivered},
-                                                 {"declined", Delivery::declined},
-                                                 {"keyboard taken", Delivery::keyboardTaken},
-                                                 {"another document", Delivery::documentChanged},
-                                                 {"closed", Delivery::targetClosed}};
+  const std::map<std::string, Delivery> outcomes{
+      {"delivered", Delivery::delivered},          {"declined", Delivery::declined},
+      {"keyboard taken", Delivery::keyboardTaken}, {"another document", Delivery::documentChanged},
+      {"not written", Delivery::notWritten},       {"closed", Delivery::targetClosed}};
   EXPECT_EQ(agent->press(presses.at(keys), keys == "nowhere" ? std::nullopt : target),
             outcomes.at(outcome));
 }

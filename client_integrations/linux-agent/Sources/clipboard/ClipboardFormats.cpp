@@ -44,6 +44,11 @@ const Groups& wanted() {
   return groups;
 }
 
+const Groups& wantedForText() {
+  static const Groups groups(wanted().begin(), wanted().begin() + markup);
+  return groups;
+}
+
 const Groups& wantedForRtf() {
   static const Groups groups = {{concealed}, {passwordHint}, {"text/rtf", "application/rtf"}};
   return groups;

@@ -30,7 +30,8 @@ using Groups = std::vector<std::vector<std::string>>;
 [[nodiscard]] std::vector<std::string> chosen(const Groups& groups,
                                               const std::vector<std::string>& offered);
 
-/// Returns the formats that are read for RTF, the marks of a secret first.
+/// Return the formats that are read for plain text or RTF only, the marks of a secret first.
+[[nodiscard]] const Groups& wantedForText();
 [[nodiscard]] const Groups& wantedForRtf();
 
 /// The formats of `wanted` that hold plain text.

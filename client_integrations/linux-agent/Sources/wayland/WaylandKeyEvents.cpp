@@ -78,6 +78,8 @@ class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
     if (!services_.connection.isAlive() || !services_.keyboard.isUsable())
       return Delivery::notAllowed;
     if (!wish_.target) return Delivery::declined;
+    if (wish_.press.key == desktop::Key::v && !services_.pasteboard.isWritten())
+      return Delivery::notWritten;
     const std::optional<WaylandWindow> window = services_.windows.withId(wish_.target->instance);
     if (!window) return Delivery::targetClosed;
     if (!window->isActive)

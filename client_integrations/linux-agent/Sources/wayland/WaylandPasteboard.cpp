@@ -42,6 +42,9 @@ struct WaylandPasteboard::State {
   /// The window whose primary selection counts as the last copy.
   std::optional<std::uint64_t> takenFrom{};
   std::chrono::steady_clock::time_point lastWrite{};
+  std::optional<std::string> written{};  ///< the text of the last write
+  std::optional<bool> isWritten = true;  ///< nothing when the clipboard has changed since
+  desktop::Ticket comparing{};
 
   [[nodiscard]] std::shared_ptr<Offer> current() const {
     if (!takenFrom) return clipboard;
@@ -52,6 +55,9 @@ struct WaylandPasteboard::State {
     const bool isLatest = offer != nullptr && latest != nullptr && latest->offer.get() == offer;
     return isLatest ? std::exchange(latest, nullptr) : nullptr;
   }
+
+  /// Reads the text that programs would paste now.
+  void compare();
 
   static State& of(void* data) { return *static_cast<State*>(data); }
 
@@ -72,6 +78,7 @@ struct WaylandPasteboard::State {
     State& state = of(data);
     state.clipboard = state.taken(offer);
     state.takenFrom.reset();
+    if (state.written) state.isWritten.reset();
     if (state.clipboard != nullptr) state.pasteboard.change();
   }
   static void selected(void* data, zwlr_data_control_device_v1* /*device*/,
@@ -212,6 +219,14 @@ class WaylandPasteboard::Reading : public std::enable_shared_from_this<Reading> 
   desktop::Ticket timer_;
 };
 
+void WaylandPasteboard::State::compare() {
+  isWritten = false;
+  comparing = Reading::start(*this, ClipboardFormats::wantedForText(),
+                             [this](const ClipboardFormats::Content& content) {
+                               isWritten = ClipboardFormats::plainTextOf(content) == written;
+                             });
+}
+
 WaylandPasteboard::WaylandPasteboard(const Services& services, ClipboardKeeper keeper,
                                      Patience patience)
     : FetchingPasteboard(services.loop),
@@ -240,6 +255,13 @@ desktop::Ticket WaylandPasteboard::read(const ClipboardFormats::Groups& groups,
 void WaylandPasteboard::write(const desktop::PasteboardContent& content) {
   static_cast<void>(state_->keeper.keep(content));  // no window owns a Wayland clipboard
   state_->lastWrite = std::chrono::steady_clock::now();
+  state_->written = content.plainText;
+  state_->isWritten = false;  // until the compositor reports it
+}
+
+bool WaylandPasteboard::isWritten() const {
+  if (!state_->isWritten) state_->compare();
+  return *state_->isWritten;
 }
 
 void WaylandPasteboard::takePrimarySelectionOf(std::uint64_t window) {

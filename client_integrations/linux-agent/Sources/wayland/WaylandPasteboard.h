@@ -35,6 +35,11 @@ class WaylandPasteboard : public FetchingPasteboard {
 
   void write(const desktop::PasteboardContent& content) override;
 
+  /// Compares texts, not owners: clipboard managers commonly take over every copy. The first call
+  /// after a change begins to read the text, and this is false until it has been read. Nothing that
+  /// people copy later is read unasked.
+  [[nodiscard]] bool isWritten() const override;
+
   /// Uses the primary selection as the copied text if it was made in that window while this program
   /// ran: for programs without a key that copies. Does not change the clipboard.
   void takePrimarySelectionOf(std::uint64_t window);

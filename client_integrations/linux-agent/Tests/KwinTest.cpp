@@ -134,6 +134,7 @@ TEST_F(KwinKeys, AreThoseOfTheLayoutInUse) {
     std::vector<Keysym> pressed;
     for (const char key : chord)
       pressed.push_back(symbols.contains(key) ? symbols.at(key) : static_cast<Keysym>(key));
+    keyboard.releaseHeldKeys();
     keyboard.tap(pressed);
     EXPECT_TRUE(connection->roundTrip());
     EXPECT_EQ(chordIn(compositor.keys()), keys) << layout << used << chord;

@@ -67,6 +67,7 @@ struct SlowKeyboard : AgentKeyboard {
     if (const auto once = std::exchange(meanwhile, nullptr)) once();
   }
   [[nodiscard]] bool reachesActiveWindow() const override { return its->reachesActiveWindow(); }
+  void releaseHeldKeys() override { its->releaseHeldKeys(); }
   void tap(std::span<const Keysym> chord) override { its->tap(chord); }
 
   std::unique_ptr<AgentKeyboard> its;

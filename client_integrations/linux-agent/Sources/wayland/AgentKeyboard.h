@@ -25,6 +25,10 @@ class AgentKeyboard {
   /// as the lock screen or the overview of all windows.
   [[nodiscard]] virtual bool reachesActiveWindow() const = 0;
 
+  /// Releases the keys that the user holds, where they would affect the keys pressed next. That may
+  /// bring another window to the front, as the end of Alt+Tab does.
+  virtual void releaseHeldKeys() {}
+
   /// Presses the keys in order and releases them in reverse order. Supports only the keys that
   /// copy, paste and select all.
   virtual void tap(std::span<const Keysym> chord) = 0;

@@ -66,6 +66,13 @@ std::optional<std::uint32_t> layoutInUse(DesktopBus& bus) {
 
 struct KwinKeyboard::Device {
   wayland::ProxyHandle<org_kde_kwin_fake_input> input;
+
+  void press(std::uint32_t key) const {
+    org_kde_kwin_fake_input_keyboard_key(input.get(), key, WL_KEYBOARD_KEY_STATE_PRESSED);
+  }
+  void release(std::uint32_t key) const {
+    org_kde_kwin_fake_input_keyboard_key(input.get(), key, WL_KEYBOARD_KEY_STATE_RELEASED);
+  }
 };
 
 KwinKeyboard::KwinKeyboard(WaylandConnection& connection, DesktopBus* bus)
@@ -115,27 +122,36 @@ std::vector<std::uint32_t> KwinKeyboard::keysFor(std::span<const Keysym> chord) 
   return keys;
 }
 
-void KwinKeyboard::tap(std::span<const Keysym> chord) {
-  if (device_ == nullptr) {
-    device_ = std::make_unique<Device>();
-    device_->input.reset(
-        connection_.bind<org_kde_kwin_fake_input>(org_kde_kwin_fake_input_interface, version));
-    if (device_->input == nullptr) return device_.reset();
-    org_kde_kwin_fake_input_authenticate(device_->input.get(), "Quillseal",
-                                         "copies the selection and pastes the signed text");
-  }
-  const auto set = [this](std::uint32_t key, wl_keyboard_key_state state) {
-    org_kde_kwin_fake_input_keyboard_key(device_->input.get(), key, state);
-  };
-  std::vector<std::uint32_t> keys = keysFor(chord);
-  set(keyOfHotkey(), WL_KEYBOARD_KEY_STATE_RELEASED);
+KwinKeyboard::Device* KwinKeyboard::device() {
+  if (device_ != nullptr) return device_.get();
+  auto* const input =
+      connection_.bind<org_kde_kwin_fake_input>(org_kde_kwin_fake_input_interface, version);
+  if (input == nullptr) return nullptr;
+  device_ = std::make_unique<Device>();
+  device_->input.reset(input);
+  org_kde_kwin_fake_input_authenticate(input, "Quillseal",
+                                       "copies the selection and pastes the signed text");
+  return device_.get();
+}
+
+void KwinKeyboard::releaseHeldKeys() {
+  Device* const keyboard = device();
+  if (keyboard == nullptr) return;
+  keyboard->release(keyOfHotkey());
   for (const int key : holdable)
-    set(static_cast<std::uint32_t>(key), WL_KEYBOARD_KEY_STATE_RELEASED);
+    keyboard->release(static_cast<std::uint32_t>(key));
+  connection_.flush();
+}
+
+void KwinKeyboard::tap(std::span<const Keysym> chord) {
+  Device* const keyboard = device();
+  if (keyboard == nullptr) return;
+  std::vector<std::uint32_t> keys = keysFor(chord);
   for (const std::uint32_t key : keys)
-    set(key, WL_KEYBOARD_KEY_STATE_PRESSED);
+    keyboard->press(key);
   std::ranges::reverse(keys);
   for (const std::uint32_t key : keys)
-    set(key, WL_KEYBOARD_KEY_STATE_RELEASED);
+    keyboard->release(key);
   connection_.flush();
 }
 

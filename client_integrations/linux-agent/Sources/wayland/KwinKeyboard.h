@@ -13,7 +13,7 @@
 namespace quillseal::linux {
 
 /// Key presses through KWin's fake-input. They count as pressed on the user's keyboard in the
-/// active layout, so keys that the user holds are released first.
+/// active layout, so keys that the user holds are to be released first.
 class KwinKeyboard : public AgentKeyboard {
  public:
   /// Both outlive this object. Where `bus` is null nobody tells whether the screen is locked, and
@@ -28,6 +28,8 @@ class KwinKeyboard : public AgentKeyboard {
   void prepare() override;
   [[nodiscard]] bool reachesActiveWindow() const override { return !isCovered_; }
 
+  void releaseHeldKeys() override;
+
   /// Copies with Ctrl+Insert and pastes with Shift+Insert where the layouts have no key for the
   /// letter, or the active layout is not known. In that case other letters are pressed only if no
   /// layout has them.
@@ -36,6 +38,8 @@ class KwinKeyboard : public AgentKeyboard {
  private:
   struct Device;
 
+  /// Null when the compositor has withdrawn its protocol.
+  [[nodiscard]] Device* device();
   [[nodiscard]] std::optional<std::uint32_t> keyFor(Keysym symbol);
   [[nodiscard]] std::vector<std::uint32_t> keysFor(std::span<const Keysym> chord);
 

@@ -55,11 +55,16 @@ class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
 
  private:
   void comeBackAfter(milliseconds delay) {
+    areKeysReleased_ = false;  // the user may hold others by then
     waiting_ = services_.loop.after(delay, [this] {
       services_.keyboard.prepare();
-      // Decide on the compositor's latest state.
-      waiting_ = services_.connection.catchUp([this] { step(); });
+      stepOnLatestState();
     });
+  }
+
+  /// Waits until the compositor has sent its latest state.
+  void stepOnLatestState() {
+    waiting_ = services_.connection.catchUp([this] { step(); });
   }
 
   void step() {
@@ -68,7 +73,13 @@ class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
                                  delivery != Delivery::targetClosed &&
                                  delivery != Delivery::notAllowed && wish_.target;
     if (mayBecomeTarget && services_.loop.now() < latest_) return comeBackAfter(polling);
-    if (delivery == Delivery::delivered) press();
+    if (delivery == Delivery::delivered) {
+      if (!std::exchange(areKeysReleased_, true)) {
+        services_.keyboard.releaseHeldKeys();
+        return stepOnLatestState();
+      }
+      press();
+    }
     if (delivery == Delivery::notAllowed) services_.explain();
     finish(delivery);
   }
@@ -111,6 +122,7 @@ class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
   Wish wish_;
   desktop::MainLoop::TimePoint earliest_;
   desktop::MainLoop::TimePoint latest_;
+  bool areKeysReleased_ = false;
   desktop::Ticket waiting_;
 };
 

@@ -59,6 +59,19 @@ class KwinWindows(OnKwin, wayland.SharedWindows, WindowStory):
         self.assert_pasted_nowhere()
         self.desktop.person.tell("up")
 
+    def test_nothing_is_pasted_where_the_choice_of_a_window_ends(self):
+        (self.desktop.home / ".config/kwinrc").write_text("[TabBox]\nHighlightWindows=false\n")
+        self.desktop.call_kwin("/KWin", "org.kde.KWin.reconfigure")
+        chat = self.open_chat()
+        letter = self.open_letter()
+        with self.while_the_server_is_slow():
+            self.desktop.wait_for_window(re.escape(letter.file.name))
+            self.desktop.person.tell("down Alt_L Tab")
+        self.desktop.wait_for_window(windows.PASTE_YOURSELF)
+        self.desktop.person.tell("up")
+        self.assert_left_on_clipboard("something else is in front of the source")
+        self.assert_untouched(chat, windows.CHAT)
+
 
 class KwinLock(WindowStory):
     def make_desktop(self):

@@ -57,7 +57,8 @@ enum class Delivery {
   declined,         ///< another window than the target would have got it
   keyboardTaken,    ///< something that is no other window has the keyboard, as a menu may
   keysHeld,         ///< the user held the keys of the hotkey for too long
-  notAllowed,       ///< the desktop lets this program press none; the adapter has explained that
+  notAllowed,       ///< the desktop lets this program press none; unless it was to paste, the
+                    ///< adapter has explained that
   notWritten,       ///< the target would have pasted something else than what was last written
   documentChanged,  ///< the target shows another document, tab or field than it did
   targetClosed,     ///< the target has ended

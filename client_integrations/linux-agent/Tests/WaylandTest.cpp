@@ -192,6 +192,8 @@ TEST(WaylandReach, EndsWithTheCompositor) {
   compositor.reset();
   testing::runUntil(agent.loop, [&] { return hasEnded; });
   EXPECT_FALSE(agent.keys.isTrusted());
+  EXPECT_EQ(agent.press(pasteKeys, front), Delivery::notAllowed);
+  EXPECT_EQ(agent.explanations, 0);  // the agent says where the block is
   EXPECT_EQ(agent.press(copyKeys, front), Delivery::notAllowed);
   EXPECT_EQ(agent.explanations, 1);
   EXPECT_EQ(agent.plainText(), std::nullopt);

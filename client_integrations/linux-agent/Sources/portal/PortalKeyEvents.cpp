@@ -62,8 +62,9 @@ desktop::Ticket PortalKeyEvents::press(desktop::KeyPress press,
 }
 
 Task<Delivery> PortalKeyEvents::deliverOrExplain(Wish wish) {
+  const bool isPaste = wish.press.key == Key::v;
   const Delivery delivery = co_await deliver(std::move(wish));
-  if (delivery == Delivery::notAllowed) services_.explain();
+  if (delivery == Delivery::notAllowed && !isPaste) services_.explain();
   co_return delivery;
 }
 

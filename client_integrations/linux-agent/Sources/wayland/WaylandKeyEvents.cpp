@@ -80,7 +80,8 @@ class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
       }
       press();
     }
-    if (delivery == Delivery::notAllowed) services_.explain();
+    const bool isPaste = wish_.press.key == desktop::Key::v;
+    if (delivery == Delivery::notAllowed && !isPaste) services_.explain();
     finish(delivery);
   }
 

@@ -106,6 +106,7 @@ struct LinuxDesktop::Parts {
         system(chosen(std::move(access),
                       {.loop = loop,
                        .descriptors = descriptors,
+                       .log = log,
                        .entries = entries,
                        .shortcuts = shortcuts,
                        .explain = [this] { warn(system->limits()); },

@@ -41,6 +41,7 @@ class PortalSystemTest : public ::testing::Test {
                    WindowingSystem::Services{
                        .loop = loop,
                        .descriptors = loop,
+                       .log = log,
                        .entries = entries,
                        .shortcuts = user,
                        .explain = [] {},
@@ -56,6 +57,7 @@ class PortalSystemTest : public ::testing::Test {
   testing::TemporaryFolder folder;
   PollLoop loop;
   testing::ScriptedUser user;
+  testing::FakeLog log{user};
   LoadedDesktopEntries entries{LoadedModule({.places = {}, .version = "", .duty = ""})};
   std::optional<ScriptedPortal> desk;
   std::optional<PortalSystem> system;

@@ -80,8 +80,8 @@ struct Story {
         .activated = [this](const std::string& value) { activation = value; }});
     pasteboard.emplace(
         PortalPasteboard::Services{
-            .loop = loop, .descriptors = loop, .portal = *portal, .remote = *remote},
-        ClipboardKeeper({QUILLSEAL_CLIPBOARD_KEEPER_FOR_X11}),
+            .loop = loop, .descriptors = loop, .portal = *portal, .remote = *remote, .log = log},
+        ClipboardKeeper({keeper}),
         PortalPasteboard::Patience{{.silence = 200ms, .transfer = 400ms, .largest = 1000}, 500ms});
     keys.emplace(PortalKeyEvents::Services{.loop = loop,
                                            .remote = *remote,
@@ -182,9 +182,11 @@ struct Story {
   testing::Record record;
   testing::FakeApplications applications{record};
   testing::FakeDefaults defaults{record};
+  testing::FakeLog log{record};
   bool isHeld = false;
   bool isTaken = false;
   std::function<void()> meanwhile;  ///< happens before the compositor has told its latest state
+  std::filesystem::path keeper = QUILLSEAL_CLIPBOARD_KEEPER_FOR_X11;
   std::string told;
   std::string activation;
   desktop::Ticket catchingUp;
@@ -538,7 +540,13 @@ TEST_F(PortalClipboard, IsHandedOverToAKeeperWhenTheSessionEnds) {
       testing::runUntil(loop, [&] { return markupOnX() == markup; });
     }
   }
+  EXPECT_THAT(record.trace, Not(Contains(HasSubstr("[inject]"))));
   ::unsetenv("DISPLAY");
+  keeper = "/missing";
+  begin({});
+  ASSERT_TRUE(open());
+  offerBlock();
+  EXPECT_THAT(record.trace, Contains(HasSubstr("[inject] The clipboard cannot be kept")));
 }
 
 // Offer -------------------------------------------------------------------------------------------

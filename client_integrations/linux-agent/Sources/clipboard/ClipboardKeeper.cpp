@@ -33,6 +33,12 @@ constexpr std::chrono::seconds patience{5};
                .description = "The clipboard could not be written: " + reason});
 }
 
+[[noreturn]] void failToWait(const std::string& reason) {
+  throw Error({.domain = "ClipboardKeeper",
+               .code = 2,
+               .description = "The clipboard cannot be kept after the end: " + reason});
+}
+
 bool endsInTime(pid_t process) {
   const FileDescriptor running(static_cast<int>(syscall(SYS_pidfd_open, process, 0)));
   if (!running.isOpen()) return false;
@@ -95,16 +101,16 @@ ClipboardKeeper::Waiting ClipboardKeeper::keepLater(
   const auto place = firstProgram(places_);
   const FileDescriptor input = inputWith(content);
   std::array<int, 2> ends{-1, -1};
-  if (!place || !input.isOpen() ||
-      socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0)
-    return {};
+  if (!place) failToWait("a program of Quillseal is missing.");
+  if (!input.isOpen() || socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0)
+    failToWait("there is not enough memory.");
   FileDescriptor ours(ends[0]);
   const FileDescriptor ofKeeper(ends[1]);
   const auto process = start({.file = *place,
                               .arguments = {std::string(waiting)},
                               .input = input.get(),
                               .output = ofKeeper.get()});
-  if (!process || !endsWell(*process)) return {};
+  if (!process || !endsWell(*process)) failToWait(place->string() + " could not be started.");
   return Waiting(std::move(ours));
 }
 

@@ -46,8 +46,8 @@ class ClipboardKeeper {
   [[nodiscard]] std::uint32_t keep(const desktop::PasteboardContent& content) const;
 
   /// Starts a keeper for X11 that waits. When the result is gone, it offers `content` on the X
-  /// server's clipboard, if that holds the same plain text or nothing. Returns none when no keeper
-  /// can be started.
+  /// server's clipboard, if that holds the same plain text or nothing. Throws Error when none can
+  /// wait.
   [[nodiscard]] Waiting keepLater(const desktop::PasteboardContent& content) const;
 
  private:

@@ -231,6 +231,16 @@ struct PortalPasteboard::State {
     co_return false;
   }
 
+  /// Without a keeper the desktop keeps the plain text at most.
+  void keepLater(const desktop::PasteboardContent& content) {
+    waiting.dismiss();
+    try {
+      waiting = keeper.keepLater(content);
+    } catch (const Error& error) {
+      services.log.write(std::string("[inject] ") + error.what());
+    }
+  }
+
   /// Why nothing could be written, and what to do, for the user.
   [[nodiscard]] std::string obstacle() const {
     if (isAsking)
@@ -304,8 +314,7 @@ void PortalPasteboard::write(const desktop::PasteboardContent& content) {
                        Portal::append(*call, {{"mime_types", offeredFormats()}}) &&
                        services.portal.bus().send(*call) != nullptr;
   if (isTaken) {
-    state_->waiting.dismiss();
-    state_->waiting = state_->keeper.keepLater(content);
+    state_->keepLater(content);
     return change();
   }
   state_->written = std::move(before);

@@ -7,6 +7,7 @@
 
 #include "clipboard/ClipboardKeeper.h"
 #include "clipboard/FetchingPasteboard.h"
+#include "desktop/Log.h"
 #include "desktop/MainLoop.h"
 #include "portal/PortalRemote.h"
 #include "session/Descriptors.h"
@@ -25,6 +26,7 @@ class PortalPasteboard : public FetchingPasteboard {
     Descriptors& descriptors;
     Portal& portal;
     PortalRemote& remote;
+    desktop::Log& log;
   };
 
   struct Patience : FetchingPasteboard::Patience {

@@ -95,7 +95,8 @@ std::unique_ptr<desktop::Pasteboard> PortalSystem::makePasteboard(const Services
         PortalPasteboard::Services{.loop = services.loop,
                                    .descriptors = services.descriptors,
                                    .portal = portal_,
-                                   .remote = remote_},
+                                   .remote = remote_,
+                                   .log = services.log},
         ClipboardKeeper(LoadedModule::usualPlaces(ClipboardKeeper::programForX11)));
   }
   return std::make_unique<WaylandPasteboard>(

@@ -9,6 +9,7 @@
 #include "desktop/Defaults.h"
 #include "desktop/Hotkey.h"
 #include "desktop/KeyEvents.h"
+#include "desktop/Log.h"
 #include "desktop/MainLoop.h"
 #include "desktop/Pasteboard.h"
 #include "gnome/ShortcutSettings.h"
@@ -25,6 +26,7 @@ class WindowingSystem {
   struct Services {
     desktop::MainLoop& loop;
     Descriptors& descriptors;
+    desktop::Log& log;
     DesktopEntries& entries;
     ShortcutSettings& shortcuts;
     /// Shows an alert that says why keys cannot be pressed in this session (`limits`).

@@ -27,7 +27,7 @@ class ScriptedPortal : public BusServices {
     bool allowsClipboard = true;
     std::string token = "next";  ///< for the next session
     std::string knownToken{};    ///< the only one that is understood; any when empty
-    bool closesSession = false;  ///< with a token that is not, instead of an error
+    bool closesSession = false;  ///< with a token that is not, instead of an error; before it binds
     bool isMalformed = false;    ///< all answers have wrong types
     std::string keys = "Press <Control><Alt><Super>h";  ///< none when empty
     Owner owner = Owner::writes;
@@ -164,6 +164,9 @@ class ScriptedPortal : public BusServices {
                      "u", script_.devices, "clipboard_enabled", "b",
                      static_cast<int>(script_.allowsClipboard), "restore_token", "s",
                      script_.token.c_str());
+    if (member == "BindShortcuts" && script_.closesSession)
+      ::sd_bus_emit_signal(::sd_bus_message_get_bus(&call), session,
+                           "org.freedesktop.portal.Session", "Closed", "");
     if (member == "BindShortcuts" && script_.keys.empty())
       return respond(call, "oa(sa{sv})s", "ua{sv}", script_.answer, 1, "shortcuts", "a(sa{sv})", 1,
                      "sign", 0);

@@ -248,7 +248,7 @@ Task<PortalAnswer> Portal::request(Message call, Options options) {
 // Sessions ----------------------------------------------------------------------------------------
 
 Task<std::unique_ptr<PortalSession>> PortalSession::open(Portal& portal, const char* interface,
-                                                         std::function<void()> ended) {
+                                                         Ended ended) {
   Portal::Options options{{"session_handle_token", portal.newToken()}};
   Portal::Message call = portal.newCall(interface, "CreateSession");
   const PortalAnswer answer = co_await portal.request(std::move(call), std::move(options));
@@ -258,18 +258,19 @@ Task<std::unique_ptr<PortalSession>> PortalSession::open(Portal& portal, const c
   co_return std::make_unique<PortalSession>(portal, handle, std::move(ended));
 }
 
-PortalSession::PortalSession(Portal& portal, std::string handle, std::function<void()> ended)
+PortalSession::PortalSession(Portal& portal, std::string handle, Ended ended)
     : portal_(portal),
       handle_(std::move(handle)),
       ended_(std::move(ended)),
-      onEnd_([this](sd_bus_message&) { end(); }) {
+      onClosed_([this](sd_bus_message&) { end(End::closed); }),
+      onOwner_([this](sd_bus_message&) { end(End::withPortal); }) {
   closing_ = portal_.bus().subscribe({.sender = Portal::service,
                                       .path = handle_.c_str(),
                                       .interface = sessionInterface,
                                       .name = "Closed",
                                       .firstArgument = nullptr},
-                                     onEnd_);
-  owners_ = portal_.bus().subscribe(ownerChanged, onEnd_);
+                                     onClosed_);
+  owners_ = portal_.bus().subscribe(ownerChanged, onOwner_);
 }
 
 PortalSession::~PortalSession() {
@@ -281,9 +282,9 @@ PortalSession::~PortalSession() {
   if (close != nullptr) portal_.bus().post(*close);
 }
 
-void PortalSession::end() {
+void PortalSession::end(End how) {
   // The call may destroy this object.
-  if (const auto ended = std::exchange(ended_, nullptr)) ended();
+  if (const auto ended = std::exchange(ended_, nullptr)) ended(how);
 }
 
 bool PortalSession::isMeantBy(sd_bus_message& signal) const {

@@ -97,12 +97,16 @@ class Portal {
 /// A session of the portal, which ends with this object.
 class PortalSession {
  public:
+  /// Why a session ended: the desktop or the user closed it, or the portal itself has ended.
+  enum class End { closed, withPortal };
+  using Ended = std::function<void(End)>;
+
   /// Null when the portal makes none. `ended` is called once, from the bus's events, when the
-  /// portal closes the session or ends.
+  /// session has ended by itself.
   [[nodiscard]] static Task<std::unique_ptr<PortalSession>> open(Portal& portal,
                                                                  const char* interface,
-                                                                 std::function<void()> ended);
-  PortalSession(Portal& portal, std::string handle, std::function<void()> ended);
+                                                                 Ended ended);
+  PortalSession(Portal& portal, std::string handle, Ended ended);
   ~PortalSession();
   PortalSession(const PortalSession&) = delete;
   PortalSession& operator=(const PortalSession&) = delete;
@@ -114,12 +118,13 @@ class PortalSession {
   [[nodiscard]] bool isMeantBy(sd_bus_message& signal) const;
 
  private:
-  void end();
+  void end(End how);
 
   Portal& portal_;
   std::string handle_;
-  std::function<void()> ended_;
-  DesktopBus::Receiver onEnd_;
+  Ended ended_;
+  DesktopBus::Receiver onClosed_;
+  DesktopBus::Receiver onOwner_;
   DesktopBus::Subscription closing_;
   DesktopBus::Subscription owners_;
 };

@@ -32,6 +32,8 @@ constexpr auto lostAfter = 1s;
 constexpr auto pauseBeforeRestart = 2s;
 // A desktop that ends the session again so soon means it.
 constexpr auto deliberatelySoon = 1min;
+// A portal that ends again so soon may do so because of the hotkey; and waits as long for the next.
+constexpr auto suspiciouslySoon = 1min;
 
 DesktopBus::Signal signal(const char* name) {
   return {.sender = Portal::service,
@@ -130,8 +132,8 @@ PortalHotkey::PortalHotkey(Services services)
         const char* now = nullptr;
         if (isRefused_ || ::sd_bus_message_read(&message, "sss", &name, &before, &now) <= 0) return;
         if (*now == '\0')
-          bindAfter(pauseBeforeRestart);
-        else if (session_ == nullptr && !isBinding_)
+          portalEnded();
+        else if (session_ == nullptr && !isBinding_ && services_.loop.now() >= restsUntil_)
           bindAfter(0s);
       }) {}
 
@@ -178,7 +180,8 @@ void PortalHotkey::bindAfter(std::chrono::milliseconds delay) {
 Task<> PortalHotkey::bind() {
   isBinding_ = true;
   isDown_ = false;
-  session_ = co_await PortalSession::open(services_.portal, interface, [this] { end(); });
+  session_ = co_await PortalSession::open(services_.portal, interface,
+                                          [this](PortalSession::End how) { end(how); });
   PortalAnswer answer;
   if (session_ != nullptr) {
     Portal::Message call = services_.portal.newCall(interface, "BindShortcuts", session_->handle());
@@ -223,10 +226,19 @@ Task<> PortalHotkey::bind() {
   services_.tell(problem);
 }
 
-/// The desktop or the portal has ended the session.
-void PortalHotkey::end() {
+void PortalHotkey::portalEnded() {
+  const auto now = services_.loop.now();
+  if (lastPortalEnd_ && now < *lastPortalEnd_ + suspiciouslySoon)
+    restsUntil_ = now + suspiciouslySoon;
+  lastPortalEnd_ = now;
+  bindAfter(std::max<std::chrono::milliseconds>(
+      pauseBeforeRestart, std::chrono::ceil<std::chrono::milliseconds>(restsUntil_ - now)));
+}
+
+void PortalHotkey::end(PortalSession::End how) {
   session_ = nullptr;
   isDown_ = false;
+  if (how == PortalSession::End::withPortal) return;  // see `portalEnded`
   const auto now = services_.loop.now();
   const bool isDeliberate = lastEnd_ && now < *lastEnd_ + deliberatelySoon;
   lastEnd_ = now;

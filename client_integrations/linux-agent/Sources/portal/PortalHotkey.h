@@ -43,7 +43,8 @@ class PortalHotkey : public ObservedHotkey {
 
  private:
   [[nodiscard]] Task<> bind();
-  void end();
+  void portalEnded();
+  void end(PortalSession::End how);
   void refuse();
   void bindAfter(std::chrono::milliseconds delay);
   void readKeys(sd_bus_message& shortcuts);
@@ -61,6 +62,8 @@ class PortalHotkey : public ObservedHotkey {
   desktop::MainLoop::TimePoint lastPress_;
   desktop::MainLoop::TimePoint lastRelease_;
   std::optional<desktop::MainLoop::TimePoint> lastEnd_;  ///< of a session
+  std::optional<desktop::MainLoop::TimePoint> lastPortalEnd_;
+  desktop::MainLoop::TimePoint restsUntil_;  ///< not bound by itself before
   DesktopBus::Receiver onPress_;
   DesktopBus::Receiver onRelease_;
   DesktopBus::Receiver onChange_;

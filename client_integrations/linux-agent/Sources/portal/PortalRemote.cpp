@@ -89,7 +89,8 @@ Task<> PortalRemote::openSession() {
 
 Task<bool> PortalRemote::chooseDevices(std::string token) {
   session_ = nullptr;  // its end must not end this attempt
-  session_ = co_await PortalSession::open(services_.portal, interface, [this] { closed(); });
+  session_ = co_await PortalSession::open(services_.portal, interface,
+                                          [this](PortalSession::End) { closed(); });
   if (session_ == nullptr) co_return false;
   Portal::Options options{{"types", keyboard}};
   if (services_.offer.remoteDesktop >= firstWithTokens) {

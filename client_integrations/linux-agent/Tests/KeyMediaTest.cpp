@@ -315,21 +315,27 @@ TEST_F(FileKeyStoreTest, AnExchangedPublicHalfIsNoticed) {
 }
 
 // With the most work that such a file can demand, OpenSSL would need years.
-TEST_F(FileKeyStoreTest, AFileThatTakesTooLongIsNotOpened) {
+TEST_F(FileKeyStoreTest, AFileThatMayTakeTooLongIsNotOpened) {
   auto blocks = KeyFile::read(testing::contentsOf(path), labels);
   ASSERT_TRUE(blocks);
   std::vector<std::uint8_t>& bytes = blocks->back().bytes;
-  std::string key(bytes.begin(), bytes.end());
+  const std::string key(bytes.begin(), bytes.end());
   // A salt of 16 bytes, the INTEGERs N, r and p (RFC 7914, section 7.1), and the cipher AES-256-CBC
   // (2.16.840.1.101.3.4.1.42).
-  const std::size_t salt = key.find("\x04\x10"),
-                    cost = key.find("\x02\x01\x10\x02\x01\x08\x02\x01\x01");
-  EXPECT_EQ(cost, salt + 18);
+  const std::string cost = "\x02\x01\x10\x02\x01\x08\x02\x01\x01";
+  EXPECT_EQ(key.find(cost), key.find("\x04\x10") + 18);
   EXPECT_THAT(key, HasSubstr("\x06\x09\x60\x86\x48\x01\x65\x03\x04\x01\x2a"));
-  key.replace(cost, 9, "\x02\x01\x40\x02\x01\x7f\x02\x01\x7f");
-  bytes.assign(key.begin(), key.end());
-  testing::overwrite(path, KeyFile::write("", *blocks));
-  EXPECT_THAT(signs(), HasSubstr("is damaged"));
+  // Another cost; identifiers that are not those of scrypt and PBES2 (RFC 8018, appendix A.4).
+  for (const auto& [part, other] :
+       {std::pair{cost, "\x02\x01\x40\x02\x01\x7f\x02\x01\x7f"},
+        {"\x2b\x06\x01\x04\x01\xda\x47\x04\x0b", "\x2b\x06\x01\x04\x01\xda\x47\x04\x0c"},
+        {"\x2a\x86\x48\x86\xf7\x0d\x01\x05\x0d", "\x2a\x86\x48\x86\xf7\x0d\x01\x05\x0c"}}) {
+    std::string changed = key;
+    changed.replace(key.find(part), part.size(), other);
+    bytes.assign(changed.begin(), changed.end());
+    testing::overwrite(path, KeyFile::write("", *blocks));
+    EXPECT_THAT(signs(), HasSubstr("is damaged"));
+  }
 }
 
 // The bus between processor and chip can be read.

@@ -211,10 +211,12 @@ TEST_F(QtPromptsTest, AConfirmationBeginsWithWhatTheAgentProposes) {
 
 // The rest is here because it needs the same toolkit.
 TEST_F(QtPromptsTest, AWindowFollowsItsForm) {
+  using desktop::TextColour;
   std::string events;
-  const auto field = [&](const char* value) {
+  const auto field = [&](const char* value, bool isMasked) {
     return desktop::FormField{.label = "Address",
                               .value = value,
+                              .masked = isMasked,
                               .changed = [&](const std::string& text) { events += text + ";"; }};
   };
   const auto button = [&](bool isEnabled) {
@@ -222,24 +224,40 @@ TEST_F(QtPromptsTest, AWindowFollowsItsForm) {
         .label = "Save & Close", .enabled = isEnabled, .pressed = [&] { events += "pressed;"; }};
   };
   const auto text = [](const char* said) { return desktop::FormText{.text = said}; };
-  const auto status = [&](const char* symbol) {
-    return desktop::FormStatus{.symbol = symbol, .text = text("is")};
+  const auto status = [&](const char* symbol, desktop::TextColour colour) {
+    return desktop::FormStatus{.symbol = symbol, .symbolColour = colour, .text = text("is")};
   };
   const auto window = QtWindows(windows).make({.title = "Settings", .width = 300, .height = 200});
-  window->render({.sections = {{.header = "Server", .rows = {text("<b>old"), field("a")}}}});
+  window->render({.sections = {{.header = "Server", .rows = {text("<b>old"), field("a", true)}}}});
   window->bringToFront();
   window->render({.sections = {{.header = "Key", .rows = {text("none")}},
-                               {.header = "", .rows = {field("b"), button(false)}}}});
+                               {.header = "", .rows = {field("b", true), button(false)}}}});
   await([] { return QApplication::activeWindow() != nullptr; });
   QWidget& shown = *QApplication::activeWindow();
   EXPECT_FALSE(shown.findChild<QPushButton*>()->isEnabled());
-  window->render({.sections = {{.header = "Key",
-                                .rows = {text("<b>new"), status("checkmark.seal.fill"),
-                                         status("exclamationmark.triangle.fill"), status("")}},
-                               {.header = "", .rows = {field("c"), button(true)}}}});
+  EXPECT_EQ(shown.findChild<QLineEdit*>()->echoMode(), QLineEdit::Password);
+  window->render(
+      {.width = 320,
+       .height = 10,
+       .sections = {{.header = "Key",
+                     .rows = {text("<b>new"), status("checkmark.seal.fill", TextColour::green),
+                              status("exclamationmark.triangle.fill", TextColour::orange),
+                              status("", TextColour::secondary)}},
+                    {.header = "", .rows = {field("c", false), button(true)}}}});
   EXPECT_EQ(saidIn(shown), "<b>new\n✔︎\nis\n⚠︎\nis\n•\nis\nAddress\n");
+  std::vector<std::string> colours;
+  for (const QLabel* label : shown.findChildren<QLabel*>())
+    if (label->text() != QStringLiteral("is"))
+      colours.push_back(label->palette().color(QPalette::WindowText).name().toStdString());
+  const QPalette usual;
+  const std::string plain = usual.color(QPalette::WindowText).name().toStdString();
+  const std::string faint = usual.color(QPalette::PlaceholderText).name().toStdString();
+  EXPECT_THAT(colours, ElementsAre(plain, "#15803d", "#b45309", faint, plain));
+  EXPECT_EQ(shown.width(), 320);
+  EXPECT_GT(shown.height(), 10) << "the rows need more";
   auto& edit = *shown.findChild<QLineEdit*>();
   EXPECT_EQ(edit.text(), QStringLiteral("c"));
+  EXPECT_EQ(edit.echoMode(), QLineEdit::Normal);
   QTest::keyClicks(&edit, QStringLiteral("d"));
   shown.findChild<QPushButton*>()->click();
   EXPECT_EQ(events, "cd;pressed;");

@@ -2,6 +2,7 @@
 #include <array>
 #include <chrono>
 #include <ctime>
+#include <memory>
 #include <numeric>
 #include <optional>
 
@@ -106,7 +107,11 @@ class ScriptedKde : public testing::BusServices {
 
 class Kwin : public ::testing::Test {
  protected:
+  Kwin() { bus->serve(loop, loop); }
+
   std::optional<PrivateBus> sessionBus{std::in_place, "DBUS_SESSION_BUS_ADDRESS"};
+  PollLoop loop;
+  std::unique_ptr<DesktopBus> bus = DesktopBus::open();
 };
 
 // Keys --------------------------------------------------------------------------------------------
@@ -127,7 +132,6 @@ TEST_F(KwinKeys, AreThoseOfTheLayoutInUse) {
         {.isKwin = true, .layout = layout.empty() ? "" : testing::keymapText(layout.c_str())});
     const ScriptedKde kde({.layout = used < 0 ? std::nullopt : std::optional(used)});
     const auto connection = WaylandConnection::open();
-    const auto bus = DesktopBus::open();
     KwinKeyboard keyboard(*connection, bus.get());
     EXPECT_TRUE(connection->roundTrip() && connection->roundTrip());
     keyboard.prepare();
@@ -146,7 +150,6 @@ TEST_F(KwinKeys, AreThoseOfTheLayoutInUse) {
 TEST_F(KwinKeys, ReachNoWindowBehindALockedScreenOrTheOverview) {
   const ScriptedCompositor compositor({.isKwin = true});
   const auto connection = WaylandConnection::open();
-  const auto bus = DesktopBus::open();
   KwinKeyboard keyboard(*connection, bus.get());
   const auto reaches = [&] {
     keyboard.prepare();
@@ -178,9 +181,6 @@ using KwinHotkeys = Kwin;
 
 TEST_F(KwinHotkeys, ArePressedOnceHoweverLongTheyAreHeld) {
   std::optional<ScriptedKde> kde(std::in_place, ScriptedKde::Script{});
-  PollLoop loop;
-  const auto bus = DesktopBus::open();
-  bus->serve(loop, loop);
   int presses = 0;
   {
     KwinHotkey keys({.loop = loop, .bus = *bus, .tell = {}});
@@ -205,9 +205,6 @@ TEST_F(KwinHotkeys, ArePressedOnceHoweverLongTheyAreHeld) {
 }
 
 TEST_F(KwinHotkeys, SayWhyThereAreNone) {
-  PollLoop loop;
-  const auto bus = DesktopBus::open();
-  bus->serve(loop, loop);
   const struct {
     ScriptedKde::Script script;
     const char* part;
@@ -234,9 +231,6 @@ TEST_F(KwinHotkeys, SayWhyThereAreNone) {
 }
 
 TEST_F(KwinHotkeys, AreNamedAsTheUserHasChosenThem) {
-  PollLoop loop;
-  const auto bus = DesktopBus::open();
-  bus->serve(loop, loop);
   const struct {
     int keys;
     const char* name;
@@ -267,9 +261,6 @@ TEST_F(KwinHotkeys, AreNamedAsTheUserHasChosenThem) {
 
 TEST_F(KwinHotkeys, EndWithTheBus) {
   std::optional<ScriptedKde> kde(std::in_place, ScriptedKde::Script{});
-  PollLoop loop;
-  const auto bus = DesktopBus::open();
-  bus->serve(loop, loop);
   KwinHotkey keys({.loop = loop, .bus = *bus, .tell = {}});
   keys.registerHotkey(desktop::signingHotkey, [] {});
   kde.reset();
@@ -282,7 +273,6 @@ TEST_F(KwinHotkeys, EndWithTheBus) {
 }
 
 TEST_F(KwinHotkeys, AreOfKwinOnly) {
-  const auto bus = DesktopBus::open();
   const auto areOfferedBy = [&](bool isKwin) {
     const ScriptedCompositor compositor({.isKwin = isKwin});
     return KwinHotkey::isOfferedBy(*WaylandConnection::open(), *bus);
@@ -296,7 +286,6 @@ TEST_F(KwinHotkeys, AreOfKwinOnly) {
 using KwinBus = Kwin;
 
 TEST_F(KwinBus, IsNotWaitedForWhenItHangs) {
-  const auto bus = DesktopBus::open();
   EXPECT_EQ(bus->knows("org.kde.kglobalaccel"), false);
   sessionBus->hang();
   const auto start = std::chrono::steady_clock::now();
@@ -311,9 +300,6 @@ TEST_F(KwinBus, IsNotWaitedForWhenItHangs) {
 
 TEST_F(KwinBus, DeliversASignalThatCameWhileAnAnswerWasAwaited) {
   ScriptedKde kde({.pressesMeanwhile = true});
-  PollLoop loop;
-  const auto bus = DesktopBus::open();
-  bus->serve(loop, loop);
   int presses = 0;
   KwinHotkey keys({.loop = loop, .bus = *bus, .tell = {}});
   keys.registerHotkey(desktop::signingHotkey, [&] { ++presses; });
@@ -328,9 +314,6 @@ TEST_F(KwinBus, DeliversASignalThatCameWhileAnAnswerWasAwaited) {
 
 TEST_F(KwinBus, AnswersLaterUnlessTheCallIsDropped) {
   std::optional<ScriptedKde> kde(std::in_place, ScriptedKde::Script{.answers = false});
-  PollLoop loop;
-  const auto bus = DesktopBus::open();
-  bus->serve(loop, loop);
   std::vector<bool> isError;
   const auto call = [&](const char* service, const char* name) {
     const auto request = bus->newCall(

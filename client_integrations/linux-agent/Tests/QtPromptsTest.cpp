@@ -254,7 +254,6 @@ TEST_F(QtPromptsTest, AWindowFollowsItsForm) {
   const std::string faint = usual.color(QPalette::PlaceholderText).name().toStdString();
   EXPECT_THAT(colours, ElementsAre(plain, "#15803d", "#b45309", faint, plain));
   EXPECT_EQ(shown.width(), 320);
-  EXPECT_GT(shown.height(), 10) << "the rows need more";
   auto& edit = *shown.findChild<QLineEdit*>();
   EXPECT_EQ(edit.text(), QStringLiteral("c"));
   EXPECT_EQ(edit.echoMode(), QLineEdit::Normal);

@@ -213,6 +213,15 @@ class Faults(Story):
         wait_for("both presses count",
                  lambda: self.desktop.window_names().count("No Text Found") == 2)
 
+    def test_a_held_hotkey_may_repeat_as_presses_alone(self):
+        self.start(DemoSigning="true")
+        self.open_settings()
+        rival = self.rival()
+        rival.pretend_presses(self.desktop.active_window(), rival.key, 9000, 9500, 10_400, 12_000)
+        self.desktop.wait_for_window("No Text Found")
+        time.sleep(2)
+        self.assertEqual(self.desktop.window_names().count("No Text Found"), 2)
+
 
 class Panel(Story):
     panel = True

@@ -71,6 +71,15 @@ class XClient:
                 target=target, property=asked.property))
             self.x.sync()
 
+    def pretend_presses(self, number, key, *times):
+        """Sends the program of a window presses of a key, as if the root window had got them."""
+        window = self.x.create_resource_object("window", int(number))
+        for moment in times:
+            window.send_event(event.KeyPress(
+                time=moment, detail=key, root=self.root, window=self.root, child=X.NONE, state=0,
+                root_x=0, root_y=0, event_x=0, event_y=0, same_screen=True))
+        self.x.sync()
+
     # A reader of the clipboard that may behave as it likes
 
     def ask_for(self, target, window=None):

@@ -305,13 +305,6 @@ class Dialogs(Story):
                       editor.file.read_text())
         self.assertEqual(self.desktop.recorded()[0][1], "LinkedIn Post → whitcombe@example.org")
 
-    def test_a_cancelled_passphrase_leaves_the_text_alone(self):
-        self.start()
-        editor = self.press_in_editor()
-        self.desktop.close("Enter the passphrase", "Escape")
-        self.desktop.close("Signing Error", "Escape")
-        self.assert_unsigned(editor, LETTER)
-
 
 class Shield(Story):
     def start_as_user(self, *command):

@@ -24,8 +24,7 @@ namespace {
 
 TEST(Base64, EncodesTheVectorsOfItsStandard) {
   for (const auto& each : testing::cases()) {
-    const std::string text = each[0];
-    const std::string encoded = each[1];
+    const std::string text = each[0], encoded = each[1];
     const std::vector<std::uint8_t> bytes(text.begin(), text.end());
     EXPECT_EQ(base64(bytes), encoded);
     EXPECT_EQ(base64Url(text), encoded.substr(0, encoded.find('=')));

@@ -94,8 +94,6 @@ void expectCaught(const std::vector<std::string>& samples, Disguise apply, std::
   std::size_t still = 0;
   for (const std::string& text : samples)
     if (verdictOf(asSigned(apply(text))) > 0) ++still;
-  ::testing::Test::RecordProperty(std::string(name),
-                                  static_cast<int>(100 * still / samples.size()));
   EXPECT_GE(100 * still, samples.size() * static_cast<std::size_t>(promised))
       << name << ": " << still << " of " << samples.size();
 }

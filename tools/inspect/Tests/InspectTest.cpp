@@ -59,8 +59,7 @@ TEST(Report, UnderlinesWhatMatched) {
 // A pattern, a text, and of each approach: number, satisfied part, text there, missing part.
 TEST(PatternTrial, FindsTheLongestBeginningThatOccurs) {
   for (const auto& each : quillseal::testing::cases()) {
-    const std::string pattern = each[0];
-    const std::string text = each[1];
+    const std::string pattern = each[0], text = each[1];
     std::vector<std::string> approaches;
     for (const Approach& one : tryPattern({.written = pattern}, text).approaches)
       approaches.push_back(std::to_string(one.number) + ' ' + one.satisfied + " [" +

@@ -5,6 +5,7 @@ Options and test names as in stories.py.
 """
 
 import re
+import time
 
 import clipboard
 import stories
@@ -67,6 +68,7 @@ class KwinWindows(OnKwin, wayland.SharedWindows, WindowStory):
         with self.while_the_server_is_slow():
             self.desktop.wait_for_window(re.escape(letter.file.name))
             self.desktop.person.tell("down Alt_L Tab")
+            time.sleep(1)  # KWin begins the choice later, and nobody can see when
         self.desktop.wait_for_window(windows.PASTE_YOURSELF)
         self.desktop.person.tell("up")
         self.assert_left_on_clipboard("something else is in front of the source")

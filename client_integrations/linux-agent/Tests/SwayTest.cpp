@@ -250,11 +250,13 @@ TEST(SwayHotkeyTest, LeavesNothingBoundAfterItWasRefused) {
 }
 
 TEST(SwayTree, NamesTheApplicationOfATitle) {
-  for (const auto& [tree, title, application] :
-       testing::cases<nlohmann::json, std::string, std::string>())
-    EXPECT_EQ(applicationIdIn(tree.dump(), title).value_or("none"), application) << title;
+  for (const auto& [tree, title, id, process] :
+       testing::cases<nlohmann::json, std::string, std::string, std::uint32_t>())
+    EXPECT_EQ(applicationIn(tree.dump(), title).value_or(SwayApplication{.id = "none"}),
+              (SwayApplication{.id = id, .process = process}))
+        << title;
   for (const char* text : {"", "[]", "{\"nodes\": 1}", "{"})
-    EXPECT_EQ(applicationIdIn(text, ""), std::nullopt);
+    EXPECT_EQ(applicationIn(text, ""), std::nullopt);
 }
 
 TEST(SwayConfiguration, IsSearchedForTheKeys) {

@@ -157,8 +157,9 @@ std::optional<SwayIpc::Message> SwayIpc::next() {
   return message;
 }
 
-std::optional<std::string> applicationIdIn(std::string_view tree, std::string_view title) {
-  std::set<std::string> found;
+std::optional<SwayApplication> applicationIn(std::string_view tree, std::string_view title) {
+  std::set<std::string> ids;
+  std::set<std::uint32_t> processes;
   const json parsed = json::parse(tree, nullptr, false);
   std::vector<const json*> open = {&parsed};
   while (!open.empty()) {
@@ -169,12 +170,15 @@ std::optional<std::string> applicationIdIn(std::string_view tree, std::string_vi
       if (const auto list = node.find(children); list != node.end() && list->is_array())
         for (const json& child : *list)
           open.push_back(&child);
-    const bool isWindow = node.contains("pid") && textOf(node, "name") == title;
+    const auto process = node.find("pid");
+    if (process == node.end() || textOf(node, "name") != title) continue;
     const auto x11 = node.find("window_properties");
-    if (isWindow) found.insert(x11 != node.end() ? textOf(*x11, "class") : textOf(node, "app_id"));
+    ids.insert(x11 != node.end() ? textOf(*x11, "class") : textOf(node, "app_id"));
+    processes.insert(process->is_number_unsigned() ? process->get<std::uint32_t>() : 0);
   }
-  if (found.size() != 1 || found.begin()->empty()) return std::nullopt;
-  return *found.begin();
+  if (ids.size() != 1 || ids.begin()->empty()) return std::nullopt;
+  return SwayApplication{.id = *ids.begin(),
+                         .process = processes.size() == 1 ? *processes.begin() : 0};
 }
 
 bool bindsAlready(std::string_view configuration, const SwayChord& chord) {

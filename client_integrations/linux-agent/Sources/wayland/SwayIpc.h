@@ -45,10 +45,18 @@ class SwayIpc {
   std::string received_;
 };
 
-/// Returns the app id, or under Xwayland the class, of the windows with this title in sway's tree
-/// (JSON). Nothing when there is no such window, or two differ.
-[[nodiscard]] std::optional<std::string> applicationIdIn(std::string_view tree,
-                                                         std::string_view title);
+/// What sway's tree says of a window's application.
+struct SwayApplication {
+  std::string id;             ///< app id, or under Xwayland the class
+  std::uint32_t process = 0;  ///< 0 when several have such a window
+
+  bool operator==(const SwayApplication&) const = default;
+};
+
+/// Returns the application of the windows with this title in sway's tree (JSON). Nothing when there
+/// is no such window, or the ids of two differ.
+[[nodiscard]] std::optional<SwayApplication> applicationIn(std::string_view tree,
+                                                           std::string_view title);
 
 /// Returns whether a configuration of sway binds Control, Alt and Super with the key of this keysym
 /// name or XKB number. Looks only at the text itself, not at included files, and at bindings

@@ -29,7 +29,11 @@ std::optional<RunningApplication> WaylandApplications::frontmost() const {
   if (!window) return std::nullopt;
   if (sway_ != nullptr) {
     const std::string tree = sway_->ask(SwayIpc::Request::getTree, "").value_or("");
-    window->applicationId = applicationIdIn(tree, window->title).value_or(window->applicationId);
+    if (const auto application = applicationIn(tree, window->title)) {
+      window->applicationId = application->id;
+      // A terminal may have any app id, and Ctrl+C would end the program that runs in it.
+      window->process = application->process;
+    }
   }
   return applicationOf({.instance = window->id,
                         .traits = traitsOf(*window),

@@ -24,8 +24,8 @@ class WaylandApplications : public LinuxApplications {
     desktop::MainLoop& loop;
   };
 
-  /// `sway` is null where it does not run. Sway 1.7 reports a changed app id only through this
-  /// connection, not over Wayland.
+  /// `sway` is null where it does not run. Sway 1.7 reports processes and a changed app id only
+  /// through this connection, not over Wayland.
   WaylandApplications(const Services& services, std::unique_ptr<SwayIpc> sway)
       : LinuxApplications(services.entries, services.loop),
         services_(services),

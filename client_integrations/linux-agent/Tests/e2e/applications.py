@@ -49,7 +49,8 @@ class Terminal:
         self.session = session
         (session.home / "letter.txt").write_text(text)
         self.received = session.home / "received.txt"
-        session.start(program, *self.COMMANDS[program], "sh", "-c",
+        options = self.COMMANDS[pathlib.Path(program).resolve().name]
+        session.start(program, *options, "sh", "-c",
                       "cat letter.txt; touch shown; exec cat > received.txt")
         session.wait_for_window("Notes", "the terminal opens")
         wait_for("the terminal shows the text", (session.home / "shown").exists)

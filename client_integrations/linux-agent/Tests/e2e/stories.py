@@ -214,8 +214,8 @@ class Applications(Story):
         self.assertEqual(terminal.received.read_text(), "typed\n")
         self.assert_recorded("Public Broadcast")
 
-    def test_a_terminal_whose_program_goes_on(self):
-        terminal = Terminal(self.desktop, "xfce4-terminal", PARAGRAPHS)
+    def test_a_terminal_whose_program_goes_on(self, program="xfce4-terminal"):
+        terminal = Terminal(self.desktop, program, PARAGRAPHS)
         self.desktop.select_all(PARAGRAPHS, "ctrl+shift+a")
         self.sign()
         self.assert_left_to_paste(terminal)

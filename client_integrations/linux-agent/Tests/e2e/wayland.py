@@ -53,7 +53,10 @@ class Applications:
 
 
 class SwayApplications(OnSway, Applications, stories.Applications):
-    """The same."""
+    def test_a_terminal_with_an_app_id_of_its_own(self):
+        program = self.desktop.home / "notes"
+        program.symlink_to("/usr/bin/xfce4-terminal")
+        self.test_a_terminal_whose_program_goes_on(program)
 
 
 class SharedWindows(windows.SharedWindows):

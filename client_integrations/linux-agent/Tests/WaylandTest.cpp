@@ -67,11 +67,15 @@ struct SlowKeyboard : AgentKeyboard {
     if (const auto once = std::exchange(meanwhile, nullptr)) once();
   }
   [[nodiscard]] bool reachesActiveWindow() const override { return its->reachesActiveWindow(); }
-  void releaseHeldKeys() override { its->releaseHeldKeys(); }
+  void releaseHeldKeys() override {
+    its->releaseHeldKeys();
+    if (const auto once = std::exchange(atRelease, nullptr)) once();
+  }
   void tap(std::span<const Keysym> chord) override { its->tap(chord); }
 
   std::unique_ptr<AgentKeyboard> its;
   std::function<void()> meanwhile;
+  std::function<void()> atRelease;
 };
 
 constexpr std::size_t largest = 200'000;
@@ -404,6 +408,7 @@ void Story::doNow(const std::string& line) {
          target->categories += what;
        }},
       {"meanwhile", [&] { agent->keyboard.meanwhile = [this, what = what] { doNow(what); }; }},
+      {"at-release", [&] { agent->keyboard.atRelease = [this, what = what] { doNow(what); }; }},
       {"fetch",
        [&] {
          isFetched = false;

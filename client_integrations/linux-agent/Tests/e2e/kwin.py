@@ -5,7 +5,6 @@ Options and test names as in stories.py.
 """
 
 import re
-import time
 
 import clipboard
 import stories
@@ -59,20 +58,6 @@ class KwinWindows(OnKwin, wayland.SharedWindows, WindowStory):
             self.desktop.person.tell("down Alt_L Tab")
         self.assert_pasted_nowhere()
         self.desktop.person.tell("up")
-
-    def test_nothing_is_pasted_where_the_choice_of_a_window_ends(self):
-        (self.desktop.home / ".config/kwinrc").write_text("[TabBox]\nHighlightWindows=false\n")
-        self.desktop.call_kwin("/KWin", "org.kde.KWin.reconfigure")
-        chat = self.open_chat()
-        letter = self.open_letter()
-        with self.while_the_server_is_slow():
-            self.desktop.wait_for_window(re.escape(letter.file.name))
-            self.desktop.person.tell("down Alt_L Tab")
-            time.sleep(1)  # KWin begins the choice later, and nobody can see when
-        self.desktop.wait_for_window(windows.PASTE_YOURSELF)
-        self.desktop.person.tell("up")
-        self.assert_left_on_clipboard("something else is in front of the source")
-        self.assert_untouched(chat, windows.CHAT)
 
 
 class KwinLock(WindowStory):

@@ -29,14 +29,15 @@ bool isScreenLocked(DesktopBus& bus) {
 }
 
 bool isEffectTakingKeys(DesktopBus& bus) {
-  const DesktopBus::Message answer = bus.call({.service = "org.kde.KWin",
+  constexpr const char* service = "org.kde.KWin";
+  const DesktopBus::Message answer = bus.call({.service = service,
                                                .path = "/Effects",
                                                .interface = "org.freedesktop.DBus.Properties",
                                                .name = "Get"},
                                               "ss", "org.kde.kwin.Effects", "activeEffects");
   if (answer == nullptr || ::sd_bus_message_enter_container(answer.get(), 'v', "as") <= 0 ||
       ::sd_bus_message_enter_container(answer.get(), 'a', "s") <= 0)
-    return false;
+    return bus.knows(service).value_or(true);
   bool isFound = false;
   for (const char* effect = nullptr; ::sd_bus_message_read(answer.get(), "s", &effect) > 0;)
     isFound = isFound || std::ranges::find(keyTakingEffects, effect) != keyTakingEffects.end();

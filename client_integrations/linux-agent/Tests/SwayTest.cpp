@@ -40,7 +40,7 @@ class ScriptedSway {
     std::string configuration{};
     bool binds = true;
     bool bindsReleases = true;
-    bool answers = true;
+    int silences = 0;  ///< requests before the first that it answers
   };
 
   explicit ScriptedSway(Script script) : script_(std::move(script)) {
@@ -102,7 +102,7 @@ class ScriptedSway {
     std::string text(numbers[0], '\0');
     if (!text.empty()) recv(client, text.data(), text.size(), MSG_WAITALL);
     const std::lock_guard lock(mutex_);
-    if (!script_.answers) return true;
+    if (script_.silences-- > 0) return true;
     std::string reply = R"({"config": ")" + script_.configuration + R"("})";
     if (numbers[1] == 0) {
       commands_.push_back(text);
@@ -213,7 +213,7 @@ TEST(SwayHotkeyTest, SaysWhyThereIsNone) {
   const std::pair<ScriptedSway::Script, const char*> rows[] = {
       {{.configuration = "bindsym Ctrl+Alt+Super+h exec x"}, "configuration already uses"},
       {{.binds = false}, "Sway does not bind Ctrl+Alt+Super+H"},
-      {{.answers = false}, "Sway does not bind"},
+      {{.silences = 9}, "Sway does not bind"},
       {{}, "gives programs no hotkey"}};
   for (const auto& [script, part] : rows) {
     const ScriptedSway sway(script);
@@ -247,6 +247,13 @@ TEST(SwayHotkeyTest, LeavesNothingBoundAfterItWasRefused) {
   }
   EXPECT_THAT(sway.commands(), IsEmpty());
   EXPECT_THAT(halfWilling.commands().back(), HasSubstr("unbindcode --release"));
+}
+
+TEST(SwayIpcTest, AsksAgainAfterAnAnswerThatDidNotCome) {
+  const ScriptedSway sway({.silences = 1});
+  const auto ipc = SwayIpc::open(sway.path());
+  EXPECT_FALSE(ipc->ask(SwayIpc::Request::getTree, ""));
+  EXPECT_TRUE(ipc->ask(SwayIpc::Request::getTree, ""));
 }
 
 TEST(SwayTree, NamesTheApplicationOfATitle) {

@@ -94,21 +94,33 @@ bool isBinding(std::string_view word) {
   return word == "bindsym" || word == "bindcode";
 }
 
-}  // namespace
-
-std::unique_ptr<SwayIpc> SwayIpc::open(const std::string& path) {
+/// Not open when no process accepts there.
+FileDescriptor connectedTo(const std::string& path) {
   sockaddr_un address{};
   address.sun_family = AF_UNIX;
-  if (path.empty() || path.size() >= sizeof address.sun_path) return nullptr;
+  if (path.empty() || path.size() >= sizeof address.sun_path) return {};
   path.copy(address.sun_path, path.size());
   FileDescriptor descriptor(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
   const auto* generic = reinterpret_cast<const sockaddr*>(&address);
-  if (connect(descriptor.get(), generic, sizeof address) != 0) return nullptr;
-  return std::unique_ptr<SwayIpc>(new SwayIpc(std::move(descriptor)));
+  if (connect(descriptor.get(), generic, sizeof address) != 0) return {};
+  return descriptor;
+}
+
+}  // namespace
+
+std::unique_ptr<SwayIpc> SwayIpc::open(const std::string& path) {
+  FileDescriptor descriptor = connectedTo(path);
+  if (!descriptor.isOpen()) return nullptr;
+  return std::unique_ptr<SwayIpc>(new SwayIpc(path, std::move(descriptor)));
 }
 
 std::optional<std::string> SwayIpc::ask(Request request, std::string_view text) {
-  if (!answers_) return std::nullopt;
+  if (!answers_) {
+    // On the former connection a late answer would be taken for the next one.
+    socket_ = connectedTo(path_);
+    received_.clear();
+    if (!socket_.isOpen()) return std::nullopt;
+  }
   std::string message(magic);
   append(message, static_cast<std::uint32_t>(text.size()));
   append(message, static_cast<std::uint32_t>(request));
@@ -121,8 +133,6 @@ std::optional<std::string> SwayIpc::ask(Request request, std::string_view text) 
     const auto left =
         std::chrono::ceil<milliseconds>(deadline - std::chrono::steady_clock::now()).count();
     pollfd ready{.fd = socket_.get(), .events = POLLIN, .revents = 0};
-    // After a time-out the connection is not used again: a late answer would be taken for the next
-    // one.
     answers_ = left > 0 && poll(&ready, 1, static_cast<int>(left)) > 0 && read();
   }
   return std::nullopt;

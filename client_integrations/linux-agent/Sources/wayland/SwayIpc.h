@@ -25,8 +25,8 @@ class SwayIpc {
   /// Null when no process accepts at the socket of this path.
   [[nodiscard]] static std::unique_ptr<SwayIpc> open(const std::string& path);
 
-  /// Sends a request and returns the answer. Nothing when none comes within a second, and for every
-  /// request after that. REQUIRES: no subscription on this connection.
+  /// Sends a request and returns the answer. Nothing when none comes within a second; the next
+  /// request is sent on a new connection. REQUIRES: no subscription on this connection.
   [[nodiscard]] std::optional<std::string> ask(Request request, std::string_view text);
 
   /// Readable while there are messages to receive, and after sway has closed the connection.
@@ -36,10 +36,12 @@ class SwayIpc {
   [[nodiscard]] std::optional<std::vector<Message>> receive();
 
  private:
-  explicit SwayIpc(FileDescriptor socket) : socket_(std::move(socket)) {}
+  SwayIpc(std::string path, FileDescriptor socket)
+      : path_(std::move(path)), socket_(std::move(socket)) {}
   [[nodiscard]] bool read();
   [[nodiscard]] std::optional<Message> next();
 
+  std::string path_;
   FileDescriptor socket_;
   bool answers_ = true;
   std::string received_;

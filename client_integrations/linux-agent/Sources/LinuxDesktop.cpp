@@ -66,12 +66,16 @@ std::unique_ptr<WindowingSystem> chosen(PortalSystem::Access access,
   access.token = keyFolder() + "/portal-token";
   if (PortalSystem::reachesApplications(access))
     return std::make_unique<PortalSystem>(std::move(access), services);
+  // Others, as KWin, share the clipboard of Xwayland only while a program there has the focus.
+  const bool isClipboardShared =
+      access.bus != nullptr && access.bus->knows("org.gnome.Shell").value_or(false);
+  const bool canPressKeys = isClipboardShared && access.offer.remoteDesktop > 0;
   const bool isUnderXwayland = QGuiApplication::platformName() == QLatin1String("xcb");
-  if (isUnderXwayland && access.portalBus != nullptr && access.offer.remoteDesktop > 0)
+  if (isUnderXwayland && access.portalBus != nullptr && canPressKeys)
     return std::make_unique<GnomeSystem>(std::move(access), services);
   return std::make_unique<X11System>(
-      services, SessionTraits{.isPortalSilent = access.offer.isSilent,
-                              .canPortalPressKeys = access.offer.remoteDesktop > 0});
+      services,
+      SessionTraits{.isPortalSilent = access.offer.isSilent, .canPortalPressKeys = canPressKeys});
 }
 
 /// The wording for the key that exists now or would be made.

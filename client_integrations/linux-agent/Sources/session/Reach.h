@@ -10,7 +10,7 @@ struct SessionTraits {
   bool hasXServer = false;      ///< its own or Xwayland
   bool canPressKeys = false;    ///< the X server has XTEST and XKEYBOARD
   bool isPortalSilent = false;  ///< the desktop's portal did not answer in time
-  /// The portal would press keys. On GNOME the clipboard then comes through Xwayland.
+  /// The portal would press keys, on GNOME, where the clipboard then comes through Xwayland.
   bool canPortalPressKeys = false;
 };
 

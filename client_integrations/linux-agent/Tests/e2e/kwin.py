@@ -109,11 +109,27 @@ class KwinLimits(OnKwin, wayland.Limits):
     """The same."""
 
 
+# As that of Plasma 5 and of Plasma 6 before 6.4: keys, but no clipboard.
+PORTAL = """
+const { Gio, GLib } = imports.gi;
+Gio.DBusExportedObject.wrapJSObject(`<node>
+  <interface name="org.freedesktop.portal.RemoteDesktop">
+  <property name="version" type="u" access="read"/>
+  <property name="AvailableDeviceTypes" type="u" access="read"/></interface></node>`,
+  { version: 1, AvailableDeviceTypes: 1 })
+  .export(Gio.DBus.session, '/org/freedesktop/portal/desktop');
+Gio.DBus.session.own_name('org.freedesktop.portal.Desktop', 0, () => print('owned'), null);
+new GLib.MainLoop(null, false).run();
+"""
+
+
 class KwinWithoutPackage(stories.Story):
     def make_desktop(self):
         return KwinSession(self.build, is_installed=False)
 
     def test_the_agent_says_what_to_do(self):
+        portal = self.desktop.start("gjs", "-c", PORTAL)
+        self.desktop.wait_for_output(portal, "owned", "a portal offers keys")
         self.start()
         self.desktop.wait_for_window("Quillseal")
         self.assertIn("on KDE Plasma 5 where the package of Quillseal is installed",

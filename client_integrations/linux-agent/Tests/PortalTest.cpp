@@ -44,6 +44,7 @@ using Owner = ScriptedPortal::Owner;
 using Calls = std::vector<std::string>;
 
 constexpr std::chrono::seconds portalPatience{1};
+constexpr auto patience = 1500ms;  // for what the user is not asked
 
 /// The agent's side, with a portal.
 struct Story {
@@ -70,14 +71,19 @@ struct Story {
     const PrivateFile file(tokenFile);
     if (!token.empty()) file.replace(token);
     const auto tell = [this](const std::string& sentence) { told += sentence; };
-    remote.emplace(PortalRemote::Services{
-        .loop = loop, .portal = *portal, .offer = offer, .token = file, .tell = tell});
+    remote.emplace(PortalRemote::Services{.loop = loop,
+                                          .portal = *portal,
+                                          .offer = offer,
+                                          .token = file,
+                                          .tell = tell,
+                                          .patience = patience});
     hotkey.emplace(PortalHotkey::Services{
         .loop = loop,
         .portal = *portal,
         .defaults = [this]() -> desktop::Defaults& { return defaults; },
         .tell = tell,
-        .activated = [this](const std::string& value) { activation = value; }});
+        .activated = [this](const std::string& value) { activation = value; },
+        .patience = patience});
     pasteboard.emplace(
         PortalPasteboard::Services{
             .loop = loop, .descriptors = loop, .portal = *portal, .remote = *remote, .log = log},
@@ -225,6 +231,7 @@ Script scriptOf(const testing::Json& fields) {
   script.keys = fields.value("keys", script.keys);
   script.offer.clipboard = fields.value("clipboard", script.offer.clipboard);
   script.answers = fields.value("answers", script.answers);
+  script.opensSessions = fields.value("opensSessions", script.opensSessions);
   script.takenSelections = fields.value("takenSelections", script.takenSelections);
   script.owner =
       std::map<std::string, Owner>{

@@ -22,6 +22,7 @@ class ScriptedPortal : public BusServices {
   struct Script {
     linux::PortalOffer offer{.remoteDesktop = 2, .globalShortcuts = 2, .clipboard = 1};
     bool answers = true;        ///< to what the user is asked
+    bool opensSessions = true;  ///< else nothing comes, not even an error
     std::uint32_t answer = 0;   ///< 1 or 2 when the user refuses
     std::uint32_t devices = 1;  ///< that the user allows
     bool allowsClipboard = true;
@@ -153,6 +154,8 @@ class ScriptedPortal : public BusServices {
       note(member + " " + lastOf(call));
     else
       note(member);
+    if (member == "CreateSession" && !script_.opensSessions)
+      return ::sd_bus_reply_method_return(&call, "o", "/later");
     if (member == "CreateSession")
       return respond(call, "", "ua{sv}", 0U, 1, "session_handle", "s", session);
     if (member == "Start" && !script_.answers) {

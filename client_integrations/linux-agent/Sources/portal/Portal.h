@@ -49,6 +49,9 @@ class Portal {
   static constexpr const char* service = "org.freedesktop.portal.Desktop";
   static constexpr const char* path = "/org/freedesktop/portal/desktop";
 
+  /// For what the portal answers without asking the user. One that has ended is started meanwhile.
+  static constexpr std::chrono::seconds patience{15};
+
   /// The agent's name: that of an installed desktop file, without ".desktop". By it the desktop
   /// shows and stores what the user allows.
   static constexpr const char* applicationId = "com.quillseal.agent";

@@ -180,8 +180,15 @@ void PortalHotkey::bindAfter(std::chrono::milliseconds delay) {
 Task<> PortalHotkey::bind() {
   isBinding_ = true;
   isDown_ = false;
+  giveUp_ = services_.loop.after(services_.patience, [this] {
+    binding_.reset();
+    fail(
+        "The portal of your desktop does not answer, so there is no hotkey. If it still does not "
+        "work when you have logged out and in, use the menu of Quillseal.");
+  });
   session_ = co_await PortalSession::open(services_.portal, interface,
                                           [this](PortalSession::End how) { end(how); });
+  giveUp_ = {};  // the user may take any time
   PortalAnswer answer;
   if (session_ != nullptr) {
     Portal::Message call = services_.portal.newCall(interface, "BindShortcuts", session_->handle());
@@ -221,7 +228,13 @@ Task<> PortalHotkey::bind() {
           ? "The portal of your desktop does not let Quillseal in, so there is no hotkey. Install "
             "the Debian package of Quillseal if it is not installed, or start Quillseal again."
           : std::string("Your desktop gave Quillseal no hotkey.") + otherWays;
+  fail(problem);
+}
+
+void PortalHotkey::fail(const std::string& problem) {
   session_ = nullptr;
+  isBinding_ = false;
+  isWanted_ = false;
   turnOff();
   services_.tell(problem);
 }

@@ -30,6 +30,7 @@ class PortalHotkey : public ObservedHotkey {
     /// Gets the token with which a window of this program may take the focus after a press; may be
     /// empty.
     std::function<void(const std::string&)> activated;
+    std::chrono::milliseconds patience = Portal::patience;
   };
 
   explicit PortalHotkey(Services services);
@@ -43,6 +44,7 @@ class PortalHotkey : public ObservedHotkey {
 
  private:
   [[nodiscard]] Task<> bind();
+  void fail(const std::string& problem);
   void portalEnded();
   void end(PortalSession::End how);
   void refuse();
@@ -73,6 +75,7 @@ class PortalHotkey : public ObservedHotkey {
   DesktopBus::Subscription changes_;
   DesktopBus::Subscription owners_;
   desktop::Ticket again_;
+  desktop::Ticket giveUp_;
   std::optional<TaskScope> binding_;
 };
 

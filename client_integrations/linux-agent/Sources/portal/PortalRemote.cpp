@@ -24,6 +24,9 @@ constexpr const char* refusal =
 constexpr const char* ending =
     "Your desktop has ended the permission for Quillseal to press keys. Quillseal asks for it "
     "again at the next signature.";
+constexpr const char* silence =
+    "The portal of your desktop, through which Quillseal presses keys, does not answer. Sign again "
+    "in a moment. If that does not help, log out and in.";
 constexpr const char* absence =
     "The portal of your desktop does not let Quillseal in. Install the Debian package of Quillseal "
     "if it is not installed, or start Quillseal again.";
@@ -71,6 +74,7 @@ desktop::Ticket PortalRemote::open(std::function<void(bool)> done) {
 
 Task<> PortalRemote::openSession() {
   const std::string token = storedToken();
+  giveUp_ = services_.loop.after(services_.patience, [this] { stopOpening(silence); });
   bool isReady = co_await chooseDevices(token);
   if (!isReady && !token.empty()) {
     // The portal refuses a token that it cannot read, instead of asking the user.
@@ -79,6 +83,7 @@ Task<> PortalRemote::openSession() {
   }
   if (isReady) {
     co_await requestClipboard();
+    giveUp_ = {};  // the user may take any time
     isReady = co_await start();
   }
   if (isReady)
@@ -157,7 +162,13 @@ void PortalRemote::keepToken(const std::string& token) const {
   }
 }
 
+void PortalRemote::stopOpening(const char* obstacle) {
+  opening_.reset();
+  finish(obstacle);
+}
+
 void PortalRemote::finish(std::string obstacle) {
+  giveUp_ = {};
   obstacle_ = std::move(obstacle);
   state_ = obstacle_.empty() ? State::open : State::closed;
   if (!isOpen()) session_ = nullptr;
@@ -172,8 +183,7 @@ void PortalRemote::closed() {
   session_ = nullptr;
   obstacle_ = ending;
   if (std::exchange(state_, State::closed) == State::opening) {
-    opening_.reset();
-    finish(refusal);
+    stopOpening(refusal);
   } else if (ended_) {
     ended_();
   }

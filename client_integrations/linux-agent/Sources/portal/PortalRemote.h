@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -30,6 +31,7 @@ class PortalRemote {
     PrivateFile token;
     /// Tells the user something in a notification.
     std::function<void(const std::string&)> tell;
+    std::chrono::milliseconds patience = Portal::patience;
   };
 
   explicit PortalRemote(Services services);
@@ -71,6 +73,7 @@ class PortalRemote {
   [[nodiscard]] Task<bool> start();
   [[nodiscard]] std::string storedToken() const;
   void keepToken(const std::string& token) const;
+  void stopOpening(const char* obstacle);
   void finish(std::string obstacle);
   void closed();
   void notify(Keysym symbol, std::uint32_t state) const;
@@ -84,6 +87,7 @@ class PortalRemote {
   std::uint64_t lastWaiting_ = 0;
   std::function<void()> ended_;
   desktop::Ticket telling_;
+  desktop::Ticket giveUp_;
   std::optional<TaskScope> opening_;
 };
 

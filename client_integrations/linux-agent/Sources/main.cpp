@@ -32,6 +32,7 @@
 #include "session/SessionBus.h"
 #include "session/SingleInstance.h"
 #include "session/TerminationSignals.h"
+#include "wayland/KwinHotkey.h"
 #include "wayland/WaylandConnection.h"
 #include "wayland/WaylandConnector.h"
 #include "wayland/WaylandReach.h"
@@ -77,6 +78,7 @@ bool hasWaylandPlugin() {
 PortalSystem::Access accessToWayland(Command command) {
   namespace WaylandConnector = quillseal::linux::WaylandConnector;
   using quillseal::linux::DesktopBus;
+  using quillseal::linux::KwinHotkey;
   // Nobody waits for an agent that starts with the session, whose portal may be starting, too.
   const std::chrono::seconds patience(command == Command::background ? 15 : 2);
   PortalSystem::Access access;
@@ -87,10 +89,14 @@ PortalSystem::Access accessToWayland(Command command) {
     if (auto connection = WaylandConnector::open(places)) access.compositor = std::move(connection);
   access.bus = DesktopBus::open();
   if (access.bus == nullptr) return access;
-  // Where the compositor has all but a hotkey, the start does not wait for that of the portal.
-  const bool isOfInterest = !reachesApplicationsByCompositor(access) ||
-                            (environment("SWAYSOCK").empty() &&
-                             access.bus->knows(quillseal::linux::Portal::service).value_or(false));
+  // Where the compositor has all but a hotkey, only a start with the session waits until the portal
+  // has started. Sway and KDE have a hotkey of their own.
+  const bool isOfInterest =
+      !reachesApplicationsByCompositor(access) ||
+      (environment("SWAYSOCK").empty() &&
+       !KwinHotkey::isOfferedBy(*access.compositor, *access.bus) &&
+       (command == Command::background ||
+        access.bus->knows(quillseal::linux::Portal::service).value_or(false)));
   if (isOfInterest) access.portalBus = DesktopBus::openThrough(places);
   if (access.portalBus != nullptr)
     access.offer = quillseal::linux::offerOfPortal(*access.portalBus, patience);

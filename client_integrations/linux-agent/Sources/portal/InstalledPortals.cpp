@@ -40,22 +40,26 @@ bool isOf(std::string_view line, std::string_view key) {
   return sign != std::string_view::npos && line[sign] == '=';
 }
 
-bool offersKeys(const std::filesystem::path& file) {
-  constexpr std::string_view wanted = "org.freedesktop.impl.portal.RemoteDesktop";
+bool offersKeysOrHotkey(const std::filesystem::path& file) {
+  const auto offers = [](std::string_view line, std::string_view interface) {
+    return line.find(interface) != std::string_view::npos;
+  };
   std::ifstream lines(file);
   for (std::string line; std::getline(lines, line);)
-    if (isOf(line, "Interfaces") && line.find(wanted) != std::string::npos) return true;
+    if (isOf(line, "Interfaces") && (offers(line, "org.freedesktop.impl.portal.RemoteDesktop") ||
+                                     offers(line, "org.freedesktop.impl.portal.GlobalShortcuts")))
+      return true;
   return false;
 }
 
 }  // namespace
 
-bool isRemoteDesktopInstalled() {
+bool isUsefulPortalInstalled() {
   return std::ranges::any_of(portalFolders(), [](const std::filesystem::path& folder) {
     std::error_code none;
     const std::filesystem::directory_iterator files(folder, none);
     return std::any_of(begin(files), end(files), [](const auto& file) {
-      return file.path().extension() == ".portal" && offersKeys(file.path());
+      return file.path().extension() == ".portal" && offersKeysOrHotkey(file.path());
     });
   });
 }

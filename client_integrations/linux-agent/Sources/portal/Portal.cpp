@@ -98,7 +98,7 @@ PortalOffer offerOfPortal(DesktopBus& bus, std::chrono::milliseconds patience) {
   const Deadline deadline(patience);
   const auto isSilent = [&deadline] { return deadline.left().count() <= 0; };
   const std::optional<bool> isRunning = bus.knows(Portal::service);
-  if (!isRunning || (!*isRunning && !isRemoteDesktopInstalled())) return {};
+  if (!isRunning || (!*isRunning && !isUsefulPortalInstalled())) return {};
   if (!*isRunning && !bus.start(Portal::service, deadline.left())) return {.isSilent = isSilent()};
   PortalOffer offer;
   const auto version = [&](const char* interface) {

@@ -27,7 +27,7 @@ struct PortalOffer {
 };
 
 /// Asks the portal, and registers this program with it. A portal that does not run is started if
-/// `isRemoteDesktopInstalled`. Blocks for milliseconds where the portal answers or there is none,
+/// `isUsefulPortalInstalled`. Blocks for milliseconds where the portal answers or there is none,
 /// and for `patience` at most.
 ///
 /// The portal looks at `/proc/PID/root` of a client at its first call and refuses everything where

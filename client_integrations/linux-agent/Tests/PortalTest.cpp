@@ -410,7 +410,11 @@ void Story::act(const std::string& line) {
       {"fetch", [&] { run = pasteboard->fetch([this] { outcome = "fetched"; }); }},
       {"write", [&] { pasteboard->write({.plainText = what, .html = {}}); }},
       {"prepare", [&] { run = pasteboard->prepareWrite([this] { outcome = "prepared"; }); }},
-      {"transfer", [&] { transfer(ScriptedPortal::session, what); }},
+      {"transfer",
+       [&] {
+         for (int times = std::stoi(first); times > 0; --times)
+           transfer(ScriptedPortal::session, rest);
+       }},
       {"transfer-elsewhere", [&] { transfer("/other", what); }},
       {"read",
        [&] {

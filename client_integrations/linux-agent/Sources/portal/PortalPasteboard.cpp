@@ -195,7 +195,10 @@ struct PortalPasteboard::State {
     const char* format = nullptr;
     std::uint32_t serial = 0;
     if (!isMeantBy(message) || ::sd_bus_message_read(&message, "su", &format, &serial) <= 0) return;
-    if (transferCount < mostTransfers) transfers.start(send(format, serial));
+    if (transferCount < mostTransfers)
+      transfers.start(send(format, serial));
+    else
+      finish(serial, false);
   }
 
   Task<> send(std::string format, std::uint32_t serial) {
@@ -210,6 +213,10 @@ struct PortalPasteboard::State {
       isDone = co_await writeTo(file, std::move(text), end);
     }
     --transferCount;
+    finish(serial, isDone);
+  }
+
+  void finish(std::uint32_t serial, bool isDone) const {
     const Portal::Message end =
         services.portal.newCall(interface, "SelectionWriteDone", services.remote.session());
     if (end != nullptr &&

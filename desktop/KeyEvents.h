@@ -62,6 +62,7 @@ enum class Delivery {
   notWritten,       ///< the target would have pasted something else than what was last written
   documentChanged,  ///< the target shows another document, tab or field than it did
   targetClosed,     ///< the target has ended
+  targetUnknown,    ///< the key may do harm in the target, of which too little is known
 };
 
 /// Key presses sent to an application. Main thread.

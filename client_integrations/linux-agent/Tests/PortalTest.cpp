@@ -246,6 +246,7 @@ const std::map<std::string, Delivery> deliveries{{"delivered", Delivery::deliver
                                                  {"declined", Delivery::declined},
                                                  {"another document", Delivery::documentChanged},
                                                  {"keys held", Delivery::keysHeld},
+                                                 {"unknown target", Delivery::targetUnknown},
                                                  {"keyboard taken", Delivery::keyboardTaken},
                                                  {"not allowed", Delivery::notAllowed}};
 
@@ -469,9 +470,10 @@ TEST_F(PortalKeys, AreOnlyThoseThatDoNoHarmWhereverTheyGo) {
   };
   const std::map<std::string, std::optional<desktop::RunningApplication>> known{
       {"none", {}},
-      {"editor", application(1, "", "a")},
-      {"another document", application(1, "", "b")},
-      {"another window", application(2, "", "a")},
+      {"unknown", application(1, "", "a")},
+      {"editor", application(1, "Utility", "a")},
+      {"another document", application(1, "Utility", "b")},
+      {"another window", application(2, "Utility", "a")},
       {"terminal", application(1, "TerminalEmulator", "a")}};
   const std::map<std::string, Key> letters{{"copy", Key::c}, {"paste", Key::v}, {"all", Key::a}};
   for (const auto& [target, front, key, held, expected, keysPressed] :

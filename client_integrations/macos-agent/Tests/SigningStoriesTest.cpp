@@ -52,7 +52,8 @@ void set(desktop::Delivery& field, const std::string& value) {
   field = std::map<std::string, Delivery>{{"keyboard taken", Delivery::keyboardTaken},
                                           {"keys held", Delivery::keysHeld},
                                           {"not allowed", Delivery::notAllowed},
-                                          {"not written", Delivery::notWritten}}
+                                          {"not written", Delivery::notWritten},
+                                          {"unknown target", Delivery::targetUnknown}}
               .at(value);
 }
 void set(std::string& field, const std::string& value) {

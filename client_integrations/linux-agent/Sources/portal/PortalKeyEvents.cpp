@@ -70,6 +70,9 @@ Task<Delivery> PortalKeyEvents::deliverOrExplain(Wish wish) {
 
 Task<Delivery> PortalKeyEvents::deliver(Wish wish) {
   if (!wish.target && wish.press.key != Key::c) co_return Delivery::declined;
+  // A terminal would paste the primary selection with Shift+Insert, and a shell run its lines.
+  if (wish.press.key == Key::v && wish.target->categories.empty())
+    co_return Delivery::targetUnknown;
   const Delivery ready = co_await readiness();
   if (ready != Delivery::delivered) co_return ready;
   if (wish.press.key == Key::v) co_await sleep(services_.loop, clipboardPropagation);

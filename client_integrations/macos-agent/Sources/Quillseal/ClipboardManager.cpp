@@ -36,6 +36,8 @@ Placement placementOf(desktop::Delivery delivery) {
       return Placement::documentChanged;
     case desktop::Delivery::targetClosed:
       return Placement::sourceClosed;
+    case desktop::Delivery::targetUnknown:
+      return Placement::maybeTerminal;
     case desktop::Delivery::declined:
       break;
   }
@@ -62,6 +64,8 @@ std::string_view reasonOf(Placement placement) {
       return "the source is not known";
     case Placement::terminal:
       return "the source is a terminal";
+    case Placement::maybeTerminal:
+      return "the source may be a terminal";
     default:
       return "source app is the signing browser";
   }

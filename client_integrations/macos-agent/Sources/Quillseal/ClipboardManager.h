@@ -52,6 +52,7 @@ enum class Placement {
   sourceClosed,
   sourceUnknown,  ///< the desktop did not say where the text came from, and did not take the keys
   terminal,       ///< whose shell would run the block's lines as commands
+  maybeTerminal,  ///< the desktop did not say what kind of application it came from
 };
 
 struct Injected {

@@ -175,6 +175,11 @@ desktop::Alert alertToPaste(ClipboardManager::Placement placement,
           "Paste it where you need it.\n\nQuillseal does not paste into a terminal: a shell there "
           "would run each line as a command.";
       break;
+    case Placement::maybeTerminal:
+      steps = switchBack + name + selectAndPaste +
+              "Quillseal did not paste it for you: it does not know this application, which may be "
+              "a terminal.";
+      break;
     default:
       steps = switchBack + (hasName ? name : "your browser") + selectAndPaste +
               "Quillseal cannot paste it for you here: the signing page opened in the same "

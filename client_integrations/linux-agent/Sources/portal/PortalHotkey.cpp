@@ -225,7 +225,7 @@ Task<> PortalHotkey::bind() {
                       "in the settings of Quillseal.") +
                       otherWays
       : session_ == nullptr
-          ? "The portal of your desktop does not let Quillseal in, so there is no hotkey. Install "
+          ? "The portal of your desktop does not accept Quillseal, so there is no hotkey. Install "
             "the Debian package of Quillseal if it is not installed, or start Quillseal again."
           : std::string("Your desktop gave Quillseal no hotkey.") + otherWays;
   fail(problem);

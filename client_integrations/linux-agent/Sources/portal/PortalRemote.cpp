@@ -28,7 +28,7 @@ constexpr const char* silence =
     "The portal of your desktop, through which Quillseal presses keys, does not answer. Sign again "
     "in a moment. If that does not help, log out and in.";
 constexpr const char* absence =
-    "The portal of your desktop does not let Quillseal in. Install the Debian package of Quillseal "
+    "The portal of your desktop does not accept Quillseal. Install the Debian package of Quillseal "
     "if it is not installed, or start Quillseal again.";
 
 /// The key of a symbol that has the same one in every layout; 0 for others.

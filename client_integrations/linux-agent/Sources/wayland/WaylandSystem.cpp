@@ -77,8 +77,8 @@ std::string WaylandSystem::limits() const {
            "not press keys behind a locked screen, so it signs nothing in this session. Log out "
            "and in again.";
   }
-  return "The desktop no longer answers, so Quillseal can neither read the selected text of other "
-         "applications nor press keys there. Start Quillseal again.";
+  return "The desktop no longer lets Quillseal read the selected text of other applications or "
+         "press keys there. Start Quillseal again.";
 }
 
 void WaylandSystem::bringToFront(QWidget& window) const {

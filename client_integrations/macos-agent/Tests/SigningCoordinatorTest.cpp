@@ -63,27 +63,6 @@ TEST_F(SigningCoordinatorTest, GivesTheRtfOfItsOwnCopyWhenAskedForIt) {
   EXPECT_THAT(trace, ElementsAre("press ⌘C", "fetch RTF", "fetch RTF"));
 }
 
-TEST_F(SigningCoordinatorTest, AFirstRunUsesNoKeyWhoseEnrolmentMayFail) {
-  for (const bool fails : {true, false}) {
-    for (const int steps : {0, 1}) {
-      Story d;
-      d.keyStore.hasKey = false;
-      if (fails) d.http.answers["/api/register_native"] = {{500, R"({"error":"Not now."})"}};
-      TaskScope settings;
-      // Before the run looks for a key, or between its two lookups.
-      if (steps == 0) settings.start(d.coordinator->enrolDevice());
-      d.coordinator->startSigning();
-      if (steps == 1) {
-        d.loop.step();
-        settings.start(d.coordinator->enrolDevice());
-      }
-      d.loop.run();
-      EXPECT_EQ(d.count("alert: Enrolment Failed | Not now."), fails);
-      EXPECT_EQ(d.count("create key"), fails ? 2 : 1) << "a key that is gone, or one for both";
-    }
-  }
-}
-
 TEST(SecureEnclaveManager, SignsTheBytesOfAWholeDigestOnly) {
   Story desktop;
   const auto sign = [&](const std::string& textHashHex) {

@@ -352,9 +352,11 @@ bool act(Story& d, const std::string& line) {
   } else if (verb == "start") {
     for (int runs = what.empty() ? 1 : std::stoi(what); runs > 0; --runs)
       d.coordinator->startSigning();
-  } else if (line == "enrol") {
+  } else if (line == "step") {
+    d.loop.step();
+  } else if (line == "enrol" || line == "begin to enrol") {
     d.enrolments.start(d.coordinator->enrolDevice());
-    d.loop.run();
+    if (line == "enrol") d.loop.run();
   } else {
     return false;
   }

@@ -251,6 +251,16 @@ TEST_F(KwinHotkeys, AreNamedAsTheUserHasChosenThem) {
     kde.choose(0);
     testing::runUntil(loop, [&] { return keys.state().isOff; });
   }
+  {
+    ScriptedKde kde({.granted = 0});
+    {
+      KwinHotkey keys({.loop = loop, .bus = *bus, .tell = {}});
+      EXPECT_THROW(keys.registerHotkey(desktop::signingHotkey, [] {}), Error);
+      kde.choose(0x04000051);
+      testing::runUntil(loop, [&] { return keys.state().otherKeys == "Ctrl+Q"; });
+    }
+    EXPECT_EQ(kde.calls().back(), "setInactive") << "the keys chosen later work elsewhere again";
+  }
   ScriptedKde other({.granted = 0, .owner = "other"});
   KwinHotkey keys({.loop = loop, .bus = *bus, .tell = {}});
   EXPECT_THROW(keys.registerHotkey(desktop::signingHotkey, [] {}), Error);

@@ -171,6 +171,12 @@ void KwinHotkey::claim() {
                                       .name = "yourShortcutsChanged",
                                       .firstArgument = nullptr},
                                      onChange_);
+  owners_ = services_.bus.subscribe({.sender = "org.freedesktop.DBus",
+                                     .path = "/org/freedesktop/DBus",
+                                     .interface = "org.freedesktop.DBus",
+                                     .name = "NameOwnerChanged",
+                                     .firstArgument = service},
+                                    onOwner_);
   const Registration registration = request();
   // What is not answered in time may be done later.
   mayHaveKeys_ = registration.granted != 0 || !registration.isAnswered;
@@ -182,17 +188,12 @@ void KwinHotkey::claim() {
     fail(2, "The shortcut settings of your desktop give Quillseal no keys. Choose some there");
   if (registration.granted == 0 || presses_ == nullptr || releases_ == nullptr)
     fail(3, "The shortcuts of your desktop do not answer. Start Quillseal again");
-  owners_ = services_.bus.subscribe({.sender = "org.freedesktop.DBus",
-                                     .path = "/org/freedesktop/DBus",
-                                     .interface = "org.freedesktop.DBus",
-                                     .name = "NameOwnerChanged",
-                                     .firstArgument = service},
-                                    onOwner_);
 }
 
 /// Has the keys that the desktop names, 0 for none.
 void KwinHotkey::have(int keys) {
   if (keys == 0) return turnOff();
+  mayHaveKeys_ = true;
   become({.otherKeys = keys == keys_ ? std::string() : nameOfNumber(keys), .isOff = false});
 }
 

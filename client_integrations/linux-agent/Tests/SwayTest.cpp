@@ -188,6 +188,12 @@ TEST(SwayHotkeyTest, EndsWithSway) {
   const std::clock_t before = std::clock();
   agent.loop.run();
   EXPECT_LT(std::clock() - before, CLOCKS_PER_SEC / 20);  // nobody reads again and again
+  EXPECT_TRUE(keys.state().isOff);
+  int presses = 0;
+  keys.registerHotkey(hotkey, [&] { ++presses; });
+  EXPECT_FALSE(keys.state().isOff);
+  sway.tell(bindingEvent("pressed"));
+  testing::runUntil(agent.loop, [&] { return presses == 1; });
 }
 
 TEST(SwayHotkeyTest, FollowsTheLayout) {

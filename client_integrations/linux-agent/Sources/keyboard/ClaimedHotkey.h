@@ -34,6 +34,7 @@ class ClaimedHotkey : public ObservedHotkey {
     try {
       claim();
     } catch (const Error& error) {
+      turnOff();  // the claim may have got halfway
       tell_(error.what());
     }
   }

@@ -55,10 +55,7 @@ std::string otherWays(std::string_view place) {
 }  // namespace
 
 SwayHotkey::SwayHotkey(Services services)
-    : ClaimedHotkey(services.tell),
-      services_(std::move(services)),
-      commands_(SwayIpc::open(services_.socket)),
-      events_(SwayIpc::open(services_.socket)) {}
+    : ClaimedHotkey(services.tell), services_(std::move(services)) {}
 
 SwayHotkey::~SwayHotkey() {
   watch_ = {};
@@ -71,6 +68,10 @@ SwayHotkey::~SwayHotkey() {
 }
 
 void SwayHotkey::claim() {
+  // New ones each time: sway may have ended the former ones.
+  watch_ = {};
+  commands_ = SwayIpc::open(services_.socket);
+  events_ = SwayIpc::open(services_.socket);
   if (commands_ == nullptr || events_ == nullptr)
     fail(1, "This desktop gives programs no hotkey. To sign by keyboard, " +
                 otherWays("the settings of your desktop"));
@@ -97,7 +98,8 @@ void SwayHotkey::claim() {
 }
 
 bool SwayHotkey::command(const std::string& text) {
-  const auto answer = commands_->ask(SwayIpc::Request::runCommand, text);
+  const auto answer =
+      commands_ == nullptr ? std::nullopt : commands_->ask(SwayIpc::Request::runCommand, text);
   const json parsed = json::parse(answer.value_or(""), nullptr, false);
   return parsed.is_array() && parsed.size() == 1 && parsed[0].is_object() &&
          parsed[0].value("success", json()) == true;
@@ -126,6 +128,7 @@ bool SwayHotkey::bind() {
 }
 
 void SwayHotkey::bindAgain() {
+  key_ = keyInLayout();
   become({.otherKeys = {}, .isOff = !bind()});
 }
 
@@ -135,16 +138,17 @@ void SwayHotkey::unbind() {
 }
 
 void SwayHotkey::followLayout() {
-  const std::uint32_t now = keyInLayout();
-  if (now == key_ || !isBound_) return;
+  if (keyInLayout() == key_ || !isBound_) return;
   unbind();
-  key_ = now;
   bindAgain();
 }
 
 void SwayHotkey::receive() {
   const auto messages = events_->receive();
-  if (!messages) watch_ = {};
+  if (!messages) {
+    watch_ = {};
+    turnOff();
+  }
   for (const SwayIpc::Message& message : messages.value_or(std::vector<SwayIpc::Message>()))
     handle(message);
 }

@@ -12,8 +12,8 @@ namespace quillseal::desktop {
 struct HotkeyState {
   /// Its keys as the desktop names them, where they are not those that were asked for; else empty.
   std::string otherKeys;
-  /// There is none: the user has refused or removed it, or it could not be registered. It may stay
-  /// off until `Hotkey::askAgain`.
+  /// There is none: the user has refused or removed it, or, where the desktop can be asked again,
+  /// it could not be registered. It may stay off until `Hotkey::askAgain`.
   bool isOff = false;
 
   bool operator==(const HotkeyState&) const = default;
@@ -41,8 +41,8 @@ class Hotkey {
   /// called before the user sees the settings.
   virtual void refresh() {}
 
-  /// Asks the user for a hotkey that is off, and tells them what came of it. Does not wait for the
-  /// answer.
+  /// Tries again to get a hotkey that is off. Asks the user where the desktop does so, without
+  /// waiting for the answer, and tells them why if there is still none.
   virtual void askAgain() {}
 };
 

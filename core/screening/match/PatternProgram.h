@@ -159,13 +159,14 @@ class LoopMemo {
   }
   void storeReach(std::size_t from, std::size_t to);
 
-  /// Moves `at` down, at most to `low`, to the next place from which what follows may not fail.
+  /// Moves `at` down, at most to `low`, to the next place where leaving the loop is not known to
+  /// fail.
   /// False when there is none.
   [[nodiscard]] bool passFailures(std::size_t low, std::size_t& at) const;
   void storeFailures(std::size_t low, std::size_t high);
 
  private:
-  Stretch reach_;   ///< the loop takes each code point but the last
+  Stretch reach_;   ///< the loop takes all code points from the first place to the last
   Stretch latest_;  ///< leaving the loop fails; grows downwards, since exits are tried from the end
   Stretch known_;   ///< likewise, of earlier entries
 };

@@ -6,8 +6,8 @@
 namespace quillseal::linux {
 namespace {
 
-/// Whether the desktop is GNOME, or one that uses its service for the keyboard settings. At log-in
-/// that service may still be starting.
+/// Whether the desktop is GNOME, or one that uses its service for the keyboard settings. Taken for
+/// granted if the bus does not answer.
 bool obeysSettingsOfGnome(DesktopBus& bus) {
   return bus.knows("org.gnome.Shell").value_or(true) ||
          bus.knows("org.gnome.SettingsDaemon.MediaKeys").value_or(true);

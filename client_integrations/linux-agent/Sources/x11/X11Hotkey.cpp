@@ -93,6 +93,7 @@ bool X11Hotkey::grab(const Place& place) {
       granted = false;
     }
   }
+  if (!granted) xcb_ungrab_key(connection_, place.key, root_, XCB_MOD_MASK_ANY);
   return granted;
 }
 

@@ -160,8 +160,7 @@ class LoopMemo {
   void storeReach(std::size_t from, std::size_t to);
 
   /// Moves `at` down, at most to `low`, to the next place where leaving the loop is not known to
-  /// fail.
-  /// False when there is none.
+  /// fail. False when there is none.
   [[nodiscard]] bool passFailures(std::size_t low, std::size_t& at) const;
   void storeFailures(std::size_t low, std::size_t high);
 

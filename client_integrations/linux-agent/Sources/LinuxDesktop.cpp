@@ -7,17 +7,16 @@
 #include <string>
 #include <utility>
 
+#include "LinuxWording.h"
 #include "Quillseal/Settings.h"
-#include "applications/EntriesModule.h"
-#include "applications/LoadedDesktopEntries.h"
 #include "browsers/LinuxBrowserTabs.h"
-#include "gnome/GnomeSystem.h"
-#include "gnome/LoadedShortcutSettings.h"
 #include "keys/LinuxKeyStore.h"
+#include "modules/EntriesModule.h"
+#include "modules/LoadedDesktopEntries.h"
+#include "modules/LoadedShortcutSettings.h"
 #include "network/HttpModule.h"
 #include "network/LoadedTransport.h"
 #include "presence/LinuxPresence.h"
-#include "session/LinuxWording.h"
 #include "session/LoadedModule.h"
 #include "session/QtDefaults.h"
 #include "session/QtDescriptors.h"
@@ -26,15 +25,16 @@
 #include "session/Reach.h"
 #include "session/SystemMachineIdentity.h"
 #include "session/SystemWallClock.h"
+#include "systems/GnomeSystem.h"
+#include "systems/WaylandSystem.h"
+#include "systems/X11System.h"
 #include "wayland/WaylandReach.h"
-#include "wayland/WaylandSystem.h"
 #include "windows/QtAlerts.h"
 #include "windows/QtPresencePrompt.h"
 #include "windows/QtProgram.h"
 #include "windows/QtSecretPrompt.h"
 #include "windows/QtWindows.h"
 #include "windows/TrayStatusItem.h"
-#include "x11/X11System.h"
 
 namespace quillseal::linux {
 namespace {

@@ -3,8 +3,8 @@
 #include <memory>
 
 #include "desktop/Desktop.h"
-#include "portal/PortalSystem.h"
 #include "session/CommandLine.h"
+#include "systems/PortalSystem.h"
 
 namespace quillseal::linux {
 

@@ -8,9 +8,9 @@
 #include "Programs.h"
 #include "TemporaryFolder.h"
 #include "VirtualLoop.h"
-#include "applications/LoadedDesktopEntries.h"
-#include "browsers/BrowserLauncher.h"
+#include "applications/BrowserLauncher.h"
 #include "browsers/Browsers.h"
+#include "modules/LoadedDesktopEntries.h"
 
 namespace quillseal::linux {
 namespace {

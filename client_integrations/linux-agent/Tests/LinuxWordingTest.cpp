@@ -1,10 +1,10 @@
 #include <gmock/gmock.h>
 
 #include "Cases.h"
+#include "LinuxWording.h"
 #include "MacDesktop/MacWords.h"
 #include "Story.h"
 #include "core/text/UnicodeText.h"
-#include "session/LinuxWording.h"
 
 // The agent with the words of each desktop. This build has a server key and names no server.
 namespace quillseal::linux {

@@ -12,10 +12,10 @@
 #include "ScriptedPortal.h"
 #include "ScriptedUser.h"
 #include "TemporaryFolder.h"
-#include "applications/LoadedDesktopEntries.h"
 #include "core/text/Error.h"
 #include "desktop/SigningHotkey.h"
-#include "portal/PortalSystem.h"
+#include "modules/LoadedDesktopEntries.h"
+#include "systems/PortalSystem.h"
 
 namespace quillseal::linux {
 namespace {

@@ -16,6 +16,7 @@
 
 #include "BusServices.h"
 #include "Cases.h"
+#include "LinuxWording.h"
 #include "PrivateBus.h"
 #include "Quillseal/ContentRisk.h"
 #include "applications/WindowDocument.h"
@@ -24,7 +25,6 @@
 #include "session/CommandLine.h"
 #include "session/IdleMemory.h"
 #include "session/JournalLog.h"
-#include "session/LinuxWording.h"
 #include "session/QtDescriptors.h"
 #include "session/QtMainLoop.h"
 #include "session/Reach.h"

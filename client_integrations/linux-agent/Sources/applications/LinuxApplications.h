@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
+#include "applications/BrowserLauncher.h"
 #include "applications/DesktopEntries.h"
-#include "browsers/BrowserLauncher.h"
 #include "desktop/Applications.h"
 #include "desktop/MainLoop.h"
 

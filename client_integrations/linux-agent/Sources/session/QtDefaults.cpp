@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "core/text/UnicodeText.h"
-#include "windows/QtText.h"
+#include "session/QtText.h"
 
 namespace quillseal::linux {
 namespace {

@@ -4,7 +4,7 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
-#include "windows/QtText.h"
+#include "session/QtText.h"
 
 namespace quillseal::linux {
 

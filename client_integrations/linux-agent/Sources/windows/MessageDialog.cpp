@@ -12,7 +12,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "windows/QtText.h"
+#include "session/QtText.h"
 
 namespace quillseal::linux {
 namespace {

@@ -9,8 +9,8 @@
 #include <QVariantMap>
 #include <memory>
 
+#include "session/QtText.h"
 #include "windows/MessageDialog.h"
-#include "windows/QtText.h"
 
 namespace quillseal::linux {
 namespace {

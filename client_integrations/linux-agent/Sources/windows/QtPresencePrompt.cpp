@@ -4,8 +4,8 @@
 #include <QPointer>
 #include <utility>
 
+#include "session/QtText.h"
 #include "windows/MessageDialog.h"
-#include "windows/QtText.h"
 
 namespace quillseal::linux {
 namespace {

@@ -6,8 +6,8 @@
 
 #include "desktop/MainLoop.h"
 #include "keys/SecretPrompt.h"
+#include "session/QtText.h"
 #include "windows/OwnWindows.h"
-#include "windows/QtText.h"
 
 namespace quillseal::linux {
 

@@ -13,8 +13,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "session/QtText.h"
 #include "windows/MessageDialog.h"
-#include "windows/QtText.h"
 
 namespace quillseal::linux {
 namespace {

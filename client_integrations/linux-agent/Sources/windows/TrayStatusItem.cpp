@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "keyboard/KeyChords.h"
-#include "windows/QtText.h"
+#include "session/QtText.h"
 
 namespace quillseal::linux {
 namespace {

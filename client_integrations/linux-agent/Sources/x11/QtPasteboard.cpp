@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "windows/QtText.h"
+#include "session/QtText.h"
 
 namespace quillseal::linux {
 namespace {

@@ -5,12 +5,12 @@
 #include "gnome/GnomeApplications.h"
 #include "gnome/ShellExtension.h"
 #include "gnome/XwaylandPasteboard.h"
-#include "portal/DesktopHotkey.h"
 #include "portal/Portal.h"
 #include "portal/PortalKeyEvents.h"
 #include "portal/PortalRemote.h"
-#include "portal/PortalSystem.h"
-#include "session/WindowingSystem.h"
+#include "systems/DesktopHotkey.h"
+#include "systems/PortalSystem.h"
+#include "systems/WindowingSystem.h"
 #include "x11/WindowManager.h"
 
 namespace quillseal::linux {

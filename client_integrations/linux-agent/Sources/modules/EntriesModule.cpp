@@ -1,4 +1,4 @@
-#include "applications/EntriesModule.h"
+#include "modules/EntriesModule.h"
 
 #include "applications/GioDesktopEntries.h"
 #include "gnome/GioShortcutSettings.h"

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "applications/DesktopEntries.h"
-#include "browsers/LeadingPage.h"
+#include "applications/LeadingPage.h"
 #include "desktop/Applications.h"
 #include "desktop/MainLoop.h"
 

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "session/Reach.h"
-#include "session/WindowingSystem.h"
+#include "systems/WindowingSystem.h"
 #include "x11/QtPasteboard.h"
 #include "x11/WindowManager.h"
 #include "x11/X11Applications.h"

@@ -1,4 +1,4 @@
-#include "browsers/BrowserLauncher.h"
+#include "applications/BrowserLauncher.h"
 
 #include <array>
 #include <cstdlib>

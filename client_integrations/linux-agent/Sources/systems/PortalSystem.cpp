@@ -1,4 +1,4 @@
-#include "portal/PortalSystem.h"
+#include "systems/PortalSystem.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>

@@ -1,4 +1,4 @@
-#include "wayland/WaylandSystem.h"
+#include "systems/WaylandSystem.h"
 
 #include <QGuiApplication>
 #include <QWidget>

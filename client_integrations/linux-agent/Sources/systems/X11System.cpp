@@ -1,4 +1,4 @@
-#include "x11/X11System.h"
+#include "systems/X11System.h"
 
 #include <QGuiApplication>
 #include <QWidget>

@@ -1,4 +1,4 @@
-#include "gnome/GnomeSystem.h"
+#include "systems/GnomeSystem.h"
 
 #include <QCoreApplication>
 #include <QWidget>

@@ -1,4 +1,4 @@
-#include "browsers/LeadingPage.h"
+#include "applications/LeadingPage.h"
 
 #include <cerrno>
 #include <cstdlib>

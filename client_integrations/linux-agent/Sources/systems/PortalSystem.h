@@ -6,12 +6,12 @@
 #include <string>
 
 #include "gnome/ShellExtension.h"
-#include "portal/DesktopHotkey.h"
 #include "portal/Portal.h"
 #include "portal/PortalKeyEvents.h"
 #include "portal/PortalRemote.h"
 #include "session/DesktopBus.h"
-#include "session/WindowingSystem.h"
+#include "systems/DesktopHotkey.h"
+#include "systems/WindowingSystem.h"
 #include "wayland/WaylandConnection.h"
 #include "wayland/WaylandWindows.h"
 

@@ -6,7 +6,7 @@
 #include "portal/Portal.h"
 #include "portal/PortalHotkey.h"
 #include "session/DesktopBus.h"
-#include "session/WindowingSystem.h"
+#include "systems/WindowingSystem.h"
 #include "wayland/AgentKeyboard.h"
 #include "wayland/WaylandApplications.h"
 #include "wayland/WaylandConnection.h"

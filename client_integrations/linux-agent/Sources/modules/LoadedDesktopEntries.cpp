@@ -1,10 +1,10 @@
-#include "applications/LoadedDesktopEntries.h"
+#include "modules/LoadedDesktopEntries.h"
 
 #include <stdexcept>
 #include <utility>
 
-#include "applications/EntriesModule.h"
 #include "core/text/Error.h"
+#include "modules/EntriesModule.h"
 
 namespace quillseal::linux {
 

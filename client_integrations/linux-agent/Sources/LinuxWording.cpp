@@ -1,4 +1,4 @@
-#include "session/LinuxWording.h"
+#include "LinuxWording.h"
 
 #include <string>
 

@@ -1,10 +1,10 @@
-#include "gnome/LoadedShortcutSettings.h"
+#include "modules/LoadedShortcutSettings.h"
 
 #include <stdexcept>
 #include <utility>
 
-#include "applications/EntriesModule.h"
 #include "core/text/Error.h"
+#include "modules/EntriesModule.h"
 
 namespace quillseal::linux {
 

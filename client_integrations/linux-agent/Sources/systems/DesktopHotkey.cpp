@@ -1,4 +1,4 @@
-#include "portal/DesktopHotkey.h"
+#include "systems/DesktopHotkey.h"
 
 #include <QByteArray>
 #include <utility>

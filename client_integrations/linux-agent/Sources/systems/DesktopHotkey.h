@@ -6,7 +6,7 @@
 #include "gnome/GnomeHotkey.h"
 #include "gnome/ShellExtension.h"
 #include "portal/PortalHotkey.h"
-#include "session/WindowingSystem.h"
+#include "systems/WindowingSystem.h"
 
 namespace quillseal::linux {
 

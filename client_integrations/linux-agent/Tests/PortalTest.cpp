@@ -414,7 +414,9 @@ void Story::act(const std::string& line) {
       {"transfer",
        [&] {
          for (int times = std::stoi(first); times > 0; --times)
-           transfer(ScriptedPortal::session, rest);
+           desk->emit("Clipboard", "SelectionTransfer", "osu", ScriptedPortal::session,
+                      rest.c_str(), 7U);
+         settle();
        }},
       {"transfer-elsewhere", [&] { transfer("/other", what); }},
       {"read",

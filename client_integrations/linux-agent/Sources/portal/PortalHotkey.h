@@ -47,7 +47,6 @@ class PortalHotkey : public ObservedHotkey {
   void fail(const std::string& problem);
   void portalEnded();
   void end(PortalSession::End how);
-  void fail(const std::string& problem);
   void refuse();
   void bindAfter(std::chrono::milliseconds delay);
   void readKeys(sd_bus_message& shortcuts);

@@ -178,6 +178,7 @@ void PortalHotkey::bindAfter(std::chrono::milliseconds delay) {
 }
 
 Task<> PortalHotkey::bind() {
+  const auto begin = services_.loop.now();
   isBinding_ = true;
   isDown_ = false;
   giveUp_ = services_.loop.after(services_.patience, [this] {
@@ -190,7 +191,8 @@ Task<> PortalHotkey::bind() {
                                           [this](PortalSession::End how) { end(how); });
   giveUp_ = {};  // the user may take any time
   PortalAnswer answer;
-  if (session_ != nullptr) {
+  const bool isOpened = session_ != nullptr;
+  if (isOpened) {
     Portal::Message call = services_.portal.newCall(interface, "BindShortcuts", session_->handle());
     const std::string trigger = triggerOf(combination_);
     constexpr const char* noWindow = "";
@@ -202,7 +204,11 @@ Task<> PortalHotkey::bind() {
       answer = co_await services_.portal.request(std::move(call), std::move(none));
     }
   }
+  // The end of the portal, which is also the end of its requests, may be reported to them first.
+  if (answer.message == nullptr) co_await sleep(services_.loop, 0ms);
   isBinding_ = false;
+  const bool isBoundAgain = lastPortalEnd_ && *lastPortalEnd_ > begin;
+  if ((isBoundAgain || (isOpened && session_ == nullptr)) && !isRefusal(answer)) co_return;
   const bool wasWanted = std::exchange(isWanted_, false);
   desktop::Defaults& defaults = services_.defaults();
   if (answer.outcome == PortalAnswer::Outcome::granted) {

@@ -138,7 +138,8 @@ void SwayHotkey::unbind() {
 }
 
 void SwayHotkey::followLayout() {
-  if (keyInLayout() == key_ || !isBound_) return;
+  // Without reports of sway, a binding would do nothing.
+  if (keyInLayout() == key_ || !isBound_ || state().isOff) return;
   unbind();
   bindAgain();
 }

@@ -100,7 +100,8 @@ FileDescriptor connectedTo(const std::string& path) {
   address.sun_family = AF_UNIX;
   if (path.empty() || path.size() >= sizeof address.sun_path) return {};
   path.copy(address.sun_path, path.size());
-  FileDescriptor descriptor(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+  // Else connecting would wait while a sway that hangs has too many connections to accept.
+  FileDescriptor descriptor(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
   const auto* generic = reinterpret_cast<const sockaddr*>(&address);
   if (connect(descriptor.get(), generic, sizeof address) != 0) return {};
   return descriptor;

@@ -28,10 +28,11 @@ std::optional<RunningApplication> WaylandApplications::frontmost() const {
   std::optional<WaylandWindow> window = services_.windows.frontForeign();
   if (!window) return std::nullopt;
   if (sway_ != nullptr) {
-    const std::string tree = sway_->ask(SwayIpc::Request::getTree, "").value_or("");
-    if (const auto application = applicationIn(tree, window->title)) {
+    // A terminal may have any app id, and Ctrl+C would end the program that runs in it.
+    const std::optional<std::string> tree = sway_->ask(SwayIpc::Request::getTree, "");
+    if (!tree) return std::nullopt;
+    if (const auto application = applicationIn(*tree, window->title)) {
       window->applicationId = application->id;
-      // A terminal may have any app id, and Ctrl+C would end the program that runs in it.
       window->process = application->process;
     }
   }

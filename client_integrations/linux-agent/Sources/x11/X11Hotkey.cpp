@@ -93,7 +93,10 @@ bool X11Hotkey::grab(const Place& place) {
       granted = false;
     }
   }
-  if (!granted) xcb_ungrab_key(connection_, place.key, root_, XCB_MOD_MASK_ANY);
+  if (!granted) {
+    xcb_ungrab_key(connection_, place.key, root_, XCB_MOD_MASK_ANY);
+    xcb_flush(connection_);
+  }
   return granted;
 }
 

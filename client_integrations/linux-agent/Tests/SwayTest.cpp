@@ -178,12 +178,15 @@ TEST(SwayHotkeyTest, IsPressedOnceHoweverLongItIsHeld) {
 }
 
 TEST(SwayHotkeyTest, EndsWithSway) {
-  const ScriptedCompositor compositor;
+  ScriptedCompositor compositor({.layout = layoutWithH(43)});
   ScriptedSway sway({});
   Agent agent;
+  agent.connection->serve(agent.loop, agent.loop);
   SwayHotkey keys(agent.services(sway.path()));
   keys.registerHotkey(hotkey, [] {});
   sway.leave();
+  const desktop::Ticket change =
+      agent.loop.after(100ms, [&] { compositor.setLayout(layoutWithH(44)); });
   const desktop::Ticket end = agent.loop.after(200ms, [&] { agent.loop.stop(); });
   const std::clock_t before = std::clock();
   agent.loop.run();

@@ -158,7 +158,7 @@ class ScriptedPortal : public BusServices {
       return ::sd_bus_reply_method_return(&call, "o", "/later");
     if (member == "CreateSession")
       return respond(call, "", "ua{sv}", 0U, 1, "session_handle", "s", session);
-    if (member == "Start" && !script_.answers) {
+    if ((member == "Start" || member == "BindShortcuts") && !script_.answers) {
       pending_.reset(::sd_bus_message_ref(&call));
       return ::sd_bus_reply_method_return(&call, "o", "/later");
     }

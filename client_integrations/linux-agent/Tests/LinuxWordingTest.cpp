@@ -1,3 +1,5 @@
+#include <fstream>
+
 #include <gmock/gmock.h>
 
 #include "Cases.h"
@@ -37,6 +39,11 @@ std::string renamed(std::string text) {
   return text;
 }
 
+void expectNoWordsOfAMac(const std::string& shown) {
+  for (const char* word : {"Mac", "Enclave", "Touch ID", "⌘", "⌥", "⌃", "biometric", "Outlook"})
+    EXPECT_THAT(shown, Not(HasSubstr(word)));
+}
+
 TEST(LinuxWording, EveryTextReadsAsIfWrittenForTheMachine) {
   const desktop::Wording macWords = mac::MacWords().current();
   for (const auto& [lines, mac, tpm, keyFile] :
@@ -49,13 +56,36 @@ TEST(LinuxWording, EveryTextReadsAsIfWrittenForTheMachine) {
           const std::string& expected = place == KeyPlace::tpm ? tpm : keyFile;
           EXPECT_THAT(shown, HasSubstr(expected.empty() ? renamed(mac) : expected));
         }
-        shown = unicode::replacingAll(shown, selection, "");
-        for (const char* word :
-             {"Mac", "Enclave", "Touch ID", "⌘", "⌥", "⌃", "biometric", "Outlook"})
-          EXPECT_THAT(shown, Not(HasSubstr(word))) << mac;
+        SCOPED_TRACE(mac);
+        expectNoWordsOfAMac(unicode::replacingAll(shown, selection, ""));
       }
     }
   }
+}
+
+// The stories are those of a Mac: what they expect is left out, what the user does is renamed.
+TEST(LinuxWording, HoldsInAllStoriesOfTheAgent) {
+  std::size_t told = 0;
+  for (const char* path : {QUILLSEAL_SIGNING_STORIES, QUILLSEAL_SETTINGS_STORIES}) {
+    std::ifstream file(path);
+    std::optional<Story> story;
+    for (std::string line; std::getline(file, line);) {
+      if (line.empty() || line.starts_with('#') || line.starts_with("> ") ||
+          line.find(" == ") != std::string::npos || line.find(" ~ ") != std::string::npos)
+        continue;
+      SCOPED_TRACE(line);
+      if (line == "entitlement missing = yes") line = "creation fails = The disk is full.";
+      if (line.starts_with('[')) {
+        story.emplace().words.wording = linuxWording({.key = KeyPlace::keyFile});
+        story->defaults.strings["ServerURL"] = "https://seal.example";
+        ++told;
+      } else {
+        goOn(*story, renamed(line));
+        expectNoWordsOfAMac(story->shown);
+      }
+    }
+  }
+  EXPECT_GT(told, 100U);
 }
 
 TEST(LinuxWording, NamesTheKeyByItsPlaceAndADemonstration) {

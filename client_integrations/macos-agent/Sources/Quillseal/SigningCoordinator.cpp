@@ -177,8 +177,8 @@ desktop::Alert alertToPaste(ClipboardManager::Placement placement,
       break;
     case Placement::maybeTerminal:
       steps = switchBack + name + selectAndPaste +
-              "Quillseal did not paste it for you: it does not know this application, which may be "
-              "a terminal.";
+              "Quillseal did not paste it for you: it does not know this application. If that is a "
+              "terminal, do not paste there: a shell would run each line as a command.";
       break;
     default:
       steps = switchBack + (hasName ? name : "your browser") + selectAndPaste +

@@ -18,9 +18,9 @@ namespace quillseal::linux {
 /// only when they ask for it. It stays when the agent ends, and the user can change or remove it in
 /// the settings.
 ///
-/// Its state tells of the keys last seen, which are kept in the settings of the agent: GIO, with
-/// which GNOME's are read, would take memory in every agent that waits. They are read again at each
-/// press and by `refresh`.
+/// `state` returns the keys that were last seen, which the agent keeps in its own settings. Reading
+/// GNOME's settings loads GIO, which would cost memory in every waiting agent, so they are read
+/// only at a press and by `refresh`.
 class GnomeHotkey : public ObservedHotkey {
  public:
   /// All outlive this object.

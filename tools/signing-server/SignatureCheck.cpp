@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstdint>
+#include <vector>
 
 #include <openssl/core_names.h>
 #include <openssl/crypto.h>
@@ -11,6 +13,7 @@
 #include <openssl/params.h>
 
 #include "Quillseal/CryptoManager.h"
+#include "core/text/Base64.h"
 #include "core/text/CalendarDate.h"
 #include "core/text/UniqueHandle.h"
 
@@ -52,20 +55,15 @@ Key keyOf(std::string_view point) {
 }  // namespace
 
 std::optional<std::string> decodedBase64(std::string_view text) {
-  constexpr std::string_view alphabet =
-      "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-  // EVP_DecodeBlock accepts white space and extra padding; a signature field must have neither.
-  if (text.size() % 4 != 0) return std::nullopt;
-  const std::size_t padding = text.size() - std::min(text.size(), text.find_last_not_of('=') + 1);
-  if (padding > 2) return std::nullopt;
-  const std::string_view digits = text.substr(0, text.size() - padding);
-  if (digits.find_first_not_of(alphabet) != std::string_view::npos) return std::nullopt;
-  std::string bytes(text.size() / 4 * 3, '\0');
-  const int length = EVP_DecodeBlock(reinterpret_cast<unsigned char*>(bytes.data()), bytesOf(text),
-                                     static_cast<int>(text.size()));
-  if (length < 0) return std::nullopt;
-  bytes.resize(static_cast<std::size_t>(length) - padding);
-  return bytes;
+  std::vector<std::uint8_t> bytes(text.size() / 4 * 3);
+  const int padding = text.ends_with("==") ? 2 : text.ends_with('=') ? 1 : 0;
+  const int length = EVP_DecodeBlock(bytes.data(), bytesOf(text), static_cast<int>(text.size()));
+  if (length < padding) return std::nullopt;
+  bytes.resize(static_cast<std::size_t>(length - padding));
+  // EVP_DecodeBlock accepts white space, extra padding and bits that the padding leaves over, so
+  // that one signature would have several spellings.
+  if (base64(bytes) != text) return std::nullopt;
+  return std::string(bytes.begin(), bytes.end());
 }
 
 bool isPublicKey(std::string_view point) {

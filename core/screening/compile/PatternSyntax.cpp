@@ -44,38 +44,20 @@ icu::UnicodeSet setFrom(std::string_view notation, std::uint32_t options = 0) {
   return set;
 }
 
-/// Closes `set` over case. Only characters with case matter, which spares ICU the rest of a large
-/// set.
-void closeOverCase(icu::UnicodeSet& set) {
-  static const icu::UnicodeSet cased =
-      setFrom(R"([\p{Changes_When_Casemapped}\p{Changes_When_Casefolded}])");
-  icu::UnicodeSet closed(set);
-  closed.retainAll(cased);
-  closed.closeOver(USET_CASE_INSENSITIVE);
-  set.addAll(closed);
-}
-
-/// \w, \s or \d, their complements, and all of these closed over case: made once.
+/// \w, \s or \d, and its complement: made once. All are closed over case.
 class PropertySet {
  public:
   explicit PropertySet(std::string_view notation) : members_(setFrom(notation)) {
     others_.addAll(members_).complement();
-    closedMembers_.addAll(members_);
-    closeOverCase(closedMembers_);
-    closedOthers_.addAll(others_);
-    closeOverCase(closedOthers_);
   }
 
-  [[nodiscard]] const icu::UnicodeSet& get(bool complement, bool closed) const {
-    if (complement) return closed ? closedOthers_ : others_;
-    return closed ? closedMembers_ : members_;
+  [[nodiscard]] const icu::UnicodeSet& get(bool complement) const {
+    return complement ? others_ : members_;
   }
 
  private:
   icu::UnicodeSet members_;
   icu::UnicodeSet others_;
-  icu::UnicodeSet closedMembers_;
-  icu::UnicodeSet closedOthers_;
 };
 
 /// The set that the letter of an escape stands for; null for any other letter.
@@ -418,10 +400,10 @@ class Parser {
     }
   }
 
-  /// \w, \s, \d, \p and their complements. Within brackets, case closes over them, too.
-  icu::UnicodeSet escapedSet(bool closed = false) {
+  /// \w, \s, \d, \p and their complements.
+  icu::UnicodeSet escapedSet() {
     const char32_t c = take();
-    if (const PropertySet* const set = propertySet(c)) return set->get(c < U'a', closed);
+    if (const PropertySet* const set = propertySet(c)) return set->get(c < U'a');
     if (c != U'p' && c != U'P') fail("this escape is not offered");
     const std::size_t end = pattern_.find(U'}', at_);
     if (end == std::u32string::npos) fail("missing }");
@@ -445,7 +427,7 @@ class Parser {
         fail("nested sets and set operators are not offered");
       const auto low = setCharacter();
       if (!low) {
-        properties.addAll(escapedSet(caseInsensitive_));
+        properties.addAll(escapedSet());
         continue;
       }
       if (pattern_.size() > at_ + 1 && pattern_[at_] == U'-' && pattern_[at_ + 1] != U']') {
@@ -458,7 +440,7 @@ class Parser {
       }
     }
     ++at_;
-    if (caseInsensitive_) closeOverCase(set);
+    if (caseInsensitive_) set.closeOver(USET_CASE_INSENSITIVE);
     set.addAll(properties);
     if (negative) set.complement();
     set.removeAllStrings();

@@ -43,13 +43,6 @@ constexpr double costOfStart = 2;         ///< a place where a match might start
 /// Code points that a lead without limit is expected to go back.
 constexpr double longestWalk = 5000;
 
-std::size_t shortest(const Literals& literals) {
-  std::size_t length = literals.front().size();
-  for (const Literal& literal : literals)
-    length = std::min(length, literal.size());
-  return length;
-}
-
 /// An element within a node, and how far it lies from the node's ends.
 struct InnerElement {
   RequiredElement element;
@@ -73,7 +66,7 @@ class SequenceBuilder {
     if (isOpen()) {
       boundaryBefore_ = true;
     } else {
-      boundaryAfter_ = shortest(current_) > 0 && !alphabet_.anyEndsInSpace(current_);
+      boundaryAfter_ = !alphabet_.anyEndsInSpace(current_);
     }
   }
 

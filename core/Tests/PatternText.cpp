@@ -140,8 +140,8 @@ std::string PatternText::along(std::size_t pattern, std::mt19937& random) const 
 }
 
 std::string PatternText::mixture(std::mt19937& random) const {
-  static constexpr std::array<std::string_view, 10> joints{
-      " ", ". ", "\n", "", "\r\n", " and ", "\u200D", "\u0301", "! ", "  \n\n  "};
+  static constexpr auto joints = std::to_array<std::string_view>(
+      {" ", ". ", "\n", "", "\r\n", " and ", "\u200D", "\u0301", "! ", "  \n\n  "});
   std::string text;
   for (std::size_t i = 1 + below(random, 4); i > 0; --i) {
     std::string piece =

@@ -199,8 +199,8 @@ std::string repeated(std::string_view unit, std::size_t size) {
 TEST(ScreeningEngine, WorkGrowsLinearlyWithWhateverIsRepeated) {
   const std::vector<Pattern> patterns = screening::rulePatterns();
   const PatternText source(patterns);
-  constexpr std::array<std::string_view, 12> separators{
-      "", " ", "\n", "\r\n", ".", ",", "1", "a", "\u200D", "\u0301", "  \n", " a "};
+  constexpr auto separators = std::to_array<std::string_view>(
+      {"", " ", "\n", "\r\n", ".", ",", "1", "a", "\u200D", "\u0301", "  \n", " a "});
   for (std::size_t p = 0; p < patterns.size(); ++p) {
     const auto compiled = screening::compilePatterns({&patterns[p], 1});
     const ScreeningEngine engine(compiled.tables);

@@ -35,7 +35,7 @@ namespace fs = std::filesystem;
 
 constexpr ScryptCost cheap{.n = 16, .r = 8, .p = 1};
 constexpr uid_t nobody = 65534;
-constexpr std::array<std::string_view, 2> labels{"PUBLIC KEY", "ENCRYPTED PRIVATE KEY"};
+constexpr auto labels = std::to_array<std::string_view>({"PUBLIC KEY", "ENCRYPTED PRIVATE KEY"});
 
 /// A socket that accepts connections from now on, before there is anybody to serve them: nothing
 /// has to wait for the process to start.
@@ -308,7 +308,7 @@ TEST_F(FileKeyStoreTest, AnExchangedPublicHalfIsNoticed) {
   const auto own = KeyFile::read(testing::contentsOf(path), labels);
   const auto foreign = KeyFile::read(testing::contentsOf(other.path), labels);
   ASSERT_TRUE(own && foreign);
-  constexpr std::array<std::string_view, 2> others{"PUBLIC KEY", "PRIVATE KEY"};
+  constexpr auto others = std::to_array<std::string_view>({"PUBLIC KEY", "PRIVATE KEY"});
   EXPECT_FALSE(KeyFile::read(testing::contentsOf(path), others));
   testing::overwrite(path, KeyFile::write("", std::array{foreign->front(), own->back()}));
   EXPECT_THAT(signs(), HasSubstr("tampered with"));

@@ -14,7 +14,7 @@ Task<std::optional<std::string>> currentTabID(desktop::BrowserTabs& tabs,
   if (!bundleID) co_return std::nullopt;
   std::optional<std::string> tab = co_await completionOf<std::optional<std::string>>(
       [&tabs, &bundleID](std::function<void(std::optional<std::string>)> done) {
-        return tabs.currentTab(*bundleID, std::move(done));
+        return tabs.currentTab(bundleID.value(), std::move(done));
       });
   co_return tab;
 }

@@ -2,16 +2,20 @@
 //
 // Algorithm: a trie of the literals; failure links in breadth-first order; then the layout. States
 // of depth two or less whose letters are common are dense. Each other state stores the edges that
-// differ from those of its nearest dense ancestor along the failure links. States are numbered so
-// that dense states come first, match states are adjacent, and the states of one literal lie side
-// by side.
-// Bound: time O(letters of all literals * symbols); at most 65,535 states, more throws
-// PatternError.
-// Tests: ScreeningEngine.AgreesWithIcuOnEveryConstruct, ScreeningEngine.AgreesWithIcuOnEveryRule.
+// differ from those of its nearest dense ancestor along the failure links; a leaf stores only the
+// nearest such ancestor that is none. States are numbered so that those a row leads to come first,
+// dense states, match states and leaves are adjacent, and the states of one literal lie side by
+// side. The values of a state end with those of its failure, so most lists are the end of another
+// one and are stored with it.
+// Bound: time O(letters of all literals * symbols); at most 524,288 states, 65,535 of them near the
+// root, more throws PatternError.
+// Tests: ScreeningEngine.AgreesWithIcuOnEveryConstruct, ScreeningEngine.AgreesWithIcuOnEveryRule,
+// ScreeningEngine.LimitsTheStatesOfTheLiteralIndex.
 
 #include "core/screening/compile/LiteralIndexBuilder.h"
 
 #include <algorithm>
+#include <functional>
 #include <limits>
 #include <string>
 #include <utility>
@@ -59,6 +63,7 @@ class Trie {
     std::uint32_t failure = 0;
     std::uint32_t depth = 0;
     bool isDense = true;
+    bool isNear = true;  ///< whether a row leads to it
 
     [[nodiscard]] std::uint32_t child(Symbol symbol) const {
       for (const auto& [own, node] : children)
@@ -66,6 +71,7 @@ class Trie {
       return 0;
     }
     [[nodiscard]] bool isMatch() const { return !values.empty(); }
+    [[nodiscard]] bool isLeaf() const { return depth > 0 && children.empty(); }
   };
 
   void add(std::span<const Symbol> symbols, std::uint16_t value) {
@@ -74,15 +80,16 @@ class Trie {
       std::uint32_t next = nodes_[at].child(symbol);
       if (next == 0) {
         next = static_cast<std::uint32_t>(nodes_.size());
-        constexpr auto most = std::numeric_limits<State>::max();
-        if (next >= most)
-          throw PatternError("the literals of all patterns need more than " + std::to_string(most) +
+        if (next == Table::maxStates)
+          throw PatternError("the literals of all patterns need more than " +
+                             std::to_string(Table::maxStates) +
                              " states; shorten or merge some patterns");
         nodes_[at].children.emplace_back(symbol, next);
         nodes_.emplace_back();
         nodes_[next].depth = nodes_[at].depth + 1;
         nodes_[next].isDense =
             nodes_[at].isDense && symbol < Table::columns && nodes_[next].depth <= denseDepth;
+        nodes_[next].isNear = nodes_[at].isDense;
       }
       at = next;
     }
@@ -92,6 +99,8 @@ class Trie {
 
   /// Links the nodes; all of them, in the order in which the states are to be numbered.
   std::vector<std::uint32_t> finish() {
+    for (Node& node : nodes_)
+      node.isDense = node.isDense && !node.isLeaf();
     link();
     // Depth first, so that the states along a literal lie side by side.
     std::vector<std::uint32_t> order;
@@ -102,12 +111,13 @@ class Trie {
       for (const auto& [symbol, child] : nodes_[order.back()].children)
         open.push_back(child);
     }
-    const auto rank = [this](std::uint32_t node) {
-      const bool isMatch = nodes_[node].isMatch();
-      return nodes_[node].isDense ? (isMatch ? 1 : 0) : (isMatch ? 2 : 3);
-    };
-    std::stable_sort(order.begin(), order.end(),
-                     [&](std::uint32_t a, std::uint32_t b) { return rank(a) < rank(b); });
+    std::stable_sort(order.begin(), order.end(), [this](std::uint32_t a, std::uint32_t b) {
+      return rank(nodes_[a]) < rank(nodes_[b]);
+    });
+    const auto isFar = [this](std::uint32_t number) { return !nodes_[number].isNear; };
+    if (std::ranges::find_if(order, isFar) - order.begin() >
+        std::numeric_limits<Table::NearState>::max())
+      throw PatternError("the literals of all patterns begin in too many ways");
     return order;
   }
 
@@ -118,10 +128,26 @@ class Trie {
     }
   }
 
+  /// The nearest node with edges that a search in a leaf falls back on.
+  [[nodiscard]] std::uint32_t goingOn(std::uint32_t leaf) const {
+    while (nodes_[leaf].isLeaf())
+      leaf = nodes_[leaf].failure;
+    return leaf;
+  }
+
   [[nodiscard]] const Node& node(std::uint32_t number) const { return nodes_[number]; }
   [[nodiscard]] std::size_t size() const { return nodes_.size(); }
 
  private:
+  /// The kinds of states by the order of their numbers.
+  static int rank(const Node& node) {
+    enum { other, dense, denseMatch, match, nearLeaf, farLeaf, farMatch, farOther };
+    if (node.isDense) return node.isMatch() ? denseMatch : dense;
+    if (node.isLeaf()) return node.isNear ? nearLeaf : farLeaf;
+    if (node.isMatch()) return node.isNear ? match : farMatch;
+    return node.isNear ? other : farOther;
+  }
+
   void link() {
     // Breadth first, so that the failure of a node is complete before the node.
     std::vector<std::uint32_t> order{0};
@@ -174,12 +200,12 @@ void addEdges(Table& table, EdgeLists& lists, const Trie& trie, std::uint32_t nu
   const auto& children = trie.node(number).children;
   auto onward = children.empty() ? edges.begin() : edges.find(children.front().first);
   if (onward == edges.end()) onward = edges.begin();
-  Table::Edges state{.onward = {.symbol = Table::multiSymbol, .target = 0},
-                     .fallback = numbers[fallback],
+  Table::Edges state{.onward = {Table::noSymbol, 0},
+                     .row = static_cast<std::uint16_t>(numbers[fallback] - table.layout.firstDense),
                      .count = 0,
                      .first = 0};
   if (onward != edges.end()) {
-    state.onward = {.symbol = onward->first, .target = onward->second};
+    state.onward = {onward->first, onward->second};
     edges.erase(onward);
   }
   state.count = static_cast<std::uint16_t>(edges.size());
@@ -188,8 +214,34 @@ void addEdges(Table& table, EdgeLists& lists, const Trie& trie, std::uint32_t nu
   state.first = list->second;
   if (isNew)
     for (const auto& [symbol, target] : edges)
-      table.edges.push_back({.symbol = symbol, .target = target});
+      table.edges.emplace_back(symbol, target);
   table.states.push_back(state);
+}
+
+/// Stores the values of match states, each list that ends another one with that.
+void fillValues(Table& table, const Trie& trie, std::span<const std::uint32_t> matches) {
+  using Values = std::span<const std::uint16_t>;
+  std::vector<Values> longestFirst;
+  for (const std::uint32_t number : matches)
+    longestFirst.emplace_back(trie.node(number).values);
+  const auto isLonger = [](Values a, Values b) { return a.size() > b.size(); };
+  std::ranges::stable_sort(longestFirst, isLonger);
+  const auto isLess = [](Values a, Values b) { return std::ranges::lexicographical_compare(a, b); };
+  std::map<Values, std::size_t, decltype(isLess)> places;
+  for (const Values list : longestFirst) {
+    if (places.contains(list)) continue;
+    for (std::size_t i = 0; i < list.size(); ++i)
+      places.try_emplace(list.subspan(i), table.values.size() + i);
+    table.values.insert(table.values.end(), list.begin(), list.end());
+  }
+  for (const std::uint32_t number : matches) {
+    const Values list = trie.node(number).values;
+    const std::size_t place = places.at(list);
+    if (list.size() > Table::ValueList::maxCount || place > Table::ValueList::maxFirst)
+      throw PatternError("too many patterns have the same literals");
+    table.valueLists.emplace_back(static_cast<std::uint32_t>(place),
+                                  static_cast<std::uint32_t>(list.size()));
+  }
 }
 
 void fillStates(Table& table, Trie& trie, std::size_t symbolCount) {
@@ -198,27 +250,34 @@ void fillStates(Table& table, Trie& trie, std::size_t symbolCount) {
   for (std::size_t i = 0; i < order.size(); ++i)
     numbers[order[i]] = static_cast<State>(i);
   auto& layout = table.layout;
+  const auto place = [&](State& first, State& count, auto predicate) {
+    const auto is = [&](std::uint32_t number) { return std::invoke(predicate, trie.node(number)); };
+    first = static_cast<State>(std::ranges::find_if(order, is) - order.begin());
+    count = static_cast<State>(std::ranges::count_if(order, is));
+  };
   layout.root = numbers[0];
+  place(layout.firstDense, layout.denseCount, [](const Trie::Node& node) { return node.isDense; });
+  place(layout.firstMatch, layout.matchCount, &Trie::Node::isMatch);
+  place(layout.firstLeaf, layout.leafCount, &Trie::Node::isLeaf);
   EdgeLists lists;
   const auto successorOf = [&](std::uint32_t node, std::size_t symbol) {
-    return numbers[trie.successor(node, static_cast<Symbol>(symbol))];
+    return static_cast<Table::NearState>(
+        numbers[trie.successor(node, static_cast<Symbol>(symbol))]);
   };
   for (std::size_t symbol = 0; symbol < symbolCount; ++symbol)
     table.rootRow.push_back(successorOf(0, symbol));
   for (const std::uint32_t number : order) {
     const Trie::Node& node = trie.node(number);
-    if (node.isDense) {
-      ++layout.denseCount;
+    if (node.isDense)
       for (std::size_t symbol = 0; symbol < Table::columns; ++symbol)
         table.rows.push_back(successorOf(number, symbol));
+    if (node.isLeaf()) {
+      table.leaves.push_back(numbers[trie.goingOn(number)]);
+    } else {
+      addEdges(table, lists, trie, number, numbers);
     }
-    addEdges(table, lists, trie, number, numbers);
-    if (!node.isMatch()) continue;
-    if (layout.matchCount++ == 0) layout.firstMatch = numbers[number];
-    table.valueStarts.push_back(static_cast<std::uint32_t>(table.values.size()));
-    table.values.insert(table.values.end(), node.values.begin(), node.values.end());
   }
-  table.valueStarts.push_back(static_cast<std::uint32_t>(table.values.size()));
+  fillValues(table, trie, std::span(order).subspan(layout.firstMatch, layout.matchCount));
 }
 
 }  // namespace

@@ -182,6 +182,7 @@ class ScreeningEngine::Screening {
       for (auto values = index.values(scan.state); !values.empty();
            values = values.subspan(std::min(values.size(), batchSize)))
         onLiterals(values.first(std::min(values.size(), batchSize)), i + 1);
+      scan.state = index.behindMatch(scan.state);
     }
     scan_ = scan;
   }

@@ -17,6 +17,7 @@
 #include "core/text/Error.h"
 #include "core/text/UnicodeText.h"
 #include "session/PollLoop.h"
+#include "wayland/KeyboardFactory.h"
 #include "wayland/WaylandApplications.h"
 #include "wayland/WaylandConnection.h"
 #include "wayland/WaylandConnector.h"

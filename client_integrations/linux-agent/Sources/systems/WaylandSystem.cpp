@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "session/LoadedModule.h"
+#include "wayland/KeyboardFactory.h"
 #include "wayland/KwinHotkey.h"
 #include "wayland/KwinKeyboard.h"
 #include "wayland/SwayHotkey.h"

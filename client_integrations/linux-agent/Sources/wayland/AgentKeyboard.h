@@ -1,11 +1,8 @@
 #pragma once
 
-#include <memory>
 #include <span>
 
-#include "keyboard/KeyChords.h"
-#include "session/DesktopBus.h"
-#include "wayland/WaylandConnection.h"
+#include "keyboard/Keysym.h"
 
 namespace quillseal::linux {
 
@@ -33,13 +30,5 @@ class AgentKeyboard {
   /// copy, paste and select all.
   virtual void tap(std::span<const Keysym> chord) = 0;
 };
-
-/// Returns whether the compositor offers a protocol for one.
-[[nodiscard]] bool offersKeyboard(const WaylandConnection& connection);
-
-/// Makes a virtual keyboard where the compositor offers that, else one that presses keys on the
-/// user's keyboard through KWin. Both arguments outlive it; `bus` is null where there is none.
-[[nodiscard]] std::unique_ptr<AgentKeyboard> makeKeyboard(WaylandConnection& connection,
-                                                          DesktopBus* bus);
 
 }  // namespace quillseal::linux

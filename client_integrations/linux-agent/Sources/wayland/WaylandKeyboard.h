@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-#include "keyboard/KeyChords.h"
+#include "keyboard/Keysym.h"
 #include "wayland/AgentKeyboard.h"
 #include "wayland/WaylandConnection.h"
 

@@ -6,7 +6,7 @@
 #include <optional>
 #include <vector>
 
-#include "keyboard/KeyChords.h"
+#include "keyboard/Keysym.h"
 #include "wayland/WaylandConnection.h"
 
 namespace quillseal::linux {

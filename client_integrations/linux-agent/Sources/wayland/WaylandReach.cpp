@@ -1,6 +1,6 @@
 #include "wayland/WaylandReach.h"
 
-#include "wayland/AgentKeyboard.h"
+#include "wayland/KeyboardFactory.h"
 #include "wayland/WaylandDataControl.h"
 #include "wayland/WaylandWindows.h"
 

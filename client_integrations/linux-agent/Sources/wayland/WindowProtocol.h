@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "wayland/WaylandConnection.h"
-#include "wayland/WaylandWindows.h"
+#include "wayland/WaylandWindow.h"
 
 namespace quillseal::linux {
 

@@ -1,4 +1,4 @@
-#include "wayland/AgentKeyboard.h"
+#include "wayland/KeyboardFactory.h"
 
 #include "wayland/KwinKeyboard.h"
 #include "wayland/WaylandKeyboard.h"

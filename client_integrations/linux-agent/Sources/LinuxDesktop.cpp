@@ -17,6 +17,7 @@
 #include "network/HttpModule.h"
 #include "network/LoadedTransport.h"
 #include "presence/LinuxPresence.h"
+#include "session/Environment.h"
 #include "session/LoadedModule.h"
 #include "session/QtDefaults.h"
 #include "session/QtDescriptors.h"
@@ -39,15 +40,11 @@
 namespace quillseal::linux {
 namespace {
 
-std::string environment(const char* name) {
-  const char* value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): before any thread
-  return value == nullptr ? std::string() : std::string(value);
-}
-
 // Absolute, as XDG Base Directory demands.
 std::string keyFolder() {
-  const std::string data = environment("XDG_DATA_HOME");
-  return (data.starts_with('/') ? data : environment("HOME") + "/.local/share") + "/quillseal";
+  const std::string data = environmentVariable("XDG_DATA_HOME");
+  return (data.starts_with('/') ? data : environmentVariable("HOME") + "/.local/share") +
+         "/quillseal";
 }
 
 LoadedModule::Options moduleOptions(const char* file, const char* duty) {

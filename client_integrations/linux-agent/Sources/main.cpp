@@ -9,7 +9,6 @@
 #include <chrono>
 #include <csignal>
 #include <cstdio>
-#include <cstdlib>
 #include <exception>
 #include <memory>
 #include <optional>
@@ -24,6 +23,7 @@
 #include "Quillseal/AppDelegate.h"
 #include "keys/SecretBytes.h"
 #include "session/CommandLine.h"
+#include "session/Environment.h"
 #include "session/IdleMemory.h"
 #include "session/JournalLog.h"
 #include "session/LoadedModule.h"
@@ -42,15 +42,11 @@ namespace {
 
 using quillseal::linux::Command;
 using quillseal::linux::CommandLine;
+using quillseal::linux::environmentVariable;
 using quillseal::linux::PortalSystem;
 
 constexpr int failed = 1;
 constexpr int wrongArguments = 2;
-
-std::string environment(const char* name) {
-  const char* value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): before any thread
-  return value == nullptr ? std::string() : std::string(value);
-}
 
 QIcon productIcon() {
   QIcon icon;
@@ -82,7 +78,7 @@ PortalSystem::Access accessToWayland(Command command) {
   // Nobody waits for an agent that starts with the session, whose portal may be starting, too.
   const std::chrono::seconds patience(command == Command::background ? 15 : 2);
   PortalSystem::Access access;
-  if (environment("WAYLAND_DISPLAY").empty()) return access;
+  if (environmentVariable("WAYLAND_DISPLAY").empty()) return access;
   const auto places = quillseal::linux::LoadedModule::usualPlaces(WaylandConnector::program);
   access.compositor = quillseal::linux::WaylandConnection::open();
   if (access.compositor != nullptr && !reachesApplicationsByCompositor(access))
@@ -93,7 +89,7 @@ PortalSystem::Access accessToWayland(Command command) {
   // has started. Sway and KDE have a hotkey of their own.
   const bool isOfInterest =
       !reachesApplicationsByCompositor(access) ||
-      (environment("SWAYSOCK").empty() &&
+      (environmentVariable("SWAYSOCK").empty() &&
        !KwinHotkey::isOfferedBy(*access.compositor, *access.bus) &&
        (command == Command::background ||
         access.bus->knows(quillseal::linux::Portal::service).value_or(false)));
@@ -187,9 +183,9 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
   const quillseal::linux::PlatformChoice choice = quillseal::linux::platformFor(
       {.hasXServer = xServer && xcb_connection_has_error(xServer.get()) == 0,
        .reachesApplicationsByWayland = isReached,
-       .hasWayland = !environment("WAYLAND_DISPLAY").empty(),
+       .hasWayland = !environmentVariable("WAYLAND_DISPLAY").empty(),
        .hasWaylandPlugin = hasWaylandPlugin(),
-       .wantedPlatform = environment("QT_QPA_PLATFORM")});
+       .wantedPlatform = environmentVariable("QT_QPA_PLATFORM")});
   if (choice.platform.empty()) {
     report(choice.obstacle);
     return failed;

@@ -1,11 +1,11 @@
 #include "applications/BrowserLauncher.h"
 
 #include <array>
-#include <cstdlib>
 #include <stdexcept>
 #include <utility>
 
 #include "browsers/Browsers.h"
+#include "session/Environment.h"
 #include "session/PrivateFolder.h"
 
 namespace quillseal::linux {
@@ -27,8 +27,8 @@ std::optional<InstalledApplication> installed(const std::optional<DesktopEntry>&
 /// A folder that the Snap's program may read; it may not read the runtime folder. The first start
 /// of the Snap creates it.
 std::filesystem::path folderOfSnap(const std::string& snap) {
-  const char* const home = std::getenv("HOME");  // NOLINT(concurrency-mt-unsafe)
-  if (home == nullptr || snap.find('/') != std::string::npos)
+  const std::string home = environmentVariable("HOME");
+  if (home.empty() || snap.find('/') != std::string::npos)
     throw std::runtime_error("the folder of the Snap is not known.");
   return privateFolderIn(std::filesystem::path(home) / "snap" / snap / "common");
 }

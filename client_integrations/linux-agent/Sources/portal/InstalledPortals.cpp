@@ -1,7 +1,6 @@
 #include "portal/InstalledPortals.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -9,20 +8,18 @@
 #include <system_error>
 #include <vector>
 
+#include "session/Environment.h"
+
 namespace quillseal::linux {
 namespace {
 
-std::string variable(const char* name) {
-  const char* value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): before any thread
-  return value == nullptr ? std::string() : std::string(value);
-}
-
 std::vector<std::filesystem::path> portalFolders() {
   // For systems that keep their files elsewhere; the portal then reads nothing else.
-  if (const std::string only = variable("XDG_DESKTOP_PORTAL_DIR"); !only.empty()) return {only};
-  const std::string home = variable("XDG_DATA_HOME");
-  const std::string system = variable("XDG_DATA_DIRS");
-  std::string folders = home.empty() ? variable("HOME") + "/.local/share" : home;
+  if (const std::string only = environmentVariable("XDG_DESKTOP_PORTAL_DIR"); !only.empty())
+    return {only};
+  const std::string home = environmentVariable("XDG_DATA_HOME");
+  const std::string system = environmentVariable("XDG_DATA_DIRS");
+  std::string folders = home.empty() ? environmentVariable("HOME") + "/.local/share" : home;
   folders += ':' + (system.empty() ? "/usr/local/share:/usr/share" : system) + ':';
   std::vector<std::filesystem::path> result;
   for (std::size_t end = 0; (end = folders.find(':')) != std::string::npos;

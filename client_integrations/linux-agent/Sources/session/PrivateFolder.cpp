@@ -1,13 +1,14 @@
 #include "session/PrivateFolder.h"
 
 #include <cerrno>
-#include <cstdlib>
 #include <stdexcept>
 #include <string>
 #include <system_error>
 
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include "session/Environment.h"
 
 namespace quillseal::linux {
 namespace {
@@ -37,9 +38,8 @@ fs::path privateFolderIn(const fs::path& parent) {
 }
 
 fs::path runtimeFolder() {
-  const char* runtime = std::getenv("XDG_RUNTIME_DIR");  // NOLINT(concurrency-mt-unsafe)
-  if (runtime == nullptr || !fs::path(runtime).is_absolute())
-    throw std::runtime_error("XDG_RUNTIME_DIR names no folder.");
+  const fs::path runtime = environmentVariable("XDG_RUNTIME_DIR");
+  if (!runtime.is_absolute()) throw std::runtime_error("XDG_RUNTIME_DIR names no folder.");
   return privateFolderIn(runtime);
 }
 

@@ -1,11 +1,11 @@
 #include "wayland/WaylandConnector.h"
 
-#include <cstdlib>
 #include <utility>
 
 #include <sys/socket.h>
 
 #include "session/Connector.h"
+#include "session/Environment.h"
 #include "session/FileDescriptor.h"
 
 namespace quillseal::linux {
@@ -13,11 +13,8 @@ namespace {
 
 /// The compositor's address, as libwayland finds it.
 std::filesystem::path address() {
-  const auto variable = [](const char* name) {
-    const char* value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): before any thread
-    return std::filesystem::path(value == nullptr ? "" : value);
-  };
-  return variable("XDG_RUNTIME_DIR") / variable("WAYLAND_DISPLAY");
+  return std::filesystem::path(environmentVariable("XDG_RUNTIME_DIR")) /
+         environmentVariable("WAYLAND_DISPLAY");
 }
 
 }  // namespace

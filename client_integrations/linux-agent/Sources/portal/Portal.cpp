@@ -18,11 +18,7 @@ constexpr const char* requestInterface = "org.freedesktop.portal.Request";
 constexpr const char* sessionInterface = "org.freedesktop.portal.Session";
 constexpr std::uint32_t keyboard = 1;
 
-constexpr DesktopBus::Signal ownerChanged{.sender = "org.freedesktop.DBus",
-                                          .path = "/org/freedesktop/DBus",
-                                          .interface = "org.freedesktop.DBus",
-                                          .name = "NameOwnerChanged",
-                                          .firstArgument = Portal::service};
+constexpr DesktopBus::Signal ownerChanged = DesktopBus::ownerChangeOf(Portal::service);
 
 /// The time until which the portal is waited for.
 class Deadline {

@@ -7,6 +7,7 @@
 #include <systemd/sd-bus.h>
 
 #include "core/text/UniqueHandle.h"
+#include "session/BusMessage.h"
 #include "session/FileDescriptor.h"
 
 namespace quillseal::linux {
@@ -25,11 +26,6 @@ class Interrupt {
  private:
   FileDescriptor descriptor_;
 };
-
-using BusMessage = UniqueHandle<sd_bus_message, ::sd_bus_message_unref>;
-
-/// A subscription, active as long as it is kept.
-using BusSlot = UniqueHandle<sd_bus_slot, ::sd_bus_slot_unref>;
 
 /// A private connection to the D-Bus system bus, used by one thread. Functions throw Error with the
 /// bus's message.

@@ -1,7 +1,6 @@
 #include "session/DesktopBus.h"
 
 #include <cstdint>
-#include <cstdlib>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -10,19 +9,11 @@
 #include <fcntl.h>
 #include <sys/socket.h>
 
+#include "session/Environment.h"
 #include "session/FileDescriptor.h"
 
 namespace quillseal::linux {
 namespace {
-
-constexpr const char* busService = "org.freedesktop.DBus";
-
-constexpr DesktopBus::Method methodOfBus(const char* name) {
-  return {.service = busService,
-          .path = "/org/freedesktop/DBus",
-          .interface = busService,
-          .name = name};
-}
 
 std::uint64_t inMicroseconds(std::chrono::milliseconds time) {
   return static_cast<std::uint64_t>(std::chrono::microseconds(time).count());
@@ -30,13 +21,9 @@ std::uint64_t inMicroseconds(std::chrono::milliseconds time) {
 
 /// The session bus's place in the file system; empty when it has another kind of address.
 std::filesystem::path addressOfBus() {
-  const auto variable = [](const char* name) {
-    const char* value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): before any thread
-    return std::string(value == nullptr ? "" : value);
-  };
-  const std::string address = variable("DBUS_SESSION_BUS_ADDRESS");
+  const std::string address = environmentVariable("DBUS_SESSION_BUS_ADDRESS");
   if (address.empty()) {
-    const std::string folder = variable("XDG_RUNTIME_DIR");
+    const std::string folder = environmentVariable("XDG_RUNTIME_DIR");
     return folder.empty() ? std::filesystem::path() : std::filesystem::path(folder) / "bus";
   }
   constexpr std::string_view prefix = "unix:path=";
@@ -71,7 +58,7 @@ struct Listener {
 bool isFrom(DesktopBus& bus, const std::string& service, sd_bus_message& message) {
   const char* sender = ::sd_bus_message_get_sender(&message);
   if (sender == nullptr) return false;
-  if (service == busService) return service == sender;
+  if (service == busName) return service == sender;
   const DesktopBus::Message answer = bus.call(methodOfBus("GetNameOwner"), "s", service.c_str());
   const char* owner = nullptr;
   return answer != nullptr && ::sd_bus_message_read(answer.get(), "s", &owner) > 0 &&
@@ -135,14 +122,6 @@ std::optional<bool> DesktopBus::knows(const char* name) {
 
 bool DesktopBus::start(const char* name, std::chrono::milliseconds limit) {
   return callWithin(limit, methodOfBus("StartServiceByName"), "su", name, 0U) != nullptr;
-}
-
-DesktopBus::Message DesktopBus::newCall(const Method& method) {
-  sd_bus_message* made = nullptr;
-  if (::sd_bus_message_new_method_call(bus_.get(), &made, method.service, method.path,
-                                       method.interface, method.name) < 0)
-    return nullptr;
-  return Message(made);
 }
 
 desktop::Ticket DesktopBus::callLater(sd_bus_message& request, Answered answered) {

@@ -13,6 +13,7 @@
 #include "core/text/UniqueHandle.h"
 #include "desktop/MainLoop.h"
 #include "desktop/Ticket.h"
+#include "session/BusMessage.h"
 #include "session/Connector.h"
 #include "session/Descriptors.h"
 
@@ -21,16 +22,11 @@ namespace quillseal::linux {
 /// A private connection to the D-Bus session bus, for services of the desktop. Main thread.
 class DesktopBus {
  public:
-  using Message = UniqueHandle<sd_bus_message, ::sd_bus_message_unref>;
+  using Message = BusMessage;
+  using Method = BusMethod;
   /// What is listened for, for as long as this is kept.
-  using Subscription = UniqueHandle<sd_bus_slot, ::sd_bus_slot_unref>;
+  using Subscription = BusSlot;
 
-  struct Method {
-    const char* service;
-    const char* path;
-    const char* interface;
-    const char* name;
-  };
   struct Signal {
     const char* sender;
     const char* path;
@@ -38,6 +34,16 @@ class DesktopBus {
     const char* name;
     const char* firstArgument;  ///< null when any will do
   };
+
+  /// Returns the signal of the bus that the owner of this name has changed. Its arguments are the
+  /// name, the former owner and the new one, each empty for none.
+  [[nodiscard]] static constexpr Signal ownerChangeOf(const char* name) {
+    return {.sender = busName,
+            .path = busPath,
+            .interface = busName,
+            .name = "NameOwnerChanged",
+            .firstArgument = name};
+  }
 
   /// How long a call waits for its answer.
   static constexpr std::chrono::milliseconds patience{1000};
@@ -83,7 +89,7 @@ class DesktopBus {
   }
 
   /// Makes a call for `callLater`. Null when the bus is gone.
-  [[nodiscard]] Message newCall(const Method& method);
+  [[nodiscard]] Message newCall(const Method& method) { return linux::newCall(bus_.get(), method); }
 
   /// Sends the call and returns at once. `answered` gets the answer, which may take any time and is
   /// an error when the bus has gone meanwhile; null when the call could not be sent. Starts the

@@ -8,6 +8,7 @@
 #include <systemd/sd-bus.h>
 
 #include "core/text/UniqueHandle.h"
+#include "session/BusMessage.h"
 
 namespace quillseal::linux {
 namespace {
@@ -18,17 +19,9 @@ using std::chrono::microseconds;
 constexpr int isCrowded = -EAGAIN;
 
 using Bus = UniqueHandle<sd_bus, ::sd_bus_close_unref>;
-using Message = UniqueHandle<sd_bus_message, ::sd_bus_message_unref>;
-
-struct Method {
-  const char* service;
-  const char* path;
-  const char* interface;
-  const char* name;
-};
 
 struct Answer {
-  Message message;  ///< null after an error or a time-out
+  BusMessage message;  ///< null after an error or a time-out
   bool isInTime = true;
 };
 
@@ -47,20 +40,17 @@ bool letsIn(sd_bus& bus, microseconds patience) {
 }
 
 /// Calls a method with string arguments. Starts no service.
-Answer ask(sd_bus& bus, const Method& method, microseconds patience,
+Answer ask(sd_bus& bus, const BusMethod& method, microseconds patience,
            std::initializer_list<const char*> arguments = {}) {
-  sd_bus_message* made = nullptr;
-  if (::sd_bus_message_new_method_call(&bus, &made, method.service, method.path, method.interface,
-                                       method.name) < 0)
-    return {};
-  const Message question(made);
+  const BusMessage call = newCall(&bus, method);
+  if (call == nullptr) return {};
   for (const char* text : arguments)
-    ::sd_bus_message_append_basic(made, SD_BUS_TYPE_STRING, text);
-  ::sd_bus_message_set_auto_start(made, 0);
+    ::sd_bus_message_append_basic(call.get(), SD_BUS_TYPE_STRING, text);
+  ::sd_bus_message_set_auto_start(call.get(), 0);
   sd_bus_message* reply = nullptr;
-  const int result =
-      ::sd_bus_call(&bus, made, static_cast<std::uint64_t>(patience.count()), nullptr, &reply);
-  return {.message = Message(reply), .isInTime = result != -ETIMEDOUT};
+  const int result = ::sd_bus_call(&bus, call.get(), static_cast<std::uint64_t>(patience.count()),
+                                   nullptr, &reply);
+  return {.message = BusMessage(reply), .isInTime = result != -ETIMEDOUT};
 }
 
 /// Asks the registry on the accessibility bus.
@@ -71,18 +61,18 @@ bool answersOnItsBus(const char* address, microseconds patience) {
   ::sd_bus_set_address(made, address);
   ::sd_bus_set_bus_client(made, 1);
   if (const int result = ::sd_bus_start(made); result < 0) return result != isCrowded;
-  const Method ping{.service = "org.a11y.atspi.Registry",
-                    .path = "/org/a11y/atspi/registry",
-                    .interface = "org.freedesktop.DBus.Peer",
-                    .name = "Ping"};
+  const BusMethod ping{.service = "org.a11y.atspi.Registry",
+                       .path = "/org/a11y/atspi/registry",
+                       .interface = "org.freedesktop.DBus.Peer",
+                       .name = "Ping"};
   return letsIn(*bus, patience) && ask(*bus, ping, patience).isInTime;
 }
 
 bool answersOnSessionBus(sd_bus& bus, microseconds patience) {
-  Method method{.service = "org.a11y.Bus",
-                .path = "/org/a11y/bus",
-                .interface = "org.freedesktop.DBus.Properties",
-                .name = "Get"};
+  BusMethod method{.service = "org.a11y.Bus",
+                   .path = "/org/a11y/bus",
+                   .interface = "org.freedesktop.DBus.Properties",
+                   .name = "Get"};
   int isEnabled = 0;
   for (const char* property : {"ScreenReaderEnabled", "IsEnabled"}) {
     const Answer answer = ask(bus, method, patience, {"org.a11y.Status", property});
@@ -117,12 +107,7 @@ Handover handOver(const std::string& method, std::chrono::milliseconds patience)
   const Bus bus(opened);
   constexpr std::chrono::seconds usually{1};  // a bus that hangs is waited for later
   if (!letsIn(*bus, usually)) return Handover::noAgent;
-  const Answer owner = ask(*bus,
-                           {.service = "org.freedesktop.DBus",
-                            .path = "/org/freedesktop/DBus",
-                            .interface = "org.freedesktop.DBus",
-                            .name = "NameHasOwner"},
-                           usually, {agentName});
+  const Answer owner = ask(*bus, methodOfBus("NameHasOwner"), usually, {agentName});
   int hasAgent = 0;
   if (!owner.message || ::sd_bus_message_read(owner.message.get(), "b", &hasAgent) <= 0 ||
       hasAgent == 0)

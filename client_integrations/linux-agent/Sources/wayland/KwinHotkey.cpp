@@ -171,12 +171,7 @@ void KwinHotkey::claim() {
                                       .name = "yourShortcutsChanged",
                                       .firstArgument = nullptr},
                                      onChange_);
-  owners_ = services_.bus.subscribe({.sender = "org.freedesktop.DBus",
-                                     .path = "/org/freedesktop/DBus",
-                                     .interface = "org.freedesktop.DBus",
-                                     .name = "NameOwnerChanged",
-                                     .firstArgument = service},
-                                    onOwner_);
+  owners_ = services_.bus.subscribe(DesktopBus::ownerChangeOf(service), onOwner_);
   const Registration registration = request();
   // What is not answered in time may be done later.
   mayHaveKeys_ = registration.granted != 0 || !registration.isAnswered;

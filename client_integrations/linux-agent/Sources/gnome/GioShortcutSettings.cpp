@@ -2,15 +2,13 @@
 
 #include <algorithm>
 #include <array>
-#include <set>
 #include <string>
-#include <string_view>
-#include <utility>
 #include <vector>
 
 #include <gio/gio.h>
 
 #include "core/text/UniqueHandle.h"
+#include "keyboard/Accelerator.h"
 
 namespace quillseal::linux {
 namespace {
@@ -53,35 +51,9 @@ std::vector<std::string> textsOf(GSettings* settings, const char* key) {
   return textsIn(Value(g_settings_get_value(settings, key)).get());
 }
 
-/// Returns the modifiers and the key in one spelling.
-std::set<std::string> partsOf(std::string_view keys) {
-  static constexpr auto synonyms =
-      std::to_array<std::pair<std::string_view, const char*>>({{"primary", "control"},
-                                                               {"ctrl", "control"},
-                                                               {"ctl", "control"},
-                                                               {"mod1", "alt"},
-                                                               {"mod4", "super"},
-                                                               {"shft", "shift"}});
-  std::string text(keys);
-  std::ranges::transform(text, text.begin(), g_ascii_tolower);
-  std::set<std::string> parts;
-  while (text.starts_with('<')) {
-    const std::size_t end = text.find('>');
-    if (end == std::string::npos) break;
-    const std::string modifier = text.substr(1, end - 1);
-    const auto* const synonym = std::ranges::find(synonyms, std::string_view(modifier),
-                                                  &std::pair<std::string_view, const char*>::first);
-    parts.insert("<" + (synonym == synonyms.end() ? modifier : synonym->second));
-    text.erase(0, end + 1);
-  }
-  parts.insert(text);
-  return parts;
-}
-
 bool usesKeys(const std::vector<std::string>& candidates, const std::string& keys) {
-  return std::ranges::any_of(candidates, [wanted = partsOf(keys)](const std::string& candidate) {
-    return partsOf(candidate) == wanted;
-  });
+  return std::ranges::any_of(
+      candidates, [&](const std::string& candidate) { return isSameAccelerator(candidate, keys); });
 }
 
 bool isTakenInSchema(const char* id, const std::string& keys) {

@@ -6,9 +6,9 @@
 #include <string_view>
 #include <utility>
 
-#include <xkbcommon/xkbcommon-keysyms.h>
-
 #include "core/text/Error.h"
+#include "keyboard/Accelerator.h"
+#include "keyboard/HeldHotkey.h"
 #include "keyboard/KeyChords.h"
 
 namespace quillseal::linux {
@@ -22,8 +22,6 @@ constexpr const char* noKeys = "none";
 
 /// GNOME repeats the command of held keys, after 500 ms unless the user chose another delay.
 constexpr std::chrono::milliseconds assumedHold{700};
-/// Desktops let people choose delays up to this before a key is repeated.
-constexpr std::chrono::milliseconds longestRepeatDelay{1000};
 
 constexpr const char* bindYourself =
     "Bind the command “quillseal --sign” to a shortcut in the keyboard settings of your desktop. "
@@ -64,26 +62,6 @@ constexpr const char* askAdministrator =
 }
 
 }  // namespace
-
-std::string acceleratorOf(desktop::KeyPress press) {
-  std::string result;
-  for (const Keysym symbol : chordOf(press)) {
-    switch (symbol) {
-      case XKB_KEY_Control_L:
-        result += "<Control>";
-        break;
-      case XKB_KEY_Alt_L:
-        result += "<Alt>";
-        break;
-      case XKB_KEY_Super_L:
-        result += "<Super>";
-        break;
-      default:
-        result += desktop::letterOf(press.key);
-    }
-  }
-  return result;
-}
 
 GnomeHotkey::GnomeHotkey(Services services, std::string program)
     : services_(std::move(services)), program_(std::move(program)) {}

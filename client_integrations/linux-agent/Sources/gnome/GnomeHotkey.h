@@ -68,7 +68,4 @@ class GnomeHotkey : public ObservedHotkey {
   desktop::MainLoop::TimePoint lastCommand_;
 };
 
-/// Returns the keys as GTK writes them: "<Control><Alt><Super>h".
-[[nodiscard]] std::string acceleratorOf(desktop::KeyPress press);
-
 }  // namespace quillseal::linux

@@ -22,6 +22,8 @@ class HeldHotkey {
   }
   void release() { isDown_ = false; }
 
+  [[nodiscard]] bool isDown() const { return isDown_; }
+
  private:
   bool isDown_ = false;
   desktop::MainLoop::TimePoint lastPress_;

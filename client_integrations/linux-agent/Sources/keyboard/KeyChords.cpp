@@ -4,8 +4,8 @@
 #include <array>
 #include <cctype>
 #include <iterator>
-#include <set>
 
+#include <linux/input-event-codes.h>
 #include <xkbcommon/xkbcommon-keysyms.h>
 
 namespace quillseal::linux {
@@ -90,6 +90,19 @@ std::uint8_t usualKeyOf(Keysym symbol) {
   }
 }
 
+std::optional<std::uint32_t> fixedKeyOf(Keysym symbol) {
+  switch (symbol) {
+    case XKB_KEY_Control_L:
+      return KEY_LEFTCTRL;
+    case XKB_KEY_Shift_L:
+      return KEY_LEFTSHIFT;
+    case XKB_KEY_Insert:
+      return KEY_INSERT;
+    default:
+      return std::nullopt;
+  }
+}
+
 std::vector<Keysym> chordFor(KeyPress press, std::string_view categories,
                              std::string_view windowClass) {
   if (!isTerminal(categories, windowClass)) return chordOf(press);
@@ -108,48 +121,6 @@ std::string nameOf(Modifiers modifiers, std::string_view key) {
     if (isHeld(symbol, modifiers)) result.append(name) += '+';
   std::ranges::transform(key, std::back_inserter(result),
                          [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-  return result;
-}
-
-std::string nameOfAccelerator(std::string_view keys) {
-  struct Modifier {
-    std::string_view spelling;
-    std::size_t place;
-  };
-  static constexpr std::array names = {"Ctrl+", "Alt+", "Shift+", "Super+"};
-  static constexpr auto modifiers = std::to_array<Modifier>({{"control", 0},
-                                                             {"ctrl", 0},
-                                                             {"ctl", 0},
-                                                             {"primary", 0},
-                                                             {"alt", 1},
-                                                             {"mod1", 1},
-                                                             {"shift", 2},
-                                                             {"shft", 2},
-                                                             {"super", 3},
-                                                             {"mod4", 3}});
-  std::set<std::size_t> held;
-  std::string others;
-  while (keys.starts_with('<')) {
-    const std::size_t end = keys.find('>');
-    if (end == std::string_view::npos) break;
-    const std::string name(keys.substr(1, end - 1));
-    std::string spelling = name;
-    std::ranges::transform(spelling, spelling.begin(),
-                           [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    const auto* const known =
-        std::ranges::find(modifiers, std::string_view(spelling), &Modifier::spelling);
-    if (known != modifiers.end())
-      held.insert(known->place);
-    else
-      others += name + "+";
-    keys.remove_prefix(end + 1);
-  }
-  std::string result;
-  for (const std::size_t place : held)
-    result += names.at(place);
-  result += others + std::string(keys);
-  if (keys.size() == 1)
-    result.back() = static_cast<char>(std::toupper(static_cast<unsigned char>(keys.front())));
   return result;
 }
 

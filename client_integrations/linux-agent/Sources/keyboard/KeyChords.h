@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,6 +24,10 @@ inline constexpr const char* unknownKeys = "the shortcut of your choice";
 /// (evdev plus 8); 0 for other symbols.
 [[nodiscard]] std::uint8_t usualKeyOf(Keysym symbol);
 
+/// Returns the key code of a symbol that has the same key in every layout, in evdev's numbering
+/// (linux/input-event-codes.h); nothing for others.
+[[nodiscard]] std::optional<std::uint32_t> fixedKeyOf(Keysym symbol);
+
 /// Whether an application of this kind is a terminal, by the categories of its desktop file or
 /// because it is known as one.
 [[nodiscard]] bool isTerminal(std::string_view categories, std::string_view windowClass);
@@ -42,8 +47,5 @@ inline constexpr const char* unknownKeys = "the shortcut of your choice";
 
 /// The same for a key by its character, given in lower case.
 [[nodiscard]] std::string nameOf(desktop::Modifiers modifiers, std::string_view key);
-
-/// The same for keys as GTK writes them, "<Control><Alt><Super>h", the modifiers in one order.
-[[nodiscard]] std::string nameOfAccelerator(std::string_view keys);
 
 }  // namespace quillseal::linux

@@ -10,6 +10,7 @@
 
 #include <xkbcommon/xkbcommon-keysyms.h>
 
+#include "keyboard/Accelerator.h"
 #include "keyboard/KeyChords.h"
 
 namespace quillseal::linux {
@@ -26,8 +27,6 @@ constexpr const char* wasRefused = "HotkeyRefused";
 
 // The desktop reports the release of the first key; people let go of the others right after.
 constexpr auto releaseTime = 100ms;
-// A release may get lost. People do not press a hotkey twice in less time.
-constexpr auto lostAfter = 1s;
 // A portal that ended is started by the next call; it may have ended with the session.
 constexpr auto pauseBeforeRestart = 2s;
 // A desktop that ends the session again so soon means it.
@@ -144,12 +143,7 @@ void PortalHotkey::registerHotkey(desktop::KeyPress combination, std::function<v
   presses_ = bus.subscribe(signal("Activated"), onPress_);
   releases_ = bus.subscribe(signal("Deactivated"), onRelease_);
   changes_ = bus.subscribe(signal("ShortcutsChanged"), onChange_);
-  owners_ = bus.subscribe({.sender = "org.freedesktop.DBus",
-                           .path = "/org/freedesktop/DBus",
-                           .interface = "org.freedesktop.DBus",
-                           .name = "NameOwnerChanged",
-                           .firstArgument = Portal::service},
-                          onOwner_);
+  owners_ = bus.subscribe(DesktopBus::ownerChangeOf(Portal::service), onOwner_);
   if (services_.defaults().boolean(wasRefused))
     refuse();
   else
@@ -180,7 +174,7 @@ void PortalHotkey::bindAfter(std::chrono::milliseconds delay) {
 Task<> PortalHotkey::bind() {
   const auto begin = services_.loop.now();
   isBinding_ = true;
-  isDown_ = false;
+  held_.release();
   giveUp_ = services_.loop.after(services_.patience, [this] {
     binding_.reset();
     fail(
@@ -256,7 +250,7 @@ void PortalHotkey::portalEnded() {
 
 void PortalHotkey::end(PortalSession::End how) {
   session_ = nullptr;
-  isDown_ = false;
+  held_.release();
   if (how == PortalSession::End::withPortal) return;  // see `portalEnded`
   const auto now = services_.loop.now();
   const bool isDeliberate = lastEnd_ && now < *lastEnd_ + deliberatelySoon;
@@ -290,8 +284,7 @@ void PortalHotkey::readKeys(sd_bus_message& shortcuts) {
 }
 
 bool PortalHotkey::mayBeHeld() const {
-  const auto now = services_.loop.now();
-  return isDown_ || now < lastRelease_ + releaseTime;
+  return held_.isDown() || services_.loop.now() < lastRelease_ + releaseTime;
 }
 
 void PortalHotkey::press(sd_bus_message& signal) {
@@ -301,11 +294,7 @@ void PortalHotkey::press(sd_bus_message& signal) {
     return;
   const auto token = textOption(signal, "ost", "activation_token");
   if (token && services_.activated) services_.activated(*token);
-  const auto now = services_.loop.now();
-  const bool isRepeated = isDown_ && now < lastPress_ + lostAfter;
-  isDown_ = true;
-  lastPress_ = now;
-  if (!isRepeated) services_.loop.post(pressed_);
+  if (held_.press(services_.loop.now())) services_.loop.post(pressed_);
 }
 
 void PortalHotkey::release(sd_bus_message& signal) {
@@ -313,7 +302,7 @@ void PortalHotkey::release(sd_bus_message& signal) {
   if (session_ == nullptr || !session_->isMeantBy(signal) ||
       ::sd_bus_message_read(&signal, "s", &id) <= 0 || std::string_view(id) != shortcut)
     return;
-  isDown_ = false;
+  held_.release();
   lastRelease_ = services_.loop.now();
 }
 

@@ -9,6 +9,7 @@
 #include "core/tasks/Async.h"
 #include "desktop/Defaults.h"
 #include "desktop/MainLoop.h"
+#include "keyboard/HeldHotkey.h"
 #include "keyboard/ObservedHotkey.h"
 #include "portal/Portal.h"
 
@@ -60,8 +61,7 @@ class PortalHotkey : public ObservedHotkey {
   bool isBinding_ = false;
   bool isRefused_ = false;  ///< by the user; not asked for until they want it
   bool isWanted_ = false;   ///< the user has asked for it since it was off
-  bool isDown_ = false;
-  desktop::MainLoop::TimePoint lastPress_;
+  HeldHotkey held_;
   desktop::MainLoop::TimePoint lastRelease_;
   std::optional<desktop::MainLoop::TimePoint> lastEnd_;  ///< of a session
   std::optional<desktop::MainLoop::TimePoint> lastPortalEnd_;

@@ -3,9 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include <linux/input-event-codes.h>
-#include <xkbcommon/xkbcommon-keysyms.h>
-
 #include "keys/KeyFailure.h"
 
 namespace quillseal::linux {
@@ -30,20 +27,6 @@ constexpr const char* silence =
 constexpr const char* absence =
     "The portal of your desktop does not accept Quillseal. Install the Debian package of Quillseal "
     "if it is not installed, or start Quillseal again.";
-
-/// The key of a symbol that has the same one in every layout; 0 for others.
-int placeOf(Keysym symbol) {
-  switch (symbol) {
-    case XKB_KEY_Control_L:
-      return KEY_LEFTCTRL;
-    case XKB_KEY_Shift_L:
-      return KEY_LEFTSHIFT;
-    case XKB_KEY_Insert:
-      return KEY_INSERT;
-    default:
-      return 0;
-  }
-}
 
 }  // namespace
 
@@ -200,11 +183,11 @@ void PortalRemote::tap(const std::vector<Keysym>& chord) {
 
 void PortalRemote::notify(Keysym symbol, std::uint32_t state) const {
   if (!isOpen()) return;
-  const int place = placeOf(symbol);
-  const char* method = place != 0 ? "NotifyKeyboardKeycode" : "NotifyKeyboardKeysym";
+  const std::optional<std::uint32_t> key = fixedKeyOf(symbol);
+  const char* method = key ? "NotifyKeyboardKeycode" : "NotifyKeyboardKeysym";
   const Portal::Message call = services_.portal.newCall(interface, method, session_->handle());
   if (call == nullptr || !Portal::append(*call, {}) ||
-      ::sd_bus_message_append(call.get(), "iu", place != 0 ? place : static_cast<int>(symbol),
+      ::sd_bus_message_append(call.get(), "iu", static_cast<std::int32_t>(key.value_or(symbol)),
                               state) < 0)
     return;
   services_.portal.bus().post(*call);

@@ -35,20 +35,6 @@ std::uint32_t keyOfHotkey() {
   return usualKeyOf(chordOf(desktop::signingHotkey).back()) - evdevOffset;
 }
 
-/// Returns the key code of a symbol that has the same one in every layout.
-std::optional<std::uint32_t> placeOf(Keysym symbol) {
-  switch (symbol) {
-    case XKB_KEY_Control_L:
-      return KEY_LEFTCTRL;
-    case XKB_KEY_Shift_L:
-      return KEY_LEFTSHIFT;
-    case XKB_KEY_Insert:
-      return KEY_INSERT;
-    default:
-      return std::nullopt;
-  }
-}
-
 /// Returns the index of the layout in use; nothing when KDE's keyboard service does not answer.
 std::optional<std::uint32_t> layoutInUse(DesktopBus& bus) {
   const DesktopBus::Message answer = bus.call({.service = "org.kde.keyboard",
@@ -90,7 +76,7 @@ void KwinKeyboard::prepare() {
 }
 
 std::optional<std::uint32_t> KwinKeyboard::keyFor(Keysym symbol) {
-  if (const auto place = placeOf(symbol)) return place;
+  if (const auto key = fixedKeyOf(symbol)) return key;
   auto found = known_.find(symbol);
   if (found == known_.end()) found = known_.emplace(symbol, layout_.keysFor(symbol)).first;
   const std::vector<std::optional<std::uint32_t>>& keys = found->second;

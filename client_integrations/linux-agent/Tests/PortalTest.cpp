@@ -88,7 +88,7 @@ struct Story {
         PortalPasteboard::Services{
             .loop = loop, .descriptors = loop, .portal = *portal, .remote = *remote, .log = log},
         ClipboardKeeper({keeper}),
-        PortalPasteboard::Patience{{.silence = 200ms, .transfer = 400ms, .largest = 1000}, 500ms});
+        PortalPasteboard::Limits{{.silence = 200ms, .transfer = 400ms, .largest = 1000}, 500ms});
     keys.emplace(PortalKeyEvents::Services{.loop = loop,
                                            .remote = *remote,
                                            .applications = applications,

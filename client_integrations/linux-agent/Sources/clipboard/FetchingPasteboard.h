@@ -1,7 +1,5 @@
 #pragma once
 
-#include <chrono>
-#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -18,15 +16,6 @@ namespace quillseal::linux {
 /// change: it may be the first step of the next copy.
 class FetchingPasteboard : public desktop::Pasteboard {
  public:
-  /// Limits of a fetch.
-  struct Patience {
-    /// The longest time in which the owner sends nothing. A word processor may take seconds to
-    /// render a long document for each format.
-    std::chrono::milliseconds silence{5000};
-    std::chrono::milliseconds transfer{20000};            ///< of all formats together
-    std::size_t largest = std::size_t{64} * 1024 * 1024;  ///< bytes of one format
-  };
-
   [[nodiscard]] std::int64_t changeCount() const override { return changeCount_; }
   [[nodiscard]] desktop::Ticket onNextChange(std::function<void()> changed) override;
   [[nodiscard]] desktop::Ticket fetch(std::function<void()> fetched) override;
@@ -40,7 +29,7 @@ class FetchingPasteboard : public desktop::Pasteboard {
   explicit FetchingPasteboard(desktop::MainLoop& loop) : loop_(loop) {}
 
   /// Reads the first offered format of each group, one after the other, while the owner keeps
-  /// within the `Patience`. Never calls `done` from inside this call.
+  /// within its `TransferLimits`. Never calls `done` from inside this call.
   [[nodiscard]] virtual desktop::Ticket read(
       const ClipboardFormats::Groups& groups,
       std::function<void(ClipboardFormats::Content)> done) = 0;

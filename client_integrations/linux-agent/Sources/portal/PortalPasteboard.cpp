@@ -21,7 +21,6 @@ namespace quillseal::linux {
 namespace {
 
 using ClipboardFormats::Content;
-using std::chrono::milliseconds;
 
 constexpr const char* interface = "org.freedesktop.portal.Clipboard";
 
@@ -55,6 +54,13 @@ FileDescriptor fileIn(sd_bus_message* message) {
   return copy;
 }
 
+/// Drops both tickets at once.
+desktop::Ticket both(desktop::Ticket one, desktop::Ticket other) {
+  const auto pair = std::make_shared<std::pair<desktop::Ticket, desktop::Ticket>>(std::move(one),
+                                                                                  std::move(other));
+  return desktop::Ticket([pair] { *pair = {}; });
+}
+
 /// The names that follow in the message: some portals put them into a structure of their own.
 std::vector<std::string> formatsIn(sd_bus_message& signal) {
   std::vector<std::string> formats;
@@ -72,11 +78,11 @@ std::vector<std::string> formatsIn(sd_bus_message& signal) {
 }  // namespace
 
 struct PortalPasteboard::State {
-  State(PortalPasteboard& ours, const Services& with, ClipboardKeeper forLater, Patience limits)
+  State(PortalPasteboard& ours, const Services& theServices, ClipboardKeeper forLater, Limits with)
       : pasteboard(ours),
-        services(with),
+        services(theServices),
         keeper(std::move(forLater)),
-        patience(limits),
+        limits(with),
         onOwner([this](sd_bus_message& message) { ownerChanged(message); }),
         onTransfer([this](sd_bus_message& message) { transfer(message); }) {
     DesktopBus& bus = services.portal.bus();
@@ -116,7 +122,7 @@ struct PortalPasteboard::State {
 
   Task<Content> contentOf(const ClipboardFormats::Groups& groups) {
     const std::uint64_t readOwner = owner;
-    const auto end = services.loop.now() + patience.transfer;
+    const auto end = services.loop.now() + limits.transfer;
     Content content;
     for (const std::string& format : ClipboardFormats::chosen(groups, formats)) {
       if (ClipboardFormats::isSecret(content)) break;
@@ -143,7 +149,7 @@ struct PortalPasteboard::State {
       if (count == 0) co_return bytes;
       if (count > 0) {
         bytes.append(piece.data(), static_cast<std::size_t>(count));
-        if (bytes.size() > patience.largest) break;
+        if (bytes.size() > limits.largest) break;
       } else if (errno != EAGAIN && errno != EINTR) {
         break;
       }
@@ -153,40 +159,29 @@ struct PortalPasteboard::State {
     co_return std::nullopt;
   }
 
-  /// The file that the portal answers with; none when it does not within the patience.
+  /// The file that the portal answers with; none when it does not within the limits.
   Task<FileDescriptor> fileOf(sd_bus_message& call, desktop::MainLoop::TimePoint end) {
     co_return co_await completionOf<FileDescriptor>(
         [this, &call, end](const std::function<void(FileDescriptor)>& done) {
-          const auto answer = std::make_shared<desktop::Ticket>(services.portal.bus().callLater(
-              call, [done](sd_bus_message* message) { done(fileIn(message)); }));
-          const auto timer = std::make_shared<desktop::Ticket>(
-              services.loop.after(silenceUntil(end), [done] { done(FileDescriptor()); }));
-          return desktop::Ticket([answer, timer] {
-            *answer = {};
-            *timer = {};
-          });
+          return both(services.portal.bus().callLater(
+                          call, [done](sd_bus_message* message) { done(fileIn(message)); }),
+                      services.loop.after(timeoutBefore(end), [done] { done(FileDescriptor()); }));
         });
   }
 
-  /// False when the file is not ready within the patience.
+  /// False when the file is not ready within the limits.
   Task<bool> waitFor(const FileDescriptor& file, Descriptors::Interest interest,
                      desktop::MainLoop::TimePoint end) {
     co_return co_await completionOf<bool>(
         [this, &file, interest, end](const std::function<void(bool)>& done) {
-          const auto watch = std::make_shared<desktop::Ticket>(services.descriptors.watch(
-              file.get(), interest, [done](Descriptors::Interest) { done(true); }));
-          const auto timer = std::make_shared<desktop::Ticket>(
-              services.loop.after(silenceUntil(end), [done] { done(false); }));
-          return desktop::Ticket([watch, timer] {
-            *watch = {};
-            *timer = {};
-          });
+          return both(services.descriptors.watch(file.get(), interest,
+                                                 [done](Descriptors::Interest) { done(true); }),
+                      services.loop.after(timeoutBefore(end), [done] { done(false); }));
         });
   }
 
-  [[nodiscard]] milliseconds silenceUntil(desktop::MainLoop::TimePoint end) const {
-    const auto left = std::chrono::ceil<milliseconds>(end - services.loop.now());
-    return std::clamp<milliseconds>(left, milliseconds{0}, patience.silence);
+  [[nodiscard]] std::chrono::milliseconds timeoutBefore(desktop::MainLoop::TimePoint end) const {
+    return limits.timeout(services.loop.now(), end);
   }
 
   // Writing
@@ -208,7 +203,7 @@ struct PortalPasteboard::State {
         services.portal.newCall(interface, "SelectionWrite", services.remote.session());
     bool isDone = false;
     if (call != nullptr && ::sd_bus_message_append(call.get(), "u", serial) >= 0) {
-      const auto end = services.loop.now() + patience.transfer;
+      const auto end = services.loop.now() + limits.transfer;
       const FileDescriptor file = co_await fileOf(*call, end);
       isDone = co_await writeTo(file, std::move(text), end);
     }
@@ -260,7 +255,7 @@ struct PortalPasteboard::State {
   PortalPasteboard& pasteboard;
   Services services;
   ClipboardKeeper keeper;
-  Patience patience;
+  Limits limits;
   ClipboardKeeper::Waiting waiting{};
   bool isAsking = false;    ///< the last attempt to open a session has not ended
   std::uint64_t owner = 0;  ///< changes with the owner, also where there is none
@@ -275,10 +270,9 @@ struct PortalPasteboard::State {
   TaskScope transfers{};
 };
 
-PortalPasteboard::PortalPasteboard(const Services& services, ClipboardKeeper keeper,
-                                   Patience patience)
+PortalPasteboard::PortalPasteboard(const Services& services, ClipboardKeeper keeper, Limits limits)
     : FetchingPasteboard(services.loop),
-      state_(std::make_unique<State>(*this, services, std::move(keeper), patience)) {
+      state_(std::make_unique<State>(*this, services, std::move(keeper), limits)) {
   // The reader of the block may close its pipe. A handler, since programs that the agent starts
   // would keep ignoring the signal.
   static_cast<void>(std::signal(SIGPIPE, [](int) {}));
@@ -301,7 +295,7 @@ desktop::Ticket PortalPasteboard::prepareWrite(std::function<void()> ready) {
     *timer = {};
     ready();
   };
-  *timer = state_->services.loop.after(state_->patience.session, [end] { end(true); });
+  *timer = state_->services.loop.after(state_->limits.session, [end] { end(true); });
   *opening = state_->services.remote.open([end](bool) { end(false); });
   return desktop::Ticket([opening, timer] {
     *opening = {};

@@ -7,6 +7,7 @@
 
 #include "clipboard/ClipboardKeeper.h"
 #include "clipboard/FetchingPasteboard.h"
+#include "clipboard/TransferLimits.h"
 #include "desktop/Log.h"
 #include "desktop/MainLoop.h"
 #include "portal/PortalRemote.h"
@@ -29,15 +30,15 @@ class PortalPasteboard : public FetchingPasteboard {
     desktop::Log& log;
   };
 
-  struct Patience : FetchingPasteboard::Patience {
+  struct Limits : TransferLimits {
     /// For a session to open, about which the desktop may ask the user.
     std::chrono::milliseconds session{30000};
   };
 
   /// `keeper`: for X11.
   PortalPasteboard(const Services& services, ClipboardKeeper keeper)
-      : PortalPasteboard(services, std::move(keeper), Patience()) {}
-  PortalPasteboard(const Services& services, ClipboardKeeper keeper, Patience patience);
+      : PortalPasteboard(services, std::move(keeper), Limits()) {}
+  PortalPasteboard(const Services& services, ClipboardKeeper keeper, Limits limits);
   ~PortalPasteboard() override;
 
   /// Opens a session if there is none.

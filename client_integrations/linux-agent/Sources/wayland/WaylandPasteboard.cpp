@@ -14,8 +14,6 @@
 namespace quillseal::linux {
 namespace {
 
-using std::chrono::milliseconds;
-
 constexpr std::size_t mostFormats = 1000;
 
 /// A data offer of a program.
@@ -30,7 +28,7 @@ struct WaylandPasteboard::State {
   WaylandPasteboard& pasteboard;
   Services services;
   ClipboardKeeper keeper;
-  Patience patience;
+  TransferLimits limits;
   wayland::DataControlManager manager{};
   wayland::DataControlDevice device{};
   std::shared_ptr<Offer> latest{};  ///< not yet assigned to a selection
@@ -116,7 +114,7 @@ class WaylandPasteboard::Reading : public std::enable_shared_from_this<Reading> 
       : state_(state),
         wanted_(wanted),
         done_(std::move(done)),
-        end_(loop().now() + state.patience.transfer) {}
+        end_(loop().now() + state.limits.transfer) {}
 
  private:
   void begin() {
@@ -153,9 +151,7 @@ class WaylandPasteboard::Reading : public std::enable_shared_from_this<Reading> 
   }
 
   void awaitAnswer() {
-    const auto left = std::chrono::ceil<milliseconds>(end_ - loop().now());
-    const auto wait = std::clamp<milliseconds>(left, milliseconds{0}, state_.patience.silence);
-    timer_ = loop().after(wait, [this] {
+    timer_ = loop().after(state_.limits.timeout(loop().now(), end_), [this] {
       closePipe();
       check();
     });
@@ -168,7 +164,7 @@ class WaylandPasteboard::Reading : public std::enable_shared_from_this<Reading> 
     if (count < 0 && (errno == EAGAIN || errno == EINTR)) return;
     if (count > 0) {
       bytes_.append(piece.data(), static_cast<std::size_t>(count));
-      if (bytes_.size() <= state_.patience.largest) return awaitAnswer();
+      if (bytes_.size() <= state_.limits.largest) return awaitAnswer();
       closePipe();
       return check();
     }
@@ -228,12 +224,12 @@ void WaylandPasteboard::State::compare() {
 }
 
 WaylandPasteboard::WaylandPasteboard(const Services& services, ClipboardKeeper keeper,
-                                     Patience patience)
+                                     TransferLimits limits)
     : FetchingPasteboard(services.loop),
       state_(new State{.pasteboard = *this,
                        .services = services,
                        .keeper = std::move(keeper),
-                       .patience = patience}) {
+                       .limits = limits}) {
   state_->manager = wayland::bindDataControl(services.connection);
   if (state_->manager == nullptr) return;
   state_->device.reset(zwlr_data_control_manager_v1_get_data_device(state_->manager.get(),

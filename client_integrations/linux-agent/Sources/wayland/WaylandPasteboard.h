@@ -10,6 +10,7 @@
 
 #include "clipboard/ClipboardKeeper.h"
 #include "clipboard/FetchingPasteboard.h"
+#include "clipboard/TransferLimits.h"
 #include "desktop/MainLoop.h"
 #include "session/Descriptors.h"
 #include "wayland/WaylandConnection.h"
@@ -29,8 +30,8 @@ class WaylandPasteboard : public FetchingPasteboard {
   };
 
   WaylandPasteboard(const Services& services, ClipboardKeeper keeper)
-      : WaylandPasteboard(services, std::move(keeper), Patience()) {}
-  WaylandPasteboard(const Services& services, ClipboardKeeper keeper, Patience patience);
+      : WaylandPasteboard(services, std::move(keeper), TransferLimits()) {}
+  WaylandPasteboard(const Services& services, ClipboardKeeper keeper, TransferLimits limits);
   ~WaylandPasteboard() override;
 
   void write(const desktop::PasteboardContent& content) override;

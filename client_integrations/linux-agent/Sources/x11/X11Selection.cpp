@@ -1,7 +1,6 @@
 #include "x11/X11Selection.h"
 
 #include <algorithm>
-#include <chrono>
 #include <cstdint>
 #include <cstring>
 #include <memory>
@@ -9,17 +8,13 @@
 #include <string_view>
 #include <utility>
 
+#include "clipboard/TransferLimits.h"
 #include "x11/XcbHandles.h"
 
 namespace quillseal::linux::X11Selection {
 namespace {
 
-using std::chrono::milliseconds;
-
-// A word processor may take seconds to render a long document for each format.
-constexpr std::chrono::seconds longestSilence{5};
-constexpr std::chrono::seconds longestTransfer{20};
-constexpr std::size_t largestContent = std::size_t{64} * 1024 * 1024;
+constexpr TransferLimits limits;
 
 using x11::Reply;
 
@@ -60,7 +55,7 @@ class Connection {
   /// Reads and deletes the property. In an incremental transfer that requests the next piece.
   [[nodiscard]] Property take(xcb_atom_t property) const {
     constexpr std::uint8_t thenDelete = 1;
-    constexpr std::uint32_t longest = largestContent / 4;
+    constexpr std::uint32_t longest = limits.largest / 4;
     const auto cookie = xcb_get_property(connection_.get(), thenDelete, window_, property,
                                          XCB_GET_PROPERTY_TYPE_ANY, 0, longest);
     const Reply<xcb_get_property_reply_t> reply(
@@ -92,7 +87,7 @@ class Reading : public std::enable_shared_from_this<Reading> {
       timer_ = services_.loop.after({}, [this] { finish(); });
       return;
     }
-    end_ = services_.loop.now() + longestTransfer;
+    end_ = services_.loop.now() + limits.transfer;
     selection_ = connection_.atom(wish_.selection == Name::primary ? "PRIMARY" : "CLIPBOARD");
     incremental_ = connection_.atom("INCR");
     watch_ = services_.descriptors.watch(connection_.descriptor(), Descriptors::Interest::reading,
@@ -121,9 +116,7 @@ class Reading : public std::enable_shared_from_this<Reading> {
   }
 
   void awaitAnswer() {
-    const auto left = std::chrono::ceil<milliseconds>(end_ - services_.loop.now());
-    const auto patience = std::clamp<milliseconds>(left, milliseconds{0}, longestSilence);
-    timer_ = services_.loop.after(patience, [this] { finish(); });
+    timer_ = services_.loop.after(limits.timeout(services_.loop.now(), end_), [this] { finish(); });
   }
 
   // Reads all queued events: earlier replies may have brought some.
@@ -175,7 +168,7 @@ class Reading : public std::enable_shared_from_this<Reading> {
     const Connection::Property piece = connection_.take(asked_.atom);
     if (piece.bytes.empty()) return accept(std::move(bytes_));
     bytes_ += piece.bytes;
-    if (!piece.isWhole || bytes_.size() > largestContent) return finish();
+    if (!piece.isWhole || bytes_.size() > limits.largest) return finish();
     awaitAnswer();
   }
 

@@ -30,8 +30,8 @@ struct Services {
   Descriptors& descriptors;
 };
 
-/// Reads the formats of `wish` one after the other. Stops when the owner is silent for five
-/// seconds, after twenty seconds in all, and at 64 MiB. REQUIRES: the program runs on an X server.
+/// Reads the formats of `wish` one after the other. Stops at the usual `TransferLimits`. REQUIRES:
+/// the program runs on an X server.
 [[nodiscard]] desktop::Ticket read(const Services& services, Wish wish,
                                    std::function<void(Content)> done);
 

@@ -12,7 +12,12 @@ namespace {
 
 constexpr std::chrono::minutes answerHolds{5};
 
+void releaseAll(GList* objects) {
+  g_list_free_full(objects, g_object_unref);
+}
+
 using AppInfo = UniqueHandle<GDesktopAppInfo, ::g_object_unref>;
+using AppInfos = UniqueHandle<GList, releaseAll>;
 
 std::string text(const char* value) {
   return value == nullptr ? std::string() : std::string(value);
@@ -57,8 +62,8 @@ AppInfo infoWithId(std::string_view id) {
 std::optional<DesktopEntry> bestMatch(const WindowTraits& traits) {
   std::optional<DesktopEntry> best;
   int bestRank = 4;
-  GList* const all = g_app_info_get_all();
-  for (const GList* item = all; item != nullptr; item = item->next) {
+  const AppInfos all(g_app_info_get_all());
+  for (const GList* item = all.get(); item != nullptr; item = item->next) {
     auto* const info = G_DESKTOP_APP_INFO(item->data);
     const char* startupClass = g_desktop_app_info_get_startup_wm_class(info);
     const auto matches = [](std::string_view wanted, std::string_view offered) {
@@ -79,7 +84,6 @@ std::optional<DesktopEntry> bestMatch(const WindowTraits& traits) {
       best = entryOf(info);
     }
   }
-  g_list_free_full(all, g_object_unref);
   return best;
 }
 

@@ -37,15 +37,15 @@ bool isUsableUrl(const std::string& text) {
   if (host == std::string::npos || text.substr(host + 3).starts_with('/')) return false;
   if (text.find('\0') != std::string::npos) return false;
   const UniqueHandle<CURLU, ::curl_url_cleanup> url(curl_url());
-  char* scheme = nullptr;
+  char* found = nullptr;
   if (!url ||
       curl_url_set(url.get(), CURLUPART_URL, text.c_str(), CURLU_NON_SUPPORT_SCHEME) != CURLUE_OK ||
-      curl_url_get(url.get(), CURLUPART_SCHEME, &scheme, 0) != CURLUE_OK) {
+      curl_url_get(url.get(), CURLUPART_SCHEME, &found, 0) != CURLUE_OK) {
     return false;
   }
-  const std::string name(scheme);
-  curl_free(scheme);
-  return name == "http" || name == "https";
+  const UniqueHandle<char, ::curl_free> owner(found);
+  const std::string_view scheme(found);
+  return scheme == "http" || scheme == "https";
 }
 
 /// One HTTP request and its answer. libcurl keeps its address.

@@ -33,9 +33,10 @@ void setHandlers(void (*handler)(int)) {
 
 }  // namespace
 
-TerminationSignals::TerminationSignals(std::function<void()> terminate) {
-  signalled = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
-  notifier_ = std::make_unique<QSocketNotifier>(signalled.load(), QSocketNotifier::Read);
+TerminationSignals::TerminationSignals(std::function<void()> terminate)
+    : event_(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {
+  signalled = event_.get();
+  notifier_ = std::make_unique<QSocketNotifier>(event_.get(), QSocketNotifier::Read);
   QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(),
                    [this, terminate = std::move(terminate)] {
                      notifier_->setEnabled(false);
@@ -46,8 +47,7 @@ TerminationSignals::TerminationSignals(std::function<void()> terminate) {
 
 TerminationSignals::~TerminationSignals() {
   setHandlers(SIG_DFL);
-  notifier_.reset();
-  close(signalled.exchange(-1));
+  signalled = -1;
 }
 
 }  // namespace quillseal::linux

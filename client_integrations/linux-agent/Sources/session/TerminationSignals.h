@@ -4,6 +4,8 @@
 #include <functional>
 #include <memory>
 
+#include "session/FileDescriptor.h"
+
 namespace quillseal::linux {
 
 /// Turns SIGHUP, SIGINT and SIGTERM into a callback in the main loop. One object at a time, on the
@@ -16,6 +18,7 @@ class TerminationSignals {
   TerminationSignals& operator=(const TerminationSignals&) = delete;
 
  private:
+  FileDescriptor event_;  ///< written by the signal handler
   std::unique_ptr<QSocketNotifier> notifier_;
 };
 

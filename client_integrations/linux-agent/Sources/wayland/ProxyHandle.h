@@ -13,7 +13,7 @@ struct ForgetProxy {
   }
 };
 
-/// Owns an object whose destructor request exists only in versions newer than the bound one.
+/// Owns an object that has no destructor request, at least not in the bound version.
 template <typename Object>
 using ProxyHandle = std::unique_ptr<Object, ForgetProxy>;
 

@@ -6,8 +6,6 @@
 
 #include <poll.h>
 
-#include "core/text/UniqueHandle.h"
-
 namespace quillseal::linux {
 namespace {
 
@@ -41,33 +39,24 @@ struct WaylandConnection::Listeners {
 };
 
 std::unique_ptr<WaylandConnection> WaylandConnection::open() {
-  return greet(wl_display_connect(nullptr));
+  return greet(Display(wl_display_connect(nullptr)));
 }
 
 std::unique_ptr<WaylandConnection> WaylandConnection::open(FileDescriptor socket) {
-  return greet(wl_display_connect_to_fd(std::move(socket).release()));
+  return greet(Display(wl_display_connect_to_fd(std::move(socket).release())));
 }
 
-std::unique_ptr<WaylandConnection> WaylandConnection::greet(wl_display* display) {
+std::unique_ptr<WaylandConnection> WaylandConnection::greet(Display display) {
   if (display == nullptr) return nullptr;
-  std::unique_ptr<WaylandConnection> connection(new WaylandConnection(display));
+  std::unique_ptr<WaylandConnection> connection(new WaylandConnection(std::move(display)));
   if (!connection->roundTrip()) return nullptr;
-  connection->seat_ = connection->bind<wl_seat>(wl_seat_interface, 1);
+  connection->seat_.reset(connection->bind<wl_seat>(wl_seat_interface, 1));
   return connection->seat_ == nullptr ? nullptr : std::move(connection);
 }
 
-WaylandConnection::WaylandConnection(wl_display* display)
-    : display_(display), registry_(wl_display_get_registry(display)) {
-  wl_registry_add_listener(registry_, &Listeners::registry, this);
-}
-
-WaylandConnection::~WaylandConnection() {
-  watch_ = {};
-  for (const auto& [id, waiting] : waiting_)
-    wl_callback_destroy(waiting.callback);
-  if (seat_ != nullptr) wl_seat_destroy(seat_);
-  wl_registry_destroy(registry_);
-  wl_display_disconnect(display_);
+WaylandConnection::WaylandConnection(Display display)
+    : display_(std::move(display)), registry_(wl_display_get_registry(display_.get())) {
+  wl_registry_add_listener(registry_.get(), &Listeners::registry, this);
 }
 
 std::uint32_t WaylandConnection::versionOf(std::string_view interface) const {
@@ -80,52 +69,50 @@ void* WaylandConnection::bindGlobal(const wl_interface& interface, std::uint32_t
   const auto found = std::ranges::find_if(
       globals_, [&](const auto& entry) { return entry.second.interface == interface.name; });
   if (found == globals_.end()) return nullptr;
-  return wl_registry_bind(registry_, found->first, &interface,
+  return wl_registry_bind(registry_.get(), found->first, &interface,
                           std::min(newest, found->second.version));
 }
 
 void WaylandConnection::serve(desktop::MainLoop& loop, Descriptors& descriptors) {
   loop_ = &loop;
-  watch_ = descriptors.watch(wl_display_get_fd(display_), Descriptors::Interest::reading,
+  watch_ = descriptors.watch(wl_display_get_fd(display_.get()), Descriptors::Interest::reading,
                              [this](Descriptors::Interest) { receive(); });
   flush();
 }
 
 void WaylandConnection::flush() {
-  if (isAlive_) wl_display_flush(display_);
+  if (isAlive_) wl_display_flush(display_.get());
 }
 
 desktop::Ticket WaylandConnection::catchUp(std::function<void()> done) {
   if (!isAlive_) return loop_->after({}, std::move(done));
   const std::uint64_t id = ++lastWaiting_;
   Waiting& waiting = waiting_[id];
-  waiting = {.callback = wl_display_sync(display_), .done = std::move(done)};
-  wl_callback_add_listener(waiting.callback, &Listeners::waiting, &waiting);
+  waiting.callback.reset(wl_display_sync(display_.get()));
+  waiting.done = std::move(done);
+  wl_callback_add_listener(waiting.callback.get(), &Listeners::waiting, &waiting);
   flush();
-  return desktop::Ticket([this, id] {
-    const auto found = waiting_.find(id);
-    if (found == waiting_.end()) return;
-    wl_callback_destroy(found->second.callback);
-    waiting_.erase(found);
-  });
+  return desktop::Ticket([this, id] { waiting_.erase(id); });
 }
 
 bool WaylandConnection::roundTrip() {
   if (!isAlive_) return false;
   bool isAnswered = false;
-  const UniqueHandle<wl_callback, wl_callback_destroy> callback(wl_display_sync(display_));
+  const wayland::ProxyHandle<wl_callback> callback(wl_display_sync(display_.get()));
   wl_callback_add_listener(callback.get(), &Listeners::roundTrip, &isAnswered);
   const auto deadline = steady_clock::now() + patience;
   while (!isAnswered) {
     if (!prepareRead()) break;
-    wl_display_flush(display_);
+    wl_display_flush(display_.get());
     const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - steady_clock::now());
-    pollfd ready{.fd = wl_display_get_fd(display_), .events = POLLIN, .revents = 0};
+    pollfd ready{.fd = wl_display_get_fd(display_.get()), .events = POLLIN, .revents = 0};
     if (left.count() <= 0 || poll(&ready, 1, static_cast<int>(left.count())) <= 0) {
-      wl_display_cancel_read(display_);
+      wl_display_cancel_read(display_.get());
       break;
     }
-    if (wl_display_read_events(display_) < 0 || wl_display_dispatch_pending(display_) < 0) break;
+    if (wl_display_read_events(display_.get()) < 0 ||
+        wl_display_dispatch_pending(display_.get()) < 0)
+      break;
   }
   if (!isAnswered) end();
   const bool isSomebodyReady =
@@ -137,14 +124,14 @@ bool WaylandConnection::roundTrip() {
 
 /// False when the connection has failed.
 bool WaylandConnection::prepareRead() {
-  while (wl_display_prepare_read(display_) != 0)
-    if (wl_display_dispatch_pending(display_) < 0) return false;
+  while (wl_display_prepare_read(display_.get()) != 0)
+    if (wl_display_dispatch_pending(display_.get()) < 0) return false;
   return true;
 }
 
 void WaylandConnection::receive() {
-  if (!prepareRead() || wl_display_read_events(display_) < 0 ||
-      wl_display_dispatch_pending(display_) < 0)
+  if (!prepareRead() || wl_display_read_events(display_.get()) < 0 ||
+      wl_display_dispatch_pending(display_.get()) < 0)
     end();
   flush();
   callWaiting();
@@ -155,7 +142,6 @@ void WaylandConnection::callWaiting() {
     return std::ranges::find_if(waiting_, [](const auto& entry) { return entry.second.isReady; });
   };
   for (auto found = next(); found != waiting_.end(); found = next()) {
-    wl_callback_destroy(found->second.callback);
     const auto done = std::move(found->second.done);
     waiting_.erase(found);
     done();

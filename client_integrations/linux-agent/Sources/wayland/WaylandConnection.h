@@ -10,10 +10,12 @@
 
 #include <wayland-client.h>
 
+#include "core/text/UniqueHandle.h"
 #include "desktop/MainLoop.h"
 #include "desktop/Ticket.h"
 #include "session/Descriptors.h"
 #include "session/FileDescriptor.h"
+#include "wayland/ProxyHandle.h"
 
 namespace quillseal::linux {
 
@@ -26,7 +28,7 @@ class WaylandConnection {
   /// The same on a connected socket.
   [[nodiscard]] static std::unique_ptr<WaylandConnection> open(FileDescriptor socket);
 
-  ~WaylandConnection();
+  ~WaylandConnection() = default;
   WaylandConnection(const WaylandConnection&) = delete;
   WaylandConnection& operator=(const WaylandConnection&) = delete;
 
@@ -41,7 +43,7 @@ class WaylandConnection {
     return static_cast<Object*>(bindGlobal(interface, newest));
   }
 
-  [[nodiscard]] wl_seat* seat() const { return seat_; }
+  [[nodiscard]] wl_seat* seat() const { return seat_.get(); }
 
   /// Starts dispatching events. Both outlive this object.
   void serve(desktop::MainLoop& loop, Descriptors& descriptors);
@@ -71,13 +73,15 @@ class WaylandConnection {
   struct Listeners;
   /// A pending `catchUp`.
   struct Waiting {
-    wl_callback* callback;
+    wayland::ProxyHandle<wl_callback> callback;
     std::function<void()> done;
     bool isReady = false;
   };
 
-  explicit WaylandConnection(wl_display* display);
-  [[nodiscard]] static std::unique_ptr<WaylandConnection> greet(wl_display* display);
+  using Display = UniqueHandle<wl_display, ::wl_display_disconnect>;
+
+  explicit WaylandConnection(Display display);
+  [[nodiscard]] static std::unique_ptr<WaylandConnection> greet(Display display);
 
   [[nodiscard]] void* bindGlobal(const wl_interface& interface, std::uint32_t newest) const;
   [[nodiscard]] bool prepareRead();
@@ -85,9 +89,10 @@ class WaylandConnection {
   void callWaiting();
   void end();
 
-  wl_display* display_;
-  wl_registry* registry_ = nullptr;
-  wl_seat* seat_ = nullptr;
+  // Members are destroyed from the last to the first: the watch ends before the connection does.
+  Display display_;
+  wayland::ProxyHandle<wl_registry> registry_;
+  wayland::ProxyHandle<wl_seat> seat_;
   std::map<std::uint32_t, Global> globals_;
   std::map<std::uint64_t, Waiting> waiting_;
   std::uint64_t lastWaiting_ = 0;

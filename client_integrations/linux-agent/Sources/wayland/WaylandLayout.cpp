@@ -19,13 +19,30 @@ namespace {
 using Context = UniqueHandle<xkb_context, xkb_context_unref>;
 using Keymap = UniqueHandle<xkb_keymap, xkb_keymap_unref>;
 
+/// A file in memory; null when it cannot be mapped.
+class Mapping {
+ public:
+  Mapping(int file, std::size_t size)
+      : address_(::mmap(nullptr, size, PROT_READ, MAP_PRIVATE, file, 0)), size_(size) {}
+  ~Mapping() {
+    if (address_ != MAP_FAILED) ::munmap(address_, size_);
+  }
+  Mapping(const Mapping&) = delete;
+  Mapping& operator=(const Mapping&) = delete;
+
+  [[nodiscard]] const char* text() const {
+    return address_ == MAP_FAILED ? nullptr : static_cast<const char*>(address_);
+  }
+
+ private:
+  void* address_;
+  std::size_t size_;
+};
+
 std::string textOf(int file, std::uint32_t size) {
-  void* const memory = mmap(nullptr, size, PROT_READ, MAP_PRIVATE, file, 0);
-  if (memory == MAP_FAILED) return {};
-  const auto* const text = static_cast<const char*>(memory);
-  std::string result(text, ::strnlen(text, size));
-  munmap(memory, size);
-  return result;
+  const Mapping mapping(file, size);
+  const char* const text = mapping.text();
+  return text == nullptr ? std::string() : std::string(text, ::strnlen(text, size));
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 #include <QGuiApplication>
 #include <algorithm>
 #include <chrono>
-#include <cstdlib>
 #include <memory>
 #include <utility>
 
@@ -14,6 +13,7 @@
 #include "core/text/Error.h"
 #include "keyboard/HeldHotkey.h"
 #include "keyboard/KeyChords.h"
+#include "x11/XcbHandles.h"
 
 namespace quillseal::linux {
 namespace {
@@ -88,10 +88,8 @@ bool X11Hotkey::grab(const Place& place) {
     const auto cookie = xcb_grab_key_checked(connection_, 1, root_,
                                              static_cast<std::uint16_t>(place.modifiers | ignored),
                                              place.key, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
-    if (xcb_generic_error_t* error = xcb_request_check(connection_, cookie)) {
-      std::free(error);
-      granted = false;
-    }
+    const x11::Reply<xcb_generic_error_t> error(xcb_request_check(connection_, cookie));
+    granted = granted && error == nullptr;
   }
   if (!granted) {
     xcb_ungrab_key(connection_, place.key, root_, XCB_MOD_MASK_ANY);

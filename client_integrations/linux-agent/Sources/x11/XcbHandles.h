@@ -13,7 +13,7 @@ namespace quillseal::linux::x11 {
 
 using Connection = UniqueHandle<xcb_connection_t, ::xcb_disconnect>;
 
-/// Replies and events. Null when the server did not answer.
+/// Replies, events and errors. Null when the server did not answer.
 template <typename T>
 using Reply = UniqueHandle<T, std::free>;
 

@@ -26,7 +26,7 @@ struct Scratch {
   fs::path file = folder / "Quillseal.conf";
   fs::path damaged = folder / "Quillseal.conf.damaged-1";
   QtDefaults defaults{
-      {.path = file.string(), .warn = [](const std::string&) {}, .editorsPatience = {}}};
+      {.path = file.string(), .warn = [](const std::string&) {}, .settlingTime = {}}};
   ~Scratch() { fs::remove_all(folder); }
 };
 

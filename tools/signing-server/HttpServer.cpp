@@ -15,7 +15,7 @@ namespace quillseal::devserver {
 namespace {
 
 constexpr std::size_t largestBody = std::size_t{256} * 1024;
-constexpr std::chrono::seconds patience{5};
+constexpr std::chrono::seconds timeout{5};
 
 /// Each client has its own thread while it sends its request, so a few that never finish block no
 /// others.
@@ -123,7 +123,7 @@ HttpServer::HttpServer(std::function<Reply(const Request&)> answer,
   listener.new_task_queue = [] { return new httplib::ThreadPool(mostClients); };
   listener.set_default_headers(safetyHeaders());
   listener.set_payload_max_length(largestBody);
-  listener.set_read_timeout(patience).set_write_timeout(patience);
+  listener.set_read_timeout(timeout).set_write_timeout(timeout);
   listener.set_exception_handler(
       [log](const httplib::Request&, httplib::Response& response, std::exception_ptr failure) {
         if (log) log("failed: " + reasonOf(std::move(failure)));

@@ -41,8 +41,8 @@ Keyboard openKeyboard(Display* display) {
 }
 
 bool waitForRest(Display* display) {
-  constexpr std::chrono::seconds patience(10);
-  const auto deadline = std::chrono::steady_clock::now() + patience;
+  constexpr std::chrono::seconds timeout(10);
+  const auto deadline = std::chrono::steady_clock::now() + timeout;
   while (std::chrono::steady_clock::now() < deadline) {
     std::array<char, 32> down{};
     XQueryKeymap(display, down.data());

@@ -110,8 +110,8 @@ struct LinuxDesktop::Parts {
                        .log = log,
                        .entries = entries,
                        .shortcuts = shortcuts,
-                       .explain = [this] { warn(system->limits()); },
-                       .tell =
+                       .showLimits = [this] { warn(system->limits()); },
+                       .notify =
                            [this](const std::string& sentence) {
                              log.write("[desktop] " + sentence);
                              alerts.notify({.title = "Quillseal", .body = sentence});
@@ -144,9 +144,9 @@ struct LinuxDesktop::Parts {
   // Workers use the services, and one that waits for a TPM or a system service can only be ended
   // with the process.
   ~Parts() {
-    constexpr std::chrono::seconds patience{5};
+    constexpr std::chrono::seconds timeout{5};
     secretPrompt.close();
-    if (loop.waitForWorkers(patience)) return;
+    if (loop.waitForWorkers(timeout)) return;
     log.write("[end] a worker is still running");
     std::_Exit(0);
   }

@@ -76,7 +76,7 @@ PortalSystem::Access accessToWayland(Command command) {
   using quillseal::linux::DesktopBus;
   using quillseal::linux::KwinHotkey;
   // Nobody waits for an agent that starts with the session, whose portal may be starting, too.
-  const std::chrono::seconds patience(command == Command::background ? 15 : 2);
+  const std::chrono::seconds timeout(command == Command::background ? 15 : 2);
   PortalSystem::Access access;
   if (environmentVariable("WAYLAND_DISPLAY").empty()) return access;
   const auto places = quillseal::linux::LoadedModule::usualPlaces(WaylandConnector::program);
@@ -95,7 +95,7 @@ PortalSystem::Access accessToWayland(Command command) {
         access.bus->knows(quillseal::linux::Portal::service).value_or(false)));
   if (isOfInterest) access.portalBus = DesktopBus::openThrough(places);
   if (access.portalBus != nullptr)
-    access.offer = quillseal::linux::offerOfPortal(*access.portalBus, patience);
+    access.offer = quillseal::linux::offerOfPortal(*access.portalBus, timeout);
   return access;
 }
 
@@ -134,10 +134,10 @@ void obey(Command command, quillseal::AppDelegate& agent) {
 /// Returns the exit status if another agent runs, and has got the command.
 std::optional<int> visit(Command command) {
   using quillseal::linux::Handover;
-  constexpr std::chrono::seconds patience{5};
+  constexpr std::chrono::seconds timeout{5};
   const std::string method(quillseal::linux::wireName(command));
   if (method.empty()) return std::nullopt;
-  const Handover handover = quillseal::linux::handOver(method, patience);
+  const Handover handover = quillseal::linux::handOver(method, timeout);
   if (handover == Handover::noAgent) return std::nullopt;
   if (handover == Handover::done) return 0;
   report("the running agent does not answer. End it and start again.");
@@ -169,8 +169,8 @@ int runAgent(const CommandLine& commandLine, quillseal::linux::SingleInstance& i
 int run(int argc, char** argv, const CommandLine& commandLine) {
   quillseal::linux::shieldProcess();
   if (const auto status = visit(commandLine.command)) return *status;
-  constexpr std::chrono::seconds patience{5};
-  if (!quillseal::linux::sessionBusAnswers(patience))
+  constexpr std::chrono::seconds timeout{5};
+  if (!quillseal::linux::sessionBusAnswers(timeout))
     qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
   PortalSystem::Access access = accessToWayland(commandLine.command);
   const bool isReached =
@@ -217,7 +217,7 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
       break;
   }
   if (commandLine.command == Command::quit) return 0;
-  if (!quillseal::linux::accessibilityAnswers(patience)) qputenv("AT_SPI_BUS_ADDRESS", "disabled:");
+  if (!quillseal::linux::accessibilityAnswers(timeout)) qputenv("AT_SPI_BUS_ADDRESS", "disabled:");
   return runAgent(commandLine, instance, std::move(access));
 }
 

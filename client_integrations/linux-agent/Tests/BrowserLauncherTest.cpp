@@ -155,7 +155,7 @@ TEST_F(BrowserLauncherTest, HandsAddressesOverInPrivatePages) {
     }
   }
   loop_.run();
-  EXPECT_EQ(loop_.elapsed(), LeadingPage::life);
+  EXPECT_EQ(loop_.elapsed(), RedirectPage::life);
   for (const fs::path& page : pages)
     EXPECT_FALSE(fs::exists(page)) << page;
 
@@ -176,7 +176,7 @@ TEST_F(BrowserLauncherTest, DeletesThePagesOfAnAgentThatWasKilled) {
   for (const fs::path& file : {old, fresh, other})
     testing::overwrite(file, "x");
   for (const fs::path& file : {old, other})
-    fs::last_write_time(file, fs::file_time_type::clock::now() - 3 * LeadingPage::life);
+    fs::last_write_time(file, fs::file_time_type::clock::now() - 3 * RedirectPage::life);
   launcher_.open(urlOfLength(40), "");
   EXPECT_FALSE(fs::exists(old));
   EXPECT_TRUE(fs::exists(fresh)) << "another agent may be starting a browser";

@@ -183,7 +183,7 @@ TEST_F(KwinHotkeys, ArePressedOnceHoweverLongTheyAreHeld) {
   std::optional<ScriptedKde> kde(std::in_place, ScriptedKde::Script{});
   int presses = 0;
   {
-    KwinHotkey keys({.loop = loop, .bus = *bus, .tell = {}});
+    KwinHotkey keys({.loop = loop, .bus = *bus, .notify = {}});
     keys.registerHotkey(desktop::signingHotkey, [&] { ++presses; });
     const auto registered = kde->calls();
     for (const char* signal : {"globalShortcutPressed", "globalShortcutPressed",
@@ -218,8 +218,10 @@ TEST_F(KwinHotkeys, SayWhyThereAreNone) {
   for (const auto& row : rows) {
     ScriptedKde kde(row.script);
     std::string told;
-    auto keys = std::make_unique<KwinHotkey>(KwinHotkey::Services{
-        .loop = loop, .bus = *bus, .tell = [&](const std::string& sentence) { told += sentence; }});
+    auto keys = std::make_unique<KwinHotkey>(
+        KwinHotkey::Services{.loop = loop, .bus = *bus, .notify = [&](const std::string& sentence) {
+                               told += sentence;
+                             }});
     EXPECT_THAT([&] { keys->registerHotkey(desktop::signingHotkey, [] {}); },
                 ThrowsMessage<Error>(AllOf(HasSubstr(row.part), HasSubstr("quillseal --sign"))));
     keys->askAgain();
@@ -240,7 +242,7 @@ TEST_F(KwinHotkeys, AreNamedAsTheUserHasChosenThem) {
               {0x01000009, "the shortcut of your choice"}};  // Print
   for (const auto& row : rows) {
     ScriptedKde kde({.granted = row.keys});
-    KwinHotkey keys({.loop = loop, .bus = *bus, .tell = {}});
+    KwinHotkey keys({.loop = loop, .bus = *bus, .notify = {}});
     keys.registerHotkey(desktop::signingHotkey, [] {});
     EXPECT_EQ(keys.state().otherKeys, row.name);
     bool isReported = false;
@@ -254,7 +256,7 @@ TEST_F(KwinHotkeys, AreNamedAsTheUserHasChosenThem) {
   {
     ScriptedKde kde({.granted = 0});
     {
-      KwinHotkey keys({.loop = loop, .bus = *bus, .tell = {}});
+      KwinHotkey keys({.loop = loop, .bus = *bus, .notify = {}});
       EXPECT_THROW(keys.registerHotkey(desktop::signingHotkey, [] {}), Error);
       kde.choose(0x04000051);
       testing::runUntil(loop, [&] { return keys.state().otherKeys == "Ctrl+Q"; });
@@ -262,7 +264,7 @@ TEST_F(KwinHotkeys, AreNamedAsTheUserHasChosenThem) {
     EXPECT_EQ(kde.calls().back(), "setInactive") << "the keys chosen later work elsewhere again";
   }
   ScriptedKde other({.granted = 0, .owner = "other"});
-  KwinHotkey keys({.loop = loop, .bus = *bus, .tell = {}});
+  KwinHotkey keys({.loop = loop, .bus = *bus, .notify = {}});
   EXPECT_THROW(keys.registerHotkey(desktop::signingHotkey, [] {}), Error);
   const ScriptedKde freed({});
   keys.askAgain();
@@ -271,7 +273,7 @@ TEST_F(KwinHotkeys, AreNamedAsTheUserHasChosenThem) {
 
 TEST_F(KwinHotkeys, EndWithTheBus) {
   std::optional<ScriptedKde> kde(std::in_place, ScriptedKde::Script{});
-  KwinHotkey keys({.loop = loop, .bus = *bus, .tell = {}});
+  KwinHotkey keys({.loop = loop, .bus = *bus, .notify = {}});
   keys.registerHotkey(desktop::signingHotkey, [] {});
   kde.reset();
   sessionBus.reset();
@@ -311,7 +313,7 @@ TEST_F(KwinBus, IsNotWaitedForWhenItHangs) {
 TEST_F(KwinBus, DeliversASignalThatCameWhileAnAnswerWasAwaited) {
   ScriptedKde kde({.pressesMeanwhile = true});
   int presses = 0;
-  KwinHotkey keys({.loop = loop, .bus = *bus, .tell = {}});
+  KwinHotkey keys({.loop = loop, .bus = *bus, .notify = {}});
   keys.registerHotkey(desktop::signingHotkey, [&] { ++presses; });
   EXPECT_NE(bus->call({.service = "org.freedesktop.ScreenSaver",
                        .path = "/",

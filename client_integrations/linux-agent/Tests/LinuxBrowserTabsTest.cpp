@@ -211,7 +211,7 @@ TEST_F(LinuxBrowserTabsTest, LetsSilentConnectionsShutNobodyOut) {
   }
   const auto chromium = connected("chromium");
   EXPECT_EQ(tabShownBy(*chromium, 5), "41.5");
-  EXPECT_EQ(loop_.elapsed(), LinuxBrowserTabs::greetingPatience);
+  EXPECT_EQ(loop_.elapsed(), LinuxBrowserTabs::greetingTimeout);
   EXPECT_TRUE(std::ranges::all_of(silent, isClosed)) << "the last of them by their time";
   EXPECT_THAT(log_.text, HasSubstr("a relay: has sent no greeting"));
   EXPECT_EQ(tabShownBy(*chromium, 6), "41.6") << "a greeting holds";

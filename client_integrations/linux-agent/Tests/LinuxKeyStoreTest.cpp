@@ -208,9 +208,9 @@ TEST(LinuxKeyStore, FreesAMediumWhileThePersonIsAskedButNotWhileItWorks) {
   Story story;
   std::future<bool> other;
   std::future_status status{};
-  const auto look = [&](std::chrono::milliseconds patience) {
+  const auto look = [&](std::chrono::milliseconds timeout) {
     other = std::async(std::launch::async, [&] { return story.store->isAvailable(); });
-    status = other.wait_for(patience);
+    status = other.wait_for(timeout);
   };
   story.tpm.whileWorking = [&] { look(std::chrono::milliseconds(50)); };
   EXPECT_EQ(story.create({"123457"}), "(no failure)");

@@ -44,8 +44,8 @@ class PortalSystemTest : public ::testing::Test {
                        .log = log,
                        .entries = entries,
                        .shortcuts = user,
-                       .explain = [] {},
-                       .tell = [](const std::string&) {},
+                       .showLimits = [] {},
+                       .notify = [](const std::string&) {},
                        .alerts = [this]() -> desktop::Alerts& { return user.alerts; },
                        .defaults = [this]() -> desktop::Defaults& { return user.defaults; }});
   }

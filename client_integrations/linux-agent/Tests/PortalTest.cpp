@@ -43,8 +43,8 @@ using Script = ScriptedPortal::Script;
 using Owner = ScriptedPortal::Owner;
 using Calls = std::vector<std::string>;
 
-constexpr std::chrono::seconds portalPatience{1};
-constexpr auto patience = 1500ms;  // for what the user is not asked
+constexpr std::chrono::seconds portalTimeout{1};
+constexpr auto timeout = 1500ms;  // for what the user is not asked
 
 /// The agent's side, with a portal.
 struct Story {
@@ -65,7 +65,7 @@ struct Story {
     desk.emplace(std::move(script));
     bus = DesktopBus::openThrough({QUILLSEAL_WAYLAND_CONNECTOR});
     bus->serve(loop, loop);
-    static_cast<void>(offerOfPortal(*bus, portalPatience));
+    static_cast<void>(offerOfPortal(*bus, portalTimeout));
     portal.emplace(*bus);
     std::filesystem::remove_all(tokenFile.parent_path());
     const PrivateFile file(tokenFile);
@@ -75,15 +75,15 @@ struct Story {
                                           .portal = *portal,
                                           .offer = offer,
                                           .token = file,
-                                          .tell = tell,
-                                          .patience = patience});
+                                          .notify = tell,
+                                          .timeout = timeout});
     hotkey.emplace(PortalHotkey::Services{
         .loop = loop,
         .portal = *portal,
         .defaults = [this]() -> desktop::Defaults& { return defaults; },
-        .tell = tell,
+        .notify = tell,
         .activated = [this](const std::string& value) { activation = value; },
-        .patience = patience});
+        .timeout = timeout});
     pasteboard.emplace(
         PortalPasteboard::Services{
             .loop = loop, .descriptors = loop, .portal = *portal, .remote = *remote, .log = log},
@@ -103,8 +103,8 @@ struct Story {
                                                    catchingUp = loop.after(200ms, done);
                                                  });
                                                },
-                                           .explain = [this] { told += remote->obstacle(); },
-                                           .tell = tell});
+                                           .showLimits = [this] { told += remote->obstacle(); },
+                                           .notify = tell});
   }
 
   void offerBlock() {
@@ -597,10 +597,10 @@ TEST_F(PortalOffers, AreWhatThePortalSays) {
   };
   const auto own = DesktopBus::open();
   EXPECT_EQ(DesktopBus::openThrough({"/absent"}), nullptr);
-  EXPECT_EQ(offerOfPortal(*own, portalPatience), PortalOffer{});
+  EXPECT_EQ(offerOfPortal(*own, portalTimeout), PortalOffer{});
   for (const auto& row : rows) {
     const ScriptedPortal scripted(row.script);
-    EXPECT_EQ(offerOfPortal(*own, portalPatience), row.offer);
+    EXPECT_EQ(offerOfPortal(*own, portalTimeout), row.offer);
   }
 }
 
@@ -624,7 +624,7 @@ TEST_F(PortalOffers, AreNotWaitedForWhereThePortalHangs) {
   const auto own = DesktopBus::open();
   const auto offerAndTime = [&] {
     const auto start = loop.now();
-    const PortalOffer offer = offerOfPortal(*own, portalPatience);
+    const PortalOffer offer = offerOfPortal(*own, portalTimeout);
     return std::pair(offer, loop.now() - start);
   };
   // Only the start of the portal can hang here, and it would bring nothing.

@@ -143,7 +143,7 @@ struct Agent {
             .descriptors = loop,
             .connection = *connection,
             .socket = socket,
-            .tell = [this](const std::string& sentence) { told += sentence; }};
+            .notify = [this](const std::string& sentence) { told += sentence; }};
   }
 
   PollLoop loop;

@@ -22,9 +22,9 @@ namespace {
 using testing::eventually;
 using testing::TemporaryFolder;
 
-constexpr int patience = 10'000;  // milliseconds
+constexpr int timeout = 10'000;  // milliseconds
 
-bool isReadable(const FileDescriptor& descriptor, int milliseconds = patience) {
+bool isReadable(const FileDescriptor& descriptor, int milliseconds = timeout) {
   pollfd state{.fd = descriptor.get(), .events = POLLIN, .revents = 0};
   return ::poll(&state, 1, milliseconds) == 1;
 }

@@ -97,7 +97,7 @@ struct Agent {
               .windows = windows,
               .pasteboard = pasteboard,
               .keyboard = keyboard,
-              .explain = [this] { ++explanations; }}) {
+              .showLimits = [this] { ++explanations; }}) {
     connection->serve(loop, loop);
     catchUp();
   }

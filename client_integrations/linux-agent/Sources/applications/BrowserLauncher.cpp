@@ -65,10 +65,10 @@ std::string BrowserLauncher::pageFor(const std::string& url, const DesktopEntry&
          "the default one.");
   }
   try {
-    LeadingPage page(url, browser.snap.empty() ? runtimeFolder() : folderOfSnap(browser.snap));
+    RedirectPage page(url, browser.snap.empty() ? runtimeFolder() : folderOfSnap(browser.snap));
     std::string address = page.address();
     pages_.push_back({.page = std::move(page),
-                      .end = loop_.after(LeadingPage::life, [this] { pages_.pop_front(); })});
+                      .end = loop_.after(RedirectPage::life, [this] { pages_.pop_front(); })});
     return address;
   } catch (const std::runtime_error& error) {
     fail("The signing page could not be opened in “" + browser.name + "”: " + error.what());

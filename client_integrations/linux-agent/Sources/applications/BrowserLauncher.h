@@ -5,7 +5,7 @@
 #include <string>
 
 #include "applications/DesktopEntries.h"
-#include "applications/LeadingPage.h"
+#include "applications/RedirectPage.h"
 #include "desktop/Applications.h"
 #include "desktop/MainLoop.h"
 
@@ -24,12 +24,12 @@ class BrowserLauncher {
 
   /// Opens `url` in the application whose desktop file `location` names, or in the user's default
   /// for such URLs when `location` is empty. The command line names only a local page
-  /// (LeadingPage), never the URL. Throws Error.
+  /// (RedirectPage), never the URL. Throws Error.
   void open(const std::string& url, const std::string& location);
 
  private:
   struct OpenedPage {
-    LeadingPage page;
+    RedirectPage page;
     desktop::Ticket end;
   };
 

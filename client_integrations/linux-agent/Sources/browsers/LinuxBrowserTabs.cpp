@@ -161,8 +161,8 @@ class LinuxBrowserTabs::Hub : public std::enable_shared_from_this<Hub> {
         .socket = std::move(*socket),
         .program = {},
         .incoming = {},
-        .greetingTimer = services_.loop.after(greetingPatience,
-                                              [this, id] { drop(id, "has sent no greeting"); }),
+        .greetingTimer =
+            services_.loop.after(greetingTimeout, [this, id] { drop(id, "has sent no greeting"); }),
         .watch = services_.descriptors.watch(descriptor, Descriptors::Interest::reading,
                                              [this, id](Descriptors::Interest) { receive(id); })};
     connections_.emplace(id, std::move(connection));

@@ -18,7 +18,7 @@ class LinuxBrowserTabs final : public desktop::BrowserTabs {
   static constexpr std::chrono::milliseconds longestWait{1500};
 
   /// How long a connection may stay open without a greeting.
-  static constexpr std::chrono::seconds greetingPatience{5};
+  static constexpr std::chrono::seconds greetingTimeout{5};
 
   struct Services {
     desktop::MainLoop& loop;

@@ -25,7 +25,7 @@ namespace {
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
-constexpr std::chrono::seconds patience{5};
+constexpr std::chrono::seconds timeout{5};
 
 [[noreturn]] void fail(const std::string& reason) {
   throw Error({.domain = "ClipboardKeeper",
@@ -43,7 +43,7 @@ bool endsInTime(pid_t process) {
   const FileDescriptor running(static_cast<int>(syscall(SYS_pidfd_open, process, 0)));
   if (!running.isOpen()) return false;
   pollfd ended{.fd = running.get(), .events = POLLIN, .revents = 0};
-  const auto deadline = steady_clock::now() + patience;
+  const auto deadline = steady_clock::now() + timeout;
   int count = 0;
   do {
     const auto left =
@@ -80,16 +80,16 @@ std::uint32_t ClipboardKeeper::keep(const desktop::PasteboardContent& content) c
   std::array<int, 2> ends{-1, -1};
   if (!input.isOpen() || pipe2(ends.data(), O_CLOEXEC) != 0)
     fail("there is not enough memory. Close some programs and try again.");
-  const FileDescriptor told(ends[0]);
-  FileDescriptor telling(ends[1]);
+  const FileDescriptor readEnd(ends[0]);
+  FileDescriptor writeEnd(ends[1]);
 
   // The process that is started here ends when its child holds the offer that the desktop has
   // taken.
-  const auto process = start({.file = *place, .input = input.get(), .output = telling.get()});
+  const auto process = start({.file = *place, .input = input.get(), .output = writeEnd.get()});
   if (!process) fail(place->string() + " could not be started. Install Quillseal again.");
-  telling = {};
+  writeEnd = {};
   std::array<char, 16> window{};
-  if (!endsWell(*process) || read(told.get(), window.data(), window.size() - 1) <= 0)
+  if (!endsWell(*process) || read(readEnd.get(), window.data(), window.size() - 1) <= 0)
     fail("the desktop did not accept it. If it never does, log out and in.");
   std::uint32_t number = 0;
   std::from_chars(window.begin(), window.end(), number);

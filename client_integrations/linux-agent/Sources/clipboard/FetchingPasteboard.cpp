@@ -13,7 +13,7 @@ desktop::Ticket FetchingPasteboard::onNextChange(std::function<void()> changed) 
 void FetchingPasteboard::change() {
   ++changeCount_;
   fetched_.clear();
-  telling_ = loop_.after({}, [this] {
+  reporting_ = loop_.after({}, [this] {
     // A copy: a watch may drop others or add new ones.
     for (auto& [id, unused] : std::map(watches_))
       if (const auto watch = watches_.extract(id); !watch.empty()) watch.mapped()();

@@ -42,7 +42,7 @@ class FetchingPasteboard : public desktop::Pasteboard {
   std::int64_t changeCount_ = 0;
   std::map<std::uint64_t, std::function<void()>> watches_;
   std::uint64_t lastWatch_ = 0;
-  desktop::Ticket telling_;
+  desktop::Ticket reporting_;
   ClipboardFormats::Content fetched_;
 };
 

@@ -74,7 +74,7 @@ int runWaitingKeeper(const OfferMaker& offerOf) {
 void KeeperLoop::replaced(bool isIdle) {
   isReplaced_ = true;
   if (isIdle) return loop_.stop();
-  end_ = loop_.after(patience, [this] { loop_.stop(); });  // lets running transfers finish
+  end_ = loop_.after(timeout, [this] { loop_.stop(); });  // lets running transfers finish
 }
 
 void KeeperLoop::transferEnded(bool isIdle) {

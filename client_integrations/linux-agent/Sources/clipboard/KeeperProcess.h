@@ -57,7 +57,7 @@ class KeeperLoop {
   void transferEnded(bool isIdle);
 
  private:
-  static constexpr std::chrono::seconds patience{5};
+  static constexpr std::chrono::seconds timeout{5};
 
   PollLoop loop_;
   bool isReplaced_ = false;

@@ -52,7 +52,7 @@ void GnomeApplications::bringToFrontAfter(std::chrono::milliseconds pause,
         services_.extension.activateApplication(location + ".desktop");
     if (isFound.value_or(false)) return;
     if (isFound && !isLastTry) return bringToFrontAfter(startsUp, location, true);
-    services_.tell(
+    services_.notify(
         "The page on which you sign opens in your browser. If it stays in the background, go "
         "there.");
   });

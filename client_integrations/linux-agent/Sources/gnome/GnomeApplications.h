@@ -21,7 +21,7 @@ class GnomeApplications : public LinuxApplications {
     DesktopEntries& entries;
     desktop::MainLoop& loop;
     /// Tells the user something that needs no answer.
-    std::function<void(const std::string&)> tell;
+    std::function<void(const std::string&)> notify;
   };
 
   explicit GnomeApplications(Services services);

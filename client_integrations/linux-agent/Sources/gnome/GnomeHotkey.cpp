@@ -107,7 +107,7 @@ void GnomeHotkey::refresh() {
 void GnomeHotkey::report() {
   if (keys_.empty()) return turnOff();
   const std::string name = nameOfAccelerator(keys_);
-  become({.otherKeys = name == nameOf(*combination_) ? std::string() : name, .isOff = false});
+  setState({.otherKeys = name == nameOf(*combination_) ? std::string() : name, .isOff = false});
 }
 
 void GnomeHotkey::askAgain() {
@@ -115,7 +115,7 @@ void GnomeHotkey::askAgain() {
   try {
     offer();
   } catch (const Error& error) {
-    tell(error.what());
+    notify(error.what());
   }
 }
 
@@ -142,7 +142,7 @@ void GnomeHotkey::offer() {
       break;
   }
   isAsking_ = true;
-  become({});
+  setState({});
   question_ = services_.alerts().ask(
       {.title = "Add " + keys + " to Your Keyboard Settings?",
        .body = "This desktop gives programs no hotkey. Quillseal can add a shortcut to your own "
@@ -172,11 +172,12 @@ void GnomeHotkey::answered(desktop::Answer answer, const CustomShortcut& shortcu
   services_.defaults().setString(wasOffered, "true");
   const bool isAdded = answer == desktop::Answer::confirmed && services_.settings.add(shortcut);
   if (answer == desktop::Answer::confirmed && !isAdded)
-    tell(std::string("The shortcut could not be added to your keyboard settings. ") + bindYourself);
+    notify(std::string("The shortcut could not be added to your keyboard settings. ") +
+           bindYourself);
   read();
 }
 
-void GnomeHotkey::tell(const std::string& problem) const {
+void GnomeHotkey::notify(const std::string& problem) const {
   services_.alerts().notify({.title = "Quillseal’s Hotkey Is Not Available", .body = problem});
 }
 

@@ -54,7 +54,7 @@ class GnomeHotkey : public ObservedHotkey {
  private:
   void begin();
   void offer();
-  void tell(const std::string& problem) const;
+  void notify(const std::string& problem) const;
   void read();
   void report();
   void answered(desktop::Answer answer, const CustomShortcut& shortcut);

@@ -45,7 +45,7 @@ DesktopBus::Message ShellExtension::ask(const char* name, const char* types,
   DesktopBus::Message answer = bus_.call(method(name), types, arguments...);
   const auto end = std::chrono::steady_clock::now();
   // An error comes at once.
-  if (answer == nullptr && end - begin >= DesktopBus::patience) silentUntil_ = end + pause_;
+  if (answer == nullptr && end - begin >= DesktopBus::timeout) silentUntil_ = end + pause_;
   return answer;
 }
 

@@ -14,9 +14,9 @@ namespace quillseal::linux {
 class ClaimedHotkey : public ObservedHotkey {
  public:
   /// Tells the user something in a notification.
-  using Tell = std::function<void(const std::string&)>;
+  using Notify = std::function<void(const std::string&)>;
 
-  explicit ClaimedHotkey(Tell tell) : tell_(std::move(tell)) {}
+  explicit ClaimedHotkey(Notify notify) : notify_(std::move(notify)) {}
 
   void registerHotkey(desktop::KeyPress combination, std::function<void()> pressed) override {
     combination_ = combination;
@@ -35,7 +35,7 @@ class ClaimedHotkey : public ObservedHotkey {
       claim();
     } catch (const Error& error) {
       turnOff();  // the claim may have got halfway
-      tell_(error.what());
+      notify_(error.what());
     }
   }
 
@@ -48,7 +48,7 @@ class ClaimedHotkey : public ObservedHotkey {
   [[nodiscard]] const std::function<void()>& pressed() const { return pressed_; }
 
  private:
-  Tell tell_;
+  Notify notify_;
   desktop::KeyPress combination_{};
   std::function<void()> pressed_;
 };

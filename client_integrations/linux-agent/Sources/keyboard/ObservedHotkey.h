@@ -8,7 +8,7 @@
 
 namespace quillseal::linux {
 
-/// A hotkey whose state may change, and that tells its observer.
+/// A hotkey whose state may change, which reports that to its observer.
 class ObservedHotkey : public desktop::Hotkey {
  public:
   [[nodiscard]] desktop::HotkeyState state() const override { return state_; }
@@ -19,12 +19,12 @@ class ObservedHotkey : public desktop::Hotkey {
   }
 
  protected:
-  void become(desktop::HotkeyState state) {
+  void setState(desktop::HotkeyState state) {
     if (state == state_) return;
     state_ = std::move(state);
     if (const auto changed = changed_) changed();
   }
-  void turnOff() { become({.otherKeys = {}, .isOff = true}); }
+  void turnOff() { setState({.otherKeys = {}, .isOff = true}); }
 
  private:
   desktop::HotkeyState state_;

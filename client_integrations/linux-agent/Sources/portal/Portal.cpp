@@ -23,7 +23,7 @@ constexpr DesktopBus::Signal ownerChanged = DesktopBus::ownerChangeOf(Portal::se
 /// The time until which the portal is waited for.
 class Deadline {
  public:
-  explicit Deadline(std::chrono::milliseconds patience) : end_(Clock::now() + patience) {}
+  explicit Deadline(std::chrono::milliseconds timeout) : end_(Clock::now() + timeout) {}
 
   [[nodiscard]] std::chrono::milliseconds left() const {
     return std::chrono::ceil<std::chrono::milliseconds>(end_ - Clock::now());
@@ -90,8 +90,8 @@ void introduce(DesktopBus& bus, const Deadline& deadline, const PortalOffer& off
 
 }  // namespace
 
-PortalOffer offerOfPortal(DesktopBus& bus, std::chrono::milliseconds patience) {
-  const Deadline deadline(patience);
+PortalOffer offerOfPortal(DesktopBus& bus, std::chrono::milliseconds timeout) {
+  const Deadline deadline(timeout);
   const auto isSilent = [&deadline] { return deadline.left().count() <= 0; };
   const std::optional<bool> isRunning = bus.knows(Portal::service);
   if (!isRunning || (!*isRunning && !isUsefulPortalInstalled())) return {};

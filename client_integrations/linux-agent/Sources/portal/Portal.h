@@ -28,11 +28,11 @@ struct PortalOffer {
 
 /// Asks the portal, and registers this program with it. A portal that does not run is started if
 /// `isUsefulPortalInstalled`. Blocks for milliseconds where the portal answers or there is none,
-/// and for `patience` at most.
+/// and for `timeout` at most.
 ///
 /// The portal looks at `/proc/PID/root` of a client at its first call and refuses everything where
 /// that is hidden, as it is of the agent: so the bus is one of DesktopBus::openThrough.
-[[nodiscard]] PortalOffer offerOfPortal(DesktopBus& bus, std::chrono::milliseconds patience);
+[[nodiscard]] PortalOffer offerOfPortal(DesktopBus& bus, std::chrono::milliseconds timeout);
 
 /// How a request ended.
 struct PortalAnswer {
@@ -50,7 +50,7 @@ class Portal {
   static constexpr const char* path = "/org/freedesktop/portal/desktop";
 
   /// For what the portal answers without asking the user. One that has ended is started meanwhile.
-  static constexpr std::chrono::seconds patience{15};
+  static constexpr std::chrono::seconds timeout{15};
 
   /// The agent's name: that of an installed desktop file, without ".desktop". By it the desktop
   /// shows and stores what the user allows.

@@ -160,7 +160,7 @@ void PortalHotkey::askAgain() {
   if (!state().isOff) return;
   isWanted_ = true;
   isRefused_ = false;
-  become({});
+  setState({});
   bindAfter(0s);
 }
 
@@ -175,7 +175,7 @@ Task<> PortalHotkey::bind() {
   const auto begin = services_.loop.now();
   isBinding_ = true;
   held_.release();
-  giveUp_ = services_.loop.after(services_.patience, [this] {
+  giveUp_ = services_.loop.after(services_.timeout, [this] {
     binding_.reset();
     fail(
         "The portal of your desktop does not answer, so there is no hotkey. If it still does not "
@@ -207,10 +207,10 @@ Task<> PortalHotkey::bind() {
   desktop::Defaults& defaults = services_.defaults();
   if (answer.outcome == PortalAnswer::Outcome::granted) {
     if (defaults.boolean(wasRefused)) defaults.setString(wasRefused, "false");
-    if (state().isOff) become({});
+    if (state().isOff) setState({});
     if (enterOption(*answer.message, "u", "shortcuts", "a(sa{sv})")) readKeys(*answer.message);
     if (wasWanted && state().isOff)
-      services_.tell(
+      services_.notify(
           "Your desktop has no keys for Quillseal’s hotkey. Choose some in its keyboard settings.");
     co_return;
   }
@@ -236,7 +236,7 @@ void PortalHotkey::fail(const std::string& problem) {
   isBinding_ = false;
   isWanted_ = false;
   turnOff();
-  services_.tell(problem);
+  services_.notify(problem);
 }
 
 void PortalHotkey::portalEnded() {
@@ -257,7 +257,7 @@ void PortalHotkey::end(PortalSession::End how) {
   lastEnd_ = now;
   if (!isDeliberate) return bindAfter(pauseBeforeRestart);
   refuse();
-  services_.tell(std::string("Your desktop has ended Quillseal’s hotkey.") + otherWays);
+  services_.notify(std::string("Your desktop has ended Quillseal’s hotkey.") + otherWays);
 }
 
 /// Reads the list of shortcuts that comes next in the message.
@@ -279,7 +279,7 @@ void PortalHotkey::readKeys(sd_bus_message& shortcuts) {
       return turnOff();
     const std::string name = *keys == '\0' ? unknownKeys : describedKeys(keys);
     const bool isAsAsked = keysIn(name) == keysIn(nameOf(combination_));
-    return become({.otherKeys = isAsAsked ? std::string() : name, .isOff = false});
+    return setState({.otherKeys = isAsAsked ? std::string() : name, .isOff = false});
   }
 }
 

@@ -27,11 +27,11 @@ class PortalHotkey : public ObservedHotkey {
     /// Found at each use, since the desktop's services are made after this object.
     std::function<desktop::Defaults&()> defaults;
     /// Tells the user something in a notification.
-    std::function<void(const std::string&)> tell;
+    std::function<void(const std::string&)> notify;
     /// Gets the token with which a window of this program may take the focus after a press; may be
     /// empty.
     std::function<void(const std::string&)> activated;
-    std::chrono::milliseconds patience = Portal::patience;
+    std::chrono::milliseconds timeout = Portal::timeout;
   };
 
   explicit PortalHotkey(Services services);

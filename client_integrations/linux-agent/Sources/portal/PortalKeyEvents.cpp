@@ -24,9 +24,9 @@ constexpr auto longestUnasked = 3s;
 // A new session reports the clipboard as it is, which must not pass for a copy.
 constexpr auto firstReport = 100ms;
 // Windows need time to come to the front, and web pages to restore their title.
-constexpr auto targetPatience = 1000ms;
+constexpr auto targetTimeout = 1000ms;
 // People need longer to let go of four keys than of one.
-constexpr auto releasePatience = 1400ms;
+constexpr auto releaseTimeout = 1400ms;
 // The portal hands the selection on to the compositor, and that to programs.
 constexpr auto clipboardPropagation = 100ms;
 
@@ -48,8 +48,8 @@ bool PortalKeyEvents::isTrusted() const {
 
 void PortalKeyEvents::askForTrust() {
   asking_ = services_.remote.open([this](bool isOpen) {
-    if (!isOpen) return services_.explain();
-    services_.tell("Quillseal may now press keys. Select your text and sign again.");
+    if (!isOpen) return services_.showLimits();
+    services_.notify("Quillseal may now press keys. Select your text and sign again.");
   });
 }
 
@@ -57,34 +57,35 @@ desktop::Ticket PortalKeyEvents::press(desktop::KeyPress press,
                                        const std::optional<desktop::RunningApplication>& target,
                                        std::function<void()> aboutToPress,
                                        std::function<void(Delivery)> done) {
-  Wish wish{.press = press, .target = target, .aboutToPress = std::move(aboutToPress)};
-  return runTask<Delivery>(services_.loop, deliverOrExplain(std::move(wish)), std::move(done));
+  Request request{.press = press, .target = target, .aboutToPress = std::move(aboutToPress)};
+  return runTask<Delivery>(services_.loop, deliverOrShowLimits(std::move(request)),
+                           std::move(done));
 }
 
-Task<Delivery> PortalKeyEvents::deliverOrExplain(Wish wish) {
-  const bool isPaste = wish.press.key == Key::v;
-  const Delivery delivery = co_await deliver(std::move(wish));
-  if (delivery == Delivery::notAllowed && !isPaste) services_.explain();
+Task<Delivery> PortalKeyEvents::deliverOrShowLimits(Request request) {
+  const bool isPaste = request.press.key == Key::v;
+  const Delivery delivery = co_await deliver(std::move(request));
+  if (delivery == Delivery::notAllowed && !isPaste) services_.showLimits();
   co_return delivery;
 }
 
-Task<Delivery> PortalKeyEvents::deliver(Wish wish) {
-  if (!wish.target && wish.press.key != Key::c) co_return Delivery::declined;
+Task<Delivery> PortalKeyEvents::deliver(Request request) {
+  if (!request.target && request.press.key != Key::c) co_return Delivery::declined;
   // A terminal would paste the primary selection with Shift+Insert, and a shell run its lines.
-  if (wish.press.key == Key::v && wish.target->categories.empty())
+  if (request.press.key == Key::v && request.target->categories.empty())
     co_return Delivery::targetUnknown;
   const Delivery ready = co_await readiness();
   if (ready != Delivery::delivered) co_return ready;
-  if (wish.press.key == Key::v) co_await sleep(services_.loop, clipboardPropagation);
-  const auto end = services_.loop.now() + targetPatience;
-  while (deliveryNow(wish) != Delivery::delivered && services_.loop.now() < end)
+  if (request.press.key == Key::v) co_await sleep(services_.loop, clipboardPropagation);
+  const auto end = services_.loop.now() + targetTimeout;
+  while (deliveryNow(request) != Delivery::delivered && services_.loop.now() < end)
     co_await sleep(services_.loop, polling);
   const bool isReleased = co_await isHotkeyReleased();
   if (!isReleased) co_return Delivery::keysHeld;
-  const Delivery delivery = co_await latestDelivery(wish);
+  const Delivery delivery = co_await latestDelivery(request);
   if (delivery != Delivery::delivered) co_return delivery;
-  if (wish.aboutToPress) wish.aboutToPress();
-  services_.remote.tap(chordIn(wish.press, wish.target));
+  if (request.aboutToPress) request.aboutToPress();
+  services_.remote.tap(chordIn(request.press, request.target));
   co_return Delivery::delivered;
 }
 
@@ -102,7 +103,7 @@ Task<Delivery> PortalKeyEvents::readiness() {
 }
 
 Task<bool> PortalKeyEvents::isHotkeyReleased() {
-  const auto end = services_.loop.now() + releasePatience;
+  const auto end = services_.loop.now() + releaseTimeout;
   while (services_.isHotkeyHeld()) {
     if (services_.loop.now() > end) co_return false;
     co_await sleep(services_.loop, polling);
@@ -111,24 +112,24 @@ Task<bool> PortalKeyEvents::isHotkeyReleased() {
 }
 
 /// Decides on the latest state of the windows, since the other questions take time.
-Task<Delivery> PortalKeyEvents::latestDelivery(const Wish& wish) {
-  if (wish.target && services_.isKeyboardTaken()) co_return Delivery::keyboardTaken;
+Task<Delivery> PortalKeyEvents::latestDelivery(const Request& request) {
+  if (request.target && services_.isKeyboardTaken()) co_return Delivery::keyboardTaken;
   if (services_.catchUp) {
     co_await completionOf<void>(
         [this](std::function<void()> done) { return services_.catchUp(std::move(done)); });
   }
-  co_return deliveryNow(wish);
+  co_return deliveryNow(request);
 }
 
 /// Returns whether a key pressed now would reach the target.
-Delivery PortalKeyEvents::deliveryNow(const Wish& wish) const {
+Delivery PortalKeyEvents::deliveryNow(const Request& request) const {
   if (!services_.remote.isOpen()) return Delivery::notAllowed;
-  if (!wish.target) return Delivery::delivered;
-  if (wish.press.key == Key::v && !services_.pasteboard.isWritten()) return Delivery::notWritten;
+  if (!request.target) return Delivery::delivered;
+  if (request.press.key == Key::v && !services_.pasteboard.isWritten()) return Delivery::notWritten;
   const auto front = services_.applications.frontmost();
-  if (!front || front->instance != wish.target->instance) return Delivery::declined;
-  if (!services_.applications.isActive(*wish.target)) return Delivery::keyboardTaken;
-  if (!isSameDocument(wish.target->document, front->document)) return Delivery::documentChanged;
+  if (!front || front->instance != request.target->instance) return Delivery::declined;
+  if (!services_.applications.isActive(*request.target)) return Delivery::keyboardTaken;
+  if (!isSameDocument(request.target->document, front->document)) return Delivery::documentChanged;
   return Delivery::delivered;
 }
 

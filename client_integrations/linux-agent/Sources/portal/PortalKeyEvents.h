@@ -34,9 +34,9 @@ class PortalKeyEvents : public desktop::KeyEvents {
     /// Calls back once the state of the windows is the latest; empty where it always is.
     std::function<desktop::Ticket(std::function<void()>)> catchUp{};
     /// Tells the user why keys cannot be pressed in this session.
-    std::function<void()> explain;
+    std::function<void()> showLimits;
     /// Tells the user something in a notification.
-    std::function<void(const std::string&)> tell;
+    std::function<void(const std::string&)> notify;
   };
 
   explicit PortalKeyEvents(Services services) : services_(std::move(services)) {}
@@ -50,18 +50,18 @@ class PortalKeyEvents : public desktop::KeyEvents {
                                       std::function<void(desktop::Delivery)> done) override;
 
  private:
-  struct Wish {
+  struct Request {
     desktop::KeyPress press;
     std::optional<desktop::RunningApplication> target;
     std::function<void()> aboutToPress;
   };
 
-  [[nodiscard]] Task<desktop::Delivery> deliver(Wish wish);
-  [[nodiscard]] Task<desktop::Delivery> deliverOrExplain(Wish wish);
+  [[nodiscard]] Task<desktop::Delivery> deliver(Request request);
+  [[nodiscard]] Task<desktop::Delivery> deliverOrShowLimits(Request request);
   [[nodiscard]] Task<desktop::Delivery> readiness();
   [[nodiscard]] Task<bool> isHotkeyReleased();
-  [[nodiscard]] Task<desktop::Delivery> latestDelivery(const Wish& wish);
-  [[nodiscard]] desktop::Delivery deliveryNow(const Wish& wish) const;
+  [[nodiscard]] Task<desktop::Delivery> latestDelivery(const Request& request);
+  [[nodiscard]] desktop::Delivery deliveryNow(const Request& request) const;
 
   Services services_;
   desktop::Ticket asking_;

@@ -57,7 +57,7 @@ desktop::Ticket PortalRemote::open(std::function<void(bool)> done) {
 
 Task<> PortalRemote::openSession() {
   const std::string token = storedToken();
-  giveUp_ = services_.loop.after(services_.patience, [this] { stopOpening(silence); });
+  giveUp_ = services_.loop.after(services_.timeout, [this] { stopOpening(silence); });
   bool isReady = co_await chooseDevices(token);
   if (!isReady && !token.empty()) {
     // The portal refuses a token that it cannot read, instead of asking the user.
@@ -138,7 +138,7 @@ void PortalRemote::keepToken(const std::string& token) const {
   try {
     services_.token.replace(token);
   } catch (const KeyFailure& failure) {
-    services_.tell(
+    services_.notify(
         std::string("Quillseal may press keys now, but your desktop will ask you again next time, "
                     "because your answer could not be stored: ") +
         failure.what());
@@ -155,7 +155,7 @@ void PortalRemote::finish(std::string obstacle) {
   obstacle_ = std::move(obstacle);
   state_ = obstacle_.empty() ? State::open : State::closed;
   if (!isOpen()) session_ = nullptr;
-  telling_ = services_.loop.after({}, [this] {
+  reporting_ = services_.loop.after({}, [this] {
     // A copy: a call may drop others or open again.
     for (const auto& [id, unused] : std::map(waiting_))
       if (const auto one = waiting_.extract(id); !one.empty()) one.mapped()(isOpen());

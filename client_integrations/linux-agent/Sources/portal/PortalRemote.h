@@ -30,8 +30,8 @@ class PortalRemote {
     PortalOffer offer;
     PrivateFile token;
     /// Tells the user something in a notification.
-    std::function<void(const std::string&)> tell;
-    std::chrono::milliseconds patience = Portal::patience;
+    std::function<void(const std::string&)> notify;
+    std::chrono::milliseconds timeout = Portal::timeout;
   };
 
   explicit PortalRemote(Services services);
@@ -86,7 +86,7 @@ class PortalRemote {
   std::map<std::uint64_t, std::function<void(bool)>> waiting_;
   std::uint64_t lastWaiting_ = 0;
   std::function<void()> ended_;
-  desktop::Ticket telling_;
+  desktop::Ticket reporting_;
   desktop::Ticket giveUp_;
   std::optional<TaskScope> opening_;
 };

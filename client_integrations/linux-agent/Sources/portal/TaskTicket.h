@@ -26,7 +26,7 @@ class TaskRun {
   // A task must not be destroyed from inside itself, which the completion may do.
   Task<> finish(Task<Result> task) {
     result_ = co_await std::move(task);
-    telling_ = loop_.after({}, [this] {
+    reporting_ = loop_.after({}, [this] {
       const auto done = std::move(done_);
       done(std::move(*result_));
     });
@@ -35,7 +35,7 @@ class TaskRun {
   desktop::MainLoop& loop_;
   std::function<void(Result)> done_;
   std::optional<Result> result_;
-  desktop::Ticket telling_;
+  desktop::Ticket reporting_;
   TaskScope scope_;
 };
 

@@ -13,7 +13,7 @@ constexpr const char* service = "net.reactivated.Fprint";
 constexpr const char* deviceInterface = "net.reactivated.Fprint.Device";
 constexpr const char* thisUser = "";
 constexpr int tries = 3;
-constexpr SystemBus::Seconds patience{60};
+constexpr SystemBus::Seconds timeout{60};
 
 [[noreturn]] void fail(std::string_view description) {
   throw Error({.domain = "Quillseal.Presence", .code = 0, .description = std::string(description)});
@@ -133,7 +133,7 @@ bool verify(const Interrupt& interrupt, const Instruct& instruct) {
   const BusSlot owner(slot);
   const auto nextTouch = [&] {
     const auto hasStatus = [&statuses] { return !statuses.empty(); };
-    if (!bus.wait({.interrupt = interrupt, .limit = patience, .isDone = hasStatus})) {
+    if (!bus.wait({.interrupt = interrupt, .limit = timeout, .isDone = hasStatus})) {
       if (interrupt.isRaised()) fail("Authentication was cancelled.");
       fail("Nobody touched the fingerprint reader.");
     }

@@ -13,12 +13,12 @@
 namespace quillseal::linux {
 namespace {
 
-constexpr int patienceMilliseconds = 2000;
+constexpr int timeoutMilliseconds = 2000;
 
 bool reportsConnection(const FileDescriptor& connector) {
   pollfd report{.fd = connector.get(), .events = POLLIN, .revents = 0};
   char byte = 0;
-  return poll(&report, 1, patienceMilliseconds) == 1 && read(connector.get(), &byte, 1) == 1;
+  return poll(&report, 1, timeoutMilliseconds) == 1 && read(connector.get(), &byte, 1) == 1;
 }
 
 }  // namespace

@@ -80,7 +80,7 @@ std::unique_ptr<DesktopBus> DesktopBus::open() {
   sd_bus* opened = nullptr;
   if (::sd_bus_open_user(&opened) < 0) return nullptr;
   // Also for what the library asks the bus by itself, such as for signals.
-  ::sd_bus_set_method_call_timeout(opened, inMicroseconds(patience));
+  ::sd_bus_set_method_call_timeout(opened, inMicroseconds(timeout));
   return std::unique_ptr<DesktopBus>(new DesktopBus(opened));
 }
 
@@ -94,7 +94,7 @@ std::unique_ptr<DesktopBus> DesktopBus::openThrough(
   if (!connector || ::sd_bus_new(&made) < 0) return nullptr;
   std::unique_ptr<DesktopBus> bus(new DesktopBus(made));
   bus->connector_.emplace(std::move(*connector));
-  ::sd_bus_set_method_call_timeout(made, inMicroseconds(patience));
+  ::sd_bus_set_method_call_timeout(made, inMicroseconds(timeout));
   ::sd_bus_set_bus_client(made, 1);
   const int file = ::fcntl(socket.get(), F_DUPFD_CLOEXEC, 0);  // which the bus closes
   if (::sd_bus_set_fd(made, file, file) < 0 || ::sd_bus_start(made) < 0) return nullptr;

@@ -46,7 +46,7 @@ class DesktopBus {
   }
 
   /// How long a call waits for its answer.
-  static constexpr std::chrono::milliseconds patience{1000};
+  static constexpr std::chrono::milliseconds timeout{1000};
 
   /// Null where there is no session bus.
   [[nodiscard]] static std::unique_ptr<DesktopBus> open();
@@ -75,7 +75,7 @@ class DesktopBus {
   /// Starts no service. `types` and `arguments` as for sd_bus_message_append.
   template <typename... Arguments>
   [[nodiscard]] Message call(const Method& method, const char* types, Arguments... arguments) {
-    return callWithin(patience, method, types, arguments...);
+    return callWithin(timeout, method, types, arguments...);
   }
 
   /// The same with another time limit, of which only a positive one is waited for.
@@ -101,7 +101,7 @@ class DesktopBus {
   void post(sd_bus_message& request);
 
   /// Sends the call and returns the answer, as `call`.
-  [[nodiscard]] Message send(sd_bus_message& request) { return send(request, patience); }
+  [[nodiscard]] Message send(sd_bus_message& request) { return send(request, timeout); }
   [[nodiscard]] Message send(sd_bus_message& request, std::chrono::milliseconds limit);
 
   /// The name of this connection on the bus, such as ":1.42"; empty when there is none.

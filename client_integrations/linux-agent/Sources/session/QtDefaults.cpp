@@ -124,7 +124,7 @@ std::optional<SettingsText> QtDefaults::fileContents() const {
     if (auto settings = SettingsText::parsed(bytes)) return settings;
     if (isSecondLook && bytes == before) return setAside();
     before = std::move(bytes);
-    std::this_thread::sleep_for(options_.editorsPatience);
+    std::this_thread::sleep_for(options_.settlingTime);
   }
 }
 

@@ -31,7 +31,7 @@ class QtDefaults final : public desktop::Defaults {
     /// main thread, never from inside another call.
     std::function<void(const std::string&)> warn;
     /// How long to wait before a damaged file is renamed, since an editor may still be writing it.
-    std::chrono::milliseconds editorsPatience{100};
+    std::chrono::milliseconds settlingTime{100};
   };
 
   explicit QtDefaults(Options options);

@@ -28,8 +28,8 @@ QtMainLoop::~QtMainLoop() {
   workers_.waitForDone();
 }
 
-bool QtMainLoop::waitForWorkers(std::chrono::milliseconds patience) {
-  return workers_.waitForDone(static_cast<int>(patience.count()));
+bool QtMainLoop::waitForWorkers(std::chrono::milliseconds timeout) {
+  return workers_.waitForDone(static_cast<int>(timeout.count()));
 }
 
 void QtMainLoop::post(std::function<void()> work) {

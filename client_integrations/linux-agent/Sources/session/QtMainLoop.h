@@ -15,9 +15,9 @@ class QtMainLoop : public desktop::MainLoop {
   QtMainLoop();
   ~QtMainLoop() override;
 
-  /// Waits for running workers; false when some still run after `patience`. Their completions do
+  /// Waits for running workers; false when some still run after `timeout`. Their completions do
   /// not run if the loop ends meanwhile.
-  [[nodiscard]] bool waitForWorkers(std::chrono::milliseconds patience);
+  [[nodiscard]] bool waitForWorkers(std::chrono::milliseconds timeout);
 
   void post(std::function<void()> work) override;
   [[nodiscard]] desktop::Ticket after(std::chrono::milliseconds delay,

@@ -25,9 +25,9 @@ struct Answer {
   bool isInTime = true;
 };
 
-bool letsIn(sd_bus& bus, microseconds patience) {
+bool letsIn(sd_bus& bus, microseconds timeout) {
   using Clock = std::chrono::steady_clock;
-  const Clock::time_point deadline = Clock::now() + patience;
+  const Clock::time_point deadline = Clock::now() + timeout;
   while (::sd_bus_is_ready(&bus) == 0) {
     const int handled = ::sd_bus_process(&bus, nullptr);
     if (handled < 0) return true;
@@ -40,7 +40,7 @@ bool letsIn(sd_bus& bus, microseconds patience) {
 }
 
 /// Calls a method with string arguments. Starts no service.
-Answer ask(sd_bus& bus, const BusMethod& method, microseconds patience,
+Answer ask(sd_bus& bus, const BusMethod& method, microseconds timeout,
            std::initializer_list<const char*> arguments = {}) {
   const BusMessage call = newCall(&bus, method);
   if (call == nullptr) return {};
@@ -48,13 +48,13 @@ Answer ask(sd_bus& bus, const BusMethod& method, microseconds patience,
     ::sd_bus_message_append_basic(call.get(), SD_BUS_TYPE_STRING, text);
   ::sd_bus_message_set_auto_start(call.get(), 0);
   sd_bus_message* reply = nullptr;
-  const int result = ::sd_bus_call(&bus, call.get(), static_cast<std::uint64_t>(patience.count()),
-                                   nullptr, &reply);
+  const int result =
+      ::sd_bus_call(&bus, call.get(), static_cast<std::uint64_t>(timeout.count()), nullptr, &reply);
   return {.message = BusMessage(reply), .isInTime = result != -ETIMEDOUT};
 }
 
 /// Asks the registry on the accessibility bus.
-bool answersOnItsBus(const char* address, microseconds patience) {
+bool answersOnItsBus(const char* address, microseconds timeout) {
   sd_bus* made = nullptr;
   if (::sd_bus_new(&made) < 0) return true;
   const Bus bus(made);
@@ -65,17 +65,17 @@ bool answersOnItsBus(const char* address, microseconds patience) {
                        .path = "/org/a11y/atspi/registry",
                        .interface = "org.freedesktop.DBus.Peer",
                        .name = "Ping"};
-  return letsIn(*bus, patience) && ask(*bus, ping, patience).isInTime;
+  return letsIn(*bus, timeout) && ask(*bus, ping, timeout).isInTime;
 }
 
-bool answersOnSessionBus(sd_bus& bus, microseconds patience) {
+bool answersOnSessionBus(sd_bus& bus, microseconds timeout) {
   BusMethod method{.service = "org.a11y.Bus",
                    .path = "/org/a11y/bus",
                    .interface = "org.freedesktop.DBus.Properties",
                    .name = "Get"};
   int isEnabled = 0;
   for (const char* property : {"ScreenReaderEnabled", "IsEnabled"}) {
-    const Answer answer = ask(bus, method, patience, {"org.a11y.Status", property});
+    const Answer answer = ask(bus, method, timeout, {"org.a11y.Status", property});
     int isTrue = 0;
     if (!answer.isInTime) return false;
     if (answer.message) ::sd_bus_message_read(answer.message.get(), "v", "b", &isTrue);
@@ -85,23 +85,23 @@ bool answersOnSessionBus(sd_bus& bus, microseconds patience) {
   if (isEnabled == 0) return true;
   method.interface = "org.a11y.Bus";
   method.name = "GetAddress";
-  const Answer answer = ask(bus, method, patience);
+  const Answer answer = ask(bus, method, timeout);
   const char* address = nullptr;
   if (!answer.message || ::sd_bus_message_read(answer.message.get(), "s", &address) <= 0)
     return answer.isInTime;
-  return answersOnItsBus(address, patience);
+  return answersOnItsBus(address, timeout);
 }
 
 }  // namespace
 
-bool sessionBusAnswers(std::chrono::milliseconds patience) {
+bool sessionBusAnswers(std::chrono::milliseconds timeout) {
   sd_bus* opened = nullptr;
   const int result = ::sd_bus_open_user(&opened);
   const Bus bus(opened);
-  return result < 0 ? result != isCrowded : letsIn(*bus, patience);
+  return result < 0 ? result != isCrowded : letsIn(*bus, timeout);
 }
 
-Handover handOver(const std::string& method, std::chrono::milliseconds patience) {
+Handover handOver(const std::string& method, std::chrono::milliseconds timeout) {
   sd_bus* opened = nullptr;
   if (::sd_bus_open_user(&opened) < 0) return Handover::noAgent;
   const Bus bus(opened);
@@ -115,15 +115,15 @@ Handover handOver(const std::string& method, std::chrono::milliseconds patience)
   const Answer answer =
       ask(*bus,
           {.service = agentName, .path = agentPath, .interface = agentName, .name = method.c_str()},
-          patience);
+          timeout);
   return answer.message ? Handover::done : Handover::noAnswer;
 }
 
-bool accessibilityAnswers(std::chrono::milliseconds patience) {
+bool accessibilityAnswers(std::chrono::milliseconds timeout) {
   sd_bus* opened = nullptr;
   if (::sd_bus_open_user(&opened) < 0) return true;
   const Bus bus(opened);
-  return answersOnSessionBus(*bus, patience);
+  return answersOnSessionBus(*bus, timeout);
 }
 
 }  // namespace quillseal::linux

@@ -12,19 +12,19 @@ inline constexpr const char* agentPath = "/com/quillseal/Agent";
 // Checks the services for which Qt blocks the main thread. A missing service counts as answering,
 // since Qt does not wait for it.
 
-/// Returns whether the session bus accepts a client within `patience`. Qt waits for that without a
+/// Returns whether the session bus accepts a client within `timeout`. Qt waits for that without a
 /// time-out when the QApplication is created.
-[[nodiscard]] bool sessionBusAnswers(std::chrono::milliseconds patience);
+[[nodiscard]] bool sessionBusAnswers(std::chrono::milliseconds timeout);
 
 /// What became of a command for the agent that runs in this session.
 enum class Handover { noAgent, done, noAnswer };
 
 /// Calls the method of that name on the object of the agent. Works before the QApplication exists,
 /// since a shortcut's command may run thirty times a second.
-[[nodiscard]] Handover handOver(const std::string& method, std::chrono::milliseconds patience);
+[[nodiscard]] Handover handOver(const std::string& method, std::chrono::milliseconds timeout);
 
-/// Returns whether the services of the accessibility bus answer within `patience`. Qt waits for
+/// Returns whether the services of the accessibility bus answer within `timeout`. Qt waits for
 /// them, 50 seconds or for ever, when the event loop starts.
-[[nodiscard]] bool accessibilityAnswers(std::chrono::milliseconds patience);
+[[nodiscard]] bool accessibilityAnswers(std::chrono::milliseconds timeout);
 
 }  // namespace quillseal::linux

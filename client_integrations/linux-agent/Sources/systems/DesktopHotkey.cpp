@@ -21,7 +21,7 @@ DesktopHotkey::DesktopHotkey(const WindowingSystem::Services& services, Sources 
     inPortal_.emplace(PortalHotkey::Services{.loop = services.loop,
                                              .portal = sources.portal,
                                              .defaults = services.defaults,
-                                             .tell = services.tell,
+                                             .notify = services.notify,
                                              .activated = [](const std::string& token) {
                                                // Qt and the programs that are started take it from
                                                // there.

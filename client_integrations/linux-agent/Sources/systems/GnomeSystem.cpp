@@ -15,7 +15,7 @@ GnomeSystem::GnomeSystem(PortalSystem::Access access, const Services& services)
                .portal = portal_,
                .offer = access_.offer,
                .token = PrivateFile(access_.token),
-               .tell = services.tell}),
+               .notify = services.notify}),
       extension_(*access_.bus),
       pasteboard_({.reading = {.loop = services.loop, .descriptors = services.descriptors},
                    .windows = windows_,
@@ -24,7 +24,7 @@ GnomeSystem::GnomeSystem(PortalSystem::Access access, const Services& services)
       applications_({.extension = extension_,
                      .entries = services.entries,
                      .loop = services.loop,
-                     .tell = services.tell}),
+                     .notify = services.notify}),
       hotkey_(services, {.bus = *access_.bus,
                          .portal = portal_,
                          .isInPortal = access_.offer.globalShortcuts > 0,
@@ -36,8 +36,8 @@ GnomeSystem::GnomeSystem(PortalSystem::Access access, const Services& services)
              .pasteboard = pasteboard_,
              .isHotkeyHeld = [this] { return hotkey_.mayBeHeld(); },
              .isKeyboardTaken = [] { return false; },
-             .explain = services.explain,
-             .tell = services.tell}) {
+             .showLimits = services.showLimits,
+             .notify = services.notify}) {
   access_.bus->serve(services.loop, services.descriptors);
   access_.portalBus->serve(services.loop, services.descriptors);
 }

@@ -45,7 +45,7 @@ PortalSystem::PortalSystem(Access access, const Services& services)
                          .globalShortcuts = access_.offer.globalShortcuts,
                          .clipboard = windows_ == nullptr ? access_.offer.clipboard : 0},
                .token = PrivateFile(access_.token),
-               .tell = services.tell}),
+               .notify = services.notify}),
       applications_(makeApplications(services)),
       pasteboard_(makePasteboard(services)),
       hotkey_(services, {.bus = *access_.bus,
@@ -69,8 +69,8 @@ PortalSystem::PortalSystem(Access access, const Services& services)
                    done();
                    return desktop::Ticket();
                  },
-             .explain = services.explain,
-             .tell = services.tell}) {
+             .showLimits = services.showLimits,
+             .notify = services.notify}) {
   access_.bus->serve(services.loop, services.descriptors);
   access_.portalBus->serve(services.loop, services.descriptors);
   if (access_.compositor != nullptr) access_.compositor->serve(services.loop, services.descriptors);
@@ -82,7 +82,7 @@ std::unique_ptr<desktop::Applications> PortalSystem::makeApplications(const Serv
         GnomeApplications::Services{.extension = extension_,
                                     .entries = services.entries,
                                     .loop = services.loop,
-                                    .tell = services.tell});
+                                    .notify = services.notify});
   return std::make_unique<WaylandApplications>(
       WaylandApplications::Services{
           .windows = *windows_, .entries = services.entries, .loop = services.loop},

@@ -23,18 +23,18 @@ std::unique_ptr<desktop::Hotkey> offeredHotkey(const WindowingSystem::Services& 
                                                Portal* portal) {
   if (bus != nullptr && KwinHotkey::isOfferedBy(connection, *bus))
     return std::make_unique<KwinHotkey>(
-        KwinHotkey::Services{.loop = services.loop, .bus = *bus, .tell = services.tell});
+        KwinHotkey::Services{.loop = services.loop, .bus = *bus, .notify = services.notify});
   if (portal != nullptr)
     return std::make_unique<PortalHotkey>(PortalHotkey::Services{.loop = services.loop,
                                                                  .portal = *portal,
                                                                  .defaults = services.defaults,
-                                                                 .tell = services.tell,
+                                                                 .notify = services.notify,
                                                                  .activated = {}});
   return std::make_unique<SwayHotkey>(SwayHotkey::Services{.loop = services.loop,
                                                            .descriptors = services.descriptors,
                                                            .connection = connection,
                                                            .socket = swaySocket(),
-                                                           .tell = services.tell});
+                                                           .notify = services.notify});
 }
 
 std::unique_ptr<Portal> portalWithHotkey(DesktopBus* bus, const PortalOffer& offer) {
@@ -65,7 +65,7 @@ WaylandSystem::WaylandSystem(Access access, const Services& services)
              .windows = *windows_,
              .pasteboard = pasteboard_,
              .keyboard = *keyboard_,
-             .explain = services.explain}) {
+             .showLimits = services.showLimits}) {
   connection_->serve(services.loop, services.descriptors);
   if (bus_ != nullptr) bus_->serve(services.loop, services.descriptors);
   if (portalBus_ != nullptr) portalBus_->serve(services.loop, services.descriptors);

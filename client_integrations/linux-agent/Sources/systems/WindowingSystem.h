@@ -30,9 +30,9 @@ class WindowingSystem {
     DesktopEntries& entries;
     ShortcutSettings& shortcuts;
     /// Shows an alert that says why keys cannot be pressed in this session (`limits`).
-    std::function<void()> explain;
+    std::function<void()> showLimits;
     /// Shows a notification with this sentence.
-    std::function<void(const std::string&)> tell;
+    std::function<void(const std::string&)> notify;
     /// Found at each use, since they are made after the windowing system.
     std::function<desktop::Alerts&()> alerts;
     std::function<desktop::Defaults&()> defaults;

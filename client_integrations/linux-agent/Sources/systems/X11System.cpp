@@ -32,13 +32,13 @@ X11System::X11System(const Services& services, const SessionTraits& portal)
       hotkey_({.loop = services.loop,
                .keyboard = keyboard_.get(),
                .obstacle = limits_,
-               .tell = services.tell}),
+               .notify = services.notify}),
       keys_({.loop = services.loop,
              .windows = windows_,
              .entries = services.entries,
              .keyboard = keyboard_.get(),
              .pasteboard = pasteboard_,
-             .explain = services.explain}) {}
+             .showLimits = services.showLimits}) {}
 
 void X11System::bringToFront(QWidget& window) const {
   window.show();

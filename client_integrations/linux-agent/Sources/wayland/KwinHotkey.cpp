@@ -130,7 +130,7 @@ std::string nameOfNumber(int number) {
 }  // namespace
 
 KwinHotkey::KwinHotkey(const Services& services)
-    : ClaimedHotkey(services.tell),
+    : ClaimedHotkey(services.notify),
       services_(services),
       onPress_([this](sd_bus_message& message) {
         if (isOfAgent(message) && held_.press(services_.loop.now())) services_.loop.post(pressed());
@@ -189,7 +189,7 @@ void KwinHotkey::claim() {
 void KwinHotkey::have(int keys) {
   if (keys == 0) return turnOff();
   mayHaveKeys_ = true;
-  become({.otherKeys = keys == keys_ ? std::string() : nameOfNumber(keys), .isOff = false});
+  setState({.otherKeys = keys == keys_ ? std::string() : nameOfNumber(keys), .isOff = false});
 }
 
 KwinHotkey::Registration KwinHotkey::request() {

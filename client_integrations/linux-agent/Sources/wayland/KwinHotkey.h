@@ -17,7 +17,7 @@ class KwinHotkey : public ClaimedHotkey {
   struct Services {
     desktop::MainLoop& loop;
     DesktopBus& bus;
-    Tell tell;
+    Notify notify;
   };
 
   explicit KwinHotkey(const Services& services);

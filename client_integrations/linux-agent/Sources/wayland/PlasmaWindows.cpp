@@ -45,29 +45,29 @@ class PlasmaWindows : public WindowProtocol {
   };
 
   static Entry& entryOf(void* data) { return *static_cast<Entry*>(data); }
-  static void tell(const Entry& entry) {
-    if (entry.isKnown) entry.windows.observer_.told(entry.window);
+  static void report(const Entry& entry) {
+    if (entry.isKnown) entry.windows.observer_.changed(entry.window);
   }
 
   static void retitled(void* data, Toplevel* /*handle*/, const char* title) {
     entryOf(data).window.title = title;
-    tell(entryOf(data));
+    report(entryOf(data));
   }
   static void named(void* data, Toplevel* /*handle*/, const char* applicationId) {
     entryOf(data).window.applicationId = applicationId;
-    tell(entryOf(data));
+    report(entryOf(data));
   }
   static void changed(void* data, Toplevel* /*handle*/, std::uint32_t flags) {
     constexpr std::uint32_t active = ORG_KDE_PLASMA_WINDOW_MANAGEMENT_STATE_ACTIVE;
     entryOf(data).window.isActive = (flags & active) != 0;
-    tell(entryOf(data));
+    report(entryOf(data));
   }
   static void started(void* data, Toplevel* /*handle*/, std::uint32_t process) {
     entryOf(data).window.process = process;
   }
   static void described(void* data, Toplevel* /*handle*/) {
     entryOf(data).isKnown = true;
-    tell(entryOf(data));
+    report(entryOf(data));
   }
   static void closed(void* data, Toplevel* handle) {
     PlasmaWindows& windows = entryOf(data).windows;

@@ -55,7 +55,7 @@ std::string otherWays(std::string_view place) {
 }  // namespace
 
 SwayHotkey::SwayHotkey(Services services)
-    : ClaimedHotkey(services.tell), services_(std::move(services)) {}
+    : ClaimedHotkey(services.notify), services_(std::move(services)) {}
 
 SwayHotkey::~SwayHotkey() {
   watch_ = {};
@@ -94,7 +94,7 @@ void SwayHotkey::claim() {
                 " for Quillseal. To sign by keyboard, " + otherWays("its configuration"));
   watch_ = services_.descriptors.watch(events_->descriptor(), Descriptors::Interest::reading,
                                        [this](Descriptors::Interest) { receive(); });
-  become({});
+  setState({});
 }
 
 bool SwayHotkey::command(const std::string& text) {
@@ -129,7 +129,7 @@ bool SwayHotkey::bind() {
 
 void SwayHotkey::bindAgain() {
   key_ = keyInLayout();
-  become({.otherKeys = {}, .isOff = !bind()});
+  setState({.otherKeys = {}, .isOff = !bind()});
 }
 
 void SwayHotkey::unbind() {
@@ -161,11 +161,11 @@ void SwayHotkey::handle(const SwayIpc::Message& message) {
   if (textOf(event, "change") == "reload") bindAgain();
   const auto binding = event.find("binding");
   if (binding == event.end() || !binding->is_object()) return;
-  const std::string told = textOf(*binding, "command");
-  if (told == commandFor(pressEvent) && held_.press(services_.loop.now()))
+  const std::string reported = textOf(*binding, "command");
+  if (reported == commandFor(pressEvent) && held_.press(services_.loop.now()))
     services_.loop.post(pressed());
   // Sway reports no release when another key was pressed meanwhile.
-  if (told == commandFor(releaseEvent)) held_.release();
+  if (reported == commandFor(releaseEvent)) held_.release();
 }
 
 }  // namespace quillseal::linux

@@ -25,7 +25,7 @@ class SwayHotkey : public ClaimedHotkey {
     Descriptors& descriptors;
     WaylandConnection& connection;
     std::string socket;  ///< SWAYSOCK; empty where sway does not run
-    Tell tell;
+    Notify notify;
   };
 
   explicit SwayHotkey(Services services);

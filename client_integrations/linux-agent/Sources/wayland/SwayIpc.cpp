@@ -23,7 +23,7 @@ using std::chrono::milliseconds;
 constexpr std::string_view magic = "i3-ipc";
 constexpr std::size_t headerSize = magic.size() + 2 * sizeof(std::uint32_t);
 constexpr std::size_t longestMessage = std::size_t{16} * 1024 * 1024;
-constexpr std::chrono::seconds patience{1};
+constexpr std::chrono::seconds timeout{1};
 
 std::string textOf(const json& object, const char* key) {
   const auto found = object.find(key);
@@ -128,7 +128,7 @@ std::optional<std::string> SwayIpc::ask(Request request, std::string_view text) 
   message += text;
   answers_ = send(socket_.get(), message.data(), message.size(), MSG_NOSIGNAL) ==
              static_cast<ssize_t>(message.size());
-  const auto deadline = std::chrono::steady_clock::now() + patience;
+  const auto deadline = std::chrono::steady_clock::now() + timeout;
   while (answers_) {
     if (auto answer = next()) return std::move(answer->text);
     const auto left =

@@ -11,7 +11,7 @@ namespace {
 
 using std::chrono::steady_clock;
 
-constexpr std::chrono::seconds patience{2};
+constexpr std::chrono::seconds timeout{2};
 
 }  // namespace
 
@@ -100,7 +100,7 @@ bool WaylandConnection::roundTrip() {
   bool isAnswered = false;
   const wayland::ProxyHandle<wl_callback> callback(wl_display_sync(display_.get()));
   wl_callback_add_listener(callback.get(), &Listeners::roundTrip, &isAnswered);
-  const auto deadline = steady_clock::now() + patience;
+  const auto deadline = steady_clock::now() + timeout;
   while (!isAnswered) {
     if (!prepareRead()) break;
     wl_display_flush(display_.get());

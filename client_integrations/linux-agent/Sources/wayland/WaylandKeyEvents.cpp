@@ -17,7 +17,7 @@ using std::chrono::milliseconds;
 
 constexpr milliseconds polling{8};
 // Windows need time to come to the front, and web pages to restore their title.
-constexpr milliseconds targetPatience{1000};
+constexpr milliseconds targetTimeout{1000};
 // For programs under Xwayland, which use the X server's clipboard. Wayland programs are told of a
 // new selection before the next key.
 constexpr milliseconds clipboardPropagation{40};
@@ -28,18 +28,18 @@ constexpr milliseconds clipboardPropagation{40};
 /// its ticket is dropped.
 class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
  public:
-  struct Wish {
+  struct Request {
     desktop::KeyPress press;
     std::optional<desktop::RunningApplication> target;
     std::function<void()> aboutToPress;
     std::function<void(Delivery)> done;
   };
 
-  Press(const Services& services, Wish wish)
+  Press(const Services& services, Request request)
       : services_(services),
-        wish_(std::move(wish)),
+        request_(std::move(request)),
         earliest_(services.pasteboard.lastWrite() + clipboardPropagation),
-        latest_(std::max(services.loop.now(), earliest_) + targetPatience) {}
+        latest_(std::max(services.loop.now(), earliest_) + targetTimeout) {}
 
   void begin() {
     const auto now = services_.loop.now();
@@ -49,7 +49,7 @@ class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
   }
 
   void withdraw() {
-    wish_.done = nullptr;
+    request_.done = nullptr;
     waiting_ = {};
   }
 
@@ -71,7 +71,7 @@ class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
     const Delivery delivery = deliveryNow();
     const bool mayBecomeTarget = delivery != Delivery::delivered &&
                                  delivery != Delivery::targetClosed &&
-                                 delivery != Delivery::notAllowed && wish_.target;
+                                 delivery != Delivery::notAllowed && request_.target;
     if (mayBecomeTarget && services_.loop.now() < latest_) return comeBackAfter(polling);
     if (delivery == Delivery::delivered) {
       if (!std::exchange(areKeysReleased_, true)) {
@@ -80,8 +80,8 @@ class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
       }
       press();
     }
-    const bool isPaste = wish_.press.key == desktop::Key::v;
-    if (delivery == Delivery::notAllowed && !isPaste) services_.explain();
+    const bool isPaste = request_.press.key == desktop::Key::v;
+    if (delivery == Delivery::notAllowed && !isPaste) services_.showLimits();
     finish(delivery);
   }
 
@@ -89,38 +89,38 @@ class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
   [[nodiscard]] Delivery deliveryNow() const {
     if (!services_.connection.isAlive() || !services_.keyboard.isUsable())
       return Delivery::notAllowed;
-    if (!wish_.target) return Delivery::declined;
-    if (wish_.press.key == desktop::Key::v && !services_.pasteboard.isWritten())
+    if (!request_.target) return Delivery::declined;
+    if (request_.press.key == desktop::Key::v && !services_.pasteboard.isWritten())
       return Delivery::notWritten;
-    const std::optional<WaylandWindow> window = services_.windows.withId(wish_.target->instance);
+    const std::optional<WaylandWindow> window = services_.windows.withId(request_.target->instance);
     if (!window) return Delivery::targetClosed;
     if (!window->isActive)
       return services_.windows.active() ? Delivery::declined : Delivery::keyboardTaken;
     const std::string document = documentName({.title = window->title, .focus = 0});
-    if (!isSameDocument(wish_.target->document, document)) return Delivery::documentChanged;
+    if (!isSameDocument(request_.target->document, document)) return Delivery::documentChanged;
     return services_.keyboard.reachesActiveWindow() ? Delivery::delivered : Delivery::keyboardTaken;
   }
 
   void press() {
-    const auto window = services_.windows.withId(wish_.target->instance);
+    const auto window = services_.windows.withId(request_.target->instance);
     if (!window) return;
     // As found when the target was determined: sway knows more about it than this connection.
     const std::vector<Keysym> chord =
-        chordFor(wish_.press, wish_.target->categories, window->applicationId);
-    if (wish_.aboutToPress) wish_.aboutToPress();
+        chordFor(request_.press, request_.target->categories, window->applicationId);
+    if (request_.aboutToPress) request_.aboutToPress();
     if (!chord.empty())
       services_.keyboard.tap(chord);
-    else if (wish_.press.key == desktop::Key::c && copiesBySelecting(window->applicationId))
+    else if (request_.press.key == desktop::Key::c && copiesBySelecting(window->applicationId))
       services_.pasteboard.takePrimarySelectionOf(window->id);
   }
 
   void finish(Delivery delivery) {
     const auto self = shared_from_this();  // the completion may drop the ticket
-    if (const auto done = std::exchange(wish_.done, nullptr)) done(delivery);
+    if (const auto done = std::exchange(request_.done, nullptr)) done(delivery);
   }
 
   const Services& services_;
-  Wish wish_;
+  Request request_;
   desktop::MainLoop::TimePoint earliest_;
   desktop::MainLoop::TimePoint latest_;
   bool areKeysReleased_ = false;
@@ -136,10 +136,10 @@ desktop::Ticket WaylandKeyEvents::press(desktop::KeyPress press,
                                         std::function<void()> aboutToPress,
                                         std::function<void(Delivery)> done) {
   const auto pressing =
-      std::make_shared<Press>(services_, Press::Wish{.press = press,
-                                                     .target = target,
-                                                     .aboutToPress = std::move(aboutToPress),
-                                                     .done = std::move(done)});
+      std::make_shared<Press>(services_, Press::Request{.press = press,
+                                                        .target = target,
+                                                        .aboutToPress = std::move(aboutToPress),
+                                                        .done = std::move(done)});
   pressing->begin();
   return desktop::Ticket([pressing] { pressing->withdraw(); });
 }

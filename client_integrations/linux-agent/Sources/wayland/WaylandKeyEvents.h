@@ -26,13 +26,13 @@ class WaylandKeyEvents : public desktop::KeyEvents {
     WaylandPasteboard& pasteboard;
     AgentKeyboard& keyboard;
     /// Tells the user why keys cannot be pressed in this session.
-    std::function<void()> explain;
+    std::function<void()> showLimits;
   };
 
   explicit WaylandKeyEvents(Services services) : services_(std::move(services)) {}
 
   [[nodiscard]] bool isTrusted() const override;
-  void askForTrust() override { services_.explain(); }
+  void askForTrust() override { services_.showLimits(); }
   [[nodiscard]] desktop::Ticket press(desktop::KeyPress press,
                                       const std::optional<desktop::RunningApplication>& target,
                                       std::function<void()> aboutToPress,

@@ -32,7 +32,7 @@ struct WaylandWindows::State : WindowObserver {
     return window.applicationId == ownApplicationId;
   }
 
-  void told(const WaylandWindow& window) override {
+  void changed(const WaylandWindow& window) override {
     auto found =
         std::ranges::find(entries, window.id, [](const Entry& entry) { return entry.window.id; });
     if (found == entries.end()) found = entries.emplace(found);

@@ -14,7 +14,7 @@ class WindowObserver {
   virtual ~WindowObserver() = default;
 
   /// Called when a window is new or has changed.
-  virtual void told(const WaylandWindow& window) = 0;
+  virtual void changed(const WaylandWindow& window) = 0;
   virtual void closed(std::uint64_t id) = 0;
 };
 

@@ -58,9 +58,9 @@ class WlrootsWindows : public WindowProtocol {
     entryOf(data).next.isActive =
         std::find(first, end, ZWLR_FOREIGN_TOPLEVEL_HANDLE_V1_STATE_ACTIVATED) != end;
   }
-  static void told(void* data, Toplevel* /*handle*/) {
+  static void done(void* data, Toplevel* /*handle*/) {
     const Entry& entry = entryOf(data);
-    entry.windows.observer_.told(entry.next);
+    entry.windows.observer_.changed(entry.next);
   }
   static void closed(void* data, Toplevel* handle) {
     WlrootsWindows& windows = entryOf(data).windows;
@@ -74,7 +74,7 @@ class WlrootsWindows : public WindowProtocol {
                                                                         .output_enter = moved,
                                                                         .output_leave = moved,
                                                                         .state = changed,
-                                                                        .done = told,
+                                                                        .done = done,
                                                                         .closed = closed,
                                                                         .parent = parented};
 

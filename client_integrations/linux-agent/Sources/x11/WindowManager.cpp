@@ -182,14 +182,14 @@ bool WindowManager::exists(xcb_window_t window) const {
   return reply != nullptr;
 }
 
-void WindowManager::ask(xcb_window_t window, const Wish& wish) const {
+void WindowManager::send(xcb_window_t window, const ClientMessage& content) const {
   xcb_client_message_event_t message{};
   message.response_type = XCB_CLIENT_MESSAGE;
   message.format = 32;
   message.window = window;
-  message.type = atom(wish.name);
-  message.data.data32[0] = wish.first;
-  message.data.data32[1] = wish.second;
+  message.type = atom(content.name);
+  message.data.data32[0] = content.first;
+  message.data.data32[1] = content.second;
   xcb_send_event(connection_, 0, root_,
                  XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
                  reinterpret_cast<const char*>(&message));
@@ -200,11 +200,11 @@ void WindowManager::activate(xcb_window_t window) const {
   if (connection_ == nullptr || window == 0) return;
   if (isOnOtherWorkspace(window)) {
     const auto workspace = number(window, "_NET_WM_DESKTOP", XCB_ATOM_CARDINAL);
-    ask(root_, {.name = "_NET_CURRENT_DESKTOP",
-                .first = workspace.value_or(0),
-                .second = XCB_CURRENT_TIME});
+    send(root_, {.name = "_NET_CURRENT_DESKTOP",
+                 .first = workspace.value_or(0),
+                 .second = XCB_CURRENT_TIME});
   }
-  ask(window, {.name = "_NET_ACTIVE_WINDOW", .first = sourcePager, .second = XCB_CURRENT_TIME});
+  send(window, {.name = "_NET_ACTIVE_WINDOW", .first = sourcePager, .second = XCB_CURRENT_TIME});
 }
 
 bool WindowManager::releaseKeyboard() const {

@@ -61,12 +61,12 @@ class WindowManager {
 
  private:
   /// A client message to the window manager.
-  struct Wish {
+  struct ClientMessage {
     const char* name;
     std::uint32_t first;
     std::uint32_t second;
   };
-  void ask(xcb_window_t window, const Wish& wish) const;
+  void send(xcb_window_t window, const ClientMessage& content) const;
 
   [[nodiscard]] xcb_window_t inputFocus() const;
   [[nodiscard]] bool isOfSameProgram(xcb_window_t one, xcb_window_t other) const;

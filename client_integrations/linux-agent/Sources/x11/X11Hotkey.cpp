@@ -31,7 +31,7 @@ constexpr std::chrono::milliseconds layoutSettles{150};
 }  // namespace
 
 X11Hotkey::X11Hotkey(Services services)
-    : ClaimedHotkey(std::move(services.tell)),
+    : ClaimedHotkey(std::move(services.notify)),
       loop_(services.loop),
       keyboard_(services.keyboard),
       obstacle_(std::move(services.obstacle)) {
@@ -59,7 +59,7 @@ void X11Hotkey::claim() {
                         "bind the command "
                         "“quillseal --sign” to another shortcut in the keyboard settings of "
                         "your desktop. The menu item works in any case."});
-  become({});
+  setState({});
 }
 
 std::optional<X11Hotkey::Place> X11Hotkey::place() const {
@@ -110,7 +110,7 @@ void X11Hotkey::followLayout() {
   following_ = loop_.after(layoutSettles, [this] {
     const std::optional<Place> now = place();
     if (now && (*now != place_ || !isGrabbed_)) isGrabbed_ = grab(*now);
-    become({.otherKeys = {}, .isOff = !isGrabbed_});
+    setState({.otherKeys = {}, .isOff = !isGrabbed_});
   });
 }
 

@@ -17,7 +17,7 @@ class X11Hotkey : public ClaimedHotkey, private QAbstractNativeEventFilter {
     desktop::MainLoop& loop;
     X11Keyboard* keyboard;  ///< null where there is no usable X server; outlives this object
     std::string obstacle;   ///< says why there is none
-    Tell tell;
+    Notify notify;
   };
 
   explicit X11Hotkey(Services services);

@@ -79,8 +79,8 @@ class Connection {
 /// One read operation. Lives until its ticket is dropped.
 class Reading : public std::enable_shared_from_this<Reading> {
  public:
-  Reading(const Services& services, Wish wish, std::function<void(Content)> done)
-      : services_(services), wish_(std::move(wish)), done_(std::move(done)) {}
+  Reading(const Services& services, Request request, std::function<void(Content)> done)
+      : services_(services), request_(std::move(request)), done_(std::move(done)) {}
 
   void begin() {
     if (!connection_.isUsable()) {
@@ -88,7 +88,7 @@ class Reading : public std::enable_shared_from_this<Reading> {
       return;
     }
     end_ = services_.loop.now() + limits.transfer;
-    selection_ = connection_.atom(wish_.selection == Name::primary ? "PRIMARY" : "CLIPBOARD");
+    selection_ = connection_.atom(request_.selection == Name::primary ? "PRIMARY" : "CLIPBOARD");
     incremental_ = connection_.atom("INCR");
     watch_ = services_.descriptors.watch(connection_.descriptor(), Descriptors::Interest::reading,
                                          [this](Descriptors::Interest) { receive(); });
@@ -178,7 +178,7 @@ class Reading : public std::enable_shared_from_this<Reading> {
     } else {
       content_.insert_or_assign(asked_.name, std::move(bytes));
     }
-    if (chosen_.empty() || (wish_.isEnough && wish_.isEnough(content_))) return finish();
+    if (chosen_.empty() || (request_.isEnough && request_.isEnough(content_))) return finish();
     Format next = std::move(chosen_.back());
     chosen_.pop_back();
     ask(std::move(next));
@@ -188,7 +188,7 @@ class Reading : public std::enable_shared_from_this<Reading> {
     std::vector<xcb_atom_t> offered(list.size() / sizeof(xcb_atom_t));
     if (!offered.empty())
       std::memcpy(offered.data(), list.data(), offered.size() * sizeof(xcb_atom_t));
-    for (const std::vector<std::string>& group : wish_.formats) {
+    for (const std::vector<std::string>& group : request_.formats) {
       for (const std::string& name : group) {
         const xcb_atom_t atom = connection_.atom(name);
         if (std::ranges::find(offered, atom) == offered.end()) continue;
@@ -207,7 +207,7 @@ class Reading : public std::enable_shared_from_this<Reading> {
   }
 
   Services services_;
-  Wish wish_;
+  Request request_;
   std::function<void(Content)> done_;
   Connection connection_;
   xcb_atom_t selection_ = XCB_ATOM_NONE;
@@ -224,8 +224,8 @@ class Reading : public std::enable_shared_from_this<Reading> {
 
 }  // namespace
 
-desktop::Ticket read(const Services& services, Wish wish, std::function<void(Content)> done) {
-  const auto reading = std::make_shared<Reading>(services, std::move(wish), std::move(done));
+desktop::Ticket read(const Services& services, Request request, std::function<void(Content)> done) {
+  const auto reading = std::make_shared<Reading>(services, std::move(request), std::move(done));
   reading->begin();
   return desktop::Ticket([reading] { reading->withdraw(); });
 }

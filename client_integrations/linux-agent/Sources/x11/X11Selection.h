@@ -17,7 +17,7 @@ enum class Name { primary, clipboard };
 /// Maps the name of a format to its bytes; empty for one that was offered but refused.
 using Content = std::map<std::string, std::string>;
 
-struct Wish {
+struct Request {
   Name selection;
   /// Reads the first offered format of each group, in this order.
   std::vector<std::vector<std::string>> formats;
@@ -30,9 +30,9 @@ struct Services {
   Descriptors& descriptors;
 };
 
-/// Reads the formats of `wish` one after the other. Stops at the usual `TransferLimits`. REQUIRES:
-/// the program runs on an X server.
-[[nodiscard]] desktop::Ticket read(const Services& services, Wish wish,
+/// Reads the formats of `request` one after the other. Stops at the usual `TransferLimits`.
+/// REQUIRES: the program runs on an X server.
+[[nodiscard]] desktop::Ticket read(const Services& services, Request request,
                                    std::function<void(Content)> done);
 
 }  // namespace quillseal::linux::X11Selection

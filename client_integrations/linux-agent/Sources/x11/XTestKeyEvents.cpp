@@ -15,13 +15,13 @@ namespace {
 using desktop::Delivery;
 using std::chrono::milliseconds;
 
-constexpr milliseconds releasePatience{400};
+constexpr milliseconds releaseTimeout{400};
 constexpr milliseconds polling{8};
 // LibreOffice Writer pastes its own earlier copy when the key comes sooner after the clipboard's
 // change.
 constexpr milliseconds clipboardPropagation{150};
 // Windows need time to come to the front, and web pages to restore their title.
-constexpr milliseconds targetPatience{1000};
+constexpr milliseconds targetTimeout{1000};
 
 }  // namespace
 
@@ -29,27 +29,27 @@ constexpr milliseconds targetPatience{1000};
 /// its ticket is dropped.
 class XTestKeyEvents::Press : public std::enable_shared_from_this<Press> {
  public:
-  struct Wish {
+  struct Request {
     desktop::KeyPress press;
     std::optional<desktop::RunningApplication> target;
     std::function<void()> aboutToPress;
     std::function<void(Delivery)> done;
   };
 
-  Press(const Services& services, Wish wish)
+  Press(const Services& services, Request request)
       : services_(services),
-        wish_(std::move(wish)),
-        window_(wish_.target ? static_cast<xcb_window_t>(wish_.target->instance) : 0),
+        request_(std::move(request)),
+        window_(request_.target ? static_cast<xcb_window_t>(request_.target->instance) : 0),
         layout_(services.keyboard->layout()),
         earliest_(services.pasteboard.lastWrite() + clipboardPropagation),
-        latest_(std::max(services.loop.now() + releasePatience, earliest_)) {}
+        latest_(std::max(services.loop.now() + releaseTimeout, earliest_)) {}
 
   void begin() {
     timer_ = services_.loop.after(milliseconds{0}, [this] { step(); });
   }
 
   void withdraw() {
-    wish_.done = nullptr;
+    request_.done = nullptr;
     timer_ = {};
   }
 
@@ -61,13 +61,13 @@ class XTestKeyEvents::Press : public std::enable_shared_from_this<Press> {
     Delivery delivery = deliveryNow();
     if (delivery == Delivery::delivered) {
       const WindowTraits traits = services_.windows.traitsOf(window_);
-      if (copiesBySelecting(traits.windowClass) && wish_.press.key == desktop::Key::c)
+      if (copiesBySelecting(traits.windowClass) && request_.press.key == desktop::Key::c)
         return copySelected();
       delivery = press(traits);
     }
     const bool mayBecomeTarget =
-        delivery != Delivery::delivered && delivery != Delivery::targetClosed && wish_.target;
-    if (mayBecomeTarget && now < latest_ + targetPatience) return comeBackAfter(polling);
+        delivery != Delivery::delivered && delivery != Delivery::targetClosed && request_.target;
+    if (mayBecomeTarget && now < latest_ + targetTimeout) return comeBackAfter(polling);
     finish(delivery);
   }
 
@@ -80,11 +80,11 @@ class XTestKeyEvents::Press : public std::enable_shared_from_this<Press> {
     const WindowManager& windows = services_.windows;
     // There was no active window when the target was determined, so one that is active now is not
     // the target.
-    if (!wish_.target)
+    if (!request_.target)
       return windows.namesActiveWindow() ? Delivery::declined : Delivery::delivered;
     if (!windows.exists(window_)) return Delivery::targetClosed;
     if (!windows.hasKeyboard(window_)) return Delivery::declined;
-    const bool isSame = isSameDocument(wish_.target->document, windows.documentOf(window_));
+    const bool isSame = isSameDocument(request_.target->document, windows.documentOf(window_));
     return isSame ? Delivery::delivered : Delivery::documentChanged;
   }
 
@@ -92,7 +92,7 @@ class XTestKeyEvents::Press : public std::enable_shared_from_this<Press> {
     const auto entry = services_.entries.forWindow(traits);
     std::vector<xcb_keycode_t> keys;
     for (const Keysym symbol :
-         chordFor(wish_.press, entry ? entry->categories : std::string(), traits.windowClass))
+         chordFor(request_.press, entry ? entry->categories : std::string(), traits.windowClass))
       keys.push_back(layout_.keyFor(symbol));
     if (std::ranges::find(keys, 0) != keys.end()) keys.clear();
     if (!keys.empty()) {
@@ -109,7 +109,7 @@ class XTestKeyEvents::Press : public std::enable_shared_from_this<Press> {
   }
 
   void aboutToPress() const {
-    if (wish_.aboutToPress) wish_.aboutToPress();
+    if (request_.aboutToPress) request_.aboutToPress();
   }
 
   void copySelected() {
@@ -125,11 +125,11 @@ class XTestKeyEvents::Press : public std::enable_shared_from_this<Press> {
 
   void finish(Delivery delivery) {
     const auto self = shared_from_this();  // the completion may drop the ticket
-    if (const auto done = std::exchange(wish_.done, nullptr)) done(delivery);
+    if (const auto done = std::exchange(request_.done, nullptr)) done(delivery);
   }
 
   const Services& services_;
-  Wish wish_;
+  Request request_;
   xcb_window_t window_;
   X11Keyboard::Layout layout_;
   desktop::MainLoop::TimePoint earliest_;
@@ -144,7 +144,7 @@ bool XTestKeyEvents::isTrusted() const {
 }
 
 void XTestKeyEvents::askForTrust() {
-  services_.explain();
+  services_.showLimits();
 }
 
 desktop::Ticket XTestKeyEvents::press(desktop::KeyPress press,
@@ -159,10 +159,10 @@ desktop::Ticket XTestKeyEvents::press(desktop::KeyPress press,
   // here, but not from the main loop.
   static_cast<void>(services_.entries.withId({}));
   const auto pressing =
-      std::make_shared<Press>(services_, Press::Wish{.press = press,
-                                                     .target = target,
-                                                     .aboutToPress = std::move(aboutToPress),
-                                                     .done = std::move(done)});
+      std::make_shared<Press>(services_, Press::Request{.press = press,
+                                                        .target = target,
+                                                        .aboutToPress = std::move(aboutToPress),
+                                                        .done = std::move(done)});
   pressing->begin();
   return desktop::Ticket([pressing] { pressing->withdraw(); });
 }

@@ -24,7 +24,7 @@ class XTestKeyEvents : public desktop::KeyEvents {
     X11Keyboard* keyboard;  ///< null where keys cannot be pressed
     QtPasteboard& pasteboard;
     /// Tells the user why keys cannot be pressed in this session.
-    std::function<void()> explain;
+    std::function<void()> showLimits;
   };
 
   explicit XTestKeyEvents(Services services);

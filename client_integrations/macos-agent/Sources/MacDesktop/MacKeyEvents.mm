@@ -59,15 +59,15 @@ desktop::Delivery prospectOf(const std::optional<desktop::RunningApplication>& t
 /// own flags, but some applications read the keyboard's state.
 class WaitingPress : public std::enable_shared_from_this<WaitingPress> {
  public:
-  struct Plan {
+  struct Request {
     desktop::KeyPress press;
     std::optional<desktop::RunningApplication> target;
     std::function<void()> aboutToPress;
   };
 
-  WaitingPress(desktop::MainLoop& loop, Plan plan, Completion<desktop::Delivery> completion)
+  WaitingPress(desktop::MainLoop& loop, Request request, Completion<desktop::Delivery> completion)
       : loop_(loop),
-        plan_(std::move(plan)),
+        request_(std::move(request)),
         completion_(std::move(completion)),
         deadline_(loop.now() + 400ms) {}
 
@@ -87,18 +87,18 @@ class WaitingPress : public std::enable_shared_from_this<WaitingPress> {
  private:
   desktop::Delivery deliver() {
     try {
-      const desktop::Delivery prospect = prospectOf(plan_.target);
+      const desktop::Delivery prospect = prospectOf(request_.target);
       if (prospect != desktop::Delivery::delivered) return prospect;
-      if (plan_.aboutToPress) plan_.aboutToPress();
+      if (request_.aboutToPress) request_.aboutToPress();
     } catch (const Error&) {
       return desktop::Delivery::declined;
     }
-    post(plan_.press);
+    post(request_.press);
     return desktop::Delivery::delivered;
   }
 
   desktop::MainLoop& loop_;
-  Plan plan_;
+  Request request_;
   Completion<desktop::Delivery> completion_;
   desktop::MainLoop::TimePoint deadline_;
   desktop::Ticket timer_;
@@ -146,7 +146,8 @@ desktop::Ticket MacKeyEvents::press(desktop::KeyPress press,
   const Completion<desktop::Delivery> completion(std::move(done));
   const auto waiting = std::make_shared<WaitingPress>(
       loop_,
-      WaitingPress::Plan{.press = press, .target = target, .aboutToPress = std::move(aboutToPress)},
+      WaitingPress::Request{
+          .press = press, .target = target, .aboutToPress = std::move(aboutToPress)},
       completion);
   loop_.post([waiting] { waiting->run(); });
   return completion.ticket([waiting] { waiting->cancel(); });

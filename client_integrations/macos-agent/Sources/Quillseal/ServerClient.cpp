@@ -19,7 +19,7 @@
 namespace quillseal {
 namespace {
 
-constexpr std::chrono::seconds patience{60};
+constexpr std::chrono::seconds timeout{60};
 constexpr const char* protocolVersion = "v2";
 constexpr const char* signingMethod = "Touch ID";
 
@@ -72,7 +72,7 @@ desktop::HttpPost postOf(const std::string& url, const Request& body) {
   return {.url = url,
           .headers = {{"Content-Type", "application/json"}},
           .body = wire::encoded(body),
-          .timeout = patience};
+          .timeout = timeout};
 }
 
 template <typename Response>

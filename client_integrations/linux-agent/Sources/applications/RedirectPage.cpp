@@ -1,4 +1,4 @@
-#include "applications/LeadingPage.h"
+#include "applications/RedirectPage.h"
 
 #include <cerrno>
 #include <cstdlib>
@@ -26,13 +26,13 @@ void removeLeftovers(const fs::path& folder) {
     const std::string name = file.path().filename().string();
     if (!name.starts_with(prefix) || !name.ends_with(suffix)) continue;
     const fs::file_time_type written = file.last_write_time(ignored);
-    if (!ignored && now - written > 2 * LeadingPage::life) ::unlink(file.path().c_str());
+    if (!ignored && now - written > 2 * RedirectPage::life) ::unlink(file.path().c_str());
   }
 }
 
 }  // namespace
 
-LeadingPage::LeadingPage(std::string_view url, const fs::path& folder) {
+RedirectPage::RedirectPage(std::string_view url, const fs::path& folder) {
   removeLeftovers(folder);
   std::string path = folder / (std::string(prefix) + "XXXXXX" + std::string(suffix));
   const FileDescriptor file(::mkostemps(path.data(), static_cast<int>(suffix.size()), O_CLOEXEC));
@@ -49,11 +49,11 @@ LeadingPage::LeadingPage(std::string_view url, const fs::path& folder) {
   path_ = std::move(path);
 }
 
-LeadingPage::~LeadingPage() {
+RedirectPage::~RedirectPage() {
   if (!path_.empty()) ::unlink(path_.c_str());
 }
 
-LeadingPage::LeadingPage(LeadingPage&& other) noexcept
+RedirectPage::RedirectPage(RedirectPage&& other) noexcept
     : path_(std::exchange(other.path_, std::filesystem::path())) {}
 
 }  // namespace quillseal::linux

@@ -10,17 +10,17 @@ namespace quillseal::linux {
 /// A local page that redirects the browser to a URL: a file that only this user may read, deleted
 /// with this object. All users of the computer can read command lines; the address of this page
 /// reveals nothing.
-class LeadingPage {
+class RedirectPage {
  public:
   /// `url` holds only what RFC 3986 allows in a URL, `folder` is this user's alone. Deletes pages
   /// there that a killed agent left behind. Throws std::runtime_error with a sentence when the file
   /// cannot be written.
-  LeadingPage(std::string_view url, const std::filesystem::path& folder);
-  ~LeadingPage();
-  LeadingPage(LeadingPage&& other) noexcept;
-  LeadingPage& operator=(LeadingPage&&) = delete;
-  LeadingPage(const LeadingPage&) = delete;
-  LeadingPage& operator=(const LeadingPage&) = delete;
+  RedirectPage(std::string_view url, const std::filesystem::path& folder);
+  ~RedirectPage();
+  RedirectPage(RedirectPage&& other) noexcept;
+  RedirectPage& operator=(RedirectPage&&) = delete;
+  RedirectPage(const RedirectPage&) = delete;
+  RedirectPage& operator=(const RedirectPage&) = delete;
 
   /// How long a page is kept; the browser may have to start first.
   static constexpr std::chrono::minutes life{2};

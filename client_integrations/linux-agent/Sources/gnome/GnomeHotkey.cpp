@@ -10,14 +10,12 @@
 #include "keyboard/Accelerator.h"
 #include "keyboard/HeldHotkey.h"
 #include "keyboard/KeyChords.h"
+#include "session/LinuxSettings.h"
 
 namespace quillseal::linux {
 namespace {
 
-/// Set once the user has answered, whatever the answer, or has the shortcut.
-constexpr const char* wasOffered = "ShortcutOffered";
-/// The keys last seen, as GTK writes them, or `noKeys`.
-constexpr const char* seenKeys = "ShortcutKeys";
+/// The value of `shortcutKeys` for no keys.
 constexpr const char* noKeys = "none";
 
 /// GNOME repeats the command of held keys, after 500 ms unless the user chose another delay.
@@ -80,8 +78,8 @@ void GnomeHotkey::begin() {
   // What the user answered on GNOME says nothing about another desktop.
   if (!services_.areObeyed()) failAsUnsupported();
   const desktop::Defaults& defaults = services_.defaults();
-  if (!defaults.boolean(wasOffered)) return offer();
-  const std::string seen = defaults.string(seenKeys).value_or("");
+  if (!LinuxSettings::shortcutOffered.isOn(defaults)) return offer();
+  const std::string seen = LinuxSettings::shortcutKeys.value(defaults);
   if (!mayBeKeys(seen)) return read();
   keys_ = seen == noKeys ? std::string() : seen;
   report();
@@ -91,7 +89,8 @@ void GnomeHotkey::read() {
   keys_ = services_.settings.keys();
   desktop::Defaults& defaults = services_.defaults();
   const std::string seen = keys_.empty() ? noKeys : keys_;
-  if (defaults.string(seenKeys) != seen && mayBeKeys(seen)) defaults.setString(seenKeys, seen);
+  if (LinuxSettings::shortcutKeys.stored(defaults) != seen && mayBeKeys(seen))
+    LinuxSettings::shortcutKeys.store(defaults, seen);
   report();
 }
 
@@ -127,7 +126,7 @@ void GnomeHotkey::offer() {
   if (!services_.areObeyed()) failAsUnsupported();
   switch (services_.settings.stateOf(shortcut)) {
     case ShortcutState::present:
-      services_.defaults().setString(wasOffered, "true");
+      LinuxSettings::shortcutOffered.store(services_.defaults(), true);
       return read();
     case ShortcutState::taken:
       fail(1, "Another shortcut of your desktop already uses " + keys + ".");
@@ -169,7 +168,7 @@ bool GnomeHotkey::mayBeHeld() const {
 
 void GnomeHotkey::answered(desktop::Answer answer, const CustomShortcut& shortcut) {
   isAsking_ = false;
-  services_.defaults().setString(wasOffered, "true");
+  LinuxSettings::shortcutOffered.store(services_.defaults(), true);
   const bool isAdded = answer == desktop::Answer::confirmed && services_.settings.add(shortcut);
   if (answer == desktop::Answer::confirmed && !isAdded)
     notify(std::string("The shortcut could not be added to your keyboard settings. ") +

@@ -12,6 +12,7 @@
 
 #include "keyboard/Accelerator.h"
 #include "keyboard/KeyChords.h"
+#include "session/LinuxSettings.h"
 
 namespace quillseal::linux {
 namespace {
@@ -21,9 +22,6 @@ using namespace std::chrono_literals;
 constexpr const char* interface = "org.freedesktop.portal.GlobalShortcuts";
 constexpr const char* shortcut = "sign";
 constexpr const char* description = "Sign the selected text";
-
-/// Set while the user's last answer is that they refuse.
-constexpr const char* wasRefused = "HotkeyRefused";
 
 // The desktop reports the release of the first key; people let go of the others right after.
 constexpr auto releaseTime = 100ms;
@@ -144,7 +142,7 @@ void PortalHotkey::registerHotkey(desktop::KeyPress combination, std::function<v
   releases_ = bus.subscribe(signal("Deactivated"), onRelease_);
   changes_ = bus.subscribe(signal("ShortcutsChanged"), onChange_);
   owners_ = bus.subscribe(DesktopBus::ownerChangeOf(Portal::service), onOwner_);
-  if (services_.defaults().boolean(wasRefused))
+  if (LinuxSettings::hotkeyRefused.isOn(services_.defaults()))
     refuse();
   else
     bindAfter(0s);
@@ -206,7 +204,8 @@ Task<> PortalHotkey::bind() {
   const bool wasWanted = std::exchange(isWanted_, false);
   desktop::Defaults& defaults = services_.defaults();
   if (answer.outcome == PortalAnswer::Outcome::granted) {
-    if (defaults.boolean(wasRefused)) defaults.setString(wasRefused, "false");
+    if (LinuxSettings::hotkeyRefused.isOn(defaults))
+      LinuxSettings::hotkeyRefused.store(defaults, false);
     if (state().isOff) setState({});
     if (enterOption(*answer.message, "u", "shortcuts", "a(sa{sv})")) readKeys(*answer.message);
     if (wasWanted && state().isOff)
@@ -216,7 +215,7 @@ Task<> PortalHotkey::bind() {
   }
   const bool isRefused = isRefusal(answer);
   if (isRefused) {
-    defaults.setString(wasRefused, "true");
+    LinuxSettings::hotkeyRefused.store(defaults, true);
     refuse();
   }
   const std::string problem =

@@ -47,6 +47,9 @@ struct Flag {
   std::string_view key;
 
   [[nodiscard]] bool isOn(const desktop::Defaults& defaults) const { return defaults.boolean(key); }
+  void store(desktop::Defaults& defaults, bool isOn) const {
+    defaults.setString(key, isOn ? "true" : "false");
+  }
 };
 
 constexpr std::string_view nothing() noexcept {

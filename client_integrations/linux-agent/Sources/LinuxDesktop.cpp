@@ -27,9 +27,9 @@
 #include "session/SystemMachineIdentity.h"
 #include "session/SystemWallClock.h"
 #include "systems/GnomeSystem.h"
+#include "systems/PortalSystem.h"
 #include "systems/WaylandSystem.h"
 #include "systems/X11System.h"
-#include "wayland/WaylandReach.h"
 #include "windows/QtAlerts.h"
 #include "windows/QtPresencePrompt.h"
 #include "windows/QtProgram.h"
@@ -51,17 +51,12 @@ LoadedModule::Options moduleOptions(const char* file, const char* duty) {
   return {.places = LoadedModule::usualPlaces(file), .version = QUILLSEAL_VERSION, .duty = duty};
 }
 
-std::unique_ptr<WindowingSystem> chosen(PortalSystem::Access access,
+std::unique_ptr<WindowingSystem> chosen(DesktopAccess access,
                                         const WindowingSystem::Services& services) {
-  if (access.compositor != nullptr && reachesApplications(*access.compositor))
-    return std::make_unique<WaylandSystem>(
-        WaylandSystem::Access{.connection = std::move(access.compositor),
-                              .bus = std::move(access.bus),
-                              .portalBus = std::move(access.portalBus),
-                              .offer = access.offer},
-        services);
+  if (access.reachesApplicationsByCompositor())
+    return std::make_unique<WaylandSystem>(std::move(access), services);
   access.token = keyFolder() + "/portal-token";
-  if (PortalSystem::reachesApplications(access))
+  if (access.reachesApplicationsByPortal())
     return std::make_unique<PortalSystem>(std::move(access), services);
   // Others, as KWin, share the clipboard of Xwayland only while a program there has the focus.
   const bool isClipboardShared =
@@ -99,7 +94,7 @@ class LinuxWords final : public desktop::Words {
 
 // Members are destroyed from the last to the first.
 struct LinuxDesktop::Parts {
-  Parts(const CommandLine& commandLine, desktop::Log& sink, PortalSystem::Access access)
+  Parts(const CommandLine& commandLine, desktop::Log& sink, DesktopAccess access)
       : log(sink),
         entries(LoadedModule(
             moduleOptions(EntriesModule::fileName, "knows the installed applications"))),
@@ -183,8 +178,7 @@ struct LinuxDesktop::Parts {
   SystemWallClock wallClock;
 };
 
-LinuxDesktop::LinuxDesktop(const CommandLine& commandLine, desktop::Log& log,
-                           PortalSystem::Access access)
+LinuxDesktop::LinuxDesktop(const CommandLine& commandLine, desktop::Log& log, DesktopAccess access)
     : parts_(std::make_unique<Parts>(commandLine, log, std::move(access))) {}
 
 LinuxDesktop::~LinuxDesktop() = default;

@@ -4,7 +4,7 @@
 
 #include "desktop/Desktop.h"
 #include "session/CommandLine.h"
-#include "systems/PortalSystem.h"
+#include "systems/DesktopAccess.h"
 
 namespace quillseal::linux {
 
@@ -14,7 +14,7 @@ class LinuxDesktop {
  public:
   /// `log` outlives this object. Other applications are reached through the compositor or the
   /// portal where `access` allows it, else through the X server that Qt uses.
-  LinuxDesktop(const CommandLine& commandLine, desktop::Log& log, PortalSystem::Access access);
+  LinuxDesktop(const CommandLine& commandLine, desktop::Log& log, DesktopAccess access);
 
   /// Waits for workers, 5 seconds at most; then ends the process if one still runs.
   ~LinuxDesktop();

@@ -26,24 +26,19 @@
 #include "session/Environment.h"
 #include "session/IdleMemory.h"
 #include "session/JournalLog.h"
-#include "session/LoadedModule.h"
 #include "session/Reach.h"
 #include "session/SessionBus.h"
 #include "session/SingleInstance.h"
 #include "session/TerminationSignals.h"
-#include "systems/PortalSystem.h"
-#include "wayland/KwinHotkey.h"
-#include "wayland/WaylandConnection.h"
-#include "wayland/WaylandConnector.h"
-#include "wayland/WaylandReach.h"
+#include "systems/DesktopAccess.h"
 #include "x11/XcbHandles.h"
 
 namespace {
 
 using quillseal::linux::Command;
 using quillseal::linux::CommandLine;
+using quillseal::linux::DesktopAccess;
 using quillseal::linux::environmentVariable;
-using quillseal::linux::PortalSystem;
 
 constexpr int failed = 1;
 constexpr int wrongArguments = 2;
@@ -60,43 +55,9 @@ void report(std::string_view sentence) {
                                  sentence.data()));
 }
 
-bool reachesApplicationsByCompositor(const PortalSystem::Access& access) {
-  return access.compositor != nullptr && quillseal::linux::reachesApplications(*access.compositor);
-}
-
 bool hasWaylandPlugin() {
   const QDir plugins(QLibraryInfo::path(QLibraryInfo::PluginsPath) + QLatin1String("/platforms"));
   return !plugins.entryList({QStringLiteral("libqwayland-*")}).isEmpty();
-}
-
-/// The ways into a Wayland desktop; none elsewhere. Without WAYLAND_DISPLAY, libwayland would try
-/// the default name, which may belong to another session.
-PortalSystem::Access accessToWayland(Command command) {
-  namespace WaylandConnector = quillseal::linux::WaylandConnector;
-  using quillseal::linux::DesktopBus;
-  using quillseal::linux::KwinHotkey;
-  // Nobody waits for an agent that starts with the session, whose portal may be starting, too.
-  const std::chrono::seconds timeout(command == Command::background ? 15 : 2);
-  PortalSystem::Access access;
-  if (environmentVariable("WAYLAND_DISPLAY").empty()) return access;
-  const auto places = quillseal::linux::LoadedModule::usualPlaces(WaylandConnector::program);
-  access.compositor = quillseal::linux::WaylandConnection::open();
-  if (access.compositor != nullptr && !reachesApplicationsByCompositor(access))
-    if (auto connection = WaylandConnector::open(places)) access.compositor = std::move(connection);
-  access.bus = DesktopBus::open();
-  if (access.bus == nullptr) return access;
-  // Where the compositor has all but a hotkey, only a start with the session waits until the portal
-  // has started. Sway and KDE have a hotkey of their own.
-  const bool isOfInterest =
-      !reachesApplicationsByCompositor(access) ||
-      (environmentVariable("SWAYSOCK").empty() &&
-       !KwinHotkey::isOfferedBy(*access.compositor, *access.bus) &&
-       (command == Command::background ||
-        access.bus->knows(quillseal::linux::Portal::service).value_or(false)));
-  if (isOfInterest) access.portalBus = DesktopBus::openThrough(places);
-  if (access.portalBus != nullptr)
-    access.offer = quillseal::linux::offerOfPortal(*access.portalBus, timeout);
-  return access;
 }
 
 /// Keeps Qt from loading OpenGL, with which these windows draw nothing and whose software renderer
@@ -145,7 +106,7 @@ std::optional<int> visit(Command command) {
 }
 
 int runAgent(const CommandLine& commandLine, quillseal::linux::SingleInstance& instance,
-             PortalSystem::Access access) {
+             DesktopAccess access) {
   const bool quiet = commandLine.command == Command::background;
   quillseal::linux::JournalLog log(quiet ? quillseal::linux::JournalLog::Echo::none
                                          : quillseal::linux::JournalLog::Echo::standardError);
@@ -172,9 +133,10 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
   constexpr std::chrono::seconds timeout{5};
   if (!quillseal::linux::sessionBusAnswers(timeout))
     qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
-  PortalSystem::Access access = accessToWayland(commandLine.command);
+  DesktopAccess access =
+      quillseal::linux::findDesktopAccess(commandLine.command == Command::background);
   const bool isReached =
-      reachesApplicationsByCompositor(access) || PortalSystem::reachesApplications(access);
+      access.reachesApplicationsByCompositor() || access.reachesApplicationsByPortal();
   // Qt ends the program when it finds no display, so the display is checked first. A connection
   // starts Xwayland, so it is made only where needed. It stays open until Qt has its own: an X
   // server may reset when its last client leaves, and refuse Qt meanwhile.

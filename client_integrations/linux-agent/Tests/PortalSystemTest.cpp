@@ -32,7 +32,7 @@ class PortalSystemTest : public ::testing::Test {
     offer.remoteDesktop = 2;
     offer.clipboard = 1;
     desk.emplace(ScriptedPortal::Script{.offer = offer});
-    PortalSystem::Access access;
+    DesktopAccess access;
     access.bus = DesktopBus::open();
     access.portalBus = DesktopBus::open();
     access.offer = offer;

@@ -8,7 +8,7 @@
 
 namespace quillseal::linux {
 
-GnomeSystem::GnomeSystem(PortalSystem::Access access, const Services& services)
+GnomeSystem::GnomeSystem(DesktopAccess access, const Services& services)
     : access_(std::move(access)),
       portal_(*access_.portalBus),
       remote_({.loop = services.loop,

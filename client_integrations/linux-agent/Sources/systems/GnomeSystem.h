@@ -8,8 +8,8 @@
 #include "portal/Portal.h"
 #include "portal/PortalKeyEvents.h"
 #include "portal/PortalRemote.h"
+#include "systems/DesktopAccess.h"
 #include "systems/DesktopHotkey.h"
-#include "systems/PortalSystem.h"
 #include "systems/WindowingSystem.h"
 #include "x11/WindowManager.h"
 
@@ -20,7 +20,7 @@ namespace quillseal::linux {
 /// Shell's extension. REQUIRES: Qt uses Xwayland, and the portal offers keys.
 class GnomeSystem : public WindowingSystem, private OwnWindows {
  public:
-  GnomeSystem(PortalSystem::Access access, const Services& services);
+  GnomeSystem(DesktopAccess access, const Services& services);
 
   [[nodiscard]] std::string limits() const override { return remote_.obstacle(); }
   [[nodiscard]] std::string advice() const override { return extension_.advice(); }
@@ -34,7 +34,7 @@ class GnomeSystem : public WindowingSystem, private OwnWindows {
  private:
   void bringToFront(QWidget& window) const override;
 
-  PortalSystem::Access access_;
+  DesktopAccess access_;
   Portal portal_;
   PortalRemote remote_;
   ShellExtension extension_;

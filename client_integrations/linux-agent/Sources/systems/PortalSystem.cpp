@@ -11,28 +11,13 @@
 #include "session/LoadedModule.h"
 #include "session/ScreenLock.h"
 #include "wayland/WaylandApplications.h"
-#include "wayland/WaylandDataControl.h"
 #include "wayland/WaylandPasteboard.h"
 
 namespace quillseal::linux {
-namespace {
 
-/// Whether the compositor lets programs see windows and clipboard, as KWin does.
-bool showsWindows(const WaylandConnection* compositor) {
-  return compositor != nullptr && compositor->isAlive() &&
-         wayland::offersDataControl(*compositor) && WaylandWindows::areOfferedBy(*compositor);
-}
-
-}  // namespace
-
-bool PortalSystem::reachesApplications(const Access& access) {
-  return access.portalBus != nullptr && access.offer.remoteDesktop > 0 &&
-         (access.offer.clipboard > 0 || showsWindows(access.compositor.get()));
-}
-
-PortalSystem::PortalSystem(Access access, const Services& services)
+PortalSystem::PortalSystem(DesktopAccess access, const Services& services)
     : access_(std::move(access)),
-      windows_(showsWindows(access_.compositor.get())
+      windows_(access_.showsWindows()
                    ? std::make_unique<WaylandWindows>(
                          *access_.compositor, QGuiApplication::desktopFileName().toStdString())
                    : nullptr),

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <filesystem>
 #include <functional>
 #include <memory>
 #include <string>
@@ -9,10 +8,9 @@
 #include "portal/Portal.h"
 #include "portal/PortalKeyEvents.h"
 #include "portal/PortalRemote.h"
-#include "session/DesktopBus.h"
+#include "systems/DesktopAccess.h"
 #include "systems/DesktopHotkey.h"
 #include "systems/WindowingSystem.h"
-#include "wayland/WaylandConnection.h"
 #include "wayland/WaylandWindows.h"
 
 namespace quillseal::linux {
@@ -21,20 +19,8 @@ namespace quillseal::linux {
 /// itself. Clipboard and windows come from the compositor where it offers those.
 class PortalSystem : public WindowingSystem, private OwnWindows {
  public:
-  /// The ways into the desktop.
-  struct Access {
-    std::unique_ptr<DesktopBus> bus;        ///< null where there is none
-    std::unique_ptr<DesktopBus> portalBus;  ///< on which the portal knows the agent; or null
-    PortalOffer offer;
-    std::unique_ptr<WaylandConnection> compositor;  ///< null where none answers
-    std::filesystem::path token;  ///< the file for what the user has allowed; see PrivateFile
-  };
-
-  /// Whether that is enough for signing in other applications.
-  [[nodiscard]] static bool reachesApplications(const Access& access);
-
-  /// REQUIRES: `reachesApplications(access)`.
-  PortalSystem(Access access, const Services& services);
+  /// REQUIRES: `access.reachesApplicationsByPortal()`.
+  PortalSystem(DesktopAccess access, const Services& services);
 
   [[nodiscard]] std::string limits() const override { return remote_.obstacle(); }
   [[nodiscard]] std::string advice() const override {
@@ -52,7 +38,7 @@ class PortalSystem : public WindowingSystem, private OwnWindows {
   [[nodiscard]] std::unique_ptr<desktop::Pasteboard> makePasteboard(const Services& services);
   void bringToFront(QWidget& window) const override;
 
-  Access access_;
+  DesktopAccess access_;
   std::unique_ptr<WaylandWindows> windows_;  // null where the compositor does not tell
   ShellExtension extension_;
   Portal portal_;

@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <utility>
 
+#include "portal/PortalHotkey.h"
 #include "session/LoadedModule.h"
 #include "wayland/KeyboardFactory.h"
 #include "wayland/KwinHotkey.h"
@@ -44,8 +45,8 @@ std::unique_ptr<Portal> portalWithHotkey(DesktopBus* bus, const PortalOffer& off
 
 }  // namespace
 
-WaylandSystem::WaylandSystem(Access access, const Services& services)
-    : connection_(std::move(access.connection)),
+WaylandSystem::WaylandSystem(DesktopAccess access, const Services& services)
+    : connection_(std::move(access.compositor)),
       bus_(std::move(access.bus)),
       portalBus_(std::move(access.portalBus)),
       windows_(std::make_unique<WaylandWindows>(*connection_,

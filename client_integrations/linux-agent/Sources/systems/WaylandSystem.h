@@ -4,8 +4,8 @@
 #include <string>
 
 #include "portal/Portal.h"
-#include "portal/PortalHotkey.h"
 #include "session/DesktopBus.h"
+#include "systems/DesktopAccess.h"
 #include "systems/WindowingSystem.h"
 #include "wayland/AgentKeyboard.h"
 #include "wayland/WaylandApplications.h"
@@ -17,18 +17,12 @@
 namespace quillseal::linux {
 
 /// Clipboard, keys and windows through the compositor, for native applications and those under
-/// Xwayland alike. REQUIRES: `reachesApplications(*access.connection)`.
+/// Xwayland alike.
 class WaylandSystem : public WindowingSystem, private OwnWindows {
  public:
-  /// Either bus is null where there is none. The portal has the hotkey if `offer` says so, unless
-  /// the compositor has it.
-  struct Access {
-    std::unique_ptr<WaylandConnection> connection;
-    std::unique_ptr<DesktopBus> bus;
-    std::unique_ptr<DesktopBus> portalBus;
-    PortalOffer offer;
-  };
-  WaylandSystem(Access access, const Services& services);
+  /// REQUIRES: `access.reachesApplicationsByCompositor()`. The portal has the hotkey if it offers
+  /// one, unless the compositor has it.
+  WaylandSystem(DesktopAccess access, const Services& services);
 
   [[nodiscard]] std::string limits() const override;
   [[nodiscard]] desktop::Applications& applications() override { return applications_; }

@@ -22,6 +22,7 @@
 #include "session/PollLoop.h"
 #include "wayland/SwayHotkey.h"
 #include "wayland/SwayIpc.h"
+#include "wayland/SwayReports.h"
 #include "wayland/WaylandConnection.h"
 
 namespace quillseal::linux {

@@ -10,6 +10,7 @@
 
 #include "core/text/Error.h"
 #include "keyboard/KeyChords.h"
+#include "wayland/SwayReports.h"
 
 namespace quillseal::linux {
 namespace {
@@ -26,11 +27,6 @@ constexpr std::string_view releaseEvent = "released";
 // Of several bindings to the same keys, sway obeys the one with fewer options, so any binding of
 // the user's wins.
 constexpr std::string_view options = "--no-warn --locked --inhibited ";
-
-std::string textOf(const json& object, const char* key) {
-  const auto found = object.find(key);
-  return found != object.end() && found->is_string() ? found->get<std::string>() : std::string();
-}
 
 std::string_view nameInSway(Keysym modifier) {
   switch (modifier) {

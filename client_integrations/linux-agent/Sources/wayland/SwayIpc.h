@@ -47,26 +47,4 @@ class SwayIpc {
   std::string received_;
 };
 
-/// What sway's tree says of a window's application.
-struct SwayApplication {
-  std::string id;             ///< app id, or under Xwayland the class
-  std::uint32_t process = 0;  ///< 0 when several have such a window
-
-  bool operator==(const SwayApplication&) const = default;
-};
-
-/// Returns the application of the windows with this title in sway's tree (JSON). Nothing when there
-/// is no such window, or the ids of two differ.
-[[nodiscard]] std::optional<SwayApplication> applicationIn(std::string_view tree,
-                                                           std::string_view title);
-
-/// Returns whether a configuration of sway binds Control, Alt and Super with the key of this keysym
-/// name or XKB number. Looks only at the text itself, not at included files, and at bindings
-/// outside modes.
-struct SwayChord {
-  std::string_view symbol;
-  std::uint32_t code;
-};
-[[nodiscard]] bool bindsAlready(std::string_view configuration, const SwayChord& chord);
-
 }  // namespace quillseal::linux

@@ -5,6 +5,7 @@
 
 #include "applications/ProcessExecutable.h"
 #include "applications/WindowDocument.h"
+#include "wayland/SwayReports.h"
 
 namespace quillseal::linux {
 namespace {

@@ -113,7 +113,8 @@ class ScriptedPortal : public BusServices {
   /// Answers a request by its signal.
   template <typename... Results>
   int respond(sd_bus_message& call, const char* before, const char* types, Results... results) {
-    const std::string token = linux::textOption(call, before, "handle_token").value_or("");
+    const std::string token =
+        linux::textOption(call, {.name = "handle_token", .before = before}).value_or("");
     std::string sender = ::sd_bus_message_get_sender(&call) + 1;
     std::ranges::replace(sender, '.', '_');
     const std::string path = std::string(linux::Portal::path) + "/request/" + sender + "/" + token;
@@ -137,8 +138,10 @@ class ScriptedPortal : public BusServices {
       return ::sd_bus_reply_method_return(&call, "");
     }
     if (member == "SelectDevices") {
-      const std::string token = linux::textOption(call, "o", "restore_token").value_or("");
-      const bool isKept = linux::enterOption(call, "o", "persist_mode", "u");
+      const std::string token =
+          linux::textOption(call, {.name = "restore_token", .before = "o"}).value_or("");
+      const bool isKept =
+          linux::enterOption(call, {.name = "persist_mode", .type = "u", .before = "o"});
       note(member + (isKept ? " kept " : " ") + token);
       if (!token.empty() && !script_.knownToken.empty() && token != script_.knownToken) {
         if (!script_.closesSession) return refuse(error);

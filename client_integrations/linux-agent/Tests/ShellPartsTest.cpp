@@ -197,12 +197,12 @@ TEST(KeyChordsTest, ApplicationsGetTheChordsTheyKnowAndNoTerminalAnInterruptOrAL
   for (const auto& [categories, windowClass, isOne, copies] :
        testing::cases<std::string, std::string, bool, std::string>()) {
     SCOPED_TRACE(windowClass);
-    EXPECT_EQ(isTerminal(categories, windowClass), isOne);
-    EXPECT_EQ(chordFor(copy, categories, windowClass), chords.at(copies));
+    const ApplicationKind kind{.categories = categories, .windowClass = windowClass};
+    EXPECT_EQ(isTerminal(kind), isOne);
+    EXPECT_EQ(chordFor(copy, kind), chords.at(copies));
     EXPECT_EQ(copiesBySelecting(windowClass), copies == "none");
     for (const KeyPress press : {paste, selectAll})
-      EXPECT_EQ(chordFor(press, categories, windowClass),
-                isOne ? std::vector<Keysym>() : chordOf(press));
+      EXPECT_EQ(chordFor(press, kind), isOne ? std::vector<Keysym>() : chordOf(press));
   }
 }
 

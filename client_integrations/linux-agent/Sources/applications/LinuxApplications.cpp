@@ -31,7 +31,7 @@ RunningApplication LinuxApplications::applicationOf(const Window& window) const 
         Browsers::identifierOf({.desktopFile = {}, .executable = traits.executable});
     if (!browser.empty()) application.bundleIdentifier = browser;
   }
-  if (isTerminal(application.categories, traits.windowClass))
+  if (isTerminal({.categories = application.categories, .windowClass = traits.windowClass}))
     application.categories += " TerminalEmulator";
   return application;
 }

@@ -58,9 +58,9 @@ bool isOneOf(std::string_view windowClass, const auto& classes) {
 
 }  // namespace
 
-bool isTerminal(std::string_view categories, std::string_view windowClass) {
-  return categories.find("TerminalEmulator") != std::string_view::npos ||
-         isOneOf(windowClass, terminalClasses) || copiesBySelecting(windowClass);
+bool isTerminal(const ApplicationKind& kind) {
+  return kind.categories.find("TerminalEmulator") != std::string_view::npos ||
+         isOneOf(kind.windowClass, terminalClasses) || copiesBySelecting(kind.windowClass);
 }
 
 bool copiesBySelecting(std::string_view windowClass) {
@@ -103,10 +103,9 @@ std::optional<std::uint32_t> fixedKeyOf(Keysym symbol) {
   }
 }
 
-std::vector<Keysym> chordFor(KeyPress press, std::string_view categories,
-                             std::string_view windowClass) {
-  if (!isTerminal(categories, windowClass)) return chordOf(press);
-  if (press.key != Key::c || copiesBySelecting(windowClass)) return {};
+std::vector<Keysym> chordFor(KeyPress press, const ApplicationKind& kind) {
+  if (!isTerminal(kind)) return chordOf(press);
+  if (press.key != Key::c || copiesBySelecting(kind.windowClass)) return {};
   return {XKB_KEY_Control_L, XKB_KEY_Shift_L, XKB_KEY_c};
 }
 

@@ -28,9 +28,14 @@ inline constexpr const char* unknownKeys = "the shortcut of your choice";
 /// (linux/input-event-codes.h); nothing for others.
 [[nodiscard]] std::optional<std::uint32_t> fixedKeyOf(Keysym symbol);
 
-/// Whether an application of this kind is a terminal, by the categories of its desktop file or
-/// because it is known as one.
-[[nodiscard]] bool isTerminal(std::string_view categories, std::string_view windowClass);
+/// What decides which keys an application understands.
+struct ApplicationKind {
+  std::string_view categories;   ///< of its desktop file
+  std::string_view windowClass;  ///< the class part of WM_CLASS; empty where it is not known
+};
+
+/// Whether an application is a terminal, by its categories or because it is known as one.
+[[nodiscard]] bool isTerminal(const ApplicationKind& kind);
 
 /// Returns whether the terminal has no key that copies: it copies every selection to the primary
 /// selection.
@@ -39,8 +44,7 @@ inline constexpr const char* unknownKeys = "the shortcut of your choice";
 /// Returns the chord that copies, pastes or selects all in an application of this kind, empty when
 /// nothing may be pressed. In a terminal Ctrl+C would end the running program, so Shift is added. A
 /// terminal may have no key that copies, has none that selects all, and is never pasted into.
-[[nodiscard]] std::vector<Keysym> chordFor(desktop::KeyPress press, std::string_view categories,
-                                           std::string_view windowClass);
+[[nodiscard]] std::vector<Keysym> chordFor(desktop::KeyPress press, const ApplicationKind& kind);
 
 /// Returns the shortcut in words: "Ctrl+Alt+Super+H".
 [[nodiscard]] std::string nameOf(desktop::KeyPress press);

@@ -249,7 +249,8 @@ Task<std::unique_ptr<PortalSession>> PortalSession::open(Portal& portal, const c
   Portal::Message call = portal.newCall(interface, "CreateSession");
   const PortalAnswer answer = co_await portal.request(std::move(call), std::move(options));
   if (answer.outcome != PortalAnswer::Outcome::granted) co_return nullptr;
-  const std::string handle = textOption(*answer.message, "u", "session_handle").value_or("");
+  const std::string handle =
+      textOption(*answer.message, {.name = "session_handle", .before = "u"}).value_or("");
   if (::sd_bus_object_path_is_valid(handle.c_str()) <= 0) co_return nullptr;
   co_return std::make_unique<PortalSession>(portal, handle, std::move(ended));
 }
@@ -290,28 +291,25 @@ bool PortalSession::isMeantBy(sd_bus_message& signal) const {
 
 // Options -----------------------------------------------------------------------------------------
 
-bool enterOption(sd_bus_message& message, const char* name, const char* type) {
+bool enterOption(sd_bus_message& message, const PortalOption& option) {
+  if (option.before != nullptr && (::sd_bus_message_rewind(&message, 1) < 0 ||
+                                   ::sd_bus_message_skip(&message, option.before) < 0))
+    return false;
   if (::sd_bus_message_enter_container(&message, 'a', "{sv}") <= 0) return false;
   while (::sd_bus_message_enter_container(&message, 'e', "sv") > 0) {
     const char* key = nullptr;
     if (::sd_bus_message_read(&message, "s", &key) <= 0) return false;
-    if (std::string_view(key) == name)
-      return ::sd_bus_message_enter_container(&message, 'v', type) > 0;
+    if (std::string_view(key) == option.name)
+      return ::sd_bus_message_enter_container(&message, 'v', option.type) > 0;
     if (::sd_bus_message_skip(&message, "v") < 0 || ::sd_bus_message_exit_container(&message) < 0)
       return false;
   }
   return false;
 }
 
-bool enterOption(sd_bus_message& message, const char* before, const char* name, const char* type) {
-  return ::sd_bus_message_rewind(&message, 1) >= 0 &&
-         ::sd_bus_message_skip(&message, before) >= 0 && enterOption(message, name, type);
-}
-
-std::optional<std::string> textOption(sd_bus_message& message, const char* before,
-                                      const char* name) {
+std::optional<std::string> textOption(sd_bus_message& message, const PortalOption& option) {
   const char* text = nullptr;
-  if (!enterOption(message, before, name, "s") || ::sd_bus_message_read(&message, "s", &text) <= 0)
+  if (!enterOption(message, option) || ::sd_bus_message_read(&message, "s", &text) <= 0)
     return std::nullopt;
   return text;
 }

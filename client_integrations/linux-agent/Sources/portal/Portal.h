@@ -132,16 +132,18 @@ class PortalSession {
   DesktopBus::Subscription owners_;
 };
 
-/// Moves to the value of an option in the dictionary that comes next. False when there is none of
-/// that type.
-[[nodiscard]] bool enterOption(sd_bus_message& message, const char* name, const char* type);
+/// An option in a dictionary of a message.
+struct PortalOption {
+  const char* name;
+  const char* type = "s";        ///< of the value
+  const char* before = nullptr;  ///< types of the arguments before the dictionary; null: it is next
+};
 
-/// The same in the dictionary that follows the arguments of the types `before`.
-[[nodiscard]] bool enterOption(sd_bus_message& message, const char* before, const char* name,
-                               const char* type);
+/// Moves to the value of an option. False when there is none of that type.
+[[nodiscard]] bool enterOption(sd_bus_message& message, const PortalOption& option);
 
 /// Returns the option's text; nothing when it has none or is of another type.
-[[nodiscard]] std::optional<std::string> textOption(sd_bus_message& message, const char* before,
-                                                    const char* name);
+[[nodiscard]] std::optional<std::string> textOption(sd_bus_message& message,
+                                                    const PortalOption& option);
 
 }  // namespace quillseal::linux

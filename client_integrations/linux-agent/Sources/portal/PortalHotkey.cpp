@@ -184,50 +184,56 @@ Task<> PortalHotkey::bind() {
   giveUp_ = {};  // the user may take any time
   PortalAnswer answer;
   const bool isOpened = session_ != nullptr;
-  if (isOpened) {
-    Portal::Message call = services_.portal.newCall(interface, "BindShortcuts", session_->handle());
-    const std::string trigger = triggerOf(combination_);
-    constexpr const char* noWindow = "";
-    if (call != nullptr &&
-        ::sd_bus_message_append(call.get(), "a(sa{sv})s", 1, shortcut, 2, "description", "s",
-                                description, "preferred_trigger", "s", trigger.c_str(),
-                                noWindow) >= 0) {
-      Portal::Options none;
-      answer = co_await services_.portal.request(std::move(call), std::move(none));
-    }
-  }
+  if (isOpened) answer = co_await requestKeys();
   // The end of the portal, which is also the end of its requests, may be reported to them first.
   if (answer.message == nullptr) co_await sleep(services_.loop, 0ms);
   isBinding_ = false;
   const bool isBoundAgain = lastPortalEnd_ && *lastPortalEnd_ > begin;
   if ((isBoundAgain || (isOpened && session_ == nullptr)) && !isRefusal(answer)) co_return;
+  if (answer.outcome == PortalAnswer::Outcome::granted)
+    accept(*answer.message);
+  else
+    reject(isRefusal(answer));
+}
+
+Task<PortalAnswer> PortalHotkey::requestKeys() {
+  Portal::Message call = services_.portal.newCall(interface, "BindShortcuts", session_->handle());
+  const std::string trigger = triggerOf(combination_);
+  constexpr const char* noWindow = "";
+  if (call == nullptr ||
+      ::sd_bus_message_append(call.get(), "a(sa{sv})s", 1, shortcut, 2, "description", "s",
+                              description, "preferred_trigger", "s", trigger.c_str(), noWindow) < 0)
+    co_return PortalAnswer{};
+  Portal::Options none;
+  co_return co_await services_.portal.request(std::move(call), std::move(none));
+}
+
+void PortalHotkey::accept(sd_bus_message& answer) {
   const bool wasWanted = std::exchange(isWanted_, false);
   desktop::Defaults& defaults = services_.defaults();
-  if (answer.outcome == PortalAnswer::Outcome::granted) {
-    if (LinuxSettings::hotkeyRefused.isOn(defaults))
-      LinuxSettings::hotkeyRefused.store(defaults, false);
-    if (state().isOff) setState({});
-    if (enterOption(*answer.message, "u", "shortcuts", "a(sa{sv})")) readKeys(*answer.message);
-    if (wasWanted && state().isOff)
-      services_.notify(
-          "Your desktop has no keys for Quillseal’s hotkey. Choose some in its keyboard settings.");
-    co_return;
-  }
-  const bool isRefused = isRefusal(answer);
+  if (LinuxSettings::hotkeyRefused.isOn(defaults))
+    LinuxSettings::hotkeyRefused.store(defaults, false);
+  if (state().isOff) setState({});
+  if (enterOption(answer, {.name = "shortcuts", .type = "a(sa{sv})", .before = "u"}))
+    readKeys(answer);
+  if (wasWanted && state().isOff)
+    services_.notify(
+        "Your desktop has no keys for Quillseal’s hotkey. Choose some in its keyboard settings.");
+}
+
+void PortalHotkey::reject(bool isRefused) {
   if (isRefused) {
-    LinuxSettings::hotkeyRefused.store(defaults, true);
+    LinuxSettings::hotkeyRefused.store(services_.defaults(), true);
     refuse();
+    return fail(std::string("Quillseal’s hotkey is off, because it was not allowed. You can turn "
+                            "it on in the settings of Quillseal.") +
+                otherWays);
   }
-  const std::string problem =
-      isRefused ? std::string(
-                      "Quillseal’s hotkey is off, because it was not allowed. You can turn it on "
-                      "in the settings of Quillseal.") +
-                      otherWays
-      : session_ == nullptr
-          ? "The portal of your desktop does not accept Quillseal, so there is no hotkey. Install "
-            "the Debian package of Quillseal if it is not installed, or start Quillseal again."
-          : std::string("Your desktop gave Quillseal no hotkey.") + otherWays;
-  fail(problem);
+  if (session_ == nullptr)
+    return fail(
+        "The portal of your desktop does not accept Quillseal, so there is no hotkey. Install the "
+        "Debian package of Quillseal if it is not installed, or start Quillseal again.");
+  fail(std::string("Your desktop gave Quillseal no hotkey.") + otherWays);
 }
 
 void PortalHotkey::fail(const std::string& problem) {
@@ -273,7 +279,7 @@ void PortalHotkey::readKeys(sd_bus_message& shortcuts) {
       continue;
     }
     // GNOME describes no keys where the user has removed them.
-    if (!enterOption(shortcuts, "trigger_description", "s") ||
+    if (!enterOption(shortcuts, {.name = "trigger_description"}) ||
         ::sd_bus_message_read(&shortcuts, "s", &keys) <= 0)
       return turnOff();
     const std::string name = *keys == '\0' ? unknownKeys : describedKeys(keys);
@@ -291,7 +297,7 @@ void PortalHotkey::press(sd_bus_message& signal) {
   if (session_ == nullptr || !session_->isMeantBy(signal) ||
       ::sd_bus_message_read(&signal, "s", &id) <= 0 || std::string_view(id) != shortcut)
     return;
-  const auto token = textOption(signal, "ost", "activation_token");
+  const auto token = textOption(signal, {.name = "activation_token", .before = "ost"});
   if (token && services_.activated) services_.activated(*token);
   if (held_.press(services_.loop.now())) services_.loop.post(pressed_);
 }

@@ -45,6 +45,9 @@ class PortalHotkey : public ObservedHotkey {
 
  private:
   [[nodiscard]] Task<> bind();
+  [[nodiscard]] Task<PortalAnswer> requestKeys();
+  void accept(sd_bus_message& answer);
+  void reject(bool isRefused);
   void fail(const std::string& problem);
   void portalEnded();
   void end(PortalSession::End how);

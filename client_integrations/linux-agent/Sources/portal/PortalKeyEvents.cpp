@@ -1,6 +1,7 @@
 #include "portal/PortalKeyEvents.h"
 
 #include <chrono>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -33,7 +34,8 @@ constexpr auto clipboardPropagation = 100ms;
 /// Ctrl+Insert and Shift+Insert mean the same in every layout.
 std::vector<Keysym> chordIn(desktop::KeyPress press,
                             const std::optional<desktop::RunningApplication>& target) {
-  std::vector<Keysym> chord = chordFor(press, target ? target->categories : "", "");
+  std::vector<Keysym> chord = chordFor(
+      press, {.categories = target ? std::string_view(target->categories) : "", .windowClass = {}});
   if (chord != chordOf(press)) return chord;  // in a terminal
   if (press.key == Key::c) return {XKB_KEY_Control_L, XKB_KEY_Insert};
   if (press.key == Key::v) return {XKB_KEY_Shift_L, XKB_KEY_Insert};

@@ -64,8 +64,8 @@ desktop::Ticket both(desktop::Ticket one, desktop::Ticket other) {
 /// The names that follow in the message: some portals put them into a structure of their own.
 std::vector<std::string> formatsIn(sd_bus_message& signal) {
   std::vector<std::string> formats;
-  const bool isPlain = enterOption(signal, "o", "mime_types", "as");
-  if (!isPlain && (!enterOption(signal, "o", "mime_types", "(as)") ||
+  const bool isPlain = enterOption(signal, {.name = "mime_types", .type = "as", .before = "o"});
+  if (!isPlain && (!enterOption(signal, {.name = "mime_types", .type = "(as)", .before = "o"}) ||
                    ::sd_bus_message_enter_container(&signal, 'r', "as") <= 0))
     return formats;
   if (::sd_bus_message_enter_container(&signal, 'a', "s") <= 0) return formats;
@@ -107,7 +107,7 @@ struct PortalPasteboard::State {
   void ownerChanged(sd_bus_message& message) {
     if (!isMeantBy(message)) return;
     int isOurs = 0;
-    if (enterOption(message, "o", "session_is_owner", "b"))
+    if (enterOption(message, {.name = "session_is_owner", .type = "b", .before = "o"}))
       ::sd_bus_message_read(&message, "b", &isOurs);
     ++owner;
     // A report from before `write` finds the agent no owner yet.

@@ -112,16 +112,18 @@ Task<bool> PortalRemote::start() {
 
   sd_bus_message& results = *answer.message;
   int isEnabled = 0;
-  if (enterOption(results, "u", "clipboard_enabled", "b"))
+  if (enterOption(results, {.name = "clipboard_enabled", .type = "b", .before = "u"}))
     ::sd_bus_message_read(&results, "b", &isEnabled);
   hasClipboard_ = hasClipboard_ && isEnabled != 0;
   std::uint32_t devices = 0;
-  if (enterOption(results, "u", "devices", "u")) ::sd_bus_message_read(&results, "u", &devices);
+  if (enterOption(results, {.name = "devices", .type = "u", .before = "u"}))
+    ::sd_bus_message_read(&results, "u", &devices);
   const bool isEnough =
       (devices & keyboard) != 0 && (hasClipboard_ || services_.offer.clipboard == 0);
   // Each token holds for one session, and with one that allows too little the desktop would not ask
   // again.
-  keepToken(isEnough ? textOption(results, "u", "restore_token").value_or("") : "");
+  keepToken(isEnough ? textOption(results, {.name = "restore_token", .before = "u"}).value_or("")
+                     : "");
   co_return isEnough;
 }
 

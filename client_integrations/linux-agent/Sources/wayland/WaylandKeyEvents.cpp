@@ -106,7 +106,8 @@ class WaylandKeyEvents::Press : public std::enable_shared_from_this<Press> {
     if (!window) return;
     // As found when the target was determined: sway knows more about it than this connection.
     const std::vector<Keysym> chord =
-        chordFor(request_.press, request_.target->categories, window->applicationId);
+        chordFor(request_.press,
+                 {.categories = request_.target->categories, .windowClass = window->applicationId});
     if (request_.aboutToPress) request_.aboutToPress();
     if (!chord.empty())
       services_.keyboard.tap(chord);

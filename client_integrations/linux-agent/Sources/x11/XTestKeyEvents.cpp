@@ -90,9 +90,10 @@ class XTestKeyEvents::Press : public std::enable_shared_from_this<Press> {
 
   Delivery press(const WindowTraits& traits) {
     const auto entry = services_.entries.forWindow(traits);
+    const std::string categories = entry ? entry->categories : std::string();
     std::vector<xcb_keycode_t> keys;
     for (const Keysym symbol :
-         chordFor(request_.press, entry ? entry->categories : std::string(), traits.windowClass))
+         chordFor(request_.press, {.categories = categories, .windowClass = traits.windowClass}))
       keys.push_back(layout_.keyFor(symbol));
     if (std::ranges::find(keys, 0) != keys.end()) keys.clear();
     if (!keys.empty()) {

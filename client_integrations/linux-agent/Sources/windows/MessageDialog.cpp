@@ -43,6 +43,8 @@ QString withoutEnd(QString text) {
   return text;
 }
 
+}  // namespace
+
 QLabel* plainLabel(const QString& text) {
   auto* label = new QLabel;
   label->setTextFormat(Qt::PlainText);
@@ -50,8 +52,6 @@ QLabel* plainLabel(const QString& text) {
   label->setText(text);
   return label;
 }
-
-}  // namespace
 
 // Qt's parents own their children: every widget that is added to a layout below is deleted with the
 // dialog.
@@ -108,9 +108,7 @@ MessageDialog::MessageDialog(const Look& look)
 }
 
 QPushButton& MessageDialog::addButton(const std::string& label, QDialogButtonBox::ButtonRole role) {
-  QString text = toQString(label);
-  text.replace(QLatin1Char('&'), QLatin1String("&&"));
-  QPushButton* button = buttons_->addButton(text, role);
+  QPushButton* button = buttons_->addButton(withoutMnemonic(label), role);
   button->setDefault(role == QDialogButtonBox::AcceptRole);
   button->setAutoDefault(true);
   return *button;

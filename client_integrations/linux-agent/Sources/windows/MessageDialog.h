@@ -2,6 +2,8 @@
 
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QLabel>
+#include <QString>
 #include <QVBoxLayout>
 #include <functional>
 #include <memory>
@@ -44,6 +46,13 @@ class MessageDialog : public QDialog {
   QVBoxLayout* rows_;
   QDialogButtonBox* buttons_;
 };
+
+/// Makes a label that shows the text as it is, on several lines where needed. The layout that it is
+/// added to owns it.
+[[nodiscard]] QLabel* plainLabel(const QString& text);
+
+/// For text that says what is wrong.
+inline constexpr auto warningColour = "#b45309";
 
 /// Returns the line of a prompt that says where the text is going; empty when that is not known.
 [[nodiscard]] std::string mediumLine(const std::string& medium);

@@ -69,9 +69,7 @@ desktop::Ticket QtAlerts::confirm(
   auto* field = new QLineEdit;
   field->setAccessibleName(QStringLiteral("Recipient"));
   field->setPlaceholderText(toQString(form.fieldPlaceholder));
-  auto* note = new QLabel(toQString(form.note));
-  note->setTextFormat(Qt::PlainText);
-  note->setWordWrap(true);
+  QLabel* note = plainLabel(toQString(form.note));
   note->setForegroundRole(QPalette::PlaceholderText);
   QFont small = note->font();
   small.setPointSize(noteFontSize);

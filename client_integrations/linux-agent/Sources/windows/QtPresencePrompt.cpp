@@ -32,9 +32,7 @@ std::unique_ptr<PresenceWindow> QtPresencePrompt::open(const PresenceRequest& re
   if (!request.medium.empty()) text += "\n\n" + mediumLine(request.medium);
   auto dialog = std::make_unique<MessageDialog>(MessageDialog::Look{
       .picture = MessageDialog::Picture::product, .title = "Confirm that it is you", .text = text});
-  auto* instruction = new QLabel(toQString(request.instruction));
-  instruction->setTextFormat(Qt::PlainText);
-  instruction->setWordWrap(true);
+  QLabel* instruction = plainLabel(toQString(request.instruction));
   dialog->rows().addWidget(instruction);
   if (request.needsConsent) dialog->addButton("Continue", QDialogButtonBox::AcceptRole);
   dialog->addButton("Cancel", QDialogButtonBox::RejectRole);

@@ -33,14 +33,10 @@ class QtSecretPrompt::Pending {
 
 namespace {
 
-constexpr auto problemColour = "#b45309";
-
 QLabel* problemLabel(std::string_view text) {
-  auto* label = new QLabel(toQString(text));
-  label->setTextFormat(Qt::PlainText);
-  label->setWordWrap(true);
+  QLabel* label = plainLabel(toQString(text));
   QPalette palette = label->palette();
-  palette.setColor(QPalette::WindowText, QColor(QLatin1String(problemColour)));
+  palette.setColor(QPalette::WindowText, QColor(QLatin1String(warningColour)));
   label->setPalette(palette);
   return label;
 }

@@ -29,7 +29,6 @@ using desktop::TextColour;
 using desktop::TextFont;
 
 constexpr auto green = "#15803d";
-constexpr auto orange = "#b45309";
 constexpr double calloutScale = 0.95;
 constexpr double captionScale = 0.88;
 constexpr double symbolScale = 1.4;
@@ -54,7 +53,7 @@ void colour(QLabel& label, TextColour colour) {
       palette.setColor(QPalette::WindowText, QColor(QLatin1String(green)));
       break;
     case TextColour::orange:
-      palette.setColor(QPalette::WindowText, QColor(QLatin1String(orange)));
+      palette.setColor(QPalette::WindowText, QColor(QLatin1String(warningColour)));
       break;
   }
   label.setPalette(palette);
@@ -66,10 +65,8 @@ void scale(QLabel& label, double factor) {
   label.setFont(font);
 }
 
-QLabel* plainLabel() {
-  auto* label = new QLabel;
-  label->setTextFormat(Qt::PlainText);
-  label->setWordWrap(true);
+QLabel* topLabel() {
+  QLabel* label = plainLabel({});
   label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   return label;
 }
@@ -136,7 +133,7 @@ class FormWidget : public QWidget {
   }
 
   ShowRow addRow(QVBoxLayout& column, const FormText&, std::size_t, std::size_t) {
-    QLabel* label = plainLabel();
+    QLabel* label = topLabel();
     column.addWidget(label);
     return [label](const FormSection& section, std::size_t row) {
       fill(*label, std::get<FormText>(section.rows[row]));
@@ -144,10 +141,10 @@ class FormWidget : public QWidget {
   }
 
   ShowRow addRow(QVBoxLayout& column, const FormStatus&, std::size_t, std::size_t) {
-    QLabel* sign = plainLabel();
+    QLabel* sign = topLabel();
     sign->setWordWrap(false);
     scale(*sign, symbolScale);
-    QLabel* label = plainLabel();
+    QLabel* label = topLabel();
     label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     auto* line = new QHBoxLayout;
     line->addWidget(sign, 0, Qt::AlignVCenter);
@@ -162,7 +159,7 @@ class FormWidget : public QWidget {
   }
 
   ShowRow addRow(QVBoxLayout& column, const FormField&, std::size_t section, std::size_t row) {
-    auto* label = plainLabel();
+    auto* label = topLabel();
     auto* edit = new QLineEdit;
     label->setBuddy(edit);
     column.addWidget(label);
@@ -192,7 +189,7 @@ class FormWidget : public QWidget {
     });
     return [button](const FormSection& shown, std::size_t index) {
       const auto& content = std::get<FormButton>(shown.rows[index]);
-      button->setText(toQString(content.label).replace(QLatin1Char('&'), QLatin1String("&&")));
+      button->setText(withoutMnemonic(content.label));
       button->setEnabled(content.enabled);
     };
   }

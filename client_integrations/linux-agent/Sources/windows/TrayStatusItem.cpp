@@ -13,11 +13,6 @@
 namespace quillseal::linux {
 namespace {
 
-// In a menu "&" marks a mnemonic.
-QString menuText(const std::string& text) {
-  return toQString(text).replace(QLatin1Char('&'), QLatin1String("&&"));
-}
-
 // In Qt's notation, where Super is called Meta.
 QKeySequence shortcutOf(const std::string& combination) {
   return {toQString(combination).replace(QLatin1String("Super"), QLatin1String("Meta"))};
@@ -65,7 +60,7 @@ void TrayStatusItem::show(const desktop::StatusMenu& menu) {
     if (item.kind == desktop::MenuItem::Kind::separator) {
       action = menu_.addSeparator();
     } else {
-      action = menu_.addAction(menuText(item.title));
+      action = menu_.addAction(withoutMnemonic(item.title));
       action->setEnabled(item.kind == desktop::MenuItem::Kind::action);
       // A title that names the shortcut needs none beside it.
       const std::string keys = nameOf(item.keyModifiers, item.keyEquivalent);
@@ -80,7 +75,7 @@ void TrayStatusItem::show(const desktop::StatusMenu& menu) {
 }
 
 void TrayStatusItem::setItemTitle(std::size_t index, const std::string& title) {
-  actions_.at(index)->setText(menuText(title));
+  actions_.at(index)->setText(withoutMnemonic(title));
 }
 
 }  // namespace quillseal::linux

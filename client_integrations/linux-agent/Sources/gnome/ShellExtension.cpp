@@ -20,11 +20,8 @@ constexpr DesktopBus::Method method(const char* name) {
 
 /// The major version of the Shell; 0 when it does not say.
 int versionOfShell(DesktopBus& bus) {
-  const DesktopBus::Message answer = bus.call({.service = shell,
-                                               .path = "/org/gnome/Shell",
-                                               .interface = "org.freedesktop.DBus.Properties",
-                                               .name = "Get"},
-                                              "ss", shell, "ShellVersion");
+  const DesktopBus::Message answer =
+      bus.call(propertyOf(shell, "/org/gnome/Shell"), "ss", shell, "ShellVersion");
   const char* version = nullptr;
   if (answer == nullptr || ::sd_bus_message_read(answer.get(), "v", "s", &version) <= 0) return 0;
   const std::string_view text(version);

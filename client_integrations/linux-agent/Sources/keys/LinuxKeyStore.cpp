@@ -12,13 +12,6 @@ namespace quillseal::linux {
 
 namespace {
 
-std::string sentence(std::string_view text) {
-  std::string result(text);
-  if (!result.empty() && result.front() >= 'a' && result.front() <= 'z')
-    result.front() = static_cast<char>(result.front() - 'a' + 'A');
-  return result;
-}
-
 /// Says what choosing `target` means for an existing key, and why the media before it were skipped.
 std::string noticeFor(const KeyMedium& target, const KeyMedium* present,
                       const std::string& obstacles) {
@@ -141,7 +134,7 @@ std::unique_ptr<desktop::DeviceKey> LinuxKeyStore::create() {
         target = medium.get();
         break;
       }
-      obstacles += (obstacles.empty() ? "" : " ") + sentence(obstacle);
+      obstacles += (obstacles.empty() ? "" : " ") + capitalised(obstacle);
     }
     if (target == nullptr) throw KeyFailure(obstacles);
     request = {.kind = target->secretKind(),
@@ -174,16 +167,17 @@ void LinuxKeyStore::remove() noexcept {
 std::string LinuxKeyStore::advice() const {
   if (const KeyMedium* medium = holder()) {
     if (const std::string obstacle = medium->evidentObstacle(); !obstacle.empty())
-      return sentence(obstacle);
+      return capitalised(obstacle);
     try {
       static_cast<void>(medium->publicKey());
     } catch (const KeyFailure& failure) {
-      return sentence(failure.what());
+      return capitalised(failure.what());
     }
   }
   if (place() == KeyPlace::tpmSimulator) return describe();
   if (std::string weakness = evidentMedium().weakness(); !weakness.empty()) return weakness;
-  return media_.front()->holdsKey() ? std::string() : sentence(media_.front()->evidentObstacle());
+  return media_.front()->holdsKey() ? std::string()
+                                    : capitalised(media_.front()->evidentObstacle());
 }
 
 KeyPlace LinuxKeyStore::place() const {

@@ -89,6 +89,13 @@ bool hasLetter(std::string_view text) {
 
 }  // namespace
 
+std::string capitalised(std::string_view text) {
+  std::string result(text);
+  if (!result.empty() && result.front() >= 'a' && result.front() <= 'z')
+    result.front() = static_cast<char>(result.front() - 'a' + 'A');
+  return result;
+}
+
 std::string_view nameOf(SecretKind kind) noexcept {
   return demandsOn(kind).name;
 }

@@ -14,6 +14,9 @@ namespace quillseal::linux {
 /// file. The last two must be long.
 enum class SecretKind { pin, unguardedPin, passphrase };
 
+/// Returns the text with a capital first letter, if that is one of ASCII, to begin a sentence.
+[[nodiscard]] std::string capitalised(std::string_view text);
+
 /// Returns "PIN" or "passphrase", for the middle of a sentence.
 [[nodiscard]] std::string_view nameOf(SecretKind kind) noexcept;
 

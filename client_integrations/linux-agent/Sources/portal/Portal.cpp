@@ -13,7 +13,6 @@
 namespace quillseal::linux {
 namespace {
 
-constexpr const char* properties = "org.freedesktop.DBus.Properties";
 constexpr const char* requestInterface = "org.freedesktop.portal.Request";
 constexpr const char* sessionInterface = "org.freedesktop.portal.Session";
 constexpr std::uint32_t keyboard = 1;
@@ -34,12 +33,10 @@ class Deadline {
   Clock::time_point end_;
 };
 
-std::uint32_t propertyOf(DesktopBus& bus, const Deadline& deadline, const char* interface,
-                         const char* name) {
+std::uint32_t numberOf(DesktopBus& bus, const Deadline& deadline, const char* interface,
+                       const char* name) {
   const DesktopBus::Message answer = bus.callWithin(
-      deadline.left(),
-      {.service = Portal::service, .path = Portal::path, .interface = properties, .name = "Get"},
-      "ss", interface, name);
+      deadline.left(), propertyOf(Portal::service, Portal::path), "ss", interface, name);
   std::uint32_t value = 0;
   if (answer == nullptr || ::sd_bus_message_read(answer.get(), "v", "u", &value) <= 0) return 0;
   return value;
@@ -98,10 +95,10 @@ PortalOffer offerOfPortal(DesktopBus& bus, std::chrono::milliseconds timeout) {
   if (!*isRunning && !bus.start(Portal::service, deadline.left())) return {.isSilent = isSilent()};
   PortalOffer offer;
   const auto version = [&](const char* interface) {
-    return propertyOf(bus, deadline, interface, "version");
+    return numberOf(bus, deadline, interface, "version");
   };
   constexpr const char* remoteDesktop = "org.freedesktop.portal.RemoteDesktop";
-  if ((propertyOf(bus, deadline, remoteDesktop, "AvailableDeviceTypes") & keyboard) != 0)
+  if ((numberOf(bus, deadline, remoteDesktop, "AvailableDeviceTypes") & keyboard) != 0)
     offer.remoteDesktop = version(remoteDesktop);
   offer.globalShortcuts = version("org.freedesktop.portal.GlobalShortcuts");
   offer.clipboard = version("org.freedesktop.portal.Clipboard");

@@ -3,7 +3,7 @@
 #include <deque>
 #include <exception>
 
-#include "core/text/Error.h"
+#include "presence/PresenceError.h"
 
 namespace quillseal::linux::FingerprintReader {
 
@@ -14,10 +14,6 @@ constexpr const char* deviceInterface = "net.reactivated.Fprint.Device";
 constexpr const char* thisUser = "";
 constexpr int tries = 3;
 constexpr SystemBus::Seconds timeout{60};
-
-[[noreturn]] void fail(std::string_view description) {
-  throw Error({.domain = "Quillseal.Presence", .code = 0, .description = std::string(description)});
-}
 
 std::string defaultDevice(SystemBus& bus) {
   const BusMessage reply = bus.call({.service = service,
@@ -37,7 +33,8 @@ class ClaimedReader {
       bus_.call(target(), "Claim", "s", thisUser);
     } catch (const Error& error) {
       if (error.domain().ends_with(".AlreadyInUse"))
-        fail("The fingerprint reader is in use by another program. Try again in a moment.");
+        throw presenceError(
+            "The fingerprint reader is in use by another program. Try again in a moment.");
       throw;
     }
   }
@@ -134,8 +131,8 @@ bool verify(const Interrupt& interrupt, const Instruct& instruct) {
   const auto nextTouch = [&] {
     const auto hasStatus = [&statuses] { return !statuses.empty(); };
     if (!bus.wait({.interrupt = interrupt, .limit = timeout, .isDone = hasStatus})) {
-      if (interrupt.isRaised()) fail("Authentication was cancelled.");
-      fail("Nobody touched the fingerprint reader.");
+      if (interrupt.isRaised()) throw presenceCancelled();
+      throw presenceError("Nobody touched the fingerprint reader.");
     }
     const Touch touch = touchOf(statuses.front());
     statuses.pop_front();
@@ -147,7 +144,7 @@ bool verify(const Interrupt& interrupt, const Instruct& instruct) {
     Touch touch = nextTouch();
     for (; touch.kind == Touch::Kind::again; touch = nextTouch())
       instruct(touch.instruction);
-    if (touch.kind == Touch::Kind::failure) fail(touch.instruction);
+    if (touch.kind == Touch::Kind::failure) throw presenceError(touch.instruction);
     return touch;
   };
   for (int attempt = 1; attempt <= tries; ++attempt) {

@@ -7,6 +7,7 @@
 
 #include "presence/FingerprintReader.h"
 #include "presence/PolkitAuthority.h"
+#include "presence/PresenceError.h"
 
 namespace quillseal::linux {
 
@@ -35,7 +36,7 @@ class Evaluation : public std::enable_shared_from_this<Evaluation> {
                             .medium = prompt.medium,
                             .instruction = "Touch the fingerprint reader.",
                             .needsConsent = false},
-                           [this](bool) { finish(cancelled()); });
+                           [this](bool) { finish(presenceCancelled()); });
     const auto instruct = [this, weak = weak_from_this()](std::string_view instruction) {
       loop_.post([weak, text = std::string(instruction)] {
         const auto self = weak.lock();
@@ -54,7 +55,7 @@ class Evaluation : public std::enable_shared_from_this<Evaluation> {
          .instruction = "You will be asked for your password.",
          .needsConsent = true},
         [this](bool goOn) {
-          if (!goOn) return finish(cancelled());
+          if (!goOn) return finish(presenceCancelled());
           window_ = nullptr;
           work([exchange = exchange_] { return PolkitAuthority::ask(exchange->interrupt); });
         });
@@ -69,12 +70,6 @@ class Evaluation : public std::enable_shared_from_this<Evaluation> {
   }
 
  private:
-  static Error cancelled() {
-    return Error({.domain = "Quillseal.Presence",
-                  .code = 0,
-                  .description = "Authentication was cancelled."});
-  }
-
   void work(std::function<bool()> check) {
     worker_ = loop_.runBlocking(
         [exchange = exchange_, check = std::move(check)] {

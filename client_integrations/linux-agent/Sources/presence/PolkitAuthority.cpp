@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/text/Error.h"
+#include "presence/PresenceError.h"
 
 namespace quillseal::linux::PolkitAuthority {
 
@@ -46,11 +46,6 @@ Decision decisionIn(sd_bus_message& reply) {
   return decision;
 }
 
-[[noreturn]] void cancel() {
-  throw Error(
-      {.domain = "Quillseal.Presence", .code = 0, .description = "Authentication was cancelled."});
-}
-
 }  // namespace
 
 bool canAsk() {
@@ -70,15 +65,14 @@ bool ask(const Interrupt& interrupt) {
   const BusMessage reply = bus.sendAndWait({.request = *request, .interrupt = interrupt});
   if (!reply) {
     bus.call(authority, "CancelCheckAuthorization", "s", cancellationId);
-    cancel();
+    throw presenceCancelled();
   }
   const Decision decision = decisionIn(*reply);
-  if (decision.dismissed) cancel();
+  if (decision.dismissed) throw presenceCancelled();
   if (!decision.authorized && decision.mayAsk)
-    throw Error({.domain = "Quillseal.Presence",
-                 .code = 0,
-                 .description = "Nobody could ask for your password: this desktop runs no polkit "
-                                "authentication agent."});
+    throw presenceError(
+        "Nobody could ask for your password: this desktop runs no polkit "
+        "authentication agent.");
   return decision.authorized;
 }
 

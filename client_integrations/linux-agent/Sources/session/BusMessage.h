@@ -28,6 +28,15 @@ inline constexpr const char* busPath = "/org/freedesktop/DBus";
   return {.service = busName, .path = busPath, .interface = busName, .name = name};
 }
 
+/// Returns the method that reads a property of an object. Its arguments are the property's
+/// interface and name.
+[[nodiscard]] constexpr BusMethod propertyOf(const char* service, const char* path) {
+  return {.service = service,
+          .path = path,
+          .interface = "org.freedesktop.DBus.Properties",
+          .name = "Get"};
+}
+
 /// Makes a call without arguments. Null when the bus is gone.
 [[nodiscard]] inline BusMessage newCall(sd_bus* bus, const BusMethod& method) {
   sd_bus_message* made = nullptr;

@@ -30,11 +30,8 @@ bool isScreenLocked(DesktopBus& bus) {
 
 bool isEffectTakingKeys(DesktopBus& bus) {
   constexpr const char* service = "org.kde.KWin";
-  const DesktopBus::Message answer = bus.call({.service = service,
-                                               .path = "/Effects",
-                                               .interface = "org.freedesktop.DBus.Properties",
-                                               .name = "Get"},
-                                              "ss", "org.kde.kwin.Effects", "activeEffects");
+  const DesktopBus::Message answer =
+      bus.call(propertyOf(service, "/Effects"), "ss", "org.kde.kwin.Effects", "activeEffects");
   if (answer == nullptr || ::sd_bus_message_enter_container(answer.get(), 'v', "as") <= 0 ||
       ::sd_bus_message_enter_container(answer.get(), 'a', "s") <= 0)
     return bus.knows(service).value_or(true);

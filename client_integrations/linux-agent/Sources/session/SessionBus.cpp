@@ -69,10 +69,7 @@ bool answersOnItsBus(const char* address, microseconds timeout) {
 }
 
 bool answersOnSessionBus(sd_bus& bus, microseconds timeout) {
-  BusMethod method{.service = "org.a11y.Bus",
-                   .path = "/org/a11y/bus",
-                   .interface = "org.freedesktop.DBus.Properties",
-                   .name = "Get"};
+  BusMethod method = propertyOf("org.a11y.Bus", "/org/a11y/bus");
   int isEnabled = 0;
   for (const char* property : {"ScreenReaderEnabled", "IsEnabled"}) {
     const Answer answer = ask(bus, method, timeout, {"org.a11y.Status", property});

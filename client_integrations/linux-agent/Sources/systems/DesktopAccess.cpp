@@ -7,9 +7,7 @@
 #include "session/LoadedModule.h"
 #include "wayland/KwinHotkey.h"
 #include "wayland/WaylandConnector.h"
-#include "wayland/WaylandDataControl.h"
 #include "wayland/WaylandReach.h"
-#include "wayland/WaylandWindows.h"
 
 namespace quillseal::linux {
 namespace {
@@ -35,8 +33,7 @@ bool DesktopAccess::reachesApplicationsByPortal() const {
 }
 
 bool DesktopAccess::showsWindows() const {
-  return compositor != nullptr && compositor->isAlive() &&
-         wayland::offersDataControl(*compositor) && WaylandWindows::areOfferedBy(*compositor);
+  return compositor != nullptr && linux::showsWindows(*compositor);
 }
 
 DesktopAccess findDesktopAccess(bool startsWithSession) {

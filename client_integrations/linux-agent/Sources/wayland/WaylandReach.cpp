@@ -6,9 +6,13 @@
 
 namespace quillseal::linux {
 
-bool reachesApplications(const WaylandConnection& connection) {
+bool showsWindows(const WaylandConnection& connection) {
   return connection.isAlive() && wayland::offersDataControl(connection) &&
-         offersKeyboard(connection) && WaylandWindows::areOfferedBy(connection);
+         WaylandWindows::areOfferedBy(connection);
+}
+
+bool reachesApplications(const WaylandConnection& connection) {
+  return showsWindows(connection) && offersKeyboard(connection);
 }
 
 }  // namespace quillseal::linux

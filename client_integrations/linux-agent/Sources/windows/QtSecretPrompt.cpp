@@ -41,12 +41,6 @@ QLabel* problemLabel(std::string_view text) {
   return label;
 }
 
-std::string capitalised(std::string text) {
-  if (!text.empty() && text.front() >= 'a' && text.front() <= 'z')
-    text.front() = static_cast<char>(text.front() - 'a' + 'A');
-  return text;
-}
-
 std::string paragraphs(std::initializer_list<std::string_view> texts) {
   std::string result;
   for (const std::string_view text : texts) {

@@ -23,7 +23,7 @@
 #include "session/QtDescriptors.h"
 #include "session/QtFiles.h"
 #include "session/QtMainLoop.h"
-#include "session/Reach.h"
+#include "session/SessionTraits.h"
 #include "session/SystemMachineIdentity.h"
 #include "session/SystemWallClock.h"
 #include "systems/GnomeSystem.h"
@@ -60,7 +60,7 @@ std::unique_ptr<WindowingSystem> chosen(DesktopAccess access,
     return std::make_unique<PortalSystem>(std::move(access), services);
   // Others, as KWin, share the clipboard of Xwayland only while a program there has the focus.
   const bool isClipboardShared =
-      access.bus != nullptr && access.bus->knows("org.gnome.Shell").value_or(false);
+      access.bus != nullptr && access.bus->hasOwner("org.gnome.Shell").value_or(false);
   const bool canPressKeys = isClipboardShared && access.offer.remoteDesktop > 0;
   const bool isUnderXwayland = QGuiApplication::platformName() == QLatin1String("xcb");
   if (isUnderXwayland && access.portalBus != nullptr && canPressKeys)

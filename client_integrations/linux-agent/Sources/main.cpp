@@ -26,9 +26,9 @@
 #include "session/Environment.h"
 #include "session/IdleMemory.h"
 #include "session/JournalLog.h"
-#include "session/Reach.h"
-#include "session/SessionBus.h"
+#include "session/SessionTraits.h"
 #include "session/SingleInstance.h"
+#include "session/StartupChecks.h"
 #include "session/TerminationSignals.h"
 #include "systems/DesktopAccess.h"
 #include "x11/XcbHandles.h"
@@ -76,7 +76,7 @@ void drawInSharedMemory() {
   qunsetenv(variable);
 }
 
-void obey(Command command, quillseal::AppDelegate& agent) {
+void perform(Command command, quillseal::AppDelegate& agent) {
   switch (command) {
     case Command::sign:
       agent.menuBarManager().signText();
@@ -92,8 +92,9 @@ void obey(Command command, quillseal::AppDelegate& agent) {
   }
 }
 
-/// Returns the exit status if another agent runs, and has got the command.
-std::optional<int> visit(Command command) {
+/// Hands the command to the agent that runs already and returns the exit status; nothing when none
+/// runs.
+std::optional<int> handOverToAgent(Command command) {
   using quillseal::linux::Handover;
   constexpr std::chrono::seconds timeout{5};
   const std::string method(quillseal::linux::wireName(command));
@@ -115,39 +116,45 @@ int runAgent(const CommandLine& commandLine, quillseal::linux::SingleInstance& i
   quillseal::linux::LinuxDesktop desktop(commandLine, log, std::move(access));
   quillseal::AppDelegate agent(desktop.services());
   agent.applicationDidFinishLaunching();
-  const auto obeyOnce = [&](Command command) {
-    if (command != Command::sign || desktop.isNewPress()) obey(command, agent);
+  const auto execute = [&](Command command) {
+    if (command != Command::sign || desktop.isNewPress()) perform(command, agent);
   };
-  instance.onCommand(obeyOnce);
+  instance.onCommand(execute);
   const quillseal::linux::TerminationSignals signals([] { QApplication::quit(); });
-  obeyOnce(commandLine.command);
+  execute(commandLine.command);
   log.write("[start] ready");
   const int status = QApplication::exec();
   instance.onCommand({});
   return status;
 }
 
-int run(int argc, char** argv, const CommandLine& commandLine) {
-  quillseal::linux::shieldProcess();
-  if (const auto status = visit(commandLine.command)) return *status;
-  constexpr std::chrono::seconds timeout{5};
-  if (!quillseal::linux::sessionBusAnswers(timeout))
-    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
-  DesktopAccess access =
-      quillseal::linux::findDesktopAccess(commandLine.command == Command::background);
+/// Qt ends the program when it finds no display, so the display is checked first. Connects to the X
+/// server only where needed, since that starts Xwayland.
+quillseal::linux::PlatformChoice choosePlatform(const DesktopAccess& access,
+                                                quillseal::linux::x11::Connection& xServer) {
   const bool isReached =
       access.reachesApplicationsByCompositor() || access.reachesApplicationsByPortal();
-  // Qt ends the program when it finds no display, so the display is checked first. A connection
-  // starts Xwayland, so it is made only where needed. It stays open until Qt has its own: an X
-  // server may reset when its last client leaves, and refuse Qt meanwhile.
-  quillseal::linux::x11::Connection xServer;
   if (!isReached || !hasWaylandPlugin()) xServer.reset(xcb_connect(nullptr, nullptr));
-  const quillseal::linux::PlatformChoice choice = quillseal::linux::platformFor(
+  return quillseal::linux::platformFor(
       {.hasXServer = xServer && xcb_connection_has_error(xServer.get()) == 0,
        .reachesApplicationsByWayland = isReached,
        .hasWayland = !environmentVariable("WAYLAND_DISPLAY").empty(),
        .hasWaylandPlugin = hasWaylandPlugin(),
        .wantedPlatform = environmentVariable("QT_QPA_PLATFORM")});
+}
+
+int run(int argc, char** argv, const CommandLine& commandLine) {
+  quillseal::linux::shieldProcess();
+  if (const auto status = handOverToAgent(commandLine.command)) return *status;
+  constexpr std::chrono::seconds timeout{5};
+  if (!quillseal::linux::sessionBusAnswers(timeout))
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+  DesktopAccess access =
+      quillseal::linux::findDesktopAccess(commandLine.command == Command::background);
+  // Open until Qt has its own connection: an X server may reset when its last client leaves, and
+  // refuse Qt meanwhile.
+  quillseal::linux::x11::Connection xServer;
+  const quillseal::linux::PlatformChoice choice = choosePlatform(access, xServer);
   if (choice.platform.empty()) {
     report(choice.obstacle);
     return failed;
@@ -168,8 +175,8 @@ int run(int argc, char** argv, const CommandLine& commandLine) {
 
   quillseal::linux::SingleInstance instance;
   switch (instance.claim()) {
-    case quillseal::linux::SingleInstance::Role::visitor:
-      return visit(commandLine.command).value_or(0);
+    case quillseal::linux::SingleInstance::Role::secondary:
+      return handOverToAgent(commandLine.command).value_or(0);
     case quillseal::linux::SingleInstance::Role::alone:
       report(
           "there is no session bus that answers: notifications and commands from other starts do "

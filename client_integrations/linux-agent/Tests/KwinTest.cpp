@@ -281,7 +281,7 @@ TEST_F(KwinHotkeys, EndWithTheBus) {
   const std::clock_t before = std::clock();
   loop.run();
   EXPECT_LT(std::clock() - before, CLOCKS_PER_SEC / 20);  // nobody looks again and again
-  EXPECT_EQ(bus->knows("org.kde.kglobalaccel"), std::nullopt);
+  EXPECT_EQ(bus->hasOwner("org.kde.kglobalaccel"), std::nullopt);
 }
 
 TEST_F(KwinHotkeys, AreOfKwinOnly) {
@@ -298,7 +298,7 @@ TEST_F(KwinHotkeys, AreOfKwinOnly) {
 using KwinBus = Kwin;
 
 TEST_F(KwinBus, IsNotWaitedForWhenItHangs) {
-  EXPECT_EQ(bus->knows("org.kde.kglobalaccel"), false);
+  EXPECT_EQ(bus->hasOwner("org.kde.kglobalaccel"), false);
   sessionBus->hang();
   const auto start = std::chrono::steady_clock::now();
   DesktopBus::Receiver nobody;

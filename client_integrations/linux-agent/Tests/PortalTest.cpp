@@ -278,7 +278,7 @@ std::string Story::stateOf(const std::string& name) {
   if (verb == "held") return yes(hotkey->mayBeHeld());
   if (verb == "activation") return activation;
   if (verb == "refused") return defaults.string("HotkeyRefused").value_or("none");
-  if (verb == "knows") return yes(bus->knows(Portal::service) == true);
+  if (verb == "knows") return yes(bus->hasOwner(Portal::service) == true);
   if (verb == "off") return yes(hotkey->state().isOff);
   if (verb == "keys") return hotkey->state().otherKeys;
   if (verb == "count") return std::to_string(pasteboard->changeCount());

@@ -27,8 +27,8 @@
 #include "session/JournalLog.h"
 #include "session/QtDescriptors.h"
 #include "session/QtMainLoop.h"
-#include "session/Reach.h"
-#include "session/SessionBus.h"
+#include "session/SessionTraits.h"
+#include "session/StartupChecks.h"
 #include "x11/QtPasteboard.h"
 
 namespace quillseal::linux {

@@ -71,7 +71,7 @@ std::optional<ShellFront> ShellExtension::front() const {
 }
 
 std::string ShellExtension::advice() const {
-  if (front() || !bus_.knows(shell).value_or(false)) return {};
+  if (front() || !bus_.hasOwner(shell).value_or(false)) return {};
   const std::string state =
       "On this desktop Quillseal does not see which window you write in, so it leaves the signed "
       "text on the clipboard for you to paste. ";

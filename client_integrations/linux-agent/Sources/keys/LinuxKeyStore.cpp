@@ -76,7 +76,7 @@ class LinuxKeyStore::Key final : public desktop::DeviceKey {
                           .attempts = attempts};
     for (; request.attempt <= attempts; ++request.attempt) {
       const std::optional<SecretBytes> secret = [&] {
-        const Unlocked free(lock);
+        const Unlocked unlocked(lock);
         return store_.prompt_.ask(request);
       }();
       if (!secret) throw KeyFailure("no " + secretName + " was entered.");

@@ -90,7 +90,7 @@ void introduce(DesktopBus& bus, const Deadline& deadline, const PortalOffer& off
 PortalOffer offerOfPortal(DesktopBus& bus, std::chrono::milliseconds timeout) {
   const Deadline deadline(timeout);
   const auto isSilent = [&deadline] { return deadline.left().count() <= 0; };
-  const std::optional<bool> isRunning = bus.knows(Portal::service);
+  const std::optional<bool> isRunning = bus.hasOwner(Portal::service);
   if (!isRunning || (!*isRunning && !isUsefulPortalInstalled())) return {};
   if (!*isRunning && !bus.start(Portal::service, deadline.left())) return {.isSilent = isSilent()};
   PortalOffer offer;

@@ -113,7 +113,7 @@ void DesktopBus::serve(desktop::MainLoop& loop, Descriptors& descriptors) {
   later_ = loop.after({}, [this] { process(); });
 }
 
-std::optional<bool> DesktopBus::knows(const char* name) {
+std::optional<bool> DesktopBus::hasOwner(const char* name) {
   const Message answer = call(methodOfBus("NameHasOwner"), "s", name);
   int has = 0;
   if (answer == nullptr || ::sd_bus_message_read(answer.get(), "b", &has) <= 0) return std::nullopt;

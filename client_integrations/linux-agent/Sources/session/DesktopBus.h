@@ -64,8 +64,8 @@ class DesktopBus {
   /// Starts delivering signals. Both outlive this object.
   void serve(desktop::MainLoop& loop, Descriptors& descriptors);
 
-  /// Whether somebody has this name; nothing when the bus does not answer.
-  [[nodiscard]] std::optional<bool> knows(const char* name);
+  /// Whether some program owns this name; nothing when the bus does not answer.
+  [[nodiscard]] std::optional<bool> hasOwner(const char* name);
 
   /// Starts a service that does not run. Returns whether it runs in the end, and blocks for `limit`
   /// at most.

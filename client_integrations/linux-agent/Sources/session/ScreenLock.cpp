@@ -25,7 +25,7 @@ bool isScreenLocked(DesktopBus& bus) {
   if (answer != nullptr && ::sd_bus_message_read(answer.get(), "b", &isLocked) > 0)
     return isLocked != 0;
   // Without the service nobody locks the screen. One that does not answer may have locked it.
-  return bus.knows(service).value_or(true);
+  return bus.hasOwner(service).value_or(true);
 }
 
 bool isEffectTakingKeys(DesktopBus& bus) {
@@ -34,7 +34,7 @@ bool isEffectTakingKeys(DesktopBus& bus) {
       bus.call(propertyOf(service, "/Effects"), "ss", "org.kde.kwin.Effects", "activeEffects");
   if (answer == nullptr || ::sd_bus_message_enter_container(answer.get(), 'v', "as") <= 0 ||
       ::sd_bus_message_enter_container(answer.get(), 'a', "s") <= 0)
-    return bus.knows(service).value_or(true);
+    return bus.hasOwner(service).value_or(true);
   bool isFound = false;
   for (const char* effect = nullptr; ::sd_bus_message_read(answer.get(), "s", &effect) > 0;)
     isFound = isFound || std::ranges::find(keyTakingEffects, effect) != keyTakingEffects.end();

@@ -9,7 +9,7 @@
 #include <array>
 #include <utility>
 
-#include "session/SessionBus.h"
+#include "session/StartupChecks.h"
 
 namespace quillseal::linux {
 namespace {
@@ -59,7 +59,7 @@ SingleInstance::Role SingleInstance::claim() {
   if (!bus.isConnected()) return Role::alone;
   // The object is registered first: a program that finds the name must find the object too.
   bus.registerVirtualObject(QLatin1String(agentPath), receiver_.get());
-  return bus.registerService(QLatin1String(agentName)) ? Role::agent : Role::visitor;
+  return bus.registerService(QLatin1String(agentName)) ? Role::agent : Role::secondary;
 }
 
 void SingleInstance::onCommand(std::function<void(Command)> handler) {

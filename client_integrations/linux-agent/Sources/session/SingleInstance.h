@@ -12,9 +12,9 @@ namespace quillseal::linux {
 class SingleInstance {
  public:
   enum class Role {
-    agent,    ///< This process owns the name.
-    visitor,  ///< Another process owns the name.
-    alone,    ///< There is no session bus: agents cannot find each other.
+    agent,      ///< This process owns the name.
+    secondary,  ///< Another process owns the name.
+    alone,      ///< There is no session bus: agents cannot find each other.
   };
 
   SingleInstance();

@@ -19,7 +19,7 @@ bool isPortalOfInterest(const DesktopAccess& access, bool startsWithSession) {
   if (!environmentVariable("SWAYSOCK").empty()) return false;
   if (KwinHotkey::isOfferedBy(*access.compositor, *access.bus)) return false;
   // For a hotkey alone, only a start with the session waits until the portal has started.
-  return startsWithSession || access.bus->knows(Portal::service).value_or(false);
+  return startsWithSession || access.bus->hasOwner(Portal::service).value_or(false);
 }
 
 }  // namespace

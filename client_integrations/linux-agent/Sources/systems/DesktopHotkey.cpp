@@ -9,8 +9,8 @@ namespace {
 /// Whether the desktop is GNOME, or one that uses its service for the keyboard settings. Taken for
 /// granted if the bus does not answer.
 bool obeysSettingsOfGnome(DesktopBus& bus) {
-  return bus.knows("org.gnome.Shell").value_or(true) ||
-         bus.knows("org.gnome.SettingsDaemon.MediaKeys").value_or(true);
+  return bus.hasOwner("org.gnome.Shell").value_or(true) ||
+         bus.hasOwner("org.gnome.SettingsDaemon.MediaKeys").value_or(true);
 }
 
 }  // namespace

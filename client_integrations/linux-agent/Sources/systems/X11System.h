@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "session/Reach.h"
+#include "session/SessionTraits.h"
 #include "systems/WindowingSystem.h"
 #include "x11/QtPasteboard.h"
 #include "x11/WindowManager.h"

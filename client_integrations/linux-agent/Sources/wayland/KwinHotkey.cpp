@@ -139,7 +139,7 @@ KwinHotkey::KwinHotkey(const Services& services)
         if (isOfAgent(message)) held_.release();  // older versions report none
       }),
       onChange_([this](sd_bus_message& message) {
-        if (namesAgent(message)) have(firstKeyIn(message).value_or(0));
+        if (namesAgent(message)) takeKeys(firstKeyIn(message).value_or(0));
       }),
       onOwner_([this](sd_bus_message& message) {
         const char* name = nullptr;
@@ -158,7 +158,7 @@ KwinHotkey::~KwinHotkey() {
 }
 
 bool KwinHotkey::isOfferedBy(const WaylandConnection& connection, DesktopBus& bus) {
-  return KwinKeyboard::isOfferedBy(connection) && bus.knows(service).value_or(false);
+  return KwinKeyboard::isOfferedBy(connection) && bus.hasOwner(service).value_or(false);
 }
 
 void KwinHotkey::claim() {
@@ -185,8 +185,8 @@ void KwinHotkey::claim() {
     fail(3, "The shortcuts of your desktop do not answer. Start Quillseal again");
 }
 
-/// Has the keys that the desktop names, 0 for none.
-void KwinHotkey::have(int keys) {
+/// Takes note of the keys that the desktop grants, 0 for none.
+void KwinHotkey::takeKeys(int keys) {
   if (keys == 0) return turnOff();
   mayHaveKeys_ = true;
   setState({.otherKeys = keys == keys_ ? std::string() : nameOfNumber(keys), .isOff = false});
@@ -209,7 +209,7 @@ KwinHotkey::Registration KwinHotkey::request() {
   if (!granted) return registration;
   registration.isAnswered = true;
   registration.granted = *granted;
-  have(*granted);
+  takeKeys(*granted);
   if (*granted != 0) return registration;
 
   const DesktopBus::Message owner = bus.call(method("actionList"), "(ai)", 4, keys_, 0, 0, 0);

@@ -37,7 +37,7 @@ class KwinHotkey : public ClaimedHotkey {
   };
   void claim() override;
   [[nodiscard]] Registration request();
-  void have(int keys);
+  void takeKeys(int keys);
 
   Services services_;
   int keys_ = 0;  ///< that were asked for, as Qt numbers them

@@ -19,7 +19,7 @@ namespace {
 using Context = UniqueHandle<xkb_context, xkb_context_unref>;
 using Keymap = UniqueHandle<xkb_keymap, xkb_keymap_unref>;
 
-/// A file in memory; null when it cannot be mapped.
+/// A file in memory; null when it cannot be keymapReported.
 class Mapping {
  public:
   Mapping(int file, std::size_t size)
@@ -61,17 +61,17 @@ struct WaylandLayout::State {
     changed();
   }
 
-  static void able(void* data, wl_seat* seat, std::uint32_t capabilities) {
+  static void capabilitiesReported(void* data, wl_seat* seat, std::uint32_t capabilities) {
     auto& state = *static_cast<State*>(data);
     if ((capabilities & WL_SEAT_CAPABILITY_KEYBOARD) == 0 || state.keyboard != nullptr) return;
     state.keyboard.reset(wl_seat_get_keyboard(seat));
     wl_keyboard_add_listener(state.keyboard.get(), &ofKeyboard, &state);
   }
-  static constexpr wl_seat_listener ofSeat = {.capabilities = able,
+  static constexpr wl_seat_listener ofSeat = {.capabilities = capabilitiesReported,
                                               .name = [](void*, wl_seat*, const char*) {}};
 
-  static void mapped(void* data, wl_keyboard* /*keyboard*/, std::uint32_t format, std::int32_t file,
-                     std::uint32_t size) {
+  static void keymapReported(void* data, wl_keyboard* /*keyboard*/, std::uint32_t format,
+                             std::int32_t file, std::uint32_t size) {
     const FileDescriptor owner(file);
     std::string layout =
         format == WL_KEYBOARD_KEYMAP_FORMAT_XKB_V1 ? textOf(file, size) : std::string();
@@ -79,7 +79,7 @@ struct WaylandLayout::State {
   }
   // No key events arrive: this connection has no window.
   static constexpr wl_keyboard_listener ofKeyboard = {
-      .keymap = mapped,
+      .keymap = keymapReported,
       .enter = [](void*, wl_keyboard*, std::uint32_t, wl_surface*, wl_array*) {},
       .leave = [](void*, wl_keyboard*, std::uint32_t, wl_surface*) {},
       .key = [](void*, wl_keyboard*, std::uint32_t, std::uint32_t, std::uint32_t, std::uint32_t) {},

@@ -1,4 +1,4 @@
-#include "session/SessionBus.h"
+#include "session/StartupChecks.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -16,7 +16,7 @@ namespace {
 using std::chrono::microseconds;
 
 // The hung bus's accept queue is full.
-constexpr int isCrowded = -EAGAIN;
+constexpr int queueFull = -EAGAIN;
 
 using Bus = UniqueHandle<sd_bus, ::sd_bus_close_unref>;
 
@@ -25,7 +25,7 @@ struct Answer {
   bool isInTime = true;
 };
 
-bool letsIn(sd_bus& bus, microseconds timeout) {
+bool isReadyWithin(sd_bus& bus, microseconds timeout) {
   using Clock = std::chrono::steady_clock;
   const Clock::time_point deadline = Clock::now() + timeout;
   while (::sd_bus_is_ready(&bus) == 0) {
@@ -60,15 +60,15 @@ bool answersOnItsBus(const char* address, microseconds timeout) {
   const Bus bus(made);
   ::sd_bus_set_address(made, address);
   ::sd_bus_set_bus_client(made, 1);
-  if (const int result = ::sd_bus_start(made); result < 0) return result != isCrowded;
+  if (const int result = ::sd_bus_start(made); result < 0) return result != queueFull;
   const BusMethod ping{.service = "org.a11y.atspi.Registry",
                        .path = "/org/a11y/atspi/registry",
                        .interface = "org.freedesktop.DBus.Peer",
                        .name = "Ping"};
-  return letsIn(*bus, timeout) && ask(*bus, ping, timeout).isInTime;
+  return isReadyWithin(*bus, timeout) && ask(*bus, ping, timeout).isInTime;
 }
 
-bool answersOnSessionBus(sd_bus& bus, microseconds timeout) {
+bool accessibilityAnswersOn(sd_bus& bus, microseconds timeout) {
   BusMethod method = propertyOf("org.a11y.Bus", "/org/a11y/bus");
   int isEnabled = 0;
   for (const char* property : {"ScreenReaderEnabled", "IsEnabled"}) {
@@ -95,7 +95,7 @@ bool sessionBusAnswers(std::chrono::milliseconds timeout) {
   sd_bus* opened = nullptr;
   const int result = ::sd_bus_open_user(&opened);
   const Bus bus(opened);
-  return result < 0 ? result != isCrowded : letsIn(*bus, timeout);
+  return result < 0 ? result != queueFull : isReadyWithin(*bus, timeout);
 }
 
 Handover handOver(const std::string& method, std::chrono::milliseconds timeout) {
@@ -103,7 +103,7 @@ Handover handOver(const std::string& method, std::chrono::milliseconds timeout) 
   if (::sd_bus_open_user(&opened) < 0) return Handover::noAgent;
   const Bus bus(opened);
   constexpr std::chrono::seconds usually{1};  // a bus that hangs is waited for later
-  if (!letsIn(*bus, usually)) return Handover::noAgent;
+  if (!isReadyWithin(*bus, usually)) return Handover::noAgent;
   const Answer owner = ask(*bus, methodOfBus("NameHasOwner"), usually, {agentName});
   int hasAgent = 0;
   if (!owner.message || ::sd_bus_message_read(owner.message.get(), "b", &hasAgent) <= 0 ||
@@ -120,7 +120,7 @@ bool accessibilityAnswers(std::chrono::milliseconds timeout) {
   sd_bus* opened = nullptr;
   if (::sd_bus_open_user(&opened) < 0) return true;
   const Bus bus(opened);
-  return answersOnSessionBus(*bus, timeout);
+  return accessibilityAnswersOn(*bus, timeout);
 }
 
 }  // namespace quillseal::linux

@@ -1,4 +1,4 @@
-#include "session/Reach.h"
+#include "session/SessionTraits.h"
 
 namespace quillseal::linux {
 

@@ -1,9 +1,13 @@
 #include <QApplication>
+#include <QClipboard>
 #include <QDialog>
+#include <QInputMethodEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
 #include <QTest>
 #include <algorithm>
 #include <array>
@@ -20,6 +24,7 @@
 #include "windows/QtPresencePrompt.h"
 #include "windows/QtSecretPrompt.h"
 #include "windows/QtWindows.h"
+#include "windows/SecretField.h"
 #include "windows/TrayStatusItem.h"
 
 namespace quillseal::linux {
@@ -155,6 +160,46 @@ TEST_F(QtPromptsTest, ANewSecretIsTypedTwice) {
   EXPECT_EQ(answer(), good.toStdString());
 }
 
+TEST_F(QtPromptsTest, ASecretMayBePastedOrComposedAndHasALongestLength) {
+  SecretField field;
+  int edits = 0;
+  field.onEdit = [&] { ++edits; };
+  const auto paste = [&](const QString& text) {
+    QGuiApplication::clipboard()->setText(text);
+    QTest::keySequence(&field, QKeySequence::Paste);
+  };
+  const auto compose = [&](const QString& text) {
+    QInputMethodEvent event;
+    event.setCommitString(text);
+    QApplication::sendEvent(&field, &event);
+  };
+  const auto removeLast = [&] { QTest::keyClick(&field, Qt::Key_Backspace); };
+  const auto state = [&] {
+    return std::string(field.secret().text()) + " " + std::to_string(field.text().size()) + " " +
+           std::to_string(std::exchange(edits, 0));
+  };
+  paste(QStringLiteral("pä"));
+  compose(QStringLiteral("ü😀"));
+  compose(QStringLiteral("\n"));
+  compose(QString());
+  EXPECT_EQ(state(), "päü😀 2 2");
+  removeLast();
+  EXPECT_EQ(state(), "pä 1 1");
+  removeLast();
+  removeLast();
+  EXPECT_EQ(state(), " 0 1");
+  const QString longest(1024, QLatin1Char('x'));
+  paste(longest + QLatin1Char('x'));
+  EXPECT_EQ(field.secret().size(), 0);
+  paste(longest);
+  QTest::keyClicks(&field, QStringLiteral("x"));
+  EXPECT_EQ(field.take().size(), 1024);
+  EXPECT_EQ(state(), " 0 4");
+  EXPECT_EQ(field.contextMenuPolicy(), Qt::NoContextMenu);
+  EXPECT_FALSE(field.acceptDrops());
+  EXPECT_TRUE(field.inputMethodHints().testFlag(Qt::ImhSensitiveData));
+}
+
 TEST_F(QtPromptsTest, NoAnswerWithoutThePerson) {
   const std::function<void()> endings[] = {[] { press(Qt::Key_Escape); }, cancel,
                                            [this] { prompt.close(); }};
@@ -209,6 +254,38 @@ TEST_F(QtPromptsTest, AConfirmationBeginsWithWhatTheAgentProposes) {
   EXPECT_EQ(confirm(cancel), "none");
 }
 
+TEST_F(QtPromptsTest, AQuestionFitsTheScreenAndEndsWithItsTicket) {
+  QtAlerts alerts(windows);
+  std::string answers;
+  const auto ask = [&](const std::string& body) {
+    return alerts.ask({.title = "Sign?",
+                       .body = body,
+                       .style = desktop::AlertStyle::warning,
+                       .confirm = "Sign & Go",
+                       .cancel = "Cancel"},
+                      [&](desktop::Answer answer) {
+                        answers += answer == desktop::Answer::confirmed ? "yes;" : "no;";
+                      });
+  };
+  desktop::Ticket ticket = ask("Short.\n\n");
+  EXPECT_EQ(said(), "Sign?\nShort.") << "no empty lines at the end";
+  const QSize small = dialog().size();
+  EXPECT_FALSE(dialog().findChild<QLabel*>()->pixmap().isNull());
+  EXPECT_TRUE(canAccept());
+  press(Qt::Key_Return);
+  ticket = ask(QString("A line.\n").repeated(200).toStdString());
+  const QWidget& shown = dialog();
+  EXPECT_GT(shown.height(), small.height());
+  EXPECT_LT(shown.height(), shown.screen()->availableSize().height());
+  EXPECT_GT(shown.width(), small.width()) << "has no room for the scroll bar";
+  press(Qt::Key_Tab);
+  press(Qt::Key_Space);  // the other button
+  ticket = ask("Short.");
+  ticket = {};
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  EXPECT_EQ(answers, "yes;no;");
+}
+
 // The rest is here because it needs the same toolkit.
 TEST_F(QtPromptsTest, AWindowFollowsItsForm) {
   using desktop::TextColour;
@@ -248,11 +325,13 @@ TEST_F(QtPromptsTest, AWindowFollowsItsForm) {
   std::vector<std::string> colours;
   for (const QLabel* label : shown.findChildren<QLabel*>())
     if (label->text() != QStringLiteral("is"))
-      colours.push_back(label->palette().color(QPalette::WindowText).name().toStdString());
+      colours.push_back(
+          label->palette().color(QPalette::WindowText).name(QColor::HexArgb).toStdString());
   const QPalette usual;
-  const std::string plain = usual.color(QPalette::WindowText).name().toStdString();
-  const std::string faint = usual.color(QPalette::PlaceholderText).name().toStdString();
-  EXPECT_THAT(colours, ElementsAre(plain, "#15803d", "#b45309", faint, plain));
+  const std::string plain = usual.color(QPalette::WindowText).name(QColor::HexArgb).toStdString();
+  const std::string faint =
+      usual.color(QPalette::PlaceholderText).name(QColor::HexArgb).toStdString();
+  EXPECT_THAT(colours, ElementsAre(plain, "#ff15803d", "#ffb45309", faint, plain));
   EXPECT_EQ(shown.width(), 320);
   auto& edit = *shown.findChild<QLineEdit*>();
   EXPECT_EQ(edit.text(), QStringLiteral("c"));

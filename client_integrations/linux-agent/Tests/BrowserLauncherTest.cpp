@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <filesystem>
 #include <optional>
@@ -171,16 +173,17 @@ TEST_F(BrowserLauncherTest, DeletesThePagesOfAnAgentThatWasKilled) {
   const fs::path folder = computer().root() / "runtime/quillseal";
   const fs::path old = folder / "page-old.html";
   const fs::path fresh = folder / "page-fresh.html";
-  const fs::path other = folder / "tabs";
+  const std::array others{folder / "tabs", folder / "page-notes", folder / "notes.html"};
   launcher_.open(urlOfLength(40), "");  // creates the folder
-  for (const fs::path& file : {old, fresh, other})
+  testing::overwrite(fresh, "x");
+  for (const fs::path& file : {old, others[0], others[1], others[2]}) {
     testing::overwrite(file, "x");
-  for (const fs::path& file : {old, other})
     fs::last_write_time(file, fs::file_time_type::clock::now() - 3 * RedirectPage::life);
+  }
   launcher_.open(urlOfLength(40), "");
   EXPECT_FALSE(fs::exists(old));
   EXPECT_TRUE(fs::exists(fresh)) << "another agent may be starting a browser";
-  EXPECT_TRUE(fs::exists(other));
+  EXPECT_TRUE(std::ranges::all_of(others, [](const auto& other) { return fs::exists(other); }));
 }
 
 TEST_F(BrowserLauncherTest, TellsWhyNothingOpens) {

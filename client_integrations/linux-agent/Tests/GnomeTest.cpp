@@ -24,6 +24,7 @@
 #include "core/text/UniqueHandle.h"
 #include "desktop/SigningHotkey.h"
 #include "gnome/GioShortcutSettings.h"
+#include "gnome/GnomeApplications.h"
 #include "gnome/GnomeHotkey.h"
 #include "gnome/ShellExtension.h"
 #include "session/DesktopBus.h"
@@ -183,6 +184,68 @@ TEST(ShellExtensionTest, HoldsNothingUpWhileTheShellHangs) {
               ElementsAre("org.a.Editor", "Editor", "quillseal_gnome_tests",
                           documentName({.title = "d", .focus = 0})));
   EXPECT_EQ(extension.activateApplication("browser.desktop"), true);
+}
+
+// Applications ------------------------------------------------------------------------------------
+
+struct OneBrowser : DesktopEntries {
+  std::optional<DesktopEntry> forWindow(const WindowTraits& /*traits*/) override { return {}; }
+  std::optional<DesktopEntry> defaultFor(const std::string& /*url*/) override { return {}; }
+  std::optional<DesktopEntry> withId(std::string_view id) override {
+    DesktopEntry entry{};
+    entry.id = id;
+    return entry;
+  }
+  bool open(const std::string& /*url*/, std::string_view /*id*/) override { return opens; }
+  bool opens = true;
+};
+
+TEST(GnomeApplicationsTest, BringTheBrowserToTheFrontOrTellWhereThePageIs) {
+  using std::chrono::milliseconds;
+  constexpr milliseconds running{300};
+  constexpr milliseconds started{3300};
+  const testing::TemporaryFolder runtime;
+  ::setenv("XDG_RUNTIME_DIR", runtime.path().c_str(), 1);
+  const struct {
+    bool opens;
+    std::vector<int> finds;  ///< whether the extension does, or -1 where it is absent
+    milliseconds time;
+    bool isTold;
+  } rows[] = {{true, {1}, running, false},
+              {true, {0, 1}, started, false},
+              {true, {0, 0}, started, true},
+              {true, {-1}, running, true},
+              {false, {}, milliseconds{0}, false}};
+  for (const auto& row : rows) {
+    const testing::PrivateBus daemon("DBUS_SESSION_BUS_ADDRESS");
+    testing::VirtualLoop loop;
+    std::size_t asked = 0;
+    milliseconds last{0};
+    const testing::BusServices shell(
+        ::sd_bus_open_user, {"org.gnome.Shell"},
+        [&](sd_bus_message* call, const std::string& /*method*/, sd_bus_error* error) {
+          last = std::chrono::duration_cast<milliseconds>(loop.elapsed());
+          const int finds = row.finds.at(asked++);
+          return finds < 0 ? ::sd_bus_error_set(error, "a.b", "no extension")
+                           : ::sd_bus_reply_method_return(call, "b", finds);
+        });
+    const auto bus = DesktopBus::open();
+    const ShellExtension extension(*bus);
+    OneBrowser entries;
+    entries.opens = row.opens;
+    bool isTold = false;
+    GnomeApplications applications(
+        {.extension = extension, .entries = entries, .loop = loop, .tell = [&](const std::string&) {
+           isTold = true;
+         }});
+    bool isOpened = false;
+    const auto ticket =
+        applications.open("https://a.example", {.location = "web", .bundleIdentifier = {}},
+                          [&](const std::optional<Error>& error) { isOpened = !error; });
+    loop.run();
+    EXPECT_EQ(std::tuple(isOpened, asked, last, isTold),
+              std::tuple(row.opens, row.finds.size(), row.time, row.isTold));
+  }
 }
 
 // Hotkey ------------------------------------------------------------------------------------------

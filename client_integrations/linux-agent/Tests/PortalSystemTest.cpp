@@ -104,7 +104,9 @@ TEST_F(PortalSystemTest, ElseAsksForAShortcutInTheUsersSettings) {
   user.bound = "<Super>F6";
   EXPECT_THAT(start, ThrowsMessage<Error>(HasSubstr("gives programs no hotkey")));
   system->hotkey().refresh();
+  system->hotkey().askAgain();
   EXPECT_TRUE(isOff());
+  EXPECT_THAT(user.trace, ElementsAre(HasSubstr("gives programs no hotkey")));
   user.bound.clear();
   user.defaults.strings.clear();
 

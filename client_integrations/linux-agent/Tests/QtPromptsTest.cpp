@@ -278,6 +278,8 @@ TEST_F(QtPromptsTest, AQuestionFitsTheScreenAndEndsWithItsTicket) {
   EXPECT_GT(shown.height(), small.height());
   EXPECT_LT(shown.height(), shown.screen()->availableSize().height());
   EXPECT_GT(shown.width(), small.width()) << "has no room for the scroll bar";
+  const auto& scroll = *shown.findChild<QScrollArea*>();
+  EXPECT_EQ(scroll.widget()->width(), scroll.viewport()->width());
   press(Qt::Key_Tab);
   press(Qt::Key_Space);  // the other button
   ticket = ask("Short.");
@@ -333,6 +335,7 @@ TEST_F(QtPromptsTest, AWindowFollowsItsForm) {
       usual.color(QPalette::PlaceholderText).name(QColor::HexArgb).toStdString();
   EXPECT_THAT(colours, ElementsAre(plain, "#ff15803d", "#ffb45309", faint, plain));
   EXPECT_EQ(shown.width(), 320);
+  EXPECT_EQ(shown.minimumWidth(), 320);
   auto& edit = *shown.findChild<QLineEdit*>();
   EXPECT_EQ(edit.text(), QStringLiteral("c"));
   EXPECT_EQ(edit.echoMode(), QLineEdit::Normal);

@@ -205,6 +205,16 @@ TEST(WaylandReach, EndsWithTheCompositor) {
   EXPECT_THROW(agent.pasteboard.write({.plainText = "x", .html = "x"}), Error);
 }
 
+TEST(WaylandConnection, TellsThatItHasCaughtUpAlsoWhereARoundTripReadTheAnswer) {
+  const ScriptedCompositor compositor;
+  Agent agent;
+  bool isTold = false;
+  const desktop::Ticket waiting = agent.connection->catchUp([&] { isTold = true; });
+  EXPECT_TRUE(agent.connection->roundTrip());
+  EXPECT_FALSE(isTold) << "not inside of the round trip";
+  testing::runUntil(agent.loop, [&] { return isTold; });
+}
+
 TEST(WaylandReach, WaitsForNoCompositorThatHangs) {
   ScriptedCompositor compositor;
   compositor.hang();
@@ -331,6 +341,7 @@ struct Story {
   desktop::Ticket fetching;
   int changesTold = 0;
   desktop::Ticket watching;
+  desktop::Ticket browsing;
 };
 
 /// What there is now, by the name that a story gives it.
@@ -402,6 +413,10 @@ void Story::doNow(const std::string& line) {
       {"start", [&] { agent.emplace(); }},
       {"raise", [&] { agent->windows.activateOwn(what); }},
       {"return", [&] { agent->applications.activate(agent->applications.frontmost().value()); }},
+      {"browse",
+       [&] {
+         browsing = agent->applications.open("https://a.example", {what, {}}, [](auto) {});
+       }},
       {"write", [&] { agent->pasteboard.write({.plainText = first, .html = rest}); }},
       {"target",
        [&] {

@@ -42,7 +42,7 @@ constexpr std::pair<double, std::u32string_view> wordsByFrequency[] = {
      U"really received receiving remove removed reply review right said same say secure sent "
      U"service services set since software something special start still subject support sure "
      U"system take team text those through today too two under update used users using version "
-     U"very view way web week where while why wish within without world year years"},
+     U"very view way web week where while why wish within without world year years don't it's i'm"},
     {.0003,
      U"able above act action add additional against airdrop already always amount another "
      U"anyone anything area around asked assets assistance attention based better between big "
@@ -64,7 +64,8 @@ constexpr std::pair<double, std::u32string_view> wordsByFrequency[] = {
      U"someone soon source started states step stop story subscription sum systems talk tax "
      U"tell term terms thing though three times title tokens tomorrow top total trade trading "
      U"transaction transfer trust try trying type until user value verification verify via "
-     U"video visit wanted website whether won working works yes yet yourself"},
+     U"video visit wanted website whether won working works yes yet yourself cannot can't didn't "
+     U"doesn't i'll i've isn't that's there's we're you're"},
     {.0001,
      U"accept accounts activity age allow although america american application apply ask avoid "
      U"away become bill bitcoin board bring build chance changed claims close communication "
@@ -78,7 +79,8 @@ constexpr std::pair<double, std::u32string_view> wordsByFrequency[] = {
      U"reach red registered removal return rewards root safe search section seen selected sell "
      U"sending shipping signed space specific standard statement status stock street test third "
      U"thousands together told transactions updates waiting weeks welcome win word write writes "
-     U"writing wrong yahoo yours"},
+     U"writing wrong yahoo yours aren't can’t couldn't don’t haven't here's i’m it’s let's they're "
+     U"wasn't we'll we've won't wouldn't you'll you've"},
 };
 // clang-format on
 

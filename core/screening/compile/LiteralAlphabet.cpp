@@ -1,9 +1,9 @@
 // Operations on literals: joining, cutting, measuring, estimating how common they are.
 //
 // Algorithm: a literal is a string of folded letters in which a blank stands for any run of white
-// space. A literal is cut after nine letters, or after six when these are rare already, but never
-// within what one code point may fold to (the first s of ß): a literal that ended there would be
-// missed.
+// space. A literal is cut after nine letters, or after seven when these are rare already, but never
+// within what one code point may fold to (between the two s of ß): a literal that ended there would
+// be missed.
 // Bound: linear in the letters; a product has as many literals as its factors multiplied.
 // Tests: ScreeningEngine.AgreesWithIcuOnEveryConstruct (white space in literals, long literals, ß).
 
@@ -20,7 +20,7 @@ namespace {
 /// Letters of a literal; of longer ones only the beginning is asked for.
 constexpr std::size_t maxLiteralLength = 9;
 /// Letters that may be enough: one more would cost a state of the index and find little less.
-constexpr std::size_t rareLiteralLength = 6;
+constexpr std::size_t rareLiteralLength = 7;
 constexpr double rareFrequency = 1e-6;  ///< at most
 
 std::uint32_t sum(std::uint32_t a, std::uint32_t b) {
@@ -138,11 +138,11 @@ Distance LiteralAlphabet::shorten(Literals& literals) const {
 std::size_t LiteralAlphabet::keptLength(const Literal& literal) const {
   std::size_t length = 0;  // the latest at which it can be cut
   std::u32string text;
-  for (const Letter letter : literal) {
-    if (text.size() == maxLiteralLength) return length > 0 ? length : literal.size();
-    text.push_back(classes_.codePointOf(letter));
-    if (isWithinExpansion(letter)) continue;
-    length = text.size();
+  for (std::size_t i = 0; i < literal.size(); ++i) {
+    if (i == maxLiteralLength) return length > 0 ? length : literal.size();
+    text.push_back(classes_.codePointOf(literal[i]));
+    if (i + 1 < literal.size() && isWithinExpansion(literal[i], literal[i + 1])) continue;
+    length = i + 1;
     if (length >= rareLiteralLength && expectedFrequency(text) <= rareFrequency) return length;
   }
   return literal.size();
@@ -159,13 +159,12 @@ bool LiteralAlphabet::isWordLetter(Letter letter) const {
          std::all_of(ids.begin(), ids.end(), [this](ClassId id) { return classes_.isWord(id); });
 }
 
-/// Whether one code point may fold to this letter and more behind it, as ß does to s. A literal
-/// that ended there would end within a code point, where the index is in no match state.
-bool LiteralAlphabet::isWithinExpansion(Letter letter) const {
-  const auto ids = classes_.classesWith(letter);
-  return std::any_of(ids.begin(), ids.end(), [&](ClassId id) {
-    const auto folding = classes_.folding(id);
-    return std::find(folding.begin(), folding.end() - 1, letter) != folding.end() - 1;
+/// Whether one code point may fold to both letters, as ß does to two s. A literal that ended
+/// between them would end within a code point, where the index is in no match state.
+bool LiteralAlphabet::isWithinExpansion(Letter letter, Letter next) const {
+  const Letter both[] = {letter, next};
+  return std::ranges::any_of(classes_.classesWith(letter), [&](ClassId id) {
+    return !std::ranges::search(classes_.folding(id), both).empty();
   });
 }
 

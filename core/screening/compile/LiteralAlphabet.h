@@ -52,7 +52,7 @@ class LiteralAlphabet {
   [[nodiscard]] std::size_t keptLength(const Literal& literal) const;
   [[nodiscard]] bool isSpaceLetter(Letter letter) const;
   [[nodiscard]] bool isWordLetter(Letter letter) const;
-  [[nodiscard]] bool isWithinExpansion(Letter letter) const;
+  [[nodiscard]] bool isWithinExpansion(Letter letter, Letter next) const;
   [[nodiscard]] bool startsWithSpace(const Literal& literal) const {
     return !literal.empty() && literal.front() == space_;
   }

@@ -39,7 +39,11 @@ constexpr double frequencyLimits[] = {1, 0.01, 0.003, 0.001, 0.0003};
 // What finding a match costs, in units of one literal met in the text.
 constexpr double costOfFirstElement = 3;  ///< which becomes a candidate
 constexpr double costOfSequence = 2;      ///< a sequence that is complete
-constexpr double costOfStart = 2;         ///< a place where a match might start
+constexpr double leastCostOfMatch = 20;   ///< a run of the matcher
+/// What it costs besides for each code point that it may look at, up to some of them.
+constexpr double costOfReach = 0.5;
+constexpr double longestReach = 500;
+constexpr double costOfStart = 2;  ///< a place where a match might start
 /// Code points that a lead without limit is expected to go back.
 constexpr double longestWalk = 5000;
 
@@ -348,20 +352,48 @@ class Analysis {
 
   RequiredSequence cheapestSequence(const Path& path) {
     RequiredSequence cheapest;
-    for (const double limit : frequencyLimits) {
-      RequiredSequence sequence = sequenceOf(path, limit);
-      if (sequence.elements.empty()) break;
-      sequence.cost = costOf(sequence);
-      if (cheapest.elements.empty() || sequence.cost < cheapest.cost)
-        cheapest = std::move(sequence);
-    }
+    double reach = 0;
+    for (const Node* node : path)
+      reach += reachOf(*node);
+    const double costOfMatch = leastCostOfMatch + costOfReach * std::min(reach, longestReach);
+    const auto compare = [&](const Path& required) {
+      for (const double limit : frequencyLimits) {
+        RequiredSequence sequence = sequenceOf(required, limit);
+        if (sequence.elements.empty()) break;
+        sequence.costOfMatch = costOfMatch;
+        sequence.cost = costOf(sequence);
+        if (cheapest.elements.empty() || sequence.cost < cheapest.cost)
+          cheapest = std::move(sequence);
+      }
+    };
+    compare(path);
+    for (auto node = path.begin(); node != path.end(); ++node)
+      if ((*node)->kind == Node::Kind::lookAhead && !(*node)->negative)
+        compare(into(Path(path.begin(), node), (*node)->children.front()));
     return cheapest;
+  }
+
+  /// The path that goes on with what a look-ahead asks for, not with what follows it.
+  static Path into(Path path, const Node& ahead) {
+    if (ahead.kind != Node::Kind::sequence) {
+      path.push_back(&ahead);
+    } else {
+      for (const Node& child : ahead.children)
+        path.push_back(&child);
+    }
+    return path;
   }
 
   /// About how many code points that is.
   static double charactersOf(const Distance& distance) {
     constexpr double charactersOfRun = 3;
     return std::min<double>(distance.steps, charactersOfRun * distance.runs);
+  }
+
+  /// How many code points the matcher may look at.
+  double reachOf(const Node& node) {
+    const bool isAhead = node.kind == Node::Kind::lookAhead;
+    return charactersOf(width(isAhead ? node.children.front() : node));
   }
 
   [[nodiscard]] double costOf(const RequiredSequence& sequence) const {
@@ -373,8 +405,8 @@ class Analysis {
       cost += isFirst ? costOfFirstElement * frequency : frequency;
       complete *= isFirst ? frequency : std::min(1.0, frequency * charactersOf(element.distance));
     }
-    return cost + complete * (costOfSequence + costOfMatch +
-                              costOfStart * std::min<double>(sequence.lead.steps, longestWalk));
+    return cost + complete * (costOfSequence + sequence.costOfMatch +
+                              costOfStart * std::min(charactersOf(sequence.lead), longestWalk));
   }
 
   RequiredSequence sequenceOf(const Path& path, double frequencyLimit) {

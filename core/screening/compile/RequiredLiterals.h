@@ -9,9 +9,6 @@
 
 namespace quillseal::screening {
 
-/// What a run of the matcher costs, in units of one literal met in the text.
-inline constexpr double costOfMatch = 20;
-
 struct RequiredElement {
   Literals literals{};          ///< one of them stands in every match
   bool boundaryBefore = false;  ///< \b holds before it
@@ -25,7 +22,8 @@ struct RequiredSequence {
   Distance lead{};              ///< from the start of the match to that of the first element
   std::vector<std::uint64_t> leadClasses;  ///< all that may stand there, 64 to a word
   std::vector<RequiredElement> elements;
-  double cost = 0;  ///< of looking for it, for each code point of a text, on an arbitrary scale
+  double cost = 0;         ///< of looking for it, for each code point, in literals met in the text
+  double costOfMatch = 0;  ///< of one run of the matcher, likewise
 };
 
 /// How the starts of a pattern's matches can be found: every match starts before a completed

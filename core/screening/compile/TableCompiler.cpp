@@ -209,7 +209,7 @@ class SequenceTables {
     const auto number = narrowed<std::uint16_t>(sequences_.size());
     sequences_.emplace_back();
     LiteralSequence added{.search = search,
-                          .lead = sequence.lead.steps,
+                          .lead = sequence.lead,
                           .alternative = narrowed<std::uint16_t>(sequence.alternative),
                           .leadClasses = sets_.intern(sequence.leadClasses)};
     std::size_t previousElements = variants_.size();  // where its variants begin
@@ -287,8 +287,8 @@ class PrefixTables {
     const auto prefix = prefixClasses(program, program.alternative(sequences.front().alternative),
                                       maxPrefixLength, classes_, sets_);
     if (prefix.empty()) return false;
-    const double cost =
-        costOfMatch * frequencyOf(prefix) + costOfPrefixBit * static_cast<double>(prefix.size());
+    const double cost = sequences.front().costOfMatch * frequencyOf(prefix) +
+                        costOfPrefixBit * static_cast<double>(prefix.size());
     double costOfSequences = 0;
     for (const RequiredSequence& sequence : sequences)
       costOfSequences += sequence.cost;

@@ -158,9 +158,12 @@ class ScreeningEngine::Screening {
 
   struct SequenceState {
     std::uint32_t completedAt = 0;  ///< steps, when it was last completed
-    // Starts within [triedLow, triedHigh] have been tried.
+    // Starts within [triedLow, triedHigh] have been tried: all that lead to an element within
+    // [triedFrom, triedHigh].
     std::uint32_t triedLow = none;
     std::uint32_t triedHigh = 0;
+    std::uint32_t triedFrom = 0;
+    Distance rest{};  ///< of the lead from triedLow to an element at triedFrom
   };
 
   void runLiteralPrefilter(std::size_t from, std::size_t to) {
@@ -320,34 +323,57 @@ class ScreeningEngine::Screening {
   /// Tries all starts from which the first element at `literalStart` may be reached.
   void tryBefore(std::uint32_t sequenceNumber, std::uint32_t literalStart) {
     const LiteralSequence& sequence = table_.sequences[sequenceNumber];
-    if (sequence.lead == 0) {
+    if (sequence.lead.steps == 0) {
       tryAlternative(sequence.search, sequence.alternative, literalStart);
       return;
     }
     SequenceState& state = sequenceStates_[sequenceNumber];
-    // An earlier walk has been further down, unless it set out from further up and ran out of
-    // steps; then this one goes all the way.
-    const bool mayStop =
-        state.triedLow != none && (literalStart >= state.triedHigh || sequence.lead == unbounded);
-    const Outcome& outcome = outcomes_[sequence.search];
-    // Down to the earlier walk, all starts lie behind the match that is known.
-    if (mayStop && literalStart >= state.triedHigh && outcome.start <= state.triedHigh) return;
-    const auto isLead = [&](std::uint32_t at) {
-      return tables_.sets.contains(sequence.leadClasses, text_.classAt(at));
-    };
     std::uint32_t low = literalStart;
-    bool metEarlierWalk = false;
-    for (std::uint32_t walked = 0; low > 0 && isLead(low - 1) && !metEarlierWalk; ++steps_) {
-      const bool continuesRun = low < literalStart && text_.continuesSpace(low);
-      if (!continuesRun && walked++ == sequence.lead) break;
-      --low;
-      metEarlierWalk = mayStop && low >= state.triedLow && low <= state.triedHigh;
+    std::uint32_t high = literalStart;
+    if (literalStart < state.triedLow || literalStart > state.triedHigh) {
+      const bool isAbove = state.triedLow < literalStart;
+      // Down to there, all starts lie behind the match that is known.
+      if (isAbove && outcomes_[sequence.search].start <= state.triedHigh) return;
+      Distance rest = sequence.lead;
+      const std::uint32_t floor = isAbove ? state.triedHigh : 0;
+      low = walkBack(sequence, literalStart, floor, rest);
+      state.triedHigh = literalStart;
+      if (!isAbove || low > floor) {
+        state.triedLow = low;
+        state.triedFrom = literalStart;
+        state.rest = rest;
+      }
+    } else if (literalStart < state.triedFrom) {
+      // This lead may go further down by as much as it begins further down.
+      const std::uint32_t more = state.triedFrom - literalStart;
+      state.rest = {.steps = std::max(state.rest.steps, state.rest.steps + more),
+                    .runs = std::max(state.rest.runs, state.rest.runs + more)};
+      high = state.triedLow;
+      low = walkBack(sequence, high, 0, state.rest);
+      state.triedLow = low;
+      state.triedFrom = literalStart;
+    } else {
+      return;
     }
     const ProgramEntry& entry = tables_.programs[sequence.search].alternative(sequence.alternative);
-    for (std::uint32_t at = low; at <= literalStart && at <= outcome.start; ++at)
+    for (std::uint32_t at = low; at <= high && at <= outcomes_[sequence.search].start; ++at)
       tryAt(sequence.search, sequence.alternative, entry, at);
-    state.triedLow = metEarlierWalk ? state.triedLow : low;
-    state.triedHigh = literalStart;
+  }
+
+  /// The lowest start down to `floor` from which a lead with the length `rest` may reach `high`;
+  /// `rest` becomes what is left of it there.
+  std::uint32_t walkBack(const LiteralSequence& sequence, std::uint32_t high, std::uint32_t floor,
+                         Distance& rest) {
+    std::uint32_t low = high;
+    for (; low > floor && tables_.sets.contains(sequence.leadClasses, text_.classAt(low - 1));
+         --low, ++steps_) {
+      if (text_.continuesSpace(low)) continue;
+      const bool beginsRun = !text_.continuesWord(low);
+      if (rest.steps == 0 || (beginsRun && rest.runs == 0)) break;
+      --rest.steps;
+      rest.runs -= beginsRun ? 1 : 0;
+    }
+    return low;
   }
 
   void tryAlternative(std::uint32_t search, std::uint32_t alternative, std::uint32_t start) {

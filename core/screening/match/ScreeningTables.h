@@ -79,8 +79,8 @@ static_assert(sizeof(ElementVariant) == 16);
 /// in order.
 struct LiteralSequence {
   std::uint32_t search = 0;
-  std::uint32_t lead = 0;  ///< code points from the start of a match to the first element
-  Distance span{};         ///< from the end of the first element to that of the last
+  Distance lead{};  ///< from the start of a match to the first element
+  Distance span{};  ///< from the end of the first element to that of the last
   std::uint16_t alternative = 0;
   ClassSetId leadClasses = 0;  ///< all that may stand in the lead
 };

@@ -70,7 +70,7 @@ bool isTakenInSchema(const char* id, const std::string& keys) {
 
 bool isTakenByOwnShortcut(const std::vector<std::string>& paths, const std::string& keys) {
   return std::ranges::any_of(paths, [&](const std::string& path) {
-    // GSettings ends the program for a path that is none, and users may write anything.
+    // GSettings ends the program for an invalid path, and users may write anything.
     if (!path.starts_with('/') || !path.ends_with('/') || path.find("//") != std::string::npos)
       return false;
     const Settings settings = settingsOf(custom, path.c_str());

@@ -47,8 +47,8 @@ class GnomeHotkey : public ObservedHotkey {
   /// are held. To be called once for each.
   [[nodiscard]] bool isNewPress();
 
-  /// Whether the user may still hold the keys, as far as the last command tells: it arrives while
-  /// they are down, and nothing tells when they are released.
+  /// Whether the user may still hold the keys: they were down when the last command arrived, and
+  /// their release is not reported.
   [[nodiscard]] bool mayBeHeld() const;
 
  private:

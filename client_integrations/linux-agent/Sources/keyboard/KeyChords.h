@@ -11,7 +11,8 @@
 
 namespace quillseal::linux {
 
-/// In place of keys that the desktop does not tell: Hyprland leaves them to its configuration.
+/// Stands for keys that the desktop does not name: on Hyprland the user chooses them in its
+/// configuration.
 inline constexpr const char* unknownKeys = "the shortcut of your choice";
 
 /// Returns the keys to press on a Linux keyboard for a key press of the agent, modifiers first.

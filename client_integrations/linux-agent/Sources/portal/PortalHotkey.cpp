@@ -29,7 +29,8 @@ constexpr auto releaseTime = 100ms;
 constexpr auto pauseBeforeRestart = 2s;
 // A desktop that ends the session again so soon means it.
 constexpr auto deliberatelySoon = 1min;
-// A portal that ends again so soon may do so because of the hotkey; and waits as long for the next.
+// A portal that ends again so soon may do so because of the hotkey, so there is no new attempt for
+// as long.
 constexpr auto suspiciouslySoon = 1min;
 
 DesktopBus::Signal signal(const char* name) {
@@ -150,7 +151,7 @@ void PortalHotkey::registerHotkey(desktop::KeyPress combination, std::function<v
 
 void PortalHotkey::refuse() {
   isRefused_ = true;
-  again_ = {};  // planned if the session ended before the answer
+  again_ = {};  // a new attempt, if the session ended before the answer
   turnOff();
 }
 

@@ -39,7 +39,7 @@ class PortalSystem : public WindowingSystem, private OwnWindows {
   void bringToFront(QWidget& window) const override;
 
   DesktopAccess access_;
-  std::unique_ptr<WaylandWindows> windows_;  // null where the compositor does not tell
+  std::unique_ptr<WaylandWindows> windows_;  // null where the compositor does not list them
   ShellExtension extension_;
   Portal portal_;
   PortalRemote remote_;

@@ -16,12 +16,12 @@ namespace quillseal::linux {
 /// active layout, so keys that the user holds are to be released first.
 class KwinKeyboard : public AgentKeyboard {
  public:
-  /// Both outlive this object. Where `bus` is null nobody tells whether the screen is locked, and
+  /// Both outlive this object. Where `bus` is null, it is not known whether the screen is locked,
   /// so no key is pressed.
   KwinKeyboard(WaylandConnection& connection, DesktopBus* bus);
   ~KwinKeyboard() override;
 
-  /// Whether the compositor lets programs press keys, and let go of those that the person holds.
+  /// Whether the compositor lets programs press keys, and release those that the user holds.
   [[nodiscard]] static bool isOfferedBy(const WaylandConnection& connection);
 
   [[nodiscard]] bool isUsable() const override { return bus_ != nullptr; }
@@ -46,7 +46,7 @@ class KwinKeyboard : public AgentKeyboard {
   WaylandConnection& connection_;
   DesktopBus* bus_;
   std::unique_ptr<Device> device_;
-  /// The screen is locked, or nobody could tell, or a part of KWin takes the keys.
+  /// The screen is or may be locked, or a part of KWin takes the keys.
   bool isCovered_ = false;
   std::optional<std::uint32_t> layoutInUse_;
   std::map<Keysym, std::vector<std::optional<std::uint32_t>>> known_;  ///< keys in each layout

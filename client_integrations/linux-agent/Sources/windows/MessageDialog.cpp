@@ -43,6 +43,25 @@ QString withoutEnd(QString text) {
   return text;
 }
 
+/// Makes a text that scrolls where it is too long for the dialog's screen.
+QScrollArea* scrollingText(const QString& text, const QWidget& dialog) {
+  QLabel* label = plainLabel(text);
+  label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  label->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+  auto* scroll = new QScrollArea;
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setWidgetResizable(true);
+  scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  scroll->setFocusPolicy(Qt::NoFocus);
+  scroll->setWidget(label);
+  const int bar = dialog.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  const int wanted = label->heightForWidth(textWidth);
+  const int largest =
+      static_cast<int>(dialog.screen()->availableSize().height() * largestShareOfScreen);
+  scroll->setFixedSize(textWidth + (wanted > largest ? bar : 0), std::min(wanted, largest));
+  return scroll;
+}
+
 }  // namespace
 
 QLabel* plainLabel(const QString& text) {
@@ -72,22 +91,7 @@ MessageDialog::MessageDialog(const Look& look)
   auto* column = new QVBoxLayout;
   column->addWidget(title);
   const QString shown = withoutEnd(toQString(look.text));
-  if (!shown.isEmpty()) {
-    QLabel* text = plainLabel(shown);
-    text->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    text->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    auto* scroll = new QScrollArea;
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidget(text);
-    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    const int wanted = text->heightForWidth(textWidth);
-    const int largest = static_cast<int>(screen()->availableSize().height() * largestShareOfScreen);
-    scroll->setFixedSize(textWidth + (wanted > largest ? bar : 0), std::min(wanted, largest));
-    column->addWidget(scroll);
-  }
+  if (!shown.isEmpty()) column->addWidget(scrollingText(shown, *this));
   column->addLayout(rows_);
   column->addStretch();
 

@@ -49,7 +49,7 @@ void X11Hotkey::claim() {
   if (connection_ == nullptr)
     throw Error({.domain = "X11Hotkey", .code = 1, .description = obstacle_});
   QCoreApplication::instance()->installNativeEventFilter(this);
-  if (const auto where = place()) isGrabbed_ = grab(*where);
+  if (const auto wanted = wantedGrab()) isGrabbed_ = grab(*wanted);
   if (!isGrabbed_)
     throw Error(
         {.domain = "X11Hotkey",
@@ -62,37 +62,37 @@ void X11Hotkey::claim() {
   setState({});
 }
 
-std::optional<X11Hotkey::Place> X11Hotkey::place() const {
+std::optional<X11Hotkey::Grab> X11Hotkey::wantedGrab() const {
   const X11Keyboard::Layout layout = keyboard_->layout();
   std::vector<Keysym> chord = chordOf(combination());
-  Place place{.key = layout.keyFor(chord.back()),
+  Grab wanted{.key = layout.keyFor(chord.back()),
               .modifiers = 0,
               .numLock = layout.modifierMaskOf(XKB_KEY_Num_Lock)};
   chord.pop_back();
-  bool isKnown = place.key != 0;
+  bool isKnown = wanted.key != 0;
   for (const Keysym modifier : chord) {
     const unsigned mask = layout.modifierMaskOf(modifier);
-    place.modifiers |= mask;
+    wanted.modifiers |= mask;
     isKnown = isKnown && mask != 0;
   }
   // Without the modifiers, every program would lose the bare key.
-  return isKnown ? std::optional(place) : std::nullopt;
+  return isKnown ? std::optional(wanted) : std::nullopt;
 }
 
-bool X11Hotkey::grab(const Place& place) {
-  if (place_.key != 0) xcb_ungrab_key(connection_, place_.key, root_, XCB_MOD_MASK_ANY);
-  place_ = place;
+bool X11Hotkey::grab(const Grab& wanted) {
+  if (grab_.key != 0) xcb_ungrab_key(connection_, grab_.key, root_, XCB_MOD_MASK_ANY);
+  grab_ = wanted;
   const unsigned lock = XCB_MOD_MASK_LOCK;
   bool granted = true;
-  for (const unsigned ignored : {0U, lock, place.numLock, lock | place.numLock}) {
+  for (const unsigned ignored : {0U, lock, wanted.numLock, lock | wanted.numLock}) {
     const auto cookie = xcb_grab_key_checked(connection_, 1, root_,
-                                             static_cast<std::uint16_t>(place.modifiers | ignored),
-                                             place.key, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+                                             static_cast<std::uint16_t>(wanted.modifiers | ignored),
+                                             wanted.key, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
     const x11::Reply<xcb_generic_error_t> error(xcb_request_check(connection_, cookie));
     granted = granted && error == nullptr;
   }
   if (!granted) {
-    xcb_ungrab_key(connection_, place.key, root_, XCB_MOD_MASK_ANY);
+    xcb_ungrab_key(connection_, wanted.key, root_, XCB_MOD_MASK_ANY);
     xcb_flush(connection_);
   }
   return granted;
@@ -100,16 +100,16 @@ bool X11Hotkey::grab(const Place& place) {
 
 void X11Hotkey::awaitRelease() {
   releasePolling_ = loop_.after(releasePolling, [this] {
-    const std::vector<xcb_keycode_t> held = keyboard_->heldKeys(place_.key);
-    down_ = down_ && std::ranges::find(held, place_.key) != held.end();
+    const std::vector<xcb_keycode_t> held = keyboard_->heldKeys(grab_.key);
+    down_ = down_ && std::ranges::find(held, grab_.key) != held.end();
     if (down_) awaitRelease();
   });
 }
 
 void X11Hotkey::followLayout() {
   following_ = loop_.after(layoutSettles, [this] {
-    const std::optional<Place> now = place();
-    if (now && (*now != place_ || !isGrabbed_)) isGrabbed_ = grab(*now);
+    const std::optional<Grab> now = wantedGrab();
+    if (now && (*now != grab_ || !isGrabbed_)) isGrabbed_ = grab(*now);
     setState({.otherKeys = {}, .isOff = !isGrabbed_});
   });
 }
@@ -121,7 +121,7 @@ bool X11Hotkey::nativeEventFilter(const QByteArray& /*eventType*/, void* message
   if (type == XCB_KEY_PRESS || type == XCB_KEY_RELEASE) {
     // Press and release events have the same layout.
     const auto* key = reinterpret_cast<const xcb_key_press_event_t*>(event);
-    if (key->detail != place_.key || key->event != root_) return false;
+    if (key->detail != grab_.key || key->event != root_) return false;
     if (type == XCB_KEY_RELEASE) {
       down_ = false;
       lastRelease_ = key->time;

@@ -27,16 +27,16 @@ class X11Hotkey : public ClaimedHotkey, private QAbstractNativeEventFilter {
   void claim() override;
   bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
   /// The key code and modifiers (XCB_MOD_MASK_…) of the hotkey.
-  struct Place {
+  struct Grab {
     xcb_keycode_t key = 0;
     unsigned modifiers = 0;
     unsigned numLock = 0;
-    [[nodiscard]] bool operator==(const Place&) const = default;
+    [[nodiscard]] bool operator==(const Grab&) const = default;
   };
 
-  /// Nothing while the layout cannot be read.
-  [[nodiscard]] std::optional<Place> place() const;
-  [[nodiscard]] bool grab(const Place& place);
+  /// The grab for the hotkey in the present layout; nothing while that cannot be read.
+  [[nodiscard]] std::optional<Grab> wantedGrab() const;
+  [[nodiscard]] bool grab(const Grab& wanted);
   void followLayout();
   void awaitRelease();
 
@@ -45,7 +45,7 @@ class X11Hotkey : public ClaimedHotkey, private QAbstractNativeEventFilter {
   std::string obstacle_;
   xcb_connection_t* connection_ = nullptr;
   xcb_window_t root_ = 0;
-  Place place_;
+  Grab grab_;  ///< the last one that was tried
   bool isGrabbed_ = false;
   bool down_ = false;
   xcb_timestamp_t lastRelease_ = 0;

@@ -54,7 +54,7 @@ constexpr auto shorthands = std::to_array<Shorthand>({
      R"((?![\s\S]{0,140}(?:\b(?:stays?\s+the\s+same|bleibt\s+gleich|provider|carrier|network|contract|plan|anbieter|vertrag|tarif\w*|opérateur|forfait|operatore|compañ[íi]a|operadora?|plano|overgestapt|abonnement|оператор\w*|тариф\w*)\b|套餐|警方|骗子|騙子|运营商|運營商|電信|电信|会社を変え|機種変更|乗り換え|통신사|요금제|번호는?\s?그대로|号码[没不]变|號碼[沒不]變|番号は(?:同じ|変わ))))"},
     // The text does not go on with an account, an attachment, a link or the wish for an answer.
     {"<noaccount>",
-     R"((?![\s\S]{0,260}(?:\b(?:[a-z]{2}\d{2}(?:\s?[a-z\d]{4}){2}|\d{6,}|https?|link|attach\w*|below|repl(?:y|ies)|whats\s?app|telegram|an(?:bei|hang|gehängt\w*|liegend\w*)|unten|antwort\w*|pi[èe]ce\s+jointe|ci-(?:joint|dessous)|répond\w+|adjunt\w+|abajo|respond\w+|em\s+anexo|abaixo|allegat\w+|qui\s+sotto|rispond\w+|bijlage|bijgevoegd\w*|onderstaand\w*|hieronder|antwoord\w*|вложени\w+|ниже|ответ\w+)\b|附件|以下|下面|下列|如下|下記|添付|첨부|아래|回[复復]|返信|회신)))"},
+     R"((?![\s\S]{0,260}(?:\b(?:[a-z]{2}\d{2}(?:\s?[a-z\d]{4}){2}[a-z\d]{0,22}|\d{6,}|https?|link|attach\w*|below|repl(?:y|ies)|whats\s?app|telegram|an(?:bei|hang|gehängt\w*|liegend\w*)|unten|antwort\w*|pi[èe]ce\s+jointe|ci-(?:joint|dessous)|répond\w+|adjunt\w+|abajo|respond\w+|em\s+anexo|abaixo|allegat\w+|qui\s+sotto|rispond\w+|bijlage|bijgevoegd\w*|onderstaand\w*|hieronder|antwoord\w*|вложени\w+|ниже|ответ\w+)\b|附件|以下|下面|下列|如下|下記|添付|첨부|아래|回[复復]|返信|회신)))"},
     // Nothing that follows asks for a form that is handed over in person, or names a place where
     // the account stands on paper. A text that brings the account itself is not believed.
     {"<byhand>",

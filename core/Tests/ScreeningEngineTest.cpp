@@ -81,11 +81,13 @@ TEST(ScreeningEngine, AgreesWithIcuOnEveryConstruct) {
 TEST(ScreeningEngine, AgreesWithIcuWhereItIsHard) {
   for (const auto& each : testing::cases()) {
     const std::string expression = each[0], text = each[1];
-    const Pattern pattern{.expression = expression, .caseInsensitive = true};
-    const auto compiled = screening::compilePatterns({&pattern, 1});
-    const ScreeningEngine engine(compiled.tables);
-    const IcuReference reference({&pattern, 1}, IcuReference::noTimeLimit);
-    EXPECT_EQ(answersOf(engine, 1, text), reference.firstMatches(text)) << each;
+    for (const bool caseInsensitive : {true, false}) {
+      const Pattern pattern{.expression = expression, .caseInsensitive = caseInsensitive};
+      const auto compiled = screening::compilePatterns({&pattern, 1});
+      const ScreeningEngine engine(compiled.tables);
+      const IcuReference reference({&pattern, 1}, IcuReference::noTimeLimit);
+      EXPECT_EQ(answersOf(engine, 1, text), reference.firstMatches(text)) << each;
+    }
   }
 }
 

@@ -234,10 +234,10 @@ TEST(GnomeApplicationsTest, BringTheBrowserToTheFrontOrTellWhereThePageIs) {
     OneBrowser entries;
     entries.opens = row.opens;
     bool isTold = false;
-    GnomeApplications applications(
-        {.extension = extension, .entries = entries, .loop = loop, .tell = [&](const std::string&) {
-           isTold = true;
-         }});
+    GnomeApplications applications({.extension = extension,
+                                    .entries = entries,
+                                    .loop = loop,
+                                    .notify = [&](const std::string&) { isTold = true; }});
     bool isOpened = false;
     const auto ticket =
         applications.open("https://a.example", {.location = "web", .bundleIdentifier = {}},

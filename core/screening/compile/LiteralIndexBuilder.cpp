@@ -2,11 +2,11 @@
 //
 // Algorithm: a trie of the literals; failure links in breadth-first order; then the layout. States
 // of depth two or less whose letters are common are dense. Each other state stores the edges that
-// differ from those of its nearest dense ancestor along the failure links; a leaf stores only the
-// nearest such ancestor that is none. States are numbered so that those a row leads to come first,
-// dense states, match states and leaves are adjacent, and the states of one literal lie side by
-// side. The values of a state end with those of its failure, so most lists are the end of another
-// one and are stored with it.
+// differ from those of its nearest dense ancestor along the failure links. A leaf has no edges: it
+// stores the first state along the failure links that is not a leaf. States are numbered so that
+// those a row leads to come first, so that dense states, match states and leaves are adjacent, and
+// so that the states of one literal lie side by side. The values of a state end with those of its
+// failure, so most lists are the end of another one and are stored with it.
 // Bound: time O(letters of all literals * symbols); at most 524,288 states, 65,535 of them near the
 // root, more throws PatternError.
 // Tests: ScreeningEngine.AgreesWithIcuOnEveryConstruct, ScreeningEngine.AgreesWithIcuOnEveryRule,
@@ -128,7 +128,7 @@ class Trie {
     }
   }
 
-  /// The nearest node with edges that a search in a leaf falls back on.
+  /// The node as which a search goes on behind a leaf.
   [[nodiscard]] std::uint32_t goingOn(std::uint32_t leaf) const {
     while (nodes_[leaf].isLeaf())
       leaf = nodes_[leaf].failure;
@@ -218,7 +218,7 @@ void addEdges(Table& table, EdgeLists& lists, const Trie& trie, std::uint32_t nu
   table.states.push_back(state);
 }
 
-/// Stores the values of match states, each list that ends another one with that.
+/// Stores the values of match states. A list that is the end of another one shares its place.
 void fillValues(Table& table, const Trie& trie, std::span<const std::uint32_t> matches) {
   using Values = std::span<const std::uint16_t>;
   std::vector<Values> longestFirst;

@@ -40,7 +40,7 @@ constexpr double frequencyLimits[] = {1, 0.01, 0.003, 0.001, 0.0003};
 constexpr double costOfFirstElement = 3;  ///< which becomes a candidate
 constexpr double costOfSequence = 2;      ///< a sequence that is complete
 constexpr double leastCostOfMatch = 20;   ///< a run of the matcher
-/// What it costs besides for each code point that it may look at, up to some of them.
+/// What each code point that it may look at adds, up to `longestReach` of them.
 constexpr double costOfReach = 0.5;
 constexpr double longestReach = 500;
 constexpr double costOfStart = 2;  ///< a place where a match might start

@@ -163,7 +163,7 @@ class ScreeningEngine::Screening {
     std::uint32_t triedLow = none;
     std::uint32_t triedHigh = 0;
     std::uint32_t triedFrom = 0;
-    Distance rest{};  ///< of the lead from triedLow to an element at triedFrom
+    Distance rest{};  ///< of the lead to an element at triedFrom, what is left at triedLow
   };
 
   void runLiteralPrefilter(std::size_t from, std::size_t to) {
@@ -332,7 +332,7 @@ class ScreeningEngine::Screening {
     std::uint32_t high = literalStart;
     if (literalStart < state.triedLow || literalStart > state.triedHigh) {
       const bool isAbove = state.triedLow < literalStart;
-      // Down to there, all starts lie behind the match that is known.
+      // Down to triedHigh, all starts lie behind the match that is known.
       if (isAbove && outcomes_[sequence.search].start <= state.triedHigh) return;
       Distance rest = sequence.lead;
       const std::uint32_t floor = isAbove ? state.triedHigh : 0;

@@ -29,7 +29,7 @@ class FetchingPasteboard : public desktop::Pasteboard {
   explicit FetchingPasteboard(desktop::MainLoop& loop) : loop_(loop) {}
 
   /// Reads the first offered format of each group, one after the other, while the owner keeps
-  /// within its `TransferLimits`. Never calls `done` from inside this call.
+  /// within the `TransferLimits`. Never calls `done` from inside this call.
   [[nodiscard]] virtual desktop::Ticket read(
       const ClipboardFormats::Groups& groups,
       std::function<void(ClipboardFormats::Content)> done) = 0;

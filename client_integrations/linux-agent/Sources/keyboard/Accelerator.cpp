@@ -38,8 +38,9 @@ struct Parts {
 
 std::string lowerCase(std::string_view text) {
   std::string result(text);
-  std::ranges::transform(result, result.begin(),
-                         [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  // Of ASCII only, whatever the user's locale makes of other letters.
+  for (char& c : result)
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
   return result;
 }
 

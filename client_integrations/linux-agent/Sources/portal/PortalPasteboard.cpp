@@ -1,6 +1,5 @@
 #include "portal/PortalPasteboard.h"
 
-#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -54,7 +53,7 @@ FileDescriptor fileIn(sd_bus_message* message) {
   return copy;
 }
 
-/// Drops both tickets at once.
+/// Returns a ticket that drops both.
 desktop::Ticket both(desktop::Ticket one, desktop::Ticket other) {
   const auto pair = std::make_shared<std::pair<desktop::Ticket, desktop::Ticket>>(std::move(one),
                                                                                   std::move(other));
@@ -78,11 +77,12 @@ std::vector<std::string> formatsIn(sd_bus_message& signal) {
 }  // namespace
 
 struct PortalPasteboard::State {
-  State(PortalPasteboard& ours, const Services& theServices, ClipboardKeeper forLater, Limits with)
-      : pasteboard(ours),
-        services(theServices),
-        keeper(std::move(forLater)),
-        limits(with),
+  State(PortalPasteboard& owningPasteboard, const Services& usedServices,
+        ClipboardKeeper keeperForX11, Limits readingLimits)
+      : pasteboard(owningPasteboard),
+        services(usedServices),
+        keeper(std::move(keeperForX11)),
+        limits(readingLimits),
         onOwner([this](sd_bus_message& message) { ownerChanged(message); }),
         onTransfer([this](sd_bus_message& message) { transfer(message); }) {
     DesktopBus& bus = services.portal.bus();

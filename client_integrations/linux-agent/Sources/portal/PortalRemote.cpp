@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "keyboard/KeyChords.h"
 #include "keys/KeyFailure.h"
 
 namespace quillseal::linux {

@@ -13,7 +13,7 @@
 #include "core/tasks/Async.h"
 #include "desktop/MainLoop.h"
 #include "desktop/Ticket.h"
-#include "keyboard/KeyChords.h"
+#include "keyboard/Keysym.h"
 #include "keys/PrivateFile.h"
 #include "portal/Portal.h"
 

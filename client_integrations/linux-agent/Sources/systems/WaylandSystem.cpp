@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "portal/PortalHotkey.h"
+#include "session/Environment.h"
 #include "session/LoadedModule.h"
 #include "wayland/KeyboardFactory.h"
 #include "wayland/KwinHotkey.h"
@@ -16,7 +17,7 @@ namespace quillseal::linux {
 namespace {
 
 std::string swaySocket() {
-  return qgetenv("SWAYSOCK").toStdString();
+  return environmentVariable("SWAYSOCK");
 }
 
 std::unique_ptr<desktop::Hotkey> offeredHotkey(const WindowingSystem::Services& services,

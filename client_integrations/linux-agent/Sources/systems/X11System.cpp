@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QWidget>
 
+#include "session/Environment.h"
 #include "session/LoadedModule.h"
 
 namespace quillseal::linux {
@@ -14,7 +15,8 @@ bool isOnX() {
 
 // Not only XDG_SESSION_TYPE: it stays "tty" when a compositor is started from a console.
 bool isWayland() {
-  return qgetenv("XDG_SESSION_TYPE") == "wayland" || !qgetenv("WAYLAND_DISPLAY").isEmpty();
+  return environmentVariable("XDG_SESSION_TYPE") == "wayland" ||
+         !environmentVariable("WAYLAND_DISPLAY").empty();
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ namespace {
 using Context = UniqueHandle<xkb_context, xkb_context_unref>;
 using Keymap = UniqueHandle<xkb_keymap, xkb_keymap_unref>;
 
-/// A file in memory; null when it cannot be keymapReported.
+/// A file mapped into memory. `text` is null when that fails.
 class Mapping {
  public:
   Mapping(int file, std::size_t size)

@@ -10,6 +10,7 @@
 #include "core/screening/compile/LiteralAlphabet.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string>
 
 #include "core/screening/compile/TextFrequency.h"
@@ -164,7 +165,9 @@ bool LiteralAlphabet::isWordLetter(Letter letter) const {
 bool LiteralAlphabet::isWithinExpansion(Letter letter, Letter next) const {
   const Letter both[] = {letter, next};
   return std::ranges::any_of(classes_.classesWith(letter), [&](ClassId id) {
-    return !std::ranges::search(classes_.folding(id), both).empty();
+    const auto folding = classes_.folding(id);
+    return std::search(folding.begin(), folding.end(), std::begin(both), std::end(both)) !=
+           folding.end();
   });
 }
 

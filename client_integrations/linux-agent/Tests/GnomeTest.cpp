@@ -202,37 +202,26 @@ struct OneBrowser : DesktopEntries {
 
 TEST(GnomeApplicationsTest, BringTheBrowserToTheFrontOrTellWhereThePageIs) {
   using std::chrono::milliseconds;
-  constexpr milliseconds running{300};
-  constexpr milliseconds started{3300};
   const testing::TemporaryFolder runtime;
   ::setenv("XDG_RUNTIME_DIR", runtime.path().c_str(), 1);
-  const struct {
-    bool opens;
-    std::vector<int> finds;  ///< whether the extension does, or -1 where it is absent
-    milliseconds time;
-    bool isTold;
-  } rows[] = {{true, {1}, running, false},
-              {true, {0, 1}, started, false},
-              {true, {0, 0}, started, true},
-              {true, {-1}, running, true},
-              {false, {}, milliseconds{0}, false}};
-  for (const auto& row : rows) {
+  for (const auto& [opens, finds, time, tells] :
+       testing::cases<bool, std::vector<int>, int, bool>()) {
     const testing::PrivateBus daemon("DBUS_SESSION_BUS_ADDRESS");
     testing::VirtualLoop loop;
     std::size_t asked = 0;
     milliseconds last{0};
     const testing::BusServices shell(
         ::sd_bus_open_user, {"org.gnome.Shell"},
-        [&](sd_bus_message* call, const std::string& /*method*/, sd_bus_error* error) {
+        [&, answers = finds](sd_bus_message* call, const std::string&, sd_bus_error* error) {
           last = std::chrono::duration_cast<milliseconds>(loop.elapsed());
-          const int finds = row.finds.at(asked++);
-          return finds < 0 ? ::sd_bus_error_set(error, "a.b", "no extension")
-                           : ::sd_bus_reply_method_return(call, "b", finds);
+          const int isFound = answers.at(asked++);
+          return isFound < 0 ? ::sd_bus_error_set(error, "a.b", "no extension")
+                             : ::sd_bus_reply_method_return(call, "b", isFound);
         });
     const auto bus = DesktopBus::open();
     const ShellExtension extension(*bus);
     OneBrowser entries;
-    entries.opens = row.opens;
+    entries.opens = opens;
     bool isTold = false;
     GnomeApplications applications({.extension = extension,
                                     .entries = entries,
@@ -244,7 +233,7 @@ TEST(GnomeApplicationsTest, BringTheBrowserToTheFrontOrTellWhereThePageIs) {
                           [&](const std::optional<Error>& error) { isOpened = !error; });
     loop.run();
     EXPECT_EQ(std::tuple(isOpened, asked, last, isTold),
-              std::tuple(row.opens, row.finds.size(), row.time, row.isTold));
+              std::tuple(opens, finds.size(), milliseconds(time), tells));
   }
 }
 

@@ -157,6 +157,20 @@ class ScriptedPortal : public BusServices {
       note(member + " " + lastOf(call));
     else
       note(member);
+    const char* format = nullptr;
+    if (member == "SetSelection" && linux::enterOption(call, "o", "mime_types", "as") &&
+        ::sd_bus_message_enter_container(&call, 'a', "s") > 0)
+      while (::sd_bus_message_read(&call, "s", &format) > 0)
+        note("offers " + std::string(format));
+    if (member == "BindShortcuts") {
+      ::sd_bus_message_skip(&call, "o");
+      ::sd_bus_message_enter_container(&call, 'a', "(sa{sv})");
+      ::sd_bus_message_enter_container(&call, 'r', "sa{sv}");
+      ::sd_bus_message_skip(&call, "s");
+      if (linux::enterOption(call, "preferred_trigger", "s") &&
+          ::sd_bus_message_read(&call, "s", &format) > 0)
+        note("trigger " + std::string(format));
+    }
     if (member == "CreateSession" && !script_.opensSessions)
       return ::sd_bus_reply_method_return(&call, "o", "/later");
     if (member == "CreateSession")

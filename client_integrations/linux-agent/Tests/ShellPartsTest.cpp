@@ -113,6 +113,23 @@ TEST(SessionBusTest, AnswersForAccessibilityUnlessAServiceInUseHangs) {
   }
 }
 
+TEST(SessionBusTest, HandsOverToAnAgentThatRuns) {
+  const testing::PrivateBus bus("DBUS_SESSION_BUS_ADDRESS");
+  EXPECT_EQ(handOver("sign", 200ms), Handover::noAgent);
+  for (const auto& [answers, expected] : {std::pair{1, Handover::done}, {0, Handover::noAnswer}}) {
+    testing::BusServices agent(
+        ::sd_bus_open_user, {agentName},
+        [isKnown = answers](sd_bus_message* call, const std::string& method, sd_bus_error*) {
+          return method == "sign" && isKnown ? ::sd_bus_reply_method_return(call, "") : 1;
+        });
+    EXPECT_EQ(handOver("sign", 200ms), expected);
+  }
+  EXPECT_TRUE(sessionBusAnswers(1s));
+  bus.hang();
+  EXPECT_FALSE(sessionBusAnswers(200ms));
+  EXPECT_EQ(handOver("sign", 200ms), Handover::noAgent);
+}
+
 TEST(JournalLogTest, ALineStaysALine) {
   ::testing::internal::CaptureStderr();
   JournalLog(JournalLog::Echo::standardError).write("a\nb\x1b[1m\x7f é");

@@ -71,7 +71,6 @@ class Exchange {
     set(CURLOPT_FRESH_CONNECT, 1L);
     set(CURLOPT_FORBID_REUSE, 1L);
     set(CURLOPT_TIMEOUT_MS, milliseconds);
-    set(CURLOPT_CONNECTTIMEOUT_MS, milliseconds);
     // Without this, ending a request during a name lookup blocks this thread until the lookup ends.
     set(CURLOPT_QUICK_EXIT, 1L);
     set(CURLOPT_SSL_VERIFYPEER, 1L);

@@ -178,7 +178,6 @@ struct Portal::Request {
   }
 
   void withdraw() {
-    answered = nullptr;
     call = {};
     response = nullptr;
     owners = nullptr;

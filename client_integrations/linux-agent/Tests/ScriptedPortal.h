@@ -158,7 +158,8 @@ class ScriptedPortal : public BusServices {
     else
       note(member);
     const char* format = nullptr;
-    if (member == "SetSelection" && linux::enterOption(call, "o", "mime_types", "as") &&
+    if (member == "SetSelection" &&
+        linux::enterOption(call, {.name = "mime_types", .type = "as", .before = "o"}) &&
         ::sd_bus_message_enter_container(&call, 'a', "s") > 0)
       while (::sd_bus_message_read(&call, "s", &format) > 0)
         note("offers " + std::string(format));
@@ -167,9 +168,7 @@ class ScriptedPortal : public BusServices {
       ::sd_bus_message_enter_container(&call, 'a', "(sa{sv})");
       ::sd_bus_message_enter_container(&call, 'r', "sa{sv}");
       ::sd_bus_message_skip(&call, "s");
-      if (linux::enterOption(call, "preferred_trigger", "s") &&
-          ::sd_bus_message_read(&call, "s", &format) > 0)
-        note("trigger " + std::string(format));
+      note("trigger " + linux::textOption(call, {.name = "preferred_trigger"}).value_or("none"));
     }
     if (member == "CreateSession" && !script_.opensSessions)
       return ::sd_bus_reply_method_return(&call, "o", "/later");

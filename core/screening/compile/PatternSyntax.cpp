@@ -166,7 +166,6 @@ class Parser {
   }
 
   void flush(std::u32string& literal, Node& into) {
-    if (literal.empty()) return;
     icu::UnicodeString text;
     for (const char32_t c : literal)
       text.append(static_cast<UChar32>(c));

@@ -130,6 +130,7 @@ class WaylandPasteboard::Reading : public std::enable_shared_from_this<Reading> 
   void withdraw() {
     done_ = nullptr;
     timer_ = {};
+    closePipe();
   }
 
   [[nodiscard]] desktop::MainLoop& loop() const { return state_.services.loop; }

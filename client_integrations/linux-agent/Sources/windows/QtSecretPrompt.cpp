@@ -82,6 +82,7 @@ std::optional<SecretBytes> QtSecretPrompt::ask(const SecretRequest& request) {
     dialog->addButton("Cancel", QDialogButtonBox::RejectRole);
     sign->setEnabled(false);
     field->onEdit = [field, sign] { sign->setEnabled(!field->secret().empty()); };
+    field->setFocus();
     return MessageDialog::open(std::move(dialog), windows_, [pending, field](bool accepted) {
       pending->finish(accepted ? std::optional(field->take()) : std::nullopt);
     });
@@ -120,6 +121,7 @@ std::optional<SecretBytes> QtSecretPrompt::askForNew(const NewSecretRequest& req
     };
     first->onEdit = check;
     second->onEdit = check;
+    first->setFocus();
     return MessageDialog::open(std::move(dialog), windows_, [pending, first](bool accepted) {
       pending->finish(accepted ? std::optional(first->take()) : std::nullopt);
     });

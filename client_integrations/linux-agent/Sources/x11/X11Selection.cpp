@@ -140,7 +140,11 @@ class Reading : public std::enable_shared_from_this<Reading> {
     if (type == XCB_SELECTION_NOTIFY) {
       const auto& answer = reinterpret_cast<const xcb_selection_notify_event_t&>(event);
       if (answer.target != asked_.atom || isInPieces_) return;
-      takeAnswer();  // nothing when the owner has refused
+      if (answer.property == XCB_ATOM_NONE) {
+        accept({});
+      } else {
+        takeAnswer();
+      }
     } else if (type == XCB_PROPERTY_NOTIFY) {
       const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
       if (isInPieces_ && change.atom == asked_.atom && change.state == XCB_PROPERTY_NEW_VALUE)

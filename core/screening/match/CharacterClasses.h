@@ -151,10 +151,6 @@ class CharacterClasses {
 
   [[nodiscard]] std::size_t count() const { return table_.traits.size(); }
 
-  [[nodiscard]] ClassId classOf(char32_t c) const {
-    constexpr std::size_t pageSize = CharacterClassTable<Stored>::pageSize;
-    return entryOf(c / pageSize, c % pageSize) & ClassifiedText::classMask;
-  }
   /// The full case folding of every member of the class.
   [[nodiscard]] std::span<const Letter> folding(ClassId id) const {
     const std::uint32_t start = table_.foldingStarts[id];

@@ -88,7 +88,7 @@ constexpr auto shorthands = std::to_array<Shorthand>({
      R"((?![\s\S]{0,200}\b(?:scams?|scammers?|fraudsters|phishing|never|hang\s+up|beware|no\s+fees)\b))"},
     // Nothing that follows tells the reader to keep the code.
     {"<keptcode>",
-     R"((?![\s\S]{0,120}\b(?:(?:never|nobody|no\s+one)\b[\s\S]{0,30}\b(?:ask|asks|tell|give|share|send|read|need|needs|call|calls|phone|pass|it|code|codes)|to\s+anyone|anyone\s+(?:who|else|asks)|with\s+anyone|not\s+share|['’]t\s+share)\b))"},
+     R"((?![\s\S]{0,120}\b(?:(?:never|nobody|no\s+one)\b[\s\S]{0,30}\b(?:ask|asks|tell|give|share|send|read|need|needs|call|calls|phone|pass|code|codes)|to\s+anyone|anyone\s+(?:who|else|asks)|with\s+anyone|not\s+share|['’]t\s+share)\b))"},
     // Nothing that follows tells the reader to keep the code, in Spanish and Portuguese.
     {"<guardado>",
      R"((?![\s\S]{0,150}\b(?:nunca|nadie|ningu[ée]m|jam[áa]i?s|no\s+(?:lo\s+)?(?:compart|facilit|dig)\w*|n[ãa]o\s+(?:o\s+)?(?:part|comp|div|forn|dig)\w*)\b))"},

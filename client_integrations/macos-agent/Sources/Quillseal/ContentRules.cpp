@@ -38,6 +38,11 @@ constexpr std::string_view gap =
 /// the text.
 /// Spanish and Portuguese share a line, because most stems are the same.
 struct Shorthand {
+  // Of literals: a compiler would have to count the characters of a pointer one by one.
+  template <std::size_t NameSize, std::size_t MeaningSize>
+  consteval Shorthand(const char (&theName)[NameSize], const char (&theMeaning)[MeaningSize])
+      : name(theName, NameSize - 1), meaning(theMeaning, MeaningSize - 1) {}
+
   std::string_view name;
   std::string_view meaning;
 };
@@ -430,12 +435,19 @@ constexpr auto shorthands = std::to_array<Shorthand>({
 });
 // clang-format on
 
+// Clang evaluates a million statements for a constant. The loops below have one for each character, the
+// algorithms of the standard library three or four.
+
 /// Hands the pieces of `written`, with its shorthands replaced, to `append`, in order.
 constexpr void replaceShorthands(std::string_view written, const auto& append) {
   while (true) {
-    const std::size_t start = written.find('<');
+    const char* characters = written.data();
+    const std::size_t size = written.size();
+    std::size_t start = 0;
+    while (start < size && characters[start] != '<')
+      ++start;
     append(written.substr(0, start));
-    if (start == std::string_view::npos) return;
+    if (start == size) return;
     written.remove_prefix(start);
     std::size_t length = 1;
     const std::size_t gapEnd = written.find_first_not_of("0123456789", 1);
@@ -468,9 +480,12 @@ class ExpandedPattern {
   }();
   static constexpr std::array<char, size> characters = [] {
     std::array<char, size> all{};
-    auto at = all.begin();
+    char* to = all.data();
     replaceShorthands(Source{}(), [&](std::string_view piece) {
-      at = std::copy(piece.begin(), piece.end(), at);
+      const char* from = piece.data();
+      const char* end = from + piece.size();
+      while (from != end)
+        *to++ = *from++;
     });
     return all;
   }();

@@ -1,11 +1,14 @@
 #include <QClipboard>
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QMimeData>
 #include <array>
 #include <chrono>
+#include <csignal>
 #include <fstream>
 #include <future>
 #include <optional>
+#include <thread>
 #include <tuple>
 
 #include <fcntl.h>
@@ -29,6 +32,7 @@
 #include "session/QtMainLoop.h"
 #include "session/SessionTraits.h"
 #include "session/StartupChecks.h"
+#include "session/TerminationSignals.h"
 #include "x11/QtPasteboard.h"
 
 namespace quillseal::linux {
@@ -158,6 +162,28 @@ TEST(JournalLogTest, DoesNotWaitUntilSomebodyReadsItsOutput) {
   for (const int descriptor : {pipe[0], pipe[1], before})
     ::close(descriptor);
   EXPECT_EQ(status, std::future_status::ready);
+}
+
+// Another thread may be in the middle of a call to the TPM or the disk.
+TEST(TerminationSignalsTest, InterruptNoCall) {
+  std::string word = "test";
+  std::array<char*, 2> arguments{word.data(), nullptr};
+  int count = 1;
+  const QCoreApplication application(count, arguments.data());
+  const TerminationSignals signals([] {});
+  std::array<int, 2> pipe{};
+  ASSERT_EQ(::pipe2(pipe.data(), O_CLOEXEC), 0);
+  char byte = 0;
+  ssize_t got = 0;
+  std::thread reader([&] { got = ::read(pipe[0], &byte, 1); });
+  std::this_thread::sleep_for(100ms);
+  ::pthread_kill(reader.native_handle(), SIGTERM);
+  std::this_thread::sleep_for(100ms);
+  EXPECT_EQ(::write(pipe[1], "x", 1), 1);
+  reader.join();
+  EXPECT_EQ(got, 1);
+  for (const int descriptor : pipe)
+    ::close(descriptor);
 }
 
 constexpr std::size_t mebibyte = 1U << 20U;

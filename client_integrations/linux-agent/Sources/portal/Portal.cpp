@@ -178,9 +178,6 @@ struct Portal::Request {
   }
 
   void withdraw() {
-    call = {};
-    response = nullptr;
-    owners = nullptr;
     if (isAnswered) return;
     const Message close = bus.newCall({.service = Portal::service,
                                        .path = path.c_str(),

@@ -30,7 +30,7 @@ class ScriptedPortal : public BusServices {
     std::string knownToken{};    ///< the only one that is understood; any when empty
     bool closesSession = false;  ///< with a token that is not, instead of an error; before it binds
     bool isMalformed = false;    ///< all answers have wrong types
-    std::string keys = "Press <Control><Alt><Super>h";  ///< none when empty
+    std::string keys = "Press <Control><Alt><Super>h";  ///< none when empty; or "unlisted"
     Owner owner = Owner::writes;
     int takenSelections = 9;  ///< before one is refused
   };
@@ -186,6 +186,8 @@ class ScriptedPortal : public BusServices {
     if (member == "BindShortcuts" && script_.closesSession)
       ::sd_bus_emit_signal(::sd_bus_message_get_bus(&call), session,
                            "org.freedesktop.portal.Session", "Closed", "");
+    if (member == "BindShortcuts" && script_.keys == "unlisted")
+      return respond(call, "oa(sa{sv})s", "ua{sv}", script_.answer, 0);
     if (member == "BindShortcuts" && script_.keys.empty())
       return respond(call, "oa(sa{sv})s", "ua{sv}", script_.answer, 1, "shortcuts", "a(sa{sv})", 1,
                      "sign", 0);

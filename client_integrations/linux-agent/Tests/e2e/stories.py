@@ -359,6 +359,9 @@ class Commands(Story):
         self.desktop.close("Choose a passphrase", "Escape")
         self.desktop.wait_for_log("called off by the user", "the agent says that nothing was signed")
         self.open_settings()
+        # One of its own, which needs no installed theme.
+        self.assertIn("Icon (22 x 22)", self.desktop.run(
+            "xprop", "-id", self.desktop.active_window(), "_NET_WM_ICON"))
         self.desktop.run(self.desktop.quillseal, "--quit")
         self.wait_until_ended()
         self.assertEqual(self.desktop.agent.returncode, 0)

@@ -42,6 +42,7 @@ class ScriptedSway {
     bool binds = true;
     bool bindsReleases = true;
     int silences = 0;  ///< requests before the first that it answers
+    std::string magic = "i3-ipc";
   };
 
   explicit ScriptedSway(Script script) : script_(std::move(script)) {
@@ -78,9 +79,9 @@ class ScriptedSway {
   }
 
  private:
-  static void send(int client, std::uint32_t type, const std::string& text) {
+  void send(int client, std::uint32_t type, const std::string& text) const {
     const std::array<std::uint32_t, 2> numbers{static_cast<std::uint32_t>(text.size()), type};
-    std::string message = "i3-ipc";
+    std::string message = script_.magic;
     message.append(reinterpret_cast<const char*>(numbers.data()), sizeof numbers).append(text);
     static_cast<void>(!::send(client, message.data(), message.size(), MSG_NOSIGNAL));
   }
@@ -264,6 +265,11 @@ TEST(SwayIpcTest, AsksAgainAfterAnAnswerThatDidNotCome) {
   const auto ipc = SwayIpc::open(sway.path());
   EXPECT_FALSE(ipc->ask(SwayIpc::Request::getTree, ""));
   EXPECT_TRUE(ipc->ask(SwayIpc::Request::getTree, ""));
+}
+
+TEST(SwayIpcTest, TakesNoAnswerOfAnotherProtocol) {
+  const ScriptedSway other({.magic = "i4-ipc"});
+  EXPECT_FALSE(SwayIpc::open(other.path())->ask(SwayIpc::Request::getTree, ""));
 }
 
 TEST(SwayTree, NamesTheApplicationOfATitle) {

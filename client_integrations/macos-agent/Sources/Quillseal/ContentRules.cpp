@@ -435,8 +435,8 @@ constexpr auto shorthands = std::to_array<Shorthand>({
 });
 // clang-format on
 
-// Clang evaluates a million statements for a constant. The loops below have one for each character, the
-// algorithms of the standard library three or four.
+// Clang evaluates a million statements for a constant. The loops below have one for each character,
+// the algorithms of the standard library three or four.
 
 /// Hands the pieces of `written`, with its shorthands replaced, to `append`, in order.
 constexpr void replaceShorthands(std::string_view written, const auto& append) {
